@@ -1,0 +1,229 @@
+// A second provider of the runtime contract, for tests only. It chooses differently wherever the contract leaves a
+// runtime free (byte order, widths on the wire, text and XML forms, hash, identifiers), and writes down every call that
+// is made of it, so that a test can compare a whole sequence of calls with the one it expects.
+#ifndef TESTS_SUPPORT_OBSERVING_OBSERVING_H
+#define TESTS_SUPPORT_OBSERVING_OBSERVING_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <deque>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mirk/mirk.h"
+
+namespace observing {
+
+// ---- the log: one for the process, in the order of the calls ----
+
+// One call of a contract function or of a callback of a handle. The arguments that matter are kept as they read at the
+// time of the call: an address as text (see name_region), a number in decimal, a type by its name. Handle, ctx_id and
+// error slot are not among them; mirk_store_epoch_err is the exception and ends in its slot.
+struct Call {
+    std::string function;
+    std::vector<std::string> arguments;
+    std::optional<uint32_t> ctx_id;  // absent where the function takes none
+    std::string slot;                // the error slot as address text, empty where the function takes none
+    std::string result;              // of obj_alloc and sys_alloc only: the block's name, or "null"
+
+    // Of skald_wrapper only.
+    uint16_t module = 0;
+    uint32_t level = 0;
+    std::string format;
+    std::string text;  // the formatted line
+};
+
+enum class Detail {
+    brief,  // "u_int32_set_value object+12 5"
+    full    // "u_int32_set_value object+12 5 ctx=7 err=last_error"
+};
+
+// Lines read "<function> <arguments>", such as "write_notify object+8 1", "obj_alloc 40" or
+// "skald_wrapper type 3 (ERR): The object is not state tracked". A trace module stands by its registered name without
+// the part that all four share ("type", "message", "queue", "stub"), an unknown one by its number.
+std::string line(const Call &call, Detail detail = Detail::brief);
+
+std::vector<Call> log();
+void clear_log();
+std::vector<std::string> lines(Detail detail = Detail::brief);
+// Only the calls of the named functions, or all but those.
+std::vector<std::string> lines_of(std::initializer_list<std::string_view> functions, Detail detail = Detail::brief);
+std::vector<std::string> lines_without(std::initializer_list<std::string_view> functions,
+                                       Detail detail = Detail::brief);
+size_t count_of(std::string_view function);
+// The formatted lines of all trace calls, without module and level.
+std::vector<std::string> traces();
+
+// While quiet nothing is recorded (and handles may be used on several threads, one thread to a handle).
+void quiet(bool on = true);
+
+// Traces at level 0 are followed by abort(): they are written to standard error too, so that a death test can match
+// them. This also sends all others there.
+void echo_traces(bool on = true);
+
+// ---- names of addresses ----
+
+// An address reads as "<region>+<offset>", or "<region>" at its start. Regions named by the test come first, later ones
+// before earlier ones; then live blocks of obj_alloc ("block1", "block2", ... counted from the last clear_names); then
+// "last_error", "workspace"; then "local" for other stack addresses, a type record by its type's name (followed by
+// "(copy)" for a private copy) and a counter as "<type>.num_live" ("<type>[-3].num_live" for another variant);
+// "null"; and "elsewhere" for all that is left.
+void name_region(std::string name, const void *address, size_t size);
+void forget_region(std::string_view name);
+// Forgets all named regions, and starts counting blocks at 1 again.
+void clear_names();
+std::string address_text(const void *address);
+
+// ---- a handle ----
+
+enum class Tracking { none, off, on, corrupt };  // none: no descriptor at all
+
+struct Options {
+    Tracking tracking = Tracking::none;
+    uint32_t private_types = 0;
+    uint32_t oid_mapping = 1;
+};
+
+struct VariantAnswer {
+    int8_t variant = 0;
+    uint32_t error = 0;
+};
+struct MessageAnswer {
+    uint32_t allowed = 1;
+    uint32_t error = 0;
+};
+struct RaData {
+    void *value = nullptr;
+    uint8_t byte = 0;
+};
+
+// What the runtime answers on one handle. All of it can be changed at any time.
+struct Knobs {
+    // Memory. Counting starts at 1 with the next request after the knob is set (see the setters of Handle).
+    size_t block_ceiling = size_t{64} << 20;  // larger requests answer null
+    bool null_for_size_0 = false;
+
+    // Domain, by the type's name ("" for a null type).
+    std::map<std::string, VariantAnswer, std::less<>> variants;
+    VariantAnswer default_variant;
+    std::map<std::string, MessageAnswer, std::less<>> messages;
+    MessageAnswer default_message;
+    bool slot_gets_43 = true;  // whether mirk_store_epoch_err writes the slot too
+    bool slot_gets_52 = true;
+    bool adjust_variant = true;  // whether mirklib_adjust_variant stores anything
+
+    // Object references.
+    uint32_t oid_destroy_result = 1;
+    uint32_t oid_destroy_error = 0;
+    uint32_t hd_destroy_error = 0;
+    std::map<void *, uint32_t> oid_count_errors;  // by oid, for lowering its count
+    std::vector<void *> address_oids;             // what each address holds
+    std::optional<uint32_t> address_oid_count;    // instead of their number
+    uint32_t address_oid_count_error = 0;
+    uint32_t address_references_error = 0;
+
+    // RA data of objects without an entry of their own, and the result in every case.
+    RaData ra_data;
+    uint32_t ra_result = 0;
+
+    // Messages and bundles.
+    bool suppress_messages = false;
+    std::optional<uint32_t> accumulating;  // else: recv_bundle_open as it stands
+    mirk_dispatch_info *dispatch_info = nullptr;
+    void *dispatch_lut = nullptr;
+
+    // Any function with an error slot: writes this error, does nothing else and returns 0 or null. By the function's
+    // name, such as "u_int32_marshal" or "_mirk_message_header_marshal". A function that finds its slot set comes
+    // first and leaves it; bundle_send_message_list_destroy and bundle_receive_message_list_destroy act all the same.
+    std::map<std::string, uint32_t, std::less<>> errors;
+};
+
+struct State;  // the handle with the runtime's private members behind it
+
+class Handle {
+public:
+    explicit Handle(Options options = {});
+    ~Handle();  // releases blocks that are still live
+    Handle(const Handle &) = delete;
+    Handle &operator=(const Handle &) = delete;
+
+    mirk_handle *get() const;
+    operator mirk_handle *() const { return get(); }
+    mirk_handle *operator->() const { return get(); }
+    Knobs &knobs() const;
+
+    void set_tracking(Tracking tracking);
+
+    // The nth request from now on answers null, or all from the nth on; 0 ends the failing.
+    void fail_obj_alloc(uint64_t nth);
+    void fail_obj_alloc_from(uint64_t nth);
+    void fail_sys_alloc(uint64_t nth);
+    void fail_sys_alloc_from(uint64_t nth);
+    uint64_t obj_allocs() const;  // requests so far, failed ones included
+
+    size_t live_blocks() const;
+    size_t live_bytes() const;
+    size_t block_size(const void *block) const;  // 0 if it is no live block
+
+    // Entries that the library made.
+    std::optional<uint32_t> state_offset(const void *object) const;
+    void set_state_offset(void *object, uint32_t offset);  // sets flag bit 64 too
+    std::optional<RaData> ra_data(const void *object) const;
+    size_t mappings() const;  // entries of both kinds
+    size_t private_copies() const;
+    mirk_type_info_copy *private_copy(std::string_view type_name) const;
+
+    void set_workspace(uint32_t size);  // default 48 KiB; one byte of slack stands behind
+    // What the open send bundle holds: name and count of each message, in order of admission.
+    std::vector<std::pair<std::string, uint32_t>> send_bundle() const;
+    // Enters a token on recv_bundle_list, whose destruction is recorded as "destroy_received <name>".
+    void file_received(std::string name);
+
+private:
+    std::unique_ptr<State> state_;
+};
+
+// ---- marks of objects, the recorder, handlers of sibling modules ----
+
+void set_modified(void *object, bool modified);
+bool modified(const void *object);
+// A bare integer has no room for a mark: its backpropagate answers 1 once for an address marked here.
+void mark_integer(const void *field);
+void set_recorder(uint32_t state, FILE *stream);
+// The handler that a sibling module ("comm", "defs", ...) holds, or null.
+mirk_bundle_handler sibling_handler(std::string_view module);
+
+// ---- documents ----
+
+// An element and what is in it; its address is the document argument of the from_xml operations. Paths are "//a",
+// "//a/b" and "//a/b[2]/c": the first step finds elements at any depth, the document itself included, and a position
+// counts among equally named children of one parent. Any other path is error 22.
+struct Element {
+    std::string name;
+    std::string value;
+    std::deque<Element> children;
+
+    // Returns the new child, which stays where it is.
+    Element &add(std::string child_name, std::string child_value = "");
+};
+
+// Look-ups of exactly this path end with this error; 0 ends that.
+void fail_xml(std::string path, uint32_t error);
+
+// ---- sizes that this provider chose, all of them different from what another may choose ----
+
+inline constexpr uint32_t boolean_wire_size = 3;
+inline constexpr uint32_t address_wire_size = 23;          // in a frame without state bytes
+inline constexpr uint32_t tracked_address_wire_size = 30;  // on a tracking handle
+inline constexpr uint32_t ra_wire_size = 12;
+inline constexpr uint32_t text_overflow_error = 75;
+
+}  // namespace observing
+
+#endif
