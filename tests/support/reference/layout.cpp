@@ -1,0 +1,136 @@
+#include "reference/layout.h"
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+namespace reference {
+namespace {
+
+constexpr std::uint32_t kHeader = 11;  // tinfo, variant, home_variant, obj_flag
+constexpr std::uint32_t kPointer = 8;
+
+std::uint32_t align(std::uint32_t value, std::uint32_t to) { return (value + to - 1) / to * to; }
+
+// The members' places in the instance.
+void place(const RecordTable &table, RecordLayout &layout) {
+    std::uint32_t end = kHeader;
+    const auto next = [&end](std::uint32_t size, std::uint32_t alignment) {
+        const std::uint32_t offset = align(end, alignment);
+        end = offset + size;
+        return offset;
+    };
+    for (const MemberTable &row : table.members) {
+        MemberLayout member;
+        switch (row.cls) {
+            case Class::kInteger:
+            case Class::kCount:
+            case Class::kLength:
+                member.size = row.width;
+                member.offset = next(row.width, row.width);
+                break;
+            case Class::kBoolean:
+            case Class::kEnumeration:
+                member.size = 16;
+                member.offset = next(member.size, 8);
+                break;
+            case Class::kAddress:
+                member.size = 40;
+                member.offset = next(member.size, 8);
+                break;
+            case Class::kNested:
+                member.size = layout_of(row.element()).base;
+                member.offset = next(member.size, 8);
+                break;
+            case Class::kString:
+            case Class::kArray:
+                member.size = kPointer;
+                member.offset = member.block_offset = next(kPointer, kPointer);
+                break;
+        }
+        layout.members.push_back(member);
+    }
+    layout.used = end;
+    layout.rounded = align(end, 8);
+    layout.base = layout.rounded + (layout.rounded < 64 ? 8 : 16);
+    layout.slop = layout.base - layout.used;
+}
+
+// The members' places in the state area.
+void number_slots(const RecordTable &table, RecordLayout &layout) {
+    std::uint32_t end = 0;
+    for (std::size_t i = 0; i < table.members.size(); ++i) {
+        const MemberTable &row = table.members[i];
+        MemberLayout &member = layout.members[i];
+        if (!row.tracked()) continue;
+        member.slot = end++;
+        if (row.cls == Class::kAddress) {
+            member.area = end;
+            end += 7;
+        } else if (row.cls == Class::kNested) {
+            const RecordLayout &child = layout_of(row.element());
+            member.area = child.holds_pointer ? align(end, kPointer) : end;
+            end = member.area + child.state;
+            layout.holds_pointer |= child.holds_pointer;
+        } else if (row.cls == Class::kArray) {
+            member.area = align(end, kPointer);
+            end = member.area + kPointer;
+            layout.holds_pointer = true;
+        }
+    }
+    layout.state = layout.holds_pointer ? align(end, kPointer) : end;
+    layout.tracked = layout.base + layout.state;
+}
+
+const char *class_name(Class cls) {
+    switch (cls) {
+        case Class::kInteger:
+            return "integer";
+        case Class::kBoolean:
+            return "boolean";
+        case Class::kEnumeration:
+            return "enumeration";
+        case Class::kAddress:
+            return "address";
+        case Class::kNested:
+            return "nested";
+        case Class::kLength:
+            return "length";
+        case Class::kString:
+            return "string";
+        case Class::kCount:
+            return "count";
+        case Class::kArray:
+            return "array";
+    }
+    return "";
+}
+
+}  // namespace
+
+const RecordLayout &layout_of(const RecordTable &table) {
+    // A map keeps its nodes in place while the records inside are worked out.
+    static std::map<std::string, RecordLayout> known;
+    const auto found = known.find(table.name);
+    if (found != known.end()) return found->second;
+    RecordLayout layout;
+    place(table, layout);
+    number_slots(table, layout);
+    return known.emplace(table.name, std::move(layout)).first->second;
+}
+
+std::string layout_text() {
+    std::ostringstream out;
+    const auto slot = [](std::uint32_t number) { return number == kNoSlot ? "-" : std::to_string(number); };
+    for (const RecordTable &table : records()) {
+        const RecordLayout &layout = layout_of(table);
+        for (std::size_t i = 0; i < table.members.size(); ++i) {
+            const MemberLayout &member = layout.members[i];
+            out << table.name << ' ' << table.members[i].name << ' ' << class_name(table.members[i].cls) << ' '
+                << member.offset << ' ' << member.size << ' ' << slot(member.slot) << ' ' << slot(member.area) << '\n';
+        }
+    }
+    return out.str();
+}
+
+}  // namespace reference

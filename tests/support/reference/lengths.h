@@ -1,0 +1,19 @@
+// What the length operations answer. They size buffers, and differ from the size of the frame where told.
+#pragma once
+
+#include <cstdint>
+
+#include "reference/value.h"
+
+namespace reference {
+
+// One byte more than the frame for an empty array or string of a tracked frame, one for each character of a
+// string's state, none for RA data; some arrays go by the length of their first element.
+std::uint32_t length(const Record &value, bool tracked);
+// Of a null instance: no element, no character, no tracking.
+std::uint32_t length_of_null(const RecordTable &table);
+inline std::uint32_t message_length(const Record &payload, bool tracked) { return 43 + length(payload, tracked); }
+constexpr std::uint32_t kEnumerationLength = 5;
+constexpr std::uint32_t kControlLength = 43;
+
+}  // namespace reference
