@@ -69,7 +69,7 @@ void put_record(Bytes &out, const Record &value, bool tracked) {
 }
 
 class Reader {
-   public:
+public:
     Reader(std::span<const std::uint8_t> bytes, bool tracked, std::size_t offset)
         : bytes_(bytes), offset_(offset), tracked_(tracked) {}
 
@@ -81,7 +81,7 @@ class Reader {
         std::string reason;
     };
 
-   private:
+private:
     std::uint64_t take(unsigned width, const std::string &what);
     std::int8_t take_variant(const std::string &what);
     void take_member(const MemberTable &row, std::uint64_t count, Member &member);
@@ -165,8 +165,8 @@ Record Reader::record(const RecordTable &table) {
         }
     }
     if (offset_ - base != jump)
-        throw Failure{base, table.name + " has jump " + std::to_string(jump) + " and not " +
-                                std::to_string(offset_ - base)};
+        throw Failure{base,
+                      table.name + " has jump " + std::to_string(jump) + " and not " + std::to_string(offset_ - base)};
     return value;
 }
 

@@ -87,13 +87,13 @@ struct GeneratorOptions {
 
 // The same seed and options give the same values everywhere.
 class Generator {
-   public:
+public:
     explicit Generator(std::uint64_t seed, GeneratorOptions options = {}) : random_(seed), options_(options) {}
 
     Record make(std::string_view type);
     std::uint64_t below(std::uint64_t limit) { return limit == 0 ? 0 : random_() % limit; }
 
-   private:
+private:
     Record fill(const RecordTable &table);
     void fill_member(const MemberTable &row, Member &member);
     void fill_array(const MemberTable &row, std::uint32_t limit, Member &member);
