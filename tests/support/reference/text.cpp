@@ -214,7 +214,7 @@ std::string string_xml(std::string_view bytes) {
 
 std::string hex_dump(std::span<const std::uint8_t> bytes) {
     std::string text;
-    char piece[16];
+    char piece[32];
     for (std::size_t line = 0; line < bytes.size(); line += 16) {
         std::snprintf(piece, sizeof piece, "%06zx ", line);
         text += piece;
