@@ -1,0 +1,55 @@
+#include "encodings/text.h"
+
+#include <cstdio>
+
+#include "runtime/kinds.h"
+
+namespace tarn {
+
+template <const Record &R>
+std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t indent, const char *name,
+                             mirk_object *instance, std::int32_t remaining, std::uint32_t *err) {
+    if (!begin(h, err)) return 0;
+    const std::int8_t variant = mirk_get_instance_variant(instance, 1, 0);
+    std::uint32_t offset = 0;
+    const auto left = [&] { return remaining - static_cast<std::int32_t>(offset); };
+
+    offset += mirk_print_space(h, ctx_id, buffer, indent, remaining, err);
+    offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "%s@%s: {\n", name, R.name.data());
+    if (variant < 0) return offset;  // the open brace is the sign of a record without a body
+
+    const std::uint32_t inside = indent + 2;
+    walk<R>([&]<class F>(F) {
+        if constexpr (F::kind == Kind::array) {
+            const std::uint32_t n = F::count(instance);
+            for (std::uint32_t i = 0; i < n; ++i) {
+                char element_name[80];
+                std::snprintf(element_name, sizeof element_name, "%s[%d]", F::name(), static_cast<int>(i));
+                offset += Text<F::element>::print(h, ctx_id, buffer + offset, inside, element_name,
+                                                  element_at<F::element>(*F::at(instance), i), left(), err);
+            }
+        } else if constexpr (F::kind == Kind::string) {
+            char *body = instance != nullptr ? *F::at(instance) : nullptr;
+            offset += var_string_print(h, ctx_id, buffer + offset, inside, F::name(), body, left(), F::count(instance),
+                                       err);
+        } else {
+            offset += Primitive<F>::print(h, ctx_id, buffer + offset, inside, F::name(), F::at(instance), left(), err);
+        }
+    });
+    // These blanks go to the start of the record's own first line, where they change nothing. So the bytes in front of a
+    // nested brace are counted and keep what the buffer held: a caller that hands the buffer on clears it first.
+    offset += mirk_print_space(h, ctx_id, buffer, indent, left(), err);
+    offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "}\n");
+    return offset;
+}
+
+template <const Record &R>
+std::uint32_t Text<R>::print_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining) {
+    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
+        return print(h, ctx_id, buffer, 0, R.name.data(), instance, remaining, err);
+    });
+}
+
+}  // namespace tarn
+
+#include "exports/text.inc"

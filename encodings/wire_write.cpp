@@ -1,0 +1,187 @@
+#include <algorithm>
+#include <cstring>
+
+#include "encodings/wire.h"
+#include "runtime/kinds.h"
+
+namespace tarn {
+
+namespace {
+
+// The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes nothing, the
+// state bytes still go out, and the caller decides at the end.
+struct Writer {
+    mirk_handle *h;
+    std::uint32_t ctx_id;
+    std::uint8_t *buffer;
+    std::uint32_t size;
+    std::uint32_t *err;
+    std::uint32_t offset = 0;
+    bool tracked = false;
+    std::uint8_t *area = nullptr;  // null: an instance without state, each of whose state bytes is 0
+
+    std::uint8_t *at() const { return buffer + offset; }
+    std::int32_t left() const { return bytes_left(size, offset); }
+
+    // Stored in a buffer that is full too, in the one byte behind its end, and not counted there.
+    void state(std::uint8_t value) {
+        *at() = value;
+        offset += offset != size ? 1 : 0;
+    }
+    template <class F>
+    void state_of() {
+        if (tracked) state(area != nullptr ? *F::state(area) : std::uint8_t{0});
+    }
+
+    template <class F>
+    void array(mirk_object *instance) {
+        const std::uint32_t n = F::count(instance);
+        if (n == 0) return;
+        mirk_object *block = *F::at(instance);
+        for (std::uint32_t i = 0; i < n; ++i) {
+            offset += WireWrite<F::element>::marshal(h, ctx_id, at(), element_at<F::element>(block, i), left(), err);
+        }
+        if (!tracked) return;
+        state_of<F>();
+        // Cut to what remains without an error: whoever sizes the buffer by len has room.
+        const std::uint32_t fits = std::min(n, static_cast<std::uint32_t>(left()));
+        const ElementStates states = F::element_states(area);
+        if (const std::uint8_t *block_of_states = states.block(); block_of_states != nullptr) {
+            std::memcpy(at(), block_of_states, fits);
+        } else {
+            std::memset(at(), states.fill(), fits);
+        }
+        offset += fits;
+    }
+
+    template <class F>
+    void string(mirk_object *instance) {
+        std::uint32_t n = F::count(instance);
+        if (n == 0) return;
+        if (n > static_cast<std::uint32_t>(left())) {
+            fail(h, err, EMSGSIZE);
+            n = static_cast<std::uint32_t>(left());
+        }
+        std::memcpy(at(), *F::at(instance), n);
+        offset += n;
+        state_of<F>();
+    }
+};
+
+}  // namespace
+
+template <const Record &R>
+template <bool hold_to_domain>
+std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                  std::int32_t remaining, std::uint32_t *err) {
+    if (!begin(h, err)) return 0;
+    if (remaining < 1) {
+        fail(h, err, ENOMEM);
+        return 0;
+    }
+    Writer out{h, ctx_id, static_cast<std::uint8_t *>(buffer), static_cast<std::uint32_t>(remaining), err};
+
+    std::int8_t variant = mirk_get_instance_variant(instance, 1, 0);
+    const std::int8_t domain_variant =
+        mirk_domain_lookup_variant(h, &h->domain, instance != nullptr ? instance->tinfo : nullptr, err);
+    if (hold_to_domain && variant > domain_variant) {
+        // The downgrade: the frame goes out in the variant that the peer's domain understands.
+        mirk_store_epoch_err(h, EIDRM, err);
+        variant = domain_variant;
+    }
+    variant = cap_variant(variant);
+    out.offset += _mirk_instance_variant_marshal(h, ctx_id, out.at(), &variant, out.left(), err);
+
+    std::uint8_t wire_flag = mirk_get_instance_obj_flag(instance, 1, 0);
+    out.tracked = tracks(h);
+    if (out.tracked) {
+        wire_flag |= flag::state_tracked;
+        if (is_state_tracked(instance)) out.area = state_area<R>(h, ctx_id, instance);
+    } else {
+        wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
+    }
+    wire_flag &= flag::on_the_wire;
+    out.offset += _mirk_instance_obj_flag_marshal(h, ctx_id, out.at(), &wire_flag, out.left(), err);
+
+    if ((wire_flag & flag::ra_data) != 0) {
+        void *ra_value = nullptr;
+        std::uint8_t ra_byte = 0;
+        *err = mirklib_get_ra_data(h, ctx_id, instance, &ra_value, &ra_byte);
+        out.offset += _mirk_instance_ra_data_marshal(h, ctx_id, out.at(), &ra_value, &ra_byte, out.left(), err);
+    }
+
+    const std::uint32_t jump_base = out.offset;
+    std::uint32_t jump = 0;
+    out.offset += _mirk_variant_jump_marshal(h, ctx_id, out.at(), &jump, out.left(), err);
+    if (variant >= 0) {
+        walk<R>([&]<class F>(F) {
+            if constexpr (F::kind == Kind::array) {
+                out.array<F>(instance);
+            } else if constexpr (F::kind == Kind::string) {
+                out.string<F>(instance);
+            } else {
+                out.offset += Primitive<F>::marshal(h, ctx_id, out.at(), F::at(instance), out.left(), err);
+                if constexpr (schema::is_tracked(F::member)) out.state_of<F>();
+            }
+        });
+    }
+    jump = out.offset - jump_base;
+    _mirk_variant_jump_marshal(h, ctx_id, out.buffer + jump_base, &jump, sizeof jump, err);
+    return out.offset;
+}
+
+template <const Record &R>
+std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                    std::int32_t remaining, std::uint32_t *err) {
+    return write<true>(h, ctx_id, buffer, instance, remaining, err);
+}
+
+template <const Record &R>
+std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                              mirk_object *instance, std::int32_t remaining, std::uint32_t *err) {
+    return write<false>(h, ctx_id, buffer, instance, remaining, err);
+}
+
+// Sizes a buffer, and so says more than is written in two places: an empty array or string is counted one state byte, and a
+// string's state one byte for each character. RA data is not counted.
+template <const Record &R>
+std::uint32_t WireWrite<R>::len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance) {
+    constexpr std::uint32_t head = 1 + 1 + 4;
+    std::uint32_t sum = head;
+    const bool has_body = mirk_get_instance_variant(instance, 1, 0) >= 0;
+    if (has_body) {
+        walk<R>([&]<class F>(F) {
+            if constexpr (F::kind == Kind::array) {
+                const std::uint32_t n = F::count(instance);
+                mirk_object *block = instance != nullptr ? *F::at(instance) : nullptr;
+                if constexpr (schema::has_fixed_wire_size(F::element)) {
+                    sum += n * WireWrite<F::element>::len(h, ctx_id, block);
+                } else {
+                    for (std::uint32_t i = 0; i < n; ++i) {
+                        sum += WireWrite<F::element>::len(h, ctx_id, element_at<F::element>(block, i));
+                    }
+                }
+            } else if constexpr (F::kind == Kind::string) {
+                char *body = instance != nullptr ? *F::at(instance) : nullptr;
+                sum += char_len(h, ctx_id, body) * F::count(instance);
+            } else {
+                sum += Primitive<F>::len(h, ctx_id, F::at(instance));
+            }
+        });
+    }
+    if (instance == nullptr || !tracks(h) || !has_body) return sum;
+    walk<R>([&]<class F>(F) {
+        if constexpr (schema::is_tracked(F::member)) sum += 1;
+        if constexpr (schema::owns_block(F::member)) sum += F::count(instance);
+    });
+    return sum;
+}
+
+template <const Record &R>
+std::uint32_t WireWrite<R>::len_cr(mirk_handle *h, mirk_object *instance) {
+    return h->last_error != 0 ? 0 : len(h, h->default_id, instance);
+}
+
+}  // namespace tarn
+
+#include "exports/wire_write.inc"

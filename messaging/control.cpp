@@ -1,0 +1,204 @@
+#include "messaging/control.h"
+
+#include "messaging/message.h"
+
+namespace tarn {
+
+namespace {
+
+template <const Bundle &B, Control K>
+constinit char sentinel_of = 0;
+
+// What may travel inside the bundle; the runtime looks messages up in it. The last row ends the table.
+template <const Bundle &B>
+constinit const mirk_allowed_row allowed_messages[] = {
+    {Identity<B.message>::luid, Identity<B.message>::name, 0},
+    {message_ui_req_msg_luid, message_ui_req_msg_name, 0},
+    {nullptr, nullptr, 0},
+};
+
+// Zeroed room for the header and, behind it, the identity. Returns the bytes written; fewer than a frame's: EMSGSIZE.
+std::uint32_t begin_frame(mirk_handle *h, void *buffer, std::uint32_t size, const std::uint8_t *luid,
+                          std::uint32_t *err) {
+    const auto room = static_cast<std::int32_t>(size);
+    if (room < static_cast<std::int32_t>(header_bytes)) {
+        fail(h, err, EMSGSIZE);
+        return 0;
+    }
+    std::memset(buffer, 0, header_bytes);
+    if (room < static_cast<std::int32_t>(frame_head)) {
+        fail(h, err, EMSGSIZE);
+        return header_bytes;
+    }
+    std::memcpy(static_cast<std::uint8_t *>(buffer) + header_bytes, luid, luid_bytes);
+    return frame_head;
+}
+
+void end_frame(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t *err) {
+    mirk_message_header header = new_header();
+    header.total_length = frame_head;
+    header.stamp = h->message_stamp;
+    _mirk_message_header_marshal(h, ctx_id, buffer, &header, header_bytes, err);
+}
+
+// Unlike everywhere else the slot is not looked at on entry, but an error in the handle refuses a sticky rendering.
+template <class Rendering>
+std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
+    return h->last_error != 0 ? 0xFFFFFFFFU : sticky_length(h, rendering);
+}
+
+}  // namespace
+
+template <const Bundle &B, Control K>
+void *ControlMessage<B, K>::sentinel() {
+    return &sentinel_of<B, K>;
+}
+
+template <const Bundle &B, Control K>
+void *ControlMessage<B, K>::create(mirk_handle *h, std::uint32_t ctx_id) {
+    return allocate(h, ctx_id, 0);
+}
+
+template <const Bundle &B, Control K>
+void *ControlMessage<B, K>::create_cr(mirk_handle *h) {
+    if (h->last_error != 0) return sentinel();
+    if (void *token = allocate(h, h->default_id, 0); token != nullptr) return token;
+    if (h->last_error == 0) mirk_store_err(h, ENOMEM);
+    return sentinel();
+}
+
+// Knows no sentinel, unlike its sticky form: the two do not mix.
+template <const Bundle &B, Control K>
+void ControlMessage<B, K>::destroy(mirk_handle *h, std::uint32_t ctx_id, void *token) {
+    if (token != nullptr) release(h, ctx_id, token);
+}
+
+template <const Bundle &B, Control K>
+void ControlMessage<B, K>::destroy_cr(mirk_handle *h, void *token) {
+    if (token != sentinel()) destroy(h, h->default_id, token);
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::len(mirk_handle *, std::uint32_t, void *) {
+    return frame_head;
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::len_cr(mirk_handle *h, void *) {
+    return h->last_error != 0 ? 0 : frame_head;
+}
+
+// A start opens the bundle and needs room for its frame. An abort or a commit ends the bundle in every case, one without
+// room too: no frame has gone out then, which is for the caller to deal with. Any bundle's end closes the one that is open.
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, void *,
+                                            std::uint32_t size, std::uint32_t *err) {
+    if (!begin(h, err)) return 0;
+    if constexpr (K == Control::start) {
+        if (h->send_bundle_open != 0) {
+            fail(h, err, EEXIST);
+            return 0;
+        }
+        const std::uint32_t written = begin_frame(h, buffer, size, ControlIdentity<B, K>::luid, err);
+        if (written != frame_head) return written;
+        h->send_bundle_open = 1;
+        h->bundle_table = allowed_messages<B>;
+        h->send_bundle_list = {&h->send_bundle_list, &h->send_bundle_list};
+        end_frame(h, ctx_id, buffer, err);
+        return written;
+    } else {
+        if (h->send_bundle_open == 0) {
+            fail(h, err, ENOENT);
+            return 0;
+        }
+        const std::uint32_t written = begin_frame(h, buffer, size, ControlIdentity<B, K>::luid, err);
+        if (written == frame_head) end_frame(h, ctx_id, buffer, err);
+        bundle_send_message_list_destroy(h, ctx_id, err);
+        return written;
+    }
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::marshal_cr(mirk_handle *h, void *token, void *buffer, std::uint32_t size) {
+    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
+        return marshal(h, ctx_id, buffer, token, size, err);
+    });
+}
+
+// The frame is not read: being called is all that the message says. The result is no sign of success.
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void **out,
+                                              void *, std::uint32_t, mirk_message_handler handler,
+                                              std::uint32_t *err) {
+    if (*err != 0) return frame_head;
+    if (out != nullptr) *out = nullptr;
+    const mirk_message_handler deliver = handler != nullptr ? handler : ControlIdentity<B, K>::handler;
+    deliver(h, ctx_id, dispatch_ctx, nullptr, err);
+    return frame_head;
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::unmarshal_only(mirk_handle *, std::uint32_t, void **, void *, std::uint32_t,
+                                                   std::uint32_t *) {
+    return 0;
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, void *,
+                                          std::uint32_t size, std::uint32_t *err) {
+    static constexpr const char *format = K == Control::start   ? "bundle start@%s: <<<<<<<<\n"
+                                          : K == Control::abort ? "bundle abort@%s: <<<<<<<<\n"
+                                                                : "bundle commit@%s: <<<<<<<<\n";
+    const auto room = static_cast<std::int32_t>(size);
+    const std::uint32_t position = mirk_print_space(h, ctx_id, buffer, 0, room, err);
+    return position + mirk_snprintf(h, ctx_id, buffer + position, room - static_cast<std::int32_t>(position), err,
+                                    format, B.name.data());
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::print_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
+    return render_sticky(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
+        return print(h, ctx_id, buffer, token, size, err);
+    });
+}
+
+// An empty element; the name is an attribute, which the closing tag leaves out.
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, void *,
+                                           std::uint32_t size, std::uint32_t *err) {
+    static constexpr const char *word = K == Control::start   ? "bundle_start"
+                                        : K == Control::abort ? "bundle_abort"
+                                                              : "bundle_commit";
+    static constexpr auto tag = [] {
+        if constexpr (K == Control::start) return named_text<B>("bundle_start name=\"", "\"");
+        if constexpr (K == Control::abort) return named_text<B>("bundle_abort name=\"", "\"");
+        if constexpr (K == Control::commit) return named_text<B>("bundle_commit name=\"", "\"");
+    }();
+    const auto room = static_cast<std::int32_t>(size);
+    const std::uint32_t position = start_tag(h, ctx_id, buffer, tag.data(), room, 0, err);
+    return position +
+           end_tag(h, ctx_id, buffer + position, word, room - static_cast<std::int32_t>(position), err);
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::toxml_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
+    return render_sticky(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
+        return to_xml(h, ctx_id, buffer, token, size, err);
+    });
+}
+
+// Any document gives a token: there is nothing in it to be read.
+template <const Bundle &B, Control K>
+void *ControlMessage<B, K>::from_xml(mirk_handle *h, std::uint32_t ctx_id, void *, std::uint32_t *, char *,
+                                     std::uint32_t) {
+    return create(h, ctx_id);
+}
+
+template <const Bundle &B, Control K>
+std::uint32_t ControlMessage<B, K>::valid_cr(mirk_handle *) {
+    return 1;
+}
+
+}  // namespace tarn
+
+#include "exports/control.inc"

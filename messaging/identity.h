@@ -1,0 +1,31 @@
+// By what a message is known: its identity and name in the catalogue, and the handler that is linked in for it. Each is an
+// exported symbol, reached through the traits that the generated list below fills in.
+#pragma once
+
+#include "runtime/guard.h"
+#include "schema/catalogue.h"
+
+namespace tarn {
+
+using schema::Bundle;
+using schema::Message;
+
+enum class Control { start, abort, commit };
+
+constexpr const schema::Luid &control_luid(const Bundle &bundle, Control kind) {
+    return kind == Control::start ? bundle.start : kind == Control::abort ? bundle.abort : bundle.commit;
+}
+constexpr std::string_view control_name(Control kind) {
+    return kind == Control::start ? "start" : kind == Control::abort ? "abort" : "commit";
+}
+
+template <const Message &M>
+struct Identity;
+template <const Bundle &B, Control K>
+struct ControlIdentity;
+template <const Bundle &B>
+struct BundleIdentity;
+
+}  // namespace tarn
+
+#include "exports/identity.inc"

@@ -1,0 +1,143 @@
+#include "messaging/message.h"
+
+#include <utility>
+
+#include "runtime/header.h"
+
+namespace tarn {
+
+namespace {
+
+template <const Message &M>
+constinit message_object sentinel_of{};
+
+const std::uint16_t &module = g_mirk_lumo_ui_tarn_message_trace_module_id;
+
+// A message has one variant, so the question is whether the block was damaged.
+const mirk_variant_info &checked_variant_info(const mirk_type_info *type) {
+    const mirk_variant_info &info = variant_info(type, module);
+    if (info.n_variants < 0) {
+        trace_message(info_level, "(info): variant %u requested only %u variants present", 0, info.n_variants);
+    }
+    return info;
+}
+
+template <class Text>
+bool has_error(const message_object *message, const std::uint32_t *err, const Text &complaint) {
+    if (*err == 0 && message != nullptr) return false;
+    trace_message(debug_level, complaint.data(), error_text(*err));
+    return true;
+}
+
+}  // namespace
+
+template <const Message &M>
+message_object *MessageObject<M>::sentinel() {
+    return &sentinel_of<M>;
+}
+
+// Type, counter, header, tracking: what a message needs besides its payload.
+template <const Message &M>
+message_object *MessageObject<M>::set_up(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
+    message->tinfo = bind_type<M>(h, ctx_id);
+    const mirk_variant_info &info = checked_variant_info(message->tinfo);
+    count(h, ctx_id, message->tinfo, &info.entries[0].num_created, 1);
+    message->variant = 0;
+    message->header = new_header();
+    if (tracking_mode(h, module) == Tracking::on) {
+        message->obj_flag |= flag::state_tracked;
+        message->header.sttr = 1;
+    }
+    return message;
+}
+
+template <const Message &M>
+message_object *MessageObject<M>::create_shallow(mirk_handle *h, std::uint32_t ctx_id) {
+    void *storage = allocate(h, ctx_id, sizeof(message_object));
+    if (storage == nullptr) return nullptr;
+    return set_up(h, ctx_id, static_cast<message_object *>(std::memset(storage, 0, sizeof(message_object))));
+}
+
+// The payload is made before the type is bound and before anything is counted.
+template <const Message &M>
+message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
+    message_object *message =
+        create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
+    if (message == nullptr) return nullptr;
+    message->payload = Lifecycle<M.payload>::create(h, ctx_id);
+    if (message == sentinel()) return message;
+    if (message->payload == nullptr) {
+        release(h, ctx_id, message);
+        return nullptr;
+    }
+    return set_up(h, ctx_id, message);
+}
+
+template <const Message &M>
+message_object *MessageObject<M>::create_cr(mirk_handle *h) {
+    h->cr_mode = 1;
+    message_object *message = create(h, h->default_id);
+    h->cr_mode = 0;
+    return message;
+}
+
+template <const Message &M>
+void MessageObject<M>::destroy(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
+    if (message == nullptr || message == sentinel()) return;
+    if (message->payload != nullptr) {
+        Lifecycle<M.payload>::destroy(h, ctx_id, message->payload);
+        message->payload = nullptr;
+    }
+    check_type(message->tinfo, module);
+    const mirk_variant_info &info = checked_variant_info(message->tinfo);
+    count(h, ctx_id, message->tinfo, &info.entries[0].num_destroyed, 1);
+    message->tinfo = nullptr;
+    release(h, ctx_id, message);
+}
+
+template <const Message &M>
+void MessageObject<M>::destroy_cr(mirk_handle *h, message_object *message) {
+    destroy(h, h->default_id, message);
+}
+
+template <const Message &M>
+mirk_object *MessageObject<M>::get(mirk_handle *, std::uint32_t, message_object *message, std::uint32_t *err) {
+    static constexpr auto complaint = named_text<M.payload>("(debug): Error present when getting value for ", ": %s");
+    return has_error(message, err, complaint) ? nullptr : message->payload;
+}
+
+template <const Message &M>
+mirk_object *MessageObject<M>::get_detach(mirk_handle *, std::uint32_t, message_object *message, std::uint32_t *err) {
+    static constexpr auto complaint = named_text<M.payload>("(debug): Error present getting detached ",
+                                                            named_text<M>(" value for ", ": %s").characters);
+    if (has_error(message, err, complaint)) return nullptr;
+    return std::exchange(message->payload, nullptr);
+}
+
+// The payload before is left to whoever still points at it.
+template <const Message &M>
+void MessageObject<M>::set(mirk_handle *, std::uint32_t, message_object *message, mirk_object *payload,
+                           std::uint32_t *err) {
+    static constexpr auto complaint = named_text<M.payload>("(debug): Error present when setting value for ", ": %s");
+    if (!has_error(message, err, complaint)) message->payload = payload;
+}
+
+// Given the message's own payload this destroys it and stores what is left; take it out with get_detach instead.
+template <const Message &M>
+void MessageObject<M>::free_and_set(mirk_handle *h, std::uint32_t ctx_id, message_object *message,
+                                    mirk_object *payload, std::uint32_t *err) {
+    static constexpr auto complaint =
+        named_text<M.payload>("(debug): Error present when freeing and setting value for ", ": %s");
+    if (has_error(message, err, complaint)) return;
+    if (message->payload != nullptr) Lifecycle<M.payload>::destroy(h, ctx_id, message->payload);
+    message->payload = payload;
+}
+
+template <const Message &M>
+std::uint32_t MessageObject<M>::is_valid_cr(mirk_handle *h) {
+    return mirk_domain_lookup_message_ok(h, &h->domain, &TypeInfo<M>::own, &h->last_error);
+}
+
+}  // namespace tarn
+
+#include "exports/message.inc"

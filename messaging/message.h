@@ -1,0 +1,81 @@
+// Plain messages. A message object owns one payload record; its frame is a 27-byte header, the 16-byte identity and the
+// payload's frame.
+#pragma once
+
+#include "messaging/identity.h"
+#include "runtime/lifecycle.h"
+#include "runtime/text.h"
+
+namespace tarn {
+
+using schema::Message;
+
+inline constexpr std::uint32_t header_bytes = 27;
+inline constexpr std::uint32_t luid_bytes = 16;
+inline constexpr std::uint32_t frame_head = header_bytes + luid_bytes;
+
+struct message_object {
+    mirk_type_info *tinfo;
+    std::int8_t variant, home_variant;
+    std::uint8_t obj_flag;
+    mirk_message_header header;
+    mirk_object *payload;
+};
+static_assert(sizeof(message_object) == message_object_size && offsetof(message_object, header) == 12 &&
+              offsetof(message_object, payload) == 32);
+
+// What every header begins with: the marker, six bytes of 0xFF, the rest 0.
+constexpr mirk_message_header new_header() { return {0xBC, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 0, 0, 0}; }
+
+template <const Message &M>
+struct MessageObject {
+    static message_object *create_shallow(mirk_handle *h, std::uint32_t ctx_id);
+    static message_object *create(mirk_handle *h, std::uint32_t ctx_id);
+    static message_object *create_cr(mirk_handle *h);
+    static void destroy(mirk_handle *h, std::uint32_t ctx_id, message_object *message);
+    static void destroy_cr(mirk_handle *h, message_object *message);
+    static mirk_object *get(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err);
+    static mirk_object *get_detach(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err);
+    static void set(mirk_handle *h, std::uint32_t ctx_id, message_object *message, mirk_object *payload,
+                    std::uint32_t *err);
+    static void free_and_set(mirk_handle *h, std::uint32_t ctx_id, message_object *message, mirk_object *payload,
+                             std::uint32_t *err);
+    static std::uint32_t is_valid_cr(mirk_handle *h);
+
+private:
+    static message_object *sentinel();
+    static message_object *set_up(mirk_handle *h, std::uint32_t ctx_id, message_object *message);
+};
+
+template <const Message &M>
+struct MessageWire {
+    static std::uint32_t len(mirk_handle *h, std::uint32_t ctx_id, message_object *message);
+    static std::uint32_t len_cr(mirk_handle *h, message_object *message);
+    static std::uint32_t marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, message_object *message,
+                                 std::uint32_t size, std::uint32_t *err);
+    static std::uint32_t marshal_cr(mirk_handle *h, message_object *message, void *buffer, std::uint32_t size);
+    static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, message_object **out,
+                                   void *buffer, std::uint32_t size, mirk_message_handler handler, std::uint32_t *err);
+    static std::uint32_t unmarshal_only(mirk_handle *h, std::uint32_t ctx_id, message_object **out, void *buffer,
+                                        std::uint32_t size, std::uint32_t *err);
+};
+
+template <const Message &M>
+struct MessageRendering {
+    static std::uint32_t print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, message_object *message,
+                               std::uint32_t size, std::uint32_t *err);
+    static std::uint32_t print_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size);
+    static std::uint32_t to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, message_object *message,
+                                std::uint32_t size, std::uint32_t *err);
+    static std::uint32_t toxml_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size);
+    static message_object *from_xml(mirk_handle *h, std::uint32_t ctx_id, void *document, std::uint32_t *err,
+                                    char *message_buffer, std::uint32_t message_size);
+};
+
+// Writes the message as XML to the recorder's stream, if the recorder is on.
+template <const Message &M>
+struct Recording {
+    static void record(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err);
+};
+
+}  // namespace tarn

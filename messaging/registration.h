@@ -1,0 +1,13 @@
+// The handler that a process registers for all bundles of this module and of the modules that it builds on.
+#pragma once
+
+#include "runtime/guard.h"
+
+extern "C" mirk_bundle_handler lumo_ui_tarn_bundle_registered_handler;
+
+namespace tarn {
+
+mirk_bundle_handler register_for_module(mirk_bundle_handler handler);
+mirk_bundle_handler unregister_for_module();
+
+}  // namespace tarn

@@ -1,0 +1,129 @@
+#include "runtime/accessors.h"
+
+#include "runtime/kinds.h"
+
+namespace tarn {
+
+template <class F>
+auto Accessor<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) -> Storage * {
+    if (!begin(h, err)) return nullptr;
+    if (!gate(h, object, F::value_kind, err)) return nullptr;
+    return Primitive<F>::get(h, ctx_id, F::at(object), err);
+}
+
+template <class F>
+auto Accessor<F>::get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+    Storage *field = get(h, ctx_id, object, err);
+    using Value = decltype(Primitive<F>::get_value(h, ctx_id, field, err));
+    return field != nullptr ? Primitive<F>::get_value(h, ctx_id, field, err) : Value{0};
+}
+
+template <class F>
+template <class Source>
+void Accessor<F>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Source *source, std::uint32_t *err) {
+    if (!begin(h, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, F::value_kind, err)) return;
+    Primitive<F>::set(h, ctx_id, F::at(object), source, err);
+    if (mark_written<F>(h, ctx_id, object, err)) mark_modified(object, F::value_kind);
+}
+
+template <class F>
+template <class Value>
+void Accessor<F>::set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Value value,
+                            std::uint32_t *err) {
+    if (!begin(h, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, F::value_kind, err)) return;
+    // Finding the field is a get in its own right, with a look at slot and variant again.
+    Storage *field = nullptr;
+    if (*err == 0 && gate(h, object, F::value_kind, err)) field = Primitive<F>::get(h, ctx_id, F::at(object), err);
+    if (*err != 0) return;
+    if (field == nullptr) {
+        fail(h, err, ENOENT);
+        return;
+    }
+    // A refused value leaves its error in the slot, and the member counts as written all the same.
+    Primitive<F>::set_value(h, ctx_id, field, value, err);
+    if (mark_written<F>(h, ctx_id, object, err)) mark_modified(object, F::value_kind);
+}
+
+template <class F>
+std::uint8_t StateByte<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+    if (*err != 0 || !can_read_state(h, object, err)) return 0;
+    return *F::state(state_area<F::owner>(h, ctx_id, object));
+}
+
+template <class F>
+void StateByte<F>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value,
+                       std::uint32_t *err) {
+    if (*err != 0 || !can_write_state_of(h, object, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, F::value_kind, err)) return;
+    store(h, ctx_id, F::state(state_area<F::owner>(h, ctx_id, object)), value);
+    mark_modified(object, F::value_kind);
+}
+
+template <const Record &R>
+template <class... Values>
+void Whole<R>::get_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values *...out) {
+    if (!begin(h, err)) return;
+    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
+    void *const outs[] = {nullptr, out...};
+    std::size_t next = 1;
+    walk<R>([&]<class F>(F) {
+        if constexpr (is_integer(F::kind) || schema::is_scalar(F::member)) {
+            using Value = decltype(Primitive<F>::get_value(h, ctx_id, F::at(object), err));
+            auto *field = Primitive<F>::get(h, ctx_id, F::at(object), err);
+            *static_cast<Value *>(outs[next++]) =
+                field != nullptr ? Primitive<F>::get_value(h, ctx_id, field, err) : Value{0};
+        }
+    });
+}
+
+// Leaves the state bytes alone, in contrast to the setters of single members.
+template <const Record &R>
+template <class... Values>
+void Whole<R>::set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
+                       Values... values) {
+    if (!begin(h, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
+    const std::uint64_t all[] = {0, std::uint64_t{values}...};
+    std::size_t next = 1;
+    walk<R>([&]<class F>(F) {
+        if constexpr (schema::is_scalar(F::member)) {
+            using Value = decltype(Primitive<F>::get_value(h, ctx_id, F::at(object), err));
+            Primitive<F>::set_value(h, ctx_id, F::at(object), static_cast<Value>(all[next++]), err);
+            mark_modified(object, F::value_kind);
+        }
+    });
+}
+
+// The fill covers the addresses of element-state vectors too, which thereby say that every element's state is this byte;
+// the vectors themselves are lost. A corrupt mode is passed over here and nowhere else.
+template <const Record &R>
+void Whole<R>::set_all_state_tracking_flag(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                           std::uint8_t value) {
+    if (h->sttr_desc == nullptr || h->sttr_desc->sttr_mode != 0xEEEE || !is_state_tracked(object)) return;
+    std::memset(state_area<R>(h, ctx_id, object), value, schema::layout<R>.state_width);
+    walk<R>([&]<class F>(F) {
+        if constexpr (F::kind == Kind::array) {
+            const std::uint32_t n = F::count(object);
+            for (std::uint32_t i = 0; i < n; ++i) {
+                Whole<F::element>::set_all_state_tracking_flag(h, ctx_id, element_at<F::element>(*F::at(object), i),
+                                                               value);
+            }
+        }
+    });
+}
+
+template <const Record &R>
+std::uint32_t Whole<R>::is_valid_cr(mirk_handle *h, const mirk_object *, std::uint32_t field_index) {
+    const std::int8_t variant = mirk_domain_lookup_variant(h, &h->domain, &TypeInfo<R>::own, &h->last_error);
+    return field_index >= R.members.size() && variant <= 0 ? 0 : 1;
+}
+
+}  // namespace tarn
+
+#include "exports/accessors.inc"

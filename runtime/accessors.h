@@ -1,0 +1,88 @@
+// Access to single members: a pointer, a value, a state byte.
+#pragma once
+
+#include "runtime/guard.h"
+#include "runtime/walk.h"
+
+namespace tarn {
+
+// F is a Field. Every single-valued member has these; counts and lengths have get and get_value alone.
+template <class F>
+struct Accessor {
+    using Storage = typename F::Storage;
+
+    static Storage *get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
+    static auto get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
+    template <class Source>
+    static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Source *source, std::uint32_t *err);
+    template <class Value>
+    static void set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Value value, std::uint32_t *err);
+};
+
+// The state byte of a member, that of a whole array included.
+template <class F>
+struct StateByte {
+    static std::uint8_t get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
+    static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err);
+};
+
+// True if the handle answers questions about the state of this object; otherwise EINVAL is in the slot.
+inline bool can_read_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
+    if (tracking_mode(h) == Tracking::off) {
+        fail(h, err, EINVAL);
+        return false;
+    }
+    if (!is_state_tracked(object)) {
+        fail(h, err, EINVAL);
+        trace(error_level, "(ERR): The object is non state tracked");
+        return false;
+    }
+    return true;
+}
+
+// The same before a write, with the variant checked as every write checks it. The line comes ahead of the error here.
+inline bool can_write_state_of(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
+    if (tracking_mode(h) == Tracking::off) {
+        fail(h, err, EINVAL);
+        return false;
+    }
+    if (!is_state_tracked(object)) {
+        trace(error_level, "(ERR): The object is not state tracked");
+        fail(h, err, EINVAL);
+        return false;
+    }
+    return true;
+}
+
+inline bool refuse_untracked(mirk_handle *h, std::uint32_t *err) {
+    fail(h, err, EINVAL);
+    trace(error_level, "(ERR): The object is not state tracked");
+    return false;
+}
+
+// After a setter has stored: state byte 2 on a tracking handle. False if the object cannot have one; the value stays.
+template <class F>
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+    if (!tracks(h)) return true;
+    if (!is_state_tracked(object)) return refuse_untracked(h, err);
+    store(h, ctx_id, F::state(state_area<F::owner>(h, ctx_id, object)), written_state);
+    return true;
+}
+
+inline void mark_modified(mirk_object *object, std::uint32_t value_kind) {
+    mirk_set_instance_modified(object, 1, value_kind, 1);
+}
+
+// Whole-record operations on members and state.
+template <const Record &R>
+struct Whole {
+    template <class... Values>
+    static void get_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values *...out);
+    template <class... Values>
+    static void set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values... values);
+    static void set_all_state_tracking_flag(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                            std::uint8_t value);
+    static std::uint32_t is_valid_cr(mirk_handle *h, const mirk_object *object, std::uint32_t field_index);
+};
+
+}  // namespace tarn

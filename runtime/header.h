@@ -1,0 +1,110 @@
+// What records and enumerations do alike with the header that they share: creation, counting, ending.
+#pragma once
+
+#include "runtime/text.h"
+#include "runtime/type_table.h"
+
+namespace tarn {
+
+// A sticky create after an error makes nothing and hands out the sentinel.
+inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->last_error != 0; }
+
+// Zeroed storage for a new object. Without memory: null or, in a sticky create, the sentinel and ENOMEM in the handle.
+template <class Object>
+Object *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, Object *sentinel) {
+    void *storage = allocate(h, ctx_id, size);
+    if (storage != nullptr) return static_cast<Object *>(std::memset(storage, 0, size));
+    if (h->cr_mode == 0) return nullptr;
+    if (h->last_error == 0) mirk_store_err(h, ENOMEM);
+    return sentinel;
+}
+
+// Writes the header of an object that is set up; a type has no variant above 0.
+template <const auto &Type>
+std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                       std::uint32_t notify, std::uint8_t flags, std::uint32_t *err) {
+    const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
+    const auto tell = [&](auto *member) {
+        if (notify != 0) announce(h, ctx_id, member);
+    };
+    tell(&object->home_variant);
+    object->home_variant = variant;
+    tell(&object->variant);
+    object->variant = variant;
+    tell(&object->tinfo);
+    object->tinfo = bind_type<Type>(h, ctx_id, type);
+    tell(&object->obj_flag);
+    object->obj_flag |= flags;
+    return variant;
+}
+
+inline void check_variant_count(const mirk_variant_info &info, std::int8_t variant) {
+    if (info.n_variants < variant) {
+        trace(info_level, "(info): variant %u requested only %u variants present", variant, info.n_variants);
+    }
+}
+
+inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object, std::int8_t variant) {
+    const mirk_variant_info &info = variant_info(object->tinfo);
+    check_variant_count(info, variant);
+    mirk_variant_entry &entry = info.entries[variant];
+    count(h, ctx_id, object->tinfo, &entry.num_created, 1);
+    count(h, ctx_id, object->tinfo, &entry.num_live, 1);
+}
+
+template <const auto &Type>
+void report_mapping_failure(mirk_handle *h, std::uint32_t error) {
+    static constexpr auto text =
+        named_text<Type>("(ERR): ", " destroy: Failed to remove oid mapping for object. Error %s");
+    trace(error_level, text.data(), error_text(error));
+    mirk_store_err(h, error);
+}
+
+// An object with an identifier goes only when nothing refers to it any more. False: it stays.
+template <const auto &Type>
+bool end_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    if ((object->obj_flag & flag::oid_mapped) == 0) return true;
+    std::uint32_t error = 0;
+    const std::uint32_t gone = mirk_request_oid_mapping_destroy(h, ctx_id, object, &error);
+    if (error != 0) {
+        report_mapping_failure<Type>(h, error);
+        return false;
+    }
+    if (gone == 0) {
+        static constexpr auto text = named_text<Type>(
+            "(info): ", " destroy: Object has references and will be cleaned up when all of them are released");
+        trace(info_level, text.data());
+        return false;
+    }
+    static constexpr auto text = named_text<Type>("(debug): ", " destroy: Successfully removed OID mapping");
+    trace(debug_level, text.data());
+    return true;
+}
+
+// The end of an object whose members are gone: counters, runtime entries, memory.
+template <const auto &Type>
+void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
+    constexpr std::uint8_t has_area_elsewhere = flag::state_tracked | flag::sttr_offset;
+    if ((object->obj_flag & has_area_elsewhere) == has_area_elsewhere) mirklib_get_sttr_offset(h, ctx_id, object);
+
+    check_type(object->tinfo);
+    const mirk_variant_info &info = variant_info(object->tinfo);
+    check_variant_count(info, object->variant);
+    mirk_variant_entry &entry = info.entries[cap_variant(object->variant)];
+    count(h, ctx_id, object->tinfo, &entry.num_destroyed, 1);
+    count(h, ctx_id, object->tinfo, &entry.num_live, -1);
+
+    if ((object->obj_flag & (flag::ra_data | flag::sttr_offset)) != 0 && h->oid_mapping != 0) {
+        std::uint32_t error = 0;
+        mirk_hd_mapping_destroy(h, ctx_id, object, &error);
+        if (error != 0) {
+            report_mapping_failure<Type>(h, error);
+            return;
+        }
+    }
+    if (free_it == 0) return;
+    store(h, ctx_id, &object->tinfo, static_cast<mirk_type_info *>(nullptr));
+    release(h, ctx_id, object);
+}
+
+}  // namespace tarn

@@ -1,0 +1,223 @@
+#include "runtime/lifecycle.h"
+
+#include "runtime/header.h"
+#include "runtime/kinds.h"
+
+extern "C" void mirk_lumo_ui_tarn_type_trace_init(void);
+
+namespace tarn {
+
+namespace {
+
+template <const Record &R>
+struct alignas(8) SentinelStorage {
+    std::uint8_t bytes[schema::layout<R>.base_size];
+};
+template <const Record &R>
+constinit SentinelStorage<R> sentinel_of{};
+
+}  // namespace
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::sentinel() {
+    return reinterpret_cast<mirk_object *>(&sentinel_of<R>);
+}
+
+template <const Record &R>
+std::int8_t Lifecycle<R>::variant_data_index_cap(std::int8_t variant) {
+    return cap_variant(variant);
+}
+
+template <const Record &R>
+std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
+    return schema::layout<R>.base_size + (tracks(h) ? schema::layout<R>.state_width : 0);
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
+    if (create_is_off(h)) return sentinel();
+    mirk_object *object = new_object(h, ctx_id, sizeof_instance(h), sentinel());
+    if (object == nullptr || object == sentinel()) return object;
+    std::uint32_t error = 0;
+    initialize(h, ctx_id, object, &TypeInfo<R>::own, 1, 0, 0, nullptr, &error);
+    if (error != 0) {
+        static constexpr auto text = named_text<R>("(ERR): error in ", " create: %s");
+        trace(error_level, text.data(), error_text(error));
+        release(h, ctx_id, object);
+        return nullptr;
+    }
+    return object;
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    return create_internal(h, ctx_id);
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create_cr(mirk_handle *h) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    h->cr_mode = 1;
+    mirk_object *object = create_internal(h, h->default_id);
+    h->cr_mode = 0;
+    return object;
+}
+
+template <const Record &R>
+void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                              std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
+                              std::uint32_t *err) {
+    if (!begin(h, err)) return;
+    const std::int8_t variant = set_header<R>(h, ctx_id, object, type, notify, flags, err);
+    if (tracks(h)) {
+        if (notify != 0) announce(h, ctx_id, &object->obj_flag);
+        object->obj_flag |= flag::state_tracked;
+    }
+    constexpr bool embeds = any_member<R>(schema::is_embedded);
+    if (skip_count == 0) {
+        count_created(h, ctx_id, object, variant);
+        *err = 0;  // drops an error of the look-up: it shows at the first gate instead
+    } else if constexpr (!embeds) {
+        return;
+    }
+
+    if (skip_count == 0 && tracks(h)) {
+        const bool nested = (object->obj_flag & flag::nested) != 0;
+        const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
+        if (nested && sttr_base == nullptr) {
+            fail(h, err, EINVAL);
+            trace(error_level,
+                  "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the "
+                  "correct state tracking base pointer");
+            return;
+        }
+        if constexpr (embeds) {
+            if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + schema::layout<R>.base_size;
+            if (!nested || has_offset) {
+                void *area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : sttr_base;
+                References<R>::offset_update(h, ctx_id, object, area, err);
+            }
+        } else if (has_offset) {
+            mirklib_get_sttr_offset(h, ctx_id, object);
+        }
+    }
+    if constexpr (embeds) initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
+}
+
+// Members get the base as it came, and not the start of their own area: that they ask the runtime for.
+template <const Record &R>
+void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
+                                      std::uint32_t skip_count, void *sttr_base, std::uint32_t *err) {
+    StepErrors errors(h, err);
+    walk<R>([&]<class F>(F) {
+        if constexpr (schema::is_embedded(F::member)) {
+            Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), notify, skip_count, flag::nested,
+                                     sttr_base, errors.next());
+        }
+    });
+}
+
+template <const Record &R>
+void Lifecycle<R>::set_instance_embedded(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    if (object == nullptr) {
+        trace(error_level, "(ERR): Invalid object pointer passed in to set instance flag");
+        return;
+    }
+    walk<R>([&]<class F>(F) {
+        if constexpr (schema::is_embedded(F::member) && F::kind != Kind::enumeration) {
+            Primitive<F>::set_instance_embedded(h, ctx_id, F::at(object));
+        }
+    });
+    store(h, ctx_id, &object->obj_flag, static_cast<std::uint8_t>(object->obj_flag | flag::embedded));
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    if (object != sentinel()) destroy_internal(h, ctx_id, object, 1);
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy_cr(mirk_handle *h, mirk_object *object) {
+    destroy_internal(h, h->default_id, object, 1);
+}
+
+// Lowers the count of each object that an embedded one refers to. False: the references could not be read.
+template <const Record &R>
+template <class F>
+bool Lifecycle<R>::sweep_references(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+    auto *field = F::at(object);
+    const std::uint32_t n = Primitive<F>::get_oid_count(h, ctx_id, field, err);
+    if (n == 0) return true;
+
+    // The number comes from outside the library, so the stack holds only as many as an address commonly has.
+    constexpr std::uint32_t on_stack = 64;
+    void *few[on_stack] = {};
+    void **many = n > on_stack ? static_cast<void **>(std::malloc(std::size_t{n} * sizeof(void *))) : nullptr;
+    void **oids = n > on_stack ? many : few;
+    if (oids == nullptr) *err = ENOMEM;
+    if (many != nullptr) std::memset(many, 0, std::size_t{n} * sizeof(void *));
+    if (*err == 0) Primitive<F>::get_object_references(h, ctx_id, field, oids, n, err);
+    const bool readable = *err == 0;
+    if (!readable) {
+        static constexpr auto text =
+            named_text<R>("(ERR): ", " destroy: Failed to get oid references from object. Error %s");
+        trace(error_level, text.data(), error_text(*err));
+    }
+    for (std::uint32_t i = 0; readable && i < n; ++i) {
+        mirklib_lookup_and_update_oid_ref_count(h, ctx_id, oids[i], 0, err);
+        if (*err == 0) continue;
+        static constexpr auto text =
+            named_text<R>("(ERR): ", " destroy: Failed to decrement ref count of oid %p. Error %s");
+        trace(error_level, text.data(), oids[i], error_text(*err));
+        *err = 0;
+    }
+    std::free(many);
+    return readable;
+}
+
+template <const Record &R>
+template <class F>
+bool Lifecycle<R>::end_member(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+    if constexpr (schema::has_area(F::member)) {
+        if (!sweep_references<F>(h, ctx_id, object, err)) return false;
+        Primitive<F>::destroy_internal(h, ctx_id, F::at(object), 0);
+    } else if constexpr (F::kind == Kind::array) {
+        mirk_object **block = F::at(object);
+        if (*block != nullptr) {
+            const std::uint32_t n = F::count(object);
+            for (std::uint32_t i = 0; i < n; ++i) {
+                Lifecycle<F::element>::destroy_internal(h, ctx_id, element_at<F::element>(*block, i), 0);
+            }
+            release(h, ctx_id, *block);
+            store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
+        }
+        if (is_state_tracked(object)) {
+            const ElementStates states = F::element_states(state_area<R>(h, ctx_id, object));
+            if (states.block() != nullptr) {
+                release(h, ctx_id, states.block());
+                states.put(nullptr);
+            }
+        }
+    } else if constexpr (F::kind == Kind::string) {
+        char **body = F::at(object);
+        if (*body != nullptr) {
+            release(h, ctx_id, *body);
+            store(h, ctx_id, body, static_cast<char *>(nullptr));
+        }
+    }
+    return true;
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
+    if (object == nullptr || object == sentinel()) return;
+    if (!end_mapping<R>(h, ctx_id, object)) return;
+    std::uint32_t error = 0;
+    if (!walk_while<R>([&]<class F>(F) { return end_member<F>(h, ctx_id, object, &error); })) return;
+    end_object<R>(h, ctx_id, object, free_it);
+}
+
+}  // namespace tarn
+
+#include "exports/lifecycle.inc"

@@ -1,0 +1,171 @@
+// The one walk over the members of a record, and the only place that turns a member and an instance into an address.
+//
+// A family is a template over a record's table. The walk hands it each member as a type, so that the compiler sees offsets,
+// kinds and slots as constants and unrolls the family to straight-line code.
+#pragma once
+
+#include <type_traits>
+#include <utility>
+
+#include "runtime/object.h"
+
+namespace tarn {
+
+using schema::Enumeration;
+using schema::Kind;
+using schema::Member;
+using schema::Record;
+using schema::Role;
+
+template <Kind K>
+struct StorageOf;
+template <>
+struct StorageOf<Kind::u8> : std::type_identity<std::uint8_t> {};
+template <>
+struct StorageOf<Kind::u16> : std::type_identity<std::uint16_t> {};
+template <>
+struct StorageOf<Kind::u32> : std::type_identity<std::uint32_t> {};
+template <>
+struct StorageOf<Kind::u64> : std::type_identity<std::uint64_t> {};
+template <>
+struct StorageOf<Kind::boolean> : std::type_identity<mirk_boolean> {};
+template <>
+struct StorageOf<Kind::address> : std::type_identity<ip_address> {};
+template <>
+struct StorageOf<Kind::enumeration> : std::type_identity<enumeration_object> {};
+template <>
+struct StorageOf<Kind::record> : std::type_identity<mirk_object> {};
+template <>
+struct StorageOf<Kind::array> : std::type_identity<mirk_object *> {};
+template <>
+struct StorageOf<Kind::string> : std::type_identity<char *> {};
+
+// An object is handed around by its header; its other bytes are reached from here alone.
+inline std::uint8_t *bytes_of(mirk_object *object) { return reinterpret_cast<std::uint8_t *>(object); }
+inline const std::uint8_t *bytes_of(const mirk_object *object) { return reinterpret_cast<const std::uint8_t *>(object); }
+
+// The state area, found anew each time: where the runtime says, or directly behind the instance.
+template <const Record &R>
+std::uint8_t *state_area(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    const std::uint32_t away = (object->obj_flag & flag::sttr_offset) != 0 ? mirklib_get_sttr_offset(h, ctx_id, object)
+                                                                           : schema::layout<R>.base_size;
+    return bytes_of(object) + away;
+}
+
+// Element number index of a block of n; its state area stands behind all elements.
+template <const Record &R>
+mirk_object *element_at(mirk_object *block, std::uint32_t index) {
+    return reinterpret_cast<mirk_object *>(bytes_of(block) + std::size_t{index} * schema::layout<R>.base_size);
+}
+template <const Record &R>
+const mirk_object *element_at(const mirk_object *block, std::uint32_t index) {
+    return reinterpret_cast<const mirk_object *>(bytes_of(block) + std::size_t{index} * schema::layout<R>.base_size);
+}
+template <const Record &R>
+std::uintptr_t element_area(const mirk_object *block, std::uint64_t n, std::uint64_t index) {
+    return address_of(block) + n * schema::layout<R>.base_size + index * schema::layout<R>.state_width;
+}
+
+template <const Record &R, std::size_t I>
+struct Field {
+    static constexpr const Record &owner = R;
+    static constexpr std::size_t index = I;
+    static constexpr const Member &member = R.members[I];
+    static constexpr Kind kind = member.kind;
+    static constexpr schema::Place place = schema::layout<R>.places[I];
+    using Storage = typename StorageOf<kind>::type;
+
+    // The argument pair's second word, by which the runtime tells accessors of booleans and enumerations from the rest.
+    static constexpr std::uint32_t value_kind = kind == Kind::boolean || kind == Kind::enumeration ? 1 : 0;
+
+    static const char *name() { return member.name.data(); }
+
+    // Null for a null object.
+    static Storage *at(mirk_object *object) {
+        return object != nullptr ? reinterpret_cast<Storage *>(bytes_of(object) + place.offset) : nullptr;
+    }
+    static const Storage *at(const mirk_object *object) {
+        return reinterpret_cast<const Storage *>(bytes_of(object) + place.offset);
+    }
+
+    static std::uint8_t *state(std::uint8_t *area) { return area + place.slot; }
+    static std::uint8_t *inner_area(std::uint8_t *area) { return area + place.inner; }
+    static std::uintptr_t inner_area(std::uintptr_t area) { return area + place.inner; }
+    static ElementStates element_states(std::uint8_t *area) {
+        return area != nullptr ? ElementStates(area + place.inner) : ElementStates();
+    }
+};
+
+// What an array and a string have in common: a block, and in front of it the member that says how much is in it.
+template <const Record &R, std::size_t I>
+struct Block : Field<R, I> {
+    using Counter = Field<R, I - 1>;
+    using Count = typename Counter::Storage;
+
+    static Count stored_count(const mirk_object *object) {
+        return object != nullptr ? *Counter::at(object) : Count{0};
+    }
+    // A count beside a null block, as a failed read leaves it, counts nothing.
+    static Count count(const mirk_object *object) {
+        return object != nullptr && *Field<R, I>::at(object) != nullptr ? *Counter::at(object) : Count{0};
+    }
+};
+
+template <const Record &R, std::size_t I>
+struct ArrayField : Block<R, I> {
+    static constexpr const Record &element = *R.members[I].record;
+    static constexpr std::size_t base = schema::layout<element>.base_size;
+    static constexpr std::size_t width = schema::layout<element>.state_width;
+};
+
+template <const Record &R, std::size_t I>
+constexpr auto field() {
+    if constexpr (R.members[I].kind == Kind::array) {
+        return ArrayField<R, I>{};
+    } else if constexpr (R.members[I].kind == Kind::string) {
+        return Block<R, I>{};
+    } else {
+        return Field<R, I>{};
+    }
+}
+
+// Calls visit with each member in table order until it returns false; true if none did.
+template <const Record &R, class Visit>
+[[gnu::always_inline]] constexpr bool walk_while(Visit &&visit) {
+    return [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+        return (visit(field<R, I>()) && ...);
+    }(std::make_index_sequence<R.members.size()>{});
+}
+
+template <const Record &R, class Visit>
+[[gnu::always_inline]] constexpr void walk(Visit &&visit) {
+    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+        (visit(field<R, I>()), ...);
+    }(std::make_index_sequence<R.members.size()>{});
+}
+
+// For each byte of the state area whether it is part of the address of an element-state vector, at any depth.
+template <const Record &R>
+constexpr auto vector_bytes() {
+    std::array<bool, schema::layout<R>.state_width> marks{};
+    walk<R>([&]<class F>(F) {
+        if constexpr (F::kind == Kind::array) {
+            for (std::size_t i = 0; i < schema::pointer_size; ++i) marks[F::place.inner + i] = true;
+        } else if constexpr (F::kind == Kind::record) {
+            const auto nested = vector_bytes<*F::member.record>();
+            for (std::size_t i = 0; i < nested.size(); ++i) marks[F::place.inner + i] = nested[i];
+        }
+    });
+    return marks;
+}
+
+// True for a record that holds, itself and not further down, a member of which the question is true.
+template <const Record &R>
+constexpr bool any_member(bool (*question)(const Member &)) {
+    for (const Member &m : R.members) {
+        if (question(m)) return true;
+    }
+    return false;
+}
+
+}  // namespace tarn

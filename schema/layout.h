@@ -1,0 +1,94 @@
+// Where the members of an instance lie, computed from the tables alone.
+//
+// An instance is an 11-byte header, then each member at its natural alignment, then slop, then, on a handle that tracks
+// state, the state area with one byte (slot) for each tracked member. Nested records and addresses take their state bytes
+// from inside the area of their owner. An array has two places there: the byte of the whole array, and at the next
+// multiple of 8 a pointer to a block of one byte for each element.
+#pragma once
+
+#include "schema/model.h"
+
+namespace tarn::schema {
+
+inline constexpr std::uint32_t header_size = 11;
+inline constexpr std::uint32_t boolean_size = 16;
+inline constexpr std::uint32_t enumeration_size = 16;
+inline constexpr std::uint32_t enumeration_value_offset = 12;
+inline constexpr std::uint32_t address_size = 40;
+inline constexpr std::uint32_t address_area = 7;
+inline constexpr std::uint32_t pointer_size = 8;
+inline constexpr std::size_t most_members = 64;
+
+struct Place {
+    std::uint32_t offset = 0;  // from the start of the instance
+    std::uint32_t size = 0;
+    std::uint32_t slot = 0;    // state byte; of no meaning for a count or a length
+    std::uint32_t inner = 0;   // nested record, address: first slot of its own area; array: slot of the vector pointer
+};
+
+struct Layout {
+    std::array<Place, most_members> places{};
+    std::uint32_t used_length = 0;   // to the end of the last member
+    std::uint32_t rounded = 0;       // that, up to a multiple of 8
+    std::uint32_t base_size = 0;     // what an instance takes without its state area
+    std::uint32_t alloc_slop = 0;
+    std::uint32_t state_width = 0;
+    bool has_vector_pointer = false; // at any depth
+};
+
+constexpr std::uint32_t round_up(std::uint32_t n, std::uint32_t to) { return (n + to - 1) / to * to; }
+
+constexpr Layout lay_out(const Record &record);
+
+constexpr std::uint32_t storage_size(const Member &m) {
+    switch (m.kind) {
+        case Kind::u8: return 1;
+        case Kind::u16: return 2;
+        case Kind::u32: return 4;
+        case Kind::u64: return 8;
+        case Kind::boolean: return boolean_size;
+        case Kind::enumeration: return enumeration_size;
+        case Kind::address: return address_size;
+        case Kind::record: return lay_out(*m.record).base_size;
+        case Kind::string:
+        case Kind::array: return pointer_size;
+    }
+    return 0;
+}
+
+constexpr Layout lay_out(const Record &record) {
+    Layout l;
+    l.used_length = header_size;
+    for (std::size_t i = 0; i < record.members.size(); ++i) {
+        const Member &m = record.members[i];
+        Place &p = l.places[i];
+        p.size = storage_size(m);
+        p.offset = round_up(l.used_length, is_integer(m.kind) ? p.size : 8);
+        l.used_length = p.offset + p.size;
+        if (!is_tracked(m)) continue;
+        p.slot = l.state_width++;
+        if (m.kind == Kind::address) {
+            p.inner = l.state_width;
+            l.state_width += address_area;
+        } else if (m.kind == Kind::record) {
+            const Layout nested = lay_out(*m.record);
+            p.inner = round_up(l.state_width, nested.has_vector_pointer ? 8 : 1);
+            l.state_width = p.inner + nested.state_width;
+            l.has_vector_pointer |= nested.has_vector_pointer;
+        } else if (m.kind == Kind::array) {
+            p.inner = round_up(l.state_width, 8);
+            l.state_width = p.inner + pointer_size;
+            l.has_vector_pointer = true;
+        }
+    }
+    if (l.has_vector_pointer) l.state_width = round_up(l.state_width, 8);
+    l.rounded = round_up(l.used_length, 8);
+    l.base_size = l.rounded + (l.rounded < 64 ? 8 : 16);
+    l.alloc_slop = l.base_size - l.used_length;
+    return l;
+}
+
+template <const Record &R>
+inline constexpr Layout layout = lay_out(R);
+
+}  // namespace tarn::schema

@@ -1,0 +1,105 @@
+// What a table must satisfy before anything is computed from it. The catalogue refuses to compile with a table that has a
+// finding; the same function, run by a test, says what is wrong in a sentence.
+#pragma once
+
+#include "schema/layout.h"
+
+namespace tarn::schema {
+
+struct Finding {
+    std::string_view record, member, sentence;  // an empty sentence: nothing was found
+    constexpr explicit operator bool() const { return !sentence.empty(); }
+};
+
+constexpr bool is_name(std::string_view name) {
+    if (name.empty() || name.front() == '_' || (name.front() >= '0' && name.front() <= '9')) return false;
+    for (const char c : name) {
+        if (!(c >= 'a' && c <= 'z') && !(c >= '0' && c <= '9') && c != '_') return false;
+    }
+    return true;
+}
+
+constexpr bool is_length_name(std::string_view length, std::string_view string) {
+    return length.size() == string.size() + 4 && length.starts_with(string) && length.ends_with("_len");
+}
+
+constexpr Finding lint(const Record &record) {
+    const auto found = [&](const Member &m, std::string_view sentence) { return Finding{record.name, m.name, sentence}; };
+    if (!is_name(record.name)) return {record.name, {}, "a record's name is lower-case letters, digits and underscores"};
+    if (record.name.size() > 63) return {record.name, {}, "a record's name has at most 63 characters"};
+    if (record.members.empty()) return {record.name, {}, "a record has at least one member"};
+    if (record.members.size() > most_members) return {record.name, {}, "a record has at most 64 members"};
+    for (std::size_t i = 0; i < record.members.size(); ++i) {
+        const Member &m = record.members[i];
+        const Member *before = i > 0 ? &record.members[i - 1] : nullptr;
+        const Member *behind = i + 1 < record.members.size() ? &record.members[i + 1] : nullptr;
+        if (!is_name(m.name)) return found(m, "a member's name is lower-case letters, digits and underscores");
+        if (m.meaning.empty()) return found(m, "a member says in a phrase what it means");
+        for (std::size_t j = 0; j < i; ++j) {
+            if (record.members[j].name == m.name) return found(m, "two members of one record have the same name");
+        }
+        if ((m.kind == Kind::record || m.kind == Kind::array) != (m.record != nullptr)) {
+            return found(m, "a nested record or an array, and nothing else, names a record");
+        }
+        if ((m.kind == Kind::enumeration) != (m.enumeration != nullptr)) {
+            return found(m, "a choice, and nothing else, names an enumeration");
+        }
+        if (m.role == Role::count && (behind == nullptr || behind->kind != Kind::array)) {
+            return found(m, "a count stands right in front of its array");
+        }
+        if (m.role == Role::count && m.kind != Kind::u8 && m.kind != Kind::u32) {
+            return found(m, "a count has one or four bytes");
+        }
+        if (m.role == Role::length && (behind == nullptr || behind->kind != Kind::string)) {
+            return found(m, "a length stands right in front of its string");
+        }
+        if (m.role == Role::length && m.kind != Kind::u16) return found(m, "a length has two bytes");
+        if (m.role == Role::length && !is_length_name(m.name, behind->name)) {
+            return found(m, "a length is named as its string with _len behind it");
+        }
+        if (m.kind == Kind::array && (before == nullptr || before->role != Role::count)) {
+            return found(m, "an array stands right behind its count");
+        }
+        if (m.kind == Kind::string && (before == nullptr || before->role != Role::length)) {
+            return found(m, "a string stands right behind its length");
+        }
+    }
+    return {};
+}
+
+constexpr Finding lint(const Enumeration &enumeration) {
+    if (!is_name(enumeration.name)) {
+        return {enumeration.name, {}, "an enumeration's name is lower-case letters, digits and underscores"};
+    }
+    if (enumeration.enumerators.empty()) return {enumeration.name, {}, "an enumeration has at least one enumerator"};
+    for (std::size_t i = 0; i < enumeration.enumerators.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (enumeration.enumerators[i] == enumeration.enumerators[j]) {
+                return {enumeration.name, enumeration.enumerators[i], "two enumerators have the same name"};
+            }
+        }
+    }
+    return {};
+}
+
+// Over a list of types that have a name and an identity: both are unique.
+template <class List>
+constexpr Finding lint_identities(const List &list) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (list[i]->name == list[j]->name) return {list[i]->name, {}, "two types have the same name"};
+            if (list[i]->luid.bytes == list[j]->luid.bytes) return {list[i]->name, {}, "two types have the same identity"};
+        }
+    }
+    return {};
+}
+
+template <class List>
+constexpr Finding lint_each(const List &list) {
+    for (const auto *type : list) {
+        if (const Finding finding = lint(*type)) return finding;
+    }
+    return {};
+}
+
+}  // namespace tarn::schema

@@ -1,0 +1,127 @@
+// What a schema is made of. Everything else in the house - layouts, exports, headers, encodings, tests - is computed
+// from values of these types, so this page is the architecture.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace tarn::schema {
+
+enum class Kind : std::uint8_t { u8, u16, u32, u64, boolean, address, enumeration, record, string, array };
+
+// An integer is a value of its own, or it counts the array or the string that stands right behind it.
+enum class Role : std::uint8_t { value, count, length };
+
+// A 128-bit identity, written as 32 lower-case hexadecimal digits.
+struct Luid {
+    std::array<char, 33> text{};
+    std::array<std::uint8_t, 16> bytes{};
+
+    consteval Luid(const char (&digits)[33]) {
+        for (std::size_t i = 0; i < 32; ++i) {
+            const char c = digits[i];
+            const bool decimal = c >= '0' && c <= '9';
+            if (!decimal && !(c >= 'a' && c <= 'f')) throw "an identity is 32 lower-case hexadecimal digits";
+            const int nibble = decimal ? c - '0' : c - 'a' + 10;
+            bytes[i / 2] = static_cast<std::uint8_t>(bytes[i / 2] * 16 + nibble);
+            text[i] = c;
+        }
+    }
+};
+
+struct Record;
+
+struct Enumeration {
+    std::string_view name;
+    Luid luid;
+    std::string_view meaning;
+    std::span<const std::string_view> enumerators;
+};
+
+struct Member {
+    std::string_view name;
+    std::string_view meaning;
+    Kind kind;
+    Role role = Role::value;
+    const Record *record = nullptr;            // of a nested record or of an array's elements
+    const Enumeration *enumeration = nullptr;  // of an enumeration
+};
+
+struct Record {
+    std::string_view name;
+    Luid luid;
+    std::string_view meaning;
+    std::span<const Member> members;
+};
+
+struct Message {
+    std::string_view name;
+    Luid luid;
+    const Record &payload;
+};
+
+struct Bundle {
+    std::string_view name;
+    const Message &message;  // the one message of this module that it admits
+    Luid start, abort, commit;
+};
+
+// One builder for each thing that a member can be, so that a table reads from left to right.
+consteval Member u8(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u8}; }
+consteval Member u16(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u16}; }
+consteval Member u32(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u32}; }
+consteval Member u64(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u64}; }
+consteval Member boolean(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::boolean}; }
+consteval Member address(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::address}; }
+consteval Member choice(std::string_view name, const Enumeration &of, std::string_view meaning) {
+    return {name, meaning, Kind::enumeration, Role::value, nullptr, &of};
+}
+consteval Member one(std::string_view name, const Record &of, std::string_view meaning) {
+    return {name, meaning, Kind::record, Role::value, &of};
+}
+consteval Member count8(std::string_view name, std::string_view meaning) {
+    return {name, meaning, Kind::u8, Role::count};
+}
+consteval Member count32(std::string_view name, std::string_view meaning) {
+    return {name, meaning, Kind::u32, Role::count};
+}
+consteval Member many(std::string_view name, const Record &of, std::string_view meaning) {
+    return {name, meaning, Kind::array, Role::value, &of};
+}
+consteval Member length(std::string_view name, std::string_view meaning) {
+    return {name, meaning, Kind::u16, Role::length};
+}
+consteval Member string(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::string}; }
+
+constexpr bool is_integer(Kind kind) { return kind <= Kind::u64; }
+
+// Has the six accessors, with a value that fits in a register.
+constexpr bool is_scalar(const Member &m) {
+    return m.role == Role::value && (is_integer(m.kind) || m.kind == Kind::boolean || m.kind == Kind::enumeration);
+}
+
+// Embedded with a state area of its own.
+constexpr bool has_area(const Member &m) { return m.kind == Kind::record || m.kind == Kind::address; }
+
+// Embedded with a header of its own, to be initialised with its owner.
+constexpr bool is_embedded(const Member &m) {
+    return has_area(m) || m.kind == Kind::boolean || m.kind == Kind::enumeration;
+}
+
+constexpr bool owns_block(const Member &m) { return m.kind == Kind::array || m.kind == Kind::string; }
+
+// Has a state byte; counts and lengths have none.
+constexpr bool is_tracked(const Member &m) { return m.role == Role::value; }
+
+// All instances have one size on the wire: integers only, at any depth.
+constexpr bool has_fixed_wire_size(const Record &record) {
+    for (const Member &m : record.members) {
+        if (m.kind == Kind::record ? !has_fixed_wire_size(*m.record) : !is_integer(m.kind)) return false;
+    }
+    return true;
+}
+
+}  // namespace tarn::schema

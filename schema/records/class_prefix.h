@@ -1,0 +1,41 @@
+// Traffic classes that hang on a prefix, by prefix and processor.
+#pragma once
+
+#include "schema/model.h"
+#include "schema/records/memory.h"
+#include "schema/records/traffic_class.h"
+
+namespace tarn::schema {
+
+inline constexpr Member lumo_tarn_dp_mp_tc_prefix_members[] = {
+    u8("lumo_num", "number of the lumo processor that this entry describes"),
+    u64("cl_addr", "the entry's address on the client side"),
+    one("tc_list_head", lumo_tarn_exmem_info, "where the head of the class list lies in memory"),
+    u64("tc_list_head_next", "link of the list head to what follows it in the data plane"),
+    one("tc_list", lumo_tarn_dp_tc_list, "traffic classes"),
+    boolean("show_pfx_comm", "selection flag of the show request"),
+};
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix{"lumo_tarn_dp_mp_tc_prefix", "fbe004f62f1d7cc30a8c75dac41c968e",
+    "traffic classes of one prefix on one processor",
+    lumo_tarn_dp_mp_tc_prefix_members};
+
+inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
+    address("prefix", "prefix"),
+    count8("num_lumos", "elements in lumo_data"),
+    many("lumo_data", lumo_tarn_dp_mp_tc_prefix, "entries, one for each processor"),
+};
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{"lumo_tarn_dp_mp_tc_prefix_lumo_data", "711360b81716cdfdc00a905deaa73014",
+    "one prefix with its entries",
+    lumo_tarn_dp_mp_tc_prefix_lumo_data_members};
+
+inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
+    boolean("show_header", "selection flag of the show request"),
+    u32("total_prefixes", "total number of prefixes"),
+    count8("num_prefixes", "elements in prefix_data"),
+    many("prefix_data", lumo_tarn_dp_mp_tc_prefix_lumo_data, "prefixes"),
+};
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix_data{"lumo_tarn_dp_mp_tc_prefix_data", "4b537616bd52ae9760915de7a444c97a",
+    "prefixes with the traffic classes that hang on them",
+    lumo_tarn_dp_mp_tc_prefix_data_members};
+
+}  // namespace tarn::schema

@@ -1,0 +1,80 @@
+// What the client side holds of one processor.
+#pragma once
+
+#include "schema/enumerations.h"
+#include "schema/model.h"
+#include "schema/records/memory.h"
+
+namespace tarn::schema {
+
+inline constexpr Member lumo_tarn_lumo_info_members[] = {
+    boolean("display_all", "show: everything"),
+    boolean("display_fdb", "show: the fdb part"),
+    boolean("display_ha", "show: the high-availability part"),
+    boolean("display_wexa", "show: the wexa part"),
+    boolean("display_handles", "show: the handles"),
+    boolean("display_exmem", "show: the memory blocks"),
+    boolean("display_init", "show: the initialisation state"),
+    u8("lumo_num", "number of this lumo processor"),
+    u8("complex_num", "number of the complex that the processor belongs to"),
+    choice("direction", lumo_tarn_lumo_direction_e, "direction of traffic that the processor serves"),
+    u32("epoch", "epoch value of the processor"),
+    u32("fdb_initialized", "flag word: fdb initialised"),
+    one("fdb_base", lumo_tarn_fdb_base, "header and footer description of the fdb"),
+    u16("chunk_overhead", "overhead of a chunk"),
+    u16("flow_info_mem_size", "memory size of a flow information entry"),
+    u16("mp_cache_entry_size", "size of an mp cache entry"),
+    u16("tt_cache_entry_size", "size of a tt cache entry"),
+    one("tarn_tt_tbl", lumo_tarn_fdb_mem_info, "memory of the feature's traffic table"),
+    one("tarn_debug_flags", lumo_tarn_fdb_mem_info, "memory of the feature's debug flags"),
+    choice("ha_state", lumo_tarn_ha_state_e, "high-availability state of the processor"),
+    u32("ha_running", "flag word: high availability is running"),
+    u32("ha_enabled", "flag word: high availability is enabled"),
+    u64("drv_conn_h", "handle: the connection to the driver"),
+    u64("exmem_h", "handle: external memory"),
+    u16("wexa_num_feat", "number of features in a wexa entry"),
+    u16("wexa_feat_size", "size of a feature in a wexa entry"),
+    u64("in_wexa_h", "handle: ingress wexa"),
+    u64("in_wexa_feat_h", "handle: ingress wexa feature"),
+    u64("out_wexa_h", "handle: egress wexa"),
+    u64("out_wexa_feat_h", "handle: egress wexa feature"),
+    u32("dp_hash_salt", "salt of the data plane's hash, carried as a datum"),
+    u32("flow_info_initialized", "flag word: flow information initialised on the client side"),
+    u32("dp_flow_info_initialized", "flag word: flow information initialised in the data plane"),
+    u32("mp_initialized", "flag word: mp initialised on the client side"),
+    u32("dp_mp_initialized", "flag word: mp initialised in the data plane"),
+    u32("tt_initialized", "flag word: tt initialised on the client side"),
+    u32("dp_tt_initialized", "flag word: tt initialised in the data plane"),
+    u32("appl_sig_initialized", "flag word: application signatures initialised on the client side"),
+    u32("dp_appl_sig_initialized", "flag word: application signatures initialised in the data plane"),
+    u64("tt_tc_filter_list_exmem_ptr", "external memory of the traffic table's filter class list"),
+    u64("tt_tc_agg_list_exmem_ptr", "external memory of the traffic table's aggregation class list"),
+    u64("tt_tc_learn_list_exmem_ptr", "external memory of the traffic table's learn list"),
+    u64("tc_list_head_chunk_h", "handle: chunk pool of class list heads"),
+    u64("tc_chunk_h", "handle: chunk pool of traffic classes"),
+    u64("ll_chunk_h", "handle: chunk pool of learn lists"),
+    u64("appl_chunk_h", "handle: chunk pool of applications"),
+    u64("cl_appl_sig_hash_ptr", "the client side's application signature hash"),
+    u64("dp_appl_sig_hash_h", "handle: the data plane's application signature hash"),
+    u64("appl_sig_chunk_h", "handle: chunk pool of application signatures"),
+    one("appl_sig_hash_exmem", lumo_tarn_exmem_info, "block of the application signature hash"),
+    one("mp_export_exmem", lumo_tarn_exmem_info, "block of the mp export"),
+    one("tt_export_exmem", lumo_tarn_exmem_info, "block of the tt export"),
+    count8("num_static_exmems", "elements in static_exmem"),
+    many("static_exmem", lumo_tarn_static_exmem_info, "processor's static memory blocks"),
+    count8("num_dyn_exmems", "elements in dyn_exmem"),
+    many("dyn_exmem", lumo_tarn_dyn_exmem_info, "processor's dynamic memory blocks"),
+};
+inline constexpr Record lumo_tarn_lumo_info{"lumo_tarn_lumo_info", "96db130edec7ebbd06d4f894d4fe5c5c",
+    "one processor",
+    lumo_tarn_lumo_info_members};
+
+inline constexpr Member lumo_tarn_lumo_info_list_members[] = {
+    count32("num_lumos", "elements in lumo_info"),
+    many("lumo_info", lumo_tarn_lumo_info, "one element for each processor"),
+};
+inline constexpr Record lumo_tarn_lumo_info_list{"lumo_tarn_lumo_info_list", "feae474225863ddfc8b3a23c79e311d4",
+    "processors of the system",
+    lumo_tarn_lumo_info_list_members};
+
+}  // namespace tarn::schema

@@ -1,0 +1,57 @@
+// Traffic tables of the data plane, by processor.
+#pragma once
+
+#include "schema/model.h"
+#include "schema/records/learn_list.h"
+#include "schema/records/memory.h"
+#include "schema/records/traffic_class.h"
+
+namespace tarn::schema {
+
+inline constexpr Member lumo_tarn_dp_tt_table_members[] = {
+    boolean("show_header", "show: the table's header"),
+    boolean("show_agg_list", "show: the aggregation class list"),
+    boolean("show_filter_list", "show: the filter class list"),
+    boolean("show_ll_header", "show: the header of the learn list"),
+    boolean("show_ll_list", "show: the learn list itself"),
+    boolean("display_all", "show: all of it"),
+    boolean("display_tc", "show: the traffic classes"),
+    boolean("display_ll", "show: the learn lists"),
+    one("fdb_info", lumo_tarn_fdb_mem_info, "fdb memory of the table"),
+    u8("lumo_num", "number of the lumo processor that holds the table"),
+    u8("state", "state of the table"),
+    u8("learn_type", "type of learning"),
+    u8("agg_type", "type of aggregation"),
+    u8("min_mask", "minimum mask"),
+    u8("tt_bit_flags", "flags of the table"),
+    u16("aging_type", "type of aging"),
+    u32("num_prefixes", "number of prefixes in the table"),
+    u32("duration", "duration"),
+    u32("start_time", "start time"),
+    u32("end_time", "end time"),
+    u64("agg_tc_list_ptr", "where the aggregation class list lies in the data plane"),
+    one("agg_tc_list", lumo_tarn_dp_tc_list, "aggregation classes"),
+    u64("filter_tc_list_ptr", "where the filter class list lies in the data plane"),
+    one("filter_tc_list", lumo_tarn_dp_tc_list, "filter classes"),
+    u64("learn_list_ptr", "where the learn list lies in the data plane"),
+    one("learn_list", lumo_tarn_dp_learn_list, "learn list"),
+    u32("key_mask", "mask of the table's key"),
+    u64("thruput_head_ptr", "head of the throughput entries in the data plane"),
+    u32("thruput_entries", "number of throughput entries"),
+    u64("delay_head_ptr", "head of the delay entries in the data plane"),
+    u32("delay_entries", "number of delay entries"),
+};
+inline constexpr Record lumo_tarn_dp_tt_table{"lumo_tarn_dp_tt_table", "9035b091bd9713f7567017cbe2e56f08",
+    "one traffic table of one processor",
+    lumo_tarn_dp_tt_table_members};
+
+inline constexpr Member lumo_tarn_dp_tt_table_data_members[] = {
+    boolean("show_header", "selection flag of the show request"),
+    count8("num_lumos", "elements in lumo_data"),
+    many("lumo_data", lumo_tarn_dp_tt_table, "tables, one for each processor"),
+};
+inline constexpr Record lumo_tarn_dp_tt_table_data{"lumo_tarn_dp_tt_table_data", "f1ed07c033b05e484505be542bc9308f",
+    "one traffic table for each processor",
+    lumo_tarn_dp_tt_table_data_members};
+
+}  // namespace tarn::schema
