@@ -31,6 +31,7 @@ struct Call {
     std::optional<uint32_t> ctx_id;  // absent where the function takes none
     std::string slot;                // the error slot as address text, empty where the function takes none
     std::string result;              // of obj_alloc and sys_alloc only: the block's name, or "null"
+    bool inner = false;              // made by this provider itself, while it serves another call
 
     // Of skald_wrapper only.
     uint16_t module = 0;
@@ -49,8 +50,11 @@ enum class Detail {
 // the part that all four share ("type", "message", "queue", "stub"), an unknown one by its number.
 std::string line(const Call &call, Detail detail = Detail::brief);
 
+// All calls, inner ones included. The functions below leave out inner calls, such as the write_notify with which
+// u_int32_set_value announces its store, unless show_inner is on.
 std::vector<Call> log();
 void clear_log();
+void show_inner(bool on = true);
 std::vector<std::string> lines(Detail detail = Detail::brief);
 // Only the calls of the named functions, or all but those.
 std::vector<std::string> lines_of(std::initializer_list<std::string_view> functions, Detail detail = Detail::brief);
@@ -63,8 +67,8 @@ std::vector<std::string> traces();
 // While quiet nothing is recorded (and handles may be used on several threads, one thread to a handle).
 void quiet(bool on = true);
 
-// Traces at level 0 are followed by abort(): they are written to standard error too, so that a death test can match
-// them. This also sends all others there.
+// Traces at level 0 are followed by abort(): they always go to standard error too, so that a death test can match them.
+// This sends all others there as well.
 void echo_traces(bool on = true);
 
 // ---- names of addresses ----
@@ -73,10 +77,10 @@ void echo_traces(bool on = true);
 // before earlier ones; then live blocks of obj_alloc ("block1", "block2", ... counted from the last clear_names); then
 // "last_error", "workspace"; then "local" for other stack addresses, a type record by its type's name (followed by
 // "(copy)" for a private copy) and a counter as "<type>.num_live" ("<type>[-3].num_live" for another variant);
-// "null"; and "elsewhere" for all that is left.
+// "null"; "handle+N" for another member of a handle; and "elsewhere" for all that is left.
 void name_region(std::string name, const void *address, size_t size);
 void forget_region(std::string_view name);
-// Forgets all named regions, and starts counting blocks at 1 again.
+// Forgets all named regions and starts counting blocks at 1 again; blocks live by then read as "earlier".
 void clear_names();
 std::string address_text(const void *address);
 
@@ -117,6 +121,7 @@ struct Knobs {
     bool slot_gets_43 = true;  // whether mirk_store_epoch_err writes the slot too
     bool slot_gets_52 = true;
     bool adjust_variant = true;  // whether mirklib_adjust_variant stores anything
+    bool no_type_info = false;   // mirk_type_info_ptr_get answers null
 
     // Object references.
     uint32_t oid_destroy_result = 1;
@@ -138,9 +143,9 @@ struct Knobs {
     mirk_dispatch_info *dispatch_info = nullptr;
     void *dispatch_lut = nullptr;
 
-    // Any function with an error slot: writes this error, does nothing else and returns 0 or null. By the function's
-    // name, such as "u_int32_marshal" or "_mirk_message_header_marshal". A function that finds its slot set comes
-    // first and leaves it; bundle_send_message_list_destroy and bundle_receive_message_list_destroy act all the same.
+    // By the name of a function of values, wire, text, XML, message headers or send bundles that has an error slot, such
+    // as "u_int32_marshal" or "_mirk_message_header_marshal": it writes this error, does nothing else and returns 0 or
+    // null. An error that stands in the slot already is kept.
     std::map<std::string, uint32_t, std::less<>> errors;
 };
 
@@ -196,6 +201,8 @@ bool modified(const void *object);
 // A bare integer has no room for a mark: its backpropagate answers 1 once for an address marked here.
 void mark_integer(const void *field);
 void set_recorder(uint32_t state, FILE *stream);
+void fail_malloc(bool on = true);  // mirklib_malloc answers null
+size_t live_mallocs();             // blocks of mirklib_malloc not yet given back
 // The handler that a sibling module ("comm", "defs", ...) holds, or null.
 mirk_bundle_handler sibling_handler(std::string_view module);
 

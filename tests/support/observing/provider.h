@@ -1,0 +1,190 @@
+// What the sources of the provider share.
+#ifndef TESTS_SUPPORT_OBSERVING_PROVIDER_H
+#define TESTS_SUPPORT_OBSERVING_PROVIDER_H
+
+#include <cerrno>
+#include <concepts>
+#include <cstring>
+#include <list>
+#include <mutex>
+#include <type_traits>
+
+#include "observing.h"
+
+namespace observing {
+
+// ---- one call under way ----
+
+struct At {
+    const void *address;
+};
+inline At at(const void *address) { return {address}; }
+
+std::string show(At shown);
+std::string show(const mirk_type_info *type);
+inline std::string show(const char *text) { return text ? text : "null"; }
+template <std::integral T>
+std::string show(T number) {
+    return std::to_string(+number);
+}
+
+bool recording();
+// Over the log, the names and the list of handles.
+extern std::recursive_mutex guard;
+
+// Records a call when it begins; calls recorded before it ends are inner ones.
+class Entry {
+public:
+    template <class... Shown>
+    Entry(const char *function, std::optional<uint32_t> ctx_id, const uint32_t *err, Shown... shown)
+        : function_(function) {
+        if (recording()) {
+            Call call;
+            call.function = function;
+            call.arguments = {show(shown)...};
+            call.ctx_id = ctx_id;
+            if (err) call.slot = address_text(err);
+            append(std::move(call));
+        }
+        ++depth;
+    }
+    ~Entry() { --depth; }
+    Entry(const Entry &) = delete;
+    Entry &operator=(const Entry &) = delete;
+
+    // The slot holds an error already, or the handle was told to let this function fail.
+    bool refused(mirk_handle *h, uint32_t *err) const;
+
+    static void append(Call call);
+    static void set_result(std::string result);  // of the last call recorded
+
+    static thread_local int depth;
+
+private:
+    const char *function_;
+};
+
+// For the time of a call back into the library, whose calls are not inner ones.
+class Outside {
+public:
+    Outside() : depth_(Entry::depth) { Entry::depth = 0; }
+    ~Outside() { Entry::depth = depth_; }
+    Outside(const Outside &) = delete;
+    Outside &operator=(const Outside &) = delete;
+
+private:
+    int depth_;
+};
+
+// ---- the handle ----
+
+struct Block {
+    size_t size;
+    uint64_t number;  // 0 once its number was given up
+};
+
+// Each callback has a context of its own, so that a mix-up is noticed.
+struct Context {
+    State *owner;
+    const char *purpose;
+};
+
+struct Node {
+    mirk_list_head link;
+    std::string name;
+    const uint8_t *luid;
+    uint32_t count;
+};
+
+struct PrivateVariants {
+    mirk_variant_info info;
+    mirk_variant_entry entries[129];
+};
+
+struct Failing {
+    uint64_t requests = 0;
+    uint64_t first = 0;  // the request that fails, 0 for none
+    bool all_behind = false;
+
+    void arm(uint64_t nth, bool all) {
+        first = nth ? requests + nth : 0;
+        all_behind = all;
+    }
+    bool next() {
+        ++requests;
+        return first != 0 && (requests == first || (all_behind && requests > first));
+    }
+};
+
+struct State : mirk_handle {
+    Knobs knobs;
+    Context memory{this, "mem_ctx"}, store{this, "type_store"}, system{this, "sys_ctx"};
+    mirk_sttr_desc descriptor{};
+    Failing obj_failing, sys_failing;
+    std::map<uintptr_t, Block> blocks;
+    std::list<void *> sys_blocks;
+    std::map<std::string, mirk_type_info_copy *, std::less<>> copies;
+    std::list<PrivateVariants> variants;
+    std::map<const void *, uint32_t> offsets;
+    std::map<const void *, RaData> ra;
+    std::list<Node> nodes;
+    std::vector<uint8_t> workspace;
+};
+
+inline State &state_of(mirk_handle *h) { return *static_cast<State *>(h); }
+// Handles that are open, for the naming of addresses.
+std::list<State *> &open_handles();
+uint64_t next_block_number();
+
+inline bool tracks(const mirk_handle *h) { return h->sttr_desc && h->sttr_desc->sttr_mode == 0xEEEE; }
+
+// ---- bytes and text ----
+
+// Numbers lie on the wire with their lowest byte first.
+template <std::unsigned_integral T>
+void put_number(uint8_t *to, T number) {
+    for (size_t i = 0; i < sizeof(T); ++i) to[i] = static_cast<uint8_t>(static_cast<uint64_t>(number) >> (8 * i));
+}
+template <std::unsigned_integral T>
+T take_number(const uint8_t *from) {
+    uint64_t number = 0;
+    for (size_t i = 0; i < sizeof(T); ++i) number |= static_cast<uint64_t>(from[i]) << (8 * i);
+    return static_cast<T>(number);
+}
+
+// Whether size bytes fit; 90 in the slot if not.
+inline bool fits(size_t size, int32_t remaining, uint32_t *err) {
+    if (remaining >= 0 && size <= static_cast<size_t>(remaining)) return true;
+    *err = EMSGSIZE;
+    return false;
+}
+inline bool present(const void *field, uint32_t *err) {
+    if (!field) *err = EFAULT;
+    return field != nullptr;
+}
+
+// The whole text without a NUL, or nothing and an error.
+uint32_t put_text(char *buffer, int32_t remaining, const std::string &text, uint32_t *err);
+uint32_t print_line(char *buffer, uint32_t indent, const char *name, const std::string &value, int32_t remaining,
+                    uint32_t *err);
+uint32_t print_element(const char *name, char *buffer, const std::string &value, int32_t remaining, uint8_t state,
+                       uint32_t *err);
+// The first element's value, or null and the error in the slot.
+const std::string *element_value(const void *document, const char *path, uint32_t *err);
+
+uint32_t mix(const void *data, size_t length, uint32_t seed);
+
+// ---- objects ----
+
+inline constexpr uint8_t flag_embedded = 2, flag_tracked = 8, flag_ra = 32, flag_offset = 64, flag_modified = 128;
+
+// What initialize does to every object that the provider itself describes; false if it found the slot set.
+bool initialize_header(mirk_handle *h, uint32_t ctx_id, void *object, mirk_type_info *type, uint32_t notify,
+                       uint32_t skip_count, uint8_t flags, uint32_t *err);
+void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t *counter, int64_t delta);
+void notify_write(mirk_handle *h, uint32_t ctx_id, void *address, size_t size);
+uint8_t *state_area(mirk_handle *h, void *object, size_t base_size);
+
+}  // namespace observing
+
+#endif
