@@ -31,8 +31,8 @@ void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
 void *obj_alloc(void *mem_ctx, uint32_t ctx_id, size_t size) {
     State &state = owner_of(mem_ctx, "mem_ctx");
     Entry entry("obj_alloc", ctx_id, nullptr, size);
-    const bool refused = state.obj_failing.next() || size > state.knobs.block_ceiling ||
-                         (size == 0 && state.knobs.null_for_size_0);
+    const bool refused =
+        state.obj_failing.next() || size > state.knobs.block_ceiling || (size == 0 && state.knobs.null_for_size_0);
     void *block = refused ? nullptr : std::malloc(size);
     if (block) {
         std::memset(block, 0xA5, size);

@@ -55,9 +55,7 @@ void set_modified(void *object, bool on) {
     uint8_t &flag = object_at(object)->obj_flag;
     flag = static_cast<uint8_t>(on ? flag | flag_modified : flag & ~flag_modified);
 }
-bool modified(const void *object) {
-    return (static_cast<const mirk_object *>(object)->obj_flag & flag_modified) != 0;
-}
+bool modified(const void *object) { return (static_cast<const mirk_object *>(object)->obj_flag & flag_modified) != 0; }
 
 void notify_write(mirk_handle *h, uint32_t ctx_id, void *address, size_t size) {
     h->write_notify(h->mem_ctx, address, size, ctx_id);
@@ -73,9 +71,11 @@ void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t
 }
 
 uint8_t *state_area(mirk_handle *h, void *object, size_t base_size) {
-    if (!tracks(h) || !(object_at(object)->obj_flag & flag_tracked)) return nullptr;
-    size_t offset = base_size;
-    if (object_at(object)->obj_flag & flag_offset) offset = mirklib_get_sttr_offset(h, 0, object);
+    const uint8_t flag = object_at(object)->obj_flag;
+    if (!tracks(h) || !(flag & flag_tracked)) return nullptr;
+    // Behind a nested object stands the next member of its owner.
+    if ((flag & flag_nested) && !(flag & flag_offset)) return nullptr;
+    const size_t offset = flag & flag_offset ? mirklib_get_sttr_offset(h, 0, object) : base_size;
     return static_cast<uint8_t *>(object) + static_cast<ptrdiff_t>(static_cast<int32_t>(offset));
 }
 
@@ -276,8 +276,7 @@ void mirk_hd_mapping_destroy(mirk_handle *h, uint32_t ctx_id, void *object, uint
     state.offsets.erase(object);
     state.ra.erase(object);
 }
-void mirklib_lookup_and_update_oid_ref_count(mirk_handle *h, uint32_t ctx_id, void *oid, uint32_t zero,
-                                             uint32_t *err) {
+void mirklib_lookup_and_update_oid_ref_count(mirk_handle *h, uint32_t ctx_id, void *oid, uint32_t zero, uint32_t *err) {
     Entry entry(__func__, ctx_id, err, reinterpret_cast<uintptr_t>(oid), zero);
     const auto &errors = state_of(h).knobs.oid_count_errors;
     if (const auto found = errors.find(oid); found != errors.end()) write_slot(err, found->second);

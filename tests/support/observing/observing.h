@@ -143,9 +143,9 @@ struct Knobs {
     mirk_dispatch_info *dispatch_info = nullptr;
     void *dispatch_lut = nullptr;
 
-    // By the name of a function of values, wire, text, XML, message headers or send bundles that has an error slot, such
-    // as "u_int32_marshal" or "_mirk_message_header_marshal": it writes this error, does nothing else and returns 0 or
-    // null. An error that stands in the slot already is kept.
+    // By the name of a function of values, wire, text, XML, message headers or send bundles that has an error slot,
+    // such as "u_int32_marshal" or "_mirk_message_header_marshal": it writes this error, does nothing else and returns
+    // 0 or null. An error that stands in the slot already is kept.
     std::map<std::string, uint32_t, std::less<>> errors;
 };
 

@@ -117,8 +117,8 @@ TEST_F(Observing, RecordsCallsInOrder) {
     u_int32_set_value(h, 7, reinterpret_cast<uint32_t *>(object + 12), 5, &h->last_error);
     void *block = h->obj_alloc(h->mem_ctx, 9, 40);
     h->obj_free(h->mem_ctx, 9, block);
-    EXPECT_EQ(observing::lines(), (Lines{"write_notify object+8 1", "u_int32_set_value object+12 5", "obj_alloc 40",
-                                         "obj_free block1"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"write_notify object+8 1", "u_int32_set_value object+12 5", "obj_alloc 40", "obj_free block1"}));
     EXPECT_EQ(observing::lines(Detail::full)[1], "u_int32_set_value object+12 5 ctx=7 err=last_error");
     EXPECT_EQ(observing::log().back().ctx_id, 9u);
     observing::show_inner();
@@ -270,6 +270,7 @@ TEST_F(Observing, AddressesCarryTheirStates) {
     Handle tracking({.tracking = Tracking::on}), plain;
     for (ip_address *address : {&sender.address, &receiver.address}) {
         ip_address_initialize(tracking, 1, address, &_ip_address_type_info_internal, 1, 1, 4, nullptr, &err);
+        tracking.set_state_offset(address, sizeof(ip_address));
     }
     sender.address.af = 10;
     sender.address.scope = 0x1234;

@@ -1,2 +1,1 @@
-// The runtime stands in one library; this one is there to be found under its name.
-extern "C" const char observing_placeholder[] = "observing";
+// The runtime stands in one library. This one is there only to be found under its name.

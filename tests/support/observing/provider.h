@@ -176,13 +176,15 @@ uint32_t mix(const void *data, size_t length, uint32_t seed);
 
 // ---- objects ----
 
-inline constexpr uint8_t flag_embedded = 2, flag_tracked = 8, flag_ra = 32, flag_offset = 64, flag_modified = 128;
+inline constexpr uint8_t flag_embedded = 2, flag_nested = 4, flag_tracked = 8, flag_ra = 32, flag_offset = 64,
+                         flag_modified = 128;
 
 // What initialize does to every object that the provider itself describes; false if it found the slot set.
 bool initialize_header(mirk_handle *h, uint32_t ctx_id, void *object, mirk_type_info *type, uint32_t notify,
                        uint32_t skip_count, uint8_t flags, uint32_t *err);
 void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t *counter, int64_t delta);
 void notify_write(mirk_handle *h, uint32_t ctx_id, void *address, size_t size);
+// Null for an object without state.
 uint8_t *state_area(mirk_handle *h, void *object, size_t base_size);
 
 }  // namespace observing

@@ -158,9 +158,9 @@ std::string address_value(const ip_address &a) {
 bool parse_address(const std::string &text, ip_address &into) {
     ip_address a = into;
     int used = 0;
-    const int read = std::sscanf(text.c_str(), "%" SCNu8 " %" SCNu8 " %" SCNu16 " %" SCNu32 " %" SCNu32 " %" SCNu32
-                                 " %" SCNu32 "%n", &a.af, &a.prefix_len, &a.scope, &a.word[0], &a.word[1], &a.word[2],
-                                 &a.word[3], &used);
+    const int read =
+        std::sscanf(text.c_str(), "%" SCNu8 " %" SCNu8 " %" SCNu16 " %" SCNu32 " %" SCNu32 " %" SCNu32 " %" SCNu32 "%n",
+                    &a.af, &a.prefix_len, &a.scope, &a.word[0], &a.word[1], &a.word[2], &a.word[3], &used);
     if (read != 7 || static_cast<size_t>(used) != text.size()) return false;
     into = a;
     return true;
@@ -177,50 +177,50 @@ void mark_integer(const void *field) {
 
 using namespace observing;
 
-#define OBSERVED_INTEGER(K, T)                                                                                        \
-    T *K##_get(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err) {                                            \
-        return get<T>(__func__, h, ctx_id, field, err);                                                               \
-    }                                                                                                                 \
-    T K##_get_value(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err) {                                       \
-        return get_value<T>(__func__, h, ctx_id, field, err);                                                         \
-    }                                                                                                                 \
-    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {                         \
-        Entry entry(__func__, ctx_id, err, at(field), at(source));                                                    \
-        if (*err == 0 && !source) *err = EFAULT;                                                                      \
-        set_value<T>(h, ctx_id, field, source ? *source : T{0}, entry, err);                                          \
-    }                                                                                                                 \
-    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {                           \
-        Entry entry(__func__, ctx_id, err, at(field), value);                                                         \
-        set_value<T>(h, ctx_id, field, value, entry, err);                                                            \
-    }                                                                                                                 \
-    uint32_t K##_len(mirk_handle *, uint32_t ctx_id, T *field) {                                                      \
-        Entry entry(__func__, ctx_id, nullptr, at(field));                                                            \
-        return sizeof(T);                                                                                             \
-    }                                                                                                                 \
-    uint32_t K##_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t *err) { \
-        return marshal<T>(__func__, h, ctx_id, buffer, field, remaining, err);                                        \
-    }                                                                                                                 \
-    uint32_t K##_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining,                \
-                           uint32_t reuse, uint32_t *err) {                                                           \
-        return unmarshal<T>(__func__, h, ctx_id, buffer, field, remaining, reuse, err);                               \
-    }                                                                                                                 \
-    uint32_t K##_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent, const char *name, T *field,    \
-                       int32_t remaining, uint32_t *err) {                                                            \
-        return print<T>(__func__, h, ctx_id, buffer, indent, name, field, remaining, err);                            \
-    }                                                                                                                 \
-    uint32_t K##_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer, T *field, int32_t remaining, \
-                        uint8_t state, uint32_t *err) {                                                               \
-        return to_xml<T>(__func__, h, ctx_id, name, buffer, field, remaining, state, err);                            \
-    }                                                                                                                 \
-    void K##_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, T *field, uint32_t *err,     \
-                      char *message, uint32_t message_size) {                                                         \
-        from_xml<T>(__func__, h, ctx_id, path, document, field, err, message, message_size);                          \
-    }                                                                                                                 \
-    uint32_t K##_hash(const T *field, uint32_t seed) { return hash<T>(__func__, field, seed); }                       \
-    uint32_t K##_backpropagate(mirk_handle *, uint32_t ctx_id, T *field, void *word) {                                \
-        Entry entry(__func__, ctx_id, nullptr, at(field), at(word));                                                  \
-        std::lock_guard lock(guard);                                                                                  \
-        return marked_integers.erase(field) ? 1 : 0;                                                                  \
+#define OBSERVED_INTEGER(K, T)                                                                                         \
+    T *K##_get(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err) {                                             \
+        return get<T>(__func__, h, ctx_id, field, err);                                                                \
+    }                                                                                                                  \
+    T K##_get_value(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err) {                                        \
+        return get_value<T>(__func__, h, ctx_id, field, err);                                                          \
+    }                                                                                                                  \
+    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {                          \
+        Entry entry(__func__, ctx_id, err, at(field), at(source));                                                     \
+        if (*err == 0 && !source) *err = EFAULT;                                                                       \
+        set_value<T>(h, ctx_id, field, source ? *source : T{0}, entry, err);                                           \
+    }                                                                                                                  \
+    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {                            \
+        Entry entry(__func__, ctx_id, err, at(field), value);                                                          \
+        set_value<T>(h, ctx_id, field, value, entry, err);                                                             \
+    }                                                                                                                  \
+    uint32_t K##_len(mirk_handle *, uint32_t ctx_id, T *field) {                                                       \
+        Entry entry(__func__, ctx_id, nullptr, at(field));                                                             \
+        return sizeof(T);                                                                                              \
+    }                                                                                                                  \
+    uint32_t K##_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t *err) {  \
+        return marshal<T>(__func__, h, ctx_id, buffer, field, remaining, err);                                         \
+    }                                                                                                                  \
+    uint32_t K##_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t reuse, \
+                           uint32_t *err) {                                                                            \
+        return unmarshal<T>(__func__, h, ctx_id, buffer, field, remaining, reuse, err);                                \
+    }                                                                                                                  \
+    uint32_t K##_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent, const char *name, T *field,     \
+                       int32_t remaining, uint32_t *err) {                                                             \
+        return print<T>(__func__, h, ctx_id, buffer, indent, name, field, remaining, err);                             \
+    }                                                                                                                  \
+    uint32_t K##_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer, T *field, int32_t remaining,  \
+                        uint8_t state, uint32_t *err) {                                                                \
+        return to_xml<T>(__func__, h, ctx_id, name, buffer, field, remaining, state, err);                             \
+    }                                                                                                                  \
+    void K##_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, T *field, uint32_t *err,      \
+                      char *message, uint32_t message_size) {                                                          \
+        from_xml<T>(__func__, h, ctx_id, path, document, field, err, message, message_size);                           \
+    }                                                                                                                  \
+    uint32_t K##_hash(const T *field, uint32_t seed) { return hash<T>(__func__, field, seed); }                        \
+    uint32_t K##_backpropagate(mirk_handle *, uint32_t ctx_id, T *field, void *word) {                                 \
+        Entry entry(__func__, ctx_id, nullptr, at(field), at(word));                                                   \
+        std::lock_guard lock(guard);                                                                                   \
+        return marked_integers.erase(field) ? 1 : 0;                                                                   \
     }
 
 OBSERVED_INTEGER(u_int8, uint8_t)
@@ -247,8 +247,7 @@ uint8_t mirk_boolean_get_value(mirk_handle *h, uint32_t ctx_id, mirk_boolean *fi
     Entry entry(__func__, ctx_id, err, at(field));
     return entry.refused(h, err) || !field ? uint8_t{0} : field->value;
 }
-void mirk_boolean_set(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const mirk_boolean *source,
-                      uint32_t *err) {
+void mirk_boolean_set(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const mirk_boolean *source, uint32_t *err) {
     Entry entry(__func__, ctx_id, err, at(field), at(source));
     if (entry.refused(h, err) || !present(field, err) || !present(source, err)) return;
     store_boolean(h, ctx_id, field, source->value);

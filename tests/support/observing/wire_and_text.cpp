@@ -62,9 +62,9 @@ uint32_t find(const void *document, std::string_view path, std::vector<const Ele
             for (const Element *parent : found) {
                 std::vector<const Element *> children;
                 collect(*parent, step, false, children);
-                if (position != 0) children = position <= children.size()
-                                                  ? std::vector{children[position - 1]}
-                                                  : std::vector<const Element *>{};
+                if (position != 0)
+                    children = position <= children.size() ? std::vector{children[position - 1]}
+                                                           : std::vector<const Element *>{};
                 next.insert(next.end(), children.begin(), children.end());
             }
         }
@@ -192,8 +192,8 @@ uint32_t _mirk_variant_jump_marshal(mirk_handle *h, uint32_t ctx_id, void *buffe
                                     uint32_t *err) {
     return write_item(__func__, h, ctx_id, buffer, jump, remaining, err);
 }
-uint32_t _mirk_variant_jump_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, uint32_t *jump,
-                                      int32_t remaining, uint32_t *err) {
+uint32_t _mirk_variant_jump_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, uint32_t *jump, int32_t remaining,
+                                      uint32_t *err) {
     return read_item(__func__, h, ctx_id, buffer, jump, remaining, err);
 }
 
@@ -317,9 +317,7 @@ void bundle_send_message_list_destroy(mirk_handle *h, uint32_t ctx_id, uint32_t 
     h->bundle_table = nullptr;
 }
 void bundle_receive_message_list_destroy(mirk_handle *h, uint32_t ctx_id, uint32_t *err) {
-    {
-        Entry entry(__func__, ctx_id, err, err ? *err : 0);
-    }
+    { Entry entry(__func__, ctx_id, err, err ? *err : 0); }
     const mirk_list_head &head = h->recv_bundle_list;
     for (const mirk_list_head *link = head.next; link && link != &head; link = link->next) {
         Entry entry("destroy_received", ctx_id, nullptr, reinterpret_cast<const Node *>(link)->name.c_str());
@@ -420,8 +418,8 @@ uint32_t var_string_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, ch
     if (entry.refused(h, err) || (length && !present(chars, err))) return 0;
     return print_element(name, buffer, escaped(chars, length), remaining, state, err);
 }
-void var_string_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, char *buffer,
-                         uint32_t size, uint32_t *err, char *message, uint32_t message_size) {
+void var_string_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, char *buffer, uint32_t size,
+                         uint32_t *err, char *message, uint32_t message_size) {
     Entry entry(__func__, ctx_id, err, path, at(buffer), size, at(message), message_size);
     if (entry.refused(h, err)) return;
     const std::string *text = element_value(document, path, err);
@@ -446,13 +444,11 @@ static mirk_bundle_handler exchange_sibling(const char *function, const char *mo
     return std::exchange(siblings[module], handler);
 }
 
-#define OBSERVED_VELD(M)                                                                        \
-    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler) {       \
-        return exchange_sibling(__func__, #M, handler);                                         \
-    }                                                                                           \
-    mirk_bundle_handler veld_##M##_bundle_handler_unregister(void) {                            \
-        return exchange_sibling(__func__, #M, nullptr);                                         \
-    }
+#define OBSERVED_VELD(M)                                                                  \
+    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler) { \
+        return exchange_sibling(__func__, #M, handler);                                   \
+    }                                                                                     \
+    mirk_bundle_handler veld_##M##_bundle_handler_unregister(void) { return exchange_sibling(__func__, #M, nullptr); }
 
 OBSERVED_VELD(comm)
 OBSERVED_VELD(defs)
