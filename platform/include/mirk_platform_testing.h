@@ -30,7 +30,8 @@ MIRK_PLATFORM_API uint64_t mirk_platform_testing_allocations(mirk_handle *h, mir
 /* Changes the ceilings of an open handle. */
 MIRK_PLATFORM_API void mirk_platform_testing_set_ceilings(mirk_handle *h, uint64_t request, uint64_t total);
 
-/* Fresh blocks of obj_alloc are filled with this byte (0xA5 at first), so that nothing relies on their contents. */
+/* From now on fresh blocks of obj_alloc are filled with this byte, so that nothing relies on their contents. At first
+ * nothing is filled. */
 MIRK_PLATFORM_API void mirk_platform_testing_set_fresh_fill(mirk_handle *h, uint8_t byte);
 
 /* ---- operations that fail --------------------------------------------------------------------------------------- */

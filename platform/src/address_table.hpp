@@ -1,0 +1,215 @@
+// Tables keyed by address, for what the runtime knows about blocks and objects. They sit under obj_alloc and under every
+// state-byte access, so they neither throw nor allocate per entry.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <type_traits>
+
+namespace mirk {
+
+inline uintptr_t address_of(const void *p) { return reinterpret_cast<uintptr_t>(p); }
+
+// Open addressing with linear probing; key 0 marks a free cell and is never entered.
+template <typename Value>
+class AddressMap {
+    static_assert(std::is_trivially_copyable_v<Value>);
+
+public:
+    AddressMap() = default;
+    AddressMap(const AddressMap &) = delete;
+    AddressMap &operator=(const AddressMap &) = delete;
+    ~AddressMap() { std::free(cells_); }
+
+    size_t size() const { return used_; }
+
+    Value *find(uintptr_t key) const {
+        if (used_ == 0) return nullptr;
+        for (size_t i = home(key);; i = (i + 1) & mask_) {
+            if (cells_[i].key == key) return &cells_[i].value;
+            if (cells_[i].key == 0) return nullptr;
+        }
+    }
+
+    // The entry of the key, made if there is none; null without memory.
+    Value *put(uintptr_t key, const Value &value) {
+        if (used_ * 4 >= capacity() * 3 && !grow()) return nullptr;
+        size_t i = home(key);
+        while (cells_[i].key != 0 && cells_[i].key != key) i = (i + 1) & mask_;
+        if (cells_[i].key == 0) ++used_;
+        cells_[i].key = key;
+        cells_[i].value = value;
+        return &cells_[i].value;
+    }
+
+    bool erase(uintptr_t key) {
+        if (used_ == 0) return false;
+        size_t hole = home(key);
+        while (cells_[hole].key != key) {
+            if (cells_[hole].key == 0) return false;
+            hole = (hole + 1) & mask_;
+        }
+        // Entries that a probe would no longer reach across the hole move into it.
+        for (size_t i = (hole + 1) & mask_; cells_[i].key != 0; i = (i + 1) & mask_) {
+            if (((i - home(cells_[i].key)) & mask_) >= ((i - hole) & mask_)) {
+                cells_[hole] = cells_[i];
+                hole = i;
+            }
+        }
+        cells_[hole].key = 0;
+        --used_;
+        return true;
+    }
+
+    template <typename Visit>
+    void for_each(Visit visit) const {
+        for (size_t i = 0; i < capacity(); ++i) {
+            if (cells_[i].key != 0) visit(cells_[i].key, cells_[i].value);
+        }
+    }
+
+private:
+    struct Cell {
+        uintptr_t key;
+        Value value;
+    };
+
+    size_t capacity() const { return cells_ == nullptr ? 0 : mask_ + 1; }
+    size_t home(uintptr_t key) const {
+        return static_cast<size_t>((static_cast<uint64_t>(key) * 0x9e3779b97f4a7c15u) >> shift_);
+    }
+
+    bool grow() {
+        const size_t size = cells_ == nullptr ? 64 : capacity() * 2;
+        auto *cells = static_cast<Cell *>(std::calloc(size, sizeof(Cell)));
+        if (cells == nullptr) return false;
+        Cell *old = cells_;
+        const size_t old_size = capacity();
+        cells_ = cells;
+        mask_ = size - 1;
+        shift_ = 64;
+        for (size_t n = size; n > 1; n /= 2) --shift_;
+        for (size_t i = 0; i < old_size; ++i) {
+            if (old[i].key == 0) continue;
+            size_t to = home(old[i].key);
+            while (cells_[to].key != 0) to = (to + 1) & mask_;
+            cells_[to] = old[i];
+        }
+        std::free(old);
+        return true;
+    }
+
+    Cell *cells_ = nullptr;
+    size_t mask_ = 0;
+    size_t used_ = 0;
+    int shift_ = 64;
+};
+
+// One value for each object. Objects are aligned to 8, so a stretch of 256 bytes holds at most 32 of them; the table keeps
+// one bucket a stretch. Forgetting everything inside a freed block costs a look at each stretch that it covers, which is
+// less than clearing the block cost when it was made, and nothing at all while the table is empty.
+template <typename Value>
+class ObjectTable {
+    static_assert(std::is_trivially_copyable_v<Value>);
+
+public:
+    ObjectTable() = default;
+    ObjectTable(const ObjectTable &) = delete;
+    ObjectTable &operator=(const ObjectTable &) = delete;
+    ~ObjectTable() {
+        buckets_.for_each([](uintptr_t, Bucket *bucket) { std::free(bucket); });
+        std::free(spare_);
+    }
+
+    size_t size() const { return entries_; }
+
+    Value *find(const void *object) const {
+        if (entries_ == 0) return nullptr;
+        Bucket *bucket = bucket_of(stretch(address_of(object)));
+        const unsigned slot = slot_of(address_of(object));
+        return bucket != nullptr && (bucket->present >> slot & 1u) != 0 ? &bucket->values[slot] : nullptr;
+    }
+
+    // False without memory.
+    bool put(const void *object, const Value &value) {
+        const uintptr_t key = stretch(address_of(object));
+        Bucket *bucket = bucket_of(key);
+        if (bucket == nullptr) {
+            bucket = spare_ != nullptr ? spare_ : static_cast<Bucket *>(std::malloc(sizeof(Bucket)));
+            if (bucket == nullptr) return false;
+            spare_ = nullptr;
+            bucket->present = 0;
+            if (buckets_.put(key, bucket) == nullptr) {
+                spare_ = bucket;
+                return false;
+            }
+            last_key_ = key;
+            last_ = bucket;
+        }
+        const unsigned slot = slot_of(address_of(object));
+        if ((bucket->present >> slot & 1u) == 0) ++entries_;
+        bucket->present |= 1u << slot;
+        bucket->values[slot] = value;
+        return true;
+    }
+
+    void erase(const void *object) { clear(stretch(address_of(object)), 1u << slot_of(address_of(object))); }
+
+    void forget(const void *block, size_t size) {
+        if (entries_ == 0) return;
+        const uintptr_t begin = address_of(block);
+        const uintptr_t last = begin + (size == 0 ? 0 : size - 1);
+        for (uintptr_t key = stretch(begin); key <= stretch(last); ++key) clear(key, covered(key, begin, last));
+    }
+
+private:
+    static constexpr uintptr_t stretch_size = 256;
+    static constexpr unsigned slots = 32;
+
+    struct Bucket {
+        uint32_t present;
+        Value values[slots];
+    };
+
+    // Never 0, which the map keeps for itself.
+    static uintptr_t stretch(uintptr_t address) { return address / stretch_size + 1; }
+    static unsigned slot_of(uintptr_t address) { return static_cast<unsigned>(address / 8 % slots); }
+
+    static uint32_t covered(uintptr_t key, uintptr_t begin, uintptr_t last) {
+        uint32_t mask = 0xffffffffu;
+        if (key == stretch(begin)) mask &= 0xffffffffu << slot_of(begin);
+        if (key == stretch(last)) mask &= 0xffffffffu >> (slots - 1 - slot_of(last));
+        return mask;
+    }
+
+    Bucket *bucket_of(uintptr_t key) const {
+        if (key == last_key_) return last_;
+        Bucket **found = buckets_.find(key);
+        if (found == nullptr) return nullptr;
+        last_key_ = key;
+        last_ = *found;
+        return last_;
+    }
+
+    void clear(uintptr_t key, uint32_t mask) {
+        Bucket *bucket = bucket_of(key);
+        if (bucket == nullptr) return;
+        entries_ -= static_cast<size_t>(__builtin_popcount(bucket->present & mask));
+        bucket->present &= ~mask;
+        if (bucket->present != 0) return;
+        buckets_.erase(key);
+        last_key_ = 0;
+        std::free(spare_);
+        spare_ = bucket;
+    }
+
+    AddressMap<Bucket *> buckets_;
+    size_t entries_ = 0;
+    mutable uintptr_t last_key_ = 0;
+    mutable Bucket *last_ = nullptr;
+    Bucket *spare_ = nullptr;  // one emptied bucket, kept so that an object that comes and goes costs no allocation
+};
+
+}  // namespace mirk

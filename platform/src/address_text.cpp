@@ -1,0 +1,110 @@
+#include "address_text.hpp"
+
+#include <arpa/inet.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+#include "coding.hpp"
+#include "text.hpp"
+
+namespace mirk {
+namespace {
+
+struct Value {
+    uint8_t af = 0, prefix_len = 0;
+    uint16_t scope = 0;
+    std::array<uint32_t, 4> word{};
+};
+
+void assign(ip_address *address, const Value &value) {
+    address->af = value.af;
+    address->prefix_len = value.prefix_len;
+    address->scope = value.scope;
+    for (size_t i = 0; i < value.word.size(); ++i) address->word[i] = value.word[i];
+}
+
+// "af,scope,w0,w1,w2,w3"
+bool parse_members(std::string_view text, Value *value) {
+    std::array<std::string_view, 6> part;
+    for (size_t i = 0; i < part.size(); ++i) {
+        const size_t comma = text.find(',');
+        const bool last = i + 1 == part.size();
+        if (last != (comma == std::string_view::npos)) return false;
+        part[i] = text.substr(0, comma);
+        if (!last) text.remove_prefix(comma + 1);
+    }
+    bool good = parse_decimal(part[0], &value->af) && parse_decimal(part[1], &value->scope);
+    for (size_t i = 0; i < value->word.size(); ++i) good = good && parse_decimal(part[i + 2], &value->word[i]);
+    return good;
+}
+
+// An address as inet_pton takes it, a scope behind a percent sign.
+bool parse_numeric(std::string_view text, Value *value) {
+    const size_t percent = text.find('%');
+    if (percent != std::string_view::npos) {
+        if (!parse_decimal(text.substr(percent + 1), &value->scope)) return false;
+        text = text.substr(0, percent);
+    }
+    char address[INET6_ADDRSTRLEN];
+    if (text.size() >= sizeof address || text.find('\0') != std::string_view::npos) return false;
+    address[text.copy(address, text.size())] = 0;
+    uint8_t bytes[16] = {};
+    if (inet_pton(AF_INET, address, bytes) == 1) {
+        value->af = AF_INET;
+    } else if (inet_pton(AF_INET6, address, bytes) == 1) {
+        value->af = AF_INET6;
+    } else {
+        return false;
+    }
+    for (size_t i = 0; i < value->word.size(); ++i) value->word[i] = get_big_endian<uint32_t>(bytes + 4 * i);
+    return true;
+}
+
+bool zero_from(const ip_address &address, size_t first) {
+    for (size_t i = first; i < 4; ++i) {
+        if (address.word[i] != 0) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+AddressText::AddressText(const ip_address &address) {
+    const auto write = [&](const char *format, auto... values) {
+        const int written = std::snprintf(text_ + length_, sizeof text_ - length_, format, values...);
+        length_ += static_cast<size_t>(written);
+    };
+    if (address.af == 0 && address.prefix_len == 0 && address.scope == 0 && zero_from(address, 0)) {
+        write("%s", "unset");
+        return;
+    }
+    const bool v4 = address.af == AF_INET && zero_from(address, 1);
+    if (v4 || address.af == AF_INET6) {
+        uint8_t bytes[16];
+        for (size_t i = 0; i < 4; ++i) put_big_endian<uint32_t>(bytes + 4 * i, address.word[i]);
+        inet_ntop(address.af, bytes, text_, sizeof text_);
+        length_ = std::strlen(text_);
+        if (address.scope != 0) write("%%%u", unsigned{address.scope});
+    } else {
+        write("%u,%u,%u,%u,%u,%u", unsigned{address.af}, unsigned{address.scope}, address.word[0], address.word[1],
+              address.word[2], address.word[3]);
+    }
+    write("/%u", unsigned{address.prefix_len});
+}
+
+bool parse_address(std::string_view text, ip_address *address) {
+    Value value;
+    if (text != "unset") {
+        const size_t slash = text.find('/');
+        if (slash == std::string_view::npos || !parse_decimal(text.substr(slash + 1), &value.prefix_len)) return false;
+        const std::string_view front = text.substr(0, slash);
+        const bool members = front.find(',') != std::string_view::npos;
+        if (!(members ? parse_members(front, &value) : parse_numeric(front, &value))) return false;
+    }
+    assign(address, value);
+    return true;
+}
+
+}  // namespace mirk

@@ -1,0 +1,107 @@
+// Strings: the value is characters with a length, never NUL-terminated.
+#include <array>
+
+#include "document.hpp"
+#include "text.hpp"
+
+namespace {
+
+using mirk::TextSink;
+
+// Length of the character at `text`, if it is UTF-8 that an XML document may hold, else 0.
+size_t xml_character(std::string_view text) {
+    const auto byte = [&](size_t i) { return static_cast<uint8_t>(text[i]); };
+    const uint8_t first = byte(0);
+    if (first < 0x80) return first >= 0x20 || first == '\t' || first == '\n' || first == '\r' ? 1 : 0;
+    const size_t length = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : 2;
+    if (first < 0xc2 || first > 0xf4 || text.size() < length) return 0;
+    uint32_t code = first & (0x7fu >> length);
+    for (size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xc0) != 0x80) return 0;
+        code = code << 6 | (byte(i) & 0x3fu);
+    }
+    constexpr std::array<uint32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
+    if (code < least[length] || code > 0x10ffff) return 0;
+    if ((code >= 0xd800 && code <= 0xdfff) || code == 0xfffe || code == 0xffff) return 0;
+    return length;
+}
+
+// Every byte that cannot stand becomes one "?", so that the length survives.
+void put_escaped(TextSink &sink, std::string_view text) {
+    while (!text.empty()) {
+        const size_t length = xml_character(text);
+        switch (length == 0 ? '?' : text[0]) {
+            case '&': sink.put("&amp;"); break;
+            case '<': sink.put("&lt;"); break;
+            case '>': sink.put("&gt;"); break;
+            case '"': sink.put("&quot;"); break;
+            case '\r': sink.put("&#13;"); break;
+            default: sink.put(length == 0 ? "?" : text.substr(0, length));
+        }
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+}
+
+// One string stays on one line.
+void put_printable(TextSink &sink, std::string_view text) {
+    constexpr char digits[] = "0123456789abcdef";
+    for (const char c : text) {
+        const auto byte = static_cast<uint8_t>(c);
+        if (c == '\\') {
+            sink.put("\\\\");
+        } else if (byte >= 0x20 && byte < 0x7f) {
+            sink.put({&c, 1});
+        } else {
+            const char hex[4] = {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+            sink.put({hex, sizeof hex});
+        }
+    }
+}
+
+bool usable(const char *buffer, const char *chars, uint32_t length, uint32_t *err) {
+    if (*err != 0) return false;
+    if (buffer == nullptr || (chars == nullptr && length != 0)) *err = 22;
+    return *err == 0;
+}
+
+std::string_view view(const char *chars, uint32_t length) {
+    return length == 0 ? std::string_view() : std::string_view(chars, length);
+}
+
+}  // namespace
+
+extern "C" {
+
+// One character is one byte.
+uint32_t char_len(mirk_handle *, uint32_t, void *) { return 1; }
+uint32_t char_sizeof(mirk_handle *) { return 1; }
+
+uint32_t var_string_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, const char *chars,
+                          int32_t remaining, uint32_t length, uint32_t *err) {
+    if (!usable(buffer, chars, length, err)) return 0;
+    return mirk::write_whole(buffer, remaining, err, [&](TextSink &sink) {
+        sink.blanks(indent);
+        sink.put(mirk::text_or_empty(name));
+        sink.put("@var_string:");
+        put_printable(sink, view(chars, length));
+        sink.put("\n");
+    });
+}
+
+uint32_t var_string_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, const char *chars,
+                           int32_t remaining, uint32_t length, uint8_t state, uint32_t *err) {
+    if (!usable(buffer, chars, length, err)) return 0;
+    return mirk::write_whole(buffer, remaining, err, [&](TextSink &sink) {
+        mirk::put_start_tag(sink, mirk::text_or_empty(name), state);
+        put_escaped(sink, view(chars, length));
+        mirk::put_end_tag(sink, mirk::text_or_empty(name));
+    });
+}
+
+void var_string_from_xml(mirk_handle *, uint32_t, const char *path, void *document, char *buffer, uint32_t size,
+                         uint32_t *err, char *, uint32_t) {
+    if (*err != 0) return;
+    *err = buffer == nullptr ? 22 : xml_get_element_value(document, path, buffer, size, nullptr);
+}
+
+}  // extern "C"

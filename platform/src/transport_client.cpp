@@ -1,0 +1,102 @@
+// The asking side of the frame transport: blocking calls with a time limit.
+#include <asio.hpp>
+#include <chrono>
+
+#include "handle.hpp"
+#include "inbox.hpp"
+
+using LocalProtocol = asio::local::stream_protocol;
+using Clock = std::chrono::steady_clock;
+
+struct mirk_platform_client {
+    explicit mirk_platform_client(uint32_t frame_limit) : inbox(frame_limit) {}
+
+    asio::io_context context{1};
+    asio::generic::stream_protocol::socket socket{context};
+    mirk::Inbox inbox;
+};
+
+namespace {
+
+struct Outcome {
+    asio::error_code error = asio::error::would_block;
+    size_t moved = 0;
+
+    mirk_platform_error number() const { return static_cast<mirk_platform_error>(error.value()); }
+};
+
+Clock::time_point deadline(uint32_t timeout_ms) { return Clock::now() + std::chrono::milliseconds(timeout_ms); }
+
+// Waits for the one operation that is under way. One that is not done in time is cancelled; it may still have ended well
+// just then.
+void wait(mirk_platform_client &client, Clock::time_point until, Outcome *outcome) {
+    client.context.restart();
+    client.context.run_until(until);
+    if (outcome->error != asio::error::would_block) return;
+    asio::error_code ignored;
+    client.socket.cancel(ignored);
+    client.context.restart();
+    client.context.run();
+    if (outcome->error == asio::error::operation_aborted) outcome->error = asio::error::timed_out;
+}
+
+}  // namespace
+
+extern "C" {
+
+mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit, uint32_t timeout_ms,
+                                              mirk_platform_client **client) {
+    if (path == nullptr || client == nullptr) return EINVAL;
+    return mirk::guarded([&]() -> mirk_platform_error {
+        if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
+        auto opened =
+            std::make_unique<mirk_platform_client>(frame_limit != 0 ? frame_limit : mirk::default_frame_limit);
+        Outcome outcome;
+        opened->socket.async_connect(LocalProtocol::endpoint(path),
+                                     [&](const asio::error_code &error) { outcome.error = error; });
+        wait(*opened, deadline(timeout_ms), &outcome);
+        if (outcome.error) return outcome.number();
+        *client = opened.release();
+        return 0;
+    });
+}
+
+mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes, size_t size,
+                                              uint32_t timeout_ms) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        Outcome outcome;
+        asio::async_write(client->socket, asio::buffer(bytes, size), [&](const asio::error_code &error, size_t moved) {
+            outcome = {error, moved};
+        });
+        wait(*client, deadline(timeout_ms), &outcome);
+        return outcome.number();
+    });
+}
+
+mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, void **frame, uint32_t *size,
+                                                 uint32_t timeout_ms) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        const Clock::time_point until = deadline(timeout_ms);
+        for (;;) {
+            switch (client->inbox.next(frame, size)) {
+                case mirk::Inbox::Cut::frame: return 0;
+                case mirk::Inbox::Cut::bad: return EBADMSG;
+                case mirk::Inbox::Cut::too_long: return EMSGSIZE;
+                case mirk::Inbox::Cut::more_needed: break;
+            }
+            const auto [at, room] = client->inbox.room();
+            Outcome outcome;
+            client->socket.async_read_some(asio::buffer(at, room), [&](const asio::error_code &error, size_t moved) {
+                outcome = {error, moved};
+            });
+            wait(*client, until, &outcome);
+            if (outcome.error == asio::error::eof) return ECONNRESET;
+            if (outcome.error) return outcome.number();
+            client->inbox.received(outcome.moved);
+        }
+    });
+}
+
+void mirk_platform_client_close(mirk_platform_client *client) { delete client; }
+
+}  // extern "C"
