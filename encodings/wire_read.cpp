@@ -6,8 +6,6 @@
 
 namespace tarn {
 
-namespace {
-
 // The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is reached
 // through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with the owner
 // of the buffer, and is read by two kinds of state that stand exactly at the end.
@@ -68,7 +66,6 @@ void Reader::drop_block(mirk_object *instance, std::uint32_t old_count) {
 // False: out of memory, and with it the end of this frame.
 template <class A>
 bool Reader::array(mirk_object *instance) {
-    constexpr const Record &E = A::element;
     mirk_object **block = A::at(instance);
     const std::uint32_t n = A::stored_count(instance);
     if (n == 0) return true;
@@ -108,17 +105,17 @@ bool Reader::array(mirk_object *instance) {
         std::memset(vector, 0, n);
     }
     for (std::uint32_t i = 0; i < n; ++i) {
-        mirk_object *element = element_at<E>(*block, i);
-        const std::uintptr_t element_state = element_area<E>(*block, n, i);
+        mirk_object *element = element_at<A::element>(*block, i);
+        const std::uintptr_t element_state = element_area<A::element>(*block, n, i);
         // On a tracking handle every element gets its place, whatever the frame brought: otherwise its state would be
         // looked for directly behind it, on top of its neighbour.
         if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
         {
             StepErrors errors(h, err);
-            Lifecycle<E>::initialize(h, ctx_id, element, &TypeInfo<E>::own, 1, 0, flag::nested,
+            Lifecycle<A::element>::initialize(h, ctx_id, element, &TypeInfo<A::element>::own, 1, 0, flag::nested,
                                      reinterpret_cast<void *>(element_state), errors.next());
         }
-        offset += WireRead<E>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
+        offset += WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
     }
     if (read_state) {
         block_state<A>();
@@ -162,8 +159,6 @@ bool Reader::string(mirk_object *instance) {
     }
     return true;
 }
-
-}  // namespace
 
 template <const Record &R>
 std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,

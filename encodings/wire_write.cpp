@@ -6,8 +6,6 @@
 
 namespace tarn {
 
-namespace {
-
 // The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes nothing, the
 // state bytes still go out, and the caller decides at the end.
 struct Writer {
@@ -67,8 +65,6 @@ struct Writer {
         state_of<F>();
     }
 };
-
-}  // namespace
 
 template <const Record &R>
 template <bool hold_to_domain>

@@ -7,8 +7,6 @@
 
 namespace tarn {
 
-namespace {
-
 // Longer paths are cut, and a cut path finds nothing in practice.
 using Path = char[256];
 
@@ -72,26 +70,23 @@ bool XmlReader::string() {
 // document plays no part. An array that could not begin or go on for want of memory does not end the record by itself.
 template <class A>
 bool XmlReader::array() {
-    constexpr const Record &E = A::element;
     for (std::uint32_t i = 0;; ++i) {
-        mirk_object *element = Lifecycle<E>::create(h, ctx_id);
+        mirk_object *element = Lifecycle<A::element>::create(h, ctx_id);
         if (element == nullptr) {
             fail(h, err, ENOMEM);
             return true;
         }
         Path own;
         std::snprintf(own, sizeof own, "%s/%s[%d]", path, A::name(), static_cast<int>(i + 1));
-        XmlRead<E>::from_xml(h, ctx_id, own, document, element, err, message, message_size);
+        XmlRead<A::element>::from_xml(h, ctx_id, own, document, element, err, message, message_size);
         if (*err != 0) {
-            Lifecycle<E>::destroy(h, ctx_id, element);
+            Lifecycle<A::element>::destroy(h, ctx_id, element);
             return forgive_absence();
         }
-        Array<A>::set(h, ctx_id, instance, i, element, 1, err);
-        Lifecycle<E>::destroy(h, ctx_id, element);
+        Array<A>::move_in(h, ctx_id, instance, i, element, err);
+        Lifecycle<A::element>::destroy(h, ctx_id, element);
     }
 }
-
-}  // namespace
 
 template <const Record &R>
 void XmlRead<R>::from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path, void *document, mirk_object *instance,

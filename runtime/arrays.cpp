@@ -24,29 +24,28 @@ void report_growth() {
 template <class A>
 void move_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *from, std::uint32_t old_count, mirk_object *to,
                    std::uint64_t new_count, bool tracked, std::uint32_t *err) {
-    constexpr const Record &E = A::element;
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
             // By the element's own offset: the stored count may have wrapped, and the old areas stand where they stand.
-            std::memcpy(reinterpret_cast<void *>(element_area<E>(to, new_count, i)),
-                        state_area<E>(h, ctx_id, element_at<E>(from, i)), A::width);
+            std::memcpy(reinterpret_cast<void *>(element_area<A::element>(to, new_count, i)),
+                        state_area<A::element>(h, ctx_id, element_at<A::element>(from, i)), A::width);
         }
     }
     std::memcpy(to, from, std::size_t{old_count} * A::base);
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
-            mirk_object *element = element_at<E>(to, i);
-            const std::uintptr_t area = element_area<E>(to, new_count, i);
+            mirk_object *element = element_at<A::element>(to, i);
+            const std::uintptr_t area = element_area<A::element>(to, new_count, i);
             mirklib_update_sttr_offset(h, ctx_id, element, distance(element, area));
-            References<E>::offset_update(h, ctx_id, element, reinterpret_cast<void *>(area), err);
+            References<A::element>::offset_update(h, ctx_id, element, reinterpret_cast<void *>(area), err);
         }
     }
     for (std::uint32_t i = 0; i < old_count; ++i) {
-        mirk_object *old_element = element_at<E>(from, i);
-        Assignment<E>::post_copyout_cleanup(h, ctx_id, element_at<E>(to, i), old_element, err);
+        mirk_object *old_element = element_at<A::element>(from, i);
+        Assignment<A::element>::post_copyout_cleanup(h, ctx_id, element_at<A::element>(to, i), old_element, err);
         if (tracked) {
             mirk_hd_mapping_destroy(h, ctx_id, old_element, err);
-            References<E>::offset_remove(h, ctx_id, old_element, err);
+            References<A::element>::offset_remove(h, ctx_id, old_element, err);
         }
     }
     release(h, ctx_id, from);
@@ -55,17 +54,16 @@ void move_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *from, std:
 template <class A>
 void initialize_new_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *block, std::uint32_t from,
                              std::uint64_t n, bool tracked, std::uint32_t *err) {
-    constexpr const Record &E = A::element;
     if (tracked) {
         for (std::uint64_t i = from; i < n; ++i) {
-            mirk_object *element = element_at<E>(block, static_cast<std::uint32_t>(i));
-            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_area<E>(block, n, i)));
+            mirk_object *element = element_at<A::element>(block, static_cast<std::uint32_t>(i));
+            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_area<A::element>(block, n, i)));
         }
     }
     StepErrors errors(h, err);
     for (std::uint64_t i = from; i < n; ++i) {
-        Lifecycle<E>::initialize(h, ctx_id, element_at<E>(block, static_cast<std::uint32_t>(i)), &TypeInfo<E>::own, 1,
-                                 0, flag::nested, reinterpret_cast<void *>(element_area<E>(block, n, i)),
+        Lifecycle<A::element>::initialize(h, ctx_id, element_at<A::element>(block, static_cast<std::uint32_t>(i)), &TypeInfo<A::element>::own, 1,
+                                 0, flag::nested, reinterpret_cast<void *>(element_area<A::element>(block, n, i)),
                                  errors.next());
     }
 }
@@ -95,7 +93,7 @@ bool grow_element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
 }  // namespace
 
 template <class A>
-mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
+mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t, mirk_object *object, std::uint32_t index,
                            std::uint32_t *err) {
     if (!begin(h, err)) return nullptr;
     if (!gate(h, object, 0, err)) return nullptr;
@@ -109,7 +107,6 @@ mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *ob
 template <class A>
 void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index, mirk_object *value,
                    std::uint32_t copy_mode, std::uint32_t *err) {
-    constexpr const Record &E = A::element;
     if (!begin(h, err)) return;
     adjust_variant(h, ctx_id, object, err);
     if (!gate(h, object, 0, err)) return;
@@ -150,7 +147,7 @@ void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, st
             const std::uintptr_t into = address_of(value) - address_of(old_block);
             const bool inside = value != nullptr && into < std::size_t{old_count} * A::base;
             move_elements<A>(h, ctx_id, old_block, old_count, new_block, new_count, tracked, err);
-            if (inside) value = element_at<E>(new_block, static_cast<std::uint32_t>(into / A::base));
+            if (inside) value = element_at<A::element>(new_block, static_cast<std::uint32_t>(into / A::base));
         }
         store(h, ctx_id, A::Counter::at(object), static_cast<typename A::Count>(new_count));
         initialize_new_elements<A>(h, ctx_id, new_block, old_count, new_count, tracked, err);
@@ -158,11 +155,11 @@ void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, st
     }
     if (value == nullptr) return;
 
-    mirk_object *element = element_at<E>(*block, index);
+    mirk_object *element = element_at<A::element>(*block, index);
     if (copy_mode != 0) {
-        Assignment<E>::set(h, ctx_id, element, value, err);
+        Assignment<A::element>::set(h, ctx_id, element, value, err);
     } else {
-        Copy<E>::copy_into_element(h, value, element);
+        Copy<A::element>::copy_into_element(h, value, element);
     }
     // The owner's modified mark is left alone, unlike by the setters of single values.
     if (tracked && tracks(h)) {

@@ -1,5 +1,6 @@
 #include "runtime/assignment.h"
 
+#include "runtime/accessors.h"
 #include "runtime/kinds.h"
 
 namespace tarn {

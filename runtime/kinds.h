@@ -89,27 +89,26 @@ struct Primitive<F, Kind::enumeration> : Enum<*F::member.enumeration> {
     static mirk_type_info *type() { return &TypeInfo<*F::member.enumeration>::own; }
 };
 
-template <class F>
-struct Primitive<F, Kind::record> {
-    static constexpr const Record &nested = *F::member.record;
+template <const Record &R>
+struct NestedRecord {
     static mirk_object *get(mirk_handle *, std::uint32_t, mirk_object *field, std::uint32_t *) { return field; }
-    static constexpr auto set = Assignment<nested>::set;
-    static constexpr auto len = WireWrite<nested>::len;
-    static constexpr auto marshal = WireWrite<nested>::marshal;
+    static constexpr auto set = Assignment<R>::set;
+    static constexpr auto len = WireWrite<R>::len;
+    static constexpr auto marshal = WireWrite<R>::marshal;
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *field,
                                    std::int32_t left, std::uint32_t reuse, std::uint32_t *err) {
-        return WireRead<nested>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
+        return WireRead<R>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
     }
-    static constexpr auto print = Text<nested>::print;
-    static constexpr auto to_xml = XmlWrite<nested>::to_xml;
-    static constexpr auto from_xml = XmlRead<nested>::from_xml;
-    static constexpr auto compare = Compare<nested>::compare;
-    static constexpr auto hash = Hash<nested>::hash;
-    static constexpr auto backpropagate = Propagate<nested>::backpropagate;
-    static constexpr auto initialize = Lifecycle<nested>::initialize;
-    static mirk_type_info *type() { return &TypeInfo<nested>::own; }
-    static constexpr auto set_instance_embedded = Lifecycle<nested>::set_instance_embedded;
-    static constexpr auto destroy_internal = Lifecycle<nested>::destroy_internal;
+    static constexpr auto print = Text<R>::print;
+    static constexpr auto to_xml = XmlWrite<R>::to_xml;
+    static constexpr auto from_xml = XmlRead<R>::from_xml;
+    static constexpr auto compare = Compare<R>::compare;
+    static constexpr auto hash = Hash<R>::hash;
+    static constexpr auto backpropagate = Propagate<R>::backpropagate;
+    static constexpr auto initialize = Lifecycle<R>::initialize;
+    static mirk_type_info *type() { return &TypeInfo<R>::own; }
+    static constexpr auto set_instance_embedded = Lifecycle<R>::set_instance_embedded;
+    static constexpr auto destroy_internal = Lifecycle<R>::destroy_internal;
     static std::uint32_t get_oid_count(mirk_handle *h, std::uint32_t, mirk_object *field, std::uint32_t *err) {
         return tarn::get_oid_count(h, field, err);
     }
@@ -118,5 +117,8 @@ struct Primitive<F, Kind::record> {
         tarn::get_object_references(h, field, err);
     }
 };
+
+template <class F>
+struct Primitive<F, Kind::record> : NestedRecord<*F::member.record> {};
 
 }  // namespace tarn

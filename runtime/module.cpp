@@ -1,7 +1,5 @@
 #include "runtime/module.h"
 
-// The table of all type records, in the order of the catalogue, ending in null.
-#include "exports/type_table.inc"
 
 namespace tarn {
 

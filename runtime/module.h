@@ -3,6 +3,9 @@
 
 #include "runtime/type_table.h"
 
+// The module's own record of each type in the order of the catalogue, ending in null.
+extern mirk_type_info *lumo_ui_tarn_type_table[];
+
 namespace tarn {
 
 // Makes sure that the handle's type store has a private copy of each record.

@@ -129,6 +129,9 @@ constexpr auto field() {
     }
 }
 
+template <const Record &R, std::size_t I>
+using FieldOf = decltype(field<R, I>());
+
 // Calls visit with each member in table order until it returns false; true if none did.
 template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr bool walk_while(Visit &&visit) {

@@ -15,6 +15,9 @@ enum class Kind : std::uint8_t { u8, u16, u32, u64, boolean, address, enumeratio
 // An integer is a value of its own, or it counts the array or the string that stands right behind it.
 enum class Role : std::uint8_t { value, count, length };
 
+// Not defined: calling it while compiling stops the compiler with its name.
+void an_identity_is_32_lower_case_hexadecimal_digits();
+
 // A 128-bit identity, written as 32 lower-case hexadecimal digits.
 struct Luid {
     std::array<char, 33> text{};
@@ -24,7 +27,7 @@ struct Luid {
         for (std::size_t i = 0; i < 32; ++i) {
             const char c = digits[i];
             const bool decimal = c >= '0' && c <= '9';
-            if (!decimal && !(c >= 'a' && c <= 'f')) throw "an identity is 32 lower-case hexadecimal digits";
+            if (!decimal && !(c >= 'a' && c <= 'f')) an_identity_is_32_lower_case_hexadecimal_digits();
             const int nibble = decimal ? c - '0' : c - 'a' + 10;
             bytes[i / 2] = static_cast<std::uint8_t>(bytes[i / 2] * 16 + nibble);
             text[i] = c;

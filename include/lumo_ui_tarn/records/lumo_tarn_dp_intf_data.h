@@ -1,0 +1,190 @@
+/* lumo_tarn_dp_intf_data.h - state of the feature on one interface.
+ * Generated from the schema; edit the tables there and run tools/regenerate. */
+#ifndef LUMO_UI_TARN_RECORDS_LUMO_TARN_DP_INTF_DATA_H
+#define LUMO_UI_TARN_RECORDS_LUMO_TARN_DP_INTF_DATA_H
+
+#include <lumo_ui_tarn/base.h>
+#include <lumo_ui_tarn/records/lumo_tarn_dp_lumo_wexa_info.h>
+
+LUMO_UI_TARN_BEGIN
+
+/* lumo_tarn_dp_intf_data: state of the feature on one interface.
+ *
+ *   intf_name_is_valid      boolean                      says whether intf_name holds a value
+ *   intf_name_len           uint16_t length              length of intf_name in bytes
+ *   intf_name               string                       name of the interface
+ *   in_lumo_wexa_is_valid   boolean                      says whether in_lumo_wexa holds a value
+ *   in_lumo_wexa            lumo_tarn_dp_lumo_wexa_info  ingress side
+ *   out_lumo_wexa_is_valid  boolean                      says whether out_lumo_wexa holds a value
+ *   out_lumo_wexa           lumo_tarn_dp_lumo_wexa_info  egress side
+ *
+ * How each operation behaves is told once for all records in lumo_ui_tarn/families.h. */
+typedef struct lumo_tarn_dp_intf_data lumo_tarn_dp_intf_data;
+extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_intf_data_type_info_internal;
+
+/* Life */
+LUMO_UI_TARN_API lumo_tarn_dp_intf_data *lumo_tarn_dp_intf_data_create(mirk_handle *h, uint32_t ctx_id);
+LUMO_UI_TARN_API lumo_tarn_dp_intf_data *lumo_tarn_dp_intf_data_create_cr(mirk_handle *h);
+LUMO_UI_TARN_API lumo_tarn_dp_intf_data *lumo_tarn_dp_intf_data_create_internal(mirk_handle *h, uint32_t ctx_id);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *object,
+    mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_sizeof(mirk_handle *h);
+LUMO_UI_TARN_API int8_t lumo_tarn_dp_intf_data_variant_data_index_cap(int8_t variant);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_adjust_variant(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_destroy(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *object);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_destroy_cr(mirk_handle *h, lumo_tarn_dp_intf_data *object);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_destroy_internal(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t free_it);
+
+/* Whole record */
+LUMO_UI_TARN_API lumo_tarn_dp_intf_data *lumo_tarn_dp_intf_data_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *object,
+    uint8_t *intf_name_is_valid, uint16_t *intf_name_len, uint8_t *in_lumo_wexa_is_valid,
+    uint8_t *out_lumo_wexa_is_valid, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *object,
+    uint8_t intf_name_is_valid, uint8_t in_lumo_wexa_is_valid, uint8_t out_lumo_wexa_is_valid, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *destination,
+    lumo_tarn_dp_intf_data *source, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *new_place, lumo_tarn_dp_intf_data *old_place, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_is_valid_cr(mirk_handle *h, lumo_tarn_dp_intf_data *object,
+    uint32_t field_index);
+
+/* References */
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_get_oid_count(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_get_object_references(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, void **oids, uint32_t size, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_offset_update(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, void *state_area, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_offset_remove(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+
+/* Wire */
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *instance);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_len_cr(mirk_handle *h, lumo_tarn_dp_intf_data *instance);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
+    lumo_tarn_dp_intf_data *instance, int32_t remaining, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
+    lumo_tarn_dp_intf_data *instance, int32_t remaining, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
+    lumo_tarn_dp_intf_data *instance, uint32_t length, uint32_t reuse, uint32_t *err);
+
+/* Deep copy */
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_intf_data *source,
+    lumo_tarn_dp_intf_data **result, void *buffer, uint32_t size, uint32_t *err);
+LUMO_UI_TARN_API lumo_tarn_dp_intf_data *lumo_tarn_dp_intf_data_clone_cr(mirk_handle *h,
+    lumo_tarn_dp_intf_data *source);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_copy_cr(mirk_handle *h, lumo_tarn_dp_intf_data *source,
+    lumo_tarn_dp_intf_data *destination);
+
+/* Text */
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
+    const char *name, lumo_tarn_dp_intf_data *instance, int32_t remaining, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_print_cr(mirk_handle *h, lumo_tarn_dp_intf_data *instance,
+    char *buffer, int32_t remaining);
+
+/* XML */
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
+    lumo_tarn_dp_intf_data *instance, int32_t remaining, uint8_t state, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_toxml_cr(mirk_handle *h, lumo_tarn_dp_intf_data *instance,
+    char *buffer, int32_t remaining);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
+    lumo_tarn_dp_intf_data *instance, uint32_t *err, char *message, uint32_t message_size);
+
+/* Value */
+LUMO_UI_TARN_API int32_t lumo_tarn_dp_intf_data_compare(const lumo_tarn_dp_intf_data *a,
+    const lumo_tarn_dp_intf_data *b);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_hash(const lumo_tarn_dp_intf_data *instance, uint32_t seed);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *instance, void *word);
+
+/* intf_name_is_valid: says whether intf_name holds a value */
+LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_intf_name_is_valid_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_intf_name_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_intf_name_is_valid_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+/* intf_name_len: length of intf_name in bytes */
+LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_intf_data_intf_name_len_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API uint16_t lumo_tarn_dp_intf_data_intf_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+
+/* intf_name: name of the interface */
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, char *destination, uint32_t size, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, const char *text, uint32_t length, uint32_t *err);
+LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_intf_name_set_cr(mirk_handle *h, lumo_tarn_dp_intf_data *object,
+    const char *text, uint32_t length);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_intf_name_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+/* in_lumo_wexa_is_valid: says whether in_lumo_wexa holds a value */
+LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+/* in_lumo_wexa: ingress side */
+LUMO_UI_TARN_API lumo_tarn_dp_lumo_wexa_info *lumo_tarn_dp_intf_data_in_lumo_wexa_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, lumo_tarn_dp_lumo_wexa_info *source, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_in_lumo_wexa_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+/* out_lumo_wexa_is_valid: says whether out_lumo_wexa holds a value */
+LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+/* out_lumo_wexa: egress side */
+LUMO_UI_TARN_API lumo_tarn_dp_lumo_wexa_info *lumo_tarn_dp_intf_data_out_lumo_wexa_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, lumo_tarn_dp_lumo_wexa_info *source, uint32_t *err);
+LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_out_lumo_wexa_state_flag_get(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint32_t *err);
+LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_state_flag_set(mirk_handle *h, uint32_t ctx_id,
+    lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
+
+LUMO_UI_TARN_END
+
+#endif

@@ -1,0 +1,148 @@
+#include "surface.h"
+#include "writers.h"
+
+namespace tarn::generate {
+
+using namespace schema;
+
+namespace {
+
+// The field of an operations struct that a row fills, from what stands behind the names in its prototype.
+std::string field_of(const Row &row) {
+    const std::string_view prototype = row.prototype;
+    const std::size_t open = prototype.find('(');
+    const std::size_t brace = prototype.rfind('}', open);
+    std::string suffix(prototype.substr(brace + 1, open - brace - 1));
+    if (suffix.starts_with("_message_")) suffix = suffix.substr(8);
+    suffix = suffix.substr(1);
+    if (row.applies == Applies::message && prototype.find("_message_{r}") != std::string_view::npos) {
+        suffix = "payload_" + suffix;
+    }
+    if (suffix == "message_handler" || suffix == "bundle_handler") return "handler";
+    if (suffix == "bundle_handler_register") return "register_handler";
+    if (suffix == "bundle_handler_unregister") return "unregister_handler";
+    if (suffix == "sizeof") return "sizeof_";
+    if (row.applies == Applies::string && !suffix.starts_with("state")) return "text_" + suffix;
+    if (row.applies == Applies::array) {
+        if (suffix.starts_with("state_flag_whole")) return "state_flag" + suffix.substr(16);
+        return "element_" + suffix;
+    }
+    return suffix;
+}
+
+bool is_opaque(const std::string &type) {
+    return type.find("lumo_tarn_") != std::string::npos || type.find("ip_address") != std::string::npos ||
+           type.find("mirk_boolean") != std::string::npos;
+}
+
+// A call with pointers to objects as void and, for members, values as 64-bit numbers.
+std::string lambda(const Export &e) {
+    const bool of_member = e.row->family.empty();
+    const bool whole = e.entry.ends_with("::get_all") || e.entry.ends_with("::set_all");
+    std::string parameters, arguments;
+    std::size_t listed = 0;
+    for (std::size_t i = 0; i < e.parameters.size(); ++i) {
+        const Parameter &p = e.parameters[i];
+        std::string type = p.type, argument = p.name;
+        const bool is_value = whole && i >= 3 && p.name != "err";
+        if (is_value) {
+            const std::string at = "all[" + std::to_string(listed++) + "]";
+            argument = "static_cast<" + p.type + ">(" + at + ")";
+            type.clear();
+        } else if (p.type.ends_with("**") && is_opaque(p.type)) {
+            type = "void **";
+            argument = "reinterpret_cast<" + p.type + ">(" + p.name + ")";
+        } else if (is_opaque(p.type) || (of_member && p.name == "source" && e.row->applies != Applies::array)) {
+            type = p.type.starts_with("const") && !of_member ? "const void *" : "void *";
+            argument = "static_cast<" + p.type + ">(" + p.name + ")";
+        } else if (of_member && p.name == "value" && e.row->prototype.find("set_value") != std::string_view::npos) {
+            type = "uint64_t";
+            argument = "static_cast<" + p.type + ">(value)";
+        }
+        if (whole && i == 3) {
+            const bool out = e.entry.ends_with("::get_all");
+            parameters += out ? ", [[maybe_unused]] void *const *all" : ", [[maybe_unused]] const uint64_t *all";
+        }
+        if (!type.empty()) parameters += (parameters.empty() ? "" : ", ") + Parameter{type, p.name}.declaration();
+        arguments += (arguments.empty() ? "" : ", ") + argument;
+    }
+    std::string result = e.result;
+    if (result.ends_with('*')) result = "void *";
+    if (of_member && e.row->prototype.find("get_value") != std::string_view::npos) result = "uint64_t";
+    return "[](" + parameters + ") -> " + result + " { return " + e.name + "(" + arguments + "); }";
+}
+
+std::string fields(const Subject &subject, Applies applies, const std::string &indent) {
+    // Designated initialisers follow the order of the struct, so each row is put under its field's name into a struct.
+    std::string text;
+    for (const Export &e : exports_of(subject, applies)) {
+        const std::string field = field_of(*e.row);
+        const bool as_it_is = e.row->weak || field == "register_handler" || field == "unregister_handler";
+        text += indent + "o." + field + " = " + (as_it_is ? e.name : lambda(e)) + ";\n";
+    }
+    return text;
+}
+
+std::string catalogue_fields(const std::string &name) {
+    return "    o.name = \"" + name + "\";\n    o.luid = message_" + name + "_luid;\n    o.luid_text = message_" + name +
+           "_luid_text;\n    o.catalogue_name = message_" + name + "_name;\n";
+}
+
+std::string table(const char *type, const std::string &name, const std::string &rows) {
+    return std::string("const ") + type + " " + name + "[] = {\n" + rows + "};\n\n";
+}
+
+}  // namespace
+
+Files write_operations() {
+    std::string text = "// Generated from the schema and the family table; not to be edited.\n"
+                       "namespace tarn::reflect {\n\nnamespace {\n\n";
+    std::string record_rows, enumeration_rows, message_rows, bundle_rows;
+    for (const Record *r : records) {
+        const std::string name(r->name);
+        text += "std::array<MemberOperations, " + std::to_string(r->members.size()) + "> members_of_" + name +
+                "() {\n    std::array<MemberOperations, " + std::to_string(r->members.size()) + "> all{};\n";
+        for (std::size_t i = 0; i < r->members.size(); ++i) {
+            text += "    {\n        MemberOperations &o = all[" + std::to_string(i) + "];\n        o.member = &schema::" +
+                    name + ".members[" + std::to_string(i) + "];\n" +
+                    fields({.record = r, .member = i}, class_of(r->members[i]), "        ") + "    }\n";
+        }
+        text += "    return all;\n}\nconst auto " + name + "_members = members_of_" + name + "();\n\n";
+        text += "RecordOperations record_" + name + "() {\n    RecordOperations o{};\n    o.record = &schema::" + name +
+                ";\n    o.type = &_" + name + "_type_info_internal;\n    o.members = " + name + "_members;\n" +
+                fields({.record = r}, Applies::record, "    ") + "    return o;\n}\n\n";
+        record_rows += "    record_" + name + "(),\n";
+    }
+    for (const Enumeration *e : enumerations) {
+        const std::string name(e->name);
+        text += "EnumerationOperations enumeration_" + name + "() {\n    EnumerationOperations o{};\n    o.enumeration = &schema::" +
+                name + ";\n    o.type = &_" + name + "_type_info_internal;\n" +
+                fields({.enumeration = e}, Applies::enumeration, "    ") + "    return o;\n}\n\n";
+        enumeration_rows += "    enumeration_" + name + "(),\n";
+    }
+    for (const CatalogueEntry &c : catalogue()) {
+        const bool plain = c.subject.message != nullptr;
+        text += "MessageOperations message_" + c.name + "() {\n    MessageOperations o{};\n" + catalogue_fields(c.name);
+        if (plain) {
+            text += "    o.message = &schema::" + c.name + ";\n    o.type = &_" + c.name +
+                    "_message_type_info_internal;\n";
+            message_rows += "    message_" + c.name + "(),\n";
+        }
+        text += fields(c.subject, plain ? Applies::message : Applies::control, "    ") + "    return o;\n}\n\n";
+    }
+    for (const Bundle *b : bundles) {
+        const std::string name(b->name);
+        text += "BundleOperations bundle_" + name + "() {\n    BundleOperations o{&schema::" + name + ", message_" + name +
+                "_bundle_start(), message_" + name + "_bundle_abort(), message_" + name +
+                "_bundle_commit(), nullptr, nullptr, nullptr, &lumo_ui_tarn_" + name + "_bundle_registered_handler};\n" +
+                fields({.bundle = b}, Applies::bundle, "    ") + "    return o;\n}\n\n";
+        bundle_rows += "    bundle_" + name + "(),\n";
+    }
+    text += table("RecordOperations", "all_records", record_rows) +
+            table("EnumerationOperations", "all_enumerations", enumeration_rows) +
+            table("MessageOperations", "all_messages", message_rows) +
+            table("BundleOperations", "all_bundles", bundle_rows);
+    return {{"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};
+}
+
+}  // namespace tarn::generate

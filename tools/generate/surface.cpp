@@ -1,0 +1,225 @@
+#include "surface.h"
+
+namespace tarn::generate {
+
+using namespace schema;
+
+namespace {
+
+void replace_all(std::string &text, std::string_view what, std::string_view by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+}
+
+std::string integer_type(Kind kind) {
+    constexpr const char *names[] = {"uint8_t", "uint16_t", "uint32_t", "uint64_t"};
+    return names[static_cast<std::size_t>(kind)];
+}
+
+std::string listed_values(const Record &record, bool out) {
+    std::string list;
+    for (const Member &m : record.members) {
+        if (!is_scalar(m) && !(out && m.role != Role::value)) continue;
+        list += value_type(m) + (out ? " *" : " ") + std::string(m.name) + ", ";
+    }
+    return list;
+}
+
+// Splits "uint32_t indent, const char *name" at its commas, and each piece before its name.
+std::vector<Parameter> parse_parameters(std::string_view text) {
+    std::vector<Parameter> parameters;
+    while (!text.empty()) {
+        const std::size_t comma = text.find(", ");
+        const std::string_view piece = text.substr(0, comma);
+        text = comma == std::string_view::npos ? std::string_view() : text.substr(comma + 2);
+        if (piece == "void") continue;
+        if (piece == "H") {
+            parameters.push_back({"mirk_handle *", "h"});
+        } else if (piece == "I") {
+            parameters.push_back({"uint32_t", "ctx_id"});
+        } else if (piece == "E") {
+            parameters.push_back({"uint32_t *", "err"});
+        } else {
+            const std::size_t name = piece.find_last_of(" *") + 1;
+            std::string type(piece.substr(0, name));
+            if (type.ends_with(' ')) type.pop_back();
+            parameters.push_back({type, std::string(piece.substr(name))});
+        }
+    }
+    return parameters;
+}
+
+Export expand(const Row &row, const Subject &subject) {
+    Export e{&row, subject, {}, {}, fill(row.entry, subject), {}};
+    const std::string prototype = fill(row.prototype, subject);
+    const std::size_t open = prototype.find('(');
+    const std::size_t name = prototype.find_last_of(" *", open) + 1;
+    e.result = prototype.substr(0, name);
+    if (e.result.ends_with(' ')) e.result.pop_back();
+    e.name = prototype.substr(name, open - name);
+    e.parameters = parse_parameters(std::string_view(prototype).substr(open + 1, prototype.size() - open - 2));
+    return e;
+}
+
+}  // namespace
+
+Applies class_of(const Member &m) {
+    if (m.role == Role::count) return Applies::count;
+    if (m.role == Role::length) return Applies::length;
+    switch (m.kind) {
+        case Kind::boolean: return Applies::boolean;
+        case Kind::address: return Applies::address;
+        case Kind::enumeration: return Applies::choice;
+        case Kind::record: return Applies::nested;
+        case Kind::string: return Applies::string;
+        case Kind::array: return Applies::array;
+        default: return Applies::integer;
+    }
+}
+
+std::string value_type(const Member &m) {
+    if (m.kind == Kind::boolean) return "uint8_t";
+    if (m.kind == Kind::enumeration) return "uint32_t";
+    return integer_type(m.kind);
+}
+
+std::string fill(std::string_view pattern, const Subject &s) {
+    std::string text(pattern);
+    const auto put = [&](std::string_view what, std::string_view by) { replace_all(text, what, by); };
+    const auto put_object = [&](std::string_view what, std::string_view name) {
+        put(what, "schema::" + std::string(name));
+    };
+    const Record *record = s.message != nullptr ? &s.message->payload : s.record;
+    if (record != nullptr) {
+        if (s.message == nullptr && s.member < record->members.size()) {
+            const Member &m = record->members[s.member];
+            put("{F}", "FieldOf<{R}, " + std::to_string(s.member) + ">");
+            put("{f}", m.name);
+            if (is_integer(m.kind)) put("{T}", integer_type(m.kind));
+            if (m.record != nullptr) put("{n}", m.record->name);
+            if (m.enumeration != nullptr) put("{n}", m.enumeration->name);
+        }
+        put("{get_all}", listed_values(*record, true));
+        put("{set_all}", listed_values(*record, false));
+        put("{r}", record->name);
+        put_object("{R}", record->name);
+    }
+    if (s.enumeration != nullptr) {
+        put("{e}", s.enumeration->name);
+        put_object("{E}", s.enumeration->name);
+    }
+    if (s.message != nullptr) {
+        put("{m}", s.message->name);
+        put_object("{M}", s.message->name);
+    }
+    if (s.bundle != nullptr) {
+        put("{b}", s.bundle->name);
+        put_object("{B}", s.bundle->name);
+        put("{k}", s.control);
+        put("{K}", "Control::" + std::string(s.control));
+    }
+    return text;
+}
+
+std::string Export::declaration() const {
+    std::string list;
+    for (const Parameter &p : parameters) list += (list.empty() ? "" : ", ") + p.declaration();
+    return result + (result.ends_with('*') ? "" : " ") + name + "(" + (list.empty() ? "void" : list) + ")";
+}
+
+std::vector<Subject> subjects(Applies applies) {
+    std::vector<Subject> all;
+    switch (applies) {
+        case Applies::record:
+            for (const Record *r : records) all.push_back({.record = r});
+            break;
+        case Applies::enumeration:
+            for (const Enumeration *e : enumerations) all.push_back({.enumeration = e});
+            break;
+        case Applies::message:
+            for (const Message *m : messages) all.push_back({.message = m});
+            break;
+        case Applies::bundle:
+            for (const Bundle *b : bundles) all.push_back({.bundle = b});
+            break;
+        case Applies::control:
+            for (const Bundle *b : bundles) {
+                for (const char *kind : {"start", "abort", "commit"}) all.push_back({.bundle = b, .control = kind});
+            }
+            break;
+        case Applies::module: all.push_back({}); break;
+        default:
+            for (const Record *r : records) {
+                for (std::size_t i = 0; i < r->members.size(); ++i) {
+                    if (class_of(r->members[i]) == applies) all.push_back({.record = r, .member = i});
+                }
+            }
+    }
+    return all;
+}
+
+std::vector<Export> exports_of(const Subject &subject, Applies applies) {
+    std::vector<Export> found;
+    for (const Row &row : rows()) {
+        if (row.applies == applies) found.push_back(expand(row, subject));
+    }
+    return found;
+}
+
+std::vector<Export> all_functions() {
+    std::vector<Export> all;
+    for (const Row &row : rows()) {
+        for (const Subject &subject : subjects(row.applies)) all.push_back(expand(row, subject));
+    }
+    return all;
+}
+
+std::vector<CatalogueEntry> catalogue() {
+    std::vector<CatalogueEntry> all;
+    for (const Message *m : messages) all.push_back({std::string(m->name), &m->luid, {.message = m}});
+    for (const Bundle *b : bundles) {
+        const auto add = [&](const char *kind, const Luid &luid) {
+            all.push_back({std::string(b->name) + "_bundle_" + kind, &luid, {.bundle = b, .control = kind}});
+        };
+        add("start", b->start);
+        add("abort", b->abort);
+        add("commit", b->commit);
+    }
+    return all;
+}
+
+std::vector<TypeEntry> types() {
+    std::vector<TypeEntry> all;
+    const auto add = [&](std::string_view name, std::string_view suffix, const Subject &subject) {
+        all.push_back({std::string(name) + std::string(suffix), std::string(name), subject});
+    };
+    for (const Record *r : records) add(r->name, "", {.record = r});
+    for (const Enumeration *e : enumerations) add(e->name, "", {.enumeration = e});
+    for (const Message *m : messages) add(m->name, "_message", {.message = m});
+    return all;
+}
+
+std::vector<Datum> all_data() {
+    std::vector<Datum> all;
+    const auto add = [&](std::string before, std::string name, std::string behind, const Subject &subject) {
+        all.push_back({before + " " + name + behind, name, subject});
+    };
+    for (const TypeEntry &t : types()) add("mirk_type_info", "_" + t.name + "_type_info_internal", "", t.subject);
+    for (const CatalogueEntry &c : catalogue()) {
+        add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject);
+        add("const char", "message_" + c.name + "_luid_text", "[33]", c.subject);
+        add("const char", "message_" + c.name + "_name", "[64]", c.subject);
+    }
+    for (const char *trace : {"type", "message", "queue", "stub"}) {
+        add("uint16_t", "g_mirk_lumo_ui_tarn_" + std::string(trace) + "_trace_module_id", "", {});
+    }
+    add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {});
+    for (const Bundle *b : bundles) {
+        add("mirk_bundle_handler", "lumo_ui_tarn_" + std::string(b->name) + "_bundle_registered_handler", "",
+            {.bundle = b});
+    }
+    return all;
+}
+
+}  // namespace tarn::generate
