@@ -86,6 +86,11 @@ struct Primitive<F, Kind::address> {
 
 template <class F>
 struct Primitive<F, Kind::enumeration> : Enum<*F::member.enumeration> {
+    static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, enumeration_object *field,
+                                   std::int32_t left, std::uint32_t reuse, std::uint32_t *err) {
+        return Enum<*F::member.enumeration>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left),
+                                                       reuse, err);
+    }
     static mirk_type_info *type() { return &TypeInfo<*F::member.enumeration>::own; }
 };
 
