@@ -33,8 +33,7 @@ void Copy<R>::copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mi
 }
 
 template <const Record &R>
-void Copy<R>::copy_by_workspace(mirk_handle *h, mirk_object *source, mirk_object **destination,
-                                std::uint32_t free_it) {
+void Copy<R>::copy_by_workspace(mirk_handle *h, mirk_object *source, mirk_object **destination, std::uint32_t free_it) {
     void *buffer = nullptr;
     std::uint32_t size = 0;
     mirklib_get_handle_ws(h, &buffer, &size);

@@ -17,7 +17,8 @@ struct Copy {
 private:
     static void copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mirk_object **destination, void *buffer,
                      std::uint32_t size, std::uint32_t free_it, std::uint32_t *err);
-    static void copy_by_workspace(mirk_handle *h, mirk_object *source, mirk_object **destination, std::uint32_t free_it);
+    static void copy_by_workspace(mirk_handle *h, mirk_object *source, mirk_object **destination,
+                                  std::uint32_t free_it);
 };
 
 }  // namespace tarn

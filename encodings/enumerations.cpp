@@ -28,12 +28,13 @@ struct EmptyElement {
     }
 };
 
-// One element for each enumerator, and behind them the one that stands for any other value: it is no well-formed XML, and
-// readers of a recording have to expect it, since a sender chooses the value.
+// One element for each enumerator, and behind them the one that stands for any other value: it is no well-formed XML,
+// and readers of a recording have to expect it, since a sender chooses the value.
 template <const Enumeration &E>
 constexpr auto elements_of = []<std::size_t... I>(std::index_sequence<I...>) {
     return std::array{EmptyElement(E.enumerators[I], "")..., EmptyElement(E.name, " value out of range")};
-}(std::make_index_sequence<bound<E>>{});
+}
+(std::make_index_sequence<bound<E>>{});
 
 std::uint32_t value_of(const enumeration_object *instance) { return instance != nullptr ? instance->value : 0; }
 

@@ -30,14 +30,14 @@ std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
             }
         } else if constexpr (F::kind == Kind::string) {
             char *body = instance != nullptr ? *F::at(instance) : nullptr;
-            offset += var_string_print(h, ctx_id, buffer + offset, inside, F::name(), body, left(), F::count(instance),
-                                       err);
+            offset +=
+                var_string_print(h, ctx_id, buffer + offset, inside, F::name(), body, left(), F::count(instance), err);
         } else {
             offset += Primitive<F>::print(h, ctx_id, buffer + offset, inside, F::name(), F::at(instance), left(), err);
         }
     });
-    // These blanks go to the start of the record's own first line, where they change nothing. So the bytes in front of a
-    // nested brace are counted and keep what the buffer held: a caller that hands the buffer on clears it first.
+    // These blanks go to the start of the record's own first line, where they change nothing. So the bytes in front of
+    // a nested brace are counted and keep what the buffer held: a caller that hands the buffer on clears it first.
     offset += mirk_print_space(h, ctx_id, buffer, indent, left(), err);
     offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "}\n");
     return offset;

@@ -6,9 +6,9 @@
 //   jump      4   bytes from here to the end of the frame, these four included
 //   body          members in table order, each followed by its state byte if bit 8 is set
 //
-// An array is its count, the frames of its elements and, if tracked and not empty, the state of the whole and one byte for
-// each element. A string is its length, its characters and, if tracked and not empty, one state byte. A reader steps over
-// what a newer sender wrote behind the members known here, by the jump.
+// An array is its count, the frames of its elements and, if tracked and not empty, the state of the whole and one byte
+// for each element. A string is its length, its characters and, if tracked and not empty, one state byte. A reader
+// steps over what a newer sender wrote behind the members known here, by the jump.
 #pragma once
 
 #include "runtime/walk.h"

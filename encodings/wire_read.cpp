@@ -6,9 +6,9 @@
 
 namespace tarn {
 
-// The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is reached
-// through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with the owner
-// of the buffer, and is read by two kinds of state that stand exactly at the end.
+// The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is
+// reached through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with
+// the owner of the buffer, and is read by two kinds of state that stand exactly at the end.
 struct Reader {
     mirk_handle *h;
     std::uint32_t ctx_id;
@@ -113,9 +113,10 @@ bool Reader::array(mirk_object *instance) {
         {
             StepErrors errors(h, err);
             Lifecycle<A::element>::initialize(h, ctx_id, element, &TypeInfo<A::element>::own, 1, 0, flag::nested,
-                                     reinterpret_cast<void *>(element_state), errors.next());
+                                              reinterpret_cast<void *>(element_state), errors.next());
         }
-        offset += WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
+        offset +=
+            WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
     }
     if (read_state) {
         block_state<A>();
@@ -154,7 +155,8 @@ bool Reader::string(mirk_object *instance) {
     if (read_state) {
         block_state<S>();
     } else if (skip_state) {
-        // Unlike a scalar's: the last byte of a buffer is not stepped over. The jump makes up for it in an enclosing frame.
+        // Unlike a scalar's: the last byte of a buffer is not stepped over. The jump makes up for it in an enclosing
+        // frame.
         if (static_cast<std::int32_t>(size - offset) > 1) offset += 1;
     }
     return true;
@@ -202,18 +204,19 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 
-    const bool complete = variant < 0 || walk_while<R>([&]<class F>(F) {
-        if constexpr (F::kind == Kind::array) {
-            return in.array<F>(instance);
-        } else if constexpr (F::kind == Kind::string) {
-            return in.string<F>(instance);
-        } else {
-            if constexpr (F::member.role != Role::value) in.old_count = *F::at(instance);
-            in.offset += Primitive<F>::unmarshal(h, ctx_id, in.at(), F::at(instance), in.left(), reuse, err);
-            if constexpr (schema::is_tracked(F::member)) in.state_of<F>();
-            return true;
-        }
-    });
+    const bool complete =
+        variant < 0 || walk_while<R>([&]<class F>(F) {
+            if constexpr (F::kind == Kind::array) {
+                return in.array<F>(instance);
+            } else if constexpr (F::kind == Kind::string) {
+                return in.string<F>(instance);
+            } else {
+                if constexpr (F::member.role != Role::value) in.old_count = *F::at(instance);
+                in.offset += Primitive<F>::unmarshal(h, ctx_id, in.at(), F::at(instance), in.left(), reuse, err);
+                if constexpr (schema::is_tracked(F::member)) in.state_of<F>();
+                return true;
+            }
+        });
     if (!complete) return 0;
 
     const std::uint32_t end = jump_base + jump;

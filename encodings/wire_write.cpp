@@ -6,8 +6,8 @@
 
 namespace tarn {
 
-// The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes nothing, the
-// state bytes still go out, and the caller decides at the end.
+// The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes
+// nothing, the state bytes still go out, and the caller decides at the end.
 struct Writer {
     mirk_handle *h;
     std::uint32_t ctx_id;
@@ -133,13 +133,13 @@ std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *
 }
 
 template <const Record &R>
-std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                              mirk_object *instance, std::int32_t remaining, std::uint32_t *err) {
+std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                              std::int32_t remaining, std::uint32_t *err) {
     return write<false>(h, ctx_id, buffer, instance, remaining, err);
 }
 
-// Sizes a buffer, and so says more than is written in two places: an empty array or string is counted one state byte, and a
-// string's state one byte for each character. RA data is not counted.
+// Sizes a buffer, and so says more than is written in two places: an empty array or string is counted one state byte,
+// and a string's state one byte for each character. RA data is not counted.
 template <const Record &R>
 std::uint32_t WireWrite<R>::len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance) {
     constexpr std::uint32_t head = 1 + 1 + 4;

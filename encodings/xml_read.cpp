@@ -40,8 +40,8 @@ struct XmlReader {
     bool array();
 };
 
-// An empty value leaves the string alone. So does an absent one, but its error stays in the slot, to be met and forgiven
-// by the next member, which therefore is not read.
+// An empty value leaves the string alone. So does an absent one, but its error stays in the slot, to be met and
+// forgiven by the next member, which therefore is not read.
 template <class S>
 bool XmlReader::string() {
     Path own;

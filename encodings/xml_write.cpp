@@ -23,9 +23,9 @@ std::uint32_t XmlWrite<R>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const ch
                 for (std::uint32_t i = 0; i < n && *err == 0; ++i) {
                     const std::uint8_t own =
                         tracked ? Array<F>::state_flag_get(h, ctx_id, instance, i, err) : std::uint8_t{0};
-                    offset += XmlWrite<F::element>::to_xml(h, ctx_id, F::name(), buffer + offset,
-                                                           element_at<F::element>(*F::at(instance), i), left(), own,
-                                                           err);
+                    offset +=
+                        XmlWrite<F::element>::to_xml(h, ctx_id, F::name(), buffer + offset,
+                                                     element_at<F::element>(*F::at(instance), i), left(), own, err);
                 }
             } else {
                 if (*err != 0) return;
@@ -35,11 +35,11 @@ std::uint32_t XmlWrite<R>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const ch
                 }
                 if constexpr (F::kind == Kind::string) {
                     char *body = instance != nullptr ? *F::at(instance) : nullptr;
-                    offset += var_string_to_xml(h, ctx_id, F::name(), buffer + offset, body, left(),
-                                                F::count(instance), own, err);
+                    offset += var_string_to_xml(h, ctx_id, F::name(), buffer + offset, body, left(), F::count(instance),
+                                                own, err);
                 } else {
-                    offset += Primitive<F>::to_xml(h, ctx_id, F::name(), buffer + offset, F::at(instance), left(), own,
-                                                   err);
+                    offset +=
+                        Primitive<F>::to_xml(h, ctx_id, F::name(), buffer + offset, F::at(instance), left(), own, err);
                 }
             }
         });

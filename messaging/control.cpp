@@ -88,8 +88,9 @@ std::uint32_t ControlMessage<B, K>::len_cr(mirk_handle *h, void *) {
     return h->last_error != 0 ? 0 : frame_head;
 }
 
-// A start opens the bundle and needs room for its frame. An abort or a commit ends the bundle in every case, one without
-// room too: no frame has gone out then, which is for the caller to deal with. Any bundle's end closes the one that is open.
+// A start opens the bundle and needs room for its frame. An abort or a commit ends the bundle in every case, one
+// without room too: no frame has gone out then, which is for the caller to deal with. Any bundle's end closes the one
+// that is open.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, void *,
                                             std::uint32_t size, std::uint32_t *err) {
@@ -120,16 +121,14 @@ std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id
 
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::marshal_cr(mirk_handle *h, void *token, void *buffer, std::uint32_t size) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return marshal(h, ctx_id, buffer, token, size, err);
-    });
+    return sticky_length(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return marshal(h, ctx_id, buffer, token, size, err); });
 }
 
 // The frame is not read: being called is all that the message says. The result is no sign of success.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void **out,
-                                              void *, std::uint32_t, mirk_message_handler handler,
-                                              std::uint32_t *err) {
+                                              void *, std::uint32_t, mirk_message_handler handler, std::uint32_t *err) {
     if (*err != 0) return frame_head;
     if (out != nullptr) *out = nullptr;
     const mirk_message_handler deliver = handler != nullptr ? handler : ControlIdentity<B, K>::handler;
@@ -157,9 +156,8 @@ std::uint32_t ControlMessage<B, K>::print(mirk_handle *h, std::uint32_t ctx_id, 
 
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::print_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
-    return render_sticky(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return print(h, ctx_id, buffer, token, size, err);
-    });
+    return render_sticky(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return print(h, ctx_id, buffer, token, size, err); });
 }
 
 // An empty element; the name is an attribute, which the closing tag leaves out.
@@ -176,15 +174,13 @@ std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id,
     }();
     const auto room = static_cast<std::int32_t>(size);
     const std::uint32_t position = start_tag(h, ctx_id, buffer, tag.data(), room, 0, err);
-    return position +
-           end_tag(h, ctx_id, buffer + position, word, room - static_cast<std::int32_t>(position), err);
+    return position + end_tag(h, ctx_id, buffer + position, word, room - static_cast<std::int32_t>(position), err);
 }
 
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::toxml_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
-    return render_sticky(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return to_xml(h, ctx_id, buffer, token, size, err);
-    });
+    return render_sticky(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return to_xml(h, ctx_id, buffer, token, size, err); });
 }
 
 // Any document gives a token: there is nothing in it to be read.

@@ -45,16 +45,15 @@ bool is_receiving(mirk_handle *h, std::uint32_t *err) {
 template <const Message &M>
 void MessageHandler<M>::unhandled(mirk_handle *h, std::uint32_t, void *, void *, std::uint32_t *err) {
     fail(h, err, ENOSYS);
-    static constexpr auto text =
-        named_text<M>("(info): stub default handler lumo_ui_tarn_", "_message handler called");
+    static constexpr auto text = named_text<M>("(info): stub default handler lumo_ui_tarn_", "_message handler called");
     trace_stub(info_level, text.data());
 }
 
 // Reports no error: the commit counts as handled, and the messages are dropped.
 template <const Bundle &B>
 void BundleHandler<B>::unhandled(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {
-    constexpr std::size_t own_name = std::string_view("lumo_ui_tarn_").size() + B.name.size() +
-                                     std::string_view("_bundle_handler").size();
+    constexpr std::size_t own_name =
+        std::string_view("lumo_ui_tarn_").size() + B.name.size() + std::string_view("_bundle_handler").size();
     trace_stub(error_level, "(ERR): Call to unimplemented function %s at %s:%d", filler<own_name>.data(),
                filler<58>.data(), 1);
 }

@@ -1,5 +1,5 @@
-// By what a message is known: its identity and name in the catalogue, and the handler that is linked in for it. Each is an
-// exported symbol, reached through the traits that the generated list below fills in.
+// By what a message is known: its identity and name in the catalogue, and the handler that is linked in for it. Each is
+// an exported symbol, reached through the traits that the generated list below fills in.
 #pragma once
 
 #include "runtime/guard.h"

@@ -61,8 +61,7 @@ message_object *MessageObject<M>::create_shallow(mirk_handle *h, std::uint32_t c
 // The payload is made before the type is bound and before anything is counted.
 template <const Message &M>
 message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
-    message_object *message =
-        create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
+    message_object *message = create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
     if (message == nullptr) return nullptr;
     message->payload = Lifecycle<M.payload>::create(h, ctx_id);
     if (message == sentinel()) return message;
@@ -124,8 +123,8 @@ void MessageObject<M>::set(mirk_handle *, std::uint32_t, message_object *message
 
 // Given the message's own payload this destroys it and stores what is left; take it out with get_detach instead.
 template <const Message &M>
-void MessageObject<M>::free_and_set(mirk_handle *h, std::uint32_t ctx_id, message_object *message,
-                                    mirk_object *payload, std::uint32_t *err) {
+void MessageObject<M>::free_and_set(mirk_handle *h, std::uint32_t ctx_id, message_object *message, mirk_object *payload,
+                                    std::uint32_t *err) {
     static constexpr auto complaint =
         named_text<M.payload>("(debug): Error present when freeing and setting value for ", ": %s");
     if (has_error(message, err, complaint)) return;

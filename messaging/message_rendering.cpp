@@ -30,11 +30,9 @@ std::uint32_t MessageRendering<M>::print(mirk_handle *h, std::uint32_t ctx_id, c
 }
 
 template <const Message &M>
-std::uint32_t MessageRendering<M>::print_cr(mirk_handle *h, message_object *message, char *buffer,
-                                            std::uint32_t size) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return print(h, ctx_id, buffer, message, size, err);
-    });
+std::uint32_t MessageRendering<M>::print_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size) {
+    return sticky_length(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return print(h, ctx_id, buffer, message, size, err); });
 }
 
 template <const Message &M>
@@ -58,11 +56,9 @@ std::uint32_t MessageRendering<M>::to_xml(mirk_handle *h, std::uint32_t ctx_id, 
 }
 
 template <const Message &M>
-std::uint32_t MessageRendering<M>::toxml_cr(mirk_handle *h, message_object *message, char *buffer,
-                                            std::uint32_t size) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return to_xml(h, ctx_id, buffer, message, size, err);
-    });
+std::uint32_t MessageRendering<M>::toxml_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size) {
+    return sticky_length(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return to_xml(h, ctx_id, buffer, message, size, err); });
 }
 
 // A document without the payload's element gives a message with a fresh payload and no error.
@@ -81,8 +77,7 @@ message_object *MessageRendering<M>::from_xml(mirk_handle *h, std::uint32_t ctx_
         return nullptr;
     }
     static constexpr auto path = named_text<M.payload>("//", "");
-    XmlRead<M.payload>::from_xml(h, ctx_id, path.data(), document, message->payload, err, message_buffer,
-                                 message_size);
+    XmlRead<M.payload>::from_xml(h, ctx_id, path.data(), document, message->payload, err, message_buffer, message_size);
     if (*err == ENOENT) *err = 0;
     return *err == 0 ? message : nullptr;
 }

@@ -25,8 +25,8 @@ std::uint32_t MessageWire<M>::marshal(mirk_handle *h, std::uint32_t ctx_id, void
     mirk_clear_last_error(h);
     const char *name = M.name.data();
     if (mirk_domain_lookup_message_ok(h, &h->domain, message->tinfo, err) == 0) {
-        trace_message(error_level, "(ERR): domainfail: Message %s (%s) is not allowed for the current domain (%s)", name,
-                      M.luid.text.data(), h->domain_name);
+        trace_message(error_level, "(ERR): domainfail: Message %s (%s) is not allowed for the current domain (%s)",
+                      name, M.luid.text.data(), h->domain_name);
         mirk_store_epoch_err(h, EBADE, err);
         return 0;
     }
@@ -83,9 +83,8 @@ std::uint32_t MessageWire<M>::marshal(mirk_handle *h, std::uint32_t ctx_id, void
 
 template <const Message &M>
 std::uint32_t MessageWire<M>::marshal_cr(mirk_handle *h, message_object *message, void *buffer, std::uint32_t size) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return marshal(h, ctx_id, buffer, message, size, err);
-    });
+    return sticky_length(
+        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return marshal(h, ctx_id, buffer, message, size, err); });
 }
 
 // The identity is stepped over and the length not compared: by the time this runs, a dispatcher has chosen the message.

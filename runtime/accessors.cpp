@@ -100,8 +100,8 @@ void Whole<R>::set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object
     });
 }
 
-// The fill covers the addresses of element-state vectors too, which thereby say that every element's state is this byte;
-// the vectors themselves are lost. A corrupt mode is passed over here and nowhere else.
+// The fill covers the addresses of element-state vectors too, which thereby say that every element's state is this
+// byte; the vectors themselves are lost. A corrupt mode is passed over here and nowhere else.
 template <const Record &R>
 void Whole<R>::set_all_state_tracking_flag(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                            std::uint8_t value) {

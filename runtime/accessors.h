@@ -79,7 +79,8 @@ struct Whole {
     template <class... Values>
     static void get_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values *...out);
     template <class... Values>
-    static void set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values... values);
+    static void set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
+                        Values... values);
     static void set_all_state_tracking_flag(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                             std::uint8_t value);
     static std::uint32_t is_valid_cr(mirk_handle *h, const mirk_object *object, std::uint32_t field_index);

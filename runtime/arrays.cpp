@@ -62,9 +62,9 @@ void initialize_new_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *
     }
     StepErrors errors(h, err);
     for (std::uint64_t i = from; i < n; ++i) {
-        Lifecycle<A::element>::initialize(h, ctx_id, element_at<A::element>(block, static_cast<std::uint32_t>(i)), &TypeInfo<A::element>::own, 1,
-                                 0, flag::nested, reinterpret_cast<void *>(element_area<A::element>(block, n, i)),
-                                 errors.next());
+        Lifecycle<A::element>::initialize(
+            h, ctx_id, element_at<A::element>(block, static_cast<std::uint32_t>(i)), &TypeInfo<A::element>::own, 1, 0,
+            flag::nested, reinterpret_cast<void *>(element_area<A::element>(block, n, i)), errors.next());
     }
 }
 
@@ -210,11 +210,11 @@ void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_obj
     *out = A::element_states(state_area<A::owner>(h, ctx_id, object)).block();
 }
 
-// The bytes go to the start of the owner's state area and not to the vector, unannounced. The copy ends with the area and
-// steps over the addresses of vectors in it, so that each stays owned.
+// The bytes go to the start of the owner's state area and not to the vector, unannounced. The copy ends with the area
+// and steps over the addresses of vectors in it, so that each stays owned.
 template <class A>
-void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                  const std::uint8_t *source, std::uint32_t length, std::uint32_t *err) {
+void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const std::uint8_t *source,
+                                  std::uint32_t length, std::uint32_t *err) {
     if (*err != 0 || !can_write_state_of(h, object, err)) return;
     if (length != A::count(object)) {
         fail(h, err, ENOENT);

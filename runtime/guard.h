@@ -1,8 +1,9 @@
 // How operations begin and how they fail.
 //
-// An operation that finds its error slot set does nothing. Otherwise it clears the handle's last error; a writer brings the
-// object to the domain's variant; and a negative variant, which has no body, refuses the operation with EIDRM. Failures are
-// system error numbers, written to the slot and to the handle. Corrupt memory is no failure but the end of the process.
+// An operation that finds its error slot set does nothing. Otherwise it clears the handle's last error; a writer brings
+// the object to the domain's variant; and a negative variant, which has no body, refuses the operation with EIDRM.
+// Failures are system error numbers, written to the slot and to the handle. Corrupt memory is no failure but the end of
+// the process.
 #pragma once
 
 #include <cerrno>
@@ -63,9 +64,10 @@ inline bool gate(mirk_handle *h, mirk_object *object, std::uint32_t value_kind, 
     return false;
 }
 
-// A sequence of initialisations clears the last error each time, and in a sticky call that is the caller's own slot. The
-// sequence has to run to its end all the same, since an object without a header would abort a later destroy. So an error
-// that was there is put aside, each step works on a word of its own, and the first error is back in the slot at the end.
+// A sequence of initialisations clears the last error each time, and in a sticky call that is the caller's own slot.
+// The sequence has to run to its end all the same, since an object without a header would abort a later destroy. So an
+// error that was there is put aside, each step works on a word of its own, and the first error is back in the slot at
+// the end.
 class StepErrors {
 public:
     StepErrors(mirk_handle *h, std::uint32_t *slot) : h_(h), slot_(slot), before_(*slot) {}

@@ -1,10 +1,11 @@
-// Kinds by operations: what each kind of single-valued member does in each family. Integers, booleans and addresses are the
-// runtime's; enumerations and nested records are the families themselves. Arrays and strings are told in each family.
+// Kinds by operations: what each kind of single-valued member does in each family. Integers, booleans and addresses are
+// the runtime's; enumerations and nested records are the families themselves. Arrays and strings are told in each
+// family.
 #pragma once
 
 #include "encodings/enumerations.h"
-#include "encodings/value.h"
 #include "encodings/text.h"
+#include "encodings/value.h"
 #include "encodings/wire.h"
 #include "encodings/xml.h"
 #include "runtime/assignment.h"

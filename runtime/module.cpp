@@ -1,14 +1,13 @@
 #include "runtime/module.h"
 
-
 namespace tarn {
 
 namespace {
 
 constinit mirk_module this_module{schema::module_name.data(), lumo_ui_tarn_type_table, nullptr, nullptr};
 
-// Stays set after the module was taken out of the list: the flag is taken for proof of a living link, so that a second run
-// of the constructor never links again.
+// Stays set after the module was taken out of the list: the flag is taken for proof of a living link, so that a second
+// run of the constructor never links again.
 constinit bool linked = false;
 
 [[gnu::constructor]] void link_module() {

@@ -20,7 +20,7 @@ inline constexpr std::uint8_t on_the_wire = state_tracked | ra_data;
 }  // namespace flag
 
 inline constexpr std::uint32_t type_magic = 0xbeeff00d;
-inline constexpr std::uint8_t written_state = 2;  // what the library's own setters leave in a state byte
+inline constexpr std::uint8_t written_state = 2;   // what the library's own setters leave in a state byte
 inline constexpr std::int8_t highest_variant = 0;  // of every type of this schema
 
 constexpr std::int8_t cap_variant(std::int8_t variant) { return variant > highest_variant ? highest_variant : variant; }
@@ -46,8 +46,8 @@ inline std::uint32_t distance(const void *from, std::uintptr_t to) {
 
 // One state byte for each element of an array, in a block of its own whose address stands in the owner's state area.
 //
-// Filling a whole state area also fills that address. Eight equal nonzero bytes are no address of a block: they mean that
-// there is no block and that the state of each element is this byte. Reads answer with it and writes are dropped.
+// Filling a whole state area also fills that address. Eight equal nonzero bytes are no address of a block: they mean
+// that there is no block and that the state of each element is this byte. Reads answer with it and writes are dropped.
 class ElementStates {
 public:
     ElementStates() = default;  // an owner without state

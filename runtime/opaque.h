@@ -1,5 +1,5 @@
-// Between the opaque types of the public headers and what the algorithms work on. A client's pointer is the address of the
-// object's header, whatever its type is called outside.
+// Between the opaque types of the public headers and what the algorithms work on. A client's pointer is the address of
+// the object's header, whatever its type is called outside.
 #pragma once
 
 #include "messaging/message.h"
@@ -21,7 +21,8 @@ template <class Opaque>
 const object_type<Opaque> *object_of(const Opaque *p) {
     return static_cast<const object_type<Opaque> *>(static_cast<const void *>(p));
 }
-// The library is compiled without type-based alias analysis, so that a client's pointer variable can be written through.
+// The library is compiled without type-based alias analysis, so that a client's pointer variable can be written
+// through.
 template <class Opaque>
 object_type<Opaque> **objects_of(Opaque **p) {
     return reinterpret_cast<object_type<Opaque> **>(p);

@@ -1,7 +1,7 @@
 // The one walk over the members of a record, and the only place that turns a member and an instance into an address.
 //
-// A family is a template over a record's table. The walk hands it each member as a type, so that the compiler sees offsets,
-// kinds and slots as constants and unrolls the family to straight-line code.
+// A family is a template over a record's table. The walk hands it each member as a type, so that the compiler sees
+// offsets, kinds and slots as constants and unrolls the family to straight-line code.
 #pragma once
 
 #include <type_traits>
@@ -42,7 +42,9 @@ struct StorageOf<Kind::string> : std::type_identity<char *> {};
 
 // An object is handed around by its header; its other bytes are reached from here alone.
 inline std::uint8_t *bytes_of(mirk_object *object) { return reinterpret_cast<std::uint8_t *>(object); }
-inline const std::uint8_t *bytes_of(const mirk_object *object) { return reinterpret_cast<const std::uint8_t *>(object); }
+inline const std::uint8_t *bytes_of(const mirk_object *object) {
+    return reinterpret_cast<const std::uint8_t *>(object);
+}
 
 // The state area, found anew each time: where the runtime says, or directly behind the instance.
 template <const Record &R>
@@ -102,9 +104,7 @@ struct Block : Field<R, I> {
     using Counter = Field<R, I - 1>;
     using Count = typename Counter::Storage;
 
-    static Count stored_count(const mirk_object *object) {
-        return object != nullptr ? *Counter::at(object) : Count{0};
-    }
+    static Count stored_count(const mirk_object *object) { return object != nullptr ? *Counter::at(object) : Count{0}; }
     // A count beside a null block, as a failed read leaves it, counts nothing.
     static Count count(const mirk_object *object) {
         return object != nullptr && *Field<R, I>::at(object) != nullptr ? *Counter::at(object) : Count{0};
@@ -137,14 +137,14 @@ template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr bool walk_while(Visit &&visit) {
     return [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
         return (visit(field<R, I>()) && ...);
-    }(std::make_index_sequence<R.members.size()>{});
+    }
+    (std::make_index_sequence<R.members.size()>{});
 }
 
 template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr void walk(Visit &&visit) {
-    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-        (visit(field<R, I>()), ...);
-    }(std::make_index_sequence<R.members.size()>{});
+    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) { (visit(field<R, I>()), ...); }
+    (std::make_index_sequence<R.members.size()>{});
 }
 
 // For each byte of the state area whether it is part of the address of an element-state vector, at any depth.

@@ -69,16 +69,9 @@ inline constexpr std::array enumerations{
 };
 
 inline constexpr std::array messages{
-    &lumo_tarn_debug_setting_msg,
-    &lumo_tarn_dp_debug_setting_msg,
-    &lumo_tarn_cl_appl_msg,
-    &lumo_tarn_cl_cfg_msg,
-    &lumo_tarn_dp_intf_msg,
-    &lumo_tarn_dp_appl_msg,
-    &lumo_tarn_dp_tt_msg,
-    &lumo_tarn_dp_mp_tc_msg,
-    &lumo_tarn_dp_mp_prefix_msg,
-    &lumo_tarn_pal_mp_prefix_msg,
+    &lumo_tarn_debug_setting_msg, &lumo_tarn_dp_debug_setting_msg, &lumo_tarn_cl_appl_msg, &lumo_tarn_cl_cfg_msg,
+    &lumo_tarn_dp_intf_msg,       &lumo_tarn_dp_appl_msg,          &lumo_tarn_dp_tt_msg,   &lumo_tarn_dp_mp_tc_msg,
+    &lumo_tarn_dp_mp_prefix_msg,  &lumo_tarn_pal_mp_prefix_msg,
 };
 
 inline constexpr std::array bundles{

@@ -1,9 +1,9 @@
 // Where the members of an instance lie, computed from the tables alone.
 //
 // An instance is an 11-byte header, then each member at its natural alignment, then slop, then, on a handle that tracks
-// state, the state area with one byte (slot) for each tracked member. Nested records and addresses take their state bytes
-// from inside the area of their owner. An array has two places there: the byte of the whole array, and at the next
-// multiple of 8 a pointer to a block of one byte for each element.
+// state, the state area with one byte (slot) for each tracked member. Nested records and addresses take their state
+// bytes from inside the area of their owner. An array has two places there: the byte of the whole array, and at the
+// next multiple of 8 a pointer to a block of one byte for each element.
 #pragma once
 
 #include "schema/model.h"
@@ -22,18 +22,18 @@ inline constexpr std::size_t most_members = 64;
 struct Place {
     std::uint32_t offset = 0;  // from the start of the instance
     std::uint32_t size = 0;
-    std::uint32_t slot = 0;    // state byte; of no meaning for a count or a length
-    std::uint32_t inner = 0;   // nested record, address: first slot of its own area; array: slot of the vector pointer
+    std::uint32_t slot = 0;   // state byte; of no meaning for a count or a length
+    std::uint32_t inner = 0;  // nested record, address: first slot of its own area; array: slot of the vector pointer
 };
 
 struct Layout {
     std::array<Place, most_members> places{};
-    std::uint32_t used_length = 0;   // to the end of the last member
-    std::uint32_t rounded = 0;       // that, up to a multiple of 8
-    std::uint32_t base_size = 0;     // what an instance takes without its state area
+    std::uint32_t used_length = 0;  // to the end of the last member
+    std::uint32_t rounded = 0;      // that, up to a multiple of 8
+    std::uint32_t base_size = 0;    // what an instance takes without its state area
     std::uint32_t alloc_slop = 0;
     std::uint32_t state_width = 0;
-    bool has_vector_pointer = false; // at any depth
+    bool has_vector_pointer = false;  // at any depth
 };
 
 constexpr std::uint32_t round_up(std::uint32_t n, std::uint32_t to) { return (n + to - 1) / to * to; }
@@ -42,16 +42,25 @@ constexpr Layout lay_out(const Record &record);
 
 constexpr std::uint32_t storage_size(const Member &m) {
     switch (m.kind) {
-        case Kind::u8: return 1;
-        case Kind::u16: return 2;
-        case Kind::u32: return 4;
-        case Kind::u64: return 8;
-        case Kind::boolean: return boolean_size;
-        case Kind::enumeration: return enumeration_size;
-        case Kind::address: return address_size;
-        case Kind::record: return lay_out(*m.record).base_size;
+        case Kind::u8:
+            return 1;
+        case Kind::u16:
+            return 2;
+        case Kind::u32:
+            return 4;
+        case Kind::u64:
+            return 8;
+        case Kind::boolean:
+            return boolean_size;
+        case Kind::enumeration:
+            return enumeration_size;
+        case Kind::address:
+            return address_size;
+        case Kind::record:
+            return lay_out(*m.record).base_size;
         case Kind::string:
-        case Kind::array: return pointer_size;
+        case Kind::array:
+            return pointer_size;
     }
     return 0;
 }

@@ -1,5 +1,5 @@
-// What a table must satisfy before anything is computed from it. The catalogue refuses to compile with a table that has a
-// finding; the same function, run by a test, says what is wrong in a sentence.
+// What a table must satisfy before anything is computed from it. The catalogue refuses to compile with a table that has
+// a finding; the same function, run by a test, says what is wrong in a sentence.
 #pragma once
 
 #include "schema/layout.h"
@@ -24,8 +24,11 @@ constexpr bool is_length_name(std::string_view length, std::string_view string) 
 }
 
 constexpr Finding lint(const Record &record) {
-    const auto found = [&](const Member &m, std::string_view sentence) { return Finding{record.name, m.name, sentence}; };
-    if (!is_name(record.name)) return {record.name, {}, "a record's name is lower-case letters, digits and underscores"};
+    const auto found = [&](const Member &m, std::string_view sentence) {
+        return Finding{record.name, m.name, sentence};
+    };
+    if (!is_name(record.name))
+        return {record.name, {}, "a record's name is lower-case letters, digits and underscores"};
     if (record.name.size() > 63) return {record.name, {}, "a record's name has at most 63 characters"};
     if (record.members.empty()) return {record.name, {}, "a record has at least one member"};
     if (record.members.size() > most_members) return {record.name, {}, "a record has at most 64 members"};
@@ -88,7 +91,8 @@ constexpr Finding lint_identities(const List &list) {
     for (std::size_t i = 0; i < list.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) {
             if (list[i]->name == list[j]->name) return {list[i]->name, {}, "two types have the same name"};
-            if (list[i]->luid.bytes == list[j]->luid.bytes) return {list[i]->name, {}, "two types have the same identity"};
+            if (list[i]->luid.bytes == list[j]->luid.bytes)
+                return {list[i]->name, {}, "two types have the same identity"};
         }
     }
     return {};

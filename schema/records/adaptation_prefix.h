@@ -12,8 +12,7 @@ inline constexpr Member lumo_tarn_pal_mp_prefix_members[] = {
     u32("tc_list_size", "size of the prefix's class list"),
 };
 inline constexpr Record lumo_tarn_pal_mp_prefix{"lumo_tarn_pal_mp_prefix", "ac9e5fcfde50ba72b735168c77bba633",
-    "one prefix of the adaptation layer",
-    lumo_tarn_pal_mp_prefix_members};
+                                                "one prefix of the adaptation layer", lumo_tarn_pal_mp_prefix_members};
 
 inline constexpr Member lumo_tarn_pal_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
@@ -22,7 +21,7 @@ inline constexpr Member lumo_tarn_pal_mp_prefix_data_members[] = {
     many("prefix_data", lumo_tarn_pal_mp_prefix, "prefixes"),
 };
 inline constexpr Record lumo_tarn_pal_mp_prefix_data{"lumo_tarn_pal_mp_prefix_data", "241d16b4c4922cef34b251a15d1689cb",
-    "prefixes of the adaptation layer",
-    lumo_tarn_pal_mp_prefix_data_members};
+                                                     "prefixes of the adaptation layer",
+                                                     lumo_tarn_pal_mp_prefix_data_members};
 
 }  // namespace tarn::schema

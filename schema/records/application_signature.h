@@ -23,8 +23,7 @@ inline constexpr Member lumo_tarn_dp_appl_sig_members[] = {
     u64("next_ptr", "link to the next signature in the bucket"),
 };
 inline constexpr Record lumo_tarn_dp_appl_sig{"lumo_tarn_dp_appl_sig", "aaa0672e95bcc307d1218218a1706891",
-    "one signature",
-    lumo_tarn_dp_appl_sig_members};
+                                              "one signature", lumo_tarn_dp_appl_sig_members};
 
 inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     boolean("show_header", "show: print the header"),
@@ -34,8 +33,7 @@ inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     many("sig_list", lumo_tarn_dp_appl_sig, "signatures"),
 };
 inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b85570bd4a83d4a45eb2dee05",
-    "signatures of one processor",
-    lumo_tarn_dp_appl_cfg_members};
+                                              "signatures of one processor", lumo_tarn_dp_appl_cfg_members};
 
 inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
     boolean("show_header", "show: print the header"),
@@ -43,7 +41,7 @@ inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
     many("lumo_data", lumo_tarn_dp_appl_cfg, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_appl_data{"lumo_tarn_dp_appl_data", "6f31f2ab35c46bda63067283fc99bf24",
-    "signature tables, one for each processor",
-    lumo_tarn_dp_appl_data_members};
+                                               "signature tables, one for each processor",
+                                               lumo_tarn_dp_appl_data_members};
 
 }  // namespace tarn::schema

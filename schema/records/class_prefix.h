@@ -16,16 +16,16 @@ inline constexpr Member lumo_tarn_dp_mp_tc_prefix_members[] = {
     boolean("show_pfx_comm", "selection flag of the show request"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix{"lumo_tarn_dp_mp_tc_prefix", "fbe004f62f1d7cc30a8c75dac41c968e",
-    "traffic classes of one prefix on one processor",
-    lumo_tarn_dp_mp_tc_prefix_members};
+                                                  "traffic classes of one prefix on one processor",
+                                                  lumo_tarn_dp_mp_tc_prefix_members};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
     address("prefix", "prefix"),
     count8("num_lumos", "elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_mp_tc_prefix, "entries, one for each processor"),
 };
-inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{"lumo_tarn_dp_mp_tc_prefix_lumo_data", "711360b81716cdfdc00a905deaa73014",
-    "one prefix with its entries",
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{
+    "lumo_tarn_dp_mp_tc_prefix_lumo_data", "711360b81716cdfdc00a905deaa73014", "one prefix with its entries",
     lumo_tarn_dp_mp_tc_prefix_lumo_data_members};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
@@ -34,8 +34,8 @@ inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
     count8("num_prefixes", "elements in prefix_data"),
     many("prefix_data", lumo_tarn_dp_mp_tc_prefix_lumo_data, "prefixes"),
 };
-inline constexpr Record lumo_tarn_dp_mp_tc_prefix_data{"lumo_tarn_dp_mp_tc_prefix_data", "4b537616bd52ae9760915de7a444c97a",
-    "prefixes with the traffic classes that hang on them",
-    lumo_tarn_dp_mp_tc_prefix_data_members};
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix_data{
+    "lumo_tarn_dp_mp_tc_prefix_data", "4b537616bd52ae9760915de7a444c97a",
+    "prefixes with the traffic classes that hang on them", lumo_tarn_dp_mp_tc_prefix_data_members};
 
 }  // namespace tarn::schema

@@ -14,8 +14,7 @@ inline constexpr Member lumo_tarn_cl_kesh_appl_members[] = {
     u16("tarn_id", "identifier of the application within the tarn feature"),
 };
 inline constexpr Record lumo_tarn_cl_kesh_appl{"lumo_tarn_cl_kesh_appl", "6be60647e80e57000b6b6f8f2d9a6e0f",
-    "one application",
-    lumo_tarn_cl_kesh_appl_members};
+                                               "one application", lumo_tarn_cl_kesh_appl_members};
 
 inline constexpr Member lumo_tarn_cl_appl_data_members[] = {
     boolean("show_header", "show: print the header"),
@@ -23,7 +22,6 @@ inline constexpr Member lumo_tarn_cl_appl_data_members[] = {
     many("kesh_appl", lumo_tarn_cl_kesh_appl, "applications"),
 };
 inline constexpr Record lumo_tarn_cl_appl_data{"lumo_tarn_cl_appl_data", "31558f3e5ec0670c57987d4b5f175613",
-    "applications of the client",
-    lumo_tarn_cl_appl_data_members};
+                                               "applications of the client", lumo_tarn_cl_appl_data_members};
 
 }  // namespace tarn::schema

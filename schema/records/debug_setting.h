@@ -17,8 +17,8 @@ inline constexpr Member lumo_tarn_dp_debug_setting_members[] = {
     u32("exporter_mp_enabled", "debug switch of the exporter for mp data"),
 };
 inline constexpr Record lumo_tarn_dp_debug_setting{"lumo_tarn_dp_debug_setting", "ad41ed1f43f7eb0ede202ce5d6780f0a",
-    "debug switches of one processor's data plane",
-    lumo_tarn_dp_debug_setting_members};
+                                                   "debug switches of one processor's data plane",
+                                                   lumo_tarn_dp_debug_setting_members};
 
 inline constexpr Member lumo_tarn_debug_setting_members[] = {
     u32("info_enabled", "switch of information-level debug output"),
@@ -27,15 +27,14 @@ inline constexpr Member lumo_tarn_debug_setting_members[] = {
     u32("error_enabled", "switch of error-level debug output"),
 };
 inline constexpr Record lumo_tarn_debug_setting{"lumo_tarn_debug_setting", "c5b10f0f65bc6c4b33577adf0ed8d6b3",
-    "four debug levels of one component",
-    lumo_tarn_debug_setting_members};
+                                                "four debug levels of one component", lumo_tarn_debug_setting_members};
 
 inline constexpr Member lumo_tarn_dp_debug_setting_data_members[] = {
     count8("num_lumos", "number of entries in lumo_data"),
     many("lumo_data", lumo_tarn_dp_debug_setting, "one entry for each processor"),
 };
-inline constexpr Record lumo_tarn_dp_debug_setting_data{"lumo_tarn_dp_debug_setting_data", "7d38b0fd6ac289bba5994bd78204d896",
-    "switches of all processors",
+inline constexpr Record lumo_tarn_dp_debug_setting_data{
+    "lumo_tarn_dp_debug_setting_data", "7d38b0fd6ac289bba5994bd78204d896", "switches of all processors",
     lumo_tarn_dp_debug_setting_data_members};
 
 }  // namespace tarn::schema

@@ -23,8 +23,7 @@ inline constexpr Member lumo_tarn_global_info_members[] = {
     one("lumo_info_list", lumo_tarn_lumo_info_list, "per-processor records"),
 };
 inline constexpr Record lumo_tarn_global_info{"lumo_tarn_global_info", "f6cafb21d420353f770a3e4d6248dfc5",
-    "what holds for the whole client process",
-    lumo_tarn_global_info_members};
+                                              "what holds for the whole client process", lumo_tarn_global_info_members};
 
 inline constexpr Member lumo_tarn_cl_cfg_data_members[] = {
     boolean("display_all", "show: everything"),
@@ -36,7 +35,6 @@ inline constexpr Member lumo_tarn_cl_cfg_data_members[] = {
     u64("tarn_smc_queue_size_warn_count", "number of warnings on the queue's size"),
 };
 inline constexpr Record lumo_tarn_cl_cfg_data{"lumo_tarn_cl_cfg_data", "d00c3d42455dc1989145fd9dcb356014",
-    "state of the client side as a whole",
-    lumo_tarn_cl_cfg_data_members};
+                                              "state of the client side as a whole", lumo_tarn_cl_cfg_data_members};
 
 }  // namespace tarn::schema

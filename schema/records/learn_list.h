@@ -34,15 +34,13 @@ inline constexpr Member lumo_tarn_dp_ll_spec_members[] = {
     boolean("show_ll_comm", "selection flag of the show command"),
 };
 inline constexpr Record lumo_tarn_dp_ll_spec{"lumo_tarn_dp_ll_spec", "1a46d1ad245ecd8ddb03940c9e78474e",
-    "one learn list entry",
-    lumo_tarn_dp_ll_spec_members};
+                                             "one learn list entry", lumo_tarn_dp_ll_spec_members};
 
 inline constexpr Member lumo_tarn_dp_learn_list_members[] = {
     count32("num_ll_specs", "elements in ll_spec_list"),
     many("ll_spec_list", lumo_tarn_dp_ll_spec, "learn list entries"),
 };
 inline constexpr Record lumo_tarn_dp_learn_list{"lumo_tarn_dp_learn_list", "42d51729efe0ba6f65a2b03426858912",
-    "entries of one traffic table",
-    lumo_tarn_dp_learn_list_members};
+                                                "entries of one traffic table", lumo_tarn_dp_learn_list_members};
 
 }  // namespace tarn::schema

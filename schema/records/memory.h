@@ -13,19 +13,16 @@ inline constexpr Member lumo_tarn_exmem_info_members[] = {
     u32("size", "size of the block"),
 };
 inline constexpr Record lumo_tarn_exmem_info{"lumo_tarn_exmem_info", "60d55c75e70c45de4e19a835975182eb",
-    "one block of external memory, under its three addresses, with its size",
-    lumo_tarn_exmem_info_members};
+                                             "one block of external memory, under its three addresses, with its size",
+                                             lumo_tarn_exmem_info_members};
 
 inline constexpr Member lumo_tarn_fdb_base_members[] = {
-    u8("hdr_ver", "version of the header"),
-    u8("hdr_len", "length of the header"),
-    u16("hdr_flags", "header flags"),
-    u16("ftr_ver", "version of the footer"),
-    u16("ftr_len", "length of the footer"),
+    u8("hdr_ver", "version of the header"),  u8("hdr_len", "length of the header"),  u16("hdr_flags", "header flags"),
+    u16("ftr_ver", "version of the footer"), u16("ftr_len", "length of the footer"),
 };
 inline constexpr Record lumo_tarn_fdb_base{"lumo_tarn_fdb_base", "6a69888fdf996d4535521688d91ce774",
-    "versions and lengths of the header and the footer of the fdb",
-    lumo_tarn_fdb_base_members};
+                                           "versions and lengths of the header and the footer of the fdb",
+                                           lumo_tarn_fdb_base_members};
 
 inline constexpr Member lumo_tarn_fdb_mem_info_members[] = {
     u32("type", "type of the memory"),
@@ -33,24 +30,23 @@ inline constexpr Member lumo_tarn_fdb_mem_info_members[] = {
     u64("mem_addr", "address of the memory"),
 };
 inline constexpr Record lumo_tarn_fdb_mem_info{"lumo_tarn_fdb_mem_info", "5ea662ce18406a57e8d97350d5779fbc",
-    "one piece of fdb memory",
-    lumo_tarn_fdb_mem_info_members};
+                                               "one piece of fdb memory", lumo_tarn_fdb_mem_info_members};
 
 inline constexpr Member lumo_tarn_exmem_info_wrapper_members[] = {
     one("exmem", lumo_tarn_exmem_info, "wrapped block description"),
 };
 inline constexpr Record lumo_tarn_exmem_info_wrapper{"lumo_tarn_exmem_info_wrapper", "1ac4a09d31cce88dcc15cc105062ccf8",
-    "one block of a list of blocks that grows",
-    lumo_tarn_exmem_info_wrapper_members};
+                                                     "one block of a list of blocks that grows",
+                                                     lumo_tarn_exmem_info_wrapper_members};
 
 inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
     choice("mem_type", lumo_tarn_mem_desc_e, "what the block is used for"),
     u32("num_hash_elements", "number of hash elements in the block"),
     one("exmem", lumo_tarn_exmem_info, "block itself"),
 };
-inline constexpr Record lumo_tarn_static_exmem_info{"lumo_tarn_static_exmem_info", "2557d9fc36ed08f926459963e2b84549",
-    "block that a processor holds for the whole of its life, by kind of memory",
-    lumo_tarn_static_exmem_info_members};
+inline constexpr Record lumo_tarn_static_exmem_info{
+    "lumo_tarn_static_exmem_info", "2557d9fc36ed08f926459963e2b84549",
+    "block that a processor holds for the whole of its life, by kind of memory", lumo_tarn_static_exmem_info_members};
 
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
     choice("mem_type", lumo_tarn_mem_desc_e, "what the blocks are used for"),
@@ -59,7 +55,7 @@ inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
     many("exmem", lumo_tarn_exmem_info_wrapper, "dynamic blocks"),
 };
 inline constexpr Record lumo_tarn_dyn_exmem_info{"lumo_tarn_dyn_exmem_info", "21946a632bd59ef767c684b5ebddc290",
-    "blocks that a processor adds while it runs, by kind of memory",
-    lumo_tarn_dyn_exmem_info_members};
+                                                 "blocks that a processor adds while it runs, by kind of memory",
+                                                 lumo_tarn_dyn_exmem_info_members};
 
 }  // namespace tarn::schema

@@ -12,16 +12,15 @@ inline constexpr Member lumo_tarn_dp_mp_prefix_members[] = {
     u64("tc_list_ptr", "where the prefix's class list lies in the data plane"),
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix{"lumo_tarn_dp_mp_prefix", "877f4706728a7ef61240d5ada90d521a",
-    "one prefix as one complex holds it",
-    lumo_tarn_dp_mp_prefix_members};
+                                               "one prefix as one complex holds it", lumo_tarn_dp_mp_prefix_members};
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_complex_data_members[] = {
     address("lookup_prefix", "prefix that was looked up"),
     count8("num_complexes", "elements in complex_data"),
     many("complex_data", lumo_tarn_dp_mp_prefix, "entries, one for each complex"),
 };
-inline constexpr Record lumo_tarn_dp_mp_prefix_complex_data{"lumo_tarn_dp_mp_prefix_complex_data", "7b6d292586e45fb1cd81d6683d42da19",
-    "one looked-up prefix with its entries",
+inline constexpr Record lumo_tarn_dp_mp_prefix_complex_data{
+    "lumo_tarn_dp_mp_prefix_complex_data", "7b6d292586e45fb1cd81d6683d42da19", "one looked-up prefix with its entries",
     lumo_tarn_dp_mp_prefix_complex_data_members};
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_data_members[] = {
@@ -30,7 +29,6 @@ inline constexpr Member lumo_tarn_dp_mp_prefix_data_members[] = {
     many("prefix_data", lumo_tarn_dp_mp_prefix_complex_data, "looked-up prefixes"),
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix_data{"lumo_tarn_dp_mp_prefix_data", "eb7c2027f5bf174d47e3e2d2c4504a6f",
-    "looked-up prefixes",
-    lumo_tarn_dp_mp_prefix_data_members};
+                                                    "looked-up prefixes", lumo_tarn_dp_mp_prefix_data_members};
 
 }  // namespace tarn::schema

@@ -65,16 +65,14 @@ inline constexpr Member lumo_tarn_lumo_info_members[] = {
     count8("num_dyn_exmems", "elements in dyn_exmem"),
     many("dyn_exmem", lumo_tarn_dyn_exmem_info, "processor's dynamic memory blocks"),
 };
-inline constexpr Record lumo_tarn_lumo_info{"lumo_tarn_lumo_info", "96db130edec7ebbd06d4f894d4fe5c5c",
-    "one processor",
-    lumo_tarn_lumo_info_members};
+inline constexpr Record lumo_tarn_lumo_info{"lumo_tarn_lumo_info", "96db130edec7ebbd06d4f894d4fe5c5c", "one processor",
+                                            lumo_tarn_lumo_info_members};
 
 inline constexpr Member lumo_tarn_lumo_info_list_members[] = {
     count32("num_lumos", "elements in lumo_info"),
     many("lumo_info", lumo_tarn_lumo_info, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_lumo_info_list{"lumo_tarn_lumo_info_list", "feae474225863ddfc8b3a23c79e311d4",
-    "processors of the system",
-    lumo_tarn_lumo_info_list_members};
+                                                 "processors of the system", lumo_tarn_lumo_info_list_members};
 
 }  // namespace tarn::schema

@@ -14,8 +14,7 @@ inline constexpr Member lumo_tarn_dp_appl_members[] = {
     u64("next_ptr", "link to the next entry in the data plane"),
 };
 inline constexpr Record lumo_tarn_dp_appl{"lumo_tarn_dp_appl", "79672243f138925a1adfdb7e012965bd",
-    "one application entry in the data plane",
-    lumo_tarn_dp_appl_members};
+                                          "one application entry in the data plane", lumo_tarn_dp_appl_members};
 
 inline constexpr Member lumo_tarn_dp_tc_members[] = {
     one("exmem_info", lumo_tarn_exmem_info, "where the traffic class lies in memory"),
@@ -36,24 +35,21 @@ inline constexpr Member lumo_tarn_dp_tc_members[] = {
     one("appl", lumo_tarn_dp_appl, "class's application entry"),
     u32("id", "identifier of the class"),
 };
-inline constexpr Record lumo_tarn_dp_tc{"lumo_tarn_dp_tc", "ed7168bceeaa74618db6b05286fecacb",
-    "one traffic class",
-    lumo_tarn_dp_tc_members};
+inline constexpr Record lumo_tarn_dp_tc{"lumo_tarn_dp_tc", "ed7168bceeaa74618db6b05286fecacb", "one traffic class",
+                                        lumo_tarn_dp_tc_members};
 
 inline constexpr Member lumo_tarn_dp_tc_list_members[] = {
     count32("num_tcs", "elements in tc_list"),
     many("tc_list", lumo_tarn_dp_tc, "traffic classes"),
 };
 inline constexpr Record lumo_tarn_dp_tc_list{"lumo_tarn_dp_tc_list", "e418727cd10ea7443c8bbbe9816b285b",
-    "counted list of traffic classes",
-    lumo_tarn_dp_tc_list_members};
+                                             "counted list of traffic classes", lumo_tarn_dp_tc_list_members};
 
 inline constexpr Member lumo_tarn_dp_appl_list_members[] = {
     count32("num_appls", "elements in appl_list"),
     many("appl_list", lumo_tarn_dp_appl, "application entries"),
 };
 inline constexpr Record lumo_tarn_dp_appl_list{"lumo_tarn_dp_appl_list", "552017bbbbd8bdc890695d1686395706",
-    "counted list of application entries",
-    lumo_tarn_dp_appl_list_members};
+                                               "counted list of application entries", lumo_tarn_dp_appl_list_members};
 
 }  // namespace tarn::schema

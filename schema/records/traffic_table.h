@@ -42,8 +42,7 @@ inline constexpr Member lumo_tarn_dp_tt_table_members[] = {
     u32("delay_entries", "number of delay entries"),
 };
 inline constexpr Record lumo_tarn_dp_tt_table{"lumo_tarn_dp_tt_table", "9035b091bd9713f7567017cbe2e56f08",
-    "one traffic table of one processor",
-    lumo_tarn_dp_tt_table_members};
+                                              "one traffic table of one processor", lumo_tarn_dp_tt_table_members};
 
 inline constexpr Member lumo_tarn_dp_tt_table_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
@@ -51,7 +50,7 @@ inline constexpr Member lumo_tarn_dp_tt_table_data_members[] = {
     many("lumo_data", lumo_tarn_dp_tt_table, "tables, one for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_tt_table_data{"lumo_tarn_dp_tt_table_data", "f1ed07c033b05e484505be542bc9308f",
-    "one traffic table for each processor",
-    lumo_tarn_dp_tt_table_data_members};
+                                                   "one traffic table for each processor",
+                                                   lumo_tarn_dp_tt_table_data_members};
 
 }  // namespace tarn::schema

@@ -43,7 +43,7 @@ std::string stub(const Export &e) {
 }
 
 std::string type_tag(const Subject &s) {
-    return s.record != nullptr ? std::string(s.record->name)
+    return s.record != nullptr        ? std::string(s.record->name)
            : s.enumeration != nullptr ? std::string(s.enumeration->name)
                                       : std::string(s.message->name);
 }
@@ -54,8 +54,8 @@ std::string type_info() {
     for (const TypeEntry &t : types()) text += "extern mirk_type_info _" + t.name + "_type_info_internal;\n";
     text += "}\n\nnamespace tarn {\n\n";
     for (const TypeEntry &t : types()) {
-        text += "template <>\nstruct TypeInfo<schema::" + type_tag(t.subject) + "> {\n    static constexpr mirk_type_info &own = _" +
-                t.name + "_type_info_internal;\n};\n";
+        text += "template <>\nstruct TypeInfo<schema::" + type_tag(t.subject) +
+                "> {\n    static constexpr mirk_type_info &own = _" + t.name + "_type_info_internal;\n};\n";
     }
     return text + "\n}  // namespace tarn\n";
 }
@@ -64,8 +64,8 @@ std::string type_table() {
     std::string text(banner);
     text += "#include \"lumo_ui_tarn.h\"\n\nextern \"C\" {\n";
     for (const TypeEntry &t : types()) {
-        text += "constinit mirk_type_info _" + t.name + "_type_info_internal = tarn::type_record<tarn::schema::" +
-                type_tag(t.subject) + ">();\n";
+        text += "constinit mirk_type_info _" + t.name +
+                "_type_info_internal = tarn::type_record<tarn::schema::" + type_tag(t.subject) + ">();\n";
     }
     text += "}\n\nextern mirk_type_info *lumo_ui_tarn_type_table[];\nmirk_type_info *lumo_ui_tarn_type_table[] = {\n";
     for (const TypeEntry &t : types()) text += "    &_" + t.name + "_type_info_internal,\n";
@@ -78,8 +78,9 @@ std::string identity() {
     for (const CatalogueEntry &c : catalogue()) {
         text += "extern const std::uint8_t message_" + c.name + "_luid[16];\nextern const char message_" + c.name +
                 "_name[64];\n";
-        text += "void lumo_ui_tarn_" + c.name +
-                "_message_handler(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);\n";
+        text +=
+            "void lumo_ui_tarn_" + c.name +
+            "_message_handler(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);\n";
     }
     for (const Subject &s : subjects(Applies::bundle)) {
         const std::string name(s.bundle->name);
@@ -89,12 +90,12 @@ std::string identity() {
     }
     text += "}\n\nnamespace tarn {\n\n";
     for (const CatalogueEntry &c : catalogue()) {
-        text += c.subject.message != nullptr
-                    ? fill("template <>\nstruct Identity<{M}> {\n", c.subject)
-                    : fill("template <>\nstruct ControlIdentity<{B}, {K}> {\n", c.subject);
+        text += c.subject.message != nullptr ? fill("template <>\nstruct Identity<{M}> {\n", c.subject)
+                                             : fill("template <>\nstruct ControlIdentity<{B}, {K}> {\n", c.subject);
         text += "    static constexpr const std::uint8_t *luid = message_" + c.name + "_luid;\n";
         text += "    static constexpr const char *name = message_" + c.name + "_name;\n";
-        text += "    static constexpr mirk_message_handler handler = lumo_ui_tarn_" + c.name + "_message_handler;\n};\n";
+        text +=
+            "    static constexpr mirk_message_handler handler = lumo_ui_tarn_" + c.name + "_message_handler;\n};\n";
     }
     for (const Subject &s : subjects(Applies::bundle)) {
         text += fill(

@@ -25,11 +25,11 @@ enum class Applies {
     module,
 };
 
-// A prototype holds placeholders: {r} record, {f} member, {n} the member's record or enumeration, {T} integer type of its
-// width, {e} enumeration, {m} message, {b} bundle, {k} kind of a control message; H, I and E stand for the handle, ctx_id
-// and err. An entry is what the export calls, with {R}, {F}, {E}, {M}, {B} and {K} for the schema's own objects.
+// A prototype holds placeholders: {r} record, {f} member, {n} the member's record or enumeration, {T} integer type of
+// its width, {e} enumeration, {m} message, {b} bundle, {k} kind of a control message; H, I and E stand for the handle,
+// ctx_id and err. An entry is what the export calls, with {R}, {F}, {E}, {M}, {B} and {K} for the schema's own objects.
 struct Row {
-    std::string_view unit;  // the file of the library that holds the algorithm, and now the export
+    std::string_view unit;    // the file of the library that holds the algorithm, and now the export
     std::string_view family;  // heading in the public header, explained in families.h
     Applies applies;
     std::string_view prototype;

@@ -13,7 +13,8 @@ constexpr std::size_t line_width = 120;
 
 std::string upper(std::string_view text) {
     std::string out;
-    for (const char c : text) out += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c == '/' || c == '.' ? '_' : c;
+    for (const char c : text)
+        out += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c == '/' || c == '.' ? '_' : c;
     return out;
 }
 
@@ -33,7 +34,8 @@ std::string prototype(const std::string &declaration) {
 std::string page(const std::string &file, const std::string &purpose, const std::set<std::string> &includes,
                  const std::string &body) {
     const std::string guard = "LUMO_UI_TARN_" + upper(file);
-    std::string text = "/* " + purpose + "\n * Generated from the schema; edit the tables there and run tools/regenerate. */\n";
+    std::string text =
+        "/* " + purpose + "\n * Generated from the schema; edit the tables there and run tools/regenerate. */\n";
     text += "#ifndef " + guard + "\n#define " + guard + "\n\n#include <lumo_ui_tarn/base.h>\n";
     for (const std::string &include : includes) text += "#include <lumo_ui_tarn/" + include + ">\n";
     return text + "\nLUMO_UI_TARN_BEGIN\n\n" + body + "\nLUMO_UI_TARN_END\n\n#endif\n";
@@ -65,13 +67,20 @@ std::string data_of(const Subject &subject) {
 
 std::string type_of(const Member &m) {
     switch (m.kind) {
-        case Kind::boolean: return "boolean";
-        case Kind::address: return "address";
-        case Kind::enumeration: return std::string(m.enumeration->name);
-        case Kind::record: return std::string(m.record->name);
-        case Kind::string: return "string";
-        case Kind::array: return std::string(m.record->name) + "[]";
-        default: return value_type(m) + (m.role == Role::count ? " count" : m.role == Role::length ? " length" : "");
+        case Kind::boolean:
+            return "boolean";
+        case Kind::address:
+            return "address";
+        case Kind::enumeration:
+            return std::string(m.enumeration->name);
+        case Kind::record:
+            return std::string(m.record->name);
+        case Kind::string:
+            return "string";
+        case Kind::array:
+            return std::string(m.record->name) + "[]";
+        default:
+            return value_type(m) + (m.role == Role::count ? " count" : m.role == Role::length ? " length" : "");
     }
 }
 
@@ -99,8 +108,9 @@ std::string record_page(const Record &record) {
         if (m.enumeration != nullptr) includes.insert("enumerations/" + std::string(m.enumeration->name) + ".h");
     }
     const Subject subject{.record = &record};
-    std::string body = "/* " + name + ": " + std::string(record.meaning) + ".\n *\n" + members_table(record) +
-                       " *\n * How each operation behaves is told once for all records in lumo_ui_tarn/families.h. */\n";
+    std::string body =
+        "/* " + name + ": " + std::string(record.meaning) + ".\n *\n" + members_table(record) +
+        " *\n * How each operation behaves is told once for all records in lumo_ui_tarn/families.h. */\n";
     body += "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::record);
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
@@ -109,7 +119,8 @@ std::string record_page(const Record &record) {
             body += prototype(e.declaration());
         }
     }
-    return page("records/" + name + ".h", std::string(record.name) + ".h - " + std::string(record.meaning) + ".", includes, body);
+    return page("records/" + name + ".h", std::string(record.name) + ".h - " + std::string(record.meaning) + ".",
+                includes, body);
 }
 
 std::string enumeration_page(const Enumeration &enumeration) {
@@ -137,20 +148,25 @@ std::string message_page(const Message &message) {
 std::string bundle_page(const Bundle &bundle) {
     const std::string name(bundle.name);
     const Subject subject{.bundle = &bundle};
-    std::string body = "/* Admits " + std::string(bundle.message.name) + " and the requests of the user interface. */\n" +
-                       data_of(subject) + by_family(subject, Applies::bundle);
+    std::string body = "/* Admits " + std::string(bundle.message.name) +
+                       " and the requests of the user interface. */\n" + data_of(subject) +
+                       by_family(subject, Applies::bundle);
     for (const char *kind : {"start", "abort", "commit"}) {
         const Subject control{.bundle = &bundle, .control = kind};
-        body += "\n/* ---- " + std::string(kind) + " ---- */\n" + data_of(control) + by_family(control, Applies::control);
+        body +=
+            "\n/* ---- " + std::string(kind) + " ---- */\n" + data_of(control) + by_family(control, Applies::control);
     }
-    return page("bundles/" + name + ".h", name + ".h - the bundle that answers with a " + std::string(bundle.message.name) + ".",
+    return page("bundles/" + name + ".h",
+                name + ".h - the bundle that answers with a " + std::string(bundle.message.name) + ".",
                 {"messages/" + std::string(bundle.message.name) + ".h"}, body);
 }
 
 std::string chief(const Files &files) {
     std::string text =
-        "/* lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the traffic-aware routing\n"
-        " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which explains each\n"
+        "/* lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the traffic-aware "
+        "routing\n"
+        " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which explains "
+        "each\n"
         " * family of operations once; the other headers list names.\n"
         " * Generated from the schema; edit the tables there and run tools/regenerate. */\n"
         "#ifndef LUMO_UI_TARN_H\n#define LUMO_UI_TARN_H\n\n#include <lumo_ui_tarn/base.h>\n"

@@ -1,5 +1,5 @@
-// The manifest of the library file: blocks of (length, kind, text, padding to 4), integers little-endian. It is not mapped
-// at run time; tools read it from the file.
+// The manifest of the library file: blocks of (length, kind, text, padding to 4), integers little-endian. It is not
+// mapped at run time; tools read it from the file.
 #include <algorithm>
 #include <cstdio>
 

@@ -84,8 +84,8 @@ std::string fields(const Subject &subject, Applies applies, const std::string &i
 }
 
 std::string catalogue_fields(const std::string &name) {
-    return "    o.name = \"" + name + "\";\n    o.luid = message_" + name + "_luid;\n    o.luid_text = message_" + name +
-           "_luid_text;\n    o.catalogue_name = message_" + name + "_name;\n";
+    return "    o.name = \"" + name + "\";\n    o.luid = message_" + name + "_luid;\n    o.luid_text = message_" +
+           name + "_luid_text;\n    o.catalogue_name = message_" + name + "_name;\n";
 }
 
 std::string table(const char *type, const std::string &name, const std::string &rows) {
@@ -95,16 +95,17 @@ std::string table(const char *type, const std::string &name, const std::string &
 }  // namespace
 
 Files write_operations() {
-    std::string text = "// Generated from the schema and the family table; not to be edited.\n"
-                       "namespace tarn::reflect {\n\nnamespace {\n\n";
+    std::string text =
+        "// Generated from the schema and the family table; not to be edited.\n"
+        "namespace tarn::reflect {\n\nnamespace {\n\n";
     std::string record_rows, enumeration_rows, message_rows, bundle_rows;
     for (const Record *r : records) {
         const std::string name(r->name);
         text += "std::array<MemberOperations, " + std::to_string(r->members.size()) + "> members_of_" + name +
                 "() {\n    std::array<MemberOperations, " + std::to_string(r->members.size()) + "> all{};\n";
         for (std::size_t i = 0; i < r->members.size(); ++i) {
-            text += "    {\n        MemberOperations &o = all[" + std::to_string(i) + "];\n        o.member = &schema::" +
-                    name + ".members[" + std::to_string(i) + "];\n" +
+            text += "    {\n        MemberOperations &o = all[" + std::to_string(i) +
+                    "];\n        o.member = &schema::" + name + ".members[" + std::to_string(i) + "];\n" +
                     fields({.record = r, .member = i}, class_of(r->members[i]), "        ") + "    }\n";
         }
         text += "    return all;\n}\nconst auto " + name + "_members = members_of_" + name + "();\n\n";
@@ -115,27 +116,29 @@ Files write_operations() {
     }
     for (const Enumeration *e : enumerations) {
         const std::string name(e->name);
-        text += "EnumerationOperations enumeration_" + name + "() {\n    EnumerationOperations o{};\n    o.enumeration = &schema::" +
-                name + ";\n    o.type = &_" + name + "_type_info_internal;\n" +
-                fields({.enumeration = e}, Applies::enumeration, "    ") + "    return o;\n}\n\n";
+        text += "EnumerationOperations enumeration_" + name +
+                "() {\n    EnumerationOperations o{};\n    o.enumeration = &schema::" + name + ";\n    o.type = &_" +
+                name + "_type_info_internal;\n" + fields({.enumeration = e}, Applies::enumeration, "    ") +
+                "    return o;\n}\n\n";
         enumeration_rows += "    enumeration_" + name + "(),\n";
     }
     for (const CatalogueEntry &c : catalogue()) {
         const bool plain = c.subject.message != nullptr;
         text += "MessageOperations message_" + c.name + "() {\n    MessageOperations o{};\n" + catalogue_fields(c.name);
         if (plain) {
-            text += "    o.message = &schema::" + c.name + ";\n    o.type = &_" + c.name +
-                    "_message_type_info_internal;\n";
+            text +=
+                "    o.message = &schema::" + c.name + ";\n    o.type = &_" + c.name + "_message_type_info_internal;\n";
             message_rows += "    message_" + c.name + "(),\n";
         }
         text += fields(c.subject, plain ? Applies::message : Applies::control, "    ") + "    return o;\n}\n\n";
     }
     for (const Bundle *b : bundles) {
         const std::string name(b->name);
-        text += "BundleOperations bundle_" + name + "() {\n    BundleOperations o{&schema::" + name + ", message_" + name +
-                "_bundle_start(), message_" + name + "_bundle_abort(), message_" + name +
-                "_bundle_commit(), nullptr, nullptr, nullptr, &lumo_ui_tarn_" + name + "_bundle_registered_handler};\n" +
-                fields({.bundle = b}, Applies::bundle, "    ") + "    return o;\n}\n\n";
+        text += "BundleOperations bundle_" + name + "() {\n    BundleOperations o{&schema::" + name + ", message_" +
+                name + "_bundle_start(), message_" + name + "_bundle_abort(), message_" + name +
+                "_bundle_commit(), nullptr, nullptr, nullptr, &lumo_ui_tarn_" + name +
+                "_bundle_registered_handler};\n" + fields({.bundle = b}, Applies::bundle, "    ") +
+                "    return o;\n}\n\n";
         bundle_rows += "    bundle_" + name + "(),\n";
     }
     text += table("RecordOperations", "all_records", record_rows) +

@@ -68,13 +68,20 @@ Applies class_of(const Member &m) {
     if (m.role == Role::count) return Applies::count;
     if (m.role == Role::length) return Applies::length;
     switch (m.kind) {
-        case Kind::boolean: return Applies::boolean;
-        case Kind::address: return Applies::address;
-        case Kind::enumeration: return Applies::choice;
-        case Kind::record: return Applies::nested;
-        case Kind::string: return Applies::string;
-        case Kind::array: return Applies::array;
-        default: return Applies::integer;
+        case Kind::boolean:
+            return Applies::boolean;
+        case Kind::address:
+            return Applies::address;
+        case Kind::enumeration:
+            return Applies::choice;
+        case Kind::record:
+            return Applies::nested;
+        case Kind::string:
+            return Applies::string;
+        case Kind::array:
+            return Applies::array;
+        default:
+            return Applies::integer;
     }
 }
 
@@ -148,7 +155,9 @@ std::vector<Subject> subjects(Applies applies) {
                 for (const char *kind : {"start", "abort", "commit"}) all.push_back({.bundle = b, .control = kind});
             }
             break;
-        case Applies::module: all.push_back({}); break;
+        case Applies::module:
+            all.push_back({});
+            break;
         default:
             for (const Record *r : records) {
                 for (std::size_t i = 0; i < r->members.size(); ++i) {

@@ -1,4 +1,5 @@
-// Rows crossed with the schema: every exported name, its signature and what it calls. The only place where names are formed.
+// Rows crossed with the schema: every exported name, its signature and what it calls. The only place where names are
+// formed.
 #pragma once
 
 #include <string>

@@ -9,12 +9,12 @@ namespace tarn::generate {
 // File name, relative to a directory of the product's own, and content.
 using Files = std::map<std::string, std::string>;
 
-Files write_headers();          // include/: the public face, checked in
-Files write_exports();          // build tree: export stubs, one file for each unit of the library
-Files write_lists();            // goldens: exported names, layout of every record
-Files write_linker_script();    // build tree: the version script
+Files write_headers();        // include/: the public face, checked in
+Files write_exports();        // build tree: export stubs, one file for each unit of the library
+Files write_lists();          // goldens: exported names, layout of every record
+Files write_linker_script();  // build tree: the version script
 
-Files write_operations();       // build tree: every operation as a table, for tools and tests
+Files write_operations();  // build tree: every operation as a table, for tools and tests
 
 struct BuildStamp {
     std::string built_by = "packager", on_host = "unnamed", pid = "0", at = "1970-01-01T00:00:00Z", comment = "none";

@@ -1,5 +1,6 @@
-// Every exported operation as a table, for programs that work on any record: the tool, and tests that loop over all of them.
-// The tables are generated; they call exported names alone, with pointers to objects as void and values as 64-bit numbers.
+// Every exported operation as a table, for programs that work on any record: the tool, and tests that loop over all of
+// them. The tables are generated; they call exported names alone, with pointers to objects as void and values as 64-bit
+// numbers.
 #pragma once
 
 #include <span>
