@@ -135,16 +135,18 @@ using FieldOf = decltype(field<R, I>());
 // Calls visit with each member in table order until it returns false; true if none did.
 template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr bool walk_while(Visit &&visit) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+    const auto members = [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
         return (visit(field<R, I>()) && ...);
-    }
-    (std::make_index_sequence<R.members.size()>{});
+    };
+    return members(std::make_index_sequence<R.members.size()>{});
 }
 
 template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr void walk(Visit &&visit) {
-    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) { (visit(field<R, I>()), ...); }
-    (std::make_index_sequence<R.members.size()>{});
+    walk_while<R>([&]<class F>(F f) __attribute__((always_inline)) {
+        visit(f);
+        return true;
+    });
 }
 
 // For each byte of the state area whether it is part of the address of an element-state vector, at any depth.
