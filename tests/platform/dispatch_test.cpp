@@ -1,0 +1,244 @@
+// The dispatcher, with messages made by hand: an object is one allocated byte, the last of its frame.
+#include "support.hpp"
+
+using test::Handle;
+
+namespace {
+
+const uint8_t plain_luid[16] = {0x11}, start_luid[16] = {0x21}, commit_luid[16] = {0x22};
+
+struct Calls {
+    int only = 0, full = 0, destroyed = 0, handled = 0, linked_in = 0, committed = 0;
+    uint32_t size = 0;
+    uint32_t only_error = 0;
+    uint32_t handler_error = 0;
+    uint32_t record_error = 0;
+    bool linked_in_takes = false;
+    std::string values;
+    void *dispatch_ctx = nullptr;
+    bool detach_first = false;
+} calls;
+
+void destroy(mirk_handle *h, uint32_t ctx_id, void *message) {
+    ++calls.destroyed;
+    h->obj_free(h->mem_ctx, ctx_id, message);
+}
+
+void *make(mirk_handle *h, uint32_t ctx_id, const void *buffer, uint32_t size) {
+    auto *message = static_cast<char *>(h->obj_alloc(h->mem_ctx, ctx_id, 1));
+    *message = static_cast<const char *>(buffer)[size - 1];
+    return message;
+}
+
+uint32_t unmarshal_only(mirk_handle *h, uint32_t ctx_id, void **out, void *buffer, uint32_t size, uint32_t *err) {
+    ++calls.only;
+    calls.size = size;
+    *out = make(h, ctx_id, buffer, size);
+    *err = calls.only_error;
+    return 1000000;  // a wild claim, which the dispatcher must not follow
+}
+
+uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **out, void *buffer, uint32_t size,
+                   mirk_message_handler handler, uint32_t *err) {
+    ++calls.full;
+    *out = make(h, ctx_id, buffer, size);
+    *err = calls.record_error;
+    if (handler != nullptr) {
+        handler(h, ctx_id, dispatch_ctx, *out, err);
+    } else {
+        ++calls.linked_in;
+        if (calls.linked_in_takes) {
+            h->obj_free(h->mem_ctx, ctx_id, *out);
+        } else {
+            *err = 38;
+        }
+    }
+    return size;
+}
+
+void handle_message(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err) {
+    ++calls.handled;
+    calls.dispatch_ctx = dispatch_ctx;
+    calls.values += *static_cast<char *>(message);
+    EXPECT_STREQ(mirklib_in_dispatch_message_info(h, nullptr)->name, "plain");
+    *err = calls.handler_error;
+    if (calls.handler_error != 38) h->obj_free(h->mem_ctx, ctx_id, message);
+}
+
+uint32_t start(mirk_handle *h, uint32_t, void *, void **, void *, uint32_t size, mirk_message_handler handler, uint32_t *) {
+    EXPECT_EQ(handler, nullptr);
+    EXPECT_EQ(size, 43u);
+    h->recv_bundle_open = 1;
+    return 43;
+}
+
+uint32_t commit(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **, void *, uint32_t, mirk_message_handler,
+                uint32_t *err) {
+    const mirk_bundle_handler handler = mirklib_in_dispatch_message_info(h, nullptr)->handler;
+    if (handler != nullptr) handler(h, ctx_id, dispatch_ctx, err);
+    bundle_receive_message_list_destroy(h, ctx_id, err);
+    return 43;
+}
+
+void handle_bundle(mirk_handle *h, uint32_t ctx_id, void *, uint32_t *) {
+    ++calls.committed;
+    EXPECT_EQ(mirk_platform_received_count(h), 2u);
+    for (auto *item = mirk_platform_received_first(h); item != nullptr; item = mirk_platform_received_next(h, item)) {
+        calls.values += *static_cast<char *>(mirk_platform_received_message(item));
+        EXPECT_EQ(mirk_platform_received_luid(item), plain_luid);
+        EXPECT_STREQ(mirk_platform_received_name(item), "plain");
+    }
+    if (calls.detach_first) {
+        h->obj_free(h->mem_ctx, ctx_id, mirk_platform_received_detach(h, mirk_platform_received_first(h)));
+    }
+}
+
+std::string frame(const uint8_t *luid, const std::string &body) {
+    std::string bytes(43, '\0');
+    bytes[0] = static_cast<char>(0xbc);
+    bytes[15] = static_cast<char>(43 + body.size());
+    std::memcpy(&bytes[27], luid, 16);
+    return bytes + body;
+}
+
+class Dispatch : public testing::Test {
+protected:
+    Dispatch() {
+        calls = {};
+        plain = {plain_luid, "plain", unmarshal, unmarshal_only, destroy, handle_message};
+        EXPECT_EQ(mirk_platform_dispatch_register(h, &plain), 0u);
+        const mirk_platform_message controls[] = {{start_luid, "start", start, nullptr, nullptr, nullptr},
+                                                  {commit_luid, "commit", commit, nullptr, nullptr, nullptr}};
+        for (const auto &control : controls) EXPECT_EQ(mirk_platform_dispatch_register(h, &control), 0u);
+    }
+    ~Dispatch() override { mirk_platform_recorder_set(0, nullptr); }
+
+    uint32_t dispatch(std::string bytes) {
+        const auto size = static_cast<uint32_t>(bytes.size());
+        return mirk_platform_dispatch(h, 7, bytes.data(), size, &calls, &report);
+    }
+
+    Handle h;
+    mirk_platform_message plain;
+    mirk_platform_report report{};
+    test::Trace trace;
+};
+
+}  // namespace
+
+TEST_F(Dispatch, HandsOverFrameByFrame) {
+    EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(plain_luid, "xxb")), 0u);
+    EXPECT_EQ(calls.values, "ab");
+    EXPECT_EQ(calls.size, 46u);
+    EXPECT_EQ(calls.full, 0);
+    EXPECT_EQ(calls.dispatch_ctx, &calls);
+    EXPECT_EQ(report.number, 0u);
+    EXPECT_EQ(mirklib_in_dispatch_message_info(h, nullptr), nullptr);
+    EXPECT_EQ(dispatch(""), 0u);
+}
+
+TEST_F(Dispatch, NamesTheOffsetOfABadFrame) {
+    const std::string good = frame(plain_luid, "a");
+    std::string bad = frame(plain_luid, "b");
+    bad[0] = 0;
+    EXPECT_EQ(dispatch(good + bad), 74u);
+    EXPECT_EQ(report.number, 74u);
+    EXPECT_EQ(report.offset, 44u);
+    EXPECT_STRNE(report.sentence, "");
+    EXPECT_EQ(calls.values, "a");
+    bad = frame(plain_luid, "b");
+    bad[15] = 42;
+    EXPECT_EQ(dispatch(bad), 74u);
+    bad[15] = 45;
+    EXPECT_EQ(dispatch(bad), 74u);
+    EXPECT_EQ(dispatch(good + good.substr(0, 42)), 74u);
+    EXPECT_EQ(report.offset, 44u);
+    EXPECT_TRUE(trace.has(3, "frame at offset 44"));
+}
+
+TEST_F(Dispatch, UnknownLuidIs2) {
+    const uint8_t unknown[16] = {0x77};
+    EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(unknown, "")), 2u);
+    EXPECT_EQ(report.offset, 44u);
+}
+
+TEST_F(Dispatch, DestroysWhatABadFrameLeft) {
+    calls.only_error = 90;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 90u);
+    EXPECT_EQ(calls.destroyed, 1);
+    EXPECT_EQ(calls.handled, 0);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+}
+
+TEST_F(Dispatch, DestroysWhatNobodyTook) {
+    calls.handler_error = 38;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 38u);
+    EXPECT_EQ(calls.destroyed, 1);
+    calls.handler_error = 5;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 5u);
+    EXPECT_EQ(calls.destroyed, 1);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+}
+
+TEST_F(Dispatch, WithoutHandlerTheLinkedInOneRuns) {
+    plain.handler = nullptr;
+    ASSERT_EQ(mirk_platform_dispatch_register(h, &plain), 0u);
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 38u);
+    EXPECT_EQ(calls.linked_in, 1);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+    calls.linked_in_takes = true;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 0u);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+}
+
+TEST_F(Dispatch, FilesMessagesWhileABundleIsReceived) {
+    EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, commit_luid, handle_bundle), 0u);
+    const std::string bundle = frame(start_luid, "") + frame(plain_luid, "a") + frame(plain_luid, "b");
+    EXPECT_EQ(dispatch(bundle + frame(commit_luid, "")), 0u);
+    EXPECT_EQ(calls.committed, 1);
+    EXPECT_EQ(calls.values, "ab");
+    EXPECT_EQ(calls.handled, 0);
+    EXPECT_EQ(calls.destroyed, 2);
+    calls.detach_first = true;
+    EXPECT_EQ(dispatch(bundle + frame(commit_luid, "")), 0u);
+    EXPECT_EQ(calls.destroyed, 3);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+    EXPECT_EQ(dispatch(bundle), 0u) << "what is still filed is destroyed when the handle closes";
+}
+
+TEST_F(Dispatch, ReadsAGoodFrameASecondTimeWhileRecording) {
+    mirk_platform_recorder_set(1, nullptr);
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 0u);
+    EXPECT_EQ(calls.only, 1);
+    EXPECT_EQ(calls.full, 1);
+    EXPECT_EQ(calls.handled, 1);
+    calls.only_error = 90;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 90u);
+    EXPECT_EQ(calls.full, 1);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+}
+
+TEST_F(Dispatch, FilesAMessageThatCouldNotBeRecorded) {
+    mirk_platform_recorder_set(1, nullptr);
+    calls.record_error = 90;
+    EXPECT_EQ(dispatch(frame(start_luid, "") + frame(plain_luid, "a")), 0u);
+    EXPECT_EQ(mirk_platform_received_count(h), 1u);
+    EXPECT_TRUE(trace.has(3, "message plain was not recorded"));
+}
+
+TEST_F(Dispatch, RegistersWholeEntriesOnly) {
+    mirk_platform_message broken = plain;
+    broken.destroy = nullptr;
+    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), 22u);
+    broken = plain;
+    broken.unmarshal = nullptr;
+    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), 22u);
+    const uint8_t unknown[16] = {0x77};
+    EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, unknown, handle_bundle), 2u);
+}
+
+TEST_F(Dispatch, WritesTheTableAlsoOutsideOfADispatch) {
+    void *table = &calls;
+    EXPECT_EQ(mirklib_in_dispatch_message_info(h, &table), nullptr);
+    EXPECT_EQ(table, nullptr);
+}

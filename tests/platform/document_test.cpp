@@ -1,0 +1,165 @@
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+
+#include "support.hpp"
+
+using test::Document;
+
+namespace {
+
+uint32_t count(void *document, const std::string &path) {
+    uint32_t found = 99;
+    EXPECT_EQ(xml_get_element_nodecount(document, path.c_str(), &found), 0u) << path;
+    return found;
+}
+
+std::string value(void *document, const std::string &path) {
+    char text[64];
+    const uint32_t error = xml_get_element_value(document, path.c_str(), text, sizeof text, nullptr);
+    return error == 0 ? text : "error " + std::to_string(error);
+}
+
+}  // namespace
+
+TEST(Document, FindsMembersAndElements) {
+    Document d("<m><r><n>2</n><a><x>1</x></a><b/><a><x>2</x><x>3</x></a></r></m>");
+    ASSERT_NE(static_cast<void *>(d), nullptr) << d.report.sentence;
+    EXPECT_EQ(count(d, "//r"), 1u);
+    EXPECT_EQ(count(d, "//m"), 1u);
+    EXPECT_EQ(count(d, "//r/a"), 2u);
+    EXPECT_EQ(count(d, "//r/a/x"), 3u);
+    EXPECT_EQ(value(d, "//r/n"), "2");
+    EXPECT_EQ(value(d, "//r/a[1]/x"), "1");
+    EXPECT_EQ(value(d, "//r/a[2]/x"), "2");
+    EXPECT_EQ(value(d, "//r/a[2]/x[2]"), "3");
+    EXPECT_EQ(value(d, "//r/a[3]/x"), "error 2");
+    EXPECT_EQ(value(d, "//r/a[1]/x"), "1");
+    EXPECT_EQ(value(d, "//r/b"), "");
+    EXPECT_EQ(count(d, "//absent"), 0u);
+    EXPECT_EQ(value(d, "//absent/x"), "error 2");
+}
+
+TEST(Document, SimplePathsAgreeWithXPath) {
+    // The same question in another spelling goes to the XPath engine.
+    Document d("<r><x>0</x><r><x>1</x><r><x>2</x><x>3</x></r><x>4</x></r><x>5</x><r/><x>6</x></r>");
+    ASSERT_NE(static_cast<void *>(d), nullptr);
+    for (const char *rest : {"/x", "/x[1]", "/x[2]", "/x[3]", "/x[4]", "/r", "/r/x", "/r[1]/x", "/r[2]", "/r/r/x[2]", "/r/x[2]"}) {
+        const std::string simple = std::string("//r") + rest;
+        const std::string engine = std::string("(//r") + rest + ")";
+        EXPECT_EQ(count(d, simple), count(d, engine)) << simple;
+        EXPECT_EQ(value(d, simple), value(d, engine)) << simple;
+    }
+}
+
+TEST(Document, NamesInANamespaceAreOthers) {
+    Document d("<r xmlns:p='urn:p'><p:x>1</p:x><x>2</x></r>");
+    EXPECT_EQ(value(d, "//r/x"), "2");
+    EXPECT_EQ(count(d, "//r/x"), 1u);
+}
+
+TEST(Document, OtherPathsGoToXPath) {
+    Document d("<r><x k='v'>1</x><x>2</x></r>");
+    EXPECT_EQ(value(d, "/r/x[last()]"), "2");
+    EXPECT_EQ(value(d, "//x/@k"), "v");
+    EXPECT_EQ(count(d, "//r/*"), 2u);
+}
+
+TEST(Document, WhatIsNoPathIsInvalid) {
+    Document d("<r><x>1</x></r>");
+    uint32_t found = 0;
+    for (const char *path : {"", "//", "//r/", "//r/x[", "//r//", "1 + 1", "//r/x[0", "]"}) {
+        EXPECT_EQ(xml_get_element_nodecount(d, path, &found), 22u) << path;
+        EXPECT_EQ(value(d, path), "error 22") << path;
+    }
+    EXPECT_EQ(xml_get_element_nodecount(d, nullptr, &found), 22u);
+    EXPECT_EQ(xml_get_element_nodecount(nullptr, "//r", &found), 22u);
+    EXPECT_EQ(xml_get_element_value(nullptr, "//r", nullptr, 0, nullptr), 22u);
+    EXPECT_EQ(count(d, "//r/x[0]"), 0u);
+}
+
+TEST(Document, TellsTheLengthOfAValue) {
+    Document d("<r><x>hello</x><y/></r>");
+    uint32_t length = 99;
+    EXPECT_EQ(xml_get_element_value(d, "//r/x", nullptr, 0, &length), 28u);
+    EXPECT_EQ(length, 5u);
+    EXPECT_EQ(xml_get_element_value(d, "//r/y", nullptr, 0, &length), 0u);
+    EXPECT_EQ(length, 0u);
+    test::Guarded<8> buffer;
+    EXPECT_EQ(xml_get_element_value(d, "//r/x", buffer.at(), 5, &length), 28u);
+    EXPECT_EQ(length, 5u);
+    EXPECT_TRUE(buffer.intact_behind(0));
+    EXPECT_EQ(xml_get_element_value(d, "//r/x", buffer.at(), 6, &length), 0u);
+    EXPECT_STREQ(buffer.at(), "hello");
+    EXPECT_TRUE(buffer.intact_behind(6));
+}
+
+TEST(Document, JoinsTextInPieces) {
+    Document d("<r><x>a<![CDATA[<b>]]>c&amp;<!-- no -->d</x></r>");
+    EXPECT_EQ(value(d, "//r/x"), "a<b>c&d");
+}
+
+TEST(Document, RefusesADoctypeWithItsLine) {
+    for (const char *text : {"<?xml version='1.0'?>\n<!DOCTYPE r [<!ENTITY e 'x'>]>\n<r>&e;</r>",
+                             "\n<!DOCTYPE r SYSTEM 'file:///etc/passwd'>\n<r/>"}) {
+        Document d(text);
+        EXPECT_EQ(static_cast<void *>(d), nullptr);
+        EXPECT_EQ(d.report.number, 22u);
+        EXPECT_EQ(d.report.line, 2u);
+        EXPECT_STREQ(d.report.sentence, "a document type declaration is not allowed");
+    }
+}
+
+TEST(Document, ReportsWhereItIsNotWellFormed) {
+    Document d("<r>\n<a>\n</b></r>");
+    EXPECT_EQ(static_cast<void *>(d), nullptr);
+    EXPECT_EQ(d.report.line, 3u);
+    EXPECT_STRNE(d.report.sentence, "");
+    EXPECT_EQ(std::strchr(d.report.sentence, '\n'), nullptr);
+    EXPECT_EQ(static_cast<void *>(Document("")), nullptr);
+    EXPECT_EQ(static_cast<void *>(Document("<r>&unknown;</r>")), nullptr);
+    EXPECT_EQ(mirk_platform_document_load_memory("<r>", 3, nullptr), nullptr);
+}
+
+TEST(Document, LimitsDepth) {
+    std::string text;
+    for (int i = 0; i < 5000; ++i) text += "<a>";
+    for (int i = 0; i < 5000; ++i) text += "</a>";
+    Document d(text);
+    EXPECT_EQ(static_cast<void *>(d), nullptr);
+    EXPECT_EQ(d.report.number, 22u);
+}
+
+TEST(Document, LoadsAFile) {
+    char path[] = "/tmp/mirk_document_XXXXXX";
+    const int fd = mkstemp(path);
+    ASSERT_GE(fd, 0);
+    ASSERT_EQ(write(fd, "<r><x>7</x></r>", 15), 15);
+    close(fd);
+    mirk_platform_report report;
+    void *document = mirk_platform_document_load_file(path, &report);
+    EXPECT_EQ(value(document, "//r/x"), "7");
+    mirk_platform_document_free(document);
+    unlink(path);
+    EXPECT_EQ(mirk_platform_document_load_file(path, &report), nullptr);
+    EXPECT_EQ(report.number, 2u);
+}
+
+TEST(Document, ReadsLongArraysInLinearTime) {
+    const auto seconds_for = [](int elements) {
+        std::string text = "<r>";
+        for (int i = 1; i <= elements; ++i) text += "<a><x>" + std::to_string(i) + "</x></a>";
+        Document d(text + "</r>");
+        const auto begin = std::chrono::steady_clock::now();
+        for (int i = 1; i <= elements; ++i) {
+            const std::string element = "//r/a[" + std::to_string(i) + "]";
+            EXPECT_EQ(count(d, element), 1u);
+            EXPECT_EQ(value(d, element + "/x"), std::to_string(i));
+        }
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    };
+    const double small = seconds_for(2000), large = seconds_for(20000);
+    // Ten times the elements; a search for each would take a hundred times as long.
+    EXPECT_LT(large, small * 40 + 0.1);
+}

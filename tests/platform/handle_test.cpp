@@ -1,0 +1,165 @@
+#include "support.hpp"
+
+using test::Handle;
+using test::Options;
+
+TEST(Handle, OpensWithTheDefaults) {
+    Handle h;
+    EXPECT_EQ(h->private_types, 0u);
+    EXPECT_EQ(h->default_id, 1u);
+    EXPECT_EQ(h->message_stamp, 0u);
+    EXPECT_STREQ(h->domain_name, "default");
+    EXPECT_EQ(h->oid_mapping, 1u);
+    EXPECT_EQ(h->cr_mode, 0u);
+    EXPECT_EQ(h->last_error, 0u);
+    EXPECT_EQ(h->sttr_desc, nullptr);
+    EXPECT_EQ(h->bundle_handler, nullptr);
+    EXPECT_EQ(h->send_bundle_open, 0u);
+    EXPECT_EQ(h->recv_bundle_open, 0u);
+    EXPECT_EQ(h->bundle_table, nullptr);
+    EXPECT_EQ(h->send_bundle_list.next, &h->send_bundle_list);
+    EXPECT_EQ(h->recv_bundle_list.prev, &h->recv_bundle_list);
+    EXPECT_EQ(mirklib_suppress_messages_enabled(h), 0u);
+}
+
+TEST(Handle, NullOptionsMeanTheDefaults) {
+    mirk_handle *h = mirk_platform_handle_open(nullptr);
+    ASSERT_NE(h, nullptr);
+    EXPECT_EQ(h->default_id, 1u);
+    EXPECT_EQ(mirk_platform_handle_close(h), 0u);
+    EXPECT_EQ(mirk_platform_handle_close(nullptr), 0u);
+}
+
+TEST(Handle, TracksAsAsked) {
+    Options options;
+    options.tracking = MIRK_PLATFORM_TRACKING_OFF;
+    EXPECT_EQ(Handle(options)->sttr_desc->sttr_mode, 0xddddu);
+    Handle h(test::tracked());
+    EXPECT_EQ(h->sttr_desc->sttr_mode, 0xeeeeu);
+    mirk_platform_handle_set_tracking(h, MIRK_PLATFORM_TRACKING_NONE);
+    EXPECT_EQ(h->sttr_desc, nullptr);
+    mirk_platform_testing_set_sttr_mode(h, 0);
+    EXPECT_EQ(h->sttr_desc->sttr_mode, 0u);
+}
+
+TEST(Handle, SettersReachTheMembers) {
+    Handle h;
+    mirk_platform_handle_set_default_id(h, 9);
+    mirk_platform_handle_set_message_stamp(h, 77);
+    std::string name = "edge";
+    EXPECT_EQ(mirk_platform_handle_set_domain_name(h, name.c_str()), 0u);
+    name = "gone";
+    mirk_platform_handle_set_oid_mapping(h, 0);
+    mirk_platform_handle_set_suppress_messages(h, 1);
+    EXPECT_EQ(h->default_id, 9u);
+    EXPECT_EQ(h->message_stamp, 77u);
+    EXPECT_STREQ(h->domain_name, "edge");
+    EXPECT_EQ(h->oid_mapping, 0u);
+    EXPECT_EQ(mirklib_suppress_messages_enabled(h), 1u);
+}
+
+TEST(Handle, WorkspaceIsOneBufferWithSlack) {
+    Handle h;
+    void *first = nullptr, *second = nullptr;
+    uint32_t size = 0;
+    mirklib_get_handle_ws(h, &first, &size);
+    mirklib_get_handle_ws(h, &second, &size);
+    EXPECT_EQ(first, second);
+    EXPECT_EQ(size, 65536u);
+    static_cast<char *>(first)[size] = 1;
+}
+
+TEST(Errors, StickInTheHandle) {
+    Handle h;
+    mirk_store_err(h, 12);
+    EXPECT_EQ(h->last_error, 12u);
+    mirk_clear_last_error(h);
+    EXPECT_EQ(h->last_error, 0u);
+}
+
+TEST(Errors, StrictPolicyWritesHandleAndSlot) {
+    Handle h;
+    uint32_t err = 0;
+    mirk_store_epoch_err(h, 43, &err);
+    EXPECT_EQ(err, 43u);
+    EXPECT_EQ(h->last_error, 43u);
+    mirk_store_epoch_err(h, 52, &err);
+    EXPECT_EQ(err, 52u);
+}
+
+TEST(Errors, LenientPolicySparesTheSlotFor43Only) {
+    Options options;
+    options.epoch_policy = MIRK_PLATFORM_LENIENT_43;
+    Handle h(options);
+    uint32_t err = 0;
+    mirk_store_epoch_err(h, 43, &err);
+    EXPECT_EQ(err, 0u);
+    EXPECT_EQ(h->last_error, 43u);
+    mirk_store_epoch_err(h, 52, &err);
+    EXPECT_EQ(err, 52u);
+    EXPECT_EQ(h->last_error, 52u);
+}
+
+TEST(Errors, LenientPolicySparesTheHandleWhenItIsTheSlot) {
+    Handle h;
+    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_43);
+    mirk_store_epoch_err(h, 43, &h->last_error);
+    EXPECT_EQ(h->last_error, 0u);
+    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_STRICT);
+    mirk_store_epoch_err(h, 43, &h->last_error);
+    EXPECT_EQ(h->last_error, 43u);
+}
+
+TEST(Domain, KnowsTypesByLuid) {
+    Handle h;
+    mirk_type_info type = test::make_type(1), copy = type, other = test::make_type(50);
+    uint32_t err = 0;
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &type, &err), 0);
+    EXPECT_EQ(mirk_platform_domain_set_variant(h, type.luid, -3), 0u);
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &copy, &err), -3);
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &other, &err), 0);
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, nullptr, &err), 0);
+    mirk_platform_domain_clear(h);
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &type, &err), 0);
+    EXPECT_EQ(err, 0u);
+}
+
+TEST(Domain, ForbidsMessagesByLuid) {
+    Handle h;
+    mirk_type_info type = test::make_type(1);
+    uint32_t err = 0;
+    EXPECT_NE(mirk_domain_lookup_message_ok(h, &h->domain, &type, &err), 0u);
+    mirk_platform_domain_set_message(h, type.luid, 0);
+    EXPECT_EQ(mirk_domain_lookup_message_ok(h, &h->domain, &type, &err), 0u);
+    mirk_platform_domain_set_message(h, type.luid, 1);
+    EXPECT_NE(mirk_domain_lookup_message_ok(h, &h->domain, &type, &err), 0u);
+    EXPECT_EQ(err, 0u);
+}
+
+TEST(Domain, AnswersWhateverTheSlotHolds) {
+    Handle h;
+    mirk_type_info type = test::make_type(1);
+    mirk_platform_domain_set_variant(h, type.luid, 4);
+    uint32_t err = 5;
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &type, &err), 4);
+    EXPECT_NE(mirk_domain_lookup_message_ok(h, &h->domain, &type, &err), 0u);
+    EXPECT_EQ(err, 5u);
+}
+
+TEST(Domain, LookUpsFailWhenTold) {
+    Handle h;
+    mirk_type_info type = test::make_type(1);
+    uint32_t err = 0;
+    mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 1, 1, 5);
+    mirk_domain_lookup_variant(h, &h->domain, &type, &err);
+    EXPECT_EQ(err, 0u);
+    EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, &type, &err), 0);
+    EXPECT_EQ(err, 5u);
+    err = 0;
+    mirk_domain_lookup_variant(h, &h->domain, &type, &err);
+    EXPECT_EQ(err, 0u);
+    mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_MESSAGE_LOOKUP, 0, 1, 13);
+    EXPECT_EQ(mirk_domain_lookup_message_ok(h, &h->domain, &type, &err), 0u);
+    EXPECT_EQ(err, 13u);
+    EXPECT_EQ(mirk_platform_testing_calls(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP), 3u);
+}

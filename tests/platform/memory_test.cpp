@@ -1,0 +1,153 @@
+#include "support.hpp"
+
+using test::Handle;
+using test::Options;
+
+TEST(Memory, ZeroBytesGiveDistinctBlocks) {
+    Handle h;
+    void *a = h.alloc(0), *b = h.alloc(0);
+    EXPECT_NE(a, nullptr);
+    EXPECT_NE(b, nullptr);
+    EXPECT_NE(a, b);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 2u);
+    h.free(a);
+    h.free(b);
+}
+
+TEST(Memory, CountsAndListsLiveBlocksByAge) {
+    Handle h;
+    void *a = h.alloc(10, 3), *b = h.alloc(20, 4), *c = h.alloc(30, 5);
+    h.free(b);
+    EXPECT_EQ(mirk_platform_live_bytes(h), 40u);
+    mirk_platform_block blocks[3] = {};
+    EXPECT_EQ(mirk_platform_list_blocks(h, nullptr, 0), 2u);
+    EXPECT_EQ(mirk_platform_list_blocks(h, blocks, 3), 2u);
+    EXPECT_EQ(blocks[0].address, a);
+    EXPECT_EQ(blocks[0].size, 10u);
+    EXPECT_EQ(blocks[0].ctx_id, 3u);
+    EXPECT_EQ(blocks[1].address, c);
+    EXPECT_EQ(blocks[1].serial, 3u);
+    h.free(a);
+    h.free(c);
+}
+
+TEST(Memory, ReportsLeftoversAtClose) {
+    Handle h;
+    EXPECT_NE(h.alloc(8), nullptr);
+    h.expected_leftovers = 1;
+}
+
+TEST(Memory, CeilingsAnswerNull) {
+    Options options;
+    options.request_ceiling = 100;
+    options.total_ceiling = 150;
+    Handle h(options);
+    EXPECT_EQ(h.alloc(101), nullptr);
+    void *a = h.alloc(100);
+    EXPECT_NE(a, nullptr);
+    EXPECT_EQ(h.alloc(51), nullptr);
+    void *b = h.alloc(50);
+    EXPECT_NE(b, nullptr);
+    h.free(a);
+    a = h.alloc(100);
+    EXPECT_NE(a, nullptr);
+    h.free(a);
+    h.free(b);
+    mirk_platform_testing_set_ceilings(h, 10, 10);
+    EXPECT_EQ(h.alloc(11), nullptr);
+}
+
+TEST(Memory, DefaultCeilingStopsHostileCounts) {
+    Handle h;
+    EXPECT_EQ(h.alloc((size_t{256} << 20) + 1), nullptr);
+    EXPECT_EQ(h.alloc(SIZE_MAX), nullptr);
+}
+
+TEST(Memory, FreeOfAForeignAddressIsTracedAndIgnored) {
+    Handle h;
+    test::Trace trace;
+    static char sentinel;
+    h.free(&sentinel);
+    EXPECT_TRUE(trace.has(3, "no live block"));
+    void *a = h.alloc(16);
+    h.free(static_cast<char *>(a) + 8);
+    EXPECT_EQ(trace.lines(), 2u);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 1u);
+    h.free(a);
+    h.free(nullptr);
+    EXPECT_EQ(trace.lines(), 2u);
+}
+
+TEST(Memory, NthAllocationFailsOnce) {
+    Handle h;
+    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 2, 0);
+    void *a = h.alloc(8);
+    EXPECT_NE(a, nullptr);
+    EXPECT_EQ(h.alloc(8), nullptr);
+    void *b = h.alloc(8);
+    EXPECT_NE(b, nullptr);
+    EXPECT_EQ(mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC), 3u);
+    h.free(a);
+    h.free(b);
+}
+
+TEST(Memory, AllocationsFailFromTheNthOn) {
+    Handle h;
+    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 2, 1);
+    void *a = h.alloc(8);
+    EXPECT_NE(a, nullptr);
+    EXPECT_EQ(h.alloc(8), nullptr);
+    EXPECT_EQ(h.alloc(8), nullptr);
+    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 0, 0);
+    void *b = h.alloc(8);
+    EXPECT_NE(b, nullptr);
+    h.free(a);
+    h.free(b);
+}
+
+TEST(Memory, OtherAllocatorsFailWhenTold) {
+    Handle h;
+    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 1, 0);
+    EXPECT_EQ(h->sys_alloc(h->sys_ctx, 0xffffffffu, 8), nullptr);
+    EXPECT_NE(h->sys_alloc(h->sys_ctx, 0xffffffffu, 8), nullptr);
+    mirk_platform_testing_fail_allocation(nullptr, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC, 1, 0);
+    EXPECT_EQ(mirklib_malloc(nullptr, 1, 8), nullptr);
+    void *p = mirklib_malloc(nullptr, 1, 8);
+    EXPECT_NE(p, nullptr);
+    mirklib_free(nullptr, 1, p);
+}
+
+TEST(Memory, FreshBlocksAreFilledOnRequest) {
+    Handle h;
+    mirk_platform_testing_set_fresh_fill(h, 0xa5);
+    auto *a = static_cast<uint8_t *>(h.alloc(4));
+    EXPECT_EQ(a[0], 0xa5);
+    EXPECT_EQ(a[3], 0xa5);
+    h.free(a);
+}
+
+TEST(Memory, NoticesReachTheHook) {
+    Handle h;
+    test::Log log(h);
+    uint64_t counter = 0;
+    h->write_notify(h->mem_ctx, &counter, 8, 5);
+    h->count_notify(h->mem_ctx, &counter, -1, 6);
+    ASSERT_EQ(log.events.size(), 2u);
+    EXPECT_EQ(log.events[0].kind, MIRK_PLATFORM_TESTING_WRITE_NOTIFY);
+    EXPECT_EQ(log.events[0].address, &counter);
+    EXPECT_EQ(log.events[0].size, 8u);
+    EXPECT_EQ(log.events[0].ctx_id, 5u);
+    EXPECT_EQ(log.events[1].kind, MIRK_PLATFORM_TESTING_COUNT_NOTIFY);
+    EXPECT_EQ(log.events[1].value, -1);
+    EXPECT_EQ(log.events[1].ctx_id, 6u);
+}
+
+TEST(Memory, SurvivesManyBlocksInAnyOrder) {
+    Handle h;
+    std::vector<void *> blocks;
+    for (size_t i = 0; i < 5000; ++i) blocks.push_back(h.alloc(i % 97));
+    for (size_t i = 0; i < blocks.size(); i += 2) h.free(blocks[i]);
+    EXPECT_EQ(mirk_platform_live_blocks(h), 2500u);
+    for (size_t i = 1; i < blocks.size(); i += 2) h.free(blocks[i]);
+    EXPECT_EQ(mirk_platform_live_bytes(h), 0u);
+}

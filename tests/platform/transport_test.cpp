@@ -1,0 +1,266 @@
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <thread>
+
+#include "support.hpp"
+
+namespace {
+
+std::string frame(size_t length, char fill) {
+    std::string bytes(length, fill);
+    std::memset(bytes.data(), 0, 43);
+    bytes[0] = static_cast<char>(0xbc);
+    for (int i = 0; i < 4; ++i) bytes[12 + static_cast<size_t>(i)] = static_cast<char>(length >> (24 - 8 * i));
+    return bytes;
+}
+
+// Sends every frame back; runs on a thread of its own.
+class Echo {
+public:
+    explicit Echo(mirk_platform_server_options options = defaults()) {
+        path = "/tmp/mirk_transport_" + std::to_string(getpid()) + "_" + std::to_string(++number);
+        options.on_frame = echo;
+        options.on_disconnect = gone;
+        options.user = this;
+        EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
+        thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
+    }
+    ~Echo() { stop(); }
+
+    void stop() {
+        if (!thread.joinable()) return;
+        mirk_platform_server_stop(server);
+        thread.join();
+        mirk_platform_server_close(server);
+    }
+
+    static mirk_platform_server_options defaults() {
+        mirk_platform_server_options options;
+        mirk_platform_server_options_init(&options);
+        return options;
+    }
+
+    std::string path;
+    std::vector<std::string> reasons;  // to be read after stop
+    mirk_platform_server *server = nullptr;
+
+private:
+    static void echo(void *, mirk_platform_server *server, mirk_platform_peer peer, void *bytes, uint32_t size) {
+        static_cast<char *>(bytes)[size] = 'S';  // the slack is writable and spoils nothing
+        if (static_cast<char *>(bytes)[size - 1] == 'Q') {
+            mirk_platform_server_send(server, peer, bytes, size);
+            mirk_platform_server_disconnect(server, peer, "asked to");
+            return;
+        }
+        mirk_platform_server_send(server, peer, bytes, size);
+    }
+    static void gone(void *user, mirk_platform_server *, mirk_platform_peer, const char *reason) {
+        static_cast<Echo *>(user)->reasons.emplace_back(reason);
+    }
+    static inline int number = 0;
+    std::thread thread;
+};
+
+class Client {
+public:
+    explicit Client(const std::string &path, uint32_t limit = 0) {
+        EXPECT_EQ(mirk_platform_client_open(path.c_str(), limit, 2000, &client), 0u);
+    }
+    ~Client() { mirk_platform_client_close(client); }
+
+    void send(const std::string &bytes) {
+        EXPECT_EQ(mirk_platform_client_send(client, bytes.data(), bytes.size(), 5000), 0u);
+    }
+    uint32_t receive(std::string *bytes, uint32_t timeout_ms = 5000) {
+        void *at = nullptr;
+        uint32_t size = 0;
+        const uint32_t error = mirk_platform_client_receive(client, &at, &size, timeout_ms);
+        if (error == 0) bytes->assign(static_cast<char *>(at), size);
+        return error;
+    }
+    std::string next() {
+        std::string bytes;
+        const uint32_t error = receive(&bytes);
+        return error == 0 ? bytes : "error " + std::to_string(error);
+    }
+
+    mirk_platform_client *client = nullptr;
+};
+
+}  // namespace
+
+TEST(Transport, CutsFramesByTheirLength) {
+    Echo echo;
+    Client client(echo.path);
+    const std::string a = frame(43, 'a'), b = frame(44, 'b'), c = frame(300000, 'c');
+    client.send(a + b + c);
+    EXPECT_EQ(client.next(), a);
+    EXPECT_EQ(client.next(), b);
+    EXPECT_EQ(client.next(), c);
+}
+
+TEST(Transport, JoinsFramesThatComeInPieces) {
+    Echo echo;
+    Client client(echo.path);
+    const std::string whole = frame(100, 'x');
+    for (const char byte : whole) client.send(std::string(1, byte));
+    EXPECT_EQ(client.next(), whole);
+}
+
+TEST(Transport, ServesManyPeers) {
+    Echo echo;
+    std::vector<std::unique_ptr<Client>> clients;
+    for (char c = 'a'; c < 'u'; ++c) clients.push_back(std::make_unique<Client>(echo.path));
+    for (size_t i = 0; i < clients.size(); ++i) clients[i]->send(frame(50 + i, static_cast<char>('a' + i)));
+    for (size_t i = 0; i < clients.size(); ++i) {
+        EXPECT_EQ(clients[i]->next(), frame(50 + i, static_cast<char>('a' + i)));
+    }
+}
+
+TEST(Transport, DisconnectsRubbishWithTheReasonTraced) {
+    test::Trace trace;
+    Echo echo;
+    std::string zero_length = frame(43, 0);
+    zero_length[15] = 0;
+    for (const std::string &rubbish : {std::string("hello"), std::string(1, '\0'), zero_length, std::string(5000, 'z')}) {
+        Client client(echo.path);
+        client.send(rubbish);
+        EXPECT_EQ(client.next(), "error 104");
+    }
+    Client honest(echo.path);
+    honest.send(frame(60, 'k'));
+    EXPECT_EQ(honest.next(), frame(60, 'k'));
+    echo.stop();
+    ASSERT_GE(echo.reasons.size(), 4u);
+    EXPECT_EQ(echo.reasons[0], "what it sent is no frame");
+    EXPECT_TRUE(trace.has(3, "is disconnected: what it sent is no frame"));
+}
+
+TEST(Transport, LimitsFramesOnBothSides) {
+    auto options = Echo::defaults();
+    options.frame_limit = 1000;
+    test::Trace trace;
+    Echo echo(options);
+    Client client(echo.path);
+    client.send(frame(1001, 'x').substr(0, 43));
+    EXPECT_EQ(client.next(), "error 104");
+    Client narrow(echo.path, 100);
+    narrow.send(frame(101, 'y'));
+    EXPECT_EQ(narrow.next(), "error 90");
+    echo.stop();
+    ASSERT_FALSE(echo.reasons.empty());
+    EXPECT_EQ(echo.reasons[0], "its frame exceeds the limit");
+}
+
+TEST(Transport, TurnsSurplusPeersAway) {
+    auto options = Echo::defaults();
+    options.peer_limit = 1;
+    test::Trace trace;
+    Echo echo(options);
+    Client first(echo.path);
+    first.send(frame(43, 'a'));
+    EXPECT_EQ(first.next(), frame(43, 'a'));
+    Client second(echo.path);
+    EXPECT_EQ(second.next(), "error 104");
+    EXPECT_TRUE(trace.has(3, "turned away"));
+}
+
+TEST(Transport, DisconnectsIdlePeers) {
+    auto options = Echo::defaults();
+    options.idle_ms = 50;
+    test::Trace trace;
+    Echo echo(options);
+    Client client(echo.path);
+    EXPECT_EQ(client.next(), "error 104");
+    echo.stop();
+    ASSERT_EQ(echo.reasons.size(), 1u);
+    EXPECT_EQ(echo.reasons[0], "it was idle for too long");
+}
+
+TEST(Transport, DisconnectsPeersThatDoNotRead) {
+    auto options = Echo::defaults();
+    options.pending_limit = 1 << 20;
+    test::Trace trace;
+    Echo echo(options);
+    Client client(echo.path);
+    const std::string big = frame(400000, 'x');
+    for (int i = 0; i < 50; ++i) {
+        if (mirk_platform_client_send(client.client, big.data(), big.size(), 2000) != 0) break;
+    }
+    echo.stop();
+    ASSERT_EQ(echo.reasons.size(), 1u);
+    EXPECT_EQ(echo.reasons[0], "it lets too much pile up unread");
+}
+
+TEST(Transport, SendsWhatIsQueuedBeforeADisconnect) {
+    Echo echo;
+    Client client(echo.path);
+    const std::string last = frame(2000000, 'Q');
+    client.send(last);
+    EXPECT_EQ(client.next(), last);
+    EXPECT_EQ(client.next(), "error 104");
+}
+
+TEST(Transport, ReceiveTimesOutAndGoesOn) {
+    Echo echo;
+    Client client(echo.path);
+    std::string bytes;
+    EXPECT_EQ(client.receive(&bytes, 20), 110u);
+    client.send(frame(70, 'l'));
+    EXPECT_EQ(client.next(), frame(70, 'l'));
+}
+
+TEST(Transport, StopEndsRunAndRemovesTheFile) {
+    Echo echo;
+    Client client(echo.path);
+    struct stat info {};
+    ASSERT_EQ(stat(echo.path.c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777, 0600u);
+    echo.stop();
+    EXPECT_NE(stat(echo.path.c_str(), &info), 0);
+    EXPECT_EQ(client.next(), "error 104");
+}
+
+TEST(Transport, StopBeforeRunReturnsAtOnce) {
+    auto options = Echo::defaults();
+    options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
+    mirk_platform_server *server = nullptr;
+    const std::string path = "/tmp/mirk_transport_stop_" + std::to_string(getpid());
+    ASSERT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
+    mirk_platform_server_stop(server);
+    EXPECT_EQ(mirk_platform_server_run(server), 0u);
+    mirk_platform_server_close(server);
+}
+
+TEST(Transport, TakesOverAStaleSocketFileOnly) {
+    Echo echo;
+    auto options = Echo::defaults();
+    mirk_platform_server *server = nullptr;
+    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), 22u);
+    options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
+    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), 98u);
+    const std::string path = echo.path + "_stale";
+    const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strcpy(address.sun_path, path.c_str());
+    ASSERT_EQ(bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    close(fd);
+    EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
+    mirk_platform_server_close(server);
+    FILE *file = std::fopen(path.c_str(), "w");
+    ASSERT_NE(file, nullptr);
+    std::fclose(file);
+    EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 17u);
+    unlink(path.c_str());
+    EXPECT_EQ(mirk_platform_server_open((path + std::string(200, 'x')).c_str(), &options, &server), 36u);
+}
+
+TEST(Transport, NobodyThereIsAnError) {
+    mirk_platform_client *client = nullptr;
+    EXPECT_EQ(mirk_platform_client_open("/tmp/mirk_transport_nobody", 0, 100, &client), 2u);
+}
