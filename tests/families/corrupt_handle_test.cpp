@@ -1,0 +1,123 @@
+// A handle whose tracking mode is neither of the two known words ends the process wherever the mode decides something.
+#include "lumo_ui_tarn.h"
+#include "values.h"
+
+using namespace families;
+
+namespace {
+
+constexpr const char *text = "\\(FATAL\\): Corrupted MIRK Handle";
+
+// The handle works until it is spoilt, so that there are objects to work on.
+class CorruptHandleDeathTest : public testing::Test {
+protected:
+    void SetUp() override { testing::FLAGS_gtest_death_test_style = "fast"; }
+    void TearDown() override {
+        mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
+        for (const auto &[r, object] : objects) r->destroy(h, id, object);
+    }
+    void *make(const RecordOperations &r) {
+        void *object = r.create(h, id);
+        objects.emplace_back(&r, object);
+        return object;
+    }
+    void spoil(uint32_t mode = 0) { mirk_platform_testing_set_sttr_mode(h, mode); }
+    void expect_the_end(const std::function<void()> &operation) {
+        EXPECT_EXIT(operation(), testing::KilledBySignal(SIGABRT), text);
+    }
+
+    Handle h{Mode::on};
+    uint32_t err = 0;
+    std::vector<std::pair<const RecordOperations *, void *>> objects;
+};
+
+TEST_F(CorruptHandleDeathTest, InSizeAndCreation) {
+    for (uint32_t mode : {0u, 0xDDDEu, 0xEEEEEEEEu}) {
+        spoil(mode);
+        expect_the_end([&] { record("lumo_tarn_debug_setting").sizeof_(h); });
+    }
+    expect_the_end([&] { record("lumo_tarn_dp_tc").create(h, id); });
+    expect_the_end([&] {
+        alignas(8) uint8_t object[400] = {};
+        const RecordOperations &r = record("lumo_tarn_dp_tc");
+        r.initialize(h, id, object, r.type, 1, 1, 0, nullptr, &err);
+    });
+    expect_the_end([&] { tarn::reflect::messages()[0].create(h, id); });
+}
+
+TEST_F(CorruptHandleDeathTest, InEveryKindOfMemberWrite) {
+    const RecordOperations &flat = record("lumo_tarn_debug_setting"), &ll = record("lumo_tarn_dp_ll_spec"),
+                           &tc = record("lumo_tarn_dp_tc"), &text_record = record("lumo_tarn_cl_kesh_appl");
+    void *f = make(flat), *l = make(ll), *t = make(tc), *s = make(text_record), *other = make(tc);
+    spoil();
+    uint32_t value = 1;
+    expect_the_end([&] { flat.members[0].set(h, id, f, &value, &err); });
+    expect_the_end([&] { flat.members[0].set_value(h, id, f, 1, &err); });
+    expect_the_end([&] { member(ll, "display_all").set_value(h, id, l, 1, &err); });
+    expect_the_end([&] { member(tc, "src_prefix").set(h, id, t, at(tc, other, member(tc, "src_prefix")), &err); });
+    expect_the_end([&] { member(tc, "exmem_info").set(h, id, t, at(tc, other, member(tc, "exmem_info")), &err); });
+    expect_the_end([&] { member(text_record, "proto_name").text_set(h, id, s, "a", 1, &err); });
+}
+
+TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
+    const RecordOperations &r = record("lumo_tarn_dp_tc_list");
+    const MemberOperations &m = member(r, "tc_list");
+    void *object = make(r);
+    spoil();
+    uint8_t *out = nullptr;
+    const uint8_t source[1] = {0};
+    expect_the_end([&] { m.state_flag_get(h, id, object, &err); });
+    expect_the_end([&] { m.state_flag_set(h, id, object, 1, &err); });
+    expect_the_end([&] { m.element_state_flag_get(h, id, object, 0, &err); });
+    expect_the_end([&] { m.element_state_flag_set(h, id, object, 0, 1, &err); });
+    expect_the_end([&] { m.element_state_flag_get_arr(h, id, object, &out, &err); });
+    expect_the_end([&] { m.element_state_flag_set_arr(h, id, object, source, 0, &err); });
+    void *flat = make(record("lumo_tarn_debug_setting"));
+    spoil();
+    expect_the_end([&] { record("lumo_tarn_debug_setting").members[0].state_flag_get(h, id, flat, &err); });
+    expect_the_end([&] { record("lumo_tarn_debug_setting").members[0].state_flag_set(h, id, flat, 1, &err); });
+}
+
+TEST_F(CorruptHandleDeathTest, InAssignmentArrayGrowthAndEncoding) {
+    const RecordOperations &r = record("lumo_tarn_debug_setting"), &list = record("lumo_tarn_dp_tc_list");
+    void *object = make(r), *other = make(r), *l = make(list), *element = make(record("lumo_tarn_dp_tc"));
+    spoil();
+    char buffer[512] = {};
+    expect_the_end([&] { r.set(h, id, object, other, &err); });
+    expect_the_end([&] { member(list, "tc_list").element_set(h, id, l, 0, element, &err); });
+    expect_the_end([&] { r.len(h, id, object); });
+    expect_the_end([&] { r.marshal(h, id, buffer, object, sizeof buffer, &err); });
+    expect_the_end([&] { r.unmarshal(h, id, buffer, object, sizeof buffer, 0, &err); });
+    expect_the_end([&] { r.to_xml(h, id, "a", buffer, object, sizeof buffer, 0, &err); });
+}
+
+TEST_F(CorruptHandleDeathTest, IsNotNoticedByReadsTextAndDestruction) {
+    const RecordOperations &r = record("lumo_tarn_dp_tc");
+    void *object = r.create(h, id);
+    spoil();
+    char buffer[4096];
+    EXPECT_EQ(member(r, "id").get_value(h, id, object, &err), 0u);
+    EXPECT_NE(member(r, "id").get(h, id, object, &err), nullptr);
+    EXPECT_NE(r.print(h, id, buffer, 0, "object", object, sizeof buffer, &err), 0u);
+    EXPECT_EQ(err, 0u);
+    r.offset_remove(h, id, object, &err);
+    r.destroy(h, id, object);
+    EXPECT_EQ(h.live_blocks(), 0u);
+}
+
+TEST_F(CorruptHandleDeathTest, IsPassedOverWhenAllStateIsFilled) {
+    each_record([&](const RecordOperations &r) {
+        void *object = r.create(h, id);
+        Events events(h);
+        for (uint32_t mode : {0u, 0xDDDDu, 0xEEEFu}) {
+            spoil(mode);
+            r.set_all_state_tracking_flag(h, id, object, 7);
+        }
+        for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+        EXPECT_TRUE(events.all.empty());
+        spoil(0xEEEE);
+        r.destroy(h, id, object);
+    });
+}
+
+}  // namespace

@@ -1,0 +1,429 @@
+// Creation and the end of instances: sizes, headers, state areas, and what happens when something fails on the way.
+#include <cerrno>
+
+#include "lumo_ui_tarn.h"
+#include "values.h"
+
+using namespace families;
+
+namespace {
+
+TEST(Lifecycle, SizeDependsOnTheHandlesMode) {
+    Handle none(Mode::none), off(Mode::off), on(Mode::on);
+    each_record([&](const RecordOperations &r) {
+        EXPECT_EQ(r.sizeof_(none), table(r).base);
+        EXPECT_EQ(r.sizeof_(off), table(r).base);
+        EXPECT_EQ(r.sizeof_(on), table(r).tracked);
+    });
+}
+
+TEST(Lifecycle, TheModeIsReadAfreshOnEachUse) {
+    Handle h(Mode::off);
+    const RecordOperations &r = record("lumo_tarn_dp_tc");
+    EXPECT_EQ(r.sizeof_(h), 320u);
+    mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
+    EXPECT_EQ(r.sizeof_(h), 364u);
+}
+
+TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_record([&](const RecordOperations &r) {
+            Events events(h);
+            void *object = r.create(h, id);
+            const auto allocations = events.of(MIRK_PLATFORM_TESTING_ALLOC);
+            ASSERT_EQ(allocations.size(), 1u);
+            EXPECT_EQ(allocations[0].address, object);
+            EXPECT_EQ(allocations[0].size, r.sizeof_(h));
+            EXPECT_EQ(allocations[0].ctx_id, id);
+            for (const MemberOperations &m : r.members) {
+                if (is_embedded(m)) continue;
+                for (uint32_t i = 0; i < place(r, m).size; ++i) EXPECT_EQ(bytes(at(r, object, m))[i], 0) << name(m);
+            }
+            if (mode == Mode::on) {
+                for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+            }
+            r.destroy(h, id, object);
+            const auto frees = events.of(MIRK_PLATFORM_TESTING_FREE);
+            ASSERT_EQ(frees.size(), 1u);
+            EXPECT_EQ(frees[0].address, object);
+            EXPECT_EQ(frees[0].ctx_id, id);
+            EXPECT_EQ(h.live_blocks(), 0u);
+        });
+    }
+}
+
+TEST(Lifecycle, AStickyCreateWorksUnderTheDefaultId) {
+    Handle h;
+    mirk_platform_handle_set_default_id(h, 90);
+    Events events(h);
+    const RecordOperations &r = record("lumo_tarn_dp_intf_data");
+    r.destroy_cr(h, r.create_cr(h));
+    for (const auto &event : events.all) {
+        if (event.kind == MIRK_PLATFORM_TESTING_ALLOC || event.kind == MIRK_PLATFORM_TESTING_FREE ||
+            event.kind == MIRK_PLATFORM_TESTING_WRITE_NOTIFY || event.kind == MIRK_PLATFORM_TESTING_COUNT_NOTIFY) {
+            EXPECT_EQ(event.ctx_id, 90u);
+        }
+    }
+}
+
+// Headers of an object and of all that is embedded in it; on a tracking handle also where their areas are.
+void expect_headers(const Handle &h, const RecordOperations &r, void *object, uint8_t flags, uintptr_t state,
+                    bool tracking) {
+    SCOPED_TRACE(name(r));
+    EXPECT_EQ(header(object)->tinfo, r.type);
+    EXPECT_EQ(header(object)->variant, 0);
+    EXPECT_EQ(header(object)->home_variant, 0);
+    EXPECT_EQ(header(object)->obj_flag, flags);
+    for (const MemberOperations &m : r.members) {
+        if (!is_embedded(m)) continue;
+        SCOPED_TRACE(name(m));
+        void *child = at(r, object, m);
+        uint8_t expected = nested;
+        if (has_area(m) && tracking) expected = nested | tracked | has_offset;
+        const uintptr_t inner = state + place(r, m).area;
+        if (has_area(m) && tracking) {
+            EXPECT_EQ(h.offset_of(child), static_cast<uint32_t>(inner - reinterpret_cast<uintptr_t>(child)));
+        }
+        if (m.member->kind == Kind::record) {
+            expect_headers(h, nested_record(m), child, expected, inner, tracking);
+        } else if (m.member->kind == Kind::address) {
+            EXPECT_EQ(header(child)->obj_flag, expected);
+            EXPECT_EQ(header(child)->tinfo, &_ip_address_type_info_internal);
+        } else if (m.member->kind == Kind::boolean) {
+            EXPECT_EQ(header(child)->obj_flag & nested, nested);
+            EXPECT_EQ(header(child)->tinfo, &_mirk_boolean_type_info_internal);
+        } else {
+            EXPECT_EQ(header(child)->obj_flag, nested);
+            EXPECT_EQ(header(child)->tinfo, tarn::reflect::operations_of(*m.member->enumeration).type);
+        }
+    }
+}
+
+TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_record([&](const RecordOperations &r) {
+            void *object = r.create(h, id);
+            const bool tracking = mode == Mode::on;
+            expect_headers(h, r, object, tracking ? tracked : 0, reinterpret_cast<uintptr_t>(object) + table(r).base,
+                           tracking);
+            r.destroy(h, id, object);
+        });
+        EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0u);
+    }
+}
+
+TEST(Lifecycle, GetIsTheIdentityWithoutAnyCheck) {
+    Handle h;
+    Events events(h);
+    uint32_t err = EIO;
+    int anything = 0;
+    each_record([&](const RecordOperations &r) {
+        EXPECT_EQ(r.get(h, id, nullptr, &err), nullptr);
+        EXPECT_EQ(r.get(h, id, &anything, &err), &anything);
+    });
+    EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+    EXPECT_TRUE(events.all.empty());
+}
+
+TEST(Lifecycle, DestroyOfNullDoesNothing) {
+    Handle h(Mode::on);
+    Events events(h);
+    each_record([&](const RecordOperations &r) {
+        r.destroy(h, id, nullptr);
+        r.destroy_cr(h, nullptr);
+        r.destroy_internal(h, id, nullptr, 1);
+    });
+    EXPECT_TRUE(events.all.empty());
+}
+
+TEST(Lifecycle, CreateWithoutMemoryGivesNullAndLeavesTheLastErrorAlone) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_record([&](const RecordOperations &r) {
+            Trace trace;
+            h->last_error = 9;
+            h.fail_alloc(1);
+            EXPECT_EQ(r.create(h, id), nullptr);
+            h.fail_alloc(1);
+            EXPECT_EQ(r.create_internal(h, id), nullptr);
+            EXPECT_EQ(h->last_error, 9u);
+            EXPECT_EQ(trace.lines(), Lines{});
+        });
+    }
+}
+
+TEST(Lifecycle, CreateRunsWhateverTheLastErrorIs) {
+    Handle h;
+    each_record([&](const RecordOperations &r) {
+        h->last_error = 9;
+        void *object = r.create(h, id);
+        ASSERT_NE(object, nullptr);
+        EXPECT_EQ(h->last_error, 0u);
+        r.destroy(h, id, object);
+    });
+}
+
+// True if an enumeration is embedded at any depth.
+bool holds_enumeration(const RecordOperations &r) {
+    for (const MemberOperations &m : r.members) {
+        if (m.member->kind == Kind::enumeration) return true;
+        if (m.member->kind == Kind::record && holds_enumeration(nested_record(m))) return true;
+    }
+    return false;
+}
+
+TEST(Lifecycle, AFailedLookUpIsLostForRecordsAndFailsCreateForEmbeddedEnumerations) {
+    Handle h;
+    each_record([&](const RecordOperations &r) {
+        h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
+        Trace trace;
+        void *object = r.create(h, id);
+        h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 0, 0);
+        const bool fails = holds_enumeration(r) || !embeds_something(r) ? holds_enumeration(r) : object == nullptr;
+        EXPECT_EQ(object == nullptr, fails);
+        if (object == nullptr) {
+            ASSERT_FALSE(trace.lines().empty());
+            EXPECT_EQ(trace.lines().back(), "type 3 (ERR): error in " + name(r) + " create: " + std::strerror(EPROTO));
+        } else {
+            EXPECT_EQ(trace.lines(), Lines{});
+        }
+        r.destroy(h, id, object);
+        EXPECT_EQ(h.live_blocks(), 0u);
+    });
+}
+
+TEST(Lifecycle, AFailedInitializeGivesNullEvenInAStickyCreate) {
+    Handle h;
+    const RecordOperations &r = record("lumo_tarn_static_exmem_info");
+    h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
+    Trace trace;
+    EXPECT_EQ(r.create_cr(h), nullptr);
+    EXPECT_EQ(trace.lines(), (Lines{std::string("type 3 (ERR): error in lumo_tarn_static_exmem_info create: ") +
+                                    std::strerror(EPROTO)}));
+    EXPECT_EQ(h->cr_mode, 0u);
+    EXPECT_EQ(h.live_blocks(), 0u);
+}
+
+TEST(Lifecycle, ChildrenAreAllInitialisedThoughOneFails) {
+    Handle h;
+    const RecordOperations &r = record("lumo_tarn_static_exmem_info");
+    alignas(8) uint8_t object[256] = {};
+    uint32_t err = 0;
+    h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);  // the enumeration, which comes first
+    r.initialize(h, id, object, r.type, 1, 0, 0, nullptr, &err);
+    EXPECT_EQ(err, static_cast<uint32_t>(EPROTO));
+    const RecordOperations &last = record("lumo_tarn_exmem_info");
+    EXPECT_EQ(header(at(r, object, member(r, "exmem")))->tinfo, last.type);
+    r.destroy_internal(h, id, object, 0);
+}
+
+TEST(Lifecycle, AnErrorOfAChildReachesAStickySlotToo) {
+    Handle h;
+    const RecordOperations &r = record("lumo_tarn_static_exmem_info");
+    alignas(8) uint8_t object[256] = {};
+    h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);
+    r.initialize(h, id, object, r.type, 1, 0, 0, nullptr, &h->last_error);
+    EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+    EXPECT_NE(header(at(r, object, member(r, "exmem")))->tinfo, nullptr);
+    r.destroy_internal(h, id, object, 0);
+}
+
+TEST(Lifecycle, ANestedObjectNeedsItsStateBase) {
+    Handle h(Mode::on);
+    each_record([&](const RecordOperations &r) {
+        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        void *object = storage.data();
+        const uint64_t created = entry(*r.type).num_created;
+        uint32_t err = 0;
+        Trace trace;
+        Events events(h);
+        r.initialize(h, id, object, r.type, 1, 0, nested, nullptr, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(trace.lines(),
+                  (Lines{"type 3 (ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and "
+                         "provide the correct state tracking base pointer"}));
+        EXPECT_EQ(header(object)->tinfo, r.type);
+        EXPECT_EQ(header(object)->obj_flag, nested | tracked);
+        EXPECT_EQ(entry(*r.type).num_created, created + 1);
+        EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_OFFSET_UPDATE), 0u);
+        for (const MemberOperations &m : r.members) {
+            if (is_embedded(m)) {
+                EXPECT_EQ(header(at(r, object, m))->tinfo, nullptr) << name(m);
+            }
+        }
+    });
+}
+
+TEST(Lifecycle, WithoutTrackingANestedObjectNeedsNoStateBase) {
+    for (Mode mode : {Mode::none, Mode::off}) {
+        Handle h(mode);
+        each_record([&](const RecordOperations &r) {
+            std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+            uint32_t err = 0;
+            r.initialize(h, id, storage.data(), r.type, 1, 0, nested, nullptr, &err);
+            EXPECT_EQ(err, 0u);
+            r.destroy_internal(h, id, storage.data(), 0);
+        });
+    }
+}
+
+TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
+    Handle h(Mode::on);
+    Events events(h);
+    each_record([&](const RecordOperations &r) {
+        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        uint32_t err = EIO;
+        r.initialize(h, id, storage.data(), r.type, 1, 0, 0, nullptr, &err);
+        EXPECT_EQ(storage, std::vector<uint64_t>(storage.size()));
+        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+    });
+    EXPECT_TRUE(events.all.empty());
+}
+
+TEST(Lifecycle, SkippingTheCountLeavesOutCountersAndOffsetsButNotTheChildren) {
+    Handle h(Mode::on);
+    each_record([&](const RecordOperations &r) {
+        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        void *object = storage.data();
+        const mirk_variant_entry before = entry(*r.type);
+        uint32_t err = 0;
+        Events events(h);
+        r.initialize(h, id, object, r.type, 0, 1, 0, nullptr, &err);
+        EXPECT_EQ(err, 0u);
+        EXPECT_EQ(std::memcmp(&before, &entry(*r.type), sizeof before), 0);
+        EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_OFFSET_UPDATE), 0u);
+        EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_WRITE_NOTIFY), 0u);
+        EXPECT_EQ(header(object)->obj_flag, tracked);
+        for (const MemberOperations &m : r.members) {
+            if (is_embedded(m)) {
+                EXPECT_NE(header(at(r, object, m))->tinfo, nullptr) << name(m);
+            }
+        }
+    });
+}
+
+// An enumeration keeps its flag as it is; every other embedded object is marked, as deep as they go.
+void expect_marked(const RecordOperations &r, void *object) {
+    EXPECT_NE(header(object)->obj_flag & embedded, 0);
+    for (const MemberOperations &m : r.members) {
+        if (!is_embedded(m)) continue;
+        SCOPED_TRACE(name(m));
+        void *child = at(r, object, m);
+        EXPECT_EQ((header(child)->obj_flag & embedded) != 0, m.member->kind != Kind::enumeration);
+        if (m.member->kind == Kind::record) expect_marked(nested_record(m), child);
+    }
+}
+
+TEST(Lifecycle, SetInstanceEmbeddedMarksAllButEnumerationsAndElements) {
+    Handle h;
+    each_record([&](const RecordOperations &r) {
+        void *object = filled(h, r, 3, {1, 1, false});
+        r.set_instance_embedded(h, id, object);
+        expect_marked(r, object);
+        uint32_t err = 0;
+        for (const MemberOperations &m : r.members) {
+            if (m.element_get == nullptr) continue;
+            EXPECT_EQ(header(m.element_get(h, id, object, 0, &err))->obj_flag & embedded, 0);
+        }
+        r.destroy(h, id, object);
+    });
+}
+
+TEST(Lifecycle, SetInstanceEmbeddedOfNullTraces) {
+    Handle h;
+    each_record([&](const RecordOperations &r) {
+        Trace trace;
+        r.set_instance_embedded(h, id, nullptr);
+        EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): Invalid object pointer passed in to set instance flag"}));
+    });
+}
+
+TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
+    Handle h(Mode::on);
+    each_record([&](const RecordOperations &r) {
+        void *object = r.create(h, id);
+        mirk_platform_set_ra_data(h, object, nullptr, 1);
+        const uint64_t destroyed = entry(*r.type).num_destroyed;
+        // Members with areas have mappings of their own, which go well.
+        Events events(h);
+        uint32_t mappings = 0;
+        std::function<void(const RecordOperations &)> tally = [&](const RecordOperations &inner) {
+            for (const MemberOperations &m : inner.members) {
+                if (m.member->kind == Kind::record) tally(nested_record(m));
+                if (has_area(m)) ++mappings;
+            }
+        };
+        tally(r);
+        h.fail(MIRK_PLATFORM_TESTING_HD_MAPPING_DESTROY, EPROTO, mappings, 1);
+        Trace trace;
+        r.destroy(h, id, object);
+        EXPECT_EQ(trace.lines(),
+                  (Lines{"type 3 (ERR): " + name(r) + " destroy: Failed to remove oid mapping for object. Error " +
+                         std::strerror(EPROTO)}));
+        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+        EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_FREE), 0u);
+        EXPECT_EQ(header(object)->tinfo, r.type);
+        EXPECT_EQ(entry(*r.type).num_destroyed, destroyed + 1);
+        h->obj_free(h->mem_ctx, id, object);
+    });
+}
+
+TEST(Lifecycle, WithoutMappingsNoneIsAskedToGo) {
+    Handle h(Mode::on);
+    mirk_platform_handle_set_oid_mapping(h, 0);
+    Events events(h);
+    each_record([&](const RecordOperations &r) { r.destroy(h, id, r.create(h, id)); });
+    for (const auto &event : events.of(MIRK_PLATFORM_TESTING_HD_DESTROY)) {
+        // Only the runtime's own addresses may.
+        EXPECT_EQ(header(event.address)->tinfo, &_ip_address_type_info_internal);
+    }
+}
+
+TEST(Lifecycle, RecordCodeTracesOnTheTypeModuleAfterAnyCreate) {
+    Handle h;
+    each_record([&](const RecordOperations &r) {
+        r.destroy(h, id, r.create(h, id));
+        EXPECT_STREQ(mirk_platform_trace_module_name(g_mirk_lumo_ui_tarn_type_trace_module_id),
+                     "mirk_lumo_ui_tarn_type");
+    });
+}
+
+using LifecycleDeathTest = testing::Test;
+
+TEST(LifecycleDeathTest, DestroyingAnObjectWithADamagedTypeEndsTheProcess) {
+    Handle h;
+    for (const char *which : {"lumo_tarn_debug_setting", "lumo_tarn_dp_tc", "lumo_tarn_cl_kesh_appl"}) {
+        const RecordOperations &r = record(which);
+        void *object = r.create(h, id);
+        EXPECT_EXIT(
+            {
+                header(object)->tinfo = nullptr;
+                r.destroy(h, id, object);
+            },
+            testing::KilledBySignal(SIGABRT), "\\(FATAL\\): tinfo is null or corrupted");
+        EXPECT_EXIT(
+            {
+                r.type->magic = 0xbeeff00c;
+                r.destroy(h, id, object);
+            },
+            testing::KilledBySignal(SIGABRT), "\\(FATAL\\): tinfo is null or corrupted");
+        EXPECT_EXIT(
+            {
+                r.type->variant_info = nullptr;
+                r.destroy(h, id, object);
+            },
+            testing::KilledBySignal(SIGABRT), "\\(FATAL\\): varinfo is NULL");
+        EXPECT_EXIT(
+            {
+                r.type->variant_info = nullptr;
+                r.create(h, id);
+            },
+            testing::KilledBySignal(SIGABRT), "\\(FATAL\\): varinfo is NULL");
+        r.destroy(h, id, object);
+    }
+}
+
+}  // namespace
