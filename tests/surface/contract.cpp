@@ -1,0 +1,1 @@
+#include "mirk/mirk.h"
