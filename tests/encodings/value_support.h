@@ -1,0 +1,139 @@
+// What the tests of text, XML and values share: documents, the trace, renderings into watched buffers.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "bridge/bridge.h"
+#include "lumo_ui_tarn.h"
+#include "mirk_platform_testing.h"
+#include "reference/text.h"
+
+namespace forms {
+
+using bridge::Handle;
+using bridge::Instance;
+using bridge::kId;
+using bridge::operations;
+using bridge::RecordOperations;
+using bridge::Tracking;
+
+// Strings as setters take them: they end at a NUL.
+inline void drop_nuls(reference::Record &value) {
+    for (reference::Member &member : value.members) {
+        for (char &c : member.text) {
+            if (c == '\0') c = '\1';
+        }
+        for (reference::Record &item : member.items) drop_nuls(item);
+    }
+}
+
+inline reference::Record random_value(std::string_view record, std::uint64_t seed,
+                                      reference::GeneratorOptions options = {}) {
+    reference::Record value = reference::Generator(seed, options).make(record);
+    drop_nuls(value);
+    return value;
+}
+
+class Document {
+public:
+    explicit Document(const std::string &text) {
+        mirk_platform_report report;
+        p_ = mirk_platform_document_load_memory(text.data(), text.size(), &report);
+        EXPECT_NE(p_, nullptr) << report.sentence << " in " << text;
+    }
+    Document(const Document &) = delete;
+    Document &operator=(const Document &) = delete;
+    ~Document() { mirk_platform_document_free(p_); }
+    operator void *() const { return p_; }
+
+private:
+    void *p_;
+};
+
+struct TraceLine {
+    std::uint16_t module;
+    std::uint32_t level;
+    std::string text;
+    bool operator==(const TraceLine &) const = default;
+};
+inline std::ostream &operator<<(std::ostream &out, const TraceLine &line) {
+    return out << mirk_platform_trace_module_name(line.module) << " " << line.level << " " << line.text;
+}
+
+inline TraceLine record_line(std::uint32_t level, std::string text) {
+    return {g_mirk_lumo_ui_tarn_type_trace_module_id, level, std::move(text)};
+}
+
+// Everything that is traced in its scope.
+class Trace {
+public:
+    Trace() { mirk_platform_testing_capture_start(); }
+    Trace(const Trace &) = delete;
+    Trace &operator=(const Trace &) = delete;
+    ~Trace() { mirk_platform_testing_capture_stop(); }
+    std::vector<TraceLine> lines() const {
+        std::vector<TraceLine> result;
+        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
+            TraceLine line{};
+            line.text = mirk_platform_testing_captured_line(i, &line.module, &line.level);
+            result.push_back(line);
+        }
+        return result;
+    }
+};
+
+inline constexpr char blank = '#';
+
+// What a rendering left in a buffer that was full of blank, and what it answered.
+struct Written {
+    std::uint32_t result = 0;
+    std::uint32_t err = 0;
+    std::string buffer;
+
+    std::string text() const { return buffer.substr(0, result); }
+    bool untouched_from(std::size_t start) const { return buffer.find_first_not_of(blank, start) == buffer.npos; }
+};
+
+inline constexpr std::size_t ample = std::size_t{1} << 17;
+
+template <class Operation>
+Written write(std::size_t room, Operation &&operation) {
+    Written written;
+    written.buffer.assign(room, blank);
+    written.result = operation(written.buffer.data(), static_cast<std::int32_t>(room), &written.err);
+    return written;
+}
+
+inline Written print(const Handle &h, const Instance &instance, std::string_view name, std::uint32_t indent) {
+    return write(ample, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
+        return instance.record().print(h, kId, buffer, indent, std::string(name).c_str(), instance.get(), room, err);
+    });
+}
+inline Written to_xml(const Handle &h, const Instance &instance, std::string_view name, std::uint8_t state = 0) {
+    return write(ample, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
+        return instance.record().to_xml(h, kId, std::string(name).c_str(), buffer, instance.get(), room, state, err);
+    });
+}
+
+// Reads a document whose root is named as the record.
+inline std::uint32_t read_document(const Handle &h, const Instance &instance, const std::string &text) {
+    const Document document(text);
+    std::uint32_t err = 0;
+    char message[300] = "";
+    const std::string path = "//" + std::string(instance.record().record->name);
+    instance.record().from_xml(h, kId, path.c_str(), document, instance.get(), &err, message, sizeof message);
+    EXPECT_STREQ(message, "");
+    return err;
+}
+inline std::uint32_t read_members(const Handle &h, const Instance &instance, const std::string &members) {
+    const std::string name(instance.record().record->name);
+    return read_document(h, instance, "<" + name + ">" + members + "</" + name + ">");
+}
+
+}  // namespace forms
