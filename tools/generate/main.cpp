@@ -70,10 +70,12 @@ int main(int argc, char **argv) {
     } else if (kind == "link") {
         put(argv[2], write_linker_script());
         put(argv[2], write_manifest(stamp_from(argv + 3, argv + argc)));
+    } else if (kind == "floor") {
+        put(argv[2], write_floor());
     } else if (kind == "operations") {
         put(argv[2], write_operations());
     } else {
-        std::cerr << "usage: generate headers|exports|lists|link|operations DIRECTORY [NAME=VALUE...]\n";
+        std::cerr << "usage: generate headers|exports|lists|link|operations|floor DIRECTORY [NAME=VALUE...]\n";
         return 2;
     }
     return 0;

@@ -14,6 +14,7 @@ Files write_exports();        // build tree: export stubs, one file for each uni
 Files write_lists();          // goldens: exported names, layout of every record
 Files write_linker_script();  // build tree: the version script
 
+Files write_floor();            // build tree: straight-line code, for the benchmarks
 Files write_operations();  // build tree: every operation as a table, for tools and tests
 
 struct BuildStamp {
