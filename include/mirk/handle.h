@@ -30,17 +30,17 @@ struct mirk_handle {
     void *mem_ctx, *type_store, *sys_ctx;
     mirk_bundle_handler bundle_handler; /* for committed bundles; may be null */
     uint32_t send_bundle_open, recv_bundle_open;
-    const mirk_allowed_row *bundle_table; /* of the open send bundle */
-    mirk_dispatch_info *recv_bundle_lut;  /* dispatch entry at the start of the receive bundle */
-    void *recv_bundle_lut_ref;            /* look-up table at that time */
+    const mirk_allowed_row *bundle_table;       /* of the open send bundle */
+    mirk_dispatch_info *recv_bundle_lut;        /* dispatch entry at the start of the receive bundle */
+    void *recv_bundle_lut_ref;                  /* look-up table at that time */
     mirk_dispatch_info *recv_bundle_commit_lut; /* dispatch entry while a commit's handler runs */
     mirk_list_head send_bundle_list, recv_bundle_list;
     const char *domain_name;
     uint32_t message_stamp; /* goes into every header that is marshalled */
     mirk_domain domain;
-    uint32_t last_error; /* the sticky error, and the slot of every _cr operation */
-    uint32_t default_id; /* the ctx_id of every _cr operation */
-    uint32_t cr_mode;    /* 1 while a _create_cr runs */
+    uint32_t last_error;       /* the sticky error, and the slot of every _cr operation */
+    uint32_t default_id;       /* the ctx_id of every _cr operation */
+    uint32_t cr_mode;          /* 1 while a _create_cr runs */
     mirk_sttr_desc *sttr_desc; /* null: no state tracking */
     uint32_t oid_mapping;      /* nonzero: mappings are to be removed at destruction */
 };

@@ -20,7 +20,8 @@ void _mirk_message_header_marshal(mirk_handle *h, uint32_t ctx_id, void *frame, 
 uint32_t _mirk_message_header_unmarshal(mirk_handle *h, uint32_t ctx_id, void *frame, mirk_message_header *header,
                                         uint32_t size, uint32_t *err);
 
-/* Nonzero: the domain allows the message. Answers whatever *err holds, and writes the slot only if the look-up fails. */
+/* Nonzero: the domain allows the message. Answers whatever *err holds, and writes the slot only if the look-up fails.
+ */
 uint32_t mirk_domain_lookup_message_ok(mirk_handle *h, mirk_domain *domain, mirk_type_info *type, uint32_t *err);
 /* Nonzero: failed marshalling is traced at level 7 and not at 3. */
 uint32_t mirklib_suppress_messages_enabled(mirk_handle *h);
@@ -30,8 +31,8 @@ uint32_t mirklib_suppress_messages_enabled(mirk_handle *h);
 void bundle_message_validate_add(mirk_handle *h, uint32_t ctx_id, const uint8_t *luid, const char *name, uint32_t *err);
 /* Adds 1 to its count; 2 if it was never entered. */
 void bundle_message_increment_count(mirk_handle *h, const uint8_t *luid, uint32_t *err);
-/* Release a list and end the open state. Both run whatever *err holds, also with nothing open. The receive form destroys
- * the messages that are still filed, through their own operations. */
+/* Release a list and end the open state. Both run whatever *err holds, also with nothing open. The receive form
+ * destroys the messages that are still filed, through their own operations. */
 void bundle_send_message_list_destroy(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
 void bundle_receive_message_list_destroy(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
 /* Nonzero while a bundle is being received. */

@@ -11,11 +11,9 @@
  *   _unmarshal      reads it, unannounced; returns the bytes consumed. `reuse` plays no part.
  *   _print          a line "name@kind:VALUE" behind `indent` blanks
  *   _to_xml         an element with the value; `name` stands in front of the buffer
- *   _from_xml       reads the element at a path, unannounced: 2 absent, 22 not a value of the type. err is not last; the
- *                   message buffer is left alone.
- *   _compare        -1, 0 or 1; null orders first
- *   _hash           mixes the value into the seed; the seed itself for null
- *   _backpropagate  reports and clears the field's change mark; `word` is opaque
+ *   _from_xml       reads the element at a path, unannounced: 2 absent, 22 not a value of the type. err is not last;
+ * the message buffer is left alone. _compare        -1, 0 or 1; null orders first _hash           mixes the value into
+ * the seed; the seed itself for null _backpropagate  reports and clears the field's change mark; `word` is opaque
  *
  * Null where a value is read or written gives 22. Too little room or data gives 90. None of them keeps, owns or
  * allocates anything.
@@ -29,22 +27,22 @@
 extern "C" {
 #endif
 
-#define MIRK_INTEGER(K, T)                                                                                            \
-    T *K##_get(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err);                                             \
-    T K##_get_value(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err);                                        \
-    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err);                          \
-    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err);                            \
-    uint32_t K##_len(mirk_handle *h, uint32_t ctx_id, T *field);                                                      \
-    uint32_t K##_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t *err);  \
-    uint32_t K##_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining,                \
-                           uint32_t reuse, uint32_t *err);                                                            \
-    uint32_t K##_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent, const char *name, T *field,    \
-                       int32_t remaining, uint32_t *err);                                                             \
-    uint32_t K##_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer, T *field, int32_t remaining, \
-                        uint8_t state, uint32_t *err);                                                                \
-    void K##_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, T *field, uint32_t *err,     \
-                      char *message, uint32_t message_size);                                                          \
-    uint32_t K##_hash(const T *field, uint32_t seed);                                                                 \
+#define MIRK_INTEGER(K, T)                                                                                             \
+    T *K##_get(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err);                                              \
+    T K##_get_value(mirk_handle *h, uint32_t ctx_id, T *field, uint32_t *err);                                         \
+    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err);                           \
+    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err);                             \
+    uint32_t K##_len(mirk_handle *h, uint32_t ctx_id, T *field);                                                       \
+    uint32_t K##_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t *err);   \
+    uint32_t K##_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, T *field, int32_t remaining, uint32_t reuse, \
+                           uint32_t *err);                                                                             \
+    uint32_t K##_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent, const char *name, T *field,     \
+                       int32_t remaining, uint32_t *err);                                                              \
+    uint32_t K##_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer, T *field, int32_t remaining,  \
+                        uint8_t state, uint32_t *err);                                                                 \
+    void K##_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document, T *field, uint32_t *err,      \
+                      char *message, uint32_t message_size);                                                           \
+    uint32_t K##_hash(const T *field, uint32_t seed);                                                                  \
     uint32_t K##_backpropagate(mirk_handle *h, uint32_t ctx_id, T *field, void *word);
 
 MIRK_INTEGER(u_int8, uint8_t)
@@ -76,8 +74,8 @@ uint32_t mirk_boolean_hash(const mirk_boolean *field, uint32_t seed);
 uint32_t mirk_boolean_backpropagate(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, void *word);
 extern mirk_type_info _mirk_boolean_type_info_internal;
 
-/* ip_address: an embedded record of seven members, with a state area of seven bytes and a frame of its own. _set assigns
- * the whole record, header included. It may hold oids. */
+/* ip_address: an embedded record of seven members, with a state area of seven bytes and a frame of its own. _set
+ * assigns the whole record, header included. It may hold oids. */
 ip_address *ip_address_get(mirk_handle *h, uint32_t ctx_id, ip_address *field, uint32_t *err);
 void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip_address *source, uint32_t *err);
 void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type, uint32_t notify,

@@ -11,8 +11,8 @@ extern "C" {
 #endif
 
 /* Both return the handler that was registered before, null at first. No lock: register at a quiet moment. */
-#define VELD(M)                                                                              \
-    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler);     \
+#define VELD(M)                                                                          \
+    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler); \
     mirk_bundle_handler veld_##M##_bundle_handler_unregister(void);
 
 VELD(comm)

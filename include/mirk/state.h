@@ -18,8 +18,8 @@ extern "C" {
 int8_t mirk_domain_lookup_variant(mirk_handle *h, mirk_domain *domain, mirk_type_info *type, uint32_t *err);
 /* The object's variant, uncapped; 0 for null. */
 int8_t mirk_get_instance_variant(void *object, uint32_t is_record, uint32_t is_value_kind);
-/* Brings the object to the variant of the handle's domain before a write, announced if it changes. Nothing happens for a
- * null object or type. `zero` is always 0. */
+/* Brings the object to the variant of the handle's domain before a write, announced if it changes. Nothing happens for
+ * a null object or type. `zero` is always 0. */
 void mirklib_adjust_variant(mirk_handle *h, uint32_t ctx_id, void *object, mirk_type_info *tinfo, uint32_t zero,
                             uint32_t *err);
 /* The one modified mark of the object: value 1 sets it, 0 clears it. Nothing happens for null. Not announced. */
@@ -41,8 +41,8 @@ void mirklib_get_handle_ws(mirk_handle *h, void **buffer, uint32_t *size);
  * record if there is still none. */
 mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_type_info *own,
                                        mirk_typeinfo_init_fn init);
-/* Brings the sizes in a private copy in line with the module's record. is_new 1 also gives the copy counters of its own,
- * at 0; without memory it goes on sharing the module's. copy->info.variant_info is usable afterwards. */
+/* Brings the sizes in a private copy in line with the module's record. is_new 1 also gives the copy counters of its
+ * own, at 0; without memory it goes on sharing the module's. copy->info.variant_info is usable afterwards. */
 void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_copy *copy, mirk_type_info *own,
                               uint32_t is_new);
 

@@ -28,11 +28,11 @@ uint32_t end_tag(mirk_handle *h, uint32_t ctx_id, char *buffer, const char *name
 uint32_t xml_enum_print(mirk_handle *h, uint32_t ctx_id, char *buffer, const char *text, int32_t remaining,
                         uint32_t text_length, uint32_t *err);
 
-/* Look-ups in a parsed document, by XPath. There is no slot: the result is the error number, 22 for what is no path or no
- * document. */
+/* Look-ups in a parsed document, by XPath. There is no slot: the result is the error number, 22 for what is no path or
+ * no document. */
 uint32_t xml_get_element_nodecount(void *document, const char *path, uint32_t *count);
-/* The text of the first node in document order; 2 if there is none. 28 if it does not fit with its NUL, or if `value` is
- * null and the text is not empty; nothing is written then. `length`, if not null, gets the bytes without the NUL. */
+/* The text of the first node in document order; 2 if there is none. 28 if it does not fit with its NUL, or if `value`
+ * is null and the text is not empty; nothing is written then. `length`, if not null, gets the bytes without the NUL. */
 uint32_t xml_get_element_value(void *document, const char *path, char *value, uint32_t value_size, uint32_t *length);
 
 /* A string is `length` characters without a NUL; `chars` may be null with length 0. */

@@ -28,8 +28,8 @@ uint32_t _mirk_variant_jump_marshal(mirk_handle *h, uint32_t ctx_id, void *buffe
 uint32_t _mirk_variant_jump_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, uint32_t *jump, int32_t remaining,
                                       uint32_t *err);
 
-/* The RA data kept for an object; null and 0 if there is none. The result is an error number and there is no slot; on an
- * error the values are left alone. */
+/* The RA data kept for an object; null and 0 if there is none. The result is an error number and there is no slot; on
+ * an error the values are left alone. */
 uint32_t mirklib_get_ra_data(mirk_handle *h, uint32_t ctx_id, void *instance, void **ra_value, uint8_t *ra_byte);
 uint32_t _mirk_instance_ra_data_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, void **ra_value,
                                         uint8_t *ra_byte, int32_t remaining, uint32_t *err);

@@ -56,10 +56,10 @@ typedef enum mirk_platform_epoch_policy {
 } mirk_platform_epoch_policy;
 
 typedef struct mirk_platform_handle_options {
-    mirk_platform_tracking tracking; /* default NONE */
-    uint32_t private_types;          /* default 0; nonzero gives the handle type records of its own */
-    uint64_t request_ceiling;        /* obj_alloc above this answers null; default 256 MiB */
-    uint64_t total_ceiling;          /* live bytes of obj_alloc above this answer null; default 1 GiB */
+    mirk_platform_tracking tracking;         /* default NONE */
+    uint32_t private_types;                  /* default 0; nonzero gives the handle type records of its own */
+    uint64_t request_ceiling;                /* obj_alloc above this answers null; default 256 MiB */
+    uint64_t total_ceiling;                  /* live bytes of obj_alloc above this answer null; default 1 GiB */
     mirk_platform_epoch_policy epoch_policy; /* default STRICT */
     mirk_bundle_handler bundle_handler;      /* default null */
     const char *domain_name;                 /* default "default" */
@@ -126,8 +126,8 @@ typedef void (*mirk_platform_trace_sink)(void *user, uint16_t module_id, uint32_
  * longer running. */
 MIRK_PLATFORM_API void mirk_platform_trace_set_sink(mirk_platform_trace_sink sink, void *user);
 
-/* Bit n selects level n. At first the levels are those of the environment variable MIRK_TRACE, a comma-separated list of
- * numbers from 0 to 31, "all" or "none"; without it, or with one that does not read so, levels 0 and 3. */
+/* Bit n selects level n. At first the levels are those of the environment variable MIRK_TRACE, a comma-separated list
+ * of numbers from 0 to 31, "all" or "none"; without it, or with one that does not read so, levels 0 and 3. */
 MIRK_PLATFORM_API void mirk_platform_trace_set_levels(uint32_t mask);
 MIRK_PLATFORM_API uint32_t mirk_platform_trace_levels(void);
 /* Reads a list in the form of MIRK_TRACE; 22 and an untouched mask if it is none. */
@@ -138,7 +138,8 @@ MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
 /* Gives the object RA data and flag bit 32. The value is an opaque word that is never followed. */
-MIRK_PLATFORM_API mirk_platform_error mirk_platform_set_ra_data(mirk_handle *h, void *object, void *value, uint8_t byte);
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_set_ra_data(mirk_handle *h, void *object, void *value,
+                                                                uint8_t byte);
 /* 2 if the object has none. Either pointer may be null. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_ra_data(mirk_handle *h, const void *object, void **value,
                                                             uint8_t *byte);
@@ -194,8 +195,8 @@ typedef struct mirk_platform_message {
     mirk_message_handler handler;
 } mirk_platform_message;
 
-/* Enters a message, or replaces the entry of the same luid. 22 if luid, name or unmarshal is missing, or a plain message
- * lacks destroy. */
+/* Enters a message, or replaces the entry of the same luid. 22 if luid, name or unmarshal is missing, or a plain
+ * message lacks destroy. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_register(mirk_handle *h,
                                                                       const mirk_platform_message *message);
 /* Sets the fifth word of a dispatch entry: a bundle handler that comes before all others when the control message of
@@ -206,8 +207,9 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_set_bundle_handler(
 /* Takes a buffer of one or more whole frames. There must be one readable and writable byte behind it, as with every
  * buffer that frames are read from. Stops at the first frame that is bad or whose handler leaves an error; the report
  * (which may be null) then names the frame. Frames before it have been delivered. */
-MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void *buffer, uint32_t size,
-                                                             void *dispatch_ctx, mirk_platform_report *report);
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void *buffer,
+                                                             uint32_t size, void *dispatch_ctx,
+                                                             mirk_platform_report *report);
 
 /* What a bundle brought, in order of arrival; meant for a bundle handler while it runs. What is still on the list when
  * the handler returns is destroyed. */

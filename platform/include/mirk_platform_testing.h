@@ -1,6 +1,6 @@
 /*
- * mirk_platform_testing.h - knobs of the stand-in runtime for tests: failures on demand, captured trace, a log of what a
- * library asked the runtime. Programs have no use for this header.
+ * mirk_platform_testing.h - knobs of the stand-in runtime for tests: failures on demand, captured trace, a log of what
+ * a library asked the runtime. Programs have no use for this header.
  */
 #ifndef MIRK_PLATFORM_TESTING_H
 #define MIRK_PLATFORM_TESTING_H
@@ -37,16 +37,16 @@ MIRK_PLATFORM_API void mirk_platform_testing_set_fresh_fill(mirk_handle *h, uint
 /* ---- operations that fail --------------------------------------------------------------------------------------- */
 
 typedef enum mirk_platform_testing_operation {
-    MIRK_PLATFORM_TESTING_VARIANT_LOOKUP = 0,     /* mirk_domain_lookup_variant: writes the number, answers 0 */
-    MIRK_PLATFORM_TESTING_MESSAGE_LOOKUP = 1,     /* mirk_domain_lookup_message_ok: writes the number, answers 0 */
+    MIRK_PLATFORM_TESTING_VARIANT_LOOKUP = 0,      /* mirk_domain_lookup_variant: writes the number, answers 0 */
+    MIRK_PLATFORM_TESTING_MESSAGE_LOOKUP = 1,      /* mirk_domain_lookup_message_ok: writes the number, answers 0 */
     MIRK_PLATFORM_TESTING_OID_MAPPING_DESTROY = 2, /* mirk_request_oid_mapping_destroy: the mapping stays */
-    MIRK_PLATFORM_TESTING_HD_MAPPING_DESTROY = 3, /* mirk_hd_mapping_destroy: the entries stay */
-    MIRK_PLATFORM_TESTING_OID_REF_COUNT = 4,      /* mirklib_lookup_and_update_oid_ref_count: the count stays */
-    MIRK_PLATFORM_TESTING_OBJECT_REFERENCES = 5,  /* ip_address_get_object_references: nothing is written */
-    MIRK_PLATFORM_TESTING_RA_DATA = 6,            /* mirklib_get_ra_data: the number is the result */
-    MIRK_PLATFORM_TESTING_HEADER_MARSHAL = 7,     /* _mirk_message_header_marshal: nothing is written */
-    MIRK_PLATFORM_TESTING_VALIDATE_ADD = 8,       /* bundle_message_validate_add: nothing is entered */
-    MIRK_PLATFORM_TESTING_OPERATIONS = 9          /* how many there are */
+    MIRK_PLATFORM_TESTING_HD_MAPPING_DESTROY = 3,  /* mirk_hd_mapping_destroy: the entries stay */
+    MIRK_PLATFORM_TESTING_OID_REF_COUNT = 4,       /* mirklib_lookup_and_update_oid_ref_count: the count stays */
+    MIRK_PLATFORM_TESTING_OBJECT_REFERENCES = 5,   /* ip_address_get_object_references: nothing is written */
+    MIRK_PLATFORM_TESTING_RA_DATA = 6,             /* mirklib_get_ra_data: the number is the result */
+    MIRK_PLATFORM_TESTING_HEADER_MARSHAL = 7,      /* _mirk_message_header_marshal: nothing is written */
+    MIRK_PLATFORM_TESTING_VALIDATE_ADD = 8,        /* bundle_message_validate_add: nothing is entered */
+    MIRK_PLATFORM_TESTING_OPERATIONS = 9           /* how many there are */
 } mirk_platform_testing_operation;
 
 /* After `skip` calls that go well, the next `count` calls fail with the number. count 0 puts an end to it. */
@@ -60,28 +60,28 @@ MIRK_PLATFORM_API void mirk_platform_testing_set_sttr_mode(mirk_handle *h, uint3
 /* ---- log of what the library does on a handle ------------------------------------------------------------------- */
 
 typedef enum mirk_platform_testing_event_kind {
-    MIRK_PLATFORM_TESTING_WRITE_NOTIFY,   /* address, size, ctx_id */
-    MIRK_PLATFORM_TESTING_COUNT_NOTIFY,   /* address, value (delta), ctx_id */
-    MIRK_PLATFORM_TESTING_ALLOC,          /* address (null: failed), size, ctx_id */
-    MIRK_PLATFORM_TESTING_FREE,           /* address, size (0: never handed out), ctx_id */
-    MIRK_PLATFORM_TESTING_SYS_ALLOCATED,  /* address, size, value (the id) */
-    MIRK_PLATFORM_TESTING_CLEAR_ERROR,    /* nothing */
-    MIRK_PLATFORM_TESTING_STORE_ERROR,    /* value (number) */
-    MIRK_PLATFORM_TESTING_STORE_EPOCH,    /* value (number) */
-    MIRK_PLATFORM_TESTING_VARIANT_LOOKED_UP, /* address (type record), value (answer) */
-    MIRK_PLATFORM_TESTING_MESSAGE_LOOKED_UP, /* address (type record), value (answer) */
-    MIRK_PLATFORM_TESTING_ADJUST_VARIANT, /* address (object), ctx_id */
-    MIRK_PLATFORM_TESTING_OFFSET_GET,     /* address (object), value (offset), ctx_id */
-    MIRK_PLATFORM_TESTING_OFFSET_UPDATE,  /* address (object), value (offset), ctx_id */
-    MIRK_PLATFORM_TESTING_HD_DESTROY,     /* address (object), ctx_id */
-    MIRK_PLATFORM_TESTING_OID_DESTROY,    /* address (object), value (answer), ctx_id */
-    MIRK_PLATFORM_TESTING_OID_LOWERED,    /* address (oid), value (number), ctx_id */
-    MIRK_PLATFORM_TESTING_RA_GET,         /* address (object), value (result), ctx_id */
-    MIRK_PLATFORM_TESTING_RA_UPDATE,      /* address (object), value (RA value), size (RA byte), ctx_id */
-    MIRK_PLATFORM_TESTING_TYPE_GET,       /* type_store_get: address (answer), ctx_id */
-    MIRK_PLATFORM_TESTING_TYPE_PUT,       /* type_store_put: address (copy), ctx_id */
+    MIRK_PLATFORM_TESTING_WRITE_NOTIFY,        /* address, size, ctx_id */
+    MIRK_PLATFORM_TESTING_COUNT_NOTIFY,        /* address, value (delta), ctx_id */
+    MIRK_PLATFORM_TESTING_ALLOC,               /* address (null: failed), size, ctx_id */
+    MIRK_PLATFORM_TESTING_FREE,                /* address, size (0: never handed out), ctx_id */
+    MIRK_PLATFORM_TESTING_SYS_ALLOCATED,       /* address, size, value (the id) */
+    MIRK_PLATFORM_TESTING_CLEAR_ERROR,         /* nothing */
+    MIRK_PLATFORM_TESTING_STORE_ERROR,         /* value (number) */
+    MIRK_PLATFORM_TESTING_STORE_EPOCH,         /* value (number) */
+    MIRK_PLATFORM_TESTING_VARIANT_LOOKED_UP,   /* address (type record), value (answer) */
+    MIRK_PLATFORM_TESTING_MESSAGE_LOOKED_UP,   /* address (type record), value (answer) */
+    MIRK_PLATFORM_TESTING_ADJUST_VARIANT,      /* address (object), ctx_id */
+    MIRK_PLATFORM_TESTING_OFFSET_GET,          /* address (object), value (offset), ctx_id */
+    MIRK_PLATFORM_TESTING_OFFSET_UPDATE,       /* address (object), value (offset), ctx_id */
+    MIRK_PLATFORM_TESTING_HD_DESTROY,          /* address (object), ctx_id */
+    MIRK_PLATFORM_TESTING_OID_DESTROY,         /* address (object), value (answer), ctx_id */
+    MIRK_PLATFORM_TESTING_OID_LOWERED,         /* address (oid), value (number), ctx_id */
+    MIRK_PLATFORM_TESTING_RA_GET,              /* address (object), value (result), ctx_id */
+    MIRK_PLATFORM_TESTING_RA_UPDATE,           /* address (object), value (RA value), size (RA byte), ctx_id */
+    MIRK_PLATFORM_TESTING_TYPE_GET,            /* type_store_get: address (answer), ctx_id */
+    MIRK_PLATFORM_TESTING_TYPE_PUT,            /* type_store_put: address (copy), ctx_id */
     MIRK_PLATFORM_TESTING_VARIANT_INFO_UPDATE, /* address (copy), value (is-new), ctx_id */
-    MIRK_PLATFORM_TESTING_WORKSPACE       /* mirklib_get_handle_ws: address, size */
+    MIRK_PLATFORM_TESTING_WORKSPACE            /* mirklib_get_handle_ws: address, size */
 } mirk_platform_testing_event_kind;
 
 typedef struct mirk_platform_testing_event {
@@ -106,8 +106,8 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_testing_mark_integer(mirk_ha
 
 /* ---- captured trace (process-wide) ------------------------------------------------------------------------------ */
 
-/* Keeps every line of every level from now on, whatever levels are selected. Only lines of level 0 still go to the sink,
- * since the process is about to end. Starting again empties what was kept. */
+/* Keeps every line of every level from now on, whatever levels are selected. Only lines of level 0 still go to the
+ * sink, since the process is about to end. Starting again empties what was kept. */
 MIRK_PLATFORM_API void mirk_platform_testing_capture_start(void);
 /* What was kept stays readable. */
 MIRK_PLATFORM_API void mirk_platform_testing_capture_stop(void);

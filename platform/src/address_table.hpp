@@ -1,5 +1,5 @@
-// Tables keyed by address, for what the runtime knows about blocks and objects. They sit under obj_alloc and under every
-// state-byte access, so they neither throw nor allocate per entry.
+// Tables keyed by address, for what the runtime knows about blocks and objects. They sit under obj_alloc and under
+// every state-byte access, so they neither throw nor allocate per entry.
 #pragma once
 
 #include <cstddef>
@@ -107,9 +107,9 @@ private:
     int shift_ = 64;
 };
 
-// One value for each object. Objects are aligned to 8, so a stretch of 256 bytes holds at most 32 of them; the table keeps
-// one bucket a stretch. Forgetting everything inside a freed block costs a look at each stretch that it covers, which is
-// less than clearing the block cost when it was made, and nothing at all while the table is empty.
+// One value for each object. Objects are aligned to 8, so a stretch of 256 bytes holds at most 32 of them; the table
+// keeps one bucket a stretch. Forgetting everything inside a freed block costs a look at each stretch that it covers,
+// which is less than clearing the block cost when it was made, and nothing at all while the table is empty.
 template <typename Value>
 class ObjectTable {
     static_assert(std::is_trivially_copyable_v<Value>);

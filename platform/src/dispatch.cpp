@@ -81,7 +81,8 @@ uint32_t receive(const Delivery &to, DispatchEntry &entry, const Frame &frame) {
     if (entry.message.unmarshal_only != nullptr) {
         receive_plain(to, entry, frame, &err);
     } else {
-        entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, nullptr, frame.bytes, frame.size, nullptr, &err);
+        entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, nullptr, frame.bytes, frame.size, nullptr,
+                                &err);
     }
     to.handle.in_dispatch = outer;
     return err;

@@ -15,8 +15,7 @@ void set_header(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mirk_type_
     announce(&object->variant, 1);
     object->variant = variant;
     announce(&object->tinfo, sizeof object->tinfo);
-    object->tinfo =
-        h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, type, runtime_types_initialize) : type;
+    object->tinfo = h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, type, runtime_types_initialize) : type;
     announce(&object->obj_flag, 1);
     object->obj_flag |= flags;
 }

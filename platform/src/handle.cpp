@@ -67,7 +67,8 @@ size_t mirk_platform_handle_close(mirk_handle *h) {
     bundle_receive_message_list_destroy(h, h->default_id, &err);
     bundle_send_message_list_destroy(h, h->default_id, &err);
     const size_t left = handle->blocks.size();
-    handle->blocks.for_each([](uintptr_t address, const mirk::Block &) { std::free(reinterpret_cast<void *>(address)); });
+    handle->blocks.for_each(
+        [](uintptr_t address, const mirk::Block &) { std::free(reinterpret_cast<void *>(address)); });
     for (void *block : handle->system_blocks) std::free(block);
     return left;
 }

@@ -1,11 +1,11 @@
-// Bytes from a stream, cut into frames by their total_length. The buffer grows with what has arrived and not with what a
-// peer announces.
+// Bytes from a stream, cut into frames by their total_length. The buffer grows with what has arrived and not with what
+// a peer announces.
 #pragma once
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
-#include <algorithm>
 #include <utility>
 #include <vector>
 

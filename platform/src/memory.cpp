@@ -78,7 +78,8 @@ static int count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_
 
 static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
     auto &handle = *static_cast<Handle *>(sys_ctx);
-    void *block = failure_of(handle, MIRK_PLATFORM_TESTING_SYS_ALLOC).next() ? nullptr : mirk::keep_for_life(handle, size);
+    void *block =
+        failure_of(handle, MIRK_PLATFORM_TESTING_SYS_ALLOC).next() ? nullptr : mirk::keep_for_life(handle, size);
     handle.event(MIRK_PLATFORM_TESTING_SYS_ALLOCATED, block, size, id, 0);
     return block;
 }

@@ -72,7 +72,8 @@ bool give_up_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
         return false;
     }
     if (gone == 0) {
-        trace(6, "(info): ip_address destroy: Object has references and will be cleaned up when all of them are released");
+        trace(6,
+              "(info): ip_address destroy: Object has references and will be cleaned up when all of them are released");
         return false;
     }
     trace(7, "(debug): ip_address destroy: Successfully removed OID mapping");

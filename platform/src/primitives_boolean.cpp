@@ -34,8 +34,7 @@ uint8_t mirk_boolean_get_value(mirk_handle *, uint32_t, mirk_boolean *field, uin
     return *err != 0 || field == nullptr ? uint8_t{0} : field->value;
 }
 
-void mirk_boolean_set(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const mirk_boolean *source,
-                      uint32_t *err) {
+void mirk_boolean_set(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const mirk_boolean *source, uint32_t *err) {
     store(h, ctx_id, field, source != nullptr ? &source->value : nullptr, err);
 }
 
@@ -71,8 +70,8 @@ uint32_t mirk_boolean_marshal(mirk_handle *, uint32_t, void *buffer, mirk_boolea
     return 2;
 }
 
-uint32_t mirk_boolean_unmarshal(mirk_handle *, uint32_t, void *buffer, mirk_boolean *field, int32_t remaining,
-                                uint32_t, uint32_t *err) {
+uint32_t mirk_boolean_unmarshal(mirk_handle *, uint32_t, void *buffer, mirk_boolean *field, int32_t remaining, uint32_t,
+                                uint32_t *err) {
     if (!mirk::can_move(buffer, field, 2, remaining, err)) return 0;
     const auto *bytes = static_cast<const uint8_t *>(buffer);
     const auto variant = static_cast<int8_t>(bytes[0]);

@@ -57,36 +57,36 @@ uint32_t take_mark(mirk_handle *h, const void *field) {
 
 }  // namespace
 
-#define MIRK_DEFINE_INTEGER(K, T)                                                                                      \
-    T *K##_get(mirk_handle *, uint32_t, T *field, uint32_t *err) { return *err != 0 ? nullptr : field; }               \
-    T K##_get_value(mirk_handle *, uint32_t, T *field, uint32_t *err) { return read<T>(field, err); }                  \
-    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {                          \
-        store<T>(h, ctx_id, field, source, err);                                                                       \
-    }                                                                                                                  \
-    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {                            \
-        store<T>(h, ctx_id, field, &value, err);                                                                       \
-    }                                                                                                                  \
-    uint32_t K##_len(mirk_handle *, uint32_t, T *) { return sizeof(T); }                                               \
-    uint32_t K##_marshal(mirk_handle *, uint32_t, void *buffer, T *field, int32_t remaining, uint32_t *err) {          \
-        return mirk::marshal_number<T>(buffer, field, remaining, err);                                                 \
-    }                                                                                                                  \
-    uint32_t K##_unmarshal(mirk_handle *, uint32_t, void *buffer, T *field, int32_t remaining, uint32_t,               \
-                           uint32_t *err) {                                                                            \
-        return mirk::unmarshal_number<T>(buffer, field, remaining, err);                                               \
-    }                                                                                                                  \
-    uint32_t K##_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, T *field,             \
-                       int32_t remaining, uint32_t *err) {                                                             \
-        return print<T>(buffer, indent, name, #K, field, remaining, err);                                              \
-    }                                                                                                                  \
-    uint32_t K##_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, T *field, int32_t remaining,          \
-                        uint8_t state, uint32_t *err) {                                                                \
-        return to_xml<T>(name, buffer, field, remaining, state, err);                                                  \
-    }                                                                                                                  \
-    void K##_from_xml(mirk_handle *, uint32_t, const char *path, void *document, T *field, uint32_t *err, char *,      \
-                      uint32_t) {                                                                                      \
-        from_xml<T>(path, document, field, err);                                                                       \
-    }                                                                                                                  \
-    uint32_t K##_hash(const T *field, uint32_t seed) { return hash<T>(field, seed); }                                  \
+#define MIRK_DEFINE_INTEGER(K, T)                                                                                 \
+    T *K##_get(mirk_handle *, uint32_t, T *field, uint32_t *err) { return *err != 0 ? nullptr : field; }          \
+    T K##_get_value(mirk_handle *, uint32_t, T *field, uint32_t *err) { return read<T>(field, err); }             \
+    void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {                     \
+        store<T>(h, ctx_id, field, source, err);                                                                  \
+    }                                                                                                             \
+    void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {                       \
+        store<T>(h, ctx_id, field, &value, err);                                                                  \
+    }                                                                                                             \
+    uint32_t K##_len(mirk_handle *, uint32_t, T *) { return sizeof(T); }                                          \
+    uint32_t K##_marshal(mirk_handle *, uint32_t, void *buffer, T *field, int32_t remaining, uint32_t *err) {     \
+        return mirk::marshal_number<T>(buffer, field, remaining, err);                                            \
+    }                                                                                                             \
+    uint32_t K##_unmarshal(mirk_handle *, uint32_t, void *buffer, T *field, int32_t remaining, uint32_t,          \
+                           uint32_t *err) {                                                                       \
+        return mirk::unmarshal_number<T>(buffer, field, remaining, err);                                          \
+    }                                                                                                             \
+    uint32_t K##_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, T *field,        \
+                       int32_t remaining, uint32_t *err) {                                                        \
+        return print<T>(buffer, indent, name, #K, field, remaining, err);                                         \
+    }                                                                                                             \
+    uint32_t K##_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, T *field, int32_t remaining,     \
+                        uint8_t state, uint32_t *err) {                                                           \
+        return to_xml<T>(name, buffer, field, remaining, state, err);                                             \
+    }                                                                                                             \
+    void K##_from_xml(mirk_handle *, uint32_t, const char *path, void *document, T *field, uint32_t *err, char *, \
+                      uint32_t) {                                                                                 \
+        from_xml<T>(path, document, field, err);                                                                  \
+    }                                                                                                             \
+    uint32_t K##_hash(const T *field, uint32_t seed) { return hash<T>(field, seed); }                             \
     uint32_t K##_backpropagate(mirk_handle *h, uint32_t, T *field, void *) { return take_mark(h, field); }
 
 extern "C" {

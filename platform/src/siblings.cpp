@@ -11,10 +11,10 @@ mirk_bundle_handler comm, defs, shared, stats, intf, cond, view;
 
 }  // namespace
 
-#define VELD_DEFINE(M)                                                                        \
-    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler) {     \
-        return std::exchange(M, handler);                                                     \
-    }                                                                                         \
+#define VELD_DEFINE(M)                                                                    \
+    mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler) { \
+        return std::exchange(M, handler);                                                 \
+    }                                                                                     \
     mirk_bundle_handler veld_##M##_bundle_handler_unregister(void) { return std::exchange(M, nullptr); }
 
 extern "C" {

@@ -31,12 +31,23 @@ void put_escaped(TextSink &sink, std::string_view text) {
     while (!text.empty()) {
         const size_t length = xml_character(text);
         switch (length == 0 ? '?' : text[0]) {
-            case '&': sink.put("&amp;"); break;
-            case '<': sink.put("&lt;"); break;
-            case '>': sink.put("&gt;"); break;
-            case '"': sink.put("&quot;"); break;
-            case '\r': sink.put("&#13;"); break;
-            default: sink.put(length == 0 ? "?" : text.substr(0, length));
+            case '&':
+                sink.put("&amp;");
+                break;
+            case '<':
+                sink.put("&lt;");
+                break;
+            case '>':
+                sink.put("&gt;");
+                break;
+            case '"':
+                sink.put("&quot;");
+                break;
+            case '\r':
+                sink.put("&#13;");
+                break;
+            default:
+                sink.put(length == 0 ? "?" : text.substr(0, length));
         }
         text.remove_prefix(length == 0 ? 1 : length);
     }

@@ -29,8 +29,8 @@ private:
     size_t length_;
 };
 
-// Text that is measured first and written afterwards, so that it goes out whole or not at all: the same walk runs twice,
-// the first time without a buffer.
+// Text that is measured first and written afterwards, so that it goes out whole or not at all: the same walk runs
+// twice, the first time without a buffer.
 class TextSink {
 public:
     explicit TextSink(char *to) : to_(to) {}

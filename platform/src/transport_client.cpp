@@ -27,8 +27,8 @@ struct Outcome {
 
 Clock::time_point deadline(uint32_t timeout_ms) { return Clock::now() + std::chrono::milliseconds(timeout_ms); }
 
-// Waits for the one operation that is under way. One that is not done in time is cancelled; it may still have ended well
-// just then.
+// Waits for the one operation that is under way. One that is not done in time is cancelled; it may still have ended
+// well just then.
 void wait(mirk_platform_client &client, Clock::time_point until, Outcome *outcome) {
     client.context.restart();
     client.context.run_until(until);
@@ -79,10 +79,14 @@ mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, v
         const Clock::time_point until = deadline(timeout_ms);
         for (;;) {
             switch (client->inbox.next(frame, size)) {
-                case mirk::Inbox::Cut::frame: return 0;
-                case mirk::Inbox::Cut::bad: return EBADMSG;
-                case mirk::Inbox::Cut::too_long: return EMSGSIZE;
-                case mirk::Inbox::Cut::more_needed: break;
+                case mirk::Inbox::Cut::frame:
+                    return 0;
+                case mirk::Inbox::Cut::bad:
+                    return EBADMSG;
+                case mirk::Inbox::Cut::too_long:
+                    return EMSGSIZE;
+                case mirk::Inbox::Cut::more_needed:
+                    break;
             }
             const auto [at, room] = client->inbox.room();
             Outcome outcome;

@@ -1,5 +1,5 @@
-// The serving side of the frame transport. A session works on any stream socket; only the acceptor knows that it listens
-// on a socket file, so that another kind of acceptor can feed sessions in the same way.
+// The serving side of the frame transport. A session works on any stream socket; only the acceptor knows that it
+// listens on a socket file, so that another kind of acceptor can feed sessions in the same way.
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -63,7 +63,10 @@ namespace {
 class Session : public std::enable_shared_from_this<Session> {
 public:
     Session(mirk_platform_server &server, mirk_platform_peer peer, Socket socket)
-        : server_(server), peer_(peer), socket_(std::move(socket)), idle_(server.context),
+        : server_(server),
+          peer_(peer),
+          socket_(std::move(socket)),
+          idle_(server.context),
           inbox_(server.options.frame_limit) {}
 
     void start() {

@@ -81,9 +81,9 @@ TEST(Address, EveryValueSurvivesARoundThroughXml) {
 
 TEST(Address, RefusesWhatIsNoAddress) {
     ip_address address = make(AF_INET, 8, 0, 0x0a000000);
-    for (const char *bad :
-         {"", "10.0.0.1", "10.0.0.1/", "10.0.0.1/256", "10.0.0/8", "10.0.0.1/8/8", "::1%/64", "::1%65536/64", "unset/0",
-          "Unset", "1,2,3/4", "256,0,0,0,0,0/0", "1,0,0,0,0,0,0/0", "1,0,0,0,0,/0", "2001:db8:::/32", "x/1", "10.0.0.1 /8"}) {
+    for (const char *bad : {"", "10.0.0.1", "10.0.0.1/", "10.0.0.1/256", "10.0.0/8", "10.0.0.1/8/8", "::1%/64",
+                            "::1%65536/64", "unset/0", "Unset", "1,2,3/4", "256,0,0,0,0,0/0", "1,0,0,0,0,0,0/0",
+                            "1,0,0,0,0,/0", "2001:db8:::/32", "x/1", "10.0.0.1 /8"}) {
         EXPECT_EQ(read(bad, &address), 22u) << bad;
     }
     EXPECT_EQ(address.word[0], 0x0a000000u);
@@ -133,8 +133,8 @@ TEST(AddressWire, IsARecordFrameOf26Bytes) {
     EXPECT_EQ(ip_address_len(h, 7, &source.address), 26u);
     EXPECT_EQ(ip_address_len(h, 7, nullptr), 26u);
     ASSERT_EQ(ip_address_marshal(h, 7, buffer, &source.address, 26, &err), 26u);
-    const uint8_t expected[26] = {0, 0, 0, 0, 0, 24, 10, 32, 1, 2, 0x20, 0x01, 0x0d, 0xb8,
-                                  0, 0, 0, 0, 0, 0,  0,  0,  5, 6, 7,    8};
+    const uint8_t expected[26] = {0,    0, 0, 0, 0, 24, 10, 32, 1, 2, 0x20, 0x01, 0x0d,
+                                  0xb8, 0, 0, 0, 0, 0,  0,  0,  0, 5, 6,    7,    8};
     EXPECT_EQ(std::memcmp(buffer, expected, sizeof expected), 0);
     ASSERT_EQ(ip_address_unmarshal(h, 7, buffer, &target.address, 26, 0, &err), 26u);
     EXPECT_EQ(err, 0u);
@@ -231,7 +231,8 @@ TEST(AddressWire, AnyBytesAreSafe) {
             Placed target(h);
             const size_t size = seed % 45;
             std::unique_ptr<uint8_t[]> frame(new uint8_t[size == 0 ? 1 : size]);
-            for (size_t i = 0; i < size; ++i) frame[i] = static_cast<uint8_t>((seed = seed * 1664525 + 1013904223) >> 24);
+            for (size_t i = 0; i < size; ++i)
+                frame[i] = static_cast<uint8_t>((seed = seed * 1664525 + 1013904223) >> 24);
             seed = seed * 1664525 + 1013904223;
             uint32_t err = 0;
             ip_address_unmarshal(h, 7, frame.get(), &target.address, static_cast<int32_t>(size), 0, &err);

@@ -65,7 +65,8 @@ void handle_message(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *m
     if (calls.handler_error != 38) h->obj_free(h->mem_ctx, ctx_id, message);
 }
 
-uint32_t start(mirk_handle *h, uint32_t, void *, void **, void *, uint32_t size, mirk_message_handler handler, uint32_t *) {
+uint32_t start(mirk_handle *h, uint32_t, void *, void **, void *, uint32_t size, mirk_message_handler handler,
+               uint32_t *) {
     EXPECT_EQ(handler, nullptr);
     EXPECT_EQ(size, 43u);
     h->recv_bundle_open = 1;

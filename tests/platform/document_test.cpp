@@ -45,7 +45,8 @@ TEST(Document, SimplePathsAgreeWithXPath) {
     // The same question in another spelling goes to the XPath engine.
     Document d("<r><x>0</x><r><x>1</x><r><x>2</x><x>3</x></r><x>4</x></r><x>5</x><r/><x>6</x></r>");
     ASSERT_NE(static_cast<void *>(d), nullptr);
-    for (const char *rest : {"/x", "/x[1]", "/x[2]", "/x[3]", "/x[4]", "/r", "/r/x", "/r[1]/x", "/r[2]", "/r/r/x[2]", "/r/x[2]"}) {
+    for (const char *rest :
+         {"/x", "/x[1]", "/x[2]", "/x[3]", "/x[4]", "/r", "/r/x", "/r[1]/x", "/r[2]", "/r/r/x[2]", "/r/x[2]"}) {
         const std::string simple = std::string("//r") + rest;
         const std::string engine = std::string("(//r") + rest + ")";
         EXPECT_EQ(count(d, simple), count(d, engine)) << simple;

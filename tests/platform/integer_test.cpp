@@ -5,22 +5,22 @@ using test::Handle;
 namespace {
 
 // One row for each kind, so that every test runs over all four.
-#define KIND(K, T)                                                                                    \
-    struct K {                                                                                        \
-        using type = T;                                                                               \
-        static constexpr auto get = K##_get;                                                          \
-        static constexpr auto get_value = K##_get_value;                                              \
-        static constexpr auto set = K##_set;                                                          \
-        static constexpr auto set_value = K##_set_value;                                              \
-        static constexpr auto len = K##_len;                                                          \
-        static constexpr auto marshal = K##_marshal;                                                  \
-        static constexpr auto unmarshal = K##_unmarshal;                                              \
-        static constexpr auto print = K##_print;                                                      \
-        static constexpr auto to_xml = K##_to_xml;                                                    \
-        static constexpr auto from_xml = K##_from_xml;                                                \
-        static constexpr auto hash = K##_hash;                                                        \
-        static constexpr auto backpropagate = K##_backpropagate;                                      \
-        static constexpr const char *name = #K;                                                       \
+#define KIND(K, T)                                               \
+    struct K {                                                   \
+        using type = T;                                          \
+        static constexpr auto get = K##_get;                     \
+        static constexpr auto get_value = K##_get_value;         \
+        static constexpr auto set = K##_set;                     \
+        static constexpr auto set_value = K##_set_value;         \
+        static constexpr auto len = K##_len;                     \
+        static constexpr auto marshal = K##_marshal;             \
+        static constexpr auto unmarshal = K##_unmarshal;         \
+        static constexpr auto print = K##_print;                 \
+        static constexpr auto to_xml = K##_to_xml;               \
+        static constexpr auto from_xml = K##_from_xml;           \
+        static constexpr auto hash = K##_hash;                   \
+        static constexpr auto backpropagate = K##_backpropagate; \
+        static constexpr const char *name = #K;                  \
     }
 KIND(u_int8, uint8_t);
 KIND(u_int16, uint16_t);
@@ -156,14 +156,15 @@ TYPED_TEST(Integer, WritesAnElement) {
     T field = static_cast<T>(~T{0});
     const std::string text = "<size state=\"2\">" + std::to_string(field) + "</size>";
     test::Guarded<64> buffer;
-    EXPECT_EQ(TypeParam::to_xml(this->h, 7, "size", buffer.at(), &field, static_cast<int32_t>(text.size()), 2,
-                                &this->err),
-              0u);
+    EXPECT_EQ(
+        TypeParam::to_xml(this->h, 7, "size", buffer.at(), &field, static_cast<int32_t>(text.size()), 2, &this->err),
+        0u);
     EXPECT_EQ(this->err, 90u);
     this->err = 0;
     EXPECT_EQ(TypeParam::to_xml(this->h, 7, "size", buffer.at(), &field, 64, 2, &this->err), text.size());
     EXPECT_STREQ(buffer.at(), text.c_str());
-    EXPECT_EQ(TypeParam::to_xml(this->h, 7, "a", buffer.at(), &field, 64, 0, &this->err), 7 + std::to_string(field).size());
+    EXPECT_EQ(TypeParam::to_xml(this->h, 7, "a", buffer.at(), &field, 64, 0, &this->err),
+              7 + std::to_string(field).size());
 }
 
 TYPED_TEST(Integer, ReadsDecimalDigitsWithinItsWidth) {

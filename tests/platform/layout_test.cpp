@@ -17,7 +17,8 @@ static_assert(offsetof(mirk_object, obj_flag) == 10);
 static_assert(sizeof(mirk_boolean) == 16 && offsetof(mirk_boolean, value) == 11);
 static_assert(sizeof(ip_address) == 40 && alignof(ip_address) == 8);
 static_assert(offsetof(ip_address, af) == 11 && offsetof(ip_address, prefix_len) == 12);
-static_assert(offsetof(ip_address, scope) == 14 && offsetof(ip_address, word) == 16 && offsetof(ip_address, slop) == 32);
+static_assert(offsetof(ip_address, scope) == 14 && offsetof(ip_address, word) == 16 &&
+              offsetof(ip_address, slop) == 32);
 static_assert(sizeof(mirk_message_header) == 16 && alignof(mirk_message_header) == 4);
 static_assert(offsetof(mirk_message_header, fill) == 1 && offsetof(mirk_message_header, sttr) == 7);
 static_assert(offsetof(mirk_message_header, stamp) == 8 && offsetof(mirk_message_header, total_length) == 12);

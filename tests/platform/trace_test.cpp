@@ -72,7 +72,8 @@ TEST(Trace, ReadsLevelLists) {
     EXPECT_EQ(mask, 0xffffffffu);
     EXPECT_EQ(mirk_platform_trace_parse_levels("none", &mask), 0u);
     EXPECT_EQ(mask, 0u);
-    for (const char *bad : {"", "3,", "32", "x", "3 6"}) EXPECT_EQ(mirk_platform_trace_parse_levels(bad, &mask), 22u) << bad;
+    for (const char *bad : {"", "3,", "32", "x", "3 6"})
+        EXPECT_EQ(mirk_platform_trace_parse_levels(bad, &mask), 22u) << bad;
     EXPECT_EQ(mirk_platform_trace_parse_levels(nullptr, &mask), 22u);
 }
 

@@ -126,7 +126,8 @@ TEST(Transport, DisconnectsRubbishWithTheReasonTraced) {
     Echo echo;
     std::string zero_length = frame(43, 0);
     zero_length[15] = 0;
-    for (const std::string &rubbish : {std::string("hello"), std::string(1, '\0'), zero_length, std::string(5000, 'z')}) {
+    for (const std::string &rubbish :
+         {std::string("hello"), std::string(1, '\0'), zero_length, std::string(5000, 'z')}) {
         Client client(echo.path);
         client.send(rubbish);
         EXPECT_EQ(client.next(), "error 104");
