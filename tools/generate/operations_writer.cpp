@@ -88,8 +88,10 @@ std::string catalogue_fields(const std::string &name) {
            name + "_luid_text;\n    o.catalogue_name = message_" + name + "_name;\n";
 }
 
-std::string table(const char *type, const std::string &name, const std::string &rows) {
-    return std::string("const ") + type + " " + name + "[] = {\n" + rows + "};\n\n";
+// Made on first use, so that other static objects may be initialised from the tables.
+std::string table(const std::string &type, const std::string &name, const std::string &rows) {
+    return "std::span<const " + type + "> " + name + "() {\n    static const " + type + " all[] = {\n" + rows +
+           "    };\n    return all;\n}\n\n";
 }
 
 }  // namespace
@@ -108,10 +110,11 @@ Files write_operations() {
                     "];\n        o.member = &schema::" + name + ".members[" + std::to_string(i) + "];\n" +
                     fields({.record = r, .member = i}, class_of(r->members[i]), "        ") + "    }\n";
         }
-        text += "    return all;\n}\nconst auto " + name + "_members = members_of_" + name + "();\n\n";
+        text += "    return all;\n}\n\n";
         text += "RecordOperations record_" + name + "() {\n    RecordOperations o{};\n    o.record = &schema::" + name +
-                ";\n    o.type = &_" + name + "_type_info_internal;\n    o.members = " + name + "_members;\n" +
-                fields({.record = r}, Applies::record, "    ") + "    return o;\n}\n\n";
+                ";\n    o.type = &_" + name + "_type_info_internal;\n    static const auto members = members_of_" +
+                name + "();\n    o.members = members;\n" + fields({.record = r}, Applies::record, "    ") +
+                "    return o;\n}\n\n";
         record_rows += "    record_" + name + "(),\n";
     }
     for (const Enumeration *e : enumerations) {

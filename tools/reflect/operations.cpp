@@ -19,10 +19,10 @@ const Operations *find(std::span<const Operations> all, auto &&matches) {
 
 }  // namespace
 
-std::span<const RecordOperations> records() { return all_records; }
-std::span<const EnumerationOperations> enumerations() { return all_enumerations; }
-std::span<const MessageOperations> messages() { return all_messages; }
-std::span<const BundleOperations> bundles() { return all_bundles; }
+std::span<const RecordOperations> records() { return all_records(); }
+std::span<const EnumerationOperations> enumerations() { return all_enumerations(); }
+std::span<const MessageOperations> messages() { return all_messages(); }
+std::span<const BundleOperations> bundles() { return all_bundles(); }
 
 const RecordOperations &operations_of(const schema::Record &record) {
     return *find(records(), [&](const auto &o) { return o.record == &record; });
