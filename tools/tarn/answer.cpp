@@ -1,0 +1,164 @@
+// tarn answer: serves snapshots of bundles to whoever asks over a socket.
+#include <csignal>
+#include <cstdio>
+#include <memory>
+
+#include "answering.h"
+#include "commands.h"
+#include "mirk_platform.h"
+
+namespace tarn::tool {
+
+namespace {
+
+struct Options {
+    std::string socket;
+    std::vector<std::string> served;
+    Fault fault = Fault::none;
+    unsigned peers = 256, idle = 60;
+    bool lenient = false, verbose = false;
+};
+
+class Server {
+public:
+    explicit Server(const Options &options) : options_(options) {}
+    ~Server() { mirk_platform_server_close(server_); }
+    Server(const Server &) = delete;
+    Server &operator=(const Server &) = delete;
+
+    void load() {
+        for (const std::string &served : options_.served) {
+            const std::size_t equals = served.find('=');
+            if (equals == std::string::npos || equals + 1 == served.size()) {
+                throw Failure(Exit::input, "\"" + served + "\" is not of the form BUNDLE=FILE");
+            }
+            answerer_.add(bundle_named(served.substr(0, equals)), served.substr(equals + 1), options_.lenient);
+        }
+    }
+    void open();
+    void run();
+
+private:
+    void on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size);
+    void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence);
+    void note(mirk_platform_peer peer, const std::string &sentence) const {
+        if (options_.verbose)
+            std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), sentence.c_str());
+    }
+
+    const Options &options_;
+    Answerer answerer_;
+    mirk_platform_server *server_ = nullptr;
+    std::uint32_t answers_ = 0;
+};
+
+mirk_platform_server *server_to_stop = nullptr;
+
+extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop); }
+
+void Server::open() {
+    mirk_platform_server_options settings;
+    mirk_platform_server_options_init(&settings);
+    settings.peer_limit = options_.peers;
+    settings.idle_ms = options_.idle * 1000;
+    settings.user = this;
+    settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
+                           std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
+    settings.on_connect = [](void *user, mirk_platform_server *, mirk_platform_peer peer) {
+        static_cast<Server *>(user)->note(peer, "connected");
+    };
+    settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Server *>(user)->note(peer, std::string("gone: ") + reason);
+    };
+    if (const mirk_platform_error error = mirk_platform_server_open(options_.socket.c_str(), &settings, &server_);
+        error != 0) {
+        throw Failure(Exit::environment, "cannot listen on " + options_.socket + ": " + error_text(error));
+    }
+}
+
+void Server::run() {
+    server_to_stop = server_;
+    struct sigaction action {};
+    action.sa_handler = stop_on_signal;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    std::string names;
+    for (const std::string &name : answerer_.names()) names += (names.empty() ? "" : ", ") + name;
+    std::printf("answering on %s: %s\n", options_.socket.c_str(), names.c_str());
+    std::fflush(stdout);
+    const mirk_platform_error error = mirk_platform_server_run(server_);
+    if (error != 0) throw Failure(Exit::environment, "serving ended: " + error_text(error));
+    std::printf("stopped after %u answers\n", answers_);
+}
+
+void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence) {
+    note(peer, "refused: " + sentence);
+    std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+    const std::uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, number, sentence.c_str(), nullptr);
+    mirk_platform_server_send(server_, peer, frame, size);
+}
+
+void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size) {
+    mirk_platform_request request;
+    const mirk_platform_error error = mirk_platform_request_decode(frame, size, &request);
+    if (error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
+        refuse(peer, error != 0 ? error : EBADMSG, "this is no request");
+        mirk_platform_server_disconnect(server_, peer, "sent a frame that is no request");
+        return;
+    }
+    const auto *bundle = reflect::find_bundle(request.bundle);
+    if (bundle == nullptr) return refuse(peer, ENOENT, "there is no bundle \"" + std::string(request.bundle) + "\"");
+    if (!answerer_.has(*bundle)) {
+        return refuse(peer, ENOENT, std::string(bundle->bundle->name) + " is not served here");
+    }
+    const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
+    note(peer, "asks for " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
+    try {
+        const Bytes frames = answerer_.answer(*bundle, tracked, ++answers_, options_.fault);
+        mirk_platform_server_send(server_, peer, frames.data(), frames.size());
+        if (options_.fault == Fault::cut) mirk_platform_server_disconnect(server_, peer, "cut on purpose");
+    } catch (const std::exception &failure) {
+        refuse(peer, EIO, failure.what());
+    }
+}
+
+const std::map<std::string, Fault> fault_names = {
+    {"abort", Fault::abort},         {"second-start", Fault::second_start},
+    {"foreign", Fault::foreign},     {"cut", Fault::cut},
+    {"unknown", Fault::unknown},     {"rubbish", Fault::rubbish},
+    {"no-commit", Fault::no_commit}, {"silent", Fault::silent}};
+
+}  // namespace
+
+void add_answer(CLI::App &app, Context &) {
+    auto options = std::make_shared<Options>();
+    CLI::App *command = app.add_subcommand("answer", "serve snapshots of bundles over a socket");
+    command->add_option("--socket", options->socket, "socket file to listen on")->required();
+    command
+        ->add_option("served", options->served,
+                     "BUNDLE=FILE: a bundle by name or short form, and its messages as XML, JSON or frames")
+        ->required();
+    command->add_option("--peers", options->peers, "how many peers are served at once")->capture_default_str();
+    command->add_option("--idle", options->idle, "seconds after which a silent peer is turned out; 0: never")
+        ->capture_default_str();
+    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
+    command->add_flag("-v,--verbose", options->verbose, "tell of every peer, and print every trace line");
+    command->add_option("--fault", options->fault, "answer wrongly on purpose, to see how the asking side copes")
+        ->transform(CLI::CheckedTransformer(fault_names)
+                        .description("{abort,cut,foreign,no-commit,rubbish,second-start,silent,unknown}"));
+    command->footer(
+        "Prints one line when it is ready. SIGINT or SIGTERM ends it with exit code 0.\n\n"
+        "Examples:\n"
+        "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
+        "  tarn answer --socket /tmp/tarn.sock lumo_tarn_dp_tt_cfg_rsp=tables.json dp-intf=intf.xml\n"
+        "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
+    command->callback([options] {
+        set_up_trace(options->verbose);
+        Server server(*options);
+        server.load();
+        server.open();
+        server.run();
+    });
+}
+
+}  // namespace tarn::tool

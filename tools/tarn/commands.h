@@ -1,0 +1,17 @@
+// The subcommands. Each adds itself to the command line, and sets the exit code when it has run.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "failure.h"
+
+namespace tarn::tool {
+
+struct Context {
+    Exit exit = Exit::done;
+};
+
+void add_answer(CLI::App &app, Context &context);
+void add_show(CLI::App &app, Context &context);
+
+}  // namespace tarn::tool

@@ -1,0 +1,48 @@
+// tarn: shows, reads, writes and takes apart what the tarn feature says about itself.
+#include <cstdio>
+#include <exception>
+
+#include "commands.h"
+#include "files.h"
+
+namespace {
+
+using namespace tarn::tool;
+
+int complain(const char *sentence, Exit exit) {
+    std::fflush(stdout);
+    std::fprintf(stderr, "tarn: %s\n", sentence);
+    return static_cast<int>(exit);
+}
+
+int run(int argc, char **argv) {
+    CLI::App app("Shows, reads, writes and takes apart the answers of the tarn feature.", "tarn");
+    Context context;
+    app.require_subcommand(1);
+    app.footer(
+        "Exit codes: 0 done, 1 different or not found, 2 usage or input, 3 environment.\n"
+        "\"tarn COMMAND --help\" tells about one command and gives examples.");
+    add_answer(app, context);
+    add_show(app, context);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return app.exit(error) == 0 ? 0 : static_cast<int>(Exit::input);
+    }
+    flush_output();
+    return static_cast<int>(context.exit);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    try {
+        return run(argc, argv);
+    } catch (const Failure &failure) {
+        return complain(failure.what(), failure.exit());
+    } catch (const std::bad_alloc &) {
+        return complain("out of memory", Exit::environment);
+    } catch (const std::exception &error) {
+        return complain(error.what(), Exit::environment);
+    }
+}

@@ -1,0 +1,44 @@
+#include "output.h"
+
+#include <cctype>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "json_form.h"
+
+namespace tarn::tool {
+
+std::string rendered(const Handle &handle, const Item &item, Style style) {
+    const reflect::MessageOperations &operations = *item.identity.operations;
+    switch (style) {
+        case Style::text:
+            return text_of(handle, operations, item.object());
+        case Style::xml:
+            return xml_of(handle, operations, item.object()) + "\n";
+        case Style::json:
+            break;
+    }
+    return json_of(handle, item.identity, item.object()).dump() + "\n";
+}
+
+std::string hex_dump(std::string_view bytes) {
+    std::string dump;
+    for (std::size_t at = 0; at < bytes.size(); at += 16) {
+        char offset[24];
+        std::snprintf(offset, sizeof offset, "%08zx ", at);
+        dump += offset;
+        const std::string_view line = bytes.substr(at, 16);
+        for (std::size_t i = 0; i < 16; ++i) {
+            if (i == 8) dump += ' ';
+            char pair[8] = "   ";
+            if (i < line.size()) std::snprintf(pair, sizeof pair, " %02x", static_cast<unsigned char>(line[i]));
+            dump += pair;
+        }
+        dump += "  |";
+        for (const char c : line) dump += std::isprint(static_cast<unsigned char>(c)) != 0 ? c : '.';
+        dump += "|\n";
+    }
+    return dump;
+}
+
+}  // namespace tarn::tool
