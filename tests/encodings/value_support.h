@@ -40,6 +40,19 @@ inline reference::Record random_value(std::string_view record, std::uint64_t see
     return value;
 }
 
+// Between them every kind of member, at some depth.
+inline std::vector<reference::Record> rich_values() {
+    reference::Record processor("lumo_tarn_lumo_info");
+    processor["direction"].number = 2;
+    processor["ha_state"].number = 77;
+    processor.append("static_exmem", 5) = random_value("lumo_tarn_static_exmem_info", 11);
+    reference::Record &dyn = processor.append("dyn_exmem", 0);
+    dyn.append("exmem", 1);
+    dyn.append("exmem", 2).variant = -1;
+    return {processor, random_value("lumo_tarn_dp_appl_data", 9, {.min_elements = 1, .max_elements = 1, .min_text = 9}),
+            random_value("lumo_tarn_dp_tc", 4)};
+}
+
 class Document {
 public:
     explicit Document(const std::string &text) {
