@@ -1,0 +1,246 @@
+// What the tests of messages share: captured trace, message objects as they lie in memory, payloads, buffers.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bridge/bridge.h"
+#include "lumo_ui_tarn.h"
+#include "mirk_platform_testing.h"
+#include "reference/codec.h"
+#include "reference/lengths.h"
+#include "reference/tables.h"
+#include "reference/text.h"
+#include "tools/reflect/operations.h"
+
+namespace messaging {
+
+using bridge::Handle;
+using bridge::kEveryTracking;
+using bridge::kId;
+using bridge::Tracking;
+using reference::Bytes;
+using tarn::reflect::BundleOperations;
+using tarn::reflect::MessageOperations;
+using tarn::reflect::RecordOperations;
+
+// A message object; clients see the name of its type alone.
+struct Message {
+    mirk_type_info *tinfo;
+    std::int8_t variant, home_variant;
+    std::uint8_t obj_flag;
+    mirk_message_header header;
+    void *payload;
+};
+static_assert(sizeof(Message) == 40 && offsetof(Message, header) == 12 && offsetof(Message, payload) == 32);
+
+inline Message *object(void *message) { return static_cast<Message *>(message); }
+inline const RecordOperations &payload_of(const MessageOperations &m) {
+    return tarn::reflect::operations_of(m.message->payload);
+}
+inline std::string payload_name(const MessageOperations &m) { return std::string(m.message->payload.name); }
+inline mirk_variant_entry counters(const MessageOperations &m) { return m.type->variant_info->entries[0]; }
+
+constexpr std::uint8_t kStateTracked = 8;
+constexpr std::uint32_t kHeaderSize = 27, kFrameHead = 43;
+
+// ---- control messages ----
+
+struct Control {
+    const BundleOperations *bundle;
+    std::string_view kind;
+    const MessageOperations *operations;
+
+    const MessageOperations *operator->() const { return operations; }
+    std::string bundle_name() const { return std::string(bundle->bundle->name); }
+};
+
+inline std::vector<Control> controls() {
+    std::vector<Control> all;
+    for (const BundleOperations &b : tarn::reflect::bundles()) {
+        all.push_back({&b, "start", &b.start});
+        all.push_back({&b, "abort", &b.abort});
+        all.push_back({&b, "commit", &b.commit});
+    }
+    return all;
+}
+
+// ---- payloads and buffers ----
+
+constexpr reference::GeneratorOptions kSmall{
+    .min_elements = 1, .max_elements = 1, .min_text = 1, .max_text = 5, .budget = 2000};
+
+inline reference::Record sample(const MessageOperations &m, std::uint64_t seed = 1,
+                                const reference::GeneratorOptions &options = kSmall) {
+    return reference::Generator(seed, options).make(m.message->payload.name);
+}
+
+// A message that holds the value.
+inline void *make(mirk_handle *h, const MessageOperations &m, const reference::Record &value) {
+    void *message = m.create(h, kId);
+    bridge::fill(h, payload_of(m), object(message)->payload, value);
+    return message;
+}
+
+inline Bytes frame_of(const MessageOperations &m, const reference::Record &value, bool tracked,
+                      std::uint32_t stamp = 0) {
+    return reference::message_frame(m.name, value, tracked, stamp);
+}
+
+// Room of a stated size with the byte of slack behind it and guard bytes around both.
+class Buffer {
+public:
+    explicit Buffer(std::size_t size) : bytes_(size + 1 + 2 * kGuard, kFill), size_(size) {}
+    explicit Buffer(const Bytes &content) : Buffer(content.size()) { set(content); }
+    void set(const Bytes &content) { std::copy(content.begin(), content.end(), bytes_.begin() + kGuard); }
+
+    std::uint8_t *data() { return bytes_.data() + kGuard; }
+    char *text() { return reinterpret_cast<char *>(data()); }
+    std::uint32_t size() const { return static_cast<std::uint32_t>(size_); }
+    Bytes first(std::size_t n) const {
+        const auto begin = bytes_.begin() + kGuard;
+        return {begin, begin + static_cast<std::ptrdiff_t>(n)};
+    }
+    bool untouched(std::size_t from = 0) const {
+        return std::all_of(bytes_.begin() + kGuard + static_cast<std::ptrdiff_t>(from), bytes_.end(),
+                           [](std::uint8_t byte) { return byte == kFill; });
+    }
+    // The slack byte may have been written, nothing behind it.
+    bool guards_stand() const {
+        const auto is_fill = [](std::uint8_t byte) { return byte == kFill; };
+        return std::all_of(bytes_.begin(), bytes_.begin() + kGuard, is_fill) &&
+               std::all_of(bytes_.end() - kGuard, bytes_.end(), is_fill);
+    }
+
+private:
+    static constexpr std::ptrdiff_t kGuard = 16;
+    static constexpr std::uint8_t kFill = 0xA5;
+    Bytes bytes_;
+    std::size_t size_;
+};
+
+// ---- trace ----
+
+struct Line {
+    std::string module;  // "type", "message", "stub"
+    std::uint32_t level = 0;
+    std::string text;
+
+    bool operator==(const Line &) const = default;
+    friend std::ostream &operator<<(std::ostream &out, const Line &line) {
+        return out << line.module << ' ' << line.level << ' ' << line.text;
+    }
+};
+using Lines = std::vector<Line>;
+
+inline std::string error_text(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
+
+// Captures the trace of the library's own modules.
+struct Messaging : testing::Test {
+    void SetUp() override {
+        mirk_lumo_ui_tarn_message_trace_init();
+        mirk_lumo_ui_tarn_type_trace_init();
+        // The library never registers the module of its stubs; a process may.
+        static std::uint64_t state;
+        skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &state);
+        mirk_platform_testing_capture_start();
+    }
+    void TearDown() override {
+        mirk_platform_testing_capture_stop();
+        mirk_platform_recorder_set(0, nullptr);
+    }
+
+    // What was traced since the last call.
+    static Lines traced() {
+        Lines lines;
+        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
+            std::uint16_t module = 0;
+            std::uint32_t level = 0;
+            const std::string text = mirk_platform_testing_captured_line(i, &module, &level);
+            const std::string name = mirk_platform_trace_module_name(module), own = "mirk_lumo_ui_tarn_";
+            if (name.starts_with(own)) lines.push_back({name.substr(own.size()), level, text});
+        }
+        mirk_platform_testing_capture_clear();
+        return lines;
+    }
+
+    std::uint32_t err = 0;
+};
+
+// ---- events of a handle ----
+
+struct Events {
+    explicit Events(mirk_handle *h) : handle(h) {
+        mirk_platform_testing_set_hook(
+            h,
+            [](void *user, mirk_handle *, const mirk_platform_testing_event *event) {
+                static_cast<Events *>(user)->all.push_back(*event);
+            },
+            this);
+    }
+    ~Events() { mirk_platform_testing_set_hook(handle, nullptr, nullptr); }
+    Events(const Events &) = delete;
+    Events &operator=(const Events &) = delete;
+
+    std::vector<mirk_platform_testing_event> of(mirk_platform_testing_event_kind kind) const {
+        std::vector<mirk_platform_testing_event> found;
+        for (const auto &event : all) {
+            if (event.kind == kind) found.push_back(event);
+        }
+        return found;
+    }
+
+    mirk_handle *handle;
+    std::vector<mirk_platform_testing_event> all;
+};
+
+inline void fail_obj_alloc(mirk_handle *h, std::uint64_t nth, bool onwards = false) {
+    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth, onwards ? 1 : 0);
+}
+
+// The static objects that stand for null after an error.
+inline void *sentinel_of(const MessageOperations &m) {
+    Handle h;
+    h->last_error = EINVAL;
+    return m.create_cr(h);
+}
+
+// ---- calls of handlers ----
+
+struct HandlerCall {
+    std::string handler;
+    mirk_handle *h = nullptr;
+    std::uint32_t ctx_id = 0;
+    void *dispatch_ctx = nullptr, *message = nullptr;
+    std::uint32_t *slot = nullptr;
+    std::uint32_t err = 0;  // what the slot held on entry
+};
+inline std::vector<HandlerCall> handler_calls;
+
+inline void on_message(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void *message, std::uint32_t *err) {
+    handler_calls.push_back({"message", h, ctx_id, dispatch_ctx, message, err, *err});
+}
+template <char Name>
+void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, std::uint32_t *err) {
+    handler_calls.push_back({std::string(1, Name), h, ctx_id, dispatch_ctx, nullptr, err, *err});
+}
+
+// ---- dispatcher ----
+
+inline void register_message(mirk_handle *h, const MessageOperations &m, mirk_message_handler handler = nullptr) {
+    const mirk_platform_message entry{m.luid, m.name, m.unmarshal, m.message != nullptr ? m.unmarshal_only : nullptr,
+                                      m.message != nullptr ? m.destroy : nullptr, handler};
+    ASSERT_EQ(mirk_platform_dispatch_register(h, &entry), 0u);
+}
+inline void register_all(mirk_handle *h, mirk_message_handler handler = nullptr) {
+    for (const MessageOperations &m : tarn::reflect::messages()) register_message(h, m, handler);
+    for (const Control &c : controls()) register_message(h, *c.operations);
+}
+
+}  // namespace messaging
