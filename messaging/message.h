@@ -14,16 +14,6 @@ inline constexpr std::uint32_t header_bytes = 27;
 inline constexpr std::uint32_t luid_bytes = 16;
 inline constexpr std::uint32_t frame_head = header_bytes + luid_bytes;
 
-struct message_object {
-    mirk_type_info *tinfo;
-    std::int8_t variant, home_variant;
-    std::uint8_t obj_flag;
-    mirk_message_header header;
-    mirk_object *payload;
-};
-static_assert(sizeof(message_object) == message_object_size && offsetof(message_object, header) == 12 &&
-              offsetof(message_object, payload) == 32);
-
 // What every header begins with: the marker, six bytes of 0xFF, the rest 0.
 constexpr mirk_message_header new_header() { return {0xBC, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 0, 0, 0}; }
 

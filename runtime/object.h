@@ -36,6 +36,16 @@ static_assert(offsetof(enumeration_object, value) == schema::enumeration_value_o
 static_assert(sizeof(mirk_boolean) == schema::boolean_size && sizeof(ip_address) == schema::address_size);
 static_assert(offsetof(mirk_object, obj_flag) + 1 == schema::header_size);
 
+struct message_object {
+    mirk_type_info *tinfo;
+    std::int8_t variant, home_variant;
+    std::uint8_t obj_flag;
+    mirk_message_header header;
+    mirk_object *payload;
+};
+static_assert(sizeof(message_object) == 40 && offsetof(message_object, header) == 12 &&
+              offsetof(message_object, payload) == 32);
+
 inline mirk_object *header_of(enumeration_object *object) { return reinterpret_cast<mirk_object *>(object); }
 
 // Areas are reckoned as integers: on a handle without tracking the place behind a block is formed but never touched.

@@ -2,7 +2,8 @@
 // the object's header, whatever its type is called outside.
 #pragma once
 
-#include "messaging/message.h"
+#include "runtime/object.h"
+#include "schema/catalogue.h"
 
 namespace tarn {
 

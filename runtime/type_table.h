@@ -11,11 +11,9 @@ extern "C" void lumo_ui_tarn_typeinfo_initialize(mirk_handle *h, std::uint32_t c
 
 namespace tarn {
 
-inline constexpr std::uint32_t message_object_size = 40;
-
 constexpr std::uint32_t used_length(const schema::Record &record) { return schema::lay_out(record).used_length; }
 constexpr std::uint32_t used_length(const schema::Enumeration &) { return schema::enumeration_size; }
-constexpr std::uint32_t used_length(const schema::Message &) { return message_object_size; }
+constexpr std::uint32_t used_length(const schema::Message &) { return sizeof(message_object); }
 constexpr std::uint32_t alloc_slop(const schema::Record &record) { return schema::lay_out(record).alloc_slop; }
 constexpr std::uint32_t alloc_slop(const schema::Enumeration &) { return 0; }
 constexpr std::uint32_t alloc_slop(const schema::Message &) { return 0; }
