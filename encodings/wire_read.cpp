@@ -71,16 +71,20 @@ bool Reader::array(mirk_object *instance) {
     if (n == 0) return true;
 
     const ElementStates states = read_state ? A::element_states(area) : ElementStates();
+    const bool same_elements = *block != nullptr && old_count == n;
     if (reuse != 0 && *block != nullptr && old_count != n) drop_block<A>(instance, old_count);
     if (reuse != 0 && read_state && states.block() != nullptr && old_count != n) {
         release(h, ctx_id, states.block());
         states.put(nullptr);
     }
-    if (tracked && !read_state && old_count != n && (old_count != 0 || *block != nullptr)) {
-        // A frame without state leaves the old vector in place, but not one that is too short for the new elements.
+    if (tracked && !read_state && !same_elements) {
+        // A frame without state leaves the old vector in place, but not one that may be too short for the new elements,
+        // nor one that an empty frame or a failed read left behind.
         const ElementStates stale = A::element_states(state_area<A::owner>(h, ctx_id, instance));
-        if (reuse != 0 && stale.block() != nullptr) release(h, ctx_id, stale.block());
-        stale.put(nullptr);
+        if (stale.block() != nullptr) {
+            if (reuse != 0) release(h, ctx_id, stale.block());
+            stale.put(nullptr);
+        }
     }
     const std::size_t stride = A::base + (tracked ? A::width : 0);
     if (reuse == 0 || *block == nullptr) {

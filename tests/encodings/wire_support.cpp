@@ -1,0 +1,23 @@
+#include "wire_support.h"
+
+namespace wire {
+
+void use(mirk_handle *h, const Instance &instance) {
+    constexpr std::int32_t size = 2048;
+    static GuardedMemory memory(size);
+    std::uint8_t *buffer = memory.room(size);
+    char *text = reinterpret_cast<char *>(buffer);
+    const bridge::RecordOperations &record = instance.record();
+    const char *name = "instance";
+    std::uint32_t err = 0;
+    record.print(h, kId, text, 0, name, instance.get(), size, &err);
+    err = 0;
+    record.to_xml(h, kId, name, text, instance.get(), size, 0, &err);
+    err = 0;
+    record.marshal(h, kId, buffer, instance.get(), size, &err);
+    record.len(h, kId, instance.get());
+    EXPECT_EQ(record.compare(instance.get(), instance.get()), 0);
+    EXPECT_EQ(record.hash(instance.get(), 0), record.hash(instance.get(), 0));
+}
+
+}  // namespace wire

@@ -1,0 +1,138 @@
+// What the tests of frames share.
+#pragma once
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "bridge/bridge.h"
+#include "mirk_platform_testing.h"
+
+namespace wire {
+
+using bridge::Handle;
+using bridge::Instance;
+using bridge::kId;
+using bridge::Options;
+using bridge::Tracking;
+using reference::Bytes;
+using reference::Generator;
+using reference::GeneratorOptions;
+using reference::Record;
+using reference::RecordTable;
+
+inline constexpr std::uint8_t kTracked = 8, kRaData = 32, kOffset = 64;
+inline constexpr std::size_t kMostBytes = std::size_t{1} << 20;
+
+// Memory whose end is the end of what may be touched: the page behind it faults.
+class GuardedMemory {
+public:
+    explicit GuardedMemory(std::size_t size) {
+        const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+        room_ = (size + page) / page * page;
+        mapped_ = room_ + page;
+        void *memory = mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        start_ = static_cast<std::uint8_t *>(memory);
+        mprotect(start_ + room_, page, PROT_NONE);
+    }
+    ~GuardedMemory() { munmap(start_, mapped_); }
+    GuardedMemory(const GuardedMemory &) = delete;
+    GuardedMemory &operator=(const GuardedMemory &) = delete;
+
+    // Room for size bytes, behind which exactly one byte of slack can be touched.
+    std::uint8_t *room(std::size_t size) { return start_ + room_ - size - 1; }
+    // The bytes and a byte of slack behind them.
+    std::uint8_t *put(const std::uint8_t *bytes, std::size_t size, std::uint8_t slack = 0xEE) {
+        std::uint8_t *to = room(size);
+        if (size != 0) std::memcpy(to, bytes, size);
+        to[size] = slack;
+        return to;
+    }
+
+private:
+    std::uint8_t *start_ = nullptr;
+    std::size_t room_ = 0, mapped_ = 0;
+};
+
+inline GuardedMemory &guarded_input() {
+    static GuardedMemory memory(kMostBytes);
+    return memory;
+}
+
+struct Outcome {
+    std::uint32_t consumed = 0, error = 0;
+};
+
+// Reads from a buffer with one byte behind its end.
+inline Outcome read(mirk_handle *h, const Instance &into, const Bytes &frame, std::uint32_t reuse = 0,
+                    std::uint8_t slack = 0xEE) {
+    Outcome outcome;
+    std::uint8_t *at = guarded_input().put(frame.data(), frame.size(), slack);
+    outcome.consumed = into.record().unmarshal(h, kId, at, into.get(), static_cast<std::uint32_t>(frame.size()), reuse,
+                                               &outcome.error);
+    return outcome;
+}
+
+// Writes into a buffer of just this size, with one byte behind its end.
+struct Written {
+    std::uint32_t size = 0, error = 0;
+    Bytes buffer;
+    std::uint8_t slack = 0;
+};
+inline Written write(mirk_handle *h, const Instance &from, std::size_t size, bool for_clone = false) {
+    static GuardedMemory memory(kMostBytes);
+    std::uint8_t *at = memory.room(size);
+    std::memset(at, 0xA5, size + 1);
+    Written written;
+    const auto operation = for_clone ? from.record().marshal_for_clone : from.record().marshal;
+    written.size = operation(h, kId, at, from.get(), static_cast<std::int32_t>(size), &written.error);
+    written.buffer.assign(at, at + size);
+    written.slack = at[size];
+    return written;
+}
+
+// The traced lines, while it lives, with their levels and modules. Nothing goes to standard error meanwhile.
+class Traces {
+public:
+    Traces() { mirk_platform_testing_capture_start(); }
+    ~Traces() { mirk_platform_testing_capture_stop(); }
+    Traces(const Traces &) = delete;
+    Traces &operator=(const Traces &) = delete;
+
+    // Each as "level module: line".
+    std::vector<std::string> lines() const {
+        std::vector<std::string> result;
+        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
+            std::uint16_t module = 0;
+            std::uint32_t level = 0;
+            const char *line = mirk_platform_testing_captured_line(i, &module, &level);
+            result.push_back(std::to_string(level) + " " + mirk_platform_trace_module_name(module) + ": " + line);
+        }
+        return result;
+    }
+};
+
+// No array and no string is empty; two elements in each array where the frame stays small.
+inline Record rich_value(const RecordTable &table, std::uint64_t seed = 11) {
+    const Record value =
+        Generator(seed, {.min_elements = 2, .max_elements = 2, .min_text = 1, .max_text = 5}).make(table.name);
+    constexpr std::size_t small = 400;
+    if (reference::encode(value, true).size() <= small) return value;
+    return Generator(seed, {.min_elements = 1, .max_elements = 1, .min_text = 1, .max_text = 5}).make(table.name);
+}
+
+inline std::string name_of(const testing::TestParamInfo<const RecordTable *> &info) { return info.param->name; }
+inline std::vector<const RecordTable *> all_records() {
+    std::vector<const RecordTable *> all;
+    for (const RecordTable &table : reference::records()) all.push_back(&table);
+    return all;
+}
+
+// Everything that can be done with an instance, with what a hostile peer made of it, into buffers of 2048 bytes.
+void use(mirk_handle *h, const Instance &instance);
+
+}  // namespace wire
