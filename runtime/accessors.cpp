@@ -4,6 +4,42 @@
 
 namespace tarn {
 
+bool can_read_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
+    if (tracking_mode(h) == Tracking::off) {
+        fail(h, err, EINVAL);
+        return false;
+    }
+    if (is_state_tracked(object)) return true;
+    fail(h, err, EINVAL);
+    trace(error_level, "(ERR): The object is non state tracked");
+    return false;
+}
+
+bool can_write_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
+    if (tracking_mode(h) == Tracking::off) {
+        fail(h, err, EINVAL);
+        return false;
+    }
+    if (is_state_tracked(object)) return true;
+    trace(error_level, "(ERR): The object is not state tracked");
+    fail(h, err, EINVAL);
+    return false;
+}
+
+bool refuse_untracked(mirk_handle *h, std::uint32_t *err) {
+    fail(h, err, EINVAL);
+    trace(error_level, "(ERR): The object is not state tracked");
+    return false;
+}
+
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t base_size,
+                  std::uint32_t slot, std::uint32_t *err) {
+    if (!tracks(h)) return true;
+    if (!is_state_tracked(object)) return refuse_untracked(h, err);
+    store(h, ctx_id, state_area(h, ctx_id, object, base_size) + slot, written_state);
+    return true;
+}
+
 template <class F>
 auto Accessor<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) -> Storage * {
     if (!begin(h, err)) return nullptr;
@@ -57,7 +93,7 @@ std::uint8_t StateByte<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object
 template <class F>
 void StateByte<F>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value,
                        std::uint32_t *err) {
-    if (*err != 0 || !can_write_state_of(h, object, err)) return;
+    if (*err != 0 || !can_write_state(h, object, err)) return;
     adjust_variant(h, ctx_id, object, err);
     if (!gate(h, object, F::value_kind, err)) return;
     store(h, ctx_id, F::state(state_area<F::owner>(h, ctx_id, object)), value);

@@ -27,46 +27,20 @@ struct StateByte {
 };
 
 // True if the handle answers questions about the state of this object; otherwise EINVAL is in the slot.
-inline bool can_read_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
-    if (tracking_mode(h) == Tracking::off) {
-        fail(h, err, EINVAL);
-        return false;
-    }
-    if (!is_state_tracked(object)) {
-        fail(h, err, EINVAL);
-        trace(error_level, "(ERR): The object is non state tracked");
-        return false;
-    }
-    return true;
-}
+bool can_read_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err);
 
-// The same before a write, with the variant checked as every write checks it. The line comes ahead of the error here.
-inline bool can_write_state_of(mirk_handle *h, const mirk_object *object, std::uint32_t *err) {
-    if (tracking_mode(h) == Tracking::off) {
-        fail(h, err, EINVAL);
-        return false;
-    }
-    if (!is_state_tracked(object)) {
-        trace(error_level, "(ERR): The object is not state tracked");
-        fail(h, err, EINVAL);
-        return false;
-    }
-    return true;
-}
+// The same before a state byte is written; the trace line comes ahead of the error there.
+bool can_write_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err);
 
-inline bool refuse_untracked(mirk_handle *h, std::uint32_t *err) {
-    fail(h, err, EINVAL);
-    trace(error_level, "(ERR): The object is not state tracked");
-    return false;
-}
+// EINVAL for an object without room for state, and false.
+bool refuse_untracked(mirk_handle *h, std::uint32_t *err);
 
 // After a setter has stored: state byte 2 on a tracking handle. False if the object cannot have one; the value stays.
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t base_size,
+                  std::uint32_t slot, std::uint32_t *err);
 template <class F>
 bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-    if (!tracks(h)) return true;
-    if (!is_state_tracked(object)) return refuse_untracked(h, err);
-    store(h, ctx_id, F::state(state_area<F::owner>(h, ctx_id, object)), written_state);
-    return true;
+    return mark_written(h, ctx_id, object, schema::layout<F::owner>.base_size, F::place.slot, err);
 }
 
 inline void mark_modified(mirk_object *object, std::uint32_t value_kind) {

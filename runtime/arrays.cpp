@@ -191,7 +191,7 @@ std::uint8_t Array<A>::state_flag_get(mirk_handle *h, std::uint32_t ctx_id, mirk
 template <class A>
 void Array<A>::state_flag_set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                               std::uint8_t value, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state_of(h, object, err)) return;
+    if (*err != 0 || !can_write_state(h, object, err)) return;
     adjust_variant(h, ctx_id, object, err);
     if (!gate(h, object, 0, err)) return;
     if (index >= A::count(object)) {
@@ -215,7 +215,7 @@ void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_obj
 template <class A>
 void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const std::uint8_t *source,
                                   std::uint32_t length, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state_of(h, object, err)) return;
+    if (*err != 0 || !can_write_state(h, object, err)) return;
     if (length != A::count(object)) {
         fail(h, err, ENOENT);
         return;

@@ -34,7 +34,7 @@ void trace_message(std::uint32_t level, const char *format, Arguments... argumen
 
 inline const char *error_text(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
 
-[[noreturn]] inline void die(std::uint16_t module, const char *text) {
+[[noreturn, gnu::cold, gnu::noinline]] inline void die(std::uint16_t module, const char *text) {
     skald_wrapper(module, fatal_level, 0, text);
     std::abort();
 }

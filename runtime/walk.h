@@ -47,11 +47,13 @@ inline const std::uint8_t *bytes_of(const mirk_object *object) {
 }
 
 // The state area, found anew each time: where the runtime says, or directly behind the instance.
+inline std::uint8_t *state_area(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t base_size) {
+    const bool elsewhere = (object->obj_flag & flag::sttr_offset) != 0;
+    return bytes_of(object) + (elsewhere ? mirklib_get_sttr_offset(h, ctx_id, object) : base_size);
+}
 template <const Record &R>
 std::uint8_t *state_area(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
-    const std::uint32_t away = (object->obj_flag & flag::sttr_offset) != 0 ? mirklib_get_sttr_offset(h, ctx_id, object)
-                                                                           : schema::layout<R>.base_size;
-    return bytes_of(object) + away;
+    return state_area(h, ctx_id, object, schema::layout<R>.base_size);
 }
 
 // Element number index of a block of n; its state area stands behind all elements.

@@ -1,5 +1,5 @@
-// The serving side of the frame transport. A session works on any stream socket; only the acceptor knows that it
-// listens on a socket file, so that another kind of acceptor can feed sessions in the same way.
+// The serving side of the frame transport. A connection works on any stream socket; only the acceptor knows that it
+// listens on a socket file, so that another kind of acceptor can feed connections in the same way.
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,7 +17,7 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-class Session;
+class Connection;
 
 // Removes the socket file that was bound, and no other that took its place.
 struct SocketFile {
@@ -55,14 +55,14 @@ struct mirk_platform_server {
     int stop_fd = -1;
     SocketFile file;
     mirk_platform_peer last_peer = 0;
-    std::unordered_map<mirk_platform_peer, std::shared_ptr<Session>> sessions;
+    std::unordered_map<mirk_platform_peer, std::shared_ptr<Connection>> connections;
 };
 
 namespace {
 
-class Session : public std::enable_shared_from_this<Session> {
+class Connection : public std::enable_shared_from_this<Connection> {
 public:
-    Session(mirk_platform_server &server, mirk_platform_peer peer, Socket socket)
+    Connection(mirk_platform_server &server, mirk_platform_peer peer, Socket socket)
         : server_(server),
           peer_(peer),
           socket_(std::move(socket)),
@@ -111,7 +111,7 @@ public:
         const auto self = shared_from_this();
         skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
                       level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
-        server_.sessions.erase(peer_);
+        server_.connections.erase(peer_);
         if (server_.options.on_disconnect != nullptr) {
             server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
         }
@@ -121,7 +121,7 @@ public:
     }
 
 private:
-    // Runs one step; a session that runs out of memory ends alone.
+    // Runs one step; a connection that runs out of memory ends alone.
     template <typename Step>
     void protect(Step step) noexcept {
         const mirk_platform_error error = mirk::guarded([&]() -> mirk_platform_error {
@@ -249,7 +249,7 @@ mirk_platform_error make_way(asio::io_context &context, const char *path, const 
 }  // namespace
 
 mirk_platform_server::~mirk_platform_server() {
-    sessions.clear();
+    connections.clear();
     file.remove();
 }
 
@@ -288,16 +288,16 @@ void mirk_platform_server::accept_next() {
             return;
         }
         const mirk_platform_error failed = mirk::guarded([&]() -> mirk_platform_error {
-            if (sessions.size() >= options.peer_limit) {
+            if (connections.size() >= options.peer_limit) {
                 skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): a peer is turned away: there are %zu already",
-                              sessions.size());
+                              connections.size());
                 return 0;
             }
             const mirk_platform_peer peer = ++last_peer;
-            const auto session = std::make_shared<Session>(*this, peer, Socket(std::move(socket)));
-            sessions.emplace(peer, session);
+            const auto connection = std::make_shared<Connection>(*this, peer, Socket(std::move(socket)));
+            connections.emplace(peer, connection);
             if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
-            if (sessions.contains(peer)) session->start();
+            if (connections.contains(peer)) connection->start();
             return 0;
         });
         if (failed != 0) {
@@ -317,9 +317,9 @@ void mirk_platform_server::wait_for_stop() {
 void mirk_platform_server::stop_now() {
     asio::error_code ignored;
     acceptor.close(ignored);
-    while (!sessions.empty()) {
-        const auto session = sessions.begin()->second;
-        session->stop();
+    while (!connections.empty()) {
+        const auto connection = connections.begin()->second;
+        connection->stop();
     }
     context.stop();
 }
@@ -366,24 +366,24 @@ void mirk_platform_server_stop(mirk_platform_server *server) {
 mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer, const void *bytes,
                                               size_t size) {
     return mirk::guarded([&]() -> mirk_platform_error {
-        const auto found = server->sessions.find(peer);
-        if (found == server->sessions.end()) return ENOTCONN;
-        const auto session = found->second;
-        return session->send(bytes, size);
+        const auto found = server->connections.find(peer);
+        if (found == server->connections.end()) return ENOTCONN;
+        const auto connection = found->second;
+        return connection->send(bytes, size);
     });
 }
 
 void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform_peer peer, const char *reason) {
     mirk::guarded([&]() -> mirk_platform_error {
-        const auto found = server->sessions.find(peer);
-        if (found == server->sessions.end()) return ENOTCONN;
-        const auto session = found->second;
-        session->leave(reason != nullptr ? reason : "asked to leave");
+        const auto found = server->connections.find(peer);
+        if (found == server->connections.end()) return ENOTCONN;
+        const auto connection = found->second;
+        connection->leave(reason != nullptr ? reason : "asked to leave");
         return 0;
     });
 }
 
-size_t mirk_platform_server_peers(mirk_platform_server *server) { return server->sessions.size(); }
+size_t mirk_platform_server_peers(mirk_platform_server *server) { return server->connections.size(); }
 
 void mirk_platform_server_close(mirk_platform_server *server) { delete server; }
 
