@@ -102,7 +102,8 @@ void _mirk_message_header_marshal(mirk_handle *h, uint32_t, void *frame, mirk_me
     if (*err != 0) return;
     if (frame == nullptr || header == nullptr) {
         *err = EINVAL;
-    } else if (size < MIRK_PLATFORM_HEADER_SIZE) {
+    } else if (static_cast<int32_t>(size) < MIRK_PLATFORM_HEADER_SIZE) {
+        // Sizes are compared as signed numbers, as everywhere in a message: one with the top bit set is too small.
         *err = EMSGSIZE;
     } else {
         mirk::put_header(frame, *header);
@@ -114,7 +115,8 @@ uint32_t _mirk_message_header_unmarshal(mirk_handle *, uint32_t, void *frame, mi
     if (*err != 0) return 0;
     if (frame == nullptr || header == nullptr) {
         *err = EINVAL;
-    } else if (size < MIRK_PLATFORM_HEADER_SIZE) {
+    } else if (static_cast<int32_t>(size) < MIRK_PLATFORM_HEADER_SIZE) {
+        // Sizes are compared as signed numbers, as everywhere in a message: one with the top bit set is too small.
         *err = EMSGSIZE;
     } else if (*static_cast<const uint8_t *>(frame) != mirk::frame_marker) {
         *err = EBADMSG;
