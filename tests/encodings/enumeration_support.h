@@ -1,0 +1,57 @@
+// What the tests of enumerations share.
+#pragma once
+
+#include <stdexcept>
+
+#include "value_support.h"
+
+namespace forms {
+
+using tarn::reflect::EnumerationOperations;
+
+// A free-standing instance. The value begins inside the header's padding, so it is reached through bytes.
+class Choice {
+public:
+    Choice(mirk_handle *h, const EnumerationOperations &operations)
+        : h_(h), operations_(operations), p_(operations.create(h, kId)) {}
+    Choice(mirk_handle *h, const EnumerationOperations &operations, std::uint32_t value) : Choice(h, operations) {
+        put(value);
+    }
+    Choice(const Choice &) = delete;
+    Choice &operator=(const Choice &) = delete;
+    ~Choice() { operations_.destroy(h_, kId, p_); }
+
+    void *get() const { return p_; }
+    mirk_object *header() const { return static_cast<mirk_object *>(p_); }
+    std::uint32_t value() const {
+        std::uint32_t value = 0;
+        std::memcpy(&value, static_cast<char *>(p_) + 12, sizeof value);
+        return value;
+    }
+    // Any value at all, as a sender may choose it.
+    void put(std::uint32_t value) { std::memcpy(static_cast<char *>(p_) + 12, &value, sizeof value); }
+
+private:
+    mirk_handle *h_;
+    const EnumerationOperations &operations_;
+    void *p_;
+};
+
+inline const EnumerationOperations &enumeration(std::string_view name) {
+    for (const EnumerationOperations &e : tarn::reflect::enumerations()) {
+        if (e.enumeration->name == name) return e;
+    }
+    throw std::out_of_range(std::string(name));
+}
+inline const EnumerationOperations &ha_state() { return enumeration("lumo_tarn_ha_state_e"); }
+
+inline std::uint32_t bound(const EnumerationOperations &e) {
+    return static_cast<std::uint32_t>(e.enumeration->enumerators.size());
+}
+inline std::string name_of(const EnumerationOperations &e) { return std::string(e.enumeration->name); }
+
+inline void set_domain(mirk_handle *h, const EnumerationOperations &e, std::int8_t variant) {
+    mirk_platform_domain_set_variant(h, e.enumeration->luid.bytes.data(), variant);
+}
+
+}  // namespace forms
