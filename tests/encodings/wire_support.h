@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bridge/bridge.h"
+#include "lumo_ui_tarn.h"
 #include "mirk_platform_testing.h"
 
 namespace wire {
