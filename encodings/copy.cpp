@@ -6,6 +6,23 @@ extern "C" void mirk_lumo_ui_tarn_type_trace_init(void);
 
 namespace tarn {
 
+namespace {
+
+// An element that is ended stays in its array and is destroyed once more with it. It keeps the place of its states, which
+// an object gives up at its end: without it they would be looked for on top of the next element.
+template <const Record &R>
+void end_in_array(mirk_handle *h, std::uint32_t ctx_id, mirk_object *element) {
+    const bool placed = (element->obj_flag & flag::sttr_offset) != 0;
+    std::uint8_t *area = placed ? state_area<R>(h, ctx_id, element) : nullptr;
+    Lifecycle<R>::destroy_internal(h, ctx_id, element, 0);
+    if (!placed) return;
+    std::uint32_t error = 0;
+    mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(area)));
+    References<R>::offset_update(h, ctx_id, element, area, &error);
+}
+
+}  // namespace
+
 template <const Record &R>
 void Copy<R>::copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mirk_object **destination, void *buffer,
                    std::uint32_t size, std::uint32_t free_it, std::uint32_t *err) {
@@ -28,7 +45,11 @@ void Copy<R>::copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mi
     WireRead<R>::unmarshal(h, ctx_id, buffer, *destination, written, 0, err);
     if (*err == 0) return;
     // A destination that the caller handed in is ended as well.
-    Lifecycle<R>::destroy_internal(h, ctx_id, *destination, free_it);
+    if (free_it != 0) {
+        Lifecycle<R>::destroy_internal(h, ctx_id, *destination, 1);
+    } else {
+        end_in_array<R>(h, ctx_id, *destination);
+    }
     *destination = nullptr;
 }
 
