@@ -62,7 +62,7 @@ TEST_F(CorruptHandleDeathTest, InEveryKindOfMemberWrite) {
 TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     const MemberOperations &m = member(r, "tc_list");
-    void *object = make(r);
+    void *object = make(r), *flat = make(record("lumo_tarn_debug_setting"));
     spoil();
     uint8_t *out = nullptr;
     const uint8_t source[1] = {0};
@@ -72,8 +72,6 @@ TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
     expect_the_end([&] { m.element_state_flag_set(h, id, object, 0, 1, &err); });
     expect_the_end([&] { m.element_state_flag_get_arr(h, id, object, &out, &err); });
     expect_the_end([&] { m.element_state_flag_set_arr(h, id, object, source, 0, &err); });
-    void *flat = make(record("lumo_tarn_debug_setting"));
-    spoil();
     expect_the_end([&] { record("lumo_tarn_debug_setting").members[0].state_flag_get(h, id, flat, &err); });
     expect_the_end([&] { record("lumo_tarn_debug_setting").members[0].state_flag_set(h, id, flat, 1, &err); });
 }

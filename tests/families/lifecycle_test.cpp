@@ -165,33 +165,39 @@ TEST(Lifecycle, CreateRunsWhateverTheLastErrorIs) {
     });
 }
 
-// True if an enumeration is embedded at any depth.
-bool holds_enumeration(const RecordOperations &r) {
+// True if a member of this kind is embedded at any depth.
+bool holds(const RecordOperations &r, Kind kind) {
     for (const MemberOperations &m : r.members) {
-        if (m.member->kind == Kind::enumeration) return true;
-        if (m.member->kind == Kind::record && holds_enumeration(nested_record(m))) return true;
+        if (m.member->kind == kind) return true;
+        if (m.member->kind == Kind::record && holds(nested_record(m), kind)) return true;
     }
     return false;
 }
 
 TEST(Lifecycle, AFailedLookUpIsLostForRecordsAndFailsCreateForEmbeddedEnumerations) {
     Handle h;
+    uint32_t failed = 0, made = 0;
     each_record([&](const RecordOperations &r) {
+        if (holds(r, Kind::boolean) || holds(r, Kind::address)) return;  // these answer as the runtime likes
         h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
         Trace trace;
         void *object = r.create(h, id);
         h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 0, 0);
-        const bool fails = holds_enumeration(r) || !embeds_something(r) ? holds_enumeration(r) : object == nullptr;
-        EXPECT_EQ(object == nullptr, fails);
-        if (object == nullptr) {
-            ASSERT_FALSE(trace.lines().empty());
-            EXPECT_EQ(trace.lines().back(), "type 3 (ERR): error in " + name(r) + " create: " + std::strerror(EPROTO));
+        if (holds(r, Kind::enumeration)) {
+            ++failed;
+            EXPECT_EQ(object, nullptr);
+            EXPECT_EQ(trace.lines(),
+                      (Lines{"type 3 (ERR): error in " + name(r) + " create: " + std::strerror(EPROTO)}));
         } else {
+            ++made;
+            EXPECT_NE(object, nullptr);
             EXPECT_EQ(trace.lines(), Lines{});
         }
         r.destroy(h, id, object);
         EXPECT_EQ(h.live_blocks(), 0u);
     });
+    EXPECT_GT(failed, 1u);
+    EXPECT_GT(made, 10u);
 }
 
 TEST(Lifecycle, AFailedInitializeGivesNullEvenInAStickyCreate) {

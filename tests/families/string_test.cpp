@@ -1,1 +1,223 @@
-// to come
+// The four strings: bodies without terminator, lengths of sixteen bits.
+#include <cerrno>
+
+#include "values.h"
+
+using namespace families;
+
+namespace {
+
+struct Subject {
+    const RecordOperations &r;
+    const MemberOperations &m;
+    const MemberOperations &length;
+};
+
+void each_string(const std::function<void(const Subject &)> &visit) {
+    int found = 0;
+    each_member([&](const RecordOperations &r, const MemberOperations &m) {
+        if (m.text_set == nullptr) return;
+        ++found;
+        visit({r, m, r.members[index_of(r, m) - 1]});
+    });
+    EXPECT_EQ(found, 4);
+}
+
+char *body(const Subject &s, void *object) { return read<char *>(at(s.r, object, s.m)); }
+uint64_t length(mirk_handle *h, const Subject &s, void *object) {
+    uint32_t err = 0;
+    return s.length.get_value(h, id, object, &err);
+}
+
+TEST(Strings, AFreshOneIsEmpty) {
+    Handle h;
+    each_string([&](const Subject &s) {
+        void *object = s.r.create(h, id);
+        char text[4] = "xyz";
+        uint32_t err = 0;
+        EXPECT_EQ(body(s, object), nullptr);
+        s.m.text_get(h, id, object, text, sizeof text, &err);
+        EXPECT_EQ(err, 0u);
+        EXPECT_STREQ(text, "");
+        s.m.text_get(h, id, nullptr, text, 1, &err);
+        EXPECT_EQ(err, 0u);
+        EXPECT_EQ(s.length.set, nullptr);
+        EXPECT_EQ(s.length.set_value, nullptr);
+        s.r.destroy(h, id, object);
+    });
+}
+
+TEST(Strings, TheBodyHasExactlyItsLength) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_string([&](const Subject &s) {
+            void *object = s.r.create(h, id);
+            uint32_t err = 0;
+            Events events(h);
+            s.m.text_set(h, id, object, "abcdef", 6, &err);
+            EXPECT_EQ(err, 0u);
+            ASSERT_EQ(events.count(MIRK_PLATFORM_TESTING_ALLOC), 1u);
+            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC)[0].size, 6u);
+            EXPECT_EQ(std::memcmp(body(s, object), "abcdef", 6), 0);
+            EXPECT_EQ(length(h, s, object), 6u);
+            EXPECT_NE(mirk_get_instance_modified(object, 1, 0), 0u);
+            if (mode == Mode::on) {
+                EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
+            }
+            s.m.text_set(h, id, object, "xy", 2, &err);
+            EXPECT_EQ(h.live_blocks(), 2u) << "the body before is gone";
+            EXPECT_EQ(length(h, s, object), 2u);
+            s.r.destroy(h, id, object);
+            EXPECT_EQ(h.live_blocks(), 0u);
+        });
+    }
+}
+
+TEST(Strings, ADestinationMustHoldTheTextAndItsEnd) {
+    Handle h;
+    each_string([&](const Subject &s) {
+        void *object = s.r.create(h, id);
+        uint32_t err = 0;
+        s.m.text_set(h, id, object, "abcdef", 6, &err);
+        char text[16] = {};
+        s.m.text_get(h, id, object, text, 7, &err);
+        EXPECT_EQ(err, 0u);
+        EXPECT_STREQ(text, "abcdef");
+        for (uint32_t size = 1; size <= 6; ++size) {
+            std::memset(text, '#', sizeof text);
+            err = 0;
+            s.m.text_get(h, id, object, text, size, &err);
+            EXPECT_EQ(err, static_cast<uint32_t>(ENOSPC));
+            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOSPC));
+            EXPECT_EQ(std::string(text, size + 1), std::string("abcdef").substr(0, size - 1) + '\0' + '#');
+        }
+        err = 0;
+        s.m.text_get(h, id, object, text, 0, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        s.r.destroy(h, id, object);
+    });
+}
+
+TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
+    Handle h;
+    each_string([&](const Subject &s) {
+        void *object = s.r.create(h, id);
+        header(object)->variant = -1;
+        char text[1];
+        uint32_t err = 0;
+        s.m.text_get(h, id, object, text, 0, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        err = 0;
+        s.m.text_get(h, id, object, text, 1, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EIDRM));
+        header(object)->variant = 0;
+        s.r.destroy(h, id, object);
+    });
+}
+
+TEST(Strings, AShortTextLeavesZeroesAtTheEndOfTheBody) {
+    Handle h;
+    each_string([&](const Subject &s) {
+        void *object = s.r.create(h, id);
+        uint32_t err = 0;
+        s.m.text_set(h, id, object, "ab", 5, &err);
+        EXPECT_EQ(std::string(body(s, object), 5), std::string("ab\0\0\0", 5));
+        EXPECT_EQ(length(h, s, object), 5u);
+        s.r.destroy(h, id, object);
+    });
+}
+
+TEST(Strings, TheLengthIsCutToSixteenBits) {
+    Handle h;
+    const std::string text(70000, 'q');
+    each_string([&](const Subject &s) {
+        for (uint32_t wanted : {65534u, 65535u, 65536u, 65540u, 0xFFFF0003u}) {
+            void *object = s.r.create(h, id);
+            uint32_t err = 0;
+            Events events(h);
+            s.m.text_set(h, id, object, text.c_str(), wanted, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_EQ(length(h, s, object), wanted & 0xFFFF);
+            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, wanted & 0xFFFF);
+            std::vector<char> read_back(65536 + 1);
+            s.m.text_get(h, id, object, read_back.data(), 65536, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_EQ(std::string(read_back.data()), text.substr(0, wanted & 0xFFFF));
+            s.r.destroy(h, id, object);
+        }
+    });
+    EXPECT_EQ(h.live_blocks(), 0u);
+}
+
+TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_string([&](const Subject &s) {
+            void *object = s.r.create(h, id);
+            uint32_t err = 0;
+            s.m.text_set(h, id, object, "abc", 3, &err);
+            s.m.text_set(h, id, object, "", 0, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_EQ(length(h, s, object), 0u);
+            EXPECT_EQ(h.live_blocks(), 2u);
+            h.fail_alloc(1);  // no memory is no failure when none is needed
+            s.m.text_set(h, id, object, "abc", 0, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_EQ(body(s, object), nullptr);
+            if (mode == Mode::on) {
+                EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
+            }
+            s.r.destroy(h, id, object);
+            EXPECT_EQ(h.live_blocks(), 0u);
+        });
+    }
+}
+
+TEST(Strings, WithoutMemoryTheOldBodyIsGoneAndTheLengthStale) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_string([&](const Subject &s) {
+            void *object = s.r.create(h, id);
+            uint32_t err = 0;
+            s.m.text_set(h, id, object, "abc", 3, &err);
+            mirk_set_instance_modified(object, 1, 0, 0);
+            h.fail_alloc(1);
+            s.m.text_set(h, id, object, "wxyz", 4, &err);
+            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
+            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+            EXPECT_EQ(body(s, object), nullptr);
+            EXPECT_EQ(length(h, s, object), 3u);
+            EXPECT_EQ(mirk_get_instance_modified(object, 1, 0), 0u);
+            // What stands beside null counts nothing, and everything goes on.
+            char text[8] = "#######";
+            err = 0;
+            s.m.text_get(h, id, object, text, sizeof text, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_STREQ(text, "");
+            s.m.text_set(h, id, object, "wxyz", 4, &err);
+            EXPECT_EQ(length(h, s, object), 4u);
+            s.r.destroy(h, id, object);
+            EXPECT_EQ(h.live_blocks(), 0u);
+        });
+    }
+}
+
+TEST(Strings, TheStickySetAnswersWithTheLastError) {
+    Handle h;
+    mirk_platform_handle_set_default_id(h, 90);
+    each_string([&](const Subject &s) {
+        void *object = s.r.create_cr(h);
+        Events events(h);
+        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), 0u);
+        EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).ctx_id, 90u);
+        h.fail_alloc(1);
+        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(body(s, object), nullptr);
+        s.r.destroy_cr(h, object);
+        h->last_error = 0;
+    });
+}
+
+}  // namespace

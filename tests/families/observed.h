@@ -1,0 +1,191 @@
+// The calls that operations are expected to make, worked out from the reference layout.
+#pragma once
+
+#include "observing.h"
+#include "records.h"
+
+namespace families {
+
+using Lines = std::vector<std::string>;
+using observing::Handle;
+using observing::Tracking;
+
+// Made without a record of it. From here on the object's bytes, area included, read as "object+N", and new blocks are
+// numbered from 1.
+inline void *make_object(const Handle &h, const RecordOperations &r, const char *called = "object") {
+    observing::quiet();
+    void *object = r.create(h, id);
+    observing::quiet(false);
+    observing::name_region(called, object, table(r).tracked);
+    return object;
+}
+
+inline Lines lines_of(const std::function<void()> &operation) {
+    observing::clear_log();
+    operation();
+    return observing::lines();
+}
+
+class Sequence : public testing::Test {
+protected:
+    void SetUp() override { forget(); }
+    void forget() {
+        observing::clear_names();
+        observing::clear_log();
+    }
+    uint32_t err = 0;
+};
+
+inline std::string plus(const std::string &region, uint64_t offset) {
+    return offset == 0 ? region : region + "+" + std::to_string(offset);
+}
+
+inline void append(Lines &lines, const Lines &more) { lines.insert(lines.end(), more.begin(), more.end()); }
+
+inline std::string type_name(const MemberOperations &m) {
+    switch (m.member->kind) {
+        case Kind::record:
+            return std::string(m.member->record->name);
+        case Kind::enumeration:
+            return std::string(m.member->enumeration->name);
+        default:
+            return family(m);
+    }
+}
+
+// One object somewhere in a named region, with its state area in the same one.
+struct Spot {
+    std::string region = "object";
+    uint32_t at = 0, area = 0;
+
+    std::string text(uint32_t offset = 0) const { return plus(region, at + offset); }
+    std::string state(uint32_t slot) const { return plus(region, area + slot); }
+    Spot member(const RecordOperations &r, const MemberOperations &m) const {
+        return {region, at + offset(r, m), area + place(r, m).area};
+    }
+};
+
+inline Spot top_level(const RecordOperations &r, std::string region = "object") {
+    return {std::move(region), 0, table(r).base};
+}
+
+// Every embedded object with an area of its own gets its place.
+inline Lines offset_update_lines(const RecordOperations &r, const Spot &spot) {
+    Lines lines;
+    for (const MemberOperations &m : r.members) {
+        if (!has_area(m)) continue;
+        const Spot child = spot.member(r, m);
+        lines.push_back("mirklib_update_sttr_offset " + child.text() + " " + std::to_string(child.area - child.at));
+        if (m.member->kind == Kind::address) {
+            lines.push_back("ip_address_offset_update " + child.text() + " " + child.state(0));
+        } else {
+            append(lines, offset_update_lines(nested_record(m), child));
+        }
+    }
+    return lines;
+}
+
+inline Lines offset_remove_lines(const RecordOperations &r, const Spot &spot) {
+    Lines lines;
+    for (const MemberOperations &m : r.members) {
+        if (!has_area(m)) continue;
+        const Spot child = spot.member(r, m);
+        lines.push_back("mirk_hd_mapping_destroy " + child.text());
+        if (m.member->kind == Kind::address) {
+            lines.push_back("ip_address_offset_remove " + child.text());
+        } else {
+            append(lines, offset_remove_lines(nested_record(m), child));
+        }
+    }
+    return lines;
+}
+
+struct Setup {
+    bool on = false;
+    bool private_types = false;
+    uint32_t notify = 1, skip = 0;
+    bool is_nested = false;     // flags 4
+    bool has_entry = false;     // flag 64 is set beforehand
+    std::string base = "null";  // the sttr_base that is given
+};
+
+inline Lines header_lines(const std::string &type, const Spot &spot, const Setup &s) {
+    Lines lines{"mirk_clear_last_error", "mirk_domain_lookup_variant " + type};
+    const auto tell = [&](uint32_t offset, uint32_t size) {
+        if (s.notify != 0) lines.push_back("write_notify " + spot.text(offset) + " " + std::to_string(size));
+    };
+    tell(9, 1);
+    tell(8, 1);
+    tell(0, 8);
+    if (s.private_types) lines.push_back("mirk_type_info_ptr_get " + type);
+    tell(10, 1);
+    return lines;
+}
+
+inline void append_count(Lines &lines, const std::string &type, const Setup &s) {
+    const std::string counters = type + (s.private_types ? "(copy)" : "");
+    append(lines, {"count_notify " + counters + ".num_created 1", "count_notify " + counters + ".num_live 1"});
+}
+
+inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Setup s) {
+    Lines lines = header_lines(name(r), spot, s);
+    if (s.on && s.notify != 0) lines.push_back("write_notify " + spot.text(10) + " 1");
+    if (s.skip == 0) append_count(lines, name(r), s);
+    const bool placed = s.on && s.skip == 0;
+    bool gives_offsets = false;
+    if (placed && embeds_something(r)) {
+        if (!s.is_nested && s.base == "null") s.base = spot.state(0);
+        gives_offsets = !s.is_nested || s.has_entry;
+        if (s.has_entry) lines.push_back("mirklib_get_sttr_offset " + spot.text());
+        if (gives_offsets) append(lines, offset_update_lines(r, spot));
+    } else if (placed && s.has_entry) {
+        lines.push_back("mirklib_get_sttr_offset " + spot.text());
+    }
+    Setup inner = s;
+    inner.is_nested = true;
+    inner.has_entry = gives_offsets;
+    for (const MemberOperations &m : r.members) {
+        if (!is_embedded(m)) continue;
+        const Spot child = spot.member(r, m);
+        if (m.member->kind == Kind::record) {
+            append(lines, initialize_lines(nested_record(m), child, inner));
+        } else if (m.member->kind == Kind::enumeration) {
+            append(lines, header_lines(type_name(m), child, s));
+            append_count(lines, type_name(m), s);
+        } else {
+            lines.push_back(type_name(m) + "_initialize " + child.text() + " " + type_name(m) + " " +
+                            std::to_string(s.notify) + " " + std::to_string(s.skip) + " 4 " + s.base);
+        }
+    }
+    return lines;
+}
+
+struct Ending {
+    bool on = false;
+    bool has_entry = false;
+    bool mapping = true;
+    bool frees = true;
+};
+
+// Of an object whose arrays and strings are empty.
+inline Lines destroy_lines(const RecordOperations &r, const Spot &spot, const Ending &e) {
+    Lines lines;
+    for (const MemberOperations &m : r.members) {
+        const Spot child = spot.member(r, m);
+        if (m.member->kind == Kind::record) {
+            append(lines, destroy_lines(nested_record(m), child, {e.on, e.on, e.mapping, false}));
+        } else if (m.member->kind == Kind::address) {
+            append(lines,
+                   {"ip_address_get_oid_count " + child.text(), "ip_address_destroy_internal " + child.text() + " 0"});
+        } else if (m.member->kind == Kind::array && e.on && e.has_entry) {
+            lines.push_back("mirklib_get_sttr_offset " + spot.text());
+        }
+    }
+    if (e.on && e.has_entry) lines.push_back("mirklib_get_sttr_offset " + spot.text());
+    append(lines, {"count_notify " + name(r) + ".num_destroyed 1", "count_notify " + name(r) + ".num_live -1"});
+    if (e.has_entry && e.mapping) lines.push_back("mirk_hd_mapping_destroy " + spot.text());
+    if (e.frees) append(lines, {"write_notify " + spot.text() + " 8", "obj_free " + spot.text()});
+    return lines;
+}
+
+}  // namespace families
