@@ -63,9 +63,9 @@ void spoil(Bytes &frames, Fault fault) {
 void Answerer::add(const reflect::BundleOperations &bundle, const std::string &path, bool lenient) {
     Snapshot snapshot;
     const std::string content = read_file(path);
-    for (const Handle *handle : {&plain_, &tracked_}) {
-        std::vector<Item> &items = handle->tracked() ? snapshot.tracked : snapshot.plain;
-        items = items_of(*handle, content, shown_path(path), lenient);
+    for (const Handles *handles : {&plain_, &tracked_}) {
+        std::vector<Item> &items = handles == &tracked_ ? snapshot.tracked : snapshot.plain;
+        items = items_of(*handles, content, shown_path(path), lenient);
         std::erase_if(items, [](const Item &item) { return item.identity.is_control(); });
         for (const Item &item : items) {
             if (admits(bundle, *item.identity.operations)) continue;
@@ -89,7 +89,7 @@ std::vector<std::string> Answerer::names() const {
 Bytes Answerer::answer(const reflect::BundleOperations &bundle, bool tracked, std::uint32_t stamp, Fault fault) {
     Bytes frames;
     if (fault == Fault::silent) return frames;
-    const Handle &handle = tracked ? tracked_ : plain_;
+    const Handle &handle = (tracked ? tracked_ : plain_).choose(tracked);
     const Snapshot &snapshot = snapshots_.at(&bundle);
     mirk_platform_handle_set_message_stamp(handle.get(), stamp);
     OpenBundle open(handle, bundle, frames);

@@ -28,7 +28,7 @@ private:
         std::vector<Item> plain, tracked;
     };
 
-    Handle plain_{false}, tracked_{true};
+    Handles plain_{Tracking::off}, tracked_{Tracking::on};
     std::map<const reflect::BundleOperations *, Snapshot> snapshots_;
 };
 

@@ -13,5 +13,13 @@ struct Context {
 
 void add_answer(CLI::App &app, Context &context);
 void add_show(CLI::App &app, Context &context);
+void add_decode(CLI::App &app, Context &context);
+void add_encode(CLI::App &app, Context &context);
+void add_dissect(CLI::App &app, Context &context);
+void add_diff(CLI::App &app, Context &context);
+void add_schema(CLI::App &app, Context &context);
+void add_manifest(CLI::App &app, Context &context);
+void add_generate(CLI::App &app, Context &context);
+void add_record(CLI::App &app, Context &context);
 
 }  // namespace tarn::tool

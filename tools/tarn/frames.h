@@ -19,6 +19,9 @@ struct Frame {
     FrameBytes bytes;
     std::size_t offset;
     Identity identity;
+
+    // The sender made the message with per-field state.
+    bool is_tracked() const { return bytes[7] != 0; }
 };
 
 inline FrameBytes bytes_of(std::string_view text) {

@@ -9,13 +9,14 @@ namespace tarn::tool {
 
 namespace {
 
-std::vector<Item> from_frames(const Handle &handle, std::string_view content, const std::string &origin) {
+std::vector<Item> from_frames(const Handles &handles, std::string_view content, const std::string &origin) {
     std::vector<Item> items;
     for (const Frame &frame : split_frames(bytes_of(content), origin)) {
         Item item{frame.identity, std::nullopt, frame_place(origin, frame.offset)};
         if (!frame.identity.is_control()) {
             try {
-                item.message.emplace(message_from_frame(handle, *frame.identity.operations, frame.bytes));
+                item.message.emplace(
+                    message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
             } catch (const Failure &failure) {
                 throw Failure(failure.exit(), item.place + ": " + failure.what());
             }
@@ -25,14 +26,14 @@ std::vector<Item> from_frames(const Handle &handle, std::string_view content, co
     return items;
 }
 
-std::vector<Item> from_xml(const Handle &handle, std::string_view content, const std::string &origin, bool lenient) {
+std::vector<Item> from_xml(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     std::vector<Item> items;
     for (const Fragment &fragment : split_fragments(content, origin)) {
         const std::string place = origin + ":" + std::to_string(fragment.line);
         if (const auto control = control_in(fragment, origin)) {
             items.push_back({*control, std::nullopt, place});
         } else {
-            Message message = message_from_xml(handle, fragment, origin, lenient);
+            Message message = message_from_xml(handles.choose(false), fragment, origin, lenient);
             items.push_back({{&message.operations()}, std::nullopt, place});
             items.back().message.emplace(std::move(message));
         }
@@ -59,21 +60,21 @@ Form form_of(std::string_view content, const std::string &origin) {
     }
 }
 
-std::vector<Item> items_of(const Handle &handle, std::string_view content, const std::string &origin, bool lenient) {
+std::vector<Item> items_of(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     switch (form_of(content, origin)) {
         case Form::frames:
-            return from_frames(handle, content, origin);
+            return from_frames(handles, content, origin);
         case Form::xml:
-            return from_xml(handle, content, origin, lenient);
+            return from_xml(handles, content, origin, lenient);
         case Form::json:
             break;
     }
-    return from_json(handle, content, origin, lenient);
+    return from_json(handles, content, origin, lenient);
 }
 
-std::vector<Item> read_items(const Handle &handle, const std::string &path, bool lenient) {
+std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient) {
     const std::string origin = shown_path(path);
-    std::vector<Item> items = items_of(handle, read_file(path), origin, lenient);
+    std::vector<Item> items = items_of(handles, read_file(path), origin, lenient);
     if (items.empty()) throw Failure(Exit::input, origin + ": holds no message");
     return items;
 }

@@ -24,7 +24,7 @@ struct Item {
 // By the first byte that is not blank.
 Form form_of(std::string_view content, const std::string &origin);
 
-std::vector<Item> items_of(const Handle &handle, std::string_view content, const std::string &origin, bool lenient);
-std::vector<Item> read_items(const Handle &handle, const std::string &path, bool lenient);
+std::vector<Item> items_of(const Handles &handles, std::string_view content, const std::string &origin, bool lenient);
+std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient);
 
 }  // namespace tarn::tool

@@ -291,11 +291,12 @@ Item control_of(const ordered_json &json, const std::string &place) {
     fail(place, json["control"].dump() + " is none of start, abort and commit");
 }
 
-Item message_of(const Handle &handle, const ordered_json &json, const std::string &place, bool lenient) {
+Item message_of(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient) {
     if (!json["message"].is_string()) fail(place, "message is to be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
     if (operations == nullptr) fail(place, json["message"].dump() + " is no message");
     if (!json.contains("payload") && !lenient) fail(place, "the payload is missing");
+    const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
     Item item{{operations}, Message::make(handle, *operations), place};
     if (json.contains("payload")) {
         Reader(handle, lenient)
@@ -304,16 +305,16 @@ Item message_of(const Handle &handle, const ordered_json &json, const std::strin
     return item;
 }
 
-void collect(const Handle &handle, const ordered_json &json, const std::string &place, bool lenient,
+void collect(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient,
              std::vector<Item> &items) {
     if (json.is_array()) {
-        for (const ordered_json &one : json) collect(handle, one, place, lenient, items);
+        for (const ordered_json &one : json) collect(handles, one, place, lenient, items);
     } else if (json.is_object() && json.contains("message")) {
-        items.push_back(message_of(handle, json, place, lenient));
+        items.push_back(message_of(handles, json, place, lenient));
     } else if (json.is_object() && json.contains("bundle") && json.contains("control")) {
         items.push_back(control_of(json, place));
     } else if (json.is_object() && json.contains("messages")) {
-        collect(handle, json["messages"], place, lenient, items);
+        collect(handles, json["messages"], place, lenient, items);
     } else {
         fail(place, "neither a message nor a control message nor a list of them");
     }
@@ -321,7 +322,7 @@ void collect(const Handle &handle, const ordered_json &json, const std::string &
 
 }  // namespace
 
-std::vector<Item> from_json(const Handle &handle, std::string_view content, const std::string &origin, bool lenient) {
+std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     std::vector<Item> items;
     std::istringstream in{std::string(content)};
     while ((in >> std::ws).peek() != std::istringstream::traits_type::eof()) {
@@ -339,7 +340,7 @@ std::vector<Item> from_json(const Handle &handle, std::string_view content, cons
             throw Failure(Exit::input,
                           origin + ":" + line(start + error.byte) + ": " + words.substr(words.find("] ") + 2));
         }
-        collect(handle, json, origin + ":" + line(start) + ": ", lenient, items);
+        collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
     }
     return items;
 }

@@ -1,11 +1,12 @@
 // Messages as JSON, and back. One object for each message:
 //
 //   {"bundle": NAME, "control": "start"}
-//   {"message": NAME, "payload": {MEMBER: VALUE, ...}}
+//   {"message": NAME, "tracked": true, "payload": {MEMBER: VALUE, ...}}
 //
-// Integers are numbers, booleans true or false, enumerators and addresses their text, strings text or {"bytes": HEX} if
-// they are no UTF-8, nested records objects, arrays arrays. Counts and lengths follow from what they count and are left
-// out. What has no everyday form stands under a name with an "@": "@state" holds the state bytes that are not 0,
+// "tracked" says that there is per-field state, and is left out if there is none. Integers are numbers, booleans true
+// or false, enumerators and addresses their text, strings text or {"bytes": HEX} if they are no UTF-8, nested records
+// objects, arrays arrays. Counts and lengths follow from what they count and are left out. What has no everyday form
+// stands under a name with an "@": "@state" holds the state bytes that are not 0,
 // "@variant" stands in place of the members of a record that has no body, and "@ra" holds its RA data. State bytes that
 // are not listed are 0.
 #pragma once
@@ -20,8 +21,8 @@
 namespace tarn::tool {
 
 nlohmann::ordered_json json_of(const Handle &handle, const reflect::RecordOperations &operations, void *instance);
-nlohmann::ordered_json json_of(const Handle &handle, const Identity &identity, void *object);
+nlohmann::ordered_json json_of(const Item &item);
 
-std::vector<Item> from_json(const Handle &handle, std::string_view content, const std::string &origin, bool lenient);
+std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient);
 
 }  // namespace tarn::tool

@@ -156,13 +156,14 @@ ordered_json json_of(const Handle &handle, const RecordOperations &operations, v
     return Writer(handle, operations, instance).run();
 }
 
-ordered_json json_of(const Handle &handle, const Identity &identity, void *object) {
+ordered_json json_of(const Item &item) {
+    const Identity &identity = item.identity;
     if (identity.is_control()) return {{"bundle", identity.bundle->bundle->name}, {"control", word(identity.control)}};
-    const reflect::MessageOperations &operations = *identity.operations;
-    std::uint32_t err = 0;
-    void *payload = operations.payload_get(handle.get(), context_id, object, &err);
-    return {{"message", operations.name},
-            {"payload", json_of(handle, reflect::operations_of(operations.message->payload), payload)}};
+    const Message &message = *item.message;
+    ordered_json json{{"message", message.operations().name}};
+    if (message.handle().tracked()) json["tracked"] = true;
+    json["payload"] = json_of(message.handle(), message.record(), message.payload());
+    return json;
 }
 
 }  // namespace tarn::tool

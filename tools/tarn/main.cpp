@@ -24,6 +24,14 @@ int run(int argc, char **argv) {
         "\"tarn COMMAND --help\" tells about one command and gives examples.");
     add_answer(app, context);
     add_show(app, context);
+    add_decode(app, context);
+    add_encode(app, context);
+    add_dissect(app, context);
+    add_diff(app, context);
+    add_schema(app, context);
+    add_manifest(app, context);
+    add_generate(app, context);
+    add_record(app, context);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {

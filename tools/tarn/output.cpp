@@ -8,17 +8,14 @@
 
 namespace tarn::tool {
 
-std::string rendered(const Handle &handle, const Item &item, Style style) {
+std::string rendered(const Item &item, Style style) {
+    if (style == Style::json) return json_of(item).dump() + "\n";
+    // A control message has no object, so any handle does.
+    static const Handle any(false);
+    const Handle &handle = item.message ? item.message->handle() : any;
     const reflect::MessageOperations &operations = *item.identity.operations;
-    switch (style) {
-        case Style::text:
-            return text_of(handle, operations, item.object());
-        case Style::xml:
-            return xml_of(handle, operations, item.object()) + "\n";
-        case Style::json:
-            break;
-    }
-    return json_of(handle, item.identity, item.object()).dump() + "\n";
+    return style == Style::xml ? xml_of(handle, operations, item.object()) + "\n"
+                               : text_of(handle, operations, item.object());
 }
 
 std::string hex_dump(std::string_view bytes) {

@@ -1,13 +1,17 @@
 #include "reception.h"
 
+#include <algorithm>
+
 #include "lumo_ui_tarn.h"
 
 namespace tarn::tool {
 
-std::string_view word(Via via) {
-    constexpr std::string_view words[] = {"lut", "handle", "module", "bundle", "linked"};
-    return words[static_cast<std::size_t>(via)];
+Via via_named(std::string_view word) {
+    const std::vector<std::string> words = via_words();
+    return static_cast<Via>(std::find(words.begin(), words.end(), word) - words.begin());
 }
+
+std::vector<std::string> via_words() { return {"lut", "handle", "module", "bundle", "linked"}; }
 
 Reception::Reception(bool tracked, Via via) : handle_(tracked), via_(via) { enlist(); }
 

@@ -13,7 +13,8 @@ namespace tarn::tool {
 // Where the bundle handler is registered; the library tries these places in this order, the linked-in one last.
 enum class Via : std::uint8_t { lut, handle, module, bundle, linked };
 
-std::string_view word(Via via);
+Via via_named(std::string_view word);
+std::vector<std::string> via_words();
 
 class Reception {
 public:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 
 #include "lumo_ui_tarn.h"
 
@@ -104,9 +105,13 @@ void set_up_trace(bool verbose) {
     mirk_lumo_ui_tarn_message_trace_init();
     static std::uint64_t stub_state;
     skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &stub_state);
-    if (!verbose) return;
-    mirk_platform_trace_set_levels(~std::uint32_t{0});
-    mirk_platform_trace_set_sink(trace_to_standard_error, nullptr);
+    if (verbose) {
+        mirk_platform_trace_set_levels(~std::uint32_t{0});
+        mirk_platform_trace_set_sink(trace_to_standard_error, nullptr);
+    } else if (std::getenv("MIRK_TRACE") == nullptr) {
+        // Errors are told by the tool itself, with their place.
+        mirk_platform_trace_set_levels(1);
+    }
 }
 
 }  // namespace tarn::tool

@@ -33,6 +33,25 @@ private:
     bool tracked_;
 };
 
+// Whether messages are made with per-field state: as what is read says, or all alike.
+enum class Tracking : std::uint8_t { as_given, off, on };
+
+// One handle of each kind, since objects must not cross between them.
+class Handles {
+public:
+    explicit Handles(Tracking wanted) : wanted_(wanted) {}
+
+    const Handle &choose(bool given_tracked) const {
+        const bool tracked = wanted_ == Tracking::as_given ? given_tracked : wanted_ == Tracking::on;
+        return tracked ? tracked_ : plain_;
+    }
+    const Handle &plain() const { return plain_; }
+
+private:
+    Tracking wanted_;
+    Handle plain_{false}, tracked_{true};
+};
+
 // A plain message with its payload. The handle must live longer.
 class Message {
 public:

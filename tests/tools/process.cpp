@@ -1,0 +1,205 @@
+#include "process.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <thread>
+
+extern char **environ;
+
+namespace tool_test {
+
+namespace {
+
+void require(bool good, const char *what) {
+    if (!good) throw std::runtime_error(std::string(what) + ": " + std::strerror(errno));
+}
+
+std::string read_path(const std::string &path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string temporary_file() {
+    char name[] = "/tmp/tarn-test-XXXXXX";
+    const int descriptor = mkstemp(name);
+    require(descriptor >= 0, "mkstemp");
+    close(descriptor);
+    return name;
+}
+
+pid_t start(const std::vector<std::string> &arguments, const std::string &in, const std::string &out,
+            const std::string &err) {
+    std::vector<char *> words{const_cast<char *>(TARN_TOOL)};
+    for (const std::string &a : arguments) words.push_back(const_cast<char *>(a.c_str()));
+    words.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, in.c_str(), O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    pid_t pid = -1;
+    const int error = posix_spawn(&pid, TARN_TOOL, &actions, nullptr, words.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) throw std::runtime_error(std::string("posix_spawn: ") + std::strerror(error));
+    return pid;
+}
+
+int exit_of(int status) { return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status); }
+
+sockaddr_un address_of(const std::string &path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= sizeof address.sun_path) throw std::runtime_error("the path is too long for a socket");
+    std::memcpy(address.sun_path, path.c_str(), path.size());
+    return address;
+}
+
+}  // namespace
+
+Outcome tarn(const std::vector<std::string> &arguments, std::string_view input) {
+    const Directory directory;
+    const std::string in = directory.write("in", input);
+    const std::string out = directory.path("out"), err = directory.path("err");
+    int status = 0;
+    require(waitpid(start(arguments, in, out, err), &status, 0) >= 0, "waitpid");
+    return {exit_of(status), read_path(out), read_path(err)};
+}
+
+Process::Process(const std::vector<std::string> &arguments) : out_(temporary_file()), err_(temporary_file()) {
+    pid_ = start(arguments, "/dev/null", out_, err_);
+}
+
+Process::~Process() {
+    if (pid_ > 0) {
+        kill(pid_, SIGKILL);
+        waitpid(pid_, nullptr, 0);
+    }
+    unlink(out_.c_str());
+    unlink(err_.c_str());
+}
+
+bool Process::wait_for(std::string_view text) const {
+    for (int i = 0; i < 1000; ++i) {
+        if (read_path(out_).find(text) != std::string::npos) return true;
+        if (!is_running()) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return false;
+}
+
+bool Process::is_running() const {
+    siginfo_t info{};
+    return waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == 0;
+}
+
+void Process::signal(int number) const { kill(pid_, number); }
+
+Outcome Process::stop() {
+    signal(SIGTERM);
+    return finish();
+}
+
+Outcome Process::finish() {
+    int status = 0;
+    require(waitpid(pid_, &status, 0) >= 0, "waitpid");
+    pid_ = -1;
+    return {exit_of(status), read_path(out_), read_path(err_)};
+}
+
+Directory::Directory() {
+    char name[] = "/tmp/tarn-test-XXXXXX";
+    require(mkdtemp(name) != nullptr, "mkdtemp");
+    path_ = name;
+}
+
+Directory::~Directory() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+std::string Directory::write(const std::string &name, std::string_view content) const {
+    std::ofstream(path(name), std::ios::binary) << content;
+    return path(name);
+}
+
+std::string Directory::read(const std::string &name) const { return read_path(path(name)); }
+
+namespace {
+
+std::vector<std::string> answer_on(const std::string &socket, const std::vector<std::string> &more) {
+    std::vector<std::string> all{"answer", "--socket", socket};
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+}  // namespace
+
+Server::Server(const std::vector<std::string> &arguments)
+    : process_(answer_on(socket(), arguments)), ready_(process_.wait_for("answering on")) {}
+
+Outcome Server::show(const std::string &what, std::vector<std::string> more) const {
+    std::vector<std::string> all{"show", what, "--socket", socket()};
+    all.insert(all.end(), more.begin(), more.end());
+    return tarn(all);
+}
+
+Socket Socket::connect_to(const std::string &path) {
+    Socket socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+    const sockaddr_un address = address_of(path);
+    require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");
+    const timeval patience{10, 0};
+    setsockopt(socket.descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    return socket;
+}
+
+Socket Socket::listen_on(const std::string &path) {
+    Socket socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+    const sockaddr_un address = address_of(path);
+    require(bind(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "bind");
+    require(listen(socket.descriptor_, 8) == 0, "listen");
+    return socket;
+}
+
+Socket::~Socket() {
+    if (descriptor_ >= 0) close(descriptor_);
+}
+
+Socket Socket::accept() const {
+    Socket peer(::accept(descriptor_, nullptr, nullptr));
+    require(peer.descriptor_ >= 0, "accept");
+    return peer;
+}
+
+void Socket::send(std::string_view bytes) const {
+    while (!bytes.empty()) {
+        const ssize_t sent = ::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        if (sent <= 0) return;  // the other side may well have had enough
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+    }
+}
+
+std::string Socket::receive(std::size_t most) const {
+    std::string all;
+    char piece[4096];
+    while (all.size() < most) {
+        const ssize_t got = recv(descriptor_, piece, std::min(sizeof piece, most - all.size()), 0);
+        if (got <= 0) break;
+        all.append(piece, static_cast<std::size_t>(got));
+    }
+    return all;
+}
+
+}  // namespace tool_test

@@ -1,0 +1,62 @@
+// Payloads from the reference generator, and what the reference makes of them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "reference/codec.h"
+#include "reference/tables.h"
+#include "reference/text.h"
+#include "reference/value.h"
+
+namespace tool_test {
+
+inline std::string text_of(const reference::Bytes &bytes) { return {bytes.begin(), bytes.end()}; }
+
+// Without negative variants and the like, and with strings that survive XML.
+inline reference::Record plain_payload(const reference::MessageTable &message, std::uint64_t seed) {
+    reference::GeneratorOptions options;
+    options.printable = true;
+    options.states = false;
+    options.min_text = 1;
+    options.budget = 4000;
+    return reference::Generator(seed, options).make(message.payload);
+}
+
+// Whatever a frame may bring, strange variants included.
+inline reference::Record strange_payload(const reference::MessageTable &message, std::uint64_t seed) {
+    reference::GeneratorOptions options;
+    options.strange = true;
+    options.budget = 4000;
+    return reference::Generator(seed, options).make(message.payload);
+}
+
+inline std::string frame(const reference::MessageTable &message, const reference::Record &payload, bool tracked,
+                         std::uint32_t stamp = 0) {
+    return text_of(reference::message_frame(message.name, payload, tracked, stamp));
+}
+
+// The tool fills the gaps in front of nested closing lines with blanks.
+inline std::string shown(const reference::MessageTable &message, const reference::Record &payload) {
+    std::string text = reference::print_message(message.name, payload, ' ');
+    for (char &c : text) c = c == '\0' ? ' ' : c;
+    return text;
+}
+
+inline std::string control(const reference::BundleTable &bundle, const std::string &kind) {
+    return text_of(reference::control_frame(bundle.name, kind, 0));
+}
+
+// A whole answer: start, message, commit.
+inline std::string answer(const reference::BundleTable &bundle, const reference::Record &payload, bool tracked) {
+    return control(bundle, "start") + frame(reference::message_table(bundle.message), payload, tracked) +
+           control(bundle, "commit");
+}
+
+inline std::string short_form(const std::string &bundle) {
+    std::string text = bundle.substr(10, bundle.size() - 14);
+    for (char &c : text) c = c == '_' ? '-' : c;
+    return text;
+}
+
+}  // namespace tool_test

@@ -1,0 +1,53 @@
+// The asking side of the socket: one request, and the frames of its answer.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "reception.h"
+
+namespace tarn::tool {
+
+class Deadline {
+public:
+    explicit Deadline(double seconds)
+        : end_(std::chrono::steady_clock::now() + std::chrono::milliseconds(static_cast<long>(seconds * 1000))) {}
+    std::uint32_t left_ms() const;
+
+private:
+    std::chrono::steady_clock::time_point end_;
+};
+
+class Connection {
+public:
+    Connection(const std::string &path, const Deadline &deadline);
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    ~Connection() { mirk_platform_client_close(client_); }
+
+    const std::string &path() const { return path_; }
+    void ask(const reflect::BundleOperations &bundle, bool tracked);
+    // One whole frame, until the next call.
+    FrameBytes receive();
+
+private:
+    void check(mirk_platform_error error, const char *what) const;
+
+    std::string path_;
+    Deadline deadline_;
+    mirk_platform_client *client_ = nullptr;
+};
+
+struct Answer {
+    std::vector<Item> messages;
+    std::string frames;  // as they came
+};
+
+// Feeds the frames to the reception, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
+// not belong into this answer is a Failure.
+Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
+                      const std::function<void(const Frame &)> &feed = {});
+
+}  // namespace tarn::tool

@@ -1,0 +1,35 @@
+// Random payloads that look like what a router would say. The same seed gives the same payload everywhere.
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json_fwd.hpp>
+#include <random>
+#include <string>
+
+#include "schema/model.h"
+
+namespace tarn::tool {
+
+class Plausible {
+public:
+    // Processors and complexes stay at two; other lists get about `elements` elements, as far as their counts can tell.
+    Plausible(std::uint64_t seed, std::uint32_t elements) : random_(seed), elements_(elements) {}
+
+    nlohmann::ordered_json make(const schema::Record &record);
+
+private:
+    std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
+    nlohmann::ordered_json value(const schema::Record &record, const schema::Member &member, bool narrow_count);
+    std::uint64_t number(const schema::Record &record, const schema::Member &member);
+    std::string address();
+    std::string name(const schema::Member &member);
+    std::uint32_t length_of_list(const schema::Member &member, bool narrow_count);
+
+    std::mt19937_64 random_;
+    std::uint32_t elements_;
+    std::uint32_t index_ = 0;  // of the innermost element
+    std::uint64_t port_min_ = 0;
+    unsigned depth_ = 0;  // of lists
+};
+
+}  // namespace tarn::tool
