@@ -99,13 +99,13 @@ TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
             EXPECT_EQ(h->last_error, 0u);
             EXPECT_EQ(object(message)->payload, payload);
             const std::string record = payload_name(m), why = ": " + error_text(number);
-            EXPECT_EQ(traced(),
-                      (Lines{{"message", 7, "(debug): Error present when getting value for " + record + why},
-                             {"message", 7,
-                              "(debug): Error present getting detached " + record + " value for " + m.name + why},
-                             {"message", 7, "(debug): Error present when setting value for " + record + why},
-                             {"message", 7,
-                              "(debug): Error present when freeing and setting value for " + record + why}}));
+            EXPECT_EQ(
+                traced(),
+                (Lines{
+                    {"message", 7, "(debug): Error present when getting value for " + record + why},
+                    {"message", 7, "(debug): Error present getting detached " + record + " value for " + m.name + why},
+                    {"message", 7, "(debug): Error present when setting value for " + record + why},
+                    {"message", 7, "(debug): Error present when freeing and setting value for " + record + why}}));
         }
         m.destroy(h, kId, message);
         payload_of(m).destroy(h, kId, other);

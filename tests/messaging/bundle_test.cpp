@@ -197,8 +197,7 @@ TEST_F(Bundles, EveryTruncationIsAnErrorForTheDispatcherAndLeavesNothing) {
                     if (size < kFrameHead) continue;
                     write_length(cut, size);
                     Buffer frame(cut);
-                    const auto error =
-                        mirk_platform_dispatch(h, kId, frame.data(), frame.size(), nullptr, nullptr);
+                    const auto error = mirk_platform_dispatch(h, kId, frame.data(), frame.size(), nullptr, nullptr);
                     if (error == 0 || error == ENOSYS) ++unnoticed;
                     bundle_receive_message_list_destroy(h, kId, &err);
                     ASSERT_EQ(h.live_blocks(), 0u) << m.name << ", size " << size;

@@ -134,8 +134,8 @@ TEST(Catalogue, FramesOfTwoHandlesDifferInTheStampAlone) {
         EXPECT_EQ(frames[1].header.stamp, 101u);
         frames[1].header.stamp = 100;
         EXPECT_EQ(std::memcmp(&frames[0].header, &frames[1].header, sizeof frames[0].header), 0);
-        EXPECT_TRUE(std::equal(bytes[0].begin() + kHeaderSize, bytes[0].end(), bytes[1].begin() + kHeaderSize,
-                               bytes[1].end()));
+        EXPECT_TRUE(
+            std::equal(bytes[0].begin() + kHeaderSize, bytes[0].end(), bytes[1].begin() + kHeaderSize, bytes[1].end()));
     }
 }
 

@@ -150,10 +150,10 @@ TEST_F(ControlMessages, AllFormsOfMarshalWriteTheSameFrame) {
             mirk_platform_handle_set_message_stamp(h, 9);
             if (!is_start(c)) open(h, c);
             Buffer buffer(kFrameHead);
-            const std::uint32_t written =
-                form == 0   ? c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err)
-                : form == 1 ? c->marshal_unsafe(h, kId, buffer.data(), nullptr, kFrameHead, &err)
-                            : c->marshal_cr(h, nullptr, buffer.data(), kFrameHead);
+            const std::uint32_t written = form == 0 ? c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err)
+                                          : form == 1
+                                              ? c->marshal_unsafe(h, kId, buffer.data(), nullptr, kFrameHead, &err)
+                                              : c->marshal_cr(h, nullptr, buffer.data(), kFrameHead);
             EXPECT_EQ(written, 43u);
             EXPECT_EQ(buffer.first(43), expected);
             EXPECT_TRUE(buffer.untouched(43));

@@ -21,7 +21,8 @@ struct Handlers : Messaging {
         Messaging::TearDown();
     }
     // The frame through the dispatcher, so that there is an entry to be asked for.
-    mirk_platform_error dispatch(mirk_handle *h, const BundleOperations &b, std::string_view kind, void *context = nullptr) {
+    mirk_platform_error dispatch(mirk_handle *h, const BundleOperations &b, std::string_view kind,
+                                 void *context = nullptr) {
         Buffer frame(reference::control_frame(b.bundle->name, kind, 0));
         return mirk_platform_dispatch(h, kId, frame.data(), frame.size(), context, nullptr);
     }
@@ -113,9 +114,9 @@ TEST_F(Handlers, AnAbortDropsTheBundle) {
         EXPECT_EQ(dispatch(h, b, "abort"), 0u);
         EXPECT_EQ(h->recv_bundle_open, 0u);
         expect_no_dispatch(h);
-        EXPECT_EQ(traced(), (Lines{{"message", 7,
-                                    "(debug): Bundle aborting for " + name_of(b, "abort") + " with LUT " +
-                                        pointer(lut)}}));
+        EXPECT_EQ(traced(),
+                  (Lines{{"message", 7,
+                          "(debug): Bundle aborting for " + name_of(b, "abort") + " with LUT " + pointer(lut)}}));
         // Without an entry nothing is said.
         h->recv_bundle_open = 1;
         err = 0;
@@ -259,9 +260,9 @@ TEST_F(Handlers, TheStubOfABundleTracesFillersAndTouchesNoError) {
             return text.substr(0, length);
         };
         const std::size_t own = ("lumo_ui_tarn_" + std::string(b.bundle->name) + "_bundle_handler").size();
-        EXPECT_EQ(traced(), (Lines{{"stub", 3,
-                                    "(ERR): Call to unimplemented function " + filler(own) + " at " + filler(58) +
-                                        ":1"}}));
+        EXPECT_EQ(
+            traced(),
+            (Lines{{"stub", 3, "(ERR): Call to unimplemented function " + filler(own) + " at " + filler(58) + ":1"}}));
     }
 }
 
@@ -293,10 +294,10 @@ TEST_F(Handlers, TheModulesHandlerReachesTheSiblings) {
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(on_bundle<'1'>), nullptr);  // not what a sibling had
     EXPECT_EQ(lumo_ui_tarn_bundle_registered_handler, on_bundle<'1'>);
     for (const BundleOperations &b : bundles()) EXPECT_EQ(*b.registered_handler, nullptr);
-    for (const auto exchange : {veld_comm_bundle_handler_register, veld_defs_bundle_handler_register,
-                                veld_shared_bundle_handler_register, veld_stats_bundle_handler_register,
-                                veld_intf_bundle_handler_register, veld_cond_bundle_handler_register,
-                                veld_view_bundle_handler_register}) {
+    for (const auto exchange :
+         {veld_comm_bundle_handler_register, veld_defs_bundle_handler_register, veld_shared_bundle_handler_register,
+          veld_stats_bundle_handler_register, veld_intf_bundle_handler_register, veld_cond_bundle_handler_register,
+          veld_view_bundle_handler_register}) {
         EXPECT_EQ(exchange(on_bundle<'s'>), on_bundle<'1'>);
     }
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(on_bundle<'2'>), on_bundle<'1'>);

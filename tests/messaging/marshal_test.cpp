@@ -180,7 +180,7 @@ TEST_F(Marshal, TooLittleRoomForTheIdentityLeavesAZeroedHeader) {
             EXPECT_TRUE(buffer.untouched(kHeaderSize));
             EXPECT_EQ(traced(), (Lines{failed(m, EMSGSIZE)}));
             EXPECT_EQ(object(message)->header.total_length, 0u);
-            ASSERT_EQ(sent(h).size(), 1u);  // admitted
+            ASSERT_EQ(sent(h).size(), 1u);    // admitted
             EXPECT_EQ(sent(h)[0].count, 0u);  // but not sent
             m.destroy(h, kId, message);
         }
@@ -272,9 +272,10 @@ TEST_F(Marshal, AMessageThatTheBundleDoesNotList) {
             EXPECT_EQ(m.marshal(h, kId, room.data(), message, room.size(), &err), 0u);
             EXPECT_EQ(err, std::uint32_t{ENOENT});
             EXPECT_TRUE(room.untouched());
-            EXPECT_EQ(traced(), (Lines{{"message", 3,
-                                        "(ERR): Message " + std::string(m.name) + " is not valid for bundle: " +
-                                            error_text(ENOENT)}}));
+            EXPECT_EQ(
+                traced(),
+                (Lines{{"message", 3,
+                        "(ERR): Message " + std::string(m.name) + " is not valid for bundle: " + error_text(ENOENT)}}));
             EXPECT_EQ(h->send_bundle_open, 1u);
             EXPECT_TRUE(sent(h).empty());
             m.destroy(h, kId, message);

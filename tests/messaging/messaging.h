@@ -234,8 +234,12 @@ void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, std::ui
 // ---- dispatcher ----
 
 inline void register_message(mirk_handle *h, const MessageOperations &m, mirk_message_handler handler = nullptr) {
-    const mirk_platform_message entry{m.luid, m.name, m.unmarshal, m.message != nullptr ? m.unmarshal_only : nullptr,
-                                      m.message != nullptr ? m.destroy : nullptr, handler};
+    const mirk_platform_message entry{m.luid,
+                                      m.name,
+                                      m.unmarshal,
+                                      m.message != nullptr ? m.unmarshal_only : nullptr,
+                                      m.message != nullptr ? m.destroy : nullptr,
+                                      handler};
     ASSERT_EQ(mirk_platform_dispatch_register(h, &entry), 0u);
 }
 inline void register_all(mirk_handle *h, mirk_message_handler handler = nullptr) {

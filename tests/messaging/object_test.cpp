@@ -247,15 +247,15 @@ TEST_F(MessageObjects, EverythingIsDoneUnderTheIdOfTheCall) {
         mirk_platform_handle_set_default_id(h, 77);
         Events events(h);
         m.destroy(h, 5, m.create(h, 5));
-        for (const auto kind : {MIRK_PLATFORM_TESTING_ALLOC, MIRK_PLATFORM_TESTING_FREE,
-                                MIRK_PLATFORM_TESTING_COUNT_NOTIFY}) {
+        for (const auto kind :
+             {MIRK_PLATFORM_TESTING_ALLOC, MIRK_PLATFORM_TESTING_FREE, MIRK_PLATFORM_TESTING_COUNT_NOTIFY}) {
             ASSERT_FALSE(events.of(kind).empty());
             for (const auto &event : events.of(kind)) EXPECT_EQ(event.ctx_id, 5u);
         }
         events.all.clear();
         m.destroy_cr(h, m.create_cr(h));
-        for (const auto kind : {MIRK_PLATFORM_TESTING_ALLOC, MIRK_PLATFORM_TESTING_FREE,
-                                MIRK_PLATFORM_TESTING_COUNT_NOTIFY}) {
+        for (const auto kind :
+             {MIRK_PLATFORM_TESTING_ALLOC, MIRK_PLATFORM_TESTING_FREE, MIRK_PLATFORM_TESTING_COUNT_NOTIFY}) {
             for (const auto &event : events.of(kind)) EXPECT_EQ(event.ctx_id, 77u);
         }
     }

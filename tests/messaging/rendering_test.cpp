@@ -19,9 +19,13 @@ struct Document {
     void *document;
 };
 
-constexpr reference::GeneratorOptions kPrintable{
-    .min_elements = 1, .max_elements = 2, .min_text = 1, .max_text = 8, .budget = 2000, .states = false,
-    .printable = true};
+constexpr reference::GeneratorOptions kPrintable{.min_elements = 1,
+                                                 .max_elements = 2,
+                                                 .min_text = 1,
+                                                 .max_text = 8,
+                                                 .budget = 2000,
+                                                 .states = false,
+                                                 .printable = true};
 
 struct Rendering : Messaging {
     void SetUp() override {
@@ -94,9 +98,10 @@ TEST_F(Rendering, DoesNothingButTraceWhenTheErrorIsSet) {
         EXPECT_EQ(m.to_xml(h, kId, buffer.text(), message, 1000, &err), 0u);
         EXPECT_EQ(m.from_xml(h, kId, nullptr, &err, nullptr, 0), nullptr);
         const std::string name = m.name, why = ": " + error_text(EPERM);
-        EXPECT_EQ(traced(), (Lines{{"message", 7, "(debug): Already have error when printing " + name + why},
-                                   {"message", 7, "(debug): Already have error when rendering XML for " + name + why},
-                                   {"message", 7, "(debug): Already have error when rendering " + name + " to XML" + why}}));
+        EXPECT_EQ(traced(),
+                  (Lines{{"message", 7, "(debug): Already have error when printing " + name + why},
+                         {"message", 7, "(debug): Already have error when rendering XML for " + name + why},
+                         {"message", 7, "(debug): Already have error when rendering " + name + " to XML" + why}}));
         EXPECT_EQ(m.print_cr(h, message, buffer.text(), 1000), 0xFFFFFFFFu);
         EXPECT_EQ(m.toxml_cr(h, message, buffer.text(), 1000), 0xFFFFFFFFu);
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
@@ -258,7 +263,8 @@ TEST_F(Recorder, WritesEachReceivedMessageAndNothingElse) {
     mirk_platform_recorder_set(1, file);
     Handle h;
     for (const MessageOperations &m : messages()) {
-        const reference::Record value = sample(m, 1, {.max_elements = 0, .max_text = 5, .states = false, .printable = true});
+        const reference::Record value =
+            sample(m, 1, {.max_elements = 0, .max_text = 5, .states = false, .printable = true});
         Buffer frame(frame_of(m, value, false));
         handler_calls.clear();
         m.unmarshal(h, kId, nullptr, nullptr, frame.data(), frame.size(), on_message, &err);
@@ -320,8 +326,8 @@ TEST_F(Recorder, WithoutAStreamItTracesAndTheHandlerRuns) {
         void *message = nullptr;
         err = 0;
         m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), on_message, &err);
-        EXPECT_EQ(traced(), (Lines{{"message", 3,
-                                    "(ERR): MIRK record - NULL file handle for message " + std::string(m.name)}}));
+        EXPECT_EQ(traced(),
+                  (Lines{{"message", 3, "(ERR): MIRK record - NULL file handle for message " + std::string(m.name)}}));
         ASSERT_EQ(handler_calls.size(), 1u);
         EXPECT_EQ(handler_calls[0].err, 0u);
         m.destroy(h, kId, message);

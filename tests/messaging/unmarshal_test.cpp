@@ -53,8 +53,8 @@ TEST_F(Unmarshal, DeliversToTheHandlerThatItWasGiven) {
         for (const bool wants_it : {true, false}) {
             handler_calls.clear();
             void *message = &context;
-            EXPECT_EQ(m.unmarshal(h, kId, &context, wants_it ? &message : nullptr, frame.data(), frame.size(), on_message,
-                                  &err),
+            EXPECT_EQ(m.unmarshal(h, kId, &context, wants_it ? &message : nullptr, frame.data(), frame.size(),
+                                  on_message, &err),
                       frame.size());
             ASSERT_EQ(handler_calls.size(), 1u);
             const HandlerCall &call = handler_calls[0];
@@ -82,9 +82,10 @@ TEST_F(Unmarshal, WithoutAHandlerTheStubSaysThatNobodyTookTheMessage) {
         EXPECT_EQ(m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
         EXPECT_EQ(err, std::uint32_t{ENOSYS});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSYS});
-        EXPECT_EQ(traced(), (Lines{{"stub", 6,
-                                    "(info): stub default handler lumo_ui_tarn_" + std::string(m.name) +
-                                        "_message handler called"}}));
+        EXPECT_EQ(
+            traced(),
+            (Lines{{"stub", 6,
+                    "(info): stub default handler lumo_ui_tarn_" + std::string(m.name) + "_message handler called"}}));
         ASSERT_NE(message, nullptr);
         m.destroy(h, kId, message);
     }
@@ -248,7 +249,8 @@ TEST_F(Unmarshal, EveryAllocationMayFail) {
                 void *message = nullptr;
                 err = 0;
                 m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
-                const std::uint64_t made = mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC) - before;
+                const std::uint64_t made =
+                    mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC) - before;
                 if (message != nullptr) m.destroy(h, kId, message);
                 ASSERT_EQ(h.live_blocks(), 0u) << "after failure of allocation " << nth;
                 if (made < nth) break;

@@ -21,13 +21,20 @@ std::string class_name(const schema::Member &m) {
     if (m.role == Role::count) return "count";
     if (m.role == Role::length) return "length";
     switch (m.kind) {
-        case Kind::boolean: return "boolean";
-        case Kind::address: return "address";
-        case Kind::enumeration: return "enumeration";
-        case Kind::record: return "nested";
-        case Kind::string: return "string";
-        case Kind::array: return "array";
-        default: return "integer";
+        case Kind::boolean:
+            return "boolean";
+        case Kind::address:
+            return "address";
+        case Kind::enumeration:
+            return "enumeration";
+        case Kind::record:
+            return "nested";
+        case Kind::string:
+            return "string";
+        case Kind::array:
+            return "array";
+        default:
+            return "integer";
     }
 }
 

@@ -26,12 +26,12 @@ schema::Finding lint_of(const std::vector<Member> &members, std::string_view nam
     return lint(schema::Record{name, some_luid, "a record", members});
 }
 
-#define EXPECT_FINDING(finding, named, said)                             \
-    do {                                                                 \
-        const schema::Finding found_ = (finding);                        \
-        EXPECT_TRUE(static_cast<bool>(found_));                          \
-        EXPECT_EQ(found_.member, named);                                 \
-        EXPECT_EQ(found_.sentence, said);                                \
+#define EXPECT_FINDING(finding, named, said)      \
+    do {                                          \
+        const schema::Finding found_ = (finding); \
+        EXPECT_TRUE(static_cast<bool>(found_));   \
+        EXPECT_EQ(found_.member, named);          \
+        EXPECT_EQ(found_.sentence, said);         \
     } while (false)
 
 TEST(Lint, FindsNothingInTheTablesOfTheCatalogue) {
@@ -80,7 +80,8 @@ TEST(Lint, NamesAndMeaningsOfMembers) {
     EXPECT_FINDING(lint_of({schema::u8("Size", "x")}), "Size",
                    "a member's name is lower-case letters, digits and underscores");
     EXPECT_FINDING(lint_of({schema::u8("", "x")}), "", "a member's name is lower-case letters, digits and underscores");
-    EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "")}), "b", "a member says in a phrase what it means");
+    EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "")}), "b",
+                   "a member says in a phrase what it means");
     EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "x"), schema::u16("a", "x")}), "a",
                    "two members of one record have the same name");
 }

@@ -120,7 +120,7 @@ TEST(Exports, NothingIsUsedButTheContractAndTheCLibrary) {
     const std::set<std::string> contract = declared_words();
     ASSERT_TRUE(contract.contains("mirk_store_err"));
     ASSERT_FALSE(contract.contains("printf"));
-    const std::set<std::string> c_library = {"abort",  "free",   "fwrite",   "malloc",   "memcmp", "memcpy",
+    const std::set<std::string> c_library = {"abort",  "free",    "fwrite",   "malloc",   "memcmp", "memcpy",
                                              "memset", "memmove", "snprintf", "strerror", "strlen", "strncpy"};
     const std::set<std::string> linker = {"__cxa_finalize", "__gmon_start__", "_ITM_deregisterTMCloneTable",
                                           "_ITM_registerTMCloneTable", "__stack_chk_fail"};
@@ -148,7 +148,8 @@ TEST(Exports, HandlersAreNotBoundInsideTheLibrary) {
         const std::size_t at = line.find("lumo_ui_tarn_");
         if (at == std::string::npos) continue;
         const std::string name = line.substr(at, line.find_first_of(" @+", at) - at);
-        if (name.ends_with("_handler") && !name.ends_with("_registered_handler") && seen.insert(name).second) ++handlers;
+        if (name.ends_with("_handler") && !name.ends_with("_registered_handler") && seen.insert(name).second)
+            ++handlers;
     }
     EXPECT_EQ(handlers, 54);
 }

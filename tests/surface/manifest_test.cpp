@@ -197,8 +197,8 @@ TEST_F(Manifest, TakesItsTimeFromTheSourceDate) {
 }
 
 TEST_F(Manifest, TakesTheValuesThatThePackagerGives) {
-    const std::string manifest = made("env -u SOURCE_DATE_EPOCH",
-                                      "built_by=someone on_host=somewhere pid=42 at=today 'comment=one = two'");
+    const std::string manifest =
+        made("env -u SOURCE_DATE_EPOCH", "built_by=someone on_host=somewhere pid=42 at=today 'comment=one = two'");
     EXPECT_EQ(stamp_of(manifest),
               "lumo_ui_tarn\nbuilt by: someone\non host: somewhere\npid: 42\nat: today\ncomment: one = two\n");
 }
