@@ -21,20 +21,57 @@ struct Options {
     bool tracked = false, bundle = false;
 };
 
+// Bytes of a payload's frame, without reading it into an instance first.
+std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &record, bool tracked) {
+    std::size_t size = 6;
+    for (const schema::Member &m : record.members) {
+        if (m.role != schema::Role::value) {
+            size += std::size_t{1} << static_cast<unsigned>(m.kind);
+            continue;
+        }
+        const nlohmann::ordered_json &value = json[std::string(m.name)];
+        std::size_t states = 1;
+        switch (m.kind) {
+            case schema::Kind::boolean:
+                size += 2;
+                break;
+            case schema::Kind::enumeration:
+                size += 5;
+                break;
+            case schema::Kind::address:
+                size += tracked ? 33 : 26;
+                break;
+            case schema::Kind::record:
+                size += wire_size(value, *m.record, tracked);
+                break;
+            case schema::Kind::string:
+                size += value.get_ref<const std::string &>().size();
+                break;
+            case schema::Kind::array:
+                for (const auto &element : value) size += wire_size(element, *m.record, tracked);
+                states = value.empty() ? 0 : 1 + value.size();
+                break;
+            default:
+                size += std::size_t{1} << static_cast<unsigned>(m.kind);
+        }
+        size += tracked ? states : 0;
+    }
+    return size;
+}
+
 class Generator {
 public:
     Generator(const Options &options, const reflect::MessageOperations &operations)
         : options_(options), operations_(operations), handles_(options.tracked ? Tracking::on : Tracking::off) {}
 
     Item make(std::uint32_t elements) const {
-        const nlohmann::ordered_json json{
-            {"message", operations_.name},
-            {"payload", Plausible(options_.seed, elements).make(operations_.message->payload)}};
+        const nlohmann::ordered_json json{{"message", operations_.name}, {"payload", payload(elements)}};
         return std::move(from_json(handles_, json.dump(), "generated", false).front());
     }
-    // The least number of elements whose frame is at least as large as asked for, or the greatest that makes a
-    // difference.
-    Item make_of_size(std::uint64_t size) const {
+
+    // The least number of elements whose frame is at least as large as asked for, or, if no number reaches that, one
+    // beyond which the frame does not grow.
+    std::uint32_t elements_for(std::uint64_t size) const {
         Progress progress("looking for the size");
         std::uint32_t most = 1;
         std::size_t reached = size_of(most), before = 0;
@@ -45,15 +82,18 @@ public:
         std::uint32_t least = most / 2 + 1;
         while (least < most) {
             const std::uint32_t middle = least + (most - least) / 2;
-            (size_of(middle) < size ? least : most) = size_of(middle) < size ? middle + 1 : middle;
+            const bool too_small = size_of(middle) < size;
+            (too_small ? least : most) = too_small ? middle + 1 : middle;
         }
-        return make(most);
+        return most;
     }
 
 private:
+    nlohmann::ordered_json payload(std::uint32_t elements) const {
+        return Plausible(options_.seed, elements).make(operations_.message->payload);
+    }
     std::size_t size_of(std::uint32_t elements) const {
-        const Item item = make(elements);
-        return frame_of(item.message->handle(), operations_, item.object()).size();
+        return MIRK_PLATFORM_FRAME_SIZE + wire_size(payload(elements), operations_.message->payload, options_.tracked);
     }
 
     const Options &options_;
@@ -87,7 +127,7 @@ void run(const Options &options) {
     const reflect::BundleOperations *bundle = nullptr;
     const reflect::MessageOperations &operations = message_for(options.what, bundle);
     const Generator generator(options, operations);
-    const Item item = options.size != 0 ? generator.make_of_size(options.size) : generator.make(options.elements);
+    const Item item = generator.make(options.size != 0 ? generator.elements_for(options.size) : options.elements);
     std::string out;
     const auto control = [&](Control c) {
         if (!options.bundle) return;

@@ -71,6 +71,7 @@ std::uint64_t Plausible::number(const Record &record, const Member &m) {
     if (m.name == "size" || ends(m, "_size")) return std::min<std::uint64_t>(limit, 64 << below(10));
     if (ends(m, "_time")) return 1700000000 + below(100000);
     if (m.name == "id" || ends(m, "_id")) return (1000 + std::uint64_t{index_}) & limit;
+    if (ends(m, "type") || m.name == "state") return below(4);
     if (m.name == "min_mask") return 8 + below(25);
     if (has(m, "flags")) return below(256);
     if (m.name == "total_prefixes" && record.members.size() > 1) return std::uint64_t{elements_} + below(100);
