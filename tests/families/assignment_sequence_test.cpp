@@ -1,1 +1,93 @@
-// to come
+// The calls of whole-record assignment and of the clean-up behind a move.
+#include <cerrno>
+
+#include "observed.h"
+
+using namespace families;
+
+namespace {
+
+using AssignmentSequence = Sequence;
+
+TEST_F(AssignmentSequence, OfEveryRecord) {
+    for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
+        Handle h({tracking});
+        each_record([&](const RecordOperations &r) {
+            forget();
+            void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
+            const Pair pair{top_level(r, "to"), top_level(r, "from")};
+            EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), set_lines(r, pair, {tracking == Tracking::on}));
+            EXPECT_EQ(err, 0u);
+        });
+    }
+}
+
+TEST_F(AssignmentSequence, BetweenObjectsWithPlacesOfTheirOwn) {
+    Handle h({Tracking::on});
+    each_record([&](const RecordOperations &r) {
+        forget();
+        void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
+        h.set_state_offset(from, table(r).base);
+        h.set_state_offset(to, table(r).base);
+        const Pair pair{top_level(r, "to"), top_level(r, "from")};
+        EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), set_lines(r, pair, {true, true, true}));
+    });
+}
+
+TEST_F(AssignmentSequence, OfNullAndToItself) {
+    Handle h({Tracking::on});
+    each_record([&](const RecordOperations &r) {
+        forget();
+        void *object = make_object(h, r);
+        const std::string adjusted = "mirklib_adjust_variant object " + name(r) + " 0";
+        EXPECT_EQ(lines_of([&] { r.set(h, id, object, object, &err); }), (Lines{adjusted}));
+        EXPECT_EQ(lines_of([&] { r.set(h, id, object, nullptr, &err); }), (Lines{adjusted, "mirk_store_err 22"}));
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        err = 0;
+    });
+}
+
+// What is in nested records is given up as well, since the raw copy has reached it.
+Lines give_up_everything(const RecordOperations &r, const Spot &from) {
+    Lines lines;
+    for (const MemberOperations &m : r.members) {
+        if (m.member->kind == Kind::record) append(lines, give_up_everything(nested_record(m), from.member(r, m)));
+        if (owns_block(m)) append(lines, give_up(r, m, from));
+    }
+    return lines;
+}
+
+TEST_F(AssignmentSequence, ForWantOfTrackingTheBlocksChangeHandsAllTheSame) {
+    Handle h({Tracking::on});
+    each_record([&](const RecordOperations &r) {
+        for (bool source_lacks_it : {false, true}) {
+            forget();
+            void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
+            header(source_lacks_it ? from : to)->obj_flag = 0;
+            Lines expected{"mirklib_adjust_variant to " + name(r) + " 0",
+                           "write_notify to " + std::to_string(table(r).base)};
+            append(expected, give_up_everything(r, top_level(r, "from")));
+            append(expected, {"mirk_store_err 22", "skald_wrapper type 3 (ERR): The object is not state tracked"});
+            EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), expected);
+            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(header(to)->obj_flag & tracked, 0);
+            err = 0;
+        }
+    });
+}
+
+TEST_F(AssignmentSequence, OfTheCleanUpBehindAMove) {
+    for (Tracking tracking : {Tracking::none, Tracking::on}) {
+        Handle h({tracking});
+        const bool on = tracking == Tracking::on;
+        each_record([&](const RecordOperations &r) {
+            forget();
+            void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
+            const Pair pair{top_level(r, "to"), top_level(r, "from")};
+            EXPECT_EQ(lines_of([&] { r.post_copyout_cleanup(h, id, to, from, &err); }), cleanup_lines(r, pair, on));
+            EXPECT_EQ(err, 0u);
+        });
+    }
+}
+
+}  // namespace

@@ -66,7 +66,7 @@ TEST_F(InitializeSequence, WithAndWithoutAnnouncementsAndCounts) {
                     std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
                     observing::name_region("object", storage.data(), table(r).tracked);
-                    Setup s;
+                    Making s;
                     s.on = tracking == Tracking::on;
                     s.notify = notify;
                     s.skip = skip;
@@ -89,7 +89,7 @@ TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
                     std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
                     observing::name_region("object", storage.data(), table(r).tracked);
-                    Setup s;
+                    Making s;
                     s.on = tracking == Tracking::on;
                     s.is_nested = is_nested;
                     s.has_entry = has_entry;

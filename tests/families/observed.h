@@ -16,7 +16,7 @@ inline void *make_object(const Handle &h, const RecordOperations &r, const char 
     observing::quiet();
     void *object = r.create(h, id);
     observing::quiet(false);
-    observing::name_region(called, object, table(r).tracked);
+    observing::name_region(called, object, r.sizeof_(h));
     return object;
 }
 
@@ -32,6 +32,7 @@ protected:
     void forget() {
         observing::clear_names();
         observing::clear_log();
+        observing::name_region("slot", &err, sizeof err);
     }
     uint32_t err = 0;
 };
@@ -100,7 +101,7 @@ inline Lines offset_remove_lines(const RecordOperations &r, const Spot &spot) {
     return lines;
 }
 
-struct Setup {
+struct Making {
     bool on = false;
     bool private_types = false;
     uint32_t notify = 1, skip = 0;
@@ -109,7 +110,7 @@ struct Setup {
     std::string base = "null";  // the sttr_base that is given
 };
 
-inline Lines header_lines(const std::string &type, const Spot &spot, const Setup &s) {
+inline Lines header_lines(const std::string &type, const Spot &spot, const Making &s) {
     Lines lines{"mirk_clear_last_error", "mirk_domain_lookup_variant " + type};
     const auto tell = [&](uint32_t offset, uint32_t size) {
         if (s.notify != 0) lines.push_back("write_notify " + spot.text(offset) + " " + std::to_string(size));
@@ -122,12 +123,12 @@ inline Lines header_lines(const std::string &type, const Spot &spot, const Setup
     return lines;
 }
 
-inline void append_count(Lines &lines, const std::string &type, const Setup &s) {
+inline void append_count(Lines &lines, const std::string &type, const Making &s) {
     const std::string counters = type + (s.private_types ? "(copy)" : "");
     append(lines, {"count_notify " + counters + ".num_created 1", "count_notify " + counters + ".num_live 1"});
 }
 
-inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Setup s) {
+inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Making s) {
     Lines lines = header_lines(name(r), spot, s);
     if (s.on && s.notify != 0) lines.push_back("write_notify " + spot.text(10) + " 1");
     if (s.skip == 0) append_count(lines, name(r), s);
@@ -141,7 +142,7 @@ inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Setup
     } else if (placed && s.has_entry) {
         lines.push_back("mirklib_get_sttr_offset " + spot.text());
     }
-    Setup inner = s;
+    Making inner = s;
     inner.is_nested = true;
     inner.has_entry = gives_offsets;
     for (const MemberOperations &m : r.members) {
@@ -185,6 +186,67 @@ inline Lines destroy_lines(const RecordOperations &r, const Spot &spot, const En
     append(lines, {"count_notify " + name(r) + ".num_destroyed 1", "count_notify " + name(r) + ".num_live -1"});
     if (e.has_entry && e.mapping) lines.push_back("mirk_hd_mapping_destroy " + spot.text());
     if (e.frees) append(lines, {"write_notify " + spot.text() + " 8", "obj_free " + spot.text()});
+    return lines;
+}
+
+// Both objects stand for themselves, as regions of their own.
+struct Pair {
+    Spot to, from;
+};
+
+inline Lines give_up(const RecordOperations &r, const MemberOperations &m, const Spot &from) {
+    const MemberOperations &counter = r.members[index_of(r, m) - 1];
+    return {"write_notify " + from.text(offset(r, m)) + " 8",
+            "write_notify " + from.text(offset(r, counter)) + " " + std::to_string(width(counter))};
+}
+
+inline bool owns_block(const MemberOperations &m) {
+    return m.member->kind == Kind::array || m.member->kind == Kind::string;
+}
+
+struct Circumstances {
+    bool on = false;
+    bool to_placed = false, from_placed = false;
+};
+
+inline Lines set_lines(const RecordOperations &r, const Pair &p, const Circumstances &c) {
+    Lines lines{"mirklib_adjust_variant " + p.to.text() + " " + name(r) + " 0",
+                "write_notify " + p.to.text() + " " + std::to_string(table(r).base)};
+    if (c.on) {
+        if (c.to_placed) lines.push_back("mirklib_get_sttr_offset " + p.to.text());
+        append(lines, offset_update_lines(r, p.to));
+        if (c.from_placed) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
+    }
+    for (const MemberOperations &m : r.members) {
+        if (!has_area(m)) continue;
+        const Pair inner{p.to.member(r, m), p.from.member(r, m)};
+        if (m.member->kind == Kind::address) {
+            lines.push_back("ip_address_set " + inner.to.text() + " " + inner.from.text());
+        } else {
+            append(lines, set_lines(nested_record(m), inner, {c.on, c.on, c.on}));
+        }
+    }
+    for (const MemberOperations &m : r.members) {
+        if (owns_block(m)) append(lines, give_up(r, m, p.from));
+        if (m.member->kind != Kind::array || !c.on) continue;
+        if (c.from_placed) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
+        lines.push_back("write_notify " + p.from.state(place(r, m).area) + " 8");
+    }
+    return lines;
+}
+
+inline Lines cleanup_lines(const RecordOperations &r, const Pair &p, bool on) {
+    Lines lines;
+    for (const MemberOperations &m : r.members) {
+        const Pair inner{p.to.member(r, m), p.from.member(r, m)};
+        if (m.member->kind == Kind::address) {
+            lines.push_back("ip_address_set " + inner.to.text() + " " + inner.from.text());
+        } else if (m.member->kind == Kind::record) {
+            append(lines, set_lines(nested_record(m), inner, {on, on, on}));
+        } else if (owns_block(m)) {
+            append(lines, give_up(r, m, p.from));
+        }
+    }
     return lines;
 }
 
