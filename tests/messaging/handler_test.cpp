@@ -267,12 +267,17 @@ TEST_F(Handlers, TheStubOfABundleTracesFillersAndTouchesNoError) {
 }
 
 // The numbers of the process before anything of the test ran.
+const std::uint16_t message_module_at_start = g_mirk_lumo_ui_tarn_message_trace_module_id;
 const std::uint16_t stub_module_at_start = g_mirk_lumo_ui_tarn_stub_trace_module_id;
 const std::uint16_t queue_module_at_start = g_mirk_lumo_ui_tarn_queue_trace_module_id;
 
-TEST_F(Handlers, TheStubModuleHasNoNumberUntilTheProcessGivesItOne) {
+// A process initialises the trace of messages itself; the library has no use for the other two numbers.
+TEST_F(Handlers, TheTraceModulesOfMessagesHaveNoNumberUntilTheProcessGivesThemOne) {
+    EXPECT_EQ(message_module_at_start, 0);
     EXPECT_EQ(stub_module_at_start, 0);
     EXPECT_EQ(queue_module_at_start, 0);
+    EXPECT_NE(g_mirk_lumo_ui_tarn_message_trace_module_id, 0);
+    EXPECT_EQ(g_mirk_lumo_ui_tarn_queue_trace_module_id, 0);
 }
 
 TEST_F(Handlers, ABundlesVariableIsExchanged) {

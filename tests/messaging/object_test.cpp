@@ -213,7 +213,7 @@ TEST_F(MessageObjects, CreateWithoutMemoryGivesNullAndCountsNothing) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         const mirk_variant_entry before = counters(m);
-        for (const std::uint64_t nth : {1, 2}) {
+        for (const std::uint64_t nth : {std::uint64_t{1}, std::uint64_t{2}}) {
             Handle h;
             fail_obj_alloc(h, nth);
             EXPECT_EQ(m.create(h, kId), nullptr);
