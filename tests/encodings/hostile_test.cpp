@@ -72,8 +72,8 @@ private:
 TEST_P(HostileFrames, CutAtEveryByte) {
     for (const Peer &peer : kPeers) {
         for (const bool tracked : {false, true}) {
-            // Without a descriptor everything is as with tracking off.
-            if (peer.tracking == Tracking::off && !tracked) continue;
+            // Frames without states take the same ways in fewer steps.
+            if (!tracked && (peer.reuse != 0 || peer.tracking == Tracking::off)) continue;
             const Bytes whole = frame(tracked);
             read_many(peer, whole.size(), [&](std::size_t size) {
                 return Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));

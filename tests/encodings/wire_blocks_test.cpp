@@ -196,6 +196,16 @@ TEST(WireBlocks, ACountOrLengthBesideNothingIsWrittenAlone) {
                              bridge::marshal(handle, appl.record(), appl.get()).bytes));
 }
 
+// A fill of the whole state area covers the vector's address too; then each element's state is that byte.
+TEST(WireBlocks, AFilledStateAreaGoesOutAsItsByte) {
+    Handle handle(Tracking::on);
+    const Instance instance(handle, tc_list(2));
+    instance.record().set_all_state_tracking_flag(handle, kId, instance.get(), 0x21);
+    const Bytes frame = bridge::marshal(handle, instance.record(), instance.get()).bytes;
+    EXPECT_EQ(Bytes(frame.end() - 3, frame.end()), (Bytes{0x21, 0x21, 0x21}));
+    handle.expect_lost_blocks(1);  // the vector
+}
+
 // Calls of the runtime, of which a walk may make only so many for each element.
 struct Calls {
     std::size_t count = 0, allocations = 0;

@@ -213,6 +213,21 @@ TEST(WireSequence, AStringIsReleasedAnnouncedAndAllocated) {
     }
 }
 
+// Unlike the states of single values, which are stepped over there too.
+TEST(WireSequence, ASkippedStateOfAStringIsNotSteppedOverAtTheLastByte) {
+    Wire w("lumo_tarn_cl_kesh_appl", Tracking::off);
+    w.text(1, "abc");
+    w.handle.set_tracking(Tracking::on);
+    w.write();
+    w.handle.set_tracking(Tracking::off);
+    w.forget();
+    w.read(12, 1);
+    EXPECT_EQ(observing::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+11 object+24 1 1");
+    w.forget();
+    w.read(13, 1);
+    EXPECT_EQ(observing::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+12 object+24 1 1");
+}
+
 TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     static_cast<mirk_object *>(w.instance)->obj_flag |= 32;

@@ -17,7 +17,7 @@ void use(mirk_handle *h, const Instance &instance) {
     record.marshal(h, kId, buffer, instance.get(), size, &err);
     record.len(h, kId, instance.get());
     EXPECT_EQ(record.compare(instance.get(), instance.get()), 0);
-    EXPECT_EQ(record.hash(instance.get(), 0), record.hash(instance.get(), 0));
+    record.hash(instance.get(), 0);
 }
 
 }  // namespace wire

@@ -319,7 +319,28 @@ TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
     }
 }
 
-using WireDeathTest = testing::TestWithParam<const RecordTable *>;
+TEST(Wire, OfANullInstanceNoMemberCanBeWritten) {
+    for (const Tracking tracking : bridge::kEveryTracking) {
+        const Handle handle(tracking);
+        for (const RecordTable &table : reference::records()) {
+            const Instance nothing(handle, bridge::operations(table.name), nullptr);
+            const Written written = write(handle, nothing, 4096);
+            EXPECT_EQ(written.error, 22U) << table.name;
+            EXPECT_EQ(written.buffer[1], handle.tracks() ? kTracked : 0);
+        }
+    }
+}
+
+class WireDeathTest : public testing::TestWithParam<const RecordTable *> {
+protected:
+    // While lines are captured only those of level 0 still go to standard error.
+    const Traces traces;
+
+    static std::string fatal(const char *text) {
+        return std::string(mirk_platform_trace_module_name(g_mirk_lumo_ui_tarn_type_trace_module_id)) +
+               ": \\(FATAL\\): " + text;
+    }
+};
 
 TEST_P(WireDeathTest, ACorruptModeIsTheEnd) {
     const Handle handle(Tracking::on);
@@ -327,7 +348,7 @@ TEST_P(WireDeathTest, ACorruptModeIsTheEnd) {
     std::vector<std::uint8_t> buffer(8192);
     std::uint32_t err = 0;
     handle->sttr_desc->sttr_mode = 0x1234;
-    const char *told = "\\(FATAL\\): Corrupted MIRK Handle";
+    const std::string told = fatal("Corrupted MIRK Handle");
     EXPECT_DEATH(instance.record().len(handle, kId, instance.get()), told);
     EXPECT_DEATH(instance.record().marshal(handle, kId, buffer.data(), instance.get(), 8000, &err), told);
     EXPECT_DEATH(instance.record().unmarshal(handle, kId, buffer.data(), instance.get(), 8000, 0, &err), told);
@@ -339,7 +360,7 @@ TEST_P(WireDeathTest, ATargetWithoutStateOnATrackingHandleIsTheEnd) {
     const Instance instance(handle, GetParam()->name);
     instance.header()->obj_flag &= static_cast<std::uint8_t>(~kTracked);
     EXPECT_DEATH(read(handle, instance, Bytes{0, 0, 0, 0, 0, 4}),
-                 "\\(FATAL\\): MIRK handle and object state tracking mis-match");
+                 fatal("MIRK handle and object state tracking mis-match"));
     instance.header()->obj_flag |= kTracked;
 }
 
