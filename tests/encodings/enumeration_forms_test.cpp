@@ -140,7 +140,8 @@ std::string shown(const EnumerationOperations &e, std::uint32_t value) {
     return value < bound(e) ? std::string(e.enumeration->enumerators[value]) + "\n" : "Enum value out of range";
 }
 std::string element_of(const EnumerationOperations &e, std::uint32_t value) {
-    return "<" + (value < bound(e) ? std::string(e.enumeration->enumerators[value]) : name_of(e) + " value out of range") +
+    return "<" +
+           (value < bound(e) ? std::string(e.enumeration->enumerators[value]) : name_of(e) + " value out of range") +
            "/>";
 }
 

@@ -47,17 +47,16 @@ TEST_F(EnumerationSequence, CreationAllocatesAnnouncesAndCounts) {
                      "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
     observing::clear_log();
     lumo_tarn_mem_desc_e_destroy(h, id, other);
-    EXPECT_EQ(observing::lines(Detail::full),
-              (Lines{"count_notify lumo_tarn_mem_desc_e.num_destroyed 1 ctx=7",
-                     "count_notify lumo_tarn_mem_desc_e.num_live -1 ctx=7", "write_notify block1 8 ctx=7",
-                     "obj_free block1 ctx=7"}));
+    EXPECT_EQ(observing::lines(Detail::full), (Lines{"count_notify lumo_tarn_mem_desc_e.num_destroyed 1 ctx=7",
+                                                     "count_notify lumo_tarn_mem_desc_e.num_live -1 ctx=7",
+                                                     "write_notify block1 8 ctx=7", "obj_free block1 ctx=7"}));
 }
 
 TEST_F(EnumerationSequence, InitializeWithoutNoticeAnnouncesCountersOnly) {
     lumo_tarn_mem_desc_e_initialize(h, id, object, &_lumo_tarn_mem_desc_e_type_info_internal, 0, 0, 2, nullptr, &err);
-    EXPECT_EQ(observing::lines_of({"write_notify", "count_notify"}),
-              (Lines{"count_notify lumo_tarn_mem_desc_e.num_created 1",
-                     "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
+    EXPECT_EQ(
+        observing::lines_of({"write_notify", "count_notify"}),
+        (Lines{"count_notify lumo_tarn_mem_desc_e.num_created 1", "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
 }
 
 TEST_F(EnumerationSequence, SettersAdjustAskAnnounceAndMark) {
@@ -70,15 +69,17 @@ TEST_F(EnumerationSequence, SettersAdjustAskAnnounceAndMark) {
     lumo_tarn_mem_desc_e *source = lumo_tarn_mem_desc_e_create(h, id);
     observing::clear_log();
     lumo_tarn_mem_desc_e_set(h, id, object, source, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
-                                         "mirk_get_instance_variant object 0 1", "write_notify object 16",
-                                         "mirk_set_instance_modified object 0 1 1"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
+                     "mirk_get_instance_variant object 0 1", "write_notify object 16",
+                     "mirk_set_instance_modified object 0 1 1"}));
     lumo_tarn_mem_desc_e_destroy(h, id, source);
 
     observing::clear_log();
     lumo_tarn_mem_desc_e_set_value(h, id, object, 3, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
-                                         "mirk_get_instance_variant object 0 1", "mirk_store_epoch_err 43 slot"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
+                     "mirk_get_instance_variant object 0 1", "mirk_store_epoch_err 43 slot"}));
 
     observing::clear_log();
     err = 1;
@@ -89,19 +90,19 @@ TEST_F(EnumerationSequence, SettersAdjustAskAnnounceAndMark) {
 
 TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
-                                         "mirk_domain_lookup_variant lumo_tarn_mem_desc_e",
-                                         "_mirk_instance_variant_marshal buffer 0 100",
-                                         "u_int32_marshal buffer+1 local 99"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
+                     "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "_mirk_instance_variant_marshal buffer 0 100",
+                     "u_int32_marshal buffer+1 local 99"}));
     // A domain with an older variant: told, and the older one written if the slot stays clear.
     h.knobs().slot_gets_43 = false;
     h.knobs().default_variant = {-3, 0};
     observing::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err), 5u);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
-                                         "mirk_domain_lookup_variant lumo_tarn_mem_desc_e",
-                                         "mirk_store_epoch_err 43 slot", "_mirk_instance_variant_marshal buffer -3 100",
-                                         "u_int32_marshal buffer+1 local 99"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
+                     "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "mirk_store_epoch_err 43 slot",
+                     "_mirk_instance_variant_marshal buffer -3 100", "u_int32_marshal buffer+1 local 99"}));
 }
 
 // The value is announced behind its first store.
@@ -109,9 +110,8 @@ TEST_F(EnumerationSequence, UnmarshalAnnouncesTheValueLast) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
     observing::clear_log();
     lumo_tarn_mem_desc_e_unmarshal(h, id, buffer, object, 100, 1, &err);
-    EXPECT_EQ(observing::lines(),
-              (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
-                     "u_int32_unmarshal buffer+1 object+12 99 1", "write_notify object+12 4"}));
+    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
+                                         "u_int32_unmarshal buffer+1 object+12 99 1", "write_notify object+12 4"}));
 }
 
 TEST_F(EnumerationSequence, UnmarshalBindsAPrivateTypeOnAHandleThatHasSome) {
@@ -121,10 +121,9 @@ TEST_F(EnumerationSequence, UnmarshalBindsAPrivateTypeOnAHandleThatHasSome) {
     observing::name_region("mine", mine, 16);
     observing::clear_log();
     lumo_tarn_mem_desc_e_unmarshal(own, id, buffer, mine, 100, 0, &err);
-    EXPECT_EQ(observing::lines(),
-              (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
-                     "mirk_type_info_ptr_get lumo_tarn_mem_desc_e", "u_int32_unmarshal buffer+1 mine+12 99 0",
-                     "write_notify mine+12 4"}));
+    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
+                                         "mirk_type_info_ptr_get lumo_tarn_mem_desc_e",
+                                         "u_int32_unmarshal buffer+1 mine+12 99 0", "write_notify mine+12 4"}));
     lumo_tarn_mem_desc_e_destroy(own, id, mine);
 }
 
@@ -145,8 +144,9 @@ TEST_F(EnumerationSequence, PrintWritesThreePieces) {
 
 TEST_F(EnumerationSequence, XmlPassesNoState) {
     lumo_tarn_mem_desc_e_to_xml(h, id, "m", buffer, object, 100, 5, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "start_tag buffer m 100 0",
-                                         "xml_enum_print buffer+10 <LUMO_TARN_MP_MEM/> 90 19", "end_tag buffer+29 m 71"}));
+    EXPECT_EQ(observing::lines(),
+              (Lines{"mirk_clear_last_error", "start_tag buffer m 100 0",
+                     "xml_enum_print buffer+10 <LUMO_TARN_MP_MEM/> 90 19", "end_tag buffer+29 m 71"}));
     const std::uint32_t beyond = 3;
     std::memcpy(reinterpret_cast<char *>(object) + 12, &beyond, sizeof beyond);
     observing::clear_log();

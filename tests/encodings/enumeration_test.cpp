@@ -93,8 +93,8 @@ TEST(Enumeration, AFailedLookUpIsTracedAndTheInstanceReturned) {
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
         const Trace trace;
         void *object = e.create(h, kId);
-        EXPECT_EQ(trace.lines(), std::vector{record_line(3, "(ERR): error in " + name_of(e) + " create " +
-                                                                std::strerror(5))});
+        EXPECT_EQ(trace.lines(),
+                  std::vector{record_line(3, "(ERR): error in " + name_of(e) + " create " + std::strerror(5))});
         ASSERT_NE(object, nullptr);
         e.destroy(h, kId, object);
     });

@@ -92,9 +92,8 @@ TEST(Schema, OrdersThatMightBeTakenForOthers) {
     expect_order("lumo_tarn_dp_tc", {"proto", "id"});
     expect_order("lumo_tarn_dp_ll_spec", {"display_all", "heap_compare_func", "heap_elements_ptr", "show_ll_comm"});
     expect_order("lumo_tarn_debug_setting", {"info_enabled", "trace_enabled", "warn_enabled", "error_enabled"});
-    expect_order("lumo_tarn_dp_intf_data",
-                 {"intf_name_is_valid", "intf_name", "in_lumo_wexa_is_valid", "in_lumo_wexa", "out_lumo_wexa_is_valid",
-                  "out_lumo_wexa"});
+    expect_order("lumo_tarn_dp_intf_data", {"intf_name_is_valid", "intf_name", "in_lumo_wexa_is_valid", "in_lumo_wexa",
+                                            "out_lumo_wexa_is_valid", "out_lumo_wexa"});
     expect_order("lumo_tarn_dp_mp_tc_prefix", {"lumo_num", "tc_list", "show_pfx_comm"});
     expect_order("lumo_tarn_dp_mp_prefix", {"complex_num", "prefix", "flags", "tc_list_ptr"});
     expect_order("lumo_tarn_pal_mp_prefix", {"id", "flags", "prefix", "tc_list_size"});
@@ -286,8 +285,8 @@ TEST(Schema, TheTwoCountsOfProcessorsAreIndependent) {
     expect_carried(value);
 
     const Instance read(h, "lumo_tarn_global_info");
-    EXPECT_EQ(read_members(h, read, "<num_lumos>9</num_lumos><lumo_info_list><num_lumos>5</num_lumos></lumo_info_list>"),
-              0u);
+    EXPECT_EQ(
+        read_members(h, read, "<num_lumos>9</num_lumos><lumo_info_list><num_lumos>5</num_lumos></lumo_info_list>"), 0u);
     EXPECT_EQ(read.value()["num_lumos"].number, 9u);
     EXPECT_EQ(read.value().nested("lumo_info_list").number(0), 0u);
 }
@@ -329,8 +328,7 @@ TEST(Schema, AnEnumerationOutOfRangeIsCarriedByItsRecord) {
         reference::Record value("lumo_tarn_lumo_info");
         value[member].number = 1234567;
         const Instance info(h, value);
-        EXPECT_TRUE(bridge::same(reference::encode(value, false),
-                                 bridge::marshal(h, info.record(), info.get()).bytes));
+        EXPECT_TRUE(bridge::same(reference::encode(value, false), bridge::marshal(h, info.record(), info.get()).bytes));
         EXPECT_NE(print(h, info, "x", 0).text().find("_e:Enum value out of range  "), std::string::npos);
         EXPECT_NE(to_xml(h, info, "x").text().find("_e value out of range/>"), std::string::npos);
     }

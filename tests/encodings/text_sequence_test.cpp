@@ -45,17 +45,16 @@ TEST_F(RenderingSequence, PrintGoesThroughNestedRecordsAndClosesOnTheOpeningLine
     lumo_tarn_exmem_info_wrapper *wrapper = lumo_tarn_exmem_info_wrapper_create(h, id);
     watch(wrapper, 88);
     EXPECT_EQ(lumo_tarn_exmem_info_wrapper_print(h, id, buffer, 2, "w", wrapper, 500, &err), 165u);
-    EXPECT_EQ(observing::lines(),
-              (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "mirk_print_space buffer 2 500",
-                     "mirk_snprintf buffer+2 498 w@lumo_tarn_exmem_info_wrapper: {\\n", "mirk_clear_last_error",
-                     "mirk_get_instance_variant object+16 1 0", "mirk_print_space buffer+36 4 464",
-                     "mirk_snprintf buffer+40 460 exmem@lumo_tarn_exmem_info: {\\n",
-                     "u_int64_print buffer+70 6 cl_addr object+32 430",
-                     "u_int64_print buffer+91 6 exmem_addr object+40 409",
-                     "u_int64_print buffer+115 6 ppe_addr object+48 385",
-                     "u_int32_print buffer+137 6 size object+56 363", "mirk_print_space buffer+36 4 345",
-                     "mirk_snprintf buffer+159 341 }\\n", "mirk_print_space buffer 2 339",
-                     "mirk_snprintf buffer+163 337 }\\n"}));
+    EXPECT_EQ(
+        observing::lines(),
+        (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "mirk_print_space buffer 2 500",
+               "mirk_snprintf buffer+2 498 w@lumo_tarn_exmem_info_wrapper: {\\n", "mirk_clear_last_error",
+               "mirk_get_instance_variant object+16 1 0", "mirk_print_space buffer+36 4 464",
+               "mirk_snprintf buffer+40 460 exmem@lumo_tarn_exmem_info: {\\n",
+               "u_int64_print buffer+70 6 cl_addr object+32 430", "u_int64_print buffer+91 6 exmem_addr object+40 409",
+               "u_int64_print buffer+115 6 ppe_addr object+48 385", "u_int32_print buffer+137 6 size object+56 363",
+               "mirk_print_space buffer+36 4 345", "mirk_snprintf buffer+159 341 }\\n", "mirk_print_space buffer 2 339",
+               "mirk_snprintf buffer+163 337 }\\n"}));
     for (const observing::Call &call : observing::log()) {
         if (!call.slot.empty()) {
             EXPECT_EQ(call.slot, "slot") << call.function;
@@ -70,21 +69,26 @@ TEST_F(RenderingSequence, PrintShowsCountsElementsAndStrings) {
     lumo_tarn_cl_appl_data *data = applications(h, true);
     watch(data, 56, lumo_tarn_cl_appl_data_kesh_appl_get(h, id, data, 0, &err), 56);
     lumo_tarn_cl_appl_data_print(h, id, buffer, 0, "a", data, 2000, &err);
-    EXPECT_EQ(observing::lines(),
-              (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "mirk_print_space buffer 0 2000",
-                     "mirk_snprintf buffer 2000 a@lumo_tarn_cl_appl_data: {\\n",
-                     "mirk_boolean_print buffer+28 2 show_header object+16 1972",
-                     "u_int32_print buffer+48 2 num_kesh_appls object+32 1952", "mirk_clear_last_error",
-                     "mirk_get_instance_variant element 1 0", "mirk_print_space buffer+72 2 1928",
-                     "mirk_snprintf buffer+74 1926 kesh_appl[0]@lumo_tarn_cl_kesh_appl: {\\n",
-                     "u_int16_print buffer+113 4 proto_name_len element+12 1887",
-                     "var_string_print buffer+139 4 proto_name earlier 1861 3",
-                     "u_int16_print buffer+163 4 sub_proto_name_len element+24 1837",
-                     "var_string_print buffer+193 4 sub_proto_name null 1807 0",
-                     "u_int16_print buffer+218 4 protocol_id element+40 1782",
-                     "u_int16_print buffer+241 4 tarn_id element+42 1759", "mirk_print_space buffer+72 2 1740",
-                     "mirk_snprintf buffer+262 1738 }\\n", "mirk_print_space buffer 0 1736",
-                     "mirk_snprintf buffer+264 1736 }\\n"}));
+    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error",
+                                         "mirk_get_instance_variant object 1 0",
+                                         "mirk_print_space buffer 0 2000",
+                                         "mirk_snprintf buffer 2000 a@lumo_tarn_cl_appl_data: {\\n",
+                                         "mirk_boolean_print buffer+28 2 show_header object+16 1972",
+                                         "u_int32_print buffer+48 2 num_kesh_appls object+32 1952",
+                                         "mirk_clear_last_error",
+                                         "mirk_get_instance_variant element 1 0",
+                                         "mirk_print_space buffer+72 2 1928",
+                                         "mirk_snprintf buffer+74 1926 kesh_appl[0]@lumo_tarn_cl_kesh_appl: {\\n",
+                                         "u_int16_print buffer+113 4 proto_name_len element+12 1887",
+                                         "var_string_print buffer+139 4 proto_name earlier 1861 3",
+                                         "u_int16_print buffer+163 4 sub_proto_name_len element+24 1837",
+                                         "var_string_print buffer+193 4 sub_proto_name null 1807 0",
+                                         "u_int16_print buffer+218 4 protocol_id element+40 1782",
+                                         "u_int16_print buffer+241 4 tarn_id element+42 1759",
+                                         "mirk_print_space buffer+72 2 1740",
+                                         "mirk_snprintf buffer+262 1738 }\\n",
+                                         "mirk_print_space buffer 0 1736",
+                                         "mirk_snprintf buffer+264 1736 }\\n"}));
     lumo_tarn_cl_appl_data_destroy(h, id, data);
 }
 
@@ -115,17 +119,18 @@ TEST_F(RenderingSequence, AStickyPrintUsesTheHandlesOwnWords) {
     watch(wexa, 24);
     lumo_tarn_dp_wexa_info_print_cr(h, wexa, buffer, 300);
     lumo_tarn_dp_wexa_info_toxml_cr(h, wexa, buffer, 300);
-    EXPECT_EQ(observing::lines(Detail::full),
-              (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0",
-                     "mirk_print_space buffer 0 300 ctx=31 err=last_error",
-                     "mirk_snprintf buffer 300 lumo_tarn_dp_wexa_info@lumo_tarn_dp_wexa_info: {\\n ctx=31 err=last_error",
-                     "u_int32_print buffer+49 2 flags object+12 251 ctx=31 err=last_error",
-                     "mirk_print_space buffer 0 236 ctx=31 err=last_error",
-                     "mirk_snprintf buffer+64 236 }\\n ctx=31 err=last_error", "mirk_clear_last_error",
-                     "mirk_get_instance_variant object 1 0",
-                     "start_tag buffer lumo_tarn_dp_wexa_info 300 0 ctx=31 err=last_error",
-                     "u_int32_to_xml flags buffer+31 object+12 269 0 ctx=31 err=last_error",
-                     "end_tag buffer+56 lumo_tarn_dp_wexa_info 244 ctx=31 err=last_error"}));
+    EXPECT_EQ(
+        observing::lines(Detail::full),
+        (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0",
+               "mirk_print_space buffer 0 300 ctx=31 err=last_error",
+               "mirk_snprintf buffer 300 lumo_tarn_dp_wexa_info@lumo_tarn_dp_wexa_info: {\\n ctx=31 err=last_error",
+               "u_int32_print buffer+49 2 flags object+12 251 ctx=31 err=last_error",
+               "mirk_print_space buffer 0 236 ctx=31 err=last_error",
+               "mirk_snprintf buffer+64 236 }\\n ctx=31 err=last_error", "mirk_clear_last_error",
+               "mirk_get_instance_variant object 1 0",
+               "start_tag buffer lumo_tarn_dp_wexa_info 300 0 ctx=31 err=last_error",
+               "u_int32_to_xml flags buffer+31 object+12 269 0 ctx=31 err=last_error",
+               "end_tag buffer+56 lumo_tarn_dp_wexa_info 244 ctx=31 err=last_error"}));
     lumo_tarn_dp_wexa_info_destroy(h, id, wexa);
 }
 
@@ -189,8 +194,8 @@ TEST_F(RenderingSequence, XmlEndsItsMembersAtAnError) {
                      "u_int32_to_xml num_kesh_appls buffer+46 object+32 1954 0", "mirk_clear_last_error",
                      "mirk_get_instance_variant element 1 0", "start_tag buffer+89 kesh_appl 1911 0",
                      "u_int16_to_xml proto_name_len buffer+107 element+12 1893 0",
-                     "var_string_to_xml proto_name buffer+150 null 1850 0 0",
-                     "end_tag buffer+150 kesh_appl 1850", "end_tag buffer+150 a 1850"}));
+                     "var_string_to_xml proto_name buffer+150 null 1850 0 0", "end_tag buffer+150 kesh_appl 1850",
+                     "end_tag buffer+150 a 1850"}));
     h.knobs().errors.clear();
     lumo_tarn_cl_appl_data_destroy(h, id, data);
 }

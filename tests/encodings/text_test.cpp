@@ -91,7 +91,7 @@ TEST(Text, ANestedBraceStandsBehindBytesThatAreNotWritten) {
     EXPECT_EQ(text.substr(0, 7), "      e");
 }
 
-TEST(Text, APrintOfAnUnderlyingErrorDoesNothing) {
+TEST(Text, AnErrorOnEntryIsKeptAndNothingWritten) {
     const Handle h;
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
     h->last_error = 5;
@@ -145,8 +145,8 @@ TEST(Text, ABufferThatIsTooSmallIsToldAndNeverPassed) {
         for (std::size_t room = 0; room <= whole.size() + 1; ++room) {
             std::fill(area.begin(), area.end(), blank);
             std::uint32_t err = 0;
-            const std::uint32_t result = instance.record().print(
-                h, kId, area.data(), 0, value.table->name.c_str(), instance.get(), static_cast<std::int32_t>(room), &err);
+            const std::uint32_t result = instance.record().print(h, kId, area.data(), 0, value.table->name.c_str(),
+                                                                 instance.get(), static_cast<std::int32_t>(room), &err);
             ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
             ASSERT_LE(result, room);
             // The last line ends in a NUL, so that the text alone does not do.

@@ -6,8 +6,9 @@ namespace {
 using namespace forms;
 using reference::Class;
 
-// What comes back from the XML form of a value: variants, RA data and states are not in it, a record without a body is as
-// fresh, and what no document can hold has been replaced. Strings and elements go through setters, which mark states.
+// What comes back from the XML form of a value: variants, RA data and states are not in it, a record without a body is
+// as fresh, and what no document can hold has been replaced. Strings and elements go through setters, which mark
+// states.
 reference::Record as_read(const reference::Record &value, bool tracked) {
     reference::Record result(*value.table);
     if (value.variant < 0) return result;
@@ -55,7 +56,8 @@ std::string unescaped(std::string text) {
     return text;
 }
 
-// Numbers of enumerations that have a name, since others make no well-formed document; strings as a document holds them.
+// Numbers of enumerations that have a name, since others make no well-formed document; strings as a document holds
+// them.
 void make_presentable(reference::Record &value, bool replace) {
     for (std::size_t i = 0; i < value.members.size(); ++i) {
         const reference::MemberTable &row = value.table->members[i];
@@ -203,10 +205,14 @@ TEST(XmlReading, WantOfMemoryEndsTheReadAndLosesNothing) {
             for (const RecordOperations &record : tarn::reflect::records()) {
                 // Growth under tracking may lose the vector of element states that it replaces, so there one element.
                 const std::uint32_t most = h.tracks() ? 1 : 2;
-                const reference::Record value =
-                    random_value(record.record->name, 5,
-                                 {.min_elements = most, .max_elements = most, .min_text = 1, .max_text = 9,
-                                  .budget = 3000, .states = false, .printable = true});
+                const reference::Record value = random_value(record.record->name, 5,
+                                                             {.min_elements = most,
+                                                              .max_elements = most,
+                                                              .min_text = 1,
+                                                              .max_text = 9,
+                                                              .budget = 3000,
+                                                              .states = false,
+                                                              .printable = true});
                 const std::string text = reference::toxml_cr(value, false);
                 bool complete = false;
                 for (std::uint64_t nth = 1; !complete; ++nth) {
@@ -216,8 +222,7 @@ TEST(XmlReading, WantOfMemoryEndsTheReadAndLosesNothing) {
                         const Instance instance(h, record);
                         const std::uint64_t made =
                             mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC);
-                        mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth,
-                                                              onwards ? 1 : 0);
+                        mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth, onwards ? 1 : 0);
                         const std::uint32_t err = read_document(h, instance, text);
                         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 0, 0);
                         complete = mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC) - made < nth;

@@ -138,7 +138,8 @@ TEST(XmlRules, AnEmptyStringLeavesTheOldOne) {
     value["proto_name"].text = "tcp";
     value["sub_proto_name"].text = "sub";
     const Instance appl(h, value);
-    EXPECT_EQ(read_members(h, appl, "<proto_name/><sub_proto_name></sub_proto_name><protocol_id>6</protocol_id>"
+    EXPECT_EQ(read_members(h, appl,
+                           "<proto_name/><sub_proto_name></sub_proto_name><protocol_id>6</protocol_id>"
                            "<tarn_id>7</tarn_id>"),
               0u);
     value["protocol_id"].number = 6;
@@ -222,8 +223,9 @@ TEST(XmlRules, AProcessorReadsBothItsArrays) {
     {
         const Instance info(h, "lumo_tarn_lumo_info");
         // In any order, with other elements between.
-        EXPECT_EQ(read_members(h, info, dynamic + fixed + "<num_dyn_exmems>9</num_dyn_exmems>" + dynamic + fixed + fixed),
-                  0u);
+        EXPECT_EQ(
+            read_members(h, info, dynamic + fixed + "<num_dyn_exmems>9</num_dyn_exmems>" + dynamic + fixed + fixed),
+            0u);
         const reference::Record value = info.value();
         EXPECT_EQ(value["static_exmem"].items.size(), 3u);
         ASSERT_EQ(value["dyn_exmem"].items.size(), 2u);
@@ -241,8 +243,9 @@ TEST(XmlRules, AProcessorReadsBothItsArrays) {
     }
     {
         const Instance info(h, "lumo_tarn_lumo_info");
-        EXPECT_EQ(read_members(h, info, "<static_exmem><num_hash_elements>x</num_hash_elements></static_exmem>" + dynamic),
-                  22u);
+        EXPECT_EQ(
+            read_members(h, info, "<static_exmem><num_hash_elements>x</num_hash_elements></static_exmem>" + dynamic),
+            22u);
         EXPECT_EQ(info.value()["dyn_exmem"].items.size(), 0u);
     }
 }

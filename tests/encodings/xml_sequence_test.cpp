@@ -92,12 +92,11 @@ TEST_F(ReadingSequence, AnAbsentStringLeavesItsErrorToTheNextMember) {
     const Element document{"r", "", {}};
     watch(appl, 60);
     lumo_tarn_cl_kesh_appl_from_xml(h, id, "//r", const_cast<Element *>(&document), appl, &err, message, 40);
-    EXPECT_EQ(observing::lines(),
-              (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
-                     "xml_get_element_value //r/proto_name null 0 local", "mirk_store_err 2",
-                     "xml_get_element_value //r/sub_proto_name null 0 local", "mirk_store_err 2",
-                     "u_int16_from_xml //r/protocol_id object+40 message 40",
-                     "u_int16_from_xml //r/tarn_id object+42 message 40"}));
+    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
+                                         "xml_get_element_value //r/proto_name null 0 local", "mirk_store_err 2",
+                                         "xml_get_element_value //r/sub_proto_name null 0 local", "mirk_store_err 2",
+                                         "u_int16_from_xml //r/protocol_id object+40 message 40",
+                                         "u_int16_from_xml //r/tarn_id object+42 message 40"}));
     EXPECT_EQ(err, 0u);
     lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
 }
@@ -122,9 +121,10 @@ TEST_F(ReadingSequence, AStringThatCannotBeReadGivesItsBufferBack) {
                        "obj_free block1"};
         // An absence is forgiven, anything else ends the reading.
         if (number == 2) {
-            expected.insert(expected.end(), {"xml_get_element_value //r/sub_proto_name null 0 local",
-                                             "mirk_store_err 2", "u_int16_from_xml //r/protocol_id object+40 message 40",
-                                             "u_int16_from_xml //r/tarn_id object+42 message 40"});
+            expected.insert(expected.end(),
+                            {"xml_get_element_value //r/sub_proto_name null 0 local", "mirk_store_err 2",
+                             "u_int16_from_xml //r/protocol_id object+40 message 40",
+                             "u_int16_from_xml //r/tarn_id object+42 message 40"});
         }
         EXPECT_EQ(observing::lines(), expected);
         EXPECT_EQ(err, number == 2 ? 0u : number);

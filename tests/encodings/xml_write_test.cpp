@@ -151,8 +151,8 @@ TEST(XmlWriting, ABufferThatIsTooSmallIsToldAndNeverPassed) {
             for (std::size_t room = 0; room <= whole.size() + 1; ++room) {
                 std::fill(area.begin(), area.end(), blank);
                 std::uint32_t err = 0;
-                const std::uint32_t result = instance.record().to_xml(
-                    h, kId, "root", area.data(), instance.get(), static_cast<std::int32_t>(room), 3, &err);
+                const std::uint32_t result = instance.record().to_xml(h, kId, "root", area.data(), instance.get(),
+                                                                      static_cast<std::int32_t>(room), 3, &err);
                 ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
                 ASSERT_LE(result, room);
                 // A NUL stands behind the last tag, so that the text alone does not do.
