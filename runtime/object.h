@@ -68,7 +68,9 @@ public:
         if (word_ != nullptr) std::memcpy(&p, word_, sizeof p);
         return is_fill(address_of(p)) ? nullptr : p;
     }
-    void put(std::uint8_t *block) const { std::memcpy(word_, &block, sizeof block); }
+    void put(std::uint8_t *block) const {
+        if (word_ != nullptr) std::memcpy(word_, &block, sizeof block);
+    }
     void *word() const { return word_; }
 
     std::uint8_t get(std::uint32_t index) const {

@@ -65,6 +65,8 @@ int main(int argc, char **argv) {
         put(argv[2], write_headers());
     } else if (kind == "exports") {
         put(argv[2], write_exports());
+    } else if (kind == "sample") {
+        put(argv[2], write_exports(true));
     } else if (kind == "lists") {
         put(argv[2], write_lists());
     } else if (kind == "link") {
@@ -75,7 +77,7 @@ int main(int argc, char **argv) {
     } else if (kind == "operations") {
         put(argv[2], write_operations());
     } else {
-        std::cerr << "usage: generate headers|exports|lists|link|operations|floor DIRECTORY [NAME=VALUE...]\n";
+        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|floor DIRECTORY [NAME=VALUE...]\n";
         return 2;
     }
     return 0;

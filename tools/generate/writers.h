@@ -9,12 +9,12 @@ namespace tarn::generate {
 // File name, relative to a directory of the product's own, and content.
 using Files = std::map<std::string, std::string>;
 
-Files write_headers();        // include/: the public face, checked in
-Files write_exports();        // build tree: export stubs, one file for each unit of the library
-Files write_lists();          // goldens: exported names, layout of every record
-Files write_linker_script();  // build tree: the version script
+Files write_headers();                          // include/: the public face, checked in
+Files write_exports(bool sample_only = false);  // build tree: export stubs, a file for each unit of the library
+Files write_lists();                            // goldens: exported names, layout of every record
+Files write_linker_script();                    // build tree: the version script
 
-Files write_floor();            // build tree: straight-line code, for the benchmarks
+Files write_floor();       // build tree: straight-line code, for the benchmarks
 Files write_operations();  // build tree: every operation as a table, for tools and tests
 
 struct BuildStamp {
