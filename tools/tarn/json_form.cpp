@@ -168,11 +168,23 @@ void Reader::read_embedded(const ordered_json &json, const Place &place, const s
     void *object = place.member().get(handle_.get(), context_id, place.instance, &err_);
     require(path);
     if (m.kind == Kind::record) return read_record(json, reflect::operations_of(*m.record), object, path);
-    if (json.is_object() && !read_header(json, object, path)) return;
-    if (m.kind == Kind::address) return read_address(json, static_cast<ip_address *>(object), path);
-    if (m.kind == Kind::enumeration) return read_enumeration(json, place, object, path);
-    const std::uint64_t truth = json.is_boolean() ? json.get<bool>() : number_in(json, 255, path);
-    place.member().set_value(handle_.get(), context_id, place.instance, truth, &err_);
+    if (m.kind == Kind::address) {
+        if (!json.is_object() || read_header(json, object, path))
+            read_address(json, static_cast<ip_address *>(object), path);
+        return;
+    }
+    if (json.is_object() && (!json.contains("@value") || !json.contains("@variant"))) {
+        fail(path, "a value, or @variant and @value, are expected");
+    }
+    const ordered_json &value = json.is_object() ? json["@value"] : json;
+    if (m.kind == Kind::enumeration) {
+        read_enumeration(value, place, object, path);
+    } else {
+        const std::uint64_t truth = value.is_boolean() ? value.get<bool>() : number_in(value, 255, path);
+        place.member().set_value(handle_.get(), context_id, place.instance, truth, &err_);
+    }
+    // Setting a value brings the variant back to that of the domain.
+    if (json.is_object()) read_header(json, object, path);
 }
 
 void Reader::read_address(const ordered_json &json, ip_address *address, const std::string &path) {

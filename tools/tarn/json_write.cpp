@@ -55,14 +55,18 @@ ordered_json json_of_address(const Handle &handle, ip_address *address) {
 
 ordered_json json_of_value(const Handle &handle, const MemberOperations &member, void *value) {
     if (member.member->kind == Kind::address) return json_of_address(handle, static_cast<ip_address *>(value));
-    if (variant_of(value) < 0) return {{"@variant", variant_of(value)}};
+    ordered_json json;
     if (member.member->kind == Kind::boolean) {
         const std::uint8_t truth = static_cast<const mirk_boolean *>(value)->value;
-        return truth > 1 ? ordered_json(truth) : ordered_json(truth != 0);
+        json = truth > 1 ? ordered_json(truth) : ordered_json(truth != 0);
+    } else {
+        const std::uint32_t number = enumeration_value(value);
+        const auto &enumerators = member.member->enumeration->enumerators;
+        json = number < enumerators.size() ? ordered_json(enumerators[number]) : ordered_json(number);
     }
-    const std::uint32_t number = enumeration_value(value);
-    const auto &enumerators = member.member->enumeration->enumerators;
-    return number < enumerators.size() ? ordered_json(enumerators[number]) : ordered_json(number);
+    // These two carry their value whatever their variant is.
+    if (variant_of(value) < 0) return {{"@variant", variant_of(value)}, {"@value", json}};
+    return json;
 }
 
 // One walk over the members of an instance.

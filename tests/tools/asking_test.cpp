@@ -1,0 +1,157 @@
+// One process answers, another asks: every bundle, every form, with and without per-field state.
+#include <gtest/gtest.h>
+
+#include "process.h"
+#include "samples.h"
+
+namespace tool_test {
+
+namespace {
+
+class EveryBundle : public testing::TestWithParam<reference::BundleTable> {
+protected:
+    const reference::BundleTable &bundle() const { return GetParam(); }
+    const reference::MessageTable &message() const { return reference::message_table(bundle().message); }
+};
+
+// The first answer of a server bears the stamp 1.
+std::string first_answer(const reference::BundleTable &bundle, const reference::Record &payload, bool tracked) {
+    return text_of(reference::control_frame(bundle.name, "start", 1)) +
+           frame(reference::message_table(bundle.message), payload, tracked, 1) +
+           text_of(reference::control_frame(bundle.name, "commit", 1));
+}
+
+TEST_P(EveryBundle, IsAnsweredFromXmlAndShownAsTextAndXml) {
+    const Directory directory;
+    const reference::Record payload = plain_payload(message(), 5);
+    const std::string xml = reference::message_to_xml(bundle().message, payload, false);
+    const Server server({short_form(bundle().name) + "=" + directory.write("snapshot.xml", xml)});
+    ASSERT_TRUE(server.is_ready());
+
+    const Outcome text = server.show(short_form(bundle().name));
+    EXPECT_EQ(0, text.exit) << text.err;
+    EXPECT_EQ(shown(message(), payload), text.out);
+    EXPECT_EQ("", text.err);
+
+    const Outcome again = server.show(bundle().name, {"--xml"});
+    EXPECT_EQ(0, again.exit) << again.err;
+    EXPECT_EQ(xml + "\n", again.out);
+}
+
+TEST_P(EveryBundle, ArrivesByteByByteAsTheReferenceEncodesIt) {
+    for (const bool tracked : {false, true}) {
+        const Directory directory;
+        const reference::Record payload = strange_payload(message(), tracked ? 21 : 22);
+        const reference::Record received = reference::as_received(payload, tracked);
+        const Server server(
+            {bundle().name + "=" + directory.write("snapshot.bin", frame(message(), payload, tracked))});
+        ASSERT_TRUE(server.is_ready());
+        std::vector<std::string> options{"--save", directory.path("saved.bin")};
+        if (tracked) options.emplace_back("--tracked");
+        const Outcome outcome = server.show(bundle().name, options);
+        EXPECT_EQ(0, outcome.exit) << outcome.err;
+        EXPECT_EQ(first_answer(bundle(), received, tracked), directory.read("saved.bin"));
+        EXPECT_EQ(shown(message(), received), outcome.out);
+    }
+}
+
+TEST_P(EveryBundle, ShowsPerFieldStateInXml) {
+    const Directory directory;
+    reference::GeneratorOptions options;
+    options.printable = true;
+    const reference::Record payload = reference::Generator(9, options).make(message().payload);
+    const reference::Record received = reference::as_received(payload, true);
+    const Server server({bundle().name + "=" + directory.write("snapshot.bin", frame(message(), payload, true))});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome outcome = server.show(bundle().name, {"--tracked", "--xml"});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(reference::message_to_xml(bundle().message, received, true) + "\n", outcome.out);
+}
+
+INSTANTIATE_TEST_SUITE_P(Asking, EveryBundle, testing::ValuesIn(reference::bundles()),
+                         [](const auto &info) { return info.param.name; });
+
+const std::string debug_xml =
+    "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
+    "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
+
+TEST(Asking, OneProcessServesSeveralBundles) {
+    const Directory directory;
+    const std::string debug = directory.write("debug.xml", debug_xml);
+    const std::string interface = directory.write(
+        "intf.json", R"({"message": "lumo_tarn_dp_intf_msg", "payload": {"intf_name": "TenGigE0/1/0/3"}})");
+    Server server({"cl-debug=" + debug, "pal-debug=" + debug, "dp-intf=" + interface});
+    ASSERT_TRUE(server.is_ready());
+    EXPECT_EQ(0, server.show("cl-debug").exit);
+    EXPECT_EQ(0, server.show("pal-debug").exit);
+    const Outcome outcome = server.show("dp-intf");
+    EXPECT_NE(std::string::npos, outcome.out.find("intf_name@var_string:TenGigE0/1/0/3\n")) << outcome.out;
+    const Outcome end = server.process().stop();
+    EXPECT_EQ(0, end.exit) << end.err;
+    EXPECT_NE(std::string::npos, end.out.find("stopped after 3 answers"));
+}
+
+TEST(Asking, ABundleThatIsNotServedIsRefused) {
+    const Directory directory;
+    const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome outcome = server.show("dp-intf");
+    EXPECT_EQ(1, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("lumo_tarn_dp_intf_rsp is not served here")) << outcome.err;
+    EXPECT_EQ("", outcome.out);
+}
+
+TEST(Asking, JsonAndHexAreFormsToo) {
+    const Directory directory;
+    const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome json = server.show("cl-debug", {"--json"});
+    EXPECT_NE(std::string::npos, json.out.find("\"info_enabled\": 1")) << json.out;
+    const Outcome hex = server.show("cl-debug", {"--hex"});
+    EXPECT_EQ(0U, hex.out.find("00000000  bc ff ff ff ff ff ff 00  00 00 00 02 00 00 00 2b")) << hex.out;
+    EXPECT_EQ(2, server.show("cl-debug", {"--hex", "--json"}).exit);
+}
+
+TEST(Asking, NobodyListeningIsAFailureOfTheEnvironment) {
+    const Directory directory;
+    const Outcome outcome = tarn({"show", "cl-debug", "--socket", directory.path("nothing")});
+    EXPECT_EQ(3, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("cannot connect")) << outcome.err;
+}
+
+TEST(Asking, ASilentProcessCostsTheTimeoutAndNoMore) {
+    const Directory directory;
+    const Server server({"--fault", "silent", "cl-debug=" + directory.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome outcome = server.show("cl-debug", {"--timeout", "0.3"});
+    EXPECT_EQ(3, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("ETIMEDOUT")) << outcome.err;
+}
+
+TEST(Asking, TwoProcessesDoNotShareASocket) {
+    const Directory directory;
+    const std::string snapshot = directory.write("debug.xml", debug_xml);
+    const Server server({"cl-debug=" + snapshot});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome second = tarn({"answer", "--socket", server.socket(), "cl-debug=" + snapshot});
+    EXPECT_EQ(3, second.exit);
+    EXPECT_NE(std::string::npos, second.err.find("EADDRINUSE")) << second.err;
+    EXPECT_EQ(0, server.show("cl-debug").exit);
+}
+
+TEST(Asking, SnapshotsAreCheckedBeforeServingBegins) {
+    const Directory directory;
+    const std::string socket = directory.path("socket");
+    const auto start = [&](const std::string &served) { return tarn({"answer", "--socket", socket, served}); };
+    EXPECT_EQ(3, start("cl-debug=" + directory.path("absent.xml")).exit);
+    EXPECT_EQ(2, start("cl-debug").exit);
+    EXPECT_EQ(2, start("no-such-bundle=" + directory.write("debug.xml", debug_xml)).exit);
+    const Outcome foreign = start("dp-intf=" + directory.path("debug.xml"));
+    EXPECT_EQ(2, foreign.exit);
+    EXPECT_NE(std::string::npos, foreign.err.find("lumo_tarn_dp_intf_rsp does not admit lumo_tarn_debug_setting_msg"))
+        << foreign.err;
+}
+
+}  // namespace
+
+}  // namespace tool_test

@@ -1,0 +1,209 @@
+// Peers that send rubbish, break off, or come by the hundred; answers that are broken.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include "process.h"
+#include "samples.h"
+
+namespace tool_test {
+
+namespace {
+
+const std::string debug_xml =
+    "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
+    "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
+
+class HostilePeer : public testing::Test {
+protected:
+    Directory directory_;
+    Server server_{{"cl-debug=" + directory_.write("debug.xml", debug_xml), "--verbose"}};
+
+    void SetUp() override { ASSERT_TRUE(server_.is_ready()); }
+    // Whatever came before, the process answers, and ends in order: no crash, and under a leak checker no leak.
+    void TearDown() override {
+        EXPECT_EQ(0, server_.show("cl-debug").exit);
+        const Outcome end = server_.process().stop();
+        EXPECT_EQ(0, end.exit) << end.err;
+    }
+    std::string talk(std::string_view bytes, std::size_t most = SIZE_MAX) {
+        const Socket socket = Socket::connect_to(server_.socket());
+        socket.send(bytes);
+        return socket.receive(most);
+    }
+};
+
+std::string request(const std::string &name, char options = 0) {
+    std::string bytes = text_of(reference::control_frame("lumo_tarn_cl_debug_rsp", "start", 0)).substr(0, 27);
+    bytes += std::string("\xb7\x3e\x91\x0c\x5a\xd4\x46\x2f\x88\xe1\x6c\x0f\x93\x2b\x7d\xa5", 16);
+    bytes += options;
+    bytes += static_cast<char>(name.size());
+    bytes += name;
+    bytes[15] = static_cast<char>(bytes.size());
+    return bytes;
+}
+
+TEST_F(HostilePeer, RubbishIsDisconnected) { EXPECT_EQ("", talk(std::string(1000, 'x'))); }
+
+TEST_F(HostilePeer, ATotalLengthBelowAFrameIsDisconnected) {
+    std::string bytes = request("lumo_tarn_cl_debug_rsp");
+    bytes[15] = 42;
+    EXPECT_EQ("", talk(bytes));
+}
+
+TEST_F(HostilePeer, AHugeTotalLengthIsDisconnected) {
+    std::string bytes = request("lumo_tarn_cl_debug_rsp");
+    bytes[12] = '\x7f';
+    EXPECT_EQ("", talk(bytes));
+}
+
+TEST_F(HostilePeer, AFrameOfAnotherMessageIsRefusedAndDisconnected) {
+    const std::string reply = talk(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "start"));
+    EXPECT_NE(std::string::npos, reply.find("this is no request"));
+}
+
+TEST_F(HostilePeer, AnUnknownLuidIsRefusedAndDisconnected) {
+    std::string bytes = request("lumo_tarn_cl_debug_rsp");
+    bytes[30] ^= 0x55;
+    EXPECT_NE(std::string::npos, talk(bytes).find("this is no request"));
+}
+
+TEST_F(HostilePeer, ANameThatIsLongerThanTheFrameIsRefused) {
+    std::string bytes = request("lumo_tarn_cl_debug_rsp");
+    bytes[44] = '\xff';
+    EXPECT_NE(std::string::npos, talk(bytes).find("this is no request"));
+}
+
+TEST_F(HostilePeer, AnUnknownBundleIsRefusedByName) {
+    const std::string reply = talk(request("lumo_tarn_no_such_rsp"), 60);
+    EXPECT_EQ('\x80', reply.at(43));
+    EXPECT_EQ('\x02', reply.at(47));
+}
+
+TEST_F(HostilePeer, AFrameThatIsCutIsWaitedFor) {
+    const std::string bytes = request("lumo_tarn_cl_debug_rsp");
+    for (std::size_t size = 0; size < bytes.size(); size += 7) {
+        const Socket socket = Socket::connect_to(server_.socket());
+        socket.send(std::string_view(bytes).substr(0, size));
+    }
+}
+
+TEST_F(HostilePeer, AnAnswerThatNobodyReadsIsNoTrouble) {
+    const Socket socket = Socket::connect_to(server_.socket());
+    for (int i = 0; i < 200; ++i) socket.send(request("lumo_tarn_cl_debug_rsp"));
+}
+
+TEST_F(HostilePeer, AClientKilledInTheMiddleIsForgotten) {
+    for (int i = 0; i < 5; ++i) {
+        const Process client({"show", "cl-debug", "--socket", server_.socket()});
+        if (i % 2 == 0) std::this_thread::sleep_for(std::chrono::milliseconds(5 * i));
+        client.signal(9);
+    }
+}
+
+TEST_F(HostilePeer, AHundredClientsAtOnceAreAllServed) {
+    std::vector<Socket> clients;
+    for (int i = 0; i < 100; ++i) clients.push_back(Socket::connect_to(server_.socket()));
+    for (const Socket &client : clients) client.send(request("lumo_tarn_cl_debug_rsp", 1));
+    const std::size_t size = 43 + 43 + 26 + 43;  // four integers of four bytes, each with its state byte
+    for (const Socket &client : clients) EXPECT_EQ(size, client.receive(size).size());
+}
+
+TEST_F(HostilePeer, ManyProcessesAtOnceAreAllServed) {
+    std::vector<std::unique_ptr<Process>> clients;
+    for (int i = 0; i < 12; ++i) {
+        clients.push_back(std::make_unique<Process>(
+            std::vector<std::string>{"show", "cl-debug", "--socket", server_.socket(), "--timeout", "60"}));
+    }
+    for (const auto &client : clients) EXPECT_EQ(0, client->finish().exit);
+}
+
+struct Fault {
+    std::string name;
+    int exit;
+    std::string words;
+};
+
+class BrokenAnswer : public testing::TestWithParam<Fault> {};
+
+TEST_P(BrokenAnswer, IsNamed) {
+    const Directory directory;
+    Server server({"--fault", GetParam().name, "cl-debug=" + directory.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome outcome = server.show("cl-debug", {"--timeout", "5"});
+    EXPECT_EQ(GetParam().exit, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find(GetParam().words)) << outcome.err;
+    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(0, server.process().stop().exit);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Asking, BrokenAnswer,
+    testing::Values(
+        Fault{"abort", 1, "the answering side aborted lumo_tarn_cl_debug_rsp"},
+        Fault{"second-start", 2, "frame at offset 43: lumo_tarn_cl_debug_rsp_bundle_start: File exists (17)"},
+        Fault{"foreign", 2, "frame at offset 43: lumo_tarn_cl_debug_rsp does not admit lumo_tarn_dp_debug_setting_msg"},
+        Fault{"cut", 3, "ECONNRESET"}, Fault{"unknown", 2, "unknown luid 39d03c8ee80cba20dd871f4a31ff1bf6"},
+        Fault{"rubbish", 2, "EBADMSG"}),
+    [](const auto &info) {
+        std::string name = info.param.name;
+        for (char &c : name) c = c == '-' ? '_' : c;
+        return name;
+    });
+
+// An answering process that the test plays itself.
+Outcome show_from(const std::string &bytes) {
+    const Directory directory;
+    const Socket listener = Socket::listen_on(directory.path("socket"));
+    Process client({"show", "cl-debug", "--socket", directory.path("socket"), "--timeout", "5"});
+    {
+        const Socket peer = listener.accept();
+        peer.receive(request("lumo_tarn_cl_debug_rsp").size());
+        peer.send(bytes);
+    }
+    return client.finish();
+}
+
+TEST(BrokenAnswer, ACommitWithoutAStartIsNamed) {
+    const Outcome outcome = show_from(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "commit"));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 0: lumo_tarn_cl_debug_rsp_bundle_commit"))
+        << outcome.err;
+    EXPECT_NE(std::string::npos, outcome.err.find("(74)")) << outcome.err;
+}
+
+TEST(BrokenAnswer, AMessageBeforeTheStartIsNamed) {
+    const auto &message = reference::message_table("lumo_tarn_debug_setting_msg");
+    const Outcome outcome = show_from(frame(message, plain_payload(message, 1), false));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("came before the start of its bundle")) << outcome.err;
+}
+
+TEST(BrokenAnswer, APayloadThatIsCutInsideItsFrameIsNamed) {
+    const auto &bundle = reference::bundle_table("lumo_tarn_cl_debug_rsp");
+    const auto &message = reference::message_table(bundle.message);
+    std::string cut = frame(message, plain_payload(message, 1), false);
+    cut.pop_back();
+    cut[15] = static_cast<char>(cut.size());
+    const Outcome outcome = show_from(control(bundle, "start") + cut + control(bundle, "commit"));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 43: lumo_tarn_debug_setting_msg")) << outcome.err;
+}
+
+TEST(BrokenAnswer, ARequestInReturnIsNamed) {
+    const Outcome outcome = show_from(request("lumo_tarn_cl_debug_rsp"));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("answered with a request")) << outcome.err;
+}
+
+TEST(BrokenAnswer, APeerThatJustClosesIsNamed) {
+    const Outcome outcome = show_from("");
+    EXPECT_EQ(3, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("ECONNRESET")) << outcome.err;
+}
+
+}  // namespace
+
+}  // namespace tool_test
