@@ -2,10 +2,9 @@
 
 namespace wire {
 
-void use(mirk_handle *h, const Instance &instance) {
-    constexpr std::int32_t size = 2048;
-    static GuardedMemory memory(size);
-    std::uint8_t *buffer = memory.room(size);
+void use(mirk_handle *h, const Instance &instance, std::int32_t size) {
+    static GuardedMemory memory(kMostBytes);
+    std::uint8_t *buffer = memory.room(static_cast<std::size_t>(size));
     char *text = reinterpret_cast<char *>(buffer);
     const bridge::RecordOperations &record = instance.record();
     const char *name = "instance";

@@ -133,7 +133,7 @@ inline std::vector<const RecordTable *> all_records() {
     return all;
 }
 
-// Everything that can be done with an instance, with what a hostile peer made of it, into buffers of 2048 bytes.
-void use(mirk_handle *h, const Instance &instance);
+// Everything that can be done with an instance, with what a hostile peer made of it, into a buffer of that many bytes.
+void use(mirk_handle *h, const Instance &instance, std::int32_t size = 2048);
 
 }  // namespace wire
