@@ -36,8 +36,10 @@ constexpr Finding lint(const Record &record) {
     if (record.members.size() > most_members) return {record.name, {}, "a record has at most 64 members"};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        const Member *before = i > 0 ? &record.members[i - 1] : nullptr;
-        const Member *behind = i + 1 < record.members.size() ? &record.members[i + 1] : nullptr;
+        const auto follows = [&](Kind kind) {
+            return i + 1 < record.members.size() && record.members[i + 1].kind == kind;
+        };
+        const auto has_in_front = [&](Role role) { return i > 0 && record.members[i - 1].role == role; };
         if (!is_name(m.name)) return found(m, "a member's name is lower-case letters, digits and underscores");
         if (m.meaning.empty()) return found(m, "a member says in a phrase what it means");
         for (std::size_t j = 0; j < i; ++j) {
@@ -53,23 +55,23 @@ constexpr Finding lint(const Record &record) {
                 return found(m, "a choice, and nothing else, names an enumeration");
             }
         }
-        if (m.role == Role::count && (behind == nullptr || behind->kind != Kind::array)) {
+        if (m.role == Role::count && !follows(Kind::array)) {
             return found(m, "a count stands right in front of its array");
         }
         if (m.role == Role::count && m.kind != Kind::u8 && m.kind != Kind::u32) {
             return found(m, "a count has one or four bytes");
         }
-        if (m.role == Role::length && (behind == nullptr || behind->kind != Kind::string)) {
+        if (m.role == Role::length && !follows(Kind::string)) {
             return found(m, "a length stands right in front of its string");
         }
         if (m.role == Role::length && m.kind != Kind::u16) return found(m, "a length has two bytes");
-        if (m.role == Role::length && !is_length_name(m.name, behind->name)) {
+        if (m.role == Role::length && !is_length_name(m.name, record.members[i + 1].name)) {
             return found(m, "a length is named as its string with _len behind it");
         }
-        if (m.kind == Kind::array && (before == nullptr || before->role != Role::count)) {
+        if (m.kind == Kind::array && !has_in_front(Role::count)) {
             return found(m, "an array stands right behind its count");
         }
-        if (m.kind == Kind::string && (before == nullptr || before->role != Role::length)) {
+        if (m.kind == Kind::string && !has_in_front(Role::length)) {
             return found(m, "a string stands right behind its length");
         }
     }
