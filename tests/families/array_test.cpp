@@ -1,55 +1,17 @@
-// Arrays: elements by index, growth, and what a growth that fails leaves behind.
+// Arrays: elements by index, and growth.
 #include <cerrno>
 
-#include "values.h"
+#include "arrays.h"
 
 using namespace families;
 
 namespace {
 
-struct Subject {
-    const RecordOperations &r;
-    const MemberOperations &m;
-    const MemberOperations &count;
-    const RecordOperations &e;
-};
-
-void each_array(const std::function<void(const Subject &)> &visit) {
-    int found = 0;
-    each_member([&](const RecordOperations &r, const MemberOperations &m) {
-        if (m.element_set == nullptr) return;
-        ++found;
-        visit({r, m, r.members[index_of(r, m) - 1], nested_record(m)});
-    });
-    EXPECT_EQ(found, 17);
-}
-
-uint64_t count(mirk_handle *h, const Subject &s, void *object) {
-    uint32_t err = 0;
-    return s.count.get_value(h, id, object, &err);
-}
-
-// Puts a filled value at the index and lets go of the shell that is left of it.
-void put(mirk_handle *h, const Subject &s, void *object, uint32_t index, uint32_t seed) {
-    void *value = filled(h, s.e, seed, {1, 2, false});
-    uint32_t err = 0;
-    s.m.element_set(h, id, object, index, value, &err);
-    EXPECT_EQ(err, 0u);
-    s.e.destroy(h, id, value);
-}
-
-Lines value_of(mirk_handle *h, const Subject &s, uint32_t seed) {
-    void *value = filled(h, s.e, seed, {1, 2, false});
-    const Lines lines = content(h, s.e, value);
-    s.e.destroy(h, id, value);
-    return lines;
-}
-
 // In a process of its own, since the report is made once in the life of one.
 [[noreturn]] void grow_every_array_and_exit() {
     Handle h;
     bool good = true;
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *other = s.r.create(h, id);
         uint32_t err = 0;
         Trace trace;
@@ -73,7 +35,7 @@ TEST(ArrayGrowthDeathTest, IsReportedOncePerArrayInAProcess) {
 
 TEST(Arrays, AFreshOneIsEmpty) {
     Handle h;
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
         uint32_t err = 0;
         Trace trace;
@@ -91,7 +53,7 @@ TEST(Arrays, AFreshOneIsEmpty) {
 TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
     for (Mode mode : modes) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
             Trace trace;
             put(h, s, object, 5, 7);
@@ -120,7 +82,7 @@ TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
 
 TEST(Arrays, ElementsHaveTheirAreasBehindTheLastOne) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
         for (uint32_t n : {1u, 2u, 5u}) {
             put(h, s, object, n - 1, 7);
@@ -138,7 +100,7 @@ TEST(Arrays, ElementsHaveTheirAreasBehindTheLastOne) {
 TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
     for (Mode mode : modes) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
             std::vector<Lines> expected;
             uint32_t err = 0;
@@ -169,7 +131,7 @@ TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
 TEST(Arrays, SettingAnElementThatIsThereAllocatesNothingAndTakesTheValuesBlocks) {
     for (Mode mode : modes) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
             void *fresh = s.e.create(h, id);
             uint32_t err = 0;
@@ -199,7 +161,7 @@ TEST(Arrays, SettingAnElementThatIsThereAllocatesNothingAndTakesTheValuesBlocks)
 TEST(Arrays, ANullValueGrowsAndChangesNothingElse) {
     for (Mode mode : {Mode::none, Mode::off}) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
             uint32_t err = 0;
             s.m.element_set(h, id, object, 2, nullptr, &err);
@@ -217,7 +179,7 @@ TEST(Arrays, ANullValueGrowsAndChangesNothingElse) {
 
 TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = s.e.create(h, id);
         Trace trace;
         uint32_t err = 0;
@@ -245,7 +207,7 @@ TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
 TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
     for (Mode mode : modes) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
             put(h, s, object, 0, 5);
             put(h, s, object, 1, 6);
@@ -265,7 +227,7 @@ TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
 TEST(Arrays, ADeepCopyLeavesTheValueWhole) {
     for (Mode mode : modes) {
         Handle h(mode);
-        each_array([&](const Subject &s) {
+        each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 2, false});
             const Lines expected = content(h, s.e, value);
             EXPECT_EQ(s.m.element_set_cr(h, object, 1, value, 0), 0u);
@@ -283,7 +245,7 @@ TEST(Arrays, ADeepCopyLeavesTheValueWhole) {
 TEST(Arrays, TheStickySetMovesUnderTheDefaultIdWithAnyOtherCopyMode) {
     Handle h;
     mirk_platform_handle_set_default_id(h, 90);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = s.r.create_cr(h), *value = filled(h, s.e, 9, {1, 2, false});
         Events events(h);
         EXPECT_EQ(s.m.element_set_cr(h, object, 0, value, 2), 0u);
@@ -294,140 +256,6 @@ TEST(Arrays, TheStickySetMovesUnderTheDefaultIdWithAnyOtherCopyMode) {
         h->last_error = 0;
         s.e.destroy(h, id, value);
         s.r.destroy_cr(h, object);
-        EXPECT_EQ(h.live_blocks(), 0u);
-    });
-}
-
-TEST(Arrays, AOneByteCountWraps) {
-    for (Mode mode : modes) {
-        Handle h(mode);
-        each_array([&](const Subject &s) {
-            if (width(s.count) != 1) return;
-            void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {0, 0, false});
-            uint32_t err = 0;
-            s.m.element_set(h, id, object, 254, value, &err);
-            EXPECT_EQ(count(h, s, object), 255u);
-            s.m.element_set(h, id, object, 255, value, &err);
-            EXPECT_EQ(err, 0u);
-            EXPECT_EQ(count(h, s, object), 0u);
-            EXPECT_EQ(s.m.element_get(h, id, object, 0, &err), nullptr);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
-            err = 0;
-            s.m.element_set(h, id, object, 257, value, &err);
-            EXPECT_EQ(err, 0u);
-            EXPECT_EQ(count(h, s, object), 2u);
-            EXPECT_NE(s.m.element_get(h, id, object, 1, &err), nullptr);
-            // Setting the next one grows again, and moves the two that count.
-            s.m.element_set(h, id, object, 2, value, &err);
-            EXPECT_EQ(err, 0u);
-            EXPECT_EQ(count(h, s, object), 3u);
-            s.e.destroy(h, id, value);
-            s.r.destroy(h, id, object);
-        });
-    }
-}
-
-TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
-    for (Mode mode : modes) {
-        Handle h(mode);
-        each_array([&](const Subject &s) {
-            void *object = s.r.create(h, id), *value = s.e.create(h, id);
-            uint32_t err = 0;
-            Events events(h);
-            s.m.element_set(h, id, object, 0xFFFFFFFF, value, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, (uint64_t{1} << 32) * s.e.sizeof_(h));
-            EXPECT_EQ(count(h, s, object), 0u);
-            s.r.destroy(h, id, object);
-            s.e.destroy(h, id, value);
-        });
-    }
-}
-
-TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
-    for (Mode mode : modes) {
-        Handle h(mode);
-        each_array([&](const Subject &s) {
-            void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
-            put(h, s, object, 1, 5);
-            const Lines before = content(h, s.r, object), kept = content(h, s.e, value);
-            uint32_t err = 0;
-            h.fail_alloc(1);
-            s.m.element_set(h, id, object, 4, value, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(content(h, s.r, object), before);
-            EXPECT_EQ(content(h, s.e, value), kept);
-            EXPECT_EQ(count(h, s, object), 2u);
-            s.e.destroy(h, id, value);
-            s.r.destroy(h, id, object);
-            EXPECT_EQ(h.live_blocks(), 0u);
-        });
-    }
-}
-
-TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
-    Handle h(Mode::on);
-    each_array([&](const Subject &s) {
-        void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
-        put(h, s, object, 1, 5);
-        const size_t leaked = h.live_blocks();
-        uint32_t err = 0;
-        h.fail_alloc(2);
-        s.m.element_set(h, id, object, 4, value, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-        EXPECT_EQ(h.live_blocks(), leaked);
-        EXPECT_EQ(count(h, s, object), 5u);
-        err = 0;
-        uint8_t *states = bytes(object);
-        s.m.element_state_flag_get_arr(h, id, object, &states, &err);
-        EXPECT_EQ(states, nullptr);
-        EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0);
-        s.m.element_state_flag_set(h, id, object, 1, 9, &err);
-        EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0);
-        s.m.element_set(h, id, object, 4, value, &err);
-        EXPECT_EQ(err, 0u);
-        EXPECT_EQ(content(h, s.e, s.m.element_get(h, id, object, 1, &err)), value_of(h, s, 5));
-        s.e.destroy(h, id, value);
-        s.r.destroy(h, id, object);
-        EXPECT_EQ(h.live_blocks(), 1u) << "the vector that was replaced";
-        mirk_platform_block block;
-        mirk_platform_list_blocks(h, &block, 1);
-        h->obj_free(h->mem_ctx, id, block.address);
-    });
-}
-
-TEST(Arrays, ANullBlockBesideACountCountsNothing) {
-    for (Mode mode : modes) {
-        Handle h(mode);
-        each_array([&](const Subject &s) {
-            void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
-            std::memset(at(s.r, object, s.count), 0x07, width(s.count));
-            uint32_t err = 0;
-            EXPECT_EQ(s.m.element_get(h, id, object, 0, &err), nullptr);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
-            err = 0;
-            s.r.set_all_state_tracking_flag(h, id, object, 0);
-            s.m.element_set(h, id, object, 1, value, &err);
-            EXPECT_EQ(err, 0u);
-            EXPECT_EQ(count(h, s, object), 2u);
-            s.e.destroy(h, id, value);
-            s.r.destroy(h, id, object);
-            EXPECT_EQ(h.live_blocks(), 0u);
-        });
-    }
-}
-
-TEST(Arrays, ABlockBesideACountOfZeroIsReleasedUnvisited) {
-    Handle h;
-    each_array([&](const Subject &s) {
-        void *object = s.r.create(h, id);
-        uint32_t err = 0;
-        s.m.element_set(h, id, object, 1, nullptr, &err);
-        std::memset(at(s.r, object, s.count), 0, width(s.count));
-        const uint64_t destroyed = entry(*s.e.type).num_destroyed;
-        s.r.destroy(h, id, object);
-        EXPECT_EQ(entry(*s.e.type).num_destroyed, destroyed);
         EXPECT_EQ(h.live_blocks(), 0u);
     });
 }

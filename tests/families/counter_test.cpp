@@ -1,5 +1,6 @@
 // Usage counters: who counts, where, and in which variant.
 #include <map>
+#include <thread>
 
 #include "lumo_ui_tarn.h"
 #include "values.h"
@@ -204,6 +205,23 @@ TEST(Counters, EachChangeIsAnnouncedBeforeItHappens) {
     EXPECT_TRUE(seen.early);
     EXPECT_EQ(seen.deltas, (std::vector<int64_t>{1, 1, 1, -1}));
     EXPECT_EQ(std::memcmp(&reference, &entry(*r.type), sizeof reference), 0);
+}
+
+// The module's own records are shared by all handles, whatever thread they are on.
+TEST(Counters, OfTheModulesRecordsAreExactOnSeveralThreads) {
+    constexpr uint64_t rounds = 20000;
+    const RecordOperations &r = record("lumo_tarn_debug_setting");
+    const mirk_variant_entry before = entry(*r.type);
+    Handle first, second;
+    const auto work = [&](const Handle &h) {
+        for (uint64_t i = 0; i < rounds; ++i) r.destroy(h, id, r.create(h, id));
+    };
+    std::thread other([&] { work(second); });
+    work(first);
+    other.join();
+    EXPECT_EQ(entry(*r.type).num_created, before.num_created + 2 * rounds);
+    EXPECT_EQ(entry(*r.type).num_destroyed, before.num_destroyed + 2 * rounds);
+    EXPECT_EQ(entry(*r.type).num_live, before.num_live);
 }
 
 }  // namespace

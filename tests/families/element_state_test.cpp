@@ -1,25 +1,13 @@
 // State of arrays: one byte for the whole, and a vector with one for each element.
 #include <cerrno>
 
-#include "values.h"
+#include "arrays.h"
 
 using namespace families;
 
 namespace {
 
-struct Subject {
-    const RecordOperations &r;
-    const MemberOperations &m;
-    const RecordOperations &e;
-};
-
-void each_array(const std::function<void(const Subject &)> &visit) {
-    each_member([&](const RecordOperations &r, const MemberOperations &m) {
-        if (m.element_set != nullptr) visit({r, m, nested_record(m)});
-    });
-}
-
-void *with_elements(mirk_handle *h, const Subject &s, uint32_t n) {
+void *with_elements(mirk_handle *h, const ArraySubject &s, uint32_t n) {
     void *object = s.r.create(h, id), *value = s.e.create(h, id);
     uint32_t err = 0;
     s.m.element_set(h, id, object, n - 1, value, &err);
@@ -29,11 +17,13 @@ void *with_elements(mirk_handle *h, const Subject &s, uint32_t n) {
     return object;
 }
 
-uint8_t *vector_of(const Subject &s, void *object) { return read<uint8_t *>(area(s.r, object) + place(s.r, s.m).area); }
+uint8_t *vector_of(const ArraySubject &s, void *object) {
+    return read<uint8_t *>(area(s.r, object) + place(s.r, s.m).area);
+}
 
 TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 4);
         uint32_t err = 0;
         EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
@@ -55,7 +45,7 @@ TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
 
 TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
         Trace trace;
         for (uint32_t index : {2u, 0xFFFFFFFFu}) {
@@ -75,7 +65,7 @@ TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
 
 TEST(ElementStates, AreRefusedWithoutTrackingAndForUntrackedObjects) {
     Handle off(Mode::off), none(Mode::none);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         for (mirk_handle *h : {static_cast<mirk_handle *>(off), static_cast<mirk_handle *>(none)}) {
             void *object = s.r.create(h, id);
             uint8_t *states = bytes(object);
@@ -110,7 +100,7 @@ void mark_vectors(const RecordOperations &r, uint32_t base, std::vector<bool> &m
 
 TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         for (uint32_t n : {1u, 3u, 8u, 17u, 120u}) {
             void *object = with_elements(h, s, n);
             const std::vector<uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
@@ -135,7 +125,7 @@ TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
 
 TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 3);
         const std::vector<uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
         const uint8_t source[4] = {9, 9, 9, 9};
@@ -155,7 +145,7 @@ TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
 
 TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2), *value = s.e.create(h, id);
         uint8_t *lost = vector_of(s, object);
         uint32_t err = 0;
@@ -188,7 +178,7 @@ TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
 
 TEST(ElementStates, AFillWithZeroMeansNoVector) {
     Handle h(Mode::on);
-    each_array([&](const Subject &s) {
+    each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
         uint8_t *lost = vector_of(s, object);
         uint32_t err = 0;
