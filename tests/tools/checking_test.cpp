@@ -1,0 +1,179 @@
+// The library forgives what it does not know in XML; the tool tells of it, with the line, unless told to be lenient.
+#include <gtest/gtest.h>
+
+#include "process.h"
+
+namespace tool_test {
+
+namespace {
+
+struct Mistake {
+    std::string name;
+    std::string xml;
+    std::string words;
+    bool lenient_passes = true;
+};
+
+std::string debug(const std::string &members) {
+    return "<lumo_tarn_debug_setting_msg>\n<lumo_tarn_debug_setting>\n" + members +
+           "\n</lumo_tarn_debug_setting>\n</lumo_tarn_debug_setting_msg>\n";
+}
+
+std::string prefixes(const std::string &members) {
+    return "<lumo_tarn_pal_mp_prefix_msg>\n<lumo_tarn_pal_mp_prefix_data>\n" + members +
+           "\n</lumo_tarn_pal_mp_prefix_data>\n</lumo_tarn_pal_mp_prefix_msg>\n";
+}
+
+std::string processor(const std::string &members) {
+    return "<lumo_tarn_cl_cfg_msg><lumo_tarn_cl_cfg_data><global_info><lumo_info_list><lumo_info>\n" + members +
+           "\n</lumo_info></lumo_info_list></global_info></lumo_tarn_cl_cfg_data></lumo_tarn_cl_cfg_msg>\n";
+}
+
+std::string application(const std::string &members) {
+    return "<lumo_tarn_cl_appl_msg><lumo_tarn_cl_appl_data><kesh_appl>\n" + members +
+           "\n</kesh_appl></lumo_tarn_cl_appl_data></lumo_tarn_cl_appl_msg>\n";
+}
+
+class XmlMistake : public testing::TestWithParam<Mistake> {};
+
+TEST_P(XmlMistake, IsNamedWithItsLine) {
+    const Outcome strict = tarn({"encode"}, GetParam().xml);
+    EXPECT_EQ(2, strict.exit);
+    EXPECT_NE(std::string::npos, strict.err.find("standard input:" + GetParam().words)) << strict.err;
+    EXPECT_EQ("", strict.out);
+    const Outcome lenient = tarn({"encode", "--lenient"}, GetParam().xml);
+    EXPECT_EQ(GetParam().lenient_passes ? 0 : 2, lenient.exit) << lenient.err;
+}
+
+const std::string path = "/lumo_tarn_debug_setting_msg/lumo_tarn_debug_setting";
+const std::string prefix_path = "/lumo_tarn_pal_mp_prefix_msg/lumo_tarn_pal_mp_prefix_data";
+
+INSTANTIATE_TEST_SUITE_P(
+    Checking, XmlMistake,
+    testing::Values(
+        Mistake{"misspelt_member", debug("<info_enabeld>1</info_enabeld>"),
+                "3: " + path + ": lumo_tarn_debug_setting has no member \"info_enabeld\"; did you mean info_enabled?"},
+        Mistake{"value_too_wide", debug("<info_enabled>4294967296</info_enabled>"),
+                "3: " + path + "/info_enabled: \"4294967296\" is no number from 0 to 4294967295", false},
+        Mistake{"negative_value", debug("<info_enabled>-1</info_enabled>"),
+                "3: " + path + "/info_enabled: \"-1\" is no number", false},
+        Mistake{"empty_value", debug("<info_enabled/>"), "3: " + path + "/info_enabled: \"\" is no number", false},
+        Mistake{"twice", debug("<info_enabled>1</info_enabled>\n<info_enabled>2</info_enabled>"),
+                "4: " + path + "/info_enabled: stands here a second time"},
+        Mistake{"element_in_a_value", debug("<info_enabled><b>1</b></info_enabled>"),
+                "3: " + path + "/info_enabled: no element is expected inside"},
+        Mistake{"text_between", debug("loose words"), "2: " + path + ": text \"loose words\" between the members"},
+        Mistake{"attribute", debug("<info_enabled colour=\"red\">1</info_enabled>"),
+                "3: " + path + "/info_enabled: unknown attribute \"colour\""},
+        Mistake{"state_too_wide", debug("<info_enabled state=\"256\">1</info_enabled>"),
+                "3: " + path + "/info_enabled: state \"256\" is no number from 0 to 255"},
+        Mistake{"missing_payload", "<lumo_tarn_debug_setting_msg>\n</lumo_tarn_debug_setting_msg>",
+                "1: /lumo_tarn_debug_setting_msg: the payload \"lumo_tarn_debug_setting\" is missing"},
+        Mistake{"unknown_enumerator", processor("<direction><LUMO_TARN_DIR_BOHT/></direction>"),
+                "2: /lumo_tarn_cl_cfg_msg/lumo_tarn_cl_cfg_data/global_info/lumo_info_list/lumo_info[1]/direction: "
+                "unknown enumerator \"LUMO_TARN_DIR_BOHT\"; did you mean LUMO_TARN_DIR_BOTH?"},
+        Mistake{"enumerator_as_text", processor("<direction>LUMO_TARN_DIR_BOTH</direction>"),
+                "2: /lumo_tarn_cl_cfg_msg/lumo_tarn_cl_cfg_data/global_info/lumo_info_list/lumo_info[1]/direction: "
+                "an enumerator is an empty element"},
+        Mistake{"boolean", processor("<display_all>yes</display_all>"),
+                "2: /lumo_tarn_cl_cfg_msg/lumo_tarn_cl_cfg_data/global_info/lumo_info_list/lumo_info[1]/display_all: "
+                "\"yes\" is neither true nor false",
+                false},
+        Mistake{"address", prefixes("<prefix_data>\n<prefix>10.0.0.256/8</prefix></prefix_data>"),
+                "4: " + prefix_path + "/prefix_data[1]/prefix: \"10.0.0.256/8\" is no address", false},
+        Mistake{"wrong_count", prefixes("<num_prefixes>2</num_prefixes><prefix_data/>"),
+                "3: " + prefix_path + "/num_prefixes: says 2, but prefix_data has 1"},
+        Mistake{"skipped_member", application("<proto_name>sip</proto_name>\n<protocol_id>7</protocol_id>"),
+                "3: /lumo_tarn_cl_appl_msg/lumo_tarn_cl_appl_data/kesh_appl[1]/protocol_id: would not be read, because "
+                "sub_proto_name in front of it is absent"}),
+    [](const auto &info) { return info.param.name; });
+
+TEST(Checking, AListThatItsCountCannotTellIsNamed) {
+    std::string many;
+    for (int i = 0; i < 256; ++i) many += "<prefix_data/>";
+    const Outcome outcome = tarn({"encode"}, prefixes(many));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("256 prefix_data are more than num_prefixes can tell"))
+        << outcome.err;
+}
+
+TEST(Checking, AllMistakesOfADocumentAreListed) {
+    const Outcome outcome = tarn({"encode"}, debug("<a/>\n<b/>\n<info_enabled>x</info_enabled>"));
+    for (const std::string line : {":3: ", ":4: ", ":5: "}) {
+        EXPECT_NE(std::string::npos, outcome.err.find("standard input" + line)) << outcome.err;
+    }
+}
+
+TEST(Checking, WhatIsNoXmlIsNamedWithItsLine) {
+    const auto expect = [](const std::string &xml, const std::string &words) {
+        const Outcome outcome = tarn({"encode"}, xml);
+        EXPECT_EQ(2, outcome.exit);
+        EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+    };
+    expect(debug("<info_enabled>1</info_enable>"), "standard input:3: ");
+    expect("<lumo_tarn_debug_setting_msg>\n<lumo_tarn_debug_setting>", "standard input:1: ");
+    expect("\n<!DOCTYPE a [<!ENTITY b \"c\">]>\n" + debug(""),
+           "standard input:2: a document type declaration is not allowed");
+    expect(
+        "\n\n<lumo_tarn_debug_setting_mgs></lumo_tarn_debug_setting_mgs>",
+        "standard input:3: \"lumo_tarn_debug_setting_mgs\" is no message; did you mean lumo_tarn_debug_setting_msg?");
+    expect(debug("") + "stray", "standard input:6: no element begins here");
+}
+
+TEST(Checking, LinesAreCountedThroughARunOfDocuments) {
+    const Outcome outcome = tarn({"encode"}, debug("") + debug("<wrong/>"));
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("standard input:8: ")) << outcome.err;
+}
+
+struct JsonMistake {
+    std::string name, json, words;
+};
+
+class JsonMistakes : public testing::TestWithParam<JsonMistake> {};
+
+TEST_P(JsonMistakes, AreNamedWithTheirPath) {
+    const Outcome outcome = tarn({"encode"}, GetParam().json);
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find(GetParam().words)) << outcome.err;
+    EXPECT_EQ("", outcome.out);
+}
+
+std::string debug_json(const std::string &payload) {
+    return R"({"message": "lumo_tarn_debug_setting_msg", "payload": )" + payload + "}";
+}
+
+std::string prefix_json(const std::string &element) {
+    return R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"prefix_data": [{}, )" + element + "]}}";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Checking, JsonMistakes,
+    testing::Values(
+        JsonMistake{"misspelt", debug_json(R"({"info_enable": 1})"),
+                    "payload: lumo_tarn_debug_setting has no member \"info_enable\"; did you mean info_enabled?"},
+        JsonMistake{"too_wide", debug_json(R"({"info_enabled": 4294967296})"),
+                    "payload/info_enabled: 4294967296 is no number from 0 to 4294967295"},
+        JsonMistake{"negative", debug_json(R"({"info_enabled": -1})"), "payload/info_enabled: -1 is no number"},
+        JsonMistake{"text", debug_json(R"({"info_enabled": "1"})"), "payload/info_enabled: \"1\" is no number"},
+        JsonMistake{"no_object", debug_json("[]"), "payload: an object is expected for lumo_tarn_debug_setting"},
+        JsonMistake{"address", prefix_json(R"({"prefix": "10.0.0.0"})"),
+                    "payload/prefix_data[1]/prefix: \"10.0.0.0\" is no address"},
+        JsonMistake{"no_array", R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"prefix_data": {}}})",
+                    "payload/prefix_data: an array is expected"},
+        JsonMistake{
+            "count",
+            R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"num_prefixes": 3, "prefix_data": [{}]}})",
+            "payload/num_prefixes: says 3, but there are 1"},
+        JsonMistake{"variant", prefix_json(R"({"@variant": 1})"), "@variant: 1 is no number from -128 to -1"},
+        JsonMistake{"no_payload", R"({"message": "lumo_tarn_debug_setting_msg"})", "the payload is missing"},
+        JsonMistake{"no_message", R"({"message": "lumo_tarn_msg", "payload": {}})", "\"lumo_tarn_msg\" is no message"},
+        JsonMistake{"no_bundle", R"({"bundle": "x", "control": "start"})", "\"x\" is no bundle"},
+        JsonMistake{"no_control", R"({"bundle": "lumo_tarn_cl_cfg_rsp", "control": "stop"})", "\"stop\" is none of"},
+        JsonMistake{"neither", R"({"a": 1})", "neither a message nor a control message"},
+        JsonMistake{"syntax", "{\n\"message\": \n}", "standard input:3: syntax error"}),
+    [](const auto &info) { return info.param.name; });
+
+}  // namespace
+
+}  // namespace tool_test

@@ -1,0 +1,166 @@
+// encode and decode: frames to text, XML and JSON and back, held against the reference encoding.
+#include <gtest/gtest.h>
+
+#include "process.h"
+#include "samples.h"
+
+namespace tool_test {
+
+namespace {
+
+class EveryMessage : public testing::TestWithParam<reference::MessageTable> {};
+
+TEST_P(EveryMessage, IsDecodedAsTheReferencePrintsIt) {
+    for (const bool tracked : {false, true}) {
+        const reference::Record payload = strange_payload(GetParam(), tracked ? 31 : 32);
+        const reference::Record received = reference::as_received(payload, tracked);
+        const std::string bytes = frame(GetParam(), payload, tracked);
+        const Outcome text = tarn({"decode"}, bytes);
+        EXPECT_EQ(0, text.exit) << text.err;
+        EXPECT_EQ(shown(GetParam(), received), text.out);
+        const Outcome xml = tarn({"decode", "--xml"}, bytes);
+        EXPECT_EQ(reference::message_to_xml(GetParam().name, received, tracked) + "\n", xml.out);
+    }
+}
+
+TEST_P(EveryMessage, IsEncodedFromXmlAsTheReferenceEncodesIt) {
+    const reference::Record payload = plain_payload(GetParam(), 33);
+    const Outcome outcome =
+        tarn({"encode", "--stamp", "77"}, reference::message_to_xml(GetParam().name, payload, false));
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(frame(GetParam(), payload, false, 77), outcome.out);
+}
+
+// Variants, RA data, states and numbers out of range all survive; only a NUL inside a string does not.
+TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
+    for (const bool tracked : {false, true}) {
+        for (const std::uint64_t seed : {34, 35, 36}) {
+            reference::GeneratorOptions options;
+            options.strange = true;
+            options.printable = true;
+            options.budget = 3000;
+            const auto payload = reference::Generator(seed, options).make(GetParam().payload);
+            const std::string bytes = frame(GetParam(), reference::as_received(payload, tracked), tracked);
+            const Outcome json = tarn({"decode", "--json"}, bytes);
+            ASSERT_EQ(0, json.exit) << json.err;
+            const Outcome back = tarn({"encode", "--lenient"}, json.out);
+            EXPECT_EQ(0, back.exit) << back.err << json.out;
+            EXPECT_EQ(bytes, back.out) << json.out;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Coding, EveryMessage, testing::ValuesIn(reference::messages()),
+                         [](const auto &info) { return info.param.name; });
+
+TEST(Coding, ARunOfFramesKeepsItsOrderInEveryForm) {
+    std::string bytes;
+    for (const auto &bundle : reference::bundles()) {
+        bytes += answer(bundle, plain_payload(reference::message_table(bundle.message), 40), false);
+    }
+    for (const std::string form : {"--xml", "--json"}) {
+        const Outcome decoded = tarn({"decode", form}, bytes);
+        EXPECT_EQ(0, decoded.exit) << decoded.err;
+        const Outcome encoded = tarn({"encode"}, decoded.out);
+        EXPECT_EQ(0, encoded.exit) << encoded.err;
+        EXPECT_EQ(bytes, encoded.out) << form;
+    }
+    const Outcome again = tarn({"encode"}, bytes);
+    EXPECT_EQ(bytes, again.out) << again.err;
+}
+
+TEST(Coding, ABundleIsPutAround) {
+    const auto &bundle = reference::bundle_table("lumo_tarn_dp_intf_rsp");
+    const auto &message = reference::message_table(bundle.message);
+    const reference::Record payload = plain_payload(message, 41);
+    const Outcome outcome =
+        tarn({"encode", "--bundle", "dp-intf"}, reference::message_to_xml(message.name, payload, false));
+    EXPECT_EQ(answer(bundle, payload, false), outcome.out) << outcome.err;
+}
+
+TEST(Coding, AMessageThatTheBundleDoesNotAdmitIsRefused) {
+    const Outcome outcome = tarn({"encode", "--bundle", "dp-intf", "--verbose"},
+                                 R"({"message": "lumo_tarn_debug_setting_msg", "payload": {}})");
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("(ERR): Message lumo_tarn_debug_setting_msg is not valid for bundle"))
+        << outcome.err;
+    EXPECT_EQ("", outcome.out);
+}
+
+TEST(Coding, AStartInsideABundleIsRefused) {
+    const Outcome outcome = tarn({"encode"}, R"({"bundle": "lumo_tarn_dp_intf_rsp", "control": "start"}
+{"bundle": "lumo_tarn_cl_cfg_rsp", "control": "start"})");
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("standard input:2")) << outcome.err;
+    EXPECT_NE(std::string::npos, outcome.err.find("EEXIST")) << outcome.err;
+}
+
+TEST(Coding, ABundleLeftOpenIsNamed) {
+    const Outcome outcome = tarn({"encode"}, R"(<bundle_start name="lumo_tarn_dp_intf_rsp"></bundle_start>)");
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("ends inside a bundle")) << outcome.err;
+}
+
+std::string intf_json(const std::string &name) {
+    return R"({"message": "lumo_tarn_dp_intf_msg", "payload": {"intf_name": )" + name + "}}";
+}
+
+TEST(Coding, AStringThatIsNoUtf8StandsAsHexadecimalBytes) {
+    const Outcome frame = tarn({"encode"}, intf_json(R"({"bytes": "ff00"})"));
+    EXPECT_EQ(0, frame.exit) << frame.err;
+    const Outcome json = tarn({"decode", "--json"}, frame.out);
+    EXPECT_NE(std::string::npos, json.out.find(R"("intf_name":{"bytes":"ff00"})")) << json.out;
+}
+
+TEST(Coding, AStringThatCannotBeStoredIsRefused) {
+    const Outcome nul = tarn({"encode"}, intf_json(R"({"bytes": "610062"})"));
+    EXPECT_EQ(2, nul.exit);
+    EXPECT_NE(std::string::npos, nul.err.find("intf_name: a NUL in the middle")) << nul.err;
+    EXPECT_EQ(2, tarn({"encode"}, intf_json(R"({"bytes": "6"})")).exit);
+    EXPECT_EQ(2, tarn({"encode"}, intf_json("17")).exit);
+}
+
+TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
+    const auto &message = reference::message_table("lumo_tarn_debug_setting_msg");
+    std::string cut = frame(message, plain_payload(message, 1), false);
+    const std::string good = cut;
+    cut.resize(60);
+    cut[15] = 60;
+    const Outcome outcome = tarn({"decode"}, good + cut + good);
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 65: lumo_tarn_debug_setting_msg cannot be read"))
+        << outcome.err;
+    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 122, payload.warn_enabled: 3 bytes are left of 4"))
+        << outcome.err;
+    EXPECT_EQ(shown(message, plain_payload(message, 1)), outcome.out);
+
+    const Outcome further = tarn({"decode", "--keep-going"}, good + cut + good);
+    EXPECT_EQ(2, further.exit);
+    EXPECT_EQ(outcome.out + outcome.out, further.out);
+}
+
+TEST(Coding, WhatIsNoFrameIsNamed) {
+    const auto expect = [](const std::string &bytes, const std::string &words) {
+        const Outcome outcome = tarn({"decode"}, bytes);
+        EXPECT_EQ(2, outcome.exit) << words;
+        EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+    };
+    const std::string commit = control(reference::bundle_table("lumo_tarn_cl_cfg_rsp"), "commit");
+    std::string unknown = commit;
+    unknown[30] ^= 1;
+    std::string longer = commit;
+    longer[15] = 44;
+    std::string shorter = commit;
+    shorter[15] = 42;
+    expect("", "standard input: is empty");
+    expect("rubbish", "neither frames nor XML nor JSON");
+    expect(commit.substr(0, 42), "42 bytes are left, and a frame has at least 43");
+    expect(unknown, "unknown luid ca461fb9");
+    expect(longer, "cut short: its total length is 44, and 43 bytes are left");
+    expect(shorter, "no frame begins here");
+    expect(commit + "x", "frame at offset 43: 1 bytes are left");
+}
+
+}  // namespace
+
+}  // namespace tool_test

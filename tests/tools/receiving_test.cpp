@@ -1,0 +1,158 @@
+// decode --bundles: the receiver's side, with the handler chain, aborted and nested bundles; and record.
+#include <gtest/gtest.h>
+
+#include "process.h"
+#include "samples.h"
+
+namespace tool_test {
+
+namespace {
+
+const reference::BundleTable &bundle() { return reference::bundle_table("lumo_tarn_cl_debug_rsp"); }
+const reference::MessageTable &message() { return reference::message_table("lumo_tarn_debug_setting_msg"); }
+std::string message_frame() { return frame(message(), plain_payload(message(), 3), false); }
+std::string message_text() { return shown(message(), plain_payload(message(), 3)); }
+
+Outcome deliver(const std::string &bytes, std::vector<std::string> more = {}) {
+    std::vector<std::string> all{"decode", "--bundles", "--keep-going", "--verbose"};
+    all.insert(all.end(), more.begin(), more.end());
+    return tarn(all, bytes);
+}
+
+void expect_words(const Outcome &outcome, const std::string &words) {
+    EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+}
+
+struct Link {
+    std::string via, line;
+    bool taken;
+};
+
+class HandlerChain : public testing::TestWithParam<Link> {};
+
+TEST_P(HandlerChain, TellsWhichLinkTookTheBundle) {
+    const Outcome outcome = deliver(answer(bundle(), plain_payload(message(), 3), false), {"--via", GetParam().via});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    expect_words(outcome, GetParam().line + " for lumo_tarn_cl_debug_rsp_bundle_commit\n");
+    EXPECT_EQ(GetParam().taken ? message_text() : "", outcome.out);
+    expect_words(outcome, GetParam().taken ? "\n1 bundles reached" : "\n0 bundles reached");
+}
+
+// The line of the module's handler is that of the look-up table's.
+INSTANTIATE_TEST_SUITE_P(Receiving, HandlerChain,
+                         testing::Values(Link{"lut", "(debug): Invoking LUT-registered handler", true},
+                                         Link{"handle", "(debug): Invoking MIRK handle-registered handler", true},
+                                         Link{"module", "(debug): Invoking LUT-registered handler", true},
+                                         Link{"bundle", "(debug): Invoking registered bundle handler", true},
+                                         Link{"linked", "(debug): Invoking linked-in handler", false}),
+                         [](const auto &info) { return info.param.via; });
+
+TEST(Receiving, AnAbortedBundleDeliversNothing) {
+    const Outcome outcome = deliver(control(bundle(), "start") + message_frame() + control(bundle(), "abort"));
+    EXPECT_EQ(1, outcome.exit);
+    EXPECT_EQ("", outcome.out);
+    expect_words(outcome, "(debug): Bundle aborting for lumo_tarn_cl_debug_rsp_bundle_abort");
+    expect_words(outcome, "frame at offset 108: aborts lumo_tarn_cl_debug_rsp");
+}
+
+TEST(Receiving, ASecondStartIsRefusedAndTheBundleGoesOn) {
+    const std::string start = control(bundle(), "start");
+    const Outcome outcome = deliver(start + start + message_frame() + control(bundle(), "commit"));
+    EXPECT_EQ(2, outcome.exit);
+    expect_words(
+        outcome,
+        "(ERR): Start message lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_start_message received while aready in "
+        "bundle context");
+    expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp_bundle_start: File exists (17)");
+    EXPECT_EQ(message_text(), outcome.out);
+}
+
+TEST(Receiving, ACommitOutsideABundleIsRefused) {
+    const Outcome outcome = deliver(control(bundle(), "commit"));
+    EXPECT_EQ(2, outcome.exit);
+    expect_words(outcome, "(ERR): Abort message received outside of bundle context");
+    expect_words(outcome, "Bad message (74)");
+}
+
+TEST(Receiving, AMessageThatTheBundleDoesNotAdmitIsNamed) {
+    const auto &foreign = reference::message_table("lumo_tarn_dp_intf_msg");
+    const Outcome outcome = deliver(control(bundle(), "start") + frame(foreign, plain_payload(foreign, 1), false) +
+                                    message_frame() + control(bundle(), "commit"));
+    EXPECT_EQ(2, outcome.exit);
+    expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp does not admit lumo_tarn_dp_intf_msg");
+    EXPECT_EQ(message_text(), outcome.out);
+}
+
+TEST(Receiving, ABundleThatNeverEndsIsNamed) {
+    const Outcome outcome = deliver(control(bundle(), "start") + message_frame());
+    EXPECT_EQ(2, outcome.exit);
+    expect_words(outcome, "ends inside lumo_tarn_cl_debug_rsp");
+    EXPECT_EQ("", outcome.out);
+}
+
+TEST(Receiving, AMessageAloneIsDeliveredAtOnce) {
+    const Outcome outcome = deliver(message_frame());
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(message_text(), outcome.out);
+}
+
+class Recording : public testing::Test {
+protected:
+    Directory directory_;
+    std::string xml() const { return reference::message_to_xml(message().name, plain_payload(message(), 3), false); }
+};
+
+TEST_F(Recording, IsARunOfFragmentsThatDecodeReadsBack) {
+    const std::string whole = answer(bundle(), plain_payload(message(), 3), false);
+    const std::string from = directory_.write("frames.bin", whole + message_frame());
+    const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ("recorded 2 of 2 messages\n", outcome.out);
+    EXPECT_EQ(xml() + xml(), directory_.read("recording.xml"));
+    const Outcome decoded = tarn({"decode", directory_.path("recording.xml")});
+    EXPECT_EQ(0, decoded.exit) << decoded.err;
+    EXPECT_EQ(message_text() + message_text(), decoded.out);
+}
+
+TEST_F(Recording, NamesWhatIsTooLargeForTheRecorder) {
+    const Outcome large = tarn({"generate", "dp-tt-cfg", "--elements", "4", "--form", "frames", "--bundle"});
+    const std::string from = directory_.write("frames.bin", large.out + message_frame());
+    const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
+    EXPECT_EQ(1, outcome.exit);
+    expect_words(outcome, "frame at offset 43: lumo_tarn_dp_tt_msg, ");
+    expect_words(outcome, "is too large for the recorder");
+    EXPECT_EQ("recorded 1 of 2 messages\n", outcome.out);
+    EXPECT_EQ(xml(), directory_.read("recording.xml"));
+
+    const Outcome full =
+        tarn({"record", "--from", from, "-o", directory_.path("recording.xml"), "--full", directory_.path("full.bin")});
+    EXPECT_EQ(0, full.exit);
+    EXPECT_EQ(large.out + message_frame(), directory_.read("full.bin"));
+}
+
+TEST_F(Recording, AsksOverASocket) {
+    const Server server({"cl-debug=" + directory_.write("debug.xml", xml())});
+    ASSERT_TRUE(server.is_ready());
+    const Outcome outcome = tarn({"record", "cl-debug", "--socket", server.socket(), "-o",
+                                  directory_.path("recording.xml"), "--rounds", "3", "--interval", "0.01"});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ("recorded 3 of 3 messages\n", outcome.out);
+    EXPECT_EQ(xml() + xml() + xml(), directory_.read("recording.xml"));
+}
+
+// A number that no enumerator has renders as an element which is not well-formed; the fragments around it stay
+// readable.
+TEST_F(Recording, AFragmentThatIsNotWellFormedDoesNotSpoilTheOthers) {
+    const std::string bad =
+        "<lumo_tarn_cl_cfg_msg><lumo_tarn_cl_cfg_data><lumo_tarn_ha_state_e value out of "
+        "range/></lumo_tarn_cl_cfg_data>"
+        "</lumo_tarn_cl_cfg_msg>";
+    const Outcome outcome = tarn({"decode", "--keep-going"}, xml() + bad + xml());
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_EQ(message_text() + message_text(), outcome.out);
+    expect_words(outcome, "standard input:1: ");
+}
+
+}  // namespace
+
+}  // namespace tool_test
