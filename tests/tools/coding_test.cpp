@@ -34,7 +34,7 @@ TEST_P(EveryMessage, IsEncodedFromXmlAsTheReferenceEncodesIt) {
 // Variants, RA data, states and numbers out of range all survive; only a NUL inside a string does not.
 TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
     for (const bool tracked : {false, true}) {
-        for (const std::uint64_t seed : {34, 35, 36}) {
+        for (const std::uint64_t seed : {34U, 35U, 36U}) {
             reference::GeneratorOptions options;
             options.strange = true;
             options.printable = true;

@@ -349,8 +349,8 @@ std::vector<Item> from_json(const Handles &handles, std::string_view content, co
             in >> json;
         } catch (const ordered_json::parse_error &error) {
             const std::string words = error.what();
-            throw Failure(Exit::input,
-                          origin + ":" + line(start + error.byte) + ": " + words.substr(std::min(words.find("syntax error"), words.size())));
+            throw Failure(Exit::input, origin + ":" + line(start + error.byte) + ": " +
+                                           words.substr(std::min(words.find("syntax error"), words.size())));
         }
         collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
     }

@@ -68,7 +68,7 @@ std::uint64_t Plausible::number(const Record &record, const Member &m) {
     if (ends(m, "_opr")) return below(5);
     if (ends(m, "enabled") || ends(m, "initialized") || ends(m, "running") || ends(m, "_set") || ends(m, "init"))
         return below(2);
-    if (m.name == "size" || ends(m, "_size")) return std::min<std::uint64_t>(limit, 64 << below(10));
+    if (m.name == "size" || ends(m, "_size")) return std::min<std::uint64_t>(limit, std::uint64_t{64} << below(10));
     if (ends(m, "_time")) return 1700000000 + below(100000);
     if (m.name == "id" || ends(m, "_id")) return (1000 + std::uint64_t{index_}) & limit;
     if (ends(m, "type") || m.name == "state") return below(4);
