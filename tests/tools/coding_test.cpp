@@ -50,6 +50,19 @@ TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
     }
 }
 
+TEST_P(EveryMessage, KeepsItsStateOnTheWayThroughXml) {
+    reference::GeneratorOptions options;
+    options.printable = true;
+    options.min_text = 1;
+    options.budget = 3000;
+    const auto payload = reference::Generator(37, options).make(GetParam().payload);
+    const Outcome xml = tarn({"decode", "--xml"}, frame(GetParam(), reference::as_received(payload, true), true));
+    const Outcome back = tarn({"encode"}, xml.out);
+    EXPECT_EQ(0, back.exit) << back.err;
+    EXPECT_EQ(1, back.out.at(7));
+    EXPECT_EQ(xml.out, tarn({"decode", "--xml"}, back.out).out);
+}
+
 INSTANTIATE_TEST_SUITE_P(Coding, EveryMessage, testing::ValuesIn(reference::messages()),
                          [](const auto &info) { return info.param.name; });
 

@@ -103,13 +103,13 @@ void deliver(FrameBytes bytes, const std::string &origin, const Options &options
 
 void decode_fragments(std::string_view content, const std::string &origin, const Options &options,
                       Complaints &complaints) {
-    const Handles handles(Tracking::off);
+    const Handles handles(Tracking::as_given);
     for (const Fragment &fragment : split_fragments(content, origin)) {
         try {
             const std::optional<Identity> control = control_in(fragment, origin);
             Item item{control ? *control : Identity{nullptr}, std::nullopt, {}};
             if (!control) {
-                item.message.emplace(message_from_xml(handles.plain(), fragment, origin, options.lenient));
+                item.message.emplace(message_from_xml(handles, fragment, origin, options.lenient));
                 item.identity.operations = &item.message->operations();
             }
             write_file("-", rendered(item, options.style()));

@@ -33,7 +33,7 @@ std::vector<Item> from_xml(const Handles &handles, std::string_view content, con
         if (const auto control = control_in(fragment, origin)) {
             items.push_back({*control, std::nullopt, place});
         } else {
-            Message message = message_from_xml(handles.choose(false), fragment, origin, lenient);
+            Message message = message_from_xml(handles, fragment, origin, lenient);
             items.push_back({{&message.operations()}, std::nullopt, place});
             items.back().message.emplace(std::move(message));
         }

@@ -45,7 +45,6 @@ public:
         const bool tracked = wanted_ == Tracking::as_given ? given_tracked : wanted_ == Tracking::on;
         return tracked ? tracked_ : plain_;
     }
-    const Handle &plain() const { return plain_; }
 
 private:
     Tracking wanted_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "xml_check.h"
+#include "xml_state.h"
 
 namespace tarn::tool {
 
@@ -128,10 +129,12 @@ std::optional<Identity> control_in(const Fragment &fragment, const std::string &
     return std::nullopt;
 }
 
-Message message_from_xml(const Handle &handle, const Fragment &fragment, const std::string &origin, bool lenient) {
+Message message_from_xml(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient) {
     const reflect::MessageOperations &operations = message_for(fragment, origin);
     const Document document = parse(fragment, origin);
     if (!lenient) require_schema(document, fragment, origin, *operations.message);
+    const bool states = has_states(document.get());
+    const Handle &handle = handles.choose(states);
     char words[256] = {};
     std::uint32_t err = 0;
     void *object = operations.from_xml(handle.get(), context_id, document.get(), &err, words, sizeof words);
@@ -139,7 +142,9 @@ Message message_from_xml(const Handle &handle, const Fragment &fragment, const s
         throw Failure(exit_of(err), place(origin, fragment, 1) + operations.name + " cannot be read: " +
                                         error_text(err) + (words[0] != 0 ? std::string("; ") + words : ""));
     }
-    return {handle, operations, object};
+    Message message(handle, operations, object);
+    if (states && handle.tracked()) apply_states(message, document.get());
+    return message;
 }
 
 }  // namespace tarn::tool

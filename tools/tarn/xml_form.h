@@ -23,7 +23,8 @@ std::vector<Fragment> split_fragments(std::string_view text, const std::string &
 // What a control message's element stands for: <bundle_start name="..."></bundle_start>.
 std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin);
 
-// Strict: what the schema does not know, or what would be lost, is a Failure that lists every line concerned.
-Message message_from_xml(const Handle &handle, const Fragment &fragment, const std::string &origin, bool lenient);
+// A document that bears states is one with per-field state. Strict: what the schema does not know, or what would be
+// lost, is a Failure that lists every line concerned.
+Message message_from_xml(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
 
 }  // namespace tarn::tool
