@@ -152,6 +152,15 @@ TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
     EXPECT_EQ(outcome.out + outcome.out, further.out);
 }
 
+TEST(Coding, ACountThatNothingStandsBehindIsAFaultOfTheInput) {
+    const auto &message = reference::message_table("lumo_tarn_cl_appl_msg");
+    std::string bytes = frame(message, reference::Record(message.payload), false);
+    bytes[51] = '\x7f';  // first byte of num_kesh_appls
+    const Outcome outcome = tarn({"decode"}, bytes);
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 55, payload.kesh_appl[0]")) << outcome.err;
+}
+
 TEST(Coding, WhatIsNoFrameIsNamed) {
     const auto expect = [](const std::string &bytes, const std::string &words) {
         const Outcome outcome = tarn({"decode"}, bytes);

@@ -68,7 +68,7 @@ void Reception::feed(const Frame &frame, const std::string &origin) {
         handle_.get(), context_id, buffer.data(), static_cast<std::uint32_t>(frame.bytes.size()), this, &report);
     current_ = nullptr;
     if (error != 0) {
-        throw Failure(exit_of(error),
+        throw Failure(Exit::input,
                       frame_place(origin, frame.offset) + ": " + report.sentence + " (" + std::to_string(error) + ")");
     }
 }

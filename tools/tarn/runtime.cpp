@@ -96,7 +96,8 @@ Message message_from_frame(const Handle &handle, const reflect::MessageOperation
                               static_cast<std::uint32_t>(frame.size()), &err);
     if (object == nullptr) throw Failure(Exit::environment, "no memory for a message");
     Message message(handle, operations, object);
-    if (err != 0) throw Failure(exit_of(err), std::string(operations.name) + " cannot be read: " + error_text(err));
+    // A count that no memory could satisfy, or a frame that ends too early, is reported as a lack of memory, too.
+    if (err != 0) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + error_text(err));
     return message;
 }
 
