@@ -53,7 +53,7 @@ Bytes second_start(const reflect::BundleOperations &bundle) {
 }
 
 void spoil(Bytes &frames, Fault fault) {
-    if (fault == Fault::cut) frames.resize(frames.size() - MIRK_PLATFORM_FRAME_SIZE - 1);
+    if (fault == Fault::cut) frames.erase(frames.end() - MIRK_PLATFORM_FRAME_SIZE - 1, frames.end());
     if (fault == Fault::unknown) frames[MIRK_PLATFORM_FRAME_SIZE + MIRK_PLATFORM_HEADER_SIZE] ^= 0xff;
     if (fault == Fault::rubbish) std::fill(frames.begin(), frames.end(), std::uint8_t{'x'});
 }
