@@ -8,8 +8,8 @@ namespace tarn {
 
 namespace {
 
-// An element that is ended stays in its array and is destroyed once more with it. It keeps the place of its states, which
-// an object gives up at its end: without it they would be looked for on top of the next element.
+// An element that is ended stays in its array and is destroyed once more with it. It keeps the place of its states,
+// which an object gives up at its end: without it they would be looked for on top of the next element.
 template <const Record &R>
 void end_in_array(mirk_handle *h, std::uint32_t ctx_id, mirk_object *element) {
     const bool placed = (element->obj_flag & flag::sttr_offset) != 0;
