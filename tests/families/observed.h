@@ -1,6 +1,7 @@
 // The calls that operations are expected to make, worked out from the reference layout.
 #pragma once
 
+#include "lumo_ui_tarn.h"
 #include "observing.h"
 #include "records.h"
 
@@ -28,7 +29,10 @@ inline Lines lines_of(const std::function<void()> &operation) {
 
 class Sequence : public testing::Test {
 protected:
-    void SetUp() override { forget(); }
+    void SetUp() override {
+        mirk_lumo_ui_tarn_type_trace_init();  // not every test creates an instance first
+        forget();
+    }
     void forget() {
         observing::clear_names();
         observing::clear_log();

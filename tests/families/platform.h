@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "lumo_ui_tarn.h"
 #include "mirk_platform.h"
 #include "mirk_platform_testing.h"
 #include "records.h"
@@ -22,7 +23,8 @@ public:
                                                : MIRK_PLATFORM_TRACKING_NONE;
         options.private_types = private_types;
         h_ = mirk_platform_handle_open(&options);
-        mirk_platform_trace_set_levels(1);  // errors are what most of this is about
+        mirk_lumo_ui_tarn_type_trace_init();  // not every test creates an instance first
+        mirk_platform_trace_set_levels(1);    // errors are what most of this is about
         // Nothing may rely on what a fresh block holds.
         mirk_platform_testing_set_fresh_fill(h_, 0xA5);
     }
