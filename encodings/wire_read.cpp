@@ -47,11 +47,11 @@ struct Reader {
     template <class S>
     bool string(mirk_object *instance);
     template <class A>
-    void drop_block(mirk_object *instance, std::uint32_t old_count);
+    void drop_block(mirk_object *instance);
 };
 
 template <class A>
-void Reader::drop_block(mirk_object *instance, std::uint32_t old_count) {
+void Reader::drop_block(mirk_object *instance) {
     mirk_object **block = A::at(instance);
     for (std::uint32_t i = 0; i < old_count && h->oid_mapping != 0; ++i) {
         mirk_object *element = element_at<A::element>(*block, i);
@@ -72,7 +72,7 @@ bool Reader::array(mirk_object *instance) {
 
     const ElementStates states = read_state ? A::element_states(area) : ElementStates();
     const bool same_elements = *block != nullptr && old_count == n;
-    if (reuse != 0 && *block != nullptr && old_count != n) drop_block<A>(instance, old_count);
+    if (reuse != 0 && *block != nullptr && old_count != n) drop_block<A>(instance);
     if (reuse != 0 && read_state && states.block() != nullptr && old_count != n) {
         release(h, ctx_id, states.block());
         states.put(nullptr);

@@ -12,13 +12,6 @@ using schema::Message;
 
 enum class Control { start, abort, commit };
 
-constexpr const schema::Luid &control_luid(const Bundle &bundle, Control kind) {
-    return kind == Control::start ? bundle.start : kind == Control::abort ? bundle.abort : bundle.commit;
-}
-constexpr std::string_view control_name(Control kind) {
-    return kind == Control::start ? "start" : kind == Control::abort ? "abort" : "commit";
-}
-
 template <const Message &M>
 struct Identity;
 template <const Bundle &B, Control K>

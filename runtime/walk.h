@@ -4,6 +4,7 @@
 // offsets, kinds and slots as constants and unrolls the family to straight-line code.
 #pragma once
 
+#include <array>
 #include <type_traits>
 #include <utility>
 
@@ -73,7 +74,6 @@ std::uintptr_t element_area(const mirk_object *block, std::uint64_t n, std::uint
 template <const Record &R, std::size_t I>
 struct Field {
     static constexpr const Record &owner = R;
-    static constexpr std::size_t index = I;
     static constexpr const Member &member = R.members[I];
     static constexpr Kind kind = member.kind;
     static constexpr schema::Place place = schema::layout<R>.places[I];
@@ -93,7 +93,6 @@ struct Field {
     }
 
     static std::uint8_t *state(std::uint8_t *area) { return area + place.slot; }
-    static std::uint8_t *inner_area(std::uint8_t *area) { return area + place.inner; }
     static std::uintptr_t inner_area(std::uintptr_t area) { return area + place.inner; }
     static ElementStates element_states(std::uint8_t *area) {
         return area != nullptr ? ElementStates(area + place.inner) : ElementStates();
