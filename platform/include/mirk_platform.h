@@ -310,6 +310,18 @@ MIRK_PLATFORM_API void mirk_platform_server_options_init(mirk_platform_server_op
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,
                                                                 const mirk_platform_server_options *options,
                                                                 mirk_platform_server **server);
+/* The port that a frame transport over TCP uses if none is named. */
+#define MIRK_PLATFORM_TCP_PORT 28276
+
+/* Listens on a TCP address: "HOST:PORT", "HOST", ":PORT" or "". A host is a name, a number, or an IPv6 number in
+ * brackets; without one it is 127.0.0.1. Port 0 lets the system choose. 22 for text that is no address; 99 for a host
+ * that is not known or not here; 98 if somebody listens there. A port has no access rights: whoever reaches it is
+ * served. */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open_tcp(const char *address,
+                                                                    const mirk_platform_server_options *options,
+                                                                    mirk_platform_server **server);
+/* Where the server listens: the path of its socket file, or the number of its host and its port, "127.0.0.1:28276". */
+MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_server *server);
 /* Serves on the calling thread until stop; all callbacks run there. What is queued for peers when stop is called is
  * still sent as far as their sockets take it at once. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
@@ -329,6 +341,10 @@ MIRK_PLATFORM_API void mirk_platform_server_close(mirk_platform_server *server);
 /* Connects to a socket file; `frame_limit` 0 means 16 MiB. 110 when the time is over. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit,
                                                                 uint32_t timeout_ms, mirk_platform_client **client);
+/* Connects to a TCP address as mirk_platform_server_open_tcp takes it. Looking up the name of a host does not count
+ * into the time. */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t frame_limit,
+                                                                    uint32_t timeout_ms, mirk_platform_client **client);
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes,
                                                                 size_t size, uint32_t timeout_ms);
 /* Waits for one whole frame. It lies in the client's buffer, writable and with a byte of slack, until the next call.

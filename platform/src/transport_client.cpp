@@ -4,6 +4,7 @@
 
 #include "handle.hpp"
 #include "inbox.hpp"
+#include "tcp_address.hpp"
 
 using LocalProtocol = asio::local::stream_protocol;
 using Clock = std::chrono::steady_clock;
@@ -12,7 +13,7 @@ struct mirk_platform_client {
     explicit mirk_platform_client(uint32_t frame_limit) : inbox(frame_limit) {}
 
     asio::io_context context{1};
-    asio::generic::stream_protocol::socket socket{context};
+    mirk::StreamProtocol::socket socket{context};
     mirk::Inbox inbox;
 };
 
@@ -40,6 +41,20 @@ void wait(mirk_platform_client &client, Clock::time_point until, Outcome *outcom
     if (outcome->error == asio::error::operation_aborted) outcome->error = asio::error::timed_out;
 }
 
+using Client = std::unique_ptr<mirk_platform_client>;
+
+Client make_client(uint32_t frame_limit) {
+    return std::make_unique<mirk_platform_client>(frame_limit != 0 ? frame_limit : mirk::default_frame_limit);
+}
+
+mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &place,
+                            Clock::time_point until) {
+    Outcome outcome;
+    client.socket.async_connect(place, [&](const asio::error_code &error) { outcome.error = error; });
+    wait(client, until, &outcome);
+    return outcome.number();
+}
+
 }  // namespace
 
 extern "C" {
@@ -49,13 +64,29 @@ mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_l
     if (path == nullptr || client == nullptr) return EINVAL;
     return mirk::guarded([&]() -> mirk_platform_error {
         if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
-        auto opened =
-            std::make_unique<mirk_platform_client>(frame_limit != 0 ? frame_limit : mirk::default_frame_limit);
-        Outcome outcome;
-        opened->socket.async_connect(LocalProtocol::endpoint(path),
-                                     [&](const asio::error_code &error) { outcome.error = error; });
-        wait(*opened, deadline(timeout_ms), &outcome);
-        if (outcome.error) return outcome.number();
+        Client opened = make_client(frame_limit);
+        const mirk_platform_error error = connect(*opened, LocalProtocol::endpoint(path), deadline(timeout_ms));
+        if (error == 0) *client = opened.release();
+        return error;
+    });
+}
+
+mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t frame_limit, uint32_t timeout_ms,
+                                                  mirk_platform_client **client) {
+    if (address == nullptr || client == nullptr) return EINVAL;
+    return mirk::guarded([&]() -> mirk_platform_error {
+        const Clock::time_point until = deadline(timeout_ms);
+        Client opened = make_client(frame_limit);
+        std::vector<mirk::StreamProtocol::endpoint> places;
+        mirk_platform_error error = mirk::resolve_tcp_address(opened->context, address, &places);
+        for (const auto &place : places) {
+            asio::error_code ignored;
+            opened->socket.close(ignored);
+            error = connect(*opened, place, until);
+            if (error == 0) break;
+        }
+        if (error != 0) return error;
+        mirk::send_at_once(opened->socket);
         *client = opened.release();
         return 0;
     });

@@ -1,5 +1,5 @@
-// The serving side of the frame transport. A connection works on any stream socket; only the acceptor knows that it
-// listens on a socket file, so that another kind of acceptor can feed connections in the same way.
+// The serving side of the frame transport. Connections and their acceptor work on any stream socket; only listening
+// tells a socket file from a TCP port.
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -7,11 +7,13 @@
 #include <asio.hpp>
 #include <chrono>
 #include <deque>
+#include <sstream>
 
 #include "handle.hpp"
 #include "inbox.hpp"
+#include "tcp_address.hpp"
 
-using Socket = asio::generic::stream_protocol::socket;
+using Socket = mirk::StreamProtocol::socket;
 using LocalProtocol = asio::local::stream_protocol;
 using Clock = std::chrono::steady_clock;
 
@@ -42,14 +44,18 @@ struct mirk_platform_server {
     explicit mirk_platform_server(const mirk_platform_server_options &chosen) : options(chosen) {}
     ~mirk_platform_server();
 
-    mirk_platform_error listen(const char *path);
+    mirk_platform_error prepare_stop();
+    mirk_platform_error listen_on_file(const char *path);
+    mirk_platform_error listen_on_tcp(const char *address);
     void accept_next();
     void wait_for_stop();
     void stop_now();
 
     mirk_platform_server_options options;
     asio::io_context context{1};
-    LocalProtocol::acceptor acceptor{context};
+    asio::basic_socket_acceptor<mirk::StreamProtocol> acceptor{context};
+    bool is_tcp = false;
+    std::string place;
     asio::steady_timer pause{context};
     asio::posix::stream_descriptor stop_signal{context};
     int stop_fd = -1;
@@ -253,10 +259,14 @@ mirk_platform_server::~mirk_platform_server() {
     file.remove();
 }
 
-mirk_platform_error mirk_platform_server::listen(const char *path) {
+mirk_platform_error mirk_platform_server::prepare_stop() {
     stop_fd = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (stop_fd < 0) return static_cast<mirk_platform_error>(errno);
     stop_signal.assign(stop_fd);
+    return 0;
+}
+
+mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
     if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
     const LocalProtocol::endpoint endpoint(path);
     if (const mirk_platform_error error = make_way(context, path, endpoint); error != 0) return error;
@@ -268,6 +278,7 @@ mirk_platform_error mirk_platform_server::listen(const char *path) {
     }
     if (!error) acceptor.bind(endpoint, error);
     if (!error) {
+        place = path;
         file.path = path;
         file.remember();
         acceptor.listen(asio::socket_base::max_listen_connections, error);
@@ -275,8 +286,30 @@ mirk_platform_error mirk_platform_server::listen(const char *path) {
     return number_of(error);
 }
 
+// A port that a former server has just left may be taken again; one that is listened on may not.
+mirk_platform_error mirk_platform_server::listen_on_tcp(const char *address) {
+    std::vector<mirk::StreamProtocol::endpoint> places;
+    const mirk_platform_error unknown = mirk::resolve_tcp_address(context, address, &places);
+    if (unknown != 0) return unknown;
+    asio::error_code error;
+    acceptor.open(places.front().protocol(), error);
+    if (!error) acceptor.set_option(asio::socket_base::reuse_address(true), error);
+    if (!error) acceptor.bind(places.front(), error);
+    if (!error) acceptor.listen(asio::socket_base::max_listen_connections, error);
+    if (error) return number_of(error);
+    const mirk::StreamProtocol::endpoint bound = acceptor.local_endpoint();
+    asio::ip::tcp::endpoint numbers;
+    numbers.resize(bound.size());
+    std::memcpy(numbers.data(), bound.data(), bound.size());
+    std::ostringstream text;
+    text << numbers;
+    place = text.str();
+    is_tcp = true;
+    return 0;
+}
+
 void mirk_platform_server::accept_next() {
-    acceptor.async_accept([this](const asio::error_code &error, LocalProtocol::socket socket) {
+    acceptor.async_accept([this](const asio::error_code &error, Socket socket) {
         if (error == asio::error::operation_aborted) return;
         if (error) {
             // Out of descriptors, most likely; they come back when peers leave.
@@ -293,8 +326,9 @@ void mirk_platform_server::accept_next() {
                               connections.size());
                 return 0;
             }
+            if (is_tcp) mirk::send_at_once(socket);
             const mirk_platform_peer peer = ++last_peer;
-            const auto connection = std::make_shared<Connection>(*this, peer, Socket(std::move(socket)));
+            const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket));
             connections.emplace(peer, connection);
             if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
             if (connections.contains(peer)) connection->start();
@@ -324,6 +358,22 @@ void mirk_platform_server::stop_now() {
     context.stop();
 }
 
+namespace {
+
+mirk_platform_error open_server(const char *place, mirk_platform_error (mirk_platform_server::*listen)(const char *),
+                                const mirk_platform_server_options *options, mirk_platform_server **server) {
+    if (place == nullptr || options == nullptr || options->on_frame == nullptr || server == nullptr) return EINVAL;
+    return mirk::guarded([&]() -> mirk_platform_error {
+        auto opened = std::make_unique<mirk_platform_server>(*options);
+        mirk_platform_error error = opened->prepare_stop();
+        if (error == 0) error = (*opened.*listen)(place);
+        if (error == 0) *server = opened.release();
+        return error;
+    });
+}
+
+}  // namespace
+
 extern "C" {
 
 void mirk_platform_server_options_init(mirk_platform_server_options *options) {
@@ -337,14 +387,15 @@ void mirk_platform_server_options_init(mirk_platform_server_options *options) {
 
 mirk_platform_error mirk_platform_server_open(const char *path, const mirk_platform_server_options *options,
                                               mirk_platform_server **server) {
-    if (path == nullptr || options == nullptr || options->on_frame == nullptr || server == nullptr) return EINVAL;
-    return mirk::guarded([&]() -> mirk_platform_error {
-        auto opened = std::make_unique<mirk_platform_server>(*options);
-        const mirk_platform_error error = opened->listen(path);
-        if (error == 0) *server = opened.release();
-        return error;
-    });
+    return open_server(path, &mirk_platform_server::listen_on_file, options, server);
 }
+
+mirk_platform_error mirk_platform_server_open_tcp(const char *address, const mirk_platform_server_options *options,
+                                                  mirk_platform_server **server) {
+    return open_server(address, &mirk_platform_server::listen_on_tcp, options, server);
+}
+
+const char *mirk_platform_server_place(const mirk_platform_server *server) { return server->place.c_str(); }
 
 mirk_platform_error mirk_platform_server_run(mirk_platform_server *server) {
     return mirk::guarded([&]() -> mirk_platform_error {

@@ -217,6 +217,7 @@ TEST(Transport, ReceiveTimesOutAndGoesOn) {
 
 TEST(Transport, StopEndsRunAndRemovesTheFile) {
     Echo echo;
+    EXPECT_EQ(mirk_platform_server_place(echo.server), echo.path);
     Client client(echo.path);
     struct stat info {};
     ASSERT_EQ(stat(echo.path.c_str(), &info), 0);
@@ -264,4 +265,91 @@ TEST(Transport, TakesOverAStaleSocketFileOnly) {
 TEST(Transport, NobodyThereIsAnError) {
     mirk_platform_client *client = nullptr;
     EXPECT_EQ(mirk_platform_client_open("/tmp/mirk_transport_nobody", 0, 100, &client), 2u);
+}
+
+namespace {
+
+// Serves over TCP, on a port that the system chose.
+class TcpEcho {
+public:
+    explicit TcpEcho(const char *address) {
+        mirk_platform_server_options options;
+        mirk_platform_server_options_init(&options);
+        options.on_frame = [](void *, mirk_platform_server *from, mirk_platform_peer peer, void *bytes, uint32_t size) {
+            mirk_platform_server_send(from, peer, bytes, size);
+        };
+        EXPECT_EQ(mirk_platform_server_open_tcp(address, &options, &server), 0u);
+        const std::string place = mirk_platform_server_place(server);
+        port = place.substr(place.rfind(':') + 1);
+        thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
+    }
+    ~TcpEcho() {
+        mirk_platform_server_stop(server);
+        thread.join();
+        mirk_platform_server_close(server);
+    }
+
+    std::string port;
+
+private:
+    mirk_platform_server *server = nullptr;
+    std::thread thread;
+};
+
+uint32_t open_tcp(const std::string &address, mirk_platform_client **client) {
+    return mirk_platform_client_open_tcp(address.c_str(), 0, 2000, client);
+}
+
+}  // namespace
+
+TEST(Transport, CarriesFramesOverTcp) {
+    const TcpEcho echo("127.0.0.1:0");
+    ASSERT_NE(echo.port, "0");
+    for (const char *host : {"127.0.0.1", "localhost", ""}) {
+        mirk_platform_client *client = nullptr;
+        ASSERT_EQ(open_tcp(host + (":" + echo.port), &client), 0u) << host;
+        const std::string both = frame(43, 'a') + frame(300000, 'b');
+        EXPECT_EQ(mirk_platform_client_send(client, both.data(), both.size(), 5000), 0u);
+        for (const std::string &expected : {frame(43, 'a'), frame(300000, 'b')}) {
+            void *at = nullptr;
+            uint32_t size = 0;
+            ASSERT_EQ(mirk_platform_client_receive(client, &at, &size, 5000), 0u);
+            EXPECT_EQ(std::string(static_cast<char *>(at), size), expected);
+        }
+        mirk_platform_client_close(client);
+    }
+}
+
+TEST(Transport, ATcpPortWithoutAHostIsReachedFromThisMachineOnly) {
+    const TcpEcho echo(":0");
+    mirk_platform_client *client = nullptr;
+    EXPECT_EQ(open_tcp("127.0.0.1:" + echo.port, &client), 0u);
+    mirk_platform_client_close(client);
+    // Another address of this machine, where a server on all addresses would answer.
+    EXPECT_EQ(open_tcp("127.0.0.2:" + echo.port, &client), 111u);
+}
+
+TEST(Transport, TwoServersDoNotShareATcpPort) {
+    const TcpEcho echo(":0");
+    auto options = Echo::defaults();
+    options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
+    mirk_platform_server *server = nullptr;
+    EXPECT_EQ(mirk_platform_server_open_tcp((":" + echo.port).c_str(), &options, &server), 98u);
+}
+
+TEST(Transport, TextThatIsNoTcpAddressIsAnError) {
+    auto options = Echo::defaults();
+    options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
+    mirk_platform_server *server = nullptr;
+    mirk_platform_client *client = nullptr;
+    for (const char *text : {"127.0.0.1:", "127.0.0.1:x", "127.0.0.1:65536", "127.0.0.1:-1", "127.0.0.1:123456", "::1",
+                             "[::1", "[]:1", "[::1]1", ":"}) {
+        EXPECT_EQ(mirk_platform_server_open_tcp(text, &options, &server), 22u) << text;
+        EXPECT_EQ(open_tcp(text, &client), 22u) << text;
+    }
+    EXPECT_EQ(mirk_platform_server_open_tcp("no such host:1", &options, &server), 99u);
+    EXPECT_EQ(mirk_platform_server_open_tcp("192.0.2.1:0", &options, &server), 99u);  // nobody has this one
+    EXPECT_EQ(open_tcp("no such host:1", &client), 99u);
+    options.on_frame = nullptr;
+    EXPECT_EQ(mirk_platform_server_open_tcp(":0", &options, &server), 22u);
 }

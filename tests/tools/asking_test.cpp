@@ -1,6 +1,8 @@
 // One process answers, another asks: every bundle, every form, with and without per-field state.
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "process.h"
 #include "samples.h"
 
@@ -110,6 +112,41 @@ TEST(Asking, JsonAndHexAreFormsToo) {
     const Outcome hex = server.show("cl-debug", {"--hex"});
     EXPECT_EQ(0U, hex.out.find("00000000  bc ff ff ff ff ff ff 00  00 00 00 02 00 00 00 2b")) << hex.out;
     EXPECT_EQ(2, server.show("cl-debug", {"--hex", "--json"}).exit);
+}
+
+TEST(Asking, TcpCarriesTheSameAnswer) {
+    const Directory directory;
+    const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
+    const Server local({snapshot});
+    Process server({"answer", "--listen", ":0", snapshot});
+    ASSERT_TRUE(local.is_ready() && server.wait_for(": cl-debug\n"));
+    const std::string address = server.out().substr(0, server.out().find(": ")).substr(strlen("answering on "));
+    EXPECT_EQ(0U, address.find("127.0.0.1:")) << address;
+    const Outcome over_tcp = tarn({"show", "cl-debug", "--connect", address});
+    EXPECT_EQ(0, over_tcp.exit) << over_tcp.err;
+    EXPECT_EQ(local.show("cl-debug").out, over_tcp.out);
+    const Outcome recorded = tarn({"record", "cl-debug", "--connect", address, "-o", directory.path("recording.xml")});
+    EXPECT_EQ("recorded 1 of 1 messages\n", recorded.out) << recorded.err;
+    const Outcome second = tarn({"answer", "--listen", address, snapshot});
+    EXPECT_EQ(3, second.exit);
+    EXPECT_NE(std::string::npos, second.err.find("EADDRINUSE")) << second.err;
+    EXPECT_EQ(0, server.stop().exit);
+    const Outcome gone = tarn({"show", "cl-debug", "--connect", address});
+    EXPECT_EQ(3, gone.exit);
+    EXPECT_NE(std::string::npos, gone.err.find("ECONNREFUSED")) << gone.err;
+}
+
+TEST(Asking, AnAddressIsGivenOnceAndWell) {
+    const Directory directory;
+    const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
+    for (const char *wrong : {"127.0.0.1:", "127.0.0.1:99999", "::1", "[::1"}) {
+        EXPECT_EQ(2, tarn({"answer", "--listen", wrong, snapshot}).exit) << wrong;
+        EXPECT_EQ(2, tarn({"show", "cl-debug", "--connect", wrong}).exit) << wrong;
+    }
+    EXPECT_EQ(2, tarn({"answer", snapshot}).exit);
+    EXPECT_EQ(2, tarn({"show", "cl-debug"}).exit);
+    EXPECT_EQ(2, tarn({"answer", "--listen", ":0", "--socket", directory.path("socket"), snapshot}).exit);
+    EXPECT_EQ(2, tarn({"show", "cl-debug", "--connect", ":1", "--socket", directory.path("socket")}).exit);
 }
 
 TEST(Asking, NobodyListeningIsAFailureOfTheEnvironment) {

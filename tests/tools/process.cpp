@@ -100,6 +100,8 @@ bool Process::wait_for(std::string_view text) const {
     return false;
 }
 
+std::string Process::out() const { return read_path(out_); }
+
 bool Process::is_running() const {
     siginfo_t info{};
     return waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == 0;

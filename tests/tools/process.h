@@ -29,6 +29,7 @@ public:
 
     // Waits until the standard output holds the text. False if the process ends or ten seconds pass first.
     bool wait_for(std::string_view text) const;
+    std::string out() const;
     bool is_running() const;
     void signal(int number) const;
     // Sends SIGTERM and waits for the end.

@@ -12,7 +12,7 @@ namespace tarn::tool {
 namespace {
 
 struct Options {
-    std::string socket;
+    std::string socket, listen;
     std::vector<std::string> served;
     Fault fault = Fault::none;
     unsigned peers = 256, idle = 60;
@@ -70,9 +70,12 @@ void Server::open() {
     settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
         static_cast<Server *>(user)->note(peer, std::string("gone: ") + reason);
     };
-    if (const mirk_platform_error error = mirk_platform_server_open(options_.socket.c_str(), &settings, &server_);
-        error != 0) {
-        throw Failure(Exit::environment, "cannot listen on " + options_.socket + ": " + error_text(error));
+    const bool tcp = !options_.listen.empty();
+    const std::string &place = tcp ? options_.listen : options_.socket;
+    const auto open = tcp ? mirk_platform_server_open_tcp : mirk_platform_server_open;
+    if (const mirk_platform_error error = open(place.c_str(), &settings, &server_); error != 0) {
+        throw Failure(tcp && error == EINVAL ? Exit::input : Exit::environment,
+                      "cannot listen on " + place + ": " + error_text(error));
     }
 }
 
@@ -84,7 +87,7 @@ void Server::run() {
     sigaction(SIGTERM, &action, nullptr);
     std::string names;
     for (const std::string &name : answerer_.names()) names += (names.empty() ? "" : ", ") + name;
-    std::printf("answering on %s: %s\n", options_.socket.c_str(), names.c_str());
+    std::printf("answering on %s: %s\n", mirk_platform_server_place(server_), names.c_str());
     std::fflush(stdout);
     const mirk_platform_error error = mirk_platform_server_run(server_);
     if (error != 0) throw Failure(Exit::environment, "serving ended: " + error_text(error));
@@ -132,8 +135,11 @@ const std::map<std::string, Fault> fault_names = {
 
 void add_answer(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("answer", "serve snapshots of bundles over a socket");
-    command->add_option("--socket", options->socket, "socket file to listen on")->required();
+    CLI::App *command = app.add_subcommand("answer", "serve snapshots of bundles over a socket or TCP");
+    CLI::Option_group *place = command->add_option_group("place", "where to listen");
+    place->add_option("--socket", options->socket, "a socket file, which only its owner may use");
+    place->add_option("--listen", options->listen, tcp_words("a TCP address, which whoever reaches it may use"));
+    place->require_option(1);
     command
         ->add_option("served", options->served,
                      "BUNDLE=FILE: a bundle by name or short form, and its messages as XML, JSON or frames")
@@ -151,6 +157,7 @@ void add_answer(CLI::App &app, Context &) {
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock lumo_tarn_dp_tt_cfg_rsp=tables.json dp-intf=intf.xml\n"
+        "  tarn answer --listen 127.0.0.1:28276 cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
     command->callback([options] {
         set_up_trace(options->verbose);

@@ -37,8 +37,9 @@ std::uint32_t Deadline::left_ms() const {
     return left.count() > 0 ? static_cast<std::uint32_t>(left.count()) : 0;
 }
 
-Connection::Connection(const std::string &path, const Deadline &deadline) : path_(path), deadline_(deadline) {
-    check(mirk_platform_client_open(path.c_str(), 0, deadline.left_ms(), &client_), "cannot connect");
+Connection::Connection(const Place &place, const Deadline &deadline) : name_(place.text()), deadline_(deadline) {
+    const auto open = place.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
+    check(open(name_.c_str(), 0, deadline.left_ms(), &client_), "cannot connect");
 }
 
 void Connection::ask(const reflect::BundleOperations &bundle, bool tracked) {
@@ -58,13 +59,13 @@ FrameBytes Connection::receive() {
 
 void Connection::check(mirk_platform_error error, const char *what) const {
     if (error == 0) return;
-    const bool bad_bytes = error == EBADMSG || error == EMSGSIZE;
-    throw Failure(bad_bytes ? Exit::input : Exit::environment, path_ + ": " + what + ": " + error_text(error));
+    const bool bad_input = error == EBADMSG || error == EMSGSIZE || error == EINVAL;
+    throw Failure(bad_input ? Exit::input : Exit::environment, name_ + ": " + what + ": " + error_text(error));
 }
 
 Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
                       const std::function<void(const Frame &)> &feed) {
-    const std::string &origin = connection.path();
+    const std::string &origin = connection.name();
     Answer answer;
     for (;;) {
         const FrameBytes bytes = connection.receive();

@@ -20,14 +20,22 @@ private:
     std::chrono::steady_clock::time_point end_;
 };
 
+// The answering process: a socket file or a TCP address, of which one is empty.
+struct Place {
+    std::string socket, tcp;
+
+    bool is_given() const { return !socket.empty() || !tcp.empty(); }
+    const std::string &text() const { return socket.empty() ? tcp : socket; }
+};
+
 class Connection {
 public:
-    Connection(const std::string &path, const Deadline &deadline);
+    Connection(const Place &place, const Deadline &deadline);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
     ~Connection() { mirk_platform_client_close(client_); }
 
-    const std::string &path() const { return path_; }
+    const std::string &name() const { return name_; }
     void ask(const reflect::BundleOperations &bundle, bool tracked);
     // One whole frame, until the next call.
     FrameBytes receive();
@@ -35,7 +43,7 @@ public:
 private:
     void check(mirk_platform_error error, const char *what) const;
 
-    std::string path_;
+    std::string name_;
     Deadline deadline_;
     mirk_platform_client *client_ = nullptr;
 };

@@ -4,12 +4,19 @@
 #include <CLI/CLI.hpp>
 
 #include "failure.h"
+#include "mirk_platform.h"
 
 namespace tarn::tool {
 
 struct Context {
     Exit exit = Exit::done;
 };
+
+// What an option that takes a TCP address says of itself.
+inline std::string tcp_words(const std::string &what) {
+    return "HOST:PORT, " + what + "; without a host 127.0.0.1, without a port " +
+           std::to_string(MIRK_PLATFORM_TCP_PORT);
+}
 
 void add_answer(CLI::App &app, Context &context);
 void add_show(CLI::App &app, Context &context);

@@ -13,7 +13,8 @@ namespace tarn::tool {
 namespace {
 
 struct Options {
-    std::string output, full, socket, from;
+    std::string output, full, from;
+    Place place;
     std::vector<std::string> what;
     unsigned rounds = 1;
     double interval = 1, timeout = 10;
@@ -94,10 +95,10 @@ void record_from_socket(const Options &options, Keeper &keeper) {
         for (const std::string &what : options.what) {
             const reflect::BundleOperations &bundle = bundle_named(what);
             Reception reception(options.tracked, Via::handle);
-            Connection connection(options.socket, Deadline(options.timeout));
+            Connection connection(options.place, Deadline(options.timeout));
             connection.ask(bundle, options.tracked);
             receive_answer(connection, reception, bundle,
-                           [&](const Frame &frame) { keeper.feed(reception, frame, options.socket); });
+                           [&](const Frame &frame) { keeper.feed(reception, frame, options.place.text()); });
         }
     }
 }
@@ -123,9 +124,12 @@ void add_record(CLI::App &app, Context &context) {
         ->required();
     command->add_option("--full", options->full,
                         "keep all frames in this file, too, also those too large for the recorder");
-    CLI::Option *socket = command->add_option("--socket", options->socket, "socket file of the answering process");
+    CLI::Option *socket =
+        command->add_option("--socket", options->place.socket, "socket file of the answering process");
+    CLI::Option *connect = command->add_option("--connect", options->place.tcp, tcp_words("its TCP address"));
     CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead");
-    socket->excludes(from);
+    socket->excludes(from)->excludes(connect);
+    connect->excludes(from);
     command->add_option("--rounds", options->rounds, "ask for each bundle so many times")->capture_default_str();
     command->add_option("--interval", options->interval, "seconds between the rounds")->capture_default_str();
     command->add_option("--timeout", options->timeout, "seconds to wait for a whole answer")
@@ -142,8 +146,8 @@ void add_record(CLI::App &app, Context &context) {
         "  tarn record dp-tt-cfg --socket /tmp/tarn.sock -o recording.xml --full frames.bin --rounds 10\n"
         "  tarn record --from frames.bin -o recording.xml");
     command->callback([options, &context] {
-        if (options->from.empty() && (options->socket.empty() || options->what.empty())) {
-            throw Failure(Exit::input, "either --from, or --socket and at least one bundle, is needed");
+        if (options->from.empty() && (!options->place.is_given() || options->what.empty())) {
+            throw Failure(Exit::input, "either --from, or --socket or --connect and at least one bundle, is needed");
         }
         context.exit = run(*options);
     });

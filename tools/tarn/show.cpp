@@ -15,7 +15,8 @@ namespace {
 enum class Print : std::uint8_t { text, xml, json, hex };
 
 struct Options {
-    std::string what, socket, save;
+    std::string what, save;
+    Place place;
     bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
     double timeout = 10;
     std::string via = "handle";
@@ -40,12 +41,12 @@ void run(const Options &options) {
     const reflect::BundleOperations &bundle = bundle_named(options.what);
     const Deadline deadline(options.timeout);
     Reception reception(options.tracked, via_named(options.via));
-    Connection connection(options.socket, deadline);
+    Connection connection(options.place, deadline);
     connection.ask(bundle, options.tracked);
     const Answer answer = receive_answer(connection, reception, bundle);
     if (!options.save.empty()) write_file(options.save, answer.frames);
     if (reception.committed() == 0) {
-        throw Failure(Exit::different, options.socket + ": nobody took " + std::string(bundle.bundle->name));
+        throw Failure(Exit::different, options.place.text() + ": nobody took " + std::string(bundle.bundle->name));
     }
     const Print form = options.xml ? Print::xml : options.json ? Print::json : options.hex ? Print::hex : Print::text;
     print(answer, bundle, form);
@@ -57,7 +58,10 @@ void add_show(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("show", "ask a process for a bundle and print its answer");
     command->add_option("what", options->what, "bundle by name or short form, such as cl-debug")->required();
-    command->add_option("--socket", options->socket, "socket file of the answering process")->required();
+    CLI::Option_group *place = command->add_option_group("place", "where the answering process is");
+    place->add_option("--socket", options->place.socket, "its socket file");
+    place->add_option("--connect", options->place.tcp, tcp_words("its TCP address"));
+    place->require_option(1);
     CLI::Option_group *form = command->add_option_group("form", "how to print the answer");
     form->add_flag("--text", options->text, "as indented text, which is the default");
     form->add_flag("--xml", options->xml, "as XML");
@@ -79,6 +83,7 @@ void add_show(CLI::App &app, Context &) {
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock\n"
         "  tarn show dp-tt-cfg --socket /tmp/tarn.sock --json | jq .messages[0].payload\n"
+        "  tarn show cl-debug --connect 127.0.0.1:28276\n"
         "  tarn show lumo_tarn_dp_intf_rsp --socket /tmp/tarn.sock --tracked --xml\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --via module --verbose");
     command->callback([options] { run(*options); });
