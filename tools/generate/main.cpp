@@ -74,10 +74,15 @@ int main(int argc, char **argv) {
         put(argv[2], write_manifest(stamp_from(argv + 3, argv + argc)));
     } else if (kind == "floor") {
         put(argv[2], write_floor());
+    } else if (kind == "plain") {
+        put(argv[2], write_plain());
+    } else if (kind == "rivals") {
+        put(argv[2], write_rivals());
     } else if (kind == "operations") {
         put(argv[2], write_operations());
     } else {
-        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|floor DIRECTORY [NAME=VALUE...]\n";
+        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals DIRECTORY "
+                     "[NAME=VALUE...]\n";
         return 2;
     }
     return 0;

@@ -15,6 +15,8 @@ Files write_lists();                            // goldens: exported names, layo
 Files write_linker_script();                    // build tree: the version script
 
 Files write_floor();       // build tree: straight-line code, for the benchmarks
+Files write_plain();       // build tree: records as plain structs, for the same
+Files write_rivals();      // build tree: the schema in the languages of other serializers, for the same
 Files write_operations();  // build tree: every operation as a table, for tools and tests
 
 struct BuildStamp {

@@ -1,0 +1,135 @@
+// The benchmarks measure the library against straight-line code. That comparison means something only if both make the
+// same calls of the runtime and produce the same bytes.
+#include "bench/workloads/floor.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "bench/workloads/workloads.h"
+#include "observing.h"
+#include "tools/reflect/operations.h"
+
+namespace {
+
+using observing::Detail;
+using observing::Tracking;
+using tarn::bench::Floor;
+using tarn::reflect::RecordOperations;
+
+constexpr std::uint32_t kId = 7;
+using Lines = std::vector<std::string>;
+using Bytes = std::vector<std::uint8_t>;
+
+std::uint8_t *bytes_of(void *object) { return static_cast<std::uint8_t *>(object); }
+
+struct Workload {
+    const char *name;
+    const char *record;
+    void *(*make)(mirk_handle *h);
+};
+
+void PrintTo(const Workload &workload, std::ostream *to) { *to << workload.name; }
+
+template <class Object, auto Value, auto Create>
+void *stored(mirk_handle *h) {
+    Object *object = Create(h, kId);
+    std::uint32_t err = 0;
+    tarn::bench::store(h, kId, object, Value(), &err);
+    EXPECT_EQ(err, 0U);
+    return object;
+}
+
+const Workload workloads[] = {
+    {"deep", "lumo_tarn_dp_tt_table_data",
+     stored<lumo_tarn_dp_tt_table_data, tarn::bench::deep, lumo_tarn_dp_tt_table_data_create>},
+    {"flat", "lumo_tarn_debug_setting",
+     stored<lumo_tarn_debug_setting, tarn::bench::flat, lumo_tarn_debug_setting_create>},
+    {"wide", "lumo_tarn_cl_cfg_data", stored<lumo_tarn_cl_cfg_data, tarn::bench::wide, lumo_tarn_cl_cfg_data_create>},
+    {"strings", "lumo_tarn_cl_appl_data",
+     stored<lumo_tarn_cl_appl_data, tarn::bench::strings, lumo_tarn_cl_appl_data_create>},
+};
+
+class FloorTest : public testing::TestWithParam<std::tuple<Workload, bool>> {
+protected:
+    FloorTest() : handle({.tracking = tracked ? Tracking::on : Tracking::off}) {
+        observing::quiet(true);
+        object = workload.make(handle);
+        buffer.resize(operations.len(handle, kId, object) + 1);
+        size =
+            operations.marshal(handle, kId, buffer.data(), object, static_cast<std::int32_t>(buffer.size() - 1), &err);
+        observing::quiet(false);
+    }
+    ~FloorTest() override { operations.destroy(handle, kId, object); }
+
+    // What is asked of the runtime while something runs, with every argument. Without tracking a state area is a place
+    // behind a block, formed and never touched, so what lies there by chance has no name to compare.
+    template <class Run>
+    Lines calls(Run run) {
+        observing::clear_names();
+        observing::name_region("buffer", buffer.data(), buffer.size());
+        observing::name_region("object", object, handle.block_size(object));
+        observing::clear_log();
+        run();
+        EXPECT_EQ(err, 0U);
+        Lines lines;
+        for (observing::Call &call : observing::log()) {
+            if (call.inner) continue;
+            const bool has_area = call.function.ends_with("_initialize") && !call.arguments.empty();
+            if (has_area && !tracked) call.arguments.back() = "area";
+            lines.push_back(observing::line(call, Detail::full));
+        }
+        return lines;
+    }
+
+    const Workload workload = std::get<0>(GetParam());
+    const bool tracked = std::get<1>(GetParam());
+    const RecordOperations &operations = *tarn::reflect::find_record(workload.record);
+    const Floor &floor = tarn::bench::contract_floor(workload.record);
+    observing::Handle handle;
+    Bytes buffer;
+    std::uint32_t size = 0;
+    void *object = nullptr;
+    std::uint32_t err = 0;
+};
+
+void expect_same(const Lines &floor, const Lines &library) {
+    ASSERT_FALSE(library.empty());
+    const auto differs = std::mismatch(floor.begin(), floor.end(), library.begin(), library.end());
+    EXPECT_EQ(differs.first, floor.end()) << *differs.first << "\nis call " << differs.first - floor.begin();
+    EXPECT_EQ(differs.second, library.end()) << *differs.second << "\nis call " << differs.second - library.begin();
+}
+
+TEST_P(FloorTest, WritesAFrameWithTheLibrarysCalls) {
+    const auto capacity = static_cast<std::int32_t>(buffer.size() - 1);
+    const Bytes expected = buffer;
+    const Lines library = calls([&] { operations.marshal(handle, kId, buffer.data(), object, capacity, &err); });
+    std::fill(buffer.begin(), buffer.end(), std::uint8_t{0});
+    const Lines straight = calls([&] { floor.marshal(handle, kId, buffer.data(), bytes_of(object), capacity, &err); });
+    expect_same(straight, library);
+    EXPECT_TRUE(std::equal(buffer.begin(), buffer.begin() + size, expected.begin()));
+}
+
+TEST_P(FloorTest, ReadsAndDestroysWithTheLibrarysCalls) {
+    const Lines library = calls([&] {
+        void *target = operations.create(handle, kId);
+        EXPECT_EQ(operations.unmarshal(handle, kId, buffer.data(), target, size, 0, &err), size);
+        EXPECT_EQ(operations.compare(target, object), 0);
+        operations.destroy(handle, kId, target);
+    });
+    const Lines straight = calls([&] {
+        void *target = floor.create(handle, kId);
+        EXPECT_EQ(floor.unmarshal(handle, kId, buffer.data(), bytes_of(target), size, 0, &err), size);
+        EXPECT_EQ(operations.compare(target, object), 0);
+        floor.destroy(handle, kId, bytes_of(target), true);
+    });
+    expect_same(straight, library);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FloorTest, testing::Combine(testing::ValuesIn(workloads), testing::Bool()),
+                         [](const auto &test) {
+                             return std::string(std::get<0>(test.param).name) +
+                                    (std::get<1>(test.param) ? "_tracked" : "");
+                         });
+
+}  // namespace
