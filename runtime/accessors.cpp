@@ -32,72 +32,90 @@ bool refuse_untracked(mirk_handle *h, std::uint32_t *err) {
     return false;
 }
 
-bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t base_size,
-                  std::uint32_t slot, std::uint32_t *err) {
+namespace {
+
+// Null for a null object.
+template <class Storage>
+Storage *member_at(mirk_object *object, const MemberPlace &place) {
+    return object != nullptr ? reinterpret_cast<Storage *>(bytes_of(object) + place.offset) : nullptr;
+}
+
+std::uint8_t *state_at(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberPlace &place) {
+    return state_area(h, ctx_id, object, place.base_size) + place.slot;
+}
+
+}  // namespace
+
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberPlace &place,
+                  std::uint32_t *err) {
     if (!tracks(h)) return true;
     if (!is_state_tracked(object)) return refuse_untracked(h, err);
-    store(h, ctx_id, state_area(h, ctx_id, object, base_size) + slot, written_state);
+    store(h, ctx_id, state_at(h, ctx_id, object, place), written_state);
     return true;
 }
 
-template <class F>
-auto Accessor<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) -> Storage * {
+template <Kind K, auto Of>
+[[gnu::noinline]] auto KindAccessor<K, Of>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                std::uint32_t *err, const MemberPlace &place) -> Storage * {
     if (!begin(h, err)) return nullptr;
-    if (!gate(h, object, F::value_kind, err)) return nullptr;
-    return Primitive<F>::get(h, ctx_id, F::at(object), err);
+    if (!gate(h, object, place.value_kind, err)) return nullptr;
+    return PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, place), err);
 }
 
-template <class F>
-auto Accessor<F>::get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-    Storage *field = get(h, ctx_id, object, err);
-    using Value = decltype(Primitive<F>::get_value(h, ctx_id, field, err));
-    return field != nullptr ? Primitive<F>::get_value(h, ctx_id, field, err) : Value{0};
+template <Kind K, auto Of>
+[[gnu::noinline]] auto KindAccessor<K, Of>::get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                      std::uint32_t *err, const MemberPlace &place) {
+    Storage *field = get(h, ctx_id, object, err, place);
+    using Value = decltype(PrimitiveOf<K, Of>::get_value(h, ctx_id, field, err));
+    return field != nullptr ? PrimitiveOf<K, Of>::get_value(h, ctx_id, field, err) : Value{0};
 }
 
-template <class F>
+template <Kind K, auto Of>
 template <class Source>
-void Accessor<F>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Source *source, std::uint32_t *err) {
+[[gnu::noinline]] void KindAccessor<K, Of>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                Source *source, std::uint32_t *err, const MemberPlace &place) {
     if (!begin(h, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, F::value_kind, err)) return;
-    Primitive<F>::set(h, ctx_id, F::at(object), source, err);
-    if (mark_written<F>(h, ctx_id, object, err)) mark_modified(object, F::value_kind);
+    if (!gate(h, object, place.value_kind, err)) return;
+    PrimitiveOf<K, Of>::set(h, ctx_id, member_at<Storage>(object, place), source, err);
+    if (mark_written(h, ctx_id, object, place, err)) mark_modified(object, place.value_kind);
 }
 
-template <class F>
+template <Kind K, auto Of>
 template <class Value>
-void Accessor<F>::set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Value value,
-                            std::uint32_t *err) {
+[[gnu::noinline]] void KindAccessor<K, Of>::set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                      Value value, std::uint32_t *err, const MemberPlace &place) {
     if (!begin(h, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, F::value_kind, err)) return;
+    if (!gate(h, object, place.value_kind, err)) return;
     // Finding the field is a get in its own right, with a look at slot and variant again.
     Storage *field = nullptr;
-    if (*err == 0 && gate(h, object, F::value_kind, err)) field = Primitive<F>::get(h, ctx_id, F::at(object), err);
+    if (*err == 0 && gate(h, object, place.value_kind, err)) {
+        field = PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, place), err);
+    }
     if (*err != 0) return;
     if (field == nullptr) {
         fail(h, err, ENOENT);
         return;
     }
     // A refused value leaves its error in the slot, and the member counts as written all the same.
-    Primitive<F>::set_value(h, ctx_id, field, value, err);
-    if (mark_written<F>(h, ctx_id, object, err)) mark_modified(object, F::value_kind);
+    PrimitiveOf<K, Of>::set_value(h, ctx_id, field, value, err);
+    if (mark_written(h, ctx_id, object, place, err)) mark_modified(object, place.value_kind);
 }
 
-template <class F>
-std::uint8_t StateByte<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
+std::uint8_t get_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
+                            const MemberPlace &place) {
     if (*err != 0 || !can_read_state(h, object, err)) return 0;
-    return *F::state(state_area<F::owner>(h, ctx_id, object));
+    return *state_at(h, ctx_id, object, place);
 }
 
-template <class F>
-void StateByte<F>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value,
-                       std::uint32_t *err) {
+void set_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err,
+                    const MemberPlace &place) {
     if (*err != 0 || !can_write_state(h, object, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, F::value_kind, err)) return;
-    store(h, ctx_id, F::state(state_area<F::owner>(h, ctx_id, object)), value);
-    mark_modified(object, F::value_kind);
+    if (!gate(h, object, place.value_kind, err)) return;
+    store(h, ctx_id, state_at(h, ctx_id, object, place), value);
+    mark_modified(object, place.value_kind);
 }
 
 template <const Record &R>

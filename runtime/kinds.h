@@ -14,13 +14,17 @@
 
 namespace tarn {
 
+// Of is the type that a kind has besides: the enumeration, the record.
+template <Kind K, auto Of>
+struct PrimitiveOf;
+
 // F is a Field.
-template <class F, Kind K = F::kind>
-struct Primitive;
+template <class F>
+using Primitive = PrimitiveOf<F::kind, F::of>;
 
 #define TARN_INTEGER_KIND(KIND, NAME)                                   \
-    template <class F>                                                  \
-    struct Primitive<F, Kind::KIND> {                                   \
+    template <auto Of>                                                  \
+    struct PrimitiveOf<Kind::KIND, Of> {                                \
         static constexpr auto get = NAME##_get;                         \
         static constexpr auto get_value = NAME##_get_value;             \
         static constexpr auto set = NAME##_set;                         \
@@ -44,8 +48,8 @@ TARN_INTEGER_KIND(u32, u_int32)
 TARN_INTEGER_KIND(u64, u_int64)
 #undef TARN_INTEGER_KIND
 
-template <class F>
-struct Primitive<F, Kind::boolean> {
+template <auto Of>
+struct PrimitiveOf<Kind::boolean, Of> {
     static constexpr auto get = mirk_boolean_get;
     static constexpr auto get_value = mirk_boolean_get_value;
     static constexpr auto set = mirk_boolean_set;
@@ -64,8 +68,8 @@ struct Primitive<F, Kind::boolean> {
     static constexpr auto set_instance_embedded = mirk_boolean_set_instance_embedded;
 };
 
-template <class F>
-struct Primitive<F, Kind::address> {
+template <auto Of>
+struct PrimitiveOf<Kind::address, Of> {
     static constexpr auto get = ip_address_get;
     static constexpr auto set = ip_address_set;
     static constexpr auto len = ip_address_len;
@@ -85,14 +89,13 @@ struct Primitive<F, Kind::address> {
     static constexpr auto get_object_references = ip_address_get_object_references;
 };
 
-template <class F>
-struct Primitive<F, Kind::enumeration> : Enum<*F::member.enumeration> {
+template <auto Of>
+struct PrimitiveOf<Kind::enumeration, Of> : Enum<*Of> {
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, enumeration_object *field,
                                    std::int32_t left, std::uint32_t reuse, std::uint32_t *err) {
-        return Enum<*F::member.enumeration>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left),
-                                                       reuse, err);
+        return Enum<*Of>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
     }
-    static mirk_type_info *type() { return &TypeInfo<*F::member.enumeration>::own; }
+    static mirk_type_info *type() { return &TypeInfo<*Of>::own; }
 };
 
 template <const Record &R>
@@ -124,7 +127,7 @@ struct NestedRecord {
     }
 };
 
-template <class F>
-struct Primitive<F, Kind::record> : NestedRecord<*F::member.record> {};
+template <auto Of>
+struct PrimitiveOf<Kind::record, Of> : NestedRecord<*Of> {};
 
 }  // namespace tarn

@@ -48,7 +48,7 @@ void String<S>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, c
         std::memset(*body, 0, n);  // no text: nothing of the block's former content may show
     }
     store(h, ctx_id, S::Counter::at(object), n);
-    if (mark_written<S>(h, ctx_id, object, err)) mark_modified(object, 0);
+    if (mark_written(h, ctx_id, object, member_place<S>, err)) mark_modified(object, 0);
 }
 
 template <class S>

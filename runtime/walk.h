@@ -79,6 +79,17 @@ struct Field {
     static constexpr schema::Place place = schema::layout<R>.places[I];
     using Storage = typename StorageOf<kind>::type;
 
+    // The enumeration or the record that the member is one of; null for other kinds.
+    static constexpr auto of = [] {
+        if constexpr (kind == Kind::enumeration) {
+            return member.enumeration;
+        } else if constexpr (kind == Kind::record) {
+            return member.record;
+        } else {
+            return nullptr;
+        }
+    }();
+
     // The argument pair's second word, by which the runtime tells accessors of booleans and enumerations from the rest.
     static constexpr std::uint32_t value_kind = kind == Kind::boolean || kind == Kind::enumeration ? 1 : 0;
 
