@@ -48,7 +48,7 @@ auto Enum<E>::sentinel() -> object * {
 template <const Enumeration &E>
 auto Enum<E>::create(mirk_handle *h, std::uint32_t ctx_id) -> object * {
     if (create_is_off(h)) return sentinel();
-    object *instance = new_object(h, ctx_id, sizeof(object), sentinel());
+    auto *instance = static_cast<object *>(new_object(h, ctx_id, sizeof(object), sentinel()));
     if (instance == nullptr || instance == sentinel()) return instance;
     std::uint32_t error = 0;
     initialize(h, ctx_id, instance, &TypeInfo<E>::own, 1, 0, 0, nullptr, &error);
@@ -72,7 +72,7 @@ template <const Enumeration &E>
 void Enum<E>::initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
                          std::uint32_t notify, std::uint32_t, std::uint8_t flags, void *, std::uint32_t *err) {
     if (!begin(h, err)) return;
-    const std::int8_t variant = set_header<E>(h, ctx_id, header_of(instance), type, notify, flags, err);
+    const std::int8_t variant = set_header(h, ctx_id, header_of(instance), type, notify, flags, err);
     count_created(h, ctx_id, header_of(instance), variant);
 }
 
@@ -110,7 +110,9 @@ template <const Enumeration &E>
 auto Enum<E>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t free_it)
     -> object * {
     if (instance != nullptr && instance != sentinel() && free_it != 0) {
-        if (end_mapping<E>(h, ctx_id, header_of(instance))) end_object<E>(h, ctx_id, header_of(instance), free_it);
+        if (end_mapping(h, ctx_id, header_of(instance), end_texts<E>)) {
+            end_object(h, ctx_id, header_of(instance), free_it, end_texts<E>);
+        }
     }
     return sentinel();
 }
@@ -223,7 +225,7 @@ std::uint32_t Enum<E>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buf
     std::int8_t variant = 0;
     std::uint32_t offset = _mirk_instance_variant_unmarshal(h, ctx_id, buffer, &variant, size, err);
     instance->variant = cap_variant(variant);
-    instance->tinfo = bind_type<E>(h, ctx_id);
+    instance->tinfo = bind_type(h, ctx_id, &TypeInfo<E>::own);
     offset += u_int32_unmarshal(h, ctx_id, static_cast<std::uint8_t *>(buffer) + offset, &instance->value,
                                 size - static_cast<std::int32_t>(offset), reuse, err);
     // Any value is kept as it came, and announced after it was stored for the first time.

@@ -231,7 +231,7 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
     }
     instance->variant = variant;
     instance->obj_flag |= wire_flag;
-    instance->tinfo = bind_type<R>(h, ctx_id);
+    instance->tinfo = bind_type(h, ctx_id, &TypeInfo<R>::own);
     return in.offset;
 }
 

@@ -47,6 +47,61 @@ std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
     return h->last_error != 0 ? 0xFFFFFFFFU : sticky_length(h, rendering);
 }
 
+[[gnu::noinline]] void *create_token_cr(mirk_handle *h, void *sentinel) {
+    if (h->last_error != 0) return sentinel;
+    if (void *token = allocate(h, h->default_id, 0); token != nullptr) return token;
+    if (h->last_error == 0) mirk_store_err(h, ENOMEM);
+    return sentinel;
+}
+
+// A start opens the bundle and needs room for its frame.
+[[gnu::noinline]] std::uint32_t marshal_start(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
+                                              const std::uint8_t *luid, const mirk_allowed_row *allowed,
+                                              std::uint32_t *err) {
+    if (!begin(h, err)) return 0;
+    if (h->send_bundle_open != 0) {
+        fail(h, err, EEXIST);
+        return 0;
+    }
+    const std::uint32_t written = begin_frame(h, buffer, size, luid, err);
+    if (written != frame_head) return written;
+    h->send_bundle_open = 1;
+    h->bundle_table = allowed;
+    h->send_bundle_list = {&h->send_bundle_list, &h->send_bundle_list};
+    end_frame(h, ctx_id, buffer, err);
+    return written;
+}
+
+// An abort or a commit ends the bundle in every case, one without room too: no frame has gone out then, which is for
+// the caller to deal with. Any bundle's end closes the one that is open.
+[[gnu::noinline]] std::uint32_t marshal_end(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
+                                            const std::uint8_t *luid, std::uint32_t *err) {
+    if (!begin(h, err)) return 0;
+    if (h->send_bundle_open == 0) {
+        fail(h, err, ENOENT);
+        return 0;
+    }
+    const std::uint32_t written = begin_frame(h, buffer, size, luid, err);
+    if (written == frame_head) end_frame(h, ctx_id, buffer, err);
+    bundle_send_message_list_destroy(h, ctx_id, err);
+    return written;
+}
+
+[[gnu::noinline]] std::uint32_t print_line(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t size,
+                                           const char *format, const char *bundle, std::uint32_t *err) {
+    const auto room = static_cast<std::int32_t>(size);
+    const std::uint32_t position = mirk_print_space(h, ctx_id, buffer, 0, room, err);
+    return position +
+           mirk_snprintf(h, ctx_id, buffer + position, room - static_cast<std::int32_t>(position), err, format, bundle);
+}
+
+[[gnu::noinline]] std::uint32_t write_element(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t size,
+                                              const char *opening, const char *closing, std::uint32_t *err) {
+    const auto room = static_cast<std::int32_t>(size);
+    const std::uint32_t position = start_tag(h, ctx_id, buffer, opening, room, 0, err);
+    return position + end_tag(h, ctx_id, buffer + position, closing, room - static_cast<std::int32_t>(position), err);
+}
+
 }  // namespace
 
 template <const Bundle &B, Control K>
@@ -61,10 +116,7 @@ void *ControlMessage<B, K>::create(mirk_handle *h, std::uint32_t ctx_id) {
 
 template <const Bundle &B, Control K>
 void *ControlMessage<B, K>::create_cr(mirk_handle *h) {
-    if (h->last_error != 0) return sentinel();
-    if (void *token = allocate(h, h->default_id, 0); token != nullptr) return token;
-    if (h->last_error == 0) mirk_store_err(h, ENOMEM);
-    return sentinel();
+    return create_token_cr(h, sentinel());
 }
 
 // Knows no sentinel, unlike its sticky form: the two do not mix.
@@ -88,34 +140,14 @@ std::uint32_t ControlMessage<B, K>::len_cr(mirk_handle *h, void *) {
     return h->last_error != 0 ? 0 : frame_head;
 }
 
-// A start opens the bundle and needs room for its frame. An abort or a commit ends the bundle in every case, one
-// without room too: no frame has gone out then, which is for the caller to deal with. Any bundle's end closes the one
-// that is open.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, void *,
                                             std::uint32_t size, std::uint32_t *err) {
-    if (!begin(h, err)) return 0;
+    const std::uint8_t *luid = ControlIdentity<B, K>::luid;
     if constexpr (K == Control::start) {
-        if (h->send_bundle_open != 0) {
-            fail(h, err, EEXIST);
-            return 0;
-        }
-        const std::uint32_t written = begin_frame(h, buffer, size, ControlIdentity<B, K>::luid, err);
-        if (written != frame_head) return written;
-        h->send_bundle_open = 1;
-        h->bundle_table = allowed_messages<B>;
-        h->send_bundle_list = {&h->send_bundle_list, &h->send_bundle_list};
-        end_frame(h, ctx_id, buffer, err);
-        return written;
+        return marshal_start(h, ctx_id, buffer, size, luid, allowed_messages<B>, err);
     } else {
-        if (h->send_bundle_open == 0) {
-            fail(h, err, ENOENT);
-            return 0;
-        }
-        const std::uint32_t written = begin_frame(h, buffer, size, ControlIdentity<B, K>::luid, err);
-        if (written == frame_head) end_frame(h, ctx_id, buffer, err);
-        bundle_send_message_list_destroy(h, ctx_id, err);
-        return written;
+        return marshal_end(h, ctx_id, buffer, size, luid, err);
     }
 }
 
@@ -148,10 +180,7 @@ std::uint32_t ControlMessage<B, K>::print(mirk_handle *h, std::uint32_t ctx_id, 
     static constexpr const char *format = K == Control::start   ? "bundle start@%s: <<<<<<<<\n"
                                           : K == Control::abort ? "bundle abort@%s: <<<<<<<<\n"
                                                                 : "bundle commit@%s: <<<<<<<<\n";
-    const auto room = static_cast<std::int32_t>(size);
-    const std::uint32_t position = mirk_print_space(h, ctx_id, buffer, 0, room, err);
-    return position + mirk_snprintf(h, ctx_id, buffer + position, room - static_cast<std::int32_t>(position), err,
-                                    format, B.name.data());
+    return print_line(h, ctx_id, buffer, size, format, B.name.data(), err);
 }
 
 template <const Bundle &B, Control K>
@@ -172,9 +201,7 @@ std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id,
         if constexpr (K == Control::abort) return named_text<B>("bundle_abort name=\"", "\"");
         if constexpr (K == Control::commit) return named_text<B>("bundle_commit name=\"", "\"");
     }();
-    const auto room = static_cast<std::int32_t>(size);
-    const std::uint32_t position = start_tag(h, ctx_id, buffer, tag.data(), room, 0, err);
-    return position + end_tag(h, ctx_id, buffer + position, word, room - static_cast<std::int32_t>(position), err);
+    return write_element(h, ctx_id, buffer, size, tag.data(), word, err);
 }
 
 template <const Bundle &B, Control K>

@@ -39,7 +39,7 @@ message_object *MessageObject<M>::sentinel() {
 // Type, counter, header, tracking: what a message needs besides its payload.
 template <const Message &M>
 message_object *MessageObject<M>::set_up(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
-    message->tinfo = bind_type<M>(h, ctx_id);
+    message->tinfo = bind_type(h, ctx_id, &TypeInfo<M>::own);
     const mirk_variant_info &info = checked_variant_info(message->tinfo);
     count(h, ctx_id, message->tinfo, &info.entries[0].num_created, 1);
     message->variant = 0;
@@ -61,7 +61,8 @@ message_object *MessageObject<M>::create_shallow(mirk_handle *h, std::uint32_t c
 // The payload is made before the type is bound and before anything is counted.
 template <const Message &M>
 message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
-    message_object *message = create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
+    void *storage = create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
+    auto *message = static_cast<message_object *>(storage);
     if (message == nullptr) return nullptr;
     message->payload = Lifecycle<M.payload>::create(h, ctx_id);
     if (message == sentinel()) return message;

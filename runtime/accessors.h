@@ -61,8 +61,7 @@ struct StateByte {
     static std::uint8_t get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
         return get_state_byte(h, ctx_id, object, err, member_place<F>);
     }
-    static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value,
-                    std::uint32_t *err) {
+    static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err) {
         set_state_byte(h, ctx_id, object, value, err, member_place<F>);
     }
 };

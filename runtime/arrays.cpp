@@ -1,6 +1,7 @@
 #include "runtime/arrays.h"
 
 #include <atomic>
+#include <span>
 
 #include "encodings/copy.h"
 #include "runtime/kinds.h"
@@ -10,70 +11,99 @@ namespace tarn {
 
 namespace {
 
+// What growth has to know of the elements; it is one function for all arrays with counts of the same width.
+struct ElementShape {
+    std::size_t base, width;
+    mirk_type_info &type;
+    decltype(&Lifecycle<schema::lumo_tarn_debug_setting>::initialize) initialize;
+    decltype(&Assignment<schema::lumo_tarn_debug_setting>::post_copyout_cleanup) post_copyout_cleanup;
+    decltype(&References<schema::lumo_tarn_debug_setting>::offset_update) offset_update;
+    decltype(&References<schema::lumo_tarn_debug_setting>::offset_remove) offset_remove;
+
+    mirk_object *at(mirk_object *block, std::uint64_t index) const {
+        return reinterpret_cast<mirk_object *>(bytes_of(block) + index * base);
+    }
+    // State areas stand behind the n elements of a block.
+    void *area(const mirk_object *block, std::uint64_t n, std::uint64_t index) const {
+        return reinterpret_cast<void *>(address_of(block) + n * base + index * width);
+    }
+};
+template <const Record &R>
+constinit const ElementShape element_shape{
+    schema::layout<R>.base_size, schema::layout<R>.state_width,       TypeInfo<R>::own,
+    Lifecycle<R>::initialize,    Assignment<R>::post_copyout_cleanup, References<R>::offset_update,
+    References<R>::offset_remove};
+
+template <class A>
+constexpr auto growth_text = named_text<A::owner>("(ERR): Reallocating resource for ", "");
 // Growth is a full move, and it is worth one line for each array in the life of a process.
 template <class A>
-void report_growth() {
-    static std::atomic<bool> reported{false};
-    if (reported.load(std::memory_order_relaxed)) return;
-    static constexpr auto text = named_text<A::owner>("(ERR): Reallocating resource for ", "");
-    trace(error_level, text.data());
-    reported.store(true, std::memory_order_relaxed);
+constinit std::atomic<bool> growth_reported{false};
+
+struct ArrayShape {
+    const ElementShape &element;
+    std::uint32_t base_size, inner;  // of the owner; where the vector's address lies in its state area
+    const char *growth_text;
+    std::atomic<bool> &growth_reported;
+};
+template <class A>
+constinit const ArrayShape array_shape{element_shape<A::element>, schema::layout<A::owner>.base_size, A::place.inner,
+                                       growth_text<A>.data(), growth_reported<A>};
+
+ElementStates element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const ArrayShape &array) {
+    return ElementStates(state_area(h, ctx_id, object, array.base_size) + array.inner);
 }
 
 // Moves the elements of an array that grows, their states included, and takes leave of the old block.
-template <class A>
 void move_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *from, std::uint32_t old_count, mirk_object *to,
-                   std::uint64_t new_count, bool tracked, std::uint32_t *err) {
+                   std::uint64_t new_count, bool tracked, const ElementShape &shape, std::uint32_t *err) {
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
             // By the element's own offset: the stored count may have wrapped, and the old areas stand where they stand.
-            std::memcpy(reinterpret_cast<void *>(element_area<A::element>(to, new_count, i)),
-                        state_area<A::element>(h, ctx_id, element_at<A::element>(from, i)), A::width);
+            std::memcpy(shape.area(to, new_count, i),
+                        state_area(h, ctx_id, shape.at(from, i), static_cast<std::uint32_t>(shape.base)), shape.width);
         }
     }
-    std::memcpy(to, from, std::size_t{old_count} * A::base);
+    std::memcpy(to, from, std::size_t{old_count} * shape.base);
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
-            mirk_object *element = element_at<A::element>(to, i);
-            const std::uintptr_t area = element_area<A::element>(to, new_count, i);
-            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, area));
-            References<A::element>::offset_update(h, ctx_id, element, reinterpret_cast<void *>(area), err);
+            mirk_object *element = shape.at(to, i);
+            void *area = shape.area(to, new_count, i);
+            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(area)));
+            shape.offset_update(h, ctx_id, element, area, err);
         }
     }
     for (std::uint32_t i = 0; i < old_count; ++i) {
-        mirk_object *old_element = element_at<A::element>(from, i);
-        Assignment<A::element>::post_copyout_cleanup(h, ctx_id, element_at<A::element>(to, i), old_element, err);
+        mirk_object *old_element = shape.at(from, i);
+        shape.post_copyout_cleanup(h, ctx_id, shape.at(to, i), old_element, err);
         if (tracked) {
             mirk_hd_mapping_destroy(h, ctx_id, old_element, err);
-            References<A::element>::offset_remove(h, ctx_id, old_element, err);
+            shape.offset_remove(h, ctx_id, old_element, err);
         }
     }
     release(h, ctx_id, from);
 }
 
-template <class A>
 void initialize_new_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *block, std::uint32_t from,
-                             std::uint64_t n, bool tracked, std::uint32_t *err) {
+                             std::uint64_t n, bool tracked, const ElementShape &shape, std::uint32_t *err) {
     if (tracked) {
         for (std::uint64_t i = from; i < n; ++i) {
-            mirk_object *element = element_at<A::element>(block, static_cast<std::uint32_t>(i));
-            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_area<A::element>(block, n, i)));
+            mirk_object *element = shape.at(block, i);
+            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(shape.area(block, n, i))));
         }
     }
     StepErrors errors(h, err);
     for (std::uint64_t i = from; i < n; ++i) {
-        Lifecycle<A::element>::initialize(
-            h, ctx_id, element_at<A::element>(block, static_cast<std::uint32_t>(i)), &TypeInfo<A::element>::own, 1, 0,
-            flag::nested, reinterpret_cast<void *>(element_area<A::element>(block, n, i)), errors.next());
+        shape.initialize(h, ctx_id, shape.at(block, i), &shape.type, 1, 0, flag::nested, shape.area(block, n, i),
+                         errors.next());
     }
 }
 
 // A new vector of element states with the old ones at its front. False: EINVAL or ENOMEM is in the slot.
-template <class A>
 bool grow_element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t old_count,
-                         std::uint64_t new_count, std::uint32_t *err) {
+                         std::uint64_t new_count, const ArrayShape &array, std::uint32_t *err) {
     if (!is_state_tracked(object)) return refuse_untracked(h, err);
-    const ElementStates states = A::element_states(state_area<A::owner>(h, ctx_id, object));
+    const ElementStates states = element_states(h, ctx_id, object, array);
     std::uint8_t *old_states = states.block();
     announce(h, ctx_id, states.word(), sizeof(void *));
     auto *new_states = static_cast<std::uint8_t *>(allocate(h, ctx_id, new_count));
@@ -88,6 +118,100 @@ bool grow_element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
         release(h, ctx_id, old_states);
     }
     return true;
+}
+
+// Makes the array one of index + 1 elements. A value that lies in the old block is found at its new place after the
+// move. False: there was no memory, or no room for the state of elements.
+template <class Count>
+[[gnu::noinline]] bool grow(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Count *counter,
+                            mirk_object **block, std::uint32_t old_count, std::uint32_t index, mirk_object *&value,
+                            bool tracked, const ArrayShape &array, std::uint32_t *err) {
+    const ElementShape &shape = array.element;
+    mirk_object *old_block = *block;
+    if (old_block != nullptr && !array.growth_reported.load(std::memory_order_relaxed)) {
+        trace(error_level, array.growth_text);
+        array.growth_reported.store(true, std::memory_order_relaxed);
+    }
+    // In 64 bits: the last index there is asks for 2^32 elements, and is refused for want of memory.
+    const std::uint64_t new_count = std::uint64_t{index} + 1;
+    const std::size_t stride = shape.base + (tracked ? shape.width : 0);
+    auto *new_block = static_cast<mirk_object *>(allocate(h, ctx_id, stride * new_count));
+    if (new_block == nullptr) {
+        fail(h, err, ENOMEM);
+        return false;
+    }
+    store(h, ctx_id, block, new_block);
+    std::memset(bytes_of(new_block), 0, stride * new_count);
+    if (old_block != nullptr) {
+        const std::uintptr_t into = address_of(value) - address_of(old_block);
+        const bool inside = value != nullptr && into < std::size_t{old_count} * shape.base;
+        move_elements(h, ctx_id, old_block, old_count, new_block, new_count, tracked, shape, err);
+        if (inside) value = shape.at(new_block, into / shape.base);
+    }
+    store(h, ctx_id, counter, static_cast<Count>(new_count));
+    initialize_new_elements(h, ctx_id, new_block, old_count, new_count, tracked, shape, err);
+    return !tracks(h) || grow_element_states(h, ctx_id, object, old_count, new_count, array, err);
+}
+
+// Whether object can take value as an element; otherwise the error is in the slot.
+[[gnu::noinline]] bool may_take(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const mirk_object *value,
+                                std::uint32_t *err) {
+    if (!begin(h, err)) return false;
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, 0, err)) return false;
+    if (tracks(h)) {
+        if (!is_state_tracked(object)) return refuse_untracked(h, err);
+        if (!is_state_tracked(value)) {
+            fail(h, err, EINVAL);
+            trace(error_level, "(ERR): The val object is not state tracked");
+            return false;
+        }
+    }
+    if (object != nullptr) return true;
+    fail(h, err, EINVAL);
+    return false;
+}
+
+std::uint8_t get_element_state(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
+                               std::uint32_t index, const ArrayShape &array, std::uint32_t *err) {
+    if (*err != 0 || !can_read_state(h, object, err)) return 0;
+    if (index >= count) {
+        fail(h, err, ENOENT);
+        return 0;
+    }
+    return element_states(h, ctx_id, object, array).get(index);
+}
+
+void set_element_state(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
+                       std::uint32_t index, std::uint8_t value, const ArrayShape &array, std::uint32_t *err) {
+    if (*err != 0 || !can_write_state(h, object, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, 0, err)) return;
+    if (index >= count) {
+        fail(h, err, ENOENT);
+        return;
+    }
+    std::uint8_t *states = element_states(h, ctx_id, object, array).block();
+    if (states != nullptr) store(h, ctx_id, states + index, value);
+    mark_modified(object, 0);
+}
+
+// The bytes of the owner's state area that belong to addresses of vectors are marked.
+void set_all_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
+                    const std::uint8_t *source, std::uint32_t length, std::span<const bool> is_address,
+                    const ArrayShape &array, std::uint32_t *err) {
+    if (*err != 0 || !can_write_state(h, object, err)) return;
+    if (length != count) {
+        fail(h, err, ENOENT);
+        return;
+    }
+    adjust_variant(h, ctx_id, object, err);
+    if (!gate(h, object, 0, err)) return;
+    std::uint8_t *area = state_area(h, ctx_id, object, array.base_size);
+    for (std::uint32_t i = 0; i < length && i < is_address.size(); ++i) {
+        if (!is_address[i]) area[i] = source[i];
+    }
+    mark_modified(object, 0);
 }
 
 }  // namespace
@@ -107,51 +231,13 @@ mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t, mirk_object *object, s
 template <class A>
 void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index, mirk_object *value,
                    std::uint32_t copy_mode, std::uint32_t *err) {
-    if (!begin(h, err)) return;
-    adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, 0, err)) return;
+    if (!may_take(h, ctx_id, object, value, err)) return;
     const bool tracked = tracks(h);
-    if (tracked) {
-        if (!is_state_tracked(object)) {
-            refuse_untracked(h, err);
-            return;
-        }
-        if (!is_state_tracked(value)) {
-            fail(h, err, EINVAL);
-            trace(error_level, "(ERR): The val object is not state tracked");
-            return;
-        }
-    }
-    if (object == nullptr) {
-        fail(h, err, EINVAL);
-        return;
-    }
-
     mirk_object **block = A::at(object);
-    const std::uint32_t old_count = A::count(object);
-    if (index >= old_count) {
-        mirk_object *old_block = *block;
-        if (old_block != nullptr) report_growth<A>();
-        // In 64 bits: the last index there is asks for 2^32 elements, and is refused for want of memory.
-        const std::uint64_t new_count = std::uint64_t{index} + 1;
-        const std::size_t stride = A::base + (tracked ? A::width : 0);
-        auto *new_block = static_cast<mirk_object *>(allocate(h, ctx_id, stride * new_count));
-        if (new_block == nullptr) {
-            fail(h, err, ENOMEM);
-            return;
-        }
-        store(h, ctx_id, block, new_block);
-        std::memset(bytes_of(new_block), 0, stride * new_count);
-        if (old_block != nullptr) {
-            // A value that lies in the old block is found at its new place after the move.
-            const std::uintptr_t into = address_of(value) - address_of(old_block);
-            const bool inside = value != nullptr && into < std::size_t{old_count} * A::base;
-            move_elements<A>(h, ctx_id, old_block, old_count, new_block, new_count, tracked, err);
-            if (inside) value = element_at<A::element>(new_block, static_cast<std::uint32_t>(into / A::base));
-        }
-        store(h, ctx_id, A::Counter::at(object), static_cast<typename A::Count>(new_count));
-        initialize_new_elements<A>(h, ctx_id, new_block, old_count, new_count, tracked, err);
-        if (tracks(h) && !grow_element_states<A>(h, ctx_id, object, old_count, new_count, err)) return;
+    const std::uint32_t count = A::count(object);
+    if (index >= count &&
+        !grow(h, ctx_id, object, A::Counter::at(object), block, count, index, value, tracked, array_shape<A>, err)) {
+        return;
     }
     if (value == nullptr) return;
 
@@ -180,34 +266,20 @@ std::uint32_t Array<A>::set_cr(mirk_handle *h, mirk_object *object, std::uint32_
 template <class A>
 std::uint8_t Array<A>::state_flag_get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                                       std::uint32_t *err) {
-    if (*err != 0 || !can_read_state(h, object, err)) return 0;
-    if (index >= A::count(object)) {
-        fail(h, err, ENOENT);
-        return 0;
-    }
-    return A::element_states(state_area<A::owner>(h, ctx_id, object)).get(index);
+    return get_element_state(h, ctx_id, object, A::count(object), index, array_shape<A>, err);
 }
 
 template <class A>
 void Array<A>::state_flag_set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                               std::uint8_t value, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state(h, object, err)) return;
-    adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, 0, err)) return;
-    if (index >= A::count(object)) {
-        fail(h, err, ENOENT);
-        return;
-    }
-    std::uint8_t *states = A::element_states(state_area<A::owner>(h, ctx_id, object)).block();
-    if (states != nullptr) store(h, ctx_id, states + index, value);
-    mark_modified(object, 0);
+    set_element_state(h, ctx_id, object, A::count(object), index, value, array_shape<A>, err);
 }
 
 template <class A>
 void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t **out,
                                   std::uint32_t *err) {
     if (*err != 0 || !can_read_state(h, object, err)) return;
-    *out = A::element_states(state_area<A::owner>(h, ctx_id, object)).block();
+    *out = element_states(h, ctx_id, object, array_shape<A>).block();
 }
 
 // The bytes go to the start of the owner's state area and not to the vector, unannounced. The copy ends with the area
@@ -215,19 +287,8 @@ void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_obj
 template <class A>
 void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const std::uint8_t *source,
                                   std::uint32_t length, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state(h, object, err)) return;
-    if (length != A::count(object)) {
-        fail(h, err, ENOENT);
-        return;
-    }
-    adjust_variant(h, ctx_id, object, err);
-    if (!gate(h, object, 0, err)) return;
-    constexpr auto is_address = vector_bytes<A::owner>();
-    std::uint8_t *area = state_area<A::owner>(h, ctx_id, object);
-    for (std::uint32_t i = 0; i < length && i < is_address.size(); ++i) {
-        if (!is_address[i]) area[i] = source[i];
-    }
-    mark_modified(object, 0);
+    static constexpr auto is_address = vector_bytes<A::owner>();
+    set_all_states(h, ctx_id, object, A::count(object), source, length, is_address, array_shape<A>, err);
 }
 
 }  // namespace tarn

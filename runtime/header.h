@@ -10,19 +10,17 @@ namespace tarn {
 inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->last_error != 0; }
 
 // Zeroed storage for a new object. Without memory: null or, in a sticky create, the sentinel and ENOMEM in the handle.
-template <class Object>
-Object *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, Object *sentinel) {
+[[gnu::noinline]] inline void *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, void *sentinel) {
     void *storage = allocate(h, ctx_id, size);
-    if (storage != nullptr) return static_cast<Object *>(std::memset(storage, 0, size));
+    if (storage != nullptr) return std::memset(storage, 0, size);
     if (h->cr_mode == 0) return nullptr;
     if (h->last_error == 0) mirk_store_err(h, ENOMEM);
     return sentinel;
 }
 
 // Writes the header of an object that is set up; a type has no variant above 0.
-template <const auto &Type>
-std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                       std::uint32_t notify, std::uint8_t flags, std::uint32_t *err) {
+inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                              std::uint32_t notify, std::uint8_t flags, std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
     const auto tell = [&](auto *member) {
         if (notify != 0) announce(h, ctx_id, member);
@@ -32,7 +30,7 @@ std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object
     tell(&object->variant);
     object->variant = variant;
     tell(&object->tinfo);
-    object->tinfo = bind_type<Type>(h, ctx_id, type);
+    object->tinfo = bind_type(h, ctx_id, type);
     tell(&object->obj_flag);
     object->obj_flag |= flags;
     return variant;
@@ -52,38 +50,50 @@ inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_objec
     count(h, ctx_id, object->tinfo, &entry.num_live, 1);
 }
 
+// What a type's objects have to say at their end.
+struct EndTexts {
+    const char *mapping_failed, *still_referred_to, *mapping_gone;
+};
 template <const auto &Type>
-void report_mapping_failure(mirk_handle *h, std::uint32_t error) {
-    static constexpr auto text =
-        named_text<Type>("(ERR): ", " destroy: Failed to remove oid mapping for object. Error %s");
-    trace(error_level, text.data(), error_text(error));
+inline constexpr auto mapping_failed_text =
+    named_text<Type>("(ERR): ", " destroy: Failed to remove oid mapping for object. Error %s");
+template <const auto &Type>
+inline constexpr auto still_referred_to_text = named_text<Type>(
+    "(info): ", " destroy: Object has references and will be cleaned up when all of them are released");
+template <const auto &Type>
+inline constexpr auto mapping_gone_text = named_text<Type>("(debug): ", " destroy: Successfully removed OID mapping");
+template <const auto &Type>
+inline constexpr EndTexts end_texts{mapping_failed_text<Type>.data(), still_referred_to_text<Type>.data(),
+                                    mapping_gone_text<Type>.data()};
+
+[[gnu::cold]] inline void report_mapping_failure(mirk_handle *h, std::uint32_t error, const EndTexts &texts) {
+    trace(error_level, texts.mapping_failed, error_text(error));
     mirk_store_err(h, error);
 }
 
-// An object with an identifier goes only when nothing refers to it any more. False: it stays.
-template <const auto &Type>
-bool end_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
-    if ((object->obj_flag & flag::oid_mapped) == 0) return true;
+[[gnu::noinline]] inline bool end_present_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                  const EndTexts &texts) {
     std::uint32_t error = 0;
     const std::uint32_t gone = mirk_request_oid_mapping_destroy(h, ctx_id, object, &error);
     if (error != 0) {
-        report_mapping_failure<Type>(h, error);
-        return false;
+        report_mapping_failure(h, error, texts);
+    } else if (gone == 0) {
+        trace(info_level, texts.still_referred_to);
+    } else {
+        trace(debug_level, texts.mapping_gone);
+        return true;
     }
-    if (gone == 0) {
-        static constexpr auto text = named_text<Type>(
-            "(info): ", " destroy: Object has references and will be cleaned up when all of them are released");
-        trace(info_level, text.data());
-        return false;
-    }
-    static constexpr auto text = named_text<Type>("(debug): ", " destroy: Successfully removed OID mapping");
-    trace(debug_level, text.data());
-    return true;
+    return false;
+}
+
+// An object with an identifier goes only when nothing refers to it any more. False: it stays.
+inline bool end_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const EndTexts &texts) {
+    return (object->obj_flag & flag::oid_mapped) == 0 || end_present_mapping(h, ctx_id, object, texts);
 }
 
 // The end of an object whose members are gone: counters, runtime entries, memory.
-template <const auto &Type>
-void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
+[[gnu::noinline]] inline void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                         std::uint32_t free_it, const EndTexts &texts) {
     constexpr std::uint8_t has_area_elsewhere = flag::state_tracked | flag::sttr_offset;
     if ((object->obj_flag & has_area_elsewhere) == has_area_elsewhere) mirklib_get_sttr_offset(h, ctx_id, object);
 
@@ -98,7 +108,7 @@ void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::
         std::uint32_t error = 0;
         mirk_hd_mapping_destroy(h, ctx_id, object, &error);
         if (error != 0) {
-            report_mapping_failure<Type>(h, error);
+            report_mapping_failure(h, error, texts);
             return;
         }
     }

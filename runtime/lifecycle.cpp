@@ -16,6 +16,98 @@ struct alignas(8) SentinelStorage {
 template <const Record &R>
 constinit SentinelStorage<R> sentinel_of{};
 
+[[gnu::cold]] mirk_object *give_up_create(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                          std::uint32_t error, const char *text) {
+    trace(error_level, text, error_text(error));
+    release(h, ctx_id, object);
+    return nullptr;
+}
+
+// All of an initialize but the members. False: these stay as they are. What the instance
+// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
+bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                         std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
+                         void *&sttr_base, void *&announced_area, std::uint32_t *err) {
+    if (!begin(h, err)) return false;
+    const std::int8_t variant = set_header(h, ctx_id, object, type, notify, flags, err);
+    if (tracks(h)) {
+        if (notify != 0) announce(h, ctx_id, &object->obj_flag);
+        object->obj_flag |= flag::state_tracked;
+    }
+    if (skip_count != 0) return true;
+    count_created(h, ctx_id, object, variant);
+    *err = 0;  // drops an error of the look-up: it shows at the first gate instead
+    if (!tracks(h)) return true;
+
+    const bool nested = (object->obj_flag & flag::nested) != 0;
+    const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
+    if (nested && sttr_base == nullptr) {
+        fail(h, err, EINVAL);
+        trace(error_level,
+              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the "
+              "correct state tracking base pointer");
+        return false;
+    }
+    void *offset_area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : nullptr;
+    if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + base_size;
+    if (!nested || has_offset) announced_area = has_offset ? offset_area : sttr_base;
+    return true;
+}
+
+struct ReferenceTexts {
+    const char *unreadable, *not_lowered;
+};
+template <const Record &R>
+constexpr auto unreadable_text = named_text<R>("(ERR): ",
+                                               " destroy: Failed to get oid references from object. Error %s");
+template <const Record &R>
+constexpr auto not_lowered_text = named_text<R>("(ERR): ",
+                                                " destroy: Failed to decrement ref count of oid %p. Error %s");
+template <const Record &R>
+constexpr ReferenceTexts reference_texts{unreadable_text<R>.data(), not_lowered_text<R>.data()};
+
+// Lowers the count of each of the n objects that an embedded one refers to. False: the references could not be read.
+template <Kind K>
+[[gnu::noinline]] bool sweep_references(mirk_handle *h, std::uint32_t ctx_id, typename StorageOf<K>::type *field,
+                                        std::uint32_t n, const ReferenceTexts &texts, std::uint32_t *err) {
+    // The number comes from outside the library, so the stack holds only as many as an address commonly has.
+    constexpr std::uint32_t on_stack = 64;
+    void *few[on_stack] = {};
+    void **many = n > on_stack ? static_cast<void **>(std::malloc(std::size_t{n} * sizeof(void *))) : nullptr;
+    void **oids = n > on_stack ? many : few;
+    if (oids == nullptr) *err = ENOMEM;
+    if (many != nullptr) std::memset(many, 0, std::size_t{n} * sizeof(void *));
+    if (*err == 0) {
+        if constexpr (K == Kind::record) {
+            get_object_references(h, field, err);
+        } else {
+            PrimitiveOf<K, nullptr>::get_object_references(h, ctx_id, field, oids, n, err);
+        }
+    }
+    const bool readable = *err == 0;
+    if (!readable) trace(error_level, texts.unreadable, error_text(*err));
+    for (std::uint32_t i = 0; readable && i < n; ++i) {
+        mirklib_lookup_and_update_oid_ref_count(h, ctx_id, oids[i], 0, err);
+        if (*err == 0) continue;
+        trace(error_level, texts.not_lowered, oids[i], error_text(*err));
+        *err = 0;
+    }
+    std::free(many);
+    return readable;
+}
+
+template <class T>
+[[gnu::noinline]] void release_block(mirk_handle *h, std::uint32_t ctx_id, T **block) {
+    release(h, ctx_id, *block);
+    store(h, ctx_id, block, static_cast<T *>(nullptr));
+}
+
+[[gnu::noinline]] void release_states(mirk_handle *h, std::uint32_t ctx_id, ElementStates states) {
+    if (states.block() == nullptr) return;
+    release(h, ctx_id, states.block());
+    states.put(nullptr);
+}
+
 }  // namespace
 
 template <const Record &R>
@@ -36,17 +128,13 @@ std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
 template <const Record &R>
 mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
     if (create_is_off(h)) return sentinel();
-    mirk_object *object = new_object(h, ctx_id, sizeof_instance(h), sentinel());
+    auto *object = static_cast<mirk_object *>(new_object(h, ctx_id, sizeof_instance(h), sentinel()));
     if (object == nullptr || object == sentinel()) return object;
     std::uint32_t error = 0;
     initialize(h, ctx_id, object, &TypeInfo<R>::own, 1, 0, 0, nullptr, &error);
-    if (error != 0) {
-        static constexpr auto text = named_text<R>("(ERR): error in ", " create: %s");
-        trace(error_level, text.data(), error_text(error));
-        release(h, ctx_id, object);
-        return nullptr;
-    }
-    return object;
+    if (error == 0) return object;
+    static constexpr auto text = named_text<R>("(ERR): error in ", " create: %s");
+    return give_up_create(h, ctx_id, object, error, text.data());
 }
 
 template <const Record &R>
@@ -68,41 +156,14 @@ template <const Record &R>
 void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                               std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
                               std::uint32_t *err) {
-    if (!begin(h, err)) return;
-    const std::int8_t variant = set_header<R>(h, ctx_id, object, type, notify, flags, err);
-    if (tracks(h)) {
-        if (notify != 0) announce(h, ctx_id, &object->obj_flag);
-        object->obj_flag |= flag::state_tracked;
+    void *announced_area = nullptr;
+    const bool set_up = initialize_instance(h, ctx_id, object, type, notify, skip_count, flags,
+                                            schema::layout<R>.base_size, sttr_base, announced_area, err);
+    if constexpr (any_member<R>(schema::is_embedded)) {
+        if (!set_up) return;
+        if (announced_area != nullptr) References<R>::offset_update(h, ctx_id, object, announced_area, err);
+        initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
     }
-    constexpr bool embeds = any_member<R>(schema::is_embedded);
-    if (skip_count == 0) {
-        count_created(h, ctx_id, object, variant);
-        *err = 0;  // drops an error of the look-up: it shows at the first gate instead
-    } else if constexpr (!embeds) {
-        return;
-    }
-
-    if (skip_count == 0 && tracks(h)) {
-        const bool nested = (object->obj_flag & flag::nested) != 0;
-        const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
-        if (nested && sttr_base == nullptr) {
-            fail(h, err, EINVAL);
-            trace(error_level,
-                  "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the "
-                  "correct state tracking base pointer");
-            return;
-        }
-        if constexpr (embeds) {
-            if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + schema::layout<R>.base_size;
-            if (!nested || has_offset) {
-                void *area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : sttr_base;
-                References<R>::offset_update(h, ctx_id, object, area, err);
-            }
-        } else if (has_offset) {
-            mirklib_get_sttr_offset(h, ctx_id, object);
-        }
-    }
-    if constexpr (embeds) initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
 }
 
 // Members get the base as it came, and not the start of their own area: that they ask the runtime for.
@@ -142,45 +203,12 @@ void Lifecycle<R>::destroy_cr(mirk_handle *h, mirk_object *object) {
     destroy_internal(h, h->default_id, object, 1);
 }
 
-// Lowers the count of each object that an embedded one refers to. False: the references could not be read.
-template <const Record &R>
-template <class F>
-bool Lifecycle<R>::sweep_references(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-    auto *field = F::at(object);
-    const std::uint32_t n = Primitive<F>::get_oid_count(h, ctx_id, field, err);
-    if (n == 0) return true;
-
-    // The number comes from outside the library, so the stack holds only as many as an address commonly has.
-    constexpr std::uint32_t on_stack = 64;
-    void *few[on_stack] = {};
-    void **many = n > on_stack ? static_cast<void **>(std::malloc(std::size_t{n} * sizeof(void *))) : nullptr;
-    void **oids = n > on_stack ? many : few;
-    if (oids == nullptr) *err = ENOMEM;
-    if (many != nullptr) std::memset(many, 0, std::size_t{n} * sizeof(void *));
-    if (*err == 0) Primitive<F>::get_object_references(h, ctx_id, field, oids, n, err);
-    const bool readable = *err == 0;
-    if (!readable) {
-        static constexpr auto text =
-            named_text<R>("(ERR): ", " destroy: Failed to get oid references from object. Error %s");
-        trace(error_level, text.data(), error_text(*err));
-    }
-    for (std::uint32_t i = 0; readable && i < n; ++i) {
-        mirklib_lookup_and_update_oid_ref_count(h, ctx_id, oids[i], 0, err);
-        if (*err == 0) continue;
-        static constexpr auto text =
-            named_text<R>("(ERR): ", " destroy: Failed to decrement ref count of oid %p. Error %s");
-        trace(error_level, text.data(), oids[i], error_text(*err));
-        *err = 0;
-    }
-    std::free(many);
-    return readable;
-}
-
 template <const Record &R>
 template <class F>
 bool Lifecycle<R>::end_member(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
     if constexpr (schema::has_area(F::member)) {
-        if (!sweep_references<F>(h, ctx_id, object, err)) return false;
+        const std::uint32_t n = Primitive<F>::get_oid_count(h, ctx_id, F::at(object), err);
+        if (n != 0 && !sweep_references<F::kind>(h, ctx_id, F::at(object), n, reference_texts<R>, err)) return false;
         Primitive<F>::destroy_internal(h, ctx_id, F::at(object), 0);
     } else if constexpr (F::kind == Kind::array) {
         mirk_object **block = F::at(object);
@@ -189,22 +217,14 @@ bool Lifecycle<R>::end_member(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
             for (std::uint32_t i = 0; i < n; ++i) {
                 Lifecycle<F::element>::destroy_internal(h, ctx_id, element_at<F::element>(*block, i), 0);
             }
-            release(h, ctx_id, *block);
-            store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
+            release_block(h, ctx_id, block);
         }
         if (is_state_tracked(object)) {
-            const ElementStates states = F::element_states(state_area<R>(h, ctx_id, object));
-            if (states.block() != nullptr) {
-                release(h, ctx_id, states.block());
-                states.put(nullptr);
-            }
+            release_states(h, ctx_id, F::element_states(state_area<R>(h, ctx_id, object)));
         }
     } else if constexpr (F::kind == Kind::string) {
         char **body = F::at(object);
-        if (*body != nullptr) {
-            release(h, ctx_id, *body);
-            store(h, ctx_id, body, static_cast<char *>(nullptr));
-        }
+        if (*body != nullptr) release_block(h, ctx_id, body);
     }
     return true;
 }
@@ -212,10 +232,10 @@ bool Lifecycle<R>::end_member(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
 template <const Record &R>
 void Lifecycle<R>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
     if (object == nullptr || object == sentinel()) return;
-    if (!end_mapping<R>(h, ctx_id, object)) return;
+    if (!end_mapping(h, ctx_id, object, end_texts<R>)) return;
     std::uint32_t error = 0;
     if (!walk_while<R>([&]<class F>(F) { return end_member<F>(h, ctx_id, object, &error); })) return;
-    end_object<R>(h, ctx_id, object, free_it);
+    end_object(h, ctx_id, object, free_it, end_texts<R>);
 }
 
 }  // namespace tarn

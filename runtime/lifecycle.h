@@ -31,8 +31,6 @@ private:
     static void initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
                                    std::uint32_t skip_count, void *sttr_base, std::uint32_t *err);
     template <class F>
-    static bool sweep_references(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
-    template <class F>
     static bool end_member(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
 };
 

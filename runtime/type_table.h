@@ -55,8 +55,7 @@ template <const auto &Type>
 struct TypeInfo;
 
 // The record that an object on this handle points to.
-template <const auto &Type>
-mirk_type_info *bind_type(mirk_handle *h, std::uint32_t ctx_id, mirk_type_info *own = &TypeInfo<Type>::own) {
+inline mirk_type_info *bind_type(mirk_handle *h, std::uint32_t ctx_id, mirk_type_info *own) {
     return h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, own, lumo_ui_tarn_typeinfo_initialize) : own;
 }
 

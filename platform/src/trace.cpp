@@ -74,21 +74,6 @@ void write_line(uint16_t module_id, uint32_t level, const char *line) {
     if (level < 32 && (t.levels >> level & 1u) != 0) hand_over(module_id, level, line);
 }
 
-void format_line(uint16_t module_id, uint32_t level, const char *format, va_list arguments) {
-    char text[1024];
-    va_list again;
-    va_copy(again, arguments);
-    const int length = std::vsnprintf(text, sizeof text, format, arguments);
-    if (length >= 0 && static_cast<size_t>(length) >= sizeof text) {
-        std::string longer(static_cast<size_t>(length), '\0');
-        std::vsnprintf(longer.data(), longer.size() + 1, format, again);
-        write_line(module_id, level, longer.c_str());
-    } else if (length >= 0) {
-        write_line(module_id, level, text);
-    }
-    va_end(again);
-}
-
 }  // namespace
 
 extern "C" {
@@ -97,14 +82,26 @@ void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *for
     // Most lines are of levels that nobody wants; they cost no formatting.
     const Trace &t = trace();
     if (!t.capturing && (level >= 32 || (t.levels >> level & 1u) == 0)) return;
+    char text[1024];
     va_list arguments;
     va_start(arguments, format);
+    const int length = std::vsnprintf(text, sizeof text, format, arguments);
+    va_end(arguments);
+    if (length < 0) return;
+    const auto size = static_cast<size_t>(length);
     try {
-        format_line(module_id, level, format, arguments);
+        if (size < sizeof text) {
+            write_line(module_id, level, text);
+            return;
+        }
+        std::string longer(size, '\0');
+        va_start(arguments, format);
+        std::vsnprintf(longer.data(), size + 1, format, arguments);
+        va_end(arguments);
+        write_line(module_id, level, longer.c_str());
     } catch (...) {
         // A line that there is no memory for is lost.
     }
-    va_end(arguments);
 }
 
 void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {

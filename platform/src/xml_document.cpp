@@ -118,7 +118,7 @@ ElementText::ElementText(void *document, const char *path) noexcept {
     size_t count = 0;
     xmlNode *node = nullptr;
     error_ = guarded([&] { return look_up(document, path, &count, &node); });
-    if (error_ == 0 && count == 0) error_ = ENOENT;
+    if (error_ == 0 && node == nullptr) error_ = ENOENT;
     if (error_ != 0) return;
     const xmlChar *text = text_in_place(node);
     if (text == nullptr) text = owned_ = xmlNodeGetContent(node);
