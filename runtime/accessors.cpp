@@ -1,5 +1,8 @@
 #include "runtime/accessors.h"
 
+#include <algorithm>
+#include <span>
+
 #include "runtime/kinds.h"
 
 namespace tarn {
@@ -118,40 +121,88 @@ void set_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, s
     mark_modified(object, place.value_kind);
 }
 
-template <const Record &R>
-template <class... Values>
-void Whole<R>::get_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values *...out) {
-    if (!begin(h, err)) return;
-    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
-    void *const outs[] = {nullptr, out...};
-    std::size_t next = 1;
+namespace {
+
+// How the whole-record forms read and write a member of one kind.
+struct ScalarAccess {
+    void (*fetch)(mirk_handle *h, std::uint32_t ctx_id, void *field, void *out, std::uint32_t *err);
+    void (*put)(mirk_handle *h, std::uint32_t ctx_id, void *field, std::uint64_t value, std::uint32_t *err);
+};
+
+template <Kind K, auto Of>
+void fetch(mirk_handle *h, std::uint32_t ctx_id, void *field, void *out, std::uint32_t *err) {
+    auto *found = PrimitiveOf<K, Of>::get(h, ctx_id, static_cast<typename StorageOf<K>::type *>(field), err);
+    using Value = decltype(PrimitiveOf<K, Of>::get_value(h, ctx_id, found, err));
+    *static_cast<Value *>(out) = found != nullptr ? PrimitiveOf<K, Of>::get_value(h, ctx_id, found, err) : Value{0};
+}
+
+template <Kind K, auto Of>
+void put(mirk_handle *h, std::uint32_t ctx_id, void *field, std::uint64_t value, std::uint32_t *err) {
+    auto *member = static_cast<typename StorageOf<K>::type *>(field);
+    using Value = decltype(PrimitiveOf<K, Of>::get_value(h, ctx_id, member, err));
+    PrimitiveOf<K, Of>::set_value(h, ctx_id, member, static_cast<Value>(value), err);
+}
+
+template <Kind K, auto Of>
+constinit const ScalarAccess scalar_access{fetch<K, Of>, put<K, Of>};
+
+struct ScalarMember {
+    const ScalarAccess *access;
+    std::uint32_t offset, value_kind;
+};
+
+constexpr bool can_be_fetched(const Member &m) { return is_integer(m.kind) || schema::is_scalar(m); }
+
+// The members of a record that have the property, ready for a loop.
+template <const Record &R, bool (*Property)(const Member &)>
+constinit const auto scalar_members = [] {
+    constexpr auto n = static_cast<std::size_t>(std::count_if(R.members.begin(), R.members.end(), Property));
+    std::array<ScalarMember, n> members{};
+    std::size_t next = 0;
     walk<R>([&]<class F>(F) {
-        if constexpr (is_integer(F::kind) || schema::is_scalar(F::member)) {
-            using Value = decltype(Primitive<F>::get_value(h, ctx_id, F::at(object), err));
-            auto *field = Primitive<F>::get(h, ctx_id, F::at(object), err);
-            *static_cast<Value *>(outs[next++]) =
-                field != nullptr ? Primitive<F>::get_value(h, ctx_id, field, err) : Value{0};
+        if constexpr (Property(F::member)) {
+            members[next++] = {&scalar_access<F::kind, F::of>, F::place.offset, F::value_kind};
         }
     });
+    return members;
+}();
+
+void get_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::span<const ScalarMember> members,
+                 void *const *out, std::uint32_t *err) {
+    if (!begin(h, err)) return;
+    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
+    for (const ScalarMember &m : members) {
+        m.access->fetch(h, ctx_id, object != nullptr ? bytes_of(object) + m.offset : nullptr, *out++, err);
+    }
 }
 
 // Leaves the state bytes alone, in contrast to the setters of single members.
+void set_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::span<const ScalarMember> members,
+                 const std::uint64_t *values, std::uint32_t *err) {
+    if (!begin(h, err)) return;
+    adjust_variant(h, ctx_id, object, err);
+    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
+    for (const ScalarMember &m : members) {
+        m.access->put(h, ctx_id, object != nullptr ? bytes_of(object) + m.offset : nullptr, *values++, err);
+        mark_modified(object, m.value_kind);
+    }
+}
+
+}  // namespace
+
+template <const Record &R>
+template <class... Values>
+void Whole<R>::get_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err, Values *...out) {
+    void *const outs[] = {out..., nullptr};
+    get_members(h, ctx_id, object, scalar_members<R, can_be_fetched>, outs, err);
+}
+
 template <const Record &R>
 template <class... Values>
 void Whole<R>::set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
                        Values... values) {
-    if (!begin(h, err)) return;
-    adjust_variant(h, ctx_id, object, err);
-    if (mirk_get_instance_variant(object, 1, 0) < 0) return;
-    const std::uint64_t all[] = {0, std::uint64_t{values}...};
-    std::size_t next = 1;
-    walk<R>([&]<class F>(F) {
-        if constexpr (schema::is_scalar(F::member)) {
-            using Value = decltype(Primitive<F>::get_value(h, ctx_id, F::at(object), err));
-            Primitive<F>::set_value(h, ctx_id, F::at(object), static_cast<Value>(all[next++]), err);
-            mark_modified(object, F::value_kind);
-        }
-    });
+    const std::uint64_t all[] = {std::uint64_t{values}..., 0};
+    set_members(h, ctx_id, object, scalar_members<R, schema::is_scalar>, all, err);
 }
 
 // The fill covers the addresses of element-state vectors too, which thereby say that every element's state is this

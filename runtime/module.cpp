@@ -10,8 +10,20 @@ constinit mirk_module this_module{schema::module_name.data(), lumo_ui_tarn_type_
 // run of the constructor never links again.
 constinit bool linked = false;
 
+void write_type_lengths() {
+    const TypeLengths *lengths = lumo_ui_tarn_type_lengths;
+    for (mirk_type_info **entry = lumo_ui_tarn_type_table; *entry != nullptr; ++entry, ++lengths) {
+        for (int variant = 1 - variant_entries; variant <= 0; ++variant) {
+            mirk_variant_entry &sizes = (*entry)->variant_info->entries[variant];
+            sizes.used_length = lengths->used;
+            sizes.alloc_slop = lengths->slop;
+        }
+    }
+}
+
 [[gnu::constructor]] void link_module() {
     if (linked) return;
+    write_type_lengths();
     mirk_module_root &root = mirk_module_tot_root;
     this_module.next = nullptr;
     this_module.prev = root.last;

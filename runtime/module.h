@@ -5,6 +5,8 @@
 
 // The module's own record of each type in the order of the catalogue, ending in null.
 extern mirk_type_info *lumo_ui_tarn_type_table[];
+// The lengths of their objects, in the same order.
+extern const tarn::TypeLengths lumo_ui_tarn_type_lengths[];
 
 namespace tarn {
 

@@ -22,14 +22,20 @@ constexpr std::string_view kind_text(const schema::Enumeration &) { return "enum
 constexpr std::string_view kind_text(const schema::Message &) { return "message"; }
 
 // A negative variant indexes the entries as it is, so there is one for each: -128 to 0.
-inline constexpr std::size_t variant_entries = 129;
+inline constexpr int variant_entries = 129;
 
+// Counters, and the two lengths that the module writes into every entry when it is loaded: in the file they would take
+// a quarter of a megabyte.
 template <const auto &Type>
-inline constinit std::array<mirk_variant_entry, variant_entries> entries_of = [] {
-    std::array<mirk_variant_entry, variant_entries> entries{};
-    entries.fill({0, used_length(Type), alloc_slop(Type), 0, 0, 0});
-    return entries;
-}();
+inline constinit std::array<mirk_variant_entry, variant_entries> entries_of{};
+
+struct TypeLengths {
+    std::uint32_t used, slop;
+};
+template <const auto &Type>
+consteval TypeLengths type_lengths() {
+    return {used_length(Type), alloc_slop(Type)};
+}
 
 template <const auto &Type>
 inline constinit mirk_variant_info variant_info_of{1, &entries_of<Type>[variant_entries - 1]};

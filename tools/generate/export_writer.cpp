@@ -71,7 +71,12 @@ std::string type_table() {
     }
     text += "}\n\nextern mirk_type_info *lumo_ui_tarn_type_table[];\nmirk_type_info *lumo_ui_tarn_type_table[] = {\n";
     for (const TypeEntry &t : types()) text += "    &_" + t.name + "_type_info_internal,\n";
-    return text + "    nullptr,\n};\n";
+    text += "    nullptr,\n};\n\nextern const tarn::TypeLengths lumo_ui_tarn_type_lengths[];\n";
+    text += "const tarn::TypeLengths lumo_ui_tarn_type_lengths[] = {\n";
+    for (const TypeEntry &t : types()) {
+        text += "    tarn::type_lengths<tarn::schema::" + type_tag(t.subject) + ">(),\n";
+    }
+    return text + "};\n";
 }
 
 std::string identity() {
