@@ -25,9 +25,8 @@ struct WireWrite {
                                            std::int32_t remaining, std::uint32_t *err);
 
 private:
-    template <bool hold_to_domain>
     static std::uint32_t write(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                               std::int32_t remaining, std::uint32_t *err);
+                               std::int32_t remaining, std::uint32_t *err, bool hold_to_domain);
 };
 
 template <const Record &R>

@@ -166,6 +166,26 @@ bool Reader::string(mirk_object *instance) {
     return true;
 }
 
+namespace {
+
+[[gnu::cold, gnu::noinline]] std::uint32_t read_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                        mirk_object *instance, std::int32_t remaining,
+                                                        std::uint32_t *err) {
+    // A primitive that fails writes nothing, so everything read into a local starts at 0.
+    void *ra_value = nullptr;
+    std::uint8_t ra_byte = 0;
+    const std::uint32_t n = _mirk_instance_ra_data_unmarshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);
+    mirklib_update_ra_all(h, ctx_id, instance, ra_value, ra_byte);
+    return n;
+}
+
+[[gnu::cold, gnu::noinline]] void report_jump(std::uint32_t read_length, std::uint32_t jump_base, std::uint32_t jump) {
+    trace(info_level, "(info): offset_jump read_len %d offset_jump_base %d _mirk_variant_jump %d", read_length,
+          jump_base, jump);
+}
+
+}  // namespace
+
 template <const Record &R>
 std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                      std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
@@ -185,12 +205,7 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
     std::uint8_t wire_flag = 0;
     in.offset += _mirk_instance_variant_unmarshal(h, ctx_id, in.at(), &variant, in.left(), err);
     in.offset += _mirk_instance_obj_flag_unmarshal(h, ctx_id, in.at(), &wire_flag, in.left(), err);
-    if ((wire_flag & flag::ra_data) != 0) {
-        void *ra_value = nullptr;
-        std::uint8_t ra_byte = 0;
-        in.offset += _mirk_instance_ra_data_unmarshal(h, ctx_id, in.at(), &ra_value, &ra_byte, in.left(), err);
-        mirklib_update_ra_all(h, ctx_id, instance, ra_value, ra_byte);
-    }
+    if ((wire_flag & flag::ra_data) != 0) in.offset += read_ra_data(h, ctx_id, in.at(), instance, in.left(), err);
     variant = cap_variant(variant);
     const std::uint32_t jump_base = in.offset;
     std::uint32_t jump = 0;
@@ -225,8 +240,7 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
 
     const std::uint32_t end = jump_base + jump;
     if (static_cast<std::int32_t>(end) > static_cast<std::int32_t>(in.offset)) {
-        trace(info_level, "(info): offset_jump read_len %d offset_jump_base %d _mirk_variant_jump %d", in.offset,
-              jump_base, jump);
+        report_jump(in.offset, jump_base, jump);
         in.offset = end;
     }
     instance->variant = variant;

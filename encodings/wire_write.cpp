@@ -66,10 +66,24 @@ struct Writer {
     }
 };
 
+namespace {
+
+[[gnu::cold, gnu::noinline]] std::uint32_t write_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                         mirk_object *instance, std::int32_t remaining,
+                                                         std::uint32_t *err) {
+    void *ra_value = nullptr;
+    std::uint8_t ra_byte = 0;
+    *err = mirklib_get_ra_data(h, ctx_id, instance, &ra_value, &ra_byte);
+    return _mirk_instance_ra_data_marshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);
+}
+
+}  // namespace
+
+// One function for both forms: as a template it would be there twice for each record.
 template <const Record &R>
-template <bool hold_to_domain>
-std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                  std::int32_t remaining, std::uint32_t *err) {
+[[gnu::noinline]] std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                    mirk_object *instance, std::int32_t remaining, std::uint32_t *err,
+                                                    bool hold_to_domain) {
     if (!begin(h, err)) return 0;
     if (remaining < 1) {
         fail(h, err, ENOMEM);
@@ -99,12 +113,7 @@ std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *bu
     wire_flag &= flag::on_the_wire;
     out.offset += _mirk_instance_obj_flag_marshal(h, ctx_id, out.at(), &wire_flag, out.left(), err);
 
-    if ((wire_flag & flag::ra_data) != 0) {
-        void *ra_value = nullptr;
-        std::uint8_t ra_byte = 0;
-        *err = mirklib_get_ra_data(h, ctx_id, instance, &ra_value, &ra_byte);
-        out.offset += _mirk_instance_ra_data_marshal(h, ctx_id, out.at(), &ra_value, &ra_byte, out.left(), err);
-    }
+    if ((wire_flag & flag::ra_data) != 0) out.offset += write_ra_data(h, ctx_id, out.at(), instance, out.left(), err);
 
     const std::uint32_t jump_base = out.offset;
     std::uint32_t jump = 0;
@@ -129,13 +138,13 @@ std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *bu
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                     std::int32_t remaining, std::uint32_t *err) {
-    return write<true>(h, ctx_id, buffer, instance, remaining, err);
+    return write(h, ctx_id, buffer, instance, remaining, err, true);
 }
 
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                               std::int32_t remaining, std::uint32_t *err) {
-    return write<false>(h, ctx_id, buffer, instance, remaining, err);
+    return write(h, ctx_id, buffer, instance, remaining, err, false);
 }
 
 // Sizes a buffer, and so says more than is written in two places: an empty array or string is counted one state byte,
