@@ -21,6 +21,7 @@ install(TARGETS lumo_ui_tarn mirklib skald veld mirk_contract EXPORT lumo_ui_tar
         LIBRARY DESTINATION ${library_dir} COMPONENT library NAMELINK_COMPONENT development
         INCLUDES DESTINATION ${include_dir})
 install(TARGETS tarn RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COMPONENT tools)
 
 # ---- what programs are built with
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development

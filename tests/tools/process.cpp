@@ -40,9 +40,9 @@ std::string temporary_file() {
     return name;
 }
 
-pid_t start(const std::vector<std::string> &arguments, const std::string &in, const std::string &out,
-            const std::string &err) {
-    std::vector<char *> words{const_cast<char *>(TARN_TOOL)};
+pid_t start(const std::string &program, const std::vector<std::string> &arguments, const std::string &in,
+            const std::string &out, const std::string &err) {
+    std::vector<char *> words{const_cast<char *>(program.c_str())};
     for (const std::string &a : arguments) words.push_back(const_cast<char *>(a.c_str()));
     words.push_back(nullptr);
     posix_spawn_file_actions_t actions;
@@ -51,7 +51,7 @@ pid_t start(const std::vector<std::string> &arguments, const std::string &in, co
     posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     pid_t pid = -1;
-    const int error = posix_spawn(&pid, TARN_TOOL, &actions, nullptr, words.data(), environ);
+    const int error = posix_spawn(&pid, program.c_str(), &actions, nullptr, words.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0) throw std::runtime_error(std::string("posix_spawn: ") + std::strerror(error));
     return pid;
@@ -69,17 +69,21 @@ sockaddr_un address_of(const std::string &path) {
 
 }  // namespace
 
-Outcome tarn(const std::vector<std::string> &arguments, std::string_view input) {
+Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input) {
     const Directory directory;
     const std::string in = directory.write("in", input);
     const std::string out = directory.path("out"), err = directory.path("err");
     int status = 0;
-    require(waitpid(start(arguments, in, out, err), &status, 0) >= 0, "waitpid");
+    require(waitpid(start(program, arguments, in, out, err), &status, 0) >= 0, "waitpid");
     return {exit_of(status), read_path(out), read_path(err)};
 }
 
+Outcome tarn(const std::vector<std::string> &arguments, std::string_view input) {
+    return run(TARN_TOOL, arguments, input);
+}
+
 Process::Process(const std::vector<std::string> &arguments) : out_(temporary_file()), err_(temporary_file()) {
-    pid_ = start(arguments, "/dev/null", out_, err_);
+    pid_ = start(TARN_TOOL, arguments, "/dev/null", out_, err_);
 }
 
 Process::~Process() {

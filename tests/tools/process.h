@@ -16,6 +16,9 @@ struct Outcome {
     std::string err;  // standard error
 };
 
+// Runs a program, which is given by its path, to its end.
+Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input = {});
+
 // Runs the tool to its end.
 Outcome tarn(const std::vector<std::string> &arguments, std::string_view input = {});
 

@@ -80,9 +80,12 @@ int main(int argc, char **argv) {
         put(argv[2], write_rivals());
     } else if (kind == "operations") {
         put(argv[2], write_operations());
+    } else if (kind == "dissector") {
+        put(argv[2], write_dissector());
     } else {
-        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals DIRECTORY "
-                     "[NAME=VALUE...]\n";
+        std::cerr
+            << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|dissector DIRECTORY "
+               "[NAME=VALUE...]\n";
         return 2;
     }
     return 0;

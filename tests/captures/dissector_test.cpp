@@ -1,0 +1,390 @@
+// What the dissector says of a capture is what the tool says of the same frames.
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "capture.h"
+#include "process.h"
+#include "samples.h"
+
+namespace captures {
+
+namespace {
+
+using nlohmann::json;
+using tool_test::Directory;
+using tool_test::Outcome;
+
+constexpr std::uint16_t port = 28276, other_port = 4711;
+
+Outcome tshark(const Capture &capture, std::vector<std::string> more) {
+    const Directory directory;
+    std::vector<std::string> all{"-n", "-X", "lua_script:" TARN_DISSECTOR, "-r",
+                                 directory.write("capture.pcap", capture.file())};
+    all.insert(all.end(), more.begin(), more.end());
+    return tool_test::run(TARN_TSHARK, all);
+}
+
+std::vector<std::string> lines(const std::string &text) {
+    std::istringstream in(text);
+    std::vector<std::string> all;
+    for (std::string line; std::getline(in, line);) all.push_back(line);
+    return all;
+}
+
+// A field as tshark prints it: its filter name, its value as a filter sees it, and the fields below it.
+struct Field {
+    std::string name, show, label, bytes;
+    std::vector<Field> below;
+
+    const Field *find(std::string_view wanted) const {
+        const auto found = std::find_if(below.begin(), below.end(), [&](const Field &f) { return f.name == wanted; });
+        return found == below.end() ? nullptr : &*found;
+    }
+};
+
+Field field_of(xmlNode *node) {
+    const auto attribute = [node](const char *name) {
+        const std::unique_ptr<xmlChar, void (*)(void *)> value(
+            xmlGetProp(node, reinterpret_cast<const xmlChar *>(name)), xmlFree);
+        return value ? std::string(reinterpret_cast<const char *>(value.get())) : std::string();
+    };
+    Field field{attribute("name"), attribute("show"), attribute("showname"), attribute("value"), {}};
+    for (xmlNode *child = node->children; child != nullptr; child = child->next) {
+        if (child->type == XML_ELEMENT_NODE) field.below.push_back(field_of(child));
+    }
+    return field;
+}
+
+// The frames in a capture, in order.
+std::vector<Field> frames_in(const Capture &capture) {
+    const Outcome outcome = tshark(capture, {"-T", "pdml"});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(std::string::npos, outcome.out.find("Lua Error"));
+    const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> document(
+        xmlReadMemory(outcome.out.data(), static_cast<int>(outcome.out.size()), "pdml", nullptr, XML_PARSE_HUGE),
+        xmlFreeDoc);
+    std::vector<Field> frames;
+    if (!document) return frames;
+    for (const Field &packet : field_of(xmlDocGetRootElement(document.get())).below) {
+        for (const Field &proto : packet.below) {
+            if (proto.name == "tarn") frames.push_back(proto);
+        }
+    }
+    return frames;
+}
+
+// ---- from fields to the JSON form of the tool
+
+json state_of(const Field &field) { return std::stoul(field.show); }
+
+std::vector<unsigned> bytes_of(const std::string &digits) {
+    std::vector<unsigned> bytes;
+    for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
+        bytes.push_back(static_cast<unsigned>(std::stoul(digits.substr(i, 2), nullptr, 16)));
+    }
+    return bytes;
+}
+
+json string_json(const std::string &digits) {
+    std::string text;
+    for (const unsigned byte : bytes_of(digits)) text += static_cast<char>(byte);
+    try {
+        (void)json(text).dump();
+        return text;
+    } catch (const json::type_error &) {
+        return {{"bytes", digits}};
+    }
+}
+
+// Booleans and enumerations carry their value whatever their variant is.
+json with_variant(const Field &field, const json &value) {
+    const int variant = std::stoi(field.find("tarn.variant")->show);
+    return variant < 0 ? json{{"@variant", variant}, {"@value", value}} : value;
+}
+
+json enumeration_json(const Field &field, const std::string &type) {
+    const auto &names = reference::enumeration_table(type).enumerators;
+    const unsigned long number = std::stoul(field.show);
+    if (number >= names.size()) return number;
+    EXPECT_NE(std::string::npos, field.label.find(": " + names[number] + " (")) << field.label;
+    return names[number];
+}
+
+// The words of an address stand in brackets, which a filter cannot have.
+std::string filter_of(const reference::RecordTable &table, const reference::MemberTable &member) {
+    std::string name = "tarn." + table.name + "." + member.name;
+    std::erase_if(name, [](char c) { return c == '[' || c == ']'; });
+    return name;
+}
+
+json record_json(const Field &field, const reference::RecordTable &table);
+
+json address_json(const Field &field) {
+    json parts = record_json(field, reference::address_table());
+    json whole = json::object();
+    if (parts.contains("@variant")) return parts;
+    if (parts.contains("@ra")) whole["@ra"] = parts["@ra"];
+    if (parts.contains("@state")) {
+        json &members = whole["@members"];
+        for (const auto &m : reference::address_table().members) members.push_back(parts["@state"].value(m.name, 0));
+    }
+    if (whole.empty()) return field.show;
+    whole["@address"] = field.show;
+    return whole;
+}
+
+json member_json(const Field &field, const reference::MemberTable &member) {
+    switch (member.cls) {
+        case reference::Class::kBoolean: {
+            const unsigned value = bytes_of(field.bytes).at(0);
+            return with_variant(field, value > 1 ? json(value) : json(value != 0));
+        }
+        case reference::Class::kEnumeration:
+            return with_variant(field, enumeration_json(field, member.type));
+        case reference::Class::kAddress:
+            return address_json(field);
+        case reference::Class::kNested:
+            return record_json(field, member.element());
+        case reference::Class::kString:
+            return string_json(field.bytes);
+        case reference::Class::kArray: {
+            json all = json::array();
+            for (const Field &element : field.below) all.push_back(record_json(element, member.element()));
+            return all;
+        }
+        default:
+            return std::stoull(field.show);
+    }
+}
+
+void add_state(const Field &field, const reference::RecordTable &table, json &state) {
+    for (const auto &member : table.members) {
+        const std::string prefix = filter_of(table, member);
+        const Field *own = field.find(prefix + ".state");
+        if (own == nullptr) continue;
+        if (const Field *each = field.find(prefix + ".states")) {
+            const std::vector<unsigned> bytes = bytes_of(each->bytes);
+            const bool any = std::any_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte != 0; });
+            if (any || own->show != "0") state[member.name] = {{"whole", state_of(*own)}, {"elements", bytes}};
+        } else if (own->show != "0") {
+            state[member.name] = state_of(*own);
+        }
+    }
+}
+
+json record_json(const Field &field, const reference::RecordTable &table) {
+    json all = json::object(), state;
+    if (const Field *value = field.find("tarn.ra_value")) {
+        all["@ra"] = {{"value", std::stoull(value->show, nullptr, 16)},
+                      {"byte", std::stoul(field.find("tarn.ra_byte")->show, nullptr, 16)}};
+    }
+    if (const int variant = std::stoi(field.find("tarn.variant")->show); variant < 0) {
+        all["@variant"] = variant;
+        return all;
+    }
+    for (const auto &member : table.members) {
+        if (!member.tracked()) continue;
+        const Field *found = field.find(filter_of(table, member));
+        if (found != nullptr) {
+            all[member.name] = member_json(*found, member);
+        } else {
+            // What is empty takes no byte behind its length or count.
+            all[member.name] = member.cls == reference::Class::kString ? json("") : json::array();
+        }
+    }
+    add_state(field, table, state);
+    if (!state.empty()) all["@state"] = state;
+    return all;
+}
+
+json frame_json(const Field &frame) {
+    if (const Field *bundle = frame.find("tarn.bundle")) {
+        return {{"bundle", bundle->show}, {"control", frame.find("tarn.control")->show}};
+    }
+    const Field *message = frame.find("tarn.message"), *payload = frame.find("tarn.payload");
+    json all{
+        {"message", message->show},
+        {"payload", record_json(*payload, reference::record_table(reference::message_table(message->show).payload))}};
+    if (frame.find("tarn.sttr")->show != "0") all["tracked"] = true;
+    return all;
+}
+
+void expect_equal(const std::string &bytes, const Capture &capture) {
+    const Outcome decoded = tool_test::tarn({"decode", "--json"}, bytes);
+    ASSERT_EQ(0, decoded.exit) << decoded.err;
+    const std::vector<std::string> expected = lines(decoded.out);
+    const std::vector<Field> frames = frames_in(capture);
+    ASSERT_EQ(expected.size(), frames.size());
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        EXPECT_EQ(json::parse(expected[i]), frame_json(frames[i])) << json::parse(expected[i]).at("message");
+    }
+}
+
+TEST(Dissector, SaysOfEveryMessageWhatTheToolSays) {
+    std::string bytes;
+    for (const reference::MessageTable &message : reference::messages()) {
+        for (const bool tracked : {false, true}) {
+            for (const std::uint64_t seed : {31, 32, 33}) {
+                bytes += tool_test::frame(message, tool_test::strange_payload(message, seed), tracked, 7);
+            }
+        }
+    }
+    Capture capture;
+    capture.add(40000, port, bytes);
+    expect_equal(bytes, capture);
+}
+
+TEST(Dissector, JoinsFramesThatComeInPieces) {
+    const reference::BundleTable &bundle = reference::bundles().front();
+    const std::string bytes =
+        tool_test::answer(bundle, tool_test::plain_payload(reference::message_table(bundle.message), 3), true);
+    Capture capture;
+    std::string all;
+    for (const std::uint16_t segment : std::initializer_list<std::uint16_t>{1, 15, 16, 44}) {
+        capture.add(static_cast<std::uint16_t>(40000 + segment), port, bytes, segment);
+        all += bytes;
+    }
+    expect_equal(all, capture);
+}
+
+TEST(Dissector, FindsFramesOnAnyPort) {
+    const reference::BundleTable &bundle = reference::bundles().back();
+    const std::string bytes =
+        tool_test::answer(bundle, tool_test::plain_payload(reference::message_table(bundle.message), 4), false);
+    Capture capture;
+    capture.add(40000, other_port, bytes, 100);
+    capture.add(40001, other_port, "GET / HTTP/1.0\r\n\r\n");
+    capture.add(40002, other_port, "\xbc and nothing else that would make it a frame, though it is long enough");
+    expect_equal(bytes, capture);
+}
+
+TEST(Dissector, EveryMemberIsAFilter) {
+    const Outcome outcome = tool_test::run(TARN_TSHARK, {"-G", "fields", "-X", "lua_script:" TARN_DISSECTOR});
+    ASSERT_EQ(0, outcome.exit) << outcome.err;
+    const std::vector<std::string> known = lines(outcome.out);
+    for (const reference::RecordTable &record : reference::records()) {
+        for (const reference::MemberTable &member : record.members) {
+            const std::string start = "F\t" + member.name + "\ttarn." + record.name + "." + member.name + "\t";
+            EXPECT_TRUE(std::any_of(known.begin(), known.end(), [&](const auto &l) { return l.starts_with(start); }))
+                << start;
+        }
+    }
+}
+
+TEST(Dissector, FiltersByValue) {
+    const reference::MessageTable &message = reference::message_table("lumo_tarn_debug_setting_msg");
+    Capture capture;
+    for (const std::uint16_t level : std::initializer_list<std::uint16_t>{1, 7, 3}) {
+        reference::Record payload(message.payload);
+        payload["trace_enabled"].number = level;
+        capture.add(static_cast<std::uint16_t>(40000 + level), port, tool_test::frame(message, payload, false));
+    }
+    const auto count = [&](const std::string &filter) {
+        return lines(tshark(capture, {"-Y", filter, "-T", "fields", "-e", "tcp.srcport"}).out);
+    };
+    EXPECT_EQ(std::vector<std::string>{"40007"}, count("tarn.lumo_tarn_debug_setting.trace_enabled == 7"));
+    EXPECT_EQ((std::vector<std::string>{"40001", "40003"}), count("tarn.lumo_tarn_debug_setting.trace_enabled < 7"));
+    EXPECT_EQ(3U, count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size());
+}
+
+TEST(Dissector, ReadsRequestsAndRefusals) {
+    // What two processes say over a socket file is put into a capture, both directions one behind the other.
+    const Directory directory;
+    const tool_test::Socket listener = tool_test::Socket::listen_on(directory.path("asked"));
+    const tool_test::Process client({"show", "dp-intf", "--tracked", "--socket", directory.path("asked")});
+    const std::string request = listener.accept().receive(45 + std::string("lumo_tarn_dp_intf_rsp").size());
+    const tool_test::Server server(
+        {"cl-debug=" + directory.write("debug.json", R"({"message": "lumo_tarn_debug_setting_msg", "payload": {}})")});
+    ASSERT_TRUE(server.is_ready());
+    const tool_test::Socket socket = tool_test::Socket::connect_to(server.socket());
+    socket.send(request);
+    const std::string sentence = "lumo_tarn_dp_intf_rsp is not served here";
+    Capture capture;
+    capture.add(40000, port, request + socket.receive(49 + sentence.size()));
+
+    const std::vector<Field> frames = frames_in(capture);
+    ASSERT_EQ(2U, frames.size());
+    EXPECT_EQ("Tarn frame: request: lumo_tarn_dp_intf_rsp", frames[0].label);
+    EXPECT_EQ("lumo_tarn_dp_intf_rsp", frames[0].find("tarn.bundle")->show);
+    EXPECT_EQ("1", frames[0].find("tarn.options")->find("tarn.options.tracked")->show);
+    EXPECT_EQ("0", frames[0].find("tarn.options")->find("tarn.options.refused")->show);
+    EXPECT_EQ("Tarn frame: refusal: " + sentence, frames[1].label);
+    EXPECT_EQ(sentence, frames[1].find("tarn.sentence")->show);
+    EXPECT_EQ(std::to_string(ENOENT), frames[1].find("tarn.number")->show);
+}
+
+// What the tool says of a frame that it cannot read.
+std::string break_of(const std::string &bytes) {
+    const json frames = json::parse(tool_test::tarn({"dissect", "--json"}, bytes).out);
+    const json &broken = frames.back().at("broken");
+    const std::string path = broken.at("path"), reason = broken.at("reason");
+    return path.empty() ? reason : path + ": " + reason;
+}
+
+std::string with_length(std::string frame, std::size_t length) {
+    for (std::size_t i = 0; i < 4; ++i) frame[12 + i] = static_cast<char>(length >> (24 - 8 * i));
+    return frame;
+}
+
+TEST(Dissector, MarksBrokenFramesWithTheReason) {
+    const reference::MessageTable &message = reference::message_table("lumo_tarn_dp_tt_msg");
+    reference::GeneratorOptions options;
+    options.min_elements = 1;
+    std::vector<std::string> broken;
+    for (const bool tracked : {false, true}) {
+        const std::string good =
+            tool_test::frame(message, reference::Generator(6, options).make(message.payload), tracked);
+        const auto at = [&](std::size_t offset, char byte) {
+            std::string bytes = good;
+            bytes[offset] = byte;
+            return bytes;
+        };
+        broken.push_back(at(30, 'x'));     // the luid
+        broken.push_back(at(45, '\x7f'));  // the jump of the payload leads out of the frame
+        broken.push_back(std::string(good).replace(45, 4, std::string("\0\0\0\4", 4)));  // and back into its members
+        broken.push_back(with_length(good + "more", good.size() + 4));
+        for (const std::size_t size : {43UL, 44UL, 46UL, 60UL, good.size() / 2, good.size() - 1}) {
+            broken.push_back(with_length(good.substr(0, size), size));
+        }
+        for (std::size_t offset = 49; offset < good.size(); offset += good.size() / 40) {
+            const std::string bytes = at(offset, '\xee');
+            if (tool_test::tarn({"dissect"}, bytes).exit != 0) broken.push_back(bytes);
+        }
+    }
+    ASSERT_GE(broken.size(), 30U);
+    Capture capture;
+    std::vector<std::string> expected;
+    for (std::size_t i = 0; i < broken.size(); ++i) {
+        capture.add(static_cast<std::uint16_t>(40000 + i), port, broken[i], 65000);
+        expected.push_back("_ws.malformed\t" + break_of(broken[i]));
+    }
+    const Outcome outcome =
+        tshark(capture, {"-Y", "tarn.broken", "-T", "fields", "-e", "_ws.malformed", "-e", "_ws.expert.message"});
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(expected, lines(outcome.out));
+}
+
+TEST(Dissector, MarksBytesThatAreNoFrame) {
+    const std::string good = tool_test::control(reference::bundles().front(), "start");
+    Capture capture;
+    capture.add(40001, port, "hello");
+    capture.add(40002, port, good + "hello");
+    capture.add(40003, port, with_length(good, 42));
+    capture.add(40004, port, with_length(good, 16777217));
+    const Outcome outcome = tshark(capture, {"-Y", "tarn.no_frame", "-T", "fields", "-e", "_ws.expert.message"});
+    EXPECT_EQ((std::vector<std::string>{"the marker is missing", "the marker is missing",
+                                        "a frame cannot have the total length 42",
+                                        "a frame cannot have the total length 16777217"}),
+              lines(outcome.out))
+        << outcome.err;
+}
+
+}  // namespace
+
+}  // namespace captures

@@ -1,0 +1,409 @@
+
+-- ---- from here on: how frames are read, whatever the schema holds
+
+local tarn = Proto("tarn", "Tarn frames")
+
+local fields, experts = {}, {}
+
+local function declare(name, field)
+    fields[name] = field
+    return field
+end
+
+local f = {
+    marker = declare("marker", ProtoField.uint8("tarn.marker", "marker", base.HEX)),
+    fill = declare("fill", ProtoField.bytes("tarn.fill", "fill")),
+    sttr = declare("sttr", ProtoField.uint8("tarn.sttr", "sttr", base.DEC, nil, nil, "1: with per-field state")),
+    stamp = declare("stamp", ProtoField.uint32("tarn.stamp", "stamp")),
+    total_length = declare("total_length", ProtoField.uint32("tarn.total_length", "total_length")),
+    zero = declare("zero", ProtoField.bytes("tarn.zero", "zero")),
+    luid = declare("luid", ProtoField.bytes("tarn.luid", "luid")),
+    message = declare("message", ProtoField.string("tarn.message", "message")),
+    bundle = declare("bundle", ProtoField.string("tarn.bundle", "bundle")),
+    control = declare("control", ProtoField.string("tarn.control", "control")),
+    options = declare("options", ProtoField.uint8("tarn.options", "options", base.HEX)),
+    tracked = declare("tracked",
+        ProtoField.bool("tarn.options.tracked", "answer with per-field state", 8, nil, request.tracked)),
+    refused = declare("refused", ProtoField.bool("tarn.options.refused", "refused", 8, nil, request.refused)),
+    number = declare("number", ProtoField.uint32("tarn.number", "number", base.DEC, nil, nil, "system error number")),
+    text_length = declare("text_length", ProtoField.uint8("tarn.text_len", "length")),
+    sentence = declare("sentence", ProtoField.string("tarn.sentence", "sentence")),
+    payload = declare("payload", ProtoField.none("tarn.payload", "payload")),
+    element = declare("element", ProtoField.none("tarn.element", "element")),
+    variant = declare("variant", ProtoField.int8("tarn.variant", "variant")),
+    flag = declare("flag", ProtoField.uint8("tarn.flag", "flag", base.HEX)),
+    flag_tracked = declare("flag_tracked", ProtoField.bool("tarn.flag.tracked", "with per-field state", 8, nil, 8)),
+    flag_ra = declare("flag_ra", ProtoField.bool("tarn.flag.ra_data", "RA data follows", 8, nil, 32)),
+    ra_value = declare("ra_value", ProtoField.uint64("tarn.ra_value", "ra_value", base.HEX)),
+    ra_byte = declare("ra_byte", ProtoField.uint8("tarn.ra_byte", "ra_byte", base.HEX)),
+    jump = declare("jump", ProtoField.uint32("tarn.jump", "jump", base.DEC, nil, nil, "bytes to the end of the record")),
+    skipped = declare("skipped", ProtoField.bytes("tarn.skipped", "members of a newer form")),
+}
+
+local broken = ProtoExpert.new("tarn.broken", "The frame is broken", expert.group.MALFORMED, expert.severity.ERROR)
+local cut = ProtoExpert.new("tarn.no_frame", "Bytes that are no frame", expert.group.MALFORMED, expert.severity.ERROR)
+tarn.experts = { broken, cut }
+
+-- An address travels as a record of seven integers.
+local address_members = {
+    { "af", "u8" }, { "prefix_len", "u8" }, { "scope", "u16" },
+    { "word[0]", "u32", filter = "word0" }, { "word[1]", "u32", filter = "word1" },
+    { "word[2]", "u32", filter = "word2" }, { "word[3]", "u32", filter = "word3" },
+}
+records.ip_address = address_members
+
+local sizes = { u8 = 1, u16 = 2, u32 = 4, u64 = 8 }
+local integers = { u8 = ProtoField.uint8, u16 = ProtoField.uint16, u32 = ProtoField.uint32, u64 = ProtoField.uint64 }
+
+local function field_of(filter, member)
+    local name, kind, meaning = member[1], member[2], member[3]
+    if integers[kind] then return integers[kind](filter, name, base.DEC, nil, nil, meaning) end
+    if kind == "boolean" then return ProtoField.bool(filter, name, base.NONE, nil, nil, meaning) end
+    if kind == "enumeration" then
+        return ProtoField.uint32(filter, name, base.DEC, enumerations[member.of], nil, meaning)
+    end
+    if kind == "string" or kind == "address" then return ProtoField.string(filter, name, base.UNICODE, meaning) end
+    return ProtoField.none(filter, name, meaning)
+end
+
+for record, members in pairs(records) do
+    for _, member in ipairs(members) do
+        local filter = "tarn." .. record .. "." .. (member.filter or member[1])
+        member.field = declare(filter, field_of(filter, member))
+        if not member.counts then
+            member.state = declare(filter .. ".state", ProtoField.uint8(filter .. ".state", "state of " .. member[1]))
+        end
+        if member[2] == "array" then
+            member.states = declare(filter .. ".states",
+                ProtoField.bytes(filter .. ".states", "states of the elements of " .. member[1]))
+        end
+    end
+end
+
+local list = {}
+for _, field in pairs(fields) do list[#list + 1] = field end
+tarn.fields = list
+
+-- ---- text of an address, as everywhere in the house
+
+local function v4_text(word)
+    return string.format("%d.%d.%d.%d", bit32.extract(word, 24, 8), bit32.extract(word, 16, 8),
+        bit32.extract(word, 8, 8), bit32.extract(word, 0, 8))
+end
+
+local function v6_text(words)
+    local part = {}
+    for _, word in ipairs(words) do
+        part[#part + 1] = bit32.rshift(word, 16)
+        part[#part + 1] = bit32.band(word, 0xffff)
+    end
+    local from, length = 0, 1 -- the longest run of zeros, if there are two at least
+    local i = 1
+    while i <= 8 do
+        local j = i
+        while j <= 8 and part[j] == 0 do j = j + 1 end
+        if j - i > length then from, length = i, j - i end
+        i = math.max(i + 1, j)
+    end
+    local tail = from == 1 and (length == 6 or (length == 5 and part[6] == 0xffff))
+    local text = ""
+    i = 1
+    while i <= 8 do
+        if i == from then
+            text = text .. "::"
+            i = i + length
+        else
+            if text ~= "" and text:sub(-1) ~= ":" then text = text .. ":" end
+            if tail and i == 7 then return text .. v4_text(words[4]) end
+            text = text .. string.format("%x", part[i])
+            i = i + 1
+        end
+    end
+    return text
+end
+
+local function address_text(v)
+    local words = { v["word[0]"], v["word[1]"], v["word[2]"], v["word[3]"] }
+    local rest = words[2] == 0 and words[3] == 0 and words[4] == 0
+    if v.af == 0 and v.prefix_len == 0 and v.scope == 0 and words[1] == 0 and rest then return "unset" end
+    local text
+    if (v.af == 2 and rest) or v.af == 10 then
+        text = v.af == 2 and v4_text(words[1]) or v6_text(words)
+        if v.scope ~= 0 then text = text .. "%" .. v.scope end
+    else
+        text = string.format("%d,%d,%.0f,%.0f,%.0f,%.0f", v.af, v.scope, words[1], words[2], words[3], words[4])
+    end
+    return text .. "/" .. v.prefix_len
+end
+
+-- ---- one frame
+
+-- Takes the place of a tree that nobody wants to see.
+local nothing = {}
+function nothing.add() return nothing end
+function nothing.append_text() return nothing end
+
+local reader = {}
+reader.__index = reader
+
+-- Raised from any depth; what was found up to there stays in the tree.
+function reader:stop(at, path, reason) error({ at = at, path = path, reason = reason }, 0) end
+
+function reader:require(size, path)
+    if size > self.stop_at - self.at then
+        self:stop(self.at, path, string.format("%d bytes are left of %.0f", self.stop_at - self.at, size))
+    end
+end
+
+function reader:take(tree, field, size, path)
+    self:require(size, path)
+    local range = self.tvb(self.at, size)
+    self.at = self.at + size
+    return tree:add(field, range), range
+end
+
+function reader:text(tree, field, size, path)
+    self:require(size, path)
+    local range = self.tvb(self.at, size)
+    self.at = self.at + size
+    return tree:add_packet_field(field, range, ENC_UTF_8)
+end
+
+-- A subtree that ends where its content does.
+function reader:open(tree, field, label)
+    local item = tree:add(field, self.tvb(self.at, 0))
+    item:set_text(label)
+    return item, self.at
+end
+
+function reader:close(item, from) item:set_len(self.at - from) end
+
+function reader:record(tree, record, path)
+    local _, range = self:take(tree, f.variant, 1, path .. ".variant")
+    local variant = range:int()
+    local item
+    item, range = self:take(tree, f.flag, 1, path .. ".flag")
+    item:add(f.flag_tracked, range)
+    item:add(f.flag_ra, range)
+    local flag = range:uint()
+    local tracked = bit32.band(flag, 8) ~= 0
+    if bit32.band(flag, 32) ~= 0 then
+        self:take(tree, f.ra_value, 8, path .. ".ra_value")
+        self:take(tree, f.ra_byte, 1, path .. ".ra_byte")
+    end
+    local jump_at = self.at
+    item, range = self:take(tree, f.jump, 4, path .. ".jump")
+    local jump = range:uint()
+    local values = {}
+    if variant >= 0 then
+        local count = 0
+        for _, member in ipairs(records[record]) do
+            local value = self:member(tree, member, count, path .. "." .. member[1], tracked)
+            if member.counts then count = value end
+            values[member[1]] = value
+        end
+    end
+    local stop_at = jump_at + jump
+    local base = self.base
+    if stop_at < self.at then
+        self:stop(jump_at, path .. ".jump", string.format("jump %.0f ends at %.0f, but the members end at %d", jump,
+            stop_at - base, self.at - base))
+    end
+    if stop_at > self.stop_at then
+        self:stop(jump_at, path .. ".jump", string.format("jump %.0f leads to %.0f, behind the end at %d", jump,
+            stop_at - base, self.stop_at - base))
+    end
+    -- A newer sender may have more behind the members that are known.
+    if stop_at > self.at then self:take(tree, f.skipped, stop_at - self.at, path) end
+    return variant >= 0 and values or nil
+end
+
+function reader:member(tree, member, count, path, tracked)
+    local name, kind = member[1], member[2]
+    local value, range, item
+    if sizes[kind] then
+        item, range = self:take(tree, member.field, sizes[kind], path)
+        if kind ~= "u64" then value = range:uint() end
+        if member.counts then return value end
+    elseif kind == "boolean" then
+        local _, variant = self:take(nothing, f.variant, 1, path .. ".variant")
+        item, range = self:take(tree, member.field, 1, path)
+        item:add(f.variant, variant)
+        value = range:uint()
+        if value > 1 then item:append_text(" (" .. value .. ")") end
+    elseif kind == "enumeration" then
+        local _, variant = self:take(nothing, f.variant, 1, path .. ".variant")
+        self:take(tree, member.field, 4, path):add(f.variant, variant)
+    elseif kind == "address" then
+        -- The text comes from inside, so the parts are read twice: for the text, and for the tree.
+        local from = self.at
+        local good, parts = pcall(self.record, self, nothing, "ip_address", path)
+        self.at = from
+        item = tree:add(member.field, self.tvb(from, 0), good and parts and address_text(parts) or "")
+        self:record(item, "ip_address", path)
+        self:close(item, from)
+    elseif kind == "record" then
+        local from
+        item, from = self:open(tree, member.field, name .. ": " .. member.of)
+        self:record(item, member.of, path)
+        self:close(item, from)
+    elseif kind == "string" then
+        if count == 0 then return end
+        self:text(tree, member.field, count, path)
+    elseif kind == "array" then
+        return self:array(tree, member, count, path, tracked)
+    end
+    if tracked then self:take(tree, member.state, 1, path .. ".state") end
+    return value
+end
+
+function reader:array(tree, member, count, path, tracked)
+    if count == 0 then return end
+    local item, from = self:open(tree, member.field, string.format("%s: %.0f %s", member[1], count, member.of))
+    for i = 0, count - 1 do
+        local below = string.format("%s[%d]", path, i)
+        local element, element_from = self:open(item, f.element, string.format("%s[%d]: %s", member[1], i, member.of))
+        self:record(element, member.of, below)
+        self:close(element, element_from)
+    end
+    self:close(item, from)
+    if not tracked then return end
+    self:take(tree, member.state, 1, path .. ".state")
+    local left = self.stop_at - self.at
+    if left == 0 then self:require(1, path .. "[0].state") end
+    self:take(tree, member.states, math.min(count, left), path)
+    if left < count then self:require(1, string.format("%s[%d].state", path, left)) end
+end
+
+function reader:header(tree)
+    local _, range = self:take(tree, f.marker, 1, "header.marker")
+    self:take(tree, f.fill, 6, "header.fill")
+    self:take(tree, f.sttr, 1, "header.sttr")
+    self:take(tree, f.stamp, 4, "header.stamp")
+    self:take(tree, f.total_length, 4, "header.total_length")
+    local item
+    item, range = self:take(tree, f.zero, 11, "header.zero")
+    if range:bytes():tohex():find("[^0]") then item:append_text(" (not all zero)") end
+end
+
+function reader:request(tree)
+    local item, range = self:take(tree, f.options, 1, "options")
+    item:add(f.tracked, range)
+    item:add(f.refused, range)
+    local refused = bit32.band(range:uint(), request.refused) ~= 0
+    if refused then self:take(tree, f.number, 4, "number") end
+    local name = refused and "sentence" or "bundle"
+    _, range = self:take(tree, f.text_length, 1, name .. "_len")
+    self:text(tree, refused and f.sentence or f.bundle, range:uint(), name)
+    return (refused and "refusal: " or "request: ") .. self.tvb(self.at - range:uint(), range:uint()):string(ENC_UTF_8)
+end
+
+-- What the frame is, for people.
+function reader:frame(tree, length)
+    self:header(tree)
+    local item, range = self:take(tree, f.luid, 16, "luid")
+    local luid = range:bytes():tohex(true)
+    local message, control = messages[luid], controls[luid]
+    self.title = "unknown message"
+    if message then
+        self.title = message.name
+        tree:add(f.message, range, message.name):set_generated()
+        local payload, from = self:open(tree, f.payload, "payload: " .. message.record)
+        self:record(payload, message.record, "payload")
+        self:close(payload, from)
+    elseif control then
+        self.title = control.bundle .. " " .. control.control
+        tree:add(f.bundle, range, control.bundle):set_generated()
+        tree:add(f.control, range, control.control):set_generated()
+    elseif luid == request.luid then
+        self.title = "request"
+        self.title = self:request(tree)
+    else
+        self:stop(self.at - 16, "luid", "no message is known by this luid")
+    end
+    if self.base + length > self.stop_at then
+        self:stop(self.at, "", string.format("cut short: the total length is %.0f, and %d bytes are there", length,
+            self.stop_at - self.base))
+    end
+    if self.at ~= self.stop_at then
+        self:stop(self.at, "", string.format("%d bytes more than the message has", self.stop_at - self.at))
+    end
+end
+
+local function dissect_frame(tvb, base, length, tree)
+    local available = math.min(length, tvb:captured_len() - base)
+    local root = tree:add(tarn, tvb(base, available))
+    local self = setmetatable({ tvb = tvb, base = base, at = base, stop_at = base + available }, reader)
+    local good, failure = pcall(self.frame, self, root, length)
+    local title = self.title or "frame"
+    if not good then
+        if type(failure) ~= "table" then error(failure, 0) end
+        local where = failure.path ~= "" and failure.path .. ": " or ""
+        local from = math.min(failure.at, base + available - 1)
+        root:add_tvb_expert_info(broken, tvb(from, base + available - from), where .. failure.reason)
+        title = title .. " [broken]"
+    end
+    root:set_text("Tarn frame: " .. title)
+    return title
+end
+
+-- ---- frames on a stream
+
+local function no_frame(tvb, at, pinfo, tree, reason)
+    local item = tree:add(tarn, tvb(at))
+    item:add_tvb_expert_info(cut, tvb(at), reason)
+    pinfo.cols.info = reason
+    return tvb:len()
+end
+
+local function more(pinfo, at, size)
+    pinfo.desegment_offset = at
+    pinfo.desegment_len = size
+end
+
+local function dissect(tvb, pinfo, tree)
+    pinfo.cols.protocol = "TARN"
+    local at, titles = 0, {}
+    while at < tvb:len() do
+        local left = tvb:captured_len() - at
+        if left < 1 then break end
+        if tvb(at, 1):uint() ~= frame.marker then return no_frame(tvb, at, pinfo, tree, "the marker is missing") end
+        if left < 16 then
+            if pinfo.can_desegment > 0 then
+                more(pinfo, at, DESEGMENT_ONE_MORE_SEGMENT)
+                break
+            end
+            return no_frame(tvb, at, pinfo, tree, "cut short within the header")
+        end
+        local length = tvb(at + 12, 4):uint()
+        if length < frame.least or length > frame.most then
+            return no_frame(tvb, at, pinfo, tree, string.format("a frame cannot have the total length %.0f", length))
+        end
+        if length > tvb:reported_length_remaining(at) and pinfo.can_desegment > 0 then
+            more(pinfo, at, length - tvb:reported_length_remaining(at))
+            break
+        end
+        titles[#titles + 1] = dissect_frame(tvb, at, length, tree)
+        at = at + length
+    end
+    if #titles > 0 then
+        pinfo.cols.info = table.concat(titles, ", ")
+        pinfo.cols.info:fence()
+    end
+    return tvb:len()
+end
+
+function tarn.dissector(tvb, pinfo, tree) return dissect(tvb, pinfo, tree) end
+
+-- Calls dissect itself: a call through the protocol would no longer be allowed to ask for more of the stream.
+local function looks_like_a_frame(tvb, pinfo, tree)
+    if tvb:captured_len() < frame.least or tvb(0, 1):uint() ~= frame.marker then return false end
+    local luid = tvb(frame.least - 16, 16):bytes():tohex(true)
+    if not (messages[luid] or controls[luid] or luid == request.luid) then return false end
+    pinfo.conversation = tarn
+    dissect(tvb, pinfo, tree)
+    return true
+end
+
+DissectorTable.get("tcp.port"):add(frame.port, tarn)
+tarn:register_heuristic("tcp", looks_like_a_frame)
