@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,12 +34,15 @@ public:
             for (auto _ : state) run();
         });
     }
-    // One point of a curve. The last points are long, hence fewer repetitions.
-    template <class Run>
-    void add_point(std::string_view operation, std::string_view list, std::size_t elements, Run run) {
+    // One point of a curve. The last points are long, hence fewer repetitions; and large, hence `make`, which sets up
+    // the iteration when it is about to run.
+    template <class Make>
+    void add_point(std::string_view operation, std::string_view list, std::size_t elements, Make make) {
+        const auto run = std::make_shared<std::optional<decltype(make())>>();
         benchmark::RegisterBenchmark(point(operation, list, elements).c_str(),
-                                     [run](benchmark::State &state) {
-                                         for (auto _ : state) run();
+                                     [make, run](benchmark::State &state) {
+                                         if (!*run) run->emplace(make());
+                                         for (auto _ : state) (**run)();
                                      })
             ->Repetitions(5)
             ->MinTime(0.01);

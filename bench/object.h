@@ -132,15 +132,21 @@ auto writing_xml(std::shared_ptr<Sample<Plain>> s) {
     return run;
 }
 
+// What the library wrote, as a document.
 template <class Plain>
-auto reading_xml(std::shared_ptr<Sample<Plain>> s) {
-    using Ops = typename Sample<Plain>::Ops;
-    writing_xml(s);
+std::shared_ptr<void> document_of(std::shared_ptr<Sample<Plain>> s) {
+    writing_xml(s)();
     const std::shared_ptr<void> document(
         mirk_platform_document_load_memory(TextRoom::data(), std::strlen(TextRoom::data()), nullptr),
         mirk_platform_document_free);
     require(document != nullptr, "XML of the library is not well-formed");
-    const auto read = [s, document] {
+    return document;
+}
+
+template <class Plain>
+auto reading_xml(std::shared_ptr<Sample<Plain>> s) {
+    using Ops = typename Sample<Plain>::Ops;
+    const auto read = [s, document = document_of(s)] {
         auto *target = Ops::create(s->handle, context_id);
         char message[256];
         Ops::from_xml(s->handle, context_id, "//o", document.get(), target, &s->err, message, sizeof message);

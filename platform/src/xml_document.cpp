@@ -87,12 +87,12 @@ private:
 uint32_t look_up(void *document, const char *path, size_t *count, xmlNode **first) {
     if (document == nullptr || path == nullptr) return EINVAL;
     auto *doc = static_cast<xmlDoc *>(document);
-    std::vector<mirk::PathStep> steps;
-    if (auto *memo = static_cast<PathMemo *>(doc->_private); memo != nullptr && mirk::split_path(path, &steps)) {
-        const auto &nodes = memo->resolve(steps);
-        *count = nodes.size();
-        *first = nodes.empty() ? nullptr : nodes.front();
-        return 0;
+    if (auto *memo = static_cast<PathMemo *>(doc->_private); memo != nullptr) {
+        if (const auto *nodes = memo->find(path); nodes != nullptr) {
+            *count = nodes->size();
+            *first = nodes->empty() ? nullptr : nodes->front();
+            return 0;
+        }
     }
     const Evaluated found(doc, path);
     if (!found.good()) return EINVAL;

@@ -1,8 +1,9 @@
 #include "xml_path.hpp"
 
+#include <libxml/dict.h>
+
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 #include "text.hpp"
 
@@ -15,14 +16,12 @@ bool is_name(std::string_view text) {
     return !text.empty() && letter(text[0]) && std::all_of(text.begin(), text.end(), inner);
 }
 
-bool matches(const xmlNode *node, std::string_view name) {
+bool matches(const xmlNode *node, const xmlChar *name) {
     // A name without prefix stands for an element in no namespace.
-    if (node->type != XML_ELEMENT_NODE || node->ns != nullptr) return false;
-    const char *own = reinterpret_cast<const char *>(node->name);
-    return std::strncmp(own, name.data(), name.size()) == 0 && own[name.size()] == 0;
+    return node->type == XML_ELEMENT_NODE && node->name == name && node->ns == nullptr;
 }
 
-xmlNode *next_match(xmlNode *from, std::string_view name) {
+xmlNode *next_match(xmlNode *from, const xmlChar *name) {
     while (from != nullptr && !matches(from, name)) from = from->next;
     return from;
 }
@@ -48,31 +47,6 @@ bool inside(const xmlNode *node, const xmlNode *ancestor) {
 
 }  // namespace
 
-bool split_path(std::string_view path, std::vector<PathStep> *steps) {
-    if (path.substr(0, 2) != "//") return false;
-    path.remove_prefix(1);
-    while (!path.empty()) {
-        path.remove_prefix(1);
-        const size_t end = std::min(path.find('/'), path.size());
-        std::string_view text = path.substr(0, end);
-        path.remove_prefix(end);
-        if (path == "/") return false;
-        PathStep step;
-        if (!text.empty() && text.back() == ']') {
-            const size_t open = text.find('[');
-            // A position behind the first name counts among siblings and not in the document.
-            if (open == std::string_view::npos || steps->empty()) return false;
-            const std::string_view digits = text.substr(open + 1, text.size() - open - 2);
-            if (!parse_decimal(digits, &step.position) || step.position == 0) return false;
-            text = text.substr(0, open);
-        }
-        if (!is_name(text)) return false;
-        step.name = text;
-        steps->push_back(step);
-    }
-    return !steps->empty();
-}
-
 PathMemo::PathMemo(xmlDoc *document) : document_(document) {
     uintptr_t number = 0;
     for (xmlNode *node = document->children; node != nullptr; node = following(node)) {
@@ -80,64 +54,101 @@ PathMemo::PathMemo(xmlDoc *document) : document_(document) {
     }
 }
 
-const std::vector<xmlNode *> &PathMemo::resolve(const std::vector<PathStep> &steps) {
-    size_t depth = 0;
-    for (; depth < steps.size() && depth < levels_.size(); ++depth) {
-        Level &level = levels_[depth];
-        const PathStep &step = steps[depth];
-        if (level.name != step.name) break;
-        if (level.position != step.position) {
-            // The next position of the same array goes on from where the last one stood.
-            if (advance(step, &level)) ++depth;
-            break;
+// Takes apart what follows the place `from`, which is the end of a step or, at the start, the first of two slashes.
+bool PathMemo::split(std::string_view path, size_t from) {
+    steps_.clear();
+    while (from != path.size()) {
+        const size_t begin = from + 1;
+        const size_t end = std::min(path.find('/', begin), path.size());
+        std::string_view name = path.substr(begin, end - begin);
+        Step step{nullptr, 0, end};
+        if (!name.empty() && name.back() == ']') {
+            const size_t open = name.find('[');
+            // A position behind the first name counts among siblings and not in the document.
+            if (open == std::string_view::npos || begin == 2) return false;
+            const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
+            if (!parse_decimal(digits, &step.position) || step.position == 0) return false;
+            name = name.substr(0, open);
         }
+        if (!is_name(name)) return false;
+        const auto *letters = reinterpret_cast<const xmlChar *>(name.data());
+        step.name = xmlDictExists(document_->dict, letters, static_cast<int>(name.size()));
+        steps_.push_back(step);
+        from = end;
     }
-    levels_.resize(depth);
-    for (; depth < steps.size(); ++depth) {
-        Level level;
-        level.name = steps[depth].name;
-        level.position = steps[depth].position;
-        if (depth == 0) {
-            find_everywhere(steps[depth].name, &level);
-        } else {
-            find_children(levels_[depth - 1], steps[depth], &level);
-        }
-        levels_.push_back(std::move(level));
-    }
-    return levels_.back().nodes;
+    return true;
 }
 
-void PathMemo::find_everywhere(std::string_view name, Level *level) const {
+const std::vector<xmlNode *> *PathMemo::find(std::string_view path) {
+    if (path.size() < 3 || path.substr(0, 2) != "//" || document_->dict == nullptr) return nullptr;
+    const auto differs = std::mismatch(path.begin(), path.end(), path_.begin(), path_.end()).first;
+    const auto common = static_cast<size_t>(differs - path.begin());
+    size_t kept = 0;
+    for (; kept < depth_; ++kept) {
+        const size_t end = levels_[kept].step.end;
+        if (end > common || (end != path.size() && path[end] != '/')) break;
+    }
+    if (!split(path, kept == 0 ? 1 : levels_[kept - 1].step.end)) return nullptr;
+
+    const size_t known = depth_;
+    path_ = path;
+    depth_ = kept;
+    if (levels_.size() < kept + steps_.size()) levels_.resize(kept + steps_.size());
+    for (const Step &step : steps_) {
+        Level &level = levels_[depth_];
+        // The next position of the same array goes on from where the last one stood.
+        const bool same_array = depth_ == kept && depth_ < known && level.step.name == step.name &&
+                                level.step.position != 0 && level.step.position <= step.position;
+        if (same_array) {
+            advance(step.position, &level);
+        } else {
+            level.nodes.clear();
+            level.nested = false;
+            level.step = step;
+            if (depth_ == 0) {
+                find_everywhere(&level);
+            } else {
+                find_children(levels_[depth_ - 1], &level);
+            }
+        }
+        level.step = step;
+        ++depth_;
+    }
+    return &levels_[depth_ - 1].nodes;
+}
+
+void PathMemo::find_everywhere(Level *level) const {
+    if (level->step.name == nullptr) return;
     for (xmlNode *node = document_->children; node != nullptr; node = following(node)) {
-        if (!matches(node, name)) continue;
+        if (!matches(node, level->step.name)) continue;
         // As long as none is nested, a node that lies in an earlier one must lie in the last.
         if (!level->nested && !level->nodes.empty() && inside(node, level->nodes.back())) level->nested = true;
         level->nodes.push_back(node);
     }
 }
 
-void PathMemo::find_children(const Level &parents, const PathStep &step, Level *level) {
+void PathMemo::find_children(const Level &parents, Level *level) {
     level->nested = parents.nested;
+    const auto &[name, position, end] = level->step;
+    if (name == nullptr) return;
     for (xmlNode *parent : parents.nodes) {
-        xmlNode *node = next_match(parent->children, step.name);
-        if (step.position == 0) {
-            for (; node != nullptr; node = next_match(node->next, step.name)) level->nodes.push_back(node);
+        xmlNode *node = next_match(parent->children, name);
+        if (position == 0) {
+            for (; node != nullptr; node = next_match(node->next, name)) level->nodes.push_back(node);
         } else {
-            for (size_t i = 1; i < step.position && node != nullptr; ++i) node = next_match(node->next, step.name);
+            for (size_t i = 1; i < position && node != nullptr; ++i) node = next_match(node->next, name);
             if (node != nullptr) level->nodes.push_back(node);
         }
     }
     sort(level);
 }
 
-bool PathMemo::advance(const PathStep &step, Level *level) {
-    if (level->position == 0 || step.position < level->position) return false;
-    for (; level->position < step.position; ++level->position) {
-        for (xmlNode *&node : level->nodes) node = next_match(node->next, step.name);
+void PathMemo::advance(size_t position, Level *level) {
+    for (size_t at = level->step.position; at < position; ++at) {
+        for (xmlNode *&node : level->nodes) node = next_match(node->next, level->step.name);
         std::erase(level->nodes, nullptr);
     }
     sort(level);
-    return true;
 }
 
 void PathMemo::sort(Level *level) {

@@ -11,37 +11,41 @@
 
 namespace mirk {
 
-// "//name/child/child[3]", names without prefix. False for any other path.
-struct PathStep {
-    std::string_view name;
-    size_t position = 0;  // counted from 1; 0: all
-};
-bool split_path(std::string_view path, std::vector<PathStep> *steps);
-
 // Belongs to a document, which is not changed while this lives.
 class PathMemo {
 public:
     // Numbers the elements in document order.
     explicit PathMemo(xmlDoc *document);
 
-    // Elements at the path, in document order; valid until the next call.
-    const std::vector<xmlNode *> &resolve(const std::vector<PathStep> &steps);
+    // Elements at a path "//name/child/child[3]" with names without prefix, in document order; valid until the next
+    // call. Null for any other path.
+    const std::vector<xmlNode *> *find(std::string_view path);
 
 private:
+    // A name is as the document's dictionary holds it, so that two are equal if their addresses are; null if no element
+    // bears it. A position counts from 1; 0 stands for all.
+    struct Step {
+        const xmlChar *name;
+        size_t position;
+        size_t end;  // in the path
+    };
     struct Level {
-        std::string name;
-        size_t position = 0;
+        Step step;
         std::vector<xmlNode *> nodes;
-        bool nested = false;  // one of the nodes lies inside another
+        bool nested;  // one of the nodes lies inside another
     };
 
-    void find_everywhere(std::string_view name, Level *level) const;
-    static void find_children(const Level &parents, const PathStep &step, Level *level);
-    static bool advance(const PathStep &step, Level *level);
+    bool split(std::string_view path, size_t from);
+    void find_everywhere(Level *level) const;
+    static void find_children(const Level &parents, Level *level);
+    static void advance(size_t position, Level *level);
     static void sort(Level *level);
 
     xmlDoc *document_;
-    std::vector<Level> levels_;
+    std::string path_;           // the last one
+    std::vector<Level> levels_;  // its steps, and room that is kept
+    size_t depth_ = 0;           // how many of them are its own
+    std::vector<Step> steps_;    // of the path at hand, behind the front that it shares
 };
 
 }  // namespace mirk

@@ -1,6 +1,8 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <functional>
+#include <random>
 
 #include "support.hpp"
 
@@ -50,6 +52,34 @@ TEST(Document, SimplePathsAgreeWithXPath) {
         const std::string engine = std::string("(//r") + rest + ")";
         EXPECT_EQ(count(d, simple), count(d, engine)) << simple;
         EXPECT_EQ(value(d, simple), value(d, engine)) << simple;
+    }
+}
+
+TEST(Document, PathsInAnyOrderAgreeWithXPath) {
+    std::mt19937 random(7);
+    const auto name = [&] { return std::string(1, static_cast<char>('a' + random() % 3)); };
+    std::string text;
+    int number = 0;
+    const std::function<void(int)> element = [&](int depth) {
+        const std::string own = name();
+        text += "<" + own + ">" + std::to_string(++number);
+        for (unsigned n = depth > 0 ? random() % 4 : 0; n > 0; --n) element(depth - 1);
+        text += "</" + own + ">";
+    };
+    text += "<r>";
+    for (int i = 0; i < 6; ++i) element(4);
+    Document d(text + "</r>");
+    ASSERT_NE(static_cast<void *>(d), nullptr);
+    std::string path;
+    for (int i = 0; i < 3000; ++i) {
+        // Most paths share a front with the one before.
+        if (path.empty() || random() % 8 == 0) path = "//" + (random() % 2 == 0 ? "r" : name());
+        if (random() % 3 == 0 && path.rfind('/') > 1) path.resize(path.rfind('/'));
+        path += "/" + name();
+        if (random() % 2 == 0) path += "[" + std::to_string(1 + random() % 3) + "]";
+        EXPECT_EQ(count(d, path), count(d, "(" + path + ")")) << path;
+        EXPECT_EQ(value(d, path), value(d, "(" + path + ")")) << path;
+        if (path.size() > 24) path.clear();
     }
 }
 
