@@ -25,7 +25,7 @@ install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COM
 
 # ---- what programs are built with
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development
-        FILES_MATCHING PATTERN "*.h")
+        FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 install(EXPORT lumo_ui_tarn_shared NAMESPACE lumo_ui_tarn:: FILE lumo_ui_tarn_shared.cmake
         DESTINATION ${cmake_dir} COMPONENT development)
 configure_package_config_file(packaging/lumo_ui_tarn-config.cmake.in ${CMAKE_BINARY_DIR}/lumo_ui_tarn-config.cmake

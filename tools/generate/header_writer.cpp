@@ -195,6 +195,7 @@ Files write_headers() {
     files[base + "module.h"] = page("module.h", "module.h - the module as a whole: types, trace, registration.", {},
                                     data_of({}) + by_family({}, Applies::module));
     files["lumo_ui_tarn.h"] = chief(files);
+    files["lumo_ui_tarn.hpp"] = interface_page();
     return files;
 }
 

@@ -10,6 +10,7 @@ namespace tarn::generate {
 using Files = std::map<std::string, std::string>;
 
 Files write_headers();                          // include/: the public face, checked in
+std::string interface_page();                   // of them: the C++ interface
 Files write_exports(bool sample_only = false);  // build tree: export stubs, a file for each unit of the library
 Files write_lists();                            // goldens: exported names, layout of every record
 Files write_linker_script();                    // build tree: the version script

@@ -1,0 +1,844 @@
+// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include that header, not this one.
+//
+// A context stands for the first two arguments and the last of every operation: handle, ctx_id and error slot. It says
+// once how errors are told: thrown as std::system_error, or kept until somebody looks, as in C.
+//
+// For each record there are two types. dp_tc owns an instance; dp_tc_ref borrows one, from an owner, an array, a
+// message or C code. A reference is two pointers and behaves like one: copying it copies no record, and const protects
+// the reference, not the record. get() is the instance for everything that C offers and this header does not.
+//
+// Everything here is inline, and an accessor is the C call of the same name and a look at the error slot.
+#ifndef LUMO_UI_TARN_INTERFACE_HPP
+#define LUMO_UI_TARN_INTERFACE_HPP
+
+#include <lumo_ui_tarn/base.h>
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <iterator>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+#if defined(__has_include) && __cplusplus >= 202002L
+#if __has_include(<span>)
+#include <span>
+#endif
+#endif
+
+namespace lumo_ui_tarn {
+
+enum class errors {
+    thrown,  // as std::system_error, by the call that failed
+    kept     // until error() or take_error() looks; meanwhile no operation does anything
+};
+
+#if defined(__cpp_exceptions)
+inline constexpr errors usual_errors = errors::thrown;
+#else
+inline constexpr errors usual_errors = errors::kept;
+#endif
+
+// Used by one thread at a time, like the handle, and outlives all that was made with it.
+class context {
+public:
+    explicit context(mirk_handle *handle, errors mode = usual_errors) : context(handle, handle->default_id, mode) {}
+    context(mirk_handle *handle, std::uint32_t ctx_id, errors mode = usual_errors)
+        : handle_(handle), ctx_id_(ctx_id), mode_(mode) {}
+    context(const context &) = delete;
+    context &operator=(const context &) = delete;
+
+    mirk_handle *handle() const { return handle_; }
+    std::uint32_t ctx_id() const { return ctx_id_; }
+    std::uint32_t *slot() { return &slot_; }
+
+    std::error_code error() const { return {static_cast<int>(slot_), std::generic_category()}; }
+    std::error_code take_error() { return {static_cast<int>(std::exchange(slot_, 0)), std::generic_category()}; }
+    bool ok() const { return slot_ == 0; }
+
+    bool tracks() const { return handle_->sttr_desc != nullptr && handle_->sttr_desc->sttr_mode == 0xEEEE; }
+
+    // Calls any operation of the form (h, ctx_id, ..., err).
+    template <class Operation, class... Arguments>
+    auto call(Operation operation, Arguments... arguments) {
+        using Result = decltype(operation(handle_, ctx_id_, arguments..., &slot_));
+        if constexpr (std::is_void_v<Result>) {
+            operation(handle_, ctx_id_, arguments..., &slot_);
+            if (slot_ != 0) tell(nullptr);
+        } else {
+            const Result result = operation(handle_, ctx_id_, arguments..., &slot_);
+            if (slot_ != 0) tell(nullptr);
+            return result;
+        }
+    }
+
+    // An error that no operation has left: the first one stays.
+    void fail(std::uint32_t number, const char *words = nullptr) {
+        if (slot_ == 0) slot_ = number;
+        tell(words);
+    }
+
+private:
+#if defined(__GNUC__)
+    [[gnu::cold, gnu::noinline]]
+#endif
+    void
+    tell([[maybe_unused]] const char *words) {
+#if defined(__cpp_exceptions)
+        if (mode_ != errors::thrown) return;
+        const std::error_code code = take_error();
+        throw words != nullptr && words[0] != '\0' ? std::system_error(code, words) : std::system_error(code);
+#endif
+    }
+
+    mirk_handle *handle_;
+    std::uint32_t ctx_id_;
+    std::uint32_t slot_ = 0;
+    errors mode_;
+};
+
+// Bytes of one or more frames, with the spare byte behind them that readers and writers of frames may touch.
+class frame {
+public:
+    frame() : bytes_(1) {}
+    frame(const void *bytes, std::size_t size) : bytes_(size + 1) {
+        if (size != 0) std::memcpy(bytes_.data(), bytes, size);
+    }
+#if defined(__cpp_lib_span)
+    explicit frame(std::span<const std::uint8_t> bytes) : frame(bytes.data(), bytes.size()) {}
+    operator std::span<const std::uint8_t>() const { return {data(), size()}; }
+#endif
+    const std::uint8_t *data() const { return bytes_.data(); }
+    std::uint8_t *data() { return bytes_.data(); }
+    std::size_t size() const { return bytes_.size() - 1; }
+    bool empty() const { return size() == 0; }
+    const std::uint8_t *begin() const { return data(); }
+    const std::uint8_t *end() const { return data() + size(); }
+    void resize(std::size_t size) { bytes_.resize(size + 1); }
+    void append(const frame &other) {
+        const std::size_t before = size();
+        resize(before + other.size());
+        if (!other.empty()) std::memcpy(data() + before, other.data(), other.size());
+    }
+    friend bool operator==(const frame &a, const frame &b) {
+        return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size()) == 0;
+    }
+    friend bool operator!=(const frame &a, const frame &b) { return !(a == b); }
+
+private:
+    std::vector<std::uint8_t> bytes_;
+};
+
+// The value of an address or prefix. Words are host-order numbers, word[0] the most significant; af is the system's
+// address family, 0 for an address that is not set.
+struct address {
+    std::uint8_t af = 0, prefix_len = 0;
+    std::uint16_t scope = 0;
+    std::array<std::uint32_t, 4> word{};
+
+    friend bool operator==(const address &a, const address &b) {
+        return a.af == b.af && a.prefix_len == b.prefix_len && a.scope == b.scope && a.word == b.word;
+    }
+    friend bool operator!=(const address &a, const address &b) { return !(a == b); }
+};
+
+// A member as for_each_member shows it: its name and pointers to the functions that read and write it. What a member
+// does not have is null.
+template <class Get, class Set, class GetState, class SetState>
+struct member {
+    std::string_view name;
+    Get get;
+    Set set;
+    GetState get_state;
+    SetState set_state;
+};
+template <class Get, class Set, class GetState, class SetState>
+member(const char *, Get, Set, GetState, SetState) -> member<Get, Set, GetState, SetState>;
+
+template <class R>
+class record;
+template <class R>
+class record_ref;
+template <class M>
+class message;
+template <class M>
+class message_ref;
+template <class A>
+class array_ref;
+
+namespace detail {
+
+inline constexpr std::size_t most_bytes = std::size_t{1} << 30;
+
+// Writers tell a lack of room by one of three numbers; their buffer grows until they are content. One more byte stands
+// behind what they are told of.
+template <class Buffer, class Write>
+Buffer grown(context &c, std::size_t guess, typename Buffer::value_type filler, Write write) {
+    if (!c.ok()) return {};
+    for (std::size_t size = guess;; size *= 4) {
+        Buffer buffer(size + 1, filler);
+        std::uint32_t err = 0;
+        const std::uint32_t written = write(buffer.data(), size, &err);
+        if ((err == EMSGSIZE || err == ENOSPC || err == ENOMEM) && size < most_bytes) continue;
+        if (err != 0) {
+            c.fail(err);
+            return {};
+        }
+        buffer.resize(written);
+        return buffer;
+    }
+}
+
+template <class Write>
+frame grown_frame(context &c, std::size_t guess, Write write) {
+    const auto bytes = grown<std::vector<std::uint8_t>>(c, guess, 0, write);
+    return {bytes.data(), bytes.size()};
+}
+
+// Text has gaps in front of the braces of nested records, which are counted and not written.
+template <class Write>
+std::string grown_text(context &c, std::size_t guess, Write write) {
+    std::string text = grown<std::string>(c, guess, ' ', write);
+    for (char &character : text) {
+        if (character == '\0') character = ' ';
+    }
+    return text;
+}
+
+template <class Native>
+class bound {
+public:
+    Native *get() const { return native_; }
+    lumo_ui_tarn::context &context() const { return *context_; }
+    explicit operator bool() const { return native_ != nullptr; }
+
+protected:
+    bound(lumo_ui_tarn::context &c, Native *native) : context_(&c), native_(native) {}
+    ~bound() = default;
+    bound(const bound &) = default;
+    bound &operator=(const bound &) = default;
+
+    template <class Operation, class... Arguments>
+    auto call_(Operation operation, Arguments... arguments) const {
+        return context_->call(operation, native_, arguments...);
+    }
+
+    lumo_ui_tarn::context *context_;
+    Native *native_;
+};
+
+// What a record can do whatever its members are, and how the members printed from the schema do what they do. Names of
+// helpers end in an underscore, since those of members are the schema's.
+template <class R, class Self>
+class operations : public bound<typename R::native> {
+    using base = bound<typename R::native>;
+
+public:
+    using record_type = R;
+
+    static constexpr std::string_view record_name() { return R::name; }
+
+    operator record_ref<R>() const { return {this->context(), this->get()}; }
+
+    // An upper bound, unless objects carry RA data.
+    std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->get()); }
+    // Returns the bytes written. The last byte of the buffer is the spare one.
+    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
+        return this->context().call(R::marshal, static_cast<void *>(buffer), this->get(),
+                                    static_cast<std::int32_t>(size_with_spare) - 1);
+    }
+#if defined(__cpp_lib_span)
+    std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
+        return write_frame(with_spare.data(), with_spare.size());
+    }
+#endif
+    frame to_frame() const {
+        lumo_ui_tarn::context &c = this->context();
+        return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
+            return R::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::int32_t>(size), err);
+        });
+    }
+    std::string to_xml(const char *name = R::name) const {
+        lumo_ui_tarn::context &c = this->context();
+        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+            return R::to_xml(c.handle(), c.ctx_id(), name, buffer, this->get(), static_cast<std::int32_t>(size), 0,
+                             err);
+        });
+    }
+    std::string text(const char *name = R::name) const {
+        lumo_ui_tarn::context &c = this->context();
+        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+            return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->get(), static_cast<std::int32_t>(size), err);
+        });
+    }
+
+    // Only the sign means something. Header and state play no part.
+    std::int32_t compare(record_ref<R> other) const { return R::compare(this->get(), other.get()); }
+    std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->get(), seed); }
+    record<R> copy() const;
+
+    void set_all_states(std::uint8_t value) const {
+        R::set_all_state_tracking_flag(this->context().handle(), this->context().ctx_id(), this->get(), value);
+    }
+    bool is_tracked() const {
+        return this->context().tracks() && this->get() != nullptr &&
+               (reinterpret_cast<const mirk_object *>(this->get())->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
+    }
+
+protected:
+    operations(lumo_ui_tarn::context &c, typename R::native *native) : base(c, native) {}
+    ~operations() = default;
+    operations(const operations &) = default;
+    operations &operator=(const operations &) = default;
+
+    using base::call_;
+
+    const Self &self_() const { return static_cast<const Self &>(*this); }
+
+    template <class Set, class Value>
+    const Self &write_(Set set, Value value) const {
+        call_(set, value);
+        return self_();
+    }
+    template <class GetState>
+    std::optional<std::uint8_t> state_(GetState get_state) const {
+        if (!is_tracked()) return std::nullopt;
+        return call_(get_state);
+    }
+
+    template <class Enumeration, class Get>
+    Enumeration choice_(Get get_value) const {
+        return static_cast<Enumeration>(call_(get_value));
+    }
+    template <class N, class Get>
+    record_ref<N> nested_(Get get) const {
+        return {this->context(), call_(get)};
+    }
+    template <class A>
+    array_ref<A> array_() const {
+        return {this->context(), this->get()};
+    }
+
+    template <class Length, class Get>
+    std::string string_(Length length, Get get) const {
+        std::string text(call_(length), '\0');
+        call_(get, text.data(), static_cast<std::uint32_t>(text.size()) + 1);
+        text.resize(std::strlen(text.c_str()));
+        return text;
+    }
+    template <class Set>
+    const Self &write_string_(Set set, std::string_view text) const {
+        if (text.size() > std::numeric_limits<std::uint16_t>::max()) {
+            this->context().fail(EOVERFLOW);
+            return self_();
+        }
+        call_(set, text.data(), static_cast<std::uint32_t>(text.size()));
+        return self_();
+    }
+
+    template <class Get>
+    lumo_ui_tarn::address read_address_(Get get) const {
+        lumo_ui_tarn::address value;
+        if (const ip_address *place = call_(get); place != nullptr) {
+            value.af = place->af;
+            value.prefix_len = place->prefix_len;
+            value.scope = place->scope;
+            for (std::size_t i = 0; i < 4; ++i) value.word[i] = place->word[i];
+        }
+        return value;
+    }
+    // The setter takes a whole object: the one that stands there with other values, and states that say written.
+    template <class Get, class Set>
+    const Self &write_address_(Get get, Set set, const lumo_ui_tarn::address &value) const {
+        const ip_address *place = call_(get);
+        if (place == nullptr) return self_();
+        struct {
+            ip_address object;
+            std::uint8_t states[8];
+        } source;
+        source.object = *place;
+        source.object.obj_flag &= static_cast<std::uint8_t>(~(MIRK_OBJ_STTR_OFFSET | MIRK_OBJ_RA_DATA));
+        source.object.af = value.af;
+        source.object.prefix_len = value.prefix_len;
+        source.object.scope = value.scope;
+        for (std::size_t i = 0; i < 4; ++i) source.object.word[i] = value.word[i];
+        std::memset(source.states, 2, sizeof source.states);
+        call_(set, &source.object);
+        return self_();
+    }
+
+    // The setters of C move, and forget what the destination owned. Here nothing is lost: a copy is moved in, and what
+    // was there is moved out.
+    template <class N, class Get, class Set>
+    const Self &adopt_(Get get, Set set, record<N> &&value) const;
+    template <class N, class Get, class Set>
+    const Self &assign_(Get get, Set set, record_ref<N> value) const;
+};
+
+}  // namespace detail
+
+template <class R>
+class record_ref : public R::template members<record_ref<R>> {
+    using base = typename R::template members<record_ref<R>>;
+
+public:
+    record_ref(context &c, typename R::native *native) : base(c, native) {}
+};
+
+template <class R>
+class record : public R::template members<record<R>> {
+    using base = typename R::template members<record<R>>;
+
+public:
+    using reference_type = record_ref<R>;
+
+    explicit record(context &c) : base(c, c.ok() ? R::create(c.handle(), c.ctx_id()) : nullptr) {
+        if (this->native_ == nullptr) c.fail(ENOMEM);
+    }
+    record(const record &) = delete;
+    record(record &&other) noexcept : base(other.context(), other.release()) {}
+    record &operator=(record &&other) noexcept {
+        std::swap(this->context_, other.context_);
+        std::swap(this->native_, other.native_);
+        return *this;
+    }
+    ~record() {
+        if (this->native_ != nullptr) R::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
+    }
+
+    // Takes over what C code made, or hands it back to C code.
+    static record take(context &c, typename R::native *native) { return record(c, native); }
+    [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
+
+    // Reads the frame where it lies: its owner has one readable byte behind the size, as a frame object does.
+    static record from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
+        record fresh(c);
+        // The operation takes a plain void * and only reads.
+        c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), static_cast<std::uint32_t>(size),
+               std::uint32_t{0});
+        return fresh;
+    }
+    static record from_frame(context &c, const frame &whole) {
+        return from_frame_with_spare(c, whole.data(), whole.size());
+    }
+    // Copies the bytes first.
+    static record from_frame(context &c, const void *bytes, std::size_t size) {
+        return from_frame(c, frame(bytes, size));
+    }
+#if defined(__cpp_lib_span)
+    static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
+#endif
+    // The document is the runtime's. Without a path the record's element is looked for at any depth.
+    static record from_xml(context &c, void *document, const char *path = nullptr) {
+        record fresh(c);
+        const std::string anywhere = std::string("//") + R::name;
+        char words[256] = "";
+        if (c.ok()) {
+            R::from_xml(c.handle(), c.ctx_id(), path != nullptr ? path : anywhere.c_str(), document, fresh.get(),
+                        c.slot(), words, sizeof words);
+            if (!c.ok()) c.fail(*c.slot(), words);
+        }
+        return fresh;
+    }
+
+private:
+    record(context &c, typename R::native *native) : base(c, native) {}
+};
+
+template <class A, class B, class R = typename A::record_type,
+          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
+                                   std::is_base_of_v<detail::operations<R, B>, B>>>
+bool operator==(const A &a, const B &b) {
+    return a.compare(b) == 0;
+}
+template <class A, class B, class R = typename A::record_type,
+          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
+                                   std::is_base_of_v<detail::operations<R, B>, B>>>
+bool operator!=(const A &a, const B &b) {
+    return a.compare(b) != 0;
+}
+template <class A, class B, class R = typename A::record_type,
+          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
+                                   std::is_base_of_v<detail::operations<R, B>, B>>>
+bool operator<(const A &a, const B &b) {
+    return a.compare(b) < 0;
+}
+
+namespace detail {
+
+// By way of a frame, like every deep copy, but of any size.
+template <class R, class Self>
+record<R> operations<R, Self>::copy() const {
+    lumo_ui_tarn::context &c = this->context();
+    typename R::native *result = nullptr;
+    const std::size_t size = frame_size();
+    std::vector<std::uint8_t> buffer(size + 1);
+    c.call(R::clone, this->get(), &result, static_cast<void *>(buffer.data()), static_cast<std::uint32_t>(size));
+    return record<R>::take(c, result);
+}
+
+// Empties a record that owns blocks into one that ends with the scope.
+template <class N>
+class emptied {
+public:
+    emptied(context &c, typename N::native *object) {
+        if constexpr (N::owns_blocks) {
+            former_.emplace(c);
+            c.call(N::set, former_->get(), object);
+        }
+    }
+
+private:
+    std::optional<record<N>> former_;
+};
+
+template <class R, class Self>
+template <class N, class Get, class Set>
+const Self &operations<R, Self>::adopt_(Get get, Set set, record<N> &&value) const {
+    const emptied<N> former(this->context(), call_(get));
+    call_(set, value.get());
+    return self_();
+}
+
+template <class R, class Self>
+template <class N, class Get, class Set>
+const Self &operations<R, Self>::assign_([[maybe_unused]] Get get, Set set, record_ref<N> value) const {
+    if constexpr (N::owns_blocks) {
+        return adopt_(get, set, value.copy());
+    } else {
+        call_(set, value.get());
+        return self_();
+    }
+}
+
+}  // namespace detail
+
+// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
+// good until the array grows, and each growth moves all elements: grow once, then fill.
+template <class A>
+class array_ref {
+    using element = typename A::element;
+
+public:
+    using value_type = record_ref<element>;
+    using size_type = std::size_t;
+
+    class iterator {
+    public:
+        using value_type = record_ref<element>;
+        using reference = value_type;
+        using difference_type = std::ptrdiff_t;
+        using iterator_category = std::input_iterator_tag;  // its references are values, hence no better one
+#if __cplusplus >= 202002L
+        using iterator_concept = std::random_access_iterator_tag;
+#endif
+        struct pointer {
+            value_type value;
+            const value_type *operator->() const { return &value; }
+        };
+
+        iterator() = default;
+        iterator(context *c, typename A::native *owner, std::size_t at) : context_(c), owner_(owner), at_(at) {}
+        reference operator*() const { return array_ref(*context_, owner_)[at_]; }
+        pointer operator->() const { return {**this}; }
+        reference operator[](difference_type n) const { return *(*this + n); }
+        iterator &operator+=(difference_type n) {
+            at_ += static_cast<std::size_t>(n);
+            return *this;
+        }
+        iterator &operator-=(difference_type n) { return *this += -n; }
+        iterator &operator++() { return *this += 1; }
+        iterator &operator--() { return *this -= 1; }
+        iterator operator++(int) {
+            const iterator before = *this;
+            ++*this;
+            return before;
+        }
+        iterator operator--(int) {
+            const iterator before = *this;
+            --*this;
+            return before;
+        }
+        friend iterator operator+(iterator i, difference_type n) { return i += n; }
+        friend iterator operator+(difference_type n, iterator i) { return i += n; }
+        friend iterator operator-(iterator i, difference_type n) { return i -= n; }
+        friend difference_type operator-(const iterator &a, const iterator &b) {
+            return static_cast<difference_type>(a.at_) - static_cast<difference_type>(b.at_);
+        }
+        friend bool operator==(const iterator &a, const iterator &b) { return a.at_ == b.at_; }
+        friend bool operator!=(const iterator &a, const iterator &b) { return a.at_ != b.at_; }
+        friend bool operator<(const iterator &a, const iterator &b) { return a.at_ < b.at_; }
+        friend bool operator>(const iterator &a, const iterator &b) { return a.at_ > b.at_; }
+        friend bool operator<=(const iterator &a, const iterator &b) { return a.at_ <= b.at_; }
+        friend bool operator>=(const iterator &a, const iterator &b) { return a.at_ >= b.at_; }
+
+    private:
+        context *context_ = nullptr;
+        typename A::native *owner_ = nullptr;
+        std::size_t at_ = 0;
+    };
+    using const_iterator = iterator;
+
+    array_ref(context &c, typename A::native *owner) : context_(&c), owner_(owner) {}
+
+    std::size_t size() const { return context_->call(A::size, owner_); }
+    bool empty() const { return size() == 0; }
+    // What the count can tell.
+    static constexpr std::size_t max_size() { return std::numeric_limits<typename A::count>::max(); }
+
+    // ENOENT behind the end.
+    value_type operator[](std::size_t index) const {
+        return {*context_, context_->call(A::get, owner_, static_cast<std::uint32_t>(index))};
+    }
+    value_type front() const { return (*this)[0]; }
+    value_type back() const { return (*this)[size() - 1]; }
+    iterator begin() const { return {context_, owner_, 0}; }
+    iterator end() const { return {context_, owner_, size()}; }
+
+    // To this many elements, new ones with all members zero. EINVAL for fewer than there are: arrays do not shrink.
+    const array_ref &grow(std::size_t elements) const {
+        const std::size_t before = size();
+        if (elements < before) context_->fail(EINVAL);
+        if (elements > max_size()) context_->fail(EOVERFLOW);
+        if (elements <= before || !context_->ok()) return *this;
+        std::optional<record<element>> blank;
+        if (context_->tracks()) blank.emplace(*context_);  // the null value is for handles that do not track
+        put(elements - 1, blank ? blank->get() : nullptr);
+        return *this;
+    }
+    // Grows as far as it has to. What stood there is released.
+    const array_ref &set(std::size_t index, record<element> &&value) const {
+        const std::size_t before = size();
+        if (index >= max_size()) context_->fail(EOVERFLOW);
+        if (!context_->ok()) return *this;
+        if (index < before) {
+            const detail::emptied<element> former(*context_, (*this)[index].get());
+            put(index, value.get());
+        } else {
+            put(index, value.get());
+        }
+        return *this;
+    }
+    const array_ref &set(std::size_t index, value_type value) const { return set(index, value.copy()); }
+    const array_ref &push_back(record<element> &&value) const { return set(size(), std::move(value)); }
+    const array_ref &push_back(value_type value) const { return set(size(), value.copy()); }
+
+    // The state of one element; none if the owner has no states.
+    std::optional<std::uint8_t> state(std::size_t index) const {
+        const auto *object = reinterpret_cast<const mirk_object *>(owner_);
+        if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
+            return std::nullopt;
+        }
+        return context_->call(A::state_get, owner_, static_cast<std::uint32_t>(index));
+    }
+    const array_ref &set_state(std::size_t index, std::uint8_t value) const {
+        context_->call(A::state_set, owner_, static_cast<std::uint32_t>(index), value);
+        return *this;
+    }
+
+private:
+    void put(std::size_t index, typename element::native *value) const {
+        context_->call(A::set, owner_, static_cast<std::uint32_t>(index), value);
+    }
+
+    context *context_;
+    typename A::native *owner_;
+};
+
+namespace detail {
+
+template <class M>
+class message_operations : public bound<typename M::native> {
+    using base = bound<typename M::native>;
+
+public:
+    using message_type = M;
+    using payload_type = typename M::payload;
+
+    static constexpr std::string_view message_name() { return M::name; }
+    static const std::uint8_t *luid() { return M::luid(); }
+
+    operator message_ref<M>() const { return {this->context(), this->get()}; }
+
+    // Borrowed: it goes with the message.
+    record_ref<payload_type> payload() const { return {this->context(), this->call_(M::payload_get)}; }
+    // The message has no payload afterwards, until it gets another one.
+    record<payload_type> detach_payload() const {
+        return record<payload_type>::take(this->context(), this->call_(M::payload_detach));
+    }
+    // What it had is destroyed.
+    void set_payload(record<payload_type> &&value) const {
+        typename payload_type::native *const next = value.release();
+        if (next != payload().get()) this->call_(M::payload_free_and_set, next);
+    }
+
+    std::size_t frame_size() const {
+        return this->get() != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->get()) : 0;
+    }
+    // Returns the bytes written. The last byte of the buffer is the spare one.
+    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
+        return this->context().call(M::marshal, static_cast<void *>(buffer), this->get(),
+                                    static_cast<std::uint32_t>(size_with_spare) - 1);
+    }
+#if defined(__cpp_lib_span)
+    std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
+        return write_frame(with_spare.data(), with_spare.size());
+    }
+#endif
+    frame to_frame() const {
+        lumo_ui_tarn::context &c = this->context();
+        return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
+            return M::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::uint32_t>(size), err);
+        });
+    }
+    std::string to_xml() const { return rendered(M::to_xml); }
+    std::string text() const { return rendered(M::print); }
+
+protected:
+    message_operations(lumo_ui_tarn::context &c, typename M::native *native) : base(c, native) {}
+    ~message_operations() = default;
+    message_operations(const message_operations &) = default;
+    message_operations &operator=(const message_operations &) = default;
+
+private:
+    template <class Operation>
+    std::string rendered(Operation operation) const {
+        lumo_ui_tarn::context &c = this->context();
+        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+            return operation(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::uint32_t>(size), err);
+        });
+    }
+};
+
+}  // namespace detail
+
+template <class M>
+class message_ref : public detail::message_operations<M> {
+public:
+    message_ref(context &c, typename M::native *native) : detail::message_operations<M>(c, native) {}
+};
+
+template <class M>
+class message : public detail::message_operations<M> {
+    using base = detail::message_operations<M>;
+
+public:
+    using reference_type = message_ref<M>;
+
+    explicit message(context &c) : base(c, c.ok() ? M::create(c.handle(), c.ctx_id()) : nullptr) {
+        if (this->native_ == nullptr) c.fail(ENOMEM);
+    }
+    message(const message &) = delete;
+    message(message &&other) noexcept : base(other.context(), other.release()) {}
+    message &operator=(message &&other) noexcept {
+        std::swap(this->context_, other.context_);
+        std::swap(this->native_, other.native_);
+        return *this;
+    }
+    ~message() {
+        if (this->native_ != nullptr) M::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
+    }
+
+    static message take(context &c, typename M::native *native) { return message(c, native); }
+    [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
+
+    // A message that was read in part is destroyed again.
+    static message from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
+        typename M::native *native = nullptr;
+        std::uint32_t err = *c.slot();
+        M::unmarshal(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
+                     &err);
+        message read(c, native);
+        if (err != 0) c.fail(err);
+        return read;
+    }
+    static message from_frame(context &c, const frame &whole) {
+        return from_frame_with_spare(c, whole.data(), whole.size());
+    }
+    static message from_frame(context &c, const void *bytes, std::size_t size) {
+        return from_frame(c, frame(bytes, size));
+    }
+#if defined(__cpp_lib_span)
+    static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
+#endif
+    static message from_xml(context &c, void *document) {
+        char words[256] = "";
+        typename M::native *native = nullptr;
+        if (c.ok()) {
+            native = M::from_xml(c.handle(), c.ctx_id(), document, c.slot(), words, sizeof words);
+            if (!c.ok()) c.fail(*c.slot(), words);
+        }
+        return message(c, native);
+    }
+
+private:
+    message(context &c, typename M::native *native) : base(c, native) {}
+};
+
+// Frames of one answer: the start of a bundle, its messages, and its commit. Ends with an abort if nobody commits.
+template <class B>
+class bundle_writer {
+public:
+    explicit bundle_writer(context &c) : context_(&c) {
+        control(B::start);
+        open_ = c.ok();
+    }
+    bundle_writer(const bundle_writer &) = delete;
+    bundle_writer &operator=(const bundle_writer &) = delete;
+    ~bundle_writer() {
+        if (!open_) return;
+        std::uint8_t frame_of_nobody[64];
+        std::uint32_t err = 0;
+        B::abort(context_->handle(), context_->ctx_id(), frame_of_nobody, nullptr, sizeof frame_of_nobody - 1, &err);
+    }
+
+    bundle_writer &add(message_ref<typename B::message> one) {
+        frames_.append(one.to_frame());
+        return *this;
+    }
+    bundle_writer &commit() { return end(B::commit); }
+    bundle_writer &abort() { return end(B::abort); }
+    const frame &frames() const { return frames_; }
+
+private:
+    template <class Operation>
+    void control(Operation operation) {
+        std::uint8_t bytes[64];
+        const std::uint32_t size = context_->call(operation, static_cast<void *>(bytes), static_cast<void *>(nullptr),
+                                                  static_cast<std::uint32_t>(sizeof bytes) - 1);
+        frames_.append(frame(bytes, size));
+    }
+    template <class Operation>
+    bundle_writer &end(Operation operation) {
+        if (!context_->ok()) return *this;  // what is missing in the answer must not be committed
+        open_ = false;
+        control(operation);
+        return *this;
+    }
+
+    context *context_;
+    frame frames_;
+    bool open_ = false;
+};
+
+}  // namespace lumo_ui_tarn
+
+template <class R>
+struct std::hash<lumo_ui_tarn::record<R>> {
+    std::size_t operator()(const lumo_ui_tarn::record<R> &object) const { return object.hash(); }
+};
+template <class R>
+struct std::hash<lumo_ui_tarn::record_ref<R>> {
+    std::size_t operator()(const lumo_ui_tarn::record_ref<R> &object) const { return object.hash(); }
+};
+
+#endif

@@ -1,0 +1,203 @@
+// The C++ interface as a program of C++17 uses it: chains, errors by choice, addresses, arrays.
+#include <gtest/gtest.h>
+#include <mirk_platform.h>
+#include <sys/socket.h>
+
+#include <lumo_ui_tarn.hpp>
+
+namespace {
+
+using namespace lumo_ui_tarn;
+
+static_assert(__cplusplus < 202002L, "this program shows that the header does without C++20");
+
+struct CppUsage : testing::Test {
+    explicit CppUsage(mirk_platform_tracking tracking = MIRK_PLATFORM_TRACKING_NONE) {
+        mirk_platform_handle_options options;
+        mirk_platform_handle_options_init(&options);
+        options.tracking = tracking;
+        handle = mirk_platform_handle_open(&options);
+        mirk_platform_trace_set_levels(1);
+    }
+    ~CppUsage() override { EXPECT_EQ(mirk_platform_handle_close(handle), 0u); }
+    mirk_handle *handle = nullptr;
+};
+
+struct CppUsageTracked : CppUsage {
+    CppUsageTracked() : CppUsage(MIRK_PLATFORM_TRACKING_ON) {}
+};
+
+address v4(std::uint32_t word, std::uint8_t prefix_len) {
+    address value;
+    value.af = AF_INET;
+    value.prefix_len = prefix_len;
+    value.word[0] = word;
+    return value;
+}
+
+TEST_F(CppUsage, SettersChainAndNestedRecordsReadLikeMembers) {
+    context c(handle);
+    dp_tt_table_data tables(c);
+    tables.lumo_data().grow(1);
+    tables.lumo_data()[0].set_lumo_num(2).set_start_time(100).set_end_time(200);
+    const auto classes = tables.lumo_data()[0].agg_tc_list().tc_list();
+    classes.grow(2);
+    classes[0].set_id(1).set_proto(6).set_src_prefix(v4(0x0a000000, 8)).appl().set_id(77);
+    classes[1].set_id(2).set_proto(17);
+
+    std::string seen;
+    for (const dp_tc_ref tc : tables.lumo_data()[0].agg_tc_list().tc_list()) {
+        seen += std::to_string(tc.id()) + ":" + std::to_string(tc.proto()) + " ";
+    }
+    EXPECT_EQ(seen, "1:6 2:17 ");
+    EXPECT_EQ(tables.lumo_data()[0].agg_tc_list().num_tcs(), 2u);
+    EXPECT_EQ(classes[0].appl().id(), 77);
+    EXPECT_EQ(classes[0].src_prefix(), v4(0x0a000000, 8));
+    EXPECT_EQ(classes[1].src_prefix(), address());
+}
+
+TEST_F(CppUsage, TheFunctionsOfCWorkOnTheSameObject) {
+    context c(handle);
+    dp_tc tc(c);
+    std::uint32_t err = 0;
+    lumo_tarn_dp_tc_tos_set_value(c.handle(), c.ctx_id(), tc.get(), 5, &err);
+    EXPECT_EQ(tc.tos(), 5);
+    const dp_tc_ref borrowed(c, tc.get());
+    borrowed.set_tos(6);
+    EXPECT_EQ(lumo_tarn_dp_tc_tos_get_value(c.handle(), c.ctx_id(), tc.get(), &err), 6);
+    EXPECT_EQ(err, 0u);
+}
+
+TEST_F(CppUsage, ErrorsAreThrown) {
+    context c(handle);
+    dp_tc_list list(c);
+    try {
+        list.tc_list()[3];
+        FAIL() << "there is no such element";
+    } catch (const std::system_error &error) {
+        EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
+    }
+    EXPECT_TRUE(c.ok());
+    list.tc_list().grow(2);
+    EXPECT_THROW(list.tc_list().grow(1), std::system_error);
+    EXPECT_THROW(dp_tc::from_frame(c, "", 0), std::system_error);
+    EXPECT_THROW(debug_setting_msg::from_frame(c, "rubbish", 7), std::system_error);
+    EXPECT_THROW(lumo_info(c).set_direction(static_cast<lumo_direction>(3)), std::system_error);
+    EXPECT_THROW(cl_kesh_appl(c).set_proto_name(std::string(65536, 'x')), std::system_error);
+}
+
+TEST_F(CppUsage, ErrorsAreKeptIfAskedFor) {
+    context c(handle, errors::kept);
+    dp_tc_list list(c);
+    const dp_tc_ref none = list.tc_list()[3];
+    EXPECT_EQ(c.error(), std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(none);
+    none.set_id(1).set_tos(2);  // does nothing, like every call behind an error
+    EXPECT_EQ(none.id(), 0u);
+    EXPECT_TRUE(list.to_frame().empty());
+    EXPECT_TRUE(list.text().empty());
+    const dp_tc unmade(c);
+    EXPECT_FALSE(unmade);
+    EXPECT_EQ(c.take_error(), std::errc::no_such_file_or_directory);
+    EXPECT_TRUE(c.ok());
+    EXPECT_EQ(list.tc_list().size(), 0u);
+
+    bundle_writer<cl_debug_rsp> answer(c);
+    c.fail(EIO);
+    answer.commit();
+    EXPECT_EQ(handle->send_bundle_open, 1u) << "an answer that is not whole is not committed";
+    EXPECT_EQ(c.take_error(), std::errc::io_error);
+}
+
+TEST_F(CppUsage, ErrorsOfDocumentsComeWithWords) {
+    context c(handle);
+    const std::string text = "<lumo_tarn_exmem_info><size>many</size></lumo_tarn_exmem_info>";
+    void *document = mirk_platform_document_load_memory(text.data(), text.size(), nullptr);
+    EXPECT_THROW(exmem_info::from_xml(c, document), std::system_error);
+    mirk_platform_document_free(document);
+}
+
+TEST_F(CppUsage, NoMemoryIsAnError) {
+    mirk_platform_handle_options options;
+    mirk_platform_handle_options_init(&options);
+    options.total_ceiling = 64;
+    mirk_handle *poor = mirk_platform_handle_open(&options);
+    {
+        context c(poor);
+        EXPECT_THROW(dp_tc{c}, std::system_error);
+        context kept(poor, errors::kept);
+        const debug_setting_msg message(kept);
+        EXPECT_EQ(kept.error(), std::errc::not_enough_memory);
+        EXPECT_EQ(message.frame_size(), 0u);
+    }
+    mirk_platform_handle_close(poor);
+}
+
+TEST_F(CppUsage, ACountOfOneByteIsNotLedAround) {
+    context c(handle);
+    lumo_info_list list(c);
+    const auto infos = dp_mp_prefix_data(c);
+    const auto prefixes = infos.prefix_data();
+    EXPECT_EQ(prefixes.max_size(), 255u);
+    prefixes.grow(255);
+    EXPECT_THROW(prefixes.grow(256), std::system_error);
+    EXPECT_THROW(prefixes.push_back(dp_mp_prefix_complex_data(c)), std::system_error);
+    EXPECT_EQ(prefixes.size(), 255u);
+}
+
+TEST_F(CppUsage, StringsEndAtTheirFirstNul) {
+    context c(handle);
+    cl_kesh_appl application(c);
+    EXPECT_EQ(application.proto_name(), "");
+    application.set_proto_name("http").set_sub_proto_name(std::string_view("a\0b", 3));
+    EXPECT_EQ(application.proto_name(), "http");
+    EXPECT_EQ(application.proto_name_len(), 4);
+    EXPECT_EQ(application.sub_proto_name(), "a");
+    EXPECT_EQ(application.sub_proto_name_len(), 3);
+}
+
+TEST_F(CppUsage, WithoutTrackingThereAreNoStates) {
+    context c(handle);
+    dp_tc_list list(c);
+    list.tc_list().grow(1);
+    EXPECT_FALSE(list.is_tracked());
+    EXPECT_EQ(list.tc_list_state(), std::nullopt);
+    EXPECT_EQ(list.tc_list().state(0), std::nullopt);
+    EXPECT_THROW(list.set_tc_list_state(1), std::system_error);
+}
+
+TEST_F(CppUsageTracked, SettersLeaveTheirMark) {
+    context c(handle);
+    dp_tc tc(c);
+    EXPECT_TRUE(tc.is_tracked());
+    EXPECT_EQ(tc.proto_state(), 0);
+    tc.set_proto(6).set_src_prefix(v4(0x0a000000, 8));
+    EXPECT_EQ(tc.proto_state(), 2);
+    EXPECT_EQ(tc.src_prefix_state(), 2);
+    EXPECT_EQ(tc.dst_prefix_state(), 0);
+    EXPECT_EQ(tc.src_prefix(), v4(0x0a000000, 8));
+    tc.set_proto_state(1);
+    EXPECT_EQ(tc.proto_state(), 1);
+
+    dp_tc_list list(c);
+    list.tc_list().push_back(tc).push_back(std::move(tc));
+    EXPECT_EQ(list.tc_list().state(0), 2);
+    EXPECT_EQ(list.tc_list_state(), 2);
+    list.tc_list().set_state(0, 0);
+    EXPECT_EQ(list.tc_list().state(0), 0);
+    EXPECT_EQ(list.tc_list()[1].src_prefix_state(), 2);
+}
+
+TEST_F(CppUsage, FramesAreBytesWithOneToSpare) {
+    frame empty;
+    EXPECT_TRUE(empty.empty());
+    empty.append(frame("ab", 2));
+    empty.append(frame());
+    empty.append(frame("c", 1));
+    EXPECT_EQ(empty, frame("abc", 3));
+    EXPECT_NE(empty, frame("abd", 3));
+    EXPECT_EQ(std::string(empty.begin(), empty.end()), "abc");
+    EXPECT_EQ(*empty.end(), 0) << "the spare byte is there";
+}
+
+}  // namespace

@@ -1,0 +1,376 @@
+// The C++ interface: for each record a structure that names its C functions, and accessors that call them.
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <stdexcept>
+
+#include "names.h"
+#include "surface.h"
+#include "writers.h"
+
+namespace tarn::generate {
+
+using namespace schema;
+
+namespace {
+
+constexpr std::size_t line_width = 120;
+
+const std::string space = "lumo_ui_tarn::";
+
+// Words that C++ keeps for itself, and names that all records have.
+constexpr std::string_view taken[] = {"alignas",
+                                      "alignof",
+                                      "asm",
+                                      "auto",
+                                      "bool",
+                                      "break",
+                                      "case",
+                                      "catch",
+                                      "char",
+                                      "class",
+                                      "concept",
+                                      "const",
+                                      "context",
+                                      "continue",
+                                      "copy",
+                                      "compare",
+                                      "default",
+                                      "delete",
+                                      "do",
+                                      "double",
+                                      "else",
+                                      "enum",
+                                      "explicit",
+                                      "for_each_member",
+                                      "export",
+                                      "extern",
+                                      "false",
+                                      "float",
+                                      "for",
+                                      "frame",
+                                      "friend",
+                                      "frame_size",
+                                      "from_frame",
+                                      "from_xml",
+                                      "get",
+                                      "goto",
+                                      "hash",
+                                      "if",
+                                      "inline",
+                                      "int",
+                                      "is_tracked",
+                                      "long",
+
+                                      "mutable",
+                                      "namespace",
+                                      "new",
+                                      "noexcept",
+                                      "nullptr",
+                                      "operator",
+                                      "private",
+                                      "protected",
+                                      "public",
+                                      "record_name",
+                                      "record_type",
+                                      "reference_type",
+                                      "from_frame_with_spare",
+
+                                      "register",
+                                      "release",
+                                      "requires",
+                                      "return",
+                                      "short",
+                                      "set_all_states",
+                                      "signed",
+                                      "sizeof",
+
+                                      "static",
+                                      "struct",
+                                      "switch",
+                                      "take",
+                                      "template",
+                                      "text",
+                                      "this",
+                                      "throw",
+                                      "to_frame",
+                                      "to_xml",
+                                      "true",
+                                      "try",
+
+                                      "typedef",
+                                      "typename",
+                                      "union",
+                                      "unsigned",
+                                      "using",
+                                      "virtual",
+                                      "void",
+                                      "volatile",
+                                      "while",
+
+                                      "write_frame"};
+
+std::string identifier(std::string_view name) {
+    const bool is_taken = std::find(std::begin(taken), std::end(taken), name) != std::end(taken);
+    return std::string(name) + (is_taken ? "_member" : "");
+}
+
+// Breaks a line behind commas; what is continued stands further in.
+std::string broken(std::string line, std::size_t indent) {
+    std::string text;
+    while (line.size() > line_width) {
+        const std::size_t comma = line.rfind(", ", line_width - 1);
+        if (comma == std::string::npos) break;
+        text += line.substr(0, comma + 1) + "\n";
+        line = std::string(indent, ' ') + line.substr(comma + 2);
+    }
+    return text + line + "\n";
+}
+
+// The functions of one record. Two members whose functions would bear one name are refused here and not by the
+// compiler of somebody else.
+class Members {
+public:
+    explicit Members(const Record &record) : record_(record) {
+        for (std::size_t i = 0; i < record.members.size(); ++i) add(i);
+    }
+
+    const std::string &arrays() const { return arrays_; }
+    const std::string &functions() const { return functions_; }
+    const std::string &listed() const { return listed_; }
+
+private:
+    std::string c(const Member &m) const { return std::string(record_.name) + "_" + std::string(m.name); }
+
+    void function(const std::string &result, const std::string &name, const std::string &parameter,
+                  const std::string &body) {
+        if (!names_.insert(name + "(" + parameter.substr(0, 5)).second) {
+            throw std::runtime_error(std::string(record_.name) + " has two functions that are called " + name);
+        }
+        const std::string head =
+            "        " + result + (result.ends_with('&') ? "" : " ") + name + "(" + parameter + ") const {";
+        const std::string statement = "return this->" + body + ";";
+        if (head.size() + statement.size() + 3 <= line_width) {
+            functions_ += head + " " + statement + " }\n";
+        } else {
+            functions_ += head + "\n" + broken(std::string(12, ' ') + statement, 16) + "        }\n";
+        }
+    }
+
+    void list(const Member &m, const std::string &name, bool set, bool state) {
+        const std::string in = "&members::";
+        listed_ +=
+            broken("            visit(lumo_ui_tarn::member{\"" + std::string(m.name) + "\", " + in + name + ", " +
+                       (set ? in + "set_" + name : "nullptr") + ", " +
+                       (state ? in + name + "_state, " + in + "set_" + name + "_state" : "nullptr, nullptr") + "});",
+                   16);
+    }
+
+    void add(std::size_t index) {
+        const Member &m = record_.members[index];
+        const std::string name = identifier(m.name), get = c(m) + "_get", set = c(m) + "_set";
+        functions_ += "\n        // " + std::string(m.meaning) + "\n";
+        const auto setter = [&](const std::string &parameter, const std::string &body) {
+            function("const Self &", "set_" + name, parameter, body);
+        };
+        switch (class_of(m)) {
+            case Applies::integer: {
+                const std::string type = "std::" + value_type(m);
+                function(type, name, "", "call_(" + get + "_value)");
+                setter(type + " value", "write_(" + set + "_value, value)");
+                break;
+            }
+            case Applies::boolean:
+                function("bool", name, "", "call_(" + get + "_value) != 0");
+                setter("bool value", "write_(" + set + "_value, static_cast<std::uint8_t>(value))");
+                break;
+            case Applies::choice: {
+                const std::string type = space + type_name(*m.enumeration);
+                function(type, name, "", "template choice_<" + type + ">(" + get + "_value)");
+                setter(type + " value", "write_(" + set + "_value, static_cast<std::uint32_t>(value))");
+                break;
+            }
+            case Applies::address:
+                function(space + "address", name, "", "read_address_(" + get + ")");
+                setter("const " + space + "address &value", "write_address_(" + get + ", " + set + ", value)");
+                break;
+            case Applies::nested: {
+                const std::string type = space + short_name(m.record->name);
+                function(type + "_ref", name, "", "template nested_<" + type + "_type>(" + get + ")");
+                setter(type + "_ref value", "assign_(" + get + ", " + set + ", value)");
+                function("const Self &", "adopt_" + name, type + " &&value",
+                         "adopt_(" + get + ", " + set + ", std::move(value))");
+                break;
+            }
+            case Applies::string:
+                function("std::string", name, "",
+                         "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
+                setter("std::string_view text", "write_string_(" + set + ", text)");
+                break;
+            case Applies::array:
+                add_array(index, name);
+                break;
+            default:  // counts and lengths follow from what they count
+                function("std::" + value_type(m), name, "", "call_(" + get + "_value)");
+                list(m, name, false, false);
+                return;
+        }
+        const std::string whole = m.kind == Kind::array ? "_whole" : "";
+        function("std::optional<std::uint8_t>", name + "_state", "",
+                 "state_(" + c(m) + "_state_flag" + whole + "_get)");
+        function("const Self &", "set_" + name + "_state", "std::uint8_t value",
+                 "write_(" + c(m) + "_state_flag" + whole + "_set, value)");
+        list(m, name, m.kind != Kind::array, true);
+    }
+
+    void add_array(std::size_t index, const std::string &name) {
+        const Member &m = record_.members[index], &count = record_.members[index - 1];
+        const std::string tag = name + "_array";
+        arrays_ += "    struct " + tag + " {\n        using native = " + std::string(record_.name) +
+                   ";\n        using element = " + space + short_name(m.record->name) +
+                   "_type;\n        using count = std::" + value_type(count) +
+                   ";\n        static constexpr auto size = " + c(count) + "_get_value;\n" +
+                   "        static constexpr auto get = " + c(m) +
+                   "_get;\n        static constexpr auto set = " + c(m) +
+                   "_set;\n        static constexpr auto state_get = " + c(m) +
+                   "_state_flag_get;\n        static constexpr auto state_set = " + c(m) + "_state_flag_set;\n    };\n";
+        function(space + "array_ref<" + tag + ">", name, "", "template array_<" + tag + ">()");
+    }
+
+    const Record &record_;
+    std::string arrays_, functions_, listed_;
+    std::set<std::string> names_;
+};
+
+bool owns_blocks(const Record &record) {
+    return std::any_of(record.members.begin(), record.members.end(), [](const Member &m) {
+        return owns_block(m) || (m.kind == Kind::record && owns_blocks(*m.record));
+    });
+}
+
+std::string constants(const std::string &prefix, std::initializer_list<std::pair<const char *, std::string>> pairs) {
+    std::string text;
+    for (const auto &[name, function] : pairs) {
+        text += "    static constexpr auto " + std::string(name) + " = " + prefix + function + ";\n";
+    }
+    return text;
+}
+
+std::string record_types(const Record &record) {
+    const std::string c(record.name), name = short_name(record.name);
+    const Members members(record);
+    std::string text = "// ---- " + c + ": " + std::string(record.meaning) + "\nstruct " + name +
+                       "_type {\n    using native = " + c + ";\n    static constexpr const char *name = \"" + c +
+                       "\";\n    static constexpr bool owns_blocks = " + (owns_blocks(record) ? "true" : "false") +
+                       ";  // arrays or strings\n";
+    text += constants(c + "_", {{"create", "create"},
+                                {"destroy", "destroy"},
+                                {"set", "set"},
+                                {"clone", "clone"},
+                                {"len", "len"},
+                                {"marshal", "marshal"},
+                                {"unmarshal", "unmarshal"},
+                                {"print", "print"},
+                                {"to_xml", "to_xml"},
+                                {"from_xml", "from_xml"},
+                                {"compare", "compare"},
+                                {"hash", "hash"},
+                                {"set_all_state_tracking_flag", "set_all_state_tracking_flag"}});
+    text += "\n" + members.arrays() + (members.arrays().empty() ? "" : "\n");
+    text += "    template <class Self>\n    class members : public detail::operations<" + name +
+            "_type, Self> {\n    public:\n        using detail::operations<" + name + "_type, Self>::operations;\n";
+    text += members.functions();
+    text += "\n        template <class Visit>\n        static void for_each_member(Visit &&visit) {\n" +
+            members.listed() + "        }\n    };\n};\nusing " + name + " = record<" + name + "_type>;\nusing " + name +
+            "_ref = record_ref<" + name + "_type>;\n\n";
+    return text;
+}
+
+std::string enumeration_type(const Enumeration &enumeration) {
+    const std::string name = type_name(enumeration);
+    std::string text = "// " + std::string(enumeration.meaning) + "\nenum class " + name + " : std::uint32_t {\n";
+    std::string cases;
+    const std::vector<std::string> names = enumerator_names(enumeration);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string enumerator = identifier(names[i]);
+        text += "    " + enumerator + " = " + std::to_string(i) + ",\n";
+        cases += "        case " + name + "::" + enumerator + ":\n            return \"" +
+                 std::string(enumeration.enumerators[i]) + "\";\n";
+    }
+    return text + "};\n// Its name in C; empty for a value that has none, as frames may bring one.\n" +
+           "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
+           "    }\n    return {};\n}\n\n";
+}
+
+std::string message_types(const Message &message) {
+    const std::string c(message.name), name = short_name(message.name), payload(message.payload.name);
+    return "// ---- " + c + " carries one " + payload + ".\nstruct " + name + "_type {\n    using native = " + c +
+           ";\n    using payload = " + space + short_name(payload) +
+           "_type;\n    static constexpr const char *name = \"" + c +
+           "\";\n    static const std::uint8_t *luid() { return message_" + c + "_luid; }\n" +
+           constants(c + "_message_", {{"create", "create"},
+                                       {"destroy", "destroy"},
+                                       {"payload_get", payload + "_get"},
+                                       {"payload_detach", payload + "_get_detach"},
+                                       {"payload_free_and_set", payload + "_free_and_set"},
+                                       {"len", "len"},
+                                       {"marshal", "marshal"},
+                                       {"unmarshal", "unmarshal_only"},
+                                       {"print", "print"},
+                                       {"to_xml", "to_xml"},
+                                       {"from_xml", "from_xml"}}) +
+           "};\nusing " + name + " = message<" + name + "_type>;\nusing " + name + "_ref = message_ref<" + name +
+           "_type>;\n\n";
+}
+
+std::string bundle_type(const Bundle &bundle) {
+    const std::string c(bundle.name), name = short_name(bundle.name);
+    return "// ---- " + c + " admits " + std::string(bundle.message.name) + ".\nstruct " + name +
+           " {\n    using message = " + space + short_name(bundle.message.name) +
+           "_type;\n    static constexpr const char *name = \"" + c + "\";\n" +
+           constants(c + "_bundle_", {{"start", "start_message_marshal"},
+                                      {"abort", "abort_message_marshal"},
+                                      {"commit", "commit_message_marshal"}}) +
+           "};\n\n";
+}
+
+std::string visit_all(const std::string &function, const std::string &what, const std::vector<std::string> &names) {
+    std::string text = "// Calls visit with a kind<T> for each " + what +
+                       ", in the order of the schema.\n"
+                       "template <class Visit>\nvoid " +
+                       function + "(Visit &&visit) {\n";
+    for (const std::string &name : names) text += "    visit(kind<" + name + ">{});\n";
+    return text + "}\n";
+}
+
+}  // namespace
+
+std::string interface_page() {
+    std::string text =
+        "// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.\n"
+        "// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation "
+        "behaves.\n"
+        "//\n"
+        "// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
+        "// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library "
+        "alone.\n"
+        "// Generated from the schema; edit the tables there and run tools/regenerate.\n"
+        "#ifndef LUMO_UI_TARN_HPP\n#define LUMO_UI_TARN_HPP\n\n#include <lumo_ui_tarn.h>\n\n"
+        "#include <lumo_ui_tarn/interface.hpp>\n\nnamespace lumo_ui_tarn {\n\n";
+    for (const Enumeration *e : enumerations) text += enumeration_type(*e);
+    for (const Record *r : records) text += record_types(*r);
+    for (const Message *m : messages) text += message_types(*m);
+    for (const Bundle *b : bundles) text += bundle_type(*b);
+    const auto names = [](const auto &all) {
+        std::vector<std::string> list;
+        for (const auto *one : all) list.push_back(short_name(one->name));
+        return list;
+    };
+    text += "template <class T>\nstruct kind {\n    using type = T;\n};\n";
+    text += visit_all("for_each_record", "record", names(records));
+    text += visit_all("for_each_message", "message", names(messages));
+    text += visit_all("for_each_bundle", "bundle", names(bundles));
+    return text + "\n}  // namespace lumo_ui_tarn\n\n#endif\n";
+}
+
+}  // namespace tarn::generate

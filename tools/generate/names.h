@@ -1,0 +1,18 @@
+// Names that languages other than C give to what the schema names.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "schema/model.h"
+
+namespace tarn::generate {
+
+// Without the prefix that all names of the schema share.
+std::string short_name(std::string_view name);
+// Of an enumeration also without its suffix.
+std::string type_name(const schema::Enumeration &enumeration);
+// Lower case, without the words that all enumerators of the enumeration begin with.
+std::vector<std::string> enumerator_names(const schema::Enumeration &enumeration);
+
+}  // namespace tarn::generate
