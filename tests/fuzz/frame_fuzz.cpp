@@ -1,0 +1,94 @@
+// A frame of any root, read into a fresh instance or into one that holds something already.
+#include "fuzz.h"
+
+namespace {
+
+using namespace fuzz;
+
+constexpr unsigned kOccupied = 4, kReuse = 5, kCleanSecond = 6;
+
+void read_record(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
+    Handle handle(choice);
+    const auto size = static_cast<std::uint32_t>(frame.size());
+    void *instance = record.create(handle, kId);
+    std::uint32_t err = 0;
+    if (choice.bit(kOccupied)) {
+        // Read twice: what an occupied instance loses belongs to the behaviour.
+        handle.allow_lost_blocks();
+        record.unmarshal(handle, kId, guarded(frame), instance, size, 0, &err);
+        err = 0;
+    }
+    record.unmarshal(handle, kId, guarded(frame), instance, size, choice.bit(kReuse) ? 1 : 0, &err);
+    mirk_clear_last_error(handle);
+    use(handle, record, instance);
+    const bridge::Marshalled written = write(handle, record, instance);
+    if (err == 0 && written.error == 0) {
+        void *again = record.create(handle, kId);
+        std::uint32_t error = 0;
+        record.unmarshal(handle, kId, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()),
+                         0, &error);
+        if (error == 0) {
+            require(record.compare(instance, again) == 0, "what was written reads back as it was");
+            require(record.hash(instance, 5) == record.hash(again, 5), "what is equal hashes alike");
+        }
+        std::uint32_t assigned = 0;
+        void *third = record.create(handle, kId);
+        if (third != nullptr) record.set(handle, kId, third, again, &assigned);
+        if (third != nullptr) record.destroy(handle, kId, third);
+        if (again != nullptr) record.destroy(handle, kId, again);
+    }
+    void *copy = record.clone_cr(handle, instance);
+    if (copy != nullptr) {
+        use(handle, record, copy, 256);
+        record.destroy(handle, kId, copy);
+    }
+    mirk_clear_last_error(handle);
+    std::uint32_t word = 0;
+    record.type_type_backpropagate(handle, kId, instance, &word);
+    bridge::extract(handle, record, instance);
+    record.destroy(handle, kId, instance);
+}
+
+void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration,
+                      std::span<const std::uint8_t> frame) {
+    const Handle handle(choice);
+    void *instance = enumeration.create(handle, kId);
+    std::uint32_t err = 0;
+    enumeration.unmarshal(handle, kId, guarded(frame), instance, static_cast<std::uint32_t>(frame.size()),
+                          choice.bit(kReuse) ? 1 : 0, &err);
+    use(handle, enumeration, instance);
+    enumeration.destroy(handle, kId, instance);
+}
+
+void read_message(const Choice &choice, const MessageOperations &message, std::span<const std::uint8_t> frame) {
+    Handle handle(choice);
+    const auto size = static_cast<std::uint32_t>(frame.size());
+    void *object = nullptr;
+    std::uint32_t err = 0;
+    message.unmarshal_only(handle, kId, &object, guarded(frame), size, &err);
+    if (object != nullptr) {
+        use(handle, message, object);
+        message.destroy(handle, kId, object);
+    }
+    if (!choice.bit(kCleanSecond)) return;
+    // The operation that delivers keeps what a bad frame left.
+    err = 0;
+    handle.allow_lost_blocks();
+    static const mirk_message_handler end = [](mirk_handle *h, std::uint32_t ctx_id, void *context, void *received,
+                                               std::uint32_t *) {
+        static_cast<const MessageOperations *>(context)->destroy(h, ctx_id, received);
+    };
+    message.unmarshal(handle, kId, const_cast<MessageOperations *>(&message), nullptr, guarded(frame), size, end, &err);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    Input input(data, size);
+    const Root root = fuzz::root(input.u8());
+    const Choice choice(input.u8());
+    if (root.record != nullptr) read_record(choice, *root.record, input.rest());
+    if (root.enumeration != nullptr) read_enumeration(choice, *root.enumeration, input.rest());
+    if (root.message != nullptr) read_message(choice, *root.message, input.rest());
+    return 0;
+}

@@ -1,0 +1,150 @@
+#include "fuzz.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace fuzz {
+
+namespace {
+
+// Low enough that a count from an input costs little, high enough for what the seeds hold.
+constexpr std::uint64_t kRequestCeiling = 12 << 10, kTotalCeiling = 48 << 10;
+constexpr std::size_t kMostBytes = std::size_t{1} << 21;
+
+template <class Number>
+Number number(Input &input) {
+    Number value = 0;
+    for (std::size_t i = 0; i < sizeof value; ++i) value = static_cast<Number>(value << 8 | input.u8());
+    return value;
+}
+
+bridge::GuardedMemory &output() {
+    static bridge::GuardedMemory memory(kMostBytes);
+    return memory;
+}
+
+}  // namespace
+
+void require(bool holds, const char *words) {
+    if (holds) return;
+    std::fprintf(stderr, "required: %s\n", words);
+    std::abort();
+}
+
+std::uint8_t Input::u8() {
+    if (rest_.empty()) return 0;
+    const std::uint8_t byte = rest_.front();
+    rest_ = rest_.subspan(1);
+    return byte;
+}
+std::uint16_t Input::u16() { return static_cast<std::uint16_t>(u8() << 8 | u8()); }
+std::uint32_t Input::u32() { return number<std::uint32_t>(*this); }
+std::uint64_t Input::u64() { return number<std::uint64_t>(*this); }
+
+std::span<const std::uint8_t> Input::take(std::size_t size) {
+    const auto taken = rest_.first(std::min(size, rest_.size()));
+    rest_ = rest_.subspan(taken.size());
+    return taken;
+}
+
+bridge::Tracking Choice::tracking() const {
+    return (byte_ & 3) == 0 ? bridge::Tracking::none : (byte_ & 3) == 1 ? bridge::Tracking::off : bridge::Tracking::on;
+}
+
+Handle::Handle(const Choice &choice) : tracks_(choice.tracking() == bridge::Tracking::on) {
+    mirk_platform_trace_set_levels(1);
+    mirk_platform_handle_options options;
+    mirk_platform_handle_options_init(&options);
+    options.tracking = tracks_                                      ? MIRK_PLATFORM_TRACKING_ON
+                       : choice.tracking() == bridge::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
+                                                                    : MIRK_PLATFORM_TRACKING_NONE;
+    options.private_types = choice.bit(2);
+    options.epoch_policy = choice.bit(3) ? MIRK_PLATFORM_LENIENT_43 : MIRK_PLATFORM_STRICT;
+    options.request_ceiling = kRequestCeiling;
+    options.total_ceiling = kTotalCeiling;
+    handle_ = mirk_platform_handle_open(&options);
+    mirk_platform_testing_set_fresh_fill(handle_, 0xDB);
+}
+
+Handle::~Handle() {
+    const std::size_t left = mirk_platform_handle_close(handle_);
+    require(any_loss_ || left == 0, "nothing is left on the handle");
+}
+
+Root root(std::uint8_t number) {
+    std::size_t at = number % roots();
+    if (at < tarn::reflect::records().size()) return {.record = &tarn::reflect::records()[at]};
+    at -= tarn::reflect::records().size();
+    if (at < tarn::reflect::enumerations().size()) return {.enumeration = &tarn::reflect::enumerations()[at]};
+    return {.message = &tarn::reflect::messages()[at - tarn::reflect::enumerations().size()]};
+}
+
+std::size_t roots() {
+    return tarn::reflect::records().size() + tarn::reflect::enumerations().size() + tarn::reflect::messages().size();
+}
+
+std::uint8_t *guarded(std::span<const std::uint8_t> bytes) {
+    static bridge::GuardedMemory memory(kMostBytes);
+    return memory.put(bytes.data(), std::min(bytes.size(), kMostBytes));
+}
+
+void use(mirk_handle *h, const RecordOperations &record, void *instance, std::uint32_t size) {
+    std::uint8_t *buffer = output().room(size);
+    char *text = reinterpret_cast<char *>(buffer);
+    const auto room = static_cast<std::int32_t>(size);
+    std::uint32_t err = 0;
+    record.print(h, kId, text, 0, "instance", instance, room, &err);
+    err = 0;
+    record.to_xml(h, kId, "instance", text, instance, room, 0, &err);
+    err = 0;
+    record.marshal(h, kId, buffer, instance, room, &err);
+    record.len(h, kId, instance);
+    require(record.compare(instance, instance) == 0, "an instance equals itself");
+    record.hash(instance, 0);
+    mirk_clear_last_error(h);
+}
+
+void use(mirk_handle *h, const EnumerationOperations &enumeration, void *instance, std::uint32_t size) {
+    std::uint8_t *buffer = output().room(size);
+    char *text = reinterpret_cast<char *>(buffer);
+    const auto room = static_cast<std::int32_t>(size);
+    std::uint32_t err = 0;
+    enumeration.print(h, kId, text, 0, "instance", instance, room, &err);
+    err = 0;
+    enumeration.to_xml(h, kId, "instance", text, instance, room, 0, &err);
+    err = 0;
+    enumeration.marshal(h, kId, buffer, instance, room, &err);
+    require(enumeration.compare(instance, instance) == 0, "an instance equals itself");
+    enumeration.hash(instance, 0);
+    mirk_clear_last_error(h);
+}
+
+void use(mirk_handle *h, const MessageOperations &message, void *object, std::uint32_t size) {
+    std::uint8_t *buffer = output().room(size);
+    char *text = reinterpret_cast<char *>(buffer);
+    std::uint32_t err = 0;
+    message.print(h, kId, text, object, size, &err);
+    err = 0;
+    message.to_xml(h, kId, text, object, size, &err);
+    err = 0;
+    message.marshal(h, kId, buffer, object, size, &err);
+    message.len(h, kId, object);
+    mirk_clear_last_error(h);
+}
+
+bridge::Marshalled write(mirk_handle *h, const RecordOperations &record, void *instance) {
+    // What an instance holds came from an arena of this size, and no part of it takes more than four bytes for one.
+    constexpr std::size_t room = 4 * kTotalCeiling;
+    static_assert(room < kMostBytes);
+    std::uint8_t *buffer = output().room(room);
+    bridge::Marshalled result;
+    const std::uint32_t written =
+        record.marshal(h, kId, buffer, instance, static_cast<std::int32_t>(room), &result.error);
+    require(written <= room, "no more is written than there is room");
+    result.bytes.assign(buffer, buffer + written);
+    mirk_clear_last_error(h);
+    return result;
+}
+
+}  // namespace fuzz

@@ -1,0 +1,203 @@
+// Writes the seed corpora and the dictionaries, from the schema and the tests' own codec: fuzz_seeds FOLDER. With
+// --check in front it compares them to what the folder holds instead.
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <random>
+#include <string>
+
+#include "fuzz.h"
+#include "reference/text.h"
+#include "tools/tarn/items.h"
+#include "tools/tarn/output.h"
+
+namespace {
+
+using reference::Bytes;
+using reference::Record;
+
+// Path below the folder, and content.
+std::map<std::string, std::string> files;
+
+constexpr std::uint8_t kPlain = 0, kTracked = 2;
+
+std::string head(std::initializer_list<std::size_t> bytes) {
+    std::string text;
+    for (const std::size_t byte : bytes) text += static_cast<char>(byte);
+    return text;
+}
+std::string text_of(const Bytes &bytes) { return {bytes.begin(), bytes.end()}; }
+std::string form(bool tracked) { return tracked ? "-tracked" : "-plain"; }
+std::size_t choice(bool tracked) { return tracked ? kTracked : kPlain; }
+
+Record value_of(std::string_view type, bool printable = false) {
+    constexpr std::size_t small = 300;
+    for (const std::uint32_t elements : {2U, 1U}) {
+        const Record value = reference::Generator(3, {.min_elements = elements,
+                                                      .max_elements = elements,
+                                                      .min_text = 1,
+                                                      .max_text = 5,
+                                                      .printable = printable})
+                                 .make(type);
+        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
+    }
+    std::abort();
+}
+
+void records() {
+    std::size_t root = 0;
+    for (const reference::RecordTable &table : reference::records()) {
+        const Record value = value_of(table.name);
+        for (const bool tracked : {false, true}) {
+            const std::string frame = text_of(reference::encode(value, tracked));
+            files["frame/" + table.name + form(tracked)] = head({root, choice(tracked)}) + frame;
+            if (tracked) files["differential/" + table.name] = head({root, kTracked}) + frame;
+            if (tracked && bridge::owns_blocks(table)) {
+                files["allocation/" + table.name] = head({kTracked, root, 2}) + frame;
+            }
+        }
+        const std::string document = reference::to_xml(value_of(table.name, true), table.name, false);
+        files["xml/" + table.name] = head({root, kTracked}) + document;
+        if (bridge::owns_blocks(table)) {
+            files["allocation/" + table.name + "-document"] = head({0x80, root, 1}) + document;
+        }
+        if (root % 4 == 0) files["differential/generated-" + table.name] = head({root, 0x32, root, 5, root, 9, 3, 9});
+        ++root;
+    }
+    for (const reference::EnumerationTable &table : reference::enumerations()) {
+        files["frame/" + table.name] = head({root, kPlain, 0, 0, 0, 0, 1});
+        files["xml/" + table.name] =
+            head({root, kPlain}) + "<" + table.name + "><" + table.enumerators.back() + "/></" + table.name + ">";
+        ++root;
+    }
+    for (const reference::MessageTable &table : reference::messages()) {
+        const Record value = value_of(table.payload);
+        for (const bool tracked : {false, true}) {
+            files["frame/" + table.name + form(tracked)] =
+                head({root, choice(tracked)}) + text_of(reference::message_frame(table.name, value, tracked, 7));
+        }
+        files["xml/" + table.name] =
+            head({root, kPlain}) + reference::message_to_xml(table.name, value_of(table.payload, true), false);
+        ++root;
+    }
+}
+
+void bundles() {
+    bool tracked = false;
+    for (const reference::BundleTable &table : reference::bundles()) {
+        tracked = !tracked;
+        const std::string payload = reference::message_table(table.message).payload;
+        const std::string message = text_of(reference::message_frame(table.message, value_of(payload), tracked, 7));
+        const auto control = [&](const char *kind) { return text_of(reference::control_frame(table.name, kind, 7)); };
+        files["bundle/" + table.name] =
+            head({choice(tracked)}) + control("start") + message + message + control("commit");
+        files["bundle/" + table.name + "-recorded"] =
+            head({choice(tracked) | 0x90}) + message + control("start") + message + control("abort");
+        files["tool/" + table.name + "-frames"] = head({0x08}) + control("start") + message + control("commit");
+    }
+}
+
+void tool() {
+    using namespace tarn::tool;
+    set_up_trace(false);
+    for (const reference::MessageTable &table : reference::messages()) {
+        const std::string frame = text_of(reference::message_frame(table.name, value_of(table.payload, true), true, 7));
+        const Handles handles(tarn::tool::Tracking::as_given);
+        const std::vector<Item> items = items_of(handles, frame, "seed", false);
+        files["tool/" + table.name + "-json"] = head({0}) + rendered(items.at(0), Style::json);
+        files["tool/" + table.name + "-recording"] = head({0}) + "<bundle_start name=\"" + table.bundles.at(0) +
+                                                     "\"></bundle_start>\n" + rendered(items.at(0), Style::xml) +
+                                                     rendered(items.at(0), Style::xml);
+    }
+}
+
+void calls() {
+    std::mt19937 random(5);
+    for (int i = 0; i < 12; ++i) {
+        std::string bytes;
+        for (int k = 0; k < 240; ++k) bytes += static_cast<char>(random() & 0x7F);
+        const auto number = std::to_string(i);
+        files["calls/" + number] = head({choice(i % 2 == 0)}) + bytes;
+        files["allocation/calls-" + number] = head({choice(i % 2 == 0) | 0x20U}) + bytes;
+    }
+}
+
+// What a fuzzer does not find by itself: identities and names.
+void dictionaries() {
+    std::string identities, names;
+    const auto add_identity = [&](const std::uint8_t *luid) {
+        identities += '"';
+        for (int i = 0; i < 16; ++i) {
+            char hex[8];
+            std::snprintf(hex, sizeof hex, "\\x%02x", luid[i]);
+            identities += hex;
+        }
+        identities += "\"\n";
+    };
+    const auto add_name = [&](const std::string &name) { names += '"' + name + "\"\n"; };
+    for (const auto &m : tarn::reflect::messages()) add_identity(m.luid);
+    for (const auto &b : tarn::reflect::bundles()) {
+        for (const auto *m : {&b.start, &b.abort, &b.commit}) add_identity(m->luid);
+    }
+    std::map<std::string, int> unique;
+    for (const auto &table : reference::records()) {
+        unique[table.name];
+        for (const auto &member : table.members) unique[member.name];
+    }
+    for (const auto &table : reference::enumerations()) {
+        for (const auto &enumerator : table.enumerators) unique[enumerator];
+    }
+    for (const auto &table : reference::messages()) unique[table.name];
+    for (const auto &[name, unused] : unique) add_name(name);
+    for (const char *words :
+         {"<!DOCTYPE", "<!ENTITY", "<![CDATA[", "]]>", "<!--", "-->", "<?xml version='1.0' encoding='", "&#x0;",
+          "&amp;", "@state", "@variant", "@ra", "@members", "bytes", "tracked", "payload", "bundle_start", "control"}) {
+        add_name(words);
+    }
+    files["bundle.dict"] = files["frame.dict"] = identities;
+    files["xml.dict"] = names;
+    files["tool.dict"] = names + identities;
+    files["allocation.dict"] = names;
+}
+
+std::string content_of(const std::filesystem::path &path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+int check(const std::filesystem::path &folder) {
+    int wrong = 0;
+    const auto complain = [&](const std::string &path, const char *how) {
+        std::fprintf(stderr, "%s %s\n", path.c_str(), how);
+        ++wrong;
+    };
+    for (const auto &[path, content] : files) {
+        if (content_of(folder / path) != content) complain(path, "is not as it would be written today");
+    }
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
+        const std::string path = std::filesystem::relative(entry.path(), folder).string();
+        if (entry.is_regular_file() && !files.contains(path)) complain(path, "would not be written any more");
+    }
+    return wrong == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    records();
+    bundles();
+    tool();
+    calls();
+    dictionaries();
+    if (argc == 3 && std::string(argv[1]) == "--check") return check(argv[2]);
+    if (argc != 2) return 2;
+    const std::filesystem::path folder = argv[1];
+    for (const auto &[path, content] : files) {
+        std::filesystem::create_directories((folder / path).parent_path());
+        std::ofstream(folder / path, std::ios::binary) << content;
+    }
+    return 0;
+}

@@ -1,0 +1,91 @@
+// What the command-line tool reads: frames, JSON, XML and recordings, each told apart by its first byte; and what it
+// shows of broken frames.
+#include <nlohmann/json.hpp>
+
+#include "fuzz.h"
+#include "tools/tarn/dissection.h"
+#include "tools/tarn/failure.h"
+#include "tools/tarn/items.h"
+#include "tools/tarn/json_form.h"
+#include "tools/tarn/output.h"
+#include "tools/tarn/reception.h"
+#include "tools/tarn/xml_check.h"
+
+namespace {
+
+using namespace tarn::tool;
+using fuzz::require;
+
+constexpr unsigned kLenient = 0, kTracking = 1, kFalls = 3;
+
+void read(std::string_view content, const fuzz::Choice &choice) {
+    const Handles handles(choice.bit(kTracking)       ? Tracking::on
+                          : choice.bit(kTracking + 1) ? Tracking::off
+                                                      : Tracking::as_given);
+    const std::vector<Item> items = items_of(handles, content, "input", choice.bit(kLenient));
+    std::string all;
+    for (const Item &item : items) {
+        rendered(item, Style::text);
+        rendered(item, Style::xml);
+        all += rendered(item, Style::json);
+    }
+    // What it writes, it reads to the same.
+    if (items.empty()) return;
+    std::string again;
+    for (const Item &item : from_json(handles, all, "output", false)) again += rendered(item, Style::json);
+    require(all == again, "JSON that was written reads back as it was");
+}
+
+void take_apart(std::string_view content) {
+    const FrameBytes all = bytes_of(content);
+    for (std::size_t offset = 0; offset < all.size();) {
+        const Dissection dissection = dissect_frame(all.subspan(offset), offset);
+        std::size_t at = offset;
+        for (const Piece &piece : dissection.pieces) {
+            require(piece.offset == at, "pieces stand side by side");
+            at += piece.size;
+            require(at <= all.size(), "pieces stand inside the frame");
+        }
+        if (dissection.broken) {
+            sentence_of(*dissection.broken);
+            return;
+        }
+        require(dissection.size != 0, "a whole frame has a size");
+        offset += dissection.size;
+    }
+}
+
+void deliver(std::string_view content, bool tracked) {
+    Reception reception(tracked, Via::handle);
+    for (const Frame &frame : split_frames(bytes_of(content), "input")) {
+        reception.feed(frame, "input");
+        for (const Item &item : reception.take()) rendered(item, Style::json);
+    }
+}
+
+template <class Call>
+void try_it(Call &&call) {
+    try {
+        call();
+    } catch (const Failure &failure) {
+        require(failure.what()[0] != 0, "a failure has a sentence");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
+    require(set_up, "the trace is set up");
+    fuzz::Input input(data, size);
+    const fuzz::Choice choice(input.u8());
+    const auto bytes = input.rest();
+    const std::string content(bytes.begin(), bytes.end());
+    try_it([&] { read(content, choice); });
+    if (!choice.bit(kFalls)) return 0;
+    try_it([&] { take_apart(content); });
+    try_it([&] { deliver(content, choice.bit(kTracking)); });
+    hex_dump(content);
+    is_address(content);
+    return 0;
+}

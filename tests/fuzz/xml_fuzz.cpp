@@ -1,0 +1,90 @@
+// A document, read as any root.
+#include <string>
+
+#include "fuzz.h"
+
+namespace {
+
+using namespace fuzz;
+
+constexpr unsigned kOccupied = 4;
+
+void read_record(const Choice &choice, const RecordOperations &record, void *document) {
+    Handle handle(choice);
+    void *instance = record.create(handle, kId);
+    const std::string path = "/" + std::string(record.record->name);
+    char words[64];
+    std::uint32_t err = 0;
+    record.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
+    if (choice.bit(kOccupied)) {
+        // Elements of the first reading are moved and cleared by the second.
+        handle.allow_lost_blocks();
+        err = 0;
+        record.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
+    }
+    mirk_clear_last_error(handle);
+    use(handle, record, instance);
+    const bridge::Marshalled written = write(handle, record, instance);
+    if (err == 0 && written.error == 0) {
+        void *again = record.create(handle, kId);
+        std::uint32_t error = 0;
+        record.unmarshal(handle, kId, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()),
+                         0, &error);
+        require(error != 0 || record.compare(instance, again) == 0, "what was read from a document travels in a frame");
+        record.destroy(handle, kId, again);
+    }
+    record.destroy(handle, kId, instance);
+}
+
+void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration, void *document) {
+    const Handle handle(choice);
+    void *instance = enumeration.create(handle, kId);
+    const std::string path = "/" + std::string(enumeration.enumeration->name);
+    char words[64];
+    std::uint32_t err = 0;
+    enumeration.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
+    const std::uint32_t value = enumeration.get_value(handle, kId, instance, &handle->last_error);
+    require(value < enumeration.enumeration->enumerators.size(), "a document names enumerators that there are");
+    use(handle, enumeration, instance);
+    enumeration.destroy(handle, kId, instance);
+}
+
+void read_message(const Choice &choice, const MessageOperations &message, void *document) {
+    Handle handle(choice);
+    char words[64];
+    std::uint32_t err = 0;
+    void *object = message.from_xml(handle, kId, document, &err, words, sizeof words);
+    if (object == nullptr) {
+        // A failed reading keeps the message.
+        handle.allow_lost_blocks();
+        return;
+    }
+    use(handle, message, object);
+    message.destroy(handle, kId, object);
+}
+
+// Whether "<!DOCTYPE" stands in a text that has no other place for it than markup.
+bool declares_a_type(std::span<const std::uint8_t> bytes) {
+    const std::string_view text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+    const auto holds = [&](const char *words) { return text.find(words) != std::string_view::npos; };
+    return holds("<!DOCTYPE") && !holds("<!--") && !holds("<![CDATA[") && !holds("<?");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    Input input(data, size);
+    const Root root = fuzz::root(input.u8());
+    const Choice choice(input.u8());
+    const auto text = input.rest();
+    mirk_platform_report report;
+    void *document = mirk_platform_document_load_memory(text.data(), text.size(), &report);
+    require((document == nullptr) == (report.number != 0), "a document that is refused says why");
+    if (document == nullptr) return 0;
+    require(!declares_a_type(text), "a document type is refused");
+    if (root.record != nullptr) read_record(choice, *root.record, document);
+    if (root.enumeration != nullptr) read_enumeration(choice, *root.enumeration, document);
+    if (root.message != nullptr) read_message(choice, *root.message, document);
+    mirk_platform_document_free(document);
+    return 0;
+}

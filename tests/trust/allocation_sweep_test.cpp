@@ -1,0 +1,197 @@
+// Each request for memory of each exported operation is refused in turn, once and from then on.
+#include <cerrno>
+#include <set>
+
+#include "imports.h"
+#include "sweep.h"
+
+namespace {
+
+using namespace trust;
+
+TEST(AllocationSweep, KnowsEveryExportedFunction) {
+    std::string unknown;
+    for (const Operation &o : operations()) {
+        if (o.driver == nullptr) unknown += "\n  " + o.name;
+    }
+    EXPECT_EQ(unknown, "") << "no driver in tests/trust/drivers.cpp for these";
+}
+
+TEST(AllocationSweep, HasNoDriverWithoutAnExport) {
+    std::set<const Driver *> used;
+    for (const Operation &o : operations()) used.insert(o.driver);
+    for (const Driver &d : drivers()) EXPECT_TRUE(used.contains(&d)) << d.of << ' ' << d.suffix;
+}
+
+constexpr mirk_platform_testing_allocator kAllocators[] = {
+    MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
+    MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
+
+class EachOperation : public testing::TestWithParam<const Driver *> {
+protected:
+    void SetUp() override { mirk_platform_trace_set_levels(1); }
+
+    struct Outcome {
+        std::uint64_t requests[4] = {};
+        std::uint32_t err = 0, last_error = 0;
+        std::uint64_t result = 0;
+        bool made = false;
+    };
+
+    static Outcome run(const Operation &operation, const bridge::Options &options, const Failure *failure,
+                       bool tells_of_it) {
+        Scene scene(operation.subject, options);
+        scene.begin_call();
+        if (failure != nullptr) scene.fail(*failure);
+        operation.driver->call(scene);
+        scene.end_call();
+        Outcome outcome{
+            .err = scene.err, .last_error = scene.last_error, .result = scene.result, .made = scene.made != nullptr};
+        for (const auto allocator : kAllocators) outcome.requests[allocator] = scene.requests(allocator);
+        if (tells_of_it) operation.driver->judge(scene, *failure);
+        scene.clean_up();
+        return outcome;
+    }
+};
+
+TEST_P(EachOperation, SurvivesEachFailure) {
+    const Driver &driver = *GetParam();
+    const std::string suffix = driver.suffix;
+    const bool makes_types =
+        suffix.starts_with("create") || suffix == "unmarshal_only" || suffix.ends_with("typeinfo_initialize");
+    std::uint64_t swept = 0, refused = 0;
+    for (const Operation &operation : operations()) {
+        if (operation.driver != &driver) continue;
+        SCOPED_TRACE(operation.name);
+        for (const bridge::Tracking tracking : bridge::kEveryTracking) {
+            for (const bool private_types : {false, true}) {
+                if (private_types && !makes_types) continue;
+                SCOPED_TRACE(std::string(bridge::name_of(tracking)) + (private_types ? ", types of its own" : ""));
+                const bridge::Options options{.tracking = tracking, .private_types = private_types};
+                const Outcome calm = run(operation, options, nullptr, false);
+                ++swept;
+                for (const auto allocator : kAllocators) {
+                    if (driver.judge == nullptr) {
+                        EXPECT_EQ(calm.requests[allocator], 0U)
+                            << "asks for memory, and its driver tells nothing of it";
+                    }
+                    for (std::uint64_t nth = 1; nth <= calm.requests[allocator]; ++nth) {
+                        for (const bool onwards : {false, true}) {
+                            const Failure failure{allocator, nth, onwards};
+                            std::ostringstream words;
+                            words << failure;
+                            SCOPED_TRACE(words.str());
+                            const bool of_blocks = allocator == MIRK_PLATFORM_TESTING_OBJ_ALLOC;
+                            const bool judged =
+                                driver.judge != nullptr && (of_blocks || suffix.ends_with("_initialize"));
+                            const Outcome outcome = run(operation, options, &failure, judged);
+                            ++refused;
+                            if (judged) continue;
+                            // Without a type record of its own the handle goes on with the module's; the handle says
+                            // so if it was the library that wanted to make it.
+                            EXPECT_EQ(outcome.err, calm.err);
+                            EXPECT_TRUE(outcome.last_error == calm.last_error || outcome.last_error == ENOMEM);
+                            EXPECT_EQ(outcome.made, calm.made);
+                        }
+                    }
+                }
+                if (HasFailure()) return;
+            }
+        }
+    }
+    EXPECT_GT(swept, 0U);
+    if (driver.judge != nullptr) {
+        EXPECT_GT(refused, 0U) << "nothing was refused";
+    }
+    RecordProperty("operations", static_cast<int>(swept));
+    RecordProperty("refused", static_cast<int>(refused));
+}
+
+std::string name_of(const testing::TestParamInfo<const Driver *> &info) {
+    std::string name = std::string(info.param->of) + "_" + info.param->suffix;
+    std::replace(name.begin(), name.end(), ' ', '_');
+    return name;
+}
+std::vector<const Driver *> each_driver() {
+    std::vector<const Driver *> all;
+    for (const Driver &d : drivers()) all.push_back(&d);
+    return all;
+}
+INSTANTIATE_TEST_SUITE_P(Exports, EachOperation, testing::ValuesIn(each_driver()), name_of);
+
+// ---- memory that no handle gives
+
+using RecorderDeathTest = testing::TestWithParam<const MessageOperations *>;
+
+// A recording asked for and silently missing would be worse.
+TEST_P(RecorderDeathTest, WithoutABufferTheProcessEnds) {
+    const MessageOperations &m = *GetParam();
+    EXPECT_EXIT(
+        {
+            Scene scene({.message = &m}, {});
+            mirk_platform_recorder_set(1, stderr);
+            mirk_platform_testing_fail_allocation(nullptr, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC, 1, 0);
+            void *out = nullptr;
+            m.unmarshal(scene.h, kId, nullptr, &out, scene.frame.data(),
+                        static_cast<std::uint32_t>(scene.frame.size() - 1), nullptr, scene.error());
+        },
+        testing::KilledBySignal(SIGABRT), "\\(FATAL\\): MIRK record - malloc failed");
+}
+std::vector<const MessageOperations *> each_message() {
+    std::vector<const MessageOperations *> all;
+    for (const MessageOperations &m : tarn::reflect::messages()) all.push_back(&m);
+    return all;
+}
+INSTANTIATE_TEST_SUITE_P(EveryMessage, RecorderDeathTest, testing::ValuesIn(each_message()),
+                         [](const auto &info) { return std::string(info.param->name); });
+
+void *no_memory(std::size_t) { return nullptr; }
+
+// More references than a few are listed in memory of the process. Without it the destruction stops where it is, as when
+// the references cannot be read.
+TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
+    const RecordOperations *holder = nullptr;
+    std::size_t index = 0;
+    for (const RecordOperations &r : tarn::reflect::records()) {
+        for (std::size_t i = 0; i < r.members.size() && holder == nullptr; ++i) {
+            if (r.members[i].member->kind != tarn::schema::Kind::address) continue;
+            holder = &r;
+            index = i;
+        }
+    }
+    ASSERT_NE(holder, nullptr);
+    Scene scene({.record = holder}, {});
+    auto *address = static_cast<ip_address *>(holder->members[index].get(scene.h, kId, scene.object, scene.error()));
+    std::vector<void *> oids(100);
+    std::vector<std::vector<std::uint64_t>> targets(oids.size(), std::vector<std::uint64_t>(8));
+    for (std::size_t i = 0; i < oids.size(); ++i) {
+        ASSERT_EQ(mirk_platform_oid_mapping_make(scene.h, targets[i].data(), 1, nullptr, &oids[i]), 0U);
+    }
+    ASSERT_EQ(mirk_platform_address_set_oids(scene.h, address, oids.data(), static_cast<std::uint32_t>(oids.size())),
+              0U);
+    {
+        const Import import("liblumo_ui_tarn", "malloc", reinterpret_cast<void *>(&no_memory));
+        ASSERT_TRUE(import.found());
+        mirk_platform_testing_capture_start();
+        holder->destroy(scene.h, kId, scene.object);
+        mirk_platform_testing_capture_stop();
+    }
+    EXPECT_TRUE(scene.is_live(scene.object));
+    ASSERT_EQ(mirk_platform_testing_captured(), 1U);
+    EXPECT_NE(std::string(mirk_platform_testing_captured_line(0, nullptr, nullptr))
+                  .find(" destroy: Failed to get oid references from object. Error Cannot allocate memory"),
+              std::string::npos);
+    std::uint32_t left = 0;
+    EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[0], &left, nullptr), 0U);
+    EXPECT_EQ(left, 1U);
+
+    // With memory it goes through.
+    holder->destroy(scene.h, kId, scene.object);
+    EXPECT_FALSE(scene.is_live(scene.object));
+    EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[99], &left, nullptr), 0U);
+    EXPECT_EQ(left, 0U);
+    scene.object = nullptr;
+    scene.clean_up();
+}
+
+}  // namespace

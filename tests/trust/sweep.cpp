@@ -1,0 +1,243 @@
+#include "sweep.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+
+#include "reference/codec.h"
+#include "reference/text.h"
+
+namespace trust {
+
+namespace {
+
+constexpr mirk_platform_testing_allocator kAllocators[] = {
+    MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
+    MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
+
+// No array and no string is empty, and arrays have old elements to keep.
+reference::Record rich(std::string_view type, bool printable = false) {
+    constexpr std::size_t small = 300;
+    for (const std::uint32_t elements : {2U, 1U}) {
+        const reference::Record value = reference::Generator(11, {.min_elements = elements,
+                                                                  .max_elements = elements,
+                                                                  .min_text = 1,
+                                                                  .max_text = 5,
+                                                                  .printable = printable})
+                                            .make(type);
+        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
+    }
+    std::abort();
+}
+
+// The same values serve every scene.
+const reference::Record &value_of(const RecordOperations &record) {
+    static std::map<const RecordOperations *, reference::Record> all;
+    auto [at, fresh] = all.try_emplace(&record);
+    if (fresh) at->second = rich(record.record->name);
+    return at->second;
+}
+
+struct DocumentEnd {
+    void operator()(void *document) const { mirk_platform_document_free(document); }
+};
+
+void *document_of(const std::string &name, const std::function<std::string()> &text) {
+    static std::map<std::string, std::unique_ptr<void, DocumentEnd>> all;
+    auto &document = all[name];
+    if (document == nullptr) {
+        const std::string content = text();
+        document.reset(mirk_platform_document_load_memory(content.data(), content.size(), nullptr));
+    }
+    return document.get();
+}
+
+void *filled(mirk_handle *h, const RecordOperations &record) {
+    void *instance = record.create(h, kId);
+    bridge::fill(h, record, instance, value_of(record));
+    return instance;
+}
+
+}  // namespace
+
+std::ostream &operator<<(std::ostream &out, const Failure &failure) {
+    constexpr const char *names[] = {"obj_alloc", "sys_alloc", "mirklib_malloc", "variant block"};
+    return out << names[failure.allocator] << ' ' << failure.nth << (failure.onwards ? " onwards" : "");
+}
+
+Scene::Scene(const Subject &s, const bridge::Options &options)
+    : subject(s), tracks(options.tracking == bridge::Tracking::on), buffer(room) {
+    mirk_platform_handle_options o;
+    mirk_platform_handle_options_init(&o);
+    o.tracking = options.tracking == bridge::Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
+                 : options.tracking == bridge::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
+                                                             : MIRK_PLATFORM_TRACKING_ON;
+    o.private_types = options.private_types;
+    h = mirk_platform_handle_open(&o);
+    mirk_platform_testing_set_fresh_fill(h, 0xA5);
+    // Private types are made by the first that asks, which is to be the call itself.
+    const bool empty = options.private_types;
+    if (subject.record != nullptr) {
+        const RecordOperations &r = *subject.record;
+        if (!empty) {
+            object = filled(h, r);
+            other = r.create(h, kId);
+        }
+        if (!empty && subject.member != nullptr && subject.member->element_set != nullptr) {
+            element = filled(h, tarn::reflect::operations_of(*subject.member->member->record));
+        }
+        if (subject.member == nullptr) {
+            frame = reference::encode(value_of(r), tracks);
+            document = document_of(std::string(r.record->name), [&] {
+                return reference::to_xml(rich(r.record->name, true), r.record->name, false);
+            });
+        }
+    } else if (subject.enumeration != nullptr) {
+        if (!empty) {
+            object = subject.enumeration->create(h, kId);
+            other = subject.enumeration->create(h, kId);
+        }
+        const std::string name(subject.enumeration->enumeration->name);
+        document = document_of(name, [&] { return "<" + name + "/>"; });
+        frame = {0, 0, 0, 0, 0};
+    } else if (subject.message != nullptr && subject.message->message != nullptr) {
+        const MessageOperations &m = *subject.message;
+        const RecordOperations &payload = tarn::reflect::operations_of(m.message->payload);
+        if (!empty) {
+            object = m.create(h, kId);
+            bridge::fill(h, payload, m.payload_get(h, kId, object, &err), value_of(payload));
+        }
+        frame = reference::message_frame(m.name, value_of(payload), tracks, 5);
+        document = document_of(
+            m.name, [&] { return reference::message_to_xml(m.name, rich(payload.record->name, true), false); });
+    } else if (subject.message != nullptr) {
+        object = subject.message->create(h, kId);
+        frame.assign(43, 0);
+    }
+    frame.push_back(0);
+}
+
+Scene::~Scene() { mirk_platform_handle_close(h); }
+
+void Scene::fail(const Failure &failure) {
+    mirk_platform_testing_fail_allocation(h, failure.allocator, failure.nth, failure.onwards ? 1 : 0);
+}
+
+void Scene::end_failures() {
+    for (const auto allocator : kAllocators) mirk_platform_testing_fail_allocation(h, allocator, 0, 0);
+}
+
+void Scene::begin_call() {
+    err = 0;
+    mirk_clear_last_error(h);
+    for (const auto allocator : kAllocators) {
+        before_[allocator] = mirk_platform_testing_allocations(h, allocator);
+    }
+}
+
+void Scene::end_call() {
+    last_error = h->last_error;
+    for (const auto allocator : kAllocators) {
+        requests_[allocator] = mirk_platform_testing_allocations(h, allocator) - before_[allocator];
+    }
+    end_failures();
+    mirk_clear_last_error(h);
+}
+
+std::uint64_t Scene::requests(mirk_platform_testing_allocator allocator) const { return requests_[allocator]; }
+
+bool Scene::is_live(const void *block) const {
+    std::vector<mirk_platform_block> blocks(mirk_platform_live_blocks(h));
+    mirk_platform_list_blocks(h, blocks.data(), blocks.size());
+    return std::any_of(blocks.begin(), blocks.end(), [&](const auto &b) { return b.address == block; });
+}
+
+void Scene::clean_up() {
+    if (subject.record != nullptr) {
+        for (void *instance : {object, other, made}) {
+            if (instance == nullptr) continue;
+            // Whatever state it is in, it can be looked at and ended.
+            const RecordOperations &r = *subject.record;
+            std::uint32_t error = 0;
+            r.print(h, kId, text(), 0, "o", instance, size(), &error);
+            error = 0;
+            r.marshal(h, kId, text(), instance, size(), &error);
+            r.hash(instance, 1);
+            EXPECT_EQ(r.compare(instance, instance), 0);
+            mirk_clear_last_error(h);
+            r.destroy(h, kId, instance);
+        }
+        if (element != nullptr) {
+            tarn::reflect::operations_of(*subject.member->member->record).destroy(h, kId, element);
+        }
+    } else if (subject.enumeration != nullptr) {
+        for (void *instance : {object, other, made}) subject.enumeration->destroy(h, kId, instance);
+    } else if (subject.message != nullptr) {
+        for (void *message : {object, made}) {
+            if (message != nullptr) subject.message->destroy(h, kId, message);
+        }
+    }
+    if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, kId, &err);
+    object = other = made = element = nullptr;
+    EXPECT_LE(mirk_platform_live_blocks(h), may_lose) << "blocks are left";
+    // What is left behind keeps its entries in the runtime.
+    if (may_lose == 0) {
+        EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
+    }
+}
+
+const std::vector<Operation> &operations() {
+    static const std::vector<Operation> all = [] {
+        std::map<std::string, std::pair<Subject, const Driver *>> known;
+        const auto know = [&](const std::string &name, const Subject &subject, const Driver &driver) {
+            known[name] = {subject, &driver};
+        };
+        for (const Driver &d : drivers()) {
+            const std::string of = d.of, suffix = d.suffix;
+            for (const RecordOperations &r : tarn::reflect::records()) {
+                const std::string name(r.record->name);
+                if (of == "record") know(name + "_" + suffix, {.record = &r}, d);
+                for (const MemberOperations &m : r.members) {
+                    if (of != "member") break;
+                    know(name + "_" + std::string(m.member->name) + "_" + suffix, {.record = &r, .member = &m}, d);
+                }
+            }
+            for (const EnumerationOperations &e : tarn::reflect::enumerations()) {
+                if (of == "enumeration") know(std::string(e.enumeration->name) + "_" + suffix, {.enumeration = &e}, d);
+            }
+            for (const MessageOperations &m : tarn::reflect::messages()) {
+                const std::string name(m.name), front = name + "_message_";
+                if (of == "message") know(front + suffix, {.message = &m}, d);
+                if (of == "payload") {
+                    know(front + std::string(m.message->payload.name) + "_" + suffix, {.message = &m}, d);
+                }
+                if (of == "message handler") know("lumo_ui_tarn_" + front + suffix, {.message = &m}, d);
+            }
+            for (const BundleOperations &b : tarn::reflect::bundles()) {
+                const std::string name = std::string(b.bundle->name) + "_bundle_";
+                for (const MessageOperations *m : {&b.start, &b.abort, &b.commit}) {
+                    const std::string front = std::string(m->name) + "_message_";
+                    if (of == "control") know(front + suffix, {.message = m, .bundle = &b}, d);
+                    if (of == "control handler") {
+                        know("lumo_ui_tarn_" + front + suffix, {.message = m, .bundle = &b}, d);
+                    }
+                }
+                if (of == "bundle") know("lumo_ui_tarn_" + name + suffix, {.bundle = &b}, d);
+            }
+            if (of == "module") know(suffix, {}, d);
+        }
+        std::vector<Operation> found;
+        std::ifstream list(TARN_GOLDEN "/exports.txt");
+        for (std::string line; std::getline(list, line);) {
+            if (line.empty() || line[0] == 'D') continue;
+            const std::string name = line.substr(2);
+            const auto at = known.find(name);
+            found.push_back(at == known.end() ? Operation{name, {}, nullptr}
+                                              : Operation{name, at->second.first, at->second.second});
+        }
+        return found;
+    }();
+    return all;
+}
+
+}  // namespace trust
