@@ -1,0 +1,148 @@
+#include "damage.h"
+
+#include "reference/text.h"
+
+namespace trust {
+
+namespace {
+
+std::uint8_t *output(std::size_t size) {
+    static bridge::GuardedMemory memory(std::size_t{1} << 20);
+    return memory.room(size);
+}
+
+}  // namespace
+
+const std::vector<Root> &roots() {
+    static const std::vector<Root> all = [] {
+        std::vector<Root> list;
+        for (const auto &r : tarn::reflect::records()) {
+            list.push_back({.name = std::string(r.record->name), .record = &r});
+        }
+        for (const auto &e : tarn::reflect::enumerations()) {
+            list.push_back({.name = std::string(e.enumeration->name), .enumeration = &e});
+        }
+        for (const auto &m : tarn::reflect::messages()) list.push_back({.name = m.name, .message = &m});
+        return list;
+    }();
+    return all;
+}
+
+reference::Record rich(std::string_view type, bool printable) {
+    constexpr std::size_t small = 300;
+    for (const std::uint32_t elements : {2U, 1U}) {
+        const reference::Record value = reference::Generator(11, {.min_elements = elements,
+                                                                  .max_elements = elements,
+                                                                  .min_text = 1,
+                                                                  .max_text = 5,
+                                                                  .printable = printable})
+                                            .make(type);
+        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
+    }
+    std::abort();
+}
+
+Bytes frame_of(const Root &root, bool tracked) {
+    if (root.enumeration != nullptr) return {0, 0, 0, 0, 1};
+    const reference::Record value = rich(root.payload()->record->name);
+    return root.message != nullptr ? reference::message_frame(root.name, value, tracked, 5)
+                                   : reference::encode(value, tracked);
+}
+
+std::string document_of(const Root &root) {
+    if (root.enumeration != nullptr) {
+        const auto &table = reference::enumeration_table(root.name);
+        return "<" + root.name + "><" + table.enumerators.back() + "/></" + root.name + ">";
+    }
+    const reference::Record value = rich(root.payload()->record->name, true);
+    return root.message != nullptr ? reference::message_to_xml(root.name, value, false)
+                                   : reference::to_xml(value, root.name, false);
+}
+
+std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_types) {
+    auto handle = std::make_unique<bridge::Handle>(bridge::Options{
+        .tracking = tracking, .private_types = private_types, .request_ceiling = 16384, .total_ceiling = 131072});
+    mirk_platform_testing_set_fresh_fill(*handle, 0xDB);
+    return handle;
+}
+
+Subject::Subject(mirk_handle *h, const Root &root) : h_(h), root_(root) {
+    if (root.record != nullptr) instance_ = root.record->create(h, kId);
+    if (root.enumeration != nullptr) instance_ = root.enumeration->create(h, kId);
+}
+
+std::uint32_t Subject::read(const Bytes &frame, std::uint32_t reuse) {
+    std::uint32_t err = 0;
+    const auto size = static_cast<std::uint32_t>(frame.size());
+    std::uint8_t *bytes = guarded(frame);
+    if (root_.record != nullptr) root_.record->unmarshal(h_, kId, bytes, instance_, size, reuse, &err);
+    if (root_.enumeration != nullptr) root_.enumeration->unmarshal(h_, kId, bytes, instance_, size, reuse, &err);
+    if (root_.message != nullptr) {
+        end();
+        root_.message->unmarshal_only(h_, kId, &instance_, bytes, size, &err);
+    }
+    mirk_clear_last_error(h_);
+    return err;
+}
+
+std::uint32_t Subject::read_document(void *document) {
+    std::uint32_t err = 0;
+    char words[64];
+    const std::string path = "/" + root_.name;
+    if (root_.record != nullptr) {
+        root_.record->from_xml(h_, kId, path.c_str(), document, instance_, &err, words, sizeof words);
+    }
+    if (root_.enumeration != nullptr) {
+        root_.enumeration->from_xml(h_, kId, path.c_str(), document, instance_, &err, words, sizeof words);
+    }
+    if (root_.message != nullptr) {
+        end();
+        instance_ = root_.message->from_xml(h_, kId, document, &err, words, sizeof words);
+    }
+    mirk_clear_last_error(h_);
+    return err;
+}
+
+void Subject::use(std::int32_t size) {
+    if (instance_ == nullptr) return;
+    std::uint8_t *buffer = output(static_cast<std::size_t>(size));
+    char *text = reinterpret_cast<char *>(buffer);
+    const auto room = static_cast<std::uint32_t>(size);
+    std::uint32_t errors[3] = {};
+    if (const auto *r = root_.record; r != nullptr) {
+        r->print(h_, kId, text, 0, "instance", instance_, size, &errors[0]);
+        r->to_xml(h_, kId, "instance", text, instance_, size, 0, &errors[1]);
+        r->marshal(h_, kId, buffer, instance_, size, &errors[2]);
+        r->len(h_, kId, instance_);
+        ASSERT_EQ(r->compare(instance_, instance_), 0);
+        r->hash(instance_, 0);
+    }
+    if (const auto *e = root_.enumeration; e != nullptr) {
+        e->print(h_, kId, text, 0, "instance", instance_, size, &errors[0]);
+        e->to_xml(h_, kId, "instance", text, instance_, size, 0, &errors[1]);
+        e->marshal(h_, kId, buffer, instance_, size, &errors[2]);
+        ASSERT_EQ(e->compare(instance_, instance_), 0);
+        e->hash(instance_, 0);
+    }
+    if (const auto *m = root_.message; m != nullptr) {
+        m->print(h_, kId, text, instance_, room, &errors[0]);
+        m->to_xml(h_, kId, text, instance_, room, &errors[1]);
+        m->marshal(h_, kId, buffer, instance_, room, &errors[2]);
+        m->len(h_, kId, instance_);
+        std::uint32_t err = 0;
+        void *payload = m->payload_get(h_, kId, instance_, &err);
+        ASSERT_EQ(root_.payload()->compare(payload, payload), 0);
+        root_.payload()->hash(payload, 0);
+    }
+    mirk_clear_last_error(h_);
+}
+
+void Subject::end() {
+    if (instance_ == nullptr) return;
+    if (root_.record != nullptr) root_.record->destroy(h_, kId, instance_);
+    if (root_.enumeration != nullptr) root_.enumeration->destroy(h_, kId, instance_);
+    if (root_.message != nullptr) root_.message->destroy(h_, kId, instance_);
+    instance_ = nullptr;
+}
+
+}  // namespace trust

@@ -1,0 +1,99 @@
+// Damaged input: how much of it a run goes through, and the roots that it is read as.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bridge/bridge.h"
+#include "bridge/guarded.h"
+#include "lumo_ui_tarn.h"
+#include "mirk_platform_testing.h"
+#include "reference/codec.h"
+
+namespace trust {
+
+using bridge::kId;
+using bridge::RecordOperations;
+using bridge::Tracking;
+using reference::Bytes;
+using tarn::reflect::EnumerationOperations;
+using tarn::reflect::MessageOperations;
+
+// With TARN_DAMAGE=whole all of it; else one case of so many, chosen by TARN_SEED, which is 1 if not set.
+class Share {
+public:
+    explicit Share(std::uint64_t one_in) : one_in_(is_whole() ? 1 : one_in), random_(seed()) {}
+
+    bool takes() { return random_() % one_in_ == 0; }
+
+    static bool is_whole() {
+        const char *which = std::getenv("TARN_DAMAGE");
+        return which != nullptr && std::string_view(which) == "whole";
+    }
+
+private:
+    static std::uint64_t seed() {
+        const char *seed = std::getenv("TARN_SEED");
+        return seed != nullptr ? std::strtoull(seed, nullptr, 10) : 1;
+    }
+
+    std::uint64_t one_in_;
+    std::mt19937_64 random_;
+};
+
+// A record or an enumeration on its own, or a message with its payload.
+struct Root {
+    std::string name;
+    const RecordOperations *record = nullptr;
+    const EnumerationOperations *enumeration = nullptr;
+    const MessageOperations *message = nullptr;
+
+    // The record behind the frame, which an enumeration has not.
+    const RecordOperations *payload() const {
+        return message != nullptr ? &tarn::reflect::operations_of(message->message->payload) : record;
+    }
+};
+const std::vector<Root> &roots();
+
+// No array and no string is empty, and small arrays have two elements.
+reference::Record rich(std::string_view type, bool printable = false);
+Bytes frame_of(const Root &root, bool tracked);
+std::string document_of(const Root &root);
+
+// A handle that gives so little memory that counts cost little. Nothing may be left on it at its end.
+std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_types = false);
+
+// One instance of a root, which what was read goes into.
+class Subject {
+public:
+    Subject(mirk_handle *h, const Root &root);
+    ~Subject() { end(); }
+    Subject(const Subject &) = delete;
+    Subject &operator=(const Subject &) = delete;
+
+    // From a buffer that ends, behind its one spare byte, at a page that cannot be read.
+    std::uint32_t read(const Bytes &frame, std::uint32_t reuse = 0);
+    std::uint32_t read_document(void *document);
+    // Prints, renders, writes, measures, compares and hashes, into buffers that end at such a page.
+    void use(std::int32_t size);
+    void end();
+
+private:
+    mirk_handle *h_;
+    const Root &root_;
+    void *instance_ = nullptr;
+};
+
+inline std::uint8_t *guarded(const Bytes &bytes) {
+    static bridge::GuardedMemory memory(std::size_t{1} << 20);
+    return memory.put(bytes.data(), bytes.size());
+}
+
+}  // namespace trust
