@@ -42,6 +42,19 @@ extern "C" void refuse_doctype(void *context, const xmlChar *, const xmlChar *, 
 
 extern "C" void ignore_error(void *, xmlErrorPtr) {}
 
+// Errors of encodings pass by the parser's context, and go to standard error if the thread has no other place for them.
+class QuietThread {
+public:
+    QuietThread() { xmlSetStructuredErrorFunc(nullptr, ignore_error); }
+    ~QuietThread() { xmlSetStructuredErrorFunc(context_, function_); }
+    QuietThread(const QuietThread &) = delete;
+    QuietThread &operator=(const QuietThread &) = delete;
+
+private:
+    void *const context_ = xmlStructuredErrorContext;
+    const xmlStructuredErrorFunc function_ = xmlStructuredError;
+};
+
 void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
     if (report == nullptr) return;
     *report = {};
@@ -168,6 +181,7 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
     Refusal refusal;
     parser->_private = &refusal;
     parser->sax->internalSubset = refuse_doctype;
+    const QuietThread quiet;
     constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA;
     Document document(xmlCtxtReadMemory(parser.get(), static_cast<const char *>(text), static_cast<int>(length),
                                         nullptr, nullptr, options));

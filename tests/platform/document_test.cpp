@@ -152,6 +152,20 @@ TEST(Document, ReportsWhereItIsNotWellFormed) {
     EXPECT_EQ(mirk_platform_document_load_memory("<r>", 3, nullptr), nullptr);
 }
 
+// Not even what the parser finds wrong before it knows a document.
+TEST(Document, WritesNothingToStandardError) {
+    std::string wide;
+    for (const char c : std::string("<r>text</r>")) wide += {c, 0, 0, 0};
+    testing::internal::CaptureStderr();
+    for (const std::string &text :
+         {wide, std::string("<r>\xC0\xBC</r>"), std::string("<?xml version='1.0' encoding='?'?><r/>")}) {
+        mirk_platform_report report;
+        EXPECT_EQ(mirk_platform_document_load_memory(text.data(), text.size(), &report), nullptr);
+        EXPECT_NE(report.number, 0u);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST(Document, LimitsDepth) {
     std::string text;
     for (int i = 0; i < 5000; ++i) text += "<a>";
