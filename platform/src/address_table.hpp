@@ -12,8 +12,10 @@ namespace mirk {
 
 inline uintptr_t address_of(const void *p) { return reinterpret_cast<uintptr_t>(p); }
 
-// Open addressing with linear probing; key 0 marks a free cell and is never entered.
-template <typename Value>
+// Open addressing with linear probing; key 0 marks a free cell and is never entered. Neighbours in memory are
+// neighbours here: keys are spread by runs, of 64 keys that are `Unit` apart, since those who come for one come for the
+// next.
+template <typename Value, size_t Unit = 1>
 class AddressMap {
     static_assert(std::is_trivially_copyable_v<Value>);
 
@@ -35,7 +37,7 @@ public:
 
     // The entry of the key, made if there is none; null without memory.
     Value *put(uintptr_t key, const Value &value) {
-        if (used_ * 4 >= capacity() * 3 && !grow()) return nullptr;
+        if (used_ * 2 >= capacity() && !grow()) return nullptr;
         size_t i = home(key);
         while (cells_[i].key != 0 && cells_[i].key != key) i = (i + 1) & mask_;
         if (cells_[i].key == 0) ++used_;
@@ -76,9 +78,12 @@ private:
         Value value;
     };
 
+    static constexpr size_t run_length = 64;
+
     size_t capacity() const { return cells_ == nullptr ? 0 : mask_ + 1; }
     size_t home(uintptr_t key) const {
-        return static_cast<size_t>((static_cast<uint64_t>(key) * 0x9e3779b97f4a7c15u) >> shift_);
+        const uint64_t unit = key / Unit, run = unit / run_length;
+        return (static_cast<size_t>((run * 0x9e3779b97f4a7c15u) >> shift_) + unit % run_length) & mask_;
     }
 
     bool grow() {

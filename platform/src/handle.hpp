@@ -120,7 +120,7 @@ struct Handle : mirk_handle {
     bool suppress_messages = false;
     std::unique_ptr<char[]> workspace;
 
-    AddressMap<Block> blocks;
+    AddressMap<Block, 16> blocks;
     uint64_t live_bytes = 0, blocks_made = 0, request_ceiling = 0, total_ceiling = 0;
     int fresh_fill = -1;
     std::vector<void *> system_blocks;  // whatever lives as long as the handle
@@ -128,6 +128,11 @@ struct Handle : mirk_handle {
     std::unordered_map<Luid, int8_t, LuidHash> variants;
     std::unordered_map<Luid, bool, LuidHash> messages;
     std::unordered_map<std::string, mirk_type_info_copy *, TextHash, std::equal_to<>> types;
+    struct RecentType {
+        const mirk_type_info *type;
+        mirk_type_info_copy *copy;
+    };
+    std::array<RecentType, 256> recent_types{};
 
     ObjectTable<uint32_t> offsets;
     ObjectTable<RaData> ra_data;

@@ -61,6 +61,7 @@ static void type_store_put(void *type_store, uint32_t ctx_id, const char *key, m
         handle.types[key] = copy;
         return 0;
     });
+    handle.recent_types = {};
 }
 
 static mirk_type_info_copy *type_store_get(void *type_store, uint32_t ctx_id, const char *key) {
@@ -86,13 +87,24 @@ constinit mirk_type_info _ip_address_type_info_internal = describe(address_luid,
 mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type,
                                        mirk_typeinfo_init_fn init) {
     if (type == nullptr) return nullptr;
+    // Every object that is made or read comes by. What was found is kept by the record's address; the luid says whether
+    // the same type still stands there.
+    Handle &handle = *own(h);
+    Handle::RecentType &recent = handle.recent_types[mirk::address_of(type) / 16 % handle.recent_types.size()];
+    const bool own_store = h->type_store_get == type_store_get;
+    if (own_store && recent.type == type && std::memcmp(recent.copy->info.luid, type->luid, sizeof type->luid) == 0) {
+        handle.event(MIRK_PLATFORM_TESTING_TYPE_GET, recent.copy, 0, 0, ctx_id);
+        return &recent.copy->info;
+    }
     mirk_type_info_copy *copy = h->type_store_get(h->type_store, ctx_id, type->luid_text);
     if (copy == nullptr && init != nullptr) {
         uint32_t err = 0;
         init(h, ctx_id, &err);
         copy = h->type_store_get(h->type_store, ctx_id, type->luid_text);
     }
-    return copy != nullptr ? &copy->info : type;
+    if (copy == nullptr) return type;
+    if (own_store) recent = {type, copy};
+    return &copy->info;
 }
 
 void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_copy *copy, mirk_type_info *type,
