@@ -41,6 +41,8 @@ constexpr Pair pairs[] = {
     {"decode and destroy", "library, private tables", "protobuf arena"},
     {"decode and destroy", "library, private tables and arena", "protobuf arena"},
     {"decode and destroy", "library, private tables", "library"},
+    {"decode and destroy", "library", "library, empty announcements"},
+    {"decode and destroy", "library, an unwanted trace line", "library"},
     {"decode and destroy", "library", "flatbuffers objects"},
     {"decode and destroy", "library", "flatbuffers raw"},
     {"decode and destroy", "library", "capnp"},
