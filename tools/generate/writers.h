@@ -20,6 +20,7 @@ Files write_plain();       // build tree: records as plain structs, for the same
 Files write_rivals();      // build tree: the schema in the languages of other serializers, for the same
 Files write_operations();  // build tree: every operation as a table, for tools and tests
 Files write_dissector();   // build tree: the dissector for network captures
+Files write_python();      // build tree: tables and type stubs for the Python package
 
 struct BuildStamp {
     std::string built_by = "packager", on_host = "unnamed", pid = "0", at = "1970-01-01T00:00:00Z", comment = "none";

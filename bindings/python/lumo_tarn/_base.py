@@ -1,0 +1,462 @@
+"""What all records and messages have in common. The classes themselves are made from the schema, in records."""
+
+from __future__ import annotations
+
+import dataclasses
+import ipaddress
+import os
+import socket
+from collections.abc import Sequence
+from typing import Any, Callable, ClassVar, Generic, Iterator, Mapping, TypeVar, Union, overload
+
+from ._native import CTX_ID, Document, Handle, ffi, handle, lib
+
+R = TypeVar("R", bound="Record")
+M = TypeVar("M", bound="Message")
+AddressLike = Union["Address", str, ipaddress.IPv4Interface, ipaddress.IPv6Interface]
+
+# Bits of an object's flag: it has state bytes; their place is known, or it has data of the runtime's.
+_TRACKED = 8
+_OFFSET_AND_RA = 64 | 32
+_WRITTEN = 2
+
+
+@dataclasses.dataclass(frozen=True)
+class Address:
+    """An address or prefix. Its text is "unset", "10.0.0.0/8", "fe80::1%3/64", or for a foreign family all numbers."""
+
+    af: int = 0
+    prefix_len: int = 0
+    scope: int = 0
+    word: tuple[int, int, int, int] = (0, 0, 0, 0)
+
+    @classmethod
+    def of(cls, value: AddressLike) -> Address:
+        if isinstance(value, Address):
+            return value
+        text = str(value)
+        if text == "unset":
+            return cls()
+        front, slash, length = text.partition("/")
+        if not slash:
+            raise ValueError(f"an address has a prefix length, and {text} has none")
+        if "," in front:
+            af, scope, *word = (int(part) for part in front.split(","))
+            if len(word) != 4:
+                raise ValueError(f"{text} is no address")
+            return cls(af, int(length), scope, (word[0], word[1], word[2], word[3]))
+        front, _, scope_text = front.partition("%")
+        ip = ipaddress.ip_address(front)
+        packed = ip.packed.ljust(16, b"\0")
+        word = [int.from_bytes(packed[at : at + 4], "big") for at in range(0, 16, 4)]
+        family = socket.AF_INET if ip.version == 4 else socket.AF_INET6
+        return cls(family, int(length), int(scope_text or 0), (word[0], word[1], word[2], word[3]))
+
+    def __str__(self) -> str:
+        if self == Address():
+            return "unset"
+        packed = b"".join(word.to_bytes(4, "big") for word in self.word)
+        if self.af == socket.AF_INET and not any(self.word[1:]):
+            text = socket.inet_ntop(socket.AF_INET, packed[:4])
+        elif self.af == socket.AF_INET6:
+            text = socket.inet_ntop(socket.AF_INET6, packed)
+        else:
+            numbers = ",".join(str(word) for word in self.word)
+            return f"{self.af},{self.scope},{numbers}/{self.prefix_len}"
+        scope = f"%{self.scope}" if self.scope else ""
+        return f"{text}{scope}/{self.prefix_len}"
+
+    def __repr__(self) -> str:
+        return f"Address.of({str(self)!r})"
+
+
+class Native:
+    """An object of the library: one that this owns, or one inside another object, looked up at each use, since an
+    array moves its elements when it grows."""
+
+    _handle: Handle
+    _locate: Callable[[], Any]
+
+    @property
+    def native(self) -> Any:
+        """The C object, for lumo_tarn._native.lib and what it offers."""
+        return self._locate()
+
+    @property
+    def handle(self) -> Handle:
+        return self._handle
+
+    def _bind(self, on: Handle, locate: Callable[[], Any]) -> None:
+        object.__setattr__(self, "_handle", on)
+        object.__setattr__(self, "_locate", locate)
+
+    def _own(self, on: Handle, native: Any, destroy: Callable[..., Any]) -> None:
+        if native == ffi.NULL:
+            raise MemoryError(f"no memory for a {type(self).__name__}")
+        kept = ffi.gc(native, lambda object_: destroy(on.native, CTX_ID, object_))
+        self._bind(on, lambda: kept)
+
+
+class Record(Native):
+    """An instance of a record. Assigning to a member that is a record copies into it."""
+
+    record_name: ClassVar[str]
+    members: ClassVar[Mapping[str, Any]]  # by attribute, in the order of the schema
+    owns_blocks: ClassVar[bool]
+
+    def __init__(self, *, on: Handle | None = None, **values: Any) -> None:
+        on = on or handle()
+        self._own(on, self._function("create")(on.native, CTX_ID), self._function("destroy"))
+        self.set(**values)
+
+    def __setattr__(self, name: str, value: Any) -> None:
+        if name not in self.members:
+            raise AttributeError(f"{type(self).__name__} has no member {name}")
+        object.__setattr__(self, name, value)
+
+    @classmethod
+    def _function(cls, name: str) -> Any:
+        return getattr(lib, f"{cls.record_name}_{name}")
+
+    @classmethod
+    def _borrowed(cls: type[R], on: Handle, locate: Callable[[], Any]) -> R:
+        record = cls.__new__(cls)
+        record._bind(on, locate)
+        return record
+
+    def _call(self, name: str, *arguments: Any) -> Any:
+        return self._handle.call(self._function(name), self.native, *arguments)
+
+    # ---- members
+
+    def set(self: R, **values: Any) -> R:
+        """Sets members by name; values of lists may be sequences, and those of records mappings."""
+        for name, value in values.items():
+            name = name if name in self.members else f"{name}_"  # a word of Python's, or what all records have
+            if name not in self.members:
+                raise AttributeError(f"{type(self).__name__} has no member {name.rstrip('_')}")
+            if isinstance(value, Mapping):
+                getattr(self, name).set(**value)
+            elif isinstance(getattr(self, name), Array):
+                getattr(self, name)[:] = value
+            else:
+                setattr(self, name, value)
+        return self
+
+    def __iter__(self) -> Iterator[tuple[str, Any]]:
+        """The members that are not counts or lengths, with their values."""
+        return ((name, getattr(self, name)) for name, member in self.members.items() if member.tracked)
+
+    def to_dict(self) -> dict[str, Any]:
+        """Plain values: what "tarn decode --json" shows of a payload without states."""
+        return {member.name: member.plain(self) for member in self.members.values() if member.tracked}
+
+    def state_of(self, member: str) -> int | None:
+        """The state byte of a member, of a list that of the whole; None without tracking."""
+        return self.members[member].state(self) if self._is_tracked() else None
+
+    def set_state_of(self, member: str, value: int) -> None:
+        self.members[member].set_state(self, value)
+
+    def set_all_states(self, value: int) -> None:
+        self._function("set_all_state_tracking_flag")(self._handle.native, CTX_ID, self.native, value)
+
+    def _is_tracked(self) -> bool:
+        return self._handle.tracked and bool(ffi.cast("mirk_object *", self.native).obj_flag & _TRACKED)
+
+    # ---- whole
+
+    def to_frame(self) -> bytes:
+        size = self._function("len")(self._handle.native, CTX_ID, self.native)
+        marshal, native, h = self._function("marshal"), self.native, self._handle
+        return h.grown(size, lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
+
+    @classmethod
+    def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
+        record = cls(on=on)
+        record._handle.call(cls._function("unmarshal"), ffi.from_buffer(bytes(frame) + b"\0"), record.native,
+                            len(frame), 0)
+        return record
+
+    def _rendered(self, write: Callable[[Any, int, Any], Any]) -> str:
+        size = self._function("len")(self._handle.native, CTX_ID, self.native)
+        return self._handle.grown(3 * size + 4096, write).replace(b"\0", b" ").decode(errors="replace")
+
+    def to_xml(self, name: str | None = None) -> str:
+        h, native, called = self._handle, self.native, (name or self.record_name).encode()
+        to_xml = self._function("to_xml")
+        return self._rendered(lambda buffer, room, err: to_xml(h.native, CTX_ID, called, buffer, native, room, 0, err))
+
+    @classmethod
+    def from_xml(cls: type[R], text: str | bytes, path: str | None = None, on: Handle | None = None) -> R:
+        """Reads the record's element, which is looked for at any depth if no path is given."""
+        record = cls(on=on)
+        with Document(text) as document:
+            words, err = ffi.new("char[256]"), ffi.new("uint32_t *")
+            place = (path or f"//{cls.record_name}").encode()
+            read = cls._function("from_xml")
+            read(record._handle.native, CTX_ID, place, document, record.native, err, words, 256)
+            if err[0] != 0:
+                raise OSError(err[0], ffi.string(words).decode() or os.strerror(err[0]))
+        return record
+
+    def text(self, name: str | None = None) -> str:
+        h, native, called = self._handle, self.native, (name or self.record_name).encode()
+        show = self._function("print")
+        return self._rendered(lambda buffer, room, err: show(h.native, CTX_ID, buffer, 0, called, native, room, err))
+
+    def copy(self: R, on: Handle | None = None) -> R:
+        """A deep copy; on a handle other than its own by way of a frame, since states may come or go."""
+        if on is not None and on is not self._handle:
+            return type(self).from_frame(self.to_frame(), on)
+        record = type(self).__new__(type(self))
+        record._own(self._handle, self._cloned(), self._function("destroy"))
+        return record
+
+    def _cloned(self) -> Any:
+        size = self._function("len")(self._handle.native, CTX_ID, self.native)
+        result, buffer = ffi.new(f"{self.record_name} **"), ffi.new("uint8_t[]", size + 1)
+        self._call("clone", result, buffer, size)
+        return result[0]
+
+    def __copy__(self: R) -> R:
+        return self.copy()
+
+    def __deepcopy__(self: R, _: object) -> R:
+        return self.copy()
+
+    def compare(self: R, other: R) -> int:
+        """Less than, equal to or greater than 0, as the members in their order are. States play no part."""
+        return int(self._function("compare")(self.native, other.native))
+
+    def hash(self, seed: int = 0) -> int:
+        return int(self._function("hash")(self.native, seed))
+
+    def __eq__(self, other: object) -> bool:
+        return type(self) is type(other) and self.compare(other) == 0  # type: ignore[arg-type]
+
+    __hash__ = None  # type: ignore[assignment]  # members change
+
+    def __lt__(self: R, other: R) -> bool:
+        if type(self) is not type(other):
+            return NotImplemented
+        return self.compare(other) < 0
+
+    def __le__(self: R, other: R) -> bool:
+        if type(self) is not type(other):
+            return NotImplemented
+        return self.compare(other) <= 0
+
+    def __str__(self) -> str:
+        return self.text().rstrip("\n")
+
+    def __repr__(self) -> str:
+        return f"{type(self).__name__}({', '.join(f'{name}={value!r}' for name, value in self)})"
+
+
+class Array(Sequence[R], Generic[R]):
+    """The elements of a record's list. They are parts of the record; arrays grow and do not shrink."""
+
+    def __init__(self, owner: Record, member: Any) -> None:
+        self._owner, self._member = owner, member
+
+    def __len__(self) -> int:
+        return int(self._owner._call(f"{self._member.counted_by}_get_value"))
+
+    @overload
+    def __getitem__(self, index: int) -> R: ...
+    @overload
+    def __getitem__(self, index: slice) -> list[R]: ...
+    def __getitem__(self, index: int | slice) -> R | list[R]:
+        if isinstance(index, slice):
+            return [self[at] for at in range(*index.indices(len(self)))]
+        at, owner, name = self._at(index), self._owner, f"{self._member.name}_get"
+        element: R = self._member.record._borrowed(owner._handle, lambda: owner._call(name, at))
+        return element
+
+    def __setitem__(self, index: int | slice, value: Any) -> None:
+        """Copies a record into an element; records or mappings into a slice, which may reach beyond the end."""
+        if isinstance(index, int):
+            self._put(self._at(index), value)
+            return
+        values, start, step = list(value), index.start or 0, index.step or 1
+        if step != 1 or start + len(values) < min(len(self), len(self) if index.stop is None else index.stop):
+            raise ValueError("arrays do not shrink")
+        self.grow(max(len(self), start + len(values)))
+        for at, one in enumerate(values, start):
+            if isinstance(one, Mapping):
+                self[at].set(**one)
+            else:
+                self._put(at, one)
+
+    def grow(self, elements: int) -> None:
+        """To this many elements; new ones have all members zero."""
+        before, most = len(self), (1 << self._member.count_bits) - 1
+        if elements < before:
+            raise ValueError("arrays do not shrink")
+        if elements > most:
+            raise OverflowError(f"{self._member.name} holds at most {most} elements")
+        if elements > before:
+            blank = self._member.record(on=self._owner._handle) if self._owner._handle.tracked else None
+            self._owner._call(f"{self._member.name}_set", elements - 1, blank.native if blank else ffi.NULL)
+
+    def add(self, **values: Any) -> R:
+        """A new element at the end, with these members. Many are faster with grow."""
+        self.grow(len(self) + 1)
+        return self[-1].set(**values)
+
+    def append(self, record: R) -> None:
+        self[len(self) :] = [record]
+
+    def extend(self, records: Sequence[R]) -> None:
+        self[len(self) :] = records
+
+    def state(self, index: int) -> int | None:
+        if not self._owner._is_tracked():
+            return None
+        return int(self._owner._call(f"{self._member.name}_state_flag_get", self._at(index)))
+
+    def set_state(self, index: int, value: int) -> None:
+        self._owner._call(f"{self._member.name}_state_flag_set", self._at(index), value)
+
+    def __eq__(self, other: object) -> bool:
+        if not isinstance(other, (Array, list, tuple)):
+            return NotImplemented
+        return len(self) == len(other) and all(a == b for a, b in zip(self, other))
+
+    def __repr__(self) -> str:
+        return f"[{', '.join(repr(element) for element in self)}]"
+
+    def _at(self, index: int) -> int:
+        count = len(self)
+        at = index + count if index < 0 else index
+        if not 0 <= at < count:
+            raise IndexError(f"{self._member.name} has {count} elements, and none at {index}")
+        return at
+
+    def _put(self, at: int, record: R) -> None:
+        expect(self._member.record, record)
+        value, element = record.copy(on=self._owner._handle), self[at]
+        former = emptied(element)  # until here it held what the setter would forget
+        self._owner._call(f"{self._member.name}_set", at, value.native)
+        del former
+
+
+def expect(kind: type[Record], value: object) -> None:
+    if not isinstance(value, kind):
+        raise TypeError(f"this takes a {kind.__name__}, not a {type(value).__name__}")
+
+
+def emptied(record: R) -> R | None:
+    """Moves what a record owns into a new one, which releases it when it goes."""
+    if not record.owns_blocks:
+        return None
+    former = type(record)(on=record._handle)
+    record._handle.call(record._function("set"), former.native, record.native)
+    return former
+
+
+def read_address(record: Record, name: str) -> Address:
+    place = record._call(f"{name}_get")
+    word = place.word
+    return Address(place.af, place.prefix_len, place.scope, (word[0], word[1], word[2], word[3]))
+
+
+def write_address(record: Record, name: str, value: AddressLike) -> None:
+    """The setter takes a whole object: the one that stands there with other values, its states behind it."""
+    address, place = Address.of(value), record._call(f"{name}_get")
+    size = ffi.sizeof("ip_address")
+    source = ffi.new("uint8_t[]", bytes(ffi.buffer(place, size)) + bytes([_WRITTEN] * 8))
+    copy = ffi.cast("ip_address *", source)
+    copy.obj_flag &= ~_OFFSET_AND_RA
+    copy.af, copy.prefix_len, copy.scope = address.af, address.prefix_len, address.scope
+    for at, word in enumerate(address.word):
+        copy.word[at] = word
+    record._call(f"{name}_set", copy)
+
+
+class Message(Native):
+    """A message. It owns its payload."""
+
+    message_name: ClassVar[str]
+    payload_type: ClassVar[type[Record]]
+    luid: ClassVar[bytes]
+
+    def __init__(self, payload: Any = None, *, on: Handle | None = None) -> None:
+        on = on or (payload.handle if isinstance(payload, Record) else handle())
+        self._own(on, self._function("create")(on.native, CTX_ID), self._function("destroy"))
+        if payload is not None:
+            self.payload = payload
+
+    @classmethod
+    def _function(cls, name: str) -> Any:
+        return getattr(lib, f"{cls.message_name}_message_{name}")
+
+    @classmethod
+    def _taken(cls: type[M], on: Handle, native: Any) -> M:
+        message = cls.__new__(cls)
+        message._own(on, native, cls._function("destroy"))
+        return message
+
+    @property
+    def payload(self) -> Any:
+        get = self._function(f"{self.payload_type.record_name}_get")
+        return self.payload_type._borrowed(self._handle, lambda: self._handle.call(get, self.native))
+
+    @payload.setter
+    def payload(self, value: Any) -> None:
+        expect(self.payload_type, value)
+        own = value if value.handle is self._handle else value.copy(on=self._handle)
+        self._handle.call(self._function(f"{own.record_name}_free_and_set"), self.native, own._cloned())
+
+    def to_frame(self) -> bytes:
+        h, native, marshal = self._handle, self.native, self._function("marshal")
+        size = self._function("len")(h.native, CTX_ID, native)
+        return h.grown(size, lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
+
+    @classmethod
+    def from_frame(cls: type[M], frame: bytes, on: Handle | None = None) -> M:
+        on = on or handle()
+        out, err = ffi.new(f"{cls.message_name} **"), ffi.new("uint32_t *")
+        cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(bytes(frame) + b"\0"), len(frame), err)
+        message = cls._taken(on, out[0])  # also a broken one, so that it goes
+        if err[0] != 0:
+            raise OSError(err[0], f"no frame of a {cls.message_name}: {os.strerror(err[0])}")
+        return message
+
+    def to_xml(self) -> str:
+        return self._rendered("to_xml")
+
+    def text(self) -> str:
+        return self._rendered("print")
+
+    def _rendered(self, name: str) -> str:
+        h, native, write = self._handle, self.native, self._function(name)
+        size = self._function("len")(h.native, CTX_ID, native)
+        whole = h.grown(3 * size + 4096, lambda buffer, room, err: write(h.native, CTX_ID, buffer, native, room, err))
+        return whole.replace(b"\0", b" ").decode(errors="replace")
+
+    @classmethod
+    def from_xml(cls: type[M], text: str | bytes, on: Handle | None = None) -> M:
+        on = on or handle()
+        with Document(text) as document:
+            words, err = ffi.new("char[256]"), ffi.new("uint32_t *")
+            native = cls._function("from_xml")(on.native, CTX_ID, document, err, words, 256)
+            if err[0] != 0:
+                raise OSError(err[0], ffi.string(words).decode() or os.strerror(err[0]))
+        return cls._taken(on, native)
+
+    def to_dict(self) -> dict[str, Any]:
+        """What "tarn decode --json" shows of the message without states."""
+        return {"message": self.message_name, "payload": self.payload.to_dict()}
+
+    def __eq__(self, other: object) -> bool:
+        return type(self) is type(other) and bool(self.payload == other.payload)  # type: ignore[attr-defined]
+
+    __hash__ = None  # type: ignore[assignment]
+
+    def __str__(self) -> str:
+        return self.text().rstrip("\n")
+
+    def __repr__(self) -> str:
+        return f"{type(self).__name__}({self.payload!r})"

@@ -1,0 +1,283 @@
+"""Every record and message through the Python package, held against the tool, which is made of the C++ side."""
+
+import ast
+import copy
+import json
+import pathlib
+
+import lumo_tarn
+import pytest
+from conftest import MESSAGES, RECORDS, tool, values_of
+from hypothesis import HealthCheck, given, settings
+from hypothesis import strategies as st
+from lumo_tarn import _schema
+from lumo_tarn._native import lib
+
+
+def json_lines(data: bytes) -> list:
+    return [json.loads(line) for line in data.splitlines()]
+
+
+def without_states(value):
+    """JSON of tracked messages says more than values."""
+    if isinstance(value, dict):
+        for name in ("@value", "@address"):
+            if name in value:
+                return value[name]
+        return {name: without_states(one) for name, one in value.items() if not name.startswith("@")}
+    return [without_states(one) for one in value] if isinstance(value, list) else value
+
+
+# ---- records
+
+
+@pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
+@given(data=st.data())
+@settings(max_examples=8, suppress_health_check=list(HealthCheck))
+def test_values_come_back(record, data):
+    values = data.draw(values_of(record.record_name))
+    one = record(**values)
+    assert one.to_dict() == values
+    assert record.from_frame(one.to_frame()) == one
+    assert record.from_xml(one.to_xml()) == one
+    assert record.from_frame(one.to_frame()).to_dict() == values
+    assert one.copy().to_dict() == values
+    assert copy.deepcopy(one) == one and one.hash(3) == one.copy().hash(3)
+    tracked = one.copy(on=lumo_tarn.handle(tracked=True))
+    assert tracked == one and tracked.to_dict() == values
+    assert record.from_frame(tracked.to_frame(), on=lumo_tarn.handle(tracked=True)).to_frame() == tracked.to_frame()
+
+
+@pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
+def test_members_are_those_of_the_schema(record):
+    rows = _schema.RECORDS[record.record_name][2]
+    assert [member.name for member in record.members.values()] == [row[1] for row in rows]
+    assert [member.__doc__ for member in record.members.values()] == [row[4] for row in rows]
+    assert not set(record.members) & set(dir(lumo_tarn.Record)), "no member hides what all records have"
+    assert [name for name, _ in record()] == [row[0] for row in rows if " " not in row[2]]
+
+
+@pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
+def test_states_are_set_together_and_one_by_one(record, handle):
+    one = record(on=handle)
+    tracked = [name for name, member in one.members.items() if member.tracked]
+    assert {one.state_of(name) for name in tracked} == ({0} if handle.tracked else {None})
+    if handle.tracked:
+        one.set_all_states(9)
+        assert {one.state_of(name) for name in tracked} == {9}
+        for name in tracked:
+            one.set_state_of(name, 5)
+            assert one.state_of(name) == 5
+        one.set_all_states(0)
+
+
+def test_attributes_read_and_write(handle):
+    tc = lumo_tarn.DpTc(id=3, src_prefix="10.0.0.0/8", on=handle)
+    tc.proto = 6
+    tc.appl.id = 12
+    tc.exmem_info = lumo_tarn.ExmemInfo(size=64)
+    assert (tc.id, tc.proto, tc.appl.id, tc.exmem_info.size) == (3, 6, 12, 64)
+    assert tc.src_prefix == lumo_tarn.Address.of("10.0.0.0/8")
+    assert str(tc.src_prefix) == "10.0.0.0/8" and str(tc.dst_prefix) == "unset"
+    assert tc.state_of("proto") == (2 if handle.tracked else None)
+    info = lumo_tarn.LumoInfo(direction="LUMO_TARN_DIR_EGRESS", on=handle)
+    assert info.direction is lumo_tarn.LumoDirection.EGRESS
+    info.direction = lumo_tarn.LumoDirection.BOTH
+    assert info.to_dict()["direction"] == "LUMO_TARN_DIR_BOTH"
+
+
+def test_what_is_wrong_is_raised(handle):
+    tc = lumo_tarn.DpTc(on=handle)
+    with pytest.raises(AttributeError):
+        tc.prto = 6
+    with pytest.raises(AttributeError):
+        lumo_tarn.DpTc(prto=6, on=handle)
+    with pytest.raises(AttributeError):
+        lumo_tarn.DpTcList(on=handle).num_tcs = 3
+    with pytest.raises(OverflowError):
+        tc.proto = 256
+    with pytest.raises(TypeError):
+        tc.appl = tc
+    with pytest.raises(ValueError):
+        tc.src_prefix = "10.0.0.0"
+    with pytest.raises(ValueError):
+        tc.src_prefix = "10.0.0/8"
+    with pytest.raises(OSError):
+        lumo_tarn.LumoInfo(on=handle).direction = 3
+    with pytest.raises(OSError):
+        lumo_tarn.DpTc.from_frame(b"", on=handle)
+    with pytest.raises(OSError):
+        lumo_tarn.DebugSettingMsg.from_frame(b"rubbish", on=handle)
+    with pytest.raises(ValueError):
+        lumo_tarn.DpTc.from_xml("<no xml", on=handle)
+    with pytest.raises(OSError):
+        lumo_tarn.ExmemInfo.from_xml("<lumo_tarn_exmem_info><size>x</size></lumo_tarn_exmem_info>", on=handle)
+    with pytest.raises(OverflowError):
+        lumo_tarn.ClKeshAppl(on=handle).proto_name = "x" * 65536
+
+
+def test_lists_are_sequences(handle):
+    classes = lumo_tarn.DpTcList(on=handle).tc_list
+    assert len(classes) == 0 and list(classes) == [] and not classes
+    for number in range(4):
+        assert classes.add(id=number).id == number
+    first = classes[0]
+    classes.append(lumo_tarn.DpTc(id=4))
+    classes.extend([classes[1], first])
+    assert [tc.id for tc in classes] == [0, 1, 2, 3, 4, 1, 0]
+    first.id = 7  # found again although the list has moved
+    assert classes[0].id == 7 and classes[-1].id == 0
+    assert [tc.id for tc in classes[1:3]] == [1, 2] and [tc.id for tc in reversed(classes)][0] == 0
+    classes[1] = lumo_tarn.DpTc(id=70)
+    classes[2:4] = [{"id": 71}, {"id": 72}]
+    assert [tc.id for tc in classes] == [7, 70, 71, 72, 4, 1, 0]
+    assert classes == list(classes) and classes != classes[1:]
+    assert classes.state(1) == (2 if handle.tracked else None)
+    if handle.tracked:
+        classes.set_state(1, 9)
+        assert classes.state(1) == 9
+    for wrong in (7, -8):
+        with pytest.raises(IndexError):
+            classes[wrong]
+    with pytest.raises(ValueError):
+        classes.grow(2)
+    with pytest.raises(ValueError):
+        classes[:] = []
+    with pytest.raises(TypeError):
+        classes.append(lumo_tarn.DpAppl())
+    with pytest.raises(OverflowError):
+        lumo_tarn.DpMpPrefixData(on=handle).prefix_data.grow(256)
+
+
+def test_what_a_member_held_is_given_back(handle):
+    """The handle of the test counts blocks at its end."""
+    data = lumo_tarn.DpTtTableData(on=handle, lumo_data=[{"agg_tc_list": {"tc_list": [{"id": 1}]}}])
+    other = lumo_tarn.DpTcList(on=handle, tc_list=[{"id": 2}, {"id": 3}])
+    data.lumo_data[0].agg_tc_list = other
+    assert data.lumo_data[0].agg_tc_list == other
+    data.lumo_data[0] = lumo_tarn.DpTtTable(agg_tc_list=other)
+    assert data.lumo_data[0].agg_tc_list == other
+    message = lumo_tarn.DpTtMsg(data)
+    message.payload = data
+    message.payload = lumo_tarn.DpTtTableData()
+    assert len(message.payload.lumo_data) == 0
+
+
+def test_order_and_text(handle):
+    small, large = lumo_tarn.ExmemInfo(cl_addr=1, on=handle), lumo_tarn.ExmemInfo(cl_addr=2)
+    assert small < large and small <= large and large > small and small != large
+    assert small != 3 and not small == "x"
+    assert repr(small) == "ExmemInfo(cl_addr=1, exmem_addr=0, ppe_addr=0, size=0)"
+    assert str(small).startswith("lumo_tarn_exmem_info@lumo_tarn_exmem_info: {\n")
+    namespace = {**vars(lumo_tarn)}
+    tc = lumo_tarn.DpTc(src_prefix="10.0.0.0/8", on=handle)
+    assert eval(repr(tc), namespace) == tc
+    with pytest.raises(TypeError):
+        small < 3
+
+
+@given(text=st.text(st.characters(min_codepoint=1, max_codepoint=0x10FFFF), max_size=20))
+def test_any_text_without_a_nul_is_kept(text):
+    assert lumo_tarn.ClKeshAppl(proto_name=text).proto_name == text
+
+
+def test_functions_of_c_work_on_the_same_object():
+    tc = lumo_tarn.DpTc()
+    tc.handle.call(lib.lumo_tarn_dp_tc_tos_set_value, tc.native, 5)
+    assert tc.tos == 5
+
+
+def test_stubs_show_what_there_is():
+    stubs = pathlib.Path(lumo_tarn.__file__).with_name("records.pyi").read_text()
+    shown = {node.name: node for node in ast.parse(stubs).body if isinstance(node, ast.ClassDef)}
+    assert sorted(shown) == sorted(lumo_tarn.records.__all__)
+    for record in RECORDS:
+        functions = [one for one in shown[record.__name__].body if isinstance(one, ast.FunctionDef)]
+        read = [one.name for one in functions if ast.unparse(one.decorator_list[:1]) == "property"]
+        written = [one.name for one in functions if "setter" in ast.unparse(one.decorator_list[:1])]
+        assert read == list(record.members)
+        assert written == [name for name, member in record.members.items() if member.tracked]
+    for name in ("HaState", "LumoDirection", "MemDesc"):
+        enumerators = [ast.unparse(one) for one in shown[name].body if isinstance(one, ast.Assign)]
+        assert enumerators == [f"{one.name} = {one.value}" for one in getattr(lumo_tarn, name)]
+
+
+# ---- messages, against the tool
+
+
+@pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
+@pytest.mark.parametrize("tracked", [False, True], ids=["plain", "tracked"])
+def test_frames_are_those_of_the_tool(message, tracked):
+    options = ["--elements", "2", "--form", "frames"] + (["--tracked"] if tracked else [])
+    for seed in ("1", "2", "3"):
+        frame = tool("generate", message.message_name, "--seed", seed, *options)
+        (one,) = lumo_tarn.messages(frame)
+        assert type(one) is message and one.handle.tracked == tracked
+        assert one.to_frame() == frame
+        assert one.to_xml() == tool("decode", "--xml", given=frame).decode().rstrip("\n")
+        assert one.text() == tool("decode", "--text", given=frame).decode()
+        (expected,) = json_lines(tool("decode", "--json", given=frame))
+        assert one.to_dict() == without_states({key: expected[key] for key in ("message", "payload")})
+        assert message.from_xml(one.to_xml()) == one
+        # Written here from plain values and there from XML.
+        again = message(message.payload_type(**one.to_dict()["payload"]))
+        assert again == one
+        assert again.to_frame() == tool("encode", given=again.to_xml().encode())
+
+
+@pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
+@given(data=st.data())
+@settings(max_examples=3, suppress_health_check=list(HealthCheck))
+def test_frames_of_random_values_are_those_of_the_tool(message, data):
+    values = data.draw(values_of(message.payload_type.record_name))
+    one = message(message.payload_type(**values))
+    line = json.dumps({"message": message.message_name, "payload": values})
+    assert one.to_frame() == tool("encode", given=line.encode())
+
+
+def test_bundles_are_those_of_the_tool():
+    for bundle, message in _schema.BUNDLES.items():
+        kind = next(one for one in MESSAGES if one.message_name == message)
+        frames = tool("generate", bundle, "--form", "frames", "--bundle", "--elements", "1")
+        items = list(lumo_tarn.frames(frames))
+        assert items[0] == lumo_tarn.Control(bundle, "start") and items[-1] == lumo_tarn.Control(bundle, "commit")
+        assert all(type(item) is kind for item in items[1:-1])
+        assert lumo_tarn.bundle_frames(bundle, items[1:-1]) == frames
+        short = bundle.removeprefix("lumo_tarn_").removesuffix("_rsp").replace("_", "-")
+        assert lumo_tarn.bundle_frames(short, lumo_tarn.messages(frames)) == frames
+
+
+def test_a_bundle_takes_its_own_messages_alone():
+    with pytest.raises(OSError):
+        lumo_tarn.bundle_frames("cl-debug", [lumo_tarn.DpIntfMsg()])
+    with pytest.raises(ValueError):
+        other = lumo_tarn.DebugSettingMsg(on=lumo_tarn.Handle())
+        lumo_tarn.bundle_frames("cl-debug", [lumo_tarn.DebugSettingMsg(), other])
+    with pytest.raises(ValueError):
+        lumo_tarn.bundle_frames("poems", [])
+    assert len(lumo_tarn.bundle_frames("cl-debug", [])) == 86, "a failed one has been closed"
+
+
+def test_broken_captures_are_told_with_their_offset():
+    frame = lumo_tarn.DebugSettingMsg().to_frame()
+    for broken in (frame + frame[:50], frame + b"rubbish" * 10):
+        items = lumo_tarn.frames(broken)
+        next(items)
+        with pytest.raises(ValueError, match=f"offset {len(frame)}"):
+            next(items)
+    unknown = bytearray(frame)
+    unknown[27:43] = bytes(16)
+    with pytest.raises(ValueError, match="unknown message at offset 0"):
+        list(lumo_tarn.frames(bytes(unknown)))
+
+
+def test_recordings_are_read(tmp_path: pathlib.Path):
+    frames = tool("generate", "cl-debug", "--form", "frames", "--bundle")
+    kept, source = tmp_path / "recording.xml", tmp_path / "frames.bin"
+    source.write_bytes(frames)
+    tool("record", "--from", str(source), "-o", str(kept))
+    recorded = list(lumo_tarn.recording(kept.read_text()))
+    assert recorded == list(lumo_tarn.messages(frames)) and recorded
+    for wrong in ("<lumo_tarn_debug_setting_msg>", "x" + kept.read_text(), kept.read_text() + "<other/>"):
+        with pytest.raises(ValueError):
+            list(lumo_tarn.recording(wrong))
