@@ -11,6 +11,7 @@ namespace {
 TEST(Module, ComesAndGoesWithTheLibrary) {
     ASSERT_EQ(mirk_module_tot_root.count, 0u);
     ASSERT_EQ(mirk_module_tot_root.first, nullptr);
+    ASSERT_EQ(mirk_module_tot_root.last, &mirk_module_tot_root.first);
     void *library = dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     EXPECT_EQ(mirk_module_tot_root.count, 1u);

@@ -60,9 +60,3 @@ TEST(Layout, RuntimeTypesNameThemselves) {
     EXPECT_STREQ(_ip_address_type_info_internal.name, "ip_address");
     EXPECT_STREQ(_mirk_boolean_type_info_internal.name, "mirk_boolean");
 }
-
-TEST(Layout, ModuleListStartsEmpty) {
-    EXPECT_EQ(mirk_module_tot_root.count, 0u);
-    EXPECT_EQ(mirk_module_tot_root.first, nullptr);
-    EXPECT_EQ(mirk_module_tot_root.last, &mirk_module_tot_root.first);
-}
