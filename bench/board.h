@@ -17,6 +17,7 @@
 namespace tarn::bench {
 
 inline constexpr std::array<std::string_view, 4> workload_names{"deep", "flat", "wide", "strings"};
+inline constexpr std::array<std::size_t, 6> curve_points{100, 1000, 3000, 10000, 30000, 100000};
 
 // Ends the program: a benchmark of something that does not work says nothing.
 inline void require(bool good, const char *what) {

@@ -5,7 +5,6 @@ namespace tarn::bench {
 
 namespace {
 
-constexpr std::size_t points[] = {100, 1000, 3000, 10000, 30000, 100000};
 // An array grows by one element at a time while XML is read, and each growth moves it.
 constexpr std::size_t most_read_from_xml = 3000;
 
@@ -45,7 +44,7 @@ auto looking_up(std::shared_ptr<Sample<Plain>> s, std::string array, std::string
 
 template <class Plain>
 void add(Board &board, std::string_view list, Plain (*make)(std::size_t), std::string array, std::string member) {
-    for (const std::size_t n : points) {
+    for (const std::size_t n : curve_points) {
         const auto later = std::make_shared<Later<Plain>>(make, n);
         board.add_point("encode", list, n, [later] { return encoding(later->get()); });
         board.add_point("decode and destroy", list, n, [later] { return decoding(later->get()); });

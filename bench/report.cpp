@@ -13,16 +13,18 @@ namespace {
 
 constexpr const char *product = TARN_BENCH_STATIC ? "static archive" : "shared library";
 
-void print_head(const std::string &title) {
-    std::printf("\n%-66s", title.c_str());
-    for (const std::string_view name : workload_names) std::printf(" %13s", std::string(name).c_str());
+// Tables are Markdown, so that they can be taken over into a page as they are.
+void print_row(const std::string &head, const std::vector<std::string> &values) {
+    std::printf("| %-82s |", head.c_str());
+    for (const std::string &value : values) std::printf(" %11s |", value.c_str());
     std::printf("\n");
 }
 
-// One line of a table; a place without a value stays blank.
-void print_row(const std::string &head, const std::vector<std::string> &values) {
-    std::printf("  %-64s", head.c_str());
-    for (const std::string &value : values) std::printf(" %13s", value.c_str());
+void print_head(const std::string &title, const std::vector<std::string> &columns) {
+    std::printf("\n");
+    print_row(title, columns);
+    std::printf("|---|");
+    for (std::size_t i = 0; i < columns.size(); ++i) std::printf("--:|");
     std::printf("\n");
 }
 
@@ -31,6 +33,8 @@ std::string text_of(const char *format, const std::optional<double> &value) {
     if (value) std::snprintf(text, sizeof text, format, *value);
     return text;
 }
+
+const std::vector<std::string> workloads(workload_names.begin(), workload_names.end());
 
 void print_times(const Board &board, const std::string &operation) {
     bool first = true;
@@ -43,33 +47,43 @@ void print_times(const Board &board, const std::string &operation) {
             any = any || time;
         }
         if (!any) continue;
-        if (first) print_head(operation + ", ns");
+        if (first) print_head(operation + ", ns", workloads);
         first = false;
         print_row(who, row);
     }
 }
 
+void print_ratios(const Board &board) {
+    const std::vector<Ratio> all = ratios(board);
+    if (!all.empty()) print_head("ratio (goal)", workloads);
+    for (const Ratio &ratio : all) {
+        std::vector<std::string> row;
+        for (std::size_t i = 0; i < workload_names.size(); ++i) {
+            row.push_back(text_of("%.2f", ratio.value[i]) + text_of(" (%.2f)", ratio.goal[i]));
+        }
+        print_row(ratio.operation + ": " + ratio.ours + " / " + ratio.theirs, row);
+    }
+}
+
 void print_curves(const Board &board) {
+    bool first = true;
     for (const auto &[operation, lists] : board.curves()) {
         for (const auto &[list, points] : lists) {
-            std::string head, row;
+            std::vector<std::string> columns, row;
             std::optional<double> thousand, last;
-            for (const std::size_t n : points) {
+            for (const std::size_t n : curve_points) {
                 const auto time = board.median_an_element(operation, list, n);
-                if (!time) continue;
+                columns.push_back(std::to_string(n));
+                row.push_back(text_of("%.1f", time));
                 if (n == 1000) thousand = time;
-                last = time;
-                char cell[32];
-                std::snprintf(cell, sizeof cell, " %9zu", n);
-                head += cell;
-                std::snprintf(cell, sizeof cell, " %9.1f", *time);
-                row += cell;
+                if (time) last = time;
             }
-            if (row.empty()) continue;
-            std::printf("\n%-34s%s\n%-34s%s", (operation + ", " + list).c_str(), head.c_str(), "  ns an element",
-                        row.c_str());
-            if (thousand) std::printf("   the last over that at 1000: %.2f", *last / *thousand);
-            std::printf("\n");
+            if (!last) continue;
+            columns.push_back("last / 1000");
+            row.push_back(thousand ? text_of("%.2f", *last / *thousand) : "");
+            if (first) print_head("ns an element, by the number of elements", columns);
+            first = false;
+            print_row(operation + ", " + list, row);
         }
     }
 }
@@ -83,15 +97,7 @@ nlohmann::ordered_json number(const std::optional<double> &value) {
 void print_tables(const Board &board) {
     std::printf("Product: %s. Medians of repetitions in random order.\n", product);
     for (const std::string &operation : board.operations()) print_times(board, operation);
-    const std::vector<Ratio> all = ratios(board);
-    if (!all.empty()) print_head("ratio (goal)");
-    for (const Ratio &ratio : all) {
-        std::vector<std::string> row;
-        for (std::size_t i = 0; i < workload_names.size(); ++i) {
-            row.push_back(text_of("%.2f", ratio.value[i]) + text_of(" (%.2f)", ratio.goal[i]));
-        }
-        print_row(ratio.operation + ": " + ratio.ours + " / " + ratio.theirs, row);
-    }
+    print_ratios(board);
     print_curves(board);
 }
 

@@ -3,7 +3,6 @@
 #include <arpa/inet.h>
 
 #include <array>
-#include <cstdio>
 #include <cstring>
 
 #include "coding.hpp"
@@ -72,26 +71,38 @@ bool zero_from(const ip_address &address, size_t first) {
 }  // namespace
 
 AddressText::AddressText(const ip_address &address) {
-    const auto write = [&](const char *format, auto... values) {
-        const int written = std::snprintf(text_ + length_, sizeof text_ - length_, format, values...);
-        length_ += static_cast<size_t>(written);
-    };
+    const auto put = [&](std::string_view text) { length_ += text.copy(text_ + length_, sizeof text_ - length_); };
+    const auto number = [&](uint32_t value) { put(Decimal(value).view()); };
     if (address.af == 0 && address.prefix_len == 0 && address.scope == 0 && zero_from(address, 0)) {
-        write("%s", "unset");
+        put("unset");
         return;
     }
     const bool v4 = address.af == AF_INET && zero_from(address, 1);
-    if (v4 || address.af == AF_INET6) {
+    if (v4) {
+        for (int shift = 24; shift >= 0; shift -= 8) {
+            number(address.word[0] >> shift & 0xffu);
+            if (shift != 0) put(".");
+        }
+    } else if (address.af == AF_INET6) {
         uint8_t bytes[16];
         for (size_t i = 0; i < 4; ++i) put_big_endian<uint32_t>(bytes + 4 * i, address.word[i]);
-        inet_ntop(address.af, bytes, text_, sizeof text_);
+        inet_ntop(AF_INET6, bytes, text_, sizeof text_);
         length_ = std::strlen(text_);
-        if (address.scope != 0) write("%%%u", unsigned{address.scope});
     } else {
-        write("%u,%u,%u,%u,%u,%u", unsigned{address.af}, unsigned{address.scope}, address.word[0], address.word[1],
-              address.word[2], address.word[3]);
+        number(address.af);
+        put(",");
+        number(address.scope);
+        for (const uint32_t word : address.word) {
+            put(",");
+            number(word);
+        }
     }
-    write("/%u", unsigned{address.prefix_len});
+    if ((v4 || address.af == AF_INET6) && address.scope != 0) {
+        put("%");
+        number(address.scope);
+    }
+    put("/");
+    number(address.prefix_len);
 }
 
 bool parse_address(std::string_view text, ip_address *address) {

@@ -1,4 +1,5 @@
 // Strings: the value is characters with a length, never NUL-terminated.
+#include <algorithm>
 #include <array>
 
 #include "document.hpp"
@@ -28,7 +29,15 @@ size_t xml_character(std::string_view text) {
 
 // Every byte that cannot stand becomes one "?", so that the length survives.
 void put_escaped(TextSink &sink, std::string_view text) {
+    const auto stays = [](char c) {
+        const auto byte = static_cast<uint8_t>(c);
+        return byte >= 0x20 && byte < 0x80 && c != '&' && c != '<' && c != '>' && c != '"';
+    };
     while (!text.empty()) {
+        const auto run = static_cast<size_t>(std::find_if_not(text.begin(), text.end(), stays) - text.begin());
+        sink.put(text.substr(0, run));
+        text.remove_prefix(run);
+        if (text.empty()) break;
         const size_t length = xml_character(text);
         switch (length == 0 ? '?' : text[0]) {
             case '&':
@@ -56,16 +65,20 @@ void put_escaped(TextSink &sink, std::string_view text) {
 // One string stays on one line.
 void put_printable(TextSink &sink, std::string_view text) {
     constexpr char digits[] = "0123456789abcdef";
-    for (const char c : text) {
+    const auto stays = [](char c) {
         const auto byte = static_cast<uint8_t>(c);
-        if (c == '\\') {
-            sink.put("\\\\");
-        } else if (byte >= 0x20 && byte < 0x7f) {
-            sink.put({&c, 1});
-        } else {
-            const char hex[4] = {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
-            sink.put({hex, sizeof hex});
-        }
+        return byte >= 0x20 && byte < 0x7f && c != '\\';
+    };
+    while (!text.empty()) {
+        const auto end = std::find_if_not(text.begin(), text.end(), stays);
+        const auto run = static_cast<size_t>(end - text.begin());
+        sink.put(text.substr(0, run));
+        text.remove_prefix(run);
+        if (text.empty()) break;
+        const auto byte = static_cast<uint8_t>(text[0]);
+        const char hex[4] = {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+        sink.put(byte == '\\' ? std::string_view("\\\\") : std::string_view(hex, sizeof hex));
+        text.remove_prefix(1);
     }
 }
 
@@ -90,9 +103,10 @@ uint32_t char_sizeof(mirk_handle *) { return 1; }
 uint32_t var_string_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, const char *chars,
                           int32_t remaining, uint32_t length, uint32_t *err) {
     if (!usable(buffer, chars, length, err)) return 0;
+    const std::string_view own = mirk::text_or_empty(name);
     return mirk::write_whole(buffer, remaining, err, [&](TextSink &sink) {
         sink.blanks(indent);
-        sink.put(mirk::text_or_empty(name));
+        sink.put(own);
         sink.put("@var_string:");
         put_printable(sink, view(chars, length));
         sink.put("\n");
@@ -102,10 +116,11 @@ uint32_t var_string_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent
 uint32_t var_string_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, const char *chars,
                            int32_t remaining, uint32_t length, uint8_t state, uint32_t *err) {
     if (!usable(buffer, chars, length, err)) return 0;
+    const std::string_view own = mirk::text_or_empty(name);
     return mirk::write_whole(buffer, remaining, err, [&](TextSink &sink) {
-        mirk::put_start_tag(sink, mirk::text_or_empty(name), state);
+        mirk::put_start_tag(sink, own, state);
         put_escaped(sink, view(chars, length));
-        mirk::put_end_tag(sink, mirk::text_or_empty(name));
+        mirk::put_end_tag(sink, own);
     });
 }
 

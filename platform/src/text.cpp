@@ -1,6 +1,7 @@
 // Blanks, formatted text, tags.
 #include "text.hpp"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -9,9 +10,10 @@ namespace mirk {
 
 uint32_t print_line(char *buffer, uint32_t indent, const char *name, std::string_view kind, std::string_view value,
                     int32_t remaining, uint32_t *err) {
+    const std::string_view own = text_or_empty(name);
     return write_whole(buffer, remaining, err, [&](TextSink &sink) {
         sink.blanks(indent);
-        sink.put(text_or_empty(name));
+        sink.put(own);
         sink.put("@");
         sink.put(kind);
         sink.put(":");
@@ -22,10 +24,11 @@ uint32_t print_line(char *buffer, uint32_t indent, const char *name, std::string
 
 uint32_t print_element(char *buffer, const char *name, uint8_t state, std::string_view value, int32_t remaining,
                        uint32_t *err) {
+    const std::string_view own = text_or_empty(name);
     return write_whole(buffer, remaining, err, [&](TextSink &sink) {
-        put_start_tag(sink, text_or_empty(name), state);
+        put_start_tag(sink, own, state);
         sink.put(value);
-        put_end_tag(sink, text_or_empty(name));
+        put_end_tag(sink, own);
     });
 }
 
@@ -47,6 +50,31 @@ void put_end_tag(TextSink &sink, std::string_view name) {
 }
 
 }  // namespace mirk
+
+namespace {
+
+constexpr int another_format = -2;
+
+// Most formats are text and strings alone. What vsnprintf does with such a one, without its machinery.
+int print_strings(char *buffer, size_t size, const char *format, va_list arguments) {
+    size_t length = 0;
+    for (; *format != 0; ++format) {
+        if (*format != '%') {
+            if (length < size) buffer[length] = *format;
+            ++length;
+            continue;
+        }
+        if (*++format != 's') return another_format;
+        const char *argument = va_arg(arguments, const char *);
+        const std::string_view text = argument != nullptr ? argument : "(null)";
+        if (length < size) text.copy(buffer + length, size - length);
+        length += text.size();
+    }
+    buffer[std::min(length, size - 1)] = 0;
+    return length <= INT32_MAX ? static_cast<int>(length) : -1;
+}
+
+}  // namespace
 
 extern "C" {
 
@@ -78,8 +106,13 @@ uint32_t mirk_snprintf(mirk_handle *, uint32_t, char *buffer, int32_t remaining,
     }
     va_list arguments;
     va_start(arguments, format);
-    const int length = std::vsnprintf(buffer, static_cast<size_t>(remaining), format, arguments);
+    int length = print_strings(buffer, static_cast<size_t>(remaining), format, arguments);
     va_end(arguments);
+    if (length == another_format) {
+        va_start(arguments, format);
+        length = std::vsnprintf(buffer, static_cast<size_t>(remaining), format, arguments);
+        va_end(arguments);
+    }
     if (length < 0) {
         *err = 22;
         return 0;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "support.hpp"
 
 using test::Guarded;
@@ -15,6 +17,27 @@ TEST(PrintSpace, WritesExactlyTheBlanks) {
     EXPECT_EQ(mirk_print_space(h, 7, buffer.at(), 4, 3, &err), 0u);
     EXPECT_EQ(err, 28u);
     EXPECT_TRUE(buffer.intact_behind(3));
+}
+
+TEST(Snprintf, FormatsAsPrintfDoes) {
+    Handle h;
+    for (int room = 1; room < 24; ++room) {
+        const auto check = [&](const char *format, auto... values) {
+            char expected[32] = "", own[32] = "";
+            const int length = std::snprintf(expected, static_cast<size_t>(room), format, values...);
+            uint32_t err = 0;
+            const uint32_t written = mirk_snprintf(h, 7, own, room, &err, format, values...);
+            EXPECT_STREQ(own, expected) << format;
+            EXPECT_EQ(err, length < room ? 0u : 28u) << format;
+            EXPECT_EQ(written, static_cast<uint32_t>(std::min(length, room - 1))) << format;
+        };
+        check("%s@%s: {\n", "name", "kind");
+        check("%s%s", "", "text");
+        check("}\n", 0);
+        check("%s[%d]", "name", 12);
+        check("%d of %s", 12, "name");
+        check("100%% %s", "name");
+    }
 }
 
 TEST(Snprintf, CutsWith28) {
