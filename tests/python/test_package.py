@@ -2,8 +2,11 @@
 
 import ast
 import copy
+import gc
 import json
 import pathlib
+import subprocess
+import sys
 
 import lumo_tarn
 import pytest
@@ -200,6 +203,28 @@ def test_stubs_show_what_there_is():
     for name in ("HaState", "LumoDirection", "MemDesc"):
         enumerators = [ast.unparse(one) for one in shown[name].body if isinstance(one, ast.Assign)]
         assert enumerators == [f"{one.name} = {one.value}" for one in getattr(lumo_tarn, name)]
+
+
+def test_objects_may_outlive_the_modules(tmp_path: pathlib.Path):
+    program = tmp_path / "ends.py"
+    program.write_text(
+        "import lumo_tarn\nkept = [lumo_tarn.DpTtMsg(), lumo_tarn.DpTcList(tc_list=[{}, {}])]\n"
+        "element = kept[1].tc_list[1]\nkept.append(kept)\n"
+    )
+    ended = subprocess.run([sys.executable, str(program)], capture_output=True, check=False)
+    assert (ended.returncode, ended.stderr) == (0, b"")
+
+
+def test_handles_and_objects_go_together_in_a_cycle():
+    class Holder:
+        pass
+
+    for _ in range(20):
+        holder = Holder()
+        holder.itself, holder.handle = holder, lumo_tarn.Handle()
+        holder.records = [lumo_tarn.DpTc(on=holder.handle) for _ in range(3)]
+        del holder
+    gc.collect()
 
 
 # ---- messages, against the tool

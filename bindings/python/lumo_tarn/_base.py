@@ -93,8 +93,8 @@ class Native:
     def _own(self, on: Handle, native: Any, destroy: Callable[..., Any]) -> None:
         if native == ffi.NULL:
             raise MemoryError(f"no memory for a {type(self).__name__}")
-        kept = ffi.gc(native, lambda object_: destroy(on.native, CTX_ID, object_))
-        self._bind(on, lambda: kept)
+        on.destroy_with(self, native, destroy)
+        self._bind(on, lambda: native)
 
 
 class Record(Native):

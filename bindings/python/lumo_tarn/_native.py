@@ -4,11 +4,13 @@ from __future__ import annotations
 
 import os
 import threading
+import weakref
 from typing import Any, Callable
 
 from ._cffi import ffi as ffi
 
-lib: Any = ffi.dlopen(os.environ.get("LUMO_TARN_LIBRARY", "liblumo_ui_tarn.so.1"))
+# Objects that are left when the interpreter ends are destroyed then: the library stays loaded for them.
+lib: Any = ffi.dlopen(os.environ.get("LUMO_TARN_LIBRARY", "liblumo_ui_tarn.so.1"), os.RTLD_NOW | os.RTLD_NODELETE)
 
 CTX_ID = 1
 _LACK_OF_ROOM = (12, 28, 90)
@@ -18,6 +20,11 @@ lib.mirk_lumo_ui_tarn_type_trace_init()
 lib.mirk_lumo_ui_tarn_message_trace_init()
 if "MIRK_TRACE" not in os.environ:
     lib.mirk_platform_trace_set_levels(1)  # errors are raised, and need not be told twice
+
+
+def _destroy(closing: Any, h: Any, native: Any, destroy: Callable[..., Any], ctx_id: int = CTX_ID) -> None:
+    if closing.alive:
+        destroy(h, ctx_id, native)
 
 
 class Handle:
@@ -31,7 +38,13 @@ class Handle:
         native = lib.mirk_platform_handle_open(options)
         if native == ffi.NULL:
             raise MemoryError("no memory for a handle")
-        self.native: Any = ffi.gc(native, lib.mirk_platform_handle_close)
+        self.native: Any = native
+        self._closing = weakref.finalize(self, lib.mirk_platform_handle_close, native)
+
+    def destroy_with(self, holder: object, native: Any, destroy: Callable[..., Any]) -> None:
+        """Destroys the native object when its holder goes. A handle that goes first releases what is left; that happens
+        only when both are parts of one cycle, since holders hold their handle."""
+        weakref.finalize(holder, _destroy, self._closing, self.native, native, destroy)
 
     def live_blocks(self) -> int:
         """Blocks of memory that objects hold; 0 when none is left."""

@@ -1,0 +1,10 @@
+"""Prints the traffic classes of a captured answer: print_classes.py FILE, as "tarn show dp-tt-cfg --save" keeps one."""
+
+import sys
+
+import lumo_tarn
+
+for message in lumo_tarn.messages(open(sys.argv[1], "rb").read()):
+    for table in message.payload.lumo_data:
+        for tc in table.agg_tc_list.tc_list:
+            print(tc.id, tc.src_prefix, tc.dst_prefix)

@@ -1,0 +1,92 @@
+// Watches records for changes by their state bytes. Setters leave 2 in the state byte of what they write, so whoever
+// clears the bytes after a look sees at the next look what was written in between, at any depth, without a copy to
+// compare with. Needs a handle that tracks.
+//
+// The program plays both parts: something sets members of a table, and the watcher tells of them.
+#include <mirk_platform.h>
+
+#include <cstdio>
+#include <lumo_ui_tarn.hpp>
+#include <string>
+#include <type_traits>
+
+using namespace lumo_ui_tarn;
+
+namespace {
+
+constexpr std::uint8_t written = 2;
+
+template <class T>
+std::string shown(T value) {
+    if constexpr (std::is_same_v<T, std::string>) {
+        return value;
+    } else if constexpr (std::is_same_v<T, address>) {
+        return "an address with prefix length " + std::to_string(value.prefix_len);
+    } else if constexpr (std::is_enum_v<T>) {
+        return std::string(name_of(value));
+    } else {
+        return std::to_string(value);
+    }
+}
+
+// Prints what was written, and says that it has been seen. Works for every record there is.
+template <class R>
+void tell_changes(record_ref<R> record, const std::string &path) {
+    record_ref<R>::for_each_member([&](const auto &m) {
+        if constexpr (!std::is_null_pointer_v<decltype(m.get_state)>) {
+            const std::string place = path + "." + std::string(m.name);
+            const auto value = (record.*m.get)();
+            using Value = std::decay_t<decltype(value)>;
+            if constexpr (std::is_null_pointer_v<decltype(m.set)>) {  // an array: ask each element
+                for (std::size_t i = 0; i < value.size(); ++i) {
+                    tell_changes(value[i], place + "[" + std::to_string(i) + "]");
+                }
+            } else if constexpr (std::is_class_v<Value> && !std::is_same_v<Value, std::string> &&
+                                 !std::is_same_v<Value, address>) {
+                tell_changes(value, place);
+            } else if ((record.*m.get_state)() == written) {
+                std::printf("  %s is now %s\n", place.c_str(), shown(value).c_str());
+                (record.*m.set_state)(0);
+            }
+        }
+    });
+}
+
+void watch(mirk_handle *h) {
+    context c(h);
+    dp_tt_table table(c);
+    const auto look = [&](const char *when) {
+        std::printf("%s:\n", when);
+        tell_changes<dp_tt_table_type>(table, "table");
+    };
+    look("at first");
+
+    table.set_lumo_num(3).set_duration(60);
+    const auto classes = table.agg_tc_list().tc_list();
+    classes.grow(2);
+    classes[1].set_proto(17).appl().set_id(5);
+    look("after the first round");
+
+    look("with nothing done");
+
+    classes[1].set_proto(17);  // the same value, and written all the same
+    address prefix;
+    prefix.af = 2;
+    prefix.prefix_len = 8;
+    prefix.word[0] = 0x0a000000;
+    classes[0].set_src_prefix(prefix);
+    look("after the second round");
+}
+
+}  // namespace
+
+int main() {
+    mirk_platform_trace_set_levels(1);
+    mirk_platform_handle_options options;
+    mirk_platform_handle_options_init(&options);
+    options.tracking = MIRK_PLATFORM_TRACKING_ON;
+    mirk_handle *h = mirk_platform_handle_open(&options);
+    if (h == nullptr) return 3;
+    watch(h);
+    return mirk_platform_handle_close(h) == 0 ? 0 : 1;
+}

@@ -1,0 +1,152 @@
+"""Runs every example program as its user would, and holds what it prints against what the tool says or what is known."""
+
+import json
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+
+import pytest
+
+EXAMPLES = pathlib.Path(os.environ["TARN_EXAMPLES"])
+PROGRAMS = pathlib.Path(os.environ["TARN_EXAMPLE_PROGRAMS"])
+TOOL = os.environ["TARN_TOOL"]
+
+
+def run(*command, code: int = 0) -> str:
+    done = subprocess.run([str(word) for word in command], capture_output=True, text=True, timeout=120, check=False)
+    assert done.returncode == code, done.stdout + done.stderr
+    return done.stdout if code == 0 else done.stderr
+
+
+def script(name: str, *arguments, code: int = 0) -> str:
+    return run(sys.executable, EXAMPLES / name, *arguments, code=code)
+
+
+class Background:
+    """A process that serves on a socket, and says in a line when it is ready, until the with statement ends."""
+
+    def __init__(self, *command) -> None:
+        self.command = [str(word) for word in command]
+
+    def __enter__(self) -> None:
+        self.process = subprocess.Popen(self.command, stdout=subprocess.PIPE, text=True)
+        assert self.process.stdout.readline()
+
+    def __exit__(self, *_: object) -> None:
+        self.process.send_signal(signal.SIGTERM)
+        assert self.process.wait(60) == 0
+        self.process.stdout.close()
+
+
+def test_answer_request(tmp_path: pathlib.Path):
+    socket = tmp_path / "socket"
+    with Background(PROGRAMS / "answer_request", socket, "warn", "info"):
+        for options in ([], ["--tracked"]):
+            answer = json.loads(run(TOOL, "show", "cl-debug", "--socket", socket, "--json", *options))
+            (message,) = answer["messages"]
+            levels = {"info_enabled": 1, "trace_enabled": 0, "warn_enabled": 1, "error_enabled": 1}
+            states = {"@state": dict.fromkeys(levels, 2)} if options else {}
+            assert message["payload"] == {**levels, **states}
+        refusal = run(TOOL, "show", "dp-intf", "--socket", socket, code=1)
+        assert "only the levels of the client are known here" in refusal
+
+
+def classes_as_the_tool_shows_them(file: pathlib.Path) -> list:
+    message = json.loads(run(TOOL, "decode", "--json", file).splitlines()[0])
+    return [(table["lumo_num"], table["agg_tc_list"]["tc_list"]) for table in message["payload"]["lumo_data"]]
+
+
+def test_collect_bundle(tmp_path: pathlib.Path):
+    tables = EXAMPLES / "dp_tt_cfg.xml"
+    expected = ""
+    for number, classes in classes_as_the_tool_shows_them(tables):
+        expected += f"processor {number}: {len(classes)} classes\n"
+        for tc in classes:
+            expected += f"  {tc['id']}  protocol {tc['proto']}  {tc['src_prefix']} -> {tc['dst_prefix']}\n"
+    assert expected.count("\n") > 5
+    socket = tmp_path / "socket"
+    with Background(TOOL, "answer", "--socket", socket, f"dp-tt-cfg={tables}"):
+        assert run(PROGRAMS / "collect_bundle", socket) == expected
+    for fault, word in {"abort": "aborted", "no-commit": "receive", "foreign": "message"}.items():
+        other = tmp_path / fault
+        with Background(TOOL, "answer", "--socket", other, "--fault", fault, f"dp-tt-cfg={tables}"):
+            assert word in run(PROGRAMS / "collect_bundle", other, code=1)
+    other = tmp_path / "other"
+    with Background(TOOL, "answer", "--socket", other, f"cl-debug={EXAMPLES / 'cl_debug.xml'}"):
+        assert run(PROGRAMS / "collect_bundle", other, code=1)
+
+
+def test_watch_changes():
+    assert run(PROGRAMS / "watch_changes") == (
+        "at first:\n"
+        "after the first round:\n"
+        "  table.lumo_num is now 3\n"
+        "  table.duration is now 60\n"
+        "  table.agg_tc_list.tc_list[1].proto is now 17\n"
+        "  table.agg_tc_list.tc_list[1].appl.id is now 5\n"
+        "with nothing done:\n"
+        "after the second round:\n"
+        "  table.agg_tc_list.tc_list[0].src_prefix is now an address with prefix length 8\n"
+        "  table.agg_tc_list.tc_list[1].proto is now 17\n"
+    )
+
+
+def test_print_classes(tmp_path: pathlib.Path):
+    answer = tmp_path / "answer.bin"
+    run(TOOL, "encode", EXAMPLES / "dp_tt_cfg.xml", "--bundle", "dp-tt-cfg", "-o", answer)
+    expected = [
+        f"{tc['id']} {tc['src_prefix']} {tc['dst_prefix']}"
+        for _, classes in classes_as_the_tool_shows_them(EXAMPLES / "dp_tt_cfg.xml")
+        for tc in classes
+    ]
+    assert script("print_classes.py", answer).splitlines() == expected
+
+
+def test_the_lines_of_the_readme_are_an_example():
+    readme = EXAMPLES.parent.joinpath("README.md").read_text()
+    block = readme.partition("```python\n")[2].partition("```")[0]
+    program = EXAMPLES.joinpath("print_classes.py").read_text().replace("sys.argv[1]", '"answer.bin"')
+    assert block.strip() and block in program
+
+
+def test_read_recording(tmp_path: pathlib.Path):
+    levels = EXAMPLES.joinpath("cl_debug.xml").read_text()
+    changed = levels.replace("<trace_enabled>0", "<trace_enabled>1")
+    frames, kept = tmp_path / "frames.bin", tmp_path / "recording.xml"
+    parts = []
+    for number, text in enumerate((levels, changed, changed)):
+        source, part = tmp_path / f"{number}.xml", tmp_path / f"{number}.bin"
+        source.write_text(text)
+        run(TOOL, "encode", source, "--bundle", "cl-debug", "-o", part)
+        parts.append(part.read_bytes())
+    frames.write_bytes(b"".join(parts))
+    run(TOOL, "record", "--from", frames, "-o", kept)
+    name = "lumo_tarn_debug_setting_msg"
+    expected = f"1: first {name}\n2: {name}\n   trace_enabled: 0 -> 1\n3: {name}\n"
+    assert script("read_recording.py", kept) == expected
+
+
+def test_convert_captures(tmp_path: pathlib.Path):
+    source, target = tmp_path / "captures", tmp_path / "converted"
+    source.mkdir()
+    told = ""
+    for bundle in ("cl-debug", "dp-appl-cfg", "dp-tt-cfg"):
+        capture = source / f"{bundle}.bin"
+        run(TOOL, "generate", bundle, "--form", "frames", "--elements", "2", "--bundle", "-o", capture)
+        told += f"{bundle}.bin: 1 messages\n"
+    assert script("convert_captures.py", source, target) == told
+    for file in source.glob("*.bin"):
+        shown = [json.loads(line) for line in run(TOOL, "decode", "--json", file).splitlines()]
+        converted = [json.loads(line) for line in target.joinpath(file.stem + ".json").read_text().splitlines()]
+        assert converted == [line for line in shown if "message" in line]
+    source.joinpath("a.bin").write_bytes(b"rubbish")
+    complaint = script("convert_captures.py", source, tmp_path / "again", code=1)
+    assert complaint.startswith("a.bin: no whole frame at offset 0")
+    assert len(list(tmp_path.joinpath("again").glob("*.json"))) == 3
+
+
+@pytest.mark.parametrize("program", ["answer_request", "collect_bundle"])
+def test_usage_is_told(program: str):
+    assert run(PROGRAMS / program, code=2).startswith(f"usage: {program} SOCKET")
