@@ -1,0 +1,10 @@
+# Copies the schema and adds a member to one record: cmake -DSCHEMA= -DINTO= -P new_member.cmake
+file(COPY ${SCHEMA} DESTINATION ${INTO})
+set(file ${INTO}/schema/records/traffic_class.h)
+file(READ ${file} text)
+set(table "lumo_tarn_dp_tc_members[] = {\n")
+string(REPLACE "${table}" "${table}    u16(\"dwell_limit\", \"how long the class may dwell\"),\n" longer "${text}")
+if(longer STREQUAL text)
+  message(FATAL_ERROR "found no table to add a member to in ${file}")
+endif()
+file(WRITE ${file} "${longer}")

@@ -1,0 +1,85 @@
+// A member that is added to the schema shows in everything that is printed from it, without another edit. The generator
+// is built a second time, from a copy of the schema with one more member of one record: dwell_limit of lumo_tarn_dp_tc.
+//
+// A new product gets a line in the table below: how it is printed, and what of the member has to be in which file.
+#include <gtest/gtest.h>
+
+#include "surface.h"
+
+namespace {
+
+using namespace surface;
+
+struct Product {
+    const char *kind;
+    const char *file;
+    const char *shows;
+};
+
+constexpr Product products[] = {
+    {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "void lumo_tarn_dp_tc_dwell_limit_set_value("},
+    {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "/* dwell_limit: how long the class may dwell */"},
+    {"headers", "lumo_ui_tarn.hpp", "const Self &set_dwell_limit(std::uint16_t value) const"},
+    {"headers", "lumo_ui_tarn.hpp", "std::uint16_t dwell_limit() const"},
+    {"python", "_schema.py", R"(("dwell_limit", "dwell_limit", "u16", "", "how long the class may dwell"))"},
+    {"python", "records.pyi", "def dwell_limit(self) -> int"},
+    {"python", "records.pyi", "def dwell_limit(self, value: int) -> None"},
+    {"dissector", "tarn.lua", "dwell_limit"},
+    {"exports", "accessors.inc", "lumo_tarn_dp_tc_dwell_limit_get_value("},
+    {"lists", "exports.txt", "T lumo_tarn_dp_tc_dwell_limit_get_value"},
+    {"lists", "layout.txt", "dwell_limit"},
+    {"operations", "operations.inc", "lumo_tarn_dp_tc_dwell_limit_get_value("},
+};
+
+Output generate_with_new_member(const std::string &kind, const std::filesystem::path &into) {
+    return run(std::string(TARN_GENERATE_WITH_NEW_MEMBER) + " " + kind + " " + quoted(into));
+}
+
+TEST(NewMember, ShowsInAllThatIsPrinted) {
+    for (const Product &product : products) {
+        SCOPED_TRACE(std::string(product.kind) + " " + product.file);
+        const Directory before, after;
+        ASSERT_EQ(generate(product.kind, before.path()).code, 0);
+        ASSERT_EQ(generate_with_new_member(product.kind, after.path()).code, 0);
+        EXPECT_EQ(content_of(before.path() / product.file).find(product.shows), std::string::npos);
+        EXPECT_NE(content_of(after.path() / product.file).find(product.shows), std::string::npos);
+    }
+}
+
+// The new headers in front of those of the tree, which have the contract.
+struct NewHeaders : testing::Test {
+    void SetUp() override { ASSERT_EQ(generate_with_new_member("headers", fresh.path()).code, 0); }
+    Output compile(const char *name, const std::string &source, const std::string &command) {
+        const std::filesystem::path file = fresh.path() / name;
+        std::ofstream(file) << source;
+        return run(command + " -I" + quoted(fresh.path()) + " -I" + quoted(TARN_INCLUDE) + " " + quoted(file));
+    }
+    Directory fresh;
+};
+
+TEST_F(NewHeaders, GiveTheMemberToCAndCpp) {
+    const std::string c =
+        "#include <lumo_ui_tarn/records/lumo_tarn_dp_tc.h>\n"
+        "void set(mirk_handle *h, lumo_tarn_dp_tc *tc, uint32_t *err);\n"
+        "void set(mirk_handle *h, lumo_tarn_dp_tc *tc, uint32_t *err) {\n"
+        "    lumo_tarn_dp_tc_dwell_limit_set_value(h, 1, tc, 5, err);\n}\n";
+    const Output as_c = compile("use.c", c, TARN_CC " -fsyntax-only -Wall -Werror");
+    EXPECT_EQ(as_c.code, 0) << as_c.text;
+    const std::string cpp =
+        "#include <lumo_ui_tarn.hpp>\n"
+        "int limit(const lumo_ui_tarn::dp_tc &tc) { return tc.set_dwell_limit(5).set_tos(1).dwell_limit(); }\n";
+    const Output as_cpp = compile("use.cpp", cpp, TARN_CXX " -std=c++17 -fsyntax-only -Wall -Werror");
+    EXPECT_EQ(as_cpp.code, 0) << as_cpp.text;
+}
+
+TEST_F(NewHeaders, GiveTheMemberToPython) {
+    const std::filesystem::path preprocessed = fresh.path() / "headers.i", package = fresh.path() / "_cffi.py";
+    const Output headers = compile("use.c", "#include <lumo_ui_tarn.h>\n", TARN_CC " -E -o " + quoted(preprocessed));
+    ASSERT_EQ(headers.code, 0) << headers.text;
+    const Output made =
+        run(TARN_PYTHON " " + quoted(TARN_BUILD_CDEFS) + " " + quoted(package) + " " + quoted(preprocessed));
+    ASSERT_EQ(made.code, 0) << made.text;
+    EXPECT_NE(content_of(package).find("lumo_tarn_dp_tc_dwell_limit_set_value"), std::string::npos);
+}
+
+}  // namespace
