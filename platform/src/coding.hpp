@@ -1,23 +1,39 @@
-// Numbers on the wire: big-endian and byte by byte, since buffers are not aligned.
+// Numbers on the wire: big-endian, in buffers that are not aligned.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace mirk {
 
+// The bytes of a number the other way round where the host is little-endian. Spelled out, since a loop over bytes stays
+// one.
+template <typename T>
+T to_or_from_big_endian(T value) {
+    if constexpr (std::endian::native == std::endian::big || sizeof(T) == 1) {
+        return value;
+    } else if constexpr (sizeof(T) == 2) {
+        return static_cast<T>(__builtin_bswap16(static_cast<uint16_t>(value)));
+    } else if constexpr (sizeof(T) == 4) {
+        return static_cast<T>(__builtin_bswap32(static_cast<uint32_t>(value)));
+    } else {
+        return static_cast<T>(__builtin_bswap64(static_cast<uint64_t>(value)));
+    }
+}
+
 template <typename T>
 void put_big_endian(void *to, T value) {
-    auto *bytes = static_cast<uint8_t *>(to);
-    for (size_t i = 0; i < sizeof(T); ++i) bytes[i] = static_cast<uint8_t>(value >> (8 * (sizeof(T) - 1 - i)));
+    value = to_or_from_big_endian(value);
+    std::memcpy(to, &value, sizeof value);
 }
 
 template <typename T>
 T get_big_endian(const void *from) {
-    const auto *bytes = static_cast<const uint8_t *>(from);
-    T value = 0;
-    for (size_t i = 0; i < sizeof(T); ++i) value = static_cast<T>(static_cast<uint64_t>(value) << 8 | bytes[i]);
-    return value;
+    T value;
+    std::memcpy(&value, from, sizeof value);
+    return to_or_from_big_endian(value);
 }
 
 // The entry of every primitive that moves bytes: an earlier error, a null pointer, room.

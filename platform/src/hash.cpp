@@ -1,6 +1,7 @@
 // The mixer behind every hash. It depends on data, length and seed alone, not on the host, so that values hash alike in
 // every process.
 #include <bit>
+#include <cstring>
 
 #include "contract.hpp"
 
@@ -9,8 +10,15 @@ namespace {
 constexpr uint64_t spread = 0xd6e8feb86659fd93u;
 constexpr uint64_t blend = 0xa0761d6478bd642fu;
 
+// Little-endian on every host.
 uint64_t load(const uint8_t *bytes, uint32_t count) {
     uint64_t word = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        if (count == 8) {
+            std::memcpy(&word, bytes, sizeof word);
+            return word;
+        }
+    }
     for (uint32_t i = 0; i < count; ++i) word |= uint64_t{bytes[i]} << (8 * i);
     return word;
 }
