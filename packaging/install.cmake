@@ -40,5 +40,5 @@ foreach(module lumo_ui_tarn mirk_platform)
 endforeach()
 
 # ---- what people read
-install(FILES README.md docs/design.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(FILES README.md docs/design.md docs/tour.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(DIRECTORY examples docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)

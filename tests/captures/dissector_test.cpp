@@ -230,7 +230,7 @@ TEST(Dissector, SaysOfEveryMessageWhatTheToolSays) {
     std::string bytes;
     for (const reference::MessageTable &message : reference::messages()) {
         for (const bool tracked : {false, true}) {
-            for (const std::uint64_t seed : {31, 32, 33}) {
+            for (const std::uint64_t seed : {31U, 32U, 33U}) {
                 bytes += tool_test::frame(message, tool_test::strange_payload(message, seed), tracked, 7);
             }
         }

@@ -38,6 +38,19 @@ TEST(Generated, ListsAreUpToDate) {
     }
 }
 
+TEST(Generated, PicturesAreUpToDateAndInTheTour) {
+    const Directory fresh;
+    ASSERT_EQ(generate("pictures", fresh.path()).code, 0);
+    const std::set<std::string> names = files_below(fresh.path());
+    const std::filesystem::path docs = TARN_DOCS;
+    EXPECT_EQ(names, files_below(docs / "pictures"));
+    const std::string tour = content_of(docs / "tour.md");
+    for (const std::string &name : names) {
+        EXPECT_TRUE(content_of(docs / "pictures" / name) == content_of(fresh.path() / name)) << name << remedy;
+        EXPECT_NE(tour.find("(pictures/" + name + ")"), std::string::npos) << name;
+    }
+}
+
 TEST(Generated, UnchangedFilesAreLeftAlone) {
     const Directory fresh;
     ASSERT_EQ(generate("lists", fresh.path()).code, 0);

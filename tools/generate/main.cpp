@@ -80,14 +80,17 @@ int main(int argc, char **argv) {
         put(argv[2], write_rivals());
     } else if (kind == "operations") {
         put(argv[2], write_operations());
+    } else if (kind == "pictures") {
+        put(argv[2], write_pictures());
     } else if (kind == "dissector") {
         put(argv[2], write_dissector());
     } else if (kind == "python") {
         put(argv[2], write_python());
     } else {
-        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|dissector|python "
-                     "DIRECTORY "
-                     "[NAME=VALUE...]\n";
+        std::cerr
+            << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|pictures|dissector|"
+               "python DIRECTORY "
+               "[NAME=VALUE...]\n";
         return 2;
     }
     return 0;

@@ -19,6 +19,7 @@ Files write_floor();       // build tree: straight-line code, for the benchmarks
 Files write_plain();       // build tree: records as plain structs, for the same
 Files write_rivals();      // build tree: the schema in the languages of other serializers, for the same
 Files write_operations();  // build tree: every operation as a table, for tools and tests
+Files write_pictures();    // docs/pictures/: what the tour shows, checked in
 Files write_dissector();   // build tree: the dissector for network captures
 Files write_python();      // build tree: tables and type stubs for the Python package
 

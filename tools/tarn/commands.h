@@ -24,6 +24,7 @@ void add_decode(CLI::App &app, Context &context);
 void add_encode(CLI::App &app, Context &context);
 void add_dissect(CLI::App &app, Context &context);
 void add_diff(CLI::App &app, Context &context);
+void add_view(CLI::App &app, Context &context);
 void add_schema(CLI::App &app, Context &context);
 void add_manifest(CLI::App &app, Context &context);
 void add_generate(CLI::App &app, Context &context);

@@ -28,6 +28,7 @@ int run(int argc, char **argv) {
     add_encode(app, context);
     add_dissect(app, context);
     add_diff(app, context);
+    add_view(app, context);
     add_schema(app, context);
     add_manifest(app, context);
     add_generate(app, context);

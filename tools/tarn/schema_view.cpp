@@ -6,7 +6,11 @@
 #include "commands.h"
 #include "files.h"
 #include "names.h"
-#include "schema/layout.h"
+#include "page.h"
+#include "pictures.h"
+#include "schema_body.h"
+#include "schema_form.h"
+#include "schema_script.h"
 #include "terminal.h"
 
 namespace tarn::tool {
@@ -20,60 +24,8 @@ using schema::Record;
 
 struct Options {
     std::string name;
-    bool tree = false, dot = false, json = false;
+    bool tree = false, dot = false, json = false, html = false;
 };
-
-std::string kind_text(const Member &m) {
-    constexpr const char *words[] = {"u_int8", "u_int16", "u_int32", "u_int64", "mirk_boolean", "ip_address"};
-    switch (m.kind) {
-        case Kind::enumeration:
-            return std::string(m.enumeration->name);
-        case Kind::record:
-            return std::string(m.record->name);
-        case Kind::array:
-            return std::string(m.record->name) + "[]";
-        case Kind::string:
-            return "var_string";
-        default:
-            return words[static_cast<std::size_t>(m.kind)];
-    }
-}
-
-std::string role_text(const Member &m) {
-    return m.role == schema::Role::count ? "count" : m.role == schema::Role::length ? "length" : "";
-}
-
-std::string wire_text(const Member &m);
-
-// Bytes of the record on the wire without per-field state; "N+" if arrays or strings can make it longer.
-std::string wire_text(const Record &record) {
-    std::size_t sum = 6;
-    bool open = false;
-    for (const Member &m : record.members) {
-        const std::string one = wire_text(m);
-        open = open || one.back() == '+';
-        sum += std::stoul(one);
-    }
-    return std::to_string(sum) + (open ? "+" : "");
-}
-
-std::string wire_text(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
-            return "2";
-        case Kind::enumeration:
-            return "5";
-        case Kind::address:
-            return "26";
-        case Kind::record:
-            return wire_text(*m.record);
-        case Kind::string:
-        case Kind::array:
-            return "0+";
-        default:
-            return std::to_string(std::size_t{1} << static_cast<unsigned>(m.kind));
-    }
-}
 
 std::string slot_text(const Member &m, const schema::Place &place) {
     if (!schema::is_tracked(m)) return "-";
@@ -191,46 +143,6 @@ std::string dot_text(const std::function<bool(const Record &)> &wanted) {
     return out + "}\n";
 }
 
-ordered_json json_of_record(const Record &record) {
-    const schema::Layout layout = schema::lay_out(record);
-    ordered_json json{
-        {"name", record.name},           {"luid", record.luid.text.data()},   {"meaning", record.meaning},
-        {"base_size", layout.base_size}, {"state_width", layout.state_width}, {"members", ordered_json::array()}};
-    for (std::size_t i = 0; i < record.members.size(); ++i) {
-        const Member &m = record.members[i];
-        ordered_json one{{"name", m.name}, {"kind", kind_text(m)}};
-        if (m.role != schema::Role::value) one["role"] = role_text(m);
-        one["offset"] = layout.places[i].offset;
-        one["size"] = layout.places[i].size;
-        if (schema::is_tracked(m)) one["slot"] = layout.places[i].slot;
-        one["wire"] = wire_text(m);
-        one["meaning"] = m.meaning;
-        json["members"].push_back(one);
-    }
-    return json;
-}
-
-ordered_json json_of_all() {
-    ordered_json json;
-    for (const auto *b : schema::bundles) {
-        json["bundles"].push_back({{"name", b->name},
-                                   {"short", short_form(b->name)},
-                                   {"message", b->message.name},
-                                   {"start", b->start.text.data()},
-                                   {"abort", b->abort.text.data()},
-                                   {"commit", b->commit.text.data()}});
-    }
-    for (const auto *m : schema::messages) {
-        json["messages"].push_back({{"name", m->name}, {"luid", m->luid.text.data()}, {"payload", m->payload.name}});
-    }
-    for (const auto *e : schema::enumerations) {
-        json["enumerations"].push_back(
-            {{"name", e->name}, {"luid", e->luid.text.data()}, {"enumerators", e->enumerators}});
-    }
-    for (const auto *r : schema::records) json["records"].push_back(json_of_record(*r));
-    return json;
-}
-
 bool matches(std::string_view given, std::string_view name) { return given == name || given == short_form(name); }
 
 // A record, or the payload of a message or a bundle.
@@ -264,6 +176,7 @@ bool reaches(const Record &from, const Record &to) {
 }
 
 std::string of_one(const Options &options) {
+    if (options.html) throw Failure(Exit::input, "the page holds all of the schema, so no name goes with --html");
     for (const auto *e : schema::enumerations) {
         if (!matches(options.name, e->name)) continue;
         if (!options.json) return enumeration_text(*e);
@@ -277,9 +190,15 @@ std::string of_one(const Options &options) {
     return options.json ? json_of_record(*record).dump(2) + "\n" : record_text(*record);
 }
 
+std::string page() {
+    const ordered_json data{{"schema", schema_json()}, {"drawing", draw::nesting(false)}};
+    return page_text({"Schema of tarn", schema_body, schema_script, data});
+}
+
 std::string of_all(const Options &options) {
+    if (options.html) return page();
     if (options.dot) return dot_text([](const Record &) { return true; });
-    if (options.json) return json_of_all().dump(2) + "\n";
+    if (options.json) return schema_json().dump(2) + "\n";
     if (!options.tree) return list_text();
     std::string out;
     for (const auto *m : schema::messages) out += std::string(m->name) + ": " + tree_text(m->payload) + "\n";
@@ -296,6 +215,7 @@ void add_schema(CLI::App &app, Context &) {
     form->add_flag("--tree", options->tree, "as a tree of members");
     form->add_flag("--dot", options->dot, "as a graph for dot");
     form->add_flag("--json", options->json, "as JSON");
+    form->add_flag("--html", options->html, "as a page for a browser, with the nesting drawn; of all of it");
     form->require_option(0, 1);
     command->footer(
         "Wire widths are bytes without per-field state; a + says that arrays and strings come on top.\n\n"
@@ -303,6 +223,7 @@ void add_schema(CLI::App &app, Context &) {
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"
         "  tarn schema dp-tt-cfg --tree\n"
+        "  tarn schema --html > schema.html\n"
         "  tarn schema --dot | dot -Tsvg -o schema.svg");
     command->callback([options] { write_file("-", options->name.empty() ? of_all(*options) : of_one(*options)); });
 }

@@ -1,0 +1,277 @@
+// The pages of the tool in a browser without a window: what is pointed at, typed and clicked, and what comes of it.
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "process.h"
+#include "samples.h"
+
+namespace pages {
+
+namespace {
+
+using nlohmann::json;
+using tool_test::Directory;
+using tool_test::Outcome;
+
+void replace(std::string &text, std::string_view what, std::string_view by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+}
+
+Outcome chromium(const std::string &file, const std::vector<std::string> &more) {
+    const Directory profile;
+    std::vector<std::string> all{"--headless",
+                                 "--no-sandbox",
+                                 "--disable-gpu",
+                                 "--disable-quic",
+                                 "--disable-dev-shm-usage",
+                                 "--no-first-run",
+                                 "--disable-background-networking",
+                                 "--disable-component-update",
+                                 "--disable-sync",
+                                 "--window-size=1280,800",
+                                 "--user-data-dir=" + profile.path("data")};
+    all.insert(all.end(), more.begin(), more.end());
+    all.push_back("file://" + file);
+    return tool_test::run(TARN_CHROMIUM, all);
+}
+
+// What a user does, in the page's own language.
+const char *const helpers = R"(
+const rowAt = path => [...document.querySelectorAll('.row')].find(r => r.dataset.path === path);
+const pointAt = target => target.dispatchEvent(new MouseEvent('mouseover', {bubbles: true}));
+const markedBytes = s => [...new Set([...document.querySelectorAll('.dump')[s].querySelectorAll('i.marked')]
+  .map(i => Number(i.dataset.at)))];
+const byteAt = (s, at) => document.querySelectorAll('.dump')[s].querySelector('i[data-at="' + at + '"]');
+const markedRows = () => [...document.querySelectorAll('.row.marked')].map(r => r.dataset.path);
+const heldRows = () => [...document.querySelectorAll('.row.held')].map(r => r.dataset.path);
+const type = words => {
+  document.getElementById('search').value = words;
+  document.getElementById('search').dispatchEvent(new Event('input'));
+};
+const press = key => document.getElementById('search').dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));
+const found = () => document.getElementById('found').textContent;
+)";
+
+// Runs statements that fill in `seen`, behind the page's own; errors of either go into it.
+json seen_in(std::string page, const std::string &statements) {
+    const Directory directory;
+    replace(page, "<body>", "<body><script>const errors = []; onerror = text => { errors.push(text); };</script>");
+    replace(
+        page, "</body>",
+        "<script>" + std::string(helpers) + "const seen = {errors}; try {" + statements +
+            "} catch (error) { errors.push(String(error)); }\nconst note = document.createElement('pre'); "
+            "note.id = 'seen'; note.textContent = JSON.stringify(seen); document.body.append(note);</script></body>");
+    const Outcome outcome = chromium(directory.write("page.html", page), {"--dump-dom"});
+    const std::string open = "<pre id=\"seen\">";
+    const std::size_t from = outcome.out.find(open);
+    EXPECT_NE(std::string::npos, from) << outcome.err;
+    if (from == std::string::npos) return {};
+    std::string text = outcome.out.substr(from + open.size(), outcome.out.find("</pre>", from) - from - open.size());
+    replace(text, "&lt;", "<");
+    replace(text, "&gt;", ">");
+    replace(text, "&amp;", "&");
+    json seen = json::parse(text);
+    EXPECT_EQ(json::array(), seen.at("errors"));
+    return seen;
+}
+
+std::string page_of(const std::vector<std::string> &files) {
+    std::vector<std::string> all{"view"};
+    all.insert(all.end(), files.begin(), files.end());
+    const Outcome outcome = tool_test::tarn(all);
+    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    return outcome.out;
+}
+
+std::string debug_answer(unsigned info, unsigned warn) {
+    const reference::BundleTable &bundle = reference::bundle_table("lumo_tarn_cl_debug_rsp");
+    reference::Record payload("lumo_tarn_debug_setting");
+    payload["info_enabled"].number = info;
+    payload["warn_enabled"].number = warn;
+    return tool_test::answer(bundle, payload, false);
+}
+
+// Behind a start of 43 bytes: the frame's 43, then variant, flag and jump, then four numbers of four bytes.
+constexpr unsigned members_at = 43 + 43 + 6;
+
+json bytes(unsigned from, unsigned count) {
+    json all = json::array();
+    for (unsigned i = 0; i < count; ++i) all.push_back(from + i);
+    return all;
+}
+
+TEST(View, PointingMarksBytesAndMembers) {
+    const Directory directory;
+    const json seen = seen_in(page_of({directory.write("a.bin", debug_answer(1, 5))}), R"(
+        pointAt(rowAt('payload.warn_enabled'));
+        seen.warn = markedBytes(0);
+        pointAt(rowAt('payload'));
+        seen.payload = markedBytes(0);
+        pointAt(byteAt(0, 95));
+        seen.row = markedRows();
+        pointAt(byteAt(0, 86));
+        seen.framing = markedRows();
+        document.getElementById('framing').click();
+        pointAt(byteAt(0, 88));
+        seen.jump = markedRows();
+        byteAt(0, 100).click();
+        seen.held = heldRows();
+        seen.address = location.hash;
+        seen.detail = document.getElementById('detail').textContent;)");
+    EXPECT_EQ(bytes(members_at + 8, 4), seen.at("warn"));
+    EXPECT_EQ(bytes(86, 22), seen.at("payload"));
+    EXPECT_EQ(json::array({"payload.info_enabled"}), seen.at("row"));
+    EXPECT_EQ(json::array({"payload"}), seen.at("framing"));
+    EXPECT_EQ(json::array({"payload.@jump"}), seen.at("jump"));
+    EXPECT_EQ(json::array({"payload.warn_enabled"}), seen.at("held"));
+    EXPECT_EQ("#1:payload.warn_enabled", seen.at("address"));
+    EXPECT_NE(std::string::npos, seen.at("detail").get<std::string>().find("switch of warning-level debug output"));
+}
+
+TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
+    const Directory directory;
+    const reference::MessageTable &message = reference::message_table("lumo_tarn_dp_appl_msg");
+    reference::GeneratorOptions options;
+    options.min_elements = 2;
+    reference::Record payload = reference::Generator(3, options).make(message.payload);
+    payload["lumo_data"].items[1]["sig_list"].items[1]["appl_name"].text = "</script><b id=\"broken\">needle &amp;";
+    const std::string name =
+        directory.write("<img src=x onerror=alert(1)>.bin", tool_test::frame(message, payload, true));
+    const json seen = seen_in(page_of({name}), R"(
+        type('NEEDLE &AMP');
+        seen.value = [found(), heldRows()];
+        type('sig_list');
+        press('Enter');
+        seen.name = [found(), heldRows()];
+        type('');
+        seen.nothing = found();
+        seen.intruders = document.querySelectorAll('img, #broken').length;
+        seen.title = document.title;
+        seen.owned = sides[0].owner.every(piece => piece >= 0);)");
+    EXPECT_EQ((json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}), seen.at("value"));
+    EXPECT_EQ((json{"2 of 2", {"payload.lumo_data[1].sig_list"}}), seen.at("name"));
+    EXPECT_EQ("", seen.at("nothing"));
+    EXPECT_EQ(0, seen.at("intruders"));
+    EXPECT_EQ(name + " - tarn", seen.at("title"));
+    EXPECT_EQ(true, seen.at("owned"));
+}
+
+TEST(View, ShowsADifference) {
+    const Directory directory;
+    const std::string a = directory.write("a.bin", debug_answer(1, 5)),
+                      b = directory.write("b.bin", debug_answer(9, 7));
+    const json seen = seen_in(page_of({a, b}), R"(
+        seen.summary = document.getElementById('summary').textContent;
+        seen.changed = [...document.querySelectorAll('.row.changed')].map(r => r.dataset.path);
+        seen.values = [...rowAt('payload.warn_enabled').querySelectorAll('.value')].map(v => v.textContent);
+        pointAt(rowAt('payload.warn_enabled'));
+        seen.bytes = [markedBytes(0), markedBytes(1)];
+        document.getElementById('changes').click();
+        seen.left = [...document.querySelectorAll('.row')].map(r => r.dataset.path);
+        document.getElementById('next').click();
+        document.getElementById('next').click();
+        seen.next = [found(), heldRows()];)");
+    EXPECT_EQ("3 frames, 2 differences", seen.at("summary"));
+    EXPECT_EQ(json::array({"payload.info_enabled", "payload.warn_enabled"}), seen.at("changed"));
+    EXPECT_EQ(json::array({"5", "7"}), seen.at("values"));
+    EXPECT_EQ(json::array({bytes(members_at + 8, 4), bytes(members_at + 8, 4)}), seen.at("bytes"));
+    EXPECT_EQ(json::array({"", "payload", "payload.info_enabled", "payload.warn_enabled"}), seen.at("left"));
+    EXPECT_EQ((json{"2 of 2 changes", {"payload.warn_enabled"}}), seen.at("next"));
+}
+
+TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
+    const Directory directory;
+    std::string broken = debug_answer(1, 5);
+    broken.resize(members_at + 6);
+    const Outcome outcome = tool_test::tarn({"view", directory.write("a.bin", broken)});
+    EXPECT_EQ(2, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 96, payload.trace_enabled")) << outcome.err;
+    const json seen = seen_in(outcome.out, R"(
+        seen.note = document.querySelector('.error').textContent;
+        seen.rest = [...document.querySelectorAll('.dump i.rest')].length / 2;
+        pointAt(rowAt('payload.info_enabled'));
+        seen.bytes = markedBytes(0);)");
+    EXPECT_EQ("broken at offset 96, payload.trace_enabled: 2 bytes are left of 4", seen.at("note"));
+    EXPECT_EQ(2, seen.at("rest"));
+    EXPECT_EQ(bytes(members_at, 4), seen.at("bytes"));
+}
+
+TEST(View, ReadsXmlAndJsonAsFrames) {
+    const Directory directory;
+    const std::string frames = debug_answer(1, 5);
+    const Outcome xml = tool_test::tarn({"decode", "--xml"}, frames),
+                  lines = tool_test::tarn({"decode", "--json"}, frames);
+    std::set<std::string> bytes;
+    for (const std::string &content : {frames, xml.out, lines.out}) {
+        const std::string page = page_of({directory.write("a", content)});
+        const std::string begin = "\"bytes\":\"";
+        const std::size_t from = page.find(begin) + begin.size();
+        bytes.insert(page.substr(from, page.find('"', from) - from));
+    }
+    ASSERT_EQ(1U, bytes.size());
+    EXPECT_EQ(2 * frames.size(), bytes.begin()->size());
+}
+
+TEST(View, RefusesWhatItCannotRead) {
+    const Directory directory;
+    EXPECT_EQ(2, tool_test::tarn({"view"}).exit);
+    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "").exit);
+    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "hello").exit);
+    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "<no_such_msg/>").exit);
+    EXPECT_EQ(3, tool_test::tarn({"view", directory.path("absent")}).exit);
+    EXPECT_EQ(3, tool_test::tarn({"view", "-", "-o", directory.path("absent/page.html")}, debug_answer(1, 1)).exit);
+}
+
+TEST(Schema, PageHasEveryRecordAndItsMembers) {
+    const Outcome page = tool_test::tarn({"schema", "--html"});
+    ASSERT_EQ(0, page.exit) << page.err;
+    const json seen = seen_in(page.out, R"(
+        seen.summary = document.getElementById('summary').textContent;
+        seen.members = {};
+        for (const [name, node] of nodes) {
+            node.dispatchEvent(new MouseEvent('click', {bubbles: true}));
+            seen.members[name] = [...document.querySelectorAll('#table tr[data-name]')].map(r => r.dataset.name);
+        }
+        const inner = nodes.get('lumo_tarn_dp_appl');
+        pointAt(inner);
+        seen.lit = [...document.querySelectorAll('.node.lit')].map(n => n.dataset.name);
+        type('sub-protocol');
+        seen.found = [found(), [...document.querySelectorAll('.node.hit')].map(n => n.dataset.name)];)");
+    EXPECT_EQ("11 bundles, 10 messages, 37 records, 3 enumerations", seen.at("summary"));
+    for (const reference::RecordTable &record : reference::records()) {
+        json names = json::array();
+        for (const reference::MemberTable &member : record.members) names.push_back(member.name);
+        EXPECT_EQ(names, seen.at("members").value(record.name, json())) << record.name;
+    }
+    EXPECT_EQ(11U + 10 + 37, seen.at("members").size());
+    const std::set<std::string> lit(seen.at("lit").begin(), seen.at("lit").end());
+    EXPECT_TRUE(lit.contains("lumo_tarn_dp_tt_cfg_rsp") && lit.contains("lumo_tarn_exmem_info"));
+    EXPECT_FALSE(lit.contains("lumo_tarn_cl_debug_rsp"));
+    EXPECT_EQ((json{"1 found", {"lumo_tarn_cl_kesh_appl"}}), seen.at("found"));
+    EXPECT_EQ(2, tool_test::tarn({"schema", "lumo_tarn_dp_tc", "--html"}).exit);
+}
+
+TEST(Pages, FetchNothingAndCanBePainted) {
+    const Directory directory;
+    for (std::string page :
+         {page_of({directory.write("a.bin", debug_answer(1, 5))}), tool_test::tarn({"schema", "--html"}).out}) {
+        EXPECT_NE(std::string::npos, page.find("default-src 'none'"));
+        for (const char *fetching : {" src=", " href=", "@import", "url("}) {
+            EXPECT_EQ(std::string::npos, page.find(fetching)) << fetching;
+        }
+        const std::string picture = directory.path("page.png");
+        chromium(directory.write("page.html", page), {"--screenshot=" + picture});
+        const std::string png = directory.read("page.png");
+        ASSERT_GT(png.size(), 20000U);  // one colour all over takes far less
+        EXPECT_EQ("\x89PNG", png.substr(0, 4));
+        EXPECT_EQ(std::string("\0\0\5\0\0\0\3\x20", 8), png.substr(16, 8));
+    }
+}
+
+}  // namespace
+
+}  // namespace pages

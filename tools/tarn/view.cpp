@@ -1,0 +1,115 @@
+// tarn view: frames, or the difference of two files of frames, as a page for a browser.
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "commands.h"
+#include "dissection.h"
+#include "encoding.h"
+#include "files.h"
+#include "page.h"
+#include "schema_form.h"
+#include "view_body.h"
+#include "view_script.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+struct Options {
+    std::string a, b, output = "-";
+    bool tracked = false, lenient = false;
+};
+
+std::string frames_of(const std::string &path, const Options &options) {
+    std::string content = read_file(path);
+    const std::string origin = shown_path(path);
+    if (form_of(content, origin) == Form::frames) return content;
+    const Handles handles(options.tracked ? Tracking::on : Tracking::as_given);
+    return encoded(handles, items_of(handles, content, origin, options.lenient), origin);
+}
+
+std::string hex_of(FrameBytes bytes) {
+    std::string digits;
+    for (const std::uint8_t byte : bytes) digits += {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15]};
+    return digits;
+}
+
+// A request has no name and no record here; what it says stands in its bytes.
+void add_identity(FrameBytes frame, ordered_json &json) {
+    const std::optional<Identity> identity =
+        frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);
+    if (!identity) return;
+    json["name"] = identity->is_control()
+                       ? std::string(identity->bundle->bundle->name) + " " + std::string(word(identity->control))
+                       : std::string(identity->operations->name);
+    if (!identity->is_control()) json["record"] = identity->operations->message->payload.name;
+}
+
+ordered_json json_of_frame(const Dissection &dissection, FrameBytes frame) {
+    ordered_json json{{"size", dissection.size}, {"pieces", ordered_json::array()}};
+    add_identity(frame, json);
+    for (const Piece &p : dissection.pieces) json["pieces"].push_back({p.size, p.path, p.kind, p.value});
+    return json;
+}
+
+// One file. What is behind a break is shown as bytes alone; the sentence about it is kept in `broken`.
+ordered_json json_of_side(const std::string &path, const Options &options, std::string &broken) {
+    const std::string content = frames_of(path, options);
+    const FrameBytes all = bytes_of(content);
+    ordered_json side{{"name", shown_path(path)}, {"bytes", hex_of(all)}, {"frames", ordered_json::array()}};
+    for (std::size_t offset = 0; offset < all.size();) {
+        const Dissection dissection = dissect_frame(all.subspan(offset), offset);
+        side["frames"].push_back(json_of_frame(dissection, all.subspan(offset)));
+        offset += dissection.size;
+        if (!dissection.broken) continue;
+        side["broken"] = sentence_of(*dissection.broken);
+        broken = shown_path(path) + ": broken at " + sentence_of(*dissection.broken);
+        break;
+    }
+    return side;
+}
+
+void run(const Options &options) {
+    std::string broken;
+    ordered_json data{{"sides", ordered_json::array()}, {"records", ordered_json::object()}};
+    data["sides"].push_back(json_of_side(options.a, options, broken));
+    if (!options.b.empty()) data["sides"].push_back(json_of_side(options.b, options, broken));
+    const ordered_json schema = schema_json();
+    for (const auto &record : schema.at("records")) {
+        ordered_json &members = data["records"][record.at("name").get<std::string>()];
+        for (const auto &m : record.at("members"))
+            members[m.at("name").get<std::string>()] = {m.at("kind"), m.at("meaning")};
+    }
+    const std::string title =
+        shown_path(options.a) + (options.b.empty() ? "" : " and " + shown_path(options.b)) + " - tarn";
+    write_file(options.output, page_text({title, view_body, view_script, data}));
+    if (!broken.empty()) throw Failure(Exit::input, broken);
+}
+
+}  // namespace
+
+void add_view(CLI::App &app, Context &) {
+    auto options = std::make_shared<Options>();
+    CLI::App *command = app.add_subcommand("view", "frames, or two files of them, as a page for a browser");
+    command->add_option("a", options->a, "frames, XML or JSON; - is standard input")->required();
+    command->add_option("b", options->b, "a second file; the page then shows the difference");
+    command->add_option("-o,--output", options->output, "where the page goes; - is standard output")
+        ->capture_default_str();
+    command->add_flag("--tracked", options->tracked, "show XML and JSON as frames with per-field state");
+    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
+    command->footer(
+        "The page is one file and needs no network. Pointing at a member marks its bytes, pointing at a byte marks "
+        "its\n"
+        "member; a click holds the mark, and the address of the page then leads to it. Of a broken frame it shows "
+        "what\n"
+        "is good, and the exit code is 2.\n\n"
+        "Examples:\n"
+        "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin && tarn view answer.bin -o answer.html\n"
+        "  tarn view before.bin after.bin -o difference.html\n"
+        "  tarn view examples/dp_tt_cfg.xml -o tables.html");
+    command->callback([options] { run(*options); });
+}
+
+}  // namespace tarn::tool
