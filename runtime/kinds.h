@@ -39,7 +39,8 @@ using Primitive = PrimitiveOf<F::kind, F::of>;
         static constexpr auto backpropagate = NAME##_backpropagate;     \
         template <class T>                                              \
         static constexpr std::int32_t compare(const T *a, const T *b) { \
-            return *a > *b ? 1 : *a < *b ? -1 : 0;                      \
+            if (*a == *b) return 0;                                     \
+            return *a > *b ? 1 : -1;                                    \
         }                                                               \
     };
 TARN_INTEGER_KIND(u8, u_int8)

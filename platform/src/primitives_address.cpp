@@ -8,6 +8,7 @@
 //
 // 26 bytes, or 33 in a tracked frame, and 9 more with RA data.
 #include <cstring>
+#include <iterator>
 
 #include "address_text.hpp"
 #include "coding.hpp"
@@ -259,7 +260,12 @@ uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_ad
     const uint32_t jump_base = offset;
     uint32_t jump = 0;
     offset += _mirk_variant_jump_marshal(h, ctx_id, bytes + offset, &jump, left(), err);
-    if (variant >= 0) {
+    if (variant >= 0 && !tracked && *err == 0 && left() >= static_cast<int32_t>(body_size)) {
+        for_each_member(*field, [&](auto &member) {
+            mirk::put_big_endian(bytes + offset, member);
+            offset += sizeof member;
+        });
+    } else if (variant >= 0) {
         for_each_member(*field, [&](auto &member) {
             offset += mirk::marshal_number(bytes + offset, &member, left(), err);
             // Unlike a record this leaves the byte behind the end alone: no primitive goes beyond what remains.
@@ -353,17 +359,14 @@ void ip_address_from_xml(mirk_handle *, uint32_t, const char *path, void *docume
 int32_t ip_address_compare(const ip_address *a, const ip_address *b) {
     if (a == nullptr) return b == nullptr ? 0 : -1;
     if (b == nullptr) return 1;
-    uint32_t left[state_width];
-    size_t n = 0;
-    for_each_member(*a, [&](auto &member) { left[n++] = member; });
-    int32_t order = 0;
-    n = 0;
-    for_each_member(*b, [&](auto &member) {
-        const uint32_t right = member;
-        if (order == 0 && left[n] != right) order = left[n] < right ? -1 : 1;
-        ++n;
-    });
-    return order;
+    const auto order = [](uint32_t left, uint32_t right) { return left < right ? -1 : 1; };
+    if (a->af != b->af) return order(a->af, b->af);
+    if (a->prefix_len != b->prefix_len) return order(a->prefix_len, b->prefix_len);
+    if (a->scope != b->scope) return order(a->scope, b->scope);
+    for (size_t i = 0; i < std::size(a->word); ++i) {
+        if (a->word[i] != b->word[i]) return order(a->word[i], b->word[i]);
+    }
+    return 0;
 }
 
 uint32_t ip_address_hash(const ip_address *field, uint32_t seed) {
