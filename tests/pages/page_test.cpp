@@ -52,7 +52,8 @@ const type = words => {
   document.getElementById('search').value = words;
   document.getElementById('search').dispatchEvent(new Event('input'));
 };
-const press = key => document.getElementById('search').dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));
+const press = key =>
+  document.getElementById('search').dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));
 const found = () => document.getElementById('found').textContent;
 )";
 

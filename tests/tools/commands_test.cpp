@@ -31,7 +31,7 @@ TEST_P(EveryCommand, RefusesAnUnknownOption) {
 
 INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
                          testing::Values("answer", "show", "decode", "encode", "dissect", "diff", "schema", "manifest",
-                                         "generate", "record"),
+                                         "generate", "record", "view"),
                          [](const auto &info) { return info.param; });
 
 TEST(Commands, NoneAndAnUnknownOneAreUsageErrors) {

@@ -36,7 +36,7 @@ local f = {
     flag_ra = declare("flag_ra", ProtoField.bool("tarn.flag.ra_data", "RA data follows", 8, nil, 32)),
     ra_value = declare("ra_value", ProtoField.uint64("tarn.ra_value", "ra_value", base.HEX)),
     ra_byte = declare("ra_byte", ProtoField.uint8("tarn.ra_byte", "ra_byte", base.HEX)),
-    jump = declare("jump", ProtoField.uint32("tarn.jump", "jump", base.DEC, nil, nil, "bytes to the end of the record")),
+    jump = declare("jump", ProtoField.uint32("tarn.jump", "jump", base.DEC, nil, nil, "to the end of the record")),
     skipped = declare("skipped", ProtoField.bytes("tarn.skipped", "members of a newer form")),
 }
 

@@ -8,8 +8,8 @@ const drawing = element('drawing').querySelector('svg');
 const nodes = new Map([...drawing.querySelectorAll('.node')].map(n => [n.dataset.name, n]));
 const edges = [...drawing.querySelectorAll('.edge')];
 const named = list => new Map(list.map(thing => [thing.name, thing]));
-const records = named(data.schema.records), messages = named(data.schema.messages), bundles = named(data.schema.bundles),
-  enumerations = named(data.schema.enumerations);
+const records = named(data.schema.records), messages = named(data.schema.messages);
+const bundles = named(data.schema.bundles), enumerations = named(data.schema.enumerations);
 let chosen = null, wanted = '';
 
 // Everything that holds the thing or is held by it, at any distance.
@@ -63,13 +63,15 @@ function table(head, rows, cells) {
   }
 }
 
-const matches = thing => (thing.name + ' ' + (thing.meaning || '') + ' ' + (thing.kind || '')).toLowerCase().includes(wanted);
+const words = thing => [thing.name, thing.meaning || '', thing.kind || ''].join(' ').toLowerCase();
+const matches = thing => words(thing).includes(wanted);
 const numbers = ['offset', 'size', 'slot', 'wire'];
 
 function show(name) {
   const panel = element('table');
   panel.replaceChildren();
-  const record = records.get(name), message = messages.get(name), bundle = bundles.get(name), enumeration = enumerations.get(name);
+  const record = records.get(name), message = messages.get(name);
+  const bundle = bundles.get(name), enumeration = enumerations.get(name);
   if (!name) return showStart(panel);
   add(panel, 'h2', name);
   if (record) {
@@ -93,7 +95,8 @@ function show(name) {
   } else if (bundle) {
     add(panel, 'p', 'bundle, ' + bundle.short + ' for short');
     link(add(panel, 'p', 'admits '), bundle.message);
-    table(['control message', 'luid'], ['start', 'abort', 'commit'].map(c => ({name: c, luid: bundle[c]})), (line, c) => {
+    const controls = ['start', 'abort', 'commit'].map(c => ({name: c, luid: bundle[c]}));
+    table(['control message', 'luid'], controls, (line, c) => {
       add(line, 'td', c.name);
       add(add(line, 'td'), 'code', c.luid);
     });

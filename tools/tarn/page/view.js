@@ -12,8 +12,8 @@ const isState = name => name === '@state';
 
 let count = 0;
 function makeNode(name, path, parent) {
-  const node = {id: count++, name, path, parent, children: [], byName: new Map(), pieces: [null, null], present: [false, false],
-    type: '', meaning: '', open: false, row: null, below: null, structural: false, differs: false, inside: 0};
+  const node = {id: count++, name, path, parent, children: [], byName: new Map(), pieces: [null, null],
+    present: [false, false], type: '', meaning: '', open: false, row: null, below: null, structural: false, differs: false, inside: 0};
   if (parent) { parent.children.push(node); parent.byName.set(name, node); }
   return node;
 }
@@ -84,8 +84,9 @@ function compare(node) {
 }
 if (two) roots.forEach(compare);
 
+const isOfOneSide = node => Boolean(node) && node.present[0] !== node.present[1];
 const isShown = node => (!node.structural || element('framing').checked) &&
-  (!element('changes').checked || node.inside > 0 || (node.parent && node.parent.present[0] !== node.parent.present[1]));
+  (!element('changes').checked || node.inside > 0 || isOfOneSide(node.parent));
 
 // ---- rows
 
@@ -203,8 +204,8 @@ const contains = (places, at) => places.some(([from, to]) => from <= at && at < 
 const lineHeight = 20, perLine = 16;
 
 function makeDump(side, s) {
-  const section = document.createElement('div'), title = document.createElement('h2'), dump = document.createElement('div');
-  const spacer = document.createElement('div'), lines = document.createElement('div');
+  const [section, dump, spacer, lines] = [1, 2, 3, 4].map(() => document.createElement('div'));
+  const title = document.createElement('h2');
   section.className = 'side';
   dump.className = 'dump';
   lines.className = 'lines';
@@ -235,7 +236,8 @@ function classOf(side, at) {
 
 function drawLines(side) {
   const first = Math.floor(side.dump.scrollTop / lineHeight);
-  const last = Math.min(Math.ceil(side.data.length / perLine), first + Math.ceil(side.dump.clientHeight / lineHeight) + 1);
+  const inSight = Math.ceil(side.dump.clientHeight / lineHeight) + 1;
+  const last = Math.min(Math.ceil(side.data.length / perLine), first + inSight);
   let out = '';
   for (let line = first; line < last; ++line) {
     const from = line * perLine, to = Math.min(from + perLine, side.data.length);
@@ -250,8 +252,8 @@ function drawLines(side) {
     }
     const missing = perLine - (to - from);
     hex += ' '.repeat(3 * missing + (missing > 8 ? 1 : 0));
-    out += '<div class="line"><span class="at">' + from.toString(16).padStart(6, '0') + '  </span>' + hex + ' ' + ascii +
-      '</div>';
+    const offset = from.toString(16).padStart(6, '0');
+    out += '<div class="line"><span class="at">' + offset + '  </span>' + hex + ' ' + ascii + '</div>';
   }
   side.lines.style.top = first * lineHeight + 8 + 'px';
   side.lines.innerHTML = out;
@@ -288,8 +290,9 @@ function detail(node) {
   if (node.type) words.push(node.type);
   sides.forEach((side, s) => {
     const places = bytesOf(node, s), size = places.reduce((sum, r) => sum + r[1] - r[0], 0);
-    if (size) words.push((two ? side.name + ': ' : '') + 'bytes ' + places[0][0] + ' to ' + (places[places.length - 1][1] - 1)
-      + ' (' + size + ')');
+    if (!size) return;
+    const last = places[places.length - 1][1] - 1;
+    words.push((two ? side.name + ': ' : '') + 'bytes ' + places[0][0] + ' to ' + last + ' (' + size + ')');
   });
   if (node.meaning) words.push(node.meaning);
   box.append('   ' + words.join('  \u00b7  '));
@@ -372,7 +375,8 @@ tree.addEventListener('keydown', event => {
   if (event.key === 'ArrowDown') go(here + 1);
   else if (event.key === 'ArrowUp') go(Math.max(0, here - 1));
   else if (event.key === 'ArrowRight' && held) held.open ? go(here + 1) : unfold(held);
-  else if (event.key === 'ArrowLeft' && held) held.open && held.children.length ? fold(held) : held.parent && hold(held.parent);
+  else if (event.key === 'ArrowLeft' && held && held.open && held.children.length) fold(held);
+  else if (event.key === 'ArrowLeft' && held && held.parent) hold(held.parent);
   else return;
   event.preventDefault();
 });
@@ -390,7 +394,8 @@ function search() {
   const visit = node => {
     if (isShown(node)) {
       const words = [node.parent ? node.name : node.label, ...node.pieces.filter(p => p).map(p => p.value)];
-      if (wanted ? words.some(w => w.toLowerCase().includes(wanted)) || node.path.toLowerCase() === wanted : node.differs) {
+      const found = words.some(w => w.toLowerCase().includes(wanted)) || node.path.toLowerCase() === wanted;
+      if (wanted ? found : node.differs) {
         order.push(node);
         if (wanted) hits.add(node);
       }
@@ -449,7 +454,7 @@ element('title').textContent = sides.map(side => side.name).join('  \u2192  ');
 const frames = Math.max(...sides.map(side => side.frames.length));
 const differences = roots.reduce((sum, root) => sum + root.inside, 0);
 element('summary').textContent = frames + (frames === 1 ? ' frame' : ' frames') +
-  (two ? differences ? ', ' + differences + (differences === 1 ? ' difference' : ' differences') : ', no difference' : '');
+  (two ? ', ' + (differences || 'no') + (differences > 1 ? ' differences' : ' difference') : '');
 sides.forEach((side, s) => {
   makeDump(side, s);
   if (!side.broken) return;
