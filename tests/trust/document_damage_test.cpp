@@ -71,7 +71,7 @@ TEST_P(DocumentDamage, CutAtEveryByteIsRefused) {
 
 // Up to one tag of a document, and on from another tag of the same, or of another document.
 TEST_P(DocumentDamage, Spliced) {
-    Share share(256);
+    Share share(1024);
     const auto tags = [](const std::string &text) {
         std::vector<std::size_t> all;
         for (std::size_t at = 0; (at = text.find('<', at)) != std::string::npos; ++at) all.push_back(at);
@@ -100,7 +100,7 @@ TEST_P(DocumentDamage, Spliced) {
 }
 
 TEST_P(DocumentDamage, EachByteReplaced) {
-    Share share(2048);
+    Share share(8192);
     for (std::size_t at = 0; at < text_.size(); ++at) {
         std::string text = text_;
         for (unsigned other = 1; other < 256; ++other) {

@@ -70,7 +70,7 @@ TEST_P(FrameDamage, CutAtEveryByte) {
 }
 
 TEST_P(FrameDamage, EachByteReplacedByAllOthers) {
-    read_each(512, [](const Bytes &whole, auto &&next) {
+    read_each(2048, [](const Bytes &whole, auto &&next) {
         Bytes bytes = whole;
         for (std::size_t at = 0; at < whole.size(); ++at) {
             for (unsigned other = 1; other < 256; ++other) {
@@ -84,7 +84,7 @@ TEST_P(FrameDamage, EachByteReplacedByAllOthers) {
 
 // All of them: those of heads, counts, lengths and jumps are among them.
 TEST_P(FrameDamage, EachPairOfNeighbouringBitsFlipped) {
-    read_each(16, [](const Bytes &whole, auto &&next) {
+    read_each(64, [](const Bytes &whole, auto &&next) {
         Bytes bytes = whole;
         const auto flip = [&](std::size_t bit) {
             bytes[bit / 8] = static_cast<std::uint8_t>(bytes[bit / 8] ^ (0x80U >> bit % 8));
@@ -205,7 +205,7 @@ TEST_P(BundleDamage, CutAtEveryByteDeliversNothing) {
 }
 
 TEST_P(BundleDamage, EachByteReplacedByAllOthers) {
-    Share share(256);
+    Share share(1024);
     for (const bool tracked : {false, true}) {
         const Bytes whole = stream(tracked);
         Bytes bytes = whole;

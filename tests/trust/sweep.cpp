@@ -66,7 +66,7 @@ std::ostream &operator<<(std::ostream &out, const Failure &failure) {
 }
 
 Scene::Scene(const Subject &s, const bridge::Options &options)
-    : subject(s), tracks(options.tracking == bridge::Tracking::on), buffer(room) {
+    : subject(s), tracks(options.tracking == bridge::Tracking::on) {
     mirk_platform_handle_options o;
     mirk_platform_handle_options_init(&o);
     o.tracking = options.tracking == bridge::Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
@@ -115,6 +115,12 @@ Scene::Scene(const Subject &s, const bridge::Options &options)
         frame.assign(43, 0);
     }
     frame.push_back(0);
+}
+
+// One for all scenes, of which there are many, one after the other.
+char *Scene::text() {
+    static char buffer[room];
+    return buffer;
 }
 
 Scene::~Scene() { mirk_platform_handle_close(h); }

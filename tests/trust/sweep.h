@@ -59,7 +59,7 @@ public:
     bool is_live(const void *block) const;
 
     std::uint32_t *error() { return &err; }
-    char *text() { return buffer.data(); }
+    static char *text();
     static constexpr std::int32_t room = 1 << 15;
     std::int32_t size() const { return room - 1; }
 
@@ -70,7 +70,6 @@ public:
     void *element = nullptr;                   // rich, of the type that an array holds
     void *document = nullptr;
     std::vector<std::uint8_t> frame;  // with its slack
-    std::vector<char> buffer;
 
     // What came of the call.
     std::uint32_t err = 0, last_error = 0;
