@@ -26,6 +26,16 @@ install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COM
 # ---- what programs are built with
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
+# The archive takes as long to build as all else.
+option(TARN_STATIC "build and install the archive as well" ${TARN_LINK_STATIC})
+if(TARN_STATIC)
+  set_target_properties(lumo_ui_tarn_static PROPERTIES EXCLUDE_FROM_ALL OFF)
+  install(TARGETS lumo_ui_tarn_static EXPORT lumo_ui_tarn_static ARCHIVE DESTINATION ${library_dir}
+          COMPONENT development INCLUDES DESTINATION ${include_dir})
+  install(EXPORT lumo_ui_tarn_static NAMESPACE lumo_ui_tarn:: FILE lumo_ui_tarn_static.cmake
+          DESTINATION ${cmake_dir} COMPONENT development)
+  set(static_module lumo_ui_tarn_static)
+endif()
 install(EXPORT lumo_ui_tarn_shared NAMESPACE lumo_ui_tarn:: FILE lumo_ui_tarn_shared.cmake
         DESTINATION ${cmake_dir} COMPONENT development)
 configure_package_config_file(packaging/lumo_ui_tarn-config.cmake.in ${CMAKE_BINARY_DIR}/lumo_ui_tarn-config.cmake
@@ -34,11 +44,38 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/lumo_ui_tarn-config-version
 install(FILES ${CMAKE_BINARY_DIR}/lumo_ui_tarn-config.cmake ${CMAKE_BINARY_DIR}/lumo_ui_tarn-config-version.cmake
         DESTINATION ${cmake_dir} COMPONENT development)
 file(RELATIVE_PATH to_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
-foreach(module lumo_ui_tarn mirk_platform)
+foreach(module lumo_ui_tarn mirk_platform ${static_module})
   configure_file(packaging/${module}.pc.in ${CMAKE_BINARY_DIR}/${module}.pc @ONLY)
   install(FILES ${CMAKE_BINARY_DIR}/${module}.pc DESTINATION ${library_dir}/pkgconfig COMPONENT development)
 endforeach()
 
+# ---- what the shells ask
+set(TARN_ZSH_DIR ${CMAKE_INSTALL_DATAROOTDIR}/zsh/site-functions)
+if(TARN_DEBIAN)
+  set(TARN_ZSH_DIR ${CMAKE_INSTALL_DATAROOTDIR}/zsh/vendor-completions)
+endif()
+install(FILES tools/tarn/completion/tarn.bash DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions
+        RENAME tarn COMPONENT tools)
+install(FILES tools/tarn/completion/_tarn DESTINATION ${TARN_ZSH_DIR} COMPONENT tools)
+
+# ---- the Python package, if there was a Python to build it with
+if(TARN_PYTHON_FILES)
+  install(FILES ${TARN_PYTHON_FILES} DESTINATION lib/python3/dist-packages/lumo_tarn COMPONENT tools)
+endif()
+
 # ---- what people read
+install(FILES ${CMAKE_BINARY_DIR}/docs/tarn.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+install(FILES ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man3
+        COMPONENT development)
+install(FILES ${CMAKE_BINARY_DIR}/docs/tarn_frame.5.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man5
+        COMPONENT documentation)
+if(TARN_REFERENCE)
+  install(DIRECTORY ${CMAKE_BINARY_DIR}/docs/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
+          COMPONENT documentation)
+endif()
 install(FILES README.md docs/design.md docs/tour.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
 install(DIRECTORY examples docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+
+if(TARN_DEBIAN)
+  include(packaging/packages.cmake)
+endif()

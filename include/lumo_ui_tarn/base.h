@@ -1,29 +1,37 @@
-/* base.h - what every header of the library begins with. */
+/** @file
+ * base.h - what every header of the library begins with. */
 #ifndef LUMO_UI_TARN_BASE_H
 #define LUMO_UI_TARN_BASE_H
 
 #include <mirk/mirk.h>
 
 #if defined(__GNUC__)
+/** Marks a name that the library exports. */
 #define LUMO_UI_TARN_API __attribute__((visibility("default")))
 #else
 #define LUMO_UI_TARN_API
 #endif
 
 #ifdef __cplusplus
+/** Opens a block of names with C linkage. */
 #define LUMO_UI_TARN_BEGIN extern "C" {
+/** Closes it. */
 #define LUMO_UI_TARN_END }
 #else
+/** Opens a block of names with C linkage. */
 #define LUMO_UI_TARN_BEGIN
+/** Closes it. */
 #define LUMO_UI_TARN_END
 #endif
 
-/* Bits of an object's obj_flag. */
-#define MIRK_OBJ_OID_MAPPED 1
-#define MIRK_OBJ_EMBEDDED 2
-#define MIRK_OBJ_NESTED 4
-#define MIRK_OBJ_STATE_TRACKED 8
-#define MIRK_OBJ_RA_DATA 32
-#define MIRK_OBJ_STTR_OFFSET 64
+/** @name Bits of an object's obj_flag
+ *  @{ */
+#define MIRK_OBJ_OID_MAPPED 1    /**< others refer to the object by its identifier */
+#define MIRK_OBJ_EMBEDDED 2      /**< lies in memory of another object */
+#define MIRK_OBJ_NESTED 4        /**< was initialised as part of another object, which has its state */
+#define MIRK_OBJ_STATE_TRACKED 8 /**< has state bytes */
+#define MIRK_OBJ_RA_DATA 32      /**< the runtime keeps RA data for the object */
+#define MIRK_OBJ_STTR_OFFSET 64  /**< the runtime knows where the state lies; else it lies behind the object */
+/** @} */
 
 #endif

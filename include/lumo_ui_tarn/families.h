@@ -1,4 +1,5 @@
-/* families.h - how the operations behave, told once for all records, enumerations and messages.
+/** @file
+ * families.h - how the operations behave, told once for all records, enumerations and messages.
  *
  * This header declares nothing. The other headers list names; a name is TYPE_OPERATION or TYPE_MEMBER_OPERATION, and each
  * operation of one name behaves alike for every type.
@@ -6,11 +7,11 @@
  *
  * Handles, contexts, errors
  * -------------------------
- * h        the runtime's handle; used by one thread at a time. It supplies memory, the domain, the tracking mode and the
- *          sticky error. The library makes no handle and frees none.
- * ctx_id   handed on to the memory callbacks and the runtime as it is; never interpreted.
- * err      the error slot: 0, or a system error number. An operation that finds it set does nothing and returns 0 or null,
- *          so a sequence of calls can be tested once, at its end. An operation that starts clears the handle's last error.
+ * - `h` is the runtime's handle; used by one thread at a time. It supplies memory, the domain, the tracking mode and the
+ *   sticky error. The library makes no handle and frees none.
+ * - `ctx_id` is handed on to the memory callbacks and the runtime as it is; never interpreted.
+ * - `err` is the error slot: 0, or a system error number. An operation that finds it set does nothing and returns 0 or
+ *   null, so a sequence of calls can be tested once, at its end. An operation that starts clears the handle's last error.
  *
  * Forms: an explicit form takes (h, ctx_id, ..., err). A sticky form, named _cr, takes (h, ...): it works under the
  * handle's default_id, and its slot is the handle's last_error, which stays set until an explicit form clears it. An

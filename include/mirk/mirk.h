@@ -1,4 +1,4 @@
-/*
+/** @file
  * mirk.h - everything that a schema library asks of the runtime beneath it.
  *
  * Rules that hold for every operation unless its own comment says otherwise:

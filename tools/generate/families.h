@@ -39,6 +39,9 @@ struct Row {
 
 std::span<const Row> rows();
 
+std::string_view name_of(const Row &row);         // of the operation, with placeholders
+std::string_view description_of(const Row &row);  // a sentence or a few, with placeholders
+
 // What other units call: instantiated in the unit that defines it.
 struct Instantiation {
     std::string_view unit;

@@ -31,26 +31,61 @@ std::string prototype(const std::string &declaration) {
     return out + text + "\n";
 }
 
+// A comment for the reference, broken between words.
+std::string comment(std::string text) {
+    std::string out, line = "/**";
+    text += " */";
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = std::min(text.find(' ', at), text.size());
+        if (text.substr(end) == " */") end = text.size();  // the end of a comment never stands alone
+        if (line.size() + 1 + end - at > line_width) {
+            out += line + "\n";
+            line = " *";
+        }
+        line += " " + text.substr(at, end - at);
+        at = end + 1;
+    }
+    return out + line + "\n";
+}
+
+std::string group(const std::string &heading, const std::string &content) {
+    return "/** @name " + heading + "\n *  @{ */\n" + content + "/** @} */\n";
+}
+
+std::string sentence(std::string_view phrase) {
+    std::string text(phrase);
+    if (text.front() >= 'a' && text.front() <= 'z') text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text + ".";
+}
+
+std::string declaration(const Export &e) {
+    return comment(fill(description_of(*e.row), e.subject)) + prototype(e.declaration());
+}
+
+constexpr const char *generated = "/* Generated from the schema; edit the tables there and run tools/regenerate. */\n";
+
 std::string page(const std::string &file, const std::string &purpose, const std::set<std::string> &includes,
                  const std::string &body) {
     const std::string guard = "LUMO_UI_TARN_" + upper(file);
-    std::string text =
-        "/* " + purpose + "\n * Generated from the schema; edit the tables there and run tools/regenerate. */\n";
+    std::string text = generated + ("/** @file\n * " + purpose + " */\n");
     text += "#ifndef " + guard + "\n#define " + guard + "\n\n#include <lumo_ui_tarn/base.h>\n";
     for (const std::string &include : includes) text += "#include <lumo_ui_tarn/" + include + ">\n";
     return text + "\nLUMO_UI_TARN_BEGIN\n\n" + body + "\nLUMO_UI_TARN_END\n\n#endif\n";
 }
 
 std::string by_family(const Subject &subject, Applies applies) {
-    std::string text;
+    std::string text, content;
     std::string_view family;
+    const auto close = [&] {
+        if (!content.empty()) text += "\n" + group(std::string(family), content);
+        content.clear();
+    };
     for (const Export &e : exports_of(subject, applies)) {
-        if (e.row->family != family) {
-            family = e.row->family;
-            text += "\n/* " + std::string(family) + " */\n";
-        }
-        text += prototype(e.declaration());
+        if (e.row->family != family) close();
+        family = e.row->family;
+        content += declaration(e);
     }
+    close();
     return text;
 }
 
@@ -60,7 +95,7 @@ std::string data_of(const Subject &subject) {
         const bool same = d.subject.record == subject.record && d.subject.enumeration == subject.enumeration &&
                           d.subject.message == subject.message && d.subject.bundle == subject.bundle &&
                           d.subject.control == subject.control;
-        if (same) text += "extern LUMO_UI_TARN_API " + d.declaration + ";\n";
+        if (same) text += comment(d.text) + "extern LUMO_UI_TARN_API " + d.declaration + ";\n";
     }
     return text;
 }
@@ -86,17 +121,18 @@ std::string type_of(const Member &m) {
 
 // Name, kind and meaning of each member in aligned columns.
 std::string members_table(const Record &record) {
-    std::size_t name_width = 0, type_width = 0;
+    std::size_t name_width = 6, type_width = 4;  // those of the headings
     for (const Member &m : record.members) {
         name_width = std::max(name_width, m.name.size());
         type_width = std::max(type_width, type_of(m).size());
     }
-    std::string text;
-    for (const Member &m : record.members) {
-        const std::string type = type_of(m);
-        text += " *   " + std::string(m.name) + std::string(name_width - m.name.size() + 2, ' ') + type +
-                std::string(type_width - type.size() + 2, ' ') + std::string(m.meaning) + "\n";
-    }
+    const auto row = [&](const std::string &name, const std::string &type, const std::string &meaning) {
+        return " * | " + name + std::string(name_width - name.size(), ' ') + " | " + type +
+               std::string(type_width - type.size(), ' ') + " | " + meaning + " |\n";
+    };
+    std::string text = row("member", "type", "meaning") + " * |" + std::string(name_width + 2, '-') + "|" +
+                       std::string(type_width + 2, '-') + "|---|\n";
+    for (const Member &m : record.members) text += row(std::string(m.name), type_of(m), std::string(m.meaning));
     return text;
 }
 
@@ -108,16 +144,14 @@ std::string record_page(const Record &record) {
         if (m.enumeration != nullptr) includes.insert("enumerations/" + std::string(m.enumeration->name) + ".h");
     }
     const Subject subject{.record = &record};
-    std::string body =
-        "/* " + name + ": " + std::string(record.meaning) + ".\n *\n" + members_table(record) +
-        " *\n * How each operation behaves is told once for all records in lumo_ui_tarn/families.h. */\n";
+    std::string body = "/** " + sentence(record.meaning) + "\n *\n" + members_table(record) +
+                       " *\n * How the operations of all records behave is told in lumo_ui_tarn/families.h. */\n";
     body += "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::record);
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        body += "\n/* " + std::string(m.name) + ": " + std::string(m.meaning) + " */\n";
-        for (const Export &e : exports_of({.record = &record, .member = i}, class_of(m))) {
-            body += prototype(e.declaration());
-        }
+        std::string accessors;
+        for (const Export &e : exports_of({.record = &record, .member = i}, class_of(m))) accessors += declaration(e);
+        body += "\n" + group(std::string(m.name) + ": " + std::string(m.meaning), accessors);
     }
     return page("records/" + name + ".h", std::string(record.name) + ".h - " + std::string(record.meaning) + ".",
                 includes, body);
@@ -126,20 +160,20 @@ std::string record_page(const Record &record) {
 std::string enumeration_page(const Enumeration &enumeration) {
     const std::string name(enumeration.name);
     const Subject subject{.enumeration = &enumeration};
-    std::string body = "/* " + std::string(enumeration.meaning) + "; an object holds one of these values. */\nenum {\n";
+    std::string body = comment("Values of a " + name + ": " + std::string(enumeration.meaning) + ".") + "enum {\n";
     for (std::size_t i = 0; i < enumeration.enumerators.size(); ++i) {
-        body += "    " + std::string(enumeration.enumerators[i]) + " = " + std::to_string(i) + ",\n";
+        const bool last = i + 1 == enumeration.enumerators.size();
+        body += "    " + std::string(enumeration.enumerators[i]) + " = " + std::to_string(i) + (last ? "\n" : ",\n");
     }
-    body.erase(body.size() - 2, 1);
-    body += "};\n\ntypedef struct " + name + " " + name + ";\n" + data_of(subject) +
-            by_family(subject, Applies::enumeration);
+    body += "};\n\n" + comment("An object that holds one of the values: " + std::string(enumeration.meaning) + ".") +
+            "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::enumeration);
     return page("enumerations/" + name + ".h", name + ".h - " + std::string(enumeration.meaning) + ".", {}, body);
 }
 
 std::string message_page(const Message &message) {
     const std::string name(message.name), payload(message.payload.name);
     const Subject subject{.message = &message};
-    std::string body = "/* Carries one " + payload + ", which it owns. */\n";
+    std::string body = comment("Carries one " + payload + ", which it owns.");
     body += "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::message);
     return page("messages/" + name + ".h", name + ".h - the message that carries a " + payload + ".",
                 {"records/" + payload + ".h"}, body);
@@ -148,27 +182,30 @@ std::string message_page(const Message &message) {
 std::string bundle_page(const Bundle &bundle) {
     const std::string name(bundle.name);
     const Subject subject{.bundle = &bundle};
-    std::string body = "/* Admits " + std::string(bundle.message.name) +
-                       " and the requests of the user interface. */\n" + data_of(subject) +
-                       by_family(subject, Applies::bundle);
+    std::string body = data_of(subject) + by_family(subject, Applies::bundle);
     for (const char *kind : {"start", "abort", "commit"}) {
         const Subject control{.bundle = &bundle, .control = kind};
         body +=
             "\n/* ---- " + std::string(kind) + " ---- */\n" + data_of(control) + by_family(control, Applies::control);
     }
-    return page("bundles/" + name + ".h",
-                name + ".h - the bundle that answers with a " + std::string(bundle.message.name) + ".",
-                {"messages/" + std::string(bundle.message.name) + ".h"}, body);
+    return page(
+        "bundles/" + name + ".h",
+        name + ".h - the bundle that answers with a " + std::string(bundle.message.name) +
+            ".\n *\n * It admits that message and the requests of the user interface, between its start and its "
+            "commit or abort.",
+        {"messages/" + std::string(bundle.message.name) + ".h"}, body);
 }
 
 std::string chief(const Files &files) {
     std::string text =
-        "/* lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the traffic-aware "
-        "routing\n"
-        " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which explains "
-        "each\n"
-        " * family of operations once; the other headers list names.\n"
-        " * Generated from the schema; edit the tables there and run tools/regenerate. */\n"
+        generated +
+        std::string(
+            "/** @file\n"
+            " * lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the "
+            "traffic-aware routing\n"
+            " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which "
+            "explains each\n"
+            " * family of operations once; the other headers list names. */\n") +
         "#ifndef LUMO_UI_TARN_H\n#define LUMO_UI_TARN_H\n\n#include <lumo_ui_tarn/base.h>\n"
         "#include <lumo_ui_tarn/families.h>\n";
     std::string_view folder;

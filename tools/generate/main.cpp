@@ -86,11 +86,12 @@ int main(int argc, char **argv) {
         put(argv[2], write_dissector());
     } else if (kind == "python") {
         put(argv[2], write_python());
+    } else if (kind == "manuals") {
+        put(argv[2], write_manuals());
     } else {
         std::cerr
             << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|pictures|dissector|"
-               "python DIRECTORY "
-               "[NAME=VALUE...]\n";
+               "python|manuals DIRECTORY [NAME=VALUE...]\n";
         return 2;
     }
     return 0;

@@ -103,6 +103,7 @@ std::string fill(std::string_view pattern, const Subject &s) {
             const Member &m = record->members[s.member];
             put("{F}", "FieldOf<{R}, " + std::to_string(s.member) + ">");
             put("{f}", m.name);
+            put("{meaning}", m.meaning);
             if (is_integer(m.kind)) put("{T}", integer_type(m.kind));
             if (m.record != nullptr) put("{n}", m.record->name);
             if (m.enumeration != nullptr) put("{n}", m.enumeration->name);
@@ -211,22 +212,30 @@ std::vector<TypeEntry> types() {
 
 std::vector<Datum> all_data() {
     std::vector<Datum> all;
-    const auto add = [&](std::string before, std::string name, std::string behind, const Subject &subject) {
-        all.push_back({before + " " + name + behind, name, subject});
+    const auto add = [&](std::string before, std::string name, std::string behind, const Subject &subject,
+                         std::string text) {
+        all.push_back({before + " " + name + behind, name, subject, std::move(text)});
     };
-    for (const TypeEntry &t : types()) add("mirk_type_info", "_" + t.name + "_type_info_internal", "", t.subject);
+    for (const TypeEntry &t : types()) {
+        add("mirk_type_info", "_" + t.name + "_type_info_internal", "", t.subject,
+            "The module's own type record of " + t.name + ": identity, variants, usage counters.");
+    }
     for (const CatalogueEntry &c : catalogue()) {
-        add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject);
-        add("const char", "message_" + c.name + "_luid_text", "[33]", c.subject);
-        add("const char", "message_" + c.name + "_name", "[64]", c.subject);
+        add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject,
+            "Identity of " + c.name + ", as it stands in frames.");
+        add("const char", "message_" + c.name + "_luid_text", "[33]", c.subject,
+            "Identity of " + c.name + " in hexadecimal digits.");
+        add("const char", "message_" + c.name + "_name", "[64]", c.subject, "Name of " + c.name + ", for trace lines.");
     }
-    for (const char *trace : {"type", "message", "queue", "stub"}) {
-        add("uint16_t", "g_mirk_lumo_ui_tarn_" + std::string(trace) + "_trace_module_id", "", {});
+    for (const std::string trace : {"type", "message", "queue", "stub"}) {
+        add("uint16_t", "g_mirk_lumo_ui_tarn_" + trace + "_trace_module_id", "", {},
+            "Under which number the " + trace + " code of this module traces; 0 until it is registered.");
     }
-    add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {});
+    add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {},
+        "The handler that is registered for all bundles of the module, or null. Carries no lock.");
     for (const Bundle *b : bundles) {
         add("mirk_bundle_handler", "lumo_ui_tarn_" + std::string(b->name) + "_bundle_registered_handler", "",
-            {.bundle = b});
+            {.bundle = b}, "The handler that is registered for this bundle, or null. Carries no lock.");
     }
     return all;
 }

@@ -44,6 +44,7 @@ std::vector<Export> all_functions();
 struct Datum {
     std::string declaration, name;  // the declaration as in a header, without extern
     Subject subject;
+    std::string text;  // what it is, in a sentence
 };
 std::vector<Datum> all_data();
 

@@ -23,6 +23,8 @@ Files write_pictures();    // docs/pictures/: what the tour shows, checked in
 Files write_dissector();   // build tree: the dissector for network captures
 Files write_python();      // build tree: tables and type stubs for the Python package
 
+Files write_manuals();  // build tree: manual pages of the library and of the frame
+
 struct BuildStamp {
     std::string built_by = "packager", on_host = "unnamed", pid = "0", at = "1970-01-01T00:00:00Z", comment = "none";
 };

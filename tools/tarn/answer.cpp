@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "answering.h"
+#include "command_line.h"
 #include "commands.h"
 #include "mirk_platform.h"
 
@@ -137,12 +138,15 @@ void add_answer(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("answer", "serve snapshots of bundles over a socket or TCP");
     CLI::Option_group *place = command->add_option_group("place", "where to listen");
-    place->add_option("--socket", options->socket, "a socket file, which only its owner may use");
-    place->add_option("--listen", options->listen, tcp_words("a TCP address, which whoever reaches it may use"));
+    place->add_option("--socket", options->socket, "a socket file, which only its owner may use")
+        ->type_name(words::file);
+    place->add_option("--listen", options->listen, tcp_words("a TCP address, which whoever reaches it may use"))
+        ->type_name(words::address);
     place->require_option(1);
     command
         ->add_option("served", options->served,
                      "BUNDLE=FILE: a bundle by name or short form, and its messages as XML, JSON or frames")
+        ->type_name(words::bundle_file)
         ->required();
     command->add_option("--peers", options->peers, "how many peers are served at once")->capture_default_str();
     command->add_option("--idle", options->idle, "seconds after which a silent peer is turned out; 0: never")

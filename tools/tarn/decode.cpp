@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "command_line.h"
 #include "commands.h"
 #include "dissection.h"
 #include "files.h"
@@ -147,6 +148,7 @@ void add_decode(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("decode", "frames and recordings into text, XML or JSON");
     command->add_option("file", options->file, "frames, a run of XML fragments, or JSON; - is standard input")
+        ->type_name(words::file)
         ->capture_default_str();
     CLI::Option_group *form = command->add_option_group("form", "what to make of them");
     form->add_flag("--text", options->text, "indented text, which is the default");

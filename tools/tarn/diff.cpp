@@ -2,6 +2,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 #include "json_form.h"
@@ -134,8 +135,10 @@ Exit run(const Options &options) {
 void add_diff(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("diff", "two messages member by member");
-    command->add_option("a", options->a, "frames, XML or JSON")->required();
-    command->add_option("b", options->b, "frames, XML or JSON, not necessarily of the same form")->required();
+    command->add_option("a", options->a, "frames, XML or JSON")->type_name(words::file)->required();
+    command->add_option("b", options->b, "frames, XML or JSON, not necessarily of the same form")
+        ->type_name(words::file)
+        ->required();
     command->add_flag("--json", options->json, "as JSON");
     command->add_flag("-q,--quiet", options->quiet, "say nothing, the exit code tells");
     command->add_flag("--no-state", options->no_state, "pass over per-field state");

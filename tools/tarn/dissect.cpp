@@ -3,6 +3,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "dissection.h"
 #include "files.h"
@@ -93,7 +94,9 @@ Exit run(const Options &options) {
 void add_dissect(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("dissect", "an annotated dump of frames, byte by byte");
-    command->add_option("file", options->file, "frames; - is standard input")->capture_default_str();
+    command->add_option("file", options->file, "frames; - is standard input")
+        ->type_name(words::file)
+        ->capture_default_str();
     command->add_flag("--json", options->json, "as JSON");
     command->footer(
         "Of a broken frame it shows what is good, then where it breaks and why, and ends with exit code 2.\n\n"

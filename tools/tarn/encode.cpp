@@ -1,6 +1,7 @@
 // tarn encode: XML and JSON into frames.
 #include <memory>
 
+#include "command_line.h"
 #include "commands.h"
 #include "encoding.h"
 #include "files.h"
@@ -30,10 +31,14 @@ Exit run(const Options &options) {
 void add_encode(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("encode", "XML and JSON into frames");
-    command->add_option("file", options->file, "XML, JSON, or frames; - is standard input")->capture_default_str();
-    command->add_option("-o,--output", options->output, "where the frames go; - is standard output")
+    command->add_option("file", options->file, "XML, JSON, or frames; - is standard input")
+        ->type_name(words::file)
         ->capture_default_str();
-    command->add_option("--bundle", options->bundle, "put a start and a commit of this bundle around them");
+    command->add_option("-o,--output", options->output, "where the frames go; - is standard output")
+        ->type_name(words::file)
+        ->capture_default_str();
+    command->add_option("--bundle", options->bundle, "put a start and a commit of this bundle around them")
+        ->type_name(words::bundle);
     command->add_option("--stamp", options->stamp, "stamp in every header")->capture_default_str();
     command->add_flag("--tracked", options->tracked, "write per-field state");
     command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");

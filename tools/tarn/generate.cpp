@@ -2,6 +2,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 #include "json_form.h"
@@ -144,7 +145,9 @@ void run(const Options &options) {
 void add_generate(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("generate", "plausible random answers");
-    command->add_option("what", options->what, "a bundle by name or short form, or a message by name")->required();
+    command->add_option("what", options->what, "a bundle by name or short form, or a message by name")
+        ->type_name(words::bundle_or_message)
+        ->required();
     command->add_option("--seed", options->seed, "the same seed gives the same answer")->capture_default_str();
     CLI::Option *elements =
         command->add_option("--elements", options->elements, "about how many elements each list has")
@@ -158,6 +161,7 @@ void add_generate(CLI::App &app, Context &) {
         ->check(CLI::IsMember({"xml", "json", "text", "frames"}))
         ->capture_default_str();
     command->add_option("-o,--output", options->output, "where to write it; - is standard output")
+        ->type_name(words::file)
         ->capture_default_str();
     command->add_flag("--tracked", options->tracked, "with per-field state");
     command->add_flag("--bundle", options->bundle, "with the start and the commit of its bundle around it");

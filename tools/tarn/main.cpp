@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 
@@ -33,6 +34,15 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
+    // These two tell of the command line and are no part of it: for the shells, and for the manual.
+    if (argc > 1 && std::string_view(argv[1]) == "complete") {
+        write_file("-", completions(app, {argv + 2, argv + argc}));
+        return 0;
+    }
+    if (argc == 2 && std::string_view(argv[1]) == "manual") {
+        write_file("-", manual_page(app));
+        return 0;
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {

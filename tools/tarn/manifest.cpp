@@ -5,6 +5,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 
@@ -121,7 +122,7 @@ Exit run(const Options &options) {
 void add_manifest(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("manifest", "what a library file says of its types and its build");
-    command->add_option("file", options->file, "an ELF file")->required();
+    command->add_option("file", options->file, "an ELF file")->type_name(words::file)->required();
     command->add_flag("--json", options->json, "as JSON");
     command->footer(
         "Exit codes: 0 printed, 1 the file has no manifest, 2 it is no ELF file or is damaged.\n\n"

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "asking.h"
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 
@@ -119,15 +120,20 @@ Exit run(const Options &options) {
 void add_record(CLI::App &app, Context &context) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("record", "keep what is received in a file");
-    command->add_option("what", options->what, "bundles to ask for, by name or short form");
+    command->add_option("what", options->what, "bundles to ask for, by name or short form")->type_name(words::bundle);
     command->add_option("-o,--output", options->output, "the recording: XML fragments, one behind the other")
+        ->type_name(words::file)
         ->required();
-    command->add_option("--full", options->full,
-                        "keep all frames in this file, too, also those too large for the recorder");
-    CLI::Option *socket =
-        command->add_option("--socket", options->place.socket, "socket file of the answering process");
-    CLI::Option *connect = command->add_option("--connect", options->place.tcp, tcp_words("its TCP address"));
-    CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead");
+    command
+        ->add_option("--full", options->full,
+                     "keep all frames in this file, too, also those too large for the recorder")
+        ->type_name(words::file);
+    CLI::Option *socket = command->add_option("--socket", options->place.socket, "socket file of the answering process")
+                              ->type_name(words::file);
+    CLI::Option *connect =
+        command->add_option("--connect", options->place.tcp, tcp_words("its TCP address"))->type_name(words::address);
+    CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead")
+                            ->type_name(words::file);
     socket->excludes(from)->excludes(connect);
     connect->excludes(from);
     command->add_option("--rounds", options->rounds, "ask for each bundle so many times")->capture_default_str();

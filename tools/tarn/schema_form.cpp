@@ -4,6 +4,7 @@
 
 #include "names.h"
 #include "schema/catalogue.h"
+#include "schema/wire_size.h"
 
 namespace tarn::tool {
 
@@ -32,34 +33,8 @@ std::string role_text(const Member &m) {
     return m.role == schema::Role::count ? "count" : m.role == schema::Role::length ? "length" : "";
 }
 
-std::string wire_text(const Record &record) {
-    std::size_t sum = 6;
-    bool open = false;
-    for (const Member &m : record.members) {
-        const std::string one = wire_text(m);
-        open = open || one.back() == '+';
-        sum += std::stoul(one);
-    }
-    return std::to_string(sum) + (open ? "+" : "");
-}
-
-std::string wire_text(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
-            return "2";
-        case Kind::enumeration:
-            return "5";
-        case Kind::address:
-            return "26";
-        case Kind::record:
-            return wire_text(*m.record);
-        case Kind::string:
-        case Kind::array:
-            return "0+";
-        default:
-            return std::to_string(std::size_t{1} << static_cast<unsigned>(m.kind));
-    }
-}
+std::string wire_text(const Record &record) { return schema::wire_text(record); }
+std::string wire_text(const Member &m) { return schema::wire_text(m); }
 
 ordered_json json_of_record(const Record &record) {
     const schema::Layout layout = schema::lay_out(record);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 #include "names.h"
@@ -12,6 +13,7 @@
 #include "schema_form.h"
 #include "schema_script.h"
 #include "terminal.h"
+#include "type_names.h"
 
 namespace tarn::tool {
 
@@ -83,11 +85,9 @@ std::string list_text() {
     return out + table(rows);
 }
 
-std::string record_text(const Record &record) {
+// A heading, and a row for each member.
+std::vector<std::vector<std::string>> record_rows(const Record &record) {
     const schema::Layout layout = schema::lay_out(record);
-    std::string out = std::string(record.name) + ": " + std::string(record.meaning) + "\n  luid " +
-                      record.luid.text.data() + ", base size " + std::to_string(layout.base_size) + ", state area " +
-                      std::to_string(layout.state_width) + ", on the wire " + wire_text(record) + " bytes\n";
     std::vector<std::vector<std::string>> rows{{"member", "kind", "role", "offset", "size", "slot", "wire", "meaning"}};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
@@ -95,7 +95,15 @@ std::string record_text(const Record &record) {
         rows.push_back({std::string(m.name), kind_text(m), role_text(m), std::to_string(place.offset),
                         std::to_string(place.size), slot_text(m, place), wire_text(m), std::string(m.meaning)});
     }
-    return out + table(rows);
+    return rows;
+}
+
+std::string record_text(const Record &record) {
+    const schema::Layout layout = schema::lay_out(record);
+    std::string out = std::string(record.name) + ": " + std::string(record.meaning) + "\n  luid " +
+                      record.luid.text.data() + ", base size " + std::to_string(layout.base_size) + ", state area " +
+                      std::to_string(layout.state_width) + ", on the wire " + wire_text(record) + " bytes\n";
+    return out + table(record_rows(record));
 }
 
 std::string enumeration_text(const schema::Enumeration &e) {
@@ -143,28 +151,21 @@ std::string dot_text(const std::function<bool(const Record &)> &wanted) {
     return out + "}\n";
 }
 
-bool matches(std::string_view given, std::string_view name) { return given == name || given == short_form(name); }
-
-// A record, or the payload of a message or a bundle.
-const Record *record_named(const std::string &name) {
-    for (const auto *r : schema::records) {
-        if (matches(name, r->name)) return r;
-    }
-    for (const auto *b : schema::bundles) {
-        if (matches(name, b->name)) return &b->message.payload;
-    }
-    for (const auto *m : schema::messages) {
-        if (matches(name, m->name)) return &m->payload;
-    }
-    return nullptr;
-}
-
 [[noreturn]] void unknown(const std::string &name) {
     std::vector<std::string> candidates;
     for (const auto *r : schema::records) candidates.push_back(short_form(r->name));
     for (const auto *r : schema::records) candidates.emplace_back(r->name);
     for (const auto *b : schema::bundles) candidates.push_back(short_form(b->name));
     throw Failure(Exit::input, "the schema has no \"" + name + "\"" + suggestion(name, candidates));
+}
+
+[[noreturn]] void unknown_member(const std::string &path) {
+    std::vector<std::string> candidates;
+    const std::string in = path.substr(0, path.rfind('.'));
+    if (const Target target = target_of(in); target && target.nested() != nullptr) {
+        for (const Member &m : target.nested()->members) candidates.push_back(in + "." + std::string(m.name));
+    }
+    throw Failure(Exit::input, "the schema has no \"" + path + "\"" + suggestion(path, candidates));
 }
 
 bool reaches(const Record &from, const Record &to) {
@@ -175,13 +176,38 @@ bool reaches(const Record &from, const Record &to) {
     return false;
 }
 
+std::string of_enumeration(const schema::Enumeration &e, bool as_json) {
+    if (!as_json) return enumeration_text(e);
+    return ordered_json{{"name", e.name}, {"luid", e.luid.text.data()}, {"enumerators", e.enumerators}}.dump(2) + "\n";
+}
+
+// The member's row, and what it nests.
+std::string of_member(const Target &target, const Options &options) {
+    const Member &member = *target.member;
+    const bool nests = member.record != nullptr;
+    if (options.tree)
+        return nests ? tree_text(*member.record) : std::string(member.name) + "  " + kind_text(member) + "\n";
+    if (options.dot && nests) return dot_text([&member](const Record &r) { return reaches(*member.record, r); });
+    if (options.dot) throw Failure(Exit::input, options.name + " nests nothing that could be drawn");
+    const auto at = static_cast<std::size_t>(&member - target.record->members.data());
+    if (options.json) return json_of_record(*target.record)["members"][at].dump(2) + "\n";
+    const auto rows = record_rows(*target.record);
+    std::string out = std::string(target.record->name) + "." + std::string(member.name) + "\n";
+    out += table({rows.front(), rows[at + 1]});
+    if (nests) out += "\n" + record_text(*member.record);
+    if (member.enumeration != nullptr) out += "\n" + enumeration_text(*member.enumeration);
+    return out;
+}
+
 std::string of_one(const Options &options) {
     if (options.html) throw Failure(Exit::input, "the page holds all of the schema, so no name goes with --html");
     for (const auto *e : schema::enumerations) {
-        if (!matches(options.name, e->name)) continue;
-        if (!options.json) return enumeration_text(*e);
-        return ordered_json{{"name", e->name}, {"luid", e->luid.text.data()}, {"enumerators", e->enumerators}}.dump(2) +
-               "\n";
+        if (is_named(options.name, e->name)) return of_enumeration(*e, options.json);
+    }
+    if (options.name.find('.') != std::string::npos) {
+        const Target target = target_of(options.name);
+        if (!target) unknown_member(options.name);
+        return of_member(target, options);
     }
     const Record *record = record_named(options.name);
     if (record == nullptr) unknown(options.name);
@@ -210,7 +236,10 @@ std::string of_all(const Options &options) {
 void add_schema(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("schema", "the schema as lists, trees and tables");
-    command->add_option("name", options->name, "a record, enumeration, message or bundle; all of it if left out");
+    command
+        ->add_option("name", options->name,
+                     "a record, enumeration, message or bundle, or a member by its path; all of it if left out")
+        ->type_name(words::type);
     CLI::Option_group *form = command->add_option_group("form", "how to show it");
     form->add_flag("--tree", options->tree, "as a tree of members");
     form->add_flag("--dot", options->dot, "as a graph for dot");
@@ -224,6 +253,7 @@ void add_schema(CLI::App &app, Context &) {
         "  tarn schema lumo_tarn_dp_tc\n"
         "  tarn schema dp-tt-cfg --tree\n"
         "  tarn schema --html > schema.html\n"
+        "  tarn schema dp-tt-cfg.lumo_data\n"
         "  tarn schema --dot | dot -Tsvg -o schema.svg");
     command->callback([options] { write_file("-", options->name.empty() ? of_all(*options) : of_one(*options)); });
 }

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "asking.h"
+#include "command_line.h"
 #include "commands.h"
 #include "files.h"
 #include "json_form.h"
@@ -57,10 +58,12 @@ void run(const Options &options) {
 void add_show(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("show", "ask a process for a bundle and print its answer");
-    command->add_option("what", options->what, "bundle by name or short form, such as cl-debug")->required();
+    command->add_option("what", options->what, "bundle by name or short form, such as cl-debug")
+        ->type_name(words::bundle)
+        ->required();
     CLI::Option_group *place = command->add_option_group("place", "where the answering process is");
-    place->add_option("--socket", options->place.socket, "its socket file");
-    place->add_option("--connect", options->place.tcp, tcp_words("its TCP address"));
+    place->add_option("--socket", options->place.socket, "its socket file")->type_name(words::file);
+    place->add_option("--connect", options->place.tcp, tcp_words("its TCP address"))->type_name(words::address);
     place->require_option(1);
     CLI::Option_group *form = command->add_option_group("form", "how to print the answer");
     form->add_flag("--text", options->text, "as indented text, which is the default");
@@ -72,7 +75,8 @@ void add_show(CLI::App &app, Context &) {
     command->add_option("--timeout", options->timeout, "seconds to wait for the whole answer")
         ->check(CLI::Range(0.001, 86400.0))
         ->capture_default_str();
-    command->add_option("--save", options->save, "keep the frames of the answer in this file, too");
+    command->add_option("--save", options->save, "keep the frames of the answer in this file, too")
+        ->type_name(words::file);
     command->add_option("--via", options->via, "which link of the handler chain takes the bundle")
         ->check(CLI::IsMember(via_words()))
         ->capture_default_str();

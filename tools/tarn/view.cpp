@@ -2,6 +2,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "command_line.h"
 #include "commands.h"
 #include "dissection.h"
 #include "encoding.h"
@@ -93,9 +94,12 @@ void run(const Options &options) {
 void add_view(CLI::App &app, Context &) {
     auto options = std::make_shared<Options>();
     CLI::App *command = app.add_subcommand("view", "frames, or two files of them, as a page for a browser");
-    command->add_option("a", options->a, "frames, XML or JSON; - is standard input")->required();
-    command->add_option("b", options->b, "a second file; the page then shows the difference");
+    command->add_option("a", options->a, "frames, XML or JSON; - is standard input")
+        ->type_name(words::file)
+        ->required();
+    command->add_option("b", options->b, "a second file; the page then shows the difference")->type_name(words::file);
     command->add_option("-o,--output", options->output, "where the page goes; - is standard output")
+        ->type_name(words::file)
         ->capture_default_str();
     command->add_flag("--tracked", options->tracked, "show XML and JSON as frames with per-field state");
     command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");

@@ -1,5 +1,8 @@
-/* lumo_tarn_dp_appl_cfg_rsp.h - the bundle that answers with a lumo_tarn_dp_appl_msg.
- * Generated from the schema; edit the tables there and run tools/regenerate. */
+/* Generated from the schema; edit the tables there and run tools/regenerate. */
+/** @file
+ * lumo_tarn_dp_appl_cfg_rsp.h - the bundle that answers with a lumo_tarn_dp_appl_msg.
+ *
+ * It admits that message and the requests of the user interface, between its start and its commit or abort. */
 #ifndef LUMO_UI_TARN_BUNDLES_LUMO_TARN_DP_APPL_CFG_RSP_H
 #define LUMO_UI_TARN_BUNDLES_LUMO_TARN_DP_APPL_CFG_RSP_H
 
@@ -8,169 +11,289 @@
 
 LUMO_UI_TARN_BEGIN
 
-/* Admits lumo_tarn_dp_appl_msg and the requests of the user interface. */
+/** The handler that is registered for this bundle, or null. Carries no lock. */
 extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_registered_handler;
 
-/* Handlers */
+/** @name Handlers
+ *  @{ */
+/** Gets each committed bundle for which no handler is registered; its messages lie on the handle's receive list
+ * meanwhile. A weak symbol: define one of the same name to take the bundles. This one only traces that nobody did. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, uint32_t *err);
+/** @} */
 
-/* Registration */
+/** @name Registration
+ *  @{ */
+/** Registers the handler of this bundle for the process and returns the one before. Carries no lock: call it at a quiet
+ * moment. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler_register(mirk_bundle_handler handler);
+/** Takes the registered handler of this bundle away and returns it. Carries no lock. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler_unregister(void);
+/** @} */
 
 /* ---- start ---- */
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_start, as it stands in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_appl_cfg_rsp_bundle_start_luid[16];
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_start in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_start_luid_text[33];
+/** Name of lumo_tarn_dp_appl_cfg_rsp_bundle_start, for trace lines. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_start_name[64];
 
-/* Control messages */
+/** @name Control messages
+ *  @{ */
+/** Makes a token for the start of the bundle, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create(mirk_handle *h, uint32_t ctx_id);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create(), with a sentinel instead of null, which only
+ * the sticky destroy operation may be given. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create_cr(mirk_handle *h);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
+/** Releases the token. Null is passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_destroy(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Releases the token. Null and the sentinel are passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_destroy_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Bytes of the frame: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len(): 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Writes the frame that is the start of the bundle, and has the handle's send bundle follow it: a start opens one, an
+ * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
+ * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_handler() for null. The frame is
+ * not read, since being called is all that it says. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
+/** Does nothing and returns 0: there is nothing to hand over. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     void **out, void *buffer, uint32_t size, uint32_t *err);
+/** Writes a line with the bundle's name. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_to_xml(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Makes a token whatever the document holds, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_valid_cr(mirk_handle *h);
+/** @} */
 
-/* Handlers */
+/** @name Handlers
+ *  @{ */
+/** What the start does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
+ * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
+ * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
+/** @} */
 
 /* ---- abort ---- */
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_abort, as it stands in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_luid[16];
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_abort in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_luid_text[33];
+/** Name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort, for trace lines. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_name[64];
 
-/* Control messages */
+/** @name Control messages
+ *  @{ */
+/** Makes a token for the abort of the bundle, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create(mirk_handle *h, uint32_t ctx_id);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create(), with a sentinel instead of null, which only
+ * the sticky destroy operation may be given. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create_cr(mirk_handle *h);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
+/** Releases the token. Null is passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_destroy(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Releases the token. Null and the sentinel are passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_destroy_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Bytes of the frame: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len(): 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Writes the frame that is the abort of the bundle, and has the handle's send bundle follow it: a start opens one, an
+ * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
+ * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_handler() for null. The frame is
+ * not read, since being called is all that it says. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
+/** Does nothing and returns 0: there is nothing to hand over. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     void **out, void *buffer, uint32_t size, uint32_t *err);
+/** Writes a line with the bundle's name. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_to_xml(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Makes a token whatever the document holds, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_valid_cr(mirk_handle *h);
+/** @} */
 
-/* Handlers */
+/** @name Handlers
+ *  @{ */
+/** What the abort does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
+ * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
+ * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
+/** @} */
 
 /* ---- commit ---- */
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_commit, as it stands in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_luid[16];
+/** Identity of lumo_tarn_dp_appl_cfg_rsp_bundle_commit in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_luid_text[33];
+/** Name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit, for trace lines. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_name[64];
 
-/* Control messages */
+/** @name Control messages
+ *  @{ */
+/** Makes a token for the commit of the bundle, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create(mirk_handle *h, uint32_t ctx_id);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create(), with a sentinel instead of null, which only
+ * the sticky destroy operation may be given. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create_cr(mirk_handle *h);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
+/** Releases the token. Null is passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_destroy(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Releases the token. Null and the sentinel are passed over. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_destroy_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Bytes of the frame: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len(): 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len_cr(mirk_handle *h, void *token);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
+/** Writes the frame that is the commit of the bundle, and has the handle's send bundle follow it: a start opens one, an
+ * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
+ * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal_unsafe(mirk_handle *h,
     uint32_t ctx_id, void *buffer, void *token, uint32_t size, uint32_t *err);
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_handler() for null. The frame is
+ * not read, since being called is all that it says. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
+/** Does nothing and returns 0: there is nothing to hand over. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_unmarshal_only(mirk_handle *h,
     uint32_t ctx_id, void **out, void *buffer, uint32_t size, uint32_t *err);
+/** Writes a line with the bundle's name. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Sticky form of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_to_xml(). 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
+/** Makes a token whatever the document holds, or null without memory. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** Another name of lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
+/** 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_valid_cr(mirk_handle *h);
+/** @} */
 
-/* Handlers */
+/** @name Handlers
+ *  @{ */
+/** What the commit does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
+ * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
+ * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
+/** @} */
 
 LUMO_UI_TARN_END
 

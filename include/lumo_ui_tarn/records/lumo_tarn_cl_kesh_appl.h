@@ -1,5 +1,6 @@
-/* lumo_tarn_cl_kesh_appl.h - one application.
- * Generated from the schema; edit the tables there and run tools/regenerate. */
+/* Generated from the schema; edit the tables there and run tools/regenerate. */
+/** @file
+ * lumo_tarn_cl_kesh_appl.h - one application. */
 #ifndef LUMO_UI_TARN_RECORDS_LUMO_TARN_CL_KESH_APPL_H
 #define LUMO_UI_TARN_RECORDS_LUMO_TARN_CL_KESH_APPL_H
 
@@ -7,164 +8,306 @@
 
 LUMO_UI_TARN_BEGIN
 
-/* lumo_tarn_cl_kesh_appl: one application.
+/** One application.
  *
- *   proto_name_len      uint16_t length  length of proto_name in bytes
- *   proto_name          string           name of the protocol
- *   sub_proto_name_len  uint16_t length  length of sub_proto_name in bytes
- *   sub_proto_name      string           name of the sub-protocol
- *   protocol_id         uint16_t         identifier of the protocol
- *   tarn_id             uint16_t         identifier of the application within the tarn feature
+ * | member             | type            | meaning |
+ * |--------------------|-----------------|---|
+ * | proto_name_len     | uint16_t length | length of proto_name in bytes |
+ * | proto_name         | string          | name of the protocol |
+ * | sub_proto_name_len | uint16_t length | length of sub_proto_name in bytes |
+ * | sub_proto_name     | string          | name of the sub-protocol |
+ * | protocol_id        | uint16_t        | identifier of the protocol |
+ * | tarn_id            | uint16_t        | identifier of the application within the tarn feature |
  *
- * How each operation behaves is told once for all records in lumo_ui_tarn/families.h. */
+ * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
 typedef struct lumo_tarn_cl_kesh_appl lumo_tarn_cl_kesh_appl;
+/** The module's own type record of lumo_tarn_cl_kesh_appl: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_cl_kesh_appl_type_info_internal;
 
-/* Life */
+/** @name Life
+ *  @{ */
+/** Makes an instance with all members zero, or null without memory. It belongs to the caller, who ends it with
+ * lumo_tarn_cl_kesh_appl_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_kesh_appl_create(mirk_handle *h, uint32_t ctx_id);
+/** Sticky form of lumo_tarn_cl_kesh_appl_create(): works under the handle's default_id, makes nothing while last_error
+ * is set, and answers a sentinel instead of null, which only lumo_tarn_cl_kesh_appl_destroy() and sticky forms may be
+ * given. */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_kesh_appl_create_cr(mirk_handle *h);
+/** As lumo_tarn_cl_kesh_appl_create(), without registering the trace module of types first: for whoever makes many. */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_kesh_appl_create_internal(mirk_handle *h, uint32_t ctx_id);
+/** Sets up an instance in zeroed memory of the caller's: header, usage counter, and what it embeds. The type is
+ * commonly _lumo_tarn_cl_kesh_appl_type_info_internal. With notify 0 the writes are not announced, with skip_count 1
+ * nothing is counted; flags go into obj_flag, and sttr_base is where the state lies of an instance that is nested in
+ * another. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
+/** Bytes of an instance with everything that it nests and, on a handle that tracks, its state. Differs between
+ * handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_sizeof(mirk_handle *h);
+/** The variant itself, or the highest that this library knows if that is lower. */
 LUMO_UI_TARN_API int8_t lumo_tarn_cl_kesh_appl_variant_data_index_cap(int8_t variant);
+/** Marks the instance, with the records, addresses and booleans in it, as lying in memory of another one
+ * (MIRK_OBJ_EMBEDDED). */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object);
+/** Brings the instance to the variant that the handle's domain has for its type; announced if that changes it. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_adjust_variant(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Ends the instance: its arrays and strings, what it nests, and its memory. Null and the sentinel are passed over. An
+ * instance that others refer to goes with the last reference. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_destroy(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *object);
+/** lumo_tarn_cl_kesh_appl_destroy() under the handle's default_id. Works whatever last_error holds. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_destroy_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *object);
+/** As lumo_tarn_cl_kesh_appl_destroy(); with free_it 0 the memory of the instance itself is left to its owner, as for
+ * an instance that lies inside another. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_destroy_internal(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t free_it);
+/** @} */
 
-/* Whole record */
+/** @name Whole record
+ *  @{ */
+/** The instance itself: lets code treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_kesh_appl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Writes all scalar members, counts and lengths through the pointers, in table order. Writes nothing for an instance
+ * without body, and no error tells. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *object,
     uint16_t *proto_name_len, uint16_t *sub_proto_name_len, uint16_t *protocol_id, uint16_t *tarn_id, uint32_t *err);
+/** Stores all scalar members, in table order; counts and lengths are not among them. State bytes stay as they are,
+ * unlike with the setters of single members. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *object,
     uint16_t protocol_id, uint16_t tarn_id, uint32_t *err);
+/** MOVES the source into the destination: members, state, and the ownership of arrays and strings, which the source
+ * loses. What the destination owned before is not released. lumo_tarn_cl_kesh_appl_copy_cr() copies. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *destination,
     lumo_tarn_cl_kesh_appl *source, uint32_t *err);
+/** For runtimes that move instances byte by byte: makes the copy in the new place the one owner of arrays and strings,
+ * and takes them from the old place. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *new_place, lumo_tarn_cl_kesh_appl *old_place, uint32_t *err);
+/** Fills the whole state area with one byte, unannounced, and that of every array element too. Element states then read
+ * as this value, and can no longer be set one by one. Does nothing without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint8_t value);
+/** 1 if the handle's domain has a member of this index, counted from 0 in table order; the instance is not looked
+ * at. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_is_valid_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *object,
     uint32_t field_index);
+/** @} */
 
-/* References */
+/** @name References
+ *  @{ */
+/** How many object identifiers the instance holds of its own: 0 in this schema. EINVAL for null. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Would write up to size object identifiers that the instance holds of its own: writes none in this schema. EINVAL for
+ * null. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, void **oids, uint32_t size, uint32_t *err);
+/** Tells the runtime where in the state area at this address the state of each nested record and address lies: for
+ * whoever has moved the instance or its state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, void *state_area, uint32_t *err);
+/** Has the runtime forget the places of states that lumo_tarn_cl_kesh_appl_offset_update() told it, at every depth. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** @} */
 
-/* Wire */
+/** @name Wire
+ *  @{ */
+/** Bytes that a buffer for lumo_tarn_cl_kesh_appl_marshal() needs, its spare byte aside. Says a little more than is
+ * written: see families.h. RA data comes on top. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *instance);
+/** Sticky form of lumo_tarn_cl_kesh_appl_len(): 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_len_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *instance);
+/** Writes the instance as a frame into the remaining bytes at buffer, behind which one spare byte lies. Returns the
+ * bytes written. Goes on after a failure, so that only err tells: ENOMEM or EMSGSIZE for too little room, EIDRM if the
+ * domain has no place for the instance's variant, in which case the frame is written in the domain's. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_kesh_appl *instance, int32_t remaining, uint32_t *err);
+/** As lumo_tarn_cl_kesh_appl_marshal(), but in the instance's own variant whatever the domain has: the frame of a deep
+ * copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_kesh_appl *instance, int32_t remaining, uint32_t *err);
+/** Reads a frame of length bytes at buffer, behind which one spare byte lies, into an instance. Returns the bytes
+ * consumed. With reuse 0 the instance owns nothing yet, and what it owned is lost; with reuse 1 its arrays and strings
+ * are kept where the counts are equal. The frame is never trusted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_kesh_appl *instance, uint32_t length, uint32_t reuse, uint32_t *err);
+/** @} */
 
-/* Deep copy */
+/** @name Deep copy
+ *  @{ */
+/** Makes a deep copy by way of a frame in the buffer, which has size bytes, lumo_tarn_cl_kesh_appl_len() of them at
+ * least, and one to spare. The result is null after any error; otherwise it belongs to the caller. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_kesh_appl *source,
     lumo_tarn_cl_kesh_appl **result, void *buffer, uint32_t size, uint32_t *err);
+/** Deep copy by way of the handle's workspace, null after any error. A record that is too large for the workspace needs
+ * lumo_tarn_cl_kesh_appl_clone(). */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_kesh_appl_clone_cr(mirk_handle *h,
     lumo_tarn_cl_kesh_appl *source);
+/** Deep copy into an existing instance, by way of the handle's workspace. What the destination owned is not released;
+ * if reading fails, the destination is destroyed. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_copy_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *source,
     lumo_tarn_cl_kesh_appl *destination);
+/** @} */
 
-/* Text */
+/** @name Text
+ *  @{ */
+/** Writes the instance as text for people, indent blanks in and headed by the name. Returns the characters written.
+ * Clear the buffer first: bytes in front of closing braces are counted and not written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_cl_kesh_appl *instance, int32_t remaining, uint32_t *err);
+/** Sticky form of lumo_tarn_cl_kesh_appl_print(), without indent and headed by the record's name. 0xFFFFFFFF after an
+ * error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_print_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *instance,
     char *buffer, int32_t remaining);
+/** @} */
 
-/* XML */
+/** @name XML
+ *  @{ */
+/** Writes the instance as an XML element of this name, one element in it for each member. A nonzero state shows as an
+ * attribute. Returns the characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_cl_kesh_appl *instance, int32_t remaining, uint8_t state, uint32_t *err);
+/** Sticky form of lumo_tarn_cl_kesh_appl_to_xml(), named as the record. 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_toxml_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *instance,
     char *buffer, int32_t remaining);
+/** Reads the element at a path of the runtime's document into the instance. Members that are missing stay as they are;
+ * a value that is none ends the reading, with a sentence in message if that is not null. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_cl_kesh_appl *instance, uint32_t *err, char *message, uint32_t message_size);
+/** @} */
 
-/* Value */
+/** @name Value
+ *  @{ */
+/** Orders two instances by their members in table order; only the sign means something. Null comes first. Header and
+ * state play no part. */
 LUMO_UI_TARN_API int32_t lumo_tarn_cl_kesh_appl_compare(const lumo_tarn_cl_kesh_appl *a,
     const lumo_tarn_cl_kesh_appl *b);
+/** Mixes all members into the seed; equal instances give equal results in every process. The seed itself for null. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_hash(const lumo_tarn_cl_kesh_appl *instance, uint32_t seed);
+/** 1 if the record, or a member up to the first that had one, bore a change mark. The record's own mark and that
+ * member's are cleared. The word is handed to the runtime as it is. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *instance, void *word);
+/** @} */
 
-/* proto_name_len: length of proto_name in bytes */
+/** @name proto_name_len: length of proto_name in bytes
+ *  @{ */
+/** Address of the length proto_name_len: length of proto_name in bytes. To be read only: it follows from the string. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_proto_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Length proto_name_len in bytes: length of proto_name in bytes. 0 after an error. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_proto_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** @} */
 
-/* proto_name: name of the protocol */
+/** @name proto_name: name of the protocol
+ *  @{ */
+/** Copies proto_name with a NUL behind it: name of the protocol. The destination has size bytes, one more than the
+ * length at least: ENOSPC says that the copy is cut. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, char *destination, uint32_t size, uint32_t *err);
+/** Stores length bytes, cut to 16 bits, as proto_name: name of the protocol. A text that ends earlier, or null, is
+ * followed by zero bytes. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const char *text, uint32_t length, uint32_t *err);
+/** Sticky form of lumo_tarn_cl_kesh_appl_proto_name_set(); returns the handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_proto_name_set_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *object,
     const char *text, uint32_t length);
+/** State byte of proto_name. EINVAL on a handle or for an object without tracking. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_kesh_appl_proto_name_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores the state byte of proto_name, announced, and marks the object as modified. EINVAL on a handle or for an
+ * object without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint8_t value, uint32_t *err);
+/** @} */
 
-/* sub_proto_name_len: length of sub_proto_name in bytes */
+/** @name sub_proto_name_len: length of sub_proto_name in bytes
+ *  @{ */
+/** Address of the length sub_proto_name_len: length of sub_proto_name in bytes. To be read only: it follows from the
+ * string. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_sub_proto_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Length sub_proto_name_len in bytes: length of sub_proto_name in bytes. 0 after an error. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_sub_proto_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** @} */
 
-/* sub_proto_name: name of the sub-protocol */
+/** @name sub_proto_name: name of the sub-protocol
+ *  @{ */
+/** Copies sub_proto_name with a NUL behind it: name of the sub-protocol. The destination has size bytes, one more than
+ * the length at least: ENOSPC says that the copy is cut. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, char *destination, uint32_t size, uint32_t *err);
+/** Stores length bytes, cut to 16 bits, as sub_proto_name: name of the sub-protocol. A text that ends earlier, or null,
+ * is followed by zero bytes. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const char *text, uint32_t length, uint32_t *err);
+/** Sticky form of lumo_tarn_cl_kesh_appl_sub_proto_name_set(); returns the handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_sub_proto_name_set_cr(mirk_handle *h, lumo_tarn_cl_kesh_appl *object,
     const char *text, uint32_t length);
+/** State byte of sub_proto_name. EINVAL on a handle or for an object without tracking. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_kesh_appl_sub_proto_name_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores the state byte of sub_proto_name, announced, and marks the object as modified. EINVAL on a handle or for an
+ * object without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint8_t value, uint32_t *err);
+/** @} */
 
-/* protocol_id: identifier of the protocol */
+/** @name protocol_id: identifier of the protocol
+ *  @{ */
+/** Address of the member protocol_id inside the object: identifier of the protocol. Null after an error. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_protocol_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Value of the member protocol_id: identifier of the protocol. 0 after an error. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_protocol_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores what the source holds as protocol_id: identifier of the protocol. Announced, marked as modified and, on a
+ * handle that tracks, with state byte 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const uint16_t *source, uint32_t *err);
+/** Stores a value as protocol_id: identifier of the protocol. Announced, marked as modified and, on a handle that
+ * tracks, with state byte 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint16_t value, uint32_t *err);
+/** State byte of protocol_id. EINVAL on a handle or for an object without tracking. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_kesh_appl_protocol_id_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores the state byte of protocol_id, announced, and marks the object as modified. EINVAL on a handle or for an
+ * object without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint8_t value, uint32_t *err);
+/** @} */
 
-/* tarn_id: identifier of the application within the tarn feature */
+/** @name tarn_id: identifier of the application within the tarn feature
+ *  @{ */
+/** Address of the member tarn_id inside the object: identifier of the application within the tarn feature. Null after
+ * an error. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_tarn_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Value of the member tarn_id: identifier of the application within the tarn feature. 0 after an error. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_tarn_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores what the source holds as tarn_id: identifier of the application within the tarn feature. Announced, marked as
+ * modified and, on a handle that tracks, with state byte 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_tarn_id_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const uint16_t *source, uint32_t *err);
+/** Stores a value as tarn_id: identifier of the application within the tarn feature. Announced, marked as modified and,
+ * on a handle that tracks, with state byte 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_tarn_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint16_t value, uint32_t *err);
+/** State byte of tarn_id. EINVAL on a handle or for an object without tracking. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_kesh_appl_tarn_id_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
+/** Stores the state byte of tarn_id, announced, and marks the object as modified. EINVAL on a handle or for an object
+ * without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_tarn_id_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint8_t value, uint32_t *err);
+/** @} */
 
 LUMO_UI_TARN_END
 

@@ -1,0 +1,62 @@
+# Debian packages, a component each: cpack -G DEB in a build with TARN_DEBIAN.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME lumo-ui-tarn)
+set(CPACK_PACKAGE_CONTACT "The lumo_ui_tarn authors <authors@lumo-ui-tarn.invalid>")
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_COMPONENTS_ALL library development tools documentation)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SOURCE lumo-ui-tarn)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(of_this_build "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+
+# What apt shows of a package: its name, its section, a line, and a paragraph.
+function(describe component package section line paragraph)
+  string(TOUPPER ${component} upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package} PARENT_SCOPE)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section} PARENT_SCOPE)
+  set(CPACK_DEBIAN_${upper}_DESCRIPTION "${line}\n${paragraph}" PARENT_SCOPE)
+  install(FILES packaging/copyright ${CMAKE_BINARY_DIR}/changelog.Debian.gz
+          DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${component})
+endfunction()
+describe(library liblumo-ui-tarn1 libs "records and messages of traffic-aware routing (shared libraries)"
+  "The feature tarn says what it knows in records that travel between processes
+as frames, in messages and bundles. This package holds the library that makes,
+fills, compares, writes and reads them, and the runtime that it stands on.")
+describe(development liblumo-ui-tarn-dev libdevel "records and messages of traffic-aware routing (development)"
+  "The feature tarn says what it knows in records that travel between processes
+as frames, in messages and bundles. This package holds what programs are built
+with: headers, and files for pkg-config and CMake.")
+describe(tools lumo-ui-tarn-tools utils "show, read, write and take apart answers of the tarn feature"
+  "The tool tarn asks a process for its bundles and prints them, serves bundles
+from files, turns frames into text, XML or JSON and back, shows frames byte by
+byte, compares answers and makes plausible ones. The Python package lumo_tarn
+does the same for programs, and a dissector for Wireshark.")
+describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
+  "The feature tarn says what it knows in records that travel between processes
+as frames, in messages and bundles. This package holds manuals, the reference
+of the library and examples.")
+
+# What a package needs of the system is read from its binaries, what it needs of the others stands here.
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SHLIBDEPS ON)
+file(WRITE ${CMAKE_BINARY_DIR}/shlibs
+     "liblumo_ui_tarn ${PROJECT_VERSION_MAJOR} liblumo-ui-tarn${PROJECT_VERSION_MAJOR} (>= ${PROJECT_VERSION})\n")
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${CMAKE_BINARY_DIR}/shlibs ${PROJECT_SOURCE_DIR}/packaging/triggers)
+install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides
+        RENAME liblumo-ui-tarn1 COMPONENT library)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR} ${CMAKE_BINARY_DIR}/platform)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, python3:any, python3-cffi-backend")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, libxml2-dev")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS lumo-ui-tarn-doc)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
+
+find_program(GZIP gzip REQUIRED)
+execute_process(COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/packaging/changelog
+                OUTPUT_FILE ${CMAKE_BINARY_DIR}/changelog.Debian.gz COMMAND_ERROR_IS_FATAL ANY)
+include(CPack)

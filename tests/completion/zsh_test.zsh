@@ -1,0 +1,44 @@
+#!/usr/bin/zsh -f
+# Types command lines into an interactive zsh, presses the tabulator, and looks at what the line has become.
+#   zsh_test.zsh TARN FOLDER_OF_SCRIPT
+zmodload zsh/zpty
+tool=$1 folder=$2
+place=$(mktemp -d)
+touch $place/answer.xml
+integer failures=0
+
+zpty -b shell "TERM=dumb zsh -f -i"
+zpty -w shell "PATH=${tool:h}:\$PATH; fpath=($folder \$fpath); cd $place; PROMPT= RPROMPT="
+zpty -w shell "autoload -Uz compinit; compinit -u -d $place/dump; setopt no_beep; LISTMAX=10000"
+# What the line has become is written to a file.
+zpty -w shell "note() { print -r -- \"\$BUFFER|\" > $place/line; BUFFER=; zle .redisplay }; zle -N note; bindkey '^X' note"
+zpty -w shell "print ready > $place/ready"
+for (( i = 0; i < 200; ++i )); do [[ -s $place/ready ]] && break; sleep 0.05; done
+
+expect() {
+  local got= wanted="$2|"
+  rm -f $place/line
+  zpty -w -n shell "$1"$'\t'$'\x18'
+  for (( i = 0; i < 200; ++i )); do
+    [[ -s $place/line ]] && break
+    sleep 0.05
+    zpty -r -t shell drained 2>/dev/null
+  done
+  [[ -s $place/line ]] && got=$(<$place/line)
+  [[ $got == $wanted ]] && return
+  print -r -- "\"$1\" and tab: expected $wanted got $got"
+  failures+=1
+}
+
+expect "tarn sch" "tarn schema "
+expect "tarn schema dp-tc-" "tarn schema dp-tc-list "
+expect "tarn schema dp-tc-list.num" "tarn schema dp-tc-list.num_tcs "
+expect "tarn show cl-deb" "tarn show cl-debug "
+expect "tarn show --via ha" "tarn show --via handle "
+expect "tarn show --via=ha" "tarn show --via=handle "
+expect "tarn answer --socket ans" "tarn answer --socket answer.xml "
+expect "tarn answer cl-d" "tarn answer cl-debug="
+expect "tarn answer cl-debug=ans" "tarn answer cl-debug=answer.xml "
+zpty -d shell
+rm -r $place
+exit $(( failures > 0 ))

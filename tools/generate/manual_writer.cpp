@@ -1,0 +1,305 @@
+// Manual pages of the library and of the frame, with tables from the schema.
+#include <algorithm>
+#include <utility>
+
+#include "schema/wire_size.h"
+#include "surface.h"
+#include "writers.h"
+
+namespace tarn::generate {
+
+using namespace schema;
+
+namespace {
+
+constexpr const char *date = "November 21, 2026";
+
+// Text without markup; a sentence begins a line of its own.
+std::string line(std::string text) {
+    for (std::size_t at = 0; (at = text.find(". ", at)) != std::string::npos;) text.replace(at, 2, ".\n");
+    return text + "\n";
+}
+
+// Cells that are mdoc already; the first row is the heading. A column is as wide as its widest cell.
+std::string table(const std::vector<std::vector<std::string>> &rows) {
+    const auto width = [](const std::string &cell) {
+        return static_cast<std::size_t>(std::count_if(cell.begin(), cell.end(), [](char c) { return c != '"'; }));
+    };
+    std::string out = ".Bl -column";
+    for (std::size_t i = 0; i < rows.front().size(); ++i) {
+        std::size_t widest = 0;
+        for (std::size_t r = 1; r < rows.size(); ++r) widest = std::max(widest, width(rows[r][i]));
+        out += " " + std::string(std::max<std::size_t>(widest, 5), 'x');
+    }
+    out += "\n";
+    for (const auto &row : rows) {
+        out += ".It ";
+        for (std::size_t i = 0; i < row.size(); ++i) out += (i > 0 ? " Ta " : "") + row[i];
+        out += "\n";
+    }
+    return out + ".El\n";
+}
+
+std::string capital(std::string_view phrase) {
+    std::string text(phrase);
+    if (text.front() >= 'a' && text.front() <= 'z') text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text;
+}
+
+std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+// Placeholders become words for what they stand for.
+std::string generic(std::string_view pattern) {
+    std::string text(pattern);
+    const std::pair<std::string_view, std::string_view> words[] = {
+        {": {meaning}", ""}, {"{r}", "RECORD"},  {"{f}", "MEMBER"}, {"{n}", "its type"},
+        {"{e}", "ENUM"},     {"{m}", "MESSAGE"}, {"{b}", "BUNDLE"}, {"{k}", "CONTROL"}};
+    for (const auto &[placeholder, word] : words) {
+        for (std::size_t at = 0; (at = text.find(placeholder, at)) != std::string::npos; at += word.size()) {
+            text.replace(at, placeholder.size(), word);
+        }
+    }
+    return text;
+}
+
+std::string operations(const std::string &heading, const std::string &introduction,
+                       const std::vector<Applies> &classes) {
+    std::string out = ".Ss " + heading + "\n" + introduction + "\n.Bl -tag -width Ds\n";
+    std::vector<std::string> told;
+    for (const Row &row : rows()) {
+        if (std::find(classes.begin(), classes.end(), row.applies) == classes.end()) continue;
+        const std::string name = generic(name_of(row)), text = generic(description_of(row));
+        if (std::find(told.begin(), told.end(), name + text) != told.end()) continue;
+        told.push_back(name + text);
+        out += ".It Fn " + name + "\n" + line(text);
+    }
+    return out + ".El\n";
+}
+
+std::string library_page() {
+    std::string out = std::string(".Dd ") + date + R"mdoc(
+.Dt LUMO_UI_TARN 3
+.Os
+.Sh NAME
+.Nm lumo_ui_tarn
+.Nd records, messages and bundles of traffic-aware routing
+.Sh SYNOPSIS
+.In lumo_ui_tarn.h
+.In mirk_platform.h
+.Pp
+.Dl cc program.c $(pkg-config --cflags --libs lumo_ui_tarn)
+.Sh DESCRIPTION
+The library makes one schema executable.
+Every record can be made, filled through accessors with a state byte for each member, compared, hashed, copied, written
+to a frame and read back, printed as text, written as XML and read from it.
+Messages carry a record each, and bundles carry messages.
+.Pp
+The library runs on a runtime, whose handle is the first argument of most operations.
+A stand-in runtime comes with it:
+.Fn mirk_platform_handle_open
+makes a handle, and
+.Fn mirk_platform_handle_close
+ends it.
+.Pp
+An operation of a type is named TYPE_OPERATION, one of a member TYPE_MEMBER_OPERATION.
+Operations of one name behave alike for every type.
+What follows lists each once, with words in capitals for the names of types and members;
+.In lumo_ui_tarn/families.h
+tells more.
+.Bl -tag -width ctx_id
+.It Fa h
+The handle, used by one thread at a time.
+.It Fa ctx_id
+A token that is handed on to the memory callbacks of the runtime, and never interpreted.
+.It Fa err
+Where errors are told: 0, or a number from
+.In errno.h .
+An operation that finds it set does nothing, and returns 0 or null, so that a sequence of calls needs one look at its end.
+.El
+.Pp
+A sticky form, named with _cr at its end, takes neither: it works under the handle's default_id, and tells errors in the
+handle's last_error.
+.Pp
+A buffer that frames are written to or read from has one more byte behind the size that is passed.
+)mdoc";
+    out += operations("Records", "Each RECORD has these.", {Applies::record});
+    out += operations("Members of records", "Which of them a MEMBER has follows from its kind.",
+                      {Applies::integer, Applies::boolean, Applies::choice, Applies::address, Applies::nested,
+                       Applies::length, Applies::count, Applies::string, Applies::array});
+    out += operations("Enumerations", "Each ENUM has these.", {Applies::enumeration});
+    out += operations("Messages", "Each MESSAGE has these.", {Applies::message});
+    out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.",
+                      {Applies::control, Applies::bundle});
+    out += operations("The module", "There is one of each.", {Applies::module});
+
+    out += ".Sh RECORDS\n";
+    std::vector<std::vector<std::string>> rows{{"Sy record", "Sy members", "Sy meaning"}};
+    for (const Record *r : records) {
+        rows.push_back({std::string(r->name), std::to_string(r->members.size()), quoted(r->meaning)});
+    }
+    out += table(rows);
+    out += ".Sh ENUMERATIONS\n.Bl -tag -width Ds\n";
+    for (const Enumeration *e : enumerations) {
+        out += ".It Vt " + std::string(e->name) + "\n" + line(std::string(e->meaning) + ":");
+        for (std::size_t i = 0; i < e->enumerators.size(); ++i) {
+            out += ".Dv " + std::string(e->enumerators[i]) + (i + 1 < e->enumerators.size() ? " ,\n" : "\n");
+        }
+    }
+    out += ".El\n.Sh MESSAGES\n";
+    rows = {{"Sy message", "Sy payload"}};
+    for (const Message *m : messages) rows.push_back({std::string(m->name), std::string(m->payload.name)});
+    out += table(rows);
+    out += ".Sh BUNDLES\n";
+    rows = {{"Sy bundle", "Sy message"}};
+    for (const Bundle *b : bundles) rows.push_back({std::string(b->name), std::string(b->message.name)});
+    out += table(rows);
+    return out + R"mdoc(.Sh ERRORS
+.Bl -tag -width Er
+.It Bq Er ENOENT
+No such index or element; no bundle is open; the open bundle does not admit the message.
+.It Bq Er ENOMEM
+No memory, or a buffer of size 0.
+.It Bq Er EEXIST
+A bundle is open already.
+.It Bq Er EINVAL
+No state to read or write, or a null object.
+.It Bq Er ENOSPC
+The destination is too short for the text.
+.It Bq Er ENOSYS
+Nobody took the message.
+.It Bq Er EIDRM
+The domain has no place for the object's variant, or the enumeration no such value.
+.It Bq Er EBADE
+The domain does not have the message.
+.It Bq Er EBADMSG
+A control message out of order.
+.It Bq Er EMSGSIZE
+The buffer is too small for the frame, or the frame ends too early.
+.El
+.Pp
+Nothing is rolled back, and an object can be destroyed after any failure.
+.Sh SEE ALSO
+.Xr tarn 1 ,
+.Xr tarn_frame 5
+)mdoc";
+}
+
+std::string kind_words(const Member &m) {
+    constexpr const char *integers[] = {"u8", "u16", "u32", "u64"};
+    switch (m.kind) {
+        case Kind::boolean:
+            return "boolean";
+        case Kind::address:
+            return "address";
+        case Kind::enumeration:
+            return std::string(m.enumeration->name);
+        case Kind::record:
+            return std::string(m.record->name);
+        case Kind::string:
+            return "characters";
+        case Kind::array:
+            return std::string(m.record->name) + " ...";
+        default:
+            return std::string(integers[static_cast<std::size_t>(m.kind)]) + (m.role == Role::count    ? " count"
+                                                                              : m.role == Role::length ? " length"
+                                                                                                       : "");
+    }
+}
+
+std::string frame_page() {
+    std::string out = std::string(".Dd ") + date + R"mdoc(
+.Dt TARN_FRAME 5
+.Os
+.Sh NAME
+.Nm tarn_frame
+.Nd how records, messages and bundles of the tarn feature look on the wire
+.Sh DESCRIPTION
+A file or a stream of frames holds one frame behind the other.
+Numbers have their most significant byte first.
+.Ss Message
+A frame is a header, an identity, and the payload of a plain message.
+A control message has no payload, so that its frame is 43 bytes long.
+.Bl -column "bytes" "total length" "what"
+.It Sy bytes Ta Sy field Ta Sy content
+.It 1 Ta marker Ta 0xBC
+.It 6 Ta fill Ta 0xFF
+.It 1 Ta sttr Ta "1 if the sender tracks state, else 0"
+.It 4 Ta stamp Ta "the sender's choice"
+.It 4 Ta "total length" Ta "bytes of the frame, from the marker to its end"
+.It 11 Ta zero Ta 0
+.It 16 Ta identity Ta "which message it is; see below"
+.It "" Ta payload Ta "a record"
+.El
+.Pp
+A bundle is the frame of its start, frames of the message that it admits, and the frame of its commit or its abort.
+.Ss Record
+.Bl -column "bytes" "variant" "what"
+.It Sy bytes Ta Sy field Ta Sy content
+.It 1 Ta variant Ta "0; negative: no body follows"
+.It 1 Ta flag Ta "8: state bytes are in between; 32: RA data follows; 40: both"
+.It "0 or 9" Ta "RA data" Ta "a value of eight bytes and one byte, opaque"
+.It 4 Ta jump Ta "bytes from its own start to the end of the record"
+.It "" Ta body Ta "the members in table order"
+.El
+.Pp
+A newer sender may have more members behind those that a reader knows: the jump leads past them.
+With state, each member but a count or a length is followed by its state byte.
+.Ss Members
+.Bl -column "enumeration" "bytes" "what"
+.It Sy kind Ta Sy bytes Ta Sy content
+.It u8 Ta 1 Ta "a number"
+.It u16 Ta 2 Ta "a number"
+.It u32 Ta 4 Ta "a number"
+.It u64 Ta 8 Ta "a number"
+.It boolean Ta 2 Ta "variant, then 0 or 1"
+.It enumeration Ta 5 Ta "variant, then the value in four bytes"
+.It address Ta 26 Ta "a record of af, prefix_len (1 byte each), scope (2), four words (4 each)"
+.It record Ta "" Ta "its own frame, jump included"
+.It array Ta "" Ta "the records one behind the other, as many as the count in front says"
+.It string Ta "" Ta "characters, as many as the length in front says"
+.El
+.Pp
+With state, an array that is not empty is followed by the state byte of the whole and then one byte for each element,
+and a string that is not empty by one state byte; an empty one has none.
+.Sh MESSAGES
+)mdoc";
+    std::vector<std::vector<std::string>> rows{{"Sy identity", "Sy message", "Sy payload"}};
+    for (const Message *m : messages) {
+        rows.push_back({m->luid.text.data(), std::string(m->name), std::string(m->payload.name)});
+    }
+    out += table(rows);
+    out += ".Sh BUNDLES\n";
+    rows = {{"Sy identity", "Sy \"control message\""}};
+    for (const CatalogueEntry &c : catalogue()) {
+        if (c.subject.bundle != nullptr) {
+            rows.push_back(
+                {c.luid->text.data(), std::string(c.subject.control) + " of " + std::string(c.subject.bundle->name)});
+        }
+    }
+    out += table(rows);
+    out += ".Sh RECORDS\nSizes are without state; a + says that elements or characters come on top.\n";
+    for (const Record *r : records) {
+        out += ".Ss " + std::string(r->name) + "\n" + line(capital(r->meaning) + ": " + wire_text(*r) + " bytes.");
+        rows = {{"Sy member", "Sy kind", "Sy bytes", "Sy meaning"}};
+        for (const Member &m : r->members) {
+            rows.push_back({std::string(m.name), quoted(kind_words(m)), wire_text(m), quoted(m.meaning)});
+        }
+        out += table(rows);
+    }
+    out += ".Sh ENUMERATIONS\n";
+    for (const Enumeration *e : enumerations) {
+        out += ".Ss " + std::string(e->name) + "\n";
+        rows = {{"Sy value", "Sy enumerator"}};
+        for (std::size_t i = 0; i < e->enumerators.size(); ++i) {
+            rows.push_back({std::to_string(i), std::string(e->enumerators[i])});
+        }
+        out += table(rows);
+    }
+    return out + ".Sh SEE ALSO\n.Xr tarn 1 ,\n.Xr lumo_ui_tarn 3\n";
+}
+
+}  // namespace
+
+Files write_manuals() { return {{"lumo_ui_tarn.3", library_page()}, {"tarn_frame.5", frame_page()}}; }
+
+}  // namespace tarn::generate
