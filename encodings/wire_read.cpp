@@ -217,7 +217,6 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
         if (!is_state_tracked(instance)) die("(FATAL): MIRK handle and object state tracking mis-match");
         in.read_state = sender_tracks;
         if (in.read_state) in.area = state_area<R>(h, ctx_id, instance);
-        wire_flag |= flag::state_tracked;
     } else {
         in.skip_state = sender_tracks;
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);

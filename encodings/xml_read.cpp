@@ -98,7 +98,7 @@ void XmlRead<R>::from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path
         return;
     }
     XmlReader in{h, ctx_id, path, document, instance, err, message, message_size};
-    const bool complete = walk_while<R>([&]<class F>(F) {
+    walk_while<R>([&]<class F>(F) {
         if constexpr (F::member.role != Role::value) {
             return true;  // a count or a length follows from what it counts
         } else if constexpr (F::kind == Kind::array) {
@@ -109,7 +109,8 @@ void XmlRead<R>::from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path
             return in.single<F>();
         }
     });
-    if (complete) in.forgive_absence();
+    // Behind a string that stands last there is no member to forgive its absence.
+    if constexpr (R.members.back().kind == Kind::string) in.forgive_absence();
 }
 
 }  // namespace tarn

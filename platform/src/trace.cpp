@@ -106,7 +106,6 @@ void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *for
 
 void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {
     Trace &t = trace();
-    uint16_t id = 0;
     try {
         const std::lock_guard<std::mutex> hold(t.lock);
         auto found = t.modules.find(std::string_view(name));
@@ -114,12 +113,13 @@ void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *modul
             t.names.emplace_back(name);
             found = t.modules.emplace(name, static_cast<uint16_t>(t.names.size())).first;
         }
-        if (found != t.modules.end()) id = found->second;
+        const uint16_t id = found != t.modules.end() ? found->second : uint16_t{0};
+        // Every thread announces its modules and reads the number without a lock afterwards: it is written once.
+        if (module_id != nullptr && *module_id != id) *module_id = id;
+        if (module_state != nullptr && *module_state != id) *module_state = id;
     } catch (...) {
         return;
     }
-    if (module_id != nullptr) *module_id = id;
-    if (module_state != nullptr) *module_state = id;
 }
 
 void mirk_platform_trace_set_sink(mirk_platform_trace_sink sink, void *user) {

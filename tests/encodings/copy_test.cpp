@@ -94,6 +94,8 @@ TEST_P(Copies, UnderASetErrorNothingIsCopied) {
     source.record().clone(handle, kId, source.get(), &result, buffer, sizeof buffer, &err);
     EXPECT_EQ(err, 5U);
     EXPECT_EQ(result, nullptr);
+    source.record().clone(handle, kId, nullptr, &result, buffer, sizeof buffer, &err);
+    EXPECT_EQ(err, 5U);
     handle->last_error = 6;
     EXPECT_EQ(source.record().clone_cr(handle, source.get()), nullptr);
     source.record().copy_cr(handle, source.get(), target.get());
@@ -107,12 +109,14 @@ TEST_P(Copies, AWorkspaceThatIsTooSmallGivesNothing) {
     const std::size_t blocks = handle.live_blocks();
     // States alone may be missing at the end without an error, and the last element ends in front of them.
     const std::size_t in_the_elements = reference::encode(source.value(), handle.tracks()).size() - 12;
+    const std::uint64_t created = source.header()->tinfo->variant_info->entries[0].num_created;
     for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{9}, in_the_elements}) {
         const Cloned copy = clone(handle, source, size);
         EXPECT_TRUE(copy.error == 12 || copy.error == 90) << copy.error;
         EXPECT_EQ(copy.instance.get(), nullptr);
         EXPECT_EQ(handle.live_blocks(), blocks);
     }
+    EXPECT_EQ(source.header()->tinfo->variant_info->entries[0].num_created, created);
 }
 
 TEST_P(Copies, WhatExceedsTheHandlesWorkspaceGivesNothing) {
@@ -125,6 +129,13 @@ TEST_P(Copies, WhatExceedsTheHandlesWorkspaceGivesNothing) {
     EXPECT_TRUE(handle->last_error == 12 || handle->last_error == 90);
     EXPECT_EQ(handle.live_blocks(), blocks);
     mirk_clear_last_error(handle);
+
+    // A destination that was handed in is not touched before the source is known to fit.
+    const Instance target(handle, "lumo_tarn_dp_tc_list");
+    source.record().copy_cr(handle, source.get(), target.get());
+    EXPECT_NE(handle->last_error, 0U);
+    mirk_clear_last_error(handle);
+    EXPECT_TRUE(bridge::same(Record("lumo_tarn_dp_tc_list"), target.value()));
 }
 
 TEST_P(Copies, AFailedCopyEndsADestinationThatWasHandedIn) {
@@ -135,6 +146,28 @@ TEST_P(Copies, AFailedCopyEndsADestinationThatWasHandedIn) {
     source.record().copy_cr(handle, source.get(), target.release());
     EXPECT_EQ(handle->last_error, 12U);
     EXPECT_EQ(handle.live_blocks(), blocks);
+}
+
+// The element that a copy fails into is ended, stays in its array, and is ended once more with it.
+TEST_P(Copies, AFailedCopyIntoAnElementEndsItAndKeepsItsPlace) {
+    const Instance list(handle, "lumo_tarn_lumo_info_list");
+    const auto &elements = list.record().members.back();
+    const Instance value(handle, rich_value(reference::record_table("lumo_tarn_lumo_info")));
+    std::uint32_t err = 0;
+    const Instance first(handle, "lumo_tarn_lumo_info");
+    elements.element_set(handle, kId, list.get(), 1, first.get(), &err);
+    ASSERT_EQ(err, 0U);
+    auto *element = static_cast<mirk_object *>(elements.element_get(handle, kId, list.get(), 1, &err));
+    const std::uint8_t flags = element->obj_flag;
+    const mirk_variant_entry &counts = value.header()->tinfo->variant_info->entries[0];
+    const std::uint64_t destroyed = counts.num_destroyed;
+    mirk_platform_testing_fail_allocation(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);
+    elements.element_set_cr(handle, list.get(), 1, value.get(), 0);
+    EXPECT_EQ(handle->last_error, 12U);
+    EXPECT_EQ(counts.num_destroyed, destroyed + 1);
+    EXPECT_EQ(element->obj_flag & kOffset, flags & kOffset);
+    EXPECT_EQ((flags & kOffset) != 0, handle.tracks());
+    mirk_clear_last_error(handle);
 }
 
 TEST_P(Copies, ACopyIntoNothingMakesAnInstanceThatNobodyReceives) {

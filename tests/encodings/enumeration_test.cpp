@@ -241,6 +241,18 @@ TEST(Enumeration, TheValueIsReadWithoutAGate) {
     });
 }
 
+TEST(Enumeration, NothingIsReadIntoNothing) {
+    const Handle h;
+    for_each_enumeration([&](const EnumerationOperations &e) {
+        std::uint8_t frame[6] = {};
+        std::uint32_t err = 0;
+        EXPECT_EQ(e.unmarshal(h, kId, frame, nullptr, 5, 0, &err), 0u);
+        EXPECT_EQ(err, 22u);
+        EXPECT_EQ(h->last_error, 22u);
+        h->last_error = 0;
+    });
+}
+
 TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {

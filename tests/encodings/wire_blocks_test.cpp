@@ -123,6 +123,32 @@ TEST(WireBlocks, AStringStateIsTakenFromTheSlackToo) {
     EXPECT_EQ(instance.value()["proto_name"].state, 0x99);
 }
 
+TEST(WireBlocks, NothingIsReadIntoNothing) {
+    for (const Tracking tracking : bridge::kEveryTracking) {
+        const Handle handle(tracking);
+        for (const auto &record : tarn::reflect::records()) {
+            std::uint8_t frame[7] = {0, 0, 0, 0, 0, 4, 0};
+            std::uint32_t err = 0;
+            EXPECT_EQ(record.unmarshal(handle, kId, frame, nullptr, 6, 0, &err), 0U);
+            EXPECT_EQ(err, 22U);
+            EXPECT_EQ(handle->last_error, 22U);
+            handle->last_error = 0;
+        }
+    }
+}
+
+TEST(WireBlocks, WhatAFrameLacksOfAStringIsZeros) {
+    const Handle handle;
+    mirk_platform_testing_set_fresh_fill(handle, 0xA5);
+    Record value("lumo_tarn_cl_kesh_appl");
+    value["proto_name"].text = "abcdefgh";
+    const Bytes whole = reference::encode(value, false);
+    const Instance instance(handle, "lumo_tarn_cl_kesh_appl");
+    read(handle, instance, Bytes(whole.begin(), whole.begin() + 11), 0, 0);
+    const auto *body = static_cast<const char *>(bridge::block_of(instance.record(), instance.get(), "proto_name"));
+    EXPECT_EQ(std::string(body, 8), std::string("abc\0\0\0\0\0", 8));
+}
+
 TEST(WireBlocks, ACountThatTheDataDoNotBearOutCostsOneBlock) {
     for (const Tracking tracking : bridge::kEveryTracking) {
         const Handle handle(tracking);

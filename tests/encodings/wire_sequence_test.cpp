@@ -247,6 +247,17 @@ TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
                      "u_int32_unmarshal", "u_int32_unmarshal", "u_int64_unmarshal"}));
 }
 
+TEST(WireSequence, RaDataThatCannotBeReadAreNone) {
+    Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
+    static_cast<mirk_object *>(w.instance)->obj_flag |= 32;
+    const std::uint32_t size = w.write();
+    w.handle.knobs().errors["_mirk_instance_ra_data_unmarshal"] = 5;
+    w.forget();
+    w.read(size, 0);
+    EXPECT_EQ(observing::lines_of({"mirklib_update_ra_all"}), (Lines{"mirklib_update_ra_all object 0 0"}));
+    w.handle.knobs().errors.clear();
+}
+
 TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantGoesOut) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     w.handle.knobs().variants["lumo_tarn_fdb_mem_info"] = {-1, 0};

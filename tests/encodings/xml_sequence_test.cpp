@@ -49,6 +49,20 @@ TEST_F(ReadingSequence, MembersAreLookedUpInTableOrder) {
     lumo_tarn_dp_lumo_wexa_info_destroy(h, id, wexa);
 }
 
+TEST_F(ReadingSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
+    Handle h;
+    lumo_tarn_cl_kesh_appl *appl = lumo_tarn_cl_kesh_appl_create(h, id);
+    Element document{"r", "", {}};
+    char buffer[64];
+    watch(appl, 60);
+    err = 5;
+    EXPECT_EQ(lumo_tarn_cl_kesh_appl_to_xml(h, id, "r", buffer, appl, 64, 0, &err), 0u);
+    lumo_tarn_cl_kesh_appl_from_xml(h, id, "//r", &document, appl, &err, message, 40);
+    EXPECT_EQ(observing::lines(), Lines{});
+    EXPECT_EQ(err, 5u);
+    lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
+}
+
 TEST_F(ReadingSequence, AStringIsMeasuredReadIntoABufferAndSet) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({.tracking = tracking});

@@ -122,6 +122,9 @@ TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
         m.state_flag_set(h, id, object, 0xC7, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
+        header(object)->obj_flag |= mapped;  // has to do with references alone
+        EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
+        header(object)->obj_flag &= static_cast<uint8_t>(~mapped);
         for (uint32_t slot = 0; slot < table(r).state; ++slot) {
             EXPECT_EQ(area(r, object)[slot], slot == place(r, m).slot ? 0xC7 : 0) << slot;
         }

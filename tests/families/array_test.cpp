@@ -50,6 +50,19 @@ TEST(Arrays, AFreshOneIsEmpty) {
     });
 }
 
+TEST(Arrays, WithoutAnObjectThereIsNothingToSet) {
+    Handle h;
+    each_array([&](const ArraySubject &s) {
+        uint32_t err = 0;
+        s.m.element_set(h, id, nullptr, 0, nullptr, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        h->last_error = 0;
+        EXPECT_EQ(s.m.element_set_cr(h, nullptr, 0, nullptr, 1), static_cast<uint32_t>(EINVAL));
+        h->last_error = 0;
+    });
+}
+
 TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
     for (Mode mode : modes) {
         Handle h(mode);

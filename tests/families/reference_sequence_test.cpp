@@ -120,6 +120,23 @@ TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
     });
 }
 
+TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
+    each_address([&](const RecordOperations &r, const MemberOperations &m) {
+        for (uint32_t n : {3u, 100u}) {
+            Handle h;
+            h.knobs().address_oids = {reinterpret_cast<void *>(1000)};
+            h.knobs().address_oid_count = n;
+            observing::clear_log();
+            const Lines lines = sweep_of(h, r, m);
+            ASSERT_EQ(lines.size(), n + 3);
+            EXPECT_EQ(lines[2], "mirklib_lookup_and_update_oid_ref_count 1000 0");
+            for (uint32_t i = 1; i < n; ++i) {
+                EXPECT_EQ(lines[2 + i], "mirklib_lookup_and_update_oid_ref_count 0 0");
+            }
+        }
+    });
+}
+
 TEST_F(ReferenceSequence, ACountThatCannotBeLoweredCostsALine) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         Handle h;

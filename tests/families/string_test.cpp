@@ -116,6 +116,30 @@ TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
     });
 }
 
+TEST(Strings, WithoutAnObjectThereIsNothingToSet) {
+    Handle h;
+    each_string([&](const Subject &s) {
+        uint32_t err = 0;
+        s.m.text_set(h, id, nullptr, "a", 1, &err);
+        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        h->last_error = 0;
+    });
+}
+
+TEST(Strings, WithoutATextTheBodyIsZeros) {
+    Handle h;
+    mirk_platform_testing_set_fresh_fill(h, 0xA5);
+    each_string([&](const Subject &s) {
+        void *object = s.r.create(h, id);
+        uint32_t err = 0;
+        s.m.text_set(h, id, object, nullptr, 5, &err);
+        EXPECT_EQ(err, 0u);
+        EXPECT_EQ(std::memcmp(read<void *>(at(s.r, object, s.m)), "\0\0\0\0\0", 5), 0);
+        s.r.destroy(h, id, object);
+    });
+}
+
 TEST(Strings, AShortTextLeavesZeroesAtTheEndOfTheBody) {
     Handle h;
     each_string([&](const Subject &s) {

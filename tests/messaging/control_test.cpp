@@ -168,6 +168,7 @@ TEST_F(ControlMessages, AStartOpensTheBundle) {
         if (!is_start(c)) continue;
         Handle h;
         EXPECT_EQ(h->send_bundle_open, 0u);
+        h->send_bundle_list = {nullptr, nullptr};  // what stood there before plays no part
         Buffer buffer(kFrameHead);
         EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 43u);
         EXPECT_EQ(h->send_bundle_open, 1u);

@@ -259,6 +259,12 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
         EXPECT_EQ(lines[2], "count_notify " + std::string(m.name) + ".num_created 1");
         EXPECT_EQ(lines[3], "_mirk_message_header_unmarshal buffer block1+12 " + std::to_string(size));
         EXPECT_TRUE(lines[4].starts_with("obj_alloc "));  // no trace module is initialised on this way
+        for (const std::string &line : lines) {
+            // A fresh payload has nothing to be used again.
+            if (line.starts_with("u_int") && line.find("_unmarshal ") != std::string::npos) {
+                EXPECT_TRUE(line.ends_with(" 0")) << line;
+            }
+        }
         m.destroy(h, kId, message);
     }
     EXPECT_EQ(err, 0u);
@@ -276,6 +282,11 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
         m.destroy(h, kId, message);
         observing::set_recorder(1, file);
         calls();
+        m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
+        const Strings all = calls();
+        ASSERT_GT(all.size(), 2u);
+        EXPECT_EQ(all[0], "mirk_clear_last_error");  // of the whole, and of the reading
+        EXPECT_EQ(all[1], "mirk_clear_last_error");
         m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
         // The last of these is the handler's own.
         EXPECT_EQ(calls_of({"mirklib_msg_recorder_get_state", "mirklib_malloc", "mirklib_msg_recorder_get_handle",
