@@ -18,7 +18,7 @@ import time
 WANTED = 0.95
 PROGRAMS = ["families/families_module_test", "messaging/messaging_replaced_test", "encodings/encodings_sequence_test",
             "messaging/messaging_sequence_test", "families/families_sequence_test", "families/families_test",
-            "messaging/messaging_test", "encodings/encodings_test", "examples/one_answer", "tools/tool_test"]
+            "messaging/messaging_test", "encodings/encodings_test", "examples/one_answer"]
 
 
 def limit_memory():
