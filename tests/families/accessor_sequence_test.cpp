@@ -119,6 +119,19 @@ TEST_F(AccessorSequence, OfStateBytes) {
     });
 }
 
+// Only the flag of a place of its own has the runtime asked where an object's states are.
+TEST_F(AccessorSequence, OfStatesOfAMappedObject) {
+    Handle h({Tracking::on});
+    const RecordOperations &r = record("lumo_tarn_dp_appl_list");
+    void *object = make_object(h, r);
+    header(object)->obj_flag |= mapped;
+    EXPECT_EQ(lines_of([&] { r.set_all_state_tracking_flag(h, id, object, 5); }), Lines{});
+    EXPECT_EQ(bytes(object)[table(r).base], 5);
+    r.set_all_state_tracking_flag(h, id, object, 0);
+    header(object)->obj_flag &= static_cast<uint8_t>(~mapped);
+    r.destroy(h, id, object);
+}
+
 TEST_F(AccessorSequence, OfRefusals) {
     Handle h({Tracking::on});
     const RecordOperations &r = record("lumo_tarn_debug_setting");
