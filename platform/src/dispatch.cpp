@@ -1,5 +1,4 @@
 // From bytes to handlers: finds the message of a frame by its luid, reads it, and delivers or files it.
-#include <cstdarg>
 #include <cstdio>
 
 #include "frames.hpp"
@@ -22,15 +21,11 @@ struct Delivery {
     void *dispatch_ctx;
 };
 
-void report_failure(mirk_platform_report *report, uint32_t number, uint32_t offset, const char *format, ...)
-    __attribute__((format(printf, 4, 5)));
-
-void report_failure(mirk_platform_report *report, uint32_t number, uint32_t offset, const char *format, ...) {
+template <class... Arguments>
+void report_failure(mirk_platform_report *report, uint32_t number, uint32_t offset, const char *format,
+                    Arguments... arguments) {
     mirk_platform_report made{number, offset, 0, {}};
-    va_list arguments;
-    va_start(arguments, format);
-    std::vsnprintf(made.sentence, sizeof made.sentence, format, arguments);
-    va_end(arguments);
+    std::snprintf(made.sentence, sizeof made.sentence, format, arguments...);
     skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): dispatch: frame at offset %u: %s", offset, made.sentence);
     if (report != nullptr) *report = made;
 }
@@ -150,7 +145,7 @@ mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void
         }
         DispatchEntry *entry = find_entry(*own(h), frame.luid);
         if (entry == nullptr) {
-            report_failure(report, ENOENT, offset, "no message is registered for its luid");
+            report_failure(report, ENOENT, offset, "%s", "no message is registered for its luid");
             return ENOENT;
         }
         const uint32_t number = receive(to, *entry, {bytes + offset, frame.header.total_length});
