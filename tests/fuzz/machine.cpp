@@ -125,7 +125,8 @@ void Machine::set_text() {
             m.text_set_cr(handle_, o.instance, value.c_str(), length);
         }
         char destination[70];
-        m.text_get(handle_, kId, o.instance, destination, input_.u8() % sizeof destination, &err_);
+        m.text_get(handle_, kId, o.instance, destination, static_cast<std::uint32_t>(input_.u8() % sizeof destination),
+                   &err_);
     }
 }
 
