@@ -25,7 +25,7 @@ public:
     std::string_view view() const { return {digits_, length_}; }
 
 private:
-    char digits_[20];
+    char digits_[20] = {};
     size_t length_;
 };
 
