@@ -103,7 +103,7 @@ private:
     mirk_handle *handle_;
     std::uint32_t ctx_id_;
     std::uint32_t slot_ = 0;
-    errors mode_;
+    [[maybe_unused]] errors mode_;
 };
 
 // Bytes of one or more frames, with the spare byte behind them that readers and writers of frames may touch.
