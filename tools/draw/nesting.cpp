@@ -27,7 +27,10 @@ struct Edge {
 class Graph {
 public:
     Graph() {
-        for (const Bundle *b : bundles) connect(add(*b), add(b->message));
+        for (const Bundle *b : bundles) {
+            const std::size_t message = add(b->message);  // ahead of the bundle, whatever a compiler does first
+            connect(add(*b), message);
+        }
         for (const Message *m : messages) add(*m);
         for (const Record *r : records) add(*r);
     }
