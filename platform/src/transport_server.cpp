@@ -134,7 +134,11 @@ private:
             step();
             return 0;
         });
-        if (error != 0) close(3, std::strerror(static_cast<int>(error)));
+        if (error == 0) return;
+        mirk::guarded([&]() -> mirk_platform_error {
+            close(3, std::strerror(static_cast<int>(error)));
+            return 0;
+        });
     }
 
     void read() {
