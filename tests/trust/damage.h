@@ -16,6 +16,7 @@
 #include "lumo_ui_tarn.h"
 #include "mirk_platform_testing.h"
 #include "reference/codec.h"
+#include "rich.h"
 
 namespace trust {
 
@@ -62,8 +63,6 @@ struct Root {
 };
 const std::vector<Root> &roots();
 
-// No array and no string is empty, and small arrays have two elements.
-reference::Record rich(std::string_view type, bool printable = false);
 Bytes frame_of(const Root &root, bool tracked);
 std::string document_of(const Root &root);
 

@@ -6,6 +6,7 @@
 
 #include "reference/codec.h"
 #include "reference/text.h"
+#include "rich.h"
 
 namespace trust {
 
@@ -14,21 +15,6 @@ namespace {
 constexpr mirk_platform_testing_allocator kAllocators[] = {
     MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
     MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
-
-// No array and no string is empty, and arrays have old elements to keep.
-reference::Record rich(std::string_view type, bool printable = false) {
-    constexpr std::size_t small = 300;
-    for (const std::uint32_t elements : {2U, 1U}) {
-        const reference::Record value = reference::Generator(11, {.min_elements = elements,
-                                                                  .max_elements = elements,
-                                                                  .min_text = 1,
-                                                                  .max_text = 5,
-                                                                  .printable = printable})
-                                            .make(type);
-        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
-    }
-    std::abort();
-}
 
 // The same values serve every scene.
 const reference::Record &value_of(const RecordOperations &record) {
