@@ -152,7 +152,7 @@ TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
         seen.nothing = found();
         seen.intruders = document.querySelectorAll('img, #broken').length;
         seen.title = document.title;
-        seen.owned = sides[0].owner.every(piece => piece >= 0);)");
+        seen.owned = [...sides[0].data.keys()].every(at => ownerOf(0, at) !== null);)");
     EXPECT_EQ((json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}), seen.at("value"));
     EXPECT_EQ((json{"2 of 2", {"payload.lumo_data[1].sig_list"}}), seen.at("name"));
     EXPECT_EQ("", seen.at("nothing"));
@@ -201,6 +201,90 @@ TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
     EXPECT_EQ(bytes(members_at, 4), seen.at("bytes"));
 }
 
+// The page has forms of pieces and bytes, and makes names and values of them; they are those that the tool tells.
+TEST(View, TellsEachPieceAsTheDissectionDoes) {
+    const Directory directory;
+    reference::GeneratorOptions options;
+    options.min_elements = 2;
+    std::string frames = debug_answer(1, 5);
+    for (const reference::MessageTable &message : reference::messages()) {
+        for (const bool tracked : {false, true}) {
+            const reference::Record payload = reference::Generator(7, options).make(message.payload);
+            frames += tool_test::frame(message, payload, tracked);
+        }
+    }
+    const std::string name = directory.write("a.bin", frames);
+    const json seen = seen_in(page_of({name}), R"(
+        const pieces = [];
+        const walk = (node, frame) => {
+            const piece = pieceOf(node, 0);
+            if (piece) pieces.push([piece.at, piece.shape.size, frame + ':' + node.path.replace('@', ''),
+                                    piece.shape.kind, valueOf(node, 0)]);
+            children(node).forEach(child => walk(child, frame));
+        };
+        roots.forEach(walk);
+        seen.pieces = pieces.sort((a, b) => a[0] - b[0]);)");
+    const Outcome told = tool_test::tarn({"dissect", "--json", name});
+    ASSERT_EQ(0, told.exit) << told.err;
+    json pieces = json::array();
+    std::size_t number = 0;
+    for (const json &frame : json::parse(told.out)) {
+        for (const json &p : frame.at("pieces")) {
+            const std::string path = std::to_string(number) + ":" + p.at("path").get<std::string>();
+            pieces.push_back({p.at("offset"), p.at("size"), path, p.at("kind"), p.at("value")});
+        }
+        ++number;
+    }
+    ASSERT_EQ(3 + 2 * 10, number);
+    EXPECT_EQ(pieces, seen.at("pieces"));
+}
+
+// Elements of one form take little more than their bytes.
+TEST(View, GrowsWithTheBytesThatItShows) {
+    const Directory directory;
+    const auto size = [&](const std::string &frame_size) {
+        const std::string file = directory.path("answer.bin");
+        const Outcome made = tool_test::tarn(
+            {"generate", "dp-appl-cfg", "--size", frame_size, "--tracked", "--form", "frames", "-o", file});
+        EXPECT_EQ(0, made.exit) << made.err;
+        return page_of({file}).size();
+    };
+    EXPECT_LT(size("1M") - size("64K"), 2 * (1024 - 64) * 1024);
+}
+
+TEST(View, OpensALongListWhereSomebodyLooks) {
+    const Directory directory;
+    const std::string frames = directory.path("answer.bin");
+    ASSERT_EQ(0, tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit);
+    const json seen = seen_in(page_of({frames}), R"(
+        seen.rows = document.querySelectorAll('.row').length;
+        unfold([...rows.values()].find(node => node.path === 'payload.lumo_data[0].sig_list'));
+        seen.open = document.querySelectorAll('.row').length - seen.rows;
+        type('payload.lumo_data[0].sig_list[1234].appl_id');
+        seen.found = [found(), heldRows()];
+        type('appl_');
+        seen.many = found();)");
+    EXPECT_LT(seen.at("rows"), 200);
+    EXPECT_EQ(200, seen.at("open"));
+    EXPECT_EQ((json{"1 of 1", {"payload.lumo_data[0].sig_list[1234].appl_id"}}), seen.at("found"));
+    EXPECT_EQ("1 of 5000 or more", seen.at("many"));
+}
+
+TEST(View, ShowsARecordOfANewerForm) {
+    const Directory directory;
+    std::string newer = debug_answer(1, 5);
+    newer.insert(members_at + 16, "new");
+    for (const unsigned length : {43U + 15, members_at - 1}) newer[length] = static_cast<char>(newer[length] + 3);
+    const json seen = seen_in(page_of({directory.write("a.bin", newer)}), R"(
+        pointAt(rowAt('payload.warn_enabled'));
+        seen.warn = markedBytes(0);
+        document.getElementById('framing').click();
+        pointAt(rowAt('payload.@skipped'));
+        seen.skipped = [markedBytes(0), rowAt('payload.@skipped').textContent];)");
+    EXPECT_EQ(bytes(members_at + 8, 4), seen.at("warn"));
+    EXPECT_EQ((json{bytes(members_at + 16, 3), "@skipped3 bytes of a newer form"}), seen.at("skipped"));
+}
+
 TEST(View, ReadsXmlAndJsonAsFrames) {
     const Directory directory;
     const std::string frames = debug_answer(1, 5);
@@ -214,7 +298,7 @@ TEST(View, ReadsXmlAndJsonAsFrames) {
         bytes.insert(page.substr(from, page.find('"', from) - from));
     }
     ASSERT_EQ(1U, bytes.size());
-    EXPECT_EQ(2 * frames.size(), bytes.begin()->size());
+    EXPECT_EQ((frames.size() + 2) / 3 * 4, bytes.begin()->size());
 }
 
 TEST(View, RefusesWhatItCannotRead) {

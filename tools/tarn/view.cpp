@@ -1,4 +1,5 @@
 // tarn view: frames, or the difference of two files of frames, as a page for a browser.
+#include <algorithm>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -9,6 +10,7 @@
 #include "files.h"
 #include "page.h"
 #include "schema_form.h"
+#include "shapes.h"
 #include "view_body.h"
 #include "view_script.h"
 
@@ -31,38 +33,60 @@ std::string frames_of(const std::string &path, const Options &options) {
     return encoded(handles, items_of(handles, content, origin, options.lenient), origin);
 }
 
-std::string hex_of(FrameBytes bytes) {
-    std::string digits;
-    for (const std::uint8_t byte : bytes) digits += {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15]};
-    return digits;
+// Four letters for three bytes, as browsers read them.
+std::string base64_of(FrameBytes bytes) {
+    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    for (std::size_t at = 0; at < bytes.size(); at += 3) {
+        const std::size_t count = std::min<std::size_t>(3, bytes.size() - at);
+        std::uint32_t bits = 0;
+        for (std::size_t i = 0; i < 3; ++i) bits = bits << 8 | (i < count ? bytes[at + i] : 0);
+        for (std::size_t i = 0; i < 4; ++i) text += i <= count ? letters[bits >> (18 - 6 * i) & 63] : '=';
+    }
+    return text;
 }
+
+// What both files of a difference share: forms of pieces, names of identities, and the first line of each sort of
+// frame.
+struct Shared {
+    Shapes shapes;
+    ordered_json headings = ordered_json::array();
+    ordered_json luids = ordered_json::object();
+};
 
 // A request has no name and no record here; what it says stands in its bytes.
-void add_identity(FrameBytes frame, ordered_json &json) {
+ordered_json heading_of(FrameBytes frame) {
     const std::optional<Identity> identity =
         frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);
-    if (!identity) return;
-    json["name"] = identity->is_control()
-                       ? std::string(identity->bundle->bundle->name) + " " + std::string(word(identity->control))
-                       : std::string(identity->operations->name);
-    if (!identity->is_control()) json["record"] = identity->operations->message->payload.name;
+    if (!identity) return {"", ""};
+    if (!identity->is_control()) return {identity->operations->name, identity->operations->message->payload.name};
+    return {std::string(identity->bundle->bundle->name) + " " + std::string(word(identity->control)), ""};
 }
 
-ordered_json json_of_frame(const Dissection &dissection, FrameBytes frame) {
-    ordered_json json{{"size", dissection.size}, {"pieces", ordered_json::array()}};
-    add_identity(frame, json);
-    for (const Piece &p : dissection.pieces) json["pieces"].push_back({p.size, p.path, p.kind, p.value});
-    return json;
+std::size_t place_in(ordered_json &list, const ordered_json &what) {
+    const auto at = std::find(list.begin(), list.end(), what);
+    const auto place = static_cast<std::size_t>(at - list.begin());
+    if (at == list.end()) list.push_back(what);
+    return place;
+}
+
+void note_luid(const Dissection &dissection, ordered_json &luids) {
+    for (const Piece &p : dissection.pieces) {
+        const std::size_t space = p.kind == "luid" ? p.value.find(' ') : std::string::npos;
+        if (space != std::string::npos) luids[p.value.substr(0, space)] = p.value.substr(space + 1);
+    }
 }
 
 // One file. What is behind a break is shown as bytes alone; the sentence about it is kept in `broken`.
-ordered_json json_of_side(const std::string &path, const Options &options, std::string &broken) {
+ordered_json json_of_side(const std::string &path, const Options &options, Shared &shared, std::string &broken) {
     const std::string content = frames_of(path, options);
     const FrameBytes all = bytes_of(content);
-    ordered_json side{{"name", shown_path(path)}, {"bytes", hex_of(all)}, {"frames", ordered_json::array()}};
+    ordered_json side{{"name", shown_path(path)}, {"bytes", base64_of(all)}, {"frames", ordered_json::array()}};
     for (std::size_t offset = 0; offset < all.size();) {
         const Dissection dissection = dissect_frame(all.subspan(offset), offset);
-        side["frames"].push_back(json_of_frame(dissection, all.subspan(offset)));
+        note_luid(dissection, shared.luids);
+        side["frames"].push_back(shared.shapes.add(dissection.pieces));
+        side["frames"].push_back(place_in(shared.headings, heading_of(all.subspan(offset))));
         offset += dissection.size;
         if (!dissection.broken) continue;
         side["broken"] = sentence_of(*dissection.broken);
@@ -74,10 +98,17 @@ ordered_json json_of_side(const std::string &path, const Options &options, std::
 
 void run(const Options &options) {
     std::string broken;
-    ordered_json data{{"sides", ordered_json::array()}, {"records", ordered_json::object()}};
-    data["sides"].push_back(json_of_side(options.a, options, broken));
-    if (!options.b.empty()) data["sides"].push_back(json_of_side(options.b, options, broken));
+    Shared shared;
+    ordered_json data{{"sides", ordered_json::array()}};
+    data["sides"].push_back(json_of_side(options.a, options, shared, broken));
+    if (!options.b.empty()) data["sides"].push_back(json_of_side(options.b, options, shared, broken));
+    data["shapes"] = shared.shapes.json();
+    data["headings"] = shared.headings;
+    data["luids"] = shared.luids;
     const ordered_json schema = schema_json();
+    for (const auto &e : schema.at("enumerations")) {
+        data["enumerations"][e.at("name").get<std::string>()] = e.at("enumerators");
+    }
     for (const auto &record : schema.at("records")) {
         ordered_json &members = data["records"][record.at("name").get<std::string>()];
         for (const auto &m : record.at("members"))

@@ -1,6 +1,7 @@
 'use strict';
-// The page of tarn view. From the pieces of each frame it makes one tree of members, which two files share, and beside
-// it the bytes of each file. Rows and lines are made when they come into sight.
+// The page of tarn view. The frames are there as bytes, and as shapes that say which bytes are which member; shapes.h of
+// the tool tells their form. The tree of members, which two files share, is made where somebody looks, and so are its
+// rows and the lines of bytes beside it: a page with a million members opens like one with ten.
 
 const data = JSON.parse(document.getElementById('data').textContent);
 const sides = data.sides, two = sides.length === 2;
@@ -8,83 +9,206 @@ const element = id => document.getElementById(id);
 const structural = new Set(['variant', 'flag', 'jump', 'fill', 'zero', 'state', 'marker', 'skipped']);
 const isState = name => name === '@state';
 
+// ---- shapes
+
+const shapes = data.shapes.map(shape => {
+  if (Array.isArray(shape)) return {list: shape};
+  const [, kind, size, rest] = shape.match(/^(\S+) (\d+)(.*)$/);
+  return {kind, size: Number(size), rest};
+});
+// A shape stands behind those that it has in it, so that their sizes are known.
+for (const shape of shapes) {
+  shape.own = null;
+  if (!shape.list) continue;
+  shape.offsets = [0];
+  for (let i = 0; i < shape.list.length; i += 2) {
+    const at = shape.offsets[i / 2], below = shapes[shape.list[i + 1]];
+    if (shape.list[i] === '') shape.own = {at, shape: below};
+    shape.offsets.push(at + below.size);
+  }
+  shape.size = shape.offsets[shape.offsets.length - 1];
+}
+
+// The last number of an ascending list that is at most this one.
+function lastUpTo(numbers, wanted) {
+  let from = 0, to = numbers.length;
+  while (to - from > 1) {
+    const middle = (from + to) >> 1;
+    if (numbers[middle] <= wanted) from = middle; else to = middle;
+  }
+  return from;
+}
+
+function numberAt(bytes, at, size) {
+  if (size > 6) return bytes.subarray(at, at + size).reduce((sum, byte) => sum << 8n | BigInt(byte), 0n);
+  let number = 0;
+  for (let i = 0; i < size; ++i) number = number * 256 + bytes[at + i];
+  return number;
+}
+
+const hex = byte => byte.toString(16).padStart(2, '0');
+function quoted(bytes) {
+  let out = '"';
+  for (const byte of bytes) {
+    const letter = String.fromCharCode(byte);
+    out += byte < 32 || byte > 126 ? '\\x' + hex(byte) : letter === '"' || letter === '\\' ? '\\' + letter : letter;
+  }
+  return out + '"';
+}
+
+// As tarn dissect says it.
+function valueAt(bytes, at, {kind, size, rest}) {
+  switch (kind) {
+    case 'fill': return '';
+    case 'zero': return bytes.subarray(at, at + size).every(byte => byte === 0) ? '' : 'not all zero';
+    case 'skipped': return size + ' bytes of a newer form';
+    case 'text': case 'var_string': return quoted(bytes.subarray(at, at + size));
+    case 'luid': {
+      const luid = Array.from(bytes.subarray(at, at + size), hex).join('');
+      return luid + (data.luids[luid] ? ' ' + data.luids[luid] : '');
+    }
+  }
+  const number = numberAt(bytes, at, size);
+  switch (kind) {
+    case 'variant': return (number << 24 >> 24) + rest;
+    case 'flag': return number + (number & 8 ? ' tracked' : '') + (number & 32 ? ' ra_data' : '');
+    case 'jump': return number + ', ends at ' + (at + number);
+    case 'mirk_boolean': return number === 0 ? 'false' : number === 1 ? 'true' : 'true (' + number + ')';
+  }
+  const enumerators = data.enumerations[kind];
+  return enumerators ? number + ' ' + (enumerators[number] || 'out of range') : String(number);
+}
+
 // ---- the tree
 
+// Of each side a node has its shape, where that begins, and, if it is an element, where its state lies.
 let count = 0;
-function makeNode(name, path, parent) {
-  const node = {id: count++, name, path, parent, children: [], byName: new Map(), pieces: [null, null],
-    present: [false, false], type: '', meaning: '', open: false, row: null, below: null, structural: false, differs: false, inside: 0};
-  if (parent) { parent.children.push(node); parent.byName.set(name, node); }
+function makeNode(name, parent) {
+  const path = !parent ? '' : parent.path + (name[0] === '[' || !parent.path ? '' : '.') + name;
+  const node = {id: count++, name, path, parent, list: null, shape: [null, null], at: [0, 0], state: [null, null],
+    type: '', meaning: '', structural: false, differs: false, inside: 0, open: false, row: null, below: null, later: null};
+  const owner = parent && parent.type;
+  const member = owner && (data.records[owner] || {})[name];
+  if (member) [node.type, node.meaning] = member;
+  else if (parent && !parent.parent && name === 'payload') node.type = parent.record;
+  else if (parent && name[0] === '[') node.type = owner.replace('[]', '');
   return node;
+}
+
+function put(node, s, shape, at) {
+  node.shape[s] = shape;
+  node.at[s] = at;
+  if (!shape.list) node.structural = structural.has(shape.kind);
+  const own = shape.list ? shape.own && shape.own.shape : shape;
+  if (!node.type && own) node.type = own.kind;
+}
+
+// What a node itself is on one side, apart from what is in it.
+function pieceOf(node, s) {
+  const shape = node.shape[s];
+  if (!shape || shape.list && !shape.own) return null;
+  return shape.list ? {at: node.at[s] + shape.own.at, shape: shape.own.shape} : {at: node.at[s], shape};
+}
+const valueOf = (node, s) => {
+  const piece = pieceOf(node, s);
+  return piece && valueAt(sides[s].data, piece.at, piece.shape);
+};
+const isOn = (node, s) => node.shape[s] !== null;
+
+const nameOf = part => typeof part === 'number' ? '[' + (part < 0 ? -1 - part : part) + ']' : part;
+
+function children(node) {
+  if (node.list) return node.list;
+  const named = new Map();
+  const below = name => {
+    if (!named.has(name)) named.set(name, makeNode(name, node));
+    return named.get(name);
+  };
+  sides.forEach((side, s) => {
+    const shape = node.shape[s];
+    for (let i = 0; shape && shape.list && i < shape.list.length; i += 2) {
+      const part = shape.list[i], at = node.at[s] + shape.offsets[i / 2], inner = shapes[shape.list[i + 1]];
+      if (part === '') continue;
+      if (part < 0) below(nameOf(part)).state[s] = {at, shape: inner};
+      else put(below(nameOf(part)), s, inner, at);
+    }
+    if (node.state[s]) put(below('@state'), s, node.state[s].shape, node.state[s].at);
+  });
+  node.list = [...named.values()];
+  if (isOfOneSide(node)) for (const child of node.list) child.inside = Number(child.differs = !child.structural);
+  return node.list;
+}
+
+function childOf(node, name) {
+  const list = children(node), likely = name[0] === '[' ? list[Number(name.slice(1, -1))] : null;
+  return likely && likely.name === name ? likely : list.find(child => child.name === name);
 }
 
 // "payload.list[0].id" has the steps payload, list, [0], id.
 const steps = path => path.match(/\[[^\]]*\]|[^.[]+/g) || [];
 
-function describe(node) {
-  const owner = node.parent;
-  if (!owner || node.type) return;
-  if (node.name[0] === '[') { node.type = owner.type.replace('[]', ''); return; }
-  const member = (data.records[owner.type] || {})[node.name];
-  if (member) [node.type, node.meaning] = member;
-}
+const roots = [];
+sides.forEach((side, s) => {
+  side.data = Uint8Array.from(atob(side.bytes), letter => letter.charCodeAt(0));
+  side.bytes = '';
+  side.starts = [];
+  side.read = 0;
+  for (let f = 0; 2 * f < side.frames.length; ++f) {
+    const [name, record] = data.headings[side.frames[2 * f + 1]], shape = shapes[side.frames[2 * f]];
+    const root = roots[f] || (roots[f] = makeNode('frame ' + f, null));
+    root.label = root.label && name && root.label !== name ? root.label + ' / ' + name
+      : name || root.label || 'ui_req_msg';
+    put(root, s, shape, side.read);
+    side.starts.push(side.read);
+    side.read += shape.size;
+    // The frame says by its luid what its payload is.
+    root.record = root.record || record;
+  }
+});
 
-// What stands between members has a name of its own kind, since a member may be called "state", too.
-function nodeAt(root, path, kind, record) {
-  let node = root;
-  const names = steps(path);
-  if (['variant', 'flag', 'jump', 'state'].includes(kind)) names.push('@' + names.pop());
-  for (const name of names) {
-    const there = node.byName.get(name);
-    if (there) { node = there; continue; }
-    node = makeNode(name, node === root ? name : node.path + (name[0] === '[' ? name : '.' + name), node);
-    if (node.path === 'payload') node.type = record;
-    describe(node);
+// The member that a byte belongs to.
+function ownerOf(s, at) {
+  const side = sides[s];
+  if (at < 0 || at >= side.read) return null;
+  let node = roots[lastUpTo(side.starts, at)];
+  while (node.shape[s].list) {
+    const {list, offsets} = node.shape[s], i = lastUpTo(offsets, at - node.at[s]);
+    const part = list[2 * i];
+    if (part === '') break;
+    node = childOf(node, nameOf(part));
+    if (part < 0) return childOf(node, '@state');
   }
   return node;
 }
 
-const roots = [];
-sides.forEach((side, s) => {
-  side.pieces = [];
-  side.data = new Uint8Array(side.bytes.length / 2);
-  for (let i = 0; i < side.data.length; ++i) side.data[i] = parseInt(side.bytes.substr(2 * i, 2), 16);
-  side.owner = new Int32Array(side.data.length).fill(-1);
-  let at = 0;
-  side.frames.forEach((frame, f) => {
-    const root = roots[f] || (roots[f] = makeNode('frame ' + f, '', null));
-    root.present[s] = true;
-    root.label = root.label && frame.name && root.label !== frame.name ? root.label + ' / ' + frame.name
-      : frame.name || root.label || 'ui_req_msg';
-    let from = at;
-    for (const [size, path, kind, value] of frame.pieces) {
-      const node = nodeAt(root, path, kind, frame.record);
-      const piece = {side: s, from, size, kind, value, node};
-      side.pieces.push(piece);
-      side.owner.fill(side.pieces.length - 1, from, from + size);
-      node.pieces[s] = piece;
-      node.structural = structural.has(kind);
-      if (!node.type) node.type = kind;
-      for (let n = node; n; n = n.parent) n.present[s] = true;
-      from += size;
-    }
-    at += frame.size;
-  });
-  side.read = at;
-});
+// ---- differences
+
+function sameBytes(a, b, size) {
+  for (let i = 0; i < size; ++i) if (sides[0].data[a + i] !== sides[1].data[b + i]) return false;
+  return true;
+}
+
+function isSame(node) {
+  const [a, b] = node.state;
+  return node.shape[0] === node.shape[1] && !a === !b && (!a || sameBytes(a.at, b.at, 1)) &&
+    sameBytes(node.at[0], node.at[1], node.shape[0].size);
+}
 
 // What stands between members says nothing that the members do not say, but for state.
 function compare(node) {
-  for (const child of node.children) compare(child);
-  const [a, b] = node.pieces;
-  if (a && b) node.differs = a.value !== b.value && (!node.structural || isState(node.name));
-  else node.differs = node.present[0] !== node.present[1] && !node.structural;
-  const within = node.children.reduce((sum, c) => sum + c.inside, 0);
-  node.inside = node.present[0] !== node.present[1] ? (node.structural ? 0 : 1) : within + (node.differs ? 1 : 0);
+  if (isSame(node)) return;
+  if (isOfOneSide(node)) {
+    node.inside = Number(node.differs = !node.structural);
+    return;
+  }
+  const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
+  node.differs = a !== null && b !== null && a !== b && (!node.structural || isState(node.name));
+  children(node).forEach(compare);
+  node.inside = children(node).reduce((sum, child) => sum + child.inside, Number(node.differs));
 }
-if (two) roots.forEach(compare);
 
-const isOfOneSide = node => Boolean(node) && node.present[0] !== node.present[1];
+const isOfOneSide = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
+if (two) roots.forEach(compare);
 const isShown = node => (!node.structural || element('framing').checked) &&
   (!element('changes').checked || node.inside > 0 || isOfOneSide(node.parent));
 
@@ -99,27 +223,26 @@ const text = (parent, kind, words) => {
   parent.append(span);
 };
 
-function valueClass(piece) {
-  if (piece.kind === 'var_string' || piece.kind === 'text') return 'value text';
-  return piece.kind === 'luid' || /^[a-z]|^\d+ [A-Z]/.test(piece.value) ? 'value word' : 'value';
+function valueClass(kind, value) {
+  if (kind === 'var_string' || kind === 'text') return 'value text';
+  return kind === 'luid' || /^[a-z]|^\d+ [A-Z]/.test(value) ? 'value word' : 'value';
 }
 
 function fill(row, node) {
-  text(row, 'fold', node.children.some(isShown) ? (node.open ? '\u25bc' : '\u25b6') : '');
+  text(row, 'fold', children(node).some(isShown) ? (node.open ? '\u25bc' : '\u25b6') : '');
   text(row, 'name', node.parent ? node.name : node.label);
-  const [a, b] = node.pieces;
-  if (two && a && b && a.value !== b.value && !node.structural) {
-    text(row, 'value old', a.value);
-    text(row, 'value new', b.value);
+  const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
+  if (two && a !== null && b !== null && a !== b && !node.structural) {
+    text(row, 'value old', a);
+    text(row, 'value new', b);
   } else if (a || b) {
-    const piece = a || b;
-    if (piece.value) text(row, valueClass(piece), piece.value);
+    text(row, valueClass(pieceOf(node, a === null ? 1 : 0).shape.kind, a || b), a || b);
   }
-  const size = bytesOf(node, two && !node.present[0] ? 1 : 0).reduce((sum, r) => sum + r[1] - r[0], 0);
-  if (node.children.some(c => !c.structural)) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
-  const state = node.byName.get('@state');
+  const size = bytesOf(node, isOn(node, 0) ? 0 : 1).reduce((sum, r) => sum + r[1] - r[0], 0);
+  if (children(node).some(c => !c.structural)) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
+  const state = childOf(node, '@state');
   if (state) {
-    const values = state.pieces.filter(p => p).map(p => p.value);
+    const values = [valueOf(state, 0), valueOf(state, 1)].filter(v => v !== null);
     if (values.some(v => v !== '0')) text(row, 'badge', 'state ' + [...new Set(values)].join(' \u2192 '));
   }
 }
@@ -134,7 +257,7 @@ function makeRow(node, depth) {
   if (!node.parent) row.classList.add('frame');
   if (node.structural) row.classList.add('framing');
   if (two) {
-    if (node.present[0] !== node.present[1]) row.classList.add(node.present[0] ? 'a' : 'b');
+    if (isOfOneSide(node)) row.classList.add(isOn(node, 0) ? 'a' : 'b');
     else if (node.differs) row.classList.add('changed');
     else if (node.inside) row.classList.add('inside');
   }
@@ -142,10 +265,40 @@ function makeRow(node, depth) {
   if (node === held) row.classList.add('held');
   fill(row, node);
   holder.append(row);
-  Object.assign(node, {row, holder, depth, below: null});
+  Object.assign(node, {row, holder, depth, below: null, later: null});
   rows.set(String(node.id), node);
   if (node.open) unfold(node);
   return holder;
+}
+
+// Of a long list only the beginning gets rows at once. An empty box as high as the rest's rows stands for each further
+// part of it, until that comes into sight or a row of it is wanted.
+const atOnce = 200, rowHeight = 22.5;
+const waiting = new Map();
+const sight = new IntersectionObserver(
+  boxes => boxes.filter(box => box.isIntersecting).forEach(box => drawLater(box.target)),
+  {root: tree, rootMargin: '400px'});
+
+function drawRows(into, nodes, depth) {
+  const shown = nodes.filter(isShown);
+  into.append(...shown.slice(0, atOnce).map(node => makeRow(node, depth)));
+  for (let i = atOnce; i < shown.length; i += atOnce) {
+    const box = document.createElement('div'), part = shown.slice(i, i + atOnce);
+    box.style.height = part.length * rowHeight + 'px';
+    for (const node of part) node.later = box;
+    waiting.set(box, {part, depth});
+    sight.observe(box);
+    into.append(box);
+  }
+}
+
+function drawLater(box) {
+  if (!waiting.has(box)) return;
+  const {part, depth} = waiting.get(box);
+  waiting.delete(box);
+  sight.unobserve(box);
+  box.style.height = '';
+  box.append(...part.map(node => makeRow(node, depth)));
 }
 
 function unfold(node) {
@@ -153,7 +306,7 @@ function unfold(node) {
   if (!node.below) {
     node.below = document.createElement('div');
     node.below.setAttribute('role', 'group');
-    for (const child of node.children) if (isShown(child)) node.below.append(makeRow(child, node.depth + 1));
+    drawRows(node.below, children(node), node.depth + 1);
     node.holder.append(node.below);
   }
   node.below.hidden = false;
@@ -163,41 +316,37 @@ function unfold(node) {
 function fold(node) {
   node.open = false;
   if (node.below) node.below.hidden = true;
-  node.row.querySelector('.fold').textContent = node.children.some(isShown) ? '\u25b6' : '';
+  node.row.querySelector('.fold').textContent = children(node).some(isShown) ? '\u25b6' : '';
 }
 
 function drawTree() {
   rows.clear();
-  tree.replaceChildren(...roots.filter(isShown).map(root => makeRow(root, 0)));
+  sight.disconnect();
+  waiting.clear();
+  tree.replaceChildren();
+  drawRows(tree, roots, 0);
 }
 
 // Opens everything above, so that the row is there.
 function reveal(node) {
-  const above = [];
-  for (let n = node.parent; n; n = n.parent) above.unshift(n);
-  for (const n of above) if (n.row && !n.open) unfold(n);
+  const way = [];
+  for (let n = node; n; n = n.parent) way.unshift(n);
+  for (const n of way) {
+    if (n.later) drawLater(n.later);
+    if (n !== node && n.row && !n.open) unfold(n);
+  }
   if (node.row) node.row.scrollIntoView({block: 'nearest'});
 }
 
 // ---- bytes
 
-// The places of a member and of all below it, joined where they touch.
+// The places of a member and of all below it.
 function bytesOf(node, s) {
-  const places = [];
-  const collect = n => {
-    const piece = n.pieces[s];
-    if (piece) places.push([piece.from, piece.from + piece.size]);
-    n.children.forEach(collect);
-  };
-  collect(node);
-  places.sort((x, y) => x[0] - y[0]);
-  const joined = [];
-  for (const place of places) {
-    const last = joined[joined.length - 1];
-    if (last && place[0] <= last[1]) last[1] = Math.max(last[1], place[1]);
-    else joined.push(place);
-  }
-  return joined;
+  if (!isOn(node, s)) return [];
+  const places = [[node.at[s], node.at[s] + node.shape[s].size]];
+  const state = node.state[s];
+  if (state) places.push([state.at, state.at + state.shape.size]);
+  return places.filter(([from, to]) => from < to);
 }
 
 const contains = (places, at) => places.some(([from, to]) => from <= at && at < to);
@@ -216,54 +365,54 @@ function makeDump(side, s) {
   element('bytes').append(section);
   Object.assign(side, {dump, lines, marked: [], held: []});
   dump.addEventListener('scroll', () => drawLines(side, s));
-  dump.addEventListener('mouseover', event => pointAtByte(event, side, false));
-  dump.addEventListener('click', event => pointAtByte(event, side, true));
+  dump.addEventListener('mouseover', event => pointAtByte(event, s, false));
+  dump.addEventListener('click', event => pointAtByte(event, s, true));
 }
 
-function classOf(side, at) {
-  const piece = side.pieces[side.owner[at]];
-  if (!piece) return 'rest';
-  const words = [];
-  if (piece.kind === 'state') words.push('state');
-  else if (piece.node.structural) words.push('framing');
-  else if (piece.node.path.startsWith('header') || piece.kind === 'luid') words.push('head');
-  else if (piece.kind === 'var_string' || piece.kind === 'text') words.push('text');
-  if (two && (piece.node.differs || piece.node.present[0] !== piece.node.present[1])) words.push('changed');
+function classOf(s, at) {
+  const side = sides[s], node = ownerOf(s, at);
+  if (!node) return 'rest';
+  const words = [], kind = pieceOf(node, s).shape.kind;
+  if (kind === 'state') words.push('state');
+  else if (node.structural) words.push('framing');
+  else if (node.path.startsWith('header') || kind === 'luid') words.push('head');
+  else if (kind === 'var_string' || kind === 'text') words.push('text');
+  if (two && (node.differs || isOfOneSide(node))) words.push('changed');
   if (contains(side.held, at)) words.push('held');
   if (contains(side.marked, at)) words.push('marked');
   return words.join(' ');
 }
 
-function drawLines(side) {
+function drawLines(side, s) {
   const first = Math.floor(side.dump.scrollTop / lineHeight);
   const inSight = Math.ceil(side.dump.clientHeight / lineHeight) + 1;
   const last = Math.min(Math.ceil(side.data.length / perLine), first + inSight);
   let out = '';
   for (let line = first; line < last; ++line) {
     const from = line * perLine, to = Math.min(from + perLine, side.data.length);
-    let hex = '', ascii = '';
+    let words = '', ascii = '';
     for (let at = from; at < to; ++at) {
-      const kind = classOf(side, at), byte = side.data[at];
+      const kind = classOf(s, at), byte = side.data[at];
       const open = '<i data-at="' + at + '"' + (kind ? ' class="' + kind + '"' : '') + '>';
       // The gap belongs to the byte before it, so that a mark has no holes.
-      hex += open + byte.toString(16).padStart(2, '0') + (at % perLine === 7 ? '  ' : ' ') + '</i>';
+      words += open + hex(byte) + (at % perLine === 7 ? '  ' : ' ') + '</i>';
       const shown = byte < 32 || byte > 126 ? '\u00b7' : String.fromCharCode(byte);
       ascii += open + (shown === '<' ? '&lt;' : shown === '&' ? '&amp;' : shown) + '</i>';
     }
     const missing = perLine - (to - from);
-    hex += ' '.repeat(3 * missing + (missing > 8 ? 1 : 0));
+    words += ' '.repeat(3 * missing + (missing > 8 ? 1 : 0));
     const offset = from.toString(16).padStart(6, '0');
-    out += '<div class="line"><span class="at">' + offset + '  </span>' + hex + ' ' + ascii + '</div>';
+    out += '<div class="line"><span class="at">' + offset + '  </span>' + words + ' ' + ascii + '</div>';
   }
   side.lines.style.top = first * lineHeight + 8 + 'px';
   side.lines.innerHTML = out;
 }
 
-function showByte(side, at) {
-  const top = Math.floor(at / perLine) * lineHeight, dump = side.dump;
+function showByte(s, at) {
+  const side = sides[s], top = Math.floor(at / perLine) * lineHeight, dump = side.dump;
   if (top < dump.scrollTop || top + 2 * lineHeight > dump.scrollTop + dump.clientHeight) {
     dump.scrollTop = Math.max(0, top - dump.clientHeight / 3);
-    drawLines(side);
+    drawLines(side, s);
   }
 }
 
@@ -306,7 +455,7 @@ function point(node) {
   if (row) row.row.classList.add('marked');
   sides.forEach((side, s) => {
     side.marked = node ? bytesOf(node, s) : [];
-    drawLines(side);
+    drawLines(side, s);
   });
   detail(node || held);
 }
@@ -316,8 +465,8 @@ function hold(node) {
   held = node;
   sides.forEach((side, s) => {
     side.held = node ? bytesOf(node, s) : [];
-    if (side.held.length) showByte(side, side.held[0][0]);
-    drawLines(side);
+    if (side.held.length) showByte(s, side.held[0][0]);
+    drawLines(side, s);
   });
   if (!node) return;
   reveal(node);
@@ -334,12 +483,12 @@ function visibleOwner(node) {
   return node;
 }
 
-function pointAtByte(event, side, click) {
+function pointAtByte(event, s, click) {
   const at = event.target.dataset && event.target.dataset.at;
   if (at === undefined) return;
-  const piece = side.pieces[side.owner[Number(at)]];
-  if (!piece) return;
-  const node = visibleOwner(piece.node);
+  const owner = ownerOf(s, Number(at));
+  if (!owner) return;
+  const node = visibleOwner(owner);
   point(node);
   if (click) hold(node);
   else if (node.row && node.row.offsetParent !== null) node.row.scrollIntoView({block: 'nearest'});
@@ -349,7 +498,7 @@ tree.addEventListener('mouseover', event => {
   const row = event.target.closest('.row');
   if (!row) return;
   point(rows.get(row.dataset.id));
-  sides.forEach(side => { if (side.marked.length) showByte(side, side.marked[0][0]); });
+  sides.forEach((side, s) => { if (side.marked.length) showByte(s, side.marked[0][0]); });
 });
 tree.addEventListener('mouseleave', () => point(null));
 element('bytes').addEventListener('mouseleave', () => point(null));
@@ -375,7 +524,7 @@ tree.addEventListener('keydown', event => {
   if (event.key === 'ArrowDown') go(here + 1);
   else if (event.key === 'ArrowUp') go(Math.max(0, here - 1));
   else if (event.key === 'ArrowRight' && held) held.open ? go(here + 1) : unfold(held);
-  else if (event.key === 'ArrowLeft' && held && held.open && held.children.length) fold(held);
+  else if (event.key === 'ArrowLeft' && held && held.open && children(held).length) fold(held);
   else if (event.key === 'ArrowLeft' && held && held.parent) hold(held.parent);
   else return;
   event.preventDefault();
@@ -383,8 +532,26 @@ tree.addEventListener('keydown', event => {
 
 // ---- search
 
-const hits = new Set();
+const hits = new Set(), most = 5000;
 let order = [], current = -1;
+
+// Is the word in the name or the value of anything in the shape? Asked before nodes are made of it.
+function isIn(shape, at, s, wanted, framing) {
+  if (!shape.list) {
+    if (structural.has(shape.kind) && !framing) return false;
+    return valueAt(sides[s].data, at, shape).toLowerCase().includes(wanted);
+  }
+  for (let i = 0; i < shape.list.length; i += 2) {
+    if (nameOf(shape.list[i]).includes(wanted)) return true;
+    if (isIn(shapes[shape.list[i + 1]], at + shape.offsets[i / 2], s, wanted, framing)) return true;
+  }
+  return false;
+}
+function mayHave(node, wanted) {
+  if (node.list || wanted.startsWith(node.path.toLowerCase())) return true;
+  const framing = element('framing').checked;
+  return sides.some((side, s) => isOn(node, s) && isIn(node.shape[s], node.at[s], s, wanted, framing));
+}
 
 function search() {
   const wanted = element('search').value.trim().toLowerCase();
@@ -392,17 +559,18 @@ function search() {
   order = [];
   current = -1;
   const visit = node => {
+    if (order.length === most) return;
     if (isShown(node)) {
-      const words = [node.parent ? node.name : node.label, ...node.pieces.filter(p => p).map(p => p.value)];
+      const words = [node.parent ? node.name : node.label, valueOf(node, 0) || '', valueOf(node, 1) || ''];
       const found = words.some(w => w.toLowerCase().includes(wanted)) || node.path.toLowerCase() === wanted;
       if (wanted ? found : node.differs) {
         order.push(node);
         if (wanted) hits.add(node);
       }
     }
-    if (wanted || node.present[0] === node.present[1]) node.children.forEach(visit);
+    if (wanted ? mayHave(node, wanted) : node.inside && !isOfOneSide(node)) children(node).forEach(visit);
   };
-  roots.forEach(visit);
+  if (wanted || two) roots.forEach(visit);
   rows.forEach(n => n.row.classList.toggle('hit', hits.has(n)));
   tell();
 }
@@ -410,7 +578,7 @@ function search() {
 function tell() {
   const what = element('search').value.trim() ? '' : two ? ' changes' : '';
   element('found').textContent = !what && !element('search').value.trim() ? ''
-    : (current >= 0 ? current + 1 + ' of ' : '') + order.length + what;
+    : (current >= 0 ? current + 1 + ' of ' : '') + order.length + (order.length === most ? ' or more' : '') + what;
 }
 
 function step(by) {
@@ -451,7 +619,7 @@ if (matchMedia('(prefers-color-scheme: dark)').matches) dark();
 element('theme').addEventListener('click', dark);
 
 element('title').textContent = sides.map(side => side.name).join('  \u2192  ');
-const frames = Math.max(...sides.map(side => side.frames.length));
+const frames = roots.length;
 const differences = roots.reduce((sum, root) => sum + root.inside, 0);
 element('summary').textContent = frames + (frames === 1 ? ' frame' : ' frames') +
   (two ? ', ' + (differences || 'no') + (differences > 1 ? ' differences' : ' difference') : '');
@@ -468,18 +636,19 @@ let budget = 60;
 for (const root of roots) root.open = true;
 for (const level of [1, 2, 3]) {
   const visit = (node, depth) => {
-    if (depth === level && node.children.length && (!two || node.inside) && budget > 0 && node.name !== 'header') {
+    if (budget <= 0) return;
+    if (depth === level && (!two || node.inside) && node.name !== 'header' && children(node).length) {
       node.open = true;
-      budget -= node.children.length;
+      budget -= children(node).length;
     }
-    if (depth < level && node.open) node.children.forEach(child => visit(child, depth + 1));
+    if (depth < level && node.open) for (const child of children(node)) visit(child, depth + 1);
   };
-  roots.forEach(root => visit(root, 0));
+  for (const root of roots) visit(root, 0);
 }
 drawTree();
 search();
-sides.forEach(side => drawLines(side));
-addEventListener('resize', () => sides.forEach(side => drawLines(side)));
+sides.forEach(drawLines);
+addEventListener('resize', () => sides.forEach(drawLines));
 
 function follow() {
   const parts = decodeURI(location.hash.slice(1)).match(/^(?:(\d+):)?(.*)$/);
@@ -487,7 +656,7 @@ function follow() {
   const among = parts[1] === undefined ? roots : roots.slice(Number(parts[1]), Number(parts[1]) + 1);
   for (const root of among) {
     let node = root;
-    for (const name of steps(parts[2])) node = node && node.byName.get(name);
+    for (const name of steps(parts[2])) node = node && childOf(node, name);
     if (node) return hold(node);
   }
 }
