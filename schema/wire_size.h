@@ -12,6 +12,12 @@ struct WireSize {
     bool open = false;  // elements or characters come on top
 };
 
+// The greatest value of an integer.
+constexpr std::uint64_t greatest(Kind kind) {
+    const auto bits = 8U << static_cast<unsigned>(kind);
+    return bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
+}
+
 constexpr WireSize wire_size(const Record &record);
 
 constexpr WireSize wire_size(const Member &m) {

@@ -12,7 +12,7 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct AnswerOptions {
     std::string socket, listen;
     std::vector<std::string> served;
     Fault fault = Fault::none;
@@ -22,7 +22,7 @@ struct Options {
 
 class Server {
 public:
-    explicit Server(const Options &options) : options_(options) {}
+    explicit Server(const AnswerOptions &options) : options_(options) {}
     ~Server() { mirk_platform_server_close(server_); }
     Server(const Server &) = delete;
     Server &operator=(const Server &) = delete;
@@ -47,7 +47,7 @@ private:
             std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), sentence.c_str());
     }
 
-    const Options &options_;
+    const AnswerOptions &options_;
     Answerer answerer_;
     mirk_platform_server *server_ = nullptr;
     std::uint32_t answers_ = 0;
@@ -135,7 +135,7 @@ const std::map<std::string, Fault> fault_names = {
 }  // namespace
 
 void add_answer(CLI::App &app, Context &) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<AnswerOptions>();
     CLI::App *command = app.add_subcommand("answer", "serve snapshots of bundles over a socket or TCP");
     CLI::Option_group *place = command->add_option_group("place", "where to listen");
     place->add_option("--socket", options->socket, "a socket file, which only its owner may use")

@@ -15,7 +15,7 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct DecodeOptions {
     std::string file = "-", via = "handle";
     bool text = false, xml = false, json = false, bundles = false, keep_going = false, lenient = false, verbose = false;
 
@@ -49,7 +49,7 @@ Failure with_place(const Failure &failure, const Frame &frame, const std::string
     return {failure.exit(), (words.substr(0, place.size()) == place ? words : place + words) + where};
 }
 
-void decode_each(FrameBytes bytes, const std::string &origin, const Options &options, Complaints &complaints) {
+void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
     const Handles handles(Tracking::as_given);
     Progress progress("decoding " + origin);
     for (std::size_t offset = 0; offset < bytes.size();) {
@@ -77,7 +77,7 @@ void require_admitted(const Frame &frame, const reflect::BundleOperations *open,
                                    " does not admit " + frame.identity.operations->name);
 }
 
-void deliver(FrameBytes bytes, const std::string &origin, const Options &options, Complaints &complaints) {
+void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
     const std::vector<Frame> frames = split_frames(bytes, origin);
     const bool tracked = std::any_of(frames.begin(), frames.end(), [](const Frame &f) { return f.is_tracked(); });
     Reception reception(tracked, via_named(options.via));
@@ -102,7 +102,7 @@ void deliver(FrameBytes bytes, const std::string &origin, const Options &options
     if (options.verbose) std::fprintf(stderr, "%u bundles reached their handler\n", reception.committed());
 }
 
-void decode_fragments(std::string_view content, const std::string &origin, const Options &options,
+void decode_fragments(std::string_view content, const std::string &origin, const DecodeOptions &options,
                       Complaints &complaints) {
     const Handles handles(Tracking::as_given);
     for (const Fragment &fragment : split_fragments(content, origin)) {
@@ -120,7 +120,7 @@ void decode_fragments(std::string_view content, const std::string &origin, const
     }
 }
 
-Exit run(const Options &options) {
+Exit run_decode(const DecodeOptions &options) {
     set_up_trace(options.verbose);
     const std::string content = read_file(options.file);
     const std::string origin = shown_path(options.file);
@@ -145,7 +145,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_decode(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<DecodeOptions>();
     CLI::App *command = app.add_subcommand("decode", "frames and recordings into text, XML or JSON");
     command->add_option("file", options->file, "frames, a run of XML fragments, or JSON; - is standard input")
         ->type_name(words::file)
@@ -169,7 +169,7 @@ void add_decode(CLI::App &app, Context &context) {
         "  tarn decode answer.bin --json\n"
         "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles --via module -v\n"
         "  tarn decode recording.xml");
-    command->callback([options, &context] { context.exit = run(*options); });
+    command->callback([options, &context] { context.exit = run_decode(*options); });
 }
 
 }  // namespace tarn::tool

@@ -14,7 +14,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-struct Options {
+struct DiffOptions {
     std::string a, b;
     bool json = false, quiet = false, no_state = false, lenient = false;
 };
@@ -111,7 +111,7 @@ void print_json(const std::vector<Difference> &differences) {
     write_file("-", all.dump(2) + "\n");
 }
 
-Exit run(const Options &options) {
+Exit run_diff(const DiffOptions &options) {
     const ordered_json a = load(options.a, options.lenient), b = load(options.b, options.lenient);
     Comparison comparison(!options.no_state);
     // A lone message needs no index in front of its paths.
@@ -133,7 +133,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_diff(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<DiffOptions>();
     CLI::App *command = app.add_subcommand("diff", "two messages member by member");
     command->add_option("a", options->a, "frames, XML or JSON")->type_name(words::file)->required();
     command->add_option("b", options->b, "frames, XML or JSON, not necessarily of the same form")
@@ -148,7 +148,7 @@ void add_diff(CLI::App &app, Context &context) {
         "Examples:\n"
         "  tarn diff before.bin after.bin\n"
         "  tarn diff examples/cl_debug.xml answer.json --json");
-    command->callback([options, &context] { context.exit = run(*options); });
+    command->callback([options, &context] { context.exit = run_diff(*options); });
 }
 
 }  // namespace tarn::tool

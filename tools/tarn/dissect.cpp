@@ -13,14 +13,14 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct DissectOptions {
     std::string file = "-";
     bool json = false;
 };
 
 constexpr std::size_t bytes_in_line = 8;
 
-std::string hex_of(FrameBytes bytes) {
+std::string hex_column(FrameBytes bytes) {
     std::string text;
     for (const std::uint8_t byte : bytes) {
         text += {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15], ' '};
@@ -32,7 +32,7 @@ std::string hex_of(FrameBytes bytes) {
 void print_line(std::size_t offset, FrameBytes bytes, const std::string &words, std::string &out) {
     char front[24];
     std::snprintf(front, sizeof front, "%8zu  ", offset);
-    out += painted(front, Colour::grey) + hex_of(bytes) + words + "\n";
+    out += painted(front, Colour::grey) + hex_column(bytes) + words + "\n";
 }
 
 void print_piece(const Piece &piece, FrameBytes all, std::string &out) {
@@ -65,7 +65,7 @@ nlohmann::ordered_json json_of_dissection(const Dissection &dissection, std::siz
     return json;
 }
 
-Exit run(const Options &options) {
+Exit run_dissect(const DissectOptions &options) {
     const std::string content = read_file(options.file);
     const FrameBytes all = bytes_of(content);
     if (all.empty()) throw Failure(Exit::input, shown_path(options.file) + ": is empty");
@@ -92,7 +92,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_dissect(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<DissectOptions>();
     CLI::App *command = app.add_subcommand("dissect", "an annotated dump of frames, byte by byte");
     command->add_option("file", options->file, "frames; - is standard input")
         ->type_name(words::file)
@@ -103,7 +103,7 @@ void add_dissect(CLI::App &app, Context &context) {
         "Examples:\n"
         "  tarn dissect answer.bin\n"
         "  tarn encode examples/cl_debug.xml | tarn dissect");
-    command->callback([options, &context] { context.exit = run(*options); });
+    command->callback([options, &context] { context.exit = run_dissect(*options); });
 }
 
 }  // namespace tarn::tool

@@ -10,13 +10,13 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct EncodeOptions {
     std::string file = "-", output = "-", bundle;
     std::uint32_t stamp = 0;
     bool tracked = false, lenient = false, verbose = false;
 };
 
-Exit run(const Options &options) {
+Exit run_encode(const EncodeOptions &options) {
     set_up_trace(options.verbose);
     const std::string origin = shown_path(options.file);
     const Handles handles(options.tracked ? Tracking::on : Tracking::as_given);
@@ -29,7 +29,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_encode(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<EncodeOptions>();
     CLI::App *command = app.add_subcommand("encode", "XML and JSON into frames");
     command->add_option("file", options->file, "XML, JSON, or frames; - is standard input")
         ->type_name(words::file)
@@ -51,7 +51,7 @@ void add_encode(CLI::App &app, Context &context) {
         "  tarn encode examples/cl_debug.xml -o debug.bin\n"
         "  tarn encode tables.json --bundle dp-tt-cfg --tracked | tarn dissect\n"
         "  tarn decode debug.bin --json | tarn encode -o same.bin");
-    command->callback([options, &context] { context.exit = run(*options); });
+    command->callback([options, &context] { context.exit = run_encode(*options); });
 }
 
 }  // namespace tarn::tool

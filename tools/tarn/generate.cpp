@@ -14,7 +14,7 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct GenerateOptions {
     std::string what, output = "-", form = "xml";
     std::uint64_t seed = 1;
     std::uint32_t elements = 3;
@@ -62,7 +62,7 @@ std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &
 
 class Generator {
 public:
-    Generator(const Options &options, const reflect::MessageOperations &operations)
+    Generator(const GenerateOptions &options, const reflect::MessageOperations &operations)
         : options_(options), operations_(operations), handles_(options.tracked ? Tracking::on : Tracking::off) {}
 
     Item make(std::uint32_t elements) const {
@@ -97,7 +97,7 @@ private:
         return MIRK_PLATFORM_FRAME_SIZE + wire_size(payload(elements), operations_.message->payload, options_.tracked);
     }
 
-    const Options &options_;
+    const GenerateOptions &options_;
     const reflect::MessageOperations &operations_;
     Handles handles_;
 };
@@ -124,7 +124,7 @@ std::string in_form(const Item &item, const std::string &form) {
     return {frame.begin(), frame.end()};
 }
 
-void run(const Options &options) {
+void run_generate(const GenerateOptions &options) {
     const reflect::BundleOperations *bundle = nullptr;
     const reflect::MessageOperations &operations = message_for(options.what, bundle);
     const Generator generator(options, operations);
@@ -143,7 +143,7 @@ void run(const Options &options) {
 }  // namespace
 
 void add_generate(CLI::App &app, Context &) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<GenerateOptions>();
     CLI::App *command = app.add_subcommand("generate", "plausible random answers");
     command->add_option("what", options->what, "a bundle by name or short form, or a message by name")
         ->type_name(words::bundle_or_message)
@@ -170,7 +170,7 @@ void add_generate(CLI::App &app, Context &) {
         "  tarn generate dp-tt-cfg --seed 7 --elements 4 -o tables.xml\n"
         "  tarn generate dp-appl-cfg --size 1M --form frames --bundle | tarn decode --bundles --json\n"
         "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.xml");
-    command->callback([options] { run(*options); });
+    command->callback([options] { run_generate(*options); });
 }
 
 }  // namespace tarn::tool

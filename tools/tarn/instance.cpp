@@ -8,7 +8,7 @@ namespace tarn::tool {
 
 namespace {
 
-constexpr std::uint8_t flag_offset_known = 64, flag_ra_data = 32;
+constexpr std::uint8_t placed_state = 64, carries_ra_data = 32;
 
 template <typename T>
 T load(const void *object, std::size_t offset) {
@@ -31,7 +31,7 @@ std::int8_t variant_of(const void *object) { return static_cast<const mirk_objec
 void set_variant(void *object, std::int8_t variant) { static_cast<mirk_object *>(object)->variant = variant; }
 
 std::optional<RaData> ra_data_of(const Handle &handle, void *object) {
-    if ((static_cast<const mirk_object *>(object)->obj_flag & flag_ra_data) == 0) return std::nullopt;
+    if ((static_cast<const mirk_object *>(object)->obj_flag & carries_ra_data) == 0) return std::nullopt;
     void *value = nullptr;
     RaData data{};
     if (mirk_platform_ra_data(handle.get(), object, &value, &data.byte) != 0) return data;
@@ -70,7 +70,7 @@ bool set_address(const Handle &handle, ip_address *address, const std::string &t
 }
 
 std::uint8_t *address_state(const Handle &handle, ip_address *address) {
-    if (!handle.tracked() || (address->obj_flag & flag_offset_known) == 0) return nullptr;
+    if (!handle.tracked() || (address->obj_flag & placed_state) == 0) return nullptr;
     return reinterpret_cast<std::uint8_t *>(address) + mirklib_get_sttr_offset(handle.get(), context_id, address);
 }
 

@@ -13,7 +13,7 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct ManifestOptions {
     std::string file;
     bool json = false;
 };
@@ -97,11 +97,11 @@ std::vector<Block> blocks_of(std::string_view section, const std::string &path) 
     return blocks;
 }
 
-std::string kind_text(std::uint32_t kind) {
+std::string block_kind(std::uint32_t kind) {
     return kind == 2 ? "schema list" : kind == 1 ? "build stamp" : "kind " + std::to_string(kind);
 }
 
-Exit run(const Options &options) {
+Exit run_manifest(const ManifestOptions &options) {
     const std::string content = read_file(options.file);
     const ElfFile file(content, options.file);
     const std::string_view section = file.section(".orrin");
@@ -109,8 +109,8 @@ Exit run(const Options &options) {
     nlohmann::ordered_json json = nlohmann::ordered_json::array();
     std::string out;
     for (const Block &block : blocks_of(section, options.file)) {
-        json.push_back({{"kind", block.kind}, {"meaning", kind_text(block.kind)}, {"text", block.text}});
-        out += (out.empty() ? "" : "\n") + kind_text(block.kind) + ":\n" + block.text;
+        json.push_back({{"kind", block.kind}, {"meaning", block_kind(block.kind)}, {"text", block.text}});
+        out += (out.empty() ? "" : "\n") + block_kind(block.kind) + ":\n" + block.text;
         if (!block.text.empty() && block.text.back() != '\n') out += "\n";
     }
     write_file("-", options.json ? json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n" : out);
@@ -120,7 +120,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_manifest(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<ManifestOptions>();
     CLI::App *command = app.add_subcommand("manifest", "what a library file says of its types and its build");
     command->add_option("file", options->file, "an ELF file")->type_name(words::file)->required();
     command->add_flag("--json", options->json, "as JSON");
@@ -129,7 +129,7 @@ void add_manifest(CLI::App &app, Context &context) {
         "Examples:\n"
         "  tarn manifest build/release/liblumo_ui_tarn.so\n"
         "  tarn manifest liblumo_ui_tarn.so.1 --json");
-    command->callback([options, &context] { context.exit = run(*options); });
+    command->callback([options, &context] { context.exit = run_manifest(*options); });
 }
 
 }  // namespace tarn::tool

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "schema/wire_size.h"
+
 namespace tarn::tool {
 
 namespace {
@@ -17,11 +19,6 @@ bool has(const Member &m, std::string_view part) { return m.name.find(part) != s
 
 bool ends(const Member &m, std::string_view part) {
     return m.name.size() >= part.size() && m.name.substr(m.name.size() - part.size()) == part;
-}
-
-std::uint64_t greatest(Kind kind) {
-    const auto bits = 8U << static_cast<unsigned>(kind);
-    return bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace tarn::tool {
 
 namespace {
 
-struct Options {
+struct RecordOptions {
     std::string output, full, from;
     Place place;
     std::vector<std::string> what;
@@ -80,7 +80,7 @@ private:
     unsigned messages_ = 0, too_large_ = 0;
 };
 
-void record_from_file(const Options &options, Keeper &keeper) {
+void record_from_file(const RecordOptions &options, Keeper &keeper) {
     const std::string content = read_file(options.from);
     const std::string origin = shown_path(options.from);
     Reception reception(options.tracked, Via::handle);
@@ -90,7 +90,7 @@ void record_from_file(const Options &options, Keeper &keeper) {
     }
 }
 
-void record_from_socket(const Options &options, Keeper &keeper) {
+void record_from_socket(const RecordOptions &options, Keeper &keeper) {
     for (unsigned round = 0; round < options.rounds; ++round) {
         if (round != 0) std::this_thread::sleep_for(std::chrono::duration<double>(options.interval));
         for (const std::string &what : options.what) {
@@ -104,7 +104,7 @@ void record_from_socket(const Options &options, Keeper &keeper) {
     }
 }
 
-Exit run(const Options &options) {
+Exit run_record(const RecordOptions &options) {
     set_up_trace(options.verbose);
     Recording recording(options.output);
     Keeper keeper(recording, !options.full.empty());
@@ -118,7 +118,7 @@ Exit run(const Options &options) {
 }  // namespace
 
 void add_record(CLI::App &app, Context &context) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<RecordOptions>();
     CLI::App *command = app.add_subcommand("record", "keep what is received in a file");
     command->add_option("what", options->what, "bundles to ask for, by name or short form")->type_name(words::bundle);
     command->add_option("-o,--output", options->output, "the recording: XML fragments, one behind the other")
@@ -155,7 +155,7 @@ void add_record(CLI::App &app, Context &context) {
         if (options->from.empty() && (!options->place.is_given() || options->what.empty())) {
             throw Failure(Exit::input, "either --from, or --socket or --connect and at least one bundle, is needed");
         }
-        context.exit = run(*options);
+        context.exit = run_record(*options);
     });
 }
 

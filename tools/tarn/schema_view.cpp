@@ -24,7 +24,7 @@ using schema::Kind;
 using schema::Member;
 using schema::Record;
 
-struct Options {
+struct SchemaOptions {
     std::string name;
     bool tree = false, dot = false, json = false, html = false;
 };
@@ -182,7 +182,7 @@ std::string of_enumeration(const schema::Enumeration &e, bool as_json) {
 }
 
 // The member's row, and what it nests.
-std::string of_member(const Target &target, const Options &options) {
+std::string of_member(const Target &target, const SchemaOptions &options) {
     const Member &member = *target.member;
     const bool nests = member.record != nullptr;
     if (options.tree)
@@ -199,7 +199,7 @@ std::string of_member(const Target &target, const Options &options) {
     return out;
 }
 
-std::string of_one(const Options &options) {
+std::string of_one(const SchemaOptions &options) {
     if (options.html) throw Failure(Exit::input, "the page holds all of the schema, so no name goes with --html");
     for (const auto *e : schema::enumerations) {
         if (is_named(options.name, e->name)) return of_enumeration(*e, options.json);
@@ -221,7 +221,7 @@ std::string page() {
     return page_text({"Schema of tarn", schema_body, schema_script, data});
 }
 
-std::string of_all(const Options &options) {
+std::string of_all(const SchemaOptions &options) {
     if (options.html) return page();
     if (options.dot) return dot_text([](const Record &) { return true; });
     if (options.json) return schema_json().dump(2) + "\n";
@@ -234,7 +234,7 @@ std::string of_all(const Options &options) {
 }  // namespace
 
 void add_schema(CLI::App &app, Context &) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<SchemaOptions>();
     CLI::App *command = app.add_subcommand("schema", "the schema as lists, trees and tables");
     command
         ->add_option("name", options->name,

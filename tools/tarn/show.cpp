@@ -15,7 +15,7 @@ namespace {
 
 enum class Print : std::uint8_t { text, xml, json, hex };
 
-struct Options {
+struct ShowOptions {
     std::string what, save;
     Place place;
     bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
@@ -37,7 +37,7 @@ void print(const Answer &answer, const reflect::BundleOperations &bundle, Print 
     write_file("-", out);
 }
 
-void run(const Options &options) {
+void run_show(const ShowOptions &options) {
     set_up_trace(options.verbose);
     const reflect::BundleOperations &bundle = bundle_named(options.what);
     const Deadline deadline(options.timeout);
@@ -56,7 +56,7 @@ void run(const Options &options) {
 }  // namespace
 
 void add_show(CLI::App &app, Context &) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<ShowOptions>();
     CLI::App *command = app.add_subcommand("show", "ask a process for a bundle and print its answer");
     command->add_option("what", options->what, "bundle by name or short form, such as cl-debug")
         ->type_name(words::bundle)
@@ -90,7 +90,7 @@ void add_show(CLI::App &app, Context &) {
         "  tarn show cl-debug --connect 127.0.0.1:28276\n"
         "  tarn show lumo_tarn_dp_intf_rsp --socket /tmp/tarn.sock --tracked --xml\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --via module --verbose");
-    command->callback([options] { run(*options); });
+    command->callback([options] { run_show(*options); });
 }
 
 }  // namespace tarn::tool

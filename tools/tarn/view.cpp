@@ -20,12 +20,12 @@ namespace {
 
 using nlohmann::ordered_json;
 
-struct Options {
+struct ViewOptions {
     std::string a, b, output = "-";
     bool tracked = false, lenient = false;
 };
 
-std::string frames_of(const std::string &path, const Options &options) {
+std::string frames_of(const std::string &path, const ViewOptions &options) {
     std::string content = read_file(path);
     const std::string origin = shown_path(path);
     if (form_of(content, origin) == Form::frames) return content;
@@ -78,7 +78,7 @@ void note_luid(const Dissection &dissection, ordered_json &luids) {
 }
 
 // One file. What is behind a break is shown as bytes alone; the sentence about it is kept in `broken`.
-ordered_json json_of_side(const std::string &path, const Options &options, Shared &shared, std::string &broken) {
+ordered_json json_of_side(const std::string &path, const ViewOptions &options, Shared &shared, std::string &broken) {
     const std::string content = frames_of(path, options);
     const FrameBytes all = bytes_of(content);
     ordered_json side{{"name", shown_path(path)}, {"bytes", base64_of(all)}, {"frames", ordered_json::array()}};
@@ -96,7 +96,7 @@ ordered_json json_of_side(const std::string &path, const Options &options, Share
     return side;
 }
 
-void run(const Options &options) {
+void run_view(const ViewOptions &options) {
     std::string broken;
     Shared shared;
     ordered_json data{{"sides", ordered_json::array()}};
@@ -123,7 +123,7 @@ void run(const Options &options) {
 }  // namespace
 
 void add_view(CLI::App &app, Context &) {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<ViewOptions>();
     CLI::App *command = app.add_subcommand("view", "frames, or two files of them, as a page for a browser");
     command->add_option("a", options->a, "frames, XML or JSON; - is standard input")
         ->type_name(words::file)
@@ -144,7 +144,7 @@ void add_view(CLI::App &app, Context &) {
         "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin && tarn view answer.bin -o answer.html\n"
         "  tarn view before.bin after.bin -o difference.html\n"
         "  tarn view examples/dp_tt_cfg.xml -o tables.html");
-    command->callback([options] { run(*options); });
+    command->callback([options] { run_view(*options); });
 }
 
 }  // namespace tarn::tool

@@ -8,6 +8,7 @@
 #include <map>
 
 #include "names.h"
+#include "schema/wire_size.h"
 
 namespace tarn::tool {
 
@@ -40,11 +41,6 @@ bool is_number(std::string_view text, Number limit) {
     Number value{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     return !text.empty() && error == std::errc() && end == text.data() + text.size() && value <= limit;
-}
-
-std::uint64_t greatest(Kind kind) {
-    const auto bits = 8U << static_cast<unsigned>(kind);
-    return bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
 }
 
 std::vector<std::string> names_of(const Record &record) {
