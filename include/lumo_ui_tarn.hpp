@@ -1,8 +1,9 @@
-// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.
-// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation behaves.
-//
-// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and
-// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library alone.
+/// @file
+/// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.
+/// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation behaves.
+///
+/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and
+/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library alone.
 // Generated from the schema; edit the tables there and run tools/regenerate.
 #ifndef LUMO_UI_TARN_HPP
 #define LUMO_UI_TARN_HPP
@@ -13,19 +14,19 @@
 
 namespace lumo_ui_tarn {
 
-// high-availability state of a processor
+/// High-availability state of a processor.
 enum class ha_state : std::uint32_t {
-    invalid_state = 0,
-    reset_state = 1,
-    init_state = 2,
-    active_solo_state = 3,
-    active_redundant_state = 4,
-    standby_state = 5,
-    hot_standby_state = 6,
-    fault_recovery_state = 7,
-    quiesce_state = 8,
+    invalid_state = 0,  ///< LUMO_TARN_HA_INVALID_STATE
+    reset_state = 1,  ///< LUMO_TARN_HA_RESET_STATE
+    init_state = 2,  ///< LUMO_TARN_HA_INIT_STATE
+    active_solo_state = 3,  ///< LUMO_TARN_HA_ACTIVE_SOLO_STATE
+    active_redundant_state = 4,  ///< LUMO_TARN_HA_ACTIVE_REDUNDANT_STATE
+    standby_state = 5,  ///< LUMO_TARN_HA_STANDBY_STATE
+    hot_standby_state = 6,  ///< LUMO_TARN_HA_HOT_STANDBY_STATE
+    fault_recovery_state = 7,  ///< LUMO_TARN_HA_FAULT_RECOVERY_STATE
+    quiesce_state = 8,  ///< LUMO_TARN_HA_QUIESCE_STATE
 };
-// Its name in C; empty for a value that has none, as frames may bring one.
+/// Its name in C; empty for a value that has none, as frames may bring one.
 constexpr std::string_view name_of(ha_state value) {
     switch (value) {
         case ha_state::invalid_state:
@@ -50,13 +51,13 @@ constexpr std::string_view name_of(ha_state value) {
     return {};
 }
 
-// direction of traffic that a processor serves
+/// Direction of traffic that a processor serves.
 enum class lumo_direction : std::uint32_t {
-    ingress = 0,
-    egress = 1,
-    both = 2,
+    ingress = 0,  ///< LUMO_TARN_DIR_INGRESS
+    egress = 1,  ///< LUMO_TARN_DIR_EGRESS
+    both = 2,  ///< LUMO_TARN_DIR_BOTH
 };
-// Its name in C; empty for a value that has none, as frames may bring one.
+/// Its name in C; empty for a value that has none, as frames may bring one.
 constexpr std::string_view name_of(lumo_direction value) {
     switch (value) {
         case lumo_direction::ingress:
@@ -69,13 +70,13 @@ constexpr std::string_view name_of(lumo_direction value) {
     return {};
 }
 
-// what a block of memory is used for
+/// What a block of memory is used for.
 enum class mem_desc : std::uint32_t {
-    mp_mem = 0,
-    tt_mem = 1,
-    flow_mem = 2,
+    mp_mem = 0,  ///< LUMO_TARN_MP_MEM
+    tt_mem = 1,  ///< LUMO_TARN_TT_MEM
+    flow_mem = 2,  ///< LUMO_TARN_FLOW_MEM
 };
-// Its name in C; empty for a value that has none, as frames may bring one.
+/// Its name in C; empty for a value that has none, as frames may bring one.
 constexpr std::string_view name_of(mem_desc value) {
     switch (value) {
         case mem_desc::mp_mem:
@@ -88,78 +89,93 @@ constexpr std::string_view name_of(mem_desc value) {
     return {};
 }
 
-// ---- lumo_tarn_exmem_info: one block of external memory, under its three addresses, with its size
+/// lumo_tarn_exmem_info: one block of external memory, under its three addresses, with its size.
 struct exmem_info_type {
-    using native = lumo_tarn_exmem_info;
-    static constexpr const char *name = "lumo_tarn_exmem_info";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_create;
-    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;
-    static constexpr auto set = lumo_tarn_exmem_info_set;
-    static constexpr auto clone = lumo_tarn_exmem_info_clone;
-    static constexpr auto len = lumo_tarn_exmem_info_len;
-    static constexpr auto marshal = lumo_tarn_exmem_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_exmem_info_unmarshal;
-    static constexpr auto print = lumo_tarn_exmem_info_print;
-    static constexpr auto to_xml = lumo_tarn_exmem_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_exmem_info_from_xml;
-    static constexpr auto compare = lumo_tarn_exmem_info_compare;
-    static constexpr auto hash = lumo_tarn_exmem_info_hash;
+    using native = lumo_tarn_exmem_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_exmem_info";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_exmem_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_exmem_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_exmem_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_exmem_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_exmem_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_exmem_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_exmem_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_exmem_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_exmem_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_exmem_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_exmem_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_exmem_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<exmem_info_type, Self> {
     public:
         using detail::operations<exmem_info_type, Self>::operations;
 
-        // block's address on the client side
+        /// Block's address on the client side.
         std::uint64_t cl_addr() const { return this->call_(lumo_tarn_exmem_info_cl_addr_get_value); }
+        /// Writes cl_addr.
         const Self &set_cl_addr(std::uint64_t value) const {
             return this->write_(lumo_tarn_exmem_info_cl_addr_set_value, value);
         }
+        /// The state byte of cl_addr; none if the record has no states.
         std::optional<std::uint8_t> cl_addr_state() const {
             return this->state_(lumo_tarn_exmem_info_cl_addr_state_flag_get);
         }
+        /// Writes the state byte of cl_addr.
         const Self &set_cl_addr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_exmem_info_cl_addr_state_flag_set, value);
         }
 
-        // block's address in external memory
+        /// Block's address in external memory.
         std::uint64_t exmem_addr() const { return this->call_(lumo_tarn_exmem_info_exmem_addr_get_value); }
+        /// Writes exmem_addr.
         const Self &set_exmem_addr(std::uint64_t value) const {
             return this->write_(lumo_tarn_exmem_info_exmem_addr_set_value, value);
         }
+        /// The state byte of exmem_addr; none if the record has no states.
         std::optional<std::uint8_t> exmem_addr_state() const {
             return this->state_(lumo_tarn_exmem_info_exmem_addr_state_flag_get);
         }
+        /// Writes the state byte of exmem_addr.
         const Self &set_exmem_addr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_exmem_info_exmem_addr_state_flag_set, value);
         }
 
-        // block's address as the ppe side uses it
+        /// Block's address as the ppe side uses it.
         std::uint64_t ppe_addr() const { return this->call_(lumo_tarn_exmem_info_ppe_addr_get_value); }
+        /// Writes ppe_addr.
         const Self &set_ppe_addr(std::uint64_t value) const {
             return this->write_(lumo_tarn_exmem_info_ppe_addr_set_value, value);
         }
+        /// The state byte of ppe_addr; none if the record has no states.
         std::optional<std::uint8_t> ppe_addr_state() const {
             return this->state_(lumo_tarn_exmem_info_ppe_addr_state_flag_get);
         }
+        /// Writes the state byte of ppe_addr.
         const Self &set_ppe_addr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_exmem_info_ppe_addr_state_flag_set, value);
         }
 
-        // size of the block
+        /// Size of the block.
         std::uint32_t size() const { return this->call_(lumo_tarn_exmem_info_size_get_value); }
+        /// Writes size.
         const Self &set_size(std::uint32_t value) const {
             return this->write_(lumo_tarn_exmem_info_size_set_value, value);
         }
+        /// The state byte of size; none if the record has no states.
         std::optional<std::uint8_t> size_state() const {
             return this->state_(lumo_tarn_exmem_info_size_state_flag_get);
         }
+        /// Writes the state byte of size.
         const Self &set_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_exmem_info_size_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"cl_addr", &members::cl_addr, &members::set_cl_addr, &members::cl_addr_state,
@@ -173,93 +189,113 @@ struct exmem_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_exmem_info.
 using exmem_info = record<exmem_info_type>;
+/// Borrows a lumo_tarn_exmem_info.
 using exmem_info_ref = record_ref<exmem_info_type>;
 
-// ---- lumo_tarn_fdb_base: versions and lengths of the header and the footer of the fdb
+/// lumo_tarn_fdb_base: versions and lengths of the header and the footer of the fdb.
 struct fdb_base_type {
-    using native = lumo_tarn_fdb_base;
-    static constexpr const char *name = "lumo_tarn_fdb_base";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_base_create;
-    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;
-    static constexpr auto set = lumo_tarn_fdb_base_set;
-    static constexpr auto clone = lumo_tarn_fdb_base_clone;
-    static constexpr auto len = lumo_tarn_fdb_base_len;
-    static constexpr auto marshal = lumo_tarn_fdb_base_marshal;
-    static constexpr auto unmarshal = lumo_tarn_fdb_base_unmarshal;
-    static constexpr auto print = lumo_tarn_fdb_base_print;
-    static constexpr auto to_xml = lumo_tarn_fdb_base_to_xml;
-    static constexpr auto from_xml = lumo_tarn_fdb_base_from_xml;
-    static constexpr auto compare = lumo_tarn_fdb_base_compare;
-    static constexpr auto hash = lumo_tarn_fdb_base_hash;
+    using native = lumo_tarn_fdb_base;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_fdb_base";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_fdb_base_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_fdb_base_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_fdb_base_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_fdb_base_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_fdb_base_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_fdb_base_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_fdb_base_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_fdb_base_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_fdb_base_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_fdb_base_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_fdb_base_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_fdb_base_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<fdb_base_type, Self> {
     public:
         using detail::operations<fdb_base_type, Self>::operations;
 
-        // version of the header
+        /// Version of the header.
         std::uint8_t hdr_ver() const { return this->call_(lumo_tarn_fdb_base_hdr_ver_get_value); }
+        /// Writes hdr_ver.
         const Self &set_hdr_ver(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_ver_set_value, value);
         }
+        /// The state byte of hdr_ver; none if the record has no states.
         std::optional<std::uint8_t> hdr_ver_state() const {
             return this->state_(lumo_tarn_fdb_base_hdr_ver_state_flag_get);
         }
+        /// Writes the state byte of hdr_ver.
         const Self &set_hdr_ver_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_ver_state_flag_set, value);
         }
 
-        // length of the header
+        /// Length of the header.
         std::uint8_t hdr_len() const { return this->call_(lumo_tarn_fdb_base_hdr_len_get_value); }
+        /// Writes hdr_len.
         const Self &set_hdr_len(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_len_set_value, value);
         }
+        /// The state byte of hdr_len; none if the record has no states.
         std::optional<std::uint8_t> hdr_len_state() const {
             return this->state_(lumo_tarn_fdb_base_hdr_len_state_flag_get);
         }
+        /// Writes the state byte of hdr_len.
         const Self &set_hdr_len_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_len_state_flag_set, value);
         }
 
-        // header flags
+        /// Header flags.
         std::uint16_t hdr_flags() const { return this->call_(lumo_tarn_fdb_base_hdr_flags_get_value); }
+        /// Writes hdr_flags.
         const Self &set_hdr_flags(std::uint16_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_flags_set_value, value);
         }
+        /// The state byte of hdr_flags; none if the record has no states.
         std::optional<std::uint8_t> hdr_flags_state() const {
             return this->state_(lumo_tarn_fdb_base_hdr_flags_state_flag_get);
         }
+        /// Writes the state byte of hdr_flags.
         const Self &set_hdr_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_hdr_flags_state_flag_set, value);
         }
 
-        // version of the footer
+        /// Version of the footer.
         std::uint16_t ftr_ver() const { return this->call_(lumo_tarn_fdb_base_ftr_ver_get_value); }
+        /// Writes ftr_ver.
         const Self &set_ftr_ver(std::uint16_t value) const {
             return this->write_(lumo_tarn_fdb_base_ftr_ver_set_value, value);
         }
+        /// The state byte of ftr_ver; none if the record has no states.
         std::optional<std::uint8_t> ftr_ver_state() const {
             return this->state_(lumo_tarn_fdb_base_ftr_ver_state_flag_get);
         }
+        /// Writes the state byte of ftr_ver.
         const Self &set_ftr_ver_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_ftr_ver_state_flag_set, value);
         }
 
-        // length of the footer
+        /// Length of the footer.
         std::uint16_t ftr_len() const { return this->call_(lumo_tarn_fdb_base_ftr_len_get_value); }
+        /// Writes ftr_len.
         const Self &set_ftr_len(std::uint16_t value) const {
             return this->write_(lumo_tarn_fdb_base_ftr_len_set_value, value);
         }
+        /// The state byte of ftr_len; none if the record has no states.
         std::optional<std::uint8_t> ftr_len_state() const {
             return this->state_(lumo_tarn_fdb_base_ftr_len_state_flag_get);
         }
+        /// Writes the state byte of ftr_len.
         const Self &set_ftr_len_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_base_ftr_len_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"hdr_ver", &members::hdr_ver, &members::set_hdr_ver, &members::hdr_ver_state,
@@ -275,69 +311,83 @@ struct fdb_base_type {
         }
     };
 };
+/// Owns a lumo_tarn_fdb_base.
 using fdb_base = record<fdb_base_type>;
+/// Borrows a lumo_tarn_fdb_base.
 using fdb_base_ref = record_ref<fdb_base_type>;
 
-// ---- lumo_tarn_fdb_mem_info: one piece of fdb memory
+/// lumo_tarn_fdb_mem_info: one piece of fdb memory.
 struct fdb_mem_info_type {
-    using native = lumo_tarn_fdb_mem_info;
-    static constexpr const char *name = "lumo_tarn_fdb_mem_info";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_mem_info_create;
-    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;
-    static constexpr auto set = lumo_tarn_fdb_mem_info_set;
-    static constexpr auto clone = lumo_tarn_fdb_mem_info_clone;
-    static constexpr auto len = lumo_tarn_fdb_mem_info_len;
-    static constexpr auto marshal = lumo_tarn_fdb_mem_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_fdb_mem_info_unmarshal;
-    static constexpr auto print = lumo_tarn_fdb_mem_info_print;
-    static constexpr auto to_xml = lumo_tarn_fdb_mem_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_fdb_mem_info_from_xml;
-    static constexpr auto compare = lumo_tarn_fdb_mem_info_compare;
-    static constexpr auto hash = lumo_tarn_fdb_mem_info_hash;
+    using native = lumo_tarn_fdb_mem_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_fdb_mem_info";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_fdb_mem_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_fdb_mem_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_fdb_mem_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_fdb_mem_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_fdb_mem_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_fdb_mem_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_fdb_mem_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_fdb_mem_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_fdb_mem_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_fdb_mem_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_fdb_mem_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_fdb_mem_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<fdb_mem_info_type, Self> {
     public:
         using detail::operations<fdb_mem_info_type, Self>::operations;
 
-        // type of the memory
+        /// Type of the memory.
         std::uint32_t type() const { return this->call_(lumo_tarn_fdb_mem_info_type_get_value); }
+        /// Writes type.
         const Self &set_type(std::uint32_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_type_set_value, value);
         }
+        /// The state byte of type; none if the record has no states.
         std::optional<std::uint8_t> type_state() const {
             return this->state_(lumo_tarn_fdb_mem_info_type_state_flag_get);
         }
+        /// Writes the state byte of type.
         const Self &set_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_type_state_flag_set, value);
         }
 
-        // size of the memory
+        /// Size of the memory.
         std::uint32_t size() const { return this->call_(lumo_tarn_fdb_mem_info_size_get_value); }
+        /// Writes size.
         const Self &set_size(std::uint32_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_size_set_value, value);
         }
+        /// The state byte of size; none if the record has no states.
         std::optional<std::uint8_t> size_state() const {
             return this->state_(lumo_tarn_fdb_mem_info_size_state_flag_get);
         }
+        /// Writes the state byte of size.
         const Self &set_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_size_state_flag_set, value);
         }
 
-        // address of the memory
+        /// Address of the memory.
         std::uint64_t mem_addr() const { return this->call_(lumo_tarn_fdb_mem_info_mem_addr_get_value); }
+        /// Writes mem_addr.
         const Self &set_mem_addr(std::uint64_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_mem_addr_set_value, value);
         }
+        /// The state byte of mem_addr; none if the record has no states.
         std::optional<std::uint8_t> mem_addr_state() const {
             return this->state_(lumo_tarn_fdb_mem_info_mem_addr_state_flag_get);
         }
+        /// Writes the state byte of mem_addr.
         const Self &set_mem_addr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_fdb_mem_info_mem_addr_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"type", &members::type, &members::set_type, &members::type_state,
@@ -349,51 +399,60 @@ struct fdb_mem_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_fdb_mem_info.
 using fdb_mem_info = record<fdb_mem_info_type>;
+/// Borrows a lumo_tarn_fdb_mem_info.
 using fdb_mem_info_ref = record_ref<fdb_mem_info_type>;
 
-// ---- lumo_tarn_exmem_info_wrapper: one block of a list of blocks that grows
+/// lumo_tarn_exmem_info_wrapper: one block of a list of blocks that grows.
 struct exmem_info_wrapper_type {
-    using native = lumo_tarn_exmem_info_wrapper;
-    static constexpr const char *name = "lumo_tarn_exmem_info_wrapper";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;
-    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;
-    static constexpr auto set = lumo_tarn_exmem_info_wrapper_set;
-    static constexpr auto clone = lumo_tarn_exmem_info_wrapper_clone;
-    static constexpr auto len = lumo_tarn_exmem_info_wrapper_len;
-    static constexpr auto marshal = lumo_tarn_exmem_info_wrapper_marshal;
-    static constexpr auto unmarshal = lumo_tarn_exmem_info_wrapper_unmarshal;
-    static constexpr auto print = lumo_tarn_exmem_info_wrapper_print;
-    static constexpr auto to_xml = lumo_tarn_exmem_info_wrapper_to_xml;
-    static constexpr auto from_xml = lumo_tarn_exmem_info_wrapper_from_xml;
-    static constexpr auto compare = lumo_tarn_exmem_info_wrapper_compare;
-    static constexpr auto hash = lumo_tarn_exmem_info_wrapper_hash;
+    using native = lumo_tarn_exmem_info_wrapper;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_exmem_info_wrapper";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_exmem_info_wrapper_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_exmem_info_wrapper_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_exmem_info_wrapper_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_exmem_info_wrapper_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_exmem_info_wrapper_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_exmem_info_wrapper_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_exmem_info_wrapper_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_exmem_info_wrapper_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_exmem_info_wrapper_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_exmem_info_wrapper_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_exmem_info_wrapper_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<exmem_info_wrapper_type, Self> {
     public:
         using detail::operations<exmem_info_wrapper_type, Self>::operations;
 
-        // wrapped block description
+        /// Wrapped block description.
         lumo_ui_tarn::exmem_info_ref exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_exmem_info_wrapper_exmem_get);
         }
+        /// Writes exmem.
         const Self &set_exmem(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_exmem_info_wrapper_exmem_get, lumo_tarn_exmem_info_wrapper_exmem_set, value);
         }
+        /// Moves a record into exmem.
         const Self &adopt_exmem(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_exmem_info_wrapper_exmem_get, lumo_tarn_exmem_info_wrapper_exmem_set,
                 std::move(value));
         }
+        /// The state byte of exmem; none if the record has no states.
         std::optional<std::uint8_t> exmem_state() const {
             return this->state_(lumo_tarn_exmem_info_wrapper_exmem_state_flag_get);
         }
+        /// Writes the state byte of exmem.
         const Self &set_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_exmem_info_wrapper_exmem_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"exmem", &members::exmem, &members::set_exmem, &members::exmem_state,
@@ -401,90 +460,111 @@ struct exmem_info_wrapper_type {
         }
     };
 };
+/// Owns a lumo_tarn_exmem_info_wrapper.
 using exmem_info_wrapper = record<exmem_info_wrapper_type>;
+/// Borrows a lumo_tarn_exmem_info_wrapper.
 using exmem_info_wrapper_ref = record_ref<exmem_info_wrapper_type>;
 
-// ---- lumo_tarn_dp_appl: one application entry in the data plane
+/// lumo_tarn_dp_appl: one application entry in the data plane.
 struct dp_appl_type {
-    using native = lumo_tarn_dp_appl;
-    static constexpr const char *name = "lumo_tarn_dp_appl";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;
-    static constexpr auto set = lumo_tarn_dp_appl_set;
-    static constexpr auto clone = lumo_tarn_dp_appl_clone;
-    static constexpr auto len = lumo_tarn_dp_appl_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_appl_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_appl_compare;
-    static constexpr auto hash = lumo_tarn_dp_appl_hash;
+    using native = lumo_tarn_dp_appl;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_appl";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_appl_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_appl_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_appl_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_appl_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_appl_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_appl_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_appl_type, Self> {
     public:
         using detail::operations<dp_appl_type, Self>::operations;
 
-        // where the entry lies in memory
+        /// Where the entry lies in memory.
         lumo_ui_tarn::exmem_info_ref exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_exmem_info_get);
         }
+        /// Writes exmem_info.
         const Self &set_exmem_info(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_appl_exmem_info_get, lumo_tarn_dp_appl_exmem_info_set, value);
         }
+        /// Moves a record into exmem_info.
         const Self &adopt_exmem_info(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_appl_exmem_info_get, lumo_tarn_dp_appl_exmem_info_set, std::move(value));
         }
+        /// The state byte of exmem_info; none if the record has no states.
         std::optional<std::uint8_t> exmem_info_state() const {
             return this->state_(lumo_tarn_dp_appl_exmem_info_state_flag_get);
         }
+        /// Writes the state byte of exmem_info.
         const Self &set_exmem_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_exmem_info_state_flag_set, value);
         }
 
-        // type of the application entry
+        /// Type of the application entry.
         std::uint8_t type() const { return this->call_(lumo_tarn_dp_appl_type_get_value); }
+        /// Writes type.
         const Self &set_type(std::uint8_t value) const { return this->write_(lumo_tarn_dp_appl_type_set_value, value); }
+        /// The state byte of type; none if the record has no states.
         std::optional<std::uint8_t> type_state() const { return this->state_(lumo_tarn_dp_appl_type_state_flag_get); }
+        /// Writes the state byte of type.
         const Self &set_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_type_state_flag_set, value);
         }
 
-        // identifier of the application entry
+        /// Identifier of the application entry.
         std::uint16_t id() const { return this->call_(lumo_tarn_dp_appl_id_get_value); }
+        /// Writes id.
         const Self &set_id(std::uint16_t value) const { return this->write_(lumo_tarn_dp_appl_id_set_value, value); }
+        /// The state byte of id; none if the record has no states.
         std::optional<std::uint8_t> id_state() const { return this->state_(lumo_tarn_dp_appl_id_state_flag_get); }
+        /// Writes the state byte of id.
         const Self &set_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_id_state_flag_set, value);
         }
 
-        // tarn feature's identifier of the kesh application
+        /// Tarn feature's identifier of the kesh application.
         std::uint16_t tarn_kesh_id() const { return this->call_(lumo_tarn_dp_appl_tarn_kesh_id_get_value); }
+        /// Writes tarn_kesh_id.
         const Self &set_tarn_kesh_id(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_tarn_kesh_id_set_value, value);
         }
+        /// The state byte of tarn_kesh_id; none if the record has no states.
         std::optional<std::uint8_t> tarn_kesh_id_state() const {
             return this->state_(lumo_tarn_dp_appl_tarn_kesh_id_state_flag_get);
         }
+        /// Writes the state byte of tarn_kesh_id.
         const Self &set_tarn_kesh_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_tarn_kesh_id_state_flag_set, value);
         }
 
-        // link to the next entry in the data plane
+        /// Link to the next entry in the data plane.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_appl_next_ptr_get_value); }
+        /// Writes next_ptr.
         const Self &set_next_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_appl_next_ptr_set_value, value);
         }
+        /// The state byte of next_ptr; none if the record has no states.
         std::optional<std::uint8_t> next_ptr_state() const {
             return this->state_(lumo_tarn_dp_appl_next_ptr_state_flag_get);
         }
+        /// Writes the state byte of next_ptr.
         const Self &set_next_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_next_ptr_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"exmem_info", &members::exmem_info, &members::set_exmem_info,
@@ -500,231 +580,289 @@ struct dp_appl_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_appl.
 using dp_appl = record<dp_appl_type>;
+/// Borrows a lumo_tarn_dp_appl.
 using dp_appl_ref = record_ref<dp_appl_type>;
 
-// ---- lumo_tarn_dp_tc: one traffic class
+/// lumo_tarn_dp_tc: one traffic class.
 struct dp_tc_type {
-    using native = lumo_tarn_dp_tc;
-    static constexpr const char *name = "lumo_tarn_dp_tc";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_create;
-    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;
-    static constexpr auto set = lumo_tarn_dp_tc_set;
-    static constexpr auto clone = lumo_tarn_dp_tc_clone;
-    static constexpr auto len = lumo_tarn_dp_tc_len;
-    static constexpr auto marshal = lumo_tarn_dp_tc_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_tc_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_tc_print;
-    static constexpr auto to_xml = lumo_tarn_dp_tc_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_tc_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_tc_compare;
-    static constexpr auto hash = lumo_tarn_dp_tc_hash;
+    using native = lumo_tarn_dp_tc;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_tc";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_tc_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_tc_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_tc_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_tc_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_tc_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_tc_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_tc_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_tc_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_tc_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_tc_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_tc_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tc_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_tc_type, Self> {
     public:
         using detail::operations<dp_tc_type, Self>::operations;
 
-        // where the traffic class lies in memory
+        /// Where the traffic class lies in memory.
         lumo_ui_tarn::exmem_info_ref exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_tc_exmem_info_get);
         }
+        /// Writes exmem_info.
         const Self &set_exmem_info(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_tc_exmem_info_get, lumo_tarn_dp_tc_exmem_info_set, value);
         }
+        /// Moves a record into exmem_info.
         const Self &adopt_exmem_info(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_tc_exmem_info_get, lumo_tarn_dp_tc_exmem_info_set, std::move(value));
         }
+        /// The state byte of exmem_info; none if the record has no states.
         std::optional<std::uint8_t> exmem_info_state() const {
             return this->state_(lumo_tarn_dp_tc_exmem_info_state_flag_get);
         }
+        /// Writes the state byte of exmem_info.
         const Self &set_exmem_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_exmem_info_state_flag_set, value);
         }
 
-        // source prefix of the class
+        /// Source prefix of the class.
         lumo_ui_tarn::address src_prefix() const { return this->read_address_(lumo_tarn_dp_tc_src_prefix_get); }
+        /// Writes src_prefix.
         const Self &set_src_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_dp_tc_src_prefix_get, lumo_tarn_dp_tc_src_prefix_set, value);
         }
+        /// The state byte of src_prefix; none if the record has no states.
         std::optional<std::uint8_t> src_prefix_state() const {
             return this->state_(lumo_tarn_dp_tc_src_prefix_state_flag_get);
         }
+        /// Writes the state byte of src_prefix.
         const Self &set_src_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_prefix_state_flag_set, value);
         }
 
-        // destination prefix of the class
+        /// Destination prefix of the class.
         lumo_ui_tarn::address dst_prefix() const { return this->read_address_(lumo_tarn_dp_tc_dst_prefix_get); }
+        /// Writes dst_prefix.
         const Self &set_dst_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_dp_tc_dst_prefix_get, lumo_tarn_dp_tc_dst_prefix_set, value);
         }
+        /// The state byte of dst_prefix; none if the record has no states.
         std::optional<std::uint8_t> dst_prefix_state() const {
             return this->state_(lumo_tarn_dp_tc_dst_prefix_state_flag_get);
         }
+        /// Writes the state byte of dst_prefix.
         const Self &set_dst_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_prefix_state_flag_set, value);
         }
 
-        // protocol number to match
+        /// Protocol number to match.
         std::uint8_t proto() const { return this->call_(lumo_tarn_dp_tc_proto_get_value); }
+        /// Writes proto.
         const Self &set_proto(std::uint8_t value) const { return this->write_(lumo_tarn_dp_tc_proto_set_value, value); }
+        /// The state byte of proto; none if the record has no states.
         std::optional<std::uint8_t> proto_state() const { return this->state_(lumo_tarn_dp_tc_proto_state_flag_get); }
+        /// Writes the state byte of proto.
         const Self &set_proto_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_proto_state_flag_set, value);
         }
 
-        // type-of-service value to match
+        /// Type-of-service value to match.
         std::uint8_t tos() const { return this->call_(lumo_tarn_dp_tc_tos_get_value); }
+        /// Writes tos.
         const Self &set_tos(std::uint8_t value) const { return this->write_(lumo_tarn_dp_tc_tos_set_value, value); }
+        /// The state byte of tos; none if the record has no states.
         std::optional<std::uint8_t> tos_state() const { return this->state_(lumo_tarn_dp_tc_tos_state_flag_get); }
+        /// Writes the state byte of tos.
         const Self &set_tos_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_tos_state_flag_set, value);
         }
 
-        // flags of the class, sixteen bits
+        /// Flags of the class, sixteen bits.
         std::uint16_t flags() const { return this->call_(lumo_tarn_dp_tc_flags_get_value); }
+        /// Writes flags.
         const Self &set_flags(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_flags_set_value, value);
         }
+        /// The state byte of flags; none if the record has no states.
         std::optional<std::uint8_t> flags_state() const { return this->state_(lumo_tarn_dp_tc_flags_state_flag_get); }
+        /// Writes the state byte of flags.
         const Self &set_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_flags_state_flag_set, value);
         }
 
-        // second, separate set of flags, eight bits
+        /// Second, separate set of flags, eight bits.
         std::uint8_t bit_flags() const { return this->call_(lumo_tarn_dp_tc_bit_flags_get_value); }
+        /// Writes bit_flags.
         const Self &set_bit_flags(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_bit_flags_set_value, value);
         }
+        /// The state byte of bit_flags; none if the record has no states.
         std::optional<std::uint8_t> bit_flags_state() const {
             return this->state_(lumo_tarn_dp_tc_bit_flags_state_flag_get);
         }
+        /// Writes the state byte of bit_flags.
         const Self &set_bit_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_bit_flags_state_flag_set, value);
         }
 
-        // low end of the source port range
+        /// Low end of the source port range.
         std::uint16_t src_port_min() const { return this->call_(lumo_tarn_dp_tc_src_port_min_get_value); }
+        /// Writes src_port_min.
         const Self &set_src_port_min(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_min_set_value, value);
         }
+        /// The state byte of src_port_min; none if the record has no states.
         std::optional<std::uint8_t> src_port_min_state() const {
             return this->state_(lumo_tarn_dp_tc_src_port_min_state_flag_get);
         }
+        /// Writes the state byte of src_port_min.
         const Self &set_src_port_min_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_min_state_flag_set, value);
         }
 
-        // high end of the source port range
+        /// High end of the source port range.
         std::uint16_t src_port_max() const { return this->call_(lumo_tarn_dp_tc_src_port_max_get_value); }
+        /// Writes src_port_max.
         const Self &set_src_port_max(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_max_set_value, value);
         }
+        /// The state byte of src_port_max; none if the record has no states.
         std::optional<std::uint8_t> src_port_max_state() const {
             return this->state_(lumo_tarn_dp_tc_src_port_max_state_flag_get);
         }
+        /// Writes the state byte of src_port_max.
         const Self &set_src_port_max_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_max_state_flag_set, value);
         }
 
-        // low end of the destination port range
+        /// Low end of the destination port range.
         std::uint16_t dst_port_min() const { return this->call_(lumo_tarn_dp_tc_dst_port_min_get_value); }
+        /// Writes dst_port_min.
         const Self &set_dst_port_min(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_min_set_value, value);
         }
+        /// The state byte of dst_port_min; none if the record has no states.
         std::optional<std::uint8_t> dst_port_min_state() const {
             return this->state_(lumo_tarn_dp_tc_dst_port_min_state_flag_get);
         }
+        /// Writes the state byte of dst_port_min.
         const Self &set_dst_port_min_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_min_state_flag_set, value);
         }
 
-        // high end of the destination port range
+        /// High end of the destination port range.
         std::uint16_t dst_port_max() const { return this->call_(lumo_tarn_dp_tc_dst_port_max_get_value); }
+        /// Writes dst_port_max.
         const Self &set_dst_port_max(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_max_set_value, value);
         }
+        /// The state byte of dst_port_max; none if the record has no states.
         std::optional<std::uint8_t> dst_port_max_state() const {
             return this->state_(lumo_tarn_dp_tc_dst_port_max_state_flag_get);
         }
+        /// Writes the state byte of dst_port_max.
         const Self &set_dst_port_max_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_max_state_flag_set, value);
         }
 
-        // operator applied to the source port range
+        /// Operator applied to the source port range.
         std::uint16_t src_port_opr() const { return this->call_(lumo_tarn_dp_tc_src_port_opr_get_value); }
+        /// Writes src_port_opr.
         const Self &set_src_port_opr(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_opr_set_value, value);
         }
+        /// The state byte of src_port_opr; none if the record has no states.
         std::optional<std::uint8_t> src_port_opr_state() const {
             return this->state_(lumo_tarn_dp_tc_src_port_opr_state_flag_get);
         }
+        /// Writes the state byte of src_port_opr.
         const Self &set_src_port_opr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_src_port_opr_state_flag_set, value);
         }
 
-        // operator applied to the destination port range
+        /// Operator applied to the destination port range.
         std::uint16_t dst_port_opr() const { return this->call_(lumo_tarn_dp_tc_dst_port_opr_get_value); }
+        /// Writes dst_port_opr.
         const Self &set_dst_port_opr(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_opr_set_value, value);
         }
+        /// The state byte of dst_port_opr; none if the record has no states.
         std::optional<std::uint8_t> dst_port_opr_state() const {
             return this->state_(lumo_tarn_dp_tc_dst_port_opr_state_flag_get);
         }
+        /// Writes the state byte of dst_port_opr.
         const Self &set_dst_port_opr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_dst_port_opr_state_flag_set, value);
         }
 
-        // link to the next class in the data plane
+        /// Link to the next class in the data plane.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_tc_next_ptr_get_value); }
+        /// Writes next_ptr.
         const Self &set_next_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tc_next_ptr_set_value, value);
         }
+        /// The state byte of next_ptr; none if the record has no states.
         std::optional<std::uint8_t> next_ptr_state() const {
             return this->state_(lumo_tarn_dp_tc_next_ptr_state_flag_get);
         }
+        /// Writes the state byte of next_ptr.
         const Self &set_next_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_next_ptr_state_flag_set, value);
         }
 
-        // where the application data lies in the data plane
+        /// Where the application data lies in the data plane.
         std::uint64_t appl_data_ptr() const { return this->call_(lumo_tarn_dp_tc_appl_data_ptr_get_value); }
+        /// Writes appl_data_ptr.
         const Self &set_appl_data_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tc_appl_data_ptr_set_value, value);
         }
+        /// The state byte of appl_data_ptr; none if the record has no states.
         std::optional<std::uint8_t> appl_data_ptr_state() const {
             return this->state_(lumo_tarn_dp_tc_appl_data_ptr_state_flag_get);
         }
+        /// Writes the state byte of appl_data_ptr.
         const Self &set_appl_data_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_appl_data_ptr_state_flag_set, value);
         }
 
-        // class's application entry
+        /// Class's application entry.
         lumo_ui_tarn::dp_appl_ref appl() const {
             return this->template nested_<lumo_ui_tarn::dp_appl_type>(lumo_tarn_dp_tc_appl_get);
         }
+        /// Writes appl.
         const Self &set_appl(lumo_ui_tarn::dp_appl_ref value) const {
             return this->assign_(lumo_tarn_dp_tc_appl_get, lumo_tarn_dp_tc_appl_set, value);
         }
+        /// Moves a record into appl.
         const Self &adopt_appl(lumo_ui_tarn::dp_appl &&value) const {
             return this->adopt_(lumo_tarn_dp_tc_appl_get, lumo_tarn_dp_tc_appl_set, std::move(value));
         }
+        /// The state byte of appl; none if the record has no states.
         std::optional<std::uint8_t> appl_state() const { return this->state_(lumo_tarn_dp_tc_appl_state_flag_get); }
+        /// Writes the state byte of appl.
         const Self &set_appl_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_appl_state_flag_set, value);
         }
 
-        // identifier of the class
+        /// Identifier of the class.
         std::uint32_t id() const { return this->call_(lumo_tarn_dp_tc_id_get_value); }
+        /// Writes id.
         const Self &set_id(std::uint32_t value) const { return this->write_(lumo_tarn_dp_tc_id_set_value, value); }
+        /// The state byte of id; none if the record has no states.
         std::optional<std::uint8_t> id_state() const { return this->state_(lumo_tarn_dp_tc_id_state_flag_get); }
+        /// Writes the state byte of id.
         const Self &set_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_id_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"exmem_info", &members::exmem_info, &members::set_exmem_info,
@@ -764,56 +902,64 @@ struct dp_tc_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_tc.
 using dp_tc = record<dp_tc_type>;
+/// Borrows a lumo_tarn_dp_tc.
 using dp_tc_ref = record_ref<dp_tc_type>;
 
-// ---- lumo_tarn_dp_tc_list: counted list of traffic classes
+/// lumo_tarn_dp_tc_list: counted list of traffic classes.
 struct dp_tc_list_type {
-    using native = lumo_tarn_dp_tc_list;
-    static constexpr const char *name = "lumo_tarn_dp_tc_list";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_list_create;
-    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;
-    static constexpr auto set = lumo_tarn_dp_tc_list_set;
-    static constexpr auto clone = lumo_tarn_dp_tc_list_clone;
-    static constexpr auto len = lumo_tarn_dp_tc_list_len;
-    static constexpr auto marshal = lumo_tarn_dp_tc_list_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_tc_list_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_tc_list_print;
-    static constexpr auto to_xml = lumo_tarn_dp_tc_list_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_tc_list_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_tc_list_compare;
-    static constexpr auto hash = lumo_tarn_dp_tc_list_hash;
+    using native = lumo_tarn_dp_tc_list;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_tc_list";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_tc_list_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_tc_list_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_tc_list_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_tc_list_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_tc_list_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_tc_list_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_tc_list_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_tc_list_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_tc_list_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_tc_list_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_tc_list_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tc_list_set_all_state_tracking_flag;
 
+    /// How tc_list is read and written, for array_ref.
     struct tc_list_array {
-        using native = lumo_tarn_dp_tc_list;
-        using element = lumo_ui_tarn::dp_tc_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_dp_tc_list_num_tcs_get_value;
-        static constexpr auto get = lumo_tarn_dp_tc_list_tc_list_get;
-        static constexpr auto set = lumo_tarn_dp_tc_list_tc_list_set;
-        static constexpr auto state_get = lumo_tarn_dp_tc_list_tc_list_state_flag_get;
-        static constexpr auto state_set = lumo_tarn_dp_tc_list_tc_list_state_flag_set;
+        using native = lumo_tarn_dp_tc_list;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_tc_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_tc_list_num_tcs_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_tc_list_tc_list_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_tc_list_tc_list_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_dp_tc_list_tc_list_state_flag_get;  ///< an element's state byte
+        static constexpr auto state_set = lumo_tarn_dp_tc_list_tc_list_state_flag_set;  ///< writes an element's state byte
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_tc_list_type, Self> {
     public:
         using detail::operations<dp_tc_list_type, Self>::operations;
 
-        // elements in tc_list
+        /// Elements in tc_list.
         std::uint32_t num_tcs() const { return this->call_(lumo_tarn_dp_tc_list_num_tcs_get_value); }
 
-        // traffic classes
+        /// Traffic classes.
         lumo_ui_tarn::array_ref<tc_list_array> tc_list() const { return this->template array_<tc_list_array>(); }
+        /// The state byte of tc_list; none if the record has no states.
         std::optional<std::uint8_t> tc_list_state() const {
             return this->state_(lumo_tarn_dp_tc_list_tc_list_state_flag_whole_get);
         }
+        /// Writes the state byte of tc_list.
         const Self &set_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tc_list_tc_list_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"num_tcs", &members::num_tcs, nullptr, nullptr, nullptr});
@@ -822,56 +968,65 @@ struct dp_tc_list_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_tc_list.
 using dp_tc_list = record<dp_tc_list_type>;
+/// Borrows a lumo_tarn_dp_tc_list.
 using dp_tc_list_ref = record_ref<dp_tc_list_type>;
 
-// ---- lumo_tarn_dp_appl_list: counted list of application entries
+/// lumo_tarn_dp_appl_list: counted list of application entries.
 struct dp_appl_list_type {
-    using native = lumo_tarn_dp_appl_list;
-    static constexpr const char *name = "lumo_tarn_dp_appl_list";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_list_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;
-    static constexpr auto set = lumo_tarn_dp_appl_list_set;
-    static constexpr auto clone = lumo_tarn_dp_appl_list_clone;
-    static constexpr auto len = lumo_tarn_dp_appl_list_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_list_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_list_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_appl_list_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_list_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_list_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_appl_list_compare;
-    static constexpr auto hash = lumo_tarn_dp_appl_list_hash;
+    using native = lumo_tarn_dp_appl_list;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_appl_list";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_appl_list_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_appl_list_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_appl_list_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_appl_list_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_list_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_list_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_list_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_list_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_list_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_appl_list_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_appl_list_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_list_set_all_state_tracking_flag;
 
+    /// How appl_list is read and written, for array_ref.
     struct appl_list_array {
-        using native = lumo_tarn_dp_appl_list;
-        using element = lumo_ui_tarn::dp_appl_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_dp_appl_list_num_appls_get_value;
-        static constexpr auto get = lumo_tarn_dp_appl_list_appl_list_get;
-        static constexpr auto set = lumo_tarn_dp_appl_list_appl_list_set;
-        static constexpr auto state_get = lumo_tarn_dp_appl_list_appl_list_state_flag_get;
+        using native = lumo_tarn_dp_appl_list;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_appl_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_appl_list_num_appls_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_appl_list_appl_list_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_appl_list_appl_list_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_dp_appl_list_appl_list_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_appl_list_appl_list_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_appl_list_type, Self> {
     public:
         using detail::operations<dp_appl_list_type, Self>::operations;
 
-        // elements in appl_list
+        /// Elements in appl_list.
         std::uint32_t num_appls() const { return this->call_(lumo_tarn_dp_appl_list_num_appls_get_value); }
 
-        // application entries
+        /// Application entries.
         lumo_ui_tarn::array_ref<appl_list_array> appl_list() const { return this->template array_<appl_list_array>(); }
+        /// The state byte of appl_list; none if the record has no states.
         std::optional<std::uint8_t> appl_list_state() const {
             return this->state_(lumo_tarn_dp_appl_list_appl_list_state_flag_whole_get);
         }
+        /// Writes the state byte of appl_list.
         const Self &set_appl_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_list_appl_list_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"num_appls", &members::num_appls, nullptr, nullptr, nullptr});
@@ -880,350 +1035,431 @@ struct dp_appl_list_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_appl_list.
 using dp_appl_list = record<dp_appl_list_type>;
+/// Borrows a lumo_tarn_dp_appl_list.
 using dp_appl_list_ref = record_ref<dp_appl_list_type>;
 
-// ---- lumo_tarn_dp_ll_spec: one learn list entry
+/// lumo_tarn_dp_ll_spec: one learn list entry.
 struct dp_ll_spec_type {
-    using native = lumo_tarn_dp_ll_spec;
-    static constexpr const char *name = "lumo_tarn_dp_ll_spec";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_ll_spec_create;
-    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;
-    static constexpr auto set = lumo_tarn_dp_ll_spec_set;
-    static constexpr auto clone = lumo_tarn_dp_ll_spec_clone;
-    static constexpr auto len = lumo_tarn_dp_ll_spec_len;
-    static constexpr auto marshal = lumo_tarn_dp_ll_spec_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_ll_spec_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_ll_spec_print;
-    static constexpr auto to_xml = lumo_tarn_dp_ll_spec_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_ll_spec_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_ll_spec_compare;
-    static constexpr auto hash = lumo_tarn_dp_ll_spec_hash;
+    using native = lumo_tarn_dp_ll_spec;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_ll_spec";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_ll_spec_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_ll_spec_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_ll_spec_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_ll_spec_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_ll_spec_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_ll_spec_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_ll_spec_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_ll_spec_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_ll_spec_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_ll_spec_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_ll_spec_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_ll_spec_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_ll_spec_type, Self> {
     public:
         using detail::operations<dp_ll_spec_type, Self>::operations;
 
-        // show: everything
+        /// Show: everything.
         bool display_all() const { return this->call_(lumo_tarn_dp_ll_spec_display_all_get_value) != 0; }
+        /// Writes display_all.
         const Self &set_display_all(bool value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_all_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_all; none if the record has no states.
         std::optional<std::uint8_t> display_all_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_display_all_state_flag_get);
         }
+        /// Writes the state byte of display_all.
         const Self &set_display_all_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_all_state_flag_set, value);
         }
 
-        // show: the traffic classes
+        /// Show: the traffic classes.
         bool display_tc() const { return this->call_(lumo_tarn_dp_ll_spec_display_tc_get_value) != 0; }
+        /// Writes display_tc.
         const Self &set_display_tc(bool value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_tc_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_tc; none if the record has no states.
         std::optional<std::uint8_t> display_tc_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_display_tc_state_flag_get);
         }
+        /// Writes the state byte of display_tc.
         const Self &set_display_tc_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_tc_state_flag_set, value);
         }
 
-        // show: the applications
+        /// Show: the applications.
         bool display_appl() const { return this->call_(lumo_tarn_dp_ll_spec_display_appl_get_value) != 0; }
+        /// Writes display_appl.
         const Self &set_display_appl(bool value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_appl_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_appl; none if the record has no states.
         std::optional<std::uint8_t> display_appl_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_display_appl_state_flag_get);
         }
+        /// Writes the state byte of display_appl.
         const Self &set_display_appl_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_display_appl_state_flag_set, value);
         }
 
-        // where the entry lies in memory
+        /// Where the entry lies in memory.
         lumo_ui_tarn::exmem_info_ref exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_ll_spec_exmem_info_get);
         }
+        /// Writes exmem_info.
         const Self &set_exmem_info(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_ll_spec_exmem_info_get, lumo_tarn_dp_ll_spec_exmem_info_set, value);
         }
+        /// Moves a record into exmem_info.
         const Self &adopt_exmem_info(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_ll_spec_exmem_info_get, lumo_tarn_dp_ll_spec_exmem_info_set,
                 std::move(value));
         }
+        /// The state byte of exmem_info; none if the record has no states.
         std::optional<std::uint8_t> exmem_info_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_exmem_info_state_flag_get);
         }
+        /// Writes the state byte of exmem_info.
         const Self &set_exmem_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_exmem_info_state_flag_set, value);
         }
 
-        // identifier of the entry
+        /// Identifier of the entry.
         std::uint32_t id() const { return this->call_(lumo_tarn_dp_ll_spec_id_get_value); }
+        /// Writes id.
         const Self &set_id(std::uint32_t value) const { return this->write_(lumo_tarn_dp_ll_spec_id_set_value, value); }
+        /// The state byte of id; none if the record has no states.
         std::optional<std::uint8_t> id_state() const { return this->state_(lumo_tarn_dp_ll_spec_id_state_flag_get); }
+        /// Writes the state byte of id.
         const Self &set_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_id_state_flag_set, value);
         }
 
-        // minimum mask length
+        /// Minimum mask length.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_ll_spec_min_mask_get_value); }
+        /// Writes min_mask.
         const Self &set_min_mask(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_min_mask_set_value, value);
         }
+        /// The state byte of min_mask; none if the record has no states.
         std::optional<std::uint8_t> min_mask_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_min_mask_state_flag_get);
         }
+        /// Writes the state byte of min_mask.
         const Self &set_min_mask_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_min_mask_state_flag_set, value);
         }
 
-        // aggregation type
+        /// Aggregation type.
         std::uint8_t agg_type() const { return this->call_(lumo_tarn_dp_ll_spec_agg_type_get_value); }
+        /// Writes agg_type.
         const Self &set_agg_type(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_agg_type_set_value, value);
         }
+        /// The state byte of agg_type; none if the record has no states.
         std::optional<std::uint8_t> agg_type_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_agg_type_state_flag_get);
         }
+        /// Writes the state byte of agg_type.
         const Self &set_agg_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_agg_type_state_flag_set, value);
         }
 
-        // learn type
+        /// Learn type.
         std::uint8_t learn_type() const { return this->call_(lumo_tarn_dp_ll_spec_learn_type_get_value); }
+        /// Writes learn_type.
         const Self &set_learn_type(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_learn_type_set_value, value);
         }
+        /// The state byte of learn_type; none if the record has no states.
         std::optional<std::uint8_t> learn_type_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_learn_type_state_flag_get);
         }
+        /// Writes the state byte of learn_type.
         const Self &set_learn_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_learn_type_state_flag_set, value);
         }
 
-        // learn list type
+        /// Learn list type.
         std::uint8_t ll_type() const { return this->call_(lumo_tarn_dp_ll_spec_ll_type_get_value); }
+        /// Writes ll_type.
         const Self &set_ll_type(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_ll_type_set_value, value);
         }
+        /// The state byte of ll_type; none if the record has no states.
         std::optional<std::uint8_t> ll_type_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_ll_type_state_flag_get);
         }
+        /// Writes the state byte of ll_type.
         const Self &set_ll_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_ll_type_state_flag_set, value);
         }
 
-        // number of prefixes
+        /// Number of prefixes.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_ll_spec_num_prefixes_get_value); }
+        /// Writes num_prefixes.
         const Self &set_num_prefixes(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_num_prefixes_set_value, value);
         }
+        /// The state byte of num_prefixes; none if the record has no states.
         std::optional<std::uint8_t> num_prefixes_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_num_prefixes_state_flag_get);
         }
+        /// Writes the state byte of num_prefixes.
         const Self &set_num_prefixes_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_num_prefixes_state_flag_set, value);
         }
 
-        // where the filter list lies in the data plane
+        /// Where the filter list lies in the data plane.
         std::uint64_t filter_tc_list_ptr() const {
             return this->call_(lumo_tarn_dp_ll_spec_filter_tc_list_ptr_get_value);
         }
+        /// Writes filter_tc_list_ptr.
         const Self &set_filter_tc_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_filter_tc_list_ptr_set_value, value);
         }
+        /// The state byte of filter_tc_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> filter_tc_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_filter_tc_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of filter_tc_list_ptr.
         const Self &set_filter_tc_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_filter_tc_list_ptr_state_flag_set, value);
         }
 
-        // filter traffic classes
+        /// Filter traffic classes.
         lumo_ui_tarn::dp_tc_list_ref filter_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_ll_spec_filter_tc_list_get);
         }
+        /// Writes filter_tc_list.
         const Self &set_filter_tc_list(lumo_ui_tarn::dp_tc_list_ref value) const {
             return this->assign_(lumo_tarn_dp_ll_spec_filter_tc_list_get, lumo_tarn_dp_ll_spec_filter_tc_list_set,
                 value);
         }
+        /// Moves a record into filter_tc_list.
         const Self &adopt_filter_tc_list(lumo_ui_tarn::dp_tc_list &&value) const {
             return this->adopt_(lumo_tarn_dp_ll_spec_filter_tc_list_get, lumo_tarn_dp_ll_spec_filter_tc_list_set,
                 std::move(value));
         }
+        /// The state byte of filter_tc_list; none if the record has no states.
         std::optional<std::uint8_t> filter_tc_list_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_filter_tc_list_state_flag_get);
         }
+        /// Writes the state byte of filter_tc_list.
         const Self &set_filter_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_filter_tc_list_state_flag_set, value);
         }
 
-        // where the access-list classes lie in the data plane
+        /// Where the access-list classes lie in the data plane.
         std::uint64_t acl_tc_list_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_acl_tc_list_ptr_get_value); }
+        /// Writes acl_tc_list_ptr.
         const Self &set_acl_tc_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_acl_tc_list_ptr_set_value, value);
         }
+        /// The state byte of acl_tc_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> acl_tc_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_acl_tc_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of acl_tc_list_ptr.
         const Self &set_acl_tc_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_acl_tc_list_ptr_state_flag_set, value);
         }
 
-        // access-list traffic classes
+        /// Access-list traffic classes.
         lumo_ui_tarn::dp_tc_list_ref acl_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_ll_spec_acl_tc_list_get);
         }
+        /// Writes acl_tc_list.
         const Self &set_acl_tc_list(lumo_ui_tarn::dp_tc_list_ref value) const {
             return this->assign_(lumo_tarn_dp_ll_spec_acl_tc_list_get, lumo_tarn_dp_ll_spec_acl_tc_list_set, value);
         }
+        /// Moves a record into acl_tc_list.
         const Self &adopt_acl_tc_list(lumo_ui_tarn::dp_tc_list &&value) const {
             return this->adopt_(lumo_tarn_dp_ll_spec_acl_tc_list_get, lumo_tarn_dp_ll_spec_acl_tc_list_set,
                 std::move(value));
         }
+        /// The state byte of acl_tc_list; none if the record has no states.
         std::optional<std::uint8_t> acl_tc_list_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_acl_tc_list_state_flag_get);
         }
+        /// Writes the state byte of acl_tc_list.
         const Self &set_acl_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_acl_tc_list_state_flag_set, value);
         }
 
-        // where the application list lies in the data plane
+        /// Where the application list lies in the data plane.
         std::uint64_t appl_list_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_appl_list_ptr_get_value); }
+        /// Writes appl_list_ptr.
         const Self &set_appl_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_appl_list_ptr_set_value, value);
         }
+        /// The state byte of appl_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> appl_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_appl_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of appl_list_ptr.
         const Self &set_appl_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_appl_list_ptr_state_flag_set, value);
         }
 
-        // applications
+        /// Applications.
         lumo_ui_tarn::dp_appl_list_ref appl_list() const {
             return this->template nested_<lumo_ui_tarn::dp_appl_list_type>(lumo_tarn_dp_ll_spec_appl_list_get);
         }
+        /// Writes appl_list.
         const Self &set_appl_list(lumo_ui_tarn::dp_appl_list_ref value) const {
             return this->assign_(lumo_tarn_dp_ll_spec_appl_list_get, lumo_tarn_dp_ll_spec_appl_list_set, value);
         }
+        /// Moves a record into appl_list.
         const Self &adopt_appl_list(lumo_ui_tarn::dp_appl_list &&value) const {
             return this->adopt_(lumo_tarn_dp_ll_spec_appl_list_get, lumo_tarn_dp_ll_spec_appl_list_set,
                 std::move(value));
         }
+        /// The state byte of appl_list; none if the record has no states.
         std::optional<std::uint8_t> appl_list_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_appl_list_state_flag_get);
         }
+        /// Writes the state byte of appl_list.
         const Self &set_appl_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_appl_list_state_flag_set, value);
         }
 
-        // link to the next entry
+        /// Link to the next entry.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_next_ptr_get_value); }
+        /// Writes next_ptr.
         const Self &set_next_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_next_ptr_set_value, value);
         }
+        /// The state byte of next_ptr; none if the record has no states.
         std::optional<std::uint8_t> next_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_next_ptr_state_flag_get);
         }
+        /// Writes the state byte of next_ptr.
         const Self &set_next_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_next_ptr_state_flag_set, value);
         }
 
-        // head of the entries that num_entries counts
+        /// Head of the entries that num_entries counts.
         std::uint64_t head_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_head_ptr_get_value); }
+        /// Writes head_ptr.
         const Self &set_head_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_head_ptr_set_value, value);
         }
+        /// The state byte of head_ptr; none if the record has no states.
         std::optional<std::uint8_t> head_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_head_ptr_state_flag_get);
         }
+        /// Writes the state byte of head_ptr.
         const Self &set_head_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_head_ptr_state_flag_set, value);
         }
 
-        // number of entries behind head_ptr
+        /// Number of entries behind head_ptr.
         std::uint32_t num_entries() const { return this->call_(lumo_tarn_dp_ll_spec_num_entries_get_value); }
+        /// Writes num_entries.
         const Self &set_num_entries(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_num_entries_set_value, value);
         }
+        /// The state byte of num_entries; none if the record has no states.
         std::optional<std::uint8_t> num_entries_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_num_entries_state_flag_get);
         }
+        /// Writes the state byte of num_entries.
         const Self &set_num_entries_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_num_entries_state_flag_set, value);
         }
 
-        // capacity of the entry's heap
+        /// Capacity of the entry's heap.
         std::uint32_t heap_max_elements() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_max_elements_get_value);
         }
+        /// Writes heap_max_elements.
         const Self &set_heap_max_elements(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_max_elements_set_value, value);
         }
+        /// The state byte of heap_max_elements; none if the record has no states.
         std::optional<std::uint8_t> heap_max_elements_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_heap_max_elements_state_flag_get);
         }
+        /// Writes the state byte of heap_max_elements.
         const Self &set_heap_max_elements_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_max_elements_state_flag_set, value);
         }
 
-        // current size of the heap
+        /// Current size of the heap.
         std::uint32_t heap_size() const { return this->call_(lumo_tarn_dp_ll_spec_heap_size_get_value); }
+        /// Writes heap_size.
         const Self &set_heap_size(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_size_set_value, value);
         }
+        /// The state byte of heap_size; none if the record has no states.
         std::optional<std::uint8_t> heap_size_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_heap_size_state_flag_get);
         }
+        /// Writes the state byte of heap_size.
         const Self &set_heap_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_size_state_flag_set, value);
         }
 
-        // value of the heap's comparison routine as a 64-bit number
+        /// Value of the heap's comparison routine as a 64-bit number.
         std::uint64_t heap_compare_func() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_compare_func_get_value);
         }
+        /// Writes heap_compare_func.
         const Self &set_heap_compare_func(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_compare_func_set_value, value);
         }
+        /// The state byte of heap_compare_func; none if the record has no states.
         std::optional<std::uint8_t> heap_compare_func_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_heap_compare_func_state_flag_get);
         }
+        /// Writes the state byte of heap_compare_func.
         const Self &set_heap_compare_func_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_compare_func_state_flag_set, value);
         }
 
-        // where the heap's elements lie
+        /// Where the heap's elements lie.
         std::uint64_t heap_elements_ptr() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_elements_ptr_get_value);
         }
+        /// Writes heap_elements_ptr.
         const Self &set_heap_elements_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_elements_ptr_set_value, value);
         }
+        /// The state byte of heap_elements_ptr; none if the record has no states.
         std::optional<std::uint8_t> heap_elements_ptr_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_heap_elements_ptr_state_flag_get);
         }
+        /// Writes the state byte of heap_elements_ptr.
         const Self &set_heap_elements_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_heap_elements_ptr_state_flag_set, value);
         }
 
-        // selection flag of the show command
+        /// Selection flag of the show command.
         bool show_ll_comm() const { return this->call_(lumo_tarn_dp_ll_spec_show_ll_comm_get_value) != 0; }
+        /// Writes show_ll_comm.
         const Self &set_show_ll_comm(bool value) const {
             return this->write_(lumo_tarn_dp_ll_spec_show_ll_comm_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_ll_comm; none if the record has no states.
         std::optional<std::uint8_t> show_ll_comm_state() const {
             return this->state_(lumo_tarn_dp_ll_spec_show_ll_comm_state_flag_get);
         }
+        /// Writes the state byte of show_ll_comm.
         const Self &set_show_ll_comm_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_ll_spec_show_ll_comm_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"display_all", &members::display_all, &members::set_display_all,
@@ -1281,58 +1517,68 @@ struct dp_ll_spec_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_ll_spec.
 using dp_ll_spec = record<dp_ll_spec_type>;
+/// Borrows a lumo_tarn_dp_ll_spec.
 using dp_ll_spec_ref = record_ref<dp_ll_spec_type>;
 
-// ---- lumo_tarn_dp_learn_list: entries of one traffic table
+/// lumo_tarn_dp_learn_list: entries of one traffic table.
 struct dp_learn_list_type {
-    using native = lumo_tarn_dp_learn_list;
-    static constexpr const char *name = "lumo_tarn_dp_learn_list";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_learn_list_create;
-    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;
-    static constexpr auto set = lumo_tarn_dp_learn_list_set;
-    static constexpr auto clone = lumo_tarn_dp_learn_list_clone;
-    static constexpr auto len = lumo_tarn_dp_learn_list_len;
-    static constexpr auto marshal = lumo_tarn_dp_learn_list_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_learn_list_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_learn_list_print;
-    static constexpr auto to_xml = lumo_tarn_dp_learn_list_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_learn_list_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_learn_list_compare;
-    static constexpr auto hash = lumo_tarn_dp_learn_list_hash;
+    using native = lumo_tarn_dp_learn_list;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_learn_list";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_learn_list_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_learn_list_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_learn_list_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_learn_list_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_learn_list_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_learn_list_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_learn_list_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_learn_list_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_learn_list_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_learn_list_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_learn_list_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_learn_list_set_all_state_tracking_flag;
 
+    /// How ll_spec_list is read and written, for array_ref.
     struct ll_spec_list_array {
-        using native = lumo_tarn_dp_learn_list;
-        using element = lumo_ui_tarn::dp_ll_spec_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_dp_learn_list_num_ll_specs_get_value;
-        static constexpr auto get = lumo_tarn_dp_learn_list_ll_spec_list_get;
-        static constexpr auto set = lumo_tarn_dp_learn_list_ll_spec_list_set;
+        using native = lumo_tarn_dp_learn_list;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_ll_spec_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_learn_list_num_ll_specs_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_learn_list_ll_spec_list_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_learn_list_ll_spec_list_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_learn_list_ll_spec_list_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_learn_list_ll_spec_list_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_learn_list_type, Self> {
     public:
         using detail::operations<dp_learn_list_type, Self>::operations;
 
-        // elements in ll_spec_list
+        /// Elements in ll_spec_list.
         std::uint32_t num_ll_specs() const { return this->call_(lumo_tarn_dp_learn_list_num_ll_specs_get_value); }
 
-        // learn list entries
+        /// Learn list entries.
         lumo_ui_tarn::array_ref<ll_spec_list_array> ll_spec_list() const {
             return this->template array_<ll_spec_list_array>();
         }
+        /// The state byte of ll_spec_list; none if the record has no states.
         std::optional<std::uint8_t> ll_spec_list_state() const {
             return this->state_(lumo_tarn_dp_learn_list_ll_spec_list_state_flag_whole_get);
         }
+        /// Writes the state byte of ll_spec_list.
         const Self &set_ll_spec_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_learn_list_ll_spec_list_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"num_ll_specs", &members::num_ll_specs, nullptr, nullptr, nullptr});
@@ -1341,153 +1587,185 @@ struct dp_learn_list_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_learn_list.
 using dp_learn_list = record<dp_learn_list_type>;
+/// Borrows a lumo_tarn_dp_learn_list.
 using dp_learn_list_ref = record_ref<dp_learn_list_type>;
 
-// ---- lumo_tarn_dp_debug_setting: debug switches of one processor's data plane
+/// lumo_tarn_dp_debug_setting: debug switches of one processor's data plane.
 struct dp_debug_setting_type {
-    using native = lumo_tarn_dp_debug_setting;
-    static constexpr const char *name = "lumo_tarn_dp_debug_setting";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_create;
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;
-    static constexpr auto set = lumo_tarn_dp_debug_setting_set;
-    static constexpr auto clone = lumo_tarn_dp_debug_setting_clone;
-    static constexpr auto len = lumo_tarn_dp_debug_setting_len;
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_debug_setting_print;
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_debug_setting_compare;
-    static constexpr auto hash = lumo_tarn_dp_debug_setting_hash;
+    using native = lumo_tarn_dp_debug_setting;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_debug_setting";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_debug_setting_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_debug_setting_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_debug_setting_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_debug_setting_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_debug_setting_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_debug_setting_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_debug_setting_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_debug_setting_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_debug_setting_type, Self> {
     public:
         using detail::operations<dp_debug_setting_type, Self>::operations;
 
-        // number of the lumo processor that this entry describes
+        /// Number of the lumo processor that this entry describes.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_debug_setting_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_lumo_num_state_flag_set, value);
         }
 
-        // debug switch of the data plane's mp (prefix) cache
+        /// Debug switch of the data plane's mp (prefix) cache.
         std::uint32_t mp_cache_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_mp_cache_enabled_get_value);
         }
+        /// Writes mp_cache_enabled.
         const Self &set_mp_cache_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_mp_cache_enabled_set_value, value);
         }
+        /// The state byte of mp_cache_enabled; none if the record has no states.
         std::optional<std::uint8_t> mp_cache_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_mp_cache_enabled_state_flag_get);
         }
+        /// Writes the state byte of mp_cache_enabled.
         const Self &set_mp_cache_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_mp_cache_enabled_state_flag_set, value);
         }
 
-        // debug switch of the data plane's tt (traffic table) cache
+        /// Debug switch of the data plane's tt (traffic table) cache.
         std::uint32_t tt_cache_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_tt_cache_enabled_get_value);
         }
+        /// Writes tt_cache_enabled.
         const Self &set_tt_cache_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_tt_cache_enabled_set_value, value);
         }
+        /// The state byte of tt_cache_enabled; none if the record has no states.
         std::optional<std::uint8_t> tt_cache_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_tt_cache_enabled_state_flag_get);
         }
+        /// Writes the state byte of tt_cache_enabled.
         const Self &set_tt_cache_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_tt_cache_enabled_state_flag_set, value);
         }
 
-        // debug switch of the data plane's flow cache
+        /// Debug switch of the data plane's flow cache.
         std::uint32_t flow_cache_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_flow_cache_enabled_get_value);
         }
+        /// Writes flow_cache_enabled.
         const Self &set_flow_cache_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_flow_cache_enabled_set_value, value);
         }
+        /// The state byte of flow_cache_enabled; none if the record has no states.
         std::optional<std::uint8_t> flow_cache_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_flow_cache_enabled_state_flag_get);
         }
+        /// Writes the state byte of flow_cache_enabled.
         const Self &set_flow_cache_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_flow_cache_enabled_state_flag_set, value);
         }
 
-        // debug switch of the data plane's ager
+        /// Debug switch of the data plane's ager.
         std::uint32_t ager_enabled() const { return this->call_(lumo_tarn_dp_debug_setting_ager_enabled_get_value); }
+        /// Writes ager_enabled.
         const Self &set_ager_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_ager_enabled_set_value, value);
         }
+        /// The state byte of ager_enabled; none if the record has no states.
         std::optional<std::uint8_t> ager_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_ager_enabled_state_flag_get);
         }
+        /// Writes the state byte of ager_enabled.
         const Self &set_ager_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_ager_enabled_state_flag_set, value);
         }
 
-        // debug switch of the exporter as a whole
+        /// Debug switch of the exporter as a whole.
         std::uint32_t exporter_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_exporter_enabled_get_value);
         }
+        /// Writes exporter_enabled.
         const Self &set_exporter_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_enabled_set_value, value);
         }
+        /// The state byte of exporter_enabled; none if the record has no states.
         std::optional<std::uint8_t> exporter_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_exporter_enabled_state_flag_get);
         }
+        /// Writes the state byte of exporter_enabled.
         const Self &set_exporter_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_enabled_state_flag_set, value);
         }
 
-        // debug switch of the proxy
+        /// Debug switch of the proxy.
         std::uint32_t proxy_enabled() const { return this->call_(lumo_tarn_dp_debug_setting_proxy_enabled_get_value); }
+        /// Writes proxy_enabled.
         const Self &set_proxy_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_proxy_enabled_set_value, value);
         }
+        /// The state byte of proxy_enabled; none if the record has no states.
         std::optional<std::uint8_t> proxy_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_proxy_enabled_state_flag_get);
         }
+        /// Writes the state byte of proxy_enabled.
         const Self &set_proxy_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_proxy_enabled_state_flag_set, value);
         }
 
-        // debug switch of the exporter for tt data
+        /// Debug switch of the exporter for tt data.
         std::uint32_t exporter_tt_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_exporter_tt_enabled_get_value);
         }
+        /// Writes exporter_tt_enabled.
         const Self &set_exporter_tt_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_tt_enabled_set_value, value);
         }
+        /// The state byte of exporter_tt_enabled; none if the record has no states.
         std::optional<std::uint8_t> exporter_tt_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_exporter_tt_enabled_state_flag_get);
         }
+        /// Writes the state byte of exporter_tt_enabled.
         const Self &set_exporter_tt_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_tt_enabled_state_flag_set, value);
         }
 
-        // debug switch of the exporter for mp data
+        /// Debug switch of the exporter for mp data.
         std::uint32_t exporter_mp_enabled() const {
             return this->call_(lumo_tarn_dp_debug_setting_exporter_mp_enabled_get_value);
         }
+        /// Writes exporter_mp_enabled.
         const Self &set_exporter_mp_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_mp_enabled_set_value, value);
         }
+        /// The state byte of exporter_mp_enabled; none if the record has no states.
         std::optional<std::uint8_t> exporter_mp_enabled_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_exporter_mp_enabled_state_flag_get);
         }
+        /// Writes the state byte of exporter_mp_enabled.
         const Self &set_exporter_mp_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_exporter_mp_enabled_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"lumo_num", &members::lumo_num, &members::set_lumo_num, &members::lumo_num_state,
@@ -1514,81 +1792,98 @@ struct dp_debug_setting_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_debug_setting.
 using dp_debug_setting = record<dp_debug_setting_type>;
+/// Borrows a lumo_tarn_dp_debug_setting.
 using dp_debug_setting_ref = record_ref<dp_debug_setting_type>;
 
-// ---- lumo_tarn_debug_setting: four debug levels of one component
+/// lumo_tarn_debug_setting: four debug levels of one component.
 struct debug_setting_type {
-    using native = lumo_tarn_debug_setting;
-    static constexpr const char *name = "lumo_tarn_debug_setting";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_debug_setting_create;
-    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;
-    static constexpr auto set = lumo_tarn_debug_setting_set;
-    static constexpr auto clone = lumo_tarn_debug_setting_clone;
-    static constexpr auto len = lumo_tarn_debug_setting_len;
-    static constexpr auto marshal = lumo_tarn_debug_setting_marshal;
-    static constexpr auto unmarshal = lumo_tarn_debug_setting_unmarshal;
-    static constexpr auto print = lumo_tarn_debug_setting_print;
-    static constexpr auto to_xml = lumo_tarn_debug_setting_to_xml;
-    static constexpr auto from_xml = lumo_tarn_debug_setting_from_xml;
-    static constexpr auto compare = lumo_tarn_debug_setting_compare;
-    static constexpr auto hash = lumo_tarn_debug_setting_hash;
+    using native = lumo_tarn_debug_setting;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_debug_setting";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_debug_setting_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_debug_setting_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_debug_setting_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_debug_setting_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_debug_setting_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_debug_setting_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_debug_setting_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_debug_setting_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_debug_setting_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_debug_setting_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_debug_setting_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_debug_setting_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<debug_setting_type, Self> {
     public:
         using detail::operations<debug_setting_type, Self>::operations;
 
-        // switch of information-level debug output
+        /// Switch of information-level debug output.
         std::uint32_t info_enabled() const { return this->call_(lumo_tarn_debug_setting_info_enabled_get_value); }
+        /// Writes info_enabled.
         const Self &set_info_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_debug_setting_info_enabled_set_value, value);
         }
+        /// The state byte of info_enabled; none if the record has no states.
         std::optional<std::uint8_t> info_enabled_state() const {
             return this->state_(lumo_tarn_debug_setting_info_enabled_state_flag_get);
         }
+        /// Writes the state byte of info_enabled.
         const Self &set_info_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_debug_setting_info_enabled_state_flag_set, value);
         }
 
-        // switch of trace-level debug output
+        /// Switch of trace-level debug output.
         std::uint32_t trace_enabled() const { return this->call_(lumo_tarn_debug_setting_trace_enabled_get_value); }
+        /// Writes trace_enabled.
         const Self &set_trace_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_debug_setting_trace_enabled_set_value, value);
         }
+        /// The state byte of trace_enabled; none if the record has no states.
         std::optional<std::uint8_t> trace_enabled_state() const {
             return this->state_(lumo_tarn_debug_setting_trace_enabled_state_flag_get);
         }
+        /// Writes the state byte of trace_enabled.
         const Self &set_trace_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_debug_setting_trace_enabled_state_flag_set, value);
         }
 
-        // switch of warning-level debug output
+        /// Switch of warning-level debug output.
         std::uint32_t warn_enabled() const { return this->call_(lumo_tarn_debug_setting_warn_enabled_get_value); }
+        /// Writes warn_enabled.
         const Self &set_warn_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_debug_setting_warn_enabled_set_value, value);
         }
+        /// The state byte of warn_enabled; none if the record has no states.
         std::optional<std::uint8_t> warn_enabled_state() const {
             return this->state_(lumo_tarn_debug_setting_warn_enabled_state_flag_get);
         }
+        /// Writes the state byte of warn_enabled.
         const Self &set_warn_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_debug_setting_warn_enabled_state_flag_set, value);
         }
 
-        // switch of error-level debug output
+        /// Switch of error-level debug output.
         std::uint32_t error_enabled() const { return this->call_(lumo_tarn_debug_setting_error_enabled_get_value); }
+        /// Writes error_enabled.
         const Self &set_error_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_debug_setting_error_enabled_set_value, value);
         }
+        /// The state byte of error_enabled; none if the record has no states.
         std::optional<std::uint8_t> error_enabled_state() const {
             return this->state_(lumo_tarn_debug_setting_error_enabled_state_flag_get);
         }
+        /// Writes the state byte of error_enabled.
         const Self &set_error_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_debug_setting_error_enabled_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"info_enabled", &members::info_enabled, &members::set_info_enabled,
@@ -1602,56 +1897,66 @@ struct debug_setting_type {
         }
     };
 };
+/// Owns a lumo_tarn_debug_setting.
 using debug_setting = record<debug_setting_type>;
+/// Borrows a lumo_tarn_debug_setting.
 using debug_setting_ref = record_ref<debug_setting_type>;
 
-// ---- lumo_tarn_dp_debug_setting_data: switches of all processors
+/// lumo_tarn_dp_debug_setting_data: switches of all processors.
 struct dp_debug_setting_data_type {
-    using native = lumo_tarn_dp_debug_setting_data;
-    static constexpr const char *name = "lumo_tarn_dp_debug_setting_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_debug_setting_data_set;
-    static constexpr auto clone = lumo_tarn_dp_debug_setting_data_clone;
-    static constexpr auto len = lumo_tarn_dp_debug_setting_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_debug_setting_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_debug_setting_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_debug_setting_data_hash;
+    using native = lumo_tarn_dp_debug_setting_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_debug_setting_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_debug_setting_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_debug_setting_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_debug_setting_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_debug_setting_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_debug_setting_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_debug_setting_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_debug_setting_data_set_all_state_tracking_flag;
 
+    /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
-        using native = lumo_tarn_dp_debug_setting_data;
-        using element = lumo_ui_tarn::dp_debug_setting_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_debug_setting_data_num_lumos_get_value;
-        static constexpr auto get = lumo_tarn_dp_debug_setting_data_lumo_data_get;
-        static constexpr auto set = lumo_tarn_dp_debug_setting_data_lumo_data_set;
+        using native = lumo_tarn_dp_debug_setting_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_debug_setting_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_debug_setting_data_num_lumos_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_debug_setting_data_lumo_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_debug_setting_data_lumo_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_debug_setting_data_lumo_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_debug_setting_data_lumo_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_debug_setting_data_type, Self> {
     public:
         using detail::operations<dp_debug_setting_data_type, Self>::operations;
 
-        // number of entries in lumo_data
+        /// Number of entries in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_debug_setting_data_num_lumos_get_value); }
 
-        // one entry for each processor
+        /// One entry for each processor.
         lumo_ui_tarn::array_ref<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
+        /// The state byte of lumo_data; none if the record has no states.
         std::optional<std::uint8_t> lumo_data_state() const {
             return this->state_(lumo_tarn_dp_debug_setting_data_lumo_data_state_flag_whole_get);
         }
+        /// Writes the state byte of lumo_data.
         const Self &set_lumo_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_debug_setting_data_lumo_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"num_lumos", &members::num_lumos, nullptr, nullptr, nullptr});
@@ -1660,95 +1965,112 @@ struct dp_debug_setting_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_debug_setting_data.
 using dp_debug_setting_data = record<dp_debug_setting_data_type>;
+/// Borrows a lumo_tarn_dp_debug_setting_data.
 using dp_debug_setting_data_ref = record_ref<dp_debug_setting_data_type>;
 
-// ---- lumo_tarn_cl_kesh_appl: one application
+/// lumo_tarn_cl_kesh_appl: one application.
 struct cl_kesh_appl_type {
-    using native = lumo_tarn_cl_kesh_appl;
-    static constexpr const char *name = "lumo_tarn_cl_kesh_appl";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;
-    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;
-    static constexpr auto set = lumo_tarn_cl_kesh_appl_set;
-    static constexpr auto clone = lumo_tarn_cl_kesh_appl_clone;
-    static constexpr auto len = lumo_tarn_cl_kesh_appl_len;
-    static constexpr auto marshal = lumo_tarn_cl_kesh_appl_marshal;
-    static constexpr auto unmarshal = lumo_tarn_cl_kesh_appl_unmarshal;
-    static constexpr auto print = lumo_tarn_cl_kesh_appl_print;
-    static constexpr auto to_xml = lumo_tarn_cl_kesh_appl_to_xml;
-    static constexpr auto from_xml = lumo_tarn_cl_kesh_appl_from_xml;
-    static constexpr auto compare = lumo_tarn_cl_kesh_appl_compare;
-    static constexpr auto hash = lumo_tarn_cl_kesh_appl_hash;
+    using native = lumo_tarn_cl_kesh_appl;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_cl_kesh_appl";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_cl_kesh_appl_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_cl_kesh_appl_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_cl_kesh_appl_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_cl_kesh_appl_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_cl_kesh_appl_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_cl_kesh_appl_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_cl_kesh_appl_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_cl_kesh_appl_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_cl_kesh_appl_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_cl_kesh_appl_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_kesh_appl_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<cl_kesh_appl_type, Self> {
     public:
         using detail::operations<cl_kesh_appl_type, Self>::operations;
 
-        // length of proto_name in bytes
+        /// Length of proto_name in bytes.
         std::uint16_t proto_name_len() const { return this->call_(lumo_tarn_cl_kesh_appl_proto_name_len_get_value); }
 
-        // name of the protocol
+        /// Name of the protocol.
         std::string proto_name() const {
             return this->string_(lumo_tarn_cl_kesh_appl_proto_name_len_get_value,
                 lumo_tarn_cl_kesh_appl_proto_name_get);
         }
+        /// Writes proto_name.
         const Self &set_proto_name(std::string_view text) const {
             return this->write_string_(lumo_tarn_cl_kesh_appl_proto_name_set, text);
         }
+        /// The state byte of proto_name; none if the record has no states.
         std::optional<std::uint8_t> proto_name_state() const {
             return this->state_(lumo_tarn_cl_kesh_appl_proto_name_state_flag_get);
         }
+        /// Writes the state byte of proto_name.
         const Self &set_proto_name_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_proto_name_state_flag_set, value);
         }
 
-        // length of sub_proto_name in bytes
+        /// Length of sub_proto_name in bytes.
         std::uint16_t sub_proto_name_len() const {
             return this->call_(lumo_tarn_cl_kesh_appl_sub_proto_name_len_get_value);
         }
 
-        // name of the sub-protocol
+        /// Name of the sub-protocol.
         std::string sub_proto_name() const {
             return this->string_(lumo_tarn_cl_kesh_appl_sub_proto_name_len_get_value,
                 lumo_tarn_cl_kesh_appl_sub_proto_name_get);
         }
+        /// Writes sub_proto_name.
         const Self &set_sub_proto_name(std::string_view text) const {
             return this->write_string_(lumo_tarn_cl_kesh_appl_sub_proto_name_set, text);
         }
+        /// The state byte of sub_proto_name; none if the record has no states.
         std::optional<std::uint8_t> sub_proto_name_state() const {
             return this->state_(lumo_tarn_cl_kesh_appl_sub_proto_name_state_flag_get);
         }
+        /// Writes the state byte of sub_proto_name.
         const Self &set_sub_proto_name_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_sub_proto_name_state_flag_set, value);
         }
 
-        // identifier of the protocol
+        /// Identifier of the protocol.
         std::uint16_t protocol_id() const { return this->call_(lumo_tarn_cl_kesh_appl_protocol_id_get_value); }
+        /// Writes protocol_id.
         const Self &set_protocol_id(std::uint16_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_protocol_id_set_value, value);
         }
+        /// The state byte of protocol_id; none if the record has no states.
         std::optional<std::uint8_t> protocol_id_state() const {
             return this->state_(lumo_tarn_cl_kesh_appl_protocol_id_state_flag_get);
         }
+        /// Writes the state byte of protocol_id.
         const Self &set_protocol_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_protocol_id_state_flag_set, value);
         }
 
-        // identifier of the application within the tarn feature
+        /// Identifier of the application within the tarn feature.
         std::uint16_t tarn_id() const { return this->call_(lumo_tarn_cl_kesh_appl_tarn_id_get_value); }
+        /// Writes tarn_id.
         const Self &set_tarn_id(std::uint16_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_tarn_id_set_value, value);
         }
+        /// The state byte of tarn_id; none if the record has no states.
         std::optional<std::uint8_t> tarn_id_state() const {
             return this->state_(lumo_tarn_cl_kesh_appl_tarn_id_state_flag_get);
         }
+        /// Writes the state byte of tarn_id.
         const Self &set_tarn_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_kesh_appl_tarn_id_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"proto_name_len", &members::proto_name_len, nullptr, nullptr, nullptr});
@@ -1764,68 +2086,80 @@ struct cl_kesh_appl_type {
         }
     };
 };
+/// Owns a lumo_tarn_cl_kesh_appl.
 using cl_kesh_appl = record<cl_kesh_appl_type>;
+/// Borrows a lumo_tarn_cl_kesh_appl.
 using cl_kesh_appl_ref = record_ref<cl_kesh_appl_type>;
 
-// ---- lumo_tarn_cl_appl_data: applications of the client
+/// lumo_tarn_cl_appl_data: applications of the client.
 struct cl_appl_data_type {
-    using native = lumo_tarn_cl_appl_data;
-    static constexpr const char *name = "lumo_tarn_cl_appl_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_cl_appl_data_create;
-    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;
-    static constexpr auto set = lumo_tarn_cl_appl_data_set;
-    static constexpr auto clone = lumo_tarn_cl_appl_data_clone;
-    static constexpr auto len = lumo_tarn_cl_appl_data_len;
-    static constexpr auto marshal = lumo_tarn_cl_appl_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_cl_appl_data_unmarshal;
-    static constexpr auto print = lumo_tarn_cl_appl_data_print;
-    static constexpr auto to_xml = lumo_tarn_cl_appl_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_cl_appl_data_from_xml;
-    static constexpr auto compare = lumo_tarn_cl_appl_data_compare;
-    static constexpr auto hash = lumo_tarn_cl_appl_data_hash;
+    using native = lumo_tarn_cl_appl_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_cl_appl_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_cl_appl_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_cl_appl_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_cl_appl_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_cl_appl_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_cl_appl_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_cl_appl_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_cl_appl_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_cl_appl_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_cl_appl_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_cl_appl_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_cl_appl_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_appl_data_set_all_state_tracking_flag;
 
+    /// How kesh_appl is read and written, for array_ref.
     struct kesh_appl_array {
-        using native = lumo_tarn_cl_appl_data;
-        using element = lumo_ui_tarn::cl_kesh_appl_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_cl_appl_data_num_kesh_appls_get_value;
-        static constexpr auto get = lumo_tarn_cl_appl_data_kesh_appl_get;
-        static constexpr auto set = lumo_tarn_cl_appl_data_kesh_appl_set;
-        static constexpr auto state_get = lumo_tarn_cl_appl_data_kesh_appl_state_flag_get;
+        using native = lumo_tarn_cl_appl_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::cl_kesh_appl_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_cl_appl_data_num_kesh_appls_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_cl_appl_data_kesh_appl_get;  ///< an element
+        static constexpr auto set = lumo_tarn_cl_appl_data_kesh_appl_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_cl_appl_data_kesh_appl_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_cl_appl_data_kesh_appl_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<cl_appl_data_type, Self> {
     public:
         using detail::operations<cl_appl_data_type, Self>::operations;
 
-        // show: print the header
+        /// Show: print the header.
         bool show_header() const { return this->call_(lumo_tarn_cl_appl_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_cl_appl_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_cl_appl_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_appl_data_show_header_state_flag_set, value);
         }
 
-        // elements in kesh_appl
+        /// Elements in kesh_appl.
         std::uint32_t num_kesh_appls() const { return this->call_(lumo_tarn_cl_appl_data_num_kesh_appls_get_value); }
 
-        // applications
+        /// Applications.
         lumo_ui_tarn::array_ref<kesh_appl_array> kesh_appl() const { return this->template array_<kesh_appl_array>(); }
+        /// The state byte of kesh_appl; none if the record has no states.
         std::optional<std::uint8_t> kesh_appl_state() const {
             return this->state_(lumo_tarn_cl_appl_data_kesh_appl_state_flag_whole_get);
         }
+        /// Writes the state byte of kesh_appl.
         const Self &set_kesh_appl_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_appl_data_kesh_appl_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -1836,79 +2170,94 @@ struct cl_appl_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_cl_appl_data.
 using cl_appl_data = record<cl_appl_data_type>;
+/// Borrows a lumo_tarn_cl_appl_data.
 using cl_appl_data_ref = record_ref<cl_appl_data_type>;
 
-// ---- lumo_tarn_static_exmem_info: block that a processor holds for the whole of its life, by kind of memory
+/// lumo_tarn_static_exmem_info: block that a processor holds for the whole of its life, by kind of memory.
 struct static_exmem_info_type {
-    using native = lumo_tarn_static_exmem_info;
-    static constexpr const char *name = "lumo_tarn_static_exmem_info";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_static_exmem_info_create;
-    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;
-    static constexpr auto set = lumo_tarn_static_exmem_info_set;
-    static constexpr auto clone = lumo_tarn_static_exmem_info_clone;
-    static constexpr auto len = lumo_tarn_static_exmem_info_len;
-    static constexpr auto marshal = lumo_tarn_static_exmem_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_static_exmem_info_unmarshal;
-    static constexpr auto print = lumo_tarn_static_exmem_info_print;
-    static constexpr auto to_xml = lumo_tarn_static_exmem_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_static_exmem_info_from_xml;
-    static constexpr auto compare = lumo_tarn_static_exmem_info_compare;
-    static constexpr auto hash = lumo_tarn_static_exmem_info_hash;
+    using native = lumo_tarn_static_exmem_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_static_exmem_info";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_static_exmem_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_static_exmem_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_static_exmem_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_static_exmem_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_static_exmem_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_static_exmem_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_static_exmem_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_static_exmem_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_static_exmem_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_static_exmem_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_static_exmem_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_static_exmem_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<static_exmem_info_type, Self> {
     public:
         using detail::operations<static_exmem_info_type, Self>::operations;
 
-        // what the block is used for
+        /// What the block is used for.
         lumo_ui_tarn::mem_desc mem_type() const {
             return this->template choice_<lumo_ui_tarn::mem_desc>(lumo_tarn_static_exmem_info_mem_type_get_value);
         }
+        /// Writes mem_type.
         const Self &set_mem_type(lumo_ui_tarn::mem_desc value) const {
             return this->write_(lumo_tarn_static_exmem_info_mem_type_set_value, static_cast<std::uint32_t>(value));
         }
+        /// The state byte of mem_type; none if the record has no states.
         std::optional<std::uint8_t> mem_type_state() const {
             return this->state_(lumo_tarn_static_exmem_info_mem_type_state_flag_get);
         }
+        /// Writes the state byte of mem_type.
         const Self &set_mem_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_static_exmem_info_mem_type_state_flag_set, value);
         }
 
-        // number of hash elements in the block
+        /// Number of hash elements in the block.
         std::uint32_t num_hash_elements() const {
             return this->call_(lumo_tarn_static_exmem_info_num_hash_elements_get_value);
         }
+        /// Writes num_hash_elements.
         const Self &set_num_hash_elements(std::uint32_t value) const {
             return this->write_(lumo_tarn_static_exmem_info_num_hash_elements_set_value, value);
         }
+        /// The state byte of num_hash_elements; none if the record has no states.
         std::optional<std::uint8_t> num_hash_elements_state() const {
             return this->state_(lumo_tarn_static_exmem_info_num_hash_elements_state_flag_get);
         }
+        /// Writes the state byte of num_hash_elements.
         const Self &set_num_hash_elements_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_static_exmem_info_num_hash_elements_state_flag_set, value);
         }
 
-        // block itself
+        /// Block itself.
         lumo_ui_tarn::exmem_info_ref exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_static_exmem_info_exmem_get);
         }
+        /// Writes exmem.
         const Self &set_exmem(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_static_exmem_info_exmem_get, lumo_tarn_static_exmem_info_exmem_set, value);
         }
+        /// Moves a record into exmem.
         const Self &adopt_exmem(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_static_exmem_info_exmem_get, lumo_tarn_static_exmem_info_exmem_set,
                 std::move(value));
         }
+        /// The state byte of exmem; none if the record has no states.
         std::optional<std::uint8_t> exmem_state() const {
             return this->state_(lumo_tarn_static_exmem_info_exmem_state_flag_get);
         }
+        /// Writes the state byte of exmem.
         const Self &set_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_static_exmem_info_exmem_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"mem_type", &members::mem_type, &members::set_mem_type, &members::mem_type_state,
@@ -1921,84 +2270,99 @@ struct static_exmem_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_static_exmem_info.
 using static_exmem_info = record<static_exmem_info_type>;
+/// Borrows a lumo_tarn_static_exmem_info.
 using static_exmem_info_ref = record_ref<static_exmem_info_type>;
 
-// ---- lumo_tarn_dyn_exmem_info: blocks that a processor adds while it runs, by kind of memory
+/// lumo_tarn_dyn_exmem_info: blocks that a processor adds while it runs, by kind of memory.
 struct dyn_exmem_info_type {
-    using native = lumo_tarn_dyn_exmem_info;
-    static constexpr const char *name = "lumo_tarn_dyn_exmem_info";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;
-    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;
-    static constexpr auto set = lumo_tarn_dyn_exmem_info_set;
-    static constexpr auto clone = lumo_tarn_dyn_exmem_info_clone;
-    static constexpr auto len = lumo_tarn_dyn_exmem_info_len;
-    static constexpr auto marshal = lumo_tarn_dyn_exmem_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dyn_exmem_info_unmarshal;
-    static constexpr auto print = lumo_tarn_dyn_exmem_info_print;
-    static constexpr auto to_xml = lumo_tarn_dyn_exmem_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dyn_exmem_info_from_xml;
-    static constexpr auto compare = lumo_tarn_dyn_exmem_info_compare;
-    static constexpr auto hash = lumo_tarn_dyn_exmem_info_hash;
+    using native = lumo_tarn_dyn_exmem_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dyn_exmem_info";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dyn_exmem_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dyn_exmem_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dyn_exmem_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dyn_exmem_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dyn_exmem_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dyn_exmem_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dyn_exmem_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dyn_exmem_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dyn_exmem_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dyn_exmem_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dyn_exmem_info_set_all_state_tracking_flag;
 
+    /// How exmem is read and written, for array_ref.
     struct exmem_array {
-        using native = lumo_tarn_dyn_exmem_info;
-        using element = lumo_ui_tarn::exmem_info_wrapper_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_dyn_exmem_info_num_exmems_get_value;
-        static constexpr auto get = lumo_tarn_dyn_exmem_info_exmem_get;
-        static constexpr auto set = lumo_tarn_dyn_exmem_info_exmem_set;
-        static constexpr auto state_get = lumo_tarn_dyn_exmem_info_exmem_state_flag_get;
+        using native = lumo_tarn_dyn_exmem_info;  ///< the record that has the array
+        using element = lumo_ui_tarn::exmem_info_wrapper_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dyn_exmem_info_num_exmems_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dyn_exmem_info_exmem_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dyn_exmem_info_exmem_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_dyn_exmem_info_exmem_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dyn_exmem_info_exmem_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dyn_exmem_info_type, Self> {
     public:
         using detail::operations<dyn_exmem_info_type, Self>::operations;
 
-        // what the blocks are used for
+        /// What the blocks are used for.
         lumo_ui_tarn::mem_desc mem_type() const {
             return this->template choice_<lumo_ui_tarn::mem_desc>(lumo_tarn_dyn_exmem_info_mem_type_get_value);
         }
+        /// Writes mem_type.
         const Self &set_mem_type(lumo_ui_tarn::mem_desc value) const {
             return this->write_(lumo_tarn_dyn_exmem_info_mem_type_set_value, static_cast<std::uint32_t>(value));
         }
+        /// The state byte of mem_type; none if the record has no states.
         std::optional<std::uint8_t> mem_type_state() const {
             return this->state_(lumo_tarn_dyn_exmem_info_mem_type_state_flag_get);
         }
+        /// Writes the state byte of mem_type.
         const Self &set_mem_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dyn_exmem_info_mem_type_state_flag_set, value);
         }
 
-        // the list header of the dynamic blocks
+        /// The list header of the dynamic blocks.
         std::uint64_t list_header_ptr() const {
             return this->call_(lumo_tarn_dyn_exmem_info_list_header_ptr_get_value);
         }
+        /// Writes list_header_ptr.
         const Self &set_list_header_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dyn_exmem_info_list_header_ptr_set_value, value);
         }
+        /// The state byte of list_header_ptr; none if the record has no states.
         std::optional<std::uint8_t> list_header_ptr_state() const {
             return this->state_(lumo_tarn_dyn_exmem_info_list_header_ptr_state_flag_get);
         }
+        /// Writes the state byte of list_header_ptr.
         const Self &set_list_header_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dyn_exmem_info_list_header_ptr_state_flag_set, value);
         }
 
-        // elements in exmem
+        /// Elements in exmem.
         std::uint32_t num_exmems() const { return this->call_(lumo_tarn_dyn_exmem_info_num_exmems_get_value); }
 
-        // dynamic blocks
+        /// Dynamic blocks.
         lumo_ui_tarn::array_ref<exmem_array> exmem() const { return this->template array_<exmem_array>(); }
+        /// The state byte of exmem; none if the record has no states.
         std::optional<std::uint8_t> exmem_state() const {
             return this->state_(lumo_tarn_dyn_exmem_info_exmem_state_flag_whole_get);
         }
+        /// Writes the state byte of exmem.
         const Self &set_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dyn_exmem_info_exmem_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"mem_type", &members::mem_type, &members::set_mem_type, &members::mem_type_state,
@@ -2011,773 +2375,948 @@ struct dyn_exmem_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_dyn_exmem_info.
 using dyn_exmem_info = record<dyn_exmem_info_type>;
+/// Borrows a lumo_tarn_dyn_exmem_info.
 using dyn_exmem_info_ref = record_ref<dyn_exmem_info_type>;
 
-// ---- lumo_tarn_lumo_info: one processor
+/// lumo_tarn_lumo_info: one processor.
 struct lumo_info_type {
-    using native = lumo_tarn_lumo_info;
-    static constexpr const char *name = "lumo_tarn_lumo_info";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_create;
-    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;
-    static constexpr auto set = lumo_tarn_lumo_info_set;
-    static constexpr auto clone = lumo_tarn_lumo_info_clone;
-    static constexpr auto len = lumo_tarn_lumo_info_len;
-    static constexpr auto marshal = lumo_tarn_lumo_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_lumo_info_unmarshal;
-    static constexpr auto print = lumo_tarn_lumo_info_print;
-    static constexpr auto to_xml = lumo_tarn_lumo_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_lumo_info_from_xml;
-    static constexpr auto compare = lumo_tarn_lumo_info_compare;
-    static constexpr auto hash = lumo_tarn_lumo_info_hash;
+    using native = lumo_tarn_lumo_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_lumo_info";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_lumo_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_lumo_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_lumo_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_lumo_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_lumo_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_lumo_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_lumo_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_lumo_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_lumo_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_lumo_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_lumo_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_lumo_info_set_all_state_tracking_flag;
 
+    /// How static_exmem is read and written, for array_ref.
     struct static_exmem_array {
-        using native = lumo_tarn_lumo_info;
-        using element = lumo_ui_tarn::static_exmem_info_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_lumo_info_num_static_exmems_get_value;
-        static constexpr auto get = lumo_tarn_lumo_info_static_exmem_get;
-        static constexpr auto set = lumo_tarn_lumo_info_static_exmem_set;
-        static constexpr auto state_get = lumo_tarn_lumo_info_static_exmem_state_flag_get;
+        using native = lumo_tarn_lumo_info;  ///< the record that has the array
+        using element = lumo_ui_tarn::static_exmem_info_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_lumo_info_num_static_exmems_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_lumo_info_static_exmem_get;  ///< an element
+        static constexpr auto set = lumo_tarn_lumo_info_static_exmem_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_lumo_info_static_exmem_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_lumo_info_static_exmem_state_flag_set;
     };
+    /// How dyn_exmem is read and written, for array_ref.
     struct dyn_exmem_array {
-        using native = lumo_tarn_lumo_info;
-        using element = lumo_ui_tarn::dyn_exmem_info_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_lumo_info_num_dyn_exmems_get_value;
-        static constexpr auto get = lumo_tarn_lumo_info_dyn_exmem_get;
-        static constexpr auto set = lumo_tarn_lumo_info_dyn_exmem_set;
-        static constexpr auto state_get = lumo_tarn_lumo_info_dyn_exmem_state_flag_get;
+        using native = lumo_tarn_lumo_info;  ///< the record that has the array
+        using element = lumo_ui_tarn::dyn_exmem_info_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_lumo_info_num_dyn_exmems_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_lumo_info_dyn_exmem_get;  ///< an element
+        static constexpr auto set = lumo_tarn_lumo_info_dyn_exmem_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_lumo_info_dyn_exmem_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_lumo_info_dyn_exmem_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<lumo_info_type, Self> {
     public:
         using detail::operations<lumo_info_type, Self>::operations;
 
-        // show: everything
+        /// Show: everything.
         bool display_all() const { return this->call_(lumo_tarn_lumo_info_display_all_get_value) != 0; }
+        /// Writes display_all.
         const Self &set_display_all(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_all_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_all; none if the record has no states.
         std::optional<std::uint8_t> display_all_state() const {
             return this->state_(lumo_tarn_lumo_info_display_all_state_flag_get);
         }
+        /// Writes the state byte of display_all.
         const Self &set_display_all_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_all_state_flag_set, value);
         }
 
-        // show: the fdb part
+        /// Show: the fdb part.
         bool display_fdb() const { return this->call_(lumo_tarn_lumo_info_display_fdb_get_value) != 0; }
+        /// Writes display_fdb.
         const Self &set_display_fdb(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_fdb_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_fdb; none if the record has no states.
         std::optional<std::uint8_t> display_fdb_state() const {
             return this->state_(lumo_tarn_lumo_info_display_fdb_state_flag_get);
         }
+        /// Writes the state byte of display_fdb.
         const Self &set_display_fdb_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_fdb_state_flag_set, value);
         }
 
-        // show: the high-availability part
+        /// Show: the high-availability part.
         bool display_ha() const { return this->call_(lumo_tarn_lumo_info_display_ha_get_value) != 0; }
+        /// Writes display_ha.
         const Self &set_display_ha(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_ha_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_ha; none if the record has no states.
         std::optional<std::uint8_t> display_ha_state() const {
             return this->state_(lumo_tarn_lumo_info_display_ha_state_flag_get);
         }
+        /// Writes the state byte of display_ha.
         const Self &set_display_ha_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_ha_state_flag_set, value);
         }
 
-        // show: the wexa part
+        /// Show: the wexa part.
         bool display_wexa() const { return this->call_(lumo_tarn_lumo_info_display_wexa_get_value) != 0; }
+        /// Writes display_wexa.
         const Self &set_display_wexa(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_wexa_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_wexa; none if the record has no states.
         std::optional<std::uint8_t> display_wexa_state() const {
             return this->state_(lumo_tarn_lumo_info_display_wexa_state_flag_get);
         }
+        /// Writes the state byte of display_wexa.
         const Self &set_display_wexa_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_wexa_state_flag_set, value);
         }
 
-        // show: the handles
+        /// Show: the handles.
         bool display_handles() const { return this->call_(lumo_tarn_lumo_info_display_handles_get_value) != 0; }
+        /// Writes display_handles.
         const Self &set_display_handles(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_handles_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_handles; none if the record has no states.
         std::optional<std::uint8_t> display_handles_state() const {
             return this->state_(lumo_tarn_lumo_info_display_handles_state_flag_get);
         }
+        /// Writes the state byte of display_handles.
         const Self &set_display_handles_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_handles_state_flag_set, value);
         }
 
-        // show: the memory blocks
+        /// Show: the memory blocks.
         bool display_exmem() const { return this->call_(lumo_tarn_lumo_info_display_exmem_get_value) != 0; }
+        /// Writes display_exmem.
         const Self &set_display_exmem(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_exmem_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_exmem; none if the record has no states.
         std::optional<std::uint8_t> display_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_display_exmem_state_flag_get);
         }
+        /// Writes the state byte of display_exmem.
         const Self &set_display_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_exmem_state_flag_set, value);
         }
 
-        // show: the initialisation state
+        /// Show: the initialisation state.
         bool display_init() const { return this->call_(lumo_tarn_lumo_info_display_init_get_value) != 0; }
+        /// Writes display_init.
         const Self &set_display_init(bool value) const {
             return this->write_(lumo_tarn_lumo_info_display_init_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_init; none if the record has no states.
         std::optional<std::uint8_t> display_init_state() const {
             return this->state_(lumo_tarn_lumo_info_display_init_state_flag_get);
         }
+        /// Writes the state byte of display_init.
         const Self &set_display_init_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_display_init_state_flag_set, value);
         }
 
-        // number of this lumo processor
+        /// Number of this lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_lumo_info_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_lumo_info_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_lumo_num_state_flag_set, value);
         }
 
-        // number of the complex that the processor belongs to
+        /// Number of the complex that the processor belongs to.
         std::uint8_t complex_num() const { return this->call_(lumo_tarn_lumo_info_complex_num_get_value); }
+        /// Writes complex_num.
         const Self &set_complex_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_complex_num_set_value, value);
         }
+        /// The state byte of complex_num; none if the record has no states.
         std::optional<std::uint8_t> complex_num_state() const {
             return this->state_(lumo_tarn_lumo_info_complex_num_state_flag_get);
         }
+        /// Writes the state byte of complex_num.
         const Self &set_complex_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_complex_num_state_flag_set, value);
         }
 
-        // direction of traffic that the processor serves
+        /// Direction of traffic that the processor serves.
         lumo_ui_tarn::lumo_direction direction() const {
             return this->template choice_<lumo_ui_tarn::lumo_direction>(lumo_tarn_lumo_info_direction_get_value);
         }
+        /// Writes direction.
         const Self &set_direction(lumo_ui_tarn::lumo_direction value) const {
             return this->write_(lumo_tarn_lumo_info_direction_set_value, static_cast<std::uint32_t>(value));
         }
+        /// The state byte of direction; none if the record has no states.
         std::optional<std::uint8_t> direction_state() const {
             return this->state_(lumo_tarn_lumo_info_direction_state_flag_get);
         }
+        /// Writes the state byte of direction.
         const Self &set_direction_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_direction_state_flag_set, value);
         }
 
-        // epoch value of the processor
+        /// Epoch value of the processor.
         std::uint32_t epoch() const { return this->call_(lumo_tarn_lumo_info_epoch_get_value); }
+        /// Writes epoch.
         const Self &set_epoch(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_epoch_set_value, value);
         }
+        /// The state byte of epoch; none if the record has no states.
         std::optional<std::uint8_t> epoch_state() const {
             return this->state_(lumo_tarn_lumo_info_epoch_state_flag_get);
         }
+        /// Writes the state byte of epoch.
         const Self &set_epoch_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_epoch_state_flag_set, value);
         }
 
-        // flag word: fdb initialised
+        /// Flag word: fdb initialised.
         std::uint32_t fdb_initialized() const { return this->call_(lumo_tarn_lumo_info_fdb_initialized_get_value); }
+        /// Writes fdb_initialized.
         const Self &set_fdb_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_fdb_initialized_set_value, value);
         }
+        /// The state byte of fdb_initialized; none if the record has no states.
         std::optional<std::uint8_t> fdb_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_fdb_initialized_state_flag_get);
         }
+        /// Writes the state byte of fdb_initialized.
         const Self &set_fdb_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_fdb_initialized_state_flag_set, value);
         }
 
-        // header and footer description of the fdb
+        /// Header and footer description of the fdb.
         lumo_ui_tarn::fdb_base_ref fdb_base() const {
             return this->template nested_<lumo_ui_tarn::fdb_base_type>(lumo_tarn_lumo_info_fdb_base_get);
         }
+        /// Writes fdb_base.
         const Self &set_fdb_base(lumo_ui_tarn::fdb_base_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_fdb_base_get, lumo_tarn_lumo_info_fdb_base_set, value);
         }
+        /// Moves a record into fdb_base.
         const Self &adopt_fdb_base(lumo_ui_tarn::fdb_base &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_fdb_base_get, lumo_tarn_lumo_info_fdb_base_set, std::move(value));
         }
+        /// The state byte of fdb_base; none if the record has no states.
         std::optional<std::uint8_t> fdb_base_state() const {
             return this->state_(lumo_tarn_lumo_info_fdb_base_state_flag_get);
         }
+        /// Writes the state byte of fdb_base.
         const Self &set_fdb_base_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_fdb_base_state_flag_set, value);
         }
 
-        // overhead of a chunk
+        /// Overhead of a chunk.
         std::uint16_t chunk_overhead() const { return this->call_(lumo_tarn_lumo_info_chunk_overhead_get_value); }
+        /// Writes chunk_overhead.
         const Self &set_chunk_overhead(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_chunk_overhead_set_value, value);
         }
+        /// The state byte of chunk_overhead; none if the record has no states.
         std::optional<std::uint8_t> chunk_overhead_state() const {
             return this->state_(lumo_tarn_lumo_info_chunk_overhead_state_flag_get);
         }
+        /// Writes the state byte of chunk_overhead.
         const Self &set_chunk_overhead_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_chunk_overhead_state_flag_set, value);
         }
 
-        // memory size of a flow information entry
+        /// Memory size of a flow information entry.
         std::uint16_t flow_info_mem_size() const {
             return this->call_(lumo_tarn_lumo_info_flow_info_mem_size_get_value);
         }
+        /// Writes flow_info_mem_size.
         const Self &set_flow_info_mem_size(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_flow_info_mem_size_set_value, value);
         }
+        /// The state byte of flow_info_mem_size; none if the record has no states.
         std::optional<std::uint8_t> flow_info_mem_size_state() const {
             return this->state_(lumo_tarn_lumo_info_flow_info_mem_size_state_flag_get);
         }
+        /// Writes the state byte of flow_info_mem_size.
         const Self &set_flow_info_mem_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_flow_info_mem_size_state_flag_set, value);
         }
 
-        // size of an mp cache entry
+        /// Size of an mp cache entry.
         std::uint16_t mp_cache_entry_size() const {
             return this->call_(lumo_tarn_lumo_info_mp_cache_entry_size_get_value);
         }
+        /// Writes mp_cache_entry_size.
         const Self &set_mp_cache_entry_size(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_mp_cache_entry_size_set_value, value);
         }
+        /// The state byte of mp_cache_entry_size; none if the record has no states.
         std::optional<std::uint8_t> mp_cache_entry_size_state() const {
             return this->state_(lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_get);
         }
+        /// Writes the state byte of mp_cache_entry_size.
         const Self &set_mp_cache_entry_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_set, value);
         }
 
-        // size of a tt cache entry
+        /// Size of a tt cache entry.
         std::uint16_t tt_cache_entry_size() const {
             return this->call_(lumo_tarn_lumo_info_tt_cache_entry_size_get_value);
         }
+        /// Writes tt_cache_entry_size.
         const Self &set_tt_cache_entry_size(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_cache_entry_size_set_value, value);
         }
+        /// The state byte of tt_cache_entry_size; none if the record has no states.
         std::optional<std::uint8_t> tt_cache_entry_size_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_get);
         }
+        /// Writes the state byte of tt_cache_entry_size.
         const Self &set_tt_cache_entry_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_set, value);
         }
 
-        // memory of the feature's traffic table
+        /// Memory of the feature's traffic table.
         lumo_ui_tarn::fdb_mem_info_ref tarn_tt_tbl() const {
             return this->template nested_<lumo_ui_tarn::fdb_mem_info_type>(lumo_tarn_lumo_info_tarn_tt_tbl_get);
         }
+        /// Writes tarn_tt_tbl.
         const Self &set_tarn_tt_tbl(lumo_ui_tarn::fdb_mem_info_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_tarn_tt_tbl_get, lumo_tarn_lumo_info_tarn_tt_tbl_set, value);
         }
+        /// Moves a record into tarn_tt_tbl.
         const Self &adopt_tarn_tt_tbl(lumo_ui_tarn::fdb_mem_info &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_tarn_tt_tbl_get, lumo_tarn_lumo_info_tarn_tt_tbl_set,
                 std::move(value));
         }
+        /// The state byte of tarn_tt_tbl; none if the record has no states.
         std::optional<std::uint8_t> tarn_tt_tbl_state() const {
             return this->state_(lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_get);
         }
+        /// Writes the state byte of tarn_tt_tbl.
         const Self &set_tarn_tt_tbl_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_set, value);
         }
 
-        // memory of the feature's debug flags
+        /// Memory of the feature's debug flags.
         lumo_ui_tarn::fdb_mem_info_ref tarn_debug_flags() const {
             return this->template nested_<lumo_ui_tarn::fdb_mem_info_type>(lumo_tarn_lumo_info_tarn_debug_flags_get);
         }
+        /// Writes tarn_debug_flags.
         const Self &set_tarn_debug_flags(lumo_ui_tarn::fdb_mem_info_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_tarn_debug_flags_get, lumo_tarn_lumo_info_tarn_debug_flags_set,
                 value);
         }
+        /// Moves a record into tarn_debug_flags.
         const Self &adopt_tarn_debug_flags(lumo_ui_tarn::fdb_mem_info &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_tarn_debug_flags_get, lumo_tarn_lumo_info_tarn_debug_flags_set,
                 std::move(value));
         }
+        /// The state byte of tarn_debug_flags; none if the record has no states.
         std::optional<std::uint8_t> tarn_debug_flags_state() const {
             return this->state_(lumo_tarn_lumo_info_tarn_debug_flags_state_flag_get);
         }
+        /// Writes the state byte of tarn_debug_flags.
         const Self &set_tarn_debug_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tarn_debug_flags_state_flag_set, value);
         }
 
-        // high-availability state of the processor
+        /// High-availability state of the processor.
         lumo_ui_tarn::ha_state ha_state() const {
             return this->template choice_<lumo_ui_tarn::ha_state>(lumo_tarn_lumo_info_ha_state_get_value);
         }
+        /// Writes ha_state.
         const Self &set_ha_state(lumo_ui_tarn::ha_state value) const {
             return this->write_(lumo_tarn_lumo_info_ha_state_set_value, static_cast<std::uint32_t>(value));
         }
+        /// The state byte of ha_state; none if the record has no states.
         std::optional<std::uint8_t> ha_state_state() const {
             return this->state_(lumo_tarn_lumo_info_ha_state_state_flag_get);
         }
+        /// Writes the state byte of ha_state.
         const Self &set_ha_state_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_ha_state_state_flag_set, value);
         }
 
-        // flag word: high availability is running
+        /// Flag word: high availability is running.
         std::uint32_t ha_running() const { return this->call_(lumo_tarn_lumo_info_ha_running_get_value); }
+        /// Writes ha_running.
         const Self &set_ha_running(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_ha_running_set_value, value);
         }
+        /// The state byte of ha_running; none if the record has no states.
         std::optional<std::uint8_t> ha_running_state() const {
             return this->state_(lumo_tarn_lumo_info_ha_running_state_flag_get);
         }
+        /// Writes the state byte of ha_running.
         const Self &set_ha_running_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_ha_running_state_flag_set, value);
         }
 
-        // flag word: high availability is enabled
+        /// Flag word: high availability is enabled.
         std::uint32_t ha_enabled() const { return this->call_(lumo_tarn_lumo_info_ha_enabled_get_value); }
+        /// Writes ha_enabled.
         const Self &set_ha_enabled(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_ha_enabled_set_value, value);
         }
+        /// The state byte of ha_enabled; none if the record has no states.
         std::optional<std::uint8_t> ha_enabled_state() const {
             return this->state_(lumo_tarn_lumo_info_ha_enabled_state_flag_get);
         }
+        /// Writes the state byte of ha_enabled.
         const Self &set_ha_enabled_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_ha_enabled_state_flag_set, value);
         }
 
-        // handle: the connection to the driver
+        /// Handle: the connection to the driver.
         std::uint64_t drv_conn_h() const { return this->call_(lumo_tarn_lumo_info_drv_conn_h_get_value); }
+        /// Writes drv_conn_h.
         const Self &set_drv_conn_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_drv_conn_h_set_value, value);
         }
+        /// The state byte of drv_conn_h; none if the record has no states.
         std::optional<std::uint8_t> drv_conn_h_state() const {
             return this->state_(lumo_tarn_lumo_info_drv_conn_h_state_flag_get);
         }
+        /// Writes the state byte of drv_conn_h.
         const Self &set_drv_conn_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_drv_conn_h_state_flag_set, value);
         }
 
-        // handle: external memory
+        /// Handle: external memory.
         std::uint64_t exmem_h() const { return this->call_(lumo_tarn_lumo_info_exmem_h_get_value); }
+        /// Writes exmem_h.
         const Self &set_exmem_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_exmem_h_set_value, value);
         }
+        /// The state byte of exmem_h; none if the record has no states.
         std::optional<std::uint8_t> exmem_h_state() const {
             return this->state_(lumo_tarn_lumo_info_exmem_h_state_flag_get);
         }
+        /// Writes the state byte of exmem_h.
         const Self &set_exmem_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_exmem_h_state_flag_set, value);
         }
 
-        // number of features in a wexa entry
+        /// Number of features in a wexa entry.
         std::uint16_t wexa_num_feat() const { return this->call_(lumo_tarn_lumo_info_wexa_num_feat_get_value); }
+        /// Writes wexa_num_feat.
         const Self &set_wexa_num_feat(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_wexa_num_feat_set_value, value);
         }
+        /// The state byte of wexa_num_feat; none if the record has no states.
         std::optional<std::uint8_t> wexa_num_feat_state() const {
             return this->state_(lumo_tarn_lumo_info_wexa_num_feat_state_flag_get);
         }
+        /// Writes the state byte of wexa_num_feat.
         const Self &set_wexa_num_feat_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_wexa_num_feat_state_flag_set, value);
         }
 
-        // size of a feature in a wexa entry
+        /// Size of a feature in a wexa entry.
         std::uint16_t wexa_feat_size() const { return this->call_(lumo_tarn_lumo_info_wexa_feat_size_get_value); }
+        /// Writes wexa_feat_size.
         const Self &set_wexa_feat_size(std::uint16_t value) const {
             return this->write_(lumo_tarn_lumo_info_wexa_feat_size_set_value, value);
         }
+        /// The state byte of wexa_feat_size; none if the record has no states.
         std::optional<std::uint8_t> wexa_feat_size_state() const {
             return this->state_(lumo_tarn_lumo_info_wexa_feat_size_state_flag_get);
         }
+        /// Writes the state byte of wexa_feat_size.
         const Self &set_wexa_feat_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_wexa_feat_size_state_flag_set, value);
         }
 
-        // handle: ingress wexa
+        /// Handle: ingress wexa.
         std::uint64_t in_wexa_h() const { return this->call_(lumo_tarn_lumo_info_in_wexa_h_get_value); }
+        /// Writes in_wexa_h.
         const Self &set_in_wexa_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_in_wexa_h_set_value, value);
         }
+        /// The state byte of in_wexa_h; none if the record has no states.
         std::optional<std::uint8_t> in_wexa_h_state() const {
             return this->state_(lumo_tarn_lumo_info_in_wexa_h_state_flag_get);
         }
+        /// Writes the state byte of in_wexa_h.
         const Self &set_in_wexa_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_in_wexa_h_state_flag_set, value);
         }
 
-        // handle: ingress wexa feature
+        /// Handle: ingress wexa feature.
         std::uint64_t in_wexa_feat_h() const { return this->call_(lumo_tarn_lumo_info_in_wexa_feat_h_get_value); }
+        /// Writes in_wexa_feat_h.
         const Self &set_in_wexa_feat_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_in_wexa_feat_h_set_value, value);
         }
+        /// The state byte of in_wexa_feat_h; none if the record has no states.
         std::optional<std::uint8_t> in_wexa_feat_h_state() const {
             return this->state_(lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_get);
         }
+        /// Writes the state byte of in_wexa_feat_h.
         const Self &set_in_wexa_feat_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_set, value);
         }
 
-        // handle: egress wexa
+        /// Handle: egress wexa.
         std::uint64_t out_wexa_h() const { return this->call_(lumo_tarn_lumo_info_out_wexa_h_get_value); }
+        /// Writes out_wexa_h.
         const Self &set_out_wexa_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_out_wexa_h_set_value, value);
         }
+        /// The state byte of out_wexa_h; none if the record has no states.
         std::optional<std::uint8_t> out_wexa_h_state() const {
             return this->state_(lumo_tarn_lumo_info_out_wexa_h_state_flag_get);
         }
+        /// Writes the state byte of out_wexa_h.
         const Self &set_out_wexa_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_out_wexa_h_state_flag_set, value);
         }
 
-        // handle: egress wexa feature
+        /// Handle: egress wexa feature.
         std::uint64_t out_wexa_feat_h() const { return this->call_(lumo_tarn_lumo_info_out_wexa_feat_h_get_value); }
+        /// Writes out_wexa_feat_h.
         const Self &set_out_wexa_feat_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_out_wexa_feat_h_set_value, value);
         }
+        /// The state byte of out_wexa_feat_h; none if the record has no states.
         std::optional<std::uint8_t> out_wexa_feat_h_state() const {
             return this->state_(lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_get);
         }
+        /// Writes the state byte of out_wexa_feat_h.
         const Self &set_out_wexa_feat_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_set, value);
         }
 
-        // salt of the data plane's hash, carried as a datum
+        /// Salt of the data plane's hash, carried as a datum.
         std::uint32_t dp_hash_salt() const { return this->call_(lumo_tarn_lumo_info_dp_hash_salt_get_value); }
+        /// Writes dp_hash_salt.
         const Self &set_dp_hash_salt(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_hash_salt_set_value, value);
         }
+        /// The state byte of dp_hash_salt; none if the record has no states.
         std::optional<std::uint8_t> dp_hash_salt_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_hash_salt_state_flag_get);
         }
+        /// Writes the state byte of dp_hash_salt.
         const Self &set_dp_hash_salt_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_hash_salt_state_flag_set, value);
         }
 
-        // flag word: flow information initialised on the client side
+        /// Flag word: flow information initialised on the client side.
         std::uint32_t flow_info_initialized() const {
             return this->call_(lumo_tarn_lumo_info_flow_info_initialized_get_value);
         }
+        /// Writes flow_info_initialized.
         const Self &set_flow_info_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_flow_info_initialized_set_value, value);
         }
+        /// The state byte of flow_info_initialized; none if the record has no states.
         std::optional<std::uint8_t> flow_info_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_flow_info_initialized_state_flag_get);
         }
+        /// Writes the state byte of flow_info_initialized.
         const Self &set_flow_info_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_flow_info_initialized_state_flag_set, value);
         }
 
-        // flag word: flow information initialised in the data plane
+        /// Flag word: flow information initialised in the data plane.
         std::uint32_t dp_flow_info_initialized() const {
             return this->call_(lumo_tarn_lumo_info_dp_flow_info_initialized_get_value);
         }
+        /// Writes dp_flow_info_initialized.
         const Self &set_dp_flow_info_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_flow_info_initialized_set_value, value);
         }
+        /// The state byte of dp_flow_info_initialized; none if the record has no states.
         std::optional<std::uint8_t> dp_flow_info_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_get);
         }
+        /// Writes the state byte of dp_flow_info_initialized.
         const Self &set_dp_flow_info_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_set, value);
         }
 
-        // flag word: mp initialised on the client side
+        /// Flag word: mp initialised on the client side.
         std::uint32_t mp_initialized() const { return this->call_(lumo_tarn_lumo_info_mp_initialized_get_value); }
+        /// Writes mp_initialized.
         const Self &set_mp_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_mp_initialized_set_value, value);
         }
+        /// The state byte of mp_initialized; none if the record has no states.
         std::optional<std::uint8_t> mp_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_mp_initialized_state_flag_get);
         }
+        /// Writes the state byte of mp_initialized.
         const Self &set_mp_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_mp_initialized_state_flag_set, value);
         }
 
-        // flag word: mp initialised in the data plane
+        /// Flag word: mp initialised in the data plane.
         std::uint32_t dp_mp_initialized() const { return this->call_(lumo_tarn_lumo_info_dp_mp_initialized_get_value); }
+        /// Writes dp_mp_initialized.
         const Self &set_dp_mp_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_mp_initialized_set_value, value);
         }
+        /// The state byte of dp_mp_initialized; none if the record has no states.
         std::optional<std::uint8_t> dp_mp_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_mp_initialized_state_flag_get);
         }
+        /// Writes the state byte of dp_mp_initialized.
         const Self &set_dp_mp_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_mp_initialized_state_flag_set, value);
         }
 
-        // flag word: tt initialised on the client side
+        /// Flag word: tt initialised on the client side.
         std::uint32_t tt_initialized() const { return this->call_(lumo_tarn_lumo_info_tt_initialized_get_value); }
+        /// Writes tt_initialized.
         const Self &set_tt_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_initialized_set_value, value);
         }
+        /// The state byte of tt_initialized; none if the record has no states.
         std::optional<std::uint8_t> tt_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_initialized_state_flag_get);
         }
+        /// Writes the state byte of tt_initialized.
         const Self &set_tt_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_initialized_state_flag_set, value);
         }
 
-        // flag word: tt initialised in the data plane
+        /// Flag word: tt initialised in the data plane.
         std::uint32_t dp_tt_initialized() const { return this->call_(lumo_tarn_lumo_info_dp_tt_initialized_get_value); }
+        /// Writes dp_tt_initialized.
         const Self &set_dp_tt_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_tt_initialized_set_value, value);
         }
+        /// The state byte of dp_tt_initialized; none if the record has no states.
         std::optional<std::uint8_t> dp_tt_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_tt_initialized_state_flag_get);
         }
+        /// Writes the state byte of dp_tt_initialized.
         const Self &set_dp_tt_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_tt_initialized_state_flag_set, value);
         }
 
-        // flag word: application signatures initialised on the client side
+        /// Flag word: application signatures initialised on the client side.
         std::uint32_t appl_sig_initialized() const {
             return this->call_(lumo_tarn_lumo_info_appl_sig_initialized_get_value);
         }
+        /// Writes appl_sig_initialized.
         const Self &set_appl_sig_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_sig_initialized_set_value, value);
         }
+        /// The state byte of appl_sig_initialized; none if the record has no states.
         std::optional<std::uint8_t> appl_sig_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_appl_sig_initialized_state_flag_get);
         }
+        /// Writes the state byte of appl_sig_initialized.
         const Self &set_appl_sig_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_sig_initialized_state_flag_set, value);
         }
 
-        // flag word: application signatures initialised in the data plane
+        /// Flag word: application signatures initialised in the data plane.
         std::uint32_t dp_appl_sig_initialized() const {
             return this->call_(lumo_tarn_lumo_info_dp_appl_sig_initialized_get_value);
         }
+        /// Writes dp_appl_sig_initialized.
         const Self &set_dp_appl_sig_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_appl_sig_initialized_set_value, value);
         }
+        /// The state byte of dp_appl_sig_initialized; none if the record has no states.
         std::optional<std::uint8_t> dp_appl_sig_initialized_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_get);
         }
+        /// Writes the state byte of dp_appl_sig_initialized.
         const Self &set_dp_appl_sig_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_set, value);
         }
 
-        // external memory of the traffic table's filter class list
+        /// External memory of the traffic table's filter class list.
         std::uint64_t tt_tc_filter_list_exmem_ptr() const {
             return this->call_(lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_get_value);
         }
+        /// Writes tt_tc_filter_list_exmem_ptr.
         const Self &set_tt_tc_filter_list_exmem_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_set_value, value);
         }
+        /// The state byte of tt_tc_filter_list_exmem_ptr; none if the record has no states.
         std::optional<std::uint8_t> tt_tc_filter_list_exmem_ptr_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag_get);
         }
+        /// Writes the state byte of tt_tc_filter_list_exmem_ptr.
         const Self &set_tt_tc_filter_list_exmem_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag_set, value);
         }
 
-        // external memory of the traffic table's aggregation class list
+        /// External memory of the traffic table's aggregation class list.
         std::uint64_t tt_tc_agg_list_exmem_ptr() const {
             return this->call_(lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_get_value);
         }
+        /// Writes tt_tc_agg_list_exmem_ptr.
         const Self &set_tt_tc_agg_list_exmem_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_set_value, value);
         }
+        /// The state byte of tt_tc_agg_list_exmem_ptr; none if the record has no states.
         std::optional<std::uint8_t> tt_tc_agg_list_exmem_ptr_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_get);
         }
+        /// Writes the state byte of tt_tc_agg_list_exmem_ptr.
         const Self &set_tt_tc_agg_list_exmem_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_set, value);
         }
 
-        // external memory of the traffic table's learn list
+        /// External memory of the traffic table's learn list.
         std::uint64_t tt_tc_learn_list_exmem_ptr() const {
             return this->call_(lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get_value);
         }
+        /// Writes tt_tc_learn_list_exmem_ptr.
         const Self &set_tt_tc_learn_list_exmem_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_set_value, value);
         }
+        /// The state byte of tt_tc_learn_list_exmem_ptr; none if the record has no states.
         std::optional<std::uint8_t> tt_tc_learn_list_exmem_ptr_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_get);
         }
+        /// Writes the state byte of tt_tc_learn_list_exmem_ptr.
         const Self &set_tt_tc_learn_list_exmem_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_set, value);
         }
 
-        // handle: chunk pool of class list heads
+        /// Handle: chunk pool of class list heads.
         std::uint64_t tc_list_head_chunk_h() const {
             return this->call_(lumo_tarn_lumo_info_tc_list_head_chunk_h_get_value);
         }
+        /// Writes tc_list_head_chunk_h.
         const Self &set_tc_list_head_chunk_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_tc_list_head_chunk_h_set_value, value);
         }
+        /// The state byte of tc_list_head_chunk_h; none if the record has no states.
         std::optional<std::uint8_t> tc_list_head_chunk_h_state() const {
             return this->state_(lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_get);
         }
+        /// Writes the state byte of tc_list_head_chunk_h.
         const Self &set_tc_list_head_chunk_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_set, value);
         }
 
-        // handle: chunk pool of traffic classes
+        /// Handle: chunk pool of traffic classes.
         std::uint64_t tc_chunk_h() const { return this->call_(lumo_tarn_lumo_info_tc_chunk_h_get_value); }
+        /// Writes tc_chunk_h.
         const Self &set_tc_chunk_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_tc_chunk_h_set_value, value);
         }
+        /// The state byte of tc_chunk_h; none if the record has no states.
         std::optional<std::uint8_t> tc_chunk_h_state() const {
             return this->state_(lumo_tarn_lumo_info_tc_chunk_h_state_flag_get);
         }
+        /// Writes the state byte of tc_chunk_h.
         const Self &set_tc_chunk_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tc_chunk_h_state_flag_set, value);
         }
 
-        // handle: chunk pool of learn lists
+        /// Handle: chunk pool of learn lists.
         std::uint64_t ll_chunk_h() const { return this->call_(lumo_tarn_lumo_info_ll_chunk_h_get_value); }
+        /// Writes ll_chunk_h.
         const Self &set_ll_chunk_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_ll_chunk_h_set_value, value);
         }
+        /// The state byte of ll_chunk_h; none if the record has no states.
         std::optional<std::uint8_t> ll_chunk_h_state() const {
             return this->state_(lumo_tarn_lumo_info_ll_chunk_h_state_flag_get);
         }
+        /// Writes the state byte of ll_chunk_h.
         const Self &set_ll_chunk_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_ll_chunk_h_state_flag_set, value);
         }
 
-        // handle: chunk pool of applications
+        /// Handle: chunk pool of applications.
         std::uint64_t appl_chunk_h() const { return this->call_(lumo_tarn_lumo_info_appl_chunk_h_get_value); }
+        /// Writes appl_chunk_h.
         const Self &set_appl_chunk_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_chunk_h_set_value, value);
         }
+        /// The state byte of appl_chunk_h; none if the record has no states.
         std::optional<std::uint8_t> appl_chunk_h_state() const {
             return this->state_(lumo_tarn_lumo_info_appl_chunk_h_state_flag_get);
         }
+        /// Writes the state byte of appl_chunk_h.
         const Self &set_appl_chunk_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_chunk_h_state_flag_set, value);
         }
 
-        // the client side's application signature hash
+        /// The client side's application signature hash.
         std::uint64_t cl_appl_sig_hash_ptr() const {
             return this->call_(lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get_value);
         }
+        /// Writes cl_appl_sig_hash_ptr.
         const Self &set_cl_appl_sig_hash_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set_value, value);
         }
+        /// The state byte of cl_appl_sig_hash_ptr; none if the record has no states.
         std::optional<std::uint8_t> cl_appl_sig_hash_ptr_state() const {
             return this->state_(lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_get);
         }
+        /// Writes the state byte of cl_appl_sig_hash_ptr.
         const Self &set_cl_appl_sig_hash_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_set, value);
         }
 
-        // handle: the data plane's application signature hash
+        /// Handle: the data plane's application signature hash.
         std::uint64_t dp_appl_sig_hash_h() const {
             return this->call_(lumo_tarn_lumo_info_dp_appl_sig_hash_h_get_value);
         }
+        /// Writes dp_appl_sig_hash_h.
         const Self &set_dp_appl_sig_hash_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_appl_sig_hash_h_set_value, value);
         }
+        /// The state byte of dp_appl_sig_hash_h; none if the record has no states.
         std::optional<std::uint8_t> dp_appl_sig_hash_h_state() const {
             return this->state_(lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_get);
         }
+        /// Writes the state byte of dp_appl_sig_hash_h.
         const Self &set_dp_appl_sig_hash_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_set, value);
         }
 
-        // handle: chunk pool of application signatures
+        /// Handle: chunk pool of application signatures.
         std::uint64_t appl_sig_chunk_h() const { return this->call_(lumo_tarn_lumo_info_appl_sig_chunk_h_get_value); }
+        /// Writes appl_sig_chunk_h.
         const Self &set_appl_sig_chunk_h(std::uint64_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_sig_chunk_h_set_value, value);
         }
+        /// The state byte of appl_sig_chunk_h; none if the record has no states.
         std::optional<std::uint8_t> appl_sig_chunk_h_state() const {
             return this->state_(lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_get);
         }
+        /// Writes the state byte of appl_sig_chunk_h.
         const Self &set_appl_sig_chunk_h_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_set, value);
         }
 
-        // block of the application signature hash
+        /// Block of the application signature hash.
         lumo_ui_tarn::exmem_info_ref appl_sig_hash_exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_lumo_info_appl_sig_hash_exmem_get);
         }
+        /// Writes appl_sig_hash_exmem.
         const Self &set_appl_sig_hash_exmem(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_appl_sig_hash_exmem_get,
                 lumo_tarn_lumo_info_appl_sig_hash_exmem_set, value);
         }
+        /// Moves a record into appl_sig_hash_exmem.
         const Self &adopt_appl_sig_hash_exmem(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_appl_sig_hash_exmem_get,
                 lumo_tarn_lumo_info_appl_sig_hash_exmem_set, std::move(value));
         }
+        /// The state byte of appl_sig_hash_exmem; none if the record has no states.
         std::optional<std::uint8_t> appl_sig_hash_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_get);
         }
+        /// Writes the state byte of appl_sig_hash_exmem.
         const Self &set_appl_sig_hash_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_set, value);
         }
 
-        // block of the mp export
+        /// Block of the mp export.
         lumo_ui_tarn::exmem_info_ref mp_export_exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_lumo_info_mp_export_exmem_get);
         }
+        /// Writes mp_export_exmem.
         const Self &set_mp_export_exmem(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_mp_export_exmem_get, lumo_tarn_lumo_info_mp_export_exmem_set,
                 value);
         }
+        /// Moves a record into mp_export_exmem.
         const Self &adopt_mp_export_exmem(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_mp_export_exmem_get, lumo_tarn_lumo_info_mp_export_exmem_set,
                 std::move(value));
         }
+        /// The state byte of mp_export_exmem; none if the record has no states.
         std::optional<std::uint8_t> mp_export_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_mp_export_exmem_state_flag_get);
         }
+        /// Writes the state byte of mp_export_exmem.
         const Self &set_mp_export_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_mp_export_exmem_state_flag_set, value);
         }
 
-        // block of the tt export
+        /// Block of the tt export.
         lumo_ui_tarn::exmem_info_ref tt_export_exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_lumo_info_tt_export_exmem_get);
         }
+        /// Writes tt_export_exmem.
         const Self &set_tt_export_exmem(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_lumo_info_tt_export_exmem_get, lumo_tarn_lumo_info_tt_export_exmem_set,
                 value);
         }
+        /// Moves a record into tt_export_exmem.
         const Self &adopt_tt_export_exmem(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_lumo_info_tt_export_exmem_get, lumo_tarn_lumo_info_tt_export_exmem_set,
                 std::move(value));
         }
+        /// The state byte of tt_export_exmem; none if the record has no states.
         std::optional<std::uint8_t> tt_export_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_tt_export_exmem_state_flag_get);
         }
+        /// Writes the state byte of tt_export_exmem.
         const Self &set_tt_export_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_tt_export_exmem_state_flag_set, value);
         }
 
-        // elements in static_exmem
+        /// Elements in static_exmem.
         std::uint8_t num_static_exmems() const { return this->call_(lumo_tarn_lumo_info_num_static_exmems_get_value); }
 
-        // processor's static memory blocks
+        /// Processor's static memory blocks.
         lumo_ui_tarn::array_ref<static_exmem_array> static_exmem() const {
             return this->template array_<static_exmem_array>();
         }
+        /// The state byte of static_exmem; none if the record has no states.
         std::optional<std::uint8_t> static_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_static_exmem_state_flag_whole_get);
         }
+        /// Writes the state byte of static_exmem.
         const Self &set_static_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_static_exmem_state_flag_whole_set, value);
         }
 
-        // elements in dyn_exmem
+        /// Elements in dyn_exmem.
         std::uint8_t num_dyn_exmems() const { return this->call_(lumo_tarn_lumo_info_num_dyn_exmems_get_value); }
 
-        // processor's dynamic memory blocks
+        /// Processor's dynamic memory blocks.
         lumo_ui_tarn::array_ref<dyn_exmem_array> dyn_exmem() const { return this->template array_<dyn_exmem_array>(); }
+        /// The state byte of dyn_exmem; none if the record has no states.
         std::optional<std::uint8_t> dyn_exmem_state() const {
             return this->state_(lumo_tarn_lumo_info_dyn_exmem_state_flag_whole_get);
         }
+        /// Writes the state byte of dyn_exmem.
         const Self &set_dyn_exmem_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_dyn_exmem_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"display_all", &members::display_all, &members::set_display_all,
@@ -2909,56 +3448,65 @@ struct lumo_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_lumo_info.
 using lumo_info = record<lumo_info_type>;
+/// Borrows a lumo_tarn_lumo_info.
 using lumo_info_ref = record_ref<lumo_info_type>;
 
-// ---- lumo_tarn_lumo_info_list: processors of the system
+/// lumo_tarn_lumo_info_list: processors of the system.
 struct lumo_info_list_type {
-    using native = lumo_tarn_lumo_info_list;
-    static constexpr const char *name = "lumo_tarn_lumo_info_list";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_list_create;
-    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;
-    static constexpr auto set = lumo_tarn_lumo_info_list_set;
-    static constexpr auto clone = lumo_tarn_lumo_info_list_clone;
-    static constexpr auto len = lumo_tarn_lumo_info_list_len;
-    static constexpr auto marshal = lumo_tarn_lumo_info_list_marshal;
-    static constexpr auto unmarshal = lumo_tarn_lumo_info_list_unmarshal;
-    static constexpr auto print = lumo_tarn_lumo_info_list_print;
-    static constexpr auto to_xml = lumo_tarn_lumo_info_list_to_xml;
-    static constexpr auto from_xml = lumo_tarn_lumo_info_list_from_xml;
-    static constexpr auto compare = lumo_tarn_lumo_info_list_compare;
-    static constexpr auto hash = lumo_tarn_lumo_info_list_hash;
+    using native = lumo_tarn_lumo_info_list;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_lumo_info_list";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_lumo_info_list_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_lumo_info_list_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_lumo_info_list_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_lumo_info_list_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_lumo_info_list_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_lumo_info_list_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_lumo_info_list_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_lumo_info_list_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_lumo_info_list_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_lumo_info_list_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_lumo_info_list_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_lumo_info_list_set_all_state_tracking_flag;
 
+    /// How lumo_info is read and written, for array_ref.
     struct lumo_info_array {
-        using native = lumo_tarn_lumo_info_list;
-        using element = lumo_ui_tarn::lumo_info_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_lumo_info_list_num_lumos_get_value;
-        static constexpr auto get = lumo_tarn_lumo_info_list_lumo_info_get;
-        static constexpr auto set = lumo_tarn_lumo_info_list_lumo_info_set;
-        static constexpr auto state_get = lumo_tarn_lumo_info_list_lumo_info_state_flag_get;
+        using native = lumo_tarn_lumo_info_list;  ///< the record that has the array
+        using element = lumo_ui_tarn::lumo_info_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_lumo_info_list_num_lumos_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_lumo_info_list_lumo_info_get;  ///< an element
+        static constexpr auto set = lumo_tarn_lumo_info_list_lumo_info_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_lumo_info_list_lumo_info_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_lumo_info_list_lumo_info_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<lumo_info_list_type, Self> {
     public:
         using detail::operations<lumo_info_list_type, Self>::operations;
 
-        // elements in lumo_info
+        /// Elements in lumo_info.
         std::uint32_t num_lumos() const { return this->call_(lumo_tarn_lumo_info_list_num_lumos_get_value); }
 
-        // one element for each processor
+        /// One element for each processor.
         lumo_ui_tarn::array_ref<lumo_info_array> lumo_info() const { return this->template array_<lumo_info_array>(); }
+        /// The state byte of lumo_info; none if the record has no states.
         std::optional<std::uint8_t> lumo_info_state() const {
             return this->state_(lumo_tarn_lumo_info_list_lumo_info_state_flag_whole_get);
         }
+        /// Writes the state byte of lumo_info.
         const Self &set_lumo_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_lumo_info_list_lumo_info_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"num_lumos", &members::num_lumos, nullptr, nullptr, nullptr});
@@ -2967,210 +3515,258 @@ struct lumo_info_list_type {
         }
     };
 };
+/// Owns a lumo_tarn_lumo_info_list.
 using lumo_info_list = record<lumo_info_list_type>;
+/// Borrows a lumo_tarn_lumo_info_list.
 using lumo_info_list_ref = record_ref<lumo_info_list_type>;
 
-// ---- lumo_tarn_global_info: what holds for the whole client process
+/// lumo_tarn_global_info: what holds for the whole client process.
 struct global_info_type {
-    using native = lumo_tarn_global_info;
-    static constexpr const char *name = "lumo_tarn_global_info";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_global_info_create;
-    static constexpr auto destroy = lumo_tarn_global_info_destroy;
-    static constexpr auto set = lumo_tarn_global_info_set;
-    static constexpr auto clone = lumo_tarn_global_info_clone;
-    static constexpr auto len = lumo_tarn_global_info_len;
-    static constexpr auto marshal = lumo_tarn_global_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_global_info_unmarshal;
-    static constexpr auto print = lumo_tarn_global_info_print;
-    static constexpr auto to_xml = lumo_tarn_global_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_global_info_from_xml;
-    static constexpr auto compare = lumo_tarn_global_info_compare;
-    static constexpr auto hash = lumo_tarn_global_info_hash;
+    using native = lumo_tarn_global_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_global_info";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_global_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_global_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_global_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_global_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_global_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_global_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_global_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_global_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_global_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_global_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_global_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_global_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_global_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<global_info_type, Self> {
     public:
         using detail::operations<global_info_type, Self>::operations;
 
-        // show: everything
+        /// Show: everything.
         bool display_all() const { return this->call_(lumo_tarn_global_info_display_all_get_value) != 0; }
+        /// Writes display_all.
         const Self &set_display_all(bool value) const {
             return this->write_(lumo_tarn_global_info_display_all_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_all; none if the record has no states.
         std::optional<std::uint8_t> display_all_state() const {
             return this->state_(lumo_tarn_global_info_display_all_state_flag_get);
         }
+        /// Writes the state byte of display_all.
         const Self &set_display_all_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_display_all_state_flag_set, value);
         }
 
-        // show: the platform configuration
+        /// Show: the platform configuration.
         bool display_plat_cfg() const { return this->call_(lumo_tarn_global_info_display_plat_cfg_get_value) != 0; }
+        /// Writes display_plat_cfg.
         const Self &set_display_plat_cfg(bool value) const {
             return this->write_(lumo_tarn_global_info_display_plat_cfg_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_plat_cfg; none if the record has no states.
         std::optional<std::uint8_t> display_plat_cfg_state() const {
             return this->state_(lumo_tarn_global_info_display_plat_cfg_state_flag_get);
         }
+        /// Writes the state byte of display_plat_cfg.
         const Self &set_display_plat_cfg_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_display_plat_cfg_state_flag_set, value);
         }
 
-        // show: the process context
+        /// Show: the process context.
         bool display_proc_ctx() const { return this->call_(lumo_tarn_global_info_display_proc_ctx_get_value) != 0; }
+        /// Writes display_proc_ctx.
         const Self &set_display_proc_ctx(bool value) const {
             return this->write_(lumo_tarn_global_info_display_proc_ctx_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_proc_ctx; none if the record has no states.
         std::optional<std::uint8_t> display_proc_ctx_state() const {
             return this->state_(lumo_tarn_global_info_display_proc_ctx_state_flag_get);
         }
+        /// Writes the state byte of display_proc_ctx.
         const Self &set_display_proc_ctx_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_display_proc_ctx_state_flag_set, value);
         }
 
-        // flag word: the platform configuration has been set
+        /// Flag word: the platform configuration has been set.
         std::uint32_t platform_cfg_set() const { return this->call_(lumo_tarn_global_info_platform_cfg_set_get_value); }
+        /// Writes platform_cfg_set.
         const Self &set_platform_cfg_set(std::uint32_t value) const {
             return this->write_(lumo_tarn_global_info_platform_cfg_set_set_value, value);
         }
+        /// The state byte of platform_cfg_set; none if the record has no states.
         std::optional<std::uint8_t> platform_cfg_set_state() const {
             return this->state_(lumo_tarn_global_info_platform_cfg_set_state_flag_get);
         }
+        /// Writes the state byte of platform_cfg_set.
         const Self &set_platform_cfg_set_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_platform_cfg_set_state_flag_set, value);
         }
 
-        // maximum number of tt cache entries
+        /// Maximum number of tt cache entries.
         std::uint32_t max_tt_cache_entries() const {
             return this->call_(lumo_tarn_global_info_max_tt_cache_entries_get_value);
         }
+        /// Writes max_tt_cache_entries.
         const Self &set_max_tt_cache_entries(std::uint32_t value) const {
             return this->write_(lumo_tarn_global_info_max_tt_cache_entries_set_value, value);
         }
+        /// The state byte of max_tt_cache_entries; none if the record has no states.
         std::optional<std::uint8_t> max_tt_cache_entries_state() const {
             return this->state_(lumo_tarn_global_info_max_tt_cache_entries_state_flag_get);
         }
+        /// Writes the state byte of max_tt_cache_entries.
         const Self &set_max_tt_cache_entries_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_max_tt_cache_entries_state_flag_set, value);
         }
 
-        // maximum number of mp cache entries
+        /// Maximum number of mp cache entries.
         std::uint32_t max_mp_cache_entries() const {
             return this->call_(lumo_tarn_global_info_max_mp_cache_entries_get_value);
         }
+        /// Writes max_mp_cache_entries.
         const Self &set_max_mp_cache_entries(std::uint32_t value) const {
             return this->write_(lumo_tarn_global_info_max_mp_cache_entries_set_value, value);
         }
+        /// The state byte of max_mp_cache_entries; none if the record has no states.
         std::optional<std::uint8_t> max_mp_cache_entries_state() const {
             return this->state_(lumo_tarn_global_info_max_mp_cache_entries_state_flag_get);
         }
+        /// Writes the state byte of max_mp_cache_entries.
         const Self &set_max_mp_cache_entries_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_max_mp_cache_entries_state_flag_set, value);
         }
 
-        // event context of the lumo side
+        /// Event context of the lumo side.
         std::uint64_t lumo_evctx_p() const { return this->call_(lumo_tarn_global_info_lumo_evctx_p_get_value); }
+        /// Writes lumo_evctx_p.
         const Self &set_lumo_evctx_p(std::uint64_t value) const {
             return this->write_(lumo_tarn_global_info_lumo_evctx_p_set_value, value);
         }
+        /// The state byte of lumo_evctx_p; none if the record has no states.
         std::optional<std::uint8_t> lumo_evctx_p_state() const {
             return this->state_(lumo_tarn_global_info_lumo_evctx_p_state_flag_get);
         }
+        /// Writes the state byte of lumo_evctx_p.
         const Self &set_lumo_evctx_p_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_lumo_evctx_p_state_flag_set, value);
         }
 
-        // event context of the smc side
+        /// Event context of the smc side.
         std::uint64_t smc_evctx_p() const { return this->call_(lumo_tarn_global_info_smc_evctx_p_get_value); }
+        /// Writes smc_evctx_p.
         const Self &set_smc_evctx_p(std::uint64_t value) const {
             return this->write_(lumo_tarn_global_info_smc_evctx_p_set_value, value);
         }
+        /// The state byte of smc_evctx_p; none if the record has no states.
         std::optional<std::uint8_t> smc_evctx_p_state() const {
             return this->state_(lumo_tarn_global_info_smc_evctx_p_state_flag_get);
         }
+        /// Writes the state byte of smc_evctx_p.
         const Self &set_smc_evctx_p_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_smc_evctx_p_state_flag_set, value);
         }
 
-        // the listening channel
+        /// The listening channel.
         std::uint64_t listen_chan() const { return this->call_(lumo_tarn_global_info_listen_chan_get_value); }
+        /// Writes listen_chan.
         const Self &set_listen_chan(std::uint64_t value) const {
             return this->write_(lumo_tarn_global_info_listen_chan_set_value, value);
         }
+        /// The state byte of listen_chan; none if the record has no states.
         std::optional<std::uint8_t> listen_chan_state() const {
             return this->state_(lumo_tarn_global_info_listen_chan_state_flag_get);
         }
+        /// Writes the state byte of listen_chan.
         const Self &set_listen_chan_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_listen_chan_state_flag_set, value);
         }
 
-        // flag word: high availability initialised
+        /// Flag word: high availability initialised.
         std::uint32_t ha_init() const { return this->call_(lumo_tarn_global_info_ha_init_get_value); }
+        /// Writes ha_init.
         const Self &set_ha_init(std::uint32_t value) const {
             return this->write_(lumo_tarn_global_info_ha_init_set_value, value);
         }
+        /// The state byte of ha_init; none if the record has no states.
         std::optional<std::uint8_t> ha_init_state() const {
             return this->state_(lumo_tarn_global_info_ha_init_state_flag_get);
         }
+        /// Writes the state byte of ha_init.
         const Self &set_ha_init_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_ha_init_state_flag_set, value);
         }
 
-        // flag word named mdr
+        /// Flag word named mdr.
         std::uint32_t mdr() const { return this->call_(lumo_tarn_global_info_mdr_get_value); }
+        /// Writes mdr.
         const Self &set_mdr(std::uint32_t value) const {
             return this->write_(lumo_tarn_global_info_mdr_set_value, value);
         }
+        /// The state byte of mdr; none if the record has no states.
         std::optional<std::uint8_t> mdr_state() const { return this->state_(lumo_tarn_global_info_mdr_state_flag_get); }
+        /// Writes the state byte of mdr.
         const Self &set_mdr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_mdr_state_flag_set, value);
         }
 
-        // number of processors
+        /// Number of processors.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_global_info_num_lumos_get_value); }
+        /// Writes num_lumos.
         const Self &set_num_lumos(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_num_lumos_set_value, value);
         }
+        /// The state byte of num_lumos; none if the record has no states.
         std::optional<std::uint8_t> num_lumos_state() const {
             return this->state_(lumo_tarn_global_info_num_lumos_state_flag_get);
         }
+        /// Writes the state byte of num_lumos.
         const Self &set_num_lumos_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_num_lumos_state_flag_set, value);
         }
 
-        // number of complexes
+        /// Number of complexes.
         std::uint8_t num_complexes() const { return this->call_(lumo_tarn_global_info_num_complexes_get_value); }
+        /// Writes num_complexes.
         const Self &set_num_complexes(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_num_complexes_set_value, value);
         }
+        /// The state byte of num_complexes; none if the record has no states.
         std::optional<std::uint8_t> num_complexes_state() const {
             return this->state_(lumo_tarn_global_info_num_complexes_state_flag_get);
         }
+        /// Writes the state byte of num_complexes.
         const Self &set_num_complexes_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_num_complexes_state_flag_set, value);
         }
 
-        // per-processor records
+        /// Per-processor records.
         lumo_ui_tarn::lumo_info_list_ref lumo_info_list() const {
             return this->template nested_<lumo_ui_tarn::lumo_info_list_type>(lumo_tarn_global_info_lumo_info_list_get);
         }
+        /// Writes lumo_info_list.
         const Self &set_lumo_info_list(lumo_ui_tarn::lumo_info_list_ref value) const {
             return this->assign_(lumo_tarn_global_info_lumo_info_list_get, lumo_tarn_global_info_lumo_info_list_set,
                 value);
         }
+        /// Moves a record into lumo_info_list.
         const Self &adopt_lumo_info_list(lumo_ui_tarn::lumo_info_list &&value) const {
             return this->adopt_(lumo_tarn_global_info_lumo_info_list_get, lumo_tarn_global_info_lumo_info_list_set,
                 std::move(value));
         }
+        /// The state byte of lumo_info_list; none if the record has no states.
         std::optional<std::uint8_t> lumo_info_list_state() const {
             return this->state_(lumo_tarn_global_info_lumo_info_list_state_flag_get);
         }
+        /// Writes the state byte of lumo_info_list.
         const Self &set_lumo_info_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_global_info_lumo_info_list_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"display_all", &members::display_all, &members::set_display_all,
@@ -3206,131 +3802,158 @@ struct global_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_global_info.
 using global_info = record<global_info_type>;
+/// Borrows a lumo_tarn_global_info.
 using global_info_ref = record_ref<global_info_type>;
 
-// ---- lumo_tarn_cl_cfg_data: state of the client side as a whole
+/// lumo_tarn_cl_cfg_data: state of the client side as a whole.
 struct cl_cfg_data_type {
-    using native = lumo_tarn_cl_cfg_data;
-    static constexpr const char *name = "lumo_tarn_cl_cfg_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_cl_cfg_data_create;
-    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;
-    static constexpr auto set = lumo_tarn_cl_cfg_data_set;
-    static constexpr auto clone = lumo_tarn_cl_cfg_data_clone;
-    static constexpr auto len = lumo_tarn_cl_cfg_data_len;
-    static constexpr auto marshal = lumo_tarn_cl_cfg_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_cl_cfg_data_unmarshal;
-    static constexpr auto print = lumo_tarn_cl_cfg_data_print;
-    static constexpr auto to_xml = lumo_tarn_cl_cfg_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_cl_cfg_data_from_xml;
-    static constexpr auto compare = lumo_tarn_cl_cfg_data_compare;
-    static constexpr auto hash = lumo_tarn_cl_cfg_data_hash;
+    using native = lumo_tarn_cl_cfg_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_cl_cfg_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_cl_cfg_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_cl_cfg_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_cl_cfg_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_cl_cfg_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_cl_cfg_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_cl_cfg_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_cl_cfg_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_cl_cfg_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_cl_cfg_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_cl_cfg_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_cl_cfg_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_cfg_data_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<cl_cfg_data_type, Self> {
     public:
         using detail::operations<cl_cfg_data_type, Self>::operations;
 
-        // show: everything
+        /// Show: everything.
         bool display_all() const { return this->call_(lumo_tarn_cl_cfg_data_display_all_get_value) != 0; }
+        /// Writes display_all.
         const Self &set_display_all(bool value) const {
             return this->write_(lumo_tarn_cl_cfg_data_display_all_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_all; none if the record has no states.
         std::optional<std::uint8_t> display_all_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_display_all_state_flag_get);
         }
+        /// Writes the state byte of display_all.
         const Self &set_display_all_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_display_all_state_flag_set, value);
         }
 
-        // show: the smc part
+        /// Show: the smc part.
         bool display_smc() const { return this->call_(lumo_tarn_cl_cfg_data_display_smc_get_value) != 0; }
+        /// Writes display_smc.
         const Self &set_display_smc(bool value) const {
             return this->write_(lumo_tarn_cl_cfg_data_display_smc_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_smc; none if the record has no states.
         std::optional<std::uint8_t> display_smc_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_display_smc_state_flag_get);
         }
+        /// Writes the state byte of display_smc.
         const Self &set_display_smc_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_display_smc_state_flag_set, value);
         }
 
-        // global record
+        /// Global record.
         lumo_ui_tarn::global_info_ref global_info() const {
             return this->template nested_<lumo_ui_tarn::global_info_type>(lumo_tarn_cl_cfg_data_global_info_get);
         }
+        /// Writes global_info.
         const Self &set_global_info(lumo_ui_tarn::global_info_ref value) const {
             return this->assign_(lumo_tarn_cl_cfg_data_global_info_get, lumo_tarn_cl_cfg_data_global_info_set, value);
         }
+        /// Moves a record into global_info.
         const Self &adopt_global_info(lumo_ui_tarn::global_info &&value) const {
             return this->adopt_(lumo_tarn_cl_cfg_data_global_info_get, lumo_tarn_cl_cfg_data_global_info_set,
                 std::move(value));
         }
+        /// The state byte of global_info; none if the record has no states.
         std::optional<std::uint8_t> global_info_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_global_info_state_flag_get);
         }
+        /// Writes the state byte of global_info.
         const Self &set_global_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_global_info_state_flag_set, value);
         }
 
-        // flag word: the smc queue is initialised
+        /// Flag word: the smc queue is initialised.
         std::uint32_t tarn_smc_queue_initialized() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_get_value);
         }
+        /// Writes tarn_smc_queue_initialized.
         const Self &set_tarn_smc_queue_initialized(std::uint32_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_set_value, value);
         }
+        /// The state byte of tarn_smc_queue_initialized; none if the record has no states.
         std::optional<std::uint8_t> tarn_smc_queue_initialized_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_state_flag_get);
         }
+        /// Writes the state byte of tarn_smc_queue_initialized.
         const Self &set_tarn_smc_queue_initialized_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_state_flag_set, value);
         }
 
-        // size of the smc queue
+        /// Size of the smc queue.
         std::uint64_t tarn_smc_queue_size() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get_value);
         }
+        /// Writes tarn_smc_queue_size.
         const Self &set_tarn_smc_queue_size(std::uint64_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_set_value, value);
         }
+        /// The state byte of tarn_smc_queue_size; none if the record has no states.
         std::optional<std::uint8_t> tarn_smc_queue_size_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_state_flag_get);
         }
+        /// Writes the state byte of tarn_smc_queue_size.
         const Self &set_tarn_smc_queue_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_state_flag_set, value);
         }
 
-        // blocked flags of the smc queue
+        /// Blocked flags of the smc queue.
         std::uint32_t tarn_smc_blocked_flags() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_get_value);
         }
+        /// Writes tarn_smc_blocked_flags.
         const Self &set_tarn_smc_blocked_flags(std::uint32_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_set_value, value);
         }
+        /// The state byte of tarn_smc_blocked_flags; none if the record has no states.
         std::optional<std::uint8_t> tarn_smc_blocked_flags_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_state_flag_get);
         }
+        /// Writes the state byte of tarn_smc_blocked_flags.
         const Self &set_tarn_smc_blocked_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_state_flag_set, value);
         }
 
-        // number of warnings on the queue's size
+        /// Number of warnings on the queue's size.
         std::uint64_t tarn_smc_queue_size_warn_count() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_get_value);
         }
+        /// Writes tarn_smc_queue_size_warn_count.
         const Self &set_tarn_smc_queue_size_warn_count(std::uint64_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_set_value, value);
         }
+        /// The state byte of tarn_smc_queue_size_warn_count; none if the record has no states.
         std::optional<std::uint8_t> tarn_smc_queue_size_warn_count_state() const {
             return this->state_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_state_flag_get);
         }
+        /// Writes the state byte of tarn_smc_queue_size_warn_count.
         const Self &set_tarn_smc_queue_size_warn_count_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"display_all", &members::display_all, &members::set_display_all,
@@ -3354,45 +3977,53 @@ struct cl_cfg_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_cl_cfg_data.
 using cl_cfg_data = record<cl_cfg_data_type>;
+/// Borrows a lumo_tarn_cl_cfg_data.
 using cl_cfg_data_ref = record_ref<cl_cfg_data_type>;
 
-// ---- lumo_tarn_dp_wexa_info: flags of a wexa entry
+/// lumo_tarn_dp_wexa_info: flags of a wexa entry.
 struct dp_wexa_info_type {
-    using native = lumo_tarn_dp_wexa_info;
-    static constexpr const char *name = "lumo_tarn_dp_wexa_info";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_wexa_info_create;
-    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;
-    static constexpr auto set = lumo_tarn_dp_wexa_info_set;
-    static constexpr auto clone = lumo_tarn_dp_wexa_info_clone;
-    static constexpr auto len = lumo_tarn_dp_wexa_info_len;
-    static constexpr auto marshal = lumo_tarn_dp_wexa_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_wexa_info_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_wexa_info_print;
-    static constexpr auto to_xml = lumo_tarn_dp_wexa_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_wexa_info_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_wexa_info_compare;
-    static constexpr auto hash = lumo_tarn_dp_wexa_info_hash;
+    using native = lumo_tarn_dp_wexa_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_wexa_info";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_wexa_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_wexa_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_wexa_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_wexa_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_wexa_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_wexa_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_wexa_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_wexa_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_wexa_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_wexa_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_wexa_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_wexa_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_wexa_info_type, Self> {
     public:
         using detail::operations<dp_wexa_info_type, Self>::operations;
 
-        // flags of the wexa entry
+        /// Flags of the wexa entry.
         std::uint32_t flags() const { return this->call_(lumo_tarn_dp_wexa_info_flags_get_value); }
+        /// Writes flags.
         const Self &set_flags(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_wexa_info_flags_set_value, value);
         }
+        /// The state byte of flags; none if the record has no states.
         std::optional<std::uint8_t> flags_state() const {
             return this->state_(lumo_tarn_dp_wexa_info_flags_state_flag_get);
         }
+        /// Writes the state byte of flags.
         const Self &set_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_wexa_info_flags_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"flags", &members::flags, &members::set_flags, &members::flags_state,
@@ -3400,113 +4031,135 @@ struct dp_wexa_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_wexa_info.
 using dp_wexa_info = record<dp_wexa_info_type>;
+/// Borrows a lumo_tarn_dp_wexa_info.
 using dp_wexa_info_ref = record_ref<dp_wexa_info_type>;
 
-// ---- lumo_tarn_dp_lumo_wexa_info: two wexa entries of one processor
+/// lumo_tarn_dp_lumo_wexa_info: two wexa entries of one processor.
 struct dp_lumo_wexa_info_type {
-    using native = lumo_tarn_dp_lumo_wexa_info;
-    static constexpr const char *name = "lumo_tarn_dp_lumo_wexa_info";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;
-    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;
-    static constexpr auto set = lumo_tarn_dp_lumo_wexa_info_set;
-    static constexpr auto clone = lumo_tarn_dp_lumo_wexa_info_clone;
-    static constexpr auto len = lumo_tarn_dp_lumo_wexa_info_len;
-    static constexpr auto marshal = lumo_tarn_dp_lumo_wexa_info_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_lumo_wexa_info_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_lumo_wexa_info_print;
-    static constexpr auto to_xml = lumo_tarn_dp_lumo_wexa_info_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_lumo_wexa_info_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_lumo_wexa_info_compare;
-    static constexpr auto hash = lumo_tarn_dp_lumo_wexa_info_hash;
+    using native = lumo_tarn_dp_lumo_wexa_info;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_lumo_wexa_info";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_lumo_wexa_info_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_lumo_wexa_info_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_lumo_wexa_info_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_lumo_wexa_info_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_lumo_wexa_info_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_lumo_wexa_info_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_lumo_wexa_info_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_lumo_wexa_info_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_lumo_wexa_info_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_lumo_wexa_info_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_lumo_wexa_info_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_lumo_wexa_info_type, Self> {
     public:
         using detail::operations<dp_lumo_wexa_info_type, Self>::operations;
 
-        // number of the lumo processor
+        /// Number of the lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_lumo_wexa_info_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_dp_lumo_wexa_info_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_lumo_num_state_flag_set, value);
         }
 
-        // says whether in_wexa holds a value
+        /// Says whether in_wexa holds a value.
         bool in_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_get_value) != 0;
         }
+        /// Writes in_wexa_is_valid.
         const Self &set_in_wexa_is_valid(bool value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_set_value,
                 static_cast<std::uint8_t>(value));
         }
+        /// The state byte of in_wexa_is_valid; none if the record has no states.
         std::optional<std::uint8_t> in_wexa_is_valid_state() const {
             return this->state_(lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_state_flag_get);
         }
+        /// Writes the state byte of in_wexa_is_valid.
         const Self &set_in_wexa_is_valid_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_state_flag_set, value);
         }
 
-        // ingress entry
+        /// Ingress entry.
         lumo_ui_tarn::dp_wexa_info_ref in_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_wexa_info_type>(lumo_tarn_dp_lumo_wexa_info_in_wexa_get);
         }
+        /// Writes in_wexa.
         const Self &set_in_wexa(lumo_ui_tarn::dp_wexa_info_ref value) const {
             return this->assign_(lumo_tarn_dp_lumo_wexa_info_in_wexa_get, lumo_tarn_dp_lumo_wexa_info_in_wexa_set,
                 value);
         }
+        /// Moves a record into in_wexa.
         const Self &adopt_in_wexa(lumo_ui_tarn::dp_wexa_info &&value) const {
             return this->adopt_(lumo_tarn_dp_lumo_wexa_info_in_wexa_get, lumo_tarn_dp_lumo_wexa_info_in_wexa_set,
                 std::move(value));
         }
+        /// The state byte of in_wexa; none if the record has no states.
         std::optional<std::uint8_t> in_wexa_state() const {
             return this->state_(lumo_tarn_dp_lumo_wexa_info_in_wexa_state_flag_get);
         }
+        /// Writes the state byte of in_wexa.
         const Self &set_in_wexa_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_in_wexa_state_flag_set, value);
         }
 
-        // says whether out_wexa holds a value
+        /// Says whether out_wexa holds a value.
         bool out_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_get_value) != 0;
         }
+        /// Writes out_wexa_is_valid.
         const Self &set_out_wexa_is_valid(bool value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_set_value,
                 static_cast<std::uint8_t>(value));
         }
+        /// The state byte of out_wexa_is_valid; none if the record has no states.
         std::optional<std::uint8_t> out_wexa_is_valid_state() const {
             return this->state_(lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_state_flag_get);
         }
+        /// Writes the state byte of out_wexa_is_valid.
         const Self &set_out_wexa_is_valid_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_state_flag_set, value);
         }
 
-        // egress entry
+        /// Egress entry.
         lumo_ui_tarn::dp_wexa_info_ref out_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_wexa_info_type>(lumo_tarn_dp_lumo_wexa_info_out_wexa_get);
         }
+        /// Writes out_wexa.
         const Self &set_out_wexa(lumo_ui_tarn::dp_wexa_info_ref value) const {
             return this->assign_(lumo_tarn_dp_lumo_wexa_info_out_wexa_get, lumo_tarn_dp_lumo_wexa_info_out_wexa_set,
                 value);
         }
+        /// Moves a record into out_wexa.
         const Self &adopt_out_wexa(lumo_ui_tarn::dp_wexa_info &&value) const {
             return this->adopt_(lumo_tarn_dp_lumo_wexa_info_out_wexa_get, lumo_tarn_dp_lumo_wexa_info_out_wexa_set,
                 std::move(value));
         }
+        /// The state byte of out_wexa; none if the record has no states.
         std::optional<std::uint8_t> out_wexa_state() const {
             return this->state_(lumo_tarn_dp_lumo_wexa_info_out_wexa_state_flag_get);
         }
+        /// Writes the state byte of out_wexa.
         const Self &set_out_wexa_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_lumo_wexa_info_out_wexa_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"lumo_num", &members::lumo_num, &members::set_lumo_num, &members::lumo_num_state,
@@ -3523,132 +4176,157 @@ struct dp_lumo_wexa_info_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_lumo_wexa_info.
 using dp_lumo_wexa_info = record<dp_lumo_wexa_info_type>;
+/// Borrows a lumo_tarn_dp_lumo_wexa_info.
 using dp_lumo_wexa_info_ref = record_ref<dp_lumo_wexa_info_type>;
 
-// ---- lumo_tarn_dp_intf_data: state of the feature on one interface
+/// lumo_tarn_dp_intf_data: state of the feature on one interface.
 struct dp_intf_data_type {
-    using native = lumo_tarn_dp_intf_data;
-    static constexpr const char *name = "lumo_tarn_dp_intf_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_intf_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_intf_data_set;
-    static constexpr auto clone = lumo_tarn_dp_intf_data_clone;
-    static constexpr auto len = lumo_tarn_dp_intf_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_intf_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_intf_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_intf_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_intf_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_intf_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_intf_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_intf_data_hash;
+    using native = lumo_tarn_dp_intf_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_intf_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_intf_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_intf_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_intf_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_intf_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_intf_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_intf_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_intf_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_intf_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_intf_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_intf_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_intf_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_intf_data_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_intf_data_type, Self> {
     public:
         using detail::operations<dp_intf_data_type, Self>::operations;
 
-        // says whether intf_name holds a value
+        /// Says whether intf_name holds a value.
         bool intf_name_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_intf_name_is_valid_get_value) != 0;
         }
+        /// Writes intf_name_is_valid.
         const Self &set_intf_name_is_valid(bool value) const {
             return this->write_(lumo_tarn_dp_intf_data_intf_name_is_valid_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of intf_name_is_valid; none if the record has no states.
         std::optional<std::uint8_t> intf_name_is_valid_state() const {
             return this->state_(lumo_tarn_dp_intf_data_intf_name_is_valid_state_flag_get);
         }
+        /// Writes the state byte of intf_name_is_valid.
         const Self &set_intf_name_is_valid_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_intf_name_is_valid_state_flag_set, value);
         }
 
-        // length of intf_name in bytes
+        /// Length of intf_name in bytes.
         std::uint16_t intf_name_len() const { return this->call_(lumo_tarn_dp_intf_data_intf_name_len_get_value); }
 
-        // name of the interface
+        /// Name of the interface.
         std::string intf_name() const {
             return this->string_(lumo_tarn_dp_intf_data_intf_name_len_get_value, lumo_tarn_dp_intf_data_intf_name_get);
         }
+        /// Writes intf_name.
         const Self &set_intf_name(std::string_view text) const {
             return this->write_string_(lumo_tarn_dp_intf_data_intf_name_set, text);
         }
+        /// The state byte of intf_name; none if the record has no states.
         std::optional<std::uint8_t> intf_name_state() const {
             return this->state_(lumo_tarn_dp_intf_data_intf_name_state_flag_get);
         }
+        /// Writes the state byte of intf_name.
         const Self &set_intf_name_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_intf_name_state_flag_set, value);
         }
 
-        // says whether in_lumo_wexa holds a value
+        /// Says whether in_lumo_wexa holds a value.
         bool in_lumo_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get_value) != 0;
         }
+        /// Writes in_lumo_wexa_is_valid.
         const Self &set_in_lumo_wexa_is_valid(bool value) const {
             return this->write_(lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_set_value,
                 static_cast<std::uint8_t>(value));
         }
+        /// The state byte of in_lumo_wexa_is_valid; none if the record has no states.
         std::optional<std::uint8_t> in_lumo_wexa_is_valid_state() const {
             return this->state_(lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_state_flag_get);
         }
+        /// Writes the state byte of in_lumo_wexa_is_valid.
         const Self &set_in_lumo_wexa_is_valid_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_state_flag_set, value);
         }
 
-        // ingress side
+        /// Ingress side.
         lumo_ui_tarn::dp_lumo_wexa_info_ref in_lumo_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_lumo_wexa_info_type>(lumo_tarn_dp_intf_data_in_lumo_wexa_get);
         }
+        /// Writes in_lumo_wexa.
         const Self &set_in_lumo_wexa(lumo_ui_tarn::dp_lumo_wexa_info_ref value) const {
             return this->assign_(lumo_tarn_dp_intf_data_in_lumo_wexa_get, lumo_tarn_dp_intf_data_in_lumo_wexa_set,
                 value);
         }
+        /// Moves a record into in_lumo_wexa.
         const Self &adopt_in_lumo_wexa(lumo_ui_tarn::dp_lumo_wexa_info &&value) const {
             return this->adopt_(lumo_tarn_dp_intf_data_in_lumo_wexa_get, lumo_tarn_dp_intf_data_in_lumo_wexa_set,
                 std::move(value));
         }
+        /// The state byte of in_lumo_wexa; none if the record has no states.
         std::optional<std::uint8_t> in_lumo_wexa_state() const {
             return this->state_(lumo_tarn_dp_intf_data_in_lumo_wexa_state_flag_get);
         }
+        /// Writes the state byte of in_lumo_wexa.
         const Self &set_in_lumo_wexa_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_in_lumo_wexa_state_flag_set, value);
         }
 
-        // says whether out_lumo_wexa holds a value
+        /// Says whether out_lumo_wexa holds a value.
         bool out_lumo_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get_value) != 0;
         }
+        /// Writes out_lumo_wexa_is_valid.
         const Self &set_out_lumo_wexa_is_valid(bool value) const {
             return this->write_(lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_set_value,
                 static_cast<std::uint8_t>(value));
         }
+        /// The state byte of out_lumo_wexa_is_valid; none if the record has no states.
         std::optional<std::uint8_t> out_lumo_wexa_is_valid_state() const {
             return this->state_(lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_state_flag_get);
         }
+        /// Writes the state byte of out_lumo_wexa_is_valid.
         const Self &set_out_lumo_wexa_is_valid_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_state_flag_set, value);
         }
 
-        // egress side
+        /// Egress side.
         lumo_ui_tarn::dp_lumo_wexa_info_ref out_lumo_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_lumo_wexa_info_type>(lumo_tarn_dp_intf_data_out_lumo_wexa_get);
         }
+        /// Writes out_lumo_wexa.
         const Self &set_out_lumo_wexa(lumo_ui_tarn::dp_lumo_wexa_info_ref value) const {
             return this->assign_(lumo_tarn_dp_intf_data_out_lumo_wexa_get, lumo_tarn_dp_intf_data_out_lumo_wexa_set,
                 value);
         }
+        /// Moves a record into out_lumo_wexa.
         const Self &adopt_out_lumo_wexa(lumo_ui_tarn::dp_lumo_wexa_info &&value) const {
             return this->adopt_(lumo_tarn_dp_intf_data_out_lumo_wexa_get, lumo_tarn_dp_intf_data_out_lumo_wexa_set,
                 std::move(value));
         }
+        /// The state byte of out_lumo_wexa; none if the record has no states.
         std::optional<std::uint8_t> out_lumo_wexa_state() const {
             return this->state_(lumo_tarn_dp_intf_data_out_lumo_wexa_state_flag_get);
         }
+        /// Writes the state byte of out_lumo_wexa.
         const Self &set_out_lumo_wexa_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_intf_data_out_lumo_wexa_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"intf_name_is_valid", &members::intf_name_is_valid,
@@ -3670,198 +4348,243 @@ struct dp_intf_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_intf_data.
 using dp_intf_data = record<dp_intf_data_type>;
+/// Borrows a lumo_tarn_dp_intf_data.
 using dp_intf_data_ref = record_ref<dp_intf_data_type>;
 
-// ---- lumo_tarn_dp_appl_sig: one signature
+/// lumo_tarn_dp_appl_sig: one signature.
 struct dp_appl_sig_type {
-    using native = lumo_tarn_dp_appl_sig;
-    static constexpr const char *name = "lumo_tarn_dp_appl_sig";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_sig_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;
-    static constexpr auto set = lumo_tarn_dp_appl_sig_set;
-    static constexpr auto clone = lumo_tarn_dp_appl_sig_clone;
-    static constexpr auto len = lumo_tarn_dp_appl_sig_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_sig_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_sig_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_appl_sig_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_sig_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_sig_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_appl_sig_compare;
-    static constexpr auto hash = lumo_tarn_dp_appl_sig_hash;
+    using native = lumo_tarn_dp_appl_sig;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_appl_sig";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_appl_sig_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_appl_sig_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_appl_sig_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_appl_sig_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_sig_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_sig_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_sig_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_sig_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_sig_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_appl_sig_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_appl_sig_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_sig_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_appl_sig_type, Self> {
     public:
         using detail::operations<dp_appl_sig_type, Self>::operations;
 
-        // where the signature lies in memory
+        /// Where the signature lies in memory.
         lumo_ui_tarn::exmem_info_ref exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_sig_exmem_info_get);
         }
+        /// Writes exmem_info.
         const Self &set_exmem_info(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_appl_sig_exmem_info_get, lumo_tarn_dp_appl_sig_exmem_info_set, value);
         }
+        /// Moves a record into exmem_info.
         const Self &adopt_exmem_info(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_appl_sig_exmem_info_get, lumo_tarn_dp_appl_sig_exmem_info_set,
                 std::move(value));
         }
+        /// The state byte of exmem_info; none if the record has no states.
         std::optional<std::uint8_t> exmem_info_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_exmem_info_state_flag_get);
         }
+        /// Writes the state byte of exmem_info.
         const Self &set_exmem_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_exmem_info_state_flag_set, value);
         }
 
-        // bucket of the data plane's hash in which the signature lies
+        /// Bucket of the data plane's hash in which the signature lies.
         std::uint32_t dp_hash_bucket() const { return this->call_(lumo_tarn_dp_appl_sig_dp_hash_bucket_get_value); }
+        /// Writes dp_hash_bucket.
         const Self &set_dp_hash_bucket(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dp_hash_bucket_set_value, value);
         }
+        /// The state byte of dp_hash_bucket; none if the record has no states.
         std::optional<std::uint8_t> dp_hash_bucket_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_dp_hash_bucket_state_flag_get);
         }
+        /// Writes the state byte of dp_hash_bucket.
         const Self &set_dp_hash_bucket_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dp_hash_bucket_state_flag_set, value);
         }
 
-        // identifier of the signature in the adaptation layer
+        /// Identifier of the signature in the adaptation layer.
         std::uint32_t pal_id() const { return this->call_(lumo_tarn_dp_appl_sig_pal_id_get_value); }
+        /// Writes pal_id.
         const Self &set_pal_id(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_pal_id_set_value, value);
         }
+        /// The state byte of pal_id; none if the record has no states.
         std::optional<std::uint8_t> pal_id_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_pal_id_state_flag_get);
         }
+        /// Writes the state byte of pal_id.
         const Self &set_pal_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_pal_id_state_flag_set, value);
         }
 
-        // length of appl_name in bytes
+        /// Length of appl_name in bytes.
         std::uint16_t appl_name_len() const { return this->call_(lumo_tarn_dp_appl_sig_appl_name_len_get_value); }
 
-        // name of the application
+        /// Name of the application.
         std::string appl_name() const {
             return this->string_(lumo_tarn_dp_appl_sig_appl_name_len_get_value, lumo_tarn_dp_appl_sig_appl_name_get);
         }
+        /// Writes appl_name.
         const Self &set_appl_name(std::string_view text) const {
             return this->write_string_(lumo_tarn_dp_appl_sig_appl_name_set, text);
         }
+        /// The state byte of appl_name; none if the record has no states.
         std::optional<std::uint8_t> appl_name_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_appl_name_state_flag_get);
         }
+        /// Writes the state byte of appl_name.
         const Self &set_appl_name_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_appl_name_state_flag_set, value);
         }
 
-        // identifier of the application
+        /// Identifier of the application.
         std::uint16_t appl_id() const { return this->call_(lumo_tarn_dp_appl_sig_appl_id_get_value); }
+        /// Writes appl_id.
         const Self &set_appl_id(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_appl_id_set_value, value);
         }
+        /// The state byte of appl_id; none if the record has no states.
         std::optional<std::uint8_t> appl_id_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_appl_id_state_flag_get);
         }
+        /// Writes the state byte of appl_id.
         const Self &set_appl_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_appl_id_state_flag_set, value);
         }
 
-        // protocol number to match
+        /// Protocol number to match.
         std::uint8_t protocol() const { return this->call_(lumo_tarn_dp_appl_sig_protocol_get_value); }
+        /// Writes protocol.
         const Self &set_protocol(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_protocol_set_value, value);
         }
+        /// The state byte of protocol; none if the record has no states.
         std::optional<std::uint8_t> protocol_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_protocol_state_flag_get);
         }
+        /// Writes the state byte of protocol.
         const Self &set_protocol_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_protocol_state_flag_set, value);
         }
 
-        // type-of-service value to match
+        /// Type-of-service value to match.
         std::uint8_t tos() const { return this->call_(lumo_tarn_dp_appl_sig_tos_get_value); }
+        /// Writes tos.
         const Self &set_tos(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_tos_set_value, value);
         }
+        /// The state byte of tos; none if the record has no states.
         std::optional<std::uint8_t> tos_state() const { return this->state_(lumo_tarn_dp_appl_sig_tos_state_flag_get); }
+        /// Writes the state byte of tos.
         const Self &set_tos_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_tos_state_flag_set, value);
         }
 
-        // flags of the signature
+        /// Flags of the signature.
         std::uint32_t flags() const { return this->call_(lumo_tarn_dp_appl_sig_flags_get_value); }
+        /// Writes flags.
         const Self &set_flags(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_flags_set_value, value);
         }
+        /// The state byte of flags; none if the record has no states.
         std::optional<std::uint8_t> flags_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_flags_state_flag_get);
         }
+        /// Writes the state byte of flags.
         const Self &set_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_flags_state_flag_set, value);
         }
 
-        // low end of the destination port range
+        /// Low end of the destination port range.
         std::uint16_t dport_min() const { return this->call_(lumo_tarn_dp_appl_sig_dport_min_get_value); }
+        /// Writes dport_min.
         const Self &set_dport_min(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dport_min_set_value, value);
         }
+        /// The state byte of dport_min; none if the record has no states.
         std::optional<std::uint8_t> dport_min_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_dport_min_state_flag_get);
         }
+        /// Writes the state byte of dport_min.
         const Self &set_dport_min_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dport_min_state_flag_set, value);
         }
 
-        // high end of the destination port range
+        /// High end of the destination port range.
         std::uint16_t dport_max() const { return this->call_(lumo_tarn_dp_appl_sig_dport_max_get_value); }
+        /// Writes dport_max.
         const Self &set_dport_max(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dport_max_set_value, value);
         }
+        /// The state byte of dport_max; none if the record has no states.
         std::optional<std::uint8_t> dport_max_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_dport_max_state_flag_get);
         }
+        /// Writes the state byte of dport_max.
         const Self &set_dport_max_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_dport_max_state_flag_set, value);
         }
 
-        // low end of the source port range
+        /// Low end of the source port range.
         std::uint16_t sport_min() const { return this->call_(lumo_tarn_dp_appl_sig_sport_min_get_value); }
+        /// Writes sport_min.
         const Self &set_sport_min(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_sport_min_set_value, value);
         }
+        /// The state byte of sport_min; none if the record has no states.
         std::optional<std::uint8_t> sport_min_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_sport_min_state_flag_get);
         }
+        /// Writes the state byte of sport_min.
         const Self &set_sport_min_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_sport_min_state_flag_set, value);
         }
 
-        // high end of the source port range
+        /// High end of the source port range.
         std::uint16_t sport_max() const { return this->call_(lumo_tarn_dp_appl_sig_sport_max_get_value); }
+        /// Writes sport_max.
         const Self &set_sport_max(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_sport_max_set_value, value);
         }
+        /// The state byte of sport_max; none if the record has no states.
         std::optional<std::uint8_t> sport_max_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_sport_max_state_flag_get);
         }
+        /// Writes the state byte of sport_max.
         const Self &set_sport_max_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_sport_max_state_flag_set, value);
         }
 
-        // link to the next signature in the bucket
+        /// Link to the next signature in the bucket.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_appl_sig_next_ptr_get_value); }
+        /// Writes next_ptr.
         const Self &set_next_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_next_ptr_set_value, value);
         }
+        /// The state byte of next_ptr; none if the record has no states.
         std::optional<std::uint8_t> next_ptr_state() const {
             return this->state_(lumo_tarn_dp_appl_sig_next_ptr_state_flag_get);
         }
+        /// Writes the state byte of next_ptr.
         const Self &set_next_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_sig_next_ptr_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"exmem_info", &members::exmem_info, &members::set_exmem_info,
@@ -3894,99 +4617,118 @@ struct dp_appl_sig_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_appl_sig.
 using dp_appl_sig = record<dp_appl_sig_type>;
+/// Borrows a lumo_tarn_dp_appl_sig.
 using dp_appl_sig_ref = record_ref<dp_appl_sig_type>;
 
-// ---- lumo_tarn_dp_appl_cfg: signatures of one processor
+/// lumo_tarn_dp_appl_cfg: signatures of one processor.
 struct dp_appl_cfg_type {
-    using native = lumo_tarn_dp_appl_cfg;
-    static constexpr const char *name = "lumo_tarn_dp_appl_cfg";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;
-    static constexpr auto set = lumo_tarn_dp_appl_cfg_set;
-    static constexpr auto clone = lumo_tarn_dp_appl_cfg_clone;
-    static constexpr auto len = lumo_tarn_dp_appl_cfg_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_cfg_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_cfg_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_appl_cfg_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_cfg_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_cfg_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_appl_cfg_compare;
-    static constexpr auto hash = lumo_tarn_dp_appl_cfg_hash;
+    using native = lumo_tarn_dp_appl_cfg;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_appl_cfg";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_appl_cfg_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_appl_cfg_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_appl_cfg_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_cfg_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_cfg_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_cfg_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_cfg_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_cfg_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_appl_cfg_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_appl_cfg_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_cfg_set_all_state_tracking_flag;
 
+    /// How sig_list is read and written, for array_ref.
     struct sig_list_array {
-        using native = lumo_tarn_dp_appl_cfg;
-        using element = lumo_ui_tarn::dp_appl_sig_type;
-        using count = std::uint32_t;
-        static constexpr auto size = lumo_tarn_dp_appl_cfg_num_sigs_get_value;
-        static constexpr auto get = lumo_tarn_dp_appl_cfg_sig_list_get;
-        static constexpr auto set = lumo_tarn_dp_appl_cfg_sig_list_set;
-        static constexpr auto state_get = lumo_tarn_dp_appl_cfg_sig_list_state_flag_get;
+        using native = lumo_tarn_dp_appl_cfg;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_appl_sig_type;  ///< what it is an array of
+        using count = std::uint32_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_appl_cfg_num_sigs_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_appl_cfg_sig_list_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_appl_cfg_sig_list_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_dp_appl_cfg_sig_list_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_appl_cfg_sig_list_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_appl_cfg_type, Self> {
     public:
         using detail::operations<dp_appl_cfg_type, Self>::operations;
 
-        // show: print the header
+        /// Show: print the header.
         bool show_header() const { return this->call_(lumo_tarn_dp_appl_cfg_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_appl_cfg_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_show_header_state_flag_set, value);
         }
 
-        // number of the lumo processor
+        /// Number of the lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_appl_cfg_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_dp_appl_cfg_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_lumo_num_state_flag_set, value);
         }
 
-        // block of the processor's signature hash
+        /// Block of the processor's signature hash.
         lumo_ui_tarn::exmem_info_ref hash_exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_cfg_hash_exmem_info_get);
         }
+        /// Writes hash_exmem_info.
         const Self &set_hash_exmem_info(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_appl_cfg_hash_exmem_info_get, lumo_tarn_dp_appl_cfg_hash_exmem_info_set,
                 value);
         }
+        /// Moves a record into hash_exmem_info.
         const Self &adopt_hash_exmem_info(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_appl_cfg_hash_exmem_info_get, lumo_tarn_dp_appl_cfg_hash_exmem_info_set,
                 std::move(value));
         }
+        /// The state byte of hash_exmem_info; none if the record has no states.
         std::optional<std::uint8_t> hash_exmem_info_state() const {
             return this->state_(lumo_tarn_dp_appl_cfg_hash_exmem_info_state_flag_get);
         }
+        /// Writes the state byte of hash_exmem_info.
         const Self &set_hash_exmem_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_hash_exmem_info_state_flag_set, value);
         }
 
-        // elements in sig_list
+        /// Elements in sig_list.
         std::uint32_t num_sigs() const { return this->call_(lumo_tarn_dp_appl_cfg_num_sigs_get_value); }
 
-        // signatures
+        /// Signatures.
         lumo_ui_tarn::array_ref<sig_list_array> sig_list() const { return this->template array_<sig_list_array>(); }
+        /// The state byte of sig_list; none if the record has no states.
         std::optional<std::uint8_t> sig_list_state() const {
             return this->state_(lumo_tarn_dp_appl_cfg_sig_list_state_flag_whole_get);
         }
+        /// Writes the state byte of sig_list.
         const Self &set_sig_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_cfg_sig_list_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -4001,68 +4743,80 @@ struct dp_appl_cfg_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_appl_cfg.
 using dp_appl_cfg = record<dp_appl_cfg_type>;
+/// Borrows a lumo_tarn_dp_appl_cfg.
 using dp_appl_cfg_ref = record_ref<dp_appl_cfg_type>;
 
-// ---- lumo_tarn_dp_appl_data: signature tables, one for each processor
+/// lumo_tarn_dp_appl_data: signature tables, one for each processor.
 struct dp_appl_data_type {
-    using native = lumo_tarn_dp_appl_data;
-    static constexpr const char *name = "lumo_tarn_dp_appl_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_appl_data_set;
-    static constexpr auto clone = lumo_tarn_dp_appl_data_clone;
-    static constexpr auto len = lumo_tarn_dp_appl_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_appl_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_appl_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_appl_data_hash;
+    using native = lumo_tarn_dp_appl_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_appl_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_appl_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_appl_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_appl_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_appl_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_appl_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_appl_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_data_set_all_state_tracking_flag;
 
+    /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
-        using native = lumo_tarn_dp_appl_data;
-        using element = lumo_ui_tarn::dp_appl_cfg_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_appl_data_num_lumos_get_value;
-        static constexpr auto get = lumo_tarn_dp_appl_data_lumo_data_get;
-        static constexpr auto set = lumo_tarn_dp_appl_data_lumo_data_set;
-        static constexpr auto state_get = lumo_tarn_dp_appl_data_lumo_data_state_flag_get;
+        using native = lumo_tarn_dp_appl_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_appl_cfg_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_appl_data_num_lumos_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_appl_data_lumo_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_appl_data_lumo_data_set;  ///< writes an element
+        static constexpr auto state_get = lumo_tarn_dp_appl_data_lumo_data_state_flag_get;  ///< an element's state byte
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_appl_data_lumo_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_appl_data_type, Self> {
     public:
         using detail::operations<dp_appl_data_type, Self>::operations;
 
-        // show: print the header
+        /// Show: print the header.
         bool show_header() const { return this->call_(lumo_tarn_dp_appl_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_appl_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_appl_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_data_show_header_state_flag_set, value);
         }
 
-        // elements in lumo_data
+        /// Elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_appl_data_num_lumos_get_value); }
 
-        // one element for each processor
+        /// One element for each processor.
         lumo_ui_tarn::array_ref<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
+        /// The state byte of lumo_data; none if the record has no states.
         std::optional<std::uint8_t> lumo_data_state() const {
             return this->state_(lumo_tarn_dp_appl_data_lumo_data_state_flag_whole_get);
         }
+        /// Writes the state byte of lumo_data.
         const Self &set_lumo_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_appl_data_lumo_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -4073,432 +4827,534 @@ struct dp_appl_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_appl_data.
 using dp_appl_data = record<dp_appl_data_type>;
+/// Borrows a lumo_tarn_dp_appl_data.
 using dp_appl_data_ref = record_ref<dp_appl_data_type>;
 
-// ---- lumo_tarn_dp_tt_table: one traffic table of one processor
+/// lumo_tarn_dp_tt_table: one traffic table of one processor.
 struct dp_tt_table_type {
-    using native = lumo_tarn_dp_tt_table;
-    static constexpr const char *name = "lumo_tarn_dp_tt_table";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_create;
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;
-    static constexpr auto set = lumo_tarn_dp_tt_table_set;
-    static constexpr auto clone = lumo_tarn_dp_tt_table_clone;
-    static constexpr auto len = lumo_tarn_dp_tt_table_len;
-    static constexpr auto marshal = lumo_tarn_dp_tt_table_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_tt_table_print;
-    static constexpr auto to_xml = lumo_tarn_dp_tt_table_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_tt_table_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_tt_table_compare;
-    static constexpr auto hash = lumo_tarn_dp_tt_table_hash;
+    using native = lumo_tarn_dp_tt_table;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_tt_table";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_tt_table_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_tt_table_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_tt_table_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_tt_table_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_tt_table_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_tt_table_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_tt_table_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_tt_table_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_tt_table_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_tt_table_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tt_table_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_tt_table_type, Self> {
     public:
         using detail::operations<dp_tt_table_type, Self>::operations;
 
-        // show: the table's header
+        /// Show: the table's header.
         bool show_header() const { return this->call_(lumo_tarn_dp_tt_table_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_tt_table_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_header_state_flag_set, value);
         }
 
-        // show: the aggregation class list
+        /// Show: the aggregation class list.
         bool show_agg_list() const { return this->call_(lumo_tarn_dp_tt_table_show_agg_list_get_value) != 0; }
+        /// Writes show_agg_list.
         const Self &set_show_agg_list(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_agg_list_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_agg_list; none if the record has no states.
         std::optional<std::uint8_t> show_agg_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_show_agg_list_state_flag_get);
         }
+        /// Writes the state byte of show_agg_list.
         const Self &set_show_agg_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_agg_list_state_flag_set, value);
         }
 
-        // show: the filter class list
+        /// Show: the filter class list.
         bool show_filter_list() const { return this->call_(lumo_tarn_dp_tt_table_show_filter_list_get_value) != 0; }
+        /// Writes show_filter_list.
         const Self &set_show_filter_list(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_filter_list_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_filter_list; none if the record has no states.
         std::optional<std::uint8_t> show_filter_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_show_filter_list_state_flag_get);
         }
+        /// Writes the state byte of show_filter_list.
         const Self &set_show_filter_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_filter_list_state_flag_set, value);
         }
 
-        // show: the header of the learn list
+        /// Show: the header of the learn list.
         bool show_ll_header() const { return this->call_(lumo_tarn_dp_tt_table_show_ll_header_get_value) != 0; }
+        /// Writes show_ll_header.
         const Self &set_show_ll_header(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_ll_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_ll_header; none if the record has no states.
         std::optional<std::uint8_t> show_ll_header_state() const {
             return this->state_(lumo_tarn_dp_tt_table_show_ll_header_state_flag_get);
         }
+        /// Writes the state byte of show_ll_header.
         const Self &set_show_ll_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_ll_header_state_flag_set, value);
         }
 
-        // show: the learn list itself
+        /// Show: the learn list itself.
         bool show_ll_list() const { return this->call_(lumo_tarn_dp_tt_table_show_ll_list_get_value) != 0; }
+        /// Writes show_ll_list.
         const Self &set_show_ll_list(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_ll_list_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_ll_list; none if the record has no states.
         std::optional<std::uint8_t> show_ll_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_show_ll_list_state_flag_get);
         }
+        /// Writes the state byte of show_ll_list.
         const Self &set_show_ll_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_show_ll_list_state_flag_set, value);
         }
 
-        // show: all of it
+        /// Show: all of it.
         bool display_all() const { return this->call_(lumo_tarn_dp_tt_table_display_all_get_value) != 0; }
+        /// Writes display_all.
         const Self &set_display_all(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_all_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_all; none if the record has no states.
         std::optional<std::uint8_t> display_all_state() const {
             return this->state_(lumo_tarn_dp_tt_table_display_all_state_flag_get);
         }
+        /// Writes the state byte of display_all.
         const Self &set_display_all_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_all_state_flag_set, value);
         }
 
-        // show: the traffic classes
+        /// Show: the traffic classes.
         bool display_tc() const { return this->call_(lumo_tarn_dp_tt_table_display_tc_get_value) != 0; }
+        /// Writes display_tc.
         const Self &set_display_tc(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_tc_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_tc; none if the record has no states.
         std::optional<std::uint8_t> display_tc_state() const {
             return this->state_(lumo_tarn_dp_tt_table_display_tc_state_flag_get);
         }
+        /// Writes the state byte of display_tc.
         const Self &set_display_tc_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_tc_state_flag_set, value);
         }
 
-        // show: the learn lists
+        /// Show: the learn lists.
         bool display_ll() const { return this->call_(lumo_tarn_dp_tt_table_display_ll_get_value) != 0; }
+        /// Writes display_ll.
         const Self &set_display_ll(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_ll_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of display_ll; none if the record has no states.
         std::optional<std::uint8_t> display_ll_state() const {
             return this->state_(lumo_tarn_dp_tt_table_display_ll_state_flag_get);
         }
+        /// Writes the state byte of display_ll.
         const Self &set_display_ll_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_display_ll_state_flag_set, value);
         }
 
-        // fdb memory of the table
+        /// Fdb memory of the table.
         lumo_ui_tarn::fdb_mem_info_ref fdb_info() const {
             return this->template nested_<lumo_ui_tarn::fdb_mem_info_type>(lumo_tarn_dp_tt_table_fdb_info_get);
         }
+        /// Writes fdb_info.
         const Self &set_fdb_info(lumo_ui_tarn::fdb_mem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_tt_table_fdb_info_get, lumo_tarn_dp_tt_table_fdb_info_set, value);
         }
+        /// Moves a record into fdb_info.
         const Self &adopt_fdb_info(lumo_ui_tarn::fdb_mem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_tt_table_fdb_info_get, lumo_tarn_dp_tt_table_fdb_info_set,
                 std::move(value));
         }
+        /// The state byte of fdb_info; none if the record has no states.
         std::optional<std::uint8_t> fdb_info_state() const {
             return this->state_(lumo_tarn_dp_tt_table_fdb_info_state_flag_get);
         }
+        /// Writes the state byte of fdb_info.
         const Self &set_fdb_info_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_fdb_info_state_flag_set, value);
         }
 
-        // number of the lumo processor that holds the table
+        /// Number of the lumo processor that holds the table.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_tt_table_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_dp_tt_table_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_lumo_num_state_flag_set, value);
         }
 
-        // state of the table
+        /// State of the table.
         std::uint8_t state() const { return this->call_(lumo_tarn_dp_tt_table_state_get_value); }
+        /// Writes state.
         const Self &set_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_state_set_value, value);
         }
+        /// The state byte of state; none if the record has no states.
         std::optional<std::uint8_t> state_state() const {
             return this->state_(lumo_tarn_dp_tt_table_state_state_flag_get);
         }
+        /// Writes the state byte of state.
         const Self &set_state_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_state_state_flag_set, value);
         }
 
-        // type of learning
+        /// Type of learning.
         std::uint8_t learn_type() const { return this->call_(lumo_tarn_dp_tt_table_learn_type_get_value); }
+        /// Writes learn_type.
         const Self &set_learn_type(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_learn_type_set_value, value);
         }
+        /// The state byte of learn_type; none if the record has no states.
         std::optional<std::uint8_t> learn_type_state() const {
             return this->state_(lumo_tarn_dp_tt_table_learn_type_state_flag_get);
         }
+        /// Writes the state byte of learn_type.
         const Self &set_learn_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_learn_type_state_flag_set, value);
         }
 
-        // type of aggregation
+        /// Type of aggregation.
         std::uint8_t agg_type() const { return this->call_(lumo_tarn_dp_tt_table_agg_type_get_value); }
+        /// Writes agg_type.
         const Self &set_agg_type(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_agg_type_set_value, value);
         }
+        /// The state byte of agg_type; none if the record has no states.
         std::optional<std::uint8_t> agg_type_state() const {
             return this->state_(lumo_tarn_dp_tt_table_agg_type_state_flag_get);
         }
+        /// Writes the state byte of agg_type.
         const Self &set_agg_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_agg_type_state_flag_set, value);
         }
 
-        // minimum mask
+        /// Minimum mask.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_tt_table_min_mask_get_value); }
+        /// Writes min_mask.
         const Self &set_min_mask(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_min_mask_set_value, value);
         }
+        /// The state byte of min_mask; none if the record has no states.
         std::optional<std::uint8_t> min_mask_state() const {
             return this->state_(lumo_tarn_dp_tt_table_min_mask_state_flag_get);
         }
+        /// Writes the state byte of min_mask.
         const Self &set_min_mask_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_min_mask_state_flag_set, value);
         }
 
-        // flags of the table
+        /// Flags of the table.
         std::uint8_t tt_bit_flags() const { return this->call_(lumo_tarn_dp_tt_table_tt_bit_flags_get_value); }
+        /// Writes tt_bit_flags.
         const Self &set_tt_bit_flags(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_tt_bit_flags_set_value, value);
         }
+        /// The state byte of tt_bit_flags; none if the record has no states.
         std::optional<std::uint8_t> tt_bit_flags_state() const {
             return this->state_(lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_get);
         }
+        /// Writes the state byte of tt_bit_flags.
         const Self &set_tt_bit_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_set, value);
         }
 
-        // type of aging
+        /// Type of aging.
         std::uint16_t aging_type() const { return this->call_(lumo_tarn_dp_tt_table_aging_type_get_value); }
+        /// Writes aging_type.
         const Self &set_aging_type(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_aging_type_set_value, value);
         }
+        /// The state byte of aging_type; none if the record has no states.
         std::optional<std::uint8_t> aging_type_state() const {
             return this->state_(lumo_tarn_dp_tt_table_aging_type_state_flag_get);
         }
+        /// Writes the state byte of aging_type.
         const Self &set_aging_type_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_aging_type_state_flag_set, value);
         }
 
-        // number of prefixes in the table
+        /// Number of prefixes in the table.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_tt_table_num_prefixes_get_value); }
+        /// Writes num_prefixes.
         const Self &set_num_prefixes(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_num_prefixes_set_value, value);
         }
+        /// The state byte of num_prefixes; none if the record has no states.
         std::optional<std::uint8_t> num_prefixes_state() const {
             return this->state_(lumo_tarn_dp_tt_table_num_prefixes_state_flag_get);
         }
+        /// Writes the state byte of num_prefixes.
         const Self &set_num_prefixes_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_num_prefixes_state_flag_set, value);
         }
 
-        // duration
+        /// Duration.
         std::uint32_t duration() const { return this->call_(lumo_tarn_dp_tt_table_duration_get_value); }
+        /// Writes duration.
         const Self &set_duration(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_duration_set_value, value);
         }
+        /// The state byte of duration; none if the record has no states.
         std::optional<std::uint8_t> duration_state() const {
             return this->state_(lumo_tarn_dp_tt_table_duration_state_flag_get);
         }
+        /// Writes the state byte of duration.
         const Self &set_duration_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_duration_state_flag_set, value);
         }
 
-        // start time
+        /// Start time.
         std::uint32_t start_time() const { return this->call_(lumo_tarn_dp_tt_table_start_time_get_value); }
+        /// Writes start_time.
         const Self &set_start_time(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_start_time_set_value, value);
         }
+        /// The state byte of start_time; none if the record has no states.
         std::optional<std::uint8_t> start_time_state() const {
             return this->state_(lumo_tarn_dp_tt_table_start_time_state_flag_get);
         }
+        /// Writes the state byte of start_time.
         const Self &set_start_time_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_start_time_state_flag_set, value);
         }
 
-        // end time
+        /// End time.
         std::uint32_t end_time() const { return this->call_(lumo_tarn_dp_tt_table_end_time_get_value); }
+        /// Writes end_time.
         const Self &set_end_time(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_end_time_set_value, value);
         }
+        /// The state byte of end_time; none if the record has no states.
         std::optional<std::uint8_t> end_time_state() const {
             return this->state_(lumo_tarn_dp_tt_table_end_time_state_flag_get);
         }
+        /// Writes the state byte of end_time.
         const Self &set_end_time_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_end_time_state_flag_set, value);
         }
 
-        // where the aggregation class list lies in the data plane
+        /// Where the aggregation class list lies in the data plane.
         std::uint64_t agg_tc_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_get_value); }
+        /// Writes agg_tc_list_ptr.
         const Self &set_agg_tc_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_set_value, value);
         }
+        /// The state byte of agg_tc_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> agg_tc_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of agg_tc_list_ptr.
         const Self &set_agg_tc_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_set, value);
         }
 
-        // aggregation classes
+        /// Aggregation classes.
         lumo_ui_tarn::dp_tc_list_ref agg_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_tt_table_agg_tc_list_get);
         }
+        /// Writes agg_tc_list.
         const Self &set_agg_tc_list(lumo_ui_tarn::dp_tc_list_ref value) const {
             return this->assign_(lumo_tarn_dp_tt_table_agg_tc_list_get, lumo_tarn_dp_tt_table_agg_tc_list_set, value);
         }
+        /// Moves a record into agg_tc_list.
         const Self &adopt_agg_tc_list(lumo_ui_tarn::dp_tc_list &&value) const {
             return this->adopt_(lumo_tarn_dp_tt_table_agg_tc_list_get, lumo_tarn_dp_tt_table_agg_tc_list_set,
                 std::move(value));
         }
+        /// The state byte of agg_tc_list; none if the record has no states.
         std::optional<std::uint8_t> agg_tc_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_agg_tc_list_state_flag_get);
         }
+        /// Writes the state byte of agg_tc_list.
         const Self &set_agg_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_agg_tc_list_state_flag_set, value);
         }
 
-        // where the filter class list lies in the data plane
+        /// Where the filter class list lies in the data plane.
         std::uint64_t filter_tc_list_ptr() const {
             return this->call_(lumo_tarn_dp_tt_table_filter_tc_list_ptr_get_value);
         }
+        /// Writes filter_tc_list_ptr.
         const Self &set_filter_tc_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_filter_tc_list_ptr_set_value, value);
         }
+        /// The state byte of filter_tc_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> filter_tc_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of filter_tc_list_ptr.
         const Self &set_filter_tc_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_set, value);
         }
 
-        // filter classes
+        /// Filter classes.
         lumo_ui_tarn::dp_tc_list_ref filter_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_tt_table_filter_tc_list_get);
         }
+        /// Writes filter_tc_list.
         const Self &set_filter_tc_list(lumo_ui_tarn::dp_tc_list_ref value) const {
             return this->assign_(lumo_tarn_dp_tt_table_filter_tc_list_get, lumo_tarn_dp_tt_table_filter_tc_list_set,
                 value);
         }
+        /// Moves a record into filter_tc_list.
         const Self &adopt_filter_tc_list(lumo_ui_tarn::dp_tc_list &&value) const {
             return this->adopt_(lumo_tarn_dp_tt_table_filter_tc_list_get, lumo_tarn_dp_tt_table_filter_tc_list_set,
                 std::move(value));
         }
+        /// The state byte of filter_tc_list; none if the record has no states.
         std::optional<std::uint8_t> filter_tc_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_filter_tc_list_state_flag_get);
         }
+        /// Writes the state byte of filter_tc_list.
         const Self &set_filter_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_filter_tc_list_state_flag_set, value);
         }
 
-        // where the learn list lies in the data plane
+        /// Where the learn list lies in the data plane.
         std::uint64_t learn_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_learn_list_ptr_get_value); }
+        /// Writes learn_list_ptr.
         const Self &set_learn_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_learn_list_ptr_set_value, value);
         }
+        /// The state byte of learn_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> learn_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of learn_list_ptr.
         const Self &set_learn_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_set, value);
         }
 
-        // learn list
+        /// Learn list.
         lumo_ui_tarn::dp_learn_list_ref learn_list() const {
             return this->template nested_<lumo_ui_tarn::dp_learn_list_type>(lumo_tarn_dp_tt_table_learn_list_get);
         }
+        /// Writes learn_list.
         const Self &set_learn_list(lumo_ui_tarn::dp_learn_list_ref value) const {
             return this->assign_(lumo_tarn_dp_tt_table_learn_list_get, lumo_tarn_dp_tt_table_learn_list_set, value);
         }
+        /// Moves a record into learn_list.
         const Self &adopt_learn_list(lumo_ui_tarn::dp_learn_list &&value) const {
             return this->adopt_(lumo_tarn_dp_tt_table_learn_list_get, lumo_tarn_dp_tt_table_learn_list_set,
                 std::move(value));
         }
+        /// The state byte of learn_list; none if the record has no states.
         std::optional<std::uint8_t> learn_list_state() const {
             return this->state_(lumo_tarn_dp_tt_table_learn_list_state_flag_get);
         }
+        /// Writes the state byte of learn_list.
         const Self &set_learn_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_learn_list_state_flag_set, value);
         }
 
-        // mask of the table's key
+        /// Mask of the table's key.
         std::uint32_t key_mask() const { return this->call_(lumo_tarn_dp_tt_table_key_mask_get_value); }
+        /// Writes key_mask.
         const Self &set_key_mask(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_key_mask_set_value, value);
         }
+        /// The state byte of key_mask; none if the record has no states.
         std::optional<std::uint8_t> key_mask_state() const {
             return this->state_(lumo_tarn_dp_tt_table_key_mask_state_flag_get);
         }
+        /// Writes the state byte of key_mask.
         const Self &set_key_mask_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_key_mask_state_flag_set, value);
         }
 
-        // head of the throughput entries in the data plane
+        /// Head of the throughput entries in the data plane.
         std::uint64_t thruput_head_ptr() const { return this->call_(lumo_tarn_dp_tt_table_thruput_head_ptr_get_value); }
+        /// Writes thruput_head_ptr.
         const Self &set_thruput_head_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_thruput_head_ptr_set_value, value);
         }
+        /// The state byte of thruput_head_ptr; none if the record has no states.
         std::optional<std::uint8_t> thruput_head_ptr_state() const {
             return this->state_(lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_get);
         }
+        /// Writes the state byte of thruput_head_ptr.
         const Self &set_thruput_head_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_set, value);
         }
 
-        // number of throughput entries
+        /// Number of throughput entries.
         std::uint32_t thruput_entries() const { return this->call_(lumo_tarn_dp_tt_table_thruput_entries_get_value); }
+        /// Writes thruput_entries.
         const Self &set_thruput_entries(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_thruput_entries_set_value, value);
         }
+        /// The state byte of thruput_entries; none if the record has no states.
         std::optional<std::uint8_t> thruput_entries_state() const {
             return this->state_(lumo_tarn_dp_tt_table_thruput_entries_state_flag_get);
         }
+        /// Writes the state byte of thruput_entries.
         const Self &set_thruput_entries_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_thruput_entries_state_flag_set, value);
         }
 
-        // head of the delay entries in the data plane
+        /// Head of the delay entries in the data plane.
         std::uint64_t delay_head_ptr() const { return this->call_(lumo_tarn_dp_tt_table_delay_head_ptr_get_value); }
+        /// Writes delay_head_ptr.
         const Self &set_delay_head_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_delay_head_ptr_set_value, value);
         }
+        /// The state byte of delay_head_ptr; none if the record has no states.
         std::optional<std::uint8_t> delay_head_ptr_state() const {
             return this->state_(lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_get);
         }
+        /// Writes the state byte of delay_head_ptr.
         const Self &set_delay_head_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_set, value);
         }
 
-        // number of delay entries
+        /// Number of delay entries.
         std::uint32_t delay_entries() const { return this->call_(lumo_tarn_dp_tt_table_delay_entries_get_value); }
+        /// Writes delay_entries.
         const Self &set_delay_entries(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_delay_entries_set_value, value);
         }
+        /// The state byte of delay_entries; none if the record has no states.
         std::optional<std::uint8_t> delay_entries_state() const {
             return this->state_(lumo_tarn_dp_tt_table_delay_entries_state_flag_get);
         }
+        /// Writes the state byte of delay_entries.
         const Self &set_delay_entries_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_delay_entries_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -4567,68 +5423,81 @@ struct dp_tt_table_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_tt_table.
 using dp_tt_table = record<dp_tt_table_type>;
+/// Borrows a lumo_tarn_dp_tt_table.
 using dp_tt_table_ref = record_ref<dp_tt_table_type>;
 
-// ---- lumo_tarn_dp_tt_table_data: one traffic table for each processor
+/// lumo_tarn_dp_tt_table_data: one traffic table for each processor.
 struct dp_tt_table_data_type {
-    using native = lumo_tarn_dp_tt_table_data;
-    static constexpr const char *name = "lumo_tarn_dp_tt_table_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_tt_table_data_set;
-    static constexpr auto clone = lumo_tarn_dp_tt_table_data_clone;
-    static constexpr auto len = lumo_tarn_dp_tt_table_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_tt_table_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_tt_table_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_tt_table_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_tt_table_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_tt_table_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_tt_table_data_hash;
+    using native = lumo_tarn_dp_tt_table_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_tt_table_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_tt_table_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_tt_table_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_tt_table_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_tt_table_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_tt_table_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_tt_table_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_tt_table_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_tt_table_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_tt_table_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tt_table_data_set_all_state_tracking_flag;
 
+    /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
-        using native = lumo_tarn_dp_tt_table_data;
-        using element = lumo_ui_tarn::dp_tt_table_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_tt_table_data_num_lumos_get_value;
-        static constexpr auto get = lumo_tarn_dp_tt_table_data_lumo_data_get;
-        static constexpr auto set = lumo_tarn_dp_tt_table_data_lumo_data_set;
+        using native = lumo_tarn_dp_tt_table_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_tt_table_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_tt_table_data_num_lumos_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_tt_table_data_lumo_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_tt_table_data_lumo_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_tt_table_data_lumo_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_tt_table_data_lumo_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_tt_table_data_type, Self> {
     public:
         using detail::operations<dp_tt_table_data_type, Self>::operations;
 
-        // selection flag of the show request
+        /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_dp_tt_table_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_tt_table_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_tt_table_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_data_show_header_state_flag_set, value);
         }
 
-        // elements in lumo_data
+        /// Elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_tt_table_data_num_lumos_get_value); }
 
-        // tables, one for each processor
+        /// Tables, one for each processor.
         lumo_ui_tarn::array_ref<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
+        /// The state byte of lumo_data; none if the record has no states.
         std::optional<std::uint8_t> lumo_data_state() const {
             return this->state_(lumo_tarn_dp_tt_table_data_lumo_data_state_flag_whole_get);
         }
+        /// Writes the state byte of lumo_data.
         const Self &set_lumo_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_tt_table_data_lumo_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -4639,120 +5508,145 @@ struct dp_tt_table_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_tt_table_data.
 using dp_tt_table_data = record<dp_tt_table_data_type>;
+/// Borrows a lumo_tarn_dp_tt_table_data.
 using dp_tt_table_data_ref = record_ref<dp_tt_table_data_type>;
 
-// ---- lumo_tarn_dp_mp_tc_prefix: traffic classes of one prefix on one processor
+/// lumo_tarn_dp_mp_tc_prefix: traffic classes of one prefix on one processor.
 struct dp_mp_tc_prefix_type {
-    using native = lumo_tarn_dp_mp_tc_prefix;
-    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_hash;
+    using native = lumo_tarn_dp_mp_tc_prefix;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_tc_prefix_type, Self> {
     public:
         using detail::operations<dp_mp_tc_prefix_type, Self>::operations;
 
-        // number of the lumo processor that this entry describes
+        /// Number of the lumo processor that this entry describes.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_lumo_num_get_value); }
+        /// Writes lumo_num.
         const Self &set_lumo_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_lumo_num_set_value, value);
         }
+        /// The state byte of lumo_num; none if the record has no states.
         std::optional<std::uint8_t> lumo_num_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_lumo_num_state_flag_get);
         }
+        /// Writes the state byte of lumo_num.
         const Self &set_lumo_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_lumo_num_state_flag_set, value);
         }
 
-        // the entry's address on the client side
+        /// The entry's address on the client side.
         std::uint64_t cl_addr() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_cl_addr_get_value); }
+        /// Writes cl_addr.
         const Self &set_cl_addr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_cl_addr_set_value, value);
         }
+        /// The state byte of cl_addr; none if the record has no states.
         std::optional<std::uint8_t> cl_addr_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_cl_addr_state_flag_get);
         }
+        /// Writes the state byte of cl_addr.
         const Self &set_cl_addr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_cl_addr_state_flag_set, value);
         }
 
-        // where the head of the class list lies in memory
+        /// Where the head of the class list lies in memory.
         lumo_ui_tarn::exmem_info_ref tc_list_head() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_mp_tc_prefix_tc_list_head_get);
         }
+        /// Writes tc_list_head.
         const Self &set_tc_list_head(lumo_ui_tarn::exmem_info_ref value) const {
             return this->assign_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_get, lumo_tarn_dp_mp_tc_prefix_tc_list_head_set,
                 value);
         }
+        /// Moves a record into tc_list_head.
         const Self &adopt_tc_list_head(lumo_ui_tarn::exmem_info &&value) const {
             return this->adopt_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_get, lumo_tarn_dp_mp_tc_prefix_tc_list_head_set,
                 std::move(value));
         }
+        /// The state byte of tc_list_head; none if the record has no states.
         std::optional<std::uint8_t> tc_list_head_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_state_flag_get);
         }
+        /// Writes the state byte of tc_list_head.
         const Self &set_tc_list_head_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_state_flag_set, value);
         }
 
-        // link of the list head to what follows it in the data plane
+        /// Link of the list head to what follows it in the data plane.
         std::uint64_t tc_list_head_next() const {
             return this->call_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_get_value);
         }
+        /// Writes tc_list_head_next.
         const Self &set_tc_list_head_next(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_set_value, value);
         }
+        /// The state byte of tc_list_head_next; none if the record has no states.
         std::optional<std::uint8_t> tc_list_head_next_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_state_flag_get);
         }
+        /// Writes the state byte of tc_list_head_next.
         const Self &set_tc_list_head_next_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_state_flag_set, value);
         }
 
-        // traffic classes
+        /// Traffic classes.
         lumo_ui_tarn::dp_tc_list_ref tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_mp_tc_prefix_tc_list_get);
         }
+        /// Writes tc_list.
         const Self &set_tc_list(lumo_ui_tarn::dp_tc_list_ref value) const {
             return this->assign_(lumo_tarn_dp_mp_tc_prefix_tc_list_get, lumo_tarn_dp_mp_tc_prefix_tc_list_set, value);
         }
+        /// Moves a record into tc_list.
         const Self &adopt_tc_list(lumo_ui_tarn::dp_tc_list &&value) const {
             return this->adopt_(lumo_tarn_dp_mp_tc_prefix_tc_list_get, lumo_tarn_dp_mp_tc_prefix_tc_list_set,
                 std::move(value));
         }
+        /// The state byte of tc_list; none if the record has no states.
         std::optional<std::uint8_t> tc_list_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_tc_list_state_flag_get);
         }
+        /// Writes the state byte of tc_list.
         const Self &set_tc_list_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_tc_list_state_flag_set, value);
         }
 
-        // selection flag of the show request
+        /// Selection flag of the show request.
         bool show_pfx_comm() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_get_value) != 0; }
+        /// Writes show_pfx_comm.
         const Self &set_show_pfx_comm(bool value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_pfx_comm; none if the record has no states.
         std::optional<std::uint8_t> show_pfx_comm_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_state_flag_get);
         }
+        /// Writes the state byte of show_pfx_comm.
         const Self &set_show_pfx_comm_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"lumo_num", &members::lumo_num, &members::set_lumo_num, &members::lumo_num_state,
@@ -4771,71 +5665,84 @@ struct dp_mp_tc_prefix_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_tc_prefix.
 using dp_mp_tc_prefix = record<dp_mp_tc_prefix_type>;
+/// Borrows a lumo_tarn_dp_mp_tc_prefix.
 using dp_mp_tc_prefix_ref = record_ref<dp_mp_tc_prefix_type>;
 
-// ---- lumo_tarn_dp_mp_tc_prefix_lumo_data: one prefix with its entries
+/// lumo_tarn_dp_mp_tc_prefix_lumo_data: one prefix with its entries.
 struct dp_mp_tc_prefix_lumo_data_type {
-    using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;
-    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_lumo_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_lumo_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_lumo_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_lumo_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_lumo_data_hash;
+    using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_lumo_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_lumo_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_lumo_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_lumo_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_lumo_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_lumo_data_set_all_state_tracking_flag;
 
+    /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
-        using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;
-        using element = lumo_ui_tarn::dp_mp_tc_prefix_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_mp_tc_prefix_lumo_data_num_lumos_get_value;
-        static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_get;
-        static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_set;
+        using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_mp_tc_prefix_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_mp_tc_prefix_lumo_data_num_lumos_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_tc_prefix_lumo_data_type, Self> {
     public:
         using detail::operations<dp_mp_tc_prefix_lumo_data_type, Self>::operations;
 
-        // prefix
+        /// Prefix.
         lumo_ui_tarn::address prefix() const {
             return this->read_address_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get);
         }
+        /// Writes prefix.
         const Self &set_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get,
                 lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_set, value);
         }
+        /// The state byte of prefix; none if the record has no states.
         std::optional<std::uint8_t> prefix_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_state_flag_get);
         }
+        /// Writes the state byte of prefix.
         const Self &set_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_state_flag_set, value);
         }
 
-        // elements in lumo_data
+        /// Elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_lumo_data_num_lumos_get_value); }
 
-        // entries, one for each processor
+        /// Entries, one for each processor.
         lumo_ui_tarn::array_ref<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
+        /// The state byte of lumo_data; none if the record has no states.
         std::optional<std::uint8_t> lumo_data_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_whole_get);
         }
+        /// Writes the state byte of lumo_data.
         const Self &set_lumo_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"prefix", &members::prefix, &members::set_prefix, &members::prefix_state,
@@ -4846,84 +5753,100 @@ struct dp_mp_tc_prefix_lumo_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_tc_prefix_lumo_data.
 using dp_mp_tc_prefix_lumo_data = record<dp_mp_tc_prefix_lumo_data_type>;
+/// Borrows a lumo_tarn_dp_mp_tc_prefix_lumo_data.
 using dp_mp_tc_prefix_lumo_data_ref = record_ref<dp_mp_tc_prefix_lumo_data_type>;
 
-// ---- lumo_tarn_dp_mp_tc_prefix_data: prefixes with the traffic classes that hang on them
+/// lumo_tarn_dp_mp_tc_prefix_data: prefixes with the traffic classes that hang on them.
 struct dp_mp_tc_prefix_data_type {
-    using native = lumo_tarn_dp_mp_tc_prefix_data;
-    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_data_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_data_hash;
+    using native = lumo_tarn_dp_mp_tc_prefix_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_data_set_all_state_tracking_flag;
 
+    /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
-        using native = lumo_tarn_dp_mp_tc_prefix_data;
-        using element = lumo_ui_tarn::dp_mp_tc_prefix_lumo_data_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get_value;
-        static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_get;
-        static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_set;
+        using native = lumo_tarn_dp_mp_tc_prefix_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_mp_tc_prefix_lumo_data_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_mp_tc_prefix_data_prefix_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_tc_prefix_data_type, Self> {
     public:
         using detail::operations<dp_mp_tc_prefix_data_type, Self>::operations;
 
-        // selection flag of the show request
+        /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_data_show_header_state_flag_set, value);
         }
 
-        // total number of prefixes
+        /// Total number of prefixes.
         std::uint32_t total_prefixes() const {
             return this->call_(lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_get_value);
         }
+        /// Writes total_prefixes.
         const Self &set_total_prefixes(std::uint32_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_set_value, value);
         }
+        /// The state byte of total_prefixes; none if the record has no states.
         std::optional<std::uint8_t> total_prefixes_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_state_flag_get);
         }
+        /// Writes the state byte of total_prefixes.
         const Self &set_total_prefixes_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_state_flag_set, value);
         }
 
-        // elements in prefix_data
+        /// Elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get_value); }
 
-        // prefixes
+        /// Prefixes.
         lumo_ui_tarn::array_ref<prefix_data_array> prefix_data() const {
             return this->template array_<prefix_data_array>();
         }
+        /// The state byte of prefix_data; none if the record has no states.
         std::optional<std::uint8_t> prefix_data_state() const {
             return this->state_(lumo_tarn_dp_mp_tc_prefix_data_prefix_data_state_flag_whole_get);
         }
+        /// Writes the state byte of prefix_data.
         const Self &set_prefix_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_tc_prefix_data_prefix_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -4936,81 +5859,98 @@ struct dp_mp_tc_prefix_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_tc_prefix_data.
 using dp_mp_tc_prefix_data = record<dp_mp_tc_prefix_data_type>;
+/// Borrows a lumo_tarn_dp_mp_tc_prefix_data.
 using dp_mp_tc_prefix_data_ref = record_ref<dp_mp_tc_prefix_data_type>;
 
-// ---- lumo_tarn_dp_mp_prefix: one prefix as one complex holds it
+/// lumo_tarn_dp_mp_prefix: one prefix as one complex holds it.
 struct dp_mp_prefix_type {
-    using native = lumo_tarn_dp_mp_prefix;
-    static constexpr const char *name = "lumo_tarn_dp_mp_prefix";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_hash;
+    using native = lumo_tarn_dp_mp_prefix;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_prefix";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_prefix_type, Self> {
     public:
         using detail::operations<dp_mp_prefix_type, Self>::operations;
 
-        // number of the complex that this entry describes
+        /// Number of the complex that this entry describes.
         std::uint8_t complex_num() const { return this->call_(lumo_tarn_dp_mp_prefix_complex_num_get_value); }
+        /// Writes complex_num.
         const Self &set_complex_num(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_complex_num_set_value, value);
         }
+        /// The state byte of complex_num; none if the record has no states.
         std::optional<std::uint8_t> complex_num_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_complex_num_state_flag_get);
         }
+        /// Writes the state byte of complex_num.
         const Self &set_complex_num_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_complex_num_state_flag_set, value);
         }
 
-        // prefix as the complex holds it
+        /// Prefix as the complex holds it.
         lumo_ui_tarn::address prefix() const { return this->read_address_(lumo_tarn_dp_mp_prefix_prefix_get); }
+        /// Writes prefix.
         const Self &set_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_dp_mp_prefix_prefix_get, lumo_tarn_dp_mp_prefix_prefix_set, value);
         }
+        /// The state byte of prefix; none if the record has no states.
         std::optional<std::uint8_t> prefix_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_prefix_state_flag_get);
         }
+        /// Writes the state byte of prefix.
         const Self &set_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_prefix_state_flag_set, value);
         }
 
-        // flags of the prefix, sixteen bits
+        /// Flags of the prefix, sixteen bits.
         std::uint16_t flags() const { return this->call_(lumo_tarn_dp_mp_prefix_flags_get_value); }
+        /// Writes flags.
         const Self &set_flags(std::uint16_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_flags_set_value, value);
         }
+        /// The state byte of flags; none if the record has no states.
         std::optional<std::uint8_t> flags_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_flags_state_flag_get);
         }
+        /// Writes the state byte of flags.
         const Self &set_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_flags_state_flag_set, value);
         }
 
-        // where the prefix's class list lies in the data plane
+        /// Where the prefix's class list lies in the data plane.
         std::uint64_t tc_list_ptr() const { return this->call_(lumo_tarn_dp_mp_prefix_tc_list_ptr_get_value); }
+        /// Writes tc_list_ptr.
         const Self &set_tc_list_ptr(std::uint64_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_tc_list_ptr_set_value, value);
         }
+        /// The state byte of tc_list_ptr; none if the record has no states.
         std::optional<std::uint8_t> tc_list_ptr_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_tc_list_ptr_state_flag_get);
         }
+        /// Writes the state byte of tc_list_ptr.
         const Self &set_tc_list_ptr_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_tc_list_ptr_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"complex_num", &members::complex_num, &members::set_complex_num,
@@ -5024,75 +5964,88 @@ struct dp_mp_prefix_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_prefix.
 using dp_mp_prefix = record<dp_mp_prefix_type>;
+/// Borrows a lumo_tarn_dp_mp_prefix.
 using dp_mp_prefix_ref = record_ref<dp_mp_prefix_type>;
 
-// ---- lumo_tarn_dp_mp_prefix_complex_data: one looked-up prefix with its entries
+/// lumo_tarn_dp_mp_prefix_complex_data: one looked-up prefix with its entries.
 struct dp_mp_prefix_complex_data_type {
-    using native = lumo_tarn_dp_mp_prefix_complex_data;
-    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_complex_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_complex_data_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_complex_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_complex_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_complex_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_complex_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_complex_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_complex_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_complex_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_complex_data_hash;
+    using native = lumo_tarn_dp_mp_prefix_complex_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_complex_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_complex_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_complex_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_complex_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_complex_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_complex_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_complex_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_complex_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_complex_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_complex_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_complex_data_set_all_state_tracking_flag;
 
+    /// How complex_data is read and written, for array_ref.
     struct complex_data_array {
-        using native = lumo_tarn_dp_mp_prefix_complex_data;
-        using element = lumo_ui_tarn::dp_mp_prefix_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value;
-        static constexpr auto get = lumo_tarn_dp_mp_prefix_complex_data_complex_data_get;
-        static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_complex_data_set;
+        using native = lumo_tarn_dp_mp_prefix_complex_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_mp_prefix_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_mp_prefix_complex_data_complex_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_complex_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_mp_prefix_complex_data_complex_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_mp_prefix_complex_data_complex_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_prefix_complex_data_type, Self> {
     public:
         using detail::operations<dp_mp_prefix_complex_data_type, Self>::operations;
 
-        // prefix that was looked up
+        /// Prefix that was looked up.
         lumo_ui_tarn::address lookup_prefix() const {
             return this->read_address_(lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_get);
         }
+        /// Writes lookup_prefix.
         const Self &set_lookup_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_get,
                 lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_set, value);
         }
+        /// The state byte of lookup_prefix; none if the record has no states.
         std::optional<std::uint8_t> lookup_prefix_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_state_flag_get);
         }
+        /// Writes the state byte of lookup_prefix.
         const Self &set_lookup_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_state_flag_set, value);
         }
 
-        // elements in complex_data
+        /// Elements in complex_data.
         std::uint8_t num_complexes() const {
             return this->call_(lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value);
         }
 
-        // entries, one for each complex
+        /// Entries, one for each complex.
         lumo_ui_tarn::array_ref<complex_data_array> complex_data() const {
             return this->template array_<complex_data_array>();
         }
+        /// The state byte of complex_data; none if the record has no states.
         std::optional<std::uint8_t> complex_data_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_complex_data_complex_data_state_flag_whole_get);
         }
+        /// Writes the state byte of complex_data.
         const Self &set_complex_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_complex_data_complex_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"lookup_prefix", &members::lookup_prefix, &members::set_lookup_prefix,
@@ -5103,70 +6056,83 @@ struct dp_mp_prefix_complex_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_prefix_complex_data.
 using dp_mp_prefix_complex_data = record<dp_mp_prefix_complex_data_type>;
+/// Borrows a lumo_tarn_dp_mp_prefix_complex_data.
 using dp_mp_prefix_complex_data_ref = record_ref<dp_mp_prefix_complex_data_type>;
 
-// ---- lumo_tarn_dp_mp_prefix_data: looked-up prefixes
+/// lumo_tarn_dp_mp_prefix_data: looked-up prefixes.
 struct dp_mp_prefix_data_type {
-    using native = lumo_tarn_dp_mp_prefix_data;
-    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_data_set;
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_data_clone;
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_data_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_data_unmarshal;
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_data_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_data_from_xml;
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_data_compare;
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_data_hash;
+    using native = lumo_tarn_dp_mp_prefix_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_data_set_all_state_tracking_flag;
 
+    /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
-        using native = lumo_tarn_dp_mp_prefix_data;
-        using element = lumo_ui_tarn::dp_mp_prefix_complex_data_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_dp_mp_prefix_data_num_prefixes_get_value;
-        static constexpr auto get = lumo_tarn_dp_mp_prefix_data_prefix_data_get;
-        static constexpr auto set = lumo_tarn_dp_mp_prefix_data_prefix_data_set;
+        using native = lumo_tarn_dp_mp_prefix_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::dp_mp_prefix_complex_data_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_dp_mp_prefix_data_num_prefixes_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_dp_mp_prefix_data_prefix_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_dp_mp_prefix_data_prefix_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_dp_mp_prefix_data_prefix_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_dp_mp_prefix_data_prefix_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<dp_mp_prefix_data_type, Self> {
     public:
         using detail::operations<dp_mp_prefix_data_type, Self>::operations;
 
-        // selection flag of the show request
+        /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_dp_mp_prefix_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_data_show_header_state_flag_set, value);
         }
 
-        // elements in prefix_data
+        /// Elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_dp_mp_prefix_data_num_prefixes_get_value); }
 
-        // looked-up prefixes
+        /// Looked-up prefixes.
         lumo_ui_tarn::array_ref<prefix_data_array> prefix_data() const {
             return this->template array_<prefix_data_array>();
         }
+        /// The state byte of prefix_data; none if the record has no states.
         std::optional<std::uint8_t> prefix_data_state() const {
             return this->state_(lumo_tarn_dp_mp_prefix_data_prefix_data_state_flag_whole_get);
         }
+        /// Writes the state byte of prefix_data.
         const Self &set_prefix_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_dp_mp_prefix_data_prefix_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -5177,79 +6143,96 @@ struct dp_mp_prefix_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_dp_mp_prefix_data.
 using dp_mp_prefix_data = record<dp_mp_prefix_data_type>;
+/// Borrows a lumo_tarn_dp_mp_prefix_data.
 using dp_mp_prefix_data_ref = record_ref<dp_mp_prefix_data_type>;
 
-// ---- lumo_tarn_pal_mp_prefix: one prefix of the adaptation layer
+/// lumo_tarn_pal_mp_prefix: one prefix of the adaptation layer.
 struct pal_mp_prefix_type {
-    using native = lumo_tarn_pal_mp_prefix;
-    static constexpr const char *name = "lumo_tarn_pal_mp_prefix";
-    static constexpr bool owns_blocks = false;  // arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;
-    static constexpr auto set = lumo_tarn_pal_mp_prefix_set;
-    static constexpr auto clone = lumo_tarn_pal_mp_prefix_clone;
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_len;
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_marshal;
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_unmarshal;
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_print;
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_to_xml;
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_from_xml;
-    static constexpr auto compare = lumo_tarn_pal_mp_prefix_compare;
-    static constexpr auto hash = lumo_tarn_pal_mp_prefix_hash;
+    using native = lumo_tarn_pal_mp_prefix;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_pal_mp_prefix";  ///< its name in C
+    static constexpr bool owns_blocks = false;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_pal_mp_prefix_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_pal_mp_prefix_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_pal_mp_prefix_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_pal_mp_prefix_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_pal_mp_prefix_set_all_state_tracking_flag;
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<pal_mp_prefix_type, Self> {
     public:
         using detail::operations<pal_mp_prefix_type, Self>::operations;
 
-        // identifier of the prefix
+        /// Identifier of the prefix.
         std::uint64_t id() const { return this->call_(lumo_tarn_pal_mp_prefix_id_get_value); }
+        /// Writes id.
         const Self &set_id(std::uint64_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_id_set_value, value);
         }
+        /// The state byte of id; none if the record has no states.
         std::optional<std::uint8_t> id_state() const { return this->state_(lumo_tarn_pal_mp_prefix_id_state_flag_get); }
+        /// Writes the state byte of id.
         const Self &set_id_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_id_state_flag_set, value);
         }
 
-        // flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix
+        /// Flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix.
         std::uint8_t flags() const { return this->call_(lumo_tarn_pal_mp_prefix_flags_get_value); }
+        /// Writes flags.
         const Self &set_flags(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_flags_set_value, value);
         }
+        /// The state byte of flags; none if the record has no states.
         std::optional<std::uint8_t> flags_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_flags_state_flag_get);
         }
+        /// Writes the state byte of flags.
         const Self &set_flags_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_flags_state_flag_set, value);
         }
 
-        // prefix
+        /// Prefix.
         lumo_ui_tarn::address prefix() const { return this->read_address_(lumo_tarn_pal_mp_prefix_prefix_get); }
+        /// Writes prefix.
         const Self &set_prefix(const lumo_ui_tarn::address &value) const {
             return this->write_address_(lumo_tarn_pal_mp_prefix_prefix_get, lumo_tarn_pal_mp_prefix_prefix_set, value);
         }
+        /// The state byte of prefix; none if the record has no states.
         std::optional<std::uint8_t> prefix_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_prefix_state_flag_get);
         }
+        /// Writes the state byte of prefix.
         const Self &set_prefix_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_prefix_state_flag_set, value);
         }
 
-        // size of the prefix's class list
+        /// Size of the prefix's class list.
         std::uint32_t tc_list_size() const { return this->call_(lumo_tarn_pal_mp_prefix_tc_list_size_get_value); }
+        /// Writes tc_list_size.
         const Self &set_tc_list_size(std::uint32_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_tc_list_size_set_value, value);
         }
+        /// The state byte of tc_list_size; none if the record has no states.
         std::optional<std::uint8_t> tc_list_size_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_tc_list_size_state_flag_get);
         }
+        /// Writes the state byte of tc_list_size.
         const Self &set_tc_list_size_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_tc_list_size_state_flag_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"id", &members::id, &members::set_id, &members::id_state,
@@ -5263,84 +6246,100 @@ struct pal_mp_prefix_type {
         }
     };
 };
+/// Owns a lumo_tarn_pal_mp_prefix.
 using pal_mp_prefix = record<pal_mp_prefix_type>;
+/// Borrows a lumo_tarn_pal_mp_prefix.
 using pal_mp_prefix_ref = record_ref<pal_mp_prefix_type>;
 
-// ---- lumo_tarn_pal_mp_prefix_data: prefixes of the adaptation layer
+/// lumo_tarn_pal_mp_prefix_data: prefixes of the adaptation layer.
 struct pal_mp_prefix_data_type {
-    using native = lumo_tarn_pal_mp_prefix_data;
-    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_data";
-    static constexpr bool owns_blocks = true;  // arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;
-    static constexpr auto set = lumo_tarn_pal_mp_prefix_data_set;
-    static constexpr auto clone = lumo_tarn_pal_mp_prefix_data_clone;
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_data_len;
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_data_marshal;
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_data_unmarshal;
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_data_print;
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_data_to_xml;
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_data_from_xml;
-    static constexpr auto compare = lumo_tarn_pal_mp_prefix_data_compare;
-    static constexpr auto hash = lumo_tarn_pal_mp_prefix_data_hash;
+    using native = lumo_tarn_pal_mp_prefix_data;  ///< the record in C
+    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_data";  ///< its name in C
+    static constexpr bool owns_blocks = true;  ///< has arrays or strings
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;  ///< makes an instance
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;  ///< ends it
+    static constexpr auto set = lumo_tarn_pal_mp_prefix_data_set;  ///< moves one into another
+    static constexpr auto clone = lumo_tarn_pal_mp_prefix_data_clone;  ///< a deep copy
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_data_len;  ///< an upper bound of its frame's size
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_data_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_data_unmarshal;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_data_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_data_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_data_from_xml;  ///< reads it from XML
+    static constexpr auto compare = lumo_tarn_pal_mp_prefix_data_compare;  ///< orders two
+    static constexpr auto hash = lumo_tarn_pal_mp_prefix_data_hash;  ///< its hash
+    /// writes all states
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_pal_mp_prefix_data_set_all_state_tracking_flag;
 
+    /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
-        using native = lumo_tarn_pal_mp_prefix_data;
-        using element = lumo_ui_tarn::pal_mp_prefix_type;
-        using count = std::uint8_t;
-        static constexpr auto size = lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value;
-        static constexpr auto get = lumo_tarn_pal_mp_prefix_data_prefix_data_get;
-        static constexpr auto set = lumo_tarn_pal_mp_prefix_data_prefix_data_set;
+        using native = lumo_tarn_pal_mp_prefix_data;  ///< the record that has the array
+        using element = lumo_ui_tarn::pal_mp_prefix_type;  ///< what it is an array of
+        using count = std::uint8_t;  ///< what its elements are counted in
+        static constexpr auto size = lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value;  ///< how many there are
+        static constexpr auto get = lumo_tarn_pal_mp_prefix_data_prefix_data_get;  ///< an element
+        static constexpr auto set = lumo_tarn_pal_mp_prefix_data_prefix_data_set;  ///< writes an element
+        /// an element's state byte
         static constexpr auto state_get = lumo_tarn_pal_mp_prefix_data_prefix_data_state_flag_get;
+        /// writes an element's state byte
         static constexpr auto state_set = lumo_tarn_pal_mp_prefix_data_prefix_data_state_flag_set;
     };
 
+    /// Reads and writes the members, for the owner and for the reference.
     template <class Self>
     class members : public detail::operations<pal_mp_prefix_data_type, Self> {
     public:
         using detail::operations<pal_mp_prefix_data_type, Self>::operations;
 
-        // selection flag of the show request
+        /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_pal_mp_prefix_data_show_header_get_value) != 0; }
+        /// Writes show_header.
         const Self &set_show_header(bool value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_data_show_header_set_value, static_cast<std::uint8_t>(value));
         }
+        /// The state byte of show_header; none if the record has no states.
         std::optional<std::uint8_t> show_header_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_data_show_header_state_flag_get);
         }
+        /// Writes the state byte of show_header.
         const Self &set_show_header_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_data_show_header_state_flag_set, value);
         }
 
-        // total number of prefixes
+        /// Total number of prefixes.
         std::uint32_t total_prefixes() const {
             return this->call_(lumo_tarn_pal_mp_prefix_data_total_prefixes_get_value);
         }
+        /// Writes total_prefixes.
         const Self &set_total_prefixes(std::uint32_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_data_total_prefixes_set_value, value);
         }
+        /// The state byte of total_prefixes; none if the record has no states.
         std::optional<std::uint8_t> total_prefixes_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_data_total_prefixes_state_flag_get);
         }
+        /// Writes the state byte of total_prefixes.
         const Self &set_total_prefixes_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_data_total_prefixes_state_flag_set, value);
         }
 
-        // elements in prefix_data
+        /// Elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value); }
 
-        // prefixes
+        /// Prefixes.
         lumo_ui_tarn::array_ref<prefix_data_array> prefix_data() const {
             return this->template array_<prefix_data_array>();
         }
+        /// The state byte of prefix_data; none if the record has no states.
         std::optional<std::uint8_t> prefix_data_state() const {
             return this->state_(lumo_tarn_pal_mp_prefix_data_prefix_data_state_flag_whole_get);
         }
+        /// Writes the state byte of prefix_data.
         const Self &set_prefix_data_state(std::uint8_t value) const {
             return this->write_(lumo_tarn_pal_mp_prefix_data_prefix_data_state_flag_whole_set, value);
         }
 
+        /// Calls visit with a lumo_ui_tarn::member for each, in order.
         template <class Visit>
         static void for_each_member(Visit &&visit) {
             visit(lumo_ui_tarn::member{"show_header", &members::show_header, &members::set_show_header,
@@ -5353,323 +6352,414 @@ struct pal_mp_prefix_data_type {
         }
     };
 };
+/// Owns a lumo_tarn_pal_mp_prefix_data.
 using pal_mp_prefix_data = record<pal_mp_prefix_data_type>;
+/// Borrows a lumo_tarn_pal_mp_prefix_data.
 using pal_mp_prefix_data_ref = record_ref<pal_mp_prefix_data_type>;
 
-// ---- lumo_tarn_debug_setting_msg carries one lumo_tarn_debug_setting.
+/// lumo_tarn_debug_setting_msg carries one lumo_tarn_debug_setting.
 struct debug_setting_msg_type {
-    using native = lumo_tarn_debug_setting_msg;
-    using payload = lumo_ui_tarn::debug_setting_type;
-    static constexpr const char *name = "lumo_tarn_debug_setting_msg";
+    using native = lumo_tarn_debug_setting_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::debug_setting_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_debug_setting_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;
+    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;  ///< ends it
+    /// its payload
     static constexpr auto payload_get = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get;
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_free_and_set;
-    static constexpr auto len = lumo_tarn_debug_setting_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_debug_setting_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_debug_setting_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_debug_setting_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_debug_setting_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_debug_setting_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_debug_setting_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_debug_setting_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_debug_setting_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_debug_setting_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_debug_setting_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_debug_setting_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_debug_setting_msg.
 using debug_setting_msg = message<debug_setting_msg_type>;
+/// Borrows a lumo_tarn_debug_setting_msg.
 using debug_setting_msg_ref = message_ref<debug_setting_msg_type>;
 
-// ---- lumo_tarn_dp_debug_setting_msg carries one lumo_tarn_dp_debug_setting_data.
+/// lumo_tarn_dp_debug_setting_msg carries one lumo_tarn_dp_debug_setting_data.
 struct dp_debug_setting_msg_type {
-    using native = lumo_tarn_dp_debug_setting_msg;
-    using payload = lumo_ui_tarn::dp_debug_setting_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_debug_setting_msg";
+    using native = lumo_tarn_dp_debug_setting_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_debug_setting_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_debug_setting_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;
+    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;  ///< ends it
+    /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get;
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_debug_setting_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_debug_setting_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_debug_setting_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_debug_setting_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_debug_setting_msg.
 using dp_debug_setting_msg = message<dp_debug_setting_msg_type>;
+/// Borrows a lumo_tarn_dp_debug_setting_msg.
 using dp_debug_setting_msg_ref = message_ref<dp_debug_setting_msg_type>;
 
-// ---- lumo_tarn_cl_appl_msg carries one lumo_tarn_cl_appl_data.
+/// lumo_tarn_cl_appl_msg carries one lumo_tarn_cl_appl_data.
 struct cl_appl_msg_type {
-    using native = lumo_tarn_cl_appl_msg;
-    using payload = lumo_ui_tarn::cl_appl_data_type;
-    static constexpr const char *name = "lumo_tarn_cl_appl_msg";
+    using native = lumo_tarn_cl_appl_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::cl_appl_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_cl_appl_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;
-    static constexpr auto payload_get = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get;
+    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;  ///< ends it
+    static constexpr auto payload_get = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get;  ///< its payload
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_free_and_set;
-    static constexpr auto len = lumo_tarn_cl_appl_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_cl_appl_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_cl_appl_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_cl_appl_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_cl_appl_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_cl_appl_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_cl_appl_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_cl_appl_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_cl_appl_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_cl_appl_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_cl_appl_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_cl_appl_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_cl_appl_msg.
 using cl_appl_msg = message<cl_appl_msg_type>;
+/// Borrows a lumo_tarn_cl_appl_msg.
 using cl_appl_msg_ref = message_ref<cl_appl_msg_type>;
 
-// ---- lumo_tarn_cl_cfg_msg carries one lumo_tarn_cl_cfg_data.
+/// lumo_tarn_cl_cfg_msg carries one lumo_tarn_cl_cfg_data.
 struct cl_cfg_msg_type {
-    using native = lumo_tarn_cl_cfg_msg;
-    using payload = lumo_ui_tarn::cl_cfg_data_type;
-    static constexpr const char *name = "lumo_tarn_cl_cfg_msg";
+    using native = lumo_tarn_cl_cfg_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::cl_cfg_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_cl_cfg_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_cfg_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;
-    static constexpr auto payload_get = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get;
+    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;  ///< ends it
+    static constexpr auto payload_get = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get;  ///< its payload
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_free_and_set;
-    static constexpr auto len = lumo_tarn_cl_cfg_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_cl_cfg_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_cl_cfg_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_cl_cfg_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_cl_cfg_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_cl_cfg_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_cl_cfg_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_cl_cfg_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_cl_cfg_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_cl_cfg_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_cl_cfg_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_cl_cfg_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_cl_cfg_msg.
 using cl_cfg_msg = message<cl_cfg_msg_type>;
+/// Borrows a lumo_tarn_cl_cfg_msg.
 using cl_cfg_msg_ref = message_ref<cl_cfg_msg_type>;
 
-// ---- lumo_tarn_dp_intf_msg carries one lumo_tarn_dp_intf_data.
+/// lumo_tarn_dp_intf_msg carries one lumo_tarn_dp_intf_data.
 struct dp_intf_msg_type {
-    using native = lumo_tarn_dp_intf_msg;
-    using payload = lumo_ui_tarn::dp_intf_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_intf_msg";
+    using native = lumo_tarn_dp_intf_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_intf_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_intf_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_intf_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;
-    static constexpr auto payload_get = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get;
+    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;  ///< ends it
+    static constexpr auto payload_get = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get;  ///< its payload
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_intf_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_intf_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_intf_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_intf_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_intf_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_intf_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_intf_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_intf_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_intf_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_intf_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_intf_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_intf_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_intf_msg.
 using dp_intf_msg = message<dp_intf_msg_type>;
+/// Borrows a lumo_tarn_dp_intf_msg.
 using dp_intf_msg_ref = message_ref<dp_intf_msg_type>;
 
-// ---- lumo_tarn_dp_appl_msg carries one lumo_tarn_dp_appl_data.
+/// lumo_tarn_dp_appl_msg carries one lumo_tarn_dp_appl_data.
 struct dp_appl_msg_type {
-    using native = lumo_tarn_dp_appl_msg;
-    using payload = lumo_ui_tarn::dp_appl_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_appl_msg";
+    using native = lumo_tarn_dp_appl_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_appl_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_appl_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;
-    static constexpr auto payload_get = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get;
+    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;  ///< ends it
+    static constexpr auto payload_get = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get;  ///< its payload
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_appl_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_appl_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_appl_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_appl_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_appl_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_appl_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_appl_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_appl_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_appl_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_appl_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_appl_msg.
 using dp_appl_msg = message<dp_appl_msg_type>;
+/// Borrows a lumo_tarn_dp_appl_msg.
 using dp_appl_msg_ref = message_ref<dp_appl_msg_type>;
 
-// ---- lumo_tarn_dp_tt_msg carries one lumo_tarn_dp_tt_table_data.
+/// lumo_tarn_dp_tt_msg carries one lumo_tarn_dp_tt_table_data.
 struct dp_tt_msg_type {
-    using native = lumo_tarn_dp_tt_msg;
-    using payload = lumo_ui_tarn::dp_tt_table_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_tt_msg";
+    using native = lumo_tarn_dp_tt_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_tt_table_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_tt_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_tt_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;
-    static constexpr auto payload_get = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get;
+    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;  ///< ends it
+    static constexpr auto payload_get = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get;  ///< its payload
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_tt_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_tt_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_tt_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_tt_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_tt_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_tt_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_tt_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_tt_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_tt_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_tt_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_tt_msg.
 using dp_tt_msg = message<dp_tt_msg_type>;
+/// Borrows a lumo_tarn_dp_tt_msg.
 using dp_tt_msg_ref = message_ref<dp_tt_msg_type>;
 
-// ---- lumo_tarn_dp_mp_tc_msg carries one lumo_tarn_dp_mp_tc_prefix_data.
+/// lumo_tarn_dp_mp_tc_msg carries one lumo_tarn_dp_mp_tc_prefix_data.
 struct dp_mp_tc_msg_type {
-    using native = lumo_tarn_dp_mp_tc_msg;
-    using payload = lumo_ui_tarn::dp_mp_tc_prefix_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_mp_tc_msg";
+    using native = lumo_tarn_dp_mp_tc_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_mp_tc_prefix_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_mp_tc_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_tc_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;
+    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;  ///< ends it
+    /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get;
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_mp_tc_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_mp_tc_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_mp_tc_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_tc_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_mp_tc_msg.
 using dp_mp_tc_msg = message<dp_mp_tc_msg_type>;
+/// Borrows a lumo_tarn_dp_mp_tc_msg.
 using dp_mp_tc_msg_ref = message_ref<dp_mp_tc_msg_type>;
 
-// ---- lumo_tarn_dp_mp_prefix_msg carries one lumo_tarn_dp_mp_prefix_data.
+/// lumo_tarn_dp_mp_prefix_msg carries one lumo_tarn_dp_mp_prefix_data.
 struct dp_mp_prefix_msg_type {
-    using native = lumo_tarn_dp_mp_prefix_msg;
-    using payload = lumo_ui_tarn::dp_mp_prefix_data_type;
-    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_msg";
+    using native = lumo_tarn_dp_mp_prefix_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::dp_mp_prefix_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;  ///< ends it
+    /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get;
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_dp_mp_prefix_msg.
 using dp_mp_prefix_msg = message<dp_mp_prefix_msg_type>;
+/// Borrows a lumo_tarn_dp_mp_prefix_msg.
 using dp_mp_prefix_msg_ref = message_ref<dp_mp_prefix_msg_type>;
 
-// ---- lumo_tarn_pal_mp_prefix_msg carries one lumo_tarn_pal_mp_prefix_data.
+/// lumo_tarn_pal_mp_prefix_msg carries one lumo_tarn_pal_mp_prefix_data.
 struct pal_mp_prefix_msg_type {
-    using native = lumo_tarn_pal_mp_prefix_msg;
-    using payload = lumo_ui_tarn::pal_mp_prefix_data_type;
-    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_msg";
+    using native = lumo_tarn_pal_mp_prefix_msg;  ///< the message in C
+    using payload = lumo_ui_tarn::pal_mp_prefix_data_type;  ///< what it carries
+    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_msg";  ///< its name in C
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_pal_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;  ///< makes one
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;  ///< ends it
+    /// its payload
     static constexpr auto payload_get = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get;
+    /// takes its payload out
     static constexpr auto payload_detach = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get_detach;
+    /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_msg_message_len;
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_msg_message_marshal;
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only;
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_msg_message_print;
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_msg_message_to_xml;
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_msg_message_from_xml;
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_msg_message_len;  ///< its frame's size
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_msg_message_marshal;  ///< writes its frame
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only;  ///< reads its frame
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_msg_message_print;  ///< prints it
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_msg_message_to_xml;  ///< writes it as XML
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_msg_message_from_xml;  ///< reads it from XML
 };
+/// Owns a lumo_tarn_pal_mp_prefix_msg.
 using pal_mp_prefix_msg = message<pal_mp_prefix_msg_type>;
+/// Borrows a lumo_tarn_pal_mp_prefix_msg.
 using pal_mp_prefix_msg_ref = message_ref<pal_mp_prefix_msg_type>;
 
-// ---- lumo_tarn_pal_debug_rsp admits lumo_tarn_debug_setting_msg.
+/// lumo_tarn_pal_debug_rsp admits lumo_tarn_debug_setting_msg.
 struct pal_debug_rsp {
-    using message = lumo_ui_tarn::debug_setting_msg_type;
-    static constexpr const char *name = "lumo_tarn_pal_debug_rsp";
+    using message = lumo_ui_tarn::debug_setting_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_pal_debug_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_pal_debug_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_pal_debug_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_pal_debug_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_cl_debug_rsp admits lumo_tarn_debug_setting_msg.
+/// lumo_tarn_cl_debug_rsp admits lumo_tarn_debug_setting_msg.
 struct cl_debug_rsp {
-    using message = lumo_ui_tarn::debug_setting_msg_type;
-    static constexpr const char *name = "lumo_tarn_cl_debug_rsp";
+    using message = lumo_ui_tarn::debug_setting_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_cl_debug_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_cl_debug_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_cl_debug_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_cl_debug_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_debug_rsp admits lumo_tarn_dp_debug_setting_msg.
+/// lumo_tarn_dp_debug_rsp admits lumo_tarn_dp_debug_setting_msg.
 struct dp_debug_rsp {
-    using message = lumo_ui_tarn::dp_debug_setting_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_debug_rsp";
+    using message = lumo_ui_tarn::dp_debug_setting_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_debug_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_debug_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_cl_appl_cfg_rsp admits lumo_tarn_cl_appl_msg.
+/// lumo_tarn_cl_appl_cfg_rsp admits lumo_tarn_cl_appl_msg.
 struct cl_appl_cfg_rsp {
-    using message = lumo_ui_tarn::cl_appl_msg_type;
-    static constexpr const char *name = "lumo_tarn_cl_appl_cfg_rsp";
+    using message = lumo_ui_tarn::cl_appl_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_cl_appl_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_cl_cfg_rsp admits lumo_tarn_cl_cfg_msg.
+/// lumo_tarn_cl_cfg_rsp admits lumo_tarn_cl_cfg_msg.
 struct cl_cfg_rsp {
-    using message = lumo_ui_tarn::cl_cfg_msg_type;
-    static constexpr const char *name = "lumo_tarn_cl_cfg_rsp";
+    using message = lumo_ui_tarn::cl_cfg_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_cl_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_cl_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_cl_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_cl_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_intf_rsp admits lumo_tarn_dp_intf_msg.
+/// lumo_tarn_dp_intf_rsp admits lumo_tarn_dp_intf_msg.
 struct dp_intf_rsp {
-    using message = lumo_ui_tarn::dp_intf_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_intf_rsp";
+    using message = lumo_ui_tarn::dp_intf_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_intf_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_intf_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_intf_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_intf_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_appl_cfg_rsp admits lumo_tarn_dp_appl_msg.
+/// lumo_tarn_dp_appl_cfg_rsp admits lumo_tarn_dp_appl_msg.
 struct dp_appl_cfg_rsp {
-    using message = lumo_ui_tarn::dp_appl_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_appl_cfg_rsp";
+    using message = lumo_ui_tarn::dp_appl_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_appl_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_tt_cfg_rsp admits lumo_tarn_dp_tt_msg.
+/// lumo_tarn_dp_tt_cfg_rsp admits lumo_tarn_dp_tt_msg.
 struct dp_tt_cfg_rsp {
-    using message = lumo_ui_tarn::dp_tt_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_tt_cfg_rsp";
+    using message = lumo_ui_tarn::dp_tt_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_tt_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_mp_tc_cfg_rsp admits lumo_tarn_dp_mp_tc_msg.
+/// lumo_tarn_dp_mp_tc_cfg_rsp admits lumo_tarn_dp_mp_tc_msg.
 struct dp_mp_tc_cfg_rsp {
-    using message = lumo_ui_tarn::dp_mp_tc_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_mp_tc_cfg_rsp";
+    using message = lumo_ui_tarn::dp_mp_tc_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_mp_tc_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_dp_mp_prefix_cfg_rsp admits lumo_tarn_dp_mp_prefix_msg.
+/// lumo_tarn_dp_mp_prefix_cfg_rsp admits lumo_tarn_dp_mp_prefix_msg.
 struct dp_mp_prefix_cfg_rsp {
-    using message = lumo_ui_tarn::dp_mp_prefix_msg_type;
-    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_cfg_rsp";
+    using message = lumo_ui_tarn::dp_mp_prefix_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_dp_mp_prefix_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
 };
 
-// ---- lumo_tarn_pal_mp_prefix_cfg_rsp admits lumo_tarn_pal_mp_prefix_msg.
+/// lumo_tarn_pal_mp_prefix_cfg_rsp admits lumo_tarn_pal_mp_prefix_msg.
 struct pal_mp_prefix_cfg_rsp {
-    using message = lumo_ui_tarn::pal_mp_prefix_msg_type;
-    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_cfg_rsp";
+    using message = lumo_ui_tarn::pal_mp_prefix_msg_type;  ///< what it admits
+    static constexpr const char *name = "lumo_tarn_pal_mp_prefix_cfg_rsp";  ///< its name in C
+    /// writes the frame of its start
     static constexpr auto start = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_marshal;
+    /// writes the frame of its abort
     static constexpr auto abort = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
+    /// writes the frame of its commit
     static constexpr auto commit = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
 };
 
+/// Stands for a type in a call.
 template <class T>
 struct kind {
-    using type = T;
+    using type = T;  ///< the type
 };
-// Calls visit with a kind<T> for each record, in the order of the schema.
+/// Calls visit with a kind<T> for each record, in the order of the schema.
 template <class Visit>
 void for_each_record(Visit &&visit) {
     visit(kind<exmem_info>{});
@@ -5710,7 +6800,7 @@ void for_each_record(Visit &&visit) {
     visit(kind<pal_mp_prefix>{});
     visit(kind<pal_mp_prefix_data>{});
 }
-// Calls visit with a kind<T> for each message, in the order of the schema.
+/// Calls visit with a kind<T> for each message, in the order of the schema.
 template <class Visit>
 void for_each_message(Visit &&visit) {
     visit(kind<debug_setting_msg>{});
@@ -5724,7 +6814,7 @@ void for_each_message(Visit &&visit) {
     visit(kind<dp_mp_prefix_msg>{});
     visit(kind<pal_mp_prefix_msg>{});
 }
-// Calls visit with a kind<T> for each bundle, in the order of the schema.
+/// Calls visit with a kind<T> for each bundle, in the order of the schema.
 template <class Visit>
 void for_each_bundle(Visit &&visit) {
     visit(kind<pal_debug_rsp>{});

@@ -1,13 +1,14 @@
-// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include that header, not this one.
-//
-// A context stands for the first two arguments and the last of every operation: handle, ctx_id and error slot. It says
-// once how errors are told: thrown as std::system_error, or kept until somebody looks, as in C.
-//
-// For each record there are two types. dp_tc owns an instance; dp_tc_ref borrows one, from an owner, an array, a
-// message or C code. A reference is two pointers and behaves like one: copying it copies no record, and const protects
-// the reference, not the record. get() is the instance for everything that C offers and this header does not.
-//
-// Everything here is inline, and an accessor is the C call of the same name and a look at the error slot.
+/// @file
+/// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include that header, not this one.
+///
+/// A context stands for the first two arguments and the last of every operation: handle, ctx_id and error slot. It says
+/// once how errors are told: thrown as std::system_error, or kept until somebody looks, as in C.
+///
+/// For each record there are two types. dp_tc owns an instance; dp_tc_ref borrows one, from an owner, an array, a
+/// message or C code. A reference is two pointers and behaves like one: copying it copies no record, and const protects
+/// the reference, not the record. get() is the instance for everything that C offers and this header does not.
+///
+/// Everything here is inline, and an accessor is the C call of the same name and a look at the error slot.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
@@ -35,39 +36,54 @@
 #endif
 #endif
 
+/// The interface for C++.
 namespace lumo_ui_tarn {
 
+/// How errors are told.
 enum class errors {
-    thrown,  // as std::system_error, by the call that failed
-    kept     // until error() or take_error() looks; meanwhile no operation does anything
+    thrown,  ///< as std::system_error, by the call that failed
+    kept     ///< until error() or take_error() looks; meanwhile no operation does anything
 };
 
 #if defined(__cpp_exceptions)
+/// What a context does that is told nothing else.
 inline constexpr errors usual_errors = errors::thrown;
 #else
+/// What a context does that is told nothing else.
 inline constexpr errors usual_errors = errors::kept;
 #endif
 
-// Used by one thread at a time, like the handle, and outlives all that was made with it.
+/// Used by one thread at a time, like the handle, and outlives all that was made with it.
 class context {
 public:
+    /// With the handle's default_id.
     explicit context(mirk_handle *handle, errors mode = usual_errors) : context(handle, handle->default_id, mode) {}
+    /// With another context.
     context(mirk_handle *handle, std::uint32_t ctx_id, errors mode = usual_errors)
         : handle_(handle), ctx_id_(ctx_id), mode_(mode) {}
+    /// One error slot is in one place.
     context(const context &) = delete;
+    /// One error slot is in one place.
     context &operator=(const context &) = delete;
 
+    /// The first argument of C operations.
     mirk_handle *handle() const { return handle_; }
+    /// The second argument of C operations.
     std::uint32_t ctx_id() const { return ctx_id_; }
+    /// The last argument of C operations.
     std::uint32_t *slot() { return &slot_; }
 
+    /// The error that is kept, as an errno number.
     std::error_code error() const { return {static_cast<int>(slot_), std::generic_category()}; }
+    /// The error that was kept; operations work again.
     std::error_code take_error() { return {static_cast<int>(std::exchange(slot_, 0)), std::generic_category()}; }
+    /// No error is kept.
     bool ok() const { return slot_ == 0; }
 
+    /// Records that are made on the handle have states.
     bool tracks() const { return handle_->sttr_desc != nullptr && handle_->sttr_desc->sttr_mode == 0xEEEE; }
 
-    // Calls any operation of the form (h, ctx_id, ..., err).
+    /// Calls any operation of the form (h, ctx_id, ..., err).
     template <class Operation, class... Arguments>
     auto call(Operation operation, Arguments... arguments) {
         using Result = decltype(operation(handle_, ctx_id_, arguments..., &slot_));
@@ -81,7 +97,7 @@ public:
         }
     }
 
-    // An error that no operation has left: the first one stays.
+    /// An error that no operation has left: the first one stays.
     void fail(std::uint32_t number, const char *words = nullptr) {
         if (slot_ == 0) slot_ = number;
         tell(words);
@@ -106,61 +122,79 @@ private:
     [[maybe_unused]] errors mode_;
 };
 
-// Bytes of one or more frames, with the spare byte behind them that readers and writers of frames may touch.
+/// Bytes of one or more frames, with the spare byte behind them that readers and writers of frames may touch.
 class frame {
 public:
+    /// No bytes.
     frame() : bytes_(1) {}
+    /// A copy of the bytes.
     frame(const void *bytes, std::size_t size) : bytes_(size + 1) {
         if (size != 0) std::memcpy(bytes_.data(), bytes, size);
     }
 #if defined(__cpp_lib_span)
+    /// A copy of the bytes.
     explicit frame(std::span<const std::uint8_t> bytes) : frame(bytes.data(), bytes.size()) {}
+    /// The bytes without the spare one.
     operator std::span<const std::uint8_t>() const { return {data(), size()}; }
 #endif
+    /// The first byte.
     const std::uint8_t *data() const { return bytes_.data(); }
+    /// The first byte, to write.
     std::uint8_t *data() { return bytes_.data(); }
+    /// Bytes without the spare one.
     std::size_t size() const { return bytes_.size() - 1; }
+    /// There are none.
     bool empty() const { return size() == 0; }
+    /// The first byte.
     const std::uint8_t *begin() const { return data(); }
+    /// Behind the last byte: the spare one.
     const std::uint8_t *end() const { return data() + size(); }
+    /// Cuts off bytes, or adds zeros.
     void resize(std::size_t size) { bytes_.resize(size + 1); }
+    /// Adds another behind it.
     void append(const frame &other) {
         const std::size_t before = size();
         resize(before + other.size());
         if (!other.empty()) std::memcpy(data() + before, other.data(), other.size());
     }
+    /// The same bytes.
     friend bool operator==(const frame &a, const frame &b) {
         return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size()) == 0;
     }
+    /// Other bytes.
     friend bool operator!=(const frame &a, const frame &b) { return !(a == b); }
 
 private:
     std::vector<std::uint8_t> bytes_;
 };
 
-// The value of an address or prefix. Words are host-order numbers, word[0] the most significant; af is the system's
-// address family, 0 for an address that is not set.
+/// The value of an address or prefix. Words are host-order numbers, word[0] the most significant; af is the system's
+/// address family, 0 for an address that is not set.
 struct address {
-    std::uint8_t af = 0, prefix_len = 0;
-    std::uint16_t scope = 0;
-    std::array<std::uint32_t, 4> word{};
+    std::uint8_t af = 0;                  ///< address family
+    std::uint8_t prefix_len = 0;          ///< bits of the prefix
+    std::uint16_t scope = 0;              ///< scope of the address
+    std::array<std::uint32_t, 4> word{};  ///< the address itself
 
+    /// The same in all four.
     friend bool operator==(const address &a, const address &b) {
         return a.af == b.af && a.prefix_len == b.prefix_len && a.scope == b.scope && a.word == b.word;
     }
+    /// Another in one of the four.
     friend bool operator!=(const address &a, const address &b) { return !(a == b); }
 };
 
-// A member as for_each_member shows it: its name and pointers to the functions that read and write it. What a member
-// does not have is null.
+/// A member as for_each_member shows it: its name and pointers to the functions that read and write it. What a member
+/// does not have is null.
 template <class Get, class Set, class GetState, class SetState>
 struct member {
-    std::string_view name;
-    Get get;
-    Set set;
-    GetState get_state;
-    SetState set_state;
+    std::string_view name;  ///< as in C
+    Get get;                ///< reads it
+    Set set;                ///< writes it
+    GetState get_state;     ///< reads its state byte
+    SetState set_state;     ///< writes its state byte
 };
+/// A member knows its functions' types by what it is made of.
 template <class Get, class Set, class GetState, class SetState>
 member(const char *, Get, Set, GetState, SetState) -> member<Get, Set, GetState, SetState>;
 
@@ -175,12 +209,14 @@ class message_ref;
 template <class A>
 class array_ref;
 
+/// What owners and references have in common.
 namespace detail {
 
+/// @cond helpers
 inline constexpr std::size_t most_bytes = std::size_t{1} << 30;
 
-// Writers tell a lack of room by one of three numbers; their buffer grows until they are content. One more byte stands
-// behind what they are told of.
+/// Writers tell a lack of room by one of three numbers; their buffer grows until they are content. One more byte stands
+/// behind what they are told of.
 template <class Buffer, class Write>
 Buffer grown(context &c, std::size_t guess, typename Buffer::value_type filler, Write write) {
     if (!c.ok()) return {};
@@ -204,7 +240,7 @@ frame grown_frame(context &c, std::size_t guess, Write write) {
     return {bytes.data(), bytes.size()};
 }
 
-// Text has gaps in front of the braces of nested records, which are counted and not written.
+/// Text has gaps in front of the braces of nested records, which are counted and not written.
 template <class Write>
 std::string grown_text(context &c, std::size_t guess, Write write) {
     std::string text = grown<std::string>(c, guess, ' ', write);
@@ -213,14 +249,20 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
     }
     return text;
 }
+/// @endcond
 
+/// What owners and references are: a context and an object in C.
 template <class Native>
 class bound {
 public:
+    /// The object, for C functions; null if there is none.
     Native *get() const { return native_; }
+    /// What it was made with.
     lumo_ui_tarn::context &context() const { return *context_; }
+    /// There is an object.
     explicit operator bool() const { return native_ != nullptr; }
 
+    /// @cond helpers
 protected:
     bound(lumo_ui_tarn::context &c, Native *native) : context_(&c), native_(native) {}
     ~bound() = default;
@@ -234,39 +276,46 @@ protected:
 
     lumo_ui_tarn::context *context_;
     Native *native_;
+    /// @endcond
 };
 
-// What a record can do whatever its members are, and how the members printed from the schema do what they do. Names of
-// helpers end in an underscore, since those of members are the schema's.
+/// What a record can do whatever its members are, and how the members printed from the schema do what they do. Names of
+/// helpers end in an underscore, since those of members are the schema's.
 template <class R, class Self>
 class operations : public bound<typename R::native> {
     using base = bound<typename R::native>;
 
 public:
+    /// What names the record's C functions.
     using record_type = R;
 
+    /// The record's name in C.
     static constexpr std::string_view record_name() { return R::name; }
 
+    /// A reference to it.
     operator record_ref<R>() const { return {this->context(), this->get()}; }
 
-    // An upper bound, unless objects carry RA data.
+    /// An upper bound, unless objects carry RA data.
     std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->get()); }
-    // Returns the bytes written. The last byte of the buffer is the spare one.
+    /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
         return this->context().call(R::marshal, static_cast<void *>(buffer), this->get(),
                                     static_cast<std::int32_t>(size_with_spare) - 1);
     }
 #if defined(__cpp_lib_span)
+    /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
         return write_frame(with_spare.data(), with_spare.size());
     }
 #endif
+    /// Its frame, in a buffer that is large enough.
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return R::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::int32_t>(size), err);
         });
     }
+    /// An XML element of this name.
     std::string to_xml(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
@@ -274,6 +323,7 @@ public:
                              err);
         });
     }
+    /// Printed for people, under this name.
     std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
@@ -281,19 +331,24 @@ public:
         });
     }
 
-    // Only the sign means something. Header and state play no part.
+    /// Only the sign means something. Header and state play no part.
     std::int32_t compare(record_ref<R> other) const { return R::compare(this->get(), other.get()); }
+    /// Equal records have equal hashes.
     std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->get(), seed); }
+    /// A deep copy.
     record<R> copy() const;
 
+    /// Fills all state bytes at once, without announcing it.
     void set_all_states(std::uint8_t value) const {
         R::set_all_state_tracking_flag(this->context().handle(), this->context().ctx_id(), this->get(), value);
     }
+    /// It has states.
     bool is_tracked() const {
         return this->context().tracks() && this->get() != nullptr &&
                (reinterpret_cast<const mirk_object *>(this->get())->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
     }
 
+    /// @cond helpers
 protected:
     operations(lumo_ui_tarn::context &c, typename R::native *native) : base(c, native) {}
     ~operations() = default;
@@ -356,7 +411,7 @@ protected:
         }
         return value;
     }
-    // The setter takes a whole object: the one that stands there with other values, and states that say written.
+    /// The setter takes a whole object: the one that stands there with other values, and states that say written.
     template <class Get, class Set>
     const Self &write_address_(Get get, Set set, const lumo_ui_tarn::address &value) const {
         const ip_address *place = call_(get);
@@ -376,50 +431,61 @@ protected:
         return self_();
     }
 
-    // The setters of C move, and forget what the destination owned. Here nothing is lost: a copy is moved in, and what
-    // was there is moved out.
+    /// The setters of C move, and forget what the destination owned. Here nothing is lost: a copy is moved in, and what
+    /// was there is moved out.
     template <class N, class Get, class Set>
     const Self &adopt_(Get get, Set set, record<N> &&value) const;
     template <class N, class Get, class Set>
     const Self &assign_(Get get, Set set, record_ref<N> value) const;
+    /// @endcond
 };
 
 }  // namespace detail
 
+/// Borrows a record: two pointers, which are copied and not what they point to.
 template <class R>
 class record_ref : public R::template members<record_ref<R>> {
     using base = typename R::template members<record_ref<R>>;
 
 public:
+    /// Of what C code has.
     record_ref(context &c, typename R::native *native) : base(c, native) {}
 };
 
+/// Owns a record, and ends it.
 template <class R>
 class record : public R::template members<record<R>> {
     using base = typename R::template members<record<R>>;
 
 public:
+    /// Borrows what this owns.
     using reference_type = record_ref<R>;
 
+    /// All members zero. ENOMEM without memory.
     explicit record(context &c) : base(c, c.ok() ? R::create(c.handle(), c.ctx_id()) : nullptr) {
         if (this->native_ == nullptr) c.fail(ENOMEM);
     }
+    /// Copies are made by copy().
     record(const record &) = delete;
+    /// The other one is empty afterwards.
     record(record &&other) noexcept : base(other.context(), other.release()) {}
+    /// The other one gets what this one had.
     record &operator=(record &&other) noexcept {
         std::swap(this->context_, other.context_);
         std::swap(this->native_, other.native_);
         return *this;
     }
+    /// Ends the record.
     ~record() {
         if (this->native_ != nullptr) R::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
-    // Takes over what C code made, or hands it back to C code.
+    /// Takes over what C code made, or hands it back to C code.
     static record take(context &c, typename R::native *native) { return record(c, native); }
+    /// Gives it away; this one is empty afterwards.
     [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    // Reads the frame where it lies: its owner has one readable byte behind the size, as a frame object does.
+    /// Reads the frame where it lies: its owner has one readable byte behind the size, as a frame object does.
     static record from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
         // The operation takes a plain void * and only reads.
@@ -427,17 +493,19 @@ public:
                std::uint32_t{0});
         return fresh;
     }
+    /// Reads a frame.
     static record from_frame(context &c, const frame &whole) {
         return from_frame_with_spare(c, whole.data(), whole.size());
     }
-    // Copies the bytes first.
+    /// Copies the bytes first.
     static record from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
+    /// Copies the bytes first.
     static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    // The document is the runtime's. Without a path the record's element is looked for at any depth.
+    /// The document is the runtime's. Without a path the record's element is looked for at any depth.
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
         const std::string anywhere = std::string("//") + R::name;
@@ -454,18 +522,21 @@ private:
     record(context &c, typename R::native *native) : base(c, native) {}
 };
 
+/// The same in all members.
 template <class A, class B, class R = typename A::record_type,
           class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
                                    std::is_base_of_v<detail::operations<R, B>, B>>>
 bool operator==(const A &a, const B &b) {
     return a.compare(b) == 0;
 }
+/// Another in some member.
 template <class A, class B, class R = typename A::record_type,
           class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
                                    std::is_base_of_v<detail::operations<R, B>, B>>>
 bool operator!=(const A &a, const B &b) {
     return a.compare(b) != 0;
 }
+/// Ordered by compare().
 template <class A, class B, class R = typename A::record_type,
           class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
                                    std::is_base_of_v<detail::operations<R, B>, B>>>
@@ -475,7 +546,8 @@ bool operator<(const A &a, const B &b) {
 
 namespace detail {
 
-// By way of a frame, like every deep copy, but of any size.
+/// @cond helpers
+/// By way of a frame, like every deep copy, but of any size.
 template <class R, class Self>
 record<R> operations<R, Self>::copy() const {
     lumo_ui_tarn::context &c = this->context();
@@ -486,7 +558,7 @@ record<R> operations<R, Self>::copy() const {
     return record<R>::take(c, result);
 }
 
-// Empties a record that owns blocks into one that ends with the scope.
+/// Empties a record that owns blocks into one that ends with the scope.
 template <class N>
 class emptied {
 public:
@@ -519,21 +591,26 @@ const Self &operations<R, Self>::assign_([[maybe_unused]] Get get, Set set, reco
         return self_();
     }
 }
+/// @endcond
 
 }  // namespace detail
 
-// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
-// good until the array grows, and each growth moves all elements: grow once, then fill.
+/// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
+/// good until the array grows, and each growth moves all elements: grow once, then fill.
 template <class A>
 class array_ref {
     using element = typename A::element;
 
 public:
+    /// What an element is to whoever looks.
     using value_type = record_ref<element>;
+    /// What counts elements.
     using size_type = std::size_t;
 
+    /// Over the elements, with random access.
     class iterator {
     public:
+        /// @cond what every iterator has
         using value_type = record_ref<element>;
         using reference = value_type;
         using difference_type = std::ptrdiff_t;
@@ -580,31 +657,40 @@ public:
         friend bool operator>(const iterator &a, const iterator &b) { return a.at_ > b.at_; }
         friend bool operator<=(const iterator &a, const iterator &b) { return a.at_ <= b.at_; }
         friend bool operator>=(const iterator &a, const iterator &b) { return a.at_ >= b.at_; }
+        /// @endcond
 
     private:
         context *context_ = nullptr;
         typename A::native *owner_ = nullptr;
         std::size_t at_ = 0;
     };
+    /// Being constant protects the container and not what is in it.
     using const_iterator = iterator;
 
+    /// Of the record that has the array.
     array_ref(context &c, typename A::native *owner) : context_(&c), owner_(owner) {}
 
+    /// How many elements there are.
     std::size_t size() const { return context_->call(A::size, owner_); }
+    /// There are none.
     bool empty() const { return size() == 0; }
-    // What the count can tell.
+    /// What the count can tell.
     static constexpr std::size_t max_size() { return std::numeric_limits<typename A::count>::max(); }
 
-    // ENOENT behind the end.
+    /// ENOENT behind the end.
     value_type operator[](std::size_t index) const {
         return {*context_, context_->call(A::get, owner_, static_cast<std::uint32_t>(index))};
     }
+    /// The first element.
     value_type front() const { return (*this)[0]; }
+    /// The last element.
     value_type back() const { return (*this)[size() - 1]; }
+    /// At the first element.
     iterator begin() const { return {context_, owner_, 0}; }
+    /// Behind the last element.
     iterator end() const { return {context_, owner_, size()}; }
 
-    // To this many elements, new ones with all members zero. EINVAL for fewer than there are: arrays do not shrink.
+    /// To this many elements, new ones with all members zero. EINVAL for fewer than there are: arrays do not shrink.
     const array_ref &grow(std::size_t elements) const {
         const std::size_t before = size();
         if (elements < before) context_->fail(EINVAL);
@@ -615,7 +701,7 @@ public:
         put(elements - 1, blank ? blank->get() : nullptr);
         return *this;
     }
-    // Grows as far as it has to. What stood there is released.
+    /// Grows as far as it has to. What stood there is released.
     const array_ref &set(std::size_t index, record<element> &&value) const {
         const std::size_t before = size();
         if (index >= max_size()) context_->fail(EOVERFLOW);
@@ -628,11 +714,14 @@ public:
         }
         return *this;
     }
+    /// Writes a copy of the value.
     const array_ref &set(std::size_t index, value_type value) const { return set(index, value.copy()); }
+    /// Moves the value behind the last element.
     const array_ref &push_back(record<element> &&value) const { return set(size(), std::move(value)); }
+    /// Puts a copy of the value behind the last element.
     const array_ref &push_back(value_type value) const { return set(size(), value.copy()); }
 
-    // The state of one element; none if the owner has no states.
+    /// The state of one element; none if the owner has no states.
     std::optional<std::uint8_t> state(std::size_t index) const {
         const auto *object = reinterpret_cast<const mirk_object *>(owner_);
         if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
@@ -640,6 +729,7 @@ public:
         }
         return context_->call(A::state_get, owner_, static_cast<std::uint32_t>(index));
     }
+    /// Writes the state of one element.
     const array_ref &set_state(std::size_t index, std::uint8_t value) const {
         context_->call(A::state_set, owner_, static_cast<std::uint32_t>(index), value);
         return *this;
@@ -656,58 +746,71 @@ private:
 
 namespace detail {
 
+/// What a message can do, owned or borrowed.
 template <class M>
 class message_operations : public bound<typename M::native> {
     using base = bound<typename M::native>;
 
 public:
+    /// What names the message's C functions.
     using message_type = M;
+    /// What names its payload's C functions.
     using payload_type = typename M::payload;
 
+    /// The message's name in C.
     static constexpr std::string_view message_name() { return M::name; }
+    /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return M::luid(); }
 
+    /// A reference to it.
     operator message_ref<M>() const { return {this->context(), this->get()}; }
 
-    // Borrowed: it goes with the message.
+    /// Borrowed: it goes with the message.
     record_ref<payload_type> payload() const { return {this->context(), this->call_(M::payload_get)}; }
-    // The message has no payload afterwards, until it gets another one.
+    /// The message has no payload afterwards, until it gets another one.
     record<payload_type> detach_payload() const {
         return record<payload_type>::take(this->context(), this->call_(M::payload_detach));
     }
-    // What it had is destroyed.
+    /// What it had is destroyed.
     void set_payload(record<payload_type> &&value) const {
         typename payload_type::native *const next = value.release();
         if (next != payload().get()) this->call_(M::payload_free_and_set, next);
     }
 
+    /// Bytes of its frame.
     std::size_t frame_size() const {
         return this->get() != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->get()) : 0;
     }
-    // Returns the bytes written. The last byte of the buffer is the spare one.
+    /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
         return this->context().call(M::marshal, static_cast<void *>(buffer), this->get(),
                                     static_cast<std::uint32_t>(size_with_spare) - 1);
     }
 #if defined(__cpp_lib_span)
+    /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
         return write_frame(with_spare.data(), with_spare.size());
     }
 #endif
+    /// Its frame, in a buffer that is large enough.
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return M::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::uint32_t>(size), err);
         });
     }
+    /// An XML element of its name.
     std::string to_xml() const { return rendered(M::to_xml); }
+    /// Printed for people.
     std::string text() const { return rendered(M::print); }
 
+    /// @cond helpers
 protected:
     message_operations(lumo_ui_tarn::context &c, typename M::native *native) : base(c, native) {}
     ~message_operations() = default;
     message_operations(const message_operations &) = default;
     message_operations &operator=(const message_operations &) = default;
+    /// @endcond
 
 private:
     template <class Operation>
@@ -721,37 +824,48 @@ private:
 
 }  // namespace detail
 
+/// Borrows a message, as record_ref borrows a record.
 template <class M>
 class message_ref : public detail::message_operations<M> {
 public:
+    /// Of what C code has.
     message_ref(context &c, typename M::native *native) : detail::message_operations<M>(c, native) {}
 };
 
+/// Owns a message, and ends it with its payload.
 template <class M>
 class message : public detail::message_operations<M> {
     using base = detail::message_operations<M>;
 
 public:
+    /// Borrows what this owns.
     using reference_type = message_ref<M>;
 
+    /// With a fresh payload. ENOMEM without memory.
     explicit message(context &c) : base(c, c.ok() ? M::create(c.handle(), c.ctx_id()) : nullptr) {
         if (this->native_ == nullptr) c.fail(ENOMEM);
     }
+    /// Messages are not copied.
     message(const message &) = delete;
+    /// The other one is empty afterwards.
     message(message &&other) noexcept : base(other.context(), other.release()) {}
+    /// The other one gets what this one had.
     message &operator=(message &&other) noexcept {
         std::swap(this->context_, other.context_);
         std::swap(this->native_, other.native_);
         return *this;
     }
+    /// Ends the message.
     ~message() {
         if (this->native_ != nullptr) M::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
+    /// Takes over what C code made.
     static message take(context &c, typename M::native *native) { return message(c, native); }
+    /// Gives it away; this one is empty afterwards.
     [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    // A message that was read in part is destroyed again.
+    /// A message that was read in part is destroyed again.
     static message from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         std::uint32_t err = *c.slot();
@@ -761,15 +875,19 @@ public:
         if (err != 0) c.fail(err);
         return read;
     }
+    /// Reads a frame.
     static message from_frame(context &c, const frame &whole) {
         return from_frame_with_spare(c, whole.data(), whole.size());
     }
+    /// Copies the bytes first.
     static message from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
+    /// Copies the bytes first.
     static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
+    /// The document is the runtime's.
     static message from_xml(context &c, void *document) {
         char words[256] = "";
         typename M::native *native = nullptr;
@@ -784,16 +902,20 @@ private:
     message(context &c, typename M::native *native) : base(c, native) {}
 };
 
-// Frames of one answer: the start of a bundle, its messages, and its commit. Ends with an abort if nobody commits.
+/// Frames of one answer: the start of a bundle, its messages, and its commit. Ends with an abort if nobody commits.
 template <class B>
 class bundle_writer {
 public:
+    /// Writes the start.
     explicit bundle_writer(context &c) : context_(&c) {
         control(B::start);
         open_ = c.ok();
     }
+    /// A bundle is open once.
     bundle_writer(const bundle_writer &) = delete;
+    /// A bundle is open once.
     bundle_writer &operator=(const bundle_writer &) = delete;
+    /// Ends the bundle in the runtime if nobody did.
     ~bundle_writer() {
         if (!open_) return;
         std::uint8_t frame_of_nobody[64];
@@ -801,12 +923,16 @@ public:
         B::abort(context_->handle(), context_->ctx_id(), frame_of_nobody, nullptr, sizeof frame_of_nobody - 1, &err);
     }
 
+    /// The frame of a message that the bundle admits.
     bundle_writer &add(message_ref<typename B::message> one) {
         frames_.append(one.to_frame());
         return *this;
     }
+    /// The frame of the commit.
     bundle_writer &commit() { return end(B::commit); }
+    /// The frame of the abort.
     bundle_writer &abort() { return end(B::abort); }
+    /// What was written up to now.
     const frame &frames() const { return frames_; }
 
 private:
@@ -832,6 +958,7 @@ private:
 
 }  // namespace lumo_ui_tarn
 
+/// @cond what every hash has
 template <class R>
 struct std::hash<lumo_ui_tarn::record<R>> {
     std::size_t operator()(const lumo_ui_tarn::record<R> &object) const { return object.hash(); }
@@ -840,5 +967,6 @@ template <class R>
 struct std::hash<lumo_ui_tarn::record_ref<R>> {
     std::size_t operator()(const lumo_ui_tarn::record_ref<R> &object) const { return object.hash(); }
 };
+/// @endcond
 
 #endif

@@ -1,5 +1,6 @@
 #include <set>
 
+#include "names.h"
 #include "surface.h"
 #include "writers.h"
 
@@ -50,12 +51,6 @@ std::string comment(std::string text) {
 
 std::string group(const std::string &heading, const std::string &content) {
     return "/** @name " + heading + "\n *  @{ */\n" + content + "/** @} */\n";
-}
-
-std::string sentence(std::string_view phrase) {
-    std::string text(phrase);
-    if (text.front() >= 'a' && text.front() <= 'z') text.front() = static_cast<char>(text.front() - 'a' + 'A');
-    return text + ".";
 }
 
 std::string declaration(const Export &e) {

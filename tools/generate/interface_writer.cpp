@@ -127,6 +127,23 @@ std::string broken(std::string line, std::size_t indent) {
     return text + line + "\n";
 }
 
+// Lines of a structure that names C types and functions.
+std::string explained(const std::string &declaration, const std::string &meaning) {
+    const std::string line = "    " + declaration + ";  ///< " + meaning + "\n";
+    return line.size() <= line_width ? line : "    /// " + meaning + "\n    " + declaration + ";\n";
+}
+std::string alias(const std::string &name, const std::string &type, const std::string &meaning) {
+    return explained("using " + name + " = " + type, meaning);
+}
+std::string constant(const std::string &name, const std::string &function, const std::string &meaning) {
+    return explained("static constexpr auto " + name + " = " + function, meaning);
+}
+std::string indented(const std::string &lines) {
+    std::string text = "    ";
+    for (const char c : lines) text += c == '\n' ? "\n    " : std::string(1, c);
+    return text.substr(0, text.size() - 4);
+}
+
 // The functions of one record. Two members whose functions would bear one name are refused here and not by the
 // compiler of somebody else.
 class Members {
@@ -142,11 +159,12 @@ public:
 private:
     std::string c(const Member &m) const { return std::string(record_.name) + "_" + std::string(m.name); }
 
-    void function(const std::string &result, const std::string &name, const std::string &parameter,
-                  const std::string &body) {
+    void function(const std::string &meaning, const std::string &result, const std::string &name,
+                  const std::string &parameter, const std::string &body) {
         if (!names_.insert(name + "(" + parameter.substr(0, 5)).second) {
             throw std::runtime_error(std::string(record_.name) + " has two functions that are called " + name);
         }
+        functions_ += "        /// " + meaning + "\n";
         const std::string head =
             "        " + result + (result.ends_with('&') ? "" : " ") + name + "(" + parameter + ") const {";
         const std::string statement = "return this->" + body + ";";
@@ -169,72 +187,75 @@ private:
     void add(std::size_t index) {
         const Member &m = record_.members[index];
         const std::string name = identifier(m.name), get = c(m) + "_get", set = c(m) + "_set";
-        functions_ += "\n        // " + std::string(m.meaning) + "\n";
+        const std::string meaning = sentence(m.meaning);
+        functions_ += "\n";
         const auto setter = [&](const std::string &parameter, const std::string &body) {
-            function("const Self &", "set_" + name, parameter, body);
+            function("Writes " + name + ".", "const Self &", "set_" + name, parameter, body);
         };
         switch (class_of(m)) {
             case Applies::integer: {
                 const std::string type = "std::" + value_type(m);
-                function(type, name, "", "call_(" + get + "_value)");
+                function(meaning, type, name, "", "call_(" + get + "_value)");
                 setter(type + " value", "write_(" + set + "_value, value)");
                 break;
             }
             case Applies::boolean:
-                function("bool", name, "", "call_(" + get + "_value) != 0");
+                function(meaning, "bool", name, "", "call_(" + get + "_value) != 0");
                 setter("bool value", "write_(" + set + "_value, static_cast<std::uint8_t>(value))");
                 break;
             case Applies::choice: {
                 const std::string type = space + type_name(*m.enumeration);
-                function(type, name, "", "template choice_<" + type + ">(" + get + "_value)");
+                function(meaning, type, name, "", "template choice_<" + type + ">(" + get + "_value)");
                 setter(type + " value", "write_(" + set + "_value, static_cast<std::uint32_t>(value))");
                 break;
             }
             case Applies::address:
-                function(space + "address", name, "", "read_address_(" + get + ")");
+                function(meaning, space + "address", name, "", "read_address_(" + get + ")");
                 setter("const " + space + "address &value", "write_address_(" + get + ", " + set + ", value)");
                 break;
             case Applies::nested: {
                 const std::string type = space + short_name(m.record->name);
-                function(type + "_ref", name, "", "template nested_<" + type + "_type>(" + get + ")");
+                function(meaning, type + "_ref", name, "", "template nested_<" + type + "_type>(" + get + ")");
                 setter(type + "_ref value", "assign_(" + get + ", " + set + ", value)");
-                function("const Self &", "adopt_" + name, type + " &&value",
+                function("Moves a record into " + name + ".", "const Self &", "adopt_" + name, type + " &&value",
                          "adopt_(" + get + ", " + set + ", std::move(value))");
                 break;
             }
             case Applies::string:
-                function("std::string", name, "",
+                function(meaning, "std::string", name, "",
                          "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
                 setter("std::string_view text", "write_string_(" + set + ", text)");
                 break;
             case Applies::array:
-                add_array(index, name);
+                add_array(index, name, meaning);
                 break;
             default:  // counts and lengths follow from what they count
-                function("std::" + value_type(m), name, "", "call_(" + get + "_value)");
+                function(meaning, "std::" + value_type(m), name, "", "call_(" + get + "_value)");
                 list(m, name, false, false);
                 return;
         }
         const std::string whole = m.kind == Kind::array ? "_whole" : "";
-        function("std::optional<std::uint8_t>", name + "_state", "",
-                 "state_(" + c(m) + "_state_flag" + whole + "_get)");
-        function("const Self &", "set_" + name + "_state", "std::uint8_t value",
-                 "write_(" + c(m) + "_state_flag" + whole + "_set, value)");
+        function("The state byte of " + name + "; none if the record has no states.", "std::optional<std::uint8_t>",
+                 name + "_state", "", "state_(" + c(m) + "_state_flag" + whole + "_get)");
+        function("Writes the state byte of " + name + ".", "const Self &", "set_" + name + "_state",
+                 "std::uint8_t value", "write_(" + c(m) + "_state_flag" + whole + "_set, value)");
         list(m, name, m.kind != Kind::array, true);
     }
 
-    void add_array(std::size_t index, const std::string &name) {
+    void add_array(std::size_t index, const std::string &name, const std::string &meaning) {
         const Member &m = record_.members[index], &count = record_.members[index - 1];
         const std::string tag = name + "_array";
-        arrays_ += "    struct " + tag + " {\n        using native = " + std::string(record_.name) +
-                   ";\n        using element = " + space + short_name(m.record->name) +
-                   "_type;\n        using count = std::" + value_type(count) +
-                   ";\n        static constexpr auto size = " + c(count) + "_get_value;\n" +
-                   "        static constexpr auto get = " + c(m) +
-                   "_get;\n        static constexpr auto set = " + c(m) +
-                   "_set;\n        static constexpr auto state_get = " + c(m) +
-                   "_state_flag_get;\n        static constexpr auto state_set = " + c(m) + "_state_flag_set;\n    };\n";
-        function(space + "array_ref<" + tag + ">", name, "", "template array_<" + tag + ">()");
+        arrays_ += "    /// How " + name + " is read and written, for array_ref.\n    struct " + tag + " {\n" +
+                   indented(alias("native", std::string(record_.name), "the record that has the array") +
+                            alias("element", space + short_name(m.record->name) + "_type", "what it is an array of") +
+                            alias("count", "std::" + value_type(count), "what its elements are counted in") +
+                            constant("size", c(count) + "_get_value", "how many there are") +
+                            constant("get", c(m) + "_get", "an element") +
+                            constant("set", c(m) + "_set", "writes an element") +
+                            constant("state_get", c(m) + "_state_flag_get", "an element's state byte") +
+                            constant("state_set", c(m) + "_state_flag_set", "writes an element's state byte")) +
+                   "    };\n";
+        function(meaning, space + "array_ref<" + tag + ">", name, "", "template array_<" + tag + ">()");
     }
 
     const Record &record_;
@@ -248,94 +269,111 @@ bool owns_blocks(const Record &record) {
     });
 }
 
-std::string constants(const std::string &prefix, std::initializer_list<std::pair<const char *, std::string>> pairs) {
+struct Named {
+    const char *name;
+    std::string function;
+    const char *meaning;
+};
+std::string constants(const std::string &prefix, std::initializer_list<Named> all) {
     std::string text;
-    for (const auto &[name, function] : pairs) {
-        text += "    static constexpr auto " + std::string(name) + " = " + prefix + function + ";\n";
-    }
+    for (const Named &one : all) text += constant(one.name, prefix + one.function, one.meaning);
     return text;
+}
+
+std::string c_name(const std::string &c) {
+    return explained("static constexpr const char *name = \"" + c + "\"", "its name in C");
+}
+
+// The two types that users take.
+std::string owner_and_reference(const std::string &what, const std::string &name, const std::string &c) {
+    return "/// Owns a " + c + ".\nusing " + name + " = " + what + "<" + name + "_type>;\n/// Borrows a " + c +
+           ".\nusing " + name + "_ref = " + what + "_ref<" + name + "_type>;\n\n";
 }
 
 std::string record_types(const Record &record) {
     const std::string c(record.name), name = short_name(record.name);
     const Members members(record);
-    std::string text = "// ---- " + c + ": " + std::string(record.meaning) + "\nstruct " + name +
-                       "_type {\n    using native = " + c + ";\n    static constexpr const char *name = \"" + c +
-                       "\";\n    static constexpr bool owns_blocks = " + (owns_blocks(record) ? "true" : "false") +
-                       ";  // arrays or strings\n";
-    text += constants(c + "_", {{"create", "create"},
-                                {"destroy", "destroy"},
-                                {"set", "set"},
-                                {"clone", "clone"},
-                                {"len", "len"},
-                                {"marshal", "marshal"},
-                                {"unmarshal", "unmarshal"},
-                                {"print", "print"},
-                                {"to_xml", "to_xml"},
-                                {"from_xml", "from_xml"},
-                                {"compare", "compare"},
-                                {"hash", "hash"},
-                                {"set_all_state_tracking_flag", "set_all_state_tracking_flag"}});
+    std::string text =
+        "/// " + c + ": " + std::string(record.meaning) + ".\nstruct " + name + "_type {\n" +
+        alias("native", c, "the record in C") + c_name(c) +
+        explained(std::string("static constexpr bool owns_blocks = ") + (owns_blocks(record) ? "true" : "false"),
+                  "has arrays or strings");
+    text += constants(c + "_", {{"create", "create", "makes an instance"},
+                                {"destroy", "destroy", "ends it"},
+                                {"set", "set", "moves one into another"},
+                                {"clone", "clone", "a deep copy"},
+                                {"len", "len", "an upper bound of its frame's size"},
+                                {"marshal", "marshal", "writes its frame"},
+                                {"unmarshal", "unmarshal", "reads its frame"},
+                                {"print", "print", "prints it"},
+                                {"to_xml", "to_xml", "writes it as XML"},
+                                {"from_xml", "from_xml", "reads it from XML"},
+                                {"compare", "compare", "orders two"},
+                                {"hash", "hash", "its hash"},
+                                {"set_all_state_tracking_flag", "set_all_state_tracking_flag", "writes all states"}});
     text += "\n" + members.arrays() + (members.arrays().empty() ? "" : "\n");
-    text += "    template <class Self>\n    class members : public detail::operations<" + name +
-            "_type, Self> {\n    public:\n        using detail::operations<" + name + "_type, Self>::operations;\n";
+    text +=
+        "    /// Reads and writes the members, for the owner and for the reference.\n    template <class Self>\n"
+        "    class members : public detail::operations<" +
+        name + "_type, Self> {\n    public:\n        using detail::operations<" + name + "_type, Self>::operations;\n";
     text += members.functions();
-    text += "\n        template <class Visit>\n        static void for_each_member(Visit &&visit) {\n" +
-            members.listed() + "        }\n    };\n};\nusing " + name + " = record<" + name + "_type>;\nusing " + name +
-            "_ref = record_ref<" + name + "_type>;\n\n";
-    return text;
+    text +=
+        "\n        /// Calls visit with a lumo_ui_tarn::member for each, in order.\n        template <class Visit>\n"
+        "        static void for_each_member(Visit &&visit) {\n" +
+        members.listed() + "        }\n    };\n};\n";
+    return text + owner_and_reference("record", name, c);
 }
 
 std::string enumeration_type(const Enumeration &enumeration) {
     const std::string name = type_name(enumeration);
-    std::string text = "// " + std::string(enumeration.meaning) + "\nenum class " + name + " : std::uint32_t {\n";
+    std::string text = "/// " + sentence(enumeration.meaning) + "\nenum class " + name + " : std::uint32_t {\n";
     std::string cases;
     const std::vector<std::string> names = enumerator_names(enumeration);
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::string enumerator = identifier(names[i]);
-        text += "    " + enumerator + " = " + std::to_string(i) + ",\n";
+        text += "    " + enumerator + " = " + std::to_string(i) + ",  ///< " + std::string(enumeration.enumerators[i]) +
+                "\n";
         cases += "        case " + name + "::" + enumerator + ":\n            return \"" +
                  std::string(enumeration.enumerators[i]) + "\";\n";
     }
-    return text + "};\n// Its name in C; empty for a value that has none, as frames may bring one.\n" +
+    return text + "};\n/// Its name in C; empty for a value that has none, as frames may bring one.\n" +
            "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
            "    }\n    return {};\n}\n\n";
 }
 
 std::string message_types(const Message &message) {
     const std::string c(message.name), name = short_name(message.name), payload(message.payload.name);
-    return "// ---- " + c + " carries one " + payload + ".\nstruct " + name + "_type {\n    using native = " + c +
-           ";\n    using payload = " + space + short_name(payload) +
-           "_type;\n    static constexpr const char *name = \"" + c +
-           "\";\n    static const std::uint8_t *luid() { return message_" + c + "_luid; }\n" +
-           constants(c + "_message_", {{"create", "create"},
-                                       {"destroy", "destroy"},
-                                       {"payload_get", payload + "_get"},
-                                       {"payload_detach", payload + "_get_detach"},
-                                       {"payload_free_and_set", payload + "_free_and_set"},
-                                       {"len", "len"},
-                                       {"marshal", "marshal"},
-                                       {"unmarshal", "unmarshal_only"},
-                                       {"print", "print"},
-                                       {"to_xml", "to_xml"},
-                                       {"from_xml", "from_xml"}}) +
-           "};\nusing " + name + " = message<" + name + "_type>;\nusing " + name + "_ref = message_ref<" + name +
-           "_type>;\n\n";
+    return "/// " + c + " carries one " + payload + ".\nstruct " + name + "_type {\n" +
+           alias("native", c, "the message in C") +
+           alias("payload", space + short_name(payload) + "_type", "what it carries") + c_name(c) +
+           "    /// Its identity, 16 bytes.\n    static const std::uint8_t *luid() { return message_" + c +
+           "_luid; }\n" +
+           constants(c + "_message_", {{"create", "create", "makes one"},
+                                       {"destroy", "destroy", "ends it"},
+                                       {"payload_get", payload + "_get", "its payload"},
+                                       {"payload_detach", payload + "_get_detach", "takes its payload out"},
+                                       {"payload_free_and_set", payload + "_free_and_set", "replaces its payload"},
+                                       {"len", "len", "its frame's size"},
+                                       {"marshal", "marshal", "writes its frame"},
+                                       {"unmarshal", "unmarshal_only", "reads its frame"},
+                                       {"print", "print", "prints it"},
+                                       {"to_xml", "to_xml", "writes it as XML"},
+                                       {"from_xml", "from_xml", "reads it from XML"}}) +
+           "};\n" + owner_and_reference("message", name, c);
 }
 
 std::string bundle_type(const Bundle &bundle) {
-    const std::string c(bundle.name), name = short_name(bundle.name);
-    return "// ---- " + c + " admits " + std::string(bundle.message.name) + ".\nstruct " + name +
-           " {\n    using message = " + space + short_name(bundle.message.name) +
-           "_type;\n    static constexpr const char *name = \"" + c + "\";\n" +
-           constants(c + "_bundle_", {{"start", "start_message_marshal"},
-                                      {"abort", "abort_message_marshal"},
-                                      {"commit", "commit_message_marshal"}}) +
+    const std::string c(bundle.name), name = short_name(bundle.name), message(bundle.message.name);
+    return "/// " + c + " admits " + message + ".\nstruct " + name + " {\n" +
+           alias("message", space + short_name(message) + "_type", "what it admits") + c_name(c) +
+           constants(c + "_bundle_", {{"start", "start_message_marshal", "writes the frame of its start"},
+                                      {"abort", "abort_message_marshal", "writes the frame of its abort"},
+                                      {"commit", "commit_message_marshal", "writes the frame of its commit"}}) +
            "};\n\n";
 }
 
 std::string visit_all(const std::string &function, const std::string &what, const std::vector<std::string> &names) {
-    std::string text = "// Calls visit with a kind<T> for each " + what +
+    std::string text = "/// Calls visit with a kind<T> for each " + what +
                        ", in the order of the schema.\n"
                        "template <class Visit>\nvoid " +
                        function + "(Visit &&visit) {\n";
@@ -347,12 +385,13 @@ std::string visit_all(const std::string &function, const std::string &what, cons
 
 std::string interface_page() {
     std::string text =
-        "// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.\n"
-        "// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation "
+        "/// @file\n"
+        "/// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.\n"
+        "/// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation "
         "behaves.\n"
-        "//\n"
-        "// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
-        "// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library "
+        "///\n"
+        "/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
+        "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library "
         "alone.\n"
         "// Generated from the schema; edit the tables there and run tools/regenerate.\n"
         "#ifndef LUMO_UI_TARN_HPP\n#define LUMO_UI_TARN_HPP\n\n#include <lumo_ui_tarn.h>\n\n"
@@ -366,7 +405,8 @@ std::string interface_page() {
         for (const auto *one : all) list.push_back(short_name(one->name));
         return list;
     };
-    text += "template <class T>\nstruct kind {\n    using type = T;\n};\n";
+    text += "/// Stands for a type in a call.\ntemplate <class T>\nstruct kind {\n" + alias("type", "T", "the type") +
+            "};\n";
     text += visit_all("for_each_record", "record", names(records));
     text += visit_all("for_each_message", "message", names(messages));
     text += visit_all("for_each_bundle", "bundle", names(bundles));

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "names.h"
 #include "schema/wire_size.h"
 #include "surface.h"
 #include "writers.h"
@@ -38,12 +39,6 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
         out += "\n";
     }
     return out + ".El\n";
-}
-
-std::string capital(std::string_view phrase) {
-    std::string text(phrase);
-    if (text.front() >= 'a' && text.front() <= 'z') text.front() = static_cast<char>(text.front() - 'a' + 'A');
-    return text;
 }
 
 std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }

@@ -32,4 +32,12 @@ std::vector<std::string> enumerator_names(const schema::Enumeration &enumeration
     return names;
 }
 
+std::string capital(std::string_view phrase) {
+    std::string text(phrase);
+    if (text.front() >= 'a' && text.front() <= 'z') text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text;
+}
+
+std::string sentence(std::string_view phrase) { return capital(phrase) + "."; }
+
 }  // namespace tarn::generate

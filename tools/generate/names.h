@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "schema/model.h"
@@ -14,5 +15,9 @@ std::string short_name(std::string_view name);
 std::string type_name(const schema::Enumeration &enumeration);
 // Lower case, without the words that all enumerators of the enumeration begin with.
 std::vector<std::string> enumerator_names(const schema::Enumeration &enumeration);
+
+// What the schema says of a thing, as the beginning of a sentence and as a whole one.
+std::string capital(std::string_view phrase);
+std::string sentence(std::string_view phrase);
 
 }  // namespace tarn::generate
