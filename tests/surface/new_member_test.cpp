@@ -1,7 +1,8 @@
-// A member that is added to the schema shows in everything that is printed from it, without another edit. The generator
-// is built a second time, from a copy of the schema with one more member of one record: dwell_limit of lumo_tarn_dp_tc.
+// A member that is added to the schema shows in everything that is made of it, without another edit. The generator and
+// the tool are built a second time, from a copy of the schema with one more member of lumo_tarn_dp_tc, dwell_limit, and
+// the same of the two records that the pictures of the tour show.
 //
-// A new product gets a line in the table below: how it is printed, and what of the member has to be in which file.
+// A new product gets a line in one of the tables below: how it is printed, and what of the member has to be in it.
 #include <gtest/gtest.h>
 
 #include "surface.h"
@@ -25,7 +26,10 @@ constexpr Product products[] = {
     {"python", "_schema.py", R"(("dwell_limit", "dwell_limit", "u16", "", "how long the class may dwell"))"},
     {"python", "records.pyi", "def dwell_limit(self) -> int"},
     {"python", "records.pyi", "def dwell_limit(self, value: int) -> None"},
+    {"headers", "lumo_ui_tarn.hpp", "/// How long the class may dwell.\n"},
     {"dissector", "tarn.lua", "dwell_limit"},
+    {"pictures", "frame.svg", "dwell_limit"},
+    {"pictures", "state_area.svg", "dwell_limit"},
     {"exports", "accessors.inc", "lumo_tarn_dp_tc_dwell_limit_get_value("},
     {"lists", "exports.txt", "T lumo_tarn_dp_tc_dwell_limit_get_value"},
     {"lists", "layout.txt", "dwell_limit"},
@@ -44,6 +48,44 @@ TEST(NewMember, ShowsInAllThatIsPrinted) {
         ASSERT_EQ(generate_with_new_member(product.kind, after.path()).code, 0);
         EXPECT_EQ(content_of(before.path() / product.file).find(product.shows), std::string::npos);
         EXPECT_NE(content_of(after.path() / product.file).find(product.shows), std::string::npos);
+    }
+}
+
+struct Sight {
+    const char *arguments;
+    const char *shows;
+};
+
+// Frames that know nothing of the member are enough to see that the tool looks for it where it belongs.
+constexpr Sight sights[] = {
+    {"schema lumo_tarn_dp_tc", "dwell_limit    u_int16"},
+    {"schema lumo_tarn_dp_tc_list --tree", "dwell_limit  u_int16"},
+    {"schema --json", R"("name": "dwell_limit")"},
+    {"schema --html", R"("name":"dwell_limit")"},
+    {"complete schema lumo_tarn_dp_tc.dw", "lumo_tarn_dp_tc.dwell_limit\thow long the class may dwell\n"},
+    {"dissect frames", "tc_list[0].dwell_limit"},
+    {"view frames", R"("dwell_limit":["u_int16","how long the class may dwell"])"},
+    {"encode with_member.xml -o made && echo it is taken", "it is taken"},
+    {"decode --json frames", R"("dwell_limit":5)"},
+    {"generate dp-mp-tc-cfg --form json", R"("dwell_limit":)"},
+};
+
+TEST(NewMember, ShowsInTheTool) {
+    const Directory folder;
+    const std::string in_folder = "cd " + quoted(folder.path()) + " && ";
+    const std::string xml = content_of(std::filesystem::path(TARN_EXAMPLES) / "dp_mp_tc_cfg.xml");
+    std::string with_member = xml;
+    const std::string place = "<src_prefix>";
+    with_member.insert(with_member.find(place), "<dwell_limit>5</dwell_limit>");
+    std::ofstream(folder.path() / "without_member.xml") << xml;
+    std::ofstream(folder.path() / "with_member.xml") << with_member;
+    ASSERT_EQ(run(in_folder + TARN_TOOL " encode without_member.xml -o frames").code, 0);
+    for (const Sight &sight : sights) {
+        SCOPED_TRACE(sight.arguments);
+        const Output before = run(in_folder + TARN_TOOL " " + sight.arguments);
+        const Output after = run(in_folder + TARN_TOOL_WITH_NEW_MEMBER " " + sight.arguments);
+        EXPECT_EQ(before.text.find(sight.shows), std::string::npos);
+        EXPECT_NE(after.text.find(sight.shows), std::string::npos) << after.text.substr(0, 500);
     }
 }
 
