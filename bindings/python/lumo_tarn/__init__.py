@@ -6,7 +6,8 @@
                 print(tc.id, tc.src_prefix, tc.dst_prefix)
 
 Each record of the schema is a class, such as DpTc, with an attribute for each member. The library does the work; it is
-found as liblumo_ui_tarn.so.1 by the loader, or under the path in the environment variable LUMO_TARN_LIBRARY.
+found in the installation that the package belongs to, as liblumo_ui_tarn.so.1 by the loader, or under the path in the
+environment variable LUMO_TARN_LIBRARY.
 """
 
 from ._base import Address, Array, Message, Record

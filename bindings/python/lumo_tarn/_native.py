@@ -5,12 +5,25 @@ from __future__ import annotations
 import os
 import threading
 import weakref
+from pathlib import Path
 from typing import Any, Callable
 
 from ._cffi import ffi as ffi
 
+# Some releases of cffi end the process when they meet a type of function before the structure that it takes.
+ffi.typeof("mirk_handle")
+
+
+def _library() -> str:
+    """The library of the installation that the package lies in, as LIBRARIES/python3/dist-packages/lumo_tarn; else the
+    loader knows."""
+    name = "liblumo_ui_tarn.so.1"
+    beside = Path(__file__).resolve().parents[3] / name
+    return os.environ.get("LUMO_TARN_LIBRARY") or (str(beside) if beside.exists() else name)
+
+
 # Objects that are left when the interpreter ends are destroyed then: the library stays loaded for them.
-lib: Any = ffi.dlopen(os.environ.get("LUMO_TARN_LIBRARY", "liblumo_ui_tarn.so.1"), os.RTLD_NOW | os.RTLD_NODELETE)
+lib: Any = ffi.dlopen(_library(), os.RTLD_NOW | os.RTLD_NODELETE)
 
 CTX_ID = 1
 _LACK_OF_ROOM = (12, 28, 90)
