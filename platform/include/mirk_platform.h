@@ -356,6 +356,27 @@ MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_ser
 /** Serves on the calling thread until stop; all callbacks run there. What is queued for peers when stop is called is
  * still sent as far as their sockets take it at once. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
+/** What else a server puts up with. */
+typedef struct mirk_platform_server_limits {
+    /** A frame that is not whole so long after its first byte disconnects its sender; 0: never; default 10000. */
+    uint32_t frame_ms;
+    /** A peer that needs longer to read what one send queued, once it is its turn, is disconnected; 0: never; default
+     * 60000. */
+    uint32_t answer_ms;
+    /** If more than this piles up unread for all peers together, the peer with the most is disconnected; never less
+     * than the pending_limit of one peer; default 256 MiB. */
+    uint64_t total_pending_limit;
+    /** A peer passed a limit: called before on_disconnect, and for a peer that is turned away because there are too
+     * many, which gets no other call. The peer is 0 if no connection can be accepted, as without descriptors; that is
+     * said once until it works again. The reason is a sentence for people. May be null. */
+    void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
+} mirk_platform_server_limits;
+
+/** Fills in the defaults. Always start from here. */
+MIRK_PLATFORM_API void mirk_platform_server_limits_init(mirk_platform_server_limits *limits);
+/** Before run. A server that is told no limits has the defaults. */
+MIRK_PLATFORM_API void mirk_platform_server_limit(mirk_platform_server *server,
+                                                  const mirk_platform_server_limits *limits);
 /** From any thread, and from a signal handler. Before run it makes run return at once. */
 MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
 /** From a callback. Queues a copy of the bytes, which should be whole frames. 107 for a peer that is gone; 105 if its

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <algorithm>
-#include <asio.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
+
+// Included here alone. It settles differently on an allocator if no header of the standard library stands before it,
+// and two ways in one library would free by one allocator what came from another.
+#include <asio.hpp>
 
 #include "contract.hpp"
 

@@ -1,6 +1,6 @@
 // The asking side of the frame transport: blocking calls with a time limit.
-#include <asio.hpp>
 #include <chrono>
+#include <thread>
 
 #include "handle.hpp"
 #include "inbox.hpp"
@@ -49,10 +49,17 @@ Client make_client(uint32_t frame_limit) {
 
 mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &place,
                             Clock::time_point until) {
-    Outcome outcome;
-    client.socket.async_connect(place, [&](const asio::error_code &error) { outcome.error = error; });
-    wait(client, until, &outcome);
-    return outcome.number();
+    // A socket file whose queue is full says so at once; it is tried again until the time is over.
+    for (;;) {
+        Outcome outcome;
+        client.socket.async_connect(place, [&](const asio::error_code &error) { outcome.error = error; });
+        wait(client, until, &outcome);
+        const bool queue_is_full =
+            outcome.error == asio::error::would_block || outcome.error == asio::error::no_buffer_space;
+        if (!queue_is_full) return outcome.number();
+        if (Clock::now() >= until) return ETIMEDOUT;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
 }
 
 }  // namespace

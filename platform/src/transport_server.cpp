@@ -4,10 +4,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <asio.hpp>
+#include <algorithm>
 #include <chrono>
 #include <deque>
 #include <sstream>
+#include <utility>
 
 #include "handle.hpp"
 #include "inbox.hpp"
@@ -41,17 +42,29 @@ mirk_platform_error number_of(const asio::error_code &error) { return static_cas
 }  // namespace
 
 struct mirk_platform_server {
-    explicit mirk_platform_server(const mirk_platform_server_options &chosen) : options(chosen) {}
+    explicit mirk_platform_server(const mirk_platform_server_options &chosen) : options(chosen) {
+        mirk_platform_server_limits_init(&limits);
+    }
     ~mirk_platform_server();
 
     mirk_platform_error prepare_stop();
     mirk_platform_error listen_on_file(const char *path);
     mirk_platform_error listen_on_tcp(const char *address);
     void accept_next();
+    void take_on(Socket socket);
     void wait_for_stop();
     void stop_now();
 
+    // Tells the program that a limit was passed.
+    void refused(mirk_platform_peer peer, const char *reason);
+    // Makes room among what waits for all peers: whoever has the most is turned out, until the bytes fit.
+    void make_room_for(size_t size);
+    uint64_t total_pending_limit() const { return std::max(limits.total_pending_limit, options.pending_limit); }
+
     mirk_platform_server_options options;
+    mirk_platform_server_limits limits{};
+    uint64_t total_pending = 0;
+    bool accepts = true;  // false from a failure to accept until it works again
     asio::io_context context{1};
     asio::basic_socket_acceptor<mirk::StreamProtocol> acceptor{context};
     bool is_tcp = false;
@@ -66,17 +79,22 @@ struct mirk_platform_server {
 
 namespace {
 
+// The end of a span that begins at a moment; a span of 0 has none.
+Clock::time_point end_of(Clock::time_point from, uint32_t ms) {
+    return ms == 0 ? Clock::time_point::max() : from + std::chrono::milliseconds(ms);
+}
+
 class Connection : public std::enable_shared_from_this<Connection> {
 public:
     Connection(mirk_platform_server &server, mirk_platform_peer peer, Socket socket)
         : server_(server),
           peer_(peer),
           socket_(std::move(socket)),
-          idle_(server.context),
+          alarm_(server.context),
           inbox_(server.options.frame_limit) {}
 
     void start() {
-        watch_idle();
+        watch();
         read();
     }
 
@@ -84,20 +102,37 @@ public:
         if (closed_ || leaving_) return ENOTCONN;
         if (size == 0) return 0;
         if (pending_ + size > server_.options.pending_limit) {
-            close(3, "it lets too much pile up unread");
+            refuse("it lets too much pile up unread");
             return ENOBUFS;
         }
+        server_.make_room_for(size);
+        if (closed_) return ENOBUFS;
         const auto *from = static_cast<const char *>(bytes);
         queue_.emplace_back(from, from + size);
         pending_ += size;
-        if (queue_.size() == 1) write();
+        server_.total_pending += size;
+        if (queue_.size() == 1) {
+            front_since_ = Clock::now();
+            write();
+            watch();
+        }
         return 0;
     }
+
+    uint64_t pending() const { return pending_; }
 
     void leave(const char *reason) {
         leaving_ = true;
         leaving_reason_ = reason;
         if (queue_.empty()) close(7, reason);
+    }
+
+    // Closes because a limit is passed.
+    void refuse(const char *reason) {
+        if (closed_) return;
+        const auto self = shared_from_this();
+        server_.refused(peer_, reason);
+        close(3, reason);
     }
 
     // Sends what the socket takes at once, then closes.
@@ -118,11 +153,13 @@ public:
         skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
                       level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
         server_.connections.erase(peer_);
+        server_.total_pending -= pending_;
+        pending_ = 0;
         if (server_.options.on_disconnect != nullptr) {
             server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
         }
         asio::error_code ignored;
-        idle_.cancel();
+        alarm_.cancel();
         socket_.close(ignored);
     }
 
@@ -156,7 +193,7 @@ private:
             if (error == asio::error::eof) {
                 close(whole ? 7 : 3, whole ? "it closed the connection" : "it closed the connection within a frame");
             } else {
-                close(3, error.message().c_str());
+                close(3, std::strerror(error.value()));
             }
             return;
         }
@@ -167,16 +204,22 @@ private:
         while (!closed_ && !leaving_) {
             switch (inbox_.next(&frame, &size)) {
                 case mirk::Inbox::Cut::frame:
+                    frame_is_begun_ = false;
                     server_.options.on_frame(server_.options.user, &server_, peer_, frame, size);
                     break;
                 case mirk::Inbox::Cut::more_needed:
+                    if (!inbox_.empty() && !frame_is_begun_) {
+                        frame_is_begun_ = true;
+                        frame_since_ = last_moved_;
+                        watch();
+                    }
                     read();
                     return;
                 case mirk::Inbox::Cut::bad:
                     close(3, "what it sent is no frame");
                     return;
                 case mirk::Inbox::Cut::too_long:
-                    close(3, "its frame exceeds the limit");
+                    refuse("its frame exceeds the limit");
                     return;
             }
         }
@@ -189,9 +232,11 @@ private:
     void written(size_t count) {
         front_sent_ += count;
         pending_ -= count;
+        server_.total_pending -= count;
         if (front_sent_ == queue_.front().size()) {
             queue_.pop_front();
             front_sent_ = 0;
+            front_since_ = Clock::now();
         }
     }
 
@@ -200,7 +245,7 @@ private:
             self->protect([&] {
                 if (self->closed_) return;
                 if (error) {
-                    self->close(3, error.message().c_str());
+                    self->close(3, std::strerror(error.value()));
                     return;
                 }
                 self->last_moved_ = Clock::now();
@@ -214,31 +259,55 @@ private:
         });
     }
 
-    void watch_idle() {
-        if (server_.options.idle_ms == 0) return;
-        idle_.expires_at(last_moved_ + std::chrono::milliseconds(server_.options.idle_ms));
-        idle_.async_wait([self = shared_from_this()](const asio::error_code &error) {
+    // When this peer will have taken too long, unless it moves.
+    Clock::time_point patience() const {
+        return std::min({end_of(last_moved_, server_.options.idle_ms), frame_end(), answer_end()});
+    }
+    Clock::time_point frame_end() const {
+        return frame_is_begun_ ? end_of(frame_since_, server_.limits.frame_ms) : Clock::time_point::max();
+    }
+    Clock::time_point answer_end() const {
+        return queue_.empty() ? Clock::time_point::max() : end_of(front_since_, server_.limits.answer_ms);
+    }
+
+    // Sets the alarm, unless it rings early enough already; one that rings too early sets itself again.
+    void watch() {
+        const Clock::time_point end = patience();
+        if (closed_ || end >= alarm_at_) return;
+        alarm_at_ = end;
+        alarm_.expires_at(end);
+        alarm_.async_wait([self = shared_from_this()](const asio::error_code &error) {
             if (error || self->closed_) return;
-            self->protect([&] {
-                const auto idle = std::chrono::milliseconds(self->server_.options.idle_ms);
-                if (Clock::now() >= self->last_moved_ + idle) {
-                    self->close(3, "it was idle for too long");
-                } else {
-                    self->watch_idle();
-                }
-            });
+            self->protect([&] { self->rung(); });
         });
+    }
+
+    void rung() {
+        alarm_at_ = Clock::time_point::max();
+        const Clock::time_point now = Clock::now();
+        if (now >= frame_end()) {
+            refuse("it took too long for one frame");
+        } else if (now >= answer_end()) {
+            refuse("it took too long to read an answer");
+        } else if (now >= patience()) {
+            refuse("it was idle for too long");
+        } else {
+            watch();
+        }
     }
 
     mirk_platform_server &server_;
     mirk_platform_peer peer_;
     Socket socket_;
-    asio::steady_timer idle_;
+    asio::steady_timer alarm_;
+    Clock::time_point alarm_at_ = Clock::time_point::max();
     mirk::Inbox inbox_;
     std::deque<std::vector<char>> queue_;
     size_t front_sent_ = 0;
     uint64_t pending_ = 0;
     Clock::time_point last_moved_ = Clock::now();
+    Clock::time_point frame_since_, front_since_;
+    bool frame_is_begun_ = false;
     bool closed_ = false;
     bool leaving_ = false;
     std::string leaving_reason_;
@@ -312,30 +381,54 @@ mirk_platform_error mirk_platform_server::listen_on_tcp(const char *address) {
     return 0;
 }
 
+void mirk_platform_server::refused(mirk_platform_peer peer, const char *reason) {
+    if (limits.on_refused != nullptr) limits.on_refused(options.user, this, peer, reason);
+}
+
+void mirk_platform_server::make_room_for(size_t size) {
+    while (!connections.empty() && total_pending + size > total_pending_limit()) {
+        const auto most = std::max_element(connections.begin(), connections.end(), [](const auto &a, const auto &b) {
+            return a.second->pending() < b.second->pending();
+        });
+        const auto connection = most->second;
+        if (connection->pending() == 0) return;
+        connection->refuse("too much piles up unread, and most of it is for this peer");
+    }
+}
+
+void mirk_platform_server::take_on(Socket socket) {
+    const mirk_platform_peer peer = ++last_peer;
+    if (connections.size() >= options.peer_limit) {
+        const std::string reason = "there are " + std::to_string(connections.size()) + " peers already";
+        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): peer %llu is turned away: %s",
+                      static_cast<unsigned long long>(peer), reason.c_str());
+        refused(peer, reason.c_str());
+        return;
+    }
+    if (is_tcp) mirk::send_at_once(socket);
+    const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket));
+    connections.emplace(peer, connection);
+    if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
+    if (connections.contains(peer)) connection->start();
+}
+
 void mirk_platform_server::accept_next() {
     acceptor.async_accept([this](const asio::error_code &error, Socket socket) {
         if (error == asio::error::operation_aborted) return;
         if (error) {
             // Out of descriptors, most likely; they come back when peers leave.
-            skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): cannot accept a peer: %s", error.message().c_str());
+            const char *reason = std::strerror(error.value());
+            skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): cannot accept a peer: %s", reason);
+            if (std::exchange(accepts, false)) refused(0, (std::string("cannot accept: ") + reason).c_str());
             pause.expires_after(std::chrono::milliseconds(100));
             pause.async_wait([this](const asio::error_code &ended) {
                 if (!ended) accept_next();
             });
             return;
         }
+        accepts = true;
         const mirk_platform_error failed = mirk::guarded([&]() -> mirk_platform_error {
-            if (connections.size() >= options.peer_limit) {
-                skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): a peer is turned away: there are %zu already",
-                              connections.size());
-                return 0;
-            }
-            if (is_tcp) mirk::send_at_once(socket);
-            const mirk_platform_peer peer = ++last_peer;
-            const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket));
-            connections.emplace(peer, connection);
-            if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
-            if (connections.contains(peer)) connection->start();
+            take_on(std::move(socket));
             return 0;
         });
         if (failed != 0) {
@@ -387,6 +480,17 @@ void mirk_platform_server_options_init(mirk_platform_server_options *options) {
     options->idle_ms = 60000;
     options->pending_limit = uint64_t{64} << 20;
     options->socket_mode = 0600;
+}
+
+void mirk_platform_server_limits_init(mirk_platform_server_limits *limits) {
+    *limits = mirk_platform_server_limits{};
+    limits->frame_ms = 10000;
+    limits->answer_ms = 60000;
+    limits->total_pending_limit = uint64_t{256} << 20;
+}
+
+void mirk_platform_server_limit(mirk_platform_server *server, const mirk_platform_server_limits *limits) {
+    server->limits = *limits;
 }
 
 mirk_platform_error mirk_platform_server_open(const char *path, const mirk_platform_server_options *options,

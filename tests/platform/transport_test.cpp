@@ -3,6 +3,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <thread>
 
@@ -21,12 +22,14 @@ std::string frame(size_t length, char fill) {
 // Sends every frame back; runs on a thread of its own.
 class Echo {
 public:
-    explicit Echo(mirk_platform_server_options options = defaults()) {
+    explicit Echo(mirk_platform_server_options options = defaults(),
+                  const mirk_platform_server_limits *limits = nullptr) {
         path = "/tmp/mirk_transport_" + std::to_string(getpid()) + "_" + std::to_string(++number);
         options.on_frame = echo;
         options.on_disconnect = gone;
         options.user = this;
         EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
+        if (limits != nullptr) mirk_platform_server_limit(server, limits);
         thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
     }
     ~Echo() { stop(); }
@@ -45,11 +48,19 @@ public:
     }
 
     std::string path;
-    std::vector<std::string> reasons;  // to be read after stop
+    static mirk_platform_server_limits default_limits() {
+        mirk_platform_server_limits limits;
+        mirk_platform_server_limits_init(&limits);
+        limits.on_refused = refused;
+        return limits;
+    }
+
+    std::vector<std::string> reasons, refusals;  // to be read after stop
+    std::atomic<int> frames = 0, peers_gone = 0;
     mirk_platform_server *server = nullptr;
 
 private:
-    static void echo(void *, mirk_platform_server *server, mirk_platform_peer peer, void *bytes, uint32_t size) {
+    static void echo(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *bytes, uint32_t size) {
         static_cast<char *>(bytes)[size] = 'S';  // the slack is writable and spoils nothing
         if (static_cast<char *>(bytes)[size - 1] == 'Q') {
             mirk_platform_server_send(server, peer, bytes, size);
@@ -57,13 +68,22 @@ private:
             return;
         }
         mirk_platform_server_send(server, peer, bytes, size);
+        ++static_cast<Echo *>(user)->frames;
     }
     static void gone(void *user, mirk_platform_server *, mirk_platform_peer, const char *reason) {
         static_cast<Echo *>(user)->reasons.emplace_back(reason);
+        ++static_cast<Echo *>(user)->peers_gone;
+    }
+    static void refused(void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Echo *>(user)->refusals.push_back(std::to_string(peer) + ": " + reason);
     }
     static inline int number = 0;
     std::thread thread;
 };
+
+void wait_for(const std::atomic<int> &count, int most) {
+    while (count < most) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
 
 class Client {
 public:
@@ -195,6 +215,75 @@ TEST(Transport, DisconnectsPeersThatDoNotRead) {
     echo.stop();
     ASSERT_EQ(echo.reasons.size(), 1u);
     EXPECT_EQ(echo.reasons[0], "it lets too much pile up unread");
+}
+
+TEST(Transport, TellsWhoPassedALimit) {
+    test::Trace trace;
+    auto options = Echo::defaults();
+    options.peer_limit = 1;
+    options.frame_limit = 1000;
+    auto limits = Echo::default_limits();
+    Echo echo(options, &limits);
+    Client first(echo.path);
+    first.send(frame(43, 'a'));
+    EXPECT_EQ(first.next(), frame(43, 'a'));
+    Client second(echo.path);
+    EXPECT_EQ(second.next(), "error 104");
+    first.send(frame(1001, 'x').substr(0, 43));
+    EXPECT_EQ(first.next(), "error 104");
+    echo.stop();
+    EXPECT_EQ(echo.refusals,
+              (std::vector<std::string>{"2: there are 1 peers already", "1: its frame exceeds the limit"}));
+    EXPECT_EQ(echo.reasons, (std::vector<std::string>{"its frame exceeds the limit"}));
+}
+
+TEST(Transport, LimitsTheTimeForAFrame) {
+    test::Trace trace;
+    auto limits = Echo::default_limits();
+    limits.frame_ms = 50;
+    Echo echo(Echo::defaults(), &limits);
+    Client quiet(echo.path);
+    Client client(echo.path);
+    // Whole frames do not count, however many, nor does the time between them.
+    client.send(frame(60, 'a') + frame(60, 'b').substr(0, 20));
+    EXPECT_EQ(client.next(), frame(60, 'a'));
+    EXPECT_EQ(client.next(), "error 104");
+    quiet.send(frame(60, 'c'));
+    EXPECT_EQ(quiet.next(), frame(60, 'c'));
+    echo.stop();
+    EXPECT_EQ(echo.refusals, (std::vector<std::string>{"2: it took too long for one frame"}));
+}
+
+TEST(Transport, LimitsTheTimeToReadAnAnswer) {
+    test::Trace trace;
+    auto limits = Echo::default_limits();
+    limits.answer_ms = 50;
+    Echo echo(Echo::defaults(), &limits);
+    Client client(echo.path);
+    const std::string big = frame(4000000, 'x');
+    client.send(big);
+    wait_for(echo.peers_gone, 1);
+    echo.stop();
+    EXPECT_EQ(echo.refusals, (std::vector<std::string>{"1: it took too long to read an answer"}));
+}
+
+TEST(Transport, TurnsOutWhoeverLetsTheMostPileUp) {
+    test::Trace trace;
+    auto options = Echo::defaults();
+    options.pending_limit = 3000000;
+    auto limits = Echo::default_limits();
+    limits.total_pending_limit = 0;  // counts as the limit of one peer
+    Echo echo(options, &limits);
+    Client much(echo.path), little(echo.path), reads(echo.path);
+    much.send(frame(2500000, 'm'));
+    wait_for(echo.frames, 1);
+    reads.send(frame(43, 'r'));
+    EXPECT_EQ(reads.next(), frame(43, 'r'));
+    little.send(frame(1500000, 'l'));
+    EXPECT_EQ(little.next(), frame(1500000, 'l'));
+    echo.stop();
+    EXPECT_EQ(echo.refusals,
+              (std::vector<std::string>{"1: too much piles up unread, and most of it is for this peer"}));
 }
 
 TEST(Transport, SendsWhatIsQueuedBeforeADisconnect) {

@@ -73,10 +73,6 @@ TEST_P(EveryBundle, ShowsPerFieldStateInXml) {
 INSTANTIATE_TEST_SUITE_P(Asking, EveryBundle, testing::ValuesIn(reference::bundles()),
                          [](const auto &info) { return info.param.name; });
 
-const std::string debug_xml =
-    "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
-    "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
-
 TEST(Asking, OneProcessServesSeveralBundles) {
     const Directory directory;
     const std::string debug = directory.write("debug.xml", debug_xml);

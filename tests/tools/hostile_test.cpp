@@ -12,10 +12,6 @@ namespace tool_test {
 
 namespace {
 
-const std::string debug_xml =
-    "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
-    "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
-
 class HostilePeer : public testing::Test {
 protected:
     Directory directory_;
@@ -34,16 +30,6 @@ protected:
         return socket.receive(most);
     }
 };
-
-std::string request(const std::string &name, char options = 0) {
-    std::string bytes = text_of(reference::control_frame("lumo_tarn_cl_debug_rsp", "start", 0)).substr(0, 27);
-    bytes += std::string("\xb7\x3e\x91\x0c\x5a\xd4\x46\x2f\x88\xe1\x6c\x0f\x93\x2b\x7d\xa5", 16);
-    bytes += options;
-    bytes += static_cast<char>(name.size());
-    bytes += name;
-    bytes[15] = static_cast<char>(bytes.size());
-    return bytes;
-}
 
 TEST_F(HostilePeer, RubbishIsDisconnected) { EXPECT_EQ("", talk(std::string(1000, 'x'))); }
 

@@ -1,6 +1,7 @@
 #include "process.h"
 
 #include <fcntl.h>
+#include <netinet/in.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -69,6 +70,12 @@ sockaddr_un address_of(const std::string &path) {
 
 }  // namespace
 
+std::size_t occurrences(std::string_view in, std::string_view text) {
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = in.find(text, at)) != std::string_view::npos; at += text.size()) ++count;
+    return count;
+}
+
 Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input) {
     const Directory directory;
     const std::string in = directory.write("in", input);
@@ -82,8 +89,9 @@ Outcome tarn(const std::vector<std::string> &arguments, std::string_view input) 
     return run(TARN_TOOL, arguments, input);
 }
 
-Process::Process(const std::vector<std::string> &arguments) : out_(temporary_file()), err_(temporary_file()) {
-    pid_ = start(TARN_TOOL, arguments, "/dev/null", out_, err_);
+Process::Process(const std::vector<std::string> &arguments, const std::string &program)
+    : out_(temporary_file()), err_(temporary_file()) {
+    pid_ = start(program, arguments, "/dev/null", out_, err_);
 }
 
 Process::~Process() {
@@ -95,16 +103,40 @@ Process::~Process() {
     unlink(err_.c_str());
 }
 
-bool Process::wait_for(std::string_view text) const {
-    for (int i = 0; i < 1000; ++i) {
-        if (read_path(out_).find(text) != std::string::npos) return true;
-        if (!is_running()) return false;
+bool Process::wait_in(const std::string &path, std::string_view text, std::size_t times) const {
+    for (int i = 0; i < 6000; ++i) {
+        const bool runs = is_running();
+        if (occurrences(read_path(path), text) >= times) return true;
+        if (!runs) return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     return false;
 }
 
+bool Process::wait_for(std::string_view text) const { return wait_in(out_, text, 1); }
+
+bool Process::wait_for_error(std::string_view text, std::size_t times) const { return wait_in(err_, text, times); }
+
 std::string Process::out() const { return read_path(out_); }
+
+std::string Process::err() const { return read_path(err_); }
+
+std::size_t Process::open_files() const {
+    const std::filesystem::directory_iterator files("/proc/" + std::to_string(pid_) + "/fd");
+    return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+}
+
+bool Process::comes_down_to(std::size_t files) const {
+    for (int i = 0; i < 6000 && open_files() > files; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return open_files() == files;
+}
+
+std::size_t Process::resident_kib() const {
+    std::ifstream in("/proc/" + std::to_string(pid_) + "/statm");
+    std::size_t all = 0, resident = 0;
+    in >> all >> resident;
+    return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) / 1024;
+}
 
 bool Process::is_running() const {
     siginfo_t info{};
@@ -166,9 +198,25 @@ Socket Socket::connect_to(const std::string &path) {
     Socket socket(::socket(AF_UNIX, SOCK_STREAM, 0));
     const sockaddr_un address = address_of(path);
     require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");
-    const timeval patience{10, 0};
-    setsockopt(socket.descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    socket.set_patience();
     return socket;
+}
+
+Socket Socket::connect_to_port(const std::string &port) {
+    Socket socket(::socket(AF_INET, SOCK_STREAM, 0));
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<std::uint16_t>(std::stoi(port)));
+    require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");
+    socket.set_patience();
+    return socket;
+}
+
+void Socket::set_patience() const {
+    const timeval patience{60, 0};
+    setsockopt(descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    setsockopt(descriptor_, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
 }
 
 Socket Socket::listen_on(const std::string &path) {
@@ -189,12 +237,13 @@ Socket Socket::accept() const {
     return peer;
 }
 
-void Socket::send(std::string_view bytes) const {
+bool Socket::send(std::string_view bytes) const {
     while (!bytes.empty()) {
         const ssize_t sent = ::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (sent <= 0) return;  // the other side may well have had enough
+        if (sent <= 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(sent));
     }
+    return true;
 }
 
 std::string Socket::receive(std::size_t most) const {

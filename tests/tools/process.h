@@ -10,6 +10,9 @@
 
 namespace tool_test {
 
+// How often a text occurs in another.
+std::size_t occurrences(std::string_view in, std::string_view text);
+
 struct Outcome {
     int exit = -1;    // 128 + signal if it was killed
     std::string out;  // standard output
@@ -22,18 +25,26 @@ Outcome run(const std::string &program, const std::vector<std::string> &argument
 // Runs the tool to its end.
 Outcome tarn(const std::vector<std::string> &arguments, std::string_view input = {});
 
-// The tool in the background, with its standard output and error in files.
+// A program in the background, the tool if none is told, with its standard output and error in files.
 class Process {
 public:
-    explicit Process(const std::vector<std::string> &arguments);
+    explicit Process(const std::vector<std::string> &arguments, const std::string &program = TARN_TOOL);
     Process(const Process &) = delete;
     Process &operator=(const Process &) = delete;
     ~Process();
 
-    // Waits until the standard output holds the text. False if the process ends or ten seconds pass first.
+    // Waits until the standard output holds the text. False if the process ends or a minute passes first.
     bool wait_for(std::string_view text) const;
     std::string out() const;
+    std::string err() const;
+    // Waits until the standard error holds the text so often. False as with wait_for().
+    bool wait_for_error(std::string_view text, std::size_t times = 1) const;
     bool is_running() const;
+    // What the system says of it while it runs.
+    std::size_t open_files() const;
+    // Waits until it has no more files open. False if a minute passes first, or if it has fewer.
+    bool comes_down_to(std::size_t files) const;
+    std::size_t resident_kib() const;
     void signal(int number) const;
     // Sends SIGTERM and waits for the end.
     Outcome stop();
@@ -41,6 +52,8 @@ public:
     Outcome finish();
 
 private:
+    bool wait_in(const std::string &path, std::string_view text, std::size_t times) const;
+
     pid_t pid_ = -1;
     std::string out_, err_;
 };
@@ -68,6 +81,7 @@ public:
 
     std::string socket() const { return directory_.path("socket"); }
     Process &process() { return process_; }
+    const Process &process() const { return process_; }
     bool is_ready() const { return ready_; }
     Outcome show(const std::string &what, std::vector<std::string> more = {}) const;
 
@@ -81,18 +95,21 @@ private:
 class Socket {
 public:
     static Socket connect_to(const std::string &path);
+    static Socket connect_to_port(const std::string &port);  // of this machine
     static Socket listen_on(const std::string &path);
     Socket(Socket &&other) noexcept : descriptor_(other.descriptor_) { other.descriptor_ = -1; }
     Socket &operator=(Socket &&) = delete;
     ~Socket();
 
     Socket accept() const;
-    void send(std::string_view bytes) const;
+    // False if the other side has had enough, or takes nothing for a minute.
+    bool send(std::string_view bytes) const;
     // Everything until the other side closes, or until so many bytes have come.
     std::string receive(std::size_t most = SIZE_MAX) const;
 
 private:
     explicit Socket(int descriptor) : descriptor_(descriptor) {}
+    void set_patience() const;
 
     int descriptor_;
 };

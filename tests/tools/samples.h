@@ -53,6 +53,22 @@ inline std::string answer(const reference::BundleTable &bundle, const reference:
            control(bundle, "commit");
 }
 
+// A snapshot of cl-debug.
+inline const std::string debug_xml =
+    "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
+    "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
+
+// A request for a bundle, with the options as they stand in the frame.
+inline std::string request(const std::string &name, char options = 0) {
+    std::string bytes = text_of(reference::control_frame("lumo_tarn_cl_debug_rsp", "start", 0)).substr(0, 27);
+    bytes += std::string("\xb7\x3e\x91\x0c\x5a\xd4\x46\x2f\x88\xe1\x6c\x0f\x93\x2b\x7d\xa5", 16);
+    bytes += options;
+    bytes += static_cast<char>(name.size());
+    bytes += name;
+    bytes[15] = static_cast<char>(bytes.size());
+    return bytes;
+}
+
 inline std::string short_form(const std::string &bundle) {
     std::string text = bundle.substr(10, bundle.size() - 14);
     for (char &c : text) c = c == '_' ? '-' : c;

@@ -1,4 +1,5 @@
 // tarn answer: serves snapshots of bundles to whoever asks over a socket.
+#include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <memory>
@@ -16,7 +17,9 @@ struct AnswerOptions {
     std::string socket, listen;
     std::vector<std::string> served;
     Fault fault = Fault::none;
-    unsigned peers = 256, idle = 60;
+    unsigned peers = 256;
+    double idle = 60, frame_time = 10, answer_time = 60;
+    std::uint64_t frame_limit = 64 << 10, unread = 64 << 20, unread_total = 256 << 20;
     bool lenient = false, verbose = false;
 };
 
@@ -46,12 +49,24 @@ private:
         if (options_.verbose)
             std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), sentence.c_str());
     }
+    // A limit that was passed is told whether or not somebody wants to hear of peers.
+    void tell_refused(mirk_platform_peer peer, const char *reason) {
+        if (peer == 0) {
+            std::fprintf(stderr, "tarn: %s\n", reason);
+        } else {
+            ++refused_;
+            std::fprintf(stderr, "tarn: peer %llu is turned out: %s\n", static_cast<unsigned long long>(peer), reason);
+        }
+    }
 
     const AnswerOptions &options_;
     Answerer answerer_;
     mirk_platform_server *server_ = nullptr;
-    std::uint32_t answers_ = 0;
+    std::uint32_t answers_ = 0, refused_ = 0;
 };
+
+// 0 stays 0, which means no limit, and nothing else becomes it.
+std::uint32_t milliseconds(double seconds) { return static_cast<std::uint32_t>(std::ceil(seconds * 1000)); }
 
 mirk_platform_server *server_to_stop = nullptr;
 
@@ -61,7 +76,9 @@ void Server::open() {
     mirk_platform_server_options settings;
     mirk_platform_server_options_init(&settings);
     settings.peer_limit = options_.peers;
-    settings.idle_ms = options_.idle * 1000;
+    settings.frame_limit = static_cast<std::uint32_t>(options_.frame_limit);
+    settings.idle_ms = milliseconds(options_.idle);
+    settings.pending_limit = options_.unread;
     settings.user = this;
     settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
                            std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
@@ -78,6 +95,15 @@ void Server::open() {
         throw Failure(tcp && error == EINVAL ? Exit::input : Exit::environment,
                       "cannot listen on " + place + ": " + error_text(error));
     }
+    mirk_platform_server_limits limits;
+    mirk_platform_server_limits_init(&limits);
+    limits.frame_ms = milliseconds(options_.frame_time);
+    limits.answer_ms = milliseconds(options_.answer_time);
+    limits.total_pending_limit = options_.unread_total;
+    limits.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Server *>(user)->tell_refused(peer, reason);
+    };
+    mirk_platform_server_limit(server_, &limits);
 }
 
 void Server::run() {
@@ -92,7 +118,7 @@ void Server::run() {
     std::fflush(stdout);
     const mirk_platform_error error = mirk_platform_server_run(server_);
     if (error != 0) throw Failure(Exit::environment, "serving ended: " + error_text(error));
-    std::printf("stopped after %u answers\n", answers_);
+    std::printf("stopped after %u answers, %u peers turned out\n", answers_, refused_);
 }
 
 void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence) {
@@ -148,16 +174,28 @@ void add_answer(CLI::App &app, Context &) {
                      "BUNDLE=FILE: a bundle by name or short form, and its messages as XML, JSON or frames")
         ->type_name(words::bundle_file)
         ->required();
-    command->add_option("--peers", options->peers, "how many peers are served at once")->capture_default_str();
-    command->add_option("--idle", options->idle, "seconds after which a silent peer is turned out; 0: never")
+    command->add_option("--peers", options->peers, "how many peers are served at once; more are turned away")
+        ->check(CLI::Range(1U, 1U << 20).description(""))
         ->capture_default_str();
+    add_seconds(*command, "--idle", options->idle, "seconds after which a silent peer is turned out; 0: never");
+    add_seconds(*command, "--frame-time", options->frame_time,
+                "seconds within which a request that has begun must be whole; 0: any time");
+    add_seconds(*command, "--answer-time", options->answer_time,
+                "seconds within which a peer must have read an answer; 0: any time");
+    add_size(*command, "--frame-limit", options->frame_limit, "longest frame that a peer may send", 1 << 10);
+    add_size(*command, "--unread", options->unread, "most that may wait for a peer to read it", 1 << 10);
+    add_size(*command, "--unread-total", options->unread_total,
+             "most that may wait for all peers together; beyond it the one with the most is turned out", 1 << 10);
     command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
     command->add_flag("-v,--verbose", options->verbose, "tell of every peer, and print every trace line");
     command->add_option("--fault", options->fault, "answer wrongly on purpose, to see how the asking side copes")
         ->transform(CLI::CheckedTransformer(fault_names)
                         .description("{abort,cut,foreign,no-commit,rubbish,second-start,silent,unknown}"));
     command->footer(
-        "Prints one line when it is ready. SIGINT or SIGTERM ends it with exit code 0.\n\n"
+        "Prints one line when it is ready. SIGINT or SIGTERM ends it with exit code 0. A peer that passes a limit is\n"
+        "named on standard error, with the limit, and disconnected; the others are served on. Sizes are bytes, or "
+        "take\n"
+        "a unit: 64KiB, 16MiB.\n\n"
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock lumo_tarn_dp_tt_cfg_rsp=tables.json dp-intf=intf.xml\n"

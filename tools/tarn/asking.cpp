@@ -37,9 +37,16 @@ std::uint32_t Deadline::left_ms() const {
     return left.count() > 0 ? static_cast<std::uint32_t>(left.count()) : 0;
 }
 
-Connection::Connection(const Place &place, const Deadline &deadline) : name_(place.text()), deadline_(deadline) {
+void AnswerLimits::add_options(CLI::App &command) {
+    add_size(command, "--frame-limit", frame, "longest frame that the answer may hold", 1 << 10);
+    add_size(command, "--answer-limit", answer, "most bytes that an answer may have", 1 << 10);
+}
+
+Connection::Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits)
+    : name_(place.text()), deadline_(deadline), limits_(limits) {
     const auto open = place.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
-    check(open(name_.c_str(), 0, deadline.left_ms(), &client_), "cannot connect");
+    check(open(name_.c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
+          "cannot connect");
 }
 
 void Connection::ask(const reflect::BundleOperations &bundle, bool tracked) {
@@ -53,7 +60,10 @@ void Connection::ask(const reflect::BundleOperations &bundle, bool tracked) {
 FrameBytes Connection::receive() {
     void *frame = nullptr;
     std::uint32_t size = 0;
-    check(mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms()), "no whole answer");
+    const mirk_platform_error error = mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms());
+    check(error, error == EMSGSIZE ? "a frame is longer than --frame-limit" : "no whole answer");
+    received_ += size;
+    if (received_ > limits_.answer) check(EMSGSIZE, "the answer is longer than --answer-limit");
     return {static_cast<const std::uint8_t *>(frame), size};
 }
 

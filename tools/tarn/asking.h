@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "commands.h"
 #include "reception.h"
 
 namespace tarn::tool {
@@ -28,16 +29,23 @@ struct Place {
     const std::string &text() const { return socket.empty() ? tcp : socket; }
 };
 
+// How much is taken from an answering process, which may be broken or worse.
+struct AnswerLimits {
+    std::uint64_t frame = 16 << 20, answer = 256 << 20;
+
+    void add_options(CLI::App &command);
+};
+
 class Connection {
 public:
-    Connection(const Place &place, const Deadline &deadline);
+    Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
     ~Connection() { mirk_platform_client_close(client_); }
 
     const std::string &name() const { return name_; }
     void ask(const reflect::BundleOperations &bundle, bool tracked);
-    // One whole frame, until the next call.
+    // One whole frame, until the next call. All frames together have a limit.
     FrameBytes receive();
 
 private:
@@ -45,6 +53,8 @@ private:
 
     std::string name_;
     Deadline deadline_;
+    AnswerLimits limits_;
+    std::uint64_t received_ = 0;
     mirk_platform_client *client_ = nullptr;
 };
 

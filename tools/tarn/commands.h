@@ -18,6 +18,13 @@ inline std::string tcp_words(const std::string &what) {
            std::to_string(MIRK_PLATFORM_TCP_PORT);
 }
 
+// An option that is a time in seconds, at most a day; 0 is for those that mean no limit by it. The value before is the
+// default.
+void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what);
+// An option that is a number of bytes below 4 GiB, with a unit if somebody likes.
+void add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
+              std::uint64_t least);
+
 void add_answer(CLI::App &app, Context &context);
 void add_show(CLI::App &app, Context &context);
 void add_decode(CLI::App &app, Context &context);

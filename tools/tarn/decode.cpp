@@ -56,16 +56,18 @@ void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOption
         const Frame frame = frame_at(bytes, offset, origin);
         offset += frame.bytes.size();
         progress.at(offset, bytes.size());
+        std::string out;
         try {
             Item item{frame.identity, std::nullopt, {}};
             if (!frame.identity.is_control()) {
                 item.message.emplace(
                     message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
             }
-            write_file("-", rendered(item, options.style()));
+            out = rendered(item, options.style());
         } catch (const Failure &failure) {
             complaints.add(with_place(failure, frame, origin));
         }
+        write_file("-", out);
     }
 }
 
@@ -106,6 +108,7 @@ void decode_fragments(std::string_view content, const std::string &origin, const
                       Complaints &complaints) {
     const Handles handles(Tracking::as_given);
     for (const Fragment &fragment : split_fragments(content, origin)) {
+        std::string out;
         try {
             const std::optional<Identity> control = control_in(fragment, origin);
             Item item{control ? *control : Identity{nullptr}, std::nullopt, {}};
@@ -113,10 +116,11 @@ void decode_fragments(std::string_view content, const std::string &origin, const
                 item.message.emplace(message_from_xml(handles, fragment, origin, options.lenient));
                 item.identity.operations = &item.message->operations();
             }
-            write_file("-", rendered(item, options.style()));
+            out = rendered(item, options.style());
         } catch (const Failure &failure) {
             complaints.add(failure);
         }
+        write_file("-", out);
     }
 }
 

@@ -1,4 +1,5 @@
 // tarn: shows, reads, writes and takes apart what the tarn feature says about itself.
+#include <csignal>
 #include <cstdio>
 #include <exception>
 
@@ -55,6 +56,8 @@ int run(int argc, char **argv) {
 }  // namespace
 
 int main(int argc, char **argv) {
+    // A file that may not grow further is an error like a full disk, and not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return run(argc, argv);
     } catch (const Failure &failure) {

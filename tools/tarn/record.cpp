@@ -1,7 +1,9 @@
 // tarn record: keeps what is received, through the recorder of the runtime.
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <optional>
 #include <thread>
 
 #include "asking.h"
@@ -16,68 +18,80 @@ namespace {
 struct RecordOptions {
     std::string output, full, from;
     Place place;
+    AnswerLimits limits;
     std::vector<std::string> what;
     unsigned rounds = 1;
     double interval = 1, timeout = 10;
     bool tracked = false, verbose = false;
 };
 
-// Switches the recorder on for as long as it lives, and counts what reaches its file.
-class Recording {
+// Switches the recorder on for as long as it lives. What it writes comes out piece by piece, so that this program sees
+// what became of each.
+class Recorder {
 public:
-    explicit Recording(const std::string &path) : path_(path), file_(std::fopen(path.c_str(), "wbe")) {
-        if (file_ == nullptr)
-            throw Failure(Exit::environment, path + ": " + error_text(static_cast<std::uint32_t>(errno)));
-        mirk_platform_recorder_set(1, file_);
+    Recorder() : stream_(open_memstream(&text_, &size_)) {
+        if (stream_ == nullptr) throw std::bad_alloc();
+        mirk_platform_recorder_set(1, stream_);
     }
-    Recording(const Recording &) = delete;
-    Recording &operator=(const Recording &) = delete;
-    ~Recording() {
-        if (file_ != nullptr) close();
+    Recorder(const Recorder &) = delete;
+    Recorder &operator=(const Recorder &) = delete;
+    ~Recorder() {
+        mirk_platform_recorder_set(0, nullptr);
+        std::fclose(stream_);
+        std::free(text_);
     }
 
-    long position() const { return std::ftell(file_); }
-    void finish() {
-        if (!close()) throw Failure(Exit::environment, path_ + ": could not be written");
+    // What came since the last time; empty if the recorder left it out.
+    std::string take() {
+        if (std::fflush(stream_) != 0 || std::ferror(stream_) != 0) throw std::bad_alloc();
+        std::string piece(text_, size_);
+        std::rewind(stream_);
+        return piece;
     }
 
 private:
-    bool close() {
-        mirk_platform_recorder_set(0, nullptr);
-        const bool failed = std::ferror(file_) != 0;
-        return std::fclose(std::exchange(file_, nullptr)) == 0 && !failed;
-    }
-
-    std::string path_;
-    FILE *file_;
+    char *text_ = nullptr;
+    std::size_t size_ = 0;
+    FILE *stream_;
 };
 
-// The recorder leaves out, without an error, what its buffer does not take; the file shows it by not having grown.
+// Keeps what is received, message by message: what was kept before a failure stays.
 class Keeper {
 public:
-    Keeper(Recording &recording, bool keeps_frames) : recording_(recording), keeps_frames_(keeps_frames) {}
-
-    void feed(Reception &reception, const Frame &frame, const std::string &origin) {
-        const long before = recording_.position();
-        reception.feed(frame, origin);
-        if (keeps_frames_) frames_.append(reinterpret_cast<const char *>(frame.bytes.data()), frame.bytes.size());
-        if (frame.identity.is_control()) return;
-        ++messages_;
-        if (recording_.position() != before) return;
-        ++too_large_;
-        std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
-                     frame_place(origin, frame.offset).c_str(), frame.identity.operations->name, frame.bytes.size());
+    explicit Keeper(const RecordOptions &options) : recording_(options.output) {
+        if (!options.full.empty()) frames_.emplace(options.full);
     }
 
-    const std::string &frames() const { return frames_; }
-    unsigned messages() const { return messages_; }
-    unsigned too_large() const { return too_large_; }
+    void feed(Reception &reception, const Frame &frame, const std::string &origin) {
+        reception.feed(frame, origin);
+        if (frames_) frames_->append({reinterpret_cast<const char *>(frame.bytes.data()), frame.bytes.size()});
+        if (frame.identity.is_control()) return;
+        ++messages_;
+        const std::string piece = recorder_.take();
+        if (piece.empty()) {
+            // The recorder leaves out, without an error, what its buffer does not take.
+            ++too_large_;
+            std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
+                         frame_place(origin, frame.offset).c_str(), frame.identity.operations->name,
+                         frame.bytes.size());
+            return;
+        }
+        recording_.append(piece);
+        ++recorded_;
+    }
+
+    void finish() {
+        recording_.finish();
+        if (frames_) frames_->finish();
+    }
+    void tell() const { std::printf("recorded %u of %u messages\n", recorded_, messages_); }
+    bool is_complete() const { return too_large_ == 0 || frames_; }
 
 private:
-    Recording &recording_;
-    bool keeps_frames_;
-    std::string frames_;
-    unsigned messages_ = 0, too_large_ = 0;
+    GrowingFile recording_;
+    std::optional<GrowingFile> frames_;
+    Recorder recorder_;
+    unsigned messages_ = 0, recorded_ = 0, too_large_ = 0;
 };
 
 void record_from_file(const RecordOptions &options, Keeper &keeper) {
@@ -96,7 +110,7 @@ void record_from_socket(const RecordOptions &options, Keeper &keeper) {
         for (const std::string &what : options.what) {
             const reflect::BundleOperations &bundle = bundle_named(what);
             Reception reception(options.tracked, Via::handle);
-            Connection connection(options.place, Deadline(options.timeout));
+            Connection connection(options.place, Deadline(options.timeout), options.limits);
             connection.ask(bundle, options.tracked);
             receive_answer(connection, reception, bundle,
                            [&](const Frame &frame) { keeper.feed(reception, frame, options.place.text()); });
@@ -106,13 +120,16 @@ void record_from_socket(const RecordOptions &options, Keeper &keeper) {
 
 Exit run_record(const RecordOptions &options) {
     set_up_trace(options.verbose);
-    Recording recording(options.output);
-    Keeper keeper(recording, !options.full.empty());
-    (options.from.empty() ? record_from_socket : record_from_file)(options, keeper);
-    recording.finish();
-    if (!options.full.empty()) write_file(options.full, keeper.frames());
-    std::printf("recorded %u of %u messages\n", keeper.messages() - keeper.too_large(), keeper.messages());
-    return keeper.too_large() == 0 || !options.full.empty() ? Exit::done : Exit::different;
+    Keeper keeper(options);
+    try {
+        (options.from.empty() ? record_from_socket : record_from_file)(options, keeper);
+        keeper.finish();
+    } catch (const std::exception &) {
+        keeper.tell();
+        throw;
+    }
+    keeper.tell();
+    return keeper.is_complete() ? Exit::done : Exit::different;
 }
 
 }  // namespace
@@ -141,12 +158,16 @@ void add_record(CLI::App &app, Context &context) {
     command->add_option("--timeout", options->timeout, "seconds to wait for a whole answer")
         ->check(CLI::Range(0.001, 86400.0))
         ->capture_default_str();
+    options->limits.add_options(*command);
     command->add_flag("--tracked", options->tracked, "ask for per-field state, and record it");
     command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
     command->footer(
         "The recorder takes messages of up to 4096 bytes of XML. Each larger one is named, and the exit code is then "
         "1\n"
-        "unless --full keeps them. \"tarn decode\" reads both files.\n\n"
+        "unless --full keeps them. \"tarn decode\" reads both files. Each message is written when it has come: after "
+        "a\n"
+        "full disk, which ends it with exit code 3, or after whatever else, the files hold all messages before, "
+        "whole.\n\n"
         "Examples:\n"
         "  tarn record cl-debug dp-intf --socket /tmp/tarn.sock -o recording.xml\n"
         "  tarn record dp-tt-cfg --socket /tmp/tarn.sock -o recording.xml --full frames.bin --rounds 10\n"

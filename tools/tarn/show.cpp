@@ -18,6 +18,7 @@ enum class Print : std::uint8_t { text, xml, json, hex };
 struct ShowOptions {
     std::string what, save;
     Place place;
+    AnswerLimits limits;
     bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
     double timeout = 10;
     std::string via = "handle";
@@ -42,7 +43,7 @@ void run_show(const ShowOptions &options) {
     const reflect::BundleOperations &bundle = bundle_named(options.what);
     const Deadline deadline(options.timeout);
     Reception reception(options.tracked, via_named(options.via));
-    Connection connection(options.place, deadline);
+    Connection connection(options.place, deadline, options.limits);
     connection.ask(bundle, options.tracked);
     const Answer answer = receive_answer(connection, reception, bundle);
     if (!options.save.empty()) write_file(options.save, answer.frames);
@@ -75,6 +76,7 @@ void add_show(CLI::App &app, Context &) {
     command->add_option("--timeout", options->timeout, "seconds to wait for the whole answer")
         ->check(CLI::Range(0.001, 86400.0))
         ->capture_default_str();
+    options->limits.add_options(*command);
     command->add_option("--save", options->save, "keep the frames of the answer in this file, too")
         ->type_name(words::file);
     command->add_option("--via", options->via, "which link of the handler chain takes the bundle")

@@ -1,0 +1,236 @@
+// Every limit has a flag; who passes it is named with the reason and turned out, and the others are served on.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include "../tools/samples.h"
+#include "crowd.h"
+
+namespace tool_test {
+
+namespace {
+
+class Limit : public testing::Test {
+protected:
+    void serve(std::vector<std::string> flags) {
+        flags.push_back("cl-debug=" + directory_.write("debug.xml", debug_xml));
+        server_ = std::make_unique<Server>(flags);
+        ASSERT_TRUE(server_->is_ready());
+    }
+    // The server says so, without being asked to be verbose, and goes on.
+    void expect_turned_out(const std::string &reason, unsigned peers = 1) {
+        EXPECT_TRUE(server_->process().wait_for_error(": " + reason + "\n", peers)) << server_->process().err();
+        expect_served();
+        const Outcome end = server_->process().stop();
+        EXPECT_EQ(0, end.exit) << end.err;
+        EXPECT_NE(std::string::npos, end.out.find(", " + std::to_string(peers) + " peers turned out\n")) << end.out;
+        EXPECT_EQ(peers, occurrences(end.err, "tarn: peer ")) << end.err;
+    }
+    void expect_served() const {
+        const Outcome shown = server_->show("cl-debug");
+        EXPECT_EQ(0, shown.exit) << shown.err;
+    }
+    Socket connect() const { return Socket::connect_to(server_->socket()); }
+
+    static constexpr std::size_t answer_size = 43 + 43 + 22 + 43;
+
+    Directory directory_;
+    std::unique_ptr<Server> server_;
+};
+
+std::string debug_request() { return request("lumo_tarn_cl_debug_rsp"); }
+
+std::string frame_of_length(std::uint32_t length) {
+    std::string bytes = debug_request();
+    for (std::size_t i = 0; i < 4; ++i) bytes[12 + i] = static_cast<char>(length >> (24 - 8 * i));
+    bytes.resize(length, 'x');
+    return bytes;
+}
+
+TEST_F(Limit, OfPeers) {
+    serve({"--peers", "2"});
+    const std::size_t files = server_->process().open_files();
+    {
+        const Socket first = connect(), second = connect();
+        first.send(debug_request());
+        second.send(debug_request());
+        EXPECT_EQ(answer_size, first.receive(answer_size).size());
+        EXPECT_EQ(answer_size, second.receive(answer_size).size());
+        EXPECT_EQ("", connect().receive());
+    }
+    // There is room again as soon as the server has seen the two leave.
+    EXPECT_TRUE(server_->process().comes_down_to(files));
+    expect_turned_out("there are 2 peers already");
+}
+
+TEST_F(Limit, OfAFrame) {
+    serve({"--frame-limit", "2KiB"});
+    const Socket fits = connect();
+    fits.send(frame_of_length(2048));
+    EXPECT_NE(std::string::npos, fits.receive().find("this is no request"));
+    const Socket exceeds = connect();
+    exceeds.send(frame_of_length(2049).substr(0, 43));
+    EXPECT_EQ("", exceeds.receive());
+    expect_turned_out("its frame exceeds the limit");
+}
+
+TEST_F(Limit, OfAFrameOverTcp) {
+    const Process server(
+        {"answer", "--listen", ":0", "--frame-limit", "2KiB", "cl-debug=" + directory_.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.wait_for(": cl-debug\n"));
+    const std::string line = server.out().substr(0, server.out().find(": "));
+    const std::string port = line.substr(line.rfind(':') + 1);
+    const Socket exceeds = Socket::connect_to_port(port);
+    exceeds.send(frame_of_length(2049).substr(0, 43));
+    EXPECT_EQ("", exceeds.receive());
+    EXPECT_TRUE(server.wait_for_error("tarn: peer 1 is turned out: its frame exceeds the limit\n"));
+    EXPECT_EQ(0, tarn({"show", "cl-debug", "--connect", "127.0.0.1:" + port}).exit);
+}
+
+TEST_F(Limit, OfTheTimeForAFrame) {
+    serve({"--frame-time", "0.1"});
+    const Socket stalls = connect();
+    stalls.send(debug_request().substr(0, 50));
+    EXPECT_EQ("", stalls.receive());
+    expect_turned_out("it took too long for one frame");
+}
+
+// It never is idle, and gets nowhere: a byte now and then would keep it for an hour.
+TEST_F(Limit, OfTheTimeForAFrameThatComesByteByByte) {
+    serve({"--frame-time", "0.1"});
+    const Socket drips = connect();
+    const std::string bytes = frame_of_length(4000);
+    std::size_t sent = 0;
+    while (sent < bytes.size() && drips.send(bytes.substr(sent, 1))) {
+        ++sent;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    EXPECT_LT(sent, bytes.size());
+    expect_turned_out("it took too long for one frame");
+}
+
+TEST_F(Limit, OfSilence) {
+    serve({"--idle", "0.1"});
+    EXPECT_EQ("", connect().receive());
+    expect_turned_out("it was idle for too long");
+}
+
+TEST_F(Limit, OfWhatPilesUpForAPeer) {
+    Besieged besieged({"--unread", "64KiB"});
+    ASSERT_TRUE(besieged.is_ready());
+    Crowd crowd(besieged.server().socket(), besieged.answer_size());
+    crowd.never_read(1);
+    EXPECT_TRUE(
+        besieged.server().process().wait_for_error("tarn: peer 1 is turned out: it lets too much pile up unread"));
+    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+}
+
+// Each of the four stays below the limit of one peer.
+TEST_F(Limit, OfWhatPilesUpForAllPeers) {
+    Besieged besieged({"--unread", "4MiB", "--unread-total", "4MiB", "--answer-time", "0"});
+    ASSERT_TRUE(besieged.is_ready());
+    Crowd crowd(besieged.server().socket(), besieged.answer_size());
+    crowd.never_read(4);
+    EXPECT_TRUE(besieged.server().process().wait_for_error(
+        " is turned out: too much piles up unread, and most of it is for this peer"));
+    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+}
+
+TEST_F(Limit, OfTheTimeToReadAnAnswer) {
+    Besieged besieged({"--unread", "64MiB", "--answer-time", "0.1"});
+    ASSERT_TRUE(besieged.is_ready());
+    Crowd crowd(besieged.server().socket(), besieged.answer_size());
+    crowd.never_read(1);
+    EXPECT_TRUE(
+        besieged.server().process().wait_for_error("tarn: peer 1 is turned out: it took too long to read an answer"));
+    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+}
+
+TEST_F(Limit, OfDescriptorsIsSaidOnceAndEnds) {
+    const std::string socket = directory_.path("socket");
+    const Process server({"-c", R"(ulimit -n 24 && exec "$@")", "sh", TARN_TOOL, "answer", "--socket", socket,
+                          "cl-debug=" + directory_.write("debug.xml", debug_xml)},
+                         "/bin/sh");
+    ASSERT_TRUE(server.wait_for("answering on"));
+    // The undefined-behaviour sanitizer needs descriptors of its own when it sees a type for the first time: the end of
+    // a connection is seen once before there are none.
+    EXPECT_EQ(0, tarn({"show", "cl-debug", "--socket", socket}).exit);
+    {
+        std::vector<Socket> all;
+        for (int i = 0; i < 40; ++i) all.push_back(Socket::connect_to(socket));
+        EXPECT_TRUE(server.wait_for_error("tarn: cannot accept: Too many open files\n"));
+    }
+    const Outcome shown = tarn({"show", "cl-debug", "--socket", socket, "--timeout", "60"});
+    EXPECT_EQ(0, shown.exit) << shown.err;
+    EXPECT_EQ(1U, occurrences(server.err(), "Too many open files")) << server.err();
+}
+
+TEST_F(Limit, OfTheFramesOfAnAnswer) {
+    const Besieged besieged;
+    ASSERT_TRUE(besieged.is_ready());
+    const auto show = [&](const char *flag, const char *size) {
+        return tarn({"show", "dp-tt-cfg", "--socket", besieged.server().socket(), flag, size});
+    };
+    EXPECT_EQ(0, show("--frame-limit", "64KiB").exit);
+    EXPECT_EQ(0, show("--answer-limit", "64KiB").exit);
+    const Outcome frame = show("--frame-limit", "16KiB"), answer = show("--answer-limit", "16KiB");
+    EXPECT_EQ(2, frame.exit);
+    EXPECT_NE(std::string::npos, frame.err.find("a frame is longer than --frame-limit: Message too long")) << frame.err;
+    EXPECT_EQ(2, answer.exit);
+    EXPECT_NE(std::string::npos, answer.err.find("the answer is longer than --answer-limit")) << answer.err;
+}
+
+// Answering processes that the test plays, or does not: `time` is all that the asking side waits.
+class NoAnswer : public testing::Test {
+protected:
+    Directory directory_;
+    Socket listener_ = Socket::listen_on(directory_.path("socket"));
+
+    void expect_time_over(const std::string &words) {
+        const Outcome outcome = tarn({"show", "cl-debug", "--socket", directory_.path("socket"), "--timeout", "0.3"});
+        EXPECT_EQ(3, outcome.exit);
+        EXPECT_NE(std::string::npos, outcome.err.find(words + ": Connection timed out (ETIMEDOUT, 110)"))
+            << outcome.err;
+    }
+};
+
+TEST_F(NoAnswer, FromWhoeverNeverAccepts) { expect_time_over("no whole answer"); }
+
+TEST_F(NoAnswer, FromWhoeverHasAFullQueue) {
+    std::vector<Socket> queue;
+    for (int i = 0; i < 9; ++i) queue.push_back(Socket::connect_to(directory_.path("socket")));
+    expect_time_over("cannot connect");
+}
+
+TEST_F(NoAnswer, FromWhoeverStallsWithinAFrame) {
+    Process asking({"show", "cl-debug", "--socket", directory_.path("socket"), "--timeout", "0.3"});
+    const Socket peer = listener_.accept();
+    peer.send(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "start").substr(0, 42));
+    const Outcome outcome = asking.finish();
+    EXPECT_EQ(3, outcome.exit);
+    EXPECT_NE(std::string::npos, outcome.err.find("no whole answer: Connection timed out")) << outcome.err;
+}
+
+TEST(Limits, ThatMakeNoSenseAreUsageErrors) {
+    const Directory directory;
+    const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--frame-limit", "12"}, {"--frame-limit", "4GiB"},  {"--frame-limit", "-1"}, {"--unread", "much"},
+        {"--unread-total", "0"}, {"--frame-time", "-1"},     {"--idle", "1e9"},       {"--answer-time", "soon"},
+        {"--peers", "0"},        {"--peers", "99999999999"},
+    };
+    for (const std::vector<std::string> &flag : wrong) {
+        const Outcome outcome =
+            tarn({"answer", "--socket", directory.path("socket"), flag.at(0), flag.at(1), snapshot});
+        EXPECT_EQ(2, outcome.exit) << flag.at(0) << " " << flag.at(1);
+        EXPECT_NE(std::string::npos, outcome.err.find(flag.at(0))) << outcome.err;
+    }
+    EXPECT_EQ(2, tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--frame-limit", "1"}).exit);
+    EXPECT_EQ(2, tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--answer-limit", "1"}).exit);
+}
+
+}  // namespace
+
+}  // namespace tool_test

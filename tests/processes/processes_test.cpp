@@ -1,0 +1,249 @@
+// What the processes live through: crowds, their own end, and disks without room.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <memory>
+
+#include "../tools/samples.h"
+#include "crowd.h"
+
+namespace tool_test {
+
+namespace {
+
+void misbehave(Crowd &crowd, std::size_t of_each) {
+    crowd.stall(of_each);
+    crowd.send_rubbish(of_each);
+    crowd.vanish_within_a_frame(of_each);
+    crowd.send_too_long_a_frame(of_each);
+    crowd.never_read(of_each);
+}
+
+TEST(Crowd, OfAHundredThatMisbehaveAtOnceCostsTheOthersNothing) {
+    Besieged besieged;
+    ASSERT_TRUE(besieged.is_ready());
+    Process &process = besieged.server().process();
+    Crowd crowd(besieged.server().socket(), besieged.answer_size());
+    const std::size_t files = process.open_files();
+
+    misbehave(crowd, 20);
+    std::vector<std::unique_ptr<Process>> honest;
+    for (int i = 0; i < 3; ++i) {
+        honest.push_back(std::make_unique<Process>(
+            std::vector<std::string>{"show", "dp-tt-cfg", "--socket", besieged.server().socket(), "--timeout", "60"}));
+    }
+    crowd.ask(20);
+    EXPECT_EQ(20U, crowd.answered());
+    for (const auto &client : honest) {
+        const Outcome outcome = client->finish();
+        EXPECT_EQ(0, outcome.exit) << outcome.err;
+    }
+    crowd.wait_until_turned_out();
+    crowd.ask(20);
+    EXPECT_EQ(40U, crowd.answered());
+    EXPECT_TRUE(process.comes_down_to(files)) << process.open_files() << " files are open, there were " << files;
+    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+
+    const Outcome end = process.stop();
+    EXPECT_EQ(0, end.exit) << end.err;
+    EXPECT_NE(std::string::npos, end.out.find(" answers, 60 peers turned out\n")) << end.out;
+    EXPECT_EQ(20U, occurrences(end.err, "it took too long for one frame\n"));
+    EXPECT_EQ(20U, occurrences(end.err, "its frame exceeds the limit\n"));
+    EXPECT_EQ(20U, occurrences(end.err, "it lets too much pile up unread\n") +
+                       occurrences(end.err, "it took too long to read an answer\n"));
+}
+
+// ./check load does the same for minutes. A connection that were kept would cost the 64 KiB of its buffer.
+TEST(Crowd, CostsNoMemory) {
+    Besieged besieged;
+    ASSERT_TRUE(besieged.is_ready());
+    Process &process = besieged.server().process();
+    Crowd crowd(besieged.server().socket(), besieged.answer_size());
+    const std::size_t files = process.open_files();
+    const auto rounds = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            misbehave(crowd, 2);
+            crowd.ask(2);
+            crowd.let_go(10);
+        }
+        crowd.let_go(0);
+        EXPECT_TRUE(process.comes_down_to(files));
+    };
+    rounds(20);
+    const std::size_t before = process.resident_kib();
+    rounds(80);
+    EXPECT_EQ(crowd.asked(), crowd.answered());
+    EXPECT_EQ(1200U, crowd.clients());
+    EXPECT_LE(process.resident_kib(), before + allocator_play_kib);
+    EXPECT_EQ(0, process.stop().exit);
+}
+
+std::vector<std::string> answer_on(const std::string &socket, const std::string &snapshot, const char *fault) {
+    std::vector<std::string> words{"answer", "--socket", socket, "--verbose", snapshot};
+    if (*fault != '\0') words.insert(words.end(), {"--fault", fault});
+    return words;
+}
+
+TEST(Killed, AndStartedAgainOnTheSameSocketWhileClientsWait) {
+    const Directory directory;
+    const std::string socket = directory.path("socket");
+    const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
+    for (int i = 0; i < 3; ++i) {
+        // One that never answers keeps the clients waiting.
+        Process server(answer_on(socket, snapshot, "silent"));
+        ASSERT_TRUE(server.wait_for("answering on")) << server.err();
+        std::vector<std::unique_ptr<Process>> waiting;
+        for (int c = 0; c < 5; ++c) {
+            waiting.push_back(std::make_unique<Process>(
+                std::vector<std::string>{"show", "cl-debug", "--socket", socket, "--timeout", "600"}));
+        }
+        ASSERT_TRUE(server.wait_for_error("asks for lumo_tarn_cl_debug_rsp", 5)) << server.err();
+        server.signal(SIGKILL);
+        EXPECT_EQ(128 + SIGKILL, server.finish().exit);
+        for (const auto &client : waiting) {
+            const Outcome outcome = client->finish();
+            EXPECT_EQ(3, outcome.exit);
+            EXPECT_NE(std::string::npos, outcome.err.find("no whole answer: Connection reset by peer")) << outcome.err;
+            EXPECT_EQ("", outcome.out);
+        }
+        // The file is still there, and nobody behind it.
+        EXPECT_TRUE(std::filesystem::exists(socket));
+        const Outcome nobody = tarn({"show", "cl-debug", "--socket", socket});
+        EXPECT_EQ(3, nobody.exit);
+        EXPECT_NE(std::string::npos, nobody.err.find("ECONNREFUSED")) << nobody.err;
+
+        Process again(answer_on(socket, snapshot, ""));
+        ASSERT_TRUE(again.wait_for("answering on")) << again.err();
+        EXPECT_EQ(0, tarn({"show", "cl-debug", "--socket", socket}).exit);
+        EXPECT_EQ(0, again.stop().exit);
+        EXPECT_FALSE(std::filesystem::exists(socket));
+    }
+}
+
+const reference::MessageTable &debug_message() { return reference::message_table("lumo_tarn_debug_setting_msg"); }
+
+std::string fragment() {
+    return reference::message_to_xml(debug_message().name, plain_payload(debug_message(), 3), false);
+}
+
+TEST(Killed, WhileARecordingGoesOnLosesNothingOfIt) {
+    const Directory directory;
+    const std::string socket = directory.path("socket"), recording = directory.path("recording.xml");
+    Process server(answer_on(socket, "cl-debug=" + directory.write("debug.xml", fragment()), ""));
+    ASSERT_TRUE(server.wait_for("answering on")) << server.err();
+    Process recorder({"record", "cl-debug", "--socket", socket, "-o", recording, "--full", directory.path("full.bin"),
+                      "--rounds", "100000", "--interval", "0.001"});
+    ASSERT_TRUE(server.wait_for_error("asks for", 5)) << recorder.err();
+    server.signal(SIGKILL);
+    const Outcome end = recorder.finish();
+    EXPECT_EQ(3, end.exit);
+    EXPECT_NE(std::string::npos, end.err.find(socket)) << end.err;
+    const std::string kept = directory.read("recording.xml");
+    const std::size_t count = occurrences(kept, fragment());
+    EXPECT_GE(count, 4U);
+    EXPECT_EQ(count * fragment().size(), kept.size());
+    const std::string told = std::to_string(count);
+    EXPECT_EQ("recorded " + told + " of " + told + " messages\n", end.out);
+    const Outcome frames = tarn({"decode", "--xml", directory.path("full.bin")});
+    EXPECT_EQ(count, occurrences(frames.out, "<lumo_tarn_debug_setting_msg>")) << frames.err;
+}
+
+TEST(Killed, TheRecorderItselfLeavesWholeMessages) {
+    const Directory directory;
+    const Server server({"cl-debug=" + directory.write("debug.xml", fragment()), "--verbose"});
+    ASSERT_TRUE(server.is_ready());
+    Process recorder({"record", "cl-debug", "--socket", server.socket(), "-o", directory.path("recording.xml"),
+                      "--rounds", "100000", "--interval", "0.001"});
+    // A request says that the answers before it are written.
+    ASSERT_TRUE(server.process().wait_for_error("asks for", 5));
+    recorder.signal(SIGKILL);
+    EXPECT_EQ(128 + SIGKILL, recorder.finish().exit);
+    const std::string kept = directory.read("recording.xml");
+    EXPECT_GE(occurrences(kept, fragment()), 4U);
+    EXPECT_EQ(0U, kept.size() % fragment().size());
+}
+
+// Runs the tool with a largest size of files, in blocks of 512 bytes.
+Outcome tarn_with_file_limit(int blocks, const std::vector<std::string> &arguments) {
+    std::vector<std::string> words{"-c", R"(ulimit -f "$0" && exec "$@")", std::to_string(blocks), TARN_TOOL};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return run("/bin/sh", words);
+}
+
+std::string three_answers() {
+    std::string all;
+    for (int i = 0; i < 3; ++i) {
+        all += answer(reference::bundle_table("lumo_tarn_cl_debug_rsp"), plain_payload(debug_message(), 3), false);
+    }
+    return all;
+}
+
+TEST(FullDisk, IsNamedByEachCommandThatWrites) {
+    const Directory directory;
+    const std::string frames = directory.write("frames.bin", three_answers());
+    const Server server({"cl-debug=" + directory.write("debug.xml", fragment())});
+    ASSERT_TRUE(server.is_ready());
+    const std::vector<std::vector<std::string>> all = {
+        {"record", "--from", frames, "-o", "/dev/full"},
+        {"record", "--from", frames, "-o", directory.path("kept.xml"), "--full", "/dev/full"},
+        {"record", "cl-debug", "--socket", server.socket(), "-o", "/dev/full"},
+        {"show", "cl-debug", "--socket", server.socket(), "--save", "/dev/full"},
+        {"generate", "dp-intf", "-o", "/dev/full"},
+        {"encode", directory.path("debug.xml"), "-o", "/dev/full"},
+        {"view", frames, "-o", "/dev/full"},
+    };
+    for (const std::vector<std::string> &words : all) {
+        const Outcome outcome = tarn(words);
+        EXPECT_EQ(3, outcome.exit) << words.front();
+        EXPECT_NE(std::string::npos, outcome.err.find("tarn: /dev/full: ")) << outcome.err;
+        EXPECT_NE(std::string::npos, outcome.err.find("No space left on device")) << outcome.err;
+    }
+    for (const std::string command : {"decode", "dissect"}) {
+        const Outcome outcome = run("/bin/sh", {"-c", R"(exec "$0" "$1" "$2" >/dev/full)", TARN_TOOL, command, frames});
+        EXPECT_EQ(3, outcome.exit) << command;
+        EXPECT_EQ("tarn: standard output: No space left on device\n", outcome.err);
+    }
+}
+
+// The end of the room lies within a message: what came before it stays whole, and the place is named.
+TEST(FullDisk, EndsARecordingBehindItsLastWholeMessage) {
+    const Directory directory;
+    std::string frames;
+    for (int i = 0; i < 10; ++i) frames += three_answers();
+    const std::string from = directory.write("frames.bin", frames);
+    for (const int blocks : {1, 2, 3}) {
+        const std::size_t room = static_cast<std::size_t>(blocks) * 512, fit = room / fragment().size();
+        ASSERT_NE(0U, room % fragment().size());
+        const Outcome outcome =
+            tarn_with_file_limit(blocks, {"record", "--from", from, "-o", directory.path("recording.xml")});
+        EXPECT_EQ(3, outcome.exit);
+        EXPECT_EQ("tarn: " + directory.path("recording.xml") + ": at byte " + std::to_string(room) +
+                      ": File too large (EFBIG, 27)\n",
+                  outcome.err);
+        EXPECT_EQ("recorded " + std::to_string(fit) + " of " + std::to_string(fit + 1) + " messages\n", outcome.out);
+        std::string whole;
+        for (std::size_t i = 0; i < fit; ++i) whole += fragment();
+        EXPECT_EQ(whole, directory.read("recording.xml"));
+        const Outcome decoded = tarn({"decode", directory.path("recording.xml")});
+        EXPECT_EQ(0, decoded.exit) << decoded.err;
+    }
+}
+
+TEST(FullDisk, LeavesTheFramesOfARecordingWholeToo) {
+    const Directory directory;
+    const std::string from = directory.write("frames.bin", three_answers());
+    const Outcome outcome = tarn_with_file_limit(
+        1, {"record", "--from", from, "-o", directory.path("recording.xml"), "--full", directory.path("full.bin")});
+    EXPECT_EQ(3, outcome.exit);
+    const std::string kept = directory.read("full.bin");
+    EXPECT_EQ(three_answers().substr(0, kept.size()), kept);
+    EXPECT_GT(kept.size(), 0U);
+    const Outcome decoded = tarn({"dissect", directory.path("full.bin")});
+    EXPECT_EQ(0, decoded.exit) << decoded.err;
+}
+
+}  // namespace
+
+}  // namespace tool_test
