@@ -20,7 +20,7 @@ struct Product {
 constexpr Product products[] = {
     {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "void lumo_tarn_dp_tc_dwell_limit_set_value("},
     {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "@name dwell_limit: how long the class may dwell\n"},
-    {"manuals", "tarn_frame.5", ".It dwell_limit Ta \"u16\" Ta 2 Ta \"how long the class may dwell\"\n"},
+    {"manuals", "tarn_frame.5", ".It dwell_limit\nu16, 2 bytes: how long the class may dwell\n"},
     {"headers", "lumo_ui_tarn.hpp", "const Self &set_dwell_limit(std::uint16_t value) const"},
     {"headers", "lumo_ui_tarn.hpp", "std::uint16_t dwell_limit() const"},
     {"python", "_schema.py", R"(("dwell_limit", "dwell_limit", "u16", "", "how long the class may dwell"))"},

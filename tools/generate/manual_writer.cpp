@@ -41,7 +41,14 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
     return out + ".El\n";
 }
 
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+// A name in front of each entry. Names of the schema are long, and in columns would leave no room on a terminal.
+std::string list(const std::vector<std::pair<std::string, std::string>> &entries) {
+    std::size_t widest = 0;
+    for (const auto &[name, text] : entries) widest = std::max(widest, name.size());
+    std::string out = ".Bl -tag -compact -width " + std::string(std::min<std::size_t>(widest, 24), 'x') + "\n";
+    for (const auto &[name, text] : entries) out += ".It " + name + "\n" + text + "\n";
+    return out + ".El\n";
+}
 
 // Placeholders become words for what they stand for.
 std::string generic(std::string_view pattern) {
@@ -128,11 +135,13 @@ A buffer that frames are written to or read from has one more byte behind the si
     out += operations("The module", "There is one of each.", {Applies::module});
 
     out += ".Sh RECORDS\n";
-    std::vector<std::vector<std::string>> rows{{"Sy record", "Sy members", "Sy meaning"}};
+    std::vector<std::pair<std::string, std::string>> entries;
     for (const Record *r : records) {
-        rows.push_back({std::string(r->name), std::to_string(r->members.size()), quoted(r->meaning)});
+        entries.emplace_back(r->name, std::to_string(r->members.size()) +
+                                          (r->members.size() == 1 ? " member: " : " members: ") +
+                                          std::string(r->meaning));
     }
-    out += table(rows);
+    out += list(entries);
     out += ".Sh ENUMERATIONS\n.Bl -tag -width Ds\n";
     for (const Enumeration *e : enumerations) {
         out += ".It Vt " + std::string(e->name) + "\n" + line(std::string(e->meaning) + ":");
@@ -141,7 +150,7 @@ A buffer that frames are written to or read from has one more byte behind the si
         }
     }
     out += ".El\n.Sh MESSAGES\n";
-    rows = {{"Sy message", "Sy payload"}};
+    std::vector<std::vector<std::string>> rows{{"Sy message", "Sy payload"}};
     for (const Message *m : messages) rows.push_back({std::string(m->name), std::string(m->payload.name)});
     out += table(rows);
     out += ".Sh BUNDLES\n";
@@ -258,33 +267,35 @@ With state, an array that is not empty is followed by the state byte of the whol
 and a string that is not empty by one state byte; an empty one has none.
 .Sh MESSAGES
 )mdoc";
-    std::vector<std::vector<std::string>> rows{{"Sy identity", "Sy message", "Sy payload"}};
+    std::vector<std::pair<std::string, std::string>> entries;
     for (const Message *m : messages) {
-        rows.push_back({m->luid.text.data(), std::string(m->name), std::string(m->payload.name)});
+        entries.emplace_back(m->name,
+                             std::string(m->luid.text.data()) + "\n.br\ncarries " + std::string(m->payload.name));
     }
-    out += table(rows);
+    out += list(entries);
     out += ".Sh BUNDLES\n";
-    rows = {{"Sy identity", "Sy \"control message\""}};
-    for (const CatalogueEntry &c : catalogue()) {
-        if (c.subject.bundle != nullptr) {
-            rows.push_back(
-                {c.luid->text.data(), std::string(c.subject.control) + " of " + std::string(c.subject.bundle->name)});
+    for (const Bundle *b : bundles) {
+        out += ".Ss " + std::string(b->name) + "\n";
+        entries.clear();
+        for (const CatalogueEntry &c : catalogue()) {
+            if (c.subject.bundle == b) entries.emplace_back(c.subject.control, c.luid->text.data());
         }
+        out += list(entries);
     }
-    out += table(rows);
     out += ".Sh RECORDS\nSizes are without state; a + says that elements or characters come on top.\n";
     for (const Record *r : records) {
         out += ".Ss " + std::string(r->name) + "\n" + line(capital(r->meaning) + ": " + wire_text(*r) + " bytes.");
-        rows = {{"Sy member", "Sy kind", "Sy bytes", "Sy meaning"}};
+        entries.clear();
         for (const Member &m : r->members) {
-            rows.push_back({std::string(m.name), quoted(kind_words(m)), wire_text(m), quoted(m.meaning)});
+            entries.emplace_back(m.name, kind_words(m) + ", " + wire_text(m) +
+                                             (wire_text(m) == "1" ? " byte: " : " bytes: ") + std::string(m.meaning));
         }
-        out += table(rows);
+        out += list(entries);
     }
     out += ".Sh ENUMERATIONS\n";
     for (const Enumeration *e : enumerations) {
         out += ".Ss " + std::string(e->name) + "\n";
-        rows = {{"Sy value", "Sy enumerator"}};
+        std::vector<std::vector<std::string>> rows{{"Sy value", "Sy enumerator"}};
         for (std::size_t i = 0; i < e->enumerators.size(); ++i) {
             rows.push_back({std::to_string(i), std::string(e->enumerators[i])});
         }
