@@ -123,13 +123,6 @@ void Enum<E>::adjust_variant(mirk_handle *h, std::uint32_t ctx_id, object *insta
 }
 
 template <const Enumeration &E>
-std::int32_t Enum<E>::compare(const object *a, const object *b) {
-    if (a == nullptr) return b == nullptr ? 0 : -1;
-    if (b == nullptr) return 1;
-    return static_cast<std::int32_t>(a->value - b->value);
-}
-
-template <const Enumeration &E>
 std::uint32_t Enum<E>::hash(const object *instance, std::uint32_t seed) {
     return instance != nullptr ? SuperFastHash(&instance->value, sizeof instance->value, seed) : seed;
 }

@@ -25,7 +25,11 @@ struct Enum {
     static void destroy_cr(mirk_handle *h, object *instance);
     static std::uint32_t same_value(std::uint32_t value) { return value; }
     static void adjust_variant(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t *err);
-    static std::int32_t compare(const object *a, const object *b);
+    static std::int32_t compare(const object *a, const object *b) {
+        if (a == nullptr) return b == nullptr ? 0 : -1;
+        if (b == nullptr) return 1;
+        return static_cast<std::int32_t>(a->value - b->value);
+    }
     static std::uint32_t hash(const object *instance, std::uint32_t seed);
     static std::uint32_t len(mirk_handle *, std::uint32_t, const object *) { return 5; }
     static std::uint32_t len_cr(const mirk_handle *h) { return h->last_error != 0 ? 0 : 5; }

@@ -74,6 +74,7 @@ std::uintptr_t element_area(const mirk_object *block, std::uint64_t n, std::uint
 template <const Record &R, std::size_t I>
 struct Field {
     static constexpr const Record &owner = R;
+    static constexpr std::size_t index = I;
     static constexpr const Member &member = R.members[I];
     static constexpr Kind kind = member.kind;
     static constexpr schema::Place place = schema::layout<R>.places[I];
@@ -159,6 +160,29 @@ template <const Record &R, class Visit>
         visit(f);
         return true;
     });
+}
+
+// Integers that lie side by side in memory, without a gap between them, are a run.
+template <const Record &R>
+constexpr bool continues_run(std::size_t i) {
+    const auto &places = schema::layout<R>.places;
+    return i != 0 && schema::is_integer(R.members[i].kind) && schema::is_integer(R.members[i - 1].kind) &&
+           places[i].offset == places[i - 1].offset + places[i - 1].size;
+}
+// The number of its members, told at the first.
+template <const Record &R>
+constexpr std::size_t length_of_run(std::size_t first) {
+    std::size_t end = first + 1;
+    while (end < R.members.size() && continues_run<R>(end)) ++end;
+    return end - first;
+}
+// Calls visit with each of n members from the first on until it returns false.
+template <const Record &R, std::size_t First, std::size_t N, class Visit>
+[[gnu::always_inline]] constexpr void walk_run(Visit &&visit) {
+    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+        (void)(visit(field<R, First + I>()) && ...);
+    }
+    (std::make_index_sequence<N>{});
 }
 
 // For each byte of the state area whether it is part of the address of an element-state vector, at any depth.

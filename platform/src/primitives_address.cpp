@@ -359,6 +359,8 @@ void ip_address_from_xml(mirk_handle *, uint32_t, const char *path, void *docume
 int32_t ip_address_compare(const ip_address *a, const ip_address *b) {
     if (a == nullptr) return b == nullptr ? 0 : -1;
     if (b == nullptr) return 1;
+    const int head = (a->af ^ b->af) | (a->prefix_len ^ b->prefix_len) | (a->scope ^ b->scope);
+    if (head == 0 && std::memcmp(a->word, b->word, sizeof a->word) == 0) return 0;
     const auto order = [](uint32_t left, uint32_t right) { return left < right ? -1 : 1; };
     if (a->af != b->af) return order(a->af, b->af);
     if (a->prefix_len != b->prefix_len) return order(a->prefix_len, b->prefix_len);
