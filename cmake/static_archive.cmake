@@ -21,6 +21,7 @@ target_link_libraries(tarn_static_runtime PRIVATE mirk_contract LibXml2::LibXml2
 # Only g++ writes machine code from here; with other compilers the archive is the same without the inlining.
 set(whole_program)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_BUILD_TYPE STREQUAL Release AND NOT TARN_SANITIZE AND NOT TARN_COVERAGE)
+  target_compile_definitions(tarn_static_library PRIVATE TARN_RUNTIME_INSIDE)
   target_compile_options(tarn_static_library PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-flto -fno-semantic-interposition>)
   target_compile_options(tarn_static_runtime PRIVATE -flto -fno-semantic-interposition)
   set(whole_program -flto -flto-partition=none -flinker-output=nolto-rel -O2 -fPIC -fno-gnu-unique -fno-semantic-interposition -fno-strict-aliasing)

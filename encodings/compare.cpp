@@ -33,23 +33,14 @@ template <std::size_t Size>
 template <const Record &R, std::size_t First>
 [[gnu::always_inline]] inline std::int32_t order_of_run(const mirk_object *a, const mirk_object *b) {
     constexpr std::size_t n = length_of_run<R>(First);
-    constexpr schema::Place last = FieldOf<R, First + n - 1>::place;
     using Head = FieldOf<R, First>;
-    if (same_bytes<last.offset + last.size - Head::place.offset>(Head::at(a), Head::at(b))) return 0;
+    if (same_bytes<size_of_run<Head>()>(Head::at(a), Head::at(b))) return 0;
     std::int32_t order = 0;
     walk_run<R, First, n>([&]<class F>(F) {
         order = Primitive<F>::compare(F::at(a), F::at(b));
         return order == 0;
     });
     return order;
-}
-
-constexpr bool all_integers(const Record &record) {
-    for (const Member &m : record.members) {
-        const bool nested = m.kind == Kind::record && all_integers(*m.record);
-        if (!schema::is_integer(m.kind) && !nested) return false;
-    }
-    return true;
 }
 
 template <const Record &R>

@@ -15,6 +15,8 @@
 
 namespace tarn {
 
+constexpr std::uint32_t record_head = 1 + 1 + 4;  // variant, flag and jump
+
 template <const Record &R>
 struct WireWrite {
     static std::uint32_t len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance);

@@ -6,6 +6,12 @@
 
 namespace tarn {
 
+// A record in a record. In one piece with its owner if that costs no call of the runtime and little code.
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t write_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                         mirk_object *instance, std::int32_t remaining,
+                                                         std::uint32_t *err);
+
 // The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes
 // nothing, the state bytes still go out, and the caller decides at the end.
 struct Writer {
@@ -29,6 +35,31 @@ struct Writer {
     template <class F>
     void state_of() {
         if (tracked) state(area != nullptr ? *F::state(area) : std::uint8_t{0});
+    }
+
+    template <class F>
+    [[gnu::always_inline]] void value(mirk_object *instance) {
+        if constexpr (runtime_inside && F::kind == Kind::record) {
+            offset += write_nested<*F::member.record>(h, ctx_id, at(), F::at(instance), left(), err);
+        } else {
+            offset += Primitive<F>::marshal(h, ctx_id, at(), F::at(instance), left(), err);
+        }
+        if constexpr (schema::is_tracked(F::member)) state_of<F>();
+    }
+    // Integers side by side for which there is room.
+    template <class F>
+    [[gnu::always_inline]] bool run(mirk_object *instance) {
+        constexpr std::uint32_t size = size_of_run<F>();
+        if (*err != 0 || left() < static_cast<std::int32_t>(size)) return false;
+        std::uint8_t *to = at();
+        std::uint32_t moved = 0, none = 0;
+        walk_run<F::owner, F::index, length_of_run<F::owner>(F::index)>([&]<class M>(M) __attribute__((always_inline)) {
+            moved += Primitive<M>::marshal(h, ctx_id, to + moved, M::at(instance),
+                                           static_cast<std::int32_t>(size - moved), &none);
+            return true;
+        });
+        offset += moved;
+        return true;
     }
 
     template <class F>
@@ -77,13 +108,72 @@ namespace {
     return _mirk_instance_ra_data_marshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);
 }
 
-}  // namespace
+// The seldom ones get a copy, so that the writer itself can stay in registers.
+template <class First>
+[[gnu::cold, gnu::noinline]] std::uint32_t write_values(Writer out, mirk_object *instance) {
+    walk_run<First::owner, First::index, length_of_run<First::owner>(First::index)>([&]<class F>(F) {
+        out.value<F>(instance);
+        return true;
+    });
+    return out.offset;
+}
 
-// One function for both forms: as a template it would be there twice for each record.
+// What follows the look-up of the variant. A sure frame is written if the runtime's primitives are inlined and have
+// nothing to refuse: its head and its integers ask once, and what their primitives are given says so to the compiler.
+template <const Record &R, bool sure>
+[[gnu::always_inline]] inline void write_frame(Writer &out, mirk_object *instance, std::int8_t variant) {
+    mirk_handle *h = out.h;
+    const std::uint32_t ctx_id = out.ctx_id;
+    std::uint32_t none = 0;
+    std::uint32_t *err = sure ? &none : out.err;
+    const auto room = [&](std::uint32_t size) { return sure ? static_cast<std::int32_t>(size) : out.left(); };
+
+    out.offset += _mirk_instance_variant_marshal(h, ctx_id, out.at(), &variant, room(sizeof variant), err);
+
+    std::uint8_t wire_flag = mirk_get_instance_obj_flag(instance, 1, 0);
+    out.tracked = !sure && tracks(h);
+    if (out.tracked) {
+        wire_flag |= flag::state_tracked;
+        if (is_state_tracked(instance)) out.area = state_area<R>(h, ctx_id, instance);
+    } else {
+        wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
+    }
+    wire_flag &= flag::on_the_wire;
+    out.offset += _mirk_instance_obj_flag_marshal(h, ctx_id, out.at(), &wire_flag, room(sizeof wire_flag), err);
+
+    if (!sure && (wire_flag & flag::ra_data) != 0) {
+        out.offset += write_ra_data(h, ctx_id, out.at(), instance, out.left(), err);
+    }
+
+    const std::uint32_t jump_base = out.offset;
+    std::uint32_t jump = 0;
+    out.offset += _mirk_variant_jump_marshal(h, ctx_id, out.at(), &jump, room(sizeof jump), err);
+    if (variant >= 0) {
+        walk<R>([&]<class F>(F) __attribute__((always_inline)) {
+            if constexpr (F::kind == Kind::array) {
+                out.array<F>(instance);
+            } else if constexpr (F::kind == Kind::string) {
+                out.string<F>(instance);
+            } else if constexpr (!sure || !schema::is_integer(F::kind)) {
+                out.value<F>(instance);
+            } else if constexpr (!continues_run<R>(F::index)) {
+                if (!out.run<F>(instance)) out.offset = write_values<F>(out, instance);
+            }
+        });
+    }
+    jump = out.offset - jump_base;
+    _mirk_variant_jump_marshal(h, ctx_id, out.buffer + jump_base, &jump, sizeof jump, out.err);
+}
 template <const Record &R>
-[[gnu::noinline]] std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                                    mirk_object *instance, std::int32_t remaining, std::uint32_t *err,
-                                                    bool hold_to_domain) {
+[[gnu::cold, gnu::noinline]] std::uint32_t write_unsure_frame(Writer out, mirk_object *instance, std::int8_t variant) {
+    write_frame<R, false>(out, instance, variant);
+    return out.offset;
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t write_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                         mirk_object *instance, std::int32_t remaining,
+                                                         std::uint32_t *err, bool hold_to_domain) {
     if (!begin(h, err)) return 0;
     if (remaining < 1) {
         fail(h, err, ENOMEM);
@@ -100,39 +190,36 @@ template <const Record &R>
         variant = domain_variant;
     }
     variant = cap_variant(variant);
-    out.offset += _mirk_instance_variant_marshal(h, ctx_id, out.at(), &variant, out.left(), err);
-
-    std::uint8_t wire_flag = mirk_get_instance_obj_flag(instance, 1, 0);
-    out.tracked = tracks(h);
-    if (out.tracked) {
-        wire_flag |= flag::state_tracked;
-        if (is_state_tracked(instance)) out.area = state_area<R>(h, ctx_id, instance);
+    if constexpr (!runtime_inside) {
+        write_frame<R, false>(out, instance, variant);
+    } else if (*err == 0 && instance != nullptr && (instance->obj_flag & flag::ra_data) == 0 && !tracks(h) &&
+               remaining >= static_cast<std::int32_t>(record_head)) {
+        write_frame<R, true>(out, instance, variant);
     } else {
-        wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
+        out.offset = write_unsure_frame<R>(out, instance, variant);
     }
-    wire_flag &= flag::on_the_wire;
-    out.offset += _mirk_instance_obj_flag_marshal(h, ctx_id, out.at(), &wire_flag, out.left(), err);
-
-    if ((wire_flag & flag::ra_data) != 0) out.offset += write_ra_data(h, ctx_id, out.at(), instance, out.left(), err);
-
-    const std::uint32_t jump_base = out.offset;
-    std::uint32_t jump = 0;
-    out.offset += _mirk_variant_jump_marshal(h, ctx_id, out.at(), &jump, out.left(), err);
-    if (variant >= 0) {
-        walk<R>([&]<class F>(F) {
-            if constexpr (F::kind == Kind::array) {
-                out.array<F>(instance);
-            } else if constexpr (F::kind == Kind::string) {
-                out.string<F>(instance);
-            } else {
-                out.offset += Primitive<F>::marshal(h, ctx_id, out.at(), F::at(instance), out.left(), err);
-                if constexpr (schema::is_tracked(F::member)) out.state_of<F>();
-            }
-        });
-    }
-    jump = out.offset - jump_base;
-    _mirk_variant_jump_marshal(h, ctx_id, out.buffer + jump_base, &jump, sizeof jump, err);
     return out.offset;
+}
+
+}  // namespace
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t write_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                         mirk_object *instance, std::int32_t remaining,
+                                                         std::uint32_t *err) {
+    if constexpr (all_integers(R)) {
+        return write_record<R>(h, ctx_id, buffer, instance, remaining, err, true);
+    } else {
+        return WireWrite<R>::marshal(h, ctx_id, buffer, instance, remaining, err);
+    }
+}
+
+// One function for both forms: as a template it would be there twice for each record.
+template <const Record &R>
+[[gnu::noinline]] std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                    mirk_object *instance, std::int32_t remaining, std::uint32_t *err,
+                                                    bool hold_to_domain) {
+    return write_record<R>(h, ctx_id, buffer, instance, remaining, err, hold_to_domain);
 }
 
 template <const Record &R>
@@ -151,8 +238,7 @@ std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_
 // and a string's state one byte for each character. RA data is not counted.
 template <const Record &R>
 std::uint32_t WireWrite<R>::len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance) {
-    constexpr std::uint32_t head = 1 + 1 + 4;
-    std::uint32_t sum = head;
+    std::uint32_t sum = record_head;
     const bool has_body = mirk_get_instance_variant(instance, 1, 0) >= 0;
     if (has_body) {
         walk<R>([&]<class F>(F) {

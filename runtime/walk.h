@@ -162,6 +162,22 @@ template <const Record &R, class Visit>
     });
 }
 
+// Whether this runtime is compiled as one with the library, so that its primitives are known where they are called.
+#ifdef TARN_RUNTIME_INSIDE
+inline constexpr bool runtime_inside = true;
+#else
+inline constexpr bool runtime_inside = false;
+#endif
+
+// Integers at any depth.
+constexpr bool all_integers(const Record &record) {
+    for (const Member &m : record.members) {
+        const bool nested = m.kind == Kind::record && all_integers(*m.record);
+        if (!schema::is_integer(m.kind) && !nested) return false;
+    }
+    return true;
+}
+
 // Integers that lie side by side in memory, without a gap between them, are a run.
 template <const Record &R>
 constexpr bool continues_run(std::size_t i) {
@@ -175,6 +191,12 @@ constexpr std::size_t length_of_run(std::size_t first) {
     std::size_t end = first + 1;
     while (end < R.members.size() && continues_run<R>(end)) ++end;
     return end - first;
+}
+// Its bytes, of the run that begins with F.
+template <class F>
+constexpr std::uint32_t size_of_run() {
+    constexpr schema::Place last = schema::layout<F::owner>.places[F::index + length_of_run<F::owner>(F::index) - 1];
+    return last.offset + last.size - F::place.offset;
 }
 // Calls visit with each of n members from the first on until it returns false.
 template <const Record &R, std::size_t First, std::size_t N, class Visit>

@@ -54,6 +54,18 @@ void for_each_member(Address &address, Visit visit) {
     for (auto &word : address.word) visit(word);
 }
 
+// A frame with nothing out of the ordinary.
+void put_plain_frame(uint8_t *to, const ip_address &address) {
+    to[0] = 0;
+    to[1] = 0;
+    mirk::put_big_endian<uint32_t>(to + 2, frame_overhead - 2 + body_size);
+    to += frame_overhead;
+    for_each_member(address, [&](auto &member) {
+        mirk::put_big_endian(to, member);
+        to += sizeof member;
+    });
+}
+
 bool can_start(mirk_handle *h, const void *buffer, const void *field, int32_t remaining, uint32_t *err) {
     if (!mirk::can_move(buffer, field, 0, 0, err)) return false;
     mirk_clear_last_error(h);
@@ -237,6 +249,11 @@ uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_ad
         variant = allowed;
     }
     if (variant > 0) variant = 0;
+    if (*err == 0 && variant == 0 && !tracking(h) && (field->obj_flag & mirk::has_ra_data) == 0 &&
+        remaining >= static_cast<int32_t>(frame_overhead + body_size)) {
+        put_plain_frame(bytes, *field);
+        return frame_overhead + body_size;
+    }
     offset += _mirk_instance_variant_marshal(h, ctx_id, bytes, &variant, left(), err);
 
     uint8_t flag = field->obj_flag;
@@ -260,12 +277,7 @@ uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_ad
     const uint32_t jump_base = offset;
     uint32_t jump = 0;
     offset += _mirk_variant_jump_marshal(h, ctx_id, bytes + offset, &jump, left(), err);
-    if (variant >= 0 && !tracked && *err == 0 && left() >= static_cast<int32_t>(body_size)) {
-        for_each_member(*field, [&](auto &member) {
-            mirk::put_big_endian(bytes + offset, member);
-            offset += sizeof member;
-        });
-    } else if (variant >= 0) {
+    if (variant >= 0) {
         for_each_member(*field, [&](auto &member) {
             offset += mirk::marshal_number(bytes + offset, &member, left(), err);
             // Unlike a record this leaves the byte behind the end alone: no primitive goes beyond what remains.
