@@ -6,6 +6,12 @@
 
 namespace tarn {
 
+// A record in a record. In one piece with its owner if that costs no call of the runtime and little code.
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t read_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                        mirk_object *instance, std::uint32_t length,
+                                                        std::uint32_t reuse, std::uint32_t *err);
+
 // The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is
 // reached through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with
 // the owner of the buffer, and is read by two kinds of state that stand exactly at the end.
@@ -27,6 +33,35 @@ struct Reader {
     std::int32_t left() const { return bytes_left(size, offset); }
     std::uint32_t step() const { return offset != size ? 1 : 0; }
     std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
+
+    template <class F>
+    [[gnu::always_inline]] void value(mirk_object *instance) {
+        if constexpr (F::member.role != Role::value) old_count = *F::at(instance);
+        if constexpr (runtime_inside && F::kind == Kind::record) {
+            offset += read_nested<*F::member.record>(h, ctx_id, at(), F::at(instance),
+                                                     static_cast<std::uint32_t>(left()), reuse, err);
+        } else {
+            offset += Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
+        }
+        if constexpr (schema::is_tracked(F::member)) state_of<F>();
+    }
+
+    // Integers side by side that are all there.
+    template <class F>
+    [[gnu::always_inline]] bool run(mirk_object *instance) {
+        constexpr std::uint32_t size = size_of_run<F>();
+        if (*err != 0 || read_state || skip_state || left() < static_cast<std::int32_t>(size)) return false;
+        std::uint8_t *from = at();
+        std::uint32_t moved = 0, none = 0;
+        walk_run<F::owner, F::index, length_of_run<F::owner>(F::index)>([&]<class M>(M) __attribute__((always_inline)) {
+            if constexpr (M::member.role != Role::value) old_count = *M::at(instance);
+            moved += Primitive<M>::unmarshal(h, ctx_id, from + moved, M::at(instance),
+                                             static_cast<std::int32_t>(size - moved), reuse, &none);
+            return true;
+        });
+        offset += moved;
+        return true;
+    }
 
     template <class F>
     void state_of() {
@@ -184,11 +219,44 @@ namespace {
           jump_base, jump);
 }
 
-}  // namespace
+// The seldom ones get a copy, so that the reader itself can stay in registers.
+template <class First>
+[[gnu::cold, gnu::noinline]] std::uint32_t read_values(Reader in, mirk_object *instance, std::uint32_t &old_count) {
+    walk_run<First::owner, First::index, length_of_run<First::owner>(First::index)>([&]<class F>(F) {
+        in.value<F>(instance);
+        return true;
+    });
+    old_count = in.old_count;
+    return in.offset;
+}
+
+struct Head {
+    // A primitive that fails writes nothing, so everything read into a local starts at 0.
+    std::int8_t variant = 0;
+    std::uint8_t wire_flag = 0;
+    std::uint32_t jump_base = 0, jump = 0;
+};
+
+// A sure head is there to its last byte, and what its primitives are given says so to the compiler.
+template <bool sure>
+[[gnu::always_inline]] inline void read_head(Reader &in, mirk_object *instance, Head &head) {
+    std::uint32_t none = 0;
+    std::uint32_t *err = sure ? &none : in.err;
+    const auto room = [&](std::uint32_t size) { return sure ? static_cast<std::int32_t>(size) : in.left(); };
+    in.offset += _mirk_instance_variant_unmarshal(in.h, in.ctx_id, in.at(), &head.variant, room(1), err);
+    in.offset += _mirk_instance_obj_flag_unmarshal(in.h, in.ctx_id, in.at(), &head.wire_flag, room(1), err);
+    const bool has_ra_data = (head.wire_flag & flag::ra_data) != 0;
+    if (has_ra_data) in.offset += read_ra_data(in.h, in.ctx_id, in.at(), instance, in.left(), in.err);
+    head.jump_base = in.offset;
+    in.offset += sure && !has_ra_data
+                     ? _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, room(4), err)
+                     : _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err);
+}
 
 template <const Record &R>
-std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                     std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
+[[gnu::always_inline]] inline std::uint32_t read_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                        mirk_object *instance, std::uint32_t length,
+                                                        std::uint32_t reuse, std::uint32_t *err) {
     if (!begin(h, err)) return 0;
     if (static_cast<std::int32_t>(length) < 1) {
         fail(h, err, ENOMEM);
@@ -200,16 +268,14 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
     }
     Reader in{h, ctx_id, static_cast<std::uint8_t *>(buffer), length, reuse, err};
 
-    // A primitive that fails writes nothing, so everything read into a local starts at 0.
-    std::int8_t variant = 0;
-    std::uint8_t wire_flag = 0;
-    in.offset += _mirk_instance_variant_unmarshal(h, ctx_id, in.at(), &variant, in.left(), err);
-    in.offset += _mirk_instance_obj_flag_unmarshal(h, ctx_id, in.at(), &wire_flag, in.left(), err);
-    if ((wire_flag & flag::ra_data) != 0) in.offset += read_ra_data(h, ctx_id, in.at(), instance, in.left(), err);
-    variant = cap_variant(variant);
-    const std::uint32_t jump_base = in.offset;
-    std::uint32_t jump = 0;
-    in.offset += _mirk_variant_jump_unmarshal(h, ctx_id, in.at(), &jump, in.left(), err);
+    Head head;
+    if (runtime_inside && length >= record_head && buffer != nullptr) {
+        read_head<true>(in, instance, head);
+    } else {
+        read_head<false>(in, instance, head);
+    }
+    const std::int8_t variant = cap_variant(head.variant);
+    std::uint8_t wire_flag = head.wire_flag;
 
     const bool sender_tracks = (wire_flag & flag::state_tracked) != 0;
     in.tracked = tracks(h);
@@ -222,30 +288,48 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 
-    const bool complete =
-        variant < 0 || walk_while<R>([&]<class F>(F) {
-            if constexpr (F::kind == Kind::array) {
-                return in.array<F>(instance);
-            } else if constexpr (F::kind == Kind::string) {
-                return in.string<F>(instance);
-            } else {
-                if constexpr (F::member.role != Role::value) in.old_count = *F::at(instance);
-                in.offset += Primitive<F>::unmarshal(h, ctx_id, in.at(), F::at(instance), in.left(), reuse, err);
-                if constexpr (schema::is_tracked(F::member)) in.state_of<F>();
-                return true;
-            }
-        });
+    const bool complete = variant < 0 || walk_while<R>([&]<class F>(F) __attribute__((always_inline)) {
+                              if constexpr (F::kind == Kind::array) {
+                                  return in.array<F>(instance);
+                              } else if constexpr (F::kind == Kind::string) {
+                                  return in.string<F>(instance);
+                              } else if constexpr (!runtime_inside || !schema::is_integer(F::kind)) {
+                                  in.value<F>(instance);
+                              } else if constexpr (!continues_run<R>(F::index)) {
+                                  if (!in.run<F>(instance)) in.offset = read_values<F>(in, instance, in.old_count);
+                              }
+                              return true;
+                          });
     if (!complete) return 0;
 
-    const std::uint32_t end = jump_base + jump;
+    const std::uint32_t end = head.jump_base + head.jump;
     if (static_cast<std::int32_t>(end) > static_cast<std::int32_t>(in.offset)) {
-        report_jump(in.offset, jump_base, jump);
+        report_jump(in.offset, head.jump_base, head.jump);
         in.offset = end;
     }
     instance->variant = variant;
     instance->obj_flag |= wire_flag;
     instance->tinfo = bind_type(h, ctx_id, &TypeInfo<R>::own);
     return in.offset;
+}
+
+}  // namespace
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t read_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                        mirk_object *instance, std::uint32_t length,
+                                                        std::uint32_t reuse, std::uint32_t *err) {
+    if constexpr (all_integers(R)) {
+        return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
+    } else {
+        return WireRead<R>::unmarshal(h, ctx_id, buffer, instance, length, reuse, err);
+    }
+}
+
+template <const Record &R>
+std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                     std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
+    return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
 }
 
 }  // namespace tarn

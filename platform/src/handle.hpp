@@ -131,6 +131,7 @@ struct Handle : mirk_handle {
     struct RecentType {
         const mirk_type_info *type;
         mirk_type_info_copy *copy;
+        Luid luid;
     };
     std::array<RecentType, 256> recent_types{};
 

@@ -73,6 +73,24 @@ static mirk_type_info_copy *type_store_get(void *type_store, uint32_t ctx_id, co
 }
 
 }  // extern "C"
+
+Handle::RecentType &recent_type(Handle &handle, const mirk_type_info *type) {
+    return handle.recent_types[mirk::address_of(type) / 16 % handle.recent_types.size()];
+}
+
+[[gnu::noinline]] mirk_type_info *find_type(Handle &handle, uint32_t ctx_id, mirk_type_info *type,
+                                            mirk_typeinfo_init_fn init) {
+    mirk_type_info_copy *copy = handle.type_store_get(handle.type_store, ctx_id, type->luid_text);
+    if (copy == nullptr && init != nullptr) {
+        uint32_t err = 0;
+        init(&handle, ctx_id, &err);
+        copy = handle.type_store_get(handle.type_store, ctx_id, type->luid_text);
+    }
+    if (copy == nullptr) return type;
+    if (handle.type_store_get == type_store_get) recent_type(handle, type) = {type, copy, mirk::luid_from(type->luid)};
+    return &copy->info;
+}
+
 }  // namespace
 
 extern "C" {
@@ -84,27 +102,18 @@ constinit mirk_type_info _mirk_boolean_type_info_internal =
     describe(boolean_luid, "mirk_boolean", &boolean_variants.info);
 constinit mirk_type_info _ip_address_type_info_internal = describe(address_luid, "ip_address", &address_variants.info);
 
+// Every object that is made or read comes by. What was found is kept by the record's address; the luid says whether the
+// same type still stands there.
 mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type,
                                        mirk_typeinfo_init_fn init) {
     if (type == nullptr) return nullptr;
-    // Every object that is made or read comes by. What was found is kept by the record's address; the luid says whether
-    // the same type still stands there.
     Handle &handle = *own(h);
-    Handle::RecentType &recent = handle.recent_types[mirk::address_of(type) / 16 % handle.recent_types.size()];
-    const bool own_store = h->type_store_get == type_store_get;
-    if (own_store && recent.type == type && std::memcmp(recent.copy->info.luid, type->luid, sizeof type->luid) == 0) {
-        handle.event(MIRK_PLATFORM_TESTING_TYPE_GET, recent.copy, 0, 0, ctx_id);
+    const Handle::RecentType &recent = recent_type(handle, type);
+    if (recent.type == type && std::memcmp(recent.luid.data(), type->luid, sizeof type->luid) == 0 &&
+        h->type_store_get == type_store_get && handle.hook == nullptr) {
         return &recent.copy->info;
     }
-    mirk_type_info_copy *copy = h->type_store_get(h->type_store, ctx_id, type->luid_text);
-    if (copy == nullptr && init != nullptr) {
-        uint32_t err = 0;
-        init(h, ctx_id, &err);
-        copy = h->type_store_get(h->type_store, ctx_id, type->luid_text);
-    }
-    if (copy == nullptr) return type;
-    if (own_store) recent = {type, copy};
-    return &copy->info;
+    return find_type(handle, ctx_id, type, init);
 }
 
 void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_copy *copy, mirk_type_info *type,
