@@ -1,10 +1,29 @@
 #include "encodings/text.h"
 
-#include <cstdio>
+#include <charconv>
+#include <cstring>
 
 #include "runtime/kinds.h"
 
 namespace tarn {
+
+namespace {
+
+// What an element is called: "classes[12]". Written for each element, and so without a format.
+struct ElementName {
+    ElementName(std::string_view array, std::uint32_t index) {
+        std::memcpy(text, array.data(), array.size());
+        char *end = text + array.size();
+        *end++ = '[';
+        end = std::to_chars(end, text + sizeof text, static_cast<std::int32_t>(index)).ptr;
+        *end++ = ']';
+        *end = 0;
+    }
+    static constexpr std::size_t most = 64;
+    char text[most + sizeof "[-2147483648]"];
+};
+
+}  // namespace
 
 template <const Record &R>
 std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t indent, const char *name,
@@ -23,9 +42,9 @@ std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
         if constexpr (F::kind == Kind::array) {
             const std::uint32_t n = F::count(instance);
             for (std::uint32_t i = 0; i < n; ++i) {
-                char element_name[80];
-                std::snprintf(element_name, sizeof element_name, "%s[%d]", F::name(), static_cast<int>(i));
-                offset += Text<F::element>::print(h, ctx_id, buffer + offset, inside, element_name,
+                static_assert(F::member.name.size() <= ElementName::most);
+                const ElementName name_of_element(F::member.name, i);
+                offset += Text<F::element>::print(h, ctx_id, buffer + offset, inside, name_of_element.text,
                                                   element_at<F::element>(*F::at(instance), i), left(), err);
             }
         } else if constexpr (F::kind == Kind::string) {

@@ -1,11 +1,14 @@
 // Strings: the value is characters with a length, never NUL-terminated.
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "document.hpp"
 #include "text.hpp"
 
 namespace {
+
+constexpr uint64_t ones = 0x0101010101010101u;
 
 using mirk::TextSink;
 
@@ -62,16 +65,33 @@ void put_escaped(TextSink &sink, std::string_view text) {
     }
 }
 
+// The high bit of each byte that is the given one. Of a word without high bits.
+uint64_t bytes_that_are(uint64_t word, uint8_t byte) {
+    const uint64_t difference = word ^ (ones * byte);
+    return (difference - ones) & ~difference & ones * 0x80;
+}
+
+// The characters at the start of a text that are printed as they are, found eight at a time.
+size_t printable_prefix(std::string_view text) {
+    size_t at = 0;
+    for (uint64_t word; at + sizeof word <= text.size(); at += sizeof word) {
+        std::memcpy(&word, text.data() + at, sizeof word);
+        const uint64_t control = (word - ones * 0x20) & ~word;
+        if (((word | control) & ones * 0x80) != 0 || (bytes_that_are(word, 0x7f) | bytes_that_are(word, '\\')) != 0)
+            break;
+    }
+    for (; at < text.size(); ++at) {
+        const auto byte = static_cast<uint8_t>(text[at]);
+        if (byte < 0x20 || byte >= 0x7f || byte == '\\') break;
+    }
+    return at;
+}
+
 // One string stays on one line.
 void put_printable(TextSink &sink, std::string_view text) {
     constexpr char digits[] = "0123456789abcdef";
-    const auto stays = [](char c) {
-        const auto byte = static_cast<uint8_t>(c);
-        return byte >= 0x20 && byte < 0x7f && c != '\\';
-    };
     while (!text.empty()) {
-        const auto end = std::find_if_not(text.begin(), text.end(), stays);
-        const auto run = static_cast<size_t>(end - text.begin());
+        const size_t run = printable_prefix(text);
         sink.put(text.substr(0, run));
         text.remove_prefix(run);
         if (text.empty()) break;

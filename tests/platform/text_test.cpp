@@ -106,6 +106,27 @@ TEST(Strings, PrintOnOneLine) {
     EXPECT_EQ(err, 22u);
 }
 
+TEST(Strings, EveryByteIsPrintedAlikeAtEveryPlace) {
+    Handle h;
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        char escaped[8];
+        std::snprintf(escaped, sizeof escaped,
+                      byte == '\\'                 ? "\\\\"
+                      : byte < 0x20 || byte > 0x7e ? "\\x%02x"
+                                                   : "%c",
+                      byte);
+        for (size_t place = 0; place < 20; ++place) {
+            std::string text(20, 'a');
+            text[place] = static_cast<char>(byte);
+            char buffer[128];
+            uint32_t err = 0;
+            var_string_print(h, 7, buffer, 0, "s", text.data(), 128, 20, &err);
+            const std::string expected = std::string(place, 'a') + escaped + std::string(19 - place, 'a');
+            EXPECT_EQ(buffer, "s@var_string:" + expected + "\n");
+        }
+    }
+}
+
 TEST(Strings, EscapeWhatXmlReserves) {
     Handle h;
     char buffer[128];
