@@ -46,6 +46,7 @@ struct Writer {
         }
         if constexpr (schema::is_tracked(F::member)) state_of<F>();
     }
+
     // Integers side by side for which there is room.
     template <class F>
     [[gnu::always_inline]] bool run(mirk_object *instance) {
@@ -192,8 +193,8 @@ template <const Record &R>
     variant = cap_variant(variant);
     if constexpr (!runtime_inside) {
         write_frame<R, false>(out, instance, variant);
-    } else if (*err == 0 && instance != nullptr && (instance->obj_flag & flag::ra_data) == 0 && !tracks(h) &&
-               remaining >= static_cast<std::int32_t>(record_head)) {
+    } else if (*err == 0 && buffer != nullptr && instance != nullptr && (instance->obj_flag & flag::ra_data) == 0 &&
+               !tracks(h) && remaining >= static_cast<std::int32_t>(record_head)) {
         write_frame<R, true>(out, instance, variant);
     } else {
         out.offset = write_unsure_frame<R>(out, instance, variant);
