@@ -32,11 +32,10 @@ template <std::size_t Size>
 // Equal runs are equal bytes. Only of those that differ is it asked where.
 template <const Record &R, std::size_t First>
 [[gnu::always_inline]] inline std::int32_t order_of_run(const mirk_object *a, const mirk_object *b) {
-    constexpr std::size_t n = length_of_run<R>(First);
     using Head = FieldOf<R, First>;
     if (same_bytes<size_of_run<Head>()>(Head::at(a), Head::at(b))) return 0;
     std::int32_t order = 0;
-    walk_run<R, First, n>([&]<class F>(F) {
+    walk_run<Head>([&]<class F>(F) {
         order = Primitive<F>::compare(F::at(a), F::at(b));
         return order == 0;
     });

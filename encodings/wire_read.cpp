@@ -53,7 +53,7 @@ struct Reader {
         if (*err != 0 || read_state || skip_state || left() < static_cast<std::int32_t>(size)) return false;
         std::uint8_t *from = at();
         std::uint32_t moved = 0, none = 0;
-        walk_run<F::owner, F::index, length_of_run<F::owner>(F::index)>([&]<class M>(M) __attribute__((always_inline)) {
+        walk_run<F>([&]<class M>(M) __attribute__((always_inline)) {
             if constexpr (M::member.role != Role::value) old_count = *M::at(instance);
             moved += Primitive<M>::unmarshal(h, ctx_id, from + moved, M::at(instance),
                                              static_cast<std::int32_t>(size - moved), reuse, &none);
@@ -222,7 +222,7 @@ namespace {
 // The seldom ones get a copy, so that the reader itself can stay in registers.
 template <class First>
 [[gnu::cold, gnu::noinline]] std::uint32_t read_values(Reader in, mirk_object *instance, std::uint32_t &old_count) {
-    walk_run<First::owner, First::index, length_of_run<First::owner>(First::index)>([&]<class F>(F) {
+    walk_run<First>([&]<class F>(F) {
         in.value<F>(instance);
         return true;
     });

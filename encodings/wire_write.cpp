@@ -54,7 +54,7 @@ struct Writer {
         if (*err != 0 || left() < static_cast<std::int32_t>(size)) return false;
         std::uint8_t *to = at();
         std::uint32_t moved = 0, none = 0;
-        walk_run<F::owner, F::index, length_of_run<F::owner>(F::index)>([&]<class M>(M) __attribute__((always_inline)) {
+        walk_run<F>([&]<class M>(M) __attribute__((always_inline)) {
             moved += Primitive<M>::marshal(h, ctx_id, to + moved, M::at(instance),
                                            static_cast<std::int32_t>(size - moved), &none);
             return true;
@@ -112,7 +112,7 @@ namespace {
 // The seldom ones get a copy, so that the writer itself can stay in registers.
 template <class First>
 [[gnu::cold, gnu::noinline]] std::uint32_t write_values(Writer out, mirk_object *instance) {
-    walk_run<First::owner, First::index, length_of_run<First::owner>(First::index)>([&]<class F>(F) {
+    walk_run<First>([&]<class F>(F) {
         out.value<F>(instance);
         return true;
     });

@@ -145,13 +145,18 @@ constexpr auto field() {
 template <const Record &R, std::size_t I>
 using FieldOf = decltype(field<R, I>());
 
-// Calls visit with each member in table order until it returns false; true if none did.
+// Calls visit with each of N members from the first on, in table order, until it returns false; true if none did.
+template <const Record &R, std::size_t First, std::size_t N, class Visit>
+[[gnu::always_inline]] constexpr bool walk_some(Visit &&visit) {
+    const auto members = [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+        return (visit(field<R, First + I>()) && ...);
+    };
+    return members(std::make_index_sequence<N>{});
+}
+
 template <const Record &R, class Visit>
 [[gnu::always_inline]] constexpr bool walk_while(Visit &&visit) {
-    const auto members = [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-        return (visit(field<R, I>()) && ...);
-    };
-    return members(std::make_index_sequence<R.members.size()>{});
+    return walk_some<R, 0, R.members.size()>(visit);
 }
 
 template <const Record &R, class Visit>
@@ -198,13 +203,9 @@ constexpr std::uint32_t size_of_run() {
     constexpr schema::Place last = schema::layout<F::owner>.places[F::index + length_of_run<F::owner>(F::index) - 1];
     return last.offset + last.size - F::place.offset;
 }
-// Calls visit with each of n members from the first on until it returns false.
-template <const Record &R, std::size_t First, std::size_t N, class Visit>
-[[gnu::always_inline]] constexpr void walk_run(Visit &&visit) {
-    [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-        (void)(visit(field<R, First + I>()) && ...);
-    }
-    (std::make_index_sequence<N>{});
+template <class F, class Visit>
+[[gnu::always_inline]] constexpr bool walk_run(Visit &&visit) {
+    return walk_some<F::owner, F::index, length_of_run<F::owner>(F::index)>(visit);
 }
 
 // For each byte of the state area whether it is part of the address of an element-state vector, at any depth.
