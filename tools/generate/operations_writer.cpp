@@ -30,7 +30,7 @@ std::string field_of(const Row &row) {
     return suffix;
 }
 
-bool is_opaque(const std::string &type) {
+bool passes_as_void(const std::string &type) {
     return type.find("lumo_tarn_") != std::string::npos || type.find("ip_address") != std::string::npos ||
            type.find("mirk_boolean") != std::string::npos;
 }
@@ -49,10 +49,10 @@ std::string lambda(const Export &e) {
             const std::string at = "all[" + std::to_string(listed++) + "]";
             argument = "static_cast<" + p.type + ">(" + at + ")";
             type.clear();
-        } else if (p.type.ends_with("**") && is_opaque(p.type)) {
+        } else if (p.type.ends_with("**") && passes_as_void(p.type)) {
             type = "void **";
             argument = "reinterpret_cast<" + p.type + ">(" + p.name + ")";
-        } else if (is_opaque(p.type) || (of_member && p.name == "source" && e.row->applies != Applies::array)) {
+        } else if (passes_as_void(p.type) || (of_member && p.name == "source" && e.row->applies != Applies::array)) {
             type = p.type.starts_with("const") && !of_member ? "const void *" : "void *";
             argument = "static_cast<" + p.type + ">(" + p.name + ")";
         } else if (of_member && p.name == "value" && e.row->prototype.find("set_value") != std::string_view::npos) {
@@ -89,7 +89,7 @@ std::string catalogue_fields(const std::string &name) {
 }
 
 // Made on first use, so that other static objects may be initialised from the tables.
-std::string table(const std::string &type, const std::string &name, const std::string &rows) {
+std::string table_of(const std::string &type, const std::string &name, const std::string &rows) {
     return "std::span<const " + type + "> " + name + "() {\n    static const " + type + " all[] = {\n" + rows +
            "    };\n    return all;\n}\n\n";
 }
@@ -144,10 +144,10 @@ Files write_operations() {
                 "    return o;\n}\n\n";
         bundle_rows += "    bundle_" + name + "(),\n";
     }
-    text += table("RecordOperations", "all_records", record_rows) +
-            table("EnumerationOperations", "all_enumerations", enumeration_rows) +
-            table("MessageOperations", "all_messages", message_rows) +
-            table("BundleOperations", "all_bundles", bundle_rows);
+    text += table_of("RecordOperations", "all_records", record_rows) +
+            table_of("EnumerationOperations", "all_enumerations", enumeration_rows) +
+            table_of("MessageOperations", "all_messages", message_rows) +
+            table_of("BundleOperations", "all_bundles", bundle_rows);
     return {{"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};
 }
 

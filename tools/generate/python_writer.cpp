@@ -13,7 +13,7 @@ using namespace schema;
 namespace {
 
 // Words that Python keeps for itself, and names that all records have.
-constexpr std::string_view taken[] = {
+constexpr std::string_view taken_in_python[] = {
     "False",          "None",         "True",     "and",         "as",       "assert",
     "async",          "await",        "break",    "class",       "compare",  "continue",
     "copy",           "def",          "del",      "elif",        "else",     "except",
@@ -25,7 +25,8 @@ constexpr std::string_view taken[] = {
     "to_xml",         "try",          "while",    "with",        "yield"};
 
 std::string attribute(std::string_view name) {
-    const bool is_taken = std::find(std::begin(taken), std::end(taken), name) != std::end(taken);
+    const bool is_taken =
+        std::find(std::begin(taken_in_python), std::end(taken_in_python), name) != std::end(taken_in_python);
     return std::string(name) + (is_taken ? "_" : "");
 }
 
@@ -55,7 +56,7 @@ std::string kind_of(const Member &m) {
     return m.role == Role::count ? "count " + kind : m.role == Role::length ? "length " + kind : kind;
 }
 
-std::string quoted(std::string_view text) {
+std::string in_quotes(std::string_view text) {
     std::string out = "\"";
     for (const char c : text) {
         if (c == '"' || c == '\\') out += '\\';
@@ -69,31 +70,32 @@ std::string tables() {
         "\"\"\"The schema. Printed by the generator; not to be edited.\"\"\"\n\n"
         "# class, meaning, members: attribute, name, kind, what of, meaning\nRECORDS = {\n";
     for (const Record *r : records) {
-        text += "    " + quoted(r->name) + ": (" + quoted(class_of_record(*r)) + ", " + quoted(r->meaning) + ", [\n";
+        text += "    " + in_quotes(r->name) + ": (" + in_quotes(class_of_record(*r)) + ", " + in_quotes(r->meaning) +
+                ", [\n";
         for (const Member &m : r->members) {
             const std::string_view of = m.record != nullptr        ? m.record->name
                                         : m.enumeration != nullptr ? m.enumeration->name
                                                                    : std::string_view();
-            text += "        (" + quoted(attribute(m.name)) + ", " + quoted(m.name) + ", " + quoted(kind_of(m)) + ", " +
-                    quoted(of) + ", " + quoted(m.meaning) + "),\n";
+            text += "        (" + in_quotes(attribute(m.name)) + ", " + in_quotes(m.name) + ", " +
+                    in_quotes(kind_of(m)) + ", " + in_quotes(of) + ", " + in_quotes(m.meaning) + "),\n";
         }
         text += "    ]),\n";
     }
     text += "}\n\n# class, meaning, names, names in Python\nENUMERATIONS = {\n";
     for (const Enumeration *e : enumerations) {
         std::string names, in_python;
-        for (const std::string_view name : e->enumerators) names += quoted(name) + ", ";
-        for (const std::string &name : enumerator_names(*e)) in_python += quoted(upper(name)) + ", ";
-        text += "    " + quoted(e->name) + ": (" + quoted(class_name(type_name(*e))) + ", " + quoted(e->meaning) +
-                ", [" + names + "], [" + in_python + "]),\n";
+        for (const std::string_view name : e->enumerators) names += in_quotes(name) + ", ";
+        for (const std::string &name : enumerator_names(*e)) in_python += in_quotes(upper(name)) + ", ";
+        text += "    " + in_quotes(e->name) + ": (" + in_quotes(class_name(type_name(*e))) + ", " +
+                in_quotes(e->meaning) + ", [" + names + "], [" + in_python + "]),\n";
     }
     text += "}\n\n# class, payload\nMESSAGES = {\n";
     for (const Message *m : messages) {
-        text += "    " + quoted(m->name) + ": (" + quoted(class_name(short_name(m->name))) + ", " +
-                quoted(m->payload.name) + "),\n";
+        text += "    " + in_quotes(m->name) + ": (" + in_quotes(class_name(short_name(m->name))) + ", " +
+                in_quotes(m->payload.name) + "),\n";
     }
     text += "}\n\n# the message that each admits\nBUNDLES = {\n";
-    for (const Bundle *b : bundles) text += "    " + quoted(b->name) + ": " + quoted(b->message.name) + ",\n";
+    for (const Bundle *b : bundles) text += "    " + in_quotes(b->name) + ": " + in_quotes(b->message.name) + ",\n";
     return text + "}\n";
 }
 
@@ -154,7 +156,7 @@ std::string stubs() {
         "from typing import Any\n\nfrom ._base import Address, AddressLike, Array, Message, Record\n"
         "from ._native import Handle\n\n";
     std::string all;
-    const auto list = [&](const std::string &name) { all += "    " + quoted(name) + ",\n"; };
+    const auto list = [&](const std::string &name) { all += "    " + in_quotes(name) + ",\n"; };
     for (const Enumeration *e : enumerations) {
         const std::string name = class_name(type_name(*e));
         list(name);
