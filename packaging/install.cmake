@@ -27,7 +27,7 @@ install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COM
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 # The archive takes as long to build as all else.
-option(TARN_STATIC "build and install the archive as well" ${TARN_LINK_STATIC})
+option(TARN_STATIC "build, test and install the archive as well" OFF)
 if(TARN_STATIC)
   set_target_properties(lumo_ui_tarn_static PROPERTIES EXCLUDE_FROM_ALL OFF)
   install(TARGETS lumo_ui_tarn_static EXPORT lumo_ui_tarn_static ARCHIVE DESTINATION ${library_dir}

@@ -150,7 +150,7 @@ TEST_F(Limit, OfTheTimeToReadAnAnswer) {
 
 TEST_F(Limit, OfDescriptorsIsSaidOnceAndEnds) {
     const std::string socket = directory_.path("socket");
-    const Process server({"-c", R"(ulimit -n 24 && exec "$@")", "sh", TARN_TOOL, "answer", "--socket", socket,
+    const Process server({"-c", R"(ulimit -n 24 && exec "$@")", "sh", tool(), "answer", "--socket", socket,
                           "cl-debug=" + directory_.write("debug.xml", debug_xml)},
                          "/bin/sh");
     ASSERT_TRUE(server.wait_for("answering on"));

@@ -169,7 +169,7 @@ TEST(Killed, TheRecorderItselfLeavesWholeMessages) {
 
 // Runs the tool with a largest size of files, in blocks of 512 bytes.
 Outcome tarn_with_file_limit(int blocks, const std::vector<std::string> &arguments) {
-    std::vector<std::string> words{"-c", R"(ulimit -f "$0" && exec "$@")", std::to_string(blocks), TARN_TOOL};
+    std::vector<std::string> words{"-c", R"(ulimit -f "$0" && exec "$@")", std::to_string(blocks), tool()};
     words.insert(words.end(), arguments.begin(), arguments.end());
     return run("/bin/sh", words);
 }
@@ -203,7 +203,7 @@ TEST(FullDisk, IsNamedByEachCommandThatWrites) {
         EXPECT_NE(std::string::npos, outcome.err.find("No space left on device")) << outcome.err;
     }
     for (const std::string command : {"decode", "dissect"}) {
-        const Outcome outcome = run("/bin/sh", {"-c", R"(exec "$0" "$1" "$2" >/dev/full)", TARN_TOOL, command, frames});
+        const Outcome outcome = run("/bin/sh", {"-c", R"(exec "$0" "$1" "$2" >/dev/full)", tool(), command, frames});
         EXPECT_EQ(3, outcome.exit) << command;
         EXPECT_EQ("tarn: standard output: No space left on device\n", outcome.err);
     }

@@ -76,6 +76,11 @@ std::size_t occurrences(std::string_view in, std::string_view text) {
     return count;
 }
 
+std::string tool() {
+    const char *told = std::getenv("TARN_TOOL");
+    return told != nullptr ? told : TARN_TOOL;
+}
+
 Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input) {
     const Directory directory;
     const std::string in = directory.write("in", input);
@@ -86,7 +91,7 @@ Outcome run(const std::string &program, const std::vector<std::string> &argument
 }
 
 Outcome tarn(const std::vector<std::string> &arguments, std::string_view input) {
-    return run(TARN_TOOL, arguments, input);
+    return run(tool(), arguments, input);
 }
 
 Process::Process(const std::vector<std::string> &arguments, const std::string &program)

@@ -22,13 +22,16 @@ struct Outcome {
 // Runs a program, which is given by its path, to its end.
 Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input = {});
 
+// The path of the tool: of this build's, unless the environment names another one.
+std::string tool();
+
 // Runs the tool to its end.
 Outcome tarn(const std::vector<std::string> &arguments, std::string_view input = {});
 
 // A program in the background, the tool if none is told, with its standard output and error in files.
 class Process {
 public:
-    explicit Process(const std::vector<std::string> &arguments, const std::string &program = TARN_TOOL);
+    explicit Process(const std::vector<std::string> &arguments, const std::string &program = tool());
     Process(const Process &) = delete;
     Process &operator=(const Process &) = delete;
     ~Process();
