@@ -34,7 +34,7 @@ struct Reader {
     std::uint32_t step() const { return offset != size ? 1 : 0; }
     std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
 
-    template <class F>
+    template <class F, bool stateless = false>
     [[gnu::always_inline]] void value(mirk_object *instance) {
         if constexpr (F::member.role != Role::value) old_count = *F::at(instance);
         if constexpr (runtime_inside && F::kind == Kind::record) {
@@ -43,14 +43,14 @@ struct Reader {
         } else {
             offset += Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
         }
-        if constexpr (schema::is_tracked(F::member)) state_of<F>();
+        if constexpr (schema::is_tracked(F::member) && !stateless) state_of<F>();
     }
 
-    // Integers side by side that are all there.
+    // Integers side by side that are all there, in a frame without states.
     template <class F>
     [[gnu::always_inline]] bool run(mirk_object *instance) {
         constexpr std::uint32_t size = size_of_run<F>();
-        if (*err != 0 || read_state || skip_state || left() < static_cast<std::int32_t>(size)) return false;
+        if (*err != 0 || left() < static_cast<std::int32_t>(size)) return false;
         std::uint8_t *from = at();
         std::uint32_t moved = 0, none = 0;
         walk_run<F>([&]<class M>(M) __attribute__((always_inline)) {
@@ -253,6 +253,31 @@ template <bool sure>
                      : _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err);
 }
 
+template <const Record &R, bool stateless>
+[[gnu::always_inline]] inline bool read_members(Reader &in, mirk_object *instance) {
+    return walk_while<R>([&]<class F>(F) __attribute__((always_inline)) {
+        if constexpr (F::kind == Kind::array) {
+            return in.array<F>(instance);
+        } else if constexpr (F::kind == Kind::string) {
+            return in.string<F>(instance);
+        } else if constexpr (!stateless || !schema::is_integer(F::kind)) {
+            in.value<F, stateless>(instance);
+        } else if constexpr (!continues_run<R>(F::index)) {
+            if (!in.run<F>(instance)) in.offset = read_values<F>(in, instance, in.old_count);
+        }
+        return true;
+    });
+}
+struct Progress {
+    std::uint32_t offset;
+    bool complete;
+};
+template <const Record &R>
+[[gnu::cold, gnu::noinline]] Progress read_stateful(Reader in, mirk_object *instance) {
+    const bool complete = read_members<R, false>(in, instance);
+    return {in.offset, complete};
+}
+
 template <const Record &R>
 [[gnu::always_inline]] inline std::uint32_t read_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                         mirk_object *instance, std::uint32_t length,
@@ -288,19 +313,19 @@ template <const Record &R>
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 
-    const bool complete = variant < 0 || walk_while<R>([&]<class F>(F) __attribute__((always_inline)) {
-                              if constexpr (F::kind == Kind::array) {
-                                  return in.array<F>(instance);
-                              } else if constexpr (F::kind == Kind::string) {
-                                  return in.string<F>(instance);
-                              } else if constexpr (!runtime_inside || !schema::is_integer(F::kind)) {
-                                  in.value<F>(instance);
-                              } else if constexpr (!continues_run<R>(F::index)) {
-                                  if (!in.run<F>(instance)) in.offset = read_values<F>(in, instance, in.old_count);
-                              }
-                              return true;
-                          });
-    if (!complete) return 0;
+    if (variant >= 0) {
+        bool complete = true;
+        if constexpr (!runtime_inside) {
+            complete = read_members<R, false>(in, instance);
+        } else if (!in.tracked && !sender_tracks) {
+            complete = read_members<R, true>(in, instance);
+        } else {
+            const Progress progress = read_stateful<R>(in, instance);
+            in.offset = progress.offset;
+            complete = progress.complete;
+        }
+        if (!complete) return 0;
+    }
 
     const std::uint32_t end = head.jump_base + head.jump;
     if (static_cast<std::int32_t>(end) > static_cast<std::int32_t>(in.offset)) {

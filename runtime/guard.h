@@ -114,9 +114,20 @@ inline bool is_state_tracked(const mirk_object *object) {
     return object != nullptr && (object->obj_flag & flag::state_tracked) != 0;
 }
 
+// Whether anybody hears what is announced and counted. Only a runtime that is compiled as one with the library can say
+// so; any other is told.
+#ifdef TARN_RUNTIME_INSIDE
+extern "C" bool mirk_inside_is_heard(const mirk_handle *h);
+inline constexpr bool runtime_inside = true;
+inline bool is_heard(const mirk_handle *h) { return mirk_inside_is_heard(h); }
+#else
+inline constexpr bool runtime_inside = false;
+inline constexpr bool is_heard(const mirk_handle *) { return true; }
+#endif
+
 template <class T>
 void announce(mirk_handle *h, std::uint32_t ctx_id, T *member, std::size_t size = sizeof(T)) {
-    h->write_notify(h->mem_ctx, member, size, ctx_id);
+    if (is_heard(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
 }
 template <class T>
 void store(mirk_handle *h, std::uint32_t ctx_id, T *member, T value) {

@@ -20,10 +20,10 @@ inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->l
 
 // Writes the header of an object that is set up; a type has no variant above 0.
 inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                              std::uint32_t notify, std::uint8_t flags, std::uint32_t *err) {
+                              bool heard, std::uint8_t flags, std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
     const auto tell = [&](auto *member) {
-        if (notify != 0) announce(h, ctx_id, member);
+        if (heard) h->write_notify(h->mem_ctx, member, sizeof *member, ctx_id);
     };
     tell(&object->home_variant);
     object->home_variant = variant;
@@ -42,12 +42,13 @@ inline void check_variant_count(const mirk_variant_info &info, std::int8_t varia
     }
 }
 
-inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object, std::int8_t variant) {
+inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object, std::int8_t variant,
+                          bool heard) {
     const mirk_variant_info &info = variant_info(object->tinfo);
     check_variant_count(info, variant);
     mirk_variant_entry &entry = info.entries[variant];
-    count(h, ctx_id, object->tinfo, &entry.num_created, 1);
-    count(h, ctx_id, object->tinfo, &entry.num_live, 1);
+    count(h, ctx_id, object->tinfo, &entry.num_created, 1, heard);
+    count(h, ctx_id, object->tinfo, &entry.num_live, 1, heard);
 }
 
 // What a type's objects have to say at their end.
@@ -92,8 +93,8 @@ inline bool end_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *objec
 }
 
 // The end of an object whose members are gone: counters, runtime entries, memory.
-[[gnu::noinline]] inline void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                         std::uint32_t free_it, const EndTexts &texts) {
+[[gnu::noinline, gnu::flatten]] inline void end_object(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                       std::uint32_t free_it, const EndTexts &texts) {
     constexpr std::uint8_t has_area_elsewhere = flag::state_tracked | flag::sttr_offset;
     if ((object->obj_flag & has_area_elsewhere) == has_area_elsewhere) mirklib_get_sttr_offset(h, ctx_id, object);
 
@@ -101,8 +102,9 @@ inline bool end_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *objec
     const mirk_variant_info &info = variant_info(object->tinfo);
     check_variant_count(info, object->variant);
     mirk_variant_entry &entry = info.entries[cap_variant(object->variant)];
-    count(h, ctx_id, object->tinfo, &entry.num_destroyed, 1);
-    count(h, ctx_id, object->tinfo, &entry.num_live, -1);
+    const bool heard = is_heard(h);
+    count(h, ctx_id, object->tinfo, &entry.num_destroyed, 1, heard);
+    count(h, ctx_id, object->tinfo, &entry.num_live, -1, heard);
 
     if ((object->obj_flag & (flag::ra_data | flag::sttr_offset)) != 0 && h->oid_mapping != 0) {
         std::uint32_t error = 0;

@@ -23,21 +23,22 @@ constinit SentinelStorage<R> sentinel_of{};
     return nullptr;
 }
 
-// All of an initialize but the members. False: these stay as they are. What the instance
-// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
-bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                         std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
-                         void *&sttr_base, void *&announced_area, std::uint32_t *err) {
-    if (!begin(h, err)) return false;
-    const std::int8_t variant = set_header(h, ctx_id, object, type, notify, flags, err);
-    if (tracks(h)) {
-        if (notify != 0) announce(h, ctx_id, &object->obj_flag);
+// Told nothing and tracking nothing, which is the usual case, takes a copy of its own where the runtime is known.
+template <bool plain>
+[[gnu::always_inline]] inline bool set_up(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                          mirk_type_info *type, bool notify, bool skip_count, std::uint8_t flags,
+                                          std::uint32_t base_size, void *&sttr_base, void *&announced_area,
+                                          std::uint32_t *err) {
+    const std::int8_t variant = set_header(h, ctx_id, object, type, notify && !plain, flags, err);
+    const bool tracked = !plain && tracks(h);
+    if (tracked) {
+        if (notify) announce(h, ctx_id, &object->obj_flag);
         object->obj_flag |= flag::state_tracked;
     }
-    if (skip_count != 0) return true;
-    count_created(h, ctx_id, object, variant);
+    if (skip_count) return true;
+    count_created(h, ctx_id, object, variant, !plain);
     *err = 0;  // drops an error of the look-up: it shows at the first gate instead
-    if (!tracks(h)) return true;
+    if (!tracked) return true;
 
     const bool nested = (object->obj_flag & flag::nested) != 0;
     const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
@@ -52,6 +53,20 @@ bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
     if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + base_size;
     if (!nested || has_offset) announced_area = has_offset ? offset_area : sttr_base;
     return true;
+}
+
+// All of an initialize but the members. False: these stay as they are. What the instance
+// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
+[[gnu::flatten]] bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                          mirk_type_info *type, std::uint32_t notify, std::uint32_t skip_count,
+                                          std::uint8_t flags, std::uint32_t base_size, void *&sttr_base,
+                                          void *&announced_area, std::uint32_t *err) {
+    if (!begin(h, err)) return false;
+    const bool plain = !is_heard(h) && h->sttr_desc == nullptr;
+    return plain ? set_up<true>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,
+                                announced_area, err)
+                 : set_up<false>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,
+                                 announced_area, err);
 }
 
 struct ReferenceTexts {

@@ -78,8 +78,8 @@ inline void check_type(const mirk_type_info *type,
 
 // Counters of the module's own records are shared by all handles; those of a private copy belong to one.
 inline void count(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type, std::uint64_t *counter,
-                  std::int64_t delta) {
-    h->count_notify(h->mem_ctx, counter, delta, ctx_id);
+                  std::int64_t delta, bool heard) {
+    if (heard) h->count_notify(h->mem_ctx, counter, delta, ctx_id);
     const auto change = static_cast<std::uint64_t>(delta);
     if (type->plain_counters != 0) {
         *counter += change;

@@ -167,13 +167,6 @@ template <const Record &R, class Visit>
     });
 }
 
-// Whether this runtime is compiled as one with the library, so that its primitives are known where they are called.
-#ifdef TARN_RUNTIME_INSIDE
-inline constexpr bool runtime_inside = true;
-#else
-inline constexpr bool runtime_inside = false;
-#endif
-
 // Integers at any depth.
 constexpr bool all_integers(const Record &record) {
     for (const Member &m : record.members) {

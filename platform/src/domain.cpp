@@ -11,10 +11,10 @@ const mirk::Handle &configured(const mirk_domain *domain) {
 }
 
 [[gnu::noinline]] int8_t look_up_variant(mirk::Handle &handle, const mirk::Handle &domain, mirk_type_info *type,
-                                         uint32_t failure, uint32_t *err) {
+                                         uint32_t *err) {
     int8_t variant = 0;
-    if (failure != 0) {
-        *err = failure;
+    if (const uint32_t number = handle.failure(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP); number != 0) {
+        *err = number;
     } else if (type != nullptr) {
         const auto found = domain.variants.find(mirk::luid_from(type->luid));
         if (found != domain.variants.end()) variant = found->second;
@@ -29,9 +29,8 @@ extern "C" {
 
 // Asked for each frame that is written and each object that is made, and mostly by handles of which nothing was said.
 int8_t mirk_domain_lookup_variant(mirk_handle *h, mirk_domain *domain, mirk_type_info *type, uint32_t *err) {
-    const uint32_t number = own(h)->failure(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP);
-    if (number == 0 && own(h)->hook == nullptr && configured(domain).variants.empty()) return 0;
-    return look_up_variant(*own(h), configured(domain), type, number, err);
+    if (domain == &h->domain && mirk::looks_up_nothing(*own(h))) return 0;
+    return look_up_variant(*own(h), configured(domain), type, err);
 }
 
 uint32_t mirk_domain_lookup_message_ok(mirk_handle *h, mirk_domain *domain, mirk_type_info *type, uint32_t *err) {

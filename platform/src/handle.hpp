@@ -100,7 +100,10 @@ struct References {
     std::map<uintptr_t, std::vector<void *>> held_by_address;  // by ip_address
     uintptr_t last_oid = 0;
 
-    void forget(const void *block, size_t size);
+    void forget(const void *block, size_t size) {
+        if (!oid_of.empty() || !held_by_address.empty()) forget_known(block, size);
+    }
+    void forget_known(const void *block, size_t size);
 };
 
 struct TextHash {
@@ -164,14 +167,39 @@ inline Handle *own(mirk_handle *h) { return static_cast<Handle *>(h); }
 inline bool tracks(const mirk_handle *h) { return h->sttr_desc != nullptr && h->sttr_desc->sttr_mode == tracking_on; }
 
 // memory.cpp
+extern "C" int mirk_own_write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id);
+extern "C" int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id);
 void memory_callbacks(Handle &handle);
 void *keep_for_life(Handle &handle, size_t size);  // zeroed; null without memory
 
+// Programs may put notifications of their own into a handle. Ours only pass on to the hook.
+inline bool is_heard(const mirk_handle *h) {
+    return h->write_notify != mirk_own_write_notify || h->count_notify != mirk_own_count_notify ||
+           static_cast<const Handle *>(h)->hook != nullptr;
+}
+inline void announce(mirk_handle *h, uint32_t ctx_id, void *member, size_t size) {
+    if (is_heard(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
+}
+
+// Where the domain says nothing of any type, and nobody hears that it is asked, each variant is 0. The look-up counts.
+inline bool looks_up_nothing(Handle &handle) {
+    OperationFailure &failure = handle.operation_failures[MIRK_PLATFORM_TESTING_VARIANT_LOOKUP];
+    if (failure.count != 0 || handle.hook != nullptr) return false;
+    if (!static_cast<const Handle *>(handle.domain.opaque[0])->variants.empty()) return false;
+    ++failure.calls;
+    return true;
+}
+
 // types.cpp
 void type_store_callbacks(Handle &handle);
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta);
+void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool heard);
 mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant);  // of a negative variant too
 void runtime_types_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
+
+// The record that an object of the runtime's own types points to.
+inline mirk_type_info *bind_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
+    return h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, type, runtime_types_initialize) : type;
+}
 
 // embedded.cpp: what booleans and addresses share
 void set_header(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mirk_type_info *type, uint32_t notify,

@@ -66,16 +66,6 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     std::free(p);
 }
 
-static int write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id) {
-    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_WRITE_NOTIFY, address, size, 0, ctx_id);
-    return 0;
-}
-
-static int count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id) {
-    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_COUNT_NOTIFY, address, 8, delta, ctx_id);
-    return 0;
-}
-
 static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
     auto &handle = *static_cast<Handle *>(sys_ctx);
     void *block =
@@ -93,8 +83,8 @@ void memory_callbacks(Handle &handle) {
     handle.sys_alloc = sys_alloc;
     handle.obj_alloc = obj_alloc;
     handle.obj_free = obj_free;
-    handle.write_notify = write_notify;
-    handle.count_notify = count_notify;
+    handle.write_notify = mirk_own_write_notify;
+    handle.count_notify = mirk_own_count_notify;
     handle.mem_ctx = &handle;
     handle.sys_ctx = &handle;
 }
@@ -114,6 +104,19 @@ void *keep_for_life(Handle &handle, size_t size) {
 }  // namespace mirk
 
 extern "C" {
+
+int mirk_own_write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id) {
+    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_WRITE_NOTIFY, address, size, 0, ctx_id);
+    return 0;
+}
+
+int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id) {
+    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_COUNT_NOTIFY, address, 8, delta, ctx_id);
+    return 0;
+}
+
+// For a library that is compiled as one program with this runtime.
+bool mirk_inside_is_heard(const mirk_handle *h) { return mirk::is_heard(h); }
 
 void *mirklib_malloc(void *, uint32_t, size_t size) {
     {

@@ -54,23 +54,38 @@ void for_each_member(Address &address, Visit visit) {
     for (auto &word : address.word) visit(word);
 }
 
-// A frame with nothing out of the ordinary.
-void put_plain_frame(uint8_t *to, const ip_address &address) {
-    to[0] = 0;
-    to[1] = 0;
-    mirk::put_big_endian<uint32_t>(to + 2, frame_overhead - 2 + body_size);
-    to += frame_overhead;
-    for_each_member(address, [&](auto &member) {
-        mirk::put_big_endian(to, member);
-        to += sizeof member;
-    });
-}
-
 bool can_start(mirk_handle *h, const void *buffer, const void *field, int32_t remaining, uint32_t *err) {
     if (!mirk::can_move(buffer, field, 0, 0, err)) return false;
     mirk_clear_last_error(h);
     if (remaining < 1) fail(h, err, ENOMEM);
     return *err == 0;
+}
+
+// Nearly all frames: neither states nor RA data, variant 0, all of it there, and nobody who hears of its making.
+constexpr uint32_t usual_frame_size = frame_overhead + body_size;
+constexpr uint8_t usual_head[frame_overhead] = {0, 0, 0, 0, 0, usual_frame_size - 2};
+
+bool is_usual(const mirk_handle *h, const void *buffer, const ip_address *field, int32_t remaining,
+              const uint32_t *err) {
+    return *err == 0 && buffer != nullptr && field != nullptr && remaining >= static_cast<int32_t>(usual_frame_size) &&
+           h->sttr_desc == nullptr && static_cast<const mirk::Handle *>(h)->hook == nullptr;
+}
+
+void put_usual_frame(uint8_t *to, const ip_address &address) {
+    std::memcpy(to, usual_head, sizeof usual_head);
+    to += sizeof usual_head;
+    for_each_member(address, [&](const auto &member) {
+        mirk::put_big_endian(to, member);
+        to += sizeof member;
+    });
+}
+
+void get_usual_members(const uint8_t *from, ip_address *address) {
+    from += sizeof usual_head;
+    for_each_member(*address, [&]<typename T>(T &member) {
+        member = mirk::get_big_endian<T>(from);
+        from += sizeof member;
+    });
 }
 
 // Removes the oid mapping. False ends the destruction here.
@@ -93,149 +108,8 @@ bool give_up_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
     return true;
 }
 
-}  // namespace
-
-extern "C" {
-
-ip_address *ip_address_get(mirk_handle *, uint32_t, ip_address *field, uint32_t *err) {
-    return *err != 0 ? nullptr : field;
-}
-
-void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip_address *source, uint32_t *err) {
-    if (*err != 0) return;
-    mirklib_adjust_variant(h, ctx_id, destination, destination != nullptr ? destination->tinfo : nullptr, 0, err);
-    if (destination == nullptr || source == nullptr) {
-        fail(h, err, EINVAL);
-        return;
-    }
-    if (destination == source) return;
-    const uint8_t own_flag = destination->obj_flag;
-    h->write_notify(h->mem_ctx, destination, sizeof *destination, ctx_id);
-    std::memcpy(destination, source, sizeof *destination);
-    destination->obj_flag |= mirk::modified;
-    if (h->sttr_desc == nullptr) return;
-    constexpr uint8_t offset_bit = mirk::has_sttr_offset;
-    destination->obj_flag = static_cast<uint8_t>((destination->obj_flag & ~offset_bit) | (own_flag & offset_bit));
-    if (!tracking(h)) return;
-    if ((own_flag & mirk::state_tracked) == 0) {
-        // No state area to copy into, whatever the copied flag says.
-        destination->obj_flag &= static_cast<uint8_t>(~mirk::state_tracked);
-    }
-    if ((destination->obj_flag & mirk::state_tracked) == 0) {
-        fail(h, err, EINVAL);
-        trace(3, "(ERR): The object is not state tracked");
-        return;
-    }
-    std::memmove(state_area(h, ctx_id, destination), state_area(h, ctx_id, source), state_width);
-}
-
-void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type, uint32_t notify,
-                           uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err) {
-    if (*err != 0) return;
-    if (object == nullptr) {
-        *err = EINVAL;
-        return;
-    }
-    mirk_clear_last_error(h);
-    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
-    const bool tracked = tracking(h);
-    if (tracked) {
-        if (notify != 0) h->write_notify(h->mem_ctx, &object->obj_flag, 1, ctx_id);
-        object->obj_flag |= mirk::state_tracked;
-    }
-    if (skip_count != 0) return;
-    mirk::count_created(h, ctx_id, header(object), err);
-    if (!tracked) return;
-    if ((object->obj_flag & mirk::nested) != 0 && sttr_base == nullptr) {
-        fail(h, err, EINVAL);
-        trace(3,
-              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the correct "
-              "state tracking base pointer");
-        return;
-    }
-    if ((object->obj_flag & mirk::has_sttr_offset) != 0) mirklib_get_sttr_offset(h, ctx_id, object);
-}
-
-void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
-    mirk::set_embedded(h, ctx_id, reinterpret_cast<mirk_object *>(object));
-}
-
-void ip_address_destroy_internal(mirk_handle *h, uint32_t ctx_id, ip_address *object, uint32_t free_it) {
-    if (object == nullptr) return;
-    if ((object->obj_flag & mirk::oid_mapped) != 0 && !give_up_oid(h, ctx_id, object)) return;
-    constexpr uint8_t placed = mirk::state_tracked | mirk::has_sttr_offset;
-    if ((object->obj_flag & placed) == placed) mirklib_get_sttr_offset(h, ctx_id, object);
-    mirk_type_info *type = object->tinfo;
-    if (type == nullptr || type->magic != mirk::type_magic) mirk::fatal("(FATAL): tinfo is null or corrupted");
-    if (type->variant_info == nullptr) mirk::fatal("(FATAL): varinfo is NULL");
-    mirk_variant_entry *entry = mirk::variant_entry(type, object->variant);
-    mirk::count(h, ctx_id, type, &entry->num_destroyed, 1);
-    mirk::count(h, ctx_id, type, &entry->num_live, -1);
-    if ((object->obj_flag & (mirk::has_ra_data | mirk::has_sttr_offset)) != 0 && h->oid_mapping != 0) {
-        uint32_t err = 0;
-        mirk_hd_mapping_destroy(h, ctx_id, object, &err);
-        if (err != 0) {
-            skald_wrapper(mirk::trace_module(), 3, 0,
-                          "(ERR): ip_address destroy: Failed to remove oid mapping for object. Error %s",
-                          std::strerror(static_cast<int>(err)));
-            mirk_store_err(h, err);
-            return;
-        }
-    }
-    if (free_it == 0) return;
-    h->write_notify(h->mem_ctx, &object->tinfo, sizeof object->tinfo, ctx_id);
-    object->tinfo = nullptr;
-    h->obj_free(h->mem_ctx, ctx_id, object);
-}
-
-// Nothing is embedded in an address, so there is nothing to give a place to or to take it from.
-void ip_address_offset_update(mirk_handle *, uint32_t, ip_address *, void *, uint32_t *) {}
-void ip_address_offset_remove(mirk_handle *, uint32_t, ip_address *, uint32_t *) {}
-
-uint32_t ip_address_get_oid_count(mirk_handle *h, uint32_t, ip_address *object, uint32_t *err) {
-    if (*err != 0) {
-        trace(3, "(ERR): Error already present in call to get object oid count");
-        return 0;
-    }
-    if (object == nullptr) {
-        trace(3, "(ERR): Invalid object passed in to get object oid count");
-        fail(h, err, EINVAL);
-        return 0;
-    }
-    const auto &held = mirk::own(h)->references.held_by_address;
-    if (held.empty()) return 0;
-    const auto found = held.find(mirk::address_of(object));
-    return found == held.end() ? 0 : static_cast<uint32_t>(found->second.size());
-}
-
-void ip_address_get_object_references(mirk_handle *h, uint32_t, ip_address *object, void **oids, uint32_t size,
-                                      uint32_t *err) {
-    if (*err != 0) {
-        trace(3, "(ERR): Error present in call to get table references from object");
-        return;
-    }
-    if (object == nullptr) {
-        trace(3, "(ERR): Cannot get table references. Invalid object passed on");
-        fail(h, err, EINVAL);
-        return;
-    }
-    *err = mirk::own(h)->failure(MIRK_PLATFORM_TESTING_OBJECT_REFERENCES);
-    if (*err != 0 || oids == nullptr) return;
-    const auto &held = mirk::own(h)->references.held_by_address;
-    const auto found = held.find(mirk::address_of(object));
-    if (found == held.end()) return;
-    for (uint32_t i = 0; i < size && i < found->second.size(); ++i) oids[i] = found->second[i];
-}
-
-uint32_t ip_address_len(mirk_handle *h, uint32_t, ip_address *field) {
-    if (field == nullptr) return frame_overhead + body_size;
-    const bool tracked = tracking(h);
-    if (field->variant < 0) return frame_overhead;
-    return frame_overhead + body_size + (tracked ? state_width : 0);
-}
-
-uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
-                            uint32_t *err) {
+[[gnu::noinline]] uint32_t marshal_any(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field,
+                                       int32_t remaining, uint32_t *err) {
     if (!can_start(h, buffer, field, remaining, err)) return 0;
     auto *bytes = static_cast<uint8_t *>(buffer);
     const auto size = static_cast<uint32_t>(remaining);
@@ -249,11 +123,6 @@ uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_ad
         variant = allowed;
     }
     if (variant > 0) variant = 0;
-    if (*err == 0 && variant == 0 && !tracking(h) && (field->obj_flag & mirk::has_ra_data) == 0 &&
-        remaining >= static_cast<int32_t>(frame_overhead + body_size)) {
-        put_plain_frame(bytes, *field);
-        return frame_overhead + body_size;
-    }
     offset += _mirk_instance_variant_marshal(h, ctx_id, bytes, &variant, left(), err);
 
     uint8_t flag = field->obj_flag;
@@ -290,8 +159,8 @@ uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_ad
     return offset;
 }
 
-uint32_t ip_address_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
-                              uint32_t, uint32_t *err) {
+[[gnu::noinline]] uint32_t unmarshal_any(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field,
+                                         int32_t remaining, uint32_t *err) {
     if (!can_start(h, buffer, field, remaining, err)) return 0;
     auto *bytes = static_cast<uint8_t *>(buffer);
     const auto size = static_cast<uint32_t>(remaining);
@@ -344,16 +213,180 @@ uint32_t ip_address_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_
     }
     field->variant = variant;
     field->obj_flag |= flag;
-    field->tinfo = h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, &_ip_address_type_info_internal,
-                                                                  mirk::runtime_types_initialize)
-                                         : &_ip_address_type_info_internal;
+    field->tinfo = mirk::bind_type(h, ctx_id, &_ip_address_type_info_internal);
     return offset;
+}
+
+}  // namespace
+
+extern "C" {
+
+ip_address *ip_address_get(mirk_handle *, uint32_t, ip_address *field, uint32_t *err) {
+    return *err != 0 ? nullptr : field;
+}
+
+void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip_address *source, uint32_t *err) {
+    if (*err != 0) return;
+    mirklib_adjust_variant(h, ctx_id, destination, destination != nullptr ? destination->tinfo : nullptr, 0, err);
+    if (destination == nullptr || source == nullptr) {
+        fail(h, err, EINVAL);
+        return;
+    }
+    if (destination == source) return;
+    const uint8_t own_flag = destination->obj_flag;
+    mirk::announce(h, ctx_id, destination, sizeof *destination);
+    std::memcpy(destination, source, sizeof *destination);
+    destination->obj_flag |= mirk::modified;
+    if (h->sttr_desc == nullptr) return;
+    constexpr uint8_t offset_bit = mirk::has_sttr_offset;
+    destination->obj_flag = static_cast<uint8_t>((destination->obj_flag & ~offset_bit) | (own_flag & offset_bit));
+    if (!tracking(h)) return;
+    if ((own_flag & mirk::state_tracked) == 0) {
+        // No state area to copy into, whatever the copied flag says.
+        destination->obj_flag &= static_cast<uint8_t>(~mirk::state_tracked);
+    }
+    if ((destination->obj_flag & mirk::state_tracked) == 0) {
+        fail(h, err, EINVAL);
+        trace(3, "(ERR): The object is not state tracked");
+        return;
+    }
+    std::memmove(state_area(h, ctx_id, destination), state_area(h, ctx_id, source), state_width);
+}
+
+[[gnu::flatten]] void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type,
+                                            uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base,
+                                            uint32_t *err) {
+    if (*err != 0) return;
+    if (object == nullptr) {
+        *err = EINVAL;
+        return;
+    }
+    mirk_clear_last_error(h);
+    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
+    const bool tracked = tracking(h);
+    if (tracked) {
+        if (notify != 0) mirk::announce(h, ctx_id, &object->obj_flag, 1);
+        object->obj_flag |= mirk::state_tracked;
+    }
+    if (skip_count != 0) return;
+    mirk::count_created(h, ctx_id, header(object), err);
+    if (!tracked) return;
+    if ((object->obj_flag & mirk::nested) != 0 && sttr_base == nullptr) {
+        fail(h, err, EINVAL);
+        trace(3,
+              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the correct "
+              "state tracking base pointer");
+        return;
+    }
+    if ((object->obj_flag & mirk::has_sttr_offset) != 0) mirklib_get_sttr_offset(h, ctx_id, object);
+}
+
+void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
+    mirk::set_embedded(h, ctx_id, reinterpret_cast<mirk_object *>(object));
+}
+
+[[gnu::flatten]] void ip_address_destroy_internal(mirk_handle *h, uint32_t ctx_id, ip_address *object,
+                                                  uint32_t free_it) {
+    if (object == nullptr) return;
+    if ((object->obj_flag & mirk::oid_mapped) != 0 && !give_up_oid(h, ctx_id, object)) return;
+    constexpr uint8_t placed = mirk::state_tracked | mirk::has_sttr_offset;
+    if ((object->obj_flag & placed) == placed) mirklib_get_sttr_offset(h, ctx_id, object);
+    mirk_type_info *type = object->tinfo;
+    if (type == nullptr || type->magic != mirk::type_magic) mirk::fatal("(FATAL): tinfo is null or corrupted");
+    if (type->variant_info == nullptr) mirk::fatal("(FATAL): varinfo is NULL");
+    mirk_variant_entry *entry = mirk::variant_entry(type, object->variant);
+    const bool heard = mirk::is_heard(h);
+    mirk::count(h, ctx_id, type, &entry->num_destroyed, 1, heard);
+    mirk::count(h, ctx_id, type, &entry->num_live, -1, heard);
+    if ((object->obj_flag & (mirk::has_ra_data | mirk::has_sttr_offset)) != 0 && h->oid_mapping != 0) {
+        uint32_t err = 0;
+        mirk_hd_mapping_destroy(h, ctx_id, object, &err);
+        if (err != 0) {
+            skald_wrapper(mirk::trace_module(), 3, 0,
+                          "(ERR): ip_address destroy: Failed to remove oid mapping for object. Error %s",
+                          std::strerror(static_cast<int>(err)));
+            mirk_store_err(h, err);
+            return;
+        }
+    }
+    if (free_it == 0) return;
+    mirk::announce(h, ctx_id, &object->tinfo, sizeof object->tinfo);
+    object->tinfo = nullptr;
+    h->obj_free(h->mem_ctx, ctx_id, object);
+}
+
+// Nothing is embedded in an address, so there is nothing to give a place to or to take it from.
+void ip_address_offset_update(mirk_handle *, uint32_t, ip_address *, void *, uint32_t *) {}
+void ip_address_offset_remove(mirk_handle *, uint32_t, ip_address *, uint32_t *) {}
+
+uint32_t ip_address_get_oid_count(mirk_handle *h, uint32_t, ip_address *object, uint32_t *err) {
+    if (*err != 0) {
+        trace(3, "(ERR): Error already present in call to get object oid count");
+        return 0;
+    }
+    if (object == nullptr) {
+        trace(3, "(ERR): Invalid object passed in to get object oid count");
+        fail(h, err, EINVAL);
+        return 0;
+    }
+    const auto &held = mirk::own(h)->references.held_by_address;
+    if (held.empty()) return 0;
+    const auto found = held.find(mirk::address_of(object));
+    return found == held.end() ? 0 : static_cast<uint32_t>(found->second.size());
+}
+
+void ip_address_get_object_references(mirk_handle *h, uint32_t, ip_address *object, void **oids, uint32_t size,
+                                      uint32_t *err) {
+    if (*err != 0) {
+        trace(3, "(ERR): Error present in call to get table references from object");
+        return;
+    }
+    if (object == nullptr) {
+        trace(3, "(ERR): Cannot get table references. Invalid object passed on");
+        fail(h, err, EINVAL);
+        return;
+    }
+    *err = mirk::own(h)->failure(MIRK_PLATFORM_TESTING_OBJECT_REFERENCES);
+    if (*err != 0 || oids == nullptr) return;
+    const auto &held = mirk::own(h)->references.held_by_address;
+    const auto found = held.find(mirk::address_of(object));
+    if (found == held.end()) return;
+    for (uint32_t i = 0; i < size && i < found->second.size(); ++i) oids[i] = found->second[i];
+}
+
+uint32_t ip_address_len(mirk_handle *h, uint32_t, ip_address *field) {
+    if (field == nullptr) return frame_overhead + body_size;
+    const bool tracked = tracking(h);
+    if (field->variant < 0) return frame_overhead;
+    return frame_overhead + body_size + (tracked ? state_width : 0);
+}
+
+uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
+                            uint32_t *err) {
+    const bool usual = is_usual(h, buffer, field, remaining, err) && field->variant == 0 &&
+                       (field->obj_flag & mirk::has_ra_data) == 0 && mirk::looks_up_nothing(*mirk::own(h));
+    if (!usual) return marshal_any(h, ctx_id, buffer, field, remaining, err);
+    h->last_error = 0;
+    put_usual_frame(static_cast<uint8_t *>(buffer), *field);
+    return usual_frame_size;
+}
+
+uint32_t ip_address_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
+                              uint32_t, uint32_t *err) {
+    const bool usual =
+        is_usual(h, buffer, field, remaining, err) && std::memcmp(buffer, usual_head, sizeof usual_head) == 0;
+    if (!usual) return unmarshal_any(h, ctx_id, buffer, field, remaining, err);
+    h->last_error = 0;
+    get_usual_members(static_cast<const uint8_t *>(buffer), field);
+    field->variant = 0;
+    field->tinfo = mirk::bind_type(h, ctx_id, &_ip_address_type_info_internal);
+    return usual_frame_size;
 }
 
 uint32_t ip_address_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, ip_address *field,
                           int32_t remaining, uint32_t *err) {
     if (!mirk::can_move(buffer, field, 0, 0, err)) return 0;
-    return mirk::print_line(buffer, indent, name, "ip_address", mirk::AddressText(*field).view(), remaining, err);
+    return mirk::print_line(buffer, indent, name, "@ip_address:", mirk::AddressText(*field).view(), remaining, err);
 }
 
 uint32_t ip_address_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, ip_address *field,

@@ -13,7 +13,7 @@ void store(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const uint8_t *
         *err = 22;
         return;
     }
-    h->write_notify(h->mem_ctx, &field->value, sizeof field->value, ctx_id);
+    mirk::announce(h, ctx_id, &field->value, sizeof field->value);
     field->value = *value;
     field->obj_flag |= mirk::modified;
 }
@@ -43,8 +43,9 @@ void mirk_boolean_set_value(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field
 }
 
 // A boolean has no state area of its own, hence no look at the tracking mode and no use for sttr_base.
-void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object, mirk_type_info *type,
-                             uint32_t notify, uint32_t skip_count, uint8_t flags, void *, uint32_t *err) {
+[[gnu::flatten]] void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object,
+                                              mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags,
+                                              void *, uint32_t *err) {
     if (*err != 0) return;
     if (object == nullptr) {
         *err = 22;
@@ -83,7 +84,7 @@ uint32_t mirk_boolean_unmarshal(mirk_handle *, uint32_t, void *buffer, mirk_bool
 uint32_t mirk_boolean_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name,
                             mirk_boolean *field, int32_t remaining, uint32_t *err) {
     if (!mirk::can_move(buffer, field, 0, 0, err)) return 0;
-    return mirk::print_line(buffer, indent, name, "mirk_boolean", text_of(*field), remaining, err);
+    return mirk::print_line(buffer, indent, name, "@mirk_boolean:", text_of(*field), remaining, err);
 }
 
 uint32_t mirk_boolean_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, mirk_boolean *field,

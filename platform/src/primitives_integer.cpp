@@ -18,13 +18,13 @@ void store(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t 
         *err = 22;
         return;
     }
-    h->write_notify(h->mem_ctx, field, sizeof(T), ctx_id);
+    mirk::announce(h, ctx_id, field, sizeof(T));
     *field = *source;
 }
 
 template <typename T>
-uint32_t print(char *buffer, uint32_t indent, const char *name, const char *kind, const T *field, int32_t remaining,
-               uint32_t *err) {
+[[gnu::always_inline]] inline uint32_t print(char *buffer, uint32_t indent, const char *name, std::string_view kind,
+                                             const T *field, int32_t remaining, uint32_t *err) {
     if (!mirk::can_move(buffer, field, 0, 0, err)) return 0;
     return mirk::print_line(buffer, indent, name, kind, mirk::Decimal(*field).view(), remaining, err);
 }
@@ -76,7 +76,7 @@ uint32_t take_mark(mirk_handle *h, const void *field) {
     }                                                                                                             \
     uint32_t K##_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, T *field,        \
                        int32_t remaining, uint32_t *err) {                                                        \
-        return print<T>(buffer, indent, name, #K, field, remaining, err);                                         \
+        return print<T>(buffer, indent, name, "@" #K ":", field, remaining, err);                                 \
     }                                                                                                             \
     uint32_t K##_to_xml(mirk_handle *, uint32_t, const char *name, char *buffer, T *field, int32_t remaining,     \
                         uint8_t state, uint32_t *err) {                                                           \

@@ -5,7 +5,7 @@ using mirk::own;
 
 namespace mirk {
 
-void References::forget(const void *block, size_t size) {
+void References::forget_known(const void *block, size_t size) {
     const uintptr_t begin = address_of(block);
     const uintptr_t end = begin + (size == 0 ? 1 : size);
     if (!oid_of.empty()) {

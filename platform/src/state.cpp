@@ -36,7 +36,7 @@ void mirklib_adjust_variant(mirk_handle *h, uint32_t ctx_id, void *object, mirk_
     const int8_t variant = mirk_domain_lookup_variant(h, &h->domain, tinfo, err);
     int8_t &stored = object_at(object)->variant;
     if (*err != 0 || stored == variant) return;
-    h->write_notify(h->mem_ctx, &stored, sizeof stored, ctx_id);
+    mirk::announce(h, ctx_id, &stored, sizeof stored);
     stored = variant;
 }
 

@@ -8,20 +8,6 @@
 
 namespace mirk {
 
-uint32_t print_line(char *buffer, uint32_t indent, const char *name, std::string_view kind, std::string_view value,
-                    int32_t remaining, uint32_t *err) {
-    const std::string_view own = text_or_empty(name);
-    return write_whole(buffer, remaining, err, [&](TextSink &sink) {
-        sink.blanks(indent);
-        sink.put(own);
-        sink.put("@");
-        sink.put(kind);
-        sink.put(":");
-        sink.put(value);
-        sink.put("\n");
-    });
-}
-
 uint32_t print_element(char *buffer, const char *name, uint8_t state, std::string_view value, int32_t remaining,
                        uint32_t *err) {
     const std::string_view own = text_or_empty(name);

@@ -3,15 +3,13 @@
 
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
+#include <type_traits>
 
 #include "contract.hpp"
 
 namespace mirk {
-
-// "name@kind:VALUE" behind `indent` blanks, with a line end and an uncounted NUL; whole or not at all.
-uint32_t print_line(char *buffer, uint32_t indent, const char *name, std::string_view kind, std::string_view value,
-                    int32_t remaining, uint32_t *err);
 
 // "<name>VALUE</name>" with an uncounted NUL, the opening tag showing a nonzero state; whole or not at all.
 uint32_t print_element(char *buffer, const char *name, uint8_t state, std::string_view value, int32_t remaining,
@@ -25,9 +23,37 @@ public:
     std::string_view view() const { return {digits_, length_}; }
 
 private:
-    char digits_[20] = {};
+    char digits_[20];
     size_t length_;
 };
+
+// Copies what is mostly short, such as names and numbers: two moves that may overlap take less than a call. Returns
+// where the copy ends.
+[[gnu::always_inline]] inline char *copy_short(char *to, std::string_view text) {
+    const char *from = text.data();
+    const size_t size = text.size();
+    const auto both_ends = [&]<size_t width>(std::integral_constant<size_t, width>) {
+        char head[width], tail[width];
+        std::memcpy(head, from, width);
+        std::memcpy(tail, from + size - width, width);
+        std::memcpy(to, head, width);
+        std::memcpy(to + size - width, tail, width);
+    };
+    if (size > 32) {
+        std::memcpy(to, from, size);
+    } else if (size >= 16) {
+        both_ends(std::integral_constant<size_t, 16>());
+    } else if (size >= 8) {
+        both_ends(std::integral_constant<size_t, 8>());
+    } else if (size >= 4) {
+        both_ends(std::integral_constant<size_t, 4>());
+    } else if (size >= 2) {
+        both_ends(std::integral_constant<size_t, 2>());
+    } else if (size == 1) {
+        *to = *from;
+    }
+    return to + size;
+}
 
 // Text that is measured first and written afterwards, so that it goes out whole or not at all: the same walk runs
 // twice, the first time without a buffer.
@@ -67,11 +93,38 @@ uint32_t write_whole(char *buffer, int32_t remaining, uint32_t *err, Walk walk) 
     return static_cast<uint32_t>(written.length());
 }
 
+inline std::string_view text_or_empty(const char *text) { return text != nullptr ? std::string_view(text) : ""; }
+
+// "name@kind:VALUE" behind `indent` blanks, with a line end and an uncounted NUL; whole or not at all. Most of a text
+// is such lines, so what is known where the line is written, as its "@kind:" is, should be known here.
+[[gnu::always_inline]] inline uint32_t print_line(char *buffer, uint32_t indent, const char *name,
+                                                  std::string_view kind, std::string_view value, int32_t remaining,
+                                                  uint32_t *err) {
+    constexpr std::string_view blanks = "                                ";
+    const std::string_view own = text_or_empty(name);
+    const uint64_t length = uint64_t{indent} + own.size() + kind.size() + value.size() + 1;
+    if (remaining < 0 || length + 1 > static_cast<uint64_t>(remaining)) {
+        *err = 90;
+        return 0;
+    }
+    char *to = buffer;
+    if (indent <= blanks.size()) {
+        to = copy_short(to, blanks.substr(0, indent));
+    } else {
+        std::memset(to, ' ', indent);
+        to += indent;
+    }
+    to = copy_short(to, own);
+    std::memcpy(to, kind.data(), kind.size());
+    to = copy_short(to + kind.size(), value);
+    to[0] = '\n';
+    to[1] = 0;
+    return static_cast<uint32_t>(length);
+}
+
 // Writes the opening tag; `name` may carry attributes behind a blank.
 void put_start_tag(TextSink &sink, std::string_view name, uint8_t state);
 void put_end_tag(TextSink &sink, std::string_view name);
-
-inline std::string_view text_or_empty(const char *text) { return text != nullptr ? std::string_view(text) : ""; }
 
 // Without the blanks that XML knows, at both ends.
 inline std::string_view trimmed(std::string_view text) {

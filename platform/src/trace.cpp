@@ -105,6 +105,11 @@ void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *for
 }
 
 void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {
+    // Libraries announce their module with each object. Its state is ours: the number that the module has got.
+    if (module_id != nullptr && module_state != nullptr) {
+        const uint64_t known = __atomic_load_n(module_state, __ATOMIC_ACQUIRE);
+        if (known != 0 && __atomic_load_n(module_id, __ATOMIC_RELAXED) == known) return;
+    }
     Trace &t = trace();
     try {
         const std::lock_guard<std::mutex> hold(t.lock);
@@ -115,8 +120,8 @@ void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *modul
         }
         const uint16_t id = found != t.modules.end() ? found->second : uint16_t{0};
         // Every thread announces its modules and reads the number without a lock afterwards: it is written once.
-        if (module_id != nullptr && *module_id != id) *module_id = id;
-        if (module_state != nullptr && *module_state != id) *module_state = id;
+        if (module_id != nullptr && *module_id != id) __atomic_store_n(module_id, id, __ATOMIC_RELAXED);
+        if (module_state != nullptr) __atomic_store_n(module_state, id, __ATOMIC_RELEASE);
     } catch (...) {
         return;
     }

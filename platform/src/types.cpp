@@ -156,8 +156,8 @@ mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant) {
     return type->variant_info->entries + (variant > 0 ? 0 : variant);
 }
 
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta) {
-    h->count_notify(h->mem_ctx, counter, delta, ctx_id);
+void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool heard) {
+    if (heard) h->count_notify(h->mem_ctx, counter, delta, ctx_id);
     const auto step = static_cast<uint64_t>(delta);
     if (type->plain_counters != 0) {
         *counter += step;
