@@ -62,7 +62,7 @@ template <bool plain>
                                           std::uint8_t flags, std::uint32_t base_size, void *&sttr_base,
                                           void *&announced_area, std::uint32_t *err) {
     if (!begin(h, err)) return false;
-    const bool plain = !is_heard(h) && h->sttr_desc == nullptr;
+    const bool plain = !is_heard(h) && !tracks(h);
     return plain ? set_up<true>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,
                                 announced_area, err)
                  : set_up<false>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,

@@ -67,8 +67,9 @@ constexpr uint8_t usual_head[frame_overhead] = {0, 0, 0, 0, 0, usual_frame_size 
 
 bool is_usual(const mirk_handle *h, const void *buffer, const ip_address *field, int32_t remaining,
               const uint32_t *err) {
-    return *err == 0 && buffer != nullptr && field != nullptr && remaining >= static_cast<int32_t>(usual_frame_size) &&
-           h->sttr_desc == nullptr && static_cast<const mirk::Handle *>(h)->hook == nullptr;
+    const bool untracked = h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off;
+    return *err == 0 && buffer != nullptr && field != nullptr && untracked &&
+           remaining >= static_cast<int32_t>(usual_frame_size) && static_cast<const mirk::Handle *>(h)->hook == nullptr;
 }
 
 void put_usual_frame(uint8_t *to, const ip_address &address) {
