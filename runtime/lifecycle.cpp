@@ -23,22 +23,21 @@ constinit SentinelStorage<R> sentinel_of{};
     return nullptr;
 }
 
-// Told nothing and tracking nothing, which is the usual case, takes a copy of its own where the runtime is known.
-template <bool plain>
-[[gnu::always_inline]] inline bool set_up(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                          mirk_type_info *type, bool notify, bool skip_count, std::uint8_t flags,
-                                          std::uint32_t base_size, void *&sttr_base, void *&announced_area,
-                                          std::uint32_t *err) {
-    const std::int8_t variant = set_header(h, ctx_id, object, type, notify && !plain, flags, err);
-    const bool tracked = !plain && tracks(h);
-    if (tracked) {
-        if (notify) announce(h, ctx_id, &object->obj_flag);
+// All of an initialize but the members. False: these stay as they are. What the instance
+// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
+bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                         std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
+                         void *&sttr_base, void *&announced_area, std::uint32_t *err) {
+    if (!begin(h, err)) return false;
+    const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
+    if (tracks(h)) {
+        if (notify != 0) announce(h, ctx_id, &object->obj_flag);
         object->obj_flag |= flag::state_tracked;
     }
-    if (skip_count) return true;
-    count_created(h, ctx_id, object, variant, !plain);
+    if (skip_count != 0) return true;
+    count_created(h, ctx_id, object, variant, true);
     *err = 0;  // drops an error of the look-up: it shows at the first gate instead
-    if (!tracked) return true;
+    if (!tracks(h)) return true;
 
     const bool nested = (object->obj_flag & flag::nested) != 0;
     const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
@@ -55,18 +54,33 @@ template <bool plain>
     return true;
 }
 
-// All of an initialize but the members. False: these stay as they are. What the instance
-// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
-[[gnu::flatten]] bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                          mirk_type_info *type, std::uint32_t notify, std::uint32_t skip_count,
-                                          std::uint8_t flags, std::uint32_t base_size, void *&sttr_base,
-                                          void *&announced_area, std::uint32_t *err) {
-    if (!begin(h, err)) return false;
-    const bool plain = !is_heard(h) && !tracks(h);
-    return plain ? set_up<true>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,
-                                announced_area, err)
-                 : set_up<false>(h, ctx_id, object, type, notify != 0, skip_count != 0, flags, base_size, sttr_base,
-                                 announced_area, err);
+// The same where nobody is told and nothing is tracked, which with a known runtime is most of the work of a reading.
+[[gnu::noinline, gnu::flatten]] inline void initialize_quietly(mirk_handle *h, std::uint32_t ctx_id,
+                                                               mirk_object *object, mirk_type_info *type,
+                                                               std::uint8_t flags, std::uint32_t *err) {
+    mirk_clear_last_error(h);
+    const std::int8_t variant = set_header(h, ctx_id, object, type, false, flags, err);
+    count_created(h, ctx_id, object, variant, false);
+    *err = 0;
+}
+
+// A record with all records in it.
+template <const Record &R>
+[[gnu::always_inline]] inline void initialize_all_quietly(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                          std::uint8_t flags, void *sttr_base, std::uint32_t *err) {
+    initialize_quietly(h, ctx_id, object, &TypeInfo<R>::own, flags, err);
+    if constexpr (any_member<R>(schema::is_embedded)) {
+        StepErrors errors(h, err);
+        walk<R>([&]<class F>(F) {
+            if constexpr (F::kind == Kind::record) {
+                initialize_all_quietly<*F::member.record>(h, ctx_id, F::at(object), flag::nested, sttr_base,
+                                                          errors.next());
+            } else if constexpr (schema::is_embedded(F::member)) {
+                Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), 0, 0, flag::nested, sttr_base,
+                                         errors.next());
+            }
+        });
+    }
 }
 
 struct ReferenceTexts {
@@ -171,6 +185,12 @@ template <const Record &R>
 void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                               std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
                               std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (*err == 0 && skip_count == 0 && type == &TypeInfo<R>::own && !is_heard(h) && !tracks(h)) {
+            initialize_all_quietly<R>(h, ctx_id, object, flags, sttr_base, err);
+            return;
+        }
+    }
     void *announced_area = nullptr;
     const bool set_up = initialize_instance(h, ctx_id, object, type, notify, skip_count, flags,
                                             schema::layout<R>.base_size, sttr_base, announced_area, err);

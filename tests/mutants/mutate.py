@@ -6,7 +6,8 @@
 A mutant is one small error: a condition negated, a statement dropped, or a constant shifted by one. They are found in the
 syntax tree, in bodies of functions that run. What the compiler evaluates (constexpr, consteval, if constexpr, template
 arguments, static assertions) cannot be changed at run time and has none; an error there changes what is compiled, and the
-tests of the schema and of the surface look at that.
+tests of the schema and of the surface look at that. What only the archive compiles has none either, since it is the shared
+library that is tested.
 
 OUT gets the sources, runtime/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""
 import json
@@ -24,6 +25,10 @@ LOOPS = {Kind.WHILE_STMT, Kind.FOR_STMT}
 EXPRESSIONS = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR,
                Kind.UNEXPOSED_EXPR}
 COMPARISONS = {"==", "!=", "<", ">", "<=", ">="}
+# What is true in the archive alone, and the functions that nothing else calls.
+ARCHIVE_WORDS = re.compile(r"(!?)\b(?:runtime_inside|sure|stateless)\b")
+ARCHIVE_FUNCTIONS = {"run", "write_values", "write_unsure_frame", "read_values", "read_stateful", "initialize_quietly",
+                     "initialize_all_quietly"}
 INTEGERS = re.compile(r"(const )?(unsigned |signed )?(char|short|int|long|long long|bool)$")
 
 SWITCH_HEADER = """#pragma once
@@ -117,6 +122,8 @@ class Finder:
             self.file = self.file_of(cursor)
             if self.file is None or self.evaluated_by_compiler(cursor, r"[{]"):
                 return
+            if cursor.spelling in ARCHIVE_FUNCTIONS:
+                return
             for child in cursor.get_children():
                 # A macro's expansion has no text of its own.
                 if child.kind == Kind.COMPOUND_STMT and self.text(self.file)[child.extent.start.offset:][:1] == b"{":
@@ -143,12 +150,19 @@ class Finder:
         elif kind == Kind.CXX_FOR_RANGE_STMT:
             self.statement(children[-1], cursor, above)
         elif kind == Kind.IF_STMT:
-            if self.is_constexpr_if(cursor):
+            asked, *branches = (c for c in children if c.kind not in (Kind.DECL_STMT, Kind.VAR_DECL))
+            signs = self.archive_words(asked)
+            if signs:
+                # Only one side is there: the second, unless what the archive has is asked with a "not".
+                children = branches = branches[:1] if set(signs) == {"!"} else branches[1:]
+            elif self.is_constexpr_if(cursor):
                 children = children[1:]
             else:
                 self.condition(cursor)
-            for child in children[-2:]:
+            for child in branches:
                 self.statement(child, cursor, above)
+        elif self.archive_words(cursor) and kind in (Kind.CONDITIONAL_OPERATOR, Kind.BINARY_OPERATOR):
+            return
         elif kind == Kind.CONDITIONAL_OPERATOR:
             self.add("negate", *self.span(children[0]))
         elif kind == Kind.BINARY_OPERATOR and len(children) == 2:
@@ -170,6 +184,10 @@ class Finder:
 
     def between(self, left, right):
         return self.text(self.file)[left.extent.end.offset:right.extent.start.offset].decode().strip()
+
+    def archive_words(self, cursor):
+        start, end = self.span(cursor)
+        return ARCHIVE_WORDS.findall(self.text(self.file)[start:end].decode())
 
     def is_constexpr_if(self, cursor):
         start, end = self.span(cursor)
