@@ -19,11 +19,11 @@ bool same_at(const std::uint8_t *a, const std::uint8_t *b) {
 template <std::size_t Size>
 [[gnu::always_inline]] inline bool same_bytes(const void *left, const void *right) {
     const auto *a = static_cast<const std::uint8_t *>(left), *b = static_cast<const std::uint8_t *>(right);
-    constexpr std::size_t words = Size / 8 * 8;
+    constexpr std::size_t word = sizeof(std::uint64_t), words = Size / word * word;
     const auto same_words = [&]<std::size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-        return (same_at<std::uint64_t>(a + 8 * I, b + 8 * I) && ...);
+        return (same_at<std::uint64_t>(a + word * I, b + word * I) && ...);
     };
-    return same_words(std::make_index_sequence<Size / 8>{}) &&
+    return same_words(std::make_index_sequence<Size / word>{}) &&
            ((Size & 4) == 0 || same_at<std::uint32_t>(a + words, b + words)) &&
            ((Size & 2) == 0 || same_at<std::uint16_t>(a + words + (Size & 4), b + words + (Size & 4))) &&
            ((Size & 1) == 0 || a[Size - 1] == b[Size - 1]);

@@ -69,6 +69,75 @@ TEST(Counters, EmbeddedObjectsCountInTheirOwnTypes) {
     }
 }
 
+// Notifications that a program put in the place of the runtime's own, and what they hear.
+class Listener {
+public:
+    explicit Listener(Handle &h) : h_(h), write_(h->write_notify), count_(h->count_notify) {
+        listening = this;
+        h->write_notify = [](void *, void *address, size_t size, uint32_t) {
+            listening->heard.emplace_back(address, size);
+            return 0;
+        };
+        h->count_notify = [](void *, uint64_t *address, int64_t delta, uint32_t) {
+            listening->heard.emplace_back(address, static_cast<uint64_t>(delta));
+            return 0;
+        };
+    }
+    ~Listener() {
+        h_->write_notify = write_;
+        h_->count_notify = count_;
+        listening = nullptr;
+    }
+    Listener(const Listener &) = delete;
+    Listener &operator=(const Listener &) = delete;
+
+    std::vector<std::pair<void *, uint64_t>> heard;
+
+private:
+    static inline Listener *listening = nullptr;
+    Handle &h_;
+    int (*write_)(void *, void *, size_t, uint32_t);
+    int (*count_)(void *, uint64_t *, int64_t, uint32_t);
+};
+
+TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
+    for (Mode mode : modes) {
+        Handle h(mode);
+        each_record([&](const RecordOperations &r) {
+            const auto live = [&] {
+                std::vector<uint8_t> frame(4096);
+                uint32_t err = 0;
+                void *object = r.create(h, id);
+                const uint32_t size = r.marshal(h, id, frame.data(), object, 4095, &err);
+                r.unmarshal(h, id, frame.data(), object, size, 1, &err);
+                r.destroy(h, id, object);
+                EXPECT_EQ(err, 0u);
+            };
+            std::vector<std::pair<void *, uint64_t>> by_the_runtime;
+            {
+                Events events(h);
+                live();
+                for (const auto &event : events.all) {
+                    if (event.kind == MIRK_PLATFORM_TESTING_WRITE_NOTIFY) {
+                        by_the_runtime.emplace_back(event.address, event.size);
+                    } else if (event.kind == MIRK_PLATFORM_TESTING_COUNT_NOTIFY) {
+                        by_the_runtime.emplace_back(event.address, static_cast<uint64_t>(event.value));
+                    }
+                }
+            }
+            Listener listener(h);
+            live();
+            // Whether the object lies at the same address again is up to malloc; what is told of it is not.
+            ASSERT_EQ(listener.heard.size(), by_the_runtime.size()) << name(r);
+            for (size_t i = 0; i < listener.heard.size(); ++i) {
+                EXPECT_EQ(listener.heard[i].second, by_the_runtime[i].second) << name(r) << ' ' << i;
+            }
+            EXPECT_GE(listener.heard.size(), 9u)
+                << name(r);  // four words of the header, four counts, the type at the end
+        });
+    }
+}
+
 TEST(Counters, ElementsCountLikeAnyInstance) {
     Handle h;
     const RecordOperations &list = record("lumo_tarn_dp_appl_list"), &element = record("lumo_tarn_dp_appl");
