@@ -142,6 +142,16 @@ TEST_F(EnumerationSequence, PrintWritesThreePieces) {
                      "mirk_snprintf buffer+42 58 LUMO_TARN_MP_MEM\\n ctx=9 err=last_error"}));
 }
 
+TEST_F(EnumerationSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
+    err = 5;
+    EXPECT_EQ(lumo_tarn_mem_desc_e_print(h, id, buffer, 2, "x", object, 200, &err), 0u);
+    EXPECT_EQ(lumo_tarn_mem_desc_e_to_xml(h, id, "x", buffer, object, 200, 0, &err), 0u);
+    lumo_tarn_mem_desc_e_from_xml(h, id, "x", buffer, object, &err, nullptr, 0);
+    lumo_tarn_mem_desc_e_initialize(h, id, object, &_lumo_tarn_mem_desc_e_type_info_internal, 1, 0, 0, nullptr, &err);
+    EXPECT_EQ(err, 5u);
+    EXPECT_EQ(observing::lines(), Lines{});
+}
+
 TEST_F(EnumerationSequence, XmlPassesNoState) {
     lumo_tarn_mem_desc_e_to_xml(h, id, "m", buffer, object, 100, 5, &err);
     EXPECT_EQ(observing::lines(),

@@ -174,6 +174,20 @@ TEST(WireSequence, AnotherCountDropsMappingsThenBlockThenVector) {
                      "write_notify block1+10 1"}));
 }
 
+TEST(WireSequence, ElementsWithoutStatesTakeTheirOwnBytesAndHaveNoMappingsToDrop) {
+    for (const Tracking tracking : {Tracking::none, Tracking::off}) {
+        Wire w("lumo_tarn_dp_debug_setting_data", tracking);
+        const std::uint32_t two = w.frame_of(2);
+        w.read(two, 0);
+        EXPECT_EQ(observing::lines_of({"obj_alloc"}), (Lines{"obj_alloc 112"}));
+        const std::uint32_t one = w.frame_of(1);
+        w.read(one, 1);
+        EXPECT_EQ(w.err, 0U);
+        EXPECT_EQ(observing::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy"}),
+                  (Lines{"obj_free earlier", "obj_alloc 56"}));
+    }
+}
+
 TEST(WireSequence, WithoutOidMappingMappingsStay) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     w.read(w.frame_of(2), 0);

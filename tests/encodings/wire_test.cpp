@@ -199,6 +199,26 @@ TEST(Wire, FlagsFromAFrameAreMergedAndLeadNowhere) {
     }
 }
 
+TEST(Wire, OnlyTwoBitsOfAFlagSayWhatFollows) {
+    for (const Tracking tracking : {Tracking::none, Tracking::off}) {
+        const Handle handle(tracking);
+        for (const RecordTable &table : reference::records()) {
+            const Record value = rich_value(table);
+            const Bytes frame = reference::encode(value, false);
+            for (const unsigned bit : {1U, 2U, 4U, 16U, 64U, 128U}) {
+                Bytes flagged = frame;
+                flagged[1] = static_cast<std::uint8_t>(bit);
+                const Instance instance(handle, table.name);
+                const Outcome outcome = read(handle, instance, flagged);
+                EXPECT_EQ(outcome.error, 0U);
+                EXPECT_EQ(outcome.consumed, frame.size()) << table.name << ' ' << bit;
+                EXPECT_TRUE(bridge::same(reference::as_received(value, false), instance.value()));
+                use(handle, instance);
+            }
+        }
+    }
+}
+
 TEST(Wire, TheFlagOnTheWireHoldsTwoBitsOnly) {
     const Handle handle(Tracking::off);
     const Instance instance(handle, kFlat);

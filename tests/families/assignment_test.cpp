@@ -168,6 +168,18 @@ TEST(Assignment, AnUntrackedSourceOnATrackingHandleLosesItsBlocksAndFails) {
     });
 }
 
+// Neither the object nor a record or an address in it, at any depth.
+void expect_untracked(const RecordOperations &r, void *object) {
+    EXPECT_EQ(header(object)->obj_flag & tracked, 0) << name(r);
+    for (const MemberOperations &m : r.members) {
+        void *place = at(r, object, m);
+        if (m.member->kind == Kind::record) expect_untracked(nested_record(m), place);
+        if (m.member->kind == Kind::address) {
+            EXPECT_EQ(header(place)->obj_flag & tracked, 0) << name(r) << '.' << m.member->name;
+        }
+    }
+}
+
 TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
     Handle h(Mode::on);
     each_record([&](const RecordOperations &r) {
@@ -180,7 +192,7 @@ TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
         r.set(h, id, destination, source, &err);
         EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is not state tracked"}));
-        EXPECT_EQ(header(destination)->obj_flag & tracked, 0);
+        expect_untracked(r, destination);
         expect_no_blocks(r, source);
         // The element-state vectors of the source stay with it, since there is no room for them over there.
         r.destroy(h, id, source);

@@ -133,9 +133,11 @@ TEST(Strings, WithoutATextTheBodyIsZeros) {
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
         uint32_t err = 0;
-        s.m.text_set(h, id, object, nullptr, 5, &err);
-        EXPECT_EQ(err, 0u);
-        EXPECT_EQ(std::memcmp(read<void *>(at(s.r, object, s.m)), "\0\0\0\0\0", 5), 0);
+        for (uint32_t length = 1; length <= 5; ++length) {
+            s.m.text_set(h, id, object, nullptr, length, &err);
+            EXPECT_EQ(err, 0u);
+            EXPECT_EQ(std::memcmp(read<void *>(at(s.r, object, s.m)), "\0\0\0\0\0", length), 0) << length;
+        }
         s.r.destroy(h, id, object);
     });
 }

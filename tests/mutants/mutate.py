@@ -3,11 +3,11 @@
 
     mutate.py ROOT EXPORTS OUT COUNT SEED
 
-A mutant is one small error: a condition negated, a statement dropped, or a constant shifted by one. They are found in the
-syntax tree, in bodies of functions that run. What the compiler evaluates (constexpr, consteval, if constexpr, template
-arguments, static assertions) cannot be changed at run time and has none; an error there changes what is compiled, and the
-tests of the schema and of the surface look at that. What only the archive compiles has none either, since it is the shared
-library that is tested.
+A mutant is one small error: a condition negated, a statement dropped, or a constant shifted by one, upwards but for a 1:
+in most places any number but 0 says the same. They are found in the syntax tree, in bodies of functions that run. What the
+compiler evaluates (constexpr, consteval, if constexpr, template arguments, static assertions) cannot be changed at run time
+and has none; an error there changes what is compiled, and the tests of the schema and of the surface look at that. What
+only the archive compiles has none either, since it is the shared library that is tested.
 
 OUT gets the sources, runtime/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""
 import json
@@ -27,8 +27,8 @@ EXPRESSIONS = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OP
 COMPARISONS = {"==", "!=", "<", ">", "<=", ">="}
 # What is true in the archive alone, and the functions that nothing else calls.
 ARCHIVE_WORDS = re.compile(r"(!?)\b(?:runtime_inside|sure|stateless)\b")
-ARCHIVE_FUNCTIONS = {"run", "write_values", "write_unsure_frame", "read_values", "read_stateful", "initialize_quietly",
-                     "initialize_all_quietly"}
+ARCHIVE_FUNCTIONS = {"run", "write_nested", "read_nested", "write_values", "write_unsure_frame", "read_values",
+                     "read_stateful", "initialize_quietly", "initialize_all_quietly"}
 INTEGERS = re.compile(r"(const )?(unsigned |signed )?(char|short|int|long|long long|bool)$")
 
 SWITCH_HEADER = """#pragma once
@@ -41,7 +41,7 @@ inline bool on(int id) {
 }
 template <class T>
 T shifted(int id, T value) {
-    return on(id) ? static_cast<T>(value + 1) : value;
+    return on(id) ? static_cast<T>(value == 1 ? 0 : value + 1) : value;
 }
 template <>
 inline bool shifted<bool>(int id, bool value) {
