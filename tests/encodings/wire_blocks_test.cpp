@@ -112,6 +112,21 @@ TEST(WireBlocks, AFrameThatEndsInAVectorGivesWhatThereIs) {
     }
 }
 
+TEST(WireBlocks, BehindAnElementThatLeadsBehindTheEndThereAreNoStates) {
+    const Handle handle(Tracking::on);
+    Bytes frame = reference::encode(tc_list(1), true);
+    // The jump of the element, behind the list's head, the count with its state, and the element's variant and flag.
+    const std::size_t jump = 6 + 4 + 1 + 2;
+    frame[jump] = frame[jump + 1] = 0;
+    frame[jump + 2] = frame[jump + 3] = 0xFF;
+    const Instance instance(handle, "lumo_tarn_dp_tc_list");
+    EXPECT_EQ(read(handle, instance, frame, 0, 0x99).error, 0U);
+    const Record got = instance.value();
+    ASSERT_EQ(got["tc_list"].element_state.size(), 1U);
+    EXPECT_EQ(got["tc_list"].state, 0);
+    EXPECT_EQ(got["tc_list"].element_state[0], 0);
+}
+
 TEST(WireBlocks, AStringStateIsTakenFromTheSlackToo) {
     const Handle handle(Tracking::on);
     Record value("lumo_tarn_cl_kesh_appl");

@@ -189,6 +189,7 @@ TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
         void *source = filled(h, r, 8);
         uint32_t err = 0;
         Trace trace;
+        header(destination)->obj_flag |= 1;  // that it can be referred to says nothing of its states
         r.set(h, id, destination, source, &err);
         EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is not state tracked"}));
