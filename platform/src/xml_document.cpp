@@ -196,6 +196,11 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
                 known ? error->message : "the document is not well-formed");
         return nullptr;
     }
+    // To the parser a NUL is the end of all, so what stands behind it would be dropped without a word.
+    if (const long read = xmlByteConsumed(parser.get()); read >= 0 && static_cast<size_t>(read) < length) {
+        fill_in(report, EINVAL, parser->input->line, "there is more behind the end of the document");
+        return nullptr;
+    }
     return finish(std::move(document), report);
 }
 

@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <random>
@@ -150,6 +151,45 @@ TEST(Document, ReportsWhereItIsNotWellFormed) {
     EXPECT_EQ(static_cast<void *>(Document("")), nullptr);
     EXPECT_EQ(static_cast<void *>(Document("<r>&unknown;</r>")), nullptr);
     EXPECT_EQ(mirk_platform_document_load_memory("<r>", 3, nullptr), nullptr);
+}
+
+TEST(Document, RefusesWhatStandsBehindANul) {
+    for (const std::string &text : {std::string("<i/>\0", 5), std::string("<i/>\n\0<i/>", 10),
+                                    std::string("<i/>\n\n\0<!DOCTYPE i>\n", 21), std::string("<i/>\0\n", 6)}) {
+        mirk_platform_report report;
+        EXPECT_EQ(mirk_platform_document_load_memory(text.data(), text.size(), &report), nullptr);
+        EXPECT_EQ(report.number, static_cast<uint32_t>(EINVAL));
+        EXPECT_STREQ(report.sentence, "there is more behind the end of the document");
+        EXPECT_EQ(report.line, 1 + std::count(text.data(), text.data() + text.find('\0'), '\n'));
+    }
+}
+
+TEST(Document, ReadsEachEncodingToItsEnd) {
+    const auto in_two_bytes = [](std::string_view text, bool big) {
+        std::string wide = big ? "\xFE\xFF" : "\xFF\xFE";
+        for (const char c : text) {
+            if (big) wide += '\0';
+            wide += c;
+            if (!big) wide += '\0';
+        }
+        return wide;
+    };
+    const std::string plain = "<?xml version='1.0'?>\n<i> <!-- --> text </i>\n<!-- end -->\n\n";
+    const std::string latin = "<?xml version='1.0' encoding='ISO-8859-1'?><i>\xE4\xF6</i> \n";
+    for (const std::string &text : {plain, "\xEF\xBB\xBF" + plain, latin, in_two_bytes(plain, true),
+                                    in_two_bytes(plain, false), std::string("<i>\xC3\xA4</i>"), plain.substr(22)}) {
+        mirk_platform_report report;
+        void *document = mirk_platform_document_load_memory(text.data(), text.size(), &report);
+        EXPECT_NE(document, nullptr) << report.sentence << ": " << text;
+        mirk_platform_document_free(document);
+    }
+    std::string large = "<i>";
+    for (int i = 0; i < 100000; ++i) large += "<j>\xC3\xA4 text</j>\n";
+    large += "</i>\n";
+    mirk_platform_report report;
+    void *document = mirk_platform_document_load_memory(large.data(), large.size(), &report);
+    EXPECT_NE(document, nullptr) << report.sentence;
+    mirk_platform_document_free(document);
 }
 
 // Not even what the parser finds wrong before it knows a document.
