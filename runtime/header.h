@@ -51,6 +51,17 @@ inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_objec
     count(h, ctx_id, object->tinfo, &entry.num_live, 1, heard);
 }
 
+// The header and the counts of an object on a handle that tells nobody and tracks nothing, which with a known runtime
+// is most of the work of a reading.
+[[gnu::noinline, gnu::flatten]] inline void initialize_quietly(mirk_handle *h, std::uint32_t ctx_id,
+                                                               mirk_object *object, mirk_type_info *type,
+                                                               std::uint8_t flags, std::uint32_t *err) {
+    mirk_clear_last_error(h);
+    const std::int8_t variant = set_header(h, ctx_id, object, type, false, flags, err);
+    count_created(h, ctx_id, object, variant, false);
+    *err = 0;
+}
+
 // What a type's objects have to say at their end.
 struct EndTexts {
     const char *mapping_failed, *still_referred_to, *mapping_gone;

@@ -54,17 +54,7 @@ bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
     return true;
 }
 
-// The same where nobody is told and nothing is tracked, which with a known runtime is most of the work of a reading.
-[[gnu::noinline, gnu::flatten]] inline void initialize_quietly(mirk_handle *h, std::uint32_t ctx_id,
-                                                               mirk_object *object, mirk_type_info *type,
-                                                               std::uint8_t flags, std::uint32_t *err) {
-    mirk_clear_last_error(h);
-    const std::int8_t variant = set_header(h, ctx_id, object, type, false, flags, err);
-    count_created(h, ctx_id, object, variant, false);
-    *err = 0;
-}
-
-// A record with all records in it.
+// The same where nobody is told and nothing is tracked, for a record with all records in it.
 template <const Record &R>
 [[gnu::always_inline]] inline void initialize_all_quietly(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                                           std::uint8_t flags, void *sttr_base, std::uint32_t *err) {
