@@ -35,7 +35,19 @@ protected:
         observing::name_region("object", object_, size_);
         observing::name_region("slot", slot_, sizeof *slot_);
         operation();
-        return observing::lines(Detail::full);
+        Lines lines = observing::lines(Detail::full);
+        if (h()->sttr_desc == nullptr || h()->sttr_desc->sttr_mode != 0xEEEE) forget_state_bases(lines);
+        return lines;
+    }
+    // On a handle that does not track, the place where states would stand is formed and never touched. What lies there
+    // is up to the allocator.
+    static void forget_state_bases(Lines &lines) {
+        for (std::string &line : lines) {
+            if (line.find("_initialize ") == std::string::npos) continue;
+            std::size_t base = 0;
+            for (int word = 0; word < 6; ++word) base = line.find(' ', base) + 1;
+            line.erase(base, line.find(' ', base) - base);
+        }
     }
     // One object stands for both; what an operation writes, it writes twice.
     void expect_same(const char *what, Operation c, Operation cpp) {
