@@ -9,6 +9,7 @@
 // 26 bytes, or 33 in a tracked frame, and 9 more with RA data.
 #include <cstring>
 #include <iterator>
+#include <type_traits>
 
 #include "address_text.hpp"
 #include "coding.hpp"
@@ -72,19 +73,19 @@ bool is_usual(const mirk_handle *h, const void *buffer, const ip_address *field,
            remaining >= static_cast<int32_t>(usual_frame_size) && static_cast<const mirk::Handle *>(h)->hook == nullptr;
 }
 
-void put_usual_frame(uint8_t *to, const ip_address &address) {
-    std::memcpy(to, usual_head, sizeof usual_head);
-    to += sizeof usual_head;
+void put_usual_frame(uint8_t *frame, const ip_address &address) {
+    std::memcpy(frame, usual_head, sizeof usual_head);
+    uint8_t *to = frame + sizeof usual_head;
     for_each_member(address, [&](const auto &member) {
         mirk::put_big_endian(to, member);
         to += sizeof member;
     });
 }
 
-void get_usual_members(const uint8_t *from, ip_address *address) {
-    from += sizeof usual_head;
-    for_each_member(*address, [&]<typename T>(T &member) {
-        member = mirk::get_big_endian<T>(from);
+void get_usual_members(const uint8_t *frame, ip_address *address) {
+    const uint8_t *from = frame + sizeof usual_head;
+    for_each_member(*address, [&](auto &member) {
+        member = mirk::get_big_endian<std::remove_reference_t<decltype(member)>>(from);
         from += sizeof member;
     });
 }

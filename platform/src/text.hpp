@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <type_traits>
 
 #include "contract.hpp"
 
@@ -23,32 +22,35 @@ public:
     std::string_view view() const { return {digits_, length_}; }
 
 private:
-    char digits_[20];
+    char digits_[20] = {};
     size_t length_;
 };
+
+// The first bytes of a text and the last ones, which may be the same.
+template <size_t width>
+[[gnu::always_inline]] inline void copy_both_ends(char *to, const char *from, size_t size) {
+    char head[width], tail[width];
+    std::memcpy(head, from, width);
+    std::memcpy(tail, from + size - width, width);
+    std::memcpy(to, head, width);
+    std::memcpy(to + size - width, tail, width);
+}
 
 // Copies what is mostly short, such as names and numbers: two moves that may overlap take less than a call. Returns
 // where the copy ends.
 [[gnu::always_inline]] inline char *copy_short(char *to, std::string_view text) {
     const char *from = text.data();
     const size_t size = text.size();
-    const auto both_ends = [&]<size_t width>(std::integral_constant<size_t, width>) {
-        char head[width], tail[width];
-        std::memcpy(head, from, width);
-        std::memcpy(tail, from + size - width, width);
-        std::memcpy(to, head, width);
-        std::memcpy(to + size - width, tail, width);
-    };
     if (size > 32) {
         std::memcpy(to, from, size);
     } else if (size >= 16) {
-        both_ends(std::integral_constant<size_t, 16>());
+        copy_both_ends<16>(to, from, size);
     } else if (size >= 8) {
-        both_ends(std::integral_constant<size_t, 8>());
+        copy_both_ends<8>(to, from, size);
     } else if (size >= 4) {
-        both_ends(std::integral_constant<size_t, 4>());
+        copy_both_ends<4>(to, from, size);
     } else if (size >= 2) {
-        both_ends(std::integral_constant<size_t, 2>());
+        copy_both_ends<2>(to, from, size);
     } else if (size == 1) {
         *to = *from;
     }
