@@ -249,7 +249,7 @@ TEST(View, GrowsWithTheBytesThatItShows) {
         EXPECT_EQ(0, made.exit) << made.err;
         return page_of({file}).size();
     };
-    EXPECT_LT(size("256K") - size("64K"), 2 * (256 - 64) * 1024);
+    EXPECT_LT(size("128K") - size("32K"), 2 * (128 - 32) * 1024);
 }
 
 TEST(View, OpensALongListWhereSomebodyLooks) {

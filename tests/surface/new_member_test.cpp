@@ -5,6 +5,8 @@
 // A new product gets a line in one of the tables below: how it is printed, and what of the member has to be in it.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "surface.h"
 
 namespace {
@@ -41,13 +43,17 @@ Output generate_with_new_member(const std::string &kind, const std::filesystem::
 }
 
 TEST(NewMember, ShowsInAllThatIsPrinted) {
+    const Directory before, after;
+    std::set<std::string> printed;
     for (const Product &product : products) {
         SCOPED_TRACE(std::string(product.kind) + " " + product.file);
-        const Directory before, after;
-        ASSERT_EQ(generate(product.kind, before.path()).code, 0);
-        ASSERT_EQ(generate_with_new_member(product.kind, after.path()).code, 0);
-        EXPECT_EQ(content_of(before.path() / product.file).find(product.shows), std::string::npos);
-        EXPECT_NE(content_of(after.path() / product.file).find(product.shows), std::string::npos);
+        const std::filesystem::path without = before.path() / product.kind, with = after.path() / product.kind;
+        if (printed.insert(product.kind).second) {
+            ASSERT_EQ(generate(product.kind, without).code, 0);
+            ASSERT_EQ(generate_with_new_member(product.kind, with).code, 0);
+        }
+        EXPECT_EQ(content_of(without / product.file).find(product.shows), std::string::npos);
+        EXPECT_NE(content_of(with / product.file).find(product.shows), std::string::npos);
     }
 }
 
