@@ -72,9 +72,9 @@ template <const Enumeration &E>
 void Enum<E>::initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
                          std::uint32_t notify, std::uint32_t, std::uint8_t flags, void *, std::uint32_t *err) {
     if (!begin(h, err)) return;
-    const std::int8_t variant =
-        set_header(h, ctx_id, header_of(instance), type, notify != 0 && is_heard(h), flags, err);
-    count_created(h, ctx_id, header_of(instance), variant, is_heard(h));
+    const bool heard = is_heard(h);
+    const std::int8_t variant = set_header(h, ctx_id, header_of(instance), type, notify != 0 && heard, flags, err);
+    count_created(h, ctx_id, header_of(instance), variant, heard);
 }
 
 template <const Enumeration &E>

@@ -99,26 +99,26 @@ struct PrimitiveOf<Kind::enumeration, Of> : Enum<*Of> {
     static mirk_type_info *type() { return &TypeInfo<*Of>::own; }
 };
 
-template <const Record &R>
-struct NestedRecord {
+template <auto Of>
+struct PrimitiveOf<Kind::record, Of> {
     static mirk_object *get(mirk_handle *, std::uint32_t, mirk_object *field, std::uint32_t *) { return field; }
-    static constexpr auto set = Assignment<R>::set;
-    static constexpr auto len = WireWrite<R>::len;
-    static constexpr auto marshal = WireWrite<R>::marshal;
+    static constexpr auto set = Assignment<*Of>::set;
+    static constexpr auto len = WireWrite<*Of>::len;
+    static constexpr auto marshal = WireWrite<*Of>::marshal;
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *field,
                                    std::int32_t left, std::uint32_t reuse, std::uint32_t *err) {
-        return WireRead<R>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
+        return WireRead<*Of>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
     }
-    static constexpr auto print = Text<R>::print;
-    static constexpr auto to_xml = XmlWrite<R>::to_xml;
-    static constexpr auto from_xml = XmlRead<R>::from_xml;
-    static constexpr auto compare = Compare<R>::compare;
-    static constexpr auto hash = Hash<R>::hash;
-    static constexpr auto backpropagate = Propagate<R>::backpropagate;
-    static constexpr auto initialize = Lifecycle<R>::initialize;
-    static mirk_type_info *type() { return &TypeInfo<R>::own; }
-    static constexpr auto set_instance_embedded = Lifecycle<R>::set_instance_embedded;
-    static constexpr auto destroy_internal = Lifecycle<R>::destroy_internal;
+    static constexpr auto print = Text<*Of>::print;
+    static constexpr auto to_xml = XmlWrite<*Of>::to_xml;
+    static constexpr auto from_xml = XmlRead<*Of>::from_xml;
+    static constexpr auto compare = Compare<*Of>::compare;
+    static constexpr auto hash = Hash<*Of>::hash;
+    static constexpr auto backpropagate = Propagate<*Of>::backpropagate;
+    static constexpr auto initialize = Lifecycle<*Of>::initialize;
+    static mirk_type_info *type() { return &TypeInfo<*Of>::own; }
+    static constexpr auto set_instance_embedded = Lifecycle<*Of>::set_instance_embedded;
+    static constexpr auto destroy_internal = Lifecycle<*Of>::destroy_internal;
     static std::uint32_t get_oid_count(mirk_handle *h, std::uint32_t, mirk_object *field, std::uint32_t *err) {
         return tarn::get_oid_count(h, field, err);
     }
@@ -127,8 +127,5 @@ struct NestedRecord {
         tarn::get_object_references(h, field, err);
     }
 };
-
-template <auto Of>
-struct PrimitiveOf<Kind::record, Of> : NestedRecord<*Of> {};
 
 }  // namespace tarn

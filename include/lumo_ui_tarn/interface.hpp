@@ -508,7 +508,8 @@ public:
     /// The document is the runtime's. Without a path the record's element is looked for at any depth.
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
-        const std::string anywhere = std::string("//") + R::name;
+        std::string anywhere = "//";
+        anywhere += R::name;
         char words[256] = "";
         if (c.ok()) {
             R::from_xml(c.handle(), c.ctx_id(), path != nullptr ? path : anywhere.c_str(), document, fresh.get(),
