@@ -55,6 +55,12 @@ private:
     const xmlStructuredErrorFunc function_ = xmlStructuredError;
 };
 
+// The parser prepares itself at its first use, without a lock where that is the making of a context: two threads that
+// load the first documents of a process at one moment would both do it, and what one of them made would be lost.
+void prepare_parser() {
+    [[maybe_unused]] static const bool prepared = (xmlInitParser(), true);
+}
+
 void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
     if (report == nullptr) return;
     *report = {};
@@ -173,6 +179,7 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
         fill_in(report, EINVAL, 0, length > INT32_MAX ? "the document is too long" : "the document is empty");
         return nullptr;
     }
+    prepare_parser();
     const ParserContext parser(xmlNewParserCtxt());
     if (parser == nullptr) {
         fill_in(report, ENOMEM, 0, std::strerror(ENOMEM));

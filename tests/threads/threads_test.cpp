@@ -2,6 +2,7 @@
 // of their own run every record through every operation at once; each finds what it would have found alone, and no
 // count is lost. The thread sanitizer watches the same tests for accesses that race without a trace (./check threads).
 #include <atomic>
+#include <cstdlib>
 #include <thread>
 #include <vector>
 
@@ -29,7 +30,7 @@ void on_threads(unsigned count, Work &&work) {
     for (unsigned i = 0; i < count; ++i) {
         threads.emplace_back([&, i] {
             --waiting;
-            while (waiting != 0) std::this_thread::yield();
+            while (waiting != 0) {}
             work(i);
         });
     }
@@ -159,6 +160,27 @@ TEST(Threads, HandlesOpenAndCloseBesideEachOther) {
             EXPECT_NE(instance.get(), nullptr);
         }
     });
+}
+
+void load_a_document() {
+    static constexpr char text[] = "<list/>";
+    void *document = mirk_platform_document_load_memory(text, sizeof text - 1, nullptr);
+    if (document == nullptr) std::abort();
+    mirk_platform_document_free(document);
+}
+
+// The engine behind documents prepares itself once for the process. Each round is a process that has not done so yet, and
+// ends with the leak check where there is one.
+TEST(Threads, TheFirstDocumentsOfAProcessAreLoadedBesideEachOther) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (int round = 0; round < 60; ++round) {
+        EXPECT_EXIT(
+            {
+                on_threads(2, [](unsigned) { load_a_document(); });
+                std::exit(0);
+            },
+            testing::ExitedWithCode(0), "");
+    }
 }
 
 }  // namespace
