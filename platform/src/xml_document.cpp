@@ -57,9 +57,7 @@ private:
 
 // The parser prepares itself at its first use, without a lock where that is the making of a context: two threads that
 // load the first documents of a process at one moment would both do it, and what one of them made would be lost.
-void prepare_parser() {
-    [[maybe_unused]] static const bool prepared = (xmlInitParser(), true);
-}
+void prepare_parser() { [[maybe_unused]] static const bool prepared = (xmlInitParser(), true); }
 
 void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
     if (report == nullptr) return;

@@ -30,7 +30,7 @@ void on_threads(unsigned count, Work &&work) {
     for (unsigned i = 0; i < count; ++i) {
         threads.emplace_back([&, i] {
             --waiting;
-            while (waiting != 0) {}
+            while (waiting != 0) continue;
             work(i);
         });
     }
@@ -169,8 +169,8 @@ void load_a_document() {
     mirk_platform_document_free(document);
 }
 
-// The engine behind documents prepares itself once for the process. Each round is a process that has not done so yet, and
-// ends with the leak check where there is one.
+// The engine behind documents prepares itself once for the process. Each round is a process that has not done so yet,
+// and ends with the leak check where there is one.
 TEST(Threads, TheFirstDocumentsOfAProcessAreLoadedBesideEachOther) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (int round = 0; round < 60; ++round) {
