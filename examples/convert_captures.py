@@ -9,6 +9,8 @@ import sys
 
 import lumo_tarn
 
+if len(sys.argv) != 3:
+    sys.exit(__doc__)
 source, target = (pathlib.Path(name) for name in sys.argv[1:])
 target.mkdir(parents=True, exist_ok=True)
 broken = 0

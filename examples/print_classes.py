@@ -4,6 +4,8 @@ import sys
 
 import lumo_tarn
 
+if len(sys.argv) != 2:
+    sys.exit(__doc__)
 for message in lumo_tarn.messages(open(sys.argv[1], "rb").read()):
     for table in message.payload.lumo_data:
         for tc in table.agg_tc_list.tc_list:

@@ -20,6 +20,8 @@ def changes(before, after, path=""):
         yield path, before, after
 
 
+if len(sys.argv) != 2:
+    sys.exit(__doc__)
 latest = {}
 for number, message in enumerate(lumo_tarn.recording(pathlib.Path(sys.argv[1]).read_text()), 1):
     now = message.payload.to_dict()

@@ -53,6 +53,13 @@ def test_answer_request(tmp_path: pathlib.Path):
         assert "only the levels of the client are known here" in refusal
 
 
+@pytest.mark.parametrize("name", sorted(path.name for path in EXAMPLES.glob("*.py")))
+def test_a_script_without_arguments_says_what_it_takes(name: str):
+    said = script(name, code=1)
+    assert f"{name} F" in said
+    assert "Traceback" not in said
+
+
 def classes_as_the_tool_shows_them(file: pathlib.Path) -> list:
     message = json.loads(run(TOOL, "decode", "--json", file).splitlines()[0])
     return [(table["lumo_num"], table["agg_tc_list"]["tc_list"]) for table in message["payload"]["lumo_data"]]
