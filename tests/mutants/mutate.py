@@ -79,6 +79,7 @@ class Finder:
         self.root = root
         self.sources = {}
         self.found = {}  # (file, start, end, kind) -> mutant
+        self.skipped = set()
 
     def text(self, file):
         if file not in self.sources:
@@ -123,6 +124,7 @@ class Finder:
             if self.file is None or self.evaluated_by_compiler(cursor, r"[{]"):
                 return
             if cursor.spelling in ARCHIVE_FUNCTIONS:
+                self.skipped.add(cursor.spelling)
                 return
             for child in cursor.get_children():
                 # A macro's expansion has no text of its own.
@@ -272,6 +274,8 @@ def find(root, exports):
             if errors:
                 sys.exit(f"{unit}: {errors[0]}")
             finder.visit(parsed.cursor)
+    if finder.skipped != ARCHIVE_FUNCTIONS:
+        sys.exit(f"no function has one of these names any more: {', '.join(sorted(ARCHIVE_FUNCTIONS - finder.skipped))}")
     return finder, [finder.found[key] for key in sorted(finder.found)]
 
 
