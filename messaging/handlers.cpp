@@ -11,7 +11,7 @@ namespace {
 
 template <class... Arguments>
 void trace_stub(std::uint32_t level, const char *format, Arguments... arguments) {
-    skald_wrapper(g_mirk_lumo_ui_tarn_stub_trace_module_id, level, 0, format, arguments...);
+    skald_wrapper(number_of(g_mirk_lumo_ui_tarn_stub_trace_module_id), level, 0, format, arguments...);
 }
 
 // Where a name of function and file is asked for, a filler of the same length stands in.

@@ -64,9 +64,11 @@ message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
     void *storage = create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
     auto *message = static_cast<message_object *>(storage);
     if (message == nullptr) return nullptr;
-    message->payload = Lifecycle<M.payload>::create(h, ctx_id);
+    mirk_object *payload = Lifecycle<M.payload>::create(h, ctx_id);
+    // All threads share the sentinel, and store there alike.
+    __atomic_store_n(&message->payload, payload, __ATOMIC_RELAXED);
     if (message == sentinel()) return message;
-    if (message->payload == nullptr) {
+    if (payload == nullptr) {
         release(h, ctx_id, message);
         return nullptr;
     }

@@ -22,20 +22,24 @@ namespace tarn {
 
 inline constexpr std::uint32_t fatal_level = 0, error_level = 3, info_level = 6, debug_level = 7;
 
+// The runtime gives a module its number when the first object of the process is made, which may be on another thread than
+// the one that has something to tell.
+inline std::uint16_t number_of(const std::uint16_t &module) { return __atomic_load_n(&module, __ATOMIC_RELAXED); }
+
 // Record and enumeration code traces here; messages have a module of their own.
 template <class... Arguments>
 void trace(std::uint32_t level, const char *format, Arguments... arguments) {
-    skald_wrapper(g_mirk_lumo_ui_tarn_type_trace_module_id, level, 0, format, arguments...);
+    skald_wrapper(number_of(g_mirk_lumo_ui_tarn_type_trace_module_id), level, 0, format, arguments...);
 }
 template <class... Arguments>
 void trace_message(std::uint32_t level, const char *format, Arguments... arguments) {
-    skald_wrapper(g_mirk_lumo_ui_tarn_message_trace_module_id, level, 0, format, arguments...);
+    skald_wrapper(number_of(g_mirk_lumo_ui_tarn_message_trace_module_id), level, 0, format, arguments...);
 }
 
 inline const char *error_text(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
 
-[[noreturn, gnu::cold, gnu::noinline]] inline void die(std::uint16_t module, const char *text) {
-    skald_wrapper(module, fatal_level, 0, text);
+[[noreturn, gnu::cold, gnu::noinline]] inline void die(const std::uint16_t &module, const char *text) {
+    skald_wrapper(number_of(module), fatal_level, 0, text);
     std::abort();
 }
 [[noreturn]] inline void die(const char *text) { die(g_mirk_lumo_ui_tarn_type_trace_module_id, text); }

@@ -64,7 +64,7 @@ typedef struct mirk_platform_handle_options {
     mirk_platform_tracking tracking;         /**< default NONE */
     uint32_t private_types;                  /**< default 0; nonzero gives the handle type records of its own */
     uint64_t request_ceiling;                /**< obj_alloc above this answers null; default 256 MiB */
-    uint64_t total_ceiling;                  /**< live bytes of obj_alloc above this answer null; default 1 GiB */
+    uint64_t total_ceiling;                  /**< live bytes and places of states above this answer null; 1 GiB */
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< default null */
     const char *domain_name;                 /**< default "default" */

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 namespace mirk {
 
@@ -33,6 +34,14 @@ public:
             if (cells_[i].key == key) return &cells_[i].value;
             if (cells_[i].key == 0) return nullptr;
         }
+    }
+
+    // Room for so many entries in all. False without memory.
+    bool reserve(size_t entries) {
+        while (entries * 2 > capacity()) {
+            if (!grow()) return false;
+        }
+        return true;
     }
 
     // The entry of the key, made if there is none; null without memory.
@@ -115,6 +124,8 @@ private:
 // One value for each object. Objects are aligned to 8, so a stretch of 256 bytes holds at most 32 of them; the table
 // keeps one bucket a stretch. Forgetting everything inside a freed block costs a look at each stretch that it covers,
 // which is less than clearing the block cost when it was made, and nothing at all while the table is empty.
+//
+// Who cannot bear that an entry finds no memory reserves the room of a block before there are objects in it.
 template <typename Value>
 class ObjectTable {
     static_assert(std::is_trivially_copyable_v<Value>);
@@ -125,10 +136,26 @@ public:
     ObjectTable &operator=(const ObjectTable &) = delete;
     ~ObjectTable() {
         buckets_.for_each([](uintptr_t, Bucket *bucket) { std::free(bucket); });
-        std::free(spare_);
+        while (spare_ != nullptr) free_spare();
+    }
+
+    // False without memory.
+    bool reserve(const void *block, size_t size) {
+        const size_t wanted = reserved_ + stretches(block, size);
+        while (owned_ < wanted) {
+            if (!add_spare()) return false;
+        }
+        if (!buckets_.reserve(wanted)) return false;
+        reserved_ = wanted;
+        return true;
+    }
+    void unreserve(const void *block, size_t size) {
+        reserved_ -= stretches(block, size);
+        trim();
     }
 
     size_t size() const { return entries_; }
+    size_t bytes() const { return owned_ * sizeof(Bucket); }
 
     Value *find(const void *object) const {
         if (entries_ == 0) return nullptr;
@@ -137,19 +164,16 @@ public:
         return bucket != nullptr && (bucket->present >> slot & 1u) != 0 ? &bucket->values[slot] : nullptr;
     }
 
-    // False without memory.
+    // False without memory, which no object of a block has to fear that room was reserved for.
     bool put(const void *object, const Value &value) {
         const uintptr_t key = stretch(address_of(object));
         Bucket *bucket = bucket_of(key);
         if (bucket == nullptr) {
-            bucket = spare_ != nullptr ? spare_ : static_cast<Bucket *>(std::malloc(sizeof(Bucket)));
-            if (bucket == nullptr) return false;
-            spare_ = nullptr;
+            if (spare_ == nullptr && !add_spare()) return false;
+            if (buckets_.put(key, spare_) == nullptr) return false;
+            bucket = spare_;
+            spare_ = bucket->next;
             bucket->present = 0;
-            if (buckets_.put(key, bucket) == nullptr) {
-                spare_ = bucket;
-                return false;
-            }
             last_key_ = key;
             last_ = bucket;
         }
@@ -172,14 +196,21 @@ public:
 private:
     static constexpr uintptr_t stretch_size = 256;
     static constexpr unsigned slots = 32;
+    static constexpr size_t few = 64;
 
     struct Bucket {
-        uint32_t present;
+        union {
+            uint32_t present;
+            Bucket *next;  // of a spare one
+        };
         Value values[slots];
     };
 
     // Never 0, which the map keeps for itself.
     static uintptr_t stretch(uintptr_t address) { return address / stretch_size + 1; }
+    static size_t stretches(const void *block, size_t size) {
+        return stretch(address_of(block) + (size == 0 ? 0 : size - 1)) - stretch(address_of(block)) + 1;
+    }
     static unsigned slot_of(uintptr_t address) { return static_cast<unsigned>(address / 8 % slots); }
 
     static uint32_t covered(uintptr_t key, uintptr_t begin, uintptr_t last) {
@@ -206,15 +237,36 @@ private:
         if (bucket->present != 0) return;
         buckets_.erase(key);
         last_key_ = 0;
-        std::free(spare_);
+        bucket->next = spare_;
         spare_ = bucket;
+        trim();
+    }
+
+    bool add_spare() {
+        auto *bucket = static_cast<Bucket *>(std::malloc(sizeof(Bucket)));
+        if (bucket == nullptr) return false;
+        bucket->next = spare_;
+        spare_ = bucket;
+        ++owned_;
+        return true;
+    }
+
+    void free_spare() {
+        std::free(std::exchange(spare_, spare_->next));
+        --owned_;
+    }
+    // Some stay, since blocks that go are likely to be followed by others.
+    void trim() {
+        while (spare_ != nullptr && owned_ > reserved_ + reserved_ / 2 + few) free_spare();
     }
 
     AddressMap<Bucket *> buckets_;
     size_t entries_ = 0;
+    size_t reserved_ = 0;  // buckets that there have to be
+    size_t owned_ = 0;     // buckets that there are, in use or spare
     mutable uintptr_t last_key_ = 0;
     mutable Bucket *last_ = nullptr;
-    Bucket *spare_ = nullptr;  // one emptied bucket, kept so that an object that comes and goes costs no allocation
+    Bucket *spare_ = nullptr;
 };
 
 }  // namespace mirk

@@ -80,6 +80,7 @@ struct Block {
     size_t size;
     uint64_t serial;
     uint32_t ctx_id;
+    bool has_offsets;  // room for the state offsets of objects in it is reserved
 };
 
 struct RaData {

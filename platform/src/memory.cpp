@@ -22,11 +22,18 @@ mirk::AllocationFailure &failure_of(Handle &handle, mirk_platform_testing_alloca
 void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
     if (failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) return nullptr;
     if (size > handle.request_ceiling) return nullptr;
-    if (handle.live_bytes + size > handle.total_ceiling) return nullptr;
+    if (handle.live_bytes + handle.offsets.bytes() + size > handle.total_ceiling) return nullptr;
     void *block = std::malloc(size == 0 ? 1 : size);
     if (block == nullptr) return nullptr;
-    const mirk::Block known{size, handle.blocks_made + 1, ctx_id};
+    const bool has_offsets = mirk::tracks(&handle);
+    const mirk::Block known{size, handle.blocks_made + 1, ctx_id, has_offsets};
     if (handle.blocks.put(mirk::address_of(block), known) == nullptr) {
+        std::free(block);
+        return nullptr;
+    }
+    // Later, when an object in it gets its place for states, nobody can be told that there is no memory.
+    if (has_offsets && !handle.offsets.reserve(block, size)) {
+        handle.blocks.erase(mirk::address_of(block));
         std::free(block);
         return nullptr;
     }
@@ -56,9 +63,11 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
         return;
     }
     const size_t size = known->size;
+    const bool has_offsets = known->has_offsets;
     handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
     // The next object at an address in here must not inherit what this one had.
     handle.offsets.forget(p, size);
+    if (has_offsets) handle.offsets.unreserve(p, size);
     handle.ra_data.forget(p, size);
     handle.references.forget(p, size);
     handle.live_bytes -= size;

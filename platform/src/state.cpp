@@ -59,7 +59,8 @@ uint32_t mirklib_get_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object) 
 void mirklib_update_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object, uint32_t offset) {
     own(h)->event(MIRK_PLATFORM_TESTING_OFFSET_UPDATE, object, 0, offset, ctx_id);
     if (object == nullptr) return;
-    // There is no way to report this, and state written to the wrong place would be worse than the end.
+    // There is room for every object in a block of a tracking handle. For others there is no way to report the want of
+    // it, and state written to the wrong place would be worse than the end.
     if (!own(h)->offsets.put(object, offset)) mirk::fatal("(FATAL): no memory for a state offset");
     object_at(object)->obj_flag |= mirk::has_sttr_offset;
 }

@@ -126,7 +126,10 @@ void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_co
         auto &failure = handle.allocation_failures[MIRK_PLATFORM_TESTING_VARIANT_BLOCK];
         auto *block =
             failure.next() ? nullptr : static_cast<VariantBlock *>(mirk::keep_for_life(handle, sizeof(VariantBlock)));
-        if (block == nullptr) return;  // the copy goes on sharing the module's block
+        if (block == nullptr) {
+            copy->info.plain_counters = 0;  // the copy goes on sharing the module's block, and so its counters
+            return;
+        }
         block->info = {source->n_variants, &block->entries[variant_entries - 1]};
         copy->info.variant_info = &block->info;
     }

@@ -9,6 +9,7 @@
 #include "bridge/bridge.h"
 #include "lumo_ui_tarn.h"
 #include "mirk_platform.h"
+#include "mirk_platform_testing.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ void on_threads(unsigned count, Work &&work) {
     for (unsigned i = 0; i < count; ++i) {
         threads.emplace_back([&, i] {
             --waiting;
-            while (waiting != 0) continue;
+            while (waiting != 0) std::this_thread::yield();
             work(i);
         });
     }
@@ -169,18 +170,74 @@ void load_a_document() {
     mirk_platform_document_free(document);
 }
 
-// The engine behind documents prepares itself once for the process. Each round is a process that has not done so yet,
-// and ends with the leak check where there is one.
-TEST(Threads, TheFirstDocumentsOfAProcessAreLoadedBesideEachOther) {
+// Runs the work in a process that has done nothing yet, again and again. Each process ends with the leak check and with
+// the verdict of the thread sanitizer, where there are such.
+template <class Work>
+void in_fresh_processes(int rounds, Work &&work) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         EXPECT_EXIT(
             {
-                on_threads(2, [](unsigned) { load_a_document(); });
+                work();
                 std::exit(0);
             },
             testing::ExitedWithCode(0), "");
     }
+}
+
+// The engine behind documents prepares itself once for the process.
+TEST(Threads, TheFirstDocumentsOfAProcessAreLoadedBesideEachOther) {
+    in_fresh_processes(60, [] { on_threads(2, [](unsigned) { load_a_document(); }); });
+}
+
+// The first object of a process gets the library its numbers for tracing, and who only reads uses them all the same.
+TEST(Threads, WhoReadsABrokenFrameTracesBesideWhoMakesTheFirstObject) {
+    in_fresh_processes(5, [] {
+        on_threads(2, [](unsigned i) {
+            const Handle h;
+            if (i == 0) {
+                const Instance instance(h, "lumo_tarn_dp_appl_list");
+                return;
+            }
+            const auto &message = tarn::reflect::messages()[0];
+            Bytes frame(100, 0xFF);
+            void *received = nullptr;
+            std::uint32_t err = 0;
+            message.unmarshal_only(h, kId, &received, frame.data(), 99, &err);
+            if (err == 0) std::abort();
+            if (received != nullptr) message.destroy(h, kId, received);
+        });
+    });
+}
+
+TEST(Threads, AllGetTheSameSentinels) {
+    on_threads(8, [](unsigned) {
+        const Handle h;
+        for (const auto &message : tarn::reflect::messages()) {
+            h->last_error = ENOMEM;
+            void *sentinel = message.create_cr(h);
+            std::uint32_t err = 0;
+            EXPECT_EQ(sentinel, message.create_cr(h));
+            mirk_clear_last_error(h);
+            EXPECT_NE(message.payload_get(h, kId, sentinel, &err), nullptr);
+        }
+    });
+}
+
+// A handle that gets no counters of its own goes on with those that all share.
+TEST(Threads, NoCountIsLostWhereThereIsNoMemoryForCountersOfAHandlesOwn) {
+    constexpr unsigned threads = 4, objects = 2000;
+    const RecordOperations &record = bridge::operations("lumo_tarn_dp_tc");
+    const auto &shared = record.type->variant_info->entries[0];
+    const std::uint64_t created = shared.num_created, destroyed = shared.num_destroyed, live = shared.num_live;
+    on_threads(threads, [&](unsigned) {
+        const Handle h({.private_types = true});
+        mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_VARIANT_BLOCK, 1, 1);
+        for (unsigned i = 0; i < objects; ++i) record.destroy(h, kId, record.create(h, kId));
+    });
+    EXPECT_EQ(shared.num_created - created, threads * objects);
+    EXPECT_EQ(shared.num_destroyed - destroyed, threads * objects);
+    EXPECT_EQ(shared.num_live, live);
 }
 
 }  // namespace

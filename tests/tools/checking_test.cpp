@@ -171,7 +171,9 @@ INSTANTIATE_TEST_SUITE_P(
         JsonMistake{"no_bundle", R"({"bundle": "x", "control": "start"})", "\"x\" is no bundle"},
         JsonMistake{"no_control", R"({"bundle": "lumo_tarn_cl_cfg_rsp", "control": "stop"})", "\"stop\" is none of"},
         JsonMistake{"neither", R"({"a": 1})", "neither a message nor a control message"},
-        JsonMistake{"syntax", "{\n\"message\": \n}", "standard input:3: syntax error"}),
+        JsonMistake{"syntax", "{\n\"message\": \n}", "standard input:3: syntax error"},
+        JsonMistake{"number_beyond_all", "{\n\"message\": 1e400\n}",
+                    "standard input:2: number overflow parsing '1e400'"}),
     [](const auto &info) { return info.param.name; });
 
 }  // namespace

@@ -57,26 +57,34 @@ protected:
 TEST_P(EachOperation, SurvivesEachFailure) {
     const Driver &driver = *GetParam();
     const std::string suffix = driver.suffix;
-    const bool makes_types =
-        suffix.starts_with("create") || suffix == "unmarshal_only" || suffix.ends_with("typeinfo_initialize");
     std::uint64_t swept = 0, refused = 0;
+    bool types_swept[4] = {};
     for (const Operation &operation : operations()) {
         if (operation.driver != &driver) continue;
         SCOPED_TRACE(operation.name);
         for (const bridge::Tracking tracking : bridge::kEveryTracking) {
             for (const bool private_types : {false, true}) {
                 // Type records are made alike in every mode.
-                if (private_types && (!makes_types || tracking != bridge::Tracking::none)) continue;
+                if (private_types && tracking != bridge::Tracking::none) continue;
                 SCOPED_TRACE(std::string(bridge::name_of(tracking)) + (private_types ? ", types of its own" : ""));
                 const bridge::Options options{.tracking = tracking, .private_types = private_types};
                 const Outcome calm = run(operation, options, nullptr, false);
                 ++swept;
                 for (const auto allocator : kAllocators) {
-                    if (driver.judge == nullptr) {
+                    const bool of_types = allocator == MIRK_PLATFORM_TESTING_SYS_ALLOC ||
+                                          allocator == MIRK_PLATFORM_TESTING_VARIANT_BLOCK;
+                    // What the call asks for besides is asked for without types of its own, too.
+                    if (private_types && !of_types) continue;
+                    if (driver.judge == nullptr && !private_types) {
                         EXPECT_EQ(calm.requests[allocator], 0U)
                             << "asks for memory, and its driver tells nothing of it";
                     }
-                    for (std::uint64_t nth = 1; nth <= calm.requests[allocator]; ++nth) {
+                    // All types are made at once, whichever is asked for: after one sweep through them, first and last.
+                    const std::uint64_t requests = calm.requests[allocator];
+                    const std::uint64_t step =
+                        private_types && types_swept[allocator] && requests > 1 ? requests - 1 : 1;
+                    if (private_types && requests != 0) types_swept[allocator] = true;
+                    for (std::uint64_t nth = 1; nth <= requests; nth += step) {
                         for (const bool onwards : {false, true}) {
                             const Failure failure{allocator, nth, onwards};
                             std::ostringstream words;
@@ -89,10 +97,10 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                             ++refused;
                             if (judged) continue;
                             // Without a type record of its own the handle goes on with the module's; the handle says
-                            // so if it was the library that wanted to make it.
+                            // so if it was the library that wanted to make it, and a sticky call goes by that.
                             EXPECT_EQ(outcome.err, calm.err);
                             EXPECT_TRUE(outcome.last_error == calm.last_error || outcome.last_error == ENOMEM);
-                            EXPECT_EQ(outcome.made, calm.made);
+                            EXPECT_TRUE(outcome.made == calm.made || (!outcome.made && outcome.last_error == ENOMEM));
                         }
                     }
                 }

@@ -58,18 +58,13 @@ Scene::Scene(const Subject &s, const bridge::Options &options)
     o.tracking = options.tracking == bridge::Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
                  : options.tracking == bridge::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
                                                              : MIRK_PLATFORM_TRACKING_ON;
-    o.private_types = options.private_types;
     h = mirk_platform_handle_open(&o);
     mirk_platform_testing_set_fresh_fill(h, 0xA5);
-    // Private types are made by the first that asks, which is to be the call itself.
-    const bool empty = options.private_types;
     if (subject.record != nullptr) {
         const RecordOperations &r = *subject.record;
-        if (!empty) {
-            object = filled(h, r);
-            other = r.create(h, kId);
-        }
-        if (!empty && subject.member != nullptr && subject.member->element_set != nullptr) {
+        object = filled(h, r);
+        other = r.create(h, kId);
+        if (subject.member != nullptr && subject.member->element_set != nullptr) {
             element = filled(h, tarn::reflect::operations_of(*subject.member->member->record));
         }
         if (subject.member == nullptr) {
@@ -79,20 +74,16 @@ Scene::Scene(const Subject &s, const bridge::Options &options)
             });
         }
     } else if (subject.enumeration != nullptr) {
-        if (!empty) {
-            object = subject.enumeration->create(h, kId);
-            other = subject.enumeration->create(h, kId);
-        }
+        object = subject.enumeration->create(h, kId);
+        other = subject.enumeration->create(h, kId);
         const std::string name(subject.enumeration->enumeration->name);
         document = document_of(name, [&] { return "<" + name + "/>"; });
         frame = {0, 0, 0, 0, 0};
     } else if (subject.message != nullptr && subject.message->message != nullptr) {
         const MessageOperations &m = *subject.message;
         const RecordOperations &payload = tarn::reflect::operations_of(m.message->payload);
-        if (!empty) {
-            object = m.create(h, kId);
-            bridge::fill(h, payload, m.payload_get(h, kId, object, &err), value_of(payload));
-        }
+        object = m.create(h, kId);
+        bridge::fill(h, payload, m.payload_get(h, kId, object, &err), value_of(payload));
         frame = reference::message_frame(m.name, value_of(payload), tracks, 5);
         document = document_of(
             m.name, [&] { return reference::message_to_xml(m.name, rich(payload.record->name, true), false); });
@@ -101,6 +92,8 @@ Scene::Scene(const Subject &s, const bridge::Options &options)
         frame.assign(43, 0);
     }
     frame.push_back(0);
+    // Types of a handle's own are made by the first who asks, which is to be the call itself.
+    h->private_types = options.private_types ? 1 : 0;
 }
 
 // One for all scenes, of which there are many, one after the other.

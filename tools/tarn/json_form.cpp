@@ -347,10 +347,14 @@ std::vector<Item> from_json(const Handles &handles, std::string_view content, co
         ordered_json json;
         try {
             in >> json;
-        } catch (const ordered_json::parse_error &error) {
-            const std::string words = error.what();
-            throw Failure(Exit::input, origin + ":" + line(start + error.byte) + ": " +
-                                           words.substr(std::min(words.find("syntax error"), words.size())));
+        } catch (const ordered_json::exception &error) {
+            in.clear();
+            const auto at = static_cast<std::size_t>(in.tellg());
+            // A number beyond all is no error of syntax to the parser.
+            const std::string_view words = error.what(), brackets = "] ";
+            std::size_t begin = words.find("syntax error");
+            if (begin == words.npos) begin = words.find(brackets) + brackets.size();
+            throw Failure(Exit::input, origin + ":" + line(at) + ": " + std::string(words.substr(begin)));
         }
         collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
     }
