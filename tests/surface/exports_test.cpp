@@ -136,6 +136,11 @@ TEST(Exports, NothingIsUsedButTheContractAndTheCLibrary) {
     EXPECT_GT(of_the_contract, 100);
 }
 
+TEST(Exports, ComeUnderANameWithItsVersion) {
+    const Output output = run(TARN_READELF " -d " + quoted(TARN_LIBRARY));
+    EXPECT_NE(output.text.find("Library soname: [liblumo_ui_tarn.so.1]"), std::string::npos) << output.text;
+}
+
 TEST(Exports, HandlersAreNotBoundInsideTheLibrary) {
     // A library that resolves its own symbols first says so in its dynamic section, and a replacement would be ignored.
     const Output output = run(TARN_READELF " -d " + quoted(TARN_LIBRARY));

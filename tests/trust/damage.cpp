@@ -66,12 +66,12 @@ std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_typ
     return handle;
 }
 
-Subject::Subject(mirk_handle *h, const Root &root) : h_(h), root_(root) {
+Specimen::Specimen(mirk_handle *h, const Root &root) : h_(h), root_(root) {
     if (root.record != nullptr) instance_ = root.record->create(h, kId);
     if (root.enumeration != nullptr) instance_ = root.enumeration->create(h, kId);
 }
 
-std::uint32_t Subject::read(const Bytes &frame, std::uint32_t reuse) {
+std::uint32_t Specimen::read(const Bytes &frame, std::uint32_t reuse) {
     std::uint32_t err = 0;
     const auto size = static_cast<std::uint32_t>(frame.size());
     std::uint8_t *bytes = guarded(frame);
@@ -85,7 +85,7 @@ std::uint32_t Subject::read(const Bytes &frame, std::uint32_t reuse) {
     return err;
 }
 
-std::uint32_t Subject::read_document(void *document) {
+std::uint32_t Specimen::read_document(void *document) {
     std::uint32_t err = 0;
     char words[64];
     const std::string path = "/" + root_.name;
@@ -103,41 +103,41 @@ std::uint32_t Subject::read_document(void *document) {
     return err;
 }
 
-void Subject::use(std::int32_t size) {
-    if (instance_ == nullptr) return;
+void use(mirk_handle *h, const Root &root, void *instance, std::int32_t size) {
+    if (instance == nullptr) return;
     std::uint8_t *buffer = output(static_cast<std::size_t>(size));
     char *text = reinterpret_cast<char *>(buffer);
     const auto room = static_cast<std::uint32_t>(size);
     std::uint32_t errors[3] = {};
-    if (const auto *r = root_.record; r != nullptr) {
-        r->print(h_, kId, text, 0, "instance", instance_, size, &errors[0]);
-        r->to_xml(h_, kId, "instance", text, instance_, size, 0, &errors[1]);
-        r->marshal(h_, kId, buffer, instance_, size, &errors[2]);
-        r->len(h_, kId, instance_);
-        ASSERT_EQ(r->compare(instance_, instance_), 0);
-        r->hash(instance_, 0);
+    if (const auto *r = root.record; r != nullptr) {
+        r->print(h, kId, text, 0, "instance", instance, size, &errors[0]);
+        r->to_xml(h, kId, "instance", text, instance, size, 0, &errors[1]);
+        r->marshal(h, kId, buffer, instance, size, &errors[2]);
+        r->len(h, kId, instance);
+        ASSERT_EQ(r->compare(instance, instance), 0);
+        r->hash(instance, 0);
     }
-    if (const auto *e = root_.enumeration; e != nullptr) {
-        e->print(h_, kId, text, 0, "instance", instance_, size, &errors[0]);
-        e->to_xml(h_, kId, "instance", text, instance_, size, 0, &errors[1]);
-        e->marshal(h_, kId, buffer, instance_, size, &errors[2]);
-        ASSERT_EQ(e->compare(instance_, instance_), 0);
-        e->hash(instance_, 0);
+    if (const auto *e = root.enumeration; e != nullptr) {
+        e->print(h, kId, text, 0, "instance", instance, size, &errors[0]);
+        e->to_xml(h, kId, "instance", text, instance, size, 0, &errors[1]);
+        e->marshal(h, kId, buffer, instance, size, &errors[2]);
+        ASSERT_EQ(e->compare(instance, instance), 0);
+        e->hash(instance, 0);
     }
-    if (const auto *m = root_.message; m != nullptr) {
-        m->print(h_, kId, text, instance_, room, &errors[0]);
-        m->to_xml(h_, kId, text, instance_, room, &errors[1]);
-        m->marshal(h_, kId, buffer, instance_, room, &errors[2]);
-        m->len(h_, kId, instance_);
+    if (const auto *m = root.message; m != nullptr) {
+        m->print(h, kId, text, instance, room, &errors[0]);
+        m->to_xml(h, kId, text, instance, room, &errors[1]);
+        m->marshal(h, kId, buffer, instance, room, &errors[2]);
+        m->len(h, kId, instance);
         std::uint32_t err = 0;
-        void *payload = m->payload_get(h_, kId, instance_, &err);
-        ASSERT_EQ(root_.payload()->compare(payload, payload), 0);
-        root_.payload()->hash(payload, 0);
+        void *payload = m->payload_get(h, kId, instance, &err);
+        ASSERT_EQ(root.payload()->compare(payload, payload), 0);
+        root.payload()->hash(payload, 0);
     }
-    mirk_clear_last_error(h_);
+    mirk_clear_last_error(h);
 }
 
-void Subject::end() {
+void Specimen::end() {
     if (instance_ == nullptr) return;
     if (root_.record != nullptr) root_.record->destroy(h_, kId, instance_);
     if (root_.enumeration != nullptr) root_.enumeration->destroy(h_, kId, instance_);

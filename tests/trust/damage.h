@@ -69,19 +69,22 @@ std::string document_of(const Root &root);
 // A handle that gives so little memory that counts cost little. Nothing may be left on it at its end.
 std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_types = false);
 
+// Prints, renders, writes, measures, compares and hashes, into buffers that end at a page that cannot be read. Null is
+// left alone.
+void use(mirk_handle *h, const Root &root, void *instance, std::int32_t size);
+
 // One instance of a root, which what was read goes into.
-class Subject {
+class Specimen {
 public:
-    Subject(mirk_handle *h, const Root &root);
-    ~Subject() { end(); }
-    Subject(const Subject &) = delete;
-    Subject &operator=(const Subject &) = delete;
+    Specimen(mirk_handle *h, const Root &root);
+    ~Specimen() { end(); }
+    Specimen(const Specimen &) = delete;
+    Specimen &operator=(const Specimen &) = delete;
 
     // From a buffer that ends, behind its one spare byte, at a page that cannot be read.
     std::uint32_t read(const Bytes &frame, std::uint32_t reuse = 0);
     std::uint32_t read_document(void *document);
-    // Prints, renders, writes, measures, compares and hashes, into buffers that end at such a page.
-    void use(std::int32_t size);
+    void use(std::int32_t size) { trust::use(h_, root_, instance_, size); }
     void end();
 
 private:

@@ -39,9 +39,9 @@ protected:
         if (!outcome.loaded) return outcome;
         const auto handle = small_handle(tracking);
         {
-            Subject subject(*handle, root());
-            outcome.error = subject.read_document(document.get());
-            subject.use(2048);
+            Specimen specimen(*handle, root());
+            outcome.error = specimen.read_document(document.get());
+            specimen.use(2048);
         }
         // A message that could not be read is kept.
         if (root().message != nullptr && outcome.error != 0) {

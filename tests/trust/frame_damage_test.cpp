@@ -1,4 +1,5 @@
 // Frames of every root and of every bundle, cut, with each byte replaced and with neighbouring bits flipped.
+#include "bundle_stream.h"
 #include "damage.h"
 
 namespace {
@@ -21,11 +22,12 @@ protected:
             if (reuse != 0) handle->allow_lost_blocks();
         }
         {
-            Subject subject(*handle, root());
-            if (reuse != 0) subject.read(good_[static_cast<int>(handle->tracks())]);
-            subject.read(bytes, reuse);
+            Specimen specimen(*handle, root());
+            if (reuse != 0) specimen.read(good_[static_cast<int>(handle->tracks())]);
+            specimen.read(bytes, reuse);
             // Most of the time goes into text, so most texts end early.
-            subject.use(reads_ % 8 == 0 ? 2048 : 256);
+            constexpr int whole = 16384;
+            specimen.use(reads_ % 8 != 0 ? 256 : Share::is_whole() ? whole : 2048);
         }
         ++reads_;
         if (reuse == 0) {
@@ -109,60 +111,11 @@ INSTANTIATE_TEST_SUITE_P(EveryRoot, FrameDamage, testing::ValuesIn(each_root()),
 
 // ---- bundles, through the dispatcher
 
-// Messages that a bundle brought, and messages that came alone.
-struct Received {
-    std::size_t in_bundles = 0, alone = 0;
-};
-
-extern "C" void take_bundle(mirk_handle *h, std::uint32_t, void *context, std::uint32_t *) {
-    static_cast<Received *>(context)->in_bundles += mirk_platform_received_count(h);
-}
-
-template <std::size_t I>
-void take_message(mirk_handle *h, std::uint32_t ctx_id, void *context, void *message, std::uint32_t *) {
-    ++static_cast<Received *>(context)->alone;
-    tarn::reflect::messages()[I].destroy(h, ctx_id, message);
-}
-
-template <std::size_t... I>
-void enlist(mirk_handle *h, std::index_sequence<I...>) {
-    const mirk_message_handler handlers[] = {take_message<I>...};
-    for (std::size_t i = 0; i < sizeof...(I); ++i) {
-        const MessageOperations &m = tarn::reflect::messages()[i];
-        const mirk_platform_message entry{m.luid, m.name, m.unmarshal, m.unmarshal_only, m.destroy, handlers[i]};
-        ASSERT_EQ(mirk_platform_dispatch_register(h, &entry), 0U);
-    }
-    for (const auto &b : tarn::reflect::bundles()) {
-        for (const MessageOperations *m : {&b.start, &b.abort, &b.commit}) {
-            const mirk_platform_message entry{m->luid, m->name, m->unmarshal, nullptr, nullptr, nullptr};
-            ASSERT_EQ(mirk_platform_dispatch_register(h, &entry), 0U);
-        }
-    }
-    mirk_platform_handle_set_bundle_handler(h, take_bundle);
-}
-
 class BundleDamage : public testing::TestWithParam<const reference::BundleTable *> {
 protected:
-    static constexpr std::size_t kMessages = 10;
+    void SetUp() override { mirk_platform_trace_set_levels(1); }
 
-    void SetUp() override {
-        mirk_platform_trace_set_levels(1);
-        ASSERT_EQ(tarn::reflect::messages().size(), kMessages);
-    }
-
-    // Start, message, message, commit.
-    Bytes stream(bool tracked) const {
-        const reference::BundleTable &table = *GetParam();
-        const reference::Record value = rich(reference::message_table(table.message).payload);
-        Bytes all = reference::control_frame(table.name, "start", 5);
-        for (int i = 0; i < 2; ++i) {
-            const Bytes message = reference::message_frame(table.message, value, tracked, 5);
-            all.insert(all.end(), message.begin(), message.end());
-        }
-        const Bytes commit = reference::control_frame(table.name, "commit", 5);
-        all.insert(all.end(), commit.begin(), commit.end());
-        return all;
-    }
+    Bytes stream(bool tracked) const { return bundle_stream(*GetParam(), tracked); }
 
     struct Outcome {
         std::uint32_t error = 0;
@@ -172,7 +125,7 @@ protected:
     Outcome dispatch(const Bytes &bytes, Tracking tracking, bool recorded = false) {
         static FILE *const nowhere = std::fopen("/dev/null", "w");
         const auto handle = small_handle(tracking);
-        enlist(*handle, std::make_index_sequence<kMessages>{});
+        enlist(*handle);
         mirk_platform_recorder_set(recorded ? 1 : 0, nowhere);
         Outcome outcome;
         mirk_platform_report report;

@@ -349,7 +349,7 @@ std::vector<Item> from_json(const Handles &handles, std::string_view content, co
             in >> json;
         } catch (const ordered_json::exception &error) {
             in.clear();
-            const auto at = static_cast<std::size_t>(in.tellg());
+            const std::size_t at = static_cast<std::size_t>(in.tellg()) - 1;  // of what was read last
             // A number beyond all is no error of syntax to the parser.
             const std::string_view words = error.what(), brackets = "] ";
             std::size_t begin = words.find("syntax error");

@@ -1,0 +1,212 @@
+// The stand-in keeps tables and lists of its own beside the blocks that it hands out. Each request for their memory is
+// refused in turn, once and from then on, whatever function asks: the process goes on, an error is told or nothing is
+// amiss, and everything can be ended.
+#include <cerrno>
+#include <new>
+#include <optional>
+
+#include "bundle_stream.h"
+#include "damage.h"
+#include "imports.h"
+
+namespace {
+
+using namespace trust;
+
+struct Refused {
+    std::uint64_t nth = 0;  // 0: none
+    bool onwards = false;
+};
+
+Refused refused;
+std::uint64_t requests;
+
+bool refuses() {
+    ++requests;
+    return refused.nth != 0 && (requests == refused.nth || (refused.onwards && requests > refused.nth));
+}
+void *some_malloc(std::size_t size) { return refuses() ? nullptr : std::malloc(size); }
+void *some_calloc(std::size_t count, std::size_t size) { return refuses() ? nullptr : std::calloc(count, size); }
+void *some_new(std::size_t size) {
+    if (refuses()) throw std::bad_alloc();
+    return ::operator new(size);
+}
+
+// While this lives, what the stand-in asks for is counted and refused.
+class ShortOfMemory {
+public:
+    ShortOfMemory() { EXPECT_TRUE(malloc_.found() && calloc_.found() && new_.found()); }
+
+private:
+    const Import malloc_{"libmirklib", "malloc", reinterpret_cast<void *>(&some_malloc)};
+    const Import calloc_{"libmirklib", "calloc", reinterpret_cast<void *>(&some_calloc)};
+    const Import new_{"libmirklib", "_Znwm", reinterpret_cast<void *>(&some_new)};
+};
+
+// Does the work again and again, with one request refused after the other. Returns how many there are.
+template <class Work>
+std::uint64_t refuse_each(Work &&work) {
+    refused = {};
+    requests = 0;
+    work();
+    const std::uint64_t all = requests;
+    for (std::uint64_t nth = 1; nth <= all; ++nth) {
+        for (const bool onwards : {false, true}) {
+            SCOPED_TRACE("request " + std::to_string(nth) + (onwards ? " onwards" : ""));
+            refused = {nth, onwards};
+            requests = 0;
+            work();
+            if (testing::Test::HasFailure()) return all;
+        }
+    }
+    return all;
+}
+
+// Where nothing was refused, nothing goes wrong.
+void expect_want_of_memory(std::uint32_t error) {
+    EXPECT_TRUE(error == 0 || (error == ENOMEM && refused.nth != 0)) << error;
+}
+
+class RuntimeMemory : public testing::Test {
+protected:
+    void SetUp() override { mirk_platform_trace_set_levels(1); }
+};
+
+TEST_F(RuntimeMemory, RefusedToAReadOfAnyRoot) {
+    std::uint64_t all = 0;
+    for (const Root &root : roots()) {
+        for (const Tracking tracking : {Tracking::off, Tracking::on}) {
+            SCOPED_TRACE(root.name + ", " + bridge::name_of(tracking));
+            const Bytes frame = frame_of(root, tracking == Tracking::on);
+            all += refuse_each([&] {
+                bridge::Handle h(tracking);
+                if (root.message != nullptr) h.allow_lost_blocks();
+                std::optional<Specimen> specimen(std::in_place, h, root);
+                {
+                    const ShortOfMemory is_short;
+                    expect_want_of_memory(specimen->read(frame));
+                    specimen->use(256);
+                }
+                specimen->use(2048);
+            });
+        }
+    }
+    EXPECT_GT(all, roots().size());
+}
+
+TEST_F(RuntimeMemory, RefusedToAReceiverOfABundle) {
+    for (const reference::BundleTable &table : reference::bundles()) {
+        SCOPED_TRACE(table.name);
+        Bytes stream = bundle_stream(table, true);
+        const std::uint64_t asked = refuse_each([&] {
+            bridge::Handle h(Tracking::on);
+            h.allow_lost_blocks();
+            enlist(h);
+            Received received;
+            const ShortOfMemory is_short;
+            expect_want_of_memory(mirk_platform_dispatch(
+                h, kId, guarded(stream), static_cast<std::uint32_t>(stream.size()), &received, nullptr));
+        });
+        EXPECT_GT(asked, 0U);
+    }
+}
+
+TEST_F(RuntimeMemory, RefusedToASenderOfABundle) {
+    for (const auto &bundle : tarn::reflect::bundles()) {
+        SCOPED_TRACE(bundle.bundle->name);
+        const MessageOperations &m = tarn::reflect::operations_of(bundle.bundle->message);
+        const std::uint64_t asked = refuse_each([&] {
+            const bridge::Handle h;
+            std::uint32_t err = 0;
+            void *message = m.create(h, kId);
+            Bytes frame(4096);
+            {
+                const ShortOfMemory is_short;
+                bundle.start.marshal(h, kId, frame.data(), nullptr, 4095, &err);
+                m.marshal(h, kId, frame.data(), message, 4095, &err);
+                bundle.commit.marshal(h, kId, frame.data(), nullptr, 4095, &err);
+                expect_want_of_memory(err);
+            }
+            m.destroy(h, kId, message);
+            err = 0;
+            if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, kId, &err);
+        });
+        EXPECT_GT(asked, 0U);
+    }
+}
+
+TEST_F(RuntimeMemory, RefusedToTheReaderOfADocument) {
+    for (const Root &root : roots()) {
+        SCOPED_TRACE(root.name);
+        const std::string text = document_of(root);
+        const std::uint64_t asked = refuse_each([&] {
+            bridge::Handle h(Tracking::on);
+            h.allow_lost_blocks();
+            Specimen specimen(h, root);
+            mirk_platform_report report;
+            const ShortOfMemory is_short;
+            void *document = mirk_platform_document_load_memory(text.data(), text.size(), &report);
+            if (document == nullptr) {
+                EXPECT_EQ(report.number, static_cast<std::uint32_t>(ENOMEM)) << report.sentence;
+                return;
+            }
+            expect_want_of_memory(specimen.read_document(document));
+            mirk_platform_document_free(document);
+        });
+        EXPECT_GT(asked, 0U);
+    }
+}
+
+TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
+    const std::uint64_t asked = refuse_each([&] {
+        const ShortOfMemory is_short;
+        mirk_handle *h = mirk_platform_handle_open(nullptr);
+        EXPECT_EQ(h == nullptr, refused.nth != 0);
+        if (h != nullptr) mirk_platform_handle_close(h);
+    });
+    EXPECT_GT(asked, 0U);
+}
+
+// What is refused is refused before there is an object, so its place for states is recorded in any case.
+TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
+    bridge::Handle h(Tracking::on);
+    for (const std::size_t size : {1, 200, 256, 5000, 100000}) {
+        auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, kId, size));
+        ASSERT_NE(block, nullptr);
+        {
+            const ShortOfMemory is_short;
+            refused = {1, true};
+            requests = 0;
+            for (std::size_t at = 0; at + sizeof(mirk_object) <= size; at += sizeof(mirk_object)) {
+                mirklib_update_sttr_offset(h, kId, block + at, 8);
+            }
+            EXPECT_EQ(requests, 0U);
+            refused = {};
+        }
+        h->obj_free(h->mem_ctx, kId, block);
+    }
+    EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
+}
+
+// Many come and go: what was set aside for their states goes as well, and counts as long as it is there.
+TEST_F(RuntimeMemory, ForThePlacesOfStatesCountsIntoTheCeiling) {
+    for (const Tracking tracking : {Tracking::off, Tracking::on}) {
+        const bridge::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});
+        const auto fill = [&] {
+            std::vector<void *> blocks;
+            while (void *block = h->obj_alloc(h->mem_ctx, kId, 4096)) blocks.push_back(block);
+            for (void *block : blocks) h->obj_free(h->mem_ctx, kId, block);
+            return blocks.size();
+        };
+        const std::size_t first = fill();
+        if (tracking == Tracking::off) {
+            EXPECT_EQ(first, 256U);
+        } else {
+            EXPECT_LT(first, 200U);
+            EXPECT_GT(first, 128U);
+        }
+        for (int again = 0; again < 3; ++again) EXPECT_EQ(fill(), first);
+    }
+}
+
+}  // namespace
