@@ -22,8 +22,8 @@ namespace tarn {
 
 inline constexpr std::uint32_t fatal_level = 0, error_level = 3, info_level = 6, debug_level = 7;
 
-// The runtime gives a module its number when the first object of the process is made, which may be on another thread than
-// the one that has something to tell.
+// The runtime gives a module its number when the first object of the process is made, which may be on another thread
+// than the one that has something to tell.
 inline std::uint16_t number_of(const std::uint16_t &module) { return __atomic_load_n(&module, __ATOMIC_RELAXED); }
 
 // Record and enumeration code traces here; messages have a module of their own.
