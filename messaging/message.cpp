@@ -65,13 +65,16 @@ message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
     auto *message = static_cast<message_object *>(storage);
     if (message == nullptr) return nullptr;
     mirk_object *payload = Lifecycle<M.payload>::create(h, ctx_id);
-    // All threads share the sentinel, and store there alike.
-    __atomic_store_n(&message->payload, payload, __ATOMIC_RELAXED);
-    if (message == sentinel()) return message;
+    if (message == sentinel()) {
+        // All threads share it and store there alike, while others get what stands there.
+        __atomic_store_n(&message->payload, payload, __ATOMIC_RELAXED);
+        return message;
+    }
     if (payload == nullptr) {
         release(h, ctx_id, message);
         return nullptr;
     }
+    message->payload = payload;
     return set_up(h, ctx_id, message);
 }
 
@@ -105,7 +108,7 @@ void MessageObject<M>::destroy_cr(mirk_handle *h, message_object *message) {
 template <const Message &M>
 mirk_object *MessageObject<M>::get(mirk_handle *, std::uint32_t, message_object *message, std::uint32_t *err) {
     static constexpr auto complaint = named_text<M.payload>("(debug): Error present when getting value for ", ": %s");
-    return has_error(message, err, complaint) ? nullptr : message->payload;
+    return has_error(message, err, complaint) ? nullptr : __atomic_load_n(&message->payload, __ATOMIC_RELAXED);
 }
 
 template <const Message &M>
