@@ -170,7 +170,7 @@ TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
 // What is refused is refused before there is an object, so its place for states is recorded in any case.
 TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
     bridge::Handle h(Tracking::on);
-    for (const std::size_t size : {1, 200, 256, 5000, 100000}) {
+    for (const std::size_t size : {1U, 200U, 256U, 5000U, 100000U}) {
         auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, kId, size));
         ASSERT_NE(block, nullptr);
         {
