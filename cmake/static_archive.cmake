@@ -4,7 +4,7 @@
 # written as one object of ordinary machine code: whoever links the archive needs neither this compiler nor its flags.
 find_package(LibXml2 REQUIRED)
 find_package(Threads REQUIRED)
-add_library(tarn_static_library OBJECT EXCLUDE_FROM_ALL ${TARN_FAMILIES} runtime/manifest.S)
+add_library(tarn_static_library OBJECT EXCLUDE_FROM_ALL ${TARN_FAMILIES} core/manifest.S)
 add_dependencies(tarn_static_library tarn_exports)
 target_include_directories(tarn_static_library PRIVATE ${PROJECT_SOURCE_DIR} ${generated})
 # The object is cut free of what other objects share with it; unique symbols would resist.

@@ -58,7 +58,7 @@ std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
 [[gnu::noinline]] std::uint32_t marshal_start(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
                                               const std::uint8_t *luid, const mirk_allowed_row *allowed,
                                               std::uint32_t *err) {
-    if (!begin(h, err)) return 0;
+    if (!enter(h, err)) return 0;
     if (h->send_bundle_open != 0) {
         fail(h, err, EEXIST);
         return 0;
@@ -76,7 +76,7 @@ std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
 // the caller to deal with. Any bundle's end closes the one that is open.
 [[gnu::noinline]] std::uint32_t marshal_end(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
                                             const std::uint8_t *luid, std::uint32_t *err) {
-    if (!begin(h, err)) return 0;
+    if (!enter(h, err)) return 0;
     if (h->send_bundle_open == 0) {
         fail(h, err, ENOENT);
         return 0;

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "core/named_text.h"
 #include "messaging/registration.h"
-#include "runtime/text.h"
 
 namespace tarn {
 

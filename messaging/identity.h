@@ -2,7 +2,7 @@
 // an exported symbol, reached through the traits that the generated list below fills in.
 #pragma once
 
-#include "runtime/guard.h"
+#include "core/guard.h"
 #include "schema/catalogue.h"
 
 namespace tarn {

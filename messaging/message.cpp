@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "runtime/header.h"
+#include "core/object_header.h"
 
 namespace tarn {
 
@@ -41,7 +41,7 @@ template <const Message &M>
 message_object *MessageObject<M>::set_up(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
     message->tinfo = bind_type(h, ctx_id, &TypeInfo<M>::own);
     const mirk_variant_info &info = checked_variant_info(message->tinfo);
-    count(h, ctx_id, message->tinfo, &info.entries[0].num_created, 1, is_heard(h));
+    count(h, ctx_id, message->tinfo, &info.entries[0].num_created, 1, is_observed(h));
     message->variant = 0;
     message->header = new_header();
     if (tracking_mode(h, module) == Tracking::on) {
@@ -95,7 +95,7 @@ void MessageObject<M>::destroy(mirk_handle *h, std::uint32_t ctx_id, message_obj
     }
     check_type(message->tinfo, module);
     const mirk_variant_info &info = checked_variant_info(message->tinfo);
-    count(h, ctx_id, message->tinfo, &info.entries[0].num_destroyed, 1, is_heard(h));
+    count(h, ctx_id, message->tinfo, &info.entries[0].num_destroyed, 1, is_observed(h));
     message->tinfo = nullptr;
     release(h, ctx_id, message);
 }

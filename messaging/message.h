@@ -2,9 +2,9 @@
 // payload's frame.
 #pragma once
 
+#include "core/named_text.h"
+#include "families/lifecycle.h"
 #include "messaging/identity.h"
-#include "runtime/lifecycle.h"
-#include "runtime/text.h"
 
 namespace tarn {
 

@@ -1,5 +1,5 @@
-#include "encodings/text.h"
-#include "encodings/xml.h"
+#include "families/text.h"
+#include "families/xml.h"
 #include "messaging/message.h"
 
 namespace tarn {

@@ -1,4 +1,4 @@
-#include "encodings/wire.h"
+#include "families/wire.h"
 #include "messaging/message.h"
 
 namespace tarn {

@@ -1,7 +1,7 @@
 // The handler that a process registers for all bundles of this module and of the modules that it builds on.
 #pragma once
 
-#include "runtime/guard.h"
+#include "core/guard.h"
 
 extern "C" mirk_bundle_handler lumo_ui_tarn_bundle_registered_handler;
 

@@ -125,7 +125,7 @@ int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint3
 }
 
 // For a library that is compiled as one program with this runtime.
-bool mirk_inside_is_heard(const mirk_handle *h) { return mirk::is_heard(h); }
+bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_heard(h); }
 
 void *mirklib_malloc(void *, uint32_t, size_t size) {
     {

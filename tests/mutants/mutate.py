@@ -9,7 +9,7 @@ compiler evaluates (constexpr, consteval, if constexpr, template arguments, stat
 and has none; an error there changes what is compiled, and the tests of the schema and of the surface look at that. What
 only the archive compiles has none either, since it is the shared library that is tested.
 
-OUT gets the sources, runtime/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""
+OUT gets the sources, core/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""
 import json
 import pathlib
 import random
@@ -19,7 +19,7 @@ import sys
 import clang.cindex
 from clang.cindex import CursorKind as Kind
 
-FOLDERS = ("runtime", "encodings", "messaging")
+FOLDERS = ("core", "kinds", "families", "messaging")
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.FUNCTION_TEMPLATE, Kind.CONSTRUCTOR, Kind.DESTRUCTOR}
 LOOPS = {Kind.WHILE_STMT, Kind.FOR_STMT}
 EXPRESSIONS = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR,
@@ -28,7 +28,7 @@ COMPARISONS = {"==", "!=", "<", ">", "<=", ">="}
 # What is true in the archive alone, and the functions that nothing else calls.
 ARCHIVE_WORDS = re.compile(r"(!?)\b(?:runtime_inside|sure|stateless)\b")
 ARCHIVE_FUNCTIONS = {"run", "write_nested", "read_nested", "write_values", "write_unsure_frame", "read_values",
-                     "read_stateful", "initialize_quietly", "initialize_all_quietly"}
+                     "read_stateful", "initialize_unobserved", "initialize_tree_unobserved"}
 INTEGERS = re.compile(r"(const )?(unsigned |signed )?(char|short|int|long|long long|bool)$")
 
 SWITCH_HEADER = """#pragma once
@@ -303,7 +303,7 @@ def write(source, mutants):
     for position, _, _, _, text in sorted(insertions):
         out += [source[at:position], text.encode()]
         at = position
-    return b'#include "runtime/mutant_switch.h"\n#line 1\n' + b"".join(out) + source[at:]
+    return b'#include "core/mutant_switch.h"\n#line 1\n' + b"".join(out) + source[at:]
 
 
 def put(path, content):
@@ -321,15 +321,15 @@ def main():
     sample.sort(key=lambda m: (m["file"], m["start"], -m["end"]))
     for number, mutant in enumerate(sample):
         mutant["id"] = number
-    expected = {out / "runtime/mutant_switch.h", out / "runtime/mutant_switch.cpp"}
+    expected = {out / "core/mutant_switch.h", out / "core/mutant_switch.cpp"}
     for folder in FOLDERS:
         for path in sorted((root / folder).iterdir()):
             file = path.relative_to(root)
             mine = [m for m in sample if m["file"] == str(file)]
             put(out / file, write(path.read_bytes(), mine) if mine else path.read_bytes())
             expected.add(out / file)
-    put(out / "runtime/mutant_switch.h", SWITCH_HEADER.encode())
-    put(out / "runtime/mutant_switch.cpp", SWITCH_SOURCE.replace("COUNT", str(max(len(sample), 1))).encode())
+    put(out / "core/mutant_switch.h", SWITCH_HEADER.encode())
+    put(out / "core/mutant_switch.cpp", SWITCH_SOURCE.replace("COUNT", str(max(len(sample), 1))).encode())
     for folder in FOLDERS:
         for path in (out / folder).iterdir():
             if path not in expected:

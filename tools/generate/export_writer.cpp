@@ -71,12 +71,7 @@ std::string type_table() {
     }
     text += "}\n\nextern mirk_type_info *lumo_ui_tarn_type_table[];\nmirk_type_info *lumo_ui_tarn_type_table[] = {\n";
     for (const TypeEntry &t : types()) text += "    &_" + t.name + "_type_info_internal,\n";
-    text += "    nullptr,\n};\n\nextern const tarn::TypeLengths lumo_ui_tarn_type_lengths[];\n";
-    text += "const tarn::TypeLengths lumo_ui_tarn_type_lengths[] = {\n";
-    for (const TypeEntry &t : types()) {
-        text += "    tarn::type_lengths<tarn::schema::" + type_tag(t.subject) + ">(),\n";
-    }
-    return text + "};\n";
+    return text + "    nullptr,\n};\n";
 }
 
 std::string identity() {
@@ -176,7 +171,7 @@ Files write_exports(bool sample_only) {
     const std::vector<Export> functions = all_functions();
     for (const std::string_view unit : units) {
         std::string text(banner);
-        text += "#include \"lumo_ui_tarn.h\"\n#include \"runtime/opaque.h\"\n\nnamespace tarn {\n\n";
+        text += "#include \"lumo_ui_tarn.h\"\n#include \"core/opaque.h\"\n\nnamespace tarn {\n\n";
         for (const Instantiation &i : instantiations()) {
             if (i.unit != unit) continue;
             for (const Subject &s : subjects(i.applies)) {

@@ -1,0 +1,42 @@
+// Runs: integers that lie side by side in memory, to be treated in one piece.
+#pragma once
+
+#include "core/walk.h"
+
+namespace tarn {
+
+// Integers at any depth.
+constexpr bool all_integers(const Record &record) {
+    for (const Member &m : record.members) {
+        const bool nested = m.kind == Kind::record && all_integers(*m.record);
+        if (!schema::is_integer(m.kind) && !nested) return false;
+    }
+    return true;
+}
+
+// Integers that lie side by side in memory, without a gap between them, are a run.
+template <const Record &R>
+constexpr bool continues_run(std::size_t i) {
+    const auto &places = schema::layout<R>.places;
+    return i != 0 && schema::is_integer(R.members[i].kind) && schema::is_integer(R.members[i - 1].kind) &&
+           places[i].offset == places[i - 1].offset + places[i - 1].size;
+}
+// The number of its members, told at the first.
+template <const Record &R>
+constexpr std::size_t length_of_run(std::size_t first) {
+    std::size_t end = first + 1;
+    while (end < R.members.size() && continues_run<R>(end)) ++end;
+    return end - first;
+}
+// Its bytes, of the run that begins with F.
+template <class F>
+constexpr std::uint32_t size_of_run() {
+    constexpr schema::Place last = schema::layout<F::owner>.places[F::index + length_of_run<F::owner>(F::index) - 1];
+    return last.offset + last.size - F::place.offset;
+}
+template <class F, class Visit>
+[[gnu::always_inline]] constexpr bool walk_run(Visit &&visit) {
+    return walk_some<F::owner, F::index, length_of_run<F::owner>(F::index)>(visit);
+}
+
+}  // namespace tarn

@@ -1,0 +1,105 @@
+#include <algorithm>
+#include <cstring>
+
+#include "core/runs.h"
+#include "families/value.h"
+#include "kinds/kinds.h"
+
+namespace tarn {
+
+namespace {
+
+template <class T>
+bool same_at(const std::uint8_t *a, const std::uint8_t *b) {
+    T x, y;
+    std::memcpy(&x, a, sizeof x);
+    std::memcpy(&y, b, sizeof y);
+    return x == y;
+}
+
+// For sizes that are known, without a call or a loop.
+template <std::size_t Size>
+[[gnu::always_inline]] inline bool same_bytes(const void *left, const void *right) {
+    const auto *a = static_cast<const std::uint8_t *>(left), *b = static_cast<const std::uint8_t *>(right);
+    constexpr std::size_t word = sizeof(std::uint64_t), words = Size / word * word;
+    const auto same_words = [&]<std::size_t... I>(std::index_sequence<I...>) TARN_INLINE {
+        return (same_at<std::uint64_t>(a + word * I, b + word * I) && ...);
+    };
+    return same_words(std::make_index_sequence<Size / word>{}) &&
+           ((Size & 4) == 0 || same_at<std::uint32_t>(a + words, b + words)) &&
+           ((Size & 2) == 0 || same_at<std::uint16_t>(a + words + (Size & 4), b + words + (Size & 4))) &&
+           ((Size & 1) == 0 || a[Size - 1] == b[Size - 1]);
+}
+
+// Equal runs are equal bytes. Only of those that differ is it asked where.
+template <const Record &R, std::size_t First>
+[[gnu::always_inline]] inline std::int32_t order_of_run(const mirk_object *a, const mirk_object *b) {
+    using Head = FieldOf<R, First>;
+    if (same_bytes<size_of_run<Head>()>(Head::at(a), Head::at(b))) return 0;
+    std::int32_t order = 0;
+    walk_run<Head>([&]<class F>(F) {
+        order = Primitive<F>::compare(F::at(a), F::at(b));
+        return order == 0;
+    });
+    return order;
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::int32_t order_of_members(const mirk_object *a, const mirk_object *b);
+
+// Of two that are there. What consists of integers alone is compared in place.
+template <const Record &R>
+[[gnu::always_inline]] inline std::int32_t order_of(const mirk_object *a, const mirk_object *b) {
+    if constexpr (all_integers(R)) {
+        return order_of_members<R>(a, b);
+    } else {
+        return Compare<R>::compare(a, b);
+    }
+}
+
+// The sign is the order and the size means nothing: a string's is memcmp's, an enumeration's the distance.
+template <const Record &R>
+[[gnu::always_inline]] inline std::int32_t order_of_members(const mirk_object *a, const mirk_object *b) {
+    std::int32_t order = 0;
+    walk_while<R>(cases{
+        [&]<ArrayMember A>(A) TARN_INLINE {
+            // Counts are equal here, as members of their own; a null block counts as nothing.
+            const std::uint32_t n = std::min(A::count(a), A::count(b));
+            for (std::uint32_t i = 0; i < n && order == 0; ++i) {
+                order = order_of<A::element>(A::element_of(a, i), A::element_of(b, i));
+            }
+            return order == 0;
+        },
+        [&]<StringMember S>(S) TARN_INLINE {
+            const std::uint32_t n = std::min(S::count(a), S::count(b));
+            if (n != 0) order = std::memcmp(*S::at(a), *S::at(b), n);
+            return order == 0;
+        },
+        [&]<IntegerMember F>(F) TARN_INLINE {
+            if constexpr (!continues_run<R>(F::index)) order = order_of_run<R, F::index>(a, b);
+            return order == 0;
+        },
+        [&]<RecordMember F>(F) TARN_INLINE {
+            order = order_of<*F::of>(F::at(a), F::at(b));
+            return order == 0;
+        },
+        [&]<SingleMember F>(F) TARN_INLINE {
+            order = Primitive<F>::compare(F::at(a), F::at(b));
+            return order == 0;
+        },
+    });
+    return order;
+}
+
+}  // namespace
+
+template <const Record &R>
+std::int32_t Compare<R>::compare(const mirk_object *a, const mirk_object *b) {
+    if (a == nullptr) return b == nullptr ? 0 : -1;
+    if (b == nullptr) return 1;
+    return order_of_members<R>(a, b);
+}
+
+}  // namespace tarn
+
+#include "exports/compare.inc"

@@ -1,0 +1,24 @@
+// Deep copy, by way of the wire form.
+#pragma once
+
+#include "core/walk.h"
+
+namespace tarn {
+
+template <const Record &R>
+struct Copy {
+    static void clone(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mirk_object **result, void *buffer,
+                      std::uint32_t size, std::uint32_t *err);
+    static mirk_object *clone_cr(mirk_handle *h, mirk_object *source);
+    static void copy_cr(mirk_handle *h, mirk_object *source, mirk_object *destination);
+    // Into an element of a block; on failure the element is ended but its memory stays with the block.
+    static void copy_into_element(mirk_handle *h, mirk_object *source, mirk_object *element);
+
+private:
+    static void copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mirk_object **destination, void *buffer,
+                     std::uint32_t size, std::uint32_t free_it, std::uint32_t *err);
+    static void copy_by_workspace(mirk_handle *h, mirk_object *source, mirk_object **destination,
+                                  std::uint32_t free_it);
+};
+
+}  // namespace tarn

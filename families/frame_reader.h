@@ -1,0 +1,202 @@
+// Reading the members of one frame.
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+
+#include "families/lifecycle.h"
+#include "families/references.h"
+#include "families/wire.h"
+#include "kinds/kinds.h"
+
+namespace tarn {
+
+// The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is
+// reached through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with
+// the owner of the buffer, and is read by two kinds of state that stand exactly at the end.
+struct Reader {
+    mirk_handle *h;
+    std::uint32_t ctx_id;
+    std::uint8_t *buffer;
+    std::uint32_t size;
+    std::uint32_t reuse;
+    std::uint32_t *err;
+    std::uint32_t offset = 0;
+    bool read_state = false;
+    bool skip_state = false;
+    bool tracked = false;
+    std::uint8_t *area = nullptr;
+    std::uint32_t old_count = 0;  // what the count or length held before it was read
+
+    std::uint8_t *at() const { return buffer + offset; }
+    std::int32_t left() const { return bytes_left(size, offset); }
+    std::uint32_t step() const { return offset != size ? 1 : 0; }
+    std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
+
+    template <class F>
+    [[gnu::always_inline]] void plain_value(mirk_object *instance) {
+        if constexpr (CounterMember<F>) old_count = *F::at(instance);
+        offset += Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
+    }
+    template <class F>
+    [[gnu::always_inline]] void value(mirk_object *instance) {
+        plain_value<F>(instance);
+        if constexpr (schema::is_tracked(F::member)) state_of<F>();
+    }
+
+    template <class F>
+    void state_of() {
+        const std::uint32_t n = step();
+        if (read_state && n != 0) *F::state(area) = offset < size ? *at() : std::uint8_t{0};
+        if (read_state || skip_state) offset += n;
+    }
+
+    // The state of a whole array or of a string: taken from the byte behind the end, too.
+    template <class F>
+    void block_state() {
+        *F::state(area) = offset <= size ? *at() : std::uint8_t{0};
+        offset += step();
+    }
+
+    template <ArrayMember A>
+    bool array(mirk_object *instance);
+    template <StringMember S>
+    bool string(mirk_object *instance);
+    template <ArrayMember A>
+    void drop_block(mirk_object *instance);
+};
+
+template <ArrayMember A>
+void Reader::drop_block(mirk_object *instance) {
+    mirk_object **block = A::at(instance);
+    for (std::uint32_t i = 0; i < old_count && h->oid_mapping != 0; ++i) {
+        mirk_object *element = element_at<A::element>(*block, i);
+        if ((element->obj_flag & (flag::ra_data | flag::sttr_offset)) == 0) continue;
+        mirk_hd_mapping_destroy(h, ctx_id, element, err);
+        References<A::element>::offset_remove(h, ctx_id, element, err);
+    }
+    release(h, ctx_id, *block);
+    store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
+}
+
+// False: out of memory, and with it the end of this frame.
+template <ArrayMember A>
+bool Reader::array(mirk_object *instance) {
+    mirk_object **block = A::at(instance);
+    const std::uint32_t n = A::stored_count(instance);
+    if (n == 0) return true;
+
+    const ElementStates states = read_state ? A::element_states(area) : ElementStates();
+    const bool same_elements = *block != nullptr && old_count == n;
+    if (reuse != 0 && *block != nullptr && old_count != n) drop_block<A>(instance);
+    if (reuse != 0 && read_state && states.block() != nullptr && old_count != n) {
+        release(h, ctx_id, states.block());
+        states.put(nullptr);
+    }
+    if (tracked && !read_state && !same_elements) {
+        // A frame without state leaves the old vector in place, but not one that may be too short for the new elements,
+        // nor one that an empty frame or a failed read left behind.
+        const ElementStates stale = A::element_states(state_area<A::owner>(h, ctx_id, instance));
+        if (stale.block() != nullptr) {
+            if (reuse != 0) release(h, ctx_id, stale.block());
+            stale.put(nullptr);
+        }
+    }
+    const std::size_t stride = A::base + (tracked ? A::width : 0);
+    if (reuse == 0 || *block == nullptr) {
+        notify_write(h, ctx_id, block);
+        *block = static_cast<mirk_object *>(allocate(h, ctx_id, stride * n));
+    }
+    if (*block == nullptr) {
+        fail(h, err, ENOMEM);
+        return false;
+    }
+    std::memset(bytes_of(*block), 0, stride * n);
+    if (read_state) {
+        auto *vector = static_cast<std::uint8_t *>(allocate(h, ctx_id, n));
+        states.put(vector);
+        if (vector == nullptr) {
+            // Elements without a header must not stay behind.
+            release(h, ctx_id, *block);
+            store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
+            fail(h, err, ENOMEM);
+            return false;
+        }
+        std::memset(vector, 0, n);
+    }
+    for (std::uint32_t i = 0; i < n; ++i) {
+        mirk_object *element = element_at<A::element>(*block, i);
+        const std::uintptr_t element_state = element_area<A::element>(*block, n, i);
+        // On a tracking handle every element gets its offset, whatever the frame brought: otherwise its state would be
+        // looked for directly behind it, on top of its neighbour.
+        if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
+        {
+            StepErrors errors(h, err);
+            Lifecycle<A::element>::initialize(h, ctx_id, element, &TypeInfo<A::element>::own, 1, 0, flag::nested,
+                                              reinterpret_cast<void *>(element_state), errors.next());
+        }
+        offset +=
+            WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
+    }
+    if (read_state) {
+        block_state<A>();
+        const std::uint32_t m = at_most(n);
+        std::memcpy(states.block(), at(), m);
+        offset += m;
+    } else if (skip_state) {
+        offset += step();
+        offset += at_most(n);
+    }
+    return true;
+}
+
+template <StringMember S>
+bool Reader::string(mirk_object *instance) {
+    char **body = S::at(instance);
+    const std::uint32_t n = S::stored_count(instance);
+    if (n == 0) return true;
+    const bool keep = reuse != 0 && *body != nullptr && old_count == n;
+    if (!keep) {
+        if (reuse != 0 && *body != nullptr) {
+            release(h, ctx_id, *body);
+            store(h, ctx_id, body, static_cast<char *>(nullptr));
+        }
+        notify_write(h, ctx_id, body);
+        *body = static_cast<char *>(allocate(h, ctx_id, std::size_t{char_sizeof(h)} * n));
+        if (*body == nullptr) {
+            fail(h, err, ENOMEM);
+            return false;
+        }
+    }
+    std::memset(*body, 0, n);
+    const std::uint32_t m = at_most(n);
+    std::memcpy(*body, at(), m);
+    offset += m;
+    if (read_state) {
+        block_state<S>();
+    } else if (skip_state) {
+        // Unlike a scalar's: the last byte of a buffer is not stepped over. The jump makes up for it in an enclosing
+        // frame.
+        if (static_cast<std::int32_t>(size - offset) > 1) offset += 1;
+    }
+    return true;
+}
+
+struct Head {
+    // A primitive that fails writes nothing, so everything read into a local starts at 0.
+    std::int8_t variant = 0;
+    std::uint8_t wire_flag = 0;
+    std::uint32_t jump_base = 0, jump = 0;
+};
+
+[[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(const Reader &in, mirk_object *instance) {
+    // A primitive that fails writes nothing, so everything read into a local starts at 0.
+    void *ra_value = nullptr;
+    std::uint8_t ra_byte = 0;
+    const std::uint32_t n =
+        _mirk_instance_ra_data_unmarshal(in.h, in.ctx_id, in.at(), &ra_value, &ra_byte, in.left(), in.err);
+    mirklib_update_ra_all(in.h, in.ctx_id, instance, ra_value, ra_byte);
+    return n;
+}
+
+}  // namespace tarn

@@ -1,0 +1,78 @@
+// Writing the members of one frame.
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+
+#include "families/wire.h"
+#include "kinds/kinds.h"
+
+namespace tarn {
+
+// The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes
+// nothing, the state bytes still go out, and the caller decides at the end.
+struct Writer {
+    mirk_handle *h;
+    std::uint32_t ctx_id;
+    std::uint8_t *buffer;
+    std::uint32_t size;
+    std::uint32_t *err;
+    std::uint32_t offset = 0;
+    bool tracked = false;
+    std::uint8_t *area = nullptr;  // null: an instance without state, each of whose state bytes is 0
+
+    std::uint8_t *at() const { return buffer + offset; }
+    std::int32_t left() const { return bytes_left(size, offset); }
+
+    // A full buffer gets it too, in the guard byte after its end, where it is not counted.
+    void state(std::uint8_t value) {
+        *at() = value;
+        offset += offset != size ? 1 : 0;
+    }
+    template <class F>
+    void state_of() {
+        if (tracked) state(area != nullptr ? *F::state(area) : std::uint8_t{0});
+    }
+
+    template <class F>
+    [[gnu::always_inline]] void value(mirk_object *instance) {
+        offset += Primitive<F>::marshal(h, ctx_id, at(), F::at(instance), left(), err);
+        if constexpr (schema::is_tracked(F::member)) state_of<F>();
+    }
+
+    template <ArrayMember A>
+    void array(mirk_object *instance) {
+        const std::uint32_t n = A::count(instance);
+        if (n == 0) return;
+        mirk_object *block = *A::at(instance);
+        for (std::uint32_t i = 0; i < n; ++i) {
+            offset += WireWrite<A::element>::marshal(h, ctx_id, at(), element_at<A::element>(block, i), left(), err);
+        }
+        if (!tracked) return;
+        state_of<A>();
+        // Cut to what remains without an error: a buffer sized by len has room.
+        const std::uint32_t fits = std::min(n, static_cast<std::uint32_t>(left()));
+        const ElementStates states = A::element_states(area);
+        if (const std::uint8_t *block_of_states = states.block(); block_of_states != nullptr) {
+            std::memcpy(at(), block_of_states, fits);
+        } else {
+            std::memset(at(), states.fill(), fits);
+        }
+        offset += fits;
+    }
+
+    template <StringMember S>
+    void string(mirk_object *instance) {
+        std::uint32_t n = S::count(instance);
+        if (n == 0) return;
+        if (n > static_cast<std::uint32_t>(left())) {
+            fail(h, err, EMSGSIZE);
+            n = static_cast<std::uint32_t>(left());
+        }
+        std::memcpy(at(), *S::at(instance), n);
+        offset += n;
+        state_of<S>();
+    }
+};
+
+}  // namespace tarn

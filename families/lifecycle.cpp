@@ -1,0 +1,253 @@
+#include "families/lifecycle.h"
+
+#include "core/object_header.h"
+#include "families/references.h"
+#include "families/shortcuts/initialize.h"
+#include "kinds/kinds.h"
+
+extern "C" void mirk_lumo_ui_tarn_type_trace_init(void);
+
+namespace tarn {
+
+namespace {
+
+template <const Record &R>
+struct alignas(8) SentinelStorage {
+    std::uint8_t bytes[schema::layout<R>.base_size];
+};
+template <const Record &R>
+constinit SentinelStorage<R> sentinel_of{};
+
+[[gnu::cold]] mirk_object *abandon_create(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                          std::uint32_t error, const char *text) {
+    trace(error_level, text, error_text(error));
+    release(h, ctx_id, object);
+    return nullptr;
+}
+
+// All of an initialize but the members. False: these stay as they are. What the instance
+// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
+bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                         std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
+                         void *&sttr_base, void *&announced_area, std::uint32_t *err) {
+    if (!enter(h, err)) return false;
+    const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
+    if (tracks(h)) {
+        if (notify != 0) notify_write(h, ctx_id, &object->obj_flag);
+        object->obj_flag |= flag::state_tracked;
+    }
+    if (skip_count != 0) return true;
+    count_created(h, ctx_id, object, variant, true);
+    *err = 0;  // drops an error of the look-up: it shows at the first gate instead
+    if (!tracks(h)) return true;
+
+    const bool nested = (object->obj_flag & flag::nested) != 0;
+    const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
+    if (nested && sttr_base == nullptr) {
+        fail(h, err, EINVAL);
+        trace(error_level,
+              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the "
+              "correct state tracking base pointer");
+        return false;
+    }
+    void *offset_area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : nullptr;
+    if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + base_size;
+    if (!nested || has_offset) announced_area = has_offset ? offset_area : sttr_base;
+    return true;
+}
+
+struct ReferenceTexts {
+    const char *unreadable, *not_lowered;
+};
+template <const Record &R>
+constexpr auto unreadable_text = named_text<R>("(ERR): ",
+                                               " destroy: Failed to get oid references from object. Error %s");
+template <const Record &R>
+constexpr auto not_lowered_text = named_text<R>("(ERR): ",
+                                                " destroy: Failed to decrement ref count of oid %p. Error %s");
+template <const Record &R>
+constexpr ReferenceTexts reference_texts{unreadable_text<R>.data(), not_lowered_text<R>.data()};
+
+// Lowers the count of each of the n objects that an embedded address refers to. False: the references could not be
+// read, or there is no room for them. An error of the count itself does not spare the question.
+[[gnu::noinline]] bool sweep_references(mirk_handle *h, std::uint32_t ctx_id, ip_address *field, std::uint32_t n,
+                                        const ReferenceTexts &texts, std::uint32_t *err) {
+    // The number comes from outside the library, so the stack holds only as many as an address commonly has.
+    constexpr std::uint32_t on_stack = 64;
+    void *few[on_stack] = {};
+    void **many = nullptr;
+    if (n > on_stack) {
+        many = static_cast<void **>(std::malloc(std::size_t{n} * sizeof(void *)));
+        if (many == nullptr) return false;
+        std::memset(many, 0, std::size_t{n} * sizeof(void *));
+    }
+    void **oids = many != nullptr ? many : few;
+    ip_address_get_object_references(h, ctx_id, field, oids, n, err);
+    const bool readable = *err == 0;
+    if (!readable) trace(error_level, texts.unreadable, error_text(*err));
+    for (std::uint32_t i = 0; readable && i < n; ++i) {
+        mirklib_lookup_and_update_oid_ref_count(h, ctx_id, oids[i], 0, err);
+        if (*err == 0) continue;
+        trace(error_level, texts.not_lowered, oids[i], error_text(*err));
+        *err = 0;
+    }
+    std::free(many);
+    return readable;
+}
+
+template <class T>
+[[gnu::noinline]] void release_block(mirk_handle *h, std::uint32_t ctx_id, T **block) {
+    release(h, ctx_id, *block);
+    store(h, ctx_id, block, static_cast<T *>(nullptr));
+}
+
+[[gnu::noinline]] void release_states(mirk_handle *h, std::uint32_t ctx_id, ElementStates states) {
+    if (states.block() == nullptr) return;
+    release(h, ctx_id, states.block());
+    states.put(nullptr);
+}
+
+}  // namespace
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::sentinel() {
+    return reinterpret_cast<mirk_object *>(&sentinel_of<R>);
+}
+
+template <const Record &R>
+std::int8_t Lifecycle<R>::variant_data_index_cap(std::int8_t variant) {
+    return cap_variant(variant);
+}
+
+template <const Record &R>
+std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
+    return schema::layout<R>.base_size + (tracks(h) ? schema::layout<R>.state_width : 0);
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
+    if (create_is_off(h)) return sentinel();
+    auto *object = static_cast<mirk_object *>(new_object(h, ctx_id, sizeof_instance(h), sentinel()));
+    if (object == nullptr || object == sentinel()) return object;
+    std::uint32_t error = 0;
+    initialize(h, ctx_id, object, &TypeInfo<R>::own, 1, 0, 0, nullptr, &error);
+    if (error == 0) return object;
+    static constexpr auto text = named_text<R>("(ERR): error in ", " create: %s");
+    return abandon_create(h, ctx_id, object, error, text.data());
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    return create_internal(h, ctx_id);
+}
+
+template <const Record &R>
+mirk_object *Lifecycle<R>::create_cr(mirk_handle *h) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    h->cr_mode = 1;
+    mirk_object *object = create_internal(h, h->default_id);
+    h->cr_mode = 0;
+    return object;
+}
+
+template <const Record &R>
+void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                              std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
+                              std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (skip_count == 0 && type == &TypeInfo<R>::own && shortcut::is_unobserved(h, err)) {
+            shortcut::initialize_tree<R>(h, ctx_id, object, flags, sttr_base, err);
+            return;
+        }
+    }
+    void *announced_area = nullptr;
+    const bool set_up = initialize_instance(h, ctx_id, object, type, notify, skip_count, flags,
+                                            schema::layout<R>.base_size, sttr_base, announced_area, err);
+    if constexpr (any_member<R>(schema::is_embedded)) {
+        if (!set_up) return;
+        if (announced_area != nullptr) References<R>::offset_update(h, ctx_id, object, announced_area, err);
+        initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
+    }
+}
+
+// Members get the base as it came, and not the start of their own area: that they ask the runtime for.
+template <const Record &R>
+void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
+                                      std::uint32_t skip_count, void *sttr_base, std::uint32_t *err) {
+    StepErrors errors(h, err);
+    walk<R>(cases{
+        [&]<EmbeddedMember F>(F) {
+            Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), notify, skip_count, flag::nested,
+                                     sttr_base, errors.next());
+        },
+        nothing,
+    });
+}
+
+template <const Record &R>
+void Lifecycle<R>::set_instance_embedded(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    if (object == nullptr) {
+        trace(error_level, "(ERR): Invalid object pointer passed in to set instance flag");
+        return;
+    }
+    walk<R>(cases{
+        [&]<EmbeddedMember F>(F) {
+            if constexpr (F::kind != Kind::enumeration) Primitive<F>::set_instance_embedded(h, ctx_id, F::at(object));
+        },
+        nothing,
+    });
+    store(h, ctx_id, &object->obj_flag, static_cast<std::uint8_t>(object->obj_flag | flag::embedded));
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
+    if (object != sentinel()) destroy_internal(h, ctx_id, object, 1);
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy_cr(mirk_handle *h, mirk_object *object) {
+    destroy_internal(h, h->default_id, object, 1);
+}
+
+template <const Record &R>
+void Lifecycle<R>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
+    if (object == nullptr || object == sentinel()) return;
+    if (!release_mapping(h, ctx_id, object, destroy_texts<R>)) return;
+    std::uint32_t error = 0;
+    // False: the references of an address could not be read. The rest of the object stays as it is.
+    const bool all_destroyed = walk_while<R>(cases{
+        [&]<AreaMember F>(F) {
+            const std::uint32_t n = Primitive<F>::get_oid_count(h, ctx_id, F::at(object), &error);
+            if constexpr (F::kind == Kind::address) {
+                if (n != 0 && !sweep_references(h, ctx_id, F::at(object), n, reference_texts<R>, &error)) return false;
+            }
+            Primitive<F>::destroy_internal(h, ctx_id, F::at(object), 0);
+            return true;
+        },
+        [&]<ArrayMember A>(A) {
+            if (*A::at(object) != nullptr) {
+                const std::uint32_t n = A::count(object);
+                for (std::uint32_t i = 0; i < n; ++i) {
+                    Lifecycle<A::element>::destroy_internal(h, ctx_id, A::element_of(object, i), 0);
+                }
+                release_block(h, ctx_id, A::at(object));
+            }
+            if (is_state_tracked(object)) {
+                release_states(h, ctx_id, A::element_states(state_area<R>(h, ctx_id, object)));
+            }
+            return true;
+        },
+        [&]<StringMember S>(S) {
+            if (*S::at(object) != nullptr) release_block(h, ctx_id, S::at(object));
+            return true;
+        },
+        [](auto) { return true; },
+    });
+    if (!all_destroyed) return;
+    finish_destroy(h, ctx_id, object, free_it, destroy_texts<R>);
+}
+
+}  // namespace tarn
+
+#include "exports/lifecycle.inc"

@@ -1,0 +1,75 @@
+#include "families/text.h"
+
+#include <charconv>
+#include <cstring>
+
+#include "kinds/kinds.h"
+
+namespace tarn {
+
+namespace {
+
+// What an element is called: "classes[12]". Written for each element, and so without a format.
+struct ElementName {
+    ElementName(std::string_view array, std::uint32_t index) {
+        std::memcpy(text, array.data(), array.size());
+        char *end = text + array.size();
+        *end++ = '[';
+        end = std::to_chars(end, text + sizeof text, static_cast<std::int32_t>(index)).ptr;
+        *end++ = ']';
+        *end = 0;
+    }
+    static constexpr std::size_t most = 64;
+    char text[most + sizeof "[-2147483648]"];
+};
+
+}  // namespace
+
+template <const Record &R>
+std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t indent, const char *name,
+                             mirk_object *instance, std::int32_t remaining, std::uint32_t *err) {
+    if (!enter(h, err)) return 0;
+    const std::int8_t variant = mirk_get_instance_variant(instance, 1, 0);
+    std::uint32_t offset = 0;
+    const auto left = [&] { return remaining - static_cast<std::int32_t>(offset); };
+
+    offset += mirk_print_space(h, ctx_id, buffer, indent, remaining, err);
+    offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "%s@%s: {\n", name, R.name.data());
+    if (variant < 0) return offset;  // the open brace is the sign of a record without a body
+
+    const std::uint32_t inside = indent + 2;
+    walk<R>(cases{
+        [&]<ArrayMember A>(A) {
+            const std::uint32_t n = A::count(instance);
+            for (std::uint32_t i = 0; i < n; ++i) {
+                static_assert(A::member.name.size() <= ElementName::most);
+                const ElementName element_name(A::member.name, i);
+                offset += Text<A::element>::print(h, ctx_id, buffer + offset, inside, element_name.text,
+                                                  A::element_of(instance, i), left(), err);
+            }
+        },
+        [&]<StringMember S>(S) {
+            offset += var_string_print(h, ctx_id, buffer + offset, inside, S::name(), S::block(instance), left(),
+                                       S::count(instance), err);
+        },
+        [&]<SingleMember F>(F) {
+            offset += Primitive<F>::print(h, ctx_id, buffer + offset, inside, F::name(), F::at(instance), left(), err);
+        },
+    });
+    // These blanks go to the start of the record's own first line, where they change nothing. So the bytes in front of
+    // a nested brace are counted and keep what the buffer held: a caller that hands the buffer on clears it first.
+    offset += mirk_print_space(h, ctx_id, buffer, indent, left(), err);
+    offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "}\n");
+    return offset;
+}
+
+template <const Record &R>
+std::uint32_t Text<R>::print_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining) {
+    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
+        return print(h, ctx_id, buffer, 0, R.name.data(), instance, remaining, err);
+    });
+}
+
+}  // namespace tarn
+
+#include "exports/text.inc"

@@ -1,0 +1,109 @@
+#include "families/frame_reader.h"
+#include "families/shortcuts/read_frame.h"
+
+namespace tarn {
+
+namespace {
+
+[[gnu::cold, gnu::noinline]] void report_jump(std::uint32_t read_length, std::uint32_t jump_base, std::uint32_t jump) {
+    trace(info_level, "(info): offset_jump read_len %d offset_jump_base %d _mirk_variant_jump %d", read_length,
+          jump_base, jump);
+}
+
+[[gnu::always_inline]] inline void read_head(Reader &in, mirk_object *instance, Head &head) {
+    in.offset += _mirk_instance_variant_unmarshal(in.h, in.ctx_id, in.at(), &head.variant, in.left(), in.err);
+    in.offset += _mirk_instance_obj_flag_unmarshal(in.h, in.ctx_id, in.at(), &head.wire_flag, in.left(), in.err);
+    if ((head.wire_flag & flag::ra_data) != 0) in.offset += read_ra_data(in, instance);
+    head.jump_base = in.offset;
+    in.offset += _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err);
+}
+
+// False: out of memory.
+template <const Record &R>
+[[gnu::always_inline]] inline bool read_members(Reader &in, mirk_object *instance) {
+    return walk_while<R>(cases{
+        [&]<ArrayMember A>(A) TARN_INLINE { return in.array<A>(instance); },
+        [&]<StringMember S>(S) TARN_INLINE { return in.string<S>(instance); },
+        [&]<SingleMember F>(F) TARN_INLINE {
+            in.value<F>(instance);
+            return true;
+        },
+    });
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t read_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                        mirk_object *instance, std::uint32_t length,
+                                                        std::uint32_t reuse, std::uint32_t *err) {
+    if (!enter(h, err)) return 0;
+    if (static_cast<std::int32_t>(length) < 1) {
+        fail(h, err, ENOMEM);
+        return 0;
+    }
+    if (instance == nullptr) {
+        fail(h, err, EINVAL);
+        return 0;
+    }
+    Reader in{h, ctx_id, static_cast<std::uint8_t *>(buffer), length, reuse, err};
+
+    Head head;
+    if (runtime_inside && length >= record_head && buffer != nullptr) {
+        shortcut::read_head(in, instance, head);
+    } else {
+        read_head(in, instance, head);
+    }
+    const std::int8_t variant = cap_variant(head.variant);
+    std::uint8_t wire_flag = head.wire_flag;
+
+    const bool sender_tracks = (wire_flag & flag::state_tracked) != 0;
+    in.tracked = tracks(h);
+    if (in.tracked) {
+        if (!is_state_tracked(instance)) die("(FATAL): MIRK handle and object state tracking mis-match");
+        in.read_state = sender_tracks;
+        if (in.read_state) in.area = state_area<R>(h, ctx_id, instance);
+    } else {
+        in.skip_state = sender_tracks;
+        wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
+    }
+
+    if (variant >= 0) {
+        const bool complete =
+            runtime_inside ? shortcut::read_members<R, read_members<R>>(in, instance) : read_members<R>(in, instance);
+        if (!complete) return 0;
+    }
+
+    const std::uint32_t end = head.jump_base + head.jump;
+    if (static_cast<std::int32_t>(end) > static_cast<std::int32_t>(in.offset)) {
+        report_jump(in.offset, head.jump_base, head.jump);
+        in.offset = end;
+    }
+    instance->variant = variant;
+    instance->obj_flag |= wire_flag;
+    instance->tinfo = bind_type(h, ctx_id, &TypeInfo<R>::own);
+    return in.offset;
+}
+
+}  // namespace
+
+template <const Record &R>
+std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                     std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
+    return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
+}
+
+// In one piece with its owner where that costs no call of the runtime and little code.
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t WireRead<R>::unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id,
+                                                                          void *buffer, mirk_object *instance,
+                                                                          std::uint32_t length, std::uint32_t reuse,
+                                                                          std::uint32_t *err) {
+    if constexpr (runtime_inside && all_integers(R)) {
+        return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
+    } else {
+        return unmarshal(h, ctx_id, buffer, instance, length, reuse, err);
+    }
+}
+
+}  // namespace tarn
+
+#include "exports/wire_read.inc"

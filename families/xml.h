@@ -1,0 +1,21 @@
+// The XML form: one element for each member, named as the member; an array is its elements one after the other.
+#pragma once
+
+#include "core/walk.h"
+
+namespace tarn {
+
+template <const Record &R>
+struct XmlWrite {
+    static std::uint32_t to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *name, char *buffer,
+                                mirk_object *instance, std::int32_t remaining, std::uint8_t state, std::uint32_t *err);
+    static std::uint32_t toxml_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining);
+};
+
+template <const Record &R>
+struct XmlRead {
+    static void from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path, void *document, mirk_object *instance,
+                         std::uint32_t *err, char *message, std::uint32_t message_size);
+};
+
+}  // namespace tarn

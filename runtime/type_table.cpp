@@ -1,4 +1,0 @@
-// The type records and, in the order of the catalogue, the table that leads to them.
-#include "runtime/type_table.h"
-
-#include "exports/type_table.inc"
