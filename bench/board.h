@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -31,7 +32,9 @@ public:
     // `run` is one iteration. Its inputs live as long as it does.
     template <class Run>
     void add(std::string_view operation, std::string_view workload, std::string_view who, Run run) {
-        benchmark::RegisterBenchmark(key(operation, workload, who).c_str(), [run](benchmark::State &state) {
+        const std::string name = key(operation, workload, who);
+        runs_.emplace_back(name, run);
+        benchmark::RegisterBenchmark(name.c_str(), [run](benchmark::State &state) {
             for (auto _ : state) run();
         });
     }
@@ -60,6 +63,9 @@ public:
     std::vector<std::string> everybody(std::string_view operation) const;
     std::vector<std::string> operations() const;
 
+    // Every measurement but the points of curves, by name, as one iteration.
+    const std::vector<std::pair<std::string, std::function<void()>>> &runs() const { return runs_; }
+
     // By operation and list: for how many elements there are points.
     using Curves = std::map<std::string, std::map<std::string, std::vector<std::size_t>>>;
     const Curves &curves() const { return curves_; }
@@ -70,6 +76,7 @@ private:
     std::optional<double> median(const std::string &name) const;
 
     std::vector<std::array<std::string, 3>> names_;
+    std::vector<std::pair<std::string, std::function<void()>>> runs_;
     std::map<std::string, std::vector<double>> times_;
     Curves curves_;
 };

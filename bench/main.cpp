@@ -1,4 +1,7 @@
 // bench [--json FILE] [--pictures DIRECTORY] [options of Google Benchmark]
+// valgrind --tool=callgrind bench --instructions    one profile for each measurement, with its name
+#include <valgrind/callgrind.h>
+
 #include <cstring>
 
 #include "bench/board.h"
@@ -21,6 +24,16 @@ private:
     tarn::bench::Board &board_;
 };
 
+// Profiles of ten iterations each, after one that fills caches of the program.
+void count_instructions(const tarn::bench::Board &board) {
+    for (const auto &[name, run] : board.runs()) {
+        run();
+        CALLGRIND_ZERO_STATS;
+        for (int i = 0; i < 10; ++i) run();
+        CALLGRIND_DUMP_STATS_AT(name.c_str());
+    }
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -30,12 +43,15 @@ int main(int argc, char **argv) {
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
     char repetitions[] = "--benchmark_repetitions=15";
     char least_time[] = "--benchmark_min_time=0.02";
+    bool instructions = false;
     std::vector<char *> arguments{argv[0], interleaving, repetitions, least_time};
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--json") == 0 && i + 1 < argc) {
             json = argv[++i];
         } else if (std::strcmp(argv[i], "--pictures") == 0 && i + 1 < argc) {
             pictures = argv[++i];
+        } else if (std::strcmp(argv[i], "--instructions") == 0) {
+            instructions = true;
         } else {
             arguments.push_back(argv[i]);
         }
@@ -53,6 +69,10 @@ int main(int argc, char **argv) {
     add_protobuf(board);
     add_flatbuffers(board);
     add_capnp(board);
+    if (instructions) {
+        count_instructions(board);
+        return 0;
+    }
     add_curves(board);
     Collector collector(board);
     benchmark::RunSpecifiedBenchmarks(&collector);

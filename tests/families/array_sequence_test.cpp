@@ -1,4 +1,5 @@
 // The calls of array growth and of element states.
+#include <algorithm>
 #include <cerrno>
 
 #include "observed.h"
@@ -219,6 +220,34 @@ TEST_F(ArraySequence, AFailedDeepCopyLeavesTheElementItsPlace) {
         s.e.destroy(h, id, value);
         observing::quiet(false);
         EXPECT_EQ(h.live_blocks(), 0u);
+    });
+}
+
+// Where objects are not mapped nothing is dropped, so nothing is asked for and recorded anew.
+TEST_F(ArraySequence, AFailedDeepCopyWithoutMappingsAsksForNoOffset) {
+    each(Tracking::on, [&](const Handle &h, const Subject &s) {
+        s.m.element_set(h, id, object, 1, value, &err);
+        mirk_object *element = static_cast<mirk_object *>(s.m.element_get(h, id, object, 1, &err));
+        const auto before = h.state_offset(element);
+        const auto failed_copy = [&](uint32_t oid_mapping) {
+            h->oid_mapping = oid_mapping;
+            mirk_clear_last_error(h);
+            h.knobs().errors["_mirk_instance_variant_unmarshal"] = EPROTO;
+            const Lines lines = lines_of([&] { s.m.element_set_cr(h, object, 1, value, 0); });
+            h.knobs().errors.clear();
+            EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+            EXPECT_EQ(h.state_offset(element), before);
+            return std::count_if(lines.begin(), lines.end(), [](const std::string &line) {
+                return line.starts_with("mirklib_update_sttr_offset");
+            });
+        };
+        EXPECT_EQ(failed_copy(0), 0);
+        EXPECT_GT(failed_copy(1), 0);
+        mirk_clear_last_error(h);
+        observing::quiet();
+        s.r.destroy(h, id, object);
+        s.e.destroy(h, id, value);
+        observing::quiet(false);
     });
 }
 

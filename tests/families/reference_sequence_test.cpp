@@ -173,6 +173,21 @@ TEST_F(ReferenceSequence, ReferencesThatCannotBeReadStopTheDestruction) {
     });
 }
 
+TEST_F(ReferenceSequence, ReferencesAreAskedForAlthoughTheirCountFailed) {
+    each_address([&](const RecordOperations &r, const MemberOperations &m) {
+        if (name(m) == "dst_prefix") return;  // the end comes at the source prefix, which stands in front
+        Handle h;
+        h.knobs().address_oid_count = 2;
+        h.knobs().address_oid_count_error = EPROTO;
+        observing::clear_log();
+        EXPECT_EQ(sweep_of(h, r, m),
+                  (Lines{"ip_address_get_oid_count address", "ip_address_get_object_references address local 2",
+                         "skald_wrapper type 3 (ERR): " + name(r) +
+                             " destroy: Failed to get oid references from object. Error " + std::strerror(EPROTO)}));
+        EXPECT_EQ(h->last_error, 0u);
+    });
+}
+
 TEST_F(ReferenceSequence, TheQuestionsThemselvesTraceBeforeTheyFail) {
     Handle h;
     each_record([&](const RecordOperations &r) {

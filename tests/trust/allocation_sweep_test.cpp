@@ -186,10 +186,8 @@ TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
         mirk_platform_testing_capture_stop();
     }
     EXPECT_TRUE(scene.is_live(scene.object));
-    ASSERT_EQ(mirk_platform_testing_captured(), 1U);
-    EXPECT_NE(std::string(mirk_platform_testing_captured_line(0, nullptr, nullptr))
-                  .find(" destroy: Failed to get oid references from object. Error Cannot allocate memory"),
-              std::string::npos);
+    // Without room for them the references were not asked for, so no line says that they cannot be had.
+    EXPECT_EQ(mirk_platform_testing_captured(), 0U);
     std::uint32_t left = 0;
     EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[0], &left, nullptr), 0U);
     EXPECT_EQ(left, 1U);
