@@ -11,8 +11,8 @@
 
 #include "fuzz.h"
 #include "reference/text.h"
-#include "tools/tarn/items.h"
-#include "tools/tarn/output.h"
+#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/output.h"
 
 namespace {
 

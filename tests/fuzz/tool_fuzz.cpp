@@ -3,13 +3,13 @@
 #include <nlohmann/json.hpp>
 
 #include "fuzz.h"
-#include "tools/tarn/dissection.h"
-#include "tools/tarn/failure.h"
-#include "tools/tarn/items.h"
-#include "tools/tarn/json_form.h"
-#include "tools/tarn/output.h"
-#include "tools/tarn/reception.h"
-#include "tools/tarn/xml_check.h"
+#include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/xml_check.h"
+#include "tools/tarn/service/receiver.h"
+#include "tools/tarn/support/failure.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <exception>
 
-#include "command_line.h"
-#include "commands.h"
-#include "files.h"
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/support/files.h"
 
 namespace {
 

@@ -1,0 +1,37 @@
+// The command line as data: what completion and the manual page are made of. It is read from the definitions that the
+// command line itself is parsed with, so that there is nothing to keep in step.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tools/tarn/commands/commands.h"
+
+namespace tarn::tool {
+
+// What words stand for; an option's type, and so shown by --help as well.
+namespace words {
+inline constexpr const char *file = "FILE";
+inline constexpr const char *address = "ADDRESS";
+inline constexpr const char *bundle = "BUNDLE";
+inline constexpr const char *bundle_file = "BUNDLE=FILE";
+inline constexpr const char *bundle_or_message = "BUNDLE|MESSAGE";
+inline constexpr const char *type = "TYPE[.MEMBER...]";
+}  // namespace words
+
+std::vector<const CLI::App *> commands_of(const CLI::App &app);
+std::vector<const CLI::Option *> options_of(const CLI::App &command);  // those of its groups included
+std::vector<const CLI::Option *> positionals_of(const CLI::App &command);
+
+bool takes_value(const CLI::Option &option);
+std::string word_of(const CLI::Option &option);                  // what it takes, such as FILE
+std::vector<std::string> choices_of(const CLI::Option &option);  // if it takes one of a few words
+
+// Candidates for the last word, one a line, with a tab and an explanation if there is one. A line ":files" asks the
+// shell for file names.
+std::string completions(const CLI::App &app, const std::vector<std::string> &words);
+
+// tarn(1) for mandoc and groff.
+std::string manual_page(const CLI::App &app);
+
+}  // namespace tarn::tool

@@ -1,0 +1,128 @@
+// What may stand in place of the last word of a command line.
+#include <algorithm>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/type_names.h"
+
+namespace tarn::tool {
+
+namespace {
+
+class Candidates {
+public:
+    // `before` is what the word already has in front of the part that is completed.
+    Candidates(std::string word, std::string before) : word_(std::move(word)), before_(std::move(before)) {}
+
+    void add(std::string_view name, std::string_view meaning) {
+        const std::string whole = before_ + std::string(name);
+        if (whole.starts_with(word_)) text_ += whole + (meaning.empty() ? "" : "\t" + std::string(meaning)) + "\n";
+    }
+    // In short, as people write them; in full for who has begun so.
+    void add(const std::vector<Named> &names, const std::string &behind = "") {
+        const bool in_full = word_.substr(before_.size()).starts_with("lumo_");
+        for (const Named &n : names) {
+            add((in_full ? std::string(n.name) : short_form(n.name)) + behind, n.meaning);
+        }
+    }
+    void add_files() { text_ += ":files\n"; }
+    const std::string &text() const { return text_; }
+
+private:
+    std::string word_, before_, text_;
+};
+
+const CLI::Option *option_named(const CLI::App &command, const std::string &word) {
+    const std::string name = word.substr(0, word.find('='));
+    for (const CLI::Option *option : options_of(command)) {
+        if (option->check_name(name)) return option;
+    }
+    return nullptr;
+}
+
+std::string members(const std::string &word) {
+    const std::string path = word.substr(0, word.rfind('.'));
+    Candidates candidates(word, path + ".");
+    const Target target = target_of(path);
+    if (target && target.nested() != nullptr) {
+        for (const schema::Member &m : target.nested()->members) candidates.add(m.name, m.meaning);
+    }
+    return candidates.text();
+}
+
+std::string values(const CLI::Option &option, const std::string &word, const std::string &before) {
+    Candidates candidates(word, before);
+    const std::string kind = word_of(option);
+    if (const auto choices = choices_of(option); !choices.empty()) {
+        for (const std::string &choice : choices) candidates.add(choice, "");
+    } else if (kind == words::bundle) {
+        candidates.add(bundle_names());
+    } else if (kind == words::bundle_or_message) {
+        candidates.add(bundle_names());
+        candidates.add(message_names());
+    } else if (kind == words::type) {
+        if (word.find('.') != std::string::npos) return members(word);
+        candidates.add(type_names());
+    } else if (kind == words::bundle_file && word.find('=') == std::string::npos) {
+        candidates.add(bundle_names(), "=");
+    } else if (kind == words::file || kind == words::bundle_file) {
+        candidates.add_files();
+    }
+    return candidates.text();
+}
+
+}  // namespace
+
+std::string completions(const CLI::App &app, const std::vector<std::string> &words) {
+    const CLI::App *command = nullptr;
+    const CLI::Option *awaits = nullptr;  // the option whose value comes next
+    std::size_t positionals = 0;
+    bool options_end = false;
+    for (std::size_t i = 0; i + 1 < words.size(); ++i) {
+        const std::string &word = words[i];
+        if (awaits != nullptr) {
+            awaits = nullptr;
+        } else if (!options_end && word == "--") {
+            options_end = true;
+        } else if (!options_end && word.size() > 1 && word.front() == '-') {
+            const CLI::Option *option = option_named(command != nullptr ? *command : app, word);
+            const bool has_value = word.find('=') != std::string::npos;
+            if (option != nullptr && takes_value(*option) && !has_value) awaits = option;
+        } else if (command == nullptr) {
+            for (const CLI::App *candidate : commands_of(app)) {
+                if (candidate->get_name() == word) command = candidate;
+            }
+            if (command == nullptr) return {};
+        } else {
+            ++positionals;
+        }
+    }
+
+    const std::string &word = words.empty() ? "" : words.back();
+    const CLI::App &here = command != nullptr ? *command : app;
+    if (awaits != nullptr) return values(*awaits, word, "");
+    if (!options_end && word.starts_with('-')) {
+        const std::size_t equals = word.find('=');
+        if (equals != std::string::npos) {
+            const CLI::Option *option = option_named(here, word);
+            return option != nullptr ? values(*option, word, word.substr(0, equals + 1)) : std::string();
+        }
+        Candidates candidates(word, "");
+        for (const CLI::Option *option : options_of(here)) {
+            for (const std::string &name : option->get_lnames()) candidates.add("--" + name, option->get_description());
+        }
+        return candidates.text();
+    }
+    if (command == nullptr) {
+        Candidates candidates(word, "");
+        for (const CLI::App *c : commands_of(app)) candidates.add(c->get_name(), c->get_description());
+        return candidates.text();
+    }
+    const auto all = positionals_of(here);
+    if (all.empty()) return {};
+    const CLI::Option &last = *all.back();
+    if (positionals >= all.size() && last.get_items_expected_max() == 1) return {};
+    return values(*all[std::min(positionals, all.size() - 1)], word, "");
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,179 @@
+// tarn decode: frames, and recordings, into text, XML or JSON.
+#include <cstdio>
+#include <memory>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/xml.h"
+#include "tools/tarn/service/receiver.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/terminal.h"
+
+namespace tarn::tool {
+
+namespace {
+
+struct DecodeOptions {
+    std::string file = "-", via = "handle";
+    bool text = false, xml = false, json = false, bundles = false, keep_going = false, lenient = false, verbose = false;
+
+    Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
+};
+
+// Complains, and either goes on or gives up.
+class Complaints {
+public:
+    explicit Complaints(bool keep_going) : keep_going_(keep_going) {}
+
+    void add(const Failure &failure) {
+        if (!keep_going_) throw failure;
+        std::fflush(stdout);
+        std::fprintf(stderr, "tarn: %s\n", failure.what());
+        exit_ = failure.exit();
+    }
+    Exit exit() const { return exit_; }
+
+private:
+    bool keep_going_;
+    Exit exit_ = Exit::done;
+};
+
+// The library says that a frame is bad, the tables say where.
+Failure with_place(const Failure &failure, const Frame &frame, const std::string &origin) {
+    const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
+    const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();
+    const std::string words = failure.what();
+    const std::string place = frame_place(origin, frame.offset) + ": ";
+    return {failure.exit(), (words.substr(0, place.size()) == place ? words : place + words) + where};
+}
+
+void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
+    const Handles handles(Tracking::as_given);
+    Progress progress("decoding " + origin);
+    for (std::size_t offset = 0; offset < bytes.size();) {
+        const Frame frame = frame_at(bytes, offset, origin);
+        offset += frame.bytes.size();
+        progress.at(offset, bytes.size());
+        std::string out;
+        try {
+            Item item{frame.identity, std::nullopt, {}};
+            if (!frame.identity.is_control()) {
+                item.message.emplace(
+                    message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
+            }
+            out = rendered(item, options.style());
+        } catch (const Failure &failure) {
+            complaints.add(with_place(failure, frame, origin));
+        }
+        write_file("-", out);
+    }
+}
+
+// A message that the bundle being received does not admit is filed all the same; the bundle's table says that it is
+// wrong.
+void require_admitted(const Frame &frame, const reflect::BundleOperations *open, const std::string &origin) {
+    if (open == nullptr || frame.identity.is_control() || admits(*open, *frame.identity.operations)) return;
+    throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + std::string(open->bundle->name) +
+                                   " does not admit " + frame.identity.operations->name);
+}
+
+void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
+    const std::vector<Frame> frames = split_frames(bytes, origin);
+    const bool tracked = std::any_of(frames.begin(), frames.end(), [](const Frame &f) { return f.is_tracked(); });
+    Reception reception(tracked, via_named(options.via));
+    const reflect::BundleOperations *open = nullptr;
+    for (const Frame &frame : frames) {
+        try {
+            require_admitted(frame, open, origin);
+            reception.feed(frame, origin);
+            if (frame.identity.is_control()) open = reception.in_bundle() ? frame.identity.bundle : nullptr;
+        } catch (const Failure &failure) {
+            complaints.add(with_place(failure, frame, origin));
+        }
+        for (const Item &item : reception.take()) write_file("-", rendered(item, options.style()));
+        if (frame.identity.is_control() && frame.identity.control == Control::abort) {
+            complaints.add({Exit::different, frame_place(origin, frame.offset) + ": aborts " +
+                                                 std::string(frame.identity.bundle->bundle->name)});
+        }
+    }
+    if (reception.in_bundle()) {
+        complaints.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
+    }
+    if (options.verbose) std::fprintf(stderr, "%u bundles reached their handler\n", reception.committed());
+}
+
+void decode_fragments(std::string_view content, const std::string &origin, const DecodeOptions &options,
+                      Complaints &complaints) {
+    const Handles handles(Tracking::as_given);
+    for (const Fragment &fragment : split_fragments(content, origin)) {
+        std::string out;
+        try {
+            const std::optional<Identity> control = control_in(fragment, origin);
+            Item item{control ? *control : Identity{nullptr}, std::nullopt, {}};
+            if (!control) {
+                item.message.emplace(message_from_xml(handles, fragment, origin, options.lenient));
+                item.identity.operations = &item.message->operations();
+            }
+            out = rendered(item, options.style());
+        } catch (const Failure &failure) {
+            complaints.add(failure);
+        }
+        write_file("-", out);
+    }
+}
+
+Exit run_decode(const DecodeOptions &options) {
+    set_up_trace(options.verbose);
+    const std::string content = read_file(options.file);
+    const std::string origin = shown_path(options.file);
+    Complaints complaints(options.keep_going);
+    switch (form_of(content, origin)) {
+        case Form::frames:
+            (options.bundles ? deliver : decode_each)(bytes_of(content), origin, options, complaints);
+            break;
+        case Form::xml:
+            decode_fragments(content, origin, options, complaints);
+            break;
+        case Form::json: {
+            const Handles handles(Tracking::as_given);
+            for (const Item &item : items_of(handles, content, origin, options.lenient)) {
+                write_file("-", rendered(item, options.style()));
+            }
+        }
+    }
+    return complaints.exit();
+}
+
+}  // namespace
+
+void add_decode(CLI::App &app, Context &context) {
+    auto options = std::make_shared<DecodeOptions>();
+    CLI::App *command = app.add_subcommand("decode", "frames and recordings into text, XML or JSON");
+    command->add_option("file", options->file, "frames, a run of XML fragments, or JSON; - is standard input")
+        ->type_name(words::file)
+        ->capture_default_str();
+    CLI::Option_group *form = command->add_option_group("form", "what to make of them");
+    form->add_flag("--text", options->text, "indented text, which is the default");
+    form->add_flag("--xml", options->xml, "XML, one message to a line");
+    form->add_flag("--json", options->json, "JSON, one object to a line");
+    form->require_option(0, 1);
+    command->add_flag("--bundles", options->bundles,
+                      "deliver the frames as a receiver does: messages appear when their bundle is committed");
+    command->add_option("--via", options->via, "with --bundles: which link of the handler chain takes them")
+        ->check(CLI::IsMember(via_words()))
+        ->capture_default_str();
+    command->add_flag("-k,--keep-going", options->keep_going, "complain of what is broken, and go on behind it");
+    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know in XML and JSON");
+    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    command->footer(
+        "The message is found from each frame's luid; frames with per-field state are read with it.\n\n"
+        "Examples:\n"
+        "  tarn decode answer.bin --json\n"
+        "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles --via module -v\n"
+        "  tarn decode recording.xml");
+    command->callback([options, &context] { context.exit = run_decode(*options); });
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,154 @@
+// tarn diff: two messages, or runs of messages, member by member.
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/terminal.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+struct DiffOptions {
+    std::string a, b;
+    bool json = false, quiet = false, no_state = false, lenient = false;
+};
+
+struct Difference {
+    std::string path;
+    const ordered_json *a, *b;  // null where there is nothing
+};
+
+class Comparison {
+public:
+    explicit Comparison(bool with_state) : with_state_(with_state) {}
+
+    void compare(const std::string &path, const ordered_json &a, const ordered_json &b) {
+        if (a.is_object() && b.is_object()) {
+            compare_objects(path, a, b);
+        } else if (a.is_array() && b.is_array()) {
+            for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
+                const std::string below = path + "[" + std::to_string(i) + "]";
+                if (i < a.size() && i < b.size()) {
+                    compare(below, a[i], b[i]);
+                } else {
+                    add(below, i < a.size() ? &a[i] : nullptr, i < b.size() ? &b[i] : nullptr);
+                }
+            }
+        } else if (a != b) {
+            add(path, &a, &b);
+        }
+    }
+
+    std::vector<Difference> differences;
+
+private:
+    void add(const std::string &path, const ordered_json *a, const ordered_json *b) {
+        differences.push_back({path, a, b});
+    }
+
+    bool passed_over(const std::string &name) const {
+        return !with_state_ && (name == "@state" || name == "@members" || name == "tracked");
+    }
+
+    void compare_objects(const std::string &path, const ordered_json &a, const ordered_json &b) {
+        for (const auto &item : a.items()) {
+            if (passed_over(item.key())) continue;
+            const auto other = b.find(item.key());
+            const std::string below = path + "." + item.key();
+            if (other == b.end()) {
+                add(below, &item.value(), nullptr);
+            } else {
+                compare(below, item.value(), *other);
+            }
+        }
+        for (const auto &item : b.items()) {
+            if (!passed_over(item.key()) && !a.contains(item.key()))
+                add(path + "." + item.key(), nullptr, &item.value());
+        }
+    }
+
+    bool with_state_;
+};
+
+ordered_json load(const std::string &path, bool lenient) {
+    const Handles handles(Tracking::as_given);
+    ordered_json all = ordered_json::array();
+    for (const Item &item : read_items(handles, path, lenient)) all.push_back(json_of(item));
+    return all;
+}
+
+std::string shown(const ordered_json *json) { return json->is_structured() ? "{...}" : json->dump(); }
+
+void print(const std::vector<Difference> &differences) {
+    std::string out;
+    for (const Difference &d : differences) {
+        if (d.a != nullptr && d.b != nullptr) {
+            out +=
+                d.path + ": " + painted(d.a->dump(), Colour::red) + " -> " + painted(d.b->dump(), Colour::green) + "\n";
+        } else if (d.a != nullptr) {
+            out += d.path + ": " + painted("only in A: " + shown(d.a), Colour::red) + "\n";
+        } else {
+            out += d.path + ": " + painted("only in B: " + shown(d.b), Colour::green) + "\n";
+        }
+    }
+    write_file("-", out);
+}
+
+void print_json(const std::vector<Difference> &differences) {
+    ordered_json all = ordered_json::array();
+    for (const Difference &d : differences) {
+        ordered_json one{{"path", d.path}};
+        if (d.a != nullptr) one["a"] = *d.a;
+        if (d.b != nullptr) one["b"] = *d.b;
+        all.push_back(one);
+    }
+    write_file("-", all.dump(2) + "\n");
+}
+
+Exit run_diff(const DiffOptions &options) {
+    const ordered_json a = load(options.a, options.lenient), b = load(options.b, options.lenient);
+    Comparison comparison(!options.no_state);
+    // A lone message needs no index in front of its paths.
+    for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
+        const std::string path = std::max(a.size(), b.size()) == 1 ? "" : "[" + std::to_string(i) + "]";
+        if (i < a.size() && i < b.size()) {
+            comparison.compare(path, a[i], b[i]);
+        } else {
+            comparison.differences.push_back({path, i < a.size() ? &a[i] : nullptr, i < b.size() ? &b[i] : nullptr});
+        }
+    }
+    for (Difference &d : comparison.differences) {
+        if (!d.path.empty() && d.path[0] == '.') d.path.erase(0, 1);
+    }
+    if (!options.quiet) (options.json ? print_json : print)(comparison.differences);
+    return comparison.differences.empty() ? Exit::done : Exit::different;
+}
+
+}  // namespace
+
+void add_diff(CLI::App &app, Context &context) {
+    auto options = std::make_shared<DiffOptions>();
+    CLI::App *command = app.add_subcommand("diff", "two messages member by member");
+    command->add_option("a", options->a, "frames, XML or JSON")->type_name(words::file)->required();
+    command->add_option("b", options->b, "frames, XML or JSON, not necessarily of the same form")
+        ->type_name(words::file)
+        ->required();
+    command->add_flag("--json", options->json, "as JSON");
+    command->add_flag("-q,--quiet", options->quiet, "say nothing, the exit code tells");
+    command->add_flag("--no-state", options->no_state, "pass over per-field state");
+    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
+    command->footer(
+        "Exit codes: 0 no difference, 1 different, 2 one of them cannot be read.\n\n"
+        "Examples:\n"
+        "  tarn diff before.bin after.bin\n"
+        "  tarn diff examples/cl_debug.xml answer.json --json");
+    command->callback([options, &context] { context.exit = run_diff(*options); });
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,176 @@
+// tarn generate: plausible answers for trying things out.
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/output.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/plausible.h"
+#include "tools/tarn/support/terminal.h"
+
+namespace tarn::tool {
+
+namespace {
+
+struct GenerateOptions {
+    std::string what, output = "-", form = "xml";
+    std::uint64_t seed = 1;
+    std::uint32_t elements = 3;
+    std::uint64_t size = 0;
+    bool tracked = false, bundle = false;
+};
+
+// Bytes of a payload's frame, without reading it into an instance first.
+std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &record, bool tracked) {
+    std::size_t size = 6;
+    for (const schema::Member &m : record.members) {
+        if (m.role != schema::Role::value) {
+            size += std::size_t{1} << static_cast<unsigned>(m.kind);
+            continue;
+        }
+        const nlohmann::ordered_json &value = json[std::string(m.name)];
+        std::size_t states = 1;
+        switch (m.kind) {
+            case schema::Kind::boolean:
+                size += 2;
+                break;
+            case schema::Kind::enumeration:
+                size += 5;
+                break;
+            case schema::Kind::address:
+                size += tracked ? 33 : 26;
+                break;
+            case schema::Kind::record:
+                size += wire_size(value, *m.record, tracked);
+                break;
+            case schema::Kind::string:
+                size += value.get_ref<const std::string &>().size();
+                break;
+            case schema::Kind::array:
+                for (const auto &element : value) size += wire_size(element, *m.record, tracked);
+                states = value.empty() ? 0 : 1 + value.size();
+                break;
+            default:
+                size += std::size_t{1} << static_cast<unsigned>(m.kind);
+        }
+        size += tracked ? states : 0;
+    }
+    return size;
+}
+
+class Generator {
+public:
+    Generator(const GenerateOptions &options, const reflect::MessageOperations &operations)
+        : options_(options), operations_(operations), handles_(options.tracked ? Tracking::on : Tracking::off) {}
+
+    Item make(std::uint32_t elements) const {
+        const nlohmann::ordered_json json{{"message", operations_.name}, {"payload", payload(elements)}};
+        return std::move(from_json(handles_, json.dump(), "generated", false).front());
+    }
+
+    // The least number of elements whose frame is at least as large as asked for, or, if no number reaches that, one
+    // beyond which the frame does not grow.
+    std::uint32_t elements_for(std::uint64_t size) const {
+        Progress progress("looking for the size");
+        std::uint32_t most = 1;
+        std::size_t reached = size_of(most), before = 0;
+        while (reached < size && reached != before) {
+            progress.at(reached, size);
+            before = std::exchange(reached, size_of(most *= 2));
+        }
+        std::uint32_t least = most / 2 + 1;
+        while (least < most) {
+            const std::uint32_t middle = least + (most - least) / 2;
+            const bool too_small = size_of(middle) < size;
+            (too_small ? least : most) = too_small ? middle + 1 : middle;
+        }
+        return most;
+    }
+
+private:
+    nlohmann::ordered_json payload(std::uint32_t elements) const {
+        return Plausible(options_.seed, elements).make(operations_.message->payload);
+    }
+    std::size_t size_of(std::uint32_t elements) const {
+        return MIRK_PLATFORM_FRAME_SIZE + wire_size(payload(elements), operations_.message->payload, options_.tracked);
+    }
+
+    const GenerateOptions &options_;
+    const reflect::MessageOperations &operations_;
+    Handles handles_;
+};
+
+// A bundle by its name, or a message by its own.
+const reflect::MessageOperations &message_for(const std::string &what, const reflect::BundleOperations *&bundle) {
+    for (const reflect::MessageOperations &o : reflect::messages()) {
+        if (what == o.name) {
+            bundle = &bundle_of(o);
+            return o;
+        }
+    }
+    bundle = &bundle_named(what);
+    return reflect::operations_of(bundle->bundle->message);
+}
+
+std::string in_form(const Item &item, const std::string &form) {
+    if (form == "text") return rendered(item, Style::text);
+    if (form == "xml") return rendered(item, Style::xml);
+    if (form == "json") return rendered(item, Style::json);
+    static const Handle any(false);
+    const Handle &handle = item.message ? item.message->handle() : any;
+    const Bytes frame = frame_of(handle, *item.identity.operations, item.object());
+    return {frame.begin(), frame.end()};
+}
+
+void run_generate(const GenerateOptions &options) {
+    const reflect::BundleOperations *bundle = nullptr;
+    const reflect::MessageOperations &operations = message_for(options.what, bundle);
+    const Generator generator(options, operations);
+    const Item item = generator.make(options.size != 0 ? generator.elements_for(options.size) : options.elements);
+    std::string out;
+    const auto control = [&](Control c) {
+        if (!options.bundle) return;
+        out += in_form({{&operations_of(*bundle, c), bundle, c}, std::nullopt, {}}, options.form);
+    };
+    control(Control::start);
+    out += in_form(item, options.form);
+    control(Control::commit);
+    write_file(options.output, out);
+}
+
+}  // namespace
+
+void add_generate(CLI::App &app, Context &) {
+    auto options = std::make_shared<GenerateOptions>();
+    CLI::App *command = app.add_subcommand("generate", "plausible random answers");
+    command->add_option("what", options->what, "a bundle by name or short form, or a message by name")
+        ->type_name(words::bundle_or_message)
+        ->required();
+    command->add_option("--seed", options->seed, "the same seed gives the same answer")->capture_default_str();
+    CLI::Option *elements =
+        command->add_option("--elements", options->elements, "about how many elements each list has")
+            ->check(CLI::Range(0U, 1000000U))
+            ->capture_default_str();
+    command->add_option("--size", options->size, "make the frame at least so large, such as 64K or 1M")
+        ->transform(CLI::AsSizeValue(false))
+        ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 28))
+        ->excludes(elements);
+    command->add_option("--form", options->form, "what to write")
+        ->check(CLI::IsMember({"xml", "json", "text", "frames"}))
+        ->capture_default_str();
+    command->add_option("-o,--output", options->output, "where to write it; - is standard output")
+        ->type_name(words::file)
+        ->capture_default_str();
+    command->add_flag("--tracked", options->tracked, "with per-field state");
+    command->add_flag("--bundle", options->bundle, "with the start and the commit of its bundle around it");
+    command->footer(
+        "Examples:\n"
+        "  tarn generate dp-tt-cfg --seed 7 --elements 4 -o tables.xml\n"
+        "  tarn generate dp-appl-cfg --size 1M --form frames --bundle | tarn decode --bundles --json\n"
+        "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.xml");
+    command->callback([options] { run_generate(*options); });
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,135 @@
+// tarn manifest: the section .orrin of a library file: the list of its types, and who built it when.
+#include <elf.h>
+
+#include <cstring>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/support/files.h"
+
+namespace tarn::tool {
+
+namespace {
+
+struct ManifestOptions {
+    std::string file;
+    bool json = false;
+};
+
+// Reads nothing beyond the file's end, whatever its tables claim.
+class ElfFile {
+public:
+    ElfFile(std::string_view bytes, const std::string &path) : bytes_(bytes), path_(path) {
+        if (bytes.substr(0, SELFMAG) != ELFMAG) fail("is no ELF file");
+        if (bytes.size() < EI_NIDENT || bytes[EI_DATA] != ELFDATA2LSB) fail("is no little-endian ELF file");
+    }
+
+    std::string_view section(std::string_view name) const {
+        if (bytes_[EI_CLASS] == ELFCLASS64) return find<Elf64_Ehdr, Elf64_Shdr>(name);
+        if (bytes_[EI_CLASS] == ELFCLASS32) return find<Elf32_Ehdr, Elf32_Shdr>(name);
+        fail("is neither a 32-bit nor a 64-bit ELF file");
+    }
+
+private:
+    [[noreturn]] void fail(const std::string &reason) const { throw Failure(Exit::input, path_ + ": " + reason); }
+
+    std::string_view part(std::uint64_t offset, std::uint64_t size, const char *what) const {
+        if (offset > bytes_.size() || size > bytes_.size() - offset) {
+            fail(std::string(what) + " lies behind the end of the file");
+        }
+        return bytes_.substr(offset, size);
+    }
+    template <class T>
+    T load(std::uint64_t offset, const char *what) const {
+        T value;
+        std::memcpy(&value, part(offset, sizeof value, what).data(), sizeof value);
+        return value;
+    }
+
+    template <class File, class Section>
+    std::string_view find(std::string_view name) const {
+        const auto file = load<File>(0, "the file header");
+        const auto header = [&](std::uint64_t index) {
+            return load<Section>(file.e_shoff + index * sizeof(Section), "a section header");
+        };
+        if (file.e_shoff == 0) return {};
+        const std::uint64_t count = file.e_shnum != 0 ? file.e_shnum : header(0).sh_size;
+        const std::uint64_t names_at = file.e_shstrndx != SHN_XINDEX ? file.e_shstrndx : header(0).sh_link;
+        const Section names = header(names_at);
+        const std::string_view words = part(names.sh_offset, names.sh_size, "the table of names");
+        for (std::uint64_t i = 0; i < count; ++i) {
+            const Section section = header(i);
+            if (section.sh_name >= words.size()) continue;
+            const std::string_view word = words.substr(section.sh_name);
+            if (word.substr(0, word.find('\0')) == name) return part(section.sh_offset, section.sh_size, "the section");
+        }
+        return {};
+    }
+
+    std::string_view bytes_;
+    const std::string &path_;
+};
+
+struct Block {
+    std::uint32_t kind;
+    std::string text;
+};
+
+std::uint32_t number_at(std::string_view bytes, std::size_t at) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 4; i-- > 0;) value = value << 8 | static_cast<std::uint8_t>(bytes[at + i]);
+    return value;
+}
+
+std::vector<Block> blocks_of(std::string_view section, const std::string &path) {
+    std::vector<Block> blocks;
+    for (std::size_t at = 0; at < section.size();) {
+        const std::size_t left = section.size() - at;
+        const std::uint32_t length = left >= 8 ? number_at(section, at) : 0;
+        if (left < 8 || length == 0 || length > left - 8) {
+            throw Failure(Exit::input, path + ": .orrin is broken at offset " + std::to_string(at));
+        }
+        blocks.push_back({number_at(section, at + 4), std::string(section.substr(at + 8, length - 1))});
+        at += 8 + (std::size_t{length} + 3) / 4 * 4;
+    }
+    return blocks;
+}
+
+std::string block_kind(std::uint32_t kind) {
+    return kind == 2 ? "schema list" : kind == 1 ? "build stamp" : "kind " + std::to_string(kind);
+}
+
+Exit run_manifest(const ManifestOptions &options) {
+    const std::string content = read_file(options.file);
+    const ElfFile file(content, options.file);
+    const std::string_view section = file.section(".orrin");
+    if (section.empty()) throw Failure(Exit::different, options.file + ": has no section .orrin");
+    nlohmann::ordered_json json = nlohmann::ordered_json::array();
+    std::string out;
+    for (const Block &block : blocks_of(section, options.file)) {
+        json.push_back({{"kind", block.kind}, {"meaning", block_kind(block.kind)}, {"text", block.text}});
+        out += (out.empty() ? "" : "\n") + block_kind(block.kind) + ":\n" + block.text;
+        if (!block.text.empty() && block.text.back() != '\n') out += "\n";
+    }
+    write_file("-", options.json ? json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n" : out);
+    return Exit::done;
+}
+
+}  // namespace
+
+void add_manifest(CLI::App &app, Context &context) {
+    auto options = std::make_shared<ManifestOptions>();
+    CLI::App *command = app.add_subcommand("manifest", "what a library file says of its types and its build");
+    command->add_option("file", options->file, "an ELF file")->type_name(words::file)->required();
+    command->add_flag("--json", options->json, "as JSON");
+    command->footer(
+        "Exit codes: 0 printed, 1 the file has no manifest, 2 it is no ELF file or is damaged.\n\n"
+        "Examples:\n"
+        "  tarn manifest build/release/liblumo_ui_tarn.so\n"
+        "  tarn manifest liblumo_ui_tarn.so.1 --json");
+    command->callback([options, &context] { context.exit = run_manifest(*options); });
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,183 @@
+// tarn record: keeps what is received, through the recorder of the runtime.
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <thread>
+
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/service/client.h"
+#include "tools/tarn/support/files.h"
+
+namespace tarn::tool {
+
+namespace {
+
+struct RecordOptions {
+    std::string output, full, from;
+    Place place;
+    AnswerLimits limits;
+    std::vector<std::string> what;
+    unsigned rounds = 1;
+    double interval = 1, timeout = 10;
+    bool tracked = false, verbose = false;
+};
+
+// Switches the recorder on for as long as it lives. What it writes comes out piece by piece, so that this program sees
+// what became of each.
+class Recorder {
+public:
+    Recorder() : stream_(open_memstream(&text_, &size_)) {
+        if (stream_ == nullptr) throw std::bad_alloc();
+        mirk_platform_recorder_set(1, stream_);
+    }
+    Recorder(const Recorder &) = delete;
+    Recorder &operator=(const Recorder &) = delete;
+    ~Recorder() {
+        mirk_platform_recorder_set(0, nullptr);
+        std::fclose(stream_);
+        std::free(text_);
+    }
+
+    // What came since the last time; empty if the recorder left it out.
+    std::string take() {
+        if (std::fflush(stream_) != 0 || std::ferror(stream_) != 0) throw std::bad_alloc();
+        std::string piece(text_, size_);
+        std::rewind(stream_);
+        return piece;
+    }
+
+private:
+    char *text_ = nullptr;
+    std::size_t size_ = 0;
+    FILE *stream_;
+};
+
+// Keeps what is received, message by message: what was kept before a failure stays.
+class Keeper {
+public:
+    explicit Keeper(const RecordOptions &options) : recording_(options.output) {
+        if (!options.full.empty()) frames_.emplace(options.full);
+    }
+
+    void feed(Reception &reception, const Frame &frame, const std::string &origin) {
+        reception.feed(frame, origin);
+        if (frames_) frames_->append({reinterpret_cast<const char *>(frame.bytes.data()), frame.bytes.size()});
+        if (frame.identity.is_control()) return;
+        ++messages_;
+        const std::string piece = recorder_.take();
+        if (piece.empty()) {
+            // The recorder leaves out, without an error, what its buffer does not take.
+            ++too_large_;
+            std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
+                         frame_place(origin, frame.offset).c_str(), frame.identity.operations->name,
+                         frame.bytes.size());
+            return;
+        }
+        recording_.append(piece);
+        ++recorded_;
+    }
+
+    void finish() {
+        recording_.finish();
+        if (frames_) frames_->finish();
+    }
+    void tell() const { std::printf("recorded %u of %u messages\n", recorded_, messages_); }
+    bool is_complete() const { return too_large_ == 0 || frames_; }
+
+private:
+    GrowingFile recording_;
+    std::optional<GrowingFile> frames_;
+    Recorder recorder_;
+    unsigned messages_ = 0, recorded_ = 0, too_large_ = 0;
+};
+
+void record_from_file(const RecordOptions &options, Keeper &keeper) {
+    const std::string content = read_file(options.from);
+    const std::string origin = shown_path(options.from);
+    Reception reception(options.tracked, Via::handle);
+    for (const Frame &frame : split_frames(bytes_of(content), origin)) {
+        keeper.feed(reception, frame, origin);
+        reception.take();
+    }
+}
+
+void record_from_socket(const RecordOptions &options, Keeper &keeper) {
+    for (unsigned round = 0; round < options.rounds; ++round) {
+        if (round != 0) std::this_thread::sleep_for(std::chrono::duration<double>(options.interval));
+        for (const std::string &what : options.what) {
+            const reflect::BundleOperations &bundle = bundle_named(what);
+            Reception reception(options.tracked, Via::handle);
+            Connection connection(options.place, Deadline(options.timeout), options.limits);
+            connection.ask(bundle, options.tracked);
+            receive_answer(connection, reception, bundle,
+                           [&](const Frame &frame) { keeper.feed(reception, frame, options.place.text()); });
+        }
+    }
+}
+
+Exit run_record(const RecordOptions &options) {
+    set_up_trace(options.verbose);
+    Keeper keeper(options);
+    try {
+        (options.from.empty() ? record_from_socket : record_from_file)(options, keeper);
+        keeper.finish();
+    } catch (const std::exception &) {
+        keeper.tell();
+        throw;
+    }
+    keeper.tell();
+    return keeper.is_complete() ? Exit::done : Exit::different;
+}
+
+}  // namespace
+
+void add_record(CLI::App &app, Context &context) {
+    auto options = std::make_shared<RecordOptions>();
+    CLI::App *command = app.add_subcommand("record", "keep what is received in a file");
+    command->add_option("what", options->what, "bundles to ask for, by name or short form")->type_name(words::bundle);
+    command->add_option("-o,--output", options->output, "the recording: XML fragments, one behind the other")
+        ->type_name(words::file)
+        ->required();
+    command
+        ->add_option("--full", options->full,
+                     "keep all frames in this file, too, also those too large for the recorder")
+        ->type_name(words::file);
+    CLI::Option *socket = command->add_option("--socket", options->place.socket, "socket file of the answering process")
+                              ->type_name(words::file);
+    CLI::Option *connect =
+        command->add_option("--connect", options->place.tcp, tcp_words("its TCP address"))->type_name(words::address);
+    CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead")
+                            ->type_name(words::file);
+    socket->excludes(from)->excludes(connect);
+    connect->excludes(from);
+    command->add_option("--rounds", options->rounds, "ask for each bundle so many times")->capture_default_str();
+    command->add_option("--interval", options->interval, "seconds between the rounds")->capture_default_str();
+    command->add_option("--timeout", options->timeout, "seconds to wait for a whole answer")
+        ->check(CLI::Range(0.001, 86400.0))
+        ->capture_default_str();
+    options->limits.add_options(*command);
+    command->add_flag("--tracked", options->tracked, "ask for per-field state, and record it");
+    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    command->footer(
+        "The recorder takes messages of up to 4096 bytes of XML. Each larger one is named, and the exit code is then "
+        "1\n"
+        "unless --full keeps them. \"tarn decode\" reads both files. Each message is written when it has come: after "
+        "a\n"
+        "full disk, which ends it with exit code 3, or after whatever else, the files hold all messages before, "
+        "whole.\n\n"
+        "Examples:\n"
+        "  tarn record cl-debug dp-intf --socket /tmp/tarn.sock -o recording.xml\n"
+        "  tarn record dp-tt-cfg --socket /tmp/tarn.sock -o recording.xml --full frames.bin --rounds 10\n"
+        "  tarn record --from frames.bin -o recording.xml");
+    command->callback([options, &context] {
+        if (options->from.empty() && (!options->place.is_given() || options->what.empty())) {
+            throw Failure(Exit::input, "either --from, or --socket or --connect and at least one bundle, is needed");
+        }
+        context.exit = run_record(*options);
+    });
+}
+
+}  // namespace tarn::tool

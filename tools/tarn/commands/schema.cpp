@@ -1,0 +1,261 @@
+// tarn schema: the schema as lists, trees and tables.
+#include <functional>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "pictures.h"
+#include "schema_body.h"
+#include "schema_script.h"
+#include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/formats/schema.h"
+#include "tools/tarn/pages/page.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/terminal.h"
+#include "tools/tarn/support/type_names.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+using schema::Kind;
+using schema::Member;
+using schema::Record;
+
+struct SchemaOptions {
+    std::string name;
+    bool tree = false, dot = false, json = false, html = false;
+};
+
+std::string slot_text(const Member &m, const schema::Place &place) {
+    if (!schema::is_tracked(m)) return "-";
+    const std::string slot = std::to_string(place.slot);
+    if (m.kind == Kind::array) return slot + ", vector at " + std::to_string(place.inner);
+    return schema::has_area(m) ? slot + ", own from " + std::to_string(place.inner) : slot;
+}
+
+std::string padded(std::string text, std::size_t width) {
+    if (text.size() < width) text.resize(width, ' ');
+    return text;
+}
+
+// Columns as wide as their widest cell.
+std::string table(const std::vector<std::vector<std::string>> &rows) {
+    std::vector<std::size_t> widths;
+    for (const auto &row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    }
+    std::string out;
+    for (const auto &row : rows) {
+        std::string line = "  ";
+        for (std::size_t i = 0; i < row.size(); ++i)
+            line += i + 1 < row.size() ? padded(row[i], widths[i] + 2) : row[i];
+        const bool heading = &row == &rows.front();
+        out += heading ? painted(line, Colour::grey) + "\n" : line + "\n";
+    }
+    return out;
+}
+
+std::string list_text() {
+    std::string out = "bundles\n";
+    std::vector<std::vector<std::string>> rows{{"short form", "name", "admits"}};
+    for (const auto *b : schema::bundles) {
+        rows.push_back({short_form(b->name), std::string(b->name), std::string(b->message.name)});
+    }
+    out += table(rows) + "\nmessages\n";
+    rows = {{"name", "luid", "payload"}};
+    for (const auto *m : schema::messages) {
+        rows.push_back({std::string(m->name), m->luid.text.data(), std::string(m->payload.name)});
+    }
+    out += table(rows) + "\nenumerations\n";
+    rows = {{"name", "luid", "meaning"}};
+    for (const auto *e : schema::enumerations) {
+        rows.push_back({std::string(e->name), e->luid.text.data(), std::string(e->meaning)});
+    }
+    out += table(rows) + "\nrecords\n";
+    rows = {{"name", "members", "base size", "state", "wire", "meaning"}};
+    for (const auto *r : schema::records) {
+        const schema::Layout layout = schema::lay_out(*r);
+        rows.push_back({std::string(r->name), std::to_string(r->members.size()), std::to_string(layout.base_size),
+                        std::to_string(layout.state_width), wire_text(*r), std::string(r->meaning)});
+    }
+    return out + table(rows);
+}
+
+// A heading, and a row for each member.
+std::vector<std::vector<std::string>> record_rows(const Record &record) {
+    const schema::Layout layout = schema::lay_out(record);
+    std::vector<std::vector<std::string>> rows{{"member", "kind", "role", "offset", "size", "slot", "wire", "meaning"}};
+    for (std::size_t i = 0; i < record.members.size(); ++i) {
+        const Member &m = record.members[i];
+        const schema::Place &place = layout.places[i];
+        rows.push_back({std::string(m.name), kind_text(m), role_text(m), std::to_string(place.offset),
+                        std::to_string(place.size), slot_text(m, place), wire_text(m), std::string(m.meaning)});
+    }
+    return rows;
+}
+
+std::string record_text(const Record &record) {
+    const schema::Layout layout = schema::lay_out(record);
+    std::string out = std::string(record.name) + ": " + std::string(record.meaning) + "\n  luid " +
+                      record.luid.text.data() + ", base size " + std::to_string(layout.base_size) + ", state area " +
+                      std::to_string(layout.state_width) + ", on the wire " + wire_text(record) + " bytes\n";
+    return out + table(record_rows(record));
+}
+
+std::string enumeration_text(const schema::Enumeration &e) {
+    std::string out = std::string(e.name) + ": " + std::string(e.meaning) + "\n  luid " + e.luid.text.data() + "\n";
+    for (std::size_t i = 0; i < e.enumerators.size(); ++i) {
+        out += "  " + padded(std::to_string(i), 4) + std::string(e.enumerators[i]) + "\n";
+    }
+    return out;
+}
+
+void add_tree(const Record &record, const std::string &indent, std::string &out) {
+    for (const Member &m : record.members) {
+        if (m.role != schema::Role::value) continue;
+        out += indent + std::string(m.name) + "  " + painted(kind_text(m), Colour::blue) + "\n";
+        if (m.record != nullptr) add_tree(*m.record, indent + "  ", out);
+    }
+}
+
+std::string tree_text(const Record &record) {
+    std::string out = std::string(record.name) + "\n";
+    add_tree(record, "  ", out);
+    return out;
+}
+
+std::string dot_text(const std::function<bool(const Record &)> &wanted) {
+    std::string out = "digraph schema {\n  rankdir=LR;\n  node [shape=box];\n";
+    for (const auto *b : schema::bundles) {
+        if (!wanted(b->message.payload)) continue;
+        out += "  \"" + std::string(b->name) + "\" [shape=ellipse];\n  \"" + std::string(b->name) + "\" -> \"" +
+               std::string(b->message.name) + "\";\n";
+    }
+    for (const auto *m : schema::messages) {
+        if (!wanted(m->payload)) continue;
+        out += "  \"" + std::string(m->name) + "\" -> \"" + std::string(m->payload.name) + "\";\n";
+    }
+    for (const auto *r : schema::records) {
+        if (!wanted(*r)) continue;
+        out += "  \"" + std::string(r->name) + "\";\n";
+        for (const Member &m : r->members) {
+            if (m.record == nullptr) continue;
+            out += "  \"" + std::string(r->name) + "\" -> \"" + std::string(m.record->name) + "\" [label=\"" +
+                   std::string(m.name) + (m.kind == Kind::array ? "[]" : "") + "\"];\n";
+        }
+    }
+    return out + "}\n";
+}
+
+[[noreturn]] void unknown(const std::string &name) {
+    std::vector<std::string> candidates;
+    for (const auto *r : schema::records) candidates.push_back(short_form(r->name));
+    for (const auto *r : schema::records) candidates.emplace_back(r->name);
+    for (const auto *b : schema::bundles) candidates.push_back(short_form(b->name));
+    throw Failure(Exit::input, "the schema has no \"" + name + "\"" + suggestion(name, candidates));
+}
+
+[[noreturn]] void unknown_member(const std::string &path) {
+    std::vector<std::string> candidates;
+    const std::string in = path.substr(0, path.rfind('.'));
+    if (const Target target = target_of(in); target && target.nested() != nullptr) {
+        for (const Member &m : target.nested()->members) candidates.push_back(in + "." + std::string(m.name));
+    }
+    throw Failure(Exit::input, "the schema has no \"" + path + "\"" + suggestion(path, candidates));
+}
+
+bool reaches(const Record &from, const Record &to) {
+    if (&from == &to) return true;
+    for (const Member &m : from.members) {
+        if (m.record != nullptr && reaches(*m.record, to)) return true;
+    }
+    return false;
+}
+
+std::string of_enumeration(const schema::Enumeration &e, bool as_json) {
+    if (!as_json) return enumeration_text(e);
+    return ordered_json{{"name", e.name}, {"luid", e.luid.text.data()}, {"enumerators", e.enumerators}}.dump(2) + "\n";
+}
+
+// The member's row, and what it nests.
+std::string of_member(const Target &target, const SchemaOptions &options) {
+    const Member &member = *target.member;
+    const bool nests = member.record != nullptr;
+    if (options.tree)
+        return nests ? tree_text(*member.record) : std::string(member.name) + "  " + kind_text(member) + "\n";
+    if (options.dot && nests) return dot_text([&member](const Record &r) { return reaches(*member.record, r); });
+    if (options.dot) throw Failure(Exit::input, options.name + " nests nothing that could be drawn");
+    const auto at = static_cast<std::size_t>(&member - target.record->members.data());
+    if (options.json) return json_of_record(*target.record)["members"][at].dump(2) + "\n";
+    const auto rows = record_rows(*target.record);
+    std::string out = std::string(target.record->name) + "." + std::string(member.name) + "\n";
+    out += table({rows.front(), rows[at + 1]});
+    if (nests) out += "\n" + record_text(*member.record);
+    if (member.enumeration != nullptr) out += "\n" + enumeration_text(*member.enumeration);
+    return out;
+}
+
+std::string of_one(const SchemaOptions &options) {
+    if (options.html) throw Failure(Exit::input, "the page holds all of the schema, so no name goes with --html");
+    for (const auto *e : schema::enumerations) {
+        if (is_named(options.name, e->name)) return of_enumeration(*e, options.json);
+    }
+    if (options.name.find('.') != std::string::npos) {
+        const Target target = target_of(options.name);
+        if (!target) unknown_member(options.name);
+        return of_member(target, options);
+    }
+    const Record *record = record_named(options.name);
+    if (record == nullptr) unknown(options.name);
+    if (options.tree) return tree_text(*record);
+    if (options.dot) return dot_text([record](const Record &r) { return reaches(*record, r); });
+    return options.json ? json_of_record(*record).dump(2) + "\n" : record_text(*record);
+}
+
+std::string page() {
+    const ordered_json data{{"schema", schema_json()}, {"drawing", draw::nesting(false)}};
+    return page_text({"Schema of tarn", schema_body, schema_script, data});
+}
+
+std::string of_all(const SchemaOptions &options) {
+    if (options.html) return page();
+    if (options.dot) return dot_text([](const Record &) { return true; });
+    if (options.json) return schema_json().dump(2) + "\n";
+    if (!options.tree) return list_text();
+    std::string out;
+    for (const auto *m : schema::messages) out += std::string(m->name) + ": " + tree_text(m->payload) + "\n";
+    return out;
+}
+
+}  // namespace
+
+void add_schema(CLI::App &app, Context &) {
+    auto options = std::make_shared<SchemaOptions>();
+    CLI::App *command = app.add_subcommand("schema", "the schema as lists, trees and tables");
+    command
+        ->add_option("name", options->name,
+                     "a record, enumeration, message or bundle, or a member by its path; all of it if left out")
+        ->type_name(words::type);
+    CLI::Option_group *form = command->add_option_group("form", "how to show it");
+    form->add_flag("--tree", options->tree, "as a tree of members");
+    form->add_flag("--dot", options->dot, "as a graph for dot");
+    form->add_flag("--json", options->json, "as JSON");
+    form->add_flag("--html", options->html, "as a page for a browser, with the nesting drawn; of all of it");
+    form->require_option(0, 1);
+    command->footer(
+        "Wire widths are bytes without per-field state; a + says that arrays and strings come on top.\n\n"
+        "Examples:\n"
+        "  tarn schema\n"
+        "  tarn schema lumo_tarn_dp_tc\n"
+        "  tarn schema dp-tt-cfg --tree\n"
+        "  tarn schema --html > schema.html\n"
+        "  tarn schema dp-tt-cfg.lumo_data\n"
+        "  tarn schema --dot | dot -Tsvg -o schema.svg");
+    command->callback([options] { write_file("-", options->name.empty() ? of_all(*options) : of_one(*options)); });
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,71 @@
+#include "tools/tarn/formats/frame_writer.h"
+
+namespace tarn::tool {
+
+namespace {
+
+// Frames of one bundle come from one handle, so control messages must go with the messages that they enclose.
+class Encoder {
+public:
+    Encoder(const Handles &handles, std::uint32_t stamp) : handles_(handles), stamp_(stamp) {}
+
+    void add(const Item &item, bool tracked) {
+        const Handle &handle = handles_.choose(tracked);
+        mirk_platform_handle_set_message_stamp(handle.get(), stamp_);
+        try {
+            const Bytes frame = frame_of(handle, *item.identity.operations, item.object());
+            frames_.append(reinterpret_cast<const char *>(frame.data()), frame.size());
+        } catch (const Failure &failure) {
+            close();
+            throw Failure(failure.exit(), item.place + ": " + failure.what());
+        }
+    }
+    const std::string &finish(const std::string &origin) {
+        if (close()) throw Failure(Exit::input, origin + ": ends inside a bundle");
+        return frames_;
+    }
+
+private:
+    bool close() {
+        bool was_open = false;
+        for (const bool tracked : {false, true}) {
+            mirk_handle *h = handles_.choose(tracked).get();
+            std::uint32_t err = 0;
+            if (h->send_bundle_open == 0) continue;
+            bundle_send_message_list_destroy(h, context_id, &err);
+            was_open = true;
+        }
+        return was_open;
+    }
+
+    const Handles &handles_;
+    std::uint32_t stamp_;
+    std::string frames_;
+};
+
+bool is_tracked(const Item &item) { return item.message && item.message->handle().tracked(); }
+
+}  // namespace
+
+std::string encoded(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
+                    const reflect::BundleOperations *bundle, std::uint32_t stamp) {
+    // Mixed input goes by its first message, since a bundle is open on one handle only.
+    bool tracked = false;
+    for (const Item &item : items) tracked = tracked || is_tracked(item);
+    for (const Item &item : items) {
+        if (item.message && is_tracked(item) != tracked) {
+            throw Failure(Exit::input,
+                          item.place + ": messages with and without per-field state do not mix; use --tracked");
+        }
+    }
+    Encoder encoder(handles, stamp);
+    const auto control = [&](Control c) {
+        encoder.add({{&operations_of(*bundle, c), bundle, c}, std::nullopt, origin}, tracked);
+    };
+    if (bundle != nullptr) control(Control::start);
+    for (const Item &item : items) encoder.add(item, tracked);
+    if (bundle != nullptr) control(Control::commit);
+    return encoder.finish(origin);
+}
+
+}  // namespace tarn::tool

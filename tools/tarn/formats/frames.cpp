@@ -1,0 +1,41 @@
+#include "tools/tarn/formats/frames.h"
+
+namespace tarn::tool {
+
+std::string frame_place(const std::string &origin, std::size_t offset) {
+    return origin + ": frame at offset " + std::to_string(offset);
+}
+
+Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
+    const auto fail = [&](const std::string &reason) -> Failure {
+        return {Exit::input, frame_place(origin, offset) + ": " + reason};
+    };
+    const FrameBytes rest = bytes.subspan(offset);
+    mirk_platform_frame look;
+    const mirk_platform_error error = mirk_platform_frame_look(rest.data(), rest.size(), &look);
+    if (rest.size() < MIRK_PLATFORM_FRAME_SIZE) {
+        throw fail(std::to_string(rest.size()) + " bytes are left, and a frame has at least " +
+                   std::to_string(MIRK_PLATFORM_FRAME_SIZE));
+    }
+    if (error != 0) {
+        throw fail("no frame begins here (marker " + std::to_string(look.header.marker) + ", total length " +
+                   std::to_string(look.header.total_length) + ")");
+    }
+    if (look.header.total_length > rest.size()) {
+        throw fail("cut short: its total length is " + std::to_string(look.header.total_length) + ", and " +
+                   std::to_string(rest.size()) + " bytes are left");
+    }
+    const std::optional<Identity> identity = identify(look.luid);
+    if (!identity) throw fail("unknown luid " + luid_text(look.luid));
+    return {rest.first(look.header.total_length), offset, *identity};
+}
+
+std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin) {
+    std::vector<Frame> frames;
+    for (std::size_t offset = 0; offset < bytes.size(); offset += frames.back().bytes.size()) {
+        frames.push_back(frame_at(bytes, offset, origin));
+    }
+    return frames;
+}
+
+}  // namespace tarn::tool

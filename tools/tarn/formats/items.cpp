@@ -1,0 +1,82 @@
+#include "tools/tarn/formats/items.h"
+
+#include "tools/tarn/formats/frames.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/xml.h"
+#include "tools/tarn/support/files.h"
+
+namespace tarn::tool {
+
+namespace {
+
+std::vector<Item> from_frames(const Handles &handles, std::string_view content, const std::string &origin) {
+    std::vector<Item> items;
+    for (const Frame &frame : split_frames(bytes_of(content), origin)) {
+        Item item{frame.identity, std::nullopt, frame_place(origin, frame.offset)};
+        if (!frame.identity.is_control()) {
+            try {
+                item.message.emplace(
+                    message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
+            } catch (const Failure &failure) {
+                throw Failure(failure.exit(), item.place + ": " + failure.what());
+            }
+        }
+        items.push_back(std::move(item));
+    }
+    return items;
+}
+
+std::vector<Item> from_xml(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
+    std::vector<Item> items;
+    for (const Fragment &fragment : split_fragments(content, origin)) {
+        const std::string place = origin + ":" + std::to_string(fragment.line);
+        if (const auto control = control_in(fragment, origin)) {
+            items.push_back({*control, std::nullopt, place});
+        } else {
+            Message message = message_from_xml(handles, fragment, origin, lenient);
+            items.push_back({{&message.operations()}, std::nullopt, place});
+            items.back().message.emplace(std::move(message));
+        }
+    }
+    return items;
+}
+
+}  // namespace
+
+Form form_of(std::string_view content, const std::string &origin) {
+    if (content.substr(0, 3) == "\xEF\xBB\xBF") content.remove_prefix(3);
+    const std::size_t first = content.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos) throw Failure(Exit::input, origin + ": is empty");
+    switch (content[first]) {
+        case '<':
+            return Form::xml;
+        case '{':
+        case '[':
+            return Form::json;
+        case '\xBC':
+            return Form::frames;
+        default:
+            throw Failure(Exit::input, origin + ": neither frames nor XML nor JSON begin here");
+    }
+}
+
+std::vector<Item> items_of(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
+    switch (form_of(content, origin)) {
+        case Form::frames:
+            return from_frames(handles, content, origin);
+        case Form::xml:
+            return from_xml(handles, content, origin, lenient);
+        case Form::json:
+            break;
+    }
+    return from_json(handles, content, origin, lenient);
+}
+
+std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient) {
+    const std::string origin = shown_path(path);
+    std::vector<Item> items = items_of(handles, read_file(path), origin, lenient);
+    if (items.empty()) throw Failure(Exit::input, origin + ": holds no message");
+    return items;
+}
+
+}  // namespace tarn::tool

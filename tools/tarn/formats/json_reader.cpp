@@ -1,0 +1,364 @@
+// From JSON to instances. What the schema does not know is refused with its path, unless told to be lenient.
+#include "tools/tarn/formats/json.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "tools/tarn/formats/xml_check.h"
+#include "tools/tarn/support/instance.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+using reflect::MemberOperations;
+using reflect::RecordOperations;
+using schema::Kind;
+using schema::Role;
+
+[[noreturn]] void fail(const std::string &path, const std::string &sentence) {
+    throw Failure(Exit::input, path + ": " + sentence);
+}
+
+std::uint64_t number_in(const ordered_json &json, std::uint64_t limit, const std::string &path) {
+    if (!json.is_number_unsigned() || json.get<std::uint64_t>() > limit) {
+        fail(path, json.dump() + " is no number from 0 to " + std::to_string(limit));
+    }
+    return json.get<std::uint64_t>();
+}
+
+std::int8_t variant_in(const ordered_json &json, const std::string &path) {
+    if (!json.is_number_integer() || json.get<std::int64_t>() < -128 || json.get<std::int64_t>() > -1) {
+        fail(path, json.dump() + " is no number from -128 to -1");
+    }
+    return static_cast<std::int8_t>(json.get<std::int64_t>());
+}
+
+std::string bytes_in(const ordered_json &json, const std::string &path) {
+    if (json.is_string()) return json.get<std::string>();
+    const auto digits = json.is_object() && json.size() == 1 && json.contains("bytes") && json["bytes"].is_string()
+                            ? json["bytes"].get<std::string>()
+                            : std::string("?");
+    if (digits.size() % 2 != 0 || digits.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) {
+        fail(path, "neither a string nor {\"bytes\": HEX}");
+    }
+    std::string bytes;
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        bytes += static_cast<char>(std::stoi(digits.substr(i, 2), nullptr, 16));
+    }
+    return bytes;
+}
+
+class Reader {
+public:
+    Reader(const Handle &handle, bool lenient) : handle_(handle), lenient_(lenient) {}
+
+    void read_record(const ordered_json &json, const RecordOperations &operations, void *instance,
+                     const std::string &path);
+
+private:
+    struct Place {
+        const RecordOperations &operations;
+        void *instance;
+        std::size_t index;
+
+        const MemberOperations &member() const { return operations.members[index]; }
+        const schema::Member &schema() const { return *member().member; }
+    };
+
+    void read_member(const ordered_json &json, const Place &place, const std::string &path);
+    void read_embedded(const ordered_json &json, const Place &place, const std::string &path);
+    void read_address(const ordered_json &json, ip_address *address, const std::string &path);
+    void read_enumeration(const ordered_json &json, const Place &place, void *object, const std::string &path);
+    void read_string(const ordered_json &json, const Place &place, const std::string &path);
+    void read_array(const ordered_json &json, const Place &place, const std::string &path);
+    void read_state(const ordered_json &json, const RecordOperations &operations, void *instance,
+                    const std::string &path);
+    void check_names(const ordered_json &json, const RecordOperations &operations, const std::string &path);
+    void check_count(const ordered_json &json, const RecordOperations &operations, std::size_t index,
+                     const std::string &path);
+    bool read_header(const ordered_json &json, void *object, const std::string &path);
+    void require(const std::string &path) {
+        if (err_ != 0) throw Failure(exit_of(err_), path + ": " + error_text(err_));
+    }
+
+    const Handle &handle_;
+    bool lenient_;
+    std::uint32_t err_ = 0;
+};
+
+// True if the object has a body.
+bool Reader::read_header(const ordered_json &json, void *object, const std::string &path) {
+    if (const auto ra = json.find("@ra"); ra != json.end()) {
+        if (!ra->is_object() || !ra->contains("value") || !ra->contains("byte"))
+            fail(path + "/@ra", "value and byte are expected");
+        set_ra_data(handle_, object,
+                    {number_in((*ra)["value"], ~std::uint64_t{0}, path + "/@ra/value"),
+                     static_cast<std::uint8_t>(number_in((*ra)["byte"], 255, path + "/@ra/byte"))});
+    }
+    const auto variant = json.find("@variant");
+    if (variant == json.end()) return true;
+    set_variant(object, variant_in(*variant, path + "/@variant"));
+    return false;
+}
+
+void Reader::check_names(const ordered_json &json, const RecordOperations &operations, const std::string &path) {
+    std::vector<std::string> candidates;
+    for (const MemberOperations &m : operations.members) candidates.emplace_back(m.member->name);
+    for (const auto &item : json.items()) {
+        const std::string &name = item.key();
+        if (name == "@ra" || name == "@variant" || name == "@state") continue;
+        if (std::find(candidates.begin(), candidates.end(), name) == candidates.end()) {
+            fail(path, std::string(operations.record->name) + " has no member \"" + name + "\"" +
+                           suggestion(name, candidates));
+        }
+    }
+}
+
+void Reader::check_count(const ordered_json &json, const RecordOperations &operations, std::size_t index,
+                         const std::string &path) {
+    const auto said = json.find(operations.members[index].member->name);
+    const auto counted = json.find(operations.members[index + 1].member->name);
+    if (said == json.end() || lenient_) return;
+    const std::size_t there = counted == json.end() ? 0
+                              : counted->is_array() ? counted->size()
+                                                    : bytes_in(*counted, path).size();
+    if (!said->is_number_unsigned() || said->get<std::uint64_t>() != there) {
+        fail(path + "/" + std::string(operations.members[index].member->name),
+             "says " + said->dump() + ", but there are " + std::to_string(there));
+    }
+}
+
+void Reader::read_record(const ordered_json &json, const RecordOperations &operations, void *instance,
+                         const std::string &path) {
+    if (!json.is_object()) fail(path, "an object is expected for " + std::string(operations.record->name));
+    if (!lenient_) check_names(json, operations, path);
+    for (std::size_t i = 0; i < operations.members.size(); ++i) {
+        const schema::Member &m = *operations.members[i].member;
+        if (m.role != Role::value) {
+            check_count(json, operations, i, path);
+        } else if (const auto found = json.find(m.name); found != json.end()) {
+            read_member(*found, {operations, instance, i}, path + "/" + std::string(m.name));
+        }
+    }
+    if (handle_.tracked()) read_state(json, operations, instance, path);
+    read_header(json, instance, path);
+}
+
+void Reader::read_member(const ordered_json &json, const Place &place, const std::string &path) {
+    const schema::Member &m = place.schema();
+    if (is_integer(m.kind)) {
+        const unsigned bits = 8U << static_cast<unsigned>(m.kind);
+        const std::uint64_t limit = bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
+        place.member().set_value(handle_.get(), context_id, place.instance, number_in(json, limit, path), &err_);
+    } else if (m.kind == Kind::string) {
+        read_string(json, place, path);
+    } else if (m.kind == Kind::array) {
+        read_array(json, place, path);
+    } else {
+        read_embedded(json, place, path);
+    }
+    require(path);
+}
+
+void Reader::read_embedded(const ordered_json &json, const Place &place, const std::string &path) {
+    const schema::Member &m = place.schema();
+    void *object = place.member().get(handle_.get(), context_id, place.instance, &err_);
+    require(path);
+    if (m.kind == Kind::record) return read_record(json, reflect::operations_of(*m.record), object, path);
+    if (m.kind == Kind::address) {
+        if (!json.is_object() || read_header(json, object, path))
+            read_address(json, static_cast<ip_address *>(object), path);
+        return;
+    }
+    if (json.is_object() && (!json.contains("@value") || !json.contains("@variant"))) {
+        fail(path, "a value, or @variant and @value, are expected");
+    }
+    const ordered_json &value = json.is_object() ? json["@value"] : json;
+    if (m.kind == Kind::enumeration) {
+        read_enumeration(value, place, object, path);
+    } else {
+        const std::uint64_t truth = value.is_boolean() ? value.get<bool>() : number_in(value, 255, path);
+        place.member().set_value(handle_.get(), context_id, place.instance, truth, &err_);
+    }
+    // Setting a value brings the variant back to that of the domain.
+    if (json.is_object()) read_header(json, object, path);
+}
+
+void Reader::read_address(const ordered_json &json, ip_address *address, const std::string &path) {
+    const ordered_json *text = &json;
+    if (json.is_object()) {
+        const auto found = json.find("@address");
+        if (found == json.end()) fail(path, "an address is expected");
+        text = &*found;
+    }
+    const std::string words = text->is_string() ? text->get<std::string>() : text->dump();
+    if (!text->is_string() || !is_address(words) || !set_address(handle_, address, words)) {
+        fail(path, "\"" + words + "\" is no address with a prefix length");
+    }
+    std::uint8_t *state = address_state(handle_, address);
+    if (state == nullptr) return;
+    std::fill_n(state, 7, std::uint8_t{0});
+    if (!json.is_object() || !json.contains("@members")) return;
+    const ordered_json &members = json["@members"];
+    if (!members.is_array() || members.size() != 7) fail(path + "/@members", "seven state bytes are expected");
+    for (std::size_t i = 0; i < 7; ++i)
+        state[i] = static_cast<std::uint8_t>(number_in(members[i], 255, path + "/@members"));
+}
+
+void Reader::read_enumeration(const ordered_json &json, const Place &place, void *object, const std::string &path) {
+    const auto &enumerators = place.schema().enumeration->enumerators;
+    const std::vector<std::string> candidates(enumerators.begin(), enumerators.end());
+    if (json.is_string()) {
+        const auto found = std::find(candidates.begin(), candidates.end(), json.get<std::string>());
+        if (found == candidates.end()) {
+            if (lenient_) return;
+            fail(path, "unknown enumerator " + json.dump() + suggestion(json.get<std::string>(), candidates));
+        }
+        const auto number = static_cast<std::uint64_t>(found - candidates.begin());
+        place.member().set_value(handle_.get(), context_id, place.instance, number, &err_);
+        return;
+    }
+    // A frame may bring any number; the setter would refuse it.
+    const std::uint64_t number = number_in(json, 0xffffffff, path);
+    if (number >= candidates.size() && !lenient_) fail(path, "unknown enumerator " + json.dump());
+    set_enumeration_value(object, static_cast<std::uint32_t>(number));
+}
+
+void Reader::read_string(const ordered_json &json, const Place &place, const std::string &path) {
+    const std::string text = bytes_in(json, path);
+    if (text.size() > 65535) fail(path, "more than 65535 bytes");
+    // The setter copies up to the first NUL and fills up with NULs.
+    if (const std::size_t nul = text.find('\0');
+        nul != std::string::npos && text.find_first_not_of('\0', nul) != std::string::npos) {
+        fail(path, "a NUL in the middle cannot be stored");
+    }
+    place.member().text_set(handle_.get(), context_id, place.instance, text.c_str(),
+                            static_cast<std::uint32_t>(text.size()), &err_);
+}
+
+void Reader::read_array(const ordered_json &json, const Place &place, const std::string &path) {
+    if (!json.is_array()) fail(path, "an array is expected");
+    const bool narrow = place.operations.members[place.index - 1].member->kind == Kind::u8;
+    if (json.size() > (narrow ? 255U : 0xffffffffU))
+        fail(path, std::to_string(json.size()) + " elements are more than its count can tell");
+    if (json.empty()) return;
+    // Setting the last element first lets the array grow once.
+    const RecordOperations &element = reflect::operations_of(*place.schema().record);
+    void *fresh = element.create(handle_.get(), context_id);
+    if (fresh == nullptr) throw Failure(Exit::environment, "no memory for " + path);
+    const auto count = static_cast<std::uint32_t>(json.size());
+    place.member().element_set(handle_.get(), context_id, place.instance, count - 1, fresh, &err_);
+    element.destroy(handle_.get(), context_id, fresh);
+    require(path);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        void *object = place.member().element_get(handle_.get(), context_id, place.instance, i, &err_);
+        require(path);
+        read_record(json[i], element, object, path + "[" + std::to_string(i) + "]");
+    }
+}
+
+void Reader::read_state(const ordered_json &json, const RecordOperations &operations, void *instance,
+                        const std::string &path) {
+    const auto all = json.find("@state");
+    const ordered_json none = ordered_json::object();
+    const ordered_json &states = all != json.end() ? *all : none;
+    if (!states.is_object()) fail(path + "/@state", "an object is expected");
+    const auto byte = [&](const ordered_json &value) {
+        return static_cast<std::uint8_t>(number_in(value, 255, path + "/@state"));
+    };
+    for (const MemberOperations &m : operations.members) {
+        if (m.member->role != Role::value) continue;
+        const auto state = states.find(m.member->name);
+        const bool given = state != states.end();
+        if (m.member->kind != Kind::array) {
+            m.state_flag_set(handle_.get(), context_id, instance, given ? byte(*state) : std::uint8_t{0}, &err_);
+            continue;
+        }
+        const auto array = json.find(m.member->name);
+        const auto count = array != json.end() ? static_cast<std::uint32_t>(array->size()) : 0;
+        if (given && (!state->is_object() || !state->contains("whole") || !state->contains("elements") ||
+                      (*state)["elements"].size() != count)) {
+            fail(path + "/@state/" + std::string(m.member->name),
+                 "whole, and elements with one byte for each, are expected");
+        }
+        m.state_flag_set(handle_.get(), context_id, instance, given ? byte((*state)["whole"]) : std::uint8_t{0}, &err_);
+        for (std::uint32_t i = 0; i < count; ++i) {
+            m.element_state_flag_set(handle_.get(), context_id, instance, i,
+                                     given ? byte((*state)["elements"][i]) : std::uint8_t{0}, &err_);
+        }
+    }
+    require(path + "/@state");
+}
+
+Item control_of(const ordered_json &json, const std::string &place) {
+    const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
+    if (bundle == nullptr) fail(place, json["bundle"].dump() + " is no bundle");
+    for (const Control control : {Control::start, Control::abort, Control::commit}) {
+        if (json["control"] != word(control)) continue;
+        return {{&operations_of(*bundle, control), bundle, control}, std::nullopt, place};
+    }
+    fail(place, json["control"].dump() + " is none of start, abort and commit");
+}
+
+Item message_of(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient) {
+    if (!json["message"].is_string()) fail(place, "message is to be a name");
+    const auto *operations = reflect::find_message(json["message"].get<std::string>());
+    if (operations == nullptr) fail(place, json["message"].dump() + " is no message");
+    if (!json.contains("payload") && !lenient) fail(place, "the payload is missing");
+    const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
+    Item item{{operations}, Message::make(handle, *operations), place};
+    if (json.contains("payload")) {
+        Reader(handle, lenient)
+            .read_record(json["payload"], item.message->record(), item.message->payload(), place + "payload");
+    }
+    return item;
+}
+
+void collect(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient,
+             std::vector<Item> &items) {
+    if (json.is_array()) {
+        for (const ordered_json &one : json) collect(handles, one, place, lenient, items);
+    } else if (json.is_object() && json.contains("message")) {
+        items.push_back(message_of(handles, json, place, lenient));
+    } else if (json.is_object() && json.contains("bundle") && json.contains("control")) {
+        items.push_back(control_of(json, place));
+    } else if (json.is_object() && json.contains("messages")) {
+        collect(handles, json["messages"], place, lenient, items);
+    } else {
+        fail(place, "neither a message nor a control message nor a list of them");
+    }
+}
+
+}  // namespace
+
+std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
+    std::vector<Item> items;
+    std::istringstream in{std::string(content)};
+    while ((in >> std::ws).peek() != std::istringstream::traits_type::eof()) {
+        const auto start = static_cast<std::size_t>(in.tellg());
+        const auto line = [&](std::size_t at) {
+            return std::to_string(
+                1 + std::count(content.begin(),
+                               content.begin() + static_cast<std::ptrdiff_t>(std::min(at, content.size())), '\n'));
+        };
+        ordered_json json;
+        try {
+            in >> json;
+        } catch (const ordered_json::exception &error) {
+            in.clear();
+            const std::size_t at = static_cast<std::size_t>(in.tellg()) - 1;  // of what was read last
+            // A number beyond all is no error of syntax to the parser.
+            const std::string_view words = error.what(), brackets = "] ";
+            std::size_t begin = words.find("syntax error");
+            if (begin == words.npos) begin = words.find(brackets) + brackets.size();
+            throw Failure(Exit::input, origin + ":" + line(at) + ": " + std::string(words.substr(begin)));
+        }
+        collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
+    }
+    return items;
+}
+
+}  // namespace tarn::tool

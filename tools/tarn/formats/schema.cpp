@@ -1,0 +1,79 @@
+#include "tools/tarn/formats/schema.h"
+
+#include <nlohmann/json.hpp>
+
+#include "schema/catalogue.h"
+#include "schema/wire_size.h"
+#include "tools/tarn/support/names.h"
+
+namespace tarn::tool {
+
+using nlohmann::ordered_json;
+using schema::Kind;
+using schema::Member;
+using schema::Record;
+
+std::string kind_text(const Member &m) {
+    constexpr const char *words[] = {"u_int8", "u_int16", "u_int32", "u_int64", "mirk_boolean", "ip_address"};
+    switch (m.kind) {
+        case Kind::enumeration:
+            return std::string(m.enumeration->name);
+        case Kind::record:
+            return std::string(m.record->name);
+        case Kind::array:
+            return std::string(m.record->name) + "[]";
+        case Kind::string:
+            return "var_string";
+        default:
+            return words[static_cast<std::size_t>(m.kind)];
+    }
+}
+
+std::string role_text(const Member &m) {
+    return m.role == schema::Role::count ? "count" : m.role == schema::Role::length ? "length" : "";
+}
+
+std::string wire_text(const Record &record) { return schema::wire_text(record); }
+std::string wire_text(const Member &m) { return schema::wire_text(m); }
+
+ordered_json json_of_record(const Record &record) {
+    const schema::Layout layout = schema::lay_out(record);
+    ordered_json json{
+        {"name", record.name},           {"luid", record.luid.text.data()},   {"meaning", record.meaning},
+        {"base_size", layout.base_size}, {"state_width", layout.state_width}, {"members", ordered_json::array()}};
+    for (std::size_t i = 0; i < record.members.size(); ++i) {
+        const Member &m = record.members[i];
+        ordered_json one{{"name", m.name}, {"kind", kind_text(m)}};
+        if (m.role != schema::Role::value) one["role"] = role_text(m);
+        one["offset"] = layout.places[i].offset;
+        one["size"] = layout.places[i].size;
+        if (schema::is_tracked(m)) one["slot"] = layout.places[i].slot;
+        one["wire"] = wire_text(m);
+        one["meaning"] = m.meaning;
+        json["members"].push_back(one);
+    }
+    return json;
+}
+
+ordered_json schema_json() {
+    ordered_json json;
+    for (const auto *b : schema::bundles) {
+        json["bundles"].push_back({{"name", b->name},
+                                   {"short", short_form(b->name)},
+                                   {"message", b->message.name},
+                                   {"start", b->start.text.data()},
+                                   {"abort", b->abort.text.data()},
+                                   {"commit", b->commit.text.data()}});
+    }
+    for (const auto *m : schema::messages) {
+        json["messages"].push_back({{"name", m->name}, {"luid", m->luid.text.data()}, {"payload", m->payload.name}});
+    }
+    for (const auto *e : schema::enumerations) {
+        json["enumerations"].push_back(
+            {{"name", e->name}, {"luid", e->luid.text.data()}, {"enumerators", e->enumerators}});
+    }
+    for (const auto *r : schema::records) json["records"].push_back(json_of_record(*r));
+    return json;
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,150 @@
+#include "tools/tarn/formats/xml.h"
+
+#include <algorithm>
+
+#include "tools/tarn/formats/xml_check.h"
+#include "tools/tarn/formats/xml_state.h"
+
+namespace tarn::tool {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n";
+
+class Cutter {
+public:
+    Cutter(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
+
+    std::vector<Fragment> run() {
+        std::vector<Fragment> fragments;
+        if (starts("\xEF\xBB\xBF")) at_ = 3;
+        for (skip_blanks(); at_ < text_.size(); skip_blanks()) {
+            if (starts("<?xml ")) {
+                declaration_ = std::string(take("?>", "the XML declaration"));
+            } else if (starts("<?")) {
+                take("?>", "a processing instruction");
+            } else if (starts("<!--")) {
+                take("-->", "a comment");
+            } else if (starts("<!DOCTYPE")) {
+                fail("a document type declaration is not allowed");
+            } else {
+                fragments.push_back(take_element());
+            }
+        }
+        return fragments;
+    }
+
+private:
+    bool starts(std::string_view what) const { return text_.substr(at_, what.size()) == what; }
+
+    void skip_blanks() { at_ = std::min(text_.find_first_not_of(blanks, at_), text_.size()); }
+
+    long line() const { return 1 + std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(at_), '\n'); }
+
+    [[noreturn]] void fail(const std::string &sentence) const {
+        throw Failure(Exit::input, origin_ + ":" + std::to_string(line()) + ": " + sentence);
+    }
+
+    std::string_view take(std::string_view end, const std::string &what) {
+        const std::size_t found = text_.find(end, at_);
+        if (found == std::string_view::npos) fail(what + " has no end");
+        const std::string_view taken = text_.substr(at_, found + end.size() - at_);
+        at_ += taken.size();
+        return taken;
+    }
+
+    Fragment take_element() {
+        const std::size_t name_end =
+            text_[at_] == '<' ? text_.find_first_of(" \t\r\n/>", at_ + 1) : std::string_view::npos;
+        if (name_end == std::string_view::npos || name_end == at_ + 1) fail("no element begins here");
+        Fragment fragment{std::string(text_.substr(at_ + 1, name_end - at_ - 1)), declaration_, line()};
+        const std::size_t tag_end = text_.find('>', name_end);
+        if (tag_end != std::string_view::npos && text_[tag_end - 1] == '/') {
+            fragment.text += take(">", fragment.name);
+        } else {
+            fragment.text += take("</" + fragment.name + ">", "element \"" + fragment.name + "\"");
+        }
+        return fragment;
+    }
+
+    std::string_view text_;
+    const std::string &origin_;
+    std::string declaration_;
+    std::size_t at_ = 0;
+};
+
+std::string place(const std::string &origin, const Fragment &fragment, long line) {
+    return origin + ":" + std::to_string(fragment.line + std::max(line, 1L) - 1) + ": ";
+}
+
+Document parse(const Fragment &fragment, const std::string &origin) {
+    mirk_platform_report report;
+    Document document(mirk_platform_document_load_memory(fragment.text.data(), fragment.text.size(), &report));
+    if (document == nullptr) {
+        throw Failure(exit_of(report.number), place(origin, fragment, report.line) + report.sentence);
+    }
+    return document;
+}
+
+void require_schema(const Document &document, const Fragment &fragment, const std::string &origin,
+                    const schema::Message &message) {
+    const std::vector<Problem> problems = check_document(document.get(), message);
+    if (problems.empty()) return;
+    std::string sentence;
+    for (const Problem &p : problems) {
+        sentence += (sentence.empty() ? "" : "\n") + place(origin, fragment, p.line) + p.path + ": " + p.sentence;
+    }
+    throw Failure(Exit::input, sentence);
+}
+
+const reflect::MessageOperations &message_for(const Fragment &fragment, const std::string &origin) {
+    if (const auto *found = reflect::find_message(fragment.name); found != nullptr) return *found;
+    std::vector<std::string> candidates;
+    for (const reflect::MessageOperations &o : reflect::messages()) candidates.emplace_back(o.name);
+    throw Failure(Exit::input, place(origin, fragment, 1) + "\"" + fragment.name + "\" is no message" +
+                                   suggestion(fragment.name, candidates));
+}
+
+}  // namespace
+
+std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin) {
+    return Cutter(text, origin).run();
+}
+
+std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin) {
+    for (const Control control : {Control::start, Control::abort, Control::commit}) {
+        if (fragment.name != "bundle_" + std::string(word(control))) continue;
+        const Document document = parse(fragment, origin);
+        char name[128];
+        const std::string path = "/" + fragment.name + "/@name";
+        if (xml_get_element_value(document.get(), path.c_str(), name, sizeof name, nullptr) != 0) {
+            throw Failure(Exit::input, place(origin, fragment, 1) + fragment.name + " has no name");
+        }
+        const auto *bundle = reflect::find_bundle(name);
+        if (bundle == nullptr) {
+            throw Failure(Exit::input, place(origin, fragment, 1) + "\"" + name + "\" is no bundle");
+        }
+        return Identity{&operations_of(*bundle, control), bundle, control};
+    }
+    return std::nullopt;
+}
+
+Message message_from_xml(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient) {
+    const reflect::MessageOperations &operations = message_for(fragment, origin);
+    const Document document = parse(fragment, origin);
+    if (!lenient) require_schema(document, fragment, origin, *operations.message);
+    const bool states = has_states(document.get());
+    const Handle &handle = handles.choose(states);
+    char words[256] = {};
+    std::uint32_t err = 0;
+    void *object = operations.from_xml(handle.get(), context_id, document.get(), &err, words, sizeof words);
+    if (object == nullptr) {
+        throw Failure(exit_of(err), place(origin, fragment, 1) + operations.name + " cannot be read: " +
+                                        error_text(err) + (words[0] != 0 ? std::string("; ") + words : ""));
+    }
+    Message message(handle, operations, object);
+    if (states && handle.tracked()) apply_states(message, document.get());
+    return message;
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,30 @@
+// Messages from XML: single documents, and runs of fragments such as a recorder leaves behind.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/tarn/support/handle.h"
+#include "tools/tarn/support/names.h"
+
+namespace tarn::tool {
+
+// One element of the outermost level with all that stands in it, not yet parsed.
+struct Fragment {
+    std::string name;
+    std::string text;
+    long line;  // of its first character, from 1
+};
+
+// Cuts at the end tag of each outermost element, so that a fragment which is not well-formed does not spoil the others.
+std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin);
+
+// What a control message's element stands for: <bundle_start name="..."></bundle_start>.
+std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin);
+
+// A document that bears states is one with per-field state. Strict: what the schema does not know, or what would be
+// lost, is a Failure that lists every line concerned.
+Message message_from_xml(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
+
+}  // namespace tarn::tool

@@ -1,0 +1,40 @@
+#include "tools/tarn/pages/page.h"
+
+#include <nlohmann/json.hpp>
+
+#include "page_style.h"
+
+namespace tarn::tool {
+
+namespace {
+
+// Text for an element's content.
+std::string escaped(std::string_view text) {
+    std::string out;
+    for (const char c : text) out += c == '<' ? "&lt;" : c == '&' ? "&amp;" : std::string(1, c);
+    return out;
+}
+
+// JSON inside a script element must not look like its end, or like the start of a comment.
+std::string escaped_json(const nlohmann::ordered_json &data) {
+    std::string out;
+    for (const char c : data.dump(-1, ' ', true, nlohmann::ordered_json::error_handler_t::replace)) {
+        out += c == '<' ? "\\u003c" : std::string(1, c);
+    }
+    return out;
+}
+
+}  // namespace
+
+std::string page_text(const Page &page) {
+    // Nothing is ever fetched, and the browser is told so.
+    return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+           "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
+           "script-src 'unsafe-inline'; img-src data:\">\n"
+           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
+           escaped(page.title) + "</title>\n<style>\n" + page_style + "</style>\n</head>\n<body>\n" +
+           std::string(page.body) + "<script type=\"application/json\" id=\"data\">" + escaped_json(page.data) +
+           "</script>\n<script>\n" + std::string(page.script) + "</script>\n</body>\n</html>\n";
+}
+
+}  // namespace tarn::tool

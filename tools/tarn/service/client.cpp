@@ -1,0 +1,101 @@
+#include "tools/tarn/service/client.h"
+
+#include <cerrno>
+
+namespace tarn::tool {
+
+namespace {
+
+void require_no_refusal(FrameBytes frame, const std::string &origin) {
+    mirk_platform_request reply;
+    if (mirk_platform_request_decode(frame.data(), frame.size(), &reply) != 0) return;
+    if ((reply.options & MIRK_PLATFORM_REQUEST_REFUSED) == 0) {
+        throw Failure(Exit::input, origin + ": answered with a request");
+    }
+    throw Failure(Exit::different, origin + ": refused: " + reply.sentence + ": " + error_text(reply.number));
+}
+
+// The dispatcher delivers whatever is well-formed; whether it belongs into this answer is for the asker to say.
+void require_expected(const Frame &frame, const reflect::BundleOperations &bundle, const Reception &reception,
+                      const std::string &origin) {
+    const Identity &identity = frame.identity;
+    const bool admitted = identity.is_control() ? identity.bundle == &bundle : admits(bundle, *identity.operations);
+    if (!admitted) {
+        throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + std::string(bundle.bundle->name) +
+                                       " does not admit " + identity.operations->name);
+    }
+    if (!identity.is_control() && !reception.in_bundle()) {
+        throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + identity.operations->name +
+                                       " came before the start of its bundle");
+    }
+}
+
+}  // namespace
+
+std::uint32_t Deadline::left_ms() const {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end_ - std::chrono::steady_clock::now());
+    return left.count() > 0 ? static_cast<std::uint32_t>(left.count()) : 0;
+}
+
+void AnswerLimits::add_options(CLI::App &command) {
+    add_size(command, "--frame-limit", frame, "longest frame that the answer may hold", 1 << 10);
+    add_size(command, "--answer-limit", answer, "most bytes that an answer may have", 1 << 10);
+}
+
+Connection::Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits)
+    : name_(place.text()), deadline_(deadline), limits_(limits) {
+    const auto open = place.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
+    check(open(name_.c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
+          "cannot connect");
+}
+
+void Connection::ask(const reflect::BundleOperations &bundle, bool tracked) {
+    std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+    const std::string name(bundle.bundle->name);
+    const std::uint8_t wish = tracked ? MIRK_PLATFORM_REQUEST_TRACKED : 0;
+    const std::uint32_t size = mirk_platform_request_encode(frame, sizeof frame, 0, name.c_str(), wish, nullptr);
+    check(mirk_platform_client_send(client_, frame, size, deadline_.left_ms()), "cannot ask");
+}
+
+FrameBytes Connection::receive() {
+    void *frame = nullptr;
+    std::uint32_t size = 0;
+    const mirk_platform_error error = mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms());
+    check(error, error == EMSGSIZE ? "a frame is longer than --frame-limit" : "no whole answer");
+    received_ += size;
+    if (received_ > limits_.answer) check(EMSGSIZE, "the answer is longer than --answer-limit");
+    return {static_cast<const std::uint8_t *>(frame), size};
+}
+
+void Connection::check(mirk_platform_error error, const char *what) const {
+    if (error == 0) return;
+    const bool bad_input = error == EBADMSG || error == EMSGSIZE || error == EINVAL;
+    throw Failure(bad_input ? Exit::input : Exit::environment, name_ + ": " + what + ": " + error_text(error));
+}
+
+Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
+                      const std::function<void(const Frame &)> &feed) {
+    const std::string &origin = connection.name();
+    Answer answer;
+    for (;;) {
+        const FrameBytes bytes = connection.receive();
+        require_no_refusal(bytes, origin);
+        Frame frame = frame_at(bytes, 0, origin);
+        frame.offset = answer.frames.size();
+        answer.frames.append(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+        require_expected(frame, bundle, reception, origin);
+        if (feed) {
+            feed(frame);
+        } else {
+            reception.feed(frame, origin);
+        }
+        if (!frame.identity.is_control() || frame.identity.control == Control::start) continue;
+        if (frame.identity.control == Control::abort) {
+            throw Failure(Exit::different, origin + ": the answering side aborted " + std::string(bundle.bundle->name));
+        }
+        answer.messages = reception.take();
+        return answer;
+    }
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,71 @@
+// The asking side of the socket: one request, and the frames of its answer.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tools/tarn/commands/commands.h"
+#include "tools/tarn/service/receiver.h"
+
+namespace tarn::tool {
+
+class Deadline {
+public:
+    explicit Deadline(double seconds)
+        : end_(std::chrono::steady_clock::now() + std::chrono::milliseconds(static_cast<long>(seconds * 1000))) {}
+    std::uint32_t left_ms() const;
+
+private:
+    std::chrono::steady_clock::time_point end_;
+};
+
+// The answering process: a socket file or a TCP address, of which one is empty.
+struct Place {
+    std::string socket, tcp;
+
+    bool is_given() const { return !socket.empty() || !tcp.empty(); }
+    const std::string &text() const { return socket.empty() ? tcp : socket; }
+};
+
+// How much is taken from an answering process, which may be broken or worse.
+struct AnswerLimits {
+    std::uint64_t frame = 16 << 20, answer = 256 << 20;
+
+    void add_options(CLI::App &command);
+};
+
+class Connection {
+public:
+    Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits);
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    ~Connection() { mirk_platform_client_close(client_); }
+
+    const std::string &name() const { return name_; }
+    void ask(const reflect::BundleOperations &bundle, bool tracked);
+    // One whole frame, until the next call. All frames together have a limit.
+    FrameBytes receive();
+
+private:
+    void check(mirk_platform_error error, const char *what) const;
+
+    std::string name_;
+    Deadline deadline_;
+    AnswerLimits limits_;
+    std::uint64_t received_ = 0;
+    mirk_platform_client *client_ = nullptr;
+};
+
+struct Answer {
+    std::vector<Item> messages;
+    std::string frames;  // as they came
+};
+
+// Feeds the frames to the reception, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
+// not belong into this answer is a Failure.
+Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
+                      const std::function<void(const Frame &)> &feed = {});
+
+}  // namespace tarn::tool

@@ -1,0 +1,76 @@
+#include "tools/tarn/service/receiver.h"
+
+#include <algorithm>
+
+#include "lumo_ui_tarn.h"
+
+namespace tarn::tool {
+
+Via via_named(std::string_view word) {
+    const std::vector<std::string> words = via_words();
+    return static_cast<Via>(std::find(words.begin(), words.end(), word) - words.begin());
+}
+
+std::vector<std::string> via_words() { return {"lut", "handle", "module", "bundle", "linked"}; }
+
+Reception::Reception(bool tracked, Via via) : handle_(tracked), via_(via) { enlist(); }
+
+Reception::~Reception() {
+    received_.clear();
+    if (via_ == Via::module) lumo_ui_tarn_bundle_handler_unregister();
+    for (const reflect::BundleOperations &b : reflect::bundles()) {
+        if (via_ == Via::bundle) b.unregister_handler();
+    }
+}
+
+void Reception::enlist() {
+    for (const reflect::MessageOperations &o : reflect::messages()) {
+        const mirk_platform_message entry{o.luid, o.name, o.unmarshal, o.unmarshal_only, o.destroy, on_message};
+        mirk_platform_dispatch_register(handle_.get(), &entry);
+    }
+    for (const reflect::BundleOperations &b : reflect::bundles()) {
+        for (const Control control : {Control::start, Control::abort, Control::commit}) {
+            const reflect::MessageOperations &o = operations_of(b, control);
+            const mirk_platform_message entry{o.luid, o.name, o.unmarshal, nullptr, nullptr, nullptr};
+            mirk_platform_dispatch_register(handle_.get(), &entry);
+        }
+        if (via_ == Via::lut) mirk_platform_dispatch_set_bundle_handler(handle_.get(), b.commit.luid, on_bundle);
+        if (via_ == Via::bundle) b.register_handler(on_bundle);
+    }
+    if (via_ == Via::handle) mirk_platform_handle_set_bundle_handler(handle_.get(), on_bundle);
+    if (via_ == Via::module) lumo_ui_tarn_bundle_handler_register(on_bundle);
+}
+
+void Reception::keep(const Identity &identity, void *object) {
+    received_.push_back({identity, Message(handle_, *identity.operations, object), {}});
+}
+
+void Reception::on_bundle(mirk_handle *h, std::uint32_t, void *dispatch_ctx, std::uint32_t *) {
+    auto *self = static_cast<Reception *>(dispatch_ctx);
+    ++self->committed_;
+    while (mirk_platform_received *item = mirk_platform_received_first(h)) {
+        const Identity identity = *identify(mirk_platform_received_luid(item));
+        self->keep(identity, mirk_platform_received_detach(h, item));
+    }
+}
+
+void Reception::on_message(mirk_handle *, std::uint32_t, void *dispatch_ctx, void *message, std::uint32_t *) {
+    auto *self = static_cast<Reception *>(dispatch_ctx);
+    self->keep(self->current_->identity, message);
+}
+
+void Reception::feed(const Frame &frame, const std::string &origin) {
+    Bytes buffer(frame.bytes.begin(), frame.bytes.end());
+    buffer.push_back(0);
+    current_ = &frame;
+    mirk_platform_report report;
+    const mirk_platform_error error = mirk_platform_dispatch(
+        handle_.get(), context_id, buffer.data(), static_cast<std::uint32_t>(frame.bytes.size()), this, &report);
+    current_ = nullptr;
+    if (error != 0) {
+        throw Failure(Exit::input,
+                      frame_place(origin, frame.offset) + ": " + report.sentence + " (" + std::to_string(error) + ")");
+    }
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,50 @@
+// The receiving side: frames go through the dispatcher, and what a bundle brought comes out of its handler.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tools/tarn/formats/frames.h"
+#include "tools/tarn/formats/items.h"
+
+namespace tarn::tool {
+
+// Where the bundle handler is registered; the library tries these places in this order, the linked-in one last.
+enum class Via : std::uint8_t { lut, handle, module, bundle, linked };
+
+Via via_named(std::string_view word);
+std::vector<std::string> via_words();
+
+class Reception {
+public:
+    Reception(bool tracked, Via via);
+    Reception(const Reception &) = delete;
+    Reception &operator=(const Reception &) = delete;
+    ~Reception();
+
+    const Handle &handle() const { return handle_; }
+
+    // Throws a Failure with the dispatcher's sentence.
+    void feed(const Frame &frame, const std::string &origin);
+
+    // Messages of bundles that were committed, and messages that came alone, in order of arrival.
+    std::vector<Item> take() { return std::exchange(received_, {}); }
+    bool in_bundle() const { return handle_.get()->recv_bundle_open != 0; }
+    // Bundles that reached the handler; one that only the linked-in stub saw does not count.
+    unsigned committed() const { return committed_; }
+
+private:
+    static void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, std::uint32_t *err);
+    static void on_message(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void *message, std::uint32_t *err);
+    void enlist();
+    void keep(const Identity &identity, void *object);
+
+    Handle handle_;
+    Via via_;
+    std::vector<Item> received_;
+    unsigned committed_ = 0;
+    const Frame *current_ = nullptr;
+};
+
+}  // namespace tarn::tool

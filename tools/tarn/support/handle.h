@@ -1,0 +1,101 @@
+// Owners of what the runtime and the library hand out, and the forms that a message can be brought into.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "mirk_platform.h"
+#include "tools/reflect/operations.h"
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+using Bytes = std::vector<std::uint8_t>;
+
+inline constexpr std::uint32_t context_id = 1;
+
+class Handle {
+public:
+    explicit Handle(bool tracked);
+    Handle(const Handle &) = delete;
+    Handle &operator=(const Handle &) = delete;
+    ~Handle() { mirk_platform_handle_close(handle_); }
+
+    mirk_handle *get() const { return handle_; }
+    bool tracked() const { return tracked_; }
+
+private:
+    mirk_handle *handle_;
+    bool tracked_;
+};
+
+// Whether messages are made with per-field state: as what is read says, or all alike.
+enum class Tracking : std::uint8_t { as_given, off, on };
+
+// One handle of each kind, since objects must not cross between them.
+class Handles {
+public:
+    explicit Handles(Tracking wanted) : wanted_(wanted) {}
+
+    const Handle &choose(bool given_tracked) const {
+        const bool tracked = wanted_ == Tracking::as_given ? given_tracked : wanted_ == Tracking::on;
+        return tracked ? tracked_ : plain_;
+    }
+
+private:
+    Tracking wanted_;
+    Handle plain_{false}, tracked_{true};
+};
+
+// A plain message with its payload. The handle must live longer.
+class Message {
+public:
+    Message(const Handle &handle, const reflect::MessageOperations &operations, void *object)
+        : handle_(&handle), operations_(&operations), object_(object) {}
+    Message(Message &&other) noexcept
+        : handle_(other.handle_), operations_(other.operations_), object_(std::exchange(other.object_, nullptr)) {}
+    Message &operator=(Message &&other) noexcept {
+        std::swap(handle_, other.handle_);
+        std::swap(operations_, other.operations_);
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~Message() { operations_->destroy(handle_->get(), context_id, object_); }
+
+    static Message make(const Handle &handle, const reflect::MessageOperations &operations);
+
+    const Handle &handle() const { return *handle_; }
+    const reflect::MessageOperations &operations() const { return *operations_; }
+    const reflect::RecordOperations &record() const { return reflect::operations_of(operations_->message->payload); }
+    void *object() const { return object_; }
+    void *payload() const;
+
+private:
+    const Handle *handle_;
+    const reflect::MessageOperations *operations_;
+    void *object_;
+};
+
+struct DocumentRelease {
+    void operator()(void *document) const { mirk_platform_document_free(document); }
+};
+using Document = std::unique_ptr<void, DocumentRelease>;
+
+// Frames, text and XML of a message, or of a control message with a null object. The gaps that the text form leaves in
+// front of nested closing lines are filled with blanks.
+Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
+std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
+std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
+
+// Reads a plain message from a frame of the right luid. Throws a Failure with the error of the library.
+Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
+                           std::span<const std::uint8_t> frame);
+
+// Trace of the process: the library's modules get their names, and with verbose every level goes to standard error.
+void set_up_trace(bool verbose);
+
+}  // namespace tarn::tool

@@ -1,0 +1,85 @@
+#include "tools/tarn/support/instance.h"
+
+#include <cstring>
+
+#include "schema/layout.h"
+
+namespace tarn::tool {
+
+namespace {
+
+constexpr std::uint8_t placed_state = 64, carries_ra_data = 32;
+
+template <typename T>
+T load(const void *object, std::size_t offset) {
+    T value;
+    std::memcpy(&value, static_cast<const char *>(object) + offset, sizeof value);
+    return value;
+}
+
+}  // namespace
+
+std::string string_at(const schema::Record &record, std::size_t index, void *instance) {
+    const schema::Layout layout = schema::lay_out(record);
+    const auto length = load<std::uint16_t>(instance, layout.places[index - 1].offset);
+    const auto *body = load<const char *>(instance, layout.places[index].offset);
+    return body != nullptr ? std::string(body, length) : std::string();
+}
+
+std::int8_t variant_of(const void *object) { return static_cast<const mirk_object *>(object)->variant; }
+
+void set_variant(void *object, std::int8_t variant) { static_cast<mirk_object *>(object)->variant = variant; }
+
+std::optional<RaData> ra_data_of(const Handle &handle, void *object) {
+    if ((static_cast<const mirk_object *>(object)->obj_flag & carries_ra_data) == 0) return std::nullopt;
+    void *value = nullptr;
+    RaData data{};
+    if (mirk_platform_ra_data(handle.get(), object, &value, &data.byte) != 0) return data;
+    data.value = reinterpret_cast<std::uintptr_t>(value);
+    return data;
+}
+
+void set_ra_data(const Handle &handle, void *object, const RaData &data) {
+    void *value = nullptr;
+    static_assert(sizeof value == sizeof data.value);
+    std::memcpy(&value, &data.value, sizeof value);
+    if (mirk_platform_set_ra_data(handle.get(), object, value, data.byte) != 0) {
+        throw Failure(Exit::environment, "no memory for RA data");
+    }
+}
+
+std::string address_text(const Handle &handle, ip_address *address) {
+    char buffer[256];
+    std::uint32_t err = 0;
+    const std::uint32_t size =
+        ip_address_to_xml(handle.get(), context_id, "a", buffer, address, sizeof buffer, 0, &err);
+    if (err != 0) throw Failure(exit_of(err), "an address cannot be written: " + error_text(err));
+    const std::string_view element(buffer, size);
+    constexpr std::string_view open = "<a>", close = "</a>";
+    return std::string(element.substr(open.size(), element.size() - open.size() - close.size()));
+}
+
+bool set_address(const Handle &handle, ip_address *address, const std::string &text) {
+    const std::string element = "<a>" + text + "</a>";
+    const Document document(mirk_platform_document_load_memory(element.data(), element.size(), nullptr));
+    if (document == nullptr) return false;
+    std::uint32_t err = 0;
+    char words[128];
+    ip_address_from_xml(handle.get(), context_id, "/a", document.get(), address, &err, words, sizeof words);
+    return err == 0;
+}
+
+std::uint8_t *address_state(const Handle &handle, ip_address *address) {
+    if (!handle.tracked() || (address->obj_flag & placed_state) == 0) return nullptr;
+    return reinterpret_cast<std::uint8_t *>(address) + mirklib_get_sttr_offset(handle.get(), context_id, address);
+}
+
+std::uint32_t enumeration_value(const void *enumeration) {
+    return load<std::uint32_t>(enumeration, schema::enumeration_value_offset);
+}
+
+void set_enumeration_value(void *enumeration, std::uint32_t value) {
+    std::memcpy(static_cast<char *>(enumeration) + schema::enumeration_value_offset, &value, sizeof value);
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,37 @@
+// What accessors do not hand out in full, read and written by the layout of the schema and the runtime's own
+// operations.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "tools/tarn/support/handle.h"
+
+namespace tarn::tool {
+
+// The accessors of strings stop at a NUL, though a frame may bring one.
+std::string string_at(const schema::Record &record, std::size_t index, void *instance);
+
+std::int8_t variant_of(const void *object);
+void set_variant(void *object, std::int8_t variant);
+
+struct RaData {
+    std::uint64_t value;
+    std::uint8_t byte;
+};
+std::optional<RaData> ra_data_of(const Handle &handle, void *object);
+void set_ra_data(const Handle &handle, void *object, const RaData &data);
+
+std::string address_text(const Handle &handle, ip_address *address);
+// False if the text is no address.
+bool set_address(const Handle &handle, ip_address *address, const std::string &text);
+
+// The seven state bytes of an address on a tracking handle; null if it has none.
+std::uint8_t *address_state(const Handle &handle, ip_address *address);
+
+std::uint32_t enumeration_value(const void *enumeration);
+void set_enumeration_value(void *enumeration, std::uint32_t value);
+
+}  // namespace tarn::tool

@@ -1,0 +1,129 @@
+#include "tools/tarn/support/plausible.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "schema/wire_size.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+using schema::Kind;
+using schema::Member;
+using schema::Record;
+using schema::Role;
+
+bool has(const Member &m, std::string_view part) { return m.name.find(part) != std::string_view::npos; }
+
+bool ends(const Member &m, std::string_view part) {
+    return m.name.size() >= part.size() && m.name.substr(m.name.size() - part.size()) == part;
+}
+
+}  // namespace
+
+std::string Plausible::address() {
+    constexpr std::uint64_t v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
+    if (below(3) != 0) {
+        return "10." + std::to_string(below(256)) + "." + std::to_string(below(256)) + ".0/" +
+               std::to_string(v4_lengths[below(6)]);
+    }
+    // Groups without a zero at the front read back as they are written.
+    std::string text = "2001:db8:";
+    for (int i = 0; i < 2; ++i) {
+        const std::uint64_t group = 1 + below(0xffff);
+        std::string digits;
+        for (std::uint64_t rest = group; rest != 0; rest /= 16)
+            digits.insert(digits.begin(), "0123456789abcdef"[rest % 16]);
+        text += digits + ":";
+    }
+    return text + ":/" + std::to_string(v6_lengths[below(6)]);
+}
+
+std::string Plausible::name(const Member &m) {
+    constexpr const char *protocols[] = {"http", "dns", "rtp", "ssh", "smtp", "quic", "sip", "ntp"};
+    if (has(m, "intf")) {
+        return "TenGigE0/" + std::to_string(below(8)) + "/" + std::to_string(below(4)) + "/" +
+               std::to_string(below(32));
+    }
+    const std::string word = protocols[below(8)];
+    return has(m, "sub") ? word + "-video" : has(m, "appl") ? word + "-" + std::to_string(index_) : word;
+}
+
+std::uint64_t Plausible::number(const Record &record, const Member &m) {
+    const std::uint64_t limit = greatest(m.kind);
+    if (m.name == "lumo_num" || m.name == "complex_num") return index_;
+    if (m.name == "num_lumos" || m.name == "num_complexes") return 2;
+    if (ends(m, "_ptr") || ends(m, "_addr") || ends(m, "_h") || ends(m, "_p") || ends(m, "_next") || has(m, "chan")) {
+        return (0x7f0000000000 + below(1U << 28) * 16) & limit;
+    }
+    if (m.name == "proto" || m.name == "protocol") return below(2) == 0 ? 6 : 17;
+    if (m.name == "tos") return below(64) * 4;
+    if (ends(m, "port_min")) return port_min_ = 1024 + below(30000);
+    if (ends(m, "port_max")) return port_min_ + below(1000);
+    if (ends(m, "_opr")) return below(5);
+    if (ends(m, "enabled") || ends(m, "initialized") || ends(m, "running") || ends(m, "_set") || ends(m, "init"))
+        return below(2);
+    if (m.name == "size" || ends(m, "_size")) return std::min<std::uint64_t>(limit, std::uint64_t{64} << below(10));
+    if (ends(m, "_time")) return 1700000000 + below(100000);
+    if (m.name == "id" || ends(m, "_id")) return (1000 + std::uint64_t{index_}) & limit;
+    if (ends(m, "type") || m.name == "state") return below(4);
+    if (m.name == "min_mask") return 8 + below(25);
+    if (has(m, "flags")) return below(256);
+    if (m.name == "total_prefixes" && record.members.size() > 1) return std::uint64_t{elements_} + below(100);
+    return below(std::min<std::uint64_t>(limit, 999) + 1);
+}
+
+std::uint32_t Plausible::length_of_list(const Member &m, bool narrow_count) {
+    if (m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info") return 2;
+    // A list inside a list of this kind is shorter, or size would grow with the square.
+    const std::uint32_t wanted = depth_ == 0 ? elements_ : elements_ / 4 + 1;
+    return narrow_count ? std::min<std::uint32_t>(wanted, 255) : wanted;
+}
+
+ordered_json Plausible::value(const Record &record, const Member &m, bool narrow_count) {
+    switch (m.kind) {
+        case Kind::boolean:
+            return below(4) != 0;
+        case Kind::address:
+            return address();
+        case Kind::enumeration:
+            return m.enumeration->enumerators[below(m.enumeration->enumerators.size())];
+        case Kind::record:
+            return make(*m.record);
+        case Kind::string:
+            return name(m);
+        case Kind::array: {
+            ordered_json list = ordered_json::array();
+            const std::uint32_t count = length_of_list(m, narrow_count);
+            const bool grows = count == 2 && m.name != "exmem" ? false : count > 1;
+            const std::uint32_t outer = index_;
+            depth_ += grows ? 1 : 0;
+            for (std::uint32_t i = 0; i < count; ++i) {
+                index_ = i;
+                list.push_back(make(*m.record));
+            }
+            depth_ -= grows ? 1 : 0;
+            index_ = outer;
+            return list;
+        }
+        default:
+            return number(record, m);
+    }
+}
+
+ordered_json Plausible::make(const Record &record) {
+    ordered_json json = ordered_json::object();
+    bool narrow_count = false;
+    for (const Member &m : record.members) {
+        if (m.role == Role::value) {
+            json[std::string(m.name)] = value(record, m, narrow_count);
+        } else {
+            narrow_count = m.kind == Kind::u8;
+        }
+    }
+    return json;
+}
+
+}  // namespace tarn::tool
