@@ -61,10 +61,15 @@ typedef enum mirk_platform_epoch_policy {
 
 /** How a handle is opened. */
 typedef struct mirk_platform_handle_options {
-    mirk_platform_tracking tracking;         /**< default NONE */
-    uint32_t private_types;                  /**< default 0; nonzero gives the handle type records of its own */
-    uint64_t request_ceiling;                /**< obj_alloc above this answers null; default 256 MiB */
-    uint64_t total_ceiling;                  /**< live bytes and places of states above this answer null; 1 GiB */
+    mirk_platform_tracking tracking; /**< default NONE */
+    uint32_t private_types;          /**< default 0; nonzero gives the handle type records of its own */
+    uint64_t request_ceiling;        /**< obj_alloc above this answers null; default 256 MiB */
+    /** obj_alloc returns null if the handle would exceed this; default 1 GiB. The sizes of live blocks count. With
+     * tracking ON, so do 136 bytes for each 256-byte stretch of addresses that a block touches, which hold the state
+     * offsets of the objects in it. Memory below obj_alloc does not count: the tables that find blocks and offsets
+     * (up to 128 bytes for each block and 64 for each stretch), what the C library adds to a block, and what the
+     * runtime keeps for types, documents and bundles. */
+    uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< default null */
     const char *domain_name;                 /**< default "default" */
@@ -76,7 +81,8 @@ typedef struct mirk_platform_handle_options {
 /** Fills in the defaults. Always start from here: a later version may have more members. */
 MIRK_PLATFORM_API void mirk_platform_handle_options_init(mirk_platform_handle_options *options);
 
-/** Null options mean the defaults. Null without memory. */
+/** Null options mean the defaults. Returns null if allocation fails. obj_alloc of the handle returns a distinct
+ * address for size 0, too. */
 MIRK_PLATFORM_API mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *options);
 
 /** Drops both bundle lists, then releases blocks that are still live, private type copies and the handle. Returns how

@@ -2,6 +2,7 @@
 // every state-byte access, so they neither throw nor allocate per entry.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -156,6 +157,11 @@ public:
 
     size_t size() const { return entries_; }
     size_t bytes() const { return owned_ * sizeof(Bucket); }
+    // The same after reserving a block of this size, wherever it begins.
+    size_t bytes_with(size_t block_size) const {
+        const size_t most_stretches = (block_size + stretch_size - 2) / stretch_size + 1;
+        return std::max(owned_, reserved_ + most_stretches) * sizeof(Bucket);
+    }
 
     Value *find(const void *object) const {
         if (entries_ == 0) return nullptr;

@@ -19,19 +19,24 @@ mirk::AllocationFailure &failure_of(Handle &handle, mirk_platform_testing_alloca
     return handle.allocation_failures.at(static_cast<size_t>(allocator));
 }
 
+bool within_ceilings(const Handle &handle, size_t size, bool has_offsets) {
+    if (size > handle.request_ceiling || size > handle.total_ceiling) return false;
+    const uint64_t offsets = has_offsets ? handle.offsets.bytes_with(size) : handle.offsets.bytes();
+    return handle.live_bytes + offsets <= handle.total_ceiling - size;
+}
+
 void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
     if (failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) return nullptr;
-    if (size > handle.request_ceiling) return nullptr;
-    if (handle.live_bytes + handle.offsets.bytes() + size > handle.total_ceiling) return nullptr;
+    const bool has_offsets = mirk::tracks(&handle);
+    if (!within_ceilings(handle, size, has_offsets)) return nullptr;
     void *block = std::malloc(size == 0 ? 1 : size);
     if (block == nullptr) return nullptr;
-    const bool has_offsets = mirk::tracks(&handle);
     const mirk::Block known{size, handle.blocks_made + 1, ctx_id, has_offsets};
     if (handle.blocks.put(mirk::address_of(block), known) == nullptr) {
         std::free(block);
         return nullptr;
     }
-    // Later, when an object in it gets its place for states, nobody can be told that there is no memory.
+    // Recording the state offset of an object cannot report an allocation failure, so its entry is reserved here.
     if (has_offsets && !handle.offsets.reserve(block, size)) {
         handle.blocks.erase(mirk::address_of(block));
         std::free(block);

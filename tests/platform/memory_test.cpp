@@ -57,6 +57,35 @@ TEST(Memory, CeilingsAnswerNull) {
     EXPECT_EQ(h.alloc(11), nullptr);
 }
 
+TEST(Memory, TotalCeilingCountsTheStateOffsetsOfTheRequestedBlock) {
+    Options options = test::tracked();
+    options.total_ceiling = uint64_t{260} << 20;
+    Handle h(options);
+    EXPECT_EQ(h.alloc(size_t{256} << 20), nullptr);
+    EXPECT_EQ(mirk_platform_live_bytes(h), 0u);
+    void *a = h.alloc(size_t{128} << 20);
+    EXPECT_NE(a, nullptr) << "with 68 MiB for state offsets it fits";
+    EXPECT_EQ(h.alloc(size_t{64} << 20), nullptr) << "which would need another 34 MiB";
+    h.free(a);
+
+    options.tracking = MIRK_PLATFORM_TRACKING_OFF;
+    Handle untracked(options);
+    void *b = untracked.alloc(size_t{256} << 20);
+    EXPECT_NE(b, nullptr);
+    untracked.free(b);
+}
+
+TEST(Memory, StateOffsetsNeverExceedWhatTheCeilingAllowed) {
+    Options options = test::tracked();
+    constexpr uint64_t ceiling = 100000;
+    options.total_ceiling = ceiling;
+    Handle h(options);
+    std::vector<void *> blocks;
+    while (void *block = h.alloc(1)) blocks.push_back(block);
+    EXPECT_EQ(blocks.size(), ceiling / 137) << "a byte, and the offsets of one stretch of addresses";
+    for (void *block : blocks) h.free(block);
+}
+
 TEST(Memory, DefaultCeilingStopsHostileCounts) {
     Handle h;
     EXPECT_EQ(h.alloc((size_t{256} << 20) + 1), nullptr);
