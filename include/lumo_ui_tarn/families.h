@@ -87,9 +87,10 @@
  * A frame written on a handle that tracks is read on one that does not, and the reverse. A frame of a newer schema is
  * read as far as it is known. An instance whose variant is above the domain's is written in the domain's, with EIDRM.
  *
- * T_unmarshal never trusts a frame: counts cost at most one refused allocation, jumps lead nowhere, values are kept as
- * they come. reuse 0 says that the instance owns nothing yet, and what it owned is then lost; reuse 1 reads into an
- * instance with arrays and strings and keeps their blocks if the counts are equal; what the elements owned is lost.
+ * T_unmarshal never trusts a frame: a count costs at most one allocation, granted only below the runtime's ceiling;
+ * jumps lead nowhere; values are kept as they come. reuse 0 says that the instance owns nothing yet, and what it owned
+ * is then lost; reuse 1 reads into an instance with arrays and strings and keeps their blocks if the counts are equal;
+ * what the elements owned is lost.
  *
  *
  * Deep copy (T_clone, T_clone_cr, T_copy_cr)

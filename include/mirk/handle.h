@@ -15,8 +15,8 @@ extern "C" {
 struct mirk_handle {
     /** Memory that outlives any operation; never given back by the library. Null: out of memory. `id` is 0xFFFFFFFF. */
     void *(*sys_alloc)(void *sys_ctx, uint32_t id, size_t size);
-    /** Instances, blocks, bodies, tokens; the library owns what it gets until obj_free. Size 0 is a legal request and
-     * gives a distinct address. Contents are unspecified. Null: out of memory. */
+    /** Instances, blocks, bodies, tokens; the library owns what it gets until obj_free. Size 0 is a legal request.
+     * Contents are unspecified. Null: out of memory. */
     void *(*obj_alloc)(void *mem_ctx, uint32_t ctx_id, size_t size);
     /** Takes back what obj_alloc gave. */
     void (*obj_free)(void *mem_ctx, uint32_t ctx_id, void *p);
