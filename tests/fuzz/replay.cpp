@@ -1,4 +1,5 @@
-// Goes once through the files of the folders and files that are named, in the order of their names.
+// Runs the target once over each named file, and over each file of the named folders, in the order of their names. A
+// folder of seeds comes first and must hold some; a target without findings has no folder of them.
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -15,6 +16,10 @@ int main(int argc, char **argv) {
             for (const auto &entry : std::filesystem::directory_iterator(argv[i])) files.push_back(entry.path());
         } else if (std::filesystem::exists(argv[i])) {
             files.emplace_back(argv[i]);
+        }
+        if (files.empty()) {
+            std::fprintf(stderr, "no input in %s\n", argv[i]);
+            return 1;
         }
     }
     std::sort(files.begin(), files.end());

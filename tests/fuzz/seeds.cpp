@@ -1,10 +1,8 @@
-// Writes the seed corpora and the dictionaries, from the schema and the tests' own codec: fuzz_seeds FOLDER. With
-// --check in front it compares them to what the folder holds instead.
-#include <algorithm>
+// Prints the seed corpora and the dictionaries, from the schema and the independent codec: fuzz_seeds FOLDER. Files of an
+// earlier run are removed first.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <random>
 #include <string>
@@ -163,38 +161,17 @@ void dictionaries() {
     files["allocation.dict"] = names;
 }
 
-std::string content_of(const std::filesystem::path &path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-int check(const std::filesystem::path &folder) {
-    int wrong = 0;
-    const auto complain = [&](const std::string &path, const char *how) {
-        std::fprintf(stderr, "%s %s\n", path.c_str(), how);
-        ++wrong;
-    };
-    for (const auto &[path, content] : files) {
-        if (content_of(folder / path) != content) complain(path, "is not as it would be written today");
-    }
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
-        const std::string path = std::filesystem::relative(entry.path(), folder).string();
-        if (entry.is_regular_file() && !files.contains(path)) complain(path, "would not be written any more");
-    }
-    return wrong == 0 ? 0 : 1;
-}
-
 }  // namespace
 
 int main(int argc, char **argv) {
+    if (argc != 2) return 2;
     records();
     bundles();
     tool();
     calls();
     dictionaries();
-    if (argc == 3 && std::string(argv[1]) == "--check") return check(argv[2]);
-    if (argc != 2) return 2;
     const std::filesystem::path folder = argv[1];
+    std::filesystem::remove_all(folder);
     for (const auto &[path, content] : files) {
         std::filesystem::create_directories((folder / path).parent_path());
         std::ofstream(folder / path, std::ios::binary) << content;
