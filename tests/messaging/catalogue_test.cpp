@@ -29,7 +29,7 @@ std::vector<Entry> catalogue() {
 }
 
 TEST(Catalogue, HasEveryIdentityInBothForms) {
-    ASSERT_EQ(catalogue().size(), 43u);
+    ASSERT_EQ(catalogue().size(), reference::messages().size() + 3 * reference::bundles().size());
     for (const Entry &e : catalogue()) {
         SCOPED_TRACE(e.name);
         EXPECT_TRUE(std::equal(e.luid.begin(), e.luid.end(), e.operations->luid));
@@ -90,7 +90,7 @@ TEST(Catalogue, ABundleAdmitsItsMessageAndTheRequest) {
         tables.insert(rows);
     }
     // Also where two bundles admit the same message.
-    EXPECT_EQ(tables.size(), 11u);
+    EXPECT_EQ(tables.size(), bundles().size());
 }
 
 TEST(Catalogue, ControlFramesAre43BytesAndSaySo) {

@@ -101,11 +101,11 @@ TEST_F(ControlMessages, StickyCreateGoesByTheLastErrorAlone) {
 TEST_F(ControlMessages, EachHasASentinelOfItsOwn) {
     std::set<void *> sentinels;
     for (const Control &c : controls()) sentinels.insert(sentinel_of(*c.operations));
-    EXPECT_EQ(sentinels.size(), 33u);
+    EXPECT_EQ(sentinels.size(), controls().size());
 }
 
 TEST_F(ControlMessages, OnlyTheStickyDestroyKnowsTheSentinel) {
-    void *const another = sentinel_of(tarn::reflect::bundles()[10].commit);
+    void *const another = sentinel_of(tarn::reflect::bundles().back().commit);
     for (const Control &c : controls()) {
         SCOPED_TRACE(c->name);
         void *sentinel = sentinel_of(*c.operations);

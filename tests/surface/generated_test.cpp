@@ -1,6 +1,7 @@
 // What is generated and checked in is what the generator prints now.
 #include <gtest/gtest.h>
 
+#include "reference/tables.h"
 #include "surface.h"
 
 namespace {
@@ -13,7 +14,8 @@ TEST(Generated, HeadersAreUpToDate) {
     const Directory fresh;
     ASSERT_EQ(generate("headers", fresh.path()).code, 0);
     const std::set<std::string> names = files_below(fresh.path());
-    ASSERT_GE(names.size(), 61u);  // 37 records, 3 enumerations, 10 messages, 11 bundles
+    ASSERT_GE(names.size(), reference::records().size() + reference::enumerations().size() +
+                                reference::messages().size() + reference::bundles().size());
     for (const std::string &name : names) {
         const std::filesystem::path checked_in = std::filesystem::path(TARN_INCLUDE) / name;
         ASSERT_TRUE(std::filesystem::exists(checked_in)) << name << " is missing: run tools/regenerate";
