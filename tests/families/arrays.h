@@ -13,13 +13,13 @@ struct ArraySubject {
 };
 
 inline void each_array(const std::function<void(const ArraySubject &)> &visit) {
-    int found = 0;
+    size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.element_set == nullptr) return;
         ++found;
         visit({r, m, r.members[index_of(r, m) - 1], nested_record(m)});
     });
-    EXPECT_EQ(found, 17);
+    EXPECT_EQ(found, reference::members_of(reference::Class::kArray));
 }
 
 inline uint64_t count(mirk_handle *h, const ArraySubject &s, void *object) {

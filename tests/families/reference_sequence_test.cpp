@@ -70,13 +70,13 @@ TEST_F(ReferenceSequence, EveryEmbeddedObjectGetsItsOffsetAndLosesIt) {
 }
 
 void each_address(const std::function<void(const RecordOperations &, const MemberOperations &)> &visit) {
-    int found = 0;
+    size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.member->kind != Kind::address) return;
         ++found;
         visit(r, m);
     });
-    EXPECT_EQ(found, 6);
+    EXPECT_EQ(found, reference::members_of(reference::Class::kAddress));
 }
 
 // What concerns one address while its owner is destroyed.

@@ -14,13 +14,13 @@ struct Subject {
 };
 
 void each_string(const std::function<void(const Subject &)> &visit) {
-    int found = 0;
+    size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.text_set == nullptr) return;
         ++found;
         visit({r, m, r.members[index_of(r, m) - 1]});
     });
-    EXPECT_EQ(found, 4);
+    EXPECT_EQ(found, reference::members_of(reference::Class::kString));
 }
 
 char *body(const Subject &s, void *object) { return read<char *>(at(s.r, object, s.m)); }

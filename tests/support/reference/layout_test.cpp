@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <map>
 #include <set>
-#include <sstream>
 
 namespace reference {
 namespace {
@@ -24,18 +21,15 @@ TEST(Tables, HoldEveryLineOfTheirText) {
     EXPECT_EQ(enumeration_table("lumo_tarn_ha_state_e").enumerators.size(),
               occurrences(kCatalogueTables, "\n  LUMO_TARN_HA_"));
 
-    std::map<Class, std::size_t> members;
-    for (const RecordTable &table : records())
-        for (const MemberTable &member : table.members) ++members[member.cls];
-    EXPECT_EQ(members[Class::kInteger], occurrences(kRecordTables, " integer u_int"));
-    EXPECT_EQ(members[Class::kBoolean], occurrences(kRecordTables, " boolean mirk_boolean\n"));
-    EXPECT_EQ(members[Class::kNested], occurrences(kRecordTables, " nested "));
-    EXPECT_EQ(members[Class::kEnumeration], occurrences(kRecordTables, " enumeration "));
-    EXPECT_EQ(members[Class::kAddress], occurrences(kRecordTables, " address ip_address\n"));
-    EXPECT_EQ(members[Class::kArray], occurrences(kRecordTables, " array "));
-    EXPECT_EQ(members[Class::kCount], occurrences(kRecordTables, " count u_int"));
-    EXPECT_EQ(members[Class::kString], occurrences(kRecordTables, " string var_string "));
-    EXPECT_EQ(members[Class::kLength], occurrences(kRecordTables, " length u_int"));
+    EXPECT_EQ(members_of(Class::kInteger), occurrences(kRecordTables, " integer u_int"));
+    EXPECT_EQ(members_of(Class::kBoolean), occurrences(kRecordTables, " boolean mirk_boolean\n"));
+    EXPECT_EQ(members_of(Class::kNested), occurrences(kRecordTables, " nested "));
+    EXPECT_EQ(members_of(Class::kEnumeration), occurrences(kRecordTables, " enumeration "));
+    EXPECT_EQ(members_of(Class::kAddress), occurrences(kRecordTables, " address ip_address\n"));
+    EXPECT_EQ(members_of(Class::kArray), occurrences(kRecordTables, " array "));
+    EXPECT_EQ(members_of(Class::kCount), occurrences(kRecordTables, " count u_int"));
+    EXPECT_EQ(members_of(Class::kString), occurrences(kRecordTables, " string var_string "));
+    EXPECT_EQ(members_of(Class::kLength), occurrences(kRecordTables, " length u_int"));
 }
 
 TEST(Tables, CountersStandDirectlyAheadOfWhatTheyCount) {
@@ -113,14 +107,6 @@ TEST(Layout, AreasWithPointersAreAligned) {
     EXPECT_EQ(member("appl_list").slot, 57u);
     EXPECT_EQ(member("appl_list").area, 64u);
     EXPECT_EQ(member("show_ll_comm").slot, 87u);
-}
-
-// The golden file is what reference_layout prints.
-TEST(Layout, MatchesTheGolden) {
-    std::ifstream file(REFERENCE_GOLDEN);
-    std::ostringstream golden;
-    golden << file.rdbuf();
-    EXPECT_EQ(golden.str(), layout_text());
 }
 
 }  // namespace

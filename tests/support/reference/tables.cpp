@@ -165,6 +165,14 @@ const EnumerationTable &enumeration_table(std::string_view name) { return named(
 const MessageTable &message_table(std::string_view name) { return named(messages(), name); }
 const BundleTable &bundle_table(std::string_view name) { return named(bundles(), name); }
 
+std::size_t members_of(Class cls) {
+    std::size_t count = 0;
+    for (const RecordTable &table : records()) {
+        for (const MemberTable &member : table.members) count += member.cls == cls ? 1 : 0;
+    }
+    return count;
+}
+
 std::string luid_text(const Luid &luid) {
     static const char digits[] = "0123456789abcdef";
     std::string text;

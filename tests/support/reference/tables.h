@@ -74,6 +74,9 @@ const EnumerationTable &enumeration_table(std::string_view name);
 const MessageTable &message_table(std::string_view name);
 const BundleTable &bundle_table(std::string_view name);
 
+// How many members of that class all records have.
+std::size_t members_of(Class cls);
+
 std::string luid_text(const Luid &luid);
 
 extern const char *const kRecordTables;
