@@ -21,28 +21,27 @@ extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_registered_handl
 
 /** @name Types
  *  @{ */
-/** Makes sure that the handle's type store has a private copy of each type record: for a handle with private types,
- * before its first use. ENOMEM without memory. */
+/** Creates the private copies of type records that are missing in the handle's type store. Call it before the first use
+ * of a handle with private types. ENOMEM if allocation fails. */
 LUMO_UI_TARN_API void lumo_ui_tarn_typeinfo_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
-/** Prints, for each type, its variants with the size and the slop of an instance. */
+/** Prints the variants of each type with the size and the slop of an instance. */
 LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump(mirk_print_fn print);
 /** @} */
 
 /** @name Trace
  *  @{ */
-/** Registers the trace module of records and enumerations; repeatable. Creating a record does it. */
+/** Registers the trace module of records and enumerations; may be repeated. Creating a record calls it. */
 LUMO_UI_TARN_API void mirk_lumo_ui_tarn_type_trace_init(void);
-/** Registers the trace module of messages; repeatable. Call it once, or message trace goes under module 0. */
+/** Registers the trace module of messages; may be repeated. Call it once; otherwise message traces go to module 0. */
 LUMO_UI_TARN_API void mirk_lumo_ui_tarn_message_trace_init(void);
 /** @} */
 
 /** @name Registration
  *  @{ */
-/** Registers one handler for all bundles of this module and of the modules that it builds on, and returns the one
- * before. It comes ahead of the handlers of single bundles. Carries no lock: call it at a quiet moment. */
+/** Registers one handler for all bundles of this module and of the modules it depends on, and returns the previous one.
+ * It precedes the handlers of single bundles. Not synchronized: call it while no bundle is being received. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_handler_register(mirk_bundle_handler handler);
-/** Takes the handler for all bundles away, here and in the modules that this one builds on, and returns it. Carries no
- * lock. */
+/** Removes the handler of all bundles, in this module and in those it depends on, and returns it. Not synchronized. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_handler_unregister(void);
 /** @} */
 

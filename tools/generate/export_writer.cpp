@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <stdexcept>
 
 #include "surface.h"
 #include "writers.h"
@@ -9,7 +10,7 @@ namespace tarn::generate {
 
 namespace {
 
-constexpr std::string_view banner = "// Generated from the schema and the family table; not to be edited.\n";
+constexpr std::string_view banner = "// Generated from the schema and the table of operations; not to be edited.\n";
 
 bool is_opaque(const std::string &type) { return type.find("lumo_tarn_") != std::string::npos; }
 
@@ -20,17 +21,48 @@ std::string argument(const Parameter &p) {
     return "object_of(" + p.name + ")";
 }
 
+// What a sticky form puts for what it does not take.
+std::string sticky_argument(const Parameter &p, const Subject &s) {
+    if (p.name == "ctx_id") return "h->default_id";
+    if (p.name == "err") return "&h->last_error";
+    if (p.name == "name") return fill(s.record != nullptr ? "\"{r}\"" : "\"{e}\"", s);
+    if (p.name == "indent" || p.name == "state") return "0";
+    return argument(p);
+}
+
+// Those of core/sticky.h. Empty: the call is the whole answer.
+std::string_view policy_of(Sticky sticky) {
+    switch (sticky) {
+        case Sticky::create:
+            return "sticky_create";
+        case Sticky::zero:
+            return "sticky_zero";
+        case Sticky::size:
+            return "sticky_size";
+        case Sticky::checked_size:
+            return "sticky_checked_size";
+        case Sticky::error:
+            return "sticky_error";
+        default:
+            return {};
+    }
+}
+
 std::string call(const Export &e) {
     std::string list;
     const bool err_in_front = e.entry.ends_with("::get_all") || e.entry.ends_with("::set_all");
     const auto add = [&](const std::string &text) { list += (list.empty() ? "" : ", ") + text; };
+    const bool sticky = e.operation->sticky != Sticky::none;
     // The values of a whole record are a parameter pack, which has to stand last.
-    for (std::size_t i = 0; i < e.parameters.size(); ++i) {
+    for (std::size_t i = 0; i < e.called_with.size(); ++i) {
+        const Parameter &p = e.called_with[i];
         if (err_in_front && i == 3) add("err");
-        if (err_in_front && i + 1 == e.parameters.size()) continue;
-        add(argument(e.parameters[i]));
+        if (err_in_front && i + 1 == e.called_with.size()) continue;
+        add(sticky ? sticky_argument(p, e.subject) : argument(p));
     }
-    return e.entry + "(" + list + ")";
+    const std::string text = e.entry + "(" + list + ")";
+    const std::string_view policy = policy_of(e.operation->sticky);
+    return policy.empty() ? text : std::string(policy) + "(h, [&] { return " + text + "; })";
 }
 
 std::string stub(const Export &e) {
@@ -41,7 +73,7 @@ std::string stub(const Export &e) {
     } else if (e.result != "void") {
         body = "return " + body;
     }
-    return prefix + e.declaration() + " {\n    " + body + ";\n}\n";
+    return prefix + "LUMO_UI_TARN_API " + e.declaration() + " {\n    " + body + ";\n}\n";
 }
 
 std::string type_tag(const Subject &s) {
@@ -64,9 +96,9 @@ std::string type_info() {
 
 std::string type_table() {
     std::string text(banner);
-    text += "#include \"lumo_ui_tarn.h\"\n\nextern \"C\" {\n";
+    text += "#include \"lumo_ui_tarn/base.h\"\n\nextern \"C\" {\n";
     for (const TypeEntry &t : types()) {
-        text += "constinit mirk_type_info _" + t.name +
+        text += "LUMO_UI_TARN_API constinit mirk_type_info _" + t.name +
                 "_type_info_internal = tarn::type_record<tarn::schema::" + type_tag(t.subject) + ">();\n";
     }
     text += "}\n\nextern mirk_type_info *lumo_ui_tarn_type_table[];\nmirk_type_info *lumo_ui_tarn_type_table[] = {\n";
@@ -110,22 +142,33 @@ std::string identity() {
     return text + "\n}  // namespace tarn\n";
 }
 
+// Constants are declared before they are defined: without that they would not be visible outside.
+std::string constant(const std::string &declaration, const std::string &value) {
+    return "extern LUMO_UI_TARN_API const " + declaration + ";\nconstinit const " + declaration + " = " + value + ";\n";
+}
+
 std::string catalogue_objects() {
     std::string text(banner);
-    text += "#include \"lumo_ui_tarn.h\"\n\nextern \"C\" {\n";
+    text += "#include \"lumo_ui_tarn/base.h\"\n\nextern \"C\" {\n";
     for (const CatalogueEntry &c : catalogue()) {
         std::string bytes;
         for (const std::uint8_t byte : c.luid->bytes) bytes += (bytes.empty() ? "" : ", ") + std::to_string(byte);
-        text += "constinit const uint8_t message_" + c.name + "_luid[16] = {" + bytes + "};\n";
-        text += "constinit const char message_" + c.name + "_luid_text[33] = \"" + c.luid->text.data() + "\";\n";
-        text += "constinit const char message_" + c.name + "_name[64] = \"message " + c.name + "\";\n";
+        text += constant("uint8_t message_" + c.name + "_luid[16]", "{" + bytes + "}");
+        text += constant("char message_" + c.name + "_luid_text[33]", "\"" + std::string(c.luid->text.data()) + "\"");
+        text += constant("char message_" + c.name + "_name[64]", "\"message " + c.name + "\"");
     }
     return text + "}\n";
 }
 
+// The types of the public headers, which name nothing else of these here: a unit is compiled anew when its own
+// operations change, and not when those of others do.
 std::string opaque() {
     std::string text(banner);
-    text += "#include \"lumo_ui_tarn.h\"\n\nnamespace tarn {\n\n";
+    for (const Applies applies : {Applies::record, Applies::enumeration, Applies::message}) {
+        const char *name = applies == Applies::record ? "{r}" : applies == Applies::enumeration ? "{e}" : "{m}";
+        for (const Subject &s : subjects(applies)) text += "struct " + fill(name, s) + ";\n";
+    }
+    text += "\nnamespace tarn {\n\n";
     for (const Subject &s : subjects(Applies::enumeration)) {
         text += fill("template <>\nstruct ObjectOf<::{e}> {\n    using type = enumeration_object;\n};\n", s);
     }
@@ -137,10 +180,11 @@ std::string opaque() {
 
 std::string variables() {
     std::string text(banner);
-    text += "#include \"lumo_ui_tarn.h\"\n\nextern \"C\" {\n";
+    text += "#include \"lumo_ui_tarn/base.h\"\n\nextern \"C\" {\n";
     for (const Datum &d : all_data()) {
-        if (d.declaration.starts_with("mirk_bundle_handler")) text += "constinit " + d.declaration + " = nullptr;\n";
-        if (d.declaration.starts_with("uint16_t")) text += "constinit " + d.declaration + " = 0;\n";
+        const std::string definition = "LUMO_UI_TARN_API constinit " + d.declaration;
+        if (d.declaration.starts_with("mirk_bundle_handler")) text += definition + " = nullptr;\n";
+        if (d.declaration.starts_with("uint16_t")) text += definition + " = 0;\n";
     }
     return text + "}\n";
 }
@@ -163,15 +207,26 @@ bool is_in_sample(const Subject &s) {
 
 }  // namespace
 
-Files write_exports(bool sample_only) {
+Files write_exports(const std::vector<std::string> &sources, bool sample_only) {
     Files files;
+    files["type_info.inc"] = type_info();
+    files["type_table.inc"] = type_table();
+    files["identity.inc"] = identity();
+    files["catalogue.inc"] = catalogue_objects();
+    files["opaque.inc"] = opaque();
+    files["variables.inc"] = variables();
     std::set<std::string_view> units;
     for (const Row &row : rows()) units.insert(row.unit);
     for (const Instantiation &i : instantiations()) units.insert(i.unit);
     const std::vector<Export> functions = all_functions();
     for (const std::string_view unit : units) {
+        if (!sources.empty() && std::find(sources.begin(), sources.end(), unit) == sources.end()) {
+            throw std::runtime_error("the library has no " + std::string(unit) + ".cpp, which operations.cpp names");
+        }
         std::string text(banner);
-        text += "#include \"lumo_ui_tarn.h\"\n#include \"core/opaque.h\"\n\nnamespace tarn {\n\n";
+        text +=
+            "#include \"core/sticky.h\"\n#include \"lumo_ui_tarn/base.h\"\n#include \"core/opaque.h\"\n\n"
+            "namespace tarn {\n\n";
         for (const Instantiation &i : instantiations()) {
             if (i.unit != unit) continue;
             for (const Subject &s : subjects(i.applies)) {
@@ -185,12 +240,8 @@ Files write_exports(bool sample_only) {
         }
         files[std::string(unit) + ".inc"] = text + "}\n";
     }
-    files["type_info.inc"] = type_info();
-    files["type_table.inc"] = type_table();
-    files["identity.inc"] = identity();
-    files["catalogue.inc"] = catalogue_objects();
-    files["opaque.inc"] = opaque();
-    files["variables.inc"] = variables();
+    // One file for each source, so that the build knows their names before it knows the table.
+    for (const std::string &source : sources) files.try_emplace(source + ".inc", banner);
     return files;
 }
 

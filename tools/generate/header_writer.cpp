@@ -54,7 +54,7 @@ std::string group(const std::string &heading, const std::string &content) {
 }
 
 std::string declaration(const Export &e) {
-    return comment(fill(description_of(*e.row), e.subject)) + prototype(e.declaration());
+    return comment(fill(e.operation->text, e.subject)) + prototype(e.declaration());
 }
 
 constexpr const char *generated = "/* Generated from the schema; edit the tables there and run tools/regenerate. */\n";

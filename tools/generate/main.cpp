@@ -1,5 +1,6 @@
-// Prints everything that follows from the schema: generate KIND DIRECTORY [NAME=VALUE...], where the values go into the
-// build stamp of the manifest. A file whose content is unchanged is left alone, so that nothing is rebuilt for it.
+// Prints everything that follows from the schema: generate KIND DIRECTORY [ARGUMENT...]. The arguments of exports are
+// the sources of the library, those of link NAME=VALUE for the build stamp of the manifest. A file whose content is
+// unchanged is left alone, so that nothing is rebuilt for it.
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -64,9 +65,9 @@ int main(int argc, char **argv) {
     if (kind == "headers") {
         put(argv[2], write_headers());
     } else if (kind == "exports") {
-        put(argv[2], write_exports());
+        put(argv[2], write_exports({argv + 3, argv + argc}));
     } else if (kind == "sample") {
-        put(argv[2], write_exports(true));
+        put(argv[2], write_exports({}, true));
     } else if (kind == "lists") {
         put(argv[2], write_lists());
     } else if (kind == "link") {
@@ -91,7 +92,7 @@ int main(int argc, char **argv) {
     } else {
         std::cerr
             << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|pictures|dissector|"
-               "python|manuals DIRECTORY [NAME=VALUE...]\n";
+               "python|manuals DIRECTORY [ARGUMENT...]\n";
         return 2;
     }
     return 0;

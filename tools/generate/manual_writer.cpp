@@ -64,13 +64,12 @@ std::string generic(std::string_view pattern) {
     return text;
 }
 
-std::string operations(const std::string &heading, const std::string &introduction,
-                       const std::vector<Applies> &classes) {
+std::string operations(const std::string &heading, const std::string &introduction, Applies classes) {
     std::string out = ".Ss " + heading + "\n" + introduction + "\n.Bl -tag -width Ds\n";
     std::vector<std::string> told;
-    for (const Row &row : rows()) {
-        if (std::find(classes.begin(), classes.end(), row.applies) == classes.end()) continue;
-        const std::string name = generic(name_of(row)), text = generic(description_of(row));
+    for (const Operation &o : tarn::generate::operations()) {
+        if (!includes(o.row->applies, classes)) continue;
+        const std::string name = generic(o.name), text = generic(o.text);
         if (std::find(told.begin(), told.end(), name + text) != told.end()) continue;
         told.push_back(name + text);
         out += ".It Fn " + name + "\n" + line(text);
@@ -124,15 +123,14 @@ handle's last_error.
 .Pp
 A buffer that frames are written to or read from has one more byte behind the size that is passed.
 )mdoc";
-    out += operations("Records", "Each RECORD has these.", {Applies::record});
+    using enum Applies;
+    out += operations("Records", "Each RECORD has these.", record);
     out += operations("Members of records", "Which of them a MEMBER has follows from its kind.",
-                      {Applies::integer, Applies::boolean, Applies::choice, Applies::address, Applies::nested,
-                       Applies::length, Applies::count, Applies::string, Applies::array});
-    out += operations("Enumerations", "Each ENUM has these.", {Applies::enumeration});
-    out += operations("Messages", "Each MESSAGE has these.", {Applies::message});
-    out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.",
-                      {Applies::control, Applies::bundle});
-    out += operations("The module", "There is one of each.", {Applies::module});
+                      integer | boolean | choice | address | nested | length | count | string | array);
+    out += operations("Enumerations", "Each ENUM has these.", enumeration);
+    out += operations("Messages", "Each MESSAGE has these.", message);
+    out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.", control | bundle);
+    out += operations("The module", "There is one of each.", Applies::module);
 
     out += ".Sh RECORDS\n";
     std::vector<std::pair<std::string, std::string>> entries;

@@ -8,22 +8,23 @@ using namespace schema;
 namespace {
 
 // The field of an operations struct that a row fills, from what stands behind the names in its prototype.
-std::string field_of(const Row &row) {
-    const std::string_view prototype = row.prototype;
+std::string field_of(const Operation &operation) {
+    const Row &row = *operation.row;
+    const std::string_view prototype = operation.prototype;
     const std::size_t open = prototype.find('(');
     const std::size_t brace = prototype.rfind('}', open);
     std::string suffix(prototype.substr(brace + 1, open - brace - 1));
     if (suffix.starts_with("_message_")) suffix = suffix.substr(8);
     suffix = suffix.substr(1);
-    if (row.applies == Applies::message && prototype.find("_message_{r}") != std::string_view::npos) {
+    if (includes(row.applies, Applies::message) && prototype.find("_message_{r}") != std::string_view::npos) {
         suffix = "payload_" + suffix;
     }
     if (suffix == "message_handler" || suffix == "bundle_handler") return "handler";
     if (suffix == "bundle_handler_register") return "register_handler";
     if (suffix == "bundle_handler_unregister") return "unregister_handler";
     if (suffix == "sizeof") return "sizeof_";
-    if (row.applies == Applies::string && !suffix.starts_with("state")) return "text_" + suffix;
-    if (row.applies == Applies::array) {
+    if (includes(row.applies, Applies::string) && !suffix.starts_with("state")) return "text_" + suffix;
+    if (includes(row.applies, Applies::array)) {
         if (suffix.starts_with("state_flag_whole")) return "state_flag" + suffix.substr(16);
         return "element_" + suffix;
     }
@@ -52,10 +53,12 @@ std::string lambda(const Export &e) {
         } else if (p.type.ends_with("**") && passes_as_void(p.type)) {
             type = "void **";
             argument = "reinterpret_cast<" + p.type + ">(" + p.name + ")";
-        } else if (passes_as_void(p.type) || (of_member && p.name == "source" && e.row->applies != Applies::array)) {
+        } else if (passes_as_void(p.type) ||
+                   (of_member && p.name == "source" && !includes(e.row->applies, Applies::array))) {
             type = p.type.starts_with("const") && !of_member ? "const void *" : "void *";
             argument = "static_cast<" + p.type + ">(" + p.name + ")";
-        } else if (of_member && p.name == "value" && e.row->prototype.find("set_value") != std::string_view::npos) {
+        } else if (of_member && p.name == "value" &&
+                   e.operation->prototype.find("set_value") != std::string_view::npos) {
             type = "uint64_t";
             argument = "static_cast<" + p.type + ">(value)";
         }
@@ -68,7 +71,7 @@ std::string lambda(const Export &e) {
     }
     std::string result = e.result;
     if (result.ends_with('*')) result = "void *";
-    if (of_member && e.row->prototype.find("get_value") != std::string_view::npos) result = "uint64_t";
+    if (of_member && e.operation->prototype.find("get_value") != std::string_view::npos) result = "uint64_t";
     return "[](" + parameters + ") -> " + result + " { return " + e.name + "(" + arguments + "); }";
 }
 
@@ -76,7 +79,7 @@ std::string fields(const Subject &subject, Applies applies, const std::string &i
     // Designated initialisers follow the order of the struct, so each row is put under its field's name into a struct.
     std::string text;
     for (const Export &e : exports_of(subject, applies)) {
-        const std::string field = field_of(*e.row);
+        const std::string field = field_of(*e.operation);
         const bool as_it_is = e.row->weak || field == "register_handler" || field == "unregister_handler";
         text += indent + "o." + field + " = " + (as_it_is ? e.name : lambda(e)) + ";\n";
     }

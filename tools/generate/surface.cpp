@@ -50,15 +50,77 @@ std::vector<Parameter> parse_parameters(std::string_view text) {
     return parameters;
 }
 
-Export expand(const Row &row, const Subject &subject) {
-    Export e{&row, subject, {}, {}, fill(row.entry, subject), {}};
-    const std::string prototype = fill(row.prototype, subject);
+std::string_view parameters_in(std::string_view prototype) {
     const std::size_t open = prototype.find('(');
-    const std::size_t name = prototype.find_last_of(" *", open) + 1;
-    e.result = prototype.substr(0, name);
+    return prototype.substr(open + 1, prototype.size() - open - 2);
+}
+
+std::string_view name_in(std::string_view prototype) {
+    const std::size_t open = prototype.find('(');
+    const std::size_t begin = prototype.find_last_of(" *", open) + 1;
+    return prototype.substr(begin, open - begin);
+}
+
+Operation explicit_form(const Row &row) {
+    return {&row, Sticky::none, std::string(name_in(row.prototype)), std::string(row.prototype), std::string(row.text)};
+}
+
+Operation other_name(const Row &row) {
+    Operation o = explicit_form(row);
+    o.text = "Another name of " + o.name + "().";
+    replace_all(o.prototype, o.name + "(", o.name + std::string(row.alias) + "(");
+    o.name += row.alias;
+    return o;
+}
+
+std::string text_of_sticky(const Row &row, const std::string &name) {
+    const std::string text = "Sticky form of " + name + "()";
+    switch (row.sticky) {
+        case Sticky::as_is:
+            return text + ": works under the handle's default_id, also while last_error is set.";
+        case Sticky::create:
+            return text +
+                   ": returns a sentinel instead of NULL if allocation fails or last_error is set. Any other NULL "
+                   "stays NULL. Only destroy operations and sticky forms accept the sentinel.";
+        case Sticky::zero:
+            return text + ". Returns 0 while last_error is set.";
+        case Sticky::error:
+            return text + ". Returns the handle's last_error.";
+        default:
+            const bool named = row.prototype.find("const char *name") != std::string_view::npos;
+            return text + (named ? ", under the type's own name. " : ". ") + "Returns 0xFFFFFFFF after an error.";
+    }
+}
+
+Operation sticky_form(const Row &row) {
+    Operation o = explicit_form(row);
+    const std::string_view result = row.prototype.substr(0, row.prototype.find(o.name));
+    std::string object, others;
+    for (const Parameter &p : parse_parameters(parameters_in(row.prototype))) {
+        const bool fixed = p.name == "ctx_id" || p.name == "err" || p.name == "name" || p.name == "indent" ||
+                           p.name == "state" || p.name == "h";
+        if (fixed) continue;
+        const bool is_object = p.name == "object" || p.name == "instance" || p.name == "message" || p.name == "token";
+        (is_object ? object : others) += ", " + p.declaration();
+    }
+    o.sticky = row.sticky;
+    o.text = text_of_sticky(row, o.name);
+    replace_all(o.name, "to_xml", "toxml");
+    o.name += "_cr";
+    o.prototype =
+        (row.sticky == Sticky::error ? "uint32_t " : std::string(result)) + o.name + "(H" + object + others + ")";
+    return o;
+}
+
+Export expand(const Operation &operation, const Subject &subject) {
+    const Row &row = *operation.row;
+    Export e{&operation, &row, subject, {}, {}, fill(row.entry, subject), {}, {}};
+    const std::string prototype = fill(operation.prototype, subject);
+    e.name = name_in(prototype);
+    e.result = prototype.substr(0, prototype.find(e.name + "("));
     if (e.result.ends_with(' ')) e.result.pop_back();
-    e.name = prototype.substr(name, open - name);
-    e.parameters = parse_parameters(std::string_view(prototype).substr(open + 1, prototype.size() - open - 2));
+    e.parameters = parse_parameters(parameters_in(prototype));
+    e.called_with = parse_parameters(parameters_in(fill(row.prototype, subject)));
     return e;
 }
 
@@ -91,6 +153,14 @@ std::string value_type(const Member &m) {
     return integer_type(m.kind);
 }
 
+std::string memory_type(const Member &m) {
+    if (m.kind == Kind::boolean) return "mirk_boolean";
+    if (m.kind == Kind::address) return "ip_address";
+    if (m.enumeration != nullptr) return std::string(m.enumeration->name);
+    if (m.record != nullptr) return std::string(m.record->name);
+    return integer_type(m.kind);
+}
+
 std::string fill(std::string_view pattern, const Subject &s) {
     std::string text(pattern);
     const auto put = [&](std::string_view what, std::string_view by) { replace_all(text, what, by); };
@@ -104,7 +174,8 @@ std::string fill(std::string_view pattern, const Subject &s) {
             put("{F}", "FieldOf<{R}, " + std::to_string(s.member) + ">");
             put("{f}", m.name);
             put("{meaning}", m.meaning);
-            if (is_integer(m.kind)) put("{T}", integer_type(m.kind));
+            if (m.kind != Kind::string && m.kind != Kind::array) put("{A}", memory_type(m));
+            if (is_integer(m.kind) || m.kind == Kind::boolean || m.kind == Kind::enumeration) put("{V}", value_type(m));
             if (m.record != nullptr) put("{n}", m.record->name);
             if (m.enumeration != nullptr) put("{n}", m.enumeration->name);
         }
@@ -138,49 +209,54 @@ std::string Export::declaration() const {
 
 std::vector<Subject> subjects(Applies applies) {
     std::vector<Subject> all;
-    switch (applies) {
-        case Applies::record:
-            for (const Record *r : records) all.push_back({.record = r});
-            break;
-        case Applies::enumeration:
-            for (const Enumeration *e : enumerations) all.push_back({.enumeration = e});
-            break;
-        case Applies::message:
-            for (const Message *m : messages) all.push_back({.message = m});
-            break;
-        case Applies::bundle:
-            for (const Bundle *b : bundles) all.push_back({.bundle = b});
-            break;
-        case Applies::control:
-            for (const Bundle *b : bundles) {
-                for (const char *kind : {"start", "abort", "commit"}) all.push_back({.bundle = b, .control = kind});
-            }
-            break;
-        case Applies::module:
-            all.push_back({});
-            break;
-        default:
-            for (const Record *r : records) {
-                for (std::size_t i = 0; i < r->members.size(); ++i) {
-                    if (class_of(r->members[i]) == applies) all.push_back({.record = r, .member = i});
-                }
-            }
+    const auto wants = [&](Applies one) { return includes(applies, one); };
+    for (const Record *r : records) {
+        if (wants(Applies::record)) all.push_back({.record = r});
+        for (std::size_t i = 0; i < r->members.size(); ++i) {
+            if (wants(class_of(r->members[i]))) all.push_back({.record = r, .member = i});
+        }
     }
+    for (const Enumeration *e : enumerations) {
+        if (wants(Applies::enumeration)) all.push_back({.enumeration = e});
+    }
+    for (const Message *m : messages) {
+        if (wants(Applies::message)) all.push_back({.message = m});
+    }
+    for (const Bundle *b : bundles) {
+        if (wants(Applies::bundle)) all.push_back({.bundle = b});
+        for (const char *kind : {"start", "abort", "commit"}) {
+            if (wants(Applies::control)) all.push_back({.bundle = b, .control = kind});
+        }
+    }
+    if (wants(Applies::module)) all.push_back({});
+    return all;
+}
+
+const std::vector<Operation> &operations() {
+    static const std::vector<Operation> all = [] {
+        std::vector<Operation> forms;
+        for (const Row &row : rows()) {
+            forms.push_back(explicit_form(row));
+            if (row.sticky != Sticky::none) forms.push_back(sticky_form(row));
+            if (!row.alias.empty()) forms.push_back(other_name(row));
+        }
+        return forms;
+    }();
     return all;
 }
 
 std::vector<Export> exports_of(const Subject &subject, Applies applies) {
     std::vector<Export> found;
-    for (const Row &row : rows()) {
-        if (row.applies == applies) found.push_back(expand(row, subject));
+    for (const Operation &o : operations()) {
+        if (includes(o.row->applies, applies)) found.push_back(expand(o, subject));
     }
     return found;
 }
 
 std::vector<Export> all_functions() {
     std::vector<Export> all;
-    for (const Row &row : rows()) {
-        for (const Subject &subject : subjects(row.applies)) all.push_back(expand(row, subject));
+    for (const Operation &o : operations()) {
+        for (const Subject &subject : subjects(o.row->applies)) all.push_back(expand(o, subject));
     }
     return all;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "families.h"
+#include "operations.h"
 #include "schema/catalogue.h"
 
 namespace tarn::generate {
@@ -25,16 +25,27 @@ struct Parameter {
     std::string declaration() const { return type.ends_with('*') ? type + name : type + " " + name; }
 };
 
+// One name of a row: the explicit form, its sticky form, or its other name. Placeholders are still in place.
+struct Operation {
+    const Row *row;
+    Sticky sticky;  // of the sticky form alone
+    std::string name, prototype, text;
+};
+const std::vector<Operation> &operations();
+
 struct Export {
+    const Operation *operation = nullptr;
     const Row *row = nullptr;
     Subject subject;
     std::string result, name, entry;
     std::vector<Parameter> parameters;
-    std::string declaration() const;  // without a semicolon
+    std::vector<Parameter> called_with;  // what the entry takes: the parameters of the explicit form
+    std::string declaration() const;     // without a semicolon
 };
 
 Applies class_of(const schema::Member &member);
 std::string value_type(const schema::Member &member);
+std::string memory_type(const schema::Member &member);
 std::string fill(std::string_view pattern, const Subject &subject);
 
 std::vector<Subject> subjects(Applies applies);

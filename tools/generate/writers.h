@@ -3,17 +3,19 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace tarn::generate {
 
 // File name, relative to a directory of the product's own, and content.
 using Files = std::map<std::string, std::string>;
 
-Files write_headers();                          // include/: the public face, checked in
-std::string interface_page();                   // of them: the C++ interface
-Files write_exports(bool sample_only = false);  // build tree: export stubs, a file for each unit of the library
-Files write_lists();                            // goldens: exported names, layout of every record
-Files write_linker_script();                    // build tree: the version script
+Files write_headers();         // include/: the public face, checked in
+std::string interface_page();  // of them: the C++ interface
+// Build tree: export stubs, a file for each unit of the library. Given its sources, without suffix, each gets a file.
+Files write_exports(const std::vector<std::string> &sources, bool sample_only = false);
+Files write_lists();          // goldens: exported names, layout of every record
+Files write_linker_script();  // build tree: the version script
 
 Files write_floor();       // build tree: straight-line code, for the benchmarks
 Files write_plain();       // build tree: records as plain structs, for the same

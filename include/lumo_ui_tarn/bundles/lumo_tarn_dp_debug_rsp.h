@@ -16,18 +16,18 @@ extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_debug_rsp_
 
 /** @name Handlers
  *  @{ */
-/** Gets each committed bundle for which no handler is registered; its messages lie on the handle's receive list
- * meanwhile. A weak symbol: define one of the same name to take the bundles. This one only traces that nobody did. */
+/** Receives each committed bundle that has no registered handler; its messages are on the handle's receive list. A weak
+ * symbol: define a function of the same name to receive the bundles. This one only writes a trace line. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, uint32_t *err);
 /** @} */
 
 /** @name Registration
  *  @{ */
-/** Registers the handler of this bundle for the process and returns the one before. Carries no lock: call it at a quiet
- * moment. */
+/** Registers the process-wide handler of this bundle and returns the previous one. Not synchronized: call it while no
+ * bundle is being received. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler_register(mirk_bundle_handler handler);
-/** Takes the registered handler of this bundle away and returns it. Carries no lock. */
+/** Removes the registered handler of this bundle and returns it. Not synchronized. */
 LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler_unregister(void);
 /** @} */
 
@@ -41,78 +41,78 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_debug_rsp_bundle_start_n
 
 /** @name Control messages
  *  @{ */
-/** Makes a token for the start of the bundle, or null without memory. */
+/** Allocates a token for the start of the bundle. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_create(mirk_handle *h, uint32_t ctx_id);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_create(), with a sentinel instead of null, which only the
- * sticky destroy operation may be given. */
-LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
-/** Releases the token. Null is passed over. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_create(). Returns a sentinel instead of NULL, which only
+ * lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_cr() accepts. */
+LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_create_cr(mirk_handle *h);
+/** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy(mirk_handle *h, uint32_t ctx_id, void *token);
-/** Releases the token. Null and the sentinel are passed over. */
-LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Bytes of the frame: 43, header and identity. */
+/** Frees the token. NULL and the sentinel are ignored. */
+LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_cr(mirk_handle *h, void *token);
+/** Returns the size of the frame in bytes: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_len(mirk_handle *h, uint32_t ctx_id, void *token);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_len(): 0 while last_error is set. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_len_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Writes the frame that is the start of the bundle, and has the handle's send bundle follow it: a start opens one, an
- * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
- * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
+/** Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a commit
+ * closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if a
+ * bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_marshal(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_marshal(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_start_message_handler() for null. The frame is not
- * read, since being called is all that it says. Returns 43, also after an error. */
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_start_message_handler() if handler is NULL. The
+ * frame is not read. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Does nothing and returns 0: there is nothing to hand over. */
+/** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the characters written. */
+/** Writes a line with the bundle's name. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_print(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_print(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Makes a token whatever the document holds, or null without memory. */
+/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_start_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_start_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
-/** 1: every domain has control messages. */
+/** Returns 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_valid_cr(mirk_handle *h);
 /** @} */
 
 /** @name Handlers
  *  @{ */
-/** What the start does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
- * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
- * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+ * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
+ * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_start_message_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */
@@ -127,78 +127,78 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_debug_rsp_bundle_abort_n
 
 /** @name Control messages
  *  @{ */
-/** Makes a token for the abort of the bundle, or null without memory. */
+/** Allocates a token for the abort of the bundle. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_create(mirk_handle *h, uint32_t ctx_id);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_create(), with a sentinel instead of null, which only the
- * sticky destroy operation may be given. */
-LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
-/** Releases the token. Null is passed over. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_create(). Returns a sentinel instead of NULL, which only
+ * lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_cr() accepts. */
+LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_create_cr(mirk_handle *h);
+/** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy(mirk_handle *h, uint32_t ctx_id, void *token);
-/** Releases the token. Null and the sentinel are passed over. */
-LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Bytes of the frame: 43, header and identity. */
+/** Frees the token. NULL and the sentinel are ignored. */
+LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_cr(mirk_handle *h, void *token);
+/** Returns the size of the frame in bytes: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_len(mirk_handle *h, uint32_t ctx_id, void *token);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_len(): 0 while last_error is set. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_len_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Writes the frame that is the abort of the bundle, and has the handle's send bundle follow it: a start opens one, an
- * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
- * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
+/** Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a commit
+ * closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if a
+ * bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_abort_message_handler() for null. The frame is not
- * read, since being called is all that it says. Returns 43, also after an error. */
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_abort_message_handler() if handler is NULL. The
+ * frame is not read. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Does nothing and returns 0: there is nothing to hand over. */
+/** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the characters written. */
+/** Writes a line with the bundle's name. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_print(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_print(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Makes a token whatever the document holds, or null without memory. */
+/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_abort_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_abort_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
-/** 1: every domain has control messages. */
+/** Returns 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_valid_cr(mirk_handle *h);
 /** @} */
 
 /** @name Handlers
  *  @{ */
-/** What the abort does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
- * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
- * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+ * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
+ * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_abort_message_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */
@@ -213,80 +213,80 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_debug_rsp_bundle_commit_
 
 /** @name Control messages
  *  @{ */
-/** Makes a token for the commit of the bundle, or null without memory. */
+/** Allocates a token for the commit of the bundle. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_create(mirk_handle *h, uint32_t ctx_id);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_create(), with a sentinel instead of null, which only
- * the sticky destroy operation may be given. */
-LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
-/** Releases the token. Null is passed over. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_create(). Returns a sentinel instead of NULL, which only
+ * lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_cr() accepts. */
+LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_create_cr(mirk_handle *h);
+/** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Releases the token. Null and the sentinel are passed over. */
-LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Bytes of the frame: 43, header and identity. */
+/** Frees the token. NULL and the sentinel are ignored. */
+LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_cr(mirk_handle *h, void *token);
+/** Returns the size of the frame in bytes: 43, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_len(): 0 while last_error is set. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_len_cr(mirk_handle *h, void *token);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *token);
-/** Writes the frame that is the commit of the bundle, and has the handle's send bundle follow it: a start opens one, an
- * abort or a commit ends it even if the frame did not fit. The token may be null. Returns the bytes written. EEXIST if
- * a bundle is open already, ENOENT if none is, EMSGSIZE for too little room. */
+/** Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+ * commit closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if
+ * a bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal_cr(mirk_handle *h, void *token,
     void *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
-/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_commit_message_handler() for null. The frame is not
- * read, since being called is all that it says. Returns 43, also after an error. */
+/** Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_commit_message_handler() if handler is NULL. The
+ * frame is not read. Returns 43, also after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Does nothing and returns 0: there is nothing to hand over. */
+/** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the characters written. */
+/** Writes a line with the bundle's name. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_print(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_print(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_print_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_print_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_toxml_cr(mirk_handle *h, void *token,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Makes a token whatever the document holds, or null without memory. */
+/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_debug_rsp_bundle_commit_message_from_xml(). */
 LUMO_UI_TARN_API void *lumo_tarn_dp_debug_rsp_bundle_commit_message_from_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
-/** 1: every domain has control messages. */
+/** Returns 1: every domain has control messages. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_valid_cr(mirk_handle *h);
 /** @} */
 
 /** @name Handlers
  *  @{ */
-/** What the commit does on the receiving side: a start opens the handle's receive bundle, an abort drops what has
- * arrived, a commit hands it to the bundle's handler and then drops what is left. A weak symbol: define one of the same
- * name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+ * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
+ * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_commit_message_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */

@@ -22,93 +22,95 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_tt_msg_name[64];
 
 /** @name Message objects
  *  @{ */
-/** Makes a message without a payload, or null without memory. */
+/** Allocates a message without a payload. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_create_shallow(mirk_handle *h, uint32_t ctx_id);
-/** Makes a message with a fresh payload, or null without memory. It belongs to the caller, who ends it with
- * lumo_tarn_dp_tt_msg_message_destroy(). */
+/** Allocates a message with a new payload. Returns NULL if the message or its payload cannot be created. The caller
+ * owns it and releases it with lumo_tarn_dp_tt_msg_message_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_create(mirk_handle *h, uint32_t ctx_id);
-/** Sticky form of lumo_tarn_dp_tt_msg_message_create(): under the handle's default_id, and with a sentinel instead of
- * null, over which destroy operations pass. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_create(): returns a sentinel instead of NULL if allocation fails or
+ * last_error is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_dp_tt_msg_message_create(). */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
-/** Ends the message and its payload. Null and the sentinel are passed over. */
+/** Destroys the message and its payload. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_msg_message_destroy(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg *message);
-/** lumo_tarn_dp_tt_msg_message_destroy() under the handle's default_id. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_destroy(): works under the handle's default_id, also while last_error is
+ * set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_msg_message_destroy_cr(mirk_handle *h, lumo_tarn_dp_tt_msg *message);
 /** Another name of lumo_tarn_dp_tt_msg_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_msg_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg *message);
-/** The payload, which stays the message's. Null after an error or for null. */
+/** Returns the payload; the message keeps it. NULL after an error or for NULL. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table_data *lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_tt_msg *message, uint32_t *err);
-/** The payload, which is the caller's from now on; the message has none. Null after an error or for null. */
+/** Returns the payload and removes it from the message; the caller owns it. NULL after an error or for NULL. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table_data *lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get_detach(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_msg *message, uint32_t *err);
-/** Gives the message a payload, which is the message's from now on. The one before is not released. */
+/** Stores a payload, which the message then owns. The previous payload is not released. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg *message, lumo_tarn_dp_tt_table_data *payload, uint32_t *err);
-/** Ends the payload and gives the message another one. Never pass it the message's own. */
+/** Destroys the payload and stores another one. Never pass the message's own payload. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_free_and_set(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_tt_msg *message, lumo_tarn_dp_tt_table_data *payload, uint32_t *err);
-/** Nonzero if the handle's domain has this message. */
+/** Returns nonzero if the handle's domain has this message. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_is_valid_cr(mirk_handle *h);
 /** @} */
 
 /** @name Message frames
  *  @{ */
-/** Bytes that a buffer for lumo_tarn_dp_tt_msg_message_marshal() needs, its spare byte aside. */
+/** Returns the buffer size in bytes that lumo_tarn_dp_tt_msg_message_marshal() needs, without the guard byte. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_len(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg *message);
-/** Sticky form of lumo_tarn_dp_tt_msg_message_len(): 0 while last_error is set. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_len_cr(mirk_handle *h, lumo_tarn_dp_tt_msg *message);
 /** Another name of lumo_tarn_dp_tt_msg_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg *message);
-/** Writes the message as a frame of size bytes at most at buffer, behind which one spare byte lies: header, identity,
- * payload. Returns the bytes written. EBADE if the domain does not have the message, ENOENT if the open bundle does not
- * admit it, EMSGSIZE for too little room. */
+/** Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard byte
+ * after them. Returns the number of bytes written. EBADE if the domain does not have the message, ENOENT if the open
+ * bundle does not admit it, EMSGSIZE if the buffer is too small. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_tt_msg_message_marshal(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_marshal(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_marshal_cr(mirk_handle *h, lumo_tarn_dp_tt_msg *message,
     void *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_tt_msg_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
 /** Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
- * lumo_ui_tarn_lumo_tarn_dp_tt_msg_message_handler() for null; the message belongs to whoever takes it. out, which may
- * be null, gets its address too. Returns the bytes consumed. What a bad frame left of a message is kept for good. */
+ * lumo_ui_tarn_lumo_tarn_dp_tt_msg_message_handler() if handler is NULL. The receiver owns the message. out, which may
+ * be NULL, also gets its address. Returns the number of bytes consumed. The message of a bad frame is leaked. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx,
     lumo_tarn_dp_tt_msg **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Reads a frame and hands the message over through out, also that of a bad frame, for the caller to destroy. Returns
- * the bytes consumed. */
+/** Reads a frame and returns the message through out, also after a bad frame; the caller destroys it. Returns the
+ * number of bytes consumed. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_msg **out, void *buffer, uint32_t size, uint32_t *err);
 /** @} */
 
 /** @name Message text and XML
  *  @{ */
-/** Writes the message as text for people. Returns the characters written. */
+/** Writes the message as readable text. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_print(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_tt_msg_message_print(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_print(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_print_cr(mirk_handle *h, lumo_tarn_dp_tt_msg *message,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_tt_msg_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_print_unsafe(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
-/** Writes the message as an XML element with the payload's element in it. Returns the characters written. */
+/** Writes the message as an XML element that contains the payload's element. Returns the number of characters
+ * written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_to_xml(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_tt_msg_message_to_xml(). 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_dp_tt_msg_message_to_xml(). Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_toxml_cr(mirk_handle *h, lumo_tarn_dp_tt_msg *message,
     char *buffer, uint32_t size);
 /** Another name of lumo_tarn_dp_tt_msg_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_msg_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_tt_msg *message, uint32_t size, uint32_t *err);
-/** Makes a message from the first element of the payload's name in the runtime's document; a fresh payload if there is
- * none. Null after an error, with a sentence in message_buffer if that is not null. */
+/** Creates a message from the first element with the payload's name in the runtime's document; without one, with a new
+ * payload. Returns NULL after an error and, if message_buffer is not NULL, leaves a sentence there. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_tt_msg_message_from_xml(). */
@@ -118,8 +120,8 @@ LUMO_UI_TARN_API lumo_tarn_dp_tt_msg *lumo_tarn_dp_tt_msg_message_from_xml_unsaf
 
 /** @name Handlers
  *  @{ */
-/** Gets each received message that has no better handler. A weak symbol: define one of the same name to take the
- * messages. This one leaves ENOSYS, which says that nobody did. */
+/** Receives each message that no other handler takes. A weak symbol: define a function of the same name to receive the
+ * messages. This one sets ENOSYS. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_tt_msg_message_handler(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */

@@ -24,240 +24,246 @@ extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_cl_appl_data_type_info_interna
 
 /** @name Life
  *  @{ */
-/** Makes an instance with all members zero, or null without memory. It belongs to the caller, who ends it with
- * lumo_tarn_cl_appl_data_destroy(). */
+/** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
+ * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_cl_appl_data_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_cl_appl_data *lumo_tarn_cl_appl_data_create(mirk_handle *h, uint32_t ctx_id);
-/** Sticky form of lumo_tarn_cl_appl_data_create(): works under the handle's default_id, makes nothing while last_error
- * is set, and answers a sentinel instead of null, which only lumo_tarn_cl_appl_data_destroy() and sticky forms may be
- * given. */
+/** Sticky form of lumo_tarn_cl_appl_data_create(): returns a sentinel instead of NULL if allocation fails or last_error
+ * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_cl_appl_data *lumo_tarn_cl_appl_data_create_cr(mirk_handle *h);
-/** As lumo_tarn_cl_appl_data_create(), without registering the trace module of types first: for whoever makes many. */
+/** Same as lumo_tarn_cl_appl_data_create(), but does not register the trace module of types. For callers that create
+ * many instances. */
 LUMO_UI_TARN_API lumo_tarn_cl_appl_data *lumo_tarn_cl_appl_data_create_internal(mirk_handle *h, uint32_t ctx_id);
-/** Sets up an instance in zeroed memory of the caller's: header, usage counter, and what it embeds. The type is
- * commonly _lumo_tarn_cl_appl_data_type_info_internal. With notify 0 the writes are not announced, with skip_count 1
- * nothing is counted; flags go into obj_flag, and sttr_base is where the state lies of an instance that is nested in
- * another. */
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+ * _lumo_tarn_cl_appl_data_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
+ * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
+ * another one. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Bytes of an instance with everything that it nests and, on a handle that tracks, its state. Differs between
- * handles. */
+/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
+ * Handles may differ. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_sizeof(mirk_handle *h);
-/** The variant itself, or the highest that this library knows if that is lower. */
+/** Returns the variant, limited to the highest one that this library knows. */
 LUMO_UI_TARN_API int8_t lumo_tarn_cl_appl_data_variant_data_index_cap(int8_t variant);
-/** Marks the instance, with the records, addresses and booleans in it, as lying in memory of another one
- * (MIRK_OBJ_EMBEDDED). */
+/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+ * booleans nested in it. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object);
-/** Brings the instance to the variant that the handle's domain has for its type; announced if that changes it. */
+/** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_adjust_variant(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Ends the instance: its arrays and strings, what it nests, and its memory. Null and the sentinel are passed over. An
- * instance that others refer to goes with the last reference. */
+/** Destroys the instance: its arrays and strings, everything nested in it, and its memory. NULL and the sentinel are
+ * ignored. An instance that other objects refer to is released with the last reference. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_destroy(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *object);
-/** lumo_tarn_cl_appl_data_destroy() under the handle's default_id. Works whatever last_error holds. */
+/** Sticky form of lumo_tarn_cl_appl_data_destroy(): works under the handle's default_id, also while last_error is
+ * set. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_destroy_cr(mirk_handle *h, lumo_tarn_cl_appl_data *object);
-/** As lumo_tarn_cl_appl_data_destroy(); with free_it 0 the memory of the instance itself is left to its owner, as for
- * an instance that lies inside another. */
+/** Same as lumo_tarn_cl_appl_data_destroy(), but with free_it 0 the memory of the instance itself is not freed. For
+ * instances that lie in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_destroy_internal(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t free_it);
 /** @} */
 
 /** @name Whole record
  *  @{ */
-/** The instance itself: lets code treat records as it treats members. */
+/** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_cl_appl_data *lumo_tarn_cl_appl_data_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Writes nothing for an instance
- * without body, and no error tells. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
+ * without a body; no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *object,
     uint8_t *show_header, uint32_t *num_kesh_appls, uint32_t *err);
-/** Stores all scalar members, in table order; counts and lengths are not among them. State bytes stay as they are,
- * unlike with the setters of single members. */
+/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
+ * setters of single members. Has no effect on an instance without a body; no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *object,
     uint8_t show_header, uint32_t *err);
-/** MOVES the source into the destination: members, state, and the ownership of arrays and strings, which the source
- * loses. What the destination owned before is not released. lumo_tarn_cl_appl_data_copy_cr() copies. */
+/** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+ * source loses. What the destination owned before is not released. Use lumo_tarn_cl_appl_data_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *destination,
     lumo_tarn_cl_appl_data *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy in the new place the one owner of arrays and strings,
- * and takes them from the old place. */
+/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+ * strings, and clears them at the old address. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *new_place, lumo_tarn_cl_appl_data *old_place, uint32_t *err);
-/** Fills the whole state area with one byte, unannounced, and that of every array element too. Element states then read
- * as this value, and can no longer be set one by one. Does nothing without tracking. */
+/** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
+ * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
+ * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t value);
-/** 1 if the handle's domain has a member of this index, counted from 0 in table order; the instance is not looked
- * at. */
+/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
+ * read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_is_valid_cr(mirk_handle *h, lumo_tarn_cl_appl_data *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** How many object identifiers the instance holds of its own: 0 in this schema. EINVAL for null. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Would write up to size object identifiers that the instance holds of its own: writes none in this schema. EINVAL for
- * null. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, void **oids, uint32_t size, uint32_t *err);
-/** Tells the runtime where in the state area at this address the state of each nested record and address lies: for
- * whoever has moved the instance or its state. */
+/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
+ * code that has moved the instance or its state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, void *state_area, uint32_t *err);
-/** Has the runtime forget the places of states that lumo_tarn_cl_appl_data_offset_update() told it, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_cl_appl_data_offset_update() set, at every depth. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Bytes that a buffer for lumo_tarn_cl_appl_data_marshal() needs, its spare byte aside. Says a little more than is
- * written: see families.h. RA data comes on top. */
+/** Returns the buffer size in bytes that lumo_tarn_cl_appl_data_marshal() needs, without the guard byte. Slightly more
+ * than is written: see families.h. RA data is not counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *instance);
-/** Sticky form of lumo_tarn_cl_appl_data_len(): 0 while last_error is set. */
+/** Sticky form of lumo_tarn_cl_appl_data_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_len_cr(mirk_handle *h, lumo_tarn_cl_appl_data *instance);
-/** Writes the instance as a frame into the remaining bytes at buffer, behind which one spare byte lies. Returns the
- * bytes written. Goes on after a failure, so that only err tells: ENOMEM or EMSGSIZE for too little room, EIDRM if the
- * domain has no place for the instance's variant, in which case the frame is written in the domain's. */
+/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
+ * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
+ * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_appl_data *instance, int32_t remaining, uint32_t *err);
-/** As lumo_tarn_cl_appl_data_marshal(), but in the instance's own variant whatever the domain has: the frame of a deep
- * copy. */
+/** Same as lumo_tarn_cl_appl_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+ * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_appl_data *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes at buffer, behind which one spare byte lies, into an instance. Returns the bytes
- * consumed. With reuse 0 the instance owns nothing yet, and what it owned is lost; with reuse 1 its arrays and strings
- * are kept where the counts are equal. The frame is never trusted. */
+/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
+ * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
+ * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_cl_appl_data *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy by way of a frame in the buffer, which has size bytes, lumo_tarn_cl_appl_data_len() of them at
- * least, and one to spare. The result is null after any error; otherwise it belongs to the caller. */
+/** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_cl_appl_data_len(), and one
+ * guard byte after them. The result is NULL after any error; otherwise the caller owns it. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_cl_appl_data *source,
     lumo_tarn_cl_appl_data **result, void *buffer, uint32_t size, uint32_t *err);
-/** Deep copy by way of the handle's workspace, null after any error. A record that is too large for the workspace needs
- * lumo_tarn_cl_appl_data_clone(). */
+/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
+ * workspace needs lumo_tarn_cl_appl_data_clone(). */
 LUMO_UI_TARN_API lumo_tarn_cl_appl_data *lumo_tarn_cl_appl_data_clone_cr(mirk_handle *h,
     lumo_tarn_cl_appl_data *source);
-/** Deep copy into an existing instance, by way of the handle's workspace. What the destination owned is not released;
- * if reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
+ * released. If reading fails, the destination is destroyed. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_copy_cr(mirk_handle *h, lumo_tarn_cl_appl_data *source,
     lumo_tarn_cl_appl_data *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as text for people, indent blanks in and headed by the name. Returns the characters written.
- * Clear the buffer first: bytes in front of closing braces are counted and not written. */
+/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
+ * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_cl_appl_data *instance, int32_t remaining, uint32_t *err);
-/** Sticky form of lumo_tarn_cl_appl_data_print(), without indent and headed by the record's name. 0xFFFFFFFF after an
- * error. */
+/** Sticky form of lumo_tarn_cl_appl_data_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_print_cr(mirk_handle *h, lumo_tarn_cl_appl_data *instance,
     char *buffer, int32_t remaining);
 /** @} */
 
 /** @name XML
  *  @{ */
-/** Writes the instance as an XML element of this name, one element in it for each member. A nonzero state shows as an
- * attribute. Returns the characters written. */
+/** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
+ * attribute. Returns the number of characters written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_cl_appl_data *instance, int32_t remaining, uint8_t state, uint32_t *err);
-/** Sticky form of lumo_tarn_cl_appl_data_to_xml(), named as the record. 0xFFFFFFFF after an error. */
+/** Sticky form of lumo_tarn_cl_appl_data_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_toxml_cr(mirk_handle *h, lumo_tarn_cl_appl_data *instance,
     char *buffer, int32_t remaining);
-/** Reads the element at a path of the runtime's document into the instance. Members that are missing stay as they are;
- * a value that is none ends the reading, with a sentence in message if that is not null. */
+/** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
+ * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_cl_appl_data *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
 
 /** @name Value
  *  @{ */
-/** Orders two instances by their members in table order; only the sign means something. Null comes first. Header and
- * state play no part. */
+/** Orders two instances by their members in table order; only the sign of the result has a meaning. NULL comes first.
+ * Header and state are ignored. */
 LUMO_UI_TARN_API int32_t lumo_tarn_cl_appl_data_compare(const lumo_tarn_cl_appl_data *a,
     const lumo_tarn_cl_appl_data *b);
-/** Mixes all members into the seed; equal instances give equal results in every process. The seed itself for null. */
+/** Mixes all members into the seed. Equal instances give equal results in every process. Returns the seed itself for
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_hash(const lumo_tarn_cl_appl_data *instance, uint32_t seed);
-/** 1 if the record, or a member up to the first that had one, bore a change mark. The record's own mark and that
- * member's are cleared. The word is handed to the runtime as it is. */
+/** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
+ * member that has one. The word is passed to the runtime unchanged. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *instance, void *word);
 /** @} */
 
 /** @name show_header: show: print the header
  *  @{ */
-/** Address of the member show_header inside the object: show: print the header. Null after an error. */
+/** Returns the address of the member show_header in the object: show: print the header. NULL after an error. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_cl_appl_data_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Value of the member show_header: show: print the header. 0 after an error. */
+/** Returns the value of the member show_header: show: print the header. 0 after an error. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_appl_data_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Stores what the source holds as show_header: show: print the header. Announced, marked as modified and, on a handle
- * that tracks, with state byte 2. */
+/** Stores the value of the source in show_header: show: print the header. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value as show_header: show: print the header. Announced, marked as modified and, on a handle that tracks,
- * with state byte 2. */
+/** Stores a value in show_header: show: print the header. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t value, uint32_t *err);
-/** State byte of show_header. EINVAL on a handle or for an object without tracking. */
+/** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_appl_data_show_header_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Stores the state byte of show_header, announced, and marks the object as modified. EINVAL on a handle or for an
- * object without tracking. */
+/** Sets the state byte of show_header, notifies, and marks the object as modified. EINVAL if the handle's tracking is
+ * off or the object has no state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
 /** @name num_kesh_appls: elements in kesh_appl
  *  @{ */
-/** Address of the count num_kesh_appls: elements in kesh_appl. To be read only: it follows from the array. */
+/** Returns the address of the count num_kesh_appls: elements in kesh_appl. Read-only: it follows from the array. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_cl_appl_data_num_kesh_appls_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Count num_kesh_appls: elements in kesh_appl. 0 after an error. A count of one byte wraps at 256. */
+/** Returns the count num_kesh_appls: elements in kesh_appl. 0 after an error. A count of one byte wraps at 256. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_num_kesh_appls_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
 /** @} */
 
 /** @name kesh_appl: applications
  *  @{ */
-/** Address of an element of kesh_appl: applications. It belongs to the array, and the next growth makes it invalid.
- * ENOENT beyond the end. */
+/** Returns the address of an element of kesh_appl: applications. The array owns the element, and its next growth
+ * invalidates the address. ENOENT if the index is out of range. */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_appl_data_kesh_appl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, uint32_t *err);
-/** MOVES the value into an element of kesh_appl: applications. An index beyond the end grows the array to index + 1
- * elements with a full move, so set the highest index first; a null value grows it and stores nothing. */
+/** MOVES the value into an element of kesh_appl: applications. An index out of range grows the array to index + 1
+ * elements and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a
+ * tracking handle it is refused with EINVAL. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, lumo_tarn_cl_kesh_appl *value, uint32_t *err);
-/** Sticky form of lumo_tarn_cl_appl_data_kesh_appl_set(), which copies with copy_mode 0 and moves otherwise; returns
- * the handle's last_error. */
+/** Sticky form of lumo_tarn_cl_appl_data_kesh_appl_set(): copies with copy_mode 0 and moves otherwise. Returns the
+ * handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_kesh_appl_set_cr(mirk_handle *h, lumo_tarn_cl_appl_data *object,
     uint32_t index, lumo_tarn_cl_kesh_appl *value, uint32_t copy_mode);
-/** State byte of one element of kesh_appl. ENOENT beyond the end, EINVAL without tracking. */
+/** Returns the state byte of one element of kesh_appl. ENOENT if the index is out of range, EINVAL if the handle's
+ * tracking is off or the object has no state. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_appl_data_kesh_appl_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, uint32_t *err);
-/** Stores the state byte of one element of kesh_appl. ENOENT beyond the end, EINVAL without tracking. */
+/** Sets the state byte of one element of kesh_appl. ENOENT if the index is out of range, EINVAL if the handle's
+ * tracking is off or the object has no state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, uint8_t value, uint32_t *err);
-/** State byte of kesh_appl as a whole. EINVAL without tracking. */
+/** Returns the state byte of kesh_appl as a whole. EINVAL if the handle's tracking is off or the object has no
+ * state. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_appl_data_kesh_appl_state_flag_whole_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Stores the state byte of kesh_appl as a whole. EINVAL without tracking. */
+/** Sets the state byte of kesh_appl as a whole. EINVAL if the handle's tracking is off or the object has no state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_state_flag_whole_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t value, uint32_t *err);
-/** Writes the address of the element states of kesh_appl through out: one byte for each, null if there are none. EINVAL
- * without tracking. */
+/** Writes the address of the element states of kesh_appl through out: one byte for each element, NULL if there are
+ * none. EINVAL if the handle's tracking is off or the object has no state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_state_flag_get_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t **out, uint32_t *err);
-/** Copies length bytes, as many as kesh_appl has elements, to the start of the object's whole state area, and not to
- * the element states. ENOENT for another length, EINVAL without tracking. */
+/** Copies length bytes, which must equal the count of kesh_appl, to the start of the object's whole state area, and not
+ * to the element states. ENOENT for another length, EINVAL if the handle's tracking is off or the object has no
+ * state. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_state_flag_set_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, const uint8_t *source, uint32_t length, uint32_t *err);
 /** @} */
