@@ -316,4 +316,4 @@ std::uint32_t Enum<E>::is_valid_cr(mirk_handle *h, std::uint32_t value) {
 
 }  // namespace tarn
 
-#include "exports/enumerations.inc"
+#include "exports/enumeration.inc"
