@@ -9,8 +9,9 @@
 
 #include "fuzz.h"
 #include "reference/text.h"
-#include "tools/tarn/formats/items.h"
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/writer.h"
+#include "tools/tarn/support/trace.h"
 
 namespace {
 

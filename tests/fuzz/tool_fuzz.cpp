@@ -4,12 +4,13 @@
 
 #include "fuzz.h"
 #include "tools/tarn/formats/dissection.h"
-#include "tools/tarn/formats/items.h"
 #include "tools/tarn/formats/json.h"
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/writer.h"
 #include "tools/tarn/formats/xml_check.h"
 #include "tools/tarn/service/receiver.h"
 #include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -56,10 +57,10 @@ void take_apart(std::string_view content) {
 }
 
 void deliver(std::string_view content, bool tracked) {
-    Reception reception(tracked, Via::handle);
+    Receiver receiver(tracked, Via::handle);
     for (const Frame &frame : split_frames(bytes_of(content), "input")) {
-        reception.feed(frame, "input");
-        for (const Item &item : reception.take()) rendered(item, Style::json);
+        receiver.feed(frame, "input");
+        for (const Item &item : receiver.take()) rendered(item, Style::json);
     }
 }
 

@@ -5,13 +5,14 @@
 
 #include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 
 namespace {
 
 using namespace tarn::tool;
 
-int complain(const char *sentence, Exit exit) {
+int print_error(const char *sentence, Exit exit) {
     std::fflush(stdout);
     std::fprintf(stderr, "tarn: %s\n", sentence);
     return static_cast<int>(exit);
@@ -35,7 +36,7 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
-    // These two tell of the command line and are no part of it: for the shells, and for the manual.
+    // These two describe the command line and are not part of it: for the shells, and for the manual.
     if (argc > 1 && std::string_view(argv[1]) == "complete") {
         write_file("-", completions(app, {argv + 2, argv + argc}));
         return 0;
@@ -61,10 +62,10 @@ int main(int argc, char **argv) {
     try {
         return run(argc, argv);
     } catch (const Failure &failure) {
-        return complain(failure.what(), failure.exit());
+        return print_error(failure.what(), failure.exit());
     } catch (const std::bad_alloc &) {
-        return complain("out of memory", Exit::environment);
+        return print_error("out of memory", Exit::environment);
     } catch (const std::exception &error) {
-        return complain(error.what(), Exit::environment);
+        return print_error(error.what(), Exit::environment);
     }
 }

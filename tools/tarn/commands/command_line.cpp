@@ -46,21 +46,4 @@ std::vector<std::string> choices_of(const CLI::Option &option) {
     return CLI::detail::split(type.substr(begin + 1, end - begin - 1), ',');
 }
 
-void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what) {
-    command.add_option(name, seconds, what)
-        ->check(CLI::Range(0.0, 86400.0).description(""))
-        ->type_name("SECONDS")
-        ->capture_default_str();
-}
-
-void add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
-              std::uint64_t least) {
-    const bool whole_mib = size % (1U << 20) == 0;
-    command.add_option(name, size, what)
-        ->check(CLI::Range(least, std::uint64_t{UINT32_MAX}).description(""))
-        ->transform(CLI::AsSizeValue(false).description(""))
-        ->type_name("SIZE")
-        ->default_str(whole_mib ? std::to_string(size >> 20) + "MiB" : std::to_string(size >> 10) + "KiB");
-}
-
 }  // namespace tarn::tool

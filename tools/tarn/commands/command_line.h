@@ -2,22 +2,11 @@
 // command line itself is parsed with, so that there is nothing to keep in step.
 #pragma once
 
+#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
-#include "tools/tarn/commands/commands.h"
-
 namespace tarn::tool {
-
-// What words stand for; an option's type, and so shown by --help as well.
-namespace words {
-inline constexpr const char *file = "FILE";
-inline constexpr const char *address = "ADDRESS";
-inline constexpr const char *bundle = "BUNDLE";
-inline constexpr const char *bundle_file = "BUNDLE=FILE";
-inline constexpr const char *bundle_or_message = "BUNDLE|MESSAGE";
-inline constexpr const char *type = "TYPE[.MEMBER...]";
-}  // namespace words
 
 std::vector<const CLI::App *> commands_of(const CLI::App &app);
 std::vector<const CLI::Option *> options_of(const CLI::App &command);  // those of its groups included

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/support/names.h"
-#include "tools/tarn/support/type_names.h"
 
 namespace tarn::tool {
 

@@ -1,15 +1,19 @@
 // tarn decode: frames, and recordings, into text, XML or JSON.
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/dissection.h"
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/writer.h"
 #include "tools/tarn/formats/xml.h"
 #include "tools/tarn/service/receiver.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/terminal.h"
+#include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
 
@@ -22,10 +26,10 @@ struct DecodeOptions {
     Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
 };
 
-// Complains, and either goes on or gives up.
-class Complaints {
+// Throws the first failure, or prints each and remembers the exit code.
+class Failures {
 public:
-    explicit Complaints(bool keep_going) : keep_going_(keep_going) {}
+    explicit Failures(bool keep_going) : keep_going_(keep_going) {}
 
     void add(const Failure &failure) {
         if (!keep_going_) throw failure;
@@ -41,15 +45,15 @@ private:
 };
 
 // The library says that a frame is bad, the tables say where.
-Failure with_place(const Failure &failure, const Frame &frame, const std::string &origin) {
+Failure with_location(const Failure &failure, const Frame &frame, const std::string &origin) {
     const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
     const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();
     const std::string words = failure.what();
-    const std::string place = frame_place(origin, frame.offset) + ": ";
-    return {failure.exit(), (words.substr(0, place.size()) == place ? words : place + words) + where};
+    const std::string location = frame_location(origin, frame.offset) + ": ";
+    return {failure.exit(), (words.starts_with(location) ? words : location + words) + where};
 }
 
-void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
+void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
     const Handles handles(Tracking::as_given);
     Progress progress("decoding " + origin);
     for (std::size_t offset = 0; offset < bytes.size();) {
@@ -58,14 +62,9 @@ void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOption
         progress.at(offset, bytes.size());
         std::string out;
         try {
-            Item item{frame.identity, std::nullopt, {}};
-            if (!frame.identity.is_control()) {
-                item.message.emplace(
-                    message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
-            }
-            out = rendered(item, options.style());
+            out = rendered(item_of(handles, frame, origin), options.style());
         } catch (const Failure &failure) {
-            complaints.add(with_place(failure, frame, origin));
+            failures.add(with_location(failure, frame, origin));
         }
         write_file("-", out);
     }
@@ -75,50 +74,43 @@ void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOption
 // wrong.
 void require_admitted(const Frame &frame, const reflect::BundleOperations *open, const std::string &origin) {
     if (open == nullptr || frame.identity.is_control() || admits(*open, *frame.identity.operations)) return;
-    throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + std::string(open->bundle->name) +
-                                   " does not admit " + frame.identity.operations->name);
+    throw Failure(Exit::input, not_admitted(frame_location(origin, frame.offset), *open, *frame.identity.operations));
 }
 
-void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Complaints &complaints) {
+void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
     const std::vector<Frame> frames = split_frames(bytes, origin);
     const bool tracked = std::any_of(frames.begin(), frames.end(), [](const Frame &f) { return f.is_tracked(); });
-    Reception reception(tracked, via_named(options.via));
+    Receiver receiver(tracked, via_named(options.via));
     const reflect::BundleOperations *open = nullptr;
     for (const Frame &frame : frames) {
         try {
             require_admitted(frame, open, origin);
-            reception.feed(frame, origin);
-            if (frame.identity.is_control()) open = reception.in_bundle() ? frame.identity.bundle : nullptr;
+            receiver.feed(frame, origin);
+            if (frame.identity.is_control()) open = receiver.in_bundle() ? frame.identity.bundle : nullptr;
         } catch (const Failure &failure) {
-            complaints.add(with_place(failure, frame, origin));
+            failures.add(with_location(failure, frame, origin));
         }
-        for (const Item &item : reception.take()) write_file("-", rendered(item, options.style()));
+        for (const Item &item : receiver.take()) write_file("-", rendered(item, options.style()));
         if (frame.identity.is_control() && frame.identity.control == Control::abort) {
-            complaints.add({Exit::different, frame_place(origin, frame.offset) + ": aborts " +
-                                                 std::string(frame.identity.bundle->bundle->name)});
+            failures.add({Exit::different, frame_location(origin, frame.offset) + ": aborts " +
+                                               std::string(frame.identity.bundle->bundle->name)});
         }
     }
-    if (reception.in_bundle()) {
-        complaints.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
+    if (receiver.in_bundle()) {
+        failures.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
     }
-    if (options.verbose) std::fprintf(stderr, "%u bundles reached their handler\n", reception.committed());
+    if (options.verbose) std::fprintf(stderr, "%u bundles reached their handler\n", receiver.committed());
 }
 
 void decode_fragments(std::string_view content, const std::string &origin, const DecodeOptions &options,
-                      Complaints &complaints) {
+                      Failures &failures) {
     const Handles handles(Tracking::as_given);
     for (const Fragment &fragment : split_fragments(content, origin)) {
         std::string out;
         try {
-            const std::optional<Identity> control = control_in(fragment, origin);
-            Item item{control ? *control : Identity{nullptr}, std::nullopt, {}};
-            if (!control) {
-                item.message.emplace(message_from_xml(handles, fragment, origin, options.lenient));
-                item.identity.operations = &item.message->operations();
-            }
-            out = rendered(item, options.style());
+            out = rendered(item_of(handles, fragment, origin, options.lenient), options.style());
         } catch (const Failure &failure) {
-            complaints.add(failure);
+            failures.add(failure);
         }
         write_file("-", out);
     }
@@ -128,13 +120,13 @@ Exit run_decode(const DecodeOptions &options) {
     set_up_trace(options.verbose);
     const std::string content = read_file(options.file);
     const std::string origin = shown_path(options.file);
-    Complaints complaints(options.keep_going);
+    Failures failures(options.keep_going);
     switch (form_of(content, origin)) {
         case Form::frames:
-            (options.bundles ? deliver : decode_each)(bytes_of(content), origin, options, complaints);
+            (options.bundles ? deliver : decode_each)(bytes_of(content), origin, options, failures);
             break;
         case Form::xml:
-            decode_fragments(content, origin, options, complaints);
+            decode_fragments(content, origin, options, failures);
             break;
         case Form::json: {
             const Handles handles(Tracking::as_given);
@@ -143,7 +135,7 @@ Exit run_decode(const DecodeOptions &options) {
             }
         }
     }
-    return complaints.exit();
+    return failures.exit();
 }
 
 }  // namespace
@@ -151,9 +143,7 @@ Exit run_decode(const DecodeOptions &options) {
 void add_decode(CLI::App &app, Context &context) {
     auto options = std::make_shared<DecodeOptions>();
     CLI::App *command = app.add_subcommand("decode", "frames and recordings into text, XML or JSON");
-    command->add_option("file", options->file, "frames, a run of XML fragments, or JSON; - is standard input")
-        ->type_name(words::file)
-        ->capture_default_str();
+    add_input(*command, options->file, "frames, a run of XML fragments, or JSON");
     CLI::Option_group *form = command->add_option_group("form", "what to make of them");
     form->add_flag("--text", options->text, "indented text, which is the default");
     form->add_flag("--xml", options->xml, "XML, one message to a line");
@@ -161,12 +151,10 @@ void add_decode(CLI::App &app, Context &context) {
     form->require_option(0, 1);
     command->add_flag("--bundles", options->bundles,
                       "deliver the frames as a receiver does: messages appear when their bundle is committed");
-    command->add_option("--via", options->via, "with --bundles: which link of the handler chain takes them")
-        ->check(CLI::IsMember(via_words()))
-        ->capture_default_str();
+    add_via(*command, options->via, "with --bundles: which link of the handler chain takes them");
     command->add_flag("-k,--keep-going", options->keep_going, "complain of what is broken, and go on behind it");
     command->add_flag("--lenient", options->lenient, "pass over what the schema does not know in XML and JSON");
-    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    add_verbose(*command, options->verbose);
     command->footer(
         "The message is found from each frame's luid; frames with per-field state are read with it.\n\n"
         "Examples:\n"

@@ -2,9 +2,10 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/terminal.h"
 
@@ -142,7 +143,7 @@ void add_diff(CLI::App &app, Context &context) {
     command->add_flag("--json", options->json, "as JSON");
     command->add_flag("-q,--quiet", options->quiet, "say nothing, the exit code tells");
     command->add_flag("--no-state", options->no_state, "pass over per-field state");
-    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
+    add_lenient(*command, options->lenient);
     command->footer(
         "Exit codes: 0 no difference, 1 different, 2 one of them cannot be read.\n\n"
         "Examples:\n"

@@ -3,10 +3,12 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/hex.h"
 #include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
@@ -21,10 +23,7 @@ struct DissectOptions {
 constexpr std::size_t bytes_in_line = 8;
 
 std::string hex_column(FrameBytes bytes) {
-    std::string text;
-    for (const std::uint8_t byte : bytes) {
-        text += {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15], ' '};
-    }
+    std::string text = hex_text(bytes, " ");
     text.resize(bytes_in_line * 3, ' ');
     return text;
 }
@@ -94,9 +93,7 @@ Exit run_dissect(const DissectOptions &options) {
 void add_dissect(CLI::App &app, Context &context) {
     auto options = std::make_shared<DissectOptions>();
     CLI::App *command = app.add_subcommand("dissect", "an annotated dump of frames, byte by byte");
-    command->add_option("file", options->file, "frames; - is standard input")
-        ->type_name(words::file)
-        ->capture_default_str();
+    add_input(*command, options->file, "frames");
     command->add_flag("--json", options->json, "as JSON");
     command->footer(
         "Of a broken frame it shows what is good, then where it breaks and why, and ends with exit code 2.\n\n"

@@ -1,10 +1,13 @@
 // tarn encode: XML and JSON into frames.
 #include <memory>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/frame_writer.h"
+#include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
 
@@ -22,7 +25,7 @@ Exit run_encode(const EncodeOptions &options) {
     const Handles handles(options.tracked ? Tracking::on : Tracking::as_given);
     const std::vector<Item> items = read_items(handles, options.file, options.lenient);
     const auto *bundle = options.bundle.empty() ? nullptr : &bundle_named(options.bundle);
-    write_file(options.output, encoded(handles, items, origin, bundle, options.stamp));
+    write_file(options.output, frames_of(handles, items, origin, bundle, options.stamp));
     return Exit::done;
 }
 
@@ -31,18 +34,14 @@ Exit run_encode(const EncodeOptions &options) {
 void add_encode(CLI::App &app, Context &context) {
     auto options = std::make_shared<EncodeOptions>();
     CLI::App *command = app.add_subcommand("encode", "XML and JSON into frames");
-    command->add_option("file", options->file, "XML, JSON, or frames; - is standard input")
-        ->type_name(words::file)
-        ->capture_default_str();
-    command->add_option("-o,--output", options->output, "where the frames go; - is standard output")
-        ->type_name(words::file)
-        ->capture_default_str();
+    add_input(*command, options->file, "XML, JSON, or frames");
+    add_output(*command, options->output, "where the frames go");
     command->add_option("--bundle", options->bundle, "put a start and a commit of this bundle around them")
         ->type_name(words::bundle);
     command->add_option("--stamp", options->stamp, "stamp in every header")->capture_default_str();
     command->add_flag("--tracked", options->tracked, "write per-field state");
-    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know");
-    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    add_lenient(*command, options->lenient);
+    add_verbose(*command, options->verbose);
     command->footer(
         "Input is held against the schema: a misspelt member, an unknown enumerator, a value too wide or a missing "
         "payload\n"

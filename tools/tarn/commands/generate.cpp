@@ -1,13 +1,15 @@
 // tarn generate: plausible answers for trying things out.
+#include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/writer.h"
 #include "tools/tarn/support/files.h"
-#include "tools/tarn/support/plausible.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/random_payload.h"
 #include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
@@ -91,7 +93,7 @@ public:
 
 private:
     nlohmann::ordered_json payload(std::uint32_t elements) const {
-        return Plausible(options_.seed, elements).make(operations_.message->payload);
+        return RandomPayload(options_.seed, elements).make(operations_.message->payload);
     }
     std::size_t size_of(std::uint32_t elements) const {
         return MIRK_PLATFORM_FRAME_SIZE + wire_size(payload(elements), operations_.message->payload, options_.tracked);
@@ -114,29 +116,21 @@ const reflect::MessageOperations &message_for(const std::string &what, const ref
     return reflect::operations_of(bundle->bundle->message);
 }
 
-std::string in_form(const Item &item, const std::string &form) {
-    if (form == "text") return rendered(item, Style::text);
-    if (form == "xml") return rendered(item, Style::xml);
-    if (form == "json") return rendered(item, Style::json);
-    static const Handle any(false);
-    const Handle &handle = item.message ? item.message->handle() : any;
-    const Bytes frame = frame_of(handle, *item.identity.operations, item.object());
-    return {frame.begin(), frame.end()};
-}
+const std::map<std::string, Style> style_names = {
+    {"xml", Style::xml}, {"json", Style::json}, {"text", Style::text}, {"frames", Style::frames}};
 
 void run_generate(const GenerateOptions &options) {
     const reflect::BundleOperations *bundle = nullptr;
     const reflect::MessageOperations &operations = message_for(options.what, bundle);
     const Generator generator(options, operations);
     const Item item = generator.make(options.size != 0 ? generator.elements_for(options.size) : options.elements);
-    std::string out;
+    const Style style = style_names.at(options.form);
     const auto control = [&](Control c) {
-        if (!options.bundle) return;
-        out += in_form({{&operations_of(*bundle, c), bundle, c}, std::nullopt, {}}, options.form);
+        return options.bundle ? rendered({identity_of(*bundle, c), std::nullopt, {}}, style) : std::string();
     };
-    control(Control::start);
-    out += in_form(item, options.form);
-    control(Control::commit);
+    std::string out = control(Control::start);
+    out += rendered(item, style);
+    out += control(Control::commit);
     write_file(options.output, out);
 }
 
@@ -160,9 +154,7 @@ void add_generate(CLI::App &app, Context &) {
     command->add_option("--form", options->form, "what to write")
         ->check(CLI::IsMember({"xml", "json", "text", "frames"}))
         ->capture_default_str();
-    command->add_option("-o,--output", options->output, "where to write it; - is standard output")
-        ->type_name(words::file)
-        ->capture_default_str();
+    add_output(*command, options->output, "where to write it");
     command->add_flag("--tracked", options->tracked, "with per-field state");
     command->add_flag("--bundle", options->bundle, "with the start and the commit of its bundle around it");
     command->footer(

@@ -5,8 +5,9 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 
 namespace tarn::tool {

@@ -6,10 +6,13 @@
 #include <optional>
 #include <thread>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/service/client.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
 
@@ -17,7 +20,7 @@ namespace {
 
 struct RecordOptions {
     std::string output, full, from;
-    Place place;
+    Endpoint endpoint;
     AnswerLimits limits;
     std::vector<std::string> what;
     unsigned rounds = 1;
@@ -55,16 +58,16 @@ private:
     FILE *stream_;
 };
 
-// Keeps what is received, message by message: what was kept before a failure stays.
-class Keeper {
+// The files, which grow message by message: what was written before a failure stays.
+class Recording {
 public:
-    explicit Keeper(const RecordOptions &options) : recording_(options.output) {
+    explicit Recording(const RecordOptions &options) : fragments_(options.output) {
         if (!options.full.empty()) frames_.emplace(options.full);
     }
 
-    void feed(Reception &reception, const Frame &frame, const std::string &origin) {
-        reception.feed(frame, origin);
-        if (frames_) frames_->append({reinterpret_cast<const char *>(frame.bytes.data()), frame.bytes.size()});
+    void feed(Receiver &receiver, const Frame &frame, const std::string &origin) {
+        receiver.feed(frame, origin);
+        if (frames_) frames_->append(chars_of(frame.bytes));
         if (frame.identity.is_control()) return;
         ++messages_;
         const std::string piece = recorder_.take();
@@ -72,64 +75,64 @@ public:
             // The recorder leaves out, without an error, what its buffer does not take.
             ++too_large_;
             std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
-                         frame_place(origin, frame.offset).c_str(), frame.identity.operations->name,
+                         frame_location(origin, frame.offset).c_str(), frame.identity.operations->name,
                          frame.bytes.size());
             return;
         }
-        recording_.append(piece);
+        fragments_.append(piece);
         ++recorded_;
     }
 
     void finish() {
-        recording_.finish();
+        fragments_.finish();
         if (frames_) frames_->finish();
     }
-    void tell() const { std::printf("recorded %u of %u messages\n", recorded_, messages_); }
+    void print_summary() const { std::printf("recorded %u of %u messages\n", recorded_, messages_); }
     bool is_complete() const { return too_large_ == 0 || frames_; }
 
 private:
-    GrowingFile recording_;
+    GrowingFile fragments_;
     std::optional<GrowingFile> frames_;
     Recorder recorder_;
     unsigned messages_ = 0, recorded_ = 0, too_large_ = 0;
 };
 
-void record_from_file(const RecordOptions &options, Keeper &keeper) {
+void record_from_file(const RecordOptions &options, Recording &recording) {
     const std::string content = read_file(options.from);
     const std::string origin = shown_path(options.from);
-    Reception reception(options.tracked, Via::handle);
+    Receiver receiver(options.tracked, Via::handle);
     for (const Frame &frame : split_frames(bytes_of(content), origin)) {
-        keeper.feed(reception, frame, origin);
-        reception.take();
+        recording.feed(receiver, frame, origin);
+        receiver.take();
     }
 }
 
-void record_from_socket(const RecordOptions &options, Keeper &keeper) {
+void record_from_socket(const RecordOptions &options, Recording &recording) {
     for (unsigned round = 0; round < options.rounds; ++round) {
         if (round != 0) std::this_thread::sleep_for(std::chrono::duration<double>(options.interval));
         for (const std::string &what : options.what) {
             const reflect::BundleOperations &bundle = bundle_named(what);
-            Reception reception(options.tracked, Via::handle);
-            Connection connection(options.place, Deadline(options.timeout), options.limits);
+            Receiver receiver(options.tracked, Via::handle);
+            Connection connection(options.endpoint, Deadline(options.timeout), options.limits);
             connection.ask(bundle, options.tracked);
-            receive_answer(connection, reception, bundle,
-                           [&](const Frame &frame) { keeper.feed(reception, frame, options.place.text()); });
+            receive_answer(connection, receiver, bundle,
+                           [&](const Frame &frame) { recording.feed(receiver, frame, options.endpoint.text()); });
         }
     }
 }
 
 Exit run_record(const RecordOptions &options) {
     set_up_trace(options.verbose);
-    Keeper keeper(options);
+    Recording recording(options);
     try {
-        (options.from.empty() ? record_from_socket : record_from_file)(options, keeper);
-        keeper.finish();
+        (options.from.empty() ? record_from_socket : record_from_file)(options, recording);
+        recording.finish();
     } catch (const std::exception &) {
-        keeper.tell();
+        recording.print_summary();
         throw;
     }
-    keeper.tell();
-    return keeper.is_complete() ? Exit::done : Exit::different;
+    recording.print_summary();
+    return recording.is_complete() ? Exit::done : Exit::different;
 }
 
 }  // namespace
@@ -145,22 +148,21 @@ void add_record(CLI::App &app, Context &context) {
         ->add_option("--full", options->full,
                      "keep all frames in this file, too, also those too large for the recorder")
         ->type_name(words::file);
-    CLI::Option *socket = command->add_option("--socket", options->place.socket, "socket file of the answering process")
-                              ->type_name(words::file);
-    CLI::Option *connect =
-        command->add_option("--connect", options->place.tcp, tcp_words("its TCP address"))->type_name(words::address);
+    CLI::Option *socket =
+        command->add_option("--socket", options->endpoint.socket, "socket file of the answering process")
+            ->type_name(words::file);
+    CLI::Option *connect = command->add_option("--connect", options->endpoint.tcp, tcp_words("its TCP address"))
+                               ->type_name(words::address);
     CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead")
                             ->type_name(words::file);
     socket->excludes(from)->excludes(connect);
     connect->excludes(from);
     command->add_option("--rounds", options->rounds, "ask for each bundle so many times")->capture_default_str();
     command->add_option("--interval", options->interval, "seconds between the rounds")->capture_default_str();
-    command->add_option("--timeout", options->timeout, "seconds to wait for a whole answer")
-        ->check(CLI::Range(0.001, 86400.0))
-        ->capture_default_str();
-    options->limits.add_options(*command);
+    add_timeout(*command, options->timeout, "seconds to wait for a whole answer");
+    add_limits(*command, options->limits);
     command->add_flag("--tracked", options->tracked, "ask for per-field state, and record it");
-    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    add_verbose(*command, options->verbose);
     command->footer(
         "The recorder takes messages of up to 4096 bytes of XML. Each larger one is named, and the exit code is then "
         "1\n"
@@ -173,7 +175,7 @@ void add_record(CLI::App &app, Context &context) {
         "  tarn record dp-tt-cfg --socket /tmp/tarn.sock -o recording.xml --full frames.bin --rounds 10\n"
         "  tarn record --from frames.bin -o recording.xml");
     command->callback([options, &context] {
-        if (options->from.empty() && (!options->place.is_given() || options->what.empty())) {
+        if (options->from.empty() && (!options->endpoint.is_given() || options->what.empty())) {
             throw Failure(Exit::input, "either --from, or --socket or --connect and at least one bundle, is needed");
         }
         context.exit = run_record(*options);

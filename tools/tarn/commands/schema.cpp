@@ -3,17 +3,14 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "pictures.h"
-#include "schema_body.h"
-#include "schema_script.h"
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/schema.h"
-#include "tools/tarn/pages/page.h"
+#include "tools/tarn/pages/schema_page.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/terminal.h"
-#include "tools/tarn/support/type_names.h"
 
 namespace tarn::tool {
 
@@ -216,13 +213,8 @@ std::string of_one(const SchemaOptions &options) {
     return options.json ? json_of_record(*record).dump(2) + "\n" : record_text(*record);
 }
 
-std::string page() {
-    const ordered_json data{{"schema", schema_json()}, {"drawing", draw::nesting(false)}};
-    return page_text({"Schema of tarn", schema_body, schema_script, data});
-}
-
 std::string of_all(const SchemaOptions &options) {
-    if (options.html) return page();
+    if (options.html) return schema_page();
     if (options.dot) return dot_text([](const Record &) { return true; });
     if (options.json) return schema_json().dump(2) + "\n";
     if (!options.tree) return list_text();

@@ -2,12 +2,15 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/writer.h"
 #include "tools/tarn/service/client.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
 
@@ -17,7 +20,7 @@ enum class Print : std::uint8_t { text, xml, json, hex };
 
 struct ShowOptions {
     std::string what, save;
-    Place place;
+    Endpoint endpoint;
     AnswerLimits limits;
     bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
     double timeout = 10;
@@ -42,13 +45,13 @@ void run_show(const ShowOptions &options) {
     set_up_trace(options.verbose);
     const reflect::BundleOperations &bundle = bundle_named(options.what);
     const Deadline deadline(options.timeout);
-    Reception reception(options.tracked, via_named(options.via));
-    Connection connection(options.place, deadline, options.limits);
+    Receiver receiver(options.tracked, via_named(options.via));
+    Connection connection(options.endpoint, deadline, options.limits);
     connection.ask(bundle, options.tracked);
-    const Answer answer = receive_answer(connection, reception, bundle);
+    const Answer answer = receive_answer(connection, receiver, bundle);
     if (!options.save.empty()) write_file(options.save, answer.frames);
-    if (reception.committed() == 0) {
-        throw Failure(Exit::different, options.place.text() + ": nobody took " + std::string(bundle.bundle->name));
+    if (receiver.committed() == 0) {
+        throw Failure(Exit::different, options.endpoint.text() + ": nobody took " + std::string(bundle.bundle->name));
     }
     const Print form = options.xml ? Print::xml : options.json ? Print::json : options.hex ? Print::hex : Print::text;
     print(answer, bundle, form);
@@ -63,8 +66,8 @@ void add_show(CLI::App &app, Context &) {
         ->type_name(words::bundle)
         ->required();
     CLI::Option_group *place = command->add_option_group("place", "where the answering process is");
-    place->add_option("--socket", options->place.socket, "its socket file")->type_name(words::file);
-    place->add_option("--connect", options->place.tcp, tcp_words("its TCP address"))->type_name(words::address);
+    place->add_option("--socket", options->endpoint.socket, "its socket file")->type_name(words::file);
+    place->add_option("--connect", options->endpoint.tcp, tcp_words("its TCP address"))->type_name(words::address);
     place->require_option(1);
     CLI::Option_group *form = command->add_option_group("form", "how to print the answer");
     form->add_flag("--text", options->text, "as indented text, which is the default");
@@ -73,16 +76,12 @@ void add_show(CLI::App &app, Context &) {
     form->add_flag("--hex", options->hex, "as a dump of the frames");
     form->require_option(0, 1);
     command->add_flag("--tracked", options->tracked, "ask for per-field state, and receive with it");
-    command->add_option("--timeout", options->timeout, "seconds to wait for the whole answer")
-        ->check(CLI::Range(0.001, 86400.0))
-        ->capture_default_str();
-    options->limits.add_options(*command);
+    add_timeout(*command, options->timeout, "seconds to wait for the whole answer");
+    add_limits(*command, options->limits);
     command->add_option("--save", options->save, "keep the frames of the answer in this file, too")
         ->type_name(words::file);
-    command->add_option("--via", options->via, "which link of the handler chain takes the bundle")
-        ->check(CLI::IsMember(via_words()))
-        ->capture_default_str();
-    command->add_flag("-v,--verbose", options->verbose, "print every trace line on standard error");
+    add_via(*command, options->via, "which link of the handler chain takes the bundle");
+    add_verbose(*command, options->verbose);
     command->footer(
         "Exit codes: 0 answered, 1 refused, aborted or not taken, 2 the answer is broken, 3 no connection or no "
         "time.\n\n"

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "tools/tarn/support/hex.h"
+
 namespace tarn::tool {
 
 namespace {
@@ -83,7 +85,7 @@ std::string quoted(FrameBytes bytes) {
     std::string text = "\"";
     for (const std::uint8_t byte : bytes) {
         if (byte < ' ' || byte > '~') {
-            text += {'\\', 'x', "0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15]};
+            text += "\\x" + hex_text({&byte, 1});
         } else {
             if (byte == '"' || byte == '\\') text += '\\';
             text += static_cast<char>(byte);

@@ -1,23 +1,26 @@
 #include "tools/tarn/formats/frame_writer.h"
 
+#include "tools/tarn/formats/frames.h"
+#include "tools/tarn/formats/message.h"
+#include "tools/tarn/support/failure.h"
+
 namespace tarn::tool {
 
 namespace {
 
 // Frames of one bundle come from one handle, so control messages must go with the messages that they enclose.
-class Encoder {
+class FrameWriter {
 public:
-    Encoder(const Handles &handles, std::uint32_t stamp) : handles_(handles), stamp_(stamp) {}
+    FrameWriter(const Handles &handles, std::uint32_t stamp) : handles_(handles), stamp_(stamp) {}
 
     void add(const Item &item, bool tracked) {
         const Handle &handle = handles_.choose(tracked);
         mirk_platform_handle_set_message_stamp(handle.get(), stamp_);
         try {
-            const Bytes frame = frame_of(handle, *item.identity.operations, item.object());
-            frames_.append(reinterpret_cast<const char *>(frame.data()), frame.size());
+            frames_ += chars_of(frame_of(handle, *item.identity.operations, item.object()));
         } catch (const Failure &failure) {
             close();
-            throw Failure(failure.exit(), item.place + ": " + failure.what());
+            throw Failure(failure.exit(), item.location + ": " + failure.what());
         }
     }
     const std::string &finish(const std::string &origin) {
@@ -47,25 +50,23 @@ bool is_tracked(const Item &item) { return item.message && item.message->handle(
 
 }  // namespace
 
-std::string encoded(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
-                    const reflect::BundleOperations *bundle, std::uint32_t stamp) {
+std::string frames_of(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
+                      const reflect::BundleOperations *bundle, std::uint32_t stamp) {
     // Mixed input goes by its first message, since a bundle is open on one handle only.
     bool tracked = false;
     for (const Item &item : items) tracked = tracked || is_tracked(item);
     for (const Item &item : items) {
         if (item.message && is_tracked(item) != tracked) {
             throw Failure(Exit::input,
-                          item.place + ": messages with and without per-field state do not mix; use --tracked");
+                          item.location + ": messages with and without per-field state do not mix; use --tracked");
         }
     }
-    Encoder encoder(handles, stamp);
-    const auto control = [&](Control c) {
-        encoder.add({{&operations_of(*bundle, c), bundle, c}, std::nullopt, origin}, tracked);
-    };
+    FrameWriter writer(handles, stamp);
+    const auto control = [&](Control c) { writer.add({identity_of(*bundle, c), std::nullopt, origin}, tracked); };
     if (bundle != nullptr) control(Control::start);
-    for (const Item &item : items) encoder.add(item, tracked);
+    for (const Item &item : items) writer.add(item, tracked);
     if (bundle != nullptr) control(Control::commit);
-    return encoder.finish(origin);
+    return writer.finish(origin);
 }
 
 }  // namespace tarn::tool

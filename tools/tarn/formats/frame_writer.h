@@ -1,15 +1,15 @@
-// From items to frames, one behind the other.
+// Writes items as the frames of one run.
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
 
-// With a bundle, its start and its commit go around them. Throws a Failure that names the place of the item.
-std::string encoded(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
-                    const reflect::BundleOperations *bundle = nullptr, std::uint32_t stamp = 0);
+// With a bundle, its start and its commit go around them. Throws a Failure that names the location of the item.
+std::string frames_of(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
+                      const reflect::BundleOperations *bundle = nullptr, std::uint32_t stamp = 0);
 
 }  // namespace tarn::tool

@@ -1,14 +1,17 @@
 #include "tools/tarn/formats/frames.h"
 
+#include "tools/tarn/formats/message.h"
+#include "tools/tarn/support/failure.h"
+
 namespace tarn::tool {
 
-std::string frame_place(const std::string &origin, std::size_t offset) {
+std::string frame_location(const std::string &origin, std::size_t offset) {
     return origin + ": frame at offset " + std::to_string(offset);
 }
 
 Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
     const auto fail = [&](const std::string &reason) -> Failure {
-        return {Exit::input, frame_place(origin, offset) + ": " + reason};
+        return {Exit::input, frame_location(origin, offset) + ": " + reason};
     };
     const FrameBytes rest = bytes.subspan(offset);
     mirk_platform_frame look;
@@ -36,6 +39,18 @@ std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin) {
         frames.push_back(frame_at(bytes, offset, origin));
     }
     return frames;
+}
+
+Item item_of(const Handles &handles, const Frame &frame, const std::string &origin) {
+    Item item{frame.identity, std::nullopt, frame_location(origin, frame.offset)};
+    if (frame.identity.is_control()) return item;
+    try {
+        item.message.emplace(
+            message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
+    } catch (const Failure &failure) {
+        throw Failure(failure.exit(), item.location + ": " + failure.what());
+    }
+    return item;
 }
 
 }  // namespace tarn::tool

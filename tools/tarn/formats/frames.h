@@ -1,15 +1,13 @@
-// Cutting a run of bytes into frames by the length that each of them states.
+// Cuts a run of bytes into frames by the length that each of them states, and reads one.
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
-#include "tools/tarn/support/handle.h"
-#include "tools/tarn/support/names.h"
+#include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
 
@@ -28,11 +26,17 @@ inline FrameBytes bytes_of(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
 }
 
+inline std::string_view chars_of(FrameBytes bytes) {
+    return {reinterpret_cast<const char *>(bytes.data()), bytes.size()};
+}
+
 // The frame at the front of the bytes, or a Failure that names the origin, the offset and the reason.
 Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin);
 std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin);
 
+Item item_of(const Handles &handles, const Frame &frame, const std::string &origin);
+
 // "FILE: frame at offset N"
-std::string frame_place(const std::string &origin, std::size_t offset);
+std::string frame_location(const std::string &origin, std::size_t offset);
 
 }  // namespace tarn::tool

@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
 

@@ -6,7 +6,9 @@
 #include <sstream>
 
 #include "tools/tarn/formats/xml_check.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/instance.h"
+#include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
@@ -59,7 +61,7 @@ public:
                      const std::string &path);
 
 private:
-    struct Place {
+    struct Field {
         const RecordOperations &operations;
         void *instance;
         std::size_t index;
@@ -68,12 +70,12 @@ private:
         const schema::Member &schema() const { return *member().member; }
     };
 
-    void read_member(const ordered_json &json, const Place &place, const std::string &path);
-    void read_embedded(const ordered_json &json, const Place &place, const std::string &path);
+    void read_member(const ordered_json &json, const Field &field, const std::string &path);
+    void read_embedded(const ordered_json &json, const Field &field, const std::string &path);
     void read_address(const ordered_json &json, ip_address *address, const std::string &path);
-    void read_enumeration(const ordered_json &json, const Place &place, void *object, const std::string &path);
-    void read_string(const ordered_json &json, const Place &place, const std::string &path);
-    void read_array(const ordered_json &json, const Place &place, const std::string &path);
+    void read_enumeration(const ordered_json &json, const Field &field, void *object, const std::string &path);
+    void read_string(const ordered_json &json, const Field &field, const std::string &path);
+    void read_array(const ordered_json &json, const Field &field, const std::string &path);
     void read_state(const ordered_json &json, const RecordOperations &operations, void *instance,
                     const std::string &path);
     void check_names(const ordered_json &json, const RecordOperations &operations, const std::string &path);
@@ -147,25 +149,25 @@ void Reader::read_record(const ordered_json &json, const RecordOperations &opera
     read_header(json, instance, path);
 }
 
-void Reader::read_member(const ordered_json &json, const Place &place, const std::string &path) {
-    const schema::Member &m = place.schema();
+void Reader::read_member(const ordered_json &json, const Field &field, const std::string &path) {
+    const schema::Member &m = field.schema();
     if (is_integer(m.kind)) {
         const unsigned bits = 8U << static_cast<unsigned>(m.kind);
         const std::uint64_t limit = bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
-        place.member().set_value(handle_.get(), context_id, place.instance, number_in(json, limit, path), &err_);
+        field.member().set_value(handle_.get(), context_id, field.instance, number_in(json, limit, path), &err_);
     } else if (m.kind == Kind::string) {
-        read_string(json, place, path);
+        read_string(json, field, path);
     } else if (m.kind == Kind::array) {
-        read_array(json, place, path);
+        read_array(json, field, path);
     } else {
-        read_embedded(json, place, path);
+        read_embedded(json, field, path);
     }
     require(path);
 }
 
-void Reader::read_embedded(const ordered_json &json, const Place &place, const std::string &path) {
-    const schema::Member &m = place.schema();
-    void *object = place.member().get(handle_.get(), context_id, place.instance, &err_);
+void Reader::read_embedded(const ordered_json &json, const Field &field, const std::string &path) {
+    const schema::Member &m = field.schema();
+    void *object = field.member().get(handle_.get(), context_id, field.instance, &err_);
     require(path);
     if (m.kind == Kind::record) return read_record(json, reflect::operations_of(*m.record), object, path);
     if (m.kind == Kind::address) {
@@ -178,10 +180,10 @@ void Reader::read_embedded(const ordered_json &json, const Place &place, const s
     }
     const ordered_json &value = json.is_object() ? json["@value"] : json;
     if (m.kind == Kind::enumeration) {
-        read_enumeration(value, place, object, path);
+        read_enumeration(value, field, object, path);
     } else {
         const std::uint64_t truth = value.is_boolean() ? value.get<bool>() : number_in(value, 255, path);
-        place.member().set_value(handle_.get(), context_id, place.instance, truth, &err_);
+        field.member().set_value(handle_.get(), context_id, field.instance, truth, &err_);
     }
     // Setting a value brings the variant back to that of the domain.
     if (json.is_object()) read_header(json, object, path);
@@ -208,8 +210,8 @@ void Reader::read_address(const ordered_json &json, ip_address *address, const s
         state[i] = static_cast<std::uint8_t>(number_in(members[i], 255, path + "/@members"));
 }
 
-void Reader::read_enumeration(const ordered_json &json, const Place &place, void *object, const std::string &path) {
-    const auto &enumerators = place.schema().enumeration->enumerators;
+void Reader::read_enumeration(const ordered_json &json, const Field &field, void *object, const std::string &path) {
+    const auto &enumerators = field.schema().enumeration->enumerators;
     const std::vector<std::string> candidates(enumerators.begin(), enumerators.end());
     if (json.is_string()) {
         const auto found = std::find(candidates.begin(), candidates.end(), json.get<std::string>());
@@ -218,7 +220,7 @@ void Reader::read_enumeration(const ordered_json &json, const Place &place, void
             fail(path, "unknown enumerator " + json.dump() + suggestion(json.get<std::string>(), candidates));
         }
         const auto number = static_cast<std::uint64_t>(found - candidates.begin());
-        place.member().set_value(handle_.get(), context_id, place.instance, number, &err_);
+        field.member().set_value(handle_.get(), context_id, field.instance, number, &err_);
         return;
     }
     // A frame may bring any number; the setter would refuse it.
@@ -227,7 +229,7 @@ void Reader::read_enumeration(const ordered_json &json, const Place &place, void
     set_enumeration_value(object, static_cast<std::uint32_t>(number));
 }
 
-void Reader::read_string(const ordered_json &json, const Place &place, const std::string &path) {
+void Reader::read_string(const ordered_json &json, const Field &field, const std::string &path) {
     const std::string text = bytes_in(json, path);
     if (text.size() > 65535) fail(path, "more than 65535 bytes");
     // The setter copies up to the first NUL and fills up with NULs.
@@ -235,26 +237,26 @@ void Reader::read_string(const ordered_json &json, const Place &place, const std
         nul != std::string::npos && text.find_first_not_of('\0', nul) != std::string::npos) {
         fail(path, "a NUL in the middle cannot be stored");
     }
-    place.member().text_set(handle_.get(), context_id, place.instance, text.c_str(),
+    field.member().text_set(handle_.get(), context_id, field.instance, text.c_str(),
                             static_cast<std::uint32_t>(text.size()), &err_);
 }
 
-void Reader::read_array(const ordered_json &json, const Place &place, const std::string &path) {
+void Reader::read_array(const ordered_json &json, const Field &field, const std::string &path) {
     if (!json.is_array()) fail(path, "an array is expected");
-    const bool narrow = place.operations.members[place.index - 1].member->kind == Kind::u8;
+    const bool narrow = field.operations.members[field.index - 1].member->kind == Kind::u8;
     if (json.size() > (narrow ? 255U : 0xffffffffU))
         fail(path, std::to_string(json.size()) + " elements are more than its count can tell");
     if (json.empty()) return;
     // Setting the last element first lets the array grow once.
-    const RecordOperations &element = reflect::operations_of(*place.schema().record);
+    const RecordOperations &element = reflect::operations_of(*field.schema().record);
     void *fresh = element.create(handle_.get(), context_id);
     if (fresh == nullptr) throw Failure(Exit::environment, "no memory for " + path);
     const auto count = static_cast<std::uint32_t>(json.size());
-    place.member().element_set(handle_.get(), context_id, place.instance, count - 1, fresh, &err_);
+    field.member().element_set(handle_.get(), context_id, field.instance, count - 1, fresh, &err_);
     element.destroy(handle_.get(), context_id, fresh);
     require(path);
     for (std::uint32_t i = 0; i < count; ++i) {
-        void *object = place.member().element_get(handle_.get(), context_id, place.instance, i, &err_);
+        void *object = field.member().element_get(handle_.get(), context_id, field.instance, i, &err_);
         require(path);
         read_record(json[i], element, object, path + "[" + std::to_string(i) + "]");
     }
@@ -293,42 +295,42 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
     require(path + "/@state");
 }
 
-Item control_of(const ordered_json &json, const std::string &place) {
+Item control_of(const ordered_json &json, const std::string &location) {
     const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
-    if (bundle == nullptr) fail(place, json["bundle"].dump() + " is no bundle");
-    for (const Control control : {Control::start, Control::abort, Control::commit}) {
+    if (bundle == nullptr) fail(location, json["bundle"].dump() + " is no bundle");
+    for (const Control control : controls) {
         if (json["control"] != word(control)) continue;
-        return {{&operations_of(*bundle, control), bundle, control}, std::nullopt, place};
+        return {identity_of(*bundle, control), std::nullopt, location};
     }
-    fail(place, json["control"].dump() + " is none of start, abort and commit");
+    fail(location, json["control"].dump() + " is none of start, abort and commit");
 }
 
-Item message_of(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient) {
-    if (!json["message"].is_string()) fail(place, "message is to be a name");
+Item message_of(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient) {
+    if (!json["message"].is_string()) fail(location, "message is to be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
-    if (operations == nullptr) fail(place, json["message"].dump() + " is no message");
-    if (!json.contains("payload") && !lenient) fail(place, "the payload is missing");
+    if (operations == nullptr) fail(location, json["message"].dump() + " is no message");
+    if (!json.contains("payload") && !lenient) fail(location, "the payload is missing");
     const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
-    Item item{{operations}, Message::make(handle, *operations), place};
+    Item item{{operations}, Message::make(handle, *operations), location};
     if (json.contains("payload")) {
         Reader(handle, lenient)
-            .read_record(json["payload"], item.message->record(), item.message->payload(), place + "payload");
+            .read_record(json["payload"], item.message->record(), item.message->payload(), location + "payload");
     }
     return item;
 }
 
-void collect(const Handles &handles, const ordered_json &json, const std::string &place, bool lenient,
+void collect(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient,
              std::vector<Item> &items) {
     if (json.is_array()) {
-        for (const ordered_json &one : json) collect(handles, one, place, lenient, items);
+        for (const ordered_json &one : json) collect(handles, one, location, lenient, items);
     } else if (json.is_object() && json.contains("message")) {
-        items.push_back(message_of(handles, json, place, lenient));
+        items.push_back(message_of(handles, json, location, lenient));
     } else if (json.is_object() && json.contains("bundle") && json.contains("control")) {
-        items.push_back(control_of(json, place));
+        items.push_back(control_of(json, location));
     } else if (json.is_object() && json.contains("messages")) {
-        collect(handles, json["messages"], place, lenient, items);
+        collect(handles, json["messages"], location, lenient, items);
     } else {
-        fail(place, "neither a message nor a control message nor a list of them");
+        fail(location, "neither a message nor a control message nor a list of them");
     }
 }
 

@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
+#include "tools/tarn/support/hex.h"
 #include "tools/tarn/support/instance.h"
 
 namespace tarn::tool {
@@ -25,12 +27,7 @@ bool is_utf8(const std::string &text) {
 
 ordered_json json_of_string(const std::string &text) {
     if (is_utf8(text)) return text;
-    std::string digits;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        digits += {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15]};
-    }
-    return {{"bytes", digits}};
+    return {{"bytes", hex_text(bytes_of(text))}};
 }
 
 void add_ra_data(const Handle &handle, void *object, ordered_json &json) {

@@ -4,6 +4,8 @@
 
 #include "tools/tarn/formats/xml_check.h"
 #include "tools/tarn/formats/xml_state.h"
+#include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
@@ -73,7 +75,7 @@ private:
     std::size_t at_ = 0;
 };
 
-std::string place(const std::string &origin, const Fragment &fragment, long line) {
+std::string location(const std::string &origin, const Fragment &fragment, long line) {
     return origin + ":" + std::to_string(fragment.line + std::max(line, 1L) - 1) + ": ";
 }
 
@@ -81,7 +83,7 @@ Document parse(const Fragment &fragment, const std::string &origin) {
     mirk_platform_report report;
     Document document(mirk_platform_document_load_memory(fragment.text.data(), fragment.text.size(), &report));
     if (document == nullptr) {
-        throw Failure(exit_of(report.number), place(origin, fragment, report.line) + report.sentence);
+        throw Failure(exit_of(report.number), location(origin, fragment, report.line) + report.sentence);
     }
     return document;
 }
@@ -92,7 +94,7 @@ void require_schema(const Document &document, const Fragment &fragment, const st
     if (problems.empty()) return;
     std::string sentence;
     for (const Problem &p : problems) {
-        sentence += (sentence.empty() ? "" : "\n") + place(origin, fragment, p.line) + p.path + ": " + p.sentence;
+        sentence += (sentence.empty() ? "" : "\n") + location(origin, fragment, p.line) + p.path + ": " + p.sentence;
     }
     throw Failure(Exit::input, sentence);
 }
@@ -101,30 +103,24 @@ const reflect::MessageOperations &message_for(const Fragment &fragment, const st
     if (const auto *found = reflect::find_message(fragment.name); found != nullptr) return *found;
     std::vector<std::string> candidates;
     for (const reflect::MessageOperations &o : reflect::messages()) candidates.emplace_back(o.name);
-    throw Failure(Exit::input, place(origin, fragment, 1) + "\"" + fragment.name + "\" is no message" +
+    throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + fragment.name + "\" is no message" +
                                    suggestion(fragment.name, candidates));
 }
 
-}  // namespace
-
-std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin) {
-    return Cutter(text, origin).run();
-}
-
 std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin) {
-    for (const Control control : {Control::start, Control::abort, Control::commit}) {
+    for (const Control control : controls) {
         if (fragment.name != "bundle_" + std::string(word(control))) continue;
         const Document document = parse(fragment, origin);
         char name[128];
         const std::string path = "/" + fragment.name + "/@name";
         if (xml_get_element_value(document.get(), path.c_str(), name, sizeof name, nullptr) != 0) {
-            throw Failure(Exit::input, place(origin, fragment, 1) + fragment.name + " has no name");
+            throw Failure(Exit::input, location(origin, fragment, 1) + fragment.name + " has no name");
         }
         const auto *bundle = reflect::find_bundle(name);
         if (bundle == nullptr) {
-            throw Failure(Exit::input, place(origin, fragment, 1) + "\"" + name + "\" is no bundle");
+            throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + name + "\" is no bundle");
         }
-        return Identity{&operations_of(*bundle, control), bundle, control};
+        return identity_of(*bundle, control);
     }
     return std::nullopt;
 }
@@ -139,12 +135,27 @@ Message message_from_xml(const Handles &handles, const Fragment &fragment, const
     std::uint32_t err = 0;
     void *object = operations.from_xml(handle.get(), context_id, document.get(), &err, words, sizeof words);
     if (object == nullptr) {
-        throw Failure(exit_of(err), place(origin, fragment, 1) + operations.name + " cannot be read: " +
+        throw Failure(exit_of(err), location(origin, fragment, 1) + operations.name + " cannot be read: " +
                                         error_text(err) + (words[0] != 0 ? std::string("; ") + words : ""));
     }
     Message message(handle, operations, object);
     if (states && handle.tracked()) apply_states(message, document.get());
     return message;
+}
+
+}  // namespace
+
+std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin) {
+    return Cutter(text, origin).run();
+}
+
+Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient) {
+    const std::string at = origin + ":" + std::to_string(fragment.line);
+    if (const auto control = control_in(fragment, origin)) return {*control, std::nullopt, at};
+    Message message = message_from_xml(handles, fragment, origin, lenient);
+    Item item{{&message.operations()}, std::nullopt, at};
+    item.message.emplace(std::move(message));
+    return item;
 }
 
 }  // namespace tarn::tool

@@ -5,8 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/tarn/support/handle.h"
-#include "tools/tarn/support/names.h"
+#include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
 
@@ -20,11 +19,8 @@ struct Fragment {
 // Cuts at the end tag of each outermost element, so that a fragment which is not well-formed does not spoil the others.
 std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin);
 
-// What a control message's element stands for: <bundle_start name="..."></bundle_start>.
-std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin);
-
-// A document that bears states is one with per-field state. Strict: what the schema does not know, or what would be
-// lost, is a Failure that lists every line concerned.
-Message message_from_xml(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
+// A control message is <bundle_start name="..."></bundle_start>. A message whose document bears states has per-field
+// state. Strict: what the schema does not know, or what would be lost, is a Failure that lists every line concerned.
+Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
 
 }  // namespace tarn::tool

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
+#include "tools/tarn/formats/message.h"
+#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
@@ -69,8 +73,7 @@ void Answerer::add(const reflect::BundleOperations &bundle, const std::string &p
         std::erase_if(items, [](const Item &item) { return item.identity.is_control(); });
         for (const Item &item : items) {
             if (admits(bundle, *item.identity.operations)) continue;
-            throw Failure(Exit::input, item.place + ": " + std::string(bundle.bundle->name) + " does not admit " +
-                                           item.identity.operations->name + ", but " +
+            throw Failure(Exit::input, not_admitted(item.location, bundle, *item.identity.operations) + ", but " +
                                            std::string(bundle.bundle->message.name));
         }
         if (items.empty()) throw Failure(Exit::input, shown_path(path) + ": holds no message");

@@ -1,11 +1,11 @@
-// Puts together the frames that answer a request: start, the bundle's messages, commit.
+// The frames that answer a request: start, the bundle's messages, commit.
 #pragma once
 
 #include <map>
 #include <string>
 #include <vector>
 
-#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
 

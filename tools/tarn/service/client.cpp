@@ -2,6 +2,8 @@
 
 #include <cerrno>
 
+#include "tools/tarn/support/failure.h"
+
 namespace tarn::tool {
 
 namespace {
@@ -16,16 +18,15 @@ void require_no_refusal(FrameBytes frame, const std::string &origin) {
 }
 
 // The dispatcher delivers whatever is well-formed; whether it belongs into this answer is for the asker to say.
-void require_expected(const Frame &frame, const reflect::BundleOperations &bundle, const Reception &reception,
+void require_expected(const Frame &frame, const reflect::BundleOperations &bundle, const Receiver &receiver,
                       const std::string &origin) {
     const Identity &identity = frame.identity;
     const bool admitted = identity.is_control() ? identity.bundle == &bundle : admits(bundle, *identity.operations);
     if (!admitted) {
-        throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + std::string(bundle.bundle->name) +
-                                       " does not admit " + identity.operations->name);
+        throw Failure(Exit::input, not_admitted(frame_location(origin, frame.offset), bundle, *identity.operations));
     }
-    if (!identity.is_control() && !reception.in_bundle()) {
-        throw Failure(Exit::input, frame_place(origin, frame.offset) + ": " + identity.operations->name +
+    if (!identity.is_control() && !receiver.in_bundle()) {
+        throw Failure(Exit::input, frame_location(origin, frame.offset) + ": " + identity.operations->name +
                                        " came before the start of its bundle");
     }
 }
@@ -37,14 +38,9 @@ std::uint32_t Deadline::left_ms() const {
     return left.count() > 0 ? static_cast<std::uint32_t>(left.count()) : 0;
 }
 
-void AnswerLimits::add_options(CLI::App &command) {
-    add_size(command, "--frame-limit", frame, "longest frame that the answer may hold", 1 << 10);
-    add_size(command, "--answer-limit", answer, "most bytes that an answer may have", 1 << 10);
-}
-
-Connection::Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits)
-    : name_(place.text()), deadline_(deadline), limits_(limits) {
-    const auto open = place.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
+Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits)
+    : name_(endpoint.text()), deadline_(deadline), limits_(limits) {
+    const auto open = endpoint.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
     check(open(name_.c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
           "cannot connect");
 }
@@ -73,7 +69,7 @@ void Connection::check(mirk_platform_error error, const char *what) const {
     throw Failure(bad_input ? Exit::input : Exit::environment, name_ + ": " + what + ": " + error_text(error));
 }
 
-Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
+Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
                       const std::function<void(const Frame &)> &feed) {
     const std::string &origin = connection.name();
     Answer answer;
@@ -82,18 +78,18 @@ Answer receive_answer(Connection &connection, Reception &reception, const reflec
         require_no_refusal(bytes, origin);
         Frame frame = frame_at(bytes, 0, origin);
         frame.offset = answer.frames.size();
-        answer.frames.append(reinterpret_cast<const char *>(bytes.data()), bytes.size());
-        require_expected(frame, bundle, reception, origin);
+        answer.frames += chars_of(bytes);
+        require_expected(frame, bundle, receiver, origin);
         if (feed) {
             feed(frame);
         } else {
-            reception.feed(frame, origin);
+            receiver.feed(frame, origin);
         }
         if (!frame.identity.is_control() || frame.identity.control == Control::start) continue;
         if (frame.identity.control == Control::abort) {
             throw Failure(Exit::different, origin + ": the answering side aborted " + std::string(bundle.bundle->name));
         }
-        answer.messages = reception.take();
+        answer.messages = receiver.take();
         return answer;
     }
 }

@@ -1,4 +1,4 @@
-// The asking side of the socket: one request, and the frames of its answer.
+// The side that asks: one request, and the frames of its answer.
 #pragma once
 
 #include <chrono>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/tarn/commands/commands.h"
+#include "mirk_platform.h"
 #include "tools/tarn/service/receiver.h"
 
 namespace tarn::tool {
@@ -21,8 +21,8 @@ private:
     std::chrono::steady_clock::time_point end_;
 };
 
-// The answering process: a socket file or a TCP address, of which one is empty.
-struct Place {
+// Of the answering process: a socket file or a TCP address; the other one is empty.
+struct Endpoint {
     std::string socket, tcp;
 
     bool is_given() const { return !socket.empty() || !tcp.empty(); }
@@ -32,13 +32,11 @@ struct Place {
 // How much is taken from an answering process, which may be broken or worse.
 struct AnswerLimits {
     std::uint64_t frame = 16 << 20, answer = 256 << 20;
-
-    void add_options(CLI::App &command);
 };
 
 class Connection {
 public:
-    Connection(const Place &place, const Deadline &deadline, const AnswerLimits &limits);
+    Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
     ~Connection() { mirk_platform_client_close(client_); }
@@ -63,9 +61,9 @@ struct Answer {
     std::string frames;  // as they came
 };
 
-// Feeds the frames to the reception, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
+// Feeds the frames to the receiver, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
 // not belong into this answer is a Failure.
-Answer receive_answer(Connection &connection, Reception &reception, const reflect::BundleOperations &bundle,
+Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
                       const std::function<void(const Frame &)> &feed = {});
 
 }  // namespace tarn::tool

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lumo_ui_tarn.h"
+#include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
 
@@ -13,9 +14,9 @@ Via via_named(std::string_view word) {
 
 std::vector<std::string> via_words() { return {"lut", "handle", "module", "bundle", "linked"}; }
 
-Reception::Reception(bool tracked, Via via) : handle_(tracked), via_(via) { enlist(); }
+Receiver::Receiver(bool tracked, Via via) : handle_(tracked), via_(via) { register_types(); }
 
-Reception::~Reception() {
+Receiver::~Receiver() {
     received_.clear();
     if (via_ == Via::module) lumo_ui_tarn_bundle_handler_unregister();
     for (const reflect::BundleOperations &b : reflect::bundles()) {
@@ -23,13 +24,13 @@ Reception::~Reception() {
     }
 }
 
-void Reception::enlist() {
+void Receiver::register_types() {
     for (const reflect::MessageOperations &o : reflect::messages()) {
         const mirk_platform_message entry{o.luid, o.name, o.unmarshal, o.unmarshal_only, o.destroy, on_message};
         mirk_platform_dispatch_register(handle_.get(), &entry);
     }
     for (const reflect::BundleOperations &b : reflect::bundles()) {
-        for (const Control control : {Control::start, Control::abort, Control::commit}) {
+        for (const Control control : controls) {
             const reflect::MessageOperations &o = operations_of(b, control);
             const mirk_platform_message entry{o.luid, o.name, o.unmarshal, nullptr, nullptr, nullptr};
             mirk_platform_dispatch_register(handle_.get(), &entry);
@@ -41,12 +42,12 @@ void Reception::enlist() {
     if (via_ == Via::module) lumo_ui_tarn_bundle_handler_register(on_bundle);
 }
 
-void Reception::keep(const Identity &identity, void *object) {
+void Receiver::keep(const Identity &identity, void *object) {
     received_.push_back({identity, Message(handle_, *identity.operations, object), {}});
 }
 
-void Reception::on_bundle(mirk_handle *h, std::uint32_t, void *dispatch_ctx, std::uint32_t *) {
-    auto *self = static_cast<Reception *>(dispatch_ctx);
+void Receiver::on_bundle(mirk_handle *h, std::uint32_t, void *dispatch_ctx, std::uint32_t *) {
+    auto *self = static_cast<Receiver *>(dispatch_ctx);
     ++self->committed_;
     while (mirk_platform_received *item = mirk_platform_received_first(h)) {
         const Identity identity = *identify(mirk_platform_received_luid(item));
@@ -54,12 +55,12 @@ void Reception::on_bundle(mirk_handle *h, std::uint32_t, void *dispatch_ctx, std
     }
 }
 
-void Reception::on_message(mirk_handle *, std::uint32_t, void *dispatch_ctx, void *message, std::uint32_t *) {
-    auto *self = static_cast<Reception *>(dispatch_ctx);
+void Receiver::on_message(mirk_handle *, std::uint32_t, void *dispatch_ctx, void *message, std::uint32_t *) {
+    auto *self = static_cast<Receiver *>(dispatch_ctx);
     self->keep(self->current_->identity, message);
 }
 
-void Reception::feed(const Frame &frame, const std::string &origin) {
+void Receiver::feed(const Frame &frame, const std::string &origin) {
     Bytes buffer(frame.bytes.begin(), frame.bytes.end());
     buffer.push_back(0);
     current_ = &frame;
@@ -68,8 +69,8 @@ void Reception::feed(const Frame &frame, const std::string &origin) {
         handle_.get(), context_id, buffer.data(), static_cast<std::uint32_t>(frame.bytes.size()), this, &report);
     current_ = nullptr;
     if (error != 0) {
-        throw Failure(Exit::input,
-                      frame_place(origin, frame.offset) + ": " + report.sentence + " (" + std::to_string(error) + ")");
+        throw Failure(Exit::input, frame_location(origin, frame.offset) + ": " + report.sentence + " (" +
+                                       std::to_string(error) + ")");
     }
 }
 

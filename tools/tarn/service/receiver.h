@@ -1,4 +1,4 @@
-// The receiving side: frames go through the dispatcher, and what a bundle brought comes out of its handler.
+// The side that receives: frames go through the dispatcher, and the messages of a bundle come out of its handler.
 #pragma once
 
 #include <string>
@@ -6,22 +6,21 @@
 #include <vector>
 
 #include "tools/tarn/formats/frames.h"
-#include "tools/tarn/formats/items.h"
 
 namespace tarn::tool {
 
-// Where the bundle handler is registered; the library tries these places in this order, the linked-in one last.
+// Where the bundle handler is registered; the library tries these in this order, the linked-in one last.
 enum class Via : std::uint8_t { lut, handle, module, bundle, linked };
 
 Via via_named(std::string_view word);
 std::vector<std::string> via_words();
 
-class Reception {
+class Receiver {
 public:
-    Reception(bool tracked, Via via);
-    Reception(const Reception &) = delete;
-    Reception &operator=(const Reception &) = delete;
-    ~Reception();
+    Receiver(bool tracked, Via via);
+    Receiver(const Receiver &) = delete;
+    Receiver &operator=(const Receiver &) = delete;
+    ~Receiver();
 
     const Handle &handle() const { return handle_; }
 
@@ -37,7 +36,7 @@ public:
 private:
     static void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, std::uint32_t *err);
     static void on_message(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void *message, std::uint32_t *err);
-    void enlist();
+    void register_types();
     void keep(const Identity &identity, void *object);
 
     Handle handle_;

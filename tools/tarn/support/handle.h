@@ -1,16 +1,13 @@
-// Owners of what the runtime and the library hand out, and the forms that a message can be brought into.
+// Owners of what the runtime and the library allocate: handles, messages, parsed documents.
 #pragma once
 
 #include <cstdint>
 #include <memory>
-#include <span>
-#include <string>
 #include <utility>
 #include <vector>
 
 #include "mirk_platform.h"
 #include "tools/reflect/operations.h"
-#include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
 
@@ -84,18 +81,5 @@ struct DocumentRelease {
     void operator()(void *document) const { mirk_platform_document_free(document); }
 };
 using Document = std::unique_ptr<void, DocumentRelease>;
-
-// Frames, text and XML of a message, or of a control message with a null object. The gaps that the text form leaves in
-// front of nested closing lines are filled with blanks.
-Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
-std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
-std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
-
-// Reads a plain message from a frame of the right luid. Throws a Failure with the error of the library.
-Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
-                           std::span<const std::uint8_t> frame);
-
-// Trace of the process: the library's modules get their names, and with verbose every level goes to standard error.
-void set_up_trace(bool verbose);
 
 }  // namespace tarn::tool

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "schema/layout.h"
+#include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
 

@@ -1,10 +1,10 @@
 #include "tools/tarn/support/names.h"
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
 #include <utility>
 
+#include "schema/catalogue.h"
 #include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
@@ -25,52 +25,27 @@ std::size_t distance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
-bool matches(std::string_view given, std::string_view name) { return given == name || given == short_form(name); }
-
-[[noreturn]] void unknown(std::string_view what, std::string_view given, const std::vector<std::string> &candidates) {
-    throw Failure(Exit::input, "there is no " + std::string(what) + " \"" + std::string(given) + "\"" +
-                                   suggestion(given, candidates));
-}
-
 }  // namespace
 
-std::string_view word(Control control) {
-    constexpr std::string_view words[] = {"start", "abort", "commit"};
-    return words[static_cast<std::size_t>(control)];
+std::vector<Named> bundle_names() {
+    std::vector<Named> names;
+    for (const auto *b : schema::bundles) names.push_back({b->name, b->message.payload.meaning});
+    return names;
 }
 
-const reflect::MessageOperations &operations_of(const reflect::BundleOperations &bundle, Control control) {
-    switch (control) {
-        case Control::start:
-            return bundle.start;
-        case Control::abort:
-            return bundle.abort;
-        case Control::commit:
-            break;
-    }
-    return bundle.commit;
+std::vector<Named> message_names() {
+    std::vector<Named> names;
+    for (const auto *m : schema::messages) names.push_back({m->name, m->payload.meaning});
+    return names;
 }
 
-std::optional<Identity> identify(const std::uint8_t *luid) {
-    const auto has = [luid](const reflect::MessageOperations &o) { return std::memcmp(o.luid, luid, 16) == 0; };
-    for (const reflect::MessageOperations &o : reflect::messages()) {
-        if (has(o)) return Identity{&o};
-    }
-    for (const reflect::BundleOperations &b : reflect::bundles()) {
-        for (const Control control : {Control::start, Control::abort, Control::commit}) {
-            if (has(operations_of(b, control))) return Identity{&operations_of(b, control), &b, control};
-        }
-    }
-    return std::nullopt;
-}
-
-std::string luid_text(const std::uint8_t *luid) {
-    std::string text;
-    for (int i = 0; i < 16; ++i) {
-        text += "0123456789abcdef"[luid[i] >> 4];
-        text += "0123456789abcdef"[luid[i] & 15];
-    }
-    return text;
+std::vector<Named> type_names() {
+    std::vector<Named> names;
+    for (const auto *r : schema::records) names.push_back({r->name, r->meaning});
+    for (const auto *e : schema::enumerations) names.push_back({e->name, e->meaning});
+    for (const Named &m : message_names()) names.push_back(m);
+    for (const Named &b : bundle_names()) names.push_back(b);
+    return names;
 }
 
 std::string short_form(std::string_view name) {
@@ -86,35 +61,45 @@ std::string short_form(std::string_view name) {
     return text;
 }
 
+bool is_named(std::string_view given, std::string_view name) { return given == name || given == short_form(name); }
+
 const reflect::BundleOperations &bundle_named(std::string_view name) {
     std::vector<std::string> candidates;
     for (const reflect::BundleOperations &b : reflect::bundles()) {
-        if (matches(name, b.bundle->name)) return b;
+        if (is_named(name, b.bundle->name)) return b;
         candidates.push_back(short_form(b.bundle->name));
         candidates.emplace_back(b.bundle->name);
     }
-    unknown("bundle", name, candidates);
+    throw Failure(Exit::input, "there is no bundle \"" + std::string(name) + "\"" + suggestion(name, candidates));
 }
 
-const reflect::MessageOperations &message_named(std::string_view name) {
-    std::vector<std::string> candidates;
-    for (const reflect::MessageOperations &o : reflect::messages()) {
-        if (matches(name, o.name)) return o;
-        candidates.push_back(short_form(o.name));
-        candidates.emplace_back(o.name);
+const schema::Record *record_named(std::string_view name) {
+    for (const auto *r : schema::records) {
+        if (is_named(name, r->name)) return r;
     }
-    unknown("message", name, candidates);
-}
-
-const reflect::BundleOperations &bundle_of(const reflect::MessageOperations &message) {
-    for (const reflect::BundleOperations &b : reflect::bundles()) {
-        if (admits(b, message)) return b;
+    for (const auto *b : schema::bundles) {
+        if (is_named(name, b->name)) return &b->message.payload;
     }
-    throw Failure(Exit::input, std::string(message.name) + " belongs to no bundle");
+    for (const auto *m : schema::messages) {
+        if (is_named(name, m->name)) return &m->payload;
+    }
+    return nullptr;
 }
 
-bool admits(const reflect::BundleOperations &bundle, const reflect::MessageOperations &message) {
-    return &bundle.bundle->message == message.message;
+Target target_of(std::string_view path) {
+    std::size_t dot = path.find('.');
+    Target target{record_named(path.substr(0, dot))};
+    while (target && dot != std::string_view::npos) {
+        path.remove_prefix(dot + 1);
+        dot = path.find('.');
+        const schema::Record *in = target.nested();
+        target = {};
+        if (in == nullptr) break;
+        for (const schema::Member &m : in->members) {
+            if (m.name == path.substr(0, dot)) target = {in, &m};
+        }
+    }
+    return target;
 }
 
 std::string suggestion(std::string_view word, const std::vector<std::string> &candidates) {

@@ -1,43 +1,42 @@
-// Finding things of the schema by the names that people use, and by the identity that stands in a frame.
+// The names of the schema: in full, in the short form that people write, and members by a path that begins at a
+// record: "dp-tt-cfg.tables".
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "schema/model.h"
 #include "tools/reflect/operations.h"
 
 namespace tarn::tool {
 
-enum class Control : std::uint8_t { start, abort, commit };
-
-std::string_view word(Control control);
-const reflect::MessageOperations &operations_of(const reflect::BundleOperations &bundle, Control control);
-
-// What a luid stands for: a plain message, or a control message of a bundle.
-struct Identity {
-    const reflect::MessageOperations *operations;
-    const reflect::BundleOperations *bundle = nullptr;  // of a control message
-    Control control = Control::start;
-
-    bool is_control() const { return bundle != nullptr; }
+struct Named {
+    std::string_view name, meaning;
 };
 
-std::optional<Identity> identify(const std::uint8_t *luid);
-std::string luid_text(const std::uint8_t *luid);
+std::vector<Named> bundle_names();
+std::vector<Named> message_names();
+std::vector<Named> type_names();  // records, enumerations, messages, bundles
 
 // "lumo_tarn_dp_tt_cfg_rsp" gives "dp-tt-cfg".
 std::string short_form(std::string_view name);
+bool is_named(std::string_view given, std::string_view name);  // in full or in short
 
-// A full name or its short form. These throw a Failure that names the nearest name there is.
+// Throws a Failure with the nearest name if there is no such bundle.
 const reflect::BundleOperations &bundle_named(std::string_view name);
-const reflect::MessageOperations &message_named(std::string_view name);
 
-// The bundle that a plain message is shown in, the first if there are several.
-const reflect::BundleOperations &bundle_of(const reflect::MessageOperations &message);
-bool admits(const reflect::BundleOperations &bundle, const reflect::MessageOperations &message);
+// A record, or the payload of a message or a bundle; null if there is none.
+const schema::Record *record_named(std::string_view name);
+
+// What a path leads to. A member that nests records leads on to theirs.
+struct Target {
+    const schema::Record *record = nullptr;  // the record that is named, or the one that holds the member
+    const schema::Member *member = nullptr;  // of a path with members
+    const schema::Record *nested() const { return member != nullptr ? member->record : record; }
+    explicit operator bool() const { return record != nullptr; }
+};
+Target target_of(std::string_view path);
 
 // "; did you mean X?", or nothing if no candidate is close.
 std::string suggestion(std::string_view word, const std::vector<std::string> &candidates);

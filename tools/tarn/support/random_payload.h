@@ -10,10 +10,10 @@
 
 namespace tarn::tool {
 
-class Plausible {
+class RandomPayload {
 public:
     // Processors and complexes stay at two; other lists get about `elements` elements, as far as their counts can tell.
-    Plausible(std::uint64_t seed, std::uint32_t elements) : random_(seed), elements_(elements) {}
+    RandomPayload(std::uint64_t seed, std::uint32_t elements) : random_(seed), elements_(elements) {}
 
     nlohmann::ordered_json make(const schema::Record &record);
 

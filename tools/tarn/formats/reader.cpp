@@ -1,8 +1,9 @@
-#include "tools/tarn/formats/items.h"
+#include "tools/tarn/formats/reader.h"
 
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/xml.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 
 namespace tarn::tool {
@@ -11,32 +12,14 @@ namespace {
 
 std::vector<Item> from_frames(const Handles &handles, std::string_view content, const std::string &origin) {
     std::vector<Item> items;
-    for (const Frame &frame : split_frames(bytes_of(content), origin)) {
-        Item item{frame.identity, std::nullopt, frame_place(origin, frame.offset)};
-        if (!frame.identity.is_control()) {
-            try {
-                item.message.emplace(
-                    message_from_frame(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes));
-            } catch (const Failure &failure) {
-                throw Failure(failure.exit(), item.place + ": " + failure.what());
-            }
-        }
-        items.push_back(std::move(item));
-    }
+    for (const Frame &frame : split_frames(bytes_of(content), origin)) items.push_back(item_of(handles, frame, origin));
     return items;
 }
 
 std::vector<Item> from_xml(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     std::vector<Item> items;
     for (const Fragment &fragment : split_fragments(content, origin)) {
-        const std::string place = origin + ":" + std::to_string(fragment.line);
-        if (const auto control = control_in(fragment, origin)) {
-            items.push_back({*control, std::nullopt, place});
-        } else {
-            Message message = message_from_xml(handles, fragment, origin, lenient);
-            items.push_back({{&message.operations()}, std::nullopt, place});
-            items.back().message.emplace(std::move(message));
-        }
+        items.push_back(item_of(handles, fragment, origin, lenient));
     }
     return items;
 }

@@ -1,10 +1,12 @@
-#include "tools/tarn/formats/output.h"
+#include "tools/tarn/formats/writer.h"
 
 #include <cctype>
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/message.h"
 
 namespace tarn::tool {
 
@@ -14,8 +16,9 @@ std::string rendered(const Item &item, Style style) {
     static const Handle any(false);
     const Handle &handle = item.message ? item.message->handle() : any;
     const reflect::MessageOperations &operations = *item.identity.operations;
-    return style == Style::xml ? xml_of(handle, operations, item.object()) + "\n"
-                               : text_of(handle, operations, item.object());
+    if (style == Style::xml) return xml_of(handle, operations, item.object()) + "\n";
+    if (style == Style::text) return text_of(handle, operations, item.object());
+    return std::string(chars_of(frame_of(handle, operations, item.object())));
 }
 
 std::string hex_dump(std::string_view bytes) {

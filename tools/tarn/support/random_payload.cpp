@@ -1,4 +1,4 @@
-#include "tools/tarn/support/plausible.h"
+#include "tools/tarn/support/random_payload.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -23,7 +23,7 @@ bool ends(const Member &m, std::string_view part) {
 
 }  // namespace
 
-std::string Plausible::address() {
+std::string RandomPayload::address() {
     constexpr std::uint64_t v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
     if (below(3) != 0) {
         return "10." + std::to_string(below(256)) + "." + std::to_string(below(256)) + ".0/" +
@@ -41,7 +41,7 @@ std::string Plausible::address() {
     return text + ":/" + std::to_string(v6_lengths[below(6)]);
 }
 
-std::string Plausible::name(const Member &m) {
+std::string RandomPayload::name(const Member &m) {
     constexpr const char *protocols[] = {"http", "dns", "rtp", "ssh", "smtp", "quic", "sip", "ntp"};
     if (has(m, "intf")) {
         return "TenGigE0/" + std::to_string(below(8)) + "/" + std::to_string(below(4)) + "/" +
@@ -51,7 +51,7 @@ std::string Plausible::name(const Member &m) {
     return has(m, "sub") ? word + "-video" : has(m, "appl") ? word + "-" + std::to_string(index_) : word;
 }
 
-std::uint64_t Plausible::number(const Record &record, const Member &m) {
+std::uint64_t RandomPayload::number(const Record &record, const Member &m) {
     const std::uint64_t limit = greatest(m.kind);
     if (m.name == "lumo_num" || m.name == "complex_num") return index_;
     if (m.name == "num_lumos" || m.name == "num_complexes") return 2;
@@ -75,14 +75,14 @@ std::uint64_t Plausible::number(const Record &record, const Member &m) {
     return below(std::min<std::uint64_t>(limit, 999) + 1);
 }
 
-std::uint32_t Plausible::length_of_list(const Member &m, bool narrow_count) {
+std::uint32_t RandomPayload::length_of_list(const Member &m, bool narrow_count) {
     if (m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info") return 2;
     // A list inside a list of this kind is shorter, or size would grow with the square.
     const std::uint32_t wanted = depth_ == 0 ? elements_ : elements_ / 4 + 1;
     return narrow_count ? std::min<std::uint32_t>(wanted, 255) : wanted;
 }
 
-ordered_json Plausible::value(const Record &record, const Member &m, bool narrow_count) {
+ordered_json RandomPayload::value(const Record &record, const Member &m, bool narrow_count) {
     switch (m.kind) {
         case Kind::boolean:
             return below(4) != 0;
@@ -113,7 +113,7 @@ ordered_json Plausible::value(const Record &record, const Member &m, bool narrow
     }
 }
 
-ordered_json Plausible::make(const Record &record) {
+ordered_json RandomPayload::make(const Record &record) {
     ordered_json json = ordered_json::object();
     bool narrow_count = false;
     for (const Member &m : record.members) {

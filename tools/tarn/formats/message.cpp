@@ -1,0 +1,79 @@
+#include "tools/tarn/formats/message.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+namespace {
+
+constexpr std::size_t most_bytes = std::size_t{1} << 30;
+
+// Writers report a lack of room with one of three numbers, so the buffer grows until they are content.
+template <class Buffer, class Write>
+Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type filler, const char *what,
+                      const reflect::MessageOperations &operations, const Write &write) {
+    for (std::size_t size = first_guess;; size *= 4) {
+        Buffer buffer(size + 1, filler);
+        std::uint32_t err = 0;
+        const std::uint32_t written = write(buffer.data(), static_cast<std::uint32_t>(size), &err);
+        const bool lacks_room = err == EMSGSIZE || err == ENOSPC || err == ENOMEM;
+        if (lacks_room && size < most_bytes) continue;
+        if (err != 0) {
+            throw Failure(exit_of(err), std::string(operations.name) + " cannot be " + what + ": " + error_text(err));
+        }
+        buffer.resize(written);
+        return buffer;
+    }
+}
+
+std::size_t guess(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
+    return std::size_t{operations.len(handle.get(), context_id, object)} * 3 + 4096;
+}
+
+}  // namespace
+
+Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
+    return grow_and_write<Bytes>(guess(handle, operations, object), 0, "written as a frame", operations,
+                                 [&](std::uint8_t *buffer, std::uint32_t size, std::uint32_t *err) {
+                                     return operations.marshal(handle.get(), context_id, buffer, object, size, err);
+                                 });
+}
+
+std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
+    std::string text =
+        grow_and_write<std::string>(guess(handle, operations, object), ' ', "written as text", operations,
+                                    [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
+                                        return operations.print(handle.get(), context_id, buffer, object, size, err);
+                                    });
+    // The first byte of a gap is the terminator of the line before it.
+    std::replace(text.begin(), text.end(), '\0', ' ');
+    return text;
+}
+
+std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
+    return grow_and_write<std::string>(guess(handle, operations, object), ' ', "written as XML", operations,
+                                       [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
+                                           return operations.to_xml(handle.get(), context_id, buffer, object, size,
+                                                                    err);
+                                       });
+}
+
+Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
+                           std::span<const std::uint8_t> frame) {
+    Bytes buffer(frame.begin(), frame.end());
+    buffer.push_back(0);
+    void *object = nullptr;
+    std::uint32_t err = 0;
+    operations.unmarshal_only(handle.get(), context_id, &object, buffer.data(),
+                              static_cast<std::uint32_t>(frame.size()), &err);
+    if (object == nullptr) throw Failure(Exit::environment, "no memory for a message");
+    Message message(handle, operations, object);
+    // A count that no memory could satisfy, or a frame that ends too early, is reported as a lack of memory, too.
+    if (err != 0) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + error_text(err));
+    return message;
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,106 @@
+#include "tools/tarn/pages/view_page.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/schema.h"
+#include "tools/tarn/pages/page.h"
+#include "tools/tarn/pages/shapes.h"
+#include "view_body.h"
+#include "view_script.h"
+
+namespace tarn::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+// Four letters for three bytes, as browsers read them.
+std::string base64_of(FrameBytes bytes) {
+    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    for (std::size_t at = 0; at < bytes.size(); at += 3) {
+        const std::size_t count = std::min<std::size_t>(3, bytes.size() - at);
+        std::uint32_t bits = 0;
+        for (std::size_t i = 0; i < 3; ++i) bits = bits << 8 | (i < count ? bytes[at + i] : 0);
+        for (std::size_t i = 0; i < 4; ++i) text += i <= count ? letters[bits >> (18 - 6 * i) & 63] : '=';
+    }
+    return text;
+}
+
+// What both files of a difference share: forms of pieces, names of identities, and the first line of each sort of
+// frame.
+struct Shared {
+    Shapes shapes;
+    ordered_json headings = ordered_json::array();
+    ordered_json luids = ordered_json::object();
+};
+
+// A request has no name and no record here; what it says stands in its bytes.
+ordered_json heading_of(FrameBytes frame) {
+    const std::optional<Identity> identity =
+        frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);
+    if (!identity) return {"", ""};
+    if (!identity->is_control()) return {identity->operations->name, identity->operations->message->payload.name};
+    return {std::string(identity->bundle->bundle->name) + " " + std::string(word(identity->control)), ""};
+}
+
+std::size_t index_in(ordered_json &list, const ordered_json &what) {
+    const auto at = std::find(list.begin(), list.end(), what);
+    const auto index = static_cast<std::size_t>(at - list.begin());
+    if (at == list.end()) list.push_back(what);
+    return index;
+}
+
+void note_luid(const Dissection &dissection, ordered_json &luids) {
+    for (const Piece &p : dissection.pieces) {
+        const std::size_t space = p.kind == "luid" ? p.value.find(' ') : std::string::npos;
+        if (space != std::string::npos) luids[p.value.substr(0, space)] = p.value.substr(space + 1);
+    }
+}
+
+// Bytes after a break are shown as bytes alone.
+ordered_json json_of_file(ViewedFile &file, Shared &shared) {
+    const FrameBytes all = bytes_of(file.frames);
+    ordered_json json{{"name", file.name}, {"bytes", base64_of(all)}, {"frames", ordered_json::array()}};
+    for (std::size_t offset = 0; offset < all.size();) {
+        const Dissection dissection = dissect_frame(all.subspan(offset), offset);
+        note_luid(dissection, shared.luids);
+        json["frames"].push_back(shared.shapes.add(dissection.pieces));
+        json["frames"].push_back(index_in(shared.headings, heading_of(all.subspan(offset))));
+        offset += dissection.size;
+        if (!dissection.broken) continue;
+        file.broken = sentence_of(*dissection.broken);
+        json["broken"] = file.broken;
+        break;
+    }
+    return json;
+}
+
+}  // namespace
+
+std::string view_page(std::vector<ViewedFile> &files) {
+    Shared shared;
+    ordered_json data{{"sides", ordered_json::array()}};
+    std::string title;
+    for (ViewedFile &file : files) {
+        data["sides"].push_back(json_of_file(file, shared));
+        title += (title.empty() ? "" : " and ") + file.name;
+    }
+    data["shapes"] = shared.shapes.json();
+    data["headings"] = shared.headings;
+    data["luids"] = shared.luids;
+    const ordered_json schema = schema_json();
+    for (const auto &e : schema.at("enumerations")) {
+        data["enumerations"][e.at("name").get<std::string>()] = e.at("enumerators");
+    }
+    for (const auto &record : schema.at("records")) {
+        ordered_json &members = data["records"][record.at("name").get<std::string>()];
+        for (const auto &m : record.at("members"))
+            members[m.at("name").get<std::string>()] = {m.at("kind"), m.at("meaning")};
+    }
+    return page_text({title + " - tarn", view_body, view_script, data});
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,118 @@
+#include "tools/tarn/service/server.h"
+
+#include <cerrno>
+#include <cmath>
+#include <csignal>
+#include <cstdio>
+
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+namespace {
+
+// 0 stays 0, which means no limit, and nothing else becomes it.
+std::uint32_t milliseconds(double seconds) { return static_cast<std::uint32_t>(std::ceil(seconds * 1000)); }
+
+mirk_platform_server *server_to_stop = nullptr;
+
+extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop); }
+
+}  // namespace
+
+// Peers are named only with --verbose, but a peer that is disconnected for what it sent always is.
+void Server::note(mirk_platform_peer peer, const std::string &sentence) const {
+    if (options_.verbose)
+        std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), sentence.c_str());
+}
+
+void Server::print_refused(mirk_platform_peer peer, const char *reason) {
+    if (peer == 0) {
+        std::fprintf(stderr, "tarn: %s\n", reason);
+    } else {
+        ++refused_;
+        std::fprintf(stderr, "tarn: peer %llu is turned out: %s\n", static_cast<unsigned long long>(peer), reason);
+    }
+}
+
+void Server::open() {
+    mirk_platform_server_options settings;
+    mirk_platform_server_options_init(&settings);
+    settings.peer_limit = options_.peers;
+    settings.frame_limit = static_cast<std::uint32_t>(options_.frame_limit);
+    settings.idle_ms = milliseconds(options_.idle);
+    settings.pending_limit = options_.unread;
+    settings.user = this;
+    settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
+                           std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
+    settings.on_connect = [](void *user, mirk_platform_server *, mirk_platform_peer peer) {
+        static_cast<Server *>(user)->note(peer, "connected");
+    };
+    settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Server *>(user)->note(peer, std::string("gone: ") + reason);
+    };
+    const bool tcp = !options_.listen.empty();
+    const std::string &endpoint = tcp ? options_.listen : options_.socket;
+    const auto open = tcp ? mirk_platform_server_open_tcp : mirk_platform_server_open;
+    if (const mirk_platform_error error = open(endpoint.c_str(), &settings, &server_); error != 0) {
+        throw Failure(tcp && error == EINVAL ? Exit::input : Exit::environment,
+                      "cannot listen on " + endpoint + ": " + error_text(error));
+    }
+    mirk_platform_server_limits limits;
+    mirk_platform_server_limits_init(&limits);
+    limits.frame_ms = milliseconds(options_.frame_time);
+    limits.answer_ms = milliseconds(options_.answer_time);
+    limits.total_pending_limit = options_.unread_total;
+    limits.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Server *>(user)->print_refused(peer, reason);
+    };
+    mirk_platform_server_limit(server_, &limits);
+}
+
+void Server::run() {
+    server_to_stop = server_;
+    struct sigaction action {};
+    action.sa_handler = stop_on_signal;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    std::string names;
+    for (const std::string &name : answerer_.names()) names += (names.empty() ? "" : ", ") + name;
+    std::printf("answering on %s: %s\n", mirk_platform_server_place(server_), names.c_str());
+    std::fflush(stdout);
+    const mirk_platform_error error = mirk_platform_server_run(server_);
+    if (error != 0) throw Failure(Exit::environment, "serving ended: " + error_text(error));
+    std::printf("stopped after %u answers, %u peers turned out\n", answers_, refused_);
+}
+
+void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence) {
+    note(peer, "refused: " + sentence);
+    std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+    const std::uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, number, sentence.c_str(), nullptr);
+    mirk_platform_server_send(server_, peer, frame, size);
+}
+
+void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size) {
+    mirk_platform_request request;
+    const mirk_platform_error error = mirk_platform_request_decode(frame, size, &request);
+    if (error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
+        refuse(peer, error != 0 ? error : EBADMSG, "this is no request");
+        mirk_platform_server_disconnect(server_, peer, "sent a frame that is no request");
+        return;
+    }
+    const auto *bundle = reflect::find_bundle(request.bundle);
+    if (bundle == nullptr) return refuse(peer, ENOENT, "there is no bundle \"" + std::string(request.bundle) + "\"");
+    if (!answerer_.has(*bundle)) {
+        return refuse(peer, ENOENT, std::string(bundle->bundle->name) + " is not served here");
+    }
+    const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
+    note(peer, "asks for " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
+    try {
+        const Bytes frames = answerer_.answer(*bundle, tracked, ++answers_, options_.fault);
+        mirk_platform_server_send(server_, peer, frames.data(), frames.size());
+        if (options_.fault == Fault::cut) mirk_platform_server_disconnect(server_, peer, "cut on purpose");
+    } catch (const std::exception &failure) {
+        refuse(peer, EIO, failure.what());
+    }
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,44 @@
+// Serves snapshots of bundles to whoever asks over a socket or TCP.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "mirk_platform.h"
+#include "tools/tarn/service/answerer.h"
+
+namespace tarn::tool {
+
+struct ServerOptions {
+    std::string socket, listen;  // a socket file or a TCP address; the other one is empty
+    Fault fault = Fault::none;
+    unsigned peers = 256;
+    double idle = 60, frame_time = 10, answer_time = 60;  // seconds; 0 is no limit
+    std::uint64_t frame_limit = 64 << 10, unread = 64 << 20, unread_total = 256 << 20;
+    bool verbose = false;
+};
+
+class Server {
+public:
+    Server(const ServerOptions &options, Answerer &answerer) : options_(options), answerer_(answerer) {}
+    ~Server() { mirk_platform_server_close(server_); }
+    Server(const Server &) = delete;
+    Server &operator=(const Server &) = delete;
+
+    void open();
+    // Until SIGINT or SIGTERM.
+    void run();
+
+private:
+    void on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size);
+    void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence);
+    void note(mirk_platform_peer peer, const std::string &sentence) const;
+    void print_refused(mirk_platform_peer peer, const char *reason);
+
+    const ServerOptions &options_;
+    Answerer &answerer_;
+    mirk_platform_server *server_ = nullptr;
+    std::uint32_t answers_ = 0, refused_ = 0;
+};
+
+}  // namespace tarn::tool

@@ -1,0 +1,33 @@
+#include "tools/tarn/support/trace.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "lumo_ui_tarn.h"
+#include "mirk_platform.h"
+
+namespace tarn::tool {
+
+namespace {
+
+extern "C" void trace_to_standard_error(void *, std::uint16_t module_id, std::uint32_t level, const char *line) {
+    std::fprintf(stderr, "trace %s %u: %s\n", mirk_platform_trace_module_name(module_id), level, line);
+}
+
+}  // namespace
+
+void set_up_trace(bool verbose) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    mirk_lumo_ui_tarn_message_trace_init();
+    static std::uint64_t stub_state;
+    skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &stub_state);
+    if (verbose) {
+        mirk_platform_trace_set_levels(~std::uint32_t{0});
+        mirk_platform_trace_set_sink(trace_to_standard_error, nullptr);
+    } else if (std::getenv("MIRK_TRACE") == nullptr) {
+        // Errors are told by the tool itself, with their place.
+        mirk_platform_trace_set_levels(1);
+    }
+}
+
+}  // namespace tarn::tool
