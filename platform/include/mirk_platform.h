@@ -209,8 +209,8 @@ typedef void (*mirk_platform_message_destroy)(mirk_handle *h, uint32_t ctx_id, v
 typedef struct mirk_platform_message {
     const uint8_t *luid; /**< 16 bytes */
     const char *name;    /**< for trace lines */
-    /** Called with `handler`, or with null so that the linked-in handler runs. Reads a frame a second time when the
-     * recorder is on, since only this operation records, and when there is no `handler` to call. */
+    /** Reads a frame again when the recorder is on, since only this operation records, and when there is no `handler`,
+     * since only this operation calls the linked-in one. */
     mirk_platform_unmarshal unmarshal;
     mirk_platform_unmarshal_only unmarshal_only; /**< null makes it a control message */
     mirk_platform_message_destroy destroy;       /**< null for a control message */
@@ -266,8 +266,9 @@ MIRK_PLATFORM_API size_t mirk_platform_list_sent(mirk_handle *h, mirk_platform_s
 
 /* ---- recorder (process-wide, any thread) ------------------------------------------------------------------------ */
 
-/** While on, every received plain message goes to the stream as XML. The stream may be null, which is traced for each
- * message; it stays the caller's and must stay open while the recorder is on. */
+/** While on, every received plain message goes to the stream as XML before it is delivered. The stream may be null,
+ * which is traced for each message; it stays the caller's and must stay open while the recorder is on. A message that
+ * cannot be recorded is traced; dispatch delivers it and the frames after it as if the recorder were off. */
 MIRK_PLATFORM_API void mirk_platform_recorder_set(uint32_t on, FILE *stream);
 
 /* ---- frames and requests ---------------------------------------------------------------------------------------- */
@@ -372,8 +373,8 @@ typedef struct mirk_platform_server_limits {
     /** If more than this piles up unread for all peers together, the peer with the most is disconnected; never less
      * than the pending_limit of one peer; default 256 MiB. */
     uint64_t total_pending_limit;
-    /** A peer passed a limit: called before on_disconnect, and for a peer that is turned away because there are too
-     * many, which gets no other call. The peer is 0 if no connection can be accepted, as without descriptors; that is
+    /** A peer passed a limit, or sent bytes that are not a frame: called before on_disconnect. Called as well for a
+     * peer that is turned away because there are too many, which gets no other call. The peer is 0 if no connection can be accepted, as without descriptors; that is
      * said once until it works again. The reason is a sentence for people. May be null. */
     void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
 } mirk_platform_server_limits;

@@ -30,22 +30,30 @@ void report_failure(mirk_platform_report *report, uint32_t number, uint32_t offs
     if (report != nullptr) *report = made;
 }
 
-// Files what the second reading of a frame brings. The list owns the message whatever the recorder met with.
-extern "C" void file_message(mirk_handle *h, uint32_t ctx_id, void *, void *message, uint32_t *err) {
-    if (*err != 0) {
-        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): message %s was not recorded: %s",
-                      own(h)->in_dispatch->message.name, std::strerror(static_cast<int>(*err)));
-        *err = 0;
-    }
-    mirk::file_received(*own(h), *own(h)->in_dispatch, message, ctx_id, err);
+extern "C" void destroy_recorded(mirk_handle *h, uint32_t ctx_id, void *, void *message, uint32_t *) {
+    own(h)->in_dispatch->message.destroy(h, ctx_id, message);
 }
 
-// Reads with the full operation, which records if the recorder is on and calls the handler, or the linked-in one.
-void read_and_deliver(const Delivery &to, const DispatchEntry &entry, const Frame &frame, mirk_message_handler handler,
-                      uint32_t *err) {
+// Only the full operation records, so a good frame is read a second time for the recorder alone: neither a message that
+// cannot be recorded nor what that leaves in the slot or in last_error may change what is delivered.
+void record(const Delivery &to, const DispatchEntry &entry, const Frame &frame) {
+    const uint32_t last_error = to.handle.last_error;
+    uint32_t err = 0;
+    entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, nullptr, frame.bytes, frame.size, destroy_recorded,
+                            &err);
+    to.handle.last_error = last_error;
+    if (err == 0) return;
+    skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): message %s was not recorded: %s", entry.message.name,
+                  std::strerror(static_cast<int>(err)));
+}
+
+// Only the full operation knows the linked-in handler. What it reads is recorded already.
+void deliver_to_linked_in(const Delivery &to, const DispatchEntry &entry, const Frame &frame, uint32_t *err) {
     void *message = nullptr;
-    entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, &message, frame.bytes, frame.size, handler, err);
-    // 38 says that nobody took the message.
+    mirk::skip_next_recording(true);
+    entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, &message, frame.bytes, frame.size, nullptr, err);
+    mirk::skip_next_recording(false);
+    // ENOSYS says that nobody took the message.
     if (*err == ENOSYS && message != nullptr) entry.message.destroy(&to.handle, to.ctx_id, message);
 }
 
@@ -59,15 +67,16 @@ void receive_plain(const Delivery &to, const DispatchEntry &entry, const Frame &
         if (*err == 0) *err = EBADMSG;
         return;
     }
-    const bool filing = handle.recv_bundle_open != 0;
-    const mirk_message_handler handler = filing ? file_message : entry.message.handler;
-    if (mirklib_msg_recorder_get_state() != 0 || handler == nullptr) {
+    if (mirklib_msg_recorder_get_state() != 0) record(to, entry, frame);
+    if (handle.recv_bundle_open != 0) {
+        mirk::file_received(handle, entry, message, to.ctx_id, err);
+    } else if (entry.message.handler == nullptr) {
         entry.message.destroy(&handle, to.ctx_id, message);
-        read_and_deliver(to, entry, frame, handler, err);
-        return;
+        deliver_to_linked_in(to, entry, frame, err);
+    } else {
+        entry.message.handler(&handle, to.ctx_id, to.dispatch_ctx, message, err);
+        if (*err == ENOSYS) entry.message.destroy(&handle, to.ctx_id, message);
     }
-    handler(&handle, to.ctx_id, to.dispatch_ctx, message, err);
-    if (!filing && *err == ENOSYS) entry.message.destroy(&handle, to.ctx_id, message);
 }
 
 uint32_t receive(const Delivery &to, DispatchEntry &entry, const Frame &frame) {

@@ -212,6 +212,9 @@ void set_embedded(mirk_handle *h, uint32_t ctx_id, mirk_object *object);
 bool list_empty(const mirk_list_head &head);
 void file_received(Handle &handle, const DispatchEntry &entry, void *message, uint32_t ctx_id, uint32_t *err);
 
+// recorder.cpp: whether the next question of this thread finds the recorder off
+void skip_next_recording(bool skip);
+
 // trace lines of the runtime itself
 uint16_t trace_module();
 [[noreturn]] void fatal(const char *line);

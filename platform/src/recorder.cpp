@@ -1,18 +1,25 @@
 // The recorder's switch and its stream, for the whole process.
 #include <atomic>
 
-#include "contract.hpp"
+#include "handle.hpp"
 
 namespace {
 
 std::atomic<uint32_t> recording{0};
 std::atomic<FILE *> recording_stream{nullptr};
+thread_local bool skip_next = false;
 
 }  // namespace
 
+namespace mirk {
+
+void skip_next_recording(bool skip) { skip_next = skip; }
+
+}  // namespace mirk
+
 extern "C" {
 
-uint32_t mirklib_msg_recorder_get_state(void) { return recording.load(); }
+uint32_t mirklib_msg_recorder_get_state(void) { return std::exchange(skip_next, false) ? 0 : recording.load(); }
 
 FILE *mirklib_msg_recorder_get_handle(void) { return recording_stream.load(); }
 

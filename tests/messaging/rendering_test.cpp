@@ -365,6 +365,34 @@ TEST_F(Recorder, RecordsWhatTheDispatcherReceivesOnce) {
     }
 }
 
+TEST_F(Recorder, AMessageOverTheLimitDoesNotChangeWhatTheDispatcherDelivers) {
+    for (const bool recorded : {false, true}) {
+        mirk_platform_recorder_set(recorded, file);
+        int too_long = 0;
+        for (const MessageOperations &m : messages()) {
+            SCOPED_TRACE(m.name);
+            const reference::Record value = sample(m, 1, {.min_elements = 40, .max_elements = 40, .budget = 100000});
+            if (reference::message_to_xml(m.name, value, false).size() < 4096) continue;
+            ++too_long;
+            Handle h;
+            register_all(h, on_message);
+            Bytes bytes = frame_of(m, value, false);
+            const Bytes next = frame_of(m, reference::Record(payload_name(m)), false);
+            bytes.insert(bytes.end(), next.begin(), next.end());
+            Buffer frames(bytes);
+            handler_calls.clear();
+            EXPECT_EQ(mirk_platform_dispatch(h, kId, frames.data(), frames.size(), nullptr, nullptr), 0u);
+            ASSERT_EQ(handler_calls.size(), 2u);
+            for (const HandlerCall &call : handler_calls) {
+                EXPECT_EQ(call.err, 0u);
+                m.destroy(h, kId, call.message);
+            }
+        }
+        EXPECT_GE(too_long, 5);
+    }
+    EXPECT_NE(recorded(), "") << "the short ones are recorded";
+}
+
 TEST_F(Recorder, ATruncatedFrameIsNotRecorded) {
     mirk_platform_recorder_set(1, file);
     const MessageOperations &m = messages()[0];

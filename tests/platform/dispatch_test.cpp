@@ -13,8 +13,9 @@ struct Calls {
     uint32_t only_error = 0;
     uint32_t handler_error = 0;
     uint32_t record_error = 0;
+    uint32_t handler_error_seen = 0, linked_in_error = 0;
     bool linked_in_takes = false;
-    std::string values;
+    std::string values, recorded;
     void *dispatch_ctx = nullptr;
     bool detach_first = false;
 } calls;
@@ -41,14 +42,20 @@ uint32_t unmarshal_only(mirk_handle *h, uint32_t ctx_id, void **out, void *buffe
 uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **out, void *buffer, uint32_t size,
                    mirk_message_handler handler, uint32_t *err) {
     ++calls.full;
-    *out = make(h, ctx_id, buffer, size);
-    *err = calls.record_error;
+    h->last_error = 0;
+    void *message = make(h, ctx_id, buffer, size);
+    if (out != nullptr) *out = message;
+    if (mirklib_msg_recorder_get_state() != 0) {
+        calls.recorded += *static_cast<char *>(message);
+        *err = calls.record_error;
+    }
     if (handler != nullptr) {
-        handler(h, ctx_id, dispatch_ctx, *out, err);
+        handler(h, ctx_id, dispatch_ctx, message, err);
     } else {
         ++calls.linked_in;
+        calls.linked_in_error = *err;
         if (calls.linked_in_takes) {
-            h->obj_free(h->mem_ctx, ctx_id, *out);
+            h->obj_free(h->mem_ctx, ctx_id, message);
         } else {
             *err = 38;
         }
@@ -58,6 +65,7 @@ uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **o
 
 void handle_message(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err) {
     ++calls.handled;
+    calls.handler_error_seen |= *err;
     calls.dispatch_ctx = dispatch_ctx;
     calls.values += *static_cast<char *>(message);
     EXPECT_STREQ(mirklib_in_dispatch_message_info(h, nullptr)->name, "plain");
@@ -225,6 +233,43 @@ TEST_F(Dispatch, FilesAMessageThatCouldNotBeRecorded) {
     EXPECT_EQ(dispatch(frame(start_luid, "") + frame(plain_luid, "a")), 0u);
     EXPECT_EQ(mirk_platform_received_count(h), 1u);
     EXPECT_TRUE(trace.has(3, "message plain was not recorded"));
+}
+
+TEST_F(Dispatch, DeliversTheSameWhetherOrNotAMessageCouldBeRecorded) {
+    const std::string frames = frame(plain_luid, "a") + frame(plain_luid, "b");
+    for (const bool recorded : {false, true}) {
+        mirk_platform_recorder_set(recorded, nullptr);
+        calls = {};
+        calls.record_error = EMSGSIZE;
+        h->last_error = ENOSPC;
+        EXPECT_EQ(dispatch(frames), 0u);
+        EXPECT_EQ(calls.values, "ab");
+        EXPECT_EQ(calls.recorded, recorded ? "ab" : "");
+        EXPECT_EQ(calls.handler_error_seen, 0u);
+        EXPECT_EQ(h->last_error, uint32_t{ENOSPC});
+        EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+        calls.handler_error = EIO;
+        EXPECT_EQ(dispatch(frames), uint32_t{EIO});
+        EXPECT_EQ(calls.values, "aba") << "an error of the handler still ends the dispatch";
+    }
+}
+
+TEST_F(Dispatch, TheLinkedInHandlerGetsTheSameWhetherOrNotAMessageCouldBeRecorded) {
+    plain.handler = nullptr;
+    ASSERT_EQ(mirk_platform_dispatch_register(h, &plain), 0u);
+    const std::string frames = frame(plain_luid, "a") + frame(plain_luid, "b");
+    for (const bool recorded : {false, true}) {
+        mirk_platform_recorder_set(recorded, nullptr);
+        calls = {};
+        calls.record_error = EMSGSIZE;
+        calls.linked_in_takes = true;
+        EXPECT_EQ(dispatch(frames), 0u);
+        EXPECT_EQ(calls.linked_in, 2);
+        EXPECT_EQ(calls.linked_in_error, 0u);
+        EXPECT_EQ(calls.recorded, recorded ? "ab" : "");
+        EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+        EXPECT_EQ(mirklib_msg_recorder_get_state(), recorded ? 1u : 0u);
+    }
 }
 
 TEST_F(Dispatch, RegistersWholeEntriesOnly) {
