@@ -32,6 +32,7 @@ constexpr Finding lint(const Record &record) {
     if (!is_name(record.name))
         return {record.name, {}, "a record's name is lower-case letters, digits and underscores"};
     if (record.name.size() > 63) return {record.name, {}, "a record's name has at most 63 characters"};
+    if (record.meaning.empty()) return {record.name, {}, "a record says in a phrase what it means"};
     if (record.members.empty()) return {record.name, {}, "a record has at least one member"};
     if (record.members.size() > most_members) return {record.name, {}, "a record has at most 64 members"};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
@@ -82,6 +83,7 @@ constexpr Finding lint(const Enumeration &enumeration) {
     if (!is_name(enumeration.name)) {
         return {enumeration.name, {}, "an enumeration's name is lower-case letters, digits and underscores"};
     }
+    if (enumeration.meaning.empty()) return {enumeration.name, {}, "an enumeration says in a phrase what it means"};
     if (enumeration.enumerators.empty()) return {enumeration.name, {}, "an enumeration has at least one enumerator"};
     for (std::size_t i = 0; i < enumeration.enumerators.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) {

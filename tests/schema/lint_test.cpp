@@ -65,6 +65,15 @@ TEST(Lint, NamesOfRecords) {
     EXPECT_FINDING(lint_of({schema::u8("a", "x")}, too_long), "", "a record's name has at most 63 characters");
 }
 
+TEST(Lint, MeaningsOfRecordsAndEnumerations) {
+    const schema::Finding record = lint(schema::Record{"r", some_luid, "", plain_members});
+    EXPECT_EQ(record.sentence, "a record says in a phrase what it means");
+    EXPECT_EQ(record.record, "r");
+    const schema::Finding enumeration = lint(schema::Enumeration{"e", some_luid, "", one_name});
+    EXPECT_EQ(enumeration.sentence, "an enumeration says in a phrase what it means");
+    EXPECT_EQ(enumeration.record, "e");
+}
+
 TEST(Lint, NumberOfMembers) {
     EXPECT_FINDING(lint_of({}), "", "a record has at least one member");
     std::vector<std::string> names;
