@@ -5,17 +5,22 @@
 #include "core/named_text.h"
 #include "families/lifecycle.h"
 #include "messaging/identity.h"
+#include "schema/frame.h"
 
 namespace tarn {
 
 using schema::Message;
 
-inline constexpr std::uint32_t header_bytes = 27;
-inline constexpr std::uint32_t luid_bytes = 16;
-inline constexpr std::uint32_t frame_head = header_bytes + luid_bytes;
+inline constexpr std::uint32_t header_bytes = schema::message_header_size;
+inline constexpr std::uint32_t luid_bytes = schema::luid_size;
+inline constexpr std::uint32_t frame_head = schema::message_head_size;
 
-// What every header begins with: the marker, six bytes of 0xFF, the rest 0.
-constexpr mirk_message_header new_header() { return {0xBC, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 0, 0, 0}; }
+// What every header begins with; the rest is 0.
+constexpr mirk_message_header new_header() {
+    mirk_message_header header{schema::frame_marker, {}, 0, 0, 0};
+    for (std::uint8_t &byte : header.fill) byte = schema::frame_fill;
+    return header;
+}
 
 template <const Message &M>
 struct MessageObject {

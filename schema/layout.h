@@ -11,12 +11,7 @@
 namespace tarn::schema {
 
 inline constexpr std::uint32_t header_size = 11;
-inline constexpr std::uint32_t boolean_size = 16;
-inline constexpr std::uint32_t enumeration_size = 16;
 inline constexpr std::uint32_t enumeration_value_offset = 12;
-inline constexpr std::uint32_t address_size = 40;
-inline constexpr std::uint32_t address_area = 7;
-inline constexpr std::uint32_t pointer_size = 8;
 inline constexpr std::size_t most_members = 64;
 
 struct Place {
@@ -41,28 +36,7 @@ constexpr std::uint32_t round_up(std::uint32_t n, std::uint32_t to) { return (n 
 constexpr Layout lay_out(const Record &record);
 
 constexpr std::uint32_t storage_size(const Member &m) {
-    switch (m.kind) {
-        case Kind::u8:
-            return 1;
-        case Kind::u16:
-            return 2;
-        case Kind::u32:
-            return 4;
-        case Kind::u64:
-            return 8;
-        case Kind::boolean:
-            return boolean_size;
-        case Kind::enumeration:
-            return enumeration_size;
-        case Kind::address:
-            return address_size;
-        case Kind::record:
-            return lay_out(*m.record).base_size;
-        case Kind::string:
-        case Kind::array:
-            return pointer_size;
-    }
-    return 0;
+    return m.kind == Kind::record ? lay_out(*m.record).base_size : facts(m.kind).storage;
 }
 
 constexpr Layout lay_out(const Record &record) {
@@ -72,14 +46,11 @@ constexpr Layout lay_out(const Record &record) {
         const Member &m = record.members[i];
         Place &p = l.places[i];
         p.size = storage_size(m);
-        p.offset = round_up(l.used_length, is_integer(m.kind) ? p.size : 8);
+        p.offset = round_up(l.used_length, facts(m.kind).alignment);
         l.used_length = p.offset + p.size;
         if (!is_tracked(m)) continue;
         p.slot = l.state_width++;
-        if (m.kind == Kind::address) {
-            p.inner = l.state_width;
-            l.state_width += address_area;
-        } else if (m.kind == Kind::record) {
+        if (m.kind == Kind::record) {
             const Layout nested = lay_out(*m.record);
             p.inner = round_up(l.state_width, nested.has_vector_pointer ? 8 : 1);
             l.state_width = p.inner + nested.state_width;
@@ -88,6 +59,9 @@ constexpr Layout lay_out(const Record &record) {
             p.inner = round_up(l.state_width, 8);
             l.state_width = p.inner + pointer_size;
             l.has_vector_pointer = true;
+        } else if (has_area(m)) {
+            p.inner = l.state_width;
+            l.state_width += facts(m.kind).own_states;
         }
     }
     if (l.has_vector_pointer) l.state_width = round_up(l.state_width, 8);

@@ -3,14 +3,11 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <cstdint>
 #include <span>
-#include <string_view>
+
+#include "schema/kind_facts.h"
 
 namespace tarn::schema {
-
-enum class Kind : std::uint8_t { u8, u16, u32, u64, boolean, address, enumeration, record, string, array };
 
 // An integer is a value of its own, or it counts the array or the string that stands right behind it.
 enum class Role : std::uint8_t { value, count, length };
@@ -99,22 +96,16 @@ consteval Member length(std::string_view name, std::string_view meaning) {
 }
 consteval Member string(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::string}; }
 
-constexpr bool is_integer(Kind kind) { return kind <= Kind::u64; }
-
 // Has the six accessors, with a value that fits in a register.
-constexpr bool is_scalar(const Member &m) {
-    return m.role == Role::value && (is_integer(m.kind) || m.kind == Kind::boolean || m.kind == Kind::enumeration);
-}
+constexpr bool is_scalar(const Member &m) { return m.role == Role::value && !facts(m.kind).value_type.empty(); }
 
 // Embedded with a state area of its own.
-constexpr bool has_area(const Member &m) { return m.kind == Kind::record || m.kind == Kind::address; }
-
-// Embedded with a header of its own, to be initialised with its owner.
-constexpr bool is_embedded(const Member &m) {
-    return has_area(m) || m.kind == Kind::boolean || m.kind == Kind::enumeration;
-}
+constexpr bool has_area(const Member &m) { return m.kind == Kind::record || facts(m.kind).own_states != 0; }
 
 constexpr bool owns_block(const Member &m) { return m.kind == Kind::array || m.kind == Kind::string; }
+
+// Embedded with a header of its own, to be initialized with its owner.
+constexpr bool is_embedded(const Member &m) { return !is_integer(m.kind) && !owns_block(m); }
 
 // Has a state byte; counts and lengths have none.
 constexpr bool is_tracked(const Member &m) { return m.role == Role::value; }

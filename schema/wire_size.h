@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "schema/model.h"
+#include "schema/frame.h"
 
 namespace tarn::schema {
 
@@ -12,34 +12,15 @@ struct WireSize {
     bool open = false;  // elements or characters come on top
 };
 
-// The greatest value of an integer.
-constexpr std::uint64_t greatest(Kind kind) {
-    const auto bits = 8U << static_cast<unsigned>(kind);
-    return bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
-}
-
 constexpr WireSize wire_size(const Record &record);
 
 constexpr WireSize wire_size(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
-            return {2};
-        case Kind::enumeration:
-            return {5};
-        case Kind::address:
-            return {26};
-        case Kind::record:
-            return wire_size(*m.record);
-        case Kind::string:
-        case Kind::array:
-            return {0, true};
-        default:
-            return {1U << static_cast<unsigned>(m.kind)};
-    }
+    if (m.kind == Kind::record) return wire_size(*m.record);
+    return {facts(m.kind).wire, owns_block(m)};
 }
 
 constexpr WireSize wire_size(const Record &record) {
-    WireSize sum{6};  // variant, flag, jump
+    WireSize sum{record_head_size};
     for (const Member &m : record.members) {
         const WireSize one = wire_size(m);
         sum.least += one.least;
@@ -47,6 +28,7 @@ constexpr WireSize wire_size(const Record &record) {
     }
     return sum;
 }
+static_assert(wire_size(address_record).least == facts(Kind::address).wire);
 
 // "14", or "14+" if that is the least.
 template <class Type>

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "contract.hpp"
+#include "frames.hpp"
 
 namespace mirk {
 
@@ -38,7 +38,7 @@ public:
         mirk_platform_frame seen;
         const mirk_platform_error error = mirk_platform_frame_look(bytes_.data() + begin_, end_ - begin_, &seen);
         // A wrong first byte is bad however little has come.
-        if (error == 90) return end_ != begin_ && bytes_[begin_] != 0xbc ? Cut::bad : Cut::more_needed;
+        if (error == 90) return end_ != begin_ && bytes_[begin_] != frame_marker ? Cut::bad : Cut::more_needed;
         if (error != 0) return Cut::bad;
         const uint32_t length = seen.header.total_length;
         if (length > limit_) return Cut::too_long;

@@ -1,3 +1,4 @@
+#include "schema/frame.h"
 #include "pictures.h"
 #include "schema/catalogue.h"
 #include "strip.h"
@@ -13,26 +14,32 @@ constexpr const Message &shown = lumo_tarn_dp_debug_setting_msg;
 
 constexpr double left = 12, limit = 1000;
 
-std::string size_of(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
-            return "2";
-        case Kind::enumeration:
-            return "5";
-        case Kind::address:
-        case Kind::record:
+std::string hexadecimal(std::uint8_t byte) { return {"0123456789abcdef"[byte >> 4], "0123456789abcdef"[byte & 15]}; }
+
+std::string size_of_member(const Member &m) {
+    switch (category(m.kind)) {
+        case Category::integer:
+        case Category::boolean:
+        case Category::enumeration:
+            break;
+        case Category::address:
+        case Category::record:
             return "a record";
-        case Kind::string:
+        case Category::string:
             return "its length";
-        case Kind::array:
+        case Category::array:
             return "its elements";
-        default:
-            return bytes(storage_size(m));
     }
+    return bytes(facts(m.kind).wire);
 }
 
 std::vector<Box> record_boxes(const Record &record) {
-    std::vector<Box> boxes{{"variant", "1", "framing"}, {"flag", "1", "framing"}, {"jump", "4", "framing"}};
+    std::vector<Box> boxes;
+    for (const Part &part : record_frame) {
+        if (part.flag == 0 && part.size != varies) {
+            boxes.push_back({std::string(part.name), bytes(part.size), "framing"});
+        }
+    }
     for (const Member &m : record.members) {
         const std::string name(m.name);
         if (m.kind == Kind::array) {
@@ -43,8 +50,22 @@ std::vector<Box> record_boxes(const Record &record) {
             boxes.push_back({"one for each", "n", "state"});
             continue;
         }
-        boxes.push_back({name, size_of(m), is_tracked(m) ? "value" : "framing"});
+        boxes.push_back({name, size_of_member(m), is_tracked(m) ? "value" : "framing"});
         if (is_tracked(m)) boxes.push_back({"s", "1", "state"});
+    }
+    return boxes;
+}
+
+std::vector<Box> message_boxes() {
+    std::vector<Box> boxes;
+    for (const Part &part : message_frame) {
+        Box box{std::string(part.name), bytes(part.size), "head"};
+        if (part.content == Content::constant && part.size == 1) box.label += " " + hexadecimal(part.value);
+        if (part.content == Content::identity) box.label += " " + std::string(shown.luid.text.data(), 8) + "...";
+        if (part.content == Content::record) {
+            box = {box.label + " " + std::string(shown.payload.name), std::string(part.meaning), "value"};
+        }
+        boxes.push_back(box);
     }
     return boxes;
 }
@@ -67,15 +88,7 @@ std::string frame() {
         y += 30 + draw_strip(svg, left, y + 30, limit, boxes) + 22;
     };
     strip("A frame of " + std::string(shown.name),
-          "Sizes are in bytes, numbers are big-endian. total_length counts all of it.",
-          {{"marker bc", "1", "head"},
-           {"fill", "6", "head"},
-           {"sttr", "1", "head"},
-           {"stamp", "4", "head"},
-           {"total_length", "4", "head"},
-           {"zero", "11", "head"},
-           {"luid " + std::string(shown.luid.text.data()).substr(0, 8) + "...", "16", "head"},
-           {"payload " + std::string(shown.payload.name), "a record", "value"}});
+          "Sizes are in bytes, numbers are big-endian. total_length counts all of it.", message_boxes());
     strip("Its payload, the record " + std::string(shown.payload.name),
           "jump counts from its own first byte to the end of the record: a reader steps over what it does not know.",
           record_boxes(shown.payload));

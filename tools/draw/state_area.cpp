@@ -59,7 +59,7 @@ void draw_area(Svg &svg, double y, const Layout &layout) {
         const char *kind = kinds[i % kinds.size()];
         const std::string name(m.name);
         run(place.slot, 1, kind, "the byte of " + name, 1);
-        if (m.kind == Kind::address) run(place.inner, address_area, kind, "the parts of " + name, 0);
+        if (m.kind == Kind::address) run(place.inner, facts(m.kind).own_states, kind, "the parts of " + name, 0);
         if (m.kind == Kind::record) run(place.inner, lay_out(*m.record).state_width, kind, "the members of " + name, 0);
         if (m.kind == Kind::array) run(place.inner, pointer_size, kind, "pointer to a vector, one byte an element", 0);
     }

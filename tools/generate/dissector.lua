@@ -11,13 +11,6 @@ local function declare(name, field)
 end
 
 local f = {
-    marker = declare("marker", ProtoField.uint8("tarn.marker", "marker", base.HEX)),
-    fill = declare("fill", ProtoField.bytes("tarn.fill", "fill")),
-    sttr = declare("sttr", ProtoField.uint8("tarn.sttr", "sttr", base.DEC, nil, nil, "1: with per-field state")),
-    stamp = declare("stamp", ProtoField.uint32("tarn.stamp", "stamp")),
-    total_length = declare("total_length", ProtoField.uint32("tarn.total_length", "total_length")),
-    zero = declare("zero", ProtoField.bytes("tarn.zero", "zero")),
-    luid = declare("luid", ProtoField.bytes("tarn.luid", "luid")),
     message = declare("message", ProtoField.string("tarn.message", "message")),
     bundle = declare("bundle", ProtoField.string("tarn.bundle", "bundle")),
     control = declare("control", ProtoField.string("tarn.control", "control")),
@@ -30,34 +23,36 @@ local f = {
     sentence = declare("sentence", ProtoField.string("tarn.sentence", "sentence")),
     payload = declare("payload", ProtoField.none("tarn.payload", "payload")),
     element = declare("element", ProtoField.none("tarn.element", "element")),
-    variant = declare("variant", ProtoField.int8("tarn.variant", "variant")),
-    flag = declare("flag", ProtoField.uint8("tarn.flag", "flag", base.HEX)),
-    flag_tracked = declare("flag_tracked", ProtoField.bool("tarn.flag.tracked", "with per-field state", 8, nil, 8)),
-    flag_ra = declare("flag_ra", ProtoField.bool("tarn.flag.ra_data", "RA data follows", 8, nil, 32)),
-    ra_value = declare("ra_value", ProtoField.uint64("tarn.ra_value", "ra_value", base.HEX)),
-    ra_byte = declare("ra_byte", ProtoField.uint8("tarn.ra_byte", "ra_byte", base.HEX)),
-    jump = declare("jump", ProtoField.uint32("tarn.jump", "jump", base.DEC, nil, nil, "to the end of the record")),
+    flag_tracked = declare("flag_tracked",
+        ProtoField.bool("tarn.flag.tracked", "with per-field state", 8, nil, flags.tracked)),
+    flag_ra = declare("flag_ra", ProtoField.bool("tarn.flag.ra_data", "RA data follows", 8, nil, flags.ra_data)),
     skipped = declare("skipped", ProtoField.bytes("tarn.skipped", "members of a newer form")),
 }
+
+local function integer_field(prefix, size) return ProtoField[prefix .. 8 * size] end
+
+local function field_of_part(part)
+    local filter = "tarn." .. part.name
+    if part.content == "identity" or part.content == "constant" and part.size > 1 then
+        return ProtoField.bytes(filter, part.name, base.NONE, part.meaning)
+    end
+    local decimal = part.content == "number" or part.content == "signed"
+    return integer_field(part.content == "signed" and "int" or "uint", part.size)(
+        filter, part.name, decimal and base.DEC or base.HEX, nil, nil, part.meaning)
+end
+
+for _, parts in ipairs({ message_parts, record_parts }) do
+    for _, part in ipairs(parts) do f[part.name] = declare(part.name, field_of_part(part)) end
+end
 
 local broken = ProtoExpert.new("tarn.broken", "The frame is broken", expert.group.MALFORMED, expert.severity.ERROR)
 local cut = ProtoExpert.new("tarn.no_frame", "Bytes that are no frame", expert.group.MALFORMED, expert.severity.ERROR)
 tarn.experts = { broken, cut }
 
--- An address travels as a record of seven integers.
-local address_members = {
-    { "af", "u8" }, { "prefix_len", "u8" }, { "scope", "u16" },
-    { "word[0]", "u32", filter = "word0" }, { "word[1]", "u32", filter = "word1" },
-    { "word[2]", "u32", filter = "word2" }, { "word[3]", "u32", filter = "word3" },
-}
-records.ip_address = address_members
-
-local sizes = { u8 = 1, u16 = 2, u32 = 4, u64 = 8 }
-local integers = { u8 = ProtoField.uint8, u16 = ProtoField.uint16, u32 = ProtoField.uint32, u64 = ProtoField.uint64 }
-
 local function field_of(filter, member)
     local name, kind, meaning = member[1], member[2], member[3]
-    if integers[kind] then return integers[kind](filter, name, base.DEC, nil, nil, meaning) end
+    local size = integer_sizes[kind]
+    if size then return integer_field("uint", size)(filter, name, base.DEC, nil, nil, meaning) end
     if kind == "boolean" then return ProtoField.bool(filter, name, base.NONE, nil, nil, meaning) end
     if kind == "enumeration" then
         return ProtoField.uint32(filter, name, base.DEC, enumerations[member.of], nil, meaning)
@@ -68,7 +63,7 @@ end
 
 for record, members in pairs(records) do
     for _, member in ipairs(members) do
-        local filter = "tarn." .. record .. "." .. (member.filter or member[1])
+        local filter = "tarn." .. record .. "." .. member[1]:gsub("[%[%]]", "")
         member.field = declare(filter, field_of(filter, member))
         if not member.counts then
             member.state = declare(filter .. ".state", ProtoField.uint8(filter .. ".state", "state of " .. member[1]))
@@ -179,21 +174,23 @@ end
 function reader:close(item, from) item:set_len(self.at - from) end
 
 function reader:record(tree, record, path)
-    local _, range = self:take(tree, f.variant, 1, path .. ".variant")
-    local variant = range:int()
-    local item
-    item, range = self:take(tree, f.flag, 1, path .. ".flag")
-    item:add(f.flag_tracked, range)
-    item:add(f.flag_ra, range)
-    local flag = range:uint()
-    local tracked = bit32.band(flag, 8) ~= 0
-    if bit32.band(flag, 32) ~= 0 then
-        self:take(tree, f.ra_value, 8, path .. ".ra_value")
-        self:take(tree, f.ra_byte, 1, path .. ".ra_byte")
+    local head, jump_at = {}, nil
+    for _, part in ipairs(record_parts) do
+        if not part.flag or bit32.band(head.flag, part.flag) ~= 0 then
+            if part.name == "jump" then jump_at = self.at end
+            local item, range = self:take(tree, f[part.name], part.size, path .. "." .. part.name)
+            if part.content == "signed" then
+                head[part.name] = range:int()
+            elseif part.content ~= "opaque" then
+                head[part.name] = range:uint()
+            end
+            if part.content == "flags" then
+                item:add(f.flag_tracked, range)
+                item:add(f.flag_ra, range)
+            end
+        end
     end
-    local jump_at = self.at
-    item, range = self:take(tree, f.jump, 4, path .. ".jump")
-    local jump = range:uint()
+    local variant, jump, tracked = head.variant, head.jump, bit32.band(head.flag, flags.tracked) ~= 0
     local values = {}
     if variant >= 0 then
         local count = 0
@@ -221,8 +218,8 @@ end
 function reader:member(tree, member, count, path, tracked)
     local name, kind = member[1], member[2]
     local value, range, item
-    if sizes[kind] then
-        item, range = self:take(tree, member.field, sizes[kind], path)
+    if integer_sizes[kind] then
+        item, range = self:take(tree, member.field, integer_sizes[kind], path)
         if kind ~= "u64" then value = range:uint() end
         if member.counts then return value end
     elseif kind == "boolean" then
@@ -275,15 +272,14 @@ function reader:array(tree, member, count, path, tracked)
     if left < count then self:require(1, string.format("%s[%d].state", path, left)) end
 end
 
+-- Up to the identity, which is not a part of the header: its bytes are returned.
 function reader:header(tree)
-    local _, range = self:take(tree, f.marker, 1, "header.marker")
-    self:take(tree, f.fill, 6, "header.fill")
-    self:take(tree, f.sttr, 1, "header.sttr")
-    self:take(tree, f.stamp, 4, "header.stamp")
-    self:take(tree, f.total_length, 4, "header.total_length")
-    local item
-    item, range = self:take(tree, f.zero, 11, "header.zero")
-    if range:bytes():tohex():find("[^0]") then item:append_text(" (not all zero)") end
+    for _, part in ipairs(message_parts) do
+        local is_identity = part.content == "identity"
+        local item, range = self:take(tree, f[part.name], part.size, (is_identity and "" or "header.") .. part.name)
+        if is_identity then return range end
+        if part.value == 0 and range:bytes():tohex():find("[^0]") then item:append_text(" (not all zero)") end
+    end
 end
 
 function reader:request(tree)
@@ -300,8 +296,7 @@ end
 
 -- What the frame is, for people.
 function reader:frame(tree, length)
-    self:header(tree)
-    local item, range = self:take(tree, f.luid, 16, "luid")
+    local range = self:header(tree)
     local luid = range:bytes():tohex(true)
     local message, control = messages[luid], controls[luid]
     self.title = "unknown message"
@@ -319,7 +314,7 @@ function reader:frame(tree, length)
         self.title = "request"
         self.title = self:request(tree)
     else
-        self:stop(self.at - 16, "luid", "no message is known by this luid")
+        self:stop(self.base + frame.luid_at, "luid", "no message is known by this luid")
     end
     if self.base + length > self.stop_at then
         self:stop(self.at, "", string.format("cut short: the total length is %.0f, and %d bytes are there", length,
@@ -368,14 +363,14 @@ local function dissect(tvb, pinfo, tree)
         local left = tvb:captured_len() - at
         if left < 1 then break end
         if tvb(at, 1):uint() ~= frame.marker then return no_frame(tvb, at, pinfo, tree, "the marker is missing") end
-        if left < 16 then
+        if left < frame.length_at + 4 then
             if pinfo.can_desegment > 0 then
                 more(pinfo, at, DESEGMENT_ONE_MORE_SEGMENT)
                 break
             end
             return no_frame(tvb, at, pinfo, tree, "cut short within the header")
         end
-        local length = tvb(at + 12, 4):uint()
+        local length = tvb(at + frame.length_at, 4):uint()
         if length < frame.least or length > frame.most then
             return no_frame(tvb, at, pinfo, tree, string.format("a frame cannot have the total length %.0f", length))
         end
@@ -398,7 +393,7 @@ function tarn.dissector(tvb, pinfo, tree) return dissect(tvb, pinfo, tree) end
 -- Calls dissect itself: a call through the protocol would no longer be allowed to ask for more of the stream.
 local function looks_like_a_frame(tvb, pinfo, tree)
     if tvb:captured_len() < frame.least or tvb(0, 1):uint() ~= frame.marker then return false end
-    local luid = tvb(frame.least - 16, 16):bytes():tohex(true)
+    local luid = tvb(frame.luid_at, frame.least - frame.luid_at):bytes():tohex(true)
     if not (messages[luid] or controls[luid] or luid == request.luid) then return false end
     pinfo.conversation = tarn
     dissect(tvb, pinfo, tree)

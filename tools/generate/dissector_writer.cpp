@@ -1,6 +1,10 @@
 // The dissector for network captures: the schema as tables, in front of code that reads frames by them.
 #include "dissector.h"
+
+#include <cstdlib>
+
 #include "mirk_platform.h"
+#include "schema/frame.h"
 #include "surface.h"
 #include "writers.h"
 
@@ -20,24 +24,73 @@ std::string quoted(std::string_view text) {
 }
 
 std::string line_of(const Member &m) {
-    constexpr const char *kinds[] = {"u8",      "u16",         "u32",    "u64",    "boolean",
-                                     "address", "enumeration", "record", "string", "array"};
-    std::string line = "        { " + quoted(m.name) + ", " + quoted(kinds[static_cast<std::size_t>(m.kind)]) + ", " +
-                       quoted(m.meaning);
+    std::string line = "        { " + quoted(m.name) + ", " + quoted(facts(m.kind).name);
+    if (!m.meaning.empty()) line += ", " + quoted(m.meaning);
     if (m.record != nullptr) line += ", of = " + quoted(m.record->name);
     if (m.enumeration != nullptr) line += ", of = " + quoted(m.enumeration->name);
     if (m.role != Role::value) line += ", counts = true";
     return line + " },\n";
 }
 
+std::string table_of(const Record &record) {
+    std::string text = "    " + std::string(record.name) + " = {\n";
+    for (const Member &m : record.members) text += line_of(m);
+    return text + "    },\n";
+}
+
 std::string record_tables() {
     std::string text = "local records = {\n";
-    for (const Record *r : records) {
-        text += "    " + std::string(r->name) + " = {\n";
-        for (const Member &m : r->members) text += line_of(m);
-        text += "    },\n";
+    for (const Record *r : records) text += table_of(*r);
+    text += table_of(address_record) + "}\n\nlocal integer_sizes = { ";
+    for (const KindFacts &kind : kind_facts) {
+        if (kind.category == Category::integer)
+            text += std::string(kind.name) + " = " + std::to_string(kind.wire) + ", ";
     }
     return text + "}\n\n";
+}
+
+std::string_view word(Content content) {
+    switch (content) {
+        case Content::constant:
+            return "constant";
+        case Content::number:
+            return "number";
+        case Content::signed_number:
+            return "signed";
+        case Content::flags:
+            return "flags";
+        case Content::opaque:
+            return "opaque";
+        case Content::identity:
+            return "identity";
+        case Content::parts:
+        case Content::record:
+        case Content::members:
+            break;
+    }
+    std::abort();  // of no fixed size, or taken apart
+}
+
+// The parts of fixed size; a part that consists of others is replaced by them, each under its condition.
+std::string tables_of_parts(std::span<const Part> frame, std::uint8_t flag = 0) {
+    std::string text;
+    for (const Part &part : frame) {
+        const std::uint8_t its_flag = part.flag != 0 ? part.flag : flag;
+        if (part.content == Content::parts) text += tables_of_parts(part.parts, its_flag);
+        if (part.content == Content::parts || part.size == varies) continue;
+        text += "    { name = " + quoted(part.name) + ", size = " + std::to_string(part.size) +
+                ", content = " + quoted(word(part.content)) + ", meaning = " + quoted(part.meaning);
+        if (part.content == Content::constant) text += ", value = " + std::to_string(part.value);
+        if (its_flag != 0) text += ", flag = " + std::to_string(its_flag);
+        text += " },\n";
+    }
+    return text;
+}
+
+std::string frame_tables() {
+    return "local message_parts = {\n" + tables_of_parts(message_frame) + "}\n\nlocal record_parts = {\n" +
+           tables_of_parts(record_frame) + "}\n\nlocal flags = { tracked = " + std::to_string(wire_flag::tracked) +
+           ", ra_data = " + std::to_string(wire_flag::ra_data) + " }\n\n";
 }
 
 std::string enumeration_tables() {
@@ -77,7 +130,9 @@ std::string transport_tables() {
     }
     return "local request = { luid = " + quoted(luid) + ", tracked = " + std::to_string(MIRK_PLATFORM_REQUEST_TRACKED) +
            ", refused = " + std::to_string(MIRK_PLATFORM_REQUEST_REFUSED) + " }\n" +
-           "local frame = { marker = 0xbc, least = " + std::to_string(MIRK_PLATFORM_FRAME_SIZE) +
+           "local frame = { marker = " + std::to_string(frame_marker) +
+           ", least = " + std::to_string(message_head_size) + ", luid_at = " + std::to_string(message_header_size) +
+           ", length_at = " + std::to_string(offset_of(message_frame, "total_length")) +
            ", most = 16777216, port = " + std::to_string(MIRK_PLATFORM_TCP_PORT) + " }\n";
 }
 
@@ -86,7 +141,8 @@ std::string transport_tables() {
 Files write_dissector() {
     return {
         {"tarn.lua", "-- Wireshark reads tarn frames with this file. Generated from the schema; not to be edited.\n\n" +
-                         record_tables() + enumeration_tables() + message_tables() + transport_tables() + dissector}};
+                         record_tables() + frame_tables() + enumeration_tables() + message_tables() +
+                         transport_tables() + dissector}};
 }
 
 }  // namespace tarn::generate

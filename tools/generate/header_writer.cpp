@@ -96,22 +96,21 @@ std::string data_of(const Subject &subject) {
 }
 
 std::string type_of(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
-            return "boolean";
-        case Kind::address:
-            return "address";
-        case Kind::enumeration:
-            return std::string(m.enumeration->name);
-        case Kind::record:
-            return std::string(m.record->name);
-        case Kind::string:
-            return "string";
-        case Kind::array:
-            return std::string(m.record->name) + "[]";
-        default:
+    switch (category(m.kind)) {
+        case Category::integer:
             return value_type(m) + (m.role == Role::count ? " count" : m.role == Role::length ? " length" : "");
+        case Category::enumeration:
+            return std::string(m.enumeration->name);
+        case Category::record:
+            return std::string(m.record->name);
+        case Category::array:
+            return std::string(m.record->name) + "[]";
+        case Category::boolean:
+        case Category::address:
+        case Category::string:
+            break;
     }
+    return std::string(facts(m.kind).name);
 }
 
 // Name, kind and meaning of each member in aligned columns.

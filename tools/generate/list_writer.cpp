@@ -12,9 +12,7 @@ namespace {
 std::string_view kind_name(const Member &m) {
     if (m.role == Role::count) return "count";
     if (m.role == Role::length) return "length";
-    constexpr std::string_view names[] = {"u8",      "u16",         "u32",    "u64",    "boolean",
-                                          "address", "enumeration", "record", "string", "array"};
-    return names[static_cast<std::size_t>(m.kind)];
+    return facts(m.kind).name;
 }
 
 std::string exported_names() {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "names.h"
+#include "schema/frame.h"
 #include "schema/wire_size.h"
 #include "surface.h"
 #include "writers.h"
@@ -187,25 +188,52 @@ Nothing is rolled back, and an object can be destroyed after any failure.
 }
 
 std::string kind_words(const Member &m) {
-    constexpr const char *integers[] = {"u8", "u16", "u32", "u64"};
-    switch (m.kind) {
-        case Kind::boolean:
-            return "boolean";
-        case Kind::address:
-            return "address";
-        case Kind::enumeration:
+    switch (category(m.kind)) {
+        case Category::integer:
+            return std::string(facts(m.kind).name) + (m.role == Role::count    ? " count"
+                                                      : m.role == Role::length ? " length"
+                                                                               : "");
+        case Category::enumeration:
             return std::string(m.enumeration->name);
-        case Kind::record:
+        case Category::record:
             return std::string(m.record->name);
-        case Kind::string:
+        case Category::string:
             return "characters";
-        case Kind::array:
+        case Category::array:
             return std::string(m.record->name) + " ...";
-        default:
-            return std::string(integers[static_cast<std::size_t>(m.kind)]) + (m.role == Role::count    ? " count"
-                                                                              : m.role == Role::length ? " length"
-                                                                                                       : "");
+        case Category::boolean:
+        case Category::address:
+            break;
     }
+    return std::string(facts(m.kind).name);
+}
+
+// A row of a table; cells of more than one word are quoted.
+std::string row(std::initializer_list<std::string_view> cells) {
+    std::string out;
+    for (const std::string_view cell : cells) {
+        const bool plain = !cell.empty() && cell.find(' ') == std::string_view::npos;
+        out += (out.empty() ? ".It " : " Ta ") + (plain ? std::string(cell) : "\"" + std::string(cell) + "\"");
+    }
+    return out + "\n";
+}
+
+std::string rows_of_parts(std::span<const Part> frame) {
+    std::string out = ".It Sy bytes Ta Sy field Ta Sy content\n";
+    for (const Part &part : frame) {
+        const std::string size = part.size == varies ? "" : std::to_string(part.size);
+        const std::string more = part.content == Content::identity ? "; see below" : "";
+        out += row({part.flag != 0 ? "0 or " + size : size, part.title, std::string(part.meaning) + more});
+    }
+    return out + ".El\n";
+}
+
+std::string kinds() {
+    std::string out = ".It Sy kind Ta Sy bytes Ta Sy content\n";
+    for (const KindFacts &kind : kind_facts) {
+        out += row({kind.name, kind.wire == varies ? "" : std::to_string(kind.wire), kind.in_frame});
+    }
+    return out + ".El\n";
 }
 
 std::string frame_page() {
@@ -220,47 +248,21 @@ A file or a stream of frames holds one frame behind the other.
 Numbers have their most significant byte first.
 .Ss Message
 A frame is a header, an identity, and the payload of a plain message.
-A control message has no payload, so that its frame is 43 bytes long.
+A control message has no payload, so that its frame is )mdoc" +
+                      std::to_string(message_head_size) + R"mdoc( bytes long.
 .Bl -column "bytes" "total length" "what"
-.It Sy bytes Ta Sy field Ta Sy content
-.It 1 Ta marker Ta 0xBC
-.It 6 Ta fill Ta 0xFF
-.It 1 Ta sttr Ta "1 if the sender tracks state, else 0"
-.It 4 Ta stamp Ta "the sender's choice"
-.It 4 Ta "total length" Ta "bytes of the frame, from the marker to its end"
-.It 11 Ta zero Ta 0
-.It 16 Ta identity Ta "which message it is; see below"
-.It "" Ta payload Ta "a record"
-.El
-.Pp
+)mdoc" + rows_of_parts(message_frame) +
+                      R"mdoc(.Pp
 A bundle is the frame of its start, frames of the message that it admits, and the frame of its commit or its abort.
 .Ss Record
 .Bl -column "bytes" "variant" "what"
-.It Sy bytes Ta Sy field Ta Sy content
-.It 1 Ta variant Ta "0; negative: no body follows"
-.It 1 Ta flag Ta "8: state bytes are in between; 32: RA data follows; 40: both"
-.It "0 or 9" Ta "RA data" Ta "a value of eight bytes and one byte, opaque"
-.It 4 Ta jump Ta "bytes from its own start to the end of the record"
-.It "" Ta body Ta "the members in table order"
-.El
-.Pp
+)mdoc" + rows_of_parts(record_frame) +
+                      R"mdoc(.Pp
 A newer sender may have more members behind those that a reader knows: the jump leads past them.
 With state, each member but a count or a length is followed by its state byte.
 .Ss Members
 .Bl -column "enumeration" "bytes" "what"
-.It Sy kind Ta Sy bytes Ta Sy content
-.It u8 Ta 1 Ta "a number"
-.It u16 Ta 2 Ta "a number"
-.It u32 Ta 4 Ta "a number"
-.It u64 Ta 8 Ta "a number"
-.It boolean Ta 2 Ta "variant, then 0 or 1"
-.It enumeration Ta 5 Ta "variant, then the value in four bytes"
-.It address Ta 26 Ta "a record of af, prefix_len (1 byte each), scope (2), four words (4 each)"
-.It record Ta "" Ta "its own frame, jump included"
-.It array Ta "" Ta "the records one behind the other, as many as the count in front says"
-.It string Ta "" Ta "characters, as many as the length in front says"
-.El
-.Pp
+)mdoc" + kinds() + R"mdoc(.Pp
 With state, an array that is not empty is followed by the state byte of the whole and then one byte for each element,
 and a string that is not empty by one state byte; an empty one has none.
 .Sh MESSAGES

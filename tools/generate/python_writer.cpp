@@ -50,9 +50,7 @@ std::string upper(std::string text) {
 }
 
 std::string kind_of(const Member &m) {
-    constexpr const char *kinds[] = {"u8",      "u16",         "u32",    "u64",    "boolean",
-                                     "address", "enumeration", "record", "string", "array"};
-    const std::string kind = kinds[static_cast<std::size_t>(m.kind)];
+    const std::string kind(facts(m.kind).name);
     return m.role == Role::count ? "count " + kind : m.role == Role::length ? "length " + kind : kind;
 }
 
@@ -96,6 +94,11 @@ std::string tables() {
     }
     text += "}\n\n# the message that each admits\nBUNDLES = {\n";
     for (const Bundle *b : bundles) text += "    " + in_quotes(b->name) + ": " + in_quotes(b->message.name) + ",\n";
+    text += "}\n\n# the greatest value of each kind of integer\nGREATEST = {\n";
+    for (const KindFacts &kind : kind_facts) {
+        if (kind.greatest == 0) continue;
+        text += "    " + in_quotes(kind.name) + ": " + std::to_string(kind.greatest) + ",\n";
+    }
     return text + "}\n";
 }
 

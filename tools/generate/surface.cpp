@@ -1,5 +1,7 @@
 #include "surface.h"
 
+#include <cstdlib>
+
 namespace tarn::generate {
 
 using namespace schema;
@@ -10,11 +12,6 @@ void replace_all(std::string &text, std::string_view what, std::string_view by) 
     for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
         text.replace(at, what.size(), by);
     }
-}
-
-std::string integer_type(Kind kind) {
-    constexpr const char *names[] = {"uint8_t", "uint16_t", "uint32_t", "uint64_t"};
-    return names[static_cast<std::size_t>(kind)];
 }
 
 std::string listed_values(const Record &record, bool out) {
@@ -129,36 +126,31 @@ Export expand(const Operation &operation, const Subject &subject) {
 Applies class_of(const Member &m) {
     if (m.role == Role::count) return Applies::count;
     if (m.role == Role::length) return Applies::length;
-    switch (m.kind) {
-        case Kind::boolean:
-            return Applies::boolean;
-        case Kind::address:
-            return Applies::address;
-        case Kind::enumeration:
-            return Applies::choice;
-        case Kind::record:
-            return Applies::nested;
-        case Kind::string:
-            return Applies::string;
-        case Kind::array:
-            return Applies::array;
-        default:
+    switch (category(m.kind)) {
+        case Category::integer:
             return Applies::integer;
+        case Category::boolean:
+            return Applies::boolean;
+        case Category::address:
+            return Applies::address;
+        case Category::enumeration:
+            return Applies::choice;
+        case Category::record:
+            return Applies::nested;
+        case Category::string:
+            return Applies::string;
+        case Category::array:
+            return Applies::array;
     }
+    std::abort();
 }
 
-std::string value_type(const Member &m) {
-    if (m.kind == Kind::boolean) return "uint8_t";
-    if (m.kind == Kind::enumeration) return "uint32_t";
-    return integer_type(m.kind);
-}
+std::string value_type(const Member &m) { return std::string(facts(m.kind).value_type); }
 
 std::string memory_type(const Member &m) {
-    if (m.kind == Kind::boolean) return "mirk_boolean";
-    if (m.kind == Kind::address) return "ip_address";
     if (m.enumeration != nullptr) return std::string(m.enumeration->name);
     if (m.record != nullptr) return std::string(m.record->name);
-    return integer_type(m.kind);
+    return is_integer(m.kind) ? value_type(m) : std::string(facts(m.kind).primitive);
 }
 
 std::string fill(std::string_view pattern, const Subject &s) {
@@ -175,7 +167,7 @@ std::string fill(std::string_view pattern, const Subject &s) {
             put("{f}", m.name);
             put("{meaning}", m.meaning);
             if (m.kind != Kind::string && m.kind != Kind::array) put("{A}", memory_type(m));
-            if (is_integer(m.kind) || m.kind == Kind::boolean || m.kind == Kind::enumeration) put("{V}", value_type(m));
+            put("{V}", value_type(m));
             if (m.record != nullptr) put("{n}", m.record->name);
             if (m.enumeration != nullptr) put("{n}", m.enumeration->name);
         }

@@ -291,7 +291,7 @@ class Array(Sequence[R], Generic[R]):
 
     def grow(self, elements: int) -> None:
         """To this many elements; new ones have all members zero."""
-        before, most = len(self), (1 << self._member.count_bits) - 1
+        before, most = len(self), self._member.most
         if elements < before:
             raise ValueError("arrays do not shrink")
         if elements > most:

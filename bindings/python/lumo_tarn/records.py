@@ -9,8 +9,6 @@ from . import _schema
 from ._base import AddressLike, Array, Message, Record, emptied, expect, read_address, write_address
 from ._native import ffi, lib
 
-_BITS = {"u8": 8, "u16": 16, "u32": 32, "u64": 64}
-
 
 class Member:
     """How one member is read and written, as a descriptor of its record's class."""
@@ -129,9 +127,9 @@ class RecordMember(Member):
 
 
 class ArrayMember(Member):
-    def __init__(self, name: str, meaning: str, record: type[Record], counted_by: str, count_bits: int) -> None:
+    def __init__(self, name: str, meaning: str, record: type[Record], counted_by: str, most: int) -> None:
         super().__init__(name, meaning)
-        self.record, self.counted_by, self.count_bits = record, counted_by, count_bits
+        self.record, self.counted_by, self.most = record, counted_by, most
 
     def read(self, record: Record) -> Any:
         return Array(record, self)
@@ -154,7 +152,7 @@ _made: dict[str, Any] = {}
 
 def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
     members: dict[str, Member] = {}
-    before, width = "", 0
+    before, most = "", 0
     for attribute, name, kind, of, meaning in rows:
         if kind.startswith(("count", "length")):
             member: Member = CountMember(name, meaning)
@@ -169,11 +167,11 @@ def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
         elif kind == "record":
             member = RecordMember(name, meaning, _made[of])
         elif kind == "array":
-            member = ArrayMember(name, meaning, _made[of], before, width)
+            member = ArrayMember(name, meaning, _made[of], before, most)
         else:
             member = Member(name, meaning)
         members[attribute] = member
-        before, width = name, _BITS.get(kind.rpartition(" ")[2], 0)
+        before, most = name, _schema.GREATEST.get(kind.rpartition(" ")[2], 0)
     return members
 
 

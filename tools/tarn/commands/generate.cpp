@@ -3,6 +3,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "schema/frame.h"
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
@@ -26,36 +27,20 @@ struct GenerateOptions {
 
 // Bytes of a payload's frame, without reading it into an instance first.
 std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &record, bool tracked) {
-    std::size_t size = 6;
+    std::size_t size = schema::record_head_size;
     for (const schema::Member &m : record.members) {
-        if (m.role != schema::Role::value) {
-            size += std::size_t{1} << static_cast<unsigned>(m.kind);
-            continue;
-        }
+        const schema::KindFacts &kind = facts(m.kind);
+        size += kind.wire + (tracked ? kind.own_states : 0);
+        if (m.role != schema::Role::value) continue;
         const nlohmann::ordered_json &value = json[std::string(m.name)];
         std::size_t states = 1;
-        switch (m.kind) {
-            case schema::Kind::boolean:
-                size += 2;
-                break;
-            case schema::Kind::enumeration:
-                size += 5;
-                break;
-            case schema::Kind::address:
-                size += tracked ? 33 : 26;
-                break;
-            case schema::Kind::record:
-                size += wire_size(value, *m.record, tracked);
-                break;
-            case schema::Kind::string:
-                size += value.get_ref<const std::string &>().size();
-                break;
-            case schema::Kind::array:
-                for (const auto &element : value) size += wire_size(element, *m.record, tracked);
-                states = value.empty() ? 0 : 1 + value.size();
-                break;
-            default:
-                size += std::size_t{1} << static_cast<unsigned>(m.kind);
+        if (m.kind == schema::Kind::record) {
+            size += wire_size(value, *m.record, tracked);
+        } else if (m.kind == schema::Kind::string) {
+            size += value.get_ref<const std::string &>().size();
+        } else if (m.kind == schema::Kind::array) {
+            for (const auto &element : value) size += wire_size(element, *m.record, tracked);
+            states = value.empty() ? 0 : 1 + value.size();
         }
         size += tracked ? states : 0;
     }

@@ -1,27 +1,24 @@
 #include "tools/tarn/formats/dissection.h"
 
-#include <arpa/inet.h>
-
 #include <algorithm>
 
+#include "schema/frame.h"
 #include "tools/tarn/support/hex.h"
 
 namespace tarn::tool {
 
 namespace {
 
-using schema::Kind;
+using schema::Category;
+using schema::Content;
 using schema::Member;
+using schema::Part;
 using schema::Record;
 using schema::Role;
 
-constexpr std::uint8_t flag_tracked = 8, flag_ra_data = 32;
+static_assert(schema::message_head_size == MIRK_PLATFORM_FRAME_SIZE);
 
-// An address travels as a record of seven integers.
-constexpr Member address_members[] = {
-    schema::u8("af", ""),       schema::u8("prefix_len", ""), schema::u16("scope", ""),  schema::u32("word[0]", ""),
-    schema::u32("word[1]", ""), schema::u32("word[2]", ""),   schema::u32("word[3]", "")};
-constexpr Record address_record{"ip_address", "00000000000000000000000000000000", "", address_members};
+constexpr std::uint32_t length_at = offset_of(schema::message_frame, "total_length");
 
 // Thrown from any depth; what was found up to there stays.
 struct Stop {};
@@ -40,10 +37,24 @@ public:
     }
 
 private:
+    // What the head of a record says.
+    struct Head {
+        std::string_view record;
+        std::int8_t variant = 0;
+        std::uint8_t flag = 0;
+        std::uint32_t jump = 0;
+        std::size_t jump_at = 0;
+
+        bool has(std::uint8_t bit) const { return (flag & bit) != 0; }
+    };
+
     void walk_frame();
     void walk_header();
+    void walk_header_part(const Part &part, const std::string &path);
     void walk_request();
     void walk_record(const Record &record, const std::string &path, unsigned depth);
+    void walk_parts(std::span<const Part> parts, Head &head, const std::string &path, unsigned depth);
+    std::uint64_t walk_small_frame(std::span<const Part> parts, const std::string &path, unsigned depth);
     void walk_members(const Record &record, const std::string &path, unsigned depth, bool tracked);
     void walk_member(const Member &member, std::uint64_t count, const std::string &path, unsigned depth, bool tracked);
     void walk_array(const Member &member, std::uint64_t count, const std::string &path, unsigned depth, bool tracked);
@@ -55,11 +66,11 @@ private:
         throw Stop{};
     }
     // A number in network order; the piece is noted with what `show` makes of it.
-    std::uint64_t number(std::size_t size, const std::string &path, unsigned depth, const char *kind) {
+    std::uint64_t number(std::size_t size, const std::string &path, unsigned depth, std::string_view kind) {
         require(size, path);
         std::uint64_t value = 0;
         for (std::size_t i = 0; i < size; ++i) value = value << 8 | bytes_[at_ + i];
-        note(size, path, depth, kind, std::to_string(value));
+        note(size, path, depth, std::string(kind), std::to_string(value));
         return value;
     }
     void require(std::size_t size, const std::string &path) {
@@ -76,7 +87,8 @@ private:
 
     FrameBytes bytes_;
     std::size_t base_;
-    std::size_t end_;  // of the frame
+    std::size_t end_;         // of the frame
+    std::size_t length_ = 0;  // that the header says
     std::size_t at_ = 0;
     Dissection done_;
 };
@@ -95,21 +107,33 @@ std::string quoted(FrameBytes bytes) {
 }
 
 void Dissector::walk_header() {
-    const auto marker = number(1, "header.marker", 1, "marker");
-    if (marker != 0xbc) stop(at_ - 1, "header.marker", "the marker is " + std::to_string(marker) + ", not 188");
-    require(6, "header.fill");
-    note(6, "header.fill", 1, "fill", "");
-    number(1, "header.sttr", 1, "u_int8");
-    number(4, "header.stamp", 1, "u_int32");
-    const auto length = number(4, "header.total_length", 1, "u_int32");
-    if (length < MIRK_PLATFORM_FRAME_SIZE) {
-        stop(at_ - 4, "header.total_length", std::to_string(length) + " is less than a header and a luid");
+    for (const Part &part : schema::message_frame) {
+        if (part.content == Content::identity) break;
+        walk_header_part(part, "header." + std::string(part.name));
     }
-    end_ = std::min<std::size_t>(end_, length);
-    require(11, "header.zero");
-    note(11, "header.zero", 1, "zero", "");
-    const auto zero = bytes_.subspan(at_ - 11, 11);
-    if (std::any_of(zero.begin(), zero.end(), [](auto byte) { return byte != 0; })) last().value = "not all zero";
+}
+
+void Dissector::walk_header_part(const Part &part, const std::string &path) {
+    if (part.content == Content::constant && part.size > 1) {
+        require(part.size, path);
+        const FrameBytes bytes = bytes_.subspan(at_, part.size);
+        note(part.size, path, 1, std::string(part.type), "");
+        const bool zero = std::all_of(bytes.begin(), bytes.end(), [](auto byte) { return byte == 0; });
+        if (part.value == 0 && !zero) last().value = "not all zero";
+        return;
+    }
+    const std::size_t from = at_;
+    const std::uint64_t value = number(part.size, path, 1, part.type);
+    if (part.content == Content::constant && value != part.value) {
+        stop(from, path,
+             "the " + std::string(part.name) + " is " + std::to_string(value) + ", not " + std::to_string(part.value));
+    }
+    if (from != length_at) return;
+    if (value < schema::message_head_size) {
+        stop(from, path, std::to_string(value) + " is less than a header and a luid");
+    }
+    end_ = std::min<std::size_t>(end_, value);
+    length_ = value;
 }
 
 void Dissector::walk_request() {
@@ -126,43 +150,61 @@ void Dissector::walk_frame() {
     const std::size_t available = bytes_.size();
     walk_header();
     const std::string path = "luid";
-    require(16, path);
+    require(schema::luid_size, path);
     const std::uint8_t *luid = bytes_.data() + at_;
     const std::optional<Identity> identity = identify(luid);
-    const bool request = std::equal(luid, luid + 16, message_ui_req_msg_luid);
-    note(16, path, 1, "luid", luid_text(luid));
-    if (!identity && !request) stop(at_ - 16, path, "no message is known by this luid");
+    const bool request = std::equal(luid, luid + schema::luid_size, message_ui_req_msg_luid);
+    note(schema::luid_size, path, 1, path, luid_text(luid));
+    if (!identity && !request) stop(at_ - schema::luid_size, path, "no message is known by this luid");
     last().value += " " + std::string(request ? "ui_req_msg" : identity->operations->name);
-    const auto length =
-        (std::size_t{bytes_[12]} << 24) + (std::size_t{bytes_[13]} << 16) + (std::size_t{bytes_[14]} << 8) + bytes_[15];
     if (request) {
         walk_request();
     } else if (!identity->is_control()) {
         walk_record(identity->operations->message->payload, "payload", 1);
     }
-    if (length > available) {
+    if (length_ > available) {
         stop(at_, "",
-             "cut short: the total length is " + std::to_string(length) + ", and " + std::to_string(available) +
+             "cut short: the total length is " + std::to_string(length_) + ", and " + std::to_string(available) +
                  " bytes are there");
     }
     if (at_ != end_) stop(at_, "", std::to_string(end_ - at_) + " bytes more than the message has");
 }
 
 void Dissector::walk_record(const Record &record, const std::string &path, unsigned depth) {
-    const auto variant = static_cast<std::int8_t>(number(1, path + ".variant", depth + 1, "variant"));
-    last().value = std::to_string(variant) + ", begins " + std::string(record.name);
-    const auto flag = static_cast<std::uint8_t>(number(1, path + ".flag", depth + 1, "flag"));
-    if ((flag & flag_tracked) != 0) last().value += " tracked";
-    if ((flag & flag_ra_data) != 0) {
-        last().value += " ra_data";
-        number(8, path + ".ra_value", depth + 1, "u_int64");
-        number(1, path + ".ra_byte", depth + 1, "u_int8");
+    Head head{record.name};
+    walk_parts(schema::record_frame, head, path, depth + 1);
+    if (head.variant >= 0) walk_members(record, path, depth + 1, head.has(schema::wire_flag::tracked));
+    walk_end(head.jump_at + head.jump, head.jump_at, head.jump, path, depth + 1);
+}
+
+// The parts of a record's frame in front of its members.
+void Dissector::walk_parts(std::span<const Part> parts, Head &head, const std::string &path, unsigned depth) {
+    for (const Part &part : parts) {
+        if (part.flag != 0 && !head.has(part.flag)) continue;
+        if (part.content == Content::parts) walk_parts(part.parts, head, path, depth);
+        if (part.content == Content::parts || part.size == schema::varies) continue;
+        const std::size_t from = at_;
+        const auto value = number(part.size, path + "." + std::string(part.name), depth, part.type);
+        if (part.content == Content::signed_number) {
+            head.variant = static_cast<std::int8_t>(value);
+            last().value = std::to_string(head.variant) + ", begins " + std::string(head.record);
+        } else if (part.content == Content::flags) {
+            head.flag = static_cast<std::uint8_t>(value);
+            if (head.has(schema::wire_flag::tracked)) last().value += " tracked";
+            if (head.has(schema::wire_flag::ra_data)) last().value += " ra_data";
+        } else if (part.content == Content::number) {
+            head.jump = static_cast<std::uint32_t>(value);
+            head.jump_at = from;
+            last().value += ", ends at " + std::to_string(base_ + from + head.jump);
+        }
     }
-    const std::size_t jump_at = at_;
-    const auto jump = static_cast<std::uint32_t>(number(4, path + ".jump", depth + 1, "jump"));
-    last().value += ", ends at " + std::to_string(base_ + jump_at + jump);
-    if (variant >= 0) walk_members(record, path, depth + 1, (flag & flag_tracked) != 0);
-    walk_end(jump_at + jump, jump_at, jump, path, depth + 1);
+}
+
+// A variant and a value, which is returned and stands for the member.
+std::uint64_t Dissector::walk_small_frame(std::span<const Part> parts, const std::string &path, unsigned depth) {
+    const Part &variant = parts.front(), &value = parts.back();
+    number(variant.size, path + "." + std::string(variant.name), depth + 1, variant.type);
+    return number(value.size, path, depth, value.type);
 }
 
 // A newer sender may have more behind the members that are known; a jump into them is a contradiction.
@@ -188,52 +230,46 @@ void Dissector::walk_members(const Record &record, const std::string &path, unsi
         if (m.role == Role::value) {
             walk_member(m, count, below, depth, tracked);
         } else {
-            count = number(std::size_t{1} << static_cast<unsigned>(m.kind), below, depth,
-                           m.role == Role::count ? "count" : "length");
+            count = number(facts(m.kind).wire, below, depth, m.role == Role::count ? "count" : "length");
         }
     }
 }
 
 void Dissector::walk_member(const Member &m, std::uint64_t count, const std::string &path, unsigned depth,
                             bool tracked) {
-    constexpr const char *kinds[] = {"u_int8", "u_int16", "u_int32", "u_int64"};
-    switch (m.kind) {
-        case Kind::u8:
-        case Kind::u16:
-        case Kind::u32:
-        case Kind::u64: {
-            const auto index = static_cast<unsigned>(m.kind);
-            number(std::size_t{1} << index, path, depth, kinds[index]);
+    switch (category(m.kind)) {
+        case Category::integer:
+            number(facts(m.kind).wire, path, depth, facts(m.kind).primitive);
             break;
-        }
-        case Kind::boolean:
-            number(1, path + ".variant", depth + 1, "variant");
-            number(1, path, depth, "mirk_boolean");
-            last().value = last().value == "0" ? "false" : last().value == "1" ? "true" : "true (" + last().value + ")";
+        case Category::boolean:
+            if (const auto value = walk_small_frame(schema::boolean_frame, path, depth); value > 1) {
+                last().value = "true (" + std::to_string(value) + ")";
+            } else {
+                last().value = value == 0 ? "false" : "true";
+            }
             break;
-        case Kind::enumeration:
+        case Category::enumeration:
             walk_enumeration(m, path, depth);
             break;
-        case Kind::address:
-            walk_record(address_record, path, depth);
+        case Category::address:
+            walk_record(schema::address_record, path, depth);
             break;
-        case Kind::record:
+        case Category::record:
             walk_record(*m.record, path, depth);
             break;
-        case Kind::string:
+        case Category::string:
             if (count == 0) return;
             require(count, path);
-            note(count, path, depth, "var_string", quoted(bytes_.subspan(at_, count)));
+            note(count, path, depth, std::string(facts(m.kind).primitive), quoted(bytes_.subspan(at_, count)));
             break;
-        case Kind::array:
+        case Category::array:
             return walk_array(m, count, path, depth, tracked);
     }
     if (tracked) state(path + ".state", depth);
 }
 
 void Dissector::walk_enumeration(const Member &m, const std::string &path, unsigned depth) {
-    number(1, path + ".variant", depth + 1, "variant");
-    const auto value = number(4, path, depth, "");
+    const auto value = walk_small_frame(schema::enumeration_frame, path, depth);
     last().kind = m.enumeration->name;
     last().value += value < m.enumeration->enumerators.size() ? " " + std::string(m.enumeration->enumerators[value])
                                                               : std::string(" out of range");

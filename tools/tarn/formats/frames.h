@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "schema/frame.h"
 #include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
@@ -19,7 +20,7 @@ struct Frame {
     Identity identity;
 
     // The sender made the message with per-field state.
-    bool is_tracked() const { return bytes[7] != 0; }
+    bool is_tracked() const { return bytes[offset_of(schema::message_frame, "sttr")] != 0; }
 };
 
 inline FrameBytes bytes_of(std::string_view text) {

@@ -152,9 +152,8 @@ void Reader::read_record(const ordered_json &json, const RecordOperations &opera
 void Reader::read_member(const ordered_json &json, const Field &field, const std::string &path) {
     const schema::Member &m = field.schema();
     if (is_integer(m.kind)) {
-        const unsigned bits = 8U << static_cast<unsigned>(m.kind);
-        const std::uint64_t limit = bits == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << bits) - 1;
-        field.member().set_value(handle_.get(), context_id, field.instance, number_in(json, limit, path), &err_);
+        field.member().set_value(handle_.get(), context_id, field.instance, number_in(json, greatest(m.kind), path),
+                                 &err_);
     } else if (m.kind == Kind::string) {
         read_string(json, field, path);
     } else if (m.kind == Kind::array) {
@@ -243,8 +242,7 @@ void Reader::read_string(const ordered_json &json, const Field &field, const std
 
 void Reader::read_array(const ordered_json &json, const Field &field, const std::string &path) {
     if (!json.is_array()) fail(path, "an array is expected");
-    const bool narrow = field.operations.members[field.index - 1].member->kind == Kind::u8;
-    if (json.size() > (narrow ? 255U : 0xffffffffU))
+    if (json.size() > greatest(field.operations.members[field.index - 1].member->kind))
         fail(path, std::to_string(json.size()) + " elements are more than its count can tell");
     if (json.empty()) return;
     // Setting the last element first lets the array grow once.

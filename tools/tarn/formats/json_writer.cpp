@@ -14,6 +14,7 @@ namespace {
 using nlohmann::ordered_json;
 using reflect::MemberOperations;
 using reflect::RecordOperations;
+using schema::Category;
 using schema::Kind;
 
 bool is_utf8(const std::string &text) {
@@ -93,22 +94,19 @@ private:
     ordered_json value(std::size_t index) {
         const MemberOperations &m = operations_.members[index];
         mirk_handle *h = handle_.get();
-        switch (m.member->kind) {
-            case Kind::u8:
-            case Kind::u16:
-            case Kind::u32:
-            case Kind::u64:
+        switch (category(m.member->kind)) {
+            case Category::integer:
                 return m.get_value(h, context_id, instance_, &err_);
-            case Kind::string:
+            case Category::string:
                 return json_of_string(string_at(*operations_.record, index, instance_));
-            case Kind::record:
+            case Category::record:
                 return json_of(handle_, reflect::operations_of(*m.member->record),
                                m.get(h, context_id, instance_, &err_));
-            case Kind::array:
+            case Category::array:
                 return elements(index);
-            case Kind::boolean:
-            case Kind::enumeration:
-            case Kind::address:
+            case Category::boolean:
+            case Category::enumeration:
+            case Category::address:
                 break;
         }
         return json_of_value(handle_, m, m.get(h, context_id, instance_, &err_));

@@ -9,24 +9,25 @@
 namespace tarn::tool {
 
 using nlohmann::ordered_json;
-using schema::Kind;
+using schema::Category;
 using schema::Member;
 using schema::Record;
 
 std::string kind_text(const Member &m) {
-    constexpr const char *words[] = {"u_int8", "u_int16", "u_int32", "u_int64", "mirk_boolean", "ip_address"};
-    switch (m.kind) {
-        case Kind::enumeration:
+    switch (category(m.kind)) {
+        case Category::enumeration:
             return std::string(m.enumeration->name);
-        case Kind::record:
+        case Category::record:
             return std::string(m.record->name);
-        case Kind::array:
+        case Category::array:
             return std::string(m.record->name) + "[]";
-        case Kind::string:
-            return "var_string";
-        default:
-            return words[static_cast<std::size_t>(m.kind)];
+        case Category::integer:
+        case Category::boolean:
+        case Category::address:
+        case Category::string:
+            break;
     }
+    return std::string(facts(m.kind).primitive);
 }
 
 std::string role_text(const Member &m) {

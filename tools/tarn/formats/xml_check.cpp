@@ -7,13 +7,14 @@
 #include <charconv>
 #include <map>
 
-#include "schema/wire_size.h"
+#include "schema/model.h"
 #include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
 namespace {
 
+using schema::Category;
 using schema::Kind;
 using schema::Member;
 using schema::Record;
@@ -114,22 +115,27 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
     }
     const std::string text = text_in(node);
     const std::string value(trimmed(text));
-    switch (member.kind) {
-        case Kind::boolean:
+    switch (category(member.kind)) {
+        case Category::boolean:
             if (value != "true" && value != "false" && value != "1" && value != "0") {
                 add(node, path, "\"" + value + "\" is neither true nor false");
             }
             break;
-        case Kind::address:
+        case Category::address:
             if (!is_address(value)) add(node, path, "\"" + value + "\" is no address with a prefix length");
             break;
-        case Kind::string:
+        case Category::string:
             if (text.size() > 65535) add(node, path, "more than 65535 bytes");
             break;
-        default:
+        case Category::integer:
             if (!is_number<std::uint64_t>(value, greatest(member.kind))) {
                 add(node, path, "\"" + value + "\" is no number from 0 to " + std::to_string(greatest(member.kind)));
             }
+            break;
+        case Category::enumeration:
+        case Category::record:
+        case Category::array:
+            break;  // checked above
     }
 }
 

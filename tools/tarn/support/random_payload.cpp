@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "schema/wire_size.h"
-
 namespace tarn::tool {
 
 namespace {
 
 using nlohmann::ordered_json;
-using schema::Kind;
+using schema::Category;
 using schema::Member;
 using schema::Record;
 using schema::Role;
@@ -75,28 +73,28 @@ std::uint64_t RandomPayload::number(const Record &record, const Member &m) {
     return below(std::min<std::uint64_t>(limit, 999) + 1);
 }
 
-std::uint32_t RandomPayload::length_of_list(const Member &m, bool narrow_count) {
+std::uint32_t RandomPayload::length_of_list(const Member &m, std::uint64_t most) {
     if (m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info") return 2;
     // A list inside a list of this kind is shorter, or size would grow with the square.
     const std::uint32_t wanted = depth_ == 0 ? elements_ : elements_ / 4 + 1;
-    return narrow_count ? std::min<std::uint32_t>(wanted, 255) : wanted;
+    return static_cast<std::uint32_t>(std::min<std::uint64_t>(wanted, most));
 }
 
-ordered_json RandomPayload::value(const Record &record, const Member &m, bool narrow_count) {
-    switch (m.kind) {
-        case Kind::boolean:
+ordered_json RandomPayload::value(const Record &record, const Member &m, std::uint64_t most) {
+    switch (category(m.kind)) {
+        case Category::boolean:
             return below(4) != 0;
-        case Kind::address:
+        case Category::address:
             return address();
-        case Kind::enumeration:
+        case Category::enumeration:
             return m.enumeration->enumerators[below(m.enumeration->enumerators.size())];
-        case Kind::record:
+        case Category::record:
             return make(*m.record);
-        case Kind::string:
+        case Category::string:
             return name(m);
-        case Kind::array: {
+        case Category::array: {
             ordered_json list = ordered_json::array();
-            const std::uint32_t count = length_of_list(m, narrow_count);
+            const std::uint32_t count = length_of_list(m, most);
             const bool grows = count == 2 && m.name != "exmem" ? false : count > 1;
             const std::uint32_t outer = index_;
             depth_ += grows ? 1 : 0;
@@ -108,19 +106,20 @@ ordered_json RandomPayload::value(const Record &record, const Member &m, bool na
             index_ = outer;
             return list;
         }
-        default:
-            return number(record, m);
+        case Category::integer:
+            break;
     }
+    return number(record, m);
 }
 
 ordered_json RandomPayload::make(const Record &record) {
     ordered_json json = ordered_json::object();
-    bool narrow_count = false;
+    std::uint64_t most = 0;
     for (const Member &m : record.members) {
         if (m.role == Role::value) {
-            json[std::string(m.name)] = value(record, m, narrow_count);
+            json[std::string(m.name)] = value(record, m, most);
         } else {
-            narrow_count = m.kind == Kind::u8;
+            most = greatest(m.kind);
         }
     }
     return json;

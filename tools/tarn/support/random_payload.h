@@ -19,11 +19,11 @@ public:
 
 private:
     std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
-    nlohmann::ordered_json value(const schema::Record &record, const schema::Member &member, bool narrow_count);
+    nlohmann::ordered_json value(const schema::Record &record, const schema::Member &member, std::uint64_t most);
     std::uint64_t number(const schema::Record &record, const schema::Member &member);
     std::string address();
     std::string name(const schema::Member &member);
-    std::uint32_t length_of_list(const schema::Member &member, bool narrow_count);
+    std::uint32_t length_of_list(const schema::Member &member, std::uint64_t most);
 
     std::mt19937_64 random_;
     std::uint32_t elements_;

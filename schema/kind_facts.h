@@ -1,0 +1,111 @@
+// The kinds of members, and everything that is known of a kind apart from code: one row each. Layouts, wire sizes,
+// writers of headers and tables, and the tool read these rows, so that a new kind is described here once.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace tarn::schema {
+
+enum class Kind : std::uint8_t { u8, u16, u32, u64, boolean, address, enumeration, record, string, array };
+
+// What members of a kind have in common with those of others: code distinguishes categories, and a kind within a
+// category differs from its neighbors only by its row.
+enum class Category : std::uint8_t { integer, boolean, address, enumeration, record, string, array };
+
+inline constexpr std::uint32_t varies = 0;  // depends on the member's record, or on what is in the instance
+
+inline constexpr std::uint32_t boolean_size = 16;
+inline constexpr std::uint32_t enumeration_size = 16;
+inline constexpr std::uint32_t address_size = 40;
+inline constexpr std::uint32_t pointer_size = 8;
+
+struct KindFacts {
+    Kind kind;
+    Category category;
+    std::string_view name;             // in printed tables
+    std::string_view value_type = "";  // in C, of a value that fits in a register; otherwise empty
+    std::string_view primitive = "";   // what the runtime's functions of the kind begin with; empty if it has none
+    std::uint32_t storage = varies;    // bytes in an instance
+    std::uint32_t alignment = 8;       // in an instance
+    std::uint32_t wire = varies;       // bytes in a frame, without state
+    std::uint32_t own_states = 0;      // state bytes inside the member's own area, apart from a record's
+    std::uint64_t greatest = 0;        // value of an integer
+    std::string_view in_frame;         // what the bytes in a frame are, in words
+};
+
+template <class Integer>
+consteval KindFacts integer_facts(Kind kind, std::string_view name, std::string_view value_type,
+                                  std::string_view primitive) {
+    return {.kind = kind,
+            .category = Category::integer,
+            .name = name,
+            .value_type = value_type,
+            .primitive = primitive,
+            .storage = sizeof(Integer),
+            .alignment = alignof(Integer),
+            .wire = sizeof(Integer),
+            .greatest = static_cast<Integer>(-1),
+            .in_frame = "a number"};
+}
+
+inline constexpr KindFacts kind_facts[] = {
+    integer_facts<std::uint8_t>(Kind::u8, "u8", "uint8_t", "u_int8"),
+    integer_facts<std::uint16_t>(Kind::u16, "u16", "uint16_t", "u_int16"),
+    integer_facts<std::uint32_t>(Kind::u32, "u32", "uint32_t", "u_int32"),
+    integer_facts<std::uint64_t>(Kind::u64, "u64", "uint64_t", "u_int64"),
+    {.kind = Kind::boolean,
+     .category = Category::boolean,
+     .name = "boolean",
+     .value_type = "uint8_t",
+     .primitive = "mirk_boolean",
+     .storage = boolean_size,
+     .wire = 2,
+     .in_frame = "variant, then 0 or 1"},
+    {.kind = Kind::address,
+     .category = Category::address,
+     .name = "address",
+     .primitive = "ip_address",
+     .storage = address_size,
+     .wire = 26,
+     .own_states = 7,
+     .in_frame = "a record of af, prefix_len (1 byte each), scope (2), four words (4 each)"},
+    {.kind = Kind::enumeration,
+     .category = Category::enumeration,
+     .name = "enumeration",
+     .value_type = "uint32_t",
+     .storage = enumeration_size,
+     .wire = 5,
+     .in_frame = "variant, then the value in four bytes"},
+    {.kind = Kind::record, .category = Category::record, .name = "record", .in_frame = "its own frame, jump included"},
+    {.kind = Kind::string,
+     .category = Category::string,
+     .name = "string",
+     .primitive = "var_string",
+     .storage = pointer_size,
+     .in_frame = "characters, as many as the length in front says"},
+    {.kind = Kind::array,
+     .category = Category::array,
+     .name = "array",
+     .storage = pointer_size,
+     .in_frame = "the records one behind the other, as many as the count in front says"},
+};
+
+// A kind without a row cannot be a member's: the layout of its record is computed while compiling, where reading past
+// the end is an error.
+constexpr const KindFacts &facts(Kind kind) { return kind_facts[static_cast<std::size_t>(kind)]; }
+
+consteval bool rows_are_in_order() {
+    for (std::size_t i = 0; i < std::size(kind_facts); ++i) {
+        if (kind_facts[i].kind != static_cast<Kind>(i)) return false;
+    }
+    return true;
+}
+static_assert(rows_are_in_order(), "row i describes kind i");
+
+constexpr Category category(Kind kind) { return facts(kind).category; }
+constexpr bool is_integer(Kind kind) { return category(kind) == Category::integer; }
+constexpr std::uint64_t greatest(Kind kind) { return facts(kind).greatest; }
+
+}  // namespace tarn::schema
