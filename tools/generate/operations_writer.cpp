@@ -1,3 +1,7 @@
+#include <set>
+
+#include "fill_in.h"
+#include "reflection.h"
 #include "surface.h"
 #include "writers.h"
 
@@ -36,8 +40,11 @@ bool passes_as_void(const std::string &type) {
            type.find("mirk_boolean") != std::string::npos;
 }
 
-// A call with pointers to objects as void and, for members, values as 64-bit numbers.
-std::string lambda(const Export &e) {
+// An operation with pointers to objects as void and, for members, values as 64-bit numbers.
+struct Reflected {
+    std::string result, parameters, call;
+};
+Reflected reflected(const Export &e) {
     const bool of_member = e.row->family.empty();
     const bool whole = e.entry.ends_with("::get_all") || e.entry.ends_with("::set_all");
     std::string parameters, arguments;
@@ -72,16 +79,36 @@ std::string lambda(const Export &e) {
     std::string result = e.result;
     if (result.ends_with('*')) result = "void *";
     if (of_member && e.operation->prototype.find("get_value") != std::string_view::npos) result = "uint64_t";
-    return "[](" + parameters + ") -> " + result + " { return " + e.name + "(" + arguments + "); }";
+    return {result, parameters, e.name + "(" + arguments + ")"};
+}
+
+// As it is in the C interface; other operations are wrapped.
+bool keeps_its_type(const Export &e) { return e.row->weak || includes(e.row->applies, Applies::bundle); }
+
+std::string value_of(const Export &e) {
+    if (keeps_its_type(e)) return e.name;
+    const Reflected r = reflected(e);
+    return "[](" + r.parameters + ") -> " + r.result + " { return " + r.call + "; }";
+}
+
+// The fields of the structure for what these rows apply to. Rows of one field differ only in what the wrapper hides.
+std::string declared_fields(Applies applies) {
+    std::string text;
+    std::set<std::string> declared;
+    for (const Operation &o : operations()) {
+        if (!includes(applies, o.row->applies)) continue;
+        const std::string field = field_of(o);
+        if (!declared.insert(field).second) continue;
+        const Reflected r = reflected(expand(o, subjects(o.row->applies).front()));
+        text += "    " + r.result + (r.result.ends_with('*') ? "(*" : " (*") + field + ")(" + r.parameters + ");\n";
+    }
+    return text;
 }
 
 std::string fields(const Subject &subject, Applies applies, const std::string &indent) {
-    // Designated initialisers follow the order of the struct, so each row is put under its field's name into a struct.
     std::string text;
     for (const Export &e : exports_of(subject, applies)) {
-        const std::string field = field_of(*e.operation);
-        const bool as_it_is = e.row->weak || field == "register_handler" || field == "unregister_handler";
-        text += indent + "o." + field + " = " + (as_it_is ? e.name : lambda(e)) + ";\n";
+        text += indent + "o." + field_of(*e.operation) + " = " + value_of(e) + ";\n";
     }
     return text;
 }
@@ -101,7 +128,7 @@ std::string table_of(const std::string &type, const std::string &name, const std
 
 Files write_operations() {
     std::string text =
-        "// Generated from the schema and the family table; not to be edited.\n"
+        "// Generated from the schema and the table of operations; not to be edited.\n"
         "namespace tarn::reflect {\n\nnamespace {\n\n";
     std::string record_rows, enumeration_rows, message_rows, bundle_rows;
     for (const Record *r : records) {
@@ -140,18 +167,28 @@ Files write_operations() {
     }
     for (const Bundle *b : bundles) {
         const std::string name(b->name);
-        text += "BundleOperations bundle_" + name + "() {\n    BundleOperations o{&schema::" + name + ", message_" +
-                name + "_bundle_start(), message_" + name + "_bundle_abort(), message_" + name +
-                "_bundle_commit(), nullptr, nullptr, nullptr, &lumo_ui_tarn_" + name +
-                "_bundle_registered_handler};\n" + fields({.bundle = b}, Applies::bundle, "    ") +
-                "    return o;\n}\n\n";
+        text += "BundleOperations bundle_" + name + "() {\n    BundleOperations o{};\n    o.bundle = &schema::" + name +
+                ";\n    o.registered_handler = &lumo_ui_tarn_" + name + "_bundle_registered_handler;\n";
+        for (const std::string kind : {"start", "abort", "commit"}) {
+            text += "    o." + kind + " = message_" + name + "_bundle_" + kind + "();\n";
+        }
+        text += fields({.bundle = b}, Applies::bundle, "    ") + "    return o;\n}\n\n";
         bundle_rows += "    bundle_" + name + "(),\n";
     }
     text += table_of("RecordOperations", "all_records", record_rows) +
             table_of("EnumerationOperations", "all_enumerations", enumeration_rows) +
             table_of("MessageOperations", "all_messages", message_rows) +
             table_of("BundleOperations", "all_bundles", bundle_rows);
-    return {{"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};
+    using enum Applies;
+    const std::string header = fill_in(
+        reflection, {{"    // $member\n",
+                      declared_fields(integer | boolean | choice | address | nested | string | length | count | array)},
+                     {"    // $record\n", declared_fields(Applies::record)},
+                     {"    // $enumeration\n", declared_fields(enumeration)},
+                     {"    // $message\n", declared_fields(message | control)},
+                     {"    // $bundle\n", declared_fields(bundle)}});
+    return {{"tools/reflect/operations.h", header},
+            {"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};
 }
 
 }  // namespace tarn::generate

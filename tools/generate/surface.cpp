@@ -109,18 +109,6 @@ Operation sticky_form(const Row &row) {
     return o;
 }
 
-Export expand(const Operation &operation, const Subject &subject) {
-    const Row &row = *operation.row;
-    Export e{&operation, &row, subject, {}, {}, fill(row.entry, subject), {}, {}};
-    const std::string prototype = fill(operation.prototype, subject);
-    e.name = name_in(prototype);
-    e.result = prototype.substr(0, prototype.find(e.name + "("));
-    if (e.result.ends_with(' ')) e.result.pop_back();
-    e.parameters = parse_parameters(parameters_in(prototype));
-    e.called_with = parse_parameters(parameters_in(fill(row.prototype, subject)));
-    return e;
-}
-
 }  // namespace
 
 Applies class_of(const Member &m) {
@@ -235,6 +223,18 @@ const std::vector<Operation> &operations() {
         return forms;
     }();
     return all;
+}
+
+Export expand(const Operation &operation, const Subject &subject) {
+    const Row &row = *operation.row;
+    Export e{&operation, &row, subject, {}, {}, fill(row.entry, subject), {}, {}};
+    const std::string prototype = fill(operation.prototype, subject);
+    e.name = name_in(prototype);
+    e.result = prototype.substr(0, prototype.find(e.name + "("));
+    if (e.result.ends_with(' ')) e.result.pop_back();
+    e.parameters = parse_parameters(parameters_in(prototype));
+    e.called_with = parse_parameters(parameters_in(fill(row.prototype, subject)));
+    return e;
 }
 
 std::vector<Export> exports_of(const Subject &subject, Applies applies) {

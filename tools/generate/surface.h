@@ -49,6 +49,7 @@ std::string memory_type(const schema::Member &member);
 std::string fill(std::string_view pattern, const Subject &subject);
 
 std::vector<Subject> subjects(Applies applies);
+Export expand(const Operation &operation, const Subject &subject);
 std::vector<Export> exports_of(const Subject &subject, Applies applies);
 std::vector<Export> all_functions();
 
