@@ -183,7 +183,10 @@ const std::vector<Operation> &operations() {
                 const std::string name(r.record->name);
                 if (of == "record") know(name + "_" + suffix, {.record = &r}, d);
                 for (const MemberOperations &m : r.members) {
-                    if (of != "member") break;
+                    const char *member_class = m.text_get != nullptr      ? "string"
+                                               : m.element_get != nullptr ? "array"
+                                                                          : "single";
+                    if (of != member_class) continue;
                     know(name + "_" + std::string(m.member->name) + "_" + suffix, {.record = &r, .member = &m}, d);
                 }
             }

@@ -82,7 +82,7 @@ private:
 };
 
 struct Driver {
-    const char *of;      // a record, a member, a message's payload, ...
+    const char *of;      // a record, a single member, a message's payload, ...
     const char *suffix;  // the end of the exported name
     void (*call)(Scene &);
     // Null: the operation asks for no memory.

@@ -1,3 +1,4 @@
+#include <map>
 #include <set>
 
 #include "fill_in.h"
@@ -11,19 +12,18 @@ using namespace schema;
 
 namespace {
 
-// The field of an operations struct that a row fills, from what stands behind the names in its prototype.
+// What stands in an operation's name after the placeholders.
+std::string suffix_of(const Operation &operation) { return operation.name.substr(operation.name.rfind('}') + 2); }
+
+// The field of an operations struct that a row fills.
 std::string field_of(const Operation &operation) {
     const Row &row = *operation.row;
-    const std::string_view prototype = operation.prototype;
-    const std::size_t open = prototype.find('(');
-    const std::size_t brace = prototype.rfind('}', open);
-    std::string suffix(prototype.substr(brace + 1, open - brace - 1));
-    if (suffix.starts_with("_message_")) suffix = suffix.substr(8);
-    suffix = suffix.substr(1);
-    if (includes(row.applies, Applies::message) && prototype.find("_message_{r}") != std::string_view::npos) {
+    std::string suffix = suffix_of(operation);
+    if (suffix.starts_with("message_")) suffix = suffix.substr(8);
+    if (operation.name.find("_message_{r}") != std::string::npos) {
         suffix = "payload_" + suffix;
     }
-    if (suffix == "message_handler" || suffix == "bundle_handler") return "handler";
+    if (row.weak) return "handler";
     if (suffix == "bundle_handler_register") return "register_handler";
     if (suffix == "bundle_handler_unregister") return "unregister_handler";
     if (suffix == "sizeof") return "sizeof_";
@@ -124,6 +124,90 @@ std::string table_of(const std::string &type, const std::string &name, const std
            "    };\n    return all;\n}\n\n";
 }
 
+// ---- how the sweep of failing allocations calls an operation whose arguments follow from their names
+
+// Of a scene, or empty. What takes an object away, moves or allocates is called by hand, in tests/trust/drivers.cpp.
+std::string argument_of_scene(const Parameter &p) {
+    static const std::map<std::string_view, const char *> by_name = {{"h", "s.h"},
+                                                                     {"ctx_id", "kId"},
+                                                                     {"err", "s.error()"},
+                                                                     {"object", "s.object"},
+                                                                     {"instance", "s.object"},
+                                                                     {"source", "s.object"},
+                                                                     {"token", "s.object"},
+                                                                     {"a", "s.object"},
+                                                                     {"b", "s.other"},
+                                                                     {"buffer", "s.text()"},
+                                                                     {"word", "s.text()"},
+                                                                     {"name", "\"o\""},
+                                                                     {"indent", "0"},
+                                                                     {"state", "0"},
+                                                                     {"index", "0"},
+                                                                     {"field_index", "0"},
+                                                                     {"value", "1"},
+                                                                     {"variant", "1"},
+                                                                     {"seed", "5"},
+                                                                     {"remaining", "s.size()"},
+                                                                     {"size", "s.room - 1"},
+                                                                     {"not_used_1", "nullptr"},
+                                                                     {"not_used_2", "0"}};
+    if (p.name == "destination") return p.type == "char *" ? "s.text()" : "s.other";
+    if (p.name == "value" && p.type.ends_with('*')) return "s.element";
+    if (p.name == "message") return p.type == "char *" ? "" : "s.object";
+    const auto found = by_name.find(p.name);
+    return found != by_name.end() ? found->second : "";
+}
+
+struct Sweep {
+    Applies applies;
+    const char *of, *table;  // what the sweep calls it, and where it finds its operations
+};
+constexpr Sweep sweeps[] = {
+    {Applies::record, "record", "rec(s)."},
+    {Applies::integer | Applies::boolean | Applies::choice | Applies::address | Applies::nested | Applies::length |
+         Applies::count,
+     "single", "mem(s)."},
+    {Applies::string, "string", "mem(s)."},
+    {Applies::array, "array", "mem(s)."},
+    {Applies::enumeration, "enumeration", "en(s)."},
+    {Applies::message, "message", "msg(s)."},
+    {Applies::control, "control", "msg(s)."},
+    {Applies::module, "module", ""},
+};
+
+std::string driver(const Operation &o, const Sweep &sweep) {
+    const bool of_module = sweep.applies == Applies::module;
+    const Export e = expand(o, subjects(o.row->applies).front());
+    std::string arguments;
+    for (const Parameter &p : e.parameters) {
+        const std::string one = argument_of_scene(p);
+        if (one.empty()) return {};
+        arguments += (arguments.empty() ? "" : ", ") + one;
+    }
+    std::string of = sweep.of, suffix = of_module ? e.name : suffix_of(o);
+    if (suffix.starts_with("message_")) suffix = suffix.substr(8);
+    if (o.name.find("_message_{r}") != std::string::npos) of = "payload";
+    const std::string call = sweep.table + (of_module ? e.name : field_of(o)) + "(" + arguments + ")";
+    const std::string body = e.result == "void"        ? call
+                             : e.result.ends_with('*') ? "s.result = " + call + " != nullptr"
+                                                       : "s.result = static_cast<std::uint64_t>(" + call + ")";
+    return "{\"" + of + "\", \"" + suffix + "\", []([[maybe_unused]] Scene &s) { " + body + "; }},\n";
+}
+
+std::string drivers() {
+    std::string text;
+    std::set<std::string> printed;
+    for (const Operation &o : operations()) {
+        const bool whole = o.row->entry.ends_with("::get_all") || o.row->entry.ends_with("::set_all");
+        if (whole || o.row->weak || o.prototype.starts_with("mirk_bundle_handler")) continue;
+        for (const Sweep &sweep : sweeps) {
+            if (!includes(o.row->applies, sweep.applies)) continue;
+            if (const std::string one = driver(o, sweep); printed.insert(one).second) text += one;
+        }
+    }
+    return text;
+}
+
 }  // namespace
 
 Files write_operations() {
@@ -188,6 +272,7 @@ Files write_operations() {
                      {"    // $message\n", declared_fields(message | control)},
                      {"    // $bundle\n", declared_fields(bundle)}});
     return {{"tools/reflect/operations.h", header},
+            {"drivers.inc", drivers()},
             {"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};
 }
 
