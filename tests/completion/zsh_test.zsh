@@ -1,7 +1,14 @@
 #!/usr/bin/zsh -f
 # Types command lines into an interactive zsh, presses the tabulator, and looks at what the line has become.
-#   zsh_test.zsh TARN FOLDER_OF_SCRIPT
+# The exit status is 77 where there are no pseudo-terminals; without arguments that is all it checks.
+#   zsh_test.zsh [TARN FOLDER_OF_SCRIPT]
 zmodload zsh/zpty
+if ! zpty -b probe true 2>/dev/null; then
+  print -r -- "Completion.InZsh is skipped: it needs a pseudo-terminal. Mount a devpts file system on /dev/pts."
+  exit 77
+fi
+zpty -d probe
+(( $# )) || exit 0
 tool=$1 folder=$2
 place=$(mktemp -d)
 touch $place/answer.xml
