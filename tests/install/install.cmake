@@ -1,5 +1,6 @@
 # Installs a build into an empty place and moves it to PREFIX, so that nothing in it may lean on where it was installed.
 #   cmake -DBUILD= -DSOURCE= -DSCRATCH= -DPREFIX= -P install.cmake
+cmake_minimum_required(VERSION 3.25)
 set(first ${SCRATCH}/first)
 file(REMOVE_RECURSE ${first} ${PREFIX} ${SCRATCH}/components)
 
@@ -41,14 +42,19 @@ foreach(folder include platform/include)
   endforeach()
 endforeach()
 
-# No text among it names a place of the machine that built it. Debug information does.
+# No text file contains a path into the source or build tree. Binaries do, in their debug information. A bare ${SOURCE}
+# would prove nothing where the clone has a name as short as /src.
+file(GLOB entries ${SOURCE}/*)
 set(texts ${whole})
 list(FILTER texts EXCLUDE REGEX "^bin/|\\.so|\\.a$")
 foreach(file IN LISTS texts)
-  file(STRINGS ${PREFIX}/${file} found REGEX "${SOURCE}|${BUILD}|${first}")
-  if(found)
-    message(FATAL_ERROR "${file} holds a path of the build: ${found}")
-  endif()
+  file(READ ${PREFIX}/${file} text)
+  foreach(path IN LISTS entries BUILD)
+    string(FIND "${text}" "${path}" at)
+    if(NOT at EQUAL -1)
+      message(FATAL_ERROR "${file} contains ${path}")
+    endif()
+  endforeach()
 endforeach()
 
 run(${PREFIX}/bin/tarn schema)
