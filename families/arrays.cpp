@@ -3,6 +3,7 @@
 #include <atomic>
 #include <span>
 
+#include "core/call.h"
 #include "core/named_text.h"
 #include "families/assignment.h"
 #include "families/copy.h"
@@ -53,18 +54,19 @@ template <class A>
 constinit const ArrayShape array_shape{element_shape<A::element>, schema::layout<A::owner>.base_size, A::place.inner,
                                        growth_text<A>.data(), growth_reported<A>};
 
-ElementStates element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const ArrayShape &array) {
-    return ElementStates(state_area(h, ctx_id, object, array.base_size) + array.inner);
+ElementStates element_states(const Call &call, mirk_object *object, const ArrayShape &array) {
+    return ElementStates(state_area(call.h, call.ctx_id, object, array.base_size) + array.inner);
 }
 
-// Moves the elements of an array that grows, their states included, and takes leave of the old block.
-void move_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *from, std::uint32_t old_count, mirk_object *to,
-                   std::uint64_t new_count, bool tracked, const ElementShape &shape, std::uint32_t *err) {
+// Moves the elements of an array that grows, their states included, and frees the old block.
+void move_elements(const Call &call, mirk_object *from, std::uint32_t old_count, mirk_object *to,
+                   std::uint64_t new_count, bool tracked, const ElementShape &shape) {
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
             // By the element's own offset: the stored count may have wrapped, and the old areas stand where they stand.
             std::memcpy(shape.area(to, new_count, i),
-                        state_area(h, ctx_id, shape.at(from, i), static_cast<std::uint32_t>(shape.base)), shape.width);
+                        state_area(call.h, call.ctx_id, shape.at(from, i), static_cast<std::uint32_t>(shape.base)),
+                        shape.width);
         }
     }
     std::memcpy(to, from, std::size_t{old_count} * shape.base);
@@ -72,53 +74,54 @@ void move_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *from, std:
         for (std::uint32_t i = 0; i < old_count; ++i) {
             mirk_object *element = shape.at(to, i);
             void *area = shape.area(to, new_count, i);
-            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(area)));
-            shape.offset_update(h, ctx_id, element, area, err);
+            mirklib_update_sttr_offset(call.h, call.ctx_id, element, distance(element, address_of(area)));
+            shape.offset_update(call.h, call.ctx_id, element, area, call.err);
         }
     }
     for (std::uint32_t i = 0; i < old_count; ++i) {
         mirk_object *old_element = shape.at(from, i);
-        shape.post_copyout_cleanup(h, ctx_id, shape.at(to, i), old_element, err);
+        shape.post_copyout_cleanup(call.h, call.ctx_id, shape.at(to, i), old_element, call.err);
         if (tracked) {
-            mirk_hd_mapping_destroy(h, ctx_id, old_element, err);
-            shape.offset_remove(h, ctx_id, old_element, err);
+            mirk_hd_mapping_destroy(call.h, call.ctx_id, old_element, call.err);
+            shape.offset_remove(call.h, call.ctx_id, old_element, call.err);
         }
     }
-    release(h, ctx_id, from);
+    call.release(from);
 }
 
-void initialize_new_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *block, std::uint32_t from,
-                             std::uint64_t n, bool tracked, const ElementShape &shape, std::uint32_t *err) {
+void initialize_new_elements(const Call &call, mirk_object *block, std::uint32_t from, std::uint64_t n, bool tracked,
+                             const ElementShape &shape) {
     if (tracked) {
         for (std::uint64_t i = from; i < n; ++i) {
             mirk_object *element = shape.at(block, i);
-            mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(shape.area(block, n, i))));
+            mirklib_update_sttr_offset(call.h, call.ctx_id, element,
+                                       distance(element, address_of(shape.area(block, n, i))));
         }
     }
-    StepErrors errors(h, err);
+    StepErrors errors(call.h, call.err);
     for (std::uint64_t i = from; i < n; ++i) {
-        shape.initialize(h, ctx_id, shape.at(block, i), &shape.type, 1, 0, flag::nested, shape.area(block, n, i),
-                         errors.next());
+        shape.initialize(call.h, call.ctx_id, shape.at(block, i), &shape.type, 1, 0, flag::nested,
+                         shape.area(block, n, i), errors.next());
     }
 }
 
 // A new vector of element states with the old ones at its front. False: EINVAL or ENOMEM is in the slot.
-bool grow_element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t old_count,
-                         std::uint64_t new_count, const ArrayShape &array, std::uint32_t *err) {
-    if (!is_state_tracked(object)) return refuse_untracked(h, err);
-    const ElementStates states = element_states(h, ctx_id, object, array);
+bool grow_element_states(const Call &call, mirk_object *object, std::uint32_t old_count, std::uint64_t new_count,
+                         const ArrayShape &array) {
+    if (!is_state_tracked(object)) return refuse_untracked(call.h, call.err);
+    const ElementStates states = element_states(call, object, array);
     std::uint8_t *old_states = states.block();
-    notify_write(h, ctx_id, states.word(), sizeof(void *));
-    auto *new_states = static_cast<std::uint8_t *>(allocate(h, ctx_id, new_count));
+    notify_write(call.h, call.ctx_id, states.word(), sizeof(void *));
+    auto *new_states = static_cast<std::uint8_t *>(call.allocate(new_count));
     states.put(new_states);
     if (new_states == nullptr) {
-        fail(h, err, ENOMEM);
+        call.fail(ENOMEM);
         return false;
     }
     std::memset(new_states, 0, new_count);
     if (old_states != nullptr) {
         std::memcpy(new_states, old_states, old_count);
-        release(h, ctx_id, old_states);
+        call.release(old_states);
     }
     return true;
 }
@@ -126,9 +129,9 @@ bool grow_element_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
 // Makes the array one of index + 1 elements. A value that lies in the old block is found at its new place after the
 // move. False: there was no memory, or no room for the state of elements.
 template <class Count>
-[[gnu::noinline]] bool grow(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Count *counter,
-                            mirk_object **block, std::uint32_t old_count, std::uint32_t index, mirk_object *&value,
-                            bool tracked, const ArrayShape &array, std::uint32_t *err) {
+[[gnu::noinline]] bool grow(const Call &call, mirk_object *object, Count *counter, mirk_object **block,
+                            std::uint32_t old_count, std::uint32_t index, mirk_object *&value, bool tracked,
+                            const ArrayShape &array) {
     const ElementShape &shape = array.element;
     mirk_object *old_block = *block;
     if (old_block != nullptr && !array.growth_reported.load(std::memory_order_relaxed)) {
@@ -138,79 +141,77 @@ template <class Count>
     // In 64 bits: the last index there is asks for 2^32 elements, and is refused for want of memory.
     const std::uint64_t new_count = std::uint64_t{index} + 1;
     const std::size_t stride = shape.base + (tracked ? shape.width : 0);
-    auto *new_block = static_cast<mirk_object *>(allocate(h, ctx_id, stride * new_count));
+    auto *new_block = static_cast<mirk_object *>(call.allocate(stride * new_count));
     if (new_block == nullptr) {
-        fail(h, err, ENOMEM);
+        call.fail(ENOMEM);
         return false;
     }
-    store(h, ctx_id, block, new_block);
+    call.store(block, new_block);
     std::memset(bytes_of(new_block), 0, stride * new_count);
     if (old_block != nullptr) {
         const std::uintptr_t into = address_of(value) - address_of(old_block);
         const bool inside = value != nullptr && into < std::size_t{old_count} * shape.base;
-        move_elements(h, ctx_id, old_block, old_count, new_block, new_count, tracked, shape, err);
+        move_elements(call, old_block, old_count, new_block, new_count, tracked, shape);
         if (inside) value = shape.at(new_block, into / shape.base);
     }
-    store(h, ctx_id, counter, static_cast<Count>(new_count));
-    initialize_new_elements(h, ctx_id, new_block, old_count, new_count, tracked, shape, err);
-    return !tracks(h) || grow_element_states(h, ctx_id, object, old_count, new_count, array, err);
+    call.store(counter, static_cast<Count>(new_count));
+    initialize_new_elements(call, new_block, old_count, new_count, tracked, shape);
+    return !tracks(call.h) || grow_element_states(call, object, old_count, new_count, array);
 }
 
 // Whether object can take value as an element; otherwise the error is in the slot.
-[[gnu::noinline]] bool may_take(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const mirk_object *value,
-                                std::uint32_t *err) {
-    if (!enter(h, err)) return false;
-    adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, 0, err)) return false;
-    if (tracks(h)) {
-        if (!is_state_tracked(object)) return refuse_untracked(h, err);
+[[gnu::noinline]] bool may_take(const Call &call, mirk_object *object, const mirk_object *value) {
+    if (!call.enter()) return false;
+    call.adjust_variant(object);
+    if (!call.require_body(object)) return false;
+    if (tracks(call.h)) {
+        if (!is_state_tracked(object)) return refuse_untracked(call.h, call.err);
         if (!is_state_tracked(value)) {
-            fail(h, err, EINVAL);
+            call.fail(EINVAL);
             trace(error_level, "(ERR): The val object is not state tracked");
             return false;
         }
     }
     if (object != nullptr) return true;
-    fail(h, err, EINVAL);
+    call.fail(EINVAL);
     return false;
 }
 
-std::uint8_t get_element_state(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
-                               std::uint32_t index, const ArrayShape &array, std::uint32_t *err) {
-    if (*err != 0 || !can_read_state(h, object, err)) return 0;
+std::uint8_t get_element_state(const Call &call, mirk_object *object, std::uint32_t count, std::uint32_t index,
+                               const ArrayShape &array) {
+    if (*call.err != 0 || !can_read_state(call.h, object, call.err)) return 0;
     if (index >= count) {
-        fail(h, err, ENOENT);
+        call.fail(ENOENT);
         return 0;
     }
-    return element_states(h, ctx_id, object, array).get(index);
+    return element_states(call, object, array).get(index);
 }
 
-void set_element_state(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
-                       std::uint32_t index, std::uint8_t value, const ArrayShape &array, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state(h, object, err)) return;
-    adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, 0, err)) return;
+void set_element_state(const Call &call, mirk_object *object, std::uint32_t count, std::uint32_t index,
+                       std::uint8_t value, const ArrayShape &array) {
+    if (*call.err != 0 || !can_write_state(call.h, object, call.err)) return;
+    call.adjust_variant(object);
+    if (!call.require_body(object)) return;
     if (index >= count) {
-        fail(h, err, ENOENT);
+        call.fail(ENOENT);
         return;
     }
-    std::uint8_t *states = element_states(h, ctx_id, object, array).block();
-    if (states != nullptr) store(h, ctx_id, states + index, value);
+    std::uint8_t *states = element_states(call, object, array).block();
+    if (states != nullptr) call.store(states + index, value);
     mark_modified(object, 0);
 }
 
 // The bytes of the owner's state area that belong to addresses of vectors are marked.
-void set_all_states(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t count,
-                    const std::uint8_t *source, std::uint32_t length, std::span<const bool> is_address,
-                    const ArrayShape &array, std::uint32_t *err) {
-    if (*err != 0 || !can_write_state(h, object, err)) return;
+void set_all_states(const Call &call, mirk_object *object, std::uint32_t count, const std::uint8_t *source,
+                    std::uint32_t length, std::span<const bool> is_address, const ArrayShape &array) {
+    if (*call.err != 0 || !can_write_state(call.h, object, call.err)) return;
     if (length != count) {
-        fail(h, err, ENOENT);
+        call.fail(ENOENT);
         return;
     }
-    adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, 0, err)) return;
-    std::uint8_t *area = state_area(h, ctx_id, object, array.base_size);
+    call.adjust_variant(object);
+    if (!call.require_body(object)) return;
+    std::uint8_t *area = state_area(call.h, call.ctx_id, object, array.base_size);
     for (std::uint32_t i = 0; i < length && i < is_address.size(); ++i) {
         if (!is_address[i]) area[i] = source[i];
     }
@@ -234,12 +235,13 @@ mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t, mirk_object *object, s
 template <class A>
 void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index, mirk_object *value,
                    std::uint32_t copy_mode, std::uint32_t *err) {
-    if (!may_take(h, ctx_id, object, value, err)) return;
+    const Call call{h, ctx_id, err};
+    if (!may_take(call, object, value)) return;
     const bool tracked = tracks(h);
     mirk_object **block = A::at(object);
     const std::uint32_t count = A::count(object);
     if (index >= count &&
-        !grow(h, ctx_id, object, A::Counter::at(object), block, count, index, value, tracked, array_shape<A>, err)) {
+        !grow(call, object, A::Counter::at(object), block, count, index, value, tracked, array_shape<A>)) {
         return;
     }
     if (value == nullptr) return;
@@ -269,20 +271,20 @@ std::uint32_t Array<A>::set_cr(mirk_handle *h, mirk_object *object, std::uint32_
 template <class A>
 std::uint8_t Array<A>::state_flag_get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                                       std::uint32_t *err) {
-    return get_element_state(h, ctx_id, object, A::count(object), index, array_shape<A>, err);
+    return get_element_state({h, ctx_id, err}, object, A::count(object), index, array_shape<A>);
 }
 
 template <class A>
 void Array<A>::state_flag_set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                               std::uint8_t value, std::uint32_t *err) {
-    set_element_state(h, ctx_id, object, A::count(object), index, value, array_shape<A>, err);
+    set_element_state({h, ctx_id, err}, object, A::count(object), index, value, array_shape<A>);
 }
 
 template <class A>
 void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t **out,
                                   std::uint32_t *err) {
     if (*err != 0 || !can_read_state(h, object, err)) return;
-    *out = element_states(h, ctx_id, object, array_shape<A>).block();
+    *out = element_states({h, ctx_id, err}, object, array_shape<A>).block();
 }
 
 // The bytes go to the start of the owner's state area and not to the vector, unannounced. The copy ends with the area
@@ -291,7 +293,7 @@ template <class A>
 void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const std::uint8_t *source,
                                   std::uint32_t length, std::uint32_t *err) {
     static constexpr auto is_address = vector_bytes<A::owner>();
-    set_all_states(h, ctx_id, object, A::count(object), source, length, is_address, array_shape<A>, err);
+    set_all_states({h, ctx_id, err}, object, A::count(object), source, length, is_address, array_shape<A>);
 }
 
 }  // namespace tarn
