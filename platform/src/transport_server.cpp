@@ -127,7 +127,7 @@ public:
         if (queue_.empty()) close(7, reason);
     }
 
-    // Closes because a limit is passed.
+    // Closes because a limit is passed, or because what arrived is not a frame.
     void refuse(const char *reason) {
         if (closed_) return;
         const auto self = shared_from_this();
@@ -216,7 +216,7 @@ private:
                     read();
                     return;
                 case mirk::Inbox::Cut::bad:
-                    close(3, "what it sent is no frame");
+                    refuse("what it sent is no frame");
                     return;
                 case mirk::Inbox::Cut::too_long:
                     refuse("its frame exceeds the limit");

@@ -20,13 +20,14 @@ protected:
         ASSERT_TRUE(server_->is_ready());
     }
     // The server says so, without being asked to be verbose, and goes on.
-    void expect_turned_out(const std::string &reason, unsigned peers = 1) {
+    void expect_turned_out(const std::string &reason, unsigned peers = 1, unsigned for_other_reasons = 0) {
         EXPECT_TRUE(server_->process().wait_for_error(": " + reason + "\n", peers)) << server_->process().err();
         expect_served();
         const Outcome end = server_->process().stop();
         EXPECT_EQ(0, end.exit) << end.err;
-        EXPECT_NE(std::string::npos, end.out.find(", " + std::to_string(peers) + " peers turned out\n")) << end.out;
-        EXPECT_EQ(peers, occurrences(end.err, "tarn: peer ")) << end.err;
+        const unsigned all = peers + for_other_reasons;
+        EXPECT_NE(std::string::npos, end.out.find(", " + std::to_string(all) + " peers turned out\n")) << end.out;
+        EXPECT_EQ(all, occurrences(end.err, "tarn: peer ")) << end.err;
     }
     void expect_served() const {
         const Outcome shown = server_->show("cl-debug");
@@ -73,7 +74,24 @@ TEST_F(Limit, OfAFrame) {
     const Socket exceeds = connect();
     exceeds.send(frame_of_length(2049).substr(0, 43));
     EXPECT_EQ("", exceeds.receive());
-    expect_turned_out("its frame exceeds the limit");
+    expect_turned_out("its frame exceeds the limit", 1, 1);
+}
+
+TEST_F(Limit, PeersThatSendNoRequestAreNamedAsWell) {
+    serve({});
+    std::string unknown_luid = debug_request();
+    unknown_luid[30] ^= 0x55;
+    const std::string other_message = control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "start");
+    for (const std::string &bytes : {unknown_luid, other_message}) {
+        const Socket peer = connect();
+        peer.send(bytes);
+        EXPECT_NE(std::string::npos, peer.receive().find("this is no request"));
+    }
+    const Socket garbage = connect();
+    garbage.send(std::string(100, 'x'));
+    EXPECT_EQ("", garbage.receive());
+    EXPECT_TRUE(server_->process().wait_for_error("tarn: peer 3 is turned out: what it sent is no frame\n"));
+    expect_turned_out("it sent a frame that is not a request", 2, 1);
 }
 
 TEST_F(Limit, OfAFrameOverTcp) {

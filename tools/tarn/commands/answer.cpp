@@ -68,10 +68,9 @@ void add_answer(CLI::App &app, Context &) {
         ->transform(CLI::CheckedTransformer(fault_names)
                         .description("{abort,cut,foreign,no-commit,rubbish,second-start,silent,unknown}"));
     command->footer(
-        "Prints one line when it is ready. SIGINT or SIGTERM ends it with exit code 0. A peer that passes a limit is\n"
-        "named on standard error, with the limit, and disconnected; the others are served on. Sizes are bytes, or "
-        "take\n"
-        "a unit: 64KiB, 16MiB.\n\n"
+        "Prints one line when it is ready. SIGINT or SIGTERM ends it with exit code 0. A peer that passes a limit, or\n"
+        "sends anything but requests, is named on standard error, with the reason, and disconnected; the others are\n"
+        "served on. Sizes are bytes, or take a unit: 64KiB, 16MiB.\n\n"
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock lumo_tarn_dp_tt_cfg_rsp=tables.json dp-intf=intf.xml\n"

@@ -95,8 +95,10 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
     mirk_platform_request request;
     const mirk_platform_error error = mirk_platform_request_decode(frame, size, &request);
     if (error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
+        const char *reason = "it sent a frame that is not a request";
         refuse(peer, error != 0 ? error : EBADMSG, "this is no request");
-        mirk_platform_server_disconnect(server_, peer, "sent a frame that is no request");
+        print_refused(peer, reason);
+        mirk_platform_server_disconnect(server_, peer, reason);
         return;
     }
     const auto *bundle = reflect::find_bundle(request.bundle);
