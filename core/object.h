@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "mirk/mirk.h"
+#include "schema/frame.h"
 #include "schema/layout.h"
 
 namespace tarn {
@@ -13,8 +14,8 @@ namespace flag {
 inline constexpr std::uint8_t oid_mapped = 1;
 inline constexpr std::uint8_t embedded = 2;
 inline constexpr std::uint8_t nested = 4;
-inline constexpr std::uint8_t state_tracked = 8;
-inline constexpr std::uint8_t ra_data = 32;
+inline constexpr std::uint8_t state_tracked = schema::wire_flag::tracked;
+inline constexpr std::uint8_t ra_data = schema::wire_flag::ra_data;
 inline constexpr std::uint8_t sttr_offset = 64;
 inline constexpr std::uint8_t on_the_wire = state_tracked | ra_data;
 }  // namespace flag

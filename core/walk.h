@@ -18,24 +18,9 @@ using schema::Member;
 using schema::Record;
 using schema::Role;
 
+// What a member of a kind is in memory. Kinds of single values say so in their files.
 template <Kind K>
 struct StorageOf;
-template <>
-struct StorageOf<Kind::u8> : std::type_identity<std::uint8_t> {};
-template <>
-struct StorageOf<Kind::u16> : std::type_identity<std::uint16_t> {};
-template <>
-struct StorageOf<Kind::u32> : std::type_identity<std::uint32_t> {};
-template <>
-struct StorageOf<Kind::u64> : std::type_identity<std::uint64_t> {};
-template <>
-struct StorageOf<Kind::boolean> : std::type_identity<mirk_boolean> {};
-template <>
-struct StorageOf<Kind::address> : std::type_identity<ip_address> {};
-template <>
-struct StorageOf<Kind::enumeration> : std::type_identity<enumeration_object> {};
-template <>
-struct StorageOf<Kind::record> : std::type_identity<mirk_object> {};
 template <>
 struct StorageOf<Kind::array> : std::type_identity<mirk_object *> {};
 template <>

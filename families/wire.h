@@ -1,21 +1,17 @@
-// The binary form. A record is a frame, and frames nest:
-//
-//   variant   1   never above 0; negative: no body follows
-//   flag      1   bits 8 (state bytes are interleaved) and 32 (RA data follows) of the object's flag
-//   RA data   -   if bit 32 is set, as the runtime writes it
-//   jump      4   bytes from here to the end of the frame, these four included
-//   body          members in table order, each followed by its state byte if bit 8 is set
+// The binary form. A record is a frame of the parts that schema/frame.h lists, and frames nest: a body is the members
+// in table order, each followed by its state byte if the flag says so.
 //
 // An array is its count, the frames of its elements and, if tracked and not empty, the state of the whole and one byte
 // for each element. A string is its length, its characters and, if tracked and not empty, one state byte. A reader
-// steps over what a newer sender wrote behind the members known here, by the jump.
+// skips what a newer sender wrote after the members known here, by the jump.
 #pragma once
 
 #include "core/walk.h"
+#include "schema/frame.h"
 
 namespace tarn {
 
-constexpr std::uint32_t record_head = 1 + 1 + 4;  // variant, flag and jump
+inline constexpr std::uint32_t record_head = schema::record_head_size;
 
 template <const Record &R>
 struct WireWrite {

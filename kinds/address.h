@@ -5,6 +5,9 @@
 
 namespace tarn {
 
+template <>
+struct StorageOf<Kind::address> : std::type_identity<ip_address> {};
+
 template <auto Of>
 struct PrimitiveOf<Kind::address, Of> {
     static constexpr auto get = ip_address_get;

@@ -5,6 +5,9 @@
 
 namespace tarn {
 
+template <>
+struct StorageOf<Kind::boolean> : std::type_identity<mirk_boolean> {};
+
 template <auto Of>
 struct PrimitiveOf<Kind::boolean, Of> {
     static constexpr auto get = mirk_boolean_get;

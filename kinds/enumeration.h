@@ -32,7 +32,9 @@ struct Enum {
         return static_cast<std::int32_t>(a->value - b->value);
     }
     static std::uint32_t hash(const object *instance, std::uint32_t seed);
-    static std::uint32_t len(mirk_handle *, std::uint32_t, const object *) { return 5; }
+    static std::uint32_t len(mirk_handle *, std::uint32_t, const object *) {
+        return schema::facts(Kind::enumeration).wire;
+    }
     static std::uint32_t len_cr(const mirk_handle *h) { return h->last_error != 0 ? 0 : 5; }
     static object *get(mirk_handle *, std::uint32_t, object *instance, std::uint32_t *) { return instance; }
     static std::uint32_t get_value(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t *err);
@@ -58,6 +60,9 @@ private:
     static object *sentinel();
     static bool admits(object *instance, std::uint32_t value);
 };
+
+template <>
+struct StorageOf<Kind::enumeration> : std::type_identity<enumeration_object> {};
 
 template <auto Of>
 struct PrimitiveOf<Kind::enumeration, Of> : Enum<*Of> {

@@ -5,7 +5,9 @@
 
 namespace tarn {
 
-#define TARN_INTEGER_KIND(KIND, NAME)                                   \
+#define TARN_INTEGER_KIND(KIND, TYPE, NAME)                             \
+    template <>                                                         \
+    struct StorageOf<Kind::KIND> : std::type_identity<TYPE> {};         \
     template <auto Of>                                                  \
     struct PrimitiveOf<Kind::KIND, Of> {                                \
         static constexpr auto get = NAME##_get;                         \
@@ -26,10 +28,10 @@ namespace tarn {
             return *a > *b ? 1 : -1;                                    \
         }                                                               \
     };
-TARN_INTEGER_KIND(u8, u_int8)
-TARN_INTEGER_KIND(u16, u_int16)
-TARN_INTEGER_KIND(u32, u_int32)
-TARN_INTEGER_KIND(u64, u_int64)
+TARN_INTEGER_KIND(u8, std::uint8_t, u_int8)
+TARN_INTEGER_KIND(u16, std::uint16_t, u_int16)
+TARN_INTEGER_KIND(u32, std::uint32_t, u_int32)
+TARN_INTEGER_KIND(u64, std::uint64_t, u_int64)
 #undef TARN_INTEGER_KIND
 
 }  // namespace tarn

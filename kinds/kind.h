@@ -1,5 +1,6 @@
-// What a kind of single-valued member does in each family: one specialization a kind, each in a file of its own. Arrays
-// and strings are not here, since each family treats their elements and characters itself.
+// What a kind of single-valued member is in memory and does in each family: one specialization of StorageOf and one of
+// PrimitiveOf a kind, in a file of its own. Arrays and strings are not here, since each family treats their elements
+// and characters itself.
 //
 // May know: core/, and the families by name alone.
 #pragma once

@@ -31,6 +31,9 @@ struct XmlRead;
 template <const Record &R>
 struct XmlWrite;
 
+template <>
+struct StorageOf<Kind::record> : std::type_identity<mirk_object> {};
+
 template <auto Of>
 struct PrimitiveOf<Kind::record, Of> {
     static mirk_object *get(mirk_handle *, std::uint32_t, mirk_object *field, std::uint32_t *) { return field; }

@@ -25,10 +25,9 @@ LOOPS = {Kind.WHILE_STMT, Kind.FOR_STMT}
 EXPRESSIONS = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR,
                Kind.UNEXPOSED_EXPR}
 COMPARISONS = {"==", "!=", "<", ">", "<=", ">="}
-# What is true in the archive alone, and the functions that nothing else calls.
-ARCHIVE_WORDS = re.compile(r"(!?)\b(?:runtime_inside|sure|stateless)\b")
-ARCHIVE_FUNCTIONS = {"run", "write_nested", "read_nested", "write_values", "write_unsure_frame", "read_values",
-                     "read_stateful", "initialize_unobserved", "initialize_tree_unobserved"}
+# What only the archive compiles: what this word guards, and a folder.
+ARCHIVE_WORD = re.compile(r"(!?)\bruntime_inside\b")
+ARCHIVE_FOLDER = pathlib.PurePath("families/shortcuts")
 INTEGERS = re.compile(r"(const )?(unsigned |signed )?(char|short|int|long|long long|bool)$")
 
 SWITCH_HEADER = """#pragma once
@@ -79,7 +78,6 @@ class Finder:
         self.root = root
         self.sources = {}
         self.found = {}  # (file, start, end, kind) -> mutant
-        self.skipped = set()
 
     def text(self, file):
         if file not in self.sources:
@@ -94,7 +92,7 @@ class Finder:
             file = pathlib.Path(place.name).resolve().relative_to(self.root)
         except ValueError:
             return None
-        return file if file.parts[0] in FOLDERS else None
+        return file if file.parts[0] in FOLDERS and file.parent != ARCHIVE_FOLDER else None
 
     def add(self, kind, start, end):
         if start >= end:
@@ -122,9 +120,6 @@ class Finder:
         if cursor.kind in FUNCTIONS and cursor.is_definition():
             self.file = self.file_of(cursor)
             if self.file is None or self.evaluated_by_compiler(cursor, r"[{]"):
-                return
-            if cursor.spelling in ARCHIVE_FUNCTIONS:
-                self.skipped.add(cursor.spelling)
                 return
             for child in cursor.get_children():
                 # A macro's expansion has no text of its own.
@@ -189,7 +184,7 @@ class Finder:
 
     def archive_words(self, cursor):
         start, end = self.span(cursor)
-        return ARCHIVE_WORDS.findall(self.text(self.file)[start:end].decode())
+        return ARCHIVE_WORD.findall(self.text(self.file)[start:end].decode())
 
     def is_constexpr_if(self, cursor):
         start, end = self.span(cursor)
@@ -274,8 +269,8 @@ def find(root, exports):
             if errors:
                 sys.exit(f"{unit}: {errors[0]}")
             finder.visit(parsed.cursor)
-    if finder.skipped != ARCHIVE_FUNCTIONS:
-        sys.exit(f"no function has one of these names any more: {', '.join(sorted(ARCHIVE_FUNCTIONS - finder.skipped))}")
+    if not (root / ARCHIVE_FOLDER).is_dir():
+        sys.exit(f"there is no folder {ARCHIVE_FOLDER}")
     return finder, [finder.found[key] for key in sorted(finder.found)]
 
 
@@ -323,7 +318,7 @@ def main():
         mutant["id"] = number
     expected = {out / "core/mutant_switch.h", out / "core/mutant_switch.cpp"}
     for folder in FOLDERS:
-        for path in sorted((root / folder).iterdir()):
+        for path in sorted(p for p in (root / folder).rglob("*") if p.is_file()):
             file = path.relative_to(root)
             mine = [m for m in sample if m["file"] == str(file)]
             put(out / file, write(path.read_bytes(), mine) if mine else path.read_bytes())
@@ -331,8 +326,8 @@ def main():
     put(out / "core/mutant_switch.h", SWITCH_HEADER.encode())
     put(out / "core/mutant_switch.cpp", SWITCH_SOURCE.replace("COUNT", str(max(len(sample), 1))).encode())
     for folder in FOLDERS:
-        for path in (out / folder).iterdir():
-            if path not in expected:
+        for path in (out / folder).rglob("*"):
+            if path.is_file() and path not in expected:
                 path.unlink()
     put(out / "mutants.json", json.dumps({"possible": len(every), "seed": seed, "mutants": sample}, indent=1).encode())
     print(f"{len(sample)} of {len(every)} possible mutants, seed {seed}")
