@@ -1,4 +1,4 @@
-# lumo_ui_tarn_static: the library and the stand-in runtime in one archive, for programs that need no foreign runtime.
+# lumo_ui_tarn_static: the library and the reference runtime in one archive, for programs that need no foreign runtime.
 #
 # All of it is compiled as one program, so that the runtime's primitives end up inside the code that calls them, and
 # written as one object of ordinary machine code: whoever links the archive needs neither this compiler nor its flags.
@@ -13,7 +13,7 @@ target_link_libraries(tarn_static_library PRIVATE mirk_contract tarn_schema)
 
 add_library(tarn_static_runtime OBJECT EXCLUDE_FROM_ALL ${MIRK_MIRKLIB_SOURCES} ${MIRK_SKALD_SOURCES} ${MIRK_VELD_SOURCES})
 target_include_directories(tarn_static_runtime SYSTEM PRIVATE ${ASIO_INCLUDE_DIR})
-target_include_directories(tarn_static_runtime PRIVATE platform/include)
+target_include_directories(tarn_static_runtime PRIVATE ${PROJECT_SOURCE_DIR} platform/include)
 target_compile_definitions(tarn_static_runtime PRIVATE ASIO_STANDALONE ASIO_NO_DEPRECATED)
 target_compile_options(tarn_static_runtime PRIVATE -fno-strict-aliasing $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 target_link_libraries(tarn_static_runtime PRIVATE mirk_contract LibXml2::LibXml2 Threads::Threads)

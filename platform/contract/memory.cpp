@@ -1,0 +1,183 @@
+// The memory callbacks of a handle, and plain memory. A block is what malloc gave, with nothing in front of it, so that
+// memory checkers see its true bounds; what the runtime knows about it stands in a table beside it.
+#include <algorithm>
+#include <mutex>
+
+#include "platform/contract/handle.hpp"
+
+using mirk::Handle;
+using mirk::own;
+
+namespace {
+
+constexpr size_t mirklib_malloc_index = MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC;
+
+std::mutex plain_lock;
+mirk::AllocationFailure plain_failure;
+
+mirk::AllocationFailure &failure_of(Handle &handle, mirk_platform_testing_allocator allocator) {
+    return handle.allocation_failures.at(static_cast<size_t>(allocator));
+}
+
+bool within_ceilings(const Handle &handle, size_t size, bool has_offsets) {
+    if (size > handle.request_ceiling || size > handle.total_ceiling) return false;
+    const uint64_t offsets = has_offsets ? handle.offsets.bytes_with(size) : handle.offsets.bytes();
+    return handle.live_bytes + offsets <= handle.total_ceiling - size;
+}
+
+void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
+    if (failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) return nullptr;
+    const bool has_offsets = mirk::tracks(&handle);
+    if (!within_ceilings(handle, size, has_offsets)) return nullptr;
+    void *block = std::malloc(size == 0 ? 1 : size);
+    if (block == nullptr) return nullptr;
+    const mirk::Block known{size, handle.blocks_made + 1, ctx_id, has_offsets};
+    if (handle.blocks.put(mirk::address_of(block), known) == nullptr) {
+        std::free(block);
+        return nullptr;
+    }
+    // Recording the state offset of an object cannot report an allocation failure, so its entry is reserved here.
+    if (has_offsets && !handle.offsets.reserve(block, size)) {
+        handle.blocks.erase(mirk::address_of(block));
+        std::free(block);
+        return nullptr;
+    }
+    ++handle.blocks_made;
+    handle.live_bytes += size;
+    if (handle.fresh_fill >= 0) std::memset(block, handle.fresh_fill, size);
+    return block;
+}
+
+extern "C" {
+
+static void *obj_alloc(void *mem_ctx, uint32_t ctx_id, size_t size) {
+    auto &handle = *static_cast<Handle *>(mem_ctx);
+    void *block = allocate(handle, ctx_id, size);
+    handle.event(MIRK_PLATFORM_TESTING_ALLOC, block, size, 0, ctx_id);
+    return block;
+}
+
+static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
+    auto &handle = *static_cast<Handle *>(mem_ctx);
+    if (p == nullptr) return;
+    const mirk::Block *known = handle.blocks.find(mirk::address_of(p));
+    if (known == nullptr) {
+        // The plain destroy of a control message hands its sentinel on, which is no block of ours.
+        handle.event(MIRK_PLATFORM_TESTING_FREE, p, 0, 0, ctx_id);
+        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): obj_free of an address that is no live block: %p", p);
+        return;
+    }
+    const size_t size = known->size;
+    const bool has_offsets = known->has_offsets;
+    handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
+    // The next object at an address in here must not inherit what this one had.
+    handle.offsets.forget(p, size);
+    if (has_offsets) handle.offsets.unreserve(p, size);
+    handle.ra_data.forget(p, size);
+    handle.references.forget(p, size);
+    handle.live_bytes -= size;
+    handle.blocks.erase(mirk::address_of(p));
+    std::free(p);
+}
+
+static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
+    auto &handle = *static_cast<Handle *>(sys_ctx);
+    void *block =
+        failure_of(handle, MIRK_PLATFORM_TESTING_SYS_ALLOC).next() ? nullptr : mirk::keep_for_life(handle, size);
+    handle.event(MIRK_PLATFORM_TESTING_SYS_ALLOCATED, block, size, id, 0);
+    return block;
+}
+
+}  // extern "C"
+}  // namespace
+
+namespace mirk {
+
+void memory_callbacks(Handle &handle) {
+    handle.sys_alloc = sys_alloc;
+    handle.obj_alloc = obj_alloc;
+    handle.obj_free = obj_free;
+    handle.write_notify = mirk_own_write_notify;
+    handle.count_notify = mirk_own_count_notify;
+    handle.mem_ctx = &handle;
+    handle.sys_ctx = &handle;
+}
+
+void *keep_for_life(Handle &handle, size_t size) {
+    void *block = std::calloc(1, size == 0 ? 1 : size);
+    if (block == nullptr) return nullptr;
+    const auto error = guarded([&]() -> mirk_platform_error {
+        handle.system_blocks.push_back(block);
+        return 0;
+    });
+    if (error == 0) return block;
+    std::free(block);
+    return nullptr;
+}
+
+}  // namespace mirk
+
+extern "C" {
+
+int mirk_own_write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id) {
+    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_WRITE_NOTIFY, address, size, 0, ctx_id);
+    return 0;
+}
+
+int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id) {
+    static_cast<Handle *>(mem_ctx)->event(MIRK_PLATFORM_TESTING_COUNT_NOTIFY, address, 8, delta, ctx_id);
+    return 0;
+}
+
+// For a library that is compiled as one program with this runtime.
+bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_heard(h); }
+
+void *mirklib_malloc(void *, uint32_t, size_t size) {
+    {
+        const std::lock_guard<std::mutex> hold(plain_lock);
+        if (plain_failure.next()) return nullptr;
+    }
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void mirklib_free(void *, uint32_t, void *p) { std::free(p); }
+
+size_t mirk_platform_live_blocks(mirk_handle *h) { return own(h)->blocks.size(); }
+
+uint64_t mirk_platform_live_bytes(mirk_handle *h) { return own(h)->live_bytes; }
+
+size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform_block *blocks, size_t capacity) {
+    mirk::guarded([&]() -> mirk_platform_error {
+        std::vector<mirk_platform_block> all;
+        all.reserve(own(h)->blocks.size());
+        own(h)->blocks.for_each([&](uintptr_t address, const mirk::Block &known) {
+            all.push_back({reinterpret_cast<void *>(address), known.size, known.ctx_id, known.serial});
+        });
+        std::sort(all.begin(), all.end(), [](const auto &a, const auto &b) { return a.serial < b.serial; });
+        std::copy_n(all.begin(), std::min(capacity, all.size()), blocks);
+        return 0;
+    });
+    return own(h)->blocks.size();
+}
+
+void mirk_platform_testing_fail_allocation(mirk_handle *h, mirk_platform_testing_allocator allocator, uint64_t nth,
+                                           uint32_t onwards) {
+    const std::lock_guard<std::mutex> hold(plain_lock);
+    auto &failure = allocator == mirklib_malloc_index ? plain_failure : failure_of(*own(h), allocator);
+    failure.nth = nth;
+    failure.onwards = onwards != 0;
+}
+
+uint64_t mirk_platform_testing_allocations(mirk_handle *h, mirk_platform_testing_allocator allocator) {
+    const std::lock_guard<std::mutex> hold(plain_lock);
+    return allocator == mirklib_malloc_index ? plain_failure.calls : failure_of(*own(h), allocator).calls;
+}
+
+void mirk_platform_testing_set_ceilings(mirk_handle *h, uint64_t request, uint64_t total) {
+    own(h)->request_ceiling = request;
+    own(h)->total_ceiling = total;
+}
+
+void mirk_platform_testing_set_fresh_fill(mirk_handle *h, uint8_t byte) { own(h)->fresh_fill = byte; }
+
+}  // extern "C"

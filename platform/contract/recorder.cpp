@@ -1,0 +1,33 @@
+// The recorder's switch and its stream, for the whole process.
+#include <atomic>
+
+#include "platform/contract/handle.hpp"
+
+namespace {
+
+std::atomic<uint32_t> recording{0};
+std::atomic<FILE *> recording_stream{nullptr};
+thread_local bool skip_next = false;
+
+}  // namespace
+
+namespace mirk {
+
+void skip_next_recording(bool skip) { skip_next = skip; }
+
+}  // namespace mirk
+
+extern "C" {
+
+uint32_t mirklib_msg_recorder_get_state(void) { return std::exchange(skip_next, false) ? 0 : recording.load(); }
+
+FILE *mirklib_msg_recorder_get_handle(void) { return recording_stream.load(); }
+
+void mirk_platform_recorder_set(uint32_t on, FILE *stream) {
+    // Off first and on last, so that nobody finds it on with the stream of another time.
+    recording.store(0);
+    recording_stream.store(stream);
+    recording.store(on != 0 ? 1 : 0);
+}
+
+}  // extern "C"

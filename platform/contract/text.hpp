@@ -1,0 +1,149 @@
+// Lines and elements: the shapes that all primitives share, each in one place.
+#pragma once
+
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "platform/contract/contract.hpp"
+
+namespace mirk {
+
+// "<name>VALUE</name>" with an uncounted NUL, the opening tag showing a nonzero state; whole or not at all.
+uint32_t print_element(char *buffer, const char *name, uint8_t state, std::string_view value, int32_t remaining,
+                       uint32_t *err);
+
+// Decimal digits of a number.
+class Decimal {
+public:
+    explicit Decimal(uint64_t value)
+        : length_(static_cast<size_t>(std::to_chars(digits_, digits_ + sizeof digits_, value).ptr - digits_)) {}
+    std::string_view view() const { return {digits_, length_}; }
+
+private:
+    char digits_[20] = {};
+    size_t length_;
+};
+
+// The first bytes of a text and the last ones, which may be the same.
+template <size_t width>
+[[gnu::always_inline]] inline void copy_both_ends(char *to, const char *from, size_t size) {
+    char head[width], tail[width];
+    std::memcpy(head, from, width);
+    std::memcpy(tail, from + size - width, width);
+    std::memcpy(to, head, width);
+    std::memcpy(to + size - width, tail, width);
+}
+
+// Copies what is mostly short, such as names and numbers: two moves that may overlap take less than a call. Returns
+// where the copy ends.
+[[gnu::always_inline]] inline char *copy_short(char *to, std::string_view text) {
+    const char *from = text.data();
+    const size_t size = text.size();
+    if (size > 32) {
+        std::memcpy(to, from, size);
+    } else if (size >= 16) {
+        copy_both_ends<16>(to, from, size);
+    } else if (size >= 8) {
+        copy_both_ends<8>(to, from, size);
+    } else if (size >= 4) {
+        copy_both_ends<4>(to, from, size);
+    } else if (size >= 2) {
+        copy_both_ends<2>(to, from, size);
+    } else if (size == 1) {
+        *to = *from;
+    }
+    return to + size;
+}
+
+// Text that is measured first and written afterwards, so that it goes out whole or not at all: the same walk runs
+// twice, the first time without a buffer.
+class TextSink {
+public:
+    explicit TextSink(char *to) : to_(to) {}
+    uint64_t length() const { return length_; }
+
+    void put(std::string_view text) {
+        if (to_ != nullptr) to_ = text.copy(to_, text.size()) + to_;
+        length_ += text.size();
+    }
+    void blanks(uint32_t count) {
+        if (to_ != nullptr) {
+            for (uint32_t i = 0; i < count; ++i) *to_++ = ' ';
+        }
+        length_ += count;
+    }
+
+private:
+    char *to_;
+    uint64_t length_ = 0;
+};
+
+// Runs `walk` over a measuring and then a writing sink. Text and NUL must fit, else 90.
+template <typename Walk>
+uint32_t write_whole(char *buffer, int32_t remaining, uint32_t *err, Walk walk) {
+    TextSink measured(nullptr);
+    walk(measured);
+    if (remaining < 0 || measured.length() + 1 > static_cast<uint64_t>(remaining)) {
+        *err = 90;
+        return 0;
+    }
+    TextSink written(buffer);
+    walk(written);
+    buffer[written.length()] = 0;
+    return static_cast<uint32_t>(written.length());
+}
+
+inline std::string_view text_or_empty(const char *text) { return text != nullptr ? std::string_view(text) : ""; }
+
+// "name@kind:VALUE" behind `indent` blanks, with a line end and an uncounted NUL; whole or not at all. Most of a text
+// is such lines, so what is known where the line is written, as its "@kind:" is, should be known here.
+[[gnu::always_inline]] inline uint32_t print_line(char *buffer, uint32_t indent, const char *name,
+                                                  std::string_view kind, std::string_view value, int32_t remaining,
+                                                  uint32_t *err) {
+    constexpr std::string_view blanks = "                                ";
+    const std::string_view own = text_or_empty(name);
+    const uint64_t length = uint64_t{indent} + own.size() + kind.size() + value.size() + 1;
+    if (remaining < 0 || length + 1 > static_cast<uint64_t>(remaining)) {
+        *err = 90;
+        return 0;
+    }
+    char *to = buffer;
+    if (indent <= blanks.size()) {
+        to = copy_short(to, blanks.substr(0, indent));
+    } else {
+        std::memset(to, ' ', indent);
+        to += indent;
+    }
+    to = copy_short(to, own);
+    std::memcpy(to, kind.data(), kind.size());
+    to = copy_short(to + kind.size(), value);
+    to[0] = '\n';
+    to[1] = 0;
+    return static_cast<uint32_t>(length);
+}
+
+// Writes the opening tag; `name` may carry attributes behind a blank.
+void put_start_tag(TextSink &sink, std::string_view name, uint8_t state);
+void put_end_tag(TextSink &sink, std::string_view name);
+
+// Without the blanks that XML knows, at both ends.
+inline std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r\n";
+    const size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+// Whole text as a decimal number within the width of T.
+template <typename T>
+bool parse_decimal(std::string_view text, T *value) {
+    T parsed{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), parsed);
+    if (error != std::errc() || end != text.data() + text.size() || text.empty()) return false;
+    *value = parsed;
+    return true;
+}
+
+}  // namespace mirk

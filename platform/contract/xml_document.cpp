@@ -1,0 +1,235 @@
+// Documents: loading them with care, and reading element values from them.
+#include <libxml/parser.h>
+#include <libxml/xpath.h>
+#include <libxml/xpathInternals.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+#include "platform/contract/document.hpp"
+#include "platform/contract/handle.hpp"
+#include "platform/contract/xml_path.hpp"
+
+namespace {
+
+using mirk::PathMemo;
+
+template <auto Release>
+struct Releaser {
+    template <typename T>
+    void operator()(T *p) const {
+        Release(p);
+    }
+};
+using Document = std::unique_ptr<xmlDoc, Releaser<xmlFreeDoc>>;
+using ParserContext = std::unique_ptr<xmlParserCtxt, Releaser<xmlFreeParserCtxt>>;
+using PathContext = std::unique_ptr<xmlXPathContext, Releaser<xmlXPathFreeContext>>;
+using PathResult = std::unique_ptr<xmlXPathObject, Releaser<xmlXPathFreeObject>>;
+using File = std::unique_ptr<FILE, Releaser<fclose>>;
+
+// Document type declarations define entities and fetch files; nothing good comes of them here.
+struct Refusal {
+    int line = 0;
+};
+
+extern "C" void refuse_doctype(void *context, const xmlChar *, const xmlChar *, const xmlChar *) {
+    auto *parser = static_cast<xmlParserCtxt *>(context);
+    static_cast<Refusal *>(parser->_private)->line = parser->input != nullptr ? parser->input->line : 1;
+    xmlStopParser(parser);
+}
+
+extern "C" void ignore_error(void *, xmlErrorPtr) {}
+
+// Errors of encodings pass by the parser's context, and go to standard error if the thread has no other place for them.
+class QuietThread {
+public:
+    QuietThread() { xmlSetStructuredErrorFunc(nullptr, ignore_error); }
+    ~QuietThread() { xmlSetStructuredErrorFunc(context_, function_); }
+    QuietThread(const QuietThread &) = delete;
+    QuietThread &operator=(const QuietThread &) = delete;
+
+private:
+    void *const context_ = xmlStructuredErrorContext;
+    const xmlStructuredErrorFunc function_ = xmlStructuredError;
+};
+
+// The parser prepares itself at its first use, without a lock where that is the making of a context: two threads that
+// load the first documents of a process at one moment would both do it, and what one of them made would be lost.
+void prepare_parser() { [[maybe_unused]] static const bool prepared = (xmlInitParser(), true); }
+
+void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
+    if (report == nullptr) return;
+    *report = {};
+    report->number = number;
+    report->line = line > 0 ? static_cast<uint32_t>(line) : 0;
+    std::snprintf(report->sentence, sizeof report->sentence, "%s", sentence);
+    report->sentence[std::strcspn(report->sentence, "\n")] = 0;
+}
+
+void *finish(Document document, mirk_platform_report *report) {
+    const mirk_platform_error error = mirk::guarded([&]() -> mirk_platform_error {
+        document->_private = new PathMemo(document.get());
+        return 0;
+    });
+    if (error != 0) {
+        fill_in(report, error, 0, std::strerror(static_cast<int>(error)));
+        return nullptr;
+    }
+    if (report != nullptr) *report = {};
+    return document.release();
+}
+
+// What XPath finds, for the paths that are not simple.
+class Evaluated {
+public:
+    Evaluated(xmlDoc *document, const char *path) : context_(xmlXPathNewContext(document)) {
+        if (context_ == nullptr) return;
+        context_->error = ignore_error;
+        result_.reset(xmlXPathEvalExpression(reinterpret_cast<const xmlChar *>(path), context_.get()));
+    }
+    bool good() const { return result_ != nullptr && result_->type == XPATH_NODESET; }
+    size_t count() const {
+        return result_->nodesetval == nullptr ? 0 : static_cast<size_t>(result_->nodesetval->nodeNr);
+    }
+    xmlNode *first() const { return result_->nodesetval->nodeTab[0]; }
+
+private:
+    PathContext context_;
+    PathResult result_;
+};
+
+// Number of nodes at the path and the first of them; 22 for what is no path.
+uint32_t look_up(void *document, const char *path, size_t *count, xmlNode **first) {
+    if (document == nullptr || path == nullptr) return EINVAL;
+    auto *doc = static_cast<xmlDoc *>(document);
+    if (auto *memo = static_cast<PathMemo *>(doc->_private); memo != nullptr) {
+        if (const auto *nodes = memo->find(path); nodes != nullptr) {
+            *count = nodes->size();
+            *first = nodes->empty() ? nullptr : nodes->front();
+            return 0;
+        }
+    }
+    const Evaluated found(doc, path);
+    if (!found.good()) return EINVAL;
+    *count = found.count();
+    *first = *count == 0 ? nullptr : found.first();
+    return 0;
+}
+
+// Text that lies in one node of the document, without a copy of it.
+const xmlChar *text_in_place(const xmlNode *node) {
+    if (node->type != XML_ELEMENT_NODE) return nullptr;
+    const xmlNode *child = node->children;
+    if (child == nullptr) return reinterpret_cast<const xmlChar *>("");
+    if (child->next != nullptr || child->type != XML_TEXT_NODE) return nullptr;
+    return child->content;
+}
+
+}  // namespace
+
+namespace mirk {
+
+ElementText::ElementText(void *document, const char *path) noexcept {
+    size_t count = 0;
+    xmlNode *node = nullptr;
+    error_ = guarded([&] { return look_up(document, path, &count, &node); });
+    if (error_ == 0 && node == nullptr) error_ = ENOENT;
+    if (error_ != 0) return;
+    const xmlChar *text = text_in_place(node);
+    if (text == nullptr) text = owned_ = xmlNodeGetContent(node);
+    if (text == nullptr) {
+        error_ = ENOMEM;
+    } else {
+        view_ = reinterpret_cast<const char *>(text);
+    }
+}
+
+ElementText::~ElementText() { xmlFree(owned_); }
+
+}  // namespace mirk
+
+extern "C" {
+
+uint32_t xml_get_element_nodecount(void *document, const char *path, uint32_t *count) {
+    if (count == nullptr) return EINVAL;
+    size_t found = 0;
+    xmlNode *first = nullptr;
+    const uint32_t error = mirk::guarded([&] { return look_up(document, path, &found, &first); });
+    if (error == 0) *count = static_cast<uint32_t>(found);
+    return error;
+}
+
+uint32_t xml_get_element_value(void *document, const char *path, char *value, uint32_t value_size, uint32_t *length) {
+    const mirk::ElementText text(document, path);
+    if (text.error() != 0) return text.error();
+    const size_t size = text.view().size();
+    if (length != nullptr) *length = static_cast<uint32_t>(size);
+    if (value == nullptr) return size == 0 ? 0 : ENOSPC;
+    if (size + 1 > value_size) return ENOSPC;
+    value[text.view().copy(value, size)] = 0;
+    return 0;
+}
+
+void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_platform_report *report) {
+    if (text == nullptr || length == 0 || length > INT32_MAX) {
+        fill_in(report, EINVAL, 0, length > INT32_MAX ? "the document is too long" : "the document is empty");
+        return nullptr;
+    }
+    prepare_parser();
+    const ParserContext parser(xmlNewParserCtxt());
+    if (parser == nullptr) {
+        fill_in(report, ENOMEM, 0, std::strerror(ENOMEM));
+        return nullptr;
+    }
+    Refusal refusal;
+    parser->_private = &refusal;
+    parser->sax->internalSubset = refuse_doctype;
+    const QuietThread quiet;
+    constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA;
+    Document document(xmlCtxtReadMemory(parser.get(), static_cast<const char *>(text), static_cast<int>(length),
+                                        nullptr, nullptr, options));
+    if (refusal.line != 0) {
+        fill_in(report, EINVAL, refusal.line, "a document type declaration is not allowed");
+        return nullptr;
+    }
+    if (document == nullptr) {
+        const xmlError *error = xmlCtxtGetLastError(parser.get());
+        const bool known = error != nullptr && error->message != nullptr;
+        fill_in(report, known && error->code == XML_ERR_NO_MEMORY ? ENOMEM : EINVAL, known ? error->line : 0,
+                known ? error->message : "the document is not well-formed");
+        return nullptr;
+    }
+    // To the parser a NUL is the end of all, so what stands behind it would be dropped without a word.
+    if (const long read = xmlByteConsumed(parser.get()); read >= 0 && static_cast<size_t>(read) < length) {
+        fill_in(report, EINVAL, parser->input->line, "there is more behind the end of the document");
+        return nullptr;
+    }
+    return finish(std::move(document), report);
+}
+
+void *mirk_platform_document_load_file(const char *path, mirk_platform_report *report) {
+    std::string text;
+    const mirk_platform_error error = mirk::guarded([&]() -> mirk_platform_error {
+        const File file(std::fopen(path, "rbe"));
+        if (file == nullptr) return static_cast<mirk_platform_error>(errno);
+        char piece[65536];
+        size_t got = 0;
+        while ((got = std::fread(piece, 1, sizeof piece, file.get())) != 0) text.append(piece, got);
+        return std::ferror(file.get()) != 0 ? static_cast<mirk_platform_error>(errno) : 0;
+    });
+    if (error != 0) {
+        fill_in(report, error, 0, std::strerror(static_cast<int>(error)));
+        return nullptr;
+    }
+    return mirk_platform_document_load_memory(text.data(), text.size(), report);
+}
+
+void mirk_platform_document_free(void *document) {
+    if (document == nullptr) return;
+    delete static_cast<PathMemo *>(static_cast<xmlDoc *>(document)->_private);
+    xmlFreeDoc(static_cast<xmlDoc *>(document));
+}
+
+}  // extern "C"

@@ -1,0 +1,144 @@
+// The asking side of the frame transport: blocking calls with a time limit.
+#include <chrono>
+#include <thread>
+
+#include "platform/contract/handle.hpp"
+#include "platform/service/inbox.hpp"
+#include "platform/service/tcp_address.hpp"
+
+using LocalProtocol = asio::local::stream_protocol;
+using Clock = std::chrono::steady_clock;
+
+struct mirk_platform_client {
+    explicit mirk_platform_client(uint32_t frame_limit) : inbox(frame_limit) {}
+
+    asio::io_context context{1};
+    mirk::StreamProtocol::socket socket{context};
+    mirk::Inbox inbox;
+};
+
+namespace {
+
+struct Outcome {
+    asio::error_code error = asio::error::would_block;
+    size_t moved = 0;
+
+    mirk_platform_error number() const { return static_cast<mirk_platform_error>(error.value()); }
+};
+
+Clock::time_point deadline(uint32_t timeout_ms) { return Clock::now() + std::chrono::milliseconds(timeout_ms); }
+
+// Waits for the one operation that is under way. One that is not done in time is cancelled; it may still have ended
+// well just then.
+void wait(mirk_platform_client &client, Clock::time_point until, Outcome *outcome) {
+    client.context.restart();
+    client.context.run_until(until);
+    if (outcome->error != asio::error::would_block) return;
+    asio::error_code ignored;
+    client.socket.cancel(ignored);
+    client.context.restart();
+    client.context.run();
+    if (outcome->error == asio::error::operation_aborted) outcome->error = asio::error::timed_out;
+}
+
+using Client = std::unique_ptr<mirk_platform_client>;
+
+Client make_client(uint32_t frame_limit) {
+    return std::make_unique<mirk_platform_client>(frame_limit != 0 ? frame_limit : mirk::default_frame_limit);
+}
+
+mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &place,
+                            Clock::time_point until) {
+    // A socket file whose queue is full says so at once; it is tried again until the time is over.
+    for (;;) {
+        Outcome outcome;
+        client.socket.async_connect(place, [&](const asio::error_code &error) { outcome.error = error; });
+        wait(client, until, &outcome);
+        const bool queue_is_full =
+            outcome.error == asio::error::would_block || outcome.error == asio::error::no_buffer_space;
+        if (!queue_is_full) return outcome.number();
+        if (Clock::now() >= until) return ETIMEDOUT;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+}  // namespace
+
+extern "C" {
+
+mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit, uint32_t timeout_ms,
+                                              mirk_platform_client **client) {
+    if (path == nullptr || client == nullptr) return EINVAL;
+    return mirk::guarded([&]() -> mirk_platform_error {
+        if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
+        Client opened = make_client(frame_limit);
+        const mirk_platform_error error = connect(*opened, LocalProtocol::endpoint(path), deadline(timeout_ms));
+        if (error == 0) *client = opened.release();
+        return error;
+    });
+}
+
+mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t frame_limit, uint32_t timeout_ms,
+                                                  mirk_platform_client **client) {
+    if (address == nullptr || client == nullptr) return EINVAL;
+    return mirk::guarded([&]() -> mirk_platform_error {
+        const Clock::time_point until = deadline(timeout_ms);
+        Client opened = make_client(frame_limit);
+        std::vector<mirk::StreamProtocol::endpoint> places;
+        mirk_platform_error error = mirk::resolve_tcp_address(opened->context, address, &places);
+        for (const auto &place : places) {
+            asio::error_code ignored;
+            opened->socket.close(ignored);
+            error = connect(*opened, place, until);
+            if (error == 0) break;
+        }
+        if (error != 0) return error;
+        mirk::send_at_once(opened->socket);
+        *client = opened.release();
+        return 0;
+    });
+}
+
+mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes, size_t size,
+                                              uint32_t timeout_ms) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        Outcome outcome;
+        asio::async_write(client->socket, asio::buffer(bytes, size), [&](const asio::error_code &error, size_t moved) {
+            outcome = {error, moved};
+        });
+        wait(*client, deadline(timeout_ms), &outcome);
+        return outcome.number();
+    });
+}
+
+mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, void **frame, uint32_t *size,
+                                                 uint32_t timeout_ms) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        const Clock::time_point until = deadline(timeout_ms);
+        for (;;) {
+            switch (client->inbox.next(frame, size)) {
+                case mirk::Inbox::Cut::frame:
+                    return 0;
+                case mirk::Inbox::Cut::bad:
+                    return EBADMSG;
+                case mirk::Inbox::Cut::too_long:
+                    return EMSGSIZE;
+                case mirk::Inbox::Cut::more_needed:
+                    break;
+            }
+            const auto [at, room] = client->inbox.room();
+            Outcome outcome;
+            client->socket.async_read_some(asio::buffer(at, room), [&](const asio::error_code &error, size_t moved) {
+                outcome = {error, moved};
+            });
+            wait(*client, until, &outcome);
+            if (outcome.error == asio::error::eof) return ECONNRESET;
+            if (outcome.error) return outcome.number();
+            client->inbox.received(outcome.moved);
+        }
+    });
+}
+
+void mirk_platform_client_close(mirk_platform_client *client) { delete client; }
+
+}  // extern "C"
