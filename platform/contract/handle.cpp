@@ -1,6 +1,8 @@
 // Opening, setting up and closing handles.
 #include "platform/contract/handle.hpp"
 
+#include "platform/contract/options.hpp"
+
 using mirk::Handle;
 using mirk::own;
 
@@ -9,6 +11,16 @@ namespace {
 constexpr size_t workspace_size = 65536;
 
 void make_empty(mirk_list_head &head) { head.next = head.prev = &head; }
+
+mirk_platform_handle_options default_options() {
+    mirk_platform_handle_options options{};
+    options.request_ceiling = uint64_t{256} << 20;
+    options.total_ceiling = uint64_t{1} << 30;
+    options.domain_name = "default";
+    options.default_id = 1;
+    options.oid_mapping = 1;
+    return options;
+}
 
 void track(Handle &handle, mirk_platform_tracking tracking) {
     handle.descriptor.sttr_mode = tracking == MIRK_PLATFORM_TRACKING_ON ? mirk::tracking_on : mirk::tracking_off;
@@ -19,39 +31,31 @@ void track(Handle &handle, mirk_platform_tracking tracking) {
 
 extern "C" {
 
-void mirk_platform_handle_options_init(mirk_platform_handle_options *options) {
-    *options = mirk_platform_handle_options{};
-    options->request_ceiling = uint64_t{256} << 20;
-    options->total_ceiling = uint64_t{1} << 30;
-    options->domain_name = "default";
-    options->default_id = 1;
-    options->oid_mapping = 1;
+void mirk_platform_handle_options_init_sized(mirk_platform_handle_options *options, size_t size) {
+    mirk::initialize_options(options, size, default_options());
 }
 
-mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *options) {
-    mirk_platform_handle_options defaults;
-    if (options == nullptr) {
-        mirk_platform_handle_options_init(&defaults);
-        options = &defaults;
-    }
+mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *chosen) {
+    mirk_platform_handle_options options = default_options();
+    if (chosen != nullptr) options = mirk::read_options(chosen, options);
     Handle *opened = nullptr;
     mirk::guarded([&]() -> mirk_platform_error {
         auto handle = std::make_unique<Handle>();
         handle->workspace = std::make_unique<char[]>(workspace_size + 1);
-        handle->domain_text = options->domain_name != nullptr ? options->domain_name : "";
+        handle->domain_text = options.domain_name != nullptr ? options.domain_name : "";
         handle->domain_name = handle->domain_text.c_str();
-        handle->private_types = options->private_types;
-        handle->request_ceiling = options->request_ceiling;
-        handle->total_ceiling = options->total_ceiling;
-        handle->lenient = options->epoch_policy == MIRK_PLATFORM_LENIENT_43;
-        handle->bundle_handler = options->bundle_handler;
-        handle->default_id = options->default_id;
-        handle->message_stamp = options->message_stamp;
-        handle->oid_mapping = options->oid_mapping;
+        handle->private_types = options.private_types;
+        handle->request_ceiling = options.request_ceiling;
+        handle->total_ceiling = options.total_ceiling;
+        handle->lenient = options.epoch_policy == MIRK_PLATFORM_LENIENT_43;
+        handle->bundle_handler = options.bundle_handler;
+        handle->default_id = options.default_id;
+        handle->message_stamp = options.message_stamp;
+        handle->oid_mapping = options.oid_mapping;
         handle->domain.opaque[0] = handle.get();
         make_empty(handle->send_bundle_list);
         make_empty(handle->recv_bundle_list);
-        track(*handle, options->tracking);
+        track(*handle, options.tracking);
         mirk::memory_callbacks(*handle);
         mirk::type_store_callbacks(*handle);
         opened = handle.release();

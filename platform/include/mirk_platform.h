@@ -1,5 +1,5 @@
 /** @file
- * mirk_platform.h - control interface of the stand-in runtime.
+ * mirk_platform.h - control interface of the reference runtime.
  *
  * The contract headers (mirk/mirk.h) say what a schema library may call. This header is for the programs around such a
  * library: it opens handles, fills their domains, loads documents, dispatches received frames and moves frames over
@@ -10,6 +10,8 @@
  *   - A handle, and everything made for it, belongs to one thread at a time. The trace, the recorder switch and
  *     mirk_platform_server_stop may be used from any thread.
  *   - Text is NUL-terminated. Text given to a call is copied unless the call says that it is kept.
+ *   - A structure of options begins with its size, which its initializer sets. Later versions add members at the end:
+ *     programs that were compiled before get their defaults.
  */
 #ifndef MIRK_PLATFORM_H
 #define MIRK_PLATFORM_H
@@ -21,7 +23,7 @@
 #include "mirk/mirk.h"
 
 #if defined(__GNUC__)
-/** Marks a name that the stand-in exports. */
+/** Marks a name that the reference runtime exports. */
 #define MIRK_PLATFORM_API __attribute__((visibility("default")))
 #else
 #define MIRK_PLATFORM_API
@@ -61,6 +63,7 @@ typedef enum mirk_platform_epoch_policy {
 
 /** How a handle is opened. */
 typedef struct mirk_platform_handle_options {
+    size_t size;                     /**< of the structure as the program knows it; set by the initializer */
     mirk_platform_tracking tracking; /**< default NONE */
     uint32_t private_types;          /**< default 0; nonzero gives the handle type records of its own */
     uint64_t request_ceiling;        /**< obj_alloc above this answers null; default 256 MiB */
@@ -78,8 +81,10 @@ typedef struct mirk_platform_handle_options {
     uint32_t oid_mapping;                    /**< default 1 */
 } mirk_platform_handle_options;
 
-/** Fills in the defaults. Always start from here: a later version may have more members. */
-MIRK_PLATFORM_API void mirk_platform_handle_options_init(mirk_platform_handle_options *options);
+/** Writes the defaults and the size. Always start from here. */
+#define mirk_platform_handle_options_init(options) mirk_platform_handle_options_init_sized(options, sizeof *(options))
+/** The same for a structure of this many bytes. */
+MIRK_PLATFORM_API void mirk_platform_handle_options_init_sized(mirk_platform_handle_options *options, size_t size);
 
 /** Null options mean the defaults. Returns null if allocation fails. obj_alloc of the handle returns a distinct
  * address for size 0, too. */
@@ -327,6 +332,7 @@ typedef uint64_t mirk_platform_peer;
 
 /** How a server serves. */
 typedef struct mirk_platform_server_options {
+    size_t size;            /**< of the structure as the program knows it; set by the initializer */
     uint32_t frame_limit;   /**< a longer frame disconnects its sender; default 16 MiB */
     uint32_t peer_limit;    /**< further peers are turned away; default 64 */
     uint32_t idle_ms;       /**< a peer that moved no byte for so long is disconnected; 0: never; default 60000 */
@@ -338,10 +344,25 @@ typedef struct mirk_platform_server_options {
     /** The peer is gone; the reason is a sentence for people. May be null. */
     void (*on_disconnect)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
     void *user; /**< first argument of the callbacks */
+    /** A frame that is not whole so long after its first byte disconnects its sender; 0: never; default 10000. */
+    uint32_t frame_ms;
+    /** A peer that needs longer to read what one send queued, once it is its turn, is disconnected; 0: never; default
+     * 60000. */
+    uint32_t answer_ms;
+    /** If more than this piles up unread for all peers together, the peer with the most is disconnected; never less
+     * than the pending_limit of one peer; default 256 MiB. */
+    uint64_t total_pending_limit;
+    /** A peer passed a limit, or sent bytes that are not a frame: called before on_disconnect. Called as well for a
+     * peer that is turned away because there are too many, which gets no other call. The peer is 0 if no connection can
+     * be accepted, as without descriptors; that is said once until it works again. The reason is a sentence for people.
+     * May be null. */
+    void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
 } mirk_platform_server_options;
 
-/** Fills in the defaults. Always start from here. */
-MIRK_PLATFORM_API void mirk_platform_server_options_init(mirk_platform_server_options *options);
+/** Writes the defaults and the size. Always start from here. */
+#define mirk_platform_server_options_init(options) mirk_platform_server_options_init_sized(options, sizeof *(options))
+/** The same for a structure of this many bytes. */
+MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_server_options *options, size_t size);
 
 /** Listens on a socket file. A socket file that nobody listens on any more is replaced; 98 if somebody does; 17 if the
  * path is taken by anything else; 22 without on_frame. */
@@ -363,27 +384,6 @@ MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_ser
 /** Serves on the calling thread until stop; all callbacks run there. What is queued for peers when stop is called is
  * still sent as far as their sockets take it at once. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
-/** What else a server puts up with. */
-typedef struct mirk_platform_server_limits {
-    /** A frame that is not whole so long after its first byte disconnects its sender; 0: never; default 10000. */
-    uint32_t frame_ms;
-    /** A peer that needs longer to read what one send queued, once it is its turn, is disconnected; 0: never; default
-     * 60000. */
-    uint32_t answer_ms;
-    /** If more than this piles up unread for all peers together, the peer with the most is disconnected; never less
-     * than the pending_limit of one peer; default 256 MiB. */
-    uint64_t total_pending_limit;
-    /** A peer passed a limit, or sent bytes that are not a frame: called before on_disconnect. Called as well for a
-     * peer that is turned away because there are too many, which gets no other call. The peer is 0 if no connection can be accepted, as without descriptors; that is
-     * said once until it works again. The reason is a sentence for people. May be null. */
-    void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
-} mirk_platform_server_limits;
-
-/** Fills in the defaults. Always start from here. */
-MIRK_PLATFORM_API void mirk_platform_server_limits_init(mirk_platform_server_limits *limits);
-/** Before run. A server that is told no limits has the defaults. */
-MIRK_PLATFORM_API void mirk_platform_server_limit(mirk_platform_server *server,
-                                                  const mirk_platform_server_limits *limits);
 /** From any thread, and from a signal handler. Before run it makes run return at once. */
 MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
 /** From a callback. Queues a copy of the bytes, which should be whole frames. 107 for a peer that is gone; 105 if its

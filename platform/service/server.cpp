@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/contract/handle.hpp"
+#include "platform/contract/options.hpp"
 #include "platform/service/inbox.hpp"
 #include "platform/service/tcp_address.hpp"
 
@@ -42,9 +43,7 @@ mirk_platform_error number_of(const asio::error_code &error) { return static_cas
 }  // namespace
 
 struct mirk_platform_server {
-    explicit mirk_platform_server(const mirk_platform_server_options &chosen) : options(chosen) {
-        mirk_platform_server_limits_init(&limits);
-    }
+    explicit mirk_platform_server(const mirk_platform_server_options &chosen) : options(chosen) {}
     ~mirk_platform_server();
 
     mirk_platform_error prepare_stop();
@@ -59,10 +58,9 @@ struct mirk_platform_server {
     void refused(mirk_platform_peer peer, const char *reason);
     // Makes room among what waits for all peers: whoever has the most is turned out, until the bytes fit.
     void make_room_for(size_t size);
-    uint64_t total_pending_limit() const { return std::max(limits.total_pending_limit, options.pending_limit); }
+    uint64_t total_pending_limit() const { return std::max(options.total_pending_limit, options.pending_limit); }
 
     mirk_platform_server_options options;
-    mirk_platform_server_limits limits{};
     uint64_t total_pending = 0;
     bool accepts = true;  // false from a failure to accept until it works again
     asio::io_context context{1};
@@ -264,10 +262,10 @@ private:
         return std::min({end_of(last_moved_, server_.options.idle_ms), frame_end(), answer_end()});
     }
     Clock::time_point frame_end() const {
-        return frame_is_begun_ ? end_of(frame_since_, server_.limits.frame_ms) : Clock::time_point::max();
+        return frame_is_begun_ ? end_of(frame_since_, server_.options.frame_ms) : Clock::time_point::max();
     }
     Clock::time_point answer_end() const {
-        return queue_.empty() ? Clock::time_point::max() : end_of(front_since_, server_.limits.answer_ms);
+        return queue_.empty() ? Clock::time_point::max() : end_of(front_since_, server_.options.answer_ms);
     }
 
     // Sets the alarm, unless it rings early enough already; one that rings too early sets itself again.
@@ -382,7 +380,7 @@ mirk_platform_error mirk_platform_server::listen_on_tcp(const char *address) {
 }
 
 void mirk_platform_server::refused(mirk_platform_peer peer, const char *reason) {
-    if (limits.on_refused != nullptr) limits.on_refused(options.user, this, peer, reason);
+    if (options.on_refused != nullptr) options.on_refused(options.user, this, peer, reason);
 }
 
 void mirk_platform_server::make_room_for(size_t size) {
@@ -457,11 +455,26 @@ void mirk_platform_server::stop_now() {
 
 namespace {
 
+mirk_platform_server_options default_options() {
+    mirk_platform_server_options options{};
+    options.frame_limit = mirk::default_frame_limit;
+    options.peer_limit = 64;
+    options.idle_ms = 60000;
+    options.pending_limit = uint64_t{64} << 20;
+    options.socket_mode = 0600;
+    options.frame_ms = 10000;
+    options.answer_ms = 60000;
+    options.total_pending_limit = uint64_t{256} << 20;
+    return options;
+}
+
 mirk_platform_error open_server(const char *place, mirk_platform_error (mirk_platform_server::*listen)(const char *),
-                                const mirk_platform_server_options *options, mirk_platform_server **server) {
-    if (place == nullptr || options == nullptr || options->on_frame == nullptr || server == nullptr) return EINVAL;
+                                const mirk_platform_server_options *chosen, mirk_platform_server **server) {
+    if (place == nullptr || chosen == nullptr || server == nullptr) return EINVAL;
+    const mirk_platform_server_options options = mirk::read_options(chosen, default_options());
+    if (options.on_frame == nullptr) return EINVAL;
     return mirk::guarded([&]() -> mirk_platform_error {
-        auto opened = std::make_unique<mirk_platform_server>(*options);
+        auto opened = std::make_unique<mirk_platform_server>(options);
         mirk_platform_error error = opened->prepare_stop();
         if (error == 0) error = (*opened.*listen)(place);
         if (error == 0) *server = opened.release();
@@ -473,24 +486,8 @@ mirk_platform_error open_server(const char *place, mirk_platform_error (mirk_pla
 
 extern "C" {
 
-void mirk_platform_server_options_init(mirk_platform_server_options *options) {
-    *options = mirk_platform_server_options{};
-    options->frame_limit = mirk::default_frame_limit;
-    options->peer_limit = 64;
-    options->idle_ms = 60000;
-    options->pending_limit = uint64_t{64} << 20;
-    options->socket_mode = 0600;
-}
-
-void mirk_platform_server_limits_init(mirk_platform_server_limits *limits) {
-    *limits = mirk_platform_server_limits{};
-    limits->frame_ms = 10000;
-    limits->answer_ms = 60000;
-    limits->total_pending_limit = uint64_t{256} << 20;
-}
-
-void mirk_platform_server_limit(mirk_platform_server *server, const mirk_platform_server_limits *limits) {
-    server->limits = *limits;
+void mirk_platform_server_options_init_sized(mirk_platform_server_options *options, size_t size) {
+    mirk::initialize_options(options, size, default_options());
 }
 
 mirk_platform_error mirk_platform_server_open(const char *path, const mirk_platform_server_options *options,

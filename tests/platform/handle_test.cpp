@@ -30,6 +30,37 @@ TEST(Handle, NullOptionsMeanTheDefaults) {
     EXPECT_EQ(mirk_platform_handle_close(nullptr), 0u);
 }
 
+TEST(Handle, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
+    mirk_platform_handle_options options;
+    std::memset(&options, 0x5c, sizeof options);
+    mirk_platform_handle_options_init_sized(&options, offsetof(mirk_platform_handle_options, total_ceiling));
+    EXPECT_EQ(options.request_ceiling, uint64_t{256} << 20);
+    EXPECT_EQ(options.total_ceiling, 0x5c5c5c5c5c5c5c5cu) << "the initializer writes behind what the program has";
+    options.private_types = 1;
+    mirk_handle *h = mirk_platform_handle_open(&options);
+    ASSERT_NE(h, nullptr);
+    EXPECT_EQ(h->private_types, 1u);
+    EXPECT_STREQ(h->domain_name, "default");
+    EXPECT_EQ(h->default_id, 1u);
+    EXPECT_EQ(mirk_platform_handle_close(h), 0u);
+}
+
+TEST(Handle, OptionsThatAreNotKnownYetAreEmptyAndIgnored) {
+    struct {
+        mirk_platform_handle_options known;
+        uint64_t later[4];
+    } options;
+    std::memset(&options, 0x5c, sizeof options);
+    mirk_platform_handle_options_init_sized(&options.known, sizeof options);
+    EXPECT_EQ(options.known.size, sizeof options);
+    for (const uint64_t word : options.later) EXPECT_EQ(word, 0u);
+    options.known.default_id = 5;
+    mirk_handle *h = mirk_platform_handle_open(&options.known);
+    ASSERT_NE(h, nullptr);
+    EXPECT_EQ(h->default_id, 5u);
+    EXPECT_EQ(mirk_platform_handle_close(h), 0u);
+}
+
 TEST(Handle, TracksAsAsked) {
     Options options;
     options.tracking = MIRK_PLATFORM_TRACKING_OFF;

@@ -22,14 +22,12 @@ std::string frame(size_t length, char fill) {
 // Sends every frame back; runs on a thread of its own.
 class Echo {
 public:
-    explicit Echo(mirk_platform_server_options options = defaults(),
-                  const mirk_platform_server_limits *limits = nullptr) {
+    explicit Echo(mirk_platform_server_options options = defaults()) {
         path = "/tmp/mirk_transport_" + std::to_string(getpid()) + "_" + std::to_string(++number);
         options.on_frame = echo;
         options.on_disconnect = gone;
         options.user = this;
         EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
-        if (limits != nullptr) mirk_platform_server_limit(server, limits);
         thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
     }
     ~Echo() { stop(); }
@@ -44,17 +42,11 @@ public:
     static mirk_platform_server_options defaults() {
         mirk_platform_server_options options;
         mirk_platform_server_options_init(&options);
+        options.on_refused = refused;
         return options;
     }
 
     std::string path;
-    static mirk_platform_server_limits default_limits() {
-        mirk_platform_server_limits limits;
-        mirk_platform_server_limits_init(&limits);
-        limits.on_refused = refused;
-        return limits;
-    }
-
     std::vector<std::string> reasons, refusals;  // to be read after stop
     std::atomic<int> frames = 0, peers_gone = 0;
     mirk_platform_server *server = nullptr;
@@ -222,8 +214,7 @@ TEST(Transport, TellsWhoPassedALimit) {
     auto options = Echo::defaults();
     options.peer_limit = 1;
     options.frame_limit = 1000;
-    auto limits = Echo::default_limits();
-    Echo echo(options, &limits);
+    Echo echo(options);
     Client first(echo.path);
     first.send(frame(43, 'a'));
     EXPECT_EQ(first.next(), frame(43, 'a'));
@@ -239,9 +230,9 @@ TEST(Transport, TellsWhoPassedALimit) {
 
 TEST(Transport, LimitsTheTimeForAFrame) {
     test::Trace trace;
-    auto limits = Echo::default_limits();
-    limits.frame_ms = 50;
-    Echo echo(Echo::defaults(), &limits);
+    auto options = Echo::defaults();
+    options.frame_ms = 50;
+    Echo echo(options);
     Client quiet(echo.path);
     Client client(echo.path);
     // Whole frames do not count, however many, nor does the time between them.
@@ -256,9 +247,9 @@ TEST(Transport, LimitsTheTimeForAFrame) {
 
 TEST(Transport, LimitsTheTimeToReadAnAnswer) {
     test::Trace trace;
-    auto limits = Echo::default_limits();
-    limits.answer_ms = 50;
-    Echo echo(Echo::defaults(), &limits);
+    auto options = Echo::defaults();
+    options.answer_ms = 50;
+    Echo echo(options);
     Client client(echo.path);
     const std::string big = frame(4000000, 'x');
     client.send(big);
@@ -271,9 +262,8 @@ TEST(Transport, TurnsOutWhoeverLetsTheMostPileUp) {
     test::Trace trace;
     auto options = Echo::defaults();
     options.pending_limit = 3000000;
-    auto limits = Echo::default_limits();
-    limits.total_pending_limit = 0;  // counts as the limit of one peer
-    Echo echo(options, &limits);
+    options.total_pending_limit = 0;  // counts as the limit of one peer
+    Echo echo(options);
     Client much(echo.path), little(echo.path), reads(echo.path);
     much.send(frame(2500000, 'm'));
     wait_for(echo.frames, 1);
@@ -284,6 +274,24 @@ TEST(Transport, TurnsOutWhoeverLetsTheMostPileUp) {
     echo.stop();
     EXPECT_EQ(echo.refusals,
               (std::vector<std::string>{"1: too much piles up unread, and most of it is for this peer"}));
+}
+
+TEST(Transport, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
+    test::Trace trace;
+    mirk_platform_server_options options;
+    std::memset(&options, 0x5c, sizeof options);
+    mirk_platform_server_options_init_sized(&options, offsetof(mirk_platform_server_options, frame_ms));
+    EXPECT_EQ(options.socket_mode, 0600u);
+    EXPECT_EQ(options.frame_ms, 0x5c5c5c5cu) << "the initializer writes behind what the program has";
+    Echo echo(options);
+    Client client(echo.path);
+    client.send(std::string(43, 'x'));
+    EXPECT_EQ(client.next(), "error 104");
+    echo.stop();
+    EXPECT_EQ(echo.reasons, (std::vector<std::string>{"what it sent is no frame"}));
+    options.size = offsetof(mirk_platform_server_options, on_frame);
+    mirk_platform_server *server = nullptr;
+    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), uint32_t{EINVAL});
 }
 
 TEST(Transport, SendsWhatIsQueuedBeforeADisconnect) {

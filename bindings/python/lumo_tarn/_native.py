@@ -45,7 +45,7 @@ class Handle:
 
     def __init__(self, tracked: bool = False) -> None:
         options = ffi.new("mirk_platform_handle_options *")
-        lib.mirk_platform_handle_options_init(options)
+        lib.mirk_platform_handle_options_init_sized(options, ffi.sizeof(options[0]))
         options.tracking = lib.MIRK_PLATFORM_TRACKING_ON if tracked else lib.MIRK_PLATFORM_TRACKING_NONE
         self.tracked = tracked
         native = lib.mirk_platform_handle_open(options)

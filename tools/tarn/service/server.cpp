@@ -42,6 +42,9 @@ void Server::open() {
     settings.frame_limit = static_cast<std::uint32_t>(options_.frame_limit);
     settings.idle_ms = milliseconds(options_.idle);
     settings.pending_limit = options_.unread;
+    settings.total_pending_limit = options_.unread_total;
+    settings.frame_ms = milliseconds(options_.frame_time);
+    settings.answer_ms = milliseconds(options_.answer_time);
     settings.user = this;
     settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
                            std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
@@ -51,6 +54,9 @@ void Server::open() {
     settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
         static_cast<Server *>(user)->note(peer, std::string("gone: ") + reason);
     };
+    settings.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+        static_cast<Server *>(user)->print_refused(peer, reason);
+    };
     const bool tcp = !options_.listen.empty();
     const std::string &endpoint = tcp ? options_.listen : options_.socket;
     const auto open = tcp ? mirk_platform_server_open_tcp : mirk_platform_server_open;
@@ -58,15 +64,6 @@ void Server::open() {
         throw Failure(tcp && error == EINVAL ? Exit::input : Exit::environment,
                       "cannot listen on " + endpoint + ": " + error_text(error));
     }
-    mirk_platform_server_limits limits;
-    mirk_platform_server_limits_init(&limits);
-    limits.frame_ms = milliseconds(options_.frame_time);
-    limits.answer_ms = milliseconds(options_.answer_time);
-    limits.total_pending_limit = options_.unread_total;
-    limits.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
-        static_cast<Server *>(user)->print_refused(peer, reason);
-    };
-    mirk_platform_server_limit(server_, &limits);
 }
 
 void Server::run() {
