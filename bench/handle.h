@@ -1,4 +1,4 @@
-// A handle of the stand-in, and the ways to set one up that are compared.
+// A handle of the reference runtime, and the ways to set one up that are compared.
 #pragma once
 
 #include <cstdint>

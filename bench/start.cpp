@@ -17,8 +17,8 @@ namespace {
 
 constexpr int rounds = 51;
 
-// Loads the library and makes one record of it; the time in microseconds goes to standard output. The stand-in is part
-// of this program already, as it is of one that has a runtime.
+// Loads the library and makes one record of it; the time in microseconds goes to standard output. The reference runtime
+// is part of this program already, as it is of one that has a runtime.
 int one_round(const char *library) {
     mirk_handle *h = mirk_platform_handle_open(nullptr);
     if (h == nullptr) return 1;

@@ -20,7 +20,7 @@ struct Floor {
 };
 
 // One for each record. The first calls the runtime as the library does, from outside. The second is linked together
-// with the stand-in's own code, so that whatever can be inlined is.
+// with the reference runtime's own code, so that whatever can be inlined is.
 const Floor &contract_floor(std::string_view record);
 const Floor &inlined_floor(std::string_view record);
 

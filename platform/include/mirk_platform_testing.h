@@ -1,5 +1,5 @@
 /** @file
- * mirk_platform_testing.h - knobs of the stand-in runtime for tests: failures on demand, captured trace, a log of what
+ * mirk_platform_testing.h - knobs of the reference runtime for tests: failures on demand, captured trace, a log of what
  * a library asked the runtime. Programs have no use for this header.
  */
 #ifndef MIRK_PLATFORM_TESTING_H

@@ -1,4 +1,4 @@
-// The stand-in runtime as these tests use it.
+// The reference runtime as these tests use it.
 #pragma once
 
 #include <optional>

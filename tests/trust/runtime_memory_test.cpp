@@ -1,6 +1,6 @@
-// The stand-in keeps tables and lists of its own beside the blocks that it hands out. Each request for their memory is
-// refused in turn, once and from then on, whatever function asks: the process goes on, an error is told or nothing is
-// amiss, and everything can be ended.
+// The reference runtime keeps tables and lists of its own beside the blocks that it hands out. Each request for their
+// memory is refused in turn, once and from then on, whatever function asks: the process goes on, an error is reported
+// or nothing is amiss, and everything can be destroyed.
 #include <cerrno>
 #include <new>
 #include <optional>
@@ -32,7 +32,7 @@ void *some_new(std::size_t size) {
     return ::operator new(size);
 }
 
-// While this lives, what the stand-in asks for is counted and refused.
+// While this lives, what the reference runtime asks for is counted and refused.
 class ShortOfMemory {
 public:
     ShortOfMemory() { EXPECT_TRUE(malloc_.found() && calloc_.found() && new_.found()); }

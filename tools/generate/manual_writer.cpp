@@ -97,7 +97,7 @@ to a frame and read back, printed as text, written as XML and read from it.
 Messages carry a record each, and bundles carry messages.
 .Pp
 The library runs on a runtime, whose handle is the first argument of most operations.
-A stand-in runtime comes with it:
+A reference runtime comes with it:
 .Fn mirk_platform_handle_open
 makes a handle, and
 .Fn mirk_platform_handle_close
