@@ -1,12 +1,8 @@
 // Prints everything that follows from the schema: generate KIND DIRECTORY [ARGUMENT...]. The arguments of exports are
-// the sources of the library, those of link NAME=VALUE for the build stamp of the manifest. A file whose content is
-// unchanged is left alone, so that nothing is rebuilt for it.
+// the sources of the library, those of link NAME=VALUE for the build stamp of the manifest.
 #include <cstdlib>
 #include <ctime>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
 
 #include "writers.h"
@@ -14,20 +10,6 @@
 namespace {
 
 using namespace tarn::generate;
-
-bool is_same(const std::filesystem::path &path, const std::string &content) {
-    std::ifstream in(path, std::ios::binary);
-    return in && std::string(std::istreambuf_iterator<char>(in), {}) == content;
-}
-
-void put(const std::filesystem::path &directory, const Files &files) {
-    for (const auto &[name, content] : files) {
-        const std::filesystem::path path = directory / name;
-        if (is_same(path, content)) continue;
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path, std::ios::binary) << content;
-    }
-}
 
 // Builds can be repeated byte for byte: the time is the one given, or none.
 std::string time_of_build(const BuildStamp &neutral) {
@@ -63,36 +45,29 @@ BuildStamp stamp_from(char **begin, char **end) {
 int main(int argc, char **argv) {
     const std::string kind = argc > 2 ? argv[1] : "";
     if (kind == "headers") {
-        put(argv[2], write_headers());
+        write_files(argv[2], write_headers());
     } else if (kind == "exports") {
-        put(argv[2], write_exports({argv + 3, argv + argc}));
+        write_files(argv[2], write_exports({argv + 3, argv + argc}));
     } else if (kind == "sample") {
-        put(argv[2], write_exports({}, true));
+        write_files(argv[2], write_exports({}, true));
     } else if (kind == "lists") {
-        put(argv[2], write_lists());
+        write_files(argv[2], write_lists());
     } else if (kind == "link") {
-        put(argv[2], write_linker_script());
-        put(argv[2], write_manifest(stamp_from(argv + 3, argv + argc)));
-    } else if (kind == "floor") {
-        put(argv[2], write_floor());
-    } else if (kind == "plain") {
-        put(argv[2], write_plain());
-    } else if (kind == "rivals") {
-        put(argv[2], write_rivals());
+        write_files(argv[2], write_linker_script());
+        write_files(argv[2], write_manifest(stamp_from(argv + 3, argv + argc)));
     } else if (kind == "operations") {
-        put(argv[2], write_operations());
+        write_files(argv[2], write_operations());
     } else if (kind == "pictures") {
-        put(argv[2], write_pictures());
+        write_files(argv[2], write_pictures());
     } else if (kind == "dissector") {
-        put(argv[2], write_dissector());
+        write_files(argv[2], write_dissector());
     } else if (kind == "python") {
-        put(argv[2], write_python());
+        write_files(argv[2], write_python());
     } else if (kind == "manuals") {
-        put(argv[2], write_manuals());
+        write_files(argv[2], write_manuals());
     } else {
-        std::cerr
-            << "usage: generate headers|exports|sample|lists|link|operations|floor|plain|rivals|pictures|dissector|"
-               "python|manuals DIRECTORY [ARGUMENT...]\n";
+        std::cerr << "usage: generate headers|exports|sample|lists|link|operations|pictures|dissector|python|manuals "
+                     "DIRECTORY [ARGUMENT...]\n";
         return 2;
     }
     return 0;

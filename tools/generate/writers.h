@@ -1,14 +1,12 @@
 // What is printed from the surface: one function for each product. None of them holds logic of the library.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
-namespace tarn::generate {
+#include "tools/generate/files.h"
 
-// File name, relative to a directory of the product's own, and content.
-using Files = std::map<std::string, std::string>;
+namespace tarn::generate {
 
 Files write_headers();         // include/: the public face, checked in
 std::string interface_page();  // of them: the C++ interface
@@ -17,9 +15,6 @@ Files write_exports(const std::vector<std::string> &sources, bool sample_only = 
 Files write_lists();          // goldens: exported names, layout of every record
 Files write_linker_script();  // build tree: the version script
 
-Files write_floor();       // build tree: straight-line code, for the benchmarks
-Files write_plain();       // build tree: records as plain structs, for the same
-Files write_rivals();      // build tree: the schema in the languages of other serializers, for the same
 Files write_operations();  // build tree: every operation as a table, for tools and tests
 Files write_pictures();    // docs/pictures/: what the tour shows, checked in
 Files write_dissector();   // build tree: the dissector for network captures

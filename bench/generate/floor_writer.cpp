@@ -1,11 +1,11 @@
 // Straight-line code that makes the runtime calls which the contract demands for the life and the frames of a record,
 // and nothing else: what the library is measured against. Written out member by member, as one would by hand. It covers
 // what the measured workloads meet: frames of the same tracking mode, read into fresh instances.
-#include "fill_in.h"
-#include "surface.h"
-#include "writers.h"
+#include "bench/generate/fill_in.h"
+#include "bench/generate/members.h"
+#include "bench/generate/writers.h"
 
-namespace tarn::generate {
+namespace tarn::bench {
 
 using namespace schema;
 
@@ -13,24 +13,7 @@ namespace {
 
 std::string number(std::uint32_t n) { return std::to_string(n); }
 
-std::string primitive(const Member &m) {
-    switch (m.kind) {
-        case Kind::u8:
-            return "u_int8";
-        case Kind::u16:
-            return "u_int16";
-        case Kind::u32:
-            return "u_int32";
-        case Kind::u64:
-            return "u_int64";
-        case Kind::boolean:
-            return "mirk_boolean";
-        case Kind::address:
-            return "ip_address";
-        default:
-            return "";
-    }
-}
+std::string primitive(const Member &m) { return std::string(facts(m.kind).primitive); }
 
 std::string at(const Member &m, const Place &p) {
     const std::string type = is_integer(m.kind) ? value_type(m) : primitive(m);
@@ -546,4 +529,4 @@ Files write_floor() {
     return {{"floor.inc", text + "\nstatic const Floor floors[] = {\n" + rows + "};\n"}};
 }
 
-}  // namespace tarn::generate
+}  // namespace tarn::bench

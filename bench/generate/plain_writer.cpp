@@ -1,33 +1,33 @@
 // Records as plain C++ structs, and the way from these into the library's objects through its exported setters. The
 // measured workloads are made as plain values, so that every library that is compared starts from the same.
-#include "fill_in.h"
-#include "plain_members.h"
-#include "surface.h"
-#include "writers.h"
+#include "bench/generate/fill_in.h"
+#include "bench/generate/members.h"
+#include "bench/generate/writers.h"
 
-namespace tarn::generate {
+namespace tarn::bench {
 
 using namespace schema;
 
 namespace {
 
 std::string plain_type(const Member &m) {
-    switch (m.kind) {
-        case Kind::boolean:
+    switch (category(m.kind)) {
+        case Category::boolean:
             return "bool";
-        case Kind::enumeration:
+        case Category::enumeration:
             return "std::uint32_t";
-        case Kind::address:
+        case Category::address:
             return "ip_address";
-        case Kind::record:
+        case Category::record:
             return std::string(m.record->name);
-        case Kind::string:
+        case Category::string:
             return "std::string";
-        case Kind::array:
+        case Category::array:
             return "std::vector<" + std::string(m.record->name) + ">";
-        default:
-            return "std::" + value_type(m);
+        case Category::integer:
+            break;
     }
+    return "std::" + value_type(m);
 }
 
 constexpr const char *address_struct = R"(struct ip_address {
@@ -201,4 +201,4 @@ Files write_plain() {
     return {{"plain.h", header}, {"plain.inc", code}};
 }
 
-}  // namespace tarn::generate
+}  // namespace tarn::bench

@@ -2,12 +2,11 @@
 // value of a message. For the benchmarks.
 #include <cctype>
 
-#include "fill_in.h"
-#include "plain_members.h"
-#include "surface.h"
-#include "writers.h"
+#include "bench/generate/fill_in.h"
+#include "bench/generate/members.h"
+#include "bench/generate/writers.h"
 
-namespace tarn::generate {
+namespace tarn::bench {
 
 using namespace schema;
 
@@ -43,22 +42,21 @@ std::string camel_of_constant(std::string_view name) {
 // ---- Protocol Buffers: numbers in their width, as far as there is one
 
 std::string proto_type(const Member &m) {
-    switch (m.kind) {
-        case Kind::u8:
-        case Kind::u16:
-        case Kind::u32:
-            return "fixed32";
-        case Kind::u64:
-            return "fixed64";
-        case Kind::boolean:
+    switch (category(m.kind)) {
+        case Category::integer:
+            return facts(m.kind).storage > 4 ? "fixed64" : "fixed32";
+        case Category::boolean:
             return "bool";
-        case Kind::string:
+        case Category::string:
             return "string";
-        case Kind::array:
+        case Category::array:
             return "repeated " + name_of_type(m);
-        default:
-            return name_of_type(m);
+        case Category::address:
+        case Category::enumeration:
+        case Category::record:
+            break;
     }
+    return name_of_type(m);
 }
 
 std::string proto_schema() {
@@ -135,12 +133,28 @@ static std::uint64_t sum(const tarn_protobuf::ip_address &from) {
 
 // ---- FlatBuffers
 
+std::string flat_integer(std::uint32_t bytes) {
+    if (bytes == 1) return "ubyte";
+    if (bytes == 2) return "ushort";
+    return bytes == 4 ? "uint" : "ulong";
+}
+
 std::string flat_type(const Member &m) {
-    constexpr const char *integers[] = {"ubyte", "ushort", "uint", "ulong"};
-    if (is_integer(m.kind)) return integers[static_cast<std::size_t>(m.kind)];
-    if (m.kind == Kind::boolean) return "bool";
-    if (m.kind == Kind::string) return "string";
-    return m.kind == Kind::array ? "[" + name_of_type(m) + "]" : name_of_type(m);
+    switch (category(m.kind)) {
+        case Category::integer:
+            return flat_integer(facts(m.kind).storage);
+        case Category::boolean:
+            return "bool";
+        case Category::string:
+            return "string";
+        case Category::array:
+            return "[" + name_of_type(m) + "]";
+        case Category::address:
+        case Category::enumeration:
+        case Category::record:
+            break;
+    }
+    return name_of_type(m);
 }
 
 std::string flat_schema() {
@@ -239,12 +253,21 @@ static std::uint64_t sum(const tarn_flatbuffers::ip_address &from) {
 // ---- Cap'n Proto, whose names have no underscores
 
 std::string capnp_type(const Member &m) {
-    constexpr const char *integers[] = {"UInt8", "UInt16", "UInt32", "UInt64"};
-    if (is_integer(m.kind)) return integers[static_cast<std::size_t>(m.kind)];
-    if (m.kind == Kind::boolean) return "Bool";
-    if (m.kind == Kind::string) return "Text";
-    const std::string type = camel(name_of_type(m), true);
-    return m.kind == Kind::array ? "List(" + type + ")" : type;
+    switch (category(m.kind)) {
+        case Category::integer:
+            return "UInt" + std::to_string(8 * facts(m.kind).storage);
+        case Category::boolean:
+            return "Bool";
+        case Category::string:
+            return "Text";
+        case Category::array:
+            return "List(" + camel(name_of_type(m), true) + ")";
+        case Category::address:
+        case Category::enumeration:
+        case Category::record:
+            break;
+    }
+    return camel(name_of_type(m), true);
 }
 
 std::string capnp_schema() {
@@ -332,4 +355,4 @@ Files write_rivals() {
             {"tarn_capnp.capnp", capnp_schema()},    {"capnp.inc", capnp_code()}};
 }
 
-}  // namespace tarn::generate
+}  // namespace tarn::bench

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "schema/catalogue.h"
 
-namespace tarn::generate {
+namespace tarn::bench {
 
 // Members that a form with arrays and strings of its own has: counts and lengths are part of those.
 inline std::vector<std::size_t> plain_members(const schema::Record &record) {
@@ -15,4 +16,6 @@ inline std::vector<std::size_t> plain_members(const schema::Record &record) {
     return all;
 }
 
-}  // namespace tarn::generate
+inline std::string value_type(const schema::Member &member) { return std::string(facts(member.kind).value_type); }
+
+}  // namespace tarn::bench
