@@ -7,9 +7,37 @@ include(CMakePackageConfigHelpers)
 # so that an installation can be moved.
 option(TARN_DEBIAN "install as Debian's packages want it" OFF)
 
+# The archive takes as long to build as everything else.
+option(TARN_STATIC "build, test and install the archive as well" OFF)
+
 set(include_dir ${CMAKE_INSTALL_INCLUDEDIR})
 set(library_dir ${CMAKE_INSTALL_LIBDIR})
 set(cmake_dir ${library_dir}/cmake/lumo_ui_tarn)
+
+# ---- before anything is written: is everything built?
+function(require_built component)
+  foreach(file IN LISTS ARGN)
+    install(CODE "if(NOT EXISTS \"${file}\")\n  string(APPEND not_built \"\\n  ${file}\")\nendif()"
+            COMPONENT ${component})
+  endforeach()
+endfunction()
+require_built(library $<TARGET_FILE:lumo_ui_tarn> $<TARGET_FILE:mirklib> $<TARGET_FILE:skald> $<TARGET_FILE:veld>)
+require_built(development ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz)
+require_built(tools $<TARGET_FILE:tarn> ${TARN_DISSECTOR} ${TARN_PYTHON_FILES} ${CMAKE_BINARY_DIR}/docs/tarn.1.gz)
+require_built(documentation ${CMAKE_BINARY_DIR}/docs/tarn_frame.5.gz)
+if(TARN_STATIC)
+  require_built(development $<TARGET_FILE:lumo_ui_tarn_static>)
+endif()
+if(TARN_REFERENCE)
+  require_built(documentation ${CMAKE_BINARY_DIR}/docs/reference.stamp)
+endif()
+if(NOT TARN_PYTHON_FILES)
+  install(CODE "message(\"${TARN_NO_PYTHON}\")" COMPONENT tools)
+endif()
+install(CODE "if(not_built)
+  message(FATAL_ERROR \"nothing is installed, because these files are not built:\${not_built}\n\"
+                      \"Build them first: cmake --build ${CMAKE_BINARY_DIR}\")
+endif()" ALL_COMPONENTS)
 
 # ---- libraries and programs
 if(NOT TARN_DEBIAN)
@@ -26,8 +54,6 @@ install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COM
 # ---- what programs are built with
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
-# The archive takes as long to build as all else.
-option(TARN_STATIC "build, test and install the archive as well" OFF)
 if(TARN_STATIC)
   set_target_properties(lumo_ui_tarn_static PROPERTIES EXCLUDE_FROM_ALL OFF)
   install(TARGETS lumo_ui_tarn_static EXPORT lumo_ui_tarn_static ARCHIVE DESTINATION ${library_dir}
