@@ -1,7 +1,7 @@
 """A script that runs steps fails if any of its steps fails.  steps.py SOURCES SCRATCH
 
 Runs copies of ./check and its like with stubs in place of every program that does work. First all stubs succeed, then each
-call of a stub fails in turn."""
+call of a stub fails in turn. No build is configured beforehand."""
 
 import concurrent.futures
 import os
@@ -24,7 +24,13 @@ n=1
 until true 2>/dev/null >"$CALLS/$n"; do n=$((n + 1)); done
 [ "$n" != "$FAILING_CALL" ] || exit 1
 case ${0##*/} in
-    cmake) mkdir -p build/package ;;
+    cmake)
+        preset=$(echo " $* " | sed -n 's/.* --preset \([^ ]*\) .*/\1/p')
+        case $1 in
+            --preset) mkdir -p "build/$preset" && touch "build/$preset/build.ninja" ;;
+            --build) [ -f "build/$preset/build.ninja" ] ;;
+        esac || exit 1
+        ;;
     cpack) mkdir -p packages && echo package >packages/one.deb ;;
     sudo) exec "$@" ;;
 esac
@@ -69,6 +75,8 @@ def run(place, command, failing_call=0, installed=True):
     calls = place / "calls"
     shutil.rmtree(calls, ignore_errors=True)
     calls.mkdir()
+    for configured in place.glob("build/**/build.ninja"):
+        configured.unlink()
     environment = {"PATH": f"{place}/bin:/usr/bin:/bin", "CALLS": str(calls), "FAILING_CALL": str(failing_call),
                    "INSTALLED": "yes" if installed else ""}
     result = subprocess.run([place / command[0], *command[1:]], cwd=scratch, env=environment, text=True,
