@@ -15,11 +15,11 @@ touch $place/answer.xml
 integer failures=0
 
 zpty -b shell "TERM=dumb zsh -f -i"
-zpty -w shell "PATH=${tool:h}:\$PATH; fpath=($folder \$fpath); cd $place; PROMPT= RPROMPT="
-zpty -w shell "autoload -Uz compinit; compinit -u -d $place/dump; setopt no_beep; LISTMAX=10000"
+zpty -w shell "PATH=${(q)tool:h}:\$PATH; fpath=(${(q)folder} \$fpath); cd ${(q)place}; PROMPT= RPROMPT="
+zpty -w shell "autoload -Uz compinit; compinit -u -d ${(q)place}/dump; setopt no_beep; LISTMAX=10000"
 # What the line has become is written to a file.
-zpty -w shell "note() { print -r -- \"\$BUFFER|\" > $place/line; BUFFER=; zle .redisplay }; zle -N note; bindkey '^X' note"
-zpty -w shell "print ready > $place/ready"
+zpty -w shell "note() { print -r -- \"\$BUFFER|\" > ${(q)place}/line; BUFFER=; zle .redisplay }; zle -N note; bindkey '^X' note"
+zpty -w shell "print ready > ${(q)place}/ready"
 for (( i = 0; i < 200; ++i )); do [[ -s $place/ready ]] && break; sleep 0.05; done
 
 expect() {
