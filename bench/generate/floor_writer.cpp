@@ -1,9 +1,9 @@
 // Straight-line code that makes the runtime calls which the contract demands for the life and the frames of a record,
 // and nothing else: what the library is measured against. Written out member by member, as one would by hand. It covers
 // what the measured workloads meet: frames of the same tracking mode, read into fresh instances.
-#include "bench/generate/fill_in.h"
 #include "bench/generate/members.h"
 #include "bench/generate/writers.h"
+#include "tools/generate/fill_in.h"
 
 namespace tarn::bench {
 

@@ -1,8 +1,8 @@
 // Records as plain C++ structs, and the way from these into the library's objects through its exported setters. The
 // measured workloads are made as plain values, so that every library that is compared starts from the same.
-#include "bench/generate/fill_in.h"
 #include "bench/generate/members.h"
 #include "bench/generate/writers.h"
+#include "tools/generate/fill_in.h"
 
 namespace tarn::bench {
 

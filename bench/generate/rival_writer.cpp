@@ -2,9 +2,9 @@
 // value of a message. For the benchmarks.
 #include <cctype>
 
-#include "bench/generate/fill_in.h"
 #include "bench/generate/members.h"
 #include "bench/generate/writers.h"
+#include "tools/generate/fill_in.h"
 
 namespace tarn::bench {
 

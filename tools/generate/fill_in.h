@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-namespace tarn::bench {
+namespace tarn {
 
 inline std::string fill_in(std::string text, std::initializer_list<std::pair<std::string_view, std::string>> places) {
     for (const auto &[name, value] : places) {
@@ -18,4 +18,4 @@ inline std::string fill_in(std::string text, std::initializer_list<std::pair<std
     return text;
 }
 
-}  // namespace tarn::bench
+}  // namespace tarn
