@@ -144,11 +144,4 @@ inline void *allocate(mirk_handle *h, std::uint32_t ctx_id, std::size_t size) {
 }
 inline void release(mirk_handle *h, std::uint32_t ctx_id, void *p) { h->obj_free(h->mem_ctx, ctx_id, p); }
 
-// A sticky form works on the handle's own error, which stays until an explicit form clears it.
-template <class Operation>
-std::uint32_t sticky_length(mirk_handle *h, Operation &&operation) {
-    const std::uint32_t written = operation(h->default_id, &h->last_error);
-    return h->last_error != 0 ? 0xFFFFFFFFU : written;
-}
-
 }  // namespace tarn

@@ -143,15 +143,6 @@ mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
 }
 
 template <const Record &R>
-mirk_object *Lifecycle<R>::create_cr(mirk_handle *h) {
-    mirk_lumo_ui_tarn_type_trace_init();
-    h->cr_mode = 1;
-    mirk_object *object = create_internal(h, h->default_id);
-    h->cr_mode = 0;
-    return object;
-}
-
-template <const Record &R>
 void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                               std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
                               std::uint32_t *err) {
@@ -203,11 +194,6 @@ void Lifecycle<R>::set_instance_embedded(mirk_handle *h, std::uint32_t ctx_id, m
 template <const Record &R>
 void Lifecycle<R>::destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object) {
     if (object != sentinel()) destroy_internal(h, ctx_id, object, 1);
-}
-
-template <const Record &R>
-void Lifecycle<R>::destroy_cr(mirk_handle *h, mirk_object *object) {
-    destroy_internal(h, h->default_id, object, 1);
 }
 
 template <const Record &R>

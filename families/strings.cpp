@@ -51,12 +51,6 @@ void String<S>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, c
     if (mark_written(h, ctx_id, object, member_place<S>, err)) mark_modified(object, 0);
 }
 
-template <class S>
-std::uint32_t String<S>::set_cr(mirk_handle *h, mirk_object *object, const char *text, std::uint32_t length) {
-    set(h, h->default_id, object, text, length, &h->last_error);
-    return h->last_error;
-}
-
 }  // namespace tarn
 
 #include "exports/strings.inc"

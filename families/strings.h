@@ -12,7 +12,6 @@ struct String {
                     std::uint32_t *err);
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const char *text, std::uint32_t length,
                     std::uint32_t *err);
-    static std::uint32_t set_cr(mirk_handle *h, mirk_object *object, const char *text, std::uint32_t length);
 };
 
 }  // namespace tarn

@@ -63,13 +63,6 @@ std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
     return offset;
 }
 
-template <const Record &R>
-std::uint32_t Text<R>::print_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return print(h, ctx_id, buffer, 0, R.name.data(), instance, remaining, err);
-    });
-}
-
 }  // namespace tarn
 
 #include "exports/text.inc"

@@ -9,7 +9,6 @@ template <const Record &R>
 struct Text {
     static std::uint32_t print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t indent,
                                const char *name, mirk_object *instance, std::int32_t remaining, std::uint32_t *err);
-    static std::uint32_t print_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining);
 };
 
 }  // namespace tarn

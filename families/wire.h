@@ -16,7 +16,6 @@ inline constexpr std::uint32_t record_head = schema::record_head_size;
 template <const Record &R>
 struct WireWrite {
     static std::uint32_t len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance);
-    static std::uint32_t len_cr(mirk_handle *h, mirk_object *instance);
     static std::uint32_t marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                  std::int32_t remaining, std::uint32_t *err);
     static std::uint32_t marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,

@@ -142,11 +142,6 @@ std::uint32_t WireWrite<R>::len(mirk_handle *h, std::uint32_t ctx_id, mirk_objec
     return sum;
 }
 
-template <const Record &R>
-std::uint32_t WireWrite<R>::len_cr(mirk_handle *h, mirk_object *instance) {
-    return h->last_error != 0 ? 0 : len(h, h->default_id, instance);
-}
-
 }  // namespace tarn
 
 #include "exports/wire_write.inc"

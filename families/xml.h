@@ -9,7 +9,6 @@ template <const Record &R>
 struct XmlWrite {
     static std::uint32_t to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *name, char *buffer,
                                 mirk_object *instance, std::int32_t remaining, std::uint8_t state, std::uint32_t *err);
-    static std::uint32_t toxml_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining);
 };
 
 template <const Record &R>

@@ -51,13 +51,6 @@ std::uint32_t XmlWrite<R>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const ch
     return offset;
 }
 
-template <const Record &R>
-std::uint32_t XmlWrite<R>::toxml_cr(mirk_handle *h, mirk_object *instance, char *buffer, std::int32_t remaining) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return to_xml(h, ctx_id, R.name.data(), buffer, instance, remaining, 0, err);
-    });
-}
-
 }  // namespace tarn
 
 #include "exports/xml_write.inc"

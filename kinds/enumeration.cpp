@@ -59,14 +59,6 @@ auto Enum<E>::create(mirk_handle *h, std::uint32_t ctx_id) -> object * {
     return instance;
 }
 
-template <const Enumeration &E>
-auto Enum<E>::create_cr(mirk_handle *h) -> object * {
-    h->cr_mode = 1;
-    object *instance = create(h, h->default_id);
-    h->cr_mode = 0;
-    return instance;
-}
-
 // Neither looks at the tracking mode nor drops an error of the look-up: an enclosing create thereby fails.
 template <const Enumeration &E>
 void Enum<E>::initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
@@ -100,11 +92,6 @@ void Enum<E>::get_object_references(mirk_handle *h, std::uint32_t, object *insta
 template <const Enumeration &E>
 void Enum<E>::destroy(mirk_handle *h, std::uint32_t ctx_id, object *instance) {
     destroy_internal(h, ctx_id, instance, 1);
-}
-
-template <const Enumeration &E>
-void Enum<E>::destroy_cr(mirk_handle *h, object *instance) {
-    destroy_internal(h, h->default_id, instance, 1);
 }
 
 template <const Enumeration &E>
@@ -258,13 +245,6 @@ std::uint32_t Enum<E>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
 }
 
 template <const Enumeration &E>
-std::uint32_t Enum<E>::print_cr(mirk_handle *h, object *instance, char *buffer, std::int32_t remaining) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return print(h, ctx_id, buffer, 0, E.name.data(), instance, remaining, err);
-    });
-}
-
-template <const Enumeration &E>
 std::uint32_t Enum<E>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *name, char *buffer, object *instance,
                               std::int32_t remaining, std::uint8_t, std::uint32_t *err) {
     if (!enter(h, err)) return 0;
@@ -274,13 +254,6 @@ std::uint32_t Enum<E>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *
     offset += xml_enum_print(h, ctx_id, buffer + offset, element.text.data(), left(), element.length, err);
     offset += end_tag(h, ctx_id, buffer + offset, name, left(), err);
     return offset;
-}
-
-template <const Enumeration &E>
-std::uint32_t Enum<E>::toxml_cr(mirk_handle *h, object *instance, char *buffer, std::int32_t remaining) {
-    return sticky_length(h, [&](std::uint32_t ctx_id, std::uint32_t *err) {
-        return to_xml(h, ctx_id, E.name.data(), buffer, instance, remaining, 0, err);
-    });
 }
 
 // The presence of an enumerator's element is the value; the lowest one present wins, and none leaves the value alone.

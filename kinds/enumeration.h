@@ -12,7 +12,6 @@ struct Enum {
 
     static std::int8_t variant_data_index_cap(std::int8_t variant) { return cap_variant(variant); }
     static object *create(mirk_handle *h, std::uint32_t ctx_id);
-    static object *create_cr(mirk_handle *h);
     static void initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
                            std::uint32_t notify, std::uint32_t not_used_1, std::uint8_t flags, void *not_used_2,
                            std::uint32_t *err);
@@ -23,7 +22,6 @@ struct Enum {
     static std::uint32_t sizeof_instance() { return schema::enumeration_size; }
     static void destroy(mirk_handle *h, std::uint32_t ctx_id, object *instance);
     static object *destroy_internal(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t free_it);
-    static void destroy_cr(mirk_handle *h, object *instance);
     static std::uint32_t same_value(std::uint32_t value) { return value; }
     static void adjust_variant(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t *err);
     static std::int32_t compare(const object *a, const object *b) {
@@ -48,10 +46,8 @@ struct Enum {
     static std::uint32_t backpropagate(mirk_handle *h, std::uint32_t ctx_id, object *instance, void *word);
     static std::uint32_t print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t indent,
                                const char *name, object *instance, std::int32_t remaining, std::uint32_t *err);
-    static std::uint32_t print_cr(mirk_handle *h, object *instance, char *buffer, std::int32_t remaining);
     static std::uint32_t to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *name, char *buffer, object *instance,
                                 std::int32_t remaining, std::uint8_t state, std::uint32_t *err);
-    static std::uint32_t toxml_cr(mirk_handle *h, object *instance, char *buffer, std::int32_t remaining);
     static void from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path, void *document, object *instance,
                          std::uint32_t *err, char *message, std::uint32_t message_size);
     static std::uint32_t is_valid_cr(mirk_handle *h, std::uint32_t value);

@@ -41,12 +41,6 @@ void end_frame(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t
     _mirk_message_header_marshal(h, ctx_id, buffer, &header, header_bytes, err);
 }
 
-// Unlike everywhere else the slot is not looked at on entry, but an error in the handle refuses a sticky rendering.
-template <class Rendering>
-std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
-    return h->last_error != 0 ? 0xFFFFFFFFU : sticky_length(h, rendering);
-}
-
 [[gnu::noinline]] void *create_token_cr(mirk_handle *h, void *sentinel) {
     if (h->last_error != 0) return sentinel;
     if (void *token = allocate(h, h->default_id, 0); token != nullptr) return token;
@@ -87,6 +81,7 @@ std::uint32_t render_sticky(mirk_handle *h, Rendering &&rendering) {
     return written;
 }
 
+// Unlike everywhere else the slot is not looked at on entry, here and below.
 [[gnu::noinline]] std::uint32_t print_line(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t size,
                                            const char *format, const char *bundle, std::uint32_t *err) {
     const auto room = static_cast<std::int32_t>(size);
@@ -136,11 +131,6 @@ std::uint32_t ControlMessage<B, K>::len(mirk_handle *, std::uint32_t, void *) {
 }
 
 template <const Bundle &B, Control K>
-std::uint32_t ControlMessage<B, K>::len_cr(mirk_handle *h, void *) {
-    return h->last_error != 0 ? 0 : frame_head;
-}
-
-template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, void *,
                                             std::uint32_t size, std::uint32_t *err) {
     const std::uint8_t *luid = ControlIdentity<B, K>::luid;
@@ -149,12 +139,6 @@ std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id
     } else {
         return marshal_end(h, ctx_id, buffer, size, luid, err);
     }
-}
-
-template <const Bundle &B, Control K>
-std::uint32_t ControlMessage<B, K>::marshal_cr(mirk_handle *h, void *token, void *buffer, std::uint32_t size) {
-    return sticky_length(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return marshal(h, ctx_id, buffer, token, size, err); });
 }
 
 // The frame is not read: being called is all that the message says. The result is no sign of success.
@@ -183,12 +167,6 @@ std::uint32_t ControlMessage<B, K>::print(mirk_handle *h, std::uint32_t ctx_id, 
     return print_line(h, ctx_id, buffer, size, format, B.name.data(), err);
 }
 
-template <const Bundle &B, Control K>
-std::uint32_t ControlMessage<B, K>::print_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
-    return render_sticky(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return print(h, ctx_id, buffer, token, size, err); });
-}
-
 // An empty element; the name is an attribute, which the closing tag leaves out.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, void *,
@@ -202,12 +180,6 @@ std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id,
         if constexpr (K == Control::commit) return named_text<B>("bundle_commit name=\"", "\"");
     }();
     return write_element(h, ctx_id, buffer, size, tag.data(), word, err);
-}
-
-template <const Bundle &B, Control K>
-std::uint32_t ControlMessage<B, K>::toxml_cr(mirk_handle *h, void *token, char *buffer, std::uint32_t size) {
-    return render_sticky(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return to_xml(h, ctx_id, buffer, token, size, err); });
 }
 
 // Any document gives a token: there is nothing in it to be read.

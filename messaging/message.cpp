@@ -79,14 +79,6 @@ message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
 }
 
 template <const Message &M>
-message_object *MessageObject<M>::create_cr(mirk_handle *h) {
-    h->cr_mode = 1;
-    message_object *message = create(h, h->default_id);
-    h->cr_mode = 0;
-    return message;
-}
-
-template <const Message &M>
 void MessageObject<M>::destroy(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
     if (message == nullptr || message == sentinel()) return;
     if (message->payload != nullptr) {
@@ -98,11 +90,6 @@ void MessageObject<M>::destroy(mirk_handle *h, std::uint32_t ctx_id, message_obj
     count(h, ctx_id, message->tinfo, &info.entries[0].num_destroyed, 1, is_observed(h));
     message->tinfo = nullptr;
     release(h, ctx_id, message);
-}
-
-template <const Message &M>
-void MessageObject<M>::destroy_cr(mirk_handle *h, message_object *message) {
-    destroy(h, h->default_id, message);
 }
 
 template <const Message &M>

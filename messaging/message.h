@@ -26,9 +26,7 @@ template <const Message &M>
 struct MessageObject {
     static message_object *create_shallow(mirk_handle *h, std::uint32_t ctx_id);
     static message_object *create(mirk_handle *h, std::uint32_t ctx_id);
-    static message_object *create_cr(mirk_handle *h);
     static void destroy(mirk_handle *h, std::uint32_t ctx_id, message_object *message);
-    static void destroy_cr(mirk_handle *h, message_object *message);
     static mirk_object *get(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err);
     static mirk_object *get_detach(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err);
     static void set(mirk_handle *h, std::uint32_t ctx_id, message_object *message, mirk_object *payload,
@@ -45,10 +43,8 @@ private:
 template <const Message &M>
 struct MessageWire {
     static std::uint32_t len(mirk_handle *h, std::uint32_t ctx_id, message_object *message);
-    static std::uint32_t len_cr(mirk_handle *h, message_object *message);
     static std::uint32_t marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, message_object *message,
                                  std::uint32_t size, std::uint32_t *err);
-    static std::uint32_t marshal_cr(mirk_handle *h, message_object *message, void *buffer, std::uint32_t size);
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, message_object **out,
                                    void *buffer, std::uint32_t size, mirk_message_handler handler, std::uint32_t *err);
     static std::uint32_t unmarshal_only(mirk_handle *h, std::uint32_t ctx_id, message_object **out, void *buffer,
@@ -59,10 +55,8 @@ template <const Message &M>
 struct MessageRendering {
     static std::uint32_t print(mirk_handle *h, std::uint32_t ctx_id, char *buffer, message_object *message,
                                std::uint32_t size, std::uint32_t *err);
-    static std::uint32_t print_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size);
     static std::uint32_t to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, message_object *message,
                                 std::uint32_t size, std::uint32_t *err);
-    static std::uint32_t toxml_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size);
     static message_object *from_xml(mirk_handle *h, std::uint32_t ctx_id, void *document, std::uint32_t *err,
                                     char *message_buffer, std::uint32_t message_size);
 };

@@ -30,12 +30,6 @@ std::uint32_t MessageRendering<M>::print(mirk_handle *h, std::uint32_t ctx_id, c
 }
 
 template <const Message &M>
-std::uint32_t MessageRendering<M>::print_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size) {
-    return sticky_length(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return print(h, ctx_id, buffer, message, size, err); });
-}
-
-template <const Message &M>
 std::uint32_t MessageRendering<M>::to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, message_object *message,
                                           std::uint32_t size, std::uint32_t *err) {
     if (*err != 0) {
@@ -53,12 +47,6 @@ std::uint32_t MessageRendering<M>::to_xml(mirk_handle *h, std::uint32_t ctx_id, 
     }
     position += end_tag(h, ctx_id, buffer + position, M.name.data(), left(), err);
     return position;
-}
-
-template <const Message &M>
-std::uint32_t MessageRendering<M>::toxml_cr(mirk_handle *h, message_object *message, char *buffer, std::uint32_t size) {
-    return sticky_length(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return to_xml(h, ctx_id, buffer, message, size, err); });
 }
 
 // A document without the payload's element gives a message with a fresh payload and no error.

@@ -8,11 +8,6 @@ std::uint32_t MessageWire<M>::len(mirk_handle *h, std::uint32_t ctx_id, message_
     return WireWrite<M.payload>::len(h, ctx_id, message->payload) + frame_head;
 }
 
-template <const Message &M>
-std::uint32_t MessageWire<M>::len_cr(mirk_handle *h, message_object *message) {
-    return h->last_error != 0 ? 0 : len(h, h->default_id, message);
-}
-
 // The header stands first and is written last, since it holds the total length: room is reserved for it, zeroed, and a
 // frame that failed keeps the zeros.
 template <const Message &M>
@@ -79,12 +74,6 @@ std::uint32_t MessageWire<M>::marshal(mirk_handle *h, std::uint32_t ctx_id, void
         _mirk_message_header_marshal(h, ctx_id, frame, &message->header, header_bytes, err);
     }
     return position;
-}
-
-template <const Message &M>
-std::uint32_t MessageWire<M>::marshal_cr(mirk_handle *h, message_object *message, void *buffer, std::uint32_t size) {
-    return sticky_length(
-        h, [&](std::uint32_t ctx_id, std::uint32_t *err) { return marshal(h, ctx_id, buffer, message, size, err); });
 }
 
 // The identity is stepped over and the length not compared: by the time this runs, a dispatcher has chosen the message.
