@@ -67,12 +67,12 @@ std::string generic(std::string_view pattern) {
 
 std::string operations(const std::string &heading, const std::string &introduction, Applies classes) {
     std::string out = ".Ss " + heading + "\n" + introduction + "\n.Bl -tag -width Ds\n";
-    std::vector<std::string> told;
+    std::vector<std::string> listed;
     for (const Operation &o : tarn::generate::operations()) {
         if (!includes(o.row->applies, classes)) continue;
         const std::string name = generic(o.name), text = generic(o.text);
-        if (std::find(told.begin(), told.end(), name + text) != told.end()) continue;
-        told.push_back(name + text);
+        if (std::find(listed.begin(), listed.end(), name + text) != listed.end()) continue;
+        listed.push_back(name + text);
         out += ".It Fn " + name + "\n" + line(text);
     }
     return out + ".El\n";
@@ -91,47 +91,47 @@ std::string library_page() {
 .Pp
 .Dl cc program.c $(pkg-config --cflags --libs lumo_ui_tarn)
 .Sh DESCRIPTION
-The library makes one schema executable.
-Every record can be made, filled through accessors with a state byte for each member, compared, hashed, copied, written
-to a frame and read back, printed as text, written as XML and read from it.
-Messages carry a record each, and bundles carry messages.
+The library implements one fixed schema.
+A record can be created, filled through accessors with a state byte for each member, compared, hashed, copied, written to a
+frame and read back, printed as text, written as XML and read from it.
+A message carries one record, and a bundle carries messages.
 .Pp
 The library runs on a runtime, whose handle is the first argument of most operations.
-A reference runtime comes with it:
+A reference runtime is included:
 .Fn mirk_platform_handle_open
-makes a handle, and
+creates a handle, and
 .Fn mirk_platform_handle_close
-ends it.
+closes it.
 .Pp
-An operation of a type is named TYPE_OPERATION, one of a member TYPE_MEMBER_OPERATION.
-Operations of one name behave alike for every type.
-What follows lists each once, with words in capitals for the names of types and members;
+An operation of a type has the name TYPE_OPERATION, an operation of a member TYPE_MEMBER_OPERATION.
+It behaves the same for every type.
+Each is listed once below, with words in capitals for the names of types and members;
 .In lumo_ui_tarn/families.h
-tells more.
+has the details.
 .Bl -tag -width ctx_id
 .It Fa h
-The handle, used by one thread at a time.
+The handle. Use it from one thread at a time.
 .It Fa ctx_id
-A token that is handed on to the memory callbacks of the runtime, and never interpreted.
+A number that is passed to the memory callbacks of the runtime unchanged.
 .It Fa err
-Where errors are told: 0, or a number from
+The error slot: 0, or a number from
 .In errno.h .
-An operation that finds it set does nothing, and returns 0 or null, so that a sequence of calls needs one look at its end.
+Calls are no-ops that return 0 or NULL once it is set; check it once at the end of a sequence.
 .El
 .Pp
-A sticky form, named with _cr at its end, takes neither: it works under the handle's default_id, and tells errors in the
-handle's last_error.
+A sticky form, with _cr at the end of its name, takes neither: it works under the handle's default_id, and its error slot is
+the handle's last_error.
 .Pp
-A buffer that frames are written to or read from has one more byte behind the size that is passed.
+A buffer for frames has one guard byte after the size that is passed.
 )mdoc";
     using enum Applies;
     out += operations("Records", "Each RECORD has these.", record);
-    out += operations("Members of records", "Which of them a MEMBER has follows from its kind.",
+    out += operations("Members of records", "The kind of a MEMBER decides which of them it has.",
                       integer | boolean | choice | address | nested | length | count | string | array);
     out += operations("Enumerations", "Each ENUM has these.", enumeration);
     out += operations("Messages", "Each MESSAGE has these.", message);
     out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.", control | bundle);
-    out += operations("The module", "There is one of each.", Applies::module);
+    out += operations("The module", "One of each.", Applies::module);
 
     out += ".Sh RECORDS\n";
     std::vector<std::pair<std::string, std::string>> entries;
@@ -159,28 +159,28 @@ A buffer that frames are written to or read from has one more byte behind the si
     return out + R"mdoc(.Sh ERRORS
 .Bl -tag -width Er
 .It Bq Er ENOENT
-No such index or element; no bundle is open; the open bundle does not admit the message.
+There is no such index or element, no bundle is open, or the open bundle does not admit the message.
 .It Bq Er ENOMEM
-No memory, or a buffer of size 0.
+Allocation failed, or the buffer has size 0.
 .It Bq Er EEXIST
-A bundle is open already.
+A bundle is already open.
 .It Bq Er EINVAL
-No state to read or write, or a null object.
+There is no state to read or write, or the object is NULL.
 .It Bq Er ENOSPC
 The destination is too short for the text.
 .It Bq Er ENOSYS
-Nobody took the message.
+No handler took the message.
 .It Bq Er EIDRM
-The domain has no place for the object's variant, or the enumeration no such value.
+The domain does not have the object's variant, or the enumeration does not have the value.
 .It Bq Er EBADE
 The domain does not have the message.
 .It Bq Er EBADMSG
-A control message out of order.
+A control message is out of order.
 .It Bq Er EMSGSIZE
-The buffer is too small for the frame, or the frame ends too early.
+The buffer is too small for the frame, or the frame is too short.
 .El
 .Pp
-Nothing is rolled back, and an object can be destroyed after any failure.
+Nothing is rolled back; an object can be destroyed after any failure.
 .Sh SEE ALSO
 .Xr tarn 1 ,
 .Xr tarn_frame 5

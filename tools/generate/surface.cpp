@@ -286,7 +286,8 @@ std::vector<Datum> all_data() {
     };
     for (const TypeEntry &t : types()) {
         add("mirk_type_info", "_" + t.name + "_type_info_internal", "", t.subject,
-            "The module's own type record of " + t.name + ": identity, variants, usage counters.");
+            "The module's own type record of " + t.name + ": identity, variants, usage counters" +
+                (t.subject.message != nullptr ? "; num_live stays 0." : "."));
     }
     for (const CatalogueEntry &c : catalogue()) {
         add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject,
