@@ -49,7 +49,7 @@ void c_members(benchmark::State &state) {
 
 void cpp_members(benchmark::State &state) {
     Runtime runtime;
-    const dp_tc tc(runtime.c);
+    dp_tc tc(runtime.c);
     std::uint32_t n = 0;
     for (auto _ : state) {
         tc.set_id(++n).set_tos(3);
@@ -61,7 +61,7 @@ void cpp_members(benchmark::State &state) {
 void c_array(benchmark::State &state) {
     Runtime runtime;
     mirk_handle *h = runtime.h;
-    const dp_tc_list owner = list_of_classes(runtime.c);
+    dp_tc_list owner = list_of_classes(runtime.c);
     lumo_tarn_dp_tc_list *list = owner.get();
     std::uint32_t err = 0;
     for (auto _ : state) {
@@ -80,7 +80,7 @@ void cpp_array(benchmark::State &state) {
     const dp_tc_list list = list_of_classes(runtime.c);
     for (auto _ : state) {
         std::uint64_t sum = 0;
-        for (const dp_tc_ref tc : list.tc_list()) sum += tc.id();
+        for (const dp_tc_view tc : list.tc_list()) sum += tc.id();
         benchmark::DoNotOptimize(sum);
     }
 }
@@ -88,7 +88,7 @@ void cpp_array(benchmark::State &state) {
 void c_frame(benchmark::State &state) {
     Runtime runtime;
     mirk_handle *h = runtime.h;
-    const dp_tc_list owner = list_of_classes(runtime.c);
+    dp_tc_list owner = list_of_classes(runtime.c);
     std::vector<std::uint8_t> buffer(owner.frame_size() + 1);
     std::uint32_t err = 0;
     for (auto _ : state) {

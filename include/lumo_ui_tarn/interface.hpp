@@ -4,9 +4,11 @@
 /// A context stands for the first two arguments and the last of every operation: handle, ctx_id and error slot. It says
 /// once how errors are told: thrown as std::system_error, or kept until somebody looks, as in C.
 ///
-/// For each record there are two types. dp_tc owns an instance; dp_tc_ref borrows one, from an owner, an array, a
-/// message or C code. A reference is two pointers and behaves like one: copying it copies no record, and const protects
-/// the reference, not the record. get() is the instance for everything that C offers and this header does not.
+/// For each record there are three types. dp_tc owns an instance; a const one is read-only. dp_tc_ref borrows one, from
+/// an owner, an array, a message or C code. A reference is two pointers and behaves like one: copying it copies no
+/// record, and const protects the reference, not the record. dp_tc_view borrows one and only reads; a const owner hands
+/// out views, and a reference converts to one. get() is the instance for everything that C offers and this header does
+/// not; owners and views give it as const where they are read-only.
 ///
 /// Everything here is inline, and an accessor is the C call of the same name and a look at the error slot.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
@@ -89,10 +91,10 @@ public:
         using Result = decltype(operation(handle_, ctx_id_, arguments..., &slot_));
         if constexpr (std::is_void_v<Result>) {
             operation(handle_, ctx_id_, arguments..., &slot_);
-            if (slot_ != 0) tell(nullptr);
+            if (slot_ != 0) raise(nullptr);
         } else {
             const Result result = operation(handle_, ctx_id_, arguments..., &slot_);
-            if (slot_ != 0) tell(nullptr);
+            if (slot_ != 0) raise(nullptr);
             return result;
         }
     }
@@ -100,7 +102,7 @@ public:
     /// An error that no operation has left: the first one stays.
     void fail(std::uint32_t number, const char *words = nullptr) {
         if (slot_ == 0) slot_ = number;
-        tell(words);
+        raise(words);
     }
 
 private:
@@ -108,7 +110,7 @@ private:
     [[gnu::cold, gnu::noinline]]
 #endif
     void
-    tell([[maybe_unused]] const char *words) {
+    raise([[maybe_unused]] const char *words) {
 #if defined(__cpp_exceptions)
         if (mode_ != errors::thrown) return;
         const std::error_code code = take_error();
@@ -202,14 +204,20 @@ template <class R>
 class record;
 template <class R>
 class record_ref;
+template <class R>
+class record_view;
 template <class M>
 class message;
 template <class M>
 class message_ref;
+template <class M>
+class message_view;
 template <class A>
 class array_ref;
+template <class A>
+class array_view;
 
-/// What owners and references have in common.
+/// What owners, references and views have in common.
 namespace detail {
 
 /// @cond helpers
@@ -249,14 +257,37 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
     }
     return text;
 }
+
+/// For for_each_member: the function that may write where a getter has one for owners that are not const.
+template <class C, class Result>
+constexpr auto writable(Result (C::*get)(), int) {
+    return get;
+}
+template <class C, class Result>
+constexpr auto writable(Result (C::*get)() const, long) {
+    return get;
+}
+
+/// Empties a record that owns blocks into one that ends with the scope.
+template <class N>
+class emptied {
+public:
+    emptied(context &c, typename N::native *object) {
+        if constexpr (N::owns_blocks) {
+            former_.emplace(c);
+            c.call(N::set, former_->get(), object);
+        }
+    }
+
+private:
+    std::optional<record<N>> former_;
+};
 /// @endcond
 
-/// What owners and references are: a context and an object in C.
+/// What owners, references and views are: a context and an object in C.
 template <class Native>
 class bound {
 public:
-    /// The object, for C functions; null if there is none.
-    Native *get() const { return native_; }
     /// What it was made with.
     lumo_ui_tarn::context &context() const { return *context_; }
     /// There is an object.
@@ -279,8 +310,8 @@ protected:
     /// @endcond
 };
 
-/// What a record can do whatever its members are, and how the members printed from the schema do what they do. Names of
-/// helpers end in an underscore, since those of members are the schema's.
+/// What a record can do without being written, whatever its members are, and how the members printed from the schema do
+/// what they do. Names of helpers end in an underscore, since those of members are the schema's.
 template <class R, class Self>
 class operations : public bound<typename R::native> {
     using base = bound<typename R::native>;
@@ -292,14 +323,14 @@ public:
     /// The record's name in C.
     static constexpr std::string_view record_name() { return R::name; }
 
-    /// A reference to it.
-    operator record_ref<R>() const { return {this->context(), this->get()}; }
+    /// A view of it.
+    operator record_view<R>() const { return {this->context(), this->native_}; }
 
     /// An upper bound, unless objects carry RA data.
-    std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->get()); }
+    std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->native_); }
     /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
-        return this->context().call(R::marshal, static_cast<void *>(buffer), this->get(),
+        return this->context().call(R::marshal, static_cast<void *>(buffer), this->native_,
                                     static_cast<std::int32_t>(size_with_spare) - 1);
     }
 #if defined(__cpp_lib_span)
@@ -312,14 +343,14 @@ public:
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
-            return R::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::int32_t>(size), err);
+            return R::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::int32_t>(size), err);
         });
     }
     /// An XML element of this name.
     std::string to_xml(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
-            return R::to_xml(c.handle(), c.ctx_id(), name, buffer, this->get(), static_cast<std::int32_t>(size), 0,
+            return R::to_xml(c.handle(), c.ctx_id(), name, buffer, this->native_, static_cast<std::int32_t>(size), 0,
                              err);
         });
     }
@@ -327,25 +358,21 @@ public:
     std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
-            return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->get(), static_cast<std::int32_t>(size), err);
+            return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->native_, static_cast<std::int32_t>(size), err);
         });
     }
 
     /// Only the sign means something. Header and state play no part.
-    std::int32_t compare(record_ref<R> other) const { return R::compare(this->get(), other.get()); }
+    std::int32_t compare(record_view<R> other) const { return R::compare(this->native_, other.get()); }
     /// Equal records have equal hashes.
-    std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->get(), seed); }
+    std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->native_, seed); }
     /// A deep copy.
     record<R> copy() const;
 
-    /// Fills all state bytes at once, without announcing it.
-    void set_all_states(std::uint8_t value) const {
-        R::set_all_state_tracking_flag(this->context().handle(), this->context().ctx_id(), this->get(), value);
-    }
     /// It has states.
     bool is_tracked() const {
-        return this->context().tracks() && this->get() != nullptr &&
-               (reinterpret_cast<const mirk_object *>(this->get())->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
+        return this->context().tracks() && this->native_ != nullptr &&
+               (reinterpret_cast<const mirk_object *>(this->native_)->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
     }
 
     /// @cond helpers
@@ -357,12 +384,19 @@ protected:
 
     using base::call_;
 
-    const Self &self_() const { return static_cast<const Self &>(*this); }
+    /// Writers chain: they return the owner, or the reference as const as it came.
+    template <class Object>
+    static auto &self_(Object &object) {
+        return static_cast<std::conditional_t<std::is_const_v<Object>, const Self, Self> &>(object);
+    }
 
-    template <class Set, class Value>
-    const Self &write_(Set set, Value value) const {
-        call_(set, value);
-        return self_();
+    template <class Object, class Set, class Value>
+    static auto &write_(Object &object, Set set, Value value) {
+        object.call_(set, value);
+        return self_(object);
+    }
+    void fill_states_(std::uint8_t value) const {
+        R::set_all_state_tracking_flag(this->context().handle(), this->context().ctx_id(), this->native_, value);
     }
     template <class GetState>
     std::optional<std::uint8_t> state_(GetState get_state) const {
@@ -371,7 +405,7 @@ protected:
     }
 
     template <class Enumeration, class Get>
-    Enumeration choice_(Get get_value) const {
+    Enumeration enumerated_(Get get_value) const {
         return static_cast<Enumeration>(call_(get_value));
     }
     template <class N, class Get>
@@ -380,7 +414,7 @@ protected:
     }
     template <class A>
     array_ref<A> array_() const {
-        return {this->context(), this->get()};
+        return {this->context(), this->native_};
     }
 
     template <class Length, class Get>
@@ -390,76 +424,114 @@ protected:
         text.resize(std::strlen(text.c_str()));
         return text;
     }
-    template <class Set>
-    const Self &write_string_(Set set, std::string_view text) const {
+    template <class Object, class Set>
+    static auto &write_string_(Object &object, Set set, std::string_view text) {
         if (text.size() > std::numeric_limits<std::uint16_t>::max()) {
-            this->context().fail(EOVERFLOW);
-            return self_();
+            object.context().fail(EOVERFLOW);
+        } else {
+            object.call_(set, text.data(), static_cast<std::uint32_t>(text.size()));
         }
-        call_(set, text.data(), static_cast<std::uint32_t>(text.size()));
-        return self_();
+        return self_(object);
     }
 
     template <class Get>
     lumo_ui_tarn::address read_address_(Get get) const {
         lumo_ui_tarn::address value;
-        if (const ip_address *place = call_(get); place != nullptr) {
-            value.af = place->af;
-            value.prefix_len = place->prefix_len;
-            value.scope = place->scope;
-            for (std::size_t i = 0; i < 4; ++i) value.word[i] = place->word[i];
+        if (const ip_address *present = call_(get); present != nullptr) {
+            value.af = present->af;
+            value.prefix_len = present->prefix_len;
+            value.scope = present->scope;
+            for (std::size_t i = 0; i < 4; ++i) value.word[i] = present->word[i];
         }
         return value;
     }
     /// The setter takes a whole object: the one that stands there with other values, and states that say written.
-    template <class Get, class Set>
-    const Self &write_address_(Get get, Set set, const lumo_ui_tarn::address &value) const {
-        const ip_address *place = call_(get);
-        if (place == nullptr) return self_();
+    template <class Object, class Get, class Set>
+    static auto &write_address_(Object &object, Get get, Set set, const lumo_ui_tarn::address &value) {
+        const ip_address *present = object.call_(get);
+        if (present == nullptr) return self_(object);
         struct {
             ip_address object;
             std::uint8_t states[8];
         } source;
-        source.object = *place;
+        source.object = *present;
         source.object.obj_flag &= static_cast<std::uint8_t>(~(MIRK_OBJ_STTR_OFFSET | MIRK_OBJ_RA_DATA));
         source.object.af = value.af;
         source.object.prefix_len = value.prefix_len;
         source.object.scope = value.scope;
         for (std::size_t i = 0; i < 4; ++i) source.object.word[i] = value.word[i];
         std::memset(source.states, 2, sizeof source.states);
-        call_(set, &source.object);
-        return self_();
+        object.call_(set, &source.object);
+        return self_(object);
     }
 
-    /// The setters of C move, and forget what the destination owned. Here nothing is lost: a copy is moved in, and what
+    /// The setters of C move, and abandon what the destination owned. Here nothing is lost: a copy is moved in, and what
     /// was there is moved out.
-    template <class N, class Get, class Set>
-    const Self &adopt_(Get get, Set set, record<N> &&value) const;
-    template <class N, class Get, class Set>
-    const Self &assign_(Get get, Set set, record_ref<N> value) const;
+    template <class Object, class N, class Get, class Set>
+    static auto &adopt_(Object &object, Get get, Set set, record<N> &&value) {
+        {
+            const emptied<N> former(object.context(), object.call_(get));
+            object.call_(set, value.get());
+        }
+        return self_(object);
+    }
+    template <class Object, class N, class Get, class Set>
+    static auto &assign_(Object &object, [[maybe_unused]] Get get, Set set, record_view<N> value) {
+        if constexpr (N::owns_blocks) {
+            return adopt_(object, get, set, value.copy());
+        } else {
+            object.call_(set, const_cast<typename N::native *>(value.get()));  // which copies
+            return self_(object);
+        }
+    }
     /// @endcond
 };
 
 }  // namespace detail
 
+/// Borrows a record to read it.
+template <class R>
+class record_view : public R::template members<record_view<R>> {
+    using base = typename R::template members<record_view<R>>;
+
+public:
+    /// Of what C code has. The operations of C that read take a plain pointer, too.
+    record_view(context &c, const typename R::native *native) : base(c, const_cast<typename R::native *>(native)) {}
+
+    /// The object, for C functions; null if there is none.
+    const typename R::native *get() const { return this->native_; }
+};
+
 /// Borrows a record: two pointers, which are copied and not what they point to.
 template <class R>
-class record_ref : public R::template members<record_ref<R>> {
-    using base = typename R::template members<record_ref<R>>;
+class record_ref : public R::template ref_writers<record_ref<R>> {
+    using base = typename R::template ref_writers<record_ref<R>>;
 
 public:
     /// Of what C code has.
     record_ref(context &c, typename R::native *native) : base(c, native) {}
+
+    /// The object, for C functions; null if there is none.
+    typename R::native *get() const { return this->native_; }
+    /// Fills all state bytes at once; observers are not notified.
+    void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
+    /// Calls visit with a lumo_ui_tarn::member for each, in order.
+    template <class Visit>
+    static void for_each_member(Visit &&visit) {
+        R::template visit_writable_<record_ref>(visit);
+    }
 };
 
 /// Owns a record, and ends it.
 template <class R>
-class record : public R::template members<record<R>> {
-    using base = typename R::template members<record<R>>;
+class record : public R::template writers<record<R>> {
+    using base = typename R::template writers<record<R>>;
 
 public:
     /// Borrows what this owns.
     using reference_type = record_ref<R>;
+    /// Borrows what this owns, to read it.
+    using view_type = record_view<R>;
 
     /// All members zero. ENOMEM without memory.
     explicit record(context &c) : base(c, c.ok() ? R::create(c.handle(), c.ctx_id()) : nullptr) {
@@ -482,6 +554,19 @@ public:
 
     /// Takes over what C code made, or hands it back to C code.
     static record take(context &c, typename R::native *native) { return record(c, native); }
+    /// The object, for C functions; null if there is none.
+    typename R::native *get() { return this->native_; }
+    /// The object, to be read.
+    const typename R::native *get() const { return this->native_; }
+    /// A reference to it.
+    operator record_ref<R>() { return {this->context(), this->native_}; }
+    /// Fills all state bytes at once; observers are not notified.
+    void set_all_states(std::uint8_t value) { this->fill_states_(value); }
+    /// Calls visit with a lumo_ui_tarn::member for each, in order; a const owner is visited as its view_type.
+    template <class Visit>
+    static void for_each_member(Visit &&visit) {
+        R::template visit_writable_<record>(visit);
+    }
     /// Gives it away; this one is empty afterwards.
     [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
@@ -555,56 +640,21 @@ record<R> operations<R, Self>::copy() const {
     typename R::native *result = nullptr;
     const std::size_t size = frame_size();
     std::vector<std::uint8_t> buffer(size + 1);
-    c.call(R::clone, this->get(), &result, static_cast<void *>(buffer.data()), static_cast<std::uint32_t>(size));
+    c.call(R::clone, this->native_, &result, static_cast<void *>(buffer.data()), static_cast<std::uint32_t>(size));
     return record<R>::take(c, result);
-}
-
-/// Empties a record that owns blocks into one that ends with the scope.
-template <class N>
-class emptied {
-public:
-    emptied(context &c, typename N::native *object) {
-        if constexpr (N::owns_blocks) {
-            former_.emplace(c);
-            c.call(N::set, former_->get(), object);
-        }
-    }
-
-private:
-    std::optional<record<N>> former_;
-};
-
-template <class R, class Self>
-template <class N, class Get, class Set>
-const Self &operations<R, Self>::adopt_(Get get, Set set, record<N> &&value) const {
-    const emptied<N> former(this->context(), call_(get));
-    call_(set, value.get());
-    return self_();
-}
-
-template <class R, class Self>
-template <class N, class Get, class Set>
-const Self &operations<R, Self>::assign_([[maybe_unused]] Get get, Set set, record_ref<N> value) const {
-    if constexpr (N::owns_blocks) {
-        return adopt_(get, set, value.copy());
-    } else {
-        call_(set, value.get());
-        return self_();
-    }
 }
 /// @endcond
 
 }  // namespace detail
 
-/// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
-/// good until the array grows, and each growth moves all elements: grow once, then fill.
-template <class A>
-class array_ref {
-    using element = typename A::element;
+namespace detail {
 
+/// An array of a record, as a container of what borrows an element.
+template <class A, class Element>
+class array {
 public:
     /// What an element is to whoever looks.
-    using value_type = record_ref<element>;
+    using value_type = Element;
     /// What counts elements.
     using size_type = std::size_t;
 
@@ -612,7 +662,7 @@ public:
     class iterator {
     public:
         /// @cond what every iterator has
-        using value_type = record_ref<element>;
+        using value_type = Element;
         using reference = value_type;
         using difference_type = std::ptrdiff_t;
         using iterator_category = std::input_iterator_tag;  // its references are values, hence no better one
@@ -626,7 +676,7 @@ public:
 
         iterator() = default;
         iterator(context *c, typename A::native *owner, std::size_t at) : context_(c), owner_(owner), at_(at) {}
-        reference operator*() const { return array_ref(*context_, owner_)[at_]; }
+        reference operator*() const { return array(*context_, owner_)[at_]; }
         pointer operator->() const { return {**this}; }
         reference operator[](difference_type n) const { return *(*this + n); }
         iterator &operator+=(difference_type n) {
@@ -668,9 +718,6 @@ public:
     /// Being constant protects the container and not what is in it.
     using const_iterator = iterator;
 
-    /// Of the record that has the array.
-    array_ref(context &c, typename A::native *owner) : context_(&c), owner_(owner) {}
-
     /// How many elements there are.
     std::size_t size() const { return context_->call(A::size, owner_); }
     /// There are none.
@@ -690,6 +737,53 @@ public:
     iterator begin() const { return {context_, owner_, 0}; }
     /// Behind the last element.
     iterator end() const { return {context_, owner_, size()}; }
+
+    /// The state of one element; none if the owner has no states.
+    std::optional<std::uint8_t> state(std::size_t index) const {
+        const auto *object = reinterpret_cast<const mirk_object *>(owner_);
+        if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
+            return std::nullopt;
+        }
+        return context_->call(A::state_get, owner_, static_cast<std::uint32_t>(index));
+    }
+    /// @cond helpers
+protected:
+    friend class iterator;
+    array(context &c, typename A::native *owner) : context_(&c), owner_(owner) {}
+
+    context *context_;
+    typename A::native *owner_;
+    /// @endcond
+};
+
+}  // namespace detail
+
+/// An array that is only read.
+template <class A>
+class array_view : public detail::array<A, record_view<typename A::element>> {
+public:
+    /// Of the record that has the array.
+    array_view(context &c, const typename A::native *owner)
+        : detail::array<A, record_view<typename A::element>>(c, const_cast<typename A::native *>(owner)) {}
+};
+
+/// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
+/// good until the array grows, and each growth moves all elements: grow once, then fill.
+template <class A>
+class array_ref : public detail::array<A, record_ref<typename A::element>> {
+    using base = detail::array<A, record_ref<typename A::element>>;
+    using element = typename A::element;
+    using base::context_;
+    using base::owner_;
+
+public:
+    using base::max_size;
+    using base::size;
+
+    /// Of the record that has the array.
+    array_ref(context &c, typename A::native *owner) : base(c, owner) {}
+    /// A view of it.
+    operator array_view<A>() const { return {*context_, owner_}; }
 
     /// To this many elements, new ones with all members zero. EINVAL for fewer than there are: arrays do not shrink.
     const array_ref &grow(std::size_t elements) const {
@@ -716,20 +810,12 @@ public:
         return *this;
     }
     /// Writes a copy of the value.
-    const array_ref &set(std::size_t index, value_type value) const { return set(index, value.copy()); }
+    const array_ref &set(std::size_t index, record_view<element> value) const { return set(index, value.copy()); }
     /// Moves the value behind the last element.
     const array_ref &push_back(record<element> &&value) const { return set(size(), std::move(value)); }
     /// Puts a copy of the value behind the last element.
-    const array_ref &push_back(value_type value) const { return set(size(), value.copy()); }
+    const array_ref &push_back(record_view<element> value) const { return set(size(), value.copy()); }
 
-    /// The state of one element; none if the owner has no states.
-    std::optional<std::uint8_t> state(std::size_t index) const {
-        const auto *object = reinterpret_cast<const mirk_object *>(owner_);
-        if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
-            return std::nullopt;
-        }
-        return context_->call(A::state_get, owner_, static_cast<std::uint32_t>(index));
-    }
     /// Writes the state of one element.
     const array_ref &set_state(std::size_t index, std::uint8_t value) const {
         context_->call(A::state_set, owner_, static_cast<std::uint32_t>(index), value);
@@ -740,14 +826,11 @@ private:
     void put(std::size_t index, typename element::native *value) const {
         context_->call(A::set, owner_, static_cast<std::uint32_t>(index), value);
     }
-
-    context *context_;
-    typename A::native *owner_;
 };
 
 namespace detail {
 
-/// What a message can do, owned or borrowed.
+/// What a message can do without being written.
 template <class M>
 class message_operations : public bound<typename M::native> {
     using base = bound<typename M::native>;
@@ -763,28 +846,16 @@ public:
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return M::luid(); }
 
-    /// A reference to it.
-    operator message_ref<M>() const { return {this->context(), this->get()}; }
-
-    /// Borrowed: it goes with the message.
-    record_ref<payload_type> payload() const { return {this->context(), this->call_(M::payload_get)}; }
-    /// The message has no payload afterwards, until it gets another one.
-    record<payload_type> detach_payload() const {
-        return record<payload_type>::take(this->context(), this->call_(M::payload_detach));
-    }
-    /// What it had is destroyed.
-    void set_payload(record<payload_type> &&value) const {
-        typename payload_type::native *const next = value.release();
-        if (next != payload().get()) this->call_(M::payload_free_and_set, next);
-    }
+    /// A view of it.
+    operator message_view<M>() const { return {this->context(), this->native_}; }
 
     /// Bytes of its frame.
     std::size_t frame_size() const {
-        return this->get() != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->get()) : 0;
+        return this->native_ != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
     }
     /// Returns the bytes written. The last byte of the buffer is the spare one.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
-        return this->context().call(M::marshal, static_cast<void *>(buffer), this->get(),
+        return this->context().call(M::marshal, static_cast<void *>(buffer), this->native_,
                                     static_cast<std::uint32_t>(size_with_spare) - 1);
     }
 #if defined(__cpp_lib_span)
@@ -797,7 +868,7 @@ public:
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
-            return M::marshal(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::uint32_t>(size), err);
+            return M::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
         });
     }
     /// An XML element of its name.
@@ -811,6 +882,15 @@ protected:
     ~message_operations() = default;
     message_operations(const message_operations &) = default;
     message_operations &operator=(const message_operations &) = default;
+
+    record_ref<payload_type> payload_() const { return {this->context(), this->call_(M::payload_get)}; }
+    record<payload_type> detach_payload_() const {
+        return record<payload_type>::take(this->context(), this->call_(M::payload_detach));
+    }
+    void set_payload_(record<payload_type> &&value) const {
+        typename payload_type::native *const next = value.release();
+        if (next != payload_().get()) this->call_(M::payload_free_and_set, next);
+    }
     /// @endcond
 
 private:
@@ -818,12 +898,26 @@ private:
     std::string rendered(Operation operation) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
-            return operation(c.handle(), c.ctx_id(), buffer, this->get(), static_cast<std::uint32_t>(size), err);
+            return operation(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
         });
     }
 };
 
 }  // namespace detail
+
+/// Borrows a message to read it, as record_view borrows a record.
+template <class M>
+class message_view : public detail::message_operations<M> {
+public:
+    /// Of what C code has. The operations of C that read take a plain pointer, too.
+    message_view(context &c, const typename M::native *native)
+        : detail::message_operations<M>(c, const_cast<typename M::native *>(native)) {}
+
+    /// The object, for C functions; null if there is none.
+    const typename M::native *get() const { return this->native_; }
+    /// Borrowed: it goes with the message.
+    record_view<typename M::payload> payload() const { return this->payload_(); }
+};
 
 /// Borrows a message, as record_ref borrows a record.
 template <class M>
@@ -831,6 +925,15 @@ class message_ref : public detail::message_operations<M> {
 public:
     /// Of what C code has.
     message_ref(context &c, typename M::native *native) : detail::message_operations<M>(c, native) {}
+
+    /// The object, for C functions; null if there is none.
+    typename M::native *get() const { return this->native_; }
+    /// Borrowed: it goes with the message.
+    record_ref<typename M::payload> payload() const { return this->payload_(); }
+    /// The message has no payload afterwards, until it gets another one.
+    record<typename M::payload> detach_payload() const { return this->detach_payload_(); }
+    /// What it had is destroyed.
+    void set_payload(record<typename M::payload> &&value) const { this->set_payload_(std::move(value)); }
 };
 
 /// Owns a message, and ends it with its payload.
@@ -841,6 +944,8 @@ class message : public detail::message_operations<M> {
 public:
     /// Borrows what this owns.
     using reference_type = message_ref<M>;
+    /// Borrows what this owns, to read it.
+    using view_type = message_view<M>;
 
     /// With a fresh payload. ENOMEM without memory.
     explicit message(context &c) : base(c, c.ok() ? M::create(c.handle(), c.ctx_id()) : nullptr) {
@@ -863,6 +968,20 @@ public:
 
     /// Takes over what C code made.
     static message take(context &c, typename M::native *native) { return message(c, native); }
+    /// The object, for C functions; null if there is none.
+    typename M::native *get() { return this->native_; }
+    /// The object, to be read.
+    const typename M::native *get() const { return this->native_; }
+    /// A reference to it.
+    operator message_ref<M>() { return {this->context(), this->native_}; }
+    /// Borrowed: it goes with the message.
+    record_ref<typename M::payload> payload() { return this->payload_(); }
+    /// The message has no payload afterwards, until it gets another one.
+    record<typename M::payload> detach_payload() { return this->detach_payload_(); }
+    /// What it had is destroyed.
+    void set_payload(record<typename M::payload> &&value) { this->set_payload_(std::move(value)); }
+    /// Borrowed, to be read: it goes with the message.
+    record_view<typename M::payload> payload() const { return this->payload_(); }
     /// Gives it away; this one is empty afterwards.
     [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
@@ -925,7 +1044,7 @@ public:
     }
 
     /// The frame of a message that the bundle admits.
-    bundle_writer &add(message_ref<typename B::message> one) {
+    bundle_writer &add(message_view<typename B::message> one) {
         frames_.append(one.to_frame());
         return *this;
     }
@@ -967,6 +1086,10 @@ struct std::hash<lumo_ui_tarn::record<R>> {
 template <class R>
 struct std::hash<lumo_ui_tarn::record_ref<R>> {
     std::size_t operator()(const lumo_ui_tarn::record_ref<R> &object) const { return object.hash(); }
+};
+template <class R>
+struct std::hash<lumo_ui_tarn::record_view<R>> {
+    std::size_t operator()(const lumo_ui_tarn::record_view<R> &object) const { return object.hash(); }
 };
 /// @endcond
 

@@ -144,7 +144,7 @@ protected:
     }
 
     template <class R>
-    static void grow_arrays(const R &object) {
+    static void grow_arrays(R &object) {
         R::for_each_member([&](const auto &m) {
             if constexpr (requires { (object.*m.get)().grow(1); }) (object.*m.get)().grow(2);
         });

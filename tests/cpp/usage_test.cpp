@@ -136,7 +136,7 @@ TEST_F(CppUsage, NoMemoryIsAnError) {
 TEST_F(CppUsage, ACountOfOneByteIsNotLedAround) {
     context c(handle);
     lumo_info_list list(c);
-    const auto infos = dp_mp_prefix_data(c);
+    auto infos = dp_mp_prefix_data(c);
     const auto prefixes = infos.prefix_data();
     EXPECT_EQ(prefixes.max_size(), 255u);
     prefixes.grow(255);

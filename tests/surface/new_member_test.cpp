@@ -23,6 +23,7 @@ constexpr Product products[] = {
     {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "void lumo_tarn_dp_tc_dwell_limit_set_value("},
     {"headers", "lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "@name dwell_limit: how long the class may dwell\n"},
     {"manuals", "tarn_frame.5", ".It dwell_limit\nu16, 2 bytes: how long the class may dwell\n"},
+    {"headers", "lumo_ui_tarn.hpp", "        Self &set_dwell_limit(std::uint16_t value) {"},
     {"headers", "lumo_ui_tarn.hpp", "const Self &set_dwell_limit(std::uint16_t value) const"},
     {"headers", "lumo_ui_tarn.hpp", "std::uint16_t dwell_limit() const"},
     {"python", "_schema.py", R"(("dwell_limit", "dwell_limit", "u16", "", "how long the class may dwell"))"},
@@ -116,7 +117,7 @@ TEST_F(NewHeaders, GiveTheMemberToCAndCpp) {
     EXPECT_EQ(as_c.code, 0) << as_c.text;
     const std::string cpp =
         "#include <lumo_ui_tarn.hpp>\n"
-        "int limit(const lumo_ui_tarn::dp_tc &tc) { return tc.set_dwell_limit(5).set_tos(1).dwell_limit(); }\n";
+        "int limit(lumo_ui_tarn::dp_tc &tc) { return tc.set_dwell_limit(5).set_tos(1).dwell_limit(); }\n";
     const Output as_cpp = compile("use.cpp", cpp, TARN_CXX " -std=c++17 -fsyntax-only -Wall -Werror");
     EXPECT_EQ(as_cpp.code, 0) << as_cpp.text;
 }

@@ -116,8 +116,9 @@ std::string identifier(std::string_view name) {
 }
 
 // Breaks a line behind commas; what is continued stands further in.
-std::string broken(std::string line, std::size_t indent) {
+std::string broken(std::string line, std::size_t indent, std::size_t first_indent = 0) {
     std::string text;
+    line.insert(0, first_indent, ' ');
     while (line.size() > line_width) {
         const std::size_t comma = line.rfind(", ", line_width - 1);
         if (comma == std::string::npos) break;
@@ -153,92 +154,119 @@ public:
     }
 
     const std::string &arrays() const { return arrays_; }
-    const std::string &functions() const { return functions_; }
+    const std::string &readers() const { return readers_; }
+    const std::string &owner_writers() const { return owner_writers_; }
+    const std::string &ref_writers() const { return ref_writers_; }
     const std::string &listed() const { return listed_; }
+    const std::string &listed_writable() const { return listed_writable_; }
 
 private:
     std::string c(const Member &m) const { return std::string(record_.name) + "_" + std::string(m.name); }
 
-    void function(const std::string &meaning, const std::string &result, const std::string &name,
-                  const std::string &parameter, const std::string &body) {
-        if (!names_.insert(name + "(" + parameter.substr(0, 5)).second) {
-            throw std::runtime_error(std::string(record_.name) + " has two functions that are called " + name);
-        }
-        functions_ += "        /// " + meaning + "\n";
-        const std::string head =
-            "        " + result + (result.ends_with('&') ? "" : " ") + name + "(" + parameter + ") const {";
-        const std::string statement = "return this->" + body + ";";
-        if (head.size() + statement.size() + 3 <= line_width) {
-            functions_ += head + " " + statement + " }\n";
-        } else {
-            functions_ += head + "\n" + broken(std::string(12, ' ') + statement, 16) + "        }\n";
-        }
+    static std::string function(const std::string &meaning, const std::string &head, const std::string &body) {
+        const std::string open = "        " + head + " {", statement = "return this->" + body + ";";
+        return (meaning.empty() ? "" : "        /// " + meaning + "\n") +
+               (open.size() + statement.size() + 3 <= line_width
+                    ? open + " " + statement + " }\n"
+                    : open + "\n" + broken(std::string(12, ' ') + statement, 16) + "        }\n");
+    }
+    void claim(const std::string &name) {
+        if (names_.insert(name).second) return;
+        throw std::runtime_error(std::string(record_.name) + " has two functions that are called " + name);
+    }
+    void reader(const std::string &meaning, const std::string &result, const std::string &name,
+                const std::string &body) {
+        claim(name + "()");
+        readers_ += function(meaning, result + " " + name + "() const", body);
+    }
+    // Owners write while they are not const, references always.
+    void writer(const std::string &meaning, const std::string &name, const std::string &parameter,
+                const std::string &helper, const std::string &arguments) {
+        claim(name + "(" + parameter.substr(0, 5));
+        const std::string call = name + "(" + parameter + ")", body = helper + "(*this, " + arguments + ")";
+        owner_writers_ += function(meaning, "Self &" + call, body);
+        ref_writers_ += function("", "const Self &" + call + " const", body);
+    }
+    // What a record contains can be written where the record can be.
+    void borrowed(const std::string &meaning, const std::string &of_view, const std::string &of_ref,
+                  const std::string &name, const std::string &body) {
+        reader(meaning, of_view, name, body);
+        owner_writers_ +=
+            "        using members<Self>::" + name + ";\n" + function(meaning, of_ref + " " + name + "()", body);
+        ref_writers_ += function("", of_ref + " " + name + "() const", body);
     }
 
+    // A line of for_each_member, for views and for what can be written.
     void list(const Member &m, const std::string &name, bool set, bool state) {
-        const std::string in = "&members::";
-        listed_ +=
-            broken("            visit(lumo_ui_tarn::member{\"" + std::string(m.name) + "\", " + in + name + ", " +
-                       (set ? in + "set_" + name : "nullptr") + ", " +
-                       (state ? in + name + "_state, " + in + "set_" + name + "_state" : "nullptr, nullptr") + "});",
-                   16);
+        const auto line = [&](const std::string &get, const std::string &of, bool sets) {
+            return broken("visit(lumo_ui_tarn::member{\"" + std::string(m.name) + "\", " + get + ", " +
+                              (sets && set ? of + "set_" + name : "nullptr") + ", " +
+                              (state ? of + name + "_state" : "nullptr") + ", " +
+                              (sets && state ? of + "set_" + name + "_state" : "nullptr") + "});",
+                          sets ? 12 : 16, sets ? 8 : 12);
+        };
+        const std::string get = "&M::" + name;
+        listed_ += line("&members::" + name, "&members::", false);
+        listed_writable_ += line(m.record != nullptr ? "detail::writable(" + get + ", 0)" : get, "&M::", true);
     }
 
     void add(std::size_t index) {
         const Member &m = record_.members[index];
         const std::string name = identifier(m.name), get = c(m) + "_get", set = c(m) + "_set";
         const std::string meaning = sentence(m.meaning);
-        functions_ += "\n";
-        const auto setter = [&](const std::string &parameter, const std::string &body) {
-            function("Writes " + name + ".", "const Self &", "set_" + name, parameter, body);
+        readers_ += "\n";
+        owner_writers_ += "\n";
+        const auto setter = [&](const std::string &parameter, const std::string &helper, const std::string &arguments) {
+            writer("Writes " + name + ".", "set_" + name, parameter, helper, arguments);
         };
         switch (class_of(m)) {
             case Applies::integer: {
                 const std::string type = "std::" + value_type(m);
-                function(meaning, type, name, "", "call_(" + get + "_value)");
-                setter(type + " value", "write_(" + set + "_value, value)");
+                reader(meaning, type, name, "call_(" + get + "_value)");
+                setter(type + " value", "write_", set + "_value, value");
                 break;
             }
             case Applies::boolean:
-                function(meaning, "bool", name, "", "call_(" + get + "_value) != 0");
-                setter("bool value", "write_(" + set + "_value, static_cast<std::uint8_t>(value))");
+                reader(meaning, "bool", name, "call_(" + get + "_value) != 0");
+                setter("bool value", "write_", set + "_value, static_cast<std::uint8_t>(value)");
                 break;
             case Applies::choice: {
                 const std::string type = space + type_name(*m.enumeration);
-                function(meaning, type, name, "", "template choice_<" + type + ">(" + get + "_value)");
-                setter(type + " value", "write_(" + set + "_value, static_cast<std::uint32_t>(value))");
+                reader(meaning, type, name, "template enumerated_<" + type + ">(" + get + "_value)");
+                setter(type + " value", "write_", set + "_value, static_cast<std::uint32_t>(value)");
                 break;
             }
             case Applies::address:
-                function(meaning, space + "address", name, "", "read_address_(" + get + ")");
-                setter("const " + space + "address &value", "write_address_(" + get + ", " + set + ", value)");
+                reader(meaning, space + "address", name, "read_address_(" + get + ")");
+                setter("const " + space + "address &value", "write_address_", get + ", " + set + ", value");
                 break;
             case Applies::nested: {
                 const std::string type = space + short_name(m.record->name);
-                function(meaning, type + "_ref", name, "", "template nested_<" + type + "_type>(" + get + ")");
-                setter(type + "_ref value", "assign_(" + get + ", " + set + ", value)");
-                function("Moves a record into " + name + ".", "const Self &", "adopt_" + name, type + " &&value",
-                         "adopt_(" + get + ", " + set + ", std::move(value))");
+                borrowed(meaning, type + "_view", type + "_ref", name,
+                         "template nested_<" + type + "_type>(" + get + ")");
+                setter(type + "_view value", "assign_", get + ", " + set + ", value");
+                writer("Moves a record into " + name + ".", "adopt_" + name, type + " &&value", "adopt_",
+                       get + ", " + set + ", std::move(value)");
                 break;
             }
             case Applies::string:
-                function(meaning, "std::string", name, "",
-                         "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
-                setter("std::string_view text", "write_string_(" + set + ", text)");
+                reader(meaning, "std::string", name,
+                       "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
+                setter("std::string_view text", "write_string_", set + ", text");
                 break;
             case Applies::array:
                 add_array(index, name, meaning);
                 break;
             default:  // counts and lengths follow from what they count
-                function(meaning, "std::" + value_type(m), name, "", "call_(" + get + "_value)");
+                reader(meaning, "std::" + value_type(m), name, "call_(" + get + "_value)");
                 list(m, name, false, false);
                 return;
         }
         const std::string whole = m.kind == Kind::array ? "_whole" : "";
-        function("The state byte of " + name + "; none if the record has no states.", "std::optional<std::uint8_t>",
-                 name + "_state", "", "state_(" + c(m) + "_state_flag" + whole + "_get)");
-        function("Writes the state byte of " + name + ".", "const Self &", "set_" + name + "_state",
-                 "std::uint8_t value", "write_(" + c(m) + "_state_flag" + whole + "_set, value)");
+        reader("The state byte of " + name + "; none if the record has no states.", "std::optional<std::uint8_t>",
+               name + "_state", "state_(" + c(m) + "_state_flag" + whole + "_get)");
+        writer("Writes the state byte of " + name + ".", "set_" + name + "_state", "std::uint8_t value", "write_",
+               c(m) + "_state_flag" + whole + "_set, value");
         list(m, name, m.kind != Kind::array, true);
     }
 
@@ -255,11 +283,12 @@ private:
                             constant("state_get", c(m) + "_state_flag_get", "an element's state byte") +
                             constant("state_set", c(m) + "_state_flag_set", "writes an element's state byte")) +
                    "    };\n";
-        function(meaning, space + "array_ref<" + tag + ">", name, "", "template array_<" + tag + ">()");
+        borrowed(meaning, space + "array_view<" + tag + ">", space + "array_ref<" + tag + ">", name,
+                 "template array_<" + tag + ">()");
     }
 
     const Record &record_;
-    std::string arrays_, functions_, listed_;
+    std::string arrays_, readers_, owner_writers_, ref_writers_, listed_, listed_writable_;
     std::set<std::string> names_;
 };
 
@@ -284,10 +313,11 @@ std::string c_name(const std::string &c) {
     return explained("static constexpr const char *name = \"" + c + "\"", "its name in C");
 }
 
-// The two types that users take.
+// The types that users take.
 std::string owner_and_reference(const std::string &what, const std::string &name, const std::string &c) {
     return "/// Owns a " + c + ".\nusing " + name + " = " + what + "<" + name + "_type>;\n/// Borrows a " + c +
-           ".\nusing " + name + "_ref = " + what + "_ref<" + name + "_type>;\n\n";
+           ".\nusing " + name + "_ref = " + what + "_ref<" + name + "_type>;\n/// Borrows a " + c +
+           " to read it.\nusing " + name + "_view = " + what + "_view<" + name + "_type>;\n\n";
 }
 
 std::string record_types(const Record &record) {
@@ -312,15 +342,20 @@ std::string record_types(const Record &record) {
                                 {"hash", "hash", "its hash"},
                                 {"set_all_state_tracking_flag", "set_all_state_tracking_flag", "writes all states"}});
     text += "\n" + members.arrays() + (members.arrays().empty() ? "" : "\n");
-    text +=
-        "    /// Reads and writes the members, for the owner and for the reference.\n    template <class Self>\n"
-        "    class members : public detail::operations<" +
-        name + "_type, Self> {\n    public:\n        using detail::operations<" + name + "_type, Self>::operations;\n";
-    text += members.functions();
-    text +=
-        "\n        /// Calls visit with a lumo_ui_tarn::member for each, in order.\n        template <class Visit>\n"
-        "        static void for_each_member(Visit &&visit) {\n" +
-        members.listed() + "        }\n    };\n};\n";
+    const auto mixin = [&text](const std::string &meaning, const std::string &of, const std::string &base,
+                               const std::string &constructor, const std::string &body) {
+        text += "    /// " + meaning + "\n    template <class Self>\n    class " + of + " : public " + base + " {\n" +
+                "    public:\n        using " + base + "::" + constructor + ";\n" + body + "    };\n";
+    };
+    const std::string visit = "        template <class Visit>\n        static void for_each_member(Visit &&visit) {\n";
+    mixin("Reads the members.", "members", "detail::operations<" + name + "_type, Self>", "operations",
+          members.readers() + "\n        /// Calls visit with a lumo_ui_tarn::member for each, in order.\n" + visit +
+              members.listed() + "        }\n");
+    mixin("Writes the members of an owner.", "writers", "members<Self>", "members", members.owner_writers());
+    text += "    /// @cond the same functions for what is borrowed, as const\n";
+    mixin("Writes the members of what is borrowed.", "ref_writers", "members<Self>", "members", members.ref_writers());
+    text += "    template <class M, class Visit>\n    static void visit_writable_(Visit &&visit) {\n" +
+            members.listed_writable() + "    }\n    /// @endcond\n};\n";
     return text + owner_and_reference("record", name, c);
 }
 
@@ -391,8 +426,8 @@ std::string interface_page() {
         "behaves.\n"
         "///\n"
         "/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
-        "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. Needs the C library "
-        "alone.\n"
+        "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is "
+        "read-only.\n/// Needs the C library alone.\n"
         "// Generated from the schema; edit the tables there and run tools/regenerate.\n"
         "#ifndef LUMO_UI_TARN_HPP\n#define LUMO_UI_TARN_HPP\n\n#include <lumo_ui_tarn.h>\n\n"
         "#include <lumo_ui_tarn/interface.hpp>\n\nnamespace lumo_ui_tarn {\n\n";
