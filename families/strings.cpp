@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "kinds/integer.h"
+
 namespace tarn {
 
 template <class S>
