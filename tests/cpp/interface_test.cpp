@@ -5,13 +5,14 @@
 #include <ranges>
 
 #include "bridge/bridge.h"
+#include "kit/document.h"
 #include "lumo_ui_tarn.hpp"
 #include "reference/text.h"
 
 namespace {
 
 using namespace lumo_ui_tarn;
-using bridge::Tracking;
+using kit::Tracking;
 
 constexpr int rounds = 4;
 
@@ -81,10 +82,10 @@ void copy_members(record_ref<R> from, record_ref<R> to, bool states) {
 }
 
 TEST(CppInterface, MembersAreReadAndWritten) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
-        SCOPED_TRACE(bridge::name_of(tracking));
+    for (const Tracking tracking : kit::every_tracking) {
+        SCOPED_TRACE(kit::name_of(tracking));
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
-            bridge::Handle h(tracking);
+            kit::Handle h(tracking);
             context c(h);
             R from = filled<R>(c, value);
             R to(c);
@@ -117,7 +118,7 @@ void expect_states(record_ref<R> object, std::uint8_t state) {
 }
 
 TEST(CppInterface, StatesAreSetTogetherAndOneByOne) {
-    bridge::Handle h(Tracking::on);
+    kit::Handle h(Tracking::on);
     context c(h);
     for_each_record([&]<class R>(kind<R>) {
         SCOPED_TRACE(R::record_name());
@@ -140,11 +141,11 @@ TEST(CppInterface, StatesAreSetTogetherAndOneByOne) {
 }
 
 TEST(CppInterface, FramesAreThoseOfTheIndependentCodec) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
-        SCOPED_TRACE(bridge::name_of(tracking));
+    for (const Tracking tracking : kit::every_tracking) {
+        SCOPED_TRACE(kit::name_of(tracking));
         each_record(
             [&]<class R>(kind<R>, const reference::Record &value) {
-                bridge::Handle h(tracking);
+                kit::Handle h(tracking);
                 context c(h);
                 const R object = filled<R>(c, value);
                 const frame whole = object.to_frame();
@@ -165,7 +166,7 @@ TEST(CppInterface, FramesAreThoseOfTheIndependentCodec) {
 }
 
 TEST(CppInterface, RaDataGoesIntoFramesToo) {
-    bridge::Handle h;
+    kit::Handle h;
     context c(h);
     debug_setting object(c);
     const std::size_t plain = object.to_frame().size();
@@ -175,10 +176,10 @@ TEST(CppInterface, RaDataGoesIntoFramesToo) {
 }
 
 TEST(CppInterface, CopiesAreDeepAndMovesAreNone) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
-        SCOPED_TRACE(bridge::name_of(tracking));
+    for (const Tracking tracking : kit::every_tracking) {
+        SCOPED_TRACE(kit::name_of(tracking));
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
-            bridge::Handle h(tracking);
+            kit::Handle h(tracking);
             context c(h);
             R object = filled<R>(c, value);
             const reference::Record before = value_of(object);
@@ -208,19 +209,10 @@ std::string without_nul(std::string text) {
     return text;
 }
 
-struct Document {
-    explicit Document(const std::string &text)
-        : handle(mirk_platform_document_load_memory(text.data(), text.size(), nullptr)) {}
-    ~Document() { mirk_platform_document_free(handle); }
-    Document(const Document &) = delete;
-    Document &operator=(const Document &) = delete;
-    void *handle;
-};
-
 TEST(CppInterface, TextAndXmlAreThoseOfTheIndependentForms) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
-            bridge::Handle h(tracking);
+            kit::Handle h(tracking);
             context c(h);
             const R object = filled<R>(c, value);
             const std::string name(R::record_name());
@@ -237,21 +229,21 @@ TEST(CppInterface, XmlIsReadBack) {
     options.min_text = 1;  // an empty string takes the member behind it along
     each_record(
         [&]<class R>(kind<R>, const reference::Record &value) {
-            bridge::Handle h;
+            kit::Handle h;
             context c(h);
             const R object = filled<R>(c, value);
-            const Document document(object.to_xml());
-            ASSERT_NE(document.handle, nullptr);
-            EXPECT_TRUE(R::from_xml(c, document.handle) == object);
+            const kit::Document document(object.to_xml());
+            ASSERT_NE(document, nullptr);
+            EXPECT_TRUE(R::from_xml(c, document) == object);
             const std::string path = "/" + std::string(R::record_name());
-            EXPECT_TRUE(R::from_xml(c, document.handle, path.c_str()) == object);
+            EXPECT_TRUE(R::from_xml(c, document, path.c_str()) == object);
         },
         options);
 }
 
 TEST(CppInterface, RecordsAreOrderedAndHashedByValue) {
     each_record([&]<class R>(kind<R>, const reference::Record &value) {
-        bridge::Handle h;
+        kit::Handle h;
         context c(h);
         const R a = filled<R>(c, value), b = filled<R>(c, value), zero(c);
         EXPECT_TRUE(a == b);
@@ -272,7 +264,7 @@ TEST(CppInterface, RecordsAreOrderedAndHashedByValue) {
 TEST(CppInterface, NestedRecordsAreCopiedAndMovedIn) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
-            bridge::Handle h(tracking);
+            kit::Handle h(tracking);
             context c(h);
             R to = filled<R>(c, value);
             reference::Generator generator(99, printable());
@@ -300,7 +292,7 @@ TEST(CppInterface, NestedRecordsAreCopiedAndMovedIn) {
 }
 
 TEST(CppInterface, ArraysAreContainers) {
-    bridge::Handle h;
+    kit::Handle h;
     context c(h);
     dp_tc_list list(c);
     const auto classes = list.tc_list();
@@ -357,7 +349,7 @@ M carrying(context &c, const reference::Record &value) {
 
 TEST(CppInterface, MessagesCarryTheirPayload) {
     each_message([]<class M>(kind<M>, const reference::Record &value) {
-        bridge::Handle h(Tracking::on);
+        kit::Handle h(Tracking::on);
         context c(h);
         M message = carrying<M>(c, value);
         using Payload = record<typename M::payload_type>;
@@ -375,9 +367,9 @@ TEST(CppInterface, MessagesCarryTheirPayload) {
 }
 
 TEST(CppInterface, MessageFramesAreThoseOfTheIndependentCodec) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         each_message([&]<class M>(kind<M>, const reference::Record &value) {
-            bridge::Handle h(tracking);
+            kit::Handle h(tracking);
             mirk_platform_handle_set_message_stamp(h, 0x01020304);
             context c(h);
             const M message = carrying<M>(c, value);
@@ -399,12 +391,12 @@ TEST(CppInterface, MessageFramesAreThoseOfTheIndependentCodec) {
 }
 
 TEST(CppInterface, MessagesAreReadFromXml) {
-    bridge::Handle h;
+    kit::Handle h;
     context c(h);
     debug_setting_msg message(c);
     message.payload().set_warn_enabled(true).set_error_enabled(true);
-    const Document document(message.to_xml());
-    const debug_setting_msg read = debug_setting_msg::from_xml(c, document.handle);
+    const kit::Document document(message.to_xml());
+    const debug_setting_msg read = debug_setting_msg::from_xml(c, document);
     EXPECT_TRUE(read.payload() == message.payload());
 }
 
@@ -412,7 +404,7 @@ TEST(CppInterface, BundlesAreWrittenAsTheIndependentCodecWritesThem) {
     std::size_t count = 0;
     for_each_bundle([&]<class B>(kind<B>) {
         ++count;
-        bridge::Handle h;
+        kit::Handle h;
         context c(h);
         reference::Bytes expected = reference::control_frame(B::name, "start", 0);
         reference::Generator generator(5, printable());
@@ -432,7 +424,7 @@ TEST(CppInterface, BundlesAreWrittenAsTheIndependentCodecWritesThem) {
 }
 
 TEST(CppInterface, BundlesThatNobodyCommitsAreAborted) {
-    bridge::Handle h;
+    kit::Handle h;
     context c(h);
     {
         const bundle_writer<cl_debug_rsp> answer(c);

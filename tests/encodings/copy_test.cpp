@@ -220,7 +220,7 @@ TEST_P(Copies, AnElementAheadOfTheDomainEndsTheCopy) {
     EXPECT_EQ(handle.live_blocks(), blocks);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryMode, Copies, testing::ValuesIn(bridge::kEveryTracking),
+INSTANTIATE_TEST_SUITE_P(EveryMode, Copies, testing::ValuesIn(kit::every_tracking),
                          [](const testing::TestParamInfo<Tracking> &info) {
                              return std::string(info.param == Tracking::none  ? "NoDescriptor"
                                                 : info.param == Tracking::off ? "TrackingOff"

@@ -72,7 +72,7 @@ TEST(EnumerationWire, AVariantAbove0IsWrittenAndReadAs0) {
 
 TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
     for (const bool lenient : {false, true}) {
-        const Handle h(bridge::Options{.lenient = lenient});
+        const Handle h(kit::Options{.lenient = lenient});
         for_each_enumeration([&](const EnumerationOperations &e) {
             const Choice one(h, e, 1);
             set_domain(h, e, -2);

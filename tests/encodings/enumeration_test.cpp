@@ -93,8 +93,7 @@ TEST(Enumeration, AFailedLookUpIsTracedAndTheInstanceReturned) {
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
         const Trace trace;
         void *object = e.create(h, kId);
-        EXPECT_EQ(trace.lines(),
-                  std::vector{record_line(3, "(ERR): error in " + name_of(e) + " create " + std::strerror(5))});
+        EXPECT_EQ(trace.lines(), Lines{"type 3 (ERR): error in " + name_of(e) + " create " + std::strerror(5)});
         ASSERT_NE(object, nullptr);
         e.destroy(h, kId, object);
     });
@@ -132,9 +131,8 @@ TEST(Enumeration, AVariantBeyondThoseOfTheTypeIsTraced) {
         static_cast<mirk_object *>(object)->variant = static_cast<std::int8_t>(known + 1);
         const Trace trace;
         e.destroy(h, kId, object);
-        EXPECT_EQ(trace.lines(),
-                  std::vector{record_line(6, "(info): variant " + std::to_string(known + 1) + " requested only " +
-                                                 std::to_string(known) + " variants present")});
+        EXPECT_EQ(trace.lines(), Lines{"type 6 (info): variant " + std::to_string(known + 1) + " requested only " +
+                                       std::to_string(known) + " variants present"});
     });
 }
 
@@ -210,12 +208,11 @@ TEST(Enumeration, HoldsNoReferences) {
         e.get_object_references(h, kId, one.get(), nullptr, 0, &err);
         EXPECT_EQ(err, 22u);
         e.set_instance_embedded(h, kId, nullptr);
-        EXPECT_EQ(trace.lines(),
-                  (std::vector{record_line(3, "(ERR): Invalid object passed in to get object oid count"),
-                               record_line(3, "(ERR): Cannot get table references. Invalid object passed on"),
-                               record_line(3, "(ERR): Error already present in call to get object oid count"),
-                               record_line(3, "(ERR): Error present in call to get table references from object"),
-                               record_line(3, "(ERR): Invalid object handle passed to set embedded flag")}));
+        EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): Invalid object passed in to get object oid count",
+                                        "type 3 (ERR): Cannot get table references. Invalid object passed on",
+                                        "type 3 (ERR): Error already present in call to get object oid count",
+                                        "type 3 (ERR): Error present in call to get table references from object",
+                                        "type 3 (ERR): Invalid object handle passed to set embedded flag"}));
         h->last_error = 0;
         e.set_instance_embedded(h, kId, one.get());
         EXPECT_EQ(one.header()->obj_flag, 2);
@@ -377,8 +374,7 @@ TEST(Enumeration, AMarkIsFoundOnce) {
         EXPECT_EQ(e.backpropagate(h, kId, one.get(), nullptr), 0u);
         const Trace trace;
         EXPECT_EQ(e.backpropagate(h, kId, nullptr, nullptr), 0u);
-        EXPECT_EQ(trace.lines(),
-                  std::vector{record_line(6, "(info): backpropagate: Null pointer to " + name_of(e) + " enum")});
+        EXPECT_EQ(trace.lines(), Lines{"type 6 (info): backpropagate: Null pointer to " + name_of(e) + " enum"});
     });
 }
 

@@ -23,7 +23,7 @@ protected:
 
 TEST_P(FailingAllocations, APartlyReadInstanceIsWholeAgainAfterAnotherRead) {
     const Record value = rich_value(table());
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         for (const bool sender_tracks : {false, true}) {
             const Bytes frame = reference::encode(value, sender_tracks);
             std::uint64_t total = 0;
@@ -66,7 +66,7 @@ TEST_P(FailingAllocations, APartlyReadInstanceIsWholeAgainAfterAnotherRead) {
 }
 
 TEST_P(FailingAllocations, ACopyThatFailsLeavesNothing) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         for (const bool private_types : {false, true}) {
             const Handle handle({.tracking = tracking, .private_types = private_types});
             const Instance source(handle, rich_value(table()));

@@ -14,7 +14,7 @@ void put_word(Bytes &frame, std::size_t at, std::uint32_t word) {
 constexpr std::uint32_t kJumps[] = {0, 1, 3, 4, 5, 100, 0x7FFFFFF0, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
 
 TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const Record value = rich_value(table);
@@ -53,7 +53,7 @@ TEST(HostileFrame, AJumpOfANestedFrameBehindTheEndLeavesNothingToRead) {
 }
 
 TEST(HostileFrame, AnElementThatJumpsBehindTheEndStarvesTheNextOnes) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         const Record value = rich_value(reference::record_table("lumo_tarn_dp_debug_setting_data"));
         ASSERT_EQ(value["lumo_data"].items.size(), 2U);
@@ -70,7 +70,7 @@ TEST(HostileFrame, AnElementThatJumpsBehindTheEndStarvesTheNextOnes) {
 
 TEST(HostileFrame, AFrameOfAnyOtherRecordFailsOrFillsMembers) {
     mirk_platform_trace_set_levels(1);
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         for (const RecordTable &sent : reference::records()) {
             const Bytes frame = reference::encode(rich_value(sent), tracking == Tracking::on);
             const Handle handle({.tracking = tracking, .request_ceiling = 65536, .total_ceiling = 1U << 20});
@@ -87,7 +87,7 @@ TEST(HostileFrame, AFrameOfAnyOtherRecordFailsOrFillsMembers) {
 }
 
 TEST(HostileFrame, ANegativeVariantAtAnyDepthCountsInAnEntryThatExists) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         for (const bool private_types : {false, true}) {
             const Handle handle({.tracking = tracking, .private_types = private_types});
             for (const RecordTable &table : reference::records()) {
@@ -165,7 +165,7 @@ TEST(HostileFrame, StatesOfElementsAreTheirOwnWhateverFlagsTheirFramesHave) {
 }
 
 TEST(HostileFrame, CountsAreNotRefusedButCostTheCeiling) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle({.tracking = tracking, .request_ceiling = 65536, .total_ceiling = 1U << 20});
         for (const RecordTable &table : reference::records()) {
             if (table.members[0].cls != reference::Class::kCount || table.members[0].width != 4) continue;

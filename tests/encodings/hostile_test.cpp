@@ -57,7 +57,7 @@ protected:
                 const Bytes bytes = next(i);
                 if (bytes.empty()) continue;
                 read_and_use(handle, bytes, peer.reuse, i % 8 == 0);
-                if (HasFatalFailure()) FAIL() << "read " << i << ", " << bridge::name_of(peer.tracking);
+                if (HasFatalFailure()) FAIL() << "read " << i << ", " << kit::name_of(peer.tracking);
             }
         }
     }

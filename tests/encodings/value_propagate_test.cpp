@@ -124,8 +124,8 @@ TEST(Propagate, NullIsTracedAndHasNoMark) {
         const Instance any(h, record);  // so that the trace module is known
         const Trace trace;
         EXPECT_EQ(record.type_type_backpropagate(h, kId, nullptr, nullptr), 0u);
-        EXPECT_EQ(trace.lines(), std::vector{record_line(6, "(info): backpropagate: Null pointer to " +
-                                                                std::string(record.record->name) + " type")});
+        EXPECT_EQ(trace.lines(),
+                  Lines{"type 6 (info): backpropagate: Null pointer to " + std::string(record.record->name) + " type"});
     }
 }
 

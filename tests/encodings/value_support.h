@@ -4,24 +4,27 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "bridge/bridge.h"
+#include "kit/document.h"
+#include "kit/trace.h"
 #include "lumo_ui_tarn.h"
-#include "mirk_platform_testing.h"
 #include "reference/text.h"
 
 namespace forms {
 
-using bridge::Handle;
 using bridge::Instance;
 using bridge::kId;
 using bridge::operations;
 using bridge::RecordOperations;
-using bridge::Tracking;
+using kit::Document;
+using kit::Handle;
+using kit::Lines;
+using kit::Trace;
+using kit::Tracking;
 
 // Strings as setters take them: they end at a NUL.
 inline void drop_nuls(reference::Record &value) {
@@ -52,54 +55,6 @@ inline std::vector<reference::Record> rich_values() {
     return {processor, random_value("lumo_tarn_dp_appl_data", 9, {.min_elements = 1, .max_elements = 1, .min_text = 9}),
             random_value("lumo_tarn_dp_tc", 4)};
 }
-
-class Document {
-public:
-    explicit Document(const std::string &text) {
-        mirk_platform_report report;
-        p_ = mirk_platform_document_load_memory(text.data(), text.size(), &report);
-        EXPECT_NE(p_, nullptr) << report.sentence << " in " << text;
-    }
-    Document(const Document &) = delete;
-    Document &operator=(const Document &) = delete;
-    ~Document() { mirk_platform_document_free(p_); }
-    operator void *() const { return p_; }
-
-private:
-    void *p_;
-};
-
-struct TraceLine {
-    std::uint16_t module;
-    std::uint32_t level;
-    std::string text;
-    bool operator==(const TraceLine &) const = default;
-};
-inline std::ostream &operator<<(std::ostream &out, const TraceLine &line) {
-    return out << mirk_platform_trace_module_name(line.module) << " " << line.level << " " << line.text;
-}
-
-inline TraceLine record_line(std::uint32_t level, std::string text) {
-    return {g_mirk_lumo_ui_tarn_type_trace_module_id, level, std::move(text)};
-}
-
-// Everything that is traced in its scope.
-class Trace {
-public:
-    Trace() { mirk_platform_testing_capture_start(); }
-    Trace(const Trace &) = delete;
-    Trace &operator=(const Trace &) = delete;
-    ~Trace() { mirk_platform_testing_capture_stop(); }
-    std::vector<TraceLine> lines() const {
-        std::vector<TraceLine> result;
-        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
-            TraceLine line{};
-            line.text = mirk_platform_testing_captured_line(i, &line.module, &line.level);
-            result.push_back(line);
-        }
-        return result;
-    }
-};
 
 inline constexpr char blank = '#';
 

@@ -23,7 +23,7 @@ Bytes cut(const Bytes &bytes, std::size_t behind) {
 }
 
 TEST(WireBlocks, AnEmptyArrayIsItsCountAlone) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const Record value = Generator(1, {.max_elements = 0, .max_text = 0}).make(table.name);
@@ -139,7 +139,7 @@ TEST(WireBlocks, AStringStateIsTakenFromTheSlackToo) {
 }
 
 TEST(WireBlocks, NothingIsReadIntoNothing) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const auto &record : tarn::reflect::records()) {
             std::uint8_t frame[7] = {0, 0, 0, 0, 0, 4, 0};
@@ -165,7 +165,7 @@ TEST(WireBlocks, WhatAFrameLacksOfAStringIsZeros) {
 }
 
 TEST(WireBlocks, ACountThatTheDataDoNotBearOutCostsOneBlock) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         Bytes frame = reference::encode(tc_list(1), handle.tracks());
         frame[9] = 200;

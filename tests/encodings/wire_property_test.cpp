@@ -32,7 +32,7 @@ void for_each_value(int values, Check &&check) {
 }
 
 TEST(WireProperties, FramesAreThoseOfTheReferenceCodec) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(4, [&](const Record &value) {
             const Instance instance(handle, value);
@@ -44,7 +44,7 @@ TEST(WireProperties, FramesAreThoseOfTheReferenceCodec) {
 }
 
 TEST(WireProperties, LengthsAreThoseOfTheReference) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(2, [&](const Record &value) {
             const Instance instance(handle, value);
@@ -57,7 +57,7 @@ TEST(WireProperties, LengthsAreThoseOfTheReference) {
 
 // Whether or not each of two peers tracks states, they read each other; states arrive where both do.
 TEST(WireProperties, AFrameReadIntoAFreshInstanceGivesTheValue) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(3, [&](const Record &value) {
             for (const bool sender_tracks : {false, true}) {
@@ -75,7 +75,7 @@ TEST(WireProperties, AFrameReadIntoAFreshInstanceGivesTheValue) {
 }
 
 TEST(WireProperties, AFrameReadOverAnotherGivesTheValue) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         Handle handle(tracking);
         handle.allow_lost_blocks();  // what elements of a kept block had
         const GeneratorOptions filled{.min_elements = 1, .max_elements = 3, .min_text = 1, .max_text = 9};
@@ -96,8 +96,8 @@ TEST(WireProperties, AFrameReadOverAnotherGivesTheValue) {
 
 // Through the library alone: no byte of the reference codec in between.
 TEST(WireProperties, PeersReadWhatPeersWrote) {
-    for (const Tracking writer : bridge::kEveryTracking) {
-        for (const Tracking reader : bridge::kEveryTracking) {
+    for (const Tracking writer : kit::every_tracking) {
+        for (const Tracking reader : kit::every_tracking) {
             const Handle from(writer), to({.tracking = reader, .private_types = true});
             for (const RecordTable &table : reference::records()) {
                 const Record value = Generator(91, {.max_elements = 2, .strange = true}).make(table.name);
@@ -172,7 +172,7 @@ TEST(WireProperties, LargeArraysInEveryRecord) {
 }
 
 TEST(WireProperties, FillingAndReadingBackGivesTheValue) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(2, [&](const Record &value) {
             const Instance instance(handle, value);

@@ -7,18 +7,20 @@
 #include <vector>
 
 #include "bridge/bridge.h"
-#include "bridge/guarded.h"
+#include "kit/guarded.h"
+#include "kit/trace.h"
 #include "lumo_ui_tarn.h"
-#include "mirk_platform_testing.h"
 
 namespace wire {
 
-using bridge::GuardedMemory;
-using bridge::Handle;
 using bridge::Instance;
 using bridge::kId;
-using bridge::Options;
-using bridge::Tracking;
+using kit::GuardedMemory;
+using kit::Handle;
+using kit::Lines;
+using kit::Options;
+using kit::Trace;
+using kit::Tracking;
 using reference::Bytes;
 using reference::Generator;
 using reference::GeneratorOptions;
@@ -64,27 +66,6 @@ inline Written write(mirk_handle *h, const Instance &from, std::size_t size, boo
     written.slack = at[size];
     return written;
 }
-
-// The traced lines, while it lives, with their levels and modules. Nothing goes to standard error meanwhile.
-class Traces {
-public:
-    Traces() { mirk_platform_testing_capture_start(); }
-    ~Traces() { mirk_platform_testing_capture_stop(); }
-    Traces(const Traces &) = delete;
-    Traces &operator=(const Traces &) = delete;
-
-    // Each as "level module: line".
-    std::vector<std::string> lines() const {
-        std::vector<std::string> result;
-        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
-            std::uint16_t module = 0;
-            std::uint32_t level = 0;
-            const char *line = mirk_platform_testing_captured_line(i, &module, &level);
-            result.push_back(std::to_string(level) + " " + mirk_platform_trace_module_name(module) + ": " + line);
-        }
-        return result;
-    }
-};
 
 // No array and no string is empty; two elements in each array where the frame stays small.
 inline Record rich_value(const RecordTable &table, std::uint64_t seed = 11) {

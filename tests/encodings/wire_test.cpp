@@ -34,7 +34,7 @@ Bytes longer(Bytes frame, std::size_t extra) {
 }
 
 TEST(Wire, WithoutABodyAFrameIsItsHeader) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const Instance instance(handle, table.name);
@@ -88,24 +88,22 @@ TEST(Wire, TheLastStateByteMayStandInTheByteOfSlack) {
 }
 
 TEST(Wire, AFrameOfANewerSenderIsReadAndSteppedOver) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const Record value = rich_value(table);
             const Bytes known = reference::encode(value, handle.tracks());
             const Bytes frame = longer(known, 5);
             const Instance instance(handle, table.name);
-            const Traces traces;
+            const Trace trace;
             const Outcome outcome = read(handle, instance, frame);
             EXPECT_EQ(outcome.error, 0U);
             EXPECT_EQ(outcome.consumed, frame.size());
             EXPECT_TRUE(bridge::same(reference::as_received(value, handle.tracks()), instance.value()));
             // The jump says where the frame ends, and nobody but a tracing developer is told.
-            const std::string told =
-                "6 " + std::string(mirk_platform_trace_module_name(g_mirk_lumo_ui_tarn_type_trace_module_id)) +
-                ": (info): offset_jump read_len " + std::to_string(known.size()) +
-                " offset_jump_base 2 _mirk_variant_jump " + std::to_string(frame.size() - 2);
-            EXPECT_EQ(traces.lines(), std::vector<std::string>{told}) << table.name;
+            const std::string told = "type 6 (info): offset_jump read_len " + std::to_string(known.size()) +
+                                     " offset_jump_base 2 _mirk_variant_jump " + std::to_string(frame.size() - 2);
+            EXPECT_EQ(trace.lines(), Lines{told}) << table.name;
         }
     }
 }
@@ -181,7 +179,7 @@ TEST(Wire, AReadNamesTheTypeOnceMore) {
 }
 
 TEST(Wire, FlagsFromAFrameAreMergedAndLeadNowhere) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             Record value = rich_value(table);
@@ -329,7 +327,7 @@ TEST(Wire, TooLittleRoomIsReportedAtEverySize) {
 }
 
 TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const bridge::RecordOperations &record = bridge::operations(table.name);
@@ -340,7 +338,7 @@ TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
 }
 
 TEST(Wire, OfANullInstanceNoMemberCanBeWritten) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const Instance nothing(handle, bridge::operations(table.name), nullptr);
@@ -354,7 +352,7 @@ TEST(Wire, OfANullInstanceNoMemberCanBeWritten) {
 class WireDeathTest : public testing::TestWithParam<const RecordTable *> {
 protected:
     // While lines are captured only those of level 0 still go to standard error.
-    const Traces traces;
+    const Trace trace;
 
     static std::string fatal(const char *text) {
         return std::string(mirk_platform_trace_module_name(g_mirk_lumo_ui_tarn_type_trace_module_id)) +

@@ -69,7 +69,7 @@ void make_presentable(reference::Record &value, bool replace) {
 }
 
 TEST(XmlReading, WhatWasWrittenComesBack) {
-    for (const Tracking mode : bridge::kEveryTracking) {
+    for (const Tracking mode : kit::every_tracking) {
         const Handle h(mode);
         for (const RecordOperations &record : tarn::reflect::records()) {
             for (std::uint64_t seed = 1; seed <= 4; ++seed) {

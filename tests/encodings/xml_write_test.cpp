@@ -6,7 +6,7 @@ namespace {
 using namespace forms;
 
 TEST(XmlWriting, EveryRecordIsWrittenAsTheReference) {
-    for (const Tracking mode : bridge::kEveryTracking) {
+    for (const Tracking mode : kit::every_tracking) {
         const Handle h(mode);
         for (const RecordOperations &record : tarn::reflect::records()) {
             for (std::uint64_t seed = 1; seed <= 4; ++seed) {
@@ -125,7 +125,7 @@ TEST(XmlWriting, AnObjectWithoutStatesEndsTheWalkOnATrackingHandle) {
     EXPECT_EQ(written.err, 22u);
     EXPECT_EQ(h->last_error, 22u);
     EXPECT_EQ(written.text(), "<x>");
-    EXPECT_EQ(trace.lines(), std::vector{record_line(3, "(ERR): The object is non state tracked")});
+    EXPECT_EQ(trace.lines(), Lines{"type 3 (ERR): The object is non state tracked"});
     exmem.header()->obj_flag |= 8u;
     h->last_error = 0;
 }

@@ -30,7 +30,7 @@ bool modified(void *object) { return mirk_get_instance_modified(object, 1, 0) !=
 void unmark(void *object) { mirk_set_instance_modified(object, 1, 0, 0); }
 
 TEST(Accessors, GetGivesTheMembersOwnPlace) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.get == nullptr) return;
@@ -44,7 +44,7 @@ TEST(Accessors, GetGivesTheMembersOwnPlace) {
 }
 
 TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set_value == nullptr) return;
@@ -67,7 +67,7 @@ TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
 }
 
 TEST(Accessors, AValueIsSetFromASource) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set == nullptr) return;
@@ -96,7 +96,7 @@ TEST(Accessors, AValueIsSetFromASource) {
 }
 
 TEST(Accessors, ASetterLeavesStateTwoInItsOwnByteAlone) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);
@@ -111,7 +111,7 @@ TEST(Accessors, ASetterLeavesStateTwoInItsOwnByteAlone) {
 }
 
 TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (!has_state_byte(m)) {
             EXPECT_EQ(m.state_flag_get, nullptr);
@@ -134,7 +134,7 @@ TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
 }
 
 TEST(Accessors, StateIsRefusedWithoutTrackingAndWithoutALine) {
-    Handle h(Mode::off);
+    Handle h(Tracking::off);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
         void *object = r.create(h, id);
@@ -153,7 +153,7 @@ TEST(Accessors, StateIsRefusedWithoutTrackingAndWithoutALine) {
 }
 
 TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
-    Handle h(Mode::on), none(Mode::none);
+    Handle h(Tracking::on), none(Tracking::none);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
         void *object = r.create(h, id);
@@ -183,7 +183,7 @@ TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
 }
 
 TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
-    Handle h(Mode::off);
+    Handle h(Tracking::off);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set == nullptr && m.text_set == nullptr) return;
         void *source = filled(h, r, 11), *object = r.create(h, id);
@@ -220,7 +220,7 @@ TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
 }
 
 TEST(Accessors, ANegativeVariantRefusesEveryMember) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id), *source = r.create(h, id);
         const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
@@ -295,7 +295,7 @@ TEST(Accessors, UnderTheLenientPolicyTheGateRefusesWithoutAnError) {
 }
 
 TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &, const MemberOperations &m) {
             uint32_t err = 0;
@@ -323,9 +323,9 @@ TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
             err = 0;
             m.state_flag_set(h, id, nullptr, 1, &err);
             EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-            EXPECT_EQ(trace.lines(), mode == Mode::off ? Lines{}
-                                                       : (Lines{"type 3 (ERR): The object is non state tracked",
-                                                                "type 3 (ERR): The object is not state tracked"}));
+            EXPECT_EQ(trace.lines(), mode == Tracking::off ? Lines{}
+                                                           : (Lines{"type 3 (ERR): The object is non state tracked",
+                                                                    "type 3 (ERR): The object is not state tracked"}));
             // Setting anything on null is refused without harm.
             err = 0;
             if (m.set != nullptr) m.set(h, id, nullptr, nullptr, &err);
@@ -337,7 +337,7 @@ TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
 }
 
 TEST(Accessors, ARefusedEnumerationValueStillCountsAsWritten) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     int tried = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.member->kind != Kind::enumeration) return;

@@ -23,7 +23,7 @@ void sweep(const Handle &h, const std::function<void()> &run) {
 }
 
 TEST(Allocation, CreatingAndSettingSurvivesEachFailure) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             uint64_t failures = 0;
@@ -34,7 +34,7 @@ TEST(Allocation, CreatingAndSettingSurvivesEachFailure) {
                     return;
                 }
                 const uint32_t err = fill(h, r, object, 3, {2, 2, true});
-                EXPECT_TRUE(err == 0 || err == ENOMEM || (err == EINVAL && mode != Mode::on)) << err;
+                EXPECT_TRUE(err == 0 || err == ENOMEM || (err == EINVAL && mode != Tracking::on)) << err;
                 if (err == ENOMEM) ++failures;
                 content(h, r, object);
                 char text[16];
@@ -51,7 +51,7 @@ TEST(Allocation, CreatingAndSettingSurvivesEachFailure) {
 }
 
 TEST(Allocation, DeepCopiesIntoElementsSurviveEachFailure) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.element_set == nullptr) return;
@@ -75,7 +75,7 @@ TEST(Allocation, DeepCopiesIntoElementsSurviveEachFailure) {
 }
 
 TEST(Allocation, AssignmentNeedsNone) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *source = filled(h, r, 3), *destination = r.create(h, id);
         const uint64_t before = h.allocs();
@@ -88,7 +88,7 @@ TEST(Allocation, AssignmentNeedsNone) {
 }
 
 TEST(Allocation, PrivateTypesThatCannotBeHadLeaveTheModulesOwn) {
-    Handle h(Mode::none, 1);
+    Handle h({.tracking = Tracking::none, .private_types = 1});
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 1, 1);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);

@@ -8,7 +8,7 @@ using namespace families;
 namespace {
 
 TEST(Arrays, AOneByteCountWraps) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             if (width(s.count) != 1) return;
@@ -37,7 +37,7 @@ TEST(Arrays, AOneByteCountWraps) {
 }
 
 TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = s.e.create(h, id);
@@ -54,7 +54,7 @@ TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
 }
 
 TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
@@ -76,7 +76,7 @@ TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
 }
 
 TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
         put(h, s, object, 1, 5);
@@ -107,7 +107,7 @@ TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
 }
 
 TEST(Arrays, ANullBlockBesideACountCountsNothing) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});

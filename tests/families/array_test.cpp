@@ -64,7 +64,7 @@ TEST(Arrays, WithoutAnObjectThereIsNothingToSet) {
 }
 
 TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
@@ -94,7 +94,7 @@ TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
 }
 
 TEST(Arrays, ElementsHaveTheirAreasBehindTheLastOne) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
         for (uint32_t n : {1u, 2u, 5u}) {
@@ -111,7 +111,7 @@ TEST(Arrays, ElementsHaveTheirAreasBehindTheLastOne) {
 }
 
 TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
@@ -121,15 +121,16 @@ TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
                 put(h, s, object, i, 100 + i);
                 void *element = s.m.element_get(h, id, object, i, &err);
                 for (const MemberOperations &inner : s.e.members) {
-                    if (mode != Mode::on || inner.state_flag_set == nullptr) continue;
+                    if (mode != Tracking::on || inner.state_flag_set == nullptr) continue;
                     inner.state_flag_set(h, id, element, static_cast<uint8_t>(40 + i), &err);
                 }
-                if (mode == Mode::on) s.m.element_state_flag_set(h, id, object, i, static_cast<uint8_t>(60 + i), &err);
+                if (mode == Tracking::on)
+                    s.m.element_state_flag_set(h, id, object, i, static_cast<uint8_t>(60 + i), &err);
                 expected.push_back(content(h, s.e, element));
             }
             for (uint32_t i = 0; i < 4; ++i) {
                 EXPECT_EQ(content(h, s.e, s.m.element_get(h, id, object, i, &err)), expected[i]) << i;
-                if (mode == Mode::on) {
+                if (mode == Tracking::on) {
                     EXPECT_EQ(s.m.element_state_flag_get(h, id, object, i, &err), 60 + i);
                 }
             }
@@ -142,7 +143,7 @@ TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
 }
 
 TEST(Arrays, SettingAnElementThatIsThereAllocatesNothingAndTakesTheValuesBlocks) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
@@ -172,7 +173,7 @@ TEST(Arrays, SettingAnElementThatIsThereAllocatesNothingAndTakesTheValuesBlocks)
 }
 
 TEST(Arrays, ANullValueGrowsAndChangesNothingElse) {
-    for (Mode mode : {Mode::none, Mode::off}) {
+    for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
@@ -191,7 +192,7 @@ TEST(Arrays, ANullValueGrowsAndChangesNothingElse) {
 }
 
 TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = s.e.create(h, id);
         Trace trace;
@@ -218,7 +219,7 @@ TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
 }
 
 TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id);
@@ -238,7 +239,7 @@ TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
 }
 
 TEST(Arrays, ADeepCopyLeavesTheValueWhole) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 2, false});

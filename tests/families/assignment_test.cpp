@@ -31,10 +31,10 @@ void expect_own_areas(const Handle &h, const RecordOperations &r, void *object, 
 }
 
 TEST(Assignment, TakesValuesStatesAndBlocks) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
-            const bool on = mode == Mode::on;
+            const bool on = mode == Tracking::on;
             void *source = r.create(h, id), *destination = r.create(h, id);
             fill(h, r, source, 31, {2, 3, on});
             const Lines before = content(h, r, source);
@@ -55,7 +55,7 @@ TEST(Assignment, TakesValuesStatesAndBlocks) {
 }
 
 TEST(Assignment, ToItselfIsAnAdjustmentOnly) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
         const Lines before = content(h, r, object);
@@ -89,7 +89,7 @@ TEST(Assignment, RunsWhateverTheSlotHolds) {
 }
 
 TEST(Assignment, OfNullIsRefusedAndChangesNothing) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
         const Lines before = content(h, r, object);
@@ -126,7 +126,7 @@ TEST(Assignment, CopiesTheHeaderAsWell) {
 }
 
 TEST(Assignment, TheOffsetBitStaysTheDestinationsOwnUnlessThereIsNoDescriptor) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         const RecordOperations &r = record("lumo_tarn_debug_setting");
         for (int own : {0, 1}) {
@@ -137,7 +137,7 @@ TEST(Assignment, TheOffsetBitStaysTheDestinationsOwnUnlessThereIsNoDescriptor) {
                 if (others) mirklib_update_sttr_offset(h, id, source, table(r).base);
                 uint32_t err = 0;
                 r.set(h, id, destination, source, &err);
-                EXPECT_EQ((header(destination)->obj_flag & has_offset) != 0, mode == Mode::none ? others : own);
+                EXPECT_EQ((header(destination)->obj_flag & has_offset) != 0, mode == Tracking::none ? others : own);
                 EXPECT_EQ(err, 0u);
                 r.destroy(h, id, source);
                 r.destroy(h, id, destination);
@@ -147,7 +147,7 @@ TEST(Assignment, TheOffsetBitStaysTheDestinationsOwnUnlessThereIsNoDescriptor) {
 }
 
 TEST(Assignment, AnUntrackedSourceOnATrackingHandleLosesItsBlocksAndFails) {
-    Handle h(Mode::on), off(Mode::off);
+    Handle h(Tracking::on), off(Tracking::off);
     each_record([&](const RecordOperations &r) {
         // The source is as one made without tracking, on the same memory.
         mirk_platform_testing_set_sttr_mode(h, 0xDDDD);
@@ -181,7 +181,7 @@ void expect_untracked(const RecordOperations &r, void *object) {
 }
 
 TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         mirk_platform_testing_set_sttr_mode(h, 0xDDDD);
         void *destination = r.create(h, id);
@@ -211,11 +211,11 @@ TEST(Assignment, WhatTheDestinationHeldIsLost) {
     r.set(h, id, destination, source, &err);
     r.destroy(h, id, source);
     r.destroy(h, id, destination);
-    EXPECT_EQ(h.live_blocks(), 2u);
+    h.expect_lost_blocks(2);
 }
 
 TEST(Assignment, ANestedRecordDoesNotReachTheMemberBehindIt) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.member->kind != Kind::record) return;
@@ -235,7 +235,7 @@ TEST(Assignment, ANestedRecordDoesNotReachTheMemberBehindIt) {
 }
 
 TEST(CopyoutCleanup, TheOldPlaceLosesItsBlocksAndTheNewOneKeepsThem) {
-    for (Mode mode : {Mode::none, Mode::off}) {
+    for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             void *old_place = filled(h, r, 5), *new_place = r.create(h, id);

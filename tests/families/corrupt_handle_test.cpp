@@ -26,7 +26,7 @@ protected:
         EXPECT_EXIT(operation(), testing::KilledBySignal(SIGABRT), text);
     }
 
-    Handle h{Mode::on};
+    Handle h{Tracking::on};
     uint32_t err = 0;
     std::vector<std::pair<const RecordOperations *, void *>> objects;
 };

@@ -45,7 +45,7 @@ std::vector<const mirk_type_info *> all_types() {
 }
 
 TEST(Counters, EmbeddedObjectsCountInTheirOwnTypes) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             std::map<const mirk_type_info *, uint64_t> counts;
@@ -101,7 +101,7 @@ private:
 };
 
 TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             const auto live = [&] {
@@ -153,7 +153,7 @@ TEST(Counters, ElementsCountLikeAnyInstance) {
 
 TEST(Counters, ANegativeVariantCountsInAnEntryOfItsOwn) {
     for (uint32_t private_types : {0u, 1u}) {
-        Handle h(Mode::none, private_types);
+        Handle h({.tracking = Tracking::none, .private_types = private_types});
         each_record([&](const RecordOperations &r) {
             for (int variant = -128; variant <= 0; ++variant) {
                 h.set_variant(*r.type, static_cast<int8_t>(variant));
@@ -230,7 +230,7 @@ TEST(Counters, ADamagedNumberOfVariantsIsNoted) {
 }
 
 TEST(Counters, APrivateCopyCountsAndTheModulesRecordDoesNot) {
-    Handle h(Mode::on, 1);
+    Handle h({.tracking = Tracking::on, .private_types = 1});
     each_record([&](const RecordOperations &r) {
         const mirk_variant_entry before = entry(*r.type);
         void *object = r.create(h, id);

@@ -22,7 +22,7 @@ uint8_t *vector_of(const ArraySubject &s, void *object) {
 }
 
 TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 4);
         uint32_t err = 0;
@@ -44,7 +44,7 @@ TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
 }
 
 TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
         Trace trace;
@@ -64,7 +64,7 @@ TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
 }
 
 TEST(ElementStates, AreRefusedWithoutTrackingAndForUntrackedObjects) {
-    Handle off(Mode::off), none(Mode::none);
+    Handle off(Tracking::off), none(Tracking::none);
     each_array([&](const ArraySubject &s) {
         for (mirk_handle *h : {static_cast<mirk_handle *>(off), static_cast<mirk_handle *>(none)}) {
             void *object = s.r.create(h, id);
@@ -99,7 +99,7 @@ void mark_vectors(const RecordOperations &r, uint32_t base, std::vector<bool> &m
 }
 
 TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         for (uint32_t n : {1u, 3u, 8u, 17u, 120u}) {
             void *object = with_elements(h, s, n);
@@ -124,7 +124,7 @@ TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
 }
 
 TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 3);
         const std::vector<uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
@@ -144,7 +144,7 @@ TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
 }
 
 TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2), *value = s.e.create(h, id);
         uint8_t *lost = vector_of(s, object);
@@ -177,7 +177,7 @@ TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
 }
 
 TEST(ElementStates, AFillWithZeroMeansNoVector) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
         uint8_t *lost = vector_of(s, object);

@@ -43,7 +43,7 @@ void call_all(mirk_handle *h, const MemberOperations &m, void *object, void *sou
 }
 
 TEST(Guard, ASetSlotStopsEveryAccessor) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5, {1, 1, false});
         const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
@@ -109,7 +109,7 @@ TEST(Guard, AnExplicitCallWithACleanSlotEndsTheStickyError) {
 }
 
 TEST(Guard, StateBytesAreReadWithoutEndingTheStickyError) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *object = r.create(h, id);
     uint32_t err = 0;
@@ -123,7 +123,7 @@ TEST(Guard, StateBytesAreReadWithoutEndingTheStickyError) {
 }
 
 TEST(StickyChain, AFailedCreateGivesTheSentinelAndEverythingBehindItDoesNothing) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         h->last_error = 0;
         h.fail_alloc(1);
@@ -222,7 +222,7 @@ TEST(Sentinel, IsOneZeroedPlaceForEachType) {
 }
 
 TEST(Sentinel, DestroyingItDoesNothingAtAll) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         const mirk_variant_entry before = entry(*r.type);
         void *place = sentinel(r);

@@ -80,7 +80,7 @@ TEST(Lifecycle, AnErrorOfAChildReachesAStickySlotToo) {
 }
 
 TEST(Lifecycle, ANestedObjectNeedsItsStateBase) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
         void *object = storage.data();
@@ -107,7 +107,7 @@ TEST(Lifecycle, ANestedObjectNeedsItsStateBase) {
 }
 
 TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         mirk_platform_set_ra_data(h, object, nullptr, 1);

@@ -9,7 +9,7 @@ using namespace families;
 namespace {
 
 TEST(Lifecycle, SizeDependsOnTheHandlesMode) {
-    Handle none(Mode::none), off(Mode::off), on(Mode::on);
+    Handle none(Tracking::none), off(Tracking::off), on(Tracking::on);
     each_record([&](const RecordOperations &r) {
         EXPECT_EQ(r.sizeof_(none), table(r).base);
         EXPECT_EQ(r.sizeof_(off), table(r).base);
@@ -18,7 +18,7 @@ TEST(Lifecycle, SizeDependsOnTheHandlesMode) {
 }
 
 TEST(Lifecycle, TheModeIsReadAfreshOnEachUse) {
-    Handle h(Mode::off);
+    Handle h(Tracking::off);
     const RecordOperations &r = record("lumo_tarn_dp_tc");
     EXPECT_EQ(r.sizeof_(h), 320u);
     mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
@@ -26,7 +26,7 @@ TEST(Lifecycle, TheModeIsReadAfreshOnEachUse) {
 }
 
 TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             Events events(h);
@@ -40,7 +40,7 @@ TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
                 if (is_embedded(m)) continue;
                 for (uint32_t i = 0; i < place(r, m).size; ++i) EXPECT_EQ(bytes(at(r, object, m))[i], 0) << name(m);
             }
-            if (mode == Mode::on) {
+            if (mode == Tracking::on) {
                 for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
             }
             r.destroy(h, id, object);
@@ -101,11 +101,11 @@ void expect_headers(const Handle &h, const RecordOperations &r, void *object, ui
 }
 
 TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             void *object = r.create(h, id);
-            const bool tracking = mode == Mode::on;
+            const bool tracking = mode == Tracking::on;
             expect_headers(h, r, object, tracking ? tracked : 0, reinterpret_cast<uintptr_t>(object) + table(r).base,
                            tracking);
             r.destroy(h, id, object);
@@ -128,7 +128,7 @@ TEST(Lifecycle, GetIsTheIdentityWithoutAnyCheck) {
 }
 
 TEST(Lifecycle, DestroyOfNullDoesNothing) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     Events events(h);
     each_record([&](const RecordOperations &r) {
         r.destroy(h, id, nullptr);
@@ -139,7 +139,7 @@ TEST(Lifecycle, DestroyOfNullDoesNothing) {
 }
 
 TEST(Lifecycle, CreateWithoutMemoryGivesNullAndLeavesTheLastErrorAlone) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             Trace trace;
@@ -166,7 +166,7 @@ TEST(Lifecycle, CreateRunsWhateverTheLastErrorIs) {
 }
 
 TEST(Lifecycle, WithoutTrackingANestedObjectNeedsNoStateBase) {
-    for (Mode mode : {Mode::none, Mode::off}) {
+    for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
@@ -179,7 +179,7 @@ TEST(Lifecycle, WithoutTrackingANestedObjectNeedsNoStateBase) {
 }
 
 TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     Events events(h);
     each_record([&](const RecordOperations &r) {
         std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
@@ -192,7 +192,7 @@ TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
 }
 
 TEST(Lifecycle, SkippingTheCountLeavesOutCountersAndOffsetsButNotTheChildren) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
         void *object = storage.data();
@@ -250,7 +250,7 @@ TEST(Lifecycle, SetInstanceEmbeddedOfNullTraces) {
 }
 
 TEST(Lifecycle, WithoutMappingsNoneIsAskedToGo) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     mirk_platform_handle_set_oid_mapping(h, 0);
     Events events(h);
     each_record([&](const RecordOperations &r) { r.destroy(h, id, r.create(h, id)); });

@@ -79,7 +79,7 @@ TEST(References, ANullObjectIsRefused) {
 }
 
 TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5);
         const Lines before = content(h, r, object);
@@ -111,7 +111,7 @@ TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
 }
 
 TEST(References, AMappingThatCannotBeRemovedKeepsTheObjectWhole) {
-    Handle h(Mode::on);
+    Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5);
         const Lines before = content(h, r, object);

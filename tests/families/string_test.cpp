@@ -48,7 +48,7 @@ TEST(Strings, AFreshOneIsEmpty) {
 }
 
 TEST(Strings, TheBodyHasExactlyItsLength) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);
@@ -61,7 +61,7 @@ TEST(Strings, TheBodyHasExactlyItsLength) {
             EXPECT_EQ(std::memcmp(body(s, object), "abcdef", 6), 0);
             EXPECT_EQ(length(h, s, object), 6u);
             EXPECT_NE(mirk_get_instance_modified(object, 1, 0), 0u);
-            if (mode == Mode::on) {
+            if (mode == Tracking::on) {
                 EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
             }
             s.m.text_set(h, id, object, "xy", 2, &err);
@@ -177,7 +177,7 @@ TEST(Strings, TheLengthIsCutToSixteenBits) {
 }
 
 TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);
@@ -191,7 +191,7 @@ TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
             s.m.text_set(h, id, object, "abc", 0, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(body(s, object), nullptr);
-            if (mode == Mode::on) {
+            if (mode == Tracking::on) {
                 EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
             }
             s.r.destroy(h, id, object);
@@ -201,7 +201,7 @@ TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
 }
 
 TEST(Strings, WithoutMemoryTheOldBodyIsGoneAndTheLengthStale) {
-    for (Mode mode : modes) {
+    for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);

@@ -86,7 +86,7 @@ TEST(TypeTable, TheIndexCapKeepsNegativeVariants) {
 }
 
 TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
-    Handle h(Mode::none, 3);
+    Handle h({.tracking = Tracking::none, .private_types = 3});
     uint32_t err = 0;
     Events events(h);
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
@@ -107,7 +107,7 @@ TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
 }
 
 TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
-    Handle h(Mode::none, 3);
+    Handle h({.tracking = Tracking::none, .private_types = 3});
     uint32_t err = 0;
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
     const mirk_module *found = this_module();
@@ -125,7 +125,7 @@ TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
 }
 
 TEST(PrivateTypes, TheSlotIsNotReadAndTheLastErrorStays) {
-    Handle h(Mode::none, 1);
+    Handle h({.tracking = Tracking::none, .private_types = 1});
     uint32_t err = EIO;
     h->last_error = 9;
     Events events(h);
@@ -137,7 +137,7 @@ TEST(PrivateTypes, TheSlotIsNotReadAndTheLastErrorStays) {
 }
 
 TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
-    Handle h(Mode::none, 1);
+    Handle h({.tracking = Tracking::none, .private_types = 1});
     uint32_t err = 0;
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 10, 0);
     Events events(h);
@@ -160,7 +160,7 @@ TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
 }
 
 TEST(PrivateTypes, ARecordWithoutVariantBlockIsCopiedWithoutUpdate) {
-    Handle h(Mode::none, 1);
+    Handle h({.tracking = Tracking::none, .private_types = 1});
     uint32_t err = 0;
     mirk_variant_info *kept = _lumo_tarn_dp_tc_type_info_internal.variant_info;
     _lumo_tarn_dp_tc_type_info_internal.variant_info = nullptr;
@@ -173,7 +173,7 @@ TEST(PrivateTypes, ARecordWithoutVariantBlockIsCopiedWithoutUpdate) {
 }
 
 TEST(PrivateTypes, InstancesPointToTheCopies) {
-    Handle h(Mode::on, 1);
+    Handle h({.tracking = Tracking::on, .private_types = 1});
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         EXPECT_EQ(header(object)->tinfo, &h->type_store_get(h->type_store, id, r.type->luid_text)->info);

@@ -62,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         Machine(input, choice, true).run();
         return 0;
     }
-    Handle handle(choice);
+    Handle handle(options(choice));
     // Elements that were made before the failure go without being ended.
     if (choice.bit(kDocument)) handle.allow_lost_blocks();
     const Root root = fuzz::root(input.u8());

@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const Choice choice(input.u8());
     Receiver receiver{!choice.bit(kTakesNothing)};
     {
-        const Handle handle(choice);
+        const Handle handle(options(choice));
         enlist(handle, !choice.bit(kLinkedHandler), std::make_index_sequence<messages>{});
         if (choice.bit(kForTheModule)) {
             lumo_ui_tarn_bundle_handler_register(on_bundle);

@@ -51,7 +51,7 @@ void hold_against(mirk_handle *h, bool tracks, const RecordOperations &record, v
 
 // Bytes that the codec reads, the library reads to the same value.
 void bytes(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
-    const Handle handle(choice);
+    const Handle handle(options(choice));
     for (const bool tracked : {false, true}) {
         const reference::Decoded decoded = reference::decode(record.record->name, frame, tracked);
         if (!decoded.value) continue;
@@ -69,7 +69,7 @@ void bytes(const Choice &choice, const RecordOperations &record, std::span<const
 
 // Values that the input chooses, through accessors and out again.
 void generated(const Choice &choice, const RecordOperations &record, Input &input) {
-    const Handle handle(choice);
+    const Handle handle(options(choice));
     const std::uint64_t seed = input.u64();
     const auto elements = input.u8() % 5U, text = input.u8() % 60U;
     reference::Generator generator(seed, {.min_elements = elements / 2,
@@ -86,7 +86,7 @@ void generated(const Choice &choice, const RecordOperations &record, Input &inpu
     // Read by a handle of any kind.
     const Bytes frame = reference::encode(value, handle.tracks());
     record.destroy(handle, kId, instance);
-    const Handle peer(Choice(input.u8()));
+    const Handle peer(options(Choice(input.u8())));
     void *received = record.create(peer, kId);
     std::uint32_t err = 0;
     record.unmarshal(peer, kId, guarded(frame), received, static_cast<std::uint32_t>(frame.size()), 0, &err);

@@ -8,7 +8,7 @@ using namespace fuzz;
 constexpr unsigned kOccupied = 4, kReuse = 5, kCleanSecond = 6;
 
 void read_record(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
-    Handle handle(choice);
+    Handle handle(options(choice));
     const auto size = static_cast<std::uint32_t>(frame.size());
     void *instance = record.create(handle, kId);
     std::uint32_t err = 0;
@@ -51,7 +51,7 @@ void read_record(const Choice &choice, const RecordOperations &record, std::span
 
 void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration,
                       std::span<const std::uint8_t> frame) {
-    const Handle handle(choice);
+    const Handle handle(options(choice));
     void *instance = enumeration.create(handle, kId);
     std::uint32_t err = 0;
     enumeration.unmarshal(handle, kId, guarded(frame), instance, static_cast<std::uint32_t>(frame.size()),
@@ -61,7 +61,7 @@ void read_enumeration(const Choice &choice, const EnumerationOperations &enumera
 }
 
 void read_message(const Choice &choice, const MessageOperations &message, std::span<const std::uint8_t> frame) {
-    Handle handle(choice);
+    Handle handle(options(choice));
     const auto size = static_cast<std::uint32_t>(frame.size());
     void *object = nullptr;
     std::uint32_t err = 0;

@@ -19,8 +19,8 @@ Number number(Input &input) {
     return value;
 }
 
-bridge::GuardedMemory &output() {
-    static bridge::GuardedMemory memory(kMostBytes);
+kit::GuardedMemory &output() {
+    static kit::GuardedMemory memory(kMostBytes);
     return memory;
 }
 
@@ -48,28 +48,21 @@ std::span<const std::uint8_t> Input::take(std::size_t size) {
     return taken;
 }
 
-bridge::Tracking Choice::tracking() const {
-    return (byte_ & 3) == 0 ? bridge::Tracking::none : (byte_ & 3) == 1 ? bridge::Tracking::off : bridge::Tracking::on;
+kit::Tracking Choice::tracking() const {
+    return (byte_ & 3) == 0 ? kit::Tracking::none : (byte_ & 3) == 1 ? kit::Tracking::off : kit::Tracking::on;
 }
 
-Handle::Handle(const Choice &choice) : tracks_(choice.tracking() == bridge::Tracking::on) {
+kit::Options options(const Choice &choice) {
     mirk_platform_trace_set_levels(1);
-    mirk_platform_handle_options options;
-    mirk_platform_handle_options_init(&options);
-    options.tracking = tracks_                                      ? MIRK_PLATFORM_TRACKING_ON
-                       : choice.tracking() == bridge::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
-                                                                    : MIRK_PLATFORM_TRACKING_NONE;
-    options.private_types = choice.bit(2);
-    options.epoch_policy = choice.bit(3) ? MIRK_PLATFORM_LENIENT_43 : MIRK_PLATFORM_STRICT;
-    options.request_ceiling = kRequestCeiling;
-    options.total_ceiling = kTotalCeiling;
-    handle_ = mirk_platform_handle_open(&options);
-    mirk_platform_testing_set_fresh_fill(handle_, 0xDB);
-}
-
-Handle::~Handle() {
-    const std::size_t left = mirk_platform_handle_close(handle_);
-    require(any_loss_ || left == 0, "nothing is left on the handle");
+    return {.tracking = choice.tracking(),
+            .private_types = choice.bit(2),
+            .lenient = choice.bit(3),
+            .request_ceiling = kRequestCeiling,
+            .total_ceiling = kTotalCeiling,
+            .fresh_fill = 0xDB,
+            .on_leak = [](std::size_t, std::size_t, const kit::Options &) {
+                require(false, "nothing is left on the handle");
+            }};
 }
 
 Root root(std::uint8_t number) {
@@ -85,7 +78,7 @@ std::size_t roots() {
 }
 
 std::uint8_t *guarded(std::span<const std::uint8_t> bytes) {
-    static bridge::GuardedMemory memory(kMostBytes);
+    static kit::GuardedMemory memory(kMostBytes);
     return memory.put(bytes.data(), std::min(bytes.size(), kMostBytes));
 }
 

@@ -1,5 +1,5 @@
-// What the fuzz targets share: an input that is taken apart from its front, a handle that reports what is left on it,
-// and everything that can be done with what a hostile peer made.
+// What the fuzz targets share: an input that is taken apart from its front, the options of handles, and everything that
+// can be done with what a hostile peer made.
 #pragma once
 
 #include <cstddef>
@@ -8,9 +8,8 @@
 #include <string_view>
 
 #include "bridge/bridge.h"
-#include "bridge/guarded.h"
+#include "kit/guarded.h"
 #include "lumo_ui_tarn.h"
-#include "mirk_platform_testing.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
@@ -18,6 +17,7 @@ namespace fuzz {
 
 using bridge::kId;
 using bridge::RecordOperations;
+using kit::Handle;
 using reference::Bytes;
 using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MessageOperations;
@@ -47,29 +47,14 @@ private:
 struct Choice {
     explicit Choice(std::uint8_t byte) : byte_(byte) {}
     bool bit(unsigned n) const { return (byte_ >> n & 1U) != 0; }
-    bridge::Tracking tracking() const;
+    kit::Tracking tracking() const;
 
 private:
     std::uint8_t byte_;
 };
 
-class Handle {
-public:
-    explicit Handle(const Choice &choice);
-    // Requires that nothing is left on it, unless told that something may be.
-    ~Handle();
-    Handle(const Handle &) = delete;
-    Handle &operator=(const Handle &) = delete;
-
-    operator mirk_handle *() const { return handle_; }
-    mirk_handle *operator->() const { return handle_; }
-    bool tracks() const { return tracks_; }
-    void allow_lost_blocks() { any_loss_ = true; }
-
-private:
-    mirk_handle *handle_;
-    bool tracks_, any_loss_ = false;
-};
+// With little memory. A handle that is made with these requires that nothing is left on it, unless told otherwise.
+kit::Options options(const Choice &choice);
 
 // An instance of a record or an enumeration, or a message with its payload: what stands at the front of a frame or a
 // document.

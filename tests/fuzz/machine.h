@@ -12,7 +12,8 @@ namespace fuzz {
 class Machine {
 public:
     // With failures, the input may also take memory away.
-    Machine(Input &input, const Choice &choice, bool failures) : input_(input), handle_(choice), failures_(failures) {}
+    Machine(Input &input, const Choice &choice, bool failures)
+        : input_(input), handle_(options(choice)), failures_(failures) {}
     ~Machine();
     Machine(const Machine &) = delete;
     Machine &operator=(const Machine &) = delete;

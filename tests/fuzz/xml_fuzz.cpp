@@ -10,7 +10,7 @@ using namespace fuzz;
 constexpr unsigned kOccupied = 4;
 
 void read_record(const Choice &choice, const RecordOperations &record, void *document) {
-    Handle handle(choice);
+    Handle handle(options(choice));
     void *instance = record.create(handle, kId);
     const std::string path = "/" + std::string(record.record->name);
     char words[64];
@@ -37,7 +37,7 @@ void read_record(const Choice &choice, const RecordOperations &record, void *doc
 }
 
 void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration, void *document) {
-    const Handle handle(choice);
+    const Handle handle(options(choice));
     void *instance = enumeration.create(handle, kId);
     const std::string path = "/" + std::string(enumeration.enumeration->name);
     char words[64];
@@ -50,7 +50,7 @@ void read_enumeration(const Choice &choice, const EnumerationOperations &enumera
 }
 
 void read_message(const Choice &choice, const MessageOperations &message, void *document) {
-    Handle handle(choice);
+    Handle handle(options(choice));
     char words[64];
     std::uint32_t err = 0;
     void *object = message.from_xml(handle, kId, document, &err, words, sizeof words);

@@ -101,11 +101,10 @@ TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
             const std::string record = payload_name(m), why = ": " + error_text(number);
             EXPECT_EQ(
                 traced(),
-                (Lines{
-                    {"message", 7, "(debug): Error present when getting value for " + record + why},
-                    {"message", 7, "(debug): Error present getting detached " + record + " value for " + m.name + why},
-                    {"message", 7, "(debug): Error present when setting value for " + record + why},
-                    {"message", 7, "(debug): Error present when freeing and setting value for " + record + why}}));
+                (Lines{"message 7 (debug): Error present when getting value for " + record + why,
+                       "message 7 (debug): Error present getting detached " + record + " value for " + m.name + why,
+                       "message 7 (debug): Error present when setting value for " + record + why,
+                       "message 7 (debug): Error present when freeing and setting value for " + record + why}));
         }
         m.destroy(h, kId, message);
         payload_of(m).destroy(h, kId, other);
@@ -158,7 +157,7 @@ TEST_F(FatalMessages, ADamagedNumberOfVariantsIsTracedOnly) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        const Line complaint{"message", 6, "(info): variant 0 requested only 4294967295 variants present"};
+        const std::string complaint{"message 6 (info): variant 0 requested only 4294967295 variants present"};
         m.type->variant_info->n_variants = -1;
         void *message = m.create(h, kId), *shallow = m.create_shallow(h, kId);
         EXPECT_EQ(traced(), (Lines{complaint, complaint}));

@@ -80,9 +80,9 @@ TEST_F(Bundles, EveryBundleReachesPeersOfEveryTrackingMode) {
             const Bytes frames = send(sender, b, values, "commit");
             EXPECT_TRUE(bridge::same(reference_frames(b, values, sender_tracks, "commit", 12), frames));
             EXPECT_EQ(sender->send_bundle_open, 0u);
-            for (const Tracking tracking : kEveryTracking) {
+            for (const Tracking tracking : every_tracking) {
                 SCOPED_TRACE(std::string(b.bundle->name) + (sender_tracks ? ", tracked to " : ", untracked to ") +
-                             bridge::name_of(tracking));
+                             kit::name_of(tracking));
                 Handle h(tracking);
                 register_all(h);
                 mirk_platform_handle_set_bundle_handler(h, take_all);

@@ -63,7 +63,7 @@ TEST_F(ControlMessages, ObjectsAreTokensOfNoSize) {
 TEST_F(ControlMessages, CreateWithoutMemoryGivesNullAndNoError) {
     for (const Control &c : controls()) {
         Handle h;
-        fail_obj_alloc(h, 1, true);
+        h.fail_alloc(1, true);
         EXPECT_EQ(c->create(h, kId), nullptr);
         EXPECT_EQ(c->create_unsafe(h, kId), nullptr);
         EXPECT_EQ(c->from_xml(h, kId, nullptr, &err, nullptr, 0), nullptr);
@@ -76,7 +76,7 @@ TEST_F(ControlMessages, CreateWithoutMemoryGivesNullAndNoError) {
 TEST_F(ControlMessages, StickyCreateWithoutMemoryGivesTheSentinelAndTheError) {
     for (const Control &c : controls()) {
         Handle h;
-        fail_obj_alloc(h, 1);
+        h.fail_alloc(1);
         EXPECT_EQ(c->create_cr(h), sentinel_of(*c.operations));
         EXPECT_EQ(h->last_error, std::uint32_t{ENOMEM});
     }

@@ -1,4 +1,4 @@
-// What the tests of messages share: captured trace, message objects as they lie in memory, payloads, buffers.
+// What the tests of messages share: message objects as they lie in memory, control messages, payloads, handlers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,8 +11,11 @@
 #include <vector>
 
 #include "bridge/bridge.h"
+#include "kit/buffer.h"
+#include "kit/events.h"
+#include "kit/handle.h"
+#include "kit/trace.h"
 #include "lumo_ui_tarn.h"
-#include "mirk_platform_testing.h"
 #include "reference/codec.h"
 #include "reference/lengths.h"
 #include "reference/tables.h"
@@ -21,10 +24,13 @@
 
 namespace messaging {
 
-using bridge::Handle;
-using bridge::kEveryTracking;
 using bridge::kId;
-using bridge::Tracking;
+using kit::Buffer;
+using kit::Events;
+using kit::every_tracking;
+using kit::Handle;
+using kit::Lines;
+using kit::Tracking;
 using reference::Bytes;
 using tarn::reflect::BundleOperations;
 using tarn::reflect::MessageOperations;
@@ -93,116 +99,29 @@ inline Bytes frame_of(const MessageOperations &m, const reference::Record &value
     return reference::message_frame(m.name, value, tracked, stamp);
 }
 
-// Room of a stated size with the byte of slack behind it and guard bytes around both.
-class Buffer {
-public:
-    explicit Buffer(std::size_t size) : bytes_(size + 1 + 2 * kGuard, kFill), size_(size) {}
-    explicit Buffer(const Bytes &content) : Buffer(content.size()) { set(content); }
-    void set(const Bytes &content) { std::copy(content.begin(), content.end(), bytes_.begin() + kGuard); }
-
-    std::uint8_t *data() { return bytes_.data() + kGuard; }
-    char *text() { return reinterpret_cast<char *>(data()); }
-    std::uint32_t size() const { return static_cast<std::uint32_t>(size_); }
-    Bytes first(std::size_t n) const {
-        const auto begin = bytes_.begin() + kGuard;
-        return {begin, begin + static_cast<std::ptrdiff_t>(n)};
-    }
-    bool untouched(std::size_t from = 0) const {
-        return std::all_of(bytes_.begin() + kGuard + static_cast<std::ptrdiff_t>(from), bytes_.end(),
-                           [](std::uint8_t byte) { return byte == kFill; });
-    }
-    // The slack byte may have been written, nothing behind it.
-    bool guards_stand() const {
-        const auto is_fill = [](std::uint8_t byte) { return byte == kFill; };
-        return std::all_of(bytes_.begin(), bytes_.begin() + kGuard, is_fill) &&
-               std::all_of(bytes_.end() - kGuard, bytes_.end(), is_fill);
-    }
-
-private:
-    static constexpr std::ptrdiff_t kGuard = 16;
-    static constexpr std::uint8_t kFill = 0xA5;
-    Bytes bytes_;
-    std::size_t size_;
-};
-
 // ---- trace ----
-
-struct Line {
-    std::string module;  // "type", "message", "stub"
-    std::uint32_t level = 0;
-    std::string text;
-
-    bool operator==(const Line &) const = default;
-    friend std::ostream &operator<<(std::ostream &out, const Line &line) {
-        return out << line.module << ' ' << line.level << ' ' << line.text;
-    }
-};
-using Lines = std::vector<Line>;
 
 inline std::string error_text(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
 
-// Captures the trace of the library's own modules.
+// With the trace of the library's own modules.
 struct Messaging : testing::Test {
     void SetUp() override {
-        mirk_lumo_ui_tarn_message_trace_init();
-        mirk_lumo_ui_tarn_type_trace_init();
         // The library never registers the module of its stubs; a process may.
         static std::uint64_t state;
         skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &state);
-        mirk_platform_testing_capture_start();
     }
-    void TearDown() override {
-        mirk_platform_testing_capture_stop();
-        mirk_platform_recorder_set(0, nullptr);
-    }
+    void TearDown() override { mirk_platform_recorder_set(0, nullptr); }
 
     // What was traced since the last call.
-    static Lines traced() {
-        Lines lines;
-        for (std::size_t i = 0; i < mirk_platform_testing_captured(); ++i) {
-            std::uint16_t module = 0;
-            std::uint32_t level = 0;
-            const std::string text = mirk_platform_testing_captured_line(i, &module, &level);
-            const std::string name = mirk_platform_trace_module_name(module), own = "mirk_lumo_ui_tarn_";
-            if (name.starts_with(own)) lines.push_back({name.substr(own.size()), level, text});
-        }
-        mirk_platform_testing_capture_clear();
+    Lines traced() const {
+        const Lines lines = trace.of_the_library();
+        trace.clear();
         return lines;
     }
 
+    kit::Trace trace;
     std::uint32_t err = 0;
 };
-
-// ---- events of a handle ----
-
-struct Events {
-    explicit Events(mirk_handle *h) : handle(h) {
-        mirk_platform_testing_set_hook(
-            h,
-            [](void *user, mirk_handle *, const mirk_platform_testing_event *event) {
-                static_cast<Events *>(user)->all.push_back(*event);
-            },
-            this);
-    }
-    ~Events() { mirk_platform_testing_set_hook(handle, nullptr, nullptr); }
-    Events(const Events &) = delete;
-    Events &operator=(const Events &) = delete;
-
-    std::vector<mirk_platform_testing_event> of(mirk_platform_testing_event_kind kind) const {
-        std::vector<mirk_platform_testing_event> found;
-        for (const auto &event : all) {
-            if (event.kind == kind) found.push_back(event);
-        }
-        return found;
-    }
-
-    mirk_handle *handle;
-    std::vector<mirk_platform_testing_event> all;
-};
-
-inline void fail_obj_alloc(mirk_handle *h, std::uint64_t nth, bool onwards = false) {
-    mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth, onwards ? 1 : 0);
-}
 
 // The static objects that stand for null after an error.
 inline void *sentinel_of(const MessageOperations &m) {

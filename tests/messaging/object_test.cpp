@@ -24,9 +24,9 @@ void expect_fresh(const Message &message, const MessageOperations &m, Tracking t
 struct MessageObjects : Messaging {};
 
 TEST_F(MessageObjects, CreateMakesAMessageWithAFreshPayload) {
-    for (const Tracking tracking : kEveryTracking) {
+    for (const Tracking tracking : every_tracking) {
         for (const MessageOperations &m : messages()) {
-            SCOPED_TRACE(std::string(m.name) + ", " + bridge::name_of(tracking));
+            SCOPED_TRACE(std::string(m.name) + ", " + kit::name_of(tracking));
             Handle h(tracking);
             mirk_platform_testing_set_fresh_fill(h, 0xEE);
             void *const made[] = {m.create(h, kId), m.create_unsafe(h, kId), m.create_cr(h)};
@@ -47,7 +47,7 @@ TEST_F(MessageObjects, CreateMakesAMessageWithAFreshPayload) {
 }
 
 TEST_F(MessageObjects, AShallowMessageHasNoPayload) {
-    for (const Tracking tracking : kEveryTracking) {
+    for (const Tracking tracking : every_tracking) {
         for (const MessageOperations &m : messages()) {
             Handle h(tracking);
             mirk_platform_testing_set_fresh_fill(h, 0xEE);
@@ -181,7 +181,7 @@ TEST_F(MessageObjects, AStickyCreateWithoutMemoryGivesTheSentinel) {
         SCOPED_TRACE(m.name);
         Handle h;
         const mirk_variant_entry before = counters(m);
-        fail_obj_alloc(h, 1);
+        h.fail_alloc(1);
         void *message = m.create_cr(h);
         EXPECT_EQ(message, sentinel_of(m));
         EXPECT_EQ(h->last_error, std::uint32_t{ENOMEM});
@@ -196,7 +196,7 @@ TEST_F(MessageObjects, AStickyCreateWithoutMemoryForThePayloadGivesAMessageWithT
         SCOPED_TRACE(m.name);
         Handle h;
         const mirk_variant_entry before = counters(m);
-        fail_obj_alloc(h, 2);
+        h.fail_alloc(2);
         void *message = m.create_cr(h);
         EXPECT_NE(message, sentinel_of(m));
         ASSERT_NE(message, nullptr);
@@ -215,14 +215,14 @@ TEST_F(MessageObjects, CreateWithoutMemoryGivesNullAndCountsNothing) {
         const mirk_variant_entry before = counters(m);
         for (const std::uint64_t nth : {std::uint64_t{1}, std::uint64_t{2}}) {
             Handle h;
-            fail_obj_alloc(h, nth);
+            h.fail_alloc(nth);
             EXPECT_EQ(m.create(h, kId), nullptr);
-            fail_obj_alloc(h, nth);
+            h.fail_alloc(nth);
             EXPECT_EQ(m.create_unsafe(h, kId), nullptr);
             EXPECT_EQ(h.live_blocks(), 0u);
         }
         Handle h;
-        fail_obj_alloc(h, 1);
+        h.fail_alloc(1);
         EXPECT_EQ(m.create_shallow(h, kId), nullptr);
         EXPECT_EQ(h->last_error, 0u);
         EXPECT_EQ(counters(m).num_created, before.num_created);

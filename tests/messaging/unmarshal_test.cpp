@@ -15,13 +15,13 @@ struct Unmarshal : Messaging {
 
 TEST_F(Unmarshal, GivesBackWhatWasSentToPeersOfEveryTrackingMode) {
     for (const bool sender_tracks : {false, true}) {
-        for (const Tracking receiver : kEveryTracking) {
+        for (const Tracking receiver : every_tracking) {
             Handle h(receiver);
             mirk_platform_testing_set_fresh_fill(h, 0xEE);
             for (const MessageOperations &m : messages()) {
                 for (std::uint64_t seed = 1; seed <= 4; ++seed) {
                     SCOPED_TRACE(std::string(m.name) + (sender_tracks ? " tracked to " : " untracked to ") +
-                                 bridge::name_of(receiver) + ", seed " + std::to_string(seed));
+                                 kit::name_of(receiver) + ", seed " + std::to_string(seed));
                     const reference::Record value = sample(m, seed, {.max_elements = 3, .budget = 4000});
                     Buffer frame(frame_of(m, value, sender_tracks, 77));
                     const std::uint64_t created = counters(m).num_created;
@@ -82,10 +82,8 @@ TEST_F(Unmarshal, WithoutAHandlerTheStubSaysThatNobodyTookTheMessage) {
         EXPECT_EQ(m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
         EXPECT_EQ(err, std::uint32_t{ENOSYS});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSYS});
-        EXPECT_EQ(
-            traced(),
-            (Lines{{"stub", 6,
-                    "(info): stub default handler lumo_ui_tarn_" + std::string(m.name) + "_message handler called"}}));
+        EXPECT_EQ(traced(), (Lines{"stub 6 (info): stub default handler lumo_ui_tarn_" + std::string(m.name) +
+                                   "_message handler called"}));
         ASSERT_NE(message, nullptr);
         m.destroy(h, kId, message);
     }
@@ -106,9 +104,8 @@ TEST_F(Unmarshal, DoesNothingButTraceWhenTheErrorIsSet) {
         EXPECT_TRUE(handler_calls.empty());
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
         const std::string name = m.name, why = error_text(EPERM);
-        EXPECT_EQ(traced(),
-                  (Lines{{"message", 7, "(debug): Error present in call to " + name + " message unmarshal: " + why},
-                         {"message", 7, "(debug): Error present in call to " + name + " unmarshal: " + why}}));
+        EXPECT_EQ(traced(), (Lines{"message 7 (debug): Error present in call to " + name + " message unmarshal: " + why,
+                                   "message 7 (debug): Error present in call to " + name + " unmarshal: " + why}));
     }
 }
 
@@ -209,7 +206,7 @@ TEST_F(Unmarshal, WithoutMemoryForTheObject) {
         Handle h;
         Buffer frame(frame_of(m, sample(m), false));
         void *message = &frame;
-        fail_obj_alloc(h, 1);
+        h.fail_alloc(1);
         err = 0;
         EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), 0u);
         EXPECT_EQ(err, std::uint32_t{ENOMEM});
@@ -223,7 +220,7 @@ TEST_F(Unmarshal, WithoutMemoryForThePayloadTheHeaderHasBeenRead) {
         Handle h;
         Buffer frame(frame_of(m, sample(m), false, 5));
         void *message = nullptr;
-        fail_obj_alloc(h, 2);
+        h.fail_alloc(2);
         err = 0;
         EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), kFrameHead);
         EXPECT_EQ(err, std::uint32_t{ENOMEM});
@@ -245,7 +242,7 @@ TEST_F(Unmarshal, EveryAllocationMayFail) {
             for (std::uint64_t nth = 1;; ++nth) {
                 ASSERT_LT(nth, 10000u);
                 const std::uint64_t before = mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC);
-                fail_obj_alloc(h, nth);
+                h.fail_alloc(nth);
                 void *message = nullptr;
                 err = 0;
                 m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
@@ -257,7 +254,7 @@ TEST_F(Unmarshal, EveryAllocationMayFail) {
                 EXPECT_EQ(err, std::uint32_t{ENOMEM}) << "after failure of allocation " << nth;
             }
             EXPECT_EQ(err, 0u);
-            fail_obj_alloc(h, 0);
+            h.fail_alloc(0);
         }
     }
 }

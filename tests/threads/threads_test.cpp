@@ -13,10 +13,10 @@
 
 namespace {
 
-using bridge::Handle;
 using bridge::Instance;
 using bridge::kId;
 using bridge::RecordOperations;
+using kit::Handle;
 using reference::Bytes;
 using reference::Generator;
 using reference::Record;
@@ -102,7 +102,7 @@ void send(const Handle &h) {
 
 void everything(unsigned thread, bool private_types) {
     std::vector<char> buffer(room);
-    const Handle h({.tracking = bridge::kEveryTracking[thread % 3], .private_types = private_types});
+    const Handle h({.tracking = kit::every_tracking[thread % 3], .private_types = private_types});
     Generator generator(thread / 3 + 1, {.printable = true});
     for (const reference::RecordTable &table : reference::records()) {
         const Record value = generator.make(table.name);

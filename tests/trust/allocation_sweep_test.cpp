@@ -38,7 +38,7 @@ protected:
         bool made = false;
     };
 
-    static Outcome run(const Operation &operation, const bridge::Options &options, const Failure *failure,
+    static Outcome run(const Operation &operation, const kit::Options &options, const Failure *failure,
                        bool tells_of_it) {
         Scene scene(operation.subject, options);
         scene.begin_call();
@@ -62,12 +62,12 @@ TEST_P(EachOperation, SurvivesEachFailure) {
     for (const Operation &operation : operations()) {
         if (operation.driver != &driver) continue;
         SCOPED_TRACE(operation.name);
-        for (const bridge::Tracking tracking : bridge::kEveryTracking) {
+        for (const kit::Tracking tracking : kit::every_tracking) {
             for (const bool private_types : {false, true}) {
                 // Type records are made alike in every mode.
-                if (private_types && tracking != bridge::Tracking::none) continue;
-                SCOPED_TRACE(std::string(bridge::name_of(tracking)) + (private_types ? ", types of its own" : ""));
-                const bridge::Options options{.tracking = tracking, .private_types = private_types};
+                if (private_types && tracking != kit::Tracking::none) continue;
+                SCOPED_TRACE(std::string(kit::name_of(tracking)) + (private_types ? ", types of its own" : ""));
+                const kit::Options options{.tracking = tracking, .private_types = private_types};
                 const Outcome calm = run(operation, options, nullptr, false);
                 ++swept;
                 for (const auto allocator : kAllocators) {

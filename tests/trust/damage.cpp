@@ -7,7 +7,7 @@ namespace trust {
 namespace {
 
 std::uint8_t *output(std::size_t size) {
-    static bridge::GuardedMemory memory(std::size_t{1} << 20);
+    static kit::GuardedMemory memory(std::size_t{1} << 20);
     return memory.room(size);
 }
 
@@ -59,8 +59,8 @@ std::string document_of(const Root &root) {
                                    : reference::to_xml(value, root.name, false);
 }
 
-std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_types) {
-    auto handle = std::make_unique<bridge::Handle>(bridge::Options{
+std::unique_ptr<kit::Handle> small_handle(Tracking tracking, bool private_types) {
+    auto handle = std::make_unique<kit::Handle>(kit::Options{
         .tracking = tracking, .private_types = private_types, .request_ceiling = 16384, .total_ceiling = 131072});
     mirk_platform_testing_set_fresh_fill(*handle, 0xDB);
     return handle;

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "bridge/bridge.h"
-#include "bridge/guarded.h"
+#include "kit/guarded.h"
 #include "lumo_ui_tarn.h"
 #include "mirk_platform_testing.h"
 #include "reference/codec.h"
@@ -22,7 +22,7 @@ namespace trust {
 
 using bridge::kId;
 using bridge::RecordOperations;
-using bridge::Tracking;
+using kit::Tracking;
 using reference::Bytes;
 using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MessageOperations;
@@ -67,7 +67,7 @@ Bytes frame_of(const Root &root, bool tracked);
 std::string document_of(const Root &root);
 
 // A handle that gives so little memory that counts cost little. Nothing may be left on it at its end.
-std::unique_ptr<bridge::Handle> small_handle(Tracking tracking, bool private_types = false);
+std::unique_ptr<kit::Handle> small_handle(Tracking tracking, bool private_types = false);
 
 // Prints, renders, writes, measures, compares and hashes, into buffers that end at a page that cannot be read. Null is
 // left alone.
@@ -94,7 +94,7 @@ private:
 };
 
 inline std::uint8_t *guarded(const Bytes &bytes) {
-    static bridge::GuardedMemory memory(std::size_t{1} << 20);
+    static kit::GuardedMemory memory(std::size_t{1} << 20);
     return memory.put(bytes.data(), bytes.size());
 }
 

@@ -3,15 +3,11 @@
 #include <functional>
 
 #include "damage.h"
+#include "kit/document.h"
 
 namespace {
 
 using namespace trust;
-
-struct DocumentEnd {
-    void operator()(void *document) const { mirk_platform_document_free(document); }
-};
-using Document = std::unique_ptr<void, DocumentEnd>;
 
 class DocumentDamage : public testing::TestWithParam<const Root *> {
 protected:
@@ -27,12 +23,12 @@ protected:
     };
     // Loads from memory that ends with the text, reads into a fresh instance, and uses and ends that.
     Outcome read(const std::string &text, Tracking tracking = Tracking::on) {
-        static bridge::GuardedMemory memory(std::size_t{1} << 22);
+        static kit::GuardedMemory memory(std::size_t{1} << 22);
         // Not even the one byte: a parser is told the length.
         std::uint8_t *at = memory.room(text.size()) + 1;
         std::memcpy(at, text.data(), text.size());
         mirk_platform_report report;
-        const Document document(mirk_platform_document_load_memory(at, text.size(), &report));
+        const kit::Document document({reinterpret_cast<const char *>(at), text.size()}, &report);
         Outcome outcome{.loaded = document != nullptr, .sentence = report.sentence};
         EXPECT_EQ(outcome.loaded, report.number == 0);
         EXPECT_EQ(outcome.loaded, outcome.sentence.empty());
@@ -40,7 +36,7 @@ protected:
         const auto handle = small_handle(tracking);
         {
             Specimen specimen(*handle, root());
-            outcome.error = specimen.read_document(document.get());
+            outcome.error = specimen.read_document(document);
             specimen.use(2048);
         }
         // A message that could not be read is kept.
@@ -106,7 +102,7 @@ TEST_P(DocumentDamage, EachByteReplaced) {
         for (unsigned other = 1; other < 256; ++other) {
             if (!share.takes()) continue;
             text[at] = static_cast<char>(static_cast<unsigned char>(text_[at]) ^ other);
-            read(text, bridge::kEveryTracking[other % 3]);
+            read(text, kit::every_tracking[other % 3]);
         }
     }
 }
@@ -245,14 +241,12 @@ TEST_P(DocumentDamage, NumbersThatNothingHolds) {
             const std::string tag(m.member->name);
             const std::string element = "<" + tag + ">" + number + "</" + tag + ">";
             const std::string text = "<" + name + ">" + strings + element + "</" + name + ">";
-            const Document document(mirk_platform_document_load_memory(text.data(), text.size(), nullptr));
-            ASSERT_NE(document, nullptr);
+            const kit::Document document(text);
             const auto handle = small_handle(Tracking::on);
             const bridge::Instance instance(*handle, *payload);
             std::uint32_t err = 0;
             char words[64];
-            payload->from_xml(*handle, kId, ("/" + name).c_str(), document.get(), instance.get(), &err, words,
-                              sizeof words);
+            payload->from_xml(*handle, kId, ("/" + name).c_str(), document, instance.get(), &err, words, sizeof words);
             const bool digits = number.find_first_not_of("0123456789") == std::string::npos;
             const std::size_t first = number.find_first_not_of('0');
             const std::string shown = digits && first != std::string::npos ? number.substr(first) : number;

@@ -41,7 +41,7 @@ protected:
         for (const bool tracked : {false, true}) {
             const Bytes whole = good_[tracked];
             damage(whole, [&](const Bytes &bytes) {
-                for (const Tracking tracking : bridge::kEveryTracking) {
+                for (const Tracking tracking : kit::every_tracking) {
                     for (const std::uint32_t reuse : {0U, 1U}) {
                         // Nothing of a message is used again.
                         if (reuse != 0 && root().message != nullptr) continue;
@@ -58,7 +58,7 @@ protected:
 
 private:
     const Bytes good_[2] = {frame_of(*GetParam(), false), frame_of(*GetParam(), true)};
-    std::unique_ptr<bridge::Handle> handles_[3][2];
+    std::unique_ptr<kit::Handle> handles_[3][2];
     std::uint64_t uses_[3][2] = {};
 };
 
@@ -139,7 +139,7 @@ protected:
 };
 
 TEST_P(BundleDamage, CutAtEveryByteDeliversNothing) {
-    for (const Tracking tracking : bridge::kEveryTracking) {
+    for (const Tracking tracking : kit::every_tracking) {
         const Bytes whole = stream(tracking == Tracking::on);
         const std::size_t message = (whole.size() - 86) / 2;
         const Outcome all = dispatch(whole, tracking);
@@ -165,7 +165,7 @@ TEST_P(BundleDamage, EachByteReplacedByAllOthers) {
         for (std::size_t at = 0; at < whole.size(); ++at) {
             for (unsigned other = 1; other < 256; ++other) {
                 bytes[at] = static_cast<std::uint8_t>(whole[at] ^ other);
-                for (const Tracking tracking : bridge::kEveryTracking) {
+                for (const Tracking tracking : kit::every_tracking) {
                     if (share.takes()) dispatch(bytes, tracking, other % 2 != 0);
                 }
             }

@@ -76,10 +76,10 @@ TEST_F(RuntimeMemory, RefusedToAReadOfAnyRoot) {
     std::uint64_t all = 0;
     for (const Root &root : roots()) {
         for (const Tracking tracking : {Tracking::off, Tracking::on}) {
-            SCOPED_TRACE(root.name + ", " + bridge::name_of(tracking));
+            SCOPED_TRACE(root.name + ", " + kit::name_of(tracking));
             const Bytes frame = frame_of(root, tracking == Tracking::on);
             all += refuse_each([&] {
-                bridge::Handle h(tracking);
+                kit::Handle h(tracking);
                 if (root.message != nullptr) h.allow_lost_blocks();
                 std::optional<Specimen> specimen(std::in_place, h, root);
                 {
@@ -99,7 +99,7 @@ TEST_F(RuntimeMemory, RefusedToAReceiverOfABundle) {
         SCOPED_TRACE(table.name);
         Bytes stream = bundle_stream(table, true);
         const std::uint64_t asked = refuse_each([&] {
-            bridge::Handle h(Tracking::on);
+            kit::Handle h(Tracking::on);
             h.allow_lost_blocks();
             enlist(h);
             Received received;
@@ -116,7 +116,7 @@ TEST_F(RuntimeMemory, RefusedToASenderOfABundle) {
         SCOPED_TRACE(bundle.bundle->name);
         const MessageOperations &m = tarn::reflect::operations_of(bundle.bundle->message);
         const std::uint64_t asked = refuse_each([&] {
-            const bridge::Handle h;
+            const kit::Handle h;
             std::uint32_t err = 0;
             void *message = m.create(h, kId);
             Bytes frame(4096);
@@ -140,7 +140,7 @@ TEST_F(RuntimeMemory, RefusedToTheReaderOfADocument) {
         SCOPED_TRACE(root.name);
         const std::string text = document_of(root);
         const std::uint64_t asked = refuse_each([&] {
-            bridge::Handle h(Tracking::on);
+            kit::Handle h(Tracking::on);
             h.allow_lost_blocks();
             Specimen specimen(h, root);
             mirk_platform_report report;
@@ -169,7 +169,7 @@ TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
 
 // What is refused is refused before there is an object, so its place for states is recorded in any case.
 TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
-    bridge::Handle h(Tracking::on);
+    kit::Handle h(Tracking::on);
     for (const std::size_t size : {1U, 200U, 256U, 5000U, 100000U}) {
         auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, kId, size));
         ASSERT_NE(block, nullptr);
@@ -191,7 +191,7 @@ TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
 // Many come and go: what was set aside for their states goes as well, and counts as long as it is there.
 TEST_F(RuntimeMemory, ForThePlacesOfStatesCountsIntoTheCeiling) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
-        const bridge::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});
+        const kit::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});
         const auto fill = [&] {
             std::vector<void *> blocks;
             while (void *block = h->obj_alloc(h->mem_ctx, kId, 4096)) blocks.push_back(block);

@@ -51,13 +51,13 @@ std::ostream &operator<<(std::ostream &out, const Failure &failure) {
     return out << names[failure.allocator] << ' ' << failure.nth << (failure.onwards ? " onwards" : "");
 }
 
-Scene::Scene(const Subject &s, const bridge::Options &options)
-    : subject(s), tracks(options.tracking == bridge::Tracking::on) {
+Scene::Scene(const Subject &s, const kit::Options &options)
+    : subject(s), tracks(options.tracking == kit::Tracking::on) {
     mirk_platform_handle_options o;
     mirk_platform_handle_options_init(&o);
-    o.tracking = options.tracking == bridge::Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
-                 : options.tracking == bridge::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
-                                                             : MIRK_PLATFORM_TRACKING_ON;
+    o.tracking = options.tracking == kit::Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
+                 : options.tracking == kit::Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
+                                                          : MIRK_PLATFORM_TRACKING_ON;
     h = mirk_platform_handle_open(&o);
     mirk_platform_testing_set_fresh_fill(h, 0xA5);
     if (subject.record != nullptr) {

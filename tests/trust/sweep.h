@@ -43,7 +43,7 @@ std::ostream &operator<<(std::ostream &out, const Failure &failure);
 // One handle with what a call needs, made while there is memory.
 class Scene {
 public:
-    Scene(const Subject &subject, const bridge::Options &options);
+    Scene(const Subject &subject, const kit::Options &options);
     ~Scene();
     Scene(const Scene &) = delete;
     Scene &operator=(const Scene &) = delete;

@@ -1,5 +1,5 @@
-// Between reference values and instances of the library: handles that watch over their blocks, instances filled from a
-// value and read back into one, through exported accessors and the public structs of the runtime alone.
+// Between reference values and instances of the library: instances filled from a value and read back into one, through
+// exported accessors and the public structs of the runtime alone.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "mirk_platform.h"
+#include "kit/handle.h"
 #include "reference/codec.h"
 #include "reference/value.h"
 #include "tools/reflect/operations.h"
@@ -18,47 +18,8 @@ namespace bridge {
 
 using tarn::reflect::RecordOperations;
 
-enum class Tracking { none, off, on };  // none: no descriptor at all
-
-const char *name_of(Tracking tracking);
-inline constexpr Tracking kEveryTracking[] = {Tracking::none, Tracking::off, Tracking::on};
-
-struct Options {
-    Tracking tracking = Tracking::none;
-    bool private_types = false;
-    bool lenient = false;               // a downgrade leaves the error slot alone
-    std::uint64_t request_ceiling = 0;  // 0: the runtime's own
-    std::uint64_t total_ceiling = 0;
-};
-
 // The ctx_id under which the helpers call. Operations that take none use the handle's default_id, which is 1.
 inline constexpr std::uint32_t kId = 7;
-
-// Reports a test failure when it closes and blocks are left, unless told that there may be some.
-class Handle {
-public:
-    explicit Handle(const Options &options = {});
-    explicit Handle(Tracking tracking) : Handle(Options{.tracking = tracking}) {}
-    ~Handle();
-    Handle(const Handle &) = delete;
-    Handle &operator=(const Handle &) = delete;
-
-    mirk_handle *get() const { return handle_; }
-    operator mirk_handle *() const { return handle_; }
-    mirk_handle *operator->() const { return handle_; }
-
-    bool tracks() const { return options_.tracking == Tracking::on; }
-    std::size_t live_blocks() const { return mirk_platform_live_blocks(handle_); }
-    // Exactly so many blocks are left at the end: a loss that belongs to what is tested.
-    void expect_lost_blocks(std::size_t blocks) { lost_ = blocks; }
-    void allow_lost_blocks() { any_loss_ = true; }
-
-private:
-    Options options_;
-    mirk_handle *handle_ = nullptr;
-    std::size_t lost_ = 0;
-    bool any_loss_ = false;
-};
 
 const RecordOperations &operations(std::string_view record);
 inline const RecordOperations &operations(const reference::Record &value) { return operations(value.table->name); }

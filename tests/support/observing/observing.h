@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kit/tracking.h"
 #include "mirk/mirk.h"
 
 namespace observing {
@@ -86,7 +87,7 @@ std::string address_text(const void *address);
 
 // ---- a handle ----
 
-enum class Tracking { none, off, on, corrupt };  // none: no descriptor at all
+using kit::Tracking;
 
 struct Options {
     Tracking tracking = Tracking::none;

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace bridge {
+namespace kit {
 
 class GuardedMemory {
 public:
@@ -39,4 +39,4 @@ private:
     std::size_t room_ = 0, mapped_ = 0;
 };
 
-}  // namespace bridge
+}  // namespace kit

@@ -1,0 +1,91 @@
+// A handle of the reference runtime.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "kit/tracking.h"
+#include "mirk_platform.h"
+#include "mirk_platform_testing.h"
+
+namespace kit {
+
+struct Options;
+// Reports a test failure.
+void fail_test(std::size_t left, std::size_t expected, const Options &options);
+
+struct Options {
+    Tracking tracking = Tracking::none;
+    std::uint32_t private_types = 0;
+    bool lenient = false;               // a downgrade leaves the error slot alone
+    std::uint64_t request_ceiling = 0;  // 0: the runtime's own
+    std::uint64_t total_ceiling = 0;
+    std::uint8_t fresh_fill =
+        0xA5;  // what a fresh block of memory is filled with, so that nothing relies on it; 0: nothing
+    // Called when the handle closes and another number of blocks is left than expected. Programs without the test
+    // framework name a function of their own.
+    void (*on_leak)(std::size_t left, std::size_t expected, const Options &options) = fail_test;
+};
+
+// Checks when it closes that no block is left, unless told otherwise.
+class Handle {
+public:
+    explicit Handle(const Options &options = {}) : options_(options) {
+        mirk_platform_handle_options o;
+        mirk_platform_handle_options_init(&o);
+        o.tracking = options.tracking == Tracking::none  ? MIRK_PLATFORM_TRACKING_NONE
+                     : options.tracking == Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
+                                                         : MIRK_PLATFORM_TRACKING_ON;
+        o.private_types = options.private_types;
+        o.epoch_policy = options.lenient ? MIRK_PLATFORM_LENIENT_43 : MIRK_PLATFORM_STRICT;
+        if (options.request_ceiling != 0) o.request_ceiling = options.request_ceiling;
+        if (options.total_ceiling != 0) o.total_ceiling = options.total_ceiling;
+        handle_ = mirk_platform_handle_open(&o);
+        if (options.fresh_fill != 0) mirk_platform_testing_set_fresh_fill(handle_, options.fresh_fill);
+        if (options.tracking == Tracking::corrupt) mirk_platform_testing_set_sttr_mode(handle_, 0xEEED);
+    }
+    explicit Handle(Tracking tracking) : Handle(Options{.tracking = tracking}) {}
+    ~Handle() {
+        const std::size_t left = mirk_platform_handle_close(handle_);
+        if (!any_loss_ && left != lost_) options_.on_leak(left, lost_, options_);
+    }
+    Handle(const Handle &) = delete;
+    Handle &operator=(const Handle &) = delete;
+
+    mirk_handle *get() const { return handle_; }
+    operator mirk_handle *() const { return handle_; }
+    mirk_handle *operator->() const { return handle_; }
+
+    bool tracks() const { return options_.tracking == Tracking::on; }
+    std::size_t live_blocks() const { return mirk_platform_live_blocks(handle_); }
+    // Exactly so many blocks are left at the end: a loss that belongs to what is tested.
+    void expect_lost_blocks(std::size_t blocks) { lost_ = blocks; }
+    void allow_lost_blocks() { any_loss_ = true; }
+
+    // The nth request for memory from now on fails, or all from the nth on; 0 ends the failing.
+    void fail_alloc(std::uint64_t nth, bool onwards = false) const {
+        mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth, onwards ? 1 : 0);
+    }
+    std::uint64_t allocs() const { return mirk_platform_testing_allocations(handle_, MIRK_PLATFORM_TESTING_OBJ_ALLOC); }
+    void fail(mirk_platform_testing_operation operation, std::uint32_t number, std::uint32_t skip = 0,
+              std::uint32_t count = 1000000) const {
+        mirk_platform_testing_fail_operation(handle_, operation, skip, count, number);
+    }
+    void set_variant(const mirk_type_info &type, std::int8_t variant) const {
+        mirk_platform_domain_set_variant(handle_, type.luid, variant);
+    }
+    std::optional<std::uint32_t> offset_of(const void *object) const {
+        std::uint32_t offset = 0;
+        if (mirk_platform_sttr_offset(handle_, object, &offset) != 0) return std::nullopt;
+        return offset;
+    }
+
+private:
+    Options options_;
+    mirk_handle *handle_ = nullptr;
+    std::size_t lost_ = 0;
+    bool any_loss_ = false;
+};
+
+}  // namespace kit

@@ -1,0 +1,16 @@
+// How a handle tracks state.
+#pragma once
+
+namespace kit {
+
+enum class Tracking { none, off, on, corrupt };  // none: no descriptor at all; corrupt: a descriptor with another word
+
+// Those with which a library works on; a corrupt one ends the process.
+inline constexpr Tracking every_tracking[] = {Tracking::none, Tracking::off, Tracking::on};
+
+inline const char *name_of(Tracking tracking) {
+    constexpr const char *names[] = {"no descriptor", "tracking off", "tracking on", "corrupt descriptor"};
+    return names[static_cast<int>(tracking)];
+}
+
+}  // namespace kit
