@@ -16,7 +16,7 @@ class Later {
 public:
     Later(Plain (*make)(std::size_t), std::size_t n) : make_(make), n_(n) {}
     std::shared_ptr<Sample<Plain>> get() {
-        if (sample_ == nullptr) sample_ = std::make_shared<Sample<Plain>>(Handle::Kind::plain, make_(n_));
+        if (sample_ == nullptr) sample_ = std::make_shared<Sample<Plain>>(Setup::plain, make_(n_));
         return sample_;
     }
 

@@ -1,37 +1,25 @@
 // A handle of the reference runtime, and the ways to set one up that are compared.
 #pragma once
 
-#include <cstdint>
-
 #include "bench/board.h"
-#include "mirk_platform.h"
+#include "tests/support/kit/handle.h"
 
 namespace tarn::bench {
 
 inline constexpr std::uint32_t context_id = 1;
 
-class Handle {
-public:
-    enum class Kind { plain, tracking, private_tables };
+using kit::Handle;
 
-    explicit Handle(Kind kind = Kind::plain) {
-        mirk_platform_handle_options options;
-        mirk_platform_handle_options_init(&options);
-        options.tracking = kind == Kind::tracking ? MIRK_PLATFORM_TRACKING_ON : MIRK_PLATFORM_TRACKING_OFF;
-        options.private_types = kind == Kind::private_tables ? 1 : 0;
-        options.request_ceiling = options.total_ceiling = std::uint64_t{8} << 30;
-        handle_ = mirk_platform_handle_open(&options);
-        require(handle_ != nullptr, "no memory for a handle");
-    }
-    ~Handle() { mirk_platform_handle_close(handle_); }
-    Handle(const Handle &) = delete;
-    Handle &operator=(const Handle &) = delete;
+enum class Setup { plain, tracking, private_tables };
 
-    operator mirk_handle *() const { return handle_; }
-    mirk_handle *operator->() const { return handle_; }
-
-private:
-    mirk_handle *handle_;
-};
+inline kit::Options options(Setup setup) {
+    constexpr std::uint64_t ceiling = std::uint64_t{8} << 30;
+    return {.tracking = setup == Setup::tracking ? kit::Tracking::on : kit::Tracking::off,
+            .private_types = setup == Setup::private_tables ? 1U : 0U,
+            .request_ceiling = ceiling,
+            .total_ceiling = ceiling,
+            .fresh_fill = 0,
+            .on_leak = [](std::size_t, std::size_t, const kit::Options &) {}};
+}
 
 }  // namespace tarn::bench

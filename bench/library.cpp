@@ -53,9 +53,9 @@ private:
 // A sample whose frame is read on a handle that takes its memory from an arena.
 template <class Plain>
 struct ArenaSample {
-    explicit ArenaSample(const Plain &value) : sample(Handle::Kind::private_tables, value) {}
+    explicit ArenaSample(const Plain &value) : sample(Setup::private_tables, value) {}
     Sample<Plain> sample;
-    Handle handle{Handle::Kind::private_tables};
+    Handle handle{options(Setup::private_tables)};
     Arena arena{handle};
 };
 
@@ -75,7 +75,7 @@ int count_nothing(void *, std::uint64_t *, std::int64_t, std::uint32_t) { return
 // one trace line, of a level that nobody selects.
 template <class Plain>
 std::shared_ptr<Sample<Plain>> from_newer_peer(const Plain &value) {
-    const auto s = std::make_shared<Sample<Plain>>(Handle::Kind::plain, value);
+    const auto s = std::make_shared<Sample<Plain>>(Setup::plain, value);
     constexpr std::size_t jump = 2, jump_size = 4;
     std::size_t digit = jump + jump_size - 1;
     while (++s->frame[digit] == 0) --digit;  // big-endian
@@ -91,9 +91,9 @@ std::shared_ptr<Sample<Plain>> from_newer_peer(const Plain &value) {
 
 template <class Plain>
 void add(Board &board, std::string_view workload, const Plain &value) {
-    const auto sample = [&](Handle::Kind kind) { return std::make_shared<Sample<Plain>>(kind, value); };
-    const auto plain = sample(Handle::Kind::plain), tracking = sample(Handle::Kind::tracking),
-               tables = sample(Handle::Kind::private_tables), deaf = sample(Handle::Kind::plain);
+    const auto sample = [&](Setup setup) { return std::make_shared<Sample<Plain>>(setup, value); };
+    const auto plain = sample(Setup::plain), tracking = sample(Setup::tracking),
+               tables = sample(Setup::private_tables), deaf = sample(Setup::plain);
     deaf->handle->write_notify = announce_nothing;
     deaf->handle->count_notify = count_nothing;
 
@@ -139,11 +139,11 @@ void add(Board &board, std::string_view workload, const Plain &value) {
 }
 
 template <class Plain>
-void add_floor(Board &board, std::string_view workload, std::string who, const Floor &floor, Handle::Kind kind,
+void add_floor(Board &board, std::string_view workload, std::string who, const Floor &floor, Setup setup,
                const Plain &value) {
-    const auto s = std::make_shared<Sample<Plain>>(kind, value);
+    const auto s = std::make_shared<Sample<Plain>>(setup, value);
     const Floor *const f = &floor;
-    if (kind == Handle::Kind::tracking) who += ", tracking";
+    if (setup == Setup::tracking) who += ", tracking";
     const auto encode = [s, f] {
         benchmark::DoNotOptimize(f->marshal(s->handle, context_id, s->other.data(), s->bytes(), s->room(), &s->err));
     };
@@ -160,9 +160,9 @@ void add_floor(Board &board, std::string_view workload, std::string who, const F
 template <class Plain>
 void add_floors_of(Board &board, std::string_view workload, const Plain &value) {
     const char *record = Exports<Plain>::name;
-    for (const Handle::Kind kind : {Handle::Kind::plain, Handle::Kind::tracking}) {
-        add_floor(board, workload, "contract floor", contract_floor(record), kind, value);
-        add_floor(board, workload, "inlined floor", inlined_floor(record), kind, value);
+    for (const Setup setup : {Setup::plain, Setup::tracking}) {
+        add_floor(board, workload, "contract floor", contract_floor(record), setup, value);
+        add_floor(board, workload, "inlined floor", inlined_floor(record), setup, value);
     }
 }
 

@@ -25,7 +25,7 @@ struct Sample {
     using Ops = Exports<Plain>;
     using Object = typename Ops::Object;
 
-    Sample(Handle::Kind kind, const Plain &from) : handle(kind), value(from), object(built(handle, value)) {
+    Sample(Setup setup, const Plain &from) : handle(options(setup)), value(from), object(built(handle, value)) {
         require(sum(handle, context_id, object, &err) == sum(value), "an object does not hold what was put in");
         const std::uint32_t room = Ops::len(handle, context_id, object);
         frame.resize(room + 1);  // one spare byte behind the size
