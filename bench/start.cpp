@@ -28,7 +28,7 @@ int one_round(const char *library) {
         std::fprintf(stderr, "start: %s\n", dlerror());
         return 1;
     }
-    using Create = void *(*)(mirk_handle *, uint32_t);
+    using Create = void *(*)(mirk_handle *, std::uint32_t);
     void *found = dlsym(loaded, "lumo_tarn_debug_setting_create");
     Create create = nullptr;
     std::memcpy(&create, &found, sizeof create);

@@ -17,7 +17,7 @@ using observing::Tracking;
 using tarn::bench::Floor;
 using tarn::reflect::RecordOperations;
 
-constexpr std::uint32_t kId = 7;
+constexpr std::uint32_t id = 7;
 using Lines = std::vector<std::string>;
 using Bytes = std::vector<std::uint8_t>;
 
@@ -33,9 +33,9 @@ void PrintTo(const Workload &workload, std::ostream *to) { *to << workload.name;
 
 template <class Object, auto Value, auto Create>
 void *stored(mirk_handle *h) {
-    Object *object = Create(h, kId);
+    Object *object = Create(h, id);
     std::uint32_t err = 0;
-    tarn::bench::store(h, kId, object, Value(), &err);
+    tarn::bench::store(h, id, object, Value(), &err);
     EXPECT_EQ(err, 0U);
     return object;
 }
@@ -55,12 +55,12 @@ protected:
     FloorTest() : handle({.tracking = tracked ? Tracking::on : Tracking::off}) {
         observing::quiet(true);
         object = workload.make(handle);
-        buffer.resize(operations.len(handle, kId, object) + 1);
+        buffer.resize(operations.len(handle, id, object) + 1);
         size =
-            operations.marshal(handle, kId, buffer.data(), object, static_cast<std::int32_t>(buffer.size() - 1), &err);
+            operations.marshal(handle, id, buffer.data(), object, static_cast<std::int32_t>(buffer.size() - 1), &err);
         observing::quiet(false);
     }
-    ~FloorTest() override { operations.destroy(handle, kId, object); }
+    ~FloorTest() override { operations.destroy(handle, id, object); }
 
     // What is asked of the runtime while something runs, with every argument. Without tracking a state area is a place
     // behind a block, formed and never touched, so what lies there by chance has no name to compare.
@@ -103,25 +103,25 @@ void expect_same(const Lines &floor, const Lines &library) {
 TEST_P(FloorTest, WritesAFrameWithTheLibrarysCalls) {
     const auto capacity = static_cast<std::int32_t>(buffer.size() - 1);
     const Bytes expected = buffer;
-    const Lines library = calls([&] { operations.marshal(handle, kId, buffer.data(), object, capacity, &err); });
+    const Lines library = calls([&] { operations.marshal(handle, id, buffer.data(), object, capacity, &err); });
     std::fill(buffer.begin(), buffer.end(), std::uint8_t{0});
-    const Lines straight = calls([&] { floor.marshal(handle, kId, buffer.data(), bytes_of(object), capacity, &err); });
+    const Lines straight = calls([&] { floor.marshal(handle, id, buffer.data(), bytes_of(object), capacity, &err); });
     expect_same(straight, library);
     EXPECT_TRUE(std::equal(buffer.begin(), buffer.begin() + size, expected.begin()));
 }
 
 TEST_P(FloorTest, ReadsAndDestroysWithTheLibrarysCalls) {
     const Lines library = calls([&] {
-        void *target = operations.create(handle, kId);
-        EXPECT_EQ(operations.unmarshal(handle, kId, buffer.data(), target, size, 0, &err), size);
+        void *target = operations.create(handle, id);
+        EXPECT_EQ(operations.unmarshal(handle, id, buffer.data(), target, size, 0, &err), size);
         EXPECT_EQ(operations.compare(target, object), 0);
-        operations.destroy(handle, kId, target);
+        operations.destroy(handle, id, target);
     });
     const Lines straight = calls([&] {
-        void *target = floor.create(handle, kId);
-        EXPECT_EQ(floor.unmarshal(handle, kId, buffer.data(), bytes_of(target), size, 0, &err), size);
+        void *target = floor.create(handle, id);
+        EXPECT_EQ(floor.unmarshal(handle, id, buffer.data(), bytes_of(target), size, 0, &err), size);
         EXPECT_EQ(operations.compare(target, object), 0);
-        floor.destroy(handle, kId, bytes_of(target), true);
+        floor.destroy(handle, id, bytes_of(target), true);
     });
     expect_same(straight, library);
 }

@@ -66,8 +66,8 @@ Field field_of(xmlNode *node) {
 // The frames in a capture, in order.
 std::vector<Field> frames_in(const Capture &capture) {
     const Outcome outcome = tshark(capture, {"-T", "pdml"});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(std::string::npos, outcome.out.find("Lua Error"));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out.find("Lua Error"), std::string::npos);
     const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> document(
         xmlReadMemory(outcome.out.data(), static_cast<int>(outcome.out.size()), "pdml", nullptr, XML_PARSE_HUGE),
         xmlFreeDoc);
@@ -114,7 +114,7 @@ json enumeration_json(const Field &field, const std::string &type) {
     const auto &names = reference::enumeration_table(type).enumerators;
     const unsigned long number = std::stoul(field.show);
     if (number >= names.size()) return number;
-    EXPECT_NE(std::string::npos, field.label.find(": " + names[number] + " (")) << field.label;
+    EXPECT_NE(field.label.find(": " + names[number] + " ("), std::string::npos) << field.label;
     return names[number];
 }
 
@@ -143,19 +143,19 @@ json address_json(const Field &field) {
 
 json member_json(const Field &field, const reference::MemberTable &member) {
     switch (member.cls) {
-        case reference::Class::kBoolean: {
+        case reference::Class::boolean: {
             const unsigned value = bytes_of(field.bytes).at(0);
             return with_variant(field, value > 1 ? json(value) : json(value != 0));
         }
-        case reference::Class::kEnumeration:
+        case reference::Class::enumeration:
             return with_variant(field, enumeration_json(field, member.type));
-        case reference::Class::kAddress:
+        case reference::Class::address:
             return address_json(field);
-        case reference::Class::kNested:
+        case reference::Class::nested:
             return record_json(field, member.element());
-        case reference::Class::kString:
+        case reference::Class::string:
             return string_json(field.bytes);
-        case reference::Class::kArray: {
+        case reference::Class::array: {
             json all = json::array();
             for (const Field &element : field.below) all.push_back(record_json(element, member.element()));
             return all;
@@ -197,7 +197,7 @@ json record_json(const Field &field, const reference::RecordTable &table) {
             all[member.name] = member_json(*found, member);
         } else {
             // What is empty takes no byte behind its length or count.
-            all[member.name] = member.cls == reference::Class::kString ? json("") : json::array();
+            all[member.name] = member.cls == reference::Class::string ? json("") : json::array();
         }
     }
     add_state(field, table, state);
@@ -219,12 +219,12 @@ json frame_json(const Field &frame) {
 
 void expect_equal(const std::string &bytes, const Capture &capture) {
     const Outcome decoded = tool_test::tarn({"decode", "--json"}, bytes);
-    ASSERT_EQ(0, decoded.exit) << decoded.err;
+    ASSERT_EQ(decoded.exit, 0) << decoded.err;
     const std::vector<std::string> expected = lines(decoded.out);
     const std::vector<Field> frames = frames_in(capture);
-    ASSERT_EQ(expected.size(), frames.size());
+    ASSERT_EQ(frames.size(), expected.size());
     for (std::size_t i = 0; i < frames.size(); ++i) {
-        EXPECT_EQ(json::parse(expected[i]), frame_json(frames[i])) << json::parse(expected[i]).at("message");
+        EXPECT_EQ(frame_json(frames[i]), json::parse(expected[i])) << json::parse(expected[i]).at("message");
     }
 }
 
@@ -268,7 +268,7 @@ TEST(Dissector, FindsFramesOnAnyPort) {
 
 TEST(Dissector, EveryMemberIsAFilter) {
     const Outcome outcome = tool_test::run(TARN_TSHARK, {"-G", "fields", "-X", "lua_script:" TARN_DISSECTOR});
-    ASSERT_EQ(0, outcome.exit) << outcome.err;
+    ASSERT_EQ(outcome.exit, 0) << outcome.err;
     // The label and the name of each field that a filter may ask for.
     std::set<std::string> known;
     for (const std::string &line : lines(outcome.out)) {
@@ -293,9 +293,9 @@ TEST(Dissector, FiltersByValue) {
     const auto count = [&](const std::string &filter) {
         return lines(tshark(capture, {"-Y", filter, "-T", "fields", "-e", "tcp.srcport"}).out);
     };
-    EXPECT_EQ(std::vector<std::string>{"40007"}, count("tarn.lumo_tarn_debug_setting.trace_enabled == 7"));
-    EXPECT_EQ((std::vector<std::string>{"40001", "40003"}), count("tarn.lumo_tarn_debug_setting.trace_enabled < 7"));
-    EXPECT_EQ(3U, count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size());
+    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled == 7"), std::vector<std::string>{"40007"});
+    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled < 7"), (std::vector<std::string>{"40001", "40003"}));
+    EXPECT_EQ(count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size(), 3U);
 }
 
 TEST(Dissector, ReadsRequestsAndRefusals) {
@@ -314,14 +314,14 @@ TEST(Dissector, ReadsRequestsAndRefusals) {
     capture.add(40000, port, request + socket.receive(49 + sentence.size()));
 
     const std::vector<Field> frames = frames_in(capture);
-    ASSERT_EQ(2U, frames.size());
-    EXPECT_EQ("Tarn frame: request: lumo_tarn_dp_intf_rsp", frames[0].label);
-    EXPECT_EQ("lumo_tarn_dp_intf_rsp", frames[0].find("tarn.bundle")->show);
-    EXPECT_EQ("1", frames[0].find("tarn.options")->find("tarn.options.tracked")->show);
-    EXPECT_EQ("0", frames[0].find("tarn.options")->find("tarn.options.refused")->show);
-    EXPECT_EQ("Tarn frame: refusal: " + sentence, frames[1].label);
-    EXPECT_EQ(sentence, frames[1].find("tarn.sentence")->show);
-    EXPECT_EQ(std::to_string(ENOENT), frames[1].find("tarn.number")->show);
+    ASSERT_EQ(frames.size(), 2U);
+    EXPECT_EQ(frames[0].label, "Tarn frame: request: lumo_tarn_dp_intf_rsp");
+    EXPECT_EQ(frames[0].find("tarn.bundle")->show, "lumo_tarn_dp_intf_rsp");
+    EXPECT_EQ(frames[0].find("tarn.options")->find("tarn.options.tracked")->show, "1");
+    EXPECT_EQ(frames[0].find("tarn.options")->find("tarn.options.refused")->show, "0");
+    EXPECT_EQ(frames[1].label, "Tarn frame: refusal: " + sentence);
+    EXPECT_EQ(frames[1].find("tarn.sentence")->show, sentence);
+    EXPECT_EQ(frames[1].find("tarn.number")->show, std::to_string(ENOENT));
 }
 
 // What the tool says of a frame that it cannot read.
@@ -372,8 +372,8 @@ TEST(Dissector, MarksBrokenFramesWithTheReason) {
     ASSERT_GE(expected.size(), 25U);
     const Outcome outcome =
         tshark(capture, {"-Y", "tarn.broken", "-T", "fields", "-e", "_ws.malformed", "-e", "_ws.expert.message"});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(expected, lines(outcome.out));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(lines(outcome.out), expected);
 }
 
 TEST(Dissector, MarksBytesThatAreNoFrame) {
@@ -384,10 +384,9 @@ TEST(Dissector, MarksBytesThatAreNoFrame) {
     capture.add(40003, port, with_length(good, 42));
     capture.add(40004, port, with_length(good, 16777217));
     const Outcome outcome = tshark(capture, {"-Y", "tarn.no_frame", "-T", "fields", "-e", "_ws.expert.message"});
-    EXPECT_EQ((std::vector<std::string>{"the marker is missing", "the marker is missing",
-                                        "a frame cannot have the total length 42",
-                                        "a frame cannot have the total length 16777217"}),
-              lines(outcome.out))
+    EXPECT_EQ(lines(outcome.out), (std::vector<std::string>{"the marker is missing", "the marker is missing",
+                                                            "a frame cannot have the total length 42",
+                                                            "a frame cannot have the total length 16777217"}))
         << outcome.err;
 }
 

@@ -77,7 +77,7 @@ protected:
     auto get_text(const MemberOperations &o, const MemberOperations &length) {
         return [this, &o, &length] {
             std::string text(length.get_value(h(), id, object_, &err) + 1, ' ');
-            o.text_get(h(), id, object_, text.data(), static_cast<uint32_t>(text.size()), &err);
+            o.text_get(h(), id, object_, text.data(), static_cast<std::uint32_t>(text.size()), &err);
         };
     }
     auto set_text(const MemberOperations &o) {
@@ -150,9 +150,9 @@ protected:
         });
     }
 
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     std::string member_;
-    uint32_t *slot_ = nullptr;
+    std::uint32_t *slot_ = nullptr;
     context *context_ = nullptr;
     void *object_ = nullptr;
     std::size_t size_ = 0;
@@ -188,15 +188,15 @@ TEST_F(CppSequence, OfWholeRecords) {
             void *const native = object_ = object.get();
             size_ = r.sizeof_(h);
             const std::size_t length = object.frame_size();
-            std::vector<uint8_t> buffer(length + 1);
-            const auto size = static_cast<int32_t>(length);
+            std::vector<std::uint8_t> buffer(length + 1);
+            const auto size = static_cast<std::int32_t>(length);
             std::vector<char> text(3 * length + 4096);
-            const auto room = static_cast<int32_t>(text.size());
+            const auto room = static_cast<std::int32_t>(text.size());
             const char *name = r.record->name.data();
 
             expect_same(
                 "len", [&] { r.len(h, id, native); }, [&] { object.frame_size(); });
-            uint32_t written = 0;
+            std::uint32_t written = 0;
             expect_same(
                 "frame", [&] { written = r.marshal(h, id, buffer.data(), native, size, &err); },
                 [&] { object.write_frame(buffer); });
@@ -244,8 +244,8 @@ TEST_F(CppSequence, OfMessages) {
         M message(c);
         void *const native = object_ = message.get();
         size_ = 1;
-        std::vector<uint8_t> buffer(message.frame_size() + 1);
-        const auto size = static_cast<uint32_t>(buffer.size() - 1);
+        std::vector<std::uint8_t> buffer(message.frame_size() + 1);
+        const auto size = static_cast<std::uint32_t>(buffer.size() - 1);
         expect_same(
             "payload", [&] { o.payload_get(h, id, native, &err); }, [&] { message.payload(); });
         expect_same(

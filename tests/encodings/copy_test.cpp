@@ -8,7 +8,7 @@ namespace {
 using namespace wire;
 
 GuardedMemory &memory() {
-    static GuardedMemory guarded(kMostBytes);
+    static GuardedMemory guarded(most_bytes);
     return guarded;
 }
 
@@ -20,7 +20,7 @@ struct Cloned {
 Cloned clone(mirk_handle *h, const Instance &source, std::size_t size) {
     void *result = &result;  // to be nulled before anything else
     std::uint32_t err = 0;
-    source.record().clone(h, kId, source.get(), &result, memory().room(size), static_cast<std::uint32_t>(size), &err);
+    source.record().clone(h, id, source.get(), &result, memory().room(size), static_cast<std::uint32_t>(size), &err);
     return {Instance(h, source.record(), result), err};
 }
 
@@ -63,17 +63,17 @@ TEST_P(Copies, WhatIsMissingIsNotFound) {
         std::uint8_t buffer[8];
         std::uint32_t err = 0;
         void *result = buffer;
-        source.record().clone(handle, kId, source.get(), nullptr, buffer, sizeof buffer, &err);
+        source.record().clone(handle, id, source.get(), nullptr, buffer, sizeof buffer, &err);
         EXPECT_EQ(err, 2U);
         EXPECT_EQ(handle->last_error, 2U);
         err = handle->last_error = 0;
-        source.record().clone(handle, kId, source.get(), &result, nullptr, 0, &err);
+        source.record().clone(handle, id, source.get(), &result, nullptr, 0, &err);
         EXPECT_EQ(err, 2U);
         EXPECT_EQ(handle->last_error, 2U);
         EXPECT_EQ(result, nullptr);
         result = buffer;
         err = handle->last_error = 0;
-        source.record().clone(handle, kId, nullptr, &result, buffer, sizeof buffer, &err);
+        source.record().clone(handle, id, nullptr, &result, buffer, sizeof buffer, &err);
         EXPECT_EQ(err, 2U);
         EXPECT_EQ(handle->last_error, 2U);
         EXPECT_EQ(result, nullptr);
@@ -91,10 +91,10 @@ TEST_P(Copies, UnderASetErrorNothingIsCopied) {
     std::uint8_t buffer[8];
     std::uint32_t err = 5;
     void *result = buffer;
-    source.record().clone(handle, kId, source.get(), &result, buffer, sizeof buffer, &err);
+    source.record().clone(handle, id, source.get(), &result, buffer, sizeof buffer, &err);
     EXPECT_EQ(err, 5U);
     EXPECT_EQ(result, nullptr);
-    source.record().clone(handle, kId, nullptr, &result, buffer, sizeof buffer, &err);
+    source.record().clone(handle, id, nullptr, &result, buffer, sizeof buffer, &err);
     EXPECT_EQ(err, 5U);
     handle->last_error = 6;
     EXPECT_EQ(source.record().clone_cr(handle, source.get()), nullptr);
@@ -155,9 +155,9 @@ TEST_P(Copies, AFailedCopyIntoAnElementEndsItAndKeepsItsPlace) {
     const Instance value(handle, rich_value(reference::record_table("lumo_tarn_lumo_info")));
     std::uint32_t err = 0;
     const Instance first(handle, "lumo_tarn_lumo_info");
-    elements.element_set(handle, kId, list.get(), 1, first.get(), &err);
+    elements.element_set(handle, id, list.get(), 1, first.get(), &err);
     ASSERT_EQ(err, 0U);
-    auto *element = static_cast<mirk_object *>(elements.element_get(handle, kId, list.get(), 1, &err));
+    auto *element = static_cast<mirk_object *>(elements.element_get(handle, id, list.get(), 1, &err));
     const std::uint8_t flags = element->obj_flag;
     const mirk_variant_entry &counts = value.header()->tinfo->variant_info->entries[0];
     const std::uint64_t destroyed = counts.num_destroyed;
@@ -165,8 +165,8 @@ TEST_P(Copies, AFailedCopyIntoAnElementEndsItAndKeepsItsPlace) {
     elements.element_set_cr(handle, list.get(), 1, value.get(), 0);
     EXPECT_EQ(handle->last_error, 12U);
     EXPECT_EQ(counts.num_destroyed, destroyed + 1);
-    EXPECT_EQ(element->obj_flag & kOffset, flags & kOffset);
-    EXPECT_EQ((flags & kOffset) != 0, handle.tracks());
+    EXPECT_EQ(element->obj_flag & offset_flag, flags & offset_flag);
+    EXPECT_EQ((flags & offset_flag) != 0, handle.tracks());
     mirk_clear_last_error(handle);
 }
 

@@ -28,17 +28,17 @@ TEST(EnumerationWire, TakesFiveBytesWithAnyVariantAndValue) {
                 one.header()->variant = variant;
                 std::uint8_t frame[6] = {1, 2, 3, 4, 5, 6};
                 std::uint32_t err = 0;
-                ASSERT_EQ(e.marshal(h, kId, frame, one.get(), 5, &err), 5u);
+                ASSERT_EQ(e.marshal(h, id, frame, one.get(), 5, &err), 5u);
                 EXPECT_EQ(err, 0u);
                 EXPECT_EQ(frame[0], static_cast<std::uint8_t>(variant));
                 std::uint8_t number[4];
                 std::uint32_t copy = value;
-                u_int32_marshal(h, kId, number, &copy, 4, &err);
+                u_int32_marshal(h, id, number, &copy, 4, &err);
                 EXPECT_EQ(std::memcmp(frame + 1, number, 4), 0);
                 EXPECT_EQ(frame[5], 6);
 
                 const Choice read(h, e, 1);
-                ASSERT_EQ(e.unmarshal(h, kId, frame, read.get(), 5, 0, &err), 5u);
+                ASSERT_EQ(e.unmarshal(h, id, frame, read.get(), 5, 0, &err), 5u);
                 EXPECT_EQ(err, 0u);
                 EXPECT_EQ(read.value(), value);
                 EXPECT_EQ(read.header()->variant, variant);
@@ -58,13 +58,13 @@ TEST(EnumerationWire, AVariantAbove0IsWrittenAndReadAs0) {
         one.header()->variant = 2;
         std::uint8_t frame[5];
         std::uint32_t err = 0;
-        EXPECT_EQ(e.marshal(h, kId, frame, one.get(), 5, &err), 5u);
+        EXPECT_EQ(e.marshal(h, id, frame, one.get(), 5, &err), 5u);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(frame[0], 0);
         one.header()->variant = 0;
         frame[0] = 100;
         const Choice read(h, e);
-        EXPECT_EQ(e.unmarshal(h, kId, frame, read.get(), 5, 0, &err), 5u);
+        EXPECT_EQ(e.unmarshal(h, id, frame, read.get(), 5, 0, &err), 5u);
         EXPECT_EQ(read.header()->variant, 0);
         mirk_platform_domain_clear(h);
     });
@@ -78,7 +78,7 @@ TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
             set_domain(h, e, -2);
             std::uint8_t frame[5] = {};
             std::uint32_t err = 0;
-            EXPECT_EQ(e.marshal(h, kId, frame, one.get(), 5, &err), lenient ? 5u : 0u);
+            EXPECT_EQ(e.marshal(h, id, frame, one.get(), 5, &err), lenient ? 5u : 0u);
             EXPECT_EQ(err, lenient ? 0u : 43u);
             EXPECT_EQ(frame[0], lenient ? 0xFE : 0);
             EXPECT_EQ(one.header()->variant, 0);
@@ -94,28 +94,28 @@ TEST(EnumerationWire, TooLittleRoomIsAnError) {
         for (const std::int32_t room : {0, -1, -2147483647}) {
             std::uint8_t frame[5] = {};
             std::uint32_t err = 0;
-            EXPECT_EQ(e.marshal(h, kId, frame, one.get(), room, &err), 0u);
+            EXPECT_EQ(e.marshal(h, id, frame, one.get(), room, &err), 0u);
             EXPECT_EQ(err, 12u);
             EXPECT_EQ(h->last_error, 12u);
             err = 0;
-            EXPECT_EQ(e.unmarshal(h, kId, frame, one.get(), static_cast<std::uint32_t>(room), 0, &err), 0u);
+            EXPECT_EQ(e.unmarshal(h, id, frame, one.get(), static_cast<std::uint32_t>(room), 0, &err), 0u);
             EXPECT_EQ(err, 12u);
             EXPECT_EQ(one.value(), 2u);
             // With an error in the slot nothing happens, and the number stays.
             err = 5;
-            EXPECT_EQ(e.marshal(h, kId, frame, one.get(), 5, &err), 0u);
-            EXPECT_EQ(e.unmarshal(h, kId, frame, one.get(), 5, 0, &err), 0u);
+            EXPECT_EQ(e.marshal(h, id, frame, one.get(), 5, &err), 0u);
+            EXPECT_EQ(e.unmarshal(h, id, frame, one.get(), 5, 0, &err), 0u);
             EXPECT_EQ(err, 5u);
         }
         for (std::int32_t room = 1; room < 5; ++room) {
             std::uint8_t frame[5] = {9, 9, 9, 9, 9};
             std::uint32_t err = 0;
-            EXPECT_EQ(e.marshal(h, kId, frame, one.get(), room, &err), 1u);
+            EXPECT_EQ(e.marshal(h, id, frame, one.get(), room, &err), 1u);
             EXPECT_NE(err, 0u);
             EXPECT_EQ(frame[1], 9);
             err = 0;
             frame[0] = 0;
-            EXPECT_EQ(e.unmarshal(h, kId, frame, one.get(), static_cast<std::uint32_t>(room), 0, &err), 1u);
+            EXPECT_EQ(e.unmarshal(h, id, frame, one.get(), static_cast<std::uint32_t>(room), 0, &err), 1u);
             EXPECT_NE(err, 0u);
             EXPECT_EQ(one.value(), 2u);
         }
@@ -126,13 +126,13 @@ TEST(EnumerationWire, TooLittleRoomIsAnError) {
 Written print(mirk_handle *h, const EnumerationOperations &e, const Choice &one, std::uint32_t indent,
               const char *name) {
     return write(300, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
-        return e.print(h, kId, buffer, indent, name, one.get(), room, err);
+        return e.print(h, id, buffer, indent, name, one.get(), room, err);
     });
 }
 Written to_xml(mirk_handle *h, const EnumerationOperations &e, const Choice &one, const char *name,
                std::uint8_t state) {
     return write(300, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
-        return e.to_xml(h, kId, name, buffer, one.get(), room, state, err);
+        return e.to_xml(h, id, name, buffer, one.get(), room, state, err);
     });
 }
 
@@ -201,7 +201,7 @@ TEST(EnumerationText, ABufferThatIsTooSmallIsToldAndNeverPassed) {
                 std::string area(text + 50, blank);
                 std::uint32_t err = 0;
                 const auto size = static_cast<std::int32_t>(room);
-                EXPECT_LE(e.print(h, kId, area.data(), 4, "x", one.get(), size, &err), room);
+                EXPECT_LE(e.print(h, id, area.data(), 4, "x", one.get(), size, &err), room);
                 EXPECT_EQ(err != 0, room <= text) << room;
                 EXPECT_EQ(area.find_first_not_of(blank, room), area.npos) << room;
             }
@@ -209,7 +209,7 @@ TEST(EnumerationText, ABufferThatIsTooSmallIsToldAndNeverPassed) {
                 std::string area(xml + 50, blank);
                 std::uint32_t err = 0;
                 const auto size = static_cast<std::int32_t>(room);
-                EXPECT_LE(e.to_xml(h, kId, "x", area.data(), one.get(), size, 0, &err), room);
+                EXPECT_LE(e.to_xml(h, id, "x", area.data(), one.get(), size, 0, &err), room);
                 EXPECT_EQ(err != 0, room <= xml) << room;
                 EXPECT_EQ(area.find_first_not_of(blank, room), area.npos) << room;
             }
@@ -238,7 +238,7 @@ Read read(mirk_handle *h, const EnumerationOperations &e, const Choice &one, con
     const Document document(text);
     Read result;
     result.message.assign(300, '\0');
-    e.from_xml(h, kId, path.c_str(), document, one.get(), &result.err, result.message.data(), message_size);
+    e.from_xml(h, id, path.c_str(), document, one.get(), &result.err, result.message.data(), message_size);
     result.message.resize(std::strlen(result.message.c_str()));
     return result;
 }
@@ -303,10 +303,10 @@ TEST(EnumerationXml, AnyOtherErrorIsToldInTheMessageBuffer) {
 
         const Document document(text);
         std::uint32_t err = 0;
-        e.from_xml(h, kId, "//x/y", document, one.get(), &err, nullptr, 0);
+        e.from_xml(h, id, "//x/y", document, one.get(), &err, nullptr, 0);
         EXPECT_EQ(err, 28u);
         // With an error in the slot nothing is looked up.
-        e.from_xml(h, kId, "//x", document, one.get(), &err, nullptr, 0);
+        e.from_xml(h, id, "//x", document, one.get(), &err, nullptr, 0);
         EXPECT_EQ(err, 28u);
         h->last_error = 0;
     });
@@ -321,7 +321,7 @@ TEST(EnumerationXml, AFailedLookUpEndsTheWalkOfTheRecord) {
                             "</LUMO_TARN_DIR_EGRESS></direction><epoch>6</epoch></x>");
     std::uint32_t err = 0;
     char message[64] = "";
-    info.record().from_xml(h, kId, "//x", document, info.get(), &err, message, sizeof message);
+    info.record().from_xml(h, id, "//x", document, info.get(), &err, message, sizeof message);
     EXPECT_EQ(err, 28u);
     EXPECT_STREQ(message, "Failed xpath: //x/direction");
     const reference::Record value = info.value();

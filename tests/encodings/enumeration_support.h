@@ -13,13 +13,13 @@ using tarn::reflect::EnumerationOperations;
 class Choice {
 public:
     Choice(mirk_handle *h, const EnumerationOperations &operations)
-        : h_(h), operations_(operations), p_(operations.create(h, kId)) {}
+        : h_(h), operations_(operations), p_(operations.create(h, id)) {}
     Choice(mirk_handle *h, const EnumerationOperations &operations, std::uint32_t value) : Choice(h, operations) {
         put(value);
     }
     Choice(const Choice &) = delete;
     Choice &operator=(const Choice &) = delete;
-    ~Choice() { operations_.destroy(h_, kId, p_); }
+    ~Choice() { operations_.destroy(h_, id, p_); }
 
     void *get() const { return p_; }
     mirk_object *header() const { return static_cast<mirk_object *>(p_); }

@@ -17,15 +17,15 @@ TEST(Enumeration, AFreshInstanceHasTheFirstValue) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (auto *create : {e.create, e.create_internal}) {
-            auto *object = static_cast<mirk_object *>(create(h, kId));
+            auto *object = static_cast<mirk_object *>(create(h, id));
             ASSERT_NE(object, nullptr);
             std::uint32_t err = 0;
-            EXPECT_EQ(e.get_value(h, kId, object, &err), 0u);
+            EXPECT_EQ(e.get_value(h, id, object, &err), 0u);
             EXPECT_EQ(object->tinfo, e.type);
             EXPECT_EQ(object->variant, 0);
             EXPECT_EQ(object->home_variant, 0);
             EXPECT_EQ(object->obj_flag, 0);
-            e.destroy(h, kId, object);
+            e.destroy(h, id, object);
         }
         EXPECT_EQ(h.live_blocks(), 0u);
         h->cr_mode = 5;
@@ -67,7 +67,7 @@ TEST(Enumeration, WithoutMemoryThereIsNoneOrTheSentinel) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 1);
-        EXPECT_EQ(e.create(h, kId), nullptr);
+        EXPECT_EQ(e.create(h, id), nullptr);
         void *sentinel = e.create_cr(h);
         EXPECT_NE(sentinel, nullptr);
         EXPECT_EQ(h->last_error, 12u);
@@ -75,13 +75,13 @@ TEST(Enumeration, WithoutMemoryThereIsNoneOrTheSentinel) {
         // With an error in the handle the sticky form makes nothing, and the sentinel is never released.
         EXPECT_EQ(e.create_cr(h), sentinel);
         h->last_error = 0;
-        EXPECT_EQ(e.destroy_internal(h, kId, sentinel, 1), sentinel);
-        EXPECT_EQ(e.destroy_internal(h, kId, nullptr, 1), sentinel);
-        e.destroy(h, kId, nullptr);
+        EXPECT_EQ(e.destroy_internal(h, id, sentinel, 1), sentinel);
+        EXPECT_EQ(e.destroy_internal(h, id, nullptr, 1), sentinel);
+        e.destroy(h, id, nullptr);
         e.destroy_cr(h, sentinel);
         const Choice one(h, e);
         const std::uint64_t destroyed = e.type->variant_info->entries[0].num_destroyed;
-        EXPECT_EQ(e.destroy_internal(h, kId, one.get(), 0), sentinel);
+        EXPECT_EQ(e.destroy_internal(h, id, one.get(), 0), sentinel);
         EXPECT_EQ(e.type->variant_info->entries[0].num_destroyed, destroyed);
     });
 }
@@ -92,10 +92,10 @@ TEST(Enumeration, AFailedLookUpIsTracedAndTheInstanceReturned) {
         const Choice first(h, e);
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
         const Trace trace;
-        void *object = e.create(h, kId);
+        void *object = e.create(h, id);
         EXPECT_EQ(trace.lines(), Lines{"type 3 (ERR): error in " + name_of(e) + " create " + std::strerror(5)});
         ASSERT_NE(object, nullptr);
-        e.destroy(h, kId, object);
+        e.destroy(h, id, object);
     });
 }
 
@@ -105,7 +105,7 @@ TEST(EnumerationDeathTest, ATypeWithoutVariantsIsFatal) {
         EXPECT_DEATH(
             {
                 e.type->variant_info = nullptr;
-                e.create(h, kId);
+                e.create(h, id);
             },
             "\\(FATAL\\): varinfo is NULL");
         EXPECT_DEATH(
@@ -127,10 +127,10 @@ TEST(Enumeration, AVariantBeyondThoseOfTheTypeIsTraced) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const std::int8_t known = e.type->variant_info->n_variants;
-        void *object = e.create(h, kId);
+        void *object = e.create(h, id);
         static_cast<mirk_object *>(object)->variant = static_cast<std::int8_t>(known + 1);
         const Trace trace;
-        e.destroy(h, kId, object);
+        e.destroy(h, id, object);
         EXPECT_EQ(trace.lines(), Lines{"type 6 (info): variant " + std::to_string(known + 1) + " requested only " +
                                        std::to_string(known) + " variants present"});
     });
@@ -146,7 +146,7 @@ TEST(Enumeration, InitializeWritesTheHeaderAndKeepsTheOtherFlags) {
         std::uint32_t err = 0;
         const std::uint64_t created = e.type->variant_info->entries[-2].num_created;
         // Neither of the words that are not used keeps it from being counted.
-        e.initialize(h, kId, object, e.type, 0, 1, 2, storage, &err);
+        e.initialize(h, id, object, e.type, 0, 1, 2, storage, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(e.type->variant_info->entries[-2].num_created, created + 1);
         EXPECT_EQ(object->variant, -2);
@@ -156,11 +156,11 @@ TEST(Enumeration, InitializeWritesTheHeaderAndKeepsTheOtherFlags) {
 
         // The error of the look-up stays with the caller.
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
-        e.initialize(h, kId, object, e.type, 0, 0, 0, nullptr, &err);
+        e.initialize(h, id, object, e.type, 0, 0, 0, nullptr, &err);
         EXPECT_EQ(err, 5u);
         // And with an error in the slot nothing is set up.
         object->variant = 0;
-        e.initialize(h, kId, object, e.type, 0, 0, 0, nullptr, &err);
+        e.initialize(h, id, object, e.type, 0, 0, 0, nullptr, &err);
         EXPECT_EQ(object->variant, 0);
         mirk_platform_domain_clear(h);
     });
@@ -171,8 +171,8 @@ TEST(Enumeration, SizesAreFixed) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         EXPECT_EQ(e.sizeof_(), 16u);
         const Choice one(h, e);
-        EXPECT_EQ(e.len(h, kId, one.get()), 5u);
-        EXPECT_EQ(e.len(h, kId, nullptr), 5u);
+        EXPECT_EQ(e.len(h, id, one.get()), 5u);
+        EXPECT_EQ(e.len(h, id, nullptr), 5u);
         EXPECT_EQ(e.len_cr(h), 5u);
         h->last_error = 1;
         EXPECT_EQ(e.len_cr(h), 0u);
@@ -193,28 +193,28 @@ TEST(Enumeration, HoldsNoReferences) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         const Choice one(h, e);
         std::uint32_t err = 0;
-        EXPECT_EQ(e.get_oid_count(h, kId, one.get(), &err), 0u);
-        e.get_object_references(h, kId, one.get(), nullptr, 0, &err);
+        EXPECT_EQ(e.get_oid_count(h, id, one.get(), &err), 0u);
+        e.get_object_references(h, id, one.get(), nullptr, 0, &err);
         EXPECT_EQ(err, 0u);
 
         const Trace trace;
-        EXPECT_EQ(e.get_oid_count(h, kId, nullptr, &err), 0u);
+        EXPECT_EQ(e.get_oid_count(h, id, nullptr, &err), 0u);
         EXPECT_EQ(err, 22u);
         EXPECT_EQ(h->last_error, 22u);
         err = 0;
-        e.get_object_references(h, kId, nullptr, nullptr, 0, &err);
+        e.get_object_references(h, id, nullptr, nullptr, 0, &err);
         EXPECT_EQ(err, 22u);
-        EXPECT_EQ(e.get_oid_count(h, kId, one.get(), &err), 0u);
-        e.get_object_references(h, kId, one.get(), nullptr, 0, &err);
+        EXPECT_EQ(e.get_oid_count(h, id, one.get(), &err), 0u);
+        e.get_object_references(h, id, one.get(), nullptr, 0, &err);
         EXPECT_EQ(err, 22u);
-        e.set_instance_embedded(h, kId, nullptr);
+        e.set_instance_embedded(h, id, nullptr);
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): Invalid object passed in to get object oid count",
                                         "type 3 (ERR): Cannot get table references. Invalid object passed on",
                                         "type 3 (ERR): Error already present in call to get object oid count",
                                         "type 3 (ERR): Error present in call to get table references from object",
                                         "type 3 (ERR): Invalid object handle passed to set embedded flag"}));
         h->last_error = 0;
-        e.set_instance_embedded(h, kId, one.get());
+        e.set_instance_embedded(h, id, one.get());
         EXPECT_EQ(one.header()->obj_flag, 2);
     });
 }
@@ -225,15 +225,15 @@ TEST(Enumeration, TheValueIsReadWithoutAGate) {
         const Choice one(h, e, 2);
         one.header()->variant = -1;
         std::uint32_t err = 0;
-        EXPECT_EQ(e.get_value(h, kId, one.get(), &err), 2u);
-        EXPECT_EQ(e.get(h, kId, one.get(), &err), one.get());
+        EXPECT_EQ(e.get_value(h, id, one.get(), &err), 2u);
+        EXPECT_EQ(e.get(h, id, one.get(), &err), one.get());
         EXPECT_EQ(err, 0u);
-        EXPECT_EQ(e.get_value(h, kId, nullptr, &err), 0u);
+        EXPECT_EQ(e.get_value(h, id, nullptr, &err), 0u);
         EXPECT_EQ(err, 22u);
         EXPECT_EQ(h->last_error, 22u);
-        EXPECT_EQ(e.get_value(h, kId, one.get(), &err), 0u);
-        EXPECT_EQ(e.get(h, kId, one.get(), nullptr), one.get());
-        EXPECT_EQ(e.get(h, kId, nullptr, nullptr), nullptr);
+        EXPECT_EQ(e.get_value(h, id, one.get(), &err), 0u);
+        EXPECT_EQ(e.get(h, id, one.get(), nullptr), one.get());
+        EXPECT_EQ(e.get(h, id, nullptr, nullptr), nullptr);
         h->last_error = 0;
     });
 }
@@ -243,7 +243,7 @@ TEST(Enumeration, NothingIsReadIntoNothing) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         std::uint8_t frame[6] = {};
         std::uint32_t err = 0;
-        EXPECT_EQ(e.unmarshal(h, kId, frame, nullptr, 5, 0, &err), 0u);
+        EXPECT_EQ(e.unmarshal(h, id, frame, nullptr, 5, 0, &err), 0u);
         EXPECT_EQ(err, 22u);
         EXPECT_EQ(h->last_error, 22u);
         h->last_error = 0;
@@ -256,7 +256,7 @@ TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
         Choice one(h, e);
         for (std::uint32_t value = 0; value < bound(e); ++value) {
             std::uint32_t err = 0;
-            e.set_value(h, kId, one.get(), value, &err);
+            e.set_value(h, id, one.get(), value, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(one.value(), value);
         }
@@ -264,28 +264,28 @@ TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
         one.put(1);
         for (const std::uint32_t value : {bound(e), 0xFFFFFFFFu}) {
             std::uint32_t err = 0;
-            e.set_value(h, kId, one.get(), value, &err);
+            e.set_value(h, id, one.get(), value, &err);
             EXPECT_EQ(err, 43u);
             EXPECT_EQ(h->last_error, 43u);
             const Choice source(h, e, value);
             err = 0;
-            e.set(h, kId, one.get(), source.get(), &err);
+            e.set(h, id, one.get(), source.get(), &err);
             EXPECT_EQ(err, 43u);
             EXPECT_EQ(one.value(), 1u);
             EXPECT_EQ(mirk_get_instance_modified(one.get(), 0, 1), 0u);
             // An error in the slot keeps good values out as well.
-            e.set_value(h, kId, one.get(), 2, &err);
+            e.set_value(h, id, one.get(), 2, &err);
             EXPECT_EQ(one.value(), 1u);
         }
         // A later variant may have more enumerators than are known here.
         set_domain(h, e, 1);
         std::uint32_t err = 0;
-        e.set_value(h, kId, one.get(), 1000, &err);
+        e.set_value(h, id, one.get(), 1000, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(one.value(), 1000u);
         EXPECT_EQ(one.header()->variant, 1);
         mirk_platform_domain_clear(h);
-        e.adjust_variant(h, kId, one.get(), &err);
+        e.adjust_variant(h, id, one.get(), &err);
         EXPECT_EQ(one.header()->variant, 0);
         h->last_error = 0;
     });
@@ -299,7 +299,7 @@ TEST(Enumeration, AWholeAssignmentTakesTheHeaderToo) {
         source.header()->home_variant = -4;
         source.header()->obj_flag = 2;
         std::uint32_t err = 0;
-        e.set(h, kId, one.get(), source.get(), &err);
+        e.set(h, id, one.get(), source.get(), &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(one.value(), 2u);
         EXPECT_EQ(one.header()->home_variant, -4);
@@ -307,7 +307,7 @@ TEST(Enumeration, AWholeAssignmentTakesTheHeaderToo) {
         for (const auto &[to, from] : {std::pair{one.get(), static_cast<void *>(nullptr)},
                                        std::pair{static_cast<void *>(nullptr), source.get()}}) {
             err = 0;
-            e.set(h, kId, to, from, &err);
+            e.set(h, id, to, from, &err);
             EXPECT_EQ(err, 22u);
         }
         EXPECT_EQ(one.value(), 2u);
@@ -367,13 +367,13 @@ TEST(Enumeration, AMarkIsFoundOnce) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const Choice one(h, e);
-        EXPECT_EQ(e.backpropagate(h, kId, one.get(), nullptr), 0u);
+        EXPECT_EQ(e.backpropagate(h, id, one.get(), nullptr), 0u);
         std::uint32_t err = 0;
-        e.set_value(h, kId, one.get(), 1, &err);
-        EXPECT_EQ(e.backpropagate(h, kId, one.get(), nullptr), 1u);
-        EXPECT_EQ(e.backpropagate(h, kId, one.get(), nullptr), 0u);
+        e.set_value(h, id, one.get(), 1, &err);
+        EXPECT_EQ(e.backpropagate(h, id, one.get(), nullptr), 1u);
+        EXPECT_EQ(e.backpropagate(h, id, one.get(), nullptr), 0u);
         const Trace trace;
-        EXPECT_EQ(e.backpropagate(h, kId, nullptr, nullptr), 0u);
+        EXPECT_EQ(e.backpropagate(h, id, nullptr, nullptr), 0u);
         EXPECT_EQ(trace.lines(), Lines{"type 6 (info): backpropagate: Null pointer to " + name_of(e) + " enum"});
     });
 }

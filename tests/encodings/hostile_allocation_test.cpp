@@ -74,12 +74,12 @@ TEST_P(FailingAllocations, ACopyThatFailsLeavesNothing) {
             std::vector<std::uint8_t> buffer(16384);
             const auto clone = [&](std::uint32_t *err) {
                 void *result = nullptr;
-                record.clone(handle, kId, source.get(), &result, buffer.data(), 16000, err);
+                record.clone(handle, id, source.get(), &result, buffer.data(), 16000, err);
                 return result;
             };
             std::uint32_t err = 0;
             const std::uint64_t before = allocations(handle);
-            record.destroy(handle, kId, clone(&err));
+            record.destroy(handle, id, clone(&err));
             const std::uint64_t total = allocations(handle) - before;
             ASSERT_GE(total, 1U);
             const std::size_t blocks = handle.live_blocks();

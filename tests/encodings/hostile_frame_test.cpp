@@ -11,7 +11,7 @@ void put_word(Bytes &frame, std::size_t at, std::uint32_t word) {
     for (std::size_t i = 0; i < 4; ++i) frame[at + i] = static_cast<std::uint8_t>(word >> (24 - 8 * i));
 }
 
-constexpr std::uint32_t kJumps[] = {0, 1, 3, 4, 5, 100, 0x7FFFFFF0, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
+constexpr std::uint32_t jumps[] = {0, 1, 3, 4, 5, 100, 0x7FFFFFF0, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
 
 TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
     for (const Tracking tracking : kit::every_tracking) {
@@ -19,7 +19,7 @@ TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
         for (const RecordTable &table : reference::records()) {
             const Record value = rich_value(table);
             Bytes frame = reference::encode(value, handle.tracks());
-            for (const std::uint32_t jump : kJumps) {
+            for (const std::uint32_t jump : jumps) {
                 put_word(frame, 2, jump);
                 const Instance instance(handle, table.name);
                 const Outcome outcome = read(handle, instance, frame);
@@ -37,7 +37,7 @@ TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
 TEST(HostileFrame, AJumpOfANestedFrameBehindTheEndLeavesNothingToRead) {
     const Handle handle(Tracking::on);
     const Record value = rich_value(reference::record_table("lumo_tarn_exmem_info_wrapper"));
-    for (const std::uint32_t jump : kJumps) {
+    for (const std::uint32_t jump : jumps) {
         Bytes frame = reference::encode(value, true);
         put_word(frame, 8, jump);
         const Instance instance(handle, value);
@@ -133,10 +133,10 @@ TEST(HostileFrame, WithoutAVectorStatesReadAs0AndWritesAreDropped) {
     const auto &array = bridge::member(instance.record(), "appl_list");
     std::uint32_t err = 0;
     std::uint8_t *vector = nullptr;
-    array.element_state_flag_get_arr(handle, kId, instance.get(), &vector, &err);
+    array.element_state_flag_get_arr(handle, id, instance.get(), &vector, &err);
     EXPECT_EQ(vector, nullptr);
-    array.element_state_flag_set(handle, kId, instance.get(), 1, 0x44, &err);
-    EXPECT_EQ(array.element_state_flag_get(handle, kId, instance.get(), 1, &err), 0);
+    array.element_state_flag_set(handle, id, instance.get(), 1, 0x44, &err);
+    EXPECT_EQ(array.element_state_flag_get(handle, id, instance.get(), 1, &err), 0);
     EXPECT_EQ(err, 0U);
     // They go out as zeros.
     EXPECT_TRUE(bridge::same(reference::encode(reference::as_received(value, false), true),
@@ -168,7 +168,7 @@ TEST(HostileFrame, CountsAreNotRefusedButCostTheCeiling) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle({.tracking = tracking, .request_ceiling = 65536, .total_ceiling = 1U << 20});
         for (const RecordTable &table : reference::records()) {
-            if (table.members[0].cls != reference::Class::kCount || table.members[0].width != 4) continue;
+            if (table.members[0].cls != reference::Class::count || table.members[0].width != 4) continue;
             Bytes frame = reference::encode(rich_value(table), handle.tracks());
             for (const std::uint32_t count : {0x10000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
                 put_word(frame, 6, count);

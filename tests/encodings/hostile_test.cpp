@@ -9,14 +9,14 @@ namespace {
 using namespace wire;
 
 // Low enough that a count from a frame costs little, high enough for what the values hold.
-constexpr std::uint64_t kRequestCeiling = 16384, kTotalCeiling = 131072;
+constexpr std::uint64_t request_ceiling = 16384, total_ceiling = 131072;
 
 struct Peer {
     Tracking tracking;
     std::uint32_t reuse;
 };
-constexpr Peer kPeers[] = {{Tracking::none, 0}, {Tracking::off, 0}, {Tracking::on, 0},
-                           {Tracking::none, 1}, {Tracking::off, 1}, {Tracking::on, 1}};
+constexpr Peer peers[] = {{Tracking::none, 0}, {Tracking::off, 0}, {Tracking::on, 0},
+                          {Tracking::none, 1}, {Tracking::off, 1}, {Tracking::on, 1}};
 
 // A record, a rich frame of it with and without states, and one to occupy an instance with.
 class HostileFrames : public testing::TestWithParam<const RecordTable *> {
@@ -50,8 +50,8 @@ protected:
         for (std::size_t i = 0; i < reads;) {
             Handle handle({.tracking = peer.tracking,
                            .private_types = i % 128 == 0,
-                           .request_ceiling = kRequestCeiling,
-                           .total_ceiling = kTotalCeiling});
+                           .request_ceiling = request_ceiling,
+                           .total_ceiling = total_ceiling});
             if (peer.reuse != 0) handle.allow_lost_blocks();
             for (std::size_t j = 0; j < reads_per_handle && i < reads; ++i, ++j) {
                 const Bytes bytes = next(i);
@@ -71,7 +71,7 @@ private:
 };
 
 TEST_P(HostileFrames, CutAtEveryByte) {
-    for (const Peer &peer : kPeers) {
+    for (const Peer &peer : peers) {
         for (const bool tracked : {false, true}) {
             // Frames without states take the same ways in fewer steps.
             if (!tracked && (peer.reuse != 0 || peer.tracking == Tracking::off)) continue;
@@ -125,11 +125,11 @@ Bytes mutate(const Bytes &from, Generator &random) {
 
 TEST_P(HostileFrames, TenThousandMutations) {
     constexpr std::size_t mutations_per_frame = 840;  // of two frames, to six kinds of peer
-    static_assert(mutations_per_frame * 2 * std::size(kPeers) >= 10000);
+    static_assert(mutations_per_frame * 2 * std::size(peers) >= 10000);
     Generator random(2024);
     for (const bool tracked : {false, true}) {
         const Bytes whole = frame(tracked);
-        for (const Peer &peer : kPeers) {
+        for (const Peer &peer : peers) {
             read_many(peer, mutations_per_frame, [&](std::size_t) { return mutate(whole, random); });
         }
     }

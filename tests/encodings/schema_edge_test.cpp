@@ -22,7 +22,7 @@ void expect_carried(const reference::Record &value) {
     bytes.push_back(0);
     const Instance received(h, record);
     std::uint32_t err = 0;
-    record.unmarshal(h, kId, bytes.data(), received.get(), static_cast<std::uint32_t>(frame.bytes.size()), 0, &err);
+    record.unmarshal(h, id, bytes.data(), received.get(), static_cast<std::uint32_t>(frame.bytes.size()), 0, &err);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(record.compare(instance.get(), received.get()), 0);
 
@@ -39,18 +39,18 @@ void expect_carried(const reference::Record &value) {
 void raise(reference::Record &value, std::size_t i) {
     reference::Member &member = value.members[i];
     switch (value.table->members[i].cls) {
-        case Class::kString:
+        case Class::string:
             member.text = "a";
             return;
-        case Class::kArray:
+        case Class::array:
             value.append(value.table->members[i].name);
             return;
-        case Class::kNested:
-        case Class::kAddress:
+        case Class::nested:
+        case Class::address:
             raise(member.items[0], 0);
             return;
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             raise(value, i + 1);
             return;
         default:
@@ -81,7 +81,7 @@ TEST(Schema, MembersDecideAnOrderInTableOrder) {
         std::vector<std::string> members;
         for (const reference::MemberTable &row : reference::record_table(record.record->name).members) {
             // A count and what it counts decide as one here.
-            if (row.cls != Class::kCount && row.cls != Class::kLength) members.push_back(row.name);
+            if (row.cls != Class::count && row.cls != Class::length) members.push_back(row.name);
         }
         expect_order(record.record->name, members);
     }
@@ -105,8 +105,8 @@ TEST(Schema, ARecordOfOneNestedMemberHasNothingToListAtOnce) {
     const Instance wrapper(h, value);
     auto *object = static_cast<lumo_tarn_exmem_info_wrapper *>(wrapper.get());
     std::uint32_t err = 0;
-    lumo_tarn_exmem_info_wrapper_get_all(h, kId, object, &err);
-    lumo_tarn_exmem_info_wrapper_set_all(h, kId, object, &err);
+    lumo_tarn_exmem_info_wrapper_get_all(h, id, object, &err);
+    lumo_tarn_exmem_info_wrapper_set_all(h, id, object, &err);
     EXPECT_EQ(err, 0u);
     EXPECT_TRUE(bridge::same(value, wrapper.value()));
 }
@@ -189,10 +189,10 @@ TEST(Schema, EmptyListsShowTheirCounts) {
         const std::string text = print(h, instance, "x", 0).text();
         const std::string xml = to_xml(h, instance, "x").text();
         for (const reference::MemberTable &row : table.members) {
-            if (row.cls == Class::kCount || row.cls == Class::kLength) {
+            if (row.cls == Class::count || row.cls == Class::length) {
                 EXPECT_NE(text.find("  " + row.name + "@" + row.type + ":0\n"), text.npos) << row.name;
                 EXPECT_NE(xml.find("<" + row.name + ">0</" + row.name + ">"), xml.npos) << row.name;
-            } else if (row.cls == Class::kArray) {
+            } else if (row.cls == Class::array) {
                 EXPECT_EQ(text.find("  " + row.name + "["), text.npos) << row.name;
                 EXPECT_EQ(xml.find("<" + row.name + ">"), xml.npos) << row.name;
             }
@@ -228,7 +228,7 @@ TEST(Schema, SizesOfTheDebugRecords) {
             reference::Record value("lumo_tarn_dp_debug_setting_data");
             for (std::uint32_t i = 0; i < n; ++i) value.append("lumo_data");
             const Instance data(h, value);
-            EXPECT_EQ(data.record().len(h, kId, data.get()), tracked ? 8 + 49 * n : 7 + 39 * n);
+            EXPECT_EQ(data.record().len(h, id, data.get()), tracked ? 8 + 49 * n : 7 + 39 * n);
             EXPECT_EQ(data.value().number(0), n);
         }
     }
@@ -240,18 +240,18 @@ TEST(Schema, AOneByteCountWrapsAt256) {
         for (const RecordOperations &record : tarn::reflect::records()) {
             const reference::RecordTable &table = reference::record_table(record.record->name);
             for (std::size_t i = 1; i < table.members.size(); ++i) {
-                if (table.members[i].cls != Class::kArray || table.members[i - 1].width != 1) continue;
+                if (table.members[i].cls != Class::array || table.members[i - 1].width != 1) continue;
                 SCOPED_TRACE(table.name + "." + table.members[i].name);
                 const Instance instance(h, record);
                 const Instance value(h, table.members[i].type);
                 std::uint32_t err = 0;
-                record.members[i].element_set(h, kId, instance.get(), 254, value.get(), &err);
+                record.members[i].element_set(h, id, instance.get(), 254, value.get(), &err);
                 EXPECT_EQ(err, 0u);
-                EXPECT_EQ(record.members[i - 1].get_value(h, kId, instance.get(), &err), 255u);
+                EXPECT_EQ(record.members[i - 1].get_value(h, id, instance.get(), &err), 255u);
                 const std::uint64_t before = mirk_platform_live_bytes(h);
-                record.members[i].element_set(h, kId, instance.get(), 255, value.get(), &err);
+                record.members[i].element_set(h, id, instance.get(), 255, value.get(), &err);
                 EXPECT_EQ(err, 0u);
-                EXPECT_EQ(record.members[i - 1].get_value(h, kId, instance.get(), &err), 0u);
+                EXPECT_EQ(record.members[i - 1].get_value(h, id, instance.get(), &err), 0u);
                 EXPECT_GT(mirk_platform_live_bytes(h), before);
             }
         }
@@ -264,8 +264,8 @@ TEST(Schema, NoTypeHoldsReferences) {
         const Instance instance(h, record);
         std::uint32_t err = 0;
         void *oids[1] = {&err};
-        EXPECT_EQ(record.get_oid_count(h, kId, instance.get(), &err), 0u);
-        record.get_object_references(h, kId, instance.get(), oids, 1, &err);
+        EXPECT_EQ(record.get_oid_count(h, id, instance.get(), &err), 0u);
+        record.get_object_references(h, id, instance.get(), oids, 1, &err);
         EXPECT_EQ(oids[0], &err);
         EXPECT_EQ(err, 0u);
     }
@@ -278,7 +278,7 @@ TEST(Schema, TheTwoCountsOfProcessorsAreIndependent) {
     const Instance info(h, value);
     std::uint32_t err = 0;
     const std::uint8_t number = 200;
-    lumo_tarn_global_info_num_lumos_set(h, kId, static_cast<lumo_tarn_global_info *>(info.get()), &number, &err);
+    lumo_tarn_global_info_num_lumos_set(h, id, static_cast<lumo_tarn_global_info *>(info.get()), &number, &err);
     EXPECT_EQ(err, 0u);
     value["num_lumos"].number = 200;
     EXPECT_TRUE(bridge::same(value, info.value()));
@@ -297,7 +297,7 @@ TEST(Schema, SettingAllWritesTheTotalAndNotTheCount) {
     value.append("prefix_data");
     const Instance data(h, value);
     std::uint32_t err = 0;
-    lumo_tarn_dp_mp_tc_prefix_data_set_all(h, kId, static_cast<lumo_tarn_dp_mp_tc_prefix_data *>(data.get()), 1, 50,
+    lumo_tarn_dp_mp_tc_prefix_data_set_all(h, id, static_cast<lumo_tarn_dp_mp_tc_prefix_data *>(data.get()), 1, 50,
                                            &err);
     EXPECT_EQ(err, 0u);
     value["show_header"].number = 1;
@@ -313,7 +313,7 @@ TEST(Schema, AStringsLengthIsCutToItsLow16Bits) {
             if (member.text_set == nullptr) continue;
             const Instance instance(h, record);
             std::uint32_t err = 0;
-            member.text_set(h, kId, instance.get(), text.data(), static_cast<std::uint32_t>(text.size()), &err);
+            member.text_set(h, id, instance.get(), text.data(), static_cast<std::uint32_t>(text.size()), &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(instance.value()[std::string(member.member->name)].text, "nnnnn") << record.record->name;
             EXPECT_EQ(member.text_set_cr(h, instance.get(), text.data(), 65536), 0u);

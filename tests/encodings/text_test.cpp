@@ -97,7 +97,7 @@ TEST(Text, AnErrorOnEntryIsKeptAndNothingWritten) {
     h->last_error = 5;
     const Written written = write(200, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
         *err = 22;
-        return exmem.record().print(h, kId, buffer, 4, "exmem", exmem.get(), room, err);
+        return exmem.record().print(h, id, buffer, 4, "exmem", exmem.get(), room, err);
     });
     EXPECT_EQ(written.result, 0u);
     EXPECT_EQ(written.err, 22u);
@@ -145,7 +145,7 @@ TEST(Text, ABufferThatIsTooSmallIsToldAndNeverPassed) {
         for (std::size_t room = 0; room <= whole.size() + 1; ++room) {
             std::fill(area.begin(), area.end(), blank);
             std::uint32_t err = 0;
-            const std::uint32_t result = instance.record().print(h, kId, area.data(), 0, value.table->name.c_str(),
+            const std::uint32_t result = instance.record().print(h, id, area.data(), 0, value.table->name.c_str(),
                                                                  instance.get(), static_cast<std::int32_t>(room), &err);
             ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
             ASSERT_LE(result, room);
@@ -155,7 +155,7 @@ TEST(Text, ABufferThatIsTooSmallIsToldAndNeverPassed) {
         }
         for (const std::int32_t room : {-1, -2147483647}) {
             std::uint32_t err = 0;
-            EXPECT_EQ(instance.record().print(h, kId, area.data(), 0, "x", instance.get(), room, &err), 0u);
+            EXPECT_EQ(instance.record().print(h, id, area.data(), 0, "x", instance.get(), room, &err), 0u);
             EXPECT_NE(err, 0u);
         }
         std::fill(area.begin(), area.end(), blank);
@@ -177,7 +177,7 @@ TEST(Text, ACountBesideNoBlockPrintsNoElements) {
     const Instance list(h, operations("lumo_tarn_dp_tc_list"));
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);
     std::uint32_t err = 0;
-    list.record().unmarshal(h, kId, frame.data(), list.get(), static_cast<std::uint32_t>(frame.size() - 1), 0, &err);
+    list.record().unmarshal(h, id, frame.data(), list.get(), static_cast<std::uint32_t>(frame.size() - 1), 0, &err);
     EXPECT_EQ(err, 12u);
     EXPECT_EQ(print(h, list, "tcs", 0).text(), "tcs@lumo_tarn_dp_tc_list: {\n  num_tcs@u_int32:2\n}\n");
 }
@@ -187,9 +187,9 @@ TEST(Text, ALengthBesideNoBodyPrintsNoCharacters) {
     const Instance appl(h, operations("lumo_tarn_cl_kesh_appl"));
     auto *object = static_cast<lumo_tarn_cl_kesh_appl *>(appl.get());
     std::uint32_t err = 0;
-    lumo_tarn_cl_kesh_appl_proto_name_set(h, kId, object, "tcp", 3, &err);
+    lumo_tarn_cl_kesh_appl_proto_name_set(h, id, object, "tcp", 3, &err);
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);
-    lumo_tarn_cl_kesh_appl_proto_name_set(h, kId, object, "sctp", 4, &err);
+    lumo_tarn_cl_kesh_appl_proto_name_set(h, id, object, "sctp", 4, &err);
     EXPECT_EQ(err, 12u);
     const Written written = print(h, appl, "a", 0);
     EXPECT_EQ(written.err, 0u);

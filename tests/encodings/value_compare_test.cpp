@@ -175,7 +175,7 @@ TEST(Compare, ABlockThatCouldNotBeHadCountsAsNoElements) {
     const Instance hollow(h, "lumo_tarn_dp_tc_list");
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);
     std::uint32_t err = 0;
-    hollow.record().unmarshal(h, kId, frame.data(), hollow.get(), size, 0, &err);
+    hollow.record().unmarshal(h, id, frame.data(), hollow.get(), size, 0, &err);
     EXPECT_EQ(err, 12u);
     EXPECT_EQ(whole.record().compare(whole.get(), hollow.get()), 0);
     const std::uint32_t one = 1;

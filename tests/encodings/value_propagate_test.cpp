@@ -7,7 +7,7 @@ using namespace forms;
 using reference::Class;
 
 std::uint32_t walk(const Handle &h, const Instance &instance) {
-    return instance.record().type_type_backpropagate(h, kId, instance.get(), nullptr);
+    return instance.record().type_type_backpropagate(h, id, instance.get(), nullptr);
 }
 
 void mark(void *object) { mirk_set_instance_modified(object, 1, 0, 1); }
@@ -42,11 +42,11 @@ TEST(Propagate, OneCallClearsOneMark) {
         std::uint32_t err = 0;
         for (std::size_t i = 0; i < table.members.size(); ++i) {
             const Class cls = table.members[i].cls;
-            if (cls == Class::kArray || cls == Class::kString) continue;
-            void *member = record.members[i].get(h, kId, instance.get(), &err);
+            if (cls == Class::array || cls == Class::string) continue;
+            void *member = record.members[i].get(h, id, instance.get(), &err);
             ASSERT_NE(member, nullptr);
             ++marks;
-            if (cls == Class::kInteger || cls == Class::kCount || cls == Class::kLength) {
+            if (cls == Class::integer || cls == Class::count || cls == Class::length) {
                 ASSERT_EQ(mirk_platform_testing_mark_integer(h, member, 1), 0u);
                 continue;
             }
@@ -70,8 +70,8 @@ TEST(Propagate, TheFirstMarkInTableOrderGoesFirst) {
     auto *object = static_cast<lumo_tarn_dp_intf_data *>(intf.get());
     std::uint32_t err = 0;
     auto *deep = lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_get(
-        h, kId, lumo_tarn_dp_intf_data_in_lumo_wexa_get(h, kId, object, &err), &err);
-    auto *last = lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get(h, kId, object, &err);
+        h, id, lumo_tarn_dp_intf_data_in_lumo_wexa_get(h, id, object, &err), &err);
+    auto *last = lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get(h, id, object, &err);
     mark(deep);
     mark(last);
     EXPECT_EQ(walk(h, intf), 1u);
@@ -90,8 +90,8 @@ TEST(Propagate, AnElementsMarkIsNotSeenByTheOwnerOfTheArray) {
     mirk_set_instance_modified(data.get(), 1, 0, 0);
     std::uint32_t err = 0;
     auto *element = lumo_tarn_dp_debug_setting_data_lumo_data_get(
-        h, kId, static_cast<lumo_tarn_dp_debug_setting_data *>(data.get()), 0, &err);
-    lumo_tarn_dp_debug_setting_ager_enabled_set_value(h, kId, element, 1, &err);
+        h, id, static_cast<lumo_tarn_dp_debug_setting_data *>(data.get()), 0, &err);
+    lumo_tarn_dp_debug_setting_ager_enabled_set_value(h, id, element, 1, &err);
     EXPECT_TRUE(marked(element));
     EXPECT_EQ(walk(h, data), 0u);
     EXPECT_TRUE(marked(element));
@@ -102,7 +102,7 @@ TEST(Propagate, SettersLeaveAMarkThatIsFound) {
     const Instance info(h, "lumo_tarn_lumo_info");
     auto *object = static_cast<lumo_tarn_lumo_info *>(info.get());
     std::uint32_t err = 0;
-    lumo_tarn_lumo_info_ha_state_set_value(h, kId, object, 3, &err);
+    lumo_tarn_lumo_info_ha_state_set_value(h, id, object, 3, &err);
     EXPECT_EQ(err, 0u);
     // The record's mark and that of the enumeration are found by the same walk.
     EXPECT_EQ(walk(h, info), 1u);
@@ -123,7 +123,7 @@ TEST(Propagate, NullIsTracedAndHasNoMark) {
     for (const RecordOperations &record : tarn::reflect::records()) {
         const Instance any(h, record);  // so that the trace module is known
         const Trace trace;
-        EXPECT_EQ(record.type_type_backpropagate(h, kId, nullptr, nullptr), 0u);
+        EXPECT_EQ(record.type_type_backpropagate(h, id, nullptr, nullptr), 0u);
         EXPECT_EQ(trace.lines(),
                   Lines{"type 6 (info): backpropagate: Null pointer to " + std::string(record.record->name) + " type"});
     }

@@ -14,22 +14,22 @@ inline int reference_order(const reference::Record &a, const reference::Record &
         const reference::Member &y = b.members[i];
         int order = 0;
         switch (a.table->members[i].cls) {
-            case Class::kBoolean:
+            case Class::boolean:
                 order = numbers(x.number != 0, y.number != 0);
                 break;
-            case Class::kEnumeration: {
+            case Class::enumeration: {
                 // By the distance as a signed number, which is an order for enumerators but not for any 32-bit number.
                 const auto distance = static_cast<std::int32_t>(static_cast<std::uint32_t>(x.number - y.number));
                 order = distance < 0 ? -1 : distance > 0 ? 1 : 0;
                 break;
             }
-            case Class::kString:
+            case Class::string:
                 order = x.text.compare(y.text);
                 order = order < 0 ? -1 : order > 0 ? 1 : 0;
                 break;
-            case Class::kArray:
-            case Class::kNested:
-            case Class::kAddress:
+            case Class::array:
+            case Class::nested:
+            case Class::address:
                 for (std::size_t k = 0; k < x.items.size() && order == 0; ++k)
                     order = reference_order(x.items[k], y.items[k]);
                 break;
@@ -58,20 +58,20 @@ inline std::uint32_t member_hash(const reference::Record &owner, std::size_t i, 
     using reference::Class;
     const reference::Member &member = owner.members[i];
     switch (owner.table->members[i].cls) {
-        case Class::kInteger:
-        case Class::kCount:
-        case Class::kLength:
+        case Class::integer:
+        case Class::count:
+        case Class::length:
             return integer_hash(owner.table->members[i].width, owner.number(i), seed);
-        case Class::kBoolean: {
+        case Class::boolean: {
             mirk_boolean boolean{};
             boolean.value = static_cast<std::uint8_t>(member.number);
             return mirk_boolean_hash(&boolean, seed);
         }
-        case Class::kEnumeration: {
+        case Class::enumeration: {
             const auto number = static_cast<std::uint32_t>(member.number);
             return SuperFastHash(&number, sizeof number, seed);
         }
-        case Class::kAddress: {
+        case Class::address: {
             const reference::Address from = reference::get_address(member.items[0]);
             ip_address address{};
             address.af = from.af;
@@ -80,13 +80,13 @@ inline std::uint32_t member_hash(const reference::Record &owner, std::size_t i, 
             std::memcpy(address.word, from.word.data(), sizeof address.word);
             return ip_address_hash(&address, seed);
         }
-        case Class::kNested:
+        case Class::nested:
             return reference_hash(member.items[0], seed);
-        case Class::kString:
+        case Class::string:
             // The number in front of it a second time, then the characters.
             seed = member_hash(owner, i - 1, seed);
             return SuperFastHash(member.text.data(), static_cast<std::uint32_t>(member.text.size()), seed);
-        case Class::kArray:
+        case Class::array:
             seed = member_hash(owner, i - 1, seed);
             for (const reference::Record &item : member.items) seed = reference_hash(item, seed);
             return seed;
@@ -106,23 +106,23 @@ inline void change(reference::Record &value, reference::Generator &random) {
     const reference::MemberTable &row = value.table->members[i];
     reference::Member &member = value.members[i];
     switch (row.cls) {
-        case Class::kInteger:
+        case Class::integer:
             member.number ^= std::uint64_t{1} << random.below(8 * row.width);
             return;
-        case Class::kBoolean:
+        case Class::boolean:
             member.number = member.number == 0 ? 1 : 0;
             return;
-        case Class::kEnumeration:
+        case Class::enumeration:
             member.number = (member.number + 1) % reference::enumeration_table(row.type).enumerators.size();
             return;
-        case Class::kString:
+        case Class::string:
             if (member.text.empty() || random.below(2) == 0) {
                 member.text += static_cast<char>('a' + random.below(26));
             } else {
                 member.text[random.below(member.text.size())] = static_cast<char>(1 + random.below(255));
             }
             return;
-        case Class::kArray:
+        case Class::array:
             if (member.items.empty() || random.below(4) == 0) {
                 member.items.emplace_back(row.element());
                 member.element_state.push_back(0);
@@ -130,12 +130,12 @@ inline void change(reference::Record &value, reference::Generator &random) {
                 change(member.items[random.below(member.items.size())], random);
             }
             return;
-        case Class::kNested:
-        case Class::kAddress:
+        case Class::nested:
+        case Class::address:
             change(member.items[0], random);
             return;
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             // Follows from what stands behind it.
             return;
     }

@@ -16,8 +16,8 @@
 
 namespace forms {
 
+using bridge::id;
 using bridge::Instance;
-using bridge::kId;
 using bridge::operations;
 using bridge::RecordOperations;
 using kit::Document;
@@ -80,12 +80,12 @@ Written write(std::size_t room, Operation &&operation) {
 
 inline Written print(const Handle &h, const Instance &instance, std::string_view name, std::uint32_t indent) {
     return write(ample, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
-        return instance.record().print(h, kId, buffer, indent, std::string(name).c_str(), instance.get(), room, err);
+        return instance.record().print(h, id, buffer, indent, std::string(name).c_str(), instance.get(), room, err);
     });
 }
 inline Written to_xml(const Handle &h, const Instance &instance, std::string_view name, std::uint8_t state = 0) {
     return write(ample, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
-        return instance.record().to_xml(h, kId, std::string(name).c_str(), buffer, instance.get(), room, state, err);
+        return instance.record().to_xml(h, id, std::string(name).c_str(), buffer, instance.get(), room, state, err);
     });
 }
 
@@ -95,7 +95,7 @@ inline std::uint32_t read_document(const Handle &h, const Instance &instance, co
     std::uint32_t err = 0;
     char message[300] = "";
     const std::string path = "//" + std::string(instance.record().record->name);
-    instance.record().from_xml(h, kId, path.c_str(), document, instance.get(), &err, message, sizeof message);
+    instance.record().from_xml(h, id, path.c_str(), document, instance.get(), &err, message, sizeof message);
     EXPECT_STREQ(message, "");
     return err;
 }

@@ -31,8 +31,8 @@ TEST(WireBlocks, AnEmptyArrayIsItsCountAlone) {
             const Bytes frame = bridge::marshal(handle, instance.record(), instance.get()).bytes;
             EXPECT_TRUE(bridge::same(reference::encode(value, handle.tracks()), frame));
             // The length counts one byte more for each empty array or string of a tracked frame.
-            EXPECT_EQ(instance.record().len(handle, kId, instance.get()), reference::length(value, handle.tracks()));
-            EXPECT_EQ(instance.record().len(handle, kId, instance.get()) > frame.size(),
+            EXPECT_EQ(instance.record().len(handle, id, instance.get()), reference::length(value, handle.tracks()));
+            EXPECT_EQ(instance.record().len(handle, id, instance.get()) > frame.size(),
                       handle.tracks() && bridge::owns_blocks(table));
         }
     }
@@ -51,7 +51,7 @@ TEST(WireBlocks, AStringIsLengthCharactersAndOneState) {
     const Instance instance(handle, value);
     const Bytes expected = {0, 8, 0, 0, 0, 18, 0, 3, 'a', 'b', 'c', 0x51, 0, 0, 1, 2, 0x53, 3, 4, 0x54};
     EXPECT_TRUE(bridge::same(expected, bridge::marshal(handle, instance.record(), instance.get()).bytes));
-    EXPECT_EQ(instance.record().len(handle, kId, instance.get()), 24U);
+    EXPECT_EQ(instance.record().len(handle, id, instance.get()), 24U);
 }
 
 TEST(WireBlocks, AStringThatDoesNotFitIsCut) {
@@ -144,7 +144,7 @@ TEST(WireBlocks, NothingIsReadIntoNothing) {
         for (const auto &record : tarn::reflect::records()) {
             std::uint8_t frame[7] = {0, 0, 0, 0, 0, 4, 0};
             std::uint32_t err = 0;
-            EXPECT_EQ(record.unmarshal(handle, kId, frame, nullptr, 6, 0, &err), 0U);
+            EXPECT_EQ(record.unmarshal(handle, id, frame, nullptr, 6, 0, &err), 0U);
             EXPECT_EQ(err, 22U);
             EXPECT_EQ(handle->last_error, 22U);
             handle->last_error = 0;
@@ -232,7 +232,7 @@ TEST(WireBlocks, ACountOrLengthBesideNothingIsWrittenAlone) {
     mirk_platform_testing_fail_allocation(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 0, 0);
     EXPECT_TRUE(
         bridge::same(Bytes{0, 8, 0, 0, 0, 8, 0, 0, 0, 3}, bridge::marshal(handle, list.record(), list.get()).bytes));
-    EXPECT_EQ(list.record().len(handle, kId, list.get()), 11U);
+    EXPECT_EQ(list.record().len(handle, id, list.get()), 11U);
     EXPECT_TRUE(bridge::same(Bytes{0, 8, 0, 0, 0, 14, 0, 3, 0, 0, 0, 0, 0, 0, 0, 0},
                              bridge::marshal(handle, appl.record(), appl.get()).bytes));
 }
@@ -241,7 +241,7 @@ TEST(WireBlocks, ACountOrLengthBesideNothingIsWrittenAlone) {
 TEST(WireBlocks, AFilledStateAreaGoesOutAsItsByte) {
     Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(2));
-    instance.record().set_all_state_tracking_flag(handle, kId, instance.get(), 0x21);
+    instance.record().set_all_state_tracking_flag(handle, id, instance.get(), 0x21);
     const Bytes frame = bridge::marshal(handle, instance.record(), instance.get()).bytes;
     EXPECT_EQ(Bytes(frame.end() - 3, frame.end()), (Bytes{0x21, 0x21, 0x21}));
     handle.expect_lost_blocks(1);  // the vector
@@ -267,7 +267,7 @@ Cost cost_of(Tracking tracking, std::uint32_t elements) {
     const Record element = rich_value(reference::record_table("lumo_tarn_dp_appl"));
     const Bytes one = reference::encode(element, handle.tracks());
     const auto count_byte = [&](unsigned shift) { return static_cast<std::uint8_t>(elements >> shift); };
-    const std::uint8_t flag = handle.tracks() ? kTracked : 0;
+    const std::uint8_t flag = handle.tracks() ? tracked_flag : 0;
     Bytes frame = {0, flag, 0, 0, 0, 0, count_byte(24), count_byte(16), count_byte(8), count_byte(0)};
     for (std::uint32_t i = 0; i < elements; ++i) frame.insert(frame.end(), one.begin(), one.end());
     if (handle.tracks()) frame.insert(frame.end(), 1 + elements, 0x11);
@@ -279,10 +279,10 @@ Cost cost_of(Tracking tracking, std::uint32_t elements) {
     const Instance instance(handle, "lumo_tarn_dp_appl_list");
     std::uint32_t err = 0;
     mirk_platform_testing_set_hook(handle, Calls::hook, &cost.reading);
-    instance.record().unmarshal(handle, kId, frame.data(), instance.get(), jump + 2, 0, &err);
+    instance.record().unmarshal(handle, id, frame.data(), instance.get(), jump + 2, 0, &err);
     Bytes again(frame.size());
     mirk_platform_testing_set_hook(handle, Calls::hook, &cost.writing);
-    instance.record().marshal(handle, kId, again.data(), instance.get(), static_cast<std::int32_t>(jump + 2), &err);
+    instance.record().marshal(handle, id, again.data(), instance.get(), static_cast<std::int32_t>(jump + 2), &err);
     mirk_platform_testing_set_hook(handle, nullptr, nullptr);
     EXPECT_EQ(err, 0U);
     EXPECT_TRUE(bridge::same(frame, again));

@@ -49,7 +49,7 @@ TEST(WireProperties, LengthsAreThoseOfTheReference) {
         for_each_value(2, [&](const Record &value) {
             const Instance instance(handle, value);
             const std::uint32_t length = reference::length(value, handle.tracks());
-            EXPECT_EQ(instance.record().len(handle, kId, instance.get()), length);
+            EXPECT_EQ(instance.record().len(handle, id, instance.get()), length);
             EXPECT_EQ(instance.record().len_cr(handle, instance.get()), length);
         });
     }
@@ -68,7 +68,7 @@ TEST(WireProperties, AFrameReadIntoAFreshInstanceGivesTheValue) {
                 EXPECT_EQ(outcome.error, 0U);
                 EXPECT_TRUE(
                     bridge::same(reference::as_received(value, handle.tracks() && sender_tracks), instance.value()));
-                EXPECT_EQ((instance.header()->obj_flag & kTracked) != 0, handle.tracks());
+                EXPECT_EQ((instance.header()->obj_flag & tracked_flag) != 0, handle.tracks());
             }
         });
     }
@@ -113,7 +113,7 @@ void expect_round_trip(mirk_handle *h, bool tracked, const Record &value) {
     const Bytes frame = reference::encode(value, tracked);
     const Instance instance(h, value);
     EXPECT_TRUE(bridge::same(frame, bridge::marshal(h, instance.record(), instance.get()).bytes));
-    EXPECT_EQ(instance.record().len(h, kId, instance.get()), reference::length(value, tracked));
+    EXPECT_EQ(instance.record().len(h, id, instance.get()), reference::length(value, tracked));
     const Instance target(h, value.table->name);
     EXPECT_EQ(read(h, target, frame).consumed, frame.size());
     EXPECT_TRUE(bridge::same(reference::as_received(value, tracked), target.value()));
@@ -124,7 +124,7 @@ TEST(WireProperties, OneByteCountsAtTheirLimits) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             for (const reference::MemberTable &row : table.members) {
-                if (row.cls != reference::Class::kArray || table.member(row.counted_by).width != 1) continue;
+                if (row.cls != reference::Class::array || table.member(row.counted_by).width != 1) continue;
                 for (const int count : {0, 1, 254, 255}) {
                     SCOPED_TRACE(table.name + "." + row.name + " of " + std::to_string(count));
                     Record value(table);
@@ -145,7 +145,7 @@ TEST(WireProperties, StringsUpToTheirLimit) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             for (const reference::MemberTable &row : table.members) {
-                if (row.cls != reference::Class::kString) continue;
+                if (row.cls != reference::Class::string) continue;
                 for (const std::size_t length : {0U, 1U, 255U, 256U, 65534U, 65535U}) {
                     SCOPED_TRACE(table.name + "." + row.name + " of " + std::to_string(length));
                     Record value(table);

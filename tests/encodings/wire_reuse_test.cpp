@@ -33,7 +33,7 @@ void *string_of(const Instance &instance) { return bridge::block_of(instance.rec
 std::uint8_t *vector_of(mirk_handle *h, const Instance &instance) {
     std::uint8_t *vector = nullptr;
     std::uint32_t err = 0;
-    bridge::member(instance.record(), "tc_list").element_state_flag_get_arr(h, kId, instance.get(), &vector, &err);
+    bridge::member(instance.record(), "tc_list").element_state_flag_get_arr(h, id, instance.get(), &vector, &err);
     EXPECT_EQ(err, 0U);
     return vector;
 }
@@ -209,7 +209,7 @@ TEST(WireReuse, AFilledStateAreaHasNoVectorToRelease) {
     for (const std::size_t count : {2U, 3U, 4U}) {
         Handle handle(Tracking::on);
         const Instance instance(handle, tc_list(3));
-        instance.record().set_all_state_tracking_flag(handle, kId, instance.get(), 0x21);
+        instance.record().set_all_state_tracking_flag(handle, id, instance.get(), 0x21);
         const Bytes frame = reference::encode(tc_list(count, 6), true);
         expect_good(read(handle, instance, frame, 1), frame);
         EXPECT_TRUE(bridge::same(tc_list(count, 6), instance.value()));

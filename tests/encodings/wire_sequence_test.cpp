@@ -14,17 +14,17 @@ using Lines = std::vector<std::string>;
 using observing::Tracking;
 using tarn::reflect::RecordOperations;
 
-constexpr std::uint32_t kId = 7;
+constexpr std::uint32_t id = 7;
 
 // A frame with a byte of slack, and an instance, both known by name.
 class Wire {
 public:
     Wire(std::string_view record, Tracking tracking)
         : handle({.tracking = tracking}), record_(*tarn::reflect::find_record(record)) {
-        instance = record_.create(handle, kId);
+        instance = record_.create(handle, id);
         forget();
     }
-    ~Wire() { record_.destroy(handle, kId, instance); }
+    ~Wire() { record_.destroy(handle, id, instance); }
     Wire(const Wire &) = delete;
     Wire &operator=(const Wire &) = delete;
 
@@ -36,30 +36,30 @@ public:
     }
     std::uint32_t write(std::int32_t size = 4000) {
         err = 0;
-        return record_.marshal(handle, kId, buffer.data(), instance, size, &err);
+        return record_.marshal(handle, id, buffer.data(), instance, size, &err);
     }
     std::uint32_t read(std::uint32_t length, std::uint32_t reuse) {
         err = 0;
-        return record_.unmarshal(handle, kId, buffer.data(), instance, length, reuse, &err);
+        return record_.unmarshal(handle, id, buffer.data(), instance, length, reuse, &err);
     }
     // The frame of an array of so many elements, in the buffer; the instance has none.
     std::uint32_t frame_of(std::uint32_t elements) {
-        void *source = record_.create(handle, kId);
+        void *source = record_.create(handle, id);
         const auto &array = record_.members[1];
         const RecordOperations &of = tarn::reflect::operations_of(*array.member->record);
-        void *element = of.create(handle, kId);
+        void *element = of.create(handle, id);
         err = 0;
-        array.element_set(handle, kId, source, elements - 1, element, &err);
-        const std::uint32_t size = record_.marshal(handle, kId, buffer.data(), source, 4000, &err);
-        of.destroy(handle, kId, element);
-        record_.destroy(handle, kId, source);
+        array.element_set(handle, id, source, elements - 1, element, &err);
+        const std::uint32_t size = record_.marshal(handle, id, buffer.data(), source, 4000, &err);
+        of.destroy(handle, id, element);
+        record_.destroy(handle, id, source);
         EXPECT_EQ(err, 0U);
         forget();
         return size;
     }
     void text(std::size_t member, const char *value) {
         err = 0;
-        record_.members[member].text_set(handle, kId, instance, value, static_cast<std::uint32_t>(strlen(value)), &err);
+        record_.members[member].text_set(handle, id, instance, value, static_cast<std::uint32_t>(strlen(value)), &err);
     }
     const RecordOperations &record() const { return record_; }
 
@@ -252,7 +252,7 @@ TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
                      "mirklib_get_ra_data", "_mirk_instance_ra_data_marshal", "_mirk_variant_jump_marshal",
                      "u_int32_marshal", "u_int32_marshal", "u_int64_marshal", "_mirk_variant_jump_marshal"}));
     // The length knows nothing of them.
-    EXPECT_EQ(size, w.record().len(w.handle, kId, w.instance) + observing::ra_wire_size);
+    EXPECT_EQ(size, w.record().len(w.handle, id, w.instance) + observing::ra_wire_size);
     w.forget();
     EXPECT_EQ(w.read(size, 0), size);
     EXPECT_EQ(functions(),
@@ -292,7 +292,7 @@ TEST(WireSequence, TheLengthOfElementsOfOneSizeIsAskedOnce) {
         Wire w(record, Tracking::off);
         w.read(w.frame_of(elements), 0);
         w.forget();
-        w.record().len(w.handle, kId, w.instance);
+        w.record().len(w.handle, id, w.instance);
         return observing::lines().size();
     };
     EXPECT_EQ(questions("lumo_tarn_dp_debug_setting_data", 3), questions("lumo_tarn_dp_debug_setting_data", 1));

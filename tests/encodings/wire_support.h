@@ -13,8 +13,8 @@
 
 namespace wire {
 
+using bridge::id;
 using bridge::Instance;
-using bridge::kId;
 using kit::GuardedMemory;
 using kit::Handle;
 using kit::Lines;
@@ -27,11 +27,11 @@ using reference::GeneratorOptions;
 using reference::Record;
 using reference::RecordTable;
 
-inline constexpr std::uint8_t kTracked = 8, kRaData = 32, kOffset = 64;
-inline constexpr std::size_t kMostBytes = std::size_t{1} << 20;
+inline constexpr std::uint8_t tracked_flag = 8, ra_data_flag = 32, offset_flag = 64;
+inline constexpr std::size_t most_bytes = std::size_t{1} << 20;
 
 inline GuardedMemory &guarded_input() {
-    static GuardedMemory memory(kMostBytes);
+    static GuardedMemory memory(most_bytes);
     return memory;
 }
 
@@ -44,8 +44,8 @@ inline Outcome read(mirk_handle *h, const Instance &into, const Bytes &frame, st
                     std::uint8_t slack = 0xEE) {
     Outcome outcome;
     std::uint8_t *at = guarded_input().put(frame.data(), frame.size(), slack);
-    outcome.consumed = into.record().unmarshal(h, kId, at, into.get(), static_cast<std::uint32_t>(frame.size()), reuse,
-                                               &outcome.error);
+    outcome.consumed =
+        into.record().unmarshal(h, id, at, into.get(), static_cast<std::uint32_t>(frame.size()), reuse, &outcome.error);
     return outcome;
 }
 
@@ -56,12 +56,12 @@ struct Written {
     std::uint8_t slack = 0;
 };
 inline Written write(mirk_handle *h, const Instance &from, std::size_t size, bool for_clone = false) {
-    static GuardedMemory memory(kMostBytes);
+    static GuardedMemory memory(most_bytes);
     std::uint8_t *at = memory.room(size);
     std::memset(at, 0xA5, size + 1);
     Written written;
     const auto operation = for_clone ? from.record().marshal_for_clone : from.record().marshal;
-    written.size = operation(h, kId, at, from.get(), static_cast<std::int32_t>(size), &written.error);
+    written.size = operation(h, id, at, from.get(), static_cast<std::int32_t>(size), &written.error);
     written.buffer.assign(at, at + size);
     written.slack = at[size];
     return written;

@@ -9,10 +9,10 @@ namespace {
 
 using namespace wire;
 
-constexpr const char *kFlat = "lumo_tarn_exmem_info";  // four integers; 34 bytes, or 38 with their states
+constexpr const char *flat = "lumo_tarn_exmem_info";  // four integers; 34 bytes, or 38 with their states
 
 Record flat_value() {
-    Record value(kFlat);
+    Record value(flat);
     const char *names[] = {"cl_addr", "exmem_addr", "ppe_addr", "size"};
     std::uint8_t n = 1;
     for (const char *name : names) {
@@ -39,9 +39,9 @@ TEST(Wire, WithoutABodyAFrameIsItsHeader) {
         for (const RecordTable &table : reference::records()) {
             const Instance instance(handle, table.name);
             instance.header()->variant = -3;
-            EXPECT_EQ(instance.record().len(handle, kId, instance.get()), 6U);
+            EXPECT_EQ(instance.record().len(handle, id, instance.get()), 6U);
             const bridge::Marshalled frame = bridge::marshal(handle, instance.record(), instance.get());
-            const std::uint8_t flag = handle.tracks() ? kTracked : 0;
+            const std::uint8_t flag = handle.tracks() ? tracked_flag : 0;
             EXPECT_TRUE(bridge::same(Bytes{0xFD, flag, 0, 0, 0, 4}, frame.bytes)) << table.name;
         }
     }
@@ -52,7 +52,7 @@ TEST(Wire, AnInstanceWithoutStateGoesOutWithZeros) {
     for (const RecordTable &table : reference::records()) {
         const Record value = rich_value(table);
         const Instance instance(handle, value);
-        instance.header()->obj_flag &= static_cast<std::uint8_t>(~kTracked);
+        instance.header()->obj_flag &= static_cast<std::uint8_t>(~tracked_flag);
         // Embedded records and elements have their own flags, and keep their states.
         Record expected = value;
         for (reference::Member &member : expected.members) {
@@ -61,7 +61,7 @@ TEST(Wire, AnInstanceWithoutStateGoesOutWithZeros) {
         }
         EXPECT_TRUE(bridge::same(reference::encode(expected, true),
                                  bridge::marshal(handle, instance.record(), instance.get()).bytes));
-        instance.header()->obj_flag |= kTracked;
+        instance.header()->obj_flag |= tracked_flag;
     }
 }
 
@@ -80,7 +80,7 @@ TEST(Wire, TheLastStateByteMayStandInTheByteOfSlack) {
     // A reader of those bytes neither takes the state from behind the end nor steps over it.
     const Instance target(handle, flat_value());
     std::uint32_t err = 0;
-    bridge::member(target.record(), "size").state_flag_set(handle, kId, target.get(), 0x77, &err);
+    bridge::member(target.record(), "size").state_flag_set(handle, id, target.get(), 0x77, &err);
     const Outcome outcome = read(handle, target, written.buffer);
     EXPECT_EQ(outcome.consumed, 37U);
     EXPECT_EQ(outcome.error, 0U);
@@ -130,7 +130,7 @@ TEST(Wire, AShorterBodyIsNotNoticed) {
     const Handle handle(Tracking::none);
     Bytes frame = reference::encode(flat_value(), false);
     put_jump(frame, 4);
-    const Instance instance(handle, kFlat);
+    const Instance instance(handle, flat);
     EXPECT_EQ(read(handle, instance, frame).consumed, frame.size());
     EXPECT_TRUE(bridge::same(reference::as_received(flat_value(), false), instance.value()));
 }
@@ -153,7 +153,7 @@ TEST(Wire, AVariantAbove0IsReadAndWrittenAs0) {
 
 TEST(Wire, AReadAnnouncesNothingOfAFlatRecord) {
     const Handle handle(Tracking::on);
-    const Instance instance(handle, kFlat);
+    const Instance instance(handle, flat);
     std::vector<mirk_platform_testing_event_kind> seen;
     mirk_platform_testing_set_hook(
         handle,
@@ -169,7 +169,7 @@ TEST(Wire, AReadAnnouncesNothingOfAFlatRecord) {
 TEST(Wire, AReadNamesTheTypeOnceMore) {
     for (const bool private_types : {false, true}) {
         const Handle handle({.private_types = private_types});
-        const Instance instance(handle, kFlat);
+        const Instance instance(handle, flat);
         mirk_type_info *type = instance.header()->tinfo;
         EXPECT_EQ(type == instance.record().type, !private_types);
         instance.header()->tinfo = nullptr;
@@ -219,11 +219,11 @@ TEST(Wire, OnlyTwoBitsOfAFlagSayWhatFollows) {
 
 TEST(Wire, TheFlagOnTheWireHoldsTwoBitsOnly) {
     const Handle handle(Tracking::off);
-    const Instance instance(handle, kFlat);
+    const Instance instance(handle, flat);
     instance.header()->obj_flag = 0xFF & ~1;
     const Written written = write(handle, instance, 64);
     instance.header()->obj_flag = 0;
-    EXPECT_EQ(written.buffer[1], kRaData);
+    EXPECT_EQ(written.buffer[1], ra_data_flag);
 }
 
 TEST(Wire, RaDataThatCannotBeHadReplaceTheError) {
@@ -273,9 +273,9 @@ TEST(Wire, UnderASetErrorNothingIsDone) {
             [](void *user, mirk_handle *, const mirk_platform_testing_event *) { ++*static_cast<std::size_t *>(user); },
             &events);
         std::uint32_t err = 5;
-        EXPECT_EQ(instance.record().marshal(handle, kId, buffer, instance.get(), 16, &err), 0U);
-        EXPECT_EQ(instance.record().marshal_for_clone(handle, kId, buffer, instance.get(), 16, &err), 0U);
-        EXPECT_EQ(instance.record().unmarshal(handle, kId, buffer, instance.get(), 16, 0, &err), 0U);
+        EXPECT_EQ(instance.record().marshal(handle, id, buffer, instance.get(), 16, &err), 0U);
+        EXPECT_EQ(instance.record().marshal_for_clone(handle, id, buffer, instance.get(), 16, &err), 0U);
+        EXPECT_EQ(instance.record().unmarshal(handle, id, buffer, instance.get(), 16, 0, &err), 0U);
         handle->last_error = 6;
         EXPECT_EQ(instance.record().len_cr(handle, instance.get()), 0U);
         EXPECT_EQ(handle->last_error, 6U);
@@ -293,11 +293,11 @@ TEST(Wire, NoRoomAndNoBytesAreWantOfMemory) {
         std::uint8_t buffer[2] = {0x5A, 0x5A};
         for (const std::int32_t size : {0, -1, INT32_MIN}) {
             std::uint32_t err = 0;
-            EXPECT_EQ(instance.record().marshal(handle, kId, buffer, instance.get(), size, &err), 0U);
+            EXPECT_EQ(instance.record().marshal(handle, id, buffer, instance.get(), size, &err), 0U);
             EXPECT_EQ(err, 12U);
             EXPECT_EQ(handle->last_error, 12U);
             err = handle->last_error = 0;
-            EXPECT_EQ(instance.record().unmarshal(handle, kId, buffer, instance.get(), static_cast<std::uint32_t>(size),
+            EXPECT_EQ(instance.record().unmarshal(handle, id, buffer, instance.get(), static_cast<std::uint32_t>(size),
                                                   0, &err),
                       0U);
             EXPECT_EQ(err, 12U);
@@ -331,7 +331,7 @@ TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
             const bridge::RecordOperations &record = bridge::operations(table.name);
-            EXPECT_EQ(record.len(handle, kId, nullptr), reference::length_of_null(table)) << table.name;
+            EXPECT_EQ(record.len(handle, id, nullptr), reference::length_of_null(table)) << table.name;
             EXPECT_EQ(record.len_cr(handle, nullptr), reference::length_of_null(table)) << table.name;
         }
     }
@@ -344,7 +344,7 @@ TEST(Wire, OfANullInstanceNoMemberCanBeWritten) {
             const Instance nothing(handle, bridge::operations(table.name), nullptr);
             const Written written = write(handle, nothing, 4096);
             EXPECT_EQ(written.error, 22U) << table.name;
-            EXPECT_EQ(written.buffer[1], handle.tracks() ? kTracked : 0);
+            EXPECT_EQ(written.buffer[1], handle.tracks() ? tracked_flag : 0);
         }
     }
 }
@@ -367,23 +367,23 @@ TEST_P(WireDeathTest, ACorruptModeIsTheEnd) {
     std::uint32_t err = 0;
     handle->sttr_desc->sttr_mode = 0x1234;
     const std::string told = fatal("Corrupted MIRK Handle");
-    EXPECT_DEATH(instance.record().len(handle, kId, instance.get()), told);
-    EXPECT_DEATH(instance.record().marshal(handle, kId, buffer.data(), instance.get(), 8000, &err), told);
-    EXPECT_DEATH(instance.record().unmarshal(handle, kId, buffer.data(), instance.get(), 8000, 0, &err), told);
+    EXPECT_DEATH(instance.record().len(handle, id, instance.get()), told);
+    EXPECT_DEATH(instance.record().marshal(handle, id, buffer.data(), instance.get(), 8000, &err), told);
+    EXPECT_DEATH(instance.record().unmarshal(handle, id, buffer.data(), instance.get(), 8000, 0, &err), told);
     handle->sttr_desc->sttr_mode = 0xEEEE;
 }
 
 TEST_P(WireDeathTest, ATargetWithoutStateOnATrackingHandleIsTheEnd) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, GetParam()->name);
-    instance.header()->obj_flag &= static_cast<std::uint8_t>(~kTracked);
+    instance.header()->obj_flag &= static_cast<std::uint8_t>(~tracked_flag);
     EXPECT_DEATH(read(handle, instance, Bytes{0, 0, 0, 0, 0, 4}),
                  fatal("MIRK handle and object state tracking mis-match"));
-    instance.header()->obj_flag |= kTracked;
+    instance.header()->obj_flag |= tracked_flag;
 }
 
 INSTANTIATE_TEST_SUITE_P(SomeRecords, WireDeathTest,
-                         testing::Values(&reference::record_table(kFlat),
+                         testing::Values(&reference::record_table(flat),
                                          &reference::record_table("lumo_tarn_dp_tc_list"),
                                          &reference::record_table("lumo_tarn_cl_kesh_appl")),
                          name_of);

@@ -16,30 +16,30 @@ reference::Record as_read(const reference::Record &value, bool tracked) {
         const reference::Member &from = value.members[i];
         reference::Member &to = result.members[i];
         switch (value.table->members[i].cls) {
-            case Class::kInteger:
-            case Class::kEnumeration:
+            case Class::integer:
+            case Class::enumeration:
                 to.number = from.number;
                 break;
-            case Class::kBoolean:
+            case Class::boolean:
                 to.number = from.number != 0 ? 1 : 0;
                 break;
-            case Class::kAddress:
+            case Class::address:
                 reference::set_address(to.items[0], reference::get_address(from.items[0]));
                 break;
-            case Class::kNested:
+            case Class::nested:
                 to.items[0] = as_read(from.items[0], tracked);
                 break;
-            case Class::kString:
+            case Class::string:
                 to.text = from.text;
                 if (tracked && !to.text.empty()) to.state = 2;
                 break;
-            case Class::kArray:
+            case Class::array:
                 for (const reference::Record &item : from.items) to.items.push_back(as_read(item, tracked));
                 to.element_state.assign(to.items.size(), tracked ? std::uint8_t{2} : std::uint8_t{0});
                 if (tracked && !to.items.empty()) to.state = 2;
                 break;
-            case Class::kCount:
-            case Class::kLength:
+            case Class::count:
+            case Class::length:
                 break;
         }
     }
@@ -62,7 +62,7 @@ void make_presentable(reference::Record &value, bool replace) {
     for (std::size_t i = 0; i < value.members.size(); ++i) {
         const reference::MemberTable &row = value.table->members[i];
         reference::Member &member = value.members[i];
-        if (row.cls == Class::kEnumeration) member.number %= reference::enumeration_table(row.type).enumerators.size();
+        if (row.cls == Class::enumeration) member.number %= reference::enumeration_table(row.type).enumerators.size();
         if (replace) member.text = unescaped(reference::string_xml(member.text));
         for (reference::Record &item : member.items) make_presentable(item, replace);
     }
@@ -114,13 +114,13 @@ public:
         text += "<" + std::string(name) + ">";
         for (std::size_t i = 0; i < value.members.size(); ++i) {
             const reference::MemberTable &row = table.members[i];
-            if (row.cls == Class::kCount || row.cls == Class::kLength) {
+            if (row.cls == Class::count || row.cls == Class::length) {
                 // Not read, so that any content will do.
                 if (random_.below(2) == 0) text += "<" + row.name + ">no number</" + row.name + ">";
                 continue;
             }
             const bool absent = random_.below(3) == 0;
-            if (row.cls == Class::kString) {
+            if (row.cls == Class::string) {
                 pending = absent;
                 if (absent) continue;
                 string(value.members[i], row, read.members[i]);
@@ -142,20 +142,20 @@ private:
 
     void member(const reference::Member &from, const reference::MemberTable &row, bool skipped, reference::Member &to) {
         reference::Member read = to;
-        if (row.cls == Class::kArray) {
+        if (row.cls == Class::array) {
             for (const reference::Record &item : from.items) {
                 read.items.push_back(element(item, row.name));
                 read.element_state.push_back(tracked_ ? std::uint8_t{2} : std::uint8_t{0});
             }
             if (tracked_ && !read.items.empty()) read.state = 2;
-        } else if (row.cls == Class::kNested) {
+        } else if (row.cls == Class::nested) {
             read.items[0] = element(from.items[0], row.name);
         } else {
             text += "<" + row.name + ">";
-            if (row.cls == Class::kAddress) {
+            if (row.cls == Class::address) {
                 text += reference::address_text(reference::get_address(from.items[0]));
                 reference::set_address(read.items[0], reference::get_address(from.items[0]));
-            } else if (row.cls == Class::kEnumeration) {
+            } else if (row.cls == Class::enumeration) {
                 text += "<" + reference::enumeration_table(row.type).enumerators[from.number] + "/>";
                 read.number = from.number;
             } else {
@@ -194,7 +194,7 @@ TEST(XmlReading, ValuesGoInWithoutChangeMarks) {
     EXPECT_EQ(read_members(h, wexa, "<lumo_num>3</lumo_num><in_wexa_is_valid>true</in_wexa_is_valid>"), 0u);
     EXPECT_EQ(wexa.value().number(0), 3u);
     EXPECT_EQ(mirk_get_instance_modified(wexa.get(), 1, 0), 0u);
-    EXPECT_EQ(wexa.record().type_type_backpropagate(h, kId, wexa.get(), nullptr), 0u);
+    EXPECT_EQ(wexa.record().type_type_backpropagate(h, id, wexa.get(), nullptr), 0u);
 }
 
 // Every failing allocation in turn: the read ends with 12, nothing is lost, and the instance can be destroyed.

@@ -13,7 +13,7 @@ TEST(XmlRules, AMissingRecordIsError2) {
         const Instance instance(h, value);
         const Document document("<other/>");
         std::uint32_t err = 0;
-        record.from_xml(h, kId, "//missing", document, instance.get(), &err, nullptr, 0);
+        record.from_xml(h, id, "//missing", document, instance.get(), &err, nullptr, 0);
         EXPECT_EQ(err, 2u) << record.record->name;
         EXPECT_EQ(h->last_error, 2u);
         EXPECT_TRUE(bridge::same(value, instance.value()));
@@ -26,7 +26,7 @@ TEST(XmlRules, APathThatIsNoneIsAMissingRecord) {
     const Document document("<x><size>1</size></x>");
     for (void *of : {static_cast<void *>(document), static_cast<void *>(nullptr)}) {
         std::uint32_t err = 0;
-        exmem.record().from_xml(h, kId, of == nullptr ? "//x" : "//[", of, exmem.get(), &err, nullptr, 0);
+        exmem.record().from_xml(h, id, of == nullptr ? "//x" : "//[", of, exmem.get(), &err, nullptr, 0);
         EXPECT_EQ(err, 2u);
     }
     EXPECT_EQ(exmem.value()["size"].number, 0u);
@@ -39,7 +39,7 @@ TEST(XmlRules, AnErrorOnEntryIsKept) {
     h->last_error = 5;
     for (const std::uint32_t number : {2u, 22u}) {
         std::uint32_t err = number;
-        exmem.record().from_xml(h, kId, "//x", document, exmem.get(), &err, nullptr, 0);
+        exmem.record().from_xml(h, id, "//x", document, exmem.get(), &err, nullptr, 0);
         EXPECT_EQ(err, number);
     }
     EXPECT_EQ(h->last_error, 5u);
@@ -192,7 +192,7 @@ TEST(XmlRules, AStringThatCannotBeLookedUpEndsTheReadAtTheNextScalar) {
     const std::string root(252, 'a');
     const Document document("<" + root + "><proto_name>tcp</proto_name><tarn_id>1</tarn_id></" + root + ">");
     std::uint32_t err = 0;
-    appl.record().from_xml(h, kId, ("//" + root).c_str(), document, appl.get(), &err, nullptr, 0);
+    appl.record().from_xml(h, id, ("//" + root).c_str(), document, appl.get(), &err, nullptr, 0);
     EXPECT_EQ(err, 22u);
     EXPECT_EQ(h->last_error, 22u);
     EXPECT_TRUE(bridge::same(reference::Record("lumo_tarn_cl_kesh_appl"), appl.value()));
@@ -208,7 +208,7 @@ TEST(XmlRules, APathOfMoreThan255CharactersIsCutAndFindsNothing) {
     const Document document("<" + root + "><cl_addr>1</cl_addr><exmem_addr>2</exmem_addr><exmem_a>5</exmem_a>" +
                             "<ppe_addr>3</ppe_addr><size>4</size></" + root + ">");
     std::uint32_t err = 0;
-    exmem.record().from_xml(h, kId, ("//" + root).c_str(), document, exmem.get(), &err, nullptr, 0);
+    exmem.record().from_xml(h, id, ("//" + root).c_str(), document, exmem.get(), &err, nullptr, 0);
     EXPECT_EQ(err, 0u);
     value["cl_addr"].number = 1;
     value["exmem_addr"].number = 5;

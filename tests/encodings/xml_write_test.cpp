@@ -43,16 +43,16 @@ TEST(XmlWriting, ARecordWithoutABodyIsAnEmptyElement) {
 TEST(XmlWriting, CountsAndLengthsShowNoState) {
     const Handle h(Tracking::on);
     const Instance list(h, "lumo_tarn_cl_appl_data");
-    list.record().set_all_state_tracking_flag(h, kId, list.get(), 7);
+    list.record().set_all_state_tracking_flag(h, id, list.get(), 7);
     std::uint32_t err = 0;
     EXPECT_EQ(to_xml(h, list, "x").text(),
               "<x><show_header state=\"7\">false</show_header><num_kesh_appls>0</num_kesh_appls></x>");
 
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
     auto *object = static_cast<lumo_tarn_cl_kesh_appl *>(appl.get());
-    lumo_tarn_cl_kesh_appl_proto_name_set(h, kId, object, "tcp", 3, &err);
-    lumo_tarn_cl_kesh_appl_proto_name_state_flag_set(h, kId, object, 5, &err);
-    lumo_tarn_cl_kesh_appl_tarn_id_state_flag_set(h, kId, object, 255, &err);
+    lumo_tarn_cl_kesh_appl_proto_name_set(h, id, object, "tcp", 3, &err);
+    lumo_tarn_cl_kesh_appl_proto_name_state_flag_set(h, id, object, 5, &err);
+    lumo_tarn_cl_kesh_appl_tarn_id_state_flag_set(h, id, object, 255, &err);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(to_xml(h, appl, "x").text(),
               "<x><proto_name_len>3</proto_name_len><proto_name state=\"5\">tcp</proto_name>"
@@ -75,11 +75,11 @@ TEST(XmlWriting, ElementsShowTheirOwnStateAndNestedRecordsThatOfTheMember) {
 TEST(XmlWriting, AnEnumerationNeverShowsAState) {
     const Handle h(Tracking::on);
     const Instance mem(h, "lumo_tarn_static_exmem_info");
-    mem.record().set_all_state_tracking_flag(h, kId, mem.get(), 9);
+    mem.record().set_all_state_tracking_flag(h, id, mem.get(), 9);
     const std::string text = to_xml(h, mem, "x").text();
     EXPECT_NE(text.find("<LUMO_TARN_MP_MEM/>"), std::string::npos);
     for (const auto &row : reference::record_table("lumo_tarn_static_exmem_info").members) {
-        const bool enumeration = row.cls == reference::Class::kEnumeration;
+        const bool enumeration = row.cls == reference::Class::enumeration;
         EXPECT_NE(text.find("<" + row.name + (enumeration ? ">" : " state=\"9\">")), std::string::npos) << row.name;
     }
 }
@@ -90,7 +90,7 @@ TEST(XmlWriting, AnErrorOnEntryIsKeptAndNothingWritten) {
     h->last_error = 5;
     const Written written = write(300, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
         *err = 2;
-        return exmem.record().to_xml(h, kId, "x", buffer, exmem.get(), room, 1, err);
+        return exmem.record().to_xml(h, id, "x", buffer, exmem.get(), room, 1, err);
     });
     EXPECT_EQ(written.result, 0u);
     EXPECT_EQ(written.err, 2u);
@@ -151,7 +151,7 @@ TEST(XmlWriting, ABufferThatIsTooSmallIsToldAndNeverPassed) {
             for (std::size_t room = 0; room <= whole.size() + 1; ++room) {
                 std::fill(area.begin(), area.end(), blank);
                 std::uint32_t err = 0;
-                const std::uint32_t result = instance.record().to_xml(h, kId, "root", area.data(), instance.get(),
+                const std::uint32_t result = instance.record().to_xml(h, id, "root", area.data(), instance.get(),
                                                                       static_cast<std::int32_t>(room), 3, &err);
                 ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
                 ASSERT_LE(result, room);
@@ -161,7 +161,7 @@ TEST(XmlWriting, ABufferThatIsTooSmallIsToldAndNeverPassed) {
             }
             for (const std::int32_t room : {-1, -2147483647}) {
                 std::uint32_t err = 0;
-                EXPECT_EQ(instance.record().to_xml(h, kId, "x", area.data(), instance.get(), room, 0, &err), 0u);
+                EXPECT_EQ(instance.record().to_xml(h, id, "x", area.data(), instance.get(), room, 0, &err), 0u);
                 EXPECT_NE(err, 0u);
             }
             std::fill(area.begin(), area.end(), blank);

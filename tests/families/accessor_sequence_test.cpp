@@ -128,7 +128,7 @@ TEST_F(AccessorSequence, OfStatesOfAMappedObject) {
     EXPECT_EQ(lines_of([&] { r.set_all_state_tracking_flag(h, id, object, 5); }), Lines{});
     EXPECT_EQ(bytes(object)[table(r).base], 5);
     r.set_all_state_tracking_flag(h, id, object, 0);
-    header(object)->obj_flag &= static_cast<uint8_t>(~mapped);
+    header(object)->obj_flag &= static_cast<std::uint8_t>(~mapped);
     r.destroy(h, id, object);
 }
 
@@ -166,9 +166,9 @@ TEST_F(AccessorSequence, OfTheWholeRecordAccessors) {
     each_record([&](const RecordOperations &r) {
         forget();
         void *object = make_object(h, r);
-        uint64_t numbers[64];
+        std::uint64_t numbers[64];
         void *out[64];
-        for (size_t i = 0; i < 64; ++i) {
+        for (std::size_t i = 0; i < 64; ++i) {
             numbers[i] = 1;
             out[i] = &numbers[i];
         }

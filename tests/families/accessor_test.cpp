@@ -7,23 +7,23 @@ using namespace families;
 
 namespace {
 
-uint64_t mask(const MemberOperations &m) {
+std::uint64_t mask(const MemberOperations &m) {
     return m.member->kind == Kind::boolean       ? 0xFF
            : m.member->kind == Kind::enumeration ? 0xFFFFFFFF
-           : width(m) == 8                       ? ~uint64_t{0}
-                                                 : (uint64_t{1} << (8 * width(m))) - 1;
+           : width(m) == 8                       ? ~std::uint64_t{0}
+                                                 : (std::uint64_t{1} << (8 * width(m))) - 1;
 }
-uint64_t sample(const MemberOperations &m) { return is_value_kind(m) ? 1 : 0xFEDCBA9876543210U & mask(m); }
-uint64_t stored(const RecordOperations &r, void *object, const MemberOperations &m) {
-    const uint8_t *place = bytes(at(r, object, m));
+std::uint64_t sample(const MemberOperations &m) { return is_value_kind(m) ? 1 : 0xFEDCBA9876543210U & mask(m); }
+std::uint64_t stored(const RecordOperations &r, void *object, const MemberOperations &m) {
+    const std::uint8_t *place = bytes(at(r, object, m));
     if (m.member->kind == Kind::boolean) return place[11];
-    if (m.member->kind == Kind::enumeration) return read<uint32_t>(place + 12);
-    uint64_t value = 0;
+    if (m.member->kind == Kind::enumeration) return read<std::uint32_t>(place + 12);
+    std::uint64_t value = 0;
     std::memcpy(&value, place, width(m));
     return value;
 }
 bool has_state_byte(const MemberOperations &m) { return m.member->role == Role::value; }
-uint8_t *state(const RecordOperations &r, void *object, const MemberOperations &m) {
+std::uint8_t *state(const RecordOperations &r, void *object, const MemberOperations &m) {
     return area(r, object) + place(r, m).slot;
 }
 bool modified(void *object) { return mirk_get_instance_modified(object, 1, 0) != 0; }
@@ -35,7 +35,7 @@ TEST(Accessors, GetGivesTheMembersOwnPlace) {
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.get == nullptr) return;
             void *object = r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             EXPECT_EQ(m.get(h, id, object, &err), at(r, object, m));
             EXPECT_EQ(err, 0u);
             r.destroy(h, id, object);
@@ -49,8 +49,8 @@ TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set_value == nullptr) return;
             void *object = r.create(h, id);
-            std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).base);
-            uint32_t err = 0;
+            std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).base);
+            std::uint32_t err = 0;
             m.set_value(h, id, object, sample(m), &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(m.get_value(h, id, object, &err), sample(m));
@@ -58,7 +58,7 @@ TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
             EXPECT_TRUE(modified(object));
             // Nothing beside the member has changed, apart from the modified mark.
             unmark(object);
-            const uint32_t start = offset(r, m), end = start + place(r, m).size;
+            const std::uint32_t start = offset(r, m), end = start + place(r, m).size;
             EXPECT_EQ(std::memcmp(object, before.data(), start), 0);
             EXPECT_EQ(std::memcmp(bytes(object) + end, before.data() + end, before.size() - end), 0);
             r.destroy(h, id, object);
@@ -72,7 +72,7 @@ TEST(Accessors, AValueIsSetFromASource) {
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set == nullptr) return;
             void *source = filled(h, r, 11), *object = r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             m.set(h, id, object, at(r, source, m), &err);
             EXPECT_EQ(err, 0u);
             if (is_scalar(m)) {
@@ -100,10 +100,10 @@ TEST(Accessors, ASetterLeavesStateTwoInItsOwnByteAlone) {
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         m.set_value(h, id, object, sample(m), &err);
         EXPECT_EQ(err, 0u);
-        for (uint32_t slot = 0; slot < table(r).state; ++slot) {
+        for (std::uint32_t slot = 0; slot < table(r).state; ++slot) {
             EXPECT_EQ(area(r, object)[slot], slot == place(r, m).slot ? 2 : 0) << slot;
         }
         r.destroy(h, id, object);
@@ -118,14 +118,14 @@ TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
             return;
         }
         void *object = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         m.state_flag_set(h, id, object, 0xC7, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
         header(object)->obj_flag |= mapped;  // has to do with references alone
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
-        header(object)->obj_flag &= static_cast<uint8_t>(~mapped);
-        for (uint32_t slot = 0; slot < table(r).state; ++slot) {
+        header(object)->obj_flag &= static_cast<std::uint8_t>(~mapped);
+        for (std::uint32_t slot = 0; slot < table(r).state; ++slot) {
             EXPECT_EQ(area(r, object)[slot], slot == place(r, m).slot ? 0xC7 : 0) << slot;
         }
         EXPECT_TRUE(modified(object));
@@ -139,13 +139,13 @@ TEST(Accessors, StateIsRefusedWithoutTrackingAndWithoutALine) {
         if (m.state_flag_get == nullptr) return;
         void *object = r.create(h, id);
         Trace trace;
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         err = 0;
         m.state_flag_set(h, id, object, 1, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), Lines{});
         EXPECT_FALSE(modified(object));
         r.destroy(h, id, object);
@@ -157,7 +157,7 @@ TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
         void *object = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         *state(r, object, m) = 9;
         mirk_platform_handle_set_tracking(h, MIRK_PLATFORM_TRACKING_NONE);
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 9);
@@ -172,10 +172,10 @@ TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
         object = r.create(none, id);
         Trace trace;
         EXPECT_EQ(m.state_flag_get(none, id, object, &err), 0);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         err = 0;
         m.state_flag_set(none, id, object, 1, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is non state tracked",
                                         "type 3 (ERR): The object is not state tracked"}));
         r.destroy(none, id, object);
@@ -188,7 +188,7 @@ TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
         if (m.set == nullptr && m.text_set == nullptr) return;
         void *source = filled(h, r, 11), *object = r.create(h, id);
         mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Trace trace;
         if (m.set_value != nullptr) {
             m.set_value(h, id, object, sample(m), &err);
@@ -200,8 +200,8 @@ TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
             m.set(h, id, object, at(r, source, m), &err);
         }
         if (m.member->kind != Kind::record) {
-            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
             EXPECT_FALSE(trace.lines().empty());
             EXPECT_EQ(trace.lines().back(), "type 3 (ERR): The object is not state tracked");
             EXPECT_FALSE(modified(object));
@@ -209,7 +209,7 @@ TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
         if (m.set_value != nullptr) {
             err = 0;
             m.set(h, id, object, at(r, source, m), &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
             EXPECT_EQ(stored(r, object, m), stored(r, source, m));
         }
         mirk_platform_testing_set_sttr_mode(h, 0xDDDD);
@@ -223,34 +223,35 @@ TEST(Accessors, ANegativeVariantRefusesEveryMember) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id), *source = r.create(h, id);
-        const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
+        const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
         h.set_variant(*r.type, -1);
         header(object)->variant = -1;
         for (const MemberOperations &m : r.members) {
             SCOPED_TRACE(name(m));
             const auto refused = [&](auto &&operation) {
-                uint32_t err = 0;
+                std::uint32_t err = 0;
                 operation(&err);
-                EXPECT_EQ(err, static_cast<uint32_t>(EIDRM));
-                EXPECT_EQ(h->last_error, static_cast<uint32_t>(EIDRM));
+                EXPECT_EQ(err, static_cast<std::uint32_t>(EIDRM));
+                EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EIDRM));
             };
-            if (m.get != nullptr) refused([&](uint32_t *e) { EXPECT_EQ(m.get(h, id, object, e), nullptr); });
-            if (m.get_value != nullptr) refused([&](uint32_t *e) { EXPECT_EQ(m.get_value(h, id, object, e), 0u); });
-            if (m.set != nullptr) refused([&](uint32_t *e) { m.set(h, id, object, at(r, source, m), e); });
-            if (m.set_value != nullptr) refused([&](uint32_t *e) { m.set_value(h, id, object, 1, e); });
-            if (m.state_flag_set != nullptr) refused([&](uint32_t *e) { m.state_flag_set(h, id, object, 1, e); });
-            if (m.text_set != nullptr) refused([&](uint32_t *e) { m.text_set(h, id, object, "a", 1, e); });
+            if (m.get != nullptr) refused([&](std::uint32_t *e) { EXPECT_EQ(m.get(h, id, object, e), nullptr); });
+            if (m.get_value != nullptr)
+                refused([&](std::uint32_t *e) { EXPECT_EQ(m.get_value(h, id, object, e), 0u); });
+            if (m.set != nullptr) refused([&](std::uint32_t *e) { m.set(h, id, object, at(r, source, m), e); });
+            if (m.set_value != nullptr) refused([&](std::uint32_t *e) { m.set_value(h, id, object, 1, e); });
+            if (m.state_flag_set != nullptr) refused([&](std::uint32_t *e) { m.state_flag_set(h, id, object, 1, e); });
+            if (m.text_set != nullptr) refused([&](std::uint32_t *e) { m.text_set(h, id, object, "a", 1, e); });
             char text[4];
-            if (m.text_get != nullptr) refused([&](uint32_t *e) { m.text_get(h, id, object, text, 4, e); });
+            if (m.text_get != nullptr) refused([&](std::uint32_t *e) { m.text_get(h, id, object, text, 4, e); });
             if (m.element_get == nullptr) continue;
-            refused([&](uint32_t *e) { EXPECT_EQ(m.element_get(h, id, object, 0, e), nullptr); });
-            refused([&](uint32_t *e) { m.element_set(h, id, object, 0, source, e); });
-            refused([&](uint32_t *e) { m.element_state_flag_set(h, id, object, 0, 1, e); });
-            refused([&](uint32_t *e) { m.element_state_flag_set_arr(h, id, object, nullptr, 0, e); });
+            refused([&](std::uint32_t *e) { EXPECT_EQ(m.element_get(h, id, object, 0, e), nullptr); });
+            refused([&](std::uint32_t *e) { m.element_set(h, id, object, 0, source, e); });
+            refused([&](std::uint32_t *e) { m.element_state_flag_set(h, id, object, 0, 1, e); });
+            refused([&](std::uint32_t *e) { m.element_state_flag_set_arr(h, id, object, nullptr, 0, e); });
         }
         // Reading state asks for no variant.
         for (const MemberOperations &m : r.members) {
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             if (m.state_flag_get != nullptr) m.state_flag_get(h, id, object, &err);
             EXPECT_EQ(err, 0u);
         }
@@ -268,7 +269,7 @@ TEST(Accessors, AWriteBringsTheObjectToTheDomainsVariantFirst) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);
         header(object)->variant = -5;  // from a frame, say
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         m.set_value(h, id, object, sample(m), &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(header(object)->variant, 0);
@@ -284,7 +285,7 @@ TEST(Accessors, UnderTheLenientPolicyTheGateRefusesWithoutAnError) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);
         h.set_variant(*r.type, -1);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         m.set_value(h, id, object, sample(m), &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(m.get(h, id, object, &err), nullptr);
@@ -298,7 +299,7 @@ TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &, const MemberOperations &m) {
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             if (m.get != nullptr) {
                 EXPECT_EQ(m.get(h, id, nullptr, &err), nullptr);
             }
@@ -312,17 +313,17 @@ TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
             Trace trace;
             if (m.set_value != nullptr) {
                 m.set_value(h, id, nullptr, 1, &err);
-                EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
-                EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOENT));
+                EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
+                EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOENT));
                 EXPECT_EQ(trace.lines(), Lines{});
             }
             if (m.state_flag_get == nullptr) return;
             err = 0;
             EXPECT_EQ(m.state_flag_get(h, id, nullptr, &err), 0);
-            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
             err = 0;
             m.state_flag_set(h, id, nullptr, 1, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
             EXPECT_EQ(trace.lines(), mode == Tracking::off ? Lines{}
                                                            : (Lines{"type 3 (ERR): The object is non state tracked",
                                                                     "type 3 (ERR): The object is not state tracked"}));
@@ -342,9 +343,9 @@ TEST(Accessors, ARefusedEnumerationValueStillCountsAsWritten) {
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.member->kind != Kind::enumeration) return;
         void *object = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         m.set_value(h, id, object, 4711, &err);  // no enumerator
-        EXPECT_EQ(err, static_cast<uint32_t>(EIDRM));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIDRM));
         EXPECT_EQ(*state(r, object, m), 2);
         EXPECT_TRUE(modified(object));
         EXPECT_EQ(stored(r, object, m), 0u);

@@ -10,9 +10,9 @@ namespace {
 // Makes, fills and destroys under failing allocations until a run meets no failure any more.
 void sweep(const Handle &h, const std::function<void()> &run) {
     for (bool onwards : {false, true}) {
-        for (uint64_t nth = 1;; ++nth) {
+        for (std::uint64_t nth = 1;; ++nth) {
             SCOPED_TRACE(std::to_string(nth) + (onwards ? " onwards" : " alone"));
-            const uint64_t before = h.allocs();
+            const std::uint64_t before = h.allocs();
             h.fail_alloc(nth, onwards);
             run();
             h.fail_alloc(0);
@@ -26,14 +26,14 @@ TEST(Allocation, CreatingAndSettingSurvivesEachFailure) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
-            uint64_t failures = 0;
+            std::uint64_t failures = 0;
             sweep(h, [&] {
                 void *object = r.create(h, id);
                 if (object == nullptr) {
                     ++failures;
                     return;
                 }
-                const uint32_t err = fill(h, r, object, 3, {2, 2, true});
+                const std::uint32_t err = fill(h, r, object, 3, {2, 2, true});
                 EXPECT_TRUE(err == 0 || err == ENOMEM || (err == EINVAL && mode != Tracking::on)) << err;
                 if (err == ENOMEM) ++failures;
                 content(h, r, object);
@@ -78,8 +78,8 @@ TEST(Allocation, AssignmentNeedsNone) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *source = filled(h, r, 3), *destination = r.create(h, id);
-        const uint64_t before = h.allocs();
-        uint32_t err = 0;
+        const std::uint64_t before = h.allocs();
+        std::uint32_t err = 0;
         r.set(h, id, destination, source, &err);
         EXPECT_EQ(h.allocs(), before);
         r.destroy(h, id, source);

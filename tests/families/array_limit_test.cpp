@@ -13,14 +13,14 @@ TEST(Arrays, AOneByteCountWraps) {
         each_array([&](const ArraySubject &s) {
             if (width(s.count) != 1) return;
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {0, 0, false});
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             s.m.element_set(h, id, object, 254, value, &err);
             EXPECT_EQ(count(h, s, object), 255u);
             s.m.element_set(h, id, object, 255, value, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(count(h, s, object), 0u);
             EXPECT_EQ(s.m.element_get(h, id, object, 0, &err), nullptr);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
             err = 0;
             s.m.element_set(h, id, object, 257, value, &err);
             EXPECT_EQ(err, 0u);
@@ -41,11 +41,11 @@ TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = s.e.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             Events events(h);
             s.m.element_set(h, id, object, 0xFFFFFFFF, value, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, (uint64_t{1} << 32) * s.e.sizeof_(h));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
+            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, (std::uint64_t{1} << 32) * s.e.sizeof_(h));
             EXPECT_EQ(count(h, s, object), 0u);
             s.r.destroy(h, id, object);
             s.e.destroy(h, id, value);
@@ -60,11 +60,11 @@ TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
             put(h, s, object, 1, 5);
             const Lines before = content(h, s.r, object), kept = content(h, s.e, value);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             h.fail_alloc(1);
             s.m.element_set(h, id, object, 4, value, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
             EXPECT_EQ(content(h, s.r, object), before);
             EXPECT_EQ(content(h, s.e, value), kept);
             EXPECT_EQ(count(h, s, object), 2u);
@@ -80,15 +80,15 @@ TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
         put(h, s, object, 1, 5);
-        const size_t leaked = h.live_blocks();
-        uint32_t err = 0;
+        const std::size_t leaked = h.live_blocks();
+        std::uint32_t err = 0;
         h.fail_alloc(2);
         s.m.element_set(h, id, object, 4, value, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
         EXPECT_EQ(h.live_blocks(), leaked);
         EXPECT_EQ(count(h, s, object), 5u);
         err = 0;
-        uint8_t *states = bytes(object);
+        std::uint8_t *states = bytes(object);
         s.m.element_state_flag_get_arr(h, id, object, &states, &err);
         EXPECT_EQ(states, nullptr);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0);
@@ -112,9 +112,9 @@ TEST(Arrays, ANullBlockBesideACountCountsNothing) {
         each_array([&](const ArraySubject &s) {
             void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
             std::memset(at(s.r, object, s.count), 0x07, width(s.count));
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             EXPECT_EQ(s.m.element_get(h, id, object, 0, &err), nullptr);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
             err = 0;
             s.r.set_all_state_tracking_flag(h, id, object, 0);
             s.m.element_set(h, id, object, 1, value, &err);
@@ -131,10 +131,10 @@ TEST(Arrays, ABlockBesideACountOfZeroIsReleasedUnvisited) {
     Handle h;
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         s.m.element_set(h, id, object, 1, nullptr, &err);
         std::memset(at(s.r, object, s.count), 0, width(s.count));
-        const uint64_t destroyed = entry(*s.e.type).num_destroyed;
+        const std::uint64_t destroyed = entry(*s.e.type).num_destroyed;
         s.r.destroy(h, id, object);
         EXPECT_EQ(entry(*s.e.type).num_destroyed, destroyed);
         EXPECT_EQ(h.live_blocks(), 0u);

@@ -36,17 +36,19 @@ protected:
         const MemberOperations &counter = s.r.members[index_of(s.r, s.m) - 1];
         return "write_notify " + plus("object", offset(s.r, counter)) + " " + std::to_string(width(counter));
     }
-    static std::string state_place(const Subject &s, uint32_t slot) { return plus("object", table(s.r).base + slot); }
-    static Spot element(const Subject &s, const std::string &region, uint32_t n, uint32_t k) {
+    static std::string state_place(const Subject &s, std::uint32_t slot) {
+        return plus("object", table(s.r).base + slot);
+    }
+    static Spot element(const Subject &s, const std::string &region, std::uint32_t n, std::uint32_t k) {
         return {region, k * table(s.e).base, n * table(s.e).base + k * table(s.e).state};
     }
     static std::string update(const Spot &spot) {
         return "mirklib_update_sttr_offset " + spot.text() + " " + std::to_string(spot.area - spot.at);
     }
-    static Lines fresh(const Subject &s, const std::string &region, uint32_t n, uint32_t from, bool on) {
+    static Lines fresh(const Subject &s, const std::string &region, std::uint32_t n, std::uint32_t from, bool on) {
         Lines lines;
-        for (uint32_t k = from; on && k < n; ++k) lines.push_back(update(element(s, region, n, k)));
-        for (uint32_t k = from; k < n; ++k) {
+        for (std::uint32_t k = from; on && k < n; ++k) lines.push_back(update(element(s, region, n, k)));
+        for (std::uint32_t k = from; k < n; ++k) {
             Making making;
             making.on = on;
             making.is_nested = true;
@@ -116,7 +118,7 @@ TEST_F(ArraySequence, GrowthWithoutTracking) {
         const Lines lines = without_traces(lines_of([&] { s.m.element_set(h, id, object, 2, nullptr, &err); }));
         Lines expected = begin(s);
         append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).base), "write_notify " + block_place(s) + " 8"});
-        for (uint32_t k = 0; k < 2; ++k) {
+        for (std::uint32_t k = 0; k < 2; ++k) {
             append(expected, cleaned_up(s, h, element(s, "block4", 3, k), element(s, "block3", 2, k)));
         }
         append(expected, {"obj_free block3", announce_count(s)});
@@ -134,15 +136,15 @@ TEST_F(ArraySequence, GrowthWithTracking) {
         append(expected,
                {"obj_alloc " + std::to_string(3 * table(s.e).tracked), "write_notify " + block_place(s) + " 8"});
         // Old areas are found by each element's own offset.
-        for (uint32_t k = 0; k < 2; ++k) {
+        for (std::uint32_t k = 0; k < 2; ++k) {
             expected.push_back("mirklib_get_sttr_offset " + element(s, "block3", 2, k).text());
         }
-        for (uint32_t k = 0; k < 2; ++k) {
+        for (std::uint32_t k = 0; k < 2; ++k) {
             const Spot moved = element(s, "block5", 3, k);
             expected.push_back(update(moved));
             append(expected, offset_update_lines(s.e, moved));
         }
-        for (uint32_t k = 0; k < 2; ++k) {
+        for (std::uint32_t k = 0; k < 2; ++k) {
             const Spot old = element(s, "block3", 2, k);
             append(expected, cleaned_up(s, h, element(s, "block5", 3, k), old));
             expected.push_back("mirk_hd_mapping_destroy " + old.text());
@@ -167,7 +169,7 @@ TEST_F(ArraySequence, WithoutMemory) {
         Lines expected = begin(s);
         append(expected, {"obj_alloc " + std::to_string(table(s.e).tracked), "mirk_store_err 12"});
         EXPECT_EQ(lines_of([&] { s.m.element_set(h, id, object, 0, value, &err); }), expected);
-        EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
         err = 0;
         handle.fail_obj_alloc(2);
         const Lines lines = lines_of([&] { s.m.element_set(h, id, object, 0, value, &err); });
@@ -194,9 +196,9 @@ TEST_F(ArraySequence, OfElementAccessAndStates) {
         EXPECT_EQ(lines_of([&] { s.m.element_state_flag_get(h, id, object, 1, &err); }), Lines{});
         EXPECT_EQ(lines_of([&] { s.m.element_state_flag_set(h, id, object, 1, 9, &err); }),
                   (Lines{adjusted, variant, "write_notify vector+1 1", marked}));
-        uint8_t *states = nullptr;
+        std::uint8_t *states = nullptr;
         EXPECT_EQ(lines_of([&] { s.m.element_state_flag_get_arr(h, id, object, &states, &err); }), Lines{});
-        const uint8_t source[2] = {1, 2};
+        const std::uint8_t source[2] = {1, 2};
         EXPECT_EQ(lines_of([&] { s.m.element_state_flag_set_arr(h, id, object, source, 2, &err); }),
                   (Lines{adjusted, variant, marked}));
         EXPECT_EQ(err, 0u);
@@ -212,7 +214,7 @@ TEST_F(ArraySequence, AFailedDeepCopyLeavesTheElementItsPlace) {
         ASSERT_TRUE(before.has_value());
         h.knobs().errors["_mirk_instance_variant_unmarshal"] = EPROTO;
         const_cast<Handle &>(h).set_workspace(48 * 1024);
-        EXPECT_EQ(s.m.element_set_cr(h, object, 1, value, 0), static_cast<uint32_t>(EPROTO));
+        EXPECT_EQ(s.m.element_set_cr(h, object, 1, value, 0), static_cast<std::uint32_t>(EPROTO));
         h.knobs().errors.clear();
         EXPECT_EQ(h.state_offset(element), before);
         observing::quiet();
@@ -229,13 +231,13 @@ TEST_F(ArraySequence, AFailedDeepCopyWithoutMappingsAsksForNoOffset) {
         s.m.element_set(h, id, object, 1, value, &err);
         mirk_object *element = static_cast<mirk_object *>(s.m.element_get(h, id, object, 1, &err));
         const auto before = h.state_offset(element);
-        const auto failed_copy = [&](uint32_t oid_mapping) {
+        const auto failed_copy = [&](std::uint32_t oid_mapping) {
             h->oid_mapping = oid_mapping;
             mirk_clear_last_error(h);
             h.knobs().errors["_mirk_instance_variant_unmarshal"] = EPROTO;
             const Lines lines = lines_of([&] { s.m.element_set_cr(h, object, 1, value, 0); });
             h.knobs().errors.clear();
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
             EXPECT_EQ(h.state_offset(element), before);
             return std::count_if(lines.begin(), lines.end(), [](const std::string &line) {
                 return line.starts_with("mirklib_update_sttr_offset");

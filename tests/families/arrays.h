@@ -13,30 +13,30 @@ struct ArraySubject {
 };
 
 inline void each_array(const std::function<void(const ArraySubject &)> &visit) {
-    size_t found = 0;
+    std::size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.element_set == nullptr) return;
         ++found;
         visit({r, m, r.members[index_of(r, m) - 1], nested_record(m)});
     });
-    EXPECT_EQ(found, reference::members_of(reference::Class::kArray));
+    EXPECT_EQ(found, reference::members_of(reference::Class::array));
 }
 
-inline uint64_t count(mirk_handle *h, const ArraySubject &s, void *object) {
-    uint32_t err = 0;
+inline std::uint64_t count(mirk_handle *h, const ArraySubject &s, void *object) {
+    std::uint32_t err = 0;
     return s.count.get_value(h, id, object, &err);
 }
 
 // Puts a filled value at the index and lets go of the shell that is left of it.
-inline void put(mirk_handle *h, const ArraySubject &s, void *object, uint32_t index, uint32_t seed) {
+inline void put(mirk_handle *h, const ArraySubject &s, void *object, std::uint32_t index, std::uint32_t seed) {
     void *value = filled(h, s.e, seed, {1, 2, false});
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     s.m.element_set(h, id, object, index, value, &err);
     EXPECT_EQ(err, 0u);
     s.e.destroy(h, id, value);
 }
 
-inline Lines value_of(mirk_handle *h, const ArraySubject &s, uint32_t seed) {
+inline Lines value_of(mirk_handle *h, const ArraySubject &s, std::uint32_t seed) {
     void *value = filled(h, s.e, seed, {1, 2, false});
     const Lines lines = content(h, s.e, value);
     s.e.destroy(h, id, value);

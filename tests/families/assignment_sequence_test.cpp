@@ -42,7 +42,7 @@ TEST_F(AssignmentSequence, OfNullAndToItself) {
         const std::string adjusted = "mirklib_adjust_variant object " + name(r) + " 0";
         EXPECT_EQ(lines_of([&] { r.set(h, id, object, object, &err); }), (Lines{adjusted}));
         EXPECT_EQ(lines_of([&] { r.set(h, id, object, nullptr, &err); }), (Lines{adjusted, "mirk_store_err 22"}));
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         err = 0;
     });
 }
@@ -69,7 +69,7 @@ TEST_F(AssignmentSequence, ForWantOfTrackingTheBlocksChangeHandsAllTheSame) {
             append(expected, give_up_everything(r, top_level(r, "from")));
             append(expected, {"mirk_store_err 22", "skald_wrapper type 3 (ERR): The object is not state tracked"});
             EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), expected);
-            EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
             EXPECT_EQ(header(to)->obj_flag & tracked, 0);
             err = 0;
         }

@@ -13,19 +13,20 @@ void expect_no_blocks(const RecordOperations &r, void *object) {
         if (m.member->kind != Kind::array && m.member->kind != Kind::string) continue;
         EXPECT_EQ(read<void *>(at(r, object, m)), nullptr) << name(m);
         const MemberOperations &counter = r.members[index_of(r, m) - 1];
-        uint64_t count = 0;
+        std::uint64_t count = 0;
         std::memcpy(&count, at(r, object, counter), width(counter));
         EXPECT_EQ(count, 0u) << name(counter);
     }
 }
 
 // Every object inside finds its area within its owner's.
-void expect_own_areas(const Handle &h, const RecordOperations &r, void *object, uintptr_t state) {
+void expect_own_areas(const Handle &h, const RecordOperations &r, void *object, std::uintptr_t state) {
     for (const MemberOperations &m : r.members) {
         if (!has_area(m)) continue;
         void *child = at(r, object, m);
-        const uintptr_t inner = state + place(r, m).area;
-        EXPECT_EQ(h.offset_of(child), static_cast<uint32_t>(inner - reinterpret_cast<uintptr_t>(child))) << name(m);
+        const std::uintptr_t inner = state + place(r, m).area;
+        EXPECT_EQ(h.offset_of(child), static_cast<std::uint32_t>(inner - reinterpret_cast<std::uintptr_t>(child)))
+            << name(m);
         if (m.member->kind == Kind::record) expect_own_areas(h, nested_record(m), child, inner);
     }
 }
@@ -38,14 +39,14 @@ TEST(Assignment, TakesValuesStatesAndBlocks) {
             void *source = r.create(h, id), *destination = r.create(h, id);
             fill(h, r, source, 31, {2, 3, on});
             const Lines before = content(h, r, source);
-            const size_t blocks = h.live_blocks();
-            uint32_t err = 0;
+            const std::size_t blocks = h.live_blocks();
+            std::uint32_t err = 0;
             r.set(h, id, destination, source, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(content(h, r, destination), before);
             expect_no_blocks(r, source);
             EXPECT_EQ(h.live_blocks(), blocks);
-            if (on) expect_own_areas(h, r, destination, reinterpret_cast<uintptr_t>(area(r, destination)));
+            if (on) expect_own_areas(h, r, destination, reinterpret_cast<std::uintptr_t>(area(r, destination)));
             r.destroy(h, id, source);
             EXPECT_EQ(content(h, r, destination), before) << "nothing is shared any more";
             r.destroy(h, id, destination);
@@ -59,11 +60,11 @@ TEST(Assignment, ToItselfIsAnAdjustmentOnly) {
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
         const Lines before = content(h, r, object);
-        uint32_t err = EIO;
+        std::uint32_t err = EIO;
         h->last_error = 9;
         Events events(h);
         r.set(h, id, object, object, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
         EXPECT_EQ(h->last_error, 9u);
         ASSERT_EQ(events.all.size(), 1u);
         EXPECT_EQ(events.all[0].kind, MIRK_PLATFORM_TESTING_ADJUST_VARIANT);
@@ -77,10 +78,10 @@ TEST(Assignment, RunsWhateverTheSlotHolds) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *source = filled(h, r, 3), *destination = r.create(h, id);
-    uint32_t err = EIO;
+    std::uint32_t err = EIO;
     h->last_error = 9;
     r.set(h, id, destination, source, &err);
-    EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
     EXPECT_EQ(h->last_error, 9u);
     err = 0;
     EXPECT_EQ(content(h, r, destination), content(h, r, source));
@@ -93,19 +94,19 @@ TEST(Assignment, OfNullIsRefusedAndChangesNothing) {
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
         const Lines before = content(h, r, object);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         r.set(h, id, object, nullptr, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(content(h, r, object), before);
         r.destroy(h, id, object);
     });
     for (const auto &e : tarn::reflect::enumerations()) {
         void *object = e.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         e.set(h, id, object, nullptr, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         e.destroy(h, id, object);
     }
 }
@@ -116,7 +117,7 @@ TEST(Assignment, CopiesTheHeaderAsWell) {
     void *source = r.create(h, id), *destination = r.create(h, id);
     header(source)->variant = -3;
     header(source)->home_variant = -4;
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     r.set(h, id, destination, source, &err);
     EXPECT_EQ(header(destination)->variant, -3);
     EXPECT_EQ(header(destination)->home_variant, -4);
@@ -135,7 +136,7 @@ TEST(Assignment, TheOffsetBitStaysTheDestinationsOwnUnlessThereIsNoDescriptor) {
                 // An offset that says what holds anyway.
                 if (own) mirklib_update_sttr_offset(h, id, destination, table(r).base);
                 if (others) mirklib_update_sttr_offset(h, id, source, table(r).base);
-                uint32_t err = 0;
+                std::uint32_t err = 0;
                 r.set(h, id, destination, source, &err);
                 EXPECT_EQ((header(destination)->obj_flag & has_offset) != 0, mode == Tracking::none ? others : own);
                 EXPECT_EQ(err, 0u);
@@ -154,11 +155,11 @@ TEST(Assignment, AnUntrackedSourceOnATrackingHandleLosesItsBlocksAndFails) {
         void *source = filled(h, r, 8);
         mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
         void *destination = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Trace trace;
         r.set(h, id, destination, source, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is not state tracked"}));
         EXPECT_EQ(header(destination)->obj_flag & tracked, 0);
         expect_no_blocks(r, source);
@@ -187,11 +188,11 @@ TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
         void *destination = r.create(h, id);
         mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
         void *source = filled(h, r, 8);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Trace trace;
         header(destination)->obj_flag |= 1;  // that it can be referred to says nothing of its states
         r.set(h, id, destination, source, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is not state tracked"}));
         expect_untracked(r, destination);
         expect_no_blocks(r, source);
@@ -207,7 +208,7 @@ TEST(Assignment, WhatTheDestinationHeldIsLost) {
     const RecordOperations &r = record("lumo_tarn_cl_kesh_appl");
     void *source = filled(h, r, 8), *destination = filled(h, r, 9);
     ASSERT_EQ(h.live_blocks(), 6u);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     r.set(h, id, destination, source, &err);
     r.destroy(h, id, source);
     r.destroy(h, id, destination);
@@ -221,11 +222,11 @@ TEST(Assignment, ANestedRecordDoesNotReachTheMemberBehindIt) {
             if (m.member->kind != Kind::record) return;
             const RecordOperations &n = nested_record(m);
             void *object = filled(h, r, 5, {0, 0, false}), *value = filled(h, n, 6, {1, 1, false});
-            uint32_t err = 0;
-            const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).base);
+            std::uint32_t err = 0;
+            const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).base);
             m.set(h, id, object, value, &err);
             EXPECT_EQ(err, 0u);
-            const uint32_t end = offset(r, m) + table(n).base;
+            const std::uint32_t end = offset(r, m) + table(n).base;
             EXPECT_EQ(std::memcmp(bytes(object) + end, before.data() + end, before.size() - end), 0);
             n.destroy(h, id, value);
             r.destroy(h, id, object);
@@ -241,7 +242,7 @@ TEST(CopyoutCleanup, TheOldPlaceLosesItsBlocksAndTheNewOneKeepsThem) {
             void *old_place = filled(h, r, 5), *new_place = r.create(h, id);
             const Lines before = content(h, r, old_place);
             std::memcpy(new_place, old_place, table(r).base);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             r.post_copyout_cleanup(h, id, new_place, old_place, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(content(h, r, new_place), before);

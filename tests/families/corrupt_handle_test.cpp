@@ -21,24 +21,24 @@ protected:
         objects.emplace_back(&r, object);
         return object;
     }
-    void spoil(uint32_t mode = 0) { mirk_platform_testing_set_sttr_mode(h, mode); }
+    void spoil(std::uint32_t mode = 0) { mirk_platform_testing_set_sttr_mode(h, mode); }
     void expect_the_end(const std::function<void()> &operation) {
         EXPECT_EXIT(operation(), testing::KilledBySignal(SIGABRT), text);
     }
 
     Handle h{Tracking::on};
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     std::vector<std::pair<const RecordOperations *, void *>> objects;
 };
 
 TEST_F(CorruptHandleDeathTest, InSizeAndCreation) {
-    for (uint32_t mode : {0u, 0xDDDEu, 0xEEEEEEEEu}) {
+    for (std::uint32_t mode : {0u, 0xDDDEu, 0xEEEEEEEEu}) {
         spoil(mode);
         expect_the_end([&] { record("lumo_tarn_debug_setting").sizeof_(h); });
     }
     expect_the_end([&] { record("lumo_tarn_dp_tc").create(h, id); });
     expect_the_end([&] {
-        alignas(8) uint8_t object[400] = {};
+        alignas(8) std::uint8_t object[400] = {};
         const RecordOperations &r = record("lumo_tarn_dp_tc");
         r.initialize(h, id, object, r.type, 1, 1, 0, nullptr, &err);
     });
@@ -50,7 +50,7 @@ TEST_F(CorruptHandleDeathTest, InEveryKindOfMemberWrite) {
                            &tc = record("lumo_tarn_dp_tc"), &text_record = record("lumo_tarn_cl_kesh_appl");
     void *f = make(flat), *l = make(ll), *t = make(tc), *s = make(text_record), *other = make(tc);
     spoil();
-    uint32_t value = 1;
+    std::uint32_t value = 1;
     expect_the_end([&] { flat.members[0].set(h, id, f, &value, &err); });
     expect_the_end([&] { flat.members[0].set_value(h, id, f, 1, &err); });
     expect_the_end([&] { member(ll, "display_all").set_value(h, id, l, 1, &err); });
@@ -64,8 +64,8 @@ TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
     const MemberOperations &m = member(r, "tc_list");
     void *object = make(r), *flat = make(record("lumo_tarn_debug_setting"));
     spoil();
-    uint8_t *out = nullptr;
-    const uint8_t source[1] = {0};
+    std::uint8_t *out = nullptr;
+    const std::uint8_t source[1] = {0};
     expect_the_end([&] { m.state_flag_get(h, id, object, &err); });
     expect_the_end([&] { m.state_flag_set(h, id, object, 1, &err); });
     expect_the_end([&] { m.element_state_flag_get(h, id, object, 0, &err); });
@@ -107,11 +107,11 @@ TEST_F(CorruptHandleDeathTest, IsPassedOverWhenAllStateIsFilled) {
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         Events events(h);
-        for (uint32_t mode : {0u, 0xDDDDu, 0xEEEFu}) {
+        for (std::uint32_t mode : {0u, 0xDDDDu, 0xEEEFu}) {
             spoil(mode);
             r.set_all_state_tracking_flag(h, id, object, 7);
         }
-        for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+        for (std::uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
         EXPECT_TRUE(events.all.empty());
         spoil(0xEEEE);
         r.destroy(h, id, object);

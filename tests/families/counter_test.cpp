@@ -10,7 +10,7 @@ using namespace families;
 namespace {
 
 // How often each type is initialised when one object of the record is.
-void tally(const RecordOperations &r, std::map<const mirk_type_info *, uint64_t> &counts) {
+void tally(const RecordOperations &r, std::map<const mirk_type_info *, std::uint64_t> &counts) {
     ++counts[r.type];
     for (const MemberOperations &m : r.members) {
         switch (m.member->kind) {
@@ -48,7 +48,7 @@ TEST(Counters, EmbeddedObjectsCountInTheirOwnTypes) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
-            std::map<const mirk_type_info *, uint64_t> counts;
+            std::map<const mirk_type_info *, std::uint64_t> counts;
             tally(r, counts);
             std::map<const mirk_type_info *, mirk_variant_entry> before;
             for (const mirk_type_info *type : all_types()) before[type] = entry(*type);
@@ -74,12 +74,12 @@ class Listener {
 public:
     explicit Listener(Handle &h) : h_(h), write_(h->write_notify), count_(h->count_notify) {
         listening = this;
-        h->write_notify = [](void *, void *address, size_t size, uint32_t) {
+        h->write_notify = [](void *, void *address, std::size_t size, std::uint32_t) {
             listening->heard.emplace_back(address, size);
             return 0;
         };
-        h->count_notify = [](void *, uint64_t *address, int64_t delta, uint32_t) {
-            listening->heard.emplace_back(address, static_cast<uint64_t>(delta));
+        h->count_notify = [](void *, std::uint64_t *address, std::int64_t delta, std::uint32_t) {
+            listening->heard.emplace_back(address, static_cast<std::uint64_t>(delta));
             return 0;
         };
     }
@@ -91,13 +91,13 @@ public:
     Listener(const Listener &) = delete;
     Listener &operator=(const Listener &) = delete;
 
-    std::vector<std::pair<void *, uint64_t>> heard;
+    std::vector<std::pair<void *, std::uint64_t>> heard;
 
 private:
     static inline Listener *listening = nullptr;
     Handle &h_;
-    int (*write_)(void *, void *, size_t, uint32_t);
-    int (*count_)(void *, uint64_t *, int64_t, uint32_t);
+    int (*write_)(void *, void *, std::size_t, std::uint32_t);
+    int (*count_)(void *, std::uint64_t *, std::int64_t, std::uint32_t);
 };
 
 TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
@@ -105,15 +105,15 @@ TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
             const auto live = [&] {
-                std::vector<uint8_t> frame(4096);
-                uint32_t err = 0;
+                std::vector<std::uint8_t> frame(4096);
+                std::uint32_t err = 0;
                 void *object = r.create(h, id);
-                const uint32_t size = r.marshal(h, id, frame.data(), object, 4095, &err);
+                const std::uint32_t size = r.marshal(h, id, frame.data(), object, 4095, &err);
                 r.unmarshal(h, id, frame.data(), object, size, 1, &err);
                 r.destroy(h, id, object);
                 EXPECT_EQ(err, 0u);
             };
-            std::vector<std::pair<void *, uint64_t>> by_the_runtime;
+            std::vector<std::pair<void *, std::uint64_t>> by_the_runtime;
             {
                 Events events(h);
                 live();
@@ -121,7 +121,7 @@ TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
                     if (event.kind == MIRK_PLATFORM_TESTING_WRITE_NOTIFY) {
                         by_the_runtime.emplace_back(event.address, event.size);
                     } else if (event.kind == MIRK_PLATFORM_TESTING_COUNT_NOTIFY) {
-                        by_the_runtime.emplace_back(event.address, static_cast<uint64_t>(event.value));
+                        by_the_runtime.emplace_back(event.address, static_cast<std::uint64_t>(event.value));
                     }
                 }
             }
@@ -129,7 +129,7 @@ TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
             live();
             // Whether the object lies at the same address again is up to malloc; what is told of it is not.
             ASSERT_EQ(listener.heard.size(), by_the_runtime.size()) << name(r);
-            for (size_t i = 0; i < listener.heard.size(); ++i) {
+            for (std::size_t i = 0; i < listener.heard.size(); ++i) {
                 EXPECT_EQ(listener.heard[i].second, by_the_runtime[i].second) << name(r) << ' ' << i;
             }
             EXPECT_GE(listener.heard.size(), 9u)
@@ -143,7 +143,7 @@ TEST(Counters, ElementsCountLikeAnyInstance) {
     const RecordOperations &list = record("lumo_tarn_dp_appl_list"), &element = record("lumo_tarn_dp_appl");
     const mirk_variant_entry before = entry(*element.type);
     void *object = list.create(h, id);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     member(list, "appl_list").element_set(h, id, object, 4, nullptr, &err);
     EXPECT_EQ(entry(*element.type).num_live, before.num_live + 5);
     list.destroy(h, id, object);
@@ -152,11 +152,11 @@ TEST(Counters, ElementsCountLikeAnyInstance) {
 }
 
 TEST(Counters, ANegativeVariantCountsInAnEntryOfItsOwn) {
-    for (uint32_t private_types : {0u, 1u}) {
+    for (std::uint32_t private_types : {0u, 1u}) {
         Handle h({.tracking = Tracking::none, .private_types = private_types});
         each_record([&](const RecordOperations &r) {
             for (int variant = -128; variant <= 0; ++variant) {
-                h.set_variant(*r.type, static_cast<int8_t>(variant));
+                h.set_variant(*r.type, static_cast<std::int8_t>(variant));
                 const mirk_variant_entry before = private_types != 0 ? mirk_variant_entry{} : entry(*r.type, variant);
                 void *object = r.create(h, id);
                 ASSERT_NE(object, nullptr);
@@ -187,7 +187,7 @@ TEST(Counters, AVariantAboveTheHighestIsCapped) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         h.set_variant(*r.type, 127);
-        const uint64_t created = entry(*r.type).num_created;
+        const std::uint64_t created = entry(*r.type).num_created;
         void *object = r.create(h, id);
         EXPECT_EQ(header(object)->variant, 0);
         EXPECT_EQ(header(object)->home_variant, 0);
@@ -202,10 +202,10 @@ TEST(Counters, AnObjectAdjustedAboveTheHighestVariantIsCountedDownInTheHighest) 
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         h.set_variant(*r.type, 5);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         r.adjust_variant(h, id, object, &err);
         ASSERT_EQ(header(object)->variant, 5);
-        const uint64_t destroyed = entry(*r.type).num_destroyed;
+        const std::uint64_t destroyed = entry(*r.type).num_destroyed;
         Trace trace;
         r.destroy(h, id, object);
         EXPECT_EQ(entry(*r.type).num_destroyed, destroyed + 1);
@@ -248,7 +248,7 @@ TEST(Counters, APrivateCopyCountsAndTheModulesRecordDoesNot) {
 TEST(Counters, EachChangeIsAnnouncedBeforeItHappens) {
     Handle h;
     struct Seen {
-        std::vector<int64_t> deltas;
+        std::vector<std::int64_t> deltas;
         bool early = true;
     } seen;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
@@ -260,30 +260,31 @@ TEST(Counters, EachChangeIsAnnouncedBeforeItHappens) {
             if (event->kind != MIRK_PLATFORM_TESTING_COUNT_NOTIFY) return;
             auto *s = static_cast<Seen *>(user);
             const auto *entries = &entry(_lumo_tarn_debug_setting_type_info_internal);
-            const auto at = static_cast<size_t>(static_cast<uint8_t *>(event->address) -
-                                                reinterpret_cast<const uint8_t *>(entries));
-            if (read<uint64_t>(event->address) != read<uint64_t>(reinterpret_cast<uint8_t *>(&reference) + at))
+            const auto at = static_cast<std::size_t>(static_cast<std::uint8_t *>(event->address) -
+                                                     reinterpret_cast<const std::uint8_t *>(entries));
+            if (read<std::uint64_t>(event->address) !=
+                read<std::uint64_t>(reinterpret_cast<std::uint8_t *>(&reference) + at))
                 s->early = false;
-            write<uint64_t>(reinterpret_cast<uint8_t *>(&reference) + at,
-                            read<uint64_t>(event->address) + static_cast<uint64_t>(event->value));
+            write<std::uint64_t>(reinterpret_cast<std::uint8_t *>(&reference) + at,
+                                 read<std::uint64_t>(event->address) + static_cast<std::uint64_t>(event->value));
             s->deltas.push_back(event->value);
         },
         &seen);
     r.destroy(h, id, r.create(h, id));
     mirk_platform_testing_set_hook(h, nullptr, nullptr);
     EXPECT_TRUE(seen.early);
-    EXPECT_EQ(seen.deltas, (std::vector<int64_t>{1, 1, 1, -1}));
+    EXPECT_EQ(seen.deltas, (std::vector<std::int64_t>{1, 1, 1, -1}));
     EXPECT_EQ(std::memcmp(&reference, &entry(*r.type), sizeof reference), 0);
 }
 
 // The module's own records are shared by all handles, whatever thread they are on.
 TEST(Counters, OfTheModulesRecordsAreExactOnSeveralThreads) {
-    constexpr uint64_t rounds = 20000;
+    constexpr std::uint64_t rounds = 20000;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     const mirk_variant_entry before = entry(*r.type);
     Handle first, second;
     const auto work = [&](const Handle &h) {
-        for (uint64_t i = 0; i < rounds; ++i) r.destroy(h, id, r.create(h, id));
+        for (std::uint64_t i = 0; i < rounds; ++i) r.destroy(h, id, r.create(h, id));
     };
     std::thread other([&] { work(second); });
     work(first);

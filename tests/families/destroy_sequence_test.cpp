@@ -25,7 +25,7 @@ TEST_F(DestroySequence, OfAFreshObject) {
 }
 
 TEST_F(DestroySequence, OfAnObjectWithAPlaceOfItsOwn) {
-    for (uint32_t mapping : {0u, 1u}) {
+    for (std::uint32_t mapping : {0u, 1u}) {
         Handle h({Tracking::on, 0, mapping});
         each_record([&](const RecordOperations &r) {
             for (bool frees : {false, true}) {
@@ -122,11 +122,11 @@ TEST_F(DestroySequence, OfAnArrayTakesElementsThenTheBlockThenTheVector) {
             e.destroy(h, id, value);
             observing::quiet(false);
             ASSERT_EQ(err, 0u);
-            auto *block = read<uint8_t *>(at(r, object, m));
+            auto *block = read<std::uint8_t *>(at(r, object, m));
             observing::name_region("elements", block, 2 * e.sizeof_(h));
             if (on) observing::name_region("vector", read<void *>(bytes(object) + table(r).base + place(r, m).area), 2);
             Lines array;
-            for (uint32_t k = 0; k < 2; ++k) {
+            for (std::uint32_t k = 0; k < 2; ++k) {
                 append(array, destroy_lines(e, {"elements", k * table(e).base, 2 * table(e).base + k * table(e).state},
                                             {on, on, true, false}));
             }

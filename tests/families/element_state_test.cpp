@@ -7,9 +7,9 @@ using namespace families;
 
 namespace {
 
-void *with_elements(mirk_handle *h, const ArraySubject &s, uint32_t n) {
+void *with_elements(mirk_handle *h, const ArraySubject &s, std::uint32_t n) {
     void *object = s.r.create(h, id), *value = s.e.create(h, id);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     s.m.element_set(h, id, object, n - 1, value, &err);
     EXPECT_EQ(err, 0u);
     s.e.destroy(h, id, value);
@@ -17,24 +17,24 @@ void *with_elements(mirk_handle *h, const ArraySubject &s, uint32_t n) {
     return object;
 }
 
-uint8_t *vector_of(const ArraySubject &s, void *object) {
-    return read<uint8_t *>(area(s.r, object) + place(s.r, s.m).area);
+std::uint8_t *vector_of(const ArraySubject &s, void *object) {
+    return read<std::uint8_t *>(area(s.r, object) + place(s.r, s.m).area);
 }
 
 TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 4);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 2);
-        for (uint32_t i = 0; i < 4; ++i) {
+        for (std::uint32_t i = 0; i < 4; ++i) {
             EXPECT_EQ(s.m.element_state_flag_get(h, id, object, i, &err), i == 3 ? 2 : 0);
         }
         s.m.element_state_flag_set(h, id, object, 1, 77, &err);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 77);
         EXPECT_EQ(vector_of(s, object)[1], 77);
         EXPECT_NE(mirk_get_instance_modified(object, 1, 0), 0u);
-        uint8_t *states = nullptr;
+        std::uint8_t *states = nullptr;
         s.m.element_state_flag_get_arr(h, id, object, &states, &err);
         EXPECT_EQ(states, vector_of(s, object));
         EXPECT_EQ(err, 0u);
@@ -48,14 +48,14 @@ TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
         Trace trace;
-        for (uint32_t index : {2u, 0xFFFFFFFFu}) {
-            uint32_t err = 0;
+        for (std::uint32_t index : {2u, 0xFFFFFFFFu}) {
+            std::uint32_t err = 0;
             EXPECT_EQ(s.m.element_state_flag_get(h, id, object, index, &err), 0);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOENT));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOENT));
             err = 0;
             s.m.element_state_flag_set(h, id, object, index, 1, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
         }
         EXPECT_EQ(trace.lines(), Lines{});
         EXPECT_EQ(mirk_get_instance_modified(object, 1, 0), 0u);
@@ -68,19 +68,19 @@ TEST(ElementStates, AreRefusedWithoutTrackingAndForUntrackedObjects) {
     each_array([&](const ArraySubject &s) {
         for (mirk_handle *h : {static_cast<mirk_handle *>(off), static_cast<mirk_handle *>(none)}) {
             void *object = s.r.create(h, id);
-            uint8_t *states = bytes(object);
-            const uint8_t source = 1;
+            std::uint8_t *states = bytes(object);
+            const std::uint8_t source = 1;
             Trace trace;
             const auto refused = [&](auto &&operation) {
-                uint32_t err = 0;
+                std::uint32_t err = 0;
                 operation(&err);
-                EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-                EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+                EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+                EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
             };
-            refused([&](uint32_t *e) { EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 0, e), 0); });
-            refused([&](uint32_t *e) { s.m.element_state_flag_set(h, id, object, 0, 1, e); });
-            refused([&](uint32_t *e) { s.m.element_state_flag_get_arr(h, id, object, &states, e); });
-            refused([&](uint32_t *e) { s.m.element_state_flag_set_arr(h, id, object, &source, 0, e); });
+            refused([&](std::uint32_t *e) { EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 0, e), 0); });
+            refused([&](std::uint32_t *e) { s.m.element_state_flag_set(h, id, object, 0, 1, e); });
+            refused([&](std::uint32_t *e) { s.m.element_state_flag_get_arr(h, id, object, &states, e); });
+            refused([&](std::uint32_t *e) { s.m.element_state_flag_set_arr(h, id, object, &source, 0, e); });
             EXPECT_EQ(states, object);
             const std::string non = "type 3 (ERR): The object is non state tracked";
             const std::string not_ = "type 3 (ERR): The object is not state tracked";
@@ -91,28 +91,29 @@ TEST(ElementStates, AreRefusedWithoutTrackingAndForUntrackedObjects) {
 }
 
 // Bytes of the area that belong to the address of a vector, of this record or of one nested in it.
-void mark_vectors(const RecordOperations &r, uint32_t base, std::vector<bool> &marks) {
+void mark_vectors(const RecordOperations &r, std::uint32_t base, std::vector<bool> &marks) {
     for (const MemberOperations &m : r.members) {
         if (m.member->kind == Kind::record) mark_vectors(nested_record(m), base + place(r, m).area, marks);
-        for (uint32_t i = 0; m.member->kind == Kind::array && i < 8; ++i) marks[base + place(r, m).area + i] = true;
+        for (std::uint32_t i = 0; m.member->kind == Kind::array && i < 8; ++i)
+            marks[base + place(r, m).area + i] = true;
     }
 }
 
 TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
-        for (uint32_t n : {1u, 3u, 8u, 17u, 120u}) {
+        for (std::uint32_t n : {1u, 3u, 8u, 17u, 120u}) {
             void *object = with_elements(h, s, n);
-            const std::vector<uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
+            const std::vector<std::uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
             std::vector<bool> vectors(table(s.r).state);
             mark_vectors(s.r, 0, vectors);
-            std::vector<uint8_t> source(n);
-            for (uint32_t i = 0; i < n; ++i) source[i] = static_cast<uint8_t>(0x80 + i);
-            uint32_t err = 0;
+            std::vector<std::uint8_t> source(n);
+            for (std::uint32_t i = 0; i < n; ++i) source[i] = static_cast<std::uint8_t>(0x80 + i);
+            std::uint32_t err = 0;
             Events events(h);
             s.m.element_state_flag_set_arr(h, id, object, source.data(), n, &err);
             EXPECT_EQ(err, 0u);
-            for (uint32_t i = 0; i < table(s.r).state; ++i) {
+            for (std::uint32_t i = 0; i < table(s.r).state; ++i) {
                 EXPECT_EQ(area(s.r, object)[i], i < n && !vectors[i] ? source[i] : before[i]) << i;
             }
             EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_WRITE_NOTIFY), 0u);
@@ -127,14 +128,14 @@ TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 3);
-        const std::vector<uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
-        const uint8_t source[4] = {9, 9, 9, 9};
+        const std::vector<std::uint8_t> before(area(s.r, object), area(s.r, object) + table(s.r).state);
+        const std::uint8_t source[4] = {9, 9, 9, 9};
         Trace trace;
-        for (uint32_t length : {0u, 2u, 4u}) {
-            uint32_t err = 0;
+        for (std::uint32_t length : {0u, 2u, 4u}) {
+            std::uint32_t err = 0;
             s.m.element_state_flag_set_arr(h, id, object, source, length, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOENT));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOENT));
         }
         EXPECT_EQ(std::memcmp(area(s.r, object), before.data(), before.size()), 0);
         EXPECT_EQ(trace.lines(), Lines{});
@@ -147,14 +148,14 @@ TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2), *value = s.e.create(h, id);
-        uint8_t *lost = vector_of(s, object);
-        uint32_t err = 0;
+        std::uint8_t *lost = vector_of(s, object);
+        std::uint32_t err = 0;
         s.r.set_all_state_tracking_flag(h, id, object, 0x33);
         EXPECT_EQ(s.m.state_flag_get(h, id, object, &err), 0x33);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0x33);
         s.m.element_state_flag_set(h, id, object, 1, 9, &err);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0x33);
-        uint8_t *states = lost;
+        std::uint8_t *states = lost;
         s.m.element_state_flag_get_arr(h, id, object, &states, &err);
         EXPECT_EQ(states, nullptr);
         s.m.element_set(h, id, object, 0, value, &err);
@@ -180,8 +181,8 @@ TEST(ElementStates, AFillWithZeroMeansNoVector) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
-        uint8_t *lost = vector_of(s, object);
-        uint32_t err = 0;
+        std::uint8_t *lost = vector_of(s, object);
+        std::uint32_t err = 0;
         s.r.set_all_state_tracking_flag(h, id, object, 0);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 1, &err), 0);
         s.m.element_state_flag_set(h, id, object, 1, 9, &err);

@@ -10,10 +10,10 @@ using namespace families;
 namespace {
 
 // Calls every operation of a member that looks at its slot, with an error in it.
-void call_all(mirk_handle *h, const MemberOperations &m, void *object, void *source, uint32_t *err) {
+void call_all(mirk_handle *h, const MemberOperations &m, void *object, void *source, std::uint32_t *err) {
     char text[8] = "untouch";
-    uint8_t *states = nullptr;
-    const uint8_t byte = 9;
+    std::uint8_t *states = nullptr;
+    const std::uint8_t byte = 9;
     if (m.get != nullptr) {
         EXPECT_EQ(m.get(h, id, object, err), nullptr);
     }
@@ -46,16 +46,16 @@ TEST(Guard, ASetSlotStopsEveryAccessor) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5, {1, 1, false});
-        const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
+        const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).tracked);
         h->last_error = 9;
         Trace trace;
         Events events(h);
-        alignas(8) uint8_t source[1024] = {};
+        alignas(8) std::uint8_t source[1024] = {};
         for (const MemberOperations &m : r.members) {
             SCOPED_TRACE(name(m));
-            uint32_t err = EIO;
+            std::uint32_t err = EIO;
             call_all(h, m, object, source, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
         }
         EXPECT_EQ(h->last_error, 9u);
         EXPECT_TRUE(events.all.empty());
@@ -69,20 +69,20 @@ TEST(Guard, ASetSlotStopsTheWholeRecordAccessors) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
-        const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).base);
-        uint64_t numbers[64];
+        const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).base);
+        std::uint64_t numbers[64];
         void *out[64];
-        for (size_t i = 0; i < 64; ++i) {
+        for (std::size_t i = 0; i < 64; ++i) {
             numbers[i] = 77;
             out[i] = &numbers[i];
         }
-        uint32_t err = EIO;
+        std::uint32_t err = EIO;
         h->last_error = 9;
         r.get_all(h, id, object, out, &err);
-        for (uint64_t number : numbers) EXPECT_EQ(number, 77u);
+        for (std::uint64_t number : numbers) EXPECT_EQ(number, 77u);
         r.set_all(h, id, object, numbers, &err);
         EXPECT_EQ(std::memcmp(object, before.data(), before.size()), 0);
-        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
         EXPECT_EQ(h->last_error, 9u);
         r.destroy(h, id, object);
     });
@@ -92,7 +92,7 @@ TEST(Guard, AnExplicitCallWithACleanSlotEndsTheStickyError) {
     Handle h;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         void *object = r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         h->last_error = ENOMEM;
         if (m.get != nullptr) {
             m.get(h, id, object, &err);
@@ -112,12 +112,12 @@ TEST(Guard, StateBytesAreReadWithoutEndingTheStickyError) {
     Handle h(Tracking::on);
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *object = r.create(h, id);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     h->last_error = ENOMEM;
     r.members[0].state_flag_get(h, id, object, &err);
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
     r.members[0].state_flag_set(h, id, object, 3, &err);
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
     EXPECT_EQ(err, 0u);
     r.destroy(h, id, object);
 }
@@ -129,18 +129,20 @@ TEST(StickyChain, AFailedCreateGivesTheSentinelAndEverythingBehindItDoesNothing)
         h.fail_alloc(1);
         void *object = r.create_cr(h);
         EXPECT_EQ(object, sentinel(r));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
 
         Events events(h);
         Trace trace;
-        const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).base);
+        const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).base);
         for (const MemberOperations &m : r.members) {
             if (m.text_set_cr != nullptr) {
-                EXPECT_EQ(m.text_set_cr(h, object, "a", 1), static_cast<uint32_t>(ENOMEM));
+                EXPECT_EQ(m.text_set_cr(h, object, "a", 1), static_cast<std::uint32_t>(ENOMEM));
             }
             if (m.element_set_cr == nullptr) continue;
-            EXPECT_EQ(m.element_set_cr(h, object, 0, sentinel(nested_record(m)), 1), static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(m.element_set_cr(h, object, 0, sentinel(nested_record(m)), 0), static_cast<uint32_t>(ENOMEM));
+            EXPECT_EQ(m.element_set_cr(h, object, 0, sentinel(nested_record(m)), 1),
+                      static_cast<std::uint32_t>(ENOMEM));
+            EXPECT_EQ(m.element_set_cr(h, object, 0, sentinel(nested_record(m)), 0),
+                      static_cast<std::uint32_t>(ENOMEM));
         }
         char buffer[64];
         EXPECT_EQ(r.len_cr(h, object), 0u);
@@ -151,7 +153,7 @@ TEST(StickyChain, AFailedCreateGivesTheSentinelAndEverythingBehindItDoesNothing)
         EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_ALLOC), 0u);
         EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_WRITE_NOTIFY), 0u);
         EXPECT_EQ(trace.lines(), Lines{});
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
         EXPECT_EQ(std::memcmp(object, before.data(), before.size()), 0);
     });
     EXPECT_EQ(h.live_blocks(), 0u);
@@ -164,11 +166,11 @@ TEST(StickyChain, ValidityIsStillAnsweredAndDestroyStillDestroys) {
         h->last_error = EIO;
         Events events(h);
         EXPECT_EQ(r.is_valid_cr(h, object, 0), 1u);
-        EXPECT_EQ(r.is_valid_cr(h, object, static_cast<uint32_t>(r.members.size())), 0u);
+        EXPECT_EQ(r.is_valid_cr(h, object, static_cast<std::uint32_t>(r.members.size())), 0u);
         EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_VARIANT_LOOKED_UP), 2u);
         r.destroy_cr(h, object);
         EXPECT_EQ(h.live_blocks(), 0u);
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EIO));
         h->last_error = 0;
     });
 }
@@ -179,7 +181,7 @@ TEST(StickyChain, CopiesNothing) {
     void *source = filled(h, r, 3), *destination = r.create(h, id);
     h->last_error = EIO;
     r.copy_cr(h, source, destination);
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(EIO));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EIO));
     EXPECT_EQ(h.live_blocks(), 2u);
     EXPECT_NE(content(h, r, source), content(h, r, destination));
     r.destroy(h, id, source);
@@ -191,7 +193,7 @@ TEST(StickyChain, GoesOnAfterAnExplicitCall) {
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     h.fail_alloc(1);
     void *nothing = r.create_cr(h);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     void *explicit_one = r.create(h, id);
     r.members[0].get_value(h, id, explicit_one, &err);
     EXPECT_EQ(h->last_error, 0u);
@@ -210,8 +212,8 @@ TEST(Sentinel, IsOneZeroedPlaceForEachType) {
     each_record([&](const RecordOperations &r) {
         void *place = sentinel(r);
         EXPECT_TRUE(all.insert(place).second);
-        EXPECT_EQ(std::vector<uint8_t>(bytes(place), bytes(place) + table(r).base),
-                  std::vector<uint8_t>(table(r).base, 0));
+        EXPECT_EQ(std::vector<std::uint8_t>(bytes(place), bytes(place) + table(r).base),
+                  std::vector<std::uint8_t>(table(r).base, 0));
     });
     for (const auto &e : tarn::reflect::enumerations()) {
         Handle h;

@@ -61,9 +61,9 @@ TEST_F(InitializeSequence, WithAndWithoutAnnouncementsAndCounts) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
-            for (uint32_t notify : {0u, 1u}) {
-                for (uint32_t skip : {0u, 1u}) {
-                    std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+            for (std::uint32_t notify : {0u, 1u}) {
+                for (std::uint32_t skip : {0u, 1u}) {
+                    std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
                     observing::name_region("object", storage.data(), table(r).tracked);
                     Making s;
@@ -86,7 +86,7 @@ TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
         each_record([&](const RecordOperations &r) {
             for (bool has_entry : {false, true}) {
                 for (bool is_nested : {false, true}) {
-                    std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+                    std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
                     observing::name_region("object", storage.data(), table(r).tracked);
                     Making s;
@@ -110,7 +110,7 @@ TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
 TEST_F(InitializeSequence, EndsAtAMissingStateBase) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
         forget();
         observing::name_region("object", storage.data(), table(r).tracked);
         Lines expected = header_lines(name(r), top_level(r), {true});
@@ -121,7 +121,7 @@ TEST_F(InitializeSequence, EndsAtAMissingStateBase) {
                           "parent object and provide the correct state tracking base pointer"});
         EXPECT_EQ(lines_of([&] { r.initialize(h, id, storage.data(), r.type, 1, 0, nested, nullptr, &err); }),
                   expected);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         err = 0;
     });
 }

@@ -19,7 +19,7 @@ bool holds(const RecordOperations &r, Kind kind) {
 
 TEST(Lifecycle, AFailedLookUpIsLostForRecordsAndFailsCreateForEmbeddedEnumerations) {
     Handle h;
-    uint32_t failed = 0, made = 0;
+    std::uint32_t failed = 0, made = 0;
     each_record([&](const RecordOperations &r) {
         if (holds(r, Kind::boolean) || holds(r, Kind::address)) return;  // these answer as the runtime likes
         h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
@@ -58,11 +58,11 @@ TEST(Lifecycle, AFailedInitializeGivesNullEvenInAStickyCreate) {
 TEST(Lifecycle, ChildrenAreAllInitialisedThoughOneFails) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
-    alignas(8) uint8_t object[256] = {};
-    uint32_t err = 0;
+    alignas(8) std::uint8_t object[256] = {};
+    std::uint32_t err = 0;
     h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);  // the enumeration, which comes first
     r.initialize(h, id, object, r.type, 1, 0, 0, nullptr, &err);
-    EXPECT_EQ(err, static_cast<uint32_t>(EPROTO));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EPROTO));
     const RecordOperations &last = record("lumo_tarn_exmem_info");
     EXPECT_EQ(header(at(r, object, member(r, "exmem")))->tinfo, last.type);
     r.destroy_internal(h, id, object, 0);
@@ -71,10 +71,10 @@ TEST(Lifecycle, ChildrenAreAllInitialisedThoughOneFails) {
 TEST(Lifecycle, AnErrorOfAChildReachesAStickySlotToo) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
-    alignas(8) uint8_t object[256] = {};
+    alignas(8) std::uint8_t object[256] = {};
     h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);
     r.initialize(h, id, object, r.type, 1, 0, 0, nullptr, &h->last_error);
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
     EXPECT_NE(header(at(r, object, member(r, "exmem")))->tinfo, nullptr);
     r.destroy_internal(h, id, object, 0);
 }
@@ -82,15 +82,15 @@ TEST(Lifecycle, AnErrorOfAChildReachesAStickySlotToo) {
 TEST(Lifecycle, ANestedObjectNeedsItsStateBase) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
-        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
         void *object = storage.data();
-        const uint64_t created = entry(*r.type).num_created;
-        uint32_t err = 0;
+        const std::uint64_t created = entry(*r.type).num_created;
+        std::uint32_t err = 0;
         Trace trace;
         Events events(h);
         r.initialize(h, id, object, r.type, 1, 0, nested, nullptr, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(),
                   (Lines{"type 3 (ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and "
                          "provide the correct state tracking base pointer"}));
@@ -111,10 +111,10 @@ TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         mirk_platform_set_ra_data(h, object, nullptr, 1);
-        const uint64_t destroyed = entry(*r.type).num_destroyed;
+        const std::uint64_t destroyed = entry(*r.type).num_destroyed;
         // Members with areas have mappings of their own, which go well.
         Events events(h);
-        uint32_t mappings = 0;
+        std::uint32_t mappings = 0;
         std::function<void(const RecordOperations &)> tally = [&](const RecordOperations &inner) {
             for (const MemberOperations &m : inner.members) {
                 if (m.member->kind == Kind::record) tally(nested_record(m));
@@ -128,7 +128,7 @@ TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
         EXPECT_EQ(trace.lines(),
                   (Lines{"type 3 (ERR): " + name(r) + " destroy: Failed to remove oid mapping for object. Error " +
                          std::strerror(EPROTO)}));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
         EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_FREE), 0u);
         EXPECT_EQ(header(object)->tinfo, r.type);
         EXPECT_EQ(entry(*r.type).num_destroyed, destroyed + 1);

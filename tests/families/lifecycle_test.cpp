@@ -38,10 +38,11 @@ TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
             EXPECT_EQ(allocations[0].ctx_id, id);
             for (const MemberOperations &m : r.members) {
                 if (is_embedded(m)) continue;
-                for (uint32_t i = 0; i < place(r, m).size; ++i) EXPECT_EQ(bytes(at(r, object, m))[i], 0) << name(m);
+                for (std::uint32_t i = 0; i < place(r, m).size; ++i)
+                    EXPECT_EQ(bytes(at(r, object, m))[i], 0) << name(m);
             }
             if (mode == Tracking::on) {
-                for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+                for (std::uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
             }
             r.destroy(h, id, object);
             const auto frees = events.of(MIRK_PLATFORM_TESTING_FREE);
@@ -68,7 +69,7 @@ TEST(Lifecycle, AStickyCreateWorksUnderTheDefaultId) {
 }
 
 // Headers of an object and of all that is embedded in it; on a tracking handle also where their areas are.
-void expect_headers(const Handle &h, const RecordOperations &r, void *object, uint8_t flags, uintptr_t state,
+void expect_headers(const Handle &h, const RecordOperations &r, void *object, std::uint8_t flags, std::uintptr_t state,
                     bool tracking) {
     SCOPED_TRACE(name(r));
     EXPECT_EQ(header(object)->tinfo, r.type);
@@ -79,11 +80,11 @@ void expect_headers(const Handle &h, const RecordOperations &r, void *object, ui
         if (!is_embedded(m)) continue;
         SCOPED_TRACE(name(m));
         void *child = at(r, object, m);
-        uint8_t expected = nested;
+        std::uint8_t expected = nested;
         if (has_area(m) && tracking) expected = nested | tracked | has_offset;
-        const uintptr_t inner = state + place(r, m).area;
+        const std::uintptr_t inner = state + place(r, m).area;
         if (has_area(m) && tracking) {
-            EXPECT_EQ(h.offset_of(child), static_cast<uint32_t>(inner - reinterpret_cast<uintptr_t>(child)));
+            EXPECT_EQ(h.offset_of(child), static_cast<std::uint32_t>(inner - reinterpret_cast<std::uintptr_t>(child)));
         }
         if (m.member->kind == Kind::record) {
             expect_headers(h, nested_record(m), child, expected, inner, tracking);
@@ -106,8 +107,8 @@ TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
         each_record([&](const RecordOperations &r) {
             void *object = r.create(h, id);
             const bool tracking = mode == Tracking::on;
-            expect_headers(h, r, object, tracking ? tracked : 0, reinterpret_cast<uintptr_t>(object) + table(r).base,
-                           tracking);
+            expect_headers(h, r, object, tracking ? tracked : 0,
+                           reinterpret_cast<std::uintptr_t>(object) + table(r).base, tracking);
             r.destroy(h, id, object);
         });
         EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0u);
@@ -117,13 +118,13 @@ TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
 TEST(Lifecycle, GetIsTheIdentityWithoutAnyCheck) {
     Handle h;
     Events events(h);
-    uint32_t err = EIO;
+    std::uint32_t err = EIO;
     int anything = 0;
     each_record([&](const RecordOperations &r) {
         EXPECT_EQ(r.get(h, id, nullptr, &err), nullptr);
         EXPECT_EQ(r.get(h, id, &anything, &err), &anything);
     });
-    EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
     EXPECT_TRUE(events.all.empty());
 }
 
@@ -169,8 +170,8 @@ TEST(Lifecycle, WithoutTrackingANestedObjectNeedsNoStateBase) {
     for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
-            std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
-            uint32_t err = 0;
+            std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
+            std::uint32_t err = 0;
             r.initialize(h, id, storage.data(), r.type, 1, 0, nested, nullptr, &err);
             EXPECT_EQ(err, 0u);
             r.destroy_internal(h, id, storage.data(), 0);
@@ -182,11 +183,11 @@ TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
     Handle h(Tracking::on);
     Events events(h);
     each_record([&](const RecordOperations &r) {
-        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
-        uint32_t err = EIO;
+        std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
+        std::uint32_t err = EIO;
         r.initialize(h, id, storage.data(), r.type, 1, 0, 0, nullptr, &err);
-        EXPECT_EQ(storage, std::vector<uint64_t>(storage.size()));
-        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(storage, std::vector<std::uint64_t>(storage.size()));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
     });
     EXPECT_TRUE(events.all.empty());
 }
@@ -194,10 +195,10 @@ TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
 TEST(Lifecycle, SkippingTheCountLeavesOutCountersAndOffsetsButNotTheChildren) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
-        std::vector<uint64_t> storage(table(r).tracked / 8 + 1);
+        std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
         void *object = storage.data();
         const mirk_variant_entry before = entry(*r.type);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Events events(h);
         r.initialize(h, id, object, r.type, 0, 1, 0, nullptr, &err);
         EXPECT_EQ(err, 0u);
@@ -231,7 +232,7 @@ TEST(Lifecycle, SetInstanceEmbeddedMarksAllButEnumerationsAndElements) {
         void *object = filled(h, r, 3, {1, 1, false});
         r.set_instance_embedded(h, id, object);
         expect_marked(r, object);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         for (const MemberOperations &m : r.members) {
             if (m.element_get == nullptr) continue;
             EXPECT_EQ(header(m.element_get(h, id, object, 0, &err))->obj_flag & embedded, 0);

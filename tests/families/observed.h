@@ -38,10 +38,10 @@ protected:
         observing::clear_log();
         observing::name_region("slot", &err, sizeof err);
     }
-    uint32_t err = 0;
+    std::uint32_t err = 0;
 };
 
-inline std::string plus(const std::string &region, uint64_t offset) {
+inline std::string plus(const std::string &region, std::uint64_t offset) {
     return offset == 0 ? region : region + "+" + std::to_string(offset);
 }
 
@@ -61,10 +61,10 @@ inline std::string type_name(const MemberOperations &m) {
 // One object somewhere in a named region, with its state area in the same one.
 struct Spot {
     std::string region = "object";
-    uint32_t at = 0, area = 0;
+    std::uint32_t at = 0, area = 0;
 
-    std::string text(uint32_t offset = 0) const { return plus(region, at + offset); }
-    std::string state(uint32_t slot) const { return plus(region, area + slot); }
+    std::string text(std::uint32_t offset = 0) const { return plus(region, at + offset); }
+    std::string state(std::uint32_t slot) const { return plus(region, area + slot); }
     Spot member(const RecordOperations &r, const MemberOperations &m) const {
         return {region, at + offset(r, m), area + place(r, m).area};
     }
@@ -108,7 +108,7 @@ inline Lines offset_remove_lines(const RecordOperations &r, const Spot &spot) {
 struct Making {
     bool on = false;
     bool private_types = false;
-    uint32_t notify = 1, skip = 0;
+    std::uint32_t notify = 1, skip = 0;
     bool is_nested = false;     // flags 4
     bool has_entry = false;     // flag 64 is set beforehand
     std::string base = "null";  // the sttr_base that is given
@@ -116,7 +116,7 @@ struct Making {
 
 inline Lines header_lines(const std::string &type, const Spot &spot, const Making &s) {
     Lines lines{"mirk_clear_last_error", "mirk_domain_lookup_variant " + type};
-    const auto tell = [&](uint32_t offset, uint32_t size) {
+    const auto tell = [&](std::uint32_t offset, std::uint32_t size) {
         if (s.notify != 0) lines.push_back("write_notify " + spot.text(offset) + " " + std::to_string(size));
     };
     tell(9, 1);

@@ -26,7 +26,7 @@ inline void *sentinel(const RecordOperations &r) {
 }
 
 // A top-level object's area stands directly behind it.
-inline uint8_t *area(const RecordOperations &r, void *object) { return bytes(object) + table(r).base; }
+inline std::uint8_t *area(const RecordOperations &r, void *object) { return bytes(object) + table(r).base; }
 
 inline mirk_variant_entry &entry(const mirk_type_info &type, int variant = 0) {
     return type.variant_info->entries[variant];

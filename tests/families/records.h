@@ -21,8 +21,8 @@ using tarn::reflect::RecordOperations;
 using tarn::schema::Kind;
 using tarn::schema::Role;
 
-inline constexpr uint8_t mapped = 1, embedded = 2, nested = 4, tracked = 8, ra_data = 32, has_offset = 64;
-inline constexpr uint32_t id = 42;  // a ctx_id that nothing else uses
+inline constexpr std::uint8_t mapped = 1, embedded = 2, nested = 4, tracked = 8, ra_data = 32, has_offset = 64;
+inline constexpr std::uint32_t id = 42;  // a ctx_id that nothing else uses
 
 inline const RecordOperations &record(std::string_view name) {
     const RecordOperations *found = tarn::reflect::find_record(name);
@@ -49,20 +49,20 @@ inline const reference::RecordTable &table(const RecordOperations &r) {
     return reference::record_table(r.record->name);
 }
 inline const reference::RecordLayout &layout(const RecordOperations &r) { return reference::layout_of(table(r)); }
-inline size_t index_of(const RecordOperations &r, const MemberOperations &m) {
-    return static_cast<size_t>(&m - r.members.data());
+inline std::size_t index_of(const RecordOperations &r, const MemberOperations &m) {
+    return static_cast<std::size_t>(&m - r.members.data());
 }
 inline const reference::MemberLayout &place(const RecordOperations &r, const MemberOperations &m) {
     return layout(r).members.at(index_of(r, m));
 }
 // An array or a string is reached through its pointer, which has an offset of its own.
-inline uint32_t offset(const RecordOperations &r, const MemberOperations &m) {
+inline std::uint32_t offset(const RecordOperations &r, const MemberOperations &m) {
     const reference::MemberLayout &p = place(r, m);
-    return p.block_offset != reference::kNoSlot ? p.block_offset : p.offset;
+    return p.block_offset != reference::no_slot ? p.block_offset : p.offset;
 }
 
 inline mirk_object *header(void *object) { return static_cast<mirk_object *>(object); }
-inline uint8_t *bytes(void *object) { return static_cast<uint8_t *>(object); }
+inline std::uint8_t *bytes(void *object) { return static_cast<std::uint8_t *>(object); }
 inline void *at(const RecordOperations &r, void *object, const MemberOperations &m) {
     return bytes(object) + offset(r, m);
 }
@@ -93,7 +93,7 @@ inline bool embeds_something(const RecordOperations &r) {
     }
     return false;
 }
-inline uint32_t width(const MemberOperations &m) {
+inline std::uint32_t width(const MemberOperations &m) {
     switch (m.member->kind) {
         case Kind::u8:
             return 1;

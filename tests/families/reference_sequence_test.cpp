@@ -15,12 +15,12 @@ TEST_F(ReferenceSequence, OffsetsOfATrafficClass) {
     void *object = make_object(h, r);
     struct Child {
         const char *name;
-        uint32_t k;
+        std::uint32_t k;
     };
     Lines expected;
     for (const Child &c :
          {Child{"exmem_info", 1}, Child{"src_prefix", 6}, Child{"dst_prefix", 14}, Child{"appl", 34}}) {
-        const uint32_t where = offset(r, member(r, c.name));
+        const std::uint32_t where = offset(r, member(r, c.name));
         expected.push_back("mirklib_update_sttr_offset " + plus("object", where) + " " +
                            std::to_string(320 + c.k - where));
         if (c.k == 6 || c.k == 14) {
@@ -28,7 +28,7 @@ TEST_F(ReferenceSequence, OffsetsOfATrafficClass) {
         }
     }
     const RecordOperations &appl = record("lumo_tarn_dp_appl");
-    const uint32_t inner = offset(r, member(r, "appl")) + offset(appl, member(appl, "exmem_info"));
+    const std::uint32_t inner = offset(r, member(r, "appl")) + offset(appl, member(appl, "exmem_info"));
     expected.push_back("mirklib_update_sttr_offset " + plus("object", inner) + " " + std::to_string(320 + 35 - inner));
     EXPECT_EQ(lines_of([&] { r.offset_update(h, id, object, bytes(object) + 320, &err); }), expected);
 }
@@ -40,11 +40,11 @@ TEST_F(ReferenceSequence, OffsetsOfALearnListEntryAreAlignedForVectors) {
     Lines expected;
     struct Child {
         const char *name;
-        uint32_t k;
+        std::uint32_t k;
     };
     for (const Child &c :
          {Child{"exmem_info", 4}, Child{"filter_tc_list", 16}, Child{"acl_tc_list", 40}, Child{"appl_list", 64}}) {
-        const uint32_t where = offset(r, member(r, c.name));
+        const std::uint32_t where = offset(r, member(r, c.name));
         expected.push_back("mirklib_update_sttr_offset " + plus("object", where) + " " +
                            std::to_string(336 + c.k - where));
     }
@@ -65,18 +65,18 @@ TEST_F(ReferenceSequence, EveryEmbeddedObjectGetsItsOffsetAndLosesIt) {
         EXPECT_EQ(lines_of([&] { r.offset_update(h, id, object, bytes(object) + table(r).base, &err); }),
                   offset_update_lines(r, top_level(r)));
         EXPECT_EQ(lines_of([&] { r.offset_remove(h, id, object, &err); }), offset_remove_lines(r, top_level(r)));
-        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
     });
 }
 
 void each_address(const std::function<void(const RecordOperations &, const MemberOperations &)> &visit) {
-    size_t found = 0;
+    std::size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.member->kind != Kind::address) return;
         ++found;
         visit(r, m);
     });
-    EXPECT_EQ(found, reference::members_of(reference::Class::kAddress));
+    EXPECT_EQ(found, reference::members_of(reference::Class::address));
 }
 
 // What concerns one address while its owner is destroyed.
@@ -101,9 +101,10 @@ Lines sweep_of(const Handle &h, const RecordOperations &r, const MemberOperation
 
 TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
-        for (uintptr_t n : {uintptr_t{0}, uintptr_t{1}, uintptr_t{64}, uintptr_t{65}, uintptr_t{1000}}) {
+        for (std::uintptr_t n :
+             {std::uintptr_t{0}, std::uintptr_t{1}, std::uintptr_t{64}, std::uintptr_t{65}, std::uintptr_t{1000}}) {
             Handle h;
-            for (uintptr_t i = 0; i < n; ++i) h.knobs().address_oids.push_back(reinterpret_cast<void *>(1000 + i));
+            for (std::uintptr_t i = 0; i < n; ++i) h.knobs().address_oids.push_back(reinterpret_cast<void *>(1000 + i));
             Lines expected{"ip_address_get_oid_count address"};
             const Lines lines = sweep_of(h, r, m);
             if (n != 0) {
@@ -111,7 +112,7 @@ TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
                 const std::string room = n <= 64 ? "local" : "elsewhere";  // few on the stack, many not
                 expected.push_back("ip_address_get_object_references address " + room + " " + std::to_string(n));
             }
-            for (uintptr_t i = 0; i < n; ++i) {
+            for (std::uintptr_t i = 0; i < n; ++i) {
                 expected.push_back("mirklib_lookup_and_update_oid_ref_count " + std::to_string(1000 + i) + " 0");
             }
             expected.push_back("ip_address_destroy_internal address 0");
@@ -122,7 +123,7 @@ TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
 
 TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
-        for (uint32_t n : {3u, 100u}) {
+        for (std::uint32_t n : {3u, 100u}) {
             Handle h;
             h.knobs().address_oids = {reinterpret_cast<void *>(1000)};
             h.knobs().address_oid_count = n;
@@ -130,7 +131,7 @@ TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
             const Lines lines = sweep_of(h, r, m);
             ASSERT_EQ(lines.size(), n + 3);
             EXPECT_EQ(lines[2], "mirklib_lookup_and_update_oid_ref_count 1000 0");
-            for (uint32_t i = 1; i < n; ++i) {
+            for (std::uint32_t i = 1; i < n; ++i) {
                 EXPECT_EQ(lines[2 + i], "mirklib_lookup_and_update_oid_ref_count 0 0");
             }
         }
@@ -155,7 +156,7 @@ TEST_F(ReferenceSequence, ACountThatCannotBeLoweredCostsALine) {
 
 TEST_F(ReferenceSequence, ReferencesThatCannotBeReadStopTheDestruction) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
-        for (uint32_t n : {2u, 1000u}) {
+        for (std::uint32_t n : {2u, 1000u}) {
             if (name(m) == "dst_prefix") continue;  // the end comes at the source prefix, which stands in front
             Handle h;
             h.knobs().address_oid_count = n;

@@ -16,7 +16,7 @@ TEST(References, NoRecordHoldsAny) {
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         void *oids[2] = {object, object};
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Trace trace;
         Events events(h);
         EXPECT_EQ(r.get_oid_count(h, id, object, &err), 0u);
@@ -34,23 +34,23 @@ TEST(References, NoRecordHoldsAny) {
 TEST(References, AnErrorThatIsThereIsTracedAndKept) {
     Handle h;
     const auto check = [&](auto &&count, auto &&references) {
-        uint32_t err = EIO;
+        std::uint32_t err = EIO;
         h->last_error = 9;
         Trace trace;
         EXPECT_EQ(count(&err), 0u);
         references(&err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
         EXPECT_EQ(h->last_error, 9u);
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): Error already present in call to get object oid count",
                                         "type 3 (ERR): Error present in call to get table references from object"}));
     };
     each_record([&](const RecordOperations &r) {
-        check([&](uint32_t *e) { return r.get_oid_count(h, id, nullptr, e); },
-              [&](uint32_t *e) { r.get_object_references(h, id, nullptr, nullptr, 0, e); });
+        check([&](std::uint32_t *e) { return r.get_oid_count(h, id, nullptr, e); },
+              [&](std::uint32_t *e) { r.get_object_references(h, id, nullptr, nullptr, 0, e); });
     });
     for (const auto &o : tarn::reflect::enumerations()) {
-        check([&](uint32_t *e) { return o.get_oid_count(h, id, nullptr, e); },
-              [&](uint32_t *e) { o.get_object_references(h, id, nullptr, nullptr, 0, e); });
+        check([&](std::uint32_t *e) { return o.get_oid_count(h, id, nullptr, e); },
+              [&](std::uint32_t *e) { o.get_object_references(h, id, nullptr, nullptr, 0, e); });
     }
 }
 
@@ -58,23 +58,23 @@ TEST(References, ANullObjectIsRefused) {
     Handle h;
     const auto check = [&](auto &&count, auto &&references) {
         Trace trace;
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         EXPECT_EQ(count(&err), 0u);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         err = 0;
         references(&err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): Invalid object passed in to get object oid count",
                                         "type 3 (ERR): Cannot get table references. Invalid object passed on"}));
     };
     each_record([&](const RecordOperations &r) {
-        check([&](uint32_t *e) { return r.get_oid_count(h, id, nullptr, e); },
-              [&](uint32_t *e) { r.get_object_references(h, id, nullptr, nullptr, 0, e); });
+        check([&](std::uint32_t *e) { return r.get_oid_count(h, id, nullptr, e); },
+              [&](std::uint32_t *e) { r.get_object_references(h, id, nullptr, nullptr, 0, e); });
     });
     for (const auto &o : tarn::reflect::enumerations()) {
-        check([&](uint32_t *e) { return o.get_oid_count(h, id, nullptr, e); },
-              [&](uint32_t *e) { o.get_object_references(h, id, nullptr, nullptr, 0, e); });
+        check([&](std::uint32_t *e) { return o.get_oid_count(h, id, nullptr, e); },
+              [&](std::uint32_t *e) { o.get_object_references(h, id, nullptr, nullptr, 0, e); });
     }
 }
 
@@ -83,7 +83,7 @@ TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5);
         const Lines before = content(h, r, object);
-        const size_t blocks = h.live_blocks();
+        const std::size_t blocks = h.live_blocks();
         const mirk_variant_entry counters = entry(*r.type);
         void *oid = nullptr;
         ASSERT_EQ(mirk_platform_oid_mapping_make(h, object, 2, r.destroy, &oid), 0u);
@@ -98,7 +98,7 @@ TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
         EXPECT_EQ(content(h, r, object), before);
         EXPECT_EQ(h.live_blocks(), blocks);
         EXPECT_EQ(std::memcmp(&counters, &entry(*r.type), sizeof counters), 0);
-        uint32_t condemned = 0, err = 0;
+        std::uint32_t condemned = 0, err = 0;
         mirk_platform_oid_mapping_state(h, oid, nullptr, &condemned);
         EXPECT_EQ(condemned, 1u);
         trace.clear();
@@ -124,7 +124,7 @@ TEST(References, AMappingThatCannotBeRemovedKeepsTheObjectWhole) {
         EXPECT_EQ(trace.lines(),
                   (Lines{"type 3 (ERR): " + name(r) + " destroy: Failed to remove oid mapping for object. Error " +
                          std::strerror(EPROTO)}));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
         EXPECT_EQ(content(h, r, object), before);
         EXPECT_EQ(std::memcmp(&counters, &entry(*r.type), sizeof counters), 0);
         r.destroy(h, id, object);
@@ -137,7 +137,7 @@ struct Target {
 };
 
 // Objects that something refers to once.
-std::vector<Target> make_targets(mirk_handle *h, size_t n) {
+std::vector<Target> make_targets(mirk_handle *h, std::size_t n) {
     std::vector<Target> targets(n);
     for (Target &t : targets) {
         t.object = record("lumo_tarn_debug_setting").create(h, id);
@@ -145,8 +145,8 @@ std::vector<Target> make_targets(mirk_handle *h, size_t n) {
     }
     return targets;
 }
-uint32_t references_of(mirk_handle *h, const Target &t) {
-    uint32_t left = 77;
+std::uint32_t references_of(mirk_handle *h, const Target &t) {
+    std::uint32_t left = 77;
     mirk_platform_oid_mapping_state(h, t.oid, &left, nullptr);
     return left;
 }
@@ -168,18 +168,18 @@ void hold(mirk_handle *h, void *address, const std::vector<Target> &targets) {
     std::vector<void *> oids;
     for (const Target &t : targets) oids.push_back(t.oid);
     mirk_platform_address_set_oids(h, static_cast<ip_address *>(address), oids.data(),
-                                   static_cast<uint32_t>(oids.size()));
+                                   static_cast<std::uint32_t>(oids.size()));
 }
 
 TEST(ReferenceSweep, LowersEveryCountThatAnAddressHolds) {
     Handle h;
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
-        for (size_t n : {size_t{0}, size_t{1}, size_t{64}, size_t{65}, size_t{1000}}) {
+        for (std::size_t n : {std::size_t{0}, std::size_t{1}, std::size_t{64}, std::size_t{65}, std::size_t{1000}}) {
             SCOPED_TRACE(n);
             const std::vector<Target> targets = make_targets(h, n);
             void *object = r.create(h, id);
             hold(h, at(r, object, m), targets);
-            const uint64_t allocations = h.allocs();
+            const std::uint64_t allocations = h.allocs();
             Trace trace;
             r.destroy(h, id, object);
             EXPECT_EQ(h.allocs(), allocations) << "room for oids is no object memory";
@@ -195,10 +195,10 @@ TEST(ReferenceSweep, ReachesAddressesInsideElements) {
     Handle h;
     const RecordOperations &list = record("lumo_tarn_dp_tc_list"), &tc = record("lumo_tarn_dp_tc");
     void *object = list.create(h, id);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     member(list, "tc_list").element_set(h, id, object, 1, nullptr, &err);
     const std::vector<Target> targets = make_targets(h, 4);
-    for (uint32_t i = 0; i < 2; ++i) {
+    for (std::uint32_t i = 0; i < 2; ++i) {
         void *element = member(list, "tc_list").element_get(h, id, object, i, &err);
         hold(h, at(tc, element, member(tc, "src_prefix")), {targets[i]});
         hold(h, at(tc, element, member(tc, "dst_prefix")), {targets[2 + i]});
@@ -215,11 +215,11 @@ TEST(ReferenceSweep, ReachesAddressesInsideElements) {
 TEST(ReferenceSweep, StopsTheDestructionWhenReferencesCannotBeRead) {
     Handle h;
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
-        for (size_t n : {size_t{2}, size_t{100}}) {
+        for (std::size_t n : {std::size_t{2}, std::size_t{100}}) {
             const std::vector<Target> targets = make_targets(h, n);
             void *object = r.create(h, id);
             hold(h, at(r, object, m), targets);
-            const uint64_t destroyed = entry(*r.type).num_destroyed;
+            const std::uint64_t destroyed = entry(*r.type).num_destroyed;
             h->last_error = 0;
             h.fail(MIRK_PLATFORM_TESTING_OBJECT_REFERENCES, EPROTO, 0, 1);
             Trace trace;
@@ -268,7 +268,7 @@ TEST(Offsets, ARecordWithoutEmbeddedAreasHasNoneToUpdateOrRemove) {
             if (has_area(m)) return;
         }
         Events events(h);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         r.offset_update(h, id, nullptr, nullptr, &err);
         r.offset_remove(h, id, nullptr, &err);
         EXPECT_TRUE(events.all.empty());

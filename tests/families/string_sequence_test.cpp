@@ -62,7 +62,7 @@ TEST_F(StringSequence, OfSetWithoutMemory) {
         Lines expected = begin;
         append(expected, {"write_notify " + body + " 8", "obj_alloc 4", "mirk_store_err 12"});
         EXPECT_EQ(lines_of([&] { m->text_set(*h, id, object, "abcd", 4, &err); }), expected);
-        EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
     });
 }
 

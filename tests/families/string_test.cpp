@@ -14,18 +14,18 @@ struct Subject {
 };
 
 void each_string(const std::function<void(const Subject &)> &visit) {
-    size_t found = 0;
+    std::size_t found = 0;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.text_set == nullptr) return;
         ++found;
         visit({r, m, r.members[index_of(r, m) - 1]});
     });
-    EXPECT_EQ(found, reference::members_of(reference::Class::kString));
+    EXPECT_EQ(found, reference::members_of(reference::Class::string));
 }
 
 char *body(const Subject &s, void *object) { return read<char *>(at(s.r, object, s.m)); }
-uint64_t length(mirk_handle *h, const Subject &s, void *object) {
-    uint32_t err = 0;
+std::uint64_t length(mirk_handle *h, const Subject &s, void *object) {
+    std::uint32_t err = 0;
     return s.length.get_value(h, id, object, &err);
 }
 
@@ -34,7 +34,7 @@ TEST(Strings, AFreshOneIsEmpty) {
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
         char text[4] = "xyz";
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         EXPECT_EQ(body(s, object), nullptr);
         s.m.text_get(h, id, object, text, sizeof text, &err);
         EXPECT_EQ(err, 0u);
@@ -52,7 +52,7 @@ TEST(Strings, TheBodyHasExactlyItsLength) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             Events events(h);
             s.m.text_set(h, id, object, "abcdef", 6, &err);
             EXPECT_EQ(err, 0u);
@@ -77,24 +77,24 @@ TEST(Strings, ADestinationMustHoldTheTextAndItsEnd) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         s.m.text_set(h, id, object, "abcdef", 6, &err);
         char text[16] = {};
         s.m.text_get(h, id, object, text, 7, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_STREQ(text, "abcdef");
-        for (uint32_t size = 1; size <= 6; ++size) {
+        for (std::uint32_t size = 1; size <= 6; ++size) {
             std::memset(text, '#', sizeof text);
             err = 0;
             s.m.text_get(h, id, object, text, size, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOSPC));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOSPC));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOSPC));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOSPC));
             EXPECT_EQ(std::string(text, size + 1), std::string("abcdef").substr(0, size - 1) + '\0' + '#');
         }
         err = 0;
         s.m.text_get(h, id, object, text, 0, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         s.r.destroy(h, id, object);
     });
 }
@@ -105,12 +105,12 @@ TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
         void *object = s.r.create(h, id);
         header(object)->variant = -1;
         char text[1];
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         s.m.text_get(h, id, object, text, 0, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         err = 0;
         s.m.text_get(h, id, object, text, 1, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EIDRM));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EIDRM));
         header(object)->variant = 0;
         s.r.destroy(h, id, object);
     });
@@ -119,10 +119,10 @@ TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
 TEST(Strings, WithoutAnObjectThereIsNothingToSet) {
     Handle h;
     each_string([&](const Subject &s) {
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         s.m.text_set(h, id, nullptr, "a", 1, &err);
-        EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
-        EXPECT_EQ(h->last_error, static_cast<uint32_t>(EINVAL));
+        EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
+        EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EINVAL));
         h->last_error = 0;
     });
 }
@@ -132,8 +132,8 @@ TEST(Strings, WithoutATextTheBodyIsZeros) {
     mirk_platform_testing_set_fresh_fill(h, 0xA5);
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
-        uint32_t err = 0;
-        for (uint32_t length = 1; length <= 5; ++length) {
+        std::uint32_t err = 0;
+        for (std::uint32_t length = 1; length <= 5; ++length) {
             s.m.text_set(h, id, object, nullptr, length, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(std::memcmp(read<void *>(at(s.r, object, s.m)), "\0\0\0\0\0", length), 0) << length;
@@ -146,7 +146,7 @@ TEST(Strings, AShortTextLeavesZeroesAtTheEndOfTheBody) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         s.m.text_set(h, id, object, "ab", 5, &err);
         EXPECT_EQ(std::string(body(s, object), 5), std::string("ab\0\0\0", 5));
         EXPECT_EQ(length(h, s, object), 5u);
@@ -158,9 +158,9 @@ TEST(Strings, TheLengthIsCutToSixteenBits) {
     Handle h;
     const std::string text(70000, 'q');
     each_string([&](const Subject &s) {
-        for (uint32_t wanted : {65534u, 65535u, 65536u, 65540u, 0xFFFF0003u}) {
+        for (std::uint32_t wanted : {65534u, 65535u, 65536u, 65540u, 0xFFFF0003u}) {
             void *object = s.r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             Events events(h);
             s.m.text_set(h, id, object, text.c_str(), wanted, &err);
             EXPECT_EQ(err, 0u);
@@ -181,7 +181,7 @@ TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             s.m.text_set(h, id, object, "abc", 3, &err);
             s.m.text_set(h, id, object, "", 0, &err);
             EXPECT_EQ(err, 0u);
@@ -205,13 +205,13 @@ TEST(Strings, WithoutMemoryTheOldBodyIsGoneAndTheLengthStale) {
         Handle h(mode);
         each_string([&](const Subject &s) {
             void *object = s.r.create(h, id);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             s.m.text_set(h, id, object, "abc", 3, &err);
             mirk_set_instance_modified(object, 1, 0, 0);
             h.fail_alloc(1);
             s.m.text_set(h, id, object, "wxyz", 4, &err);
-            EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-            EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+            EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
+            EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
             EXPECT_EQ(body(s, object), nullptr);
             EXPECT_EQ(length(h, s, object), 3u);
             EXPECT_EQ(mirk_get_instance_modified(object, 1, 0), 0u);
@@ -238,8 +238,8 @@ TEST(Strings, TheStickySetAnswersWithTheLastError) {
         EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), 0u);
         EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).ctx_id, 90u);
         h.fail_alloc(1);
-        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<uint32_t>(ENOMEM));
-        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<uint32_t>(ENOMEM));
+        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<std::uint32_t>(ENOMEM));
+        EXPECT_EQ(s.m.text_set_cr(h, object, "abc", 3), static_cast<std::uint32_t>(ENOMEM));
         EXPECT_EQ(body(s, object), nullptr);
         s.r.destroy_cr(h, object);
         h->last_error = 0;

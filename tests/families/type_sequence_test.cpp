@@ -40,14 +40,14 @@ TEST_F(TypeSequence, OfAnInitialisationWithoutMemory) {
     Handle h({Tracking::none, 1});
     h.fail_sys_alloc(10);
     const Lines lines = lines_of([&] { lumo_ui_tarn_typeinfo_initialize(h, id, &err); });
-    EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
     EXPECT_EQ(h.private_copies(), 9u);
     ASSERT_EQ(lines.size(), 9u * 4 + 3);
     EXPECT_EQ(lines.back(), "mirk_store_err 12");
     EXPECT_EQ(lines[lines.size() - 2], "sys_alloc 4294967295 288");
 }
 
-void some_handler(mirk_handle *, uint32_t, void *, uint32_t *) {}
+void some_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 
 TEST_F(TypeSequence, TheSiblingModulesAreToldInTheirOrder) {
     const char *const siblings[] = {"comm", "defs", "shared", "stats", "intf", "cond", "view"};

@@ -20,7 +20,7 @@ const mirk_module *this_module() {
 // In the order of the table: records, enumerations, messages.
 struct Described {
     std::string name, kind, luid_text;
-    uint32_t used_length, alloc_slop;
+    std::uint32_t used_length, alloc_slop;
 };
 std::vector<Described> described() {
     std::vector<Described> all;
@@ -50,7 +50,7 @@ TEST(TypeTable, DescribesEachTypeOnce) {
     const mirk_module *found = this_module();
     ASSERT_NE(found, nullptr);
     const std::vector<Described> all = described();
-    for (size_t i = 0; i < all.size(); ++i) {
+    for (std::size_t i = 0; i < all.size(); ++i) {
         SCOPED_TRACE(all[i].name);
         const mirk_type_info *type = found->types[i];
         ASSERT_NE(type, nullptr);
@@ -72,14 +72,14 @@ TEST(TypeTable, DescribesEachTypeOnce) {
         std::memcpy(luid.data(), type->luid, 16);
         EXPECT_EQ(reference::luid_text(luid), type->luid_text);
         // The text fields are padded with NULs to their ends.
-        for (size_t k = all[i].name.size(); k < sizeof type->name; ++k) EXPECT_EQ(type->name[k], '\0');
+        for (std::size_t k = all[i].name.size(); k < sizeof type->name; ++k) EXPECT_EQ(type->name[k], '\0');
     }
     EXPECT_EQ(found->types[all.size()], nullptr);
 }
 
 TEST(TypeTable, TheIndexCapKeepsNegativeVariants) {
     for (int variant = -128; variant < 128; ++variant) {
-        const auto v = static_cast<int8_t>(variant);
+        const auto v = static_cast<std::int8_t>(variant);
         each_record([&](const RecordOperations &r) { EXPECT_EQ(r.variant_data_index_cap(v), variant < 0 ? v : 0); });
         for (const auto &e : tarn::reflect::enumerations()) EXPECT_EQ(e.variant_data_index_cap(v), variant < 0 ? v : 0);
     }
@@ -87,7 +87,7 @@ TEST(TypeTable, TheIndexCapKeepsNegativeVariants) {
 
 TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
     Handle h({.tracking = Tracking::none, .private_types = 3});
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     Events events(h);
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
     EXPECT_EQ(err, 0u);
@@ -108,10 +108,10 @@ TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
 
 TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
     Handle h({.tracking = Tracking::none, .private_types = 3});
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
     const mirk_module *found = this_module();
-    for (size_t i = 0; i < described().size(); ++i) {
+    for (std::size_t i = 0; i < described().size(); ++i) {
         const mirk_type_info *own = found->types[i];
         const mirk_type_info_copy *copy = h->type_store_get(h->type_store, id, own->luid_text);
         ASSERT_NE(copy, nullptr);
@@ -126,27 +126,27 @@ TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
 
 TEST(PrivateTypes, TheSlotIsNotReadAndTheLastErrorStays) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
-    uint32_t err = EIO;
+    std::uint32_t err = EIO;
     h->last_error = 9;
     Events events(h);
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
     EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_TYPE_PUT), described().size());
     EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_CLEAR_ERROR), 0u);
-    EXPECT_EQ(err, static_cast<uint32_t>(EIO));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EIO));
     EXPECT_EQ(h->last_error, 9u);
 }
 
 TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 10, 0);
     Events events(h);
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
-    EXPECT_EQ(err, static_cast<uint32_t>(ENOMEM));
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(ENOMEM));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(ENOMEM));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(ENOMEM));
     EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_TYPE_PUT), 9u);
     const mirk_module *found = this_module();
-    for (size_t i = 0; i < described().size(); ++i) {
+    for (std::size_t i = 0; i < described().size(); ++i) {
         EXPECT_EQ(h->type_store_get(h->type_store, id, found->types[i]->luid_text) != nullptr, i < 9);
     }
     events.all.clear();
@@ -156,12 +156,12 @@ TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
     EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_TYPE_PUT), described().size() - 9);
     const auto updates = events.of(MIRK_PLATFORM_TESTING_VARIANT_INFO_UPDATE);
     ASSERT_EQ(updates.size(), described().size());
-    for (size_t i = 0; i < described().size(); ++i) EXPECT_EQ(updates[i].value, i < 9 ? 0 : 1);
+    for (std::size_t i = 0; i < described().size(); ++i) EXPECT_EQ(updates[i].value, i < 9 ? 0 : 1);
 }
 
 TEST(PrivateTypes, ARecordWithoutVariantBlockIsCopiedWithoutUpdate) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     mirk_variant_info *kept = _lumo_tarn_dp_tc_type_info_internal.variant_info;
     _lumo_tarn_dp_tc_type_info_internal.variant_info = nullptr;
     Events events(h);
@@ -224,8 +224,8 @@ TEST(VariantDump, NotesATypeWithoutVariantsAndGoesOn) {
     EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): type variant cached info is NULL during usage dump"}));
 }
 
-void some_handler(mirk_handle *, uint32_t, void *, uint32_t *) {}
-void other_handler(mirk_handle *, uint32_t, void *, uint32_t *) {}
+void some_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
+void other_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 
 TEST(BundleHandler, RegisteringHandsBackTheOneBefore) {
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(some_handler), nullptr);
@@ -245,8 +245,8 @@ TEST(BundleHandler, LeavesTheVariablesOfTheBundlesAlone) {
 TEST(TypesDeathTest, AnObjectWithoutAnyTypeCannotBeSetUp) {
     // Without a copy and without an answer from the runtime there is nothing to count in.
     Handle h;
-    alignas(8) uint8_t object[64] = {};
-    uint32_t err = 0;
+    alignas(8) std::uint8_t object[64] = {};
+    std::uint32_t err = 0;
     EXPECT_EXIT(record("lumo_tarn_debug_setting").initialize(h, id, object, nullptr, 1, 0, 0, nullptr, &err),
                 testing::KilledBySignal(SIGABRT), "\\(FATAL\\): varinfo is NULL");
 }

@@ -7,14 +7,14 @@ namespace families {
 namespace {
 
 // The highest index comes first, so that an array grows once.
-uint32_t fill_array(mirk_handle *h, const MemberOperations &m, void *object, uint32_t seed, Extent extent) {
+std::uint32_t fill_array(mirk_handle *h, const MemberOperations &m, void *object, std::uint32_t seed, Extent extent) {
     const RecordOperations &element = nested_record(m);
-    uint32_t first_error = 0;
-    for (uint32_t i = extent.elements; extent.depth > 0 && i-- > 0;) {
+    std::uint32_t first_error = 0;
+    for (std::uint32_t i = extent.elements; extent.depth > 0 && i-- > 0;) {
         void *value = element.create(h, id);
-        uint32_t error = value == nullptr ? ENOMEM
-                                          : fill(h, element, value, seed + 17 * (i + 1),
-                                                 {extent.elements, extent.depth - 1, extent.states});
+        std::uint32_t error = value == nullptr ? ENOMEM
+                                               : fill(h, element, value, seed + 17 * (i + 1),
+                                                      {extent.elements, extent.depth - 1, extent.states});
         if (first_error == 0) first_error = error;
         error = 0;
         if (value != nullptr) m.element_set(h, id, object, i, value, &error);
@@ -24,21 +24,21 @@ uint32_t fill_array(mirk_handle *h, const MemberOperations &m, void *object, uin
     return first_error;
 }
 
-uint32_t fill_member(mirk_handle *h, const RecordOperations &r, const MemberOperations &m, void *object, uint32_t seed,
-                     Extent extent) {
-    uint32_t err = 0;
+std::uint32_t fill_member(mirk_handle *h, const RecordOperations &r, const MemberOperations &m, void *object,
+                          std::uint32_t seed, Extent extent) {
+    std::uint32_t err = 0;
     if (m.member->kind == Kind::record) {
         return fill(h, nested_record(m), at(r, object, m), seed, extent);
     } else if (m.member->kind == Kind::array) {
         return fill_array(h, m, object, seed, extent);
     } else if (m.member->kind == Kind::string) {
         const std::string text = name(m) + std::to_string(seed);
-        m.text_set(h, id, object, text.data(), static_cast<uint32_t>(text.size()), &err);
+        m.text_set(h, id, object, text.data(), static_cast<std::uint32_t>(text.size()), &err);
     } else if (m.member->kind == Kind::address) {
         auto *address = static_cast<ip_address *>(at(r, object, m));
         address->af = AF_INET6;
-        address->prefix_len = static_cast<uint8_t>(seed % 129);
-        for (uint32_t i = 0; i < 4; ++i) address->word[i] = seed * 0x01010101U + i;
+        address->prefix_len = static_cast<std::uint8_t>(seed % 129);
+        for (std::uint32_t i = 0; i < 4; ++i) address->word[i] = seed * 0x01010101U + i;
     } else if (m.set_value != nullptr) {
         const bool small = is_value_kind(m);
         m.set_value(h, id, object, small ? 1 : 0x0123456789ABCDEFU * (seed | 1), &err);
@@ -46,11 +46,11 @@ uint32_t fill_member(mirk_handle *h, const RecordOperations &r, const MemberOper
     return err;
 }
 
-void read_array(mirk_handle *h, const MemberOperations &m, void *object, uint64_t count, const std::string &label,
+void read_array(mirk_handle *h, const MemberOperations &m, void *object, std::uint64_t count, const std::string &label,
                 std::vector<std::string> &lines) {
     const RecordOperations &element = nested_record(m);
-    for (uint32_t i = 0; i < count; ++i) {
-        uint32_t err = 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        std::uint32_t err = 0;
         void *item = m.element_get(h, id, object, i, &err);
         const std::string item_label = label + "[" + std::to_string(i) + "]";
         if (item == nullptr) {
@@ -66,22 +66,22 @@ void read_array(mirk_handle *h, const MemberOperations &m, void *object, uint64_
 
 }  // namespace
 
-uint32_t fill(mirk_handle *h, const RecordOperations &r, void *object, uint32_t seed, Extent extent) {
-    uint32_t first_error = 0;
+std::uint32_t fill(mirk_handle *h, const RecordOperations &r, void *object, std::uint32_t seed, Extent extent) {
+    std::uint32_t first_error = 0;
     for (const MemberOperations &m : r.members) {
         seed = seed * 31 + 7;
-        const uint32_t error = fill_member(h, r, m, object, seed, extent);
+        const std::uint32_t error = fill_member(h, r, m, object, seed, extent);
         if (first_error == 0) first_error = error;
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         if (extent.states && m.state_flag_set != nullptr) {
-            m.state_flag_set(h, id, object, static_cast<uint8_t>(seed | 1), &err);
+            m.state_flag_set(h, id, object, static_cast<std::uint8_t>(seed | 1), &err);
         }
         if (first_error == 0) first_error = err;
     }
     return first_error;
 }
 
-void *filled(mirk_handle *h, const RecordOperations &r, uint32_t seed, Extent extent) {
+void *filled(mirk_handle *h, const RecordOperations &r, std::uint32_t seed, Extent extent) {
     void *object = r.create(h, id);
     EXPECT_EQ(fill(h, r, object, seed, extent), 0u);
     return object;
@@ -89,9 +89,9 @@ void *filled(mirk_handle *h, const RecordOperations &r, uint32_t seed, Extent ex
 
 std::vector<std::string> content(mirk_handle *h, const RecordOperations &r, void *object) {
     std::vector<std::string> lines;
-    uint64_t last_number = 0;  // a count stands right in front of its array
+    std::uint64_t last_number = 0;  // a count stands right in front of its array
     for (const MemberOperations &m : r.members) {
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         const std::string label = name(m);
         if (m.get_value != nullptr) {
             last_number = m.get_value(h, id, object, &err);
@@ -102,12 +102,12 @@ std::vector<std::string> content(mirk_handle *h, const RecordOperations &r, void
             }
         } else if (m.member->kind == Kind::string) {
             std::vector<char> text(last_number + 1);
-            m.text_get(h, id, object, text.data(), static_cast<uint32_t>(text.size()), &err);
+            m.text_get(h, id, object, text.data(), static_cast<std::uint32_t>(text.size()), &err);
             lines.push_back(label + " " + std::string(text.data(), last_number));
         } else if (m.member->kind == Kind::address) {
             const auto *address = static_cast<ip_address *>(at(r, object, m));
             std::string line = label + " " + std::to_string(address->af) + " " + std::to_string(address->prefix_len);
-            for (uint32_t word : address->word) line += " " + std::to_string(word);
+            for (std::uint32_t word : address->word) line += " " + std::to_string(word);
             lines.push_back(line);
         } else {
             read_array(h, m, object, last_number, label, lines);

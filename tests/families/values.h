@@ -6,16 +6,16 @@
 namespace families {
 
 struct Extent {
-    uint32_t elements = 2;  // of every array
-    int depth = 3;          // arrays farther down stay empty
-    bool states = false;    // state bytes too, on a tracking handle
+    std::uint32_t elements = 2;  // of every array
+    int depth = 3;               // arrays farther down stay empty
+    bool states = false;         // state bytes too, on a tracking handle
 };
 
 // Everything that can be set gets a value that follows from the seed. Errors are put up with, so that a fill can be
 // tried under failing allocations; the first one is the result.
-uint32_t fill(mirk_handle *h, const RecordOperations &r, void *object, uint32_t seed, Extent extent = {});
+std::uint32_t fill(mirk_handle *h, const RecordOperations &r, void *object, std::uint32_t seed, Extent extent = {});
 
-void *filled(mirk_handle *h, const RecordOperations &r, uint32_t seed, Extent extent = {});
+void *filled(mirk_handle *h, const RecordOperations &r, std::uint32_t seed, Extent extent = {});
 
 // One line for each value, and for each state byte if the handle tracks.
 std::vector<std::string> content(mirk_handle *h, const RecordOperations &r, void *object);

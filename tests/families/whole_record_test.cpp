@@ -8,13 +8,13 @@ using namespace families;
 namespace {
 
 struct Numbers {
-    explicit Numbers(uint64_t start) {
-        for (size_t i = 0; i < 64; ++i) {
+    explicit Numbers(std::uint64_t start) {
+        for (std::size_t i = 0; i < 64; ++i) {
             value[i] = start;
             out[i] = &value[i];
         }
     }
-    uint64_t value[64];
+    std::uint64_t value[64];
     void *out[64];
 };
 
@@ -28,12 +28,12 @@ TEST(WholeRecord, GetAllGivesEveryNumberInMemberOrder) {
         each_record([&](const RecordOperations &r) {
             void *object = filled(h, r, 21, {3, 1, false});
             Numbers numbers(0);
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             h->last_error = 9;
             r.get_all(h, id, object, numbers.out, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(h->last_error, 0u);
-            size_t next = 0;
+            std::size_t next = 0;
             for (const MemberOperations &m : r.members) {
                 if (!is_listed_by_get_all(m)) continue;
                 EXPECT_NE(numbers.value[next], 0u) << name(m);
@@ -51,7 +51,7 @@ TEST(WholeRecord, SetAllSetsEveryScalarInMemberOrderAndLeavesStateAlone) {
         each_record([&](const RecordOperations &r) {
             void *object = r.create(h, id);
             Numbers numbers(0);
-            size_t n = 0;
+            std::size_t n = 0;
             bool sets_something = false;
             for (const MemberOperations &m : r.members) {
                 if (!is_listed_by_set_all(m)) continue;
@@ -59,7 +59,7 @@ TEST(WholeRecord, SetAllSetsEveryScalarInMemberOrderAndLeavesStateAlone) {
                 ++n;
                 sets_something = true;
             }
-            uint32_t err = 0;
+            std::uint32_t err = 0;
             h->last_error = 9;
             r.set_all(h, id, object, numbers.value, &err);
             EXPECT_EQ(err, 0u);
@@ -68,10 +68,10 @@ TEST(WholeRecord, SetAllSetsEveryScalarInMemberOrderAndLeavesStateAlone) {
             n = 0;
             for (const MemberOperations &m : r.members) {
                 if (!is_listed_by_get_all(m)) continue;
-                const uint64_t expected = is_listed_by_set_all(m) ? numbers.value[n++] : 0;
+                const std::uint64_t expected = is_listed_by_set_all(m) ? numbers.value[n++] : 0;
                 EXPECT_EQ(m.get_value(h, id, object, &err), expected) << name(m);
             }
-            for (uint32_t i = 0; mode == Tracking::on && i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+            for (std::uint32_t i = 0; mode == Tracking::on && i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
             r.destroy(h, id, object);
         });
     }
@@ -82,7 +82,7 @@ TEST(WholeRecord, ARecordOfOneArrayHasNothingToSetAtOnce) {
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     void *object = r.create(h, id);
     Events events(h);
-    uint32_t err = 0;
+    std::uint32_t err = 0;
     r.set_all(h, id, object, nullptr, &err);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_WRITE_NOTIFY), 0u);
@@ -95,12 +95,12 @@ TEST(WholeRecord, ANegativeVariantPassesSilently) {
         void *object = filled(h, r, 5, {1, 1, false});
         h.set_variant(*r.type, -1);
         header(object)->variant = -1;
-        const std::vector<uint8_t> before(bytes(object), bytes(object) + table(r).base);
+        const std::vector<std::uint8_t> before(bytes(object), bytes(object) + table(r).base);
         Numbers numbers(77);
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         Trace trace;
         r.get_all(h, id, object, numbers.out, &err);
-        for (uint64_t value : numbers.value) EXPECT_EQ(value, 77u);
+        for (std::uint64_t value : numbers.value) EXPECT_EQ(value, 77u);
         r.set_all(h, id, object, numbers.value, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(h->last_error, 0u);
@@ -117,11 +117,11 @@ TEST(WholeRecord, GetAllOfNullGivesZeroes) {
     each_record([&](const RecordOperations &r) {
         Numbers numbers(0);
         for (const MemberOperations &m : r.members) {
-            if (is_listed_by_get_all(m)) numbers.value[static_cast<size_t>(&m - r.members.data())] = 0;
+            if (is_listed_by_get_all(m)) numbers.value[static_cast<std::size_t>(&m - r.members.data())] = 0;
         }
-        uint32_t err = 0;
+        std::uint32_t err = 0;
         r.get_all(h, id, nullptr, numbers.out, &err);
-        for (uint64_t value : numbers.value) EXPECT_EQ(value, 0u);
+        for (std::uint64_t value : numbers.value) EXPECT_EQ(value, 0u);
         // No member that is read is there, so nothing can be set either.
         r.set_all(h, id, nullptr, numbers.value, &err);
         h->last_error = 0;
@@ -135,7 +135,7 @@ TEST(WholeRecord, EveryStateByteIsFilledAtOnceAndUnannounced) {
         mirk_set_instance_modified(object, 1, 0, 0);
         Events events(h);
         r.set_all_state_tracking_flag(h, id, object, 0x5A);
-        for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0x5A);
+        for (std::uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0x5A);
         EXPECT_EQ(events.count(MIRK_PLATFORM_TESTING_WRITE_NOTIFY), 0u);
         EXPECT_EQ(mirk_get_instance_modified(object, 1, 0), 0u);
         r.set_all_state_tracking_flag(h, id, object, 0);
@@ -152,12 +152,12 @@ TEST(WholeRecord, TheFillReachesElementsOfOwnArrays) {
         const RecordOperations &e = nested_record(m);
         void *object = filled(h, r, 5, {2, 1, false});
         r.set_all_state_tracking_flag(h, id, object, 0x5A);
-        uint32_t err = 0;
-        for (uint32_t i = 0; i < 2; ++i) {
+        std::uint32_t err = 0;
+        for (std::uint32_t i = 0; i < 2; ++i) {
             void *element = m.element_get(h, id, object, i, &err);
-            const std::optional<uint32_t> away = h.offset_of(element);
+            const std::optional<std::uint32_t> away = h.offset_of(element);
             ASSERT_TRUE(away.has_value());
-            for (uint32_t k = 0; k < table(e).state; ++k) EXPECT_EQ(bytes(element)[*away + k], 0x5A);
+            for (std::uint32_t k = 0; k < table(e).state; ++k) EXPECT_EQ(bytes(element)[*away + k], 0x5A);
             EXPECT_EQ(m.element_state_flag_get(h, id, object, i, &err), 0x5A);
         }
         EXPECT_EQ(err, 0u);
@@ -169,10 +169,10 @@ TEST(WholeRecord, AnUntrackedObjectAndANullOneAreNotFilled) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
-        header(object)->obj_flag &= static_cast<uint8_t>(~tracked);
+        header(object)->obj_flag &= static_cast<std::uint8_t>(~tracked);
         r.set_all_state_tracking_flag(h, id, object, 7);
         r.set_all_state_tracking_flag(h, id, nullptr, 7);
-        for (uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
+        for (std::uint32_t i = 0; i < table(r).state; ++i) EXPECT_EQ(area(r, object)[i], 0);
         r.destroy(h, id, object);
     });
 }
@@ -180,9 +180,9 @@ TEST(WholeRecord, AnUntrackedObjectAndANullOneAreNotFilled) {
 TEST(WholeRecord, AFieldIndexIsValidBelowTheNumberOfMembersOrInALaterVariant) {
     Handle h;
     each_record([&](const RecordOperations &r) {
-        const auto n = static_cast<uint32_t>(table(r).members.size());
+        const auto n = static_cast<std::uint32_t>(table(r).members.size());
         for (int variant : {-128, -1, 0, 1, 127}) {
-            h.set_variant(*r.type, static_cast<int8_t>(variant));
+            h.set_variant(*r.type, static_cast<std::int8_t>(variant));
             EXPECT_EQ(r.is_valid_cr(h, nullptr, 0), 1u);
             EXPECT_EQ(r.is_valid_cr(h, nullptr, n - 1), 1u);
             EXPECT_EQ(r.is_valid_cr(h, nullptr, n), variant > 0 ? 1u : 0u);
@@ -199,7 +199,7 @@ TEST(WholeRecord, TheSlotOfAValidityQuestionIsTheLastError) {
     Handle h;
     h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
     EXPECT_EQ(record("lumo_tarn_dp_tc").is_valid_cr(h, nullptr, 17), 0u);
-    EXPECT_EQ(h->last_error, static_cast<uint32_t>(EPROTO));
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
 }
 
 }  // namespace

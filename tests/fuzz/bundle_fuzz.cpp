@@ -7,7 +7,7 @@ namespace {
 
 using namespace fuzz;
 
-constexpr unsigned kRecorded = 4, kLinkedHandler = 5, kTakesNothing = 6, kForTheModule = 7;
+constexpr unsigned recorded_bit = 4, linked_handler_bit = 5, takes_nothing_bit = 6, for_the_module_bit = 7;
 
 struct Receiver {
     bool takes_messages;
@@ -63,22 +63,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static FILE *nowhere = std::fopen("/dev/null", "w");
     Input input(data, size);
     const Choice choice(input.u8());
-    Receiver receiver{!choice.bit(kTakesNothing)};
+    Receiver receiver{!choice.bit(takes_nothing_bit)};
     {
         const Handle handle(options(choice));
-        enlist(handle, !choice.bit(kLinkedHandler), std::make_index_sequence<messages>{});
-        if (choice.bit(kForTheModule)) {
+        enlist(handle, !choice.bit(linked_handler_bit), std::make_index_sequence<messages>{});
+        if (choice.bit(for_the_module_bit)) {
             lumo_ui_tarn_bundle_handler_register(on_bundle);
         } else {
             mirk_platform_handle_set_bundle_handler(handle, on_bundle);
         }
-        mirk_platform_recorder_set(choice.bit(kRecorded) ? 1 : 0, nowhere);
+        mirk_platform_recorder_set(choice.bit(recorded_bit) ? 1 : 0, nowhere);
         const auto frames = input.rest();
         mirk_platform_report report;
-        mirk_platform_dispatch(handle, kId, guarded(frames), static_cast<std::uint32_t>(frames.size()), &receiver,
+        mirk_platform_dispatch(handle, id, guarded(frames), static_cast<std::uint32_t>(frames.size()), &receiver,
                                &report);
         mirk_platform_recorder_set(0, nullptr);
     }
-    if (choice.bit(kForTheModule)) lumo_ui_tarn_bundle_handler_unregister();
+    if (choice.bit(for_the_module_bit)) lumo_ui_tarn_bundle_handler_unregister();
     return 0;
 }

@@ -11,7 +11,7 @@ namespace {
 using namespace fuzz;
 using reference::Record;
 
-constexpr unsigned kGenerated = 4, kStrange = 5;
+constexpr unsigned generated_bit = 4, strange_bit = 5;
 
 void require_same(const testing::AssertionResult &result) {
     if (result) return;
@@ -37,13 +37,13 @@ void hold_against(mirk_handle *h, bool tracks, const RecordOperations &record, v
     const bridge::Marshalled written = write(h, record, instance);
     require(written.error == 0, "a value is written without an error");
     require_same(bridge::same(reference::encode(value, tracks), written.bytes));
-    require(record.len(h, kId, instance) == reference::length(value, tracks), "lengths agree");
+    require(record.len(h, id, instance) == reference::length(value, tracks), "lengths agree");
     const Text printed = text_of([&](char *to, std::int32_t size, std::uint32_t *err) {
-        return record.print(h, kId, to, 0, "o", instance, size, err);
+        return record.print(h, id, to, 0, "o", instance, size, err);
     });
     require(printed.error == 0 && printed.text == reference::print(value, "o"), "texts agree");
     const Text rendered = text_of([&](char *to, std::int32_t size, std::uint32_t *err) {
-        return record.to_xml(h, kId, "o", to, instance, size, 0, err);
+        return record.to_xml(h, id, "o", to, instance, size, 0, err);
     });
     require(rendered.error == 0 && rendered.text == reference::to_xml(value, "o", tracks), "documents agree");
     require_same(bridge::same(value, bridge::extract(h, record, instance)));
@@ -55,15 +55,15 @@ void bytes(const Choice &choice, const RecordOperations &record, std::span<const
     for (const bool tracked : {false, true}) {
         const reference::Decoded decoded = reference::decode(record.record->name, frame, tracked);
         if (!decoded.value) continue;
-        void *instance = record.create(handle, kId);
+        void *instance = record.create(handle, id);
         std::uint32_t err = 0;
-        const std::uint32_t consumed = record.unmarshal(handle, kId, guarded(frame.first(decoded.consumed)), instance,
+        const std::uint32_t consumed = record.unmarshal(handle, id, guarded(frame.first(decoded.consumed)), instance,
                                                         static_cast<std::uint32_t>(decoded.consumed), 0, &err);
         require(err == 0, "a good frame is read without an error");
         require(consumed == decoded.consumed, "a good frame is read to its end");
         const Record expected = reference::as_received(*decoded.value, tracked && handle.tracks());
         require_same(bridge::same(expected, bridge::extract(handle, record, instance)));
-        record.destroy(handle, kId, instance);
+        record.destroy(handle, id, instance);
     }
 }
 
@@ -78,22 +78,22 @@ void generated(const Choice &choice, const RecordOperations &record, Input &inpu
                                           .max_text = text,
                                           .budget = 2048,
                                           .states = handle.tracks(),
-                                          .strange = choice.bit(kStrange)});
+                                          .strange = choice.bit(strange_bit)});
     const Record value = generator.make(record.record->name);
-    void *instance = record.create(handle, kId);
+    void *instance = record.create(handle, id);
     bridge::fill(handle, record, instance, value);
     hold_against(handle, handle.tracks(), record, instance, value);
     // Read by a handle of any kind.
     const Bytes frame = reference::encode(value, handle.tracks());
-    record.destroy(handle, kId, instance);
+    record.destroy(handle, id, instance);
     const Handle peer(options(Choice(input.u8())));
-    void *received = record.create(peer, kId);
+    void *received = record.create(peer, id);
     std::uint32_t err = 0;
-    record.unmarshal(peer, kId, guarded(frame), received, static_cast<std::uint32_t>(frame.size()), 0, &err);
+    record.unmarshal(peer, id, guarded(frame), received, static_cast<std::uint32_t>(frame.size()), 0, &err);
     require(err == 0, "a good frame is read without an error");
     require_same(bridge::same(reference::as_received(value, handle.tracks() && peer.tracks()),
                               bridge::extract(peer, record, received)));
-    record.destroy(peer, kId, received);
+    record.destroy(peer, id, received);
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Input input(data, size);
     const RecordOperations &record = tarn::reflect::records()[input.u8() % tarn::reflect::records().size()];
     const Choice choice(input.u8());
-    if (choice.bit(kGenerated)) {
+    if (choice.bit(generated_bit)) {
         generated(choice, record, input);
     } else {
         bytes(choice, record, input.rest());

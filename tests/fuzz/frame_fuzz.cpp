@@ -5,59 +5,59 @@ namespace {
 
 using namespace fuzz;
 
-constexpr unsigned kOccupied = 4, kReuse = 5, kCleanSecond = 6;
+constexpr unsigned occupied = 4, reuse = 5, clean_second = 6;
 
 void read_record(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
     Handle handle(options(choice));
     const auto size = static_cast<std::uint32_t>(frame.size());
-    void *instance = record.create(handle, kId);
+    void *instance = record.create(handle, id);
     std::uint32_t err = 0;
-    if (choice.bit(kOccupied)) {
+    if (choice.bit(occupied)) {
         // Read twice: what an occupied instance loses belongs to the behaviour.
         handle.allow_lost_blocks();
-        record.unmarshal(handle, kId, guarded(frame), instance, size, 0, &err);
+        record.unmarshal(handle, id, guarded(frame), instance, size, 0, &err);
         err = 0;
     }
-    record.unmarshal(handle, kId, guarded(frame), instance, size, choice.bit(kReuse) ? 1 : 0, &err);
+    record.unmarshal(handle, id, guarded(frame), instance, size, choice.bit(reuse) ? 1 : 0, &err);
     mirk_clear_last_error(handle);
     use(handle, record, instance);
     const bridge::Marshalled written = write(handle, record, instance);
     if (err == 0 && written.error == 0) {
-        void *again = record.create(handle, kId);
+        void *again = record.create(handle, id);
         std::uint32_t error = 0;
-        record.unmarshal(handle, kId, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()),
-                         0, &error);
+        record.unmarshal(handle, id, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()), 0,
+                         &error);
         if (error == 0) {
             require(record.compare(instance, again) == 0, "what was written reads back as it was");
             require(record.hash(instance, 5) == record.hash(again, 5), "what is equal hashes alike");
         }
         std::uint32_t assigned = 0;
-        void *third = record.create(handle, kId);
-        if (third != nullptr) record.set(handle, kId, third, again, &assigned);
-        if (third != nullptr) record.destroy(handle, kId, third);
-        if (again != nullptr) record.destroy(handle, kId, again);
+        void *third = record.create(handle, id);
+        if (third != nullptr) record.set(handle, id, third, again, &assigned);
+        if (third != nullptr) record.destroy(handle, id, third);
+        if (again != nullptr) record.destroy(handle, id, again);
     }
     void *copy = record.clone_cr(handle, instance);
     if (copy != nullptr) {
         use(handle, record, copy, 256);
-        record.destroy(handle, kId, copy);
+        record.destroy(handle, id, copy);
     }
     mirk_clear_last_error(handle);
     std::uint32_t word = 0;
-    record.type_type_backpropagate(handle, kId, instance, &word);
+    record.type_type_backpropagate(handle, id, instance, &word);
     bridge::extract(handle, record, instance);
-    record.destroy(handle, kId, instance);
+    record.destroy(handle, id, instance);
 }
 
 void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration,
                       std::span<const std::uint8_t> frame) {
     const Handle handle(options(choice));
-    void *instance = enumeration.create(handle, kId);
+    void *instance = enumeration.create(handle, id);
     std::uint32_t err = 0;
-    enumeration.unmarshal(handle, kId, guarded(frame), instance, static_cast<std::uint32_t>(frame.size()),
-                          choice.bit(kReuse) ? 1 : 0, &err);
+    enumeration.unmarshal(handle, id, guarded(frame), instance, static_cast<std::uint32_t>(frame.size()),
+                          choice.bit(reuse) ? 1 : 0, &err);
     use(handle, enumeration, instance);
-    enumeration.destroy(handle, kId, instance);
+    enumeration.destroy(handle, id, instance);
 }
 
 void read_message(const Choice &choice, const MessageOperations &message, std::span<const std::uint8_t> frame) {
@@ -65,12 +65,12 @@ void read_message(const Choice &choice, const MessageOperations &message, std::s
     const auto size = static_cast<std::uint32_t>(frame.size());
     void *object = nullptr;
     std::uint32_t err = 0;
-    message.unmarshal_only(handle, kId, &object, guarded(frame), size, &err);
+    message.unmarshal_only(handle, id, &object, guarded(frame), size, &err);
     if (object != nullptr) {
         use(handle, message, object);
-        message.destroy(handle, kId, object);
+        message.destroy(handle, id, object);
     }
-    if (!choice.bit(kCleanSecond)) return;
+    if (!choice.bit(clean_second)) return;
     // The operation that delivers keeps what a bad frame left.
     err = 0;
     handle.allow_lost_blocks();
@@ -78,7 +78,7 @@ void read_message(const Choice &choice, const MessageOperations &message, std::s
                                                std::uint32_t *) {
         static_cast<const MessageOperations *>(context)->destroy(h, ctx_id, received);
     };
-    message.unmarshal(handle, kId, const_cast<MessageOperations *>(&message), nullptr, guarded(frame), size, end, &err);
+    message.unmarshal(handle, id, const_cast<MessageOperations *>(&message), nullptr, guarded(frame), size, end, &err);
 }
 
 }  // namespace

@@ -9,8 +9,8 @@ namespace fuzz {
 namespace {
 
 // Low enough that a count from an input costs little, high enough for what the seeds hold.
-constexpr std::uint64_t kRequestCeiling = 12 << 10, kTotalCeiling = 48 << 10;
-constexpr std::size_t kMostBytes = std::size_t{1} << 21;
+constexpr std::uint64_t request_ceiling = 12 << 10, total_ceiling = 48 << 10;
+constexpr std::size_t most_bytes = std::size_t{1} << 21;
 
 template <class Number>
 Number number(Input &input) {
@@ -20,7 +20,7 @@ Number number(Input &input) {
 }
 
 kit::GuardedMemory &output() {
-    static kit::GuardedMemory memory(kMostBytes);
+    static kit::GuardedMemory memory(most_bytes);
     return memory;
 }
 
@@ -57,8 +57,8 @@ kit::Options options(const Choice &choice) {
     return {.tracking = choice.tracking(),
             .private_types = choice.bit(2),
             .lenient = choice.bit(3),
-            .request_ceiling = kRequestCeiling,
-            .total_ceiling = kTotalCeiling,
+            .request_ceiling = request_ceiling,
+            .total_ceiling = total_ceiling,
             .fresh_fill = 0xDB,
             .on_leak = [](std::size_t, std::size_t, const kit::Options &) {
                 require(false, "nothing is left on the handle");
@@ -78,8 +78,8 @@ std::size_t roots() {
 }
 
 std::uint8_t *guarded(std::span<const std::uint8_t> bytes) {
-    static kit::GuardedMemory memory(kMostBytes);
-    return memory.put(bytes.data(), std::min(bytes.size(), kMostBytes));
+    static kit::GuardedMemory memory(most_bytes);
+    return memory.put(bytes.data(), std::min(bytes.size(), most_bytes));
 }
 
 void use(mirk_handle *h, const RecordOperations &record, void *instance, std::uint32_t size) {
@@ -87,12 +87,12 @@ void use(mirk_handle *h, const RecordOperations &record, void *instance, std::ui
     char *text = reinterpret_cast<char *>(buffer);
     const auto room = static_cast<std::int32_t>(size);
     std::uint32_t err = 0;
-    record.print(h, kId, text, 0, "instance", instance, room, &err);
+    record.print(h, id, text, 0, "instance", instance, room, &err);
     err = 0;
-    record.to_xml(h, kId, "instance", text, instance, room, 0, &err);
+    record.to_xml(h, id, "instance", text, instance, room, 0, &err);
     err = 0;
-    record.marshal(h, kId, buffer, instance, room, &err);
-    record.len(h, kId, instance);
+    record.marshal(h, id, buffer, instance, room, &err);
+    record.len(h, id, instance);
     require(record.compare(instance, instance) == 0, "an instance equals itself");
     record.hash(instance, 0);
     mirk_clear_last_error(h);
@@ -103,11 +103,11 @@ void use(mirk_handle *h, const EnumerationOperations &enumeration, void *instanc
     char *text = reinterpret_cast<char *>(buffer);
     const auto room = static_cast<std::int32_t>(size);
     std::uint32_t err = 0;
-    enumeration.print(h, kId, text, 0, "instance", instance, room, &err);
+    enumeration.print(h, id, text, 0, "instance", instance, room, &err);
     err = 0;
-    enumeration.to_xml(h, kId, "instance", text, instance, room, 0, &err);
+    enumeration.to_xml(h, id, "instance", text, instance, room, 0, &err);
     err = 0;
-    enumeration.marshal(h, kId, buffer, instance, room, &err);
+    enumeration.marshal(h, id, buffer, instance, room, &err);
     require(enumeration.compare(instance, instance) == 0, "an instance equals itself");
     enumeration.hash(instance, 0);
     mirk_clear_last_error(h);
@@ -117,23 +117,23 @@ void use(mirk_handle *h, const MessageOperations &message, void *object, std::ui
     std::uint8_t *buffer = output().room(size);
     char *text = reinterpret_cast<char *>(buffer);
     std::uint32_t err = 0;
-    message.print(h, kId, text, object, size, &err);
+    message.print(h, id, text, object, size, &err);
     err = 0;
-    message.to_xml(h, kId, text, object, size, &err);
+    message.to_xml(h, id, text, object, size, &err);
     err = 0;
-    message.marshal(h, kId, buffer, object, size, &err);
-    message.len(h, kId, object);
+    message.marshal(h, id, buffer, object, size, &err);
+    message.len(h, id, object);
     mirk_clear_last_error(h);
 }
 
 bridge::Marshalled write(mirk_handle *h, const RecordOperations &record, void *instance) {
     // What an instance holds came from an arena of this size, and no part of it takes more than four bytes for one.
-    constexpr std::size_t room = 4 * kTotalCeiling;
-    static_assert(room < kMostBytes);
+    constexpr std::size_t room = 4 * total_ceiling;
+    static_assert(room < most_bytes);
     std::uint8_t *buffer = output().room(room);
     bridge::Marshalled result;
     const std::uint32_t written =
-        record.marshal(h, kId, buffer, instance, static_cast<std::int32_t>(room), &result.error);
+        record.marshal(h, id, buffer, instance, static_cast<std::int32_t>(room), &result.error);
     require(written <= room, "no more is written than there is room");
     result.bytes.assign(buffer, buffer + written);
     mirk_clear_last_error(h);

@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 namespace fuzz {
 
-using bridge::kId;
+using bridge::id;
 using bridge::RecordOperations;
 using kit::Handle;
 using reference::Bytes;

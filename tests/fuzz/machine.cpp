@@ -13,14 +13,14 @@ Machine::~Machine() {
     mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_VARIANT_BLOCK, 0, 0);
     if (handle_->send_bundle_open != 0) {
         std::uint32_t err = 0;
-        bundle_send_message_list_destroy(handle_, kId, &err);
+        bundle_send_message_list_destroy(handle_, id, &err);
     }
     for (const Object &o : slots_) {
         if (o.instance == nullptr) continue;
         use(handle_, *o.record, o.instance);
-        o.record->destroy(handle_, kId, o.instance);
+        o.record->destroy(handle_, id, o.instance);
     }
-    if (message_.second != nullptr) message_.first->destroy(handle_, kId, message_.second);
+    if (message_.second != nullptr) message_.first->destroy(handle_, id, message_.second);
 }
 
 void Machine::run() {
@@ -33,8 +33,8 @@ Machine::Object Machine::object() {
         const MemberOperations &m = member(*at.record);
         if (m.member->record == nullptr) break;
         std::uint32_t err = 0;
-        void *inner = m.member->kind == Kind::array ? m.element_get(handle_, kId, at.instance, index(), &err)
-                                                    : m.get(handle_, kId, at.instance, &err);
+        void *inner = m.member->kind == Kind::array ? m.element_get(handle_, id, at.instance, index(), &err)
+                                                    : m.get(handle_, id, at.instance, &err);
         if (inner == nullptr) break;
         at = {&tarn::reflect::operations_of(*m.member->record), inner};
     }
@@ -80,16 +80,16 @@ void Machine::step() {
 void Machine::create() {
     Object &s = slot();
     const RecordOperations &record = tarn::reflect::records()[input_.u8() % tarn::reflect::records().size()];
-    if (s.instance != nullptr) s.record->destroy(handle_, kId, s.instance);
+    if (s.instance != nullptr) s.record->destroy(handle_, id, s.instance);
     // Destruction that stopped on its way leaves its block.
     if (s.instance != nullptr && is_live(s.instance)) handle_.allow_lost_blocks();
-    s = {&record, record.create(handle_, kId)};
+    s = {&record, record.create(handle_, id)};
 }
 
 void Machine::destroy() {
     Object &s = slot();
     if (s.instance == nullptr) return;
-    s.record->destroy(handle_, kId, s.instance);
+    s.record->destroy(handle_, id, s.instance);
     if (is_live(s.instance)) handle_.allow_lost_blocks();
     s.instance = nullptr;
 }
@@ -98,17 +98,17 @@ void Machine::set_value() {
     const Object o = object();
     if (o.instance == nullptr) return;
     const MemberOperations &m = member(*o.record);
-    if (m.set_value != nullptr) m.set_value(handle_, kId, o.instance, input_.u64(), &err_);
-    if (m.get_value != nullptr) m.get_value(handle_, kId, o.instance, &err_);
+    if (m.set_value != nullptr) m.set_value(handle_, id, o.instance, input_.u64(), &err_);
+    if (m.get_value != nullptr) m.get_value(handle_, id, o.instance, &err_);
     if (m.get != nullptr && m.set != nullptr && m.member->kind != Kind::record) {
-        m.set(handle_, kId, o.instance, m.get(handle_, kId, o.instance, &err_), &err_);
+        m.set(handle_, id, o.instance, m.get(handle_, id, o.instance, &err_), &err_);
     }
     if (m.member->kind != Kind::record || m.set == nullptr) return;
     // What a nested record owned is lost under the new value.
     const Object from = object_of(tarn::reflect::operations_of(*m.member->record));
     if (from.instance == nullptr) return;
     handle_.allow_lost_blocks();
-    m.set(handle_, kId, o.instance, from.instance, &err_);
+    m.set(handle_, id, o.instance, from.instance, &err_);
 }
 
 void Machine::set_text() {
@@ -120,12 +120,12 @@ void Machine::set_text() {
         const std::string value(bytes.begin(), bytes.end());
         const auto length = static_cast<std::uint32_t>(value.size());
         if (input_.u8() % 2 == 0) {
-            m.text_set(handle_, kId, o.instance, value.c_str(), length, &err_);
+            m.text_set(handle_, id, o.instance, value.c_str(), length, &err_);
         } else {
             m.text_set_cr(handle_, o.instance, value.c_str(), length);
         }
         char destination[70];
-        m.text_get(handle_, kId, o.instance, destination, static_cast<std::uint32_t>(input_.u8() % sizeof destination),
+        m.text_get(handle_, id, o.instance, destination, static_cast<std::uint32_t>(input_.u8() % sizeof destination),
                    &err_);
     }
 }
@@ -140,7 +140,7 @@ void Machine::set_element() {
     const std::uint8_t how = input_.u8() % 4;
     // The element that stood there goes without being ended, and a count of one byte may wrap.
     handle_.allow_lost_blocks();
-    if (how < 2) m.element_set(handle_, kId, o.instance, at, value.instance, &err_);
+    if (how < 2) m.element_set(handle_, id, o.instance, at, value.instance, &err_);
     if (how >= 2) m.element_set_cr(handle_, o.instance, at, value.instance, how & 1U);
 }
 
@@ -149,15 +149,15 @@ void Machine::states() {
     if (o.instance == nullptr) return;
     const MemberOperations &m = member(*o.record);
     const std::uint8_t value = input_.u8();
-    if (m.state_flag_set != nullptr) m.state_flag_set(handle_, kId, o.instance, value, &err_);
-    if (m.state_flag_get != nullptr) m.state_flag_get(handle_, kId, o.instance, &err_);
+    if (m.state_flag_set != nullptr) m.state_flag_set(handle_, id, o.instance, value, &err_);
+    if (m.state_flag_get != nullptr) m.state_flag_get(handle_, id, o.instance, &err_);
     if (m.element_state_flag_set == nullptr) return;
-    m.element_state_flag_set(handle_, kId, o.instance, index(), value, &err_);
-    m.element_state_flag_get(handle_, kId, o.instance, index(), &err_);
+    m.element_state_flag_set(handle_, id, o.instance, index(), value, &err_);
+    m.element_state_flag_get(handle_, id, o.instance, index(), &err_);
     std::uint8_t *vector = nullptr;
-    m.element_state_flag_get_arr(handle_, kId, o.instance, &vector, &err_);
+    m.element_state_flag_get_arr(handle_, id, o.instance, &vector, &err_);
     const std::vector<std::uint8_t> source(256, value);
-    m.element_state_flag_set_arr(handle_, kId, o.instance, source.data(), index(), &err_);
+    m.element_state_flag_set_arr(handle_, id, o.instance, source.data(), index(), &err_);
 }
 
 void Machine::whole() {
@@ -167,19 +167,19 @@ void Machine::whole() {
         case 0:
             // The vectors of element states are lost.
             handle_.allow_lost_blocks();
-            o.record->set_all_state_tracking_flag(handle_, kId, o.instance, input_.u8());
+            o.record->set_all_state_tracking_flag(handle_, id, o.instance, input_.u8());
             return;
         case 1:
-            o.record->adjust_variant(handle_, kId, o.instance, &err_);
+            o.record->adjust_variant(handle_, id, o.instance, &err_);
             return;
         case 2: {
             std::vector<std::uint64_t> values(o.record->members.size(), input_.u64());
-            o.record->set_all(handle_, kId, o.instance, values.data(), &err_);
+            o.record->set_all(handle_, id, o.instance, values.data(), &err_);
             return;
         }
         case 3:
             o.record->is_valid_cr(handle_, o.instance, input_.u8());
-            o.record->get_oid_count(handle_, kId, o.instance, &err_);
+            o.record->get_oid_count(handle_, id, o.instance, &err_);
             return;
         default:
             mirk_platform_set_ra_data(handle_, o.instance, nullptr, input_.u8());
@@ -193,7 +193,7 @@ void Machine::assign() {
     const Object from = object_of(*to.record);
     if (from.instance == nullptr) return;
     handle_.allow_lost_blocks();
-    to.record->set(handle_, kId, to.instance, from.instance, &err_);
+    to.record->set(handle_, id, to.instance, from.instance, &err_);
 }
 
 void Machine::copy() {
@@ -204,7 +204,7 @@ void Machine::copy() {
         void *made = from.record->clone_cr(handle_, from.instance);
         if (made == nullptr) return;
         use(handle_, *from.record, made, 512);
-        from.record->destroy(handle_, kId, made);
+        from.record->destroy(handle_, id, made);
     } else if (to.record == from.record && to.instance != nullptr && to.instance != from.instance) {
         // What the destination held is not released, and a destination that could not be filled is.
         handle_.allow_lost_blocks();
@@ -222,7 +222,7 @@ void Machine::frame() {
     }
     const std::uint32_t reuse = input_.u8() % 2;
     handle_.allow_lost_blocks();
-    o.record->unmarshal(handle_, kId, guarded(bytes), o.instance, static_cast<std::uint32_t>(bytes.size()), reuse,
+    o.record->unmarshal(handle_, id, guarded(bytes), o.instance, static_cast<std::uint32_t>(bytes.size()), reuse,
                         &err_);
 }
 
@@ -238,14 +238,14 @@ void Machine::document() {
     if (to.instance == nullptr) return;
     std::string text(16384, ' ');
     std::uint32_t error = 0;
-    const std::uint32_t size = from.record->to_xml(handle_, kId, "o", text.data(), from.instance,
+    const std::uint32_t size = from.record->to_xml(handle_, id, "o", text.data(), from.instance,
                                                    static_cast<std::int32_t>(text.size()), 0, &error);
     text.resize(std::min<std::size_t>(size, text.size()));
     void *document = mirk_platform_document_load_memory(text.data(), text.size(), nullptr);
     char words[32];
     handle_.allow_lost_blocks();
     if (document != nullptr) {
-        to.record->from_xml(handle_, kId, "/o", document, to.instance, &err_, words, sizeof words);
+        to.record->from_xml(handle_, id, "/o", document, to.instance, &err_, words, sizeof words);
     }
     mirk_platform_document_free(document);
 }
@@ -254,7 +254,7 @@ void Machine::message() {
     auto &[operations, object] = message_;
     if (object == nullptr) {
         operations = &tarn::reflect::messages()[input_.u8() % tarn::reflect::messages().size()];
-        object = operations->create(handle_, kId);
+        object = operations->create(handle_, id);
         return;
     }
     const RecordOperations &payload = tarn::reflect::operations_of(operations->message->payload);
@@ -263,7 +263,7 @@ void Machine::message() {
             Object &s = slot();
             std::uint32_t err = 0;
             if (s.record != &payload || s.instance == nullptr) return;
-            operations->payload_free_and_set(handle_, kId, object, s.instance, &err);
+            operations->payload_free_and_set(handle_, id, object, s.instance, &err);
             s.instance = nullptr;
             return;
         }
@@ -271,14 +271,14 @@ void Machine::message() {
             Object &s = slot();
             std::uint32_t err = 0;
             if (s.instance != nullptr) return;
-            s = {&payload, operations->payload_get_detach(handle_, kId, object, &err)};
+            s = {&payload, operations->payload_get_detach(handle_, id, object, &err)};
             return;
         }
         case 2:
             use(handle_, *operations, object, 2048);
             return;
         default:
-            operations->destroy(handle_, kId, object);
+            operations->destroy(handle_, id, object);
             object = nullptr;
     }
 }
@@ -288,12 +288,12 @@ void Machine::bundle() {
     const auto &bundle = tarn::reflect::bundles()[input_.u8() % tarn::reflect::bundles().size()];
     const std::uint8_t how = input_.u8();
     const MessageOperations &control = how % 3 == 0 ? bundle.start : how % 3 == 1 ? bundle.abort : bundle.commit;
-    void *token = control.create(handle_, kId);
-    control.marshal(handle_, kId, buffer, token, input_.u8() % 63U, &err_);
+    void *token = control.create(handle_, id);
+    control.marshal(handle_, id, buffer, token, input_.u8() % 63U, &err_);
     char text[128];
-    control.print(handle_, kId, text, token, sizeof text, &err_);
-    control.to_xml(handle_, kId, text, token, sizeof text, &err_);
-    if (token != nullptr) control.destroy(handle_, kId, token);
+    control.print(handle_, id, text, token, sizeof text, &err_);
+    control.to_xml(handle_, id, text, token, sizeof text, &err_);
+    if (token != nullptr) control.destroy(handle_, id, token);
 }
 
 void Machine::domain() {
@@ -323,7 +323,7 @@ void Machine::look() {
                 "what is equal hashes alike");
     }
     std::uint32_t word = 0;
-    o.record->type_type_backpropagate(handle_, kId, o.instance, &word);
+    o.record->type_type_backpropagate(handle_, id, o.instance, &word);
 }
 
 }  // namespace fuzz

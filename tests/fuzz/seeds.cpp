@@ -1,5 +1,5 @@
-// Prints the seed corpora and the dictionaries, from the schema and the independent codec: fuzz_seeds FOLDER. Files of an
-// earlier run are removed first.
+// Prints the seed corpora and the dictionaries, from the schema and the independent codec: fuzz_seeds FOLDER. Files of
+// an earlier run are removed first.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -21,7 +21,7 @@ using reference::Record;
 // Path below the folder, and content.
 std::map<std::string, std::string> files;
 
-constexpr std::uint8_t kPlain = 0, kTracked = 2;
+constexpr std::uint8_t plain_choice = 0, tracked_choice = 2;
 
 std::string head(std::initializer_list<std::size_t> bytes) {
     std::string text;
@@ -30,7 +30,7 @@ std::string head(std::initializer_list<std::size_t> bytes) {
 }
 std::string text_of(const Bytes &bytes) { return {bytes.begin(), bytes.end()}; }
 std::string form(bool tracked) { return tracked ? "-tracked" : "-plain"; }
-std::size_t choice(bool tracked) { return tracked ? kTracked : kPlain; }
+std::size_t choice(bool tracked) { return tracked ? tracked_choice : plain_choice; }
 
 Record value_of(std::string_view type, bool printable = false) {
     constexpr std::size_t small = 300;
@@ -53,13 +53,13 @@ void records() {
         for (const bool tracked : {false, true}) {
             const std::string frame = text_of(reference::encode(value, tracked));
             files["frame/" + table.name + form(tracked)] = head({root, choice(tracked)}) + frame;
-            if (tracked) files["differential/" + table.name] = head({root, kTracked}) + frame;
+            if (tracked) files["differential/" + table.name] = head({root, tracked_choice}) + frame;
             if (tracked && bridge::owns_blocks(table)) {
-                files["allocation/" + table.name] = head({kTracked, root, 2}) + frame;
+                files["allocation/" + table.name] = head({tracked_choice, root, 2}) + frame;
             }
         }
         const std::string document = reference::to_xml(value_of(table.name, true), table.name, false);
-        files["xml/" + table.name] = head({root, kTracked}) + document;
+        files["xml/" + table.name] = head({root, tracked_choice}) + document;
         if (bridge::owns_blocks(table)) {
             files["allocation/" + table.name + "-document"] = head({0x80, root, 1}) + document;
         }
@@ -67,9 +67,9 @@ void records() {
         ++root;
     }
     for (const reference::EnumerationTable &table : reference::enumerations()) {
-        files["frame/" + table.name] = head({root, kPlain, 0, 0, 0, 0, 1});
+        files["frame/" + table.name] = head({root, plain_choice, 0, 0, 0, 0, 1});
         files["xml/" + table.name] =
-            head({root, kPlain}) + "<" + table.name + "><" + table.enumerators.back() + "/></" + table.name + ">";
+            head({root, plain_choice}) + "<" + table.name + "><" + table.enumerators.back() + "/></" + table.name + ">";
         ++root;
     }
     for (const reference::MessageTable &table : reference::messages()) {
@@ -79,7 +79,7 @@ void records() {
                 head({root, choice(tracked)}) + text_of(reference::message_frame(table.name, value, tracked, 7));
         }
         files["xml/" + table.name] =
-            head({root, kPlain}) + reference::message_to_xml(table.name, value_of(table.payload, true), false);
+            head({root, plain_choice}) + reference::message_to_xml(table.name, value_of(table.payload, true), false);
         ++root;
     }
 }

@@ -17,13 +17,13 @@ namespace {
 using namespace tarn::tool;
 using fuzz::require;
 
-constexpr unsigned kLenient = 0, kTracking = 1, kFalls = 3;
+constexpr unsigned lenient_bit = 0, tracking_bit = 1, falls_bit = 3;
 
 void read(std::string_view content, const fuzz::Choice &choice) {
-    const Handles handles(choice.bit(kTracking)       ? Tracking::on
-                          : choice.bit(kTracking + 1) ? Tracking::off
-                                                      : Tracking::as_given);
-    const std::vector<Item> items = items_of(handles, content, "input", choice.bit(kLenient));
+    const Handles handles(choice.bit(tracking_bit)       ? Tracking::on
+                          : choice.bit(tracking_bit + 1) ? Tracking::off
+                                                         : Tracking::as_given);
+    const std::vector<Item> items = items_of(handles, content, "input", choice.bit(lenient_bit));
     std::string all;
     for (const Item &item : items) {
         rendered(item, Style::text);
@@ -83,9 +83,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto bytes = input.rest();
     const std::string content(bytes.begin(), bytes.end());
     try_it([&] { read(content, choice); });
-    if (!choice.bit(kFalls)) return 0;
+    if (!choice.bit(falls_bit)) return 0;
     try_it([&] { take_apart(content); });
-    try_it([&] { deliver(content, choice.bit(kTracking)); });
+    try_it([&] { deliver(content, choice.bit(tracking_bit)); });
     hex_dump(content);
     is_address(content);
     return 0;

@@ -7,60 +7,60 @@ namespace {
 
 using namespace fuzz;
 
-constexpr unsigned kOccupied = 4;
+constexpr unsigned occupied = 4;
 
 void read_record(const Choice &choice, const RecordOperations &record, void *document) {
     Handle handle(options(choice));
-    void *instance = record.create(handle, kId);
+    void *instance = record.create(handle, id);
     const std::string path = "/" + std::string(record.record->name);
     char words[64];
     std::uint32_t err = 0;
-    record.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
-    if (choice.bit(kOccupied)) {
+    record.from_xml(handle, id, path.c_str(), document, instance, &err, words, sizeof words);
+    if (choice.bit(occupied)) {
         // Elements of the first reading are moved and cleared by the second.
         handle.allow_lost_blocks();
         err = 0;
-        record.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
+        record.from_xml(handle, id, path.c_str(), document, instance, &err, words, sizeof words);
     }
     mirk_clear_last_error(handle);
     use(handle, record, instance);
     const bridge::Marshalled written = write(handle, record, instance);
     if (err == 0 && written.error == 0) {
-        void *again = record.create(handle, kId);
+        void *again = record.create(handle, id);
         std::uint32_t error = 0;
-        record.unmarshal(handle, kId, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()),
-                         0, &error);
+        record.unmarshal(handle, id, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()), 0,
+                         &error);
         require(error != 0 || record.compare(instance, again) == 0, "what was read from a document travels in a frame");
-        record.destroy(handle, kId, again);
+        record.destroy(handle, id, again);
     }
-    record.destroy(handle, kId, instance);
+    record.destroy(handle, id, instance);
 }
 
 void read_enumeration(const Choice &choice, const EnumerationOperations &enumeration, void *document) {
     const Handle handle(options(choice));
-    void *instance = enumeration.create(handle, kId);
+    void *instance = enumeration.create(handle, id);
     const std::string path = "/" + std::string(enumeration.enumeration->name);
     char words[64];
     std::uint32_t err = 0;
-    enumeration.from_xml(handle, kId, path.c_str(), document, instance, &err, words, sizeof words);
-    const std::uint32_t value = enumeration.get_value(handle, kId, instance, &handle->last_error);
+    enumeration.from_xml(handle, id, path.c_str(), document, instance, &err, words, sizeof words);
+    const std::uint32_t value = enumeration.get_value(handle, id, instance, &handle->last_error);
     require(value < enumeration.enumeration->enumerators.size(), "a document names enumerators that there are");
     use(handle, enumeration, instance);
-    enumeration.destroy(handle, kId, instance);
+    enumeration.destroy(handle, id, instance);
 }
 
 void read_message(const Choice &choice, const MessageOperations &message, void *document) {
     Handle handle(options(choice));
     char words[64];
     std::uint32_t err = 0;
-    void *object = message.from_xml(handle, kId, document, &err, words, sizeof words);
+    void *object = message.from_xml(handle, id, document, &err, words, sizeof words);
     if (object == nullptr) {
         // A failed reading keeps the message.
         handle.allow_lost_blocks();
         return;
     }
     use(handle, message, object);
-    message.destroy(handle, kId, object);
+    message.destroy(handle, id, object);
 }
 
 // Whether "<!DOCTYPE" stands in a text that has no other place for it than markup.

@@ -11,11 +11,11 @@ struct PayloadAccessors : Messaging {};
 TEST_F(PayloadAccessors, GetLeavesThePayloadWithTheMessage) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         void *payload = object(message)->payload;
-        EXPECT_EQ(m.payload_get(h, kId, message, &err), payload);
+        EXPECT_EQ(m.payload_get(h, id, message, &err), payload);
         EXPECT_EQ(object(message)->payload, payload);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(traced(), Lines{});
     EXPECT_EQ(err, 0u);
@@ -27,13 +27,13 @@ TEST_F(PayloadAccessors, ADetachedPayloadOutlivesItsMessage) {
         Handle h;
         const reference::Record value = sample(m);
         void *message = make(h, m, value);
-        void *payload = m.payload_get_detach(h, kId, message, &err);
+        void *payload = m.payload_get_detach(h, id, message, &err);
         ASSERT_NE(payload, nullptr);
         EXPECT_EQ(object(message)->payload, nullptr);
-        EXPECT_EQ(m.payload_get(h, kId, message, &err), nullptr);
-        m.destroy(h, kId, message);
+        EXPECT_EQ(m.payload_get(h, id, message, &err), nullptr);
+        m.destroy(h, id, message);
         EXPECT_TRUE(bridge::same(reference::as_received(value, false), bridge::extract(h, payload_of(m), payload)));
-        payload_of(m).destroy(h, kId, payload);
+        payload_of(m).destroy(h, id, payload);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -41,12 +41,12 @@ TEST_F(PayloadAccessors, ADetachedPayloadOutlivesItsMessage) {
 TEST_F(PayloadAccessors, SetLeavesTheOldPayloadToTheCaller) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
-        void *before = object(message)->payload, *other = payload_of(m).create(h, kId);
-        m.payload_set(h, kId, message, other, &err);
+        void *message = m.create(h, id);
+        void *before = object(message)->payload, *other = payload_of(m).create(h, id);
+        m.payload_set(h, id, message, other, &err);
         EXPECT_EQ(object(message)->payload, other);
-        payload_of(m).destroy(h, kId, before);
-        m.destroy(h, kId, message);
+        payload_of(m).destroy(h, id, before);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -54,16 +54,16 @@ TEST_F(PayloadAccessors, SetLeavesTheOldPayloadToTheCaller) {
 TEST_F(PayloadAccessors, FreeAndSetDestroysTheOldPayload) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         const std::size_t blocks = h.live_blocks();
-        m.payload_free_and_set(h, kId, message, payload_of(m).create(h, kId), &err);
+        m.payload_free_and_set(h, id, message, payload_of(m).create(h, id), &err);
         EXPECT_EQ(h.live_blocks(), blocks);
-        m.payload_free_and_set(h, kId, message, nullptr, &err);
+        m.payload_free_and_set(h, id, message, nullptr, &err);
         EXPECT_EQ(h.live_blocks(), 1u);
-        void *payload = payload_of(m).create(h, kId);
-        m.payload_free_and_set(h, kId, message, payload, &err);
+        void *payload = payload_of(m).create(h, id);
+        m.payload_free_and_set(h, id, message, payload, &err);
         EXPECT_EQ(object(message)->payload, payload);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -71,13 +71,13 @@ TEST_F(PayloadAccessors, FreeAndSetDestroysTheOldPayload) {
 TEST_F(PayloadAccessors, FreeAndSetWithTheMessagesOwnPayloadStoresWhatIsLeftOfIt) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         void *payload = object(message)->payload;
-        m.payload_free_and_set(h, kId, message, payload, &err);
+        m.payload_free_and_set(h, id, message, payload, &err);
         EXPECT_EQ(h.live_blocks(), 1u);
         EXPECT_EQ(object(message)->payload, payload);
         object(message)->payload = nullptr;  // it points at nothing any more
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -86,15 +86,15 @@ TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        void *message = m.create(h, kId), *payload = object(message)->payload;
-        void *other = payload_of(m).create(h, kId);
+        void *message = m.create(h, id), *payload = object(message)->payload;
+        void *other = payload_of(m).create(h, id);
         for (const std::uint32_t number : {std::uint32_t{EINVAL}, 0u}) {
             void *subject = number != 0 ? message : nullptr;
             err = number;
-            EXPECT_EQ(m.payload_get(h, kId, subject, &err), nullptr);
-            EXPECT_EQ(m.payload_get_detach(h, kId, subject, &err), nullptr);
-            m.payload_set(h, kId, subject, other, &err);
-            m.payload_free_and_set(h, kId, subject, other, &err);
+            EXPECT_EQ(m.payload_get(h, id, subject, &err), nullptr);
+            EXPECT_EQ(m.payload_get_detach(h, id, subject, &err), nullptr);
+            m.payload_set(h, id, subject, other, &err);
+            m.payload_free_and_set(h, id, subject, other, &err);
             EXPECT_EQ(err, number);
             EXPECT_EQ(h->last_error, 0u);
             EXPECT_EQ(object(message)->payload, payload);
@@ -106,8 +106,8 @@ TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
                        "message 7 (debug): Error present when setting value for " + record + why,
                        "message 7 (debug): Error present when freeing and setting value for " + record + why}));
         }
-        m.destroy(h, kId, message);
-        payload_of(m).destroy(h, kId, other);
+        m.destroy(h, id, message);
+        payload_of(m).destroy(h, id, other);
     }
 }
 
@@ -118,38 +118,38 @@ TEST_F(FatalMessages, ACorruptTrackingMode) {
         Handle h;
         h.allow_lost_blocks();
         mirk_platform_testing_set_sttr_mode(h, 0);
-        EXPECT_DEATH(m.create_shallow(h, kId), "message: \\(FATAL\\): Corrupted MIRK Handle");
+        EXPECT_DEATH(m.create_shallow(h, id), "message: \\(FATAL\\): Corrupted MIRK Handle");
     }
     Handle h;
     mirk_platform_testing_set_sttr_mode(h, 0x1234);
-    EXPECT_DEATH(messages()[0].create(h, kId), "\\(FATAL\\): Corrupted MIRK Handle");
+    EXPECT_DEATH(messages()[0].create(h, id), "\\(FATAL\\): Corrupted MIRK Handle");
 }
 
 TEST_F(FatalMessages, ADamagedTypeAtDestruction) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         object(message)->tinfo = nullptr;
-        EXPECT_DEATH(m.destroy(h, kId, message), "message: \\(FATAL\\): tinfo is null or corrupted");
+        EXPECT_DEATH(m.destroy(h, id, message), "message: \\(FATAL\\): tinfo is null or corrupted");
         mirk_type_info damaged = *m.type;
         damaged.magic = 0xDEADBEEF;
         object(message)->tinfo = &damaged;
         EXPECT_DEATH(m.destroy_cr(h, message), "message: \\(FATAL\\): tinfo is null or corrupted");
         object(message)->tinfo = m.type;
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(FatalMessages, AMissingVariantBlock) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         mirk_variant_info *block = std::exchange(m.type->variant_info, nullptr);
-        EXPECT_DEATH(m.create_shallow(h, kId), "message: \\(FATAL\\): varinfo is NULL");
-        EXPECT_DEATH(m.create(h, kId), "message: \\(FATAL\\): varinfo is NULL");
-        EXPECT_DEATH(m.destroy_unsafe(h, kId, message), "message: \\(FATAL\\): varinfo is NULL");
+        EXPECT_DEATH(m.create_shallow(h, id), "message: \\(FATAL\\): varinfo is NULL");
+        EXPECT_DEATH(m.create(h, id), "message: \\(FATAL\\): varinfo is NULL");
+        EXPECT_DEATH(m.destroy_unsafe(h, id, message), "message: \\(FATAL\\): varinfo is NULL");
         m.type->variant_info = block;
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -159,12 +159,12 @@ TEST_F(FatalMessages, ADamagedNumberOfVariantsIsTracedOnly) {
         Handle h;
         const std::string complaint{"message 6 (info): variant 0 requested only 4294967295 variants present"};
         m.type->variant_info->n_variants = -1;
-        void *message = m.create(h, kId), *shallow = m.create_shallow(h, kId);
+        void *message = m.create(h, id), *shallow = m.create_shallow(h, id);
         EXPECT_EQ(traced(), (Lines{complaint, complaint}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
         EXPECT_EQ(traced(), (Lines{complaint}));
         m.type->variant_info->n_variants = 0;  // not negative
-        m.destroy(h, kId, shallow);
+        m.destroy(h, id, shallow);
         EXPECT_EQ(traced(), Lines{});
         m.type->variant_info->n_variants = 1;
     }

@@ -44,14 +44,14 @@ struct Bundles : Messaging {
         Buffer buffer(200000);
         std::uint32_t position = 0;
         const auto left = [&] { return buffer.size() - position; };
-        position += b.start.marshal(h, kId, buffer.data(), nullptr, left(), &err);
+        position += b.start.marshal(h, id, buffer.data(), nullptr, left(), &err);
         for (const reference::Record &value : values) {
             void *message = make(h, m, value);
-            position += m.marshal(h, kId, buffer.data() + position, message, left(), &err);
-            m.destroy(h, kId, message);
+            position += m.marshal(h, id, buffer.data() + position, message, left(), &err);
+            m.destroy(h, id, message);
         }
         const MessageOperations &end = ending == std::string("commit") ? b.commit : b.abort;
-        position += end.marshal(h, kId, buffer.data() + position, nullptr, left(), &err);
+        position += end.marshal(h, id, buffer.data() + position, nullptr, left(), &err);
         EXPECT_EQ(err, 0u);
         return buffer.first(position);
     }
@@ -89,7 +89,7 @@ TEST_F(Bundles, EveryBundleReachesPeersOfEveryTrackingMode) {
                 received.clear();
                 Buffer buffer(frames);
                 mirk_platform_report report{};
-                ASSERT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, &report), 0u)
+                ASSERT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, &report), 0u)
                     << report.sentence;
                 ASSERT_EQ(received.size(), values.size());
                 for (std::size_t i = 0; i < values.size(); ++i) {
@@ -110,7 +110,7 @@ TEST_F(Bundles, MessagesThatTheHandlerLeavesAreDestroyed) {
         register_all(h);
         mirk_platform_handle_set_bundle_handler(h, leave_all);
         Buffer buffer(send(sender, b, {sample(m, 1), sample(m, 2)}, "commit"));
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
         EXPECT_EQ(received.size(), 2u);
         EXPECT_EQ(h.live_blocks(), 0u) << b.bundle->name;
     }
@@ -122,7 +122,7 @@ TEST_F(Bundles, WithNoHandlerButTheStubTheMessagesAreGoneWithoutAnError) {
         Handle sender, h;
         register_all(h);
         Buffer buffer(send(sender, b, {sample(m)}, "commit"));
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
         EXPECT_EQ(h->last_error, 0u);
         EXPECT_EQ(h.live_blocks(), 0u) << b.bundle->name;
     }
@@ -138,7 +138,7 @@ TEST_F(Bundles, AnAbortedBundleReachesNobody) {
         const Bytes frames = send(sender, b, values, "abort");
         EXPECT_TRUE(bridge::same(reference_frames(b, values, false, "abort", 0), frames));
         Buffer buffer(frames);
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
         EXPECT_EQ(h.live_blocks(), 0u) << b.bundle->name;
     }
     EXPECT_TRUE(handler_calls.empty());
@@ -152,7 +152,7 @@ TEST_F(Bundles, AHandlersErrorStaysAndTheBundleIsClosedAllTheSame) {
         mirk_platform_handle_set_bundle_handler(
             h, [](mirk_handle *, std::uint32_t, void *, std::uint32_t *error) { *error = EPERM; });
         Buffer buffer(send(sender, b, {sample(m)}, "commit"));
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, nullptr), std::uint32_t{EPERM});
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, nullptr), std::uint32_t{EPERM});
         EXPECT_EQ(h->recv_bundle_open, 0u);
         EXPECT_EQ(h->recv_bundle_lut, nullptr);
         EXPECT_EQ(h.live_blocks(), 0u) << b.bundle->name;
@@ -165,11 +165,11 @@ TEST_F(Bundles, OutsideABundleAMessageGoesToItsHandler) {
         register_all(h, on_message);
         handler_calls.clear();
         Buffer buffer(frame_of(m, sample(m), false));
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), &err, nullptr), 0u);
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), &err, nullptr), 0u);
         ASSERT_EQ(handler_calls.size(), 1u);
         EXPECT_EQ(object(handler_calls[0].message)->tinfo, m.type);
         EXPECT_EQ(handler_calls[0].dispatch_ctx, &err);
-        m.destroy(h, kId, handler_calls[0].message);
+        m.destroy(h, id, handler_calls[0].message);
     }
 }
 
@@ -191,15 +191,15 @@ TEST_F(Bundles, EveryTruncationIsAnErrorForTheDispatcherAndLeavesNothing) {
                     h->recv_bundle_open = in_bundle ? 1 : 0;
                     Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
                     Buffer short_frame(cut);
-                    EXPECT_EQ(mirk_platform_dispatch(h, kId, short_frame.data(), short_frame.size(), nullptr, nullptr),
+                    EXPECT_EQ(mirk_platform_dispatch(h, id, short_frame.data(), short_frame.size(), nullptr, nullptr),
                               std::uint32_t{EBADMSG});
                     // A length that agrees with the bytes brings the frame to the message itself.
-                    if (size < kFrameHead) continue;
+                    if (size < frame_head) continue;
                     write_length(cut, size);
                     Buffer frame(cut);
-                    const auto error = mirk_platform_dispatch(h, kId, frame.data(), frame.size(), nullptr, nullptr);
+                    const auto error = mirk_platform_dispatch(h, id, frame.data(), frame.size(), nullptr, nullptr);
                     if (error == 0 || error == ENOSYS) ++unnoticed;
-                    bundle_receive_message_list_destroy(h, kId, &err);
+                    bundle_receive_message_list_destroy(h, id, &err);
                     ASSERT_EQ(h.live_blocks(), 0u) << m.name << ", size " << size;
                 }
                 // State bytes at the end of a tracked frame may go without a sign.
@@ -218,7 +218,7 @@ TEST_F(Bundles, ASecondBundleMayFollowTheFirst) {
         expected_message = &m;
         received.clear();
         Buffer buffer(send(sender, b, {sample(m)}, "commit"));
-        EXPECT_EQ(mirk_platform_dispatch(h, kId, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
+        EXPECT_EQ(mirk_platform_dispatch(h, id, buffer.data(), buffer.size(), nullptr, nullptr), 0u);
         EXPECT_EQ(received.size(), 1u);
     }
 }

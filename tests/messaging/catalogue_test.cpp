@@ -76,9 +76,9 @@ TEST(Catalogue, ABundleAdmitsItsMessageAndTheRequest) {
         const MessageOperations &admitted = tarn::reflect::operations_of(b.bundle->message);
         EXPECT_EQ(reference::bundle_table(b.bundle->name).message, admitted.name);
         Handle h;
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         std::uint32_t err = 0;
-        ASSERT_EQ(b.start.marshal(h, kId, buffer.data(), nullptr, buffer.size(), &err), kFrameHead);
+        ASSERT_EQ(b.start.marshal(h, id, buffer.data(), nullptr, buffer.size(), &err), frame_head);
         const mirk_allowed_row *rows = h->bundle_table;
         EXPECT_EQ(rows[0].luid, admitted.luid);
         EXPECT_EQ(rows[0].name, admitted.catalogue_name);
@@ -101,7 +101,7 @@ TEST(Catalogue, ControlFramesAre43BytesAndSaySo) {
         mirk_platform_handle_set_message_stamp(h, 0x01020304);
         Buffer buffer(100);
         std::uint32_t err = 0;
-        ASSERT_EQ(c->marshal(h, kId, buffer.data(), nullptr, buffer.size(), &err), 43u);
+        ASSERT_EQ(c->marshal(h, id, buffer.data(), nullptr, buffer.size(), &err), 43u);
         EXPECT_EQ(buffer.first(43), reference::control_frame(c.bundle_name(), c.kind, 0x01020304));
         EXPECT_TRUE(buffer.untouched(43));
         mirk_platform_frame frame{};
@@ -122,20 +122,20 @@ TEST(Catalogue, FramesOfTwoHandlesDifferInTheStampAlone) {
             Handle h;
             mirk_platform_handle_set_message_stamp(h, 100 + i);
             void *message = make(h, m, value);
-            Buffer buffer(m.len(h, kId, message));
+            Buffer buffer(m.len(h, id, message));
             std::uint32_t err = 0;
-            const std::uint32_t written = m.marshal(h, kId, buffer.data(), message, buffer.size(), &err);
+            const std::uint32_t written = m.marshal(h, id, buffer.data(), message, buffer.size(), &err);
             EXPECT_EQ(err, 0u);
             bytes[i] = buffer.first(written);
             ASSERT_EQ(mirk_platform_frame_look(buffer.data(), written, &frames[i]), 0u);
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
         EXPECT_EQ(frames[0].header.stamp, 100u);
         EXPECT_EQ(frames[1].header.stamp, 101u);
         frames[1].header.stamp = 100;
         EXPECT_EQ(std::memcmp(&frames[0].header, &frames[1].header, sizeof frames[0].header), 0);
         EXPECT_TRUE(
-            std::equal(bytes[0].begin() + kHeaderSize, bytes[0].end(), bytes[1].begin() + kHeaderSize, bytes[1].end()));
+            std::equal(bytes[0].begin() + header_size, bytes[0].end(), bytes[1].begin() + header_size, bytes[1].end()));
     }
 }
 

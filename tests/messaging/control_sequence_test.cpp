@@ -20,13 +20,13 @@ using tarn::reflect::bundles;
 using tarn::reflect::MessageOperations;
 using Strings = std::vector<std::string>;
 
-constexpr std::uint32_t kId = 7, kRoom = 100;
-constexpr const char *kHeader = "_mirk_message_header_marshal buffer 188 0 16909060 43 27 ctx=7 err=slot";
+constexpr std::uint32_t id = 7, room = 100;
+constexpr const char *header = "_mirk_message_header_marshal buffer 188 0 16909060 43 27 ctx=7 err=slot";
 
 struct ControlSequence : testing::Test {
     void SetUp() override {
         mirk_lumo_ui_tarn_message_trace_init();
-        observing::name_region("buffer", buffer.data(), kRoom);
+        observing::name_region("buffer", buffer.data(), room);
         observing::name_region("slot", &err, sizeof err);
         observing::clear_log();
     }
@@ -40,15 +40,15 @@ struct ControlSequence : testing::Test {
         return lines;
     }
 
-    std::array<std::uint8_t, kRoom> buffer{};
+    std::array<std::uint8_t, room> buffer{};
     std::uint32_t err = 0;
 };
 
 TEST_F(ControlSequence, AStartWritesItsHeaderAndNothingElse) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
-        EXPECT_EQ(b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err), 43u);
-        EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", kHeader}));
+        EXPECT_EQ(b.start.marshal(h, id, buffer.data(), nullptr, room, &err), 43u);
+        EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", header}));
     }
 }
 
@@ -58,12 +58,12 @@ TEST_F(ControlSequence, AnEndDropsTheSendListInEveryCase) {
             SCOPED_TRACE(m->name);
             Handle h;
             h->send_bundle_open = 1;
-            EXPECT_EQ(m->marshal(h, kId, buffer.data(), nullptr, kRoom, &err), 43u);
+            EXPECT_EQ(m->marshal(h, id, buffer.data(), nullptr, room, &err), 43u);
             EXPECT_EQ(calls(),
-                      (Strings{"mirk_clear_last_error", kHeader, "bundle_send_message_list_destroy 0 ctx=7 err=slot"}));
+                      (Strings{"mirk_clear_last_error", header, "bundle_send_message_list_destroy 0 ctx=7 err=slot"}));
             for (const std::uint32_t size : {26u, 30u}) {
                 h->send_bundle_open = 1;
-                m->marshal(h, kId, buffer.data(), nullptr, size, &err);
+                m->marshal(h, id, buffer.data(), nullptr, size, &err);
                 EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", "mirk_store_err 90",
                                             "bundle_send_message_list_destroy 90 ctx=7 err=slot"}));
                 err = 0;
@@ -75,14 +75,14 @@ TEST_F(ControlSequence, AnEndDropsTheSendListInEveryCase) {
 TEST_F(ControlSequence, WhatIsRefusedAsksForNothing) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
-        b.commit.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        b.commit.marshal(h, id, buffer.data(), nullptr, room, &err);
         EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", "mirk_store_err 2"}));
         h->send_bundle_open = 1;
         err = 0;
-        b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        b.start.marshal(h, id, buffer.data(), nullptr, room, &err);
         EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", "mirk_store_err 17"}));
-        b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
-        b.commit.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        b.start.marshal(h, id, buffer.data(), nullptr, room, &err);
+        b.commit.marshal(h, id, buffer.data(), nullptr, room, &err);
         EXPECT_EQ(calls(), Strings{});
         err = 0;
     }
@@ -96,11 +96,11 @@ TEST_F(ControlSequence, PrintAndXmlDoNotLookAtTheError) {
             Handle h;
             const std::string bundle(b.bundle->name);
             err = EPERM;
-            m->print(h, kId, reinterpret_cast<char *>(buffer.data()), nullptr, 90, &err);
+            m->print(h, id, reinterpret_cast<char *>(buffer.data()), nullptr, 90, &err);
             EXPECT_EQ(calls(), (Strings{"mirk_print_space buffer 0 90 ctx=7 err=slot",
                                         "mirk_snprintf buffer 90 bundle " + kind + "@" + bundle +
                                             ": <<<<<<<<\\n ctx=7 err=slot"}));
-            m->to_xml(h, kId, reinterpret_cast<char *>(buffer.data()), nullptr, 90, &err);
+            m->to_xml(h, id, reinterpret_cast<char *>(buffer.data()), nullptr, 90, &err);
             EXPECT_EQ(calls(),
                       (Strings{"start_tag buffer bundle_" + kind + " name=\"" + bundle + "\" 90 0 ctx=7 err=slot",
                                "end_tag buffer bundle_" + kind + " 90 ctx=7 err=slot"}));
@@ -129,10 +129,10 @@ TEST_F(ControlSequence, ACommitRunsItsHandlerThenDropsTheListThenTheToken) {
         h->recv_bundle_list = {&h->recv_bundle_list, &h->recv_bundle_list};
         h.file_received("first");
         h.file_received("second");
-        void *token = b.commit.create(h, kId);
+        void *token = b.commit.create(h, id);
         calls();
         err = 0;
-        b.commit.handler(h, kId, nullptr, token, &err);
+        b.commit.handler(h, id, nullptr, token, &err);
         const Strings lines = calls();
         EXPECT_EQ(
             lines,
@@ -149,12 +149,12 @@ TEST_F(ControlSequence, ACommitThatFailedAsksForNoEntry) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         err = EPERM;
-        b.commit.handler(h, kId, nullptr, nullptr, &err);
+        b.commit.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(calls(), (Strings{"skald_wrapper message 3 (ERR): Error set in committing bundle: " +
                                         std::string(std::strerror(EPERM)),
                                     "bundle_receive_message_list_destroy 1 ctx=7 err=slot"}));
         err = 0;
-        b.commit.handler(h, kId, nullptr, nullptr, &err);
+        b.commit.handler(h, id, nullptr, nullptr, &err);
         const Strings lines = calls();
         ASSERT_EQ(lines.size(), 4u);
         EXPECT_EQ(lines[0], "mirklib_is_accumulating_bundle");
@@ -170,10 +170,10 @@ TEST_F(ControlSequence, AnAbortDropsTheListBeforeItAsksForTheEntry) {
         mirk_dispatch_info entry = entry_with(nullptr);
         h.knobs().dispatch_info = &entry;
         h->recv_bundle_open = 1;
-        void *token = b.abort.create(h, kId);
+        void *token = b.abort.create(h, id);
         calls();
         err = 0;
-        b.abort.handler(h, kId, nullptr, token, &err);
+        b.abort.handler(h, id, nullptr, token, &err);
         EXPECT_EQ(calls(),
                   (Strings{"mirklib_is_accumulating_bundle", "bundle_receive_message_list_destroy 0 ctx=7 err=slot",
                            "mirklib_in_dispatch_message_info local",
@@ -189,7 +189,7 @@ TEST_F(ControlSequence, AStartNotesTheEntryAndTheTable) {
         h.knobs().dispatch_info = &entry;
         h.knobs().dispatch_lut = &buffer;
         h->recv_bundle_commit_lut = &entry;
-        b.start.handler(h, kId, nullptr, nullptr, &err);
+        b.start.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(h->recv_bundle_lut, &entry);
         EXPECT_EQ(h->recv_bundle_lut_ref, &buffer);
         EXPECT_EQ(h->recv_bundle_commit_lut, nullptr);
@@ -200,7 +200,7 @@ TEST_F(ControlSequence, AStartNotesTheEntryAndTheTable) {
         // The table is told also when there is no entry.
         h->recv_bundle_open = 0;
         h.knobs().dispatch_info = nullptr;
-        b.start.handler(h, kId, nullptr, nullptr, &err);
+        b.start.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(h->recv_bundle_lut, nullptr);
         EXPECT_EQ(h->recv_bundle_lut_ref, &buffer);
         calls();

@@ -7,7 +7,7 @@ namespace {
 
 using namespace messaging;
 
-constexpr std::uint32_t kTopBit = 0x80000000;
+constexpr std::uint32_t top_bit = 0x80000000;
 
 // No operation of a control message traces, so each test ends with a look at the trace.
 struct ControlMessages : Messaging {
@@ -22,11 +22,11 @@ struct ControlMessages : Messaging {
     static bool is_start(const Control &c) { return c.kind == "start"; }
     // Opens a bundle for sending, with a message admitted to it.
     void open(mirk_handle *h, const Control &c) {
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         std::uint32_t error = 0;
-        ASSERT_EQ(c.bundle->start.marshal(h, kId, buffer.data(), nullptr, kFrameHead, &error), kFrameHead);
+        ASSERT_EQ(c.bundle->start.marshal(h, id, buffer.data(), nullptr, frame_head, &error), frame_head);
         const MessageOperations &m = tarn::reflect::operations_of(c.bundle->bundle->message);
-        bundle_message_validate_add(h, kId, m.luid, m.catalogue_name, &error);
+        bundle_message_validate_add(h, id, m.luid, m.catalogue_name, &error);
         ASSERT_EQ(error, 0u);
         ASSERT_EQ(mirk_platform_list_sent(h, nullptr, 0), 1u);
     }
@@ -38,21 +38,21 @@ TEST_F(ControlMessages, ObjectsAreTokensOfNoSize) {
         Handle h;
         mirk_platform_handle_set_default_id(h, 31);
         Events events(h);
-        void *const made[] = {c->create(h, kId), c->create_unsafe(h, kId), c->create_cr(h),
-                              c->from_xml(h, kId, nullptr, nullptr, nullptr, 0),
-                              c->from_xml_unsafe(h, kId, nullptr, nullptr, nullptr, 0)};
+        void *const made[] = {c->create(h, id), c->create_unsafe(h, id), c->create_cr(h),
+                              c->from_xml(h, id, nullptr, nullptr, nullptr, 0),
+                              c->from_xml_unsafe(h, id, nullptr, nullptr, nullptr, 0)};
         const auto allocations = events.of(MIRK_PLATFORM_TESTING_ALLOC);
         ASSERT_EQ(allocations.size(), 5u);
         for (std::size_t i = 0; i < 5; ++i) {
             EXPECT_EQ(allocations[i].address, made[i]);
             EXPECT_EQ(allocations[i].size, 0u);
-            EXPECT_EQ(allocations[i].ctx_id, i == 2 ? 31u : kId);
+            EXPECT_EQ(allocations[i].ctx_id, i == 2 ? 31u : id);
         }
-        c->destroy(h, kId, made[0]);
-        c->destroy_unsafe(h, kId, made[1]);
+        c->destroy(h, id, made[0]);
+        c->destroy_unsafe(h, id, made[1]);
         c->destroy_cr(h, made[2]);
-        c->destroy(h, kId, made[3]);
-        c->destroy(h, kId, made[4]);
+        c->destroy(h, id, made[3]);
+        c->destroy(h, id, made[4]);
         const auto frees = events.of(MIRK_PLATFORM_TESTING_FREE);
         ASSERT_EQ(frees.size(), 5u);
         EXPECT_EQ(frees[2].ctx_id, 31u);
@@ -64,10 +64,10 @@ TEST_F(ControlMessages, CreateWithoutMemoryGivesNullAndNoError) {
     for (const Control &c : controls()) {
         Handle h;
         h.fail_alloc(1, true);
-        EXPECT_EQ(c->create(h, kId), nullptr);
-        EXPECT_EQ(c->create_unsafe(h, kId), nullptr);
-        EXPECT_EQ(c->from_xml(h, kId, nullptr, &err, nullptr, 0), nullptr);
-        EXPECT_EQ(c->from_xml_unsafe(h, kId, nullptr, &err, nullptr, 0), nullptr);
+        EXPECT_EQ(c->create(h, id), nullptr);
+        EXPECT_EQ(c->create_unsafe(h, id), nullptr);
+        EXPECT_EQ(c->from_xml(h, id, nullptr, &err, nullptr, 0), nullptr);
+        EXPECT_EQ(c->from_xml_unsafe(h, id, nullptr, &err, nullptr, 0), nullptr);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(h->last_error, 0u);
     }
@@ -113,11 +113,11 @@ TEST_F(ControlMessages, OnlyTheStickyDestroyKnowsTheSentinel) {
         Events events(h);
         c->destroy_cr(h, nullptr);
         c->destroy_cr(h, sentinel);
-        c->destroy(h, kId, nullptr);
-        c->destroy_unsafe(h, kId, nullptr);
+        c->destroy(h, id, nullptr);
+        c->destroy_unsafe(h, id, nullptr);
         EXPECT_TRUE(events.all.empty());
-        c->destroy(h, kId, sentinel);
-        c->destroy_unsafe(h, kId, sentinel);
+        c->destroy(h, id, sentinel);
+        c->destroy_unsafe(h, id, sentinel);
         const auto frees = events.of(MIRK_PLATFORM_TESTING_FREE);
         ASSERT_EQ(frees.size(), 2u);
         EXPECT_EQ(frees[0].address, sentinel);
@@ -135,7 +135,7 @@ TEST_F(ControlMessages, LenIs43WhateverIsPassed) {
         EXPECT_EQ(c->len_cr(h, nullptr), 43u);
         h->last_error = EINVAL;
         EXPECT_EQ(c->len_cr(h, nullptr), 0u);
-        EXPECT_EQ(c->len(h, kId, nullptr), 43u);
+        EXPECT_EQ(c->len(h, id, nullptr), 43u);
         EXPECT_EQ(c->valid_cr(h), 1u);
         EXPECT_EQ(c->valid_cr(nullptr), 1u);
     }
@@ -149,11 +149,11 @@ TEST_F(ControlMessages, AllFormsOfMarshalWriteTheSameFrame) {
             Handle h(Tracking::on);  // the header says untracked all the same
             mirk_platform_handle_set_message_stamp(h, 9);
             if (!is_start(c)) open(h, c);
-            Buffer buffer(kFrameHead);
-            const std::uint32_t written = form == 0 ? c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err)
+            Buffer buffer(frame_head);
+            const std::uint32_t written = form == 0 ? c->marshal(h, id, buffer.data(), nullptr, frame_head, &err)
                                           : form == 1
-                                              ? c->marshal_unsafe(h, kId, buffer.data(), nullptr, kFrameHead, &err)
-                                              : c->marshal_cr(h, nullptr, buffer.data(), kFrameHead);
+                                              ? c->marshal_unsafe(h, id, buffer.data(), nullptr, frame_head, &err)
+                                              : c->marshal_cr(h, nullptr, buffer.data(), frame_head);
             EXPECT_EQ(written, 43u);
             EXPECT_EQ(buffer.first(43), expected);
             EXPECT_TRUE(buffer.untouched(43));
@@ -169,8 +169,8 @@ TEST_F(ControlMessages, AStartOpensTheBundle) {
         Handle h;
         EXPECT_EQ(h->send_bundle_open, 0u);
         h->send_bundle_list = {nullptr, nullptr};  // what stood there before plays no part
-        Buffer buffer(kFrameHead);
-        EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 43u);
+        Buffer buffer(frame_head);
+        EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 43u);
         EXPECT_EQ(h->send_bundle_open, 1u);
         EXPECT_NE(h->bundle_table, nullptr);
         EXPECT_EQ(h->send_bundle_list.next, &h->send_bundle_list);
@@ -187,9 +187,9 @@ TEST_F(ControlMessages, AStartOnAnOpenHandleLeavesTheBundleAlone) {
             open(h, c);
             const mirk_allowed_row *table = h->bundle_table;
             const mirk_list_head list = h->send_bundle_list;
-            Buffer buffer(kFrameHead);
+            Buffer buffer(frame_head);
             err = 0;
-            EXPECT_EQ(second->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 0u);
+            EXPECT_EQ(second->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 0u);
             EXPECT_EQ(err, std::uint32_t{EEXIST});
             EXPECT_EQ(h->last_error, std::uint32_t{EEXIST});
             EXPECT_TRUE(buffer.untouched());
@@ -205,9 +205,9 @@ TEST_F(ControlMessages, AnEndWithoutABundleIsAnError) {
     for (const Control &c : controls()) {
         if (is_start(c)) continue;
         Handle h;
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         err = 0;
-        EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 0u);
+        EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 0u);
         EXPECT_EQ(err, std::uint32_t{ENOENT});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOENT});
         EXPECT_TRUE(buffer.untouched());
@@ -221,9 +221,9 @@ TEST_F(ControlMessages, TheEndOfAnyBundleClosesTheOneThatIsOpen) {
             if (!is_start(opened) || is_start(end)) continue;
             Handle h;
             open(h, opened);
-            Buffer buffer(kFrameHead);
+            Buffer buffer(frame_head);
             err = 0;
-            EXPECT_EQ(end->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 43u);
+            EXPECT_EQ(end->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 43u);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(h->send_bundle_open, 0u);
             EXPECT_EQ(mirk_platform_list_sent(h, nullptr, 0), 0u);
@@ -234,7 +234,7 @@ TEST_F(ControlMessages, TheEndOfAnyBundleClosesTheOneThatIsOpen) {
 TEST_F(ControlMessages, TooLittleRoomEndsABundleButDoesNotOpenOne) {
     const struct {
         std::uint32_t size, written;
-    } cases[] = {{0, 0}, {26, 0}, {27, 27}, {30, 27}, {42, 27}, {kTopBit, 0}, {0xFFFFFFFF, 0}};
+    } cases[] = {{0, 0}, {26, 0}, {27, 27}, {30, 27}, {42, 27}, {top_bit, 0}, {0xFFFFFFFF, 0}};
     for (const Control &c : controls()) {
         for (const auto &[size, written] : cases) {
             SCOPED_TRACE(std::string(c->name) + ", size " + std::to_string(size));
@@ -242,7 +242,7 @@ TEST_F(ControlMessages, TooLittleRoomEndsABundleButDoesNotOpenOne) {
             if (!is_start(c)) open(h, c);
             Buffer buffer(60);
             err = 0;
-            EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, size, &err), written);
+            EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, size, &err), written);
             EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
             EXPECT_EQ(h->last_error, std::uint32_t{EMSGSIZE});
             EXPECT_EQ(buffer.first(written), Bytes(written, 0));
@@ -259,11 +259,11 @@ TEST_F(ControlMessages, MarshalDoesNothingWhenTheErrorIsSet) {
         Handle h;
         if (!is_start(c)) open(h, c);
         const std::uint32_t before = h->send_bundle_open;
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         err = EPERM;
         h->last_error = ENOSPC;
-        EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 0u);
-        EXPECT_EQ(c->marshal_cr(h, nullptr, buffer.data(), kFrameHead), 0xFFFFFFFFu);
+        EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 0u);
+        EXPECT_EQ(c->marshal_cr(h, nullptr, buffer.data(), frame_head), 0xFFFFFFFFu);
         EXPECT_EQ(err, std::uint32_t{EPERM});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
         EXPECT_TRUE(buffer.untouched());
@@ -276,11 +276,11 @@ TEST_F(ControlMessages, ABundleIsOpenEvenIfTheHeaderOfItsStartFails) {
         Handle h;
         if (!is_start(c)) open(h, c);
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_HEADER_MARSHAL, 0, 1, EMSGSIZE);
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         err = 0;
-        EXPECT_EQ(c->marshal(h, kId, buffer.data(), nullptr, kFrameHead, &err), 43u);
+        EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 43u);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
-        EXPECT_EQ(buffer.first(kHeaderSize), Bytes(kHeaderSize, 0));
+        EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
         EXPECT_EQ(h->send_bundle_open, is_start(c) ? 1u : 0u);
     }
 }
@@ -293,11 +293,11 @@ TEST_F(ControlMessages, UnmarshalReadsNothingAndCallsTheHandler) {
         for (const bool has_out : {true, false}) {
             handler_calls.clear();
             void *message = &context;
-            EXPECT_EQ(c->unmarshal(h, kId, &context, has_out ? &message : nullptr, nullptr, 0, on_message, &err), 43u);
+            EXPECT_EQ(c->unmarshal(h, id, &context, has_out ? &message : nullptr, nullptr, 0, on_message, &err), 43u);
             EXPECT_EQ(message, has_out ? nullptr : &context);
             ASSERT_EQ(handler_calls.size(), 1u);
             EXPECT_EQ(handler_calls[0].h, h.get());
-            EXPECT_EQ(handler_calls[0].ctx_id, kId);
+            EXPECT_EQ(handler_calls[0].ctx_id, id);
             EXPECT_EQ(handler_calls[0].dispatch_ctx, &context);
             EXPECT_EQ(handler_calls[0].message, nullptr);
             EXPECT_EQ(handler_calls[0].slot, &err);
@@ -311,7 +311,7 @@ TEST_F(ControlMessages, TheResultOfUnmarshalIsNoSignOfSuccess) {
         Handle h;
         void *message = &h;
         err = EPERM;
-        EXPECT_EQ(c->unmarshal(h, kId, nullptr, &message, nullptr, 0, on_message, &err), 43u);
+        EXPECT_EQ(c->unmarshal(h, id, nullptr, &message, nullptr, 0, on_message, &err), 43u);
         EXPECT_EQ(message, &h);
         EXPECT_EQ(c->unmarshal_only(nullptr, 0, &message, nullptr, 0, nullptr), 0u);
         EXPECT_EQ(message, &h);
@@ -327,8 +327,8 @@ TEST_F(ControlMessages, PrintIsOneLine) {
         const std::string expected = "bundle " + std::string(c.kind) + "@" + c.bundle_name() + ": <<<<<<<<\n";
         EXPECT_EQ(reference::print_control(c.bundle_name(), c.kind), expected);
         Buffer plain(200), unsafe(200), sticky(200);
-        EXPECT_EQ(c->print(h, kId, plain.text(), nullptr, 200, &err), expected.size());
-        EXPECT_EQ(c->print_unsafe(h, kId, unsafe.text(), nullptr, 200, &err), expected.size());
+        EXPECT_EQ(c->print(h, id, plain.text(), nullptr, 200, &err), expected.size());
+        EXPECT_EQ(c->print_unsafe(h, id, unsafe.text(), nullptr, 200, &err), expected.size());
         EXPECT_EQ(c->print_cr(h, nullptr, sticky.text(), 200), expected.size());
         for (Buffer *b : {&plain, &unsafe, &sticky}) EXPECT_STREQ(b->text(), expected.c_str());
         h->last_error = EINVAL;
@@ -348,8 +348,8 @@ TEST_F(ControlMessages, XmlIsAnEmptyElement) {
         const std::string expected = "<" + word + " name=\"" + c.bundle_name() + "\"></" + word + ">";
         EXPECT_EQ(reference::control_to_xml(c.bundle_name(), c.kind), expected);
         Buffer plain(200), unsafe(200), sticky(200);
-        EXPECT_EQ(c->to_xml(h, kId, plain.text(), nullptr, 200, &err), expected.size());
-        EXPECT_EQ(c->to_xml_unsafe(h, kId, unsafe.text(), nullptr, 200, &err), expected.size());
+        EXPECT_EQ(c->to_xml(h, id, plain.text(), nullptr, 200, &err), expected.size());
+        EXPECT_EQ(c->to_xml_unsafe(h, id, unsafe.text(), nullptr, 200, &err), expected.size());
         EXPECT_EQ(c->toxml_cr(h, nullptr, sticky.text(), 200), expected.size());
         for (Buffer *b : {&plain, &unsafe, &sticky}) EXPECT_STREQ(b->text(), expected.c_str());
         h->last_error = EINVAL;
@@ -368,10 +368,10 @@ TEST_F(ControlMessages, AnyDocumentGivesAToken) {
     for (const Control &c : controls()) {
         Handle h;
         err = EPERM;  // not looked at
-        void *token = c->from_xml(h, kId, document, &err, nullptr, 0);
+        void *token = c->from_xml(h, id, document, &err, nullptr, 0);
         EXPECT_NE(token, nullptr);
         EXPECT_EQ(err, std::uint32_t{EPERM});
-        c->destroy(h, kId, token);
+        c->destroy(h, id, token);
     }
     mirk_platform_document_free(document);
 }

@@ -22,7 +22,7 @@ struct Handlers : Messaging {
     mirk_platform_error dispatch(mirk_handle *h, const BundleOperations &b, std::string_view kind,
                                  void *context = nullptr) {
         Buffer frame(reference::control_frame(b.bundle->name, kind, 0));
-        return mirk_platform_dispatch(h, kId, frame.data(), frame.size(), context, nullptr);
+        return mirk_platform_dispatch(h, id, frame.data(), frame.size(), context, nullptr);
     }
     static std::string name_of(const BundleOperations &b, const char *kind) {
         return std::string(b.bundle->name) + "_bundle_" + kind;
@@ -62,7 +62,7 @@ TEST_F(Handlers, AStartOpensTheReceivedBundle) {
 TEST_F(Handlers, AStartOutsideTheDispatcherHasNoEntry) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
-        b.start.handler(h, kId, nullptr, nullptr, &err);
+        b.start.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(h->recv_bundle_open, 1u);
         expect_no_dispatch(h);
@@ -92,7 +92,7 @@ TEST_F(Handlers, AStartDoesNotLookAtTheError) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         err = EPERM;
-        b.start.handler(h, kId, nullptr, nullptr, &err);
+        b.start.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(h->recv_bundle_open, 1u);
         EXPECT_EQ(err, std::uint32_t{EPERM});
     }
@@ -114,7 +114,7 @@ TEST_F(Handlers, AnAbortDropsTheBundle) {
         // Without an entry nothing is said.
         h->recv_bundle_open = 1;
         err = 0;
-        b.abort.handler(h, kId, nullptr, nullptr, &err);
+        b.abort.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(h->recv_bundle_open, 0u);
         EXPECT_EQ(traced(), Lines{});
@@ -130,7 +130,7 @@ TEST_F(Handlers, AnEndOutsideABundleSpeaksOfAnAbort) {
             h->recv_bundle_lut = h->recv_bundle_commit_lut = &entry;
             h->recv_bundle_lut_ref = &entry;
             err = 0;
-            m->handler(h, kId, nullptr, nullptr, &err);
+            m->handler(h, id, nullptr, nullptr, &err);
             EXPECT_EQ(err, std::uint32_t{EBADMSG});
             EXPECT_EQ(h->last_error, std::uint32_t{EBADMSG});
             expect_no_dispatch(h);
@@ -148,7 +148,7 @@ TEST_F(Handlers, AnEndWithAnErrorDropsTheBundleUnseen) {
             Handle h;
             h->recv_bundle_open = 1;
             err = EPERM;
-            m.handler(h, kId, nullptr, nullptr, &err);
+            m.handler(h, id, nullptr, nullptr, &err);
             EXPECT_EQ(err, std::uint32_t{EPERM});
             EXPECT_EQ(h->recv_bundle_open, 0u);
             expect_no_dispatch(h);
@@ -165,7 +165,7 @@ TEST_F(Handlers, ACommitWithoutADispatchEntryRunsNoHandler) {
         Handle h;
         mirk_platform_handle_set_bundle_handler(h, on_bundle<'h'>);
         h->recv_bundle_open = 1;
-        b.commit.handler(h, kId, nullptr, nullptr, &err);
+        b.commit.handler(h, id, nullptr, nullptr, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(h->recv_bundle_open, 0u);
     }
@@ -180,9 +180,9 @@ TEST_F(Handlers, AMessageThatTheyAreGivenIsReleasedInEveryBranch) {
                 for (const std::uint32_t before : {0u, std::uint32_t{EPERM}}) {
                     Handle h;
                     h->recv_bundle_open = open;
-                    void *token = m->create(h, kId);
+                    void *token = m->create(h, id);
                     err = before;
-                    m->handler(h, kId, nullptr, token, &err);
+                    m->handler(h, id, nullptr, token, &err);
                     EXPECT_EQ(h.live_blocks(), 0u) << m->name << ' ' << open << ' ' << before;
                 }
             }
@@ -216,7 +216,7 @@ TEST_F(Handlers, ExactlyOneOfFiveRunsInAFixedOrder) {
             ASSERT_EQ(handler_calls.size(), 1u);
             EXPECT_EQ(handler_calls[0].handler, handler);
             EXPECT_EQ(handler_calls[0].h, h.get());
-            EXPECT_EQ(handler_calls[0].ctx_id, kId);
+            EXPECT_EQ(handler_calls[0].ctx_id, id);
             EXPECT_EQ(handler_calls[0].dispatch_ctx, &context);
             EXPECT_EQ(handler_calls[0].err, 0u);
             EXPECT_EQ(traced(), (Lines{"message 7 " + line + entry}));
@@ -244,7 +244,7 @@ TEST_F(Handlers, TheStubOfABundleTracesFillersAndTouchesNoError) {
         Handle h;
         h->last_error = ENOSPC;
         err = EPERM;
-        b.handler(h, kId, nullptr, &err);
+        b.handler(h, id, nullptr, &err);
         EXPECT_EQ(err, std::uint32_t{EPERM});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
         const auto filler = [](std::size_t length) {

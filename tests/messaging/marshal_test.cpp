@@ -6,7 +6,7 @@ namespace {
 using namespace messaging;
 using tarn::reflect::messages;
 
-constexpr std::uint32_t kTopBit = 0x80000000;
+constexpr std::uint32_t top_bit = 0x80000000;
 
 std::string failed(const MessageOperations &m, std::uint32_t number) {
     return "message 3 (ERR): Message " + std::string(m.name) + " failed to marshal: " + error_text(number);
@@ -27,9 +27,9 @@ Lines of_messages(const Lines &lines) {
 void open_bundle_of(mirk_handle *h, const MessageOperations &m) {
     for (const BundleOperations &b : tarn::reflect::bundles()) {
         if (&b.bundle->message != m.message) continue;
-        Buffer buffer(kFrameHead);
+        Buffer buffer(frame_head);
         std::uint32_t err = 0;
-        ASSERT_EQ(b.start.marshal(h, kId, buffer.data(), nullptr, buffer.size(), &err), kFrameHead);
+        ASSERT_EQ(b.start.marshal(h, id, buffer.data(), nullptr, buffer.size(), &err), frame_head);
         return;
     }
     FAIL() << "no bundle admits " << m.name;
@@ -51,13 +51,13 @@ TEST_F(Marshal, LenIsThatOfThePayloadAndTheHead) {
             const reference::Record value = sample(m, 3, {.max_elements = 3});
             void *message = make(h, m, value);
             const std::uint32_t expected = reference::message_length(value, h.tracks());
-            EXPECT_EQ(m.len(h, kId, message), expected);
-            EXPECT_EQ(m.len_unsafe(h, kId, message), expected);
+            EXPECT_EQ(m.len(h, id, message), expected);
+            EXPECT_EQ(m.len_unsafe(h, id, message), expected);
             EXPECT_EQ(m.len_cr(h, message), expected);
             h->last_error = EINVAL;
             EXPECT_EQ(m.len_cr(h, message), 0u);
             EXPECT_EQ(h->last_error, std::uint32_t{EINVAL});
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -65,9 +65,9 @@ TEST_F(Marshal, LenIsThatOfThePayloadAndTheHead) {
 TEST_F(Marshal, LenOfAMessageWithoutPayloadIsThatOfANullRecord) {
     for (const MessageOperations &m : messages()) {
         Handle h(Tracking::on);
-        void *message = m.create_shallow(h, kId);
-        EXPECT_EQ(m.len(h, kId, message), 43 + reference::length_of_null(reference::record_table(payload_name(m))));
-        m.destroy(h, kId, message);
+        void *message = m.create_shallow(h, id);
+        EXPECT_EQ(m.len(h, id, message), 43 + reference::length_of_null(reference::record_table(payload_name(m))));
+        m.destroy(h, id, message);
     }
 }
 
@@ -88,13 +88,13 @@ TEST_F(Marshal, WritesTheFrameOfTheReference) {
                 };
                 const std::size_t room = expected.size() + 20;
                 Buffer plain(room), unsafe(room), sticky(room);
-                check(m.marshal(h, kId, plain.data(), message, plain.size(), &err), plain);
-                check(m.marshal_unsafe(h, kId, unsafe.data(), message, unsafe.size(), &err), unsafe);
+                check(m.marshal(h, id, plain.data(), message, plain.size(), &err), plain);
+                check(m.marshal_unsafe(h, id, unsafe.data(), message, unsafe.size(), &err), unsafe);
                 check(m.marshal_cr(h, message, sticky.data(), sticky.size()), sticky);
                 EXPECT_EQ(err, 0u);
                 EXPECT_EQ(object(message)->header.total_length, expected.size());
                 EXPECT_EQ(object(message)->header.stamp, 0xA0B0C0D0u);
-                m.destroy(h, kId, message);
+                m.destroy(h, id, message);
             }
         }
     }
@@ -105,12 +105,12 @@ TEST_F(Marshal, DoesNothingButTraceWhenTheErrorIsSet) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         Buffer buffer(1000);
         err = EPERM;
         h->last_error = ENOSPC;
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, buffer.size(), &err), 0u);
-        EXPECT_EQ(m.marshal_unsafe(h, kId, buffer.data(), message, buffer.size(), &err), 0u);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, buffer.size(), &err), 0u);
+        EXPECT_EQ(m.marshal_unsafe(h, id, buffer.data(), message, buffer.size(), &err), 0u);
         EXPECT_EQ(m.marshal_cr(h, message, buffer.data(), buffer.size()), 0xFFFFFFFFu);
         EXPECT_TRUE(buffer.untouched());
         EXPECT_EQ(err, std::uint32_t{EPERM});
@@ -118,7 +118,7 @@ TEST_F(Marshal, DoesNothingButTraceWhenTheErrorIsSet) {
         const std::string text = "(debug): Error present in call to message marshal: ";
         EXPECT_EQ(traced(), (Lines{"message 7 " + text + error_text(EPERM), "message 7 " + text + error_text(EPERM),
                                    "message 7 " + text + error_text(ENOSPC)}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -128,10 +128,10 @@ TEST_F(Marshal, AMessageThatTheDomainDoesNotAllow) {
         Handle h;
         mirk_platform_handle_set_domain_name(h, "the other side");
         mirk_platform_domain_set_message(h, m.luid, 0);
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         Buffer buffer(1000);
         err = 0;
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, buffer.size(), &err), 0u);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, buffer.size(), &err), 0u);
         EXPECT_EQ(err, std::uint32_t{EBADE});
         EXPECT_EQ(h->last_error, std::uint32_t{EBADE});
         EXPECT_TRUE(buffer.untouched());
@@ -141,24 +141,24 @@ TEST_F(Marshal, AMessageThatTheDomainDoesNotAllow) {
         EXPECT_EQ(m.marshal_cr(h, message, buffer.data(), buffer.size()), 0xFFFFFFFFu);
         EXPECT_EQ(h->last_error, std::uint32_t{EBADE});
         EXPECT_EQ(traced().size(), 1u);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Marshal, TooLittleRoomForTheHeaderLeavesTheBufferAlone) {
     for (const MessageOperations &m : messages()) {
-        for (const std::uint32_t size : {0u, 26u, kTopBit, 0xFFFFFFFFu}) {
+        for (const std::uint32_t size : {0u, 26u, top_bit, 0xFFFFFFFFu}) {
             SCOPED_TRACE(std::string(m.name) + ", size " + std::to_string(size));
             Handle h;
-            void *message = m.create(h, kId);
+            void *message = m.create(h, id);
             Buffer buffer(100);
             err = 0;
-            EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, size, &err), 0u);
+            EXPECT_EQ(m.marshal(h, id, buffer.data(), message, size, &err), 0u);
             EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
             EXPECT_EQ(h->last_error, std::uint32_t{EMSGSIZE});
             EXPECT_TRUE(buffer.untouched());
             EXPECT_EQ(traced(), (Lines{failed(m, EMSGSIZE)}));
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -172,15 +172,15 @@ TEST_F(Marshal, TooLittleRoomForTheIdentityLeavesAZeroedHeader) {
             void *message = make(h, m, sample(m));
             Buffer buffer(100);
             err = 0;
-            EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, size, &err), kHeaderSize);
+            EXPECT_EQ(m.marshal(h, id, buffer.data(), message, size, &err), header_size);
             EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
-            EXPECT_EQ(buffer.first(kHeaderSize), Bytes(kHeaderSize, 0));
-            EXPECT_TRUE(buffer.untouched(kHeaderSize));
+            EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
+            EXPECT_TRUE(buffer.untouched(header_size));
             EXPECT_EQ(traced(), (Lines{failed(m, EMSGSIZE)}));
             EXPECT_EQ(object(message)->header.total_length, 0u);
             ASSERT_EQ(sent(h).size(), 1u);    // admitted
             EXPECT_EQ(sent(h)[0].count, 0u);  // but not sent
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -192,13 +192,13 @@ TEST_F(Marshal, RoomForTheHeadAloneLeavesThePayloadToFail) {
         void *message = make(h, m, sample(m));
         Buffer buffer(100);
         err = 0;
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, kFrameHead, &err), kFrameHead);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, frame_head, &err), frame_head);
         EXPECT_EQ(err, std::uint32_t{ENOMEM});  // a record's marshal without any room
-        EXPECT_EQ(buffer.first(kHeaderSize), Bytes(kHeaderSize, 0));
-        EXPECT_EQ(std::memcmp(buffer.data() + kHeaderSize, m.luid, 16), 0);
-        EXPECT_TRUE(buffer.untouched(kFrameHead));
+        EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
+        EXPECT_EQ(std::memcmp(buffer.data() + header_size, m.luid, 16), 0);
+        EXPECT_TRUE(buffer.untouched(frame_head));
         EXPECT_EQ(of_messages(traced()), (Lines{failed(m, ENOMEM)}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -211,11 +211,11 @@ TEST_F(Marshal, APayloadThatDoesNotFitLeavesTheHeaderZero) {
             const std::size_t whole = frame_of(m, value, h.tracks()).size();
             void *message = make(h, m, value);
             std::uint64_t counted = 0;
-            for (std::size_t size = kFrameHead + 1; size < whole; ++size) {
+            for (std::size_t size = frame_head + 1; size < whole; ++size) {
                 SCOPED_TRACE(std::string(m.name) + ", size " + std::to_string(size));
                 Buffer buffer(size);
                 err = 0;
-                const std::uint32_t written = m.marshal(h, kId, buffer.data(), message, buffer.size(), &err);
+                const std::uint32_t written = m.marshal(h, id, buffer.data(), message, buffer.size(), &err);
                 ASSERT_TRUE(buffer.guards_stand());
                 if (tracking == Tracking::on && err == 0) {
                     // State at the very end is cut without an error: the frame looks whole.
@@ -224,13 +224,13 @@ TEST_F(Marshal, APayloadThatDoesNotFitLeavesTheHeaderZero) {
                     continue;
                 }
                 EXPECT_NE(err, 0u);
-                EXPECT_GE(written, kFrameHead);
-                EXPECT_EQ(buffer.first(kHeaderSize), Bytes(kHeaderSize, 0));
+                EXPECT_GE(written, frame_head);
+                EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
                 EXPECT_EQ(of_messages(traced()), (Lines{failed(m, err)}));
             }
             // Frames that looked whole were counted, the others were not.
             EXPECT_EQ(sent(h).at(0).count, counted);
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -244,15 +244,15 @@ TEST_F(Marshal, FailuresAreTracedQuietlyWhenTheRuntimeWantsIt) {
         for (const std::uint32_t size : {26u, 42u, 50u}) {
             mirk_platform_handle_set_suppress_messages(h, 0);
             std::uint32_t loud = 0, quiet = 0;
-            m.marshal(h, kId, buffer.data(), message, size, &loud);
+            m.marshal(h, id, buffer.data(), message, size, &loud);
             ASSERT_NE(loud, 0u);
             EXPECT_EQ(of_messages(traced()), (Lines{failed(m, loud)}));
             mirk_platform_handle_set_suppress_messages(h, 1);
-            m.marshal(h, kId, buffer.data(), message, size, &quiet);
+            m.marshal(h, id, buffer.data(), message, size, &quiet);
             EXPECT_EQ(quiet, loud);
             EXPECT_EQ(of_messages(traced()), (Lines{failed_quietly(m, loud)}));
         }
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -264,17 +264,17 @@ TEST_F(Marshal, AMessageThatTheBundleDoesNotList) {
             Handle h;
             Buffer buffer(1000);
             err = 0;
-            b.start.marshal(h, kId, buffer.data(), nullptr, buffer.size(), &err);
-            void *message = m.create(h, kId);
+            b.start.marshal(h, id, buffer.data(), nullptr, buffer.size(), &err);
+            void *message = m.create(h, id);
             Buffer room(1000);
-            EXPECT_EQ(m.marshal(h, kId, room.data(), message, room.size(), &err), 0u);
+            EXPECT_EQ(m.marshal(h, id, room.data(), message, room.size(), &err), 0u);
             EXPECT_EQ(err, std::uint32_t{ENOENT});
             EXPECT_TRUE(room.untouched());
             EXPECT_EQ(traced(), (Lines{"message 3 (ERR): Message " + std::string(m.name) +
                                        " is not valid for bundle: " + error_text(ENOENT)}));
             EXPECT_EQ(h->send_bundle_open, 1u);
             EXPECT_TRUE(sent(h).empty());
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -284,10 +284,10 @@ TEST_F(Marshal, InABundleEachFrameIsCounted) {
         SCOPED_TRACE(m.name);
         Handle h;
         open_bundle_of(h, m);
-        void *message = m.create(h, kId);
-        Buffer buffer(m.len(h, kId, message));
+        void *message = m.create(h, id);
+        Buffer buffer(m.len(h, id, message));
         for (std::uint64_t count = 1; count <= 3; ++count) {
-            m.marshal(h, kId, buffer.data(), message, buffer.size(), &err);
+            m.marshal(h, id, buffer.data(), message, buffer.size(), &err);
             ASSERT_EQ(err, 0u);
             const auto all = sent(h);
             ASSERT_EQ(all.size(), 1u);
@@ -295,19 +295,19 @@ TEST_F(Marshal, InABundleEachFrameIsCounted) {
             EXPECT_EQ(all[0].name, m.catalogue_name);
             EXPECT_EQ(all[0].count, count);
         }
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Marshal, OutsideABundleNothingIsCounted) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
-        Buffer buffer(m.len(h, kId, message));
-        EXPECT_GT(m.marshal(h, kId, buffer.data(), message, buffer.size(), &err), kFrameHead);
+        void *message = m.create(h, id);
+        Buffer buffer(m.len(h, id, message));
+        EXPECT_GT(m.marshal(h, id, buffer.data(), message, buffer.size(), &err), frame_head);
         EXPECT_TRUE(sent(h).empty());
         EXPECT_EQ(mirk_platform_testing_calls(h, MIRK_PLATFORM_TESTING_VALIDATE_ADD), 0u);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -316,27 +316,27 @@ TEST_F(Marshal, AHeaderThatFailsStaysZero) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        void *message = m.create(h, kId);
-        Buffer buffer(m.len(h, kId, message));
+        void *message = m.create(h, id);
+        Buffer buffer(m.len(h, id, message));
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_HEADER_MARSHAL, 0, 1, EMSGSIZE);
         err = 0;
-        EXPECT_GT(m.marshal(h, kId, buffer.data(), message, buffer.size(), &err), kFrameHead);
+        EXPECT_GT(m.marshal(h, id, buffer.data(), message, buffer.size(), &err), frame_head);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
-        EXPECT_EQ(buffer.first(kHeaderSize), Bytes(kHeaderSize, 0));
-        m.destroy(h, kId, message);
+        EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Marshal, AnExplicitCallClearsTheStickyError) {
     const MessageOperations &m = messages()[0];
     Handle h;
-    void *message = m.create(h, kId);
-    Buffer buffer(m.len(h, kId, message));
+    void *message = m.create(h, id);
+    Buffer buffer(m.len(h, id, message));
     h->last_error = EPERM;
     EXPECT_EQ(m.marshal_cr(h, message, buffer.data(), buffer.size()), 0xFFFFFFFFu);
-    EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, buffer.size(), &err), buffer.size());
+    EXPECT_EQ(m.marshal(h, id, buffer.data(), message, buffer.size(), &err), buffer.size());
     EXPECT_EQ(m.marshal_cr(h, message, buffer.data(), buffer.size()), buffer.size());
-    m.destroy(h, kId, message);
+    m.destroy(h, id, message);
 }
 
 }  // namespace

@@ -24,7 +24,7 @@
 
 namespace messaging {
 
-using bridge::kId;
+using bridge::id;
 using kit::Buffer;
 using kit::Events;
 using kit::every_tracking;
@@ -53,8 +53,8 @@ inline const RecordOperations &payload_of(const MessageOperations &m) {
 inline std::string payload_name(const MessageOperations &m) { return std::string(m.message->payload.name); }
 inline mirk_variant_entry counters(const MessageOperations &m) { return m.type->variant_info->entries[0]; }
 
-constexpr std::uint8_t kStateTracked = 8;
-constexpr std::uint32_t kHeaderSize = 27, kFrameHead = 43;
+constexpr std::uint8_t state_tracked = 8;
+constexpr std::uint32_t header_size = 27, frame_head = 43;
 
 // ---- control messages ----
 
@@ -79,17 +79,17 @@ inline std::vector<Control> controls() {
 
 // ---- payloads and buffers ----
 
-constexpr reference::GeneratorOptions kSmall{
+constexpr reference::GeneratorOptions small{
     .min_elements = 1, .max_elements = 1, .min_text = 1, .max_text = 5, .budget = 2000};
 
 inline reference::Record sample(const MessageOperations &m, std::uint64_t seed = 1,
-                                const reference::GeneratorOptions &options = kSmall) {
+                                const reference::GeneratorOptions &options = small) {
     return reference::Generator(seed, options).make(m.message->payload.name);
 }
 
 // A message that holds the value.
 inline void *make(mirk_handle *h, const MessageOperations &m, const reference::Record &value) {
-    void *message = m.create(h, kId);
+    void *message = m.create(h, id);
     bridge::fill(h, payload_of(m), object(message)->payload, value);
     return message;
 }

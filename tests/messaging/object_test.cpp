@@ -13,7 +13,7 @@ void expect_fresh(const Message &message, const MessageOperations &m, Tracking t
     EXPECT_EQ(message.tinfo, m.type);
     EXPECT_EQ(message.variant, 0);
     EXPECT_EQ(message.home_variant, 0);
-    EXPECT_EQ(message.obj_flag, tracked ? kStateTracked : 0);
+    EXPECT_EQ(message.obj_flag, tracked ? state_tracked : 0);
     EXPECT_EQ(message.header.marker, 0xBC);
     for (const std::uint8_t byte : message.header.fill) EXPECT_EQ(byte, 0xFF);
     EXPECT_EQ(message.header.sttr, tracked ? 1 : 0);
@@ -29,7 +29,7 @@ TEST_F(MessageObjects, CreateMakesAMessageWithAFreshPayload) {
             SCOPED_TRACE(std::string(m.name) + ", " + kit::name_of(tracking));
             Handle h(tracking);
             mirk_platform_testing_set_fresh_fill(h, 0xEE);
-            void *const made[] = {m.create(h, kId), m.create_unsafe(h, kId), m.create_cr(h)};
+            void *const made[] = {m.create(h, id), m.create_unsafe(h, id), m.create_cr(h)};
             for (void *message : made) {
                 ASSERT_NE(message, nullptr);
                 expect_fresh(*object(message), m, tracking);
@@ -38,8 +38,8 @@ TEST_F(MessageObjects, CreateMakesAMessageWithAFreshPayload) {
             }
             EXPECT_EQ(h->cr_mode, 0u);
             EXPECT_EQ(h->last_error, 0u);
-            m.destroy(h, kId, made[0]);
-            m.destroy_unsafe(h, kId, made[1]);
+            m.destroy(h, id, made[0]);
+            m.destroy_unsafe(h, id, made[1]);
             m.destroy_cr(h, made[2]);
         }
     }
@@ -51,11 +51,11 @@ TEST_F(MessageObjects, AShallowMessageHasNoPayload) {
         for (const MessageOperations &m : messages()) {
             Handle h(tracking);
             mirk_platform_testing_set_fresh_fill(h, 0xEE);
-            void *message = m.create_shallow(h, kId);
+            void *message = m.create_shallow(h, id);
             ASSERT_NE(message, nullptr);
             expect_fresh(*object(message), m, tracking);
             EXPECT_EQ(object(message)->payload, nullptr);
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -65,11 +65,11 @@ TEST_F(MessageObjects, CreationAndDestructionAreCountedAndLifeIsNot) {
         SCOPED_TRACE(m.name);
         Handle h;
         const mirk_variant_entry before = counters(m);
-        void *deep = m.create(h, kId), *shallow = m.create_shallow(h, kId);
+        void *deep = m.create(h, id), *shallow = m.create_shallow(h, id);
         EXPECT_EQ(counters(m).num_created, before.num_created + 2);
         EXPECT_EQ(counters(m).num_destroyed, before.num_destroyed);
-        m.destroy(h, kId, deep);
-        m.destroy(h, kId, shallow);
+        m.destroy(h, id, deep);
+        m.destroy(h, id, shallow);
         EXPECT_EQ(counters(m).num_destroyed, before.num_destroyed + 2);
         EXPECT_EQ(counters(m).num_live, 0u);
     }
@@ -115,13 +115,13 @@ TEST_F(MessageObjects, OnAHandleWithPrivateTypesTheCopyIsUsedAndCounted) {
         SCOPED_TRACE(m.name);
         Handle h({.private_types = true});
         const mirk_variant_entry before = counters(m);
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         const mirk_type_info *copy = object(message)->tinfo;
         EXPECT_NE(copy, m.type);
         EXPECT_STREQ(copy->luid_text, m.luid_text);
         EXPECT_NE(copy->plain_counters, 0u);
         EXPECT_EQ(copy->variant_info->entries[0].num_created, 1u);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
         EXPECT_EQ(copy->variant_info->entries[0].num_destroyed, 1u);
         EXPECT_EQ(copy->variant_info->entries[0].num_live, 0u);
         EXPECT_EQ(counters(m).num_created, before.num_created);
@@ -137,8 +137,8 @@ TEST_F(MessageObjects, DestroyOfNullAndOfTheSentinelDoesNothing) {
         Handle h;
         Events events(h);
         for (void *nothing : {static_cast<void *>(nullptr), sentinel}) {
-            m.destroy(h, kId, nothing);
-            m.destroy_unsafe(h, kId, nothing);
+            m.destroy(h, id, nothing);
+            m.destroy_unsafe(h, id, nothing);
             m.destroy_cr(h, nothing);
         }
         EXPECT_TRUE(events.all.empty());
@@ -216,14 +216,14 @@ TEST_F(MessageObjects, CreateWithoutMemoryGivesNullAndCountsNothing) {
         for (const std::uint64_t nth : {std::uint64_t{1}, std::uint64_t{2}}) {
             Handle h;
             h.fail_alloc(nth);
-            EXPECT_EQ(m.create(h, kId), nullptr);
+            EXPECT_EQ(m.create(h, id), nullptr);
             h.fail_alloc(nth);
-            EXPECT_EQ(m.create_unsafe(h, kId), nullptr);
+            EXPECT_EQ(m.create_unsafe(h, id), nullptr);
             EXPECT_EQ(h.live_blocks(), 0u);
         }
         Handle h;
         h.fail_alloc(1);
-        EXPECT_EQ(m.create_shallow(h, kId), nullptr);
+        EXPECT_EQ(m.create_shallow(h, id), nullptr);
         EXPECT_EQ(h->last_error, 0u);
         EXPECT_EQ(counters(m).num_created, before.num_created);
     }
@@ -233,10 +233,10 @@ TEST_F(MessageObjects, CreateOutsideAStickyCallDoesNotLookAtTheLastError) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         h->last_error = EINVAL;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         EXPECT_NE(message, sentinel_of(m));
         ASSERT_NE(message, nullptr);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 

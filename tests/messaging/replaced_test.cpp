@@ -9,16 +9,16 @@ std::vector<std::string> called;
 
 }  // namespace
 
-#define MESSAGE_HANDLER(name)                                                                         \
-    void lumo_ui_tarn_##name##_message_handler(mirk_handle *, uint32_t, void *, void *, uint32_t *) { \
-        called.push_back("lumo_ui_tarn_" #name "_message_handler");                                   \
+#define MESSAGE_HANDLER(name)                                                                                   \
+    void lumo_ui_tarn_##name##_message_handler(mirk_handle *, std::uint32_t, void *, void *, std::uint32_t *) { \
+        called.push_back("lumo_ui_tarn_" #name "_message_handler");                                             \
     }
-#define BUNDLE_HANDLERS(name)                                                                \
-    MESSAGE_HANDLER(name##_bundle_start)                                                     \
-    MESSAGE_HANDLER(name##_bundle_abort)                                                     \
-    MESSAGE_HANDLER(name##_bundle_commit)                                                    \
-    void lumo_ui_tarn_##name##_bundle_handler(mirk_handle *, uint32_t, void *, uint32_t *) { \
-        called.push_back("lumo_ui_tarn_" #name "_bundle_handler");                           \
+#define BUNDLE_HANDLERS(name)                                                                          \
+    MESSAGE_HANDLER(name##_bundle_start)                                                               \
+    MESSAGE_HANDLER(name##_bundle_abort)                                                               \
+    MESSAGE_HANDLER(name##_bundle_commit)                                                              \
+    void lumo_ui_tarn_##name##_bundle_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) { \
+        called.push_back("lumo_ui_tarn_" #name "_bundle_handler");                                     \
     }
 
 extern "C" {
@@ -63,10 +63,10 @@ TEST_F(ReplacedHandlers, OfPlainMessagesRun) {
         Handle h;
         Buffer frame(frame_of(m, sample(m), false));
         void *message = nullptr;
-        EXPECT_EQ(m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
+        EXPECT_EQ(m.unmarshal(h, id, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(called, (std::vector<std::string>{"lumo_ui_tarn_" + std::string(m.name) + "_message_handler"}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -74,7 +74,7 @@ TEST_F(ReplacedHandlers, OfControlMessagesRun) {
     for (const Control &c : controls()) {
         called.clear();
         Handle h;
-        EXPECT_EQ(c->unmarshal(h, kId, nullptr, nullptr, nullptr, 0, nullptr, &err), 43u);
+        EXPECT_EQ(c->unmarshal(h, id, nullptr, nullptr, nullptr, 0, nullptr, &err), 43u);
         EXPECT_EQ(called, (std::vector<std::string>{"lumo_ui_tarn_" + std::string(c->name) + "_message_handler"}));
         EXPECT_EQ(h->recv_bundle_open, 0u);  // the state keeping is the process's now
     }
@@ -86,8 +86,8 @@ TEST_F(ReplacedHandlers, AreWhatTheProcessFindsUnderTheirNames) {
     for (const BundleOperations &b : tarn::reflect::bundles()) {
         called.clear();
         Handle h;
-        b.handler(h, kId, nullptr, &err);
-        b.start.handler(h, kId, nullptr, nullptr, &err);
+        b.handler(h, id, nullptr, &err);
+        b.start.handler(h, id, nullptr, nullptr, &err);
         ASSERT_EQ(called.size(), 2u);
         EXPECT_EQ(called[0], "lumo_ui_tarn_" + std::string(b.bundle->name) + "_bundle_handler");
         names.insert(called.begin(), called.end());

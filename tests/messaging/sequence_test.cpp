@@ -22,13 +22,13 @@ using tarn::reflect::MessageOperations;
 using tarn::reflect::messages;
 using Strings = std::vector<std::string>;
 
-constexpr std::uint32_t kId = 7, kRoom = 4000;
+constexpr std::uint32_t id = 7, room = 4000;
 
 struct Sequence : testing::Test {
     void SetUp() override {
         observing::clear_names();
         mirk_lumo_ui_tarn_message_trace_init();
-        observing::name_region("buffer", buffer.data(), kRoom);
+        observing::name_region("buffer", buffer.data(), room);
         observing::name_region("slot", &err, sizeof err);
         observing::clear_log();
     }
@@ -58,7 +58,7 @@ struct Sequence : testing::Test {
     }
     static std::string why(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
 
-    std::array<std::uint8_t, kRoom> buffer{};
+    std::array<std::uint8_t, room> buffer{};
     std::uint32_t err = 0;
 };
 
@@ -68,7 +68,7 @@ TEST_F(Sequence, CreateMakesThePayloadBeforeItBindsAndCounts) {
         Handle h(observing::Options{.tracking = Tracking::none, .private_types = 1});
         observing::clear_names();
         observing::clear_log();
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         const Strings lines = calls();
         ASSERT_GE(lines.size(), 4u);
         EXPECT_EQ(lines[0], "obj_alloc 40");
@@ -77,7 +77,7 @@ TEST_F(Sequence, CreateMakesThePayloadBeforeItBindsAndCounts) {
         EXPECT_TRUE(lines[lines.size() - 2].starts_with("mirk_type_info_ptr_get " + std::string(m.name)));
         EXPECT_TRUE(lines.back().starts_with("count_notify " + std::string(m.name))) << lines.back();
         EXPECT_TRUE(lines.back().ends_with(".num_created 1")) << lines.back();
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -86,16 +86,16 @@ TEST_F(Sequence, DestroyEndsThePayloadFirst) {
         SCOPED_TRACE(m.name);
         Handle h;
         observing::clear_names();
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         calls();
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
         EXPECT_EQ(own(calls_of({"count_notify", "obj_free"}), m),
                   (Strings{"obj_free block2", "count_notify " + std::string(m.name) + ".num_destroyed 1",
                            "obj_free block1"}));
         // A message without a payload is counted and released, nothing else.
-        message = m.create_shallow(h, kId);
+        message = m.create_shallow(h, id);
         calls();
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
         EXPECT_EQ(calls(), (Strings{"count_notify " + std::string(m.name) + ".num_destroyed 1", "obj_free block3"}));
     }
 }
@@ -112,7 +112,7 @@ TEST_F(Sequence, StickyFormsUseTheHandlesIdAndItsLastErrorAsSlot) {
         EXPECT_NE(m.is_valid_cr(h), 0u);
         EXPECT_EQ(calls(Detail::full),
                   (Strings{"mirk_domain_lookup_message_ok " + std::string(m.name) + " err=last_error"}));
-        m.marshal_cr(h, message, buffer.data(), kRoom);
+        m.marshal_cr(h, message, buffer.data(), room);
         for (const observing::Call &call : observing::log()) {
             EXPECT_TRUE(call.slot.empty() || call.slot == "last_error") << line(call);
             EXPECT_EQ(call.ctx_id.value_or(31), 31u) << line(call);
@@ -137,10 +137,10 @@ TEST_F(Sequence, MarshalChecksTheDomainThenTheBundleAndWritesTheHeaderLast) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
-        void *message = m.create(h, kId);
-        b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        void *message = m.create(h, id);
+        b.start.marshal(h, id, buffer.data(), nullptr, room, &err);
         calls();
-        const std::uint32_t written = m.marshal(h, kId, buffer.data(), message, kRoom, &err);
+        const std::uint32_t written = m.marshal(h, id, buffer.data(), message, room, &err);
         const std::string header =
             "_mirk_message_header_marshal buffer 188 0 16909060 " + std::to_string(written) + " 27";
         Strings all = calls();
@@ -150,7 +150,7 @@ TEST_F(Sequence, MarshalChecksTheDomainThenTheBundleAndWritesTheHeaderLast) {
         EXPECT_EQ(all[3], "mirk_clear_last_error");  // the record's marshal begins
         EXPECT_TRUE(all[all.size() - 2].starts_with("bundle_message_increment_count ")) << all[all.size() - 2];
         EXPECT_EQ(all.back(), header);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -159,19 +159,19 @@ TEST_F(Sequence, AMessageThatTheOpenBundleLost) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         err = 0;
-        b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        b.start.marshal(h, id, buffer.data(), nullptr, room, &err);
         h.knobs().errors["bundle_message_increment_count"] = ENOENT;
         buffer.fill(0xA5);
         calls();
-        EXPECT_GT(m.marshal(h, kId, buffer.data(), message, kRoom, &err), 43u);
+        EXPECT_GT(m.marshal(h, id, buffer.data(), message, room, &err), 43u);
         EXPECT_EQ(err, std::uint32_t{ENOENT});
         const Strings lines = calls_of({"skald_wrapper", "_mirk_message_header_marshal"});
         EXPECT_EQ(lines, (Strings{"skald_wrapper message 3 (ERR): Message " + std::string(m.name) +
                                   " instance is not present in bundle " + why(ENOENT)}));
         EXPECT_TRUE(std::all_of(buffer.begin(), buffer.begin() + 27, [](std::uint8_t byte) { return byte == 0; }));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -181,63 +181,63 @@ TEST_F(Sequence, AnErrorLeftByTheDomainCheckEndsMarshal) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         h.knobs().default_message = {1, EPERM};
         buffer.fill(0xA5);
         calls();
         err = 0;
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, kRoom, &err), 0u);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, room, &err), 0u);
         EXPECT_EQ(err, std::uint32_t{EPERM});
         EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", "mirk_domain_lookup_message_ok " + std::string(m.name)}));
         EXPECT_EQ(buffer[0], 0xA5);
 
         err = 0;
-        b.start.marshal(h, kId, buffer.data(), nullptr, kRoom, &err);
+        b.start.marshal(h, id, buffer.data(), nullptr, room, &err);
         calls();
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, kRoom, &err), 0u);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, room, &err), 0u);
         EXPECT_EQ(err, std::uint32_t{EPERM});
         EXPECT_EQ(calls_of({"skald_wrapper"}),
                   (Strings{"skald_wrapper message 3 (ERR): Message " + std::string(m.name) +
                            " is not valid for bundle: " + why(EPERM)}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Sequence, ARefusedMessageIsReportedAsAnErrorOfTheDomain) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         h.knobs().default_message = {0, 0};
         calls();
         err = 0;
-        EXPECT_EQ(m.marshal(h, kId, buffer.data(), message, kRoom, &err), 0u);
+        EXPECT_EQ(m.marshal(h, id, buffer.data(), message, room, &err), 0u);
         const Strings lines = calls();
         ASSERT_EQ(lines.size(), 4u);
         EXPECT_EQ(lines[1], "mirk_domain_lookup_message_ok " + std::string(m.name));
         EXPECT_TRUE(lines[2].starts_with("skald_wrapper message 3 (ERR): domainfail: Message ")) << lines[2];
         EXPECT_TRUE(lines[3].starts_with("mirk_store_epoch_err 52")) << lines[3];
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Sequence, TheRuntimeIsAskedAboutQuietnessOnlyAfterAFailure) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         calls();
         err = 0;
-        m.marshal(h, kId, buffer.data(), message, 42, &err);
+        m.marshal(h, id, buffer.data(), message, 42, &err);
         const std::string failed = "Message " + std::string(m.name) + " failed to marshal: " + why(EMSGSIZE);
         EXPECT_EQ(calls_of(message_level),
                   (Strings{"mirk_domain_lookup_message_ok " + std::string(m.name), "mirk_store_err 90",
                            "mirklib_suppress_messages_enabled", "skald_wrapper message 3 (ERR): " + failed}));
         h.knobs().suppress_messages = true;
         err = 0;
-        m.marshal(h, kId, buffer.data(), message, 26, &err);
+        m.marshal(h, id, buffer.data(), message, 26, &err);
         EXPECT_EQ(calls_of(message_level),
                   (Strings{"mirk_domain_lookup_message_ok " + std::string(m.name), "mirk_store_err 90",
                            "mirklib_suppress_messages_enabled", "skald_wrapper message 7 (debug): " + failed}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -245,13 +245,13 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        void *message = m.create(h, kId);
-        const std::uint32_t size = m.marshal(h, kId, buffer.data(), message, kRoom, &err);
-        m.destroy(h, kId, message);
+        void *message = m.create(h, id);
+        const std::uint32_t size = m.marshal(h, id, buffer.data(), message, room, &err);
+        m.destroy(h, id, message);
         observing::clear_names();
-        observing::name_region("buffer", buffer.data(), kRoom);
+        observing::name_region("buffer", buffer.data(), room);
         calls();
-        EXPECT_EQ(m.unmarshal_only(h, kId, &message, buffer.data(), size, &err), size);
+        EXPECT_EQ(m.unmarshal_only(h, id, &message, buffer.data(), size, &err), size);
         const Strings lines = calls();
         ASSERT_GE(lines.size(), 6u);
         EXPECT_EQ(lines[0], "mirk_clear_last_error");
@@ -265,7 +265,7 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
                 EXPECT_TRUE(line.ends_with(" 0")) << line;
             }
         }
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
 }
@@ -277,23 +277,23 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        void *message = m.create(h, kId);
-        const std::uint32_t size = m.marshal(h, kId, buffer.data(), message, kRoom, &err);
-        m.destroy(h, kId, message);
+        void *message = m.create(h, id);
+        const std::uint32_t size = m.marshal(h, id, buffer.data(), message, room, &err);
+        m.destroy(h, id, message);
         observing::set_recorder(1, file);
         calls();
-        m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
+        m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         const Strings all = calls();
         ASSERT_GT(all.size(), 2u);
         EXPECT_EQ(all[0], "mirk_clear_last_error");  // of the whole, and of the reading
         EXPECT_EQ(all[1], "mirk_clear_last_error");
-        m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
+        m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         // The last of these is the handler's own.
         EXPECT_EQ(calls_of({"mirklib_msg_recorder_get_state", "mirklib_malloc", "mirklib_msg_recorder_get_handle",
                             "mirklib_free", "_mirk_message_header_unmarshal"})
                       .size(),
                   6u);
-        m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
+        m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         Strings lines = calls_of(
             {"mirklib_msg_recorder_get_state", "mirklib_malloc", "mirklib_msg_recorder_get_handle", "mirklib_free"},
             Detail::full);
@@ -307,7 +307,7 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
 
         // A rendering that fails is not asked a stream for.
         h.knobs().errors["start_tag"] = EMSGSIZE;
-        m.unmarshal(h, kId, nullptr, &message, buffer.data(), size, note_handler, &err);
+        m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
         EXPECT_EQ(calls_of({"mirklib_malloc", "mirklib_msg_recorder_get_handle", "mirklib_free"}).size(), 3u);
         EXPECT_EQ(observing::live_mallocs(), 0u);
@@ -320,10 +320,10 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
 TEST_F(Sequence, PrintTriesItsLastLineAlsoAfterAFailure) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         calls();
         err = 0;
-        m.print(h, kId, reinterpret_cast<char *>(buffer.data()), message, 5, &err);
+        m.print(h, id, reinterpret_cast<char *>(buffer.data()), message, 5, &err);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
         EXPECT_EQ(calls(),
                   (Strings{"mirk_clear_last_error", "mirk_print_space buffer 0 5",
@@ -331,28 +331,28 @@ TEST_F(Sequence, PrintTriesItsLastLineAlsoAfterAFailure) {
                            "mirk_print_space buffer 0 5", "mirk_snprintf buffer 5 }\\n"}));
         // The blanks of the last line, of which there are none, go to the start of the buffer, its brace to the end.
         err = 0;
-        const std::uint32_t written = m.print(h, kId, reinterpret_cast<char *>(buffer.data()), message, kRoom, &err);
+        const std::uint32_t written = m.print(h, id, reinterpret_cast<char *>(buffer.data()), message, room, &err);
         const Strings lines = calls();
         const std::uint32_t brace = written - 2;
-        EXPECT_EQ(lines[lines.size() - 2], "mirk_print_space buffer 0 " + std::to_string(kRoom - brace));
+        EXPECT_EQ(lines[lines.size() - 2], "mirk_print_space buffer 0 " + std::to_string(room - brace));
         EXPECT_EQ(lines.back(),
-                  "mirk_snprintf buffer+" + std::to_string(brace) + " " + std::to_string(kRoom - brace) + " }\\n");
-        m.destroy(h, kId, message);
+                  "mirk_snprintf buffer+" + std::to_string(brace) + " " + std::to_string(room - brace) + " }\\n");
+        m.destroy(h, id, message);
     }
 }
 
 TEST_F(Sequence, XmlClosesItsElementWhateverHappened) {
     for (const MessageOperations &m : messages()) {
         Handle h;
-        void *message = m.create(h, kId);
+        void *message = m.create(h, id);
         h.knobs().errors["start_tag"] = EPERM;
         calls();
         err = 0;
-        m.to_xml(h, kId, reinterpret_cast<char *>(buffer.data()), message, 100, &err);
+        m.to_xml(h, id, reinterpret_cast<char *>(buffer.data()), message, 100, &err);
         const std::string name = m.name;
         EXPECT_EQ(calls(), (Strings{"mirk_clear_last_error", "start_tag buffer " + name + " 100 0",
                                     "end_tag buffer " + name + " 100"}));
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 

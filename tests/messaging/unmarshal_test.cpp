@@ -26,18 +26,18 @@ TEST_F(Unmarshal, GivesBackWhatWasSentToPeersOfEveryTrackingMode) {
                     Buffer frame(frame_of(m, value, sender_tracks, 77));
                     const std::uint64_t created = counters(m).num_created;
                     void *message = nullptr;
-                    EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), frame.size());
+                    EXPECT_EQ(m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err), frame.size());
                     ASSERT_EQ(err, 0u);
                     ASSERT_NE(message, nullptr);
                     EXPECT_EQ(counters(m).num_created, created + 1);
                     EXPECT_EQ(object(message)->header.stamp, 77u);
                     EXPECT_EQ(object(message)->header.total_length, frame.size());
                     EXPECT_EQ(object(message)->header.sttr, sender_tracks ? 1 : 0);
-                    EXPECT_EQ(object(message)->obj_flag, h.tracks() ? kStateTracked : 0);
+                    EXPECT_EQ(object(message)->obj_flag, h.tracks() ? state_tracked : 0);
                     const bool states = sender_tracks && h.tracks();
                     EXPECT_TRUE(bridge::same(reference::as_received(value, states),
                                              bridge::extract(h, payload_of(m), object(message)->payload)));
-                    m.destroy(h, kId, message);
+                    m.destroy(h, id, message);
                 }
             }
         }
@@ -53,19 +53,19 @@ TEST_F(Unmarshal, DeliversToTheHandlerThatItWasGiven) {
         for (const bool wants_it : {true, false}) {
             handler_calls.clear();
             void *message = &context;
-            EXPECT_EQ(m.unmarshal(h, kId, &context, wants_it ? &message : nullptr, frame.data(), frame.size(),
+            EXPECT_EQ(m.unmarshal(h, id, &context, wants_it ? &message : nullptr, frame.data(), frame.size(),
                                   on_message, &err),
                       frame.size());
             ASSERT_EQ(handler_calls.size(), 1u);
             const HandlerCall &call = handler_calls[0];
             EXPECT_EQ(call.h, h.get());
-            EXPECT_EQ(call.ctx_id, kId);
+            EXPECT_EQ(call.ctx_id, id);
             EXPECT_EQ(call.dispatch_ctx, &context);
             EXPECT_EQ(call.slot, &err);
             EXPECT_EQ(call.err, 0u);
             ASSERT_NE(call.message, nullptr);
             EXPECT_EQ(message, wants_it ? call.message : &context);
-            m.destroy(h, kId, call.message);
+            m.destroy(h, id, call.message);
         }
     }
     EXPECT_EQ(err, 0u);
@@ -79,13 +79,13 @@ TEST_F(Unmarshal, WithoutAHandlerTheStubSaysThatNobodyTookTheMessage) {
         Buffer frame(frame_of(m, sample(m), false));
         void *message = nullptr;
         err = 0;
-        EXPECT_EQ(m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
+        EXPECT_EQ(m.unmarshal(h, id, nullptr, &message, frame.data(), frame.size(), nullptr, &err), frame.size());
         EXPECT_EQ(err, std::uint32_t{ENOSYS});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSYS});
         EXPECT_EQ(traced(), (Lines{"stub 6 (info): stub default handler lumo_ui_tarn_" + std::string(m.name) +
                                    "_message handler called"}));
         ASSERT_NE(message, nullptr);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -97,9 +97,9 @@ TEST_F(Unmarshal, DoesNothingButTraceWhenTheErrorIsSet) {
         void *message = &frame;
         err = EPERM;
         h->last_error = ENOSPC;
-        EXPECT_EQ(m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), on_message, &err), 0u);
+        EXPECT_EQ(m.unmarshal(h, id, nullptr, &message, frame.data(), frame.size(), on_message, &err), 0u);
         EXPECT_EQ(message, &frame);
-        EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), 0u);
+        EXPECT_EQ(m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err), 0u);
         EXPECT_EQ(message, &frame);
         EXPECT_TRUE(handler_calls.empty());
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
@@ -119,11 +119,11 @@ TEST_F(Unmarshal, EveryTruncationOfAFrameFailsAndLeavesADestroyableObject) {
                 Buffer frame(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
                 err = 0;
                 void *message = nullptr;
-                m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
+                m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err);
                 ASSERT_NE(err, 0u);
                 ASSERT_NE(message, nullptr);
                 EXPECT_NE(object(message)->payload, nullptr);
-                m.destroy(h, kId, message);
+                m.destroy(h, id, message);
             }
             EXPECT_EQ(h.live_blocks(), 0u);
         }
@@ -141,10 +141,10 @@ TEST_F(Unmarshal, EveryTruncationOfATrackedFrameIsHarmless) {
                 Buffer frame(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
                 err = 0;
                 void *message = nullptr;
-                m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
+                m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err);
                 ASSERT_NE(message, nullptr);
                 unnoticed += err == 0 ? 1 : 0;
-                m.destroy(h, kId, message);
+                m.destroy(h, id, message);
             }
             EXPECT_LT(unnoticed, 12u) << m.name;
             EXPECT_EQ(h.live_blocks(), 0u);
@@ -162,7 +162,7 @@ TEST_F(Unmarshal, OfATruncatedFrameCallsNoHandlerAndHandsOutNothing) {
             Buffer frame(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
             void *message = &frame;
             err = 0;
-            m.unmarshal(h, kId, nullptr, &message, frame.data(), frame.size(), on_message, &err);
+            m.unmarshal(h, id, nullptr, &message, frame.data(), frame.size(), on_message, &err);
             EXPECT_NE(err, 0u);
             EXPECT_EQ(message, nullptr);
             EXPECT_GE(h.live_blocks(), 2u);
@@ -178,9 +178,9 @@ TEST_F(Unmarshal, ASizeWithTheTopBitIsTooSmall) {
         for (const std::uint32_t size : {0x80000000u, 0xFFFFFFFFu}) {
             err = 0;
             void *message = nullptr;
-            m.unmarshal_only(h, kId, &message, frame.data(), size, &err);
+            m.unmarshal_only(h, id, &message, frame.data(), size, &err);
             EXPECT_EQ(err, std::uint32_t{EMSGSIZE}) << m.name << ' ' << size;
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
         }
     }
 }
@@ -193,11 +193,11 @@ TEST_F(Unmarshal, AWrongMarkerIsNoFrame) {
         Buffer frame(bytes);
         err = 0;
         void *message = nullptr;
-        EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), 16u);
+        EXPECT_EQ(m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err), 16u);
         EXPECT_EQ(err, std::uint32_t{EBADMSG});
         ASSERT_NE(message, nullptr);
         EXPECT_NE(object(message)->payload, nullptr);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -208,7 +208,7 @@ TEST_F(Unmarshal, WithoutMemoryForTheObject) {
         void *message = &frame;
         h.fail_alloc(1);
         err = 0;
-        EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), 0u);
+        EXPECT_EQ(m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err), 0u);
         EXPECT_EQ(err, std::uint32_t{ENOMEM});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOMEM});
         EXPECT_EQ(message, &frame);
@@ -222,13 +222,13 @@ TEST_F(Unmarshal, WithoutMemoryForThePayloadTheHeaderHasBeenRead) {
         void *message = nullptr;
         h.fail_alloc(2);
         err = 0;
-        EXPECT_EQ(m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err), kFrameHead);
+        EXPECT_EQ(m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err), frame_head);
         EXPECT_EQ(err, std::uint32_t{ENOMEM});
         EXPECT_EQ(h->last_error, std::uint32_t{ENOMEM});
         ASSERT_NE(message, nullptr);
         EXPECT_EQ(object(message)->payload, nullptr);
         EXPECT_EQ(object(message)->header.stamp, 5u);
-        m.destroy(h, kId, message);
+        m.destroy(h, id, message);
     }
 }
 
@@ -245,10 +245,10 @@ TEST_F(Unmarshal, EveryAllocationMayFail) {
                 h.fail_alloc(nth);
                 void *message = nullptr;
                 err = 0;
-                m.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
+                m.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err);
                 const std::uint64_t made =
                     mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC) - before;
-                if (message != nullptr) m.destroy(h, kId, message);
+                if (message != nullptr) m.destroy(h, id, message);
                 ASSERT_EQ(h.live_blocks(), 0u) << "after failure of allocation " << nth;
                 if (made < nth) break;
                 EXPECT_EQ(err, std::uint32_t{ENOMEM}) << "after failure of allocation " << nth;
@@ -271,13 +271,13 @@ TEST_F(Unmarshal, AFrameGivenToTheWrongMessageDoesNoHarm) {
                     Buffer frame(frame_of(right, sample(right), sender_tracks));
                     void *message = nullptr;
                     err = 0;
-                    wrong.unmarshal_only(h, kId, &message, frame.data(), frame.size(), &err);
+                    wrong.unmarshal_only(h, id, &message, frame.data(), frame.size(), &err);
                     ASSERT_NE(message, nullptr);
                     Buffer text(20000);
                     std::uint32_t ignored = 0;
-                    wrong.print(h, kId, text.text(), message, text.size(), &ignored);
+                    wrong.print(h, id, text.text(), message, text.size(), &ignored);
                     EXPECT_TRUE(frame.guards_stand());
-                    wrong.destroy(h, kId, message);
+                    wrong.destroy(h, id, message);
                 }
                 ++pairs;
             }

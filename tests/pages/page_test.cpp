@@ -69,14 +69,14 @@ json seen_in(std::string page, const std::string &statements) {
     const Outcome outcome = chromium(directory.write("page.html", page), {"--dump-dom"});
     const std::string open = "<pre id=\"seen\">";
     const std::size_t from = outcome.out.find(open);
-    EXPECT_NE(std::string::npos, from) << outcome.err;
+    EXPECT_NE(from, std::string::npos) << outcome.err;
     if (from == std::string::npos) return {};
     std::string text = outcome.out.substr(from + open.size(), outcome.out.find("</pre>", from) - from - open.size());
     replace(text, "&lt;", "<");
     replace(text, "&gt;", ">");
     replace(text, "&amp;", "&");
     json seen = json::parse(text);
-    EXPECT_EQ(json::array(), seen.at("errors"));
+    EXPECT_EQ(seen.at("errors"), json::array());
     return seen;
 }
 
@@ -84,7 +84,7 @@ std::string page_of(const std::vector<std::string> &files) {
     std::vector<std::string> all{"view"};
     all.insert(all.end(), files.begin(), files.end());
     const Outcome outcome = tool_test::tarn(all);
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
     return outcome.out;
 }
 
@@ -123,14 +123,14 @@ TEST(View, PointingMarksBytesAndMembers) {
         seen.held = heldRows();
         seen.address = location.hash;
         seen.detail = document.getElementById('detail').textContent;)");
-    EXPECT_EQ(bytes(members_at + 8, 4), seen.at("warn"));
-    EXPECT_EQ(bytes(86, 22), seen.at("payload"));
-    EXPECT_EQ(json::array({"payload.info_enabled"}), seen.at("row"));
-    EXPECT_EQ(json::array({"payload"}), seen.at("framing"));
-    EXPECT_EQ(json::array({"payload.@jump"}), seen.at("jump"));
-    EXPECT_EQ(json::array({"payload.warn_enabled"}), seen.at("held"));
-    EXPECT_EQ("#1:payload.warn_enabled", seen.at("address"));
-    EXPECT_NE(std::string::npos, seen.at("detail").get<std::string>().find("switch of warning-level debug output"));
+    EXPECT_EQ(seen.at("warn"), bytes(members_at + 8, 4));
+    EXPECT_EQ(seen.at("payload"), bytes(86, 22));
+    EXPECT_EQ(seen.at("row"), json::array({"payload.info_enabled"}));
+    EXPECT_EQ(seen.at("framing"), json::array({"payload"}));
+    EXPECT_EQ(seen.at("jump"), json::array({"payload.@jump"}));
+    EXPECT_EQ(seen.at("held"), json::array({"payload.warn_enabled"}));
+    EXPECT_EQ(seen.at("address"), "#1:payload.warn_enabled");
+    EXPECT_NE(seen.at("detail").get<std::string>().find("switch of warning-level debug output"), std::string::npos);
 }
 
 TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
@@ -153,12 +153,12 @@ TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
         seen.intruders = document.querySelectorAll('img, #broken').length;
         seen.title = document.title;
         seen.owned = [...sides[0].data.keys()].every(at => ownerOf(0, at) !== null);)");
-    EXPECT_EQ((json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}), seen.at("value"));
-    EXPECT_EQ((json{"2 of 2", {"payload.lumo_data[1].sig_list"}}), seen.at("name"));
-    EXPECT_EQ("", seen.at("nothing"));
-    EXPECT_EQ(0, seen.at("intruders"));
-    EXPECT_EQ(name + " - tarn", seen.at("title"));
-    EXPECT_EQ(true, seen.at("owned"));
+    EXPECT_EQ(seen.at("value"), (json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}));
+    EXPECT_EQ(seen.at("name"), (json{"2 of 2", {"payload.lumo_data[1].sig_list"}}));
+    EXPECT_EQ(seen.at("nothing"), "");
+    EXPECT_EQ(seen.at("intruders"), 0);
+    EXPECT_EQ(seen.at("title"), name + " - tarn");
+    EXPECT_EQ(seen.at("owned"), true);
 }
 
 TEST(View, ShowsADifference) {
@@ -176,12 +176,12 @@ TEST(View, ShowsADifference) {
         document.getElementById('next').click();
         document.getElementById('next').click();
         seen.next = [found(), heldRows()];)");
-    EXPECT_EQ("3 frames, 2 differences", seen.at("summary"));
-    EXPECT_EQ(json::array({"payload.info_enabled", "payload.warn_enabled"}), seen.at("changed"));
-    EXPECT_EQ(json::array({"5", "7"}), seen.at("values"));
-    EXPECT_EQ(json::array({bytes(members_at + 8, 4), bytes(members_at + 8, 4)}), seen.at("bytes"));
-    EXPECT_EQ(json::array({"", "payload", "payload.info_enabled", "payload.warn_enabled"}), seen.at("left"));
-    EXPECT_EQ((json{"2 of 2 changes", {"payload.warn_enabled"}}), seen.at("next"));
+    EXPECT_EQ(seen.at("summary"), "3 frames, 2 differences");
+    EXPECT_EQ(seen.at("changed"), json::array({"payload.info_enabled", "payload.warn_enabled"}));
+    EXPECT_EQ(seen.at("values"), json::array({"5", "7"}));
+    EXPECT_EQ(seen.at("bytes"), json::array({bytes(members_at + 8, 4), bytes(members_at + 8, 4)}));
+    EXPECT_EQ(seen.at("left"), json::array({"", "payload", "payload.info_enabled", "payload.warn_enabled"}));
+    EXPECT_EQ(seen.at("next"), (json{"2 of 2 changes", {"payload.warn_enabled"}}));
 }
 
 TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
@@ -189,16 +189,16 @@ TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
     std::string broken = debug_answer(1, 5);
     broken.resize(members_at + 6);
     const Outcome outcome = tool_test::tarn({"view", directory.write("a.bin", broken)});
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 96, payload.trace_enabled")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("broken at offset 96, payload.trace_enabled"), std::string::npos) << outcome.err;
     const json seen = seen_in(outcome.out, R"(
         seen.note = document.querySelector('.error').textContent;
         seen.rest = [...document.querySelectorAll('.dump i.rest')].length / 2;
         pointAt(rowAt('payload.info_enabled'));
         seen.bytes = markedBytes(0);)");
-    EXPECT_EQ("broken at offset 96, payload.trace_enabled: 2 bytes are left of 4", seen.at("note"));
-    EXPECT_EQ(2, seen.at("rest"));
-    EXPECT_EQ(bytes(members_at, 4), seen.at("bytes"));
+    EXPECT_EQ(seen.at("note"), "broken at offset 96, payload.trace_enabled: 2 bytes are left of 4");
+    EXPECT_EQ(seen.at("rest"), 2);
+    EXPECT_EQ(seen.at("bytes"), bytes(members_at, 4));
 }
 
 // The page has forms of pieces and bytes, and makes names and values of them; they are those that the tool tells.
@@ -225,7 +225,7 @@ TEST(View, TellsEachPieceAsTheDissectionDoes) {
         roots.forEach(walk);
         seen.pieces = pieces.sort((a, b) => a[0] - b[0]);)");
     const Outcome told = tool_test::tarn({"dissect", "--json", name});
-    ASSERT_EQ(0, told.exit) << told.err;
+    ASSERT_EQ(told.exit, 0) << told.err;
     json pieces = json::array();
     std::size_t number = 0;
     for (const json &frame : json::parse(told.out)) {
@@ -235,8 +235,8 @@ TEST(View, TellsEachPieceAsTheDissectionDoes) {
         }
         ++number;
     }
-    ASSERT_EQ(3 + 2 * 10, number);
-    EXPECT_EQ(pieces, seen.at("pieces"));
+    ASSERT_EQ(number, 3 + 2 * 10);
+    EXPECT_EQ(seen.at("pieces"), pieces);
 }
 
 // Elements of one form take little more than their bytes.
@@ -246,7 +246,7 @@ TEST(View, GrowsWithTheBytesThatItShows) {
         const std::string file = directory.path("answer.bin");
         const Outcome made = tool_test::tarn(
             {"generate", "dp-appl-cfg", "--size", frame_size, "--tracked", "--form", "frames", "-o", file});
-        EXPECT_EQ(0, made.exit) << made.err;
+        EXPECT_EQ(made.exit, 0) << made.err;
         return page_of({file}).size();
     };
     EXPECT_LT(size("128K") - size("32K"), 2 * (128 - 32) * 1024);
@@ -255,7 +255,7 @@ TEST(View, GrowsWithTheBytesThatItShows) {
 TEST(View, OpensALongListWhereSomebodyLooks) {
     const Directory directory;
     const std::string frames = directory.path("answer.bin");
-    ASSERT_EQ(0, tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit);
+    ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit, 0);
     const json seen = seen_in(page_of({frames}), R"(
         seen.rows = document.querySelectorAll('.row').length;
         unfold([...rows.values()].find(node => node.path === 'payload.lumo_data[0].sig_list'));
@@ -265,9 +265,9 @@ TEST(View, OpensALongListWhereSomebodyLooks) {
         type('appl_');
         seen.many = found();)");
     EXPECT_LT(seen.at("rows"), 200);
-    EXPECT_EQ(200, seen.at("open"));
-    EXPECT_EQ((json{"1 of 1", {"payload.lumo_data[0].sig_list[1234].appl_id"}}), seen.at("found"));
-    EXPECT_EQ("1 of 5000 or more", seen.at("many"));
+    EXPECT_EQ(seen.at("open"), 200);
+    EXPECT_EQ(seen.at("found"), (json{"1 of 1", {"payload.lumo_data[0].sig_list[1234].appl_id"}}));
+    EXPECT_EQ(seen.at("many"), "1 of 5000 or more");
 }
 
 TEST(View, ShowsARecordOfANewerForm) {
@@ -281,8 +281,8 @@ TEST(View, ShowsARecordOfANewerForm) {
         document.getElementById('framing').click();
         pointAt(rowAt('payload.@skipped'));
         seen.skipped = [markedBytes(0), rowAt('payload.@skipped').textContent];)");
-    EXPECT_EQ(bytes(members_at + 8, 4), seen.at("warn"));
-    EXPECT_EQ((json{bytes(members_at + 16, 3), "@skipped3 bytes of a newer form"}), seen.at("skipped"));
+    EXPECT_EQ(seen.at("warn"), bytes(members_at + 8, 4));
+    EXPECT_EQ(seen.at("skipped"), (json{bytes(members_at + 16, 3), "@skipped3 bytes of a newer form"}));
 }
 
 TEST(View, ReadsXmlAndJsonAsFrames) {
@@ -297,23 +297,23 @@ TEST(View, ReadsXmlAndJsonAsFrames) {
         const std::size_t from = page.find(begin) + begin.size();
         bytes.insert(page.substr(from, page.find('"', from) - from));
     }
-    ASSERT_EQ(1U, bytes.size());
-    EXPECT_EQ((frames.size() + 2) / 3 * 4, bytes.begin()->size());
+    ASSERT_EQ(bytes.size(), 1U);
+    EXPECT_EQ(bytes.begin()->size(), (frames.size() + 2) / 3 * 4);
 }
 
 TEST(View, RefusesWhatItCannotRead) {
     const Directory directory;
-    EXPECT_EQ(2, tool_test::tarn({"view"}).exit);
-    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "").exit);
-    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "hello").exit);
-    EXPECT_EQ(2, tool_test::tarn({"view", "-"}, "<no_such_msg/>").exit);
-    EXPECT_EQ(3, tool_test::tarn({"view", directory.path("absent")}).exit);
-    EXPECT_EQ(3, tool_test::tarn({"view", "-", "-o", directory.path("absent/page.html")}, debug_answer(1, 1)).exit);
+    EXPECT_EQ(tool_test::tarn({"view"}).exit, 2);
+    EXPECT_EQ(tool_test::tarn({"view", "-"}, "").exit, 2);
+    EXPECT_EQ(tool_test::tarn({"view", "-"}, "hello").exit, 2);
+    EXPECT_EQ(tool_test::tarn({"view", "-"}, "<no_such_msg/>").exit, 2);
+    EXPECT_EQ(tool_test::tarn({"view", directory.path("absent")}).exit, 3);
+    EXPECT_EQ(tool_test::tarn({"view", "-", "-o", directory.path("absent/page.html")}, debug_answer(1, 1)).exit, 3);
 }
 
 TEST(Schema, PageHasEveryRecordAndItsMembers) {
     const Outcome page = tool_test::tarn({"schema", "--html"});
-    ASSERT_EQ(0, page.exit) << page.err;
+    ASSERT_EQ(page.exit, 0) << page.err;
     const json seen = seen_in(page.out, R"(
         seen.summary = document.getElementById('summary').textContent;
         seen.members = {};
@@ -334,31 +334,31 @@ TEST(Schema, PageHasEveryRecordAndItsMembers) {
     for (const reference::RecordTable &record : reference::records()) {
         json names = json::array();
         for (const reference::MemberTable &member : record.members) names.push_back(member.name);
-        EXPECT_EQ(names, seen.at("members").value(record.name, json())) << record.name;
+        EXPECT_EQ(seen.at("members").value(record.name, json()), names) << record.name;
     }
     EXPECT_EQ(seen.at("members").size(),
               reference::bundles().size() + reference::messages().size() + reference::records().size());
     const std::set<std::string> lit(seen.at("lit").begin(), seen.at("lit").end());
     EXPECT_TRUE(lit.contains("lumo_tarn_dp_tt_cfg_rsp") && lit.contains("lumo_tarn_exmem_info"));
     EXPECT_FALSE(lit.contains("lumo_tarn_cl_debug_rsp"));
-    EXPECT_EQ((json{"1 found", {"lumo_tarn_cl_kesh_appl"}}), seen.at("found"));
-    EXPECT_EQ(2, tool_test::tarn({"schema", "lumo_tarn_dp_tc", "--html"}).exit);
+    EXPECT_EQ(seen.at("found"), (json{"1 found", {"lumo_tarn_cl_kesh_appl"}}));
+    EXPECT_EQ(tool_test::tarn({"schema", "lumo_tarn_dp_tc", "--html"}).exit, 2);
 }
 
 TEST(Pages, FetchNothingAndCanBePainted) {
     const Directory directory;
     for (std::string page :
          {page_of({directory.write("a.bin", debug_answer(1, 5))}), tool_test::tarn({"schema", "--html"}).out}) {
-        EXPECT_NE(std::string::npos, page.find("default-src 'none'"));
+        EXPECT_NE(page.find("default-src 'none'"), std::string::npos);
         for (const char *fetching : {" src=", " href=", "@import", "url("}) {
-            EXPECT_EQ(std::string::npos, page.find(fetching)) << fetching;
+            EXPECT_EQ(page.find(fetching), std::string::npos) << fetching;
         }
         const std::string picture = directory.path("page.png");
         chromium(directory.write("page.html", page), {"--screenshot=" + picture});
         const std::string png = directory.read("page.png");
         ASSERT_GT(png.size(), 20000U);  // one colour all over takes far less
-        EXPECT_EQ("\x89PNG", png.substr(0, 4));
-        EXPECT_EQ(std::string("\0\0\5\0\0\0\3\x20", 8), png.substr(16, 8));
+        EXPECT_EQ(png.substr(0, 4), "\x89PNG");
+        EXPECT_EQ(png.substr(16, 8), std::string("\0\0\5\0\0\0\3\x20", 8));
     }
 }
 

@@ -24,14 +24,14 @@ protected:
         EXPECT_TRUE(server_->process().wait_for_error(": " + reason + "\n", peers)) << server_->process().err();
         expect_served();
         const Outcome end = server_->process().stop();
-        EXPECT_EQ(0, end.exit) << end.err;
+        EXPECT_EQ(end.exit, 0) << end.err;
         const unsigned all = peers + for_other_reasons;
-        EXPECT_NE(std::string::npos, end.out.find(", " + std::to_string(all) + " peers turned out\n")) << end.out;
-        EXPECT_EQ(all, occurrences(end.err, "tarn: peer ")) << end.err;
+        EXPECT_NE(end.out.find(", " + std::to_string(all) + " peers turned out\n"), std::string::npos) << end.out;
+        EXPECT_EQ(occurrences(end.err, "tarn: peer "), all) << end.err;
     }
     void expect_served() const {
         const Outcome shown = server_->show("cl-debug");
-        EXPECT_EQ(0, shown.exit) << shown.err;
+        EXPECT_EQ(shown.exit, 0) << shown.err;
     }
     Socket connect() const { return Socket::connect_to(server_->socket()); }
 
@@ -57,9 +57,9 @@ TEST_F(Limit, OfPeers) {
         const Socket first = connect(), second = connect();
         first.send(debug_request());
         second.send(debug_request());
-        EXPECT_EQ(answer_size, first.receive(answer_size).size());
-        EXPECT_EQ(answer_size, second.receive(answer_size).size());
-        EXPECT_EQ("", connect().receive());
+        EXPECT_EQ(first.receive(answer_size).size(), answer_size);
+        EXPECT_EQ(second.receive(answer_size).size(), answer_size);
+        EXPECT_EQ(connect().receive(), "");
     }
     // There is room again as soon as the server has seen the two leave.
     EXPECT_TRUE(server_->process().comes_down_to(files));
@@ -70,10 +70,10 @@ TEST_F(Limit, OfAFrame) {
     serve({"--frame-limit", "2KiB"});
     const Socket fits = connect();
     fits.send(frame_of_length(2048));
-    EXPECT_NE(std::string::npos, fits.receive().find("this is no request"));
+    EXPECT_NE(fits.receive().find("this is no request"), std::string::npos);
     const Socket exceeds = connect();
     exceeds.send(frame_of_length(2049).substr(0, 43));
-    EXPECT_EQ("", exceeds.receive());
+    EXPECT_EQ(exceeds.receive(), "");
     expect_turned_out("its frame exceeds the limit", 1, 1);
 }
 
@@ -85,11 +85,11 @@ TEST_F(Limit, PeersThatSendNoRequestAreNamedAsWell) {
     for (const std::string &bytes : {unknown_luid, other_message}) {
         const Socket peer = connect();
         peer.send(bytes);
-        EXPECT_NE(std::string::npos, peer.receive().find("this is no request"));
+        EXPECT_NE(peer.receive().find("this is no request"), std::string::npos);
     }
     const Socket garbage = connect();
     garbage.send(std::string(100, 'x'));
-    EXPECT_EQ("", garbage.receive());
+    EXPECT_EQ(garbage.receive(), "");
     EXPECT_TRUE(server_->process().wait_for_error("tarn: peer 3 is turned out: what it sent is no frame\n"));
     expect_turned_out("it sent a frame that is not a request", 2, 1);
 }
@@ -102,16 +102,16 @@ TEST_F(Limit, OfAFrameOverTcp) {
     const std::string port = line.substr(line.rfind(':') + 1);
     const Socket exceeds = Socket::connect_to_port(port);
     exceeds.send(frame_of_length(2049).substr(0, 43));
-    EXPECT_EQ("", exceeds.receive());
+    EXPECT_EQ(exceeds.receive(), "");
     EXPECT_TRUE(server.wait_for_error("tarn: peer 1 is turned out: its frame exceeds the limit\n"));
-    EXPECT_EQ(0, tarn({"show", "cl-debug", "--connect", "127.0.0.1:" + port}).exit);
+    EXPECT_EQ(tarn({"show", "cl-debug", "--connect", "127.0.0.1:" + port}).exit, 0);
 }
 
 TEST_F(Limit, OfTheTimeForAFrame) {
     serve({"--frame-time", "0.1"});
     const Socket stalls = connect();
     stalls.send(debug_request().substr(0, 50));
-    EXPECT_EQ("", stalls.receive());
+    EXPECT_EQ(stalls.receive(), "");
     expect_turned_out("it took too long for one frame");
 }
 
@@ -131,7 +131,7 @@ TEST_F(Limit, OfTheTimeForAFrameThatComesByteByByte) {
 
 TEST_F(Limit, OfSilence) {
     serve({"--idle", "2"});  // long enough for a busy machine, where the request behind must not be turned out as well
-    EXPECT_EQ("", connect().receive());
+    EXPECT_EQ(connect().receive(), "");
     expect_turned_out("it was idle for too long");
 }
 
@@ -142,7 +142,7 @@ TEST_F(Limit, OfWhatPilesUpForAPeer) {
     crowd.never_read(1);
     EXPECT_TRUE(
         besieged.server().process().wait_for_error("tarn: peer 1 is turned out: it lets too much pile up unread"));
-    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+    EXPECT_EQ(besieged.server().show("dp-tt-cfg").exit, 0);
 }
 
 // Each of the four stays below the limit of one peer.
@@ -153,7 +153,7 @@ TEST_F(Limit, OfWhatPilesUpForAllPeers) {
     crowd.never_read(4);
     EXPECT_TRUE(besieged.server().process().wait_for_error(
         " is turned out: too much piles up unread, and most of it is for this peer"));
-    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+    EXPECT_EQ(besieged.server().show("dp-tt-cfg").exit, 0);
 }
 
 TEST_F(Limit, OfTheTimeToReadAnAnswer) {
@@ -163,7 +163,7 @@ TEST_F(Limit, OfTheTimeToReadAnAnswer) {
     crowd.never_read(1);
     EXPECT_TRUE(
         besieged.server().process().wait_for_error("tarn: peer 1 is turned out: it took too long to read an answer"));
-    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+    EXPECT_EQ(besieged.server().show("dp-tt-cfg").exit, 0);
 }
 
 TEST_F(Limit, OfDescriptorsIsSaidOnceAndEnds) {
@@ -174,14 +174,14 @@ TEST_F(Limit, OfDescriptorsIsSaidOnceAndEnds) {
     ASSERT_TRUE(server.wait_for("answering on"));
     // The undefined-behaviour sanitizer needs descriptors of its own when it sees a type for the first time: the end of
     // a connection is seen once before there are none.
-    EXPECT_EQ(0, tarn({"show", "cl-debug", "--socket", socket}).exit);
+    EXPECT_EQ(tarn({"show", "cl-debug", "--socket", socket}).exit, 0);
     {
         std::vector<Socket> all;
         for (int i = 0; i < 40; ++i) all.push_back(Socket::connect_to(socket));
         EXPECT_TRUE(server.wait_for_error("tarn: cannot accept: Too many open files\n"));
     }
     const Outcome shown = tarn({"show", "cl-debug", "--socket", socket, "--timeout", "60"});
-    EXPECT_EQ(0, shown.exit) << shown.err;
+    EXPECT_EQ(shown.exit, 0) << shown.err;
     // A slow end of the forty may let some in and run out once more; each attempt that fails is not told.
     const std::size_t said = occurrences(server.err(), "Too many open files");
     EXPECT_GE(said, 1U);
@@ -194,13 +194,13 @@ TEST_F(Limit, OfTheFramesOfAnAnswer) {
     const auto show = [&](const char *flag, const char *size) {
         return tarn({"show", "dp-tt-cfg", "--socket", besieged.server().socket(), flag, size});
     };
-    EXPECT_EQ(0, show("--frame-limit", "64KiB").exit);
-    EXPECT_EQ(0, show("--answer-limit", "64KiB").exit);
+    EXPECT_EQ(show("--frame-limit", "64KiB").exit, 0);
+    EXPECT_EQ(show("--answer-limit", "64KiB").exit, 0);
     const Outcome frame = show("--frame-limit", "16KiB"), answer = show("--answer-limit", "16KiB");
-    EXPECT_EQ(2, frame.exit);
-    EXPECT_NE(std::string::npos, frame.err.find("a frame is longer than --frame-limit: Message too long")) << frame.err;
-    EXPECT_EQ(2, answer.exit);
-    EXPECT_NE(std::string::npos, answer.err.find("the answer is longer than --answer-limit")) << answer.err;
+    EXPECT_EQ(frame.exit, 2);
+    EXPECT_NE(frame.err.find("a frame is longer than --frame-limit: Message too long"), std::string::npos) << frame.err;
+    EXPECT_EQ(answer.exit, 2);
+    EXPECT_NE(answer.err.find("the answer is longer than --answer-limit"), std::string::npos) << answer.err;
 }
 
 // Answering processes that the test plays, or does not: `time` is all that the asking side waits.
@@ -211,8 +211,8 @@ protected:
 
     void expect_time_over(const std::string &words) {
         const Outcome outcome = tarn({"show", "cl-debug", "--socket", directory_.path("socket"), "--timeout", "0.3"});
-        EXPECT_EQ(3, outcome.exit);
-        EXPECT_NE(std::string::npos, outcome.err.find(words + ": Connection timed out (ETIMEDOUT, 110)"))
+        EXPECT_EQ(outcome.exit, 3);
+        EXPECT_NE(outcome.err.find(words + ": Connection timed out (ETIMEDOUT, 110)"), std::string::npos)
             << outcome.err;
     }
 };
@@ -230,8 +230,8 @@ TEST_F(NoAnswer, FromWhoeverStallsWithinAFrame) {
     const Socket peer = listener_.accept();
     peer.send(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "start").substr(0, 42));
     const Outcome outcome = asking.finish();
-    EXPECT_EQ(3, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("no whole answer: Connection timed out")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_NE(outcome.err.find("no whole answer: Connection timed out"), std::string::npos) << outcome.err;
 }
 
 TEST(Limits, ThatMakeNoSenseAreUsageErrors) {
@@ -245,11 +245,11 @@ TEST(Limits, ThatMakeNoSenseAreUsageErrors) {
     for (const std::vector<std::string> &flag : wrong) {
         const Outcome outcome =
             tarn({"answer", "--socket", directory.path("socket"), flag.at(0), flag.at(1), snapshot});
-        EXPECT_EQ(2, outcome.exit) << flag.at(0) << " " << flag.at(1);
-        EXPECT_NE(std::string::npos, outcome.err.find(flag.at(0))) << outcome.err;
+        EXPECT_EQ(outcome.exit, 2) << flag.at(0) << " " << flag.at(1);
+        EXPECT_NE(outcome.err.find(flag.at(0)), std::string::npos) << outcome.err;
     }
-    EXPECT_EQ(2, tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--frame-limit", "1"}).exit);
-    EXPECT_EQ(2, tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--answer-limit", "1"}).exit);
+    EXPECT_EQ(tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--frame-limit", "1"}).exit, 2);
+    EXPECT_EQ(tarn({"show", "cl-debug", "--socket", directory.path("socket"), "--answer-limit", "1"}).exit, 2);
 }
 
 }  // namespace

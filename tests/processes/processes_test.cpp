@@ -35,26 +35,27 @@ TEST(Crowd, OfAHundredThatMisbehaveAtOnceCostsTheOthersNothing) {
             std::vector<std::string>{"show", "dp-tt-cfg", "--socket", besieged.server().socket(), "--timeout", "60"}));
     }
     crowd.ask(20);
-    EXPECT_EQ(20U, crowd.answered());
+    EXPECT_EQ(crowd.answered(), 20U);
     for (const auto &client : honest) {
         const Outcome outcome = client->finish();
-        EXPECT_EQ(0, outcome.exit) << outcome.err;
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
     }
     crowd.wait_until_turned_out();
     crowd.ask(20);
-    EXPECT_EQ(40U, crowd.answered());
+    EXPECT_EQ(crowd.answered(), 40U);
     EXPECT_TRUE(process.comes_down_to(files)) << process.open_files() << " files are open, there were " << files;
-    EXPECT_EQ(0, besieged.server().show("dp-tt-cfg").exit);
+    EXPECT_EQ(besieged.server().show("dp-tt-cfg").exit, 0);
 
     const Outcome end = process.stop();
-    EXPECT_EQ(0, end.exit) << end.err;
+    EXPECT_EQ(end.exit, 0) << end.err;
     // On a busy machine one that is about to vanish may be too slow even for that.
     EXPECT_GE(occurrences(end.err, "it took too long for one frame\n"), 20U);
     const std::string named = std::to_string(occurrences(end.err, "tarn: peer "));
-    EXPECT_NE(std::string::npos, end.out.find(" answers, " + named + " peers turned out\n")) << end.out;
-    EXPECT_EQ(20U, occurrences(end.err, "its frame exceeds the limit\n"));
-    EXPECT_EQ(20U, occurrences(end.err, "it lets too much pile up unread\n") +
-                       occurrences(end.err, "it took too long to read an answer\n"));
+    EXPECT_NE(end.out.find(" answers, " + named + " peers turned out\n"), std::string::npos) << end.out;
+    EXPECT_EQ(occurrences(end.err, "its frame exceeds the limit\n"), 20U);
+    EXPECT_EQ(occurrences(end.err, "it lets too much pile up unread\n") +
+                  occurrences(end.err, "it took too long to read an answer\n"),
+              20U);
 }
 
 // ./check load does the same for minutes. A connection that were kept would cost the 64 KiB of its buffer.
@@ -76,10 +77,10 @@ TEST(Crowd, CostsNoMemory) {
     rounds(20);
     const std::size_t before = process.resident_kib();
     rounds(80);
-    EXPECT_EQ(crowd.asked(), crowd.answered());
-    EXPECT_EQ(1200U, crowd.clients());
+    EXPECT_EQ(crowd.answered(), crowd.asked());
+    EXPECT_EQ(crowd.clients(), 1200U);
     EXPECT_LE(process.resident_kib(), before + allocator_play_kib);
-    EXPECT_EQ(0, process.stop().exit);
+    EXPECT_EQ(process.stop().exit, 0);
 }
 
 std::vector<std::string> answer_on(const std::string &socket, const std::string &snapshot, const char *fault) {
@@ -103,23 +104,23 @@ TEST(Killed, AndStartedAgainOnTheSameSocketWhileClientsWait) {
         }
         ASSERT_TRUE(server.wait_for_error("asks for lumo_tarn_cl_debug_rsp", 5)) << server.err();
         server.signal(SIGKILL);
-        EXPECT_EQ(128 + SIGKILL, server.finish().exit);
+        EXPECT_EQ(server.finish().exit, 128 + SIGKILL);
         for (const auto &client : waiting) {
             const Outcome outcome = client->finish();
-            EXPECT_EQ(3, outcome.exit);
-            EXPECT_NE(std::string::npos, outcome.err.find("no whole answer: Connection reset by peer")) << outcome.err;
-            EXPECT_EQ("", outcome.out);
+            EXPECT_EQ(outcome.exit, 3);
+            EXPECT_NE(outcome.err.find("no whole answer: Connection reset by peer"), std::string::npos) << outcome.err;
+            EXPECT_EQ(outcome.out, "");
         }
         // The file is still there, and nobody behind it.
         EXPECT_TRUE(std::filesystem::exists(socket));
         const Outcome nobody = tarn({"show", "cl-debug", "--socket", socket});
-        EXPECT_EQ(3, nobody.exit);
-        EXPECT_NE(std::string::npos, nobody.err.find("ECONNREFUSED")) << nobody.err;
+        EXPECT_EQ(nobody.exit, 3);
+        EXPECT_NE(nobody.err.find("ECONNREFUSED"), std::string::npos) << nobody.err;
 
         Process again(answer_on(socket, snapshot, ""));
         ASSERT_TRUE(again.wait_for("answering on")) << again.err();
-        EXPECT_EQ(0, tarn({"show", "cl-debug", "--socket", socket}).exit);
-        EXPECT_EQ(0, again.stop().exit);
+        EXPECT_EQ(tarn({"show", "cl-debug", "--socket", socket}).exit, 0);
+        EXPECT_EQ(again.stop().exit, 0);
         EXPECT_FALSE(std::filesystem::exists(socket));
     }
 }
@@ -140,16 +141,16 @@ TEST(Killed, WhileARecordingGoesOnLosesNothingOfIt) {
     ASSERT_TRUE(server.wait_for_error("asks for", 5)) << recorder.err();
     server.signal(SIGKILL);
     const Outcome end = recorder.finish();
-    EXPECT_EQ(3, end.exit);
-    EXPECT_NE(std::string::npos, end.err.find(socket)) << end.err;
+    EXPECT_EQ(end.exit, 3);
+    EXPECT_NE(end.err.find(socket), std::string::npos) << end.err;
     const std::string kept = directory.read("recording.xml");
     const std::size_t count = occurrences(kept, fragment());
     EXPECT_GE(count, 4U);
-    EXPECT_EQ(count * fragment().size(), kept.size());
+    EXPECT_EQ(kept.size(), count * fragment().size());
     const std::string told = std::to_string(count);
-    EXPECT_EQ("recorded " + told + " of " + told + " messages\n", end.out);
+    EXPECT_EQ(end.out, "recorded " + told + " of " + told + " messages\n");
     const Outcome frames = tarn({"decode", "--xml", directory.path("full.bin")});
-    EXPECT_EQ(count, occurrences(frames.out, "<lumo_tarn_debug_setting_msg>")) << frames.err;
+    EXPECT_EQ(occurrences(frames.out, "<lumo_tarn_debug_setting_msg>"), count) << frames.err;
 }
 
 TEST(Killed, TheRecorderItselfLeavesWholeMessages) {
@@ -161,10 +162,10 @@ TEST(Killed, TheRecorderItselfLeavesWholeMessages) {
     // A request says that the answers before it are written.
     ASSERT_TRUE(server.process().wait_for_error("asks for", 5));
     recorder.signal(SIGKILL);
-    EXPECT_EQ(128 + SIGKILL, recorder.finish().exit);
+    EXPECT_EQ(recorder.finish().exit, 128 + SIGKILL);
     const std::string kept = directory.read("recording.xml");
     EXPECT_GE(occurrences(kept, fragment()), 4U);
-    EXPECT_EQ(0U, kept.size() % fragment().size());
+    EXPECT_EQ(kept.size() % fragment().size(), 0U);
 }
 
 // Runs the tool with a largest size of files, in blocks of 512 bytes.
@@ -198,14 +199,14 @@ TEST(FullDisk, IsNamedByEachCommandThatWrites) {
     };
     for (const std::vector<std::string> &words : all) {
         const Outcome outcome = tarn(words);
-        EXPECT_EQ(3, outcome.exit) << words.front();
-        EXPECT_NE(std::string::npos, outcome.err.find("tarn: /dev/full: ")) << outcome.err;
-        EXPECT_NE(std::string::npos, outcome.err.find("No space left on device")) << outcome.err;
+        EXPECT_EQ(outcome.exit, 3) << words.front();
+        EXPECT_NE(outcome.err.find("tarn: /dev/full: "), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find("No space left on device"), std::string::npos) << outcome.err;
     }
     for (const std::string command : {"decode", "dissect"}) {
         const Outcome outcome = run("/bin/sh", {"-c", R"(exec "$0" "$1" "$2" >/dev/full)", tool(), command, frames});
-        EXPECT_EQ(3, outcome.exit) << command;
-        EXPECT_EQ("tarn: standard output: No space left on device\n", outcome.err);
+        EXPECT_EQ(outcome.exit, 3) << command;
+        EXPECT_EQ(outcome.err, "tarn: standard output: No space left on device\n");
     }
 }
 
@@ -217,19 +218,18 @@ TEST(FullDisk, EndsARecordingBehindItsLastWholeMessage) {
     const std::string from = directory.write("frames.bin", frames);
     for (const int blocks : {1, 2, 3}) {
         const std::size_t room = static_cast<std::size_t>(blocks) * 512, fit = room / fragment().size();
-        ASSERT_NE(0U, room % fragment().size());
+        ASSERT_NE(room % fragment().size(), 0U);
         const Outcome outcome =
             tarn_with_file_limit(blocks, {"record", "--from", from, "-o", directory.path("recording.xml")});
-        EXPECT_EQ(3, outcome.exit);
-        EXPECT_EQ("tarn: " + directory.path("recording.xml") + ": at byte " + std::to_string(room) +
-                      ": File too large (EFBIG, 27)\n",
-                  outcome.err);
-        EXPECT_EQ("recorded " + std::to_string(fit) + " of " + std::to_string(fit + 1) + " messages\n", outcome.out);
+        EXPECT_EQ(outcome.exit, 3);
+        EXPECT_EQ(outcome.err, "tarn: " + directory.path("recording.xml") + ": at byte " + std::to_string(room) +
+                                   ": File too large (EFBIG, 27)\n");
+        EXPECT_EQ(outcome.out, "recorded " + std::to_string(fit) + " of " + std::to_string(fit + 1) + " messages\n");
         std::string whole;
         for (std::size_t i = 0; i < fit; ++i) whole += fragment();
-        EXPECT_EQ(whole, directory.read("recording.xml"));
+        EXPECT_EQ(directory.read("recording.xml"), whole);
         const Outcome decoded = tarn({"decode", directory.path("recording.xml")});
-        EXPECT_EQ(0, decoded.exit) << decoded.err;
+        EXPECT_EQ(decoded.exit, 0) << decoded.err;
     }
 }
 
@@ -238,12 +238,12 @@ TEST(FullDisk, LeavesTheFramesOfARecordingWholeToo) {
     const std::string from = directory.write("frames.bin", three_answers());
     const Outcome outcome = tarn_with_file_limit(
         1, {"record", "--from", from, "-o", directory.path("recording.xml"), "--full", directory.path("full.bin")});
-    EXPECT_EQ(3, outcome.exit);
+    EXPECT_EQ(outcome.exit, 3);
     const std::string kept = directory.read("full.bin");
-    EXPECT_EQ(three_answers().substr(0, kept.size()), kept);
+    EXPECT_EQ(kept, three_answers().substr(0, kept.size()));
     EXPECT_GT(kept.size(), 0U);
     const Outcome decoded = tarn({"dissect", directory.path("full.bin")});
-    EXPECT_EQ(0, decoded.exit) << decoded.err;
+    EXPECT_EQ(decoded.exit, 0) << decoded.err;
 }
 
 }  // namespace

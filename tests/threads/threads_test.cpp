@@ -13,8 +13,8 @@
 
 namespace {
 
+using bridge::id;
 using bridge::Instance;
-using bridge::kId;
 using bridge::RecordOperations;
 using kit::Handle;
 using reference::Bytes;
@@ -47,7 +47,7 @@ void write_and_read(const Handle &h, const Record &value) {
     std::uint32_t err = 0;
     const auto size = static_cast<std::uint32_t>(frame.bytes.size());
     frame.bytes.push_back(0);  // the spare byte
-    EXPECT_EQ(record.unmarshal(h, kId, frame.bytes.data(), second.get(), size, 0, &err), size);
+    EXPECT_EQ(record.unmarshal(h, id, frame.bytes.data(), second.get(), size, 0, &err), size);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(record.compare(instance.get(), second.get()), 0);
     EXPECT_EQ(record.hash(instance.get(), 1), record.hash(second.get(), 1));
@@ -58,12 +58,12 @@ void copy(const Handle &h, const Record &value, std::vector<char> &buffer) {
     const RecordOperations &record = instance.record();
     std::uint32_t err = 0;
     void *twin = nullptr;
-    record.clone(h, kId, instance.get(), &twin, buffer.data(), static_cast<std::uint32_t>(buffer.size()), &err);
+    record.clone(h, id, instance.get(), &twin, buffer.data(), static_cast<std::uint32_t>(buffer.size()), &err);
     ASSERT_EQ(err, 0u);
     const Instance owned(h, record, twin);
     EXPECT_EQ(record.compare(instance.get(), owned.get()), 0);
     const Instance moved(h, record);
-    record.set(h, kId, moved.get(), owned.get(), &err);
+    record.set(h, id, moved.get(), owned.get(), &err);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(record.compare(instance.get(), moved.get()), 0);
 }
@@ -74,14 +74,14 @@ void render(const Handle &h, const Record &value, std::vector<char> &buffer) {
     const auto size = static_cast<std::int32_t>(buffer.size());
     std::uint32_t err = 0;
     const char *name = value.table->name.c_str();
-    EXPECT_GT(record.print(h, kId, buffer.data(), 0, name, instance.get(), size, &err), 0u);
+    EXPECT_GT(record.print(h, id, buffer.data(), 0, name, instance.get(), size, &err), 0u);
     EXPECT_EQ(err, 0u);
-    const std::uint32_t length = record.to_xml(h, kId, name, buffer.data(), instance.get(), size, 0, &err);
+    const std::uint32_t length = record.to_xml(h, id, name, buffer.data(), instance.get(), size, 0, &err);
     EXPECT_EQ(err, 0u);
     void *document = mirk_platform_document_load_memory(buffer.data(), length, nullptr);
     ASSERT_NE(document, nullptr);
     char message[256];
-    record.from_xml(h, kId, ("/" + value.table->name).c_str(), document, second.get(), &err, message, sizeof message);
+    record.from_xml(h, id, ("/" + value.table->name).c_str(), document, second.get(), &err, message, sizeof message);
     EXPECT_EQ(err, 0u);
     mirk_platform_document_free(document);
 }
@@ -90,13 +90,13 @@ void send(const Handle &h) {
     Bytes frame(room + 1);
     for (const auto &message : tarn::reflect::messages()) {
         std::uint32_t err = 0;
-        void *sent = message.create(h, kId), *received = nullptr;
+        void *sent = message.create(h, id), *received = nullptr;
         ASSERT_NE(sent, nullptr);
-        const std::uint32_t size = message.marshal(h, kId, frame.data(), sent, room, &err);
-        EXPECT_EQ(message.unmarshal_only(h, kId, &received, frame.data(), size, &err), size);
+        const std::uint32_t size = message.marshal(h, id, frame.data(), sent, room, &err);
+        EXPECT_EQ(message.unmarshal_only(h, id, &received, frame.data(), size, &err), size);
         EXPECT_EQ(err, 0u);
-        message.destroy(h, kId, sent);
-        message.destroy(h, kId, received);
+        message.destroy(h, id, sent);
+        message.destroy(h, id, received);
     }
 }
 
@@ -203,9 +203,9 @@ TEST(Threads, WhoReadsABrokenFrameTracesBesideWhoMakesTheFirstObject) {
             Bytes frame(100, 0xFF);
             void *received = nullptr;
             std::uint32_t err = 0;
-            message.unmarshal_only(h, kId, &received, frame.data(), 99, &err);
+            message.unmarshal_only(h, id, &received, frame.data(), 99, &err);
             if (err == 0) std::abort();
-            if (received != nullptr) message.destroy(h, kId, received);
+            if (received != nullptr) message.destroy(h, id, received);
         });
     });
 }
@@ -219,7 +219,7 @@ TEST(Threads, AllGetTheSameSentinels) {
             std::uint32_t err = 0;
             EXPECT_EQ(sentinel, message.create_cr(h));
             mirk_clear_last_error(h);
-            EXPECT_NE(message.payload_get(h, kId, sentinel, &err), nullptr);
+            EXPECT_NE(message.payload_get(h, id, sentinel, &err), nullptr);
         }
     });
 }
@@ -233,7 +233,7 @@ TEST(Threads, NoCountIsLostWhereThereIsNoMemoryForCountersOfAHandlesOwn) {
     on_threads(threads, [&](unsigned) {
         const Handle h({.private_types = true});
         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_VARIANT_BLOCK, 1, 1);
-        for (unsigned i = 0; i < objects; ++i) record.destroy(h, kId, record.create(h, kId));
+        for (unsigned i = 0; i < objects; ++i) record.destroy(h, id, record.create(h, id));
     });
     EXPECT_EQ(shared.num_created - created, threads * objects);
     EXPECT_EQ(shared.num_destroyed - destroyed, threads * objects);

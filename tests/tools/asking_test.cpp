@@ -31,13 +31,13 @@ TEST_P(EveryBundle, IsAnsweredFromXmlAndShownAsTextAndXml) {
     ASSERT_TRUE(server.is_ready());
 
     const Outcome text = server.show(short_form(bundle().name));
-    EXPECT_EQ(0, text.exit) << text.err;
-    EXPECT_EQ(shown(message(), payload), text.out);
-    EXPECT_EQ("", text.err);
+    EXPECT_EQ(text.exit, 0) << text.err;
+    EXPECT_EQ(text.out, shown(message(), payload));
+    EXPECT_EQ(text.err, "");
 
     const Outcome again = server.show(bundle().name, {"--xml"});
-    EXPECT_EQ(0, again.exit) << again.err;
-    EXPECT_EQ(xml + "\n", again.out);
+    EXPECT_EQ(again.exit, 0) << again.err;
+    EXPECT_EQ(again.out, xml + "\n");
 }
 
 TEST_P(EveryBundle, ArrivesByteByByteAsTheReferenceEncodesIt) {
@@ -51,9 +51,9 @@ TEST_P(EveryBundle, ArrivesByteByByteAsTheReferenceEncodesIt) {
         std::vector<std::string> options{"--save", directory.path("saved.bin")};
         if (tracked) options.emplace_back("--tracked");
         const Outcome outcome = server.show(bundle().name, options);
-        EXPECT_EQ(0, outcome.exit) << outcome.err;
-        EXPECT_EQ(first_answer(bundle(), received, tracked), directory.read("saved.bin"));
-        EXPECT_EQ(shown(message(), received), outcome.out);
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        EXPECT_EQ(directory.read("saved.bin"), first_answer(bundle(), received, tracked));
+        EXPECT_EQ(outcome.out, shown(message(), received));
     }
 }
 
@@ -66,8 +66,8 @@ TEST_P(EveryBundle, ShowsPerFieldStateInXml) {
     const Server server({bundle().name + "=" + directory.write("snapshot.bin", frame(message(), payload, true))});
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = server.show(bundle().name, {"--tracked", "--xml"});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(reference::message_to_xml(bundle().message, received, true) + "\n", outcome.out);
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, reference::message_to_xml(bundle().message, received, true) + "\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Asking, EveryBundle, testing::ValuesIn(reference::bundles()),
@@ -80,13 +80,13 @@ TEST(Asking, OneProcessServesSeveralBundles) {
         "intf.json", R"({"message": "lumo_tarn_dp_intf_msg", "payload": {"intf_name": "TenGigE0/1/0/3"}})");
     Server server({"cl-debug=" + debug, "pal-debug=" + debug, "dp-intf=" + interface});
     ASSERT_TRUE(server.is_ready());
-    EXPECT_EQ(0, server.show("cl-debug").exit);
-    EXPECT_EQ(0, server.show("pal-debug").exit);
+    EXPECT_EQ(server.show("cl-debug").exit, 0);
+    EXPECT_EQ(server.show("pal-debug").exit, 0);
     const Outcome outcome = server.show("dp-intf");
-    EXPECT_NE(std::string::npos, outcome.out.find("intf_name@var_string:TenGigE0/1/0/3\n")) << outcome.out;
+    EXPECT_NE(outcome.out.find("intf_name@var_string:TenGigE0/1/0/3\n"), std::string::npos) << outcome.out;
     const Outcome end = server.process().stop();
-    EXPECT_EQ(0, end.exit) << end.err;
-    EXPECT_NE(std::string::npos, end.out.find("stopped after 3 answers"));
+    EXPECT_EQ(end.exit, 0) << end.err;
+    EXPECT_NE(end.out.find("stopped after 3 answers"), std::string::npos);
 }
 
 TEST(Asking, ABundleThatIsNotServedIsRefused) {
@@ -94,9 +94,9 @@ TEST(Asking, ABundleThatIsNotServedIsRefused) {
     const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = server.show("dp-intf");
-    EXPECT_EQ(1, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("lumo_tarn_dp_intf_rsp is not served here")) << outcome.err;
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.exit, 1);
+    EXPECT_NE(outcome.err.find("lumo_tarn_dp_intf_rsp is not served here"), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
 }
 
 TEST(Asking, JsonAndHexAreFormsToo) {
@@ -104,10 +104,10 @@ TEST(Asking, JsonAndHexAreFormsToo) {
     const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
     const Outcome json = server.show("cl-debug", {"--json"});
-    EXPECT_NE(std::string::npos, json.out.find("\"info_enabled\": 1")) << json.out;
+    EXPECT_NE(json.out.find("\"info_enabled\": 1"), std::string::npos) << json.out;
     const Outcome hex = server.show("cl-debug", {"--hex"});
-    EXPECT_EQ(0U, hex.out.find("00000000  bc ff ff ff ff ff ff 00  00 00 00 02 00 00 00 2b")) << hex.out;
-    EXPECT_EQ(2, server.show("cl-debug", {"--hex", "--json"}).exit);
+    EXPECT_EQ(hex.out.find("00000000  bc ff ff ff ff ff ff 00  00 00 00 02 00 00 00 2b"), 0U) << hex.out;
+    EXPECT_EQ(server.show("cl-debug", {"--hex", "--json"}).exit, 2);
 }
 
 TEST(Asking, TcpCarriesTheSameAnswer) {
@@ -117,39 +117,39 @@ TEST(Asking, TcpCarriesTheSameAnswer) {
     Process server({"answer", "--listen", ":0", snapshot});
     ASSERT_TRUE(local.is_ready() && server.wait_for(": cl-debug\n"));
     const std::string address = server.out().substr(0, server.out().find(": ")).substr(strlen("answering on "));
-    EXPECT_EQ(0U, address.find("127.0.0.1:")) << address;
+    EXPECT_EQ(address.find("127.0.0.1:"), 0U) << address;
     const Outcome over_tcp = tarn({"show", "cl-debug", "--connect", address});
-    EXPECT_EQ(0, over_tcp.exit) << over_tcp.err;
-    EXPECT_EQ(local.show("cl-debug").out, over_tcp.out);
+    EXPECT_EQ(over_tcp.exit, 0) << over_tcp.err;
+    EXPECT_EQ(over_tcp.out, local.show("cl-debug").out);
     const Outcome recorded = tarn({"record", "cl-debug", "--connect", address, "-o", directory.path("recording.xml")});
-    EXPECT_EQ("recorded 1 of 1 messages\n", recorded.out) << recorded.err;
+    EXPECT_EQ(recorded.out, "recorded 1 of 1 messages\n") << recorded.err;
     const Outcome second = tarn({"answer", "--listen", address, snapshot});
-    EXPECT_EQ(3, second.exit);
-    EXPECT_NE(std::string::npos, second.err.find("EADDRINUSE")) << second.err;
-    EXPECT_EQ(0, server.stop().exit);
+    EXPECT_EQ(second.exit, 3);
+    EXPECT_NE(second.err.find("EADDRINUSE"), std::string::npos) << second.err;
+    EXPECT_EQ(server.stop().exit, 0);
     const Outcome gone = tarn({"show", "cl-debug", "--connect", address});
-    EXPECT_EQ(3, gone.exit);
-    EXPECT_NE(std::string::npos, gone.err.find("ECONNREFUSED")) << gone.err;
+    EXPECT_EQ(gone.exit, 3);
+    EXPECT_NE(gone.err.find("ECONNREFUSED"), std::string::npos) << gone.err;
 }
 
 TEST(Asking, AnAddressIsGivenOnceAndWell) {
     const Directory directory;
     const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
     for (const char *wrong : {"127.0.0.1:", "127.0.0.1:99999", "::1", "[::1"}) {
-        EXPECT_EQ(2, tarn({"answer", "--listen", wrong, snapshot}).exit) << wrong;
-        EXPECT_EQ(2, tarn({"show", "cl-debug", "--connect", wrong}).exit) << wrong;
+        EXPECT_EQ(tarn({"answer", "--listen", wrong, snapshot}).exit, 2) << wrong;
+        EXPECT_EQ(tarn({"show", "cl-debug", "--connect", wrong}).exit, 2) << wrong;
     }
-    EXPECT_EQ(2, tarn({"answer", snapshot}).exit);
-    EXPECT_EQ(2, tarn({"show", "cl-debug"}).exit);
-    EXPECT_EQ(2, tarn({"answer", "--listen", ":0", "--socket", directory.path("socket"), snapshot}).exit);
-    EXPECT_EQ(2, tarn({"show", "cl-debug", "--connect", ":1", "--socket", directory.path("socket")}).exit);
+    EXPECT_EQ(tarn({"answer", snapshot}).exit, 2);
+    EXPECT_EQ(tarn({"show", "cl-debug"}).exit, 2);
+    EXPECT_EQ(tarn({"answer", "--listen", ":0", "--socket", directory.path("socket"), snapshot}).exit, 2);
+    EXPECT_EQ(tarn({"show", "cl-debug", "--connect", ":1", "--socket", directory.path("socket")}).exit, 2);
 }
 
 TEST(Asking, NobodyListeningIsAFailureOfTheEnvironment) {
     const Directory directory;
     const Outcome outcome = tarn({"show", "cl-debug", "--socket", directory.path("nothing")});
-    EXPECT_EQ(3, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("cannot connect")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_NE(outcome.err.find("cannot connect"), std::string::npos) << outcome.err;
 }
 
 TEST(Asking, ASilentProcessCostsTheTimeoutAndNoMore) {
@@ -157,8 +157,8 @@ TEST(Asking, ASilentProcessCostsTheTimeoutAndNoMore) {
     const Server server({"--fault", "silent", "cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = server.show("cl-debug", {"--timeout", "0.3"});
-    EXPECT_EQ(3, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("ETIMEDOUT")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_NE(outcome.err.find("ETIMEDOUT"), std::string::npos) << outcome.err;
 }
 
 TEST(Asking, TwoProcessesDoNotShareASocket) {
@@ -167,21 +167,21 @@ TEST(Asking, TwoProcessesDoNotShareASocket) {
     const Server server({"cl-debug=" + snapshot});
     ASSERT_TRUE(server.is_ready());
     const Outcome second = tarn({"answer", "--socket", server.socket(), "cl-debug=" + snapshot});
-    EXPECT_EQ(3, second.exit);
-    EXPECT_NE(std::string::npos, second.err.find("EADDRINUSE")) << second.err;
-    EXPECT_EQ(0, server.show("cl-debug").exit);
+    EXPECT_EQ(second.exit, 3);
+    EXPECT_NE(second.err.find("EADDRINUSE"), std::string::npos) << second.err;
+    EXPECT_EQ(server.show("cl-debug").exit, 0);
 }
 
 TEST(Asking, SnapshotsAreCheckedBeforeServingBegins) {
     const Directory directory;
     const std::string socket = directory.path("socket");
     const auto start = [&](const std::string &served) { return tarn({"answer", "--socket", socket, served}); };
-    EXPECT_EQ(3, start("cl-debug=" + directory.path("absent.xml")).exit);
-    EXPECT_EQ(2, start("cl-debug").exit);
-    EXPECT_EQ(2, start("no-such-bundle=" + directory.write("debug.xml", debug_xml)).exit);
+    EXPECT_EQ(start("cl-debug=" + directory.path("absent.xml")).exit, 3);
+    EXPECT_EQ(start("cl-debug").exit, 2);
+    EXPECT_EQ(start("no-such-bundle=" + directory.write("debug.xml", debug_xml)).exit, 2);
     const Outcome foreign = start("dp-intf=" + directory.path("debug.xml"));
-    EXPECT_EQ(2, foreign.exit);
-    EXPECT_NE(std::string::npos, foreign.err.find("lumo_tarn_dp_intf_rsp does not admit lumo_tarn_debug_setting_msg"))
+    EXPECT_EQ(foreign.exit, 2);
+    EXPECT_NE(foreign.err.find("lumo_tarn_dp_intf_rsp does not admit lumo_tarn_debug_setting_msg"), std::string::npos)
         << foreign.err;
 }
 

@@ -38,11 +38,11 @@ class XmlMistake : public testing::TestWithParam<Mistake> {};
 
 TEST_P(XmlMistake, IsNamedWithItsLine) {
     const Outcome strict = tarn({"encode"}, GetParam().xml);
-    EXPECT_EQ(2, strict.exit);
-    EXPECT_NE(std::string::npos, strict.err.find("standard input:" + GetParam().words)) << strict.err;
-    EXPECT_EQ("", strict.out);
+    EXPECT_EQ(strict.exit, 2);
+    EXPECT_NE(strict.err.find("standard input:" + GetParam().words), std::string::npos) << strict.err;
+    EXPECT_EQ(strict.out, "");
     const Outcome lenient = tarn({"encode", "--lenient"}, GetParam().xml);
-    EXPECT_EQ(GetParam().lenient_passes ? 0 : 2, lenient.exit) << lenient.err;
+    EXPECT_EQ(lenient.exit, GetParam().lenient_passes ? 0 : 2) << lenient.err;
 }
 
 const std::string path = "/lumo_tarn_debug_setting_msg/lumo_tarn_debug_setting";
@@ -92,23 +92,23 @@ TEST(Checking, AListThatItsCountCannotTellIsNamed) {
     std::string many;
     for (int i = 0; i < 256; ++i) many += "<prefix_data/>";
     const Outcome outcome = tarn({"encode"}, prefixes(many));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("256 prefix_data are more than num_prefixes can tell"))
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("256 prefix_data are more than num_prefixes can tell"), std::string::npos)
         << outcome.err;
 }
 
 TEST(Checking, AllMistakesOfADocumentAreListed) {
     const Outcome outcome = tarn({"encode"}, debug("<a/>\n<b/>\n<info_enabled>x</info_enabled>"));
     for (const std::string line : {":3: ", ":4: ", ":5: "}) {
-        EXPECT_NE(std::string::npos, outcome.err.find("standard input" + line)) << outcome.err;
+        EXPECT_NE(outcome.err.find("standard input" + line), std::string::npos) << outcome.err;
     }
 }
 
 TEST(Checking, WhatIsNoXmlIsNamedWithItsLine) {
     const auto expect = [](const std::string &xml, const std::string &words) {
         const Outcome outcome = tarn({"encode"}, xml);
-        EXPECT_EQ(2, outcome.exit);
-        EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+        EXPECT_EQ(outcome.exit, 2);
+        EXPECT_NE(outcome.err.find(words), std::string::npos) << outcome.err;
     };
     expect(debug("<info_enabled>1</info_enable>"), "standard input:3: ");
     expect("<lumo_tarn_debug_setting_msg>\n<lumo_tarn_debug_setting>", "standard input:1: ");
@@ -122,8 +122,8 @@ TEST(Checking, WhatIsNoXmlIsNamedWithItsLine) {
 
 TEST(Checking, LinesAreCountedThroughARunOfDocuments) {
     const Outcome outcome = tarn({"encode"}, debug("") + debug("<wrong/>"));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("standard input:8: ")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("standard input:8: "), std::string::npos) << outcome.err;
 }
 
 struct JsonMistake {
@@ -134,9 +134,9 @@ class JsonMistakes : public testing::TestWithParam<JsonMistake> {};
 
 TEST_P(JsonMistakes, AreNamedWithTheirPath) {
     const Outcome outcome = tarn({"encode"}, GetParam().json);
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find(GetParam().words)) << outcome.err;
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find(GetParam().words), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
 }
 
 std::string debug_json(const std::string &payload) {

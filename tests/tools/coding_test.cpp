@@ -16,10 +16,10 @@ TEST_P(EveryMessage, IsDecodedAsTheReferencePrintsIt) {
         const reference::Record received = reference::as_received(payload, tracked);
         const std::string bytes = frame(GetParam(), payload, tracked);
         const Outcome text = tarn({"decode"}, bytes);
-        EXPECT_EQ(0, text.exit) << text.err;
-        EXPECT_EQ(shown(GetParam(), received), text.out);
+        EXPECT_EQ(text.exit, 0) << text.err;
+        EXPECT_EQ(text.out, shown(GetParam(), received));
         const Outcome xml = tarn({"decode", "--xml"}, bytes);
-        EXPECT_EQ(reference::message_to_xml(GetParam().name, received, tracked) + "\n", xml.out);
+        EXPECT_EQ(xml.out, reference::message_to_xml(GetParam().name, received, tracked) + "\n");
     }
 }
 
@@ -27,8 +27,8 @@ TEST_P(EveryMessage, IsEncodedFromXmlAsTheReferenceEncodesIt) {
     const reference::Record payload = plain_payload(GetParam(), 33);
     const Outcome outcome =
         tarn({"encode", "--stamp", "77"}, reference::message_to_xml(GetParam().name, payload, false));
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(frame(GetParam(), payload, false, 77), outcome.out);
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, frame(GetParam(), payload, false, 77));
 }
 
 // Variants, RA data, states and numbers out of range all survive; only a NUL inside a string does not.
@@ -42,10 +42,10 @@ TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
             const auto payload = reference::Generator(seed, options).make(GetParam().payload);
             const std::string bytes = frame(GetParam(), reference::as_received(payload, tracked), tracked);
             const Outcome json = tarn({"decode", "--json"}, bytes);
-            ASSERT_EQ(0, json.exit) << json.err;
+            ASSERT_EQ(json.exit, 0) << json.err;
             const Outcome back = tarn({"encode", "--lenient"}, json.out);
-            EXPECT_EQ(0, back.exit) << back.err << json.out;
-            EXPECT_EQ(bytes, back.out) << json.out;
+            EXPECT_EQ(back.exit, 0) << back.err << json.out;
+            EXPECT_EQ(back.out, bytes) << json.out;
         }
     }
 }
@@ -58,9 +58,9 @@ TEST_P(EveryMessage, KeepsItsStateOnTheWayThroughXml) {
     const auto payload = reference::Generator(37, options).make(GetParam().payload);
     const Outcome xml = tarn({"decode", "--xml"}, frame(GetParam(), reference::as_received(payload, true), true));
     const Outcome back = tarn({"encode"}, xml.out);
-    EXPECT_EQ(0, back.exit) << back.err;
-    EXPECT_EQ(1, back.out.at(7));
-    EXPECT_EQ(xml.out, tarn({"decode", "--xml"}, back.out).out);
+    EXPECT_EQ(back.exit, 0) << back.err;
+    EXPECT_EQ(back.out.at(7), 1);
+    EXPECT_EQ(tarn({"decode", "--xml"}, back.out).out, xml.out);
 }
 
 INSTANTIATE_TEST_SUITE_P(Coding, EveryMessage, testing::ValuesIn(reference::messages()),
@@ -73,13 +73,13 @@ TEST(Coding, ARunOfFramesKeepsItsOrderInEveryForm) {
     }
     for (const std::string form : {"--xml", "--json"}) {
         const Outcome decoded = tarn({"decode", form}, bytes);
-        EXPECT_EQ(0, decoded.exit) << decoded.err;
+        EXPECT_EQ(decoded.exit, 0) << decoded.err;
         const Outcome encoded = tarn({"encode"}, decoded.out);
-        EXPECT_EQ(0, encoded.exit) << encoded.err;
-        EXPECT_EQ(bytes, encoded.out) << form;
+        EXPECT_EQ(encoded.exit, 0) << encoded.err;
+        EXPECT_EQ(encoded.out, bytes) << form;
     }
     const Outcome again = tarn({"encode"}, bytes);
-    EXPECT_EQ(bytes, again.out) << again.err;
+    EXPECT_EQ(again.out, bytes) << again.err;
 }
 
 TEST(Coding, ABundleIsPutAround) {
@@ -88,30 +88,30 @@ TEST(Coding, ABundleIsPutAround) {
     const reference::Record payload = plain_payload(message, 41);
     const Outcome outcome =
         tarn({"encode", "--bundle", "dp-intf"}, reference::message_to_xml(message.name, payload, false));
-    EXPECT_EQ(answer(bundle, payload, false), outcome.out) << outcome.err;
+    EXPECT_EQ(outcome.out, answer(bundle, payload, false)) << outcome.err;
 }
 
 TEST(Coding, AMessageThatTheBundleDoesNotAdmitIsRefused) {
     const Outcome outcome = tarn({"encode", "--bundle", "dp-intf", "--verbose"},
                                  R"({"message": "lumo_tarn_debug_setting_msg", "payload": {}})");
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("(ERR): Message lumo_tarn_debug_setting_msg is not valid for bundle"))
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("(ERR): Message lumo_tarn_debug_setting_msg is not valid for bundle"), std::string::npos)
         << outcome.err;
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.out, "");
 }
 
 TEST(Coding, AStartInsideABundleIsRefused) {
     const Outcome outcome = tarn({"encode"}, R"({"bundle": "lumo_tarn_dp_intf_rsp", "control": "start"}
 {"bundle": "lumo_tarn_cl_cfg_rsp", "control": "start"})");
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("standard input:2")) << outcome.err;
-    EXPECT_NE(std::string::npos, outcome.err.find("EEXIST")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("standard input:2"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find("EEXIST"), std::string::npos) << outcome.err;
 }
 
 TEST(Coding, ABundleLeftOpenIsNamed) {
     const Outcome outcome = tarn({"encode"}, R"(<bundle_start name="lumo_tarn_dp_intf_rsp"></bundle_start>)");
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("ends inside a bundle")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("ends inside a bundle"), std::string::npos) << outcome.err;
 }
 
 std::string intf_json(const std::string &name) {
@@ -120,17 +120,17 @@ std::string intf_json(const std::string &name) {
 
 TEST(Coding, AStringThatIsNoUtf8StandsAsHexadecimalBytes) {
     const Outcome frame = tarn({"encode"}, intf_json(R"({"bytes": "ff00"})"));
-    EXPECT_EQ(0, frame.exit) << frame.err;
+    EXPECT_EQ(frame.exit, 0) << frame.err;
     const Outcome json = tarn({"decode", "--json"}, frame.out);
-    EXPECT_NE(std::string::npos, json.out.find(R"("intf_name":{"bytes":"ff00"})")) << json.out;
+    EXPECT_NE(json.out.find(R"("intf_name":{"bytes":"ff00"})"), std::string::npos) << json.out;
 }
 
 TEST(Coding, AStringThatCannotBeStoredIsRefused) {
     const Outcome nul = tarn({"encode"}, intf_json(R"({"bytes": "610062"})"));
-    EXPECT_EQ(2, nul.exit);
-    EXPECT_NE(std::string::npos, nul.err.find("intf_name: a NUL in the middle")) << nul.err;
-    EXPECT_EQ(2, tarn({"encode"}, intf_json(R"({"bytes": "6"})")).exit);
-    EXPECT_EQ(2, tarn({"encode"}, intf_json("17")).exit);
+    EXPECT_EQ(nul.exit, 2);
+    EXPECT_NE(nul.err.find("intf_name: a NUL in the middle"), std::string::npos) << nul.err;
+    EXPECT_EQ(tarn({"encode"}, intf_json(R"({"bytes": "6"})")).exit, 2);
+    EXPECT_EQ(tarn({"encode"}, intf_json("17")).exit, 2);
 }
 
 TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
@@ -140,16 +140,16 @@ TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
     cut.resize(60);
     cut[15] = 60;
     const Outcome outcome = tarn({"decode"}, good + cut + good);
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 65: lumo_tarn_debug_setting_msg cannot be read"))
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("frame at offset 65: lumo_tarn_debug_setting_msg cannot be read"), std::string::npos)
         << outcome.err;
-    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 122, payload.warn_enabled: 3 bytes are left of 4"))
+    EXPECT_NE(outcome.err.find("broken at offset 122, payload.warn_enabled: 3 bytes are left of 4"), std::string::npos)
         << outcome.err;
-    EXPECT_EQ(shown(message, plain_payload(message, 1)), outcome.out);
+    EXPECT_EQ(outcome.out, shown(message, plain_payload(message, 1)));
 
     const Outcome further = tarn({"decode", "--keep-going"}, good + cut + good);
-    EXPECT_EQ(2, further.exit);
-    EXPECT_EQ(outcome.out + outcome.out, further.out);
+    EXPECT_EQ(further.exit, 2);
+    EXPECT_EQ(further.out, outcome.out + outcome.out);
 }
 
 TEST(Coding, ACountThatNothingStandsBehindIsAFaultOfTheInput) {
@@ -157,15 +157,15 @@ TEST(Coding, ACountThatNothingStandsBehindIsAFaultOfTheInput) {
     std::string bytes = frame(message, reference::Record(message.payload), false);
     bytes[51] = '\x7f';  // first byte of num_kesh_appls
     const Outcome outcome = tarn({"decode"}, bytes);
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("broken at offset 55, payload.kesh_appl[0]")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("broken at offset 55, payload.kesh_appl[0]"), std::string::npos) << outcome.err;
 }
 
 TEST(Coding, WhatIsNoFrameIsNamed) {
     const auto expect = [](const std::string &bytes, const std::string &words) {
         const Outcome outcome = tarn({"decode"}, bytes);
-        EXPECT_EQ(2, outcome.exit) << words;
-        EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+        EXPECT_EQ(outcome.exit, 2) << words;
+        EXPECT_NE(outcome.err.find(words), std::string::npos) << outcome.err;
     };
     const std::string commit = control(reference::bundle_table("lumo_tarn_cl_cfg_rsp"), "commit");
     std::string unknown = commit;

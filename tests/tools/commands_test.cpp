@@ -17,16 +17,16 @@ class EveryCommand : public testing::TestWithParam<std::string> {};
 
 TEST_P(EveryCommand, HasHelpWithExamples) {
     const Outcome outcome = tarn({GetParam(), "--help"});
-    EXPECT_EQ(0, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.out.find("Examples:\n  tarn ")) << outcome.out;
-    EXPECT_NE(std::string::npos, tarn({"--help"}).out.find("  " + GetParam() + " "));
+    EXPECT_EQ(outcome.exit, 0);
+    EXPECT_NE(outcome.out.find("Examples:\n  tarn "), std::string::npos) << outcome.out;
+    EXPECT_NE(tarn({"--help"}).out.find("  " + GetParam() + " "), std::string::npos);
 }
 
 TEST_P(EveryCommand, RefusesAnUnknownOption) {
     const Outcome outcome = tarn({GetParam(), "--no-such-option"});
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE("", outcome.err);
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err, "");
+    EXPECT_EQ(outcome.out, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
@@ -35,10 +35,10 @@ INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
                          [](const auto &info) { return info.param; });
 
 TEST(Commands, NoneAndAnUnknownOneAreUsageErrors) {
-    EXPECT_EQ(2, tarn({}).exit);
-    EXPECT_EQ(2, tarn({"explain"}).exit);
-    EXPECT_EQ(3, tarn({"decode", "/nonexistent/file"}).exit);
-    EXPECT_EQ(3, tarn({"generate", "dp-intf", "-o", "/nonexistent/file"}).exit);
+    EXPECT_EQ(tarn({}).exit, 2);
+    EXPECT_EQ(tarn({"explain"}).exit, 2);
+    EXPECT_EQ(tarn({"decode", "/nonexistent/file"}).exit, 3);
+    EXPECT_EQ(tarn({"generate", "dp-intf", "-o", "/nonexistent/file"}).exit, 3);
 }
 
 // Every line of a dump that bears an offset, as (offset, bytes in it).
@@ -47,7 +47,7 @@ std::size_t dumped_bytes(const std::string &dump) {
     std::istringstream in(dump);
     for (std::string line; std::getline(in, line);) {
         if (line.rfind("frame at", 0) == 0) continue;
-        EXPECT_EQ(next, std::stoul(line.substr(0, 8))) << line;
+        EXPECT_EQ(std::stoul(line.substr(0, 8)), next) << line;
         for (std::size_t at = 10; at + 1 < std::min<std::size_t>(line.size(), 34) && line[at] != ' '; at += 3) ++next;
     }
     return next;
@@ -58,8 +58,8 @@ TEST(Dissect, AccountsForEveryByteOfEveryMessage) {
         for (const bool tracked : {false, true}) {
             const std::string bytes = frame(message, strange_payload(message, tracked ? 51 : 52), tracked);
             const Outcome outcome = tarn({"dissect"}, bytes);
-            EXPECT_EQ(0, outcome.exit) << message.name << outcome.err;
-            EXPECT_EQ(bytes.size(), dumped_bytes(outcome.out)) << message.name;
+            EXPECT_EQ(outcome.exit, 0) << message.name << outcome.err;
+            EXPECT_EQ(dumped_bytes(outcome.out), bytes.size()) << message.name;
         }
     }
 }
@@ -67,37 +67,38 @@ TEST(Dissect, AccountsForEveryByteOfEveryMessage) {
 TEST(Dissect, ShowsPathKindAndValue) {
     const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), true);
     const Outcome outcome = tarn({"dissect", "--json"}, bytes);
-    EXPECT_NE(std::string::npos, outcome.out.find("\"path\": \"payload.info_enabled.state\"")) << outcome.out;
-    EXPECT_NE(std::string::npos, outcome.out.find("\"kind\": \"u_int32\"")) << outcome.out;
+    EXPECT_NE(outcome.out.find("\"path\": \"payload.info_enabled.state\""), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.out.find("\"kind\": \"u_int32\""), std::string::npos) << outcome.out;
 }
 
 TEST(Dissect, OfACutFrameShowsTheGoodPartAndThePlaceOfTheBreak) {
     const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
     for (std::size_t size = 1; size < bytes.size(); size += 3) {
         const Outcome outcome = tarn({"dissect"}, bytes.substr(0, size));
-        EXPECT_EQ(2, outcome.exit) << size;
+        EXPECT_EQ(outcome.exit, 2) << size;
         EXPECT_LE(dumped_bytes(outcome.out), size);
-        EXPECT_NE(std::string::npos, outcome.err.find("broken at offset ")) << outcome.err;
+        EXPECT_NE(outcome.err.find("broken at offset "), std::string::npos) << outcome.err;
     }
     const Outcome outcome = tarn({"dissect"}, bytes.substr(0, 60));
-    EXPECT_NE(std::string::npos, outcome.err.find("offset 57, payload.warn_enabled: 3 bytes are left of 4"))
+    EXPECT_NE(outcome.err.find("offset 57, payload.warn_enabled: 3 bytes are left of 4"), std::string::npos)
         << outcome.err;
 }
 
 TEST(Dissect, NamesAJumpThatContradictsTheMembers) {
     std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
     bytes[48] = 19;
-    EXPECT_NE(std::string::npos, tarn({"dissect"}, bytes)
-                                     .err.find("offset 45, payload.jump: jump 19 ends at 64, but the "
-                                               "members end at 65"));
+    EXPECT_NE(tarn({"dissect"}, bytes)
+                  .err.find("offset 45, payload.jump: jump 19 ends at 64, but the "
+                            "members end at 65"),
+              std::string::npos);
     bytes[48] = 21;
-    EXPECT_NE(std::string::npos,
-              tarn({"dissect"}, bytes).err.find("offset 45, payload.jump: jump 21 leads to 66, behind the end at 65"));
+    EXPECT_NE(tarn({"dissect"}, bytes).err.find("offset 45, payload.jump: jump 21 leads to 66, behind the end at 65"),
+              std::string::npos);
     bytes[48] = 21;
     bytes[15] = static_cast<char>(bytes.size() + 1);
     const Outcome newer = tarn({"dissect"}, bytes + "x");
-    EXPECT_EQ(0, newer.exit) << newer.err;
-    EXPECT_NE(std::string::npos, newer.out.find("skipped 1 bytes of a newer form")) << newer.out;
+    EXPECT_EQ(newer.exit, 0) << newer.err;
+    EXPECT_NE(newer.out.find("skipped 1 bytes of a newer form"), std::string::npos) << newer.out;
 }
 
 TEST(Diff, TellsEqualFromDifferentAcrossForms) {
@@ -109,12 +110,12 @@ TEST(Diff, TellsEqualFromDifferentAcrossForms) {
     payload["warn_enabled"].number = 2;
     const std::string b =
         directory.write("b.json", tarn({"decode", "--json"}, frame(debug_message(), payload, false)).out);
-    EXPECT_EQ(0, tarn({"diff", a, same}).exit);
+    EXPECT_EQ(tarn({"diff", a, same}).exit, 0);
     const Outcome outcome = tarn({"diff", a, b});
-    EXPECT_EQ(1, outcome.exit);
-    EXPECT_EQ("payload.warn_enabled: 1 -> 2\n", outcome.out);
-    EXPECT_EQ("", tarn({"diff", a, b, "--quiet"}).out);
-    EXPECT_EQ(2, tarn({"diff", a, directory.write("bad", "bad")}).exit);
+    EXPECT_EQ(outcome.exit, 1);
+    EXPECT_EQ(outcome.out, "payload.warn_enabled: 1 -> 2\n");
+    EXPECT_EQ(tarn({"diff", a, b, "--quiet"}).out, "");
+    EXPECT_EQ(tarn({"diff", a, directory.write("bad", "bad")}).exit, 2);
 }
 
 TEST(Diff, ShowsElementsThatOnlyOneSideHasAndState) {
@@ -126,64 +127,65 @@ TEST(Diff, ShowsElementsThatOnlyOneSideHasAndState) {
     payload.append("lumo_data", 1)["ager_enabled"].state = 7;
     const std::string two = directory.write("two", frame(message, payload, true));
     const Outcome outcome = tarn({"diff", one, two});
-    EXPECT_EQ(1, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.out.find("payload.lumo_data[1]: only in B: {...}\n")) << outcome.out;
-    EXPECT_NE(std::string::npos, outcome.out.find("payload.@state.lumo_data.elements[1]: only in B: 1\n"))
+    EXPECT_EQ(outcome.exit, 1);
+    EXPECT_NE(outcome.out.find("payload.lumo_data[1]: only in B: {...}\n"), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.out.find("payload.@state.lumo_data.elements[1]: only in B: 1\n"), std::string::npos)
         << outcome.out;
-    EXPECT_EQ(std::string::npos, tarn({"diff", one, two, "--no-state"}).out.find("@state"));
+    EXPECT_EQ(tarn({"diff", one, two, "--no-state"}).out.find("@state"), std::string::npos);
 }
 
 TEST(Schema, ListsEverythingAndDescribesARecord) {
     const Outcome list = tarn({"schema"});
     for (const auto &record : reference::records())
-        EXPECT_NE(std::string::npos, list.out.find("  " + record.name + " "));
-    for (const auto &bundle : reference::bundles()) EXPECT_NE(std::string::npos, list.out.find(bundle.name));
+        EXPECT_NE(list.out.find("  " + record.name + " "), std::string::npos);
+    for (const auto &bundle : reference::bundles()) EXPECT_NE(list.out.find(bundle.name), std::string::npos);
     for (const auto &record : reference::records()) {
         const Outcome one = tarn({"schema", record.name});
-        EXPECT_EQ(0, one.exit);
-        EXPECT_NE(std::string::npos, one.out.find("base size " + std::to_string(record.base) + ", state area " +
-                                                  std::to_string(record.state) + ","))
+        EXPECT_EQ(one.exit, 0);
+        EXPECT_NE(one.out.find("base size " + std::to_string(record.base) + ", state area " +
+                               std::to_string(record.state) + ","),
+                  std::string::npos)
             << one.out;
         for (const auto &member : record.members)
-            EXPECT_NE(std::string::npos, one.out.find("\n  " + member.name + " "));
+            EXPECT_NE(one.out.find("\n  " + member.name + " "), std::string::npos);
     }
 }
 
 TEST(Schema, DrawsTreesAndGraphs) {
     const Outcome tree = tarn({"schema", "dp-tt-cfg", "--tree"});
-    EXPECT_NE(std::string::npos, tree.out.find("\n      tc_list  lumo_tarn_dp_tc[]\n")) << tree.out.substr(0, 2000);
+    EXPECT_NE(tree.out.find("\n      tc_list  lumo_tarn_dp_tc[]\n"), std::string::npos) << tree.out.substr(0, 2000);
     const Outcome dot = tarn({"schema", "--dot"});
-    EXPECT_EQ(0U, dot.out.find("digraph schema {\n"));
-    EXPECT_NE(std::string::npos,
-              dot.out.find("\"lumo_tarn_dp_tc_list\" -> \"lumo_tarn_dp_tc\" [label=\"tc_list[]\"];\n"));
+    EXPECT_EQ(dot.out.find("digraph schema {\n"), 0U);
+    EXPECT_NE(dot.out.find("\"lumo_tarn_dp_tc_list\" -> \"lumo_tarn_dp_tc\" [label=\"tc_list[]\"];\n"),
+              std::string::npos);
     const Outcome unknown = tarn({"schema", "lumo_tarn_dp_tx"});
-    EXPECT_EQ(2, unknown.exit);
-    EXPECT_NE(std::string::npos, unknown.err.find("did you mean lumo_tarn_dp_tc?")) << unknown.err;
+    EXPECT_EQ(unknown.exit, 2);
+    EXPECT_NE(unknown.err.find("did you mean lumo_tarn_dp_tc?"), std::string::npos) << unknown.err;
 }
 
 TEST(Manifest, PrintsTheTypesOfTheLibraryAndItsBuild) {
     const Outcome outcome = tarn({"manifest", TARN_LIBRARY});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(0U, outcome.out.find("schema list:\n# lumo_ui_tarn.minime\n"));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out.find("schema list:\n# lumo_ui_tarn.minime\n"), 0U);
     for (const auto &record : reference::records()) {
-        EXPECT_NE(std::string::npos, outcome.out.find("\n" + reference::luid_text(record.luid) + ":")) << record.name;
+        EXPECT_NE(outcome.out.find("\n" + reference::luid_text(record.luid) + ":"), std::string::npos) << record.name;
     }
-    EXPECT_NE(std::string::npos, outcome.out.find("\nbuild stamp:\nlumo_ui_tarn\n"));
+    EXPECT_NE(outcome.out.find("\nbuild stamp:\nlumo_ui_tarn\n"), std::string::npos);
 }
 
 TEST(Manifest, TellsAFileWithoutOneFromAFileThatIsNone) {
     const Directory directory;
     // This program is one of those that have no manifest, whatever it is linked with.
-    EXPECT_EQ(1, tarn({"manifest", std::filesystem::read_symlink("/proc/self/exe").string()}).exit);
-    EXPECT_EQ(2, tarn({"manifest", directory.write("text", "no library")}).exit);
-    EXPECT_EQ(3, tarn({"manifest", directory.path("absent")}).exit);
+    EXPECT_EQ(tarn({"manifest", std::filesystem::read_symlink("/proc/self/exe").string()}).exit, 1);
+    EXPECT_EQ(tarn({"manifest", directory.write("text", "no library")}).exit, 2);
+    EXPECT_EQ(tarn({"manifest", directory.path("absent")}).exit, 3);
 }
 
 TEST(Generate, GivesTheSameForTheSameSeed) {
     const Outcome one = tarn({"generate", "dp-mp-tc-cfg", "--seed", "4"});
-    EXPECT_EQ(0, one.exit) << one.err;
-    EXPECT_EQ(one.out, tarn({"generate", "dp-mp-tc-cfg", "--seed", "4"}).out);
-    EXPECT_NE(one.out, tarn({"generate", "dp-mp-tc-cfg", "--seed", "5"}).out);
+    EXPECT_EQ(one.exit, 0) << one.err;
+    EXPECT_EQ(tarn({"generate", "dp-mp-tc-cfg", "--seed", "4"}).out, one.out);
+    EXPECT_NE(tarn({"generate", "dp-mp-tc-cfg", "--seed", "5"}).out, one.out);
 }
 
 TEST(Generate, ReachesTheSizeAskedFor) {
@@ -192,14 +194,14 @@ TEST(Generate, ReachesTheSizeAskedFor) {
             std::vector<std::string> arguments{"generate", what, "--size", "20K", "--form", "frames"};
             if (tracked) arguments.emplace_back("--tracked");
             const Outcome outcome = tarn(arguments);
-            EXPECT_EQ(0, outcome.exit) << outcome.err;
+            EXPECT_EQ(outcome.exit, 0) << outcome.err;
             EXPECT_GE(outcome.out.size(), 20U * 1024);
             EXPECT_LT(outcome.out.size(), 40U * 1024);
-            EXPECT_EQ(0, tarn({"dissect"}, outcome.out).exit);
+            EXPECT_EQ(tarn({"dissect"}, outcome.out).exit, 0);
         }
     }
     // A list that is counted with one byte ends there.
-    EXPECT_EQ(0, tarn({"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"}).exit);
+    EXPECT_EQ(tarn({"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"}).exit, 0);
 }
 
 TEST(Examples, AreOneForEachBundleAndFreeOfMistakes) {
@@ -208,8 +210,8 @@ TEST(Examples, AreOneForEachBundleAndFreeOfMistakes) {
         const std::string path = std::string(TARN_EXAMPLES) + "/" + name + ".xml";
         ASSERT_TRUE(std::filesystem::exists(path)) << path;
         const Outcome outcome = tarn({"encode", path, "--bundle", bundle.name});
-        EXPECT_EQ(0, outcome.exit) << outcome.err;
-        EXPECT_EQ(control(bundle, "start"), outcome.out.substr(0, 43));
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        EXPECT_EQ(outcome.out.substr(0, 43), control(bundle, "start"));
     }
 }
 

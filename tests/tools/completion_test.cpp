@@ -15,7 +15,7 @@ namespace {
 std::vector<std::string> candidates(std::vector<std::string> words) {
     words.insert(words.begin(), "complete");
     const Outcome outcome = tarn(words);
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
     std::vector<std::string> names;
     std::istringstream in(outcome.out);
     for (std::string line; std::getline(in, line);) names.push_back(line.substr(0, line.find('\t')));
@@ -28,7 +28,7 @@ TEST(Completion, OffersTheMembersOfEveryRecord) {
     for (const reference::RecordTable &record : reference::records()) {
         Names members;
         for (const reference::MemberTable &m : record.members) members.push_back(record.name + "." + m.name);
-        EXPECT_EQ(members, candidates({"schema", record.name + "."}));
+        EXPECT_EQ(candidates({"schema", record.name + "."}), members);
     }
 }
 
@@ -40,8 +40,8 @@ TEST(Completion, FollowsAPathThroughNestedRecords) {
             if (nested == reference::records().end()) continue;
             const std::string path = record.name + "." + m.name + ".";
             const Names found = candidates({"schema", path});
-            ASSERT_EQ(nested->members.size(), found.size()) << path;
-            for (std::size_t i = 0; i < found.size(); ++i) EXPECT_EQ(path + nested->members[i].name, found[i]);
+            ASSERT_EQ(found.size(), nested->members.size()) << path;
+            for (std::size_t i = 0; i < found.size(); ++i) EXPECT_EQ(found[i], path + nested->members[i].name);
         }
     }
 }
@@ -61,39 +61,39 @@ TEST(Completion, OffersBundlesWhereBundlesAreAskedFor) {
     Names shown = candidates({"show", "lumo_"});
     std::sort(wanted.begin(), wanted.end());
     std::sort(shown.begin(), shown.end());
-    EXPECT_EQ(wanted, shown);
-    EXPECT_EQ(wanted.size(), candidates({"show", ""}).size());
-    EXPECT_EQ((Names{"cl-debug="}), candidates({"answer", "cl-deb"}));
-    EXPECT_EQ((Names{"cl-debug"}), candidates({"encode", "--bundle", "cl-deb"}));
+    EXPECT_EQ(shown, wanted);
+    EXPECT_EQ(candidates({"show", ""}).size(), wanted.size());
+    EXPECT_EQ(candidates({"answer", "cl-deb"}), (Names{"cl-debug="}));
+    EXPECT_EQ(candidates({"encode", "--bundle", "cl-deb"}), (Names{"cl-debug"}));
 }
 
 TEST(Completion, KnowsWhatAnOptionTakes) {
-    EXPECT_EQ((Names{"lut", "linked"}), candidates({"show", "--via", "l"}));
-    EXPECT_EQ((Names{"--via=linked"}), candidates({"show", "--via=li"}));
-    EXPECT_EQ((Names{":files"}), candidates({"show", "--socket", ""}));
-    EXPECT_EQ((Names{":files"}), candidates({"answer", "cl-debug="}));
-    EXPECT_EQ((Names{":files"}), candidates({"diff", "a.xml", ""}));
-    EXPECT_EQ((Names{}), candidates({"diff", "a.xml", "b.xml", ""}));
-    EXPECT_EQ((Names{}), candidates({"generate", "--seed", ""}));
-    EXPECT_EQ((Names{"--json"}), candidates({"show", "cl-debug", "--js"}));
-    EXPECT_EQ((Names{":files"}), candidates({"decode", "--", "--js"}));
-    EXPECT_EQ((Names{}), candidates({"explain", ""}));
-    EXPECT_EQ((Names{"schema"}), candidates({"sch"}));
+    EXPECT_EQ(candidates({"show", "--via", "l"}), (Names{"lut", "linked"}));
+    EXPECT_EQ(candidates({"show", "--via=li"}), (Names{"--via=linked"}));
+    EXPECT_EQ(candidates({"show", "--socket", ""}), (Names{":files"}));
+    EXPECT_EQ(candidates({"answer", "cl-debug="}), (Names{":files"}));
+    EXPECT_EQ(candidates({"diff", "a.xml", ""}), (Names{":files"}));
+    EXPECT_EQ(candidates({"diff", "a.xml", "b.xml", ""}), (Names{}));
+    EXPECT_EQ(candidates({"generate", "--seed", ""}), (Names{}));
+    EXPECT_EQ(candidates({"show", "cl-debug", "--js"}), (Names{"--json"}));
+    EXPECT_EQ(candidates({"decode", "--", "--js"}), (Names{":files"}));
+    EXPECT_EQ(candidates({"explain", ""}), (Names{}));
+    EXPECT_EQ(candidates({"sch"}), (Names{"schema"}));
     EXPECT_GE(candidates({""}).size(), 10u);
 }
 
 TEST(Schema, ShowsAMemberByItsPath) {
     const Outcome outcome = tarn({"schema", "dp-tc-list.tc_list.appl.exmem_info.size"});
-    EXPECT_EQ(0, outcome.exit);
-    EXPECT_EQ(0u, outcome.out.find("lumo_tarn_exmem_info.size\n")) << outcome.out;
-    EXPECT_NE(std::string::npos, outcome.out.find("size of the block"));
+    EXPECT_EQ(outcome.exit, 0);
+    EXPECT_EQ(outcome.out.find("lumo_tarn_exmem_info.size\n"), 0u) << outcome.out;
+    EXPECT_NE(outcome.out.find("size of the block"), std::string::npos);
     const Outcome nested = tarn({"schema", "dp-tc-list.tc_list"});
-    EXPECT_NE(std::string::npos, nested.out.find("\nlumo_tarn_dp_tc: one traffic class\n")) << nested.out;
-    EXPECT_EQ("tc_list", tarn({"schema", "dp-tc-list.tc_list", "--json"}).out.substr(13, 7));
+    EXPECT_NE(nested.out.find("\nlumo_tarn_dp_tc: one traffic class\n"), std::string::npos) << nested.out;
+    EXPECT_EQ(tarn({"schema", "dp-tc-list.tc_list", "--json"}).out.substr(13, 7), "tc_list");
     const Outcome unknown = tarn({"schema", "dp-tc-list.tc_lost"});
-    EXPECT_EQ(2, unknown.exit);
-    EXPECT_NE(std::string::npos, unknown.err.find("did you mean dp-tc-list.tc_list?")) << unknown.err;
-    EXPECT_EQ(2, tarn({"schema", "dp-tc-list.num_tcs.more"}).exit);
+    EXPECT_EQ(unknown.exit, 2);
+    EXPECT_NE(unknown.err.find("did you mean dp-tc-list.tc_list?"), std::string::npos) << unknown.err;
+    EXPECT_EQ(tarn({"schema", "dp-tc-list.num_tcs.more"}).exit, 2);
 }
 
 }  // namespace

@@ -20,9 +20,9 @@ protected:
     void SetUp() override { ASSERT_TRUE(server_.is_ready()); }
     // Whatever came before, the process answers, and ends in order: no crash, and under a leak checker no leak.
     void TearDown() override {
-        EXPECT_EQ(0, server_.show("cl-debug").exit);
+        EXPECT_EQ(server_.show("cl-debug").exit, 0);
         const Outcome end = server_.process().stop();
-        EXPECT_EQ(0, end.exit) << end.err;
+        EXPECT_EQ(end.exit, 0) << end.err;
     }
     std::string talk(std::string_view bytes, std::size_t most = SIZE_MAX) {
         const Socket socket = Socket::connect_to(server_.socket());
@@ -31,41 +31,41 @@ protected:
     }
 };
 
-TEST_F(HostilePeer, RubbishIsDisconnected) { EXPECT_EQ("", talk(std::string(1000, 'x'))); }
+TEST_F(HostilePeer, RubbishIsDisconnected) { EXPECT_EQ(talk(std::string(1000, 'x')), ""); }
 
 TEST_F(HostilePeer, ATotalLengthBelowAFrameIsDisconnected) {
     std::string bytes = request("lumo_tarn_cl_debug_rsp");
     bytes[15] = 42;
-    EXPECT_EQ("", talk(bytes));
+    EXPECT_EQ(talk(bytes), "");
 }
 
 TEST_F(HostilePeer, AHugeTotalLengthIsDisconnected) {
     std::string bytes = request("lumo_tarn_cl_debug_rsp");
     bytes[12] = '\x7f';
-    EXPECT_EQ("", talk(bytes));
+    EXPECT_EQ(talk(bytes), "");
 }
 
 TEST_F(HostilePeer, AFrameOfAnotherMessageIsRefusedAndDisconnected) {
     const std::string reply = talk(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "start"));
-    EXPECT_NE(std::string::npos, reply.find("this is no request"));
+    EXPECT_NE(reply.find("this is no request"), std::string::npos);
 }
 
 TEST_F(HostilePeer, AnUnknownLuidIsRefusedAndDisconnected) {
     std::string bytes = request("lumo_tarn_cl_debug_rsp");
     bytes[30] ^= 0x55;
-    EXPECT_NE(std::string::npos, talk(bytes).find("this is no request"));
+    EXPECT_NE(talk(bytes).find("this is no request"), std::string::npos);
 }
 
 TEST_F(HostilePeer, ANameThatIsLongerThanTheFrameIsRefused) {
     std::string bytes = request("lumo_tarn_cl_debug_rsp");
     bytes[44] = '\xff';
-    EXPECT_NE(std::string::npos, talk(bytes).find("this is no request"));
+    EXPECT_NE(talk(bytes).find("this is no request"), std::string::npos);
 }
 
 TEST_F(HostilePeer, AnUnknownBundleIsRefusedByName) {
     const std::string reply = talk(request("lumo_tarn_no_such_rsp"), 60);
-    EXPECT_EQ('\x80', reply.at(43));
-    EXPECT_EQ('\x02', reply.at(47));
+    EXPECT_EQ(reply.at(43), '\x80');
+    EXPECT_EQ(reply.at(47), '\x02');
 }
 
 TEST_F(HostilePeer, AFrameThatIsCutIsWaitedFor) {
@@ -94,7 +94,7 @@ TEST_F(HostilePeer, AHundredClientsAtOnceAreAllServed) {
     for (int i = 0; i < 100; ++i) clients.push_back(Socket::connect_to(server_.socket()));
     for (const Socket &client : clients) client.send(request("lumo_tarn_cl_debug_rsp", 1));
     const std::size_t size = 43 + 43 + 26 + 43;  // four integers of four bytes, each with its state byte
-    for (const Socket &client : clients) EXPECT_EQ(size, client.receive(size).size());
+    for (const Socket &client : clients) EXPECT_EQ(client.receive(size).size(), size);
 }
 
 TEST_F(HostilePeer, ManyProcessesAtOnceAreAllServed) {
@@ -103,7 +103,7 @@ TEST_F(HostilePeer, ManyProcessesAtOnceAreAllServed) {
         clients.push_back(std::make_unique<Process>(
             std::vector<std::string>{"show", "cl-debug", "--socket", server_.socket(), "--timeout", "60"}));
     }
-    for (const auto &client : clients) EXPECT_EQ(0, client->finish().exit);
+    for (const auto &client : clients) EXPECT_EQ(client->finish().exit, 0);
 }
 
 struct Fault {
@@ -119,10 +119,10 @@ TEST_P(BrokenAnswer, IsNamed) {
     Server server({"--fault", GetParam().name, "cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = server.show("cl-debug", {"--timeout", "5"});
-    EXPECT_EQ(GetParam().exit, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find(GetParam().words)) << outcome.err;
-    EXPECT_EQ("", outcome.out);
-    EXPECT_EQ(0, server.process().stop().exit);
+    EXPECT_EQ(outcome.exit, GetParam().exit);
+    EXPECT_NE(outcome.err.find(GetParam().words), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(server.process().stop().exit, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -154,17 +154,17 @@ Outcome show_from(const std::string &bytes) {
 
 TEST(BrokenAnswer, ACommitWithoutAStartIsNamed) {
     const Outcome outcome = show_from(control(reference::bundle_table("lumo_tarn_cl_debug_rsp"), "commit"));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 0: lumo_tarn_cl_debug_rsp_bundle_commit"))
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("frame at offset 0: lumo_tarn_cl_debug_rsp_bundle_commit"), std::string::npos)
         << outcome.err;
-    EXPECT_NE(std::string::npos, outcome.err.find("(74)")) << outcome.err;
+    EXPECT_NE(outcome.err.find("(74)"), std::string::npos) << outcome.err;
 }
 
 TEST(BrokenAnswer, AMessageBeforeTheStartIsNamed) {
     const auto &message = reference::message_table("lumo_tarn_debug_setting_msg");
     const Outcome outcome = show_from(frame(message, plain_payload(message, 1), false));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("came before the start of its bundle")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("came before the start of its bundle"), std::string::npos) << outcome.err;
 }
 
 TEST(BrokenAnswer, APayloadThatIsCutInsideItsFrameIsNamed) {
@@ -174,20 +174,20 @@ TEST(BrokenAnswer, APayloadThatIsCutInsideItsFrameIsNamed) {
     cut.pop_back();
     cut[15] = static_cast<char>(cut.size());
     const Outcome outcome = show_from(control(bundle, "start") + cut + control(bundle, "commit"));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("frame at offset 43: lumo_tarn_debug_setting_msg")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("frame at offset 43: lumo_tarn_debug_setting_msg"), std::string::npos) << outcome.err;
 }
 
 TEST(BrokenAnswer, ARequestInReturnIsNamed) {
     const Outcome outcome = show_from(request("lumo_tarn_cl_debug_rsp"));
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("answered with a request")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("answered with a request"), std::string::npos) << outcome.err;
 }
 
 TEST(BrokenAnswer, APeerThatJustClosesIsNamed) {
     const Outcome outcome = show_from("");
-    EXPECT_EQ(3, outcome.exit);
-    EXPECT_NE(std::string::npos, outcome.err.find("ECONNRESET")) << outcome.err;
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_NE(outcome.err.find("ECONNRESET"), std::string::npos) << outcome.err;
 }
 
 }  // namespace

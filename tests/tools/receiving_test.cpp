@@ -20,7 +20,7 @@ Outcome deliver(const std::string &bytes, std::vector<std::string> more = {}) {
 }
 
 void expect_words(const Outcome &outcome, const std::string &words) {
-    EXPECT_NE(std::string::npos, outcome.err.find(words)) << outcome.err;
+    EXPECT_NE(outcome.err.find(words), std::string::npos) << outcome.err;
 }
 
 struct Link {
@@ -32,9 +32,9 @@ class HandlerChain : public testing::TestWithParam<Link> {};
 
 TEST_P(HandlerChain, TellsWhichLinkTookTheBundle) {
     const Outcome outcome = deliver(answer(bundle(), plain_payload(message(), 3), false), {"--via", GetParam().via});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
     expect_words(outcome, GetParam().line + " for lumo_tarn_cl_debug_rsp_bundle_commit\n");
-    EXPECT_EQ(GetParam().taken ? message_text() : "", outcome.out);
+    EXPECT_EQ(outcome.out, GetParam().taken ? message_text() : "");
     expect_words(outcome, GetParam().taken ? "\n1 bundles reached" : "\n0 bundles reached");
 }
 
@@ -49,8 +49,8 @@ INSTANTIATE_TEST_SUITE_P(Receiving, HandlerChain,
 
 TEST(Receiving, AnAbortedBundleDeliversNothing) {
     const Outcome outcome = deliver(control(bundle(), "start") + message_frame() + control(bundle(), "abort"));
-    EXPECT_EQ(1, outcome.exit);
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.exit, 1);
+    EXPECT_EQ(outcome.out, "");
     expect_words(outcome, "(debug): Bundle aborting for lumo_tarn_cl_debug_rsp_bundle_abort");
     expect_words(outcome, "frame at offset 108: aborts lumo_tarn_cl_debug_rsp");
 }
@@ -58,18 +58,18 @@ TEST(Receiving, AnAbortedBundleDeliversNothing) {
 TEST(Receiving, ASecondStartIsRefusedAndTheBundleGoesOn) {
     const std::string start = control(bundle(), "start");
     const Outcome outcome = deliver(start + start + message_frame() + control(bundle(), "commit"));
-    EXPECT_EQ(2, outcome.exit);
+    EXPECT_EQ(outcome.exit, 2);
     expect_words(
         outcome,
         "(ERR): Start message lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_start_message received while aready in "
         "bundle context");
     expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp_bundle_start: File exists (17)");
-    EXPECT_EQ(message_text(), outcome.out);
+    EXPECT_EQ(outcome.out, message_text());
 }
 
 TEST(Receiving, ACommitOutsideABundleIsRefused) {
     const Outcome outcome = deliver(control(bundle(), "commit"));
-    EXPECT_EQ(2, outcome.exit);
+    EXPECT_EQ(outcome.exit, 2);
     expect_words(outcome, "(ERR): Abort message received outside of bundle context");
     expect_words(outcome, "Bad message (74)");
 }
@@ -78,22 +78,22 @@ TEST(Receiving, AMessageThatTheBundleDoesNotAdmitIsNamed) {
     const auto &foreign = reference::message_table("lumo_tarn_dp_intf_msg");
     const Outcome outcome = deliver(control(bundle(), "start") + frame(foreign, plain_payload(foreign, 1), false) +
                                     message_frame() + control(bundle(), "commit"));
-    EXPECT_EQ(2, outcome.exit);
+    EXPECT_EQ(outcome.exit, 2);
     expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp does not admit lumo_tarn_dp_intf_msg");
-    EXPECT_EQ(message_text(), outcome.out);
+    EXPECT_EQ(outcome.out, message_text());
 }
 
 TEST(Receiving, ABundleThatNeverEndsIsNamed) {
     const Outcome outcome = deliver(control(bundle(), "start") + message_frame());
-    EXPECT_EQ(2, outcome.exit);
+    EXPECT_EQ(outcome.exit, 2);
     expect_words(outcome, "ends inside lumo_tarn_cl_debug_rsp");
-    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(outcome.out, "");
 }
 
 TEST(Receiving, AMessageAloneIsDeliveredAtOnce) {
     const Outcome outcome = deliver(message_frame());
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ(message_text(), outcome.out);
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, message_text());
 }
 
 class Recording : public testing::Test {
@@ -106,28 +106,28 @@ TEST_F(Recording, IsARunOfFragmentsThatDecodeReadsBack) {
     const std::string whole = answer(bundle(), plain_payload(message(), 3), false);
     const std::string from = directory_.write("frames.bin", whole + message_frame());
     const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ("recorded 2 of 2 messages\n", outcome.out);
-    EXPECT_EQ(xml() + xml(), directory_.read("recording.xml"));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, "recorded 2 of 2 messages\n");
+    EXPECT_EQ(directory_.read("recording.xml"), xml() + xml());
     const Outcome decoded = tarn({"decode", directory_.path("recording.xml")});
-    EXPECT_EQ(0, decoded.exit) << decoded.err;
-    EXPECT_EQ(message_text() + message_text(), decoded.out);
+    EXPECT_EQ(decoded.exit, 0) << decoded.err;
+    EXPECT_EQ(decoded.out, message_text() + message_text());
 }
 
 TEST_F(Recording, NamesWhatIsTooLargeForTheRecorder) {
     const Outcome large = tarn({"generate", "dp-tt-cfg", "--elements", "4", "--form", "frames", "--bundle"});
     const std::string from = directory_.write("frames.bin", large.out + message_frame());
     const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
-    EXPECT_EQ(1, outcome.exit);
+    EXPECT_EQ(outcome.exit, 1);
     expect_words(outcome, "frame at offset 43: lumo_tarn_dp_tt_msg, ");
     expect_words(outcome, "is too large for the recorder");
-    EXPECT_EQ("recorded 1 of 2 messages\n", outcome.out);
-    EXPECT_EQ(xml(), directory_.read("recording.xml"));
+    EXPECT_EQ(outcome.out, "recorded 1 of 2 messages\n");
+    EXPECT_EQ(directory_.read("recording.xml"), xml());
 
     const Outcome full =
         tarn({"record", "--from", from, "-o", directory_.path("recording.xml"), "--full", directory_.path("full.bin")});
-    EXPECT_EQ(0, full.exit);
-    EXPECT_EQ(large.out + message_frame(), directory_.read("full.bin"));
+    EXPECT_EQ(full.exit, 0);
+    EXPECT_EQ(directory_.read("full.bin"), large.out + message_frame());
 }
 
 TEST_F(Recording, AsksOverASocket) {
@@ -135,9 +135,9 @@ TEST_F(Recording, AsksOverASocket) {
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = tarn({"record", "cl-debug", "--socket", server.socket(), "-o",
                                   directory_.path("recording.xml"), "--rounds", "3", "--interval", "0.01"});
-    EXPECT_EQ(0, outcome.exit) << outcome.err;
-    EXPECT_EQ("recorded 3 of 3 messages\n", outcome.out);
-    EXPECT_EQ(xml() + xml() + xml(), directory_.read("recording.xml"));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, "recorded 3 of 3 messages\n");
+    EXPECT_EQ(directory_.read("recording.xml"), xml() + xml() + xml());
 }
 
 // A number that no enumerator has renders as an element which is not well-formed; the fragments around it stay
@@ -148,8 +148,8 @@ TEST_F(Recording, AFragmentThatIsNotWellFormedDoesNotSpoilTheOthers) {
         "range/></lumo_tarn_cl_cfg_data>"
         "</lumo_tarn_cl_cfg_msg>";
     const Outcome outcome = tarn({"decode", "--keep-going"}, xml() + bad + xml());
-    EXPECT_EQ(2, outcome.exit);
-    EXPECT_EQ(message_text() + message_text(), outcome.out);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(outcome.out, message_text() + message_text());
     expect_words(outcome, "standard input:1: ");
 }
 

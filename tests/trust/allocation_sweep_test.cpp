@@ -23,7 +23,7 @@ TEST(AllocationSweep, HasNoDriverWithoutAnExport) {
     for (const Driver &d : drivers()) EXPECT_TRUE(used.contains(&d)) << d.of << ' ' << d.suffix;
 }
 
-constexpr mirk_platform_testing_allocator kAllocators[] = {
+constexpr mirk_platform_testing_allocator allocators[] = {
     MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
     MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
 
@@ -47,7 +47,7 @@ protected:
         scene.end_call();
         Outcome outcome{
             .err = scene.err, .last_error = scene.last_error, .result = scene.result, .made = scene.made != nullptr};
-        for (const auto allocator : kAllocators) outcome.requests[allocator] = scene.requests(allocator);
+        for (const auto allocator : allocators) outcome.requests[allocator] = scene.requests(allocator);
         if (tells_of_it) operation.driver->judge(scene, *failure);
         scene.clean_up();
         return outcome;
@@ -70,7 +70,7 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                 const kit::Options options{.tracking = tracking, .private_types = private_types};
                 const Outcome calm = run(operation, options, nullptr, false);
                 ++swept;
-                for (const auto allocator : kAllocators) {
+                for (const auto allocator : allocators) {
                     const bool of_types = allocator == MIRK_PLATFORM_TESTING_SYS_ALLOC ||
                                           allocator == MIRK_PLATFORM_TESTING_VARIANT_BLOCK;
                     // What the call asks for besides is asked for without types of its own, too.
@@ -141,7 +141,7 @@ TEST_P(RecorderDeathTest, WithoutABufferTheProcessEnds) {
             mirk_platform_recorder_set(1, stderr);
             mirk_platform_testing_fail_allocation(nullptr, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC, 1, 0);
             void *out = nullptr;
-            m.unmarshal(scene.h, kId, nullptr, &out, scene.frame.data(),
+            m.unmarshal(scene.h, id, nullptr, &out, scene.frame.data(),
                         static_cast<std::uint32_t>(scene.frame.size() - 1), nullptr, scene.error());
         },
         testing::KilledBySignal(SIGABRT), "\\(FATAL\\): MIRK record - malloc failed");
@@ -170,7 +170,7 @@ TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
     }
     ASSERT_NE(holder, nullptr);
     Scene scene({.record = holder}, {});
-    auto *address = static_cast<ip_address *>(holder->members[index].get(scene.h, kId, scene.object, scene.error()));
+    auto *address = static_cast<ip_address *>(holder->members[index].get(scene.h, id, scene.object, scene.error()));
     std::vector<void *> oids(100);
     std::vector<std::vector<std::uint64_t>> targets(oids.size(), std::vector<std::uint64_t>(8));
     for (std::size_t i = 0; i < oids.size(); ++i) {
@@ -182,7 +182,7 @@ TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
         const Import import("liblumo_ui_tarn", "malloc", reinterpret_cast<void *>(&no_memory));
         ASSERT_TRUE(import.found());
         mirk_platform_testing_capture_start();
-        holder->destroy(scene.h, kId, scene.object);
+        holder->destroy(scene.h, id, scene.object);
         mirk_platform_testing_capture_stop();
     }
     EXPECT_TRUE(scene.is_live(scene.object));
@@ -193,7 +193,7 @@ TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
     EXPECT_EQ(left, 1U);
 
     // With memory it goes through.
-    holder->destroy(scene.h, kId, scene.object);
+    holder->destroy(scene.h, id, scene.object);
     EXPECT_FALSE(scene.is_live(scene.object));
     EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[99], &left, nullptr), 0U);
     EXPECT_EQ(left, 0U);

@@ -7,14 +7,14 @@ namespace trust {
 
 namespace {
 
-constexpr std::size_t kMessages = 10;
-constexpr std::int32_t kRoom = 512;
+constexpr std::size_t messages = 10;
+constexpr std::int32_t room = 512;
 
 void look_at(mirk_handle *h, const std::uint8_t *luid, void *message) {
     const auto root = std::find_if(roots().begin(), roots().end(), [&](const Root &r) {
         return r.message != nullptr && std::equal(luid, luid + 16, r.message->luid);
     });
-    use(h, *root, message, kRoom);
+    use(h, *root, message, room);
 }
 
 extern "C" void take_bundle(mirk_handle *h, std::uint32_t, void *context, std::uint32_t *) {
@@ -35,7 +35,7 @@ void take_message(mirk_handle *h, std::uint32_t ctx_id, void *context, void *mes
 
 template <std::size_t... I>
 void enlist(mirk_handle *h, std::index_sequence<I...>) {
-    ASSERT_EQ(tarn::reflect::messages().size(), kMessages);
+    ASSERT_EQ(tarn::reflect::messages().size(), messages);
     const mirk_message_handler handlers[] = {take_message<I>...};
     for (std::size_t i = 0; i < sizeof...(I); ++i) {
         const MessageOperations &m = tarn::reflect::messages()[i];
@@ -53,7 +53,7 @@ void enlist(mirk_handle *h, std::index_sequence<I...>) {
 
 }  // namespace
 
-void enlist(mirk_handle *h) { enlist(h, std::make_index_sequence<kMessages>{}); }
+void enlist(mirk_handle *h) { enlist(h, std::make_index_sequence<messages>{}); }
 
 Bytes bundle_stream(const reference::BundleTable &table, bool tracked) {
     const reference::Record value = rich(reference::message_table(table.message).payload);

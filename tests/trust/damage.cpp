@@ -67,19 +67,19 @@ std::unique_ptr<kit::Handle> small_handle(Tracking tracking, bool private_types)
 }
 
 Specimen::Specimen(mirk_handle *h, const Root &root) : h_(h), root_(root) {
-    if (root.record != nullptr) instance_ = root.record->create(h, kId);
-    if (root.enumeration != nullptr) instance_ = root.enumeration->create(h, kId);
+    if (root.record != nullptr) instance_ = root.record->create(h, id);
+    if (root.enumeration != nullptr) instance_ = root.enumeration->create(h, id);
 }
 
 std::uint32_t Specimen::read(const Bytes &frame, std::uint32_t reuse) {
     std::uint32_t err = 0;
     const auto size = static_cast<std::uint32_t>(frame.size());
     std::uint8_t *bytes = guarded(frame);
-    if (root_.record != nullptr) root_.record->unmarshal(h_, kId, bytes, instance_, size, reuse, &err);
-    if (root_.enumeration != nullptr) root_.enumeration->unmarshal(h_, kId, bytes, instance_, size, reuse, &err);
+    if (root_.record != nullptr) root_.record->unmarshal(h_, id, bytes, instance_, size, reuse, &err);
+    if (root_.enumeration != nullptr) root_.enumeration->unmarshal(h_, id, bytes, instance_, size, reuse, &err);
     if (root_.message != nullptr) {
         end();
-        root_.message->unmarshal_only(h_, kId, &instance_, bytes, size, &err);
+        root_.message->unmarshal_only(h_, id, &instance_, bytes, size, &err);
     }
     mirk_clear_last_error(h_);
     return err;
@@ -90,14 +90,14 @@ std::uint32_t Specimen::read_document(void *document) {
     char words[64];
     const std::string path = "/" + root_.name;
     if (root_.record != nullptr) {
-        root_.record->from_xml(h_, kId, path.c_str(), document, instance_, &err, words, sizeof words);
+        root_.record->from_xml(h_, id, path.c_str(), document, instance_, &err, words, sizeof words);
     }
     if (root_.enumeration != nullptr) {
-        root_.enumeration->from_xml(h_, kId, path.c_str(), document, instance_, &err, words, sizeof words);
+        root_.enumeration->from_xml(h_, id, path.c_str(), document, instance_, &err, words, sizeof words);
     }
     if (root_.message != nullptr) {
         end();
-        instance_ = root_.message->from_xml(h_, kId, document, &err, words, sizeof words);
+        instance_ = root_.message->from_xml(h_, id, document, &err, words, sizeof words);
     }
     mirk_clear_last_error(h_);
     return err;
@@ -110,27 +110,27 @@ void use(mirk_handle *h, const Root &root, void *instance, std::int32_t size) {
     const auto room = static_cast<std::uint32_t>(size);
     std::uint32_t errors[3] = {};
     if (const auto *r = root.record; r != nullptr) {
-        r->print(h, kId, text, 0, "instance", instance, size, &errors[0]);
-        r->to_xml(h, kId, "instance", text, instance, size, 0, &errors[1]);
-        r->marshal(h, kId, buffer, instance, size, &errors[2]);
-        r->len(h, kId, instance);
+        r->print(h, id, text, 0, "instance", instance, size, &errors[0]);
+        r->to_xml(h, id, "instance", text, instance, size, 0, &errors[1]);
+        r->marshal(h, id, buffer, instance, size, &errors[2]);
+        r->len(h, id, instance);
         ASSERT_EQ(r->compare(instance, instance), 0);
         r->hash(instance, 0);
     }
     if (const auto *e = root.enumeration; e != nullptr) {
-        e->print(h, kId, text, 0, "instance", instance, size, &errors[0]);
-        e->to_xml(h, kId, "instance", text, instance, size, 0, &errors[1]);
-        e->marshal(h, kId, buffer, instance, size, &errors[2]);
+        e->print(h, id, text, 0, "instance", instance, size, &errors[0]);
+        e->to_xml(h, id, "instance", text, instance, size, 0, &errors[1]);
+        e->marshal(h, id, buffer, instance, size, &errors[2]);
         ASSERT_EQ(e->compare(instance, instance), 0);
         e->hash(instance, 0);
     }
     if (const auto *m = root.message; m != nullptr) {
-        m->print(h, kId, text, instance, room, &errors[0]);
-        m->to_xml(h, kId, text, instance, room, &errors[1]);
-        m->marshal(h, kId, buffer, instance, room, &errors[2]);
-        m->len(h, kId, instance);
+        m->print(h, id, text, instance, room, &errors[0]);
+        m->to_xml(h, id, text, instance, room, &errors[1]);
+        m->marshal(h, id, buffer, instance, room, &errors[2]);
+        m->len(h, id, instance);
         std::uint32_t err = 0;
-        void *payload = m->payload_get(h, kId, instance, &err);
+        void *payload = m->payload_get(h, id, instance, &err);
         ASSERT_EQ(root.payload()->compare(payload, payload), 0);
         root.payload()->hash(payload, 0);
     }
@@ -139,9 +139,9 @@ void use(mirk_handle *h, const Root &root, void *instance, std::int32_t size) {
 
 void Specimen::end() {
     if (instance_ == nullptr) return;
-    if (root_.record != nullptr) root_.record->destroy(h_, kId, instance_);
-    if (root_.enumeration != nullptr) root_.enumeration->destroy(h_, kId, instance_);
-    if (root_.message != nullptr) root_.message->destroy(h_, kId, instance_);
+    if (root_.record != nullptr) root_.record->destroy(h_, id, instance_);
+    if (root_.enumeration != nullptr) root_.enumeration->destroy(h_, id, instance_);
+    if (root_.message != nullptr) root_.message->destroy(h_, id, instance_);
     instance_ = nullptr;
 }
 

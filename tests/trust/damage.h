@@ -20,7 +20,7 @@
 
 namespace trust {
 
-using bridge::kId;
+using bridge::id;
 using bridge::RecordOperations;
 using kit::Tracking;
 using reference::Bytes;

@@ -246,7 +246,7 @@ TEST_P(DocumentDamage, NumbersThatNothingHolds) {
             const bridge::Instance instance(*handle, *payload);
             std::uint32_t err = 0;
             char words[64];
-            payload->from_xml(*handle, kId, ("/" + name).c_str(), document, instance.get(), &err, words, sizeof words);
+            payload->from_xml(*handle, id, ("/" + name).c_str(), document, instance.get(), &err, words, sizeof words);
             const bool digits = number.find_first_not_of("0123456789") == std::string::npos;
             const std::size_t first = number.find_first_not_of('0');
             const std::string shown = digits && first != std::string::npos ? number.substr(first) : number;
@@ -256,7 +256,7 @@ TEST_P(DocumentDamage, NumbersThatNothingHolds) {
                 digits && (shown.size() < limit.size() || (shown.size() == limit.size() && shown <= limit));
             EXPECT_EQ(err, fits ? 0U : 22U) << tag << ' ' << number.substr(0, 60);
             std::uint32_t error = 0;
-            EXPECT_EQ(m.get_value(*handle, kId, instance.get(), &error), fits ? std::stoull(shown) : 0U) << tag;
+            EXPECT_EQ(m.get_value(*handle, id, instance.get(), &error), fits ? std::stoull(shown) : 0U) << tag;
         }
     }
 }

@@ -84,12 +84,12 @@ void *area_of(const Scene &s, void *object) {
 
 // As an array moves an element: the bytes first, then the cleaning up of the old place, which is then only storage.
 void move_out(Scene &s) {
-    rec(s).destroy_internal(s.h, kId, s.other, 0);
+    rec(s).destroy_internal(s.h, id, s.other, 0);
     std::memcpy(s.other, s.object, rec(s).sizeof_(s.h));
-    if (s.tracks) rec(s).offset_update(s.h, kId, s.other, area_of(s, s.other), s.error());
-    rec(s).post_copyout_cleanup(s.h, kId, s.other, s.object, s.error());
-    if (s.tracks) rec(s).offset_remove(s.h, kId, s.object, s.error());
-    s.h->obj_free(s.h->mem_ctx, kId, s.object);
+    if (s.tracks) rec(s).offset_update(s.h, id, s.other, area_of(s, s.other), s.error());
+    rec(s).post_copyout_cleanup(s.h, id, s.other, s.object, s.error());
+    if (s.tracks) rec(s).offset_remove(s.h, id, s.object, s.error());
+    s.h->obj_free(s.h->mem_ctx, id, s.object);
     s.object = nullptr;
 }
 
@@ -115,7 +115,7 @@ void message_create_cr_failed(Scene &s, const Failure &f) {
     EXPECT_EQ(s.h->cr_mode, 0U);
     const RecordOperations &payload = tarn::reflect::operations_of(msg(s).message->payload);
     std::uint32_t err = 0;
-    EXPECT_EQ(msg(s).payload_get(s.h, kId, s.made, &err), sentinel_of(payload));
+    EXPECT_EQ(msg(s).payload_get(s.h, id, s.made, &err), sentinel_of(payload));
     // Without memory for the message its own sentinel is handed out; without memory for the payload a message is.
     EXPECT_EQ(s.made == sentinel_of(msg(s)), f.nth == 1);
 }
@@ -128,56 +128,56 @@ extern "C" int print_nowhere(const char *, ...) { return 0; }
 
 const Driver by_hand[] = {
     // ---- records
-    {"record", "create", [](Scene &s) { s.made = rec(s).create(s.h, kId); }, null_alone},
-    {"record", "create_internal", [](Scene &s) { s.made = rec(s).create_internal(s.h, kId); }, null_alone},
+    {"record", "create", [](Scene &s) { s.made = rec(s).create(s.h, id); }, null_alone},
+    {"record", "create_internal", [](Scene &s) { s.made = rec(s).create_internal(s.h, id); }, null_alone},
     {"record", "create_cr", [](Scene &s) { s.made = rec(s).create_cr(s.h); },
      [](Scene &s, const Failure &) { sentinel_and_enomem(s, rec(s)); }},
     {"record", "initialize",
      [](Scene &s) {
-         rec(s).destroy_internal(s.h, kId, s.other, 0);
+         rec(s).destroy_internal(s.h, id, s.other, 0);
          std::memset(s.other, 0, rec(s).sizeof_(s.h));
-         rec(s).initialize(s.h, kId, s.other, rec(s).type, 1, 0, 0, nullptr, s.error());
+         rec(s).initialize(s.h, id, s.other, rec(s).type, 1, 0, 0, nullptr, s.error());
      }},
-    {"record", "destroy", [](Scene &s) { rec(s).destroy(s.h, kId, std::exchange(s.object, nullptr)); }},
+    {"record", "destroy", [](Scene &s) { rec(s).destroy(s.h, id, std::exchange(s.object, nullptr)); }},
     {"record", "destroy_cr", [](Scene &s) { rec(s).destroy_cr(s.h, std::exchange(s.object, nullptr)); }},
     {"record", "destroy_internal",
-     [](Scene &s) { rec(s).destroy_internal(s.h, kId, std::exchange(s.object, nullptr), 1); }},
+     [](Scene &s) { rec(s).destroy_internal(s.h, id, std::exchange(s.object, nullptr), 1); }},
     {"record", "get_all",
      [](Scene &s) {
          std::vector<std::uint64_t> values(rec(s).members.size());
          std::vector<void *> out;
          for (std::uint64_t &value : values) out.push_back(&value);
-         rec(s).get_all(s.h, kId, s.object, out.data(), s.error());
+         rec(s).get_all(s.h, id, s.object, out.data(), s.error());
      }},
     {"record", "set_all",
      [](Scene &s) {
          const std::vector<std::uint64_t> values(rec(s).members.size(), 1);
-         rec(s).set_all(s.h, kId, s.object, values.data(), s.error());
+         rec(s).set_all(s.h, id, s.object, values.data(), s.error());
      }},
     {"record", "post_copyout_cleanup", move_out},
     // Where there is a vector of element states, it is lost under the fill.
     {"record", "set_all_state_tracking_flag",
-     [](Scene &s) { rec(s).set_all_state_tracking_flag(s.h, kId, s.other, 1); }},
+     [](Scene &s) { rec(s).set_all_state_tracking_flag(s.h, id, s.other, 1); }},
     {"record", "get_object_references",
      [](Scene &s) {
          void *oids[4] = {};
-         rec(s).get_object_references(s.h, kId, s.object, oids, 4, s.error());
+         rec(s).get_object_references(s.h, id, s.object, oids, 4, s.error());
      }},
     {"record", "offset_update",
-     [](Scene &s) { rec(s).offset_update(s.h, kId, s.object, area_of(s, s.object), s.error()); }},
+     [](Scene &s) { rec(s).offset_update(s.h, id, s.object, area_of(s, s.object), s.error()); }},
     // Put back at once: what is nested finds its states by these.
     {"record", "offset_remove",
      [](Scene &s) {
-         rec(s).offset_remove(s.h, kId, s.object, s.error());
-         if (s.tracks) rec(s).offset_update(s.h, kId, s.object, area_of(s, s.object), s.error());
+         rec(s).offset_remove(s.h, id, s.object, s.error());
+         if (s.tracks) rec(s).offset_update(s.h, id, s.object, area_of(s, s.object), s.error());
      }},
     {"record", "unmarshal",
-     [](Scene &s) { s.result = rec(s).unmarshal(s.h, kId, s.frame.data(), s.other, frame_size(s), 0, s.error()); },
+     [](Scene &s) { s.result = rec(s).unmarshal(s.h, id, s.frame.data(), s.other, frame_size(s), 0, s.error()); },
      enomem_and_nothing},
     {"record", "clone",
      [](Scene &s) {
          const auto size = static_cast<std::uint32_t>(s.size());
-         rec(s).clone(s.h, kId, s.object, &s.made, s.text(), size, s.error());
+         rec(s).clone(s.h, id, s.object, &s.made, s.text(), size, s.error());
      },
      enomem_and_nothing},
     {"record", "clone_cr", [](Scene &s) { s.made = rec(s).clone_cr(s.h, s.object); }, sticky_enomem},
@@ -193,7 +193,7 @@ const Driver by_hand[] = {
     {"record", "from_xml",
      [](Scene &s) {
          const std::string path = "/" + std::string(rec(s).record->name);
-         rec(s).from_xml(s.h, kId, path.c_str(), s.document, s.other, s.error(), s.text(), 128);
+         rec(s).from_xml(s.h, id, path.c_str(), s.document, s.other, s.error(), s.text(), 128);
      },
      [](Scene &s, const Failure &f) {
          enomem_in_the_slot(s, f);
@@ -203,122 +203,120 @@ const Driver by_hand[] = {
     // ---- members
     // From a fresh record, so that a nested one has nothing to lose and nothing to gain.
     {"single", "set",
-     [](Scene &s) { mem(s).set(s.h, kId, s.other, mem(s).get(s.h, kId, s.object, s.error()), s.error()); }},
-    {"string", "set", [](Scene &s) { mem(s).text_set(s.h, kId, s.object, "another", 7, s.error()); },
-     string_set_failed},
+     [](Scene &s) { mem(s).set(s.h, id, s.other, mem(s).get(s.h, id, s.object, s.error()), s.error()); }},
+    {"string", "set", [](Scene &s) { mem(s).text_set(s.h, id, s.object, "another", 7, s.error()); }, string_set_failed},
     {"string", "set_cr", [](Scene &s) { s.result = mem(s).text_set_cr(s.h, s.object, "another", 7); },
      member_set_cr_failed},
-    {"array", "set", [](Scene &s) { mem(s).element_set(s.h, kId, s.object, 3, s.element, s.error()); },
+    {"array", "set", [](Scene &s) { mem(s).element_set(s.h, id, s.object, 3, s.element, s.error()); },
      array_set_failed},
     {"array", "set_cr", [](Scene &s) { s.result = mem(s).element_set_cr(s.h, s.object, 3, s.element, 0); },
      member_set_cr_failed},
     {"array", "state_flag_get_arr",
      [](Scene &s) {
          std::uint8_t *vector = nullptr;
-         mem(s).element_state_flag_get_arr(s.h, kId, s.object, &vector, s.error());
+         mem(s).element_state_flag_get_arr(s.h, id, s.object, &vector, s.error());
      }},
     {"array", "state_flag_set_arr",
      [](Scene &s) {
          const std::uint8_t states[2] = {1, 2};
-         mem(s).element_state_flag_set_arr(s.h, kId, s.object, states, 2, s.error());
+         mem(s).element_state_flag_set_arr(s.h, id, s.object, states, 2, s.error());
      }},
 
     // ---- enumerations
-    {"enumeration", "create", [](Scene &s) { s.made = en(s).create(s.h, kId); }, null_alone},
-    {"enumeration", "create_internal", [](Scene &s) { s.made = en(s).create_internal(s.h, kId); }, null_alone},
+    {"enumeration", "create", [](Scene &s) { s.made = en(s).create(s.h, id); }, null_alone},
+    {"enumeration", "create_internal", [](Scene &s) { s.made = en(s).create_internal(s.h, id); }, null_alone},
     {"enumeration", "create_cr", [](Scene &s) { s.made = en(s).create_cr(s.h); },
      [](Scene &s, const Failure &) { sentinel_and_enomem(s, en(s)); }},
     {"enumeration", "initialize",
-     [](Scene &s) { en(s).initialize(s.h, kId, s.other, en(s).type, 1, 0, 0, nullptr, s.error()); }},
-    {"enumeration", "destroy", [](Scene &s) { en(s).destroy(s.h, kId, std::exchange(s.object, nullptr)); }},
+     [](Scene &s) { en(s).initialize(s.h, id, s.other, en(s).type, 1, 0, 0, nullptr, s.error()); }},
+    {"enumeration", "destroy", [](Scene &s) { en(s).destroy(s.h, id, std::exchange(s.object, nullptr)); }},
     {"enumeration", "destroy_cr", [](Scene &s) { en(s).destroy_cr(s.h, std::exchange(s.object, nullptr)); }},
     {"enumeration", "destroy_internal",
-     [](Scene &s) { en(s).destroy_internal(s.h, kId, std::exchange(s.object, nullptr), 1); }},
+     [](Scene &s) { en(s).destroy_internal(s.h, id, std::exchange(s.object, nullptr), 1); }},
     {"enumeration", "unmarshal",
-     [](Scene &s) { s.result = en(s).unmarshal(s.h, kId, s.frame.data(), s.object, frame_size(s), 0, s.error()); }},
+     [](Scene &s) { s.result = en(s).unmarshal(s.h, id, s.frame.data(), s.object, frame_size(s), 0, s.error()); }},
     {"enumeration", "from_xml",
      [](Scene &s) {
          const std::string path = "/" + std::string(en(s).enumeration->name);
-         en(s).from_xml(s.h, kId, path.c_str(), s.document, s.object, s.error(), s.text(), 128);
+         en(s).from_xml(s.h, id, path.c_str(), s.document, s.object, s.error(), s.text(), 128);
      }},
 
     // ---- messages
-    {"message", "create_shallow", [](Scene &s) { s.made = msg(s).create_shallow(s.h, kId); }, null_alone},
-    {"message", "create", [](Scene &s) { s.made = msg(s).create(s.h, kId); }, null_alone},
-    {"message", "create_unsafe", [](Scene &s) { s.made = msg(s).create_unsafe(s.h, kId); }, null_alone},
+    {"message", "create_shallow", [](Scene &s) { s.made = msg(s).create_shallow(s.h, id); }, null_alone},
+    {"message", "create", [](Scene &s) { s.made = msg(s).create(s.h, id); }, null_alone},
+    {"message", "create_unsafe", [](Scene &s) { s.made = msg(s).create_unsafe(s.h, id); }, null_alone},
     {"message", "create_cr", [](Scene &s) { s.made = msg(s).create_cr(s.h); }, message_create_cr_failed},
-    {"message", "destroy", [](Scene &s) { msg(s).destroy(s.h, kId, std::exchange(s.object, nullptr)); }},
+    {"message", "destroy", [](Scene &s) { msg(s).destroy(s.h, id, std::exchange(s.object, nullptr)); }},
     {"message", "destroy_cr", [](Scene &s) { msg(s).destroy_cr(s.h, std::exchange(s.object, nullptr)); }},
-    {"message", "destroy_unsafe", [](Scene &s) { msg(s).destroy_unsafe(s.h, kId, std::exchange(s.object, nullptr)); }},
+    {"message", "destroy_unsafe", [](Scene &s) { msg(s).destroy_unsafe(s.h, id, std::exchange(s.object, nullptr)); }},
     // The message goes to the handler; what a failed reading made goes to nobody.
     {"message", "unmarshal",
      [](Scene &s) {
          void *out = nullptr;
-         msg(s).unmarshal(s.h, kId, &s, &out, s.frame.data(), frame_size(s), take, s.error());
+         msg(s).unmarshal(s.h, id, &s, &out, s.frame.data(), frame_size(s), take, s.error());
          s.result = out == s.made;
      },
      message_is_kept},
     {"message", "unmarshal_only",
-     [](Scene &s) { msg(s).unmarshal_only(s.h, kId, &s.made, s.frame.data(), frame_size(s), s.error()); },
+     [](Scene &s) { msg(s).unmarshal_only(s.h, id, &s.made, s.frame.data(), frame_size(s), s.error()); },
      [](Scene &s, const Failure &f) {
          enomem(s, f);
          EXPECT_EQ(s.made == nullptr, f.nth == 1) << "what was read so far is handed out";
      }},
     // A failed reading returns null and keeps the object.
-    {"message", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, kId, s.document, s.error(), s.text(), 128); },
+    {"message", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, id, s.document, s.error(), s.text(), 128); },
      message_is_kept},
     {"message", "from_xml_unsafe",
-     [](Scene &s) { s.made = msg(s).from_xml_unsafe(s.h, kId, s.document, s.error(), s.text(), 128); },
-     message_is_kept},
+     [](Scene &s) { s.made = msg(s).from_xml_unsafe(s.h, id, s.document, s.error(), s.text(), 128); }, message_is_kept},
     {"payload", "get_detach",
      [](Scene &s) {
-         void *payload = msg(s).payload_get_detach(s.h, kId, s.object, s.error());
-         msg(s).payload_set(s.h, kId, s.object, payload, s.error());
+         void *payload = msg(s).payload_get_detach(s.h, id, s.object, s.error());
+         msg(s).payload_set(s.h, id, s.object, payload, s.error());
      }},
     {"payload", "set",
      [](Scene &s) {
-         void *payload = msg(s).payload_get(s.h, kId, s.object, s.error());
-         msg(s).payload_set(s.h, kId, s.object, payload, s.error());
+         void *payload = msg(s).payload_get(s.h, id, s.object, s.error());
+         msg(s).payload_set(s.h, id, s.object, payload, s.error());
      }},
-    {"payload", "free_and_set", [](Scene &s) { msg(s).payload_free_and_set(s.h, kId, s.object, nullptr, s.error()); }},
+    {"payload", "free_and_set", [](Scene &s) { msg(s).payload_free_and_set(s.h, id, s.object, nullptr, s.error()); }},
     {"message handler", "handler",
      [](Scene &s) {
          // It reports that nobody took the message, which stays with the caller.
-         msg(s).handler(s.h, kId, nullptr, s.object, s.error());
+         msg(s).handler(s.h, id, nullptr, s.object, s.error());
          s.result = s.err;
      }},
 
     // ---- control messages
-    {"control", "create", [](Scene &s) { s.made = msg(s).create(s.h, kId); }, null_alone},
-    {"control", "create_unsafe", [](Scene &s) { s.made = msg(s).create_unsafe(s.h, kId); }, null_alone},
+    {"control", "create", [](Scene &s) { s.made = msg(s).create(s.h, id); }, null_alone},
+    {"control", "create_unsafe", [](Scene &s) { s.made = msg(s).create_unsafe(s.h, id); }, null_alone},
     {"control", "create_cr", [](Scene &s) { s.made = msg(s).create_cr(s.h); },
      [](Scene &s, const Failure &) { sentinel_and_enomem(s, msg(s)); }},
-    {"control", "destroy", [](Scene &s) { msg(s).destroy(s.h, kId, std::exchange(s.object, nullptr)); }},
+    {"control", "destroy", [](Scene &s) { msg(s).destroy(s.h, id, std::exchange(s.object, nullptr)); }},
     {"control", "destroy_cr", [](Scene &s) { msg(s).destroy_cr(s.h, std::exchange(s.object, nullptr)); }},
-    {"control", "destroy_unsafe", [](Scene &s) { msg(s).destroy_unsafe(s.h, kId, std::exchange(s.object, nullptr)); }},
+    {"control", "destroy_unsafe", [](Scene &s) { msg(s).destroy_unsafe(s.h, id, std::exchange(s.object, nullptr)); }},
     {"control", "unmarshal",
      [](Scene &s) {
-         s.result = msg(s).unmarshal(s.h, kId, &s, nullptr, s.frame.data(), frame_size(s), take, s.error());
+         s.result = msg(s).unmarshal(s.h, id, &s, nullptr, s.frame.data(), frame_size(s), take, s.error());
      }},
     {"control", "unmarshal_only",
      [](Scene &s) {
          void *out = nullptr;
-         s.result = msg(s).unmarshal_only(s.h, kId, &out, s.frame.data(), frame_size(s), s.error());
+         s.result = msg(s).unmarshal_only(s.h, id, &out, s.frame.data(), frame_size(s), s.error());
      }},
     // A token, or null when there is no memory, and no error.
-    {"control", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, kId, nullptr, s.error(), s.text(), 128); },
+    {"control", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, id, nullptr, s.error(), s.text(), 128); },
      null_alone},
     {"control", "from_xml_unsafe",
-     [](Scene &s) { s.made = msg(s).from_xml_unsafe(s.h, kId, nullptr, s.error(), s.text(), 128); }, null_alone},
+     [](Scene &s) { s.made = msg(s).from_xml_unsafe(s.h, id, nullptr, s.error(), s.text(), 128); }, null_alone},
     // The message goes to the handler, which releases it.
     {"control handler", "handler",
      [](Scene &s) {
-         msg(s).handler(s.h, kId, nullptr, std::exchange(s.object, nullptr), s.error());
+         msg(s).handler(s.h, id, nullptr, std::exchange(s.object, nullptr), s.error());
          s.result = s.err;
      }},
 
     // ---- bundles and the module
-    {"bundle", "handler", [](Scene &s) { s.subject.bundle->handler(s.h, kId, nullptr, s.error()); }},
+    {"bundle", "handler", [](Scene &s) { s.subject.bundle->handler(s.h, id, nullptr, s.error()); }},
     {"bundle", "handler_register",
      [](Scene &s) {
          const mirk_bundle_handler before = s.subject.bundle->register_handler(nullptr);
@@ -331,12 +329,12 @@ const Driver by_hand[] = {
      }},
     // Copies that were made stay in the store, and a later call makes the rest.
     {"module", "lumo_ui_tarn_typeinfo_initialize",
-     [](Scene &s) { lumo_ui_tarn_typeinfo_initialize(s.h, kId, s.error()); },
+     [](Scene &s) { lumo_ui_tarn_typeinfo_initialize(s.h, id, s.error()); },
      [](Scene &s, const Failure &f) {
          if (f.allocator != MIRK_PLATFORM_TESTING_SYS_ALLOC) return;
          enomem(s, f);
          std::uint32_t err = 0;
-         lumo_ui_tarn_typeinfo_initialize(s.h, kId, &err);
+         lumo_ui_tarn_typeinfo_initialize(s.h, id, &err);
          EXPECT_EQ(err, 0U);
      }},
     {"module", "lumo_ui_tarn_type_variant_dump", [](Scene &) { lumo_ui_tarn_type_variant_dump(print_nowhere); }},

@@ -129,7 +129,7 @@ protected:
         mirk_platform_recorder_set(recorded ? 1 : 0, nowhere);
         Outcome outcome;
         mirk_platform_report report;
-        outcome.error = mirk_platform_dispatch(*handle, kId, guarded(bytes), static_cast<std::uint32_t>(bytes.size()),
+        outcome.error = mirk_platform_dispatch(*handle, id, guarded(bytes), static_cast<std::uint32_t>(bytes.size()),
                                                &outcome.received, &report);
         EXPECT_EQ(outcome.error, report.number);
         mirk_platform_recorder_set(0, nullptr);

@@ -105,7 +105,7 @@ TEST_F(RuntimeMemory, RefusedToAReceiverOfABundle) {
             Received received;
             const ShortOfMemory is_short;
             expect_want_of_memory(mirk_platform_dispatch(
-                h, kId, guarded(stream), static_cast<std::uint32_t>(stream.size()), &received, nullptr));
+                h, id, guarded(stream), static_cast<std::uint32_t>(stream.size()), &received, nullptr));
         });
         EXPECT_GT(asked, 0U);
     }
@@ -118,18 +118,18 @@ TEST_F(RuntimeMemory, RefusedToASenderOfABundle) {
         const std::uint64_t asked = refuse_each([&] {
             const kit::Handle h;
             std::uint32_t err = 0;
-            void *message = m.create(h, kId);
+            void *message = m.create(h, id);
             Bytes frame(4096);
             {
                 const ShortOfMemory is_short;
-                bundle.start.marshal(h, kId, frame.data(), nullptr, 4095, &err);
-                m.marshal(h, kId, frame.data(), message, 4095, &err);
-                bundle.commit.marshal(h, kId, frame.data(), nullptr, 4095, &err);
+                bundle.start.marshal(h, id, frame.data(), nullptr, 4095, &err);
+                m.marshal(h, id, frame.data(), message, 4095, &err);
+                bundle.commit.marshal(h, id, frame.data(), nullptr, 4095, &err);
                 expect_want_of_memory(err);
             }
-            m.destroy(h, kId, message);
+            m.destroy(h, id, message);
             err = 0;
-            if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, kId, &err);
+            if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, id, &err);
         });
         EXPECT_GT(asked, 0U);
     }
@@ -171,19 +171,19 @@ TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
 TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
     kit::Handle h(Tracking::on);
     for (const std::size_t size : {1U, 200U, 256U, 5000U, 100000U}) {
-        auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, kId, size));
+        auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, id, size));
         ASSERT_NE(block, nullptr);
         {
             const ShortOfMemory is_short;
             refused = {1, true};
             requests = 0;
             for (std::size_t at = 0; at + sizeof(mirk_object) <= size; at += sizeof(mirk_object)) {
-                mirklib_update_sttr_offset(h, kId, block + at, 8);
+                mirklib_update_sttr_offset(h, id, block + at, 8);
             }
             EXPECT_EQ(requests, 0U);
             refused = {};
         }
-        h->obj_free(h->mem_ctx, kId, block);
+        h->obj_free(h->mem_ctx, id, block);
     }
     EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
 }
@@ -194,8 +194,8 @@ TEST_F(RuntimeMemory, ForThePlacesOfStatesCountsIntoTheCeiling) {
         const kit::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});
         const auto fill = [&] {
             std::vector<void *> blocks;
-            while (void *block = h->obj_alloc(h->mem_ctx, kId, 4096)) blocks.push_back(block);
-            for (void *block : blocks) h->obj_free(h->mem_ctx, kId, block);
+            while (void *block = h->obj_alloc(h->mem_ctx, id, 4096)) blocks.push_back(block);
+            for (void *block : blocks) h->obj_free(h->mem_ctx, id, block);
             return blocks.size();
         };
         const std::size_t first = fill();

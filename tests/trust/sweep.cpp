@@ -12,7 +12,7 @@ namespace trust {
 
 namespace {
 
-constexpr mirk_platform_testing_allocator kAllocators[] = {
+constexpr mirk_platform_testing_allocator allocators[] = {
     MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
     MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
 
@@ -39,7 +39,7 @@ void *document_of(const std::string &name, const std::function<std::string()> &t
 }
 
 void *filled(mirk_handle *h, const RecordOperations &record) {
-    void *instance = record.create(h, kId);
+    void *instance = record.create(h, id);
     bridge::fill(h, record, instance, value_of(record));
     return instance;
 }
@@ -63,7 +63,7 @@ Scene::Scene(const Subject &s, const kit::Options &options)
     if (subject.record != nullptr) {
         const RecordOperations &r = *subject.record;
         object = filled(h, r);
-        other = r.create(h, kId);
+        other = r.create(h, id);
         if (subject.member != nullptr && subject.member->element_set != nullptr) {
             element = filled(h, tarn::reflect::operations_of(*subject.member->member->record));
         }
@@ -74,21 +74,21 @@ Scene::Scene(const Subject &s, const kit::Options &options)
             });
         }
     } else if (subject.enumeration != nullptr) {
-        object = subject.enumeration->create(h, kId);
-        other = subject.enumeration->create(h, kId);
+        object = subject.enumeration->create(h, id);
+        other = subject.enumeration->create(h, id);
         const std::string name(subject.enumeration->enumeration->name);
         document = document_of(name, [&] { return "<" + name + "/>"; });
         frame = {0, 0, 0, 0, 0};
     } else if (subject.message != nullptr && subject.message->message != nullptr) {
         const MessageOperations &m = *subject.message;
         const RecordOperations &payload = tarn::reflect::operations_of(m.message->payload);
-        object = m.create(h, kId);
-        bridge::fill(h, payload, m.payload_get(h, kId, object, &err), value_of(payload));
+        object = m.create(h, id);
+        bridge::fill(h, payload, m.payload_get(h, id, object, &err), value_of(payload));
         frame = reference::message_frame(m.name, value_of(payload), tracks, 5);
         document = document_of(
             m.name, [&] { return reference::message_to_xml(m.name, rich(payload.record->name, true), false); });
     } else if (subject.message != nullptr) {
-        object = subject.message->create(h, kId);
+        object = subject.message->create(h, id);
         frame.assign(43, 0);
     }
     frame.push_back(0);
@@ -109,20 +109,20 @@ void Scene::fail(const Failure &failure) {
 }
 
 void Scene::end_failures() {
-    for (const auto allocator : kAllocators) mirk_platform_testing_fail_allocation(h, allocator, 0, 0);
+    for (const auto allocator : allocators) mirk_platform_testing_fail_allocation(h, allocator, 0, 0);
 }
 
 void Scene::begin_call() {
     err = 0;
     mirk_clear_last_error(h);
-    for (const auto allocator : kAllocators) {
+    for (const auto allocator : allocators) {
         before_[allocator] = mirk_platform_testing_allocations(h, allocator);
     }
 }
 
 void Scene::end_call() {
     last_error = h->last_error;
-    for (const auto allocator : kAllocators) {
+    for (const auto allocator : allocators) {
         requests_[allocator] = mirk_platform_testing_allocations(h, allocator) - before_[allocator];
     }
     end_failures();
@@ -144,25 +144,25 @@ void Scene::clean_up() {
             // Whatever state it is in, it can be looked at and ended.
             const RecordOperations &r = *subject.record;
             std::uint32_t error = 0;
-            r.print(h, kId, text(), 0, "o", instance, size(), &error);
+            r.print(h, id, text(), 0, "o", instance, size(), &error);
             error = 0;
-            r.marshal(h, kId, text(), instance, size(), &error);
+            r.marshal(h, id, text(), instance, size(), &error);
             r.hash(instance, 1);
             EXPECT_EQ(r.compare(instance, instance), 0);
             mirk_clear_last_error(h);
-            r.destroy(h, kId, instance);
+            r.destroy(h, id, instance);
         }
         if (element != nullptr) {
-            tarn::reflect::operations_of(*subject.member->member->record).destroy(h, kId, element);
+            tarn::reflect::operations_of(*subject.member->member->record).destroy(h, id, element);
         }
     } else if (subject.enumeration != nullptr) {
-        for (void *instance : {object, other, made}) subject.enumeration->destroy(h, kId, instance);
+        for (void *instance : {object, other, made}) subject.enumeration->destroy(h, id, instance);
     } else if (subject.message != nullptr) {
         for (void *message : {object, made}) {
-            if (message != nullptr) subject.message->destroy(h, kId, message);
+            if (message != nullptr) subject.message->destroy(h, id, message);
         }
     }
-    if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, kId, &err);
+    if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, id, &err);
     object = other = made = element = nullptr;
     EXPECT_LE(mirk_platform_live_blocks(h), may_lose) << "blocks are left";
     // What is left behind keeps its entries in the runtime.

@@ -16,7 +16,7 @@
 
 namespace trust {
 
-using bridge::kId;
+using bridge::id;
 using bridge::RecordOperations;
 using tarn::reflect::BundleOperations;
 using tarn::reflect::EnumerationOperations;

@@ -129,7 +129,7 @@ std::string table_of(const std::string &type, const std::string &name, const std
 // Of a scene, or empty. What takes an object away, moves or allocates is called by hand, in tests/trust/drivers.cpp.
 std::string argument_of_scene(const Parameter &p) {
     static const std::map<std::string_view, const char *> by_name = {{"h", "s.h"},
-                                                                     {"ctx_id", "kId"},
+                                                                     {"ctx_id", "id"},
                                                                      {"err", "s.error()"},
                                                                      {"object", "s.object"},
                                                                      {"instance", "s.object"},

@@ -16,8 +16,8 @@ using tarn::reflect::MemberOperations;
 
 namespace {
 
-constexpr std::size_t kEnumerationValue = 12;  // where an enumeration has its number
-constexpr std::uint8_t kRaData = 32, kOffset = 64;
+constexpr std::size_t enumeration_value = 12;  // where an enumeration has its number
+constexpr std::uint8_t ra_data_flag = 32, offset_flag = 64;
 
 mirk_object *header(void *object) { return static_cast<mirk_object *>(object); }
 
@@ -42,8 +42,8 @@ bool tracks(mirk_handle *h) { return h->sttr_desc != nullptr && h->sttr_desc->st
 
 // An address has no operations for its members, but its struct is public.
 std::uint8_t *address_area(mirk_handle *h, ip_address *address) {
-    const std::uint32_t away = (address->obj_flag & kOffset) != 0 ? mirklib_get_sttr_offset(h, kId, address)
-                                                                  : static_cast<std::uint32_t>(sizeof *address);
+    const std::uint32_t away = (address->obj_flag & offset_flag) != 0 ? mirklib_get_sttr_offset(h, id, address)
+                                                                      : static_cast<std::uint32_t>(sizeof *address);
     return reinterpret_cast<std::uint8_t *>(address) + away;
 }
 
@@ -57,7 +57,7 @@ void fill_header(mirk_handle *h, void *object, const reference::Record &value) {
 
 void extract_header(mirk_handle *h, void *object, reference::Record &value) {
     value.variant = header(object)->variant;
-    if ((header(object)->obj_flag & kRaData) == 0) return;
+    if ((header(object)->obj_flag & ra_data_flag) == 0) return;
     value.ra.emplace();
     void *word = nullptr;
     if (mirk_platform_ra_data(h, object, &word, &value.ra->byte) == 0) {
@@ -96,55 +96,55 @@ void fill_array(mirk_handle *h, const MemberOperations &operation, const MemberT
     if (n == 0) return;
     {
         const Instance fresh(h, element);
-        operation.element_set(h, kId, instance, n - 1, fresh.get(), err);
+        operation.element_set(h, id, instance, n - 1, fresh.get(), err);
     }
     for (std::uint32_t i = 0; i < n && *err == 0; ++i) {
-        void *at = operation.element_get(h, kId, instance, i, err);
+        void *at = operation.element_get(h, id, instance, i, err);
         if (at != nullptr) fill(h, element, at, value.items[i]);
-        if (tracks(h)) operation.element_state_flag_set(h, kId, instance, i, value.element_state[i], err);
+        if (tracks(h)) operation.element_state_flag_set(h, id, instance, i, value.element_state[i], err);
     }
 }
 
 void fill_member(mirk_handle *h, const RecordOperations &record, const MemberOperations &operation,
                  const MemberTable &row, void *instance, const reference::Member &value, std::uint32_t *err) {
     switch (row.cls) {
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             return;
-        case Class::kInteger:
-            operation.set_value(h, kId, instance, value.number, err);
+        case Class::integer:
+            operation.set_value(h, id, instance, value.number, err);
             return;
-        case Class::kBoolean: {
-            operation.set_value(h, kId, instance, value.number != 0, err);
-            auto *boolean = static_cast<mirk_boolean *>(operation.get(h, kId, instance, err));
+        case Class::boolean: {
+            operation.set_value(h, id, instance, value.number != 0, err);
+            auto *boolean = static_cast<mirk_boolean *>(operation.get(h, id, instance, err));
             if (boolean == nullptr) return;
             boolean->value = static_cast<std::uint8_t>(value.number);
             boolean->variant = value.variant;
             return;
         }
-        case Class::kEnumeration: {
+        case Class::enumeration: {
             // Its setter refuses a number out of range, which a sender can choose all the same.
-            operation.set_value(h, kId, instance, 0, err);
-            void *enumeration = operation.get(h, kId, instance, err);
+            operation.set_value(h, id, instance, 0, err);
+            void *enumeration = operation.get(h, id, instance, err);
             if (enumeration == nullptr) return;
             const auto number = static_cast<std::uint32_t>(value.number);
-            std::memcpy(static_cast<char *>(enumeration) + kEnumerationValue, &number, sizeof number);
+            std::memcpy(static_cast<char *>(enumeration) + enumeration_value, &number, sizeof number);
             header(enumeration)->variant = value.variant;
             return;
         }
-        case Class::kAddress:
-            fill_address(h, static_cast<ip_address *>(operation.get(h, kId, instance, err)), value.items[0]);
+        case Class::address:
+            fill_address(h, static_cast<ip_address *>(operation.get(h, id, instance, err)), value.items[0]);
             return;
-        case Class::kNested:
-            fill(h, operations(row.type), operation.get(h, kId, instance, err), value.items[0]);
+        case Class::nested:
+            fill(h, operations(row.type), operation.get(h, id, instance, err), value.items[0]);
             return;
-        case Class::kString:
+        case Class::string:
             if (value.text.empty()) return;
             // Its setter copies up to the first NUL byte only, so the characters are put to where they lie.
-            operation.text_set(h, kId, instance, value.text.data(), static_cast<std::uint32_t>(value.text.size()), err);
+            operation.text_set(h, id, instance, value.text.data(), static_cast<std::uint32_t>(value.text.size()), err);
             if (*err == 0) std::memcpy(block_of(record, instance, row.name), value.text.data(), value.text.size());
             return;
-        case Class::kArray:
+        case Class::array:
             fill_array(h, operation, row, instance, value, err);
             return;
     }
@@ -155,47 +155,47 @@ void extract_member(mirk_handle *h, const RecordOperations &record, const Member
                     const MemberTable &row, void *instance, std::uint32_t size, reference::Member &value,
                     std::uint32_t *err) {
     switch (row.cls) {
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             return;
-        case Class::kInteger:
-            value.number = operation.get_value(h, kId, instance, err);
+        case Class::integer:
+            value.number = operation.get_value(h, id, instance, err);
             return;
-        case Class::kBoolean: {
-            const auto *boolean = static_cast<mirk_boolean *>(operation.get(h, kId, instance, err));
+        case Class::boolean: {
+            const auto *boolean = static_cast<mirk_boolean *>(operation.get(h, id, instance, err));
             if (boolean == nullptr) return;
             value.number = boolean->value;
             value.variant = boolean->variant;
             return;
         }
-        case Class::kEnumeration: {
-            void *enumeration = operation.get(h, kId, instance, err);
+        case Class::enumeration: {
+            void *enumeration = operation.get(h, id, instance, err);
             if (enumeration == nullptr) return;
             std::uint32_t number = 0;
-            std::memcpy(&number, static_cast<char *>(enumeration) + kEnumerationValue, sizeof number);
+            std::memcpy(&number, static_cast<char *>(enumeration) + enumeration_value, sizeof number);
             value.number = number;
             value.variant = header(enumeration)->variant;
             return;
         }
-        case Class::kAddress:
-            value.items[0] = extract_address(h, static_cast<ip_address *>(operation.get(h, kId, instance, err)));
+        case Class::address:
+            value.items[0] = extract_address(h, static_cast<ip_address *>(operation.get(h, id, instance, err)));
             return;
-        case Class::kNested:
-            value.items[0] = extract(h, operations(row.type), operation.get(h, kId, instance, err));
+        case Class::nested:
+            value.items[0] = extract(h, operations(row.type), operation.get(h, id, instance, err));
             return;
-        case Class::kString:
+        case Class::string:
             // Its getter ends at the first NUL byte, so the characters are taken from where they lie.
             if (size != 0) value.text.assign(static_cast<const char *>(block_of(record, instance, row.name)), size);
             return;
-        case Class::kArray:
+        case Class::array:
             value.items.clear();
             value.items.reserve(size);
             for (std::uint32_t i = 0; i < size && *err == 0; ++i) {
-                void *element = operation.element_get(h, kId, instance, i, err);
+                void *element = operation.element_get(h, id, instance, i, err);
                 if (element == nullptr) return;
                 value.items.push_back(extract(h, operations(row.type), element));
                 const std::uint8_t state =
-                    tracks(h) ? operation.element_state_flag_get(h, kId, instance, i, err) : std::uint8_t{0};
+                    tracks(h) ? operation.element_state_flag_get(h, id, instance, i, err) : std::uint8_t{0};
                 value.element_state.push_back(state);
             }
             return;
@@ -221,7 +221,7 @@ void fill(mirk_handle *h, const RecordOperations &record, void *instance, const 
     for (std::size_t i = 0; tracks(h) && i < table.members.size(); ++i) {
         if (!table.members[i].tracked()) continue;
         std::uint32_t err = 0;
-        record.members[i].state_flag_set(h, kId, instance, value.members[i].state, &err);
+        record.members[i].state_flag_set(h, id, instance, value.members[i].state, &err);
         check(err, table, table.members[i].name);
     }
     fill_header(h, instance, value);
@@ -236,12 +236,11 @@ reference::Record extract(mirk_handle *h, const RecordOperations &record, void *
         std::uint32_t err = 0;
         // A count or length beside no block, as a failed read leaves it, counts nothing.
         const bool has_block = block_of(record, instance, table.members[i].name) != nullptr;
-        const auto size = has_block
-                              ? static_cast<std::uint32_t>(record.members[i - 1].get_value(h, kId, instance, &err))
-                              : std::uint32_t{0};
+        const auto size = has_block ? static_cast<std::uint32_t>(record.members[i - 1].get_value(h, id, instance, &err))
+                                    : std::uint32_t{0};
         extract_member(h, record, record.members[i], table.members[i], instance, size, value.members[i], &err);
         if (tracks(h) && table.members[i].tracked()) {
-            value.members[i].state = record.members[i].state_flag_get(h, kId, instance, &err);
+            value.members[i].state = record.members[i].state_flag_get(h, id, instance, &err);
         }
         check(err, table, table.members[i].name);
     }
@@ -249,7 +248,7 @@ reference::Record extract(mirk_handle *h, const RecordOperations &record, void *
 }
 
 Instance::Instance(mirk_handle *h, const RecordOperations &record)
-    : handle_(h), record_(&record), instance_(record.create(h, kId)) {
+    : handle_(h), record_(&record), instance_(record.create(h, id)) {
     if (instance_ == nullptr) throw std::runtime_error("no " + std::string(record.record->name));
 }
 
@@ -260,17 +259,17 @@ void *Instance::release() {
 }
 
 void Instance::reset() {
-    if (instance_ != nullptr) record_->destroy(handle_, kId, instance_);
+    if (instance_ != nullptr) record_->destroy(handle_, id, instance_);
     instance_ = nullptr;
 }
 
 Marshalled marshal(mirk_handle *h, const RecordOperations &record, void *instance) {
     // The length counts no RA data, of which every frame inside may have some.
     constexpr std::size_t ra_room = 3;
-    std::vector<std::uint8_t> buffer(ra_room * record.len(h, kId, instance) + 64);
+    std::vector<std::uint8_t> buffer(ra_room * record.len(h, id, instance) + 64);
     Marshalled result;
     const std::uint32_t written =
-        record.marshal(h, kId, buffer.data(), instance, static_cast<std::int32_t>(buffer.size() - 1), &result.error);
+        record.marshal(h, id, buffer.data(), instance, static_cast<std::int32_t>(buffer.size() - 1), &result.error);
     buffer.resize(written);
     result.bytes = std::move(buffer);
     return result;
@@ -287,14 +286,14 @@ void *block_of(const RecordOperations &record, const void *instance, std::string
     const RecordTable &table = reference::record_table(record.record->name);
     const std::uint32_t offset = reference::layout_of(table).members[table.index_of(name)].block_offset;
     void *block = nullptr;
-    if (offset != reference::kNoSlot) std::memcpy(&block, static_cast<const char *>(instance) + offset, sizeof block);
+    if (offset != reference::no_slot) std::memcpy(&block, static_cast<const char *>(instance) + offset, sizeof block);
     return block;
 }
 
 bool owns_blocks(const RecordTable &table) {
     for (const MemberTable &row : table.members) {
-        if (row.cls == Class::kArray || row.cls == Class::kString) return true;
-        if (row.cls == Class::kNested && owns_blocks(row.element())) return true;
+        if (row.cls == Class::array || row.cls == Class::string) return true;
+        if (row.cls == Class::nested && owns_blocks(row.element())) return true;
     }
     return false;
 }

@@ -19,7 +19,7 @@ namespace bridge {
 using tarn::reflect::RecordOperations;
 
 // The ctx_id under which the helpers call. Operations that take none use the handle's default_id, which is 1.
-inline constexpr std::uint32_t kId = 7;
+inline constexpr std::uint32_t id = 7;
 
 const RecordOperations &operations(std::string_view record);
 inline const RecordOperations &operations(const reference::Record &value) { return operations(value.table->name); }

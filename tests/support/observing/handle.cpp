@@ -16,7 +16,7 @@ State &owner_of(void *context, const char *purpose) {
     return *given->owner;
 }
 
-void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
+void *sys_alloc(void *sys_ctx, std::uint32_t id, std::size_t size) {
     State &state = owner_of(sys_ctx, "sys_ctx");
     Entry entry("sys_alloc", std::nullopt, nullptr, id, size);
     void *block = state.sys_failing.next() ? nullptr : std::malloc(size);
@@ -28,7 +28,7 @@ void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
     return block;
 }
 
-void *obj_alloc(void *mem_ctx, uint32_t ctx_id, size_t size) {
+void *obj_alloc(void *mem_ctx, std::uint32_t ctx_id, std::size_t size) {
     State &state = owner_of(mem_ctx, "mem_ctx");
     Entry entry("obj_alloc", ctx_id, nullptr, size);
     const bool refused =
@@ -36,50 +36,50 @@ void *obj_alloc(void *mem_ctx, uint32_t ctx_id, size_t size) {
     void *block = refused ? nullptr : std::malloc(size);
     if (block) {
         std::memset(block, 0xA5, size);
-        state.blocks[reinterpret_cast<uintptr_t>(block)] = {size, next_block_number()};
+        state.blocks[reinterpret_cast<std::uintptr_t>(block)] = {size, next_block_number()};
     }
     if (recording()) Entry::set_result(address_text(block));
     return block;
 }
 
 template <class Entries>
-void forget_within(Entries &entries, void *start, size_t size) {
+void forget_within(Entries &entries, void *start, std::size_t size) {
     auto *last = static_cast<char *>(start) + size;
     entries.erase(entries.lower_bound(start), entries.lower_bound(last));
 }
 
-void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
+void obj_free(void *mem_ctx, std::uint32_t ctx_id, void *p) {
     State &state = owner_of(mem_ctx, "mem_ctx");
     Entry entry("obj_free", ctx_id, nullptr, at(p));
-    const auto block = state.blocks.find(reinterpret_cast<uintptr_t>(p));
+    const auto block = state.blocks.find(reinterpret_cast<std::uintptr_t>(p));
     if (block == state.blocks.end()) return;  // such as the sentinel of a control message
-    const size_t size = block->second.size;
+    const std::size_t size = block->second.size;
     state.blocks.erase(block);
-    forget_within(state.offsets, p, std::max<size_t>(size, 1));
-    forget_within(state.ra, p, std::max<size_t>(size, 1));
+    forget_within(state.offsets, p, std::max<std::size_t>(size, 1));
+    forget_within(state.ra, p, std::max<std::size_t>(size, 1));
     std::memset(p, 0xDD, size);
     std::free(p);
 }
 
-int write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id) {
+int write_notify(void *mem_ctx, void *address, std::size_t size, std::uint32_t ctx_id) {
     owner_of(mem_ctx, "mem_ctx");
     Entry entry("write_notify", ctx_id, nullptr, at(address), size);
     return 1;
 }
 
-int count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id) {
+int count_notify(void *mem_ctx, std::uint64_t *address, std::int64_t delta, std::uint32_t ctx_id) {
     owner_of(mem_ctx, "mem_ctx");
     Entry entry("count_notify", ctx_id, nullptr, at(address), delta);
     return 1;
 }
 
-void type_store_put(void *type_store, uint32_t ctx_id, const char *key, mirk_type_info_copy *copy) {
+void type_store_put(void *type_store, std::uint32_t ctx_id, const char *key, mirk_type_info_copy *copy) {
     State &state = owner_of(type_store, "type_store");
     Entry entry("type_store_put", ctx_id, nullptr, key, copy->info.name);
     state.copies[key] = copy;
 }
 
-mirk_type_info_copy *type_store_get(void *type_store, uint32_t ctx_id, const char *key) {
+mirk_type_info_copy *type_store_get(void *type_store, std::uint32_t ctx_id, const char *key) {
     State &state = owner_of(type_store, "type_store");
     Entry entry("type_store_get", ctx_id, nullptr, key);
     const auto found = state.copies.find(std::string_view(key));
@@ -133,28 +133,28 @@ void Handle::set_tracking(Tracking tracking) {
     state_->sttr_desc = tracking == Tracking::none ? nullptr : &state_->descriptor;
 }
 
-void Handle::fail_obj_alloc(uint64_t nth) { state_->obj_failing.arm(nth, false); }
-void Handle::fail_obj_alloc_from(uint64_t nth) { state_->obj_failing.arm(nth, true); }
-void Handle::fail_sys_alloc(uint64_t nth) { state_->sys_failing.arm(nth, false); }
-void Handle::fail_sys_alloc_from(uint64_t nth) { state_->sys_failing.arm(nth, true); }
-uint64_t Handle::obj_allocs() const { return state_->obj_failing.requests; }
+void Handle::fail_obj_alloc(std::uint64_t nth) { state_->obj_failing.arm(nth, false); }
+void Handle::fail_obj_alloc_from(std::uint64_t nth) { state_->obj_failing.arm(nth, true); }
+void Handle::fail_sys_alloc(std::uint64_t nth) { state_->sys_failing.arm(nth, false); }
+void Handle::fail_sys_alloc_from(std::uint64_t nth) { state_->sys_failing.arm(nth, true); }
+std::uint64_t Handle::obj_allocs() const { return state_->obj_failing.requests; }
 
-size_t Handle::live_blocks() const { return state_->blocks.size(); }
-size_t Handle::live_bytes() const {
-    size_t sum = 0;
+std::size_t Handle::live_blocks() const { return state_->blocks.size(); }
+std::size_t Handle::live_bytes() const {
+    std::size_t sum = 0;
     for (const auto &[start, block] : state_->blocks) sum += block.size;
     return sum;
 }
-size_t Handle::block_size(const void *block) const {
-    const auto found = state_->blocks.find(reinterpret_cast<uintptr_t>(block));
+std::size_t Handle::block_size(const void *block) const {
+    const auto found = state_->blocks.find(reinterpret_cast<std::uintptr_t>(block));
     return found == state_->blocks.end() ? 0 : found->second.size;
 }
 
-std::optional<uint32_t> Handle::state_offset(const void *object) const {
+std::optional<std::uint32_t> Handle::state_offset(const void *object) const {
     const auto found = state_->offsets.find(object);
     return found == state_->offsets.end() ? std::nullopt : std::optional(found->second);
 }
-void Handle::set_state_offset(void *object, uint32_t offset) {
+void Handle::set_state_offset(void *object, std::uint32_t offset) {
     state_->offsets[object] = offset;
     static_cast<mirk_object *>(object)->obj_flag |= flag_offset;
 }
@@ -162,9 +162,9 @@ std::optional<RaData> Handle::ra_data(const void *object) const {
     const auto found = state_->ra.find(object);
     return found == state_->ra.end() ? std::nullopt : std::optional(found->second);
 }
-size_t Handle::mappings() const { return state_->offsets.size() + state_->ra.size(); }
+std::size_t Handle::mappings() const { return state_->offsets.size() + state_->ra.size(); }
 
-size_t Handle::private_copies() const { return state_->copies.size(); }
+std::size_t Handle::private_copies() const { return state_->copies.size(); }
 mirk_type_info_copy *Handle::private_copy(std::string_view type_name) const {
     for (const auto &[key, copy] : state_->copies) {
         if (copy->info.name == type_name) return copy;
@@ -172,10 +172,10 @@ mirk_type_info_copy *Handle::private_copy(std::string_view type_name) const {
     return nullptr;
 }
 
-void Handle::set_workspace(uint32_t size) { state_->workspace.assign(size_t{size} + 1, 0xA5); }
+void Handle::set_workspace(std::uint32_t size) { state_->workspace.assign(std::size_t{size} + 1, 0xA5); }
 
-std::vector<std::pair<std::string, uint32_t>> Handle::send_bundle() const {
-    std::vector<std::pair<std::string, uint32_t>> result;
+std::vector<std::pair<std::string, std::uint32_t>> Handle::send_bundle() const {
+    std::vector<std::pair<std::string, std::uint32_t>> result;
     const mirk_list_head &head = state_->send_bundle_list;
     // New entries stand in front.
     for (const mirk_list_head *link = head.prev; link && link != &head; link = link->prev) {

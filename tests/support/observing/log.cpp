@@ -11,34 +11,34 @@ namespace {
 
 struct Region {
     std::string name;
-    uintptr_t start;
-    size_t size;
+    std::uintptr_t start;
+    std::size_t size;
 };
 
 std::vector<Call> calls;
 std::vector<Region> regions;
 std::atomic<bool> is_quiet{false};
-std::atomic<uint64_t> block_number{0};
+std::atomic<std::uint64_t> block_number{0};
 bool inner_shown = false;
 
-std::string within(const std::string &name, uintptr_t offset) {
+std::string within(const std::string &name, std::uintptr_t offset) {
     return offset == 0 ? name : name + "+" + std::to_string(offset);
 }
 
-bool on_stack(uintptr_t address) {
-    thread_local uintptr_t lowest = 0, size = 0;
+bool on_stack(std::uintptr_t address) {
+    thread_local std::uintptr_t lowest = 0, size = 0;
     if (size == 0) {
         pthread_attr_t attributes;
         if (pthread_getattr_np(pthread_self(), &attributes) != 0) return false;
         void *start = nullptr;
         pthread_attr_getstack(&attributes, &start, &size);
         pthread_attr_destroy(&attributes);
-        lowest = reinterpret_cast<uintptr_t>(start);
+        lowest = reinterpret_cast<std::uintptr_t>(start);
     }
     return address - lowest < size;
 }
 
-std::string in_handle(const State &state, uintptr_t address) {
+std::string in_handle(const State &state, std::uintptr_t address) {
     auto after = state.blocks.upper_bound(address);
     if (after != state.blocks.begin()) {
         const auto &[start, block] = *std::prev(after);
@@ -47,22 +47,22 @@ std::string in_handle(const State &state, uintptr_t address) {
             return within(block.number ? "block" + std::to_string(block.number) : "earlier", address - start);
         }
     }
-    if (address == reinterpret_cast<uintptr_t>(&state.last_error)) return "last_error";
-    uintptr_t offset = address - reinterpret_cast<uintptr_t>(static_cast<const mirk_handle *>(&state));
+    if (address == reinterpret_cast<std::uintptr_t>(&state.last_error)) return "last_error";
+    std::uintptr_t offset = address - reinterpret_cast<std::uintptr_t>(static_cast<const mirk_handle *>(&state));
     if (offset < sizeof(mirk_handle)) return within("handle", offset);
-    offset = address - reinterpret_cast<uintptr_t>(state.workspace.data());
+    offset = address - reinterpret_cast<std::uintptr_t>(state.workspace.data());
     return offset < state.workspace.size() ? within("workspace", offset) : "";
 }
 
-std::string in_type(const mirk_type_info &type, const char *suffix, uintptr_t address) {
-    uintptr_t offset = address - reinterpret_cast<uintptr_t>(&type);
+std::string in_type(const mirk_type_info &type, const char *suffix, std::uintptr_t address) {
+    std::uintptr_t offset = address - reinterpret_cast<std::uintptr_t>(&type);
     if (offset < sizeof type) return within(type.name + std::string(suffix), offset);
     if (!type.variant_info || !type.variant_info->entries) return "";
     const mirk_variant_entry *first = type.variant_info->entries - 128;
-    offset = address - reinterpret_cast<uintptr_t>(first);
+    offset = address - reinterpret_cast<std::uintptr_t>(first);
     if (offset >= 129 * sizeof *first) return "";
     const int variant = static_cast<int>(offset / sizeof *first) - 128;
-    static const std::map<size_t, const char *> counters = {
+    static const std::map<std::size_t, const char *> counters = {
         {offsetof(mirk_variant_entry, num_created), "num_created"},
         {offsetof(mirk_variant_entry, num_destroyed), "num_destroyed"},
         {offsetof(mirk_variant_entry, num_live), "num_live"}};
@@ -71,7 +71,7 @@ std::string in_type(const mirk_type_info &type, const char *suffix, uintptr_t ad
            (counter == counters.end() ? "entry" : counter->second);
 }
 
-std::string in_types(uintptr_t address) {
+std::string in_types(std::uintptr_t address) {
     for (const mirk_type_info *own : {&_mirk_boolean_type_info_internal, &_ip_address_type_info_internal}) {
         if (std::string text = in_type(*own, "", address); !text.empty()) return text;
     }
@@ -109,7 +109,7 @@ std::recursive_mutex guard;
 thread_local int Entry::depth = 0;
 
 bool recording() { return !is_quiet.load(std::memory_order_relaxed); }
-uint64_t next_block_number() { return ++block_number; }
+std::uint64_t next_block_number() { return ++block_number; }
 
 void Entry::append(Call call) {
     call.inner = depth > 0;
@@ -122,7 +122,7 @@ void Entry::set_result(std::string result) {
     calls.back().result = std::move(result);
 }
 
-bool Entry::refused(mirk_handle *h, uint32_t *err) const {
+bool Entry::refused(mirk_handle *h, std::uint32_t *err) const {
     if (*err) return true;
     const Knobs &knobs = state_of(h).knobs;
     if (knobs.errors.empty()) return false;
@@ -169,7 +169,7 @@ std::vector<std::string> lines_of(std::initializer_list<std::string_view> functi
 std::vector<std::string> lines_without(std::initializer_list<std::string_view> functions, Detail detail) {
     return select(detail, [&](const std::string &function) { return !among(functions, function); });
 }
-size_t count_of(std::string_view function) { return lines_of({function}).size(); }
+std::size_t count_of(std::string_view function) { return lines_of({function}).size(); }
 
 std::vector<std::string> traces() {
     std::vector<std::string> result;
@@ -179,9 +179,9 @@ std::vector<std::string> traces() {
     return result;
 }
 
-void name_region(std::string name, const void *address, size_t size) {
+void name_region(std::string name, const void *address, std::size_t size) {
     std::lock_guard lock(guard);
-    regions.push_back({std::move(name), reinterpret_cast<uintptr_t>(address), size});
+    regions.push_back({std::move(name), reinterpret_cast<std::uintptr_t>(address), size});
 }
 void forget_region(std::string_view name) {
     std::lock_guard lock(guard);
@@ -199,9 +199,9 @@ void clear_names() {
 std::string address_text(const void *address) {
     if (!address) return "null";
     std::lock_guard lock(guard);
-    const auto number = reinterpret_cast<uintptr_t>(address);
+    const auto number = reinterpret_cast<std::uintptr_t>(address);
     for (auto region = regions.rbegin(); region != regions.rend(); ++region) {
-        if (number - region->start < std::max<size_t>(region->size, 1)) {
+        if (number - region->start < std::max<std::size_t>(region->size, 1)) {
             return within(region->name, number - region->start);
         }
     }

@@ -29,14 +29,14 @@ namespace observing {
 struct Call {
     std::string function;
     std::vector<std::string> arguments;
-    std::optional<uint32_t> ctx_id;  // absent where the function takes none
-    std::string slot;                // the error slot as address text, empty where the function takes none
-    std::string result;              // of obj_alloc and sys_alloc only: the block's name, or "null"
-    bool inner = false;              // made by this provider itself, while it serves another call
+    std::optional<std::uint32_t> ctx_id;  // absent where the function takes none
+    std::string slot;                     // the error slot as address text, empty where the function takes none
+    std::string result;                   // of obj_alloc and sys_alloc only: the block's name, or "null"
+    bool inner = false;                   // made by this provider itself, while it serves another call
 
     // Of skald_wrapper only.
-    uint16_t module = 0;
-    uint32_t level = 0;
+    std::uint16_t module = 0;
+    std::uint32_t level = 0;
     std::string format;
     std::string text;  // the formatted line
 };
@@ -61,7 +61,7 @@ std::vector<std::string> lines(Detail detail = Detail::brief);
 std::vector<std::string> lines_of(std::initializer_list<std::string_view> functions, Detail detail = Detail::brief);
 std::vector<std::string> lines_without(std::initializer_list<std::string_view> functions,
                                        Detail detail = Detail::brief);
-size_t count_of(std::string_view function);
+std::size_t count_of(std::string_view function);
 // The formatted lines of all trace calls, without module and level.
 std::vector<std::string> traces();
 
@@ -79,7 +79,7 @@ void echo_traces(bool on = true);
 // "last_error", "workspace"; then "local" for other stack addresses, a type record by its type's name (followed by
 // "(copy)" for a private copy) and a counter as "<type>.num_live" ("<type>[-3].num_live" for another variant);
 // "null"; "handle+N" for another member of a handle; and "elsewhere" for all that is left.
-void name_region(std::string name, const void *address, size_t size);
+void name_region(std::string name, const void *address, std::size_t size);
 void forget_region(std::string_view name);
 // Forgets all named regions and starts counting blocks at 1 again; blocks live by then read as "earlier".
 void clear_names();
@@ -91,27 +91,27 @@ using kit::Tracking;
 
 struct Options {
     Tracking tracking = Tracking::none;
-    uint32_t private_types = 0;
-    uint32_t oid_mapping = 1;
+    std::uint32_t private_types = 0;
+    std::uint32_t oid_mapping = 1;
 };
 
 struct VariantAnswer {
-    int8_t variant = 0;
-    uint32_t error = 0;
+    std::int8_t variant = 0;
+    std::uint32_t error = 0;
 };
 struct MessageAnswer {
-    uint32_t allowed = 1;
-    uint32_t error = 0;
+    std::uint32_t allowed = 1;
+    std::uint32_t error = 0;
 };
 struct RaData {
     void *value = nullptr;
-    uint8_t byte = 0;
+    std::uint8_t byte = 0;
 };
 
 // What the runtime answers on one handle. All of it can be changed at any time.
 struct Knobs {
     // Memory. Counting starts at 1 with the next request after the knob is set (see the setters of Handle).
-    size_t block_ceiling = size_t{64} << 20;  // larger requests answer null
+    std::size_t block_ceiling = std::size_t{64} << 20;  // larger requests answer null
     bool null_for_size_0 = false;
 
     // Domain, by the type's name ("" for a null type).
@@ -125,29 +125,29 @@ struct Knobs {
     bool no_type_info = false;   // mirk_type_info_ptr_get answers null
 
     // Object references.
-    uint32_t oid_destroy_result = 1;
-    uint32_t oid_destroy_error = 0;
-    uint32_t hd_destroy_error = 0;
-    std::map<void *, uint32_t> oid_count_errors;  // by oid, for lowering its count
-    std::vector<void *> address_oids;             // what each address holds
-    std::optional<uint32_t> address_oid_count;    // instead of their number
-    uint32_t address_oid_count_error = 0;
-    uint32_t address_references_error = 0;
+    std::uint32_t oid_destroy_result = 1;
+    std::uint32_t oid_destroy_error = 0;
+    std::uint32_t hd_destroy_error = 0;
+    std::map<void *, std::uint32_t> oid_count_errors;  // by oid, for lowering its count
+    std::vector<void *> address_oids;                  // what each address holds
+    std::optional<std::uint32_t> address_oid_count;    // instead of their number
+    std::uint32_t address_oid_count_error = 0;
+    std::uint32_t address_references_error = 0;
 
     // RA data of objects without an entry of their own, and the result in every case.
     RaData ra_data;
-    uint32_t ra_result = 0;
+    std::uint32_t ra_result = 0;
 
     // Messages and bundles.
     bool suppress_messages = false;
-    std::optional<uint32_t> accumulating;  // else: recv_bundle_open as it stands
+    std::optional<std::uint32_t> accumulating;  // else: recv_bundle_open as it stands
     mirk_dispatch_info *dispatch_info = nullptr;
     void *dispatch_lut = nullptr;
 
     // By the name of a function of values, wire, text, XML, message headers or send bundles that has an error slot,
     // such as "u_int32_marshal" or "_mirk_message_header_marshal": it writes this error, does nothing else and returns
     // 0 or null. An error that stands in the slot already is kept.
-    std::map<std::string, uint32_t, std::less<>> errors;
+    std::map<std::string, std::uint32_t, std::less<>> errors;
 };
 
 struct State;  // the handle with the runtime's private members behind it
@@ -167,27 +167,27 @@ public:
     void set_tracking(Tracking tracking);
 
     // The nth request from now on answers null, or all from the nth on; 0 ends the failing.
-    void fail_obj_alloc(uint64_t nth);
-    void fail_obj_alloc_from(uint64_t nth);
-    void fail_sys_alloc(uint64_t nth);
-    void fail_sys_alloc_from(uint64_t nth);
-    uint64_t obj_allocs() const;  // requests so far, failed ones included
+    void fail_obj_alloc(std::uint64_t nth);
+    void fail_obj_alloc_from(std::uint64_t nth);
+    void fail_sys_alloc(std::uint64_t nth);
+    void fail_sys_alloc_from(std::uint64_t nth);
+    std::uint64_t obj_allocs() const;  // requests so far, failed ones included
 
-    size_t live_blocks() const;
-    size_t live_bytes() const;
-    size_t block_size(const void *block) const;  // 0 if it is no live block
+    std::size_t live_blocks() const;
+    std::size_t live_bytes() const;
+    std::size_t block_size(const void *block) const;  // 0 if it is no live block
 
     // Entries that the library made.
-    std::optional<uint32_t> state_offset(const void *object) const;
-    void set_state_offset(void *object, uint32_t offset);  // sets flag bit 64 too
+    std::optional<std::uint32_t> state_offset(const void *object) const;
+    void set_state_offset(void *object, std::uint32_t offset);  // sets flag bit 64 too
     std::optional<RaData> ra_data(const void *object) const;
-    size_t mappings() const;  // entries of both kinds
-    size_t private_copies() const;
+    std::size_t mappings() const;  // entries of both kinds
+    std::size_t private_copies() const;
     mirk_type_info_copy *private_copy(std::string_view type_name) const;
 
-    void set_workspace(uint32_t size);  // default 48 KiB; one byte of slack stands behind
+    void set_workspace(std::uint32_t size);  // default 48 KiB; one byte of slack stands behind
     // What the open send bundle holds: name and count of each message, in order of admission.
-    std::vector<std::pair<std::string, uint32_t>> send_bundle() const;
+    std::vector<std::pair<std::string, std::uint32_t>> send_bundle() const;
     // Enters a token on recv_bundle_list, whose destruction is recorded as "destroy_received <name>".
     void file_received(std::string name);
 
@@ -201,9 +201,9 @@ void set_modified(void *object, bool modified);
 bool modified(const void *object);
 // A bare integer has no room for a mark: its backpropagate answers 1 once for an address marked here.
 void mark_integer(const void *field);
-void set_recorder(uint32_t state, FILE *stream);
+void set_recorder(std::uint32_t state, FILE *stream);
 void fail_malloc(bool on = true);  // mirklib_malloc answers null
-size_t live_mallocs();             // blocks of mirklib_malloc not yet given back
+std::size_t live_mallocs();        // blocks of mirklib_malloc not yet given back
 // The handler that a sibling module ("comm", "defs", ...) holds, or null.
 mirk_bundle_handler sibling_handler(std::string_view module);
 
@@ -222,15 +222,15 @@ struct Element {
 };
 
 // Look-ups of exactly this path end with this error; 0 ends that.
-void fail_xml(std::string path, uint32_t error);
+void fail_xml(std::string path, std::uint32_t error);
 
 // ---- sizes that this provider chose, all of them different from what another may choose ----
 
-inline constexpr uint32_t boolean_wire_size = 3;
-inline constexpr uint32_t address_wire_size = 23;          // in a frame without state bytes
-inline constexpr uint32_t tracked_address_wire_size = 30;  // on a tracking handle
-inline constexpr uint32_t ra_wire_size = 12;
-inline constexpr uint32_t text_overflow_error = 75;
+inline constexpr std::uint32_t boolean_wire_size = 3;
+inline constexpr std::uint32_t address_wire_size = 23;          // in a frame without state bytes
+inline constexpr std::uint32_t tracked_address_wire_size = 30;  // on a tracking handle
+inline constexpr std::uint32_t ra_wire_size = 12;
+inline constexpr std::uint32_t text_overflow_error = 75;
 
 }  // namespace observing
 

@@ -42,8 +42,8 @@ std::set<std::string> declared_names() {
     std::set<std::string> names;
     const std::regex function("^[ }]*[A-Za-z_][A-Za-z0-9_ *]*[ *]([A-Za-z_][A-Za-z0-9_]*) *\\(");
     const std::regex object("^[ }]*extern .*[ *]([A-Za-z_][A-Za-z0-9_]*) *(\\[[0-9]+\\])? *$");
-    for (size_t start = 0; start < text.size();) {
-        const size_t end = std::min(text.find(';', start), text.size());
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find(';', start), text.size());
         const std::string declaration = text.substr(start, end - start);
         start = end + 1;
         std::smatch match;
@@ -61,7 +61,7 @@ protected:
         observing::clear_names();
         observing::clear_log();
     }
-    uint32_t err = 0;
+    std::uint32_t err = 0;
 };
 
 TEST_F(Observing, DefinesEveryNameOfTheContract) {
@@ -85,7 +85,7 @@ TEST_F(Observing, DefinesEveryNameOfTheContract) {
 
 TEST_F(Observing, NamesAddresses) {
     Handle h;
-    uint64_t words[4] = {};
+    std::uint64_t words[4] = {};
     observing::name_region("object", words, sizeof words);
     EXPECT_EQ(observing::address_text(words), "object");
     EXPECT_EQ(observing::address_text(words + 1), "object+8");
@@ -111,10 +111,10 @@ TEST_F(Observing, NamesAddresses) {
 
 TEST_F(Observing, RecordsCallsInOrder) {
     Handle h;
-    alignas(8) uint8_t object[40] = {};
+    alignas(8) std::uint8_t object[40] = {};
     observing::name_region("object", object, sizeof object);
     h->write_notify(h->mem_ctx, object + 8, 1, 3);
-    u_int32_set_value(h, 7, reinterpret_cast<uint32_t *>(object + 12), 5, &h->last_error);
+    u_int32_set_value(h, 7, reinterpret_cast<std::uint32_t *>(object + 12), 5, &h->last_error);
     void *block = h->obj_alloc(h->mem_ctx, 9, 40);
     h->obj_free(h->mem_ctx, 9, block);
     EXPECT_EQ(observing::lines(),
@@ -134,8 +134,8 @@ TEST_F(Observing, RecordsCallsInOrder) {
 }
 
 TEST_F(Observing, RecordsTraceLines) {
-    uint16_t id = 0, same = 0, other = 0;
-    uint64_t state = 0;
+    std::uint16_t id = 0, same = 0, other = 0;
+    std::uint64_t state = 0;
     skald_module_init_fn("mirk_lumo_ui_tarn_type", &id, &state);
     skald_module_init_fn("mirk_lumo_ui_tarn_message", &other, &state);
     skald_module_init_fn("mirk_lumo_ui_tarn_type", &same, &state);
@@ -170,7 +170,7 @@ TEST_F(Observing, FailsAllocationsAsTold) {
     EXPECT_EQ(h.live_bytes(), 72u);
     EXPECT_EQ(h.obj_allocs(), 12u);
     EXPECT_EQ(observing::log()[1].result, "null");
-    EXPECT_EQ(h->obj_alloc(h->mem_ctx, 1, size_t{1} << 40), nullptr);
+    EXPECT_EQ(h->obj_alloc(h->mem_ctx, 1, std::size_t{1} << 40), nullptr);
     h.fail_sys_alloc(1);
     EXPECT_EQ(h->sys_alloc(h->sys_ctx, 0xFFFFFFFF, 8), nullptr);
     EXPECT_NE(h->sys_alloc(h->sys_ctx, 0xFFFFFFFF, 8), nullptr);
@@ -186,24 +186,24 @@ TEST_F(Observing, NoticesAMixUpOfContexts) {
 
 TEST_F(Observing, NumbersHaveTheLowestByteFirst) {
     Handle h;
-    uint64_t value = 0x1122334455667788, back = 0;
-    std::array<uint8_t, 8> bytes{};
+    std::uint64_t value = 0x1122334455667788, back = 0;
+    std::array<std::uint8_t, 8> bytes{};
     EXPECT_EQ(u_int64_marshal(h, 1, bytes.data(), &value, 8, &err), 8u);
-    EXPECT_EQ(bytes, (std::array<uint8_t, 8>{0x88, 0x77, 0x66, 0x55, 0x44, 0x33, 0x22, 0x11}));
+    EXPECT_EQ(bytes, (std::array<std::uint8_t, 8>{0x88, 0x77, 0x66, 0x55, 0x44, 0x33, 0x22, 0x11}));
     EXPECT_EQ(u_int64_unmarshal(h, 1, bytes.data(), &back, 8, 0, &err), 8u);
     EXPECT_EQ(back, value);
-    uint16_t narrow = 0;
+    std::uint16_t narrow = 0;
     EXPECT_EQ(u_int16_unmarshal(h, 1, bytes.data(), &narrow, 8, 0, &err), 2u);
     EXPECT_EQ(narrow, 0x7788);
     EXPECT_EQ(err, 0u);
 
     EXPECT_EQ(u_int32_len(h, 1, nullptr), 4u);
     bytes.fill(0);
-    uint32_t word = 0xFFFFFFFF;
+    std::uint32_t word = 0xFFFFFFFF;
     EXPECT_EQ(u_int32_marshal(h, 1, bytes.data(), &word, 3, &err), 0u);
-    EXPECT_EQ(err, static_cast<uint32_t>(EMSGSIZE));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EMSGSIZE));
     EXPECT_EQ(u_int32_marshal(h, 1, bytes.data(), &word, 8, &err), 0u);
-    EXPECT_EQ(bytes, (std::array<uint8_t, 8>{}));
+    EXPECT_EQ(bytes, (std::array<std::uint8_t, 8>{}));
     err = 0;
     h.knobs().errors["u_int32_marshal"] = 5;
     EXPECT_EQ(u_int32_marshal(h, 1, bytes.data(), &word, 8, &err), 0u);
@@ -212,8 +212,8 @@ TEST_F(Observing, NumbersHaveTheLowestByteFirst) {
 
 TEST_F(Observing, IntegersReadAndStore) {
     Handle h;
-    uint8_t field = 3;
-    const uint8_t source = 9;
+    std::uint8_t field = 3;
+    const std::uint8_t source = 9;
     EXPECT_EQ(u_int8_get(h, 1, &field, &err), &field);
     EXPECT_EQ(u_int8_get(h, 1, nullptr, &err), nullptr);
     EXPECT_EQ(u_int8_get_value(h, 1, nullptr, &err), 0u);
@@ -229,7 +229,7 @@ TEST_F(Observing, IntegersReadAndStore) {
     observing::mark_integer(&field);
     EXPECT_EQ(u_int8_backpropagate(h, 1, &field, nullptr), 1u);
     EXPECT_EQ(u_int8_backpropagate(h, 1, &field, nullptr), 0u);
-    uint8_t other = 9;
+    std::uint8_t other = 9;
     EXPECT_EQ(u_int8_hash(&field, 4), u_int8_hash(&other, 4));
     EXPECT_NE(u_int8_hash(&field, 4), u_int8_hash(&field, 5));
     other = 8;
@@ -239,12 +239,12 @@ TEST_F(Observing, IntegersReadAndStore) {
 TEST_F(Observing, BooleansAreThreeBytes) {
     Handle h;
     mirk_boolean field{}, back{};
-    const uint64_t live = _mirk_boolean_type_info_internal.variant_info->entries[0].num_live;
+    const std::uint64_t live = _mirk_boolean_type_info_internal.variant_info->entries[0].num_live;
     mirk_boolean_initialize(h, 1, &field, &_mirk_boolean_type_info_internal, 1, 0, 4, nullptr, &err);
     EXPECT_EQ(field.obj_flag, 4u);
     EXPECT_EQ(_mirk_boolean_type_info_internal.variant_info->entries[0].num_live, live + 1);
     mirk_boolean_set_value(h, 1, &field, 6, &err);
-    uint8_t bytes[3];
+    std::uint8_t bytes[3];
     EXPECT_EQ(mirk_boolean_len(h, 1, nullptr), 3u);
     EXPECT_EQ(mirk_boolean_marshal(h, 1, bytes, &field, 3, &err), 3u);
     EXPECT_EQ(mirk_boolean_unmarshal(h, 1, bytes, &back, 3, 0, &err), 3u);
@@ -259,13 +259,13 @@ TEST_F(Observing, BooleansAreThreeBytes) {
     EXPECT_EQ(err, 0u);
     bytes[1] = 0;
     EXPECT_EQ(mirk_boolean_unmarshal(h, 1, bytes, &back, 3, 0, &err), 0u);
-    EXPECT_EQ(err, static_cast<uint32_t>(EBADMSG));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EBADMSG));
 }
 
 TEST_F(Observing, AddressesCarryTheirStates) {
     struct {
         ip_address address;
-        uint8_t states[7];
+        std::uint8_t states[7];
     } sender{{}, {1, 2, 3, 4, 5, 6, 7}}, receiver{};
     Handle tracking({.tracking = Tracking::on}), plain;
     for (ip_address *address : {&sender.address, &receiver.address}) {
@@ -274,8 +274,8 @@ TEST_F(Observing, AddressesCarryTheirStates) {
     }
     sender.address.af = 10;
     sender.address.scope = 0x1234;
-    for (uint32_t i = 0; i < 4; ++i) sender.address.word[i] = 0x01020304 + i;
-    uint8_t bytes[30];
+    for (std::uint32_t i = 0; i < 4; ++i) sender.address.word[i] = 0x01020304 + i;
+    std::uint8_t bytes[30];
     EXPECT_EQ(ip_address_len(tracking, 1, &sender.address), 30u);
     EXPECT_EQ(ip_address_len(tracking, 1, nullptr), 23u);
     ASSERT_EQ(ip_address_marshal(tracking, 1, bytes, &sender.address, 30, &err), 30u);
@@ -317,14 +317,14 @@ TEST_F(Observing, AddressesHoldOidsAsTold) {
 
 TEST_F(Observing, FrameItems) {
     Handle h;
-    uint8_t bytes[12] = {};
-    uint32_t jump = 0x01020304;
+    std::uint8_t bytes[12] = {};
+    std::uint32_t jump = 0x01020304;
     EXPECT_EQ(_mirk_variant_jump_marshal(h, 1, bytes, &jump, 4, &err), 4u);
     EXPECT_EQ(bytes[0], 4u);
     jump = 0;
     EXPECT_EQ(_mirk_variant_jump_unmarshal(h, 1, bytes, &jump, 4, &err), 4u);
     EXPECT_EQ(jump, 0x01020304u);
-    int8_t variant = -3;
+    std::int8_t variant = -3;
     EXPECT_EQ(_mirk_instance_variant_marshal(h, 1, bytes, &variant, 1, &err), 1u);
     variant = 0;
     EXPECT_EQ(_mirk_instance_variant_unmarshal(h, 1, bytes, &variant, 1, &err), 1u);
@@ -332,7 +332,7 @@ TEST_F(Observing, FrameItems) {
 
     mirk_object object{};
     void *value = nullptr;
-    uint8_t byte = 0;
+    std::uint8_t byte = 0;
     EXPECT_EQ(mirklib_get_ra_data(h, 1, &object, &value, &byte), 0u);
     EXPECT_EQ(value, nullptr);
     mirklib_update_ra_all(h, 1, &object, reinterpret_cast<void *>(0xABCDEF), 9);
@@ -350,18 +350,18 @@ TEST_F(Observing, FrameItems) {
 TEST_F(Observing, MessageHeaders) {
     Handle h;
     mirk_message_header header{0xBC, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 1, 0x01020304, 43}, back{};
-    uint8_t frame[28] = {};
+    std::uint8_t frame[28] = {};
     _mirk_message_header_marshal(h, 1, frame, &header, 27, &err);
     EXPECT_EQ(frame[0], 43u);
     EXPECT_EQ(frame[27], 0u);
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 1, frame, &back, 28, &err), 27u);
     EXPECT_EQ(std::memcmp(&header, &back, sizeof header), 0);
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 1, frame, &back, 26, &err), 0u);
-    EXPECT_EQ(err, static_cast<uint32_t>(EMSGSIZE));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EMSGSIZE));
     err = 0;
     frame[26] = 0;
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 1, frame, &back, 28, &err), 0u);
-    EXPECT_EQ(err, static_cast<uint32_t>(EBADMSG));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EBADMSG));
 }
 
 TEST_F(Observing, DomainAnswersAsTold) {
@@ -416,7 +416,7 @@ TEST_F(Observing, StateOffsetsAndMarks) {
 TEST_F(Observing, PrivateTypes) {
     Handle h({.private_types = 3});
     mirk_type_info *own = &_ip_address_type_info_internal;
-    const auto init = [](mirk_handle *handle, uint32_t ctx_id, uint32_t *) {
+    const auto init = [](mirk_handle *handle, std::uint32_t ctx_id, std::uint32_t *) {
         auto *copy = static_cast<mirk_type_info_copy *>(
             handle->sys_alloc(handle->sys_ctx, 0xFFFFFFFF, sizeof(mirk_type_info_copy)));
         *copy = {_ip_address_type_info_internal, 0, 0};
@@ -441,7 +441,7 @@ TEST_F(Observing, PrivateTypes) {
 
 TEST_F(Observing, Bundles) {
     Handle h;
-    const uint8_t one[16] = {1}, two[16] = {2}, three[16] = {3};
+    const std::uint8_t one[16] = {1}, two[16] = {2}, three[16] = {3};
     const mirk_allowed_row table[] = {{one, "first", 0}, {two, "second", 0}, {nullptr, nullptr, 0}};
     h->bundle_table = table;
     h->send_bundle_open = 1;
@@ -450,9 +450,9 @@ TEST_F(Observing, Bundles) {
     bundle_message_validate_add(h, 1, one, "any", &err);
     bundle_message_increment_count(h, two, &err);
     EXPECT_EQ(err, 0u);
-    EXPECT_EQ(h.send_bundle(), (std::vector<std::pair<std::string, uint32_t>>{{"first", 0}, {"second", 1}}));
+    EXPECT_EQ(h.send_bundle(), (std::vector<std::pair<std::string, std::uint32_t>>{{"first", 0}, {"second", 1}}));
     bundle_message_validate_add(h, 1, three, "any", &err);
-    EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
     bundle_send_message_list_destroy(h, 1, &err);
     EXPECT_EQ(h->send_bundle_open, 0u);
     EXPECT_EQ(h->send_bundle_list.next, &h->send_bundle_list);
@@ -481,8 +481,8 @@ TEST_F(Observing, Documents) {
     a.add("n", "65536");
     a.add("empty");
     auto count = [&](const char *path) {
-        uint32_t number = 99;
-        const uint32_t error = xml_get_element_nodecount(&document, path, &number);
+        std::uint32_t number = 99;
+        const std::uint32_t error = xml_get_element_nodecount(&document, path, &number);
         return error ? -static_cast<int>(error) : static_cast<int>(number);
     };
     EXPECT_EQ(count("//doc"), 1);
@@ -493,26 +493,26 @@ TEST_F(Observing, Documents) {
     EXPECT_EQ(count("//b"), 2);
     for (const char *bad : {"a", "/a", "//", "//a/", "//a//b", "//a/b[0]", "//a/b[1"}) EXPECT_EQ(count(bad), -EINVAL);
 
-    uint16_t field = 0;
+    std::uint16_t field = 0;
     u_int16_from_xml(h, 1, "//a/b", &document, &field, &err, nullptr, 0);
     EXPECT_EQ(field, 0x1F);
     EXPECT_EQ(err, 0u);
     u_int16_from_xml(h, 1, "//a/n", &document, &field, &err, nullptr, 0);
-    EXPECT_EQ(err, static_cast<uint32_t>(EINVAL));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
     err = 0;
     u_int16_from_xml(h, 1, "//a/absent", &document, &field, &err, nullptr, 0);
-    EXPECT_EQ(err, static_cast<uint32_t>(ENOENT));
+    EXPECT_EQ(err, static_cast<std::uint32_t>(ENOENT));
     EXPECT_EQ(field, 0x1F);
 
-    uint32_t length = 99;
+    std::uint32_t length = 99;
     char value[5];
-    EXPECT_EQ(xml_get_element_value(&document, "//c", nullptr, 0, &length), static_cast<uint32_t>(ENOSPC));
+    EXPECT_EQ(xml_get_element_value(&document, "//c", nullptr, 0, &length), static_cast<std::uint32_t>(ENOSPC));
     EXPECT_EQ(length, 4u);
-    EXPECT_EQ(xml_get_element_value(&document, "//c", value, 4, nullptr), static_cast<uint32_t>(ENOSPC));
+    EXPECT_EQ(xml_get_element_value(&document, "//c", value, 4, nullptr), static_cast<std::uint32_t>(ENOSPC));
     EXPECT_EQ(xml_get_element_value(&document, "//c", value, 5, nullptr), 0u);
     EXPECT_STREQ(value, "text");
     EXPECT_EQ(xml_get_element_value(&document, "//empty", nullptr, 0, &length), 0u);
-    EXPECT_EQ(xml_get_element_value(&document, "//absent", value, 5, nullptr), static_cast<uint32_t>(ENOENT));
+    EXPECT_EQ(xml_get_element_value(&document, "//absent", value, 5, nullptr), static_cast<std::uint32_t>(ENOENT));
     observing::fail_xml("//c", 5);
     EXPECT_EQ(xml_get_element_value(&document, "//c", value, 5, nullptr), 5u);
     observing::fail_xml("//c", 0);
@@ -522,8 +522,8 @@ TEST_F(Observing, Documents) {
 TEST_F(Observing, TextForms) {
     Handle h;
     std::array<char, 64> buffer{};
-    auto text = [&](uint32_t length) { return std::string(buffer.data(), length); };
-    uint32_t number = 255;
+    auto text = [&](std::uint32_t length) { return std::string(buffer.data(), length); };
+    std::uint32_t number = 255;
     EXPECT_EQ(text(u_int32_print(h, 1, buffer.data(), 2, "size", &number, 64, &err)), "  size = 0xFF;\n");
     EXPECT_EQ(text(u_int32_to_xml(h, 1, "size", buffer.data(), &number, 64, 2, &err)), "<size s='2'>0xFF</size>\n");
     EXPECT_EQ(text(var_string_print(h, 1, buffer.data(), 0, "s", "a b%", 64, 4, &err)), "s = 'a%20b%25';\n");
@@ -550,7 +550,7 @@ TEST_F(Observing, ProcessWideAnswers) {
     observing::fail_malloc(false);
     EXPECT_EQ(observing::live_mallocs(), 0u);
 
-    const auto handler = [](mirk_handle *, uint32_t, void *, uint32_t *) {};
+    const auto handler = [](mirk_handle *, std::uint32_t, void *, std::uint32_t *) {};
     EXPECT_EQ(veld_intf_bundle_handler_register(handler), nullptr);
     EXPECT_NE(observing::sibling_handler("intf"), nullptr);
     EXPECT_EQ(observing::sibling_handler("view"), nullptr);

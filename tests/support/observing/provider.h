@@ -36,7 +36,7 @@ extern std::recursive_mutex guard;
 class Entry {
 public:
     template <class... Shown>
-    Entry(const char *function, std::optional<uint32_t> ctx_id, const uint32_t *err, Shown... shown)
+    Entry(const char *function, std::optional<std::uint32_t> ctx_id, const std::uint32_t *err, Shown... shown)
         : function_(function) {
         if (recording()) {
             Call call;
@@ -53,7 +53,7 @@ public:
     Entry &operator=(const Entry &) = delete;
 
     // The slot holds an error already, or the handle was told to let this function fail.
-    bool refused(mirk_handle *h, uint32_t *err) const;
+    bool refused(mirk_handle *h, std::uint32_t *err) const;
 
     static void append(Call call);
     static void set_result(std::string result);  // of the last call recorded
@@ -79,8 +79,8 @@ private:
 // ---- the handle ----
 
 struct Block {
-    size_t size;
-    uint64_t number;  // 0 once its number was given up
+    std::size_t size;
+    std::uint64_t number;  // 0 once its number was given up
 };
 
 // Each callback has a context of its own, so that a mix-up is noticed.
@@ -92,8 +92,8 @@ struct Context {
 struct Node {
     mirk_list_head link;
     std::string name;
-    const uint8_t *luid;
-    uint32_t count;
+    const std::uint8_t *luid;
+    std::uint32_t count;
 };
 
 struct PrivateVariants {
@@ -102,11 +102,11 @@ struct PrivateVariants {
 };
 
 struct Failing {
-    uint64_t requests = 0;
-    uint64_t first = 0;  // the request that fails, 0 for none
+    std::uint64_t requests = 0;
+    std::uint64_t first = 0;  // the request that fails, 0 for none
     bool all_behind = false;
 
-    void arm(uint64_t nth, bool all) {
+    void arm(std::uint64_t nth, bool all) {
         first = nth ? requests + nth : 0;
         all_behind = all;
     }
@@ -121,20 +121,20 @@ struct State : mirk_handle {
     Context memory{this, "mem_ctx"}, store{this, "type_store"}, system{this, "sys_ctx"};
     mirk_sttr_desc descriptor{};
     Failing obj_failing, sys_failing;
-    std::map<uintptr_t, Block> blocks;
+    std::map<std::uintptr_t, Block> blocks;
     std::list<void *> sys_blocks;
     std::map<std::string, mirk_type_info_copy *, std::less<>> copies;
     std::list<PrivateVariants> variants;
-    std::map<const void *, uint32_t> offsets;
+    std::map<const void *, std::uint32_t> offsets;
     std::map<const void *, RaData> ra;
     std::list<Node> nodes;
-    std::vector<uint8_t> workspace;
+    std::vector<std::uint8_t> workspace;
 };
 
 inline State &state_of(mirk_handle *h) { return *static_cast<State *>(h); }
 // Handles that are open, for the naming of addresses.
 std::list<State *> &open_handles();
-uint64_t next_block_number();
+std::uint64_t next_block_number();
 
 inline bool tracks(const mirk_handle *h) { return h->sttr_desc && h->sttr_desc->sttr_mode == 0xEEEE; }
 
@@ -142,50 +142,52 @@ inline bool tracks(const mirk_handle *h) { return h->sttr_desc && h->sttr_desc->
 
 // Numbers lie on the wire with their lowest byte first.
 template <std::unsigned_integral T>
-void put_number(uint8_t *to, T number) {
-    for (size_t i = 0; i < sizeof(T); ++i) to[i] = static_cast<uint8_t>(static_cast<uint64_t>(number) >> (8 * i));
+void put_number(std::uint8_t *to, T number) {
+    for (std::size_t i = 0; i < sizeof(T); ++i)
+        to[i] = static_cast<std::uint8_t>(static_cast<std::uint64_t>(number) >> (8 * i));
 }
 template <std::unsigned_integral T>
-T take_number(const uint8_t *from) {
-    uint64_t number = 0;
-    for (size_t i = 0; i < sizeof(T); ++i) number |= static_cast<uint64_t>(from[i]) << (8 * i);
+T take_number(const std::uint8_t *from) {
+    std::uint64_t number = 0;
+    for (std::size_t i = 0; i < sizeof(T); ++i) number |= static_cast<std::uint64_t>(from[i]) << (8 * i);
     return static_cast<T>(number);
 }
 
 // Whether size bytes fit; 90 in the slot if not.
-inline bool fits(size_t size, int32_t remaining, uint32_t *err) {
-    if (remaining >= 0 && size <= static_cast<size_t>(remaining)) return true;
+inline bool fits(std::size_t size, std::int32_t remaining, std::uint32_t *err) {
+    if (remaining >= 0 && size <= static_cast<std::size_t>(remaining)) return true;
     *err = EMSGSIZE;
     return false;
 }
-inline bool present(const void *field, uint32_t *err) {
+inline bool present(const void *field, std::uint32_t *err) {
     if (!field) *err = EFAULT;
     return field != nullptr;
 }
 
 // The whole text without a NUL, or nothing and an error.
-uint32_t put_text(char *buffer, int32_t remaining, const std::string &text, uint32_t *err);
-uint32_t print_line(char *buffer, uint32_t indent, const char *name, const std::string &value, int32_t remaining,
-                    uint32_t *err);
-uint32_t print_element(const char *name, char *buffer, const std::string &value, int32_t remaining, uint8_t state,
-                       uint32_t *err);
+std::uint32_t put_text(char *buffer, std::int32_t remaining, const std::string &text, std::uint32_t *err);
+std::uint32_t print_line(char *buffer, std::uint32_t indent, const char *name, const std::string &value,
+                         std::int32_t remaining, std::uint32_t *err);
+std::uint32_t print_element(const char *name, char *buffer, const std::string &value, std::int32_t remaining,
+                            std::uint8_t state, std::uint32_t *err);
 // The first element's value, or null and the error in the slot.
-const std::string *element_value(const void *document, const char *path, uint32_t *err);
+const std::string *element_value(const void *document, const char *path, std::uint32_t *err);
 
-uint32_t mix(const void *data, size_t length, uint32_t seed);
+std::uint32_t mix(const void *data, std::size_t length, std::uint32_t seed);
 
 // ---- objects ----
 
-inline constexpr uint8_t flag_embedded = 2, flag_nested = 4, flag_tracked = 8, flag_ra = 32, flag_offset = 64,
-                         flag_modified = 128;
+inline constexpr std::uint8_t flag_embedded = 2, flag_nested = 4, flag_tracked = 8, flag_ra = 32, flag_offset = 64,
+                              flag_modified = 128;
 
 // What initialize does to every object that the provider itself describes; false if it found the slot set.
-bool initialize_header(mirk_handle *h, uint32_t ctx_id, void *object, mirk_type_info *type, uint32_t notify,
-                       uint32_t skip_count, uint8_t flags, uint32_t *err);
-void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t *counter, int64_t delta);
-void notify_write(mirk_handle *h, uint32_t ctx_id, void *address, size_t size);
+bool initialize_header(mirk_handle *h, std::uint32_t ctx_id, void *object, mirk_type_info *type, std::uint32_t notify,
+                       std::uint32_t skip_count, std::uint8_t flags, std::uint32_t *err);
+void count(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type, std::uint64_t *counter,
+           std::int64_t delta);
+void notify_write(mirk_handle *h, std::uint32_t ctx_id, void *address, std::size_t size);
 // Null for an object without state.
-uint8_t *state_area(mirk_handle *h, void *object, size_t base_size);
+std::uint8_t *state_area(mirk_handle *h, void *object, std::size_t base_size);
 
 }  // namespace observing
 

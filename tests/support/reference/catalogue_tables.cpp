@@ -4,7 +4,7 @@ namespace reference {
 
 // Enumerations with their enumerators from 0 on, messages with their payload, bundles with the message that they
 // admit and the luids of their control messages.
-const char *const kCatalogueTables = R"tables(
+const char *const catalogue_tables = R"tables(
 enumeration lumo_tarn_ha_state_e 26bbde370374ae5b5cbbe652c7ee982c
   LUMO_TARN_HA_INVALID_STATE
   LUMO_TARN_HA_RESET_STATE

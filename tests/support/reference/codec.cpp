@@ -5,9 +5,9 @@
 namespace reference {
 namespace {
 
-constexpr std::uint8_t kTrackedFlag = 8;
-constexpr std::uint8_t kReferenceFlag = 32;
-constexpr std::uint8_t kMarker = 0xBC;
+constexpr std::uint8_t tracked_flag = 8;
+constexpr std::uint8_t reference_flag = 32;
+constexpr std::uint8_t marker = 0xBC;
 
 void put(Bytes &out, std::uint64_t number, unsigned width) {
     for (unsigned i = width; i-- > 0;) out.push_back(static_cast<std::uint8_t>(number >> (8 * i)));
@@ -21,40 +21,40 @@ void put_member(Bytes &out, const Record &owner, std::size_t index, bool tracked
     const MemberTable &row = owner.table->members[index];
     const Member &member = owner.members[index];
     switch (row.cls) {
-        case Class::kInteger:
-        case Class::kCount:
-        case Class::kLength:
+        case Class::integer:
+        case Class::count:
+        case Class::length:
             put(out, owner.number(index), row.width);
             break;
-        case Class::kBoolean:
+        case Class::boolean:
             put_variant(out, member.variant);
             put(out, member.number, 1);
             break;
-        case Class::kEnumeration:
+        case Class::enumeration:
             put_variant(out, member.variant);
             put(out, member.number, 4);
             break;
-        case Class::kString:
+        case Class::string:
             out.insert(out.end(), member.text.begin(), member.text.end());
             if (member.text.empty()) return;
             break;
-        case Class::kAddress:
-        case Class::kNested:
-        case Class::kArray:
+        case Class::address:
+        case Class::nested:
+        case Class::array:
             for (const Record &item : member.items) put_record(out, item, tracked);
             if (member.items.empty()) return;
             break;
     }
     if (!tracked || !row.tracked()) return;
     put(out, member.state, 1);
-    if (row.cls != Class::kArray) return;
+    if (row.cls != Class::array) return;
     for (std::size_t i = 0; i < member.items.size(); ++i)
         put(out, i < member.element_state.size() ? member.element_state[i] : 0, 1);
 }
 
 void put_record(Bytes &out, const Record &value, bool tracked) {
     put_variant(out, value.variant);
-    put(out, (tracked ? kTrackedFlag : 0u) | (value.ra ? kReferenceFlag : 0u), 1);
+    put(out, (tracked ? tracked_flag : 0u) | (value.ra ? reference_flag : 0u), 1);
     if (value.ra) {
         put(out, value.ra->value, 8);
         put(out, value.ra->byte, 1);
@@ -107,29 +107,29 @@ std::int8_t Reader::take_variant(const std::string &what) {
 
 void Reader::take_member(const MemberTable &row, std::uint64_t count, Member &member) {
     switch (row.cls) {
-        case Class::kInteger:
+        case Class::integer:
             member.number = take(row.width, row.name);
             break;
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             return;
-        case Class::kBoolean:
+        case Class::boolean:
             member.variant = take_variant(row.name);
             member.number = take(1, row.name);
             break;
-        case Class::kEnumeration:
+        case Class::enumeration:
             member.variant = take_variant(row.name);
             member.number = take(4, row.name);
             break;
-        case Class::kAddress:
-        case Class::kNested:
+        case Class::address:
+        case Class::nested:
             member.items[0] = record(row.element());
             break;
-        case Class::kString:
+        case Class::string:
             if (count == 0) return;
             for (std::uint64_t i = 0; i < count; ++i) member.text += static_cast<char>(take(1, row.name));
             break;
-        case Class::kArray:
+        case Class::array:
             if (count == 0) return;
             for (std::uint64_t i = 0; i < count; ++i) member.items.push_back(record(row.element()));
             member.element_state.assign(member.items.size(), 0);
@@ -145,11 +145,11 @@ Record Reader::record(const RecordTable &table) {
     Record value(table);
     value.variant = take_variant(table.name);
     const std::uint64_t flag = take(1, table.name + " flag");
-    if ((flag & ~std::uint64_t{kTrackedFlag | kReferenceFlag}) != 0)
+    if ((flag & ~std::uint64_t{tracked_flag | reference_flag}) != 0)
         throw Failure{offset_ - 1, table.name + " has flag bits that do not travel"};
-    if (((flag & kTrackedFlag) != 0) != tracked_)
+    if (((flag & tracked_flag) != 0) != tracked_)
         throw Failure{offset_ - 1, table.name + (tracked_ ? " is not tracked" : " is tracked")};
-    if ((flag & kReferenceFlag) != 0) {
+    if ((flag & reference_flag) != 0) {
         value.ra.emplace();
         value.ra->value = take(8, table.name + " RA value");
         value.ra->byte = static_cast<std::uint8_t>(take(1, table.name + " RA byte"));
@@ -184,7 +184,7 @@ Decoded decode_at(const RecordTable &table, std::span<const std::uint8_t> bytes,
 }
 
 Bytes frame_head(const Luid &luid, bool tracked, std::uint32_t stamp, std::size_t total) {
-    Bytes out{kMarker};
+    Bytes out{marker};
     out.insert(out.end(), 6, 0xFF);
     put(out, tracked ? 1 : 0, 1);
     put(out, stamp, 4);
@@ -217,18 +217,18 @@ Bytes message_frame(std::string_view message, const Record &payload, bool tracke
     const MessageTable &table = message_table(message);
     if (payload.table->name != table.payload) throw std::invalid_argument("payload of " + table.name);
     const Bytes body = encode(payload, tracked);
-    Bytes out = frame_head(table.luid, tracked, stamp, kPayloadOffset + body.size());
+    Bytes out = frame_head(table.luid, tracked, stamp, payload_offset + body.size());
     out.insert(out.end(), body.begin(), body.end());
     return out;
 }
 
 Bytes control_frame(std::string_view bundle, std::string_view kind, std::uint32_t stamp) {
-    return frame_head(bundle_table(bundle).luid(kind), false, stamp, kPayloadOffset);
+    return frame_head(bundle_table(bundle).luid(kind), false, stamp, payload_offset);
 }
 
 std::optional<Header> decode_header(std::span<const std::uint8_t> frame) {
-    if (frame.size() < kHeaderSize || frame[0] != kMarker) return std::nullopt;
-    for (std::size_t i = 16; i < kHeaderSize; ++i)
+    if (frame.size() < header_size || frame[0] != marker) return std::nullopt;
+    for (std::size_t i = 16; i < header_size; ++i)
         if (frame[i] != 0) return std::nullopt;
     const auto word = [frame](std::size_t at) {
         return static_cast<std::uint32_t>(frame[at]) << 24 | static_cast<std::uint32_t>(frame[at + 1]) << 16 |
@@ -251,10 +251,10 @@ Decoded decode_message(std::string_view message, std::span<const std::uint8_t> f
         if (header->fill[i] != 0xFF) return failed(1 + i, "fill");
     if (header->sttr != (tracked ? 1 : 0)) return failed(7, "sttr");
     if (header->total_length != frame.size()) return failed(12, "total_length");
-    if (frame.size() < kPayloadOffset) return failed(frame.size(), "luid is cut");
+    if (frame.size() < payload_offset) return failed(frame.size(), "luid is cut");
     for (std::size_t i = 0; i < 16; ++i)
-        if (frame[kHeaderSize + i] != table.luid[i]) return failed(kHeaderSize + i, "luid");
-    Decoded result = decode_at(record_table(table.payload), frame, tracked, kPayloadOffset);
+        if (frame[header_size + i] != table.luid[i]) return failed(header_size + i, "luid");
+    Decoded result = decode_at(record_table(table.payload), frame, tracked, payload_offset);
     if (result.value && result.consumed != frame.size()) return failed(result.consumed, "bytes behind the payload");
     return result;
 }

@@ -37,8 +37,8 @@ struct Header {
     std::uint32_t stamp = 0, total_length = 0;
 };
 
-constexpr std::size_t kHeaderSize = 27;
-constexpr std::size_t kPayloadOffset = 43;
+constexpr std::size_t header_size = 27;
+constexpr std::size_t payload_offset = 43;
 
 Bytes message_frame(std::string_view message, const Record &payload, bool tracked, std::uint32_t stamp);
 Bytes control_frame(std::string_view bundle, std::string_view kind, std::uint32_t stamp);

@@ -19,7 +19,7 @@ Record Generator::fill(const RecordTable &table) {
     }
     for (std::size_t i = 0; i < table.members.size(); ++i) {
         const MemberTable &row = table.members[i];
-        if (row.cls == Class::kArray)
+        if (row.cls == Class::array)
             fill_array(row, table.member(row.counted_by).width == 1 ? 255 : ~std::uint32_t{0}, record.members[i]);
         else
             fill_member(row, record.members[i]);
@@ -30,30 +30,30 @@ Record Generator::fill(const RecordTable &table) {
 void Generator::fill_member(const MemberTable &row, Member &member) {
     if (row.tracked()) member.state = state();
     switch (row.cls) {
-        case Class::kInteger:
+        case Class::integer:
             member.number = number(row.width);
             break;
-        case Class::kBoolean:
+        case Class::boolean:
             member.number = strangely() ? number(1) : below(2);
             if (strangely()) member.variant = -1;
             break;
-        case Class::kEnumeration:
+        case Class::enumeration:
             member.number = strangely() ? number(4) : below(enumeration_table(row.type).enumerators.size());
             if (strangely()) member.variant = -1;
             break;
-        case Class::kAddress:
+        case Class::address:
             member.items[0] = fill(row.element());
             if (member.items[0].variant == 0 && below(4) != 0) fill_address(member.items[0]);
             break;
-        case Class::kNested:
+        case Class::nested:
             member.items[0] = fill(row.element());
             break;
-        case Class::kString:
+        case Class::string:
             fill_text(member);
             break;
-        case Class::kArray:
-        case Class::kLength:
-        case Class::kCount:
+        case Class::array:
+        case Class::length:
+        case Class::count:
             break;
     }
 }

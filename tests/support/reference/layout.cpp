@@ -7,14 +7,14 @@
 namespace reference {
 namespace {
 
-constexpr std::uint32_t kHeader = 11;  // tinfo, variant, home_variant, obj_flag
-constexpr std::uint32_t kPointer = 8;
+constexpr std::uint32_t header = 11;  // tinfo, variant, home_variant, obj_flag
+constexpr std::uint32_t pointer = 8;
 
 std::uint32_t align(std::uint32_t value, std::uint32_t to) { return (value + to - 1) / to * to; }
 
 // The members' places in the instance.
 void place(const RecordTable &table, RecordLayout &layout) {
-    std::uint32_t end = kHeader;
+    std::uint32_t end = header;
     const auto next = [&end](std::uint32_t size, std::uint32_t alignment) {
         const std::uint32_t offset = align(end, alignment);
         end = offset + size;
@@ -23,29 +23,29 @@ void place(const RecordTable &table, RecordLayout &layout) {
     for (const MemberTable &row : table.members) {
         MemberLayout member;
         switch (row.cls) {
-            case Class::kInteger:
-            case Class::kCount:
-            case Class::kLength:
+            case Class::integer:
+            case Class::count:
+            case Class::length:
                 member.size = row.width;
                 member.offset = next(row.width, row.width);
                 break;
-            case Class::kBoolean:
-            case Class::kEnumeration:
+            case Class::boolean:
+            case Class::enumeration:
                 member.size = 16;
                 member.offset = next(member.size, 8);
                 break;
-            case Class::kAddress:
+            case Class::address:
                 member.size = 40;
                 member.offset = next(member.size, 8);
                 break;
-            case Class::kNested:
+            case Class::nested:
                 member.size = layout_of(row.element()).base;
                 member.offset = next(member.size, 8);
                 break;
-            case Class::kString:
-            case Class::kArray:
-                member.size = kPointer;
-                member.offset = member.block_offset = next(kPointer, kPointer);
+            case Class::string:
+            case Class::array:
+                member.size = pointer;
+                member.offset = member.block_offset = next(pointer, pointer);
                 break;
         }
         layout.members.push_back(member);
@@ -64,43 +64,43 @@ void number_slots(const RecordTable &table, RecordLayout &layout) {
         MemberLayout &member = layout.members[i];
         if (!row.tracked()) continue;
         member.slot = end++;
-        if (row.cls == Class::kAddress) {
+        if (row.cls == Class::address) {
             member.area = end;
             end += 7;
-        } else if (row.cls == Class::kNested) {
+        } else if (row.cls == Class::nested) {
             const RecordLayout &child = layout_of(row.element());
-            member.area = child.holds_pointer ? align(end, kPointer) : end;
+            member.area = child.holds_pointer ? align(end, pointer) : end;
             end = member.area + child.state;
             layout.holds_pointer |= child.holds_pointer;
-        } else if (row.cls == Class::kArray) {
-            member.area = align(end, kPointer);
-            end = member.area + kPointer;
+        } else if (row.cls == Class::array) {
+            member.area = align(end, pointer);
+            end = member.area + pointer;
             layout.holds_pointer = true;
         }
     }
-    layout.state = layout.holds_pointer ? align(end, kPointer) : end;
+    layout.state = layout.holds_pointer ? align(end, pointer) : end;
     layout.tracked = layout.base + layout.state;
 }
 
 const char *class_name(Class cls) {
     switch (cls) {
-        case Class::kInteger:
+        case Class::integer:
             return "integer";
-        case Class::kBoolean:
+        case Class::boolean:
             return "boolean";
-        case Class::kEnumeration:
+        case Class::enumeration:
             return "enumeration";
-        case Class::kAddress:
+        case Class::address:
             return "address";
-        case Class::kNested:
+        case Class::nested:
             return "nested";
-        case Class::kLength:
+        case Class::length:
             return "length";
-        case Class::kString:
+        case Class::string:
             return "string";
-        case Class::kCount:
+        case Class::count:
             return "count";
-        case Class::kArray:
+        case Class::array:
             return "array";
     }
     return "";
@@ -121,7 +121,7 @@ const RecordLayout &layout_of(const RecordTable &table) {
 
 std::string layout_text() {
     std::ostringstream out;
-    const auto slot = [](std::uint32_t number) { return number == kNoSlot ? "-" : std::to_string(number); };
+    const auto slot = [](std::uint32_t number) { return number == no_slot ? "-" : std::to_string(number); };
     for (const RecordTable &table : records()) {
         const RecordLayout &layout = layout_of(table);
         for (std::size_t i = 0; i < table.members.size(); ++i) {

@@ -9,13 +9,13 @@
 
 namespace reference {
 
-constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
+constexpr std::uint32_t no_slot = 0xFFFFFFFF;
 
 struct MemberLayout {
     std::uint32_t offset = 0, size = 0;
-    std::uint32_t block_offset = kNoSlot;  // string, array: the pointer behind the length or count member
-    std::uint32_t slot = kNoSlot;          // state byte; a count or length has none
-    std::uint32_t area = kNoSlot;  // nested record and address: start of its state area; array: the vector's pointer
+    std::uint32_t block_offset = no_slot;  // string, array: the pointer behind the length or count member
+    std::uint32_t slot = no_slot;          // state byte; a count or length has none
+    std::uint32_t area = no_slot;  // nested record and address: start of its state area; array: the vector's pointer
 };
 
 struct RecordLayout {

@@ -14,22 +14,22 @@ std::size_t occurrences(std::string_view text, std::string_view word) {
 }
 
 TEST(Tables, HoldEveryLineOfTheirText) {
-    EXPECT_EQ(records().size(), occurrences(kRecordTables, "\nrecord "));
-    EXPECT_EQ(enumerations().size(), occurrences(kCatalogueTables, "\nenumeration "));
-    EXPECT_EQ(messages().size(), occurrences(kCatalogueTables, "\nmessage "));
-    EXPECT_EQ(bundles().size(), occurrences(kCatalogueTables, "\nbundle "));
+    EXPECT_EQ(records().size(), occurrences(record_tables, "\nrecord "));
+    EXPECT_EQ(enumerations().size(), occurrences(catalogue_tables, "\nenumeration "));
+    EXPECT_EQ(messages().size(), occurrences(catalogue_tables, "\nmessage "));
+    EXPECT_EQ(bundles().size(), occurrences(catalogue_tables, "\nbundle "));
     EXPECT_EQ(enumeration_table("lumo_tarn_ha_state_e").enumerators.size(),
-              occurrences(kCatalogueTables, "\n  LUMO_TARN_HA_"));
+              occurrences(catalogue_tables, "\n  LUMO_TARN_HA_"));
 
-    EXPECT_EQ(members_of(Class::kInteger), occurrences(kRecordTables, " integer u_int"));
-    EXPECT_EQ(members_of(Class::kBoolean), occurrences(kRecordTables, " boolean mirk_boolean\n"));
-    EXPECT_EQ(members_of(Class::kNested), occurrences(kRecordTables, " nested "));
-    EXPECT_EQ(members_of(Class::kEnumeration), occurrences(kRecordTables, " enumeration "));
-    EXPECT_EQ(members_of(Class::kAddress), occurrences(kRecordTables, " address ip_address\n"));
-    EXPECT_EQ(members_of(Class::kArray), occurrences(kRecordTables, " array "));
-    EXPECT_EQ(members_of(Class::kCount), occurrences(kRecordTables, " count u_int"));
-    EXPECT_EQ(members_of(Class::kString), occurrences(kRecordTables, " string var_string "));
-    EXPECT_EQ(members_of(Class::kLength), occurrences(kRecordTables, " length u_int"));
+    EXPECT_EQ(members_of(Class::integer), occurrences(record_tables, " integer u_int"));
+    EXPECT_EQ(members_of(Class::boolean), occurrences(record_tables, " boolean mirk_boolean\n"));
+    EXPECT_EQ(members_of(Class::nested), occurrences(record_tables, " nested "));
+    EXPECT_EQ(members_of(Class::enumeration), occurrences(record_tables, " enumeration "));
+    EXPECT_EQ(members_of(Class::address), occurrences(record_tables, " address ip_address\n"));
+    EXPECT_EQ(members_of(Class::array), occurrences(record_tables, " array "));
+    EXPECT_EQ(members_of(Class::count), occurrences(record_tables, " count u_int"));
+    EXPECT_EQ(members_of(Class::string), occurrences(record_tables, " string var_string "));
+    EXPECT_EQ(members_of(Class::length), occurrences(record_tables, " length u_int"));
 }
 
 TEST(Tables, CountersStandDirectlyAheadOfWhatTheyCount) {
@@ -37,13 +37,13 @@ TEST(Tables, CountersStandDirectlyAheadOfWhatTheyCount) {
     for (const RecordTable &table : records())
         for (std::size_t i = 0; i < table.members.size(); ++i) {
             const MemberTable &member = table.members[i];
-            if (member.cls != Class::kArray && member.cls != Class::kString) continue;
+            if (member.cls != Class::array && member.cls != Class::string) continue;
             ASSERT_GT(i, 0u);
             EXPECT_EQ(table.members[i - 1].name, member.counted_by) << table.name;
             EXPECT_FALSE(table.members[i - 1].tracked());
             products += member.product ? 1 : 0;
         }
-    EXPECT_EQ(products, occurrences(kRecordTables, " product\n"));
+    EXPECT_EQ(products, occurrences(record_tables, " product\n"));
 }
 
 TEST(Tables, EveryLuidIsItsOwn) {

@@ -7,22 +7,22 @@ std::uint32_t member_length(const MemberTable &row, const Member &member, bool t
     const std::uint32_t state = tracked ? 1 : 0;
     std::uint32_t sum = 0;
     switch (row.cls) {
-        case Class::kInteger:
+        case Class::integer:
             return row.width + state;
-        case Class::kCount:
-        case Class::kLength:
+        case Class::count:
+        case Class::length:
             return row.width;
-        case Class::kBoolean:
+        case Class::boolean:
             return 2 + state;
-        case Class::kEnumeration:
-            return kEnumerationLength + state;
-        case Class::kAddress:
-        case Class::kNested:
+        case Class::enumeration:
+            return enumeration_length + state;
+        case Class::address:
+        case Class::nested:
             return length(member.items[0], tracked) + state;
-        case Class::kString:
+        case Class::string:
             sum = static_cast<std::uint32_t>(member.text.size());
             return tracked ? sum + 1 + sum : sum;
-        case Class::kArray:
+        case Class::array:
             break;
     }
     const auto count = static_cast<std::uint32_t>(member.items.size());

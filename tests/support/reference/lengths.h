@@ -13,7 +13,7 @@ std::uint32_t length(const Record &value, bool tracked);
 // Of a null instance: no element, no character, no tracking.
 std::uint32_t length_of_null(const RecordTable &table);
 inline std::uint32_t message_length(const Record &payload, bool tracked) { return 43 + length(payload, tracked); }
-constexpr std::uint32_t kEnumerationLength = 5;
-constexpr std::uint32_t kControlLength = 43;
+constexpr std::uint32_t enumeration_length = 5;
+constexpr std::uint32_t control_length = 43;
 
 }  // namespace reference

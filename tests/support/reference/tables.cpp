@@ -7,10 +7,10 @@
 namespace reference {
 namespace {
 
-const std::map<std::string, Class, std::less<>> kClasses = {
-    {"integer", Class::kInteger}, {"boolean", Class::kBoolean}, {"enumeration", Class::kEnumeration},
-    {"address", Class::kAddress}, {"nested", Class::kNested},   {"length", Class::kLength},
-    {"string", Class::kString},   {"count", Class::kCount},     {"array", Class::kArray}};
+const std::map<std::string, Class, std::less<>> classes = {
+    {"integer", Class::integer}, {"boolean", Class::boolean}, {"enumeration", Class::enumeration},
+    {"address", Class::address}, {"nested", Class::nested},   {"length", Class::length},
+    {"string", Class::string},   {"count", Class::count},     {"array", Class::array}};
 
 unsigned width_of(std::string_view type) {
     if (type == "u_int8") return 1;
@@ -33,7 +33,7 @@ MemberTable parse_member(const std::string &name, std::istream &words) {
     std::string cls, form;
     words >> cls >> member.type >> member.counted_by >> form;
     member.name = name;
-    member.cls = kClasses.at(cls);
+    member.cls = classes.at(cls);
     member.width = width_of(member.type);
     member.product = form == "product";
     return member;
@@ -41,7 +41,7 @@ MemberTable parse_member(const std::string &name, std::istream &words) {
 
 std::vector<RecordTable> parse_records() {
     std::vector<RecordTable> tables;
-    std::istringstream text(kRecordTables);
+    std::istringstream text(record_tables);
     for (std::string line; std::getline(text, line);) {
         std::istringstream words(line);
         std::string first;
@@ -66,7 +66,7 @@ struct Catalogue {
 
 Catalogue parse_catalogue() {
     Catalogue c;
-    std::istringstream text(kCatalogueTables);
+    std::istringstream text(catalogue_tables);
     for (std::string line; std::getline(text, line);) {
         std::istringstream words(line);
         std::string first, second, third, fourth;

@@ -10,7 +10,7 @@
 
 namespace reference {
 
-enum class Class { kInteger, kBoolean, kEnumeration, kAddress, kNested, kLength, kString, kCount, kArray };
+enum class Class { integer, boolean, enumeration, address, nested, length, string, count, array };
 
 using Luid = std::array<std::uint8_t, 16>;
 
@@ -18,14 +18,14 @@ struct RecordTable;
 
 struct MemberTable {
     std::string name;
-    Class cls = Class::kInteger;
+    Class cls = Class::integer;
     std::string type;        // u_int8 to u_int64, mirk_boolean, ip_address, var_string, an enumeration, a record
     unsigned width = 0;      // bytes of an integer, count or length
     std::string counted_by;  // count member of an array, length member of a string
     bool product = false;    // array whose length is taken as that of element 0 times the count
 
     // Members with a state byte of their own.
-    bool tracked() const { return cls != Class::kCount && cls != Class::kLength; }
+    bool tracked() const { return cls != Class::count && cls != Class::length; }
     // The record behind a nested record, an address or an array.
     const RecordTable &element() const;
 };
@@ -79,7 +79,7 @@ std::size_t members_of(Class cls);
 
 std::string luid_text(const Luid &luid);
 
-extern const char *const kRecordTables;
-extern const char *const kCatalogueTables;
+extern const char *const record_tables;
+extern const char *const catalogue_tables;
 
 }  // namespace reference

@@ -53,24 +53,24 @@ std::string member_text(const Record &owner, std::size_t index, unsigned indent,
     const Member &member = owner.members[index];
     const std::string head = std::string(indent, ' ') + row.name + "@" + row.type + ":";
     switch (row.cls) {
-        case Class::kInteger:
-        case Class::kCount:
-        case Class::kLength:
+        case Class::integer:
+        case Class::count:
+        case Class::length:
             return head + number_text(owner, index) + "\n";
-        case Class::kBoolean:
+        case Class::boolean:
             return head + (member.number != 0 ? "true\n" : "false\n");
-        case Class::kEnumeration: {
+        case Class::enumeration: {
             // A value out of range has no line end: what follows stands on the same line.
             const std::string *name = enumerator(row, member.number);
             return head + (name != nullptr ? *name + "\n" : "Enum value out of range");
         }
-        case Class::kAddress:
+        case Class::address:
             return head + address_text(get_address(member.items[0])) + "\n";
-        case Class::kString:
+        case Class::string:
             return head + string_text(member.text) + "\n";
-        case Class::kNested:
+        case Class::nested:
             return print(member.items[0], row.name, indent, gap);
-        case Class::kArray:
+        case Class::array:
             break;
     }
     std::string text;
@@ -87,22 +87,22 @@ std::string member_xml(const Record &owner, std::size_t index, bool tracked) {
         return open_tag(row.name, shown) + content + close_tag(row.name);
     };
     switch (row.cls) {
-        case Class::kInteger:
-        case Class::kCount:
-        case Class::kLength:
+        case Class::integer:
+        case Class::count:
+        case Class::length:
             return element(state, number_text(owner, index));
-        case Class::kBoolean:
+        case Class::boolean:
             return element(state, member.number != 0 ? "true" : "false");
-        case Class::kEnumeration:
+        case Class::enumeration:
             // An enumeration never shows the state of its member.
             return element(0, enumeration_xml(row, member.number));
-        case Class::kAddress:
+        case Class::address:
             return element(state, address_text(get_address(member.items[0])));
-        case Class::kString:
+        case Class::string:
             return element(state, string_xml(member.text));
-        case Class::kNested:
+        case Class::nested:
             return to_xml(member.items[0], row.name, tracked, state);
-        case Class::kArray:
+        case Class::array:
             break;
     }
     std::string text;

@@ -10,7 +10,7 @@ bool Member::operator==(const Member &other) const {
 Record::Record(const RecordTable &t) : table(&t), members(t.members.size()) {
     for (std::size_t i = 0; i < members.size(); ++i) {
         const MemberTable &row = t.members[i];
-        if (row.cls == Class::kNested || row.cls == Class::kAddress) members[i].items.emplace_back(row.element());
+        if (row.cls == Class::nested || row.cls == Class::address) members[i].items.emplace_back(row.element());
     }
 }
 
@@ -23,8 +23,8 @@ Record &Record::append(std::string_view array, std::uint8_t element_state) {
 std::uint64_t Record::number(std::size_t index) const {
     const MemberTable &row = table->members[index];
     // The array or string stands directly behind the member that counts it.
-    if (row.cls == Class::kCount) return members[index + 1].items.size();
-    if (row.cls == Class::kLength) return members[index + 1].text.size();
+    if (row.cls == Class::count) return members[index + 1].items.size();
+    if (row.cls == Class::length) return members[index + 1].text.size();
     return members[index].number;
 }
 
@@ -63,7 +63,7 @@ Record as_received(const Record &value, bool tracked) {
         for (const Record &item : from.items) to.items.push_back(as_received(item, tracked));
         to.element_state.assign(from.element_state.size(), 0);
         const Class cls = value.table->members[i].cls;
-        const bool empty = (cls == Class::kString && from.text.empty()) || (cls == Class::kArray && from.items.empty());
+        const bool empty = (cls == Class::string && from.text.empty()) || (cls == Class::array && from.items.empty());
         if (tracked && !empty) {
             to.state = from.state;
             to.element_state = from.element_state;
