@@ -32,11 +32,16 @@ describe(development liblumo-ui-tarn-dev libdevel "records and messages of traff
   "The feature tarn says what it knows in records that travel between processes
 as frames, in messages and bundles. This package holds what programs are built
 with: headers, and files for pkg-config and CMake.")
+if(TARN_PYTHON_FILES)
+  set(python_depends ", python3:any, python3-cffi-backend")
+  set(python_text "\nand the Python package lumo_tarn")
+  # dpkg does not know the bytecode that Python adds.
+  set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/prerm)
+endif()
 describe(tools lumo-ui-tarn-tools utils "show, read, write and take apart answers of the tarn feature"
   "The tool tarn asks a process for its bundles and prints them, serves bundles
 from files, turns frames into text, XML or JSON and back, shows frames byte by
-byte, compares answers and makes plausible ones. The Python package lumo_tarn
-does the same for programs, and a dissector for Wireshark.")
+byte, compares answers and makes plausible ones. With a dissector for Wireshark${python_text}.")
 describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
   "The feature tarn says what it knows in records that travel between processes
 as frames, in messages and bundles. This package holds manuals, the reference
@@ -51,8 +56,9 @@ install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATAROOTDI
         RENAME liblumo-ui-tarn1 COMPONENT library)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR} ${CMAKE_BINARY_DIR}/platform)
-set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, python3:any, python3-cffi-backend")
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, libxml2-dev")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}${python_depends}")
+# libxml2-dev does not depend on everything that a static link with it requires.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, libxml2-dev, zlib1g-dev, liblzma-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS lumo-ui-tarn-doc)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 

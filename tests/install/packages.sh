@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Do the Debian packages depend on what they need, and does their removal leave nothing behind?  packages.sh FOLDER
+# Installs them into an empty root of its own; needs fakeroot, and the packages for a static link.
+set -euo pipefail
+packages=("$1"/*.deb)
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+root=$scratch/root
+mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers} "$scratch/bin"
+touch "$root/var/lib/dpkg/status"
+# Maintainer scripts run outside of the root, where the cache of the system's libraries is none of their business.
+printf '#!/bin/sh\n' >"$scratch/bin/ldconfig"
+chmod +x "$scratch/bin/ldconfig"
+in_root() {
+    PATH=$scratch/bin:$PATH:/usr/sbin:/sbin fakeroot dpkg --root="$root" --log="$scratch/log" \
+        --force-script-chrootless --force-depends "$@" >>"$scratch/output" 2>&1 || { cat "$scratch/output"; return 1; }
+}
+files() { find "$root" -path "$root/var/lib/dpkg" -prune -o -print | sort; }
+
+files >"$scratch/before"
+in_root --install "${packages[@]}"
+
+# Libraries of a static link, except those of the compiler, come from dependencies or from direct dependencies of these.
+modules=$(dirname "$(find "$root" -name lumo_ui_tarn_static.pc)")
+libraries=$(PKG_CONFIG_PATH=$modules pkg-config --static --libs-only-l lumo_ui_tarn_static)
+names() { tr '|,' '\n\n' | sed 's/[ :(].*//;/^$/d'; }
+depends=$(dpkg-deb --field "$1"/liblumo-ui-tarn-dev_*.deb Depends | sed 's/, */,/g' | names)
+provided=$depends$'\n'$(dpkg-query -W -f '${Depends}\n' $(grep -v '^liblumo' <<<"$depends") | sed 's/, */,/g' | names)
+failed=0 checked=0
+for library in $libraries; do
+    file=$(cc -print-file-name="lib${library#-l}.so")
+    case $library in -llumo* | -lstdc++ | -lm) continue ;; esac
+    package=$(dpkg --search "$(realpath -s "$file")" | sed 's/:.*//')
+    checked=$((checked + 1))
+    grep -qxF "$package" <<<"$provided" || { echo "liblumo-ui-tarn-dev needs $package for $library"; failed=1; }
+done
+[ $checked -gt 0 ] || { echo "no libraries of a static link were found"; failed=1; }
+
+# What Python adds when a privileged user runs it.
+python=$root/usr/lib/python3/dist-packages/lumo_tarn
+[ ! -d "$python" ] || python3 -m compileall -q "$python"
+names=()
+for package in "${packages[@]}"; do names+=("$(dpkg-deb --field "$package" Package)"); done
+in_root --purge "${names[@]}"
+files | diff "$scratch/before" - || { echo "the packages leave files behind"; failed=1; }
+exit $failed
