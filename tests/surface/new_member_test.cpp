@@ -40,7 +40,7 @@ constexpr Product products[] = {
 };
 
 Output generate_with_new_member(const std::string &kind, const std::filesystem::path &into) {
-    return run(std::string(TARN_GENERATE_WITH_NEW_MEMBER) + " " + kind + " " + quoted(into));
+    return run(quoted(TARN_GENERATE_WITH_NEW_MEMBER) + " " + kind + " " + quoted(into));
 }
 
 TEST(NewMember, ShowsInAllThatIsPrinted) {
@@ -86,11 +86,11 @@ TEST(NewMember, ShowsInTheTool) {
     with_member.insert(with_member.find(place), "<dwell_limit>5</dwell_limit>");
     std::ofstream(folder.path() / "without_member.xml") << xml;
     std::ofstream(folder.path() / "with_member.xml") << with_member;
-    ASSERT_EQ(run(in_folder + TARN_TOOL " encode without_member.xml -o frames").code, 0);
+    ASSERT_EQ(run(in_folder + quoted(TARN_TOOL) + " encode without_member.xml -o frames").code, 0);
     for (const Sight &sight : sights) {
         SCOPED_TRACE(sight.arguments);
-        const Output before = run(in_folder + TARN_TOOL " " + sight.arguments);
-        const Output after = run(in_folder + TARN_TOOL_WITH_NEW_MEMBER " " + sight.arguments);
+        const Output before = run(in_folder + quoted(TARN_TOOL) + " " + sight.arguments);
+        const Output after = run(in_folder + quoted(TARN_TOOL_WITH_NEW_MEMBER) + " " + sight.arguments);
         EXPECT_EQ(before.text.find(sight.shows), std::string::npos);
         EXPECT_NE(after.text.find(sight.shows), std::string::npos) << after.text.substr(0, 500);
     }
@@ -127,7 +127,7 @@ TEST_F(NewHeaders, GiveTheMemberToPython) {
     const Output headers = compile("use.c", "#include <lumo_ui_tarn.h>\n", TARN_CC " -E -o " + quoted(preprocessed));
     ASSERT_EQ(headers.code, 0) << headers.text;
     const Output made =
-        run(TARN_PYTHON " " + quoted(TARN_BUILD_CDEFS) + " " + quoted(package) + " " + quoted(preprocessed));
+        run(quoted(TARN_PYTHON) + " " + quoted(TARN_BUILD_CDEFS) + " " + quoted(package) + " " + quoted(preprocessed));
     ASSERT_EQ(made.code, 0) << made.text;
     EXPECT_NE(content_of(package).find("lumo_tarn_dp_tc_dwell_limit_set_value"), std::string::npos);
 }
