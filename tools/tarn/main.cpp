@@ -57,7 +57,7 @@ int run(int argc, char **argv) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    // A file that may not grow further is an error like a full disk, and not the end of the process.
+    // Exceeding the limit on file sizes is an error like a full disk, and must not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return run(argc, argv);

@@ -4,7 +4,7 @@ namespace tarn::tool {
 
 namespace {
 
-// A group has a help flag of its own, which nobody is to see twice.
+// A group has a help flag of its own, which is not listed again.
 void add_options(const CLI::App &command, bool is_group, std::vector<const CLI::Option *> &options) {
     for (const CLI::Option *option : command.get_options()) {
         if (is_group && option == command.get_help_ptr()) continue;

@@ -1,4 +1,4 @@
-// What may stand in place of the last word of a command line.
+// Candidates for the last word of a command line.
 #include <algorithm>
 
 #include "tools/tarn/commands/command_line.h"
@@ -18,7 +18,7 @@ public:
         const std::string whole = before_ + std::string(name);
         if (whole.starts_with(word_)) text_ += whole + (meaning.empty() ? "" : "\t" + std::string(meaning)) + "\n";
     }
-    // In short, as people write them; in full for who has begun so.
+    // In the short form, or in full if the word begins so.
     void add(const std::vector<Named> &names, const std::string &behind = "") {
         const bool in_full = word_.substr(before_.size()).starts_with("lumo_");
         for (const Named &n : names) {

@@ -44,7 +44,7 @@ private:
     Exit exit_ = Exit::done;
 };
 
-// The library says that a frame is bad, the tables say where.
+// The library reports that a frame is bad; the dissection finds where.
 Failure with_location(const Failure &failure, const Frame &frame, const std::string &origin) {
     const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
     const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();

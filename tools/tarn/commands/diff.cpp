@@ -91,11 +91,11 @@ void print(const std::vector<Difference> &differences) {
     for (const Difference &d : differences) {
         if (d.a != nullptr && d.b != nullptr) {
             out +=
-                d.path + ": " + painted(d.a->dump(), Colour::red) + " -> " + painted(d.b->dump(), Colour::green) + "\n";
+                d.path + ": " + painted(d.a->dump(), Color::red) + " -> " + painted(d.b->dump(), Color::green) + "\n";
         } else if (d.a != nullptr) {
-            out += d.path + ": " + painted("only in A: " + shown(d.a), Colour::red) + "\n";
+            out += d.path + ": " + painted("only in A: " + shown(d.a), Color::red) + "\n";
         } else {
-            out += d.path + ": " + painted("only in B: " + shown(d.b), Colour::green) + "\n";
+            out += d.path + ": " + painted("only in B: " + shown(d.b), Color::green) + "\n";
         }
     }
     write_file("-", out);

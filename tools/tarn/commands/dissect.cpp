@@ -31,14 +31,14 @@ std::string hex_column(FrameBytes bytes) {
 void print_line(std::size_t offset, FrameBytes bytes, const std::string &words, std::string &out) {
     char front[24];
     std::snprintf(front, sizeof front, "%8zu  ", offset);
-    out += painted(front, Colour::grey) + hex_column(bytes) + words + "\n";
+    out += painted(front, Color::grey) + hex_column(bytes) + words + "\n";
 }
 
 void print_piece(const Piece &piece, FrameBytes all, std::string &out) {
     const FrameBytes bytes = all.subspan(piece.offset, piece.size);
     std::string words = " " + std::string(2 * piece.depth, ' ') + piece.path;
     if (words.size() < 56) words.resize(56, ' ');
-    words += " " + painted(piece.kind, Colour::blue);
+    words += " " + painted(piece.kind, Color::blue);
     if (!piece.value.empty()) words += " " + piece.value;
     print_line(piece.offset, bytes.first(std::min(bytes.size(), bytes_in_line)), words, out);
     for (std::size_t at = bytes_in_line; at < bytes.size(); at += bytes_in_line) {

@@ -22,9 +22,9 @@ inline constexpr const char *type = "TYPE[.MEMBER...]";
 // How an option that takes a TCP address describes it.
 std::string tcp_words(const std::string &what);
 
-// A time in seconds, at most a day; 0 is for those that mean no limit by it. The value before is the default.
+// A time in seconds, at most a day; 0 is permitted where it means no limit. The value before is the default.
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what);
-// A number of bytes below 4 GiB, with a unit if somebody likes.
+// A number of bytes below 4 GiB, with an optional unit.
 void add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
               std::uint64_t least);
 

@@ -28,8 +28,8 @@ struct RecordOptions {
     bool tracked = false, verbose = false;
 };
 
-// Switches the recorder on for as long as it lives. What it writes comes out piece by piece, so that this program sees
-// what became of each.
+// Switches the recorder on during its lifetime. What the recorder writes is taken message by message, which shows
+// whether it recorded each.
 class Recorder {
 public:
     Recorder() : stream_(open_memstream(&text_, &size_)) {
@@ -44,7 +44,7 @@ public:
         std::free(text_);
     }
 
-    // What came since the last time; empty if the recorder left it out.
+    // What came since the last time; empty if the recorder omitted it.
     std::string take() {
         if (std::fflush(stream_) != 0 || std::ferror(stream_) != 0) throw std::bad_alloc();
         std::string piece(text_, size_);
@@ -72,7 +72,7 @@ public:
         ++messages_;
         const std::string piece = recorder_.take();
         if (piece.empty()) {
-            // The recorder leaves out, without an error, what its buffer does not take.
+            // The recorder omits, without an error, what does not fit into its buffer.
             ++too_large_;
             std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
                          frame_location(origin, frame.offset).c_str(), frame.identity.operations->name,

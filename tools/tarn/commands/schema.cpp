@@ -51,7 +51,7 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
         for (std::size_t i = 0; i < row.size(); ++i)
             line += i + 1 < row.size() ? padded(row[i], widths[i] + 2) : row[i];
         const bool heading = &row == &rows.front();
-        out += heading ? painted(line, Colour::grey) + "\n" : line + "\n";
+        out += heading ? painted(line, Color::grey) + "\n" : line + "\n";
     }
     return out;
 }
@@ -114,7 +114,7 @@ std::string enumeration_text(const schema::Enumeration &e) {
 void add_tree(const Record &record, const std::string &indent, std::string &out) {
     for (const Member &m : record.members) {
         if (m.role != schema::Role::value) continue;
-        out += indent + std::string(m.name) + "  " + painted(kind_text(m), Colour::blue) + "\n";
+        out += indent + std::string(m.name) + "  " + painted(kind_text(m), Color::blue) + "\n";
         if (m.record != nullptr) add_tree(*m.record, indent + "  ", out);
     }
 }

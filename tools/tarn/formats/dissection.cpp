@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    // What the head of a record says.
+    // The head of a record.
     struct Head {
         std::string_view record;
         std::int8_t variant = 0;

@@ -1,5 +1,5 @@
-// Takes frames apart byte by byte, by the tables of the schema alone: what each byte is, and, in a frame that is
-// broken, where and why.
+// Describes every byte of a frame, using the tables of the schema alone. For a broken frame it reports where it breaks
+// and why.
 #pragma once
 
 #include <cstdint>

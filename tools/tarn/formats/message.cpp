@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t most_bytes = std::size_t{1} << 30;
 
-// Writers report a lack of room with one of three numbers, so the buffer grows until they are content.
+// Writers report a lack of room with one of three numbers, so the buffer grows until the message fits.
 template <class Buffer, class Write>
 Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type filler, const char *what,
                       const reflect::MessageOperations &operations, const Write &write) {
@@ -71,7 +71,7 @@ Message message_from_frame(const Handle &handle, const reflect::MessageOperation
                               static_cast<std::uint32_t>(frame.size()), &err);
     if (object == nullptr) throw Failure(Exit::environment, "no memory for a message");
     Message message(handle, operations, object);
-    // A count that no memory could satisfy, or a frame that ends too early, is reported as a lack of memory, too.
+    // The library reports ENOMEM also for a count that is too large and for a frame that ends too early.
     if (err != 0) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + error_text(err));
     return message;
 }

@@ -9,7 +9,7 @@
 
 namespace tarn::tool {
 
-// One element of the outermost level with all that stands in it, not yet parsed.
+// One element of the outermost level with its content, not yet parsed.
 struct Fragment {
     std::string name;
     std::string text;
@@ -19,7 +19,7 @@ struct Fragment {
 // Cuts at the end tag of each outermost element, so that a fragment which is not well-formed does not spoil the others.
 std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin);
 
-// A control message is <bundle_start name="..."></bundle_start>. A message whose document bears states has per-field
+// A control message is <bundle_start name="..."></bundle_start>. A message whose document has states has per-field
 // state. Strict: what the schema does not know, or what would be lost, is a Failure that lists every line concerned.
 Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
 

@@ -68,7 +68,7 @@ private:
     void check_member(xmlNode *node, const Member &member, const std::string &path);
     void check_counts(xmlNode *node, const Record &record, const Found &found, const std::string &path);
     void check_skipped(const Record &record, const Found &found, const std::string &path);
-    void check_choice(xmlNode *node, const Member &member, const std::string &path);
+    void check_enumeration(xmlNode *node, const Member &member, const std::string &path);
 
     std::size_t limit_;
 };
@@ -84,7 +84,7 @@ void Checker::check_attributes(const xmlNode *node, const std::string &path) {
     }
 }
 
-void Checker::check_choice(xmlNode *node, const Member &member, const std::string &path) {
+void Checker::check_enumeration(xmlNode *node, const Member &member, const std::string &path) {
     const auto &enumerators = member.enumeration->enumerators;
     std::vector<std::string> candidates(enumerators.begin(), enumerators.end());
     std::size_t chosen = 0;
@@ -106,7 +106,7 @@ void Checker::check_choice(xmlNode *node, const Member &member, const std::strin
 void Checker::check_member(xmlNode *node, const Member &member, const std::string &path) {
     check_attributes(node, path);
     if (member.record != nullptr) return check_record(node, *member.record, path);
-    if (member.kind == Kind::enumeration) return check_choice(node, member, path);
+    if (member.kind == Kind::enumeration) return check_enumeration(node, member, path);
     for (xmlNode *child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_ELEMENT_NODE) {
             return add(child, path,

@@ -1,5 +1,5 @@
-// Holds a parsed document against the schema. The library forgives what it does not know; a person who wrote the
-// document wants to hear of it.
+// Checks a parsed document against the schema. The library ignores what it does not know; the author of a document
+// needs an error message.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ struct Problem {
     std::string sentence;
 };
 
-// The document's root is to be the message. At most `limit` problems are listed.
+// The document's root must be the message. At most `limit` problems are listed.
 std::vector<Problem> check_document(void *document, const schema::Message &message, std::size_t limit = 20);
 
 // "unset", an address with its prefix length, or the seven members in decimal.

@@ -1,15 +1,15 @@
-// Per-field state in XML. The library shows it as attributes and does not read them back, so the tool puts it in place.
+// Per-field state in XML. The library writes it as attributes and does not read them back, so the tool applies it.
 #pragma once
 
 #include "tools/tarn/support/handle.h"
 
 namespace tarn::tool {
 
-// Whether any element bears a state.
+// True if any element has a state attribute.
 bool has_states(void *document);
 
 // Gives the fields of a message that was read from the document the states of their elements, 0 where there is none.
-// The form has no place for the states of enumerations, of whole arrays and inside addresses; these stay as they are.
+// XML has no states for enumerations, whole arrays and members of addresses; these keep theirs.
 void apply_states(const Message &message, void *document);
 
 }  // namespace tarn::tool

@@ -27,7 +27,7 @@ std::string escaped_json(const nlohmann::ordered_json &data) {
 }  // namespace
 
 std::string page_text(const Page &page) {
-    // Nothing is ever fetched, and the browser is told so.
+    // The policy makes the browser fetch nothing.
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
            "script-src 'unsafe-inline'; img-src data:\">\n"

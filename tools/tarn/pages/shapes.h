@@ -1,5 +1,5 @@
-// The pieces of frames without their values, each form told once. An array of a million like elements takes one form
-// and a list of numbers, so that a page grows with the bytes that it shows and not with the words about them.
+// The pieces of frames without their values, each form listed once. An array of a million elements of one form takes
+// one form and a list of numbers, so the size of a page follows from the bytes that it shows.
 //
 // A shape is text for one piece: its kind, its size, and what of its value the bytes do not say ("variant 1, begins
 // lumo_tarn_dp_tc"). Or it is a list, of names and shapes in turn, of what follows on another in the frame: the name ""

@@ -37,7 +37,7 @@ struct Shared {
     ordered_json luids = ordered_json::object();
 };
 
-// A request has no name and no record here; what it says stands in its bytes.
+// A request has no name and no record here; its bytes are shown as they are.
 ordered_json heading_of(FrameBytes frame) {
     const std::optional<Identity> identity =
         frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);

@@ -14,7 +14,7 @@ namespace {
 
 void append(Bytes &to, const Bytes &frame) { to.insert(to.end(), frame.begin(), frame.end()); }
 
-// Whatever happens, the handle must not keep a bundle open.
+// Closes the bundle on the handle also if an exception is thrown.
 class OpenBundle {
 public:
     OpenBundle(const Handle &handle, const reflect::BundleOperations &bundle, Bytes &frames)

@@ -9,7 +9,7 @@
 
 namespace tarn::tool {
 
-// What an answer does wrong on purpose, so that the asking side can be seen to cope with it.
+// Errors that an answer contains on purpose, to test the asking side.
 enum class Fault : std::uint8_t { none, abort, second_start, foreign, cut, unknown, rubbish, no_commit, silent };
 
 class Answerer {

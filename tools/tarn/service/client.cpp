@@ -17,7 +17,7 @@ void require_no_refusal(FrameBytes frame, const std::string &origin) {
     throw Failure(Exit::different, origin + ": refused: " + reply.sentence + ": " + error_text(reply.number));
 }
 
-// The dispatcher delivers whatever is well-formed; whether it belongs into this answer is for the asker to say.
+// The dispatcher delivers every well-formed frame; the asking side checks that it belongs to this answer.
 void require_expected(const Frame &frame, const reflect::BundleOperations &bundle, const Receiver &receiver,
                       const std::string &origin) {
     const Identity &identity = frame.identity;

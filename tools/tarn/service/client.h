@@ -29,7 +29,7 @@ struct Endpoint {
     const std::string &text() const { return socket.empty() ? tcp : socket; }
 };
 
-// How much is taken from an answering process, which may be broken or worse.
+// Limits on what is accepted from an answering process, which may be broken or hostile.
 struct AnswerLimits {
     std::uint64_t frame = 16 << 20, answer = 256 << 20;
 };
@@ -62,7 +62,7 @@ struct Answer {
 };
 
 // Feeds the frames to the receiver, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
-// not belong into this answer is a Failure.
+// not belong to this answer is a Failure.
 Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
                       const std::function<void(const Frame &)> &feed = {});
 

@@ -26,7 +26,7 @@ private:
 // "Message too long (EMSGSIZE, 90)"
 std::string error_text(std::uint32_t number);
 
-// Out of memory and the like are no fault of the input.
+// Lack of memory is not an error of the input.
 Exit exit_of(std::uint32_t number);
 
 }  // namespace tarn::tool

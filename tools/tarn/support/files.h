@@ -13,14 +13,14 @@ std::string read_file(const std::string &path);
 // "-" is standard output.
 void write_file(const std::string &path, std::string_view bytes);
 
-// What a path is called in messages for people.
+// The name of a path in messages.
 std::string shown_path(const std::string &path);
 
-// Makes sure that everything printed has arrived.
+// Throws a Failure if anything that was printed could not be written.
 void flush_output();
 
-// A new file that grows piece by piece. A piece that does not fit is taken back, and the Failure tells where: what
-// stands in the file is whole, whatever becomes of the disk.
+// A new file that grows piece by piece. A piece that does not fit is removed again, and the Failure names the offset:
+// the file contains whole pieces only, even if the disk is full.
 class GrowingFile {
 public:
     explicit GrowingFile(std::string path);
@@ -29,7 +29,7 @@ public:
     ~GrowingFile();
 
     void append(std::string_view piece);
-    // What a file system tells only at the end.
+    // Reports errors that a file system reports only when a file is closed.
     void finish();
 
 private:

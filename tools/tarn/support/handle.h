@@ -30,7 +30,7 @@ private:
     bool tracked_;
 };
 
-// Whether messages are made with per-field state: as what is read says, or all alike.
+// Whether messages are created with per-field state: as the input has it, or all alike.
 enum class Tracking : std::uint8_t { as_given, off, on };
 
 // One handle of each kind, since objects must not cross between them.

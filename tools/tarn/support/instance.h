@@ -1,5 +1,5 @@
-// What accessors do not hand out in full, read and written by the layout of the schema and the runtime's own
-// operations.
+// Values that accessors do not give in full, read and written by the layout of the schema and the operations of the
+// runtime.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// Random payloads that look like what a router would say. The same seed gives the same payload everywhere.
+// Random payloads with plausible values. The same seed gives the same payload everywhere.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,8 @@ namespace tarn::tool {
 
 class RandomPayload {
 public:
-    // Processors and complexes stay at two; other lists get about `elements` elements, as far as their counts can tell.
+    // Processors and complexes stay at two; other lists get about `elements` elements, as far as the width of their
+    // counts permits.
     RandomPayload(std::uint64_t seed, std::uint32_t elements) : random_(seed), elements_(elements) {}
 
     nlohmann::ordered_json make(const schema::Record &record);

@@ -1,4 +1,4 @@
-// Colours and progress, only where a terminal watches.
+// Colors and progress, only on a terminal.
 #pragma once
 
 #include <chrono>
@@ -10,13 +10,13 @@
 
 namespace tarn::tool {
 
-enum class Colour : std::uint8_t { none, red, green, yellow, blue, grey };
+enum class Color : std::uint8_t { none, red, green, yellow, blue, grey };
 
-inline std::string painted(std::string_view text, Colour colour) {
+inline std::string painted(std::string_view text, Color color) {
     static const bool terminal = isatty(STDOUT_FILENO) != 0;
     constexpr const char *codes[] = {"", "\x1b[31m", "\x1b[32m", "\x1b[33m", "\x1b[34m", "\x1b[90m"};
-    if (!terminal || colour == Colour::none) return std::string(text);
-    return std::string(codes[static_cast<std::size_t>(colour)]) + std::string(text) + "\x1b[0m";
+    if (!terminal || color == Color::none) return std::string(text);
+    return std::string(codes[static_cast<std::size_t>(color)]) + std::string(text) + "\x1b[0m";
 }
 
 // A line on standard error that replaces itself, from the second second on.
