@@ -1,6 +1,6 @@
 /// @file
 /// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.
-/// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation behaves.
+/// lumo_ui_tarn/interface.hpp describes what they have in common, lumo_ui_tarn/families.h what each operation does.
 ///
 /// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and
 /// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is read-only.
@@ -95,8 +95,8 @@ struct exmem_info_type {
     using native = lumo_tarn_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_exmem_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_exmem_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_exmem_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_exmem_info_len;  ///< an upper bound of its frame's size
@@ -248,8 +248,8 @@ struct fdb_base_type {
     using native = lumo_tarn_fdb_base;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_fdb_base";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_base_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_fdb_base_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_fdb_base_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_fdb_base_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_fdb_base_len;  ///< an upper bound of its frame's size
@@ -425,8 +425,8 @@ struct fdb_mem_info_type {
     using native = lumo_tarn_fdb_mem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_fdb_mem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_mem_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_fdb_mem_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_fdb_mem_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_fdb_mem_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_fdb_mem_info_len;  ///< an upper bound of its frame's size
@@ -554,8 +554,8 @@ struct exmem_info_wrapper_type {
     using native = lumo_tarn_exmem_info_wrapper;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_exmem_info_wrapper";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_exmem_info_wrapper_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_exmem_info_wrapper_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_exmem_info_wrapper_len;  ///< an upper bound of its frame's size
@@ -656,8 +656,8 @@ struct dp_appl_type {
     using native = lumo_tarn_dp_appl;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_appl_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_appl_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_appl_len;  ///< an upper bound of its frame's size
@@ -848,8 +848,8 @@ struct dp_tc_type {
     using native = lumo_tarn_dp_tc;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tc";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_tc_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_tc_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_tc_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_tc_len;  ///< an upper bound of its frame's size
@@ -1351,8 +1351,8 @@ struct dp_tc_list_type {
     using native = lumo_tarn_dp_tc_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tc_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_list_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_tc_list_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_tc_list_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_tc_list_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_tc_list_len;  ///< an upper bound of its frame's size
@@ -1447,8 +1447,8 @@ struct dp_appl_list_type {
     using native = lumo_tarn_dp_appl_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_list_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_list_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_appl_list_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_appl_list_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_appl_list_len;  ///< an upper bound of its frame's size
@@ -1544,8 +1544,8 @@ struct dp_ll_spec_type {
     using native = lumo_tarn_dp_ll_spec;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_ll_spec";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_ll_spec_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_ll_spec_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_ll_spec_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_ll_spec_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_ll_spec_len;  ///< an upper bound of its frame's size
@@ -2300,8 +2300,8 @@ struct dp_learn_list_type {
     using native = lumo_tarn_dp_learn_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_learn_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_learn_list_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_learn_list_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_learn_list_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_learn_list_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_learn_list_len;  ///< an upper bound of its frame's size
@@ -2405,8 +2405,8 @@ struct dp_debug_setting_type {
     using native = lumo_tarn_dp_debug_setting;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_debug_setting";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_debug_setting_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_debug_setting_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_debug_setting_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_debug_setting_len;  ///< an upper bound of its frame's size
@@ -2706,8 +2706,8 @@ struct debug_setting_type {
     using native = lumo_tarn_debug_setting;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_debug_setting";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_debug_setting_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_debug_setting_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_debug_setting_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_debug_setting_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_debug_setting_len;  ///< an upper bound of its frame's size
@@ -2866,8 +2866,8 @@ struct dp_debug_setting_data_type {
     using native = lumo_tarn_dp_debug_setting_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_debug_setting_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_debug_setting_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_debug_setting_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_debug_setting_data_len;  ///< an upper bound of its frame's size
@@ -2964,8 +2964,8 @@ struct cl_kesh_appl_type {
     using native = lumo_tarn_cl_kesh_appl;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_kesh_appl";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_cl_kesh_appl_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_cl_kesh_appl_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_cl_kesh_appl_len;  ///< an upper bound of its frame's size
@@ -3142,8 +3142,8 @@ struct cl_appl_data_type {
     using native = lumo_tarn_cl_appl_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_appl_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_appl_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_cl_appl_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_cl_appl_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_cl_appl_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_cl_appl_data_len;  ///< an upper bound of its frame's size
@@ -3265,8 +3265,8 @@ struct static_exmem_info_type {
     using native = lumo_tarn_static_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_static_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_static_exmem_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_static_exmem_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_static_exmem_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_static_exmem_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_static_exmem_info_len;  ///< an upper bound of its frame's size
@@ -3424,8 +3424,8 @@ struct dyn_exmem_info_type {
     using native = lumo_tarn_dyn_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dyn_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dyn_exmem_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dyn_exmem_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dyn_exmem_info_len;  ///< an upper bound of its frame's size
@@ -3576,8 +3576,8 @@ struct lumo_info_type {
     using native = lumo_tarn_lumo_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_lumo_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_lumo_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_lumo_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_lumo_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_lumo_info_len;  ///< an upper bound of its frame's size
@@ -5219,8 +5219,8 @@ struct lumo_info_list_type {
     using native = lumo_tarn_lumo_info_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_lumo_info_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_list_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_lumo_info_list_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_lumo_info_list_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_lumo_info_list_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_lumo_info_list_len;  ///< an upper bound of its frame's size
@@ -5316,8 +5316,8 @@ struct global_info_type {
     using native = lumo_tarn_global_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_global_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_global_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_global_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_global_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_global_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_global_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_global_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_global_info_len;  ///< an upper bound of its frame's size
@@ -5756,8 +5756,8 @@ struct cl_cfg_data_type {
     using native = lumo_tarn_cl_cfg_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_cfg_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_cfg_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_cl_cfg_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_cl_cfg_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_cl_cfg_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_cl_cfg_data_len;  ///< an upper bound of its frame's size
@@ -6025,8 +6025,8 @@ struct dp_wexa_info_type {
     using native = lumo_tarn_dp_wexa_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_wexa_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_wexa_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_wexa_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_wexa_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_wexa_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_wexa_info_len;  ///< an upper bound of its frame's size
@@ -6105,8 +6105,8 @@ struct dp_lumo_wexa_info_type {
     using native = lumo_tarn_dp_lumo_wexa_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_lumo_wexa_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_lumo_wexa_info_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_lumo_wexa_info_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_lumo_wexa_info_len;  ///< an upper bound of its frame's size
@@ -6338,8 +6338,8 @@ struct dp_intf_data_type {
     using native = lumo_tarn_dp_intf_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_intf_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_intf_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_intf_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_intf_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_intf_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_intf_data_len;  ///< an upper bound of its frame's size
@@ -6611,8 +6611,8 @@ struct dp_appl_sig_type {
     using native = lumo_tarn_dp_appl_sig;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_sig";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_sig_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_sig_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_appl_sig_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_appl_sig_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_appl_sig_len;  ///< an upper bound of its frame's size
@@ -7015,8 +7015,8 @@ struct dp_appl_cfg_type {
     using native = lumo_tarn_dp_appl_cfg;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_cfg";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_appl_cfg_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_appl_cfg_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_appl_cfg_len;  ///< an upper bound of its frame's size
@@ -7210,8 +7210,8 @@ struct dp_appl_data_type {
     using native = lumo_tarn_dp_appl_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_appl_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_appl_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_appl_data_len;  ///< an upper bound of its frame's size
@@ -7333,8 +7333,8 @@ struct dp_tt_table_type {
     using native = lumo_tarn_dp_tt_table;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tt_table";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_tt_table_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_tt_table_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_tt_table_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_tt_table_len;  ///< an upper bound of its frame's size
@@ -8274,8 +8274,8 @@ struct dp_tt_table_data_type {
     using native = lumo_tarn_dp_tt_table_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tt_table_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_tt_table_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_tt_table_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_tt_table_data_len;  ///< an upper bound of its frame's size
@@ -8400,8 +8400,8 @@ struct dp_mp_tc_prefix_type {
     using native = lumo_tarn_dp_mp_tc_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_len;  ///< an upper bound of its frame's size
@@ -8654,8 +8654,8 @@ struct dp_mp_tc_prefix_lumo_data_type {
     using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_lumo_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_lumo_data_len;  ///< an upper bound of its frame's size
@@ -8780,8 +8780,8 @@ struct dp_mp_tc_prefix_data_type {
     using native = lumo_tarn_dp_mp_tc_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_data_len;  ///< an upper bound of its frame's size
@@ -8939,8 +8939,8 @@ struct dp_mp_prefix_type {
     using native = lumo_tarn_dp_mp_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_prefix_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_prefix_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_prefix_len;  ///< an upper bound of its frame's size
@@ -9097,8 +9097,8 @@ struct dp_mp_prefix_complex_data_type {
     using native = lumo_tarn_dp_mp_prefix_complex_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_complex_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_prefix_complex_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_prefix_complex_data_len;  ///< an upper bound of its frame's size
@@ -9234,8 +9234,8 @@ struct dp_mp_prefix_data_type {
     using native = lumo_tarn_dp_mp_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_dp_mp_prefix_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_dp_mp_prefix_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_dp_mp_prefix_data_len;  ///< an upper bound of its frame's size
@@ -9365,8 +9365,8 @@ struct pal_mp_prefix_type {
     using native = lumo_tarn_pal_mp_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_pal_mp_prefix_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_pal_mp_prefix_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_pal_mp_prefix_len;  ///< an upper bound of its frame's size
@@ -9517,8 +9517,8 @@ struct pal_mp_prefix_data_type {
     using native = lumo_tarn_pal_mp_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;  ///< makes an instance
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;  ///< creates an instance
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;  ///< destroys it
     static constexpr auto set = lumo_tarn_pal_mp_prefix_data_set;  ///< moves one into another
     static constexpr auto clone = lumo_tarn_pal_mp_prefix_data_clone;  ///< a deep copy
     static constexpr auto len = lumo_tarn_pal_mp_prefix_data_len;  ///< an upper bound of its frame's size
@@ -9678,11 +9678,11 @@ struct debug_setting_msg_type {
     static constexpr const char *name = "lumo_tarn_debug_setting_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;  ///< destroys it
     /// its payload
     static constexpr auto payload_get = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get;
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_free_and_set;
@@ -9707,11 +9707,11 @@ struct dp_debug_setting_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_debug_setting_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;  ///< destroys it
     /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get;
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_free_and_set;
@@ -9736,10 +9736,10 @@ struct cl_appl_msg_type {
     static constexpr const char *name = "lumo_tarn_cl_appl_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;  ///< destroys it
     static constexpr auto payload_get = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get;  ///< its payload
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_free_and_set;
@@ -9764,10 +9764,10 @@ struct cl_cfg_msg_type {
     static constexpr const char *name = "lumo_tarn_cl_cfg_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_cfg_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;  ///< destroys it
     static constexpr auto payload_get = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get;  ///< its payload
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_free_and_set;
@@ -9792,10 +9792,10 @@ struct dp_intf_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_intf_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_intf_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;  ///< destroys it
     static constexpr auto payload_get = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get;  ///< its payload
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_free_and_set;
@@ -9820,10 +9820,10 @@ struct dp_appl_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_appl_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;  ///< destroys it
     static constexpr auto payload_get = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get;  ///< its payload
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_free_and_set;
@@ -9848,10 +9848,10 @@ struct dp_tt_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_tt_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_tt_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;  ///< destroys it
     static constexpr auto payload_get = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get;  ///< its payload
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_free_and_set;
@@ -9876,11 +9876,11 @@ struct dp_mp_tc_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_tc_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;  ///< destroys it
     /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get;
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_free_and_set;
@@ -9905,11 +9905,11 @@ struct dp_mp_prefix_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;  ///< destroys it
     /// its payload
     static constexpr auto payload_get = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get;
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_free_and_set;
@@ -9934,11 +9934,11 @@ struct pal_mp_prefix_msg_type {
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_pal_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;  ///< makes one
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;  ///< ends it
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;  ///< creates one
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;  ///< destroys it
     /// its payload
     static constexpr auto payload_get = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get;
-    /// takes its payload out
+    /// removes and returns its payload
     static constexpr auto payload_detach = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get_detach;
     /// replaces its payload
     static constexpr auto payload_free_and_set = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_free_and_set;

@@ -8,15 +8,15 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** Under which number the type code of this module traces; 0 until it is registered. */
+/** Trace module number of the module's type code; 0 until it is registered. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_type_trace_module_id;
-/** Under which number the message code of this module traces; 0 until it is registered. */
+/** Trace module number of the module's message code; 0 until it is registered. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_message_trace_module_id;
-/** Under which number the queue code of this module traces; 0 until it is registered. */
+/** Trace module number of the module's queue code; 0 until it is registered. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_queue_trace_module_id;
-/** Under which number the stub code of this module traces; 0 until it is registered. */
+/** Trace module number of the module's stub code; 0 until it is registered. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_stub_trace_module_id;
-/** The handler that is registered for all bundles of the module, or null. Carries no lock. */
+/** The handler that is registered for all bundles of the module, or NULL. Not synchronized. */
 extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_registered_handler;
 
 /** @name Types

@@ -38,7 +38,7 @@ std::string comment(std::string text) {
     text += " */";
     for (std::size_t at = 0; at < text.size();) {
         std::size_t end = std::min(text.find(' ', at), text.size());
-        if (text.substr(end) == " */") end = text.size();  // the end of a comment never stands alone
+        if (text.substr(end) == " */") end = text.size();  // the end of a comment is never alone on a line
         if (line.size() + 1 + end - at > line_width) {
             out += line + "\n";
             line = " *";
@@ -139,7 +139,7 @@ std::string record_page(const Record &record) {
     }
     const Subject subject{.record = &record};
     std::string body = "/** " + sentence(record.meaning) + "\n *\n" + members_table(record) +
-                       " *\n * How the operations of all records behave is told in lumo_ui_tarn/families.h. */\n";
+                       " *\n * lumo_ui_tarn/families.h describes the operations. */\n";
     body += "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::record);
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
@@ -190,7 +190,7 @@ std::string bundle_page(const Bundle &bundle) {
         {"messages/" + std::string(bundle.message.name) + ".h"}, body);
 }
 
-std::string chief(const Files &files) {
+std::string umbrella(const Files &files) {
     std::string text =
         generated +
         std::string(
@@ -198,8 +198,8 @@ std::string chief(const Files &files) {
             " * lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the "
             "traffic-aware routing\n"
             " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which "
-            "explains each\n"
-            " * family of operations once; the other headers list names. */\n") +
+            "describes the\n"
+            " * operations; the other headers list names. */\n") +
         "#ifndef LUMO_UI_TARN_H\n#define LUMO_UI_TARN_H\n\n#include <lumo_ui_tarn/base.h>\n"
         "#include <lumo_ui_tarn/families.h>\n";
     std::string_view folder;
@@ -225,7 +225,7 @@ Files write_headers() {
     for (const Bundle *b : bundles) files[base + "bundles/" + std::string(b->name) + ".h"] = bundle_page(*b);
     files[base + "module.h"] = page("module.h", "module.h - the module as a whole: types, trace, registration.", {},
                                     data_of({}) + by_family({}, Applies::module));
-    files["lumo_ui_tarn.h"] = chief(files);
+    files["lumo_ui_tarn.h"] = umbrella(files);
     files["lumo_ui_tarn.hpp"] = interface_page();
     return files;
 }

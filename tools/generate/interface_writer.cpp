@@ -115,7 +115,7 @@ std::string identifier(std::string_view name) {
     return std::string(name) + (is_taken ? "_member" : "");
 }
 
-// Breaks a line behind commas; what is continued stands further in.
+// Breaks a line after commas and indents the rest.
 std::string broken(std::string line, std::size_t indent, std::size_t first_indent = 0) {
     std::string text;
     line.insert(0, first_indent, ' ');
@@ -328,8 +328,8 @@ std::string record_types(const Record &record) {
         alias("native", c, "the record in C") + c_name(c) +
         explained(std::string("static constexpr bool owns_blocks = ") + (owns_blocks(record) ? "true" : "false"),
                   "has arrays or strings");
-    text += constants(c + "_", {{"create", "create", "makes an instance"},
-                                {"destroy", "destroy", "ends it"},
+    text += constants(c + "_", {{"create", "create", "creates an instance"},
+                                {"destroy", "destroy", "destroys it"},
                                 {"set", "set", "moves one into another"},
                                 {"clone", "clone", "a deep copy"},
                                 {"len", "len", "an upper bound of its frame's size"},
@@ -383,10 +383,10 @@ std::string message_types(const Message &message) {
            alias("payload", space + short_name(payload) + "_type", "what it carries") + c_name(c) +
            "    /// Its identity, 16 bytes.\n    static const std::uint8_t *luid() { return message_" + c +
            "_luid; }\n" +
-           constants(c + "_message_", {{"create", "create", "makes one"},
-                                       {"destroy", "destroy", "ends it"},
+           constants(c + "_message_", {{"create", "create", "creates one"},
+                                       {"destroy", "destroy", "destroys it"},
                                        {"payload_get", payload + "_get", "its payload"},
-                                       {"payload_detach", payload + "_get_detach", "takes its payload out"},
+                                       {"payload_detach", payload + "_get_detach", "removes and returns its payload"},
                                        {"payload_free_and_set", payload + "_free_and_set", "replaces its payload"},
                                        {"len", "len", "its frame's size"},
                                        {"marshal", "marshal", "writes its frame"},
@@ -422,8 +422,9 @@ std::string interface_page() {
     std::string text =
         "/// @file\n"
         "/// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.\n"
-        "/// lumo_ui_tarn/interface.hpp tells what they have in common, and lumo_ui_tarn/families.h how each operation "
-        "behaves.\n"
+        "/// lumo_ui_tarn/interface.hpp describes what they have in common, lumo_ui_tarn/families.h what each "
+        "operation "
+        "does.\n"
         "///\n"
         "/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
         "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is "

@@ -12,7 +12,7 @@ using namespace schema;
 
 namespace {
 
-// What stands in an operation's name after the placeholders.
+// The part of an operation's name after the placeholders.
 std::string suffix_of(const Operation &operation) { return operation.name.substr(operation.name.rfind('}') + 2); }
 
 // The field of an operations struct that a row fills.

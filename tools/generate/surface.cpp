@@ -290,21 +290,20 @@ std::vector<Datum> all_data() {
                 (t.subject.message != nullptr ? "; num_live stays 0." : "."));
     }
     for (const CatalogueEntry &c : catalogue()) {
-        add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject,
-            "Identity of " + c.name + ", as it stands in frames.");
+        add("const uint8_t", "message_" + c.name + "_luid", "[16]", c.subject, "Identity of " + c.name + " in frames.");
         add("const char", "message_" + c.name + "_luid_text", "[33]", c.subject,
             "Identity of " + c.name + " in hexadecimal digits.");
         add("const char", "message_" + c.name + "_name", "[64]", c.subject, "Name of " + c.name + ", for trace lines.");
     }
     for (const std::string trace : {"type", "message", "queue", "stub"}) {
         add("uint16_t", "g_mirk_lumo_ui_tarn_" + trace + "_trace_module_id", "", {},
-            "Under which number the " + trace + " code of this module traces; 0 until it is registered.");
+            "Trace module number of the module's " + trace + " code; 0 until it is registered.");
     }
     add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {},
-        "The handler that is registered for all bundles of the module, or null. Carries no lock.");
+        "The handler that is registered for all bundles of the module, or NULL. Not synchronized.");
     for (const Bundle *b : bundles) {
         add("mirk_bundle_handler", "lumo_ui_tarn_" + std::string(b->name) + "_bundle_registered_handler", "",
-            {.bundle = b}, "The handler that is registered for this bundle, or null. Carries no lock.");
+            {.bundle = b}, "The handler that is registered for this bundle, or NULL. Not synchronized.");
     }
     return all;
 }

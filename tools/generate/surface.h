@@ -68,7 +68,7 @@ struct CatalogueEntry {
 };
 std::vector<CatalogueEntry> catalogue();
 
-// The types in the order of the type table, with the name that the exported record bears.
+// The types in the order of the type table, with the name of the exported type record.
 struct TypeEntry {
     std::string name, schema_name;
     Subject subject;

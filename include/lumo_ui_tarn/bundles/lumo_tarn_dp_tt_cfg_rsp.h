@@ -11,7 +11,7 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** The handler that is registered for this bundle, or null. Carries no lock. */
+/** The handler that is registered for this bundle, or NULL. Not synchronized. */
 extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_registered_handler;
 
 /** @name Handlers
@@ -32,7 +32,7 @@ LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle
 /** @} */
 
 /* ---- start ---- */
-/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_start, as it stands in frames. */
+/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_start in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_tt_cfg_rsp_bundle_start_luid[16];
 /** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_start in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_tt_cfg_rsp_bundle_start_luid_text[33];
@@ -120,7 +120,7 @@ LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_
 /** @} */
 
 /* ---- abort ---- */
-/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_abort, as it stands in frames. */
+/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_abort in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_luid[16];
 /** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_abort in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_luid_text[33];
@@ -208,7 +208,7 @@ LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_
 /** @} */
 
 /* ---- commit ---- */
-/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_commit, as it stands in frames. */
+/** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_commit in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_tt_cfg_rsp_bundle_commit_luid[16];
 /** Identity of lumo_tarn_dp_tt_cfg_rsp_bundle_commit in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_tt_cfg_rsp_bundle_commit_luid_text[33];

@@ -14,7 +14,7 @@ typedef struct lumo_tarn_dp_tt_msg lumo_tarn_dp_tt_msg;
 /** The module's own type record of lumo_tarn_dp_tt_msg_message: identity, variants, usage counters; num_live stays
  * 0. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_tt_msg_message_type_info_internal;
-/** Identity of lumo_tarn_dp_tt_msg, as it stands in frames. */
+/** Identity of lumo_tarn_dp_tt_msg in frames. */
 extern LUMO_UI_TARN_API const uint8_t message_lumo_tarn_dp_tt_msg_luid[16];
 /** Identity of lumo_tarn_dp_tt_msg in hexadecimal digits. */
 extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_tt_msg_luid_text[33];

@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | num_kesh_appls | uint32_t count           | elements in kesh_appl |
  * | kesh_appl      | lumo_tarn_cl_kesh_appl[] | applications |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_cl_appl_data lumo_tarn_cl_appl_data;
 /** The module's own type record of lumo_tarn_cl_appl_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_cl_appl_data_type_info_internal;

@@ -21,7 +21,7 @@ LUMO_UI_TARN_BEGIN
  * | tarn_smc_blocked_flags         | uint32_t              | blocked flags of the smc queue |
  * | tarn_smc_queue_size_warn_count | uint64_t              | number of warnings on the queue's size |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_cl_cfg_data lumo_tarn_cl_cfg_data;
 /** The module's own type record of lumo_tarn_cl_cfg_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_cl_cfg_data_type_info_internal;

@@ -19,7 +19,7 @@ LUMO_UI_TARN_BEGIN
  * | protocol_id        | uint16_t        | identifier of the protocol |
  * | tarn_id            | uint16_t        | identifier of the application within the tarn feature |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_cl_kesh_appl lumo_tarn_cl_kesh_appl;
 /** The module's own type record of lumo_tarn_cl_kesh_appl: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_cl_kesh_appl_type_info_internal;

@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | warn_enabled  | uint32_t | switch of warning-level debug output |
  * | error_enabled | uint32_t | switch of error-level debug output |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_debug_setting lumo_tarn_debug_setting;
 /** The module's own type record of lumo_tarn_debug_setting: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_debug_setting_type_info_internal;

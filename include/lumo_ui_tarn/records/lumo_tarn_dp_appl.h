@@ -19,7 +19,7 @@ LUMO_UI_TARN_BEGIN
  * | tarn_kesh_id | uint16_t             | tarn feature's identifier of the kesh application |
  * | next_ptr     | uint64_t             | link to the next entry in the data plane |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_appl lumo_tarn_dp_appl;
 /** The module's own type record of lumo_tarn_dp_appl: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_type_info_internal;

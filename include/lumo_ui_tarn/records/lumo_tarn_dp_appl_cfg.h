@@ -20,7 +20,7 @@ LUMO_UI_TARN_BEGIN
  * | num_sigs        | uint32_t count          | elements in sig_list |
  * | sig_list        | lumo_tarn_dp_appl_sig[] | signatures |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_appl_cfg lumo_tarn_dp_appl_cfg;
 /** The module's own type record of lumo_tarn_dp_appl_cfg: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_cfg_type_info_internal;

@@ -16,7 +16,7 @@ LUMO_UI_TARN_BEGIN
  * | num_appls | uint32_t count      | elements in appl_list |
  * | appl_list | lumo_tarn_dp_appl[] | application entries |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_appl_list lumo_tarn_dp_appl_list;
 /** The module's own type record of lumo_tarn_dp_appl_list: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_list_type_info_internal;

@@ -28,7 +28,7 @@ LUMO_UI_TARN_BEGIN
  * | sport_max      | uint16_t             | high end of the source port range |
  * | next_ptr       | uint64_t             | link to the next signature in the bucket |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_appl_sig lumo_tarn_dp_appl_sig;
 /** The module's own type record of lumo_tarn_dp_appl_sig: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_sig_type_info_internal;

@@ -22,7 +22,7 @@ LUMO_UI_TARN_BEGIN
  * | exporter_tt_enabled | uint32_t | debug switch of the exporter for tt data |
  * | exporter_mp_enabled | uint32_t | debug switch of the exporter for mp data |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_debug_setting lumo_tarn_dp_debug_setting;
 /** The module's own type record of lumo_tarn_dp_debug_setting: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_debug_setting_type_info_internal;

@@ -21,7 +21,7 @@ LUMO_UI_TARN_BEGIN
  * | out_lumo_wexa_is_valid | boolean                     | says whether out_lumo_wexa holds a value |
  * | out_lumo_wexa          | lumo_tarn_dp_lumo_wexa_info | egress side |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_intf_data lumo_tarn_dp_intf_data;
 /** The module's own type record of lumo_tarn_dp_intf_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_intf_data_type_info_internal;

@@ -16,7 +16,7 @@ LUMO_UI_TARN_BEGIN
  * | num_ll_specs | uint32_t count         | elements in ll_spec_list |
  * | ll_spec_list | lumo_tarn_dp_ll_spec[] | learn list entries |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_learn_list lumo_tarn_dp_learn_list;
 /** The module's own type record of lumo_tarn_dp_learn_list: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_learn_list_type_info_internal;

@@ -40,7 +40,7 @@ LUMO_UI_TARN_BEGIN
  * | heap_elements_ptr  | uint64_t               | where the heap's elements lie |
  * | show_ll_comm       | boolean                | selection flag of the show command |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_ll_spec lumo_tarn_dp_ll_spec;
 /** The module's own type record of lumo_tarn_dp_ll_spec: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_ll_spec_type_info_internal;

@@ -19,7 +19,7 @@ LUMO_UI_TARN_BEGIN
  * | out_wexa_is_valid | boolean                | says whether out_wexa holds a value |
  * | out_wexa          | lumo_tarn_dp_wexa_info | egress entry |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_lumo_wexa_info lumo_tarn_dp_lumo_wexa_info;
 /** The module's own type record of lumo_tarn_dp_lumo_wexa_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_lumo_wexa_info_type_info_internal;

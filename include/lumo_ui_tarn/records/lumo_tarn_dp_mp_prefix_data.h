@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | num_prefixes | uint8_t count                         | elements in prefix_data |
  * | prefix_data  | lumo_tarn_dp_mp_prefix_complex_data[] | looked-up prefixes |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_mp_prefix_data lumo_tarn_dp_mp_prefix_data;
 /** The module's own type record of lumo_tarn_dp_mp_prefix_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_mp_prefix_data_type_info_internal;

@@ -21,7 +21,7 @@ LUMO_UI_TARN_BEGIN
  * | tc_list           | lumo_tarn_dp_tc_list | traffic classes |
  * | show_pfx_comm     | boolean              | selection flag of the show request |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_mp_tc_prefix lumo_tarn_dp_mp_tc_prefix;
 /** The module's own type record of lumo_tarn_dp_mp_tc_prefix: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_mp_tc_prefix_type_info_internal;

@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | num_lumos | uint8_t count               | elements in lumo_data |
  * | lumo_data | lumo_tarn_dp_mp_tc_prefix[] | entries, one for each processor |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_mp_tc_prefix_lumo_data lumo_tarn_dp_mp_tc_prefix_lumo_data;
 /** The module's own type record of lumo_tarn_dp_mp_tc_prefix_lumo_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_mp_tc_prefix_lumo_data_type_info_internal;

@@ -32,7 +32,7 @@ LUMO_UI_TARN_BEGIN
  * | appl          | lumo_tarn_dp_appl    | class's application entry |
  * | id            | uint32_t             | identifier of the class |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_tc lumo_tarn_dp_tc;
 /** The module's own type record of lumo_tarn_dp_tc: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_tc_type_info_internal;

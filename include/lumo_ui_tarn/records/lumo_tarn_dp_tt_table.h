@@ -47,7 +47,7 @@ LUMO_UI_TARN_BEGIN
  * | delay_head_ptr     | uint64_t                | head of the delay entries in the data plane |
  * | delay_entries      | uint32_t                | number of delay entries |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_tt_table lumo_tarn_dp_tt_table;
 /** The module's own type record of lumo_tarn_dp_tt_table: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_tt_table_type_info_internal;

@@ -14,7 +14,7 @@ LUMO_UI_TARN_BEGIN
  * |--------|----------|---|
  * | flags  | uint32_t | flags of the wexa entry |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dp_wexa_info lumo_tarn_dp_wexa_info;
 /** The module's own type record of lumo_tarn_dp_wexa_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_wexa_info_type_info_internal;

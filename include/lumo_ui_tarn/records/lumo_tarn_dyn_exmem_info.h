@@ -19,7 +19,7 @@ LUMO_UI_TARN_BEGIN
  * | num_exmems      | uint32_t count                 | elements in exmem |
  * | exmem           | lumo_tarn_exmem_info_wrapper[] | dynamic blocks |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_dyn_exmem_info lumo_tarn_dyn_exmem_info;
 /** The module's own type record of lumo_tarn_dyn_exmem_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dyn_exmem_info_type_info_internal;

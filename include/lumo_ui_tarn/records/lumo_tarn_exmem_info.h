@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | ppe_addr   | uint64_t | block's address as the ppe side uses it |
  * | size       | uint32_t | size of the block |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_exmem_info lumo_tarn_exmem_info;
 /** The module's own type record of lumo_tarn_exmem_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_exmem_info_type_info_internal;

@@ -15,7 +15,7 @@ LUMO_UI_TARN_BEGIN
  * |--------|----------------------|---|
  * | exmem  | lumo_tarn_exmem_info | wrapped block description |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_exmem_info_wrapper lumo_tarn_exmem_info_wrapper;
 /** The module's own type record of lumo_tarn_exmem_info_wrapper: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_exmem_info_wrapper_type_info_internal;

@@ -18,7 +18,7 @@ LUMO_UI_TARN_BEGIN
  * | ftr_ver   | uint16_t | version of the footer |
  * | ftr_len   | uint16_t | length of the footer |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_fdb_base lumo_tarn_fdb_base;
 /** The module's own type record of lumo_tarn_fdb_base: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_fdb_base_type_info_internal;

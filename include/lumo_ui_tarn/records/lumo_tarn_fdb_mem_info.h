@@ -16,7 +16,7 @@ LUMO_UI_TARN_BEGIN
  * | size     | uint32_t | size of the memory |
  * | mem_addr | uint64_t | address of the memory |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_fdb_mem_info lumo_tarn_fdb_mem_info;
 /** The module's own type record of lumo_tarn_fdb_mem_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_fdb_mem_info_type_info_internal;

@@ -28,7 +28,7 @@ LUMO_UI_TARN_BEGIN
  * | num_complexes        | uint8_t                  | number of complexes |
  * | lumo_info_list       | lumo_tarn_lumo_info_list | per-processor records |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_global_info lumo_tarn_global_info;
 /** The module's own type record of lumo_tarn_global_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_global_info_type_info_internal;

@@ -76,7 +76,7 @@ LUMO_UI_TARN_BEGIN
  * | num_dyn_exmems              | uint8_t count                 | elements in dyn_exmem |
  * | dyn_exmem                   | lumo_tarn_dyn_exmem_info[]    | processor's dynamic memory blocks |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_lumo_info lumo_tarn_lumo_info;
 /** The module's own type record of lumo_tarn_lumo_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_lumo_info_type_info_internal;

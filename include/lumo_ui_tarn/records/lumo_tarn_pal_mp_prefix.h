@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | prefix       | address  | prefix |
  * | tc_list_size | uint32_t | size of the prefix's class list |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_pal_mp_prefix lumo_tarn_pal_mp_prefix;
 /** The module's own type record of lumo_tarn_pal_mp_prefix: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_pal_mp_prefix_type_info_internal;

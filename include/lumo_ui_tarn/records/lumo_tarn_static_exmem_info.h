@@ -18,7 +18,7 @@ LUMO_UI_TARN_BEGIN
  * | num_hash_elements | uint32_t             | number of hash elements in the block |
  * | exmem             | lumo_tarn_exmem_info | block itself |
  *
- * How the operations of all records behave is told in lumo_ui_tarn/families.h. */
+ * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_static_exmem_info lumo_tarn_static_exmem_info;
 /** The module's own type record of lumo_tarn_static_exmem_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_static_exmem_info_type_info_internal;
