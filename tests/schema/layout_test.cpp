@@ -14,28 +14,30 @@
 namespace {
 
 using namespace tarn;
+using schema::Category;
 using schema::Kind;
 using schema::Role;
 
 std::string class_name(const schema::Member &m) {
     if (m.role == Role::count) return "count";
     if (m.role == Role::length) return "length";
-    switch (m.kind) {
-        case Kind::boolean:
+    switch (category(m.kind)) {
+        case Category::boolean:
             return "boolean";
-        case Kind::address:
+        case Category::address:
             return "address";
-        case Kind::enumeration:
+        case Category::enumeration:
             return "enumeration";
-        case Kind::record:
+        case Category::record:
             return "nested";
-        case Kind::string:
+        case Category::string:
             return "string";
-        case Kind::array:
+        case Category::array:
             return "array";
-        default:
-            return "integer";
+        case Category::integer:
+            break;
     }
+    return "integer";
 }
 
 // One line for each member, in the form of reference::layout_text.
