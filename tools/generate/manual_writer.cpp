@@ -110,7 +110,8 @@ Each is listed once below, with words in capitals for the names of types and mem
 has the details.
 .Bl -tag -width ctx_id
 .It Fa h
-The handle. Use it from one thread at a time.
+The handle.
+Use it from one thread at a time.
 .It Fa ctx_id
 A number that is passed to the memory callbacks of the runtime unchanged.
 .It Fa err
