@@ -29,10 +29,11 @@ inline constexpr int variant_entries = 129;
 // the runtime copies each record by the lengths that stand here.
 template <const auto &Type>
 inline constinit std::array<mirk_variant_entry, variant_entries> entries_of = [] {
+    constexpr std::uint32_t used = used_length(Type), slop = alloc_slop(Type);
     std::array<mirk_variant_entry, variant_entries> entries{};
     for (mirk_variant_entry &entry : entries) {
-        entry.used_length = used_length(Type);
-        entry.alloc_slop = alloc_slop(Type);
+        entry.used_length = used;
+        entry.alloc_slop = slop;
     }
     return entries;
 }();

@@ -54,7 +54,9 @@ struct PrimitiveOf<Kind::record, Of> {
     static void initialize(auto... arguments) { Lifecycle<*Of>::initialize(arguments...); }
     static mirk_type_info *type() { return &TypeInfo<*Of>::own; }
     static void set_instance_embedded(auto... arguments) { Lifecycle<*Of>::set_instance_embedded(arguments...); }
-    static void destroy_internal(auto... arguments) { Lifecycle<*Of>::destroy_internal(arguments...); }
+    static void destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *field, std::uint32_t free_it) {
+        Lifecycle<*Of>::destroy_internal(h, ctx_id, field, free_it);
+    }
     static std::uint32_t get_oid_count(mirk_handle *h, std::uint32_t, mirk_object *field, std::uint32_t *err) {
         return get_own_oid_count(h, field, err);
     }
