@@ -1,18 +1,31 @@
-"""Add a member: idle_limit, the last one of a traffic class."""
+"""Add a member: idle_limit, at the end of a traffic class and of two records that the pictures of the tour show."""
+
+import functools
 
 NEW = ["idle_limit"]
 
 
-def add_member(tree):
-    tree.insert("schema/records/traffic_class.h", '    u16("idle_limit", "how long the class may stay idle"),\n',
-                after='    u32("id", "identifier of the class"),\n')
+# The sizes are those in the independent codec's table: used, rounded, slop, base, state, tracked.
+def add_member(topic, last, sizes, new_sizes, next_record, tree):
+    tree.insert(f"schema/records/{topic}.h", '    u16("idle_limit", "how long the class may stay idle"),\n', after=last)
     table = "tests/support/reference/record_tables.cpp"
-    tree.replace(table, "ed7168bceeaa74618db6b05286fecacb 300 304 20 320 44 364",
-                 "ed7168bceeaa74618db6b05286fecacb 302 304 18 320 45 365")
-    tree.insert(table, "  idle_limit integer u_int16\n", before="record lumo_tarn_dp_tc_list")
+    tree.replace(table, sizes, new_sizes)
+    tree.insert(table, "  idle_limit integer u_int16\n", before=f"record {next_record} ")
 
 
-STEPS = [(add_member, 1)]
+STEPS = [
+    (functools.partial(add_member, "traffic_class", '    u32("id", "identifier of the class"),\n',
+                       "ed7168bceeaa74618db6b05286fecacb 300 304 20 320 44 364",
+                       "ed7168bceeaa74618db6b05286fecacb 302 304 18 320 45 365", "lumo_tarn_dp_tc_list"), 1),
+    (functools.partial(add_member, "debug_setting",
+                       '    u32("exporter_mp_enabled", "debug switch of the exporter for mp data"),\n',
+                       "ad41ed1f43f7eb0ede202ce5d6780f0a 44 48 12 56 9 65",
+                       "ad41ed1f43f7eb0ede202ce5d6780f0a 46 48 10 56 10 66", "lumo_tarn_debug_setting"), 1),
+    (functools.partial(add_member, "prefix",
+                       '    many("complex_data", lumo_tarn_dp_mp_prefix, "entries, one for each complex"),\n',
+                       "7b6d292586e45fb1cd81d6683d42da19 72 72 16 88 24 112",
+                       "7b6d292586e45fb1cd81d6683d42da19 74 80 22 96 32 128", "lumo_tarn_dp_mp_prefix_data"), 1),
+]
 
 C = r"""
 #include <assert.h>
@@ -74,6 +87,8 @@ FILES = [
     ("tests/golden/layout.txt", "idle_limit"),
     ("build/dev/bindings/python/lumo_tarn/records.pyi", "def idle_limit(self) -> int"),
     ("build/dev/tools/generate/dissector/tarn.lua", '{ "idle_limit", "u16", "how long the class may stay idle"'),
+    ("docs/pictures/frame.svg", "idle_limit"),
+    ("docs/pictures/state_area.svg", "idle_limit"),
     ("build/dev/docs/tarn_frame.5", ".It idle_limit\nu16, 2 bytes: how long the class may stay idle\n"),
 ]
 
@@ -83,7 +98,8 @@ TOOL = [
     ("schema --html", '"name":"idle_limit"'),
     ("complete schema lumo_tarn_dp_tc.idl", "lumo_tarn_dp_tc.idle_limit\thow long the class may stay idle\n"),
     ("generate dp-mp-tc-cfg --form json", '"idle_limit":'),
+    ("encode examples/dp_mp_tc_cfg.xml -o build/frames", ""),
+    ("decode --json build/frames", '"idle_limit":0'),
+    ("dissect build/frames", "tc_list[0].idle_limit"),
+    ("view build/frames", '"idle_limit":["u_int16","how long the class may stay idle"]'),
 ]
-
-TESTS = []
-RUN = ""

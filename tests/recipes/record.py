@@ -102,6 +102,3 @@ TOOL = [
     ("schema --html", '"lumo_tarn_dp_queue"'),
     ("complete schema lumo_tarn_dp_qu", "lumo_tarn_dp_queue\tone packet queue\n"),
 ]
-
-TESTS = []
-RUN = ""
