@@ -2,9 +2,9 @@
 // writers of headers and tables, and the tool read these rows, so that a new kind is described here once.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 namespace tarn::schema {
 
@@ -24,20 +24,19 @@ inline constexpr std::uint32_t pointer_size = 8;
 struct KindFacts {
     Kind kind;
     Category category;
-    std::string_view name;             // in printed tables
-    std::string_view value_type = "";  // in C, of a value that fits in a register; otherwise empty
-    std::string_view primitive = "";   // what the runtime's functions of the kind begin with; empty if it has none
-    std::uint32_t storage = varies;    // bytes in an instance
-    std::uint32_t alignment = 8;       // in an instance
-    std::uint32_t wire = varies;       // bytes in a frame, without state
-    std::uint32_t own_states = 0;      // state bytes inside the member's own area, apart from a record's
-    std::uint64_t greatest = 0;        // value of an integer
-    std::string_view in_frame;         // what the bytes in a frame are, in words
+    const char *name;                // in printed tables
+    const char *value_type = "";     // in C, of a value that fits in a register; otherwise empty
+    const char *primitive = "";      // what the runtime's functions of the kind begin with; empty if it has none
+    std::uint32_t storage = varies;  // bytes in an instance
+    std::uint32_t alignment = 8;     // in an instance
+    std::uint32_t wire = varies;     // bytes in a frame, without state
+    std::uint32_t own_states = 0;    // state bytes inside the member's own area, apart from a record's
+    std::uint64_t greatest = 0;      // value of an integer
+    const char *in_frame;            // what the bytes in a frame are, in words
 };
 
 template <class Integer>
-consteval KindFacts integer_facts(Kind kind, std::string_view name, std::string_view value_type,
-                                  std::string_view primitive) {
+consteval KindFacts integer_facts(Kind kind, const char *name, const char *value_type, const char *primitive) {
     return {.kind = kind,
             .category = Category::integer,
             .name = name,

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <span>
+#include <string_view>
 
 #include "schema/kind_facts.h"
 
@@ -97,7 +98,7 @@ consteval Member length(std::string_view name, std::string_view meaning) {
 consteval Member string(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::string}; }
 
 // Has the six accessors, with a value that fits in a register.
-constexpr bool is_scalar(const Member &m) { return m.role == Role::value && !facts(m.kind).value_type.empty(); }
+constexpr bool is_scalar(const Member &m) { return m.role == Role::value && *facts(m.kind).value_type != '\0'; }
 
 // Embedded with a state area of its own.
 constexpr bool has_area(const Member &m) { return m.kind == Kind::record || facts(m.kind).own_states != 0; }
