@@ -104,6 +104,8 @@ FILES = [
 
 TOOL = [
     ("schema lumo_tarn_debug_setting", "peak_load"),
+    ("schema --json", '"name": "peak_load"'),
+    ("schema --html", '"name":"peak_load"'),
     ("complete schema lumo_tarn_debug_setting.pe", "lumo_tarn_debug_setting.peak_load\thighest load so far\n"),
     ("generate cl-debug --form json", '"peak_load":'),
 ]
