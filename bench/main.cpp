@@ -24,10 +24,10 @@ private:
     tarn::bench::Board &board_;
 };
 
-// Profiles of ten iterations each, after one that fills caches of the program.
+// Profiles of ten iterations each, after some in which tables and heaps grow to their size.
 void count_instructions(const tarn::bench::Board &board) {
     for (const auto &[name, run] : board.runs()) {
-        run();
+        for (int i = 0; i < 5; ++i) run();
         CALLGRIND_ZERO_STATS;
         for (int i = 0; i < 10; ++i) run();
         CALLGRIND_DUMP_STATS_AT(name.c_str());

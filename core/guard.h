@@ -123,14 +123,18 @@ inline bool is_state_tracked(const mirk_object *object) {
 #ifdef TARN_RUNTIME_INSIDE
 extern "C" bool mirk_inside_is_observed(const mirk_handle *h);
 inline constexpr bool runtime_inside = true;
+// Inlined in the archive alone: elsewhere it is not worth the size.
+#define TARN_INLINE_INSIDE [[gnu::always_inline]]
 inline bool is_observed(const mirk_handle *h) { return mirk_inside_is_observed(h); }
 #else
 inline constexpr bool runtime_inside = false;
+#define TARN_INLINE_INSIDE
 inline constexpr bool is_observed(const mirk_handle *) { return true; }
 #endif
 
 template <class T>
-void notify_write(mirk_handle *h, std::uint32_t ctx_id, T *member, std::size_t size = sizeof(T)) {
+[[gnu::always_inline]] inline void notify_write(mirk_handle *h, std::uint32_t ctx_id, T *member,
+                                                std::size_t size = sizeof(T)) {
     if (is_observed(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
 }
 template <class T>

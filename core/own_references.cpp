@@ -2,14 +2,13 @@
 
 namespace tarn {
 
-std::uint32_t get_own_oid_count(mirk_handle *h, const void *object, std::uint32_t *err) {
+void refuse_oid_count(mirk_handle *h, std::uint32_t *err) {
     if (*err != 0) {
         trace(error_level, "(ERR): Error already present in call to get object oid count");
-    } else if (object == nullptr) {
+    } else {
         trace(error_level, "(ERR): Invalid object passed in to get object oid count");
         fail(h, err, EINVAL);
     }
-    return 0;
 }
 
 void get_own_object_references(mirk_handle *h, const void *object, std::uint32_t *err) {

@@ -189,13 +189,15 @@ struct Head {
     std::uint32_t jump_base = 0, jump = 0;
 };
 
-[[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(const Reader &in, mirk_object *instance) {
+// Gets what it needs piece by piece, so that the reader itself can stay in registers.
+[[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                               mirk_object *instance, std::int32_t remaining,
+                                                               std::uint32_t *err) {
     // A primitive that fails writes nothing, so everything read into a local starts at 0.
     void *ra_value = nullptr;
     std::uint8_t ra_byte = 0;
-    const std::uint32_t n =
-        _mirk_instance_ra_data_unmarshal(in.h, in.ctx_id, in.at(), &ra_value, &ra_byte, in.left(), in.err);
-    mirklib_update_ra_all(in.h, in.ctx_id, instance, ra_value, ra_byte);
+    const std::uint32_t n = _mirk_instance_ra_data_unmarshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);
+    mirklib_update_ra_all(h, ctx_id, instance, ra_value, ra_byte);
     return n;
 }
 

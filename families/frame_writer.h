@@ -21,16 +21,16 @@ struct Writer {
     bool tracked = false;
     std::uint8_t *area = nullptr;  // null: an instance without state, each of whose state bytes is 0
 
-    std::uint8_t *at() const { return buffer + offset; }
-    std::int32_t left() const { return bytes_left(size, offset); }
+    [[gnu::always_inline]] std::uint8_t *at() const { return buffer + offset; }
+    [[gnu::always_inline]] std::int32_t left() const { return bytes_left(size, offset); }
 
     // A full buffer gets it too, in the guard byte after its end, where it is not counted.
-    void state(std::uint8_t value) {
+    [[gnu::always_inline]] void state(std::uint8_t value) {
         *at() = value;
         offset += offset != size ? 1 : 0;
     }
     template <class F>
-    void state_of() {
+    TARN_INLINE_INSIDE void state_of() {
         if (tracked) state(area != nullptr ? *F::state(area) : std::uint8_t{0});
     }
 

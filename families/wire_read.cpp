@@ -13,7 +13,9 @@ namespace {
 [[gnu::always_inline]] inline void read_head(Reader &in, mirk_object *instance, Head &head) {
     in.offset += _mirk_instance_variant_unmarshal(in.h, in.ctx_id, in.at(), &head.variant, in.left(), in.err);
     in.offset += _mirk_instance_obj_flag_unmarshal(in.h, in.ctx_id, in.at(), &head.wire_flag, in.left(), in.err);
-    if ((head.wire_flag & flag::ra_data) != 0) in.offset += read_ra_data(in, instance);
+    if ((head.wire_flag & flag::ra_data) != 0) {
+        in.offset += read_ra_data(in.h, in.ctx_id, in.at(), instance, in.left(), in.err);
+    }
     head.jump_base = in.offset;
     in.offset += _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err);
 }

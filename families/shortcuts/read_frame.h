@@ -14,7 +14,7 @@ namespace tarn::shortcut {
     in.offset +=
         _mirk_instance_obj_flag_unmarshal(in.h, in.ctx_id, in.at(), &head.wire_flag, sizeof head.wire_flag, &none);
     const bool has_ra_data = (head.wire_flag & flag::ra_data) != 0;
-    if (has_ra_data) in.offset += read_ra_data(in, instance);
+    if (has_ra_data) in.offset += read_ra_data(in.h, in.ctx_id, in.at(), instance, in.left(), in.err);
     head.jump_base = in.offset;
     in.offset += has_ra_data
                      ? _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err)

@@ -8,7 +8,7 @@
 namespace tarn::shortcut {
 
 // A prechecked frame has no state bytes and no RA data, its instance and buffer are there, and its head fits.
-inline bool is_prechecked(const Writer &out, const mirk_object *instance) {
+[[gnu::always_inline]] inline bool is_prechecked(const Writer &out, const mirk_object *instance) {
     return *out.err == 0 && out.buffer != nullptr && instance != nullptr && (instance->obj_flag & flag::ra_data) == 0 &&
            !tracks(out.h) && out.size >= record_head;
 }
