@@ -26,7 +26,6 @@ struct PrimitiveOf<Kind::address, Of> {
     static constexpr auto set_instance_embedded = ip_address_set_instance_embedded;
     static constexpr auto destroy_internal = ip_address_destroy_internal;
     static constexpr auto get_oid_count = ip_address_get_oid_count;
-    static constexpr auto get_object_references = ip_address_get_object_references;
     static constexpr auto offset_update = ip_address_offset_update;
     static constexpr auto offset_remove = ip_address_offset_remove;
 };

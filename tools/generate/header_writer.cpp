@@ -1,6 +1,7 @@
 #include <set>
 
 #include "names.h"
+#include "schema/named_type.h"
 #include "surface.h"
 #include "writers.h"
 
@@ -96,21 +97,11 @@ std::string data_of(const Subject &subject) {
 }
 
 std::string type_of(const Member &m) {
-    switch (category(m.kind)) {
-        case Category::integer:
-            return value_type(m) + (m.role == Role::count ? " count" : m.role == Role::length ? " length" : "");
-        case Category::enumeration:
-            return std::string(m.enumeration->name);
-        case Category::record:
-            return std::string(m.record->name);
-        case Category::array:
-            return std::string(m.record->name) + "[]";
-        case Category::boolean:
-        case Category::address:
-        case Category::string:
-            break;
+    if (schema::is_integer(m.kind)) {
+        return value_type(m) + (m.role == Role::count ? " count" : m.role == Role::length ? " length" : "");
     }
-    return std::string(facts(m.kind).name);
+    const std::string named = named_type(m);
+    return named.empty() ? std::string(facts(m.kind).name) : named;
 }
 
 // Name, kind and meaning of each member in aligned columns.

@@ -3,31 +3,19 @@
 #include <nlohmann/json.hpp>
 
 #include "schema/catalogue.h"
+#include "schema/named_type.h"
 #include "schema/wire_size.h"
 #include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
 using nlohmann::ordered_json;
-using schema::Category;
 using schema::Member;
 using schema::Record;
 
 std::string kind_text(const Member &m) {
-    switch (category(m.kind)) {
-        case Category::enumeration:
-            return std::string(m.enumeration->name);
-        case Category::record:
-            return std::string(m.record->name);
-        case Category::array:
-            return std::string(m.record->name) + "[]";
-        case Category::integer:
-        case Category::boolean:
-        case Category::address:
-        case Category::string:
-            break;
-    }
-    return std::string(facts(m.kind).primitive);
+    const std::string named = schema::named_type(m);
+    return named.empty() ? std::string(facts(m.kind).primitive) : named;
 }
 
 std::string role_text(const Member &m) {
