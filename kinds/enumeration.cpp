@@ -1,6 +1,7 @@
 #include "kinds/enumeration.h"
 
 #include <array>
+#include <bit>
 #include <cstdio>
 
 #include "core/object_header.h"
@@ -110,9 +111,16 @@ void Enum<E>::adjust_variant(mirk_handle *h, std::uint32_t ctx_id, object *insta
     tarn::adjust_variant(h, ctx_id, header_of(instance), err);
 }
 
+// The bytes of the value, least significant first on every host, so that a value has one hash on all sides of a system.
 template <const Enumeration &E>
 std::uint32_t Enum<E>::hash(const object *instance, std::uint32_t seed) {
-    return instance != nullptr ? SuperFastHash(&instance->value, sizeof instance->value, seed) : seed;
+    if (instance == nullptr) return seed;
+    if constexpr (std::endian::native == std::endian::little) {
+        return SuperFastHash(&instance->value, sizeof instance->value, seed);
+    } else {
+        const std::uint32_t value = __builtin_bswap32(instance->value);
+        return SuperFastHash(&value, sizeof value, seed);
+    }
 }
 
 template <const Enumeration &E>
