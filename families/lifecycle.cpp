@@ -1,6 +1,7 @@
 #include "families/lifecycle.h"
 
 #include "core/object_header.h"
+#include "core/sticky.h"
 #include "families/references.h"
 #include "families/shortcuts/initialize.h"
 #include "kinds/kinds.h"
@@ -140,6 +141,13 @@ template <const Record &R>
 mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
     mirk_lumo_ui_tarn_type_trace_init();
     return create_internal(h, ctx_id);
+}
+
+// The trace module comes first here too, before the handle is in create mode.
+template <const Record &R>
+mirk_object *Lifecycle<R>::create_cr(mirk_handle *h) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    return sticky_create(h, [&] { return create_internal(h, h->default_id); });
 }
 
 template <const Record &R>

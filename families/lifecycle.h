@@ -11,6 +11,7 @@ struct Lifecycle {
     static std::int8_t variant_data_index_cap(std::int8_t variant);
     static std::uint32_t sizeof_instance(const mirk_handle *h);
     static mirk_object *create(mirk_handle *h, std::uint32_t ctx_id);
+    static mirk_object *create_cr(mirk_handle *h);
     static mirk_object *create_internal(mirk_handle *h, std::uint32_t ctx_id);
     static void initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                            std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,

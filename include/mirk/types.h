@@ -32,7 +32,7 @@ typedef struct mirk_variant_entry {
     uint32_t alloc_slop;    /**< bytes that an instance has beyond that */
     uint64_t num_created;   /**< instances that were made */
     uint64_t num_destroyed; /**< instances that were ended */
-    uint64_t num_live;      /**< the difference */
+    uint64_t num_live;      /**< the difference; stays 0 for messages */
 } mirk_variant_entry;
 
 /** The variants of a type. */

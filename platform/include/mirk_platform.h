@@ -69,9 +69,9 @@ typedef struct mirk_platform_handle_options {
     uint64_t request_ceiling;        /**< obj_alloc above this answers null; default 256 MiB */
     /** obj_alloc returns null if the handle would exceed this; default 1 GiB. The sizes of live blocks count. With
      * tracking ON, so do 136 bytes for each 256-byte stretch of addresses that a block touches, which hold the state
-     * offsets of the objects in it. Memory below obj_alloc does not count: the tables that find blocks and offsets
-     * (up to 128 bytes for each block and 64 for each stretch), what the C library adds to a block, and what the
-     * runtime keeps for types, documents and bundles. */
+     * offsets of the objects in it; a request counts as many as a block of its size can touch. Memory below obj_alloc
+     * does not count: the tables that find blocks and offsets (up to 128 bytes for each block and 64 for each stretch),
+     * what the C library adds to a block, and what the runtime keeps for types, documents and bundles. */
     uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< default null */

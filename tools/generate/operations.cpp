@@ -15,8 +15,10 @@ constexpr Row table[] = {
     // ---- records
     {record, "lifecycle", "Life", "{r} *{r}_create(H, I)", "Lifecycle<{R}>::create",
      "Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an "
-     "enumeration member fails. The caller owns the instance and releases it with {r}_destroy().",
-     create},
+     "enumeration member fails. The caller owns the instance and releases it with {r}_destroy()."},
+    {record, "lifecycle", "Life", "{r} *{r}_create_cr(H)", "Lifecycle<{R}>::create_cr",
+     "Sticky form of {r}_create(): returns a sentinel instead of NULL if allocation fails or last_error is set. Any "
+     "other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel."},
     {record, "lifecycle", "Life", "{r} *{r}_create_internal(H, I)", "Lifecycle<{R}>::create_internal",
      "Same as {r}_create(), but does not register the trace module of types. For callers that create many instances."},
     {record, "lifecycle", "Life",
