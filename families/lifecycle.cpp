@@ -26,8 +26,8 @@ constinit SentinelStorage<R> sentinel_of{};
     return nullptr;
 }
 
-// All of an initialize but the members. False: these stay as they are. What the instance
-// embeds has to be announced in announced_area if there is one; sttr_base is where its state starts.
+// All of an initialize but the members. False: these stay as they are. If announced_area is set, the state of what the
+// instance embeds has to be announced there; sttr_base is where its own state starts.
 bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                          std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
                          void *&sttr_base, void *&announced_area, std::uint32_t *err) {

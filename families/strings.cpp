@@ -1,6 +1,6 @@
 #include "families/strings.h"
 
-#include <algorithm>
+#include <cstring>
 
 #include "kinds/integer.h"
 

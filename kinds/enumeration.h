@@ -33,7 +33,9 @@ struct Enum {
     static std::uint32_t len(mirk_handle *, std::uint32_t, const object *) {
         return schema::facts(Kind::enumeration).wire;
     }
-    static std::uint32_t len_cr(const mirk_handle *h) { return h->last_error != 0 ? 0 : 5; }
+    static std::uint32_t len_cr(const mirk_handle *h) {
+        return h->last_error != 0 ? 0 : schema::facts(Kind::enumeration).wire;
+    }
     static object *get(mirk_handle *, std::uint32_t, object *instance, std::uint32_t *) { return instance; }
     static std::uint32_t get_value(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint32_t *err);
     static void set(mirk_handle *h, std::uint32_t ctx_id, object *instance, object *source, std::uint32_t *err);

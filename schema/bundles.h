@@ -1,4 +1,4 @@
-// The eleven bundles; each admits one message of this module and has three control messages.
+// The bundles; each admits one message of this module and has three control messages.
 #pragma once
 
 #include "schema/messages.h"

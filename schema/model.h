@@ -1,4 +1,4 @@
-// What a schema is made of. Everything else in the house - layouts, exports, headers, encodings, tests - is computed
+// What a schema is made of. Everything else - layouts, exports, headers, families, tests - is computed
 // from values of these types, so this page is the architecture.
 #pragma once
 

@@ -64,7 +64,7 @@ def prepare():
     for preset in "dev", "mutants", "release-clang":
         write(f"build/{preset}/tools/generate/generate", STUB)
     (tree / "build/coverage/CMakeFiles/lumo_ui_tarn.dir").mkdir(parents=True)
-    for folder in ("core", "families", "include", "kinds", "messaging", "platform/contract", "platform/service", "schema",
+    for folder in ("core", "families", "families/shortcuts", "include", "kinds", "messaging", "platform/contract", "platform/service", "schema",
                    "tests", "tools"):
         for suffix in "cpp", "h":
             write(f"{folder}/one.{suffix}", "", 0o644)

@@ -249,6 +249,8 @@ function reader:member(tree, member, count, path, tracked)
         self:text(tree, member.field, count, path)
     elseif kind == "array" then
         return self:array(tree, member, count, path, tracked)
+    else
+        error("no reader for members of kind " .. kind)
     end
     if tracked then self:take(tree, member.state, 1, path .. ".state") end
     return value

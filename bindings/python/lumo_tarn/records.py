@@ -168,8 +168,10 @@ def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
             member = RecordMember(name, meaning, _made[of])
         elif kind == "array":
             member = ArrayMember(name, meaning, _made[of], before, most)
-        else:
+        elif kind in _schema.GREATEST:
             member = Member(name, meaning)
+        else:
+            raise NotImplementedError(f"members of kind {kind}")
         members[attribute] = member
         before, most = name, _schema.GREATEST.get(kind.rpartition(" ")[2], 0)
     return members

@@ -1,5 +1,6 @@
 #include "tools/tarn/formats/reader.h"
 
+#include "schema/frame.h"
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/xml.h"
@@ -36,7 +37,7 @@ Form form_of(std::string_view content, const std::string &origin) {
         case '{':
         case '[':
             return Form::json;
-        case '\xBC':
+        case static_cast<char>(schema::frame_marker):
             return Form::frames;
         default:
             throw Failure(Exit::input, origin + ": neither frames nor XML nor JSON begin here");
