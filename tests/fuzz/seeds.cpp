@@ -1,14 +1,17 @@
 // Prints the seed corpora and the dictionaries, from the schema and the independent codec: fuzz_seeds FOLDER. Files of
 // an earlier run are removed first.
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <random>
 #include <string>
 
 #include "fuzz.h"
 #include "reference/text.h"
+#include "sweep.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/support/trace.h"
@@ -124,6 +127,20 @@ void calls() {
     }
 }
 
+// Each operation once, in one file for all that are called alike. Half of them are followed by another.
+void operations() {
+    constexpr std::size_t choices[] = {0, 1, 2, 4, 6};
+    const auto &all = trust::operations();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (all[i].driver == nullptr) continue;  // the sweep names it
+        std::string path = std::string("operations/") + all[i].driver->of + '-' + all[i].driver->suffix;
+        std::replace(path.begin(), path.end(), ' ', '-');
+        std::string &file = files[path];
+        if (file.empty()) file = head({choices[files.size() % std::size(choices)]});
+        file += head({i >> 8, i & 0xFF, i % 16, i / 16 % 3, i / 4, 0, 0, 0, 0, 0});
+    }
+}
+
 // What a fuzzer does not find by itself: identities and names.
 void dictionaries() {
     std::string identities, names;
@@ -170,6 +187,7 @@ int main(int argc, char **argv) {
     bundles();
     tool();
     calls();
+    operations();
     dictionaries();
     const std::filesystem::path folder = argv[1];
     std::filesystem::remove_all(folder);

@@ -56,7 +56,6 @@ protected:
 
 TEST_P(EachOperation, SurvivesEachFailure) {
     const Driver &driver = *GetParam();
-    const std::string suffix = driver.suffix;
     std::uint64_t swept = 0, refused = 0;
     bool types_swept[4] = {};
     for (const Operation &operation : operations()) {
@@ -90,9 +89,7 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                             std::ostringstream words;
                             words << failure;
                             SCOPED_TRACE(words.str());
-                            const bool of_blocks = allocator == MIRK_PLATFORM_TESTING_OBJ_ALLOC;
-                            const bool judged =
-                                driver.judge != nullptr && (of_blocks || suffix.ends_with("_initialize"));
+                            const bool judged = judges(driver, failure);
                             const Outcome outcome = run(operation, options, &failure, judged);
                             ++refused;
                             if (judged) continue;

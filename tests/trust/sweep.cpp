@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
+#include <string_view>
 
 #include "reference/codec.h"
 #include "reference/text.h"
@@ -169,6 +170,11 @@ void Scene::clean_up() {
     if (may_lose == 0) {
         EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
     }
+}
+
+bool judges(const Driver &driver, const Failure &failure) {
+    return driver.judge != nullptr && (failure.allocator == MIRK_PLATFORM_TESTING_OBJ_ALLOC ||
+                                       std::string_view(driver.suffix).ends_with("_initialize"));
 }
 
 const std::vector<Operation> &operations() {

@@ -30,6 +30,8 @@ struct Subject {
     const EnumerationOperations *enumeration = nullptr;
     const MessageOperations *message = nullptr;
     const BundleOperations *bundle = nullptr;
+
+    bool operator==(const Subject &) const = default;
 };
 
 // Which allocator fails, at which request, and whether from then on.
@@ -90,6 +92,9 @@ struct Driver {
 };
 
 const std::vector<Driver> &drivers();
+// Whether the driver tells what comes of this failure. Without a type record of its own a handle goes on with the
+// module's, so of those only what makes them has something to tell.
+bool judges(const Driver &driver, const Failure &failure);
 
 // What an exported function is called, and which operation of what it is.
 struct Operation {
