@@ -4,7 +4,8 @@
 ///
 /// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and
 /// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is read-only.
-/// Needs the C library alone.
+/// dp_tc_type names the C functions of a dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). Needs the C library
+/// alone.
 // Generated from the schema; edit the tables there and run tools/regenerate.
 #ifndef LUMO_UI_TARN_HPP
 #define LUMO_UI_TARN_HPP
@@ -51,6 +52,58 @@ constexpr std::string_view name_of(ha_state value) {
     }
     return {};
 }
+/// Names the C functions of lumo_tarn_ha_state_e.
+struct ha_state_type {
+    using native = lumo_tarn_ha_state_e;  ///< the enumeration in C
+    using value = lumo_ui_tarn::ha_state;  ///< its values
+    static constexpr const char *name = "lumo_tarn_ha_state_e";  ///< its name in C
+    static constexpr auto create = lumo_tarn_ha_state_e_create;  ///< Allocates an object with value 0.
+    /// Initializes an object in memory of the caller.
+    static constexpr auto initialize = lumo_tarn_ha_state_e_initialize;
+    /// Returns the size of an object in bytes, equal on every handle.
+    static constexpr auto sizeof_operation = lumo_tarn_ha_state_e_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_ha_state_e_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object.
+    static constexpr auto set_instance_embedded = lumo_tarn_ha_state_e_set_instance_embedded;
+    /// Changes the object to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_ha_state_e_adjust_variant;
+    static constexpr auto destroy = lumo_tarn_ha_state_e_destroy;  ///< Destroys the object and frees its memory.
+    /// Same as lumo_tarn_ha_state_e_destroy(), but has no effect with free_it 0, because an embedded object owns
+    /// nothing.
+    static constexpr auto destroy_internal = lumo_tarn_ha_state_e_destroy_internal;
+    /// Returns the number of object identifiers in the object: 0.
+    static constexpr auto get_oid_count = lumo_tarn_ha_state_e_get_oid_count;
+    /// Writes nothing, because the object holds no object identifier.
+    static constexpr auto get_object_references = lumo_tarn_ha_state_e_get_object_references;
+    /// Returns the object itself, so that code can treat enumerations as it treats members.
+    static constexpr auto get = lumo_tarn_ha_state_e_get;
+    static constexpr auto get_value = lumo_tarn_ha_state_e_get_value;  ///< Returns the value.
+    static constexpr auto set = lumo_tarn_ha_state_e_set;  ///< Copies the source with its header.
+    static constexpr auto set_value = lumo_tarn_ha_state_e_set_value;  ///< Stores a value and notifies.
+    /// Returns 1 if the value is an enumerator in the handle's domain.
+    static constexpr auto is_valid_cr = lumo_tarn_ha_state_e_is_valid_cr;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_user_value = lumo_tarn_ha_state_e_map_to_user_value;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_internal_value = lumo_tarn_ha_state_e_map_to_internal_value;
+    static constexpr auto compare = lumo_tarn_ha_state_e_compare;  ///< Returns the difference of the two values.
+    static constexpr auto hash = lumo_tarn_ha_state_e_hash;  ///< Mixes the value into the seed.
+    /// Returns 1 if the object has a change mark, and clears it.
+    static constexpr auto backpropagate = lumo_tarn_ha_state_e_backpropagate;
+    /// Returns the number of bytes on the wire: 5, also for NULL.
+    static constexpr auto len = lumo_tarn_ha_state_e_len;
+    /// Writes variant and value into the remaining bytes at buffer.
+    static constexpr auto marshal = lumo_tarn_ha_state_e_marshal;
+    /// Reads variant and value from length bytes at buffer.
+    static constexpr auto unmarshal = lumo_tarn_ha_state_e_unmarshal;
+    /// Writes a line with the name and the enumerator, indented by indent blanks.
+    static constexpr auto print = lumo_tarn_ha_state_e_print;
+    /// Writes an XML element of this name that contains an empty element named like the enumerator.
+    static constexpr auto to_xml = lumo_tarn_ha_state_e_to_xml;
+    /// Reads the value from the enumerator's element below a path of the runtime's document.
+    static constexpr auto from_xml = lumo_tarn_ha_state_e_from_xml;
+};
 
 /// Direction of traffic that a processor serves.
 enum class lumo_direction : std::uint32_t {
@@ -70,6 +123,58 @@ constexpr std::string_view name_of(lumo_direction value) {
     }
     return {};
 }
+/// Names the C functions of lumo_tarn_lumo_direction_e.
+struct lumo_direction_type {
+    using native = lumo_tarn_lumo_direction_e;  ///< the enumeration in C
+    using value = lumo_ui_tarn::lumo_direction;  ///< its values
+    static constexpr const char *name = "lumo_tarn_lumo_direction_e";  ///< its name in C
+    static constexpr auto create = lumo_tarn_lumo_direction_e_create;  ///< Allocates an object with value 0.
+    /// Initializes an object in memory of the caller.
+    static constexpr auto initialize = lumo_tarn_lumo_direction_e_initialize;
+    /// Returns the size of an object in bytes, equal on every handle.
+    static constexpr auto sizeof_operation = lumo_tarn_lumo_direction_e_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_lumo_direction_e_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object.
+    static constexpr auto set_instance_embedded = lumo_tarn_lumo_direction_e_set_instance_embedded;
+    /// Changes the object to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_lumo_direction_e_adjust_variant;
+    static constexpr auto destroy = lumo_tarn_lumo_direction_e_destroy;  ///< Destroys the object and frees its memory.
+    /// Same as lumo_tarn_lumo_direction_e_destroy(), but has no effect with free_it 0, because an embedded object owns
+    /// nothing.
+    static constexpr auto destroy_internal = lumo_tarn_lumo_direction_e_destroy_internal;
+    /// Returns the number of object identifiers in the object: 0.
+    static constexpr auto get_oid_count = lumo_tarn_lumo_direction_e_get_oid_count;
+    /// Writes nothing, because the object holds no object identifier.
+    static constexpr auto get_object_references = lumo_tarn_lumo_direction_e_get_object_references;
+    /// Returns the object itself, so that code can treat enumerations as it treats members.
+    static constexpr auto get = lumo_tarn_lumo_direction_e_get;
+    static constexpr auto get_value = lumo_tarn_lumo_direction_e_get_value;  ///< Returns the value.
+    static constexpr auto set = lumo_tarn_lumo_direction_e_set;  ///< Copies the source with its header.
+    static constexpr auto set_value = lumo_tarn_lumo_direction_e_set_value;  ///< Stores a value and notifies.
+    /// Returns 1 if the value is an enumerator in the handle's domain.
+    static constexpr auto is_valid_cr = lumo_tarn_lumo_direction_e_is_valid_cr;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_user_value = lumo_tarn_lumo_direction_e_map_to_user_value;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_internal_value = lumo_tarn_lumo_direction_e_map_to_internal_value;
+    static constexpr auto compare = lumo_tarn_lumo_direction_e_compare;  ///< Returns the difference of the two values.
+    static constexpr auto hash = lumo_tarn_lumo_direction_e_hash;  ///< Mixes the value into the seed.
+    /// Returns 1 if the object has a change mark, and clears it.
+    static constexpr auto backpropagate = lumo_tarn_lumo_direction_e_backpropagate;
+    /// Returns the number of bytes on the wire: 5, also for NULL.
+    static constexpr auto len = lumo_tarn_lumo_direction_e_len;
+    /// Writes variant and value into the remaining bytes at buffer.
+    static constexpr auto marshal = lumo_tarn_lumo_direction_e_marshal;
+    /// Reads variant and value from length bytes at buffer.
+    static constexpr auto unmarshal = lumo_tarn_lumo_direction_e_unmarshal;
+    /// Writes a line with the name and the enumerator, indented by indent blanks.
+    static constexpr auto print = lumo_tarn_lumo_direction_e_print;
+    /// Writes an XML element of this name that contains an empty element named like the enumerator.
+    static constexpr auto to_xml = lumo_tarn_lumo_direction_e_to_xml;
+    /// Reads the value from the enumerator's element below a path of the runtime's document.
+    static constexpr auto from_xml = lumo_tarn_lumo_direction_e_from_xml;
+};
 
 /// What a block of memory is used for.
 enum class mem_desc : std::uint32_t {
@@ -89,26 +194,132 @@ constexpr std::string_view name_of(mem_desc value) {
     }
     return {};
 }
+/// Names the C functions of lumo_tarn_mem_desc_e.
+struct mem_desc_type {
+    using native = lumo_tarn_mem_desc_e;  ///< the enumeration in C
+    using value = lumo_ui_tarn::mem_desc;  ///< its values
+    static constexpr const char *name = "lumo_tarn_mem_desc_e";  ///< its name in C
+    static constexpr auto create = lumo_tarn_mem_desc_e_create;  ///< Allocates an object with value 0.
+    /// Initializes an object in memory of the caller.
+    static constexpr auto initialize = lumo_tarn_mem_desc_e_initialize;
+    /// Returns the size of an object in bytes, equal on every handle.
+    static constexpr auto sizeof_operation = lumo_tarn_mem_desc_e_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_mem_desc_e_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object.
+    static constexpr auto set_instance_embedded = lumo_tarn_mem_desc_e_set_instance_embedded;
+    /// Changes the object to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_mem_desc_e_adjust_variant;
+    static constexpr auto destroy = lumo_tarn_mem_desc_e_destroy;  ///< Destroys the object and frees its memory.
+    /// Same as lumo_tarn_mem_desc_e_destroy(), but has no effect with free_it 0, because an embedded object owns
+    /// nothing.
+    static constexpr auto destroy_internal = lumo_tarn_mem_desc_e_destroy_internal;
+    /// Returns the number of object identifiers in the object: 0.
+    static constexpr auto get_oid_count = lumo_tarn_mem_desc_e_get_oid_count;
+    /// Writes nothing, because the object holds no object identifier.
+    static constexpr auto get_object_references = lumo_tarn_mem_desc_e_get_object_references;
+    /// Returns the object itself, so that code can treat enumerations as it treats members.
+    static constexpr auto get = lumo_tarn_mem_desc_e_get;
+    static constexpr auto get_value = lumo_tarn_mem_desc_e_get_value;  ///< Returns the value.
+    static constexpr auto set = lumo_tarn_mem_desc_e_set;  ///< Copies the source with its header.
+    static constexpr auto set_value = lumo_tarn_mem_desc_e_set_value;  ///< Stores a value and notifies.
+    /// Returns 1 if the value is an enumerator in the handle's domain.
+    static constexpr auto is_valid_cr = lumo_tarn_mem_desc_e_is_valid_cr;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_user_value = lumo_tarn_mem_desc_e_map_to_user_value;
+    /// Returns the value unchanged: this schema has no second numbering.
+    static constexpr auto map_to_internal_value = lumo_tarn_mem_desc_e_map_to_internal_value;
+    static constexpr auto compare = lumo_tarn_mem_desc_e_compare;  ///< Returns the difference of the two values.
+    static constexpr auto hash = lumo_tarn_mem_desc_e_hash;  ///< Mixes the value into the seed.
+    /// Returns 1 if the object has a change mark, and clears it.
+    static constexpr auto backpropagate = lumo_tarn_mem_desc_e_backpropagate;
+    /// Returns the number of bytes on the wire: 5, also for NULL.
+    static constexpr auto len = lumo_tarn_mem_desc_e_len;
+    /// Writes variant and value into the remaining bytes at buffer.
+    static constexpr auto marshal = lumo_tarn_mem_desc_e_marshal;
+    /// Reads variant and value from length bytes at buffer.
+    static constexpr auto unmarshal = lumo_tarn_mem_desc_e_unmarshal;
+    /// Writes a line with the name and the enumerator, indented by indent blanks.
+    static constexpr auto print = lumo_tarn_mem_desc_e_print;
+    /// Writes an XML element of this name that contains an empty element named like the enumerator.
+    static constexpr auto to_xml = lumo_tarn_mem_desc_e_to_xml;
+    /// Reads the value from the enumerator's element below a path of the runtime's document.
+    static constexpr auto from_xml = lumo_tarn_mem_desc_e_from_xml;
+};
 
 /// lumo_tarn_exmem_info: one block of external memory, under its three addresses, with its size.
 struct exmem_info_type {
     using native = lumo_tarn_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_exmem_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_exmem_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_exmem_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_exmem_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_exmem_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_exmem_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_exmem_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_exmem_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_exmem_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_exmem_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_exmem_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_exmem_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_exmem_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_exmem_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_exmem_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_exmem_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_exmem_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_exmem_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_exmem_info_destroy;
+    /// Same as lumo_tarn_exmem_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_exmem_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_exmem_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_exmem_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_exmem_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_exmem_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_exmem_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_exmem_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_exmem_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_exmem_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_exmem_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_exmem_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_exmem_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_exmem_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_exmem_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_exmem_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_exmem_info_marshal;
+    /// Same as lumo_tarn_exmem_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_exmem_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_exmem_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_exmem_info_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_exmem_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_exmem_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_exmem_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_exmem_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_exmem_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_exmem_info_compare;
+    static constexpr auto hash = lumo_tarn_exmem_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_exmem_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -248,20 +459,74 @@ struct fdb_base_type {
     using native = lumo_tarn_fdb_base;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_fdb_base";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_base_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_fdb_base_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_fdb_base_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_fdb_base_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_fdb_base_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_fdb_base_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_fdb_base_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_fdb_base_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_fdb_base_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_fdb_base_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_fdb_base_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_fdb_base_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_fdb_base_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_fdb_base_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_fdb_base_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_fdb_base_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_fdb_base_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_fdb_base_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_fdb_base_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_fdb_base_destroy;
+    /// Same as lumo_tarn_fdb_base_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_fdb_base_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_fdb_base_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_fdb_base_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_fdb_base_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_fdb_base_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_fdb_base_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_fdb_base_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_fdb_base_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_fdb_base_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_fdb_base_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_fdb_base_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_fdb_base_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_fdb_base_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_fdb_base_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_fdb_base_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_fdb_base_marshal;
+    /// Same as lumo_tarn_fdb_base_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_fdb_base_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_fdb_base_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_fdb_base_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_fdb_base_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_fdb_base_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_fdb_base_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_fdb_base_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_fdb_base_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_fdb_base_compare;
+    static constexpr auto hash = lumo_tarn_fdb_base_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_fdb_base_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -425,20 +690,74 @@ struct fdb_mem_info_type {
     using native = lumo_tarn_fdb_mem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_fdb_mem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_fdb_mem_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_fdb_mem_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_fdb_mem_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_fdb_mem_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_fdb_mem_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_fdb_mem_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_fdb_mem_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_fdb_mem_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_fdb_mem_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_fdb_mem_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_fdb_mem_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_fdb_mem_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_fdb_mem_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_fdb_mem_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_fdb_mem_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_fdb_mem_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_fdb_mem_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_fdb_mem_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_fdb_mem_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_fdb_mem_info_destroy;
+    /// Same as lumo_tarn_fdb_mem_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_fdb_mem_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_fdb_mem_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_fdb_mem_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_fdb_mem_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_fdb_mem_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_fdb_mem_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_fdb_mem_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_fdb_mem_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_fdb_mem_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_fdb_mem_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_fdb_mem_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_fdb_mem_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_fdb_mem_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_fdb_mem_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_fdb_mem_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_fdb_mem_info_marshal;
+    /// Same as lumo_tarn_fdb_mem_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_fdb_mem_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_fdb_mem_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_fdb_mem_info_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_fdb_mem_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_fdb_mem_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_fdb_mem_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_fdb_mem_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_fdb_mem_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_fdb_mem_info_compare;
+    static constexpr auto hash = lumo_tarn_fdb_mem_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_fdb_mem_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -554,20 +873,77 @@ struct exmem_info_wrapper_type {
     using native = lumo_tarn_exmem_info_wrapper;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_exmem_info_wrapper";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_exmem_info_wrapper_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_exmem_info_wrapper_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_exmem_info_wrapper_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_exmem_info_wrapper_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_exmem_info_wrapper_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_exmem_info_wrapper_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_exmem_info_wrapper_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_exmem_info_wrapper_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_exmem_info_wrapper_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_exmem_info_wrapper_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_exmem_info_wrapper_create;
+    /// Same as lumo_tarn_exmem_info_wrapper_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_exmem_info_wrapper_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_exmem_info_wrapper_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_exmem_info_wrapper_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_exmem_info_wrapper_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_exmem_info_wrapper_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_exmem_info_wrapper_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_exmem_info_wrapper_destroy;
+    /// Same as lumo_tarn_exmem_info_wrapper_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_exmem_info_wrapper_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_exmem_info_wrapper_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_exmem_info_wrapper_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_exmem_info_wrapper_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_exmem_info_wrapper_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_exmem_info_wrapper_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_exmem_info_wrapper_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_exmem_info_wrapper_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_exmem_info_wrapper_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_exmem_info_wrapper_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_exmem_info_wrapper_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_exmem_info_wrapper_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_exmem_info_wrapper_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_exmem_info_wrapper_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_exmem_info_wrapper_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_exmem_info_wrapper_marshal;
+    /// Same as lumo_tarn_exmem_info_wrapper_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_exmem_info_wrapper_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_exmem_info_wrapper_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_exmem_info_wrapper_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_exmem_info_wrapper_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_exmem_info_wrapper_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_exmem_info_wrapper_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_exmem_info_wrapper_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_exmem_info_wrapper_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_exmem_info_wrapper_compare;
+    static constexpr auto hash = lumo_tarn_exmem_info_wrapper_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_exmem_info_wrapper_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -656,20 +1032,74 @@ struct dp_appl_type {
     using native = lumo_tarn_dp_appl;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_appl_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_appl_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_appl_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_appl_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_appl_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_appl_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_appl_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_appl_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_appl_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_appl_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_appl_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_appl_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_appl_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_appl_destroy;
+    /// Same as lumo_tarn_dp_appl_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_appl_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_appl_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_appl_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_appl_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_appl_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_appl_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_appl_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_appl_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_appl_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_appl_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_appl_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_marshal;
+    /// Same as lumo_tarn_dp_appl_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_appl_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_appl_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_appl_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_appl_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_appl_compare;
+    static constexpr auto hash = lumo_tarn_dp_appl_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_appl_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -848,20 +1278,74 @@ struct dp_tc_type {
     using native = lumo_tarn_dp_tc;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tc";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_tc_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_tc_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_tc_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_tc_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_tc_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_tc_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_tc_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_tc_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_tc_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_tc_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_tc_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_tc_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_tc_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_tc_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_tc_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_tc_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_tc_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_tc_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_tc_destroy;
+    /// Same as lumo_tarn_dp_tc_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_tc_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_tc_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_tc_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_tc_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_tc_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_tc_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tc_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_tc_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_tc_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_tc_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_tc_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_tc_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_tc_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_tc_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_tc_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_tc_marshal;
+    /// Same as lumo_tarn_dp_tc_marshal(), but the outermost frame keeps the instance's own variant whatever the domain
+    /// has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_tc_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_tc_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tc_len(), and one guard
+    /// byte after them.
+    static constexpr auto clone = lumo_tarn_dp_tc_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_tc_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_tc_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_tc_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_tc_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_tc_compare;
+    static constexpr auto hash = lumo_tarn_dp_tc_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_tc_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -1351,20 +1835,74 @@ struct dp_tc_list_type {
     using native = lumo_tarn_dp_tc_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tc_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tc_list_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_tc_list_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_tc_list_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_tc_list_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_tc_list_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_tc_list_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_tc_list_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_tc_list_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_tc_list_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_tc_list_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_tc_list_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_tc_list_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_tc_list_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_tc_list_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_tc_list_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_tc_list_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_tc_list_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_tc_list_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_tc_list_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_tc_list_destroy;
+    /// Same as lumo_tarn_dp_tc_list_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_tc_list_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_tc_list_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_tc_list_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_tc_list_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_tc_list_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_tc_list_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tc_list_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_tc_list_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_tc_list_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_tc_list_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_tc_list_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_tc_list_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_tc_list_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_tc_list_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_tc_list_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_tc_list_marshal;
+    /// Same as lumo_tarn_dp_tc_list_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_tc_list_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_tc_list_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tc_list_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_tc_list_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_tc_list_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_tc_list_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_tc_list_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_tc_list_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_tc_list_compare;
+    static constexpr auto hash = lumo_tarn_dp_tc_list_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_tc_list_type_type_backpropagate;
 
     /// How tc_list is read and written, for array_ref.
     struct tc_list_array {
@@ -1447,20 +1985,74 @@ struct dp_appl_list_type {
     using native = lumo_tarn_dp_appl_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_list_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_appl_list_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_appl_list_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_appl_list_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_list_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_list_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_list_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_list_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_list_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_appl_list_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_appl_list_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_appl_list_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_appl_list_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_appl_list_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_appl_list_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_appl_list_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_appl_list_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_appl_list_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_appl_list_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_appl_list_destroy;
+    /// Same as lumo_tarn_dp_appl_list_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_appl_list_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_appl_list_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_appl_list_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_appl_list_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_appl_list_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_appl_list_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_list_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_list_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_appl_list_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_appl_list_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_appl_list_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_appl_list_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_appl_list_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_list_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_list_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_list_marshal;
+    /// Same as lumo_tarn_dp_appl_list_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_appl_list_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_list_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_list_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_appl_list_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_appl_list_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_appl_list_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_list_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_list_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_appl_list_compare;
+    static constexpr auto hash = lumo_tarn_dp_appl_list_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_appl_list_type_type_backpropagate;
 
     /// How appl_list is read and written, for array_ref.
     struct appl_list_array {
@@ -1544,20 +2136,74 @@ struct dp_ll_spec_type {
     using native = lumo_tarn_dp_ll_spec;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_ll_spec";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_ll_spec_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_ll_spec_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_ll_spec_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_ll_spec_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_ll_spec_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_ll_spec_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_ll_spec_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_ll_spec_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_ll_spec_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_ll_spec_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_ll_spec_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_ll_spec_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_ll_spec_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_ll_spec_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_ll_spec_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_ll_spec_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_ll_spec_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_ll_spec_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_ll_spec_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_ll_spec_destroy;
+    /// Same as lumo_tarn_dp_ll_spec_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_ll_spec_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_ll_spec_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_ll_spec_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_ll_spec_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_ll_spec_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_ll_spec_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_ll_spec_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_ll_spec_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_ll_spec_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_ll_spec_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_ll_spec_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_ll_spec_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_ll_spec_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_ll_spec_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_ll_spec_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_ll_spec_marshal;
+    /// Same as lumo_tarn_dp_ll_spec_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_ll_spec_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_ll_spec_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_ll_spec_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_ll_spec_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_ll_spec_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_ll_spec_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_ll_spec_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_ll_spec_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_ll_spec_compare;
+    static constexpr auto hash = lumo_tarn_dp_ll_spec_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_ll_spec_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -2300,20 +2946,74 @@ struct dp_learn_list_type {
     using native = lumo_tarn_dp_learn_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_learn_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_learn_list_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_learn_list_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_learn_list_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_learn_list_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_learn_list_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_learn_list_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_learn_list_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_learn_list_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_learn_list_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_learn_list_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_learn_list_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_learn_list_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_learn_list_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_learn_list_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_learn_list_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_learn_list_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_learn_list_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_learn_list_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_learn_list_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_learn_list_destroy;
+    /// Same as lumo_tarn_dp_learn_list_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_learn_list_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_learn_list_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_learn_list_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_learn_list_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_learn_list_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_learn_list_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_learn_list_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_learn_list_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_learn_list_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_learn_list_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_learn_list_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_learn_list_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_learn_list_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_learn_list_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_learn_list_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_learn_list_marshal;
+    /// Same as lumo_tarn_dp_learn_list_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_learn_list_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_learn_list_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_learn_list_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_learn_list_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_learn_list_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_learn_list_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_learn_list_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_learn_list_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_learn_list_compare;
+    static constexpr auto hash = lumo_tarn_dp_learn_list_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_learn_list_type_type_backpropagate;
 
     /// How ll_spec_list is read and written, for array_ref.
     struct ll_spec_list_array {
@@ -2405,20 +3105,76 @@ struct dp_debug_setting_type {
     using native = lumo_tarn_dp_debug_setting;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_debug_setting";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_debug_setting_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_debug_setting_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_debug_setting_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_debug_setting_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_debug_setting_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_debug_setting_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_debug_setting_create;
+    /// Same as lumo_tarn_dp_debug_setting_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_debug_setting_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_debug_setting_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_debug_setting_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_debug_setting_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_debug_setting_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_debug_setting_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_destroy;
+    /// Same as lumo_tarn_dp_debug_setting_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_debug_setting_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_debug_setting_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_debug_setting_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_debug_setting_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_debug_setting_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_debug_setting_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_debug_setting_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_debug_setting_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_debug_setting_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_debug_setting_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_debug_setting_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_debug_setting_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_debug_setting_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_debug_setting_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_debug_setting_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_marshal;
+    /// Same as lumo_tarn_dp_debug_setting_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_debug_setting_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_debug_setting_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_debug_setting_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_debug_setting_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_debug_setting_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_debug_setting_compare;
+    static constexpr auto hash = lumo_tarn_dp_debug_setting_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_debug_setting_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -2706,20 +3462,74 @@ struct debug_setting_type {
     using native = lumo_tarn_debug_setting;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_debug_setting";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_debug_setting_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_debug_setting_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_debug_setting_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_debug_setting_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_debug_setting_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_debug_setting_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_debug_setting_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_debug_setting_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_debug_setting_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_debug_setting_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_debug_setting_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_debug_setting_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_debug_setting_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_debug_setting_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_debug_setting_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_debug_setting_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_debug_setting_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_debug_setting_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_debug_setting_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_debug_setting_destroy;
+    /// Same as lumo_tarn_debug_setting_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_debug_setting_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_debug_setting_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_debug_setting_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_debug_setting_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_debug_setting_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_debug_setting_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_debug_setting_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_debug_setting_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_debug_setting_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_debug_setting_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_debug_setting_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_debug_setting_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_debug_setting_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_debug_setting_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_debug_setting_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_debug_setting_marshal;
+    /// Same as lumo_tarn_debug_setting_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_debug_setting_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_debug_setting_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_debug_setting_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_debug_setting_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_debug_setting_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_debug_setting_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_debug_setting_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_debug_setting_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_debug_setting_compare;
+    static constexpr auto hash = lumo_tarn_debug_setting_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_debug_setting_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -2866,20 +3676,77 @@ struct dp_debug_setting_data_type {
     using native = lumo_tarn_dp_debug_setting_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_debug_setting_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_debug_setting_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_debug_setting_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_debug_setting_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_debug_setting_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_debug_setting_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_debug_setting_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_debug_setting_data_create;
+    /// Same as lumo_tarn_dp_debug_setting_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_debug_setting_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_debug_setting_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_debug_setting_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_debug_setting_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_debug_setting_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_debug_setting_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_data_destroy;
+    /// Same as lumo_tarn_dp_debug_setting_data_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_debug_setting_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_debug_setting_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_debug_setting_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_debug_setting_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_debug_setting_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_debug_setting_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_debug_setting_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_debug_setting_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_debug_setting_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_debug_setting_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_debug_setting_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_debug_setting_data_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_debug_setting_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_debug_setting_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_debug_setting_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_data_marshal;
+    /// Same as lumo_tarn_dp_debug_setting_data_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_debug_setting_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least
+    /// lumo_tarn_dp_debug_setting_data_len(), and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_debug_setting_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_debug_setting_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_debug_setting_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_debug_setting_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_debug_setting_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_debug_setting_data_type_type_backpropagate;
 
     /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
@@ -2964,20 +3831,74 @@ struct cl_kesh_appl_type {
     using native = lumo_tarn_cl_kesh_appl;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_kesh_appl";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_cl_kesh_appl_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_cl_kesh_appl_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_cl_kesh_appl_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_cl_kesh_appl_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_cl_kesh_appl_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_cl_kesh_appl_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_cl_kesh_appl_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_cl_kesh_appl_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_cl_kesh_appl_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_cl_kesh_appl_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_cl_kesh_appl_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_cl_kesh_appl_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_cl_kesh_appl_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_cl_kesh_appl_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_cl_kesh_appl_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_cl_kesh_appl_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_cl_kesh_appl_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_cl_kesh_appl_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_cl_kesh_appl_destroy;
+    /// Same as lumo_tarn_cl_kesh_appl_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_cl_kesh_appl_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_cl_kesh_appl_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_cl_kesh_appl_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_cl_kesh_appl_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_cl_kesh_appl_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_cl_kesh_appl_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_kesh_appl_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_cl_kesh_appl_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_cl_kesh_appl_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_cl_kesh_appl_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_cl_kesh_appl_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_cl_kesh_appl_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_cl_kesh_appl_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_cl_kesh_appl_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_cl_kesh_appl_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_cl_kesh_appl_marshal;
+    /// Same as lumo_tarn_cl_kesh_appl_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_cl_kesh_appl_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_cl_kesh_appl_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_cl_kesh_appl_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_cl_kesh_appl_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_cl_kesh_appl_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_cl_kesh_appl_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_cl_kesh_appl_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_cl_kesh_appl_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_cl_kesh_appl_compare;
+    static constexpr auto hash = lumo_tarn_cl_kesh_appl_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_cl_kesh_appl_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -3142,20 +4063,74 @@ struct cl_appl_data_type {
     using native = lumo_tarn_cl_appl_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_appl_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_appl_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_cl_appl_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_cl_appl_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_cl_appl_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_cl_appl_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_cl_appl_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_cl_appl_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_cl_appl_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_cl_appl_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_cl_appl_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_cl_appl_data_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_cl_appl_data_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_cl_appl_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_cl_appl_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_cl_appl_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_cl_appl_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_cl_appl_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_cl_appl_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_cl_appl_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_cl_appl_data_destroy;
+    /// Same as lumo_tarn_cl_appl_data_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_cl_appl_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_cl_appl_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_cl_appl_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_cl_appl_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_cl_appl_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_cl_appl_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_appl_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_cl_appl_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_cl_appl_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_cl_appl_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_cl_appl_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_cl_appl_data_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_cl_appl_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_cl_appl_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_cl_appl_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_cl_appl_data_marshal;
+    /// Same as lumo_tarn_cl_appl_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_cl_appl_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_cl_appl_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_cl_appl_data_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_cl_appl_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_cl_appl_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_cl_appl_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_cl_appl_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_cl_appl_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_cl_appl_data_compare;
+    static constexpr auto hash = lumo_tarn_cl_appl_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_cl_appl_data_type_type_backpropagate;
 
     /// How kesh_appl is read and written, for array_ref.
     struct kesh_appl_array {
@@ -3265,20 +4240,77 @@ struct static_exmem_info_type {
     using native = lumo_tarn_static_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_static_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_static_exmem_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_static_exmem_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_static_exmem_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_static_exmem_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_static_exmem_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_static_exmem_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_static_exmem_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_static_exmem_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_static_exmem_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_static_exmem_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_static_exmem_info_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_static_exmem_info_create;
+    /// Same as lumo_tarn_static_exmem_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_static_exmem_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_static_exmem_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_static_exmem_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_static_exmem_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_static_exmem_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_static_exmem_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_static_exmem_info_destroy;
+    /// Same as lumo_tarn_static_exmem_info_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_static_exmem_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_static_exmem_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_static_exmem_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_static_exmem_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_static_exmem_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_static_exmem_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_static_exmem_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_static_exmem_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_static_exmem_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_static_exmem_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_static_exmem_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_static_exmem_info_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_static_exmem_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_static_exmem_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_static_exmem_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_static_exmem_info_marshal;
+    /// Same as lumo_tarn_static_exmem_info_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_static_exmem_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_static_exmem_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_static_exmem_info_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_static_exmem_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_static_exmem_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_static_exmem_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_static_exmem_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_static_exmem_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_static_exmem_info_compare;
+    static constexpr auto hash = lumo_tarn_static_exmem_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_static_exmem_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -3424,20 +4456,74 @@ struct dyn_exmem_info_type {
     using native = lumo_tarn_dyn_exmem_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dyn_exmem_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dyn_exmem_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dyn_exmem_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dyn_exmem_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dyn_exmem_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dyn_exmem_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dyn_exmem_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dyn_exmem_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dyn_exmem_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dyn_exmem_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dyn_exmem_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dyn_exmem_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dyn_exmem_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dyn_exmem_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dyn_exmem_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dyn_exmem_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dyn_exmem_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dyn_exmem_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dyn_exmem_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dyn_exmem_info_destroy;
+    /// Same as lumo_tarn_dyn_exmem_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dyn_exmem_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dyn_exmem_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dyn_exmem_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dyn_exmem_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dyn_exmem_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dyn_exmem_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dyn_exmem_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dyn_exmem_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dyn_exmem_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dyn_exmem_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dyn_exmem_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dyn_exmem_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dyn_exmem_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dyn_exmem_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dyn_exmem_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dyn_exmem_info_marshal;
+    /// Same as lumo_tarn_dyn_exmem_info_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dyn_exmem_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dyn_exmem_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dyn_exmem_info_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dyn_exmem_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dyn_exmem_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dyn_exmem_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dyn_exmem_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dyn_exmem_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dyn_exmem_info_compare;
+    static constexpr auto hash = lumo_tarn_dyn_exmem_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dyn_exmem_info_type_type_backpropagate;
 
     /// How exmem is read and written, for array_ref.
     struct exmem_array {
@@ -3576,20 +4662,74 @@ struct lumo_info_type {
     using native = lumo_tarn_lumo_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_lumo_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_lumo_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_lumo_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_lumo_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_lumo_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_lumo_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_lumo_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_lumo_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_lumo_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_lumo_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_lumo_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_lumo_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_lumo_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_lumo_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_lumo_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_lumo_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_lumo_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_lumo_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_lumo_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_lumo_info_destroy;
+    /// Same as lumo_tarn_lumo_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_lumo_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_lumo_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_lumo_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_lumo_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_lumo_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_lumo_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_lumo_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_lumo_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_lumo_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_lumo_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_lumo_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_lumo_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_lumo_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_lumo_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_lumo_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_lumo_info_marshal;
+    /// Same as lumo_tarn_lumo_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_lumo_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_lumo_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_lumo_info_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_lumo_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_lumo_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_lumo_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_lumo_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_lumo_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_lumo_info_compare;
+    static constexpr auto hash = lumo_tarn_lumo_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_lumo_info_type_type_backpropagate;
 
     /// How static_exmem is read and written, for array_ref.
     struct static_exmem_array {
@@ -5219,20 +6359,74 @@ struct lumo_info_list_type {
     using native = lumo_tarn_lumo_info_list;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_lumo_info_list";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_lumo_info_list_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_lumo_info_list_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_lumo_info_list_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_lumo_info_list_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_lumo_info_list_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_lumo_info_list_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_lumo_info_list_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_lumo_info_list_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_lumo_info_list_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_lumo_info_list_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_lumo_info_list_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_lumo_info_list_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_lumo_info_list_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_lumo_info_list_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_lumo_info_list_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_lumo_info_list_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_lumo_info_list_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_lumo_info_list_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_lumo_info_list_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_lumo_info_list_destroy;
+    /// Same as lumo_tarn_lumo_info_list_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_lumo_info_list_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_lumo_info_list_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_lumo_info_list_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_lumo_info_list_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_lumo_info_list_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_lumo_info_list_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_lumo_info_list_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_lumo_info_list_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_lumo_info_list_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_lumo_info_list_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_lumo_info_list_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_lumo_info_list_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_lumo_info_list_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_lumo_info_list_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_lumo_info_list_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_lumo_info_list_marshal;
+    /// Same as lumo_tarn_lumo_info_list_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_lumo_info_list_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_lumo_info_list_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_lumo_info_list_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_lumo_info_list_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_lumo_info_list_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_lumo_info_list_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_lumo_info_list_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_lumo_info_list_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_lumo_info_list_compare;
+    static constexpr auto hash = lumo_tarn_lumo_info_list_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_lumo_info_list_type_type_backpropagate;
 
     /// How lumo_info is read and written, for array_ref.
     struct lumo_info_array {
@@ -5316,20 +6510,74 @@ struct global_info_type {
     using native = lumo_tarn_global_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_global_info";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_global_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_global_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_global_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_global_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_global_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_global_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_global_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_global_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_global_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_global_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_global_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_global_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_global_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_global_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_global_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_global_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_global_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_global_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_global_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_global_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_global_info_destroy;
+    /// Same as lumo_tarn_global_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_global_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_global_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_global_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_global_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_global_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_global_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_global_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_global_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_global_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_global_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_global_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_global_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_global_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_global_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_global_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_global_info_marshal;
+    /// Same as lumo_tarn_global_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_global_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_global_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_global_info_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_global_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_global_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_global_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_global_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_global_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_global_info_compare;
+    static constexpr auto hash = lumo_tarn_global_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_global_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -5756,20 +7004,74 @@ struct cl_cfg_data_type {
     using native = lumo_tarn_cl_cfg_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_cl_cfg_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_cl_cfg_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_cl_cfg_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_cl_cfg_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_cl_cfg_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_cl_cfg_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_cl_cfg_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_cl_cfg_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_cl_cfg_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_cl_cfg_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_cl_cfg_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_cl_cfg_data_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_cl_cfg_data_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_cl_cfg_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_cl_cfg_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_cl_cfg_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_cl_cfg_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_cl_cfg_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_cl_cfg_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_cl_cfg_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_cl_cfg_data_destroy;
+    /// Same as lumo_tarn_cl_cfg_data_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_cl_cfg_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_cl_cfg_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_cl_cfg_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_cl_cfg_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_cl_cfg_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_cl_cfg_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_cl_cfg_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_cl_cfg_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_cl_cfg_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_cl_cfg_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_cl_cfg_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_cl_cfg_data_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_cl_cfg_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_cl_cfg_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_cl_cfg_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_cl_cfg_data_marshal;
+    /// Same as lumo_tarn_cl_cfg_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_cl_cfg_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_cl_cfg_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_cl_cfg_data_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_cl_cfg_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_cl_cfg_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_cl_cfg_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_cl_cfg_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_cl_cfg_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_cl_cfg_data_compare;
+    static constexpr auto hash = lumo_tarn_cl_cfg_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_cl_cfg_data_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -6025,20 +7327,74 @@ struct dp_wexa_info_type {
     using native = lumo_tarn_dp_wexa_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_wexa_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_wexa_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_wexa_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_wexa_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_wexa_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_wexa_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_wexa_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_wexa_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_wexa_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_wexa_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_wexa_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_wexa_info_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_wexa_info_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_wexa_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_wexa_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_wexa_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_wexa_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_wexa_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_wexa_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_wexa_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_wexa_info_destroy;
+    /// Same as lumo_tarn_dp_wexa_info_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_wexa_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_wexa_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_wexa_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_wexa_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_wexa_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_wexa_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_wexa_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_wexa_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_wexa_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_wexa_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_wexa_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_wexa_info_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_wexa_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_wexa_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_wexa_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_wexa_info_marshal;
+    /// Same as lumo_tarn_dp_wexa_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_wexa_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_wexa_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_wexa_info_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_wexa_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_wexa_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_wexa_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_wexa_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_wexa_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_wexa_info_compare;
+    static constexpr auto hash = lumo_tarn_dp_wexa_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_wexa_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -6105,20 +7461,77 @@ struct dp_lumo_wexa_info_type {
     using native = lumo_tarn_dp_lumo_wexa_info;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_lumo_wexa_info";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_lumo_wexa_info_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_lumo_wexa_info_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_lumo_wexa_info_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_lumo_wexa_info_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_lumo_wexa_info_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_lumo_wexa_info_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_lumo_wexa_info_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_lumo_wexa_info_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_lumo_wexa_info_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_lumo_wexa_info_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_lumo_wexa_info_create;
+    /// Same as lumo_tarn_dp_lumo_wexa_info_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_lumo_wexa_info_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_lumo_wexa_info_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_lumo_wexa_info_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_lumo_wexa_info_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_lumo_wexa_info_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_lumo_wexa_info_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_lumo_wexa_info_destroy;
+    /// Same as lumo_tarn_dp_lumo_wexa_info_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_lumo_wexa_info_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_lumo_wexa_info_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_lumo_wexa_info_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_lumo_wexa_info_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_lumo_wexa_info_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_lumo_wexa_info_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_lumo_wexa_info_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_lumo_wexa_info_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_lumo_wexa_info_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_lumo_wexa_info_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_lumo_wexa_info_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_lumo_wexa_info_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_lumo_wexa_info_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_lumo_wexa_info_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_lumo_wexa_info_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_lumo_wexa_info_marshal;
+    /// Same as lumo_tarn_dp_lumo_wexa_info_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_lumo_wexa_info_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_lumo_wexa_info_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_lumo_wexa_info_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_lumo_wexa_info_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_lumo_wexa_info_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_lumo_wexa_info_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_lumo_wexa_info_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_lumo_wexa_info_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_lumo_wexa_info_compare;
+    static constexpr auto hash = lumo_tarn_dp_lumo_wexa_info_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_lumo_wexa_info_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -6338,20 +7751,74 @@ struct dp_intf_data_type {
     using native = lumo_tarn_dp_intf_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_intf_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_intf_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_intf_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_intf_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_intf_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_intf_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_intf_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_intf_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_intf_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_intf_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_intf_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_intf_data_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_intf_data_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_intf_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_intf_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_intf_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_intf_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_intf_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_intf_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_intf_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_intf_data_destroy;
+    /// Same as lumo_tarn_dp_intf_data_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_intf_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_intf_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_intf_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_intf_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_intf_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_intf_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_intf_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_intf_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_intf_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_intf_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_intf_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_intf_data_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_intf_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_intf_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_intf_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_intf_data_marshal;
+    /// Same as lumo_tarn_dp_intf_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_intf_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_intf_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_intf_data_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_intf_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_intf_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_intf_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_intf_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_intf_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_intf_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_intf_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_intf_data_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -6611,20 +8078,74 @@ struct dp_appl_sig_type {
     using native = lumo_tarn_dp_appl_sig;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_sig";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_sig_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_appl_sig_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_appl_sig_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_appl_sig_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_sig_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_sig_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_sig_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_sig_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_sig_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_appl_sig_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_appl_sig_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_appl_sig_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_appl_sig_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_appl_sig_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_appl_sig_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_appl_sig_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_appl_sig_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_appl_sig_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_appl_sig_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_appl_sig_destroy;
+    /// Same as lumo_tarn_dp_appl_sig_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_appl_sig_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_appl_sig_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_appl_sig_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_appl_sig_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_appl_sig_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_appl_sig_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_sig_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_sig_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_appl_sig_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_appl_sig_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_appl_sig_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_appl_sig_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_appl_sig_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_sig_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_sig_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_sig_marshal;
+    /// Same as lumo_tarn_dp_appl_sig_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_appl_sig_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_sig_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_sig_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_appl_sig_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_appl_sig_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_appl_sig_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_sig_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_sig_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_appl_sig_compare;
+    static constexpr auto hash = lumo_tarn_dp_appl_sig_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_appl_sig_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -7015,20 +8536,74 @@ struct dp_appl_cfg_type {
     using native = lumo_tarn_dp_appl_cfg;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_cfg";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_appl_cfg_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_appl_cfg_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_appl_cfg_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_cfg_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_cfg_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_cfg_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_cfg_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_cfg_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_appl_cfg_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_appl_cfg_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_appl_cfg_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_appl_cfg_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_appl_cfg_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_appl_cfg_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_appl_cfg_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_appl_cfg_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_appl_cfg_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_appl_cfg_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_appl_cfg_destroy;
+    /// Same as lumo_tarn_dp_appl_cfg_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_appl_cfg_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_appl_cfg_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_appl_cfg_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_appl_cfg_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_appl_cfg_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_appl_cfg_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_cfg_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_cfg_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_appl_cfg_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_appl_cfg_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_appl_cfg_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_appl_cfg_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_appl_cfg_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_cfg_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_cfg_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_cfg_marshal;
+    /// Same as lumo_tarn_dp_appl_cfg_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_appl_cfg_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_cfg_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_cfg_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_appl_cfg_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_appl_cfg_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_appl_cfg_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_cfg_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_cfg_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_appl_cfg_compare;
+    static constexpr auto hash = lumo_tarn_dp_appl_cfg_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_appl_cfg_type_type_backpropagate;
 
     /// How sig_list is read and written, for array_ref.
     struct sig_list_array {
@@ -7210,20 +8785,74 @@ struct dp_appl_data_type {
     using native = lumo_tarn_dp_appl_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_appl_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_appl_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_appl_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_appl_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_appl_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_appl_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_appl_data_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_appl_data_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_appl_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_appl_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_appl_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_appl_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_appl_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_appl_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_appl_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_appl_data_destroy;
+    /// Same as lumo_tarn_dp_appl_data_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_appl_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_appl_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_appl_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_appl_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_appl_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_appl_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_appl_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_appl_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_appl_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_appl_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_appl_data_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_appl_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_data_marshal;
+    /// Same as lumo_tarn_dp_appl_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_appl_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_data_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_appl_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_appl_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_appl_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_appl_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_appl_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_appl_data_type_type_backpropagate;
 
     /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
@@ -7333,20 +8962,74 @@ struct dp_tt_table_type {
     using native = lumo_tarn_dp_tt_table;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tt_table";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_tt_table_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_tt_table_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_tt_table_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_tt_table_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_tt_table_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_tt_table_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_tt_table_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_tt_table_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_tt_table_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_tt_table_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_tt_table_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_tt_table_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_tt_table_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_tt_table_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_tt_table_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_tt_table_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_tt_table_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_destroy;
+    /// Same as lumo_tarn_dp_tt_table_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_tt_table_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_tt_table_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_tt_table_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_tt_table_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_tt_table_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_tt_table_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tt_table_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_tt_table_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_tt_table_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_tt_table_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_tt_table_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_tt_table_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_tt_table_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_tt_table_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_tt_table_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_tt_table_marshal;
+    /// Same as lumo_tarn_dp_tt_table_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_tt_table_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tt_table_len(), and one
+    /// guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_tt_table_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_tt_table_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_tt_table_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_tt_table_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_tt_table_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_tt_table_compare;
+    static constexpr auto hash = lumo_tarn_dp_tt_table_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_tt_table_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -8274,20 +9957,76 @@ struct dp_tt_table_data_type {
     using native = lumo_tarn_dp_tt_table_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_tt_table_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_tt_table_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_tt_table_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_tt_table_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_tt_table_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_tt_table_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_tt_table_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_tt_table_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_tt_table_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_tt_table_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_tt_table_data_create;
+    /// Same as lumo_tarn_dp_tt_table_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_tt_table_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_tt_table_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_tt_table_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_tt_table_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_tt_table_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_tt_table_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_tt_table_data_destroy;
+    /// Same as lumo_tarn_dp_tt_table_data_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_tt_table_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_tt_table_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_tt_table_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_tt_table_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_tt_table_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_tt_table_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_tt_table_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_tt_table_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_tt_table_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_tt_table_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_tt_table_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_tt_table_data_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_tt_table_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_tt_table_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_tt_table_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_tt_table_data_marshal;
+    /// Same as lumo_tarn_dp_tt_table_data_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_tt_table_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_table_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tt_table_data_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_tt_table_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_tt_table_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_tt_table_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_tt_table_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_tt_table_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_tt_table_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_tt_table_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_tt_table_data_type_type_backpropagate;
 
     /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
@@ -8400,20 +10139,74 @@ struct dp_mp_tc_prefix_type {
     using native = lumo_tarn_dp_mp_tc_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_mp_tc_prefix_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_tc_prefix_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_tc_prefix_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_tc_prefix_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_tc_prefix_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_tc_prefix_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_tc_prefix_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_destroy;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_tc_prefix_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_tc_prefix_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_tc_prefix_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_tc_prefix_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_tc_prefix_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_tc_prefix_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_tc_prefix_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_tc_prefix_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_tc_prefix_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_tc_prefix_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_tc_prefix_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_marshal;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_tc_prefix_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_mp_tc_prefix_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_tc_prefix_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_tc_prefix_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -8654,20 +10447,78 @@ struct dp_mp_tc_prefix_lumo_data_type {
     using native = lumo_tarn_dp_mp_tc_prefix_lumo_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_lumo_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_lumo_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_lumo_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_lumo_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_lumo_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_lumo_data_create;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_lumo_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_tc_prefix_lumo_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_tc_prefix_lumo_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_tc_prefix_lumo_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_tc_prefix_lumo_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_tc_prefix_lumo_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_tc_prefix_lumo_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy(), but with free_it 0 the memory of the instance itself is
+    /// not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_tc_prefix_lumo_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_lumo_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_tc_prefix_lumo_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_tc_prefix_lumo_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_lumo_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_tc_prefix_lumo_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_lumo_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_tc_prefix_lumo_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_tc_prefix_lumo_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_tc_prefix_lumo_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_tc_prefix_lumo_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_tc_prefix_lumo_data_offset_update() set, at
+    /// every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_tc_prefix_lumo_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_lumo_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least
+    /// lumo_tarn_dp_mp_tc_prefix_lumo_data_len(), and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_lumo_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_tc_prefix_lumo_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_lumo_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_lumo_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_lumo_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_lumo_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_tc_prefix_lumo_data_type_type_backpropagate;
 
     /// How lumo_data is read and written, for array_ref.
     struct lumo_data_array {
@@ -8780,20 +10631,77 @@ struct dp_mp_tc_prefix_data_type {
     using native = lumo_tarn_dp_mp_tc_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_mp_tc_prefix_data_create;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_tc_prefix_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_tc_prefix_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_tc_prefix_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_tc_prefix_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_tc_prefix_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_tc_prefix_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_prefix_data_destroy;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_data_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_tc_prefix_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_tc_prefix_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_tc_prefix_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_tc_prefix_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_tc_prefix_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_tc_prefix_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_tc_prefix_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_tc_prefix_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_tc_prefix_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_tc_prefix_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_tc_prefix_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_tc_prefix_data_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_tc_prefix_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_tc_prefix_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_mp_tc_prefix_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_prefix_data_marshal;
+    /// Same as lumo_tarn_dp_mp_tc_prefix_data_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_tc_prefix_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_prefix_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least
+    /// lumo_tarn_dp_mp_tc_prefix_data_len(), and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_tc_prefix_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_tc_prefix_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_tc_prefix_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_prefix_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_prefix_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_tc_prefix_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_tc_prefix_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_tc_prefix_data_type_type_backpropagate;
 
     /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
@@ -8939,20 +10847,74 @@ struct dp_mp_prefix_type {
     using native = lumo_tarn_dp_mp_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_dp_mp_prefix_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_prefix_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_prefix_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_prefix_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_prefix_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_prefix_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_prefix_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_destroy;
+    /// Same as lumo_tarn_dp_mp_prefix_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_prefix_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_prefix_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_prefix_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_prefix_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_prefix_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_prefix_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_prefix_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_prefix_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_prefix_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_prefix_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_prefix_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_marshal;
+    /// Same as lumo_tarn_dp_mp_prefix_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_prefix_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_mp_prefix_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_prefix_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_prefix_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -9097,20 +11059,78 @@ struct dp_mp_prefix_complex_data_type {
     using native = lumo_tarn_dp_mp_prefix_complex_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_complex_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_complex_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_complex_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_complex_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_complex_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_complex_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_complex_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_complex_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_complex_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_complex_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_complex_data_create;
+    /// Same as lumo_tarn_dp_mp_prefix_complex_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_prefix_complex_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_prefix_complex_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_prefix_complex_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_prefix_complex_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_prefix_complex_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_prefix_complex_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_complex_data_destroy;
+    /// Same as lumo_tarn_dp_mp_prefix_complex_data_destroy(), but with free_it 0 the memory of the instance itself is
+    /// not freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_prefix_complex_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_prefix_complex_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_prefix_complex_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_prefix_complex_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_complex_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_prefix_complex_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_complex_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_prefix_complex_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_prefix_complex_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_prefix_complex_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_prefix_complex_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_prefix_complex_data_offset_update() set, at
+    /// every depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_prefix_complex_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_complex_data_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_complex_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_complex_data_marshal;
+    /// Same as lumo_tarn_dp_mp_prefix_complex_data_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_prefix_complex_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_complex_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least
+    /// lumo_tarn_dp_mp_prefix_complex_data_len(), and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_complex_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_prefix_complex_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_complex_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_complex_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_complex_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_complex_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_complex_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_prefix_complex_data_type_type_backpropagate;
 
     /// How complex_data is read and written, for array_ref.
     struct complex_data_array {
@@ -9234,20 +11254,77 @@ struct dp_mp_prefix_data_type {
     using native = lumo_tarn_dp_mp_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_dp_mp_prefix_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_dp_mp_prefix_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_dp_mp_prefix_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_dp_mp_prefix_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_data_create;
+    /// Same as lumo_tarn_dp_mp_prefix_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_dp_mp_prefix_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_dp_mp_prefix_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_dp_mp_prefix_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_dp_mp_prefix_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_dp_mp_prefix_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_dp_mp_prefix_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_data_destroy;
+    /// Same as lumo_tarn_dp_mp_prefix_data_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_dp_mp_prefix_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_dp_mp_prefix_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_dp_mp_prefix_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_dp_mp_prefix_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_dp_mp_prefix_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_dp_mp_prefix_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_dp_mp_prefix_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_prefix_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_dp_mp_prefix_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_dp_mp_prefix_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_dp_mp_prefix_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_dp_mp_prefix_data_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_dp_mp_prefix_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_data_marshal;
+    /// Same as lumo_tarn_dp_mp_prefix_data_marshal(), but the outermost frame keeps the instance's own variant whatever
+    /// the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_dp_mp_prefix_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_mp_prefix_data_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_dp_mp_prefix_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_dp_mp_prefix_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_dp_mp_prefix_data_compare;
+    static constexpr auto hash = lumo_tarn_dp_mp_prefix_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_dp_mp_prefix_data_type_type_backpropagate;
 
     /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
@@ -9365,20 +11442,74 @@ struct pal_mp_prefix_type {
     using native = lumo_tarn_pal_mp_prefix;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix";  ///< its name in C
     static constexpr bool owns_blocks = false;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_pal_mp_prefix_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_pal_mp_prefix_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_pal_mp_prefix_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_pal_mp_prefix_hash;  ///< its hash
-    /// writes all states
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_create;  ///< Allocates an instance with all members zero.
+    /// Same as lumo_tarn_pal_mp_prefix_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_pal_mp_prefix_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_pal_mp_prefix_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_pal_mp_prefix_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_pal_mp_prefix_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_pal_mp_prefix_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_pal_mp_prefix_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_destroy;
+    /// Same as lumo_tarn_pal_mp_prefix_destroy(), but with free_it 0 the memory of the instance itself is not freed.
+    static constexpr auto destroy_internal = lumo_tarn_pal_mp_prefix_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_pal_mp_prefix_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_pal_mp_prefix_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_pal_mp_prefix_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_pal_mp_prefix_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_pal_mp_prefix_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_pal_mp_prefix_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_pal_mp_prefix_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_pal_mp_prefix_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_pal_mp_prefix_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_pal_mp_prefix_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_pal_mp_prefix_offset_update() set, at every depth.
+    static constexpr auto offset_remove = lumo_tarn_pal_mp_prefix_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_pal_mp_prefix_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_marshal;
+    /// Same as lumo_tarn_pal_mp_prefix_marshal(), but the outermost frame keeps the instance's own variant whatever the
+    /// domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_pal_mp_prefix_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_pal_mp_prefix_len(), and
+    /// one guard byte after them.
+    static constexpr auto clone = lumo_tarn_pal_mp_prefix_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_pal_mp_prefix_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_pal_mp_prefix_compare;
+    static constexpr auto hash = lumo_tarn_pal_mp_prefix_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_pal_mp_prefix_type_type_backpropagate;
 
     /// Reads the members.
     template <class Self>
@@ -9517,20 +11648,77 @@ struct pal_mp_prefix_data_type {
     using native = lumo_tarn_pal_mp_prefix_data;  ///< the record in C
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix_data";  ///< its name in C
     static constexpr bool owns_blocks = true;  ///< has arrays or strings
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;  ///< creates an instance
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;  ///< destroys it
-    static constexpr auto set = lumo_tarn_pal_mp_prefix_data_set;  ///< moves one into another
-    static constexpr auto clone = lumo_tarn_pal_mp_prefix_data_clone;  ///< a deep copy
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_data_len;  ///< an upper bound of its frame's size
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_data_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_data_unmarshal;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_data_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_data_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_data_from_xml;  ///< reads it from XML
-    static constexpr auto compare = lumo_tarn_pal_mp_prefix_data_compare;  ///< orders two
-    static constexpr auto hash = lumo_tarn_pal_mp_prefix_data_hash;  ///< its hash
-    /// writes all states
+    /// Allocates an instance with all members zero.
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_data_create;
+    /// Same as lumo_tarn_pal_mp_prefix_data_create(), but does not register the trace module of types.
+    static constexpr auto create_internal = lumo_tarn_pal_mp_prefix_data_create_internal;
+    /// Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members.
+    static constexpr auto initialize = lumo_tarn_pal_mp_prefix_data_initialize;
+    /// Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state
+    /// area.
+    static constexpr auto sizeof_operation = lumo_tarn_pal_mp_prefix_data_sizeof;
+    /// Returns the variant, limited to the highest one that this library knows.
+    static constexpr auto variant_data_index_cap = lumo_tarn_pal_mp_prefix_data_variant_data_index_cap;
+    /// Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+    /// booleans nested in it.
+    static constexpr auto set_instance_embedded = lumo_tarn_pal_mp_prefix_data_set_instance_embedded;
+    /// Changes the instance to the variant that the handle's domain has for its type.
+    static constexpr auto adjust_variant = lumo_tarn_pal_mp_prefix_data_adjust_variant;
+    /// Destroys the instance: its arrays and strings, everything nested in it, and its memory.
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_data_destroy;
+    /// Same as lumo_tarn_pal_mp_prefix_data_destroy(), but with free_it 0 the memory of the instance itself is not
+    /// freed.
+    static constexpr auto destroy_internal = lumo_tarn_pal_mp_prefix_data_destroy_internal;
+    /// Returns the instance itself, so that code can treat records as it treats members.
+    static constexpr auto get = lumo_tarn_pal_mp_prefix_data_get;
+    /// Writes all scalar members, counts and lengths through the pointers, in table order.
+    static constexpr auto get_all = lumo_tarn_pal_mp_prefix_data_get_all;
+    /// Stores all scalar members in table order, without counts and lengths.
+    static constexpr auto set_all = lumo_tarn_pal_mp_prefix_data_set_all;
+    /// MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
+    /// source loses.
+    static constexpr auto set = lumo_tarn_pal_mp_prefix_data_set;
+    /// For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
+    /// strings, and clears them at the old address.
+    static constexpr auto post_copyout_cleanup = lumo_tarn_pal_mp_prefix_data_post_copyout_cleanup;
+    /// Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
     static constexpr auto set_all_state_tracking_flag = lumo_tarn_pal_mp_prefix_data_set_all_state_tracking_flag;
+    /// Returns 1 if the handle's domain has a member with this index, counted from 0 in table order.
+    static constexpr auto is_valid_cr = lumo_tarn_pal_mp_prefix_data_is_valid_cr;
+    /// Returns the number of object identifiers that the instance itself holds: 0 in this schema.
+    static constexpr auto get_oid_count = lumo_tarn_pal_mp_prefix_data_get_oid_count;
+    /// Writes up to size object identifiers that the instance itself holds: none in this schema.
+    static constexpr auto get_object_references = lumo_tarn_pal_mp_prefix_data_get_object_references;
+    /// Gives the runtime the location of the state of each nested record and address in the state area at this address.
+    static constexpr auto offset_update = lumo_tarn_pal_mp_prefix_data_offset_update;
+    /// Removes from the runtime the state locations that lumo_tarn_pal_mp_prefix_data_offset_update() set, at every
+    /// depth.
+    static constexpr auto offset_remove = lumo_tarn_pal_mp_prefix_data_offset_remove;
+    /// Returns the buffer size in bytes that lumo_tarn_pal_mp_prefix_data_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_data_len;
+    /// Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them.
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_data_marshal;
+    /// Same as lumo_tarn_pal_mp_prefix_data_marshal(), but the outermost frame keeps the instance's own variant
+    /// whatever the domain has.
+    static constexpr auto marshal_for_clone = lumo_tarn_pal_mp_prefix_data_marshal_for_clone;
+    /// Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance.
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_data_unmarshal;
+    /// Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_pal_mp_prefix_data_len(),
+    /// and one guard byte after them.
+    static constexpr auto clone = lumo_tarn_pal_mp_prefix_data_clone;
+    /// Makes a deep copy in an existing instance, through the handle's workspace.
+    static constexpr auto copy_cr = lumo_tarn_pal_mp_prefix_data_copy_cr;
+    /// Writes the instance as readable text, indented by indent blanks, under this name.
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_data_print;
+    /// Writes the instance as an XML element of this name with one element for each member.
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_data_to_xml;
+    /// Reads the element at a path of the runtime's document into the instance.
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_data_from_xml;
+    /// Orders two instances by their members in table order; only the sign of the result has a meaning.
+    static constexpr auto compare = lumo_tarn_pal_mp_prefix_data_compare;
+    static constexpr auto hash = lumo_tarn_pal_mp_prefix_data_hash;  ///< Mixes all members into the seed.
+    /// Returns 1 if the record or one of its members has a change mark.
+    static constexpr auto type_type_backpropagate = lumo_tarn_pal_mp_prefix_data_type_type_backpropagate;
 
     /// How prefix_data is read and written, for array_ref.
     struct prefix_data_array {
@@ -9678,20 +11866,42 @@ struct debug_setting_msg_type {
     static constexpr const char *name = "lumo_tarn_debug_setting_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;  ///< destroys it
-    /// its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_debug_setting_msg_message_create_shallow;
+    /// Allocates a message with a new payload.
+    static constexpr auto create = lumo_tarn_debug_setting_msg_message_create;
+    /// Destroys the message and its payload.
+    static constexpr auto destroy = lumo_tarn_debug_setting_msg_message_destroy;
+    /// Returns the payload; the message keeps it.
     static constexpr auto payload_get = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get;
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get_detach;
-    /// replaces its payload
-    static constexpr auto payload_free_and_set = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_free_and_set;
-    static constexpr auto len = lumo_tarn_debug_setting_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_debug_setting_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_debug_setting_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_debug_setting_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_debug_setting_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_debug_setting_msg_message_from_xml;  ///< reads it from XML
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_set;
+    /// Destroys the payload and stores another one.
+    static constexpr auto payload_free_and_set =
+        lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_free_and_set;
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_debug_setting_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_debug_setting_msg_message_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_debug_setting_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_debug_setting_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_debug_setting_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_debug_setting_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_debug_setting_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_debug_setting_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_debug_setting_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_debug_setting_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_debug_setting_msg_message_handler;
 };
 /// Owns a lumo_tarn_debug_setting_msg.
 using debug_setting_msg = message<debug_setting_msg_type>;
@@ -9707,20 +11917,44 @@ struct dp_debug_setting_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_debug_setting_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_debug_setting_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;  ///< destroys it
-    /// its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_debug_setting_msg_message_create_shallow;
+    /// Allocates a message with a new payload.
+    static constexpr auto create = lumo_tarn_dp_debug_setting_msg_message_create;
+    /// Destroys the message and its payload.
+    static constexpr auto destroy = lumo_tarn_dp_debug_setting_msg_message_destroy;
+    /// Returns the payload; the message keeps it.
     static constexpr auto payload_get = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get;
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get_detach;
-    /// replaces its payload
-    static constexpr auto payload_free_and_set = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_debug_setting_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_debug_setting_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_debug_setting_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_msg_message_from_xml;  ///< reads it from XML
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach =
+        lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_set;
+    /// Destroys the payload and stores another one.
+    static constexpr auto payload_free_and_set =
+        lumo_tarn_dp_debug_setting_msg_message_lumo_tarn_dp_debug_setting_data_free_and_set;
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_debug_setting_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_debug_setting_msg_message_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_dp_debug_setting_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_debug_setting_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_debug_setting_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_debug_setting_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_debug_setting_msg_message_unmarshal_only;
+    /// Writes the message as readable text.
+    static constexpr auto print = lumo_tarn_dp_debug_setting_msg_message_print;
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_debug_setting_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_debug_setting_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_debug_setting_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_debug_setting_msg.
 using dp_debug_setting_msg = message<dp_debug_setting_msg_type>;
@@ -9736,19 +11970,38 @@ struct cl_appl_msg_type {
     static constexpr const char *name = "lumo_tarn_cl_appl_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;  ///< destroys it
-    static constexpr auto payload_get = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get;  ///< its payload
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get_detach;
-    /// replaces its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_cl_appl_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_cl_appl_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_cl_appl_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
+    static constexpr auto payload_get = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get;
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_set;
+    /// Destroys the payload and stores another one.
     static constexpr auto payload_free_and_set = lumo_tarn_cl_appl_msg_message_lumo_tarn_cl_appl_data_free_and_set;
-    static constexpr auto len = lumo_tarn_cl_appl_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_cl_appl_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_cl_appl_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_cl_appl_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_cl_appl_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_cl_appl_msg_message_from_xml;  ///< reads it from XML
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_cl_appl_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_cl_appl_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_cl_appl_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_cl_appl_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_cl_appl_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_cl_appl_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_cl_appl_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_cl_appl_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_cl_appl_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_cl_appl_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_cl_appl_msg_message_handler;
 };
 /// Owns a lumo_tarn_cl_appl_msg.
 using cl_appl_msg = message<cl_appl_msg_type>;
@@ -9764,19 +12017,38 @@ struct cl_cfg_msg_type {
     static constexpr const char *name = "lumo_tarn_cl_cfg_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_cl_cfg_msg_luid; }
-    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;  ///< destroys it
-    static constexpr auto payload_get = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get;  ///< its payload
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get_detach;
-    /// replaces its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_cl_cfg_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_cl_cfg_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_cl_cfg_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
+    static constexpr auto payload_get = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get;
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_set;
+    /// Destroys the payload and stores another one.
     static constexpr auto payload_free_and_set = lumo_tarn_cl_cfg_msg_message_lumo_tarn_cl_cfg_data_free_and_set;
-    static constexpr auto len = lumo_tarn_cl_cfg_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_cl_cfg_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_cl_cfg_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_cl_cfg_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_cl_cfg_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_cl_cfg_msg_message_from_xml;  ///< reads it from XML
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_cl_cfg_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_cl_cfg_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_cl_cfg_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_cl_cfg_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_cl_cfg_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_cl_cfg_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_cl_cfg_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_cl_cfg_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_cl_cfg_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_cl_cfg_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_cl_cfg_msg_message_handler;
 };
 /// Owns a lumo_tarn_cl_cfg_msg.
 using cl_cfg_msg = message<cl_cfg_msg_type>;
@@ -9792,19 +12064,38 @@ struct dp_intf_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_intf_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_intf_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;  ///< destroys it
-    static constexpr auto payload_get = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get;  ///< its payload
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get_detach;
-    /// replaces its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_intf_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_dp_intf_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_dp_intf_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
+    static constexpr auto payload_get = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get;
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_set;
+    /// Destroys the payload and stores another one.
     static constexpr auto payload_free_and_set = lumo_tarn_dp_intf_msg_message_lumo_tarn_dp_intf_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_intf_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_intf_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_intf_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_intf_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_intf_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_intf_msg_message_from_xml;  ///< reads it from XML
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_intf_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_intf_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_intf_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_intf_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_intf_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_intf_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_intf_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_dp_intf_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_intf_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_intf_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_intf_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_intf_msg.
 using dp_intf_msg = message<dp_intf_msg_type>;
@@ -9820,19 +12111,38 @@ struct dp_appl_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_appl_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_appl_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;  ///< destroys it
-    static constexpr auto payload_get = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get;  ///< its payload
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get_detach;
-    /// replaces its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_appl_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_dp_appl_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_dp_appl_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
+    static constexpr auto payload_get = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get;
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_set;
+    /// Destroys the payload and stores another one.
     static constexpr auto payload_free_and_set = lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_appl_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_appl_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_appl_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_appl_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_appl_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_appl_msg_message_from_xml;  ///< reads it from XML
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_appl_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_appl_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_appl_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_appl_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_appl_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_appl_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_appl_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_dp_appl_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_appl_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_appl_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_appl_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_appl_msg.
 using dp_appl_msg = message<dp_appl_msg_type>;
@@ -9848,19 +12158,38 @@ struct dp_tt_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_tt_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_tt_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;  ///< destroys it
-    static constexpr auto payload_get = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get;  ///< its payload
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get_detach;
-    /// replaces its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_tt_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_dp_tt_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_dp_tt_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
+    static constexpr auto payload_get = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get;
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_set;
+    /// Destroys the payload and stores another one.
     static constexpr auto payload_free_and_set = lumo_tarn_dp_tt_msg_message_lumo_tarn_dp_tt_table_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_tt_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_tt_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_tt_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_tt_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_tt_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_tt_msg_message_from_xml;  ///< reads it from XML
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_tt_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_tt_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_tt_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_tt_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_tt_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_tt_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_tt_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_dp_tt_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_tt_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_tt_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_tt_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_tt_msg.
 using dp_tt_msg = message<dp_tt_msg_type>;
@@ -9876,20 +12205,39 @@ struct dp_mp_tc_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_tc_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;  ///< destroys it
-    /// its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_mp_tc_msg_message_create_shallow;
+    static constexpr auto create = lumo_tarn_dp_mp_tc_msg_message_create;  ///< Allocates a message with a new payload.
+    static constexpr auto destroy = lumo_tarn_dp_mp_tc_msg_message_destroy;  ///< Destroys the message and its payload.
+    /// Returns the payload; the message keeps it.
     static constexpr auto payload_get = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get;
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get_detach;
-    /// replaces its payload
-    static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_mp_tc_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_tc_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_tc_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_msg_message_from_xml;  ///< reads it from XML
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_set;
+    /// Destroys the payload and stores another one.
+    static constexpr auto payload_free_and_set =
+        lumo_tarn_dp_mp_tc_msg_message_lumo_tarn_dp_mp_tc_prefix_data_free_and_set;
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_tc_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_tc_msg_message_marshal() needs, without the guard byte.
+    static constexpr auto len = lumo_tarn_dp_mp_tc_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_tc_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_mp_tc_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_tc_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_mp_tc_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_dp_mp_tc_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_tc_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_tc_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_mp_tc_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_mp_tc_msg.
 using dp_mp_tc_msg = message<dp_mp_tc_msg_type>;
@@ -9905,20 +12253,43 @@ struct dp_mp_prefix_msg_type {
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_dp_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;  ///< destroys it
-    /// its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_dp_mp_prefix_msg_message_create_shallow;
+    /// Allocates a message with a new payload.
+    static constexpr auto create = lumo_tarn_dp_mp_prefix_msg_message_create;
+    /// Destroys the message and its payload.
+    static constexpr auto destroy = lumo_tarn_dp_mp_prefix_msg_message_destroy;
+    /// Returns the payload; the message keeps it.
     static constexpr auto payload_get = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get;
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get_detach;
-    /// replaces its payload
-    static constexpr auto payload_free_and_set = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_dp_mp_prefix_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_dp_mp_prefix_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_msg_message_from_xml;  ///< reads it from XML
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach =
+        lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_set;
+    /// Destroys the payload and stores another one.
+    static constexpr auto payload_free_and_set =
+        lumo_tarn_dp_mp_prefix_msg_message_lumo_tarn_dp_mp_prefix_data_free_and_set;
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_dp_mp_prefix_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_msg_message_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_dp_mp_prefix_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_dp_mp_prefix_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_dp_mp_prefix_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_dp_mp_prefix_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_dp_mp_prefix_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_dp_mp_prefix_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_dp_mp_prefix_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_mp_prefix_msg_message_handler;
 };
 /// Owns a lumo_tarn_dp_mp_prefix_msg.
 using dp_mp_prefix_msg = message<dp_mp_prefix_msg_type>;
@@ -9934,20 +12305,43 @@ struct pal_mp_prefix_msg_type {
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix_msg";  ///< its name in C
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return message_lumo_tarn_pal_mp_prefix_msg_luid; }
-    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;  ///< creates one
-    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;  ///< destroys it
-    /// its payload
+    /// Allocates a message without a payload.
+    static constexpr auto create_shallow = lumo_tarn_pal_mp_prefix_msg_message_create_shallow;
+    /// Allocates a message with a new payload.
+    static constexpr auto create = lumo_tarn_pal_mp_prefix_msg_message_create;
+    /// Destroys the message and its payload.
+    static constexpr auto destroy = lumo_tarn_pal_mp_prefix_msg_message_destroy;
+    /// Returns the payload; the message keeps it.
     static constexpr auto payload_get = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get;
-    /// removes and returns its payload
-    static constexpr auto payload_detach = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get_detach;
-    /// replaces its payload
-    static constexpr auto payload_free_and_set = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_free_and_set;
-    static constexpr auto len = lumo_tarn_pal_mp_prefix_msg_message_len;  ///< its frame's size
-    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_msg_message_marshal;  ///< writes its frame
-    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only;  ///< reads its frame
-    static constexpr auto print = lumo_tarn_pal_mp_prefix_msg_message_print;  ///< prints it
-    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_msg_message_to_xml;  ///< writes it as XML
-    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_msg_message_from_xml;  ///< reads it from XML
+    /// Returns the payload and removes it from the message; the caller owns it.
+    static constexpr auto payload_get_detach =
+        lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_get_detach;
+    /// Stores a payload, which the message then owns.
+    static constexpr auto payload_set = lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_set;
+    /// Destroys the payload and stores another one.
+    static constexpr auto payload_free_and_set =
+        lumo_tarn_pal_mp_prefix_msg_message_lumo_tarn_pal_mp_prefix_data_free_and_set;
+    /// Returns nonzero if the handle's domain has this message.
+    static constexpr auto is_valid_cr = lumo_tarn_pal_mp_prefix_msg_message_is_valid_cr;
+    /// Returns the buffer size in bytes that lumo_tarn_pal_mp_prefix_msg_message_marshal() needs, without the guard
+    /// byte.
+    static constexpr auto len = lumo_tarn_pal_mp_prefix_msg_message_len;
+    /// Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard
+    /// byte after them.
+    static constexpr auto marshal = lumo_tarn_pal_mp_prefix_msg_message_marshal;
+    /// Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
+    /// lumo_ui_tarn_lumo_tarn_pal_mp_prefix_msg_message_handler() if handler is NULL.
+    static constexpr auto unmarshal = lumo_tarn_pal_mp_prefix_msg_message_unmarshal;
+    /// Reads a frame and returns the message through out, also after a bad frame; the caller destroys it.
+    static constexpr auto unmarshal_only = lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only;
+    static constexpr auto print = lumo_tarn_pal_mp_prefix_msg_message_print;  ///< Writes the message as readable text.
+    /// Writes the message as an XML element that contains the payload's element.
+    static constexpr auto to_xml = lumo_tarn_pal_mp_prefix_msg_message_to_xml;
+    /// Creates a message from the first element with the payload's name in the runtime's document; without one, with a
+    /// new payload.
+    static constexpr auto from_xml = lumo_tarn_pal_mp_prefix_msg_message_from_xml;
+    /// Receives each message that no other handler takes.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_pal_mp_prefix_msg_message_handler;
 };
 /// Owns a lumo_tarn_pal_mp_prefix_msg.
 using pal_mp_prefix_msg = message<pal_mp_prefix_msg_type>;
@@ -9960,132 +12354,947 @@ using pal_mp_prefix_msg_view = message_view<pal_mp_prefix_msg_type>;
 struct pal_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_pal_debug_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_pal_debug_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_pal_debug_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_pal_debug_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_pal_debug_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_pal_debug_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_pal_debug_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_pal_debug_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_pal_debug_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_pal_debug_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_pal_debug_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_pal_debug_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_pal_debug_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_pal_debug_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_pal_debug_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_pal_debug_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_pal_debug_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_pal_debug_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_pal_debug_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_pal_debug_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_pal_debug_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_pal_debug_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_pal_debug_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_pal_debug_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_pal_debug_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_pal_debug_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_pal_debug_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_pal_debug_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_pal_debug_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_pal_debug_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_pal_debug_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_pal_debug_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_pal_debug_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_pal_debug_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_pal_debug_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_cl_debug_rsp admits lumo_tarn_debug_setting_msg.
 struct cl_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_cl_debug_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_cl_debug_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_cl_debug_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_cl_debug_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_cl_debug_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_cl_debug_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_cl_debug_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_cl_debug_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_cl_debug_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_cl_debug_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_cl_debug_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_cl_debug_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_cl_debug_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_cl_debug_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_cl_debug_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_cl_debug_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_cl_debug_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_cl_debug_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_cl_debug_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_cl_debug_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_cl_debug_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_cl_debug_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_cl_debug_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_cl_debug_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_cl_debug_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_cl_debug_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_cl_debug_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_cl_debug_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_cl_debug_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_cl_debug_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_cl_debug_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_cl_debug_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_cl_debug_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_cl_debug_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_debug_rsp admits lumo_tarn_dp_debug_setting_msg.
 struct dp_debug_rsp {
     using message = lumo_ui_tarn::dp_debug_setting_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_debug_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_debug_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_debug_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_debug_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_debug_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_debug_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_debug_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_dp_debug_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_debug_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_debug_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_debug_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_debug_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_debug_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_debug_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_debug_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_debug_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_dp_debug_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_debug_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_debug_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_debug_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_debug_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_debug_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_debug_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_debug_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_debug_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_dp_debug_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_debug_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_debug_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_debug_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_debug_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_dp_debug_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_cl_appl_cfg_rsp admits lumo_tarn_cl_appl_msg.
 struct cl_appl_cfg_rsp {
     using message = lumo_ui_tarn::cl_appl_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_cl_appl_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only =
+        lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_cl_appl_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_cl_cfg_rsp admits lumo_tarn_cl_cfg_msg.
 struct cl_cfg_rsp {
     using message = lumo_ui_tarn::cl_cfg_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_cl_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_cl_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_cl_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_cl_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_cl_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_cl_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_cl_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_cl_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_cl_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_cl_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_cl_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_cl_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_cl_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_cl_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_cl_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_cl_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_cl_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_cl_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_cl_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_cl_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_cl_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_cl_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_cl_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_cl_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_cl_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_cl_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_cl_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_cl_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_cl_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_cl_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_cl_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_cl_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_intf_rsp admits lumo_tarn_dp_intf_msg.
 struct dp_intf_rsp {
     using message = lumo_ui_tarn::dp_intf_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_intf_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_intf_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_intf_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_intf_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_intf_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_intf_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_intf_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_intf_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_intf_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_dp_intf_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_intf_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_intf_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_intf_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_intf_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_intf_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_intf_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_intf_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_intf_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_intf_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_dp_intf_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_intf_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_intf_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_intf_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_intf_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_intf_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_intf_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_intf_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_intf_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_intf_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_dp_intf_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_intf_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_intf_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_intf_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_intf_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_dp_intf_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_appl_cfg_rsp admits lumo_tarn_dp_appl_msg.
 struct dp_appl_cfg_rsp {
     using message = lumo_ui_tarn::dp_appl_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_appl_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only =
+        lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_dp_appl_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_tt_cfg_rsp admits lumo_tarn_dp_tt_msg.
 struct dp_tt_cfg_rsp {
     using message = lumo_ui_tarn::dp_tt_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_tt_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_handler() if handler is NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler = lumo_ui_tarn_lumo_tarn_dp_tt_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_mp_tc_cfg_rsp admits lumo_tarn_dp_mp_tc_msg.
 struct dp_mp_tc_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_tc_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_mp_tc_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_handler() if handler is NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler = lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_handler() if handler is NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler = lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_handler() if handler is
+    /// NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only =
+        lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler =
+        lumo_ui_tarn_lumo_tarn_dp_mp_tc_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_dp_mp_prefix_cfg_rsp admits lumo_tarn_dp_mp_prefix_msg.
 struct dp_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_prefix_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_dp_mp_prefix_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_handler() if handler is
+    /// NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only =
+        lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler =
+        lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_handler() if handler is
+    /// NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only =
+        lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler =
+        lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_handler() if handler is
+    /// NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only =
+        lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler =
+        lumo_ui_tarn_lumo_tarn_dp_mp_prefix_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// lumo_tarn_pal_mp_prefix_cfg_rsp admits lumo_tarn_pal_mp_prefix_msg.
 struct pal_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::pal_mp_prefix_msg_type;  ///< what it admits
     static constexpr const char *name = "lumo_tarn_pal_mp_prefix_cfg_rsp";  ///< its name in C
-    /// writes the frame of its start
-    static constexpr auto start = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_marshal;
-    /// writes the frame of its abort
-    static constexpr auto abort = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
-    /// writes the frame of its commit
-    static constexpr auto commit = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
+    /// Receives each committed bundle that has no registered handler; its messages are on the handle's receive list.
+    static constexpr auto handler = lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_handler;
+    /// Registers the process-wide handler of this bundle and returns the previous one.
+    static constexpr auto handler_register = lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_handler_register;
+    /// Removes the registered handler of this bundle and returns it.
+    static constexpr auto handler_unregister = lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_handler_unregister;
+    /// Allocates a token for the start of the bundle.
+    static constexpr auto start_message_create = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create;
+    /// Frees the token.
+    static constexpr auto start_message_destroy = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto start_message_len = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_len;
+    /// Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto start_message_marshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_handler() if handler is
+    /// NULL.
+    static constexpr auto start_message_unmarshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto start_message_unmarshal_only =
+        lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto start_message_print = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto start_message_to_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto start_message_from_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto start_message_valid_cr = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_valid_cr;
+    /// Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto start_message_handler =
+        lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_handler;
+    /// Allocates a token for the abort of the bundle.
+    static constexpr auto abort_message_create = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create;
+    /// Frees the token.
+    static constexpr auto abort_message_destroy = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto abort_message_len = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_len;
+    /// Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto abort_message_marshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_handler() if handler is
+    /// NULL.
+    static constexpr auto abort_message_unmarshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto abort_message_unmarshal_only =
+        lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto abort_message_print = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto abort_message_to_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto abort_message_from_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto abort_message_valid_cr = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_valid_cr;
+    /// Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto abort_message_handler =
+        lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_handler;
+    /// Allocates a token for the commit of the bundle.
+    static constexpr auto commit_message_create = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create;
+    /// Frees the token.
+    static constexpr auto commit_message_destroy = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_destroy;
+    /// Returns the size of the frame in bytes: 43, header and identity.
+    static constexpr auto commit_message_len = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_len;
+    /// Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
+    /// commit closes it even if the frame did not fit.
+    static constexpr auto commit_message_marshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_marshal;
+    /// Calls the handler, or lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_handler() if handler is
+    /// NULL.
+    static constexpr auto commit_message_unmarshal = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_unmarshal;
+    /// Has no effect and returns 0: there is no object to return.
+    static constexpr auto commit_message_unmarshal_only =
+        lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_unmarshal_only;
+    /// Writes a line with the bundle's name.
+    static constexpr auto commit_message_print = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_print;
+    /// Writes an empty XML element with the bundle's name as an attribute.
+    static constexpr auto commit_message_to_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_to_xml;
+    /// Allocates a token; the document is not read.
+    static constexpr auto commit_message_from_xml = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_from_xml;
+    /// Returns 1: every domain has control messages.
+    static constexpr auto commit_message_valid_cr = lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_valid_cr;
+    /// Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
+    /// messages received, a commit delivers them to the bundle's handler and then destroys the rest.
+    static constexpr auto commit_message_handler =
+        lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_handler;
 };
 
 /// Stands for a type in a call.
@@ -10133,6 +13342,13 @@ void for_each_record(Visit &&visit) {
     visit(kind<dp_mp_prefix_data>{});
     visit(kind<pal_mp_prefix>{});
     visit(kind<pal_mp_prefix_data>{});
+}
+/// Calls visit with a kind<T> for each enumeration, in the order of the schema.
+template <class Visit>
+void for_each_enumeration(Visit &&visit) {
+    visit(kind<ha_state_type>{});
+    visit(kind<lumo_direction_type>{});
+    visit(kind<mem_desc_type>{});
 }
 /// Calls visit with a kind<T> for each message, in the order of the schema.
 template <class Visit>

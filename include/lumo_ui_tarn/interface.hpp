@@ -885,7 +885,7 @@ protected:
 
     record_ref<payload_type> payload_() const { return {this->context(), this->call_(M::payload_get)}; }
     record<payload_type> detach_payload_() const {
-        return record<payload_type>::take(this->context(), this->call_(M::payload_detach));
+        return record<payload_type>::take(this->context(), this->call_(M::payload_get_detach));
     }
     void set_payload_(record<payload_type> &&value) const {
         typename payload_type::native *const next = value.release();
@@ -989,8 +989,8 @@ public:
     static message from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         std::uint32_t err = *c.slot();
-        M::unmarshal(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
-                     &err);
+        M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
+                          &err);
         message read(c, native);
         if (err != 0) c.fail(err);
         return read;
@@ -1028,7 +1028,7 @@ class bundle_writer {
 public:
     /// Writes the start.
     explicit bundle_writer(context &c) : context_(&c) {
-        control(B::start);
+        control(B::start_message_marshal);
         open_ = c.ok();
     }
     /// A bundle is open once.
@@ -1040,7 +1040,8 @@ public:
         if (!open_) return;
         std::uint8_t frame_of_nobody[64];
         std::uint32_t err = 0;
-        B::abort(context_->handle(), context_->ctx_id(), frame_of_nobody, nullptr, sizeof frame_of_nobody - 1, &err);
+        B::abort_message_marshal(context_->handle(), context_->ctx_id(), frame_of_nobody, nullptr,
+                                 sizeof frame_of_nobody - 1, &err);
     }
 
     /// The frame of a message that the bundle admits.
@@ -1049,9 +1050,9 @@ public:
         return *this;
     }
     /// The frame of the commit.
-    bundle_writer &commit() { return end(B::commit); }
+    bundle_writer &commit() { return end(B::commit_message_marshal); }
     /// The frame of the abort.
-    bundle_writer &abort() { return end(B::abort); }
+    bundle_writer &abort() { return end(B::abort_message_marshal); }
     /// What was written up to now.
     const frame &frames() const { return frames_; }
 

@@ -68,6 +68,36 @@ TEST_F(CppUsage, TheFunctionsOfCWorkOnTheSameObject) {
     EXPECT_EQ(err, 0u);
 }
 
+TEST_F(CppUsage, EachTypeNamesItsOperations) {
+    context c(handle);
+    for_each_record([&](auto kind) {
+        typename decltype(kind)::type object(c);
+        using type = typename decltype(object)::record_type;
+        EXPECT_EQ(c.call(type::get, object.get()), object.get()) << type::name;
+        EXPECT_GE(type::sizeof_operation(handle), sizeof(mirk_object)) << type::name;
+    });
+    for_each_enumeration([&](auto kind) {
+        using type = typename decltype(kind)::type;
+        const auto second = static_cast<typename type::value>(1);
+        typename type::native *object = type::create(handle, c.ctx_id());
+        c.call(type::set_value, object, static_cast<std::uint32_t>(second));
+        EXPECT_EQ(c.call(type::get_value, object), 1u) << type::name;
+        EXPECT_FALSE(name_of(second).empty()) << type::name;
+        type::destroy(handle, c.ctx_id(), object);
+    });
+    for_each_message([&](auto kind) {
+        typename decltype(kind)::type object(c);
+        using type = typename decltype(object)::message_type;
+        EXPECT_EQ(c.call(type::payload_get, object.get()), object.payload().get()) << type::name;
+        EXPECT_NE(type::is_valid_cr(handle), 0u) << type::name;
+    });
+    for_each_bundle([&](auto kind) {
+        using type = typename decltype(kind)::type;
+        EXPECT_EQ(type::start_message_len(handle, c.ctx_id(), nullptr), 43u) << type::name;
+        EXPECT_EQ(type::handler_unregister(), nullptr) << type::name;
+    });
+}
+
 TEST_F(CppUsage, ErrorsAreThrown) {
     context c(handle);
     dp_tc_list list(c);

@@ -90,8 +90,18 @@ int main() {
         lumo_ui_tarn::context c(h);
         lumo_ui_tarn::dp_tc tc(c);
         tc.set_tos(5).set_id(77);
-        std::uint32_t err = 0;
-        assert(lumo_tarn_dp_tc_count_written(h, 1, tc.get(), &err) == 2 && err == 0);
+        assert(c.call(lumo_ui_tarn::dp_tc_type::count_written, tc.get()) == 2);
+        lumo_ui_tarn::for_each_record([&c](auto kind) {
+            typename decltype(kind)::type object(c);
+            using type = typename decltype(object)::record_type;
+            assert(c.call(type::count_written, object.get()) == 0);
+            object.set_all_states(1);
+            std::uint32_t with_state = 0;
+            object.for_each_member([&](auto member) {
+                if constexpr (!std::is_null_pointer_v<decltype(member.get_state)>) ++with_state;
+            });
+            assert(c.call(type::count_written, object.get()) == with_state);
+        });
     }
     assert(mirk_platform_handle_close(h) == 0);
 }
@@ -108,6 +118,7 @@ assert tracked.call(lib.lumo_tarn_dp_tc_count_written, tc.native) == 2
 FILES = [
     ("include/lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "@name Written members\n"),
     ("include/lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "uint32_t lumo_tarn_dp_tc_count_written_cr("),
+    ("include/lumo_ui_tarn.hpp", "/// Returns the number of members whose state byte is not 0.\n"),
     ("tests/golden/exports.txt", "T lumo_tarn_pal_mp_prefix_data_count_written\n"),
     ("build/dev/docs/lumo_ui_tarn.3", ".It Fn RECORD_count_written\nReturns the number of members"),
     ("build/dev/tools/reflect/generated/tools/reflect/operations.h", "(*count_written)("),

@@ -1,6 +1,5 @@
 // The C++ interface: for each record a structure that names its C functions, and accessors that call them.
 #include <algorithm>
-#include <iterator>
 #include <set>
 #include <stdexcept>
 
@@ -18,101 +17,30 @@ constexpr std::size_t line_width = 120;
 
 const std::string space = "lumo_ui_tarn::";
 
-// Words that C++ keeps for itself, and names that all records have.
-constexpr std::string_view taken[] = {"alignas",
-                                      "alignof",
-                                      "asm",
-                                      "auto",
-                                      "bool",
-                                      "break",
-                                      "case",
-                                      "catch",
-                                      "char",
-                                      "class",
-                                      "concept",
-                                      "const",
-                                      "context",
-                                      "continue",
-                                      "copy",
-                                      "compare",
-                                      "default",
-                                      "delete",
-                                      "do",
-                                      "double",
-                                      "else",
-                                      "enum",
-                                      "explicit",
-                                      "for_each_member",
-                                      "export",
-                                      "extern",
-                                      "false",
-                                      "float",
-                                      "for",
-                                      "frame",
-                                      "friend",
-                                      "frame_size",
-                                      "from_frame",
-                                      "from_xml",
-                                      "get",
-                                      "goto",
-                                      "hash",
-                                      "if",
-                                      "inline",
-                                      "int",
-                                      "is_tracked",
-                                      "long",
+// Words that C++ keeps for itself.
+constexpr std::string_view keywords =
+    " alignas alignof and and_eq asm auto bitand bitor bool break case catch char char16_t char32_t char8_t class "
+    "co_await co_return co_yield compl concept const const_cast consteval constexpr constinit continue decltype "
+    "default delete do double dynamic_cast else enum explicit export extern false float for friend goto if inline int "
+    "long mutable namespace new noexcept not not_eq nullptr operator or or_eq private protected public register "
+    "reinterpret_cast requires return short signed sizeof static static_assert static_cast struct switch template "
+    "this thread_local throw true try typedef typeid typename union unsigned using virtual void volatile wchar_t "
+    "while xor xor_eq ";
+// Names that all records have.
+constexpr std::string_view of_records =
+    " compare context copy for_each_member frame frame_size from_frame from_frame_with_spare from_xml get hash "
+    "is_tracked record_name record_type reference_type release set_all_states take text to_frame to_xml write_frame ";
+// Names in a structure of C types and functions that are no operations.
+constexpr std::string_view of_structures =
+    " luid members message name native owns_blocks payload ref_writers type value visit_writable_ writers ";
 
-                                      "mutable",
-                                      "namespace",
-                                      "new",
-                                      "noexcept",
-                                      "nullptr",
-                                      "operator",
-                                      "private",
-                                      "protected",
-                                      "public",
-                                      "record_name",
-                                      "record_type",
-                                      "reference_type",
-                                      "from_frame_with_spare",
+bool is_among(std::string_view words, const std::string &name) {
+    return words.find(" " + name + " ") != std::string_view::npos;
+}
 
-                                      "register",
-                                      "release",
-                                      "requires",
-                                      "return",
-                                      "short",
-                                      "set_all_states",
-                                      "signed",
-                                      "sizeof",
-
-                                      "static",
-                                      "struct",
-                                      "switch",
-                                      "take",
-                                      "template",
-                                      "text",
-                                      "this",
-                                      "throw",
-                                      "to_frame",
-                                      "to_xml",
-                                      "true",
-                                      "try",
-
-                                      "typedef",
-                                      "typename",
-                                      "union",
-                                      "unsigned",
-                                      "using",
-                                      "virtual",
-                                      "void",
-                                      "volatile",
-                                      "while",
-
-                                      "write_frame"};
-
-std::string identifier(std::string_view name) {
-    const bool is_taken = std::find(std::begin(taken), std::end(taken), name) != std::end(taken);
-    return std::string(name) + (is_taken ? "_member" : "");
+std::string identifier(std::string_view of_member) {
+    const std::string name(of_member);
+    return name + (is_among(keywords, name) || is_among(of_records, name) ? "_member" : "");
 }
 
 // Breaks a line after commas and indents the rest.
@@ -131,7 +59,15 @@ std::string broken(std::string line, std::size_t indent, std::size_t first_inden
 // Lines of a structure that names C types and functions.
 std::string explained(const std::string &declaration, const std::string &meaning) {
     const std::string line = "    " + declaration + ";  ///< " + meaning + "\n";
-    return line.size() <= line_width ? line : "    /// " + meaning + "\n    " + declaration + ";\n";
+    if (line.size() <= line_width) return line;
+    std::string text, comment = "    /// " + meaning, statement = "    " + declaration + ";\n";
+    while (comment.size() > line_width) {
+        const std::size_t blank = comment.rfind(' ', line_width);
+        text += comment.substr(0, blank) + "\n";
+        comment.replace(0, blank, "    ///");
+    }
+    if (statement.size() > line_width + 1) statement.replace(statement.find(" = ") + 2, 1, "\n        ");
+    return text + comment + "\n" + statement;
 }
 std::string alias(const std::string &name, const std::string &type, const std::string &meaning) {
     return explained("using " + name + " = " + type, meaning);
@@ -298,14 +234,24 @@ bool owns_blocks(const Record &record) {
     });
 }
 
-struct Named {
-    const char *name;
-    std::string function;
-    const char *meaning;
-};
-std::string constants(const std::string &prefix, std::initializer_list<Named> all) {
+// A constant for each explicit operation of the table, in its order, under its own name: what follows the prefix in the
+// name of the function. A payload's name differs from message to message, so the constant says payload.
+std::string constants(const Subject &subject, Applies applies, std::string_view prefix) {
     std::string text;
-    for (const Named &one : all) text += constant(one.name, prefix + one.function, one.meaning);
+    std::set<std::string> functions;
+    for (const Export &e : exports_of(subject, applies)) {
+        const Operation &o = *e.operation;
+        const bool follows_from_row = o.prototype != o.row->prototype;
+        const bool is_sticky = e.name.ends_with("_cr") && functions.count(e.name.substr(0, e.name.size() - 3)) != 0;
+        if (follows_from_row || is_sticky) continue;
+        functions.insert(e.name);
+        std::string own = o.name.substr(o.name.find(prefix) + prefix.size());
+        if (own.starts_with("{r}")) own.replace(0, 3, "payload");
+        const std::string name = fill(own, subject);
+        const bool is_taken = is_among(keywords, name) || is_among(of_structures, name) || name.ends_with("_array");
+        const std::string first_sentence = o.text.substr(0, (o.text + " ").find(". ") + 1);
+        text += constant(name + (is_taken ? "_operation" : ""), e.name, fill(first_sentence, subject));
+    }
     return text;
 }
 
@@ -328,19 +274,7 @@ std::string record_types(const Record &record) {
         alias("native", c, "the record in C") + c_name(c) +
         explained(std::string("static constexpr bool owns_blocks = ") + (owns_blocks(record) ? "true" : "false"),
                   "has arrays or strings");
-    text += constants(c + "_", {{"create", "create", "creates an instance"},
-                                {"destroy", "destroy", "destroys it"},
-                                {"set", "set", "moves one into another"},
-                                {"clone", "clone", "a deep copy"},
-                                {"len", "len", "an upper bound of its frame's size"},
-                                {"marshal", "marshal", "writes its frame"},
-                                {"unmarshal", "unmarshal", "reads its frame"},
-                                {"print", "print", "prints it"},
-                                {"to_xml", "to_xml", "writes it as XML"},
-                                {"from_xml", "from_xml", "reads it from XML"},
-                                {"compare", "compare", "orders two"},
-                                {"hash", "hash", "its hash"},
-                                {"set_all_state_tracking_flag", "set_all_state_tracking_flag", "writes all states"}});
+    text += constants({.record = &record}, Applies::record, "{r}_");
     text += "\n" + members.arrays() + (members.arrays().empty() ? "" : "\n");
     const auto mixin = [&text](const std::string &meaning, const std::string &of, const std::string &base,
                                const std::string &constructor, const std::string &body) {
@@ -360,7 +294,7 @@ std::string record_types(const Record &record) {
 }
 
 std::string enumeration_type(const Enumeration &enumeration) {
-    const std::string name = type_name(enumeration);
+    const std::string c(enumeration.name), name = type_name(enumeration);
     std::string text = "/// " + sentence(enumeration.meaning) + "\nenum class " + name + " : std::uint32_t {\n";
     std::string cases;
     const std::vector<std::string> names = enumerator_names(enumeration);
@@ -373,7 +307,9 @@ std::string enumeration_type(const Enumeration &enumeration) {
     }
     return text + "};\n/// Its name in C; empty for a value that has none, as frames may bring one.\n" +
            "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
-           "    }\n    return {};\n}\n\n";
+           "    }\n    return {};\n}\n/// Names the C functions of " + c + ".\nstruct " + name + "_type {\n" +
+           alias("native", c, "the enumeration in C") + alias("value", space + name, "its values") + c_name(c) +
+           constants({.enumeration = &enumeration}, Applies::enumeration, "{e}_") + "};\n\n";
 }
 
 std::string message_types(const Message &message) {
@@ -382,29 +318,19 @@ std::string message_types(const Message &message) {
            alias("native", c, "the message in C") +
            alias("payload", space + short_name(payload) + "_type", "what it carries") + c_name(c) +
            "    /// Its identity, 16 bytes.\n    static const std::uint8_t *luid() { return message_" + c +
-           "_luid; }\n" +
-           constants(c + "_message_", {{"create", "create", "creates one"},
-                                       {"destroy", "destroy", "destroys it"},
-                                       {"payload_get", payload + "_get", "its payload"},
-                                       {"payload_detach", payload + "_get_detach", "removes and returns its payload"},
-                                       {"payload_free_and_set", payload + "_free_and_set", "replaces its payload"},
-                                       {"len", "len", "its frame's size"},
-                                       {"marshal", "marshal", "writes its frame"},
-                                       {"unmarshal", "unmarshal_only", "reads its frame"},
-                                       {"print", "print", "prints it"},
-                                       {"to_xml", "to_xml", "writes it as XML"},
-                                       {"from_xml", "from_xml", "reads it from XML"}}) +
-           "};\n" + owner_and_reference("message", name, c);
+           "_luid; }\n" + constants({.message = &message}, Applies::message, "{m}_message_") + "};\n" +
+           owner_and_reference("message", name, c);
 }
 
 std::string bundle_type(const Bundle &bundle) {
     const std::string c(bundle.name), name = short_name(bundle.name), message(bundle.message.name);
-    return "/// " + c + " admits " + message + ".\nstruct " + name + " {\n" +
-           alias("message", space + short_name(message) + "_type", "what it admits") + c_name(c) +
-           constants(c + "_bundle_", {{"start", "start_message_marshal", "writes the frame of its start"},
-                                      {"abort", "abort_message_marshal", "writes the frame of its abort"},
-                                      {"commit", "commit_message_marshal", "writes the frame of its commit"}}) +
-           "};\n\n";
+    std::string text = "/// " + c + " admits " + message + ".\nstruct " + name + " {\n" +
+                       alias("message", space + short_name(message) + "_type", "what it admits") + c_name(c) +
+                       constants({.bundle = &bundle}, Applies::bundle, "{b}_bundle_");
+    for (const char *control : {"start", "abort", "commit"}) {
+        text += constants({.bundle = &bundle, .control = control}, Applies::control, "{b}_bundle_");
+    }
+    return text + "};\n\n";
 }
 
 std::string visit_all(const std::string &function, const std::string &what, const std::vector<std::string> &names) {
@@ -428,7 +354,9 @@ std::string interface_page() {
         "///\n"
         "/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
         "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is "
-        "read-only.\n/// Needs the C library alone.\n"
+        "read-only.\n"
+        "/// dp_tc_type names the C functions of a dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). Needs the C "
+        "library\n/// alone.\n"
         "// Generated from the schema; edit the tables there and run tools/regenerate.\n"
         "#ifndef LUMO_UI_TARN_HPP\n#define LUMO_UI_TARN_HPP\n\n#include <lumo_ui_tarn.h>\n\n"
         "#include <lumo_ui_tarn/interface.hpp>\n\nnamespace lumo_ui_tarn {\n\n";
@@ -444,6 +372,9 @@ std::string interface_page() {
     text += "/// Stands for a type in a call.\ntemplate <class T>\nstruct kind {\n" + alias("type", "T", "the type") +
             "};\n";
     text += visit_all("for_each_record", "record", names(records));
+    std::vector<std::string> enumeration_types;
+    for (const Enumeration *e : enumerations) enumeration_types.push_back(type_name(*e) + "_type");
+    text += visit_all("for_each_enumeration", "enumeration", enumeration_types);
     text += visit_all("for_each_message", "message", names(messages));
     text += visit_all("for_each_bundle", "bundle", names(bundles));
     return text + "\n}  // namespace lumo_ui_tarn\n\n#endif\n";
