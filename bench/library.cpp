@@ -92,8 +92,8 @@ std::shared_ptr<Sample<Plain>> from_newer_peer(const Plain &value) {
 template <class Plain>
 void add(Board &board, std::string_view workload, const Plain &value) {
     const auto sample = [&](Setup setup) { return std::make_shared<Sample<Plain>>(setup, value); };
-    const auto plain = sample(Setup::plain), tracking = sample(Setup::tracking),
-               tables = sample(Setup::private_tables), deaf = sample(Setup::plain);
+    const auto plain = sample(Setup::plain), tracking = sample(Setup::tracking), tables = sample(Setup::private_tables),
+               deaf = sample(Setup::plain);
     deaf->handle->write_notify = announce_nothing;
     deaf->handle->count_notify = count_nothing;
 
