@@ -69,8 +69,12 @@ template <const Record &R>
     }
 
     if (variant >= 0) {
-        const bool complete =
-            runtime_inside ? shortcut::read_members<R, read_members<R>>(in, instance) : read_members<R>(in, instance);
+        bool complete = false;
+        if constexpr (runtime_inside) {
+            complete = shortcut::read_members<R, read_members<R>>(in, instance);
+        } else {
+            complete = read_members<R>(in, instance);
+        }
         if (!complete) return 0;
     }
 
@@ -95,10 +99,10 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
 
 // In one piece with its owner where that costs no call of the runtime and little code.
 template <const Record &R>
-[[gnu::always_inline]] inline std::uint32_t WireRead<R>::unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id,
-                                                                          void *buffer, mirk_object *instance,
-                                                                          std::uint32_t length, std::uint32_t reuse,
-                                                                          std::uint32_t *err) {
+TARN_INLINE_INSIDE inline std::uint32_t WireRead<R>::unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id,
+                                                                      void *buffer, mirk_object *instance,
+                                                                      std::uint32_t length, std::uint32_t reuse,
+                                                                      std::uint32_t *err) {
     if constexpr (runtime_inside && all_integers(R)) {
         return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
     } else {

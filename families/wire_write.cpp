@@ -95,9 +95,9 @@ std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *
 
 // In one piece with its owner where that costs no call of the runtime and little code.
 template <const Record &R>
-[[gnu::always_inline]] inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle *h, std::uint32_t ctx_id,
-                                                                         void *buffer, mirk_object *instance,
-                                                                         std::int32_t remaining, std::uint32_t *err) {
+TARN_INLINE_INSIDE inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                                     mirk_object *instance, std::int32_t remaining,
+                                                                     std::uint32_t *err) {
     if constexpr (runtime_inside && all_integers(R)) {
         return write_record<R>(h, ctx_id, buffer, instance, remaining, err, true);
     } else {

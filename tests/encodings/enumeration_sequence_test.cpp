@@ -205,4 +205,10 @@ TEST_F(EnumerationSequence, ValueOperations) {
                      "write_notify object+10 1"}));
 }
 
+TEST_F(EnumerationSequence, NullHasNoMarkToAskFor) {
+    EXPECT_EQ(lumo_tarn_mem_desc_e_backpropagate(h, id, nullptr, nullptr), 0u);
+    EXPECT_EQ(observing::lines(),
+              (Lines{"skald_wrapper type 6 (info): backpropagate: Null pointer to lumo_tarn_mem_desc_e enum"}));
+}
+
 }  // namespace
