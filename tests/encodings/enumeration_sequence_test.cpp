@@ -206,6 +206,8 @@ TEST_F(EnumerationSequence, ValueOperations) {
 }
 
 TEST_F(EnumerationSequence, NullHasNoMarkToAskFor) {
+    mirk_lumo_ui_tarn_type_trace_init();  // no enumeration does so by itself
+    observing::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_backpropagate(h, id, nullptr, nullptr), 0u);
     EXPECT_EQ(observing::lines(),
               (Lines{"skald_wrapper type 6 (info): backpropagate: Null pointer to lumo_tarn_mem_desc_e enum"}));
