@@ -138,7 +138,7 @@ template <class T>
     if (is_observed(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
 }
 template <class T>
-void store(mirk_handle *h, std::uint32_t ctx_id, T *member, T value) {
+[[gnu::always_inline]] inline void store(mirk_handle *h, std::uint32_t ctx_id, T *member, T value) {
     notify_write(h, ctx_id, member);
     *member = value;
 }
