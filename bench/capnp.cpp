@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "bench/board.h"
+#include "bench/results.h"
 #include "bench/workloads/workloads.h"
 #include "tarn_capnp.capnp.h"
 
@@ -21,7 +21,7 @@ struct Capnp;
 #include "capnp.inc"
 
 template <class Plain>
-void add(Board &board, std::string_view workload, const Plain &from) {
+void add(Results &results, std::string_view workload, const Plain &from) {
     using Struct = typename Capnp<Plain>::Struct;
     const auto value = std::make_shared<Plain>(from);
     capnp::MallocMessageBuilder built;
@@ -37,27 +37,27 @@ void add(Board &board, std::string_view workload, const Plain &from) {
     const auto flat = std::make_shared<std::vector<kj::byte>>(words->size() * sizeof(capnp::word) + 64);
     const auto first = [segment] { return kj::arrayPtr(segment->data(), segment->size()); };
 
-    board.add("build and destroy", workload, "capnp", [value, first] {
+    results.add("build and destroy", workload, "capnp", [value, first] {
         capnp::MallocMessageBuilder message(first());
         fill(message.initRoot<Struct>(), *value);
     });
-    board.add("encode", workload, "capnp", [value, first, flat] {
+    results.add("encode", workload, "capnp", [value, first, flat] {
         capnp::MallocMessageBuilder message(first());
         fill(message.initRoot<Struct>(), *value);
         kj::ArrayOutputStream out(kj::arrayPtr(flat->data(), flat->size()));
         capnp::writeMessage(out, message);
         benchmark::DoNotOptimize(flat->data());
     });
-    board.add("decode and destroy", workload, "capnp", [read] { benchmark::DoNotOptimize(read()); });
+    results.add("decode and destroy", workload, "capnp", [read] { benchmark::DoNotOptimize(read()); });
 }
 
 }  // namespace
 
-void add_capnp(Board &board) {
-    add(board, "deep", deep());
-    add(board, "flat", flat());
-    add(board, "wide", wide());
-    add(board, "strings", strings());
+void add_capnp(Results &results) {
+    add(results, "deep", deep());
+    add(results, "flat", flat());
+    add(results, "wide", wide());
+    add(results, "strings", strings());
 }
 
 }  // namespace tarn::bench

@@ -45,31 +45,31 @@ auto looking_up(std::shared_ptr<Sample<Plain>> s, std::string array, std::string
 }
 
 template <class Plain>
-void add(Board &board, std::string_view list, Plain (*make)(std::size_t), std::string array, std::string member) {
+void add(Results &results, std::string_view list, Plain (*make)(std::size_t), std::string array, std::string member) {
     for (const std::size_t n : curve_points) {
         const auto later = std::make_shared<Later<Plain>>(make, n);
-        board.add_point("encode", list, n, [later] { return encoding(later->get()); });
-        board.add_point("decode and destroy", list, n, [later] { return decoding(later->get()); });
-        board.add_point("copy and destroy", list, n, [later] { return copying(later->get()); });
-        board.add_point("compare", list, n, [later] { return comparing(later->get()); });
-        board.add_point("hash", list, n, [later] { return hashing(later->get()); });
-        board.add_point("text", list, n, [later] { return printing(later->get()); });
-        board.add_point("XML writing", list, n, [later] { return writing_xml(later->get()); });
+        results.add_point("encode", list, n, [later] { return encoding(later->get()); });
+        results.add_point("decode and destroy", list, n, [later] { return decoding(later->get()); });
+        results.add_point("copy and destroy", list, n, [later] { return copying(later->get()); });
+        results.add_point("compare", list, n, [later] { return comparing(later->get()); });
+        results.add_point("hash", list, n, [later] { return hashing(later->get()); });
+        results.add_point("text", list, n, [later] { return printing(later->get()); });
+        results.add_point("XML writing", list, n, [later] { return writing_xml(later->get()); });
         if (n <= longest_document) {
-            board.add_point("XML look-ups", list, n,
-                            [later, array, member, n] { return looking_up(later->get(), array, member, n); });
+            results.add_point("XML look-ups", list, n,
+                              [later, array, member, n] { return looking_up(later->get(), array, member, n); });
         }
         if (n <= most_read_from_xml) {
-            board.add_point("XML reading", list, n, [later] { return reading_xml(later->get()); });
+            results.add_point("XML reading", list, n, [later] { return reading_xml(later->get()); });
         }
     }
 }
 
 }  // namespace
 
-void add_curves(Board &board) {
-    add(board, "classes", classes, "tc_list", "id");
-    add(board, "applications", applications, "kesh_appl", "tarn_id");
+void add_curves(Results &results) {
+    add(results, "classes", classes, "tc_list", "id");
+    add(results, "applications", applications, "kesh_appl", "tarn_id");
 }
 
 }  // namespace tarn::bench

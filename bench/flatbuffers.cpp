@@ -2,7 +2,7 @@
 // after they were verified.
 #include <memory>
 
-#include "bench/board.h"
+#include "bench/results.h"
 #include "bench/workloads/workloads.h"
 #include "tarn_flatbuffers_generated.h"
 
@@ -20,7 +20,7 @@ struct Flat;
 using flatbuffers::FlatBufferBuilder;
 
 template <class Plain>
-void add(Board &board, std::string_view workload, const Plain &from) {
+void add(Results &results, std::string_view workload, const Plain &from) {
     using Table = typename Flat<Plain>::Table;
     using Object = typename Flat<Plain>::Object;
     const auto value = std::make_shared<Plain>(from);
@@ -35,28 +35,28 @@ void add(Board &board, std::string_view workload, const Plain &from) {
     require(sum(*flatbuffers::GetRoot<Table>(builder->GetBufferPointer())) == sum(*value),
             "objects of flatbuffers do not hold what was put in");
 
-    board.add("build and destroy", workload, "flatbuffers objects", [value] {
+    results.add("build and destroy", workload, "flatbuffers objects", [value] {
         Object target;
         fill(&target, *value);
         benchmark::DoNotOptimize(target);
     });
-    board.add("encode", workload, "flatbuffers objects", [object, builder] {
+    results.add("encode", workload, "flatbuffers objects", [object, builder] {
         builder->Clear();
         builder->Finish(Table::Pack(*builder, object.get()));
         benchmark::DoNotOptimize(builder->GetBufferPointer());
     });
-    board.add("encode", workload, "flatbuffers raw", [value, builder] {
+    results.add("encode", workload, "flatbuffers raw", [value, builder] {
         builder->Clear();
         builder->Finish(build(*builder, *value));
         benchmark::DoNotOptimize(builder->GetBufferPointer());
     });
-    board.add("decode and destroy", workload, "flatbuffers objects", [bytes] {
+    results.add("decode and destroy", workload, "flatbuffers objects", [bytes] {
         flatbuffers::Verifier verifier(bytes->GetBufferPointer(), bytes->GetSize(), 64, 10000000);
         if (!verifier.VerifyBuffer<Table>(nullptr)) std::abort();
         const std::unique_ptr<Object> target(flatbuffers::GetRoot<Table>(bytes->GetBufferPointer())->UnPack());
         benchmark::DoNotOptimize(target.get());
     });
-    board.add("decode and destroy", workload, "flatbuffers raw", [bytes] {
+    results.add("decode and destroy", workload, "flatbuffers raw", [bytes] {
         flatbuffers::Verifier verifier(bytes->GetBufferPointer(), bytes->GetSize(), 64, 10000000);
         if (!verifier.VerifyBuffer<Table>(nullptr)) std::abort();
         benchmark::DoNotOptimize(sum(*flatbuffers::GetRoot<Table>(bytes->GetBufferPointer())));
@@ -65,11 +65,11 @@ void add(Board &board, std::string_view workload, const Plain &from) {
 
 }  // namespace
 
-void add_flatbuffers(Board &board) {
-    add(board, "deep", deep());
-    add(board, "flat", flat());
-    add(board, "wide", wide());
-    add(board, "strings", strings());
+void add_flatbuffers(Results &results) {
+    add(results, "deep", deep());
+    add(results, "flat", flat());
+    add(results, "wide", wide());
+    add(results, "strings", strings());
 }
 
 }  // namespace tarn::bench

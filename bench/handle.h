@@ -1,7 +1,7 @@
 // A handle of the reference runtime, and the ways to set one up that are compared.
 #pragma once
 
-#include "bench/board.h"
+#include "bench/results.h"
 #include "tests/support/kit/handle.h"
 
 namespace tarn::bench {

@@ -1,15 +1,15 @@
-// The library itself, in its ways to be set up, and the floors below it.
+// The library in its setups, its lower bounds and plain structs.
 #include <cstring>
 
 #include "bench/object.h"
-#include "bench/workloads/floor.h"
+#include "bench/workloads/lower_bound.h"
 
 namespace tarn::bench {
 
 namespace {
 
-// Blocks one behind the other, all given back when the last one is: what a program may put behind obj_alloc if it takes
-// messages one by one. It announces nothing either.
+// Allocates blocks one after another and releases all of them with the last one: an obj_alloc for programs that handle
+// one message at a time. It installs empty notifications, too.
 class Arena {
 public:
     explicit Arena(mirk_handle *h) : h_(h), before_(*h), memory_(std::size_t{4} << 20) {
@@ -59,20 +59,11 @@ struct ArenaSample {
     Arena arena{handle};
 };
 
-template <class Plain>
-auto building(std::shared_ptr<Sample<Plain>> s) {
-    return [s] {
-        auto *object = Sample<Plain>::Ops::create(s->handle, context_id);
-        store(s->handle, context_id, object, s->value, &s->err);
-        Sample<Plain>::Ops::destroy(s->handle, context_id, object);
-    };
-}
+int ignore_write(void *, void *, std::size_t, std::uint32_t) { return 0; }
+int ignore_count(void *, std::uint64_t *, std::int64_t, std::uint32_t) { return 0; }
 
-int announce_nothing(void *, void *, std::size_t, std::uint32_t) { return 0; }
-int count_nothing(void *, std::uint64_t *, std::int64_t, std::uint32_t) { return 0; }
-
-// The frame as a peer with one more member would send it: a byte longer, with a jump that says so. Reading it writes
-// one trace line, of a level that nobody selects.
+// The frame that a peer with one more member would send: one byte longer, with a jump to match. Reading it writes one
+// trace line at a level that is not selected.
 template <class Plain>
 std::shared_ptr<Sample<Plain>> from_newer_peer(const Plain &value) {
     const auto s = std::make_shared<Sample<Plain>>(Setup::plain, value);
@@ -90,32 +81,32 @@ std::shared_ptr<Sample<Plain>> from_newer_peer(const Plain &value) {
 }
 
 template <class Plain>
-void add(Board &board, std::string_view workload, const Plain &value) {
+void add(Results &results, std::string_view workload, const Plain &value) {
     const auto sample = [&](Setup setup) { return std::make_shared<Sample<Plain>>(setup, value); };
     const auto plain = sample(Setup::plain), tracking = sample(Setup::tracking), tables = sample(Setup::private_tables),
-               deaf = sample(Setup::plain);
-    deaf->handle->write_notify = announce_nothing;
-    deaf->handle->count_notify = count_nothing;
+               replaced = sample(Setup::plain);
+    replaced->handle->write_notify = ignore_write;
+    replaced->handle->count_notify = ignore_count;
 
-    board.add("build and destroy", workload, "library", building(plain));
-    board.add("build and destroy", workload, "library, tracking", building(tracking));
-    board.add("build and destroy", workload, "library, private tables", building(tables));
-    board.add("build and destroy", workload, "library, empty announcements", building(deaf));
+    results.add("build and destroy", workload, "library", building(plain));
+    results.add("build and destroy", workload, "library, tracking", building(tracking));
+    results.add("build and destroy", workload, "library, private tables", building(tables));
+    results.add("build and destroy", workload, "library, empty notifications", building(replaced));
 
-    board.add("encode", workload, "library", encoding(plain));
-    board.add("encode", workload, "library, tracking", encoding(tracking));
-    board.add("encode", workload, "memcpy", [plain] {
+    results.add("encode", workload, "library", encoding(plain));
+    results.add("encode", workload, "library, tracking", encoding(tracking));
+    results.add("encode", workload, "memcpy", [plain] {
         benchmark::DoNotOptimize(std::memcpy(plain->other.data(), plain->frame.data(), plain->size));
         benchmark::ClobberMemory();
     });
 
-    board.add("decode and destroy", workload, "library", decoding(plain));
-    board.add("decode and destroy", workload, "library, tracking", decoding(tracking));
-    board.add("decode and destroy", workload, "library, private tables", decoding(tables));
-    board.add("decode and destroy", workload, "library, empty announcements", decoding(deaf));
-    board.add("decode and destroy", workload, "library, an unwanted trace line", decoding(from_newer_peer(value)));
+    results.add("decode and destroy", workload, "library", decoding(plain));
+    results.add("decode and destroy", workload, "library, tracking", decoding(tracking));
+    results.add("decode and destroy", workload, "library, private tables", decoding(tables));
+    results.add("decode and destroy", workload, "library, empty notifications", decoding(replaced));
+    results.add("decode and destroy", workload, "library, an unwanted trace line", decoding(from_newer_peer(value)));
     const auto in_arena = std::make_shared<ArenaSample<Plain>>(value);
-    board.add("decode and destroy", workload, "library, private tables and arena", [in_arena] {
+    results.add("decode and destroy", workload, "library, private tables and arena", [in_arena] {
         using Ops = Exports<Plain>;
         Sample<Plain> &s = in_arena->sample;
         auto *target = Ops::create(in_arena->handle, context_id);
@@ -123,34 +114,36 @@ void add(Board &board, std::string_view workload, const Plain &value) {
             Ops::unmarshal(in_arena->handle, context_id, s.frame.data(), target, s.size, 0, &s.err));
         Ops::destroy(in_arena->handle, context_id, target);
     });
-    board.add("decode and destroy", workload, "memcpy", [plain] {
+    results.add("decode and destroy", workload, "memcpy", [plain] {
         benchmark::DoNotOptimize(std::memcpy(plain->other.data(), plain->frame.data(), plain->size));
         benchmark::ClobberMemory();
     });
 
-    board.add("copy and destroy", workload, "library", copying(plain));
-    board.add("copy and destroy", workload, "library, tracking", copying(tracking));
-    board.add("copy and destroy", workload, "library, private tables", copying(tables));
-    board.add("compare", workload, "library", comparing(plain));
-    board.add("hash", workload, "library", hashing(plain));
-    board.add("text", workload, "library", printing(plain));
-    board.add("XML writing", workload, "library", writing_xml(plain));
-    board.add("XML reading", workload, "library", reading_xml(plain));
+    results.add("copy and destroy", workload, "library", copying(plain));
+    results.add("copy and destroy", workload, "library, tracking", copying(tracking));
+    results.add("copy and destroy", workload, "library, private tables", copying(tables));
+    results.add("read all members", workload, "library",
+                [plain] { benchmark::DoNotOptimize(sum(plain->handle, context_id, plain->object, &plain->err)); });
+    results.add("compare", workload, "library", comparing(plain));
+    results.add("hash", workload, "library", hashing(plain));
+    results.add("text", workload, "library", printing(plain));
+    results.add("XML writing", workload, "library", writing_xml(plain));
+    results.add("XML reading", workload, "library", reading_xml(plain));
 }
 
 template <class Plain>
-void add_floor(Board &board, std::string_view workload, std::string who, const Floor &floor, Setup setup,
-               const Plain &value) {
+void add_lower_bound(Results &results, std::string_view workload, std::string subject, const LowerBound &bound,
+                     Setup setup, const Plain &value) {
     const auto s = std::make_shared<Sample<Plain>>(setup, value);
-    const Floor *const f = &floor;
-    if (setup == Setup::tracking) who += ", tracking";
+    const LowerBound *const f = &bound;
+    if (setup == Setup::tracking) subject += ", tracking";
     const auto encode = [s, f] {
         benchmark::DoNotOptimize(f->marshal(s->handle, context_id, s->other.data(), s->bytes(), s->room(), &s->err));
     };
     encode();
-    require(std::memcmp(s->other.data(), s->frame.data(), s->size) == 0, "a floor writes another frame");
-    board.add("encode", workload, who, encode);
-    board.add("decode and destroy", workload, who, [s, f] {
+    require(std::memcmp(s->other.data(), s->frame.data(), s->size) == 0, "a lower bound writes another frame");
+    results.add("encode", workload, subject, encode);
+    results.add("decode and destroy", workload, subject, [s, f] {
         auto *target = static_cast<std::uint8_t *>(f->create(s->handle, context_id));
         benchmark::DoNotOptimize(f->unmarshal(s->handle, context_id, s->frame.data(), target, s->size, 0, &s->err));
         f->destroy(s->handle, context_id, target, true);
@@ -158,45 +151,46 @@ void add_floor(Board &board, std::string_view workload, std::string who, const F
 }
 
 template <class Plain>
-void add_floors_of(Board &board, std::string_view workload, const Plain &value) {
+void add_lower_bounds_of(Results &results, std::string_view workload, const Plain &value) {
     const char *record = Exports<Plain>::name;
     for (const Setup setup : {Setup::plain, Setup::tracking}) {
-        add_floor(board, workload, "contract floor", contract_floor(record), setup, value);
-        add_floor(board, workload, "inlined floor", inlined_floor(record), setup, value);
+        add_lower_bound(results, workload, "contract lower bound", contract_lower_bound(record), setup, value);
+        add_lower_bound(results, workload, "inlined lower bound", inlined_lower_bound(record), setup, value);
     }
 }
 
 template <class Plain>
-void add_plain_of(Board &board, std::string_view workload, const Plain &value) {
+void add_plain_of(Results &results, std::string_view workload, const Plain &value) {
     const auto one = std::make_shared<Plain>(value), two = std::make_shared<Plain>(value);
-    board.add("copy and destroy", workload, "plain structs", [one] {
+    results.add("copy and destroy", workload, "plain structs", [one] {
         Plain copy(*one);
         benchmark::DoNotOptimize(copy);
     });
-    board.add("compare", workload, "plain structs", [one, two] { benchmark::DoNotOptimize(*one == *two); });
+    results.add("read all members", workload, "plain structs", [one] { benchmark::DoNotOptimize(sum(*one)); });
+    results.add("compare", workload, "plain structs", [one, two] { benchmark::DoNotOptimize(*one == *two); });
 }
 
 }  // namespace
 
-void add_library(Board &board) {
-    add(board, "deep", deep());
-    add(board, "flat", flat());
-    add(board, "wide", wide());
-    add(board, "strings", strings());
+void add_library(Results &results) {
+    add(results, "deep", deep());
+    add(results, "flat", flat());
+    add(results, "wide", wide());
+    add(results, "strings", strings());
 }
 
-void add_floors(Board &board) {
-    add_floors_of(board, "deep", deep());
-    add_floors_of(board, "flat", flat());
-    add_floors_of(board, "wide", wide());
-    add_floors_of(board, "strings", strings());
+void add_lower_bounds(Results &results) {
+    add_lower_bounds_of(results, "deep", deep());
+    add_lower_bounds_of(results, "flat", flat());
+    add_lower_bounds_of(results, "wide", wide());
+    add_lower_bounds_of(results, "strings", strings());
 }
 
-void add_plain(Board &board) {
-    add_plain_of(board, "deep", deep());
-    add_plain_of(board, "flat", flat());
-    add_plain_of(board, "wide", wide());
-    add_plain_of(board, "strings", strings());
+void add_plain(Results &results) {
+    add_plain_of(results, "deep", deep());
+    add_plain_of(results, "flat", flat());
+    add_plain_of(results, "wide", wide());
+    add_plain_of(results, "strings", strings());
 }
 
 }  // namespace tarn::bench

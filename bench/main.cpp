@@ -1,35 +1,50 @@
 // bench [--json FILE] [--pictures DIRECTORY] [options of Google Benchmark]
-// valgrind --tool=callgrind bench --instructions    one profile for each measurement, with its name
+// valgrind --tool=callgrind bench --instructions    one profile per measurement, which bench/cost evaluates
 #include <valgrind/callgrind.h>
 
 #include <cstring>
 
-#include "bench/board.h"
+#include "bench/results.h"
 #include "mirk_platform.h"
 
 namespace {
 
-// Keeps the times; the tables come at the end.
+constexpr int counted_iterations = 10;
+
+// Instruction counts depend on the compiler and its major version.
+#define TARN_TEXT_OF(x) #x
+#define TARN_TEXT(x) TARN_TEXT_OF(x)
+#ifdef __clang__
+constexpr const char *compiler = "clang " TARN_TEXT(__clang_major__);
+#else
+constexpr const char *compiler = "g++ " TARN_TEXT(__GNUC__);
+#endif
+
+// Stores the times; tables are printed at the end.
 class Collector : public benchmark::BenchmarkReporter {
 public:
-    explicit Collector(tarn::bench::Board &board) : board_(board) {}
+    explicit Collector(tarn::bench::Results &results) : results_(results) {}
     bool ReportContext(const Context &) override { return true; }
     void ReportRuns(const std::vector<Run> &runs) override {
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration) board_.take(run.run_name.function_name, run.GetAdjustedCPUTime());
+            if (run.run_type != Run::RT_Iteration) continue;
+            const bool threaded = run.run_name.threads.size() != 0;
+            results_.add_time(run.run_name.function_name + (threaded ? "/" + run.run_name.threads : ""),
+                              threaded ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime());
         }
     }
 
 private:
-    tarn::bench::Board &board_;
+    tarn::bench::Results &results_;
 };
 
-// Profiles of ten iterations each, after some in which tables and heaps grow to their size.
-void count_instructions(const tarn::bench::Board &board) {
-    for (const auto &[name, run] : board.runs()) {
+// One profile per measurement. Some iterations come first, in which tables and heaps grow to their size.
+void count_instructions(const tarn::bench::Results &results) {
+    tarn::bench::print_description(compiler, counted_iterations);
+    for (const auto &[name, run] : results.runs()) {
         for (int i = 0; i < 5; ++i) run();
         CALLGRIND_ZERO_STATS;
-        for (int i = 0; i < 10; ++i) run();
+        for (int i = 0; i < counted_iterations; ++i) run();
         CALLGRIND_DUMP_STATS_AT(name.c_str());
     }
 }
@@ -39,7 +54,7 @@ void count_instructions(const tarn::bench::Board &board) {
 int main(int argc, char **argv) {
     using namespace tarn::bench;
     std::string json, pictures;
-    // What is compared runs in random order. Options on the command line come later and win.
+    // Measurements run in random order. Options on the command line come later and take precedence.
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
     char repetitions[] = "--benchmark_repetitions=15";
     char least_time[] = "--benchmark_min_time=0.02";
@@ -60,27 +75,30 @@ int main(int argc, char **argv) {
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
-    // Nobody listens to anything that is not the end of the process.
+    // Trace lines below the level of fatal errors are not written.
     mirk_platform_trace_set_levels(1);
-    Board board;
-    add_library(board);
-    add_floors(board);
-    add_plain(board);
-    add_protobuf(board);
-    add_flatbuffers(board);
-    add_capnp(board);
+    Results results;
+    add_library(results);
+    add_lower_bounds(results);
+    add_plain(results);
+#ifdef TARN_BENCH_COMPETITORS
+    add_protobuf(results);
+    add_flatbuffers(results);
+    add_capnp(results);
+#endif
     if (instructions) {
-        count_instructions(board);
+        count_instructions(results);
         return 0;
     }
-    add_curves(board);
-    Collector collector(board);
+    add_curves(results);
+    add_threads(results);
+    Collector collector(results);
     benchmark::RunSpecifiedBenchmarks(&collector);
     benchmark::ClearRegisteredBenchmarks();
     benchmark::Shutdown();
 
-    print_tables(board);
-    if (!json.empty()) write_json(board, json);
-    if (!pictures.empty()) write_pictures(board, pictures);
+    print_tables(results);
+    if (!json.empty()) write_json(results, json);
+    if (!pictures.empty()) write_pictures(results, pictures);
     return 0;
 }

@@ -50,6 +50,15 @@ struct Sample {
 
 // The operations of the library, each as one iteration.
 template <class Plain>
+auto building(std::shared_ptr<Sample<Plain>> s) {
+    return [s] {
+        auto *object = Sample<Plain>::Ops::create(s->handle, context_id);
+        store(s->handle, context_id, object, s->value, &s->err);
+        Sample<Plain>::Ops::destroy(s->handle, context_id, object);
+    };
+}
+
+template <class Plain>
 auto encoding(std::shared_ptr<Sample<Plain>> s) {
     return [s] {
         benchmark::DoNotOptimize(

@@ -5,14 +5,14 @@
 #include <fstream>
 #include <sstream>
 
-#include "bench/board.h"
+#include "bench/results.h"
 
 namespace tarn::bench {
 
 namespace {
 
-constexpr const char *colours[] = {"#1b6ca8", "#d1495b", "#2e8b57", "#e6a117",
-                                   "#6a4c93", "#5f6b6d", "#c05299", "#3d5a80"};
+constexpr const char *colors[] = {"#1b6ca8", "#d1495b", "#2e8b57", "#e6a117",
+                                  "#6a4c93", "#5f6b6d", "#c05299", "#3d5a80"};
 
 class Picture {
 public:
@@ -21,17 +21,17 @@ public:
              << "\" font-family=\"sans-serif\" font-size=\"12\">\n<rect width=\"100%\" height=\"100%\" "
                 "fill=\"white\"/>\n";
     }
-    void text(double x, double y, const std::string &words, const char *anchor = "start", const char *colour = "#222") {
-        out_ << "<text x=\"" << x << "\" y=\"" << y << "\" text-anchor=\"" << anchor << "\" fill=\"" << colour << "\">"
+    void text(double x, double y, const std::string &words, const char *anchor = "start", const char *color = "#222") {
+        out_ << "<text x=\"" << x << "\" y=\"" << y << "\" text-anchor=\"" << anchor << "\" fill=\"" << color << "\">"
              << words << "</text>\n";
     }
-    void line(double x1, double y1, double x2, double y2, const char *colour, double width = 1) {
+    void line(double x1, double y1, double x2, double y2, const char *color, double width = 1) {
         out_ << "<line x1=\"" << x1 << "\" y1=\"" << y1 << "\" x2=\"" << x2 << "\" y2=\"" << y2 << "\" stroke=\""
-             << colour << "\" stroke-width=\"" << width << "\"/>\n";
+             << color << "\" stroke-width=\"" << width << "\"/>\n";
     }
-    void bar(double x, double y, double width, double height, const char *colour) {
+    void bar(double x, double y, double width, double height, const char *color) {
         out_ << "<rect x=\"" << x << "\" y=\"" << y << "\" width=\"" << width << "\" height=\"" << height
-             << "\" fill=\"" << colour << "\"/>\n";
+             << "\" fill=\"" << color << "\"/>\n";
     }
     void save(const std::filesystem::path &path) {
         std::filesystem::create_directories(path.parent_path());
@@ -60,8 +60,8 @@ std::string short_number(double value) {
     return text.str();
 }
 
-void draw_ratios(const Board &board, const std::filesystem::path &path) {
-    const std::vector<Ratio> all = ratios(board);
+void draw_ratios(const Results &results, const std::filesystem::path &path) {
+    const std::vector<Ratio> all = ratios(results);
     constexpr double left = 430, width = 640, bar = 9, row = 4 * bar + 14, top = 60;
     const double bottom = top + row * static_cast<double>(all.size());
     Picture picture(left + width + 90, bottom + 20);
@@ -72,7 +72,7 @@ void draw_ratios(const Board &board, const std::filesystem::path &path) {
     }
     for (std::size_t w = 0; w < workload_names.size(); ++w) {
         const double x = left + 90 * static_cast<double>(w);
-        picture.bar(x, 14, 12, 12, colours[w]);
+        picture.bar(x, 14, 12, 12, colors[w]);
         picture.text(x + 18, 24, std::string(workload_names[w]));
     }
     picture.text(20, 24, "time of ours over time of the other; the mark is the goal");
@@ -84,7 +84,7 @@ void draw_ratios(const Board &board, const std::filesystem::path &path) {
             const double at = y + bar * static_cast<double>(w);
             if (ratio.value[w]) {
                 const double one = axis.at(1), x = axis.at(*ratio.value[w]);
-                picture.bar(std::min(one, x), at, std::max(1.0, std::abs(x - one)), bar - 1, colours[w]);
+                picture.bar(std::min(one, x), at, std::max(1.0, std::abs(x - one)), bar - 1, colors[w]);
                 picture.text(left + width + 10, at + bar - 1, short_number(*ratio.value[w]));
             }
             if (ratio.goal[w]) {
@@ -96,15 +96,15 @@ void draw_ratios(const Board &board, const std::filesystem::path &path) {
     picture.save(path);
 }
 
-void draw_curves(const Board &board, const std::filesystem::path &path) {
+void draw_curves(const Results &results, const std::filesystem::path &path) {
     constexpr double panel = 520, height = 420, left = 60, top = 50;
     std::vector<std::string> lists;
     double low = 1e9, high = 1;
-    for (const auto &[operation, by_list] : board.curves()) {
+    for (const auto &[operation, by_list] : results.curves()) {
         for (const auto &[list, points] : by_list) {
             if (std::find(lists.begin(), lists.end(), list) == lists.end()) lists.push_back(list);
             for (const std::size_t n : points) {
-                const auto time = board.median_an_element(operation, list, n);
+                const auto time = results.median_per_element(operation, list, n);
                 if (time) low = std::min(low, *time), high = std::max(high, *time);
             }
         }
@@ -124,14 +124,14 @@ void draw_curves(const Board &board, const std::filesystem::path &path) {
             picture.line(x0, y.at(time), x0 + panel, y.at(time), "#ddd");
             picture.text(x0 - 6, y.at(time) + 4, short_number(time), "end");
         }
-        std::size_t colour = 0;
-        for (const auto &[operation, by_list] : board.curves()) {
-            const char *stroke = colours[colour++ % std::size(colours)];
+        std::size_t color = 0;
+        for (const auto &[operation, by_list] : results.curves()) {
+            const char *stroke = colors[color++ % std::size(colors)];
             const auto points = by_list.find(list);
             if (points == by_list.end()) continue;
             double before_x = 0, before_y = 0;
             for (const std::size_t n : points->second) {
-                const auto time = board.median_an_element(operation, list, n);
+                const auto time = results.median_per_element(operation, list, n);
                 if (!time) continue;
                 const double at_x = x.at(static_cast<double>(n)), at_y = y.at(*time);
                 if (before_x != 0) picture.line(before_x, before_y, at_x, at_y, stroke, 2);
@@ -147,9 +147,9 @@ void draw_curves(const Board &board, const std::filesystem::path &path) {
 
 }  // namespace
 
-void write_pictures(const Board &board, const std::string &directory) {
-    draw_ratios(board, std::filesystem::path(directory) / "ratios.svg");
-    draw_curves(board, std::filesystem::path(directory) / "growth.svg");
+void write_pictures(const Results &results, const std::string &directory) {
+    draw_ratios(results, std::filesystem::path(directory) / "ratios.svg");
+    draw_curves(results, std::filesystem::path(directory) / "growth.svg");
 }
 
 }  // namespace tarn::bench

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "bench/board.h"
+#include "bench/results.h"
 #include "bench/workloads/workloads.h"
 #include "tarn_protobuf.pb.h"
 
@@ -22,7 +22,7 @@ struct Protobuf;
 using google::protobuf::Arena;
 
 template <class Plain>
-void add(Board &board, std::string_view workload, const Plain &from) {
+void add(Results &results, std::string_view workload, const Plain &from) {
     using Message = typename Protobuf<Plain>::Message;
     const auto value = std::make_shared<Plain>(from);
     const auto message = std::make_shared<Message>();
@@ -35,36 +35,37 @@ void add(Board &board, std::string_view workload, const Plain &from) {
     // Memory of an arena is kept from one use to the next, as a program would that takes messages one by one.
     const auto arena = std::make_shared<Arena>();
 
-    board.add("build and destroy", workload, "protobuf", [value] {
+    results.add("build and destroy", workload, "protobuf", [value] {
         Message target;
         fill(&target, *value);
         benchmark::DoNotOptimize(target);
     });
-    board.add("build and destroy", workload, "protobuf arena", [value, arena] {
+    results.add("build and destroy", workload, "protobuf arena", [value, arena] {
         fill(Arena::CreateMessage<Message>(arena.get()), *value);
         arena->Reset();
     });
     const auto room = std::make_shared<std::string>(bytes->size(), '\0');
-    board.add("encode", workload, "protobuf", [message, room] {
+    results.add("encode", workload, "protobuf", [message, room] {
         benchmark::DoNotOptimize(message->SerializeToArray(room->data(), static_cast<int>(room->size())));
     });
-    board.add("decode and destroy", workload, "protobuf", [bytes] {
+    results.add("decode and destroy", workload, "protobuf", [bytes] {
         Message target;
         benchmark::DoNotOptimize(target.ParseFromString(*bytes));
     });
-    board.add("decode and destroy", workload, "protobuf arena", [bytes, arena] {
+    results.add("decode and destroy", workload, "protobuf arena", [bytes, arena] {
         benchmark::DoNotOptimize(Arena::CreateMessage<Message>(arena.get())->ParseFromString(*bytes));
         arena->Reset();
     });
-    board.add("copy and destroy", workload, "protobuf", [message] {
+    results.add("copy and destroy", workload, "protobuf", [message] {
         Message target(*message);
         benchmark::DoNotOptimize(target);
     });
-    board.add("copy and destroy", workload, "protobuf arena", [message, arena] {
+    results.add("copy and destroy", workload, "protobuf arena", [message, arena] {
         Arena::CreateMessage<Message>(arena.get())->CopyFrom(*message);
         arena->Reset();
     });
-    board.add("text", workload, "protobuf", [message] {
+    results.add("read all members", workload, "protobuf", [message] { benchmark::DoNotOptimize(sum(*message)); });
+    results.add("text", workload, "protobuf", [message] {
         std::string text;
         google::protobuf::TextFormat::PrintToString(*message, &text);
         benchmark::DoNotOptimize(text);
@@ -73,11 +74,11 @@ void add(Board &board, std::string_view workload, const Plain &from) {
 
 }  // namespace
 
-void add_protobuf(Board &board) {
-    add(board, "deep", deep());
-    add(board, "flat", flat());
-    add(board, "wide", wide());
-    add(board, "strings", strings());
+void add_protobuf(Results &results) {
+    add(results, "deep", deep());
+    add(results, "flat", flat());
+    add(results, "wide", wide());
+    add(results, "strings", strings());
 }
 
 }  // namespace tarn::bench

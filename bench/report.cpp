@@ -5,7 +5,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "bench/board.h"
+#include "bench/results.h"
 
 namespace tarn::bench {
 
@@ -36,25 +36,25 @@ std::string text_of(const char *format, const std::optional<double> &value) {
 
 const std::vector<std::string> workloads(workload_names.begin(), workload_names.end());
 
-void print_times(const Board &board, const std::string &operation) {
+void print_times(const Results &results, const std::string &operation) {
     bool first = true;
-    for (const std::string &who : board.everybody(operation)) {
+    for (const std::string &subject : results.subjects(operation)) {
         std::vector<std::string> row;
         bool any = false;
         for (const std::string_view workload : workload_names) {
-            const auto time = board.median(operation, workload, who);
+            const auto time = results.median(operation, workload, subject);
             row.push_back(text_of("%.0f", time));
             any = any || time;
         }
         if (!any) continue;
         if (first) print_head(operation + ", ns", workloads);
         first = false;
-        print_row(who, row);
+        print_row(subject, row);
     }
 }
 
-void print_ratios(const Board &board) {
-    const std::vector<Ratio> all = ratios(board);
+void print_ratios(const Results &results) {
+    const std::vector<Ratio> all = ratios(results);
     if (!all.empty()) print_head("ratio (goal)", workloads);
     for (const Ratio &ratio : all) {
         std::vector<std::string> row;
@@ -65,14 +65,14 @@ void print_ratios(const Board &board) {
     }
 }
 
-void print_curves(const Board &board) {
+void print_curves(const Results &results) {
     bool first = true;
-    for (const auto &[operation, lists] : board.curves()) {
+    for (const auto &[operation, lists] : results.curves()) {
         for (const auto &[list, points] : lists) {
             std::vector<std::string> columns, row;
             std::optional<double> thousand, last;
             for (const std::size_t n : curve_points) {
-                const auto time = board.median_an_element(operation, list, n);
+                const auto time = results.median_per_element(operation, list, n);
                 columns.push_back(std::to_string(n));
                 row.push_back(text_of("%.1f", time));
                 if (n == 1000) thousand = time;
@@ -81,10 +81,29 @@ void print_curves(const Board &board) {
             if (!last) continue;
             columns.push_back("last / 1000");
             row.push_back(thousand ? text_of("%.2f", *last / *thousand) : "");
-            if (first) print_head("ns an element, by the number of elements", columns);
+            if (first) print_head("ns per element, by the number of elements", columns);
             first = false;
             print_row(operation + ", " + list, row);
         }
+    }
+}
+
+void print_threads(const Results &results) {
+    std::vector<std::string> columns;
+    for (const int n : thread_counts) columns.push_back(std::to_string(n));
+    bool first = true;
+    for (const auto &[operation, tables] : results.threads()) {
+        std::vector<std::string> row;
+        bool any = false;
+        for (const int n : thread_counts) {
+            const auto scaling = results.scaling(operation, tables, n);
+            row.push_back(text_of("%.2f", scaling));
+            any = any || scaling;
+        }
+        if (!any) continue;
+        if (first) print_head("work of n threads over that of one", columns);
+        first = false;
+        print_row(operation + ", " + tables, row);
     }
 }
 
@@ -94,24 +113,40 @@ nlohmann::ordered_json number(const std::optional<double> &value) {
 
 }  // namespace
 
-void print_tables(const Board &board) {
-    std::printf("Product: %s. Medians of repetitions in random order.\n", product);
-    for (const std::string &operation : board.operations()) print_times(board, operation);
-    print_ratios(board);
-    print_curves(board);
+void print_description(const char *compiler, int iterations) {
+    nlohmann::ordered_json out{{"product", product},
+                               {"compiler", compiler},
+                               {"iterations", iterations},
+                               {"workloads", workloads},
+                               {"ratios", nlohmann::ordered_json::array()}};
+    for (const Ratio &ratio : instruction_ratios()) {
+        nlohmann::ordered_json goals;
+        for (const auto &goal : ratio.goal) goals.push_back(number(goal));
+        out["ratios"].push_back(
+            {{"operation", ratio.operation}, {"ours", ratio.ours}, {"theirs", ratio.theirs}, {"goal", goals}});
+    }
+    std::printf("%s\n", out.dump().c_str());
 }
 
-void write_json(const Board &board, const std::string &path) {
+void print_tables(const Results &results) {
+    std::printf("Product: %s. Medians of repetitions in random order.\n", product);
+    for (const std::string &operation : results.operations()) print_times(results, operation);
+    print_ratios(results);
+    print_curves(results);
+    print_threads(results);
+}
+
+void write_json(const Results &results, const std::string &path) {
     nlohmann::ordered_json out{{"product", product}, {"unit", "ns"}};
-    for (const std::string &operation : board.operations()) {
-        for (const std::string &who : board.everybody(operation)) {
+    for (const std::string &operation : results.operations()) {
+        for (const std::string &subject : results.subjects(operation)) {
             for (const std::string_view workload : workload_names) {
-                const auto time = board.median(operation, workload, who);
-                if (time) out["medians"][operation][who][std::string(workload)] = *time;
+                const auto time = results.median(operation, workload, subject);
+                if (time) out["medians"][operation][subject][std::string(workload)] = *time;
             }
         }
     }
-    for (const Ratio &ratio : ratios(board)) {
+    for (const Ratio &ratio : ratios(results)) {
         nlohmann::ordered_json row{{"operation", ratio.operation}, {"ours", ratio.ours}, {"theirs", ratio.theirs}};
         for (std::size_t i = 0; i < workload_names.size(); ++i) {
             row["ratio"][std::string(workload_names[i])] = number(ratio.value[i]);
@@ -119,12 +154,18 @@ void write_json(const Board &board, const std::string &path) {
         }
         out["ratios"].push_back(row);
     }
-    for (const auto &[operation, lists] : board.curves()) {
+    for (const auto &[operation, lists] : results.curves()) {
         for (const auto &[list, points] : lists) {
             for (const std::size_t n : points) {
-                const auto time = board.median_an_element(operation, list, n);
-                if (time) out["ns an element"][operation][list][std::to_string(n)] = *time;
+                const auto time = results.median_per_element(operation, list, n);
+                if (time) out["ns per element"][operation][list][std::to_string(n)] = *time;
             }
+        }
+    }
+    for (const auto &[operation, tables] : results.threads()) {
+        for (const int n : thread_counts) {
+            const auto scaling = results.scaling(operation, tables, n);
+            if (scaling) out["threads"][operation][tables][std::to_string(n)] = *scaling;
         }
     }
     const std::filesystem::path where(path);

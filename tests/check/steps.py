@@ -57,7 +57,7 @@ def prepare():
     write("bin/id", "#!/bin/sh\necho 1000\n")
     check = (sources / "check").read_text()
     # Programs that are run by their path begin a line or follow the variables of their environment.
-    for program in re.findall(r"^ *(?:\./)?((?:build|tests)/[\w/.-]+|demo)\b", check, re.M):
+    for program in re.findall(r"^ *(?:\./)?((?:bench|build|tests)/[\w/.-]+|demo)\b", check, re.M):
         write(program, STUB)
     for program in re.search(r"library_tests=\((.*?)\)", check, re.S)[1].split():
         write(f"build/coverage/tests/{program.split('_')[0]}/{program}", STUB)

@@ -349,7 +349,7 @@ static std::uint64_t sum(tarn_capnp::IpAddress::Reader from) {
 
 }  // namespace
 
-Files write_rivals() {
+Files write_competitors() {
     return {{"tarn_protobuf.proto", proto_schema()}, {"protobuf.inc", proto_code()},
             {"tarn_flatbuffers.fbs", flat_schema()}, {"flatbuffers.inc", flat_code()},
             {"tarn_capnp.capnp", capnp_schema()},    {"capnp.inc", capnp_code()}};

@@ -9,7 +9,7 @@
 
 namespace tarn::bench {
 
-struct Floor {
+struct LowerBound {
     const char *record;
     void *(*create)(mirk_handle *h, std::uint32_t id);
     std::uint32_t (*marshal)(mirk_handle *h, std::uint32_t id, std::uint8_t *buffer, std::uint8_t *object,
@@ -21,7 +21,7 @@ struct Floor {
 
 // One for each record. The first calls the runtime as the library does, from outside. The second is linked together
 // with the reference runtime's own code, so that whatever can be inlined is.
-const Floor &contract_floor(std::string_view record);
-const Floor &inlined_floor(std::string_view record);
+const LowerBound &contract_lower_bound(std::string_view record);
+const LowerBound &inlined_lower_bound(std::string_view record);
 
 }  // namespace tarn::bench

@@ -26,13 +26,13 @@ constexpr const char *area_of_object =
 
 // What all records share.
 constexpr const char *prelude = R"(// Generated from the schema; not to be edited.
-static void floor_count(mirk_handle *h, uint32_t id, mirk_type_info *type, uint64_t *counter, int64_t delta) {
+static void bound_count(mirk_handle *h, uint32_t id, mirk_type_info *type, uint64_t *counter, int64_t delta) {
     h->count_notify(h->mem_ctx, counter, delta, id);
     if (type->plain_counters) *counter += (uint64_t)delta;
     else __atomic_fetch_add(counter, (uint64_t)delta, __ATOMIC_SEQ_CST);
 }
 
-static void floor_begin_object(mirk_handle *h, uint32_t id, mirk_object *object, mirk_type_info *type, uint8_t flags,
+static void bound_begin_object(mirk_handle *h, uint32_t id, mirk_object *object, mirk_type_info *type, uint8_t flags,
                                bool tracked, uint32_t *err) {
     int8_t variant = mirk_domain_lookup_variant(h, &h->domain, type, err);
     if (variant > 0) variant = 0;
@@ -49,17 +49,17 @@ static void floor_begin_object(mirk_handle *h, uint32_t id, mirk_object *object,
         object->obj_flag |= 8;
     }
     mirk_variant_entry *entry = object->tinfo->variant_info->entries + variant;
-    floor_count(h, id, object->tinfo, &entry->num_created, 1);
-    floor_count(h, id, object->tinfo, &entry->num_live, 1);
+    bound_count(h, id, object->tinfo, &entry->num_created, 1);
+    bound_count(h, id, object->tinfo, &entry->num_live, 1);
 }
 
-static void floor_end_object(mirk_handle *h, uint32_t id, mirk_object *object, bool free_it) {
+static void bound_end_object(mirk_handle *h, uint32_t id, mirk_object *object, bool free_it) {
     if ((object->obj_flag & 72) == 72) mirklib_get_sttr_offset(h, id, object);
     mirk_type_info *type = object->tinfo;
     if (!type || type->magic != 0xbeeff00d || !type->variant_info) abort();
     mirk_variant_entry *entry = type->variant_info->entries + (object->variant > 0 ? 0 : object->variant);
-    floor_count(h, id, type, &entry->num_destroyed, 1);
-    floor_count(h, id, type, &entry->num_live, -1);
+    bound_count(h, id, type, &entry->num_destroyed, 1);
+    bound_count(h, id, type, &entry->num_live, -1);
     if (object->obj_flag & 96 && h->oid_mapping) {
         uint32_t err = 0;
         mirk_hd_mapping_destroy(h, id, object, &err);
@@ -71,7 +71,7 @@ static void floor_end_object(mirk_handle *h, uint32_t id, mirk_object *object, b
     h->obj_free(h->mem_ctx, id, object);
 }
 
-static void floor_destroy_address(mirk_handle *h, uint32_t id, ip_address *address, uint32_t *err) {
+static void bound_destroy_address(mirk_handle *h, uint32_t id, ip_address *address, uint32_t *err) {
     const uint32_t n = ip_address_get_oid_count(h, id, address, err);
     if (n) {
         void **oids = (void **)calloc(n, sizeof(void *));
@@ -87,13 +87,13 @@ static void floor_destroy_address(mirk_handle *h, uint32_t id, ip_address *addre
 // ---- enumerations: a header of their own, and no body
 
 constexpr const char *enumeration_code = R"(
-static void floor_initialize_$e(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t *, uint32_t *err) {
+static void bound_initialize_$e(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t *, uint32_t *err) {
     if (*err) return;
     mirk_clear_last_error(h);
-    floor_begin_object(h, id, (mirk_object *)p, &_$e_type_info_internal, 4, false, err);
+    bound_begin_object(h, id, (mirk_object *)p, &_$e_type_info_internal, 4, false, err);
 }
 
-static uint32_t floor_marshal_$e(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, int32_t remaining,
+static uint32_t bound_marshal_$e(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, int32_t remaining,
                                  uint32_t *err) {
     if (*err) return 0;
     mirk_clear_last_error(h);
@@ -108,7 +108,7 @@ static uint32_t floor_marshal_$e(mirk_handle *h, uint32_t id, uint8_t *b, uint8_
     return o + u_int32_marshal(h, id, b + o, &value, (int32_t)((uint32_t)remaining - o), err);
 }
 
-static uint32_t floor_unmarshal_$e(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, uint32_t size, uint32_t reuse,
+static uint32_t bound_unmarshal_$e(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, uint32_t size, uint32_t reuse,
                                    uint32_t *err) {
     if (*err) return 0;
     mirk_clear_last_error(h);
@@ -143,25 +143,25 @@ std::string initialize(const Record &record) {
                       " - (p + " + place + ")));\n";
             update += m.kind == Kind::address ? "    ip_address_offset_update(h, id, (ip_address *)(p + " + place +
                                                     "), area + " + inner + ", err);\n"
-                                              : "    floor_offset_update_" + std::string(m.record->name) +
+                                              : "    bound_offset_update_" + std::string(m.record->name) +
                                                     "(h, id, p + " + place + ", area + " + inner + ", err);\n";
         }
         if (m.kind == Kind::boolean || m.kind == Kind::address) {
             members += "    " + primitive(m) + "_initialize(h, id, " + at(m, p) + ", &_" + primitive(m) +
                        "_type_info_internal, 1, 0, 4, base, &own);\n";
         } else if (m.kind == Kind::enumeration) {
-            members += "    floor_initialize_" + std::string(m.enumeration->name) + "(h, id, p + " + place +
+            members += "    bound_initialize_" + std::string(m.enumeration->name) + "(h, id, p + " + place +
                        ", base, &own);\n";
         } else {
             members +=
-                "    floor_initialize_" + std::string(m.record->name) + "(h, id, p + " + place + ", 4, base, &own);\n";
+                "    bound_initialize_" + std::string(m.record->name) + "(h, id, p + " + place + ", 4, base, &own);\n";
         }
         members += "    if (own && !first) first = own;\n    own = 0;\n";
     }
     const std::string place_of_areas =
         embeds ? R"(        if (!nested && !base) base = p + $base_size;
         if (!nested || object->obj_flag & 64) {
-            floor_offset_update_$r(h, id, p, object->obj_flag & 64 ? p + mirklib_get_sttr_offset(h, id, object) : base,
+            bound_offset_update_$r(h, id, p, object->obj_flag & 64 ? p + mirklib_get_sttr_offset(h, id, object) : base,
                                    err);
         }
 )"
@@ -169,17 +169,17 @@ std::string initialize(const Record &record) {
     const std::string all_members =
         members.empty() ? "" : "    uint32_t first = 0, own = 0;\n" + members + "    if (first) *err = first;\n";
     return fill_in(R"(
-[[maybe_unused]] static void floor_offset_update_$r(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t *area,
+[[maybe_unused]] static void bound_offset_update_$r(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t *area,
                                                     uint32_t *err) {
     (void)h, (void)id, (void)p, (void)area, (void)err;
 $update}
 
-static void floor_initialize_$r(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t flags, uint8_t *base, uint32_t *err) {
+static void bound_initialize_$r(mirk_handle *h, uint32_t id, uint8_t *p, uint8_t flags, uint8_t *base, uint32_t *err) {
     if (*err) return;
     mirk_clear_last_error(h);
     mirk_object *object = (mirk_object *)p;
     const bool tracked = h->sttr_desc && h->sttr_desc->sttr_mode == 0xEEEE;
-    floor_begin_object(h, id, object, &_$r_type_info_internal, flags, tracked, err);
+    bound_begin_object(h, id, object, &_$r_type_info_internal, flags, tracked, err);
     *err = 0;
     if (tracked) {
         const bool nested = object->obj_flag & 4;
@@ -195,7 +195,7 @@ $all_members}
 }
 
 constexpr const char *create_code = R"(
-static void *floor_create_$r(mirk_handle *h, uint32_t id) {
+static void *bound_create_$r(mirk_handle *h, uint32_t id) {
     static uint16_t module = 0;
     static uint64_t state = 0;
     skald_module_init_fn("mirk_lumo_ui_tarn_type", &module, &state);
@@ -204,7 +204,7 @@ static void *floor_create_$r(mirk_handle *h, uint32_t id) {
     if (!p) return nullptr;
     memset(p, 0, size);
     uint32_t err = 0;
-    floor_initialize_$r(h, id, p, 0, nullptr, &err);
+    bound_initialize_$r(h, id, p, 0, nullptr, &err);
     if (!err) return p;
     h->obj_free(h->mem_ctx, id, p);
     return nullptr;
@@ -218,16 +218,16 @@ std::string destroy(const Record &record) {
         const Member &m = record.members[i];
         const Place &p = l.places[i];
         if (m.kind == Kind::address) {
-            members += "    floor_destroy_address(h, id, " + at(m, p) + ", &err);\n    if (err) return;\n";
+            members += "    bound_destroy_address(h, id, " + at(m, p) + ", &err);\n    if (err) return;\n";
         } else if (m.kind == Kind::record) {
             members +=
-                "    floor_destroy_" + std::string(m.record->name) + "(h, id, p + " + number(p.offset) + ", false);\n";
+                "    bound_destroy_" + std::string(m.record->name) + "(h, id, p + " + number(p.offset) + ", false);\n";
         } else if (m.kind == Kind::array) {
             members += fill_in(R"(    {
         uint8_t **block = (uint8_t **)(p + $offset);
         if (*block) {
             const uint32_t n = *($count *)(p + $counter);
-            for (uint32_t i = 0; i < n; ++i) floor_destroy_$e(h, id, *block + (size_t)i * $stride, false);
+            for (uint32_t i = 0; i < n; ++i) bound_destroy_$e(h, id, *block + (size_t)i * $stride, false);
             h->obj_free(h->mem_ctx, id, *block);
             h->write_notify(h->mem_ctx, block, 8, id);
             *block = nullptr;
@@ -265,11 +265,11 @@ std::string destroy(const Record &record) {
         }
     }
     return fill_in(R"(
-static void floor_destroy_$r(mirk_handle *h, uint32_t id, uint8_t *p, bool free_it) {
+static void bound_destroy_$r(mirk_handle *h, uint32_t id, uint8_t *p, bool free_it) {
     mirk_object *object = (mirk_object *)p;
     uint32_t err = 0;
     if (object->obj_flag & 1 && (!mirk_request_oid_mapping_destroy(h, id, object, &err) || err)) return;
-$members    floor_end_object(h, id, object, free_it);
+$members    bound_end_object(h, id, object, free_it);
 }
 )",
                    {{"$members", members}, {"$r", std::string(record.name)}});
@@ -289,7 +289,7 @@ std::string marshal_member(const Record &record, const Layout &l, std::size_t i)
         uint8_t *block = *(uint8_t **)(p + $offset);
         const uint32_t n = block ? *($count *)(p + $counter) : 0;
         for (uint32_t i = 0; i < n; ++i) {
-            o += floor_marshal_$e(h, id, b + o, block + (size_t)i * $stride, (int32_t)(size - o), err);
+            o += bound_marshal_$e(h, id, b + o, block + (size_t)i * $stride, (int32_t)(size - o), err);
         }
         if (n && tracked) {
             b[o] = area ? area[$slot] : 0;
@@ -325,7 +325,7 @@ std::string marshal_member(const Record &record, const Layout &l, std::size_t i)
     }
     if (m.kind == Kind::record || m.kind == Kind::enumeration) {
         const std::string_view name = m.kind == Kind::record ? m.record->name : m.enumeration->name;
-        return "    o += floor_marshal_" + std::string(name) + "(h, id, b + o, p + " + number(p.offset) +
+        return "    o += bound_marshal_" + std::string(name) + "(h, id, b + o, p + " + number(p.offset) +
                ", (int32_t)(size - o), err);\n" + put_state(p);
     }
     return "    o += " + primitive(m) + "_marshal(h, id, b + o, " + at(m, p) + ", (int32_t)(size - o), err);\n" +
@@ -337,7 +337,7 @@ std::string marshal(const Record &record) {
     std::string members;
     for (std::size_t i = 0; i < record.members.size(); ++i) members += marshal_member(record, l, i);
     return fill_in(R"(
-static uint32_t floor_marshal_$r(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, int32_t remaining,
+static uint32_t bound_marshal_$r(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, int32_t remaining,
                                  uint32_t *err) {
     if (*err) return 0;
     mirk_clear_last_error(h);
@@ -409,9 +409,9 @@ std::string unmarshal_member(const Record &record, const Layout &l, std::size_t 
                 uint8_t *s = *block + (size_t)n * $stride + (size_t)i * $width;
                 if (tracked) mirklib_update_sttr_offset(h, id, e, (uint32_t)(s - e));
                 uint32_t own = 0;
-                floor_initialize_$e(h, id, e, 4, s, &own);
+                bound_initialize_$e(h, id, e, 4, s, &own);
                 if (own) *err = own;
-                o += floor_unmarshal_$e(h, id, b + o, e, size - o, reuse, err);
+                o += bound_unmarshal_$e(h, id, b + o, e, size - o, reuse, err);
             }
             if (take) {
                 area[$slot] = b[o];
@@ -455,7 +455,7 @@ std::string unmarshal_member(const Record &record, const Layout &l, std::size_t 
     }
     if (m.kind == Kind::record || m.kind == Kind::enumeration) {
         const std::string_view name = m.kind == Kind::record ? m.record->name : m.enumeration->name;
-        return "    o += floor_unmarshal_" + std::string(name) + "(h, id, b + o, p + " + number(p.offset) +
+        return "    o += bound_unmarshal_" + std::string(name) + "(h, id, b + o, p + " + number(p.offset) +
                ", size - o, reuse, err);\n" + take_state(p);
     }
     return "    o += " + primitive(m) + "_unmarshal(h, id, b + o, " + at(m, p) +
@@ -467,7 +467,7 @@ std::string unmarshal(const Record &record) {
     std::string members;
     for (std::size_t i = 0; i < record.members.size(); ++i) members += unmarshal_member(record, l, i);
     return fill_in(R"(
-static uint32_t floor_unmarshal_$r(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, uint32_t size, uint32_t reuse,
+static uint32_t bound_unmarshal_$r(mirk_handle *h, uint32_t id, uint8_t *b, uint8_t *p, uint32_t size, uint32_t reuse,
                                    uint32_t *err) {
     if (*err) return 0;
     mirk_clear_last_error(h);
@@ -513,7 +513,7 @@ $members    }
 
 }  // namespace
 
-Files write_floor() {
+Files write_lower_bound() {
     std::string text = prelude, rows;
     for (const Enumeration *e : enumerations) text += fill_in(enumeration_code, {{"$e", std::string(e->name)}});
     for (const Record *r : records) {
@@ -523,10 +523,10 @@ Files write_floor() {
                 fill_in(create_code,
                         {{"$r", name}, {"$base_size", number(l.base_size)}, {"$state_width", number(l.state_width)}}) +
                 destroy(*r) + marshal(*r) + unmarshal(*r);
-        rows += "    {\"" + name + "\", floor_create_" + name + ", floor_marshal_" + name + ", floor_unmarshal_" +
-                name + ", floor_destroy_" + name + "},\n";
+        rows += "    {\"" + name + "\", bound_create_" + name + ", bound_marshal_" + name + ", bound_unmarshal_" +
+                name + ", bound_destroy_" + name + "},\n";
     }
-    return {{"floor.inc", text + "\nstatic const Floor floors[] = {\n" + rows + "};\n"}};
+    return {{"lower_bound.inc", text + "\nstatic const LowerBound lower_bounds[] = {\n" + rows + "};\n"}};
 }
 
 }  // namespace tarn::bench

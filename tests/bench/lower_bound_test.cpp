@@ -1,6 +1,6 @@
 // The benchmarks measure the library against straight-line code. That comparison means something only if both make the
 // same calls of the runtime and produce the same bytes.
-#include "bench/workloads/floor.h"
+#include "bench/workloads/lower_bound.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 
 using observing::Detail;
 using observing::Tracking;
-using tarn::bench::Floor;
+using tarn::bench::LowerBound;
 using tarn::reflect::RecordOperations;
 
 constexpr std::uint32_t id = 7;
@@ -50,9 +50,9 @@ const Workload workloads[] = {
      stored<lumo_tarn_cl_appl_data, tarn::bench::strings, lumo_tarn_cl_appl_data_create>},
 };
 
-class FloorTest : public testing::TestWithParam<std::tuple<Workload, bool>> {
+class LowerBoundTest : public testing::TestWithParam<std::tuple<Workload, bool>> {
 protected:
-    FloorTest() : handle({.tracking = tracked ? Tracking::on : Tracking::off}) {
+    LowerBoundTest() : handle({.tracking = tracked ? Tracking::on : Tracking::off}) {
         observing::quiet(true);
         object = workload.make(handle);
         buffer.resize(operations.len(handle, id, object) + 1);
@@ -60,7 +60,7 @@ protected:
             operations.marshal(handle, id, buffer.data(), object, static_cast<std::int32_t>(buffer.size() - 1), &err);
         observing::quiet(false);
     }
-    ~FloorTest() override { operations.destroy(handle, id, object); }
+    ~LowerBoundTest() override { operations.destroy(handle, id, object); }
 
     // What is asked of the runtime while something runs, with every argument. Without tracking a state area is a place
     // behind a block, formed and never touched, so what lies there by chance has no name to compare.
@@ -85,7 +85,7 @@ protected:
     const Workload workload = std::get<0>(GetParam());
     const bool tracked = std::get<1>(GetParam());
     const RecordOperations &operations = *tarn::reflect::find_record(workload.record);
-    const Floor &floor = tarn::bench::contract_floor(workload.record);
+    const LowerBound &bound = tarn::bench::contract_lower_bound(workload.record);
     observing::Handle handle;
     Bytes buffer;
     std::uint32_t size = 0;
@@ -93,24 +93,24 @@ protected:
     std::uint32_t err = 0;
 };
 
-void expect_same(const Lines &floor, const Lines &library) {
+void expect_same(const Lines &bound, const Lines &library) {
     ASSERT_FALSE(library.empty());
-    const auto differs = std::mismatch(floor.begin(), floor.end(), library.begin(), library.end());
-    EXPECT_EQ(differs.first, floor.end()) << *differs.first << "\nis call " << differs.first - floor.begin();
+    const auto differs = std::mismatch(bound.begin(), bound.end(), library.begin(), library.end());
+    EXPECT_EQ(differs.first, bound.end()) << *differs.first << "\nis call " << differs.first - bound.begin();
     EXPECT_EQ(differs.second, library.end()) << *differs.second << "\nis call " << differs.second - library.begin();
 }
 
-TEST_P(FloorTest, WritesAFrameWithTheLibrarysCalls) {
+TEST_P(LowerBoundTest, WritesAFrameWithTheLibrarysCalls) {
     const auto capacity = static_cast<std::int32_t>(buffer.size() - 1);
     const Bytes expected = buffer;
     const Lines library = calls([&] { operations.marshal(handle, id, buffer.data(), object, capacity, &err); });
     std::fill(buffer.begin(), buffer.end(), std::uint8_t{0});
-    const Lines straight = calls([&] { floor.marshal(handle, id, buffer.data(), bytes_of(object), capacity, &err); });
+    const Lines straight = calls([&] { bound.marshal(handle, id, buffer.data(), bytes_of(object), capacity, &err); });
     expect_same(straight, library);
     EXPECT_TRUE(std::equal(buffer.begin(), buffer.begin() + size, expected.begin()));
 }
 
-TEST_P(FloorTest, ReadsAndDestroysWithTheLibrarysCalls) {
+TEST_P(LowerBoundTest, ReadsAndDestroysWithTheLibrarysCalls) {
     const Lines library = calls([&] {
         void *target = operations.create(handle, id);
         EXPECT_EQ(operations.unmarshal(handle, id, buffer.data(), target, size, 0, &err), size);
@@ -118,15 +118,15 @@ TEST_P(FloorTest, ReadsAndDestroysWithTheLibrarysCalls) {
         operations.destroy(handle, id, target);
     });
     const Lines straight = calls([&] {
-        void *target = floor.create(handle, id);
-        EXPECT_EQ(floor.unmarshal(handle, id, buffer.data(), bytes_of(target), size, 0, &err), size);
+        void *target = bound.create(handle, id);
+        EXPECT_EQ(bound.unmarshal(handle, id, buffer.data(), bytes_of(target), size, 0, &err), size);
         EXPECT_EQ(operations.compare(target, object), 0);
-        floor.destroy(handle, id, bytes_of(target), true);
+        bound.destroy(handle, id, bytes_of(target), true);
     });
     expect_same(straight, library);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, FloorTest, testing::Combine(testing::ValuesIn(workloads), testing::Bool()),
+INSTANTIATE_TEST_SUITE_P(All, LowerBoundTest, testing::Combine(testing::ValuesIn(workloads), testing::Bool()),
                          [](const auto &test) {
                              return std::string(std::get<0>(test.param).name) +
                                     (std::get<1>(test.param) ? "_tracked" : "");
