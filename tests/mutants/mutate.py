@@ -6,7 +6,7 @@
 A mutant is one small error: a condition negated, a statement dropped, or a constant shifted by one, upwards but for a 1:
 in most places any number but 0 says the same. They are found in the syntax tree, in bodies of functions that run. What the
 compiler evaluates (constexpr, consteval, if constexpr, template arguments, static assertions) cannot be changed at run time
-and has none; an error there changes what is compiled, and the tests of the schema and of the surface look at that. What
+and has none; an error there changes what is compiled, and the tests of the schema and of the API look at that. What
 only the archive compiles has none either, since it is the shared library that is tested.
 
 OUT gets the sources, core/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""

@@ -5,7 +5,7 @@
 
 #include "mirk_platform.h"
 #include "schema/frame.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

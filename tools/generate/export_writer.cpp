@@ -3,7 +3,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

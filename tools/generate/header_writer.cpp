@@ -2,7 +2,7 @@
 
 #include "names.h"
 #include "schema/named_type.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

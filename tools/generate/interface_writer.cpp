@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "names.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

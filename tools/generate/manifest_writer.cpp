@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

@@ -5,7 +5,7 @@
 #include "names.h"
 #include "schema/frame.h"
 #include "schema/wire_size.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

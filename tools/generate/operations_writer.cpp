@@ -3,7 +3,7 @@
 
 #include "fill_in.h"
 #include "reflection.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

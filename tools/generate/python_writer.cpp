@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "names.h"
-#include "surface.h"
+#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {

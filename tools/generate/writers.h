@@ -1,4 +1,4 @@
-// What is printed from the surface: one function for each product. None of them holds logic of the library.
+// What is printed from the API: one function for each product. None of them holds logic of the library.
 #pragma once
 
 #include <string>

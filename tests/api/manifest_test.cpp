@@ -8,11 +8,11 @@
 #include <optional>
 
 #include "reference/tables.h"
-#include "surface.h"
+#include "api.h"
 
 namespace {
 
-using namespace surface;
+using namespace api;
 
 struct Section {
     std::string content;

@@ -1,4 +1,4 @@
-#include "surface.h"
+#include "api.h"
 
 #include <cstdlib>
 

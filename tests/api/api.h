@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace surface {
+namespace api {
 
 struct Output {
     int code = 0;
@@ -47,7 +47,7 @@ inline std::string content_of(const std::filesystem::path &path) {
 class Directory {
 public:
     Directory() {
-        std::string name = (std::filesystem::temp_directory_path() / "surface-XXXXXX").string();
+        std::string name = (std::filesystem::temp_directory_path() / "api-XXXXXX").string();
         if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot make " + name);
         path_ = name;
     }
@@ -77,4 +77,4 @@ inline Output generate(const std::string &kind, const std::filesystem::path &int
     return run(in_front + " " + quoted(TARN_GENERATE) + " " + kind + " " + quoted(into) + " " + arguments);
 }
 
-}  // namespace surface
+}  // namespace api

@@ -5,11 +5,11 @@
 #include <map>
 
 #include "reference/tables.h"
-#include "surface.h"
+#include "api.h"
 
 namespace {
 
-using namespace surface;
+using namespace api;
 
 struct Symbol {
     char kind;

@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "reference/tables.h"
-#include "surface.h"
+#include "api.h"
 
 namespace {
 
-using namespace surface;
+using namespace api;
 
 constexpr const char *remedy = " is out of date or edited by hand: run tools/regenerate";
 
