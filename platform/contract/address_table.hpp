@@ -1,5 +1,5 @@
-// Tables keyed by address, for what the runtime knows about blocks and objects. They sit under obj_alloc and under
-// every state-byte access, so they neither throw nor allocate per entry.
+// Hash tables keyed by address, for what the runtime records about blocks and objects. obj_alloc and every access to a
+// state byte use them, so they do not throw and do not allocate memory per entry.
 #pragma once
 
 #include <algorithm>
@@ -14,9 +14,8 @@ namespace mirk {
 
 inline uintptr_t address_of(const void *p) { return reinterpret_cast<uintptr_t>(p); }
 
-// Open addressing with linear probing; key 0 marks a free cell and is never entered. Neighbours in memory are
-// neighbours here: keys are spread by runs, of 64 keys that are `Unit` apart, since those who come for one come for the
-// next.
+// Open addressing with linear probing; key 0 marks a free cell and must not be inserted. The hash spreads runs of 64
+// keys that are `Unit` apart and keeps each run contiguous, since neighboring blocks are often used together.
 template <typename Value, size_t Unit = 1>
 class AddressMap {
     static_assert(std::is_trivially_copyable_v<Value>);
@@ -37,7 +36,7 @@ public:
         }
     }
 
-    // Room for so many entries in all. False without memory.
+    // Reserves capacity for this many entries in total. False if allocation fails.
     bool reserve(size_t entries) {
         while (entries * 2 > capacity()) {
             if (!grow()) return false;
@@ -45,7 +44,7 @@ public:
         return true;
     }
 
-    // The entry of the key, made if there is none; null without memory.
+    // Inserts or replaces the entry of the key. Null if allocation fails.
     Value *put(uintptr_t key, const Value &value) {
         if (used_ * 2 >= capacity() && !grow()) return nullptr;
         size_t i = home(key);
@@ -63,7 +62,7 @@ public:
             if (cells_[hole].key == 0) return false;
             hole = (hole + 1) & mask_;
         }
-        // Entries that a probe would no longer reach across the hole move into it.
+        // Moves entries back that a probe could no longer reach across the hole.
         for (size_t i = (hole + 1) & mask_; cells_[i].key != 0; i = (i + 1) & mask_) {
             if (((i - home(cells_[i].key)) & mask_) >= ((i - hole) & mask_)) {
                 cells_[hole] = cells_[i];
@@ -122,11 +121,11 @@ private:
     int shift_ = 64;
 };
 
-// One value for each object. Objects are aligned to 8, so a stretch of 256 bytes holds at most 32 of them; the table
-// keeps one bucket a stretch. Forgetting everything inside a freed block costs a look at each stretch that it covers,
-// which is less than clearing the block cost when it was made, and nothing at all while the table is empty.
+// One value per object. Objects are aligned to 8 bytes, so a 256-byte stretch holds at most 32 of them, and the table
+// has one bucket per stretch. Erasing the entries of a freed block visits each stretch that the block touches, which
+// costs less than clearing the block did when it was allocated, and nothing while the table is empty.
 //
-// Who cannot bear that an entry finds no memory reserves the room of a block before there are objects in it.
+// Callers that cannot handle a failed insertion reserve buckets for a block before it holds objects.
 template <typename Value>
 class ObjectTable {
     static_assert(std::is_trivially_copyable_v<Value>);
@@ -140,7 +139,7 @@ public:
         while (spare_ != nullptr) free_spare();
     }
 
-    // False without memory.
+    // False if allocation fails.
     bool reserve(const void *block, size_t size) {
         const size_t wanted = reserved_ + stretches(block, size);
         while (owned_ < wanted) {
@@ -157,7 +156,7 @@ public:
 
     size_t size() const { return entries_; }
     size_t bytes() const { return owned_ * sizeof(Bucket); }
-    // The same after reserving a block of this size, wherever it begins.
+    // Upper bound of bytes() after reserving buckets for a block of this size at any address.
     size_t bytes_with(size_t block_size) const {
         const size_t most_stretches = (block_size + stretch_size - 2) / stretch_size + 1;
         return std::max(owned_, reserved_ + most_stretches) * sizeof(Bucket);
@@ -170,7 +169,7 @@ public:
         return bucket != nullptr && (bucket->present >> slot & 1u) != 0 ? &bucket->values[slot] : nullptr;
     }
 
-    // False without memory, which no object of a block has to fear that room was reserved for.
+    // False if allocation fails, which cannot happen for objects in a block with reserved buckets.
     bool put(const void *object, const Value &value) {
         const uintptr_t key = stretch(address_of(object));
         Bucket *bucket = bucket_of(key);
@@ -192,7 +191,7 @@ public:
 
     void erase(const void *object) { clear(stretch(address_of(object)), 1u << slot_of(address_of(object))); }
 
-    void forget(const void *block, size_t size) {
+    void erase_block(const void *block, size_t size) {
         if (entries_ == 0) return;
         const uintptr_t begin = address_of(block);
         const uintptr_t last = begin + (size == 0 ? 0 : size - 1);
@@ -202,17 +201,17 @@ public:
 private:
     static constexpr uintptr_t stretch_size = 256;
     static constexpr unsigned slots = 32;
-    static constexpr size_t few = 64;
+    static constexpr size_t min_spare = 64;
 
     struct Bucket {
         union {
             uint32_t present;
-            Bucket *next;  // of a spare one
+            Bucket *next;  // in the list of spare buckets
         };
         Value values[slots];
     };
 
-    // Never 0, which the map keeps for itself.
+    // Never 0, which the map reserves.
     static uintptr_t stretch(uintptr_t address) { return address / stretch_size + 1; }
     static size_t stretches(const void *block, size_t size) {
         return stretch(address_of(block) + (size == 0 ? 0 : size - 1)) - stretch(address_of(block)) + 1;
@@ -261,15 +260,15 @@ private:
         std::free(std::exchange(spare_, spare_->next));
         --owned_;
     }
-    // Some stay, since blocks that go are likely to be followed by others.
+    // Keeps some spare buckets, since freed blocks are usually followed by new ones.
     void trim() {
-        while (spare_ != nullptr && owned_ > reserved_ + reserved_ / 2 + few) free_spare();
+        while (spare_ != nullptr && owned_ > reserved_ + reserved_ / 2 + min_spare) free_spare();
     }
 
     AddressMap<Bucket *> buckets_;
     size_t entries_ = 0;
-    size_t reserved_ = 0;  // buckets that there have to be
-    size_t owned_ = 0;     // buckets that there are, in use or spare
+    size_t reserved_ = 0;  // buckets that must exist
+    size_t owned_ = 0;     // buckets that exist, in use or spare
     mutable uintptr_t last_key_ = 0;
     mutable Bucket *last_ = nullptr;
     Bucket *spare_ = nullptr;

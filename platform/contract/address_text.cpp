@@ -39,7 +39,7 @@ bool parse_members(std::string_view text, Value *value) {
     return good;
 }
 
-// An address as inet_pton takes it, a scope behind a percent sign.
+// An address in the format of inet_pton, optionally followed by a percent sign and a scope.
 bool parse_numeric(std::string_view text, Value *value) {
     const size_t percent = text.find('%');
     if (percent != std::string_view::npos) {

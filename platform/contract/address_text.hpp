@@ -1,4 +1,4 @@
-// The text form of an address: ADDRESS/PREFIX_LEN where that tells everything, else its members.
+// The text form of an address: ADDRESS/PREFIX_LEN if that represents it fully, otherwise its members.
 #pragma once
 
 #include <string_view>
@@ -17,7 +17,7 @@ private:
     size_t length_ = 0;
 };
 
-// Changes the members only if the whole text is one of the forms.
+// Returns false and leaves the address unchanged unless the whole text has one of these forms.
 bool parse_address(std::string_view text, ip_address *address);
 
 }  // namespace mirk

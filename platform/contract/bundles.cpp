@@ -1,9 +1,10 @@
-// What a handle remembers of the bundle it sends and of the bundle it receives. Nodes of both lists are plain memory.
+// The messages of the bundle that a handle sends and of the bundle that it receives. Nodes of both lists come from
+// malloc, not from obj_alloc.
 #include "platform/contract/handle.hpp"
 
 using mirk::own;
 
-// A message filed while a bundle is being received.
+// A message that waits on the receive list for the commit of its bundle.
 struct mirk_platform_received {
     mirk_list_head link;
     void *message;
@@ -14,7 +15,7 @@ struct mirk_platform_received {
 
 namespace {
 
-// An admitted message of the send bundle.
+// A message admitted to the send bundle.
 struct Sent {
     mirk_list_head link;
     const uint8_t *luid;

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <bit>
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
 namespace mirk {
 
-// The bytes of a number the other way round where the host is little-endian. Spelled out, since a loop over bytes stays
-// one.
+// Reverses the bytes on little-endian hosts. Uses builtins, since compilers do not turn a loop over bytes into one
+// instruction.
 template <typename T>
 T to_or_from_big_endian(T value) {
     if constexpr (std::endian::native == std::endian::big || sizeof(T) == 1) {
@@ -36,15 +37,15 @@ T get_big_endian(const void *from) {
     return to_or_from_big_endian(value);
 }
 
-// The entry of every primitive that moves bytes: an earlier error, a null pointer, room.
+// The checks at the start of every primitive that moves bytes: an earlier error, a null pointer, too little room.
 inline bool can_move(const void *buffer, const void *value, size_t size, int32_t remaining, uint32_t *err) {
     if (*err != 0) return false;
     if (buffer == nullptr || value == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return false;
     }
     if (remaining < 0 || static_cast<size_t>(remaining) < size) {
-        *err = 90;
+        *err = EMSGSIZE;
         return false;
     }
     return true;

@@ -1,4 +1,5 @@
-// From bytes to handlers: finds the message of a frame by its luid, reads it, and delivers or files it.
+// The dispatcher: finds the message of a received frame by its luid, reads it, and passes it to its handler or adds it
+// to the receive list.
 #include <cstdio>
 
 #include "platform/contract/frames.hpp"
@@ -34,8 +35,8 @@ extern "C" void destroy_recorded(mirk_handle *h, uint32_t ctx_id, void *, void *
     own(h)->in_dispatch->message.destroy(h, ctx_id, message);
 }
 
-// Only the full operation records, so a good frame is read a second time for the recorder alone: neither a message that
-// cannot be recorded nor what that leaves in the slot or in last_error may change what is delivered.
+// Only the full unmarshal operation records, so a valid frame is read a second time for the recorder. A message that
+// cannot be recorded must not change what is delivered, so the error slot and last_error of this call are discarded.
 void record(const Delivery &to, const DispatchEntry &entry, const Frame &frame) {
     const uint32_t last_error = to.handle.last_error;
     uint32_t err = 0;
@@ -47,13 +48,13 @@ void record(const Delivery &to, const DispatchEntry &entry, const Frame &frame) 
                   std::strerror(static_cast<int>(err)));
 }
 
-// Only the full operation knows the linked-in handler. What it reads is recorded already.
+// Only the full unmarshal operation calls the linked-in handler. The message has been recorded already.
 void deliver_to_linked_in(const Delivery &to, const DispatchEntry &entry, const Frame &frame, uint32_t *err) {
     void *message = nullptr;
     mirk::skip_next_recording(true);
     entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, &message, frame.bytes, frame.size, nullptr, err);
     mirk::skip_next_recording(false);
-    // ENOSYS says that nobody took the message.
+    // ENOSYS: no handler took ownership of the message.
     if (*err == ENOSYS && message != nullptr) entry.message.destroy(&to.handle, to.ctx_id, message);
 }
 
@@ -62,7 +63,7 @@ void receive_plain(const Delivery &to, const DispatchEntry &entry, const Frame &
     void *message = nullptr;
     entry.message.unmarshal_only(&handle, to.ctx_id, &message, frame.bytes, frame.size, err);
     if (*err != 0 || message == nullptr) {
-        // The full operation would keep what a bad frame left; this one hands it out.
+        // On an error the full operation keeps a partly read message; this one returns it.
         if (message != nullptr) entry.message.destroy(&handle, to.ctx_id, message);
         if (*err == 0) *err = EBADMSG;
         return;
@@ -133,7 +134,7 @@ mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void
     if (report != nullptr) *report = {};
     const Delivery to{*own(h), ctx_id, dispatch_ctx};
     auto *bytes = static_cast<uint8_t *>(buffer);
-    // The next frame begins where total_length says, whatever an unmarshal operation claims to have consumed.
+    // total_length alone decides where the next frame begins; the results of unmarshal operations are ignored.
     for (uint32_t offset = 0; offset < size;) {
         const uint32_t left = size - offset;
         mirk_platform_frame frame;

@@ -1,6 +1,7 @@
 // Reading values from a document.
 #pragma once
 
+#include <cerrno>
 #include <cstdint>
 #include <string_view>
 
@@ -8,7 +9,7 @@
 
 namespace mirk {
 
-// The text of the first element at a path. Text that lies in one piece in the document is not copied.
+// The text of the first element at a path. Text that is contiguous in the document is not copied.
 class ElementText {
 public:
     ElementText(void *document, const char *path) noexcept;
@@ -16,7 +17,7 @@ public:
     ElementText(const ElementText &) = delete;
     ElementText &operator=(const ElementText &) = delete;
 
-    uint32_t error() const { return error_; }  // 0, 2 absent, 12, 22 no path or no document
+    uint32_t error() const { return error_; }  // 0, ENOENT, ENOMEM, or EINVAL for an invalid path or document
     std::string_view view() const { return view_; }
 
 private:
@@ -25,17 +26,17 @@ private:
     unsigned char *owned_ = nullptr;
 };
 
-// Reads one member: `parse` takes the text without the blanks around it and says whether it was in order.
+// Reads one member. `parse` gets the text without surrounding blanks and returns whether it is a valid value.
 template <typename Parse>
 void read_element(const char *path, void *document, const void *field, uint32_t *err, Parse parse) {
     if (*err != 0) return;
     if (field == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return;
     }
     const ElementText text(document, path);
     *err = text.error();
-    if (*err == 0 && !parse(trimmed(text.view()))) *err = 22;
+    if (*err == 0 && !parse(trimmed(text.view()))) *err = EINVAL;
 }
 
 }  // namespace mirk

@@ -1,5 +1,5 @@
-// What a handle's domain says about types and messages. Look-ups go by luid: a private copy of a type record and the
-// module's own stand for the same type.
+// The domain of a handle: variants of types and permitted messages. Look-ups use the luid, since a private copy of a
+// type record and the module's own record describe the same type.
 #include "platform/contract/handle.hpp"
 
 using mirk::own;
@@ -27,9 +27,9 @@ const mirk::Handle &configured(const mirk_domain *domain) {
 
 extern "C" {
 
-// Asked for each frame that is written and each object that is made, and mostly by handles of which nothing was said.
+// Called for each frame written and each object created, mostly on handles whose domain is empty.
 int8_t mirk_domain_lookup_variant(mirk_handle *h, mirk_domain *domain, mirk_type_info *type, uint32_t *err) {
-    if (domain == &h->domain && mirk::looks_up_nothing(*own(h))) return 0;
+    if (domain == &h->domain && mirk::skip_variant_lookup(*own(h))) return 0;
     return look_up_variant(*own(h), configured(domain), type, err);
 }
 

@@ -17,9 +17,9 @@ void mirk_store_err(mirk_handle *h, uint32_t number) {
 
 void mirk_store_epoch_err(mirk_handle *h, uint32_t number, uint32_t *err) {
     own(h)->event(MIRK_PLATFORM_TESTING_STORE_EPOCH, nullptr, 0, number, 0);
-    const bool spare_the_slot = own(h)->lenient && number == EIDRM;
-    if (!spare_the_slot || err != &h->last_error) h->last_error = number;
-    if (!spare_the_slot) *err = number;
+    const bool keep_slot = own(h)->lenient && number == EIDRM;
+    if (!keep_slot || err != &h->last_error) h->last_error = number;
+    if (!keep_slot) *err = number;
 }
 
 }  // extern "C"

@@ -1,4 +1,4 @@
-// What stands around members on the wire: the pieces of a record frame, and the message header.
+// The parts of a frame that are not members: variant, flag, jump and RA data of a record frame, and the message header.
 //
 //   offset  size  message header
 //   0       1     marker, 0xBC
@@ -7,7 +7,7 @@
 //   8       4     stamp
 //   12      4     total_length
 //   16      11    zero
-//   27      16    luid, behind the header
+//   27      16    luid, follows the header
 #include "platform/contract/frames.hpp"
 
 #include "platform/contract/coding.hpp"
@@ -89,7 +89,7 @@ uint32_t _mirk_instance_ra_data_unmarshal(mirk_handle *, uint32_t, void *buffer,
         *err = EINVAL;
         return 0;
     }
-    // A word that somebody sent; it is carried and never followed.
+    // The sender chose this word; it is stored and never dereferenced.
     *ra_value = reinterpret_cast<void *>(mirk::get_big_endian<uint64_t>(buffer));
     *ra_byte = static_cast<const uint8_t *>(buffer)[8];
     return 9;
@@ -103,7 +103,7 @@ void _mirk_message_header_marshal(mirk_handle *h, uint32_t, void *frame, mirk_me
     if (frame == nullptr || header == nullptr) {
         *err = EINVAL;
     } else if (static_cast<int32_t>(size) < MIRK_PLATFORM_HEADER_SIZE) {
-        // Sizes are compared as signed numbers, as everywhere in a message: one with the top bit set is too small.
+        // Sizes of messages are compared as signed numbers: a size with the top bit set is too small.
         *err = EMSGSIZE;
     } else {
         mirk::put_header(frame, *header);
@@ -116,7 +116,7 @@ uint32_t _mirk_message_header_unmarshal(mirk_handle *, uint32_t, void *frame, mi
     if (frame == nullptr || header == nullptr) {
         *err = EINVAL;
     } else if (static_cast<int32_t>(size) < MIRK_PLATFORM_HEADER_SIZE) {
-        // Sizes are compared as signed numbers, as everywhere in a message: one with the top bit set is too small.
+        // Sizes of messages are compared as signed numbers: a size with the top bit set is too small.
         *err = EMSGSIZE;
     } else if (*static_cast<const uint8_t *>(frame) != mirk::frame_marker) {
         *err = EBADMSG;

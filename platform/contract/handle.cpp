@@ -1,4 +1,4 @@
-// Opening, setting up and closing handles.
+// Opens, configures and closes handles.
 #include "platform/contract/handle.hpp"
 
 #include "platform/contract/options.hpp"
@@ -113,7 +113,7 @@ void mirklib_get_handle_ws(mirk_handle *h, void **buffer, uint32_t *size) {
     own(h)->event(MIRK_PLATFORM_TESTING_WORKSPACE, *buffer, *size, 0, 0);
 }
 
-// ---- knobs ----
+// ---- test controls ----
 
 void mirk_platform_testing_set_sttr_mode(mirk_handle *h, uint32_t sttr_mode) {
     own(h)->descriptor.sttr_mode = sttr_mode;

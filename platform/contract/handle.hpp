@@ -1,4 +1,4 @@
-// What stands behind a mirk_handle of this runtime.
+// The runtime's own part of a mirk_handle, and helpers that its sources share.
 #pragma once
 
 #include <array>
@@ -22,7 +22,7 @@ constexpr uint8_t oid_mapped = 1;
 constexpr uint8_t embedded = 2;
 constexpr uint8_t nested = 4;
 constexpr uint8_t state_tracked = 8;
-constexpr uint8_t modified = 16;  // the schema libraries leave this bit to the runtime
+constexpr uint8_t modified = 16;  // schema libraries do not write this bit
 constexpr uint8_t has_ra_data = 32;
 constexpr uint8_t has_sttr_offset = 64;
 
@@ -39,7 +39,7 @@ inline Luid luid_from(const uint8_t *bytes) {
 }
 
 struct LuidHash {
-    // A luid is a digest already; its first bytes are as good as any.
+    // A luid is a digest, so any of its bytes serve as a hash.
     size_t operator()(const Luid &luid) const {
         size_t word;
         std::memcpy(&word, luid.data(), sizeof word);
@@ -80,7 +80,7 @@ struct Block {
     size_t size;
     uint64_t serial;
     uint32_t ctx_id;
-    bool has_offsets;  // room for the state offsets of objects in it is reserved
+    bool has_offsets;  // entries for the state offsets of its objects are reserved
 };
 
 struct RaData {
@@ -101,10 +101,10 @@ struct References {
     std::map<uintptr_t, std::vector<void *>> held_by_address;  // by ip_address
     uintptr_t last_oid = 0;
 
-    void forget(const void *block, size_t size) {
-        if (!oid_of.empty() || !held_by_address.empty()) forget_known(block, size);
+    void erase_block(const void *block, size_t size) {
+        if (!oid_of.empty() || !held_by_address.empty()) erase_entries(block, size);
     }
-    void forget_known(const void *block, size_t size);
+    void erase_entries(const void *block, size_t size);
 };
 
 struct TextHash {
@@ -127,7 +127,7 @@ struct Handle : mirk_handle {
     AddressMap<Block, 16> blocks;
     uint64_t live_bytes = 0, blocks_made = 0, request_ceiling = 0, total_ceiling = 0;
     int fresh_fill = -1;
-    std::vector<void *> system_blocks;  // whatever lives as long as the handle
+    std::vector<void *> system_blocks;  // released when the handle is closed
 
     std::unordered_map<Luid, int8_t, LuidHash> variants;
     std::unordered_map<Luid, bool, LuidHash> messages;
@@ -147,7 +147,7 @@ struct Handle : mirk_handle {
     std::unordered_map<Luid, std::unique_ptr<DispatchEntry>, LuidHash> dispatch_table;
     DispatchEntry *in_dispatch = nullptr;
 
-    std::array<AllocationFailure, 4> allocation_failures;  // the third is process-wide and lies elsewhere
+    std::array<AllocationFailure, 4> allocation_failures;  // MIRKLIB_MALLOC is process-wide: see memory.cpp
     std::array<OperationFailure, MIRK_PLATFORM_TESTING_OPERATIONS> operation_failures;
     mirk_platform_testing_hook hook = nullptr;
     void *hook_user = nullptr;
@@ -171,19 +171,20 @@ inline bool tracks(const mirk_handle *h) { return h->sttr_desc != nullptr && h->
 extern "C" int mirk_own_write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id);
 extern "C" int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id);
 void memory_callbacks(Handle &handle);
-void *keep_for_life(Handle &handle, size_t size);  // zeroed; null without memory
+void *allocate_until_close(Handle &handle, size_t size);  // zeroed; null if allocation fails
 
-// Programs may put notifications of their own into a handle. Ours only pass on to the hook.
-inline bool is_heard(const mirk_handle *h) {
+// Programs may replace the notification callbacks of a handle. Our own callbacks only call the hook.
+inline bool is_observed(const mirk_handle *h) {
     return h->write_notify != mirk_own_write_notify || h->count_notify != mirk_own_count_notify ||
            static_cast<const Handle *>(h)->hook != nullptr;
 }
-inline void announce(mirk_handle *h, uint32_t ctx_id, void *member, size_t size) {
-    if (is_heard(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
+inline void notify_write(mirk_handle *h, uint32_t ctx_id, void *member, size_t size) {
+    if (is_observed(h)) h->write_notify(h->mem_ctx, member, size, ctx_id);
 }
 
-// Where the domain says nothing of any type, and nobody hears that it is asked, each variant is 0. The look-up counts.
-inline bool looks_up_nothing(Handle &handle) {
+// True if a look-up of any variant gives 0: the domain is empty, no failure is requested, and no hook observes
+// look-ups. The skipped look-up is counted.
+inline bool skip_variant_lookup(Handle &handle) {
     OperationFailure &failure = handle.operation_failures[MIRK_PLATFORM_TESTING_VARIANT_LOOKUP];
     if (failure.count != 0 || handle.hook != nullptr) return false;
     if (!static_cast<const Handle *>(handle.domain.opaque[0])->variants.empty()) return false;
@@ -193,16 +194,16 @@ inline bool looks_up_nothing(Handle &handle) {
 
 // types.cpp
 void type_store_callbacks(Handle &handle);
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool heard);
-mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant);  // of a negative variant too
+void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool observed);
+mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant);  // also for negative variants
 void runtime_types_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
 
-// The record that an object of the runtime's own types points to.
+// The type record for an object of one of the runtime's own types: on a handle with private types, its copy.
 inline mirk_type_info *bind_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
     return h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, type, runtime_types_initialize) : type;
 }
 
-// embedded.cpp: what booleans and addresses share
+// embedded.cpp: shared by booleans and addresses
 void set_header(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mirk_type_info *type, uint32_t notify,
                 uint8_t flags, uint32_t *err);
 void count_created(mirk_handle *h, uint32_t ctx_id, mirk_object *object, uint32_t *err);
@@ -212,14 +213,14 @@ void set_embedded(mirk_handle *h, uint32_t ctx_id, mirk_object *object);
 bool list_empty(const mirk_list_head &head);
 void file_received(Handle &handle, const DispatchEntry &entry, void *message, uint32_t ctx_id, uint32_t *err);
 
-// recorder.cpp: whether the next question of this thread finds the recorder off
+// recorder.cpp: whether the next query of this thread reports that the recorder is off
 void skip_next_recording(bool skip);
 
-// trace lines of the runtime itself
+// own_trace.cpp: trace lines of the runtime itself
 uint16_t trace_module();
 [[noreturn]] void fatal(const char *line);
 
-// Runs what may throw and turns the exception into a number.
+// Runs a function that may throw and converts an exception to an error number.
 template <typename Work>
 mirk_platform_error guarded(Work work) noexcept {
     try {

@@ -1,5 +1,5 @@
-// The mixer behind every hash. It depends on data, length and seed alone, not on the host, so that values hash alike in
-// every process.
+// The function behind every hash. The result depends only on data, length and seed, not on the host, so equal values
+// have equal hashes in every process.
 #include <bit>
 #include <cstring>
 

@@ -1,5 +1,5 @@
-// The memory callbacks of a handle, and plain memory. A block is what malloc gave, with nothing in front of it, so that
-// memory checkers see its true bounds; what the runtime knows about it stands in a table beside it.
+// The memory callbacks of a handle, and mirklib_malloc(). A block comes from malloc without a header before it, so that
+// memory checkers see its real bounds; what the runtime records about it is in a separate table.
 #include <algorithm>
 #include <mutex>
 
@@ -62,7 +62,7 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     if (p == nullptr) return;
     const mirk::Block *known = handle.blocks.find(mirk::address_of(p));
     if (known == nullptr) {
-        // The plain destroy of a control message hands its sentinel on, which is no block of ours.
+        // The plain destroy of a control message passes its sentinel, which is not a block.
         handle.event(MIRK_PLATFORM_TESTING_FREE, p, 0, 0, ctx_id);
         skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): obj_free of an address that is no live block: %p", p);
         return;
@@ -70,11 +70,11 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     const size_t size = known->size;
     const bool has_offsets = known->has_offsets;
     handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
-    // The next object at an address in here must not inherit what this one had.
-    handle.offsets.forget(p, size);
+    // A later object at the same address must not inherit these entries.
+    handle.offsets.erase_block(p, size);
     if (has_offsets) handle.offsets.unreserve(p, size);
-    handle.ra_data.forget(p, size);
-    handle.references.forget(p, size);
+    handle.ra_data.erase_block(p, size);
+    handle.references.erase_block(p, size);
     handle.live_bytes -= size;
     handle.blocks.erase(mirk::address_of(p));
     std::free(p);
@@ -83,7 +83,7 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
 static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
     auto &handle = *static_cast<Handle *>(sys_ctx);
     void *block =
-        failure_of(handle, MIRK_PLATFORM_TESTING_SYS_ALLOC).next() ? nullptr : mirk::keep_for_life(handle, size);
+        failure_of(handle, MIRK_PLATFORM_TESTING_SYS_ALLOC).next() ? nullptr : mirk::allocate_until_close(handle, size);
     handle.event(MIRK_PLATFORM_TESTING_SYS_ALLOCATED, block, size, id, 0);
     return block;
 }
@@ -103,7 +103,7 @@ void memory_callbacks(Handle &handle) {
     handle.sys_ctx = &handle;
 }
 
-void *keep_for_life(Handle &handle, size_t size) {
+void *allocate_until_close(Handle &handle, size_t size) {
     void *block = std::calloc(1, size == 0 ? 1 : size);
     if (block == nullptr) return nullptr;
     const auto error = guarded([&]() -> mirk_platform_error {
@@ -130,7 +130,7 @@ int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint3
 }
 
 // For a library that is compiled as one program with this runtime.
-bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_heard(h); }
+bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_observed(h); }
 
 void *mirklib_malloc(void *, uint32_t, size_t size) {
     {

@@ -1,5 +1,5 @@
-// Structures of options begin with their size. A program that was compiled with another header has fewer or more
-// members: only those that both sides know are written and read.
+// Options structures begin with their size. A program compiled with another version of the header has fewer or more
+// members: only members that both sides have are written and read.
 #pragma once
 
 #include <algorithm>
@@ -14,7 +14,7 @@ void initialize_options(Options *options, size_t size, Options defaults) {
     std::memcpy(static_cast<void *>(options), &defaults, std::min(size, sizeof defaults));
 }
 
-// What the program does not know has its default.
+// Members that the program does not have get their defaults.
 template <typename Options>
 Options read_options(const Options *options, Options defaults) {
     std::memcpy(&defaults, options, std::min(options->size, sizeof defaults));

@@ -4,7 +4,7 @@
 //   0       1     variant; negative: no body
 //   1       1     flag: bit 8 state bytes follow the members, bit 32 RA data follows the flag
 //   2       4     jump, from its own first byte to the end of the frame
-//   6       20    af 1, prefix_len 1, scope 2, word[0] to word[3] 4 each; in a tracked frame a state byte behind each
+//   6       20    af 1, prefix_len 1, scope 2, word[0] to word[3] 4 each; in a tracked frame a state byte after each
 //
 // 26 bytes, or 33 in a tracked frame, and 9 more with RA data.
 #include <cstring>
@@ -32,7 +32,7 @@ bool tracking(const mirk_handle *h) {
 }
 
 uint8_t *state_area(mirk_handle *h, uint32_t ctx_id, ip_address *address) {
-    // Formed as a number: on an untracking handle the area lies behind the block.
+    // Computed as an integer: on a handle without tracking the address is past the end of the block.
     uintptr_t area = mirk::address_of(address);
     area += (address->obj_flag & mirk::has_sttr_offset) != 0 ? mirklib_get_sttr_offset(h, ctx_id, address)
                                                              : sizeof(ip_address);
@@ -46,7 +46,7 @@ void fail(mirk_handle *h, uint32_t *err, uint32_t number) {
 
 void trace(uint32_t level, const char *line) { skald_wrapper(mirk::trace_module(), level, 0, "%s", line); }
 
-// The one place that knows the members and their order.
+// The only function that lists the members in their order.
 template <typename Address, typename Visit>
 void for_each_member(Address &address, Visit visit) {
     visit(address.af);
@@ -62,7 +62,7 @@ bool can_start(mirk_handle *h, const void *buffer, const void *field, int32_t re
     return *err == 0;
 }
 
-// Nearly all frames: neither states nor RA data, variant 0, all of it there, and nobody who hears of its making.
+// Nearly all frames: no state, no RA data, variant 0, complete, and on a handle without a hook.
 constexpr uint32_t usual_frame_size = frame_overhead + body_size;
 constexpr uint8_t usual_head[frame_overhead] = {0, 0, 0, 0, 0, usual_frame_size - 2};
 
@@ -90,8 +90,8 @@ void get_usual_members(const uint8_t *frame, ip_address *address) {
     });
 }
 
-// Removes the oid mapping. False ends the destruction here.
-bool give_up_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
+// Removes the oid mapping. False: the object must not be destroyed now.
+bool release_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
     uint32_t err = 0;
     const uint32_t gone = mirk_request_oid_mapping_destroy(h, ctx_id, object, &err);
     if (err != 0) {
@@ -151,7 +151,7 @@ bool give_up_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
     if (variant >= 0) {
         for_each_member(*field, [&](auto &member) {
             offset += mirk::marshal_number(bytes + offset, &member, left(), err);
-            // Unlike a record this leaves the byte behind the end alone: no primitive goes beyond what remains.
+            // Unlike a record, an address does not write the guard byte: primitives never write past `remaining`.
             if (tracked && offset != size) bytes[offset++] = states != nullptr ? *states : uint8_t{0};
             if (states != nullptr) ++states;
         });
@@ -205,7 +205,7 @@ bool give_up_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
             if (offset != size) ++offset;
         });
     }
-    // What a newer sender wrote behind the members known here is stepped over.
+    // Skips members that a newer sender added after the ones known here.
     const uint32_t end = jump_base + jump;
     if (static_cast<int32_t>(end) > static_cast<int32_t>(offset)) {
         skald_wrapper(mirk::trace_module(), 6, 0,
@@ -236,7 +236,7 @@ void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip
     }
     if (destination == source) return;
     const uint8_t own_flag = destination->obj_flag;
-    mirk::announce(h, ctx_id, destination, sizeof *destination);
+    mirk::notify_write(h, ctx_id, destination, sizeof *destination);
     std::memcpy(destination, source, sizeof *destination);
     destination->obj_flag |= mirk::modified;
     if (h->sttr_desc == nullptr) return;
@@ -244,7 +244,7 @@ void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip
     destination->obj_flag = static_cast<uint8_t>((destination->obj_flag & ~offset_bit) | (own_flag & offset_bit));
     if (!tracking(h)) return;
     if ((own_flag & mirk::state_tracked) == 0) {
-        // No state area to copy into, whatever the copied flag says.
+        // The destination has no state area, even if the copied flag has the bit.
         destination->obj_flag &= static_cast<uint8_t>(~mirk::state_tracked);
     }
     if ((destination->obj_flag & mirk::state_tracked) == 0) {
@@ -267,7 +267,7 @@ void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip
     mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
     const bool tracked = tracking(h);
     if (tracked) {
-        if (notify != 0) mirk::announce(h, ctx_id, &object->obj_flag, 1);
+        if (notify != 0) mirk::notify_write(h, ctx_id, &object->obj_flag, 1);
         object->obj_flag |= mirk::state_tracked;
     }
     if (skip_count != 0) return;
@@ -290,16 +290,16 @@ void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_addres
 [[gnu::flatten]] void ip_address_destroy_internal(mirk_handle *h, uint32_t ctx_id, ip_address *object,
                                                   uint32_t free_it) {
     if (object == nullptr) return;
-    if ((object->obj_flag & mirk::oid_mapped) != 0 && !give_up_oid(h, ctx_id, object)) return;
-    constexpr uint8_t placed = mirk::state_tracked | mirk::has_sttr_offset;
-    if ((object->obj_flag & placed) == placed) mirklib_get_sttr_offset(h, ctx_id, object);
+    if ((object->obj_flag & mirk::oid_mapped) != 0 && !release_oid(h, ctx_id, object)) return;
+    constexpr uint8_t own_state_area = mirk::state_tracked | mirk::has_sttr_offset;
+    if ((object->obj_flag & own_state_area) == own_state_area) mirklib_get_sttr_offset(h, ctx_id, object);
     mirk_type_info *type = object->tinfo;
     if (type == nullptr || type->magic != mirk::type_magic) mirk::fatal("(FATAL): tinfo is null or corrupted");
     if (type->variant_info == nullptr) mirk::fatal("(FATAL): varinfo is NULL");
     mirk_variant_entry *entry = mirk::variant_entry(type, object->variant);
-    const bool heard = mirk::is_heard(h);
-    mirk::count(h, ctx_id, type, &entry->num_destroyed, 1, heard);
-    mirk::count(h, ctx_id, type, &entry->num_live, -1, heard);
+    const bool observed = mirk::is_observed(h);
+    mirk::count(h, ctx_id, type, &entry->num_destroyed, 1, observed);
+    mirk::count(h, ctx_id, type, &entry->num_live, -1, observed);
     if ((object->obj_flag & (mirk::has_ra_data | mirk::has_sttr_offset)) != 0 && h->oid_mapping != 0) {
         uint32_t err = 0;
         mirk_hd_mapping_destroy(h, ctx_id, object, &err);
@@ -312,12 +312,12 @@ void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_addres
         }
     }
     if (free_it == 0) return;
-    mirk::announce(h, ctx_id, &object->tinfo, sizeof object->tinfo);
+    mirk::notify_write(h, ctx_id, &object->tinfo, sizeof object->tinfo);
     object->tinfo = nullptr;
     h->obj_free(h->mem_ctx, ctx_id, object);
 }
 
-// Nothing is embedded in an address, so there is nothing to give a place to or to take it from.
+// An address embeds no objects, so there are no offsets to update or remove.
 void ip_address_offset_update(mirk_handle *, uint32_t, ip_address *, void *, uint32_t *) {}
 void ip_address_offset_remove(mirk_handle *, uint32_t, ip_address *, uint32_t *) {}
 
@@ -366,7 +366,7 @@ uint32_t ip_address_len(mirk_handle *h, uint32_t, ip_address *field) {
 uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
                             uint32_t *err) {
     const bool usual = is_usual(h, buffer, field, remaining, err) && field->variant == 0 &&
-                       (field->obj_flag & mirk::has_ra_data) == 0 && mirk::looks_up_nothing(*mirk::own(h));
+                       (field->obj_flag & mirk::has_ra_data) == 0 && mirk::skip_variant_lookup(*mirk::own(h));
     if (!usual) return marshal_any(h, ctx_id, buffer, field, remaining, err);
     h->last_error = 0;
     put_usual_frame(static_cast<uint8_t *>(buffer), *field);
@@ -436,7 +436,7 @@ uint32_t ip_address_type_type_backpropagate(mirk_handle *h, uint32_t, ip_address
     const uint32_t own = mirk_get_instance_modified(field, 1, 0);
     auto &changed = mirk::own(h)->changed_integers;
     uint32_t found = 0;
-    // The members behind the first that reports keep their marks for the next walk.
+    // Stops at the first marked member: later members keep their marks for the next call.
     for_each_member(*field, [&](auto &member) {
         if (found == 0 && changed.erase(mirk::address_of(&member))) found = 1;
     });

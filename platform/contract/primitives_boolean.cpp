@@ -1,5 +1,5 @@
-// mirk_boolean, an embedded object. On the wire: variant, value, one byte each. Any nonzero value counts as true and is
-// kept as it came.
+// mirk_boolean, an embedded object. On the wire: variant, value, one byte each. Any nonzero value is true and is
+// stored unchanged.
 #include "platform/contract/coding.hpp"
 #include "platform/contract/document.hpp"
 #include "platform/contract/handle.hpp"
@@ -10,10 +10,10 @@ namespace {
 void store(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const uint8_t *value, uint32_t *err) {
     if (*err != 0) return;
     if (field == nullptr || value == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return;
     }
-    mirk::announce(h, ctx_id, &field->value, sizeof field->value);
+    mirk::notify_write(h, ctx_id, &field->value, sizeof field->value);
     field->value = *value;
     field->obj_flag |= mirk::modified;
 }
@@ -42,13 +42,13 @@ void mirk_boolean_set_value(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field
     store(h, ctx_id, field, &value, err);
 }
 
-// A boolean has no state area of its own, hence no look at the tracking mode and no use for sttr_base.
+// A boolean has no state area, so the tracking mode is not checked and sttr_base is not used.
 [[gnu::flatten]] void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object,
                                               mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags,
                                               void *, uint32_t *err) {
     if (*err != 0) return;
     if (object == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return;
     }
     mirk_clear_last_error(h);
@@ -109,7 +109,7 @@ int32_t mirk_boolean_compare(const mirk_boolean *a, const mirk_boolean *b) {
     return truth(*a) - truth(*b);
 }
 
-// Equal booleans hash alike, whichever nonzero value says true.
+// All nonzero values have the same hash, since they compare equal.
 uint32_t mirk_boolean_hash(const mirk_boolean *field, uint32_t seed) {
     if (field == nullptr) return seed;
     const uint8_t value = truth(*field);

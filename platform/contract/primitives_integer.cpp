@@ -1,4 +1,4 @@
-// u_int8 to u_int64. On the wire: the number, big-endian, in its width.
+// u_int8 to u_int64. On the wire: the number in its own width, big-endian.
 #include "platform/contract/coding.hpp"
 #include "platform/contract/document.hpp"
 #include "platform/contract/handle.hpp"
@@ -15,10 +15,10 @@ template <typename T>
 void store(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {
     if (*err != 0) return;
     if (field == nullptr || source == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return;
     }
-    mirk::announce(h, ctx_id, field, sizeof(T));
+    mirk::notify_write(h, ctx_id, field, sizeof(T));
     *field = *source;
 }
 
@@ -49,8 +49,8 @@ uint32_t hash(const T *field, uint32_t seed) {
     return SuperFastHash(bytes, sizeof bytes, seed);
 }
 
-// A bare integer has no header to hold a mark.
-uint32_t take_mark(mirk_handle *h, const void *field) {
+// The change marks of integers are in a table, since integers have no object header.
+uint32_t test_and_clear_mark(mirk_handle *h, const void *field) {
     auto &changed = mirk::own(h)->changed_integers;
     return field != nullptr && changed.size() != 0 && changed.erase(mirk::address_of(field)) ? 1 : 0;
 }
@@ -87,7 +87,7 @@ uint32_t take_mark(mirk_handle *h, const void *field) {
         from_xml<T>(path, document, field, err);                                                                  \
     }                                                                                                             \
     uint32_t K##_hash(const T *field, uint32_t seed) { return hash<T>(field, seed); }                             \
-    uint32_t K##_backpropagate(mirk_handle *h, uint32_t, T *field, void *) { return take_mark(h, field); }
+    uint32_t K##_backpropagate(mirk_handle *h, uint32_t, T *field, void *) { return test_and_clear_mark(h, field); }
 
 extern "C" {
 

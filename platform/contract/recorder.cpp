@@ -1,4 +1,4 @@
-// The recorder's switch and its stream, for the whole process.
+// The process-wide switch and stream of the recorder.
 #include <atomic>
 
 #include "platform/contract/handle.hpp"
@@ -24,7 +24,7 @@ uint32_t mirklib_msg_recorder_get_state(void) { return std::exchange(skip_next, 
 FILE *mirklib_msg_recorder_get_handle(void) { return recording_stream.load(); }
 
 void mirk_platform_recorder_set(uint32_t on, FILE *stream) {
-    // Off first and on last, so that nobody finds it on with the stream of another time.
+    // Switched off first and on last, so that no thread sees it on with the previous stream.
     recording.store(0);
     recording_stream.store(stream);
     recording.store(on != 0 ? 1 : 0);

@@ -1,11 +1,11 @@
-// Object identifiers, and the counts that keep an object alive beyond its destroy.
+// Object identifiers (oids), and reference counts that defer the destruction of an object.
 #include "platform/contract/handle.hpp"
 
 using mirk::own;
 
 namespace mirk {
 
-void References::forget_known(const void *block, size_t size) {
+void References::erase_entries(const void *block, size_t size) {
     const uintptr_t begin = address_of(block);
     const uintptr_t end = begin + (size == 0 ? 1 : size);
     if (!oid_of.empty()) {
@@ -52,7 +52,7 @@ uint32_t update_count(mirk_handle *h, uint32_t ctx_id, const void *oid, bool rai
     }
     if (mapping.references == 0) return EINVAL;
     if (--mapping.references == 0 && mapping.condemned && mapping.destroy != nullptr) {
-        // The destroy asks for the mapping to go and thereby ends it; nothing of it is touched afterwards.
+        // This requests removal of the mapping and thereby erases it, so it must not be used afterwards.
         mapping.destroy(h, ctx_id, mapping.object);
     }
     return 0;
@@ -80,17 +80,17 @@ mirk_platform_error mirk_platform_oid_mapping_make(mirk_handle *h, void *object,
     if (object == nullptr || oid == nullptr) return EINVAL;
     return mirk::guarded([&]() -> mirk_platform_error {
         auto &known = own(h)->references;
-        const auto [place, fresh] = known.oid_of.try_emplace(mirk::address_of(object), nullptr);
+        const auto [entry, fresh] = known.oid_of.try_emplace(mirk::address_of(object), nullptr);
         if (!fresh) return EEXIST;
-        // An oid is a number that only looks like an address.
+        // An oid is a counter in the type of an address; it points to nothing.
         void *made = reinterpret_cast<void *>(++known.last_oid);
         try {
             known.mappings.emplace(made, mirk::OidMapping{object, references, false, destroy});
         } catch (...) {
-            known.oid_of.erase(place);
+            known.oid_of.erase(entry);
             throw;
         }
-        place->second = made;
+        entry->second = made;
         static_cast<mirk_object *>(object)->obj_flag |= mirk::oid_mapped;
         *oid = made;
         return 0;

@@ -1,12 +1,12 @@
-// The schema modules beside the library, as far as it calls them: each keeps the last bundle handler given. The one of
-// veld_view also owns the identity of ui_req_msg.
+// The part of the sibling schema modules that the library calls: each stores the bundle handler registered last.
+// veld_view also defines the identity of ui_req_msg.
 #include <utility>
 
 #include "platform/contract/contract.hpp"
 
 namespace {
 
-// Registration belongs to a quiet moment; there is no lock.
+// Not locked: programs register handlers while no frames are dispatched.
 mirk_bundle_handler comm, defs, shared, stats, intf, cond, view;
 
 }  // namespace

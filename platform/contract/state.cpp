@@ -1,4 +1,4 @@
-// What objects carry beside their members: variant, flags, modified mark, the place of their state area, RA data.
+// What objects have besides their members: variant, flags, modified mark, offset of the state area, RA data.
 #include "platform/contract/handle.hpp"
 
 using mirk::own;
@@ -36,7 +36,7 @@ void mirklib_adjust_variant(mirk_handle *h, uint32_t ctx_id, void *object, mirk_
     const int8_t variant = mirk_domain_lookup_variant(h, &h->domain, tinfo, err);
     int8_t &stored = object_at(object)->variant;
     if (*err != 0 || stored == variant) return;
-    mirk::announce(h, ctx_id, &stored, sizeof stored);
+    mirk::notify_write(h, ctx_id, &stored, sizeof stored);
     stored = variant;
 }
 
@@ -45,7 +45,7 @@ uint32_t mirklib_get_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object) 
     if (const uint32_t *known = own(h)->offsets.find(object); known != nullptr) {
         offset = *known;
     } else if (object != nullptr) {
-        // A flag bit that came from outside: the area is taken to lie directly behind the object.
+        // The flag bit came from a frame or a copy: assumes that the area directly follows the object.
         const mirk_type_info *type = object_at(object)->tinfo;
         if (type != nullptr && type->variant_info != nullptr) {
             const mirk_variant_entry &entry = type->variant_info->entries[0];
@@ -59,8 +59,8 @@ uint32_t mirklib_get_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object) 
 void mirklib_update_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object, uint32_t offset) {
     own(h)->event(MIRK_PLATFORM_TESTING_OFFSET_UPDATE, object, 0, offset, ctx_id);
     if (object == nullptr) return;
-    // There is room for every object in a block of a tracking handle. For others there is no way to report the want of
-    // it, and state written to the wrong place would be worse than the end.
+    // Entries are reserved for every object in a block of a tracking handle. For other objects a failed allocation
+    // cannot be reported, and ending the process is better than writing state bytes to a wrong address.
     if (!own(h)->offsets.put(object, offset)) mirk::fatal("(FATAL): no memory for a state offset");
     object_at(object)->obj_flag |= mirk::has_sttr_offset;
 }
@@ -68,7 +68,7 @@ void mirklib_update_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object, u
 uint32_t mirklib_get_ra_data(mirk_handle *h, uint32_t ctx_id, void *instance, void **ra_value, uint8_t *ra_byte) {
     const uint32_t number = own(h)->failure(MIRK_PLATFORM_TESTING_RA_DATA);
     if (number == 0) {
-        // The flag travels when objects are copied, the entry does not: none means empty.
+        // Copying an object copies the flag but not the entry: without an entry the data is empty.
         const mirk::RaData *known = own(h)->ra_data.find(instance);
         *ra_value = known != nullptr ? known->value : nullptr;
         *ra_byte = known != nullptr ? known->byte : uint8_t{0};

@@ -1,6 +1,7 @@
 // Strings: the value is characters with a length, never NUL-terminated.
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 
 #include "platform/contract/document.hpp"
@@ -30,7 +31,7 @@ size_t xml_character(std::string_view text) {
     return length;
 }
 
-// Every byte that cannot stand becomes one "?", so that the length survives.
+// Replaces each byte that XML does not allow by one "?", so that the length stays the same.
 void put_escaped(TextSink &sink, std::string_view text) {
     const auto stays = [](char c) {
         const auto byte = static_cast<uint8_t>(c);
@@ -65,13 +66,13 @@ void put_escaped(TextSink &sink, std::string_view text) {
     }
 }
 
-// The high bit of each byte that is the given one. Of a word without high bits.
+// Sets the high bit of each byte that equals the given one. The word must have no high bits set.
 uint64_t bytes_that_are(uint64_t word, uint8_t byte) {
     const uint64_t difference = word ^ (ones * byte);
     return (difference - ones) & ~difference & ones * 0x80;
 }
 
-// The characters at the start of a text that are printed as they are, found eight at a time.
+// Number of leading characters that are printed unchanged. Examines eight at a time.
 size_t printable_prefix(std::string_view text) {
     size_t at = 0;
     for (uint64_t word; at + sizeof word <= text.size(); at += sizeof word) {
@@ -87,7 +88,7 @@ size_t printable_prefix(std::string_view text) {
     return at;
 }
 
-// One string stays on one line.
+// Escapes control characters, so that a string stays on one line.
 void put_printable(TextSink &sink, std::string_view text) {
     constexpr char digits[] = "0123456789abcdef";
     while (!text.empty()) {
@@ -104,7 +105,7 @@ void put_printable(TextSink &sink, std::string_view text) {
 
 bool usable(const char *buffer, const char *chars, uint32_t length, uint32_t *err) {
     if (*err != 0) return false;
-    if (buffer == nullptr || (chars == nullptr && length != 0)) *err = 22;
+    if (buffer == nullptr || (chars == nullptr && length != 0)) *err = EINVAL;
     return *err == 0;
 }
 
@@ -147,7 +148,7 @@ uint32_t var_string_to_xml(mirk_handle *, uint32_t, const char *name, char *buff
 void var_string_from_xml(mirk_handle *, uint32_t, const char *path, void *document, char *buffer, uint32_t size,
                          uint32_t *err, char *, uint32_t) {
     if (*err != 0) return;
-    *err = buffer == nullptr ? 22 : xml_get_element_value(document, path, buffer, size, nullptr);
+    *err = buffer == nullptr ? EINVAL : xml_get_element_value(document, path, buffer, size, nullptr);
 }
 
 }  // extern "C"

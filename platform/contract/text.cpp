@@ -2,6 +2,7 @@
 #include "platform/contract/text.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -39,9 +40,9 @@ void put_end_tag(TextSink &sink, std::string_view name) {
 
 namespace {
 
-constexpr int another_format = -2;
+constexpr int unsupported_format = -2;
 
-// Most formats are text and strings alone. What vsnprintf does with such a one, without its machinery.
+// Most formats contain only text and %s. Formats those as vsnprintf does, but faster.
 int print_strings(char *buffer, size_t size, const char *format, va_list arguments) {
     size_t length = 0;
     for (; *format != 0; ++format) {
@@ -50,7 +51,7 @@ int print_strings(char *buffer, size_t size, const char *format, va_list argumen
             ++length;
             continue;
         }
-        if (*++format != 's') return another_format;
+        if (*++format != 's') return unsupported_format;
         const char *argument = va_arg(arguments, const char *);
         const std::string_view text = argument != nullptr ? argument : "(null)";
         if (length < size) text.copy(buffer + length, size - length);
@@ -67,14 +68,14 @@ extern "C" {
 uint32_t mirk_print_space(mirk_handle *, uint32_t, char *buffer, uint32_t indent, int32_t remaining, uint32_t *err) {
     if (*err != 0 || indent == 0) return 0;
     if (buffer == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     if (remaining < 0 || indent > static_cast<uint32_t>(remaining)) {
-        *err = 28;
+        *err = ENOSPC;
         return 0;
     }
-    // No NUL: this also runs over an opening line that is already there.
+    // No NUL, since a caller may fill blanks into text that already exists.
     std::memset(buffer, ' ', indent);
     return indent;
 }
@@ -83,28 +84,28 @@ uint32_t mirk_snprintf(mirk_handle *, uint32_t, char *buffer, int32_t remaining,
                        ...) {
     if (*err != 0) return 0;
     if (buffer == nullptr || format == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     if (remaining < 1) {
-        *err = 28;
+        *err = ENOSPC;
         return 0;
     }
     va_list arguments;
     va_start(arguments, format);
     int length = print_strings(buffer, static_cast<size_t>(remaining), format, arguments);
     va_end(arguments);
-    if (length == another_format) {
+    if (length == unsupported_format) {
         va_start(arguments, format);
         length = std::vsnprintf(buffer, static_cast<size_t>(remaining), format, arguments);
         va_end(arguments);
     }
     if (length < 0) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     if (length >= remaining) {
-        *err = 28;
+        *err = ENOSPC;
         return static_cast<uint32_t>(remaining - 1);
     }
     return static_cast<uint32_t>(length);
@@ -114,7 +115,7 @@ uint32_t start_tag(mirk_handle *, uint32_t, char *buffer, const char *name, int3
                    uint32_t *err) {
     if (*err != 0) return 0;
     if (buffer == nullptr || name == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     return mirk::write_whole(buffer, remaining, err,
@@ -124,7 +125,7 @@ uint32_t start_tag(mirk_handle *, uint32_t, char *buffer, const char *name, int3
 uint32_t end_tag(mirk_handle *, uint32_t, char *buffer, const char *name, int32_t remaining, uint32_t *err) {
     if (*err != 0) return 0;
     if (buffer == nullptr || name == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     return mirk::write_whole(buffer, remaining, err, [&](mirk::TextSink &sink) { mirk::put_end_tag(sink, name); });
@@ -134,7 +135,7 @@ uint32_t xml_enum_print(mirk_handle *, uint32_t, char *buffer, const char *text,
                         uint32_t text_length, uint32_t *err) {
     if (*err != 0) return 0;
     if (buffer == nullptr || text == nullptr) {
-        *err = 22;
+        *err = EINVAL;
         return 0;
     }
     return mirk::write_whole(buffer, remaining, err, [&](mirk::TextSink &sink) { sink.put({text, text_length}); });

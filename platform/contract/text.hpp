@@ -1,6 +1,7 @@
-// Lines and elements: the shapes that all primitives share, each in one place.
+// Lines of printed text and XML elements, as all primitives write them.
 #pragma once
 
+#include <cerrno>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -10,7 +11,8 @@
 
 namespace mirk {
 
-// "<name>VALUE</name>" with an uncounted NUL, the opening tag showing a nonzero state; whole or not at all.
+// Writes "<name>VALUE</name>" and a NUL that is not counted; a nonzero state becomes an attribute. Writes all or
+// nothing.
 uint32_t print_element(char *buffer, const char *name, uint8_t state, std::string_view value, int32_t remaining,
                        uint32_t *err);
 
@@ -26,7 +28,7 @@ private:
     size_t length_;
 };
 
-// The first bytes of a text and the last ones, which may be the same.
+// Copies the first and the last `width` bytes of a text, which may overlap.
 template <size_t width>
 [[gnu::always_inline]] inline void copy_both_ends(char *to, const char *from, size_t size) {
     char head[width], tail[width];
@@ -36,8 +38,8 @@ template <size_t width>
     std::memcpy(to + size - width, tail, width);
 }
 
-// Copies what is mostly short, such as names and numbers: two moves that may overlap take less than a call. Returns
-// where the copy ends.
+// Copies text that is usually short, such as names and numbers: two overlapping moves are cheaper than a call. Returns
+// the end of the copy.
 [[gnu::always_inline]] inline char *copy_short(char *to, std::string_view text) {
     const char *from = text.data();
     const size_t size = text.size();
@@ -57,8 +59,8 @@ template <size_t width>
     return to + size;
 }
 
-// Text that is measured first and written afterwards, so that it goes out whole or not at all: the same walk runs
-// twice, the first time without a buffer.
+// Measures or writes text. The same code runs twice, first without a buffer to measure and then to write, so that text
+// is written completely or not at all.
 class TextSink {
 public:
     explicit TextSink(char *to) : to_(to) {}
@@ -80,13 +82,13 @@ private:
     uint64_t length_ = 0;
 };
 
-// Runs `walk` over a measuring and then a writing sink. Text and NUL must fit, else 90.
+// Runs `walk` with a measuring and then with a writing sink. EMSGSIZE if the text and its NUL do not fit.
 template <typename Walk>
 uint32_t write_whole(char *buffer, int32_t remaining, uint32_t *err, Walk walk) {
     TextSink measured(nullptr);
     walk(measured);
     if (remaining < 0 || measured.length() + 1 > static_cast<uint64_t>(remaining)) {
-        *err = 90;
+        *err = EMSGSIZE;
         return 0;
     }
     TextSink written(buffer);
@@ -97,8 +99,8 @@ uint32_t write_whole(char *buffer, int32_t remaining, uint32_t *err, Walk walk) 
 
 inline std::string_view text_or_empty(const char *text) { return text != nullptr ? std::string_view(text) : ""; }
 
-// "name@kind:VALUE" behind `indent` blanks, with a line end and an uncounted NUL; whole or not at all. Most of a text
-// is such lines, so what is known where the line is written, as its "@kind:" is, should be known here.
+// Writes `indent` blanks, "name@kind:VALUE", a line end and a NUL that is not counted. Writes all or nothing. Inlined,
+// because most printed text is such lines and callers pass a constant `kind`.
 [[gnu::always_inline]] inline uint32_t print_line(char *buffer, uint32_t indent, const char *name,
                                                   std::string_view kind, std::string_view value, int32_t remaining,
                                                   uint32_t *err) {
@@ -106,7 +108,7 @@ inline std::string_view text_or_empty(const char *text) { return text != nullptr
     const std::string_view own = text_or_empty(name);
     const uint64_t length = uint64_t{indent} + own.size() + kind.size() + value.size() + 1;
     if (remaining < 0 || length + 1 > static_cast<uint64_t>(remaining)) {
-        *err = 90;
+        *err = EMSGSIZE;
         return 0;
     }
     char *to = buffer;
@@ -124,11 +126,11 @@ inline std::string_view text_or_empty(const char *text) { return text != nullptr
     return static_cast<uint32_t>(length);
 }
 
-// Writes the opening tag; `name` may carry attributes behind a blank.
+// Writes the opening tag; `name` may contain attributes after a blank.
 void put_start_tag(TextSink &sink, std::string_view name, uint8_t state);
 void put_end_tag(TextSink &sink, std::string_view name);
 
-// Without the blanks that XML knows, at both ends.
+// The text without the blanks of XML at both ends.
 inline std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r\n";
     const size_t first = text.find_first_not_of(blanks);
@@ -136,7 +138,7 @@ inline std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-// Whole text as a decimal number within the width of T.
+// Parses the whole text as a decimal number that fits T.
 template <typename T>
 bool parse_decimal(std::string_view text, T *value) {
     T parsed{};

@@ -1,4 +1,4 @@
-// The trace library: modules, levels, the sink, and lines kept for tests.
+// The trace library: modules, levels, the sink, and capture of lines for tests.
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
@@ -22,10 +22,10 @@ struct Line {
     std::string text;
 };
 
-// Lives to the very end of the process, since destructors trace as well.
+// Never destroyed, since destructors of static objects also trace.
 struct Trace {
-    std::mutex lock;       // everything below but the sink's own run
-    std::mutex sink_lock;  // held while a sink runs
+    std::mutex lock;       // protects the members below except the sink
+    std::mutex sink_lock;  // protects the sink; held while it runs
     std::map<std::string, uint16_t, std::less<>> modules;
     std::deque<std::string> names;
     mirk_platform_trace_sink sink = nullptr;
@@ -51,7 +51,7 @@ void to_standard_error(uint16_t module_id, const char *line) {
     std::fprintf(stderr, "%s: %s\n", mirk_platform_trace_module_name(module_id), line);
 }
 
-void hand_over(uint16_t module_id, uint32_t level, const char *line) {
+void emit(uint16_t module_id, uint32_t level, const char *line) {
     if (inside_sink) return;
     Trace &t = trace();
     const std::lock_guard<std::mutex> hold(t.sink_lock);
@@ -71,7 +71,7 @@ void write_line(uint16_t module_id, uint32_t level, const char *line) {
         t.captured.push_back({module_id, level, line});
         if (level != 0) return;
     }
-    if (level < 32 && (t.levels >> level & 1u) != 0) hand_over(module_id, level, line);
+    if (level < 32 && (t.levels >> level & 1u) != 0) emit(module_id, level, line);
 }
 
 }  // namespace
@@ -79,7 +79,7 @@ void write_line(uint16_t module_id, uint32_t level, const char *line) {
 extern "C" {
 
 void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *format, ...) {
-    // Most lines are of levels that nobody wants; they cost no formatting.
+    // Most lines have levels that are not selected; they are not formatted.
     const Trace &t = trace();
     if (!t.capturing && (level >= 32 || (t.levels >> level & 1u) == 0)) return;
     char text[1024];
@@ -100,12 +100,13 @@ void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *for
         va_end(arguments);
         write_line(module_id, level, longer.c_str());
     } catch (...) {
-        // A line that there is no memory for is lost.
+        // If allocation fails, the line is lost.
     }
 }
 
 void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {
-    // Libraries announce their module with each object. Its state is ours: the number that the module has got.
+    // Libraries register their module each time they create an object. The runtime keeps the assigned identifier in the
+    // module state, to return early.
     if (module_id != nullptr && module_state != nullptr) {
         const uint64_t known = __atomic_load_n(module_state, __ATOMIC_ACQUIRE);
         if (known != 0 && __atomic_load_n(module_id, __ATOMIC_RELAXED) == known) return;
@@ -119,7 +120,7 @@ void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *modul
             found = t.modules.emplace(name, static_cast<uint16_t>(t.names.size())).first;
         }
         const uint16_t id = found != t.modules.end() ? found->second : uint16_t{0};
-        // Every thread announces its modules and reads the number without a lock afterwards: it is written once.
+        // Threads read the identifier without a lock after they have registered the module, so it is written only once.
         if (module_id != nullptr && *module_id != id) __atomic_store_n(module_id, id, __ATOMIC_RELAXED);
         if (module_state != nullptr) __atomic_store_n(module_state, id, __ATOMIC_RELEASE);
     } catch (...) {

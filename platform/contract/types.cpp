@@ -1,4 +1,4 @@
-// Type records: the list of modules, a handle's private copies, usage counters, and the runtime's own two types.
+// Type records: the list of modules, the private copies of a handle, usage counters, and the runtime's own two types.
 #include "platform/contract/handle.hpp"
 
 using mirk::Handle;
@@ -6,7 +6,7 @@ using mirk::own;
 
 namespace {
 
-constexpr int variant_entries = 129;  // a negative variant indexes backwards, down to -128
+constexpr int variant_entries = 129;  // negative variants index backwards, down to -128
 
 struct VariantBlock {
     mirk_variant_info info;
@@ -56,7 +56,7 @@ extern "C" {
 static void type_store_put(void *type_store, uint32_t ctx_id, const char *key, mirk_type_info_copy *copy) {
     auto &handle = *static_cast<Handle *>(type_store);
     handle.event(MIRK_PLATFORM_TESTING_TYPE_PUT, copy, 0, 0, ctx_id);
-    // Without memory the copy is not found later, and the module's own record serves.
+    // If allocation fails, the copy is not found later and the module's own record is used.
     mirk::guarded([&]() -> mirk_platform_error {
         handle.types[key] = copy;
         return 0;
@@ -95,15 +95,15 @@ Handle::RecentType &recent_type(Handle &handle, const mirk_type_info *type) {
 
 extern "C" {
 
-// Modules link themselves in from their constructors, which may run before any code of this library.
+// Modules add themselves in their constructors, which may run before any code of this library.
 constinit mirk_module_root mirk_module_tot_root = {0, nullptr, &mirk_module_tot_root.first};
 
 constinit mirk_type_info _mirk_boolean_type_info_internal =
     describe(boolean_luid, "mirk_boolean", &boolean_variants.info);
 constinit mirk_type_info _ip_address_type_info_internal = describe(address_luid, "ip_address", &address_variants.info);
 
-// Every object that is made or read comes by. What was found is kept by the record's address; the luid says whether the
-// same type still stands there.
+// Called for every object created or read. Results are cached by the address of the record; comparing the luid detects
+// that another type now uses that address.
 mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type,
                                        mirk_typeinfo_init_fn init) {
     if (type == nullptr) return nullptr;
@@ -124,10 +124,11 @@ void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_co
     if (source == nullptr) return;
     if (is_new != 0) {
         auto &failure = handle.allocation_failures[MIRK_PLATFORM_TESTING_VARIANT_BLOCK];
-        auto *block =
-            failure.next() ? nullptr : static_cast<VariantBlock *>(mirk::keep_for_life(handle, sizeof(VariantBlock)));
+        auto *block = failure.next()
+                          ? nullptr
+                          : static_cast<VariantBlock *>(mirk::allocate_until_close(handle, sizeof(VariantBlock)));
         if (block == nullptr) {
-            copy->info.plain_counters = 0;  // the copy goes on sharing the module's block, and so its counters
+            copy->info.plain_counters = 0;  // the copy keeps sharing the module's block with its counters
             return;
         }
         block->info = {source->n_variants, &block->entries[variant_entries - 1]};
@@ -159,8 +160,8 @@ mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant) {
     return type->variant_info->entries + (variant > 0 ? 0 : variant);
 }
 
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool heard) {
-    if (heard) h->count_notify(h->mem_ctx, counter, delta, ctx_id);
+void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool observed) {
+    if (observed) h->count_notify(h->mem_ctx, counter, delta, ctx_id);
     const auto step = static_cast<uint64_t>(delta);
     if (type->plain_counters != 0) {
         *counter += step;

@@ -1,4 +1,4 @@
-// Documents: loading them with care, and reading element values from them.
+// Loads XML documents from untrusted input, and reads element values from them.
 #include <libxml/parser.h>
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
@@ -29,7 +29,7 @@ using PathContext = std::unique_ptr<xmlXPathContext, Releaser<xmlXPathFreeContex
 using PathResult = std::unique_ptr<xmlXPathObject, Releaser<xmlXPathFreeObject>>;
 using File = std::unique_ptr<FILE, Releaser<fclose>>;
 
-// Document type declarations define entities and fetch files; nothing good comes of them here.
+// Document type declarations can define entities and refer to files, so documents that have one are refused.
 struct Refusal {
     int line = 0;
 };
@@ -42,21 +42,21 @@ extern "C" void refuse_doctype(void *context, const xmlChar *, const xmlChar *, 
 
 extern "C" void ignore_error(void *, xmlErrorPtr) {}
 
-// Errors of encodings pass by the parser's context, and go to standard error if the thread has no other place for them.
-class QuietThread {
+// Encoding errors bypass the parser context and would go to standard error. This discards them for the calling thread.
+class ErrorsIgnored {
 public:
-    QuietThread() { xmlSetStructuredErrorFunc(nullptr, ignore_error); }
-    ~QuietThread() { xmlSetStructuredErrorFunc(context_, function_); }
-    QuietThread(const QuietThread &) = delete;
-    QuietThread &operator=(const QuietThread &) = delete;
+    ErrorsIgnored() { xmlSetStructuredErrorFunc(nullptr, ignore_error); }
+    ~ErrorsIgnored() { xmlSetStructuredErrorFunc(context_, function_); }
+    ErrorsIgnored(const ErrorsIgnored &) = delete;
+    ErrorsIgnored &operator=(const ErrorsIgnored &) = delete;
 
 private:
     void *const context_ = xmlStructuredErrorContext;
     const xmlStructuredErrorFunc function_ = xmlStructuredError;
 };
 
-// The parser prepares itself at its first use, without a lock where that is the making of a context: two threads that
-// load the first documents of a process at one moment would both do it, and what one of them made would be lost.
+// The parser initializes itself at its first use, but creating a context does so without a lock: two threads that load
+// the first documents of a process at the same time would both do it and leak memory.
 void prepare_parser() { [[maybe_unused]] static const bool prepared = (xmlInitParser(), true); }
 
 void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
@@ -81,7 +81,7 @@ void *finish(Document document, mirk_platform_report *report) {
     return document.release();
 }
 
-// What XPath finds, for the paths that are not simple.
+// The result of evaluating a path that PathMemo does not support.
 class Evaluated {
 public:
     Evaluated(xmlDoc *document, const char *path) : context_(xmlXPathNewContext(document)) {
@@ -100,7 +100,7 @@ private:
     PathResult result_;
 };
 
-// Number of nodes at the path and the first of them; 22 for what is no path.
+// The number of nodes at the path and the first of them. EINVAL for an invalid path.
 uint32_t look_up(void *document, const char *path, size_t *count, xmlNode **first) {
     if (document == nullptr || path == nullptr) return EINVAL;
     auto *doc = static_cast<xmlDoc *>(document);
@@ -118,7 +118,7 @@ uint32_t look_up(void *document, const char *path, size_t *count, xmlNode **firs
     return 0;
 }
 
-// Text that lies in one node of the document, without a copy of it.
+// The text of an element if it is contiguous in the document, otherwise null.
 const xmlChar *text_in_place(const xmlNode *node) {
     if (node->type != XML_ELEMENT_NODE) return nullptr;
     const xmlNode *child = node->children;
@@ -186,7 +186,7 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
     Refusal refusal;
     parser->_private = &refusal;
     parser->sax->internalSubset = refuse_doctype;
-    const QuietThread quiet;
+    const ErrorsIgnored scope;
     constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA;
     Document document(xmlCtxtReadMemory(parser.get(), static_cast<const char *>(text), static_cast<int>(length),
                                         nullptr, nullptr, options));
@@ -201,9 +201,9 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
                 known ? error->message : "the document is not well-formed");
         return nullptr;
     }
-    // To the parser a NUL is the end of all, so what stands behind it would be dropped without a word.
+    // The parser takes a NUL for the end of the document and would silently ignore the rest.
     if (const long read = xmlByteConsumed(parser.get()); read >= 0 && static_cast<size_t>(read) < length) {
-        fill_in(report, EINVAL, parser->input->line, "there is more behind the end of the document");
+        fill_in(report, EINVAL, parser->input->line, "there is more data after the end of the document");
         return nullptr;
     }
     return finish(std::move(document), report);

@@ -17,7 +17,7 @@ bool is_name(std::string_view text) {
 }
 
 bool matches(const xmlNode *node, const xmlChar *name) {
-    // A name without prefix stands for an element in no namespace.
+    // A name without a prefix matches only elements without a namespace.
     return node->type == XML_ELEMENT_NODE && node->name == name && node->ns == nullptr;
 }
 
@@ -28,7 +28,7 @@ xmlNode *next_match(xmlNode *from, const xmlChar *name) {
 
 uintptr_t number_of(const xmlNode *node) { return reinterpret_cast<uintptr_t>(node->_private); }
 
-// Next node of a walk through the whole tree, without recursion: depth is the sender's choice.
+// The next node of a walk through the whole tree. Not recursive, since the sender controls the depth.
 xmlNode *following(xmlNode *node) {
     if (node->type == XML_ELEMENT_NODE && node->children != nullptr) return node->children;
     while (node != nullptr && node->next == nullptr) {
@@ -54,7 +54,7 @@ PathMemo::PathMemo(xmlDoc *document) : document_(document) {
     }
 }
 
-// Takes apart what follows the place `from`, which is the end of a step or, at the start, the first of two slashes.
+// Splits the path from the offset `from`, which is the end of a step or, initially, the offset of the second slash.
 bool PathMemo::split(std::string_view path, size_t from) {
     steps_.clear();
     while (from != path.size()) {
@@ -64,7 +64,7 @@ bool PathMemo::split(std::string_view path, size_t from) {
         Step step{nullptr, 0, end};
         if (!name.empty() && name.back() == ']') {
             const size_t open = name.find('[');
-            // A position behind the first name counts among siblings and not in the document.
+            // A position after the first name counts among siblings, not in the document.
             if (open == std::string_view::npos || begin == 2) return false;
             const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
             if (!parse_decimal(digits, &step.position) || step.position == 0) return false;
@@ -96,7 +96,7 @@ const std::vector<xmlNode *> *PathMemo::find(std::string_view path) {
     if (levels_.size() < kept + steps_.size()) levels_.resize(kept + steps_.size());
     for (const Step &step : steps_) {
         Level &level = levels_[depth_];
-        // The next position of the same array goes on from where the last one stood.
+        // A later position of the same array continues from the previous one.
         const bool same_array = depth_ == kept && depth_ < known && level.step.name == step.name &&
                                 level.step.position != 0 && level.step.position <= step.position;
         if (same_array) {
@@ -121,7 +121,7 @@ void PathMemo::find_everywhere(Level *level) const {
     if (level->step.name == nullptr) return;
     for (xmlNode *node = document_->children; node != nullptr; node = following(node)) {
         if (!matches(node, level->step.name)) continue;
-        // As long as none is nested, a node that lies in an earlier one must lie in the last.
+        // While no node is nested, a node inside an earlier one can only be inside the last one.
         if (!level->nested && !level->nodes.empty() && inside(node, level->nodes.back())) level->nested = true;
         level->nodes.push_back(node);
     }
@@ -152,7 +152,7 @@ void PathMemo::advance(size_t position, Level *level) {
 }
 
 void PathMemo::sort(Level *level) {
-    // Without nested parents the children come out in order by themselves.
+    // Without nested parents the children are already in document order.
     if (!level->nested) return;
     std::sort(level->nodes.begin(), level->nodes.end(),
               [](const xmlNode *a, const xmlNode *b) { return number_of(a) < number_of(b); });

@@ -1,6 +1,6 @@
-// Finding elements by path without searching the document for each. The library asks for the members of a record one
-// after the other, and for the elements of an array by rising positions; a path therefore shares its front with the one
-// before it. Each step of the last path is kept with the elements that it led to.
+// Finds elements by path without searching the document each time. The library reads the members of a record in
+// sequence and the elements of an array in ascending order, so a path usually shares its first steps with the previous
+// one. Each step of the last path is kept with the elements that it matched.
 #pragma once
 
 #include <libxml/tree.h>
@@ -11,23 +11,23 @@
 
 namespace mirk {
 
-// Belongs to a document, which is not changed while this lives.
+// The document must not change during the lifetime of its memo.
 class PathMemo {
 public:
     // Numbers the elements in document order.
     explicit PathMemo(xmlDoc *document);
 
-    // Elements at a path "//name/child/child[3]" with names without prefix, in document order; valid until the next
-    // call. Null for any other path.
+    // The elements at a path like "//name/child/child[3]", with names without prefixes, in document order. Valid until
+    // the next call. Null for any other form of path.
     const std::vector<xmlNode *> *find(std::string_view path);
 
 private:
-    // A name is as the document's dictionary holds it, so that two are equal if their addresses are; null if no element
-    // bears it. A position counts from 1; 0 stands for all.
+    // The name comes from the document's dictionary, so equal names have equal addresses; null if no element has it.
+    // Positions count from 1; 0 means all.
     struct Step {
         const xmlChar *name;
         size_t position;
-        size_t end;  // in the path
+        size_t end;  // offset in the path
     };
     struct Level {
         Step step;
@@ -42,10 +42,10 @@ private:
     static void sort(Level *level);
 
     xmlDoc *document_;
-    std::string path_;           // the last one
-    std::vector<Level> levels_;  // its steps, and room that is kept
-    size_t depth_ = 0;           // how many of them are its own
-    std::vector<Step> steps_;    // of the path at hand, behind the front that it shares
+    std::string path_;           // the last path
+    std::vector<Level> levels_;  // its steps; may have more elements than that
+    size_t depth_ = 0;           // number of its steps
+    std::vector<Step> steps_;    // steps of the current path after the shared ones
 };
 
 }  // namespace mirk

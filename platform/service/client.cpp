@@ -1,4 +1,4 @@
-// The asking side of the frame transport: blocking calls with a time limit.
+// The client of the frame transport: blocking calls with timeouts.
 #include <chrono>
 #include <thread>
 
@@ -28,8 +28,8 @@ struct Outcome {
 
 Clock::time_point deadline(uint32_t timeout_ms) { return Clock::now() + std::chrono::milliseconds(timeout_ms); }
 
-// Waits for the one operation that is under way. One that is not done in time is cancelled; it may still have ended
-// well just then.
+// Waits for the pending operation and cancels it at the deadline. It may still complete successfully while it is being
+// canceled.
 void wait(mirk_platform_client &client, Clock::time_point until, Outcome *outcome) {
     client.context.restart();
     client.context.run_until(until);
@@ -47,12 +47,12 @@ Client make_client(uint32_t frame_limit) {
     return std::make_unique<mirk_platform_client>(frame_limit != 0 ? frame_limit : mirk::default_frame_limit);
 }
 
-mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &place,
+mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &endpoint,
                             Clock::time_point until) {
-    // A socket file whose queue is full says so at once; it is tried again until the time is over.
+    // Connecting to a socket file whose queue is full fails immediately, so it is retried until the deadline.
     for (;;) {
         Outcome outcome;
-        client.socket.async_connect(place, [&](const asio::error_code &error) { outcome.error = error; });
+        client.socket.async_connect(endpoint, [&](const asio::error_code &error) { outcome.error = error; });
         wait(client, until, &outcome);
         const bool queue_is_full =
             outcome.error == asio::error::would_block || outcome.error == asio::error::no_buffer_space;
@@ -84,16 +84,16 @@ mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t 
     return mirk::guarded([&]() -> mirk_platform_error {
         const Clock::time_point until = deadline(timeout_ms);
         Client opened = make_client(frame_limit);
-        std::vector<mirk::StreamProtocol::endpoint> places;
-        mirk_platform_error error = mirk::resolve_tcp_address(opened->context, address, &places);
-        for (const auto &place : places) {
+        std::vector<mirk::StreamProtocol::endpoint> endpoints;
+        mirk_platform_error error = mirk::resolve_tcp_address(opened->context, address, &endpoints);
+        for (const auto &endpoint : endpoints) {
             asio::error_code ignored;
             opened->socket.close(ignored);
-            error = connect(*opened, place, until);
+            error = connect(*opened, endpoint, until);
             if (error == 0) break;
         }
         if (error != 0) return error;
-        mirk::send_at_once(opened->socket);
+        mirk::set_no_delay(opened->socket);
         *client = opened.release();
         return 0;
     });

@@ -1,8 +1,9 @@
-// Bytes from a stream, cut into frames by their total_length. The buffer grows with what has arrived and not with what
-// a peer announces.
+// Splits a byte stream into frames by their total_length. The buffer grows with the bytes received, not with the length
+// that a peer claims.
 #pragma once
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -19,9 +20,9 @@ public:
 
     explicit Inbox(uint32_t limit) : limit_(limit) {}
 
-    // Room for the next bytes, to be followed by received().
+    // Free space for the next bytes. Call received() after writing to it.
     std::pair<uint8_t *, size_t> room() {
-        restore();
+        restore_guard();
         if (begin_ != 0) {
             std::memmove(bytes_.data(), bytes_.data() + begin_, end_ - begin_);
             end_ -= begin_;
@@ -32,13 +33,13 @@ public:
     }
     void received(size_t count) { end_ += count; }
 
-    // The next whole frame, writable and with a byte of slack, in place until the next call.
+    // The next complete frame, in a writable buffer with a guard byte. Valid until the next call.
     Cut next(void **frame, uint32_t *size) {
-        restore();
+        restore_guard();
         mirk_platform_frame seen;
         const mirk_platform_error error = mirk_platform_frame_look(bytes_.data() + begin_, end_ - begin_, &seen);
-        // A wrong first byte is bad however little has come.
-        if (error == 90) return end_ != begin_ && bytes_[begin_] != frame_marker ? Cut::bad : Cut::more_needed;
+        // A wrong first byte is an error even if the header is incomplete.
+        if (error == EMSGSIZE) return end_ != begin_ && bytes_[begin_] != frame_marker ? Cut::bad : Cut::more_needed;
         if (error != 0) return Cut::bad;
         const uint32_t length = seen.header.total_length;
         if (length > limit_) return Cut::too_long;
@@ -46,9 +47,9 @@ public:
         *frame = bytes_.data() + begin_;
         *size = length;
         begin_ += length;
-        // The slack is the first byte of what follows; it is put back before that is looked at.
-        slack_ = bytes_[begin_];
-        lent_ = true;
+        // The guard byte is the first byte of the next frame, so it is restored before that frame is read.
+        guard_ = bytes_[begin_];
+        guard_is_lent_ = true;
         return Cut::frame;
     }
 
@@ -57,16 +58,16 @@ public:
 private:
     static constexpr size_t chunk = 65536;
 
-    void restore() {
-        if (lent_) bytes_[begin_] = slack_;
-        lent_ = false;
+    void restore_guard() {
+        if (guard_is_lent_) bytes_[begin_] = guard_;
+        guard_is_lent_ = false;
     }
 
     uint32_t limit_;
     std::vector<uint8_t> bytes_ = std::vector<uint8_t>(1);
     size_t begin_ = 0, end_ = 0;
-    uint8_t slack_ = 0;
-    bool lent_ = false;
+    uint8_t guard_ = 0;
+    bool guard_is_lent_ = false;
 };
 
 constexpr uint32_t default_frame_limit = 16u << 20;

@@ -1,4 +1,4 @@
-// Requests and refusals, frames of ui_req_msg:
+// Encodes and decodes requests and refusals, which are frames of ui_req_msg:
 //
 //   offset  size  request                       refusal
 //   0       27    header                        header
@@ -35,7 +35,7 @@ void put_text(uint8_t *to, std::string_view text) {
     std::memcpy(to + 1, text.data(), text.size());
 }
 
-// The text must end where the frame does.
+// The text must end at the end of the frame.
 bool get_text(const uint8_t *frame, uint32_t total_length, uint32_t at, char *text) {
     if (total_length <= at) return false;
     const uint32_t length = frame[at];
@@ -45,8 +45,8 @@ bool get_text(const uint8_t *frame, uint32_t total_length, uint32_t at, char *te
     return std::strlen(text) == length;
 }
 
-uint32_t refuse(uint32_t *number, uint32_t reason) {
-    if (number != nullptr) *number = reason;
+uint32_t fail(uint32_t *number, uint32_t error) {
+    if (number != nullptr) *number = error;
     return 0;
 }
 
@@ -57,9 +57,9 @@ extern "C" {
 uint32_t mirk_platform_request_encode(void *buffer, uint32_t size, uint32_t stamp, const char *bundle, uint8_t options,
                                       uint32_t *number) {
     const std::string_view name = bundle != nullptr ? bundle : "";
-    if (name.size() > 255) return refuse(number, EINVAL);
+    if (name.size() > 255) return fail(number, EINVAL);
     const auto length = static_cast<uint32_t>(request_text_at + 1 + name.size());
-    if (size < length) return refuse(number, EMSGSIZE);
+    if (size < length) return fail(number, EMSGSIZE);
     auto *frame = static_cast<uint8_t *>(buffer);
     put_frame(frame, stamp, length, options & static_cast<uint8_t>(~MIRK_PLATFORM_REQUEST_REFUSED));
     put_text(frame + request_text_at, name);
@@ -68,13 +68,13 @@ uint32_t mirk_platform_request_encode(void *buffer, uint32_t size, uint32_t stam
 
 uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t reason,
                                       const char *sentence, uint32_t *number) {
-    const std::string_view words = std::string_view(sentence != nullptr ? sentence : "").substr(0, 255);
-    const auto length = static_cast<uint32_t>(refusal_text_at + 1 + words.size());
-    if (size < length) return refuse(number, EMSGSIZE);
+    const std::string_view text = std::string_view(sentence != nullptr ? sentence : "").substr(0, 255);
+    const auto length = static_cast<uint32_t>(refusal_text_at + 1 + text.size());
+    if (size < length) return fail(number, EMSGSIZE);
     auto *frame = static_cast<uint8_t *>(buffer);
     put_frame(frame, stamp, length, MIRK_PLATFORM_REQUEST_REFUSED);
     mirk::put_big_endian<uint32_t>(frame + options_at + 1, reason);
-    put_text(frame + refusal_text_at, words);
+    put_text(frame + refusal_text_at, text);
     return length;
 }
 
@@ -87,14 +87,14 @@ mirk_platform_error mirk_platform_request_decode(const void *buffer, size_t size
     const auto *bytes = static_cast<const uint8_t *>(buffer);
     mirk_platform_request read{};
     read.options = bytes[options_at];
-    bool good = false;
+    bool valid = false;
     if ((read.options & MIRK_PLATFORM_REQUEST_REFUSED) == 0) {
-        good = get_text(bytes, total_length, request_text_at, read.bundle);
+        valid = get_text(bytes, total_length, request_text_at, read.bundle);
     } else if (total_length > refusal_text_at) {
         read.number = mirk::get_big_endian<uint32_t>(bytes + options_at + 1);
-        good = get_text(bytes, total_length, refusal_text_at, read.sentence);
+        valid = get_text(bytes, total_length, refusal_text_at, read.sentence);
     }
-    if (!good) return EBADMSG;
+    if (!valid) return EBADMSG;
     *request = read;
     return 0;
 }

@@ -1,5 +1,11 @@
-// The serving side of the frame transport. Connections and their acceptor work on any stream socket; only listening
-// tells a socket file from a TCP port.
+// The server of the frame transport.
+//
+// platform/service/ moves frames over sockets and encodes requests for bundles. It may use asio and everything that
+// platform/contract/ offers. It knows the header of a frame, its luid and total_length, and the request message, but no
+// other message, no record and no bundle: callbacks of the program handle those. platform/contract/ does not use it.
+//
+// Connections and their acceptor work with any stream socket; only listening differs between socket files and TCP
+// ports.
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,12 +29,12 @@ namespace {
 
 class Connection;
 
-// Removes the socket file that was bound, and no other that took its place.
+// Removes the socket file that this server bound, unless another file has replaced it.
 struct SocketFile {
     std::string path;
     struct stat bound {};
 
-    void remember() {
+    void record_identity() {
         if (::stat(path.c_str(), &bound) != 0) path.clear();
     }
     void remove() const {
@@ -50,24 +56,24 @@ struct mirk_platform_server {
     mirk_platform_error listen_on_file(const char *path);
     mirk_platform_error listen_on_tcp(const char *address);
     void accept_next();
-    void take_on(Socket socket);
+    void add_connection(Socket socket);
     void wait_for_stop();
     void stop_now();
 
-    // Tells the program that a limit was passed.
-    void refused(mirk_platform_peer peer, const char *reason);
-    // Makes room among what waits for all peers: whoever has the most is turned out, until the bytes fit.
+    // Notifies the program that a peer exceeded a limit or could not be accepted.
+    void notify_refused(mirk_platform_peer peer, const char *reason);
+    // Enforces total_pending_limit: disconnects the peer with the most unread bytes until `size` more bytes fit.
     void make_room_for(size_t size);
     uint64_t total_pending_limit() const { return std::max(options.total_pending_limit, options.pending_limit); }
 
     mirk_platform_server_options options;
     uint64_t total_pending = 0;
-    bool accepts = true;  // false from a failure to accept until it works again
+    bool accepting = true;  // false between a failed accept and the next successful one
     asio::io_context context{1};
     asio::basic_socket_acceptor<mirk::StreamProtocol> acceptor{context};
     bool is_tcp = false;
-    std::string place;
-    asio::steady_timer pause{context};
+    std::string endpoint_text;
+    asio::steady_timer accept_retry{context};
     asio::posix::stream_descriptor stop_signal{context};
     int stop_fd = -1;
     SocketFile file;
@@ -77,8 +83,8 @@ struct mirk_platform_server {
 
 namespace {
 
-// The end of a span that begins at a moment; a span of 0 has none.
-Clock::time_point end_of(Clock::time_point from, uint32_t ms) {
+// The deadline of a time limit that begins at `from`. A limit of 0 has no deadline.
+Clock::time_point deadline_after(Clock::time_point from, uint32_t ms) {
     return ms == 0 ? Clock::time_point::max() : from + std::chrono::milliseconds(ms);
 }
 
@@ -88,16 +94,16 @@ public:
         : server_(server),
           peer_(peer),
           socket_(std::move(socket)),
-          alarm_(server.context),
+          timer_(server.context),
           inbox_(server.options.frame_limit) {}
 
     void start() {
-        watch();
+        set_timer();
         read();
     }
 
     mirk_platform_error send(const void *bytes, size_t size) {
-        if (closed_ || leaving_) return ENOTCONN;
+        if (closed_ || disconnecting_) return ENOTCONN;
         if (size == 0) return 0;
         if (pending_ + size > server_.options.pending_limit) {
             refuse("it lets too much pile up unread");
@@ -112,28 +118,28 @@ public:
         if (queue_.size() == 1) {
             front_since_ = Clock::now();
             write();
-            watch();
+            set_timer();
         }
         return 0;
     }
 
     uint64_t pending() const { return pending_; }
 
-    void leave(const char *reason) {
-        leaving_ = true;
-        leaving_reason_ = reason;
+    void disconnect_when_sent(const char *reason) {
+        disconnecting_ = true;
+        disconnect_reason_ = reason;
         if (queue_.empty()) close(7, reason);
     }
 
-    // Closes because a limit is passed, or because what arrived is not a frame.
+    // Disconnects a peer that exceeded a limit or sent something other than a frame.
     void refuse(const char *reason) {
         if (closed_) return;
         const auto self = shared_from_this();
-        server_.refused(peer_, reason);
+        server_.notify_refused(peer_, reason);
         close(3, reason);
     }
 
-    // Sends what the socket takes at once, then closes.
+    // Sends what the socket accepts without blocking, then closes.
     void stop() {
         asio::error_code error;
         socket_.non_blocking(true, error);
@@ -143,10 +149,10 @@ public:
         close(7, "the server stops");
     }
 
-    // `reason` is copied first: it may lie in something that goes away here.
     void close(uint32_t level, const char *reason) {
         if (closed_) return;
         closed_ = true;
+        // The connection may own `reason`.
         const auto self = shared_from_this();
         skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
                       level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
@@ -157,12 +163,12 @@ public:
             server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
         }
         asio::error_code ignored;
-        alarm_.cancel();
+        timer_.cancel();
         socket_.close(ignored);
     }
 
 private:
-    // Runs one step; a connection that runs out of memory ends alone.
+    // Runs one step. If it throws, as when memory runs out, only this connection is closed.
     template <typename Step>
     void protect(Step step) noexcept {
         const mirk_platform_error error = mirk::guarded([&]() -> mirk_platform_error {
@@ -180,11 +186,11 @@ private:
         const auto [at, size] = inbox_.room();
         socket_.async_read_some(asio::buffer(at, size),
                                 [self = shared_from_this()](const asio::error_code &error, size_t count) {
-                                    self->protect([&] { self->arrived(error, count); });
+                                    self->protect([&] { self->on_read(error, count); });
                                 });
     }
 
-    void arrived(const asio::error_code &error, size_t count) {
+    void on_read(const asio::error_code &error, size_t count) {
         if (closed_) return;
         if (error) {
             const bool whole = inbox_.empty();
@@ -199,17 +205,17 @@ private:
         inbox_.received(count);
         void *frame = nullptr;
         uint32_t size = 0;
-        while (!closed_ && !leaving_) {
+        while (!closed_ && !disconnecting_) {
             switch (inbox_.next(&frame, &size)) {
                 case mirk::Inbox::Cut::frame:
-                    frame_is_begun_ = false;
+                    frame_has_begun_ = false;
                     server_.options.on_frame(server_.options.user, &server_, peer_, frame, size);
                     break;
                 case mirk::Inbox::Cut::more_needed:
-                    if (!inbox_.empty() && !frame_is_begun_) {
-                        frame_is_begun_ = true;
+                    if (!inbox_.empty() && !frame_has_begun_) {
+                        frame_has_begun_ = true;
                         frame_since_ = last_moved_;
-                        watch();
+                        set_timer();
                     }
                     read();
                     return;
@@ -250,69 +256,70 @@ private:
                 self->written(count);
                 if (!self->queue_.empty()) {
                     self->write();
-                } else if (self->leaving_) {
-                    self->close(7, self->leaving_reason_.c_str());
+                } else if (self->disconnecting_) {
+                    self->close(7, self->disconnect_reason_.c_str());
                 }
             });
         });
     }
 
-    // When this peer will have taken too long, unless it moves.
-    Clock::time_point patience() const {
-        return std::min({end_of(last_moved_, server_.options.idle_ms), frame_end(), answer_end()});
+    // When this peer exceeds a time limit unless it makes progress.
+    Clock::time_point next_deadline() const {
+        return std::min({deadline_after(last_moved_, server_.options.idle_ms), frame_deadline(), answer_deadline()});
     }
-    Clock::time_point frame_end() const {
-        return frame_is_begun_ ? end_of(frame_since_, server_.options.frame_ms) : Clock::time_point::max();
+    Clock::time_point frame_deadline() const {
+        return frame_has_begun_ ? deadline_after(frame_since_, server_.options.frame_ms) : Clock::time_point::max();
     }
-    Clock::time_point answer_end() const {
-        return queue_.empty() ? Clock::time_point::max() : end_of(front_since_, server_.options.answer_ms);
+    Clock::time_point answer_deadline() const {
+        return queue_.empty() ? Clock::time_point::max() : deadline_after(front_since_, server_.options.answer_ms);
     }
 
-    // Sets the alarm, unless it rings early enough already; one that rings too early sets itself again.
-    void watch() {
-        const Clock::time_point end = patience();
-        if (closed_ || end >= alarm_at_) return;
-        alarm_at_ = end;
-        alarm_.expires_at(end);
-        alarm_.async_wait([self = shared_from_this()](const asio::error_code &error) {
+    // Sets the timer unless it expires early enough already. A timer that expires too early sets itself again.
+    void set_timer() {
+        const Clock::time_point end = next_deadline();
+        if (closed_ || end >= timer_at_) return;
+        timer_at_ = end;
+        timer_.expires_at(end);
+        timer_.async_wait([self = shared_from_this()](const asio::error_code &error) {
             if (error || self->closed_) return;
-            self->protect([&] { self->rung(); });
+            self->protect([&] { self->on_timer(); });
         });
     }
 
-    void rung() {
-        alarm_at_ = Clock::time_point::max();
+    void on_timer() {
+        timer_at_ = Clock::time_point::max();
         const Clock::time_point now = Clock::now();
-        if (now >= frame_end()) {
+        if (now >= frame_deadline()) {
             refuse("it took too long for one frame");
-        } else if (now >= answer_end()) {
+        } else if (now >= answer_deadline()) {
             refuse("it took too long to read an answer");
-        } else if (now >= patience()) {
+        } else if (now >= next_deadline()) {
             refuse("it was idle for too long");
         } else {
-            watch();
+            set_timer();
         }
     }
 
     mirk_platform_server &server_;
     mirk_platform_peer peer_;
     Socket socket_;
-    asio::steady_timer alarm_;
-    Clock::time_point alarm_at_ = Clock::time_point::max();
+    asio::steady_timer timer_;
+    Clock::time_point timer_at_ = Clock::time_point::max();
     mirk::Inbox inbox_;
     std::deque<std::vector<char>> queue_;
     size_t front_sent_ = 0;
     uint64_t pending_ = 0;
     Clock::time_point last_moved_ = Clock::now();
     Clock::time_point frame_since_, front_since_;
-    bool frame_is_begun_ = false;
+    bool frame_has_begun_ = false;
     bool closed_ = false;
-    bool leaving_ = false;
-    std::string leaving_reason_;
+    bool disconnecting_ = false;
+    std::string disconnect_reason_;
 };
 
-// Makes way for a socket file: one that nobody listens on any more is removed.
-mirk_platform_error make_way(asio::io_context &context, const char *path, const LocalProtocol::endpoint &endpoint) {
+// Removes a socket file that no process listens on any more.
+mirk_platform_error remove_stale_socket_file(asio::io_context &context, const char *path,
+                                             const LocalProtocol::endpoint &endpoint) {
     struct stat there {};
     if (::lstat(path, &there) != 0) return errno == ENOENT ? 0 : static_cast<mirk_platform_error>(errno);
     if (!S_ISSOCK(there.st_mode)) return EEXIST;
@@ -340,32 +347,32 @@ mirk_platform_error mirk_platform_server::prepare_stop() {
 mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
     if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
     const LocalProtocol::endpoint endpoint(path);
-    if (const mirk_platform_error error = make_way(context, path, endpoint); error != 0) return error;
+    if (const mirk_platform_error error = remove_stale_socket_file(context, path, endpoint); error != 0) return error;
     asio::error_code error;
     acceptor.open(endpoint.protocol(), error);
-    // The rights of the socket become those of its file, so that it is never open to more.
+    // Binding gives the file the mode of the socket, so the file never has wider access rights.
     if (!error && ::fchmod(acceptor.native_handle(), options.socket_mode) != 0) {
         return static_cast<mirk_platform_error>(errno);
     }
     if (!error) acceptor.bind(endpoint, error);
     if (!error) {
-        place = path;
+        endpoint_text = path;
         file.path = path;
-        file.remember();
+        file.record_identity();
         acceptor.listen(asio::socket_base::max_listen_connections, error);
     }
     return number_of(error);
 }
 
-// A port that a former server has just left may be taken again; one that is listened on may not.
+// Address reuse permits a port that a previous server has just released, but not one that another process listens on.
 mirk_platform_error mirk_platform_server::listen_on_tcp(const char *address) {
-    std::vector<mirk::StreamProtocol::endpoint> places;
-    const mirk_platform_error unknown = mirk::resolve_tcp_address(context, address, &places);
-    if (unknown != 0) return unknown;
+    std::vector<mirk::StreamProtocol::endpoint> endpoints;
+    const mirk_platform_error unresolved = mirk::resolve_tcp_address(context, address, &endpoints);
+    if (unresolved != 0) return unresolved;
     asio::error_code error;
-    acceptor.open(places.front().protocol(), error);
+    acceptor.open(endpoints.front().protocol(), error);
     if (!error) acceptor.set_option(asio::socket_base::reuse_address(true), error);
-    if (!error) acceptor.bind(places.front(), error);
+    if (!error) acceptor.bind(endpoints.front(), error);
     if (!error) acceptor.listen(asio::socket_base::max_listen_connections, error);
     if (error) return number_of(error);
     const mirk::StreamProtocol::endpoint bound = acceptor.local_endpoint();
@@ -374,12 +381,12 @@ mirk_platform_error mirk_platform_server::listen_on_tcp(const char *address) {
     std::memcpy(numbers.data(), bound.data(), bound.size());
     std::ostringstream text;
     text << numbers;
-    place = text.str();
+    endpoint_text = text.str();
     is_tcp = true;
     return 0;
 }
 
-void mirk_platform_server::refused(mirk_platform_peer peer, const char *reason) {
+void mirk_platform_server::notify_refused(mirk_platform_peer peer, const char *reason) {
     if (options.on_refused != nullptr) options.on_refused(options.user, this, peer, reason);
 }
 
@@ -394,16 +401,16 @@ void mirk_platform_server::make_room_for(size_t size) {
     }
 }
 
-void mirk_platform_server::take_on(Socket socket) {
+void mirk_platform_server::add_connection(Socket socket) {
     const mirk_platform_peer peer = ++last_peer;
     if (connections.size() >= options.peer_limit) {
         const std::string reason = "there are " + std::to_string(connections.size()) + " peers already";
         skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): peer %llu is turned away: %s",
                       static_cast<unsigned long long>(peer), reason.c_str());
-        refused(peer, reason.c_str());
+        notify_refused(peer, reason.c_str());
         return;
     }
-    if (is_tcp) mirk::send_at_once(socket);
+    if (is_tcp) mirk::set_no_delay(socket);
     const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket));
     connections.emplace(peer, connection);
     if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
@@ -414,19 +421,19 @@ void mirk_platform_server::accept_next() {
     acceptor.async_accept([this](const asio::error_code &error, Socket socket) {
         if (error == asio::error::operation_aborted) return;
         if (error) {
-            // Out of descriptors, most likely; they come back when peers leave.
+            // Most likely out of descriptors, which become available again when peers disconnect.
             const char *reason = std::strerror(error.value());
             skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): cannot accept a peer: %s", reason);
-            if (std::exchange(accepts, false)) refused(0, (std::string("cannot accept: ") + reason).c_str());
-            pause.expires_after(std::chrono::milliseconds(100));
-            pause.async_wait([this](const asio::error_code &ended) {
+            if (std::exchange(accepting, false)) notify_refused(0, (std::string("cannot accept: ") + reason).c_str());
+            accept_retry.expires_after(std::chrono::milliseconds(100));
+            accept_retry.async_wait([this](const asio::error_code &ended) {
                 if (!ended) accept_next();
             });
             return;
         }
-        accepts = true;
+        accepting = true;
         const mirk_platform_error failed = mirk::guarded([&]() -> mirk_platform_error {
-            take_on(std::move(socket));
+            add_connection(std::move(socket));
             return 0;
         });
         if (failed != 0) {
@@ -468,15 +475,15 @@ mirk_platform_server_options default_options() {
     return options;
 }
 
-mirk_platform_error open_server(const char *place, mirk_platform_error (mirk_platform_server::*listen)(const char *),
+mirk_platform_error open_server(const char *address, mirk_platform_error (mirk_platform_server::*listen)(const char *),
                                 const mirk_platform_server_options *chosen, mirk_platform_server **server) {
-    if (place == nullptr || chosen == nullptr || server == nullptr) return EINVAL;
+    if (address == nullptr || chosen == nullptr || server == nullptr) return EINVAL;
     const mirk_platform_server_options options = mirk::read_options(chosen, default_options());
     if (options.on_frame == nullptr) return EINVAL;
     return mirk::guarded([&]() -> mirk_platform_error {
         auto opened = std::make_unique<mirk_platform_server>(options);
         mirk_platform_error error = opened->prepare_stop();
-        if (error == 0) error = (*opened.*listen)(place);
+        if (error == 0) error = (*opened.*listen)(address);
         if (error == 0) *server = opened.release();
         return error;
     });
@@ -500,7 +507,7 @@ mirk_platform_error mirk_platform_server_open_tcp(const char *address, const mir
     return open_server(address, &mirk_platform_server::listen_on_tcp, options, server);
 }
 
-const char *mirk_platform_server_place(const mirk_platform_server *server) { return server->place.c_str(); }
+const char *mirk_platform_server_place(const mirk_platform_server *server) { return server->endpoint_text.c_str(); }
 
 mirk_platform_error mirk_platform_server_run(mirk_platform_server *server) {
     return mirk::guarded([&]() -> mirk_platform_error {
@@ -512,7 +519,7 @@ mirk_platform_error mirk_platform_server_run(mirk_platform_server *server) {
 }
 
 void mirk_platform_server_stop(mirk_platform_server *server) {
-    // One write of eight bytes: all that a signal handler may do.
+    // Only one write(), which is safe in a signal handler.
     const int kept = errno;
     const uint64_t one = 1;
     [[maybe_unused]] const ssize_t written = ::write(server->stop_fd, &one, sizeof one);
@@ -534,7 +541,7 @@ void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform
         const auto found = server->connections.find(peer);
         if (found == server->connections.end()) return ENOTCONN;
         const auto connection = found->second;
-        connection->leave(reason != nullptr ? reason : "asked to leave");
+        connection->disconnect_when_sent(reason != nullptr ? reason : "asked to leave");
         return 0;
     });
 }

@@ -1,4 +1,4 @@
-// Addresses of the frame transport over TCP, as people write them: HOST:PORT, [HOST]:PORT, HOST, :PORT.
+// Parses and resolves TCP addresses of the frame transport: HOST:PORT, [HOST]:PORT, HOST, :PORT.
 #pragma once
 
 #include <algorithm>
@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// Included here alone. It settles differently on an allocator if no header of the standard library stands before it,
-// and two ways in one library would free by one allocator what came from another.
+// The only include of asio. Its choice of allocator depends on whether a standard header was included before it, and
+// two choices in one library would allocate with one allocator and free with the other.
 #include <asio.hpp>
 
 #include "platform/contract/contract.hpp"
@@ -21,7 +21,7 @@ struct TcpAddress {
     std::string port = std::to_string(MIRK_PLATFORM_TCP_PORT);
 };
 
-// False for text that is no address.
+// False if the text is not an address.
 inline bool parse_tcp_address(std::string_view text, TcpAddress *address) {
     const bool bracketed = text.starts_with('[');
     const std::size_t host_end = bracketed ? text.find(']') : text.find(':');
@@ -39,22 +39,22 @@ inline bool parse_tcp_address(std::string_view text, TcpAddress *address) {
     return true;
 }
 
-// The places that an address stands for; a host that is not known is EADDRNOTAVAIL.
+// All endpoints of an address. EADDRNOTAVAIL if the host cannot be resolved.
 inline mirk_platform_error resolve_tcp_address(asio::io_context &context, const char *text,
-                                               std::vector<StreamProtocol::endpoint> *places) {
+                                               std::vector<StreamProtocol::endpoint> *endpoints) {
     TcpAddress address;
     if (!parse_tcp_address(text, &address)) return EINVAL;
     asio::error_code error;
     asio::ip::tcp::resolver resolver(context);
     for (const auto &found :
          resolver.resolve(address.host, address.port, asio::ip::tcp::resolver::numeric_service, error)) {
-        places->emplace_back(found.endpoint());
+        endpoints->emplace_back(found.endpoint());
     }
-    return places->empty() ? EADDRNOTAVAIL : 0;
+    return endpoints->empty() ? EADDRNOTAVAIL : 0;
 }
 
-// A frame is written in one piece and waits for nothing.
-inline void send_at_once(StreamProtocol::socket &socket) {
+// Frames are written in one piece, so waiting for more data would only delay them.
+inline void set_no_delay(StreamProtocol::socket &socket) {
     asio::error_code ignored;
     socket.set_option(asio::ip::tcp::no_delay(true), ignored);
 }

@@ -159,7 +159,7 @@ TEST(Document, RefusesWhatStandsBehindANul) {
         mirk_platform_report report;
         EXPECT_EQ(mirk_platform_document_load_memory(text.data(), text.size(), &report), nullptr);
         EXPECT_EQ(report.number, static_cast<uint32_t>(EINVAL));
-        EXPECT_STREQ(report.sentence, "there is more behind the end of the document");
+        EXPECT_STREQ(report.sentence, "there is more data after the end of the document");
         EXPECT_EQ(report.line, 1 + std::count(text.data(), text.data() + text.find('\0'), '\n'));
     }
 }
