@@ -47,7 +47,7 @@ mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *chose
         handle->private_types = options.private_types;
         handle->request_ceiling = options.request_ceiling;
         handle->total_ceiling = options.total_ceiling;
-        handle->lenient = options.epoch_policy == MIRK_PLATFORM_LENIENT_43;
+        handle->lenient = options.epoch_policy == MIRK_PLATFORM_LENIENT_EIDRM;
         handle->bundle_handler = options.bundle_handler;
         handle->default_id = options.default_id;
         handle->message_stamp = options.message_stamp;
@@ -96,7 +96,7 @@ void mirk_platform_handle_set_bundle_handler(mirk_handle *h, mirk_bundle_handler
 }
 
 void mirk_platform_handle_set_epoch_policy(mirk_handle *h, mirk_platform_epoch_policy policy) {
-    own(h)->lenient = policy == MIRK_PLATFORM_LENIENT_43;
+    own(h)->lenient = policy == MIRK_PLATFORM_LENIENT_EIDRM;
 }
 
 void mirk_platform_handle_set_suppress_messages(mirk_handle *h, uint32_t enabled) {

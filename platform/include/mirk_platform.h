@@ -58,7 +58,7 @@ typedef enum mirk_platform_epoch_policy {
     MIRK_PLATFORM_STRICT = 0, /**< mirk_store_epoch_err writes last_error and the slot */
     /** 43 leaves the slot clear (and last_error, when that is the slot), so that a frame which the domain wants in an
      * older variant is written to its end; callers of accessors then see no error for a negative variant */
-    MIRK_PLATFORM_LENIENT_43 = 1
+    MIRK_PLATFORM_LENIENT_EIDRM = 1
 } mirk_platform_epoch_policy;
 
 /** How a handle is opened. */

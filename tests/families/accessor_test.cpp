@@ -280,7 +280,7 @@ TEST(Accessors, AWriteBringsTheObjectToTheDomainsVariantFirst) {
 
 TEST(Accessors, UnderTheLenientPolicyTheGateRefusesWithoutAnError) {
     Handle h;
-    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_43);
+    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);

@@ -250,7 +250,7 @@ TEST(AddressWire, DowngradeReports43) {
     uint32_t err = 0;
     ip_address_marshal(h, 7, buffer, &source.address, 40, &err);
     EXPECT_EQ(err, 43u);
-    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_43);
+    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
     err = 0;
     EXPECT_EQ(ip_address_marshal(h, 7, buffer, &source.address, 40, &err), 6u);
     EXPECT_EQ(err, 0u);

@@ -120,7 +120,7 @@ TEST(Errors, StrictPolicyWritesHandleAndSlot) {
 
 TEST(Errors, LenientPolicySparesTheSlotFor43Only) {
     Options options;
-    options.epoch_policy = MIRK_PLATFORM_LENIENT_43;
+    options.epoch_policy = MIRK_PLATFORM_LENIENT_EIDRM;
     Handle h(options);
     uint32_t err = 0;
     mirk_store_epoch_err(h, 43, &err);
@@ -133,7 +133,7 @@ TEST(Errors, LenientPolicySparesTheSlotFor43Only) {
 
 TEST(Errors, LenientPolicySparesTheHandleWhenItIsTheSlot) {
     Handle h;
-    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_43);
+    mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
     mirk_store_epoch_err(h, 43, &h->last_error);
     EXPECT_EQ(h->last_error, 0u);
     mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_STRICT);

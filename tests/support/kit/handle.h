@@ -38,7 +38,7 @@ public:
                      : options.tracking == Tracking::off ? MIRK_PLATFORM_TRACKING_OFF
                                                          : MIRK_PLATFORM_TRACKING_ON;
         o.private_types = options.private_types;
-        o.epoch_policy = options.lenient ? MIRK_PLATFORM_LENIENT_43 : MIRK_PLATFORM_STRICT;
+        o.epoch_policy = options.lenient ? MIRK_PLATFORM_LENIENT_EIDRM : MIRK_PLATFORM_STRICT;
         if (options.request_ceiling != 0) o.request_ceiling = options.request_ceiling;
         if (options.total_ceiling != 0) o.total_ceiling = options.total_ceiling;
         handle_ = mirk_platform_handle_open(&o);
