@@ -53,7 +53,7 @@ constexpr Finding lint(const Record &record) {
                 return found(m, "a nested record or an array, and nothing else, names a record");
             }
             if ((m.kind == Kind::enumeration) != (m.enumeration != nullptr)) {
-                return found(m, "a choice, and nothing else, names an enumeration");
+                return found(m, "an enumerated member, and no other, names an enumeration");
             }
         }
         if (m.role == Role::count && !follows(Kind::array)) {

@@ -77,7 +77,7 @@ consteval Member u32(std::string_view name, std::string_view meaning) { return {
 consteval Member u64(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u64}; }
 consteval Member boolean(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::boolean}; }
 consteval Member address(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::address}; }
-consteval Member choice(std::string_view name, const Enumeration &of, std::string_view meaning) {
+consteval Member enumerated(std::string_view name, const Enumeration &of, std::string_view meaning) {
     return {name, meaning, Kind::enumeration, Role::value, nullptr, &of};
 }
 consteval Member one(std::string_view name, const Record &of, std::string_view meaning) {

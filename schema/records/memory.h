@@ -40,7 +40,7 @@ inline constexpr Record lumo_tarn_exmem_info_wrapper{"lumo_tarn_exmem_info_wrapp
                                                      lumo_tarn_exmem_info_wrapper_members};
 
 inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
-    choice("mem_type", lumo_tarn_mem_desc_e, "what the block is used for"),
+    enumerated("mem_type", lumo_tarn_mem_desc_e, "what the block is used for"),
     u32("num_hash_elements", "number of hash elements in the block"),
     one("exmem", lumo_tarn_exmem_info, "block itself"),
 };
@@ -49,7 +49,7 @@ inline constexpr Record lumo_tarn_static_exmem_info{
     "block that a processor holds for the whole of its life, by kind of memory", lumo_tarn_static_exmem_info_members};
 
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
-    choice("mem_type", lumo_tarn_mem_desc_e, "what the blocks are used for"),
+    enumerated("mem_type", lumo_tarn_mem_desc_e, "what the blocks are used for"),
     u64("list_header_ptr", "the list header of the dynamic blocks"),
     count32("num_exmems", "elements in exmem"),
     many("exmem", lumo_tarn_exmem_info_wrapper, "dynamic blocks"),

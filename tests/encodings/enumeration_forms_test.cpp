@@ -24,7 +24,7 @@ TEST(EnumerationWire, TakesFiveBytesWithAnyVariantAndValue) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : some_values(e)) {
             for (const std::int8_t variant : {std::int8_t{0}, std::int8_t{-1}, std::int8_t{-128}}) {
-                Choice one(h, e, value);
+                EnumerationObject one(h, e, value);
                 one.header()->variant = variant;
                 std::uint8_t frame[6] = {1, 2, 3, 4, 5, 6};
                 std::uint32_t err = 0;
@@ -37,7 +37,7 @@ TEST(EnumerationWire, TakesFiveBytesWithAnyVariantAndValue) {
                 EXPECT_EQ(std::memcmp(frame + 1, number, 4), 0);
                 EXPECT_EQ(frame[5], 6);
 
-                const Choice read(h, e, 1);
+                const EnumerationObject read(h, e, 1);
                 ASSERT_EQ(e.unmarshal(h, id, frame, read.get(), 5, 0, &err), 5u);
                 EXPECT_EQ(err, 0u);
                 EXPECT_EQ(read.value(), value);
@@ -54,7 +54,7 @@ TEST(EnumerationWire, AVariantAbove0IsWrittenAndReadAs0) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         set_domain(h, e, 3);
-        const Choice one(h, e, 1);
+        const EnumerationObject one(h, e, 1);
         one.header()->variant = 2;
         std::uint8_t frame[5];
         std::uint32_t err = 0;
@@ -63,7 +63,7 @@ TEST(EnumerationWire, AVariantAbove0IsWrittenAndReadAs0) {
         EXPECT_EQ(frame[0], 0);
         one.header()->variant = 0;
         frame[0] = 100;
-        const Choice read(h, e);
+        const EnumerationObject read(h, e);
         EXPECT_EQ(e.unmarshal(h, id, frame, read.get(), 5, 0, &err), 5u);
         EXPECT_EQ(read.header()->variant, 0);
         mirk_platform_domain_clear(h);
@@ -74,7 +74,7 @@ TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
     for (const bool lenient : {false, true}) {
         const Handle h(kit::Options{.lenient = lenient});
         for_each_enumeration([&](const EnumerationOperations &e) {
-            const Choice one(h, e, 1);
+            const EnumerationObject one(h, e, 1);
             set_domain(h, e, -2);
             std::uint8_t frame[5] = {};
             std::uint32_t err = 0;
@@ -90,7 +90,7 @@ TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
 TEST(EnumerationWire, TooLittleRoomIsAnError) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e, 2);
+        const EnumerationObject one(h, e, 2);
         for (const std::int32_t room : {0, -1, -2147483647}) {
             std::uint8_t frame[5] = {};
             std::uint32_t err = 0;
@@ -123,13 +123,13 @@ TEST(EnumerationWire, TooLittleRoomIsAnError) {
     });
 }
 
-Written print(mirk_handle *h, const EnumerationOperations &e, const Choice &one, std::uint32_t indent,
+Written print(mirk_handle *h, const EnumerationOperations &e, const EnumerationObject &one, std::uint32_t indent,
               const char *name) {
     return write(300, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
         return e.print(h, id, buffer, indent, name, one.get(), room, err);
     });
 }
-Written to_xml(mirk_handle *h, const EnumerationOperations &e, const Choice &one, const char *name,
+Written to_xml(mirk_handle *h, const EnumerationOperations &e, const EnumerationObject &one, const char *name,
                std::uint8_t state) {
     return write(300, [&](char *buffer, std::int32_t room, std::uint32_t *err) {
         return e.to_xml(h, id, name, buffer, one.get(), room, state, err);
@@ -147,7 +147,7 @@ std::string element_of(const EnumerationOperations &e, std::uint32_t value) {
 
 TEST(EnumerationText, NamesTheEnumerator) {
     const Handle h;
-    Choice state(h, ha_state(), 3);
+    EnumerationObject state(h, ha_state(), 3);
     EXPECT_EQ(print(h, ha_state(), state, 2, "ha_state").text(),
               "  ha_state@lumo_tarn_ha_state_e:LUMO_TARN_HA_ACTIVE_SOLO_STATE\n");
     // No line end: what is printed next stands on the same line.
@@ -156,7 +156,7 @@ TEST(EnumerationText, NamesTheEnumerator) {
               "ha_state@lumo_tarn_ha_state_e:Enum value out of range");
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : some_values(e)) {
-            const Choice one(h, e, value);
+            const EnumerationObject one(h, e, value);
             one.header()->variant = -1;
             const Written written = print(h, e, one, 5, "x");
             EXPECT_EQ(written.text(), "     x@" + name_of(e) + ":" + shown(e, value));
@@ -172,13 +172,13 @@ TEST(EnumerationText, NamesTheEnumerator) {
 
 TEST(EnumerationXml, HoldsTheEnumeratorsElement) {
     const Handle h(Tracking::on);
-    Choice state(h, ha_state(), 2);
+    EnumerationObject state(h, ha_state(), 2);
     EXPECT_EQ(to_xml(h, ha_state(), state, "ha_state", 7).text(), "<ha_state><LUMO_TARN_HA_INIT_STATE/></ha_state>");
     state.put(9);
     EXPECT_EQ(to_xml(h, ha_state(), state, "x", 0).text(), "<x><lumo_tarn_ha_state_e value out of range/></x>");
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : some_values(e)) {
-            const Choice one(h, e, value);
+            const EnumerationObject one(h, e, value);
             const Written written = to_xml(h, e, one, "x", 255);
             EXPECT_EQ(written.text(), "<x>" + element_of(e, value) + "</x>");
             EXPECT_EQ(written.err, 0u);
@@ -194,7 +194,7 @@ TEST(EnumerationText, ABufferThatIsTooSmallIsToldAndNeverPassed) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : {0u, bound(e)}) {
-            const Choice one(h, e, value);
+            const EnumerationObject one(h, e, value);
             const std::size_t text = print(h, e, one, 4, "x").result;
             const std::size_t xml = to_xml(h, e, one, "x", 0).result;
             for (std::size_t room = 0; room <= text + 1; ++room) {
@@ -233,7 +233,7 @@ struct Read {
     std::string message;
 };
 
-Read read(mirk_handle *h, const EnumerationOperations &e, const Choice &one, const std::string &text,
+Read read(mirk_handle *h, const EnumerationOperations &e, const EnumerationObject &one, const std::string &text,
           const std::string &path, std::uint32_t message_size = 300) {
     const Document document(text);
     Read result;
@@ -247,14 +247,14 @@ TEST(EnumerationXml, ReadsEachEnumeratorBack) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (std::uint32_t value = 0; value < bound(e); ++value) {
-            const Choice one(h, e, (value + 1) % bound(e));
+            const EnumerationObject one(h, e, (value + 1) % bound(e));
             const Read result = read(h, e, one, "<x>" + element_of(e, value) + "</x>", "//x");
             EXPECT_EQ(result.err, 0u);
             EXPECT_EQ(one.value(), value);
             EXPECT_EQ(mirk_get_instance_modified(one.get(), 0, 1), 0u);
             // What is in the element is not looked at, as long as it is short.
             const std::string name(e.enumeration->enumerators[value]);
-            const Choice other(h, e, (value + 1) % bound(e));
+            const EnumerationObject other(h, e, (value + 1) % bound(e));
             EXPECT_EQ(read(h, e, other, "<x><" + name + ">" + std::string(127, 'q') + "</" + name + "></x>", "//x").err,
                       0u);
             EXPECT_EQ(other.value(), value);
@@ -265,7 +265,7 @@ TEST(EnumerationXml, ReadsEachEnumeratorBack) {
 TEST(EnumerationXml, OfTwoEnumeratorsTheLowerCounts) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e);
+        const EnumerationObject one(h, e);
         EXPECT_EQ(read(h, e, one, "<x>" + element_of(e, 2) + element_of(e, 1) + "</x>", "//x").err, 0u);
         EXPECT_EQ(one.value(), 1u);
     });
@@ -275,7 +275,7 @@ TEST(EnumerationXml, AnUnknownOrMissingElementLeavesTheValue) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const char *text : {"<x><NO_SUCH_STATE/></x>", "<x>1</x>", "<x/>", "<y/>"}) {
-            const Choice one(h, e, 2);
+            const EnumerationObject one(h, e, 2);
             const Read result = read(h, e, one, text, "//x");
             EXPECT_EQ(result.err, 0u);
             EXPECT_EQ(result.message, "");
@@ -291,7 +291,7 @@ TEST(EnumerationXml, AnyOtherErrorIsToldInTheMessageBuffer) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         const std::string name(e.enumeration->enumerators[1]);
         const std::string text = "<x><y><" + name + ">" + std::string(128, 'q') + "</" + name + "></y></x>";
-        const Choice one(h, e, 2);
+        const EnumerationObject one(h, e, 2);
         Read result = read(h, e, one, text, "//x/y");
         EXPECT_EQ(result.err, 28u);
         EXPECT_EQ(h->last_error, 28u);
@@ -334,7 +334,7 @@ TEST(EnumerationXml, APathOfMoreThan255CharactersFindsNothing) {
     const Handle h;
     const std::string root(240, 'a');
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e, 2);
+        const EnumerationObject one(h, e, 2);
         EXPECT_EQ(read(h, e, one, "<" + root + ">" + element_of(e, 1) + "</" + root + ">", "//" + root).err, 0u);
         EXPECT_EQ(one.value(), 2u);
     });

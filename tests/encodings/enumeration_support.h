@@ -10,16 +10,17 @@ namespace forms {
 using tarn::reflect::EnumerationOperations;
 
 // A free-standing instance. The value begins inside the header's padding, so it is reached through bytes.
-class Choice {
+class EnumerationObject {
 public:
-    Choice(mirk_handle *h, const EnumerationOperations &operations)
+    EnumerationObject(mirk_handle *h, const EnumerationOperations &operations)
         : h_(h), operations_(operations), p_(operations.create(h, id)) {}
-    Choice(mirk_handle *h, const EnumerationOperations &operations, std::uint32_t value) : Choice(h, operations) {
+    EnumerationObject(mirk_handle *h, const EnumerationOperations &operations, std::uint32_t value)
+        : EnumerationObject(h, operations) {
         put(value);
     }
-    Choice(const Choice &) = delete;
-    Choice &operator=(const Choice &) = delete;
-    ~Choice() { operations_.destroy(h_, id, p_); }
+    EnumerationObject(const EnumerationObject &) = delete;
+    EnumerationObject &operator=(const EnumerationObject &) = delete;
+    ~EnumerationObject() { operations_.destroy(h_, id, p_); }
 
     void *get() const { return p_; }
     mirk_object *header() const { return static_cast<mirk_object *>(p_); }

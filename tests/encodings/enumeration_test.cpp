@@ -43,7 +43,7 @@ TEST(Enumeration, IsCountedWhenItComesAndGoes) {
     for_each_enumeration([&](const EnumerationOperations &e) {
         const mirk_variant_entry before = e.type->variant_info->entries[0];
         {
-            const Choice one(h, e);
+            const EnumerationObject one(h, e);
             EXPECT_EQ(e.type->variant_info->entries[0].num_created, before.num_created + 1);
             EXPECT_EQ(e.type->variant_info->entries[0].num_live, before.num_live + 1);
         }
@@ -53,14 +53,14 @@ TEST(Enumeration, IsCountedWhenItComesAndGoes) {
         set_domain(h, e, -128);
         const std::uint64_t early = e.type->variant_info->entries[-128].num_created;
         {
-            const Choice one(h, e);
+            const EnumerationObject one(h, e);
             EXPECT_EQ(one.header()->variant, -128);
             EXPECT_EQ(one.header()->home_variant, -128);
         }
         EXPECT_EQ(e.type->variant_info->entries[-128].num_created, early + 1);
         // A later variant than is known here counts as the latest that is.
         set_domain(h, e, 5);
-        EXPECT_EQ(Choice(h, e).header()->variant, 0);
+        EXPECT_EQ(EnumerationObject(h, e).header()->variant, 0);
         mirk_platform_domain_clear(h);
     });
 }
@@ -81,7 +81,7 @@ TEST(Enumeration, WithoutMemoryThereIsNoneOrTheSentinel) {
         EXPECT_EQ(e.destroy_internal(h, id, nullptr, 1), sentinel);
         e.destroy(h, id, nullptr);
         e.destroy_cr(h, sentinel);
-        const Choice one(h, e);
+        const EnumerationObject one(h, e);
         const std::uint64_t destroyed = e.type->variant_info->entries[0].num_destroyed;
         EXPECT_EQ(e.destroy_internal(h, id, one.get(), 0), sentinel);
         EXPECT_EQ(e.type->variant_info->entries[0].num_destroyed, destroyed);
@@ -91,7 +91,7 @@ TEST(Enumeration, WithoutMemoryThereIsNoneOrTheSentinel) {
 TEST(Enumeration, AFailedLookUpIsTracedAndTheInstanceReturned) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice first(h, e);
+        const EnumerationObject first(h, e);
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
         const Trace trace;
         void *object = e.create(h, id);
@@ -112,13 +112,13 @@ TEST(EnumerationDeathTest, ATypeWithoutVariantsIsFatal) {
             "\\(FATAL\\): varinfo is NULL");
         EXPECT_DEATH(
             {
-                Choice one(h, e);
+                EnumerationObject one(h, e);
                 one.header()->tinfo = nullptr;
             },
             "\\(FATAL\\): tinfo is null or corrupted");
         EXPECT_DEATH(
             {
-                Choice one(h, e);
+                EnumerationObject one(h, e);
                 e.type->magic ^= 1;
             },
             "\\(FATAL\\): tinfo is null or corrupted");
@@ -172,7 +172,7 @@ TEST(Enumeration, SizesAreFixed) {
     const Handle h(Tracking::on);
     for_each_enumeration([&](const EnumerationOperations &e) {
         EXPECT_EQ(e.sizeof_(), 16u);
-        const Choice one(h, e);
+        const EnumerationObject one(h, e);
         EXPECT_EQ(e.len(h, id, one.get()), 5u);
         EXPECT_EQ(e.len(h, id, nullptr), 5u);
         EXPECT_EQ(e.len_cr(h), 5u);
@@ -193,7 +193,7 @@ TEST(Enumeration, SizesAreFixed) {
 TEST(Enumeration, HoldsNoReferences) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e);
+        const EnumerationObject one(h, e);
         std::uint32_t err = 0;
         EXPECT_EQ(e.get_oid_count(h, id, one.get(), &err), 0u);
         e.get_object_references(h, id, one.get(), nullptr, 0, &err);
@@ -224,7 +224,7 @@ TEST(Enumeration, HoldsNoReferences) {
 TEST(Enumeration, TheValueIsReadWithoutAGate) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e, 2);
+        const EnumerationObject one(h, e, 2);
         one.header()->variant = -1;
         std::uint32_t err = 0;
         EXPECT_EQ(e.get_value(h, id, one.get(), &err), 2u);
@@ -255,7 +255,7 @@ TEST(Enumeration, NothingIsReadIntoNothing) {
 TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        Choice one(h, e);
+        EnumerationObject one(h, e);
         for (std::uint32_t value = 0; value < bound(e); ++value) {
             std::uint32_t err = 0;
             e.set_value(h, id, one.get(), value, &err);
@@ -269,7 +269,7 @@ TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
             e.set_value(h, id, one.get(), value, &err);
             EXPECT_EQ(err, 43u);
             EXPECT_EQ(h->last_error, 43u);
-            const Choice source(h, e, value);
+            const EnumerationObject source(h, e, value);
             err = 0;
             e.set(h, id, one.get(), source.get(), &err);
             EXPECT_EQ(err, 43u);
@@ -296,8 +296,8 @@ TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
 TEST(Enumeration, AWholeAssignmentTakesTheHeaderToo) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e);
-        const Choice source(h, e, 2);
+        const EnumerationObject one(h, e);
+        const EnumerationObject source(h, e, 2);
         source.header()->home_variant = -4;
         source.header()->obj_flag = 2;
         std::uint32_t err = 0;
@@ -339,8 +339,8 @@ TEST(Enumeration, ValidityIsAskedOfASignedNumber) {
 TEST(Enumeration, OrderIsTheDistance) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        Choice a(h, e, 2);
-        Choice b(h, e, 5);
+        EnumerationObject a(h, e, 2);
+        EnumerationObject b(h, e, 5);
         EXPECT_EQ(e.compare(a.get(), b.get()), -3);
         EXPECT_EQ(e.compare(b.get(), a.get()), 3);
         EXPECT_EQ(e.compare(a.get(), a.get()), 0);
@@ -364,7 +364,7 @@ TEST(Enumeration, TheHashIsThatOfTheFourBytesLeastSignificantFirst) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : {0u, 2u, 0x01020304u}) {
-            EXPECT_EQ(e.hash(Choice(h, e, value).get(), 17),
+            EXPECT_EQ(e.hash(EnumerationObject(h, e, value).get(), 17),
                       SuperFastHash(least_significant_first(value).data(), 4, 17));
         }
         EXPECT_EQ(e.hash(nullptr, 17), 17u);
@@ -374,7 +374,7 @@ TEST(Enumeration, TheHashIsThatOfTheFourBytesLeastSignificantFirst) {
 TEST(Enumeration, AMarkIsFoundOnce) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
-        const Choice one(h, e);
+        const EnumerationObject one(h, e);
         EXPECT_EQ(e.backpropagate(h, id, one.get(), nullptr), 0u);
         std::uint32_t err = 0;
         e.set_value(h, id, one.get(), 1, &err);

@@ -48,7 +48,7 @@ TEST(Lint, FindsNothingInTheTablesOfTheCatalogue) {
 TEST(Lint, FindsNothingInARecordWithEveryKindOfMember) {
     const schema::Finding finding =
         lint_of({schema::u8("a", "x"), schema::u16("b", "x"), schema::u32("c", "x"), schema::u64("d", "x"),
-                 schema::boolean("e", "x"), schema::address("f", "x"), schema::choice("g", some_enumeration, "x"),
+                 schema::boolean("e", "x"), schema::address("f", "x"), schema::enumerated("g", some_enumeration, "x"),
                  schema::one("h", some_record, "x"), schema::count8("n", "x"), schema::many("i", some_record, "x"),
                  schema::count32("m", "x"), schema::many("j", some_record, "x"), schema::length("k_len", "x"),
                  schema::string("k", "x")});
@@ -100,10 +100,10 @@ TEST(Lint, WhatAMemberRefersTo) {
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::record}}), "a", record_rule);
     EXPECT_FINDING(lint_of({schema::count8("n", "x"), Member{"a", "x", Kind::array}}), "a", record_rule);
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::u32, Role::value, &some_record}}), "a", record_rule);
-    const std::string_view choice_rule = "a choice, and nothing else, names an enumeration";
-    EXPECT_FINDING(lint_of({Member{"a", "x", Kind::enumeration}}), "a", choice_rule);
+    const std::string_view enumerated_rule = "an enumerated member, and no other, names an enumeration";
+    EXPECT_FINDING(lint_of({Member{"a", "x", Kind::enumeration}}), "a", enumerated_rule);
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::boolean, Role::value, nullptr, &some_enumeration}}), "a",
-                   choice_rule);
+                   enumerated_rule);
 }
 
 TEST(Lint, CountsAndArrays) {

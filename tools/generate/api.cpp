@@ -122,7 +122,7 @@ Applies class_of(const Member &m) {
         case Category::address:
             return Applies::address;
         case Category::enumeration:
-            return Applies::choice;
+            return Applies::enumerated;
         case Category::record:
             return Applies::nested;
         case Category::string:

@@ -166,7 +166,7 @@ private:
                 reader(meaning, "bool", name, "call_(" + get + "_value) != 0");
                 setter("bool value", "write_", set + "_value, static_cast<std::uint8_t>(value)");
                 break;
-            case Applies::choice: {
+            case Applies::enumerated: {
                 const std::string type = space + type_name(*m.enumeration);
                 reader(meaning, type, name, "template enumerated_<" + type + ">(" + get + "_value)");
                 setter(type + " value", "write_", set + "_value, static_cast<std::uint32_t>(value)");

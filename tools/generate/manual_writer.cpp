@@ -128,7 +128,7 @@ A buffer for frames has one guard byte after the size that is passed.
     using enum Applies;
     out += operations("Records", "Each RECORD has these.", record);
     out += operations("Members of records", "The kind of a MEMBER decides which of them it has.",
-                      integer | boolean | choice | address | nested | length | count | string | array);
+                      integer | boolean | enumerated | address | nested | length | count | string | array);
     out += operations("Enumerations", "Each ENUM has these.", enumeration);
     out += operations("Messages", "Each MESSAGE has these.", message);
     out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.", control | bundle);

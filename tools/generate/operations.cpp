@@ -8,7 +8,7 @@ namespace {
 using enum Applies;
 using enum Sticky;
 
-constexpr Applies value = integer | boolean | choice;
+constexpr Applies value = integer | boolean | enumerated;
 constexpr Applies single = value | address | nested;
 
 constexpr Row table[] = {
@@ -166,7 +166,7 @@ constexpr Row table[] = {
      "Accessor<{F}>::set",
      "Stores the value of the source in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking "
      "handle, sets the state byte to 2."},
-    {choice | address, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
+    {enumerated | address, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
      "Stores the value of the source in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking "
      "handle, sets the state byte to 2."},
     {nested, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
@@ -176,7 +176,7 @@ constexpr Row table[] = {
      "Accessor<{F}>::set_value",
      "Stores a value in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking handle, sets the "
      "state byte to 2."},
-    {choice, "accessors", "", "void {r}_{f}_set_value(H, I, {r} *object, {V} value, E)", "Accessor<{F}>::set_value",
+    {enumerated, "accessors", "", "void {r}_{f}_set_value(H, I, {r} *object, {V} value, E)", "Accessor<{F}>::set_value",
      "Stores an enumerator of {n} in {f}: {meaning}. A number that is not an enumerator is refused with EIDRM, but "
      "the member is marked as written."},
 

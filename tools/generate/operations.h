@@ -11,7 +11,7 @@ enum class Applies : unsigned {
     record = 1U << 0,
     integer = 1U << 1,  // from here on, members by their class
     boolean = 1U << 2,
-    choice = 1U << 3,  // a member that is an enumeration
+    enumerated = 1U << 3,  // a member that is an enumeration
     address = 1U << 4,
     nested = 1U << 5,
     string = 1U << 6,

@@ -164,7 +164,7 @@ struct Sweep {
 };
 constexpr Sweep sweeps[] = {
     {Applies::record, "record", "rec(s)."},
-    {Applies::integer | Applies::boolean | Applies::choice | Applies::address | Applies::nested | Applies::length |
+    {Applies::integer | Applies::boolean | Applies::enumerated | Applies::address | Applies::nested | Applies::length |
          Applies::count,
      "single", "mem(s)."},
     {Applies::string, "string", "mem(s)."},
@@ -264,13 +264,13 @@ Files write_operations() {
             table_of("MessageOperations", "all_messages", message_rows) +
             table_of("BundleOperations", "all_bundles", bundle_rows);
     using enum Applies;
-    const std::string header = fill_in(
-        reflection, {{"    // $member\n",
-                      declared_fields(integer | boolean | choice | address | nested | string | length | count | array)},
-                     {"    // $record\n", declared_fields(Applies::record)},
-                     {"    // $enumeration\n", declared_fields(enumeration)},
-                     {"    // $message\n", declared_fields(message | control)},
-                     {"    // $bundle\n", declared_fields(bundle)}});
+    const std::string header =
+        fill_in(reflection, {{"    // $member\n", declared_fields(integer | boolean | enumerated | address | nested |
+                                                                  string | length | count | array)},
+                             {"    // $record\n", declared_fields(Applies::record)},
+                             {"    // $enumeration\n", declared_fields(enumeration)},
+                             {"    // $message\n", declared_fields(message | control)},
+                             {"    // $bundle\n", declared_fields(bundle)}});
     return {{"tools/reflect/operations.h", header},
             {"drivers.inc", drivers()},
             {"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};

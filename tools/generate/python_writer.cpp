@@ -110,7 +110,7 @@ Typed typed(const Member &m) {
     switch (class_of(m)) {
         case Applies::boolean:
             return {"bool", "bool"};
-        case Applies::choice: {
+        case Applies::enumerated: {
             const std::string name = class_name(type_name(*m.enumeration));
             return {name + " | int", name + " | int | str"};
         }
