@@ -12,7 +12,7 @@ int main(void) {
     if (h == NULL) return 3;
 
     uint32_t err = 0;
-    uint8_t frames[4096 + 1]; /* one spare byte behind the size */
+    uint8_t frames[4096 + 1]; /* one guard byte after the size */
     lumo_tarn_debug_setting_msg *msg = lumo_tarn_debug_setting_msg_message_create(h, 1);
     lumo_tarn_debug_setting *levels = lumo_tarn_debug_setting_msg_message_lumo_tarn_debug_setting_get(h, 1, msg, &err);
     lumo_tarn_debug_setting_warn_enabled_set_value(h, 1, levels, 1, &err);
