@@ -7,13 +7,13 @@
 #include <algorithm>
 
 #include "bench/workloads/workloads.h"
-#include "observing.h"
+#include "recording.h"
 #include "tools/reflect/operations.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Tracking;
+using recording::Detail;
+using recording::Tracking;
 using tarn::bench::LowerBound;
 using tarn::reflect::RecordOperations;
 
@@ -53,12 +53,12 @@ const Workload workloads[] = {
 class LowerBoundTest : public testing::TestWithParam<std::tuple<Workload, bool>> {
 protected:
     LowerBoundTest() : handle({.tracking = tracked ? Tracking::on : Tracking::off}) {
-        observing::quiet(true);
+        recording::pause(true);
         object = workload.make(handle);
         buffer.resize(operations.len(handle, id, object) + 1);
         size =
             operations.marshal(handle, id, buffer.data(), object, static_cast<std::int32_t>(buffer.size() - 1), &err);
-        observing::quiet(false);
+        recording::pause(false);
     }
     ~LowerBoundTest() override { operations.destroy(handle, id, object); }
 
@@ -66,18 +66,18 @@ protected:
     // behind a block, formed and never touched, so what lies there by chance has no name to compare.
     template <class Run>
     Lines calls(Run run) {
-        observing::clear_names();
-        observing::name_region("buffer", buffer.data(), buffer.size());
-        observing::name_region("object", object, handle.block_size(object));
-        observing::clear_log();
+        recording::clear_names();
+        recording::name_region("buffer", buffer.data(), buffer.size());
+        recording::name_region("object", object, handle.block_size(object));
+        recording::clear_log();
         run();
         EXPECT_EQ(err, 0U);
         Lines lines;
-        for (observing::Call &call : observing::log()) {
+        for (recording::Call &call : recording::log()) {
             if (call.inner) continue;
             const bool has_area = call.function.ends_with("_initialize") && !call.arguments.empty();
             if (has_area && !tracked) call.arguments.back() = "area";
-            lines.push_back(observing::line(call, Detail::full));
+            lines.push_back(recording::line(call, Detail::full));
         }
         return lines;
     }
@@ -86,7 +86,7 @@ protected:
     const bool tracked = std::get<1>(GetParam());
     const RecordOperations &operations = *tarn::reflect::find_record(workload.record);
     const LowerBound &bound = tarn::bench::contract_lower_bound(workload.record);
-    observing::Handle handle;
+    recording::Handle handle;
     Bytes buffer;
     std::uint32_t size = 0;
     void *object = nullptr;

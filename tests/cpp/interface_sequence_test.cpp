@@ -2,7 +2,7 @@
 // once through the interface, on the runtime that writes every call down.
 #include <lumo_ui_tarn.hpp>
 
-#include "tests/families/observed.h"
+#include "tests/families/recorded.h"
 
 using namespace families;
 
@@ -10,7 +10,7 @@ namespace {
 
 using lumo_ui_tarn::context;
 using lumo_ui_tarn::kind;
-using observing::Detail;
+using recording::Detail;
 
 // A reference to something that can be called. Thousands of different ones are made here, and it takes the compiler a
 // fraction of the time that a std::function of each would.
@@ -30,12 +30,12 @@ protected:
     void SetUp() override { mirk_lumo_ui_tarn_type_trace_init(); }
 
     Lines recorded(Operation operation) {
-        observing::clear_names();
-        observing::clear_log();
-        observing::name_region("object", object_, size_);
-        observing::name_region("slot", slot_, sizeof *slot_);
+        recording::clear_names();
+        recording::clear_log();
+        recording::name_region("object", object_, size_);
+        recording::name_region("slot", slot_, sizeof *slot_);
         operation();
-        Lines lines = observing::lines(Detail::full);
+        Lines lines = recording::lines(Detail::full);
         if (h()->sttr_desc == nullptr || h()->sttr_desc->sttr_mode != 0xEEEE) forget_state_bases(lines);
         return lines;
     }

@@ -3,20 +3,20 @@
 
 #include <cerrno>
 
-#include "observing.h"
+#include "recording.h"
 #include "tools/reflect/operations.h"
 
 namespace {
 
 TEST(CopySequence, StickyCopiesUnderASetErrorMakeNoCall) {
-    observing::Handle h;
+    recording::Handle h;
     for (const tarn::reflect::RecordOperations &r : tarn::reflect::records()) {
         void *source = r.create(h, 1), *target = r.create(h, 1);
         h->last_error = EPROTO;
-        observing::clear_log();
+        recording::clear_log();
         EXPECT_EQ(r.clone_cr(h, source), nullptr);
         r.copy_cr(h, source, target);
-        EXPECT_EQ(observing::lines(), std::vector<std::string>{}) << r.record->name;
+        EXPECT_EQ(recording::lines(), std::vector<std::string>{}) << r.record->name;
         EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EPROTO));
         mirk_clear_last_error(h);
         r.destroy(h, 1, source);

@@ -4,13 +4,13 @@
 #include <cstring>
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Element;
-using observing::Handle;
+using recording::Detail;
+using recording::Element;
+using recording::Handle;
 using Lines = std::vector<std::string>;
 
 constexpr std::uint32_t id = 7;
@@ -24,11 +24,11 @@ protected:
     }
 
     void start() {
-        observing::clear_names();
-        observing::name_region("object", object, 16);
-        observing::name_region("buffer", buffer, sizeof buffer);
-        observing::name_region("slot", &err, sizeof err);
-        observing::clear_log();
+        recording::clear_names();
+        recording::name_region("object", object, 16);
+        recording::name_region("buffer", buffer, sizeof buffer);
+        recording::name_region("slot", &err, sizeof err);
+        recording::clear_log();
     }
 
     Handle h;
@@ -38,16 +38,16 @@ protected:
 };
 
 TEST_F(EnumerationSequence, CreationAllocatesAnnouncesAndCounts) {
-    observing::clear_names();
+    recording::clear_names();
     lumo_tarn_mem_desc_e *other = lumo_tarn_mem_desc_e_create(h, id);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"obj_alloc 16", "mirk_clear_last_error", "mirk_domain_lookup_variant lumo_tarn_mem_desc_e",
                      "write_notify block1+9 1", "write_notify block1+8 1", "write_notify block1 8",
                      "write_notify block1+10 1", "count_notify lumo_tarn_mem_desc_e.num_created 1",
                      "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
-    observing::clear_log();
+    recording::clear_log();
     lumo_tarn_mem_desc_e_destroy(h, id, other);
-    EXPECT_EQ(observing::lines(Detail::full), (Lines{"count_notify lumo_tarn_mem_desc_e.num_destroyed 1 ctx=7",
+    EXPECT_EQ(recording::lines(Detail::full), (Lines{"count_notify lumo_tarn_mem_desc_e.num_destroyed 1 ctx=7",
                                                      "count_notify lumo_tarn_mem_desc_e.num_live -1 ctx=7",
                                                      "write_notify block1 8 ctx=7", "obj_free block1 ctx=7"}));
 }
@@ -55,51 +55,51 @@ TEST_F(EnumerationSequence, CreationAllocatesAnnouncesAndCounts) {
 TEST_F(EnumerationSequence, InitializeWithoutNoticeAnnouncesCountersOnly) {
     lumo_tarn_mem_desc_e_initialize(h, id, object, &_lumo_tarn_mem_desc_e_type_info_internal, 0, 0, 2, nullptr, &err);
     EXPECT_EQ(
-        observing::lines_of({"write_notify", "count_notify"}),
+        recording::lines_of({"write_notify", "count_notify"}),
         (Lines{"count_notify lumo_tarn_mem_desc_e.num_created 1", "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
 }
 
 TEST_F(EnumerationSequence, SettersAdjustAskAnnounceAndMark) {
     lumo_tarn_mem_desc_e_set_value(h, id, object, 2, &err);
-    EXPECT_EQ(observing::lines(Detail::full),
+    EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0 ctx=7 err=slot",
                      "mirk_get_instance_variant object 0 1", "write_notify object+12 4 ctx=7",
                      "mirk_set_instance_modified object 0 1 1"}));
 
     lumo_tarn_mem_desc_e *source = lumo_tarn_mem_desc_e_create(h, id);
-    observing::clear_log();
+    recording::clear_log();
     lumo_tarn_mem_desc_e_set(h, id, object, source, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
                      "mirk_get_instance_variant object 0 1", "write_notify object 16",
                      "mirk_set_instance_modified object 0 1 1"}));
     lumo_tarn_mem_desc_e_destroy(h, id, source);
 
-    observing::clear_log();
+    recording::clear_log();
     lumo_tarn_mem_desc_e_set_value(h, id, object, 3, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
                      "mirk_get_instance_variant object 0 1", "mirk_store_epoch_err 43 slot"}));
 
-    observing::clear_log();
+    recording::clear_log();
     err = 1;
     lumo_tarn_mem_desc_e_set_value(h, id, object, 1, &err);
     lumo_tarn_mem_desc_e_set(h, id, object, source, &err);
-    EXPECT_EQ(observing::lines(), Lines{});
+    EXPECT_EQ(recording::lines(), Lines{});
 }
 
 TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
                      "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "_mirk_instance_variant_marshal buffer 0 100",
                      "u_int32_marshal buffer+1 local 99"}));
     // A domain with an older variant: told, and the older one written if the slot stays clear.
-    h.knobs().slot_gets_43 = false;
+    h.knobs().slot_gets_eidrm = false;
     h.knobs().default_variant = {-3, 0};
-    observing::clear_log();
+    recording::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err), 5u);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
                      "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "mirk_store_epoch_err 43 slot",
                      "_mirk_instance_variant_marshal buffer -3 100", "u_int32_marshal buffer+1 local 99"}));
@@ -108,9 +108,9 @@ TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
 // The value is announced behind its first store.
 TEST_F(EnumerationSequence, UnmarshalAnnouncesTheValueLast) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
-    observing::clear_log();
+    recording::clear_log();
     lumo_tarn_mem_desc_e_unmarshal(h, id, buffer, object, 100, 1, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
                                          "u_int32_unmarshal buffer+1 object+12 99 1", "write_notify object+12 4"}));
 }
 
@@ -118,10 +118,10 @@ TEST_F(EnumerationSequence, UnmarshalBindsAPrivateTypeOnAHandleThatHasSome) {
     Handle own({.private_types = 1});
     lumo_tarn_mem_desc_e *mine = lumo_tarn_mem_desc_e_create(own, id);
     lumo_tarn_mem_desc_e_marshal(own, id, buffer, mine, 100, &err);
-    observing::name_region("mine", mine, 16);
-    observing::clear_log();
+    recording::name_region("mine", mine, 16);
+    recording::clear_log();
     lumo_tarn_mem_desc_e_unmarshal(own, id, buffer, mine, 100, 0, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 100",
                                          "mirk_type_info_ptr_get lumo_tarn_mem_desc_e",
                                          "u_int32_unmarshal buffer+1 mine+12 99 0", "write_notify mine+12 4"}));
     lumo_tarn_mem_desc_e_destroy(own, id, mine);
@@ -129,14 +129,14 @@ TEST_F(EnumerationSequence, UnmarshalBindsAPrivateTypeOnAHandleThatHasSome) {
 
 TEST_F(EnumerationSequence, PrintWritesThreePieces) {
     lumo_tarn_mem_desc_e_print(h, id, buffer, 2, "m", object, 100, &err);
-    EXPECT_EQ(observing::lines(Detail::full),
+    EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "mirk_print_space buffer 2 100 ctx=7 err=slot",
                      "mirk_snprintf buffer+2 98 m@lumo_tarn_mem_desc_e: ctx=7 err=slot",
                      "mirk_snprintf buffer+25 75 LUMO_TARN_MP_MEM\\n ctx=7 err=slot"}));
-    observing::clear_log();
+    recording::clear_log();
     h->default_id = 9;
     lumo_tarn_mem_desc_e_print_cr(h, object, buffer, 100);
-    EXPECT_EQ(observing::lines(Detail::full),
+    EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "mirk_print_space buffer 0 100 ctx=9 err=last_error",
                      "mirk_snprintf buffer 100 lumo_tarn_mem_desc_e@lumo_tarn_mem_desc_e: ctx=9 err=last_error",
                      "mirk_snprintf buffer+42 58 LUMO_TARN_MP_MEM\\n ctx=9 err=last_error"}));
@@ -149,19 +149,19 @@ TEST_F(EnumerationSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
     lumo_tarn_mem_desc_e_from_xml(h, id, "x", buffer, object, &err, nullptr, 0);
     lumo_tarn_mem_desc_e_initialize(h, id, object, &_lumo_tarn_mem_desc_e_type_info_internal, 1, 0, 0, nullptr, &err);
     EXPECT_EQ(err, 5u);
-    EXPECT_EQ(observing::lines(), Lines{});
+    EXPECT_EQ(recording::lines(), Lines{});
 }
 
 TEST_F(EnumerationSequence, XmlPassesNoState) {
     lumo_tarn_mem_desc_e_to_xml(h, id, "m", buffer, object, 100, 5, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "start_tag buffer m 100 0",
                      "xml_enum_print buffer+10 <LUMO_TARN_MP_MEM/> 90 19", "end_tag buffer+29 m 71"}));
     const std::uint32_t beyond = 3;
     std::memcpy(reinterpret_cast<char *>(object) + 12, &beyond, sizeof beyond);
-    observing::clear_log();
+    recording::clear_log();
     lumo_tarn_mem_desc_e_to_xml(h, id, "m", buffer, object, 100, 5, &err);
-    EXPECT_EQ(observing::lines_of({"xml_enum_print"}),
+    EXPECT_EQ(recording::lines_of({"xml_enum_print"}),
               Lines{"xml_enum_print buffer+10 <lumo_tarn_mem_desc_e value out of range/> 90 42"});
 }
 
@@ -170,17 +170,17 @@ TEST_F(EnumerationSequence, ReadingLooksForOneEnumeratorAfterTheOther) {
     document.add("m").add("LUMO_TARN_TT_MEM");
     lumo_tarn_mem_desc_e_from_xml(h, id, "//r/m", &document, object, &err, buffer, sizeof buffer);
     // No announcement and no mark.
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "xml_get_element_value //r/m/LUMO_TARN_MP_MEM local 128 null",
                      "mirk_store_err 2", "xml_get_element_value //r/m/LUMO_TARN_TT_MEM local 128 null"}));
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(lumo_tarn_mem_desc_e_get_value(h, id, object, &err), 1u);
 
-    observing::fail_xml("//r/m/LUMO_TARN_MP_MEM", 5);
-    observing::clear_log();
+    recording::fail_xml("//r/m/LUMO_TARN_MP_MEM", 5);
+    recording::clear_log();
     lumo_tarn_mem_desc_e_from_xml(h, id, "//r/m", &document, object, &err, buffer, sizeof buffer);
-    observing::fail_xml("//r/m/LUMO_TARN_MP_MEM", 0);
-    EXPECT_EQ(observing::lines(),
+    recording::fail_xml("//r/m/LUMO_TARN_MP_MEM", 0);
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "xml_get_element_value //r/m/LUMO_TARN_MP_MEM local 128 null",
                      "mirk_store_err 5"}));
     EXPECT_EQ(err, 5u);
@@ -190,7 +190,7 @@ TEST_F(EnumerationSequence, ReadingLooksForOneEnumeratorAfterTheOther) {
 TEST_F(EnumerationSequence, ValueOperations) {
     lumo_tarn_mem_desc_e_hash(object, 5);
     lumo_tarn_mem_desc_e_is_valid_cr(h, 5);
-    observing::set_modified(object, true);
+    recording::set_modified(object, true);
     lumo_tarn_mem_desc_e_backpropagate(h, id, object, nullptr);
     lumo_tarn_mem_desc_e_backpropagate(h, id, object, nullptr);
     lumo_tarn_mem_desc_e_compare(object, object);
@@ -198,7 +198,7 @@ TEST_F(EnumerationSequence, ValueOperations) {
     lumo_tarn_mem_desc_e_get(h, id, object, &err);
     lumo_tarn_mem_desc_e_adjust_variant(h, id, object, &err);
     lumo_tarn_mem_desc_e_set_instance_embedded(h, id, object);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"SuperFastHash object+12 4 5", "mirk_domain_lookup_variant lumo_tarn_mem_desc_e",
                      "mirk_get_instance_modified object 0 1", "mirk_set_instance_modified object 0 1 0",
                      "mirk_get_instance_modified object 0 1", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
@@ -207,9 +207,9 @@ TEST_F(EnumerationSequence, ValueOperations) {
 
 TEST_F(EnumerationSequence, NullHasNoMarkToAskFor) {
     mirk_lumo_ui_tarn_type_trace_init();  // no enumeration does so by itself
-    observing::clear_log();
+    recording::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_backpropagate(h, id, nullptr, nullptr), 0u);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"skald_wrapper type 6 (info): backpropagate: Null pointer to lumo_tarn_mem_desc_e enum"}));
 }
 

@@ -2,14 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Element;
-using observing::Handle;
-using observing::Tracking;
+using recording::Detail;
+using recording::Element;
+using recording::Handle;
+using recording::Tracking;
 using Lines = std::vector<std::string>;
 
 constexpr std::uint32_t id = 7;
@@ -18,12 +18,12 @@ class RenderingSequence : public testing::Test {
 protected:
     // From here on the calls count; the object's block, its elements and the buffer are known by name.
     void watch(void *object, std::size_t size, void *block = nullptr, std::size_t block_size = 0) {
-        observing::clear_names();
-        observing::name_region("object", object, size);
-        if (block != nullptr) observing::name_region("element", block, block_size);
-        observing::name_region("buffer", buffer, sizeof buffer);
-        observing::name_region("slot", &err, sizeof err);
-        observing::clear_log();
+        recording::clear_names();
+        recording::name_region("object", object, size);
+        if (block != nullptr) recording::name_region("element", block, block_size);
+        recording::name_region("buffer", buffer, sizeof buffer);
+        recording::name_region("slot", &err, sizeof err);
+        recording::clear_log();
     }
 
     lumo_tarn_cl_appl_data *applications(mirk_handle *h, bool named) {
@@ -46,7 +46,7 @@ TEST_F(RenderingSequence, PrintGoesThroughNestedRecordsAndClosesOnTheOpeningLine
     watch(wrapper, 88);
     EXPECT_EQ(lumo_tarn_exmem_info_wrapper_print(h, id, buffer, 2, "w", wrapper, 500, &err), 165u);
     EXPECT_EQ(
-        observing::lines(),
+        recording::lines(),
         (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "mirk_print_space buffer 2 500",
                "mirk_snprintf buffer+2 498 w@lumo_tarn_exmem_info_wrapper: {\\n", "mirk_clear_last_error",
                "mirk_get_instance_variant object+16 1 0", "mirk_print_space buffer+36 4 464",
@@ -55,7 +55,7 @@ TEST_F(RenderingSequence, PrintGoesThroughNestedRecordsAndClosesOnTheOpeningLine
                "u_int64_print buffer+115 6 ppe_addr object+48 385", "u_int32_print buffer+137 6 size object+56 363",
                "mirk_print_space buffer+36 4 345", "mirk_snprintf buffer+159 341 }\\n", "mirk_print_space buffer 2 339",
                "mirk_snprintf buffer+163 337 }\\n"}));
-    for (const observing::Call &call : observing::log()) {
+    for (const recording::Call &call : recording::log()) {
         if (!call.slot.empty()) {
             EXPECT_EQ(call.slot, "slot") << call.function;
         }
@@ -69,7 +69,7 @@ TEST_F(RenderingSequence, PrintShowsCountsElementsAndStrings) {
     lumo_tarn_cl_appl_data *data = applications(h, true);
     watch(data, 56, lumo_tarn_cl_appl_data_kesh_appl_get(h, id, data, 0, &err), 56);
     lumo_tarn_cl_appl_data_print(h, id, buffer, 0, "a", data, 2000, &err);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_clear_last_error",
                                          "mirk_get_instance_variant object 1 0",
                                          "mirk_print_space buffer 0 2000",
                                          "mirk_snprintf buffer 2000 a@lumo_tarn_cl_appl_data: {\\n",
@@ -100,7 +100,7 @@ TEST_F(RenderingSequence, PrintGoesOnAfterAnError) {
     h.knobs().errors["u_int8_print"] = 90;
     const std::uint32_t written = lumo_tarn_dp_appl_cfg_print(h, id, buffer, 0, "c", config, 2000, &err);
     EXPECT_EQ(err, 90u);
-    const Lines lines = observing::lines();
+    const Lines lines = recording::lines();
     ASSERT_EQ(lines.size(), 9u);
     const std::string end = "buffer+" + std::to_string(written);
     const std::string left = std::to_string(2000 - written);
@@ -120,7 +120,7 @@ TEST_F(RenderingSequence, AStickyPrintUsesTheHandlesOwnWords) {
     lumo_tarn_dp_wexa_info_print_cr(h, wexa, buffer, 300);
     lumo_tarn_dp_wexa_info_toxml_cr(h, wexa, buffer, 300);
     EXPECT_EQ(
-        observing::lines(Detail::full),
+        recording::lines(Detail::full),
         (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0",
                "mirk_print_space buffer 0 300 ctx=31 err=last_error",
                "mirk_snprintf buffer 300 lumo_tarn_dp_wexa_info@lumo_tarn_dp_wexa_info: {\\n ctx=31 err=last_error",
@@ -174,7 +174,7 @@ TEST_F(RenderingSequence, XmlAsksForStatesOnATrackingHandleOnly) {
             std::erase_if(expected, [](const std::string &line) { return line.starts_with("mirklib_get_sttr"); });
             expected[11] = "start_tag buffer+138 exmem 1862 0";
         }
-        EXPECT_EQ(observing::lines(), expected);
+        EXPECT_EQ(recording::lines(), expected);
         lumo_tarn_exmem_info_wrapper_destroy(h, id, wrapper);
         lumo_tarn_dyn_exmem_info_destroy(h, id, dyn);
     }
@@ -188,7 +188,7 @@ TEST_F(RenderingSequence, XmlEndsItsMembersAtAnError) {
     h.knobs().errors["var_string_to_xml"] = 75;
     EXPECT_EQ(lumo_tarn_cl_appl_data_to_xml(h, id, "a", buffer, data, 2000, 9, &err), 150u);
     EXPECT_EQ(err, 75u);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "start_tag buffer a 2000 9",
                      "mirk_boolean_to_xml show_header buffer+10 object+16 1990 0",
                      "u_int32_to_xml num_kesh_appls buffer+46 object+32 1954 0", "mirk_clear_last_error",
@@ -207,7 +207,7 @@ TEST_F(RenderingSequence, WithoutABodyOnlyTheFrameIsWritten) {
     watch(wexa, 24);
     lumo_tarn_dp_wexa_info_print(h, id, buffer, 1, "w", wexa, 90, &err);
     lumo_tarn_dp_wexa_info_to_xml(h, id, "w", buffer, wexa, 90, 3, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0", "mirk_print_space buffer 1 90",
                      "mirk_snprintf buffer+1 89 w@lumo_tarn_dp_wexa_info: {\\n", "mirk_clear_last_error",
                      "mirk_get_instance_variant object 1 0", "start_tag buffer w 90 3", "end_tag buffer+10 w 80"}));

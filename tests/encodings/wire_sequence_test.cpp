@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "observing.h"
+#include "recording.h"
 #include "tools/reflect/operations.h"
 
 namespace {
 
 using Lines = std::vector<std::string>;
-using observing::Tracking;
+using recording::Tracking;
 using tarn::reflect::RecordOperations;
 
 constexpr std::uint32_t id = 7;
@@ -29,10 +29,10 @@ public:
     Wire &operator=(const Wire &) = delete;
 
     void forget() {
-        observing::clear_names();
-        observing::name_region("buffer", buffer.data(), buffer.size());
-        observing::name_region("object", instance, handle.block_size(instance));
-        observing::clear_log();
+        recording::clear_names();
+        recording::name_region("buffer", buffer.data(), buffer.size());
+        recording::name_region("object", instance, handle.block_size(instance));
+        recording::clear_log();
     }
     std::uint32_t write(std::int32_t size = 4000) {
         err = 0;
@@ -63,7 +63,7 @@ public:
     }
     const RecordOperations &record() const { return record_; }
 
-    observing::Handle handle;
+    recording::Handle handle;
     std::vector<std::uint8_t> buffer = std::vector<std::uint8_t>(4096);
     void *instance = nullptr;
     std::uint32_t err = 0;
@@ -74,13 +74,13 @@ private:
 
 // What happens to memory and offsets.
 Lines memory_lines() {
-    return observing::lines_of({"write_notify", "obj_alloc", "obj_free", "mirklib_update_sttr_offset",
+    return recording::lines_of({"write_notify", "obj_alloc", "obj_free", "mirklib_update_sttr_offset",
                                 "mirk_hd_mapping_destroy", "mirk_store_err"});
 }
 // The names of all calls.
 Lines functions() {
     Lines names;
-    for (const observing::Call &call : observing::log()) {
+    for (const recording::Call &call : recording::log()) {
         if (!call.inner) names.push_back(call.function);
     }
     return names;
@@ -90,7 +90,7 @@ TEST(WireSequence, AFrameIsWrittenForwardAndItsJumpPutInPlace) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::on);
     EXPECT_EQ(w.write(), 25U);
     EXPECT_EQ(
-        observing::lines(observing::Detail::full),
+        recording::lines(recording::Detail::full),
         (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0",
                "mirk_domain_lookup_variant lumo_tarn_fdb_mem_info err=local",
                "_mirk_instance_variant_marshal buffer 0 4000 ctx=7 err=local", "mirk_get_instance_obj_flag object 1 0",
@@ -107,7 +107,7 @@ TEST(WireSequence, AFlatReadAsksForEachMemberOnceAndAnnouncesNothing) {
     const std::uint32_t size = w.write();
     w.forget();
     EXPECT_EQ(w.read(size, 1), size);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 25",
                      "_mirk_instance_obj_flag_unmarshal buffer+1 local 24",
                      "_mirk_variant_jump_unmarshal buffer+2 local 23", "u_int32_unmarshal buffer+6 object+12 19 1",
@@ -119,7 +119,7 @@ TEST(WireSequence, NothingStopsAWalkWhoseMemberFails) {
     w.handle.knobs().errors["u_int32_marshal"] = 71;
     EXPECT_EQ(w.write(), 6U);
     EXPECT_EQ(w.err, 71U);
-    EXPECT_EQ(observing::lines_of({"u_int32_marshal", "u_int64_marshal", "_mirk_variant_jump_marshal"}),
+    EXPECT_EQ(recording::lines_of({"u_int32_marshal", "u_int64_marshal", "_mirk_variant_jump_marshal"}),
               (Lines{"_mirk_variant_jump_marshal buffer+2 0 3998", "u_int32_marshal buffer+6 object+12 3994",
                      "u_int32_marshal buffer+6 object+16 3994", "u_int64_marshal buffer+6 object+24 3994",
                      "_mirk_variant_jump_marshal buffer+2 4 4"}));
@@ -146,7 +146,7 @@ TEST(WireSequence, ElementsGetTheirOffsetsWhateverTheFrameBrought) {
     w.read(two, 0);
     EXPECT_EQ(w.err, 0U);
     EXPECT_EQ(
-        observing::lines_of({"obj_alloc", "mirklib_update_sttr_offset"}),
+        recording::lines_of({"obj_alloc", "mirklib_update_sttr_offset"}),
         (Lines{"obj_alloc 130", "mirklib_update_sttr_offset block1 112", "mirklib_update_sttr_offset block1+56 65"}));
 }
 
@@ -157,7 +157,7 @@ TEST(WireSequence, AnUnchangedCountReplacesTheVectorOnly) {
     w.forget();
     w.read(two, 1);
     EXPECT_EQ(
-        observing::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy", "mirklib_update_sttr_offset"}),
+        recording::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy", "mirklib_update_sttr_offset"}),
         (Lines{"obj_alloc 2", "mirklib_update_sttr_offset earlier 112", "mirklib_update_sttr_offset earlier+56 65"}));
 }
 
@@ -179,11 +179,11 @@ TEST(WireSequence, ElementsWithoutStatesTakeTheirOwnBytesAndHaveNoMappingsToDrop
         Wire w("lumo_tarn_dp_debug_setting_data", tracking);
         const std::uint32_t two = w.frame_of(2);
         w.read(two, 0);
-        EXPECT_EQ(observing::lines_of({"obj_alloc"}), (Lines{"obj_alloc 112"}));
+        EXPECT_EQ(recording::lines_of({"obj_alloc"}), (Lines{"obj_alloc 112"}));
         const std::uint32_t one = w.frame_of(1);
         w.read(one, 1);
         EXPECT_EQ(w.err, 0U);
-        EXPECT_EQ(observing::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy"}),
+        EXPECT_EQ(recording::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy"}),
                   (Lines{"obj_free earlier", "obj_alloc 56"}));
     }
 }
@@ -194,7 +194,7 @@ TEST(WireSequence, WithoutOidMappingMappingsStay) {
     const std::uint32_t one = w.frame_of(1);
     w.handle->oid_mapping = 0;
     w.read(one, 1);
-    EXPECT_EQ(observing::count_of("mirk_hd_mapping_destroy"), 0U);
+    EXPECT_EQ(recording::count_of("mirk_hd_mapping_destroy"), 0U);
     w.handle->oid_mapping = 1;
 }
 
@@ -236,10 +236,10 @@ TEST(WireSequence, ASkippedStateOfAStringIsNotSteppedOverAtTheLastByte) {
     w.handle.set_tracking(Tracking::off);
     w.forget();
     w.read(12, 1);
-    EXPECT_EQ(observing::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+11 object+24 1 1");
+    EXPECT_EQ(recording::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+11 object+24 1 1");
     w.forget();
     w.read(13, 1);
-    EXPECT_EQ(observing::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+12 object+24 1 1");
+    EXPECT_EQ(recording::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+12 object+24 1 1");
 }
 
 TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
@@ -252,7 +252,7 @@ TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
                      "mirklib_get_ra_data", "_mirk_instance_ra_data_marshal", "_mirk_variant_jump_marshal",
                      "u_int32_marshal", "u_int32_marshal", "u_int64_marshal", "_mirk_variant_jump_marshal"}));
     // The length knows nothing of them.
-    EXPECT_EQ(size, w.record().len(w.handle, id, w.instance) + observing::ra_wire_size);
+    EXPECT_EQ(size, w.record().len(w.handle, id, w.instance) + recording::ra_wire_size);
     w.forget();
     EXPECT_EQ(w.read(size, 0), size);
     EXPECT_EQ(functions(),
@@ -268,17 +268,17 @@ TEST(WireSequence, RaDataThatCannotBeReadAreNone) {
     w.handle.knobs().errors["_mirk_instance_ra_data_unmarshal"] = 5;
     w.forget();
     w.read(size, 0);
-    EXPECT_EQ(observing::lines_of({"mirklib_update_ra_all"}), (Lines{"mirklib_update_ra_all object 0 0"}));
+    EXPECT_EQ(recording::lines_of({"mirklib_update_ra_all"}), (Lines{"mirklib_update_ra_all object 0 0"}));
     w.handle.knobs().errors.clear();
 }
 
 TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantGoesOut) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     w.handle.knobs().variants["lumo_tarn_fdb_mem_info"] = {-1, 0};
-    w.handle.knobs().slot_gets_43 = false;
+    w.handle.knobs().slot_gets_eidrm = false;
     EXPECT_EQ(w.write(), 6U);
     EXPECT_EQ(w.err, 0U);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0",
                      "mirk_domain_lookup_variant lumo_tarn_fdb_mem_info", "mirk_store_epoch_err 43 local",
                      "_mirk_instance_variant_marshal buffer -1 4000", "mirk_get_instance_obj_flag object 1 0",
@@ -293,7 +293,7 @@ TEST(WireSequence, TheLengthOfElementsOfOneSizeIsAskedOnce) {
         w.read(w.frame_of(elements), 0);
         w.forget();
         w.record().len(w.handle, id, w.instance);
-        return observing::lines().size();
+        return recording::lines().size();
     };
     EXPECT_EQ(questions("lumo_tarn_dp_debug_setting_data", 3), questions("lumo_tarn_dp_debug_setting_data", 1));
     EXPECT_EQ(questions("lumo_tarn_dp_appl_list", 3), questions("lumo_tarn_dp_appl_list", 1));

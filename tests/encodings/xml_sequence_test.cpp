@@ -2,14 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Element;
-using observing::Handle;
-using observing::Tracking;
+using recording::Detail;
+using recording::Element;
+using recording::Handle;
+using recording::Tracking;
 using Lines = std::vector<std::string>;
 
 constexpr std::uint32_t id = 7;
@@ -17,11 +17,11 @@ constexpr std::uint32_t id = 7;
 class ReadingSequence : public testing::Test {
 protected:
     void watch(const void *object, std::size_t size) {
-        observing::clear_names();
-        observing::name_region("object", object, size);
-        observing::name_region("message", message, sizeof message);
-        observing::name_region("slot", &err, sizeof err);
-        observing::clear_log();
+        recording::clear_names();
+        recording::name_region("object", object, size);
+        recording::name_region("message", message, sizeof message);
+        recording::name_region("slot", &err, sizeof err);
+        recording::clear_log();
     }
 
     std::uint32_t err = 0;
@@ -37,7 +37,7 @@ TEST_F(ReadingSequence, MembersAreLookedUpInTableOrder) {
     watch(wexa, 112);
     lumo_tarn_dp_lumo_wexa_info_from_xml(h, id, "//r", &document, wexa, &err, message, 40);
     // Nothing is announced, marked or asked about states.
-    EXPECT_EQ(observing::lines(Detail::full),
+    EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
                      "u_int8_from_xml //r/lumo_num object+11 message 40 ctx=7 err=slot",
                      "mirk_boolean_from_xml //r/in_wexa_is_valid object+16 message 40 ctx=7 err=slot",
@@ -58,7 +58,7 @@ TEST_F(ReadingSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
     err = 5;
     EXPECT_EQ(lumo_tarn_cl_kesh_appl_to_xml(h, id, "r", buffer, appl, 64, 0, &err), 0u);
     lumo_tarn_cl_kesh_appl_from_xml(h, id, "//r", &document, appl, &err, message, 40);
-    EXPECT_EQ(observing::lines(), Lines{});
+    EXPECT_EQ(recording::lines(), Lines{});
     EXPECT_EQ(err, 5u);
     lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
 }
@@ -94,7 +94,7 @@ TEST_F(ReadingSequence, AStringIsMeasuredReadIntoABufferAndSet) {
                        "u_int16_from_xml //r/protocol_id object+40 message 40",
                        "u_int16_from_xml //r/tarn_id object+42 message 40"};
         if (tracking == Tracking::none) std::erase(expected, "write_notify object+56 1");
-        EXPECT_EQ(observing::lines(), expected);
+        EXPECT_EQ(recording::lines(), expected);
         EXPECT_EQ(err, 0u);
         lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
     }
@@ -106,7 +106,7 @@ TEST_F(ReadingSequence, AnAbsentStringLeavesItsErrorToTheNextMember) {
     const Element document{"r", "", {}};
     watch(appl, 60);
     lumo_tarn_cl_kesh_appl_from_xml(h, id, "//r", const_cast<Element *>(&document), appl, &err, message, 40);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
                                          "xml_get_element_value //r/proto_name null 0 local", "mirk_store_err 2",
                                          "xml_get_element_value //r/sub_proto_name null 0 local", "mirk_store_err 2",
                                          "u_int16_from_xml //r/protocol_id object+40 message 40",
@@ -140,7 +140,7 @@ TEST_F(ReadingSequence, AStringThatCannotBeReadGivesItsBufferBack) {
                              "u_int16_from_xml //r/protocol_id object+40 message 40",
                              "u_int16_from_xml //r/tarn_id object+42 message 40"});
         }
-        EXPECT_EQ(observing::lines(), expected);
+        EXPECT_EQ(recording::lines(), expected);
         EXPECT_EQ(err, number == 2 ? 0u : number);
     }
     h.knobs().errors.clear();
@@ -155,7 +155,7 @@ TEST_F(ReadingSequence, AStringWithoutMemoryEndsTheReading) {
     watch(appl, 60);
     h.fail_obj_alloc(1);
     lumo_tarn_cl_kesh_appl_from_xml(h, id, "//r", &document, appl, &err, message, 40);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
                                          "xml_get_element_value //r/proto_name null 0 local", "mirk_store_err 28",
                                          "obj_alloc 5", "mirk_store_err 12"}));
     EXPECT_EQ(err, 12u);
@@ -172,7 +172,7 @@ TEST_F(ReadingSequence, AnArrayIsReadByPositionsUntilOneIsMissing) {
     document.add("lumo_data");
     watch(data, 32);
     lumo_tarn_dp_debug_setting_data_from_xml(h, id, "//r", &document, data, &err, message, 40);
-    const Lines lines = observing::lines_of({"xml_get_element_nodecount", "obj_alloc", "obj_free", "mirk_store_err"});
+    const Lines lines = recording::lines_of({"xml_get_element_nodecount", "obj_alloc", "obj_free", "mirk_store_err"});
     EXPECT_EQ(lines,
               (Lines{"xml_get_element_nodecount //r", "obj_alloc 56", "xml_get_element_nodecount //r/lumo_data[1]",
                      "obj_alloc 56", "obj_free block1", "obj_alloc 56", "xml_get_element_nodecount //r/lumo_data[2]",
@@ -180,7 +180,7 @@ TEST_F(ReadingSequence, AnArrayIsReadByPositionsUntilOneIsMissing) {
                      "xml_get_element_nodecount //r/lumo_data[3]", "mirk_store_err 2", "obj_free block5"}));
     EXPECT_EQ(err, 0u);
     // The count in the document was not looked at.
-    for (const std::string &line : observing::lines()) EXPECT_EQ(line.find("num_lumos"), line.npos) << line;
+    for (const std::string &line : recording::lines()) EXPECT_EQ(line.find("num_lumos"), line.npos) << line;
     lumo_tarn_dp_debug_setting_data_destroy(h, id, data);
 }
 
@@ -191,7 +191,7 @@ TEST_F(ReadingSequence, NoMemoryForAnElementEndsItsArrayOnly) {
     watch(info, 800);
     h.fail_obj_alloc(1);
     lumo_tarn_lumo_info_from_xml(h, id, "//r", const_cast<Element *>(&document), info, &err, message, 40);
-    const Lines lines = observing::lines_of({"xml_get_element_nodecount", "obj_alloc", "obj_free", "mirk_store_err"});
+    const Lines lines = recording::lines_of({"xml_get_element_nodecount", "obj_alloc", "obj_free", "mirk_store_err"});
     ASSERT_GE(lines.size(), 4u);
     // The second array makes its element, which the error then keeps from being read.
     EXPECT_EQ(Lines(lines.end() - 4, lines.end()),

@@ -1,7 +1,7 @@
 // The calls of every accessor of every record.
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -198,9 +198,9 @@ TEST_F(AccessorSequence, OfQuietOperations) {
         EXPECT_EQ(lines_of([&] { r.adjust_variant(h, id, object, &err); }), (Lines{adjust_line(r)}));
         EXPECT_EQ(lines_of([&] { r.adjust_variant(h, id, nullptr, &err); }),
                   (Lines{"mirklib_adjust_variant null null 0"}));
-        observing::clear_log();
+        recording::clear_log();
         r.is_valid_cr(h, object, 0);
-        EXPECT_EQ(observing::lines(observing::Detail::full),
+        EXPECT_EQ(recording::lines(recording::Detail::full),
                   (Lines{"mirk_domain_lookup_variant " + name(r) + " err=last_error"}));
     });
 }

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -183,7 +183,7 @@ TEST_F(ArraySequence, WithoutMemory) {
 TEST_F(ArraySequence, OfElementAccessAndStates) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
-        observing::name_region("vector", read<void *>(bytes(object) + table(s.r).base + place(s.r, s.m).area), 2);
+        recording::name_region("vector", read<void *>(bytes(object) + table(s.r).base + place(s.r, s.m).area), 2);
         const Lines read_begin{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0"};
         const std::string adjusted = "mirklib_adjust_variant object " + name(s.r) + " 0";
         const std::string variant = "mirk_get_instance_variant object 1 0";
@@ -217,10 +217,10 @@ TEST_F(ArraySequence, AFailedDeepCopyLeavesTheElementItsPlace) {
         EXPECT_EQ(s.m.element_set_cr(h, object, 1, value, 0), static_cast<std::uint32_t>(EPROTO));
         h.knobs().errors.clear();
         EXPECT_EQ(h.state_offset(element), before);
-        observing::quiet();
+        recording::pause();
         s.r.destroy(h, id, object);
         s.e.destroy(h, id, value);
-        observing::quiet(false);
+        recording::pause(false);
         EXPECT_EQ(h.live_blocks(), 0u);
     });
 }
@@ -251,10 +251,10 @@ TEST_F(ArraySequence, AFailedDeepCopyWithoutMappingsAsksForNoOffset) {
         EXPECT_EQ(updates, 0);
         EXPECT_GT(updates_with_mapping, 0);
         mirk_clear_last_error(h);
-        observing::quiet();
+        recording::pause();
         s.r.destroy(h, id, object);
         s.e.destroy(h, id, value);
-        observing::quiet(false);
+        recording::pause(false);
     });
 }
 

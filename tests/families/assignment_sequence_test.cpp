@@ -1,7 +1,7 @@
 // The calls of whole-record assignment and of the clean-up behind a move.
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -116,15 +116,15 @@ TEST_F(DestroySequence, OfAnArrayTakesElementsThenTheBlockThenTheVector) {
             const RecordOperations &e = nested_record(m);
             forget();
             void *object = make_object(h, r);
-            observing::quiet();
+            recording::pause();
             void *value = e.create(h, id);
             m.element_set(h, id, object, 1, value, &err);
             e.destroy(h, id, value);
-            observing::quiet(false);
+            recording::pause(false);
             ASSERT_EQ(err, 0u);
             auto *block = read<std::uint8_t *>(at(r, object, m));
-            observing::name_region("elements", block, 2 * e.sizeof_(h));
-            if (on) observing::name_region("vector", read<void *>(bytes(object) + table(r).base + place(r, m).area), 2);
+            recording::name_region("elements", block, 2 * e.sizeof_(h));
+            if (on) recording::name_region("vector", read<void *>(bytes(object) + table(r).base + place(r, m).area), 2);
             Lines array;
             for (std::uint32_t k = 0; k < 2; ++k) {
                 append(array, destroy_lines(e, {"elements", k * table(e).base, 2 * table(e).base + k * table(e).state},

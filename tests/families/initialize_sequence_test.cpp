@@ -1,7 +1,7 @@
 // The calls of create and initialize, for every record.
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -32,11 +32,11 @@ TEST_F(InitializeSequence, UnderTheIdOfTheCall) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         for (bool sticky : {false, true}) {
-            observing::clear_log();
+            recording::clear_log();
             sticky ? r.create_cr(h) : r.create(h, id);
-            for (const observing::Call &call : observing::log()) {
+            for (const recording::Call &call : recording::log()) {
                 if (call.ctx_id) {
-                    EXPECT_EQ(*call.ctx_id, sticky ? 77u : id) << observing::line(call);
+                    EXPECT_EQ(*call.ctx_id, sticky ? 77u : id) << recording::line(call);
                 }
             }
         }
@@ -46,9 +46,9 @@ TEST_F(InitializeSequence, UnderTheIdOfTheCall) {
 TEST_F(InitializeSequence, WithPrivateTypes) {
     each_record([&](const RecordOperations &r) {
         Handle h({Tracking::on, 1});
-        observing::quiet();
+        recording::pause();
         r.create(h, id);
-        observing::quiet(false);
+        recording::pause(false);
         forget();
         Lines expected{"skald_module_init_fn mirk_lumo_ui_tarn_type", "obj_alloc " + std::to_string(table(r).tracked)};
         append(expected, initialize_lines(r, top_level(r, "block1"), {true, true}));
@@ -65,7 +65,7 @@ TEST_F(InitializeSequence, WithAndWithoutAnnouncementsAndCounts) {
                 for (std::uint32_t skip : {0u, 1u}) {
                     std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
-                    observing::name_region("object", storage.data(), table(r).tracked);
+                    recording::name_region("object", storage.data(), table(r).tracked);
                     Making s;
                     s.on = tracking == Tracking::on;
                     s.notify = notify;
@@ -88,7 +88,7 @@ TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
                 for (bool is_nested : {false, true}) {
                     std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
                     forget();
-                    observing::name_region("object", storage.data(), table(r).tracked);
+                    recording::name_region("object", storage.data(), table(r).tracked);
                     Making s;
                     s.on = tracking == Tracking::on;
                     s.is_nested = is_nested;
@@ -112,7 +112,7 @@ TEST_F(InitializeSequence, EndsAtAMissingStateBase) {
     each_record([&](const RecordOperations &r) {
         std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
         forget();
-        observing::name_region("object", storage.data(), table(r).tracked);
+        recording::name_region("object", storage.data(), table(r).tracked);
         Lines expected = header_lines(name(r), top_level(r), {true});
         expected.push_back("write_notify object+10 1");
         append_count(expected, name(r), {true});

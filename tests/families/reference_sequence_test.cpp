@@ -1,7 +1,7 @@
 // Offsets of embedded objects after a move, and the sweep of references.
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -81,16 +81,16 @@ void each_address(const std::function<void(const RecordOperations &, const Membe
 
 // What concerns one address while its owner is destroyed.
 Lines sweep_of(const Handle &h, const RecordOperations &r, const MemberOperations &m) {
-    observing::quiet();
+    recording::pause();
     void *object = r.create(h, id);
-    observing::quiet(false);
-    observing::clear_names();
-    observing::name_region("address", at(r, object, m), 40);
-    observing::clear_log();
+    recording::pause(false);
+    recording::clear_names();
+    recording::name_region("address", at(r, object, m), 40);
+    recording::clear_log();
     r.destroy(h, id, object);
     Lines lines;
     bool sweeping = false;
-    for (const std::string &line : observing::lines()) {
+    for (const std::string &line : recording::lines()) {
         if (line == "ip_address_get_oid_count address") sweeping = true;
         if (!sweeping) continue;
         lines.push_back(line);
@@ -127,7 +127,7 @@ TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
             Handle h;
             h.knobs().address_oids = {reinterpret_cast<void *>(1000)};
             h.knobs().address_oid_count = n;
-            observing::clear_log();
+            recording::clear_log();
             const Lines lines = sweep_of(h, r, m);
             ASSERT_EQ(lines.size(), n + 3);
             EXPECT_EQ(lines[2], "mirklib_lookup_and_update_oid_ref_count 1000 0");
@@ -161,7 +161,7 @@ TEST_F(ReferenceSequence, ReferencesThatCannotBeReadStopTheDestruction) {
             Handle h;
             h.knobs().address_oid_count = n;
             h.knobs().address_references_error = EPROTO;
-            observing::clear_log();
+            recording::clear_log();
             EXPECT_EQ(sweep_of(h, r, m), (Lines{"ip_address_get_oid_count address",
                                                 "ip_address_get_object_references address " +
                                                     std::string(n <= 64 ? "local " : "elsewhere ") + std::to_string(n),
@@ -180,7 +180,7 @@ TEST_F(ReferenceSequence, ReferencesAreAskedForAlthoughTheirCountFailed) {
         Handle h;
         h.knobs().address_oid_count = 2;
         h.knobs().address_oid_count_error = EPROTO;
-        observing::clear_log();
+        recording::clear_log();
         EXPECT_EQ(sweep_of(h, r, m),
                   (Lines{"ip_address_get_oid_count address", "ip_address_get_object_references address local 2",
                          "skald_wrapper type 3 (ERR): " + name(r) +

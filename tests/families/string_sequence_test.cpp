@@ -1,7 +1,7 @@
 // The calls of string operations: a string frees, announces, allocates, stores and announces its length.
 #include <cerrno>
 
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -46,7 +46,7 @@ TEST_F(StringSequence, OfSet) {
             append(first, {"write_notify " + body + " 8", "obj_alloc 4"});
             append(first, end);
             EXPECT_EQ(lines_of([&] { m->text_set(*h, id, object, "abcd", 4, &err); }), first);
-            observing::name_region("old", read<void *>(at(*r, object, *m)), 4);
+            recording::name_region("old", read<void *>(at(*r, object, *m)), 4);
             Lines second = begin;
             append(second, {"obj_free old", "write_notify " + body + " 8", "obj_alloc 0"});
             append(second, end);
@@ -97,14 +97,14 @@ TEST_F(StringSequence, OfGet) {
 
 TEST_F(StringSequence, OfTheStickySet) {
     each(Tracking::none, [&] {
-        observing::clear_log();
+        recording::clear_log();
         EXPECT_EQ(m->text_set_cr(*h, object, "a", 1), 0u);
-        for (const observing::Call &call : observing::log()) {
+        for (const recording::Call &call : recording::log()) {
             if (call.ctx_id) {
-                EXPECT_EQ(*call.ctx_id, 77u) << observing::line(call);
+                EXPECT_EQ(*call.ctx_id, 77u) << recording::line(call);
             }
             if (!call.slot.empty()) {
-                EXPECT_EQ(call.slot, "last_error") << observing::line(call);
+                EXPECT_EQ(call.slot, "last_error") << recording::line(call);
             }
         }
         h->get()->last_error = EIO;

@@ -2,7 +2,7 @@
 #include <cerrno>
 
 #include "lumo_ui_tarn.h"
-#include "observed.h"
+#include "recorded.h"
 
 using namespace families;
 
@@ -52,23 +52,23 @@ void some_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 TEST_F(TypeSequence, TheSiblingModulesAreToldInTheirOrder) {
     const char *const siblings[] = {"comm", "defs", "shared", "stats", "intf", "cond", "view"};
     Lines names;
-    observing::clear_log();
+    recording::clear_log();
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(some_handler), nullptr);
-    for (const observing::Call &call : observing::log()) names.push_back(call.function);
+    for (const recording::Call &call : recording::log()) names.push_back(call.function);
     Lines expected;
     for (const char *s : siblings) {
         expected.push_back("veld_" + std::string(s) + "_bundle_handler_register");
-        EXPECT_EQ(observing::sibling_handler(s), some_handler);
+        EXPECT_EQ(recording::sibling_handler(s), some_handler);
     }
     EXPECT_EQ(names, expected);
     names.clear();
-    observing::clear_log();
+    recording::clear_log();
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_unregister(), some_handler);
-    for (const observing::Call &call : observing::log()) names.push_back(call.function);
+    for (const recording::Call &call : recording::log()) names.push_back(call.function);
     expected.clear();
     for (const char *s : siblings) {
         expected.push_back("veld_" + std::string(s) + "_bundle_handler_unregister");
-        EXPECT_EQ(observing::sibling_handler(s), nullptr);
+        EXPECT_EQ(recording::sibling_handler(s), nullptr);
     }
     EXPECT_EQ(names, expected);
 }

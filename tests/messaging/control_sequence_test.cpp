@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 #include "tools/reflect/operations.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Handle;
+using recording::Detail;
+using recording::Handle;
 using tarn::reflect::BundleOperations;
 using tarn::reflect::bundles;
 using tarn::reflect::MessageOperations;
@@ -26,17 +26,17 @@ constexpr const char *header = "_mirk_message_header_marshal buffer 188 0 169090
 struct ControlSequence : testing::Test {
     void SetUp() override {
         mirk_lumo_ui_tarn_message_trace_init();
-        observing::name_region("buffer", buffer.data(), room);
-        observing::name_region("slot", &err, sizeof err);
-        observing::clear_log();
+        recording::name_region("buffer", buffer.data(), room);
+        recording::name_region("slot", &err, sizeof err);
+        recording::clear_log();
     }
     void TearDown() override {
         lumo_ui_tarn_bundle_handler_unregister();
-        observing::clear_names();
+        recording::clear_names();
     }
     static Strings calls() {
-        Strings lines = observing::lines(Detail::full);
-        observing::clear_log();
+        Strings lines = recording::lines(Detail::full);
+        recording::clear_log();
         return lines;
     }
 
@@ -121,8 +121,8 @@ TEST_F(ControlSequence, ACommitRunsItsHandlerThenDropsTheListThenTheToken) {
     for (const BundleOperations &b : bundles()) {
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
-        observing::clear_names();
-        observing::name_region("slot", &err, sizeof err);
+        recording::clear_names();
+        recording::name_region("slot", &err, sizeof err);
         mirk_dispatch_info entry = entry_with(handle);
         h.knobs().dispatch_info = &entry;
         h->recv_bundle_open = 1;
@@ -165,8 +165,8 @@ TEST_F(ControlSequence, ACommitThatFailedAsksForNoEntry) {
 TEST_F(ControlSequence, AnAbortDropsTheListBeforeItAsksForTheEntry) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
-        observing::clear_names();
-        observing::name_region("slot", &err, sizeof err);
+        recording::clear_names();
+        recording::name_region("slot", &err, sizeof err);
         mirk_dispatch_info entry = entry_with(nullptr);
         h.knobs().dispatch_info = &entry;
         h->recv_bundle_open = 1;
@@ -214,13 +214,13 @@ TEST_F(ControlSequence, RegistrationForTheModuleReachesTheSiblingsInOrder) {
     Strings expected;
     for (const char *m : order) expected.push_back("veld_" + std::string(m) + "_bundle_handler_register handler");
     EXPECT_EQ(calls(), expected);
-    for (const char *m : order) EXPECT_EQ(observing::sibling_handler(m), handle);
+    for (const char *m : order) EXPECT_EQ(recording::sibling_handler(m), handle);
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_unregister(), handle);
     const Strings lines = calls();
     ASSERT_EQ(lines.size(), 7u);
     for (std::size_t i = 0; i < 7; ++i) {
         EXPECT_TRUE(lines[i].starts_with("veld_" + std::string(order[i]) + "_bundle_handler_unregister")) << lines[i];
-        EXPECT_EQ(observing::sibling_handler(order[i]), nullptr);
+        EXPECT_EQ(recording::sibling_handler(order[i]), nullptr);
     }
 }
 

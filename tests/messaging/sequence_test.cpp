@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 #include "tools/reflect/operations.h"
 
 namespace {
 
-using observing::Detail;
-using observing::Handle;
-using observing::Tracking;
+using recording::Detail;
+using recording::Handle;
+using recording::Tracking;
 using tarn::reflect::BundleOperations;
 using tarn::reflect::bundles;
 using tarn::reflect::MessageOperations;
@@ -26,26 +26,26 @@ constexpr std::uint32_t id = 7, room = 4000;
 
 struct Sequence : testing::Test {
     void SetUp() override {
-        observing::clear_names();
+        recording::clear_names();
         mirk_lumo_ui_tarn_message_trace_init();
-        observing::name_region("buffer", buffer.data(), room);
-        observing::name_region("slot", &err, sizeof err);
-        observing::clear_log();
+        recording::name_region("buffer", buffer.data(), room);
+        recording::name_region("slot", &err, sizeof err);
+        recording::clear_log();
     }
     void TearDown() override {
-        observing::set_recorder(0, nullptr);
+        recording::set_recorder(0, nullptr);
         lumo_ui_tarn_bundle_handler_unregister();
-        observing::clear_names();
+        recording::clear_names();
     }
     // The calls since the last look at them.
     static Strings calls(Detail detail = Detail::brief) {
-        Strings lines = observing::lines(detail);
-        observing::clear_log();
+        Strings lines = recording::lines(detail);
+        recording::clear_log();
         return lines;
     }
     static Strings calls_of(std::initializer_list<std::string_view> functions, Detail detail = Detail::brief) {
-        Strings lines = observing::lines_of(functions, detail);
-        observing::clear_log();
+        Strings lines = recording::lines_of(functions, detail);
+        recording::clear_log();
         return lines;
     }
     // Memory and counters of the message itself, not those of its payload.
@@ -65,9 +65,9 @@ struct Sequence : testing::Test {
 TEST_F(Sequence, CreateMakesThePayloadBeforeItBindsAndCounts) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
-        Handle h(observing::Options{.tracking = Tracking::none, .private_types = 1});
-        observing::clear_names();
-        observing::clear_log();
+        Handle h(recording::Options{.tracking = Tracking::none, .private_types = 1});
+        recording::clear_names();
+        recording::clear_log();
         void *message = m.create(h, id);
         const Strings lines = calls();
         ASSERT_GE(lines.size(), 4u);
@@ -85,7 +85,7 @@ TEST_F(Sequence, DestroyEndsThePayloadFirst) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        observing::clear_names();
+        recording::clear_names();
         void *message = m.create(h, id);
         calls();
         m.destroy(h, id, message);
@@ -105,7 +105,7 @@ TEST_F(Sequence, StickyFormsUseTheHandlesIdAndItsLastErrorAsSlot) {
         Handle h;
         h->default_id = 31;
         void *message = m.create_cr(h);
-        for (const observing::Call &call : observing::log()) {
+        for (const recording::Call &call : recording::log()) {
             EXPECT_EQ(call.ctx_id.value_or(31), 31u) << line(call);
         }
         calls();
@@ -113,7 +113,7 @@ TEST_F(Sequence, StickyFormsUseTheHandlesIdAndItsLastErrorAsSlot) {
         EXPECT_EQ(calls(Detail::full),
                   (Strings{"mirk_domain_lookup_message_ok " + std::string(m.name) + " err=last_error"}));
         m.marshal_cr(h, message, buffer.data(), room);
-        for (const observing::Call &call : observing::log()) {
+        for (const recording::Call &call : recording::log()) {
             EXPECT_TRUE(call.slot.empty() || call.slot == "last_error") << line(call);
             EXPECT_EQ(call.ctx_id.value_or(31), 31u) << line(call);
         }
@@ -248,8 +248,8 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
         void *message = m.create(h, id);
         const std::uint32_t size = m.marshal(h, id, buffer.data(), message, room, &err);
         m.destroy(h, id, message);
-        observing::clear_names();
-        observing::name_region("buffer", buffer.data(), room);
+        recording::clear_names();
+        recording::name_region("buffer", buffer.data(), room);
         calls();
         EXPECT_EQ(m.unmarshal_only(h, id, &message, buffer.data(), size, &err), size);
         const Strings lines = calls();
@@ -280,7 +280,7 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
         void *message = m.create(h, id);
         const std::uint32_t size = m.marshal(h, id, buffer.data(), message, room, &err);
         m.destroy(h, id, message);
-        observing::set_recorder(1, file);
+        recording::set_recorder(1, file);
         calls();
         m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         const Strings all = calls();
@@ -303,16 +303,16 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
         EXPECT_EQ(lines[2], "mirklib_msg_recorder_get_handle");
         EXPECT_TRUE(lines[3].starts_with("mirklib_free null ") && lines[3].ends_with(" ctx=7")) << lines[3];
         EXPECT_EQ(lines[4], "mirklib_free null null ctx=0");
-        EXPECT_EQ(observing::live_mallocs(), 0u);
+        EXPECT_EQ(recording::live_mallocs(), 0u);
 
         // A rendering that fails is not asked a stream for.
         h.knobs().errors["start_tag"] = EMSGSIZE;
         m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
         EXPECT_EQ(calls_of({"mirklib_malloc", "mirklib_msg_recorder_get_handle", "mirklib_free"}).size(), 3u);
-        EXPECT_EQ(observing::live_mallocs(), 0u);
+        EXPECT_EQ(recording::live_mallocs(), 0u);
         err = 0;
-        observing::set_recorder(0, nullptr);
+        recording::set_recorder(0, nullptr);
     }
     std::fclose(file);
 }

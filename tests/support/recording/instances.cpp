@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <set>
 
-#include "provider.h"
+#include "internal.h"
 
-namespace observing {
+namespace recording {
 
 namespace {
 
-// Identifiers start far from 0, as nothing may be read out of them.
+// Identifiers start far from 0, since nothing may depend on their values.
 constexpr std::uint16_t first_module_id = 0x4101;
 std::vector<std::string> trace_modules;
 bool echoing = false;
@@ -36,10 +36,10 @@ const Answer &answer_for(const std::map<std::string, Answer, std::less<>> &answe
     return found == answers.end() ? otherwise : found->second;
 }
 
-// The answers follow from the address of the domain alone, as a real one's do.
+// A real runtime finds the answers by the address of the domain alone.
 State &domain_state(mirk_handle *h, const mirk_domain *domain) {
     if (domain != &h->domain) {
-        std::fprintf(stderr, "observing: a look-up was given another address than the domain's\n");
+        std::fprintf(stderr, "recording runtime: a look-up did not get the domain of the handle\n");
         std::abort();
     }
     return state_of(h);
@@ -74,7 +74,7 @@ void count(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type, std
 std::uint8_t *state_area(mirk_handle *h, void *object, std::size_t base_size) {
     const std::uint8_t flag = object_at(object)->obj_flag;
     if (!tracks(h) || !(flag & flag_tracked)) return nullptr;
-    // Behind a nested object stands the next member of its owner.
+    // A nested object is followed by the next member of its owner.
     if ((flag & flag_nested) && !(flag & flag_offset)) return nullptr;
     const std::size_t offset = flag & flag_offset ? mirklib_get_sttr_offset(h, 0, object) : base_size;
     return static_cast<std::uint8_t *>(object) + static_cast<std::ptrdiff_t>(static_cast<std::int32_t>(offset));
@@ -85,16 +85,16 @@ bool initialize_header(mirk_handle *h, std::uint32_t ctx_id, void *object, mirk_
     mirk_object &header = *object_at(object);
     std::int8_t variant = mirk_domain_lookup_variant(h, &h->domain, type, err);
     if (variant > 0) variant = 0;
-    auto announce = [&](void *address, std::size_t size) {
+    auto about_to_write = [&](void *address, std::size_t size) {
         if (notify) notify_write(h, ctx_id, address, size);
     };
-    announce(&header.tinfo, sizeof header.tinfo);
+    about_to_write(&header.tinfo, sizeof header.tinfo);
     header.tinfo = type;
-    announce(&header.variant, 1);
+    about_to_write(&header.variant, 1);
     header.variant = variant;
-    announce(&header.home_variant, 1);
+    about_to_write(&header.home_variant, 1);
     header.home_variant = variant;
-    announce(&header.obj_flag, 1);
+    about_to_write(&header.obj_flag, 1);
     header.obj_flag |= flags;
     if (!skip_count) {
         mirk_variant_entry &entry = type->variant_info->entries[variant];
@@ -104,9 +104,9 @@ bool initialize_header(mirk_handle *h, std::uint32_t ctx_id, void *object, mirk_
     return *err == 0;
 }
 
-}  // namespace observing
+}  // namespace recording
 
-using namespace observing;
+using namespace recording;
 
 mirk_module_root mirk_module_tot_root = {0, nullptr, &mirk_module_tot_root.first};
 
@@ -123,7 +123,7 @@ void mirk_store_err(mirk_handle *h, std::uint32_t number) {
 void mirk_store_epoch_err(mirk_handle *h, std::uint32_t number, std::uint32_t *err) {
     Entry entry(__func__, std::nullopt, err, number, at(err));
     const Knobs &knobs = state_of(h).knobs;
-    const bool write = number == EIDRM ? knobs.slot_gets_43 : number == EBADE ? knobs.slot_gets_52 : true;
+    const bool write = number == EIDRM ? knobs.slot_gets_eidrm : number == EBADE ? knobs.slot_gets_ebade : true;
     // When the slot is to stay clear and is the handle's own word, nothing is recorded there either.
     if (write || err != &h->last_error) h->last_error = number;
     if (write && err) *err = number;
@@ -139,7 +139,7 @@ void skald_wrapper(std::uint16_t module_id, std::uint32_t level, std::uint32_t z
     va_end(again);
     va_end(arguments);
     if (level == 0 || echoing) std::fprintf(stderr, "%s\n", text.c_str());
-    if (!recording()) return;
+    if (!is_recording()) return;
     Call call;
     call.function = __func__;
     call.arguments = {module_text(module_id), std::to_string(level)};
@@ -213,7 +213,7 @@ std::uint32_t mirklib_get_sttr_offset(mirk_handle *h, std::uint32_t ctx_id, void
     Entry entry(__func__, ctx_id, nullptr, at(object));
     const auto &offsets = state_of(h).offsets;
     if (const auto found = offsets.find(object); found != offsets.end()) return found->second;
-    // A flag bit that came with a frame leads no farther than behind the object.
+    // For a flag bit that came with a frame, the offset is the end of the object.
     const mirk_type_info *type = object ? object_at(object)->tinfo : nullptr;
     if (!type || !type->variant_info) return 0;
     return type->variant_info->entries[0].used_length + type->variant_info->entries[0].alloc_slop;
@@ -302,7 +302,7 @@ void mirklib_free(void *zero, std::uint32_t ctx_id, void *p) {
     Entry entry(__func__, ctx_id, nullptr, at(zero), at(p));
     std::lock_guard lock(guard);
     if (p && mallocs.erase(p) == 0) {
-        std::fprintf(stderr, "observing: mirklib_free of a block that is not live\n");
+        std::fprintf(stderr, "recording runtime: mirklib_free of a block that is not live\n");
         std::abort();
     }
     std::free(p);

@@ -2,29 +2,29 @@
 #pragma once
 
 #include "lumo_ui_tarn.h"
-#include "observing.h"
+#include "recording.h"
 #include "records.h"
 
 namespace families {
 
 using Lines = std::vector<std::string>;
-using observing::Handle;
-using observing::Tracking;
+using recording::Handle;
+using recording::Tracking;
 
 // Made without a record of it. From here on the object's bytes, area included, read as "object+N", and new blocks are
 // numbered from 1.
 inline void *make_object(const Handle &h, const RecordOperations &r, const char *called = "object") {
-    observing::quiet();
+    recording::pause();
     void *object = r.create(h, id);
-    observing::quiet(false);
-    observing::name_region(called, object, r.sizeof_(h));
+    recording::pause(false);
+    recording::name_region(called, object, r.sizeof_(h));
     return object;
 }
 
 inline Lines lines_of(const std::function<void()> &operation) {
-    observing::clear_log();
+    recording::clear_log();
     operation();
-    return observing::lines();
+    return recording::lines();
 }
 
 class Sequence : public testing::Test {
@@ -34,9 +34,9 @@ protected:
         forget();
     }
     void forget() {
-        observing::clear_names();
-        observing::clear_log();
-        observing::name_region("slot", &err, sizeof err);
+        recording::clear_names();
+        recording::clear_log();
+        recording::name_region("slot", &err, sizeof err);
     }
     std::uint32_t err = 0;
 };

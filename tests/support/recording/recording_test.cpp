@@ -1,4 +1,4 @@
-#include "observing.h"
+#include "recording.h"
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -10,18 +10,18 @@
 #include <regex>
 #include <set>
 
-using observing::Detail;
-using observing::Element;
-using observing::Handle;
-using observing::Tracking;
+using recording::Detail;
+using recording::Element;
+using recording::Handle;
+using recording::Tracking;
 
 namespace {
 
 using Lines = std::vector<std::string>;
 
-// Text of the contract's own headers in preprocessed source, as the line markers tell it.
+// The text of the contract's own headers in preprocessed source, found by the line markers.
 std::string contract_text() {
-    std::ifstream file(OBSERVING_CONTRACT);
+    std::ifstream file(RECORDING_CONTRACT);
     std::string text, line;
     bool own = false;
     while (std::getline(file, line)) {
@@ -55,16 +55,16 @@ std::set<std::string> declared_names() {
     return names;
 }
 
-class Observing : public testing::Test {
+class RecordingRuntime : public testing::Test {
 protected:
     void SetUp() override {
-        observing::clear_names();
-        observing::clear_log();
+        recording::clear_names();
+        recording::clear_log();
     }
     std::uint32_t err = 0;
 };
 
-TEST_F(Observing, DefinesEveryNameOfTheContract) {
+TEST_F(RecordingRuntime, DefinesEveryNameOfTheContract) {
     const std::set<std::string> names = declared_names();
     // Some of each kind must have been found: plain functions, expanded ones, objects.
     for (const char *name : {"skald_wrapper", "u_int64_backpropagate", "veld_view_bundle_handler_unregister",
@@ -78,62 +78,62 @@ TEST_F(Observing, DefinesEveryNameOfTheContract) {
         Dl_info info{};
         ASSERT_NE(dladdr(address, &info), 0) << name;
         // An object may have been copied into the program itself.
-        if (std::string(info.dli_fname).find("observing_test") != std::string::npos) continue;
-        EXPECT_TRUE(std::string(info.dli_fname).starts_with(OBSERVING_DIRECTORY)) << name << " in " << info.dli_fname;
+        if (std::string(info.dli_fname).find("recording_test") != std::string::npos) continue;
+        EXPECT_TRUE(std::string(info.dli_fname).starts_with(RECORDING_DIRECTORY)) << name << " in " << info.dli_fname;
     }
 }
 
-TEST_F(Observing, NamesAddresses) {
+TEST_F(RecordingRuntime, NamesAddresses) {
     Handle h;
     std::uint64_t words[4] = {};
-    observing::name_region("object", words, sizeof words);
-    EXPECT_EQ(observing::address_text(words), "object");
-    EXPECT_EQ(observing::address_text(words + 1), "object+8");
-    EXPECT_EQ(observing::address_text(nullptr), "null");
-    EXPECT_EQ(observing::address_text(&h), "local");
-    EXPECT_EQ(observing::address_text(&h->last_error), "last_error");
-    EXPECT_EQ(observing::address_text(&_mirk_boolean_type_info_internal), "mirk_boolean");
+    recording::name_region("object", words, sizeof words);
+    EXPECT_EQ(recording::address_text(words), "object");
+    EXPECT_EQ(recording::address_text(words + 1), "object+8");
+    EXPECT_EQ(recording::address_text(nullptr), "null");
+    EXPECT_EQ(recording::address_text(&h), "local");
+    EXPECT_EQ(recording::address_text(&h->last_error), "last_error");
+    EXPECT_EQ(recording::address_text(&_mirk_boolean_type_info_internal), "mirk_boolean");
     const mirk_variant_info &variants = *_ip_address_type_info_internal.variant_info;
-    EXPECT_EQ(observing::address_text(&variants.entries[0].num_live), "ip_address.num_live");
-    EXPECT_EQ(observing::address_text(&variants.entries[-128].num_created), "ip_address[-128].num_created");
+    EXPECT_EQ(recording::address_text(&variants.entries[0].num_live), "ip_address.num_live");
+    EXPECT_EQ(recording::address_text(&variants.entries[-128].num_created), "ip_address[-128].num_created");
     static int elsewhere;
-    EXPECT_EQ(observing::address_text(&elsewhere), "elsewhere");
+    EXPECT_EQ(recording::address_text(&elsewhere), "elsewhere");
 
     void *first = h->obj_alloc(h->mem_ctx, 5, 40);
     auto *second = static_cast<char *>(h->obj_alloc(h->mem_ctx, 5, 0));
-    EXPECT_EQ(observing::address_text(first), "block1");
-    EXPECT_EQ(observing::address_text(second), "block2");
-    observing::name_region("object", first, 40);
-    EXPECT_EQ(observing::address_text(first), "object");
-    observing::clear_names();
-    EXPECT_EQ(observing::address_text(first), "earlier");
+    EXPECT_EQ(recording::address_text(first), "block1");
+    EXPECT_EQ(recording::address_text(second), "block2");
+    recording::name_region("object", first, 40);
+    EXPECT_EQ(recording::address_text(first), "object");
+    recording::clear_names();
+    EXPECT_EQ(recording::address_text(first), "earlier");
 }
 
-TEST_F(Observing, RecordsCallsInOrder) {
+TEST_F(RecordingRuntime, RecordsCallsInOrder) {
     Handle h;
     alignas(8) std::uint8_t object[40] = {};
-    observing::name_region("object", object, sizeof object);
+    recording::name_region("object", object, sizeof object);
     h->write_notify(h->mem_ctx, object + 8, 1, 3);
     u_int32_set_value(h, 7, reinterpret_cast<std::uint32_t *>(object + 12), 5, &h->last_error);
     void *block = h->obj_alloc(h->mem_ctx, 9, 40);
     h->obj_free(h->mem_ctx, 9, block);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"write_notify object+8 1", "u_int32_set_value object+12 5", "obj_alloc 40", "obj_free block1"}));
-    EXPECT_EQ(observing::lines(Detail::full)[1], "u_int32_set_value object+12 5 ctx=7 err=last_error");
-    EXPECT_EQ(observing::log().back().ctx_id, 9u);
-    observing::show_inner();
-    EXPECT_EQ(observing::lines_of({"write_notify"}), (Lines{"write_notify object+8 1", "write_notify object+12 4"}));
-    observing::show_inner(false);
-    EXPECT_EQ(observing::count_of("obj_free"), 1u);
-    observing::quiet();
-    observing::clear_log();
+    EXPECT_EQ(recording::lines(Detail::full)[1], "u_int32_set_value object+12 5 ctx=7 err=last_error");
+    EXPECT_EQ(recording::log().back().ctx_id, 9u);
+    recording::show_inner();
+    EXPECT_EQ(recording::lines_of({"write_notify"}), (Lines{"write_notify object+8 1", "write_notify object+12 4"}));
+    recording::show_inner(false);
+    EXPECT_EQ(recording::count_of("obj_free"), 1u);
+    recording::pause();
+    recording::clear_log();
     mirk_store_err(h, 5);
-    observing::quiet(false);
-    EXPECT_TRUE(observing::log().empty());
+    recording::pause(false);
+    EXPECT_TRUE(recording::log().empty());
     EXPECT_EQ(h->last_error, 5u);
 }
 
-TEST_F(Observing, RecordsTraceLines) {
+TEST_F(RecordingRuntime, RecordsTraceLines) {
     std::uint16_t id = 0, same = 0, other = 0;
     std::uint64_t state = 0;
     skald_module_init_fn("mirk_lumo_ui_tarn_type", &id, &state);
@@ -141,19 +141,19 @@ TEST_F(Observing, RecordsTraceLines) {
     skald_module_init_fn("mirk_lumo_ui_tarn_type", &same, &state);
     EXPECT_EQ(id, same);
     EXPECT_NE(id, other);
-    observing::clear_log();
+    recording::clear_log();
     skald_wrapper(id, 3, 0, "(ERR): %s is not state tracked", "object");
     skald_wrapper(0, 7, 1, "(debug): %d", -4);
-    EXPECT_EQ(observing::lines(), (Lines{"skald_wrapper type 3 (ERR): object is not state tracked",
+    EXPECT_EQ(recording::lines(), (Lines{"skald_wrapper type 3 (ERR): object is not state tracked",
                                          "skald_wrapper 0 7 zero=1 (debug): -4"}));
-    const observing::Call call = observing::log().front();
+    const recording::Call call = recording::log().front();
     EXPECT_EQ(call.module, id);
     EXPECT_EQ(call.level, 3u);
     EXPECT_EQ(call.format, "(ERR): %s is not state tracked");
-    EXPECT_EQ(observing::traces().back(), "(debug): -4");
+    EXPECT_EQ(recording::traces().back(), "(debug): -4");
 }
 
-TEST_F(Observing, FailsAllocationsAsTold) {
+TEST_F(RecordingRuntime, FailsChosenAllocations) {
     Handle h;
     auto answers = [&] {
         std::string text;
@@ -169,7 +169,7 @@ TEST_F(Observing, FailsAllocationsAsTold) {
     EXPECT_EQ(h.live_blocks(), 9u);
     EXPECT_EQ(h.live_bytes(), 72u);
     EXPECT_EQ(h.obj_allocs(), 12u);
-    EXPECT_EQ(observing::log()[1].result, "null");
+    EXPECT_EQ(recording::log()[1].result, "null");
     EXPECT_EQ(h->obj_alloc(h->mem_ctx, 1, std::size_t{1} << 40), nullptr);
     h.fail_sys_alloc(1);
     EXPECT_EQ(h->sys_alloc(h->sys_ctx, 0xFFFFFFFF, 8), nullptr);
@@ -179,12 +179,12 @@ TEST_F(Observing, FailsAllocationsAsTold) {
     EXPECT_EQ(h.live_blocks(), 9u);
 }
 
-TEST_F(Observing, NoticesAMixUpOfContexts) {
+TEST_F(RecordingRuntime, AbortsOnAMixUpOfContexts) {
     Handle h;
-    EXPECT_DEATH(h->sys_alloc(h->mem_ctx, 0xFFFFFFFF, 8), "another word than sys_ctx");
+    EXPECT_DEATH(h->sys_alloc(h->mem_ctx, 0xFFFFFFFF, 8), "did not get sys_ctx");
 }
 
-TEST_F(Observing, NumbersHaveTheLowestByteFirst) {
+TEST_F(RecordingRuntime, NumbersHaveTheLowestByteFirst) {
     Handle h;
     std::uint64_t value = 0x1122334455667788, back = 0;
     std::array<std::uint8_t, 8> bytes{};
@@ -210,7 +210,7 @@ TEST_F(Observing, NumbersHaveTheLowestByteFirst) {
     EXPECT_EQ(err, 5u);
 }
 
-TEST_F(Observing, IntegersReadAndStore) {
+TEST_F(RecordingRuntime, IntegersReadAndStore) {
     Handle h;
     std::uint8_t field = 3;
     const std::uint8_t source = 9;
@@ -226,7 +226,7 @@ TEST_F(Observing, IntegersReadAndStore) {
     u_int8_set_value(h, 1, &field, 1, &err);
     EXPECT_EQ(field, 9u);
     EXPECT_EQ(u_int8_backpropagate(h, 1, &field, nullptr), 0u);
-    observing::mark_integer(&field);
+    recording::mark_integer(&field);
     EXPECT_EQ(u_int8_backpropagate(h, 1, &field, nullptr), 1u);
     EXPECT_EQ(u_int8_backpropagate(h, 1, &field, nullptr), 0u);
     std::uint8_t other = 9;
@@ -236,7 +236,7 @@ TEST_F(Observing, IntegersReadAndStore) {
     EXPECT_NE(u_int8_hash(&field, 4), u_int8_hash(&other, 4));
 }
 
-TEST_F(Observing, BooleansAreThreeBytes) {
+TEST_F(RecordingRuntime, BooleansAreThreeBytes) {
     Handle h;
     mirk_boolean field{}, back{};
     const std::uint64_t live = _mirk_boolean_type_info_internal.variant_info->entries[0].num_live;
@@ -262,7 +262,7 @@ TEST_F(Observing, BooleansAreThreeBytes) {
     EXPECT_EQ(err, static_cast<std::uint32_t>(EBADMSG));
 }
 
-TEST_F(Observing, AddressesCarryTheirStates) {
+TEST_F(RecordingRuntime, AddressesCarryTheirStates) {
     struct {
         ip_address address;
         std::uint8_t states[7];
@@ -282,7 +282,7 @@ TEST_F(Observing, AddressesCarryTheirStates) {
     ASSERT_EQ(ip_address_unmarshal(tracking, 1, bytes, &receiver.address, 30, 0, &err), 30u);
     EXPECT_EQ(ip_address_compare(&sender.address, &receiver.address), 0);
     EXPECT_EQ(std::memcmp(sender.states, receiver.states, 7), 0);
-    // An untracking reader steps over them.
+    // A handle that does not track skips them.
     ip_address untracked{};
     EXPECT_EQ(ip_address_unmarshal(plain, 1, bytes, &untracked, 30, 0, &err), 30u);
     EXPECT_EQ(ip_address_compare(&sender.address, &untracked), 0);
@@ -294,7 +294,7 @@ TEST_F(Observing, AddressesCarryTheirStates) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(Observing, AddressesHoldOidsAsTold) {
+TEST_F(RecordingRuntime, AddressesHoldChosenOids) {
     Handle h;
     ip_address address{};
     void *oids[2] = {};
@@ -315,7 +315,7 @@ TEST_F(Observing, AddressesHoldOidsAsTold) {
     EXPECT_EQ(err, 6u);
 }
 
-TEST_F(Observing, FrameItems) {
+TEST_F(RecordingRuntime, FrameItems) {
     Handle h;
     std::uint8_t bytes[12] = {};
     std::uint32_t jump = 0x01020304;
@@ -347,7 +347,7 @@ TEST_F(Observing, FrameItems) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(Observing, MessageHeaders) {
+TEST_F(RecordingRuntime, MessageHeaders) {
     Handle h;
     mirk_message_header header{0xBC, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 1, 0x01020304, 43}, back{};
     std::uint8_t frame[28] = {};
@@ -364,7 +364,7 @@ TEST_F(Observing, MessageHeaders) {
     EXPECT_EQ(err, static_cast<std::uint32_t>(EBADMSG));
 }
 
-TEST_F(Observing, DomainAnswersAsTold) {
+TEST_F(RecordingRuntime, DomainReturnsChosenVariants) {
     Handle h;
     mirk_type_info *type = &_ip_address_type_info_internal;
     EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, nullptr, &err), 0);
@@ -372,7 +372,7 @@ TEST_F(Observing, DomainAnswersAsTold) {
     h.knobs().variants["ip_address"] = {-2, 0};
     h.knobs().messages["ip_address"] = {0, 6};
     EXPECT_EQ(mirk_domain_lookup_variant(h, &h->domain, type, &err), -2);
-    EXPECT_EQ(observing::lines().back(), "mirk_domain_lookup_variant ip_address");
+    EXPECT_EQ(recording::lines().back(), "mirk_domain_lookup_variant ip_address");
     EXPECT_EQ(mirk_domain_lookup_message_ok(h, &h->domain, type, &err), 0u);
     EXPECT_EQ(err, 6u);
     err = 0;
@@ -381,18 +381,18 @@ TEST_F(Observing, DomainAnswersAsTold) {
     EXPECT_EQ(object.variant, -2);
     mirklib_adjust_variant(h, 1, nullptr, nullptr, 0, &err);
 
-    mirk_store_epoch_err(h, 43, &err);
-    EXPECT_EQ(err, 43u);
+    mirk_store_epoch_err(h, EIDRM, &err);
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EIDRM));
     err = 0;
-    h.knobs().slot_gets_43 = false;
-    mirk_store_epoch_err(h, 43, &err);
+    h.knobs().slot_gets_eidrm = false;
+    mirk_store_epoch_err(h, EIDRM, &err);
     EXPECT_EQ(err, 0u);
-    EXPECT_EQ(h->last_error, 43u);
-    mirk_store_epoch_err(h, 52, &err);
-    EXPECT_EQ(err, 52u);
+    EXPECT_EQ(h->last_error, static_cast<std::uint32_t>(EIDRM));
+    mirk_store_epoch_err(h, EBADE, &err);
+    EXPECT_EQ(err, static_cast<std::uint32_t>(EBADE));
 }
 
-TEST_F(Observing, StateOffsetsAndMarks) {
+TEST_F(RecordingRuntime, StateOffsetsAndMarks) {
     Handle h({.tracking = Tracking::on});
     auto *object = static_cast<mirk_object *>(h->obj_alloc(h->mem_ctx, 1, 40));
     *object = {&_ip_address_type_info_internal, 0, 0, 0};
@@ -407,13 +407,13 @@ TEST_F(Observing, StateOffsetsAndMarks) {
     mirk_set_instance_modified(object, 1, 0, 1);
     EXPECT_EQ(mirk_get_instance_modified(object, 0, 1), 1u);
     mirk_set_instance_modified(object, 1, 0, 0);
-    EXPECT_FALSE(observing::modified(object));
+    EXPECT_FALSE(recording::modified(object));
     EXPECT_EQ(mirk_get_instance_variant(nullptr, 1, 0), 0);
     h->obj_free(h->mem_ctx, 1, object);
     EXPECT_EQ(h.mappings(), 0u);
 }
 
-TEST_F(Observing, PrivateTypes) {
+TEST_F(RecordingRuntime, PrivateTypes) {
     Handle h({.private_types = 3});
     mirk_type_info *own = &_ip_address_type_info_internal;
     const auto init = [](mirk_handle *handle, std::uint32_t ctx_id, std::uint32_t *) {
@@ -424,22 +424,22 @@ TEST_F(Observing, PrivateTypes) {
         mirk_update_variant_info(handle, ctx_id, copy, &_ip_address_type_info_internal, 1);
     };
     EXPECT_EQ(mirk_type_info_ptr_get(h, 1, own, nullptr), own);
-    observing::clear_log();
+    recording::clear_log();
     mirk_type_info *copy = mirk_type_info_ptr_get(h, 1, own, init);
-    EXPECT_EQ(observing::lines(), (Lines{"mirk_type_info_ptr_get ip_address", "sys_alloc 4294967295 288",
+    EXPECT_EQ(recording::lines(), (Lines{"mirk_type_info_ptr_get ip_address", "sys_alloc 4294967295 288",
                                          std::string("type_store_put ") + own->luid_text + " ip_address",
                                          "mirk_update_variant_info ip_address 1"}));
     EXPECT_NE(copy, own);
     EXPECT_EQ(copy, mirk_type_info_ptr_get(h, 1, own, init));
-    EXPECT_EQ(observing::address_text(copy), "ip_address(copy)");
-    EXPECT_EQ(observing::address_text(&copy->variant_info->entries[-1].num_destroyed),
+    EXPECT_EQ(recording::address_text(copy), "ip_address(copy)");
+    EXPECT_EQ(recording::address_text(&copy->variant_info->entries[-1].num_destroyed),
               "ip_address(copy)[-1].num_destroyed");
     EXPECT_EQ(copy->variant_info->entries[-128].used_length, 32u);
     EXPECT_EQ(h.private_copies(), 1u);
     EXPECT_EQ(&h.private_copy("ip_address")->info, copy);
 }
 
-TEST_F(Observing, Bundles) {
+TEST_F(RecordingRuntime, Bundles) {
     Handle h;
     const std::uint8_t one[16] = {1}, two[16] = {2}, three[16] = {3};
     const mirk_allowed_row table[] = {{one, "first", 0}, {two, "second", 0}, {nullptr, nullptr, 0}};
@@ -461,9 +461,9 @@ TEST_F(Observing, Bundles) {
     EXPECT_EQ(mirklib_is_accumulating_bundle(h), 1u);
     h.file_received("a");
     h.file_received("b");
-    observing::clear_log();
+    recording::clear_log();
     bundle_receive_message_list_destroy(h, 1, &err);
-    EXPECT_EQ(observing::lines(),
+    EXPECT_EQ(recording::lines(),
               (Lines{"bundle_receive_message_list_destroy 2", "destroy_received a", "destroy_received b"}));
     EXPECT_EQ(mirklib_is_accumulating_bundle(h), 0u);
     h->recv_bundle_list = {nullptr, nullptr};
@@ -471,7 +471,7 @@ TEST_F(Observing, Bundles) {
     EXPECT_EQ(h->recv_bundle_list.prev, &h->recv_bundle_list);
 }
 
-TEST_F(Observing, Documents) {
+TEST_F(RecordingRuntime, Documents) {
     Handle h;
     Element document{"doc", "", {}};
     Element &a = document.add("x").add("a");
@@ -513,13 +513,13 @@ TEST_F(Observing, Documents) {
     EXPECT_STREQ(value, "text");
     EXPECT_EQ(xml_get_element_value(&document, "//empty", nullptr, 0, &length), 0u);
     EXPECT_EQ(xml_get_element_value(&document, "//absent", value, 5, nullptr), static_cast<std::uint32_t>(ENOENT));
-    observing::fail_xml("//c", 5);
+    recording::fail_xml("//c", 5);
     EXPECT_EQ(xml_get_element_value(&document, "//c", value, 5, nullptr), 5u);
-    observing::fail_xml("//c", 0);
+    recording::fail_xml("//c", 0);
     EXPECT_EQ(count("//c"), 1);
 }
 
-TEST_F(Observing, TextForms) {
+TEST_F(RecordingRuntime, TextForms) {
     Handle h;
     std::array<char, 64> buffer{};
     auto text = [&](std::uint32_t length) { return std::string(buffer.data(), length); };
@@ -534,28 +534,28 @@ TEST_F(Observing, TextForms) {
     EXPECT_EQ(text(mirk_snprintf(h, 1, buffer.data(), 5, &err, "%s-%d", "ab", 12)), "ab-12");
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(mirk_snprintf(h, 1, buffer.data(), 4, &err, "%s-%d", "ab", 12), 0u);
-    EXPECT_EQ(err, observing::text_overflow_error);
+    EXPECT_EQ(err, recording::text_overflow_error);
 }
 
-TEST_F(Observing, ProcessWideAnswers) {
+TEST_F(RecordingRuntime, ProcessWideAnswers) {
     EXPECT_EQ(mirklib_msg_recorder_get_state(), 0u);
-    observing::set_recorder(1, stderr);
+    recording::set_recorder(1, stderr);
     EXPECT_EQ(mirklib_msg_recorder_get_handle(), stderr);
-    observing::set_recorder(0, nullptr);
+    recording::set_recorder(0, nullptr);
     void *block = mirklib_malloc(nullptr, 4, 16);
-    EXPECT_EQ(observing::live_mallocs(), 1u);
+    EXPECT_EQ(recording::live_mallocs(), 1u);
     mirklib_free(nullptr, 4, block);
-    observing::fail_malloc();
+    recording::fail_malloc();
     EXPECT_EQ(mirklib_malloc(nullptr, 4, 16), nullptr);
-    observing::fail_malloc(false);
-    EXPECT_EQ(observing::live_mallocs(), 0u);
+    recording::fail_malloc(false);
+    EXPECT_EQ(recording::live_mallocs(), 0u);
 
     const auto handler = [](mirk_handle *, std::uint32_t, void *, std::uint32_t *) {};
     EXPECT_EQ(veld_intf_bundle_handler_register(handler), nullptr);
-    EXPECT_NE(observing::sibling_handler("intf"), nullptr);
-    EXPECT_EQ(observing::sibling_handler("view"), nullptr);
+    EXPECT_NE(recording::sibling_handler("intf"), nullptr);
+    EXPECT_EQ(recording::sibling_handler("view"), nullptr);
     EXPECT_NE(veld_intf_bundle_handler_unregister(), nullptr);
-    EXPECT_EQ(observing::sibling_handler("intf"), nullptr);
+    EXPECT_EQ(recording::sibling_handler("intf"), nullptr);
     EXPECT_EQ(std::string(message_ui_req_msg_name), "message ui_req_msg");
 }
 

@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <utility>
 
-#include "provider.h"
+#include "internal.h"
 
-namespace observing {
+namespace recording {
 
 namespace {
 
@@ -19,7 +19,7 @@ std::string tag(const std::string &name, std::uint8_t state) {
     return "<" + name + " s='" + std::to_string(state) + "'>";
 }
 
-// Anything but plain characters as a percent sign and two digits.
+// Escapes all but plain characters as a percent sign and two digits.
 std::string escaped(const char *chars, std::uint32_t length) {
     std::string text;
     for (std::uint32_t i = 0; i < length; ++i) {
@@ -40,9 +40,9 @@ void collect(const Element &from, std::string_view name, bool deep, std::vector<
     }
 }
 
-// The elements at the path, in document order; an error number for what is no path.
+// The elements at the path, in document order, or an error number if the path is invalid.
 std::uint32_t find(const void *document, std::string_view path, std::vector<const Element *> &found) {
-    if (const auto told = xml_errors.find(path); told != xml_errors.end()) return told->second;
+    if (const auto chosen = xml_errors.find(path); chosen != xml_errors.end()) return chosen->second;
     if (!document || !path.starts_with("//") || path.ends_with('/')) return EINVAL;
     path.remove_prefix(2);
     const auto &root = *static_cast<const Element *>(document);
@@ -151,9 +151,9 @@ mirk_bundle_handler sibling_handler(std::string_view module) {
     return found == siblings.end() ? nullptr : found->second;
 }
 
-}  // namespace observing
+}  // namespace recording
 
-using namespace observing;
+using namespace recording;
 
 // ---- frames ----
 
@@ -209,7 +209,7 @@ std::uint32_t mirklib_get_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *in
     *ra_byte = data.byte;
     return state.knobs.ra_result;
 }
-// The byte, three bytes of filling, the value.
+// The byte, three fill bytes, the value.
 std::uint32_t _mirk_instance_ra_data_marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, void **ra_value,
                                              std::uint8_t *ra_byte, std::int32_t remaining, std::uint32_t *err) {
     const auto value = reinterpret_cast<std::uintptr_t>(*ra_value);
@@ -365,7 +365,7 @@ std::uint32_t mirk_snprintf(mirk_handle *h, std::uint32_t ctx_id, char *buffer, 
     va_end(arguments);
     const std::string text = length < 0 ? "" : formatted;
     if (length >= 0) std::free(formatted);
-    // Line ends would break up the lines of the log.
+    // A line end would split a line of the log.
     std::string shown = text;
     for (std::size_t end = 0; (end = shown.find('\n', end)) != shown.npos;) shown.replace(end, 1, "\\n");
     Entry entry(__func__, ctx_id, err, at(buffer), remaining, shown.c_str());

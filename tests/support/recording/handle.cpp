@@ -1,16 +1,16 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "provider.h"
+#include "internal.h"
 
-namespace observing {
+namespace recording {
 
 namespace {
 
 State &owner_of(void *context, const char *purpose) {
     auto *given = static_cast<Context *>(context);
     if (!given || std::strcmp(given->purpose, purpose) != 0) {
-        std::fprintf(stderr, "observing: a callback was given another word than %s\n", purpose);
+        std::fprintf(stderr, "recording runtime: a callback did not get %s\n", purpose);
         std::abort();
     }
     return *given->owner;
@@ -24,7 +24,7 @@ void *sys_alloc(void *sys_ctx, std::uint32_t id, std::size_t size) {
         std::memset(block, 0xA5, size);
         state.sys_blocks.push_back(block);
     }
-    if (recording()) Entry::set_result(block ? "block" : "null");
+    if (is_recording()) Entry::set_result(block ? "block" : "null");
     return block;
 }
 
@@ -38,12 +38,12 @@ void *obj_alloc(void *mem_ctx, std::uint32_t ctx_id, std::size_t size) {
         std::memset(block, 0xA5, size);
         state.blocks[reinterpret_cast<std::uintptr_t>(block)] = {size, next_block_number()};
     }
-    if (recording()) Entry::set_result(address_text(block));
+    if (is_recording()) Entry::set_result(address_text(block));
     return block;
 }
 
 template <class Entries>
-void forget_within(Entries &entries, void *start, std::size_t size) {
+void erase_within(Entries &entries, void *start, std::size_t size) {
     auto *last = static_cast<char *>(start) + size;
     entries.erase(entries.lower_bound(start), entries.lower_bound(last));
 }
@@ -55,8 +55,8 @@ void obj_free(void *mem_ctx, std::uint32_t ctx_id, void *p) {
     if (block == state.blocks.end()) return;  // such as the sentinel of a control message
     const std::size_t size = block->second.size;
     state.blocks.erase(block);
-    forget_within(state.offsets, p, std::max<std::size_t>(size, 1));
-    forget_within(state.ra, p, std::max<std::size_t>(size, 1));
+    erase_within(state.offsets, p, std::max<std::size_t>(size, 1));
+    erase_within(state.ra, p, std::max<std::size_t>(size, 1));
     std::memset(p, 0xDD, size);
     std::free(p);
 }
@@ -177,7 +177,7 @@ void Handle::set_workspace(std::uint32_t size) { state_->workspace.assign(std::s
 std::vector<std::pair<std::string, std::uint32_t>> Handle::send_bundle() const {
     std::vector<std::pair<std::string, std::uint32_t>> result;
     const mirk_list_head &head = state_->send_bundle_list;
-    // New entries stand in front.
+    // New entries are added at the front.
     for (const mirk_list_head *link = head.prev; link && link != &head; link = link->prev) {
         const auto *node = reinterpret_cast<const Node *>(link);
         result.emplace_back(node->name, node->count);
@@ -194,4 +194,4 @@ void Handle::file_received(std::string name) {
     head.prev = &node.link;
 }
 
-}  // namespace observing
+}  // namespace recording

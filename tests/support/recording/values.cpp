@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <set>
 
-#include "provider.h"
+#include "internal.h"
 
-namespace observing {
+namespace recording {
 
 namespace {
 
@@ -50,7 +50,7 @@ constinit Entries boolean_entries = entries_of(12, 4), address_entries = entries
 constinit mirk_variant_info boolean_variants = {1, &boolean_entries.entry[128]};
 constinit mirk_variant_info address_variants = {1, &address_entries.entry[128]};
 
-// Decimal or hexadecimal digits and nothing else, up to the greatest value allowed.
+// Accepts only decimal or hexadecimal digits, up to the largest allowed value.
 bool parse_number(const std::string &text, std::uint64_t greatest, std::uint64_t &number) {
     if (text.empty() || !std::isxdigit(static_cast<unsigned char>(text[0]))) return false;
     char *end = nullptr;
@@ -173,9 +173,9 @@ void mark_integer(const void *field) {
     marked_integers.insert(field);
 }
 
-}  // namespace observing
+}  // namespace recording
 
-using namespace observing;
+using namespace recording;
 
 #define OBSERVED_INTEGER(K, T)                                                                                        \
     T *K##_get(mirk_handle *h, std::uint32_t ctx_id, T *field, std::uint32_t *err) {                                  \
@@ -411,7 +411,7 @@ void ip_address_get_object_references(mirk_handle *h, std::uint32_t ctx_id, ip_a
         *err = knobs.address_references_error;
         return;
     }
-    // Places beyond the oids there are get null, as the caller reads all that it asked for.
+    // Entries past the existing oids are set to null, since the caller reads all that it requested.
     for (std::uint32_t i = 0; i < size; ++i) oids[i] = i < knobs.address_oids.size() ? knobs.address_oids[i] : nullptr;
 }
 std::uint32_t ip_address_len(mirk_handle *h, std::uint32_t ctx_id, ip_address *field) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <atomic>
 
-#include "provider.h"
+#include "internal.h"
 
-namespace observing {
+namespace recording {
 
 namespace {
 
@@ -17,7 +17,7 @@ struct Region {
 
 std::vector<Call> calls;
 std::vector<Region> regions;
-std::atomic<bool> is_quiet{false};
+std::atomic<bool> is_paused{false};
 std::atomic<std::uint64_t> block_number{0};
 bool inner_shown = false;
 
@@ -108,7 +108,7 @@ bool among(std::initializer_list<std::string_view> functions, const std::string 
 std::recursive_mutex guard;
 thread_local int Entry::depth = 0;
 
-bool recording() { return !is_quiet.load(std::memory_order_relaxed); }
+bool is_recording() { return !is_paused.load(std::memory_order_relaxed); }
 std::uint64_t next_block_number() { return ++block_number; }
 
 void Entry::append(Call call) {
@@ -126,8 +126,8 @@ bool Entry::refused(mirk_handle *h, std::uint32_t *err) const {
     if (*err) return true;
     const Knobs &knobs = state_of(h).knobs;
     if (knobs.errors.empty()) return false;
-    if (const auto told = knobs.errors.find(std::string_view(function_)); told != knobs.errors.end()) {
-        *err = told->second;
+    if (const auto found = knobs.errors.find(std::string_view(function_)); found != knobs.errors.end()) {
+        *err = found->second;
     }
     return *err != 0;
 }
@@ -158,7 +158,7 @@ void clear_log() {
     calls.clear();
 }
 void show_inner(bool on) { inner_shown = on; }
-void quiet(bool on) { is_quiet = on; }
+void pause(bool on) { is_paused = on; }
 
 std::vector<std::string> lines(Detail detail) {
     return select(detail, [](const std::string &) { return true; });
@@ -183,7 +183,7 @@ void name_region(std::string name, const void *address, std::size_t size) {
     std::lock_guard lock(guard);
     regions.push_back({std::move(name), reinterpret_cast<std::uintptr_t>(address), size});
 }
-void forget_region(std::string_view name) {
+void remove_region(std::string_view name) {
     std::lock_guard lock(guard);
     std::erase_if(regions, [&](const Region &region) { return region.name == name; });
 }
@@ -212,4 +212,4 @@ std::string address_text(const void *address) {
     return on_stack(number) ? "local" : "elsewhere";
 }
 
-}  // namespace observing
+}  // namespace recording

@@ -1,6 +1,6 @@
-// What the sources of the provider share.
-#ifndef TESTS_SUPPORT_OBSERVING_PROVIDER_H
-#define TESTS_SUPPORT_OBSERVING_PROVIDER_H
+// Shared by the sources of the recording runtime.
+#ifndef TESTS_SUPPORT_RECORDING_INTERNAL_H
+#define TESTS_SUPPORT_RECORDING_INTERNAL_H
 
 #include <cerrno>
 #include <concepts>
@@ -9,9 +9,9 @@
 #include <mutex>
 #include <type_traits>
 
-#include "observing.h"
+#include "recording.h"
 
-namespace observing {
+namespace recording {
 
 // ---- one call under way ----
 
@@ -28,17 +28,17 @@ std::string show(T number) {
     return std::to_string(+number);
 }
 
-bool recording();
+bool is_recording();
 // Over the log, the names and the list of handles.
 extern std::recursive_mutex guard;
 
-// Records a call when it begins; calls recorded before it ends are inner ones.
+// Records a call when it starts; calls recorded before it ends are inner ones.
 class Entry {
 public:
     template <class... Shown>
     Entry(const char *function, std::optional<std::uint32_t> ctx_id, const std::uint32_t *err, Shown... shown)
         : function_(function) {
-        if (recording()) {
+        if (is_recording()) {
             Call call;
             call.function = function;
             call.arguments = {show(shown)...};
@@ -52,7 +52,7 @@ public:
     Entry(const Entry &) = delete;
     Entry &operator=(const Entry &) = delete;
 
-    // The slot holds an error already, or the handle was told to let this function fail.
+    // True if the slot holds an error already, or the handle's knobs make this function fail.
     bool refused(mirk_handle *h, std::uint32_t *err) const;
 
     static void append(Call call);
@@ -64,7 +64,7 @@ private:
     const char *function_;
 };
 
-// For the time of a call back into the library, whose calls are not inner ones.
+// For the duration of a callback into the library, whose calls are not inner ones.
 class Outside {
 public:
     Outside() : depth_(Entry::depth) { Entry::depth = 0; }
@@ -80,7 +80,7 @@ private:
 
 struct Block {
     std::size_t size;
-    std::uint64_t number;  // 0 once its number was given up
+    std::uint64_t number;  // 0 after clear_names
 };
 
 // Each callback has a context of its own, so that a mix-up is noticed.
@@ -104,15 +104,15 @@ struct PrivateVariants {
 struct Failing {
     std::uint64_t requests = 0;
     std::uint64_t first = 0;  // the request that fails, 0 for none
-    bool all_behind = false;
+    bool later_too = false;
 
     void arm(std::uint64_t nth, bool all) {
         first = nth ? requests + nth : 0;
-        all_behind = all;
+        later_too = all;
     }
     bool next() {
         ++requests;
-        return first != 0 && (requests == first || (all_behind && requests > first));
+        return first != 0 && (requests == first || (later_too && requests > first));
     }
 };
 
@@ -140,7 +140,7 @@ inline bool tracks(const mirk_handle *h) { return h->sttr_desc && h->sttr_desc->
 
 // ---- bytes and text ----
 
-// Numbers lie on the wire with their lowest byte first.
+// Numbers are on the wire with the lowest byte first.
 template <std::unsigned_integral T>
 void put_number(std::uint8_t *to, T number) {
     for (std::size_t i = 0; i < sizeof(T); ++i)
@@ -180,7 +180,7 @@ std::uint32_t mix(const void *data, std::size_t length, std::uint32_t seed);
 inline constexpr std::uint8_t flag_embedded = 2, flag_nested = 4, flag_tracked = 8, flag_ra = 32, flag_offset = 64,
                               flag_modified = 128;
 
-// What initialize does to every object that the provider itself describes; false if it found the slot set.
+// Initializes an object of one of the runtime's own types; false if an error is set.
 bool initialize_header(mirk_handle *h, std::uint32_t ctx_id, void *object, mirk_type_info *type, std::uint32_t notify,
                        std::uint32_t skip_count, std::uint8_t flags, std::uint32_t *err);
 void count(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type, std::uint64_t *counter,
@@ -189,6 +189,6 @@ void notify_write(mirk_handle *h, std::uint32_t ctx_id, void *address, std::size
 // Null for an object without state.
 std::uint8_t *state_area(mirk_handle *h, void *object, std::size_t base_size);
 
-}  // namespace observing
+}  // namespace recording
 
 #endif

@@ -1,8 +1,8 @@
-// A second provider of the runtime contract, for tests only. It chooses differently wherever the contract leaves a
-// runtime free (byte order, widths on the wire, text and XML forms, hash, identifiers), and writes down every call that
-// is made of it, so that a test can compare a whole sequence of calls with the one it expects.
-#ifndef TESTS_SUPPORT_OBSERVING_OBSERVING_H
-#define TESTS_SUPPORT_OBSERVING_OBSERVING_H
+// The recording runtime: a second implementation of the contract, for tests only. It chooses differently wherever the
+// contract leaves a choice (byte order, widths on the wire, text and XML forms, hash, identifiers), and records every
+// call, so that a test can compare a whole sequence of calls with the expected one.
+#ifndef TESTS_SUPPORT_RECORDING_RECORDING_H
+#define TESTS_SUPPORT_RECORDING_RECORDING_H
 
 #include <cstddef>
 #include <cstdint>
@@ -19,20 +19,20 @@
 #include "kit/tracking.h"
 #include "mirk/mirk.h"
 
-namespace observing {
+namespace recording {
 
 // ---- the log: one for the process, in the order of the calls ----
 
-// One call of a contract function or of a callback of a handle. The arguments that matter are kept as they read at the
-// time of the call: an address as text (see name_region), a number in decimal, a type by its name. Handle, ctx_id and
-// error slot are not among them; mirk_store_epoch_err is the exception and ends in its slot.
+// One call of a contract function or of a handle's callback. The relevant arguments are recorded as text at the time of
+// the call: an address by its region (see name_region), a number in decimal, a type by its name. They do not include
+// handle, ctx_id and error slot, except that the last argument of mirk_store_epoch_err is its slot.
 struct Call {
     std::string function;
     std::vector<std::string> arguments;
     std::optional<std::uint32_t> ctx_id;  // absent where the function takes none
     std::string slot;                     // the error slot as address text, empty where the function takes none
     std::string result;                   // of obj_alloc and sys_alloc only: the block's name, or "null"
-    bool inner = false;                   // made by this provider itself, while it serves another call
+    bool inner = false;                   // made by this runtime itself, while it serves another call
 
     // Of skald_wrapper only.
     std::uint16_t module = 0;
@@ -47,12 +47,12 @@ enum class Detail {
 };
 
 // Lines read "<function> <arguments>", such as "write_notify object+8 1", "obj_alloc 40" or
-// "skald_wrapper type 3 (ERR): The object is not state tracked". A trace module stands by its registered name without
-// the part that all four share ("type", "message", "queue", "stub"), an unknown one by its number.
+// "skald_wrapper type 3 (ERR): The object is not state tracked". A trace module reads as its registered name without
+// the part that all four share ("type", "message", "queue", "stub"), an unknown one as its number.
 std::string line(const Call &call, Detail detail = Detail::brief);
 
-// All calls, inner ones included. The functions below leave out inner calls, such as the write_notify with which
-// u_int32_set_value announces its store, unless show_inner is on.
+// All calls, inner ones included. The functions below omit inner calls, such as the write_notify that u_int32_set_value
+// makes before it stores, unless show_inner is on.
 std::vector<Call> log();
 void clear_log();
 void show_inner(bool on = true);
@@ -65,11 +65,11 @@ std::size_t count_of(std::string_view function);
 // The formatted lines of all trace calls, without module and level.
 std::vector<std::string> traces();
 
-// While quiet nothing is recorded (and handles may be used on several threads, one thread to a handle).
-void quiet(bool on = true);
+// While paused, nothing is recorded, and handles may be used on several threads, one thread per handle.
+void pause(bool on = true);
 
-// Traces at level 0 are followed by abort(): they always go to standard error too, so that a death test can match them.
-// This sends all others there as well.
+// Traces at level 0 are followed by abort(), so they always go to standard error, where a death test can match them.
+// This sends all others there too.
 void echo_traces(bool on = true);
 
 // ---- names of addresses ----
@@ -78,10 +78,10 @@ void echo_traces(bool on = true);
 // before earlier ones; then live blocks of obj_alloc ("block1", "block2", ... counted from the last clear_names); then
 // "last_error", "workspace"; then "local" for other stack addresses, a type record by its type's name (followed by
 // "(copy)" for a private copy) and a counter as "<type>.num_live" ("<type>[-3].num_live" for another variant);
-// "null"; "handle+N" for another member of a handle; and "elsewhere" for all that is left.
+// "null"; "handle+N" for another member of a handle; and "elsewhere" for any other address.
 void name_region(std::string name, const void *address, std::size_t size);
-void forget_region(std::string_view name);
-// Forgets all named regions and starts counting blocks at 1 again; blocks live by then read as "earlier".
+void remove_region(std::string_view name);
+// Removes all named regions and starts counting blocks at 1 again; blocks that are live then read as "earlier".
 void clear_names();
 std::string address_text(const void *address);
 
@@ -108,10 +108,10 @@ struct RaData {
     std::uint8_t byte = 0;
 };
 
-// What the runtime answers on one handle. All of it can be changed at any time.
+// How the runtime behaves on one handle. Can be changed at any time.
 struct Knobs {
     // Memory. Counting starts at 1 with the next request after the knob is set (see the setters of Handle).
-    std::size_t block_ceiling = std::size_t{64} << 20;  // larger requests answer null
+    std::size_t block_ceiling = std::size_t{64} << 20;  // larger requests return null
     bool null_for_size_0 = false;
 
     // Domain, by the type's name ("" for a null type).
@@ -119,10 +119,10 @@ struct Knobs {
     VariantAnswer default_variant;
     std::map<std::string, MessageAnswer, std::less<>> messages;
     MessageAnswer default_message;
-    bool slot_gets_43 = true;  // whether mirk_store_epoch_err writes the slot too
-    bool slot_gets_52 = true;
+    bool slot_gets_eidrm = true;  // whether mirk_store_epoch_err writes the slot too
+    bool slot_gets_ebade = true;
     bool adjust_variant = true;  // whether mirklib_adjust_variant stores anything
-    bool no_type_info = false;   // mirk_type_info_ptr_get answers null
+    bool no_type_info = false;   // mirk_type_info_ptr_get returns null
 
     // Object references.
     std::uint32_t oid_destroy_result = 1;
@@ -145,12 +145,12 @@ struct Knobs {
     void *dispatch_lut = nullptr;
 
     // By the name of a function of values, wire, text, XML, message headers or send bundles that has an error slot,
-    // such as "u_int32_marshal" or "_mirk_message_header_marshal": it writes this error, does nothing else and returns
-    // 0 or null. An error that stands in the slot already is kept.
+    // such as "u_int32_marshal" or "_mirk_message_header_marshal": it sets this error, does nothing else and returns 0
+    // or null. An error that is already set is kept.
     std::map<std::string, std::uint32_t, std::less<>> errors;
 };
 
-struct State;  // the handle with the runtime's private members behind it
+struct State;  // the handle, followed by the runtime's private members
 
 class Handle {
 public:
@@ -166,7 +166,7 @@ public:
 
     void set_tracking(Tracking tracking);
 
-    // The nth request from now on answers null, or all from the nth on; 0 ends the failing.
+    // The nth request from now on fails with null, or all from the nth on; 0 stops this.
     void fail_obj_alloc(std::uint64_t nth);
     void fail_obj_alloc_from(std::uint64_t nth);
     void fail_sys_alloc(std::uint64_t nth);
@@ -175,7 +175,7 @@ public:
 
     std::size_t live_blocks() const;
     std::size_t live_bytes() const;
-    std::size_t block_size(const void *block) const;  // 0 if it is no live block
+    std::size_t block_size(const void *block) const;  // 0 if it is not a live block
 
     // Entries that the library made.
     std::optional<std::uint32_t> state_offset(const void *object) const;
@@ -185,10 +185,10 @@ public:
     std::size_t private_copies() const;
     mirk_type_info_copy *private_copy(std::string_view type_name) const;
 
-    void set_workspace(std::uint32_t size);  // default 48 KiB; one byte of slack stands behind
-    // What the open send bundle holds: name and count of each message, in order of admission.
+    void set_workspace(std::uint32_t size);  // default 48 KiB, not counting its guard byte
+    // Contents of the open send bundle: name and count of each message, in order of admission.
     std::vector<std::pair<std::string, std::uint32_t>> send_bundle() const;
-    // Enters a token on recv_bundle_list, whose destruction is recorded as "destroy_received <name>".
+    // Adds a token to recv_bundle_list, whose destruction is recorded as "destroy_received <name>".
     void file_received(std::string name);
 
 private:
@@ -199,19 +199,19 @@ private:
 
 void set_modified(void *object, bool modified);
 bool modified(const void *object);
-// A bare integer has no room for a mark: its backpropagate answers 1 once for an address marked here.
+// A bare integer has no room for a mark: its backpropagate returns 1 once for an address marked here.
 void mark_integer(const void *field);
 void set_recorder(std::uint32_t state, FILE *stream);
-void fail_malloc(bool on = true);  // mirklib_malloc answers null
-std::size_t live_mallocs();        // blocks of mirklib_malloc not yet given back
-// The handler that a sibling module ("comm", "defs", ...) holds, or null.
+void fail_malloc(bool on = true);  // mirklib_malloc returns null
+std::size_t live_mallocs();        // blocks of mirklib_malloc that have not been freed
+// The handler registered for a sibling module ("comm", "defs", ...), or null.
 mirk_bundle_handler sibling_handler(std::string_view module);
 
 // ---- documents ----
 
-// An element and what is in it; its address is the document argument of the from_xml operations. Paths are "//a",
-// "//a/b" and "//a/b[2]/c": the first step finds elements at any depth, the document itself included, and a position
-// counts among equally named children of one parent. Any other path is error 22.
+// An element and its content; its address is the document argument of the from_xml operations. Paths are "//a",
+// "//a/b" and "//a/b[2]/c": the first step finds elements at any depth, including the document itself, and a position
+// counts among equally named children of one parent. Any other path fails with EINVAL.
 struct Element {
     std::string name;
     std::string value;
@@ -221,10 +221,10 @@ struct Element {
     Element &add(std::string child_name, std::string child_value = "");
 };
 
-// Look-ups of exactly this path end with this error; 0 ends that.
+// Look-ups of exactly this path fail with this error; 0 stops this.
 void fail_xml(std::string path, std::uint32_t error);
 
-// ---- sizes that this provider chose, all of them different from what another may choose ----
+// ---- sizes that this runtime chooses, different from those of the reference runtime ----
 
 inline constexpr std::uint32_t boolean_wire_size = 3;
 inline constexpr std::uint32_t address_wire_size = 23;          // in a frame without state bytes
@@ -232,6 +232,6 @@ inline constexpr std::uint32_t tracked_address_wire_size = 30;  // on a tracking
 inline constexpr std::uint32_t ra_wire_size = 12;
 inline constexpr std::uint32_t text_overflow_error = 75;
 
-}  // namespace observing
+}  // namespace recording
 
 #endif

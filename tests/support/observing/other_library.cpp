@@ -1,1 +1,0 @@
-// The runtime stands in one library. This one is there only to be found under its name.
