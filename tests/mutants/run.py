@@ -23,9 +23,9 @@ import time
 WANTED = 0.95
 LARGE = 100  # from here on the share itself is asked for
 BAD_LUCK = 0.01
-PROGRAMS = ["families/families_module_test", "messaging/messaging_replaced_test", "encodings/encodings_sequence_test",
-            "messaging/messaging_sequence_test", "families/families_sequence_test", "families/families_test",
-            "messaging/messaging_test", "encodings/encodings_test", "examples/one_answer", "trust/trust_test"]
+PROGRAMS = ["families/families_module_test", "messaging/messaging_replaced_test", "messaging/messaging_sequence_test",
+            "families/families_sequence_test", "messaging/messaging_test", "families/families_test", "examples/one_answer",
+            "trust/trust_test"]
 ONLY = {"trust_test": "AllocationSweep.*"}  # the rest of it takes minutes
 
 
