@@ -1,17 +1,20 @@
 /** @file
  * mirk_platform.h - control interface of the reference runtime.
  *
- * The contract headers (mirk/mirk.h) say what a schema library may call. This header is for the programs around such a
- * library: it opens handles, fills their domains, loads documents, dispatches received frames and moves frames over
- * sockets. A schema library never calls anything declared here.
+ * The contract (mirk/mirk.h) declares what a schema library may call. This header is for programs that use such a
+ * library: it opens handles, configures their domains, loads XML documents, dispatches received frames, and sends and
+ * receives frames over sockets. A schema library calls nothing that is declared here.
  *
  * Conventions
- *   - A result of type mirk_platform_error is 0 or a system error number (errno.h); nothing is thrown.
- *   - A handle, and everything made for it, belongs to one thread at a time. The trace, the recorder switch and
- *     mirk_platform_server_stop may be used from any thread.
- *   - Text is NUL-terminated. Text given to a call is copied unless the call says that it is kept.
- *   - A structure of options begins with its size, which its initializer sets. Later versions add members at the end:
- *     programs that were compiled before get their defaults.
+ *   - mirk_platform_error is 0 or an error number of errno.h. Functions that return it also return ENOMEM if an
+ *     allocation fails, and EIO for an unexpected failure. No function throws an exception.
+ *   - Use each handle, document, server and client from one thread at a time. Functions of the trace, the recorder and
+ *     mirk_platform_server_stop() may be called from any thread.
+ *   - Text is NUL-terminated. Functions copy the text that they are given unless their comment says otherwise.
+ *   - Pointers must not be null unless the comment permits it.
+ *   - Options structures begin with their size, which the initializer sets. Later versions only add members at the end,
+ *     so programs compiled with this header keep working and get the defaults of new members.
+ *   - Frame buffers have a guard byte: one byte after their stated size that must be readable and writable.
  */
 #ifndef MIRK_PLATFORM_H
 #define MIRK_PLATFORM_H
@@ -33,387 +36,453 @@
 extern "C" {
 #endif
 
-/** 0, or a system error number. */
+/** 0, or an error number of errno.h. */
 typedef uint32_t mirk_platform_error;
 
-/** What went wrong, for people and for programs. `number` 0 means nothing did. */
+/** Describes an error for users and programs. All members are 0 after success. */
 typedef struct mirk_platform_report {
-    uint32_t number;    /**< system error number */
-    uint32_t offset;    /**< dispatch: first byte of the frame concerned */
-    uint32_t line;      /**< documents: line, counted from 1; 0 if there is none */
-    char sentence[256]; /**< one sentence without a line end */
+    uint32_t number;    /**< error number of errno.h; 0: no error */
+    uint32_t offset;    /**< dispatch: offset of the frame in the buffer, in bytes */
+    uint32_t line;      /**< documents: line, counted from 1; 0 if unknown */
+    char sentence[256]; /**< description without a line end; cut if it is longer */
 } mirk_platform_report;
 
 /* ---- handles ---------------------------------------------------------------------------------------------------- */
 
-/** Whether a handle tracks state. */
+/** State tracking of a handle: whether objects have a state byte for each member. */
 typedef enum mirk_platform_tracking {
-    MIRK_PLATFORM_TRACKING_NONE = 0, /**< no descriptor */
-    MIRK_PLATFORM_TRACKING_OFF = 1,  /**< a descriptor that says 0xDDDD */
-    MIRK_PLATFORM_TRACKING_ON = 2    /**< a descriptor that says 0xEEEE */
+    MIRK_PLATFORM_TRACKING_NONE = 0, /**< off: no descriptor */
+    MIRK_PLATFORM_TRACKING_OFF = 1,  /**< off: a descriptor with the word 0xDDDD */
+    MIRK_PLATFORM_TRACKING_ON = 2    /**< on: a descriptor with the word 0xEEEE */
 } mirk_platform_tracking;
 
-/** What errors of variant and domain do to the slot. */
+/** What mirk_store_epoch_err() does with EIDRM: an object has no body, or the domain does not have its variant. */
 typedef enum mirk_platform_epoch_policy {
-    MIRK_PLATFORM_STRICT = 0, /**< mirk_store_epoch_err writes last_error and the slot */
-    /** 43 leaves the slot clear (and last_error, when that is the slot), so that a frame which the domain wants in an
-     * older variant is written to its end; callers of accessors then see no error for a negative variant */
+    MIRK_PLATFORM_STRICT = 0, /**< writes last_error and the error slot, as for every other error */
+    /** Leaves the error slot clear, so that a frame is written completely in the older variant that the domain has.
+     * Writes last_error, unless that is the slot. Accessors of an object without a body then report no error. */
     MIRK_PLATFORM_LENIENT_EIDRM = 1
 } mirk_platform_epoch_policy;
 
-/** How a handle is opened. */
+/** Options of mirk_platform_handle_open(). Initialize them with mirk_platform_handle_options_init(). */
 typedef struct mirk_platform_handle_options {
-    size_t size;                     /**< of the structure as the program knows it; set by the initializer */
+    size_t size;                     /**< bytes of this structure; set by the initializer */
     mirk_platform_tracking tracking; /**< default NONE */
-    uint32_t private_types;          /**< default 0; nonzero gives the handle type records of its own */
-    uint64_t request_ceiling;        /**< obj_alloc above this answers null; default 256 MiB */
-    /** obj_alloc returns null if the handle would exceed this; default 1 GiB. The sizes of live blocks count. With
-     * tracking ON, so do 136 bytes for each 256-byte stretch of addresses that a block touches, which hold the state
-     * offsets of the objects in it; a request counts as many as a block of its size can touch. Memory below obj_alloc
-     * does not count: the tables that find blocks and offsets (up to 128 bytes for each block and 64 for each stretch),
-     * what the C library adds to a block, and what the runtime keeps for types, documents and bundles. */
+    uint32_t private_types;          /**< nonzero: the handle has its own copies of type records; default 0 */
+    uint64_t request_ceiling;        /**< bytes; obj_alloc returns null for larger requests; default 256 MiB */
+    /** Bytes; obj_alloc returns null if the handle would exceed this; default 1 GiB. The sizes of live blocks count.
+     * With tracking ON, 136 bytes count for each 256-byte stretch of addresses that a block touches, which hold state
+     * offsets. A request counts as many stretches as a block of its size can touch.
+     *
+     * Memory outside obj_alloc does not count: what the C library adds to a block, and what the runtime keeps for
+     * types, documents and bundles. Neither do the tables that find blocks and offsets: up to 128 bytes per block and
+     * 64 per stretch. */
     uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
-    mirk_bundle_handler bundle_handler;      /**< default null */
-    const char *domain_name;                 /**< default "default" */
-    uint32_t default_id;                     /**< default 1 */
-    uint32_t message_stamp;                  /**< default 0 */
-    uint32_t oid_mapping;                    /**< default 1 */
+    mirk_bundle_handler bundle_handler;      /**< gets committed bundles; may be null, the default */
+    const char *domain_name;                 /**< name for trace lines; null means ""; default "default" */
+    uint32_t default_id;                     /**< ctx_id of every sticky (_cr) operation; default 1 */
+    uint32_t message_stamp;                  /**< stamp of every header that is written; default 0 */
+    uint32_t oid_mapping;                    /**< see mirk_platform_handle_set_oid_mapping(); default 1 */
 } mirk_platform_handle_options;
 
-/** Writes the defaults and the size. Always start from here. */
+/** Sets the size and all defaults. Call this before setting members. */
 #define mirk_platform_handle_options_init(options) mirk_platform_handle_options_init_sized(options, sizeof *(options))
-/** The same for a structure of this many bytes. */
+/** The same for a structure of `size` bytes. Programs use the macro above. */
 MIRK_PLATFORM_API void mirk_platform_handle_options_init_sized(mirk_platform_handle_options *options, size_t size);
 
-/** Null options mean the defaults. Returns null if allocation fails. obj_alloc of the handle returns a distinct
- * address for size 0, too. */
+/** Opens a handle, which the caller owns and releases with mirk_platform_handle_close(). Null options mean the
+ * defaults. Returns null if allocation fails. On this runtime obj_alloc returns a distinct block for each request of
+ * size 0. */
 MIRK_PLATFORM_API mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *options);
 
-/** Drops both bundle lists, then releases blocks that are still live, private type copies and the handle. Returns how
- * many blocks of obj_alloc were still live, which a tidy program finds to be 0. Messages still filed on the receive
- * list are destroyed first and are not counted. Null is allowed and gives 0. */
+/** Closes a handle: destroys messages on the receive list, then frees every live block, all copies of types, and the
+ * handle. Returns the number of blocks that were still live, 0 unless objects were leaked. Messages on the receive list
+ * do not count. Null is permitted and gives 0. */
 MIRK_PLATFORM_API size_t mirk_platform_handle_close(mirk_handle *h);
 
-/** The ctx_id of every sticky operation. */
+/** Sets the ctx_id of every sticky (_cr) operation. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_default_id(mirk_handle *h, uint32_t ctx_id);
-/** The stamp of every header that is written. */
+/** Sets the stamp of every header that is written from now on. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_message_stamp(mirk_handle *h, uint32_t stamp);
-/** The domain's name, for trace lines. 12 without memory. */
+/** Sets the name of the domain for trace lines. ENOMEM: the old name remains. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_handle_set_domain_name(mirk_handle *h, const char *name);
-/** Whether destroying an object removes what the runtime keeps beside it. */
+/** Nonzero: destroying an object also removes its RA data and its state offset. 0: they remain until the block that
+ * holds the object is freed. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_oid_mapping(mirk_handle *h, uint32_t oid_mapping);
-/** The handle's own handler of committed bundles; null takes it away. */
+/** Sets the handle's own handler of committed bundles; null removes it. A handler of
+ * mirk_platform_dispatch_set_bundle_handler() takes precedence. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_bundle_handler(mirk_handle *h, mirk_bundle_handler handler);
-/** What errors of variant and domain do to the slot from now on. */
+/** Sets what errors of variants do to the error slot from now on. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_epoch_policy(mirk_handle *h, mirk_platform_epoch_policy policy);
-/** What mirklib_suppress_messages_enabled answers; off at first. */
+/** Nonzero: a message that fails to marshal is traced at level 7 instead of level 3. Initially 0. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_suppress_messages(mirk_handle *h, uint32_t enabled);
-/** Changes the descriptor's word, or attaches or removes the descriptor. For a handle without live objects: objects
- * made under one mode must not be used under the other. */
+/** Changes the word in the descriptor, or attaches or removes the descriptor. The handle must have no live objects,
+ * since objects created in one mode must not be used in the other. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_tracking(mirk_handle *h, mirk_platform_tracking tracking);
 
-/** Blocks and bytes of obj_alloc that have not been freed. */
+/** Returns the number of obj_alloc blocks that have not been freed. */
 MIRK_PLATFORM_API size_t mirk_platform_live_blocks(mirk_handle *h);
-/** Bytes of obj_alloc that have not been freed. */
+/** Returns the total size in bytes of the obj_alloc blocks that have not been freed. */
 MIRK_PLATFORM_API uint64_t mirk_platform_live_bytes(mirk_handle *h);
 
 /** A live block of obj_alloc. */
 typedef struct mirk_platform_block {
-    void *address;   /**< where it lies */
-    size_t size;     /**< bytes that were asked for */
-    uint32_t ctx_id; /**< under which it was asked for */
-    uint64_t serial; /**< 1 for the first block that the handle made */
+    void *address;   /**< its first byte */
+    size_t size;     /**< bytes requested */
+    uint32_t ctx_id; /**< ctx_id of the request */
+    uint64_t serial; /**< counts the blocks of the handle in the order of their allocation, from 1 */
 } mirk_platform_block;
 
-/** Writes up to `capacity` live blocks, oldest first, and returns how many there are. `blocks` may be null with 0. */
+/** Writes up to `capacity` live blocks to `blocks`, oldest first, and returns the number of all live blocks. `blocks`
+ * may be null if `capacity` is 0. If allocation fails, nothing is written and the result is the same. */
 MIRK_PLATFORM_API size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform_block *blocks, size_t capacity);
 
-/* ---- domain: keyed by the 16 bytes of a luid -------------------------------------------------------------------- */
+/* ---- domain: what the peers of a handle understand --------------------------------------------------------------- */
 
-/** The variant that the domain has for a type. Types that were never set have variant 0. */
+/** Sets the variant that the domain has for the type with this identity of 16 bytes; negative: the domain does not have
+ * the type. Types that were not set have variant 0. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_variant(mirk_handle *h, const uint8_t *luid,
                                                                        int8_t variant);
-/** Messages that were never set are allowed. */
+/** Allows (nonzero) or forbids (0) the message with this identity of 16 bytes. Messages that were not set are allowed.
+ * Marshalling a forbidden message fails with EBADE. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_message(mirk_handle *h, const uint8_t *luid,
                                                                        uint32_t allowed);
-/** Back to variant 0 and everything allowed. */
+/** Resets the domain: every type has variant 0, and every message is allowed. */
 MIRK_PLATFORM_API void mirk_platform_domain_clear(mirk_handle *h);
 
 /* ---- trace (process-wide, any thread) --------------------------------------------------------------------------- */
 
-/** Gets each line of a selected level, without a line end. Calls never overlap. A line traced from inside a sink is
- * dropped. */
+/** Receives each line of a selected level, without a line end. Calls never overlap, on any threads. A line traced from
+ * inside a sink is discarded. */
 typedef void (*mirk_platform_trace_sink)(void *user, uint16_t module_id, uint32_t level, const char *line);
 
-/** Null goes back to standard error, where a line reads "module: line". When the call returns, the former sink is no
- * longer running. */
+/** Sets the sink; `user` is its first argument. Null restores the default, which writes "module: line" to standard
+ * error. When this returns, the former sink is not running any more. Must not be called from a sink. */
 MIRK_PLATFORM_API void mirk_platform_trace_set_sink(mirk_platform_trace_sink sink, void *user);
 
-/** Bit n selects level n. At first the levels are those of the environment variable MIRK_TRACE, a comma-separated list
- * of numbers from 0 to 31, "all" or "none"; without it, or with one that does not read so, levels 0 and 3. */
+/** Selects levels: bit n selects level n. The initial mask comes from the environment variable MIRK_TRACE in the form
+ * of mirk_platform_trace_parse_levels(). If that is absent or invalid, levels 0 and 3 are selected. */
 MIRK_PLATFORM_API void mirk_platform_trace_set_levels(uint32_t mask);
-/** The levels that are selected. */
+/** Returns the mask of selected levels. */
 MIRK_PLATFORM_API uint32_t mirk_platform_trace_levels(void);
-/** Reads a list in the form of MIRK_TRACE; 22 and an untouched mask if it is none. */
+/** Parses "all", "none", or a comma-separated list of levels from 0 to 31 into a mask. EINVAL for null and for any
+ * other text; the mask is then unchanged. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_trace_parse_levels(const char *text, uint32_t *mask);
-/** Name under which a module was registered; "?" for an unknown identifier. Valid for the life of the process. */
+/** Returns the name under which a module was registered, or "?" for an unknown identifier. The text stays valid until
+ * the process ends. */
 MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id);
 
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
-/** Gives the object RA data and flag bit 32. The value is an opaque word that is never followed. */
+/** Attaches RA data to an object, replacing earlier data, and sets bit 32 of its flags. The value is an opaque word
+ * that is never dereferenced. EINVAL for a null object. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_set_ra_data(mirk_handle *h, void *object, void *value,
                                                                 uint8_t byte);
-/** 2 if the object has none. Either pointer may be null. */
+/** Reads the RA data of an object. ENOENT if it has none. `value` and `byte` may be null. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_ra_data(mirk_handle *h, const void *object, void **value,
                                                             uint8_t *byte);
 
-/** Shape of every destroy operation of a record. */
+/** The type of the destroy operation of every record. */
 typedef void (*mirk_platform_object_destroy)(mirk_handle *h, uint32_t ctx_id, void *object);
 
-/** Gives the object an oid and flag bit 1. While `references` is above 0 a destroy request only condemns the object;
- * lowering the count to 0 then calls `destroy` under the ctx_id of that call. `destroy` may be null: then a condemned
- * object stays until somebody destroys it again. 17 if the object has an oid already. */
+/** Assigns an identifier (oid) to an object and sets bit 1 of its flags. `*oid` receives the oid, an opaque word.
+ *
+ * While `references` is above 0, destroying the object only marks it as condemned. When the count of a condemned object
+ * drops to 0, `destroy` is called with the ctx_id of that call. `destroy` may be null: a condemned object then remains
+ * until the program destroys it again.
+ *
+ * EINVAL if `object` or `oid` is null; EEXIST if the object already has an oid. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_oid_mapping_make(mirk_handle *h, void *object, uint32_t references,
                                                                      mirk_platform_object_destroy destroy, void **oid);
-/** References left and whether a destroy request waits for them; 2 for an unknown oid. Pointers may be null. */
+/** Reads how many references remain and whether the object is condemned (1 or 0). ENOENT for an unknown oid. Both
+ * pointers may be null. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_oid_mapping_state(mirk_handle *h, const void *oid,
                                                                       uint32_t *references, uint32_t *condemned);
-/** Says which oids an ip_address holds, replacing what it held; count 0 takes them away. No count is raised by this. */
+/** Sets the oids that an ip_address refers to, replacing earlier ones; `count` 0 removes them. The array is copied.
+ * Reference counts do not change. EINVAL if `address` is null, or if `oids` is null and `count` is not 0. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_address_set_oids(mirk_handle *h, const ip_address *address,
                                                                      void *const *oids, uint32_t count);
 
-/** Whether the object has an entry in the table of state offsets, and which. 2 if it has none. */
+/** Reads the recorded distance in bytes from an object to its state area. ENOENT if none is recorded. `offset` may be
+ * null.
+ */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_sttr_offset(mirk_handle *h, const void *object, uint32_t *offset);
 
 /* ---- XML documents ---------------------------------------------------------------------------------------------- */
 
-/** The result is what the `document` argument of every _from_xml operation expects. Null on failure, with the line and
- * a sentence in the report (which may be null). A document type declaration is refused; nothing is fetched from
- * anywhere. A document is used by one thread at a time. */
+/** Parses an XML document of `length` bytes. The result is the `document` argument of every _from_xml operation; the
+ * caller owns it and releases it with mirk_platform_document_free(). The text may be released at once.
+ *
+ * Returns null on failure. The report, which may be null, then has the number (EINVAL or ENOMEM), the line and a
+ * sentence. Documents with a document type declaration are refused. The parser never opens a file or a connection. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_memory(const void *text, size_t length,
                                                            mirk_platform_report *report);
-/** As mirk_platform_document_load_memory(), from a file. */
+/** The same for the contents of a file. The report may also have the error of opening or reading the file, such as
+ * ENOENT or EACCES. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_file(const char *path, mirk_platform_report *report);
-/** Null is allowed. */
+/** Releases a document. Null is permitted. */
 MIRK_PLATFORM_API void mirk_platform_document_free(void *document);
 
 /* ---- dispatch --------------------------------------------------------------------------------------------------- */
 
-/** Shape of every unmarshal operation of messages. */
+/** The type of the unmarshal operation of every message. */
 typedef uint32_t (*mirk_platform_unmarshal)(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **out,
                                             void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Shape of every unmarshal_only operation of plain messages. */
+/** The type of the unmarshal_only operation of every plain message. */
 typedef uint32_t (*mirk_platform_unmarshal_only)(mirk_handle *h, uint32_t ctx_id, void **out, void *buffer,
                                                  uint32_t size, uint32_t *err);
-/** Shape of every destroy operation of messages. */
+/** The type of the destroy operation of every message. */
 typedef void (*mirk_platform_message_destroy)(mirk_handle *h, uint32_t ctx_id, void *message);
 
-/** One message that a handle can receive. `luid` and `name` are kept by address and must outlive the handle. */
+/** A message that a handle can receive: its identity and the operations of the schema library. */
 typedef struct mirk_platform_message {
-    const uint8_t *luid; /**< 16 bytes */
-    const char *name;    /**< for trace lines */
-    /** Reads a frame again when the recorder is on, since only this operation records, and when there is no `handler`,
-     * since only this operation calls the linked-in one. */
+    const uint8_t *luid; /**< identity, 16 bytes; not copied, must outlive the handle */
+    const char *name;    /**< for trace lines; not copied, must outlive the handle */
+    /** Reads control messages. Reads a plain message a second time if the recorder is on, because only this operation
+     * records, or if `handler` is null, because only this operation calls the linked-in handler. */
     mirk_platform_unmarshal unmarshal;
-    mirk_platform_unmarshal_only unmarshal_only; /**< null makes it a control message */
-    mirk_platform_message_destroy destroy;       /**< null for a control message */
-    /** Gets each message that arrives outside a bundle and owns it from then on, unless it leaves 38 in the slot: then
-     * nobody took the message and the dispatcher destroys it. Null: the linked-in handler, by the same rule. */
+    mirk_platform_unmarshal_only unmarshal_only; /**< reads plain messages; null: this is a control message */
+    mirk_platform_message_destroy destroy;       /**< null is permitted for a control message */
+    /** Receives each plain message that arrives outside a bundle, and owns it. If it sets the error slot to ENOSYS it
+     * does not take the message, and the dispatcher destroys it. Null: the linked-in handler, with the same rule. */
     mirk_message_handler handler;
 } mirk_platform_message;
 
-/** Enters a message, or replaces the entry of the same luid. 22 if luid, name or unmarshal is missing, or a plain
- * message lacks destroy. */
+/** Registers a message, or replaces the entry with the same identity; its bundle handler stays. The structure is
+ * copied. EINVAL if luid, name or unmarshal is null, or if a plain message has no destroy operation. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_register(mirk_handle *h,
                                                                       const mirk_platform_message *message);
-/** Sets the fifth word of a dispatch entry: a bundle handler that comes before all others when the control message of
- * this luid commits a bundle. Null takes it away. 2 for a luid that is not registered. */
+/** Sets the handler that receives a bundle committed by the control message with this identity, instead of all other
+ * bundle handlers. Null removes it. ENOENT if the message is not registered. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_set_bundle_handler(mirk_handle *h, const uint8_t *luid,
                                                                                 mirk_bundle_handler handler);
 
-/** Takes a buffer of one or more whole frames. There must be one readable and writable byte behind it, as with every
- * buffer that frames are read from. Stops at the first frame that is bad or whose handler leaves an error; the report
- * (which may be null) then names the frame. Frames before it have been delivered. */
+/** Delivers a buffer of `size` bytes, which contains complete frames and has a guard byte. Messages of an open bundle
+ * go to the receive list, other plain messages to their handlers. The buffer stays the caller's.
+ *
+ * Stops at the first error; frames before it have been delivered. The report, which may be null, names the frame.
+ * EBADMSG: not a complete frame; ENOENT: the message is not registered; otherwise the error of reading the frame or of
+ * its handler. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void *buffer,
                                                              uint32_t size, void *dispatch_ctx,
                                                              mirk_platform_report *report);
 
-/** What a bundle brought, in order of arrival; meant for a bundle handler while it runs. What is still on the list when
- * the handler returns is destroyed. */
+/** A message on the receive list of a handle: the messages of the open bundle in order of arrival. For use by a bundle
+ * handler: when it returns, the messages that are still on the list are destroyed. */
 typedef struct mirk_platform_received mirk_platform_received;
 
-/** How many messages are on the list. */
+/** Returns the number of messages on the list. */
 MIRK_PLATFORM_API uint32_t mirk_platform_received_count(mirk_handle *h);
-/** The first item, or null. */
+/** Returns the first item, or null if the list is empty. */
 MIRK_PLATFORM_API mirk_platform_received *mirk_platform_received_first(mirk_handle *h);
-/** The item behind this one, or null. */
+/** Returns the item after this one, or null after the last. */
 MIRK_PLATFORM_API mirk_platform_received *mirk_platform_received_next(mirk_handle *h, mirk_platform_received *item);
-/** The message, which stays on the list. */
+/** Returns the message, which remains on the list. */
 MIRK_PLATFORM_API void *mirk_platform_received_message(const mirk_platform_received *item);
-/** Its identity, 16 bytes. */
+/** Returns the identity of the message, 16 bytes. */
 MIRK_PLATFORM_API const uint8_t *mirk_platform_received_luid(const mirk_platform_received *item);
-/** Its name. */
+/** Returns the name of the message. */
 MIRK_PLATFORM_API const char *mirk_platform_received_name(const mirk_platform_received *item);
-/** Takes the message off the list and hands it over; the item is gone afterwards. */
+/** Removes the item from the list, frees it, and returns its message. The caller owns the message and releases it with
+ * the destroy operation of the message. */
 MIRK_PLATFORM_API void *mirk_platform_received_detach(mirk_handle *h, mirk_platform_received *item);
 
-/** The messages admitted to the bundle that is open for sending, with the count of each. Writes up to `capacity` and
- * returns how many there are. */
+/** A message admitted to the bundle that is open for sending. */
 typedef struct mirk_platform_sent {
     const uint8_t *luid; /**< identity, 16 bytes */
-    const char *name;    /**< of the message */
-    uint64_t count;      /**< how many were written */
+    const char *name;    /**< name of the message */
+    uint64_t count;      /**< number of messages written */
 } mirk_platform_sent;
-/** Writes up to `capacity` rows and returns how many there are. */
+/** Writes up to `capacity` rows to `sent`, in the order of admission, and returns the number of all rows. `sent` may be
+ * null if `capacity` is 0. */
 MIRK_PLATFORM_API size_t mirk_platform_list_sent(mirk_handle *h, mirk_platform_sent *sent, size_t capacity);
 
 /* ---- recorder (process-wide, any thread) ------------------------------------------------------------------------ */
 
-/** While on, every received plain message goes to the stream as XML before it is delivered. The stream may be null,
- * which is traced for each message; it stays the caller's and must stay open while the recorder is on. A message that
- * cannot be recorded is traced; dispatch delivers it and the frames after it as if the recorder were off. */
+/** Switches the recorder on or off. While it is on, each plain message is written to the stream as XML when its
+ * unmarshal operation has read it, before it is delivered. Only messages of at most 4095 bytes of XML are recorded.
+ *
+ * The stream stays the caller's and must remain open while the recorder is on. It may be null: each message then causes
+ * a trace line instead.
+ *
+ * A larger message is not recorded. mirk_platform_dispatch() traces that and delivers the message as if the recorder
+ * were off. A direct call of the unmarshal operation passes EMSGSIZE to the handler. If there is no memory for the
+ * 4096-byte buffer, the process ends. */
 MIRK_PLATFORM_API void mirk_platform_recorder_set(uint32_t on, FILE *stream);
 
 /* ---- frames and requests ---------------------------------------------------------------------------------------- */
 
 enum {
-    MIRK_PLATFORM_HEADER_SIZE = 27,      /**< header of a frame */
-    MIRK_PLATFORM_FRAME_SIZE = 43,       /**< the smallest frame: header and luid */
-    MIRK_PLATFORM_REQUEST_SIZE_MAX = 304 /**< room for every request and refusal */
+    MIRK_PLATFORM_HEADER_SIZE = 27,      /**< bytes of the header of a frame */
+    MIRK_PLATFORM_FRAME_SIZE = 43,       /**< bytes of the smallest frame: header and luid */
+    MIRK_PLATFORM_REQUEST_SIZE_MAX = 304 /**< bytes of the largest request or refusal */
 };
 
-/** The head of a frame. */
+/** The start of a frame: header and identity. */
 typedef struct mirk_platform_frame {
-    mirk_message_header header; /**< what the 27 bytes say */
+    mirk_message_header header; /**< the first 27 bytes */
     uint8_t luid[16];           /**< identity of the message */
 } mirk_platform_frame;
 
-/** Looks at the first frame of a buffer: 90 with less than 43 bytes, 74 if the marker is wrong or total_length is below
- * 43. A total_length that exceeds `size` is no error here: more may be on its way. */
+/** Reads the start of the first frame in a buffer of `size` bytes. EMSGSIZE: fewer than 43 bytes. EBADMSG: wrong
+ * marker, or a total_length below 43. A total_length that exceeds `size` is not an error: the rest may not have arrived
+ * yet. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_frame_look(const void *buffer, size_t size,
                                                                mirk_platform_frame *frame);
 
 enum {
-    MIRK_PLATFORM_REQUEST_TRACKED = 0x01, /**< answer with state tracking */
+    MIRK_PLATFORM_REQUEST_TRACKED = 0x01, /**< request: the answer is to contain state */
     MIRK_PLATFORM_REQUEST_REFUSED = 0x80  /**< the frame is a refusal */
 };
 
-/** A request for a bundle, or the refusal of one. */
+/** A request for a bundle, or the refusal of a request. */
 typedef struct mirk_platform_request {
     uint8_t options;    /**< bits MIRK_PLATFORM_REQUEST_... */
-    char bundle[256];   /**< request: name of the bundle that is asked for */
-    uint32_t number;    /**< refusal: system error number */
-    char sentence[256]; /**< refusal: why, for people */
+    char bundle[256];   /**< request: name of the bundle */
+    uint32_t number;    /**< refusal: error number of errno.h */
+    char sentence[256]; /**< refusal: the reason, for users */
 } mirk_platform_request;
 
-/** Write a frame and return its length; 0 and *number set (may be null) if it does not fit (90) or the text is longer
- * than 255 bytes (22). */
+/** Writes the frame of a request to a buffer of `size` bytes and returns its length in bytes. `bundle` is the name of
+ * the bundle; null means "". `options` are bits MIRK_PLATFORM_REQUEST_...; REFUSED is ignored.
+ *
+ * On failure returns 0 and writes an error to `*number`, if that is not null. EMSGSIZE: `size` is too small. EINVAL:
+ * the name exceeds 255 bytes. */
 MIRK_PLATFORM_API uint32_t mirk_platform_request_encode(void *buffer, uint32_t size, uint32_t stamp, const char *bundle,
                                                         uint8_t options, uint32_t *number);
-/** A sentence longer than 255 bytes is cut. */
+/** Writes the frame of a refusal in the same way. `reason` is an error number of errno.h. A sentence longer than 255
+ * bytes is cut; null means "". The only error is EMSGSIZE. */
 MIRK_PLATFORM_API uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t reason,
                                                         const char *sentence, uint32_t *number);
-/** Reads either; options tells which it is. 2: a frame of another message. 74: not a frame, or its parts do not fill
- * exactly total_length bytes, or a name holds a NUL. */
+/** Reads the frame of a request or a refusal, which the bit REFUSED of `options` distinguishes. ENOENT: a frame of
+ * another message. EBADMSG: not a complete frame, or its parts do not fill exactly total_length bytes, or the text
+ * contains a NUL. On an error `*request` is unchanged. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_request_decode(const void *buffer, size_t size,
                                                                    mirk_platform_request *request);
 
 /* ---- transport: frames over a stream socket --------------------------------------------------------------------- */
 
-/** Listens for peers; see mirk_platform_server_open(). */
+/** A listening socket and its connections; see mirk_platform_server_open(). */
 typedef struct mirk_platform_server mirk_platform_server;
 /** A connection to a server; see mirk_platform_client_open(). */
 typedef struct mirk_platform_client mirk_platform_client;
 
-/** A peer of a server; never used twice in the life of a server. */
+/** Identifies a peer of a server. A server never reuses an identifier. */
 typedef uint64_t mirk_platform_peer;
 
-/** How a server serves. */
+/** Options of a server. Initialize them with mirk_platform_server_options_init(). */
 typedef struct mirk_platform_server_options {
-    size_t size;            /**< of the structure as the program knows it; set by the initializer */
-    uint32_t frame_limit;   /**< a longer frame disconnects its sender; default 16 MiB */
-    uint32_t peer_limit;    /**< further peers are turned away; default 64 */
-    uint32_t idle_ms;       /**< a peer that moved no byte for so long is disconnected; 0: never; default 60000 */
-    uint64_t pending_limit; /**< a peer that lets more than this pile up unread is disconnected; default 64 MiB */
+    size_t size;            /**< bytes of this structure; set by the initializer */
+    uint32_t frame_limit;   /**< bytes; a peer that sends a longer frame is disconnected; default 16 MiB */
+    uint32_t peer_limit;    /**< number of connected peers; further peers are refused; default 64 */
+    uint32_t idle_ms;       /**< a peer without traffic for this long is disconnected; 0: never; default 60000 */
+    uint64_t pending_limit; /**< bytes; a peer with more unread data is disconnected; default 64 MiB */
     uint32_t socket_mode;   /**< access rights of the socket file; default 0600 */
-    /** One whole frame. The buffer is writable and has a byte of slack; it is the callback's until it returns. */
+    /** Receives one complete frame. The buffer is writable and has a guard byte; it is valid until the callback
+     * returns. Required. */
     void (*on_frame)(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *frame, uint32_t size);
-    void (*on_connect)(void *user, mirk_platform_server *server, mirk_platform_peer peer); /**< may be null */
-    /** The peer is gone; the reason is a sentence for people. May be null. */
+    /** A peer has connected. May be null. */
+    void (*on_connect)(void *user, mirk_platform_server *server, mirk_platform_peer peer);
+    /** A connected peer is gone, whoever closed the connection; `reason` is text for users. May be null. */
     void (*on_disconnect)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
     void *user; /**< first argument of the callbacks */
-    /** A frame that is not whole so long after its first byte disconnects its sender; 0: never; default 10000. */
+    /** Milliseconds from the first byte of a frame to its last; a slower peer is disconnected; 0: no limit; default
+     * 10000.
+     */
     uint32_t frame_ms;
-    /** A peer that needs longer to read what one send queued, once it is its turn, is disconnected; 0: never; default
-     * 60000. */
+    /** Milliseconds that a peer has to read the bytes of one send, once it has read all earlier ones; a slower peer is
+     * disconnected; 0: no limit; default 60000. */
     uint32_t answer_ms;
-    /** If more than this piles up unread for all peers together, the peer with the most is disconnected; never less
-     * than the pending_limit of one peer; default 256 MiB. */
+    /** Bytes of unread data of all peers together; default 256 MiB. Beyond it the peer with the most is disconnected. A
+     * value below pending_limit means pending_limit. */
     uint64_t total_pending_limit;
-    /** A peer passed a limit, or sent bytes that are not a frame: called before on_disconnect. Called as well for a
-     * peer that is turned away because there are too many, which gets no other call. The peer is 0 if no connection can
-     * be accepted, as without descriptors; that is said once until it works again. The reason is a sentence for people.
-     * May be null. */
+    /** A peer exceeded a limit or sent something other than a frame; on_disconnect follows. May be null.
+     *
+     * Also called for a peer that is refused because of peer_limit; it gets no other callback. Called with peer 0 if
+     * connections cannot be accepted, as when descriptors run out: once, until accepting works again. */
     void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
 } mirk_platform_server_options;
 
-/** Writes the defaults and the size. Always start from here. */
+/** Sets the size and all defaults. Call this before setting members. */
 #define mirk_platform_server_options_init(options) mirk_platform_server_options_init_sized(options, sizeof *(options))
-/** The same for a structure of this many bytes. */
+/** The same for a structure of `size` bytes. Programs use the macro above. */
 MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_server_options *options, size_t size);
 
-/** Listens on a socket file. A socket file that nobody listens on any more is replaced; 98 if somebody does; 17 if the
- * path is taken by anything else; 22 without on_frame. */
+/** Listens on a socket file. The caller owns `*server` and releases it with mirk_platform_server_close(). A socket file
+ * that no process listens on is replaced. The options are copied.
+ *
+ * EADDRINUSE: a process listens on the file. EEXIST: the path is not a socket. ENAMETOOLONG: the path does not fit a
+ * socket address. EINVAL: an argument or on_frame is null. Other errors come from the system, such as EACCES. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,
                                                                 const mirk_platform_server_options *options,
                                                                 mirk_platform_server **server);
-/** The port that a frame transport over TCP uses if none is named. */
+/** The TCP port if an address does not contain one. */
 #define MIRK_PLATFORM_TCP_PORT 28276
 
-/** Listens on a TCP address: "HOST:PORT", "HOST", ":PORT" or "". A host is a name, a number, or an IPv6 number in
- * brackets; without one it is 127.0.0.1. Port 0 lets the system choose. 22 for text that is no address; 99 for a host
- * that is not known or not here; 98 if somebody listens there. A port has no access rights: whoever reaches it is
- * served. */
+/** Listens on a TCP address: "HOST:PORT", "HOST", ":PORT" or "". HOST is a name, an IPv4 address, or an IPv6 address in
+ * brackets; the default is 127.0.0.1. If a name has several addresses, the first is used. Port 0 selects a free port.
+ *
+ * EINVAL: not an address, or an argument or on_frame is null. EADDRNOTAVAIL: the host is unknown or not local.
+ * EADDRINUSE: a process listens on the port. Other errors come from the system.
+ *
+ * A port has no access rights: every process that can reach it is served. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open_tcp(const char *address,
                                                                     const mirk_platform_server_options *options,
                                                                     mirk_platform_server **server);
-/** Where the server listens: the path of its socket file, or the number of its host and its port, "127.0.0.1:28276". */
+/** Returns where the server listens: the path of its socket file, or address and port such as "127.0.0.1:28276". Valid
+ * until the server is closed. */
 MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_server *server);
-/** Serves on the calling thread until stop; all callbacks run there. What is queued for peers when stop is called is
- * still sent as far as their sockets take it at once. */
+/** Serves until mirk_platform_server_stop() is called. All callbacks run on the calling thread. When stopped, sends
+ * what the sockets accept without blocking, and disconnects all peers. Call it once per server. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
-/** From any thread, and from a signal handler. Before run it makes run return at once. */
+/** Stops the server. May be called from any thread and from a signal handler. If called before
+ * mirk_platform_server_run(), that returns immediately. */
 MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
-/** From a callback. Queues a copy of the bytes, which should be whole frames. 107 for a peer that is gone; 105 if its
- * pending limit is passed, which also disconnects it. */
+/** Queues a copy of `size` bytes, which should be complete frames, for a peer. Call it only from a callback.
+ *
+ * ENOTCONN: the peer is gone or being disconnected. ENOBUFS: pending_limit or total_pending_limit was exceeded; the
+ * peer has been disconnected. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer,
                                                                 const void *bytes, size_t size);
-/** From a callback. Sends what is queued, then closes. */
+/** Disconnects a peer after sending what is queued for it; its further frames are ignored. Call it only from a
+ * callback. `reason` goes to on_disconnect and the trace; null means "asked to leave". An unknown peer is ignored. */
 MIRK_PLATFORM_API void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform_peer peer,
                                                        const char *reason);
-/** How many peers are connected. */
+/** Returns the number of connected peers. Call it only from a callback, or while the server does not run. */
 MIRK_PLATFORM_API size_t mirk_platform_server_peers(mirk_platform_server *server);
-/** After run has returned. Removes the socket file. Null is allowed. */
+/** Releases a server that is not running, and removes its socket file. A file that has replaced it remains. Null is
+ * permitted. */
 MIRK_PLATFORM_API void mirk_platform_server_close(mirk_platform_server *server);
 
-/** Connects to a socket file; `frame_limit` 0 means 16 MiB. 110 when the time is over. */
+/** Connects to a socket file. The caller owns `*client` and releases it with mirk_platform_client_close().
+ * `frame_limit` is the length in bytes of the longest frame to receive; 0 means 16 MiB. `timeout_ms` is in
+ * milliseconds.
+ *
+ * ETIMEDOUT: the timeout expired. ECONNREFUSED: no process listens. ENOENT: the file does not exist. ENAMETOOLONG: the
+ * path does not fit a socket address. EINVAL: an argument is null. Other errors come from the system. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit,
                                                                 uint32_t timeout_ms, mirk_platform_client **client);
-/** Connects to a TCP address as mirk_platform_server_open_tcp takes it. Looking up the name of a host does not count
- * into the time. */
+/** Connects to a TCP address in the form of mirk_platform_server_open_tcp(). If a name has several addresses, they are
+ * tried in turn. The timeout cannot interrupt looking up a host name, but the time counts.
+ *
+ * EINVAL: not an address, or an argument is null. EADDRNOTAVAIL: the host is unknown. ETIMEDOUT, ECONNREFUSED and other
+ * errors of the system: of the address that was tried last. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t frame_limit,
                                                                     uint32_t timeout_ms, mirk_platform_client **client);
-/** Sends the bytes, which should be whole frames. 110 when the time is over, 104 if the peer is gone. */
+/** Sends `size` bytes, which should be complete frames. EPIPE or ECONNRESET: the peer closed the connection. ETIMEDOUT:
+ * the timeout expired. After an error part of the bytes may have been sent: then only close the client. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes,
                                                                 size_t size, uint32_t timeout_ms);
-/** Waits for one whole frame. It lies in the client's buffer, writable and with a byte of slack, until the next call.
- * 104: the peer closed the connection. 74: what it sent is no frame. 90: the frame exceeds the limit. 110: time over;
- * what has arrived so far is kept for the next call. After 74, 90 and 104 only close is of use. */
+/** Waits for one complete frame. It is in the client's buffer, which is writable and has a guard byte, and stays valid
+ * until the next receive or close.
+ *
+ * ETIMEDOUT: the timeout expired; bytes that have arrived are kept for the next call. ECONNRESET: the peer closed the
+ * connection. EBADMSG: it sent something other than a frame. EMSGSIZE: the frame exceeds frame_limit. After the last
+ * three only close the client. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, void **frame,
                                                                    uint32_t *size, uint32_t timeout_ms);
-/** Null is allowed. */
+/** Closes the connection and releases the client. Null is permitted. */
 MIRK_PLATFORM_API void mirk_platform_client_close(mirk_platform_client *client);
 
 #ifdef __cplusplus
