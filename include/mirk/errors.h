@@ -1,5 +1,5 @@
 /** @file
- * errors.h - the sticky error of a handle, and trace.
+ * errors.h - the sticky error of a handle, and the trace.
  */
 #ifndef MIRK_ERRORS_H
 #define MIRK_ERRORS_H
@@ -10,17 +10,20 @@
 extern "C" {
 #endif
 
-/** Zeroes last_error. */
+/** Sets last_error to 0. */
 void mirk_clear_last_error(mirk_handle *h);
-/** Writes last_error only; the caller writes its own slot. */
+/** Sets last_error to the error number. The caller writes its own error slot. */
 void mirk_store_err(mirk_handle *h, uint32_t number);
-/** For errors of variant (43) and domain (52): writes last_error and, as the runtime's policy has it, the slot. Runs
- * whatever *err holds. */
+/** Reports EIDRM (variant) or EBADE (domain): by default writes last_error and the error slot. The policy of the
+ * runtime may leave the slot clear. Has its effect even if *err is set. */
 void mirk_store_epoch_err(mirk_handle *h, uint32_t number, uint32_t *err);
 
-/** Writes a trace line. Levels in use are 0, 3, 6 and 7; `zero` is always 0. From any thread. */
+/** Writes a trace line, formatted as by printf, without a line end. The library uses levels 0 (fatal), 3 (error), 6
+ * (info) and 7 (debug); `zero` is always 0. May be called from any thread. */
 void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t zero, const char *format, ...);
-/** Registers a trace module. Repeatable: one name, one identifier. The name is copied. From any thread. */
+/** Registers a trace module and writes its identifier. The same name always gets the same identifier; repeated calls
+ * are permitted. The name is copied. `module_state` belongs to the runtime and is initially 0. May be called from any
+ * thread. */
 void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state);
 
 #ifdef __cplusplus

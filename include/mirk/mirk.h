@@ -1,16 +1,17 @@
 /** @file
- * mirk.h - everything that a schema library asks of the runtime beneath it.
+ * mirk.h - the contract: everything that a schema library uses of the runtime. Umbrella header.
  *
- * Rules that hold for every operation unless its own comment says otherwise:
+ * Rules for every function, unless its own comment says otherwise:
  *
- *   Handle     The first argument. It belongs to one thread at a time.
- *   ctx_id     A token that the library hands on as it came and never interprets.
- *   err        The error slot: 0, or a system error number (errno.h). Never null. With *err set an operation has no
- *              effect and returns 0 or null. An operation that fails writes the slot only; the caller tells the handle.
- *   remaining  Bytes of room or of data at `buffer`, signed. No operation goes beyond it.
- *   Ownership  Stays where it is. Nothing passed here is kept beyond the call, and no result has to be released.
- *   Calls back Only mirk_type_info_ptr_get, the two bundle list operations and
- *              mirklib_lookup_and_update_oid_ref_count may call code outside the runtime.
+ *   Handle     The first argument. Use each handle from one thread at a time.
+ *   ctx_id     A token of the caller. The library passes it on unchanged and never interprets it.
+ *   err        The error slot: 0, or an error number of errno.h. Never null. If *err is already set, a function has no
+ *              effect and returns 0 or null. A function that fails writes *err only; the library writes last_error.
+ *   remaining  Bytes of free space or of data at `buffer`, signed. No function accesses memory beyond it.
+ *   Ownership  Arguments stay the caller's and are not used after the call. Results need not be released.
+ *   Callbacks  Only mirk_type_info_ptr_get(), the two functions that destroy bundle lists, and
+ *              mirklib_lookup_and_update_oid_ref_count() may call functions outside the runtime. The callbacks of the
+ *              handle are not subject to this rule.
  */
 #ifndef MIRK_MIRK_H
 #define MIRK_MIRK_H

@@ -1,5 +1,5 @@
 /** @file
- * siblings.h - the schema modules beside this one. Each keeps the bundle handler that it was given last.
+ * siblings.h - the sibling schema modules. Each stores the bundle handler that was registered last.
  */
 #ifndef MIRK_SIBLINGS_H
 #define MIRK_SIBLINGS_H
@@ -11,8 +11,8 @@ extern "C" {
 #endif
 
 /** Declares the two operations of the sibling module M, veld_M_bundle_handler_register() and
- * veld_M_bundle_handler_unregister(). Both return the handler that was registered before, null at first. No lock:
- * register at a quiet moment. */
+ * veld_M_bundle_handler_unregister(). Both return the previous handler, initially null. They are not thread-safe: call
+ * them while no frames are dispatched. */
 #define VELD(M)                                                                          \
     mirk_bundle_handler veld_##M##_bundle_handler_register(mirk_bundle_handler handler); \
     mirk_bundle_handler veld_##M##_bundle_handler_unregister(void);
@@ -25,9 +25,9 @@ VELD(intf)
 VELD(cond)
 VELD(view)
 
-/** Identity of the request message, which every bundle admits beside its own. */
+/** Identity of the request message, 16 bytes. Every bundle admits it in addition to its own message. */
 extern const uint8_t message_ui_req_msg_luid[16];
-/** Its name, for trace lines. */
+/** Name of the request message, for trace lines. */
 extern const char message_ui_req_msg_name[64];
 
 #ifdef __cplusplus

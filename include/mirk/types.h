@@ -1,5 +1,6 @@
 /** @file
- * types.h - type records, and the objects that both sides lay hands on. Layouts are part of the contract.
+ * types.h - type records, objects and structures that library and runtime share. Their layouts are part of the
+ * contract.
  */
 #ifndef MIRK_TYPES_H
 #define MIRK_TYPES_H
@@ -11,143 +12,145 @@
 extern "C" {
 #endif
 
-/** What all operations work under; see mirk/handle.h. */
+/** The handle that functions work on; see mirk/handle.h. */
 typedef struct mirk_handle mirk_handle;
-/** Describes a type. */
+/** Describes a type of objects. */
 typedef struct mirk_type_info mirk_type_info;
 
-/** Receives one message. The message argument of a control message is null. */
+/** Receives one message. `message` is null for a control message. */
 typedef void (*mirk_message_handler)(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
-/** Receives a committed bundle; its messages lie on the handle's recv_bundle_list while the handler runs. */
+/** Receives a committed bundle. Its messages are on the handle's recv_bundle_list while the handler runs. */
 typedef void (*mirk_bundle_handler)(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, uint32_t *err);
-/** Enters private copies of a module's type records in the handle's type store. */
+/** Stores private copies of a module's type records in the type store of the handle. */
 typedef void (*mirk_typeinfo_init_fn)(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
-/** printf or what behaves like it. */
+/** printf, or a function that behaves like it. */
 typedef int (*mirk_print_fn)(const char *format, ...);
 
 /** One variant of a type: its sizes and its usage counters. 40 bytes. */
 typedef struct mirk_variant_entry {
-    uint32_t variant_word;  /**< 0; not interpreted */
+    uint32_t variant_word;  /**< 0; not used */
     uint32_t used_length;   /**< bytes of an instance up to the end of its last member */
-    uint32_t alloc_slop;    /**< bytes that an instance has beyond that */
-    uint64_t num_created;   /**< instances that were made */
-    uint64_t num_destroyed; /**< instances that were ended */
-    uint64_t num_live;      /**< the difference; stays 0 for messages */
+    uint32_t alloc_slop;    /**< bytes of an instance after that */
+    uint64_t num_created;   /**< instances created */
+    uint64_t num_destroyed; /**< instances destroyed */
+    uint64_t num_live;      /**< the difference of both; always 0 for messages */
 } mirk_variant_entry;
 
 /** The variants of a type. */
 typedef struct mirk_variant_info {
-    int8_t n_variants;           /**< how many there are; variants are counted from 0 */
-    mirk_variant_entry *entries; /**< entries[-128] to entries[0] are all readable and writable */
+    int8_t n_variants;           /**< number of variants, which count from 0 */
+    mirk_variant_entry *entries; /**< entries[-128] to entries[0] must exist */
 } mirk_variant_info;
 
-/** Describes a type. 272 bytes. The text members are NUL-padded. */
+/** Describes a type of objects. 272 bytes. Text members are padded with NUL. */
 struct mirk_type_info {
     uint32_t magic;                  /**< 0xbeeff00d */
-    uint8_t luid[16];                /**< the type's identity */
-    char luid_text[33];              /**< the same in hexadecimal: the key of the type store */
-    char name[64];                   /**< as the schema has it */
-    char module[64];                 /**< schema module that the type belongs to */
-    char kind[64];                   /**< what sort of type it is */
-    int32_t reserved_index;          /**< -1; not interpreted */
+    uint8_t luid[16];                /**< identity of the type */
+    char luid_text[33];              /**< luid in hexadecimal; the key in the type store */
+    char name[64];                   /**< name in the schema */
+    char module[64];                 /**< name of the schema module */
+    char kind[64];                   /**< category of the type */
+    int32_t reserved_index;          /**< -1; not used */
     mirk_variant_info *variant_info; /**< sizes and counters */
-    uint32_t plain_counters;         /**< 0: counters are shared and change atomically */
+    uint32_t plain_counters;         /**< 0: counters are atomic; nonzero: they are not shared between threads */
 };
 
-/** A handle's own copy of a type record, from sys_alloc; it lives as long as the type store. 288 bytes. */
+/** A handle's private copy of a type record, allocated by sys_alloc. It lives as long as the type store. 288 bytes. */
 typedef struct mirk_type_info_copy {
     mirk_type_info info;   /**< the copy */
-    uint64_t store_word_0; /**< the type store's */
-    uint64_t store_word_1; /**< the type store's */
+    uint64_t store_word_0; /**< for use by the type store */
+    uint64_t store_word_1; /**< for use by the type store */
 } mirk_type_info_copy;
 
-/** A schema module in the list of the process: a tail queue. `types` ends with a null pointer. */
+/** A schema module in the list of all modules, a tail queue. */
 typedef struct mirk_module {
-    const char *name;          /**< of the module */
-    mirk_type_info **types;    /**< its type records */
+    const char *name;          /**< name of the module */
+    mirk_type_info **types;    /**< its type records; the last pointer is null */
     struct mirk_module *next;  /**< the next module, or null */
-    struct mirk_module **prev; /**< the link that points here */
+    struct mirk_module **prev; /**< the link that points to this module */
 } mirk_module;
 
 /** The list of all modules. */
 typedef struct mirk_module_root {
-    uint32_t count;     /**< modules in the list */
+    uint32_t count;     /**< number of modules */
     mirk_module *first; /**< the first, or null */
-    mirk_module **last; /**< the link that the next module is hung on */
+    mirk_module **last; /**< the link that will point to the next module */
 } mirk_module_root;
 
-/** The header of every object. Members follow from offset 11 on. */
+/** The header of every object. Its members begin at offset 11 or later. */
 typedef struct mirk_object {
     mirk_type_info *tinfo; /**< the type */
-    int8_t variant;        /**< in which form the object is; negative: without body */
-    int8_t home_variant;   /**< in which form it was made */
-    uint8_t obj_flag;      /**< bits MIRK_OBJ_... */
+    int8_t variant;        /**< variant of the object; negative: it has no body */
+    int8_t home_variant;   /**< variant in which it was created */
+    /** Bits: 1 has an oid, 2 embedded, 4 nested, 8 has state, 16 for use by the runtime, 32 has RA data, 64 has a
+     * recorded state offset. */
+    uint8_t obj_flag;
 } mirk_object;
 
-/** A truth value as an object. 16 bytes. */
+/** A truth value as an object. 16 bytes, alignment 8. */
 typedef struct mirk_boolean {
     mirk_type_info *tinfo; /**< the type */
     int8_t variant;        /**< as in mirk_object */
     int8_t home_variant;   /**< as in mirk_object */
     uint8_t obj_flag;      /**< as in mirk_object */
-    uint8_t value;         /**< 0 is false */
+    uint8_t value;         /**< 0: false; any other value: true */
 } mirk_boolean;
 
-/** A network address with its prefix length. 40 bytes, alignment 8. Words are host-order numbers, word[0] the most
- * significant. */
+/** A network address with a prefix length. */
 typedef struct ip_address ip_address;
-/** A network address with its prefix length. */
+/** A network address with a prefix length. 40 bytes, alignment 8. Words are numbers in host byte order; word[0] is the
+ * most significant. */
 struct ip_address {
     mirk_type_info *tinfo; /**< the type */
     int8_t variant;        /**< as in mirk_object */
     int8_t home_variant;   /**< as in mirk_object */
     uint8_t obj_flag;      /**< as in mirk_object */
-    uint8_t af;            /**< address family */
-    uint8_t prefix_len;    /**< leading bits that matter */
-    uint16_t scope;        /**< where the address is valid */
-    uint32_t word[4];      /**< the address; one of four bytes is in word[0] */
-    uint64_t slop;         /**< room behind the last member */
+    uint8_t af;            /**< address family: AF_INET or AF_INET6 */
+    uint8_t prefix_len;    /**< number of leading bits that are significant */
+    uint16_t scope;        /**< scope number; 0: none */
+    uint32_t word[4];      /**< the address; an IPv4 address is in word[0] */
+    uint64_t slop;         /**< reserved */
 };
 
-/** What the library knows of a message header. 16 bytes, alignment 4. */
+/** A message header in memory. 16 bytes, alignment 4. */
 typedef struct mirk_message_header {
     uint8_t marker;        /**< 0xBC */
     uint8_t fill[6];       /**< 0xFF */
-    uint8_t sttr;          /**< 1: the frame carries state */
-    uint32_t stamp;        /**< the sender's message_stamp */
-    uint32_t total_length; /**< bytes of the frame, header and identity included */
+    uint8_t sttr;          /**< 1: the frame contains state */
+    uint32_t stamp;        /**< message_stamp of the sender */
+    uint32_t total_length; /**< bytes of the frame, including header and identity */
 } mirk_message_header;
 
-/** A message that a bundle admits. A table ends with a row of three zero words. */
+/** A message that a bundle admits: a row of a table, which ends with a row of zeros. */
 typedef struct mirk_allowed_row {
     const uint8_t *luid; /**< identity, 16 bytes */
     const char *name;    /**< for trace lines */
     uint64_t zero;       /**< 0 */
 } mirk_allowed_row;
 
-/** What is being dispatched. The library reads the name, for trace lines, and the handler, which may be null. */
+/** A dispatch entry. The library reads only `name` and `handler`. */
 typedef struct mirk_dispatch_info {
-    void *word_0;                /**< the runtime's */
+    void *word_0;                /**< for use by the runtime */
     const char *name;            /**< for trace lines */
-    void *word_2;                /**< the runtime's */
-    void *word_3;                /**< the runtime's */
-    mirk_bundle_handler handler; /**< gets the committed bundle ahead of all others; may be null */
+    void *word_2;                /**< for use by the runtime */
+    void *word_3;                /**< for use by the runtime */
+    mirk_bundle_handler handler; /**< receives a committed bundle instead of all other handlers; may be null */
 } mirk_dispatch_info;
 
-/** A list in a ring. Empty: both words point at the head itself. */
+/** The head of a circular list. Empty: both members point to the head itself. */
 typedef struct mirk_list_head {
     struct mirk_list_head *next; /**< the first item */
     struct mirk_list_head *prev; /**< the last item */
 } mirk_list_head;
 
-/** Whether a handle tracks state. 0xDDDD: tracking off; 0xEEEE: tracking on; anything else is a corrupt handle. */
+/** State tracking of a handle. 0xDDDD: off; 0xEEEE: on. Any other word means that the handle is corrupt. */
 typedef struct mirk_sttr_desc {
-    uint32_t sttr_mode; /**< one of the two words */
+    uint32_t sttr_mode; /**< 0xDDDD or 0xEEEE */
 } mirk_sttr_desc;
 
-/** A domain, the runtime's own: the library passes its address and never looks inside. */
+/** A domain. Its contents belong to the runtime; the library only passes its address. */
 typedef struct mirk_domain {
-    void *opaque[4]; /**< the runtime's */
+    void *opaque[4]; /**< for use by the runtime */
 } mirk_domain;
 
 #ifdef __cplusplus

@@ -16,11 +16,10 @@ extern "C" {
 
 /** Kinds of requests for memory. */
 typedef enum mirk_platform_testing_allocator {
-    MIRK_PLATFORM_TESTING_OBJ_ALLOC = 0, /**< obj_alloc of the handle */
-    MIRK_PLATFORM_TESTING_SYS_ALLOC = 1, /**< sys_alloc of the handle */
-    MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC =
-        2,                                  /**< mirklib_malloc: process-wide; the handle is ignored and may be null */
-    MIRK_PLATFORM_TESTING_VARIANT_BLOCK = 3 /**< the block that mirk_update_variant_info allocates for a copy */
+    MIRK_PLATFORM_TESTING_OBJ_ALLOC = 0,      /**< obj_alloc of the handle */
+    MIRK_PLATFORM_TESTING_SYS_ALLOC = 1,      /**< sys_alloc of the handle */
+    MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC = 2, /**< mirklib_malloc, process-wide: the handle is ignored */
+    MIRK_PLATFORM_TESTING_VARIANT_BLOCK = 3   /**< the block that mirk_update_variant_info allocates for a copy */
 } mirk_platform_testing_allocator;
 
 /** Makes the nth request from now on return null; 1 is the next. With nonzero `onwards` all later requests fail, too.
@@ -70,7 +69,7 @@ typedef enum mirk_platform_testing_event_kind {
     MIRK_PLATFORM_TESTING_WRITE_NOTIFY,        /**< address, size, ctx_id */
     MIRK_PLATFORM_TESTING_COUNT_NOTIFY,        /**< address, value (delta), ctx_id */
     MIRK_PLATFORM_TESTING_ALLOC,               /**< address (null: failed), size, ctx_id */
-    MIRK_PLATFORM_TESTING_FREE,                /**< address, size (0: not a live block), ctx_id */
+    MIRK_PLATFORM_TESTING_FREE,                /**< address, size (0 if it is not a live block), ctx_id */
     MIRK_PLATFORM_TESTING_SYS_ALLOCATED,       /**< address (null: failed), size, value (id) */
     MIRK_PLATFORM_TESTING_CLEAR_ERROR,         /**< none */
     MIRK_PLATFORM_TESTING_STORE_ERROR,         /**< value (error number) */
