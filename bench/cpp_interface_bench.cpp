@@ -107,7 +107,7 @@ void cpp_frame(benchmark::State &state) {
     std::vector<std::uint8_t> buffer(list.frame_size() + 1);
     for (auto _ : state) {
         const std::size_t size = list.write_frame(buffer.data(), buffer.size());
-        benchmark::DoNotOptimize(dp_tc_list::from_frame_with_spare(runtime.c, buffer.data(), size).get());
+        benchmark::DoNotOptimize(dp_tc_list::from_frame_with_guard(runtime.c, buffer.data(), size).get());
     }
 }
 

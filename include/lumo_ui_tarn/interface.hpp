@@ -1,16 +1,20 @@
 /// @file
-/// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include that header, not this one.
+/// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include lumo_ui_tarn.hpp instead of this header.
 ///
-/// A context stands for the first two arguments and the last of every operation: handle, ctx_id and error slot. It says
-/// once how errors are told: thrown as std::system_error, or kept until somebody looks, as in C.
+/// A context holds the arguments that all C functions take: handle, ctx_id and error slot. It also decides how errors
+/// are reported: thrown as std::system_error, or kept in the slot as in C.
 ///
-/// For each record there are three types. dp_tc owns an instance; a const one is read-only. dp_tc_ref borrows one, from
-/// an owner, an array, a message or C code. A reference is two pointers and behaves like one: copying it copies no
-/// record, and const protects the reference, not the record. dp_tc_view borrows one and only reads; a const owner hands
-/// out views, and a reference converts to one. get() is the instance for everything that C offers and this header does
-/// not; owners and views give it as const where they are read-only.
+/// A record has three types:
+/// - dp_tc owns an instance and destroys it. A const dp_tc is read-only.
+/// - dp_tc_ref borrows an instance from an owner, an array, a message or C code. It behaves like a pointer: copying it
+///   copies no record, and a const dp_tc_ref can write.
+/// - dp_tc_view borrows an instance to read it. Owners and references convert to views.
 ///
-/// Everything here is inline, and an accessor is the C call of the same name and a look at the error slot.
+/// Messages have the same three types. get() returns the C object, for functions that this header does not wrap; const
+/// owners and views return it as const.
+///
+/// Everything is inline. Reading or writing a scalar makes one call, of the C function with the member's name. Strings,
+/// addresses, nested records and arrays take several calls. Assigning a record that owns arrays or strings copies it.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
@@ -38,34 +42,35 @@
 #endif
 #endif
 
-/// The interface for C++.
+/// The C++ interface of the library.
 namespace lumo_ui_tarn {
 
-/// How errors are told.
+/// How a context reports errors.
 enum class errors {
-    thrown,  ///< as std::system_error, by the call that failed
-    kept     ///< until error() or take_error() looks; meanwhile no operation does anything
+    thrown,  ///< the call that fails throws std::system_error
+    kept     ///< the first error is kept until take_error(); until then writes have no effect and results are empty
 };
 
 #if defined(__cpp_exceptions)
-/// What a context does that is told nothing else.
+/// The default of a context: kept in programs without exceptions.
 inline constexpr errors usual_errors = errors::thrown;
 #else
-/// What a context does that is told nothing else.
+/// The default of a context: kept in programs without exceptions.
 inline constexpr errors usual_errors = errors::kept;
 #endif
 
-/// Used by one thread at a time, like the handle, and outlives all that was made with it.
+/// Handle, ctx_id and error slot. Use it from one thread at a time, like the handle. It must outlive the objects that
+/// are created with it.
 class context {
 public:
-    /// With the handle's default_id.
+    /// Uses the handle's default_id as ctx_id.
     explicit context(mirk_handle *handle, errors mode = usual_errors) : context(handle, handle->default_id, mode) {}
-    /// With another context.
+    /// Uses this ctx_id.
     context(mirk_handle *handle, std::uint32_t ctx_id, errors mode = usual_errors)
         : handle_(handle), ctx_id_(ctx_id), mode_(mode) {}
-    /// One error slot is in one place.
+    /// Objects keep a pointer to their context.
     context(const context &) = delete;
-    /// One error slot is in one place.
+    /// Objects keep a pointer to their context.
     context &operator=(const context &) = delete;
 
     /// The first argument of C operations.
@@ -75,20 +80,21 @@ public:
     /// The last argument of C operations.
     std::uint32_t *slot() { return &slot_; }
 
-    /// The error that is kept, as an errno number.
+    /// Returns the kept error, an errno number.
     std::error_code error() const { return {static_cast<int>(slot_), std::generic_category()}; }
-    /// The error that was kept; operations work again.
+    /// Returns the kept error and clears it.
     std::error_code take_error() { return {static_cast<int>(std::exchange(slot_, 0)), std::generic_category()}; }
-    /// No error is kept.
+    /// True if no error is kept.
     bool ok() const { return slot_ == 0; }
 
-    /// Records that are made on the handle have states.
+    /// True if the handle tracks state: records that are created on it have state bytes.
     bool tracks() const { return handle_->sttr_desc != nullptr && handle_->sttr_desc->sttr_mode == 0xEEEE; }
 
-    /// Calls any operation of the form (h, ctx_id, ..., err).
+    /// Calls a C function of the form (h, ctx_id, ..., err). While an error is kept it makes no call and returns 0.
     template <class Operation, class... Arguments>
     auto call(Operation operation, Arguments... arguments) {
         using Result = decltype(operation(handle_, ctx_id_, arguments..., &slot_));
+        if (slot_ != 0) return Result();
         if constexpr (std::is_void_v<Result>) {
             operation(handle_, ctx_id_, arguments..., &slot_);
             if (slot_ != 0) raise(nullptr);
@@ -99,10 +105,10 @@ public:
         }
     }
 
-    /// An error that no operation has left: the first one stays.
-    void fail(std::uint32_t number, const char *words = nullptr) {
+    /// Reports an error, an errno number, as if a C function had set it. A kept error stays.
+    void fail(std::uint32_t number, const char *explanation = nullptr) {
         if (slot_ == 0) slot_ = number;
-        raise(words);
+        raise(explanation);
     }
 
 private:
@@ -110,11 +116,12 @@ private:
     [[gnu::cold, gnu::noinline]]
 #endif
     void
-    raise([[maybe_unused]] const char *words) {
+    raise([[maybe_unused]] const char *explanation) {
 #if defined(__cpp_exceptions)
         if (mode_ != errors::thrown) return;
         const std::error_code code = take_error();
-        throw words != nullptr && words[0] != '\0' ? std::system_error(code, words) : std::system_error(code);
+        if (explanation != nullptr && explanation[0] != '\0') throw std::system_error(code, explanation);
+        throw std::system_error(code);
 #endif
     }
 
@@ -124,79 +131,78 @@ private:
     [[maybe_unused]] errors mode_;
 };
 
-/// Bytes of one or more frames, with the spare byte behind them that readers and writers of frames may touch.
+/// The bytes of one or more frames, and the guard byte after them that C functions may read or write.
 class frame {
 public:
-    /// No bytes.
+    /// Creates an empty frame.
     frame() : bytes_(1) {}
-    /// A copy of the bytes.
+    /// Copies the bytes.
     frame(const void *bytes, std::size_t size) : bytes_(size + 1) {
         if (size != 0) std::memcpy(bytes_.data(), bytes, size);
     }
 #if defined(__cpp_lib_span)
-    /// A copy of the bytes.
+    /// Copies the bytes.
     explicit frame(std::span<const std::uint8_t> bytes) : frame(bytes.data(), bytes.size()) {}
-    /// The bytes without the spare one.
+    /// The bytes without the guard byte.
     operator std::span<const std::uint8_t>() const { return {data(), size()}; }
 #endif
     /// The first byte.
     const std::uint8_t *data() const { return bytes_.data(); }
-    /// The first byte, to write.
+    /// The first byte, writable.
     std::uint8_t *data() { return bytes_.data(); }
-    /// Bytes without the spare one.
+    /// Number of bytes without the guard byte.
     std::size_t size() const { return bytes_.size() - 1; }
-    /// There are none.
+    /// True if there are no bytes.
     bool empty() const { return size() == 0; }
     /// The first byte.
     const std::uint8_t *begin() const { return data(); }
-    /// Behind the last byte: the spare one.
+    /// The end of the bytes: the guard byte.
     const std::uint8_t *end() const { return data() + size(); }
-    /// Cuts off bytes, or adds zeros.
+    /// Truncates the frame or appends zeros.
     void resize(std::size_t size) { bytes_.resize(size + 1); }
-    /// Adds another behind it.
+    /// Appends the bytes of another frame.
     void append(const frame &other) {
         const std::size_t before = size();
         resize(before + other.size());
         if (!other.empty()) std::memcpy(data() + before, other.data(), other.size());
     }
-    /// The same bytes.
+    /// True if the bytes are equal.
     friend bool operator==(const frame &a, const frame &b) {
         return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size()) == 0;
     }
-    /// Other bytes.
+    /// True if the bytes differ.
     friend bool operator!=(const frame &a, const frame &b) { return !(a == b); }
 
 private:
     std::vector<std::uint8_t> bytes_;
 };
 
-/// The value of an address or prefix. Words are host-order numbers, word[0] the most significant; af is the system's
-/// address family, 0 for an address that is not set.
+/// The value of an address or prefix.
 struct address {
-    std::uint8_t af = 0;                  ///< address family
-    std::uint8_t prefix_len = 0;          ///< bits of the prefix
+    std::uint8_t af = 0;                  ///< address family of the operating system; 0 if the address is not set
+    std::uint8_t prefix_len = 0;          ///< length of the prefix in bits
     std::uint16_t scope = 0;              ///< scope of the address
-    std::array<std::uint32_t, 4> word{};  ///< the address itself
+    std::array<std::uint32_t, 4> word{};  ///< the address, in host byte order; word[0] is the most significant
 
-    /// The same in all four.
+    /// True if all fields are equal.
     friend bool operator==(const address &a, const address &b) {
         return a.af == b.af && a.prefix_len == b.prefix_len && a.scope == b.scope && a.word == b.word;
     }
-    /// Another in one of the four.
+    /// True if a field differs.
     friend bool operator!=(const address &a, const address &b) { return !(a == b); }
 };
 
-/// A member as for_each_member shows it: its name and pointers to the functions that read and write it. What a member
-/// does not have is null.
+/// The argument of for_each_member's visitor: a member's name, and pointers to its member functions. A function that
+/// the member does not have is nullptr.
 template <class Get, class Set, class GetState, class SetState>
 struct member {
-    std::string_view name;  ///< as in C
+    std::string_view name;  ///< its name in C
     Get get;                ///< reads it
     Set set;                ///< writes it
     GetState get_state;     ///< reads its state byte
     SetState set_state;     ///< writes its state byte
 };
-/// A member knows its functions' types by what it is made of.
+/// Deduces the types of the functions.
 template <class Get, class Set, class GetState, class SetState>
 member(const char *, Get, Set, GetState, SetState) -> member<Get, Set, GetState, SetState>;
 
@@ -217,14 +223,14 @@ class array_ref;
 template <class A>
 class array_view;
 
-/// What owners, references and views have in common.
+/// Base classes of owners, references and views.
 namespace detail {
 
 /// @cond helpers
-inline constexpr std::size_t most_bytes = std::size_t{1} << 30;
+inline constexpr std::size_t max_buffer_size = std::size_t{1} << 30;
 
-/// Writers tell a lack of room by one of three numbers; their buffer grows until they are content. One more byte stands
-/// behind what they are told of.
+/// Retries with a larger buffer while a C function reports one of the three errors that mean too little room. The
+/// buffer has a guard byte after the size that is passed.
 template <class Buffer, class Write>
 Buffer grown(context &c, std::size_t guess, typename Buffer::value_type filler, Write write) {
     if (!c.ok()) return {};
@@ -232,7 +238,7 @@ Buffer grown(context &c, std::size_t guess, typename Buffer::value_type filler, 
         Buffer buffer(size + 1, filler);
         std::uint32_t err = 0;
         const std::uint32_t written = write(buffer.data(), size, &err);
-        if ((err == EMSGSIZE || err == ENOSPC || err == ENOMEM) && size < most_bytes) continue;
+        if ((err == EMSGSIZE || err == ENOSPC || err == ENOMEM) && size < max_buffer_size) continue;
         if (err != 0) {
             c.fail(err);
             return {};
@@ -248,7 +254,8 @@ frame grown_frame(context &c, std::size_t guess, Write write) {
     return {bytes.data(), bytes.size()};
 }
 
-/// Text has gaps in front of the braces of nested records, which are counted and not written.
+/// Printed text has gaps before the closing braces of nested records: the C functions count these bytes but write NUL
+/// or nothing there.
 template <class Write>
 std::string grown_text(context &c, std::size_t guess, Write write) {
     std::string text = grown<std::string>(c, guess, ' ', write);
@@ -258,7 +265,7 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
     return text;
 }
 
-/// For for_each_member: the function that may write where a getter has one for owners that are not const.
+/// Selects the overload of a getter for objects that can be written, if it has one.
 template <class C, class Result>
 constexpr auto writable(Result (C::*get)(), int) {
     return get;
@@ -268,7 +275,7 @@ constexpr auto writable(Result (C::*get)() const, long) {
     return get;
 }
 
-/// Empties a record that owns blocks into one that ends with the scope.
+/// Moves the arrays and strings of a record into another one, which is destroyed at the end of the scope.
 template <class N>
 class emptied {
 public:
@@ -284,13 +291,13 @@ private:
 };
 /// @endcond
 
-/// What owners, references and views are: a context and an object in C.
+/// A context and a C object.
 template <class Native>
 class bound {
 public:
-    /// What it was made with.
+    /// The context that was passed to the constructor.
     lumo_ui_tarn::context &context() const { return *context_; }
-    /// There is an object.
+    /// True if there is a C object: the owner was not moved from, and no error prevented the creation.
     explicit operator bool() const { return native_ != nullptr; }
 
     /// @cond helpers
@@ -310,43 +317,44 @@ protected:
     /// @endcond
 };
 
-/// What a record can do without being written, whatever its members are, and how the members printed from the schema do
-/// what they do. Names of helpers end in an underscore, since those of members are the schema's.
+/// The functions of all records that do not write, and helpers for the accessors. The names of helpers end in an
+/// underscore, because all other names may be names of members.
 template <class R, class Self>
 class operations : public bound<typename R::native> {
     using base = bound<typename R::native>;
 
 public:
-    /// What names the record's C functions.
+    /// Names the record's C functions.
     using record_type = R;
 
     /// The record's name in C.
     static constexpr std::string_view record_name() { return R::name; }
 
-    /// A view of it.
+    /// Converts to a view of the record.
     operator record_view<R>() const { return {this->context(), this->native_}; }
 
-    /// An upper bound, unless objects carry RA data.
+    /// An upper bound of the frame's size in bytes, without the guard byte. RA data of the runtime is not counted.
     std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->native_); }
-    /// Returns the bytes written. The last byte of the buffer is the spare one.
-    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
+    /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
+    /// ENOMEM if the buffer is too small.
+    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_guard) const {
         return this->context().call(R::marshal, static_cast<void *>(buffer), this->native_,
-                                    static_cast<std::int32_t>(size_with_spare) - 1);
+                                    static_cast<std::int32_t>(size_with_guard) - 1);
     }
 #if defined(__cpp_lib_span)
-    /// Returns the bytes written. The last byte of the buffer is the spare one.
-    std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
-        return write_frame(with_spare.data(), with_spare.size());
+    /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte.
+    std::size_t write_frame(std::span<std::uint8_t> with_guard) const {
+        return write_frame(with_guard.data(), with_guard.size());
     }
 #endif
-    /// Its frame, in a buffer that is large enough.
+    /// Returns the frame.
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return R::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::int32_t>(size), err);
         });
     }
-    /// An XML element of this name.
+    /// Returns an XML element with this name.
     std::string to_xml(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
@@ -354,22 +362,24 @@ public:
                              err);
         });
     }
-    /// Printed for people, under this name.
+    /// Returns readable text under this name. No function reads it.
     std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
-            return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->native_, static_cast<std::int32_t>(size), err);
+            return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->native_, static_cast<std::int32_t>(size),
+                            err);
         });
     }
 
-    /// Only the sign means something. Header and state play no part.
+    /// Compares the members in the order of the schema. Only the sign of the result has a meaning. State bytes are
+    /// ignored.
     std::int32_t compare(record_view<R> other) const { return R::compare(this->native_, other.get()); }
-    /// Equal records have equal hashes.
+    /// Returns a hash of the members. Equal records have equal hashes.
     std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->native_, seed); }
-    /// A deep copy.
+    /// Returns a deep copy, on the same handle.
     record<R> copy() const;
 
-    /// It has states.
+    /// True if the record has state bytes.
     bool is_tracked() const {
         return this->context().tracks() && this->native_ != nullptr &&
                (reinterpret_cast<const mirk_object *>(this->native_)->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
@@ -384,7 +394,7 @@ protected:
 
     using base::call_;
 
-    /// Writers chain: they return the owner, or the reference as const as it came.
+    /// Setters return the object, with the constness that it has.
     template <class Object>
     static auto &self_(Object &object) {
         return static_cast<std::conditional_t<std::is_const_v<Object>, const Self, Self> &>(object);
@@ -396,6 +406,7 @@ protected:
         return self_(object);
     }
     void fill_states_(std::uint8_t value) const {
+        if (!this->context().ok()) return;
         R::set_all_state_tracking_flag(this->context().handle(), this->context().ctx_id(), this->native_, value);
     }
     template <class GetState>
@@ -427,7 +438,9 @@ protected:
     template <class Object, class Set>
     static auto &write_string_(Object &object, Set set, std::string_view text) {
         if (text.size() > std::numeric_limits<std::uint16_t>::max()) {
-            object.context().fail(EOVERFLOW);
+            object.context().fail(EOVERFLOW, "text is longer than 65535 bytes");
+        } else if (text.find('\0') != std::string_view::npos) {  // the C function would store what precedes it
+            object.context().fail(EINVAL, "text contains a NUL character");
         } else {
             object.call_(set, text.data(), static_cast<std::uint32_t>(text.size()));
         }
@@ -445,7 +458,7 @@ protected:
         }
         return value;
     }
-    /// The setter takes a whole object: the one that stands there with other values, and states that say written.
+    /// The C setter takes an object: a copy of the present one with the new values, and with state bytes 2 for written.
     template <class Object, class Get, class Set>
     static auto &write_address_(Object &object, Get get, Set set, const lumo_ui_tarn::address &value) {
         const ip_address *present = object.call_(get);
@@ -465,8 +478,7 @@ protected:
         return self_(object);
     }
 
-    /// The setters of C move, and abandon what the destination owned. Here nothing is lost: a copy is moved in, and what
-    /// was there is moved out.
+    /// The C setters move, and leak the arrays and strings of the destination. So these are moved out first, and freed.
     template <class Object, class N, class Get, class Set>
     static auto &adopt_(Object &object, Get get, Set set, record<N> &&value) {
         {
@@ -480,7 +492,7 @@ protected:
         if constexpr (N::owns_blocks) {
             return adopt_(object, get, set, value.copy());
         } else {
-            object.call_(set, const_cast<typename N::native *>(value.get()));  // which copies
+            object.call_(set, const_cast<typename N::native *>(value.get()));  // only reads
             return self_(object);
         }
     }
@@ -495,111 +507,118 @@ class record_view : public R::template members<record_view<R>> {
     using base = typename R::template members<record_view<R>>;
 
 public:
-    /// Of what C code has. The operations of C that read take a plain pointer, too.
+    /// Borrows an instance of C code.
     record_view(context &c, const typename R::native *native) : base(c, const_cast<typename R::native *>(native)) {}
 
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     const typename R::native *get() const { return this->native_; }
+    /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
+    template <class Visit>
+    static void for_each_member(Visit &&visit) {
+        R::template visit_readable_<record_view>(visit);
+    }
 };
 
-/// Borrows a record: two pointers, which are copied and not what they point to.
+/// Borrows a record. Copies borrow the same record.
 template <class R>
 class record_ref : public R::template ref_writers<record_ref<R>> {
     using base = typename R::template ref_writers<record_ref<R>>;
 
 public:
-    /// Of what C code has.
+    /// Borrows an instance of C code.
     record_ref(context &c, typename R::native *native) : base(c, native) {}
 
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     typename R::native *get() const { return this->native_; }
-    /// Fills all state bytes at once; observers are not notified.
+    /// Sets all state bytes, also those of array elements, without notifications.
     void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
-    /// Calls visit with a lumo_ui_tarn::member for each, in order.
+    /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
     template <class Visit>
     static void for_each_member(Visit &&visit) {
         R::template visit_writable_<record_ref>(visit);
     }
 };
 
-/// Owns a record, and ends it.
+/// Owns a record and destroys it.
 template <class R>
-class record : public R::template writers<record<R>> {
-    using base = typename R::template writers<record<R>>;
+class record : public R::template owner_writers<record<R>> {
+    using base = typename R::template owner_writers<record<R>>;
 
 public:
-    /// Borrows what this owns.
+    /// Borrows the record.
     using reference_type = record_ref<R>;
-    /// Borrows what this owns, to read it.
+    /// Borrows the record to read it.
     using view_type = record_view<R>;
 
-    /// All members zero. ENOMEM without memory.
+    /// Creates a record with all members zero. ENOMEM if allocation fails.
     explicit record(context &c) : base(c, c.ok() ? R::create(c.handle(), c.ctx_id()) : nullptr) {
         if (this->native_ == nullptr) c.fail(ENOMEM);
     }
-    /// Copies are made by copy().
+    /// Use copy().
     record(const record &) = delete;
-    /// The other one is empty afterwards.
+    /// The other owner has no record afterwards.
     record(record &&other) noexcept : base(other.context(), other.release()) {}
-    /// The other one gets what this one had.
+    /// Swaps the two.
     record &operator=(record &&other) noexcept {
         std::swap(this->context_, other.context_);
         std::swap(this->native_, other.native_);
         return *this;
     }
-    /// Ends the record.
+    /// Destroys the record.
     ~record() {
         if (this->native_ != nullptr) R::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
-    /// Takes over what C code made, or hands it back to C code.
+    /// Takes the ownership of an instance from C code.
     static record take(context &c, typename R::native *native) { return record(c, native); }
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     typename R::native *get() { return this->native_; }
-    /// The object, to be read.
+    /// The C object, or nullptr.
     const typename R::native *get() const { return this->native_; }
-    /// A reference to it.
+    /// Converts to a reference to the record.
     operator record_ref<R>() { return {this->context(), this->native_}; }
-    /// Fills all state bytes at once; observers are not notified.
+    /// Sets all state bytes, also those of array elements, without notifications.
     void set_all_states(std::uint8_t value) { this->fill_states_(value); }
-    /// Calls visit with a lumo_ui_tarn::member for each, in order; a const owner is visited as its view_type.
+    /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema. The functions need an owner
+    /// that is not const; for a const one use view_type.
     template <class Visit>
     static void for_each_member(Visit &&visit) {
         R::template visit_writable_<record>(visit);
     }
-    /// Gives it away; this one is empty afterwards.
+    /// Passes the ownership to the caller, who destroys the C object.
     [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// Reads the frame where it lies: its owner has one readable byte behind the size, as a frame object does.
-    static record from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
+    /// Creates a record from a frame. A guard byte follows the size bytes; it is not part of the frame.
+    static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
-        // The operation takes a plain void * and only reads.
+        // The C function only reads.
         c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), static_cast<std::uint32_t>(size),
                std::uint32_t{0});
         return fresh;
     }
-    /// Reads a frame.
+    /// Creates a record from a frame.
     static record from_frame(context &c, const frame &whole) {
-        return from_frame_with_spare(c, whole.data(), whole.size());
+        return from_frame_with_guard(c, whole.data(), whole.size());
     }
-    /// Copies the bytes first.
+    /// Creates a record from a copy of a frame: no guard byte is needed.
     static record from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
-    /// Copies the bytes first.
+    /// Creates a record from a copy of a frame: no guard byte is needed.
     static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// The document is the runtime's. Without a path the record's element is looked for at any depth.
+    /// Creates a record from an element of the runtime's document: the one at path, or the first one, at any depth,
+    /// with the record's name.
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
         std::string anywhere = "//";
         anywhere += R::name;
-        char words[256] = "";
+        char explanation[256] = "";
         if (c.ok()) {
             R::from_xml(c.handle(), c.ctx_id(), path != nullptr ? path : anywhere.c_str(), document, fresh.get(),
-                        c.slot(), words, sizeof words);
-            if (!c.ok()) c.fail(*c.slot(), words);
+                        c.slot(), explanation, sizeof explanation);
+            if (!c.ok()) c.fail(*c.slot(), explanation);
         }
         return fresh;
     }
@@ -608,14 +627,14 @@ private:
     record(context &c, typename R::native *native) : base(c, native) {}
 };
 
-/// The same in all members.
+/// True if all members are equal.
 template <class A, class B, class R = typename A::record_type,
           class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
                                    std::is_base_of_v<detail::operations<R, B>, B>>>
 bool operator==(const A &a, const B &b) {
     return a.compare(b) == 0;
 }
-/// Another in some member.
+/// True if a member differs.
 template <class A, class B, class R = typename A::record_type,
           class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
                                    std::is_base_of_v<detail::operations<R, B>, B>>>
@@ -633,7 +652,7 @@ bool operator<(const A &a, const B &b) {
 namespace detail {
 
 /// @cond helpers
-/// By way of a frame, like every deep copy, but of any size.
+/// Through a frame, like T_copy_cr, but in a buffer that is large enough for any record.
 template <class R, class Self>
 record<R> operations<R, Self>::copy() const {
     lumo_ui_tarn::context &c = this->context();
@@ -649,23 +668,23 @@ record<R> operations<R, Self>::copy() const {
 
 namespace detail {
 
-/// An array of a record, as a container of what borrows an element.
+/// A container over an array of a record. Elements are references or views.
 template <class A, class Element>
 class array {
 public:
-    /// What an element is to whoever looks.
+    /// A reference to an element, or a view of it.
     using value_type = Element;
-    /// What counts elements.
+    /// The type of sizes and indexes.
     using size_type = std::size_t;
 
-    /// Over the elements, with random access.
+    /// A random access iterator.
     class iterator {
     public:
-        /// @cond what every iterator has
+        /// @cond members of any iterator
         using value_type = Element;
         using reference = value_type;
         using difference_type = std::ptrdiff_t;
-        using iterator_category = std::input_iterator_tag;  // its references are values, hence no better one
+        using iterator_category = std::input_iterator_tag;  // because reference is a value
 #if __cplusplus >= 202002L
         using iterator_concept = std::random_access_iterator_tag;
 #endif
@@ -715,17 +734,17 @@ public:
         typename A::native *owner_ = nullptr;
         std::size_t at_ = 0;
     };
-    /// Being constant protects the container and not what is in it.
+    /// A const container protects itself and not the elements.
     using const_iterator = iterator;
 
-    /// How many elements there are.
+    /// Number of elements.
     std::size_t size() const { return context_->call(A::size, owner_); }
-    /// There are none.
+    /// True if there are no elements.
     bool empty() const { return size() == 0; }
-    /// What the count can tell.
+    /// The largest number of elements that the count can hold.
     static constexpr std::size_t max_size() { return std::numeric_limits<typename A::count>::max(); }
 
-    /// ENOENT behind the end.
+    /// An element. ENOENT if index is not less than size().
     value_type operator[](std::size_t index) const {
         return {*context_, context_->call(A::get, owner_, static_cast<std::uint32_t>(index))};
     }
@@ -733,18 +752,18 @@ public:
     value_type front() const { return (*this)[0]; }
     /// The last element.
     value_type back() const { return (*this)[size() - 1]; }
-    /// At the first element.
+    /// Iterator to the first element.
     iterator begin() const { return {context_, owner_, 0}; }
-    /// Behind the last element.
+    /// Iterator past the last element.
     iterator end() const { return {context_, owner_, size()}; }
 
-    /// The state of one element; none if the owner has no states.
+    /// The state byte of an element, or nothing if the record has no state bytes.
     std::optional<std::uint8_t> state(std::size_t index) const {
         const auto *object = reinterpret_cast<const mirk_object *>(owner_);
         if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
             return std::nullopt;
         }
-        return context_->call(A::state_get, owner_, static_cast<std::uint32_t>(index));
+        return context_->call(A::state_flag_get, owner_, static_cast<std::uint32_t>(index));
     }
     /// @cond helpers
 protected:
@@ -758,17 +777,17 @@ protected:
 
 }  // namespace detail
 
-/// An array that is only read.
+/// An array of a record, read-only.
 template <class A>
 class array_view : public detail::array<A, record_view<typename A::element>> {
 public:
-    /// Of the record that has the array.
+    /// An array of this record.
     array_view(context &c, const typename A::native *owner)
         : detail::array<A, record_view<typename A::element>>(c, const_cast<typename A::native *>(owner)) {}
 };
 
-/// An array of a record, as a container of references. It stays good while its owner lives; references to elements stay
-/// good until the array grows, and each growth moves all elements: grow once, then fill.
+/// An array of a record. It is valid as long as the record. Growing moves all elements and invalidates references to
+/// them: grow once, then fill.
 template <class A>
 class array_ref : public detail::array<A, record_ref<typename A::element>> {
     using base = detail::array<A, record_ref<typename A::element>>;
@@ -780,23 +799,25 @@ public:
     using base::max_size;
     using base::size;
 
-    /// Of the record that has the array.
+    /// An array of this record.
     array_ref(context &c, typename A::native *owner) : base(c, owner) {}
-    /// A view of it.
+    /// Converts to a read-only array.
     operator array_view<A>() const { return {*context_, owner_}; }
 
-    /// To this many elements, new ones with all members zero. EINVAL for fewer than there are: arrays do not shrink.
+    /// Grows the array to this many elements; all members of new ones are zero. EINVAL for fewer than size(), because
+    /// arrays do not shrink. EOVERFLOW for more than max_size().
     const array_ref &grow(std::size_t elements) const {
         const std::size_t before = size();
         if (elements < before) context_->fail(EINVAL);
         if (elements > max_size()) context_->fail(EOVERFLOW);
         if (elements <= before || !context_->ok()) return *this;
         std::optional<record<element>> blank;
-        if (context_->tracks()) blank.emplace(*context_);  // the null value is for handles that do not track
+        if (context_->tracks()) blank.emplace(*context_);  // C refuses a null value on a tracking handle
         put(elements - 1, blank ? blank->get() : nullptr);
         return *this;
     }
-    /// Grows as far as it has to. What stood there is released.
+    /// Moves a record into an element, whose arrays and strings are freed first. Grows the array if necessary;
+    /// EOVERFLOW if index is not less than max_size().
     const array_ref &set(std::size_t index, record<element> &&value) const {
         const std::size_t before = size();
         if (index >= max_size()) context_->fail(EOVERFLOW);
@@ -809,16 +830,16 @@ public:
         }
         return *this;
     }
-    /// Writes a copy of the value.
+    /// Copies a record into an element. Grows the array if necessary.
     const array_ref &set(std::size_t index, record_view<element> value) const { return set(index, value.copy()); }
-    /// Moves the value behind the last element.
+    /// Appends a record by moving it.
     const array_ref &push_back(record<element> &&value) const { return set(size(), std::move(value)); }
-    /// Puts a copy of the value behind the last element.
+    /// Appends a copy of a record.
     const array_ref &push_back(record_view<element> value) const { return set(size(), value.copy()); }
 
-    /// Writes the state of one element.
+    /// Writes the state byte of an element.
     const array_ref &set_state(std::size_t index, std::uint8_t value) const {
-        context_->call(A::state_set, owner_, static_cast<std::uint32_t>(index), value);
+        context_->call(A::state_flag_set, owner_, static_cast<std::uint32_t>(index), value);
         return *this;
     }
 
@@ -830,15 +851,15 @@ private:
 
 namespace detail {
 
-/// What a message can do without being written.
+/// The functions of all messages that do not write.
 template <class M>
 class message_operations : public bound<typename M::native> {
     using base = bound<typename M::native>;
 
 public:
-    /// What names the message's C functions.
+    /// Names the message's C functions.
     using message_type = M;
-    /// What names its payload's C functions.
+    /// Names its payload's C functions.
     using payload_type = typename M::payload;
 
     /// The message's name in C.
@@ -846,34 +867,35 @@ public:
     /// Its identity, 16 bytes.
     static const std::uint8_t *luid() { return M::luid(); }
 
-    /// A view of it.
+    /// Converts to a view of the message.
     operator message_view<M>() const { return {this->context(), this->native_}; }
 
-    /// Bytes of its frame.
+    /// An upper bound of the frame's size in bytes, without the guard byte. RA data of the runtime is not counted.
     std::size_t frame_size() const {
         return this->native_ != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
     }
-    /// Returns the bytes written. The last byte of the buffer is the spare one.
-    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_spare) const {
+    /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
+    /// ENOMEM if the buffer is too small.
+    std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_guard) const {
         return this->context().call(M::marshal, static_cast<void *>(buffer), this->native_,
-                                    static_cast<std::uint32_t>(size_with_spare) - 1);
+                                    static_cast<std::uint32_t>(size_with_guard) - 1);
     }
 #if defined(__cpp_lib_span)
-    /// Returns the bytes written. The last byte of the buffer is the spare one.
-    std::size_t write_frame(std::span<std::uint8_t> with_spare) const {
-        return write_frame(with_spare.data(), with_spare.size());
+    /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte.
+    std::size_t write_frame(std::span<std::uint8_t> with_guard) const {
+        return write_frame(with_guard.data(), with_guard.size());
     }
 #endif
-    /// Its frame, in a buffer that is large enough.
+    /// Returns the frame.
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return M::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
         });
     }
-    /// An XML element of its name.
+    /// Returns an XML element with the message's name.
     std::string to_xml() const { return rendered(M::to_xml); }
-    /// Printed for people.
+    /// Returns readable text. No function reads it.
     std::string text() const { return rendered(M::print); }
 
     /// @cond helpers
@@ -888,8 +910,11 @@ protected:
         return record<payload_type>::take(this->context(), this->call_(M::payload_get_detach));
     }
     void set_payload_(record<payload_type> &&value) const {
-        typename payload_type::native *const next = value.release();
-        if (next != payload_().get()) this->call_(M::payload_free_and_set, next);
+        lumo_ui_tarn::context &c = this->context();
+        if (this->native_ == nullptr) c.fail(EINVAL, "there is no message");
+        const bool is_its_own = value.get() == payload_().get();
+        if (!is_its_own) this->call_(M::payload_free_and_set, value.get());
+        if (c.ok()) (void)value.release();  // else it stays with its owner
     }
     /// @endcond
 
@@ -905,88 +930,88 @@ private:
 
 }  // namespace detail
 
-/// Borrows a message to read it, as record_view borrows a record.
+/// Borrows a message to read it.
 template <class M>
 class message_view : public detail::message_operations<M> {
 public:
-    /// Of what C code has. The operations of C that read take a plain pointer, too.
+    /// Borrows a message of C code.
     message_view(context &c, const typename M::native *native)
         : detail::message_operations<M>(c, const_cast<typename M::native *>(native)) {}
 
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     const typename M::native *get() const { return this->native_; }
-    /// Borrowed: it goes with the message.
+    /// The payload. The message owns it.
     record_view<typename M::payload> payload() const { return this->payload_(); }
 };
 
-/// Borrows a message, as record_ref borrows a record.
+/// Borrows a message. Copies borrow the same message.
 template <class M>
 class message_ref : public detail::message_operations<M> {
 public:
-    /// Of what C code has.
+    /// Borrows a message of C code.
     message_ref(context &c, typename M::native *native) : detail::message_operations<M>(c, native) {}
 
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     typename M::native *get() const { return this->native_; }
-    /// Borrowed: it goes with the message.
+    /// The payload. The message owns it.
     record_ref<typename M::payload> payload() const { return this->payload_(); }
-    /// The message has no payload afterwards, until it gets another one.
+    /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() const { return this->detach_payload_(); }
-    /// What it had is destroyed.
+    /// Destroys the payload and stores another one, which must be on the same handle. After an error value keeps it.
     void set_payload(record<typename M::payload> &&value) const { this->set_payload_(std::move(value)); }
 };
 
-/// Owns a message, and ends it with its payload.
+/// Owns a message and destroys it with its payload.
 template <class M>
 class message : public detail::message_operations<M> {
     using base = detail::message_operations<M>;
 
 public:
-    /// Borrows what this owns.
+    /// Borrows the message.
     using reference_type = message_ref<M>;
-    /// Borrows what this owns, to read it.
+    /// Borrows the message to read it.
     using view_type = message_view<M>;
 
-    /// With a fresh payload. ENOMEM without memory.
+    /// Creates a message with a payload whose members are zero. ENOMEM if allocation fails.
     explicit message(context &c) : base(c, c.ok() ? M::create(c.handle(), c.ctx_id()) : nullptr) {
         if (this->native_ == nullptr) c.fail(ENOMEM);
     }
-    /// Messages are not copied.
+    /// Messages cannot be copied; their payloads can.
     message(const message &) = delete;
-    /// The other one is empty afterwards.
+    /// The other owner has no message afterwards.
     message(message &&other) noexcept : base(other.context(), other.release()) {}
-    /// The other one gets what this one had.
+    /// Swaps the two.
     message &operator=(message &&other) noexcept {
         std::swap(this->context_, other.context_);
         std::swap(this->native_, other.native_);
         return *this;
     }
-    /// Ends the message.
+    /// Destroys the message and its payload.
     ~message() {
         if (this->native_ != nullptr) M::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
-    /// Takes over what C code made.
+    /// Takes the ownership of a message from C code.
     static message take(context &c, typename M::native *native) { return message(c, native); }
-    /// The object, for C functions; null if there is none.
+    /// The C object, or nullptr.
     typename M::native *get() { return this->native_; }
-    /// The object, to be read.
+    /// The C object, or nullptr.
     const typename M::native *get() const { return this->native_; }
-    /// A reference to it.
+    /// Converts to a reference to the message.
     operator message_ref<M>() { return {this->context(), this->native_}; }
-    /// Borrowed: it goes with the message.
+    /// The payload. The message owns it.
     record_ref<typename M::payload> payload() { return this->payload_(); }
-    /// The message has no payload afterwards, until it gets another one.
+    /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() { return this->detach_payload_(); }
-    /// What it had is destroyed.
+    /// Destroys the payload and stores another one, which must be on the same handle. After an error value keeps it.
     void set_payload(record<typename M::payload> &&value) { this->set_payload_(std::move(value)); }
-    /// Borrowed, to be read: it goes with the message.
+    /// The payload, read-only. The message owns it.
     record_view<typename M::payload> payload() const { return this->payload_(); }
-    /// Gives it away; this one is empty afterwards.
+    /// Passes the ownership to the caller, who destroys the C object.
     [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// A message that was read in part is destroyed again.
-    static message from_frame_with_spare(context &c, const void *bytes, std::size_t size) {
+    /// Creates a message from a frame. A guard byte follows the size bytes; it is not part of the frame.
+    static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         std::uint32_t err = *c.slot();
         M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
@@ -995,25 +1020,25 @@ public:
         if (err != 0) c.fail(err);
         return read;
     }
-    /// Reads a frame.
+    /// Creates a message from a frame.
     static message from_frame(context &c, const frame &whole) {
-        return from_frame_with_spare(c, whole.data(), whole.size());
+        return from_frame_with_guard(c, whole.data(), whole.size());
     }
-    /// Copies the bytes first.
+    /// Creates a message from a copy of a frame: no guard byte is needed.
     static message from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
-    /// Copies the bytes first.
+    /// Creates a message from a copy of a frame: no guard byte is needed.
     static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// The document is the runtime's.
+    /// Creates a message from the first element of the runtime's document that has the payload's name.
     static message from_xml(context &c, void *document) {
-        char words[256] = "";
+        char explanation[256] = "";
         typename M::native *native = nullptr;
         if (c.ok()) {
-            native = M::from_xml(c.handle(), c.ctx_id(), document, c.slot(), words, sizeof words);
-            if (!c.ok()) c.fail(*c.slot(), words);
+            native = M::from_xml(c.handle(), c.ctx_id(), document, c.slot(), explanation, sizeof explanation);
+            if (!c.ok()) c.fail(*c.slot(), explanation);
         }
         return message(c, native);
     }
@@ -1022,38 +1047,38 @@ private:
     message(context &c, typename M::native *native) : base(c, native) {}
 };
 
-/// Frames of one answer: the start of a bundle, its messages, and its commit. Ends with an abort if nobody commits.
+/// Writes the frames of a bundle: its start, its messages, and its commit or abort. The destructor aborts an open
+/// bundle on the handle, without a frame: do not send frames() before commit() or abort().
 template <class B>
 class bundle_writer {
 public:
-    /// Writes the start.
+    /// Opens the bundle and writes the start's frame. EEXIST if a bundle is open on the handle.
     explicit bundle_writer(context &c) : context_(&c) {
         control(B::start_message_marshal);
         open_ = c.ok();
     }
-    /// A bundle is open once.
+    /// A bundle has one writer.
     bundle_writer(const bundle_writer &) = delete;
-    /// A bundle is open once.
+    /// A bundle has one writer.
     bundle_writer &operator=(const bundle_writer &) = delete;
-    /// Ends the bundle in the runtime if nobody did.
+    /// Aborts the bundle on the handle if it is open.
     ~bundle_writer() {
         if (!open_) return;
-        std::uint8_t frame_of_nobody[64];
+        std::uint8_t unused[64];
         std::uint32_t err = 0;
-        B::abort_message_marshal(context_->handle(), context_->ctx_id(), frame_of_nobody, nullptr,
-                                 sizeof frame_of_nobody - 1, &err);
+        B::abort_message_marshal(context_->handle(), context_->ctx_id(), unused, nullptr, sizeof unused - 1, &err);
     }
 
-    /// The frame of a message that the bundle admits.
+    /// Appends the frame of a message.
     bundle_writer &add(message_view<typename B::message> one) {
         frames_.append(one.to_frame());
         return *this;
     }
-    /// The frame of the commit.
+    /// Closes the bundle and appends the commit's frame. Has no effect while an error is kept.
     bundle_writer &commit() { return end(B::commit_message_marshal); }
-    /// The frame of the abort.
+    /// Closes the bundle and appends the abort's frame. Has no effect while an error is kept.
     bundle_writer &abort() { return end(B::abort_message_marshal); }
-    /// What was written up to now.
+    /// The frames written so far.
     const frame &frames() const { return frames_; }
 
 private:
@@ -1066,7 +1091,7 @@ private:
     }
     template <class Operation>
     bundle_writer &end(Operation operation) {
-        if (!context_->ok()) return *this;  // what is missing in the answer must not be committed
+        if (!context_->ok()) return *this;  // an incomplete bundle must not be committed
         open_ = false;
         control(operation);
         return *this;
@@ -1079,7 +1104,7 @@ private:
 
 }  // namespace lumo_ui_tarn
 
-/// @cond what every hash has
+/// @cond hashes
 template <class R>
 struct std::hash<lumo_ui_tarn::record<R>> {
     std::size_t operator()(const lumo_ui_tarn::record<R> &object) const { return object.hash(); }

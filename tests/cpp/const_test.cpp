@@ -1,4 +1,4 @@
-// What is const is read-only: which expressions compile, for every member of every record.
+// Const objects are read-only: checks which expressions compile, for every member of every record.
 #include <gtest/gtest.h>
 #include <mirk_platform.h>
 
@@ -22,7 +22,7 @@ constexpr bool is_ref<record_ref<R>> = true;
 template <class A>
 constexpr bool is_ref<array_ref<A>> = true;
 
-// What a setter takes, and whether it can be called with that on an object of the type.
+// True if the setter can be called on an object of this type, with an argument of its parameter's type.
 template <class Object, class Result, class Class, class Value>
 constexpr bool writes(Result (Class::*)(Value)) {
     return std::is_invocable_v<Result (Class::*)(Value), Object, Value>;
@@ -42,7 +42,7 @@ void expect_writes(Set set, bool expected, std::string_view name) {
 template <class Object, class Get>
 using Read = std::invoke_result_t<Get, Object>;
 
-TEST(CppInterfaceConst, OwnersWriteOnlyWhileTheyAreNotConst) {
+TEST(CppInterfaceConst, OnlyOwnersThatAreNotConstCanWrite) {
     for_each_record([]<class R>(kind<R>) {
         SCOPED_TRACE(R::record_name());
         R::for_each_member([](const auto &m) {
@@ -57,7 +57,7 @@ TEST(CppInterfaceConst, OwnersWriteOnlyWhileTheyAreNotConst) {
     });
 }
 
-TEST(CppInterfaceConst, ReferencesWriteAlways) {
+TEST(CppInterfaceConst, ConstReferencesCanWrite) {
     for_each_record([]<class R>(kind<R>) {
         using Ref = typename R::reference_type;
         SCOPED_TRACE(R::record_name());
@@ -69,7 +69,7 @@ TEST(CppInterfaceConst, ReferencesWriteAlways) {
     });
 }
 
-TEST(CppInterfaceConst, ViewsNeverWrite) {
+TEST(CppInterfaceConst, ViewsCannotWrite) {
     for_each_record([]<class R>(kind<R>) {
         using View = typename R::view_type;
         View::for_each_member([](const auto &m) {
@@ -88,7 +88,7 @@ concept GivesAPlainPointer = requires(T object) {
     { *object.get() } -> std::same_as<typename std::remove_cvref_t<T>::record_type::native &>;
 };
 
-TEST(CppInterfaceConst, NothingWritableComesOutOfAConstOwner) {
+TEST(CppInterfaceConst, ConstOwnersGiveReadOnlyObjects) {
     for_each_record([]<class R>(kind<R>) {
         using Ref = typename R::reference_type;
         using View = typename R::view_type;

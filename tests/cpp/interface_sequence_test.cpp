@@ -1,5 +1,5 @@
-// The C++ interface asks of the runtime what the C calls ask, no more and no less: each function once on its own and
-// once through the interface, on the runtime that writes every call down.
+// The C++ interface makes the same runtime calls as the C functions: each is called directly and through the interface,
+// and the recorded calls are compared.
 #include <lumo_ui_tarn.hpp>
 
 #include "tests/families/recorded.h"
@@ -12,8 +12,8 @@ using lumo_ui_tarn::context;
 using lumo_ui_tarn::kind;
 using recording::Detail;
 
-// A reference to something that can be called. Thousands of different ones are made here, and it takes the compiler a
-// fraction of the time that a std::function of each would.
+// A reference to a callable. There are thousands of them, and a std::function for each takes several times as long to
+// compile.
 class Operation {
 public:
     template <class F>
@@ -36,12 +36,12 @@ protected:
         recording::name_region("slot", slot_, sizeof *slot_);
         operation();
         Lines lines = recording::lines(Detail::full);
-        if (h()->sttr_desc == nullptr || h()->sttr_desc->sttr_mode != 0xEEEE) forget_state_bases(lines);
+        if (h()->sttr_desc == nullptr || h()->sttr_desc->sttr_mode != 0xEEEE) remove_state_addresses(lines);
         return lines;
     }
-    // On a handle that does not track, the place where states would stand is formed and never touched. What lies there
-    // is up to the allocator.
-    static void forget_state_bases(Lines &lines) {
+    // On an untracked handle the address after the object is passed as its state area, but never used. It depends on
+    // the allocator.
+    static void remove_state_addresses(Lines &lines) {
         for (std::string &line : lines) {
             if (line.find("_initialize ") == std::string::npos) continue;
             std::size_t base = 0;
@@ -49,7 +49,7 @@ protected:
             line.erase(base, line.find(' ', base) - base);
         }
     }
-    // One object stands for both; what an operation writes, it writes twice.
+    // Both use the same object, so writes are made twice.
     void expect_same(const char *what, Operation c, Operation cpp) {
         slot_ = &err;
         const Lines expected = recorded(c);
@@ -60,7 +60,7 @@ protected:
         ++compared_;
     }
 
-    // What is called in C, the same for every type of member.
+    // The C functions, the same for every type of member.
     mirk_handle *h() const { return context_->handle(); }
     auto get(const MemberOperations &o) {
         return [this, &o] { o.get(h(), id, object_, &err); };
@@ -125,7 +125,7 @@ protected:
                 }
             } else if constexpr (std::is_same_v<Value, std::string>) {
                 expect_same("get", get_text(o, r.members[index - 2]), [&] { (object.*m.get)(); });
-                (object.*m.set)("text");  // so that both find one to give back
+                (object.*m.set)("text");  // so that both setters free a former text
                 expect_same("set", set_text(o), [&] { (object.*m.set)("text"); });
             } else if constexpr (std::is_same_v<Value, lumo_ui_tarn::address>) {
                 expect_same("get", get(o), [&] { (object.*m.get)(); });
@@ -159,7 +159,7 @@ protected:
     std::size_t compared_ = 0;
 };
 
-TEST_F(CppSequence, OfMembers) {
+TEST_F(CppSequence, AccessorsMakeTheCallsOfTheCFunctions) {
     Handle h({Tracking::on});
     context c(h, id, lumo_ui_tarn::errors::kept);
     context_ = &c;
@@ -175,7 +175,7 @@ TEST_F(CppSequence, OfMembers) {
     EXPECT_GT(compared_, 1000u);
 }
 
-TEST_F(CppSequence, OfWholeRecords) {
+TEST_F(CppSequence, RecordsMakeTheCallsOfTheCFunctions) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({tracking});
         context c(h, id, lumo_ui_tarn::errors::kept);
@@ -206,7 +206,7 @@ TEST_F(CppSequence, OfWholeRecords) {
                 "hash", [&] { r.hash(native, 0); }, [&] { object.hash(); });
             expect_same(
                 "states", [&] { r.set_all_state_tracking_flag(h, id, native, 0); }, [&] { object.set_all_states(0); });
-            // What needs a buffer of unknown size asks for the length first.
+            // Functions that allocate a buffer call len first.
             const auto without_slot = [&](Operation operation) {
                 Lines lines = recorded(operation);
                 for (std::string &line : lines) line = line.substr(0, line.find(" err="));
@@ -223,18 +223,18 @@ TEST_F(CppSequence, OfWholeRecords) {
             });
             EXPECT_EQ(without_slot([&] { object.to_frame(); }), frame_in_c);
             expect_same(
-                "made, read and destroyed",
+                "create, read and destroy",
                 [&] {
                     void *fresh = r.create(h, id);
                     r.unmarshal(h, id, buffer.data(), fresh, written, 0, &err);
                     r.destroy(h, id, fresh);
                 },
-                [&] { R::from_frame_with_spare(c, buffer.data(), written); });
+                [&] { R::from_frame_with_guard(c, buffer.data(), written); });
         });
     }
 }
 
-TEST_F(CppSequence, OfMessages) {
+TEST_F(CppSequence, MessagesMakeTheCallsOfTheCFunctions) {
     Handle h({Tracking::none});
     context c(h, id, lumo_ui_tarn::errors::kept);
     context_ = &c;
@@ -254,7 +254,7 @@ TEST_F(CppSequence, OfMessages) {
             "frame", [&] { o.marshal(h, id, buffer.data(), native, size, &err); },
             [&] { message.write_frame(buffer); });
         expect_same(
-            "made and destroyed", [&] { o.destroy(h, id, o.create(h, id)); }, [&] { M{c}; });
+            "create and destroy", [&] { o.destroy(h, id, o.create(h, id)); }, [&] { M{c}; });
     });
 }
 

@@ -1,4 +1,4 @@
-// Every record and message through the C++ interface, held against the C functions and the independent codec.
+// Compares every record and message of the C++ interface with the C functions and the independent codec.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ constexpr int rounds = 4;
 
 reference::GeneratorOptions printable() {
     reference::GeneratorOptions options;
-    options.printable = true;  // a string of C ends at a NUL
+    options.printable = true;  // text cannot contain a NUL
     return options;
 }
 
@@ -43,7 +43,7 @@ R filled(context &c, const reference::Record &value) {
 
 template <class R>
 reference::Record value_of(const R &object) {
-    // What reads takes a plain pointer, too.
+    // The bridge only reads.
     auto *native = const_cast<typename R::record_type::native *>(object.get());
     return bridge::extract(object.context().handle(), bridge::operations(R::record_name()), native);
 }
@@ -57,7 +57,7 @@ concept Nested = requires(T r) {
     r.to_frame();
 };
 
-// Through nothing but the functions of the members.
+// Uses only the functions of the members.
 template <class R>
 void copy_members(record_ref<R> from, record_ref<R> to, bool states) {
     record_ref<R>::for_each_member([&](const auto &m) {
@@ -97,7 +97,7 @@ TEST(CppInterface, MembersAreReadAndWritten) {
     }
 }
 
-TEST(CppInterface, MembersBearTheNamesOfTheSchemaInItsOrder) {
+TEST(CppInterface, MembersHaveTheNamesAndOrderOfTheSchema) {
     for_each_record([&]<class R>(kind<R>) {
         std::vector<std::string> names, expected;
         R::for_each_member([&](const auto &m) { names.emplace_back(m.name); });
@@ -117,7 +117,7 @@ void expect_states(record_ref<R> object, std::uint8_t state) {
     });
 }
 
-TEST(CppInterface, StatesAreSetTogetherAndOneByOne) {
+TEST(CppInterface, StateBytesAreSetTogetherAndOneByOne) {
     kit::Handle h(Tracking::on);
     context c(h);
     for_each_record([&]<class R>(kind<R>) {
@@ -140,7 +140,7 @@ TEST(CppInterface, StatesAreSetTogetherAndOneByOne) {
     });
 }
 
-TEST(CppInterface, FramesAreThoseOfTheIndependentCodec) {
+TEST(CppInterface, FramesEqualThoseOfTheIndependentCodec) {
     for (const Tracking tracking : kit::every_tracking) {
         SCOPED_TRACE(kit::name_of(tracking));
         each_record(
@@ -165,7 +165,7 @@ TEST(CppInterface, FramesAreThoseOfTheIndependentCodec) {
     }
 }
 
-TEST(CppInterface, RaDataGoesIntoFramesToo) {
+TEST(CppInterface, RaDataIsWrittenToFrames) {
     kit::Handle h;
     context c(h);
     debug_setting object(c);
@@ -175,7 +175,7 @@ TEST(CppInterface, RaDataGoesIntoFramesToo) {
     EXPECT_EQ(object.to_frame().size(), plain + 9);
 }
 
-TEST(CppInterface, CopiesAreDeepAndMovesAreNone) {
+TEST(CppInterface, CopiesAreDeepAndMovesKeepTheObject) {
     for (const Tracking tracking : kit::every_tracking) {
         SCOPED_TRACE(kit::name_of(tracking));
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
@@ -209,7 +209,7 @@ std::string without_nul(std::string text) {
     return text;
 }
 
-TEST(CppInterface, TextAndXmlAreThoseOfTheIndependentForms) {
+TEST(CppInterface, TextAndXmlEqualThoseOfTheIndependentCodec) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
             kit::Handle h(tracking);
@@ -226,7 +226,7 @@ TEST(CppInterface, TextAndXmlAreThoseOfTheIndependentForms) {
 
 TEST(CppInterface, XmlIsReadBack) {
     reference::GeneratorOptions options = printable();
-    options.min_text = 1;  // an empty string takes the member behind it along
+    options.min_text = 1;  // after an empty string, reading XML skips a member
     each_record(
         [&]<class R>(kind<R>, const reference::Record &value) {
             kit::Handle h;
@@ -259,9 +259,8 @@ TEST(CppInterface, RecordsAreOrderedAndHashedByValue) {
     });
 }
 
-// A member that is a record is copied or moved into a place that holds something already, and nothing is lost: the
-// handle counts its blocks.
-TEST(CppInterface, NestedRecordsAreCopiedAndMovedIn) {
+// The handle counts its blocks, so the test fails if the former arrays and strings are leaked.
+TEST(CppInterface, AssigningToNestedRecordsAndElementsFreesTheirFormerContent) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         each_record([&]<class R>(kind<R>, const reference::Record &value) {
             kit::Handle h(tracking);
@@ -347,14 +346,14 @@ M carrying(context &c, const reference::Record &value) {
     return message;
 }
 
-TEST(CppInterface, MessagesCarryTheirPayload) {
+TEST(CppInterface, MessagesOwnTheirPayload) {
     each_message([]<class M>(kind<M>, const reference::Record &value) {
         kit::Handle h(Tracking::on);
         context c(h);
         M message = carrying<M>(c, value);
         using Payload = record<typename M::payload_type>;
         const auto *native = message.payload().get();
-        message.set_payload(Payload::take(c, message.payload().get()));  // its own: nothing happens
+        message.set_payload(Payload::take(c, message.payload().get()));  // its own: no effect
         EXPECT_EQ(message.payload().get(), native);
         const Payload payload = message.detach_payload();
         EXPECT_EQ(payload.get(), native);
@@ -366,7 +365,7 @@ TEST(CppInterface, MessagesCarryTheirPayload) {
     });
 }
 
-TEST(CppInterface, MessageFramesAreThoseOfTheIndependentCodec) {
+TEST(CppInterface, MessageFramesEqualThoseOfTheIndependentCodec) {
     for (const Tracking tracking : kit::every_tracking) {
         each_message([&]<class M>(kind<M>, const reference::Record &value) {
             kit::Handle h(tracking);
@@ -400,7 +399,7 @@ TEST(CppInterface, MessagesAreReadFromXml) {
     EXPECT_TRUE(read.payload() == message.payload());
 }
 
-TEST(CppInterface, BundlesAreWrittenAsTheIndependentCodecWritesThem) {
+TEST(CppInterface, BundlesEqualThoseOfTheIndependentCodec) {
     std::size_t count = 0;
     for_each_bundle([&]<class B>(kind<B>) {
         ++count;
@@ -423,7 +422,7 @@ TEST(CppInterface, BundlesAreWrittenAsTheIndependentCodecWritesThem) {
     EXPECT_EQ(count, reference::bundles().size());
 }
 
-TEST(CppInterface, BundlesThatNobodyCommitsAreAborted) {
+TEST(CppInterface, OpenBundlesAreAbortedWithTheirWriter) {
     kit::Handle h;
     context c(h);
     {

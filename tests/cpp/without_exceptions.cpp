@@ -1,4 +1,4 @@
-// Reads a broken frame and a good one in a program without exceptions: what fails is told by the context.
+// Reads a valid and an invalid frame in a program without exceptions, where the context keeps the errors.
 #include <mirk_platform.h>
 
 #include <cstdio>
@@ -12,7 +12,7 @@ int failures = 0;
 
 void expect(bool holds, const char *what) {
     if (holds) return;
-    std::printf("not so: %s\n", what);
+    std::printf("failed: %s\n", what);
     ++failures;
 }
 
@@ -23,10 +23,10 @@ void test(mirk_handle *h) {
     expect(debug_setting::from_frame(c, whole).warn_enabled(), "a frame is read");
     expect(c.ok(), "nothing failed so far");
     debug_setting::from_frame(c, whole.data(), 3);
-    expect(!c.ok(), "half a frame is an error");
-    expect(!levels.warn_enabled(), "behind an error nothing is done");
-    expect(c.take_error().value() != 0 && c.ok(), "an error is taken once");
-    expect(levels.warn_enabled(), "the record is still there");
+    expect(!c.ok(), "a truncated frame is an error");
+    expect(!levels.warn_enabled(), "calls after an error are no-ops");
+    expect(c.take_error().value() != 0 && c.ok(), "take_error clears the error");
+    expect(levels.warn_enabled(), "the record is unchanged");
 }
 
 }  // namespace
@@ -35,6 +35,6 @@ int main() {
     mirk_platform_trace_set_levels(1);
     mirk_handle *h = mirk_platform_handle_open(nullptr);
     test(h);
-    expect(mirk_platform_handle_close(h) == 0, "every block was given back");
+    expect(mirk_platform_handle_close(h) == 0, "every block is freed");
     return failures;
 }

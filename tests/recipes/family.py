@@ -118,7 +118,7 @@ assert tracked.call(lib.lumo_tarn_dp_tc_count_written, tc.native) == 2
 FILES = [
     ("include/lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "@name Written members\n"),
     ("include/lumo_ui_tarn/records/lumo_tarn_dp_tc.h", "uint32_t lumo_tarn_dp_tc_count_written_cr("),
-    ("include/lumo_ui_tarn.hpp", "/// Returns the number of members whose state byte is not 0.\n"),
+    ("include/lumo_ui_tarn.hpp", "    static constexpr auto count_written = RECORD##_count_written"),
     ("tests/golden/exports.txt", "T lumo_tarn_pal_mp_prefix_data_count_written\n"),
     ("build/dev/docs/lumo_ui_tarn.3", ".It Fn RECORD_count_written\nReturns the number of members"),
     ("build/dev/tools/reflect/generated/tools/reflect/operations.h", "(*count_written)("),

@@ -1,4 +1,4 @@
-// The C++ interface: for each record a structure that names its C functions, and accessors that call them.
+// lumo_ui_tarn.hpp: for each type a structure that names its C functions, and for each record its accessors.
 #include <algorithm>
 #include <set>
 #include <stdexcept>
@@ -17,7 +17,7 @@ constexpr std::size_t line_width = 120;
 
 const std::string space = "lumo_ui_tarn::";
 
-// Words that C++ keeps for itself.
+// Keywords of C++.
 constexpr std::string_view keywords =
     " alignas alignof and and_eq asm auto bitand bitor bool break case catch char char16_t char32_t char8_t class "
     "co_await co_return co_yield compl concept const const_cast consteval constexpr constinit continue decltype "
@@ -26,21 +26,22 @@ constexpr std::string_view keywords =
     "reinterpret_cast requires return short signed sizeof static static_assert static_cast struct switch template "
     "this thread_local throw true try typedef typeid typename union unsigned using virtual void volatile wchar_t "
     "while xor xor_eq ";
-// Names that all records have.
-constexpr std::string_view of_records =
-    " compare context copy for_each_member frame frame_size from_frame from_frame_with_spare from_xml get hash "
+// Names that every record has.
+constexpr std::string_view names_of_records =
+    " compare context copy for_each_member frame frame_size from_frame from_frame_with_guard from_xml get hash "
     "is_tracked record_name record_type reference_type release set_all_states take text to_frame to_xml write_frame ";
-// Names in a structure of C types and functions that are no operations.
-constexpr std::string_view of_structures =
-    " luid members message name native owns_blocks payload ref_writers type value visit_writable_ writers ";
+// Names in a structure of C functions that are not operations.
+constexpr std::string_view names_of_structures =
+    " luid members message name native owner_writers owns_blocks payload ref_writers value visit_readable_ "
+    "visit_writable_ ";
 
-bool is_among(std::string_view words, const std::string &name) {
+bool contains(std::string_view words, const std::string &name) {
     return words.find(" " + name + " ") != std::string_view::npos;
 }
 
 std::string identifier(std::string_view of_member) {
     const std::string name(of_member);
-    return name + (is_among(keywords, name) || is_among(of_records, name) ? "_member" : "");
+    return name + (contains(keywords, name) || contains(names_of_records, name) ? "_member" : "");
 }
 
 // Breaks a line after commas and indents the rest.
@@ -56,33 +57,7 @@ std::string broken(std::string line, std::size_t indent, std::size_t first_inden
     return text + line + "\n";
 }
 
-// Lines of a structure that names C types and functions.
-std::string explained(const std::string &declaration, const std::string &meaning) {
-    const std::string line = "    " + declaration + ";  ///< " + meaning + "\n";
-    if (line.size() <= line_width) return line;
-    std::string text, comment = "    /// " + meaning, statement = "    " + declaration + ";\n";
-    while (comment.size() > line_width) {
-        const std::size_t blank = comment.rfind(' ', line_width);
-        text += comment.substr(0, blank) + "\n";
-        comment.replace(0, blank, "    ///");
-    }
-    if (statement.size() > line_width + 1) statement.replace(statement.find(" = ") + 2, 1, "\n        ");
-    return text + comment + "\n" + statement;
-}
-std::string alias(const std::string &name, const std::string &type, const std::string &meaning) {
-    return explained("using " + name + " = " + type, meaning);
-}
-std::string constant(const std::string &name, const std::string &function, const std::string &meaning) {
-    return explained("static constexpr auto " + name + " = " + function, meaning);
-}
-std::string indented(const std::string &lines) {
-    std::string text = "    ";
-    for (const char c : lines) text += c == '\n' ? "\n    " : std::string(1, c);
-    return text.substr(0, text.size() - 4);
-}
-
-// The functions of one record. Two members whose functions would bear one name are refused here and not by the
-// compiler of somebody else.
+// The accessors of one record. Throws if two members need a function of the same name.
 class Members {
 public:
     explicit Members(const Record &record) : record_(record) {
@@ -91,140 +66,130 @@ public:
 
     const std::string &arrays() const { return arrays_; }
     const std::string &readers() const { return readers_; }
+    const std::string &state_readers() const { return state_readers_; }
     const std::string &owner_writers() const { return owner_writers_; }
     const std::string &ref_writers() const { return ref_writers_; }
-    const std::string &listed() const { return listed_; }
-    const std::string &listed_writable() const { return listed_writable_; }
+    const std::string &readable() const { return readable_; }
+    const std::string &writable() const { return writable_; }
 
 private:
     std::string c(const Member &m) const { return std::string(record_.name) + "_" + std::string(m.name); }
 
-    static std::string function(const std::string &meaning, const std::string &head, const std::string &body) {
+    static std::string function(const std::string &head, const std::string &body) {
         const std::string open = "        " + head + " {", statement = "return this->" + body + ";";
-        return (meaning.empty() ? "" : "        /// " + meaning + "\n") +
-               (open.size() + statement.size() + 3 <= line_width
-                    ? open + " " + statement + " }\n"
-                    : open + "\n" + broken(std::string(12, ' ') + statement, 16) + "        }\n");
+        return open.size() + statement.size() + 3 <= line_width
+                   ? open + " " + statement + " }\n"
+                   : open + "\n" + broken(std::string(12, ' ') + statement, 16) + "        }\n";
     }
     void claim(const std::string &name) {
         if (names_.insert(name).second) return;
-        throw std::runtime_error(std::string(record_.name) + " has two functions that are called " + name);
+        throw std::runtime_error(std::string(record_.name) + " has two functions named " + name);
     }
-    void reader(const std::string &meaning, const std::string &result, const std::string &name,
-                const std::string &body) {
+    void reader(const Member &m, const std::string &result, const std::string &name, const std::string &body) {
         claim(name + "()");
-        readers_ += function(meaning, result + " " + name + "() const", body);
+        readers_ += "        /// " + sentence(m.meaning) + "\n" + function(result + " " + name + "() const", body);
     }
-    // Owners write while they are not const, references always.
-    void writer(const std::string &meaning, const std::string &name, const std::string &parameter,
-                const std::string &helper, const std::string &arguments) {
+    // Setters of owners are not const, setters of references are.
+    void writer(const std::string &name, const std::string &parameter, const std::string &helper,
+                const std::string &arguments) {
         claim(name + "(" + parameter.substr(0, 5));
         const std::string call = name + "(" + parameter + ")", body = helper + "(*this, " + arguments + ")";
-        owner_writers_ += function(meaning, "Self &" + call, body);
-        ref_writers_ += function("", "const Self &" + call + " const", body);
+        owner_writers_ += function("Self &" + call, body);
+        ref_writers_ += function("const Self &" + call + " const", body);
     }
-    // What a record contains can be written where the record can be.
-    void borrowed(const std::string &meaning, const std::string &of_view, const std::string &of_ref,
-                  const std::string &name, const std::string &body) {
-        reader(meaning, of_view, name, body);
-        owner_writers_ +=
-            "        using members<Self>::" + name + ";\n" + function(meaning, of_ref + " " + name + "()", body);
-        ref_writers_ += function("", of_ref + " " + name + "() const", body);
+    // A nested record or an array can be written if the record can be written.
+    void borrowed(const Member &m, const std::string &view, const std::string &ref, const std::string &name,
+                  const std::string &body) {
+        reader(m, view, name, body);
+        owner_writers_ += "        using members<Self>::" + name + ";\n" + function(ref + " " + name + "()", body);
+        ref_writers_ += function(ref + " " + name + "() const", body);
+    }
+    void state(const std::string &name, const std::string &functions) {
+        claim(name + "_state()");
+        state_readers_ +=
+            function("std::optional<std::uint8_t> " + name + "_state() const", "state_(" + functions + "_get)");
+        writer("set_" + name + "_state", "std::uint8_t value", "write_", functions + "_set, value");
     }
 
-    // A line of for_each_member, for views and for what can be written.
+    // A call of for_each_member's visitor, for views and for objects that can be written.
     void list(const Member &m, const std::string &name, bool set, bool state) {
-        const auto line = [&](const std::string &get, const std::string &of, bool sets) {
-            return broken("visit(lumo_ui_tarn::member{\"" + std::string(m.name) + "\", " + get + ", " +
-                              (sets && set ? of + "set_" + name : "nullptr") + ", " +
-                              (state ? of + name + "_state" : "nullptr") + ", " +
-                              (sets && state ? of + "set_" + name + "_state" : "nullptr") + "});",
-                          sets ? 12 : 16, sets ? 8 : 12);
-        };
         const std::string get = "&M::" + name;
-        listed_ += line("&members::" + name, "&members::", false);
-        listed_writable_ += line(m.record != nullptr ? "detail::writable(" + get + ", 0)" : get, "&M::", true);
+        const auto line = [&](const std::string &getter, bool writes) {
+            return broken("visit(lumo_ui_tarn::member{\"" + std::string(m.name) + "\", " + getter + ", " +
+                              (writes && set ? "&M::set_" + name : "nullptr") + ", " +
+                              (state ? "&M::" + name + "_state" : "nullptr") + ", " +
+                              (writes && state ? "&M::set_" + name + "_state" : "nullptr") + "});",
+                          12, 8);
+        };
+        readable_ += line(get, false);
+        writable_ += line(m.record != nullptr ? "detail::writable(" + get + ", 0)" : get, true);
     }
 
     void add(std::size_t index) {
         const Member &m = record_.members[index];
         const std::string name = identifier(m.name), get = c(m) + "_get", set = c(m) + "_set";
-        const std::string meaning = sentence(m.meaning);
-        readers_ += "\n";
-        owner_writers_ += "\n";
+        if (m.role != Role::value) {  // counts and lengths follow from what they count
+            reader(m, "std::" + value_type(m), name, "call_(" + get + "_value)");
+            list(m, name, false, false);
+            return;
+        }
         const auto setter = [&](const std::string &parameter, const std::string &helper, const std::string &arguments) {
-            writer("Writes " + name + ".", "set_" + name, parameter, helper, arguments);
+            writer("set_" + name, parameter, helper, arguments);
         };
-        switch (class_of(m)) {
-            case Applies::integer: {
+        switch (category(m.kind)) {
+            case Category::integer: {
                 const std::string type = "std::" + value_type(m);
-                reader(meaning, type, name, "call_(" + get + "_value)");
+                reader(m, type, name, "call_(" + get + "_value)");
                 setter(type + " value", "write_", set + "_value, value");
                 break;
             }
-            case Applies::boolean:
-                reader(meaning, "bool", name, "call_(" + get + "_value) != 0");
+            case Category::boolean:
+                reader(m, "bool", name, "call_(" + get + "_value) != 0");
                 setter("bool value", "write_", set + "_value, static_cast<std::uint8_t>(value)");
                 break;
-            case Applies::enumerated: {
+            case Category::enumeration: {
                 const std::string type = space + type_name(*m.enumeration);
-                reader(meaning, type, name, "template enumerated_<" + type + ">(" + get + "_value)");
+                reader(m, type, name, "template enumerated_<" + type + ">(" + get + "_value)");
                 setter(type + " value", "write_", set + "_value, static_cast<std::uint32_t>(value)");
                 break;
             }
-            case Applies::address:
-                reader(meaning, space + "address", name, "read_address_(" + get + ")");
+            case Category::address:
+                reader(m, space + "address", name, "read_address_(" + get + ")");
                 setter("const " + space + "address &value", "write_address_", get + ", " + set + ", value");
                 break;
-            case Applies::nested: {
+            case Category::record: {
                 const std::string type = space + short_name(m.record->name);
-                borrowed(meaning, type + "_view", type + "_ref", name,
-                         "template nested_<" + type + "_type>(" + get + ")");
+                borrowed(m, type + "_view", type + "_ref", name, "template nested_<" + type + "_type>(" + get + ")");
                 setter(type + "_view value", "assign_", get + ", " + set + ", value");
-                writer("Moves a record into " + name + ".", "adopt_" + name, type + " &&value", "adopt_",
-                       get + ", " + set + ", std::move(value)");
+                writer("adopt_" + name, type + " &&value", "adopt_", get + ", " + set + ", std::move(value)");
                 break;
             }
-            case Applies::string:
-                reader(meaning, "std::string", name,
-                       "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
+            case Category::string:
+                reader(m, "std::string", name, "string_(" + c(record_.members[index - 1]) + "_get_value, " + get + ")");
                 setter("std::string_view text", "write_string_", set + ", text");
                 break;
-            case Applies::array:
-                add_array(index, name, meaning);
-                break;
-            default:  // counts and lengths follow from what they count
-                reader(meaning, "std::" + value_type(m), name, "call_(" + get + "_value)");
-                list(m, name, false, false);
+            case Category::array:
+                add_array(m, record_.members[index - 1], name);
+                state(name, c(m) + "_state_flag_whole");
+                list(m, name, false, true);
                 return;
         }
-        const std::string whole = m.kind == Kind::array ? "_whole" : "";
-        reader("The state byte of " + name + "; none if the record has no states.", "std::optional<std::uint8_t>",
-               name + "_state", "state_(" + c(m) + "_state_flag" + whole + "_get)");
-        writer("Writes the state byte of " + name + ".", "set_" + name + "_state", "std::uint8_t value", "write_",
-               c(m) + "_state_flag" + whole + "_set, value");
-        list(m, name, m.kind != Kind::array, true);
+        state(name, c(m) + "_state_flag");
+        list(m, name, true, true);
     }
 
-    void add_array(std::size_t index, const std::string &name, const std::string &meaning) {
-        const Member &m = record_.members[index], &count = record_.members[index - 1];
+    void add_array(const Member &m, const Member &count, const std::string &name) {
         const std::string tag = name + "_array";
-        arrays_ += "    /// How " + name + " is read and written, for array_ref.\n    struct " + tag + " {\n" +
-                   indented(alias("native", std::string(record_.name), "the record that has the array") +
-                            alias("element", space + short_name(m.record->name) + "_type", "what it is an array of") +
-                            alias("count", "std::" + value_type(count), "what its elements are counted in") +
-                            constant("size", c(count) + "_get_value", "how many there are") +
-                            constant("get", c(m) + "_get", "an element") +
-                            constant("set", c(m) + "_set", "writes an element") +
-                            constant("state_get", c(m) + "_state_flag_get", "an element's state byte") +
-                            constant("state_set", c(m) + "_state_flag_set", "writes an element's state byte")) +
-                   "    };\n";
-        borrowed(meaning, space + "array_view<" + tag + ">", space + "array_ref<" + tag + ">", name,
+        arrays_ += "    struct " + tag + " {\n        LUMO_UI_TARN_ARRAY(" + std::string(record_.name) + ", " +
+                   std::string(count.name) + ", " + std::string(m.name) + ");\n        using element = " + space +
+                   short_name(m.record->name) + "_type;\n        using count = std::" + value_type(count) +
+                   ";\n    };\n";
+        borrowed(m, space + "array_view<" + tag + ">", space + "array_ref<" + tag + ">", name,
                  "template array_<" + tag + ">()");
     }
 
     const Record &record_;
-    std::string arrays_, readers_, owner_writers_, ref_writers_, listed_, listed_writable_;
+    std::string arrays_, readers_, state_readers_, owner_writers_, ref_writers_, readable_, writable_;
     std::set<std::string> names_;
 };
 
@@ -234,63 +199,110 @@ bool owns_blocks(const Record &record) {
     });
 }
 
-// A constant for each explicit operation of the table, in its order, under its own name: what follows the prefix in the
-// name of the function. A payload's name differs from message to message, so the constant says payload.
-std::string constants(const Subject &subject, Applies applies, std::string_view prefix) {
-    std::string text;
+// In a macro, parameters stand for the names of types: {r}_create is RECORD##_create.
+std::string pasted(std::string name) {
+    const auto replace = [&name](std::string_view placeholder, std::string_view parameter) {
+        const std::size_t at = name.find(placeholder);
+        if (at == std::string::npos) return;
+        const bool first = at == 0, last = at + placeholder.size() == name.size();
+        name.replace(at, placeholder.size(), (first ? "" : "##") + std::string(parameter) + (last ? "" : "##"));
+    };
+    replace("{e}", "ENUMERATION");
+    replace("{m}", "MESSAGE");
+    replace("{b}", "BUNDLE");
+    replace("{r}", name.find("MESSAGE") == std::string::npos ? "RECORD" : "PAYLOAD");
+    return name;
+}
+
+// A line of a macro for each explicit operation of the table. The constant has the name of the function without prefix;
+// the payload's name differs between messages, so there it is "payload".
+std::string constants(Applies applies, std::string_view prefix, const std::string &control = "") {
+    std::string lines;
     std::set<std::string> functions;
-    for (const Export &e : exports_of(subject, applies)) {
-        const Operation &o = *e.operation;
-        const bool follows_from_row = o.prototype != o.row->prototype;
-        const bool is_sticky = e.name.ends_with("_cr") && functions.count(e.name.substr(0, e.name.size() - 3)) != 0;
-        if (follows_from_row || is_sticky) continue;
-        functions.insert(e.name);
-        std::string own = o.name.substr(o.name.find(prefix) + prefix.size());
-        if (own.starts_with("{r}")) own.replace(0, 3, "payload");
-        const std::string name = fill(own, subject);
-        const bool is_taken = is_among(keywords, name) || is_among(of_structures, name) || name.ends_with("_array");
-        const std::string first_sentence = o.text.substr(0, (o.text + " ").find(". ") + 1);
-        text += constant(name + (is_taken ? "_operation" : ""), e.name, fill(first_sentence, subject));
+    for (const Operation &o : operations()) {
+        const bool is_explicit = o.prototype == o.row->prototype;
+        const bool is_sticky = o.name.ends_with("_cr") && functions.contains(o.name.substr(0, o.name.size() - 3));
+        if (!includes(o.row->applies, applies) || !is_explicit || is_sticky) continue;
+        functions.insert(o.name);
+        std::string function = o.name, name = o.name.substr(o.name.find(prefix) + prefix.size());
+        if (name.starts_with("{r}")) name.replace(0, 3, "payload");
+        for (std::string *text : {&function, &name}) {
+            if (const std::size_t at = text->find("{k}"); at != std::string::npos) text->replace(at, 3, control);
+        }
+        const bool is_taken =
+            contains(keywords, name) || contains(names_of_structures, name) || name.ends_with("_array");
+        lines += "static constexpr auto " + name + (is_taken ? "_operation" : "") + " = " + pasted(function) + ";\n";
     }
-    return text;
+    return lines;
 }
 
-std::string c_name(const std::string &c) {
-    return explained("static constexpr const char *name = \"" + c + "\"", "its name in C");
+// Each use of a macro ends with the last semicolon.
+std::string macro(const std::string &head, std::string lines) {
+    lines.resize(lines.size() - 2);
+    std::string text = "#define LUMO_UI_TARN_" + head + " \\\n    ";
+    for (const char character : lines) text += character == '\n' ? " \\\n    " : std::string(1, character);
+    return text + "\n";
 }
 
-// The types that users take.
-std::string owner_and_reference(const std::string &what, const std::string &name, const std::string &c) {
-    return "/// Owns a " + c + ".\nusing " + name + " = " + what + "<" + name + "_type>;\n/// Borrows a " + c +
-           ".\nusing " + name + "_ref = " + what + "_ref<" + name + "_type>;\n/// Borrows a " + c +
-           " to read it.\nusing " + name + "_view = " + what + "_view<" + name + "_type>;\n\n";
+std::string name_in_c(const std::string &parameter) {
+    return "static constexpr const char *name = #" + parameter + ";\n";
+}
+
+constexpr std::string_view macro_names[] = {"ENUMERATION", "RECORD", "ARRAY", "MESSAGE", "BUNDLE"};
+
+std::string macros() {
+    std::string bundle = name_in_c("BUNDLE") + constants(Applies::bundle, "{b}_bundle_");
+    for (const char *control : {"start", "abort", "commit"}) {
+        bundle += constants(Applies::control, "{b}_bundle_", control);
+    }
+    std::string array = "using native = RECORD;\nstatic constexpr auto size = RECORD##_##COUNT##_get_value;\n";
+    for (const char *function : {"get", "set", "state_flag_get", "state_flag_set"}) {
+        array += "static constexpr auto " + std::string(function) + " = RECORD##_##MEMBER##_" + function + ";\n";
+    }
+    return "/// @cond names of the C functions, which the C headers document\n" +
+           macro("ENUMERATION(ENUMERATION)",
+                 "using native = ENUMERATION;\n" + name_in_c("ENUMERATION") + constants(Applies::enumeration, "{e}_")) +
+           macro("RECORD(RECORD)",
+                 "using native = RECORD;\n" + name_in_c("RECORD") + constants(Applies::record, "{r}_")) +
+           macro("ARRAY(RECORD, COUNT, MEMBER)", array) +
+           macro("MESSAGE(MESSAGE, PAYLOAD)",
+                 "using native = MESSAGE;\n" + name_in_c("MESSAGE") +
+                     "static const std::uint8_t *luid() { return message_##MESSAGE##_luid; }\n" +
+                     constants(Applies::message, "{m}_message_")) +
+           macro("BUNDLE(BUNDLE)", bundle) + "/// @endcond\n\n";
+}
+
+// The types of one record or message that programs use.
+std::string owner_and_borrowers(const std::string &what, const std::string &name) {
+    return "using " + name + " = " + what + "<" + name + "_type>;  ///< owns one\nusing " + name + "_ref = " + what +
+           "_ref<" + name + "_type>;  ///< borrows one\nusing " + name + "_view = " + what + "_view<" + name +
+           "_type>;  ///< borrows one to read it\n\n";
 }
 
 std::string record_types(const Record &record) {
     const std::string c(record.name), name = short_name(record.name);
     const Members members(record);
-    std::string text =
-        "/// " + c + ": " + std::string(record.meaning) + ".\nstruct " + name + "_type {\n" +
-        alias("native", c, "the record in C") + c_name(c) +
-        explained(std::string("static constexpr bool owns_blocks = ") + (owns_blocks(record) ? "true" : "false"),
-                  "has arrays or strings");
-    text += constants({.record = &record}, Applies::record, "{r}_");
-    text += "\n" + members.arrays() + (members.arrays().empty() ? "" : "\n");
-    const auto mixin = [&text](const std::string &meaning, const std::string &of, const std::string &base,
-                               const std::string &constructor, const std::string &body) {
-        text += "    /// " + meaning + "\n    template <class Self>\n    class " + of + " : public " + base + " {\n" +
-                "    public:\n        using " + base + "::" + constructor + ";\n" + body + "    };\n";
+    const auto mixin = [](const std::string &derived, const std::string &base, const std::string &constructor,
+                          const std::string &body) {
+        return "    template <class Self>\n    class " + derived + " : public " + base +
+               " {\n    public:\n        using " + base + "::" + constructor + ";\n" + body + "    };\n";
     };
-    const std::string visit = "        template <class Visit>\n        static void for_each_member(Visit &&visit) {\n";
-    mixin("Reads the members.", "members", "detail::operations<" + name + "_type, Self>", "operations",
-          members.readers() + "\n        /// Calls visit with a lumo_ui_tarn::member for each, in order.\n" + visit +
-              members.listed() + "        }\n");
-    mixin("Writes the members of an owner.", "writers", "members<Self>", "members", members.owner_writers());
-    text += "    /// @cond the same functions for what is borrowed, as const\n";
-    mixin("Writes the members of what is borrowed.", "ref_writers", "members<Self>", "members", members.ref_writers());
-    text += "    template <class M, class Visit>\n    static void visit_writable_(Visit &&visit) {\n" +
-            members.listed_writable() + "    }\n    /// @endcond\n};\n";
-    return text + owner_and_reference("record", name, c);
+    const auto visit = [](const std::string &function, const std::string &body) {
+        return "    template <class M, class Visit>\n    static void " + function + "(Visit &&visit) {\n" + body +
+               "    }\n";
+    };
+    return "/// " + c + ": " + std::string(record.meaning) + ".\nstruct " + name + "_type {\n    /// @cond names\n" +
+           "    LUMO_UI_TARN_RECORD(" + c +
+           ");\n    static constexpr bool owns_blocks = " + (owns_blocks(record) ? "true" : "false") + ";\n" +
+           members.arrays() + "    /// @endcond\n\n" + "    /// Reads the members.\n" +
+           mixin("members", "detail::operations<" + name + "_type, Self>", "operations",
+                 "\n" + members.readers() + "\n        /// @cond states\n" + members.state_readers() +
+                     "        /// @endcond\n") +
+           "    /// @cond setters, and how for_each_member finds the members\n" +
+           mixin("owner_writers", "members<Self>", "members", members.owner_writers()) +
+           mixin("ref_writers", "members<Self>", "members", members.ref_writers()) +
+           visit("visit_readable_", members.readable()) + visit("visit_writable_", members.writable()) +
+           "    /// @endcond\n};\n" + owner_and_borrowers("record", name);
 }
 
 std::string enumeration_type(const Enumeration &enumeration) {
@@ -299,38 +311,30 @@ std::string enumeration_type(const Enumeration &enumeration) {
     std::string cases;
     const std::vector<std::string> names = enumerator_names(enumeration);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const std::string enumerator = identifier(names[i]);
-        text += "    " + enumerator + " = " + std::to_string(i) + ",  ///< " + std::string(enumeration.enumerators[i]) +
-                "\n";
-        cases += "        case " + name + "::" + enumerator + ":\n            return \"" +
-                 std::string(enumeration.enumerators[i]) + "\";\n";
+        const std::string enumerator = identifier(names[i]), in_c(enumeration.enumerators[i]);
+        text += "    " + enumerator + " = " + std::to_string(i) + ",  ///< " + in_c + "\n";
+        cases += "        case " + name + "::" + enumerator + ":\n            return \"" + in_c + "\";\n";
     }
-    return text + "};\n/// Its name in C; empty for a value that has none, as frames may bring one.\n" +
+    return text +
+           "};\n/// Returns the enumerator's name in C, or \"\" for any other value: frames can contain any number.\n" +
            "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
            "    }\n    return {};\n}\n/// Names the C functions of " + c + ".\nstruct " + name + "_type {\n" +
-           alias("native", c, "the enumeration in C") + alias("value", space + name, "its values") + c_name(c) +
-           constants({.enumeration = &enumeration}, Applies::enumeration, "{e}_") + "};\n\n";
+           "    using value = " + space + name + ";  ///< the type of its values\n    LUMO_UI_TARN_ENUMERATION(" + c +
+           ");\n};\n\n";
 }
 
 std::string message_types(const Message &message) {
     const std::string c(message.name), name = short_name(message.name), payload(message.payload.name);
-    return "/// " + c + " carries one " + payload + ".\nstruct " + name + "_type {\n" +
-           alias("native", c, "the message in C") +
-           alias("payload", space + short_name(payload) + "_type", "what it carries") + c_name(c) +
-           "    /// Its identity, 16 bytes.\n    static const std::uint8_t *luid() { return message_" + c +
-           "_luid; }\n" + constants({.message = &message}, Applies::message, "{m}_message_") + "};\n" +
-           owner_and_reference("message", name, c);
+    return "/// " + c + " carries one " + payload + ".\nstruct " + name + "_type {\n    using payload = " + space +
+           short_name(payload) + "_type;  ///< the type of its payload\n    LUMO_UI_TARN_MESSAGE(" + c + ", " +
+           payload + ");\n};\n" + owner_and_borrowers("message", name);
 }
 
 std::string bundle_type(const Bundle &bundle) {
-    const std::string c(bundle.name), name = short_name(bundle.name), message(bundle.message.name);
-    std::string text = "/// " + c + " admits " + message + ".\nstruct " + name + " {\n" +
-                       alias("message", space + short_name(message) + "_type", "what it admits") + c_name(c) +
-                       constants({.bundle = &bundle}, Applies::bundle, "{b}_bundle_");
-    for (const char *control : {"start", "abort", "commit"}) {
-        text += constants({.bundle = &bundle, .control = control}, Applies::control, "{b}_bundle_");
-    }
-    return text + "};\n\n";
+    const std::string c(bundle.name), message(bundle.message.name);
+    return "/// " + c + " admits " + message + ".\nstruct " + short_name(bundle.name) +
+           " {\n    using message = " + space + short_name(message) +
+           "_type;  ///< the type of its messages\n    LUMO_UI_TARN_BUNDLE(" + c + ");\n};\n\n";
 }
 
 std::string visit_all(const std::string &function, const std::string &what, const std::vector<std::string> &names) {
@@ -342,24 +346,40 @@ std::string visit_all(const std::string &function, const std::string &what, cons
     return text + "}\n";
 }
 
+constexpr std::string_view introduction = R"(/// @file
+/// lumo_ui_tarn.hpp - the C++17 interface: records, enumerations, messages and bundles as types.
+///
+/// A record has three types: dp_tc owns an instance, dp_tc_ref borrows one, dp_tc_view borrows one to read it.
+/// lumo_ui_tarn/interface.hpp describes what all types have in common, and how errors are reported.
+///
+/// A member proto has these functions, without the setters on a const owner or a view:
+/// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
+/// - set_proto(value) writes the value and returns the object, so that calls chain. Setters copy.
+/// - adopt_appl(record) moves a record into the nested record appl.
+/// - proto_state() returns the state byte, or nothing if the record has no state bytes.
+/// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
+///
+/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no setter:
+/// the container writes elements. A member whose name is a keyword or a function of all records has _member appended.
+///
+/// dp_tc_type names the C functions of lumo_tarn_dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). A function whose
+/// name is a keyword has _operation appended. lumo_ui_tarn/families.h describes the functions.
+///
+/// Everything is inline: link the C library.
+// Generated from the schema; edit the tables there and run tools/regenerate.
+#ifndef LUMO_UI_TARN_HPP
+#define LUMO_UI_TARN_HPP
+
+#include <lumo_ui_tarn.h>
+
+#include <lumo_ui_tarn/interface.hpp>
+
+)";
+
 }  // namespace
 
 std::string interface_page() {
-    std::string text =
-        "/// @file\n"
-        "/// lumo_ui_tarn.hpp - the whole library in C++17: records, enumerations, messages and bundles as types.\n"
-        "/// lumo_ui_tarn/interface.hpp describes what they have in common, lumo_ui_tarn/families.h what each "
-        "operation "
-        "does.\n"
-        "///\n"
-        "/// A member proto has proto() and set_proto(), which chains; on a handle that tracks, proto_state() and\n"
-        "/// set_proto_state() for its state byte; a nested record also adopt_..(), which moves. A const owner is "
-        "read-only.\n"
-        "/// dp_tc_type names the C functions of a dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). Needs the C "
-        "library\n/// alone.\n"
-        "// Generated from the schema; edit the tables there and run tools/regenerate.\n"
-        "#ifndef LUMO_UI_TARN_HPP\n#define LUMO_UI_TARN_HPP\n\n#include <lumo_ui_tarn.h>\n\n"
-        "#include <lumo_ui_tarn/interface.hpp>\n\nnamespace lumo_ui_tarn {\n\n";
+    std::string text = std::string(introduction) + macros() + "namespace lumo_ui_tarn {\n\n";
     for (const Enumeration *e : enumerations) text += enumeration_type(*e);
     for (const Record *r : records) text += record_types(*r);
     for (const Message *m : messages) text += message_types(*m);
@@ -369,15 +389,18 @@ std::string interface_page() {
         for (const auto *one : all) list.push_back(short_name(one->name));
         return list;
     };
-    text += "/// Stands for a type in a call.\ntemplate <class T>\nstruct kind {\n" + alias("type", "T", "the type") +
-            "};\n";
+    text +=
+        "/// Passes a type as an argument.\ntemplate <class T>\nstruct kind {\n    using type = T;  ///< the "
+        "type\n};\n";
     text += visit_all("for_each_record", "record", names(records));
     std::vector<std::string> enumeration_types;
     for (const Enumeration *e : enumerations) enumeration_types.push_back(type_name(*e) + "_type");
     text += visit_all("for_each_enumeration", "enumeration", enumeration_types);
     text += visit_all("for_each_message", "message", names(messages));
     text += visit_all("for_each_bundle", "bundle", names(bundles));
-    return text + "\n}  // namespace lumo_ui_tarn\n\n#endif\n";
+    text += "\n}  // namespace lumo_ui_tarn\n\n";
+    for (const std::string_view name : macro_names) text += "#undef LUMO_UI_TARN_" + std::string(name) + "\n";
+    return text + "\n#endif\n";
 }
 
 }  // namespace tarn::generate
