@@ -9,7 +9,7 @@ namespace {
 
 using namespace schema;
 
-// Small, and with everything that a frame can nest: a count, an array, and a record in it.
+// Small, but with a count, an array and a nested record.
 constexpr const Message &shown = lumo_tarn_dp_debug_setting_msg;
 
 constexpr double left = 12, limit = 1000;
@@ -88,9 +88,10 @@ std::string frame() {
         y += 30 + draw_strip(svg, left, y + 30, limit, boxes) + 22;
     };
     strip("A frame of " + std::string(shown.name),
-          "Sizes are in bytes, numbers are big-endian. total_length counts all of it.", message_boxes());
+          "Sizes are in bytes, numbers are big-endian. total_length is the size of the whole frame.", message_boxes());
     strip("Its payload, the record " + std::string(shown.payload.name),
-          "jump counts from its own first byte to the end of the record: a reader steps over what it does not know.",
+          "jump is the distance from its own first byte to the end of the record, so that readers can skip unknown "
+          "members.",
           record_boxes(shown.payload));
     if (const Record *element = element_of(shown.payload)) {
         strip("An element, the record " + std::string(element->name),

@@ -16,7 +16,7 @@ struct Node {
     std::string name, kind, meaning;
     std::size_t column = 0;
     double y = 0;
-    std::vector<std::size_t> above;  // who holds it
+    std::vector<std::size_t> above;  // nodes that contain it
 };
 
 struct Edge {
@@ -28,7 +28,7 @@ class Graph {
 public:
     Graph() {
         for (const Bundle *b : bundles) {
-            const std::size_t message = add(b->message);  // ahead of the bundle, whatever a compiler does first
+            const std::size_t message = add(b->message);  // before the bundle, independent of the order of evaluation
             connect(add(*b), message);
         }
         for (const Message *m : messages) add(*m);
@@ -45,21 +45,21 @@ private:
         double left = 0, width = 0;
     };
 
-    std::size_t place(std::string_view name, const char *kind, std::string_view meaning) {
-        const auto [found, is_new] = places_.try_emplace(std::string(name), nodes_.size());
+    std::size_t add_node(std::string_view name, const char *kind, std::string_view meaning) {
+        const auto [found, is_new] = indices_.try_emplace(std::string(name), nodes_.size());
         if (is_new) nodes_.push_back({std::string(name), kind, std::string(meaning), 0, 0, {}});
         return found->second;
     }
-    std::size_t add(const Bundle &b) { return place(b.name, "bundle", "a bundle"); }
+    std::size_t add(const Bundle &b) { return add_node(b.name, "bundle", "a bundle"); }
     std::size_t add(const Message &m) {
-        const bool is_new = !places_.contains(std::string(m.name));
-        const std::size_t index = place(m.name, "message", "a message");
+        const bool is_new = !indices_.contains(std::string(m.name));
+        const std::size_t index = add_node(m.name, "message", "a message");
         if (is_new) connect(index, add(m.payload));
         return index;
     }
     std::size_t add(const Record &r) {
-        const bool is_new = !places_.contains(std::string(r.name));
-        const std::size_t index = place(r.name, "record", r.meaning);
+        const bool is_new = !indices_.contains(std::string(r.name));
+        const std::size_t index = add_node(r.name, "record", r.meaning);
         for (const Member &m : r.members) {
             if (is_new && m.record != nullptr) connect(index, add(*m.record), m.kind == Kind::array);
         }
@@ -77,12 +77,12 @@ private:
     void put_into_columns();
     std::vector<Column> columns() const;
 
-    std::map<std::string, std::size_t> places_;
+    std::map<std::string, std::size_t> indices_;
     std::vector<Node> nodes_;
     std::vector<Edge> edges_;
 };
 
-// A node stands right of everything that holds it.
+// A node is to the right of all nodes that contain it.
 void Graph::put_into_columns() {
     for (std::size_t round = 0; round < nodes_.size(); ++round) {
         for (const Edge &e : edges_) {
@@ -91,7 +91,7 @@ void Graph::put_into_columns() {
     }
 }
 
-// Each column takes the order of those who hold its nodes, and each node the height of those, as far as there is room.
+// Nodes are placed at the average height of the nodes that contain them, as far as there is room.
 void Graph::arrange() {
     put_into_columns();
     std::size_t last = 0;
@@ -121,7 +121,7 @@ std::string_view short_name(std::string_view name) {
     return name.starts_with(prefix) ? name.substr(prefix.size()) : name;
 }
 
-// Each is as wide as its longest name.
+// A column is as wide as its longest name.
 std::vector<Graph::Column> Graph::columns() const {
     std::vector<Column> all;
     for (const Node &n : nodes_) {
@@ -143,7 +143,7 @@ Svg Graph::drawing() const {
     const auto width = [&](const Node &n) { return all[n.column].width; };
     svg.text(all.at(0).left, 20, "bundles", "soft");
     svg.text(all.at(1).left, 20, "messages", "soft");
-    svg.text(all.at(2).left, 20, "records; a bold line stands for an array", "soft");
+    svg.text(all.at(2).left, 20, "records; a bold line is an array", "soft");
     for (const Edge &e : edges_) {
         const Node &a = nodes_[e.from], &b = nodes_[e.to];
         const double x1 = left(a) + width(a), y1 = a.y + box_height / 2, x2 = left(b), y2 = b.y + box_height / 2;
@@ -168,7 +168,7 @@ std::string nesting(bool alone) {
     Graph graph;
     graph.arrange();
     const Svg svg = graph.drawing();
-    constexpr std::string_view label = "bundles, messages and records, and who holds whom";
+    constexpr std::string_view label = "nesting of bundles, messages and records";
     return alone ? svg.alone(label) : svg.inside(label);
 }
 

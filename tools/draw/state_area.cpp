@@ -10,7 +10,7 @@ namespace {
 
 using namespace schema;
 
-// Has all that a state area can have: a byte, an area within the area, and a vector.
+// Its state area has everything: single bytes, a nested area, and a vector.
 constexpr const Record &shown = lumo_tarn_dp_mp_prefix_complex_data;
 
 constexpr double left = 12, limit = 1000, cell = 38;
@@ -36,7 +36,7 @@ std::vector<Box> instance_boxes(const Layout &layout) {
     return boxes;
 }
 
-// One cell for each byte; what it is stands below the first cell of each run.
+// One cell for each byte, with a label below the first cell of each group.
 void draw_area(Svg &svg, double y, const Layout &layout) {
     for (std::uint32_t slot = 0; slot < layout.state_width; ++slot) {
         svg.rectangle(left + cell * slot, y, cell, 26, "box");
@@ -58,10 +58,10 @@ void draw_area(Svg &svg, double y, const Layout &layout) {
         if (!is_tracked(m)) continue;
         const char *kind = kinds[i % kinds.size()];
         const std::string name(m.name);
-        run(place.slot, 1, kind, "the byte of " + name, 1);
-        if (m.kind == Kind::address) run(place.inner, facts(m.kind).own_states, kind, "the parts of " + name, 0);
-        if (m.kind == Kind::record) run(place.inner, lay_out(*m.record).state_width, kind, "the members of " + name, 0);
-        if (m.kind == Kind::array) run(place.inner, pointer_size, kind, "pointer to a vector, one byte an element", 0);
+        run(place.slot, 1, kind, "state of " + name, 1);
+        if (m.kind == Kind::address) run(place.inner, facts(m.kind).own_states, kind, "state of the parts of " + name, 0);
+        if (m.kind == Kind::record) run(place.inner, lay_out(*m.record).state_width, kind, "state of the members of " + name, 0);
+        if (m.kind == Kind::array) run(place.inner, pointer_size, kind, "pointer to a vector with one byte per element", 0);
     }
 }
 
@@ -72,20 +72,18 @@ std::string state_area() {
     const Layout layout = lay_out(shown);
     double y = 30;
     svg.text(left, y, "An instance of " + std::string(shown.name) + " in memory", "title");
-    svg.text(left, y + 18, "Offsets from its start. The state area follows only on a handle that tracks state.",
-             "soft");
+    svg.text(left, y + 18, "Offsets from its start. There is a state area only on a tracking handle.", "soft");
     y += 30 + draw_strip(svg, left, y + 30, limit, instance_boxes(layout)) + 22;
     svg.text(left, y, "Its state area, " + bytes(layout.state_width) + " bytes", "title");
-    svg.text(left, y + 18, "One byte for each member but counts and lengths; 0 says that nobody has said anything.",
-             "soft");
+    svg.text(left, y + 18, "One byte for each member except counts and lengths; 0 means not written.", "soft");
     draw_area(svg, y + 30, layout);
     y += 30 + 84 + 22;
     for (const Member &m : shown.members) {
         if (m.kind != Kind::array) continue;
         const Layout inner = lay_out(*m.record);
         const std::string base = bytes(inner.base_size), width = bytes(inner.state_width), name(m.name);
-        svg.text(left, y, "The block behind " + name, "title");
-        svg.text(left, y + 18, "Elements stand together, and behind the last of them their state areas.", "soft");
+        svg.text(left, y, "The block of " + name, "title");
+        svg.text(left, y + 18, "All elements, then their state areas in the same order.", "soft");
         draw_strip(svg, left, y + 30, limit,
                    {{name + "[0]", base, "block"},
                     {"...", "", "block"},

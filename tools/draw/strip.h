@@ -1,4 +1,4 @@
-// Bytes in a row, one box for each thing that they are.
+// A row of boxes, one for each group of bytes.
 #pragma once
 
 #include <string>
@@ -19,7 +19,7 @@ inline double width_of(const Box &box) {
     return std::max(34.0, 7.4 * length + 14);
 }
 
-// Returns the height that was taken. A strip that is too wide goes on in the next line.
+// Returns the height of the strip. A strip that is too wide continues in the next line.
 inline double draw_strip(Svg &svg, double x, double y, double limit, const std::vector<Box> &boxes) {
     constexpr double height = 26, line = 56;
     double at = x, top = y;

@@ -2,7 +2,7 @@
 
 namespace tarn::draw {
 
-// The same colours as those of the pages.
+// The colors of the HTML pages.
 std::string Svg::style() {
     return R"(<style>
 svg { --paper: #ffffff; --ink: #1d2329; --soft: #5d6873; --line: #b9c2ca; --blue: #1f5fae; --violet: #7a3e9d;

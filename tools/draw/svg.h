@@ -1,5 +1,5 @@
-// Drawings, made of few shapes. What they look like is said by classes, so that one drawing fits into a page with a
-// style of its own and, with the style given here, stands alone in light and in dark.
+// SVG drawings. Classes determine their appearance, so a drawing adapts to the style of a page that contains it, and
+// has a light and a dark style of its own when it is a file.
 #pragma once
 
 #include <algorithm>
@@ -32,7 +32,7 @@ public:
         reach(x1, y1);
         reach(x2, y2);
     }
-    // An attribute list of its own may follow the class.
+    // `more`: attributes after the class.
     void path(const std::string &steps, std::string_view kind, const std::string &more = "") {
         body_ += "<path class=\"" + std::string(kind) + "\"" + more + " d=\"" + steps + "\"/>\n";
     }
@@ -42,7 +42,7 @@ public:
     void tooltip(std::string_view words) { body_ += "<title>" + escaped(words) + "</title>\n"; }
     void close() { body_ += "</g>\n"; }
 
-    // For a page that brings its own style.
+    // For a page with its own style, and as a file.
     std::string inside(std::string_view label) const { return head(label) + body_ + "</svg>\n"; }
     std::string alone(std::string_view label) const { return head(label) + style() + body_ + "</svg>\n"; }
 
