@@ -40,36 +40,36 @@ namespace {
 
 // Null for a null object.
 template <class Storage>
-Storage *member_at(mirk_object *object, const MemberPlace &place) {
-    return object != nullptr ? reinterpret_cast<Storage *>(bytes_of(object) + place.offset) : nullptr;
+Storage *member_at(mirk_object *object, const MemberLocation &location) {
+    return object != nullptr ? reinterpret_cast<Storage *>(bytes_of(object) + location.offset) : nullptr;
 }
 
-std::uint8_t *state_at(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberPlace &place) {
-    return state_area(h, ctx_id, object, place.base_size) + place.slot;
+std::uint8_t *state_at(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberLocation &location) {
+    return state_area(h, ctx_id, object, location.base_size) + location.slot;
 }
 
 }  // namespace
 
-bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberPlace &place,
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberLocation &location,
                   std::uint32_t *err) {
     if (!tracks(h)) return true;
     if (!is_state_tracked(object)) return refuse_untracked(h, err);
-    store(h, ctx_id, state_at(h, ctx_id, object, place), written_state);
+    store(h, ctx_id, state_at(h, ctx_id, object, location), written_state);
     return true;
 }
 
 template <Kind K, auto Of>
 [[gnu::noinline]] auto KindAccessor<K, Of>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                std::uint32_t *err, const MemberPlace &place) -> Storage * {
+                                                std::uint32_t *err, const MemberLocation &location) -> Storage * {
     if (!enter(h, err)) return nullptr;
-    if (!require_body(h, object, place.value_kind, err)) return nullptr;
-    return PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, place), err);
+    if (!require_body(h, object, location.value_kind, err)) return nullptr;
+    return PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, location), err);
 }
 
 template <Kind K, auto Of>
 [[gnu::noinline]] auto KindAccessor<K, Of>::get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                      std::uint32_t *err, const MemberPlace &place) {
-    Storage *field = get(h, ctx_id, object, err, place);
+                                                      std::uint32_t *err, const MemberLocation &location) {
+    Storage *field = get(h, ctx_id, object, err, location);
     using Value = decltype(PrimitiveOf<K, Of>::get_value(h, ctx_id, field, err));
     return field != nullptr ? PrimitiveOf<K, Of>::get_value(h, ctx_id, field, err) : Value{0};
 }
@@ -77,49 +77,49 @@ template <Kind K, auto Of>
 template <Kind K, auto Of>
 template <class Source>
 [[gnu::noinline]] void KindAccessor<K, Of>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                Source *source, std::uint32_t *err, const MemberPlace &place) {
+                                                Source *source, std::uint32_t *err, const MemberLocation &location) {
     if (!enter(h, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, place.value_kind, err)) return;
-    PrimitiveOf<K, Of>::set(h, ctx_id, member_at<Storage>(object, place), source, err);
-    if (mark_written(h, ctx_id, object, place, err)) mark_modified(object, place.value_kind);
+    if (!require_body(h, object, location.value_kind, err)) return;
+    PrimitiveOf<K, Of>::set(h, ctx_id, member_at<Storage>(object, location), source, err);
+    if (mark_written(h, ctx_id, object, location, err)) mark_modified(object, location.value_kind);
 }
 
 template <Kind K, auto Of>
 template <class Value>
 [[gnu::noinline]] void KindAccessor<K, Of>::set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                      Value value, std::uint32_t *err, const MemberPlace &place) {
+                                                      Value value, std::uint32_t *err, const MemberLocation &location) {
     if (!enter(h, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, place.value_kind, err)) return;
-    // Finding the field is a get in its own right, with a look at slot and variant again.
+    if (!require_body(h, object, location.value_kind, err)) return;
+    // Finding the field is a full get, which checks slot and variant again.
     Storage *field = nullptr;
-    if (*err == 0 && require_body(h, object, place.value_kind, err)) {
-        field = PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, place), err);
+    if (*err == 0 && require_body(h, object, location.value_kind, err)) {
+        field = PrimitiveOf<K, Of>::get(h, ctx_id, member_at<Storage>(object, location), err);
     }
     if (*err != 0) return;
     if (field == nullptr) {
         fail(h, err, ENOENT);
         return;
     }
-    // A refused value leaves its error in the slot, and the member counts as written all the same.
+    // If the value is refused, the error stays in the slot, and the member still counts as written.
     PrimitiveOf<K, Of>::set_value(h, ctx_id, field, value, err);
-    if (mark_written(h, ctx_id, object, place, err)) mark_modified(object, place.value_kind);
+    if (mark_written(h, ctx_id, object, location, err)) mark_modified(object, location.value_kind);
 }
 
 std::uint8_t get_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
-                            const MemberPlace &place) {
+                            const MemberLocation &location) {
     if (*err != 0 || !can_read_state(h, object, err)) return 0;
-    return *state_at(h, ctx_id, object, place);
+    return *state_at(h, ctx_id, object, location);
 }
 
 void set_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err,
-                    const MemberPlace &place) {
+                    const MemberLocation &location) {
     if (*err != 0 || !can_write_state(h, object, err)) return;
     adjust_variant(h, ctx_id, object, err);
-    if (!require_body(h, object, place.value_kind, err)) return;
-    store(h, ctx_id, state_at(h, ctx_id, object, place), value);
-    mark_modified(object, place.value_kind);
+    if (!require_body(h, object, location.value_kind, err)) return;
+    store(h, ctx_id, state_at(h, ctx_id, object, location), value);
+    mark_modified(object, location.value_kind);
 }
 
 namespace {
@@ -154,7 +154,7 @@ struct ScalarMember {
 
 constexpr bool can_be_fetched(const Member &m) { return is_integer(m.kind) || schema::is_scalar(m); }
 
-// The members of a record that have the property, ready for a loop.
+// The members of a record that have the property, as a table for a loop.
 template <const Record &R, bool (*Property)(const Member &)>
 constinit const auto scalar_members = [] {
     constexpr auto n = static_cast<std::size_t>(std::count_if(R.members.begin(), R.members.end(), Property));
@@ -177,7 +177,7 @@ void get_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std:
     }
 }
 
-// Leaves the state bytes alone, in contrast to the setters of single members.
+// Unlike the setters of single members, does not change state bytes.
 void set_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::span<const ScalarMember> members,
                  const std::uint64_t *values, std::uint32_t *err) {
     if (!enter(h, err)) return;
@@ -206,8 +206,8 @@ void Whole<R>::set_all(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object
     set_members(h, ctx_id, object, scalar_members<R, schema::is_scalar>, all, err);
 }
 
-// The fill covers the addresses of element-state vectors too, which thereby say that every element's state is this
-// byte; the vectors themselves are lost. A corrupt mode is passed over here and nowhere else.
+// The fill also overwrites the addresses of element-state vectors, which then mean that every element has this state;
+// the vectors themselves leak. This is the only operation that ignores a corrupt tracking mode.
 template <const Record &R>
 void Whole<R>::set_all_state_tracking_flag(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                            std::uint8_t value) {

@@ -1,4 +1,4 @@
-// Access to single members: a pointer, a value, a state byte.
+// Access to single members: by pointer, value and state byte.
 #pragma once
 
 #include "core/guard.h"
@@ -6,77 +6,78 @@
 
 namespace tarn {
 
-// Where a member lives, which is all that the accessors of two members of one kind differ in: each exported name is a
-// jump to the one function of its kind, with the place as its last argument.
-struct MemberPlace {
+// Accessors of two members of one kind differ only in the member's location. So each exported name is a jump to the one
+// function of its kind, with the location as its last argument.
+struct MemberLocation {
     std::uint32_t offset, slot, base_size, value_kind;
 };
 template <class F>
-inline constexpr MemberPlace member_place{F::place.offset, F::place.slot, schema::layout<F::owner>.base_size,
-                                          F::value_kind};
+inline constexpr MemberLocation member_location{F::place.offset, F::place.slot, schema::layout<F::owner>.base_size,
+                                                F::value_kind};
 
 template <Kind K, auto Of>
 struct KindAccessor {
     using Storage = typename StorageOf<K>::type;
 
     static Storage *get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
-                        const MemberPlace &place);
+                        const MemberLocation &location);
     static auto get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
-                          const MemberPlace &place);
+                          const MemberLocation &location);
     template <class Source>
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Source *source, std::uint32_t *err,
-                    const MemberPlace &place);
+                    const MemberLocation &location);
     template <class Value>
     static void set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, Value value, std::uint32_t *err,
-                          const MemberPlace &place);
+                          const MemberLocation &location);
 };
 
-// F is a Field. Every single-valued member has these; counts and lengths have get and get_value alone.
+// F is a Field. Every single-valued member has all four; counts and lengths have only get and get_value.
 template <class F>
 struct Accessor {
     using OfKind = KindAccessor<F::kind, F::of>;
 
     static auto get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-        return OfKind::get(h, ctx_id, object, err, member_place<F>);
+        return OfKind::get(h, ctx_id, object, err, member_location<F>);
     }
     static auto get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-        return OfKind::get_value(h, ctx_id, object, err, member_place<F>);
+        return OfKind::get_value(h, ctx_id, object, err, member_location<F>);
     }
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, auto *source, std::uint32_t *err) {
-        OfKind::set(h, ctx_id, object, source, err, member_place<F>);
+        OfKind::set(h, ctx_id, object, source, err, member_location<F>);
     }
     static void set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, auto value, std::uint32_t *err) {
-        OfKind::set_value(h, ctx_id, object, value, err, member_place<F>);
+        OfKind::set_value(h, ctx_id, object, value, err, member_location<F>);
     }
 };
 
 std::uint8_t get_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,
-                            const MemberPlace &place);
+                            const MemberLocation &location);
 void set_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err,
-                    const MemberPlace &place);
+                    const MemberLocation &location);
 
-// The state byte of a member, that of a whole array included.
+// The state byte of a member; an array has one for the whole.
 template <class F>
 struct StateByte {
     static std::uint8_t get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-        return get_state_byte(h, ctx_id, object, err, member_place<F>);
+        return get_state_byte(h, ctx_id, object, err, member_location<F>);
     }
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint8_t value, std::uint32_t *err) {
-        set_state_byte(h, ctx_id, object, value, err, member_place<F>);
+        set_state_byte(h, ctx_id, object, value, err, member_location<F>);
     }
 };
 
-// True if the handle answers questions about the state of this object; otherwise EINVAL is in the slot.
+// True if the state of this object can be read on this handle; otherwise fails with EINVAL.
 bool can_read_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err);
 
-// The same before a state byte is written; the trace line comes ahead of the error there.
+// The same before a state byte is written, but here the trace line precedes the error.
 bool can_write_state(mirk_handle *h, const mirk_object *object, std::uint32_t *err);
 
-// EINVAL for an object without room for state, and false.
+// Fails with EINVAL because the object has no room for state. Returns false.
 bool refuse_untracked(mirk_handle *h, std::uint32_t *err);
 
-// After a setter has stored: state byte 2 on a tracking handle. False if the object cannot have one; the value stays.
-bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberPlace &place,
+// After a setter has stored, on a tracking handle: sets state byte 2. False if the object has no room for state; the
+// value stays.
+bool mark_written(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const MemberLocation &location,
                   std::uint32_t *err);
 
 inline void mark_modified(mirk_object *object, std::uint32_t value_kind) {

@@ -15,7 +15,7 @@ namespace tarn {
 
 namespace {
 
-// What growth has to know of the elements; it is one function for all arrays with counts of the same width.
+// What growth needs to know of the elements, so that one function serves all arrays with counts of the same width.
 struct ElementShape {
     std::size_t base, width;
     mirk_type_info &type;
@@ -27,7 +27,7 @@ struct ElementShape {
     mirk_object *at(mirk_object *block, std::uint64_t index) const {
         return reinterpret_cast<mirk_object *>(bytes_of(block) + index * base);
     }
-    // State areas stand behind the n elements of a block.
+    // The state areas follow the n elements of a block.
     void *area(const mirk_object *block, std::uint64_t n, std::uint64_t index) const {
         return reinterpret_cast<void *>(address_of(block) + n * base + index * width);
     }
@@ -40,13 +40,13 @@ constinit const ElementShape element_shape{
 
 template <class A>
 constexpr auto growth_text = named_text<A::owner>("(ERR): Reallocating resource for ", "");
-// Growth is a full move, and it is worth one line for each array in the life of a process.
+// Growth moves all elements, which each array reports once per process.
 template <class A>
 constinit std::atomic<bool> growth_reported{false};
 
 struct ArrayShape {
     const ElementShape &element;
-    std::uint32_t base_size, inner;  // of the owner; where the vector's address lies in its state area
+    std::uint32_t base_size, inner;  // of the owner; offset of the vector's address in its state area
     const char *growth_text;
     std::atomic<bool> &growth_reported;
 };
@@ -63,7 +63,7 @@ void move_elements(const Call &call, mirk_object *from, std::uint32_t old_count,
                    std::uint64_t new_count, bool tracked, const ElementShape &shape) {
     if (tracked) {
         for (std::uint32_t i = 0; i < old_count; ++i) {
-            // By the element's own offset: the stored count may have wrapped, and the old areas stand where they stand.
+            // By the element's own offset, since the old areas cannot be computed from a count that has wrapped.
             std::memcpy(shape.area(to, new_count, i),
                         state_area(call.h, call.ctx_id, shape.at(from, i), static_cast<std::uint32_t>(shape.base)),
                         shape.width);
@@ -105,7 +105,7 @@ void initialize_new_elements(const Call &call, mirk_object *block, std::uint32_t
     }
 }
 
-// A new vector of element states with the old ones at its front. False: EINVAL or ENOMEM is in the slot.
+// Replaces the vector of element states by a longer one that starts with the old states. False: EINVAL or ENOMEM.
 bool grow_element_states(const Call &call, mirk_object *object, std::uint32_t old_count, std::uint64_t new_count,
                          const ArrayShape &array) {
     if (!is_state_tracked(object)) return refuse_untracked(call.h, call.err);
@@ -126,8 +126,8 @@ bool grow_element_states(const Call &call, mirk_object *object, std::uint32_t ol
     return true;
 }
 
-// Makes the array one of index + 1 elements. A value that lies in the old block is found at its new place after the
-// move. False: there was no memory, or no room for the state of elements.
+// Grows the array to index + 1 elements. If the value is an element of the old block, it is updated to the moved one.
+// False: an allocation failed, or the owner has no room for state.
 template <class Count>
 [[gnu::noinline]] bool grow(const Call &call, mirk_object *object, Count *counter, mirk_object **block,
                             std::uint32_t old_count, std::uint32_t index, mirk_object *&value, bool tracked,
@@ -138,7 +138,7 @@ template <class Count>
         trace(error_level, array.growth_text);
         array.growth_reported.store(true, std::memory_order_relaxed);
     }
-    // In 64 bits: the last index there is asks for 2^32 elements, and is refused for want of memory.
+    // In 64 bits, since the largest index asks for 2^32 elements, which then fails with ENOMEM.
     const std::uint64_t new_count = std::uint64_t{index} + 1;
     const std::size_t stride = shape.base + (tracked ? shape.width : 0);
     auto *new_block = static_cast<mirk_object *>(call.allocate(stride * new_count));
@@ -149,17 +149,17 @@ template <class Count>
     call.store(block, new_block);
     std::memset(bytes_of(new_block), 0, stride * new_count);
     if (old_block != nullptr) {
-        const std::uintptr_t into = address_of(value) - address_of(old_block);
-        const bool inside = value != nullptr && into < std::size_t{old_count} * shape.base;
+        const std::uintptr_t value_offset = address_of(value) - address_of(old_block);
+        const bool inside = value != nullptr && value_offset < std::size_t{old_count} * shape.base;
         move_elements(call, old_block, old_count, new_block, new_count, tracked, shape);
-        if (inside) value = shape.at(new_block, into / shape.base);
+        if (inside) value = shape.at(new_block, value_offset / shape.base);
     }
     call.store(counter, static_cast<Count>(new_count));
     initialize_new_elements(call, new_block, old_count, new_count, tracked, shape);
     return !tracks(call.h) || grow_element_states(call, object, old_count, new_count, array);
 }
 
-// Whether object can take value as an element; otherwise the error is in the slot.
+// True if value can become an element of object; otherwise sets the error.
 [[gnu::noinline]] bool may_take(const Call &call, mirk_object *object, const mirk_object *value) {
     if (!call.enter()) return false;
     call.adjust_variant(object);
@@ -201,7 +201,7 @@ void set_element_state(const Call &call, mirk_object *object, std::uint32_t coun
     mark_modified(object, 0);
 }
 
-// The bytes of the owner's state area that belong to addresses of vectors are marked.
+// is_address marks the bytes of the owner's state area that hold addresses of vectors.
 void set_all_states(const Call &call, mirk_object *object, std::uint32_t count, const std::uint8_t *source,
                     std::uint32_t length, std::span<const bool> is_address, const ArrayShape &array) {
     if (*call.err != 0 || !can_write_state(call.h, object, call.err)) return;
@@ -252,7 +252,7 @@ void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, st
     } else {
         Copy<A::element>::copy_into_element(h, value, element);
     }
-    // The owner's modified mark is left alone, unlike by the setters of single values.
+    // Unlike the setters of single values, does not mark the owner as modified.
     if (tracked && tracks(h)) {
         std::uint8_t *area = state_area<A::owner>(h, ctx_id, object);
         store(h, ctx_id, A::state(area), written_state);
@@ -287,8 +287,8 @@ void Array<A>::state_flag_get_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_obj
     *out = element_states({h, ctx_id, err}, object, array_shape<A>).block();
 }
 
-// The bytes go to the start of the owner's state area and not to the vector, unannounced. The copy ends with the area
-// and steps over the addresses of vectors in it, so that each stays owned.
+// The bytes are copied to the start of the owner's state area, not to the vector, without a notification. The copy
+// stops at the end of the area and skips the addresses of vectors, which would otherwise leak.
 template <class A>
 void Array<A>::state_flag_set_arr(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const std::uint8_t *source,
                                   std::uint32_t length, std::uint32_t *err) {

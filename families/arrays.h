@@ -1,4 +1,4 @@
-// Counted arrays of records: elements by index, growth, and the state of elements.
+// Counted arrays of records: elements by index, growth, and element states.
 #pragma once
 
 #include "families/accessors.h"
@@ -10,7 +10,7 @@ template <class A>
 struct Array {
     static mirk_object *get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
                             std::uint32_t *err);
-    // Beyond the end it grows the array to exactly index + 1 elements; a null value grows and stores nothing.
+    // An index past the end grows the array to index + 1 elements; with a null value, nothing is stored.
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index, mirk_object *value,
                     std::uint32_t copy_mode, std::uint32_t *err);
     static void move_in(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,

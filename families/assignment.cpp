@@ -27,21 +27,21 @@ void Assignment<R>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *desti
         return;
     }
 
-    const std::uint8_t before = destination->obj_flag;
+    const std::uint8_t old_flag = destination->obj_flag;
     notify_write(h, ctx_id, destination, schema::layout<R>.base_size);
     std::memcpy(bytes_of(destination), bytes_of(source), schema::layout<R>.base_size);
 
     bool move_state = false;
     if (h->sttr_desc != nullptr) {
         constexpr std::uint8_t offset = flag::sttr_offset;
-        destination->obj_flag = static_cast<std::uint8_t>((destination->obj_flag & ~offset) | (before & offset));
+        destination->obj_flag = static_cast<std::uint8_t>((destination->obj_flag & ~offset) | (old_flag & offset));
         if (tracks(h)) {
-            // Without room for state here or without state there the blocks have changed hands all the same: source and
-            // destination hold the same pointers by now, and one of them has to let go.
-            const bool has_room = (before & flag::state_tracked) != 0;
+            // Even if the destination has no room for state or the source has none, both hold the same pointers by now,
+            // so those of the source have to be cleared.
+            const bool has_room = (old_flag & flag::state_tracked) != 0;
             if (!has_room) clear_tracking(destination);
             if (!is_state_tracked(destination)) {
-                release_blocks(h, ctx_id, source);
+                clear_blocks(h, ctx_id, source);
                 refuse_untracked(h, err);
                 return;
             }
@@ -71,9 +71,9 @@ void Assignment<R>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *desti
 }
 
 template <const Record &R>
-void Assignment<R>::release_blocks(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source) {
+void Assignment<R>::clear_blocks(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source) {
     walk<R>(cases{
-        [&]<RecordMember F>(F) { Assignment<*F::of>::release_blocks(h, ctx_id, F::at(source)); },
+        [&]<RecordMember F>(F) { Assignment<*F::of>::clear_blocks(h, ctx_id, F::at(source)); },
         [&]<BlockMember B>(B) { release_ownership<B>(h, ctx_id, source); },
         nothing,
     });

@@ -17,7 +17,7 @@ bool same_at(const std::uint8_t *a, const std::uint8_t *b) {
     return x == y;
 }
 
-// For sizes that are known, without a call or a loop.
+// For constant sizes: no call and no loop.
 template <std::size_t Size>
 [[gnu::always_inline]] inline bool same_bytes(const void *left, const void *right) {
     const auto *a = static_cast<const std::uint8_t *>(left), *b = static_cast<const std::uint8_t *>(right);
@@ -31,7 +31,7 @@ template <std::size_t Size>
            ((Size & 1) == 0 || a[Size - 1] == b[Size - 1]);
 }
 
-// Equal runs are equal bytes. Only of those that differ is it asked where.
+// Equal runs have equal bytes; members are compared one by one only if the bytes differ.
 template <const Record &R, std::size_t First>
 [[gnu::always_inline]] inline std::int32_t order_of_run(const mirk_object *a, const mirk_object *b) {
     using Head = FieldOf<R, First>;
@@ -47,7 +47,7 @@ template <const Record &R, std::size_t First>
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of_members(const mirk_object *a, const mirk_object *b);
 
-// Of two that are there. What consists of integers alone is compared in place.
+// a and b are not null. Records of integers alone are compared inline.
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of(const mirk_object *a, const mirk_object *b) {
     if constexpr (all_integers(R)) {
@@ -57,13 +57,13 @@ template <const Record &R>
     }
 }
 
-// The sign is the order and the size means nothing: a string's is memcmp's, an enumeration's the distance.
+// Only the sign of the result has a meaning: strings return memcmp's result, enumerations the difference.
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of_members(const mirk_object *a, const mirk_object *b) {
     std::int32_t order = 0;
     walk_while<R>(cases{
         [&]<ArrayMember A>(A) TARN_INLINE {
-            // Counts are equal here, as members of their own; a null block counts as nothing.
+            // The counts were compared before, as members; a null block has no elements.
             const std::uint32_t n = std::min(A::count(a), A::count(b));
             for (std::uint32_t i = 0; i < n && order == 0; ++i) {
                 order = order_of<A::element>(A::element_of(a, i), A::element_of(b, i));

@@ -10,15 +10,15 @@ namespace tarn {
 
 namespace {
 
-// A destroyed element stays in its array and is destroyed once more with it. Where objects are mapped, destroying it
-// drops the offset of its state area, which has to be recorded anew: without it the states would be looked for on top
-// of the next element.
+// A destroyed element stays in its array and is destroyed again with it. On a handle with object mapping, destroying it
+// removes the offset of its state area, which has to be recorded again: without an offset, the states would be read
+// from the next element's bytes.
 template <const Record &R>
 void destroy_in_array(mirk_handle *h, std::uint32_t ctx_id, mirk_object *element) {
-    const bool drops_offset = h->oid_mapping != 0 && (element->obj_flag & flag::sttr_offset) != 0;
-    std::uint8_t *area = drops_offset ? state_area<R>(h, ctx_id, element) : nullptr;
+    const bool loses_offset = h->oid_mapping != 0 && (element->obj_flag & flag::sttr_offset) != 0;
+    std::uint8_t *area = loses_offset ? state_area<R>(h, ctx_id, element) : nullptr;
     Lifecycle<R>::destroy_internal(h, ctx_id, element, 0);
-    if (!drops_offset) return;
+    if (!loses_offset) return;
     std::uint32_t error = 0;
     mirklib_update_sttr_offset(h, ctx_id, element, distance(element, address_of(area)));
     References<R>::offset_update(h, ctx_id, element, area, &error);
@@ -47,7 +47,7 @@ void Copy<R>::copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mi
     }
     WireRead<R>::unmarshal(h, ctx_id, buffer, *destination, written, 0, err);
     if (*err == 0) return;
-    // A destination that the caller handed in is destroyed as well.
+    // This also destroys a destination that the caller passed in.
     if (free_it != 0) {
         Lifecycle<R>::destroy_internal(h, ctx_id, *destination, 1);
     } else {

@@ -1,4 +1,4 @@
-// Deep copy, by way of the wire form.
+// Deep copy: writes a frame and reads it back.
 #pragma once
 
 #include "core/walk.h"
@@ -11,7 +11,7 @@ struct Copy {
                       std::uint32_t size, std::uint32_t *err);
     static mirk_object *clone_cr(mirk_handle *h, mirk_object *source);
     static void copy_cr(mirk_handle *h, mirk_object *source, mirk_object *destination);
-    // Into an element of a block; on failure the element is ended but its memory stays with the block.
+    // Into an element of a block. If it fails, the element is destroyed but its memory stays part of the block.
     static void copy_into_element(mirk_handle *h, mirk_object *source, mirk_object *element);
 
 private:

@@ -11,9 +11,9 @@
 
 namespace tarn {
 
-// The input of one frame. Offsets are 32-bit, and a nested frame's jump may carry them behind the end; every byte is
-// reached through what is left there, which is then nothing. The one byte behind the end is readable, by agreement with
-// the owner of the buffer, and is read by two kinds of state that stand exactly at the end.
+// The input of one frame. A nested frame's jump may move the 32-bit offset past the end, so every access is limited by
+// left(), which is 0 from there on. The guard byte after the end is readable: the buffer's owner provides it, and the
+// state of a whole array or of a string is read from it when the frame ends just before that state.
 struct Reader {
     mirk_handle *h;
     std::uint32_t ctx_id;
@@ -26,7 +26,7 @@ struct Reader {
     bool skip_state = false;
     bool tracked = false;
     std::uint8_t *area = nullptr;
-    std::uint32_t old_count = 0;  // what the count or length held before it was read
+    std::uint32_t old_count = 0;  // value of the count or length before it was read
 
     std::uint8_t *at() const { return buffer + offset; }
     std::int32_t left() const { return bytes_left(size, offset); }
@@ -51,7 +51,7 @@ struct Reader {
         if (read_state || skip_state) offset += n;
     }
 
-    // The state of a whole array or of a string: taken from the byte behind the end, too.
+    // The state of a whole array or of a string, which may be read from the guard byte.
     template <class F>
     void block_state() {
         *F::state(area) = offset <= size ? *at() : std::uint8_t{0};
@@ -79,7 +79,7 @@ void Reader::drop_block(mirk_object *instance) {
     store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
 }
 
-// False: out of memory, and with it the end of this frame.
+// False: an allocation failed, which ends the reading of this frame.
 template <ArrayMember A>
 bool Reader::array(mirk_object *instance) {
     mirk_object **block = A::at(instance);
@@ -94,8 +94,8 @@ bool Reader::array(mirk_object *instance) {
         states.put(nullptr);
     }
     if (tracked && !read_state && !same_elements) {
-        // A frame without state leaves the old vector in place, but not one that may be too short for the new elements,
-        // nor one that an empty frame or a failed read left behind.
+        // A frame without state keeps the old vector, unless it may be too short for the new elements or was left by an
+        // empty frame or a failed read.
         const ElementStates stale = A::element_states(state_area<A::owner>(h, ctx_id, instance));
         if (stale.block() != nullptr) {
             if (reuse != 0) release(h, ctx_id, stale.block());
@@ -116,7 +116,7 @@ bool Reader::array(mirk_object *instance) {
         auto *vector = static_cast<std::uint8_t *>(allocate(h, ctx_id, n));
         states.put(vector);
         if (vector == nullptr) {
-            // Elements without a header must not stay behind.
+            // Elements without a header must not remain.
             release(h, ctx_id, *block);
             store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
             fail(h, err, ENOMEM);
@@ -127,8 +127,8 @@ bool Reader::array(mirk_object *instance) {
     for (std::uint32_t i = 0; i < n; ++i) {
         mirk_object *element = element_at<A::element>(*block, i);
         const std::uintptr_t element_state = element_area<A::element>(*block, n, i);
-        // On a tracking handle every element gets its offset, whatever the frame brought: otherwise its state would be
-        // looked for directly behind it, on top of its neighbour.
+        // On a tracking handle every element gets its offset, even if the frame has no state: otherwise its state would
+        // be read directly after it, from the next element's bytes.
         if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
         {
             StepErrors errors(h, err);
@@ -175,25 +175,24 @@ bool Reader::string(mirk_object *instance) {
     if (read_state) {
         block_state<S>();
     } else if (skip_state) {
-        // Unlike a scalar's: the last byte of a buffer is not stepped over. The jump makes up for it in an enclosing
-        // frame.
+        // Unlike the state of a scalar, the last byte of a buffer is not skipped. In a nested frame, the jump corrects
+        // the offset.
         if (static_cast<std::int32_t>(size - offset) > 1) offset += 1;
     }
     return true;
 }
 
 struct Head {
-    // A primitive that fails writes nothing, so everything read into a local starts at 0.
+    // Initialized, because a primitive that fails writes nothing.
     std::int8_t variant = 0;
     std::uint8_t wire_flag = 0;
     std::uint32_t jump_base = 0, jump = 0;
 };
 
-// Gets what it needs piece by piece, so that the reader itself can stay in registers.
+// Takes separate arguments instead of the reader, so that the reader can stay in registers.
 [[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                                mirk_object *instance, std::int32_t remaining,
                                                                std::uint32_t *err) {
-    // A primitive that fails writes nothing, so everything read into a local starts at 0.
     void *ra_value = nullptr;
     std::uint8_t ra_byte = 0;
     const std::uint32_t n = _mirk_instance_ra_data_unmarshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);

@@ -9,8 +9,8 @@
 
 namespace tarn {
 
-// The output of one frame. Nothing stops a walk when a member fails: what follows finds the slot set and writes
-// nothing, the state bytes still go out, and the caller decides at the end.
+// The output of one frame. The walk continues after a member has failed: later members are no-ops because the slot is
+// set, state bytes are still written, and the caller checks the slot at the end.
 struct Writer {
     mirk_handle *h;
     std::uint32_t ctx_id;
@@ -19,12 +19,12 @@ struct Writer {
     std::uint32_t *err;
     std::uint32_t offset = 0;
     bool tracked = false;
-    std::uint8_t *area = nullptr;  // null: an instance without state, each of whose state bytes is 0
+    std::uint8_t *area = nullptr;  // null: an instance without state, whose state bytes are written as 0
 
     [[gnu::always_inline]] std::uint8_t *at() const { return buffer + offset; }
     [[gnu::always_inline]] std::int32_t left() const { return bytes_left(size, offset); }
 
-    // A full buffer gets it too, in the guard byte after its end, where it is not counted.
+    // If the buffer is full, writes the guard byte after its end, which is not counted.
     [[gnu::always_inline]] void state(std::uint8_t value) {
         *at() = value;
         offset += offset != size ? 1 : 0;
@@ -50,7 +50,7 @@ struct Writer {
         }
         if (!tracked) return;
         state_of<A>();
-        // Cut to what remains without an error: a buffer sized by len has room.
+        // Truncated without an error, since a buffer sized by len always has room.
         const std::uint32_t fits = std::min(n, static_cast<std::uint32_t>(left()));
         const ElementStates states = A::element_states(area);
         if (const std::uint8_t *block_of_states = states.block(); block_of_states != nullptr) {

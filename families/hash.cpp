@@ -3,8 +3,8 @@
 
 namespace tarn {
 
-// Each member's hash is the seed of the next. A count or a length enters twice: as a member, and at the head of what it
-// counts; all sides of a system have to do so alike.
+// Each member's hash is the seed of the next. Counts and lengths are hashed twice, as members and before what they
+// count: all peers have to compute the same hash.
 template <const Record &R>
 std::uint32_t Hash<R>::hash(const mirk_object *instance, std::uint32_t seed) {
     if (instance == nullptr) return seed;

@@ -26,11 +26,11 @@ constinit SentinelStorage<R> sentinel_of{};
     return nullptr;
 }
 
-// All of an initialize but the members. False: these stay as they are. If announced_area is set, the state of what the
-// instance embeds has to be announced there; sttr_base is where its own state starts.
+// Initializes all but the members. False: the members must not be initialized either. If members_area is set, the
+// caller records the state offsets of the embedded members in it; sttr_base becomes the start of the instance's state.
 bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                          std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
-                         void *&sttr_base, void *&announced_area, std::uint32_t *err) {
+                         void *&sttr_base, void *&members_area, std::uint32_t *err) {
     if (!enter(h, err)) return false;
     const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
     if (tracks(h)) {
@@ -39,7 +39,7 @@ bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
     }
     if (skip_count != 0) return true;
     count_created(h, ctx_id, object, variant, true);
-    *err = 0;  // drops an error of the look-up: it shows at the first gate instead
+    *err = 0;  // clears an error of the domain look-up; the first require_body reports it
     if (!tracks(h)) return true;
 
     const bool nested = (object->obj_flag & flag::nested) != 0;
@@ -53,7 +53,7 @@ bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
     }
     void *offset_area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : nullptr;
     if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + base_size;
-    if (!nested || has_offset) announced_area = has_offset ? offset_area : sttr_base;
+    if (!nested || has_offset) members_area = has_offset ? offset_area : sttr_base;
     return true;
 }
 
@@ -69,11 +69,11 @@ constexpr auto not_lowered_text = named_text<R>("(ERR): ",
 template <const Record &R>
 constexpr ReferenceTexts reference_texts{unreadable_text<R>.data(), not_lowered_text<R>.data()};
 
-// Lowers the count of each of the n objects that an embedded address refers to. False: the references could not be
-// read, or there is no room for them. An error of the count itself does not spare the question.
-[[gnu::noinline]] bool sweep_references(mirk_handle *h, std::uint32_t ctx_id, ip_address *field, std::uint32_t n,
-                                        const ReferenceTexts &texts, std::uint32_t *err) {
-    // The number comes from outside the library, so the stack holds only as many as an address commonly has.
+// Decrements the reference count of each of the n objects that an embedded address refers to. Reads the references even
+// if counting them failed. False: they could not be read, or there is no memory for them.
+[[gnu::noinline]] bool release_oids(mirk_handle *h, std::uint32_t ctx_id, ip_address *field, std::uint32_t n,
+                                    const ReferenceTexts &texts, std::uint32_t *err) {
+    // The count comes from outside the library, so the stack buffer is limited to what addresses commonly have.
     constexpr std::uint32_t on_stack = 64;
     void *few[on_stack] = {};
     void **many = nullptr;
@@ -143,7 +143,7 @@ mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
     return create_internal(h, ctx_id);
 }
 
-// The trace module comes first here too, before the handle is in create mode.
+// The trace module is initialized before the handle is in create mode.
 template <const Record &R>
 mirk_object *Lifecycle<R>::create_cr(mirk_handle *h) {
     mirk_lumo_ui_tarn_type_trace_init();
@@ -160,17 +160,17 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
             return;
         }
     }
-    void *announced_area = nullptr;
+    void *members_area = nullptr;
     const bool set_up = initialize_instance(h, ctx_id, object, type, notify, skip_count, flags,
-                                            schema::layout<R>.base_size, sttr_base, announced_area, err);
+                                            schema::layout<R>.base_size, sttr_base, members_area, err);
     if constexpr (any_member<R>(schema::is_embedded)) {
         if (!set_up) return;
-        if (announced_area != nullptr) References<R>::offset_update(h, ctx_id, object, announced_area, err);
+        if (members_area != nullptr) References<R>::offset_update(h, ctx_id, object, members_area, err);
         initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
     }
 }
 
-// Members get the base as it came, and not the start of their own area: that they ask the runtime for.
+// Members get the same base, not the start of their own area, which they look up in the runtime.
 template <const Record &R>
 void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
                                       std::uint32_t skip_count, void *sttr_base, std::uint32_t *err) {
@@ -209,12 +209,12 @@ void Lifecycle<R>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_o
     if (object == nullptr || object == sentinel()) return;
     if (!release_mapping(h, ctx_id, object, destroy_texts<R>)) return;
     std::uint32_t error = 0;
-    // False: the references of an address could not be read. The rest of the object stays as it is.
+    // False: the references of an address could not be read. The rest of the object is not destroyed.
     const bool all_destroyed = walk_while<R>(cases{
         [&]<AreaMember F>(F) {
             const std::uint32_t n = Primitive<F>::get_oid_count(h, ctx_id, F::at(object), &error);
             if constexpr (F::kind == Kind::address) {
-                if (n != 0 && !sweep_references(h, ctx_id, F::at(object), n, reference_texts<R>, &error)) return false;
+                if (n != 0 && !release_oids(h, ctx_id, F::at(object), n, reference_texts<R>, &error)) return false;
             }
             Primitive<F>::destroy_internal(h, ctx_id, F::at(object), 0);
             return true;

@@ -1,4 +1,9 @@
 // The life of an instance: sizes, create, initialize, destroy.
+//
+// The layer families/ may know kinds/, core/, the schema and the contract; not messages, nor which runtime it runs on.
+// A family is one template over a record's table, in a source of its own that ends with its exports; its header
+// declares what other families and messaging/ call. shortcuts/ is the exception: only the archive uses it, where the
+// runtime's code can be inlined, and it must have the same results as the general code.
 #pragma once
 
 #include "core/type_table.h"
@@ -23,7 +28,7 @@ struct Lifecycle {
     static void adjust_variant(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
         tarn::adjust_variant(h, ctx_id, object, err);
     }
-    // All zero and never initialised; stands for null at the end of a failed sticky chain.
+    // All zero and never initialized; a failed sticky chain returns it instead of null.
     static mirk_object *sentinel();
 
 private:

@@ -5,8 +5,8 @@
 
 namespace tarn {
 
-// Finds a change mark under the record and clears it together with the record's own. The walk ends at the first member
-// that reports, so that the marks behind it are found by later calls. Elements and characters are not visited.
+// Finds a modified mark in the record's members and clears it together with the record's own. The walk stops at the
+// first member that reports one, so later marks are found by later calls. Arrays and strings are not visited.
 template <const Record &R>
 std::uint32_t Propagate<R>::backpropagate(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance, void *word) {
     if (instance == nullptr) {

@@ -1,4 +1,4 @@
-// What an instance contributes to the runtime's mappings: references that it holds, state offsets of what it embeds.
+// An instance's entries in the runtime's mappings: its references, and the state offsets of its embedded members.
 #pragma once
 
 #include "core/own_references.h"
@@ -15,7 +15,7 @@ struct References {
                                       std::uint32_t *err) {
         get_own_object_references(h, object, err);
     }
-    // Tells the runtime where each embedded object's state lies inside the area at the given address.
+    // Records the state offset of each embedded object, for a state area at this address.
     static void offset_update(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, void *state_area,
                               std::uint32_t *err);
     static void offset_remove(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);

@@ -17,7 +17,7 @@ void String<S>::get(mirk_handle *h, std::uint32_t, mirk_object *object, char *de
     if (!require_body(h, object, 0, err)) return;
     std::uint32_t n = S::count(object);
     if (n + 1 > size) {
-        // What fits is copied all the same; the error says that something is missing.
+        // The part that fits is copied; the error reports the truncation.
         fail(h, err, ENOSPC);
         n = size - 1;
     }
@@ -47,10 +47,10 @@ void String<S>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, c
     if (n != 0 && text != nullptr) {
         std::strncpy(*body, text, n);
     } else if (n != 0) {
-        std::memset(*body, 0, n);  // no text: nothing of the block's former content may show
+        std::memset(*body, 0, n);  // without a text, the block must not show its former content
     }
     store(h, ctx_id, S::Counter::at(object), n);
-    if (mark_written(h, ctx_id, object, member_place<S>, err)) mark_modified(object, 0);
+    if (mark_written(h, ctx_id, object, member_location<S>, err)) mark_modified(object, 0);
 }
 
 }  // namespace tarn

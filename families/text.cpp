@@ -9,7 +9,7 @@ namespace tarn {
 
 namespace {
 
-// What an element is called: "classes[12]". Written for each element, and so without a format.
+// An element's name: "classes[12]". Runs for each element, so it avoids a format string.
 struct ElementName {
     ElementName(std::string_view array, std::uint32_t index) {
         std::memcpy(text, array.data(), array.size());
@@ -35,7 +35,7 @@ std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
 
     offset += mirk_print_space(h, ctx_id, buffer, indent, remaining, err);
     offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "%s@%s: {\n", name, R.name.data());
-    if (variant < 0) return offset;  // the open brace is the sign of a record without a body
+    if (variant < 0) return offset;  // a record without a body prints only the open brace
 
     const std::uint32_t inside = indent + 2;
     walk<R>(cases{
@@ -56,8 +56,8 @@ std::uint32_t Text<R>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
             offset += Primitive<F>::print(h, ctx_id, buffer + offset, inside, F::name(), F::at(instance), left(), err);
         },
     });
-    // These blanks go to the start of the record's own first line, where they change nothing. So the bytes in front of
-    // a nested brace are counted and keep what the buffer held: a caller that hands the buffer on clears it first.
+    // The blanks are written over those of the record's first line, although they are counted here. So the bytes before
+    // a nested closing brace are not written; the first of them is the NUL that ended the line before.
     offset += mirk_print_space(h, ctx_id, buffer, indent, left(), err);
     offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "}\n");
     return offset;

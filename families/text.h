@@ -1,4 +1,4 @@
-// The text form, for people: "name@type: {", one line for each member two blanks further in, "}".
+// The text form, for people: "name@type: {", one line per member indented by two blanks, "}".
 #pragma once
 
 #include "core/walk.h"

@@ -1,5 +1,5 @@
-// Operations on an instance's value as a whole. The first two take no handle, so that they serve as callbacks of a
-// container; neither they nor the third look at header or state bytes.
+// Operations on the value of a whole instance. Compare and hash take no handle, so that containers can call them, and
+// read neither header nor state bytes.
 #pragma once
 
 #include "core/walk.h"

@@ -20,7 +20,7 @@ namespace {
     in.offset += _mirk_variant_jump_unmarshal(in.h, in.ctx_id, in.at(), &head.jump, in.left(), in.err);
 }
 
-// False: out of memory.
+// False: an allocation failed.
 template <const Record &R>
 [[gnu::always_inline]] inline bool read_members(Reader &in, mirk_object *instance) {
     return walk_while<R>(cases{
@@ -97,7 +97,7 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
     return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
 }
 
-// In one piece with its owner where that costs no call of the runtime and little code.
+// Inlined into the owner where no call of the runtime is involved and little code is added.
 template <const Record &R>
 TARN_INLINE_INSIDE inline std::uint32_t WireRead<R>::unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id,
                                                                       void *buffer, mirk_object *instance,

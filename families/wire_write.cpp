@@ -64,7 +64,7 @@ template <const Record &R>
     const std::int8_t domain_variant =
         mirk_domain_lookup_variant(h, &h->domain, instance != nullptr ? instance->tinfo : nullptr, err);
     if (follow_domain && variant > domain_variant) {
-        // The downgrade: the frame goes out in the variant that the peer's domain understands.
+        // The downgrade: the frame is written in the variant that the peer's domain understands.
         mirk_store_epoch_err(h, EIDRM, err);
         variant = domain_variant;
     }
@@ -79,7 +79,7 @@ template <const Record &R>
 
 }  // namespace
 
-// One function for both forms: as a template it would be there twice for each record.
+// One function for both forms: as a template, it would exist twice per record.
 template <const Record &R>
 [[gnu::noinline]] std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                     mirk_object *instance, std::int32_t remaining, std::uint32_t *err,
@@ -93,7 +93,7 @@ std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *
     return write(h, ctx_id, buffer, instance, remaining, err, true);
 }
 
-// In one piece with its owner where that costs no call of the runtime and little code.
+// Inlined into the owner where no call of the runtime is involved and little code is added.
 template <const Record &R>
 TARN_INLINE_INSIDE inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                                      mirk_object *instance, std::int32_t remaining,
@@ -111,8 +111,8 @@ std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_
     return write(h, ctx_id, buffer, instance, remaining, err, false);
 }
 
-// Sizes a buffer, and so says more than is written in two places: an empty array or string is counted one state byte,
-// and a string's state one byte for each character. RA data is not counted.
+// An upper bound, for sizing a buffer: an empty array or string is counted with one state byte, and a string with one
+// state byte per character. RA data is not counted.
 template <const Record &R>
 std::uint32_t WireWrite<R>::len(mirk_handle *h, std::uint32_t ctx_id, mirk_object *instance) {
     std::uint32_t sum = record_head;

@@ -1,4 +1,4 @@
-// The XML form: one element for each member, named as the member; an array is its elements one after the other.
+// The XML form: one element per member, named after the member; an array is one such element per item.
 #pragma once
 
 #include "core/walk.h"

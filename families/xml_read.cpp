@@ -8,7 +8,7 @@
 
 namespace tarn {
 
-// Longer paths are cut, and a cut path finds nothing in practice.
+// Longer paths are truncated, and in practice a truncated path finds nothing.
 using Path = char[256];
 
 struct XmlReader {
@@ -21,8 +21,8 @@ struct XmlReader {
     char *message;
     std::uint32_t message_size;
 
-    // What is missing in the document stays as it is. False: any other error, which ends the reading.
-    bool forgive_absence() const {
+    // A member that the document lacks keeps its value. False: any other error, which stops the reading.
+    bool ignore_absence() const {
         if (*err == ENOENT) *err = 0;
         return *err == 0;
     }
@@ -32,7 +32,7 @@ struct XmlReader {
         Path own;
         std::snprintf(own, sizeof own, "%s/%s", path, F::name());
         Primitive<F>::from_xml(h, ctx_id, own, document, F::at(instance), err, message, message_size);
-        return forgive_absence();
+        return ignore_absence();
     }
 
     template <class S>
@@ -41,8 +41,8 @@ struct XmlReader {
     bool array();
 };
 
-// An empty value leaves the string alone. So does an absent one, but its error stays in the slot, to be met and
-// forgiven by the next member, which therefore is not read.
+// An empty value does not change the string. Neither does an absent one, but its error stays in the slot until the next
+// member clears it, and that member is therefore not read.
 template <class S>
 bool XmlReader::string() {
     Path own;
@@ -62,13 +62,13 @@ bool XmlReader::string() {
     }
     var_string_from_xml(h, ctx_id, own, document, text, static_cast<std::uint32_t>(size), err, message, message_size);
     if (*err == 0) String<S>::set(h, ctx_id, instance, text, length & 0xffff, err);
-    const bool go_on = forgive_absence();
+    const bool go_on = ignore_absence();
     release(h, ctx_id, text);
     return go_on;
 }
 
-// Elements are read one by one into a temporary and moved into the array, until a position is missing. The count in the
-// document plays no part. An array that could not begin or go on for want of memory does not end the record by itself.
+// Elements are read one by one into a temporary and moved into the array, until a position is missing; the count in the
+// document is ignored. If a temporary cannot be allocated, the walk continues with the error set.
 template <class A>
 bool XmlReader::array() {
     for (std::uint32_t i = 0;; ++i) {
@@ -82,7 +82,7 @@ bool XmlReader::array() {
         XmlRead<A::element>::from_xml(h, ctx_id, own, document, element, err, message, message_size);
         if (*err != 0) {
             Lifecycle<A::element>::destroy(h, ctx_id, element);
-            return forgive_absence();
+            return ignore_absence();
         }
         Array<A>::move_in(h, ctx_id, instance, i, element, err);
         Lifecycle<A::element>::destroy(h, ctx_id, element);
@@ -100,7 +100,7 @@ void XmlRead<R>::from_xml(mirk_handle *h, std::uint32_t ctx_id, const char *path
     }
     XmlReader in{h, ctx_id, path, document, instance, err, message, message_size};
     walk_while<R>(cases{
-        [](CounterMember auto) { return true; },  // a count or a length follows from what it counts
+        [](CounterMember auto) { return true; },  // counts and lengths are set together with what they count
         [&]<ArrayMember A>(A) { return in.array<A>(); },
         [&]<StringMember S>(S) { return in.string<S>(); },
         [&]<SingleMember F>(F) { return in.single<F>(); },
