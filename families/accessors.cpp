@@ -1,8 +1,12 @@
 #include "families/accessors.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <span>
 
+#include "core/guard.h"
+#include "core/type_table.h"
 #include "families/assignment.h"
 #include "kinds/kinds.h"
 

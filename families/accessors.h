@@ -1,7 +1,6 @@
 // Access to single members: by pointer, value and state byte.
 #pragma once
 
-#include "core/guard.h"
 #include "core/walk.h"
 
 namespace tarn {

@@ -1,10 +1,12 @@
 #include "families/arrays.h"
 
 #include <atomic>
+#include <cstring>
 #include <span>
 
 #include "core/call.h"
 #include "core/named_text.h"
+#include "core/type_table.h"
 #include "families/assignment.h"
 #include "families/copy.h"
 #include "families/lifecycle.h"

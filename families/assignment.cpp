@@ -1,5 +1,8 @@
 #include "families/assignment.h"
 
+#include <cstring>
+
+#include "core/guard.h"
 #include "families/accessors.h"
 #include "families/references.h"
 #include "kinds/kinds.h"

@@ -1,7 +1,6 @@
 // Assignment of whole records. Blocks move: afterwards the destination owns the blocks of the source.
 #pragma once
 
-#include "core/guard.h"
 #include "core/walk.h"
 
 namespace tarn {

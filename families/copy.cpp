@@ -1,8 +1,10 @@
 #include "families/copy.h"
 
+#include "core/guard.h"
 #include "families/lifecycle.h"
 #include "families/references.h"
 #include "families/wire.h"
+#include "schema/catalogue.h"
 
 extern "C" void mirk_lumo_ui_tarn_type_trace_init(void);
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "core/type_table.h"
 #include "families/lifecycle.h"
 #include "families/references.h"
 #include "families/wire.h"

@@ -6,7 +6,7 @@
 // runtime's code can be inlined, and it must have the same results as the general code.
 #pragma once
 
-#include "core/type_table.h"
+#include "core/guard.h"
 #include "core/walk.h"
 
 namespace tarn {

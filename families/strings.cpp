@@ -2,7 +2,9 @@
 
 #include <cstring>
 
+#include "core/guard.h"
 #include "kinds/integer.h"
+#include "schema/catalogue.h"
 
 namespace tarn {
 

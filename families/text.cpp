@@ -2,7 +2,9 @@
 
 #include <charconv>
 #include <cstring>
+#include <string_view>
 
+#include "core/guard.h"
 #include "kinds/kinds.h"
 
 namespace tarn {

@@ -1,5 +1,6 @@
 #include <cstdio>
 
+#include "core/guard.h"
 #include "families/arrays.h"
 #include "families/lifecycle.h"
 #include "families/strings.h"

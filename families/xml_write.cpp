@@ -1,3 +1,4 @@
+#include "core/guard.h"
 #include "families/accessors.h"
 #include "families/arrays.h"
 #include "families/xml.h"
