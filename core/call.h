@@ -1,6 +1,5 @@
-// What an operation is called with besides its object. Passed on as one where an operation is told in several
-// functions; exported functions, and those that run for each member, take the three apart, which keeps them in
-// registers.
+// The arguments of an operation besides its object, for operations that consist of several functions. Exported
+// functions and those that run for each member take the three separately, which keeps them in registers.
 #pragma once
 
 #include "core/guard.h"

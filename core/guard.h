@@ -1,9 +1,9 @@
-// How operations begin and how they fail.
+// How operations start and how they fail.
 //
-// An operation that finds its error slot set does nothing. Otherwise it clears the handle's last error; a writer brings
-// the object to the domain's variant; and a negative variant, which has no body, refuses the operation with EIDRM.
-// Failures are system error numbers, written to the slot and to the handle. Corrupt memory is no failure but the end of
-// the process.
+// An operation is a no-op if its error slot is set. Otherwise it clears the handle's last error; a writer first adjusts
+// the object to the domain's variant; and an object with a negative variant, which has no body, fails with EIDRM.
+// Errors are system error numbers, written to the slot and to the handle. Corrupt memory is not an error: it aborts the
+// process.
 #pragma once
 
 #include <cerrno>
@@ -22,11 +22,11 @@ namespace tarn {
 
 inline constexpr std::uint32_t fatal_level = 0, error_level = 3, info_level = 6, debug_level = 7;
 
-// The runtime gives a module its number when the first object of the process is made, which may be on another thread
-// than the one that has something to tell.
+// Atomic, because the runtime assigns the number when the first object of the process is created, and other threads may
+// trace at that time.
 inline std::uint16_t number_of(const std::uint16_t &module) { return __atomic_load_n(&module, __ATOMIC_RELAXED); }
 
-// Record and enumeration code traces here; messages have a module of their own.
+// For records and enumerations; messages have their own trace module.
 template <class... Arguments>
 void trace(std::uint32_t level, const char *format, Arguments... arguments) {
     skald_wrapper(number_of(g_mirk_lumo_ui_tarn_type_trace_module_id), level, 0, format, arguments...);
@@ -50,7 +50,7 @@ inline void fail(mirk_handle *h, std::uint32_t *err, std::uint32_t number) {
     mirk_store_err(h, number);
 }
 
-// False: the slot was set and the operation must not begin.
+// False: the slot is set, and the operation must do nothing.
 inline bool enter(mirk_handle *h, const std::uint32_t *err) {
     if (*err != 0) return false;
     mirk_clear_last_error(h);
@@ -61,26 +61,25 @@ inline void adjust_variant(mirk_handle *h, std::uint32_t ctx_id, mirk_object *ob
     mirklib_adjust_variant(h, ctx_id, object, object != nullptr ? object->tinfo : nullptr, 0, err);
 }
 
-// False: the object has no body. The pair of words names the kind of member that asks.
+// False: the object has no body. value_kind is 1 for accessors of booleans and enumerations.
 inline bool require_body(mirk_handle *h, mirk_object *object, std::uint32_t value_kind, std::uint32_t *err) {
     if (mirk_get_instance_variant(object, 1, value_kind) >= 0) return true;
     mirk_store_epoch_err(h, EIDRM, err);
     return false;
 }
 
-// A sequence of initialisations clears the last error each time, and in a sticky call that is the caller's own slot.
-// The sequence has to run to its end all the same, since an object without a header would abort a later destroy. So an
-// error that was there is put aside, each step works on a word of its own, and the first error is back in the slot at
-// the end.
+// Error slots for a sequence of initializations. Each step clears the handle's last error, which in a sticky call is
+// the caller's slot. But all steps have to run, since an object without a header would abort a later destroy. So each
+// step gets a slot of its own, and the destructor restores an earlier error, or else the first one of the steps.
 class StepErrors {
 public:
-    StepErrors(mirk_handle *h, std::uint32_t *slot) : h_(h), slot_(slot), before_(*slot) {}
+    StepErrors(mirk_handle *h, std::uint32_t *slot) : h_(h), slot_(slot), earlier_(*slot) {}
     StepErrors(const StepErrors &) = delete;
     StepErrors &operator=(const StepErrors &) = delete;
     ~StepErrors() {
         take();
-        if (before_ != 0) {
-            fail(h_, slot_, before_);
+        if (earlier_ != 0) {
+            fail(h_, slot_, earlier_);
         } else if (first_ != 0) {
             *slot_ = first_;
         }
@@ -98,12 +97,12 @@ private:
 
     mirk_handle *h_;
     std::uint32_t *slot_;
-    std::uint32_t before_, first_ = 0, own_ = 0;
+    std::uint32_t earlier_, first_ = 0, own_ = 0;
 };
 
 enum class Tracking { no_descriptor, off, on };
 
-// Read afresh on every use: two loads and two comparisons.
+// Never cached, since the client may change the mode at any time; costs two loads and two comparisons.
 inline Tracking tracking_mode(const mirk_handle *h,
                               const std::uint16_t &module = g_mirk_lumo_ui_tarn_type_trace_module_id) {
     if (h->sttr_desc == nullptr) return Tracking::no_descriptor;
@@ -118,12 +117,12 @@ inline bool is_state_tracked(const mirk_object *object) {
     return object != nullptr && (object->obj_flag & flag::state_tracked) != 0;
 }
 
-// Whether anybody hears what is announced and counted. Only a runtime that is compiled as one with the library can say
-// so; any other is told.
+// True if the handle has an observer of writes and counts. Only a runtime that is compiled together with the library
+// answers this; any other is always notified.
 #ifdef TARN_RUNTIME_INSIDE
 extern "C" bool mirk_inside_is_observed(const mirk_handle *h);
 inline constexpr bool runtime_inside = true;
-// Inlined in the archive alone: elsewhere it is not worth the size.
+// Inlined only in the archive: in the shared library it is not worth the size.
 #define TARN_INLINE_INSIDE [[gnu::always_inline]]
 inline bool is_observed(const mirk_handle *h) { return mirk_inside_is_observed(h); }
 #else

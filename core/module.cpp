@@ -6,8 +6,7 @@ namespace {
 
 constinit mirk_module this_module{schema::module_name.data(), lumo_ui_tarn_type_table, nullptr, nullptr};
 
-// Stays set after the module was taken out of the list: the flag is taken for proof of a living link, so that a second
-// run of the constructor never links again.
+// Stays set after the module has been unlinked, so that a second run of the constructor never links it again.
 constinit bool linked = false;
 
 [[gnu::constructor]] void link_module() {

@@ -1,6 +1,11 @@
-// An instance in memory: its header, the flags in it, and where its state area lies.
+// An instance in memory: its header, the flags in the header, and element states.
+//
+// The layer core/ holds what all families need: objects and their headers, the guard of each operation, type records,
+// the module, and the walk over members. It may know the schema and the contract in include/mirk/, but no family, no
+// kind's primitives and no messages other than the shape of their objects.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -21,7 +26,7 @@ inline constexpr std::uint8_t on_the_wire = state_tracked | ra_data;
 }  // namespace flag
 
 inline constexpr std::uint32_t type_magic = 0xbeeff00d;
-inline constexpr std::uint8_t written_state = 2;   // what the library's own setters leave in a state byte
+inline constexpr std::uint8_t written_state = 2;   // the state byte that the library's setters write
 inline constexpr std::int8_t highest_variant = 0;  // of every type of this schema
 
 constexpr std::int8_t cap_variant(std::int8_t variant) { return variant > highest_variant ? highest_variant : variant; }
@@ -49,16 +54,17 @@ static_assert(sizeof(message_object) == 40 && offsetof(message_object, header) =
 
 inline mirk_object *header_of(enumeration_object *object) { return reinterpret_cast<mirk_object *>(object); }
 
-// Areas are reckoned as integers: on a handle without tracking the place behind a block is formed but never touched.
+// State areas are computed as integers: on a handle without tracking they are past the end of a block, and never read.
 inline std::uintptr_t address_of(const void *p) { return reinterpret_cast<std::uintptr_t>(p); }
 inline std::uint32_t distance(const void *from, std::uintptr_t to) {
     return static_cast<std::uint32_t>(to - address_of(from));
 }
 
-// One state byte for each element of an array, in a block of its own whose address stands in the owner's state area.
+// The vector of element states: one state byte for each element of an array, in a block whose address is in the owner's
+// state area.
 //
-// Filling a whole state area also fills that address. Eight equal nonzero bytes are no address of a block: they mean
-// that there is no block and that the state of each element is this byte. Reads answer with it and writes are dropped.
+// Filling a whole state area also overwrites that address. Eight equal nonzero bytes cannot be an address: they mean
+// that there is no block and that each element's state is this byte. Reads return it, and writes have no effect.
 class ElementStates {
 public:
     ElementStates() = default;  // an owner without state
@@ -78,7 +84,7 @@ public:
         const std::uint8_t *states = block();
         return states != nullptr ? states[index] : fill();
     }
-    // What each element's state is when there is no block.
+    // The state of each element if there is no block.
     std::uint8_t fill() const {
         std::uintptr_t value = 0;
         if (word_ != nullptr) std::memcpy(&value, word_, sizeof value);

@@ -1,15 +1,18 @@
-// What records and enumerations do alike with the header that they share: creation, counting, ending.
+// What records and enumerations do with the header that they have in common: create, count, destroy.
 #pragma once
+
+#include <cstring>
 
 #include "core/named_text.h"
 #include "core/type_table.h"
 
 namespace tarn {
 
-// A sticky create after an error makes nothing and hands out the sentinel.
+// A sticky create after an error allocates nothing and returns the sentinel.
 inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->last_error != 0; }
 
-// Zeroed storage for a new object. Without memory: null or, in a sticky create, the sentinel and ENOMEM in the handle.
+// Zeroed storage for a new object. If allocation fails: null or, in a sticky create, the sentinel with ENOMEM in the
+// handle.
 [[gnu::noinline]] inline void *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, void *sentinel) {
     void *storage = allocate(h, ctx_id, size);
     if (storage != nullptr) return std::memset(storage, 0, size);
@@ -18,20 +21,20 @@ inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->l
     return sentinel;
 }
 
-// Writes the header of an object that is set up; a type has no variant above 0.
+// Writes the header of a new object. Returns its variant.
 inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
                               bool observed, std::uint8_t flags, std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
-    const auto tell = [&](auto *member) {
+    const auto notify = [&](auto *member) {
         if (observed) h->write_notify(h->mem_ctx, member, sizeof *member, ctx_id);
     };
-    tell(&object->home_variant);
+    notify(&object->home_variant);
     object->home_variant = variant;
-    tell(&object->variant);
+    notify(&object->variant);
     object->variant = variant;
-    tell(&object->tinfo);
+    notify(&object->tinfo);
     object->tinfo = bind_type(h, ctx_id, type);
-    tell(&object->obj_flag);
+    notify(&object->obj_flag);
     object->obj_flag |= flags;
     return variant;
 }
@@ -51,7 +54,7 @@ inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_objec
     count(h, ctx_id, object->tinfo, &entry.num_live, 1, observed);
 }
 
-// What a type's objects have to say at their end.
+// Trace lines of a type's destroy.
 struct DestroyTexts {
     const char *mapping_failed, *still_referred_to, *mapping_gone;
 };
@@ -87,12 +90,12 @@ inline constexpr DestroyTexts destroy_texts{mapping_failed_text<Type>.data(), st
     return false;
 }
 
-// An object with an identifier goes only when nothing refers to it any more. False: it stays.
+// An object with an identifier is destroyed only once nothing refers to it. False: it must not be destroyed yet.
 inline bool release_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, const DestroyTexts &texts) {
     return (object->obj_flag & flag::oid_mapped) == 0 || release_present_mapping(h, ctx_id, object, texts);
 }
 
-// The end of an object whose members are gone: counters, runtime entries, memory.
+// Destroys an object whose members have been destroyed: counters, runtime entries, memory.
 [[gnu::noinline, gnu::flatten]] inline void finish_destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                                            std::uint32_t free_it, const DestroyTexts &texts) {
     constexpr std::uint8_t has_area_elsewhere = flag::state_tracked | flag::sttr_offset;

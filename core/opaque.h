@@ -1,9 +1,8 @@
-// Between the opaque types of the public headers and what the algorithms work on. A client's pointer is the address of
-// the object's header, whatever its type is called outside.
+// Conversions between the opaque types of the public headers and the internal types. A client's pointer always is the
+// address of the object's header.
 #pragma once
 
 #include "core/object.h"
-#include "schema/catalogue.h"
 
 namespace tarn {
 
@@ -22,8 +21,7 @@ template <class Opaque>
 const object_type<Opaque> *object_of(const Opaque *p) {
     return static_cast<const object_type<Opaque> *>(static_cast<const void *>(p));
 }
-// The library is compiled without type-based alias analysis, so that a client's pointer variable can be written
-// through.
+// For writing to a client's pointer variable. Valid because the library is compiled without type-based alias analysis.
 template <class Opaque>
 object_type<Opaque> **objects_of(Opaque **p) {
     return reinterpret_cast<object_type<Opaque> **>(p);

@@ -1,5 +1,5 @@
-// References that an object itself holds to others. No type of this schema has any, so these serve every record and
-// every enumeration: they check their arguments and find nothing.
+// References that an object itself holds to others. No type of this schema has any, so these functions check their
+// arguments and find nothing, for all records and enumerations.
 #pragma once
 
 #include "core/guard.h"

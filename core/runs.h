@@ -1,11 +1,11 @@
-// Runs: integers that lie side by side in memory, to be treated in one piece.
+// Runs: integer members that are adjacent in memory, so that they can be processed in one step.
 #pragma once
 
 #include "core/walk.h"
 
 namespace tarn {
 
-// Integers at any depth.
+// True if all members are integers, at any depth.
 constexpr bool all_integers(const Record &record) {
     for (const Member &m : record.members) {
         const bool nested = m.kind == Kind::record && all_integers(*m.record);
@@ -14,21 +14,21 @@ constexpr bool all_integers(const Record &record) {
     return true;
 }
 
-// Integers that lie side by side in memory, without a gap between them, are a run.
+// True if the member follows the previous member of its run without a gap.
 template <const Record &R>
 constexpr bool continues_run(std::size_t i) {
     const auto &places = schema::layout<R>.places;
     return i != 0 && schema::is_integer(R.members[i].kind) && schema::is_integer(R.members[i - 1].kind) &&
            places[i].offset == places[i - 1].offset + places[i - 1].size;
 }
-// The number of its members, told at the first.
+// Number of members of the run that starts at first.
 template <const Record &R>
 constexpr std::size_t length_of_run(std::size_t first) {
     std::size_t end = first + 1;
     while (end < R.members.size() && continues_run<R>(end)) ++end;
     return end - first;
 }
-// Its bytes, of the run that begins with F.
+// Bytes of the run that starts with F.
 template <class F>
 constexpr std::uint32_t size_of_run() {
     constexpr schema::Place last = schema::layout<F::owner>.places[F::index + length_of_run<F::owner>(F::index) - 1];

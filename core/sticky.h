@@ -1,12 +1,12 @@
-// How sticky forms answer: each calls the explicit form under the handle's default_id, with the handle's last error as
-// the slot, which stays set until an explicit form clears it.
+// Results of sticky forms. Each calls the explicit form with the handle's default_id and with the handle's last error
+// as the slot, which stays set until an explicit form clears it.
 #pragma once
 
 #include "mirk/mirk.h"
 
 namespace tarn {
 
-// In create mode a sentinel takes the place of null.
+// In create mode, a sentinel is returned instead of null.
 template <class Call>
 auto sticky_create(mirk_handle *h, Call &&call) {
     h->cr_mode = 1;
@@ -26,7 +26,7 @@ std::uint32_t sticky_size(const mirk_handle *h, Call &&call) {
     return h->last_error != 0 ? 0xFFFFFFFFU : written;
 }
 
-// For operations that do not look at the slot on entry.
+// For operations that do not check the slot on entry.
 template <class Call>
 std::uint32_t sticky_checked_size(const mirk_handle *h, Call &&call) {
     return h->last_error != 0 ? 0xFFFFFFFFU : sticky_size(h, call);

@@ -1,8 +1,10 @@
-// The static description of each type, and the usage counters that it leads to.
+// The static description of each type, and its usage counters.
 #pragma once
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <string_view>
 
 #include "core/guard.h"
 #include "schema/catalogue.h"
@@ -21,12 +23,12 @@ constexpr std::string_view kind_text(const schema::Record &) { return "type"; }
 constexpr std::string_view kind_text(const schema::Enumeration &) { return "enum"; }
 constexpr std::string_view kind_text(const schema::Message &) { return "message"; }
 
-// A negative variant indexes the entries as it is, so there is one for each: -128 to 0.
+// A variant indexes the entries directly, so there is one for each: -128 to 0.
 inline constexpr int variant_entries = 129;
 
-// Counters, and the lengths of an object of the type. They are initialized at compile time although that takes a
-// quarter of a megabyte in the file: a constructor that runs before this library's own may make and read objects, and
-// the runtime copies each record by the lengths that stand here.
+// Counters, and the lengths of an object of the type. Initialized at compile time, although that takes a quarter of a
+// megabyte in the file: a constructor that runs before this library's own may create and read objects, and the runtime
+// copies each record by these lengths.
 template <const auto &Type>
 inline constinit std::array<mirk_variant_entry, variant_entries> entries_of = [] {
     constexpr std::uint32_t used = used_length(Type), slop = alloc_slop(Type);
@@ -41,7 +43,7 @@ inline constinit std::array<mirk_variant_entry, variant_entries> entries_of = []
 template <const auto &Type>
 inline constinit mirk_variant_info variant_info_of{1, &entries_of<Type>[variant_entries - 1]};
 
-// The record as it stands in the library's data; exported under the type's name by the type table.
+// The initial value of the type record; the type table exports it under the type's name.
 template <const auto &Type>
 consteval mirk_type_info type_record() {
     mirk_type_info info{};
@@ -77,7 +79,7 @@ inline void check_type(const mirk_type_info *type,
     if (type == nullptr || type->magic != type_magic) die(module, "(FATAL): tinfo is null or corrupted");
 }
 
-// Counters of the module's own records are shared by all handles; those of a private copy belong to one.
+// Counters of the module's own records are shared by all handles and therefore atomic; a private copy belongs to one.
 inline void count(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type, std::uint64_t *counter,
                   std::int64_t delta, bool observed) {
     if (observed) h->count_notify(h->mem_ctx, counter, delta, ctx_id);

@@ -1,6 +1,6 @@
-// The one walk over the members of a record, and the only place that turns a member and an instance into an address.
+// The walk over the members of a record, and the only code that computes the address of a member in an instance.
 //
-// A family is a template over a record's table. The walk hands it each member as a type, so that the compiler sees
+// A family is a template over a record's table. The walk passes it each member as a type, so that the compiler sees
 // offsets, kinds and slots as constants and unrolls the family to straight-line code.
 #pragma once
 
@@ -18,7 +18,7 @@ using schema::Member;
 using schema::Record;
 using schema::Role;
 
-// What a member of a kind is in memory. Kinds of single values say so in their files.
+// The type of a member in memory. Kinds of single values specialize it in their own files.
 template <Kind K>
 struct StorageOf;
 template <>
@@ -26,13 +26,14 @@ struct StorageOf<Kind::array> : std::type_identity<mirk_object *> {};
 template <>
 struct StorageOf<Kind::string> : std::type_identity<char *> {};
 
-// An object is handed around by its header; its other bytes are reached from here alone.
+// An object is passed as a pointer to its header; only these functions reach its other bytes.
 inline std::uint8_t *bytes_of(mirk_object *object) { return reinterpret_cast<std::uint8_t *>(object); }
 inline const std::uint8_t *bytes_of(const mirk_object *object) {
     return reinterpret_cast<const std::uint8_t *>(object);
 }
 
-// The state area, found anew each time: where the runtime says, or directly behind the instance.
+// The state area: at the offset that the runtime has recorded, or directly after the instance. Not cached, since the
+// offset changes when an array grows.
 inline std::uint8_t *state_area(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t base_size) {
     const bool elsewhere = (object->obj_flag & flag::sttr_offset) != 0;
     return bytes_of(object) + (elsewhere ? mirklib_get_sttr_offset(h, ctx_id, object) : base_size);
@@ -42,7 +43,7 @@ std::uint8_t *state_area(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
     return state_area(h, ctx_id, object, schema::layout<R>.base_size);
 }
 
-// Element number index of a block of n; its state area stands behind all elements.
+// An element of a block of n elements, and its state area, which follows all elements.
 template <const Record &R>
 mirk_object *element_at(mirk_object *block, std::uint32_t index) {
     return reinterpret_cast<mirk_object *>(bytes_of(block) + std::size_t{index} * schema::layout<R>.base_size);
@@ -65,7 +66,7 @@ struct Field {
     static constexpr schema::Place place = schema::layout<R>.places[I];
     using Storage = typename StorageOf<kind>::type;
 
-    // The enumeration or the record that the member is one of; null for other kinds.
+    // The member's enumeration or record; null for other kinds.
     static constexpr auto of = [] {
         if constexpr (kind == Kind::enumeration) {
             return member.enumeration;
@@ -76,7 +77,7 @@ struct Field {
         }
     }();
 
-    // The argument pair's second word, by which the runtime tells accessors of booleans and enumerations from the rest.
+    // An argument by which the runtime distinguishes accessors of booleans and enumerations from others.
     static constexpr std::uint32_t value_kind = kind == Kind::boolean || kind == Kind::enumeration ? 1 : 0;
 
     static const char *name() { return member.name.data(); }
@@ -96,7 +97,7 @@ struct Field {
     }
 };
 
-// What an array and a string have in common: a block, and in front of it the member that says how much is in it.
+// What arrays and strings have in common: a block, preceded by the member that counts its elements or characters.
 template <const Record &R, std::size_t I>
 struct Block : Field<R, I> {
     using Counter = Field<R, I - 1>;
@@ -107,7 +108,7 @@ struct Block : Field<R, I> {
         return object != nullptr ? *Field<R, I>::at(object) : nullptr;
     }
     static Count stored_count(const mirk_object *object) { return object != nullptr ? *Counter::at(object) : Count{0}; }
-    // A count beside a null block, as a failed read leaves it, counts nothing.
+    // 0 if the block is null, since a failed read can leave a count without a block.
     static Count count(const mirk_object *object) {
         return object != nullptr && *Field<R, I>::at(object) != nullptr ? *Counter::at(object) : Count{0};
     }
@@ -119,7 +120,7 @@ struct ArrayField : Block<R, I> {
     static constexpr std::size_t base = schema::layout<element>.base_size;
     static constexpr std::size_t width = schema::layout<element>.state_width;
 
-    // Of an object whose block is not null.
+    // The block must not be null.
     template <class Object>
     static Object *element_of(Object *object, std::uint32_t index) {
         return element_at<element>(static_cast<Object *>(*Field<R, I>::at(object)), index);
@@ -140,8 +141,8 @@ constexpr auto field() {
 template <const Record &R, std::size_t I>
 using FieldOf = decltype(field<R, I>());
 
-// The cases of a member. A family gives the walk one function for each case that it treats in its own way, and of those
-// that fit, the most specific one is called: cases{[&]<ArrayMember A>(A) {...}, [&]<SingleMember F>(F) {...}}.
+// The cases of a member. A family passes the walk one function for each case that it distinguishes; of those that
+// match, the most specific one is called: cases{[&]<ArrayMember A>(A) {...}, [&]<SingleMember F>(F) {...}}.
 template <class F>
 concept ArrayMember = F::kind == Kind::array;
 template <class F>
@@ -163,7 +164,7 @@ concept AreaMember = EmbeddedMember<F> && schema::has_area(F::member);
 template <class F>
 concept RecordMember = AreaMember<F> && F::kind == Kind::record;
 
-// A case that has to become part of the code around it: [&]<SingleMember F>(F) TARN_INLINE {...}.
+// For a case that must be inlined: [&]<SingleMember F>(F) TARN_INLINE {...}.
 #define TARN_INLINE __attribute__((always_inline))
 
 template <class... Case>
@@ -173,10 +174,10 @@ struct cases : Case... {
 template <class... Case>
 cases(Case...) -> cases<Case...>;
 
-// For members that a family passes over.
+// For members that a family skips.
 inline constexpr auto nothing = [](auto) {};
 
-// Calls visit with each of N members from the first on, in table order, until it returns false; true if none did.
+// Calls visit with each of N members from First on, in table order, until it returns false. Returns true if none did.
 template <const Record &R, std::size_t First, std::size_t N, class Visit>
 [[gnu::always_inline]] constexpr bool walk_some(Visit &&visit) {
     const auto members = [&]<std::size_t... I>(std::index_sequence<I...>) TARN_INLINE {
@@ -198,7 +199,7 @@ template <const Record &R, class Visit>
     });
 }
 
-// For each byte of the state area whether it is part of the address of an element-state vector, at any depth.
+// For each byte of the state area: true if it is part of the address of an element-state vector, at any depth.
 template <const Record &R>
 constexpr auto vector_bytes() {
     std::array<bool, schema::layout<R>.state_width> marks{};
@@ -213,11 +214,11 @@ constexpr auto vector_bytes() {
     return marks;
 }
 
-// True for a record that holds, itself and not further down, a member of which the question is true.
+// True if one of the record's own members has the property; nested members do not count.
 template <const Record &R>
-constexpr bool any_member(bool (*question)(const Member &)) {
+constexpr bool any_member(bool (*property)(const Member &)) {
     for (const Member &m : R.members) {
-        if (question(m)) return true;
+        if (property(m)) return true;
     }
     return false;
 }

@@ -1,8 +1,11 @@
 #include "kinds/enumeration.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdio>
+#include <cstring>
+#include <string_view>
 
 #include "core/object_header.h"
 #include "core/own_references.h"
@@ -17,7 +20,7 @@ constinit enumeration_object sentinel_of{};
 template <const Enumeration &E>
 constexpr std::uint32_t bound = static_cast<std::uint32_t>(E.enumerators.size());
 
-// An element without content, and its length.
+// An empty XML element, and its length.
 struct EmptyElement {
     std::array<char, 64> text{};
     std::uint32_t length = 0;
@@ -29,8 +32,8 @@ struct EmptyElement {
     }
 };
 
-// One element for each enumerator, and behind them the one that stands for any other value: it is no well-formed XML,
-// and readers of a recording have to expect it, since a sender chooses the value.
+// One element for each enumerator, followed by the one for any other value. That one is not well-formed XML, and a peer
+// can cause it, since the sender chooses the value: readers of a recording must expect it.
 template <const Enumeration &E>
 constexpr auto elements_of = []<std::size_t... I>(std::index_sequence<I...>) {
     return std::array{EmptyElement(E.enumerators[I], "")..., EmptyElement(E.name, " value out of range")};
@@ -60,7 +63,8 @@ auto Enum<E>::create(mirk_handle *h, std::uint32_t ctx_id) -> object * {
     return instance;
 }
 
-// Neither looks at the tracking mode nor drops an error of the look-up: an enclosing create thereby fails.
+// Unlike for records, an error of the domain look-up is kept, so that an enclosing create fails; the tracking mode is
+// ignored.
 template <const Enumeration &E>
 void Enum<E>::initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
                          std::uint32_t notify, std::uint32_t, std::uint8_t flags, void *, std::uint32_t *err) {
@@ -111,7 +115,7 @@ void Enum<E>::adjust_variant(mirk_handle *h, std::uint32_t ctx_id, object *insta
     tarn::adjust_variant(h, ctx_id, header_of(instance), err);
 }
 
-// The bytes of the value, least significant first on every host, so that a value has one hash on all sides of a system.
+// Hashes the bytes of the value, least significant first on every host, so that all peers compute the same hash.
 template <const Enumeration &E>
 std::uint32_t Enum<E>::hash(const object *instance, std::uint32_t seed) {
     if (instance == nullptr) return seed;
@@ -133,7 +137,7 @@ std::uint32_t Enum<E>::get_value(mirk_handle *h, std::uint32_t, object *instance
     return instance->value;
 }
 
-// A value beyond the enumerators may come from a newer variant only.
+// A value that is not an enumerator is only accepted in a newer variant.
 template <const Enumeration &E>
 bool Enum<E>::admits(object *instance, std::uint32_t value) {
     const std::int8_t variant = mirk_get_instance_variant(instance, 0, 1);
@@ -191,7 +195,7 @@ std::uint32_t Enum<E>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffe
     }
     variant = cap_variant(variant);
     std::uint32_t offset = _mirk_instance_variant_marshal(h, ctx_id, buffer, &variant, remaining, err);
-    // The value is there even with a negative variant: an enumeration has no body that could be left out.
+    // The value is written even with a negative variant, since an enumeration has no body to omit.
     std::uint32_t value = value_of(instance);
     offset += u_int32_marshal(h, ctx_id, static_cast<std::uint8_t *>(buffer) + offset, &value,
                               remaining - static_cast<std::int32_t>(offset), err);
@@ -217,7 +221,7 @@ std::uint32_t Enum<E>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buf
     instance->tinfo = bind_type(h, ctx_id, &TypeInfo<E>::own);
     offset += u_int32_unmarshal(h, ctx_id, static_cast<std::uint8_t *>(buffer) + offset, &instance->value,
                                 size - static_cast<std::int32_t>(offset), reuse, err);
-    // Any value is kept as it came, and announced after it was stored for the first time.
+    // Any value is accepted. The primitive has stored it without a notification, so it is stored again with one.
     store(h, ctx_id, &instance->value, instance->value);
     return offset;
 }
@@ -246,7 +250,7 @@ std::uint32_t Enum<E>::print(mirk_handle *h, std::uint32_t ctx_id, char *buffer,
     if (value < bound<E>) {
         offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "%s\n", E.enumerators[value].data());
     } else {
-        // No line end: what is printed next stands on the same line.
+        // There is no line end, so the next text follows on the same line.
         offset += mirk_snprintf(h, ctx_id, buffer + offset, left(), err, "Enum value out of range");
     }
     return offset;
@@ -264,7 +268,8 @@ std::uint32_t Enum<E>::to_xml(mirk_handle *h, std::uint32_t ctx_id, const char *
     return offset;
 }
 
-// The presence of an enumerator's element is the value; the lowest one present wins, and none leaves the value alone.
+// The value is that of the enumerator whose element is present, the lowest one if there are several. If there is none,
+// the value does not change.
 template <const Enumeration &E>
 void Enum<E>::from_xml(mirk_handle *h, std::uint32_t, const char *path, void *document, object *instance,
                        std::uint32_t *err, char *message, std::uint32_t message_size) {
@@ -290,9 +295,9 @@ void Enum<E>::from_xml(mirk_handle *h, std::uint32_t, const char *path, void *do
 template <const Enumeration &E>
 std::uint32_t Enum<E>::is_valid_cr(mirk_handle *h, std::uint32_t value) {
     const std::int8_t variant = mirk_domain_lookup_variant(h, &h->domain, &TypeInfo<E>::own, &h->last_error);
-    // Signed here and unsigned in the setters: a negative number passes this and is refused there.
-    const bool beyond = static_cast<std::int32_t>(value) >= static_cast<std::int32_t>(bound<E>);
-    return beyond && variant <= highest_variant ? 0 : 1;
+    // Signed here and unsigned in the setters: values with the top bit set are valid here and refused there.
+    const bool above = static_cast<std::int32_t>(value) >= static_cast<std::int32_t>(bound<E>);
+    return above && variant <= highest_variant ? 0 : 1;
 }
 
 }  // namespace tarn

@@ -1,4 +1,4 @@
-// Integers of one, two, four and eight bytes: the runtime's primitives, and a comparison in place.
+// Integers of one, two, four and eight bytes: the runtime's primitives, and an inline comparison.
 #pragma once
 
 #include "kinds/kind.h"

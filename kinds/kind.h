@@ -1,15 +1,15 @@
 // What a kind of single-valued member is in memory and does in each family: one specialization of StorageOf and one of
-// PrimitiveOf a kind, in a file of its own. Arrays and strings are not here, since each family treats their elements
-// and characters itself.
+// PrimitiveOf per kind, each kind in a file of its own. Arrays and strings have none, since each family handles their
+// elements and characters itself.
 //
-// May know: core/, and the families by name alone.
+// The layer kinds/ may know core/, the schema and the contract, and of the families only their names.
 #pragma once
 
 #include "core/walk.h"
 
 namespace tarn {
 
-// Of is the type that a kind has besides: the enumeration, the record.
+// Of is the member's enumeration or record; null for other kinds.
 template <Kind K, auto Of>
 struct PrimitiveOf;
 

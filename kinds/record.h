@@ -1,5 +1,5 @@
-// A record in a record: in each family, the family itself one level down. The families are named here and defined
-// above.
+// A record in a record: each family calls itself for the nested record. This layer may not include the families, so it
+// declares them.
 #pragma once
 
 #include "core/own_references.h"

@@ -9,7 +9,7 @@ namespace {
 template <const Bundle &B, Control K>
 constinit char sentinel_of = 0;
 
-// What may travel inside the bundle; the runtime looks messages up in it. The last row ends the table.
+// The messages that the bundle may contain, for look-ups by the runtime. The null row terminates the table.
 template <const Bundle &B>
 constinit const mirk_allowed_row allowed_messages[] = {
     {Identity<B.message>::luid, Identity<B.message>::name, 0},
@@ -17,7 +17,7 @@ constinit const mirk_allowed_row allowed_messages[] = {
     {nullptr, nullptr, 0},
 };
 
-// Zeroed room for the header and, behind it, the identity. Returns the bytes written; fewer than a frame's: EMSGSIZE.
+// Writes zeros for the header, then the identity. Returns the bytes written; sets EMSGSIZE if the buffer is too small.
 std::uint32_t begin_frame(mirk_handle *h, void *buffer, std::uint32_t size, const std::uint8_t *luid,
                           std::uint32_t *err) {
     const auto room = static_cast<std::int32_t>(size);
@@ -48,7 +48,7 @@ void end_frame(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t
     return sentinel;
 }
 
-// A start opens the bundle and needs room for its frame.
+// Opens the bundle, but only if the frame fits.
 [[gnu::noinline]] std::uint32_t marshal_start(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
                                               const std::uint8_t *luid, const mirk_allowed_row *allowed,
                                               std::uint32_t *err) {
@@ -66,8 +66,8 @@ void end_frame(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t
     return written;
 }
 
-// An abort or a commit ends the bundle in every case, one without room too: no frame has gone out then, which is for
-// the caller to deal with. Any bundle's end closes the one that is open.
+// An abort or a commit closes the open bundle, whichever bundle it belongs to, and even if the frame does not fit: then
+// no frame was written, and the caller has to handle that.
 [[gnu::noinline]] std::uint32_t marshal_end(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t size,
                                             const std::uint8_t *luid, std::uint32_t *err) {
     if (!enter(h, err)) return 0;
@@ -81,7 +81,7 @@ void end_frame(mirk_handle *h, std::uint32_t ctx_id, void *buffer, std::uint32_t
     return written;
 }
 
-// Unlike everywhere else the slot is not looked at on entry, here and below.
+// Unlike other operations, this one and those below do not check the slot on entry.
 [[gnu::noinline]] std::uint32_t print_line(mirk_handle *h, std::uint32_t ctx_id, char *buffer, std::uint32_t size,
                                            const char *format, const char *bundle, std::uint32_t *err) {
     const auto room = static_cast<std::int32_t>(size);
@@ -114,7 +114,7 @@ void *ControlMessage<B, K>::create_cr(mirk_handle *h) {
     return create_token_cr(h, sentinel());
 }
 
-// Knows no sentinel, unlike its sticky form: the two do not mix.
+// Unlike the sticky form, does not recognize the sentinel, so a token from create_cr must be released by destroy_cr.
 template <const Bundle &B, Control K>
 void ControlMessage<B, K>::destroy(mirk_handle *h, std::uint32_t ctx_id, void *token) {
     if (token != nullptr) release(h, ctx_id, token);
@@ -141,7 +141,7 @@ std::uint32_t ControlMessage<B, K>::marshal(mirk_handle *h, std::uint32_t ctx_id
     }
 }
 
-// The frame is not read: being called is all that the message says. The result is no sign of success.
+// The frame is not read: the dispatcher has identified it, and it has no content. The result does not indicate success.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, void **out,
                                               void *, std::uint32_t, mirk_message_handler handler, std::uint32_t *err) {
@@ -167,7 +167,7 @@ std::uint32_t ControlMessage<B, K>::print(mirk_handle *h, std::uint32_t ctx_id, 
     return print_line(h, ctx_id, buffer, size, format, B.name.data(), err);
 }
 
-// An empty element; the name is an attribute, which the closing tag leaves out.
+// An empty element. The name is an attribute, so opening and closing tag differ.
 template <const Bundle &B, Control K>
 std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id, char *buffer, void *,
                                            std::uint32_t size, std::uint32_t *err) {
@@ -182,7 +182,7 @@ std::uint32_t ControlMessage<B, K>::to_xml(mirk_handle *h, std::uint32_t ctx_id,
     return write_element(h, ctx_id, buffer, size, tag.data(), word, err);
 }
 
-// Any document gives a token: there is nothing in it to be read.
+// Accepts any document, since a control message has no content.
 template <const Bundle &B, Control K>
 void *ControlMessage<B, K>::from_xml(mirk_handle *h, std::uint32_t ctx_id, void *, std::uint32_t *, char *,
                                      std::uint32_t) {

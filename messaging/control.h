@@ -1,5 +1,5 @@
-// Control messages: start, abort and commit of a bundle. Their object is a token without content, their frame the 43
-// bytes of header and identity.
+// Control messages: start, abort and commit of a bundle. Their object is a token without content; their frame is the
+// header and the identity.
 #pragma once
 
 #include "messaging/identity.h"

@@ -1,5 +1,7 @@
 #include "messaging/handlers.h"
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 #include "core/named_text.h"
@@ -14,7 +16,7 @@ void trace_stub(std::uint32_t level, const char *format, Arguments... arguments)
     skald_wrapper(number_of(g_mirk_lumo_ui_tarn_stub_trace_module_id), level, 0, format, arguments...);
 }
 
-// Where a name of function and file is asked for, a filler of the same length stands in.
+// A filler that replaces the name of a function or file by a text of the same length.
 template <std::size_t N>
 constexpr auto filler = [] {
     std::array<char, N + 1> text{};
@@ -26,13 +28,13 @@ void release_token(mirk_handle *h, std::uint32_t ctx_id, void *token) {
     if (token != nullptr) release(h, ctx_id, token);
 }
 
-void forget_dispatch(mirk_handle *h) {
+void clear_dispatch(mirk_handle *h) {
     h->recv_bundle_lut = nullptr;
     h->recv_bundle_lut_ref = nullptr;
     h->recv_bundle_commit_lut = nullptr;
 }
 
-// An abort and a commit say the same when no bundle is open.
+// The line names an abort for commits, too.
 bool is_receiving(mirk_handle *h, std::uint32_t *err) {
     if (mirklib_is_accumulating_bundle(h) != 0) return true;
     trace_message(error_level, "(ERR): Abort message received outside of bundle context");
@@ -49,7 +51,7 @@ void MessageHandler<M>::unhandled(mirk_handle *h, std::uint32_t, void *, void *,
     trace_stub(info_level, text.data());
 }
 
-// Reports no error: the commit counts as handled, and the messages are dropped.
+// Sets no error: the commit counts as handled, and the messages are discarded.
 template <const Bundle &B>
 void BundleHandler<B>::unhandled(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {
     constexpr std::size_t own_name =
@@ -94,13 +96,13 @@ void BundleHandler<B>::abort(mirk_handle *h, std::uint32_t ctx_id, void *, void 
     if (const mirk_dispatch_info *entry = mirklib_in_dispatch_message_info(h, &lut); entry != nullptr) {
         trace_message(debug_level, "(debug): Bundle aborting for %s with LUT %p", entry->name, lut);
     }
-    forget_dispatch(h);
+    clear_dispatch(h);
     release_token(h, ctx_id, message);
 }
 
 namespace {
 
-// Exactly one handler gets a committed bundle. The third choice shares its line with the first.
+// At most one handler is called: the first that is registered. The trace line of the third is that of the first.
 template <const Bundle &B>
 void deliver(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, const mirk_dispatch_info &entry,
              std::uint32_t *err) {
@@ -135,10 +137,10 @@ void BundleHandler<B>::commit(mirk_handle *h, std::uint32_t ctx_id, void *dispat
             deliver<B>(h, ctx_id, dispatch_ctx, *entry, err);
         }
     }
-    // A handler that keeps a message has taken it off the list by now.
+    // A handler that keeps a message has removed it from the list.
     bundle_receive_message_list_destroy(h, ctx_id, err);
     release_token(h, ctx_id, message);
-    forget_dispatch(h);
+    clear_dispatch(h);
 }
 
 template <const Bundle &B>

@@ -1,5 +1,5 @@
-// What happens to a message that was received when the process has nothing better: the linked-in handlers, each of
-// which a process may replace, and the registration of handlers for whole bundles.
+// The default handlers of received messages, each of which a process may replace by linking its own, and the
+// registration of handlers for whole bundles.
 #pragma once
 
 #include "messaging/identity.h"

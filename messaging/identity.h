@@ -1,5 +1,5 @@
-// By what a message is known: its identity and name in the catalogue, and the handler that is linked in for it. Each is
-// an exported symbol, reached through the traits that the generated list below fills in.
+// The identity and the name of each message, and its linked-in handler. Each is an exported symbol; the generated list
+// below specializes the traits that refer to them.
 #pragma once
 
 #include "core/guard.h"

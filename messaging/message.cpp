@@ -13,7 +13,7 @@ constinit message_object sentinel_of{};
 
 const std::uint16_t &module = g_mirk_lumo_ui_tarn_message_trace_module_id;
 
-// A message has one variant, so the question is whether the block was damaged.
+// A message has one variant, so this only detects a damaged type record.
 const mirk_variant_info &checked_variant_info(const mirk_type_info *type) {
     const mirk_variant_info &info = variant_info(type, module);
     if (info.n_variants < 0) {
@@ -23,9 +23,9 @@ const mirk_variant_info &checked_variant_info(const mirk_type_info *type) {
 }
 
 template <class Text>
-bool has_error(const message_object *message, const std::uint32_t *err, const Text &complaint) {
+bool has_error(const message_object *message, const std::uint32_t *err, const Text &text) {
     if (*err == 0 && message != nullptr) return false;
-    trace_message(debug_level, complaint.data(), error_text(*err));
+    trace_message(debug_level, text.data(), error_text(*err));
     return true;
 }
 
@@ -36,7 +36,7 @@ message_object *MessageObject<M>::sentinel() {
     return &sentinel_of<M>;
 }
 
-// Type, counter, header, tracking: what a message needs besides its payload.
+// Initializes all but the payload: type, counter, header, tracking.
 template <const Message &M>
 message_object *MessageObject<M>::set_up(mirk_handle *h, std::uint32_t ctx_id, message_object *message) {
     message->tinfo = bind_type(h, ctx_id, &TypeInfo<M>::own);
@@ -58,7 +58,7 @@ message_object *MessageObject<M>::create_shallow(mirk_handle *h, std::uint32_t c
     return set_up(h, ctx_id, static_cast<message_object *>(std::memset(storage, 0, sizeof(message_object))));
 }
 
-// The payload is made before the type is bound and before anything is counted.
+// The payload is created before the type is bound and before anything is counted.
 template <const Message &M>
 message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
     void *storage = create_is_off(h) ? sentinel() : new_object(h, ctx_id, sizeof(message_object), sentinel());
@@ -66,7 +66,7 @@ message_object *MessageObject<M>::create(mirk_handle *h, std::uint32_t ctx_id) {
     if (message == nullptr) return nullptr;
     mirk_object *payload = Lifecycle<M.payload>::create(h, ctx_id);
     if (message == sentinel()) {
-        // All threads share it and store there alike, while others get what stands there.
+        // Atomic, because all threads share the sentinel: several may store to it while others read it.
         __atomic_store_n(&message->payload, payload, __ATOMIC_RELAXED);
         return message;
     }
@@ -94,33 +94,34 @@ void MessageObject<M>::destroy(mirk_handle *h, std::uint32_t ctx_id, message_obj
 
 template <const Message &M>
 mirk_object *MessageObject<M>::get(mirk_handle *, std::uint32_t, message_object *message, std::uint32_t *err) {
-    static constexpr auto complaint = named_text<M.payload>("(debug): Error present when getting value for ", ": %s");
-    return has_error(message, err, complaint) ? nullptr : __atomic_load_n(&message->payload, __ATOMIC_RELAXED);
+    static constexpr auto text = named_text<M.payload>("(debug): Error present when getting value for ", ": %s");
+    return has_error(message, err, text) ? nullptr : __atomic_load_n(&message->payload, __ATOMIC_RELAXED);
 }
 
 template <const Message &M>
 mirk_object *MessageObject<M>::get_detach(mirk_handle *, std::uint32_t, message_object *message, std::uint32_t *err) {
-    static constexpr auto complaint = named_text<M.payload>("(debug): Error present getting detached ",
-                                                            named_text<M>(" value for ", ": %s").characters);
-    if (has_error(message, err, complaint)) return nullptr;
+    static constexpr auto text = named_text<M.payload>("(debug): Error present getting detached ",
+                                                       named_text<M>(" value for ", ": %s").characters);
+    if (has_error(message, err, text)) return nullptr;
     return std::exchange(message->payload, nullptr);
 }
 
-// The payload before is left to whoever still points at it.
+// Does not destroy the previous payload, which the caller may still use.
 template <const Message &M>
 void MessageObject<M>::set(mirk_handle *, std::uint32_t, message_object *message, mirk_object *payload,
                            std::uint32_t *err) {
-    static constexpr auto complaint = named_text<M.payload>("(debug): Error present when setting value for ", ": %s");
-    if (!has_error(message, err, complaint)) message->payload = payload;
+    static constexpr auto text = named_text<M.payload>("(debug): Error present when setting value for ", ": %s");
+    if (!has_error(message, err, text)) message->payload = payload;
 }
 
-// Given the message's own payload this destroys it and stores what is left; take it out with get_detach instead.
+// The argument must not be the message's own payload, which would be destroyed and then stored: detach it first, with
+// get_detach.
 template <const Message &M>
 void MessageObject<M>::free_and_set(mirk_handle *h, std::uint32_t ctx_id, message_object *message, mirk_object *payload,
                                     std::uint32_t *err) {
-    static constexpr auto complaint =
+    static constexpr auto text =
         named_text<M.payload>("(debug): Error present when freeing and setting value for ", ": %s");
-    if (has_error(message, err, complaint)) return;
+    if (has_error(message, err, text)) return;
     if (message->payload != nullptr) Lifecycle<M.payload>::destroy(h, ctx_id, message->payload);
     message->payload = payload;
 }

@@ -1,5 +1,9 @@
-// Plain messages. A message object owns one payload record; its frame is a 27-byte header, the 16-byte identity and the
-// payload's frame.
+// Plain messages. A message object owns one payload record; its frame is the header, the identity and the payload's
+// frame.
+//
+// The layer messaging/ may know families/, core/, the schema and the contract: it moves payloads and never reads their
+// members. Nothing below knows that there are messages, except that core/ describes their objects and types. How frames
+// travel between processes is the runtime's concern.
 #pragma once
 
 #include "core/named_text.h"
@@ -15,7 +19,7 @@ inline constexpr std::uint32_t header_bytes = schema::message_header_size;
 inline constexpr std::uint32_t luid_bytes = schema::luid_size;
 inline constexpr std::uint32_t frame_head = schema::message_head_size;
 
-// What every header begins with; the rest is 0.
+// The header of a new message: marker and fill bytes are set, the rest is 0.
 constexpr mirk_message_header new_header() {
     mirk_message_header header{schema::frame_marker, {}, 0, 0, 0};
     for (std::uint8_t &byte : header.fill) byte = schema::frame_fill;

@@ -49,7 +49,7 @@ std::uint32_t MessageRendering<M>::to_xml(mirk_handle *h, std::uint32_t ctx_id, 
     return position;
 }
 
-// A document without the payload's element gives a message with a fresh payload and no error.
+// A document without the payload's element gives a message with a new payload and no error.
 template <const Message &M>
 message_object *MessageRendering<M>::from_xml(mirk_handle *h, std::uint32_t ctx_id, void *document, std::uint32_t *err,
                                               char *message_buffer, std::uint32_t message_size) {

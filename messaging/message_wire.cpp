@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "families/wire.h"
 #include "messaging/message.h"
 
@@ -8,8 +10,8 @@ std::uint32_t MessageWire<M>::len(mirk_handle *h, std::uint32_t ctx_id, message_
     return WireWrite<M.payload>::len(h, ctx_id, message->payload) + frame_head;
 }
 
-// The header stands first and is written last, since it holds the total length: room is reserved for it, zeroed, and a
-// frame that failed keeps the zeros.
+// The header is written last, since it contains the total length. Until then its bytes are zeros, and they stay zeros
+// if the frame fails.
 template <const Message &M>
 std::uint32_t MessageWire<M>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, message_object *message,
                                       std::uint32_t size, std::uint32_t *err) {
@@ -76,7 +78,7 @@ std::uint32_t MessageWire<M>::marshal(mirk_handle *h, std::uint32_t ctx_id, void
     return position;
 }
 
-// The identity is stepped over and the length not compared: by the time this runs, a dispatcher has chosen the message.
+// Skips the identity and does not check the length: a dispatcher has identified the message before.
 template <const Message &M>
 std::uint32_t MessageWire<M>::unmarshal_only(mirk_handle *h, std::uint32_t ctx_id, message_object **out, void *buffer,
                                              std::uint32_t size, std::uint32_t *err) {
@@ -103,7 +105,8 @@ std::uint32_t MessageWire<M>::unmarshal_only(mirk_handle *h, std::uint32_t ctx_i
     return position;
 }
 
-// What a bad frame left of a message goes to nobody here; who lives long on bad input reads with unmarshal_only.
+// After an error the partly read message is neither returned nor destroyed. A process that reads untrusted input for
+// long calls unmarshal_only instead, which returns it.
 template <const Message &M>
 std::uint32_t MessageWire<M>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, message_object **out,
                                         void *buffer, std::uint32_t size, mirk_message_handler handler,

@@ -4,13 +4,13 @@
 
 namespace tarn {
 
-// A rendering that does not fit is not recorded, and its error stays for the handler, which runs all the same.
+// A message whose XML does not fit is not recorded. The error stays set while the handler is called.
 template <const Message &M>
 void Recording<M>::record(mirk_handle *h, std::uint32_t ctx_id, message_object *message, std::uint32_t *err) {
     if (mirklib_msg_recorder_get_state() == 0) return;
     constexpr std::uint32_t size = 4096;
     auto *buffer = static_cast<char *>(mirklib_malloc(nullptr, ctx_id, size));
-    // A recording that was asked for and is silently missing would be worse than the end of the process.
+    // A recording that silently lacks messages would be worse than an abort.
     if (buffer == nullptr) die(g_mirk_lumo_ui_tarn_message_trace_module_id, "(FATAL): MIRK record - malloc failed");
     const std::uint32_t length = MessageRendering<M>::to_xml(h, ctx_id, buffer, message, size, err);
     if (*err == 0) {

@@ -1,4 +1,4 @@
-// The handler that a process registers for all bundles of this module and of the modules that it builds on.
+// The handler that a process registers for all bundles of this module and of its sibling modules.
 #pragma once
 
 #include "core/guard.h"
