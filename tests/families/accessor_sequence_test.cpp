@@ -43,7 +43,7 @@ Lines mark_lines(const RecordOperations &r, const MemberOperations &m, bool on) 
     return lines;
 }
 
-TEST_F(AccessorSequence, OfReads) {
+TEST_F(AccessorSequence, ReadsClearTheErrorAndCheckTheVariant) {
     Handle h({Tracking::on});
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.get == nullptr) return;
@@ -58,7 +58,7 @@ TEST_F(AccessorSequence, OfReads) {
     });
 }
 
-TEST_F(AccessorSequence, OfSetValue) {
+TEST_F(AccessorSequence, SetValueChecksTheVariantTwiceBeforeItStores) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -75,7 +75,7 @@ TEST_F(AccessorSequence, OfSetValue) {
     }
 }
 
-TEST_F(AccessorSequence, OfSet) {
+TEST_F(AccessorSequence, SetStoresBeforeItMarks) {
     for (Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({tracking});
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -99,7 +99,7 @@ TEST_F(AccessorSequence, OfSet) {
     }
 }
 
-TEST_F(AccessorSequence, OfStateBytes) {
+TEST_F(AccessorSequence, StateBytesAreFoundAtTheRecordedOffset) {
     Handle h({Tracking::on});
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
@@ -120,7 +120,7 @@ TEST_F(AccessorSequence, OfStateBytes) {
 }
 
 // Only the flag of a place of its own has the runtime asked where an object's states are.
-TEST_F(AccessorSequence, OfStatesOfAMappedObject) {
+TEST_F(AccessorSequence, AMappedObjectWithoutAnOffsetIsNotLookedUp) {
     Handle h({Tracking::on});
     const RecordOperations &r = record("lumo_tarn_dp_appl_list");
     void *object = make_object(h, r);
@@ -132,7 +132,7 @@ TEST_F(AccessorSequence, OfStatesOfAMappedObject) {
     r.destroy(h, id, object);
 }
 
-TEST_F(AccessorSequence, OfRefusals) {
+TEST_F(AccessorSequence, RefusalsTraceAndStoreTheError) {
     Handle h({Tracking::on});
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     const MemberOperations &m = r.members[0];
@@ -161,7 +161,7 @@ TEST_F(AccessorSequence, OfRefusals) {
               (Lines{"mirk_clear_last_error", variant_line(m), "mirk_store_epoch_err 43 slot"}));
 }
 
-TEST_F(AccessorSequence, OfTheWholeRecordAccessors) {
+TEST_F(AccessorSequence, GetAllAndSetAllAccessEachMemberInTableOrder) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         forget();
@@ -188,7 +188,7 @@ TEST_F(AccessorSequence, OfTheWholeRecordAccessors) {
     });
 }
 
-TEST_F(AccessorSequence, OfQuietOperations) {
+TEST_F(AccessorSequence, FillGetAndAdjustMakeNoNotification) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         forget();

@@ -29,7 +29,7 @@ std::uint8_t *state(const RecordOperations &r, void *object, const MemberOperati
 bool modified(void *object) { return mirk_get_instance_modified(object, 1, 0) != 0; }
 void unmark(void *object) { mirk_set_instance_modified(object, 1, 0, 0); }
 
-TEST(Accessors, GetGivesTheMembersOwnPlace) {
+TEST(Accessors, GetReturnsTheAddressOfTheMember) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -43,7 +43,7 @@ TEST(Accessors, GetGivesTheMembersOwnPlace) {
     }
 }
 
-TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
+TEST(Accessors, ASetValueIsReadBackAndChangesNoOtherMember) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -66,7 +66,7 @@ TEST(Accessors, AValueThatIsSetIsReadBackFromItsPlaceAlone) {
     }
 }
 
-TEST(Accessors, AValueIsSetFromASource) {
+TEST(Accessors, SetCopiesTheSource) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -95,7 +95,7 @@ TEST(Accessors, AValueIsSetFromASource) {
     }
 }
 
-TEST(Accessors, ASetterLeavesStateTwoInItsOwnByteAlone) {
+TEST(Accessors, ASetterWritesState2ToItsOwnByteOnly) {
     Handle h(Tracking::on);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
@@ -110,7 +110,7 @@ TEST(Accessors, ASetterLeavesStateTwoInItsOwnByteAlone) {
     });
 }
 
-TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
+TEST(Accessors, EachStateByteIsStoredInItsSlot) {
     Handle h(Tracking::on);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (!has_state_byte(m)) {
@@ -133,7 +133,7 @@ TEST(Accessors, EveryStateByteIsKeptInItsSlot) {
     });
 }
 
-TEST(Accessors, StateIsRefusedWithoutTrackingAndWithoutALine) {
+TEST(Accessors, StateFailsWithoutATraceIfTrackingIsOff) {
     Handle h(Tracking::off);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
@@ -152,7 +152,7 @@ TEST(Accessors, StateIsRefusedWithoutTrackingAndWithoutALine) {
     });
 }
 
-TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
+TEST(Accessors, StateDependsOnTheObjectsFlagIfThereIsNoDescriptor) {
     Handle h(Tracking::on), none(Tracking::none);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
@@ -182,7 +182,7 @@ TEST(Accessors, WithoutADescriptorStateGoesByTheObjectsOwnFlag) {
     });
 }
 
-TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
+TEST(Accessors, AnUntrackedObjectOnATrackingHandleStoresTheValueAndFails) {
     Handle h(Tracking::off);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set == nullptr && m.text_set == nullptr) return;
@@ -219,7 +219,7 @@ TEST(Accessors, AnUntrackedObjectOnATrackingHandleTakesTheValueAndFails) {
     });
 }
 
-TEST(Accessors, ANegativeVariantRefusesEveryMember) {
+TEST(Accessors, ANegativeVariantFailsForEveryMember) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id), *source = r.create(h, id);
@@ -263,7 +263,7 @@ TEST(Accessors, ANegativeVariantRefusesEveryMember) {
     });
 }
 
-TEST(Accessors, AWriteBringsTheObjectToTheDomainsVariantFirst) {
+TEST(Accessors, AWriteFirstAdjustsTheObjectToTheDomainsVariant) {
     Handle h;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
@@ -278,7 +278,7 @@ TEST(Accessors, AWriteBringsTheObjectToTheDomainsVariantFirst) {
     });
 }
 
-TEST(Accessors, UnderTheLenientPolicyTheGateRefusesWithoutAnError) {
+TEST(Accessors, AMissingBodySetsNoErrorUnderTheLenientPolicy) {
     Handle h;
     mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
     each_member([&](const RecordOperations &r, const MemberOperations &m) {

@@ -74,7 +74,7 @@ TEST(Allocation, DeepCopiesIntoElementsSurviveEachFailure) {
     }
 }
 
-TEST(Allocation, AssignmentNeedsNone) {
+TEST(Allocation, AssignmentAllocatesNothing) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *source = filled(h, r, 3), *destination = r.create(h, id);
@@ -87,7 +87,7 @@ TEST(Allocation, AssignmentNeedsNone) {
     });
 }
 
-TEST(Allocation, PrivateTypesThatCannotBeHadLeaveTheModulesOwn) {
+TEST(Allocation, FailedPrivateTypesFallBackToTheModulesRecords) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 1, 1);
     each_record([&](const RecordOperations &r) {

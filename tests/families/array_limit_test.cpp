@@ -36,7 +36,7 @@ TEST(Arrays, AOneByteCountWraps) {
     }
 }
 
-TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
+TEST(Arrays, TheHighestIndexFailsWithEnomem) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -53,7 +53,7 @@ TEST(Arrays, TheHighestIndexEndsInWantOfMemory) {
     }
 }
 
-TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
+TEST(Arrays, AFailedBlockAllocationChangesNothing) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -75,7 +75,7 @@ TEST(Arrays, WithoutMemoryForTheBlockEverythingStays) {
     }
 }
 
-TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
+TEST(Arrays, AFailedStateAllocationKeepsTheElementsAndLosesTheOldVector) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = filled(h, s.e, 9, {1, 1, false});
@@ -106,7 +106,7 @@ TEST(Arrays, WithoutMemoryForStatesTheElementsAreThereAndTheOldVectorIsLost) {
     });
 }
 
-TEST(Arrays, ANullBlockBesideACountCountsNothing) {
+TEST(Arrays, ACountWithoutABlockMeansNoElements) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -127,7 +127,7 @@ TEST(Arrays, ANullBlockBesideACountCountsNothing) {
     }
 }
 
-TEST(Arrays, ABlockBesideACountOfZeroIsReleasedUnvisited) {
+TEST(Arrays, ABlockWithACountOfZeroIsReleasedUnvisited) {
     Handle h;
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);

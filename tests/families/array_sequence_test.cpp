@@ -83,7 +83,7 @@ protected:
 };
 
 // The object and the value are the first two blocks.
-TEST_F(ArraySequence, TheFirstSetWithoutTracking) {
+TEST_F(ArraySequence, TheFirstSetAllocatesAndInitializesWithoutTracking) {
     for (Tracking tracking : {Tracking::none, Tracking::off}) {
         each(tracking, [&](const Handle &h, const Subject &s) {
             Lines expected = begin(s);
@@ -97,7 +97,7 @@ TEST_F(ArraySequence, TheFirstSetWithoutTracking) {
     }
 }
 
-TEST_F(ArraySequence, TheFirstSetWithTracking) {
+TEST_F(ArraySequence, TheFirstSetAllocatesStatesAfterTheElementsWithTracking) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         Lines expected = begin(s);
         append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).tracked),
@@ -111,7 +111,7 @@ TEST_F(ArraySequence, TheFirstSetWithTracking) {
     });
 }
 
-TEST_F(ArraySequence, GrowthWithoutTracking) {
+TEST_F(ArraySequence, GrowthCleansUpEachOldElementWithoutTracking) {
     each(Tracking::none, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, nullptr, &err);
         s.m.element_set(h, id, object, 0, value, &err);
@@ -128,7 +128,7 @@ TEST_F(ArraySequence, GrowthWithoutTracking) {
     });
 }
 
-TEST_F(ArraySequence, GrowthWithTracking) {
+TEST_F(ArraySequence, GrowthMovesOffsetsBeforeItCleansUpWithTracking) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
         const Lines lines = without_traces(lines_of([&] { s.m.element_set(h, id, object, 2, value, &err); }));
@@ -162,7 +162,7 @@ TEST_F(ArraySequence, GrowthWithTracking) {
     });
 }
 
-TEST_F(ArraySequence, WithoutMemory) {
+TEST_F(ArraySequence, AFailedAllocationStopsAtOnce) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         auto &handle = const_cast<Handle &>(h);
         handle.fail_obj_alloc(1);
@@ -180,7 +180,7 @@ TEST_F(ArraySequence, WithoutMemory) {
     });
 }
 
-TEST_F(ArraySequence, OfElementAccessAndStates) {
+TEST_F(ArraySequence, ElementAccessNotifiesBeforeEachStateWrite) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
         recording::name_region("vector", read<void *>(bytes(object) + table(s.r).base + place(s.r, s.m).area), 2);
@@ -205,7 +205,7 @@ TEST_F(ArraySequence, OfElementAccessAndStates) {
     });
 }
 
-TEST_F(ArraySequence, AFailedDeepCopyLeavesTheElementItsPlace) {
+TEST_F(ArraySequence, AFailedDeepCopyKeepsTheElementsOffset) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         const_cast<Handle &>(h).set_workspace(1);
         s.m.element_set(h, id, object, 1, value, &err);
@@ -226,7 +226,7 @@ TEST_F(ArraySequence, AFailedDeepCopyLeavesTheElementItsPlace) {
 }
 
 // Where objects are not mapped nothing is dropped, so nothing is asked for and recorded anew.
-TEST_F(ArraySequence, AFailedDeepCopyWithoutMappingsAsksForNoOffset) {
+TEST_F(ArraySequence, AFailedDeepCopyLooksUpNoOffsetWithoutMapping) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
         mirk_object *element = static_cast<mirk_object *>(s.m.element_get(h, id, object, 1, &err));

@@ -33,7 +33,7 @@ TEST(ArrayGrowthDeathTest, IsReportedOncePerArrayInAProcess) {
     EXPECT_EXIT(grow_every_array_and_exit(), testing::ExitedWithCode(0), "");
 }
 
-TEST(Arrays, AFreshOneIsEmpty) {
+TEST(Arrays, ANewOneIsEmpty) {
     Handle h;
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
@@ -50,7 +50,7 @@ TEST(Arrays, AFreshOneIsEmpty) {
     });
 }
 
-TEST(Arrays, WithoutAnObjectThereIsNothingToSet) {
+TEST(Arrays, ANullObjectIsRefused) {
     Handle h;
     each_array([&](const ArraySubject &s) {
         std::uint32_t err = 0;
@@ -63,7 +63,7 @@ TEST(Arrays, WithoutAnObjectThereIsNothingToSet) {
     });
 }
 
-TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
+TEST(Arrays, SettingAnIndexPastTheEndInitializesTheGap) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -93,7 +93,7 @@ TEST(Arrays, SettingAnIndexBeyondTheEndFillsTheGapWithFreshElements) {
     }
 }
 
-TEST(Arrays, ElementsHaveTheirAreasBehindTheLastOne) {
+TEST(Arrays, StateAreasFollowTheLastElement) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id);
@@ -142,7 +142,7 @@ TEST(Arrays, GrowthKeepsElementsWithTheirBlocksAndStates) {
     }
 }
 
-TEST(Arrays, SettingAnElementThatIsThereAllocatesNothingAndTakesTheValuesBlocks) {
+TEST(Arrays, SettingAnExistingElementAllocatesNothingAndMovesTheBlocks) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -191,7 +191,7 @@ TEST(Arrays, ANullValueGrowsAndChangesNothingElse) {
     }
 }
 
-TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
+TEST(Arrays, ObjectAndValueMustBeTrackedOnATrackingHandle) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = s.r.create(h, id), *value = s.e.create(h, id);
@@ -218,7 +218,7 @@ TEST(Arrays, OnATrackingHandleObjectAndValueMustBeTracked) {
     });
 }
 
-TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
+TEST(Arrays, AValueFromTheOldBlockIsFoundAfterGrowth) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -238,7 +238,7 @@ TEST(Arrays, AValueFromTheOldBlockIsFoundAtItsNewPlace) {
     }
 }
 
-TEST(Arrays, ADeepCopyLeavesTheValueWhole) {
+TEST(Arrays, ADeepCopyDoesNotChangeTheValue) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_array([&](const ArraySubject &s) {
@@ -256,7 +256,7 @@ TEST(Arrays, ADeepCopyLeavesTheValueWhole) {
     }
 }
 
-TEST(Arrays, TheStickySetMovesUnderTheDefaultIdWithAnyOtherCopyMode) {
+TEST(Arrays, TheStickySetMovesWithTheDefaultIdInAnyOtherCopyMode) {
     Handle h;
     mirk_platform_handle_set_default_id(h, 90);
     each_array([&](const ArraySubject &s) {

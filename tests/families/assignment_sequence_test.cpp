@@ -9,7 +9,7 @@ namespace {
 
 using AssignmentSequence = Sequence;
 
-TEST_F(AssignmentSequence, OfEveryRecord) {
+TEST_F(AssignmentSequence, EveryRecordNotifiesCopiesAndReleases) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
@@ -22,7 +22,7 @@ TEST_F(AssignmentSequence, OfEveryRecord) {
     }
 }
 
-TEST_F(AssignmentSequence, BetweenObjectsWithPlacesOfTheirOwn) {
+TEST_F(AssignmentSequence, RecordedOffsetsAreLookedUpOnBothSides) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         forget();
@@ -34,7 +34,7 @@ TEST_F(AssignmentSequence, BetweenObjectsWithPlacesOfTheirOwn) {
     });
 }
 
-TEST_F(AssignmentSequence, OfNullAndToItself) {
+TEST_F(AssignmentSequence, NullFailsAndTheObjectItselfIsOnlyAdjusted) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         forget();
@@ -57,7 +57,7 @@ Lines give_up_everything(const RecordOperations &r, const Spot &from) {
     return lines;
 }
 
-TEST_F(AssignmentSequence, ForWantOfTrackingTheBlocksChangeHandsAllTheSame) {
+TEST_F(AssignmentSequence, BlocksMoveEvenIfOneSideIsNotTracked) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         for (bool source_lacks_it : {false, true}) {
@@ -76,7 +76,7 @@ TEST_F(AssignmentSequence, ForWantOfTrackingTheBlocksChangeHandsAllTheSame) {
     });
 }
 
-TEST_F(AssignmentSequence, OfTheCleanUpBehindAMove) {
+TEST_F(AssignmentSequence, CleanUpAfterAMoveReleasesTheOldLocation) {
     for (Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({tracking});
         const bool on = tracking == Tracking::on;

@@ -31,7 +31,7 @@ void expect_own_areas(const Handle &h, const RecordOperations &r, void *object, 
     }
 }
 
-TEST(Assignment, TakesValuesStatesAndBlocks) {
+TEST(Assignment, MovesValuesStatesAndBlocks) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -55,7 +55,7 @@ TEST(Assignment, TakesValuesStatesAndBlocks) {
     }
 }
 
-TEST(Assignment, ToItselfIsAnAdjustmentOnly) {
+TEST(Assignment, AssigningAnObjectToItselfOnlyAdjustsIt) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
@@ -74,7 +74,7 @@ TEST(Assignment, ToItselfIsAnAdjustmentOnly) {
     });
 }
 
-TEST(Assignment, RunsWhateverTheSlotHolds) {
+TEST(Assignment, RunsEvenIfTheSlotIsSet) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *source = filled(h, r, 3), *destination = r.create(h, id);
@@ -89,7 +89,7 @@ TEST(Assignment, RunsWhateverTheSlotHolds) {
     r.destroy(h, id, destination);
 }
 
-TEST(Assignment, OfNullIsRefusedAndChangesNothing) {
+TEST(Assignment, NullIsRefusedAndChangesNothing) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 3);
@@ -126,7 +126,7 @@ TEST(Assignment, CopiesTheHeaderAsWell) {
     r.destroy(h, id, destination);
 }
 
-TEST(Assignment, TheOffsetBitStaysTheDestinationsOwnUnlessThereIsNoDescriptor) {
+TEST(Assignment, TheOffsetBitIsKeptUnlessThereIsNoDescriptor) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         const RecordOperations &r = record("lumo_tarn_debug_setting");
@@ -181,7 +181,7 @@ void expect_untracked(const RecordOperations &r, void *object) {
     }
 }
 
-TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
+TEST(Assignment, ADestinationWithoutAStateAreaFailsAndStaysUntracked) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         mirk_platform_testing_set_sttr_mode(h, 0xDDDD);
@@ -203,7 +203,7 @@ TEST(Assignment, ADestinationWithoutStateAreaFailsAndStaysUntracked) {
     });
 }
 
-TEST(Assignment, WhatTheDestinationHeldIsLost) {
+TEST(Assignment, TheDestinationsOldBlocksAreLost) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_cl_kesh_appl");
     void *source = filled(h, r, 8), *destination = filled(h, r, 9);
@@ -215,7 +215,7 @@ TEST(Assignment, WhatTheDestinationHeldIsLost) {
     h.expect_lost_blocks(2);
 }
 
-TEST(Assignment, ANestedRecordDoesNotReachTheMemberBehindIt) {
+TEST(Assignment, ANestedRecordDoesNotOverwriteTheNextMember) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -235,7 +235,7 @@ TEST(Assignment, ANestedRecordDoesNotReachTheMemberBehindIt) {
     }
 }
 
-TEST(CopyoutCleanup, TheOldPlaceLosesItsBlocksAndTheNewOneKeepsThem) {
+TEST(CopyoutCleanup, TheOldLocationLosesItsBlocksAndTheNewOneKeepsThem) {
     for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(CopySequence, StickyCopiesUnderASetErrorMakeNoCall) {
+TEST(CopySequence, StickyCopiesMakeNoCallIfTheErrorIsSet) {
     recording::Handle h;
     for (const tarn::reflect::RecordOperations &r : tarn::reflect::records()) {
         void *source = r.create(h, 1), *target = r.create(h, 1);

@@ -57,7 +57,7 @@ TEST_P(Copies, EveryKindOfCopyEqualsItsSource) {
     }
 }
 
-TEST_P(Copies, WhatIsMissingIsNotFound) {
+TEST_P(Copies, NullArgumentsGiveEnoent) {
     for (const RecordTable &table : reference::records()) {
         const Instance source(handle, table.name);
         std::uint8_t buffer[8];
@@ -84,7 +84,7 @@ TEST_P(Copies, WhatIsMissingIsNotFound) {
     }
 }
 
-TEST_P(Copies, UnderASetErrorNothingIsCopied) {
+TEST_P(Copies, NothingIsCopiedIfTheErrorIsSet) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_dp_tc_list")));
     const Instance target(handle, "lumo_tarn_dp_tc_list");
     const std::size_t blocks = handle.live_blocks();
@@ -104,7 +104,7 @@ TEST_P(Copies, UnderASetErrorNothingIsCopied) {
     EXPECT_TRUE(bridge::same(Record("lumo_tarn_dp_tc_list"), target.value()));
 }
 
-TEST_P(Copies, AWorkspaceThatIsTooSmallGivesNothing) {
+TEST_P(Copies, AWorkspaceThatIsTooSmallFails) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_dp_tc_list")));
     const std::size_t blocks = handle.live_blocks();
     // States alone may be missing at the end without an error, and the last element ends in front of them.
@@ -119,7 +119,7 @@ TEST_P(Copies, AWorkspaceThatIsTooSmallGivesNothing) {
     EXPECT_EQ(source.header()->tinfo->variant_info->entries[0].num_created, created);
 }
 
-TEST_P(Copies, WhatExceedsTheHandlesWorkspaceGivesNothing) {
+TEST_P(Copies, AStickyCopyLargerThanTheWorkspaceFails) {
     const Record value =
         Generator(3, {.min_elements = 400, .max_elements = 400, .budget = 1U << 20}).make("lumo_tarn_dp_tc_list");
     ASSERT_GT(reference::encode(value, false).size(), 65536U);
@@ -138,7 +138,7 @@ TEST_P(Copies, WhatExceedsTheHandlesWorkspaceGivesNothing) {
     EXPECT_TRUE(bridge::same(Record("lumo_tarn_dp_tc_list"), target.value()));
 }
 
-TEST_P(Copies, AFailedCopyEndsADestinationThatWasHandedIn) {
+TEST_P(Copies, AFailedCopyDestroysTheCallersDestination) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_dp_tc_list")));
     const std::size_t blocks = handle.live_blocks();
     Instance target(handle, "lumo_tarn_dp_tc_list");
@@ -149,7 +149,7 @@ TEST_P(Copies, AFailedCopyEndsADestinationThatWasHandedIn) {
 }
 
 // The element that a copy fails into is ended, stays in its array, and is ended once more with it.
-TEST_P(Copies, AFailedCopyIntoAnElementEndsItAndKeepsItsPlace) {
+TEST_P(Copies, AFailedCopyIntoAnElementDestroysItAndKeepsItsMemory) {
     const Instance list(handle, "lumo_tarn_lumo_info_list");
     const auto &elements = list.record().members.back();
     const Instance value(handle, rich_value(reference::record_table("lumo_tarn_lumo_info")));
@@ -170,7 +170,7 @@ TEST_P(Copies, AFailedCopyIntoAnElementEndsItAndKeepsItsPlace) {
     mirk_clear_last_error(handle);
 }
 
-TEST_P(Copies, ACopyIntoNothingMakesAnInstanceThatNobodyReceives) {
+TEST_P(Copies, ACopyIntoNullCreatesAnInstanceThatIsLost) {
     const Instance source(handle, "lumo_tarn_exmem_info");
     const std::size_t blocks = handle.live_blocks();
     source.record().copy_cr(handle, source.get(), nullptr);
@@ -188,7 +188,7 @@ TEST_P(Copies, BlocksOfAnOccupiedDestinationAreLost) {
     handle.expect_lost_blocks(2);  // two strings
 }
 
-TEST_P(Copies, WhatWasNotSentStaysAsItWas) {
+TEST_P(Copies, MembersMissingInTheFrameKeepTheirValues) {
     const Instance source(handle, "lumo_tarn_cl_kesh_appl");
     source.header()->variant = -1;
     Record value("lumo_tarn_cl_kesh_appl");
@@ -199,7 +199,7 @@ TEST_P(Copies, WhatWasNotSentStaysAsItWas) {
     EXPECT_EQ(target.value()["tarn_id"].number, 77U);
 }
 
-TEST_P(Copies, StickyCopiesAllocateUnderTheDefaultId) {
+TEST_P(Copies, StickyCopiesAllocateWithTheDefaultId) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_cl_kesh_appl")));
     handle->default_id = 31;
     std::size_t before = handle.live_blocks();
@@ -210,7 +210,7 @@ TEST_P(Copies, StickyCopiesAllocateUnderTheDefaultId) {
     for (; before < blocks.size(); ++before) EXPECT_EQ(blocks[before].ctx_id, 31U);
 }
 
-TEST_P(Copies, AnElementAheadOfTheDomainEndsTheCopy) {
+TEST_P(Copies, AnElementNewerThanTheDomainFailsTheCopy) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_dp_tc_list")));
     const std::size_t blocks = handle.live_blocks();
     mirk_platform_domain_set_variant(handle, bridge::operations("lumo_tarn_dp_tc").type->luid, -1);

@@ -31,7 +31,7 @@ protected:
     std::vector<std::pair<const RecordOperations *, void *>> objects;
 };
 
-TEST_F(CorruptHandleDeathTest, InSizeAndCreation) {
+TEST_F(CorruptHandleDeathTest, SizeAndCreationAbort) {
     for (std::uint32_t mode : {0u, 0xDDDEu, 0xEEEEEEEEu}) {
         spoil(mode);
         expect_the_end([&] { record("lumo_tarn_debug_setting").sizeof_(h); });
@@ -45,7 +45,7 @@ TEST_F(CorruptHandleDeathTest, InSizeAndCreation) {
     expect_the_end([&] { tarn::reflect::messages()[0].create(h, id); });
 }
 
-TEST_F(CorruptHandleDeathTest, InEveryKindOfMemberWrite) {
+TEST_F(CorruptHandleDeathTest, EveryKindOfMemberWriteAborts) {
     const RecordOperations &flat = record("lumo_tarn_debug_setting"), &ll = record("lumo_tarn_dp_ll_spec"),
                            &tc = record("lumo_tarn_dp_tc"), &text_record = record("lumo_tarn_cl_kesh_appl");
     void *f = make(flat), *l = make(ll), *t = make(tc), *s = make(text_record), *other = make(tc);
@@ -59,7 +59,7 @@ TEST_F(CorruptHandleDeathTest, InEveryKindOfMemberWrite) {
     expect_the_end([&] { member(text_record, "proto_name").text_set(h, id, s, "a", 1, &err); });
 }
 
-TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
+TEST_F(CorruptHandleDeathTest, EveryStateOperationAborts) {
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     const MemberOperations &m = member(r, "tc_list");
     void *object = make(r), *flat = make(record("lumo_tarn_debug_setting"));
@@ -76,7 +76,7 @@ TEST_F(CorruptHandleDeathTest, InEveryStateOperation) {
     expect_the_end([&] { record("lumo_tarn_debug_setting").members[0].state_flag_set(h, id, flat, 1, &err); });
 }
 
-TEST_F(CorruptHandleDeathTest, InAssignmentArrayGrowthAndEncoding) {
+TEST_F(CorruptHandleDeathTest, AssignmentArrayGrowthAndEncodingAbort) {
     const RecordOperations &r = record("lumo_tarn_debug_setting"), &list = record("lumo_tarn_dp_tc_list");
     void *object = make(r), *other = make(r), *l = make(list), *element = make(record("lumo_tarn_dp_tc"));
     spoil();
@@ -89,7 +89,7 @@ TEST_F(CorruptHandleDeathTest, InAssignmentArrayGrowthAndEncoding) {
     expect_the_end([&] { r.to_xml(h, id, "a", buffer, object, sizeof buffer, 0, &err); });
 }
 
-TEST_F(CorruptHandleDeathTest, IsNotNoticedByReadsTextAndDestruction) {
+TEST_F(CorruptHandleDeathTest, ReadsTextAndDestructionDoNotNotice) {
     const RecordOperations &r = record("lumo_tarn_dp_tc");
     void *object = r.create(h, id);
     spoil();
@@ -103,7 +103,7 @@ TEST_F(CorruptHandleDeathTest, IsNotNoticedByReadsTextAndDestruction) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST_F(CorruptHandleDeathTest, IsPassedOverWhenAllStateIsFilled) {
+TEST_F(CorruptHandleDeathTest, FillingAllStateIgnoresIt) {
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
         Events events(h);

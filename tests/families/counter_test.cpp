@@ -100,7 +100,7 @@ private:
     int (*count_)(void *, std::uint64_t *, std::int64_t, std::uint32_t);
 };
 
-TEST(Counters, WhoReplacesTheNotificationsHearsWhatTheRuntimeHears) {
+TEST(Counters, ReplacedNotificationsGetWhatTheRuntimeGets) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -151,7 +151,7 @@ TEST(Counters, ElementsCountLikeAnyInstance) {
     EXPECT_EQ(entry(*element.type).num_destroyed, before.num_destroyed + 5);
 }
 
-TEST(Counters, ANegativeVariantCountsInAnEntryOfItsOwn) {
+TEST(Counters, ANegativeVariantHasItsOwnCounters) {
     for (std::uint32_t private_types : {0u, 1u}) {
         Handle h({.tracking = Tracking::none, .private_types = private_types});
         each_record([&](const RecordOperations &r) {
@@ -197,7 +197,7 @@ TEST(Counters, AVariantAboveTheHighestIsCapped) {
     });
 }
 
-TEST(Counters, AnObjectAdjustedAboveTheHighestVariantIsCountedDownInTheHighest) {
+TEST(Counters, AnObjectAdjustedAboveTheHighestVariantIsCountedInTheHighest) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
@@ -214,7 +214,7 @@ TEST(Counters, AnObjectAdjustedAboveTheHighestVariantIsCountedDownInTheHighest) 
     });
 }
 
-TEST(Counters, ADamagedNumberOfVariantsIsNoted) {
+TEST(Counters, ADamagedNumberOfVariantsIsTraced) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     r.type->variant_info->n_variants = -1;
@@ -245,7 +245,7 @@ TEST(Counters, APrivateCopyCountsAndTheModulesRecordDoesNot) {
     });
 }
 
-TEST(Counters, EachChangeIsAnnouncedBeforeItHappens) {
+TEST(Counters, EachChangeIsNotifiedBeforeItHappens) {
     Handle h;
     struct Seen {
         std::vector<std::int64_t> deltas;
@@ -278,7 +278,7 @@ TEST(Counters, EachChangeIsAnnouncedBeforeItHappens) {
 }
 
 // The module's own records are shared by all handles, whatever thread they are on.
-TEST(Counters, OfTheModulesRecordsAreExactOnSeveralThreads) {
+TEST(Counters, SharedCountersAreExactOnSeveralThreads) {
     constexpr std::uint64_t rounds = 20000;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     const mirk_variant_entry before = entry(*r.type);

@@ -10,7 +10,7 @@ namespace {
 
 using DestroySequence = Sequence;
 
-TEST_F(DestroySequence, OfAFreshObject) {
+TEST_F(DestroySequence, ANewObjectIsCountedThenReleased) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
@@ -24,7 +24,7 @@ TEST_F(DestroySequence, OfAFreshObject) {
     }
 }
 
-TEST_F(DestroySequence, OfAnObjectWithAPlaceOfItsOwn) {
+TEST_F(DestroySequence, ARecordedOffsetIsRemoved) {
     for (std::uint32_t mapping : {0u, 1u}) {
         Handle h({Tracking::on, 0, mapping});
         each_record([&](const RecordOperations &r) {
@@ -39,7 +39,7 @@ TEST_F(DestroySequence, OfAnObjectWithAPlaceOfItsOwn) {
     }
 }
 
-TEST_F(DestroySequence, RaDataAloneIsAMappingToo) {
+TEST_F(DestroySequence, RaDataAloneIsRemovedToo) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *object = make_object(h, r);
@@ -50,7 +50,7 @@ TEST_F(DestroySequence, RaDataAloneIsAMappingToo) {
                      "write_notify object 8", "obj_free object"}));
 }
 
-TEST_F(DestroySequence, TheThreeOutcomesOfAMappedObject) {
+TEST_F(DestroySequence, AMappedObjectFailsStaysOrIsDestroyed) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         forget();
@@ -76,7 +76,7 @@ TEST_F(DestroySequence, TheThreeOutcomesOfAMappedObject) {
     });
 }
 
-TEST_F(DestroySequence, AMappingThatStaysKeepsTheBlock) {
+TEST_F(DestroySequence, AFailedRemovalKeepsTheBlock) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *object = make_object(h, r);
@@ -91,7 +91,7 @@ TEST_F(DestroySequence, AMappingThatStaysKeepsTheBlock) {
                      "mirk_store_err 71"}));
 }
 
-TEST_F(DestroySequence, OfStrings) {
+TEST_F(DestroySequence, StringsAreReleasedBeforeTheirPointersAreCleared) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_cl_kesh_appl");
     void *object = make_object(h, r);
@@ -107,7 +107,7 @@ TEST_F(DestroySequence, OfStrings) {
     EXPECT_EQ(lines[3], "write_notify " + second + " 8");
 }
 
-TEST_F(DestroySequence, OfAnArrayTakesElementsThenTheBlockThenTheVector) {
+TEST_F(DestroySequence, AnArrayIsDestroyedElementsFirstThenBlockThenVector) {
     for (Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({tracking});
         const bool on = tracking == Tracking::on;

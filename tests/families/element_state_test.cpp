@@ -43,7 +43,7 @@ TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
     });
 }
 
-TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
+TEST(ElementStates, AnIndexPastTheEndFailsWithoutATrace) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2);
@@ -63,7 +63,7 @@ TEST(ElementStates, AnIndexBeyondTheEndIsRefusedWithoutALine) {
     });
 }
 
-TEST(ElementStates, AreRefusedWithoutTrackingAndForUntrackedObjects) {
+TEST(ElementStates, FailWithoutTrackingAndForUntrackedObjects) {
     Handle off(Tracking::off), none(Tracking::none);
     each_array([&](const ArraySubject &s) {
         for (mirk_handle *h : {static_cast<mirk_handle *>(off), static_cast<mirk_handle *>(none)}) {
@@ -99,7 +99,7 @@ void mark_vectors(const RecordOperations &r, std::uint32_t base, std::vector<boo
     }
 }
 
-TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
+TEST(ElementStates, SettingAllWritesTheStartOfTheAreaAndSkipsVectors) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         for (std::uint32_t n : {1u, 3u, 8u, 17u, 120u}) {
@@ -124,7 +124,7 @@ TEST(ElementStates, SettingThemAllWritesTheStartOfTheAreaAndStepsOverVectors) {
     });
 }
 
-TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
+TEST(ElementStates, SettingAllRequiresTheExactCount) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 3);
@@ -144,7 +144,7 @@ TEST(ElementStates, SettingThemAllWantsExactlyTheCount) {
     });
 }
 
-TEST(ElementStates, AFilledVectorWordIsAStateAndNoAddress) {
+TEST(ElementStates, AFilledVectorWordIsAStateAndNotAnAddress) {
     Handle h(Tracking::on);
     each_array([&](const ArraySubject &s) {
         void *object = with_elements(h, s, 2), *value = s.e.create(h, id);

@@ -70,7 +70,7 @@ TEST(EnumerationWire, AVariantAbove0IsWrittenAndReadAs0) {
     });
 }
 
-TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
+TEST(EnumerationWire, AnOlderDomainRefusesOrDowngrades) {
     for (const bool lenient : {false, true}) {
         const Handle h(kit::Options{.lenient = lenient});
         for_each_enumeration([&](const EnumerationOperations &e) {
@@ -87,7 +87,7 @@ TEST(EnumerationWire, ADomainWithAnOlderVariantRefusesOrLowers) {
     }
 }
 
-TEST(EnumerationWire, TooLittleRoomIsAnError) {
+TEST(EnumerationWire, ABufferThatIsTooSmallFails) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const EnumerationObject one(h, e, 2);
@@ -170,7 +170,7 @@ TEST(EnumerationText, NamesTheEnumerator) {
     });
 }
 
-TEST(EnumerationXml, HoldsTheEnumeratorsElement) {
+TEST(EnumerationXml, ContainsTheEnumeratorsElement) {
     const Handle h(Tracking::on);
     EnumerationObject state(h, ha_state(), 2);
     EXPECT_EQ(to_xml(h, ha_state(), state, "ha_state", 7).text(), "<ha_state><LUMO_TARN_HA_INIT_STATE/></ha_state>");
@@ -190,7 +190,7 @@ TEST(EnumerationXml, HoldsTheEnumeratorsElement) {
     });
 }
 
-TEST(EnumerationText, ABufferThatIsTooSmallIsToldAndNeverPassed) {
+TEST(EnumerationText, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : {0u, bound(e)}) {
@@ -262,7 +262,7 @@ TEST(EnumerationXml, ReadsEachEnumeratorBack) {
     });
 }
 
-TEST(EnumerationXml, OfTwoEnumeratorsTheLowerCounts) {
+TEST(EnumerationXml, TheLowerOfTwoEnumeratorsWins) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const EnumerationObject one(h, e);
@@ -271,7 +271,7 @@ TEST(EnumerationXml, OfTwoEnumeratorsTheLowerCounts) {
     });
 }
 
-TEST(EnumerationXml, AnUnknownOrMissingElementLeavesTheValue) {
+TEST(EnumerationXml, AnUnknownOrMissingElementKeepsTheValue) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const char *text : {"<x><NO_SUCH_STATE/></x>", "<x>1</x>", "<x/>", "<y/>"}) {
@@ -286,7 +286,7 @@ TEST(EnumerationXml, AnUnknownOrMissingElementLeavesTheValue) {
     });
 }
 
-TEST(EnumerationXml, AnyOtherErrorIsToldInTheMessageBuffer) {
+TEST(EnumerationXml, OtherErrorsAreWrittenToTheMessageBuffer) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const std::string name(e.enumeration->enumerators[1]);
@@ -313,7 +313,7 @@ TEST(EnumerationXml, AnyOtherErrorIsToldInTheMessageBuffer) {
 }
 
 // A record hands its message buffer down, ends its walk there, and passes the error on.
-TEST(EnumerationXml, AFailedLookUpEndsTheWalkOfTheRecord) {
+TEST(EnumerationXml, AFailedLookUpStopsTheReadOfTheRecord) {
     const Handle h;
     const Instance info(h, "lumo_tarn_lumo_info");
     const std::string long_text(128, 'q');

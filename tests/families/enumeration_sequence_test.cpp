@@ -37,7 +37,7 @@ protected:
     lumo_tarn_mem_desc_e *object;
 };
 
-TEST_F(EnumerationSequence, CreationAllocatesAnnouncesAndCounts) {
+TEST_F(EnumerationSequence, CreationAllocatesNotifiesAndCounts) {
     recording::clear_names();
     lumo_tarn_mem_desc_e *other = lumo_tarn_mem_desc_e_create(h, id);
     EXPECT_EQ(recording::lines(),
@@ -52,14 +52,14 @@ TEST_F(EnumerationSequence, CreationAllocatesAnnouncesAndCounts) {
                                                      "write_notify block1 8 ctx=7", "obj_free block1 ctx=7"}));
 }
 
-TEST_F(EnumerationSequence, InitializeWithoutNoticeAnnouncesCountersOnly) {
+TEST_F(EnumerationSequence, InitializeWithoutNotifyOnlyNotifiesCounters) {
     lumo_tarn_mem_desc_e_initialize(h, id, object, &_lumo_tarn_mem_desc_e_type_info_internal, 0, 0, 2, nullptr, &err);
     EXPECT_EQ(
         recording::lines_of({"write_notify", "count_notify"}),
         (Lines{"count_notify lumo_tarn_mem_desc_e.num_created 1", "count_notify lumo_tarn_mem_desc_e.num_live 1"}));
 }
 
-TEST_F(EnumerationSequence, SettersAdjustAskAnnounceAndMark) {
+TEST_F(EnumerationSequence, SettersAdjustCheckNotifyAndMark) {
     lumo_tarn_mem_desc_e_set_value(h, id, object, 2, &err);
     EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0 ctx=7 err=slot",
@@ -106,7 +106,7 @@ TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
 }
 
 // The value is announced behind its first store.
-TEST_F(EnumerationSequence, UnmarshalAnnouncesTheValueLast) {
+TEST_F(EnumerationSequence, UnmarshalNotifiesTheValueLast) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
     recording::clear_log();
     lumo_tarn_mem_desc_e_unmarshal(h, id, buffer, object, 100, 1, &err);
@@ -114,7 +114,7 @@ TEST_F(EnumerationSequence, UnmarshalAnnouncesTheValueLast) {
                                          "u_int32_unmarshal buffer+1 object+12 99 1", "write_notify object+12 4"}));
 }
 
-TEST_F(EnumerationSequence, UnmarshalBindsAPrivateTypeOnAHandleThatHasSome) {
+TEST_F(EnumerationSequence, UnmarshalBindsThePrivateType) {
     Handle own({.private_types = 1});
     lumo_tarn_mem_desc_e *mine = lumo_tarn_mem_desc_e_create(own, id);
     lumo_tarn_mem_desc_e_marshal(own, id, buffer, mine, 100, &err);
@@ -142,7 +142,7 @@ TEST_F(EnumerationSequence, PrintWritesThreePieces) {
                      "mirk_snprintf buffer+42 58 LUMO_TARN_MP_MEM\\n ctx=9 err=last_error"}));
 }
 
-TEST_F(EnumerationSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
+TEST_F(EnumerationSequence, NoCallIsMadeIfTheErrorIsSet) {
     err = 5;
     EXPECT_EQ(lumo_tarn_mem_desc_e_print(h, id, buffer, 2, "x", object, 200, &err), 0u);
     EXPECT_EQ(lumo_tarn_mem_desc_e_to_xml(h, id, "x", buffer, object, 200, 0, &err), 0u);
@@ -165,7 +165,7 @@ TEST_F(EnumerationSequence, XmlPassesNoState) {
               Lines{"xml_enum_print buffer+10 <lumo_tarn_mem_desc_e value out of range/> 90 42"});
 }
 
-TEST_F(EnumerationSequence, ReadingLooksForOneEnumeratorAfterTheOther) {
+TEST_F(EnumerationSequence, XmlIsSearchedForEachEnumeratorInOrder) {
     Element document{"r", "", {}};
     document.add("m").add("LUMO_TARN_TT_MEM");
     lumo_tarn_mem_desc_e_from_xml(h, id, "//r/m", &document, object, &err, buffer, sizeof buffer);
@@ -187,7 +187,7 @@ TEST_F(EnumerationSequence, ReadingLooksForOneEnumeratorAfterTheOther) {
     EXPECT_STREQ(buffer, "Failed xpath: //r/m");
 }
 
-TEST_F(EnumerationSequence, ValueOperations) {
+TEST_F(EnumerationSequence, ValueOperationsMakeOnlyTheirOwnCalls) {
     lumo_tarn_mem_desc_e_hash(object, 5);
     lumo_tarn_mem_desc_e_is_valid_cr(h, 5);
     recording::set_modified(object, true);
@@ -205,7 +205,7 @@ TEST_F(EnumerationSequence, ValueOperations) {
                      "write_notify object+10 1"}));
 }
 
-TEST_F(EnumerationSequence, NullHasNoMarkToAskFor) {
+TEST_F(EnumerationSequence, NullIsTracedWithoutAskingForAMark) {
     mirk_lumo_ui_tarn_type_trace_init();  // no enumeration does so by itself
     recording::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_backpropagate(h, id, nullptr, nullptr), 0u);

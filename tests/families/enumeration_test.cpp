@@ -15,7 +15,7 @@ void for_each_enumeration(Test &&test) {
     }
 }
 
-TEST(Enumeration, AFreshInstanceHasTheFirstValue) {
+TEST(Enumeration, ANewInstanceHasTheFirstValue) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (auto *create : {e.create, e.create_internal}) {
@@ -38,7 +38,7 @@ TEST(Enumeration, AFreshInstanceHasTheFirstValue) {
     });
 }
 
-TEST(Enumeration, IsCountedWhenItComesAndGoes) {
+TEST(Enumeration, CreationAndDestructionAreCounted) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const mirk_variant_entry before = e.type->variant_info->entries[0];
@@ -65,7 +65,7 @@ TEST(Enumeration, IsCountedWhenItComesAndGoes) {
     });
 }
 
-TEST(Enumeration, WithoutMemoryThereIsNoneOrTheSentinel) {
+TEST(Enumeration, AFailedAllocationGivesNullOrTheSentinel) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 1);
@@ -125,7 +125,7 @@ TEST(EnumerationDeathTest, ATypeWithoutVariantsIsFatal) {
     });
 }
 
-TEST(Enumeration, AVariantBeyondThoseOfTheTypeIsTraced) {
+TEST(Enumeration, AVariantThatTheTypeLacksIsTraced) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const std::int8_t known = e.type->variant_info->n_variants;
@@ -221,7 +221,7 @@ TEST(Enumeration, HoldsNoReferences) {
     });
 }
 
-TEST(Enumeration, TheValueIsReadWithoutAGate) {
+TEST(Enumeration, TheValueIsReadWithoutABody) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const EnumerationObject one(h, e, 2);
@@ -240,7 +240,7 @@ TEST(Enumeration, TheValueIsReadWithoutAGate) {
     });
 }
 
-TEST(Enumeration, NothingIsReadIntoNothing) {
+TEST(Enumeration, ReadingIntoNullFailsWithEinval) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         std::uint8_t frame[6] = {};
@@ -252,7 +252,7 @@ TEST(Enumeration, NothingIsReadIntoNothing) {
     });
 }
 
-TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
+TEST(Enumeration, SettersRefuseValuesWithoutAnEnumerator) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         EnumerationObject one(h, e);
@@ -293,7 +293,7 @@ TEST(Enumeration, SettersRefuseWhatNoEnumeratorHas) {
     });
 }
 
-TEST(Enumeration, AWholeAssignmentTakesTheHeaderToo) {
+TEST(Enumeration, AssignmentCopiesTheHeader) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         const EnumerationObject one(h, e);
@@ -318,7 +318,7 @@ TEST(Enumeration, AWholeAssignmentTakesTheHeaderToo) {
 }
 
 // Signed here and unsigned in the setters.
-TEST(Enumeration, ValidityIsAskedOfASignedNumber) {
+TEST(Enumeration, ValidityTreatsTheValueAsSigned) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::int8_t variant : {std::int8_t{-1}, std::int8_t{0}, std::int8_t{1}}) {
@@ -336,7 +336,7 @@ TEST(Enumeration, ValidityIsAskedOfASignedNumber) {
     });
 }
 
-TEST(Enumeration, OrderIsTheDistance) {
+TEST(Enumeration, CompareReturnsTheDifference) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         EnumerationObject a(h, e, 2);
@@ -360,7 +360,7 @@ std::array<std::uint8_t, 4> least_significant_first(std::uint32_t value) {
             static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)};
 }
 
-TEST(Enumeration, TheHashIsThatOfTheFourBytesLeastSignificantFirst) {
+TEST(Enumeration, TheHashCoversFourBytesLeastSignificantFirst) {
     const Handle h;
     for_each_enumeration([&](const EnumerationOperations &e) {
         for (const std::uint32_t value : {0u, 2u, 0x01020304u}) {

@@ -42,7 +42,7 @@ void call_all(mirk_handle *h, const MemberOperations &m, void *object, void *sou
     if (m.element_state_flag_set_arr != nullptr) m.element_state_flag_set_arr(h, id, object, &byte, 1, err);
 }
 
-TEST(Guard, ASetSlotStopsEveryAccessor) {
+TEST(Guard, EveryAccessorIsANoOpIfTheSlotIsSet) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5, {1, 1, false});
@@ -65,7 +65,7 @@ TEST(Guard, ASetSlotStopsEveryAccessor) {
     });
 }
 
-TEST(Guard, ASetSlotStopsTheWholeRecordAccessors) {
+TEST(Guard, WholeRecordAccessorsAreNoOpsIfTheSlotIsSet) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
@@ -88,7 +88,7 @@ TEST(Guard, ASetSlotStopsTheWholeRecordAccessors) {
     });
 }
 
-TEST(Guard, AnExplicitCallWithACleanSlotEndsTheStickyError) {
+TEST(Guard, AnExplicitCallWithAClearSlotClearsTheStickyError) {
     Handle h;
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         void *object = r.create(h, id);
@@ -108,7 +108,7 @@ TEST(Guard, AnExplicitCallWithACleanSlotEndsTheStickyError) {
     });
 }
 
-TEST(Guard, StateBytesAreReadWithoutEndingTheStickyError) {
+TEST(Guard, ReadingStateBytesKeepsTheStickyError) {
     Handle h(Tracking::on);
     const RecordOperations &r = record("lumo_tarn_debug_setting");
     void *object = r.create(h, id);
@@ -122,7 +122,7 @@ TEST(Guard, StateBytesAreReadWithoutEndingTheStickyError) {
     r.destroy(h, id, object);
 }
 
-TEST(StickyChain, AFailedCreateGivesTheSentinelAndEverythingBehindItDoesNothing) {
+TEST(StickyChain, AFailedCreateGivesTheSentinelAndLaterCallsAreNoOps) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         h->last_error = 0;
@@ -159,7 +159,7 @@ TEST(StickyChain, AFailedCreateGivesTheSentinelAndEverythingBehindItDoesNothing)
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(StickyChain, ValidityIsStillAnsweredAndDestroyStillDestroys) {
+TEST(StickyChain, ValidityAndDestroyStillWork) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         void *object = r.create_cr(h);
@@ -188,7 +188,7 @@ TEST(StickyChain, CopiesNothing) {
     r.destroy(h, id, destination);
 }
 
-TEST(StickyChain, GoesOnAfterAnExplicitCall) {
+TEST(StickyChain, ContinuesAfterAnExplicitCall) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     h.fail_alloc(1);
@@ -207,7 +207,7 @@ TEST(StickyChain, GoesOnAfterAnExplicitCall) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(Sentinel, IsOneZeroedPlaceForEachType) {
+TEST(Sentinel, EachTypeHasOneOfZeros) {
     std::set<void *> all;
     each_record([&](const RecordOperations &r) {
         void *place = sentinel(r);
@@ -223,7 +223,7 @@ TEST(Sentinel, IsOneZeroedPlaceForEachType) {
     EXPECT_EQ(all.size(), tarn::reflect::records().size() + tarn::reflect::enumerations().size());
 }
 
-TEST(Sentinel, DestroyingItDoesNothingAtAll) {
+TEST(Sentinel, DestroyingItDoesNothing) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         const mirk_variant_entry before = entry(*r.type);
@@ -240,7 +240,7 @@ TEST(Sentinel, DestroyingItDoesNothingAtAll) {
     });
 }
 
-TEST(StickyCreate, LeavesTheModeAtZeroWhateverItWas) {
+TEST(StickyCreate, AlwaysLeavesTheModeAtZero) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         h->cr_mode = 7;

@@ -21,7 +21,7 @@ protected:
     }
 };
 
-TEST_P(FailingAllocations, APartlyReadInstanceIsWholeAgainAfterAnotherRead) {
+TEST_P(FailingAllocations, APartlyReadInstanceIsCompleteAfterAnotherRead) {
     const Record value = rich_value(table());
     for (const Tracking tracking : kit::every_tracking) {
         for (const bool sender_tracks : {false, true}) {

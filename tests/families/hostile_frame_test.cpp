@@ -34,7 +34,7 @@ TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
     }
 }
 
-TEST(HostileFrame, AJumpOfANestedFrameBehindTheEndLeavesNothingToRead) {
+TEST(HostileFrame, ANestedJumpPastTheEndLeavesNothingToRead) {
     const Handle handle(Tracking::on);
     const Record value = rich_value(reference::record_table("lumo_tarn_exmem_info_wrapper"));
     for (const std::uint32_t jump : jumps) {
@@ -52,7 +52,7 @@ TEST(HostileFrame, AJumpOfANestedFrameBehindTheEndLeavesNothingToRead) {
     }
 }
 
-TEST(HostileFrame, AnElementThatJumpsBehindTheEndStarvesTheNextOnes) {
+TEST(HostileFrame, AnElementThatJumpsPastTheEndLeavesNothingForTheNext) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         const Record value = rich_value(reference::record_table("lumo_tarn_dp_debug_setting_data"));
@@ -86,7 +86,7 @@ TEST(HostileFrame, AFrameOfAnyOtherRecordFailsOrFillsMembers) {
     }
 }
 
-TEST(HostileFrame, ANegativeVariantAtAnyDepthCountsInAnEntryThatExists) {
+TEST(HostileFrame, ANegativeVariantAtAnyDepthHasACounterEntry) {
     for (const Tracking tracking : kit::every_tracking) {
         for (const bool private_types : {false, true}) {
             const Handle handle({.tracking = tracking, .private_types = private_types});
@@ -109,7 +109,7 @@ TEST(HostileFrame, ANegativeVariantAtAnyDepthCountsInAnEntryThatExists) {
     }
 }
 
-TEST(HostileFrame, WhatAFrameDoesNotHoldStaysAsItWas) {
+TEST(HostileFrame, MembersMissingInTheFrameKeepTheirValues) {
     const Handle handle(Tracking::on);
     const Record before = rich_value(reference::record_table("lumo_tarn_exmem_info"), 1);
     const Record sent = rich_value(reference::record_table("lumo_tarn_exmem_info"), 2);
@@ -124,7 +124,7 @@ TEST(HostileFrame, WhatAFrameDoesNotHoldStaysAsItWas) {
     }
 }
 
-TEST(HostileFrame, WithoutAVectorStatesReadAs0AndWritesAreDropped) {
+TEST(HostileFrame, StatesWithoutAVectorReadAs0AndIgnoreWrites) {
     const Handle handle(Tracking::on);
     const Record value = rich_value(reference::record_table("lumo_tarn_dp_appl_list"));
     ASSERT_EQ(value["appl_list"].items.size(), 2U);
@@ -144,7 +144,7 @@ TEST(HostileFrame, WithoutAVectorStatesReadAs0AndWritesAreDropped) {
 }
 
 // Elements whose states were taken from directly behind them would get those of a neighbour.
-TEST(HostileFrame, StatesOfElementsAreTheirOwnWhateverFlagsTheirFramesHave) {
+TEST(HostileFrame, ElementStatesDoNotOverlapWhateverTheFlagsInTheirFrames) {
     const Handle handle(Tracking::on);
     const Record value = rich_value(reference::record_table("lumo_tarn_dp_debug_setting_data"));
     const auto &elements = value["lumo_data"].items;
@@ -164,7 +164,7 @@ TEST(HostileFrame, StatesOfElementsAreTheirOwnWhateverFlagsTheirFramesHave) {
     }
 }
 
-TEST(HostileFrame, CountsAreNotRefusedButCostTheCeiling) {
+TEST(HostileFrame, CountsAreOnlyLimitedByTheCeiling) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle({.tracking = tracking, .request_ceiling = 65536, .total_ceiling = 1U << 20});
         for (const RecordTable &table : reference::records()) {
@@ -182,7 +182,7 @@ TEST(HostileFrame, CountsAreNotRefusedButCostTheCeiling) {
     }
 }
 
-TEST(HostileFrame, RuntimeEntriesOfReleasedInstancesAreGone) {
+TEST(HostileFrame, DestroyedInstancesLeaveNoRuntimeEntries) {
     const Handle handle(Tracking::on);
     for (const RecordTable &table : reference::records()) {
         Record value = rich_value(table);

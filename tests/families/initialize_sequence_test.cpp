@@ -9,7 +9,7 @@ namespace {
 
 using InitializeSequence = Sequence;
 
-TEST_F(InitializeSequence, OfCreate) {
+TEST_F(InitializeSequence, CreateAllocatesThenInitializesDepthFirst) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         each_record([&](const RecordOperations &r) {
             Handle h({tracking});
@@ -28,7 +28,7 @@ TEST_F(InitializeSequence, OfCreate) {
     }
 }
 
-TEST_F(InitializeSequence, UnderTheIdOfTheCall) {
+TEST_F(InitializeSequence, AllCallsGetTheIdOfTheCall) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         for (bool sticky : {false, true}) {
@@ -43,7 +43,7 @@ TEST_F(InitializeSequence, UnderTheIdOfTheCall) {
     });
 }
 
-TEST_F(InitializeSequence, WithPrivateTypes) {
+TEST_F(InitializeSequence, PrivateTypesAreBoundAfterTheVariant) {
     each_record([&](const RecordOperations &r) {
         Handle h({Tracking::on, 1});
         recording::pause();
@@ -57,7 +57,7 @@ TEST_F(InitializeSequence, WithPrivateTypes) {
 }
 
 // In storage of the test's own, with the area behind the object.
-TEST_F(InitializeSequence, WithAndWithoutAnnouncementsAndCounts) {
+TEST_F(InitializeSequence, NotificationsAndCountsCanBeSkipped) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
@@ -80,7 +80,7 @@ TEST_F(InitializeSequence, WithAndWithoutAnnouncementsAndCounts) {
     }
 }
 
-TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
+TEST_F(InitializeSequence, NestedObjectsRecordOffsetsIfTheyHaveOne) {
     for (Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
@@ -107,7 +107,7 @@ TEST_F(InitializeSequence, OfNestedObjectsWithAndWithoutAPlaceOfTheirOwn) {
     }
 }
 
-TEST_F(InitializeSequence, EndsAtAMissingStateBase) {
+TEST_F(InitializeSequence, AMissingStateBaseStopsBeforeTheMembers) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
@@ -126,7 +126,7 @@ TEST_F(InitializeSequence, EndsAtAMissingStateBase) {
     });
 }
 
-TEST_F(InitializeSequence, WithoutMemory) {
+TEST_F(InitializeSequence, AFailedAllocationStopsAtOnce) {
     each_record([&](const RecordOperations &r) {
         Handle h({Tracking::none});
         const std::string asked = "obj_alloc " + std::to_string(table(r).base);
@@ -139,7 +139,7 @@ TEST_F(InitializeSequence, WithoutMemory) {
     });
 }
 
-TEST_F(InitializeSequence, OfAFailedCreateReleasesTheBlock) {
+TEST_F(InitializeSequence, AFailedCreateReleasesTheBlock) {
     Handle h({Tracking::on});
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
     h.knobs().variants["lumo_tarn_mem_desc_e"] = {0, EPROTO};
@@ -152,7 +152,7 @@ TEST_F(InitializeSequence, OfAFailedCreateReleasesTheBlock) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST_F(InitializeSequence, AnErrorThatWasThereIsPutBackAroundTheChildren) {
+TEST_F(InitializeSequence, AFailedMemberFailsAStickyCreate) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_dyn_exmem_info");
     h.knobs().variants["lumo_tarn_mem_desc_e"] = {0, EPROTO};
@@ -162,7 +162,7 @@ TEST_F(InitializeSequence, AnErrorThatWasThereIsPutBackAroundTheChildren) {
 }
 
 // A private copy that cannot be had leaves nothing to count in.
-TEST_F(InitializeSequence, WithoutAnAnswerForThePrivateTypeTheProcessEnds) {
+TEST_F(InitializeSequence, AMissingPrivateTypeAborts) {
     Handle h({Tracking::none, 1});
     h.knobs().no_type_info = true;
     EXPECT_EXIT(record("lumo_tarn_debug_setting").create(h, id), testing::KilledBySignal(SIGABRT),

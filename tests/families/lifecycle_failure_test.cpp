@@ -17,7 +17,7 @@ bool holds(const RecordOperations &r, Kind kind) {
     return false;
 }
 
-TEST(Lifecycle, AFailedLookUpIsLostForRecordsAndFailsCreateForEmbeddedEnumerations) {
+TEST(Lifecycle, AFailedLookUpIsClearedForRecordsAndFailsForEmbeddedEnumerations) {
     Handle h;
     std::uint32_t failed = 0, made = 0;
     each_record([&](const RecordOperations &r) {
@@ -55,7 +55,7 @@ TEST(Lifecycle, AFailedInitializeGivesNullEvenInAStickyCreate) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(Lifecycle, ChildrenAreAllInitialisedThoughOneFails) {
+TEST(Lifecycle, AllMembersAreInitializedEvenIfOneFails) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
     alignas(8) std::uint8_t object[256] = {};
@@ -68,7 +68,7 @@ TEST(Lifecycle, ChildrenAreAllInitialisedThoughOneFails) {
     r.destroy_internal(h, id, object, 0);
 }
 
-TEST(Lifecycle, AnErrorOfAChildReachesAStickySlotToo) {
+TEST(Lifecycle, AMembersErrorReachesAStickySlotToo) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
     alignas(8) std::uint8_t object[256] = {};
@@ -106,7 +106,7 @@ TEST(Lifecycle, ANestedObjectNeedsItsStateBase) {
     });
 }
 
-TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
+TEST(Lifecycle, AFailedMappingRemovalKeepsTheBlockButCountsIt) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = r.create(h, id);
@@ -138,7 +138,7 @@ TEST(Lifecycle, AMappingThatCannotBeRemovedKeepsTheBlockWithItsCountersDown) {
 
 using LifecycleDeathTest = testing::Test;
 
-TEST(LifecycleDeathTest, DestroyingAnObjectWithADamagedTypeEndsTheProcess) {
+TEST(LifecycleDeathTest, DestroyingAnObjectWithADamagedTypeAborts) {
     Handle h;
     for (const char *which : {"lumo_tarn_debug_setting", "lumo_tarn_dp_tc", "lumo_tarn_cl_kesh_appl"}) {
         const RecordOperations &r = record(which);

@@ -17,7 +17,7 @@ TEST(Lifecycle, SizeDependsOnTheHandlesMode) {
     });
 }
 
-TEST(Lifecycle, TheModeIsReadAfreshOnEachUse) {
+TEST(Lifecycle, TheModeIsReadOnEachUse) {
     Handle h(Tracking::off);
     const RecordOperations &r = record("lumo_tarn_dp_tc");
     EXPECT_EQ(r.sizeof_(h), 320u);
@@ -25,7 +25,7 @@ TEST(Lifecycle, TheModeIsReadAfreshOnEachUse) {
     EXPECT_EQ(r.sizeof_(h), 364u);
 }
 
-TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
+TEST(Lifecycle, CreateAllocatesOneZeroedBlockWithTheCallersId) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -54,7 +54,7 @@ TEST(Lifecycle, CreateTakesOneZeroedBlockUnderTheCallersId) {
     }
 }
 
-TEST(Lifecycle, AStickyCreateWorksUnderTheDefaultId) {
+TEST(Lifecycle, AStickyCreateUsesTheDefaultId) {
     Handle h;
     mirk_platform_handle_set_default_id(h, 90);
     Events events(h);
@@ -101,7 +101,7 @@ void expect_headers(const Handle &h, const RecordOperations &r, void *object, st
     }
 }
 
-TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
+TEST(Lifecycle, EachEmbeddedObjectHasItsHeaderAndItsPartOfTheStateArea) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -115,7 +115,7 @@ TEST(Lifecycle, EveryEmbeddedObjectHasItsHeaderAndItsPlaceInTheStateArea) {
     }
 }
 
-TEST(Lifecycle, GetIsTheIdentityWithoutAnyCheck) {
+TEST(Lifecycle, GetReturnsItsArgumentUnchecked) {
     Handle h;
     Events events(h);
     std::uint32_t err = EIO;
@@ -139,7 +139,7 @@ TEST(Lifecycle, DestroyOfNullDoesNothing) {
     EXPECT_TRUE(events.all.empty());
 }
 
-TEST(Lifecycle, CreateWithoutMemoryGivesNullAndLeavesTheLastErrorAlone) {
+TEST(Lifecycle, AFailedAllocationGivesNullAndKeepsTheLastError) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -155,7 +155,7 @@ TEST(Lifecycle, CreateWithoutMemoryGivesNullAndLeavesTheLastErrorAlone) {
     }
 }
 
-TEST(Lifecycle, CreateRunsWhateverTheLastErrorIs) {
+TEST(Lifecycle, CreateIgnoresTheLastError) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         h->last_error = 9;
@@ -166,7 +166,7 @@ TEST(Lifecycle, CreateRunsWhateverTheLastErrorIs) {
     });
 }
 
-TEST(Lifecycle, WithoutTrackingANestedObjectNeedsNoStateBase) {
+TEST(Lifecycle, ANestedObjectNeedsNoStateBaseIfTrackingIsOff) {
     for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -192,7 +192,7 @@ TEST(Lifecycle, InitializeWithASetSlotDoesNothing) {
     EXPECT_TRUE(events.all.empty());
 }
 
-TEST(Lifecycle, SkippingTheCountLeavesOutCountersAndOffsetsButNotTheChildren) {
+TEST(Lifecycle, SkippingTheCountOmitsCountersAndOffsetsButNotTheMembers) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
@@ -250,7 +250,7 @@ TEST(Lifecycle, SetInstanceEmbeddedOfNullTraces) {
     });
 }
 
-TEST(Lifecycle, WithoutMappingsNoneIsAskedToGo) {
+TEST(Lifecycle, NoMappingIsRemovedIfMappingIsOff) {
     Handle h(Tracking::on);
     mirk_platform_handle_set_oid_mapping(h, 0);
     Events events(h);

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(Module, ComesAndGoesWithTheLibrary) {
+TEST(Module, IsLinkedWhileTheLibraryIsLoaded) {
     ASSERT_EQ(mirk_module_tot_root.count, 0u);
     ASSERT_EQ(mirk_module_tot_root.first, nullptr);
     ASSERT_EQ(mirk_module_tot_root.last, &mirk_module_tot_root.first);
@@ -35,7 +35,7 @@ TEST(Module, ComesAndGoesWithTheLibrary) {
     EXPECT_EQ(mirk_module_tot_root.last, &mirk_module_tot_root.first);
 }
 
-TEST(Module, StandsBehindThoseThatCameBeforeAndLeavesTheirLinksWhole) {
+TEST(Module, IsAppendedToTheListAndUnlinkedWithoutDamage) {
     mirk_module before{"before", nullptr, nullptr, &mirk_module_tot_root.first};
     mirk_module_tot_root = {1, &before, &before.next};
     void *library = dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL);

@@ -55,7 +55,7 @@ TEST_F(ReferenceSequence, OffsetsOfALearnListEntryAreAlignedForVectors) {
     EXPECT_EQ(place(r, member(r, "show_ll_comm")).slot, 87u);
 }
 
-TEST_F(ReferenceSequence, EveryEmbeddedObjectGetsItsOffsetAndLosesIt) {
+TEST_F(ReferenceSequence, EachEmbeddedObjectsOffsetIsRecordedAndRemoved) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         forget();
@@ -99,7 +99,7 @@ Lines sweep_of(const Handle &h, const RecordOperations &r, const MemberOperation
     return lines;
 }
 
-TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
+TEST_F(ReferenceSequence, ReferencesAreListedInBuffersOfEverySize) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         for (std::uintptr_t n :
              {std::uintptr_t{0}, std::uintptr_t{1}, std::uintptr_t{64}, std::uintptr_t{65}, std::uintptr_t{1000}}) {
@@ -121,7 +121,7 @@ TEST_F(ReferenceSequence, TheSweepAsksForRoomsOfEverySize) {
     });
 }
 
-TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
+TEST_F(ReferenceSequence, CountedReferencesThatAreNotListedAreNull) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         for (std::uint32_t n : {3u, 100u}) {
             Handle h;
@@ -138,7 +138,7 @@ TEST_F(ReferenceSequence, WhatAnAddressPromisedAndDidNotGiveIsNoReference) {
     });
 }
 
-TEST_F(ReferenceSequence, ACountThatCannotBeLoweredCostsALine) {
+TEST_F(ReferenceSequence, ACountThatCannotBeDecrementedIsTraced) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         Handle h;
         void *oids[] = {reinterpret_cast<void *>(0x1001), reinterpret_cast<void *>(0x1002)};
@@ -154,7 +154,7 @@ TEST_F(ReferenceSequence, ACountThatCannotBeLoweredCostsALine) {
     });
 }
 
-TEST_F(ReferenceSequence, ReferencesThatCannotBeReadStopTheDestruction) {
+TEST_F(ReferenceSequence, UnreadableReferencesStopTheDestruction) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         for (std::uint32_t n : {2u, 1000u}) {
             if (name(m) == "dst_prefix") continue;  // the end comes at the source prefix, which stands in front
@@ -174,7 +174,7 @@ TEST_F(ReferenceSequence, ReferencesThatCannotBeReadStopTheDestruction) {
     });
 }
 
-TEST_F(ReferenceSequence, ReferencesAreAskedForAlthoughTheirCountFailed) {
+TEST_F(ReferenceSequence, ReferencesAreReadEvenIfCountingThemFailed) {
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         if (name(m) == "dst_prefix") return;  // the end comes at the source prefix, which stands in front
         Handle h;
@@ -189,7 +189,7 @@ TEST_F(ReferenceSequence, ReferencesAreAskedForAlthoughTheirCountFailed) {
     });
 }
 
-TEST_F(ReferenceSequence, TheQuestionsThemselvesTraceBeforeTheyFail) {
+TEST_F(ReferenceSequence, OwnReferenceOperationsTraceBeforeTheyFail) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         err = 0;

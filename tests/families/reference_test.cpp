@@ -31,7 +31,7 @@ TEST(References, NoRecordHoldsAny) {
 }
 
 // Unlike accessors, these trace when they find an error.
-TEST(References, AnErrorThatIsThereIsTracedAndKept) {
+TEST(References, ASetErrorIsTracedAndKept) {
     Handle h;
     const auto check = [&](auto &&count, auto &&references) {
         std::uint32_t err = EIO;
@@ -78,7 +78,7 @@ TEST(References, ANullObjectIsRefused) {
     }
 }
 
-TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
+TEST(References, AnObjectInUseIsDestroyedWithItsLastReference) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5);
@@ -110,7 +110,7 @@ TEST(References, AnObjectInUseIsCleanedUpWhenTheLastReferenceGoes) {
     });
 }
 
-TEST(References, AMappingThatCannotBeRemovedKeepsTheObjectWhole) {
+TEST(References, AFailedMappingRemovalKeepsTheObject) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5);
@@ -171,7 +171,7 @@ void hold(mirk_handle *h, void *address, const std::vector<Target> &targets) {
                                    static_cast<std::uint32_t>(oids.size()));
 }
 
-TEST(ReferenceSweep, LowersEveryCountThatAnAddressHolds) {
+TEST(ReferenceRelease, DecrementsEachCountThatAnAddressHolds) {
     Handle h;
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         for (std::size_t n : {std::size_t{0}, std::size_t{1}, std::size_t{64}, std::size_t{65}, std::size_t{1000}}) {
@@ -191,7 +191,7 @@ TEST(ReferenceSweep, LowersEveryCountThatAnAddressHolds) {
     });
 }
 
-TEST(ReferenceSweep, ReachesAddressesInsideElements) {
+TEST(ReferenceRelease, ReachesAddressesInsideElements) {
     Handle h;
     const RecordOperations &list = record("lumo_tarn_dp_tc_list"), &tc = record("lumo_tarn_dp_tc");
     void *object = list.create(h, id);
@@ -212,7 +212,7 @@ TEST(ReferenceSweep, ReachesAddressesInsideElements) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(ReferenceSweep, StopsTheDestructionWhenReferencesCannotBeRead) {
+TEST(ReferenceRelease, StopsTheDestructionWhenReferencesCannotBeRead) {
     Handle h;
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         for (std::size_t n : {std::size_t{2}, std::size_t{100}}) {
@@ -239,7 +239,7 @@ TEST(ReferenceSweep, StopsTheDestructionWhenReferencesCannotBeRead) {
     });
 }
 
-TEST(ReferenceSweep, GoesOnWhenACountCannotBeLowered) {
+TEST(ReferenceRelease, ContinuesWhenACountCannotBeDecremented) {
     Handle h;
     each_address([&](const RecordOperations &r, const MemberOperations &m) {
         const std::vector<Target> targets = make_targets(h, 3);

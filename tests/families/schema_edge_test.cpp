@@ -75,7 +75,7 @@ void expect_order(std::string_view record, const std::vector<std::string> &membe
     }
 }
 
-TEST(Schema, MembersDecideAnOrderInTableOrder) {
+TEST(Schema, MembersAreComparedInTableOrder) {
     for (const RecordOperations &record : tarn::reflect::records()) {
         SCOPED_TRACE(std::string(record.record->name));
         std::vector<std::string> members;
@@ -87,7 +87,7 @@ TEST(Schema, MembersDecideAnOrderInTableOrder) {
     }
 }
 
-TEST(Schema, OrdersThatMightBeTakenForOthers) {
+TEST(Schema, MembersHaveTheTablesOrderInEveryForm) {
     expect_order("lumo_tarn_exmem_info", {"cl_addr", "exmem_addr", "ppe_addr", "size"});
     expect_order("lumo_tarn_dp_tc", {"proto", "id"});
     expect_order("lumo_tarn_dp_ll_spec", {"display_all", "heap_compare_func", "heap_elements_ptr", "show_ll_comm"});
@@ -99,7 +99,7 @@ TEST(Schema, OrdersThatMightBeTakenForOthers) {
     expect_order("lumo_tarn_pal_mp_prefix", {"id", "flags", "prefix", "tc_list_size"});
 }
 
-TEST(Schema, ARecordOfOneNestedMemberHasNothingToListAtOnce) {
+TEST(Schema, ARecordOfOneNestedMemberHasNoScalarsForGetAll) {
     const Handle h;
     const reference::Record value = random_value("lumo_tarn_exmem_info_wrapper", 1, {.states = false});
     const Instance wrapper(h, value);
@@ -111,7 +111,7 @@ TEST(Schema, ARecordOfOneNestedMemberHasNothingToListAtOnce) {
     EXPECT_TRUE(bridge::same(value, wrapper.value()));
 }
 
-TEST(Schema, NumbersThatNameAnAmountAskForNothing) {
+TEST(Schema, NumbersThatNameAnAmountAllocateNothing) {
     for (const std::uint64_t amount : {std::uint64_t{1}, std::uint64_t{1000}, std::uint64_t{0xFFFFFFFF}}) {
         reference::Record memory("lumo_tarn_static_exmem_info");
         memory["num_hash_elements"].number = amount;
@@ -163,7 +163,7 @@ TEST(Schema, RangesAndTimesAreNotChecked) {
     expect_carried(prefixes);
 }
 
-TEST(Schema, FlagsOfSelectionAndValidityHideNothing) {
+TEST(Schema, FlagsOfSelectionAndValidityHideNoMember) {
     reference::Record table = random_value("lumo_tarn_dp_tt_table", 3, {.states = false, .printable = true});
     for (const char *flag : {"show_header", "show_agg_list", "show_filter_list", "show_ll_header", "show_ll_list",
                              "display_all", "display_tc", "display_ll"})
@@ -216,7 +216,7 @@ TEST(Schema, AnEmptyListOfTheLearnListEntryIsRenderedThreeTimes) {
         EXPECT_NE(text.find(list), text.npos) << list;
 }
 
-TEST(Schema, SizesOfTheDebugRecords) {
+TEST(Schema, DebugRecordsHaveTheirSizes) {
     for (const Tracking mode : {Tracking::none, Tracking::on}) {
         const Handle h(mode);
         const bool tracked = h.tracks();
@@ -291,7 +291,7 @@ TEST(Schema, TheTwoCountsOfProcessorsAreIndependent) {
     EXPECT_EQ(read.value().nested("lumo_info_list").number(0), 0u);
 }
 
-TEST(Schema, SettingAllWritesTheTotalAndNotTheCount) {
+TEST(Schema, SetAllWritesTheTotalAndNotTheCount) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_mp_tc_prefix_data");
     value.append("prefix_data");
@@ -305,7 +305,7 @@ TEST(Schema, SettingAllWritesTheTotalAndNotTheCount) {
     EXPECT_TRUE(bridge::same(value, data.value()));
 }
 
-TEST(Schema, AStringsLengthIsCutToItsLow16Bits) {
+TEST(Schema, AStringsLengthIsTruncatedTo16Bits) {
     const Handle h;
     const std::string text(65536 + 5, 'n');
     for (const RecordOperations &record : tarn::reflect::records()) {
@@ -322,7 +322,7 @@ TEST(Schema, AStringsLengthIsCutToItsLow16Bits) {
     }
 }
 
-TEST(Schema, AnEnumerationOutOfRangeIsCarriedByItsRecord) {
+TEST(Schema, ARecordKeepsAnEnumerationOutOfRange) {
     const Handle h;
     for (const char *member : {"ha_state", "direction"}) {
         reference::Record value("lumo_tarn_lumo_info");

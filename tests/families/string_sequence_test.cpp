@@ -34,7 +34,7 @@ protected:
     Lines begin;
 };
 
-TEST_F(StringSequence, OfSet) {
+TEST_F(StringSequence, SetReleasesNotifiesAllocatesAndStoresTheLength) {
     for (Tracking tracking : {Tracking::none, Tracking::on}) {
         each(tracking, [&] {
             Lines end{"write_notify " + length + " 2"};
@@ -56,7 +56,7 @@ TEST_F(StringSequence, OfSet) {
     }
 }
 
-TEST_F(StringSequence, OfSetWithoutMemory) {
+TEST_F(StringSequence, AFailedAllocationKeepsTheLength) {
     each(Tracking::on, [&] {
         const_cast<Handle *>(h)->fail_obj_alloc(1);
         Lines expected = begin;
@@ -66,7 +66,7 @@ TEST_F(StringSequence, OfSetWithoutMemory) {
     });
 }
 
-TEST_F(StringSequence, OfSetWhereNothingNeedsNoMemory) {
+TEST_F(StringSequence, AnEmptyTextMayHaveANullBlock) {
     each(Tracking::none, [&] {
         h->knobs().null_for_size_0 = true;
         Lines expected = begin;
@@ -81,7 +81,7 @@ TEST_F(StringSequence, OfSetWhereNothingNeedsNoMemory) {
     });
 }
 
-TEST_F(StringSequence, OfGet) {
+TEST_F(StringSequence, GetOnlyChecksTheVariant) {
     each(Tracking::on, [&] {
         char text[8];
         m->text_set(*h, id, object, "abcd", 4, &err);
@@ -95,7 +95,7 @@ TEST_F(StringSequence, OfGet) {
     });
 }
 
-TEST_F(StringSequence, OfTheStickySet) {
+TEST_F(StringSequence, TheStickySetUsesTheDefaultIdAndTheLastError) {
     each(Tracking::none, [&] {
         recording::clear_log();
         EXPECT_EQ(m->text_set_cr(*h, object, "a", 1), 0u);

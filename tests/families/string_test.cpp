@@ -29,7 +29,7 @@ std::uint64_t length(mirk_handle *h, const Subject &s, void *object) {
     return s.length.get_value(h, id, object, &err);
 }
 
-TEST(Strings, AFreshOneIsEmpty) {
+TEST(Strings, ANewOneIsEmpty) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
@@ -73,7 +73,7 @@ TEST(Strings, TheBodyHasExactlyItsLength) {
     }
 }
 
-TEST(Strings, ADestinationMustHoldTheTextAndItsEnd) {
+TEST(Strings, TheDestinationNeedsRoomForTheTerminator) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
@@ -99,7 +99,7 @@ TEST(Strings, ADestinationMustHoldTheTextAndItsEnd) {
     });
 }
 
-TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
+TEST(Strings, ASizeOfZeroFailsBeforeTheVariantIsChecked) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
@@ -116,7 +116,7 @@ TEST(Strings, ASizeOfZeroIsRefusedBeforeTheVariantIs) {
     });
 }
 
-TEST(Strings, WithoutAnObjectThereIsNothingToSet) {
+TEST(Strings, ANullObjectIsRefused) {
     Handle h;
     each_string([&](const Subject &s) {
         std::uint32_t err = 0;
@@ -127,7 +127,7 @@ TEST(Strings, WithoutAnObjectThereIsNothingToSet) {
     });
 }
 
-TEST(Strings, WithoutATextTheBodyIsZeros) {
+TEST(Strings, ANullTextGivesABodyOfZeros) {
     Handle h;
     mirk_platform_testing_set_fresh_fill(h, 0xA5);
     each_string([&](const Subject &s) {
@@ -142,7 +142,7 @@ TEST(Strings, WithoutATextTheBodyIsZeros) {
     });
 }
 
-TEST(Strings, AShortTextLeavesZeroesAtTheEndOfTheBody) {
+TEST(Strings, AShortTextIsPaddedWithZeros) {
     Handle h;
     each_string([&](const Subject &s) {
         void *object = s.r.create(h, id);
@@ -154,7 +154,7 @@ TEST(Strings, AShortTextLeavesZeroesAtTheEndOfTheBody) {
     });
 }
 
-TEST(Strings, TheLengthIsCutToSixteenBits) {
+TEST(Strings, TheLengthIsTruncatedTo16Bits) {
     Handle h;
     const std::string text(70000, 'q');
     each_string([&](const Subject &s) {
@@ -176,7 +176,7 @@ TEST(Strings, TheLengthIsCutToSixteenBits) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
+TEST(Strings, AnEmptyTextAllocatesABlockOfZeroBytes) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_string([&](const Subject &s) {
@@ -200,7 +200,7 @@ TEST(Strings, AnEmptyTextTakesABlockOfNoBytes) {
     }
 }
 
-TEST(Strings, WithoutMemoryTheOldBodyIsGoneAndTheLengthStale) {
+TEST(Strings, AFailedAllocationLosesTheOldBodyAndKeepsTheLength) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_string([&](const Subject &s) {
@@ -229,7 +229,7 @@ TEST(Strings, WithoutMemoryTheOldBodyIsGoneAndTheLengthStale) {
     }
 }
 
-TEST(Strings, TheStickySetAnswersWithTheLastError) {
+TEST(Strings, TheStickySetReturnsTheLastError) {
     Handle h;
     mirk_platform_handle_set_default_id(h, 90);
     each_string([&](const Subject &s) {

@@ -40,7 +40,7 @@ protected:
     char buffer[2000] = {};
 };
 
-TEST_F(RenderingSequence, PrintGoesThroughNestedRecordsAndClosesOnTheOpeningLine) {
+TEST_F(RenderingSequence, PrintVisitsNestedRecordsAndIndentsOverTheOpeningLine) {
     Handle h;
     lumo_tarn_exmem_info_wrapper *wrapper = lumo_tarn_exmem_info_wrapper_create(h, id);
     watch(wrapper, 88);
@@ -93,7 +93,7 @@ TEST_F(RenderingSequence, PrintShowsCountsElementsAndStrings) {
 }
 
 // Nothing looks at the slot between members: all are called, and do nothing. Elements and nested records end at once.
-TEST_F(RenderingSequence, PrintGoesOnAfterAnError) {
+TEST_F(RenderingSequence, PrintContinuesAfterAnError) {
     Handle h;
     lumo_tarn_dp_appl_cfg *config = lumo_tarn_dp_appl_cfg_create(h, id);
     watch(config, 128);
@@ -112,7 +112,7 @@ TEST_F(RenderingSequence, PrintGoesOnAfterAnError) {
     lumo_tarn_dp_appl_cfg_destroy(h, id, config);
 }
 
-TEST_F(RenderingSequence, AStickyPrintUsesTheHandlesOwnWords) {
+TEST_F(RenderingSequence, AStickyPrintUsesTheDefaultIdAndTheLastError) {
     Handle h;
     h->default_id = 31;
     lumo_tarn_dp_wexa_info *wexa = lumo_tarn_dp_wexa_info_create(h, id);
@@ -134,7 +134,7 @@ TEST_F(RenderingSequence, AStickyPrintUsesTheHandlesOwnWords) {
     lumo_tarn_dp_wexa_info_destroy(h, id, wexa);
 }
 
-TEST_F(RenderingSequence, XmlAsksForStatesOnATrackingHandleOnly) {
+TEST_F(RenderingSequence, XmlReadsStatesOnATrackingHandleOnly) {
     for (const Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({.tracking = tracking});
         lumo_tarn_dyn_exmem_info *dyn = lumo_tarn_dyn_exmem_info_create(h, id);
@@ -181,7 +181,7 @@ TEST_F(RenderingSequence, XmlAsksForStatesOnATrackingHandleOnly) {
 }
 
 // Unlike text, XML looks at the slot in front of each member; end tags are asked for all the same.
-TEST_F(RenderingSequence, XmlEndsItsMembersAtAnError) {
+TEST_F(RenderingSequence, XmlStopsItsMembersAtAnError) {
     Handle h;
     lumo_tarn_cl_appl_data *data = applications(h, false);
     watch(data, 56, lumo_tarn_cl_appl_data_kesh_appl_get(h, id, data, 0, &err), 56);
@@ -200,7 +200,7 @@ TEST_F(RenderingSequence, XmlEndsItsMembersAtAnError) {
     lumo_tarn_cl_appl_data_destroy(h, id, data);
 }
 
-TEST_F(RenderingSequence, WithoutABodyOnlyTheFrameIsWritten) {
+TEST_F(RenderingSequence, ARecordWithoutABodyHasNoMembers) {
     Handle h;
     lumo_tarn_dp_wexa_info *wexa = lumo_tarn_dp_wexa_info_create(h, id);
     reinterpret_cast<mirk_object *>(wexa)->variant = -1;

@@ -31,7 +31,7 @@ TEST(Text, EveryRecordPrintsAsTheReference) {
     }
 }
 
-TEST(Text, AnEmptyArrayPrintsItsCountAlone) {
+TEST(Text, AnEmptyArrayPrintsOnlyItsCount) {
     const Handle h;
     const Instance list(h, operations("lumo_tarn_dp_tc_list"));
     EXPECT_EQ(print(h, list, "tcs", 0).text(), "tcs@lumo_tarn_dp_tc_list: {\n  num_tcs@u_int32:0\n}\n");
@@ -72,7 +72,7 @@ TEST(Text, ARecordWithoutABodyLeavesItsBraceOpen) {
     EXPECT_EQ(print(h, Instance(h, value), "w", 2).text(), "  w@lumo_tarn_dp_lumo_wexa_info: {\n");
 }
 
-TEST(Text, WithoutIndentNoByteIsLeftOut) {
+TEST(Text, EveryByteIsWrittenWithoutIndentation) {
     const Handle h;
     const reference::Record value = random_value("lumo_tarn_exmem_info", 3);
     const Written written = print(h, Instance(h, value), "exmem", 0);
@@ -81,7 +81,7 @@ TEST(Text, WithoutIndentNoByteIsLeftOut) {
 }
 
 // The blanks of the closing line fall on those of the opening line, and the bytes in front of the brace are counted.
-TEST(Text, ANestedBraceStandsBehindBytesThatAreNotWritten) {
+TEST(Text, BytesBeforeANestedBraceAreNotWritten) {
     const Handle h;
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
     const Written written = print(h, exmem, "exmem", 6);
@@ -91,7 +91,7 @@ TEST(Text, ANestedBraceStandsBehindBytesThatAreNotWritten) {
     EXPECT_EQ(text.substr(0, 7), "      e");
 }
 
-TEST(Text, AnErrorOnEntryIsKeptAndNothingWritten) {
+TEST(Text, NothingIsWrittenIfTheErrorIsSet) {
     const Handle h;
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
     h->last_error = 5;
@@ -105,7 +105,7 @@ TEST(Text, AnErrorOnEntryIsKeptAndNothingWritten) {
     EXPECT_EQ(h->last_error, 5u);
 }
 
-TEST(Text, APrintClearsTheLastErrorOfTheHandle) {
+TEST(Text, PrintClearsTheHandlesLastError) {
     const Handle h;
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
     h->last_error = 5;
@@ -128,7 +128,7 @@ TEST(Text, AStickyPrintAfterAnErrorWritesNothing) {
     }
 }
 
-TEST(Text, TheCorruptModeOfAHandleIsNotLookedAt) {
+TEST(Text, ACorruptTrackingModeIsIgnored) {
     const Handle h(Tracking::on);
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
     mirk_platform_testing_set_sttr_mode(h, 0x1234);
@@ -136,7 +136,7 @@ TEST(Text, TheCorruptModeOfAHandleIsNotLookedAt) {
     mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
 }
 
-TEST(Text, ABufferThatIsTooSmallIsToldAndNeverPassed) {
+TEST(Text, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
     const Handle h;
     for (const reference::Record &value : rich_values()) {
         const Instance instance(h, value);
@@ -167,7 +167,7 @@ TEST(Text, ABufferThatIsTooSmallIsToldAndNeverPassed) {
     }
 }
 
-TEST(Text, ACountBesideNoBlockPrintsNoElements) {
+TEST(Text, ACountWithoutABlockPrintsNoElements) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_tc_list");
     value.append("tc_list");
@@ -182,7 +182,7 @@ TEST(Text, ACountBesideNoBlockPrintsNoElements) {
     EXPECT_EQ(print(h, list, "tcs", 0).text(), "tcs@lumo_tarn_dp_tc_list: {\n  num_tcs@u_int32:2\n}\n");
 }
 
-TEST(Text, ALengthBesideNoBodyPrintsNoCharacters) {
+TEST(Text, ALengthWithoutABodyPrintsNoCharacters) {
     const Handle h;
     const Instance appl(h, operations("lumo_tarn_cl_kesh_appl"));
     auto *object = static_cast<lumo_tarn_cl_kesh_appl *>(appl.get());

@@ -21,7 +21,7 @@ std::vector<Type> types() {
     return all;
 }
 
-TEST_F(TypeSequence, OfTheFirstAndTheSecondInitialisation) {
+TEST_F(TypeSequence, TheFirstInitializationCopiesAndTheSecondOnlyUpdates) {
     Handle h({Tracking::none, 1});
     Lines first, second;
     for (const Type &type : types()) {
@@ -36,7 +36,7 @@ TEST_F(TypeSequence, OfTheFirstAndTheSecondInitialisation) {
     EXPECT_EQ(h.private_copies(), types().size());
 }
 
-TEST_F(TypeSequence, OfAnInitialisationWithoutMemory) {
+TEST_F(TypeSequence, AFailedAllocationStopsTheInitialization) {
     Handle h({Tracking::none, 1});
     h.fail_sys_alloc(10);
     const Lines lines = lines_of([&] { lumo_ui_tarn_typeinfo_initialize(h, id, &err); });
@@ -49,7 +49,7 @@ TEST_F(TypeSequence, OfAnInitialisationWithoutMemory) {
 
 void some_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 
-TEST_F(TypeSequence, TheSiblingModulesAreToldInTheirOrder) {
+TEST_F(TypeSequence, RegistrationReachesTheSiblingModulesInOrder) {
     const char *const siblings[] = {"comm", "defs", "shared", "stats", "intf", "cond", "view"};
     Lines names;
     recording::clear_log();

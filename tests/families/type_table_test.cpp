@@ -36,7 +36,7 @@ std::vector<Described> described() {
     return all;
 }
 
-TEST(TypeTable, IsReachedThroughTheListOfModules) {
+TEST(TypeTable, IsLinkedInTheListOfModules) {
     const mirk_module *found = this_module();
     ASSERT_NE(found, nullptr);
     EXPECT_EQ(mirk_module_tot_root.count, 1u);
@@ -85,7 +85,7 @@ TEST(TypeTable, TheIndexCapKeepsNegativeVariants) {
     }
 }
 
-TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
+TEST(PrivateTypes, ASecondInitializationAllocatesNothing) {
     Handle h({.tracking = Tracking::none, .private_types = 3});
     std::uint32_t err = 0;
     Events events(h);
@@ -106,7 +106,7 @@ TEST(PrivateTypes, ASecondInitialisationAllocatesNothing) {
     for (const auto &e : events.of(MIRK_PLATFORM_TESTING_VARIANT_INFO_UPDATE)) EXPECT_EQ(e.value, 0);
 }
 
-TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
+TEST(PrivateTypes, ACopyEqualsTheRecordExceptForItsOwnFields) {
     Handle h({.tracking = Tracking::none, .private_types = 3});
     std::uint32_t err = 0;
     lumo_ui_tarn_typeinfo_initialize(h, id, &err);
@@ -124,7 +124,7 @@ TEST(PrivateTypes, ACopyIsTheRecordWithMarksOfItsOwn) {
     }
 }
 
-TEST(PrivateTypes, TheSlotIsNotReadAndTheLastErrorStays) {
+TEST(PrivateTypes, TheSlotIsIgnoredAndTheLastErrorIsKept) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
     std::uint32_t err = EIO;
     h->last_error = 9;
@@ -136,7 +136,7 @@ TEST(PrivateTypes, TheSlotIsNotReadAndTheLastErrorStays) {
     EXPECT_EQ(h->last_error, 9u);
 }
 
-TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
+TEST(PrivateTypes, AFailedInitializationIsCompletedLater) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
     std::uint32_t err = 0;
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 10, 0);
@@ -159,7 +159,7 @@ TEST(PrivateTypes, AnInitialisationThatRanOutOfMemoryIsCompletedLater) {
     for (std::size_t i = 0; i < described().size(); ++i) EXPECT_EQ(updates[i].value, i < 9 ? 0 : 1);
 }
 
-TEST(PrivateTypes, ARecordWithoutVariantBlockIsCopiedWithoutUpdate) {
+TEST(PrivateTypes, ARecordWithoutVariantsIsCopiedWithoutAnUpdate) {
     Handle h({.tracking = Tracking::none, .private_types = 1});
     std::uint32_t err = 0;
     mirk_variant_info *kept = _lumo_tarn_dp_tc_type_info_internal.variant_info;
@@ -211,7 +211,7 @@ TEST(VariantDump, PrintsTheSizesOfAllTypesInOrder) {
     EXPECT_EQ(printed, expected);
 }
 
-TEST(VariantDump, NotesATypeWithoutVariantsAndGoesOn) {
+TEST(VariantDump, TracesATypeWithoutVariantsAndContinues) {
     Handle h;
     record("lumo_tarn_dp_tc").destroy(h, id, record("lumo_tarn_dp_tc").create(h, id));
     printed.clear();
@@ -227,7 +227,7 @@ TEST(VariantDump, NotesATypeWithoutVariantsAndGoesOn) {
 void some_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 void other_handler(mirk_handle *, std::uint32_t, void *, std::uint32_t *) {}
 
-TEST(BundleHandler, RegisteringHandsBackTheOneBefore) {
+TEST(BundleHandler, RegisteringReturnsThePreviousHandler) {
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(some_handler), nullptr);
     EXPECT_EQ(lumo_ui_tarn_bundle_registered_handler, some_handler);
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(other_handler), some_handler);
@@ -236,13 +236,13 @@ TEST(BundleHandler, RegisteringHandsBackTheOneBefore) {
     EXPECT_EQ(lumo_ui_tarn_bundle_handler_unregister(), nullptr);
 }
 
-TEST(BundleHandler, LeavesTheVariablesOfTheBundlesAlone) {
+TEST(BundleHandler, DoesNotChangeTheVariablesOfBundles) {
     lumo_ui_tarn_bundle_handler_register(some_handler);
     for (const auto &b : tarn::reflect::bundles()) EXPECT_EQ(*b.registered_handler, nullptr);
     lumo_ui_tarn_bundle_handler_unregister();
 }
 
-TEST(TypesDeathTest, AnObjectWithoutAnyTypeCannotBeSetUp) {
+TEST(TypesDeathTest, AnObjectWithoutATypeAborts) {
     // Without a copy and without an answer from the runtime there is nothing to count in.
     Handle h;
     alignas(8) std::uint8_t object[64] = {};

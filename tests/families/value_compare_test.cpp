@@ -50,7 +50,7 @@ TEST(Compare, IsATotalOrderThatAgreesWithTheReference) {
     }
 }
 
-TEST(Compare, UnrelatedValuesAgreeWithTheReferenceToo) {
+TEST(Compare, UnrelatedValuesAgreeWithTheReference) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         for (std::uint64_t seed = 1; seed <= 4; ++seed) {
@@ -62,7 +62,7 @@ TEST(Compare, UnrelatedValuesAgreeWithTheReferenceToo) {
     }
 }
 
-TEST(Compare, NullOrdersBelowEveryInstance) {
+TEST(Compare, NullIsLessThanEveryInstance) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         const Instance instance(h, record);
@@ -86,7 +86,7 @@ void change_all_but_the_values(reference::Record &value) {
     }
 }
 
-TEST(Compare, HeaderAndStatePlayNoPartInOrderAndHash) {
+TEST(Compare, OrderAndHashIgnoreHeaderAndState) {
     const Handle tracking(Tracking::on);
     const Handle plain;
     for (const RecordOperations &record : tarn::reflect::records()) {
@@ -136,7 +136,7 @@ TEST(Compare, NumbersAreUnsigned) {
     EXPECT_EQ(exmem.compare(Instance(h, a).get(), Instance(h, b).get()), -1);
 }
 
-TEST(Compare, AnEnumerationGivesTheDistanceThroughAllLevels) {
+TEST(Compare, AnEnumerationReturnsTheDifferenceThroughAllLevels) {
     const Handle h;
     reference::Record a("lumo_tarn_lumo_info_list");
     reference::Record b = a;
@@ -147,7 +147,7 @@ TEST(Compare, AnEnumerationGivesTheDistanceThroughAllLevels) {
     EXPECT_EQ(list.compare(Instance(h, b).get(), Instance(h, a).get()), 6);
 }
 
-TEST(Compare, StringsGoByLengthAndThenByTheirBytes) {
+TEST(Compare, StringsAreComparedByLengthThenByBytes) {
     const Handle h;
     const RecordOperations &appl = operations("lumo_tarn_cl_kesh_appl");
     reference::Record a("lumo_tarn_cl_kesh_appl");
@@ -164,7 +164,7 @@ TEST(Compare, StringsGoByLengthAndThenByTheirBytes) {
     EXPECT_LT(order, 0);
 }
 
-TEST(Compare, ABlockThatCouldNotBeHadCountsAsNoElements) {
+TEST(Compare, ACountWithoutABlockMeansNoElements) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_tc_list");
     value.append("tc_list");

@@ -7,7 +7,7 @@ namespace {
 
 using namespace forms;
 
-TEST(Hash, EveryRecordIsTheChainOfItsMembers) {
+TEST(Hash, EveryRecordChainsItsMembers) {
     for (const Tracking mode : {Tracking::none, Tracking::on}) {
         const Handle h(mode);
         for (const RecordOperations &record : tarn::reflect::records()) {
@@ -23,13 +23,13 @@ TEST(Hash, EveryRecordIsTheChainOfItsMembers) {
     }
 }
 
-TEST(Hash, NullGivesTheSeed) {
+TEST(Hash, NullReturnsTheSeed) {
     for (const RecordOperations &record : tarn::reflect::records()) {
         EXPECT_EQ(record.hash(nullptr, 0xABCD1234), 0xABCD1234u) << record.record->name;
     }
 }
 
-TEST(Hash, EqualValuesHashAlikeAndOthersHardlyEver) {
+TEST(Hash, EqualValuesHaveEqualHashesAndOthersRarely) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         reference::Generator random(7);
@@ -49,7 +49,7 @@ TEST(Hash, EqualValuesHashAlikeAndOthersHardlyEver) {
 }
 
 // A count counts once as a member and once at the head of what it counts, also when that is nothing.
-TEST(Hash, ACountEntersTwice) {
+TEST(Hash, ACountIsHashedTwice) {
     const Handle h;
     const std::uint32_t zero = 0;
     const Instance list(h, "lumo_tarn_dp_tc_list");
@@ -61,7 +61,7 @@ TEST(Hash, ACountEntersTwice) {
     EXPECT_EQ(data.record().hash(data.get(), 77), u_int8_hash(&narrow, u_int8_hash(&narrow, 77)));
 }
 
-TEST(Hash, ALengthEntersTwiceAndTheCharactersBehindIt) {
+TEST(Hash, ALengthIsHashedTwiceThenTheCharacters) {
     const Handle h;
     reference::Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].text = "tcp";

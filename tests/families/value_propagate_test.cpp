@@ -13,14 +13,14 @@ std::uint32_t walk(const Handle &h, const Instance &instance) {
 void mark(void *object) { mirk_set_instance_modified(object, 1, 0, 1); }
 bool marked(void *object) { return mirk_get_instance_modified(object, 1, 0) != 0; }
 
-TEST(Propagate, AFreshRecordHasNoMark) {
+TEST(Propagate, ANewRecordHasNoMark) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         EXPECT_EQ(walk(h, Instance(h, record)), 0u) << record.record->name;
     }
 }
 
-TEST(Propagate, TheRecordsOwnMarkIsToldAndClearedOnce) {
+TEST(Propagate, TheRecordsOwnMarkIsReportedAndClearedOnce) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         const Instance instance(h, record);
@@ -64,7 +64,7 @@ TEST(Propagate, OneCallClearsOneMark) {
     }
 }
 
-TEST(Propagate, TheFirstMarkInTableOrderGoesFirst) {
+TEST(Propagate, TheFirstMarkInTableOrderIsClearedFirst) {
     const Handle h;
     const Instance intf(h, "lumo_tarn_dp_intf_data");
     auto *object = static_cast<lumo_tarn_dp_intf_data *>(intf.get());
@@ -82,7 +82,7 @@ TEST(Propagate, TheFirstMarkInTableOrderGoesFirst) {
     EXPECT_EQ(walk(h, intf), 0u);
 }
 
-TEST(Propagate, AnElementsMarkIsNotSeenByTheOwnerOfTheArray) {
+TEST(Propagate, ElementMarksAreNotReportedForTheOwner) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_debug_setting_data");
     value.append("lumo_data");
@@ -97,7 +97,7 @@ TEST(Propagate, AnElementsMarkIsNotSeenByTheOwnerOfTheArray) {
     EXPECT_TRUE(marked(element));
 }
 
-TEST(Propagate, SettersLeaveAMarkThatIsFound) {
+TEST(Propagate, SettersSetAMarkThatIsFound) {
     const Handle h;
     const Instance info(h, "lumo_tarn_lumo_info");
     auto *object = static_cast<lumo_tarn_lumo_info *>(info.get());
@@ -109,7 +109,7 @@ TEST(Propagate, SettersLeaveAMarkThatIsFound) {
     EXPECT_EQ(walk(h, info), 0u);
 }
 
-TEST(Propagate, StatesAreLeftAlone) {
+TEST(Propagate, StatesDoNotChange) {
     const Handle h(Tracking::on);
     const reference::Record value = random_value("lumo_tarn_dp_tc", 5);
     const Instance tc(h, value);

@@ -22,7 +22,7 @@ struct Numbers {
 bool is_listed_by_get_all(const MemberOperations &m) { return m.get_value != nullptr; }
 bool is_listed_by_set_all(const MemberOperations &m) { return is_scalar(m); }
 
-TEST(WholeRecord, GetAllGivesEveryNumberInMemberOrder) {
+TEST(WholeRecord, GetAllReadsEveryNumberInTableOrder) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -45,7 +45,7 @@ TEST(WholeRecord, GetAllGivesEveryNumberInMemberOrder) {
     }
 }
 
-TEST(WholeRecord, SetAllSetsEveryScalarInMemberOrderAndLeavesStateAlone) {
+TEST(WholeRecord, SetAllWritesEveryScalarInTableOrderAndKeepsState) {
     for (Tracking mode : kit::every_tracking) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
@@ -77,7 +77,7 @@ TEST(WholeRecord, SetAllSetsEveryScalarInMemberOrderAndLeavesStateAlone) {
     }
 }
 
-TEST(WholeRecord, ARecordOfOneArrayHasNothingToSetAtOnce) {
+TEST(WholeRecord, ARecordOfOneArrayHasNoScalarsForSetAll) {
     Handle h;
     const RecordOperations &r = record("lumo_tarn_dp_tc_list");
     void *object = r.create(h, id);
@@ -89,7 +89,7 @@ TEST(WholeRecord, ARecordOfOneArrayHasNothingToSetAtOnce) {
     r.destroy(h, id, object);
 }
 
-TEST(WholeRecord, ANegativeVariantPassesSilently) {
+TEST(WholeRecord, ANegativeVariantSetsNoError) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5, {1, 1, false});
@@ -112,7 +112,7 @@ TEST(WholeRecord, ANegativeVariantPassesSilently) {
     });
 }
 
-TEST(WholeRecord, GetAllOfNullGivesZeroes) {
+TEST(WholeRecord, GetAllOfNullGivesZeros) {
     Handle h;
     each_record([&](const RecordOperations &r) {
         Numbers numbers(0);
@@ -128,7 +128,7 @@ TEST(WholeRecord, GetAllOfNullGivesZeroes) {
     });
 }
 
-TEST(WholeRecord, EveryStateByteIsFilledAtOnceAndUnannounced) {
+TEST(WholeRecord, TheFillSetsEveryStateByteWithoutANotification) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         void *object = filled(h, r, 5, {0, 0, false});
@@ -144,7 +144,7 @@ TEST(WholeRecord, EveryStateByteIsFilledAtOnceAndUnannounced) {
     EXPECT_EQ(h.live_blocks(), 0u);
 }
 
-TEST(WholeRecord, TheFillReachesElementsOfOwnArrays) {
+TEST(WholeRecord, TheFillReachesElements) {
     Handle h(Tracking::on);
     h.allow_lost_blocks();  // the vectors of the elements' state bytes
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
@@ -195,7 +195,7 @@ TEST(WholeRecord, AFieldIndexIsValidBelowTheNumberOfMembersOrInALaterVariant) {
     EXPECT_EQ(record("lumo_tarn_lumo_info").members.size(), 56u);
 }
 
-TEST(WholeRecord, TheSlotOfAValidityQuestionIsTheLastError) {
+TEST(WholeRecord, ValidityUsesTheLastErrorAsItsSlot) {
     Handle h;
     h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
     EXPECT_EQ(record("lumo_tarn_dp_tc").is_valid_cr(h, nullptr, 17), 0u);

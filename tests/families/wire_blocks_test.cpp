@@ -22,7 +22,7 @@ Bytes cut(const Bytes &bytes, std::size_t behind) {
     return Bytes(bytes.begin(), bytes.end() - static_cast<std::ptrdiff_t>(behind));
 }
 
-TEST(WireBlocks, AnEmptyArrayIsItsCountAlone) {
+TEST(WireBlocks, AnEmptyArrayIsOnlyItsCount) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -54,7 +54,7 @@ TEST(WireBlocks, AStringIsLengthCharactersAndOneState) {
     EXPECT_EQ(instance.record().len(handle, id, instance.get()), 24U);
 }
 
-TEST(WireBlocks, AStringThatDoesNotFitIsCut) {
+TEST(WireBlocks, AStringThatDoesNotFitIsTruncated) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         const Handle handle(tracking);
         Record value("lumo_tarn_cl_kesh_appl");
@@ -72,7 +72,7 @@ TEST(WireBlocks, AStringThatDoesNotFitIsCut) {
     }
 }
 
-TEST(WireBlocks, AnArrayThatFindsNoRoomIsWantOfMemory) {
+TEST(WireBlocks, AnArrayThatDoesNotFitFailsWithEnomem) {
     const Handle handle(Tracking::none);
     const Record value = tc_list(2);
     const Instance instance(handle, value);
@@ -82,7 +82,7 @@ TEST(WireBlocks, AnArrayThatFindsNoRoomIsWantOfMemory) {
     EXPECT_EQ(written.size, 10 + first);
 }
 
-TEST(WireBlocks, AVectorThatDoesNotFitIsCutWithoutAnError) {
+TEST(WireBlocks, AVectorThatDoesNotFitIsTruncatedWithoutAnError) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3));
     const Bytes whole = reference::encode(tc_list(3), true);
@@ -95,7 +95,7 @@ TEST(WireBlocks, AVectorThatDoesNotFitIsCutWithoutAnError) {
     }
 }
 
-TEST(WireBlocks, AFrameThatEndsInAVectorGivesWhatThereIs) {
+TEST(WireBlocks, AFrameThatEndsInAVectorGivesThePresentStates) {
     const Handle handle(Tracking::on);
     const Bytes whole = reference::encode(tc_list(3), true);
     for (std::size_t missing = 1; missing <= 4; ++missing) {
@@ -112,7 +112,7 @@ TEST(WireBlocks, AFrameThatEndsInAVectorGivesWhatThereIs) {
     }
 }
 
-TEST(WireBlocks, BehindAnElementThatLeadsBehindTheEndThereAreNoStates) {
+TEST(WireBlocks, ElementsPastTheEndHaveNoStates) {
     const Handle handle(Tracking::on);
     Bytes frame = reference::encode(tc_list(1), true);
     // The jump of the element, behind the list's head, the count with its state, and the element's variant and flag.
@@ -127,7 +127,7 @@ TEST(WireBlocks, BehindAnElementThatLeadsBehindTheEndThereAreNoStates) {
     EXPECT_EQ(got["tc_list"].element_state[0], 0);
 }
 
-TEST(WireBlocks, AStringStateIsTakenFromTheSlackToo) {
+TEST(WireBlocks, AStringStateCanBeReadFromTheGuardByte) {
     const Handle handle(Tracking::on);
     Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].text = "abc";
@@ -138,7 +138,7 @@ TEST(WireBlocks, AStringStateIsTakenFromTheSlackToo) {
     EXPECT_EQ(instance.value()["proto_name"].state, 0x99);
 }
 
-TEST(WireBlocks, NothingIsReadIntoNothing) {
+TEST(WireBlocks, ReadingIntoNullFailsWithEinval) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const auto &record : tarn::reflect::records()) {
@@ -152,7 +152,7 @@ TEST(WireBlocks, NothingIsReadIntoNothing) {
     }
 }
 
-TEST(WireBlocks, WhatAFrameLacksOfAStringIsZeros) {
+TEST(WireBlocks, MissingCharactersOfAStringAreZeros) {
     const Handle handle;
     mirk_platform_testing_set_fresh_fill(handle, 0xA5);
     Record value("lumo_tarn_cl_kesh_appl");
@@ -164,7 +164,7 @@ TEST(WireBlocks, WhatAFrameLacksOfAStringIsZeros) {
     EXPECT_EQ(std::string(body, 8), std::string("abc\0\0\0\0\0", 8));
 }
 
-TEST(WireBlocks, ACountThatTheDataDoNotBearOutCostsOneBlock) {
+TEST(WireBlocks, ACountWithoutDataCostsOneBlock) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         Bytes frame = reference::encode(tc_list(1), handle.tracks());
@@ -182,7 +182,7 @@ TEST(WireBlocks, ACountThatTheDataDoNotBearOutCostsOneBlock) {
     }
 }
 
-TEST(WireBlocks, ACountAboveTheCeilingEndsTheRead) {
+TEST(WireBlocks, ACountAboveTheCeilingStopsTheRead) {
     const Handle handle(Tracking::on);
     Bytes frame = reference::encode(tc_list(1), true);
     std::fill_n(frame.begin() + 6, 4, std::uint8_t{0xFF});
@@ -194,7 +194,7 @@ TEST(WireBlocks, ACountAboveTheCeilingEndsTheRead) {
     use(handle, instance);
 }
 
-TEST(WireBlocks, ACopyWaivesTheDomainForTheOutermostFrameOnly) {
+TEST(WireBlocks, ACopyIgnoresTheDomainForTheOutermostFrameOnly) {
     const Handle handle(Tracking::none);
     const Instance list(handle, tc_list(1));
     const Instance wrapper(handle, rich_value(reference::record_table("lumo_tarn_exmem_info_wrapper")));
@@ -207,7 +207,7 @@ TEST(WireBlocks, ACopyWaivesTheDomainForTheOutermostFrameOnly) {
     EXPECT_EQ(write(handle, wrapper, 4096, true).error, 43U);
 }
 
-TEST(WireBlocks, ALenientDowngradeOfElementsKeepsTheFrameWhole) {
+TEST(WireBlocks, ALenientDowngradeOfElementsKeepsTheFrameComplete) {
     const Handle handle({.tracking = Tracking::on, .lenient = true});
     const Instance list(handle, tc_list(2));
     mirk_platform_domain_set_variant(handle, bridge::operations("lumo_tarn_dp_tc").type->luid, -1);
@@ -221,7 +221,7 @@ TEST(WireBlocks, ALenientDowngradeOfElementsKeepsTheFrameWhole) {
     EXPECT_TRUE(bridge::same(reference::encode(expected, true), frame.bytes));
 }
 
-TEST(WireBlocks, ACountOrLengthBesideNothingIsWrittenAlone) {
+TEST(WireBlocks, ACountOrLengthWithoutABlockIsWrittenAlone) {
     const Handle handle(Tracking::on);
     const Instance list(handle, "lumo_tarn_dp_tc_list");
     const Instance appl(handle, "lumo_tarn_cl_kesh_appl");
@@ -238,7 +238,7 @@ TEST(WireBlocks, ACountOrLengthBesideNothingIsWrittenAlone) {
 }
 
 // A fill of the whole state area covers the vector's address too; then each element's state is that byte.
-TEST(WireBlocks, AFilledStateAreaGoesOutAsItsByte) {
+TEST(WireBlocks, AFilledStateAreaIsWrittenAsItsByte) {
     Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(2));
     instance.record().set_all_state_tracking_flag(handle, id, instance.get(), 0x21);

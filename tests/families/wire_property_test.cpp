@@ -31,7 +31,7 @@ void for_each_value(int values, Check &&check) {
     }
 }
 
-TEST(WireProperties, FramesAreThoseOfTheReferenceCodec) {
+TEST(WireProperties, FramesEqualThoseOfTheReferenceCodec) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(4, [&](const Record &value) {
@@ -43,7 +43,7 @@ TEST(WireProperties, FramesAreThoseOfTheReferenceCodec) {
     }
 }
 
-TEST(WireProperties, LengthsAreThoseOfTheReference) {
+TEST(WireProperties, LengthsEqualThoseOfTheReference) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(2, [&](const Record &value) {
@@ -56,7 +56,7 @@ TEST(WireProperties, LengthsAreThoseOfTheReference) {
 }
 
 // Whether or not each of two peers tracks states, they read each other; states arrive where both do.
-TEST(WireProperties, AFrameReadIntoAFreshInstanceGivesTheValue) {
+TEST(WireProperties, AFrameReadIntoANewInstanceGivesTheValue) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for_each_value(3, [&](const Record &value) {
@@ -119,7 +119,7 @@ void expect_round_trip(mirk_handle *h, bool tracked, const Record &value) {
     EXPECT_TRUE(bridge::same(reference::as_received(value, tracked), target.value()));
 }
 
-TEST(WireProperties, OneByteCountsAtTheirLimits) {
+TEST(WireProperties, OneByteCountsWorkAtTheirLimits) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -140,7 +140,7 @@ TEST(WireProperties, OneByteCountsAtTheirLimits) {
     }
 }
 
-TEST(WireProperties, StringsUpToTheirLimit) {
+TEST(WireProperties, StringsWorkUpToTheirLimit) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -158,7 +158,7 @@ TEST(WireProperties, StringsUpToTheirLimit) {
     }
 }
 
-TEST(WireProperties, LargeArraysInEveryRecord) {
+TEST(WireProperties, LargeArraysWorkInEveryRecord) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {

@@ -73,7 +73,7 @@ TEST(WireReuse, AnUnchangedCountKeepsTheBlockAndReplacesTheVector) {
     handle.expect_lost_blocks(1);
 }
 
-TEST(WireReuse, AKeptBlockIsClearedBeforeItIsRead) {
+TEST(WireReuse, AReusedBlockIsClearedBeforeItIsRead) {
     const Handle handle(Tracking::none);
     const Instance instance(handle, tc_list(2));
     // A frame that ends behind the count: the elements are as fresh.
@@ -86,7 +86,7 @@ TEST(WireReuse, AKeptBlockIsClearedBeforeItIsRead) {
     EXPECT_TRUE(bridge::same(cleared, instance.value()));
 }
 
-TEST(WireReuse, AnotherCountReleasesTheBlockAndTheVector) {
+TEST(WireReuse, AChangedCountReleasesTheBlockAndTheVector) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         for (const std::size_t count : {1U, 4U}) {
             const Handle handle(tracking);
@@ -100,7 +100,7 @@ TEST(WireReuse, AnotherCountReleasesTheBlockAndTheVector) {
     }
 }
 
-TEST(WireReuse, WithoutReuseTheOldBlockIsNeitherUsedNorReleased) {
+TEST(WireReuse, TheOldBlockIsNeitherUsedNorReleasedWithoutReuse) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         Handle handle(tracking);
         const Instance instance(handle, tc_list(3));
@@ -136,7 +136,7 @@ TEST(WireReuse, AStringOfAnotherLengthIsReplaced) {
     EXPECT_EQ(handle.live_blocks(), blocks);
 }
 
-TEST(WireReuse, WithoutReuseAStringLosesItsOldBlock) {
+TEST(WireReuse, AStringLosesItsOldBlockWithoutReuse) {
     Handle handle(Tracking::none);
     const Instance instance(handle, appl("abc"));
     const Bytes frame = reference::encode(appl("xyz"), false);
@@ -161,7 +161,7 @@ TEST(WireReuse, AnEmptyStringKeepsTheOldBlockAndState) {
     }
 }
 
-TEST(WireReuse, AFrameWithoutStatesLeavesTheStatesAlone) {
+TEST(WireReuse, AFrameWithoutStatesKeepsTheStates) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3, 9));
     const std::uint8_t *vector = vector_of(handle, instance);
@@ -173,7 +173,7 @@ TEST(WireReuse, AFrameWithoutStatesLeavesTheStatesAlone) {
 }
 
 // A vector that is too short for the elements would be read behind its end.
-TEST(WireReuse, AVectorOfAnotherCountDoesNotStayBehindAFrameWithoutStates) {
+TEST(WireReuse, AVectorOfAnotherCountIsReleasedByAFrameWithoutStates) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3));
     for (const std::size_t count : {5U, 0U, 300U}) {
@@ -184,7 +184,7 @@ TEST(WireReuse, AVectorOfAnotherCountDoesNotStayBehindAFrameWithoutStates) {
     }
 }
 
-TEST(WireReuse, AVectorBesideACountOf0DoesNotStayEither) {
+TEST(WireReuse, AVectorOfACountOf0IsReleasedToo) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3));
     const Bytes empty = reference::encode(tc_list(0), true), frame = reference::encode(tc_list(300), false);
@@ -193,7 +193,7 @@ TEST(WireReuse, AVectorBesideACountOf0DoesNotStayEither) {
     EXPECT_EQ(instance.value()["tc_list"].element_state, std::vector<std::uint8_t>(300, 0));
 }
 
-TEST(WireReuse, AVectorThatAFailedReadLeftDoesNotStayEither) {
+TEST(WireReuse, AVectorLeftByAFailedReadIsReleasedToo) {
     Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3));
     mirk_platform_testing_fail_allocation(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);

@@ -86,7 +86,7 @@ Lines functions() {
     return names;
 }
 
-TEST(WireSequence, AFrameIsWrittenForwardAndItsJumpPutInPlace) {
+TEST(WireSequence, AFrameIsWrittenForwardAndItsJumpLast) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::on);
     EXPECT_EQ(w.write(), 25U);
     EXPECT_EQ(
@@ -102,7 +102,7 @@ TEST(WireSequence, AFrameIsWrittenForwardAndItsJumpPutInPlace) {
                "_mirk_variant_jump_marshal buffer+2 23 4 ctx=7 err=local"}));
 }
 
-TEST(WireSequence, AFlatReadAsksForEachMemberOnceAndAnnouncesNothing) {
+TEST(WireSequence, AFlatReadReadsEachMemberOnceWithoutANotification) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::on);
     const std::uint32_t size = w.write();
     w.forget();
@@ -114,7 +114,7 @@ TEST(WireSequence, AFlatReadAsksForEachMemberOnceAndAnnouncesNothing) {
                      "u_int32_unmarshal buffer+11 object+16 14 1", "u_int64_unmarshal buffer+16 object+24 9 1"}));
 }
 
-TEST(WireSequence, NothingStopsAWalkWhoseMemberFails) {
+TEST(WireSequence, AWalkContinuesAfterAMemberHasFailed) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     w.handle.knobs().errors["u_int32_marshal"] = 71;
     EXPECT_EQ(w.write(), 6U);
@@ -125,7 +125,7 @@ TEST(WireSequence, NothingStopsAWalkWhoseMemberFails) {
                      "_mirk_variant_jump_marshal buffer+2 4 4"}));
 }
 
-TEST(WireSequence, ABlockIsAnnouncedBeforeItIsAllocatedAndAVectorIsNotAnnounced) {
+TEST(WireSequence, ABlockIsNotifiedBeforeItIsAllocatedAndAVectorIsNot) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     const std::uint32_t two = w.frame_of(2);
     w.read(two, 0);
@@ -138,7 +138,7 @@ TEST(WireSequence, ABlockIsAnnouncedBeforeItIsAllocatedAndAVectorIsNotAnnounced)
                      "write_notify block1+56 8", "write_notify block1+66 1", "write_notify block1+66 1"}));
 }
 
-TEST(WireSequence, ElementsGetTheirOffsetsWhateverTheFrameBrought) {
+TEST(WireSequence, ElementsGetTheirOffsetsWhateverTheFrameContains) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     w.handle.set_tracking(Tracking::off);
     const std::uint32_t two = w.frame_of(2);
@@ -161,7 +161,7 @@ TEST(WireSequence, AnUnchangedCountReplacesTheVectorOnly) {
         (Lines{"obj_alloc 2", "mirklib_update_sttr_offset earlier 112", "mirklib_update_sttr_offset earlier+56 65"}));
 }
 
-TEST(WireSequence, AnotherCountDropsMappingsThenBlockThenVector) {
+TEST(WireSequence, AChangedCountReleasesMappingsThenBlockThenVector) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     w.read(w.frame_of(2), 0);
     const std::uint32_t one = w.frame_of(1);
@@ -174,7 +174,7 @@ TEST(WireSequence, AnotherCountDropsMappingsThenBlockThenVector) {
                      "write_notify block1+10 1"}));
 }
 
-TEST(WireSequence, ElementsWithoutStatesTakeTheirOwnBytesAndHaveNoMappingsToDrop) {
+TEST(WireSequence, ElementsWithoutStatesHaveNoMappingsToRemove) {
     for (const Tracking tracking : {Tracking::none, Tracking::off}) {
         Wire w("lumo_tarn_dp_debug_setting_data", tracking);
         const std::uint32_t two = w.frame_of(2);
@@ -188,7 +188,7 @@ TEST(WireSequence, ElementsWithoutStatesTakeTheirOwnBytesAndHaveNoMappingsToDrop
     }
 }
 
-TEST(WireSequence, WithoutOidMappingMappingsStay) {
+TEST(WireSequence, MappingsStayIfOidMappingIsOff) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     w.read(w.frame_of(2), 0);
     const std::uint32_t one = w.frame_of(1);
@@ -198,7 +198,7 @@ TEST(WireSequence, WithoutOidMappingMappingsStay) {
     w.handle->oid_mapping = 1;
 }
 
-TEST(WireSequence, WithoutAVectorTheBlockGoesAgain) {
+TEST(WireSequence, AFailedVectorAllocationReleasesTheBlock) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     const std::uint32_t two = w.frame_of(2);
     w.handle.fail_obj_alloc(2);
@@ -208,7 +208,7 @@ TEST(WireSequence, WithoutAVectorTheBlockGoesAgain) {
                                      "write_notify object+16 8", "mirk_store_err 12"}));
 }
 
-TEST(WireSequence, AStringIsReleasedAnnouncedAndAllocated) {
+TEST(WireSequence, AStringIsReleasedNotifiedAndAllocated) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         Wire w("lumo_tarn_cl_kesh_appl", tracking);
         w.text(1, "abc");
@@ -228,7 +228,7 @@ TEST(WireSequence, AStringIsReleasedAnnouncedAndAllocated) {
 }
 
 // Unlike the states of single values, which are stepped over there too.
-TEST(WireSequence, ASkippedStateOfAStringIsNotSteppedOverAtTheLastByte) {
+TEST(WireSequence, ASkippedStateOfAStringDoesNotSkipTheLastByte) {
     Wire w("lumo_tarn_cl_kesh_appl", Tracking::off);
     w.text(1, "abc");
     w.handle.set_tracking(Tracking::on);
@@ -242,7 +242,7 @@ TEST(WireSequence, ASkippedStateOfAStringIsNotSteppedOverAtTheLastByte) {
     EXPECT_EQ(recording::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+12 object+24 1 1");
 }
 
-TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
+TEST(WireSequence, RaDataFollowTheFlag) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     static_cast<mirk_object *>(w.instance)->obj_flag |= 32;
     const std::uint32_t size = w.write();
@@ -261,7 +261,7 @@ TEST(WireSequence, RaDataGoOutAndComeInBehindTheFlag) {
                      "u_int32_unmarshal", "u_int32_unmarshal", "u_int64_unmarshal"}));
 }
 
-TEST(WireSequence, RaDataThatCannotBeReadAreNone) {
+TEST(WireSequence, UnreadableRaDataAreEmpty) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     static_cast<mirk_object *>(w.instance)->obj_flag |= 32;
     const std::uint32_t size = w.write();
@@ -272,7 +272,7 @@ TEST(WireSequence, RaDataThatCannotBeReadAreNone) {
     w.handle.knobs().errors.clear();
 }
 
-TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantGoesOut) {
+TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantIsWritten) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::off);
     w.handle.knobs().variants["lumo_tarn_fdb_mem_info"] = {-1, 0};
     w.handle.knobs().slot_gets_eidrm = false;
@@ -287,7 +287,7 @@ TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantGoesOut) {
 }
 
 // A length costs one question for arrays whose elements all have one size, whatever their number.
-TEST(WireSequence, TheLengthOfElementsOfOneSizeIsAskedOnce) {
+TEST(WireSequence, TheLengthOfFixedSizeElementsIsComputedOnce) {
     const auto questions = [](std::string_view record, std::uint32_t elements) {
         Wire w(record, Tracking::off);
         w.read(w.frame_of(elements), 0);

@@ -33,7 +33,7 @@ Bytes longer(Bytes frame, std::size_t extra) {
     return frame;
 }
 
-TEST(Wire, WithoutABodyAFrameIsItsHeader) {
+TEST(Wire, AFrameWithoutABodyIsItsHeader) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -47,7 +47,7 @@ TEST(Wire, WithoutABodyAFrameIsItsHeader) {
     }
 }
 
-TEST(Wire, AnInstanceWithoutStateGoesOutWithZeros) {
+TEST(Wire, AnInstanceWithoutStateIsWrittenWithZeros) {
     const Handle handle(Tracking::on);
     for (const RecordTable &table : reference::records()) {
         const Record value = rich_value(table);
@@ -65,7 +65,7 @@ TEST(Wire, AnInstanceWithoutStateGoesOutWithZeros) {
     }
 }
 
-TEST(Wire, TheLastStateByteMayStandInTheByteOfSlack) {
+TEST(Wire, TheLastStateByteMayBeTheGuardByte) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, flat_value());
     const Written written = write(handle, instance, 37);
@@ -87,7 +87,7 @@ TEST(Wire, TheLastStateByteMayStandInTheByteOfSlack) {
     EXPECT_EQ(target.value()["size"].state, 0x77);
 }
 
-TEST(Wire, AFrameOfANewerSenderIsReadAndSteppedOver) {
+TEST(Wire, MembersOfANewerSenderAreSkipped) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -126,7 +126,7 @@ TEST(Wire, ANewerElementDoesNotShiftTheNextOne) {
     EXPECT_TRUE(bridge::same(reference::as_received(value, false), instance.value()));
 }
 
-TEST(Wire, AShorterBodyIsNotNoticed) {
+TEST(Wire, AShorterBodyIsNotDetected) {
     const Handle handle(Tracking::none);
     Bytes frame = reference::encode(flat_value(), false);
     put_jump(frame, 4);
@@ -151,7 +151,7 @@ TEST(Wire, AVariantAbove0IsReadAndWrittenAs0) {
     }
 }
 
-TEST(Wire, AReadAnnouncesNothingOfAFlatRecord) {
+TEST(Wire, ReadingAFlatRecordMakesNoNotification) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, flat);
     std::vector<mirk_platform_testing_event_kind> seen;
@@ -166,7 +166,7 @@ TEST(Wire, AReadAnnouncesNothingOfAFlatRecord) {
     EXPECT_EQ(seen, std::vector{MIRK_PLATFORM_TESTING_CLEAR_ERROR});
 }
 
-TEST(Wire, AReadNamesTheTypeOnceMore) {
+TEST(Wire, AReadBindsTheTypeAgain) {
     for (const bool private_types : {false, true}) {
         const Handle handle({.private_types = private_types});
         const Instance instance(handle, flat);
@@ -178,7 +178,7 @@ TEST(Wire, AReadNamesTheTypeOnceMore) {
     }
 }
 
-TEST(Wire, FlagsFromAFrameAreMergedAndLeadNowhere) {
+TEST(Wire, FlagsFromAFrameAreMergedWithoutEffect) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -197,7 +197,7 @@ TEST(Wire, FlagsFromAFrameAreMergedAndLeadNowhere) {
     }
 }
 
-TEST(Wire, OnlyTwoBitsOfAFlagSayWhatFollows) {
+TEST(Wire, OnlyTwoBitsOfAFlagDetermineWhatFollows) {
     for (const Tracking tracking : {Tracking::none, Tracking::off}) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -217,7 +217,7 @@ TEST(Wire, OnlyTwoBitsOfAFlagSayWhatFollows) {
     }
 }
 
-TEST(Wire, TheFlagOnTheWireHoldsTwoBitsOnly) {
+TEST(Wire, OnlyTwoBitsOfTheFlagAreWritten) {
     const Handle handle(Tracking::off);
     const Instance instance(handle, flat);
     instance.header()->obj_flag = 0xFF & ~1;
@@ -226,7 +226,7 @@ TEST(Wire, TheFlagOnTheWireHoldsTwoBitsOnly) {
     EXPECT_EQ(written.buffer[1], ra_data_flag);
 }
 
-TEST(Wire, RaDataThatCannotBeHadReplaceTheError) {
+TEST(Wire, UnreadableRaDataReplaceTheError) {
     const Handle handle(Tracking::none);
     Record value = flat_value();
     value.ra = reference::ReferenceData{5, 6};
@@ -239,7 +239,7 @@ TEST(Wire, RaDataThatCannotBeHadReplaceTheError) {
     EXPECT_EQ(handle->last_error, 43U);
 }
 
-TEST(Wire, ADowngradeIsReportedAndEndsTheBodyOrIsLetPass) {
+TEST(Wire, ADowngradeFailsOrOmitsTheBody) {
     for (const RecordTable &table : reference::records()) {
         const Handle strict(Tracking::none);
         const Handle lenient({.lenient = true});
@@ -261,7 +261,7 @@ TEST(Wire, ADowngradeIsReportedAndEndsTheBodyOrIsLetPass) {
     }
 }
 
-TEST(Wire, UnderASetErrorNothingIsDone) {
+TEST(Wire, NothingIsDoneIfTheErrorIsSet) {
     for (const RecordTable &table : reference::records()) {
         const Handle handle(Tracking::on);
         const Instance instance(handle, rich_value(table));
@@ -286,7 +286,7 @@ TEST(Wire, UnderASetErrorNothingIsDone) {
     }
 }
 
-TEST(Wire, NoRoomAndNoBytesAreWantOfMemory) {
+TEST(Wire, ABufferOfZeroBytesFailsWithEnomem) {
     for (const RecordTable &table : reference::records()) {
         const Handle handle(Tracking::none);
         const Instance instance(handle, rich_value(table));
@@ -308,7 +308,7 @@ TEST(Wire, NoRoomAndNoBytesAreWantOfMemory) {
     }
 }
 
-TEST(Wire, TooLittleRoomIsReportedAtEverySize) {
+TEST(Wire, ABufferThatIsTooSmallFailsAtEverySize) {
     for (const Tracking tracking : {Tracking::none, Tracking::on}) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -326,7 +326,7 @@ TEST(Wire, TooLittleRoomIsReportedAtEverySize) {
     }
 }
 
-TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
+TEST(Wire, ANullInstanceHasTheLengthOfAnEmptyOne) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -337,7 +337,7 @@ TEST(Wire, TheLengthOfANullInstanceIsThatOfAnEmptyOne) {
     }
 }
 
-TEST(Wire, OfANullInstanceNoMemberCanBeWritten) {
+TEST(Wire, ANullInstanceFailsAtItsFirstMember) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
         for (const RecordTable &table : reference::records()) {
@@ -360,7 +360,7 @@ protected:
     }
 };
 
-TEST_P(WireDeathTest, ACorruptModeIsTheEnd) {
+TEST_P(WireDeathTest, ACorruptModeAborts) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, GetParam()->name);
     std::vector<std::uint8_t> buffer(8192);
@@ -373,7 +373,7 @@ TEST_P(WireDeathTest, ACorruptModeIsTheEnd) {
     handle->sttr_desc->sttr_mode = 0xEEEE;
 }
 
-TEST_P(WireDeathTest, ATargetWithoutStateOnATrackingHandleIsTheEnd) {
+TEST_P(WireDeathTest, ATargetWithoutStateOnATrackingHandleAborts) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, GetParam()->name);
     instance.header()->obj_flag &= static_cast<std::uint8_t>(~tracked_flag);

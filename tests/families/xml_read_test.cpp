@@ -68,7 +68,7 @@ void make_presentable(reference::Record &value, bool replace) {
     }
 }
 
-TEST(XmlReading, WhatWasWrittenComesBack) {
+TEST(XmlReading, WrittenValuesAreReadBack) {
     for (const Tracking mode : kit::every_tracking) {
         const Handle h(mode);
         for (const RecordOperations &record : tarn::reflect::records()) {
@@ -87,7 +87,7 @@ TEST(XmlReading, WhatWasWrittenComesBack) {
     }
 }
 
-TEST(XmlReading, CharactersOutsideAsciiComeBackWhenTheyAreUtf8) {
+TEST(XmlReading, Utf8IsReadBack) {
     const Handle h;
     reference::Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].text = "\xC3\xA9<&>\"'\xE2\x82\xAC\xF0\x9F\x98\x80 \t\r\n";
@@ -188,7 +188,7 @@ TEST(XmlReading, ADocumentMayLackAnyMember) {
     }
 }
 
-TEST(XmlReading, ValuesGoInWithoutChangeMarks) {
+TEST(XmlReading, NumbersAreStoredWithoutAModifiedMark) {
     const Handle h(Tracking::on);
     const Instance wexa(h, "lumo_tarn_dp_lumo_wexa_info");
     EXPECT_EQ(read_members(h, wexa, "<lumo_num>3</lumo_num><in_wexa_is_valid>true</in_wexa_is_valid>"), 0u);
@@ -198,7 +198,7 @@ TEST(XmlReading, ValuesGoInWithoutChangeMarks) {
 }
 
 // Every failing allocation in turn: the read ends with 12, nothing is lost, and the instance can be destroyed.
-TEST(XmlReading, WantOfMemoryEndsTheReadAndLosesNothing) {
+TEST(XmlReading, FailedAllocationsStopTheReadAndLoseNothing) {
     for (const Tracking mode : {Tracking::none, Tracking::on}) {
         for (const bool onwards : {false, true}) {
             const Handle h(mode);
@@ -239,7 +239,7 @@ TEST(XmlReading, WantOfMemoryEndsTheReadAndLosesNothing) {
     }
 }
 
-TEST(XmlReading, GrowthThatFailsUnderTrackingLosesNoMoreThanTheOldStates) {
+TEST(XmlReading, AFailedGrowthLosesAtMostTheOldStates) {
     for (std::uint64_t nth = 1; nth <= 12; ++nth) {
         Handle h(Tracking::on);
         h.allow_lost_blocks();

@@ -5,7 +5,7 @@ namespace {
 
 using namespace forms;
 
-TEST(XmlRules, AMissingRecordIsError2) {
+TEST(XmlRules, AMissingRecordFailsWithEnoent) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         const reference::Record value =
@@ -20,7 +20,7 @@ TEST(XmlRules, AMissingRecordIsError2) {
     }
 }
 
-TEST(XmlRules, APathThatIsNoneIsAMissingRecord) {
+TEST(XmlRules, AnInvalidPathIsAMissingRecord) {
     const Handle h;
     const Instance exmem(h, "lumo_tarn_exmem_info");
     const Document document("<x><size>1</size></x>");
@@ -32,7 +32,7 @@ TEST(XmlRules, APathThatIsNoneIsAMissingRecord) {
     EXPECT_EQ(exmem.value()["size"].number, 0u);
 }
 
-TEST(XmlRules, AnErrorOnEntryIsKept) {
+TEST(XmlRules, ASetErrorIsKept) {
     const Handle h;
     const Instance exmem(h, "lumo_tarn_exmem_info");
     const Document document("<x><size>1</size></x>");
@@ -46,7 +46,7 @@ TEST(XmlRules, AnErrorOnEntryIsKept) {
     EXPECT_EQ(exmem.value()["size"].number, 0u);
 }
 
-TEST(XmlRules, AnElementWithNothingInItIsNoError) {
+TEST(XmlRules, AnEmptyElementIsNotAnError) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         const Instance instance(h, record);
@@ -56,7 +56,7 @@ TEST(XmlRules, AnElementWithNothingInItIsNoError) {
 }
 
 // The forgiven error of the missing record remains in the handle, since the slot is another word.
-TEST(XmlRules, AMissingNestedRecordIsForgiven) {
+TEST(XmlRules, AMissingNestedRecordIsIgnored) {
     const Handle h;
     reference::Record value = random_value("lumo_tarn_dp_lumo_wexa_info", 1, {.states = false});
     const Instance instance(h, value);
@@ -70,7 +70,7 @@ TEST(XmlRules, AMissingNestedRecordIsForgiven) {
     EXPECT_EQ(h->last_error, 2u);
 }
 
-TEST(XmlRules, AWrongValueEndsTheRead) {
+TEST(XmlRules, AnInvalidValueStopsTheRead) {
     const Handle h;
     const Instance exmem(h, "lumo_tarn_exmem_info");
     EXPECT_EQ(read_members(h, exmem, "<cl_addr>1</cl_addr><exmem_addr>x</exmem_addr><ppe_addr>2</ppe_addr>"), 22u);
@@ -95,7 +95,7 @@ TEST(XmlRules, AWrongValueEndsTheRead) {
     EXPECT_EQ(data.value().number(0), 1u);
 }
 
-TEST(XmlRules, AnArrayWithoutElementsStaysAsItIs) {
+TEST(XmlRules, AnArrayWithoutElementsDoesNotChange) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_debug_setting_data");
     value.append("lumo_data")["lumo_num"].number = 4;
@@ -104,7 +104,7 @@ TEST(XmlRules, AnArrayWithoutElementsStaysAsItIs) {
     EXPECT_TRUE(bridge::same(value, data.value()));
 }
 
-TEST(XmlRules, ElementsAreWrittenOverFromTheFirstAndTheRestStays) {
+TEST(XmlRules, ElementsAreOverwrittenFromTheFirstAndTheRestStays) {
     const Handle h;
     reference::Record value("lumo_tarn_dp_debug_setting_data");
     for (std::uint64_t i = 0; i < 3; ++i) value.append("lumo_data")["ager_enabled"].number = 10 + i;
@@ -116,7 +116,7 @@ TEST(XmlRules, ElementsAreWrittenOverFromTheFirstAndTheRestStays) {
     EXPECT_TRUE(bridge::same(value, data.value()));
 }
 
-TEST(XmlRules, TheCountInTheDocumentPlaysNoPart) {
+TEST(XmlRules, TheCountInTheDocumentIsIgnored) {
     const Handle h;
     const Instance list(h, "lumo_tarn_dp_tc_list");
     EXPECT_EQ(read_members(h, list, "<num_tcs>5</num_tcs><tc_list/><tc_list><id>6</id></tc_list>"), 0u);
@@ -132,7 +132,7 @@ TEST(XmlRules, TheCountInTheDocumentPlaysNoPart) {
     EXPECT_EQ(appl.value().number(2), 1u);
 }
 
-TEST(XmlRules, AnEmptyStringLeavesTheOldOne) {
+TEST(XmlRules, AnEmptyStringKeepsTheOldOne) {
     const Handle h;
     reference::Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].text = "tcp";
@@ -147,7 +147,7 @@ TEST(XmlRules, AnEmptyStringLeavesTheOldOne) {
     EXPECT_TRUE(bridge::same(value, appl.value()));
 }
 
-TEST(XmlRules, AnAbsentStringCostsTheNextScalar) {
+TEST(XmlRules, AnAbsentStringSkipsTheNextScalar) {
     const Handle h;
     const std::string numbers = "<protocol_id>6</protocol_id><tarn_id>7</tarn_id>";
     {
@@ -185,7 +185,7 @@ TEST(XmlRules, AnAbsentStringCostsTheNextScalar) {
 }
 
 // Only absence is forgiven to a string, and its own rule leaves every other error to the next member.
-TEST(XmlRules, AStringThatCannotBeLookedUpEndsTheReadAtTheNextScalar) {
+TEST(XmlRules, AFailedStringLookUpStopsTheReadAtTheNextScalar) {
     const Handle h;
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
     // The path of a member is cut behind its slash, and what is left is no path.
@@ -198,7 +198,7 @@ TEST(XmlRules, AStringThatCannotBeLookedUpEndsTheReadAtTheNextScalar) {
     EXPECT_TRUE(bridge::same(reference::Record("lumo_tarn_cl_kesh_appl"), appl.value()));
 }
 
-TEST(XmlRules, APathOfMoreThan255CharactersIsCutAndFindsNothing) {
+TEST(XmlRules, APathOfMoreThan255CharactersIsTruncatedAndFindsNothing) {
     const Handle h;
     reference::Record value = random_value("lumo_tarn_exmem_info", 1, {.states = false});
     const Instance exmem(h, value);
@@ -216,7 +216,7 @@ TEST(XmlRules, APathOfMoreThan255CharactersIsCutAndFindsNothing) {
     EXPECT_TRUE(bridge::same(value, exmem.value()));
 }
 
-TEST(XmlRules, AProcessorReadsBothItsArrays) {
+TEST(XmlRules, BothArraysOfAProcessorAreRead) {
     const Handle h;
     const std::string fixed = "<static_exmem><num_hash_elements>1</num_hash_elements></static_exmem>";
     const std::string dynamic = "<dyn_exmem><list_header_ptr>2</list_header_ptr><exmem/><exmem/></dyn_exmem>";
@@ -250,7 +250,7 @@ TEST(XmlRules, AProcessorReadsBothItsArrays) {
     }
 }
 
-TEST(XmlRules, AStringWithoutMemoryIsError12) {
+TEST(XmlRules, AFailedStringAllocationGivesEnomem) {
     const Handle h;
     for (const std::uint64_t nth : {1u, 2u}) {
         const Instance appl(h, "lumo_tarn_cl_kesh_appl");
@@ -261,7 +261,7 @@ TEST(XmlRules, AStringWithoutMemoryIsError12) {
     }
 }
 
-TEST(XmlRules, AnInstanceWithoutABodyTakesNumbersButNoStrings) {
+TEST(XmlRules, AnInstanceWithoutABodyStoresNumbersButNoStrings) {
     const Handle h;
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
     mirk_platform_domain_set_variant(h, tarn::schema::lumo_tarn_cl_kesh_appl.luid.bytes.data(), -1);
@@ -274,7 +274,7 @@ TEST(XmlRules, AnInstanceWithoutABodyTakesNumbersButNoStrings) {
     EXPECT_EQ(appl.value()["tarn_id"].number, 1u);
 }
 
-TEST(XmlRules, AStringBeyond65535BytesIsCutToItsLow16Bits) {
+TEST(XmlRules, TheLengthOfALongStringIsTruncatedTo16Bits) {
     const Handle h;
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
     EXPECT_EQ(read_members(h, appl, "<proto_name>" + std::string(65536 + 3, 'q') + "</proto_name>"), 0u);

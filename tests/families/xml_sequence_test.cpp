@@ -49,7 +49,7 @@ TEST_F(ReadingSequence, MembersAreLookedUpInTableOrder) {
     lumo_tarn_dp_lumo_wexa_info_destroy(h, id, wexa);
 }
 
-TEST_F(ReadingSequence, UnderASetErrorTheRuntimeIsNotCalledAtAll) {
+TEST_F(ReadingSequence, NoCallIsMadeIfTheErrorIsSet) {
     Handle h;
     lumo_tarn_cl_kesh_appl *appl = lumo_tarn_cl_kesh_appl_create(h, id);
     Element document{"r", "", {}};
@@ -100,7 +100,7 @@ TEST_F(ReadingSequence, AStringIsMeasuredReadIntoABufferAndSet) {
     }
 }
 
-TEST_F(ReadingSequence, AnAbsentStringLeavesItsErrorToTheNextMember) {
+TEST_F(ReadingSequence, TheNextMemberClearsTheErrorOfAnAbsentString) {
     Handle h;
     lumo_tarn_cl_kesh_appl *appl = lumo_tarn_cl_kesh_appl_create(h, id);
     const Element document{"r", "", {}};
@@ -115,7 +115,7 @@ TEST_F(ReadingSequence, AnAbsentStringLeavesItsErrorToTheNextMember) {
     lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
 }
 
-TEST_F(ReadingSequence, AStringThatCannotBeReadGivesItsBufferBack) {
+TEST_F(ReadingSequence, AFailedStringReadReleasesItsBuffer) {
     Handle h;
     lumo_tarn_cl_kesh_appl *appl = lumo_tarn_cl_kesh_appl_create(h, id);
     Element document{"r", "", {}};
@@ -147,7 +147,7 @@ TEST_F(ReadingSequence, AStringThatCannotBeReadGivesItsBufferBack) {
     lumo_tarn_cl_kesh_appl_destroy(h, id, appl);
 }
 
-TEST_F(ReadingSequence, AStringWithoutMemoryEndsTheReading) {
+TEST_F(ReadingSequence, AFailedStringAllocationStopsTheRead) {
     Handle h;
     lumo_tarn_cl_kesh_appl *appl = lumo_tarn_cl_kesh_appl_create(h, id);
     Element document{"r", "", {}};
@@ -184,7 +184,7 @@ TEST_F(ReadingSequence, AnArrayIsReadByPositionsUntilOneIsMissing) {
     lumo_tarn_dp_debug_setting_data_destroy(h, id, data);
 }
 
-TEST_F(ReadingSequence, NoMemoryForAnElementEndsItsArrayOnly) {
+TEST_F(ReadingSequence, AFailedElementAllocationEndsOnlyItsArray) {
     Handle h;
     lumo_tarn_lumo_info *info = lumo_tarn_lumo_info_create(h, id);
     const Element document{"r", "", {}};

@@ -40,7 +40,7 @@ TEST(XmlWriting, ARecordWithoutABodyIsAnEmptyElement) {
     EXPECT_EQ(to_xml(h, Instance(h, value), "x", 9).text(), "<x state=\"9\"></x>");
 }
 
-TEST(XmlWriting, CountsAndLengthsShowNoState) {
+TEST(XmlWriting, CountsAndLengthsHaveNoState) {
     const Handle h(Tracking::on);
     const Instance list(h, "lumo_tarn_cl_appl_data");
     list.record().set_all_state_tracking_flag(h, id, list.get(), 7);
@@ -72,7 +72,7 @@ TEST(XmlWriting, ElementsShowTheirOwnStateAndNestedRecordsThatOfTheMember) {
     EXPECT_EQ(text.find("state=\"3\""), std::string::npos) << text;
 }
 
-TEST(XmlWriting, AnEnumerationNeverShowsAState) {
+TEST(XmlWriting, AnEnumerationNeverHasAState) {
     const Handle h(Tracking::on);
     const Instance mem(h, "lumo_tarn_static_exmem_info");
     mem.record().set_all_state_tracking_flag(h, id, mem.get(), 9);
@@ -84,7 +84,7 @@ TEST(XmlWriting, AnEnumerationNeverShowsAState) {
     }
 }
 
-TEST(XmlWriting, AnErrorOnEntryIsKeptAndNothingWritten) {
+TEST(XmlWriting, NothingIsWrittenIfTheErrorIsSet) {
     const Handle h;
     const Instance exmem(h, "lumo_tarn_exmem_info");
     h->last_error = 5;
@@ -101,7 +101,7 @@ TEST(XmlWriting, AnErrorOnEntryIsKeptAndNothingWritten) {
     EXPECT_EQ(h->last_error, 0u);
 }
 
-TEST(XmlWriting, AStickyFormAfterAnErrorWritesNothing) {
+TEST(XmlWriting, AStickyFormWritesNothingAfterAnError) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
         const Instance instance(h, record);
@@ -116,7 +116,7 @@ TEST(XmlWriting, AStickyFormAfterAnErrorWritesNothing) {
     }
 }
 
-TEST(XmlWriting, AnObjectWithoutStatesEndsTheWalkOnATrackingHandle) {
+TEST(XmlWriting, AnObjectWithoutStateStopsTheWalkOnATrackingHandle) {
     const Handle h(Tracking::on);
     const Instance exmem(h, "lumo_tarn_exmem_info");
     exmem.header()->obj_flag &= static_cast<std::uint8_t>(~8u);
@@ -130,7 +130,7 @@ TEST(XmlWriting, AnObjectWithoutStatesEndsTheWalkOnATrackingHandle) {
     h->last_error = 0;
 }
 
-TEST(XmlWritingDeathTest, ACorruptModeOfTheHandleIsFatal) {
+TEST(XmlWritingDeathTest, ACorruptModeAborts) {
     const Handle h(Tracking::on);
     const Instance exmem(h, "lumo_tarn_exmem_info");
     EXPECT_DEATH(
@@ -141,7 +141,7 @@ TEST(XmlWritingDeathTest, ACorruptModeOfTheHandleIsFatal) {
         "\\(FATAL\\): Corrupted MIRK Handle");
 }
 
-TEST(XmlWriting, ABufferThatIsTooSmallIsToldAndNeverPassed) {
+TEST(XmlWriting, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
     for (const Tracking mode : {Tracking::none, Tracking::on}) {
         const Handle h(mode);
         for (const reference::Record &value : rich_values()) {

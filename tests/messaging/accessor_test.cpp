@@ -8,7 +8,7 @@ using tarn::reflect::messages;
 
 struct PayloadAccessors : Messaging {};
 
-TEST_F(PayloadAccessors, GetLeavesThePayloadWithTheMessage) {
+TEST_F(PayloadAccessors, GetKeepsThePayloadInTheMessage) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -38,7 +38,7 @@ TEST_F(PayloadAccessors, ADetachedPayloadOutlivesItsMessage) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(PayloadAccessors, SetLeavesTheOldPayloadToTheCaller) {
+TEST_F(PayloadAccessors, SetDoesNotDestroyTheOldPayload) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -68,7 +68,7 @@ TEST_F(PayloadAccessors, FreeAndSetDestroysTheOldPayload) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(PayloadAccessors, FreeAndSetWithTheMessagesOwnPayloadStoresWhatIsLeftOfIt) {
+TEST_F(PayloadAccessors, FreeAndSetWithTheOwnPayloadStoresTheDestroyedOne) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -82,7 +82,7 @@ TEST_F(PayloadAccessors, FreeAndSetWithTheMessagesOwnPayloadStoresWhatIsLeftOfIt
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
+TEST_F(PayloadAccessors, ASetErrorAndANullMessageAreTraced) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -113,7 +113,7 @@ TEST_F(PayloadAccessors, RefuseASetErrorAndANullMessageWithATrace) {
 
 struct FatalMessages : Messaging {};
 
-TEST_F(FatalMessages, ACorruptTrackingMode) {
+TEST_F(FatalMessages, ACorruptTrackingModeAborts) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         h.allow_lost_blocks();
@@ -125,7 +125,7 @@ TEST_F(FatalMessages, ACorruptTrackingMode) {
     EXPECT_DEATH(messages()[0].create(h, id), "\\(FATAL\\): Corrupted MIRK Handle");
 }
 
-TEST_F(FatalMessages, ADamagedTypeAtDestruction) {
+TEST_F(FatalMessages, ADamagedTypeAbortsAtDestruction) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -140,7 +140,7 @@ TEST_F(FatalMessages, ADamagedTypeAtDestruction) {
     }
 }
 
-TEST_F(FatalMessages, AMissingVariantBlock) {
+TEST_F(FatalMessages, AMissingVariantBlockAborts) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -153,7 +153,7 @@ TEST_F(FatalMessages, AMissingVariantBlock) {
     }
 }
 
-TEST_F(FatalMessages, ADamagedNumberOfVariantsIsTracedOnly) {
+TEST_F(FatalMessages, ADamagedNumberOfVariantsIsOnlyTraced) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;

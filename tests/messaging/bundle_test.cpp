@@ -103,7 +103,7 @@ TEST_F(Bundles, EveryBundleReachesPeersOfEveryTrackingMode) {
     }
 }
 
-TEST_F(Bundles, MessagesThatTheHandlerLeavesAreDestroyed) {
+TEST_F(Bundles, MessagesThatTheHandlerDoesNotTakeAreDestroyed) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle sender, h;
@@ -116,7 +116,7 @@ TEST_F(Bundles, MessagesThatTheHandlerLeavesAreDestroyed) {
     }
 }
 
-TEST_F(Bundles, WithNoHandlerButTheStubTheMessagesAreGoneWithoutAnError) {
+TEST_F(Bundles, TheStubDiscardsTheMessagesWithoutAnError) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle sender, h;
@@ -128,7 +128,7 @@ TEST_F(Bundles, WithNoHandlerButTheStubTheMessagesAreGoneWithoutAnError) {
     }
 }
 
-TEST_F(Bundles, AnAbortedBundleReachesNobody) {
+TEST_F(Bundles, AnAbortedBundleIsNotDelivered) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle sender, h;
@@ -144,7 +144,7 @@ TEST_F(Bundles, AnAbortedBundleReachesNobody) {
     EXPECT_TRUE(handler_calls.empty());
 }
 
-TEST_F(Bundles, AHandlersErrorStaysAndTheBundleIsClosedAllTheSame) {
+TEST_F(Bundles, AHandlersErrorIsKeptAndTheBundleIsClosed) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle sender, h;
@@ -159,7 +159,7 @@ TEST_F(Bundles, AHandlersErrorStaysAndTheBundleIsClosedAllTheSame) {
     }
 }
 
-TEST_F(Bundles, OutsideABundleAMessageGoesToItsHandler) {
+TEST_F(Bundles, AMessageOutsideABundleGoesToItsHandler) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         register_all(h, on_message);
@@ -177,7 +177,7 @@ void write_length(Bytes &frame, std::size_t length) {
     for (std::size_t i = 0; i < 4; ++i) frame[12 + i] = static_cast<std::uint8_t>(length >> (24 - 8 * i));
 }
 
-TEST_F(Bundles, EveryTruncationIsAnErrorForTheDispatcherAndLeavesNothing) {
+TEST_F(Bundles, EveryTruncationFailsInTheDispatcherAndLeaksNothing) {
     for (const bool tracked : {false, true}) {
         for (const MessageOperations &m : messages()) {
             const Bytes whole = frame_of(m, sample(m), tracked);

@@ -93,7 +93,7 @@ TEST(Catalogue, ABundleAdmitsItsMessageAndTheRequest) {
     EXPECT_EQ(tables.size(), bundles().size());
 }
 
-TEST(Catalogue, ControlFramesAre43BytesAndSaySo) {
+TEST(Catalogue, ControlFramesHave43BytesAndContainThatLength) {
     for (const Control &c : controls()) {
         SCOPED_TRACE(c->name);
         Handle h;
@@ -112,7 +112,7 @@ TEST(Catalogue, ControlFramesAre43BytesAndSaySo) {
     }
 }
 
-TEST(Catalogue, FramesOfTwoHandlesDifferInTheStampAlone) {
+TEST(Catalogue, FramesOfTwoHandlesDifferOnlyInTheStamp) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         const reference::Record value = sample(m);

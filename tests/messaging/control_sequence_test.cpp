@@ -52,7 +52,7 @@ TEST_F(ControlSequence, AStartWritesItsHeaderAndNothingElse) {
     }
 }
 
-TEST_F(ControlSequence, AnEndDropsTheSendListInEveryCase) {
+TEST_F(ControlSequence, AbortAndCommitAlwaysDestroyTheSendList) {
     for (const BundleOperations &b : bundles()) {
         for (const MessageOperations *m : {&b.abort, &b.commit}) {
             SCOPED_TRACE(m->name);
@@ -72,7 +72,7 @@ TEST_F(ControlSequence, AnEndDropsTheSendListInEveryCase) {
     }
 }
 
-TEST_F(ControlSequence, WhatIsRefusedAsksForNothing) {
+TEST_F(ControlSequence, ARefusedMessageCallsNothing) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         b.commit.marshal(h, id, buffer.data(), nullptr, room, &err);
@@ -88,7 +88,7 @@ TEST_F(ControlSequence, WhatIsRefusedAsksForNothing) {
     }
 }
 
-TEST_F(ControlSequence, PrintAndXmlDoNotLookAtTheError) {
+TEST_F(ControlSequence, PrintAndXmlIgnoreTheError) {
     for (const BundleOperations &b : bundles()) {
         const std::pair<const MessageOperations *, std::string> all[] = {
             {&b.start, "start"}, {&b.abort, "abort"}, {&b.commit, "commit"}};
@@ -117,7 +117,7 @@ void handle(mirk_handle *h, std::uint32_t ctx_id, void *, std::uint32_t *err) {
     *err = EPERM;  // does not stop what follows
 }
 
-TEST_F(ControlSequence, ACommitRunsItsHandlerThenDropsTheListThenTheToken) {
+TEST_F(ControlSequence, ACommitRunsItsHandlerThenDestroysTheListThenTheToken) {
     for (const BundleOperations &b : bundles()) {
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
@@ -145,7 +145,7 @@ TEST_F(ControlSequence, ACommitRunsItsHandlerThenDropsTheListThenTheToken) {
     }
 }
 
-TEST_F(ControlSequence, ACommitThatFailedAsksForNoEntry) {
+TEST_F(ControlSequence, AFailedCommitLooksUpNoEntry) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         err = EPERM;
@@ -162,7 +162,7 @@ TEST_F(ControlSequence, ACommitThatFailedAsksForNoEntry) {
     }
 }
 
-TEST_F(ControlSequence, AnAbortDropsTheListBeforeItAsksForTheEntry) {
+TEST_F(ControlSequence, AnAbortDestroysTheListBeforeItLooksUpTheEntry) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         recording::clear_names();
@@ -182,7 +182,7 @@ TEST_F(ControlSequence, AnAbortDropsTheListBeforeItAsksForTheEntry) {
     }
 }
 
-TEST_F(ControlSequence, AStartNotesTheEntryAndTheTable) {
+TEST_F(ControlSequence, AStartRecordsTheEntryAndTheTable) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         mirk_dispatch_info entry = entry_with(nullptr);
@@ -224,7 +224,7 @@ TEST_F(ControlSequence, RegistrationForTheModuleReachesTheSiblingsInOrder) {
     }
 }
 
-TEST_F(ControlSequence, RegistrationForABundleTellsNobody) {
+TEST_F(ControlSequence, RegistrationForABundleCallsNothing) {
     for (const BundleOperations &b : bundles()) {
         b.register_handler(handle);
         b.unregister_handler();

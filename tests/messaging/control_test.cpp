@@ -32,7 +32,7 @@ struct ControlMessages : Messaging {
     }
 };
 
-TEST_F(ControlMessages, ObjectsAreTokensOfNoSize) {
+TEST_F(ControlMessages, ObjectsAreTokensOfZeroBytes) {
     for (const Control &c : controls()) {
         SCOPED_TRACE(c->name);
         Handle h;
@@ -60,7 +60,7 @@ TEST_F(ControlMessages, ObjectsAreTokensOfNoSize) {
     }
 }
 
-TEST_F(ControlMessages, CreateWithoutMemoryGivesNullAndNoError) {
+TEST_F(ControlMessages, AFailedAllocationGivesNullWithoutAnError) {
     for (const Control &c : controls()) {
         Handle h;
         h.fail_alloc(1, true);
@@ -73,7 +73,7 @@ TEST_F(ControlMessages, CreateWithoutMemoryGivesNullAndNoError) {
     }
 }
 
-TEST_F(ControlMessages, StickyCreateWithoutMemoryGivesTheSentinelAndTheError) {
+TEST_F(ControlMessages, AFailedAllocationInAStickyCreateGivesTheSentinelAndTheError) {
     for (const Control &c : controls()) {
         Handle h;
         h.fail_alloc(1);
@@ -82,7 +82,7 @@ TEST_F(ControlMessages, StickyCreateWithoutMemoryGivesTheSentinelAndTheError) {
     }
 }
 
-TEST_F(ControlMessages, StickyCreateGoesByTheLastErrorAlone) {
+TEST_F(ControlMessages, StickyCreateOnlyChecksTheLastError) {
     for (const Control &c : controls()) {
         Handle h;
         h->cr_mode = 1;  // of no account here, and left as it is
@@ -104,7 +104,7 @@ TEST_F(ControlMessages, EachHasASentinelOfItsOwn) {
     EXPECT_EQ(sentinels.size(), controls().size());
 }
 
-TEST_F(ControlMessages, OnlyTheStickyDestroyKnowsTheSentinel) {
+TEST_F(ControlMessages, OnlyTheStickyDestroyRecognizesTheSentinel) {
     void *const another = sentinel_of(tarn::reflect::bundles().back().commit);
     for (const Control &c : controls()) {
         SCOPED_TRACE(c->name);
@@ -127,7 +127,7 @@ TEST_F(ControlMessages, OnlyTheStickyDestroyKnowsTheSentinel) {
     }
 }
 
-TEST_F(ControlMessages, LenIs43WhateverIsPassed) {
+TEST_F(ControlMessages, LenIsAlways43) {
     for (const Control &c : controls()) {
         Handle h;
         EXPECT_EQ(c->len(nullptr, 0, nullptr), 43u);
@@ -179,7 +179,7 @@ TEST_F(ControlMessages, AStartOpensTheBundle) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(ControlMessages, AStartOnAnOpenHandleLeavesTheBundleAlone) {
+TEST_F(ControlMessages, AStartInAnOpenBundleChangesNothing) {
     for (const Control &c : controls()) {
         for (const Control &second : controls()) {
             if (!is_start(c) || !is_start(second)) continue;
@@ -201,7 +201,7 @@ TEST_F(ControlMessages, AStartOnAnOpenHandleLeavesTheBundleAlone) {
     }
 }
 
-TEST_F(ControlMessages, AnEndWithoutABundleIsAnError) {
+TEST_F(ControlMessages, AbortAndCommitFailWithoutABundle) {
     for (const Control &c : controls()) {
         if (is_start(c)) continue;
         Handle h;
@@ -215,7 +215,7 @@ TEST_F(ControlMessages, AnEndWithoutABundleIsAnError) {
     }
 }
 
-TEST_F(ControlMessages, TheEndOfAnyBundleClosesTheOneThatIsOpen) {
+TEST_F(ControlMessages, AbortOrCommitOfAnyBundleClosesTheOpenOne) {
     for (const Control &opened : controls()) {
         for (const Control &end : controls()) {
             if (!is_start(opened) || is_start(end)) continue;
@@ -231,7 +231,7 @@ TEST_F(ControlMessages, TheEndOfAnyBundleClosesTheOneThatIsOpen) {
     }
 }
 
-TEST_F(ControlMessages, TooLittleRoomEndsABundleButDoesNotOpenOne) {
+TEST_F(ControlMessages, ABufferThatIsTooSmallClosesABundleButDoesNotOpenOne) {
     const struct {
         std::uint32_t size, written;
     } cases[] = {{0, 0}, {26, 0}, {27, 27}, {30, 27}, {42, 27}, {top_bit, 0}, {0xFFFFFFFF, 0}};
@@ -306,7 +306,7 @@ TEST_F(ControlMessages, UnmarshalReadsNothingAndCallsTheHandler) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(ControlMessages, TheResultOfUnmarshalIsNoSignOfSuccess) {
+TEST_F(ControlMessages, UnmarshalReturnsTheSizeEvenIfItFails) {
     for (const Control &c : controls()) {
         Handle h;
         void *message = &h;

@@ -71,7 +71,7 @@ TEST_F(Handlers, AStartOutsideTheDispatcherHasNoEntry) {
     }
 }
 
-TEST_F(Handlers, AStartInsideABundleLeavesItAlone) {
+TEST_F(Handlers, AStartInsideABundleChangesNothing) {
     for (const BundleOperations &b : bundles()) {
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
@@ -88,7 +88,7 @@ TEST_F(Handlers, AStartInsideABundleLeavesItAlone) {
     }
 }
 
-TEST_F(Handlers, AStartDoesNotLookAtTheError) {
+TEST_F(Handlers, AStartIgnoresTheError) {
     for (const BundleOperations &b : bundles()) {
         Handle h;
         err = EPERM;
@@ -98,7 +98,7 @@ TEST_F(Handlers, AStartDoesNotLookAtTheError) {
     }
 }
 
-TEST_F(Handlers, AnAbortDropsTheBundle) {
+TEST_F(Handlers, AnAbortDestroysTheBundle) {
     for (const BundleOperations &b : bundles()) {
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
@@ -121,7 +121,7 @@ TEST_F(Handlers, AnAbortDropsTheBundle) {
     }
 }
 
-TEST_F(Handlers, AnEndOutsideABundleSpeaksOfAnAbort) {
+TEST_F(Handlers, AnEndOutsideABundleTracesAnAbort) {
     for (const BundleOperations &b : bundles()) {
         for (const MessageOperations *m : {&b.abort, &b.commit}) {
             SCOPED_TRACE(m->name);
@@ -139,7 +139,7 @@ TEST_F(Handlers, AnEndOutsideABundleSpeaksOfAnAbort) {
     }
 }
 
-TEST_F(Handlers, AnEndWithAnErrorDropsTheBundleUnseen) {
+TEST_F(Handlers, AnEndWithAnErrorDestroysTheBundleUndelivered) {
     for (const BundleOperations &b : bundles()) {
         b.register_handler(on_bundle<'b'>);
         for (const bool abort : {true, false}) {
@@ -173,7 +173,7 @@ TEST_F(Handlers, ACommitWithoutADispatchEntryRunsNoHandler) {
     EXPECT_EQ(traced(), Lines{});
 }
 
-TEST_F(Handlers, AMessageThatTheyAreGivenIsReleasedInEveryBranch) {
+TEST_F(Handlers, TheirTokenIsAlwaysReleased) {
     for (const BundleOperations &b : bundles()) {
         for (const MessageOperations *m : {&b.start, &b.abort, &b.commit}) {
             for (const std::uint32_t open : {0u, 1u}) {
@@ -238,7 +238,7 @@ TEST_F(Handlers, ExactlyOneOfFiveRunsInAFixedOrder) {
     }
 }
 
-TEST_F(Handlers, TheStubOfABundleTracesFillersAndTouchesNoError) {
+TEST_F(Handlers, TheStubOfABundleTracesFillersAndSetsNoError) {
     for (const BundleOperations &b : bundles()) {
         SCOPED_TRACE(std::string(b.bundle->name));
         Handle h;
@@ -264,7 +264,7 @@ const std::uint16_t stub_module_at_start = g_mirk_lumo_ui_tarn_stub_trace_module
 const std::uint16_t queue_module_at_start = g_mirk_lumo_ui_tarn_queue_trace_module_id;
 
 // A process initialises the trace of messages itself; the library has no use for the other two numbers.
-TEST_F(Handlers, TheTraceModulesOfMessagesHaveNoNumberUntilTheProcessGivesThemOne) {
+TEST_F(Handlers, MessageTraceModulesHaveNoNumberUntilTheyAreRegistered) {
     EXPECT_EQ(message_module_at_start, 0);
     EXPECT_EQ(stub_module_at_start, 0);
     EXPECT_EQ(queue_module_at_start, 0);

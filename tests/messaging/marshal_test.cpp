@@ -43,7 +43,7 @@ std::vector<mirk_platform_sent> sent(mirk_handle *h) {
 
 struct Marshal : Messaging {};
 
-TEST_F(Marshal, LenIsThatOfThePayloadAndTheHead) {
+TEST_F(Marshal, LenIsThePayloadsPlusTheHead) {
     for (const Tracking tracking : every_tracking) {
         for (const MessageOperations &m : messages()) {
             SCOPED_TRACE(std::string(m.name) + ", " + kit::name_of(tracking));
@@ -62,7 +62,7 @@ TEST_F(Marshal, LenIsThatOfThePayloadAndTheHead) {
     }
 }
 
-TEST_F(Marshal, LenOfAMessageWithoutPayloadIsThatOfANullRecord) {
+TEST_F(Marshal, LenWithoutAPayloadIsThatOfANullRecord) {
     for (const MessageOperations &m : messages()) {
         Handle h(Tracking::on);
         void *message = m.create_shallow(h, id);
@@ -101,7 +101,7 @@ TEST_F(Marshal, WritesTheFrameOfTheReference) {
     EXPECT_EQ(of_messages(traced()), Lines{});
 }
 
-TEST_F(Marshal, DoesNothingButTraceWhenTheErrorIsSet) {
+TEST_F(Marshal, OnlyTracesIfTheErrorIsSet) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -122,7 +122,7 @@ TEST_F(Marshal, DoesNothingButTraceWhenTheErrorIsSet) {
     }
 }
 
-TEST_F(Marshal, AMessageThatTheDomainDoesNotAllow) {
+TEST_F(Marshal, AMessageThatTheDomainDoesNotAllowFails) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -145,7 +145,7 @@ TEST_F(Marshal, AMessageThatTheDomainDoesNotAllow) {
     }
 }
 
-TEST_F(Marshal, TooLittleRoomForTheHeaderLeavesTheBufferAlone) {
+TEST_F(Marshal, ABufferTooSmallForTheHeaderIsNotWritten) {
     for (const MessageOperations &m : messages()) {
         for (const std::uint32_t size : {0u, 26u, top_bit, 0xFFFFFFFFu}) {
             SCOPED_TRACE(std::string(m.name) + ", size " + std::to_string(size));
@@ -163,7 +163,7 @@ TEST_F(Marshal, TooLittleRoomForTheHeaderLeavesTheBufferAlone) {
     }
 }
 
-TEST_F(Marshal, TooLittleRoomForTheIdentityLeavesAZeroedHeader) {
+TEST_F(Marshal, ABufferTooSmallForTheIdentityGetsAZeroedHeader) {
     for (const MessageOperations &m : messages()) {
         for (const std::uint32_t size : {27u, 42u}) {
             SCOPED_TRACE(std::string(m.name) + ", size " + std::to_string(size));
@@ -185,7 +185,7 @@ TEST_F(Marshal, TooLittleRoomForTheIdentityLeavesAZeroedHeader) {
     }
 }
 
-TEST_F(Marshal, RoomForTheHeadAloneLeavesThePayloadToFail) {
+TEST_F(Marshal, ABufferForTheHeadAloneFailsInThePayload) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -235,7 +235,7 @@ TEST_F(Marshal, APayloadThatDoesNotFitLeavesTheHeaderZero) {
     }
 }
 
-TEST_F(Marshal, FailuresAreTracedQuietlyWhenTheRuntimeWantsIt) {
+TEST_F(Marshal, FailuresAreTracedAtDebugLevelIfTheRuntimeSuppressesThem) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -256,7 +256,7 @@ TEST_F(Marshal, FailuresAreTracedQuietlyWhenTheRuntimeWantsIt) {
     }
 }
 
-TEST_F(Marshal, AMessageThatTheBundleDoesNotList) {
+TEST_F(Marshal, AMessageThatTheBundleDoesNotAdmitFails) {
     for (const MessageOperations &m : messages()) {
         for (const BundleOperations &b : tarn::reflect::bundles()) {
             if (&b.bundle->message == m.message) continue;
@@ -279,7 +279,7 @@ TEST_F(Marshal, AMessageThatTheBundleDoesNotList) {
     }
 }
 
-TEST_F(Marshal, InABundleEachFrameIsCounted) {
+TEST_F(Marshal, EachFrameInABundleIsCounted) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -299,7 +299,7 @@ TEST_F(Marshal, InABundleEachFrameIsCounted) {
     }
 }
 
-TEST_F(Marshal, OutsideABundleNothingIsCounted) {
+TEST_F(Marshal, NothingIsCountedOutsideABundle) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);

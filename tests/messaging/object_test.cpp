@@ -23,7 +23,7 @@ void expect_fresh(const Message &message, const MessageOperations &m, Tracking t
 
 struct MessageObjects : Messaging {};
 
-TEST_F(MessageObjects, CreateMakesAMessageWithAFreshPayload) {
+TEST_F(MessageObjects, CreateMakesAMessageWithANewPayload) {
     for (const Tracking tracking : every_tracking) {
         for (const MessageOperations &m : messages()) {
             SCOPED_TRACE(std::string(m.name) + ", " + kit::name_of(tracking));
@@ -60,7 +60,7 @@ TEST_F(MessageObjects, AShallowMessageHasNoPayload) {
     }
 }
 
-TEST_F(MessageObjects, CreationAndDestructionAreCountedAndLifeIsNot) {
+TEST_F(MessageObjects, CreationAndDestructionAreCountedButNotLiveObjects) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -75,7 +75,7 @@ TEST_F(MessageObjects, CreationAndDestructionAreCountedAndLifeIsNot) {
     }
 }
 
-TEST_F(MessageObjects, CountsAreAnnouncedBeforeTheyChange) {
+TEST_F(MessageObjects, CountsAreNotifiedBeforeTheyChange) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -110,7 +110,7 @@ TEST_F(MessageObjects, CountsAreAnnouncedBeforeTheyChange) {
     }
 }
 
-TEST_F(MessageObjects, OnAHandleWithPrivateTypesTheCopyIsUsedAndCounted) {
+TEST_F(MessageObjects, PrivateTypesAreUsedAndCounted) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h({.private_types = true});
@@ -176,7 +176,7 @@ TEST_F(MessageObjects, AStickyCreateAfterAnErrorAllocatesNothing) {
     }
 }
 
-TEST_F(MessageObjects, AStickyCreateWithoutMemoryGivesTheSentinel) {
+TEST_F(MessageObjects, AFailedAllocationInAStickyCreateGivesTheSentinel) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -191,7 +191,7 @@ TEST_F(MessageObjects, AStickyCreateWithoutMemoryGivesTheSentinel) {
     }
 }
 
-TEST_F(MessageObjects, AStickyCreateWithoutMemoryForThePayloadGivesAMessageWithTheRecordsSentinel) {
+TEST_F(MessageObjects, AFailedPayloadAllocationInAStickyCreateGivesTheRecordsSentinel) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -209,7 +209,7 @@ TEST_F(MessageObjects, AStickyCreateWithoutMemoryForThePayloadGivesAMessageWithT
     }
 }
 
-TEST_F(MessageObjects, CreateWithoutMemoryGivesNullAndCountsNothing) {
+TEST_F(MessageObjects, AFailedAllocationGivesNullAndCountsNothing) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         const mirk_variant_entry before = counters(m);
@@ -229,7 +229,7 @@ TEST_F(MessageObjects, CreateWithoutMemoryGivesNullAndCountsNothing) {
     }
 }
 
-TEST_F(MessageObjects, CreateOutsideAStickyCallDoesNotLookAtTheLastError) {
+TEST_F(MessageObjects, CreateIgnoresTheLastErrorOutsideAStickyCall) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         h->last_error = EINVAL;
@@ -240,7 +240,7 @@ TEST_F(MessageObjects, CreateOutsideAStickyCallDoesNotLookAtTheLastError) {
     }
 }
 
-TEST_F(MessageObjects, EverythingIsDoneUnderTheIdOfTheCall) {
+TEST_F(MessageObjects, AllCallsGetTheIdOfTheCall) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -261,7 +261,7 @@ TEST_F(MessageObjects, EverythingIsDoneUnderTheIdOfTheCall) {
     }
 }
 
-TEST_F(MessageObjects, IsValidAsksTheDomain) {
+TEST_F(MessageObjects, IsValidChecksTheDomain) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;

@@ -26,7 +26,7 @@ struct Rendering : Messaging {
     }
 };
 
-TEST_F(Rendering, PrintIsTheTextOfTheReference) {
+TEST_F(Rendering, PrintEqualsTheReference) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         for (std::uint64_t seed = 1; seed <= 3; ++seed) {
@@ -54,7 +54,7 @@ TEST_F(Rendering, PrintIsTheTextOfTheReference) {
     EXPECT_EQ(traced(), Lines{});
 }
 
-TEST_F(Rendering, XmlIsThatOfTheReference) {
+TEST_F(Rendering, XmlEqualsTheReference) {
     for (const bool tracked : {false, true}) {
         for (const MessageOperations &m : messages()) {
             SCOPED_TRACE(m.name);
@@ -78,7 +78,7 @@ TEST_F(Rendering, XmlIsThatOfTheReference) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(Rendering, DoesNothingButTraceWhenTheErrorIsSet) {
+TEST_F(Rendering, OnlyTracesIfTheErrorIsSet) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -103,7 +103,7 @@ TEST_F(Rendering, DoesNothingButTraceWhenTheErrorIsSet) {
     }
 }
 
-TEST_F(Rendering, APrintWithoutRoomForItsFirstLineReports90) {
+TEST_F(Rendering, APrintWithoutRoomForItsFirstLineFailsWithEmsgsize) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = make(h, m, sample(m));
@@ -119,7 +119,7 @@ TEST_F(Rendering, APrintWithoutRoomForItsFirstLineReports90) {
     }
 }
 
-TEST_F(Rendering, EverySizeIsKeptTo) {
+TEST_F(Rendering, NoBufferSizeIsExceeded) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         const reference::Record value = sample(m);
@@ -165,7 +165,7 @@ TEST_F(Rendering, XmlIsReadBack) {
     }
 }
 
-TEST_F(Rendering, ADocumentWithoutThePayloadGivesAFreshOne) {
+TEST_F(Rendering, ADocumentWithoutThePayloadGivesANewOne) {
     const Document document("<nothing/>");
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
@@ -190,7 +190,7 @@ TEST_F(Rendering, NoDocumentIsADocumentWithoutThePayload) {
     }
 }
 
-TEST_F(Rendering, AFailedReadKeepsTheMessageThatItMade) {
+TEST_F(Rendering, AFailedReadLeaksItsMessage) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -208,7 +208,7 @@ TEST_F(Rendering, AFailedReadKeepsTheMessageThatItMade) {
     }
 }
 
-TEST_F(Rendering, EveryAllocationOfAReadMayFail) {
+TEST_F(Rendering, AReadSurvivesEachFailedAllocation) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         const Document document(reference::message_to_xml(m.name, sample(m, 1, printable), false));
@@ -268,7 +268,7 @@ TEST_F(Recorder, WritesEachReceivedMessageAndNothingElse) {
     EXPECT_EQ(traced(), Lines{});
 }
 
-TEST_F(Recorder, OffItRecordsNothing) {
+TEST_F(Recorder, RecordsNothingIfItIsOff) {
     mirk_platform_recorder_set(0, file);
     Handle h;
     const std::uint64_t before = mirk_platform_testing_allocations(nullptr, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC);
@@ -282,7 +282,7 @@ TEST_F(Recorder, OffItRecordsNothing) {
     EXPECT_EQ(mirk_platform_testing_allocations(nullptr, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC), before);
 }
 
-TEST_F(Recorder, AMessageOverTheLimitIsNotRecordedAndItsHandlerSeesTheError) {
+TEST_F(Recorder, AMessageOverTheLimitIsNotRecordedAndItsHandlerGetsTheError) {
     mirk_platform_recorder_set(1, file);
     int too_long = 0;
     for (const MessageOperations &m : messages()) {
@@ -306,7 +306,7 @@ TEST_F(Recorder, AMessageOverTheLimitIsNotRecordedAndItsHandlerSeesTheError) {
     EXPECT_EQ(recorded(), "");
 }
 
-TEST_F(Recorder, WithoutAStreamItTracesAndTheHandlerRuns) {
+TEST_F(Recorder, AMissingStreamIsTracedAndTheHandlerRuns) {
     mirk_platform_recorder_set(1, nullptr);
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
@@ -324,7 +324,7 @@ TEST_F(Recorder, WithoutAStreamItTracesAndTheHandlerRuns) {
     }
 }
 
-TEST_F(Recorder, WantOfMemoryIsTheEndOfTheProcess) {
+TEST_F(Recorder, AFailedAllocationAborts) {
     mirk_platform_recorder_set(1, file);
     for (const MessageOperations &m : messages()) {
         Handle h;
@@ -339,7 +339,7 @@ TEST_F(Recorder, WantOfMemoryIsTheEndOfTheProcess) {
     }
 }
 
-TEST_F(Recorder, RecordsWhatTheDispatcherReceivesOnce) {
+TEST_F(Recorder, RecordsReceivedMessagesOnce) {
     mirk_platform_recorder_set(1, file);
     for (const MessageOperations &m : messages()) {
         Handle h;

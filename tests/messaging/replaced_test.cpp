@@ -57,7 +57,7 @@ struct ReplacedHandlers : testing::Test {
     std::uint32_t err = 0;
 };
 
-TEST_F(ReplacedHandlers, OfPlainMessagesRun) {
+TEST_F(ReplacedHandlers, HandlersOfPlainMessagesRun) {
     for (const MessageOperations &m : tarn::reflect::messages()) {
         called.clear();
         Handle h;
@@ -70,7 +70,7 @@ TEST_F(ReplacedHandlers, OfPlainMessagesRun) {
     }
 }
 
-TEST_F(ReplacedHandlers, OfControlMessagesRun) {
+TEST_F(ReplacedHandlers, HandlersOfControlMessagesRun) {
     for (const Control &c : controls()) {
         called.clear();
         Handle h;
@@ -81,7 +81,7 @@ TEST_F(ReplacedHandlers, OfControlMessagesRun) {
 }
 
 // The commit of one bundle may be replaced and the bundle's handler too; what is called is always the process's own.
-TEST_F(ReplacedHandlers, AreWhatTheProcessFindsUnderTheirNames) {
+TEST_F(ReplacedHandlers, TheProcessFindsThemByName) {
     std::set<std::string> names;
     for (const BundleOperations &b : tarn::reflect::bundles()) {
         called.clear();

@@ -81,7 +81,7 @@ TEST_F(Sequence, CreateMakesThePayloadBeforeItBindsAndCounts) {
     }
 }
 
-TEST_F(Sequence, DestroyEndsThePayloadFirst) {
+TEST_F(Sequence, DestroyReleasesThePayloadFirst) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -155,7 +155,7 @@ TEST_F(Sequence, MarshalChecksTheDomainThenTheBundleAndWritesTheHeaderLast) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST_F(Sequence, AMessageThatTheOpenBundleLost) {
+TEST_F(Sequence, AMessageMissingInTheOpenBundleIsTraced) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         Handle h;
@@ -176,7 +176,7 @@ TEST_F(Sequence, AMessageThatTheOpenBundleLost) {
 }
 
 // The domain may allow a message and leave an error all the same.
-TEST_F(Sequence, AnErrorLeftByTheDomainCheckEndsMarshal) {
+TEST_F(Sequence, AnErrorOfTheDomainCheckStopsMarshal) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
         SCOPED_TRACE(std::string(b.bundle->name));
@@ -220,7 +220,7 @@ TEST_F(Sequence, ARefusedMessageIsReportedAsAnErrorOfTheDomain) {
     }
 }
 
-TEST_F(Sequence, TheRuntimeIsAskedAboutQuietnessOnlyAfterAFailure) {
+TEST_F(Sequence, SuppressionIsCheckedOnlyAfterAFailure) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -272,7 +272,7 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
 
 void note_handler(mirk_handle *, std::uint32_t, void *, void *, std::uint32_t *) { mirklib_free(nullptr, 0, nullptr); }
 
-TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
+TEST_F(Sequence, AMessageIsRecordedBetweenReadingAndDelivery) {
     std::FILE *file = std::tmpfile();
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
@@ -317,7 +317,7 @@ TEST_F(Sequence, RecordingStandsBetweenReadingAndDelivery) {
     std::fclose(file);
 }
 
-TEST_F(Sequence, PrintTriesItsLastLineAlsoAfterAFailure) {
+TEST_F(Sequence, PrintWritesItsLastLineEvenAfterAFailure) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);
@@ -341,7 +341,7 @@ TEST_F(Sequence, PrintTriesItsLastLineAlsoAfterAFailure) {
     }
 }
 
-TEST_F(Sequence, XmlClosesItsElementWhateverHappened) {
+TEST_F(Sequence, XmlAlwaysClosesItsElement) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         void *message = m.create(h, id);

@@ -13,7 +13,7 @@ struct Unmarshal : Messaging {
     }
 };
 
-TEST_F(Unmarshal, GivesBackWhatWasSentToPeersOfEveryTrackingMode) {
+TEST_F(Unmarshal, PeersOfEveryTrackingModeReadWhatWasSent) {
     for (const bool sender_tracks : {false, true}) {
         for (const Tracking receiver : every_tracking) {
             Handle h(receiver);
@@ -72,7 +72,7 @@ TEST_F(Unmarshal, DeliversToTheHandlerThatItWasGiven) {
     EXPECT_EQ(traced(), Lines{});
 }
 
-TEST_F(Unmarshal, WithoutAHandlerTheStubSaysThatNobodyTookTheMessage) {
+TEST_F(Unmarshal, TheStubFailsIfThereIsNoHandler) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -89,7 +89,7 @@ TEST_F(Unmarshal, WithoutAHandlerTheStubSaysThatNobodyTookTheMessage) {
     }
 }
 
-TEST_F(Unmarshal, DoesNothingButTraceWhenTheErrorIsSet) {
+TEST_F(Unmarshal, OnlyTracesIfTheErrorIsSet) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
@@ -152,7 +152,7 @@ TEST_F(Unmarshal, EveryTruncationOfATrackedFrameIsHarmless) {
     }
 }
 
-TEST_F(Unmarshal, OfATruncatedFrameCallsNoHandlerAndHandsOutNothing) {
+TEST_F(Unmarshal, ATruncatedFrameCallsNoHandlerAndReturnsNoMessage) {
     for (const MessageOperations &m : messages()) {
         const Bytes whole = frame_of(m, sample(m), false);
         for (const std::size_t size : {std::size_t{0}, std::size_t{26}, std::size_t{43}, whole.size() - 1}) {
@@ -185,7 +185,7 @@ TEST_F(Unmarshal, ASizeWithTheTopBitIsTooSmall) {
     }
 }
 
-TEST_F(Unmarshal, AWrongMarkerIsNoFrame) {
+TEST_F(Unmarshal, AWrongMarkerFails) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         Bytes bytes = frame_of(m, sample(m), false);
@@ -201,7 +201,7 @@ TEST_F(Unmarshal, AWrongMarkerIsNoFrame) {
     }
 }
 
-TEST_F(Unmarshal, WithoutMemoryForTheObject) {
+TEST_F(Unmarshal, AFailedObjectAllocationGivesEnomem) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         Buffer frame(frame_of(m, sample(m), false));
@@ -215,7 +215,7 @@ TEST_F(Unmarshal, WithoutMemoryForTheObject) {
     }
 }
 
-TEST_F(Unmarshal, WithoutMemoryForThePayloadTheHeaderHasBeenRead) {
+TEST_F(Unmarshal, AFailedPayloadAllocationComesAfterTheHeader) {
     for (const MessageOperations &m : messages()) {
         Handle h;
         Buffer frame(frame_of(m, sample(m), false, 5));
@@ -232,7 +232,7 @@ TEST_F(Unmarshal, WithoutMemoryForThePayloadTheHeaderHasBeenRead) {
     }
 }
 
-TEST_F(Unmarshal, EveryAllocationMayFail) {
+TEST_F(Unmarshal, EachFailedAllocationIsSurvived) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         for (const MessageOperations &m : messages()) {
             SCOPED_TRACE(m.name);
@@ -259,7 +259,7 @@ TEST_F(Unmarshal, EveryAllocationMayFail) {
     }
 }
 
-TEST_F(Unmarshal, AFrameGivenToTheWrongMessageDoesNoHarm) {
+TEST_F(Unmarshal, AFrameOfAnotherMessageDoesNoHarm) {
     int pairs = 0;
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         for (const MessageOperations &wrong : messages()) {

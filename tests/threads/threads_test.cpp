@@ -129,7 +129,7 @@ std::vector<Counts> counts() {
     return all;
 }
 
-TEST(Threads, NoCountIsLostWhereHandlesShareTheRecordsOfTypes) {
+TEST(Threads, SharedTypeRecordsLoseNoCount) {
     const std::vector<Counts> first = counts();
     for (unsigned i = 0; i < 3; ++i) everything(i, false);
     const std::vector<Counts> alone = counts();
@@ -145,7 +145,7 @@ TEST(Threads, NoCountIsLostWhereHandlesShareTheRecordsOfTypes) {
     }
 }
 
-TEST(Threads, RecordsOfTypesOfAHandlesOwnStandBesideSharedOnes) {
+TEST(Threads, PrivateTypeRecordsWorkBesideSharedOnes) {
     const std::vector<Counts> before = counts();
     on_threads(8, [](unsigned i) { everything(i, i % 2 != 0); });
     const std::vector<Counts> after = counts();
@@ -153,7 +153,7 @@ TEST(Threads, RecordsOfTypesOfAHandlesOwnStandBesideSharedOnes) {
 }
 
 // The trace modules are announced by the first object of a process, whichever thread makes it.
-TEST(Threads, HandlesOpenAndCloseBesideEachOther) {
+TEST(Threads, HandlesOpenAndCloseConcurrently) {
     on_threads(8, [](unsigned) {
         for (int round = 0; round < 20; ++round) {
             const Handle h({.private_types = round % 2 != 0});
@@ -186,12 +186,12 @@ void in_fresh_processes(int rounds, Work &&work) {
 }
 
 // The engine behind documents prepares itself once for the process.
-TEST(Threads, TheFirstDocumentsOfAProcessAreLoadedBesideEachOther) {
+TEST(Threads, TheFirstDocumentsLoadConcurrently) {
     in_fresh_processes(60, [] { on_threads(2, [](unsigned) { load_a_document(); }); });
 }
 
 // The first object of a process gets the library its numbers for tracing, and who only reads uses them all the same.
-TEST(Threads, WhoReadsABrokenFrameTracesBesideWhoMakesTheFirstObject) {
+TEST(Threads, ABrokenFrameIsTracedWhileTheFirstObjectIsCreated) {
     in_fresh_processes(5, [] {
         on_threads(2, [](unsigned i) {
             const Handle h;
@@ -210,7 +210,7 @@ TEST(Threads, WhoReadsABrokenFrameTracesBesideWhoMakesTheFirstObject) {
     });
 }
 
-TEST(Threads, AllGetTheSameSentinels) {
+TEST(Threads, AllThreadsGetTheSameSentinels) {
     on_threads(8, [](unsigned) {
         const Handle h;
         for (const auto &message : tarn::reflect::messages()) {
@@ -225,7 +225,7 @@ TEST(Threads, AllGetTheSameSentinels) {
 }
 
 // A handle that gets no counters of its own goes on with those that all share.
-TEST(Threads, NoCountIsLostWhereThereIsNoMemoryForCountersOfAHandlesOwn) {
+TEST(Threads, SharedCountersLoseNoCountIfPrivateTypesFail) {
     constexpr unsigned threads = 4, objects = 2000;
     const RecordOperations &record = bridge::operations("lumo_tarn_dp_tc");
     const auto &shared = record.type->variant_info->entries[0];

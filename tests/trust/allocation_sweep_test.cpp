@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Exports, EachOperation, testing::ValuesIn(each_driver()
 using RecorderDeathTest = testing::TestWithParam<const MessageOperations *>;
 
 // A recording asked for and silently missing would be worse.
-TEST_P(RecorderDeathTest, WithoutABufferTheProcessEnds) {
+TEST_P(RecorderDeathTest, AFailedBufferAllocationAborts) {
     const MessageOperations &m = *GetParam();
     EXPECT_EXIT(
         {
@@ -155,7 +155,7 @@ void *no_memory(std::size_t) { return nullptr; }
 
 // More references than a few are listed in memory of the process. Without it the destruction stops where it is, as when
 // the references cannot be read.
-TEST(AllocationSweep, ReferencesThatCannotBeListedStopADestruction) {
+TEST(AllocationSweep, UnlistableReferencesStopADestruction) {
     const RecordOperations *holder = nullptr;
     std::size_t index = 0;
     for (const RecordOperations &r : tarn::reflect::records()) {

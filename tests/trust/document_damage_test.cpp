@@ -66,7 +66,7 @@ TEST_P(DocumentDamage, CutAtEveryByteIsRefused) {
 }
 
 // Up to one tag of a document, and on from another tag of the same, or of another document.
-TEST_P(DocumentDamage, Spliced) {
+TEST_P(DocumentDamage, SplicedOnesAreReadOrRefused) {
     Share share(1024);
     const auto tags = [](const std::string &text) {
         std::vector<std::size_t> all;
@@ -95,7 +95,7 @@ TEST_P(DocumentDamage, Spliced) {
     }
 }
 
-TEST_P(DocumentDamage, EachByteReplaced) {
+TEST_P(DocumentDamage, EachReplacedByteIsReadOrRefused) {
     Share share(8192);
     for (std::size_t at = 0; at < text_.size(); ++at) {
         std::string text = text_;
@@ -215,7 +215,7 @@ const char *const numbers[] = {"256",
 
 // Every place of a document that holds a number, one after the other. What a member cannot hold is refused, and nothing
 // of it is stored.
-TEST_P(DocumentDamage, NumbersThatNothingHolds) {
+TEST_P(DocumentDamage, NumbersOutOfRangeAreRefused) {
     const RecordOperations *payload = root().payload();
     if (payload == nullptr) {
         EXPECT_EQ(read("<" + root().name + ">" + std::string(1000, '9') + "</" + root().name + ">").error, 0U);

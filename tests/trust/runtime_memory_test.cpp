@@ -72,7 +72,7 @@ protected:
     void SetUp() override { mirk_platform_trace_set_levels(1); }
 };
 
-TEST_F(RuntimeMemory, RefusedToAReadOfAnyRoot) {
+TEST_F(RuntimeMemory, AFailedReadOfAnyRootIsHarmless) {
     std::uint64_t all = 0;
     for (const Root &root : roots()) {
         for (const Tracking tracking : {Tracking::off, Tracking::on}) {
@@ -94,7 +94,7 @@ TEST_F(RuntimeMemory, RefusedToAReadOfAnyRoot) {
     EXPECT_GT(all, roots().size());
 }
 
-TEST_F(RuntimeMemory, RefusedToAReceiverOfABundle) {
+TEST_F(RuntimeMemory, AFailedReceiverOfABundleIsHarmless) {
     for (const reference::BundleTable &table : reference::bundles()) {
         SCOPED_TRACE(table.name);
         Bytes stream = bundle_stream(table, true);
@@ -111,7 +111,7 @@ TEST_F(RuntimeMemory, RefusedToAReceiverOfABundle) {
     }
 }
 
-TEST_F(RuntimeMemory, RefusedToASenderOfABundle) {
+TEST_F(RuntimeMemory, AFailedSenderOfABundleIsHarmless) {
     for (const auto &bundle : tarn::reflect::bundles()) {
         SCOPED_TRACE(bundle.bundle->name);
         const MessageOperations &m = tarn::reflect::operations_of(bundle.bundle->message);
@@ -135,7 +135,7 @@ TEST_F(RuntimeMemory, RefusedToASenderOfABundle) {
     }
 }
 
-TEST_F(RuntimeMemory, RefusedToTheReaderOfADocument) {
+TEST_F(RuntimeMemory, AFailedReaderOfADocumentIsHarmless) {
     for (const Root &root : roots()) {
         SCOPED_TRACE(root.name);
         const std::string text = document_of(root);
@@ -157,7 +157,7 @@ TEST_F(RuntimeMemory, RefusedToTheReaderOfADocument) {
     }
 }
 
-TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
+TEST_F(RuntimeMemory, AFailedOpenOfAHandleIsHarmless) {
     const std::uint64_t asked = refuse_each([&] {
         const ShortOfMemory is_short;
         mirk_handle *h = mirk_platform_handle_open(nullptr);
@@ -168,7 +168,7 @@ TEST_F(RuntimeMemory, RefusedToAnOpeningHandle) {
 }
 
 // What is refused is refused before there is an object, so its place for states is recorded in any case.
-TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
+TEST_F(RuntimeMemory, StateOffsetsAreReservedWithEachBlock) {
     kit::Handle h(Tracking::on);
     for (const std::size_t size : {1U, 200U, 256U, 5000U, 100000U}) {
         auto *block = static_cast<char *>(h->obj_alloc(h->mem_ctx, id, size));
@@ -189,7 +189,7 @@ TEST_F(RuntimeMemory, IsThereForThePlacesOfStatesOfWhateverHasABlock) {
 }
 
 // Many come and go: what was set aside for their states goes as well, and counts as long as it is there.
-TEST_F(RuntimeMemory, ForThePlacesOfStatesCountsIntoTheCeiling) {
+TEST_F(RuntimeMemory, StateOffsetsCountAgainstTheCeiling) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         const kit::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});
         const auto fill = [&] {

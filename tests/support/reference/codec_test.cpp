@@ -112,7 +112,7 @@ TEST(Frame, RecordWithoutBody) {
     EXPECT_EQ(encode(value, false)[0], 0);
 }
 
-TEST(Frame, ReferenceDataStandsBeforeTheJump) {
+TEST(Frame, ReferenceDataPrecedesTheJump) {
     Record value("lumo_tarn_dp_wexa_info");
     value["flags"].number = 0xDEADBEEF;
     value.ra = ReferenceData{0x0807060504030201, 0x77};
@@ -143,7 +143,7 @@ TEST(Frame, WireSizes) {
     }
 }
 
-TEST(Length, CountsEmptyArraysTooHigh) {
+TEST(Length, EmptyArraysAreCountedTooHigh) {
     Record value("lumo_tarn_dp_debug_setting_data");
     for (std::uint32_t n = 0; n < 4; ++n) {
         EXPECT_EQ(length(value, false), 7 + 39 * n);
@@ -154,7 +154,7 @@ TEST(Length, CountsEmptyArraysTooHigh) {
     }
 }
 
-TEST(Length, FixedSizeElementsGoByTheFirst) {
+TEST(Length, FixedSizeElementsHaveTheLengthOfTheFirst) {
     Record value("lumo_tarn_dp_debug_setting_data");
     value.append("lumo_data");
     value.append("lumo_data").variant = -1;
@@ -188,7 +188,7 @@ TEST(Message, ControlFrameIsHeaderAndLuid) {
     EXPECT_EQ(control_frame("lumo_tarn_dp_tt_cfg_rsp", "commit", 7), expected);
 }
 
-TEST(Message, DamageIsFound) {
+TEST(Message, DamageIsDetected) {
     const Record payload("lumo_tarn_debug_setting");
     const Bytes good = message_frame("lumo_tarn_debug_setting_msg", payload, false, 1);
     for (std::size_t at : {0u, 3u, 7u, 13u, 20u, 30u, 44u, 47u}) {
@@ -230,7 +230,7 @@ TEST_P(EveryRecord, DecodesWhatItEncodes) {
     }
 }
 
-TEST_P(EveryRecord, TruncationIsFoundAtItsPlace) {
+TEST_P(EveryRecord, TruncationIsReportedAtItsOffset) {
     GeneratorOptions options;
     options.budget = 1024;
     Generator generator(5, options);
@@ -246,7 +246,7 @@ TEST_P(EveryRecord, TruncationIsFoundAtItsPlace) {
     }
 }
 
-TEST_P(EveryRecord, WrongTrackingIsFound) {
+TEST_P(EveryRecord, WrongTrackingIsDetected) {
     const Record value(GetParam());
     EXPECT_EQ(decode(GetParam(), encode(value, true), false).offset, 1u);
     EXPECT_EQ(decode(GetParam(), encode(value, false), true).offset, 1u);

@@ -13,7 +13,7 @@ std::size_t occurrences(std::string_view text, std::string_view word) {
     return count;
 }
 
-TEST(Tables, HoldEveryLineOfTheirText) {
+TEST(Tables, ContainEachLineOfTheirText) {
     EXPECT_EQ(records().size(), occurrences(record_tables, "\nrecord "));
     EXPECT_EQ(enumerations().size(), occurrences(catalogue_tables, "\nenumeration "));
     EXPECT_EQ(messages().size(), occurrences(catalogue_tables, "\nmessage "));
@@ -32,7 +32,7 @@ TEST(Tables, HoldEveryLineOfTheirText) {
     EXPECT_EQ(members_of(Class::length), occurrences(record_tables, " length u_int"));
 }
 
-TEST(Tables, CountersStandDirectlyAheadOfWhatTheyCount) {
+TEST(Tables, CountersDirectlyPrecedeWhatTheyCount) {
     std::size_t products = 0;
     for (const RecordTable &table : records())
         for (std::size_t i = 0; i < table.members.size(); ++i) {
@@ -46,7 +46,7 @@ TEST(Tables, CountersStandDirectlyAheadOfWhatTheyCount) {
     EXPECT_EQ(products, occurrences(record_tables, " product\n"));
 }
 
-TEST(Tables, EveryLuidIsItsOwn) {
+TEST(Tables, LuidsAreUnique) {
     std::set<Luid> seen;
     for (const RecordTable &table : records()) seen.insert(table.luid);
     for (const EnumerationTable &table : enumerations()) seen.insert(table.luid);
@@ -65,7 +65,7 @@ TEST(Tables, EveryBundleAdmitsOneMessage) {
               (std::vector<std::string>{"lumo_tarn_pal_debug_rsp", "lumo_tarn_cl_debug_rsp"}));
 }
 
-TEST(Layout, SizesAreThoseOfTheTables) {
+TEST(Layout, SizesEqualThoseOfTheTables) {
     for (const RecordTable &table : records()) {
         const RecordLayout &layout = layout_of(table);
         EXPECT_EQ(layout.used, table.used) << table.name;
@@ -86,7 +86,7 @@ TEST(Layout, OneByteMembersFollowTheHeader) {
     EXPECT_EQ(layout.members[4].offset, 18u);
 }
 
-TEST(Layout, SlotsOfTheTrafficClass) {
+TEST(Layout, TheTrafficClassHasItsSlots) {
     const RecordTable &table = record_table("lumo_tarn_dp_tc");
     const RecordLayout &layout = layout_of(table);
     EXPECT_EQ(layout.members[table.index_of("exmem_info")].area, 1u);

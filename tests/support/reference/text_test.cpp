@@ -83,7 +83,7 @@ TEST(AddressText, Forms) {
     EXPECT_EQ(address_text({0, 1, 0, {}}), "0,0,0,0,0,0/1");
 }
 
-TEST(Xml, StatesStandAsAttributes) {
+TEST(Xml, StatesAreAttributes) {
     EXPECT_EQ(toxml_cr(wrapper(), false),
               "<lumo_tarn_exmem_info_wrapper><exmem><cl_addr>18446744073709551615</cl_addr><exmem_addr>2</exmem_addr>"
               "<ppe_addr>0</ppe_addr><size>4096</size></exmem></lumo_tarn_exmem_info_wrapper>");
@@ -93,7 +93,7 @@ TEST(Xml, StatesStandAsAttributes) {
               "</lumo_tarn_exmem_info_wrapper>");
 }
 
-TEST(Xml, ElementsBearTheNameOfTheArray) {
+TEST(Xml, ElementsHaveTheNameOfTheArray) {
     Record value("lumo_tarn_dp_debug_setting_data");
     value["lumo_data"].state = 9;  // the whole array has no element to show its state
     value.append("lumo_data", 2).variant = -1;
@@ -102,7 +102,7 @@ TEST(Xml, ElementsBearTheNameOfTheArray) {
               "<r><num_lumos>2</num_lumos><lumo_data state=\"2\"></lumo_data><lumo_data></lumo_data></r>");
 }
 
-TEST(Xml, EnumerationsShowNoState) {
+TEST(Xml, EnumerationsHaveNoState) {
     Record value("lumo_tarn_dyn_exmem_info");
     value["mem_type"].number = 2;
     value["mem_type"].state = 2;

@@ -7,7 +7,7 @@
 namespace reference {
 namespace {
 
-TEST(Value, DifferenceNamesThePlace) {
+TEST(Value, ADifferenceNamesItsPath) {
     Record a("lumo_tarn_dp_tc_list");
     a.append("tc_list");
     Record b = a;
@@ -24,7 +24,7 @@ TEST(Value, UnknownNamesAreRefused) {
     EXPECT_THROW(value["size"], std::out_of_range);
 }
 
-TEST(Value, AReceiverHasOnlyWhatWasSent) {
+TEST(Value, AReceiverHasOnlySentValues) {
     Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].state = 4;
     value["tarn_id"].state = 5;
@@ -46,7 +46,7 @@ TEST(Generator, SameSeedSameValues) {
     EXPECT_FALSE(first == a.make("lumo_tarn_dp_tt_table_data"));
 }
 
-TEST(Generator, KeepsToTheBudget) {
+TEST(Generator, RespectsTheBudget) {
     GeneratorOptions options;
     options.max_elements = 1000;
     options.max_text = 65535;
@@ -60,7 +60,7 @@ TEST(Generator, KeepsToTheBudget) {
     }
 }
 
-TEST(Generator, FillsArraysAndStringsAsAsked) {
+TEST(Generator, FillsArraysAndStringsAsRequested) {
     GeneratorOptions options;
     options.min_elements = options.max_elements = 400;
     options.min_text = options.max_text = 65535;
