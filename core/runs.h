@@ -17,7 +17,7 @@ constexpr bool all_integers(const Record &record) {
 // True if the member follows the previous member of its run without a gap.
 template <const Record &R>
 constexpr bool continues_run(std::size_t i) {
-    const auto &places = schema::layout<R>.places;
+    const auto &places = schema::layout<R>.members;
     return i != 0 && schema::is_integer(R.members[i].kind) && schema::is_integer(R.members[i - 1].kind) &&
            places[i].offset == places[i - 1].offset + places[i - 1].size;
 }
@@ -31,7 +31,8 @@ constexpr std::size_t length_of_run(std::size_t first) {
 // Bytes of the run that starts with F.
 template <class F>
 constexpr std::uint32_t size_of_run() {
-    constexpr schema::Place last = schema::layout<F::owner>.places[F::index + length_of_run<F::owner>(F::index) - 1];
+    constexpr schema::MemberLayout last =
+        schema::layout<F::owner>.members[F::index + length_of_run<F::owner>(F::index) - 1];
     return last.offset + last.size - F::place.offset;
 }
 template <class F, class Visit>

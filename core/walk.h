@@ -63,7 +63,7 @@ struct Field {
     static constexpr std::size_t index = I;
     static constexpr const Member &member = R.members[I];
     static constexpr Kind kind = member.kind;
-    static constexpr schema::Place place = schema::layout<R>.places[I];
+    static constexpr schema::MemberLayout place = schema::layout<R>.members[I];
     using Storage = typename StorageOf<kind>::type;
 
     // The member's enumeration or record; null for other kinds.

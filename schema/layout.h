@@ -1,9 +1,9 @@
-// Where the members of an instance lie, computed from the tables alone.
+// The memory layout of an instance, computed from the tables alone.
 //
 // An instance is an 11-byte header, then each member at its natural alignment, then slop, then, on a handle that tracks
 // state, the state area with one byte (slot) for each tracked member. Nested records and addresses take their state
-// bytes from inside the area of their owner. An array has two places there: the byte of the whole array, and at the
-// next multiple of 8 a pointer to a block of one byte for each element.
+// bytes from the area of their owner. An array has two entries there: the byte of the whole array and, at the next
+// multiple of 8, a pointer to a block with one byte for each element.
 #pragma once
 
 #include "schema/model.h"
@@ -14,18 +14,18 @@ inline constexpr std::uint32_t header_size = 11;
 inline constexpr std::uint32_t enumeration_value_offset = 12;
 inline constexpr std::size_t most_members = 64;
 
-struct Place {
+struct MemberLayout {
     std::uint32_t offset = 0;  // from the start of the instance
     std::uint32_t size = 0;
-    std::uint32_t slot = 0;   // state byte; of no meaning for a count or a length
+    std::uint32_t slot = 0;   // of the state byte; unused for a count or a length
     std::uint32_t inner = 0;  // nested record, address: first slot of its own area; array: slot of the vector pointer
 };
 
 struct Layout {
-    std::array<Place, most_members> places{};
+    std::array<MemberLayout, most_members> members{};
     std::uint32_t used_length = 0;  // to the end of the last member
-    std::uint32_t rounded = 0;      // that, up to a multiple of 8
-    std::uint32_t base_size = 0;    // what an instance takes without its state area
+    std::uint32_t rounded = 0;      // used_length, rounded up to a multiple of 8
+    std::uint32_t base_size = 0;    // of an instance without its state area
     std::uint32_t alloc_slop = 0;
     std::uint32_t state_width = 0;
     bool has_vector_pointer = false;  // at any depth
@@ -44,7 +44,7 @@ constexpr Layout lay_out(const Record &record) {
     l.used_length = header_size;
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        Place &p = l.places[i];
+        MemberLayout &p = l.members[i];
         p.size = storage_size(m);
         p.offset = round_up(l.used_length, facts(m.kind).alignment);
         l.used_length = p.offset + p.size;

@@ -15,7 +15,7 @@ std::string number(std::uint32_t n) { return std::to_string(n); }
 
 std::string primitive(const Member &m) { return std::string(facts(m.kind).primitive); }
 
-std::string at(const Member &m, const Place &p) {
+std::string at(const Member &m, const MemberLayout &p) {
     const std::string type = is_integer(m.kind) ? value_type(m) : primitive(m);
     return "(" + type + " *)(p + " + number(p.offset) + ")";
 }
@@ -134,7 +134,7 @@ std::string initialize(const Record &record) {
     std::string update, members;
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        const Place &p = l.places[i];
+        const MemberLayout &p = l.members[i];
         if (!is_embedded(m)) continue;
         embeds = true;
         const std::string place = number(p.offset), inner = number(p.inner);
@@ -216,7 +216,7 @@ std::string destroy(const Record &record) {
     std::string members;
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        const Place &p = l.places[i];
+        const MemberLayout &p = l.members[i];
         if (m.kind == Kind::address) {
             members += "    bound_destroy_address(h, id, " + at(m, p) + ", &err);\n    if (err) return;\n";
         } else if (m.kind == Kind::record) {
@@ -244,7 +244,7 @@ std::string destroy(const Record &record) {
     }
 )",
                                {{"$offset", number(p.offset)},
-                                {"$counter", number(l.places[i - 1].offset)},
+                                {"$counter", number(l.members[i - 1].offset)},
                                 {"$count", value_type(record.members[i - 1])},
                                 {"$area", area_of_object},
                                 {"$base_size", number(l.base_size)},
@@ -277,13 +277,13 @@ $members    bound_end_object(h, id, object, free_it);
 
 // ---- frames
 
-std::string put_state(const Place &p) {
+std::string put_state(const MemberLayout &p) {
     return "    if (tracked) { b[o] = area ? area[" + number(p.slot) + "] : 0; o += o != size; }\n";
 }
 
 std::string marshal_member(const Record &record, const Layout &l, std::size_t i) {
     const Member &m = record.members[i];
-    const Place &p = l.places[i];
+    const MemberLayout &p = l.members[i];
     if (m.kind == Kind::array) {
         return fill_in(R"(    {
         uint8_t *block = *(uint8_t **)(p + $offset);
@@ -302,7 +302,7 @@ std::string marshal_member(const Record &record, const Layout &l, std::size_t i)
     }
 )",
                        {{"$offset", number(p.offset)},
-                        {"$counter", number(l.places[i - 1].offset)},
+                        {"$counter", number(l.members[i - 1].offset)},
                         {"$count", value_type(record.members[i - 1])},
                         {"$slot", number(p.slot)},
                         {"$inner", number(p.inner)},
@@ -321,7 +321,7 @@ std::string marshal_member(const Record &record, const Layout &l, std::size_t i)
         $state        }
     }
 )",
-            {{"$offset", number(p.offset)}, {"$counter", number(l.places[i - 1].offset)}, {"$state", put_state(p)}});
+            {{"$offset", number(p.offset)}, {"$counter", number(l.members[i - 1].offset)}, {"$state", put_state(p)}});
     }
     if (m.kind == Kind::record || m.kind == Kind::enumeration) {
         const std::string_view name = m.kind == Kind::record ? m.record->name : m.enumeration->name;
@@ -378,14 +378,14 @@ $members    }
                     {"$r", std::string(record.name)}});
 }
 
-std::string take_state(const Place &p) {
+std::string take_state(const MemberLayout &p) {
     return "    if (take) { if (o != size) { area[" + number(p.slot) +
            "] = b[o]; ++o; } } else if (skip) o += o != size;\n";
 }
 
 std::string unmarshal_member(const Record &record, const Layout &l, std::size_t i) {
     const Member &m = record.members[i];
-    const Place &p = l.places[i];
+    const MemberLayout &p = l.members[i];
     if (m.kind == Kind::array) {
         const Layout e = lay_out(*m.record);
         return fill_in(R"(    {
@@ -426,7 +426,7 @@ std::string unmarshal_member(const Record &record, const Layout &l, std::size_t 
         }
     }
 )",
-                       {{"$counter", number(l.places[i - 1].offset)},
+                       {{"$counter", number(l.members[i - 1].offset)},
                         {"$count", value_type(record.members[i - 1])},
                         {"$offset", number(p.offset)},
                         {"$stride", number(e.base_size)},
@@ -451,7 +451,7 @@ std::string unmarshal_member(const Record &record, const Layout &l, std::size_t 
         $state        }
     }
 )",
-            {{"$counter", number(l.places[i - 1].offset)}, {"$offset", number(p.offset)}, {"$state", take_state(p)}});
+            {{"$counter", number(l.members[i - 1].offset)}, {"$offset", number(p.offset)}, {"$state", take_state(p)}});
     }
     if (m.kind == Kind::record || m.kind == Kind::enumeration) {
         const std::string_view name = m.kind == Kind::record ? m.record->name : m.enumeration->name;

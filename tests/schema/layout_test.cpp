@@ -1,4 +1,4 @@
-// The layout computed from the tables against the reference's, which was worked out apart from them.
+// The layout computed from the tables, compared with the reference's, which was worked out independently.
 #include "schema/layout.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ std::vector<std::string> computed_lines() {
         const schema::Layout layout = lay_out(*record);
         for (std::size_t i = 0; i < record->members.size(); ++i) {
             const schema::Member &m = record->members[i];
-            const schema::Place &p = layout.places[i];
+            const schema::MemberLayout &p = layout.members[i];
             const bool has_inner = has_area(m) || m.kind == Kind::array;
             std::ostringstream line;
             line << record->name << ' ' << m.name << ' ' << class_name(m) << ' ' << p.offset << ' ' << p.size << ' '
@@ -59,7 +59,7 @@ std::vector<std::string> computed_lines() {
     return lines;
 }
 
-TEST(Layout, PlacesEveryMemberAsTheReferenceDoes) {
+TEST(Layout, OffsetsOfMembersAreThoseOfTheReference) {
     std::istringstream expected(reference::layout_text());
     std::string line;
     for (const std::string &computed : computed_lines()) {
@@ -69,7 +69,7 @@ TEST(Layout, PlacesEveryMemberAsTheReferenceDoes) {
     EXPECT_FALSE(std::getline(expected, line)) << line;
 }
 
-TEST(Layout, GivesEveryRecordTheSizesOfTheReference) {
+TEST(Layout, SizesOfRecordsAreThoseOfTheReference) {
     ASSERT_EQ(schema::records.size(), reference::records().size());
     for (std::size_t i = 0; i < schema::records.size(); ++i) {
         const reference::RecordTable &expected = reference::records()[i];
@@ -98,11 +98,11 @@ TEST(Layout, SlopDependsOnTheRoundedLength) {
     EXPECT_EQ(large.base_size, 80u);
 }
 
-TEST(Layout, AMemberMayStandRightBehindTheHeader) {
+TEST(Layout, AMemberMayDirectlyFollowTheHeader) {
     static constexpr schema::Member members[] = {schema::u8("a", "a"), schema::u16("b", "b")};
     const schema::Layout l = lay_out(schema::Record{"r", "00000000000000000000000000000001", "", members});
-    EXPECT_EQ(l.places[0].offset, 11u);
-    EXPECT_EQ(l.places[1].offset, 12u);
+    EXPECT_EQ(l.members[0].offset, 11u);
+    EXPECT_EQ(l.members[1].offset, 12u);
 }
 
 TEST(Layout, CountsAndLengthsHaveNoStateByte) {
@@ -112,8 +112,8 @@ TEST(Layout, CountsAndLengthsHaveNoStateByte) {
         for (std::size_t i = 0; i < record->members.size(); ++i) {
             const schema::Member &m = record->members[i];
             if (!is_tracked(m)) continue;
-            EXPECT_GE(l.places[i].slot, next) << record->name << '.' << m.name;
-            next = l.places[i].slot + 1;
+            EXPECT_GE(l.members[i].slot, next) << record->name << '.' << m.name;
+            next = l.members[i].slot + 1;
         }
         EXPECT_LE(next, l.state_width) << record->name;
     }

@@ -23,7 +23,7 @@ std::vector<Box> instance_boxes(const Layout &layout) {
         if (to > at) boxes.push_back({"-", bytes(at) + " to " + bytes(to - 1), "box"});
     };
     for (std::size_t i = 0; i < shown.members.size(); ++i) {
-        const Place &place = layout.places[i];
+        const MemberLayout &place = layout.members[i];
         gap(place.offset);
         at = place.offset + place.size;
         boxes.push_back({std::string(shown.members[i].name),
@@ -54,7 +54,7 @@ void draw_area(Svg &svg, double y, const Layout &layout) {
     };
     for (std::size_t i = 0; i < shown.members.size(); ++i) {
         const Member &m = shown.members[i];
-        const Place &place = layout.places[i];
+        const MemberLayout &place = layout.members[i];
         if (!is_tracked(m)) continue;
         const char *kind = kinds[i % kinds.size()];
         const std::string name(m.name);

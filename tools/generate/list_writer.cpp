@@ -34,7 +34,7 @@ std::string layout_list() {
                 std::to_string(l.state_width) + "\n";
         for (std::size_t i = 0; i < r->members.size(); ++i) {
             const Member &m = r->members[i];
-            const Place &p = l.places[i];
+            const MemberLayout &p = l.members[i];
             text += "  " + std::string(m.name) + " " + std::string(kind_name(m)) + " offset " +
                     std::to_string(p.offset) + " size " + std::to_string(p.size);
             if (is_tracked(m)) text += " slot " + std::to_string(p.slot);

@@ -26,7 +26,7 @@ struct SchemaOptions {
     bool tree = false, dot = false, json = false, html = false;
 };
 
-std::string slot_text(const Member &m, const schema::Place &place) {
+std::string slot_text(const Member &m, const schema::MemberLayout &place) {
     if (!schema::is_tracked(m)) return "-";
     const std::string slot = std::to_string(place.slot);
     if (m.kind == Kind::array) return slot + ", vector at " + std::to_string(place.inner);
@@ -88,7 +88,7 @@ std::vector<std::vector<std::string>> record_rows(const Record &record) {
     std::vector<std::vector<std::string>> rows{{"member", "kind", "role", "offset", "size", "slot", "wire", "meaning"}};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        const schema::Place &place = layout.places[i];
+        const schema::MemberLayout &place = layout.members[i];
         rows.push_back({std::string(m.name), kind_text(m), role_text(m), std::to_string(place.offset),
                         std::to_string(place.size), slot_text(m, place), wire_text(m), std::string(m.meaning)});
     }

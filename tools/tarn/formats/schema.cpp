@@ -34,9 +34,9 @@ ordered_json json_of_record(const Record &record) {
         const Member &m = record.members[i];
         ordered_json one{{"name", m.name}, {"kind", kind_text(m)}};
         if (m.role != schema::Role::value) one["role"] = role_text(m);
-        one["offset"] = layout.places[i].offset;
-        one["size"] = layout.places[i].size;
-        if (schema::is_tracked(m)) one["slot"] = layout.places[i].slot;
+        one["offset"] = layout.members[i].offset;
+        one["size"] = layout.members[i].size;
+        if (schema::is_tracked(m)) one["slot"] = layout.members[i].slot;
         one["wire"] = wire_text(m);
         one["meaning"] = m.meaning;
         json["members"].push_back(one);

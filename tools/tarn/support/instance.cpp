@@ -22,8 +22,8 @@ T load(const void *object, std::size_t offset) {
 
 std::string string_at(const schema::Record &record, std::size_t index, void *instance) {
     const schema::Layout layout = schema::lay_out(record);
-    const auto length = load<std::uint16_t>(instance, layout.places[index - 1].offset);
-    const auto *body = load<const char *>(instance, layout.places[index].offset);
+    const auto length = load<std::uint16_t>(instance, layout.members[index - 1].offset);
+    const auto *body = load<const char *>(instance, layout.members[index].offset);
     return body != nullptr ? std::string(body, length) : std::string();
 }
 
