@@ -1,7 +1,7 @@
-"""Makes the declarations that the package loads the library with: build_cdefs.py OUTPUT PREPROCESSED...
+"""Writes the C declarations for cffi: build_cdefs.py OUTPUT PREPROCESSED...
 
-They are read from the C headers as the preprocessor leaves them: the lines that come from the headers of the library,
-of the contract and of the runtime, and none of the system's.
+They are the lines of preprocessed C headers that come from the library, the contract and the reference runtime, without
+those of the system's headers.
 """
 
 import re

@@ -150,7 +150,7 @@ def test_convert_captures(tmp_path: pathlib.Path):
         assert converted == [line for line in shown if "message" in line]
     source.joinpath("a.bin").write_bytes(b"rubbish")
     complaint = script("convert_captures.py", source, tmp_path / "again", code=1)
-    assert complaint.startswith("a.bin: no whole frame at offset 0")
+    assert complaint.startswith("a.bin: incomplete frame at offset 0")
     assert len(list(tmp_path.joinpath("again").glob("*.json"))) == 3
 
 

@@ -1,4 +1,4 @@
-"""What the tests of the Python package share: the tool, to hold the package against, and random values of records."""
+"""Fixtures of the package's tests: the tool, to compare with, and random values of records."""
 
 import os
 import subprocess
@@ -11,7 +11,7 @@ from lumo_tarn import _schema
 
 TOOL = os.environ["TARN_TOOL"]
 
-# Speed differs between builds, and says nothing here.
+# Builds with sanitizers are slow, so there is no deadline.
 settings.register_profile("suite", deadline=None, max_examples=25, derandomize=True)
 settings.load_profile("suite")
 
@@ -25,7 +25,7 @@ def tool(*arguments: str, given: bytes = b"") -> bytes:
 RECORDS = [getattr(lumo_tarn, row[0]) for row in _schema.RECORDS.values()]
 MESSAGES = [getattr(lumo_tarn, row[0]) for row in _schema.MESSAGES.values()]
 
-# What a document of XML can hold too.
+# Characters that XML can contain.
 CHARACTERS = st.characters(min_codepoint=32, max_codepoint=0x2FFF, blacklist_categories=("Cs", "Cc", "Cn"))
 TEXTS = st.text(CHARACTERS, min_size=1, max_size=12)
 WORDS = st.integers(0, 0xFFFFFFFF)
@@ -39,7 +39,7 @@ BITS = {"u8": 8, "u16": 16, "u32": 32, "u64": 64}
 
 
 def values_of(record: str) -> st.SearchStrategy:
-    """Values as to_dict shows them."""
+    """Values in the form of to_dict."""
     members = {}
     for _, name, kind, of, _ in _schema.RECORDS[record][2]:
         if kind in BITS:
@@ -61,7 +61,7 @@ def values_of(record: str) -> st.SearchStrategy:
 
 @pytest.fixture(params=[False, True], ids=["plain", "tracked"])
 def handle(request: pytest.FixtureRequest):
-    """A handle of the test's own, which must hold nothing when the test is over."""
+    """A handle of the test. At the end of the test all objects on it must be destroyed."""
     own = lumo_tarn.Handle(tracked=request.param)
     yield own
     assert own.live_blocks() == 0

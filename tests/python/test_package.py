@@ -1,7 +1,8 @@
-"""Every record and message through the Python package, held against the tool, which is made of the C++ side."""
+"""Compares every record and message of the Python package with the tool, which uses the library directly."""
 
 import ast
 import copy
+import errno
 import gc
 import json
 import pathlib
@@ -22,7 +23,7 @@ def json_lines(data: bytes) -> list:
 
 
 def without_states(value):
-    """JSON of tracked messages says more than values."""
+    """JSON of tracked messages contains state bytes besides values."""
     if isinstance(value, dict):
         for name in ("@value", "@address"):
             if name in value:
@@ -37,7 +38,7 @@ def without_states(value):
 @pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
 @given(data=st.data())
 @settings(max_examples=8, suppress_health_check=list(HealthCheck))
-def test_values_come_back(record, data):
+def test_values_survive_all_forms(record, data):
     values = data.draw(values_of(record.record_name))
     one = record(**values)
     assert one.to_dict() == values
@@ -52,16 +53,16 @@ def test_values_come_back(record, data):
 
 
 @pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
-def test_members_are_those_of_the_schema(record):
+def test_members_match_the_schema(record):
     rows = _schema.RECORDS[record.record_name][2]
     assert [member.name for member in record.members.values()] == [row[1] for row in rows]
     assert [member.__doc__ for member in record.members.values()] == [row[4] for row in rows]
-    assert not set(record.members) & set(dir(lumo_tarn.Record)), "no member hides what all records have"
+    assert not set(record.members) & set(dir(lumo_tarn.Record)), "no member hides an attribute of all records"
     assert [name for name, _ in record()] == [row[0] for row in rows if " " not in row[2]]
 
 
 @pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
-def test_states_are_set_together_and_one_by_one(record, handle):
+def test_state_bytes_are_set_together_and_one_by_one(record, handle):
     one = record(on=handle)
     tracked = [name for name, member in one.members.items() if member.tracked]
     assert {one.state_of(name) for name in tracked} == ({0} if handle.tracked else {None})
@@ -89,7 +90,7 @@ def test_attributes_read_and_write(handle):
     assert info.to_dict()["direction"] == "LUMO_TARN_DIR_BOTH"
 
 
-def test_what_is_wrong_is_raised(handle):
+def test_errors_are_raised(handle):
     tc = lumo_tarn.DpTc(on=handle)
     with pytest.raises(AttributeError):
         tc.prto = 6
@@ -110,7 +111,7 @@ def test_what_is_wrong_is_raised(handle):
     with pytest.raises(OSError):
         lumo_tarn.DpTc.from_frame(b"", on=handle)
     with pytest.raises(OSError):
-        lumo_tarn.DebugSettingMsg.from_frame(b"rubbish", on=handle)
+        lumo_tarn.DebugSettingMsg.from_frame(b"garbage", on=handle)
     with pytest.raises(ValueError):
         lumo_tarn.DpTc.from_xml("<no xml", on=handle)
     with pytest.raises(OSError):
@@ -128,7 +129,7 @@ def test_lists_are_sequences(handle):
     classes.append(lumo_tarn.DpTc(id=4))
     classes.extend([classes[1], first])
     assert [tc.id for tc in classes] == [0, 1, 2, 3, 4, 1, 0]
-    first.id = 7  # found again although the list has moved
+    first.id = 7  # located again after the elements moved
     assert classes[0].id == 7 and classes[-1].id == 0
     assert [tc.id for tc in classes[1:3]] == [1, 2] and [tc.id for tc in reversed(classes)][0] == 0
     classes[1] = lumo_tarn.DpTc(id=70)
@@ -152,8 +153,8 @@ def test_lists_are_sequences(handle):
         lumo_tarn.DpMpPrefixData(on=handle).prefix_data.grow(256)
 
 
-def test_what_a_member_held_is_given_back(handle):
-    """The handle of the test counts blocks at its end."""
+def test_assigning_frees_the_former_content(handle):
+    """The fixture checks that no block is left."""
     data = lumo_tarn.DpTtTableData(on=handle, lumo_data=[{"agg_tc_list": {"tc_list": [{"id": 1}]}}])
     other = lumo_tarn.DpTcList(on=handle, tc_list=[{"id": 2}, {"id": 3}])
     data.lumo_data[0].agg_tc_list = other
@@ -166,7 +167,7 @@ def test_what_a_member_held_is_given_back(handle):
     assert len(message.payload.lumo_data) == 0
 
 
-def test_order_and_text(handle):
+def test_records_have_order_text_and_repr(handle):
     small, large = lumo_tarn.ExmemInfo(cl_addr=1, on=handle), lumo_tarn.ExmemInfo(cl_addr=2)
     assert small < large and small <= large and large > small and small != large
     assert small != 3 and not small == "x"
@@ -180,17 +181,27 @@ def test_order_and_text(handle):
 
 
 @given(text=st.text(st.characters(min_codepoint=1, max_codepoint=0x10FFFF), max_size=20))
-def test_any_text_without_a_nul_is_kept(text):
+def test_text_without_a_nul_is_stored(text):
     assert lumo_tarn.ClKeshAppl(proto_name=text).proto_name == text
 
 
-def test_functions_of_c_work_on_the_same_object():
+@pytest.mark.parametrize("text", ["\0", "a\0", "a\0b"])
+def test_text_with_a_nul_is_refused(text, handle):
+    application = lumo_tarn.ClKeshAppl(proto_name="http", on=handle)
+    with pytest.raises(ValueError, match="proto_name cannot contain a NUL"):
+        application.proto_name = text
+    assert application.proto_name == "http"
+    with pytest.raises(ValueError):
+        lumo_tarn.ClKeshAppl(proto_name=text, on=handle)
+
+
+def test_c_functions_work_on_the_same_object():
     tc = lumo_tarn.DpTc()
     tc.handle.call(lib.lumo_tarn_dp_tc_tos_set_value, tc.native, 5)
     assert tc.tos == 5
 
 
-def test_stubs_show_what_there_is():
+def test_stubs_match_the_classes():
     stubs = pathlib.Path(lumo_tarn.__file__).with_name("records.pyi").read_text()
     shown = {node.name: node for node in ast.parse(stubs).body if isinstance(node, ast.ClassDef)}
     assert sorted(shown) == sorted(lumo_tarn.records.__all__)
@@ -205,7 +216,7 @@ def test_stubs_show_what_there_is():
         assert enumerators == [f"{one.name} = {one.value}" for one in getattr(lumo_tarn, name)]
 
 
-def test_objects_may_outlive_the_modules(tmp_path: pathlib.Path):
+def test_objects_left_at_exit_are_destroyed(tmp_path: pathlib.Path):
     program = tmp_path / "ends.py"
     program.write_text(
         "import lumo_tarn\nkept = [lumo_tarn.DpTtMsg(), lumo_tarn.DpTcList(tc_list=[{}, {}])]\n"
@@ -215,7 +226,7 @@ def test_objects_may_outlive_the_modules(tmp_path: pathlib.Path):
     assert (ended.returncode, ended.stderr) == (0, b"")
 
 
-def test_handles_and_objects_go_together_in_a_cycle():
+def test_handles_and_objects_in_a_cycle_are_destroyed():
     class Holder:
         pass
 
@@ -232,7 +243,7 @@ def test_handles_and_objects_go_together_in_a_cycle():
 
 @pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
 @pytest.mark.parametrize("tracked", [False, True], ids=["plain", "tracked"])
-def test_frames_are_those_of_the_tool(message, tracked):
+def test_frames_equal_those_of_the_tool(message, tracked):
     options = ["--elements", "2", "--form", "frames"] + (["--tracked"] if tracked else [])
     for seed in ("1", "2", "3"):
         frame = tool("generate", message.message_name, "--seed", seed, *options)
@@ -244,7 +255,7 @@ def test_frames_are_those_of_the_tool(message, tracked):
         (expected,) = json_lines(tool("decode", "--json", given=frame))
         assert one.to_dict() == without_states({key: expected[key] for key in ("message", "payload")})
         assert message.from_xml(one.to_xml()) == one
-        # Written here from plain values and there from XML.
+        # The package writes from plain values, the tool from XML.
         again = message(message.payload_type(**one.to_dict()["payload"]))
         assert again == one
         assert again.to_frame() == tool("encode", given=again.to_xml().encode())
@@ -253,14 +264,14 @@ def test_frames_are_those_of_the_tool(message, tracked):
 @pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
 @given(data=st.data())
 @settings(max_examples=3, suppress_health_check=list(HealthCheck))
-def test_frames_of_random_values_are_those_of_the_tool(message, data):
+def test_frames_of_random_values_equal_those_of_the_tool(message, data):
     values = data.draw(values_of(message.payload_type.record_name))
     one = message(message.payload_type(**values))
     line = json.dumps({"message": message.message_name, "payload": values})
     assert one.to_frame() == tool("encode", given=line.encode())
 
 
-def test_bundles_are_those_of_the_tool():
+def test_bundles_equal_those_of_the_tool():
     for bundle, message in _schema.BUNDLES.items():
         kind = next(one for one in MESSAGES if one.message_name == message)
         frames = tool("generate", bundle, "--form", "frames", "--bundle", "--elements", "1")
@@ -272,23 +283,24 @@ def test_bundles_are_those_of_the_tool():
         assert lumo_tarn.bundle_frames(short, lumo_tarn.messages(frames)) == frames
 
 
-def test_a_bundle_takes_its_own_messages_alone():
-    with pytest.raises(OSError):
-        lumo_tarn.bundle_frames("cl-debug", [lumo_tarn.DpIntfMsg()])
+def test_bundle_frames_raises_for_messages_that_the_bundle_does_not_admit():
+    with pytest.raises(OSError) as raised:
+        lumo_tarn.bundle_frames("cl-debug", [lumo_tarn.DebugSettingMsg(), lumo_tarn.DpIntfMsg()])
+    assert raised.value.errno == errno.ENOENT
     with pytest.raises(ValueError):
         other = lumo_tarn.DebugSettingMsg(on=lumo_tarn.Handle())
         lumo_tarn.bundle_frames("cl-debug", [lumo_tarn.DebugSettingMsg(), other])
     with pytest.raises(ValueError):
         lumo_tarn.bundle_frames("poems", [])
-    assert len(lumo_tarn.bundle_frames("cl-debug", [])) == 86, "a failed one has been closed"
+    assert len(lumo_tarn.bundle_frames("cl-debug", [])) == 86, "a failed bundle was aborted on the handle"
 
 
-def test_broken_captures_are_told_with_their_offset():
+def test_invalid_captures_are_reported_with_their_offset():
     frame = lumo_tarn.DebugSettingMsg().to_frame()
-    for broken in (frame + frame[:50], frame + b"rubbish" * 10):
-        items = lumo_tarn.frames(broken)
+    for rest, error in ((frame[:50], "incomplete"), (frame[:20], "incomplete"), (b"garbage" * 10, "invalid")):
+        items = lumo_tarn.frames(frame + rest)
         next(items)
-        with pytest.raises(ValueError, match=f"offset {len(frame)}"):
+        with pytest.raises(ValueError, match=f"{error} frame at offset {len(frame)}"):
             next(items)
     unknown = bytearray(frame)
     unknown[27:43] = bytes(16)
@@ -296,7 +308,7 @@ def test_broken_captures_are_told_with_their_offset():
         list(lumo_tarn.frames(bytes(unknown)))
 
 
-def test_recordings_are_read(tmp_path: pathlib.Path):
+def test_recordings_equal_the_recorded_messages(tmp_path: pathlib.Path):
     frames = tool("generate", "cl-debug", "--form", "frames", "--bundle")
     kept, source = tmp_path / "recording.xml", tmp_path / "frames.bin"
     source.write_bytes(frames)

@@ -1,4 +1,4 @@
-"""A program for the type checker: it must find every member in the stubs."""
+"""A program for the type checker, which must know its members from the stubs."""
 
 from __future__ import annotations
 

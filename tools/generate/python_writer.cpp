@@ -1,5 +1,6 @@
-// The schema as tables for the Python package, and its classes as stubs for type checkers.
+// The schema as tables for the Python package, and type stubs of its classes.
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 
 #include "names.h"
@@ -12,8 +13,8 @@ using namespace schema;
 
 namespace {
 
-// Words that Python keeps for itself, and names that all records have.
-constexpr std::string_view taken_in_python[] = {
+// Keywords of Python, and names of all records.
+constexpr std::string_view reserved_names[] = {
     "False",          "None",         "True",     "and",         "as",       "assert",
     "async",          "await",        "break",    "class",       "compare",  "continue",
     "copy",           "def",          "del",      "elif",        "else",     "except",
@@ -25,9 +26,9 @@ constexpr std::string_view taken_in_python[] = {
     "to_xml",         "try",          "while",    "with",        "yield"};
 
 std::string attribute(std::string_view name) {
-    const bool is_taken =
-        std::find(std::begin(taken_in_python), std::end(taken_in_python), name) != std::end(taken_in_python);
-    return std::string(name) + (is_taken ? "_" : "");
+    const bool is_reserved =
+        std::find(std::begin(reserved_names), std::end(reserved_names), name) != std::end(reserved_names);
+    return std::string(name) + (is_reserved ? "_" : "");
 }
 
 // lumo_tarn_dp_tc becomes DpTc.
@@ -54,7 +55,7 @@ std::string kind_of(const Member &m) {
     return m.role == Role::count ? "count " + kind : m.role == Role::length ? "length " + kind : kind;
 }
 
-std::string in_quotes(std::string_view text) {
+std::string quoted(std::string_view text) {
     std::string out = "\"";
     for (const char c : text) {
         if (c == '"' || c == '\\') out += '\\';
@@ -65,71 +66,69 @@ std::string in_quotes(std::string_view text) {
 
 std::string tables() {
     std::string text =
-        "\"\"\"The schema. Printed by the generator; not to be edited.\"\"\"\n\n"
-        "# class, meaning, members: attribute, name, kind, what of, meaning\nRECORDS = {\n";
+        "\"\"\"The schema. Generated; do not edit.\"\"\"\n\n"
+        "# class, meaning, members: attribute, name, kind, record or enumeration, meaning\nRECORDS = {\n";
     for (const Record *r : records) {
-        text += "    " + in_quotes(r->name) + ": (" + in_quotes(class_of_record(*r)) + ", " + in_quotes(r->meaning) +
-                ", [\n";
+        text += "    " + quoted(r->name) + ": (" + quoted(class_of_record(*r)) + ", " + quoted(r->meaning) + ", [\n";
         for (const Member &m : r->members) {
             const std::string_view of = m.record != nullptr        ? m.record->name
                                         : m.enumeration != nullptr ? m.enumeration->name
                                                                    : std::string_view();
-            text += "        (" + in_quotes(attribute(m.name)) + ", " + in_quotes(m.name) + ", " +
-                    in_quotes(kind_of(m)) + ", " + in_quotes(of) + ", " + in_quotes(m.meaning) + "),\n";
+            text += "        (" + quoted(attribute(m.name)) + ", " + quoted(m.name) + ", " + quoted(kind_of(m)) + ", " +
+                    quoted(of) + ", " + quoted(m.meaning) + "),\n";
         }
         text += "    ]),\n";
     }
-    text += "}\n\n# class, meaning, names, names in Python\nENUMERATIONS = {\n";
+    text += "}\n\n# class, meaning, names in C, names in Python\nENUMERATIONS = {\n";
     for (const Enumeration *e : enumerations) {
         std::string names, in_python;
-        for (const std::string_view name : e->enumerators) names += in_quotes(name) + ", ";
-        for (const std::string &name : enumerator_names(*e)) in_python += in_quotes(upper(name)) + ", ";
-        text += "    " + in_quotes(e->name) + ": (" + in_quotes(class_name(type_name(*e))) + ", " +
-                in_quotes(e->meaning) + ", [" + names + "], [" + in_python + "]),\n";
+        for (const std::string_view name : e->enumerators) names += quoted(name) + ", ";
+        for (const std::string &name : enumerator_names(*e)) in_python += quoted(upper(name)) + ", ";
+        text += "    " + quoted(e->name) + ": (" + quoted(class_name(type_name(*e))) + ", " + quoted(e->meaning) +
+                ", [" + names + "], [" + in_python + "]),\n";
     }
     text += "}\n\n# class, payload\nMESSAGES = {\n";
     for (const Message *m : messages) {
-        text += "    " + in_quotes(m->name) + ": (" + in_quotes(class_name(short_name(m->name))) + ", " +
-                in_quotes(m->payload.name) + "),\n";
+        text += "    " + quoted(m->name) + ": (" + quoted(class_name(short_name(m->name))) + ", " +
+                quoted(m->payload.name) + "),\n";
     }
-    text += "}\n\n# the message that each admits\nBUNDLES = {\n";
-    for (const Bundle *b : bundles) text += "    " + in_quotes(b->name) + ": " + in_quotes(b->message.name) + ",\n";
-    text += "}\n\n# the greatest value of each kind of integer\nGREATEST = {\n";
+    text += "}\n\n# the message that the bundle admits\nBUNDLES = {\n";
+    for (const Bundle *b : bundles) text += "    " + quoted(b->name) + ": " + quoted(b->message.name) + ",\n";
+    text += "}\n\n# the largest value of each kind of integer\nGREATEST = {\n";
     for (const KindFacts &kind : kind_facts) {
         if (kind.greatest == 0) continue;
-        text += "    " + in_quotes(kind.name) + ": " + std::to_string(kind.greatest) + ",\n";
+        text += "    " + quoted(kind.name) + ": " + std::to_string(kind.greatest) + ",\n";
     }
     return text + "}\n";
 }
 
 struct Typed {
-    std::string read, written;  // nothing can be written to a count
+    std::string read, written;  // written is empty if the member is read-only
 };
 
 Typed typed(const Member &m) {
-    switch (class_of(m)) {
-        case Applies::boolean:
+    if (m.role != Role::value) return {"int", ""};
+    switch (category(m.kind)) {
+        case Category::integer:
+            return {"int", "int"};
+        case Category::boolean:
             return {"bool", "bool"};
-        case Applies::enumerated: {
+        case Category::enumeration: {
             const std::string name = class_name(type_name(*m.enumeration));
             return {name + " | int", name + " | int | str"};
         }
-        case Applies::address:
+        case Category::address:
             return {"Address", "AddressLike"};
-        case Applies::nested:
+        case Category::record:
             return {class_of_record(*m.record), class_of_record(*m.record)};
-        case Applies::string:
+        case Category::string:
             return {"str", "str"};
-        case Applies::array: {
+        case Category::array: {
             const std::string name = class_of_record(*m.record);
             return {"Array[" + name + "]", "Sequence[" + name + "] | Sequence[Mapping[str, Any]]"};
         }
-        case Applies::count:
-        case Applies::length:
-            return {"int", ""};
-        default:
-            return {"int", "int"};
     }
+    std::abort();
 }
 
 std::string stub(const Record &record) {
@@ -154,12 +153,12 @@ std::string stub(const Record &record) {
 
 std::string stubs() {
     std::string text =
-        "# The classes of the schema. Printed by the generator; not to be edited.\n"
+        "# Types of the schema's classes. Generated; do not edit.\n"
         "from __future__ import annotations\n\nimport enum\nfrom collections.abc import Mapping, Sequence\n"
         "from typing import Any\n\nfrom ._base import Address, AddressLike, Array, Message, Record\n"
         "from ._native import Handle\n\n";
     std::string all;
-    const auto list = [&](const std::string &name) { all += "    " + in_quotes(name) + ",\n"; };
+    const auto list = [&](const std::string &name) { all += "    " + quoted(name) + ",\n"; };
     for (const Enumeration *e : enumerations) {
         const std::string name = class_name(type_name(*e));
         list(name);

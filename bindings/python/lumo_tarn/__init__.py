@@ -5,9 +5,9 @@
             for tc in table.agg_tc_list.tc_list:
                 print(tc.id, tc.src_prefix, tc.dst_prefix)
 
-Each record of the schema is a class, such as DpTc, with an attribute for each member. The library does the work; it is
-found in the installation that the package belongs to, as liblumo_ui_tarn.so.1 by the loader, or under the path in the
-environment variable LUMO_TARN_LIBRARY.
+Each record of the schema is a class, such as DpTc, with an attribute for each member. The package loads the shared
+library from the path in the environment variable LUMO_TARN_LIBRARY, else from its own installation, else as
+liblumo_ui_tarn.so.1 from the loader's search path. Errors of the library raise OSError with an errno number.
 """
 
 from ._base import Address, Array, Message, Record

@@ -1,4 +1,4 @@
-"""What all records and messages have in common. The classes themselves are made from the schema, in records."""
+"""Base classes of records and messages. records.py creates their subclasses from the schema."""
 
 from __future__ import annotations
 
@@ -15,15 +15,20 @@ R = TypeVar("R", bound="Record")
 M = TypeVar("M", bound="Message")
 AddressLike = Union["Address", str, ipaddress.IPv4Interface, ipaddress.IPv6Interface]
 
-# Bits of an object's flag: it has state bytes; their place is known, or it has data of the runtime's.
-_TRACKED = 8
-_OFFSET_AND_RA = 64 | 32
+# Bits of obj_flag in the header of an object.
+_STATE_TRACKED = 8
+_STATE_OFFSET = 64
+_RA_DATA = 32
+# The state byte of a member that was written.
 _WRITTEN = 2
 
 
 @dataclasses.dataclass(frozen=True)
 class Address:
-    """An address or prefix. Its text is "unset", "10.0.0.0/8", "fe80::1%3/64", or for a foreign family all numbers."""
+    """An address or prefix: af is the address family of the operating system, and word the address as four 32-bit
+    numbers, the most significant first.
+
+    Its text is "unset", "10.0.0.0/8" or "fe80::1%3/64". Other families are "af,scope,word,word,word,word/length"."""
 
     af: int = 0
     prefix_len: int = 0
@@ -32,6 +37,8 @@ class Address:
 
     @classmethod
     def of(cls, value: AddressLike) -> Address:
+        """Converts text or an object of the ipaddress module. Raises ValueError if it is not an address with a prefix
+        length."""
         if isinstance(value, Address):
             return value
         text = str(value)
@@ -39,11 +46,11 @@ class Address:
             return cls()
         front, slash, length = text.partition("/")
         if not slash:
-            raise ValueError(f"an address has a prefix length, and {text} has none")
+            raise ValueError(f"{text} has no prefix length")
         if "," in front:
             af, scope, *word = (int(part) for part in front.split(","))
             if len(word) != 4:
-                raise ValueError(f"{text} is no address")
+                raise ValueError(f"{text} is not an address")
             return cls(af, int(length), scope, (word[0], word[1], word[2], word[3]))
         front, _, scope_text = front.partition("%")
         ip = ipaddress.ip_address(front)
@@ -71,7 +78,7 @@ class Address:
 
 
 class Native:
-    """An object of the library: one that this owns, or one inside another object, looked up at each use, since an
+    """A C object that this object owns, or one that is part of another object. A part is located at each use, because an
     array moves its elements when it grows."""
 
     _handle: Handle
@@ -79,7 +86,7 @@ class Native:
 
     @property
     def native(self) -> Any:
-        """The C object, for lumo_tarn._native.lib and what it offers."""
+        """The C object, an argument for the functions of lumo_tarn._native.lib."""
         return self._locate()
 
     @property
@@ -92,13 +99,14 @@ class Native:
 
     def _own(self, on: Handle, native: Any, destroy: Callable[..., Any]) -> None:
         if native == ffi.NULL:
-            raise MemoryError(f"no memory for a {type(self).__name__}")
+            raise MemoryError(f"cannot allocate a {type(self).__name__}")
         on.destroy_with(self, native, destroy)
         self._bind(on, lambda: native)
 
 
 class Record(Native):
-    """An instance of a record. Assigning to a member that is a record copies into it."""
+    """A record. Each member is an attribute; assigning a record to a member copies it. The constructor takes members by
+    name, and the handle as on. Text members raise ValueError for a NUL character."""
 
     record_name: ClassVar[str]
     members: ClassVar[Mapping[str, Any]]  # by attribute, in the order of the schema
@@ -130,9 +138,9 @@ class Record(Native):
     # ---- members
 
     def set(self: R, **values: Any) -> R:
-        """Sets members by name; values of lists may be sequences, and those of records mappings."""
+        """Sets members by name. The value of an array is a sequence, that of a nested record a record or a mapping."""
         for name, value in values.items():
-            name = name if name in self.members else f"{name}_"  # a word of Python's, or what all records have
+            name = name if name in self.members else f"{name}_"  # a keyword, or a name of all records
             if name not in self.members:
                 raise AttributeError(f"{type(self).__name__} has no member {name.rstrip('_')}")
             if isinstance(value, Mapping):
@@ -144,35 +152,39 @@ class Record(Native):
         return self
 
     def __iter__(self) -> Iterator[tuple[str, Any]]:
-        """The members that are not counts or lengths, with their values."""
+        """Yields name and value of each member, without counts and lengths."""
         return ((name, getattr(self, name)) for name, member in self.members.items() if member.tracked)
 
     def to_dict(self) -> dict[str, Any]:
-        """Plain values: what "tarn decode --json" shows of a payload without states."""
+        """Returns the values of all members, as in the output of "tarn decode --json" without state bytes."""
         return {member.name: member.plain(self) for member in self.members.values() if member.tracked}
 
     def state_of(self, member: str) -> int | None:
-        """The state byte of a member, of a list that of the whole; None without tracking."""
+        """Returns the state byte of a member, of an array that of the whole; None if the record has no state bytes."""
         return self.members[member].state(self) if self._is_tracked() else None
 
     def set_state_of(self, member: str, value: int) -> None:
+        """Writes the state byte of a member. Raises OSError if the record has no state bytes."""
         self.members[member].set_state(self, value)
 
     def set_all_states(self, value: int) -> None:
+        """Writes all state bytes, also those of array elements."""
         self._function("set_all_state_tracking_flag")(self._handle.native, CTX_ID, self.native, value)
 
     def _is_tracked(self) -> bool:
-        return self._handle.tracked and bool(ffi.cast("mirk_object *", self.native).obj_flag & _TRACKED)
+        return self._handle.tracked and bool(ffi.cast("mirk_object *", self.native).obj_flag & _STATE_TRACKED)
 
     # ---- whole
 
     def to_frame(self) -> bytes:
+        """Returns the record as a frame."""
         size = self._function("len")(self._handle.native, CTX_ID, self.native)
         marshal, native, h = self._function("marshal"), self.native, self._handle
         return h.grown(size, lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
 
     @classmethod
     def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
+        """Creates a record from a frame. Raises OSError if the frame is invalid."""
         record = cls(on=on)
         record._handle.call(cls._function("unmarshal"), ffi.from_buffer(bytes(frame) + b"\0"), record.native,
                             len(frame), 0)
@@ -183,32 +195,35 @@ class Record(Native):
         return self._handle.grown(3 * size + 4096, write).replace(b"\0", b" ").decode(errors="replace")
 
     def to_xml(self, name: str | None = None) -> str:
+        """Returns an XML element with this name, or with the record's."""
         h, native, called = self._handle, self.native, (name or self.record_name).encode()
         to_xml = self._function("to_xml")
         return self._rendered(lambda buffer, room, err: to_xml(h.native, CTX_ID, called, buffer, native, room, 0, err))
 
     @classmethod
     def from_xml(cls: type[R], text: str | bytes, path: str | None = None, on: Handle | None = None) -> R:
-        """Reads the record's element, which is looked for at any depth if no path is given."""
+        """Creates a record from the element at path, or from the first one, at any depth, with the record's name. Raises
+        ValueError for malformed XML and OSError for an invalid number."""
         record = cls(on=on)
         with Document(text) as document:
-            words, err = ffi.new("char[256]"), ffi.new("uint32_t *")
-            place = (path or f"//{cls.record_name}").encode()
+            explanation, err = ffi.new("char[256]"), ffi.new("uint32_t *")
+            location = (path or f"//{cls.record_name}").encode()
             read = cls._function("from_xml")
-            read(record._handle.native, CTX_ID, place, document, record.native, err, words, 256)
+            read(record._handle.native, CTX_ID, location, document, record.native, err, explanation, 256)
             if err[0] != 0:
-                raise OSError(err[0], ffi.string(words).decode() or os.strerror(err[0]))
+                raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
         return record
 
     def text(self, name: str | None = None) -> str:
+        """Returns readable text, under this name or the record's."""
         h, native, called = self._handle, self.native, (name or self.record_name).encode()
         show = self._function("print")
         return self._rendered(lambda buffer, room, err: show(h.native, CTX_ID, buffer, 0, called, native, room, err))
 
     def copy(self: R, on: Handle | None = None) -> R:
-        """A deep copy; on a handle other than its own by way of a frame, since states may come or go."""
+        """Returns a deep copy, on the same handle or on another one."""
         if on is not None and on is not self._handle:
-            return type(self).from_frame(self.to_frame(), on)
+            return type(self).from_frame(self.to_frame(), on)  # only one of the handles may track
         record = type(self).__new__(type(self))
         record._own(self._handle, self._cloned(), self._function("destroy"))
         return record
@@ -226,16 +241,18 @@ class Record(Native):
         return self.copy()
 
     def compare(self: R, other: R) -> int:
-        """Less than, equal to or greater than 0, as the members in their order are. States play no part."""
+        """Compares the members in the order of the schema. Returns a number less than, equal to or greater than 0. State
+        bytes are ignored."""
         return int(self._function("compare")(self.native, other.native))
 
     def hash(self, seed: int = 0) -> int:
+        """Returns the library's hash of the members. Records are mutable, so they cannot be keys of a dict."""
         return int(self._function("hash")(self.native, seed))
 
     def __eq__(self, other: object) -> bool:
         return type(self) is type(other) and self.compare(other) == 0  # type: ignore[arg-type]
 
-    __hash__ = None  # type: ignore[assignment]  # members change
+    __hash__ = None  # type: ignore[assignment]  # records are mutable
 
     def __lt__(self: R, other: R) -> bool:
         if type(self) is not type(other):
@@ -255,7 +272,7 @@ class Record(Native):
 
 
 class Array(Sequence[R], Generic[R]):
-    """The elements of a record's list. They are parts of the record; arrays grow and do not shrink."""
+    """The elements of an array member. They are parts of the record. Arrays can grow, but not shrink."""
 
     def __init__(self, owner: Record, member: Any) -> None:
         self._owner, self._member = owner, member
@@ -275,7 +292,8 @@ class Array(Sequence[R], Generic[R]):
         return element
 
     def __setitem__(self, index: int | slice, value: Any) -> None:
-        """Copies a record into an element; records or mappings into a slice, which may reach beyond the end."""
+        """Copies a record into an element, or records or mappings into a slice. The array grows if the slice is longer.
+        Raises ValueError if it would shrink."""
         if isinstance(index, int):
             self._put(self._at(index), value)
             return
@@ -290,7 +308,8 @@ class Array(Sequence[R], Generic[R]):
                 self._put(at, one)
 
     def grow(self, elements: int) -> None:
-        """To this many elements; new ones have all members zero."""
+        """Grows the array to this many elements. All members of new ones are zero. Raises ValueError if the array would
+        shrink, and OverflowError if the count cannot hold the number."""
         before, most = len(self), self._member.most
         if elements < before:
             raise ValueError("arrays do not shrink")
@@ -301,22 +320,26 @@ class Array(Sequence[R], Generic[R]):
             self._owner._call(f"{self._member.name}_set", elements - 1, blank.native if blank else ffi.NULL)
 
     def add(self, **values: Any) -> R:
-        """A new element at the end, with these members. Many are faster with grow."""
+        """Appends an element with these members and returns it. For many elements grow() is faster."""
         self.grow(len(self) + 1)
         return self[-1].set(**values)
 
     def append(self, record: R) -> None:
+        """Appends a copy of a record."""
         self[len(self) :] = [record]
 
     def extend(self, records: Sequence[R]) -> None:
+        """Appends copies of records."""
         self[len(self) :] = records
 
     def state(self, index: int) -> int | None:
+        """Returns the state byte of an element; None if the record has no state bytes."""
         if not self._owner._is_tracked():
             return None
         return int(self._owner._call(f"{self._member.name}_state_flag_get", self._at(index)))
 
     def set_state(self, index: int, value: int) -> None:
+        """Writes the state byte of an element."""
         self._owner._call(f"{self._member.name}_state_flag_set", self._at(index), value)
 
     def __eq__(self, other: object) -> bool:
@@ -331,24 +354,24 @@ class Array(Sequence[R], Generic[R]):
         count = len(self)
         at = index + count if index < 0 else index
         if not 0 <= at < count:
-            raise IndexError(f"{self._member.name} has {count} elements, and none at {index}")
+            raise IndexError(f"index {index} is out of range: {self._member.name} has {count} elements")
         return at
 
     def _put(self, at: int, record: R) -> None:
         expect(self._member.record, record)
         value, element = record.copy(on=self._owner._handle), self[at]
-        former = emptied(element)  # until here it held what the setter would forget
+        former = emptied(element)  # the C setter would leak it
         self._owner._call(f"{self._member.name}_set", at, value.native)
         del former
 
 
 def expect(kind: type[Record], value: object) -> None:
     if not isinstance(value, kind):
-        raise TypeError(f"this takes a {kind.__name__}, not a {type(value).__name__}")
+        raise TypeError(f"expected {kind.__name__}, not {type(value).__name__}")
 
 
 def emptied(record: R) -> R | None:
-    """Moves what a record owns into a new one, which releases it when it goes."""
+    """Moves the arrays and strings of a record into a new one and returns that; None if the record has neither."""
     if not record.owns_blocks:
         return None
     former = type(record)(on=record._handle)
@@ -357,18 +380,18 @@ def emptied(record: R) -> R | None:
 
 
 def read_address(record: Record, name: str) -> Address:
-    place = record._call(f"{name}_get")
-    word = place.word
-    return Address(place.af, place.prefix_len, place.scope, (word[0], word[1], word[2], word[3]))
+    present = record._call(f"{name}_get")
+    word = present.word
+    return Address(present.af, present.prefix_len, present.scope, (word[0], word[1], word[2], word[3]))
 
 
 def write_address(record: Record, name: str, value: AddressLike) -> None:
-    """The setter takes a whole object: the one that stands there with other values, its states behind it."""
-    address, place = Address.of(value), record._call(f"{name}_get")
+    """The C setter takes an object: a copy of the present one with the new values, followed by state bytes."""
+    address, present = Address.of(value), record._call(f"{name}_get")
     size = ffi.sizeof("ip_address")
-    source = ffi.new("uint8_t[]", bytes(ffi.buffer(place, size)) + bytes([_WRITTEN] * 8))
+    source = ffi.new("uint8_t[]", bytes(ffi.buffer(present, size)) + bytes([_WRITTEN] * 8))
     copy = ffi.cast("ip_address *", source)
-    copy.obj_flag &= ~_OFFSET_AND_RA
+    copy.obj_flag &= ~(_STATE_OFFSET | _RA_DATA)
     copy.af, copy.prefix_len, copy.scope = address.af, address.prefix_len, address.scope
     for at, word in enumerate(address.word):
         copy.word[at] = word
@@ -376,7 +399,7 @@ def write_address(record: Record, name: str, value: AddressLike) -> None:
 
 
 class Message(Native):
-    """A message. It owns its payload."""
+    """A message. It owns its payload, which the constructor and assignments copy."""
 
     message_name: ClassVar[str]
     payload_type: ClassVar[type[Record]]
@@ -400,6 +423,7 @@ class Message(Native):
 
     @property
     def payload(self) -> Any:
+        """The payload, a part of the message."""
         get = self._function(f"{self.payload_type.record_name}_get")
         return self.payload_type._borrowed(self._handle, lambda: self._handle.call(get, self.native))
 
@@ -410,24 +434,28 @@ class Message(Native):
         self._handle.call(self._function(f"{own.record_name}_free_and_set"), self.native, own._cloned())
 
     def to_frame(self) -> bytes:
+        """Returns the message as a frame. Raises OSError if an open bundle on the handle does not admit it."""
         h, native, marshal = self._handle, self.native, self._function("marshal")
         size = self._function("len")(h.native, CTX_ID, native)
         return h.grown(size, lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
 
     @classmethod
     def from_frame(cls: type[M], frame: bytes, on: Handle | None = None) -> M:
+        """Creates a message from a frame. Raises OSError if the frame is invalid."""
         on = on or handle()
         out, err = ffi.new(f"{cls.message_name} **"), ffi.new("uint32_t *")
         cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(bytes(frame) + b"\0"), len(frame), err)
-        message = cls._taken(on, out[0])  # also a broken one, so that it goes
+        message = cls._taken(on, out[0])  # also after an error, so that it is destroyed
         if err[0] != 0:
-            raise OSError(err[0], f"no frame of a {cls.message_name}: {os.strerror(err[0])}")
+            raise OSError(err[0], f"invalid frame of {cls.message_name}: {os.strerror(err[0])}")
         return message
 
     def to_xml(self) -> str:
+        """Returns an XML element with the message's name."""
         return self._rendered("to_xml")
 
     def text(self) -> str:
+        """Returns readable text."""
         return self._rendered("print")
 
     def _rendered(self, name: str) -> str:
@@ -438,16 +466,18 @@ class Message(Native):
 
     @classmethod
     def from_xml(cls: type[M], text: str | bytes, on: Handle | None = None) -> M:
+        """Creates a message from the first element with the payload's name. Raises ValueError for malformed XML and
+        OSError for an invalid number."""
         on = on or handle()
         with Document(text) as document:
-            words, err = ffi.new("char[256]"), ffi.new("uint32_t *")
-            native = cls._function("from_xml")(on.native, CTX_ID, document, err, words, 256)
+            explanation, err = ffi.new("char[256]"), ffi.new("uint32_t *")
+            native = cls._function("from_xml")(on.native, CTX_ID, document, err, explanation, 256)
             if err[0] != 0:
-                raise OSError(err[0], ffi.string(words).decode() or os.strerror(err[0]))
+                raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
         return cls._taken(on, native)
 
     def to_dict(self) -> dict[str, Any]:
-        """What "tarn decode --json" shows of the message without states."""
+        """Returns name and payload, as in the output of "tarn decode --json" without state bytes."""
         return {"message": self.message_name, "payload": self.payload.to_dict()}
 
     def __eq__(self, other: object) -> bool:

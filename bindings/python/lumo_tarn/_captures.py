@@ -1,9 +1,9 @@
-"""Runs of frames, as sockets and files bring them, and what the recorder keeps."""
+"""Sequences of frames, as read from sockets and files, and the recorder's files."""
 
 from __future__ import annotations
 
 import dataclasses
-import os
+import errno
 import re
 from typing import Iterable, Iterator
 
@@ -12,12 +12,12 @@ from ._base import Message
 from ._native import Handle, ffi, handle, lib
 from .records import MESSAGES
 
-_TRACKED = 7  # byte of a header: the sender made the message with states
+_TRACKED = 7  # offset in the header: not 0 if the message has state bytes
 
 
 @dataclasses.dataclass(frozen=True)
 class Control:
-    """A control message: the start, abort or commit of a bundle."""
+    """A control message: kind is start, abort or commit."""
 
     bundle: str
     kind: str
@@ -38,13 +38,17 @@ _CONTROLS = {
 
 
 def frames(data: bytes) -> Iterator[Message | Control]:
-    """What the frames hold, one behind the other. A frame with states is read on a handle that tracks."""
+    """Yields the messages and control messages of consecutive frames. A message with state bytes is created on a tracked
+    handle. Raises ValueError with the offset at an incomplete frame or an unknown message, and OSError if the content
+    of a frame is invalid."""
     at, look = 0, ffi.new("mirk_platform_frame *")
     while at < len(data):
         rest = data[at:]
         error = lib.mirk_platform_frame_look(ffi.from_buffer(rest), len(rest), look)
+        if error == errno.EBADMSG:
+            raise ValueError(f"invalid frame at offset {at}")
         if error != 0 or look.header.total_length > len(rest):
-            raise ValueError(f"no whole frame at offset {at}: {os.strerror(error or 74)}")
+            raise ValueError(f"incomplete frame at offset {at}")
         frame, luid = rest[: look.header.total_length], bytes(look.luid)
         at += len(frame)
         if luid in _CONTROLS:
@@ -52,18 +56,19 @@ def frames(data: bytes) -> Iterator[Message | Control]:
         elif luid in MESSAGES:
             yield MESSAGES[luid].from_frame(frame, on=handle(tracked=frame[_TRACKED] != 0))
         else:
-            raise ValueError(f"an unknown message at offset {at - len(frame)}: {luid.hex()}")
+            raise ValueError(f"unknown message at offset {at - len(frame)}: {luid.hex()}")
 
 
 def messages(data: bytes) -> Iterator[Message]:
-    """The same without the control messages around them."""
+    """Yields the messages of consecutive frames, as frames() does, without the control messages."""
     return (item for item in frames(data) if isinstance(item, Message))
 
 
 def recording(text: str, on: Handle | None = None) -> Iterator[Message]:
-    """The messages of a recorder's file: XML elements, one behind the other and without a common one around them."""
+    """Yields the messages of a recorder's file, which is a sequence of XML elements without a root. Raises ValueError at
+    any other text."""
     kinds = {kind.message_name: kind for kind in MESSAGES.values()}
-    # A message holds no message, so the first closing tag of its name is its own.
+    # Messages do not nest, so the first closing tag with the message's name is its own.
     pattern = re.compile(rf"<({'|'.join(kinds)})\b[^>]*>.*?</\1>", re.DOTALL)
     at = 0
     for found in pattern.finditer(text):
@@ -75,19 +80,21 @@ def recording(text: str, on: Handle | None = None) -> Iterator[Message]:
         raise ValueError(f"not a message: {text[at:].strip()[:60]}")
 
 
-def bundle_frames(bundle: str, answer: Iterable[Message], on: Handle | None = None) -> bytes:
-    """A whole answer: the start of the bundle, its messages, and the commit; an abort if a message is not for it."""
+def bundle_frames(bundle: str, content: Iterable[Message], on: Handle | None = None) -> bytes:
+    """Returns the frames of a bundle: its start, the messages, and its commit. bundle is its full name or a short one
+    such as "cl-debug". Raises OSError if the bundle does not admit a message, and ValueError for an unknown bundle or
+    messages of several handles; the bundle is then aborted on the handle, and no frames are returned."""
     name = bundle.replace("-", "_")
     name = name if name in _schema.BUNDLES else f"lumo_tarn_{name}_rsp"
     if name not in _schema.BUNDLES:
-        raise ValueError(f"no bundle is called {bundle}")
-    listed = list(answer)
+        raise ValueError(f"unknown bundle: {bundle}")
+    listed = list(content)
     on = on or (listed[0].handle if listed else handle())
     whole = Control(name, "start").to_frame(on)
     try:
         for message in listed:
             if message.handle is not on:
-                raise ValueError("all messages of an answer are made on one handle")
+                raise ValueError("the messages of a bundle must be on one handle")
             whole += message.to_frame()
     except BaseException:
         Control(name, "abort").to_frame(on)

@@ -1,4 +1,4 @@
-# The declarations themselves are made by build_cdefs.py and have no types.
+# build_cdefs.py writes the module, which has no types.
 from typing import Any
 
 ffi: Any

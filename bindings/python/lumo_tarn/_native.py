@@ -1,7 +1,8 @@
-"""The library, its runtime, and handles on it."""
+"""The shared library and handles of its runtime."""
 
 from __future__ import annotations
 
+import errno
 import os
 import threading
 import weakref
@@ -10,29 +11,28 @@ from typing import Any, Callable
 
 from ._cffi import ffi as ffi
 
-# Some releases of cffi end the process when they meet a type of function before the structure that it takes.
+# Some releases of cffi crash if they parse a function type before the structure that it takes.
 ffi.typeof("mirk_handle")
 
 
 def _library() -> str:
-    """The library of the installation that the package lies in, as LIBRARIES/python3/dist-packages/lumo_tarn; else the
-    loader knows."""
+    """Path of the library. An installed package is LIBRARIES/python3/dist-packages/lumo_tarn, three levels below it."""
     name = "liblumo_ui_tarn.so.1"
     beside = Path(__file__).resolve().parents[3] / name
     return os.environ.get("LUMO_TARN_LIBRARY") or (str(beside) if beside.exists() else name)
 
 
-# Objects that are left when the interpreter ends are destroyed then: the library stays loaded for them.
+# The library stays loaded, because finalizers call it while the interpreter exits.
 lib: Any = ffi.dlopen(_library(), os.RTLD_NOW | os.RTLD_NODELETE)
 
 CTX_ID = 1
-_LACK_OF_ROOM = (12, 28, 90)
-_MOST_BYTES = 1 << 30
+_BUFFER_TOO_SMALL = (errno.ENOMEM, errno.ENOSPC, errno.EMSGSIZE)
+_MAX_BUFFER_SIZE = 1 << 30
 
 lib.mirk_lumo_ui_tarn_type_trace_init()
 lib.mirk_lumo_ui_tarn_message_trace_init()
 if "MIRK_TRACE" not in os.environ:
-    lib.mirk_platform_trace_set_levels(1)  # errors are raised, and need not be told twice
+    lib.mirk_platform_trace_set_levels(1)  # errors are raised, so traces would repeat them
 
 
 def _destroy(closing: Any, h: Any, native: Any, destroy: Callable[..., Any], ctx_id: int = CTX_ID) -> None:
@@ -41,7 +41,8 @@ def _destroy(closing: Any, h: Any, native: Any, destroy: Callable[..., Any], ctx
 
 
 class Handle:
-    """A handle of the runtime. It belongs to one thread at a time, and so does everything that was made with it."""
+    """A handle of the runtime. Use it, and the objects created on it, from one thread at a time. On a tracked handle
+    records have state bytes."""
 
     def __init__(self, tracked: bool = False) -> None:
         options = ffi.new("mirk_platform_handle_options *")
@@ -50,21 +51,21 @@ class Handle:
         self.tracked = tracked
         native = lib.mirk_platform_handle_open(options)
         if native == ffi.NULL:
-            raise MemoryError("no memory for a handle")
+            raise MemoryError("cannot allocate a handle")
         self.native: Any = native
         self._closing = weakref.finalize(self, lib.mirk_platform_handle_close, native)
 
     def destroy_with(self, holder: object, native: Any, destroy: Callable[..., Any]) -> None:
-        """Destroys the native object when its holder goes. A handle that goes first releases what is left; that happens
-        only when both are parts of one cycle, since holders hold their handle."""
+        """Destroys the native object when its holder is collected. Holders refer to their handle, so it is collected
+        first only in a cycle; closing it then frees the native object."""
         weakref.finalize(holder, _destroy, self._closing, self.native, native, destroy)
 
     def live_blocks(self) -> int:
-        """Blocks of memory that objects hold; 0 when none is left."""
+        """Number of memory blocks allocated on the handle; 0 if all objects are destroyed."""
         return int(lib.mirk_platform_live_blocks(self.native))
 
     def call(self, function: Callable[..., Any], *arguments: Any) -> Any:
-        """Calls an operation of the form (h, ctx_id, ..., err) and raises what it reports."""
+        """Calls a C function of the form (h, ctx_id, ..., err). Raises OSError if it sets err."""
         err = ffi.new("uint32_t *")
         result = function(self.native, CTX_ID, *arguments, err)
         if err[0] != 0:
@@ -72,13 +73,14 @@ class Handle:
         return result
 
     def grown(self, guess: int, write: Callable[[Any, int, Any], Any]) -> bytes:
-        """What a writer writes into a buffer that grows until it is content, with a spare byte behind it."""
+        """Returns what write(buffer, size, err) writes. Retries with a larger buffer if it is too small. The buffer has
+        a guard byte after the size that is passed."""
         size = guess
         while True:
-            buffer = ffi.new("char[]", b" " * size)
+            buffer = ffi.new("char[]", b" " * size)  # the guard byte is the NUL that cffi appends
             err = ffi.new("uint32_t *")
             written = write(buffer, size, err)
-            if err[0] in _LACK_OF_ROOM and size < _MOST_BYTES:
+            if err[0] in _BUFFER_TOO_SMALL and size < _MAX_BUFFER_SIZE:
                 size *= 4
                 continue
             if err[0] != 0:
@@ -90,7 +92,7 @@ _own = threading.local()
 
 
 def handle(tracked: bool = False) -> Handle:
-    """The handle of this thread that objects are made with if none is named."""
+    """The default handle of this thread: objects are created on it unless the argument on is given."""
     name = "tracked" if tracked else "plain"
     if not hasattr(_own, name):
         setattr(_own, name, Handle(tracked))
@@ -99,7 +101,7 @@ def handle(tracked: bool = False) -> Handle:
 
 
 class Document:
-    """A parsed document, for the time of a with statement."""
+    """Parses XML for the duration of a with statement. Raises ValueError with the line if it is malformed."""
 
     def __init__(self, text: str | bytes) -> None:
         self._text = text.encode() if isinstance(text, str) else text

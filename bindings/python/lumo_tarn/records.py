@@ -1,4 +1,4 @@
-"""The classes of the schema, made from its tables. records.pyi shows them to type checkers and editors."""
+"""The classes of the schema, created from its tables. records.pyi declares them for type checkers and editors."""
 
 from __future__ import annotations
 
@@ -11,7 +11,7 @@ from ._native import ffi, lib
 
 
 class Member:
-    """How one member is read and written, as a descriptor of its record's class."""
+    """The descriptor of a member. This class is for integers; the other kinds of members derive from it."""
 
     tracked = True
 
@@ -44,7 +44,7 @@ class CountMember(Member):
     tracked = False
 
     def write(self, record: Record, value: Any) -> None:
-        raise AttributeError(f"{self.name} follows from what it counts")
+        raise AttributeError(f"{self.name} is read-only: it follows from the array or string")
 
     state = set_state = None  # type: ignore[assignment]
 
@@ -64,7 +64,7 @@ class EnumerationMember(Member):
 
     def read(self, record: Record) -> Any:
         value = super().read(record)
-        return self.enumeration(value) if value < len(self.names) else value  # frames may bring any number
+        return self.enumeration(value) if value < len(self.names) else value  # frames can contain any number
 
     def write(self, record: Record, value: Any) -> None:
         if isinstance(value, str):
@@ -101,6 +101,8 @@ class StringMember(Member):
 
     def write(self, record: Record, value: str) -> None:
         text = value.encode(errors="surrogateescape")
+        if b"\0" in text:  # the C function would store what precedes it
+            raise ValueError(f"{self.name} cannot contain a NUL character")
         if len(text) > 0xFFFF:
             raise OverflowError(f"{self.name} holds at most 65535 bytes")
         record._call(f"{self.name}_set", text, len(text))
@@ -171,7 +173,7 @@ def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
         elif kind in _schema.GREATEST:
             member = Member(name, meaning)
         else:
-            raise NotImplementedError(f"members of kind {kind}")
+            raise NotImplementedError(f"members of kind {kind} are not supported")
         members[attribute] = member
         before, most = name, _schema.GREATEST.get(kind.rpartition(" ")[2], 0)
     return members
