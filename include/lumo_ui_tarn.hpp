@@ -11,11 +11,12 @@
 /// - proto_state() returns the state byte, or nothing if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
 ///
-/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no setter:
-/// the container writes elements. A member whose name is a keyword or a function of all records has _member appended.
+/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no setter,
+/// because the container writes elements. If the name of a member is a keyword or a function of all records, _member is
+/// appended.
 ///
-/// dp_tc_type names the C functions of lumo_tarn_dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). A function whose
-/// name is a keyword has _operation appended. lumo_ui_tarn/families.h describes the functions.
+/// dp_tc_type names the C functions of lumo_tarn_dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
+/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions.
 ///
 /// Everything is inline: link the C library.
 // Generated from the schema; edit the tables there and run tools/regenerate.
