@@ -1,8 +1,8 @@
 /* Generated from the schema; edit the tables there and run tools/regenerate. */
 /** @file
- * lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the traffic-aware routing
- * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which describes the
- * operations; the other headers list names. */
+ * lumo_ui_tarn.h - umbrella header: records, enumerations, messages and bundles of the traffic-aware
+ * routing feature tarn. Start with lumo_ui_tarn/families.h, which describes the operations; the other
+ * headers list names. The library runs on a runtime, which mirk/mirk.h declares. */
 #ifndef LUMO_UI_TARN_H
 #define LUMO_UI_TARN_H
 

@@ -227,7 +227,7 @@ struct lumo_direction_type {
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_lumo_direction_e);
 };
 
-/// What a block of memory is used for.
+/// Kind of memory.
 enum class mem_desc : std::uint32_t {
     mp_mem = 0,  ///< LUMO_TARN_MP_MEM
     tt_mem = 1,  ///< LUMO_TARN_TT_MEM
@@ -251,7 +251,7 @@ struct mem_desc_type {
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_mem_desc_e);
 };
 
-/// lumo_tarn_exmem_info: one block of external memory, under its three addresses, with its size.
+/// lumo_tarn_exmem_info: one block of external memory: its three addresses and its size.
 struct exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_exmem_info);
@@ -264,11 +264,11 @@ struct exmem_info_type {
     public:
         using detail::operations<exmem_info_type, Self>::operations;
 
-        /// Block's address on the client side.
+        /// Address of the block on the client side.
         std::uint64_t cl_addr() const { return this->call_(lumo_tarn_exmem_info_cl_addr_get_value); }
-        /// Block's address in external memory.
+        /// Address of the block in external memory.
         std::uint64_t exmem_addr() const { return this->call_(lumo_tarn_exmem_info_exmem_addr_get_value); }
-        /// Block's address as the ppe side uses it.
+        /// Address of the block as the ppe side uses it.
         std::uint64_t ppe_addr() const { return this->call_(lumo_tarn_exmem_info_ppe_addr_get_value); }
         /// Size of the block.
         std::uint32_t size() const { return this->call_(lumo_tarn_exmem_info_size_get_value); }
@@ -601,7 +601,7 @@ using fdb_mem_info = record<fdb_mem_info_type>;  ///< owns one
 using fdb_mem_info_ref = record_ref<fdb_mem_info_type>;  ///< borrows one
 using fdb_mem_info_view = record_view<fdb_mem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_exmem_info_wrapper: one block of a list of blocks that grows.
+/// lumo_tarn_exmem_info_wrapper: one block of a growing list of blocks.
 struct exmem_info_wrapper_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_exmem_info_wrapper);
@@ -693,7 +693,7 @@ struct dp_appl_type {
     public:
         using detail::operations<dp_appl_type, Self>::operations;
 
-        /// Where the entry lies in memory.
+        /// Location of the entry in memory.
         lumo_ui_tarn::exmem_info_view exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_exmem_info_get);
         }
@@ -840,7 +840,7 @@ struct dp_tc_type {
     public:
         using detail::operations<dp_tc_type, Self>::operations;
 
-        /// Where the traffic class lies in memory.
+        /// Location of the traffic class in memory.
         lumo_ui_tarn::exmem_info_view exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_tc_exmem_info_get);
         }
@@ -870,7 +870,7 @@ struct dp_tc_type {
         std::uint16_t dst_port_opr() const { return this->call_(lumo_tarn_dp_tc_dst_port_opr_get_value); }
         /// Link to the next class in the data plane.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_tc_next_ptr_get_value); }
-        /// Where the application data lies in the data plane.
+        /// Location of the application data in the data plane.
         std::uint64_t appl_data_ptr() const { return this->call_(lumo_tarn_dp_tc_appl_data_ptr_get_value); }
         /// Class's application entry.
         lumo_ui_tarn::dp_appl_view appl() const {
@@ -1347,7 +1347,7 @@ using dp_appl_list = record<dp_appl_list_type>;  ///< owns one
 using dp_appl_list_ref = record_ref<dp_appl_list_type>;  ///< borrows one
 using dp_appl_list_view = record_view<dp_appl_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_ll_spec: one learn list entry.
+/// lumo_tarn_dp_ll_spec: definition of one learn list.
 struct dp_ll_spec_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_ll_spec);
@@ -1360,17 +1360,17 @@ struct dp_ll_spec_type {
     public:
         using detail::operations<dp_ll_spec_type, Self>::operations;
 
-        /// Show: everything.
+        /// Whether to show everything.
         bool display_all() const { return this->call_(lumo_tarn_dp_ll_spec_display_all_get_value) != 0; }
-        /// Show: the traffic classes.
+        /// Whether to show the traffic classes.
         bool display_tc() const { return this->call_(lumo_tarn_dp_ll_spec_display_tc_get_value) != 0; }
-        /// Show: the applications.
+        /// Whether to show the applications.
         bool display_appl() const { return this->call_(lumo_tarn_dp_ll_spec_display_appl_get_value) != 0; }
-        /// Where the entry lies in memory.
+        /// Location of the definition in memory.
         lumo_ui_tarn::exmem_info_view exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_ll_spec_exmem_info_get);
         }
-        /// Identifier of the entry.
+        /// Identifier of the definition.
         std::uint32_t id() const { return this->call_(lumo_tarn_dp_ll_spec_id_get_value); }
         /// Minimum mask length.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_ll_spec_min_mask_get_value); }
@@ -1382,7 +1382,7 @@ struct dp_ll_spec_type {
         std::uint8_t ll_type() const { return this->call_(lumo_tarn_dp_ll_spec_ll_type_get_value); }
         /// Number of prefixes.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_ll_spec_num_prefixes_get_value); }
-        /// Where the filter list lies in the data plane.
+        /// Location of the filter list in the data plane.
         std::uint64_t filter_tc_list_ptr() const {
             return this->call_(lumo_tarn_dp_ll_spec_filter_tc_list_ptr_get_value);
         }
@@ -1390,25 +1390,25 @@ struct dp_ll_spec_type {
         lumo_ui_tarn::dp_tc_list_view filter_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_ll_spec_filter_tc_list_get);
         }
-        /// Where the access-list classes lie in the data plane.
+        /// Location of the access-list classes in the data plane.
         std::uint64_t acl_tc_list_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_acl_tc_list_ptr_get_value); }
         /// Access-list traffic classes.
         lumo_ui_tarn::dp_tc_list_view acl_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_ll_spec_acl_tc_list_get);
         }
-        /// Where the application list lies in the data plane.
+        /// Location of the application list in the data plane.
         std::uint64_t appl_list_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_appl_list_ptr_get_value); }
         /// Applications.
         lumo_ui_tarn::dp_appl_list_view appl_list() const {
             return this->template nested_<lumo_ui_tarn::dp_appl_list_type>(lumo_tarn_dp_ll_spec_appl_list_get);
         }
-        /// Link to the next entry.
+        /// Link to the next definition.
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_next_ptr_get_value); }
         /// Head of the entries that num_entries counts.
         std::uint64_t head_ptr() const { return this->call_(lumo_tarn_dp_ll_spec_head_ptr_get_value); }
-        /// Number of entries behind head_ptr.
+        /// Number of entries that start at head_ptr.
         std::uint32_t num_entries() const { return this->call_(lumo_tarn_dp_ll_spec_num_entries_get_value); }
-        /// Capacity of the entry's heap.
+        /// Capacity of the definition's heap.
         std::uint32_t heap_max_elements() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_max_elements_get_value);
         }
@@ -1418,7 +1418,7 @@ struct dp_ll_spec_type {
         std::uint64_t heap_compare_func() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_compare_func_get_value);
         }
-        /// Where the heap's elements lie.
+        /// Location of the heap's elements.
         std::uint64_t heap_elements_ptr() const {
             return this->call_(lumo_tarn_dp_ll_spec_heap_elements_ptr_get_value);
         }
@@ -1948,7 +1948,7 @@ using dp_ll_spec = record<dp_ll_spec_type>;  ///< owns one
 using dp_ll_spec_ref = record_ref<dp_ll_spec_type>;  ///< borrows one
 using dp_ll_spec_view = record_view<dp_ll_spec_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_learn_list: entries of one traffic table.
+/// lumo_tarn_dp_learn_list: learn list definitions of one traffic table.
 struct dp_learn_list_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_learn_list);
@@ -1968,7 +1968,7 @@ struct dp_learn_list_type {
 
         /// Elements in ll_spec_list.
         std::uint32_t num_ll_specs() const { return this->call_(lumo_tarn_dp_learn_list_num_ll_specs_get_value); }
-        /// Learn list entries.
+        /// Learn list definitions.
         lumo_ui_tarn::array_view<ll_spec_list_array> ll_spec_list() const {
             return this->template array_<ll_spec_list_array>();
         }
@@ -2378,7 +2378,7 @@ using debug_setting = record<debug_setting_type>;  ///< owns one
 using debug_setting_ref = record_ref<debug_setting_type>;  ///< borrows one
 using debug_setting_view = record_view<debug_setting_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_debug_setting_data: switches of all processors.
+/// lumo_tarn_dp_debug_setting_data: debug switches of all processors.
 struct dp_debug_setting_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_debug_setting_data);
@@ -2396,9 +2396,9 @@ struct dp_debug_setting_data_type {
     public:
         using detail::operations<dp_debug_setting_data_type, Self>::operations;
 
-        /// Number of entries in lumo_data.
+        /// Elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_debug_setting_data_num_lumos_get_value); }
-        /// One entry for each processor.
+        /// One element for each processor.
         lumo_ui_tarn::array_view<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
 
         /// @cond states
@@ -2597,7 +2597,7 @@ struct cl_appl_data_type {
     public:
         using detail::operations<cl_appl_data_type, Self>::operations;
 
-        /// Show: print the header.
+        /// Whether to show the header.
         bool show_header() const { return this->call_(lumo_tarn_cl_appl_data_show_header_get_value) != 0; }
         /// Elements in kesh_appl.
         std::uint32_t num_kesh_appls() const { return this->call_(lumo_tarn_cl_appl_data_num_kesh_appls_get_value); }
@@ -2665,7 +2665,7 @@ using cl_appl_data = record<cl_appl_data_type>;  ///< owns one
 using cl_appl_data_ref = record_ref<cl_appl_data_type>;  ///< borrows one
 using cl_appl_data_view = record_view<cl_appl_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_static_exmem_info: block that a processor holds for the whole of its life, by kind of memory.
+/// lumo_tarn_static_exmem_info: memory block that a processor holds permanently, with its kind of memory.
 struct static_exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_static_exmem_info);
@@ -2678,7 +2678,7 @@ struct static_exmem_info_type {
     public:
         using detail::operations<static_exmem_info_type, Self>::operations;
 
-        /// What the block is used for.
+        /// Which kind of memory this is.
         lumo_ui_tarn::mem_desc mem_type() const {
             return this->template enumerated_<lumo_ui_tarn::mem_desc>(lumo_tarn_static_exmem_info_mem_type_get_value);
         }
@@ -2686,7 +2686,7 @@ struct static_exmem_info_type {
         std::uint32_t num_hash_elements() const {
             return this->call_(lumo_tarn_static_exmem_info_num_hash_elements_get_value);
         }
-        /// Block itself.
+        /// The block itself.
         lumo_ui_tarn::exmem_info_view exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_static_exmem_info_exmem_get);
         }
@@ -2791,7 +2791,7 @@ using static_exmem_info = record<static_exmem_info_type>;  ///< owns one
 using static_exmem_info_ref = record_ref<static_exmem_info_type>;  ///< borrows one
 using static_exmem_info_view = record_view<static_exmem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dyn_exmem_info: blocks that a processor adds while it runs, by kind of memory.
+/// lumo_tarn_dyn_exmem_info: memory blocks that a processor adds at run time, with their kind of memory.
 struct dyn_exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dyn_exmem_info);
@@ -2809,11 +2809,11 @@ struct dyn_exmem_info_type {
     public:
         using detail::operations<dyn_exmem_info_type, Self>::operations;
 
-        /// What the blocks are used for.
+        /// Which kind of memory this is.
         lumo_ui_tarn::mem_desc mem_type() const {
             return this->template enumerated_<lumo_ui_tarn::mem_desc>(lumo_tarn_dyn_exmem_info_mem_type_get_value);
         }
-        /// The list header of the dynamic blocks.
+        /// List header of the dynamic blocks.
         std::uint64_t list_header_ptr() const {
             return this->call_(lumo_tarn_dyn_exmem_info_list_header_ptr_get_value);
         }
@@ -2902,7 +2902,7 @@ using dyn_exmem_info = record<dyn_exmem_info_type>;  ///< owns one
 using dyn_exmem_info_ref = record_ref<dyn_exmem_info_type>;  ///< borrows one
 using dyn_exmem_info_view = record_view<dyn_exmem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_lumo_info: one processor.
+/// lumo_tarn_lumo_info: state of one processor.
 struct lumo_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_lumo_info);
@@ -2925,19 +2925,19 @@ struct lumo_info_type {
     public:
         using detail::operations<lumo_info_type, Self>::operations;
 
-        /// Show: everything.
+        /// Whether to show everything.
         bool display_all() const { return this->call_(lumo_tarn_lumo_info_display_all_get_value) != 0; }
-        /// Show: the fdb part.
+        /// Whether to show the fdb part.
         bool display_fdb() const { return this->call_(lumo_tarn_lumo_info_display_fdb_get_value) != 0; }
-        /// Show: the high-availability part.
+        /// Whether to show the high-availability part.
         bool display_ha() const { return this->call_(lumo_tarn_lumo_info_display_ha_get_value) != 0; }
-        /// Show: the wexa part.
+        /// Whether to show the wexa part.
         bool display_wexa() const { return this->call_(lumo_tarn_lumo_info_display_wexa_get_value) != 0; }
-        /// Show: the handles.
+        /// Whether to show the handles.
         bool display_handles() const { return this->call_(lumo_tarn_lumo_info_display_handles_get_value) != 0; }
-        /// Show: the memory blocks.
+        /// Whether to show the memory blocks.
         bool display_exmem() const { return this->call_(lumo_tarn_lumo_info_display_exmem_get_value) != 0; }
-        /// Show: the initialisation state.
+        /// Whether to show the initialization state.
         bool display_init() const { return this->call_(lumo_tarn_lumo_info_display_init_get_value) != 0; }
         /// Number of this lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_lumo_info_lumo_num_get_value); }
@@ -2949,7 +2949,7 @@ struct lumo_info_type {
         }
         /// Epoch value of the processor.
         std::uint32_t epoch() const { return this->call_(lumo_tarn_lumo_info_epoch_get_value); }
-        /// Flag word: fdb initialised.
+        /// Flag word, set if the fdb is initialized.
         std::uint32_t fdb_initialized() const { return this->call_(lumo_tarn_lumo_info_fdb_initialized_get_value); }
         /// Header and footer description of the fdb.
         lumo_ui_tarn::fdb_base_view fdb_base() const {
@@ -2981,49 +2981,49 @@ struct lumo_info_type {
         lumo_ui_tarn::ha_state ha_state() const {
             return this->template enumerated_<lumo_ui_tarn::ha_state>(lumo_tarn_lumo_info_ha_state_get_value);
         }
-        /// Flag word: high availability is running.
+        /// Flag word, set if high availability is running.
         std::uint32_t ha_running() const { return this->call_(lumo_tarn_lumo_info_ha_running_get_value); }
-        /// Flag word: high availability is enabled.
+        /// Flag word, set if high availability is enabled.
         std::uint32_t ha_enabled() const { return this->call_(lumo_tarn_lumo_info_ha_enabled_get_value); }
-        /// Handle: the connection to the driver.
+        /// Handle of the connection to the driver.
         std::uint64_t drv_conn_h() const { return this->call_(lumo_tarn_lumo_info_drv_conn_h_get_value); }
-        /// Handle: external memory.
+        /// Handle of the external memory.
         std::uint64_t exmem_h() const { return this->call_(lumo_tarn_lumo_info_exmem_h_get_value); }
         /// Number of features in a wexa entry.
         std::uint16_t wexa_num_feat() const { return this->call_(lumo_tarn_lumo_info_wexa_num_feat_get_value); }
         /// Size of a feature in a wexa entry.
         std::uint16_t wexa_feat_size() const { return this->call_(lumo_tarn_lumo_info_wexa_feat_size_get_value); }
-        /// Handle: ingress wexa.
+        /// Handle of the ingress wexa.
         std::uint64_t in_wexa_h() const { return this->call_(lumo_tarn_lumo_info_in_wexa_h_get_value); }
-        /// Handle: ingress wexa feature.
+        /// Handle of the ingress wexa feature.
         std::uint64_t in_wexa_feat_h() const { return this->call_(lumo_tarn_lumo_info_in_wexa_feat_h_get_value); }
-        /// Handle: egress wexa.
+        /// Handle of the egress wexa.
         std::uint64_t out_wexa_h() const { return this->call_(lumo_tarn_lumo_info_out_wexa_h_get_value); }
-        /// Handle: egress wexa feature.
+        /// Handle of the egress wexa feature.
         std::uint64_t out_wexa_feat_h() const { return this->call_(lumo_tarn_lumo_info_out_wexa_feat_h_get_value); }
-        /// Salt of the data plane's hash, carried as a datum.
+        /// Salt of the data plane's hash.
         std::uint32_t dp_hash_salt() const { return this->call_(lumo_tarn_lumo_info_dp_hash_salt_get_value); }
-        /// Flag word: flow information initialised on the client side.
+        /// Flag word, set if flow information is initialized on the client side.
         std::uint32_t flow_info_initialized() const {
             return this->call_(lumo_tarn_lumo_info_flow_info_initialized_get_value);
         }
-        /// Flag word: flow information initialised in the data plane.
+        /// Flag word, set if flow information is initialized in the data plane.
         std::uint32_t dp_flow_info_initialized() const {
             return this->call_(lumo_tarn_lumo_info_dp_flow_info_initialized_get_value);
         }
-        /// Flag word: mp initialised on the client side.
+        /// Flag word, set if mp is initialized on the client side.
         std::uint32_t mp_initialized() const { return this->call_(lumo_tarn_lumo_info_mp_initialized_get_value); }
-        /// Flag word: mp initialised in the data plane.
+        /// Flag word, set if mp is initialized in the data plane.
         std::uint32_t dp_mp_initialized() const { return this->call_(lumo_tarn_lumo_info_dp_mp_initialized_get_value); }
-        /// Flag word: tt initialised on the client side.
+        /// Flag word, set if tt is initialized on the client side.
         std::uint32_t tt_initialized() const { return this->call_(lumo_tarn_lumo_info_tt_initialized_get_value); }
-        /// Flag word: tt initialised in the data plane.
+        /// Flag word, set if tt is initialized in the data plane.
         std::uint32_t dp_tt_initialized() const { return this->call_(lumo_tarn_lumo_info_dp_tt_initialized_get_value); }
-        /// Flag word: application signatures initialised on the client side.
+        /// Flag word, set if application signatures are initialized on the client side.
         std::uint32_t appl_sig_initialized() const {
             return this->call_(lumo_tarn_lumo_info_appl_sig_initialized_get_value);
         }
-        /// Flag word: application signatures initialised in the data plane.
+        /// Flag word, set if application signatures are initialized in the data plane.
         std::uint32_t dp_appl_sig_initialized() const {
             return this->call_(lumo_tarn_lumo_info_dp_appl_sig_initialized_get_value);
         }
@@ -3039,25 +3039,25 @@ struct lumo_info_type {
         std::uint64_t tt_tc_learn_list_exmem_ptr() const {
             return this->call_(lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get_value);
         }
-        /// Handle: chunk pool of class list heads.
+        /// Handle of the chunk pool of class list heads.
         std::uint64_t tc_list_head_chunk_h() const {
             return this->call_(lumo_tarn_lumo_info_tc_list_head_chunk_h_get_value);
         }
-        /// Handle: chunk pool of traffic classes.
+        /// Handle of the chunk pool of traffic classes.
         std::uint64_t tc_chunk_h() const { return this->call_(lumo_tarn_lumo_info_tc_chunk_h_get_value); }
-        /// Handle: chunk pool of learn lists.
+        /// Handle of the chunk pool of learn lists.
         std::uint64_t ll_chunk_h() const { return this->call_(lumo_tarn_lumo_info_ll_chunk_h_get_value); }
-        /// Handle: chunk pool of applications.
+        /// Handle of the chunk pool of applications.
         std::uint64_t appl_chunk_h() const { return this->call_(lumo_tarn_lumo_info_appl_chunk_h_get_value); }
-        /// The client side's application signature hash.
+        /// Application signature hash of the client side.
         std::uint64_t cl_appl_sig_hash_ptr() const {
             return this->call_(lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get_value);
         }
-        /// Handle: the data plane's application signature hash.
+        /// Handle of the data plane's application signature hash.
         std::uint64_t dp_appl_sig_hash_h() const {
             return this->call_(lumo_tarn_lumo_info_dp_appl_sig_hash_h_get_value);
         }
-        /// Handle: chunk pool of application signatures.
+        /// Handle of the chunk pool of application signatures.
         std::uint64_t appl_sig_chunk_h() const { return this->call_(lumo_tarn_lumo_info_appl_sig_chunk_h_get_value); }
         /// Block of the application signature hash.
         lumo_ui_tarn::exmem_info_view appl_sig_hash_exmem() const {
@@ -3073,13 +3073,13 @@ struct lumo_info_type {
         }
         /// Elements in static_exmem.
         std::uint8_t num_static_exmems() const { return this->call_(lumo_tarn_lumo_info_num_static_exmems_get_value); }
-        /// Processor's static memory blocks.
+        /// Static memory blocks of the processor.
         lumo_ui_tarn::array_view<static_exmem_array> static_exmem() const {
             return this->template array_<static_exmem_array>();
         }
         /// Elements in dyn_exmem.
         std::uint8_t num_dyn_exmems() const { return this->call_(lumo_tarn_lumo_info_num_dyn_exmems_get_value); }
-        /// Processor's dynamic memory blocks.
+        /// Dynamic memory blocks of the processor.
         lumo_ui_tarn::array_view<dyn_exmem_array> dyn_exmem() const { return this->template array_<dyn_exmem_array>(); }
 
         /// @cond states
@@ -4271,7 +4271,7 @@ using lumo_info_list = record<lumo_info_list_type>;  ///< owns one
 using lumo_info_list_ref = record_ref<lumo_info_list_type>;  ///< borrows one
 using lumo_info_list_view = record_view<lumo_info_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_global_info: what holds for the whole client process.
+/// lumo_tarn_global_info: state of the whole client process.
 struct global_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_global_info);
@@ -4284,13 +4284,13 @@ struct global_info_type {
     public:
         using detail::operations<global_info_type, Self>::operations;
 
-        /// Show: everything.
+        /// Whether to show everything.
         bool display_all() const { return this->call_(lumo_tarn_global_info_display_all_get_value) != 0; }
-        /// Show: the platform configuration.
+        /// Whether to show the platform configuration.
         bool display_plat_cfg() const { return this->call_(lumo_tarn_global_info_display_plat_cfg_get_value) != 0; }
-        /// Show: the process context.
+        /// Whether to show the process context.
         bool display_proc_ctx() const { return this->call_(lumo_tarn_global_info_display_proc_ctx_get_value) != 0; }
-        /// Flag word: the platform configuration has been set.
+        /// Flag word, set if the platform configuration is set.
         std::uint32_t platform_cfg_set() const { return this->call_(lumo_tarn_global_info_platform_cfg_set_get_value); }
         /// Maximum number of tt cache entries.
         std::uint32_t max_tt_cache_entries() const {
@@ -4306,7 +4306,7 @@ struct global_info_type {
         std::uint64_t smc_evctx_p() const { return this->call_(lumo_tarn_global_info_smc_evctx_p_get_value); }
         /// The listening channel.
         std::uint64_t listen_chan() const { return this->call_(lumo_tarn_global_info_listen_chan_get_value); }
-        /// Flag word: high availability initialised.
+        /// Flag word, set if high availability is initialized.
         std::uint32_t ha_init() const { return this->call_(lumo_tarn_global_info_ha_init_get_value); }
         /// Flag word named mdr.
         std::uint32_t mdr() const { return this->call_(lumo_tarn_global_info_mdr_get_value); }
@@ -4630,15 +4630,15 @@ struct cl_cfg_data_type {
     public:
         using detail::operations<cl_cfg_data_type, Self>::operations;
 
-        /// Show: everything.
+        /// Whether to show everything.
         bool display_all() const { return this->call_(lumo_tarn_cl_cfg_data_display_all_get_value) != 0; }
-        /// Show: the smc part.
+        /// Whether to show the smc part.
         bool display_smc() const { return this->call_(lumo_tarn_cl_cfg_data_display_smc_get_value) != 0; }
         /// Global record.
         lumo_ui_tarn::global_info_view global_info() const {
             return this->template nested_<lumo_ui_tarn::global_info_type>(lumo_tarn_cl_cfg_data_global_info_get);
         }
-        /// Flag word: the smc queue is initialised.
+        /// Flag word, set if the smc queue is initialized.
         std::uint32_t tarn_smc_queue_initialized() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_get_value);
         }
@@ -4904,7 +4904,7 @@ struct dp_lumo_wexa_info_type {
 
         /// Number of the lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_lumo_wexa_info_lumo_num_get_value); }
-        /// Says whether in_wexa holds a value.
+        /// Whether in_wexa holds a value.
         bool in_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_get_value) != 0;
         }
@@ -4912,7 +4912,7 @@ struct dp_lumo_wexa_info_type {
         lumo_ui_tarn::dp_wexa_info_view in_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_wexa_info_type>(lumo_tarn_dp_lumo_wexa_info_in_wexa_get);
         }
-        /// Says whether out_wexa holds a value.
+        /// Whether out_wexa holds a value.
         bool out_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_get_value) != 0;
         }
@@ -5090,7 +5090,7 @@ struct dp_intf_data_type {
     public:
         using detail::operations<dp_intf_data_type, Self>::operations;
 
-        /// Says whether intf_name holds a value.
+        /// Whether intf_name holds a value.
         bool intf_name_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_intf_name_is_valid_get_value) != 0;
         }
@@ -5100,7 +5100,7 @@ struct dp_intf_data_type {
         std::string intf_name() const {
             return this->string_(lumo_tarn_dp_intf_data_intf_name_len_get_value, lumo_tarn_dp_intf_data_intf_name_get);
         }
-        /// Says whether in_lumo_wexa holds a value.
+        /// Whether in_lumo_wexa holds a value.
         bool in_lumo_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get_value) != 0;
         }
@@ -5108,7 +5108,7 @@ struct dp_intf_data_type {
         lumo_ui_tarn::dp_lumo_wexa_info_view in_lumo_wexa() const {
             return this->template nested_<lumo_ui_tarn::dp_lumo_wexa_info_type>(lumo_tarn_dp_intf_data_in_lumo_wexa_get);
         }
-        /// Says whether out_lumo_wexa holds a value.
+        /// Whether out_lumo_wexa holds a value.
         bool out_lumo_wexa_is_valid() const {
             return this->call_(lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get_value) != 0;
         }
@@ -5309,11 +5309,11 @@ struct dp_appl_sig_type {
     public:
         using detail::operations<dp_appl_sig_type, Self>::operations;
 
-        /// Where the signature lies in memory.
+        /// Location of the signature in memory.
         lumo_ui_tarn::exmem_info_view exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_sig_exmem_info_get);
         }
-        /// Bucket of the data plane's hash in which the signature lies.
+        /// Bucket of the signature in the data plane's hash.
         std::uint32_t dp_hash_bucket() const { return this->call_(lumo_tarn_dp_appl_sig_dp_hash_bucket_get_value); }
         /// Identifier of the signature in the adaptation layer.
         std::uint32_t pal_id() const { return this->call_(lumo_tarn_dp_appl_sig_pal_id_get_value); }
@@ -5631,11 +5631,11 @@ struct dp_appl_cfg_type {
     public:
         using detail::operations<dp_appl_cfg_type, Self>::operations;
 
-        /// Show: print the header.
+        /// Whether to show the header.
         bool show_header() const { return this->call_(lumo_tarn_dp_appl_cfg_show_header_get_value) != 0; }
         /// Number of the lumo processor.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_appl_cfg_lumo_num_get_value); }
-        /// Block of the processor's signature hash.
+        /// Memory block of the processor's signature hash.
         lumo_ui_tarn::exmem_info_view hash_exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_cfg_hash_exmem_info_get);
         }
@@ -5777,7 +5777,7 @@ struct dp_appl_data_type {
     public:
         using detail::operations<dp_appl_data_type, Self>::operations;
 
-        /// Show: print the header.
+        /// Whether to show the header.
         bool show_header() const { return this->call_(lumo_tarn_dp_appl_data_show_header_get_value) != 0; }
         /// Elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_appl_data_num_lumos_get_value); }
@@ -5858,21 +5858,21 @@ struct dp_tt_table_type {
     public:
         using detail::operations<dp_tt_table_type, Self>::operations;
 
-        /// Show: the table's header.
+        /// Whether to show the table's header.
         bool show_header() const { return this->call_(lumo_tarn_dp_tt_table_show_header_get_value) != 0; }
-        /// Show: the aggregation class list.
+        /// Whether to show the aggregation class list.
         bool show_agg_list() const { return this->call_(lumo_tarn_dp_tt_table_show_agg_list_get_value) != 0; }
-        /// Show: the filter class list.
+        /// Whether to show the filter class list.
         bool show_filter_list() const { return this->call_(lumo_tarn_dp_tt_table_show_filter_list_get_value) != 0; }
-        /// Show: the header of the learn list.
+        /// Whether to show the header of the learn list.
         bool show_ll_header() const { return this->call_(lumo_tarn_dp_tt_table_show_ll_header_get_value) != 0; }
-        /// Show: the learn list itself.
+        /// Whether to show the learn list itself.
         bool show_ll_list() const { return this->call_(lumo_tarn_dp_tt_table_show_ll_list_get_value) != 0; }
-        /// Show: all of it.
+        /// Whether to show everything.
         bool display_all() const { return this->call_(lumo_tarn_dp_tt_table_display_all_get_value) != 0; }
-        /// Show: the traffic classes.
+        /// Whether to show the traffic classes.
         bool display_tc() const { return this->call_(lumo_tarn_dp_tt_table_display_tc_get_value) != 0; }
-        /// Show: the learn lists.
+        /// Whether to show the learn lists.
         bool display_ll() const { return this->call_(lumo_tarn_dp_tt_table_display_ll_get_value) != 0; }
         /// Fdb memory of the table.
         lumo_ui_tarn::fdb_mem_info_view fdb_info() const {
@@ -5900,13 +5900,13 @@ struct dp_tt_table_type {
         std::uint32_t start_time() const { return this->call_(lumo_tarn_dp_tt_table_start_time_get_value); }
         /// End time.
         std::uint32_t end_time() const { return this->call_(lumo_tarn_dp_tt_table_end_time_get_value); }
-        /// Where the aggregation class list lies in the data plane.
+        /// Location of the aggregation class list in the data plane.
         std::uint64_t agg_tc_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_get_value); }
         /// Aggregation classes.
         lumo_ui_tarn::dp_tc_list_view agg_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_tt_table_agg_tc_list_get);
         }
-        /// Where the filter class list lies in the data plane.
+        /// Location of the filter class list in the data plane.
         std::uint64_t filter_tc_list_ptr() const {
             return this->call_(lumo_tarn_dp_tt_table_filter_tc_list_ptr_get_value);
         }
@@ -5914,7 +5914,7 @@ struct dp_tt_table_type {
         lumo_ui_tarn::dp_tc_list_view filter_tc_list() const {
             return this->template nested_<lumo_ui_tarn::dp_tc_list_type>(lumo_tarn_dp_tt_table_filter_tc_list_get);
         }
-        /// Where the learn list lies in the data plane.
+        /// Location of the learn list in the data plane.
         std::uint64_t learn_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_learn_list_ptr_get_value); }
         /// Learn list.
         lumo_ui_tarn::dp_learn_list_view learn_list() const {
@@ -6694,11 +6694,11 @@ struct dp_mp_tc_prefix_type {
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_lumo_num_get_value); }
         /// The entry's address on the client side.
         std::uint64_t cl_addr() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_cl_addr_get_value); }
-        /// Where the head of the class list lies in memory.
+        /// Location of the head of the class list in memory.
         lumo_ui_tarn::exmem_info_view tc_list_head() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_mp_tc_prefix_tc_list_head_get);
         }
-        /// Link of the list head to what follows it in the data plane.
+        /// Link of the list head to its successor in the data plane.
         std::uint64_t tc_list_head_next() const {
             return this->call_(lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_get_value);
         }
@@ -6968,7 +6968,7 @@ using dp_mp_tc_prefix_lumo_data = record<dp_mp_tc_prefix_lumo_data_type>;  ///< 
 using dp_mp_tc_prefix_lumo_data_ref = record_ref<dp_mp_tc_prefix_lumo_data_type>;  ///< borrows one
 using dp_mp_tc_prefix_lumo_data_view = record_view<dp_mp_tc_prefix_lumo_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_tc_prefix_data: prefixes with the traffic classes that hang on them.
+/// lumo_tarn_dp_mp_tc_prefix_data: prefixes with their traffic classes.
 struct dp_mp_tc_prefix_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_tc_prefix_data);
@@ -7101,7 +7101,7 @@ struct dp_mp_prefix_type {
         lumo_ui_tarn::address prefix() const { return this->read_address_(lumo_tarn_dp_mp_prefix_prefix_get); }
         /// Flags of the prefix, sixteen bits.
         std::uint16_t flags() const { return this->call_(lumo_tarn_dp_mp_prefix_flags_get_value); }
-        /// Where the prefix's class list lies in the data plane.
+        /// Location of the prefix's class list in the data plane.
         std::uint64_t tc_list_ptr() const { return this->call_(lumo_tarn_dp_mp_prefix_tc_list_ptr_get_value); }
 
         /// @cond states

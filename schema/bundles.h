@@ -1,4 +1,4 @@
-// The bundles; each admits one message of this module and has three control messages.
+// The bundles. Each admits one message of this module and has three control messages.
 #pragma once
 
 #include "schema/messages.h"

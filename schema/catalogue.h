@@ -1,4 +1,4 @@
-// The fixed orders of the whole schema: the type table, the catalogue and every generated thing follow them.
+// The fixed orders of the schema, which the type table, the catalogue and all generated files follow.
 #pragma once
 
 #include <array>
@@ -90,7 +90,7 @@ inline constexpr std::array bundles{
 
 inline constexpr std::string_view module_name = "lumo_ui_tarn";
 
-// The schema test names the record, the member and the rule when one of these fails.
+// If one of these fails, the schema test names the record, the member and the rule.
 static_assert(!lint_each(records) && !lint_identities(records));
 static_assert(!lint_each(enumerations) && !lint_identities(enumerations));
 static_assert(!lint_identities(messages));

@@ -1,4 +1,4 @@
-// The enumerations; an enumerator's number is its place in the list.
+// The enumerations. An enumerator's number is its index in the list.
 #pragma once
 
 #include "schema/model.h"
@@ -35,7 +35,6 @@ inline constexpr std::string_view lumo_tarn_mem_desc_e_enumerators[] = {
     "LUMO_TARN_FLOW_MEM",
 };
 inline constexpr Enumeration lumo_tarn_mem_desc_e{"lumo_tarn_mem_desc_e", "5320c65a0cbb7ceed2c4d8a56e5ea0ef",
-                                                  "what a block of memory is used for",
-                                                  lumo_tarn_mem_desc_e_enumerators};
+                                                  "kind of memory", lumo_tarn_mem_desc_e_enumerators};
 
 }  // namespace tarn::schema

@@ -1,8 +1,8 @@
-// The parts of the two frames, in the order of the wire. Numbers are big-endian.
+// The parts of the two frames, in wire order. Numbers are big-endian.
 //
 // A message frame is a header, an identity and, for a plain message, the frame of its record. A record frame is a head
-// and the members in table order. Encoders use the sizes and flag bits; whatever shows or explains frames is made from
-// the tables.
+// and the members in table order. Encoders use the sizes and flag bits; dissectors, dumps and documents are printed
+// from the tables.
 #pragma once
 
 #include "schema/model.h"
@@ -18,7 +18,7 @@ enum class Content : std::uint8_t {
     identity,
     parts,    // smaller parts
     record,   // the frame of a record
-    members,  // with state bytes in between, if the flags say so
+    members,  // interleaved with state bytes if the flags say so
 };
 
 struct Part {
@@ -29,8 +29,8 @@ struct Part {
     std::uint32_t size;  // bytes; varies for a record and members
     std::string_view meaning;
     std::uint8_t value = 0;            // of each byte of a constant
-    std::uint8_t flag = 0;             // bit of the record's flag without which the part is absent; 0: always there
-    std::span<const Part> parts = {};  // that it consists of
+    std::uint8_t flag = 0;             // the part is present only with this bit of the record's flag; 0: always
+    std::span<const Part> parts = {};  // of which it consists
 };
 
 constexpr std::uint32_t size_of(std::span<const Part> parts) {
@@ -54,7 +54,7 @@ inline constexpr Part message_frame[] = {
     {"marker", "marker", "marker", Content::constant, 1, "0xBC", frame_marker},
     {"fill", "fill", "fill", Content::constant, 6, "0xFF", frame_fill},
     {"sttr", "sttr", "u_int8", Content::number, 1, "1 if the sender tracks state, else 0"},
-    {"stamp", "stamp", "u_int32", Content::number, 4, "the sender's choice"},
+    {"stamp", "stamp", "u_int32", Content::number, 4, "chosen by the sender"},
     {"total_length", "total length", "u_int32", Content::number, 4, "bytes of the frame, from the marker to its end"},
     {"zero", "zero", "zero", Content::constant, 11, "0"},
     {"luid", "identity", "luid", Content::identity, 16, "which message it is"},
@@ -62,15 +62,14 @@ inline constexpr Part message_frame[] = {
 };
 inline constexpr std::uint32_t message_header_size = offset_of(message_frame, "luid");
 inline constexpr std::uint32_t luid_size = sizeof(Luid::bytes);
-inline constexpr std::uint32_t message_head_size =
-    offset_of(message_frame, "payload");  // a control message has no more
+inline constexpr std::uint32_t message_head_size = offset_of(message_frame, "payload");  // a control message ends here
 static_assert(message_head_size == message_header_size + luid_size);
 
 // ---- a record
 
 namespace wire_flag {
-inline constexpr std::uint8_t tracked = 8;   // state bytes are in between
-inline constexpr std::uint8_t ra_data = 32;  // RA data is in front of the jump
+inline constexpr std::uint8_t tracked = 8;   // each member is followed by its state byte
+inline constexpr std::uint8_t ra_data = 32;  // RA data precedes the jump
 }  // namespace wire_flag
 
 inline constexpr Part variant_part{
@@ -81,7 +80,7 @@ inline constexpr Part ra_data_parts[] = {
 };
 inline constexpr Part record_frame[] = {
     variant_part,
-    {"flag", "flag", "flag", Content::flags, 1, "8: state bytes are in between; 32: RA data follows; 40: both"},
+    {"flag", "flag", "flag", Content::flags, 1, "8: members have state bytes; 32: RA data follows; 40: both"},
     {"ra_data", "RA data", "", Content::parts, size_of(ra_data_parts), "a value of eight bytes and one byte, opaque", 0,
      wire_flag::ra_data, ra_data_parts},
     {"jump", "jump", "jump", Content::number, 4, "bytes from its own start to the end of the record"},
@@ -89,7 +88,7 @@ inline constexpr Part record_frame[] = {
 };
 inline constexpr std::uint32_t record_head_size = size_of(record_frame);  // without RA data
 
-// ---- members that are more than a number
+// ---- members that are not plain numbers
 
 inline constexpr Part boolean_frame[] = {variant_part,
                                          {"value", "value", "mirk_boolean", Content::number, 1, "0 or 1"}};
@@ -98,7 +97,7 @@ inline constexpr Part enumeration_frame[] = {variant_part,
 static_assert(size_of(boolean_frame) == facts(Kind::boolean).wire);
 static_assert(size_of(enumeration_frame) == facts(Kind::enumeration).wire);
 
-// An address is a record of seven integers, which has no identity of its own here.
+// An address is a record of seven integers. Its identity belongs to the runtime, so none is given here.
 inline constexpr Member address_members[] = {u8("af", ""),       u8("prefix_len", ""), u16("scope", ""),
                                              u32("word[0]", ""), u32("word[1]", ""),   u32("word[2]", ""),
                                              u32("word[3]", "")};

@@ -1,5 +1,5 @@
-// The kinds of members, and everything that is known of a kind apart from code: one row each. Layouts, wire sizes,
-// writers of headers and tables, and the tool read these rows, so that a new kind is described here once.
+// The kinds of members: one row for each kind with everything about it that is not code. Layouts, wire sizes, writers
+// of headers and tables, and the tool read these rows, so that a new kind is described once.
 #pragma once
 
 #include <array>
@@ -10,11 +10,10 @@ namespace tarn::schema {
 
 enum class Kind : std::uint8_t { u8, u16, u32, u64, boolean, address, enumeration, record, string, array };
 
-// What members of a kind have in common with those of others: code distinguishes categories, and a kind within a
-// category differs from its neighbors only by its row.
+// Code distinguishes categories; kinds of one category differ only by their rows.
 enum class Category : std::uint8_t { integer, boolean, address, enumeration, record, string, array };
 
-inline constexpr std::uint32_t varies = 0;  // depends on the member's record, or on what is in the instance
+inline constexpr std::uint32_t varies = 0;  // depends on the member's record or on the content of the instance
 
 inline constexpr std::uint32_t boolean_size = 16;
 inline constexpr std::uint32_t enumeration_size = 16;
@@ -25,14 +24,14 @@ struct KindFacts {
     Kind kind;
     Category category;
     const char *name;                // in printed tables
-    const char *value_type = "";     // in C, of a value that fits in a register; otherwise empty
-    const char *primitive = "";      // what the runtime's functions of the kind begin with; empty if it has none
+    const char *value_type = "";     // C type of a value that fits in a register; otherwise empty
+    const char *primitive = "";      // prefix of the runtime's functions of the kind; empty if there are none
     std::uint32_t storage = varies;  // bytes in an instance
     std::uint32_t alignment = 8;     // in an instance
     std::uint32_t wire = varies;     // bytes in a frame, without state
     std::uint32_t own_states = 0;    // state bytes inside the member's own area, apart from a record's
     std::uint64_t greatest = 0;      // value of an integer
-    const char *in_frame;            // what the bytes in a frame are, in words
+    const char *in_frame;            // description of the bytes in a frame
 };
 
 template <class Integer>
@@ -83,16 +82,16 @@ inline constexpr KindFacts kind_facts[] = {
      .name = "string",
      .primitive = "var_string",
      .storage = pointer_size,
-     .in_frame = "characters, as many as the length in front says"},
+     .in_frame = "characters, as many as the preceding length says"},
     {.kind = Kind::array,
      .category = Category::array,
      .name = "array",
      .storage = pointer_size,
-     .in_frame = "the records one behind the other, as many as the count in front says"},
+     .in_frame = "the records one after another, as many as the preceding count says"},
 };
 
-// A kind without a row cannot be a member's: the layout of its record is computed while compiling, where reading past
-// the end is an error.
+// A kind without a row cannot be used: the layout of its record is computed at compile time, where reading past the end
+// is an error.
 constexpr const KindFacts &facts(Kind kind) { return kind_facts[static_cast<std::size_t>(kind)]; }
 
 consteval bool rows_are_in_order() {

@@ -1,5 +1,5 @@
-// What a table must satisfy before anything is computed from it. The catalogue refuses to compile with a table that has
-// a finding; the same function, run by a test, says what is wrong in a sentence.
+// The rules that a table must satisfy before anything is computed from it. The catalogue does not compile if a table
+// has a finding. A test runs the same functions to report the finding in a sentence.
 #pragma once
 
 #include <type_traits>
@@ -9,7 +9,7 @@
 namespace tarn::schema {
 
 struct Finding {
-    std::string_view record, member, sentence;  // an empty sentence: nothing was found
+    std::string_view record, member, sentence;  // an empty sentence: no finding
     constexpr explicit operator bool() const { return !sentence.empty(); }
 };
 
@@ -32,7 +32,7 @@ constexpr Finding lint(const Record &record) {
     if (!is_name(record.name))
         return {record.name, {}, "a record's name is lower-case letters, digits and underscores"};
     if (record.name.size() > 63) return {record.name, {}, "a record's name has at most 63 characters"};
-    if (record.meaning.empty()) return {record.name, {}, "a record says in a phrase what it means"};
+    if (record.meaning.empty()) return {record.name, {}, "a record has a meaning"};
     if (record.members.empty()) return {record.name, {}, "a record has at least one member"};
     if (record.members.size() > most_members) return {record.name, {}, "a record has at most 64 members"};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
@@ -40,14 +40,14 @@ constexpr Finding lint(const Record &record) {
         const auto follows = [&](Kind kind) {
             return i + 1 < record.members.size() && record.members[i + 1].kind == kind;
         };
-        const auto has_in_front = [&](Role role) { return i > 0 && record.members[i - 1].role == role; };
+        const auto is_preceded_by = [&](Role role) { return i > 0 && record.members[i - 1].role == role; };
         if (!is_name(m.name)) return found(m, "a member's name is lower-case letters, digits and underscores");
-        if (m.meaning.empty()) return found(m, "a member says in a phrase what it means");
+        if (m.meaning.empty()) return found(m, "a member has a meaning");
         for (std::size_t j = 0; j < i; ++j) {
             if (record.members[j].name == m.name) return found(m, "two members of one record have the same name");
         }
-        // g++ does not take the question for a constant when it looks for null pointers at run time. The builders leave
-        // no way to forget the type, and a layout without it does not compile.
+        // With checks for null pointers, g++ does not accept this comparison in a constant expression. The builders do
+        // not allow a member without its type, and a layout of one does not compile.
         if (!std::is_constant_evaluated()) {
             if ((m.kind == Kind::record || m.kind == Kind::array) != (m.record != nullptr)) {
                 return found(m, "a nested record or an array, and nothing else, names a record");
@@ -57,23 +57,23 @@ constexpr Finding lint(const Record &record) {
             }
         }
         if (m.role == Role::count && !follows(Kind::array)) {
-            return found(m, "a count stands right in front of its array");
+            return found(m, "a count directly precedes its array");
         }
         if (m.role == Role::count && m.kind != Kind::u8 && m.kind != Kind::u32) {
             return found(m, "a count has one or four bytes");
         }
         if (m.role == Role::length && !follows(Kind::string)) {
-            return found(m, "a length stands right in front of its string");
+            return found(m, "a length directly precedes its string");
         }
         if (m.role == Role::length && m.kind != Kind::u16) return found(m, "a length has two bytes");
         if (m.role == Role::length && !is_length_name(m.name, record.members[i + 1].name)) {
-            return found(m, "a length is named as its string with _len behind it");
+            return found(m, "a length has the name of its string and _len");
         }
-        if (m.kind == Kind::array && !has_in_front(Role::count)) {
-            return found(m, "an array stands right behind its count");
+        if (m.kind == Kind::array && !is_preceded_by(Role::count)) {
+            return found(m, "an array directly follows its count");
         }
-        if (m.kind == Kind::string && !has_in_front(Role::length)) {
-            return found(m, "a string stands right behind its length");
+        if (m.kind == Kind::string && !is_preceded_by(Role::length)) {
+            return found(m, "a string directly follows its length");
         }
     }
     return {};
@@ -83,7 +83,7 @@ constexpr Finding lint(const Enumeration &enumeration) {
     if (!is_name(enumeration.name)) {
         return {enumeration.name, {}, "an enumeration's name is lower-case letters, digits and underscores"};
     }
-    if (enumeration.meaning.empty()) return {enumeration.name, {}, "an enumeration says in a phrase what it means"};
+    if (enumeration.meaning.empty()) return {enumeration.name, {}, "an enumeration has a meaning"};
     if (enumeration.enumerators.empty()) return {enumeration.name, {}, "an enumeration has at least one enumerator"};
     for (std::size_t i = 0; i < enumeration.enumerators.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) {
@@ -95,7 +95,7 @@ constexpr Finding lint(const Enumeration &enumeration) {
     return {};
 }
 
-// Over a list of types that have a name and an identity: both are unique.
+// Names and identities of all types in the list are unique.
 template <class List>
 constexpr Finding lint_identities(const List &list) {
     for (std::size_t i = 0; i < list.size(); ++i) {

@@ -1,5 +1,8 @@
-// What a schema is made of. Everything else - layouts, exports, headers, families, tests - is computed
-// from values of these types, so this page is the architecture.
+// The types that a schema is made of: records, members, enumerations, messages, bundles.
+//
+// schema/ holds the tables of the one schema, and what can be computed from them alone: layouts, frames, wire sizes,
+// lint. It may include nothing but the standard library: not the runtime's contract, the core or the families. Library,
+// tools, bindings, documents and tests are computed or printed from its tables.
 #pragma once
 
 #include <array>
@@ -10,10 +13,10 @@
 
 namespace tarn::schema {
 
-// An integer is a value of its own, or it counts the array or the string that stands right behind it.
+// An integer is a plain value, or it is the count or length of the array or string that follows it.
 enum class Role : std::uint8_t { value, count, length };
 
-// Not defined: calling it while compiling stops the compiler with its name.
+// Not defined: calling it in a constant expression is an error whose message contains this name.
 void an_identity_is_32_lower_case_hexadecimal_digits();
 
 // A 128-bit identity, written as 32 lower-case hexadecimal digits.
@@ -70,7 +73,7 @@ struct Bundle {
     Luid start, abort, commit;
 };
 
-// One builder for each thing that a member can be, so that a table reads from left to right.
+// Builders, one for each sort of member, so that a table reads from left to right.
 consteval Member u8(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u8}; }
 consteval Member u16(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u16}; }
 consteval Member u32(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u32}; }
@@ -97,7 +100,7 @@ consteval Member length(std::string_view name, std::string_view meaning) {
 }
 consteval Member string(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::string}; }
 
-// Has the six accessors, with a value that fits in a register.
+// Has the six accessors of a value that fits in a register.
 constexpr bool is_scalar(const Member &m) { return m.role == Role::value && *facts(m.kind).value_type != '\0'; }
 
 // Embedded with a state area of its own.
@@ -105,13 +108,13 @@ constexpr bool has_area(const Member &m) { return m.kind == Kind::record || fact
 
 constexpr bool owns_block(const Member &m) { return m.kind == Kind::array || m.kind == Kind::string; }
 
-// Embedded with a header of its own, to be initialized with its owner.
+// Embedded with a header of its own, which is initialized with its owner.
 constexpr bool is_embedded(const Member &m) { return !is_integer(m.kind) && !owns_block(m); }
 
 // Has a state byte; counts and lengths have none.
 constexpr bool is_tracked(const Member &m) { return m.role == Role::value; }
 
-// All instances have one size on the wire: integers only, at any depth.
+// True if all instances have the same size on the wire: integers only, at any depth.
 constexpr bool has_fixed_wire_size(const Record &record) {
     for (const Member &m : record.members) {
         if (m.kind == Kind::record ? !has_fixed_wire_size(*m.record) : !is_integer(m.kind)) return false;

@@ -9,7 +9,7 @@ namespace tarn::schema {
 
 struct WireSize {
     std::uint32_t least = 0;
-    bool open = false;  // elements or characters come on top
+    bool open = false;  // elements or characters add to it
 };
 
 constexpr WireSize wire_size(const Record &record);
@@ -30,7 +30,7 @@ constexpr WireSize wire_size(const Record &record) {
 }
 static_assert(wire_size(address_record).least == facts(Kind::address).wire);
 
-// "14", or "14+" if that is the least.
+// "14", or "14+" if 14 is the minimum.
 template <class Type>
 std::string wire_text(const Type &type) {
     const WireSize size = wire_size(type);

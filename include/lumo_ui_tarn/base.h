@@ -1,5 +1,5 @@
 /** @file
- * base.h - what every header of the library begins with. */
+ * base.h - included by every header of the library: export macro, C linkage, flags of objects. */
 #ifndef LUMO_UI_TARN_BASE_H
 #define LUMO_UI_TARN_BASE_H
 
@@ -15,23 +15,23 @@
 #ifdef __cplusplus
 /** Opens a block of names with C linkage. */
 #define LUMO_UI_TARN_BEGIN extern "C" {
-/** Closes it. */
+/** Closes the block. */
 #define LUMO_UI_TARN_END }
 #else
 /** Opens a block of names with C linkage. */
 #define LUMO_UI_TARN_BEGIN
-/** Closes it. */
+/** Closes the block. */
 #define LUMO_UI_TARN_END
 #endif
 
 /** @name Bits of an object's obj_flag
  *  @{ */
-#define MIRK_OBJ_OID_MAPPED 1    /**< others refer to the object by its identifier */
+#define MIRK_OBJ_OID_MAPPED 1    /**< other objects refer to it by its identifier */
 #define MIRK_OBJ_EMBEDDED 2      /**< lies in memory of another object */
-#define MIRK_OBJ_NESTED 4        /**< was initialised as part of another object, which has its state */
+#define MIRK_OBJ_NESTED 4        /**< initialized as part of another object, which holds its state */
 #define MIRK_OBJ_STATE_TRACKED 8 /**< has state bytes */
 #define MIRK_OBJ_RA_DATA 32      /**< the runtime keeps RA data for the object */
-#define MIRK_OBJ_STTR_OFFSET 64  /**< the runtime knows where the state lies; else it lies behind the object */
+#define MIRK_OBJ_STTR_OFFSET 64  /**< the runtime has the location of the state; otherwise it follows the object */
 /** @} */
 
 #endif

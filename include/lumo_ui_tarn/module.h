@@ -1,6 +1,6 @@
 /* Generated from the schema; edit the tables there and run tools/regenerate. */
 /** @file
- * module.h - the module as a whole: types, trace, registration. */
+ * module.h - operations of the whole module: types, trace, registration. */
 #ifndef LUMO_UI_TARN_MODULE_H
 #define LUMO_UI_TARN_MODULE_H
 
@@ -8,13 +8,13 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** Trace module number of the module's type code; 0 until it is registered. */
+/** Trace module number of the module's type code; 0 until mirk_lumo_ui_tarn_type_trace_init() registers it. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_type_trace_module_id;
-/** Trace module number of the module's message code; 0 until it is registered. */
+/** Trace module number of the module's message code; 0 until mirk_lumo_ui_tarn_message_trace_init() registers it. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_message_trace_module_id;
-/** Trace module number of the module's queue code; 0 until it is registered. */
+/** Trace module number of the module's queue code; never registered, so always 0. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_queue_trace_module_id;
-/** Trace module number of the module's stub code; 0 until it is registered. */
+/** Trace module number of the module's stub code; never registered, so always 0. */
 extern LUMO_UI_TARN_API uint16_t g_mirk_lumo_ui_tarn_stub_trace_module_id;
 /** The handler that is registered for all bundles of the module, or NULL. Not synchronized. */
 extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_registered_handler;
@@ -22,9 +22,10 @@ extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_registered_handl
 /** @name Types
  *  @{ */
 /** Creates the private copies of type records that are missing in the handle's type store. Call it before the first use
- * of a handle with private types. ENOMEM if allocation fails. */
+ * of a handle with private types. ENOMEM if allocation fails. err is not read. */
 LUMO_UI_TARN_API void lumo_ui_tarn_typeinfo_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
-/** Prints the variants of each type with the size and the slop of an instance. */
+/** Prints the number of variants of each type and, for each variant, the used length and the slop of an instance in
+ * bytes. */
 LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump(mirk_print_fn print);
 /** @} */
 

@@ -7,8 +7,8 @@
 namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_dp_appl_sig_members[] = {
-    one("exmem_info", lumo_tarn_exmem_info, "where the signature lies in memory"),
-    u32("dp_hash_bucket", "bucket of the data plane's hash in which the signature lies"),
+    one("exmem_info", lumo_tarn_exmem_info, "location of the signature in memory"),
+    u32("dp_hash_bucket", "bucket of the signature in the data plane's hash"),
     u32("pal_id", "identifier of the signature in the adaptation layer"),
     length("appl_name_len", "length of appl_name in bytes"),
     string("appl_name", "name of the application"),
@@ -26,9 +26,9 @@ inline constexpr Record lumo_tarn_dp_appl_sig{"lumo_tarn_dp_appl_sig", "aaa0672e
                                               "one signature", lumo_tarn_dp_appl_sig_members};
 
 inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
-    boolean("show_header", "show: print the header"),
+    boolean("show_header", "whether to show the header"),
     u8("lumo_num", "number of the lumo processor"),
-    one("hash_exmem_info", lumo_tarn_exmem_info, "block of the processor's signature hash"),
+    one("hash_exmem_info", lumo_tarn_exmem_info, "memory block of the processor's signature hash"),
     count32("num_sigs", "elements in sig_list"),
     many("sig_list", lumo_tarn_dp_appl_sig, "signatures"),
 };
@@ -36,7 +36,7 @@ inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b
                                               "signatures of one processor", lumo_tarn_dp_appl_cfg_members};
 
 inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
-    boolean("show_header", "show: print the header"),
+    boolean("show_header", "whether to show the header"),
     count8("num_lumos", "elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_appl_cfg, "one element for each processor"),
 };

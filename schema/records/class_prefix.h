@@ -1,4 +1,4 @@
-// Traffic classes that hang on a prefix, by prefix and processor.
+// Traffic classes of prefixes, by prefix and processor.
 #pragma once
 
 #include "schema/model.h"
@@ -10,8 +10,8 @@ namespace tarn::schema {
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_members[] = {
     u8("lumo_num", "number of the lumo processor that this entry describes"),
     u64("cl_addr", "the entry's address on the client side"),
-    one("tc_list_head", lumo_tarn_exmem_info, "where the head of the class list lies in memory"),
-    u64("tc_list_head_next", "link of the list head to what follows it in the data plane"),
+    one("tc_list_head", lumo_tarn_exmem_info, "location of the head of the class list in memory"),
+    u64("tc_list_head_next", "link of the list head to its successor in the data plane"),
     one("tc_list", lumo_tarn_dp_tc_list, "traffic classes"),
     boolean("show_pfx_comm", "selection flag of the show request"),
 };
@@ -35,7 +35,7 @@ inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
     many("prefix_data", lumo_tarn_dp_mp_tc_prefix_lumo_data, "prefixes"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix_data{
-    "lumo_tarn_dp_mp_tc_prefix_data", "4b537616bd52ae9760915de7a444c97a",
-    "prefixes with the traffic classes that hang on them", lumo_tarn_dp_mp_tc_prefix_data_members};
+    "lumo_tarn_dp_mp_tc_prefix_data", "4b537616bd52ae9760915de7a444c97a", "prefixes with their traffic classes",
+    lumo_tarn_dp_mp_tc_prefix_data_members};
 
 }  // namespace tarn::schema

@@ -17,7 +17,7 @@ inline constexpr Record lumo_tarn_cl_kesh_appl{"lumo_tarn_cl_kesh_appl", "6be606
                                                "one application", lumo_tarn_cl_kesh_appl_members};
 
 inline constexpr Member lumo_tarn_cl_appl_data_members[] = {
-    boolean("show_header", "show: print the header"),
+    boolean("show_header", "whether to show the header"),
     count32("num_kesh_appls", "elements in kesh_appl"),
     many("kesh_appl", lumo_tarn_cl_kesh_appl, "applications"),
 };

@@ -30,11 +30,11 @@ inline constexpr Record lumo_tarn_debug_setting{"lumo_tarn_debug_setting", "c5b1
                                                 "four debug levels of one component", lumo_tarn_debug_setting_members};
 
 inline constexpr Member lumo_tarn_dp_debug_setting_data_members[] = {
-    count8("num_lumos", "number of entries in lumo_data"),
-    many("lumo_data", lumo_tarn_dp_debug_setting, "one entry for each processor"),
+    count8("num_lumos", "elements in lumo_data"),
+    many("lumo_data", lumo_tarn_dp_debug_setting, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_debug_setting_data{
-    "lumo_tarn_dp_debug_setting_data", "7d38b0fd6ac289bba5994bd78204d896", "switches of all processors",
+    "lumo_tarn_dp_debug_setting_data", "7d38b0fd6ac289bba5994bd78204d896", "debug switches of all processors",
     lumo_tarn_dp_debug_setting_data_members};
 
 }  // namespace tarn::schema

@@ -1,4 +1,4 @@
-// Learn lists of a traffic table.
+// Definitions of the learn lists of a traffic table.
 #pragma once
 
 #include "schema/model.h"
@@ -8,39 +8,40 @@
 namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_dp_ll_spec_members[] = {
-    boolean("display_all", "show: everything"),
-    boolean("display_tc", "show: the traffic classes"),
-    boolean("display_appl", "show: the applications"),
-    one("exmem_info", lumo_tarn_exmem_info, "where the entry lies in memory"),
-    u32("id", "identifier of the entry"),
+    boolean("display_all", "whether to show everything"),
+    boolean("display_tc", "whether to show the traffic classes"),
+    boolean("display_appl", "whether to show the applications"),
+    one("exmem_info", lumo_tarn_exmem_info, "location of the definition in memory"),
+    u32("id", "identifier of the definition"),
     u8("min_mask", "minimum mask length"),
     u8("agg_type", "aggregation type"),
     u8("learn_type", "learn type"),
     u8("ll_type", "learn list type"),
     u32("num_prefixes", "number of prefixes"),
-    u64("filter_tc_list_ptr", "where the filter list lies in the data plane"),
+    u64("filter_tc_list_ptr", "location of the filter list in the data plane"),
     one("filter_tc_list", lumo_tarn_dp_tc_list, "filter traffic classes"),
-    u64("acl_tc_list_ptr", "where the access-list classes lie in the data plane"),
+    u64("acl_tc_list_ptr", "location of the access-list classes in the data plane"),
     one("acl_tc_list", lumo_tarn_dp_tc_list, "access-list traffic classes"),
-    u64("appl_list_ptr", "where the application list lies in the data plane"),
+    u64("appl_list_ptr", "location of the application list in the data plane"),
     one("appl_list", lumo_tarn_dp_appl_list, "applications"),
-    u64("next_ptr", "link to the next entry"),
+    u64("next_ptr", "link to the next definition"),
     u64("head_ptr", "head of the entries that num_entries counts"),
-    u32("num_entries", "number of entries behind head_ptr"),
-    u32("heap_max_elements", "capacity of the entry's heap"),
+    u32("num_entries", "number of entries that start at head_ptr"),
+    u32("heap_max_elements", "capacity of the definition's heap"),
     u32("heap_size", "current size of the heap"),
     u64("heap_compare_func", "value of the heap's comparison routine as a 64-bit number"),
-    u64("heap_elements_ptr", "where the heap's elements lie"),
+    u64("heap_elements_ptr", "location of the heap's elements"),
     boolean("show_ll_comm", "selection flag of the show command"),
 };
 inline constexpr Record lumo_tarn_dp_ll_spec{"lumo_tarn_dp_ll_spec", "1a46d1ad245ecd8ddb03940c9e78474e",
-                                             "one learn list entry", lumo_tarn_dp_ll_spec_members};
+                                             "definition of one learn list", lumo_tarn_dp_ll_spec_members};
 
 inline constexpr Member lumo_tarn_dp_learn_list_members[] = {
     count32("num_ll_specs", "elements in ll_spec_list"),
-    many("ll_spec_list", lumo_tarn_dp_ll_spec, "learn list entries"),
+    many("ll_spec_list", lumo_tarn_dp_ll_spec, "learn list definitions"),
 };
 inline constexpr Record lumo_tarn_dp_learn_list{"lumo_tarn_dp_learn_list", "42d51729efe0ba6f65a2b03426858912",
-                                                "entries of one traffic table", lumo_tarn_dp_learn_list_members};
+                                                "learn list definitions of one traffic table",
+                                                lumo_tarn_dp_learn_list_members};
 
 }  // namespace tarn::schema

@@ -7,13 +7,13 @@
 namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_exmem_info_members[] = {
-    u64("cl_addr", "block's address on the client side"),
-    u64("exmem_addr", "block's address in external memory"),
-    u64("ppe_addr", "block's address as the ppe side uses it"),
+    u64("cl_addr", "address of the block on the client side"),
+    u64("exmem_addr", "address of the block in external memory"),
+    u64("ppe_addr", "address of the block as the ppe side uses it"),
     u32("size", "size of the block"),
 };
 inline constexpr Record lumo_tarn_exmem_info{"lumo_tarn_exmem_info", "60d55c75e70c45de4e19a835975182eb",
-                                             "one block of external memory, under its three addresses, with its size",
+                                             "one block of external memory: its three addresses and its size",
                                              lumo_tarn_exmem_info_members};
 
 inline constexpr Member lumo_tarn_fdb_base_members[] = {
@@ -36,26 +36,26 @@ inline constexpr Member lumo_tarn_exmem_info_wrapper_members[] = {
     one("exmem", lumo_tarn_exmem_info, "wrapped block description"),
 };
 inline constexpr Record lumo_tarn_exmem_info_wrapper{"lumo_tarn_exmem_info_wrapper", "1ac4a09d31cce88dcc15cc105062ccf8",
-                                                     "one block of a list of blocks that grows",
+                                                     "one block of a growing list of blocks",
                                                      lumo_tarn_exmem_info_wrapper_members};
 
 inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
-    enumerated("mem_type", lumo_tarn_mem_desc_e, "what the block is used for"),
+    enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
     u32("num_hash_elements", "number of hash elements in the block"),
-    one("exmem", lumo_tarn_exmem_info, "block itself"),
+    one("exmem", lumo_tarn_exmem_info, "the block itself"),
 };
 inline constexpr Record lumo_tarn_static_exmem_info{
     "lumo_tarn_static_exmem_info", "2557d9fc36ed08f926459963e2b84549",
-    "block that a processor holds for the whole of its life, by kind of memory", lumo_tarn_static_exmem_info_members};
+    "memory block that a processor holds permanently, with its kind of memory", lumo_tarn_static_exmem_info_members};
 
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
-    enumerated("mem_type", lumo_tarn_mem_desc_e, "what the blocks are used for"),
-    u64("list_header_ptr", "the list header of the dynamic blocks"),
+    enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
+    u64("list_header_ptr", "list header of the dynamic blocks"),
     count32("num_exmems", "elements in exmem"),
     many("exmem", lumo_tarn_exmem_info_wrapper, "dynamic blocks"),
 };
-inline constexpr Record lumo_tarn_dyn_exmem_info{"lumo_tarn_dyn_exmem_info", "21946a632bd59ef767c684b5ebddc290",
-                                                 "blocks that a processor adds while it runs, by kind of memory",
-                                                 lumo_tarn_dyn_exmem_info_members};
+inline constexpr Record lumo_tarn_dyn_exmem_info{
+    "lumo_tarn_dyn_exmem_info", "21946a632bd59ef767c684b5ebddc290",
+    "memory blocks that a processor adds at run time, with their kind of memory", lumo_tarn_dyn_exmem_info_members};
 
 }  // namespace tarn::schema

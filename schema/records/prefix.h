@@ -9,7 +9,7 @@ inline constexpr Member lumo_tarn_dp_mp_prefix_members[] = {
     u8("complex_num", "number of the complex that this entry describes"),
     address("prefix", "prefix as the complex holds it"),
     u16("flags", "flags of the prefix, sixteen bits"),
-    u64("tc_list_ptr", "where the prefix's class list lies in the data plane"),
+    u64("tc_list_ptr", "location of the prefix's class list in the data plane"),
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix{"lumo_tarn_dp_mp_prefix", "877f4706728a7ef61240d5ada90d521a",
                                                "one prefix as one complex holds it", lumo_tarn_dp_mp_prefix_members};

@@ -7,7 +7,7 @@
 namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_dp_appl_members[] = {
-    one("exmem_info", lumo_tarn_exmem_info, "where the entry lies in memory"),
+    one("exmem_info", lumo_tarn_exmem_info, "location of the entry in memory"),
     u8("type", "type of the application entry"),
     u16("id", "identifier of the application entry"),
     u16("tarn_kesh_id", "tarn feature's identifier of the kesh application"),
@@ -17,7 +17,7 @@ inline constexpr Record lumo_tarn_dp_appl{"lumo_tarn_dp_appl", "79672243f138925a
                                           "one application entry in the data plane", lumo_tarn_dp_appl_members};
 
 inline constexpr Member lumo_tarn_dp_tc_members[] = {
-    one("exmem_info", lumo_tarn_exmem_info, "where the traffic class lies in memory"),
+    one("exmem_info", lumo_tarn_exmem_info, "location of the traffic class in memory"),
     address("src_prefix", "source prefix of the class"),
     address("dst_prefix", "destination prefix of the class"),
     u8("proto", "protocol number to match"),
@@ -31,7 +31,7 @@ inline constexpr Member lumo_tarn_dp_tc_members[] = {
     u16("src_port_opr", "operator applied to the source port range"),
     u16("dst_port_opr", "operator applied to the destination port range"),
     u64("next_ptr", "link to the next class in the data plane"),
-    u64("appl_data_ptr", "where the application data lies in the data plane"),
+    u64("appl_data_ptr", "location of the application data in the data plane"),
     one("appl", lumo_tarn_dp_appl, "class's application entry"),
     u32("id", "identifier of the class"),
 };

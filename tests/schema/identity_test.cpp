@@ -1,4 +1,4 @@
-// Names, identities and orders of the schema against the reference's own tables.
+// Names, identities and orders of the schema, compared with the reference's own tables.
 #include <gtest/gtest.h>
 
 #include <algorithm>

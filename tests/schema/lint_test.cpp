@@ -1,4 +1,4 @@
-// Tables that are wrong in one place each, and the sentence that says so.
+// Tables with one error each, and the sentence that reports it.
 #include "schema/lint.h"
 
 #include <gtest/gtest.h>
@@ -67,10 +67,10 @@ TEST(Lint, NamesOfRecords) {
 
 TEST(Lint, MeaningsOfRecordsAndEnumerations) {
     const schema::Finding record = lint(schema::Record{"r", some_luid, "", plain_members});
-    EXPECT_EQ(record.sentence, "a record says in a phrase what it means");
+    EXPECT_EQ(record.sentence, "a record has a meaning");
     EXPECT_EQ(record.record, "r");
     const schema::Finding enumeration = lint(schema::Enumeration{"e", some_luid, "", one_name});
-    EXPECT_EQ(enumeration.sentence, "an enumeration says in a phrase what it means");
+    EXPECT_EQ(enumeration.sentence, "an enumeration has a meaning");
     EXPECT_EQ(enumeration.record, "e");
 }
 
@@ -89,8 +89,7 @@ TEST(Lint, NamesAndMeaningsOfMembers) {
     EXPECT_FINDING(lint_of({schema::u8("Size", "x")}), "Size",
                    "a member's name is lower-case letters, digits and underscores");
     EXPECT_FINDING(lint_of({schema::u8("", "x")}), "", "a member's name is lower-case letters, digits and underscores");
-    EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "")}), "b",
-                   "a member says in a phrase what it means");
+    EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "")}), "b", "a member has a meaning");
     EXPECT_FINDING(lint_of({schema::u8("a", "x"), schema::u8("b", "x"), schema::u16("a", "x")}), "a",
                    "two members of one record have the same name");
 }
@@ -100,20 +99,20 @@ TEST(Lint, WhatAMemberRefersTo) {
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::record}}), "a", record_rule);
     EXPECT_FINDING(lint_of({schema::count8("n", "x"), Member{"a", "x", Kind::array}}), "a", record_rule);
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::u32, Role::value, &some_record}}), "a", record_rule);
-    const std::string_view enumerated_rule = "an enumerated member, and no other, names an enumeration";
-    EXPECT_FINDING(lint_of({Member{"a", "x", Kind::enumeration}}), "a", enumerated_rule);
+    const std::string_view enumeration_rule = "an enumerated member, and no other, names an enumeration";
+    EXPECT_FINDING(lint_of({Member{"a", "x", Kind::enumeration}}), "a", enumeration_rule);
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::boolean, Role::value, nullptr, &some_enumeration}}), "a",
-                   enumerated_rule);
+                   enumeration_rule);
 }
 
 TEST(Lint, CountsAndArrays) {
-    const std::string_view place = "a count stands right in front of its array";
-    EXPECT_FINDING(lint_of({schema::count8("n", "x")}), "n", place);
+    const std::string_view order = "a count directly precedes its array";
+    EXPECT_FINDING(lint_of({schema::count8("n", "x")}), "n", order);
     EXPECT_FINDING(lint_of({schema::count8("n", "x"), schema::u8("a", "x"), schema::many("b", some_record, "x")}), "n",
-                   place);
-    EXPECT_FINDING(lint_of({schema::many("a", some_record, "x")}), "a", "an array stands right behind its count");
+                   order);
+    EXPECT_FINDING(lint_of({schema::many("a", some_record, "x")}), "a", "an array directly follows its count");
     EXPECT_FINDING(lint_of({schema::u8("n", "x"), schema::many("a", some_record, "x")}), "a",
-                   "an array stands right behind its count");
+                   "an array directly follows its count");
     for (const Kind kind : {Kind::u16, Kind::u64, Kind::boolean}) {
         EXPECT_FINDING(lint_of({Member{"n", "x", kind, Role::count}, schema::many("a", some_record, "x")}), "n",
                        "a count has one or four bytes");
@@ -121,16 +120,16 @@ TEST(Lint, CountsAndArrays) {
 }
 
 TEST(Lint, LengthsAndStrings) {
-    const std::string_view place = "a length stands right in front of its string";
-    EXPECT_FINDING(lint_of({schema::length("a_len", "x")}), "a_len", place);
-    EXPECT_FINDING(lint_of({schema::length("a_len", "x"), schema::u8("b", "x")}), "a_len", place);
-    EXPECT_FINDING(lint_of({schema::string("a", "x")}), "a", "a string stands right behind its length");
+    const std::string_view order = "a length directly precedes its string";
+    EXPECT_FINDING(lint_of({schema::length("a_len", "x")}), "a_len", order);
+    EXPECT_FINDING(lint_of({schema::length("a_len", "x"), schema::u8("b", "x")}), "a_len", order);
+    EXPECT_FINDING(lint_of({schema::string("a", "x")}), "a", "a string directly follows its length");
     EXPECT_FINDING(lint_of({schema::u16("a_len", "x"), schema::string("a", "x")}), "a",
-                   "a string stands right behind its length");
+                   "a string directly follows its length");
     EXPECT_FINDING(lint_of({Member{"a_len", "x", Kind::u32, Role::length}, schema::string("a", "x")}), "a_len",
                    "a length has two bytes");
     EXPECT_FINDING(lint_of({schema::length("a_length", "x"), schema::string("a", "x")}), "a_length",
-                   "a length is named as its string with _len behind it");
+                   "a length has the name of its string and _len");
 }
 
 TEST(Lint, Enumerations) {
@@ -156,7 +155,7 @@ TEST(Lint, NamesAndIdentitiesAreUnique) {
     EXPECT_EQ(finding.record, "c");
 }
 
-TEST(Lint, OfAListStopsAtTheFirstFinding) {
+TEST(Lint, ListStopsAtTheFirstFinding) {
     static constexpr Member wrong_members[] = {schema::u8("Wrong", "x")};
     const schema::Record wrong{"wrong", some_luid, "x", wrong_members};
     EXPECT_FALSE(schema::lint_each(std::array{&some_record}));

@@ -1,10 +1,10 @@
-# Compiles the catalogue with one of its headers wrong in one place and expects the compiler to refuse it, by name of the
-# rule. The same compilation with the header as it stands must succeed, or the refusal would prove nothing.
+# Compiles the catalogue with an error in one of its headers and expects the compiler to refuse it and name the rule. The
+# unchanged header must compile, or the refusal would prove nothing.
 #   cmake -DCOMPILER= -DROOT= -DWORK= -DHEADER= -DRIGHT= -DWRONG= -DRULE= -P refusal.cmake
 file(READ ${ROOT}/${HEADER} right)
 string(REPLACE "${RIGHT}" "${WRONG}" wrong "${right}")
 if(wrong STREQUAL right)
-  message(FATAL_ERROR "${HEADER} does not say \"${RIGHT}\" any more; choose another place to be wrong in")
+  message(FATAL_ERROR "${HEADER} no longer contains \"${RIGHT}\"; choose another error")
 endif()
 file(WRITE ${WORK}/catalogue.cpp "#include \"schema/catalogue.h\"\n")
 
@@ -25,5 +25,5 @@ if(code EQUAL 0)
   message(FATAL_ERROR "the wrong table compiled")
 endif()
 if(NOT output MATCHES "${RULE}")
-  message(FATAL_ERROR "the compiler's refusal does not name ${RULE}:\n${output}")
+  message(FATAL_ERROR "the compiler's message does not name ${RULE}:\n${output}")
 endif()

@@ -23,7 +23,7 @@ std::string listed_values(const Record &record, bool out) {
     return list;
 }
 
-// Splits "uint32_t indent, const char *name" at its commas, and each piece before its name.
+// Splits "uint32_t indent, const char *name" at commas, and each piece into type and name.
 std::vector<Parameter> parse_parameters(std::string_view text) {
     std::vector<Parameter> parameters;
     while (!text.empty()) {
@@ -75,10 +75,14 @@ std::string text_of_sticky(const Row &row, const std::string &name) {
     switch (row.sticky) {
         case Sticky::as_is:
             return text + ": works under the handle's default_id, also while last_error is set.";
-        case Sticky::create:
-            return text +
-                   ": returns a sentinel instead of NULL if allocation fails or last_error is set. Any other NULL "
-                   "stays NULL. Only destroy operations and sticky forms accept the sentinel.";
+        case Sticky::create: {
+            const std::string more = includes(row.applies, Applies::message)
+                                         ? " A message whose payload alone cannot be allocated holds the payload's "
+                                           "sentinel; NULL if the payload cannot be initialized."
+                                         : "";
+            return text + ": returns a sentinel instead of NULL if allocation fails or last_error is set already." +
+                   more + " Only destroy operations, and sticky forms while last_error is set, accept the sentinel.";
+        }
         case Sticky::zero:
             return text + ". Returns 0 while last_error is set.";
         case Sticky::error:
@@ -141,8 +145,17 @@ std::string memory_type(const Member &m) {
     return is_integer(m.kind) ? value_type(m) : std::string(facts(m.kind).primitive);
 }
 
+void keep_part(std::string &text, std::string_view opening, bool keep) {
+    for (std::size_t at = 0; (at = text.find(opening, at)) != std::string::npos;) {
+        const std::size_t end = text.find('}', at);
+        text.replace(at, end + 1 - at, keep ? text.substr(at + opening.size(), end - at - opening.size()) : "");
+    }
+}
+
 std::string fill(std::string_view pattern, const Subject &s) {
     std::string text(pattern);
+    keep_part(text, start_part, s.control == "start");
+    keep_part(text, end_part, s.control != "start");
     const auto put = [&](std::string_view what, std::string_view by) { replace_all(text, what, by); };
     const auto put_object = [&](std::string_view what, std::string_view name) {
         put(what, "schema::" + std::string(name));
@@ -280,9 +293,9 @@ std::vector<TypeEntry> types() {
 
 std::vector<Datum> all_data() {
     std::vector<Datum> all;
-    const auto add = [&](std::string before, std::string name, std::string behind, const Subject &subject,
+    const auto add = [&](std::string before, std::string name, std::string after, const Subject &subject,
                          std::string text) {
-        all.push_back({before + " " + name + behind, name, subject, std::move(text)});
+        all.push_back({before + " " + name + after, name, subject, std::move(text)});
     };
     for (const TypeEntry &t : types()) {
         add("mirk_type_info", "_" + t.name + "_type_info_internal", "", t.subject,
@@ -295,10 +308,14 @@ std::vector<Datum> all_data() {
             "Identity of " + c.name + " in hexadecimal digits.");
         add("const char", "message_" + c.name + "_name", "[64]", c.subject, "Name of " + c.name + ", for trace lines.");
     }
-    for (const std::string trace : {"type", "message", "queue", "stub"}) {
+    const auto add_trace_module = [&](const std::string &trace, const std::string &when) {
         add("uint16_t", "g_mirk_lumo_ui_tarn_" + trace + "_trace_module_id", "", {},
-            "Trace module number of the module's " + trace + " code; 0 until it is registered.");
-    }
+            "Trace module number of the module's " + trace + " code; " + when);
+    };
+    add_trace_module("type", "0 until mirk_lumo_ui_tarn_type_trace_init() registers it.");
+    add_trace_module("message", "0 until mirk_lumo_ui_tarn_message_trace_init() registers it.");
+    add_trace_module("queue", "never registered, so always 0.");
+    add_trace_module("stub", "never registered, so always 0.");
     add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {},
         "The handler that is registered for all bundles of the module, or NULL. Not synchronized.");
     for (const Bundle *b : bundles) {

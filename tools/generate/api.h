@@ -1,5 +1,5 @@
-// Rows crossed with the schema: every exported name, its signature and what it calls. The only place where names are
-// formed.
+// The rows of the table expanded over the schema: every exported name, its signature and the entry that it calls. Names
+// are formed here only.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace tarn::generate {
 
-// What a row was applied to. Members that do not matter are null.
+// The object that a row is applied to. Members that do not apply are null.
 struct Subject {
     const schema::Record *record = nullptr;
     std::size_t member = 0;
@@ -25,10 +25,10 @@ struct Parameter {
     std::string declaration() const { return type.ends_with('*') ? type + name : type + " " + name; }
 };
 
-// One name of a row: the explicit form, its sticky form, or its other name. Placeholders are still in place.
+// One name of a row: the explicit form, its sticky form, or its second name. Placeholders are not yet filled in.
 struct Operation {
     const Row *row;
-    Sticky sticky;  // of the sticky form alone
+    Sticky sticky;  // none unless this is the sticky form
     std::string name, prototype, text;
 };
 const std::vector<Operation> &operations();
@@ -39,7 +39,7 @@ struct Export {
     Subject subject;
     std::string result, name, entry;
     std::vector<Parameter> parameters;
-    std::vector<Parameter> called_with;  // what the entry takes: the parameters of the explicit form
+    std::vector<Parameter> called_with;  // parameters of the entry, which are those of the explicit form
     std::string declaration() const;     // without a semicolon
 };
 
@@ -47,6 +47,11 @@ Applies class_of(const schema::Member &member);
 std::string value_type(const schema::Member &member);
 std::string memory_type(const schema::Member &member);
 std::string fill(std::string_view pattern, const Subject &subject);
+
+// The text of a control message's row may have parts "{start:...}" and "{end:...}", for a start and for an abort or a
+// commit. Keeps the content of such parts, or removes them.
+inline constexpr std::string_view start_part = "{start:", end_part = "{end:";
+void keep_part(std::string &text, std::string_view opening, bool keep);
 
 std::vector<Subject> subjects(Applies applies);
 Export expand(const Operation &operation, const Subject &subject);
@@ -56,7 +61,7 @@ std::vector<Export> all_functions();
 struct Datum {
     std::string declaration, name;  // the declaration as in a header, without extern
     Subject subject;
-    std::string text;  // what it is, in a sentence
+    std::string text;  // a sentence for its comment
 };
 std::vector<Datum> all_data();
 

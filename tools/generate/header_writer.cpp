@@ -1,8 +1,8 @@
 #include <set>
 
+#include "api.h"
 #include "names.h"
 #include "schema/named_type.h"
-#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -20,7 +20,7 @@ std::string upper(std::string_view text) {
     return out;
 }
 
-// Breaks a prototype between parameters; continued lines stand four blanks in.
+// Breaks a prototype between parameters; continuation lines are indented by four blanks.
 std::string prototype(const std::string &declaration) {
     std::string text = "LUMO_UI_TARN_API " + declaration + ";";
     std::string out;
@@ -33,7 +33,7 @@ std::string prototype(const std::string &declaration) {
     return out + text + "\n";
 }
 
-// A comment for the reference, broken between words.
+// A Doxygen comment, broken between words.
 std::string comment(std::string text) {
     std::string out, line = "/**";
     text += " */";
@@ -145,20 +145,20 @@ std::string record_page(const Record &record) {
 std::string enumeration_page(const Enumeration &enumeration) {
     const std::string name(enumeration.name);
     const Subject subject{.enumeration = &enumeration};
-    std::string body = comment("Values of a " + name + ": " + std::string(enumeration.meaning) + ".") + "enum {\n";
+    std::string body = comment("Values of " + name + ": " + std::string(enumeration.meaning) + ".") + "enum {\n";
     for (std::size_t i = 0; i < enumeration.enumerators.size(); ++i) {
         const bool last = i + 1 == enumeration.enumerators.size();
         body += "    " + std::string(enumeration.enumerators[i]) + " = " + std::to_string(i) + (last ? "\n" : ",\n");
     }
-    body += "};\n\n" + comment("An object that holds one of the values: " + std::string(enumeration.meaning) + ".") +
-            "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::enumeration);
+    body += "};\n\n" + comment("An object with one of these values.") + "typedef struct " + name + " " + name + ";\n" +
+            data_of(subject) + by_family(subject, Applies::enumeration);
     return page("enumerations/" + name + ".h", name + ".h - " + std::string(enumeration.meaning) + ".", {}, body);
 }
 
 std::string message_page(const Message &message) {
     const std::string name(message.name), payload(message.payload.name);
     const Subject subject{.message = &message};
-    std::string body = comment("Carries one " + payload + ", which it owns.");
+    std::string body = comment("A message that carries one " + payload + " and owns it.");
     body += "typedef struct " + name + " " + name + ";\n" + data_of(subject) + by_family(subject, Applies::message);
     return page("messages/" + name + ".h", name + ".h - the message that carries a " + payload + ".",
                 {"records/" + payload + ".h"}, body);
@@ -173,12 +173,12 @@ std::string bundle_page(const Bundle &bundle) {
         body +=
             "\n/* ---- " + std::string(kind) + " ---- */\n" + data_of(control) + by_family(control, Applies::control);
     }
-    return page(
-        "bundles/" + name + ".h",
-        name + ".h - the bundle that answers with a " + std::string(bundle.message.name) +
-            ".\n *\n * It admits that message and the requests of the user interface, between its start and its "
-            "commit or abort.",
-        {"messages/" + std::string(bundle.message.name) + ".h"}, body);
+    return page("bundles/" + name + ".h",
+                name + ".h - the bundle that answers with a " + std::string(bundle.message.name) +
+                    ".\n *\n * Between its start and its commit or abort it admits that message and the request "
+                    "message of the\n"
+                    " * user interface.",
+                {"messages/" + std::string(bundle.message.name) + ".h"}, body);
 }
 
 std::string umbrella(const Files &files) {
@@ -186,11 +186,9 @@ std::string umbrella(const Files &files) {
         generated +
         std::string(
             "/** @file\n"
-            " * lumo_ui_tarn.h - the whole library: records, enumerations, messages and bundles of the "
-            "traffic-aware routing\n"
-            " * feature tarn, on the runtime contract of mirk/mirk.h. Start with lumo_ui_tarn/families.h, which "
-            "describes the\n"
-            " * operations; the other headers list names. */\n") +
+            " * lumo_ui_tarn.h - umbrella header: records, enumerations, messages and bundles of the traffic-aware\n"
+            " * routing feature tarn. Start with lumo_ui_tarn/families.h, which describes the operations; the other\n"
+            " * headers list names. The library runs on a runtime, which mirk/mirk.h declares. */\n") +
         "#ifndef LUMO_UI_TARN_H\n#define LUMO_UI_TARN_H\n\n#include <lumo_ui_tarn/base.h>\n"
         "#include <lumo_ui_tarn/families.h>\n";
     std::string_view folder;
@@ -214,8 +212,9 @@ Files write_headers() {
     }
     for (const Message *m : messages) files[base + "messages/" + std::string(m->name) + ".h"] = message_page(*m);
     for (const Bundle *b : bundles) files[base + "bundles/" + std::string(b->name) + ".h"] = bundle_page(*b);
-    files[base + "module.h"] = page("module.h", "module.h - the module as a whole: types, trace, registration.", {},
-                                    data_of({}) + by_family({}, Applies::module));
+    files[base + "module.h"] =
+        page("module.h", "module.h - operations of the whole module: types, trace, registration.", {},
+             data_of({}) + by_family({}, Applies::module));
     files["lumo_ui_tarn.h"] = umbrella(files);
     files["lumo_ui_tarn.hpp"] = interface_page();
     return files;

@@ -1,11 +1,11 @@
-// Manual pages of the library and of the frame, with tables from the schema.
+// Manual pages of the library and of the frame format, with tables from the schema.
 #include <algorithm>
 #include <utility>
 
+#include "api.h"
 #include "names.h"
 #include "schema/frame.h"
 #include "schema/wire_size.h"
-#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -16,13 +16,13 @@ namespace {
 
 constexpr const char *date = "November 21, 2026";
 
-// Text without markup; a sentence begins a line of its own.
+// Text without markup, one sentence a line.
 std::string line(std::string text) {
     for (std::size_t at = 0; (at = text.find(". ", at)) != std::string::npos;) text.replace(at, 2, ".\n");
     return text + "\n";
 }
 
-// Cells that are mdoc already; the first row is the heading. A column is as wide as its widest cell.
+// Cells contain mdoc already; the first row is the heading. A column is as wide as its widest cell.
 std::string table(const std::vector<std::vector<std::string>> &rows) {
     const auto width = [](const std::string &cell) {
         return static_cast<std::size_t>(std::count_if(cell.begin(), cell.end(), [](char c) { return c != '"'; }));
@@ -42,7 +42,7 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
     return out + ".El\n";
 }
 
-// A name in front of each entry. Names of the schema are long, and in columns would leave no room on a terminal.
+// A tagged list: names of the schema are too long for columns on a terminal.
 std::string list(const std::vector<std::pair<std::string, std::string>> &entries) {
     std::size_t widest = 0;
     for (const auto &[name, text] : entries) widest = std::max(widest, name.size());
@@ -51,9 +51,11 @@ std::string list(const std::vector<std::pair<std::string, std::string>> &entries
     return out + ".El\n";
 }
 
-// Placeholders become words for what they stand for.
+// Replaces placeholders by words in capitals.
 std::string generic(std::string_view pattern) {
     std::string text(pattern);
+    keep_part(text, start_part, true);
+    keep_part(text, end_part, true);
     const std::pair<std::string_view, std::string_view> words[] = {
         {": {meaning}", ""}, {"{r}", "RECORD"},  {"{f}", "MEMBER"}, {"{n}", "its type"},
         {"{e}", "ENUM"},     {"{m}", "MESSAGE"}, {"{b}", "BUNDLE"}, {"{k}", "CONTROL"}};
@@ -92,8 +94,9 @@ std::string library_page() {
 .Dl cc program.c $(pkg-config --cflags --libs lumo_ui_tarn)
 .Sh DESCRIPTION
 The library implements one fixed schema.
-A record can be created, filled through accessors with a state byte for each member, compared, hashed, copied, written to a
-frame and read back, printed as text, written as XML and read from it.
+A record can be created, filled through accessors, compared, hashed and copied.
+It can be written to a binary frame and read back, printed as text, and written to and read from XML.
+On a handle that tracks state, each member also has a state byte, in which setters store 2.
 A message carries one record, and a bundle carries messages.
 .Pp
 The library runs on a runtime, whose handle is the first argument of most operations.
@@ -118,12 +121,14 @@ A number that is passed to the memory callbacks of the runtime unchanged.
 The error slot: 0, or a number from
 .In errno.h .
 Calls are no-ops that return 0 or NULL once it is set; check it once at the end of a sequence.
+RECORD_set, RECORD_post_copyout_cleanup, RECORD_offset_update and RECORD_offset_remove act regardless.
+After an error inside a bundle, clear it and marshal the abort: a commit called with it set leaves the bundle open.
 .El
 .Pp
 A sticky form, with _cr at the end of its name, takes neither: it works under the handle's default_id, and its error slot is
 the handle's last_error.
 .Pp
-A buffer for frames has one guard byte after the size that is passed.
+Every buffer for a frame, of a record or of a message, has one guard byte after the size that is passed.
 )mdoc";
     using enum Applies;
     out += operations("Records", "Each RECORD has these.", record);
@@ -162,23 +167,23 @@ A buffer for frames has one guard byte after the size that is passed.
 .It Bq Er ENOENT
 There is no such index or element, no bundle is open, or the open bundle does not admit the message.
 .It Bq Er ENOMEM
-Allocation failed, or the buffer has size 0.
+Allocation failed, or a buffer ends exactly where a record begins.
 .It Bq Er EEXIST
 A bundle is already open.
 .It Bq Er EINVAL
-There is no state to read or write, or the object is NULL.
+There are no state bytes, a pointer is NULL, a number in XML is invalid, or a string's destination has size 0.
 .It Bq Er ENOSPC
 The destination is too short for the text.
 .It Bq Er ENOSYS
 No handler took the message.
 .It Bq Er EIDRM
-The domain does not have the object's variant, or the enumeration does not have the value.
+The object has no body, the domain does not have its variant, or the enumeration does not have the value.
 .It Bq Er EBADE
 The domain does not have the message.
 .It Bq Er EBADMSG
-A control message is out of order.
+A control message is out of order, or a message's frame does not begin with 0xBC.
 .It Bq Er EMSGSIZE
-The buffer is too small for the frame, or the frame is too short.
+The buffer is too small for the frame or the text, or the frame is too short.
 .El
 .Pp
 Nothing is rolled back; an object can be destroyed after any failure.
@@ -243,23 +248,23 @@ std::string frame_page() {
 .Os
 .Sh NAME
 .Nm tarn_frame
-.Nd how records, messages and bundles of the tarn feature look on the wire
+.Nd wire format of the records, messages and bundles of the tarn feature
 .Sh DESCRIPTION
-A file or a stream of frames holds one frame behind the other.
+A file or a stream of frames holds one frame after another.
 Numbers have their most significant byte first.
 .Ss Message
-A frame is a header, an identity, and the payload of a plain message.
+A frame consists of a header, an identity and, for a plain message, a payload.
 A control message has no payload, so that its frame is )mdoc" +
                       std::to_string(message_head_size) + R"mdoc( bytes long.
 .Bl -column "bytes" "total length" "what"
 )mdoc" + rows_of_parts(message_frame) +
                       R"mdoc(.Pp
-A bundle is the frame of its start, frames of the message that it admits, and the frame of its commit or its abort.
+A bundle is the frame of its start, frames of the messages that it admits, and the frame of its commit or abort.
 .Ss Record
 .Bl -column "bytes" "variant" "what"
 )mdoc" + rows_of_parts(record_frame) +
                       R"mdoc(.Pp
-A newer sender may have more members behind those that a reader knows: the jump leads past them.
+A newer sender may have more members after those that a reader knows: the jump leads past them.
 With state, each member but a count or a length is followed by its state byte.
 .Ss Members
 .Bl -column "enumeration" "bytes" "what"
@@ -283,7 +288,7 @@ and a string that is not empty by one state byte; an empty one has none.
         }
         out += list(entries);
     }
-    out += ".Sh RECORDS\nSizes are without state; a + says that elements or characters come on top.\n";
+    out += ".Sh RECORDS\nSizes are without state; a + means that elements or characters add to it.\n";
     for (const Record *r : records) {
         out += ".Ss " + std::string(r->name) + "\n" + line(capital(r->meaning) + ": " + wire_text(*r) + " bytes.");
         entries.clear();

@@ -1,4 +1,4 @@
-// The API of the library as data: one row for each operation, expanded over the schema by the writers.
+// The API of the library as data: one row for each operation. The writers expand each row over the schema.
 #pragma once
 
 #include <span>
@@ -6,7 +6,7 @@
 
 namespace tarn::generate {
 
-// What a row applies to; each match gives one exported name. Values combine with |.
+// What a row applies to: each match is one exported name. Values combine with |.
 enum class Applies : unsigned {
     record = 1U << 0,
     integer = 1U << 1,  // from here on, members by their class
@@ -35,20 +35,20 @@ constexpr bool includes(Applies set, Applies one) {
 // default_id, and its error slot is the handle's last_error. Its parameters are those of the explicit form, the object
 // first, without a name (the type's own), an indent (0) and a state (0).
 enum class Sticky {
-    none,          // there is none, or it has a row of its own
-    as_is,         // makes the call whatever last_error holds
-    create,        // makes the call in create mode: a sentinel instead of null
-    zero,          // 0, and no call, while last_error is set
-    size,          // makes the call; 0xFFFFFFFF if last_error is set after it
-    checked_size,  // the same, and no call while last_error is set
+    none,          // no sticky form, or one with a row of its own
+    as_is,         // makes the call even if last_error is set
+    create,        // makes the call in create mode: returns a sentinel instead of null
+    zero,          // returns 0, without the call, while last_error is set
+    size,          // makes the call; returns 0xFFFFFFFF if last_error is set after it
+    checked_size,  // as size, but without the call while last_error is set
     error,         // makes the call and returns last_error
 };
 
 // A prototype holds placeholders: {r} record, {f} member, {n} the member's record or enumeration, {A} the type of the
 // member in memory, {V} the type of its value, {e} enumeration, {m} message, {b} bundle, {k} kind of a control message;
 // H, I and E stand for the handle, ctx_id and err. An entry is what the export calls, with {R}, {F}, {E}, {M}, {B} and
-// {K} for the schema's own objects. A description uses the placeholders of prototypes, and {meaning} for what the
-// schema says about the member.
+// {K} for the schema's own objects. A text uses the placeholders of prototypes, {meaning} for the member's meaning in
+// the schema, and {start:...} and {end:...} for what is true of a start alone, or of an abort and a commit alone.
 struct Row {
     Applies applies;
     std::string_view unit;    // the file of the library that defines the entry and includes the exports
@@ -57,13 +57,13 @@ struct Row {
     std::string_view entry;
     std::string_view text;
     Sticky sticky = Sticky::none;
-    std::string_view alias = {};  // suffix of another name of the operation
-    bool weak = false;            // a client may define a function of the same name
+    std::string_view alias = {};  // suffix of a second name of the operation
+    bool weak = false;            // a weak symbol: a client may define a function of the same name
 };
 
 std::span<const Row> rows();
 
-// A class template that other units call: instantiated in the unit that defines it.
+// A class template that other units call. It is instantiated in the unit that defines it.
 struct Instantiation {
     std::string_view unit;
     Applies applies;

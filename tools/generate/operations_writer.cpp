@@ -1,9 +1,9 @@
 #include <map>
 #include <set>
 
+#include "api.h"
 #include "fill_in.h"
 #include "reflection.h"
-#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -12,10 +12,10 @@ using namespace schema;
 
 namespace {
 
-// The part of an operation's name after the placeholders.
+// The part of an operation's name after its placeholders.
 std::string suffix_of(const Operation &operation) { return operation.name.substr(operation.name.rfind('}') + 2); }
 
-// The field of an operations struct that a row fills.
+// The field of an operations structure that an operation fills.
 std::string field_of(const Operation &operation) {
     const Row &row = *operation.row;
     std::string suffix = suffix_of(operation);
@@ -40,7 +40,7 @@ bool passes_as_void(const std::string &type) {
            type.find("mirk_boolean") != std::string::npos;
 }
 
-// An operation with pointers to objects as void and, for members, values as 64-bit numbers.
+// A wrapped operation: pointers to objects become void pointers and values of members 64-bit numbers.
 struct Reflected {
     std::string result, parameters, call;
 };
@@ -82,7 +82,7 @@ Reflected reflected(const Export &e) {
     return {result, parameters, e.name + "(" + arguments + ")"};
 }
 
-// As it is in the C interface; other operations are wrapped.
+// True for operations that are not wrapped.
 bool keeps_its_type(const Export &e) { return e.row->weak || includes(e.row->applies, Applies::bundle); }
 
 std::string value_of(const Export &e) {
@@ -91,7 +91,7 @@ std::string value_of(const Export &e) {
     return "[](" + r.parameters + ") -> " + r.result + " { return " + r.call + "; }";
 }
 
-// The fields of the structure for what these rows apply to. Rows of one field differ only in what the wrapper hides.
+// The fields of the structure for these rows. Rows with the same field differ only in types that the wrapper hides.
 std::string declared_fields(Applies applies) {
     std::string text;
     std::set<std::string> declared;
@@ -118,15 +118,16 @@ std::string catalogue_fields(const std::string &name) {
            name + "_luid_text;\n    o.catalogue_name = message_" + name + "_name;\n";
 }
 
-// Made on first use, so that other static objects may be initialised from the tables.
+// Created on first use, so that other static objects may be initialized from the tables.
 std::string table_of(const std::string &type, const std::string &name, const std::string &rows) {
     return "std::span<const " + type + "> " + name + "() {\n    static const " + type + " all[] = {\n" + rows +
            "    };\n    return all;\n}\n\n";
 }
 
-// ---- how the sweep of failing allocations calls an operation whose arguments follow from their names
+// ---- drivers for the allocation failure sweep: calls of operations whose arguments follow from their names
 
-// Of a scene, or empty. What takes an object away, moves or allocates is called by hand, in tests/trust/drivers.cpp.
+// The argument taken from a scene, or empty. Operations that move, allocate or destroy have drivers written by hand, in
+// tests/trust/drivers.cpp.
 std::string argument_of_scene(const Parameter &p) {
     static const std::map<std::string_view, const char *> by_name = {{"h", "s.h"},
                                                                      {"ctx_id", "id"},
@@ -160,7 +161,7 @@ std::string argument_of_scene(const Parameter &p) {
 
 struct Sweep {
     Applies applies;
-    const char *of, *table;  // what the sweep calls it, and where it finds its operations
+    const char *of, *table;  // name in the sweep, and expression for its operations
 };
 constexpr Sweep sweeps[] = {
     {Applies::record, "record", "rec(s)."},
@@ -264,13 +265,12 @@ Files write_operations() {
             table_of("MessageOperations", "all_messages", message_rows) +
             table_of("BundleOperations", "all_bundles", bundle_rows);
     using enum Applies;
-    const std::string header =
-        fill_in(reflection, {{"    // $member\n", declared_fields(integer | boolean | enumerated | address | nested |
-                                                                  string | length | count | array)},
-                             {"    // $record\n", declared_fields(Applies::record)},
-                             {"    // $enumeration\n", declared_fields(enumeration)},
-                             {"    // $message\n", declared_fields(message | control)},
-                             {"    // $bundle\n", declared_fields(bundle)}});
+    constexpr Applies member = integer | boolean | enumerated | address | nested | string | length | count | array;
+    const std::string header = fill_in(reflection, {{"    // $member\n", declared_fields(member)},
+                                                    {"    // $record\n", declared_fields(Applies::record)},
+                                                    {"    // $enumeration\n", declared_fields(enumeration)},
+                                                    {"    // $message\n", declared_fields(message | control)},
+                                                    {"    // $bundle\n", declared_fields(bundle)}});
     return {{"tools/reflect/operations.h", header},
             {"drivers.inc", drivers()},
             {"operations.inc", text + "}  // namespace\n\n}  // namespace tarn::reflect\n"}};

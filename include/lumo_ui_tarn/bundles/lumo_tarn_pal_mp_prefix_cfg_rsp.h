@@ -2,7 +2,8 @@
 /** @file
  * lumo_tarn_pal_mp_prefix_cfg_rsp.h - the bundle that answers with a lumo_tarn_pal_mp_prefix_msg.
  *
- * It admits that message and the requests of the user interface, between its start and its commit or abort. */
+ * Between its start and its commit or abort it admits that message and the request message of the
+ * user interface. */
 #ifndef LUMO_UI_TARN_BUNDLES_LUMO_TARN_PAL_MP_PREFIX_CFG_RSP_H
 #define LUMO_UI_TARN_BUNDLES_LUMO_TARN_PAL_MP_PREFIX_CFG_RSP_H
 
@@ -41,13 +42,14 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_pal_mp_prefix_cfg_rsp_bundl
 
 /** @name Control messages
  *  @{ */
-/** Allocates a token for the start of the bundle. Returns NULL if allocation fails. */
+/** Allocates a token for the start of the bundle. Returns NULL if allocation fails. The caller owns it. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create(mirk_handle *h, uint32_t ctx_id);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create_unsafe(mirk_handle *h,
     uint32_t ctx_id);
-/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create(). Returns a sentinel instead of NULL,
- * which only lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destroy_cr() accepts. */
+/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create(): returns a sentinel instead of NULL if
+ * allocation fails or last_error is set already. Only lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destroy_cr()
+ * accepts the sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_create_cr(mirk_handle *h);
 /** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destroy(mirk_handle *h, uint32_t ctx_id,
@@ -57,7 +59,7 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destr
     uint32_t ctx_id, void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes: 43, header and identity. */
+/** Returns the size of the frame in bytes, header and identity: 43. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_len(). Returns 0 while last_error is set. */
@@ -65,9 +67,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_l
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_len_unsafe(mirk_handle *h,
     uint32_t ctx_id, void *token);
-/** Writes the frame of the bundle's start and updates the handle's send bundle: a start opens one, an abort or a commit
- * closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if a
- * bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
+/** Writes the frame of the bundle's start. A start opens the handle's send bundle: EEXIST if one is open already,
+ * EMSGSIZE if size is below 43. token is not read and may be NULL. Returns the number of bytes written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_marshal(). Returns 0xFFFFFFFF after an error. */
@@ -84,7 +85,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_u
 /** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_unmarshal_only(mirk_handle *h,
     uint32_t ctx_id, void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the number of characters written. */
+/** Writes a line with the bundle's name. Returns the length in bytes without the final NUL. ENOSPC if the line does not
+ * fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_print(). Returns 0xFFFFFFFF after an error. */
@@ -93,7 +95,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_p
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_print_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the length in bytes without the final
+ * NUL. EMSGSIZE if it does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_to_xml(). Returns 0xFFFFFFFF after an error. */
@@ -102,7 +105,7 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_t
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_to_xml_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
+/** Allocates a token, which the caller owns; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_from_xml(). */
@@ -114,9 +117,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_v
 
 /** @name Handlers
  *  @{ */
-/** Implements the start on the receiving side: a start opens the handle's receive bundle, an abort destroys the
- * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
- * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the start on the receiving side. A start opens the handle's receive bundle: EEXIST if one is open
+ * already. A weak symbol: define a function of the same name to replace it. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_start_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */
@@ -131,13 +133,14 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_pal_mp_prefix_cfg_rsp_bundl
 
 /** @name Control messages
  *  @{ */
-/** Allocates a token for the abort of the bundle. Returns NULL if allocation fails. */
+/** Allocates a token for the abort of the bundle. Returns NULL if allocation fails. The caller owns it. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create(mirk_handle *h, uint32_t ctx_id);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create_unsafe(mirk_handle *h,
     uint32_t ctx_id);
-/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create(). Returns a sentinel instead of NULL,
- * which only lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destroy_cr() accepts. */
+/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create(): returns a sentinel instead of NULL if
+ * allocation fails or last_error is set already. Only lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destroy_cr()
+ * accepts the sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_create_cr(mirk_handle *h);
 /** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destroy(mirk_handle *h, uint32_t ctx_id,
@@ -147,7 +150,7 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destr
     uint32_t ctx_id, void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes: 43, header and identity. */
+/** Returns the size of the frame in bytes, header and identity: 43. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_len(). Returns 0 while last_error is set. */
@@ -155,9 +158,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_l
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_len_unsafe(mirk_handle *h,
     uint32_t ctx_id, void *token);
-/** Writes the frame of the bundle's abort and updates the handle's send bundle: a start opens one, an abort or a commit
- * closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if a
- * bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
+/** Writes the frame of the bundle's abort. An abort or a commit closes the open send bundle, even if EMSGSIZE says that
+ * its frame did not fit. ENOENT if none is open. If err is set on entry, the bundle stays open. token is not read and
+ * may be NULL. Returns the number of bytes written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_marshal(). Returns 0xFFFFFFFF after an error. */
@@ -174,7 +177,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_u
 /** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_unmarshal_only(mirk_handle *h,
     uint32_t ctx_id, void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the number of characters written. */
+/** Writes a line with the bundle's name. Returns the length in bytes without the final NUL. ENOSPC if the line does not
+ * fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_print(). Returns 0xFFFFFFFF after an error. */
@@ -183,7 +187,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_p
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_print_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the length in bytes without the final
+ * NUL. EMSGSIZE if it does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_to_xml(). Returns 0xFFFFFFFF after an error. */
@@ -192,7 +197,7 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_t
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_to_xml_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
+/** Allocates a token, which the caller owns; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_from_xml(). */
@@ -204,9 +209,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_v
 
 /** @name Handlers
  *  @{ */
-/** Implements the abort on the receiving side: a start opens the handle's receive bundle, an abort destroys the
- * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
- * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the abort on the receiving side. An abort destroys the messages received. A commit delivers them to the
+ * bundle's handler and then destroys those that are left. EBADMSG if no bundle is open. A weak symbol: define a
+ * function of the same name to replace it. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_abort_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */
@@ -221,13 +226,14 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_pal_mp_prefix_cfg_rsp_bundl
 
 /** @name Control messages
  *  @{ */
-/** Allocates a token for the commit of the bundle. Returns NULL if allocation fails. */
+/** Allocates a token for the commit of the bundle. Returns NULL if allocation fails. The caller owns it. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create(mirk_handle *h, uint32_t ctx_id);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create(). */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create_unsafe(mirk_handle *h,
     uint32_t ctx_id);
-/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create(). Returns a sentinel instead of NULL,
- * which only lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_destroy_cr() accepts. */
+/** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create(): returns a sentinel instead of NULL if
+ * allocation fails or last_error is set already. Only
+ * lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_destroy_cr() accepts the sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_create_cr(mirk_handle *h);
 /** Frees the token. NULL is ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_destroy(mirk_handle *h, uint32_t ctx_id,
@@ -237,7 +243,7 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_dest
     uint32_t ctx_id, void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes: 43, header and identity. */
+/** Returns the size of the frame in bytes, header and identity: 43. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_len(). Returns 0 while last_error is set. */
@@ -245,9 +251,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_len_unsafe(mirk_handle *h,
     uint32_t ctx_id, void *token);
-/** Writes the frame of the bundle's commit and updates the handle's send bundle: a start opens one, an abort or a
- * commit closes it even if the frame did not fit. The token may be NULL. Returns the number of bytes written. EEXIST if
- * a bundle is already open, ENOENT if none is open, EMSGSIZE if the buffer is too small. */
+/** Writes the frame of the bundle's commit. An abort or a commit closes the open send bundle, even if EMSGSIZE says
+ * that its frame did not fit. ENOENT if none is open. If err is set on entry, the bundle stays open. token is not read
+ * and may be NULL. Returns the number of bytes written. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_marshal(mirk_handle *h, uint32_t ctx_id,
     void *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_marshal(). Returns 0xFFFFFFFF after an
@@ -265,7 +271,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_
 /** Has no effect and returns 0: there is no object to return. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_unmarshal_only(mirk_handle *h,
     uint32_t ctx_id, void **out, void *buffer, uint32_t size, uint32_t *err);
-/** Writes a line with the bundle's name. Returns the number of characters written. */
+/** Writes a line with the bundle's name. Returns the length in bytes without the final NUL. ENOSPC if the line does not
+ * fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_print(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_print(). Returns 0xFFFFFFFF after an error. */
@@ -274,7 +281,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_print_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Writes an empty XML element with the bundle's name as an attribute. Returns the number of characters written. */
+/** Writes an empty XML element with the bundle's name as an attribute. Returns the length in bytes without the final
+ * NUL. EMSGSIZE if it does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_to_xml(mirk_handle *h, uint32_t ctx_id,
     char *buffer, void *token, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_to_xml(). Returns 0xFFFFFFFF after an error. */
@@ -283,7 +291,7 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_to_xml_unsafe(mirk_handle *h,
     uint32_t ctx_id, char *buffer, void *token, uint32_t size, uint32_t *err);
-/** Allocates a token; the document is not read. Returns NULL if allocation fails. */
+/** Allocates a token, which the caller owns; the document is not read. Returns NULL if allocation fails. */
 LUMO_UI_TARN_API void *lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_from_xml(). */
@@ -295,9 +303,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_
 
 /** @name Handlers
  *  @{ */
-/** Implements the commit on the receiving side: a start opens the handle's receive bundle, an abort destroys the
- * messages received, a commit delivers them to the bundle's handler and then destroys the rest. A weak symbol: define a
- * function of the same name to replace it. EEXIST for a start inside a bundle, EBADMSG for the others outside one. */
+/** Implements the commit on the receiving side. An abort destroys the messages received. A commit delivers them to the
+ * bundle's handler and then destroys those that are left. EBADMSG if no bundle is open. A weak symbol: define a
+ * function of the same name to replace it. */
 LUMO_UI_TARN_API void lumo_ui_tarn_lumo_tarn_pal_mp_prefix_cfg_rsp_bundle_commit_message_handler(mirk_handle *h,
     uint32_t ctx_id, void *dispatch_ctx, void *message, uint32_t *err);
 /** @} */

@@ -1,6 +1,6 @@
 /* Generated from the schema; edit the tables there and run tools/regenerate. */
 /** @file
- * lumo_tarn_mem_desc_e.h - what a block of memory is used for. */
+ * lumo_tarn_mem_desc_e.h - kind of memory. */
 #ifndef LUMO_UI_TARN_ENUMERATIONS_LUMO_TARN_MEM_DESC_E_H
 #define LUMO_UI_TARN_ENUMERATIONS_LUMO_TARN_MEM_DESC_E_H
 
@@ -8,25 +8,25 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** Values of a lumo_tarn_mem_desc_e: what a block of memory is used for. */
+/** Values of lumo_tarn_mem_desc_e: kind of memory. */
 enum {
     LUMO_TARN_MP_MEM = 0,
     LUMO_TARN_TT_MEM = 1,
     LUMO_TARN_FLOW_MEM = 2
 };
 
-/** An object that holds one of the values: what a block of memory is used for. */
+/** An object with one of these values. */
 typedef struct lumo_tarn_mem_desc_e lumo_tarn_mem_desc_e;
 /** The module's own type record of lumo_tarn_mem_desc_e: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_mem_desc_e_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an object with value 0. Returns NULL if allocation fails. The caller owns it and releases it with
  * lumo_tarn_mem_desc_e_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_mem_desc_e_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_mem_desc_e_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * is set already. Only destroy operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_mem_desc_e_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_mem_desc_e_create(). */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_mem_desc_e_create_internal(mirk_handle *h, uint32_t ctx_id);
@@ -36,7 +36,7 @@ LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_initialize(mirk_handle *h, uint32_t c
     mirk_type_info *type, uint32_t notify, uint32_t not_used_1, uint8_t flags, void *not_used_2, uint32_t *err);
 /** Returns the size of an object in bytes, equal on every handle. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_sizeof(void);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_mem_desc_e_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
@@ -56,10 +56,10 @@ LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_mem_desc_e_destroy_internal(mir
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers in the object: 0. EINVAL for NULL. */
+/** Returns the number of object identifiers in the object: 0. EINVAL if instance is NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, uint32_t *err);
-/** Writes nothing, because the object holds no object identifier. EINVAL for NULL. */
+/** Writes nothing, because the object holds no object identifier. EINVAL if instance is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, void **not_used_1, uint32_t not_used_2, uint32_t *err);
 /** @} */
@@ -69,26 +69,29 @@ LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_get_object_references(mirk_handle *h,
 /** Returns the object itself, so that code can treat enumerations as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_mem_desc_e_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, uint32_t *err);
-/** Returns the value. 0 after an error; EINVAL for NULL. */
+/** Returns the value. 0 after an error; EINVAL if instance is NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, uint32_t *err);
-/** Copies the source with its header. A value that is not an enumerator is refused with EIDRM. */
+/** Copies the source with its header. EIDRM if its value is not an enumerator, EINVAL if either is NULL; nothing is
+ * stored then. */
 LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_mem_desc_e *instance,
     lumo_tarn_mem_desc_e *source, uint32_t *err);
-/** Stores a value and notifies. A value that is not an enumerator is refused with EIDRM. */
+/** Stores a value, notifies, and marks the object as modified. EIDRM if the value is not an enumerator, EINVAL if
+ * instance is NULL; nothing is stored then. */
 LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_mem_desc_e *instance,
     uint32_t value, uint32_t *err);
-/** Returns 1 if the value is an enumerator in the handle's domain. */
+/** Returns 1 if the value is an enumerator, else 0. Also returns 1 for numbers with the top bit set, which the setters
+ * refuse, and for every value if the domain has a variant above 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_is_valid_cr(mirk_handle *h, uint32_t value);
 /** Returns the value unchanged: this schema has no second numbering. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_map_to_user_value(uint32_t value);
 /** Returns the value unchanged: this schema has no second numbering. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_map_to_internal_value(uint32_t value);
-/** Returns the difference of the two values. NULL comes first. */
+/** Returns the difference of the two values, a minus b. NULL comes first. */
 LUMO_UI_TARN_API int32_t lumo_tarn_mem_desc_e_compare(const lumo_tarn_mem_desc_e *a, const lumo_tarn_mem_desc_e *b);
 /** Mixes the value into the seed. Returns the seed itself for NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_hash(const lumo_tarn_mem_desc_e *instance, uint32_t seed);
-/** Returns 1 if the object has a change mark, and clears it. The word is not used. */
+/** Returns 1 if the object has a change mark, and clears it. word is not used. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, void *word);
 /** @} */
@@ -99,20 +102,20 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_backpropagate(mirk_handle *h, uin
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_mem_desc_e *instance);
 /** Sticky form of lumo_tarn_mem_desc_e_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_len_cr(mirk_handle *h);
-/** Writes variant and value into the remaining bytes at buffer. Returns the number of bytes written. EIDRM if the
- * domain does not have the object's variant. */
+/** Writes variant and value, 5 bytes, into the remaining bytes at buffer. Returns the number of bytes written. EMSGSIZE
+ * if they do not fit, ENOMEM if remaining is 0. EIDRM if the domain does not have the object's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_mem_desc_e *instance, int32_t remaining, uint32_t *err);
-/** Reads variant and value from length bytes at buffer. Returns the number of bytes consumed. Values are not checked;
- * reuse is ignored. */
+/** Reads variant and value, 5 bytes, from length bytes at buffer. Returns the number of bytes consumed. Any value is
+ * accepted; reuse is ignored. EMSGSIZE if length is too small, ENOMEM if it is 0, EINVAL if instance is NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_mem_desc_e *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes a line with the name and the enumerator, indented by indent blanks. Returns the number of characters written.
- * A value that is not an enumerator gives a text without a line end. */
+/** Writes a line with the name and the enumerator, indented by indent blanks. Returns the length in bytes without the
+ * final NUL. A value that is not an enumerator gives a text without a line end. ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_mem_desc_e *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_mem_desc_e_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -122,15 +125,16 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_print_cr(mirk_handle *h, lumo_tar
 
 /** @name XML
  *  @{ */
-/** Writes an XML element of this name that contains an empty element named like the enumerator. Returns the number of
- * characters written. The state is not written. */
+/** Writes an XML element of this name that contains an empty element named like the enumerator. Returns the length in
+ * bytes without the final NUL. The state is not written. A value that is not an enumerator gives text that is not
+ * well-formed XML. EMSGSIZE if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_mem_desc_e *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_mem_desc_e_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_toxml_cr(mirk_handle *h, lumo_tarn_mem_desc_e *instance, char *buffer,
     int32_t remaining);
 /** Reads the value from the enumerator's element below a path of the runtime's document. Without one, the value stays.
- * A failure leaves a sentence in message if that is not NULL. */
+ * Only a failed look-up writes a sentence to message, which may be NULL. Clear its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_mem_desc_e_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_mem_desc_e *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */

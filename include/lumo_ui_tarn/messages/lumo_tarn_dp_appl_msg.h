@@ -9,7 +9,7 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** Carries one lumo_tarn_dp_appl_data, which it owns. */
+/** A message that carries one lumo_tarn_dp_appl_data and owns it. */
 typedef struct lumo_tarn_dp_appl_msg lumo_tarn_dp_appl_msg;
 /** The module's own type record of lumo_tarn_dp_appl_msg_message: identity, variants, usage counters; num_live stays
  * 0. */
@@ -23,13 +23,15 @@ extern LUMO_UI_TARN_API const char message_lumo_tarn_dp_appl_msg_name[64];
 
 /** @name Message objects
  *  @{ */
-/** Allocates a message without a payload. Returns NULL if allocation fails. */
+/** Allocates a message without a payload. Returns NULL if allocation fails. The caller owns it. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_msg *lumo_tarn_dp_appl_msg_message_create_shallow(mirk_handle *h, uint32_t ctx_id);
 /** Allocates a message with a new payload. Returns NULL if the message or its payload cannot be created. The caller
  * owns it and releases it with lumo_tarn_dp_appl_msg_message_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_msg *lumo_tarn_dp_appl_msg_message_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_dp_appl_msg_message_create(): returns a sentinel instead of NULL if allocation fails or
- * last_error is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * last_error is set already. A message whose payload alone cannot be allocated holds the payload's sentinel; NULL if
+ * the payload cannot be initialized. Only destroy operations, and sticky forms while last_error is set, accept the
+ * sentinel. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_msg *lumo_tarn_dp_appl_msg_message_create_cr(mirk_handle *h);
 /** Another name of lumo_tarn_dp_appl_msg_message_create(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_msg *lumo_tarn_dp_appl_msg_message_create_unsafe(mirk_handle *h, uint32_t ctx_id);
@@ -42,16 +44,16 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_msg_message_destroy_cr(mirk_handle *h, l
 /** Another name of lumo_tarn_dp_appl_msg_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_msg_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_msg *message);
-/** Returns the payload; the message keeps it. NULL after an error or for NULL. */
+/** Returns the payload, which the message still owns. NULL if err is set or message is NULL. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_appl_msg *message, uint32_t *err);
-/** Returns the payload and removes it from the message; the caller owns it. NULL after an error or for NULL. */
+/** Returns the payload and removes it from the message; the caller owns it. NULL if err is set or message is NULL. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_get_detach(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_appl_msg *message, uint32_t *err);
 /** Stores a payload, which the message then owns. The previous payload is not released. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_msg *message, lumo_tarn_dp_appl_data *payload, uint32_t *err);
-/** Destroys the payload and stores another one. Never pass the message's own payload. */
+/** Destroys the payload and stores another one, which the message then owns. Never pass the message's own payload. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_msg_message_lumo_tarn_dp_appl_data_free_and_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_msg *message, lumo_tarn_dp_appl_data *payload, uint32_t *err);
 /** Returns nonzero if the handle's domain has this message. */
@@ -69,8 +71,10 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_len_cr(mirk_handle *h, l
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_msg *message);
 /** Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard byte
- * after them. Returns the number of bytes written. EBADE if the domain does not have the message, ENOENT if the open
- * bundle does not admit it, EMSGSIZE if the buffer is too small. */
+ * after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain does not
+ * have the message, ENOENT if the open bundle does not admit it. EMSGSIZE if the buffer is too small; ENOMEM instead if
+ * it ends exactly where a record begins, or if allocation fails. EIDRM as in lumo_tarn_dp_appl_data_marshal(). EINVAL
+ * if the message has no payload. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_msg_message_marshal(). Returns 0xFFFFFFFF after an error. */
@@ -79,20 +83,27 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_marshal_cr(mirk_handle *
 /** Another name of lumo_tarn_dp_appl_msg_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
-/** Reads a frame, records the message if the recorder is on, and delivers it to the handler, or to
- * lumo_ui_tarn_lumo_tarn_dp_appl_msg_message_handler() if handler is NULL. The receiver owns the message. out, which
- * may be NULL, also gets its address. Returns the number of bytes consumed. The message of a bad frame is leaked. */
+/** Reads a frame of size bytes from buffer, which has one guard byte after them, and records the message if the
+ * recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_lumo_tarn_dp_appl_msg_message_handler() if
+ * handler is NULL. The receiver owns the message. out, which may be NULL, also gets its address. Returns the number of
+ * bytes consumed; after an error the result has no meaning. EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if
+ * its first byte is not 0xBC, ENOMEM if allocation fails. The message of a bad frame is leaked: see
+ * lumo_tarn_dp_appl_msg_message_unmarshal_only(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx,
     lumo_tarn_dp_appl_msg **out, void *buffer, uint32_t size, mirk_message_handler handler, uint32_t *err);
-/** Reads a frame and returns the message through out, also after a bad frame; the caller destroys it. Returns the
- * number of bytes consumed. */
+/** Reads a frame of size bytes from buffer, which has one guard byte after them, and returns the message through out.
+ * The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no message
+ * can be allocated. Returns the number of bytes consumed; after an error the result has no meaning. Errors as in
+ * lumo_tarn_dp_appl_msg_message_unmarshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_msg **out, void *buffer, uint32_t size, uint32_t *err);
 /** @} */
 
 /** @name Message text and XML
  *  @{ */
-/** Writes the message as readable text. Returns the number of characters written. */
+/** Writes the message as readable text. Returns the length in bytes without the final NUL. The indent of closing braces
+ * is counted but not written. Clear the buffer first, then replace NUL bytes within the returned length by blanks.
+ * EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_print(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_msg_message_print(). Returns 0xFFFFFFFF after an error. */
@@ -101,8 +112,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_print_cr(mirk_handle *h,
 /** Another name of lumo_tarn_dp_appl_msg_message_print(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_print_unsafe(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
-/** Writes the message as an XML element that contains the payload's element. Returns the number of characters
- * written. */
+/** Writes the message as an XML element that contains the payload's element. Returns the length in bytes without the
+ * final NUL. EMSGSIZE if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_to_xml(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_msg_message_to_xml(). Returns 0xFFFFFFFF after an error. */
@@ -112,7 +123,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_toxml_cr(mirk_handle *h,
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_msg_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id, char *buffer,
     lumo_tarn_dp_appl_msg *message, uint32_t size, uint32_t *err);
 /** Creates a message from the first element with the payload's name in the runtime's document; without one, with a new
- * payload. Returns NULL after an error and, if message_buffer is not NULL, leaves a sentence there. */
+ * payload. The caller owns it. Returns NULL after an error; a message that was already allocated is leaked. Only a
+ * failed look-up of an enumeration writes a sentence to message_buffer, which may be NULL. Clear its first byte before
+ * the call. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_msg *lumo_tarn_dp_appl_msg_message_from_xml(mirk_handle *h, uint32_t ctx_id,
     void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_appl_msg_message_from_xml(). */

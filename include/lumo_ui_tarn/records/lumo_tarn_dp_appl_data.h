@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member      | type                    | meaning |
  * |-------------|-------------------------|---|
- * | show_header | boolean                 | show: print the header |
+ * | show_header | boolean                 | whether to show the header |
  * | num_lumos   | uint8_t count           | elements in lumo_data |
  * | lumo_data   | lumo_tarn_dp_appl_cfg[] | one element for each processor |
  *
@@ -22,13 +22,14 @@ typedef struct lumo_tarn_dp_appl_data lumo_tarn_dp_appl_data;
 /** The module's own type record of lumo_tarn_dp_appl_data: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_data_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_dp_appl_data_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_data_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_dp_appl_data_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * is set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
+ * operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_data_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_dp_appl_data_create(), but does not register the trace module of types. For callers that create
  * many instances. */
@@ -36,13 +37,13 @@ LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_data_create_internal(
 /** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
  * _lumo_tarn_dp_appl_data_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
- * another one. */
+ * another one. EINVAL if a nested instance on a tracking handle has none. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
- * Handles may differ. */
+/** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
+ * area. Blocks of arrays and strings are not counted. The size differs between handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_sizeof(mirk_handle *h);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_appl_data_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
  * booleans nested in it. */
@@ -68,69 +69,79 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_destroy_internal(mirk_handle *h, ui
 /** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_data_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
- * without a body; no error is set. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order; zeros if object is NULL. If the
+ * instance has no body, nothing is written and no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *object,
     uint8_t *show_header, uint8_t *num_lumos, uint32_t *err);
-/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
- * setters of single members. Has no effect on an instance without a body; no error is set. */
+/** Adjusts the instance to the domain's variant, then stores all scalar members in table order, without counts and
+ * lengths. If that variant has no body, nothing is stored and no error is set. Does not change state bytes, unlike the
+ * setters of single members. EINVAL if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *object,
     uint8_t show_header, uint32_t *err);
 /** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
- * source loses. What the destination owned before is not released. Use lumo_tarn_dp_appl_data_copy_cr() to copy. */
+ * source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if either
+ * is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the same. Use
+ * lumo_tarn_dp_appl_data_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *destination,
     lumo_tarn_dp_appl_data *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
- * strings, and clears them at the old address. */
+/** For runtimes that move instances byte by byte: makes the copy at the new location the only owner of arrays and
+ * strings, and clears them at the old location. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
-    lumo_tarn_dp_appl_data *new_place, lumo_tarn_dp_appl_data *old_place, uint32_t *err);
+    lumo_tarn_dp_appl_data *new_location, lumo_tarn_dp_appl_data *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
  * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
  * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint8_t value);
-/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
- * read. */
+/** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
+ * variant above 0, every index gives 1. The instance is not read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_is_valid_cr(mirk_handle *h, lumo_tarn_dp_appl_data *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, void **oids, uint32_t size, uint32_t *err);
-/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
- * code that has moved the instance or its state. */
+/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
+ * code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_dp_appl_data_offset_update() set, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_dp_appl_data_offset_update() recorded, at every depth.
+ * Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_dp_appl_data_marshal() needs, without the guard byte. Slightly more
- * than is written: see families.h. RA data is not counted. */
+/** Returns the buffer size in bytes that lumo_tarn_dp_appl_data_marshal() needs, without the guard byte. On a tracking
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not
+ * counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *instance);
 /** Sticky form of lumo_tarn_dp_appl_data_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_len_cr(mirk_handle *h, lumo_tarn_dp_appl_data *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
- * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
+ * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_data *instance, int32_t remaining, uint32_t *err);
-/** Same as lumo_tarn_dp_appl_data_marshal(), but the outermost frame keeps the instance's own variant whatever the
+/** Same as lumo_tarn_dp_appl_data_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_data *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
- * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
+ * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
+ * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Aborts if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_data *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -138,23 +149,25 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_unmarshal(mirk_handle *h, uint3
 /** @name Deep copy
  *  @{ */
 /** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_data_len(), and one
- * guard byte after them. The result is NULL after any error; otherwise the caller owns it. */
+ * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
+ * buffer is NULL; other errors are those of lumo_tarn_dp_appl_data_marshal() and lumo_tarn_dp_appl_data_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_data *source,
     lumo_tarn_dp_appl_data **result, void *buffer, uint32_t size, uint32_t *err);
-/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
- * workspace needs lumo_tarn_dp_appl_data_clone(). */
+/** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
+ * after any error; otherwise the caller owns the copy. A larger record needs lumo_tarn_dp_appl_data_clone(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_data *lumo_tarn_dp_appl_data_clone_cr(mirk_handle *h,
     lumo_tarn_dp_appl_data *source);
-/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
- * released. If reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
+ * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_copy_cr(mirk_handle *h, lumo_tarn_dp_appl_data *source,
     lumo_tarn_dp_appl_data *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
- * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
+/** Writes the instance as readable text under this name, indented by indent blanks. Returns the length in bytes without
+ * the final NUL. The indent of closing braces is counted but not written. Clear the buffer first, then replace NUL
+ * bytes within the returned length by blanks. EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_dp_appl_data *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_data_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -165,14 +178,17 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_print_cr(mirk_handle *h, lumo_t
 /** @name XML
  *  @{ */
 /** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
- * attribute. Returns the number of characters written. */
+ * attribute. Returns the length in bytes without the final NUL. EMSGSIZE if the text does not fit. EINVAL if the handle
+ * tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_dp_appl_data *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_data_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_toxml_cr(mirk_handle *h, lumo_tarn_dp_appl_data *instance,
     char *buffer, int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
+ * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
+ * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
+ * call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_dp_appl_data *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -187,24 +203,25 @@ LUMO_UI_TARN_API int32_t lumo_tarn_dp_appl_data_compare(const lumo_tarn_dp_appl_
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_hash(const lumo_tarn_dp_appl_data *instance, uint32_t seed);
 /** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. The word is passed to the runtime unchanged. */
+ * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *instance, void *word);
 /** @} */
 
-/** @name show_header: show: print the header
+/** @name show_header: whether to show the header
  *  @{ */
-/** Returns the address of the member show_header in the object: show: print the header. NULL after an error. */
+/** Returns the address of the member show_header in the object: whether to show the header. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_appl_data_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Returns the value of the member show_header: show: print the header. 0 after an error. */
+/** Returns the value of the member show_header: whether to show the header. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_data_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Stores the value of the source in show_header: show: print the header. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_header: whether to show the header. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_header: show: print the header. Notifies, marks the object as modified and, on a tracking
+/** Stores a value in show_header: whether to show the header. Notifies, marks the object as modified and, on a tracking
  * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint8_t value, uint32_t *err);
@@ -222,7 +239,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_show_header_state_flag_set(mirk_han
 /** Returns the address of the count num_lumos: elements in lumo_data. Read-only: it follows from the array. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_data_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Returns the count num_lumos: elements in lumo_data. 0 after an error. A count of one byte wraps at 256. */
+/** Returns the count num_lumos: elements in lumo_data. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_data_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
 /** @} */
@@ -235,11 +252,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_appl_cfg *lumo_tarn_dp_appl_data_lumo_data_get(mir
     lumo_tarn_dp_appl_data *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of lumo_data: one element for each processor. An index out of range grows the array
  * to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array and stores
- * nothing; on a tracking handle it is refused with EINVAL. */
+ * nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_lumo_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t index, lumo_tarn_dp_appl_cfg *value, uint32_t *err);
-/** Sticky form of lumo_tarn_dp_appl_data_lumo_data_set(): copies with copy_mode 0 and moves otherwise. Returns the
- * handle's last_error. */
+/** Sticky form of lumo_tarn_dp_appl_data_lumo_data_set(): copies the value with copy_mode 0 and moves it otherwise.
+ * Returns the handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_data_lumo_data_set_cr(mirk_handle *h, lumo_tarn_dp_appl_data *object,
     uint32_t index, lumo_tarn_dp_appl_cfg *value, uint32_t copy_mode);
 /** Returns the state byte of one element of lumo_data. ENOENT if the index is out of range, EINVAL if the handle's

@@ -13,8 +13,8 @@ LUMO_UI_TARN_BEGIN
  *
  * | member         | type                 | meaning |
  * |----------------|----------------------|---|
- * | exmem_info     | lumo_tarn_exmem_info | where the signature lies in memory |
- * | dp_hash_bucket | uint32_t             | bucket of the data plane's hash in which the signature lies |
+ * | exmem_info     | lumo_tarn_exmem_info | location of the signature in memory |
+ * | dp_hash_bucket | uint32_t             | bucket of the signature in the data plane's hash |
  * | pal_id         | uint32_t             | identifier of the signature in the adaptation layer |
  * | appl_name_len  | uint16_t length      | length of appl_name in bytes |
  * | appl_name      | string               | name of the application |
@@ -33,13 +33,14 @@ typedef struct lumo_tarn_dp_appl_sig lumo_tarn_dp_appl_sig;
 /** The module's own type record of lumo_tarn_dp_appl_sig: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_appl_sig_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_dp_appl_sig_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_sig_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_dp_appl_sig_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * is set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
+ * operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_sig_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_dp_appl_sig_create(), but does not register the trace module of types. For callers that create
  * many instances. */
@@ -47,13 +48,13 @@ LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_sig_create_internal(mi
 /** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
  * _lumo_tarn_dp_appl_sig_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
- * another one. */
+ * another one. EINVAL if a nested instance on a tracking handle has none. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
- * Handles may differ. */
+/** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
+ * area. Blocks of arrays and strings are not counted. The size differs between handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_sizeof(mirk_handle *h);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_appl_sig_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
  * booleans nested in it. */
@@ -79,72 +80,82 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_destroy_internal(mirk_handle *h, uin
 /** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_sig_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
- * without a body; no error is set. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order; zeros if object is NULL. If the
+ * instance has no body, nothing is written and no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     uint32_t *dp_hash_bucket, uint32_t *pal_id, uint16_t *appl_name_len, uint16_t *appl_id, uint8_t *protocol,
     uint8_t *tos, uint32_t *flags, uint16_t *dport_min, uint16_t *dport_max, uint16_t *sport_min, uint16_t *sport_max,
     uint64_t *next_ptr, uint32_t *err);
-/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
- * setters of single members. Has no effect on an instance without a body; no error is set. */
+/** Adjusts the instance to the domain's variant, then stores all scalar members in table order, without counts and
+ * lengths. If that variant has no body, nothing is stored and no error is set. Does not change state bytes, unlike the
+ * setters of single members. EINVAL if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     uint32_t dp_hash_bucket, uint32_t pal_id, uint16_t appl_id, uint8_t protocol, uint8_t tos, uint32_t flags,
     uint16_t dport_min, uint16_t dport_max, uint16_t sport_min, uint16_t sport_max, uint64_t next_ptr, uint32_t *err);
 /** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
- * source loses. What the destination owned before is not released. Use lumo_tarn_dp_appl_sig_copy_cr() to copy. */
+ * source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if either
+ * is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the same. Use
+ * lumo_tarn_dp_appl_sig_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *destination,
     lumo_tarn_dp_appl_sig *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
- * strings, and clears them at the old address. */
+/** For runtimes that move instances byte by byte: makes the copy at the new location the only owner of arrays and
+ * strings, and clears them at the old location. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
-    lumo_tarn_dp_appl_sig *new_place, lumo_tarn_dp_appl_sig *old_place, uint32_t *err);
+    lumo_tarn_dp_appl_sig *new_location, lumo_tarn_dp_appl_sig *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
  * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
  * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint8_t value);
-/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
- * read. */
+/** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
+ * variant above 0, every index gives 1. The instance is not read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_is_valid_cr(mirk_handle *h, lumo_tarn_dp_appl_sig *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, void **oids, uint32_t size, uint32_t *err);
-/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
- * code that has moved the instance or its state. */
+/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
+ * code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_dp_appl_sig_offset_update() set, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_dp_appl_sig_offset_update() recorded, at every depth.
+ * Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_dp_appl_sig_marshal() needs, without the guard byte. Slightly more
- * than is written: see families.h. RA data is not counted. */
+/** Returns the buffer size in bytes that lumo_tarn_dp_appl_sig_marshal() needs, without the guard byte. On a tracking
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not
+ * counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *instance);
 /** Sticky form of lumo_tarn_dp_appl_sig_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_len_cr(mirk_handle *h, lumo_tarn_dp_appl_sig *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
- * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
+ * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_sig *instance, int32_t remaining, uint32_t *err);
-/** Same as lumo_tarn_dp_appl_sig_marshal(), but the outermost frame keeps the instance's own variant whatever the
+/** Same as lumo_tarn_dp_appl_sig_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_sig *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
- * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
+ * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
+ * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Aborts if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_appl_sig *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -152,22 +163,24 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_unmarshal(mirk_handle *h, uint32
 /** @name Deep copy
  *  @{ */
 /** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_appl_sig_len(), and one
- * guard byte after them. The result is NULL after any error; otherwise the caller owns it. */
+ * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
+ * buffer is NULL; other errors are those of lumo_tarn_dp_appl_sig_marshal() and lumo_tarn_dp_appl_sig_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *source,
     lumo_tarn_dp_appl_sig **result, void *buffer, uint32_t size, uint32_t *err);
-/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
- * workspace needs lumo_tarn_dp_appl_sig_clone(). */
+/** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
+ * after any error; otherwise the caller owns the copy. A larger record needs lumo_tarn_dp_appl_sig_clone(). */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_sig_clone_cr(mirk_handle *h, lumo_tarn_dp_appl_sig *source);
-/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
- * released. If reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
+ * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_copy_cr(mirk_handle *h, lumo_tarn_dp_appl_sig *source,
     lumo_tarn_dp_appl_sig *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
- * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
+/** Writes the instance as readable text under this name, indented by indent blanks. Returns the length in bytes without
+ * the final NUL. The indent of closing braces is counted but not written. Clear the buffer first, then replace NUL
+ * bytes within the returned length by blanks. EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_dp_appl_sig *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_sig_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -178,14 +191,17 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_print_cr(mirk_handle *h, lumo_ta
 /** @name XML
  *  @{ */
 /** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
- * attribute. Returns the number of characters written. */
+ * attribute. Returns the length in bytes without the final NUL. EMSGSIZE if the text does not fit. EINVAL if the handle
+ * tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_dp_appl_sig *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_sig_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_toxml_cr(mirk_handle *h, lumo_tarn_dp_appl_sig *instance, char *buffer,
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
+ * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
+ * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
+ * call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_dp_appl_sig *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -199,18 +215,18 @@ LUMO_UI_TARN_API int32_t lumo_tarn_dp_appl_sig_compare(const lumo_tarn_dp_appl_s
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_hash(const lumo_tarn_dp_appl_sig *instance, uint32_t seed);
 /** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. The word is passed to the runtime unchanged. */
+ * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *instance, void *word);
 /** @} */
 
-/** @name exmem_info: where the signature lies in memory
+/** @name exmem_info: location of the signature in memory
  *  @{ */
-/** Returns the address of the member exmem_info in the object: where the signature lies in memory. NULL after an
- * error. */
+/** Returns the address of the member exmem_info in the object: location of the signature in memory. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_appl_sig_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** MOVES a record into exmem_info: where the signature lies in memory. The source loses its arrays and strings. What
+/** MOVES a record into exmem_info: location of the signature in memory. The source loses its arrays and strings. What
  * exmem_info owned before is not released. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_exmem_info_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, lumo_tarn_exmem_info *source, uint32_t *err);
@@ -223,22 +239,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_exmem_info_state_flag_set(mirk_handl
     lumo_tarn_dp_appl_sig *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_hash_bucket: bucket of the data plane's hash in which the signature lies
+/** @name dp_hash_bucket: bucket of the signature in the data plane's hash
  *  @{ */
-/** Returns the address of the member dp_hash_bucket in the object: bucket of the data plane's hash in which the
- * signature lies. NULL after an error. */
+/** Returns the address of the member dp_hash_bucket in the object: bucket of the signature in the data plane's hash.
+ * NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_dp_hash_bucket_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dp_hash_bucket: bucket of the data plane's hash in which the signature lies. 0 after
- * an error. */
+/** Returns the value of the member dp_hash_bucket: bucket of the signature in the data plane's hash. 0 after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_dp_hash_bucket_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Stores the value of the source in dp_hash_bucket: bucket of the data plane's hash in which the signature lies.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_hash_bucket: bucket of the signature in the data plane's hash. Notifies, marks
+ * the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_hash_bucket: bucket of the data plane's hash in which the signature lies. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_hash_bucket: bucket of the signature in the data plane's hash. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_hash_bucket. EINVAL if the handle's tracking is off or the object has no state. */
@@ -253,10 +269,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_state_flag_set(mirk_h
 /** @name pal_id: identifier of the signature in the adaptation layer
  *  @{ */
 /** Returns the address of the member pal_id in the object: identifier of the signature in the adaptation layer. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_pal_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member pal_id: identifier of the signature in the adaptation layer. 0 after an error. */
+/** Returns the value of the member pal_id: identifier of the signature in the adaptation layer. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_pal_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in pal_id: identifier of the signature in the adaptation layer. Notifies, marks the
@@ -282,7 +299,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_pal_id_state_flag_set(mirk_handle *h
  * string. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_appl_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the length appl_name_len in bytes: length of appl_name in bytes. 0 after an error. */
+/** Returns appl_name_len: length of appl_name in bytes. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** @} */
@@ -290,11 +307,12 @@ LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_name_len_get_value(mirk_han
 /** @name appl_name: name of the application
  *  @{ */
 /** Copies appl_name and a NUL after it: name of the application. The destination has size bytes and needs the length
- * plus 1. ENOSPC: the copy is truncated. */
+ * plus 1. ENOSPC: the copy is truncated. EINVAL: size is 0. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, char *destination, uint32_t size, uint32_t *err);
-/** Stores length bytes, truncated to 16 bits, in appl_name: name of the application. A text that ends earlier, or NULL,
- * is followed by zero bytes. */
+/** Stores length bytes of text in appl_name: name of the application. length is truncated to 16 bits. If the text ends
+ * earlier or is NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL
+ * if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const char *text, uint32_t length, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_sig_appl_name_set(). Returns the handle's last_error. */
@@ -311,10 +329,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_state_flag_set(mirk_handle
 
 /** @name appl_id: identifier of the application
  *  @{ */
-/** Returns the address of the member appl_id in the object: identifier of the application. NULL after an error. */
+/** Returns the address of the member appl_id in the object: identifier of the application. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_appl_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member appl_id: identifier of the application. 0 after an error. */
+/** Returns the value of the member appl_id: identifier of the application. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in appl_id: identifier of the application. Notifies, marks the object as modified
@@ -336,10 +355,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_id_state_flag_set(mirk_handle *
 
 /** @name protocol: protocol number to match
  *  @{ */
-/** Returns the address of the member protocol in the object: protocol number to match. NULL after an error. */
+/** Returns the address of the member protocol in the object: protocol number to match. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_sig_protocol_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member protocol: protocol number to match. 0 after an error. */
+/** Returns the value of the member protocol: protocol number to match. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_sig_protocol_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in protocol: protocol number to match. Notifies, marks the object as modified and, on
@@ -361,10 +381,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_protocol_state_flag_set(mirk_handle 
 
 /** @name tos: type-of-service value to match
  *  @{ */
-/** Returns the address of the member tos in the object: type-of-service value to match. NULL after an error. */
+/** Returns the address of the member tos in the object: type-of-service value to match. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_sig_tos_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     uint32_t *err);
-/** Returns the value of the member tos: type-of-service value to match. 0 after an error. */
+/** Returns the value of the member tos: type-of-service value to match. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_sig_tos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in tos: type-of-service value to match. Notifies, marks the object as modified and,
@@ -386,10 +407,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_tos_state_flag_set(mirk_handle *h, u
 
 /** @name flags: flags of the signature
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the signature. NULL after an error. */
+/** Returns the address of the member flags in the object: flags of the signature. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member flags: flags of the signature. 0 after an error. */
+/** Returns the value of the member flags: flags of the signature. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in flags: flags of the signature. Notifies, marks the object as modified and, on a
@@ -412,10 +434,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_flags_state_flag_set(mirk_handle *h,
 /** @name dport_min: low end of the destination port range
  *  @{ */
 /** Returns the address of the member dport_min in the object: low end of the destination port range. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_dport_min_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dport_min: low end of the destination port range. 0 after an error. */
+/** Returns the value of the member dport_min: low end of the destination port range. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_dport_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in dport_min: low end of the destination port range. Notifies, marks the object as
@@ -438,10 +461,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_min_state_flag_set(mirk_handle
 /** @name dport_max: high end of the destination port range
  *  @{ */
 /** Returns the address of the member dport_max in the object: high end of the destination port range. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_dport_max_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dport_max: high end of the destination port range. 0 after an error. */
+/** Returns the value of the member dport_max: high end of the destination port range. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_dport_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in dport_max: high end of the destination port range. Notifies, marks the object as
@@ -463,10 +487,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_max_state_flag_set(mirk_handle
 
 /** @name sport_min: low end of the source port range
  *  @{ */
-/** Returns the address of the member sport_min in the object: low end of the source port range. NULL after an error. */
+/** Returns the address of the member sport_min in the object: low end of the source port range. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_sport_min_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member sport_min: low end of the source port range. 0 after an error. */
+/** Returns the value of the member sport_min: low end of the source port range. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_sport_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in sport_min: low end of the source port range. Notifies, marks the object as
@@ -488,11 +514,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_min_state_flag_set(mirk_handle
 
 /** @name sport_max: high end of the source port range
  *  @{ */
-/** Returns the address of the member sport_max in the object: high end of the source port range. NULL after an
- * error. */
+/** Returns the address of the member sport_max in the object: high end of the source port range. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_sport_max_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member sport_max: high end of the source port range. 0 after an error. */
+/** Returns the value of the member sport_max: high end of the source port range. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_sport_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in sport_max: high end of the source port range. Notifies, marks the object as
@@ -515,10 +542,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_max_state_flag_set(mirk_handle
 /** @name next_ptr: link to the next signature in the bucket
  *  @{ */
 /** Returns the address of the member next_ptr in the object: link to the next signature in the bucket. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_appl_sig_next_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member next_ptr: link to the next signature in the bucket. 0 after an error. */
+/** Returns the value of the member next_ptr: link to the next signature in the bucket. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_appl_sig_next_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in next_ptr: link to the next signature in the bucket. Notifies, marks the object as

@@ -15,14 +15,14 @@ LUMO_UI_TARN_BEGIN
  *
  * | member             | type                    | meaning |
  * |--------------------|-------------------------|---|
- * | show_header        | boolean                 | show: the table's header |
- * | show_agg_list      | boolean                 | show: the aggregation class list |
- * | show_filter_list   | boolean                 | show: the filter class list |
- * | show_ll_header     | boolean                 | show: the header of the learn list |
- * | show_ll_list       | boolean                 | show: the learn list itself |
- * | display_all        | boolean                 | show: all of it |
- * | display_tc         | boolean                 | show: the traffic classes |
- * | display_ll         | boolean                 | show: the learn lists |
+ * | show_header        | boolean                 | whether to show the table's header |
+ * | show_agg_list      | boolean                 | whether to show the aggregation class list |
+ * | show_filter_list   | boolean                 | whether to show the filter class list |
+ * | show_ll_header     | boolean                 | whether to show the header of the learn list |
+ * | show_ll_list       | boolean                 | whether to show the learn list itself |
+ * | display_all        | boolean                 | whether to show everything |
+ * | display_tc         | boolean                 | whether to show the traffic classes |
+ * | display_ll         | boolean                 | whether to show the learn lists |
  * | fdb_info           | lumo_tarn_fdb_mem_info  | fdb memory of the table |
  * | lumo_num           | uint8_t                 | number of the lumo processor that holds the table |
  * | state              | uint8_t                 | state of the table |
@@ -35,11 +35,11 @@ LUMO_UI_TARN_BEGIN
  * | duration           | uint32_t                | duration |
  * | start_time         | uint32_t                | start time |
  * | end_time           | uint32_t                | end time |
- * | agg_tc_list_ptr    | uint64_t                | where the aggregation class list lies in the data plane |
+ * | agg_tc_list_ptr    | uint64_t                | location of the aggregation class list in the data plane |
  * | agg_tc_list        | lumo_tarn_dp_tc_list    | aggregation classes |
- * | filter_tc_list_ptr | uint64_t                | where the filter class list lies in the data plane |
+ * | filter_tc_list_ptr | uint64_t                | location of the filter class list in the data plane |
  * | filter_tc_list     | lumo_tarn_dp_tc_list    | filter classes |
- * | learn_list_ptr     | uint64_t                | where the learn list lies in the data plane |
+ * | learn_list_ptr     | uint64_t                | location of the learn list in the data plane |
  * | learn_list         | lumo_tarn_dp_learn_list | learn list |
  * | key_mask           | uint32_t                | mask of the table's key |
  * | thruput_head_ptr   | uint64_t                | head of the throughput entries in the data plane |
@@ -52,13 +52,14 @@ typedef struct lumo_tarn_dp_tt_table lumo_tarn_dp_tt_table;
 /** The module's own type record of lumo_tarn_dp_tt_table: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_dp_tt_table_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_dp_tt_table_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_dp_tt_table_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * is set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
+ * operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_dp_tt_table_create(), but does not register the trace module of types. For callers that create
  * many instances. */
@@ -66,13 +67,13 @@ LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_create_internal(mi
 /** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
  * _lumo_tarn_dp_tt_table_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
- * another one. */
+ * another one. EINVAL if a nested instance on a tracking handle has none. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
- * Handles may differ. */
+/** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
+ * area. Blocks of arrays and strings are not counted. The size differs between handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_sizeof(mirk_handle *h);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_tt_table_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
  * booleans nested in it. */
@@ -98,8 +99,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_destroy_internal(mirk_handle *h, uin
 /** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
- * without a body; no error is set. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order; zeros if object is NULL. If the
+ * instance has no body, nothing is written and no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     uint8_t *show_header, uint8_t *show_agg_list, uint8_t *show_filter_list, uint8_t *show_ll_header,
     uint8_t *show_ll_list, uint8_t *display_all, uint8_t *display_tc, uint8_t *display_ll, uint8_t *lumo_num,
@@ -108,8 +109,9 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_get_all(mirk_handle *h, uint32_t ctx
     uint64_t *agg_tc_list_ptr, uint64_t *filter_tc_list_ptr, uint64_t *learn_list_ptr, uint32_t *key_mask,
     uint64_t *thruput_head_ptr, uint32_t *thruput_entries, uint64_t *delay_head_ptr, uint32_t *delay_entries,
     uint32_t *err);
-/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
- * setters of single members. Has no effect on an instance without a body; no error is set. */
+/** Adjusts the instance to the domain's variant, then stores all scalar members in table order, without counts and
+ * lengths. If that variant has no body, nothing is stored and no error is set. Does not change state bytes, unlike the
+ * setters of single members. EINVAL if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     uint8_t show_header, uint8_t show_agg_list, uint8_t show_filter_list, uint8_t show_ll_header, uint8_t show_ll_list,
     uint8_t display_all, uint8_t display_tc, uint8_t display_ll, uint8_t lumo_num, uint8_t state, uint8_t learn_type,
@@ -118,60 +120,69 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_set_all(mirk_handle *h, uint32_t ctx
     uint64_t learn_list_ptr, uint32_t key_mask, uint64_t thruput_head_ptr, uint32_t thruput_entries,
     uint64_t delay_head_ptr, uint32_t delay_entries, uint32_t *err);
 /** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
- * source loses. What the destination owned before is not released. Use lumo_tarn_dp_tt_table_copy_cr() to copy. */
+ * source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if either
+ * is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the same. Use
+ * lumo_tarn_dp_tt_table_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *destination,
     lumo_tarn_dp_tt_table *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
- * strings, and clears them at the old address. */
+/** For runtimes that move instances byte by byte: makes the copy at the new location the only owner of arrays and
+ * strings, and clears them at the old location. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
-    lumo_tarn_dp_tt_table *new_place, lumo_tarn_dp_tt_table *old_place, uint32_t *err);
+    lumo_tarn_dp_tt_table *new_location, lumo_tarn_dp_tt_table *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
  * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
  * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value);
-/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
- * read. */
+/** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
+ * variant above 0, every index gives 1. The instance is not read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_is_valid_cr(mirk_handle *h, lumo_tarn_dp_tt_table *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, void **oids, uint32_t size, uint32_t *err);
-/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
- * code that has moved the instance or its state. */
+/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
+ * code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_dp_tt_table_offset_update() set, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_dp_tt_table_offset_update() recorded, at every depth.
+ * Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_dp_tt_table_marshal() needs, without the guard byte. Slightly more
- * than is written: see families.h. RA data is not counted. */
+/** Returns the buffer size in bytes that lumo_tarn_dp_tt_table_marshal() needs, without the guard byte. On a tracking
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not
+ * counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *instance);
 /** Sticky form of lumo_tarn_dp_tt_table_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_len_cr(mirk_handle *h, lumo_tarn_dp_tt_table *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
- * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
+ * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, int32_t remaining, uint32_t *err);
-/** Same as lumo_tarn_dp_tt_table_marshal(), but the outermost frame keeps the instance's own variant whatever the
+/** Same as lumo_tarn_dp_tt_table_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
- * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
+ * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
+ * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Aborts if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -179,22 +190,24 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_unmarshal(mirk_handle *h, uint32
 /** @name Deep copy
  *  @{ */
 /** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tt_table_len(), and one
- * guard byte after them. The result is NULL after any error; otherwise the caller owns it. */
+ * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
+ * buffer is NULL; other errors are those of lumo_tarn_dp_tt_table_marshal() and lumo_tarn_dp_tt_table_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *source,
     lumo_tarn_dp_tt_table **result, void *buffer, uint32_t size, uint32_t *err);
-/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
- * workspace needs lumo_tarn_dp_tt_table_clone(). */
+/** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
+ * after any error; otherwise the caller owns the copy. A larger record needs lumo_tarn_dp_tt_table_clone(). */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_clone_cr(mirk_handle *h, lumo_tarn_dp_tt_table *source);
-/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
- * released. If reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
+ * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_copy_cr(mirk_handle *h, lumo_tarn_dp_tt_table *source,
     lumo_tarn_dp_tt_table *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
- * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
+/** Writes the instance as readable text under this name, indented by indent blanks. Returns the length in bytes without
+ * the final NUL. The indent of closing braces is counted but not written. Clear the buffer first, then replace NUL
+ * bytes within the returned length by blanks. EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_dp_tt_table *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_tt_table_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -205,14 +218,17 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_print_cr(mirk_handle *h, lumo_ta
 /** @name XML
  *  @{ */
 /** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
- * attribute. Returns the number of characters written. */
+ * attribute. Returns the length in bytes without the final NUL. EMSGSIZE if the text does not fit. EINVAL if the handle
+ * tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_dp_tt_table *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_tt_table_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_toxml_cr(mirk_handle *h, lumo_tarn_dp_tt_table *instance, char *buffer,
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
+ * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
+ * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
+ * call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_dp_tt_table *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -226,25 +242,27 @@ LUMO_UI_TARN_API int32_t lumo_tarn_dp_tt_table_compare(const lumo_tarn_dp_tt_tab
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_hash(const lumo_tarn_dp_tt_table *instance, uint32_t seed);
 /** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. The word is passed to the runtime unchanged. */
+ * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *instance, void *word);
 /** @} */
 
-/** @name show_header: show: the table's header
+/** @name show_header: whether to show the table's header
  *  @{ */
-/** Returns the address of the member show_header in the object: show: the table's header. NULL after an error. */
+/** Returns the address of the member show_header in the object: whether to show the table's header. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_header: show: the table's header. 0 after an error. */
+/** Returns the value of the member show_header: whether to show the table's header. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in show_header: show: the table's header. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_header: whether to show the table's header. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_header: show: the table's header. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in show_header: whether to show the table's header. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -256,21 +274,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_state_flag_set(mirk_hand
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name show_agg_list: show: the aggregation class list
+/** @name show_agg_list: whether to show the aggregation class list
  *  @{ */
-/** Returns the address of the member show_agg_list in the object: show: the aggregation class list. NULL after an
- * error. */
+/** Returns the address of the member show_agg_list in the object: whether to show the aggregation class list. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_agg_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_agg_list: show: the aggregation class list. 0 after an error. */
+/** Returns the value of the member show_agg_list: whether to show the aggregation class list. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_agg_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in show_agg_list: show: the aggregation class list. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_agg_list: whether to show the aggregation class list. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_agg_list: show: the aggregation class list. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in show_agg_list: whether to show the aggregation class list. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_agg_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -282,21 +301,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_state_flag_set(mirk_ha
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name show_filter_list: show: the filter class list
+/** @name show_filter_list: whether to show the filter class list
  *  @{ */
-/** Returns the address of the member show_filter_list in the object: show: the filter class list. NULL after an
- * error. */
+/** Returns the address of the member show_filter_list in the object: whether to show the filter class list. NULL after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_filter_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_filter_list: show: the filter class list. 0 after an error. */
+/** Returns the value of the member show_filter_list: whether to show the filter class list. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_filter_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in show_filter_list: show: the filter class list. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_filter_list: whether to show the filter class list. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_filter_list: show: the filter class list. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in show_filter_list: whether to show the filter class list. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_filter_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -308,21 +328,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_state_flag_set(mirk
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name show_ll_header: show: the header of the learn list
+/** @name show_ll_header: whether to show the header of the learn list
  *  @{ */
-/** Returns the address of the member show_ll_header in the object: show: the header of the learn list. NULL after an
- * error. */
+/** Returns the address of the member show_ll_header in the object: whether to show the header of the learn list. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_ll_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_ll_header: show: the header of the learn list. 0 after an error. */
+/** Returns the value of the member show_ll_header: whether to show the header of the learn list. 0 after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in show_ll_header: show: the header of the learn list. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_ll_header: whether to show the header of the learn list. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_ll_header: show: the header of the learn list. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores a value in show_ll_header: whether to show the header of the learn list. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_ll_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -334,20 +355,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_state_flag_set(mirk_h
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name show_ll_list: show: the learn list itself
+/** @name show_ll_list: whether to show the learn list itself
  *  @{ */
-/** Returns the address of the member show_ll_list in the object: show: the learn list itself. NULL after an error. */
+/** Returns the address of the member show_ll_list in the object: whether to show the learn list itself. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_ll_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_ll_list: show: the learn list itself. 0 after an error. */
+/** Returns the value of the member show_ll_list: whether to show the learn list itself. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in show_ll_list: show: the learn list itself. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in show_ll_list: whether to show the learn list itself. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in show_ll_list: show: the learn list itself. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in show_ll_list: whether to show the learn list itself. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_ll_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -359,20 +382,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_state_flag_set(mirk_han
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_all: show: all of it
+/** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: show: all of it. NULL after an error. */
+/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_all: show: all of it. 0 after an error. */
+/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in display_all: show: all of it. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_all: show: all of it. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -384,20 +408,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_state_flag_set(mirk_hand
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_tc: show: the traffic classes
+/** @name display_tc: whether to show the traffic classes
  *  @{ */
-/** Returns the address of the member display_tc in the object: show: the traffic classes. NULL after an error. */
+/** Returns the address of the member display_tc in the object: whether to show the traffic classes. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_tc_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_tc: show: the traffic classes. 0 after an error. */
+/** Returns the value of the member display_tc: whether to show the traffic classes. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_tc_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in display_tc: show: the traffic classes. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_tc: whether to show the traffic classes. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_tc: show: the traffic classes. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in display_tc: whether to show the traffic classes. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_tc. EINVAL if the handle's tracking is off or the object has no state. */
@@ -409,20 +435,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_state_flag_set(mirk_handl
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_ll: show: the learn lists
+/** @name display_ll: whether to show the learn lists
  *  @{ */
-/** Returns the address of the member display_ll in the object: show: the learn lists. NULL after an error. */
+/** Returns the address of the member display_ll in the object: whether to show the learn lists. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_ll_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_ll: show: the learn lists. 0 after an error. */
+/** Returns the value of the member display_ll: whether to show the learn lists. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_ll_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in display_ll: show: the learn lists. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_ll: whether to show the learn lists. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_ll: show: the learn lists. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in display_ll: whether to show the learn lists. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_ll. EINVAL if the handle's tracking is off or the object has no state. */
@@ -436,7 +464,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_state_flag_set(mirk_handl
 
 /** @name fdb_info: fdb memory of the table
  *  @{ */
-/** Returns the address of the member fdb_info in the object: fdb memory of the table. NULL after an error. */
+/** Returns the address of the member fdb_info in the object: fdb memory of the table. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_dp_tt_table_fdb_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into fdb_info: fdb memory of the table. The source loses its arrays and strings. What fdb_info owned
@@ -455,10 +484,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_fdb_info_state_flag_set(mirk_handle 
 /** @name lumo_num: number of the lumo processor that holds the table
  *  @{ */
 /** Returns the address of the member lumo_num in the object: number of the lumo processor that holds the table. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor that holds the table. 0 after an error. */
+/** Returns the value of the member lumo_num: number of the lumo processor that holds the table. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor that holds the table. Notifies, marks the
@@ -480,10 +510,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_state_flag_set(mirk_handle 
 
 /** @name state: state of the table
  *  @{ */
-/** Returns the address of the member state in the object: state of the table. NULL after an error. */
+/** Returns the address of the member state in the object: state of the table. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_state_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member state: state of the table. 0 after an error. */
+/** Returns the value of the member state: state of the table. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_state_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in state: state of the table. Notifies, marks the object as modified and, on a
@@ -505,10 +536,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_state_flag_set(mirk_handle *h,
 
 /** @name learn_type: type of learning
  *  @{ */
-/** Returns the address of the member learn_type in the object: type of learning. NULL after an error. */
+/** Returns the address of the member learn_type in the object: type of learning. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member learn_type: type of learning. 0 after an error. */
+/** Returns the value of the member learn_type: type of learning. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in learn_type: type of learning. Notifies, marks the object as modified and, on a
@@ -530,10 +562,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_state_flag_set(mirk_handl
 
 /** @name agg_type: type of aggregation
  *  @{ */
-/** Returns the address of the member agg_type in the object: type of aggregation. NULL after an error. */
+/** Returns the address of the member agg_type in the object: type of aggregation. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member agg_type: type of aggregation. 0 after an error. */
+/** Returns the value of the member agg_type: type of aggregation. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in agg_type: type of aggregation. Notifies, marks the object as modified and, on a
@@ -555,10 +588,10 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_state_flag_set(mirk_handle 
 
 /** @name min_mask: minimum mask
  *  @{ */
-/** Returns the address of the member min_mask in the object: minimum mask. NULL after an error. */
+/** Returns the address of the member min_mask in the object: minimum mask. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_min_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member min_mask: minimum mask. 0 after an error. */
+/** Returns the value of the member min_mask: minimum mask. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_min_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in min_mask: minimum mask. Notifies, marks the object as modified and, on a tracking
@@ -580,10 +613,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_state_flag_set(mirk_handle 
 
 /** @name tt_bit_flags: flags of the table
  *  @{ */
-/** Returns the address of the member tt_bit_flags in the object: flags of the table. NULL after an error. */
+/** Returns the address of the member tt_bit_flags in the object: flags of the table. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_tt_bit_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member tt_bit_flags: flags of the table. 0 after an error. */
+/** Returns the value of the member tt_bit_flags: flags of the table. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_tt_bit_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in tt_bit_flags: flags of the table. Notifies, marks the object as modified and, on a
@@ -605,10 +639,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_set(mirk_han
 
 /** @name aging_type: type of aging
  *  @{ */
-/** Returns the address of the member aging_type in the object: type of aging. NULL after an error. */
+/** Returns the address of the member aging_type in the object: type of aging. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tt_table_aging_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member aging_type: type of aging. 0 after an error. */
+/** Returns the value of the member aging_type: type of aging. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tt_table_aging_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in aging_type: type of aging. Notifies, marks the object as modified and, on a
@@ -630,11 +665,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_state_flag_set(mirk_handl
 
 /** @name num_prefixes: number of prefixes in the table
  *  @{ */
-/** Returns the address of the member num_prefixes in the object: number of prefixes in the table. NULL after an
- * error. */
+/** Returns the address of the member num_prefixes in the object: number of prefixes in the table. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_num_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member num_prefixes: number of prefixes in the table. 0 after an error. */
+/** Returns the value of the member num_prefixes: number of prefixes in the table. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_num_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in num_prefixes: number of prefixes in the table. Notifies, marks the object as
@@ -656,10 +692,10 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_state_flag_set(mirk_han
 
 /** @name duration: duration
  *  @{ */
-/** Returns the address of the member duration in the object: duration. NULL after an error. */
+/** Returns the address of the member duration in the object: duration. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_duration_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member duration: duration. 0 after an error. */
+/** Returns the value of the member duration: duration. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_duration_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in duration: duration. Notifies, marks the object as modified and, on a tracking
@@ -681,10 +717,10 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_state_flag_set(mirk_handle 
 
 /** @name start_time: start time
  *  @{ */
-/** Returns the address of the member start_time in the object: start time. NULL after an error. */
+/** Returns the address of the member start_time in the object: start time. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_start_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member start_time: start time. 0 after an error. */
+/** Returns the value of the member start_time: start time. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_start_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in start_time: start time. Notifies, marks the object as modified and, on a tracking
@@ -706,10 +742,10 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_state_flag_set(mirk_handl
 
 /** @name end_time: end time
  *  @{ */
-/** Returns the address of the member end_time in the object: end time. NULL after an error. */
+/** Returns the address of the member end_time in the object: end time. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_end_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member end_time: end time. 0 after an error. */
+/** Returns the value of the member end_time: end time. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_end_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in end_time: end time. Notifies, marks the object as modified and, on a tracking
@@ -729,21 +765,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_state_flag_set(mirk_handle 
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name agg_tc_list_ptr: where the aggregation class list lies in the data plane
+/** @name agg_tc_list_ptr: location of the aggregation class list in the data plane
  *  @{ */
-/** Returns the address of the member agg_tc_list_ptr in the object: where the aggregation class list lies in the data
- * plane. NULL after an error. */
+/** Returns the address of the member agg_tc_list_ptr in the object: location of the aggregation class list in the data
+ * plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_agg_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member agg_tc_list_ptr: where the aggregation class list lies in the data plane. 0 after an
- * error. */
+/** Returns the value of the member agg_tc_list_ptr: location of the aggregation class list in the data plane. 0 after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_agg_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in agg_tc_list_ptr: where the aggregation class list lies in the data plane.
+/** Stores the value of the source in agg_tc_list_ptr: location of the aggregation class list in the data plane.
  * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in agg_tc_list_ptr: where the aggregation class list lies in the data plane. Notifies, marks the
+/** Stores a value in agg_tc_list_ptr: location of the aggregation class list in the data plane. Notifies, marks the
  * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
@@ -758,7 +794,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_set(mirk_
 
 /** @name agg_tc_list: aggregation classes
  *  @{ */
-/** Returns the address of the member agg_tc_list in the object: aggregation classes. NULL after an error. */
+/** Returns the address of the member agg_tc_list in the object: aggregation classes. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_agg_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into agg_tc_list: aggregation classes. The source loses its arrays and strings. What agg_tc_list
@@ -774,22 +811,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_state_flag_set(mirk_hand
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name filter_tc_list_ptr: where the filter class list lies in the data plane
+/** @name filter_tc_list_ptr: location of the filter class list in the data plane
  *  @{ */
-/** Returns the address of the member filter_tc_list_ptr in the object: where the filter class list lies in the data
- * plane. NULL after an error. */
+/** Returns the address of the member filter_tc_list_ptr in the object: location of the filter class list in the data
+ * plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_filter_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member filter_tc_list_ptr: where the filter class list lies in the data plane. 0 after an
- * error. */
+/** Returns the value of the member filter_tc_list_ptr: location of the filter class list in the data plane. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_filter_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in filter_tc_list_ptr: where the filter class list lies in the data plane. Notifies,
+/** Stores the value of the source in filter_tc_list_ptr: location of the filter class list in the data plane. Notifies,
  * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in filter_tc_list_ptr: where the filter class list lies in the data plane. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in filter_tc_list_ptr: location of the filter class list in the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -803,7 +840,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_set(mi
 
 /** @name filter_tc_list: filter classes
  *  @{ */
-/** Returns the address of the member filter_tc_list in the object: filter classes. NULL after an error. */
+/** Returns the address of the member filter_tc_list in the object: filter classes. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_filter_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into filter_tc_list: filter classes. The source loses its arrays and strings. What filter_tc_list
@@ -819,20 +857,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_state_flag_set(mirk_h
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name learn_list_ptr: where the learn list lies in the data plane
+/** @name learn_list_ptr: location of the learn list in the data plane
  *  @{ */
-/** Returns the address of the member learn_list_ptr in the object: where the learn list lies in the data plane. NULL
- * after an error. */
+/** Returns the address of the member learn_list_ptr in the object: location of the learn list in the data plane. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_learn_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member learn_list_ptr: where the learn list lies in the data plane. 0 after an error. */
+/** Returns the value of the member learn_list_ptr: location of the learn list in the data plane. 0 after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_learn_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in learn_list_ptr: where the learn list lies in the data plane. Notifies, marks the
+/** Stores the value of the source in learn_list_ptr: location of the learn list in the data plane. Notifies, marks the
  * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in learn_list_ptr: where the learn list lies in the data plane. Notifies, marks the object as
+/** Stores a value in learn_list_ptr: location of the learn list in the data plane. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
@@ -847,7 +886,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_set(mirk_h
 
 /** @name learn_list: learn list
  *  @{ */
-/** Returns the address of the member learn_list in the object: learn list. NULL after an error. */
+/** Returns the address of the member learn_list in the object: learn list. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_dp_learn_list *lumo_tarn_dp_tt_table_learn_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into learn_list: learn list. The source loses its arrays and strings. What learn_list owned before is
@@ -865,10 +904,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_state_flag_set(mirk_handl
 
 /** @name key_mask: mask of the table's key
  *  @{ */
-/** Returns the address of the member key_mask in the object: mask of the table's key. NULL after an error. */
+/** Returns the address of the member key_mask in the object: mask of the table's key. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_key_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member key_mask: mask of the table's key. 0 after an error. */
+/** Returns the value of the member key_mask: mask of the table's key. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_key_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in key_mask: mask of the table's key. Notifies, marks the object as modified and, on
@@ -891,11 +931,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_state_flag_set(mirk_handle 
 /** @name thruput_head_ptr: head of the throughput entries in the data plane
  *  @{ */
 /** Returns the address of the member thruput_head_ptr in the object: head of the throughput entries in the data plane.
- * NULL after an error. */
+ * NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_thruput_head_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member thruput_head_ptr: head of the throughput entries in the data plane. 0 after an
- * error. */
+/** Returns the value of the member thruput_head_ptr: head of the throughput entries in the data plane. 0 after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_thruput_head_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in thruput_head_ptr: head of the throughput entries in the data plane. Notifies,
@@ -917,11 +957,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_set(mirk
 
 /** @name thruput_entries: number of throughput entries
  *  @{ */
-/** Returns the address of the member thruput_entries in the object: number of throughput entries. NULL after an
- * error. */
+/** Returns the address of the member thruput_entries in the object: number of throughput entries. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_thruput_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member thruput_entries: number of throughput entries. 0 after an error. */
+/** Returns the value of the member thruput_entries: number of throughput entries. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_thruput_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in thruput_entries: number of throughput entries. Notifies, marks the object as
@@ -944,10 +985,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_state_flag_set(mirk_
 /** @name delay_head_ptr: head of the delay entries in the data plane
  *  @{ */
 /** Returns the address of the member delay_head_ptr in the object: head of the delay entries in the data plane. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_delay_head_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member delay_head_ptr: head of the delay entries in the data plane. 0 after an error. */
+/** Returns the value of the member delay_head_ptr: head of the delay entries in the data plane. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_delay_head_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in delay_head_ptr: head of the delay entries in the data plane. Notifies, marks the
@@ -969,10 +1011,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_set(mirk_h
 
 /** @name delay_entries: number of delay entries
  *  @{ */
-/** Returns the address of the member delay_entries in the object: number of delay entries. NULL after an error. */
+/** Returns the address of the member delay_entries in the object: number of delay entries. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_delay_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member delay_entries: number of delay entries. 0 after an error. */
+/** Returns the value of the member delay_entries: number of delay entries. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_delay_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in delay_entries: number of delay entries. Notifies, marks the object as modified

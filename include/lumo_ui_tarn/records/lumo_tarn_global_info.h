@@ -1,6 +1,6 @@
 /* Generated from the schema; edit the tables there and run tools/regenerate. */
 /** @file
- * lumo_tarn_global_info.h - what holds for the whole client process. */
+ * lumo_tarn_global_info.h - state of the whole client process. */
 #ifndef LUMO_UI_TARN_RECORDS_LUMO_TARN_GLOBAL_INFO_H
 #define LUMO_UI_TARN_RECORDS_LUMO_TARN_GLOBAL_INFO_H
 
@@ -9,20 +9,20 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** What holds for the whole client process.
+/** State of the whole client process.
  *
  * | member               | type                     | meaning |
  * |----------------------|--------------------------|---|
- * | display_all          | boolean                  | show: everything |
- * | display_plat_cfg     | boolean                  | show: the platform configuration |
- * | display_proc_ctx     | boolean                  | show: the process context |
- * | platform_cfg_set     | uint32_t                 | flag word: the platform configuration has been set |
+ * | display_all          | boolean                  | whether to show everything |
+ * | display_plat_cfg     | boolean                  | whether to show the platform configuration |
+ * | display_proc_ctx     | boolean                  | whether to show the process context |
+ * | platform_cfg_set     | uint32_t                 | flag word, set if the platform configuration is set |
  * | max_tt_cache_entries | uint32_t                 | maximum number of tt cache entries |
  * | max_mp_cache_entries | uint32_t                 | maximum number of mp cache entries |
  * | lumo_evctx_p         | uint64_t                 | event context of the lumo side |
  * | smc_evctx_p          | uint64_t                 | event context of the smc side |
  * | listen_chan          | uint64_t                 | the listening channel |
- * | ha_init              | uint32_t                 | flag word: high availability initialised |
+ * | ha_init              | uint32_t                 | flag word, set if high availability is initialized |
  * | mdr                  | uint32_t                 | flag word named mdr |
  * | num_lumos            | uint8_t                  | number of processors |
  * | num_complexes        | uint8_t                  | number of complexes |
@@ -33,13 +33,14 @@ typedef struct lumo_tarn_global_info lumo_tarn_global_info;
 /** The module's own type record of lumo_tarn_global_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_global_info_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_global_info_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_global_info_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_global_info_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * is set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
+ * operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_global_info_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_global_info_create(), but does not register the trace module of types. For callers that create
  * many instances. */
@@ -47,13 +48,13 @@ LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_global_info_create_internal(mi
 /** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
  * _lumo_tarn_global_info_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
- * another one. */
+ * another one. EINVAL if a nested instance on a tracking handle has none. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
- * Handles may differ. */
+/** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
+ * area. Blocks of arrays and strings are not counted. The size differs between handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_sizeof(mirk_handle *h);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_global_info_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
  * booleans nested in it. */
@@ -79,73 +80,83 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_destroy_internal(mirk_handle *h, uin
 /** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_global_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
- * without a body; no error is set. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order; zeros if object is NULL. If the
+ * instance has no body, nothing is written and no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     uint8_t *display_all, uint8_t *display_plat_cfg, uint8_t *display_proc_ctx, uint32_t *platform_cfg_set,
     uint32_t *max_tt_cache_entries, uint32_t *max_mp_cache_entries, uint64_t *lumo_evctx_p, uint64_t *smc_evctx_p,
     uint64_t *listen_chan, uint32_t *ha_init, uint32_t *mdr, uint8_t *num_lumos, uint8_t *num_complexes, uint32_t *err);
-/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
- * setters of single members. Has no effect on an instance without a body; no error is set. */
+/** Adjusts the instance to the domain's variant, then stores all scalar members in table order, without counts and
+ * lengths. If that variant has no body, nothing is stored and no error is set. Does not change state bytes, unlike the
+ * setters of single members. EINVAL if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     uint8_t display_all, uint8_t display_plat_cfg, uint8_t display_proc_ctx, uint32_t platform_cfg_set,
     uint32_t max_tt_cache_entries, uint32_t max_mp_cache_entries, uint64_t lumo_evctx_p, uint64_t smc_evctx_p,
     uint64_t listen_chan, uint32_t ha_init, uint32_t mdr, uint8_t num_lumos, uint8_t num_complexes, uint32_t *err);
 /** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
- * source loses. What the destination owned before is not released. Use lumo_tarn_global_info_copy_cr() to copy. */
+ * source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if either
+ * is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the same. Use
+ * lumo_tarn_global_info_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *destination,
     lumo_tarn_global_info *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
- * strings, and clears them at the old address. */
+/** For runtimes that move instances byte by byte: makes the copy at the new location the only owner of arrays and
+ * strings, and clears them at the old location. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
-    lumo_tarn_global_info *new_place, lumo_tarn_global_info *old_place, uint32_t *err);
+    lumo_tarn_global_info *new_location, lumo_tarn_global_info *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
  * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
  * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value);
-/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
- * read. */
+/** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
+ * variant above 0, every index gives 1. The instance is not read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_is_valid_cr(mirk_handle *h, lumo_tarn_global_info *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, void **oids, uint32_t size, uint32_t *err);
-/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
- * code that has moved the instance or its state. */
+/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
+ * code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_global_info_offset_update() set, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_global_info_offset_update() recorded, at every depth.
+ * Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_global_info_marshal() needs, without the guard byte. Slightly more
- * than is written: see families.h. RA data is not counted. */
+/** Returns the buffer size in bytes that lumo_tarn_global_info_marshal() needs, without the guard byte. On a tracking
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not
+ * counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *instance);
 /** Sticky form of lumo_tarn_global_info_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_len_cr(mirk_handle *h, lumo_tarn_global_info *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
- * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
+ * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_global_info *instance, int32_t remaining, uint32_t *err);
-/** Same as lumo_tarn_global_info_marshal(), but the outermost frame keeps the instance's own variant whatever the
+/** Same as lumo_tarn_global_info_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_global_info *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
- * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
+ * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
+ * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Aborts if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_global_info *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -153,22 +164,24 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_unmarshal(mirk_handle *h, uint32
 /** @name Deep copy
  *  @{ */
 /** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_global_info_len(), and one
- * guard byte after them. The result is NULL after any error; otherwise the caller owns it. */
+ * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
+ * buffer is NULL; other errors are those of lumo_tarn_global_info_marshal() and lumo_tarn_global_info_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_global_info_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *source,
     lumo_tarn_global_info **result, void *buffer, uint32_t size, uint32_t *err);
-/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
- * workspace needs lumo_tarn_global_info_clone(). */
+/** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
+ * after any error; otherwise the caller owns the copy. A larger record needs lumo_tarn_global_info_clone(). */
 LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_global_info_clone_cr(mirk_handle *h, lumo_tarn_global_info *source);
-/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
- * released. If reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
+ * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_copy_cr(mirk_handle *h, lumo_tarn_global_info *source,
     lumo_tarn_global_info *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
- * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
+/** Writes the instance as readable text under this name, indented by indent blanks. Returns the length in bytes without
+ * the final NUL. The indent of closing braces is counted but not written. Clear the buffer first, then replace NUL
+ * bytes within the returned length by blanks. EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_global_info *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_global_info_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -179,14 +192,17 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_print_cr(mirk_handle *h, lumo_ta
 /** @name XML
  *  @{ */
 /** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
- * attribute. Returns the number of characters written. */
+ * attribute. Returns the length in bytes without the final NUL. EMSGSIZE if the text does not fit. EINVAL if the handle
+ * tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_global_info *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_global_info_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_toxml_cr(mirk_handle *h, lumo_tarn_global_info *instance, char *buffer,
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
+ * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
+ * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
+ * call. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_global_info *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -200,25 +216,26 @@ LUMO_UI_TARN_API int32_t lumo_tarn_global_info_compare(const lumo_tarn_global_in
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_hash(const lumo_tarn_global_info *instance, uint32_t seed);
 /** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. The word is passed to the runtime unchanged. */
+ * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *instance, void *word);
 /** @} */
 
-/** @name display_all: show: everything
+/** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: show: everything. NULL after an error. */
+/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_all: show: everything. 0 after an error. */
+/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Stores the value of the source in display_all: show: everything. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_all: show: everything. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -230,21 +247,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_state_flag_set(mirk_hand
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_plat_cfg: show: the platform configuration
+/** @name display_plat_cfg: whether to show the platform configuration
  *  @{ */
-/** Returns the address of the member display_plat_cfg in the object: show: the platform configuration. NULL after an
- * error. */
+/** Returns the address of the member display_plat_cfg in the object: whether to show the platform configuration. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_plat_cfg_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_plat_cfg: show: the platform configuration. 0 after an error. */
+/** Returns the value of the member display_plat_cfg: whether to show the platform configuration. 0 after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_plat_cfg_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Stores the value of the source in display_plat_cfg: show: the platform configuration. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_plat_cfg: whether to show the platform configuration. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_plat_cfg: show: the platform configuration. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores a value in display_plat_cfg: whether to show the platform configuration. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_plat_cfg. EINVAL if the handle's tracking is off or the object has no state. */
@@ -256,20 +274,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_state_flag_set(mirk
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_proc_ctx: show: the process context
+/** @name display_proc_ctx: whether to show the process context
  *  @{ */
-/** Returns the address of the member display_proc_ctx in the object: show: the process context. NULL after an error. */
+/** Returns the address of the member display_proc_ctx in the object: whether to show the process context. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_proc_ctx_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_proc_ctx: show: the process context. 0 after an error. */
+/** Returns the value of the member display_proc_ctx: whether to show the process context. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_proc_ctx_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Stores the value of the source in display_proc_ctx: show: the process context. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_proc_ctx: whether to show the process context. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_proc_ctx: show: the process context. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in display_proc_ctx: whether to show the process context. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_proc_ctx. EINVAL if the handle's tracking is off or the object has no state. */
@@ -281,21 +301,21 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_state_flag_set(mirk
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name platform_cfg_set: flag word: the platform configuration has been set
+/** @name platform_cfg_set: flag word, set if the platform configuration is set
  *  @{ */
-/** Returns the address of the member platform_cfg_set in the object: flag word: the platform configuration has been
- * set. NULL after an error. */
+/** Returns the address of the member platform_cfg_set in the object: flag word, set if the platform configuration is
+ * set. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_platform_cfg_set_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member platform_cfg_set: flag word: the platform configuration has been set. 0 after an
- * error. */
+/** Returns the value of the member platform_cfg_set: flag word, set if the platform configuration is set. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_platform_cfg_set_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Stores the value of the source in platform_cfg_set: flag word: the platform configuration has been set. Notifies,
+/** Stores the value of the source in platform_cfg_set: flag word, set if the platform configuration is set. Notifies,
  * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in platform_cfg_set: flag word: the platform configuration has been set. Notifies, marks the object
+/** Stores a value in platform_cfg_set: flag word, set if the platform configuration is set. Notifies, marks the object
  * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
@@ -311,10 +331,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_state_flag_set(mirk
 /** @name max_tt_cache_entries: maximum number of tt cache entries
  *  @{ */
 /** Returns the address of the member max_tt_cache_entries in the object: maximum number of tt cache entries. NULL after
- * an error. */
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_max_tt_cache_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member max_tt_cache_entries: maximum number of tt cache entries. 0 after an error. */
+/** Returns the value of the member max_tt_cache_entries: maximum number of tt cache entries. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_max_tt_cache_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in max_tt_cache_entries: maximum number of tt cache entries. Notifies, marks the
@@ -338,10 +359,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_max_tt_cache_entries_state_flag_set(
 /** @name max_mp_cache_entries: maximum number of mp cache entries
  *  @{ */
 /** Returns the address of the member max_mp_cache_entries in the object: maximum number of mp cache entries. NULL after
- * an error. */
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_max_mp_cache_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member max_mp_cache_entries: maximum number of mp cache entries. 0 after an error. */
+/** Returns the value of the member max_mp_cache_entries: maximum number of mp cache entries. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_max_mp_cache_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in max_mp_cache_entries: maximum number of mp cache entries. Notifies, marks the
@@ -364,11 +386,12 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_max_mp_cache_entries_state_flag_set(
 
 /** @name lumo_evctx_p: event context of the lumo side
  *  @{ */
-/** Returns the address of the member lumo_evctx_p in the object: event context of the lumo side. NULL after an
- * error. */
+/** Returns the address of the member lumo_evctx_p in the object: event context of the lumo side. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_lumo_evctx_p_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member lumo_evctx_p: event context of the lumo side. 0 after an error. */
+/** Returns the value of the member lumo_evctx_p: event context of the lumo side. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_lumo_evctx_p_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in lumo_evctx_p: event context of the lumo side. Notifies, marks the object as
@@ -390,10 +413,12 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_lumo_evctx_p_state_flag_set(mirk_han
 
 /** @name smc_evctx_p: event context of the smc side
  *  @{ */
-/** Returns the address of the member smc_evctx_p in the object: event context of the smc side. NULL after an error. */
+/** Returns the address of the member smc_evctx_p in the object: event context of the smc side. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_smc_evctx_p_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member smc_evctx_p: event context of the smc side. 0 after an error. */
+/** Returns the value of the member smc_evctx_p: event context of the smc side. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_smc_evctx_p_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in smc_evctx_p: event context of the smc side. Notifies, marks the object as modified
@@ -415,10 +440,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_smc_evctx_p_state_flag_set(mirk_hand
 
 /** @name listen_chan: the listening channel
  *  @{ */
-/** Returns the address of the member listen_chan in the object: the listening channel. NULL after an error. */
+/** Returns the address of the member listen_chan in the object: the listening channel. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_listen_chan_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member listen_chan: the listening channel. 0 after an error. */
+/** Returns the value of the member listen_chan: the listening channel. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_listen_chan_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in listen_chan: the listening channel. Notifies, marks the object as modified and, on
@@ -438,21 +464,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_listen_chan_state_flag_set(mirk_hand
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ha_init: flag word: high availability initialised
+/** @name ha_init: flag word, set if high availability is initialized
  *  @{ */
-/** Returns the address of the member ha_init in the object: flag word: high availability initialised. NULL after an
- * error. */
+/** Returns the address of the member ha_init in the object: flag word, set if high availability is initialized. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_ha_init_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member ha_init: flag word: high availability initialised. 0 after an error. */
+/** Returns the value of the member ha_init: flag word, set if high availability is initialized. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_ha_init_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Stores the value of the source in ha_init: flag word: high availability initialised. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in ha_init: flag word, set if high availability is initialized. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in ha_init: flag word: high availability initialised. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores a value in ha_init: flag word, set if high availability is initialized. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_init. EINVAL if the handle's tracking is off or the object has no state. */
@@ -466,10 +493,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_state_flag_set(mirk_handle *
 
 /** @name mdr: flag word named mdr
  *  @{ */
-/** Returns the address of the member mdr in the object: flag word named mdr. NULL after an error. */
+/** Returns the address of the member mdr in the object: flag word named mdr. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_mdr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     uint32_t *err);
-/** Returns the value of the member mdr: flag word named mdr. 0 after an error. */
+/** Returns the value of the member mdr: flag word named mdr. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_mdr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in mdr: flag word named mdr. Notifies, marks the object as modified and, on a
@@ -491,10 +519,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_mdr_state_flag_set(mirk_handle *h, u
 
 /** @name num_lumos: number of processors
  *  @{ */
-/** Returns the address of the member num_lumos in the object: number of processors. NULL after an error. */
+/** Returns the address of the member num_lumos in the object: number of processors. NULL after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_global_info_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member num_lumos: number of processors. 0 after an error. */
+/** Returns the value of the member num_lumos: number of processors. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in num_lumos: number of processors. Notifies, marks the object as modified and, on a
@@ -516,10 +545,11 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_num_lumos_state_flag_set(mirk_handle
 
 /** @name num_complexes: number of complexes
  *  @{ */
-/** Returns the address of the member num_complexes in the object: number of complexes. NULL after an error. */
+/** Returns the address of the member num_complexes in the object: number of complexes. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_global_info_num_complexes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member num_complexes: number of complexes. 0 after an error. */
+/** Returns the value of the member num_complexes: number of complexes. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_num_complexes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in num_complexes: number of complexes. Notifies, marks the object as modified and, on
@@ -541,7 +571,8 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_num_complexes_state_flag_set(mirk_ha
 
 /** @name lumo_info_list: per-processor records
  *  @{ */
-/** Returns the address of the member lumo_info_list in the object: per-processor records. NULL after an error. */
+/** Returns the address of the member lumo_info_list in the object: per-processor records. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API lumo_tarn_lumo_info_list *lumo_tarn_global_info_lumo_info_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** MOVES a record into lumo_info_list: per-processor records. The source loses its arrays and strings. What

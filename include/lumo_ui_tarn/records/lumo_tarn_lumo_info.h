@@ -1,6 +1,6 @@
 /* Generated from the schema; edit the tables there and run tools/regenerate. */
 /** @file
- * lumo_tarn_lumo_info.h - one processor. */
+ * lumo_tarn_lumo_info.h - state of one processor. */
 #ifndef LUMO_UI_TARN_RECORDS_LUMO_TARN_LUMO_INFO_H
 #define LUMO_UI_TARN_RECORDS_LUMO_TARN_LUMO_INFO_H
 
@@ -15,22 +15,22 @@
 
 LUMO_UI_TARN_BEGIN
 
-/** One processor.
+/** State of one processor.
  *
  * | member                      | type                          | meaning |
  * |-----------------------------|-------------------------------|---|
- * | display_all                 | boolean                       | show: everything |
- * | display_fdb                 | boolean                       | show: the fdb part |
- * | display_ha                  | boolean                       | show: the high-availability part |
- * | display_wexa                | boolean                       | show: the wexa part |
- * | display_handles             | boolean                       | show: the handles |
- * | display_exmem               | boolean                       | show: the memory blocks |
- * | display_init                | boolean                       | show: the initialisation state |
+ * | display_all                 | boolean                       | whether to show everything |
+ * | display_fdb                 | boolean                       | whether to show the fdb part |
+ * | display_ha                  | boolean                       | whether to show the high-availability part |
+ * | display_wexa                | boolean                       | whether to show the wexa part |
+ * | display_handles             | boolean                       | whether to show the handles |
+ * | display_exmem               | boolean                       | whether to show the memory blocks |
+ * | display_init                | boolean                       | whether to show the initialization state |
  * | lumo_num                    | uint8_t                       | number of this lumo processor |
  * | complex_num                 | uint8_t                       | number of the complex that the processor belongs to |
  * | direction                   | lumo_tarn_lumo_direction_e    | direction of traffic that the processor serves |
  * | epoch                       | uint32_t                      | epoch value of the processor |
- * | fdb_initialized             | uint32_t                      | flag word: fdb initialised |
+ * | fdb_initialized             | uint32_t                      | flag word, set if the fdb is initialized |
  * | fdb_base                    | lumo_tarn_fdb_base            | header and footer description of the fdb |
  * | chunk_overhead              | uint16_t                      | overhead of a chunk |
  * | flow_info_mem_size          | uint16_t                      | memory size of a flow information entry |
@@ -39,55 +39,56 @@ LUMO_UI_TARN_BEGIN
  * | tarn_tt_tbl                 | lumo_tarn_fdb_mem_info        | memory of the feature's traffic table |
  * | tarn_debug_flags            | lumo_tarn_fdb_mem_info        | memory of the feature's debug flags |
  * | ha_state                    | lumo_tarn_ha_state_e          | high-availability state of the processor |
- * | ha_running                  | uint32_t                      | flag word: high availability is running |
- * | ha_enabled                  | uint32_t                      | flag word: high availability is enabled |
- * | drv_conn_h                  | uint64_t                      | handle: the connection to the driver |
- * | exmem_h                     | uint64_t                      | handle: external memory |
+ * | ha_running                  | uint32_t                      | flag word, set if high availability is running |
+ * | ha_enabled                  | uint32_t                      | flag word, set if high availability is enabled |
+ * | drv_conn_h                  | uint64_t                      | handle of the connection to the driver |
+ * | exmem_h                     | uint64_t                      | handle of the external memory |
  * | wexa_num_feat               | uint16_t                      | number of features in a wexa entry |
  * | wexa_feat_size              | uint16_t                      | size of a feature in a wexa entry |
- * | in_wexa_h                   | uint64_t                      | handle: ingress wexa |
- * | in_wexa_feat_h              | uint64_t                      | handle: ingress wexa feature |
- * | out_wexa_h                  | uint64_t                      | handle: egress wexa |
- * | out_wexa_feat_h             | uint64_t                      | handle: egress wexa feature |
- * | dp_hash_salt                | uint32_t                      | salt of the data plane's hash, carried as a datum |
- * | flow_info_initialized       | uint32_t                      | flag word: flow information initialised on the client side |
- * | dp_flow_info_initialized    | uint32_t                      | flag word: flow information initialised in the data plane |
- * | mp_initialized              | uint32_t                      | flag word: mp initialised on the client side |
- * | dp_mp_initialized           | uint32_t                      | flag word: mp initialised in the data plane |
- * | tt_initialized              | uint32_t                      | flag word: tt initialised on the client side |
- * | dp_tt_initialized           | uint32_t                      | flag word: tt initialised in the data plane |
- * | appl_sig_initialized        | uint32_t                      | flag word: application signatures initialised on the client side |
- * | dp_appl_sig_initialized     | uint32_t                      | flag word: application signatures initialised in the data plane |
+ * | in_wexa_h                   | uint64_t                      | handle of the ingress wexa |
+ * | in_wexa_feat_h              | uint64_t                      | handle of the ingress wexa feature |
+ * | out_wexa_h                  | uint64_t                      | handle of the egress wexa |
+ * | out_wexa_feat_h             | uint64_t                      | handle of the egress wexa feature |
+ * | dp_hash_salt                | uint32_t                      | salt of the data plane's hash |
+ * | flow_info_initialized       | uint32_t                      | flag word, set if flow information is initialized on the client side |
+ * | dp_flow_info_initialized    | uint32_t                      | flag word, set if flow information is initialized in the data plane |
+ * | mp_initialized              | uint32_t                      | flag word, set if mp is initialized on the client side |
+ * | dp_mp_initialized           | uint32_t                      | flag word, set if mp is initialized in the data plane |
+ * | tt_initialized              | uint32_t                      | flag word, set if tt is initialized on the client side |
+ * | dp_tt_initialized           | uint32_t                      | flag word, set if tt is initialized in the data plane |
+ * | appl_sig_initialized        | uint32_t                      | flag word, set if application signatures are initialized on the client side |
+ * | dp_appl_sig_initialized     | uint32_t                      | flag word, set if application signatures are initialized in the data plane |
  * | tt_tc_filter_list_exmem_ptr | uint64_t                      | external memory of the traffic table's filter class list |
  * | tt_tc_agg_list_exmem_ptr    | uint64_t                      | external memory of the traffic table's aggregation class list |
  * | tt_tc_learn_list_exmem_ptr  | uint64_t                      | external memory of the traffic table's learn list |
- * | tc_list_head_chunk_h        | uint64_t                      | handle: chunk pool of class list heads |
- * | tc_chunk_h                  | uint64_t                      | handle: chunk pool of traffic classes |
- * | ll_chunk_h                  | uint64_t                      | handle: chunk pool of learn lists |
- * | appl_chunk_h                | uint64_t                      | handle: chunk pool of applications |
- * | cl_appl_sig_hash_ptr        | uint64_t                      | the client side's application signature hash |
- * | dp_appl_sig_hash_h          | uint64_t                      | handle: the data plane's application signature hash |
- * | appl_sig_chunk_h            | uint64_t                      | handle: chunk pool of application signatures |
+ * | tc_list_head_chunk_h        | uint64_t                      | handle of the chunk pool of class list heads |
+ * | tc_chunk_h                  | uint64_t                      | handle of the chunk pool of traffic classes |
+ * | ll_chunk_h                  | uint64_t                      | handle of the chunk pool of learn lists |
+ * | appl_chunk_h                | uint64_t                      | handle of the chunk pool of applications |
+ * | cl_appl_sig_hash_ptr        | uint64_t                      | application signature hash of the client side |
+ * | dp_appl_sig_hash_h          | uint64_t                      | handle of the data plane's application signature hash |
+ * | appl_sig_chunk_h            | uint64_t                      | handle of the chunk pool of application signatures |
  * | appl_sig_hash_exmem         | lumo_tarn_exmem_info          | block of the application signature hash |
  * | mp_export_exmem             | lumo_tarn_exmem_info          | block of the mp export |
  * | tt_export_exmem             | lumo_tarn_exmem_info          | block of the tt export |
  * | num_static_exmems           | uint8_t count                 | elements in static_exmem |
- * | static_exmem                | lumo_tarn_static_exmem_info[] | processor's static memory blocks |
+ * | static_exmem                | lumo_tarn_static_exmem_info[] | static memory blocks of the processor |
  * | num_dyn_exmems              | uint8_t count                 | elements in dyn_exmem |
- * | dyn_exmem                   | lumo_tarn_dyn_exmem_info[]    | processor's dynamic memory blocks |
+ * | dyn_exmem                   | lumo_tarn_dyn_exmem_info[]    | dynamic memory blocks of the processor |
  *
  * lumo_ui_tarn/families.h describes the operations. */
 typedef struct lumo_tarn_lumo_info lumo_tarn_lumo_info;
 /** The module's own type record of lumo_tarn_lumo_info: identity, variants, usage counters. */
 extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_lumo_info_type_info_internal;
 
-/** @name Life
+/** @name Lifecycle
  *  @{ */
 /** Allocates an instance with all members zero. Returns NULL if allocation fails, or if the domain look-up of an
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_lumo_info_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_lumo_info_create(): returns a sentinel instead of NULL if allocation fails or last_error is
- * set. Any other NULL stays NULL. Only destroy operations and sticky forms accept the sentinel. */
+ * set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
+ * operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_lumo_info_create(), but does not register the trace module of types. For callers that create many
  * instances. */
@@ -95,13 +96,13 @@ LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_create_internal(mirk_h
 /** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
  * _lumo_tarn_lumo_info_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
- * another one. */
+ * another one. EINVAL if a nested instance on a tracking handle has none. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Returns the size of an instance in bytes, with everything nested in it and, on a tracking handle, its state area.
- * Handles may differ. */
+/** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
+ * area. Blocks of arrays and strings are not counted. The size differs between handles. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_sizeof(mirk_handle *h);
-/** Returns the variant, limited to the highest one that this library knows. */
+/** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_lumo_info_variant_data_index_cap(int8_t variant);
 /** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
  * booleans nested in it. */
@@ -126,8 +127,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_destroy_internal(mirk_handle *h, uint3
 /** Returns the instance itself, so that code can treat records as it treats members. */
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Writes all scalar members, counts and lengths through the pointers, in table order. Has no effect on an instance
- * without a body; no error is set. */
+/** Writes all scalar members, counts and lengths through the pointers, in table order; zeros if object is NULL. If the
+ * instance has no body, nothing is written and no error is set. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_get_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint8_t *display_all, uint8_t *display_fdb, uint8_t *display_ha, uint8_t *display_wexa, uint8_t *display_handles,
     uint8_t *display_exmem, uint8_t *display_init, uint8_t *lumo_num, uint8_t *complex_num, uint32_t *direction,
@@ -142,8 +143,9 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_get_all(mirk_handle *h, uint32_t ctx_i
     uint64_t *tc_chunk_h, uint64_t *ll_chunk_h, uint64_t *appl_chunk_h, uint64_t *cl_appl_sig_hash_ptr,
     uint64_t *dp_appl_sig_hash_h, uint64_t *appl_sig_chunk_h, uint8_t *num_static_exmems, uint8_t *num_dyn_exmems,
     uint32_t *err);
-/** Stores all scalar members in table order, without counts and lengths. Does not change state bytes, unlike the
- * setters of single members. Has no effect on an instance without a body; no error is set. */
+/** Adjusts the instance to the domain's variant, then stores all scalar members in table order, without counts and
+ * lengths. If that variant has no body, nothing is stored and no error is set. Does not change state bytes, unlike the
+ * setters of single members. EINVAL if object is NULL. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_set_all(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint8_t display_all, uint8_t display_fdb, uint8_t display_ha, uint8_t display_wexa, uint8_t display_handles,
     uint8_t display_exmem, uint8_t display_init, uint8_t lumo_num, uint8_t complex_num, uint32_t direction,
@@ -158,60 +160,69 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_set_all(mirk_handle *h, uint32_t ctx_i
     uint64_t appl_chunk_h, uint64_t cl_appl_sig_hash_ptr, uint64_t dp_appl_sig_hash_h, uint64_t appl_sig_chunk_h,
     uint32_t *err);
 /** MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the
- * source loses. What the destination owned before is not released. Use lumo_tarn_lumo_info_copy_cr() to copy. */
+ * source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if either
+ * is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the same. Use
+ * lumo_tarn_lumo_info_copy_cr() to copy. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *destination,
     lumo_tarn_lumo_info *source, uint32_t *err);
-/** For runtimes that move instances byte by byte: makes the copy at the new address the only owner of arrays and
- * strings, and clears them at the old address. */
+/** For runtimes that move instances byte by byte: makes the copy at the new location the only owner of arrays and
+ * strings, and clears them at the old location. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
-    lumo_tarn_lumo_info *new_place, lumo_tarn_lumo_info *old_place, uint32_t *err);
+    lumo_tarn_lumo_info *new_location, lumo_tarn_lumo_info *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
  * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
  * set one by one. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value);
-/** Returns 1 if the handle's domain has a member with this index, counted from 0 in table order. The instance is not
- * read. */
+/** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
+ * variant above 0, every index gives 1. The instance is not read. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_is_valid_cr(mirk_handle *h, lumo_tarn_lumo_info *object,
     uint32_t field_index);
 /** @} */
 
 /** @name References
  *  @{ */
-/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL for NULL. */
+/** Returns the number of object identifiers that the instance itself holds: 0 in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_get_oid_count(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL for NULL. */
+/** Writes up to size object identifiers that the instance itself holds: none in this schema. EINVAL if object is
+ * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, void **oids, uint32_t size, uint32_t *err);
-/** Gives the runtime the location of the state of each nested record and address in the state area at this address. For
- * code that has moved the instance or its state. */
+/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
+ * code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_offset_update(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_lumo_info_offset_update() set, at every depth. */
+/** Removes from the runtime the state locations that lumo_tarn_lumo_info_offset_update() recorded, at every depth. Acts
+ * even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_offset_remove(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
 /** @} */
 
 /** @name Wire
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_lumo_info_marshal() needs, without the guard byte. Slightly more
- * than is written: see families.h. RA data is not counted. */
+/** Returns the buffer size in bytes that lumo_tarn_lumo_info_marshal() needs, without the guard byte. On a tracking
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not
+ * counted. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *instance);
 /** Sticky form of lumo_tarn_lumo_info_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_len_cr(mirk_handle *h, lumo_tarn_lumo_info *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written. Continues after a failure, so check err: ENOMEM or EMSGSIZE if the buffer is too small,
- * EIDRM if the domain does not have the instance's variant; the frame is then written in the domain's variant. */
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
+ * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, int32_t remaining, uint32_t *err);
-/** Same as lumo_tarn_lumo_info_marshal(), but the outermost frame keeps the instance's own variant whatever the domain
+/** Same as lumo_tarn_lumo_info_marshal(), but the outermost frame keeps the instance's own variant, whatever the domain
  * has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and
- * strings are kept where the counts are equal. The frame may come from an untrusted peer. */
+ * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
+ * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Aborts if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -219,22 +230,24 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_unmarshal(mirk_handle *h, uint32_t
 /** @name Deep copy
  *  @{ */
 /** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_lumo_info_len(), and one guard
- * byte after them. The result is NULL after any error; otherwise the caller owns it. */
+ * byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or buffer is
+ * NULL; other errors are those of lumo_tarn_lumo_info_marshal() and lumo_tarn_lumo_info_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *source,
     lumo_tarn_lumo_info **result, void *buffer, uint32_t size, uint32_t *err);
-/** Makes a deep copy through the handle's workspace. Returns NULL after any error. A record that is too large for the
- * workspace needs lumo_tarn_lumo_info_clone(). */
+/** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
+ * after any error; otherwise the caller owns the copy. A larger record needs lumo_tarn_lumo_info_clone(). */
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_clone_cr(mirk_handle *h, lumo_tarn_lumo_info *source);
-/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned is not
- * released. If reading fails, the destination is destroyed. */
+/** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
+ * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_copy_cr(mirk_handle *h, lumo_tarn_lumo_info *source,
     lumo_tarn_lumo_info *destination);
 /** @} */
 
 /** @name Text
  *  @{ */
-/** Writes the instance as readable text, indented by indent blanks, under this name. Returns the number of characters
- * written. Clear the buffer first: the bytes before closing braces are counted but not written. */
+/** Writes the instance as readable text under this name, indented by indent blanks. Returns the length in bytes without
+ * the final NUL. The indent of closing braces is counted but not written. Clear the buffer first, then replace NUL
+ * bytes within the returned length by blanks. EMSGSIZE or ENOSPC if the text does not fit. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_print(mirk_handle *h, uint32_t ctx_id, char *buffer, uint32_t indent,
     const char *name, lumo_tarn_lumo_info *instance, int32_t remaining, uint32_t *err);
 /** Sticky form of lumo_tarn_lumo_info_print(), under the type's own name. Returns 0xFFFFFFFF after an error. */
@@ -245,14 +258,17 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_print_cr(mirk_handle *h, lumo_tarn
 /** @name XML
  *  @{ */
 /** Writes the instance as an XML element of this name with one element for each member. A nonzero state becomes an
- * attribute. Returns the number of characters written. */
+ * attribute. Returns the length in bytes without the final NUL. EMSGSIZE if the text does not fit. EINVAL if the handle
+ * tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_to_xml(mirk_handle *h, uint32_t ctx_id, const char *name, char *buffer,
     lumo_tarn_lumo_info *instance, int32_t remaining, uint8_t state, uint32_t *err);
 /** Sticky form of lumo_tarn_lumo_info_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_toxml_cr(mirk_handle *h, lumo_tarn_lumo_info *instance, char *buffer,
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. An invalid value ends the reading and, if message is not NULL, leaves a sentence there. */
+ * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
+ * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
+ * call. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_lumo_info *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -266,25 +282,26 @@ LUMO_UI_TARN_API int32_t lumo_tarn_lumo_info_compare(const lumo_tarn_lumo_info *
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_hash(const lumo_tarn_lumo_info *instance, uint32_t seed);
 /** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. The word is passed to the runtime unchanged. */
+ * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *instance, void *word);
 /** @} */
 
-/** @name display_all: show: everything
+/** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: show: everything. NULL after an error. */
+/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_all: show: everything. 0 after an error. */
+/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_all: show: everything. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_all: show: everything. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -296,20 +313,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_state_flag_set(mirk_handle
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_fdb: show: the fdb part
+/** @name display_fdb: whether to show the fdb part
  *  @{ */
-/** Returns the address of the member display_fdb in the object: show: the fdb part. NULL after an error. */
+/** Returns the address of the member display_fdb in the object: whether to show the fdb part. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_fdb_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_fdb: show: the fdb part. 0 after an error. */
+/** Returns the value of the member display_fdb: whether to show the fdb part. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_fdb_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_fdb: show: the fdb part. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_fdb: whether to show the fdb part. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_fdb: show: the fdb part. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in display_fdb: whether to show the fdb part. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_fdb. EINVAL if the handle's tracking is off or the object has no state. */
@@ -321,21 +339,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_state_flag_set(mirk_handle
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_ha: show: the high-availability part
+/** @name display_ha: whether to show the high-availability part
  *  @{ */
-/** Returns the address of the member display_ha in the object: show: the high-availability part. NULL after an
- * error. */
+/** Returns the address of the member display_ha in the object: whether to show the high-availability part. NULL after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_ha_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_ha: show: the high-availability part. 0 after an error. */
+/** Returns the value of the member display_ha: whether to show the high-availability part. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_ha_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_ha: show: the high-availability part. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_ha: whether to show the high-availability part. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_ha: show: the high-availability part. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in display_ha: whether to show the high-availability part. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_ha. EINVAL if the handle's tracking is off or the object has no state. */
@@ -347,20 +366,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_wexa: show: the wexa part
+/** @name display_wexa: whether to show the wexa part
  *  @{ */
-/** Returns the address of the member display_wexa in the object: show: the wexa part. NULL after an error. */
+/** Returns the address of the member display_wexa in the object: whether to show the wexa part. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_wexa: show: the wexa part. 0 after an error. */
+/** Returns the value of the member display_wexa: whether to show the wexa part. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_wexa_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_wexa: show: the wexa part. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_wexa: whether to show the wexa part. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_wexa: show: the wexa part. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in display_wexa: whether to show the wexa part. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_wexa. EINVAL if the handle's tracking is off or the object has no state. */
@@ -372,20 +393,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_state_flag_set(mirk_handl
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_handles: show: the handles
+/** @name display_handles: whether to show the handles
  *  @{ */
-/** Returns the address of the member display_handles in the object: show: the handles. NULL after an error. */
+/** Returns the address of the member display_handles in the object: whether to show the handles. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_handles_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_handles: show: the handles. 0 after an error. */
+/** Returns the value of the member display_handles: whether to show the handles. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_handles_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_handles: show: the handles. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_handles: whether to show the handles. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_handles: show: the handles. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in display_handles: whether to show the handles. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_handles. EINVAL if the handle's tracking is off or the object has no state. */
@@ -397,20 +420,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_state_flag_set(mirk_ha
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_exmem: show: the memory blocks
+/** @name display_exmem: whether to show the memory blocks
  *  @{ */
-/** Returns the address of the member display_exmem in the object: show: the memory blocks. NULL after an error. */
+/** Returns the address of the member display_exmem in the object: whether to show the memory blocks. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_exmem: show: the memory blocks. 0 after an error. */
+/** Returns the value of the member display_exmem: whether to show the memory blocks. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_exmem_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_exmem: show: the memory blocks. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_exmem: whether to show the memory blocks. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_exmem: show: the memory blocks. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+/** Stores a value in display_exmem: whether to show the memory blocks. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_exmem. EINVAL if the handle's tracking is off or the object has no state. */
@@ -422,21 +447,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_state_flag_set(mirk_hand
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name display_init: show: the initialisation state
+/** @name display_init: whether to show the initialization state
  *  @{ */
-/** Returns the address of the member display_init in the object: show: the initialisation state. NULL after an
- * error. */
+/** Returns the address of the member display_init in the object: whether to show the initialization state. NULL after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_init_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_init: show: the initialisation state. 0 after an error. */
+/** Returns the value of the member display_init: whether to show the initialization state. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_init_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in display_init: show: the initialisation state. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in display_init: whether to show the initialization state. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
-/** Stores a value in display_init: show: the initialisation state. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in display_init: whether to show the initialization state. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_init. EINVAL if the handle's tracking is off or the object has no state. */
@@ -450,10 +476,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_state_flag_set(mirk_handl
 
 /** @name lumo_num: number of this lumo processor
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of this lumo processor. NULL after an error. */
+/** Returns the address of the member lumo_num in the object: number of this lumo processor. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_lumo_num_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member lumo_num: number of this lumo processor. 0 after an error. */
+/** Returns the value of the member lumo_num: number of this lumo processor. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of this lumo processor. Notifies, marks the object as modified
@@ -476,11 +503,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_state_flag_set(mirk_handle *h
 /** @name complex_num: number of the complex that the processor belongs to
  *  @{ */
 /** Returns the address of the member complex_num in the object: number of the complex that the processor belongs to.
- * NULL after an error. */
+ * NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_complex_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member complex_num: number of the complex that the processor belongs to. 0 after an
- * error. */
+/** Returns the value of the member complex_num: number of the complex that the processor belongs to. 0 after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_complex_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in complex_num: number of the complex that the processor belongs to. Notifies, marks
@@ -503,18 +530,19 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_state_flag_set(mirk_handle
 /** @name direction: direction of traffic that the processor serves
  *  @{ */
 /** Returns the address of the member direction in the object: direction of traffic that the processor serves. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_lumo_direction_e *lumo_tarn_lumo_info_direction_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member direction: direction of traffic that the processor serves. 0 after an error. */
+/** Returns the value of the member direction: direction of traffic that the processor serves. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_direction_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in direction: direction of traffic that the processor serves. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in direction: direction of traffic that the processor serves. A number that is not an
+ * enumerator is refused with EIDRM; its state byte and the modified mark are set all the same. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_lumo_direction_e *source, uint32_t *err);
-/** Stores an enumerator of lumo_tarn_lumo_direction_e in direction: direction of traffic that the processor serves. A
- * number that is not an enumerator is refused with EIDRM, but the member is marked as written. */
+/** Stores an enumerator of lumo_tarn_lumo_direction_e in direction: direction of traffic that the processor serves.
+ * Another number is refused with EIDRM; its state byte and the modified mark are set all the same. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of direction. EINVAL if the handle's tracking is off or the object has no state. */
@@ -528,10 +556,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_state_flag_set(mirk_handle *
 
 /** @name epoch: epoch value of the processor
  *  @{ */
-/** Returns the address of the member epoch in the object: epoch value of the processor. NULL after an error. */
+/** Returns the address of the member epoch in the object: epoch value of the processor. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_epoch_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member epoch: epoch value of the processor. 0 after an error. */
+/** Returns the value of the member epoch: epoch value of the processor. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_epoch_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in epoch: epoch value of the processor. Notifies, marks the object as modified and,
@@ -551,20 +580,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_state_flag_set(mirk_handle *h, u
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name fdb_initialized: flag word: fdb initialised
+/** @name fdb_initialized: flag word, set if the fdb is initialized
  *  @{ */
-/** Returns the address of the member fdb_initialized in the object: flag word: fdb initialised. NULL after an error. */
+/** Returns the address of the member fdb_initialized in the object: flag word, set if the fdb is initialized. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_fdb_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member fdb_initialized: flag word: fdb initialised. 0 after an error. */
+/** Returns the value of the member fdb_initialized: flag word, set if the fdb is initialized. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_fdb_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in fdb_initialized: flag word: fdb initialised. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in fdb_initialized: flag word, set if the fdb is initialized. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in fdb_initialized: flag word: fdb initialised. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in fdb_initialized: flag word, set if the fdb is initialized. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of fdb_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -579,7 +610,7 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_state_flag_set(mirk_ha
 /** @name fdb_base: header and footer description of the fdb
  *  @{ */
 /** Returns the address of the member fdb_base in the object: header and footer description of the fdb. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_fdb_base *lumo_tarn_lumo_info_fdb_base_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into fdb_base: header and footer description of the fdb. The source loses its arrays and strings.
@@ -597,10 +628,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_state_flag_set(mirk_handle *h
 
 /** @name chunk_overhead: overhead of a chunk
  *  @{ */
-/** Returns the address of the member chunk_overhead in the object: overhead of a chunk. NULL after an error. */
+/** Returns the address of the member chunk_overhead in the object: overhead of a chunk. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_chunk_overhead_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member chunk_overhead: overhead of a chunk. 0 after an error. */
+/** Returns the value of the member chunk_overhead: overhead of a chunk. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_chunk_overhead_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in chunk_overhead: overhead of a chunk. Notifies, marks the object as modified and,
@@ -623,10 +655,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_state_flag_set(mirk_han
 /** @name flow_info_mem_size: memory size of a flow information entry
  *  @{ */
 /** Returns the address of the member flow_info_mem_size in the object: memory size of a flow information entry. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_flow_info_mem_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member flow_info_mem_size: memory size of a flow information entry. 0 after an error. */
+/** Returns the value of the member flow_info_mem_size: memory size of a flow information entry. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_flow_info_mem_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in flow_info_mem_size: memory size of a flow information entry. Notifies, marks the
@@ -648,11 +681,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_state_flag_set(mirk
 
 /** @name mp_cache_entry_size: size of an mp cache entry
  *  @{ */
-/** Returns the address of the member mp_cache_entry_size in the object: size of an mp cache entry. NULL after an
- * error. */
+/** Returns the address of the member mp_cache_entry_size in the object: size of an mp cache entry. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_mp_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member mp_cache_entry_size: size of an mp cache entry. 0 after an error. */
+/** Returns the value of the member mp_cache_entry_size: size of an mp cache entry. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_mp_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in mp_cache_entry_size: size of an mp cache entry. Notifies, marks the object as
@@ -674,11 +708,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_set(mir
 
 /** @name tt_cache_entry_size: size of a tt cache entry
  *  @{ */
-/** Returns the address of the member tt_cache_entry_size in the object: size of a tt cache entry. NULL after an
- * error. */
+/** Returns the address of the member tt_cache_entry_size in the object: size of a tt cache entry. NULL after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_tt_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_cache_entry_size: size of a tt cache entry. 0 after an error. */
+/** Returns the value of the member tt_cache_entry_size: size of a tt cache entry. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_tt_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_cache_entry_size: size of a tt cache entry. Notifies, marks the object as
@@ -701,7 +736,7 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_set(mir
 /** @name tarn_tt_tbl: memory of the feature's traffic table
  *  @{ */
 /** Returns the address of the member tarn_tt_tbl in the object: memory of the feature's traffic table. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_tt_tbl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tarn_tt_tbl: memory of the feature's traffic table. The source loses its arrays and strings.
@@ -720,7 +755,7 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_set(mirk_handle
 /** @name tarn_debug_flags: memory of the feature's debug flags
  *  @{ */
 /** Returns the address of the member tarn_debug_flags in the object: memory of the feature's debug flags. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_debug_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tarn_debug_flags: memory of the feature's debug flags. The source loses its arrays and strings.
@@ -739,18 +774,19 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_debug_flags_state_flag_set(mirk_h
 /** @name ha_state: high-availability state of the processor
  *  @{ */
 /** Returns the address of the member ha_state in the object: high-availability state of the processor. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_ha_state_e *lumo_tarn_lumo_info_ha_state_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_state: high-availability state of the processor. 0 after an error. */
+/** Returns the value of the member ha_state: high-availability state of the processor. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_state_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in ha_state: high-availability state of the processor. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in ha_state: high-availability state of the processor. A number that is not an
+ * enumerator is refused with EIDRM; its state byte and the modified mark are set all the same. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_ha_state_e *source, uint32_t *err);
-/** Stores an enumerator of lumo_tarn_ha_state_e in ha_state: high-availability state of the processor. A number that is
- * not an enumerator is refused with EIDRM, but the member is marked as written. */
+/** Stores an enumerator of lumo_tarn_ha_state_e in ha_state: high-availability state of the processor. Another number
+ * is refused with EIDRM; its state byte and the modified mark are set all the same. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_state. EINVAL if the handle's tracking is off or the object has no state. */
@@ -762,21 +798,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_state_flag_set(mirk_handle *h
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ha_running: flag word: high availability is running
+/** @name ha_running: flag word, set if high availability is running
  *  @{ */
-/** Returns the address of the member ha_running in the object: flag word: high availability is running. NULL after an
- * error. */
+/** Returns the address of the member ha_running in the object: flag word, set if high availability is running. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_ha_running_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_running: flag word: high availability is running. 0 after an error. */
+/** Returns the value of the member ha_running: flag word, set if high availability is running. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_running_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in ha_running: flag word: high availability is running. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in ha_running: flag word, set if high availability is running. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in ha_running: flag word: high availability is running. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+/** Stores a value in ha_running: flag word, set if high availability is running. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_running. EINVAL if the handle's tracking is off or the object has no state. */
@@ -788,21 +825,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ha_enabled: flag word: high availability is enabled
+/** @name ha_enabled: flag word, set if high availability is enabled
  *  @{ */
-/** Returns the address of the member ha_enabled in the object: flag word: high availability is enabled. NULL after an
- * error. */
+/** Returns the address of the member ha_enabled in the object: flag word, set if high availability is enabled. NULL
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_ha_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_enabled: flag word: high availability is enabled. 0 after an error. */
+/** Returns the value of the member ha_enabled: flag word, set if high availability is enabled. 0 after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in ha_enabled: flag word: high availability is enabled. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in ha_enabled: flag word, set if high availability is enabled. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in ha_enabled: flag word: high availability is enabled. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+/** Stores a value in ha_enabled: flag word, set if high availability is enabled. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -814,21 +852,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name drv_conn_h: handle: the connection to the driver
+/** @name drv_conn_h: handle of the connection to the driver
  *  @{ */
-/** Returns the address of the member drv_conn_h in the object: handle: the connection to the driver. NULL after an
- * error. */
+/** Returns the address of the member drv_conn_h in the object: handle of the connection to the driver. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_drv_conn_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member drv_conn_h: handle: the connection to the driver. 0 after an error. */
+/** Returns the value of the member drv_conn_h: handle of the connection to the driver. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_drv_conn_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in drv_conn_h: handle: the connection to the driver. Notifies, marks the object as
+/** Stores the value of the source in drv_conn_h: handle of the connection to the driver. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in drv_conn_h: handle: the connection to the driver. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in drv_conn_h: handle of the connection to the driver. Notifies, marks the object as modified and, on
+ * a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of drv_conn_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -840,19 +879,20 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name exmem_h: handle: external memory
+/** @name exmem_h: handle of the external memory
  *  @{ */
-/** Returns the address of the member exmem_h in the object: handle: external memory. NULL after an error. */
+/** Returns the address of the member exmem_h in the object: handle of the external memory. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_exmem_h_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member exmem_h: handle: external memory. 0 after an error. */
+/** Returns the value of the member exmem_h: handle of the external memory. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_exmem_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in exmem_h: handle: external memory. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in exmem_h: handle of the external memory. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in exmem_h: handle: external memory. Notifies, marks the object as modified and, on a tracking
+/** Stores a value in exmem_h: handle of the external memory. Notifies, marks the object as modified and, on a tracking
  * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
@@ -868,10 +908,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_state_flag_set(mirk_handle *h,
 /** @name wexa_num_feat: number of features in a wexa entry
  *  @{ */
 /** Returns the address of the member wexa_num_feat in the object: number of features in a wexa entry. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_wexa_num_feat_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member wexa_num_feat: number of features in a wexa entry. 0 after an error. */
+/** Returns the value of the member wexa_num_feat: number of features in a wexa entry. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_wexa_num_feat_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in wexa_num_feat: number of features in a wexa entry. Notifies, marks the object as
@@ -894,10 +935,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_state_flag_set(mirk_hand
 /** @name wexa_feat_size: size of a feature in a wexa entry
  *  @{ */
 /** Returns the address of the member wexa_feat_size in the object: size of a feature in a wexa entry. NULL after an
- * error. */
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_wexa_feat_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member wexa_feat_size: size of a feature in a wexa entry. 0 after an error. */
+/** Returns the value of the member wexa_feat_size: size of a feature in a wexa entry. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_wexa_feat_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in wexa_feat_size: size of a feature in a wexa entry. Notifies, marks the object as
@@ -917,20 +959,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_state_flag_set(mirk_han
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name in_wexa_h: handle: ingress wexa
+/** @name in_wexa_h: handle of the ingress wexa
  *  @{ */
-/** Returns the address of the member in_wexa_h in the object: handle: ingress wexa. NULL after an error. */
+/** Returns the address of the member in_wexa_h in the object: handle of the ingress wexa. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_in_wexa_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member in_wexa_h: handle: ingress wexa. 0 after an error. */
+/** Returns the value of the member in_wexa_h: handle of the ingress wexa. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_in_wexa_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in in_wexa_h: handle: ingress wexa. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in in_wexa_h: handle of the ingress wexa. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in in_wexa_h: handle: ingress wexa. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in in_wexa_h: handle of the ingress wexa. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of in_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -942,21 +985,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_state_flag_set(mirk_handle *
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name in_wexa_feat_h: handle: ingress wexa feature
+/** @name in_wexa_feat_h: handle of the ingress wexa feature
  *  @{ */
-/** Returns the address of the member in_wexa_feat_h in the object: handle: ingress wexa feature. NULL after an
- * error. */
+/** Returns the address of the member in_wexa_feat_h in the object: handle of the ingress wexa feature. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_in_wexa_feat_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member in_wexa_feat_h: handle: ingress wexa feature. 0 after an error. */
+/** Returns the value of the member in_wexa_feat_h: handle of the ingress wexa feature. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_in_wexa_feat_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in in_wexa_feat_h: handle: ingress wexa feature. Notifies, marks the object as
+/** Stores the value of the source in in_wexa_feat_h: handle of the ingress wexa feature. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in in_wexa_feat_h: handle: ingress wexa feature. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in in_wexa_feat_h: handle of the ingress wexa feature. Notifies, marks the object as modified and, on
+ * a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of in_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -968,20 +1012,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_set(mirk_han
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name out_wexa_h: handle: egress wexa
+/** @name out_wexa_h: handle of the egress wexa
  *  @{ */
-/** Returns the address of the member out_wexa_h in the object: handle: egress wexa. NULL after an error. */
+/** Returns the address of the member out_wexa_h in the object: handle of the egress wexa. NULL after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_out_wexa_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member out_wexa_h: handle: egress wexa. 0 after an error. */
+/** Returns the value of the member out_wexa_h: handle of the egress wexa. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_out_wexa_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in out_wexa_h: handle: egress wexa. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in out_wexa_h: handle of the egress wexa. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in out_wexa_h: handle: egress wexa. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+/** Stores a value in out_wexa_h: handle of the egress wexa. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of out_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -993,21 +1038,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name out_wexa_feat_h: handle: egress wexa feature
+/** @name out_wexa_feat_h: handle of the egress wexa feature
  *  @{ */
-/** Returns the address of the member out_wexa_feat_h in the object: handle: egress wexa feature. NULL after an
- * error. */
+/** Returns the address of the member out_wexa_feat_h in the object: handle of the egress wexa feature. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_out_wexa_feat_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member out_wexa_feat_h: handle: egress wexa feature. 0 after an error. */
+/** Returns the value of the member out_wexa_feat_h: handle of the egress wexa feature. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_out_wexa_feat_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in out_wexa_feat_h: handle: egress wexa feature. Notifies, marks the object as
+/** Stores the value of the source in out_wexa_feat_h: handle of the egress wexa feature. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in out_wexa_feat_h: handle: egress wexa feature. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in out_wexa_feat_h: handle of the egress wexa feature. Notifies, marks the object as modified and, on
+ * a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of out_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1019,22 +1065,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_set(mirk_ha
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_hash_salt: salt of the data plane's hash, carried as a datum
+/** @name dp_hash_salt: salt of the data plane's hash
  *  @{ */
-/** Returns the address of the member dp_hash_salt in the object: salt of the data plane's hash, carried as a datum.
- * NULL after an error. */
+/** Returns the address of the member dp_hash_salt in the object: salt of the data plane's hash. NULL after an error or
+ * for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_hash_salt_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_hash_salt: salt of the data plane's hash, carried as a datum. 0 after an
- * error. */
+/** Returns the value of the member dp_hash_salt: salt of the data plane's hash. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_hash_salt_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_hash_salt: salt of the data plane's hash, carried as a datum. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_hash_salt: salt of the data plane's hash. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_hash_salt: salt of the data plane's hash, carried as a datum. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_hash_salt: salt of the data plane's hash. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_hash_salt. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1046,22 +1092,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_state_flag_set(mirk_handl
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name flow_info_initialized: flag word: flow information initialised on the client side
+/** @name flow_info_initialized: flag word, set if flow information is initialized on the client side
  *  @{ */
-/** Returns the address of the member flow_info_initialized in the object: flag word: flow information initialised on
- * the client side. NULL after an error. */
+/** Returns the address of the member flow_info_initialized in the object: flag word, set if flow information is
+ * initialized on the client side. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_flow_info_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member flow_info_initialized: flag word: flow information initialised on the client side. 0
- * after an error. */
+/** Returns the value of the member flow_info_initialized: flag word, set if flow information is initialized on the
+ * client side. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_flow_info_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in flow_info_initialized: flag word: flow information initialised on the client side.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in flow_info_initialized: flag word, set if flow information is initialized on the
+ * client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in flow_info_initialized: flag word: flow information initialised on the client side. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in flow_info_initialized: flag word, set if flow information is initialized on the client side.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1074,22 +1120,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_state_flag_set(m
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_flow_info_initialized: flag word: flow information initialised in the data plane
+/** @name dp_flow_info_initialized: flag word, set if flow information is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_flow_info_initialized in the object: flag word: flow information initialised in
- * the data plane. NULL after an error. */
+/** Returns the address of the member dp_flow_info_initialized in the object: flag word, set if flow information is
+ * initialized in the data plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_flow_info_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_flow_info_initialized: flag word: flow information initialised in the data plane.
- * 0 after an error. */
+/** Returns the value of the member dp_flow_info_initialized: flag word, set if flow information is initialized in the
+ * data plane. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_flow_info_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_flow_info_initialized: flag word: flow information initialised in the data
- * plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_flow_info_initialized: flag word, set if flow information is initialized in the
+ * data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_flow_info_initialized: flag word: flow information initialised in the data plane. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_flow_info_initialized: flag word, set if flow information is initialized in the data plane.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1102,21 +1148,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_se
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name mp_initialized: flag word: mp initialised on the client side
+/** @name mp_initialized: flag word, set if mp is initialized on the client side
  *  @{ */
-/** Returns the address of the member mp_initialized in the object: flag word: mp initialised on the client side. NULL
- * after an error. */
+/** Returns the address of the member mp_initialized in the object: flag word, set if mp is initialized on the client
+ * side. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_mp_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member mp_initialized: flag word: mp initialised on the client side. 0 after an error. */
+/** Returns the value of the member mp_initialized: flag word, set if mp is initialized on the client side. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_mp_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in mp_initialized: flag word: mp initialised on the client side. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in mp_initialized: flag word, set if mp is initialized on the client side. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in mp_initialized: flag word: mp initialised on the client side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in mp_initialized: flag word, set if mp is initialized on the client side. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1128,21 +1175,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_state_flag_set(mirk_han
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_mp_initialized: flag word: mp initialised in the data plane
+/** @name dp_mp_initialized: flag word, set if mp is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_mp_initialized in the object: flag word: mp initialised in the data plane. NULL
- * after an error. */
+/** Returns the address of the member dp_mp_initialized in the object: flag word, set if mp is initialized in the data
+ * plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_mp_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_mp_initialized: flag word: mp initialised in the data plane. 0 after an error. */
+/** Returns the value of the member dp_mp_initialized: flag word, set if mp is initialized in the data plane. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_mp_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_mp_initialized: flag word: mp initialised in the data plane. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_mp_initialized: flag word, set if mp is initialized in the data plane.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_mp_initialized: flag word: mp initialised in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_mp_initialized: flag word, set if mp is initialized in the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1154,21 +1202,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_state_flag_set(mirk_
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name tt_initialized: flag word: tt initialised on the client side
+/** @name tt_initialized: flag word, set if tt is initialized on the client side
  *  @{ */
-/** Returns the address of the member tt_initialized in the object: flag word: tt initialised on the client side. NULL
- * after an error. */
+/** Returns the address of the member tt_initialized in the object: flag word, set if tt is initialized on the client
+ * side. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_tt_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_initialized: flag word: tt initialised on the client side. 0 after an error. */
+/** Returns the value of the member tt_initialized: flag word, set if tt is initialized on the client side. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_tt_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in tt_initialized: flag word: tt initialised on the client side. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in tt_initialized: flag word, set if tt is initialized on the client side. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in tt_initialized: flag word: tt initialised on the client side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in tt_initialized: flag word, set if tt is initialized on the client side. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1180,21 +1229,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_state_flag_set(mirk_han
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_tt_initialized: flag word: tt initialised in the data plane
+/** @name dp_tt_initialized: flag word, set if tt is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_tt_initialized in the object: flag word: tt initialised in the data plane. NULL
- * after an error. */
+/** Returns the address of the member dp_tt_initialized in the object: flag word, set if tt is initialized in the data
+ * plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_tt_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_tt_initialized: flag word: tt initialised in the data plane. 0 after an error. */
+/** Returns the value of the member dp_tt_initialized: flag word, set if tt is initialized in the data plane. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_tt_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_tt_initialized: flag word: tt initialised in the data plane. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_tt_initialized: flag word, set if tt is initialized in the data plane.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_tt_initialized: flag word: tt initialised in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_tt_initialized: flag word, set if tt is initialized in the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1206,22 +1256,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_state_flag_set(mirk_
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name appl_sig_initialized: flag word: application signatures initialised on the client side
+/** @name appl_sig_initialized: flag word, set if application signatures are initialized on the client side
  *  @{ */
-/** Returns the address of the member appl_sig_initialized in the object: flag word: application signatures initialised
- * on the client side. NULL after an error. */
+/** Returns the address of the member appl_sig_initialized in the object: flag word, set if application signatures are
+ * initialized on the client side. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_appl_sig_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_sig_initialized: flag word: application signatures initialised on the client
- * side. 0 after an error. */
+/** Returns the value of the member appl_sig_initialized: flag word, set if application signatures are initialized on
+ * the client side. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_appl_sig_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in appl_sig_initialized: flag word: application signatures initialised on the client
- * side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in appl_sig_initialized: flag word, set if application signatures are initialized on
+ * the client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in appl_sig_initialized: flag word: application signatures initialised on the client side. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in appl_sig_initialized: flag word, set if application signatures are initialized on the client side.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1234,22 +1284,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_state_flag_set(mi
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_appl_sig_initialized: flag word: application signatures initialised in the data plane
+/** @name dp_appl_sig_initialized: flag word, set if application signatures are initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_appl_sig_initialized in the object: flag word: application signatures
- * initialised in the data plane. NULL after an error. */
+/** Returns the address of the member dp_appl_sig_initialized in the object: flag word, set if application signatures
+ * are initialized in the data plane. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_appl_sig_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_appl_sig_initialized: flag word: application signatures initialised in the data
- * plane. 0 after an error. */
+/** Returns the value of the member dp_appl_sig_initialized: flag word, set if application signatures are initialized in
+ * the data plane. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_appl_sig_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_appl_sig_initialized: flag word: application signatures initialised in the data
- * plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_appl_sig_initialized: flag word, set if application signatures are initialized
+ * in the data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in dp_appl_sig_initialized: flag word: application signatures initialised in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in dp_appl_sig_initialized: flag word, set if application signatures are initialized in the data
+ * plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1265,11 +1315,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_set
 /** @name tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class list
  *  @{ */
 /** Returns the address of the member tt_tc_filter_list_exmem_ptr in the object: external memory of the traffic table's
- * filter class list. NULL after an error. */
+ * filter class list. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Returns the value of the member tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class
- * list. 0 after an error. */
+ * list. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class
@@ -1293,11 +1343,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag
 /** @name tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class list
  *  @{ */
 /** Returns the address of the member tt_tc_agg_list_exmem_ptr in the object: external memory of the traffic table's
- * aggregation class list. NULL after an error. */
+ * aggregation class list. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Returns the value of the member tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class
- * list. 0 after an error. */
+ * list. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class
@@ -1321,11 +1371,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_se
 /** @name tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list
  *  @{ */
 /** Returns the address of the member tt_tc_learn_list_exmem_ptr in the object: external memory of the traffic table's
- * learn list. NULL after an error. */
+ * learn list. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Returns the value of the member tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list. 0
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list.
@@ -1346,20 +1396,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name tc_list_head_chunk_h: handle: chunk pool of class list heads
+/** @name tc_list_head_chunk_h: handle of the chunk pool of class list heads
  *  @{ */
-/** Returns the address of the member tc_list_head_chunk_h in the object: handle: chunk pool of class list heads. NULL
- * after an error. */
+/** Returns the address of the member tc_list_head_chunk_h in the object: handle of the chunk pool of class list heads.
+ * NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tc_list_head_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tc_list_head_chunk_h: handle: chunk pool of class list heads. 0 after an error. */
+/** Returns the value of the member tc_list_head_chunk_h: handle of the chunk pool of class list heads. 0 after an error
+ * or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tc_list_head_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in tc_list_head_chunk_h: handle: chunk pool of class list heads. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in tc_list_head_chunk_h: handle of the chunk pool of class list heads. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in tc_list_head_chunk_h: handle: chunk pool of class list heads. Notifies, marks the object as
+/** Stores a value in tc_list_head_chunk_h: handle of the chunk pool of class list heads. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
@@ -1373,21 +1424,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_set(mi
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name tc_chunk_h: handle: chunk pool of traffic classes
+/** @name tc_chunk_h: handle of the chunk pool of traffic classes
  *  @{ */
-/** Returns the address of the member tc_chunk_h in the object: handle: chunk pool of traffic classes. NULL after an
- * error. */
+/** Returns the address of the member tc_chunk_h in the object: handle of the chunk pool of traffic classes. NULL after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tc_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tc_chunk_h: handle: chunk pool of traffic classes. 0 after an error. */
+/** Returns the value of the member tc_chunk_h: handle of the chunk pool of traffic classes. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tc_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in tc_chunk_h: handle: chunk pool of traffic classes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in tc_chunk_h: handle of the chunk pool of traffic classes. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in tc_chunk_h: handle: chunk pool of traffic classes. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+/** Stores a value in tc_chunk_h: handle of the chunk pool of traffic classes. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tc_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1399,21 +1451,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ll_chunk_h: handle: chunk pool of learn lists
+/** @name ll_chunk_h: handle of the chunk pool of learn lists
  *  @{ */
-/** Returns the address of the member ll_chunk_h in the object: handle: chunk pool of learn lists. NULL after an
- * error. */
+/** Returns the address of the member ll_chunk_h in the object: handle of the chunk pool of learn lists. NULL after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_ll_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ll_chunk_h: handle: chunk pool of learn lists. 0 after an error. */
+/** Returns the value of the member ll_chunk_h: handle of the chunk pool of learn lists. 0 after an error or for a NULL
+ * object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_ll_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in ll_chunk_h: handle: chunk pool of learn lists. Notifies, marks the object as
+/** Stores the value of the source in ll_chunk_h: handle of the chunk pool of learn lists. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in ll_chunk_h: handle: chunk pool of learn lists. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in ll_chunk_h: handle of the chunk pool of learn lists. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of ll_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1425,21 +1478,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_state_flag_set(mirk_handle 
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name appl_chunk_h: handle: chunk pool of applications
+/** @name appl_chunk_h: handle of the chunk pool of applications
  *  @{ */
-/** Returns the address of the member appl_chunk_h in the object: handle: chunk pool of applications. NULL after an
- * error. */
+/** Returns the address of the member appl_chunk_h in the object: handle of the chunk pool of applications. NULL after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_appl_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_chunk_h: handle: chunk pool of applications. 0 after an error. */
+/** Returns the value of the member appl_chunk_h: handle of the chunk pool of applications. 0 after an error or for a
+ * NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_appl_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in appl_chunk_h: handle: chunk pool of applications. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in appl_chunk_h: handle of the chunk pool of applications. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
-/** Stores a value in appl_chunk_h: handle: chunk pool of applications. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+/** Stores a value in appl_chunk_h: handle of the chunk pool of applications. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1451,21 +1505,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_state_flag_set(mirk_handl
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name cl_appl_sig_hash_ptr: the client side's application signature hash
+/** @name cl_appl_sig_hash_ptr: application signature hash of the client side
  *  @{ */
-/** Returns the address of the member cl_appl_sig_hash_ptr in the object: the client side's application signature hash.
- * NULL after an error. */
+/** Returns the address of the member cl_appl_sig_hash_ptr in the object: application signature hash of the client side.
+ * NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member cl_appl_sig_hash_ptr: the client side's application signature hash. 0 after an
- * error. */
+/** Returns the value of the member cl_appl_sig_hash_ptr: application signature hash of the client side. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in cl_appl_sig_hash_ptr: the client side's application signature hash. Notifies,
+/** Stores the value of the source in cl_appl_sig_hash_ptr: application signature hash of the client side. Notifies,
  * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in cl_appl_sig_hash_ptr: the client side's application signature hash. Notifies, marks the object as
+/** Stores a value in cl_appl_sig_hash_ptr: application signature hash of the client side. Notifies, marks the object as
  * modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
@@ -1479,21 +1533,21 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_set(mi
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name dp_appl_sig_hash_h: handle: the data plane's application signature hash
+/** @name dp_appl_sig_hash_h: handle of the data plane's application signature hash
  *  @{ */
-/** Returns the address of the member dp_appl_sig_hash_h in the object: handle: the data plane's application signature
- * hash. NULL after an error. */
+/** Returns the address of the member dp_appl_sig_hash_h in the object: handle of the data plane's application signature
+ * hash. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_dp_appl_sig_hash_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_appl_sig_hash_h: handle: the data plane's application signature hash. 0 after an
- * error. */
+/** Returns the value of the member dp_appl_sig_hash_h: handle of the data plane's application signature hash. 0 after
+ * an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_dp_appl_sig_hash_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in dp_appl_sig_hash_h: handle: the data plane's application signature hash. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in dp_appl_sig_hash_h: handle of the data plane's application signature hash.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in dp_appl_sig_hash_h: handle: the data plane's application signature hash. Notifies, marks the
+/** Stores a value in dp_appl_sig_hash_h: handle of the data plane's application signature hash. Notifies, marks the
  * object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
@@ -1506,21 +1560,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_set(mirk
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name appl_sig_chunk_h: handle: chunk pool of application signatures
+/** @name appl_sig_chunk_h: handle of the chunk pool of application signatures
  *  @{ */
-/** Returns the address of the member appl_sig_chunk_h in the object: handle: chunk pool of application signatures. NULL
- * after an error. */
+/** Returns the address of the member appl_sig_chunk_h in the object: handle of the chunk pool of application
+ * signatures. NULL after an error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_appl_sig_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_sig_chunk_h: handle: chunk pool of application signatures. 0 after an error. */
+/** Returns the value of the member appl_sig_chunk_h: handle of the chunk pool of application signatures. 0 after an
+ * error or for a NULL object. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_appl_sig_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in appl_sig_chunk_h: handle: chunk pool of application signatures. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores the value of the source in appl_sig_chunk_h: handle of the chunk pool of application signatures. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in appl_sig_chunk_h: handle: chunk pool of application signatures. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+/** Stores a value in appl_sig_chunk_h: handle of the chunk pool of application signatures. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_sig_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1535,7 +1590,7 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_set(mirk_h
 /** @name appl_sig_hash_exmem: block of the application signature hash
  *  @{ */
 /** Returns the address of the member appl_sig_hash_exmem in the object: block of the application signature hash. NULL
- * after an error. */
+ * after an error or for a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_appl_sig_hash_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into appl_sig_hash_exmem: block of the application signature hash. The source loses its arrays and
@@ -1553,7 +1608,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_set(mir
 
 /** @name mp_export_exmem: block of the mp export
  *  @{ */
-/** Returns the address of the member mp_export_exmem in the object: block of the mp export. NULL after an error. */
+/** Returns the address of the member mp_export_exmem in the object: block of the mp export. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_mp_export_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into mp_export_exmem: block of the mp export. The source loses its arrays and strings. What
@@ -1571,7 +1627,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_export_exmem_state_flag_set(mirk_ha
 
 /** @name tt_export_exmem: block of the tt export
  *  @{ */
-/** Returns the address of the member tt_export_exmem in the object: block of the tt export. NULL after an error. */
+/** Returns the address of the member tt_export_exmem in the object: block of the tt export. NULL after an error or for
+ * a NULL object. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_tt_export_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tt_export_exmem: block of the tt export. The source loses its arrays and strings. What
@@ -1593,25 +1650,25 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_state_flag_set(mirk_ha
  * array. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_static_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_static_exmems: elements in static_exmem. 0 after an error. A count of one byte wraps at
- * 256. */
+/** Returns the count num_static_exmems: elements in static_exmem. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_static_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */
 
-/** @name static_exmem: processor's static memory blocks
+/** @name static_exmem: static memory blocks of the processor
  *  @{ */
-/** Returns the address of an element of static_exmem: processor's static memory blocks. The array owns the element, and
- * its next growth invalidates the address. ENOENT if the index is out of range. */
+/** Returns the address of an element of static_exmem: static memory blocks of the processor. The array owns the
+ * element, and its next growth invalidates the address. ENOENT if the index is out of range. */
 LUMO_UI_TARN_API lumo_tarn_static_exmem_info *lumo_tarn_lumo_info_static_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
-/** MOVES the value into an element of static_exmem: processor's static memory blocks. An index out of range grows the
- * array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array and
- * stores nothing; on a tracking handle it is refused with EINVAL. */
+/** MOVES the value into an element of static_exmem: static memory blocks of the processor. An index out of range grows
+ * the array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array
+ * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the
+ * object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_static_exmem_info *value, uint32_t *err);
-/** Sticky form of lumo_tarn_lumo_info_static_exmem_set(): copies with copy_mode 0 and moves otherwise. Returns the
- * handle's last_error. */
+/** Sticky form of lumo_tarn_lumo_info_static_exmem_set(): copies the value with copy_mode 0 and moves it otherwise.
+ * Returns the handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_static_exmem_set_cr(mirk_handle *h, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_static_exmem_info *value, uint32_t copy_mode);
 /** Returns the state byte of one element of static_exmem. ENOENT if the index is out of range, EINVAL if the handle's
@@ -1646,24 +1703,25 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_set_arr(mirk_h
 /** Returns the address of the count num_dyn_exmems: elements in dyn_exmem. Read-only: it follows from the array. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_dyn_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_dyn_exmems: elements in dyn_exmem. 0 after an error. A count of one byte wraps at 256. */
+/** Returns the count num_dyn_exmems: elements in dyn_exmem. 0 after an error or for a NULL object. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_dyn_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */
 
-/** @name dyn_exmem: processor's dynamic memory blocks
+/** @name dyn_exmem: dynamic memory blocks of the processor
  *  @{ */
-/** Returns the address of an element of dyn_exmem: processor's dynamic memory blocks. The array owns the element, and
- * its next growth invalidates the address. ENOENT if the index is out of range. */
+/** Returns the address of an element of dyn_exmem: dynamic memory blocks of the processor. The array owns the element,
+ * and its next growth invalidates the address. ENOENT if the index is out of range. */
 LUMO_UI_TARN_API lumo_tarn_dyn_exmem_info *lumo_tarn_lumo_info_dyn_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
-/** MOVES the value into an element of dyn_exmem: processor's dynamic memory blocks. An index out of range grows the
- * array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array and
- * stores nothing; on a tracking handle it is refused with EINVAL. */
+/** MOVES the value into an element of dyn_exmem: dynamic memory blocks of the processor. An index out of range grows
+ * the array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array
+ * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the
+ * object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_dyn_exmem_info *value, uint32_t *err);
-/** Sticky form of lumo_tarn_lumo_info_dyn_exmem_set(): copies with copy_mode 0 and moves otherwise. Returns the
- * handle's last_error. */
+/** Sticky form of lumo_tarn_lumo_info_dyn_exmem_set(): copies the value with copy_mode 0 and moves it otherwise.
+ * Returns the handle's last_error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dyn_exmem_set_cr(mirk_handle *h, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_dyn_exmem_info *value, uint32_t copy_mode);
 /** Returns the state byte of one element of dyn_exmem. ENOENT if the index is out of range, EINVAL if the handle's
