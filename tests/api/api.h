@@ -1,4 +1,4 @@
-// What the tests of the library's outside need: commands, files, and directories that go away.
+// Support for the tests of the API: commands, files, temporary directories.
 #pragma once
 
 #include <cstdio>
@@ -43,7 +43,7 @@ inline std::string content_of(const std::filesystem::path &path) {
     return content;
 }
 
-// A fresh directory, removed with all that is in it.
+// A temporary directory, removed with its content.
 class Directory {
 public:
     Directory() {
@@ -60,7 +60,7 @@ private:
     std::filesystem::path path_;
 };
 
-// Names of all files below, relative to it.
+// Paths of all files below the directory, relative to it.
 inline std::set<std::string> files_below(const std::filesystem::path &directory) {
     std::set<std::string> names;
     for (const auto &entry : std::filesystem::recursive_directory_iterator(directory)) {
@@ -71,7 +71,7 @@ inline std::set<std::string> files_below(const std::filesystem::path &directory)
 
 inline std::string quoted(const std::filesystem::path &path) { return "'" + path.string() + "'"; }
 
-// Runs the generator; the text in front sets variables for it.
+// Runs the generator; in_front precedes the command, to set variables.
 inline Output generate(const std::string &kind, const std::filesystem::path &into, const std::string &in_front = "",
                        const std::string &arguments = "") {
     return run(in_front + " " + quoted(TARN_GENERATE) + " " + kind + " " + quoted(into) + " " + arguments);

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <map>
 
-#include "reference/tables.h"
 #include "api.h"
+#include "reference/tables.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ std::vector<Symbol> symbols(const std::string &which) {
     return found;
 }
 
-// The golden list has one letter for data, whatever section it went to.
+// The golden list has one letter for data, whatever its section.
 bool is_data(char kind) { return std::string_view("BDR").find(kind) != std::string_view::npos; }
 
 std::set<std::string> exported() {
@@ -57,7 +57,7 @@ TEST(Exports, AreThoseOfTheGoldenList) {
     EXPECT_EQ(without(golden, exported()), std::set<std::string>{}) << "in the golden list, but not exported";
 }
 
-// Each message has a handler, each bundle one and one for each of its control messages.
+// One handler for each message, and for each bundle and its three control messages.
 std::size_t handlers() { return reference::messages().size() + 4 * reference::bundles().size(); }
 
 TEST(Exports, AreFunctionsDataAndOneWeakHandlerForEachMessageAndBundle) {
@@ -87,7 +87,7 @@ TEST(Exports, IdentitiesAndNamesAreReadOnly) {
     EXPECT_EQ(count, 3 * (reference::messages().size() + 3 * reference::bundles().size()));
 }
 
-// The words of the contract headers alone, not of what they include.
+// The words of the contract headers, without those of the headers that they include.
 std::set<std::string> declared_words() {
     std::set<std::string> words;
     bool ours = false;
@@ -114,7 +114,7 @@ bool is_added_by_instrumentation([[maybe_unused]] const std::string &name) {
     for (const char *prefix : {"__asan_", "__ubsan_", "__tsan_", "__sanitizer_", "__gcov_", "__llvm_"}) {
         if (name.starts_with(prefix)) return true;
     }
-    // With instrumentation the compiler may call the C++ library for what it folds away otherwise.
+    // With instrumentation the compiler may call C++ library functions that it otherwise folds away.
     return name.starts_with("_Z");
 #else
     return false;
@@ -147,7 +147,7 @@ TEST(Exports, ComeUnderANameWithItsVersion) {
 }
 
 TEST(Exports, HandlersAreNotBoundInsideTheLibrary) {
-    // A library that resolves its own symbols first says so in its dynamic section, and a replacement would be ignored.
+    // A library linked with -Bsymbolic would ignore a client's replacement. Its dynamic section would say so.
     const Output output = run(TARN_READELF " -d " + quoted(TARN_LIBRARY));
     ASSERT_EQ(output.code, 0);
     EXPECT_EQ(output.text.find("SYMBOLIC"), std::string::npos) << output.text;

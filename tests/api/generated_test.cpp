@@ -1,8 +1,8 @@
-// What is generated and checked in is what the generator prints now.
+// The generated files that are checked in are those that the generator prints.
 #include <gtest/gtest.h>
 
-#include "reference/tables.h"
 #include "api.h"
+#include "reference/tables.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
-# Compiles every public header by itself, as the first and only thing that a source includes, with all warnings that
-# clients may have turned on.
+# Compiles every public header by itself, as the first and only include of a source, with all warnings that clients may
+# enable.
 #   cmake -DCOMPILER= -DLANGUAGE= -DSTANDARD= -DINCLUDE= -DSOURCE= -P headers.cmake
-# SOURCE holds one declaration, since a header may be nothing but a comment and a source may not be empty.
+# SOURCE has one declaration: a header may consist of comments, and a source may not be empty.
 file(GLOB_RECURSE headers RELATIVE ${INCLUDE} ${INCLUDE}/*.h)
 list(LENGTH headers count)
 if(count LESS 70)
   message(FATAL_ERROR "only ${count} headers in ${INCLUDE}")
 endif()
 if(COMPILER MATCHES "clang")
-  # All that there is, but for complaints about the language itself, about gaps in a structure, and about the names of
-  # the contract, some of which begin with an underscore.
+  # All warnings except those about the language version, about padding, and about the names of the contract, some of
+  # which begin with an underscore.
   set(warnings -Weverything -Wno-c++98-compat -Wno-c++98-compat-pedantic -Wno-padded
       -Wno-reserved-identifier)
 else()

@@ -7,8 +7,8 @@
 #include <map>
 #include <optional>
 
-#include "reference/tables.h"
 #include "api.h"
+#include "reference/tables.h"
 
 namespace {
 
@@ -114,7 +114,7 @@ TEST_F(Manifest, LinesHaveFixedColumns) {
     }
 }
 
-// Luid, kind and size of every type, in the order that the list has: types by name, then messages by luid.
+// Luid, kind and size of every type, in the order of the list: types by name, then messages by luid.
 std::vector<std::string> expected_facts() {
     std::map<std::string, std::string> by_name, by_luid;
     const auto number = [](std::uint32_t n) {
@@ -152,7 +152,7 @@ int occurrences(const std::string &text, const std::string &word) {
     return count;
 }
 
-TEST_F(Manifest, SecondDigestsDifferAndStandNowhereElse) {
+TEST_F(Manifest, SecondDigestsAreUniqueAndOccurNowhereElse) {
     std::set<std::string> digests;
     for (const std::string &line : types()) {
         const std::string digest = line.substr(33, 32);

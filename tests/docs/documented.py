@@ -1,4 +1,4 @@
-"""Is every exported name explained in the reference?  documented.py EXPORTS XML_DIRECTORY"""
+"""Checks that the reference documents every exported name.  documented.py EXPORTS XML_DIRECTORY"""
 
 import pathlib
 import sys
@@ -15,8 +15,8 @@ for page in directory.glob("*.xml"):
 names = [line.split()[1] for line in exports.read_text().splitlines()]
 silent = [name for name in names if len(texts.get(name, "").split()) < 3]
 for name in silent:
-    print(f"{name} is exported and not explained")
+    print(f"{name} is exported and not documented")
 if len(names) < 4000:
     sys.exit(f"only {len(names)} exported names were found")
-print(f"{len(names) - len(silent)} of {len(names)} exported names are explained")
+print(f"{len(names) - len(silent)} of {len(names)} exported names are documented")
 sys.exit(1 if silent else 0)

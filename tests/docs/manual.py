@@ -1,4 +1,4 @@
-"""Do the manual pages tell of everything that there is?  manual.py TARN FOLDER_OF_PAGES"""
+"""Checks that the manual pages are complete.  manual.py TARN FOLDER_OF_PAGES"""
 
 import json
 import re
@@ -28,7 +28,7 @@ def expect(things, found, where):
     missing.extend(f"{thing} is not in {where}" for thing in sorted(set(things) - set(found)))
 
 
-# tarn(1): every command with every option, each under its command, and nothing that the tool does not know.
+# tarn(1): every command with every option under its command, and no other.
 tool = page("tarn.1")
 commands = re.findall(r"^  ([a-z]+) {2,}", run(tarn, "--help").split("Subcommands:")[1], re.M)
 if len(commands) < 10:
@@ -38,13 +38,13 @@ expect(commands, sections, "tarn(1)")
 expect(sections, commands, "tarn --help")
 option = r"(?<![\w-])(--?[a-z][a-z-]*)"
 for command in commands:
-    # In the help an option stands at the beginning of its line, in the manual as the head of its item.
+    # In the help an option begins its line; in the manual it is the head of an item.
     offered = re.findall(option, "\n".join(re.findall(r"^ {2,4}(-[^ ]*)", run(tarn, command, "--help"), re.M)))
-    told = re.findall(option, "\n".join(re.findall(r"^ {5}(-.*)", sections.get(command, ""), re.M)))
+    documented = re.findall(option, "\n".join(re.findall(r"^ {5}(-.*)", sections.get(command, ""), re.M)))
     if len(offered) < 2:
         sys.exit(f"only {offered} were found in tarn {command} --help")
-    expect(offered, told, f"tarn(1) under {command}")
-    expect(told, offered, f"tarn {command} --help")
+    expect(offered, documented, f"tarn(1) under {command}")
+    expect(documented, offered, f"tarn {command} --help")
 
 # lumo_ui_tarn(3) and tarn_frame(5): every name of the schema.
 schema = json.loads(run(tarn, "schema", "--json"))

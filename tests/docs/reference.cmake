@@ -1,4 +1,4 @@
-# The reference of the headers is complete, and is no longer so when one explanation is taken away from any of them.
+# The reference of the headers is complete, and is reported as incomplete if a comment is removed from a header.
 #   cmake -DDOXYGEN= -DPYTHON= -DSOURCE= -DSCRATCH= -P reference.cmake
 function(build_reference folder result)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TARN_REFERENCE=${SCRATCH}/reference ${DOXYGEN} docs/Doxyfile
@@ -16,23 +16,23 @@ endif()
 execute_process(COMMAND ${PYTHON} ${CMAKE_CURRENT_LIST_DIR}/documented.py ${SOURCE}/tests/golden/exports.txt
                         ${SCRATCH}/reference/xml COMMAND_ERROR_IS_FATAL ANY)
 
-# take_away(HEADER BEFORE AFTER NAME): the copy of the header, with the text BEFORE gone in front of AFTER.
+# remove_text(HEADER BEFORE AFTER NAME): the copy of the header, without the text BEFORE that precedes AFTER.
 set(copy ${SCRATCH}/copy)
-function(take_away header before after name)
+function(remove_text header before after name)
   file(REMOVE_RECURSE ${copy})
   file(COPY ${SOURCE}/include ${SOURCE}/platform ${SOURCE}/docs DESTINATION ${copy})
   file(READ ${copy}/include/${header} text)
   string(REGEX REPLACE "${before}(${after})" "\\1" less "${text}")
   if(less STREQUAL text)
-    message(FATAL_ERROR "there was nothing to take away")
+    message(FATAL_ERROR "there was no text to remove")
   endif()
   file(WRITE ${copy}/include/${header} "${less}")
   build_reference(${copy} code)
   if(code EQUAL 0 OR NOT output MATCHES "${name}")
-    message(FATAL_ERROR "nobody noticed that an explanation of ${name} is missing:\n${output}")
+    message(FATAL_ERROR "the missing comment of ${name} was not reported:\n${output}")
   endif()
 endfunction()
-take_away(lumo_ui_tarn/module.h "/\\*\\*[^/]*\\*/\n" "LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump"
+remove_text(lumo_ui_tarn/module.h "/\\*\\*[^/]*\\*/\n" "LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump"
           lumo_ui_tarn_type_variant_dump)
-take_away(lumo_ui_tarn.hpp "/// [^\n]*\n *" "std::uint16_t src_port_min\\(\\) const" src_port_min)
-take_away(lumo_ui_tarn/interface.hpp "/// [^\n]*\n *" "bool is_tracked\\(\\) const" is_tracked)
+remove_text(lumo_ui_tarn.hpp "/// [^\n]*\n *" "std::uint16_t src_port_min\\(\\) const" src_port_min)
+remove_text(lumo_ui_tarn/interface.hpp "/// [^\n]*\n *" "bool is_tracked\\(\\) const" is_tracked)

@@ -1,5 +1,5 @@
 
--- ---- from here on: how frames are read, whatever the schema holds
+-- ---- reading frames; independent of the content of the schema
 
 local tarn = Proto("tarn", "Tarn frames")
 
@@ -79,7 +79,7 @@ local list = {}
 for _, field in pairs(fields) do list[#list + 1] = field end
 tarn.fields = list
 
--- ---- text of an address, as everywhere in the house
+-- ---- text of an address, in the same form as in the library
 
 local function v4_text(word)
     return string.format("%d.%d.%d.%d", bit32.extract(word, 24, 8), bit32.extract(word, 16, 8),
@@ -133,7 +133,7 @@ end
 
 -- ---- one frame
 
--- Takes the place of a tree that nobody wants to see.
+-- Stands in for a tree if none is shown.
 local nothing = {}
 function nothing.add() return nothing end
 function nothing.append_text() return nothing end
@@ -141,7 +141,7 @@ function nothing.append_text() return nothing end
 local reader = {}
 reader.__index = reader
 
--- Raised from any depth; what was found up to there stays in the tree.
+-- Raised from any depth. The items found so far stay in the tree.
 function reader:stop(at, path, reason) error({ at = at, path = path, reason = reason }, 0) end
 
 function reader:require(size, path)
@@ -164,7 +164,7 @@ function reader:text(tree, field, size, path)
     return tree:add_packet_field(field, range, ENC_UTF_8)
 end
 
--- A subtree that ends where its content does.
+-- A subtree whose length is that of its content.
 function reader:open(tree, field, label)
     local item = tree:add(field, self.tvb(self.at, 0))
     item:set_text(label)
@@ -210,7 +210,7 @@ function reader:record(tree, record, path)
         self:stop(jump_at, path .. ".jump", string.format("jump %.0f leads to %.0f, behind the end at %d", jump,
             stop_at - base, self.stop_at - base))
     end
-    -- A newer sender may have more behind the members that are known.
+    -- A newer sender may have more members after those that are known.
     if stop_at > self.at then self:take(tree, f.skipped, stop_at - self.at, path) end
     return variant >= 0 and values or nil
 end
@@ -232,7 +232,7 @@ function reader:member(tree, member, count, path, tracked)
         local _, variant = self:take(nothing, f.variant, 1, path .. ".variant")
         self:take(tree, member.field, 4, path):add(f.variant, variant)
     elseif kind == "address" then
-        -- The text comes from inside, so the parts are read twice: for the text, and for the tree.
+        -- The text depends on the parts, so they are read twice: for the text, and for the tree.
         local from = self.at
         local good, parts = pcall(self.record, self, nothing, "ip_address", path)
         self.at = from
@@ -274,7 +274,7 @@ function reader:array(tree, member, count, path, tracked)
     if left < count then self:require(1, string.format("%s[%d].state", path, left)) end
 end
 
--- Up to the identity, which is not a part of the header: its bytes are returned.
+-- Reads up to the identity, which is not part of the header, and returns its bytes.
 function reader:header(tree)
     for _, part in ipairs(message_parts) do
         local is_identity = part.content == "identity"
@@ -296,7 +296,7 @@ function reader:request(tree)
     return (refused and "refusal: " or "request: ") .. self.tvb(self.at - range:uint(), range:uint()):string(ENC_UTF_8)
 end
 
--- What the frame is, for people.
+-- A readable description of the frame.
 function reader:frame(tree, length)
     local range = self:header(tree)
     local luid = range:bytes():tohex(true)
@@ -392,7 +392,7 @@ end
 
 function tarn.dissector(tvb, pinfo, tree) return dissect(tvb, pinfo, tree) end
 
--- Calls dissect itself: a call through the protocol would no longer be allowed to ask for more of the stream.
+-- Calls dissect directly: when called through the protocol it could no longer request more of the stream.
 local function looks_like_a_frame(tvb, pinfo, tree)
     if tvb:captured_len() < frame.least or tvb(0, 1):uint() ~= frame.marker then return false end
     local luid = tvb(frame.luid_at, frame.least - frame.luid_at):bytes():tohex(true)

@@ -1,11 +1,11 @@
-// The dissector for network captures: the schema as tables, in front of code that reads frames by them.
+// The dissector for network captures: the schema as Lua tables, followed by the code that reads frames with them.
 #include "dissector.h"
 
 #include <cstdlib>
 
+#include "api.h"
 #include "mirk_platform.h"
 #include "schema/frame.h"
-#include "api.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -68,10 +68,10 @@ std::string_view word(Content content) {
         case Content::members:
             break;
     }
-    std::abort();  // of no fixed size, or taken apart
+    std::abort();  // of variable size, or consists of other parts
 }
 
-// The parts of fixed size; a part that consists of others is replaced by them, each under its condition.
+// The parts of fixed size. A part that consists of others is replaced by them, each under its condition.
 std::string tables_of_parts(std::span<const Part> frame, std::uint8_t flag = 0) {
     std::string text;
     for (const Part &part : frame) {

@@ -14,14 +14,14 @@ constexpr std::string_view banner = "// Generated from the schema and the table 
 
 bool is_opaque(const std::string &type) { return type.find("lumo_tarn_") != std::string::npos; }
 
-// Opaque pointers become what the algorithms work on: a header, an enumeration, a message.
+// Casts opaque pointers to the type that the algorithms work on: a header, an enumeration, a message.
 std::string argument(const Parameter &p) {
     if (!is_opaque(p.type)) return p.name;
     if (p.type.ends_with("**")) return "objects_of(" + p.name + ")";
     return "object_of(" + p.name + ")";
 }
 
-// What a sticky form puts for what it does not take.
+// The argument that a sticky form passes for a parameter that it does not have.
 std::string sticky_argument(const Parameter &p, const Subject &s) {
     if (p.name == "ctx_id") return "h->default_id";
     if (p.name == "err") return "&h->last_error";
@@ -30,7 +30,7 @@ std::string sticky_argument(const Parameter &p, const Subject &s) {
     return argument(p);
 }
 
-// Those of core/sticky.h. Empty: the call is the whole answer.
+// The function of core/sticky.h; empty if the call alone is enough.
 std::string_view policy_of(Sticky sticky) {
     switch (sticky) {
         case Sticky::create:
@@ -53,7 +53,7 @@ std::string call(const Export &e) {
     const bool err_in_front = e.entry.ends_with("::get_all") || e.entry.ends_with("::set_all");
     const auto add = [&](const std::string &text) { list += (list.empty() ? "" : ", ") + text; };
     const bool sticky = e.operation->sticky != Sticky::none;
-    // The values of a whole record are a parameter pack, which has to stand last.
+    // The values of a whole record are a parameter pack, which must come last.
     for (std::size_t i = 0; i < e.called_with.size(); ++i) {
         const Parameter &p = e.called_with[i];
         if (err_in_front && i == 3) add("err");
@@ -142,7 +142,7 @@ std::string identity() {
     return text + "\n}  // namespace tarn\n";
 }
 
-// Constants are declared before they are defined: without that they would not be visible outside.
+// Constants are declared before they are defined; otherwise they would not be visible outside.
 std::string constant(const std::string &declaration, const std::string &value) {
     return "extern LUMO_UI_TARN_API const " + declaration + ";\nconstinit const " + declaration + " = " + value + ";\n";
 }
@@ -160,8 +160,8 @@ std::string catalogue_objects() {
     return text + "}\n";
 }
 
-// The types of the public headers, which name nothing else of these here: a unit is compiled anew when its own
-// operations change, and not when those of others do.
+// Declares only the types of the public headers, so that a unit is rebuilt when its own operations change and not when
+// those of other units do.
 std::string opaque() {
     std::string text(banner);
     for (const Applies applies : {Applies::record, Applies::enumeration, Applies::message}) {
@@ -193,7 +193,7 @@ std::string variables() {
 
 namespace {
 
-// One record of each shape, an enumeration, a message and a bundle: enough to see every line of every family.
+// One record of each shape, an enumeration, a message and a bundle: enough to instantiate every line of every family.
 bool is_in_sample(const Subject &s) {
     constexpr std::string_view names[] = {"lumo_tarn_lumo_info",  "lumo_tarn_dp_tc",     "lumo_tarn_cl_kesh_appl",
                                           "lumo_tarn_ha_state_e", "lumo_tarn_dp_tt_msg", "lumo_tarn_dp_tt_cfg_rsp"};
@@ -240,7 +240,7 @@ Files write_exports(const std::vector<std::string> &sources, bool sample_only) {
         }
         files[std::string(unit) + ".inc"] = text + "}\n";
     }
-    // One file for each source, so that the build knows their names before it knows the table.
+    // One file for each source, so that the build knows the names of the files before it knows the table.
     for (const std::string &source : sources) files.try_emplace(source + ".inc", banner);
     return files;
 }

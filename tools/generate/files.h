@@ -1,4 +1,4 @@
-// Files that a generator prints.
+// The files that a generator prints.
 #pragma once
 
 #include <map>
@@ -6,10 +6,10 @@
 
 namespace tarn::generate {
 
-// File name, relative to a directory of the product's own, and content.
+// Path, relative to the output directory, and content.
 using Files = std::map<std::string, std::string>;
 
-// A file whose content is unchanged is left alone, so that nothing is rebuilt for it.
+// Does not touch a file whose content is unchanged, so that nothing is rebuilt.
 void write_files(const std::string &directory, const Files &files);
 
 }  // namespace tarn::generate

@@ -1,5 +1,4 @@
-// Text with places to fill in: each "$name" is replaced by its value. Longer names are to stand in front of shorter
-// ones that they begin with.
+// Replaces each "$name" in a text by its value. A name must come before the names that are prefixes of it.
 #pragma once
 
 #include <initializer_list>
@@ -9,8 +8,8 @@
 
 namespace tarn {
 
-inline std::string fill_in(std::string text, std::initializer_list<std::pair<std::string_view, std::string>> places) {
-    for (const auto &[name, value] : places) {
+inline std::string fill_in(std::string text, std::initializer_list<std::pair<std::string_view, std::string>> values) {
+    for (const auto &[name, value] : values) {
         for (std::size_t at = 0; (at = text.find(name, at)) != std::string::npos; at += value.size()) {
             text.replace(at, name.size(), value);
         }

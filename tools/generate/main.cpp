@@ -1,5 +1,9 @@
-// Prints everything that follows from the schema: generate KIND DIRECTORY [ARGUMENT...]. The arguments of exports are
-// the sources of the library, those of link NAME=VALUE for the build stamp of the manifest.
+// Prints all files that follow from the schema and the table of operations: generate KIND DIRECTORY [ARGUMENT...]. The
+// arguments of exports are the sources of the library, those of link NAME=VALUE for the build stamp of the manifest.
+//
+// tools/generate may include schema/ and the drawing code of tools/draw. It does not include the library, the runtime
+// or the headers that it prints: it forms names and prototypes and knows nothing of how an operation works. A name is
+// formed in api.cpp alone; a text about an operation is written in operations.cpp alone.
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
@@ -11,7 +15,7 @@ namespace {
 
 using namespace tarn::generate;
 
-// Builds can be repeated byte for byte: the time is the one given, or none.
+// Reproducible builds: the time is SOURCE_DATE_EPOCH or a neutral constant.
 std::string time_of_build(const BuildStamp &neutral) {
     const char *epoch = std::getenv("SOURCE_DATE_EPOCH");
     if (epoch == nullptr) return neutral.at;

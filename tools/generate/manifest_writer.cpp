@@ -26,7 +26,7 @@ void append_block(std::string &out, std::uint32_t kind, const std::string &text)
     out.append(round_up(length, 4) - text.size(), '\0');
 }
 
-// What a type is, in words from which its digest is made: stable in every build, and different for every type.
+// The description of a type from which its digest is made: the same in every build, different for every type.
 std::string describe(const Record &record) {
     std::string text = "record " + std::string(record.name);
     for (const Member &m : record.members) {

@@ -1,4 +1,4 @@
-// Names that languages other than C give to what the schema names.
+// Names of schema objects in languages other than C.
 #pragma once
 
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace tarn::generate {
 
-// Without the prefix that all names of the schema share.
+// Without the common prefix of all names of the schema.
 std::string short_name(std::string_view name);
-// Of an enumeration also without its suffix.
+// The short name, without the suffix of enumerations.
 std::string type_name(const schema::Enumeration &enumeration);
-// Lower case, without the words that all enumerators of the enumeration begin with.
+// In lower case, without the leading words that all enumerators of the enumeration share.
 std::vector<std::string> enumerator_names(const schema::Enumeration &enumeration);
 
-// What the schema says of a thing, as the beginning of a sentence and as a whole one.
+// A phrase as the beginning of a sentence, and as a whole sentence.
 std::string capital(std::string_view phrase);
 std::string sentence(std::string_view phrase);
 

@@ -1,4 +1,4 @@
-# Would the comparison notice? A member of the handle moves in a copy of the baseline, and a parameter gets another type.
+# The comparison fails if a member of the handle is moved in a copy of the baseline, or if a parameter's type changes.
 #   cmake -DABIDIFF= -DBASELINE= -DLIBRARY= -DSCRATCH= -P notices.cmake
 file(READ ${BASELINE} original)
 

@@ -1,4 +1,4 @@
-# Unpacks the baseline, and writes from its list of symbols a library without content and a program's need of it.
+# Unpacks the baseline. Writes, from its list of symbols, an empty library and references to all of its symbols.
 #   cmake -DBASELINE= -DINTO= -P stub.cmake
 file(ARCHIVE_EXTRACT INPUT ${BASELINE} DESTINATION ${INTO})
 file(STRINGS ${INTO}/lumo_ui_tarn.abi symbols REGEX "<elf-symbol ")
