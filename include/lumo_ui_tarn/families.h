@@ -7,7 +7,7 @@
  *
  * Terms
  * -----
- * - Runtime: what implements mirk/mirk.h. The reference runtime is the one of mirk_platform.h.
+ * - Runtime: the library that implements mirk/mirk.h. The reference runtime is that of mirk_platform.h.
  * - Instance: an object of a record. Its header has the type, the variant and flags; then come the members.
  * - Scalar: a member that is an integer, a boolean or an enumeration.
  * - Variant: the version of its type that an object has. This schema has variant 0 only. An object with a negative
@@ -18,6 +18,7 @@
  * - Tracking: a handle tracks state if its state descriptor says so. Each member but counts and lengths then has a
  *   state byte, 0 at first; setters store 2. The state bytes of an instance form its state area.
  * - Notification: a call of the handle's write_notify before a member is written.
+ * - Sentinel: a static object of zeros, one for each type, that sticky forms return instead of NULL.
  * - Modified: a mark of an object. Setters set it, and backpropagate finds and clears it.
  * - RA data: a value and a byte that the runtime keeps for an object, and that frames carry.
  *
@@ -37,8 +38,8 @@
  * bundle stays open, and the next start fails with EEXIST.
  *
  * Forms: an explicit form takes (h, ctx_id, ..., err). A sticky form, named _cr, takes (h, ...): it works under the
- * handle's default_id, and its error slot is the handle's last_error, which stays set until an explicit form clears
- * it. An _unsafe form, of messages only, is another name of the explicit form.
+ * handle's default_id, and its error slot is the handle's last_error, which stays set until an explicit form clears it.
+ * An _unsafe form, of messages only, is another name of the explicit form.
  *
  * Errors:
  * - ENOENT: no such index or element; no bundle is open; the open bundle does not admit the message
@@ -53,7 +54,7 @@
  * - EMSGSIZE: the buffer is too small for the frame or the text; the frame is too short
  *
  * A lenient runtime leaves `err` at 0 in place of EIDRM. Accessors then do nothing and report no error; marshal
- * operations write on. The reference runtime is lenient if its options say so.
+ * operations write on. The reference runtime is lenient with the option MIRK_PLATFORM_LENIENT_EIDRM.
  *
  * Nothing is rolled back; an object can be destroyed after any failure. On corrupt memory the library writes a trace
  * line of level 0 and aborts.
@@ -64,15 +65,16 @@
  * T_create allocates an instance with all members zero. It returns NULL if allocation fails, or if the domain look-up
  * of an enumeration member fails. The caller owns the instance and releases it with T_destroy.
  *
- * T_create_cr returns a sentinel instead of NULL if allocation fails or last_error is set already. The sentinel is a
- * static object of zeros that destroy operations ignore, so that a chain of sticky calls needs no test for NULL. After
- * a failed look-up T_create_cr returns NULL, and last_error may be 0. Do not pass a sentinel to explicit forms.
+ * T_create_cr returns a sentinel instead of NULL if allocation fails or last_error is set already. Destroy operations
+ * ignore the sentinel, so that a chain of sticky calls needs no test for NULL. After a failed look-up T_create_cr
+ * returns NULL, and last_error may be 0. Do not pass a sentinel to explicit forms.
  *
  * One allocation holds the instance, everything nested in it and, on a tracking handle, its state area. T_sizeof
- * therefore differs between handles. An instance must not move from a tracking handle to another one or the reverse:
- * on a tracking handle, reading a frame into an instance without state aborts. T_initialize, and T_destroy_internal with free_it 0, are for objects in memory of
- * another object. An object that other objects refer to is released with the last reference, after T_destroy. The usage
- * counter num_live of a message's type stays 0; num_created and num_destroyed are counted.
+ * therefore differs between handles. An instance must not move from a tracking handle to another one or the reverse: on
+ * a tracking handle, reading a frame into an instance without state aborts. T_initialize, and T_destroy_internal with
+ * free_it 0, are for objects in memory of another object. An object that other objects refer to is released with the
+ * last reference, after T_destroy. The usage counter num_live of a message's type stays 0; num_created and
+ * num_destroyed are counted.
  *
  *
  * Members
@@ -160,17 +162,17 @@
  * Deep copy (T_clone, T_clone_cr, T_copy_cr)
  * ------------------------------------------
  * A deep copy goes through a frame: in the caller's buffer or, for the sticky forms, in the handle's workspace. Larger
- * records need T_clone with a buffer of T_len bytes and the guard byte. The copy keeps the variant of the instance, but nested
- * records are limited to the domain's variants. T_copy_cr reads into an existing destination, releases nothing that it
- * owned, and destroys it if reading fails.
+ * records need T_clone with a buffer of T_len bytes and the guard byte. The copy keeps the variant of the instance, but
+ * nested records are limited to the domain's variants. T_copy_cr reads into an existing destination, releases nothing
+ * that it owned, and destroys it if reading fails.
  *
  *
  * Text (T_print, T_print_cr)
  * --------------------------
  * For people; there is no reader. The result is the length without the final NUL; 0xFFFFFFFF from a sticky form is a
- * failure. The indent before the closing brace of a nested record is counted but not written. Its first byte is the
- * NUL of the line before; the others keep what the buffer held. Clear the buffer first, then replace NUL bytes within
- * the returned length by blanks.
+ * failure. The indent before the closing brace of a nested record is counted but not written. Its first byte is the NUL
+ * of the line before; the others keep what the buffer held. Clear the buffer first, then replace NUL bytes within the
+ * returned length by blanks.
  *
  *
  * XML (T_to_xml, T_toxml_cr, T_from_xml)
@@ -185,17 +187,17 @@
  *
  * Value (T_compare, T_hash, T_type_type_backpropagate)
  * ----------------------------------------------------
- * T_compare orders by members in table order. Counts and lengths come first, so a shorter string is less. Only the
- * sign of the result has a meaning. T_hash continues from a seed. Both ignore header and state and accept NULL.
- * Backpropagate returns 1 if it finds a change mark, and clears the mark of the record and of the first member that
- * has one.
+ * T_compare orders by members in table order. Counts and lengths come first, so a shorter string is less. Only the sign
+ * of the result has a meaning. T_hash continues from a seed. Both ignore header and state and accept NULL.
+ * Backpropagate returns 1 if it finds a change mark, and clears the mark of the record and of the first member that has
+ * one.
  *
  *
  * Enumerations
  * ------------
- * An object with one 32-bit value. E_set and E_set_value refuse a value that is not an enumerator with EIDRM and
- * store nothing; reading a frame accepts any value. E_is_valid_cr also returns 1 for numbers with the top bit set.
- * E_compare returns the difference of the values.
+ * An object with one 32-bit value. E_set and E_set_value refuse a value that is not an enumerator with EIDRM and store
+ * nothing; reading a frame accepts any value. E_is_valid_cr also returns 1 for numbers with the top bit set. E_compare
+ * returns the difference of the values.
  *
  *
  * Messages
@@ -205,12 +207,12 @@
  * these and N_destroy accept a NULL message.
  *
  * A frame is 27 bytes of header, 16 of identity, then the payload's frame. Writing into less than 43 bytes, or reading
- * less than 27, fails with EMSGSIZE. Reading 27 to 43 bytes fails with ENOMEM, as does writing into exactly 43.
+ * less than 27, fails with EMSGSIZE. Reading 27 to 43 bytes fails with ENOMEM, as does writing into exactly 43 bytes.
  *
  * N_unmarshal delivers to the given handler, or to the linked-in one, and destroys nothing: the receiver owns the
- * message. After a bad frame N_unmarshal leaks the message. A long-running process with bad input uses
- * N_unmarshal_only and destroys the message that it returns. The recorder takes a message if its XML, with a final NUL,
- * fits in 4,096 bytes; otherwise the handler is called with EMSGSIZE in err.
+ * message. After a bad frame N_unmarshal leaks the message. A long-running process with bad input uses N_unmarshal_only
+ * and destroys the message that it returns. The recorder takes a message if its XML, with a final NUL, fits in 4,096
+ * bytes; otherwise the handler is called with EMSGSIZE in err.
  *
  * Call mirk_lumo_ui_tarn_message_trace_init once; otherwise message traces go to module 0.
  *

@@ -110,7 +110,7 @@ An operation of a type has the name TYPE_OPERATION, an operation of a member TYP
 It behaves the same for every type.
 Each is listed once below, with words in capitals for the names of types and members;
 .In lumo_ui_tarn/families.h
-has the details.
+has the details and explains the terms: variant, body, domain, tracking, sentinel.
 .Bl -tag -width ctx_id
 .It Fa h
 The handle.
@@ -132,8 +132,13 @@ Every buffer for a frame, of a record or of a message, has one guard byte after 
 )mdoc";
     using enum Applies;
     out += operations("Records", "Each RECORD has these.", record);
-    out += operations("Members of records", "The kind of a MEMBER decides which of them it has.",
-                      integer | boolean | enumerated | address | nested | length | count | string | array);
+    out += operations(
+        "Members with one value",
+        "An integer, boolean, enumeration, address or nested record has these. The last two have no value forms.",
+        integer | boolean | enumerated | address | nested);
+    out += operations("Counts and lengths", "A count or a length has these.", count | length);
+    out += operations("Strings", "A string has these.", string);
+    out += operations("Arrays", "An array has these.", array);
     out += operations("Enumerations", "Each ENUM has these.", enumeration);
     out += operations("Messages", "Each MESSAGE has these.", message);
     out += operations("Bundles", "Each BUNDLE has these, with start, abort and commit for CONTROL.", control | bundle);
@@ -178,6 +183,7 @@ The destination is too short for the text.
 No handler took the message.
 .It Bq Er EIDRM
 The object has no body, the domain does not have its variant, or the enumeration does not have the value.
+A lenient runtime does not set it; marshal operations then write the frame in the domain's variant.
 .It Bq Er EBADE
 The domain does not have the message.
 .It Bq Er EBADMSG

@@ -42,16 +42,15 @@ constexpr Row table[] = {
      "booleans nested in it."},
     {record, "lifecycle", "Lifecycle", "void {r}_adjust_variant(H, I, {r} *object, E)",
      "Lifecycle<{R}>::adjust_variant",
-     "Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant "
-     "changes."},
+     "Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes."},
     {record, "lifecycle", "Lifecycle", "void {r}_destroy(H, I, {r} *object)", "Lifecycle<{R}>::destroy",
      "Destroys the instance: its arrays and strings, everything nested in it, and its memory. NULL and the sentinel "
      "are ignored. An instance that other objects refer to is released with the last reference.",
      as_is},
     {record, "lifecycle", "Lifecycle", "void {r}_destroy_internal(H, I, {r} *object, uint32_t free_it)",
      "Lifecycle<{R}>::destroy_internal",
-     "Same as {r}_destroy(), but with free_it 0 the memory of the instance itself is not freed. For instances that "
-     "lie in memory of another object."},
+     "Same as {r}_destroy(), but with free_it 0 the memory of the instance itself is not freed. For instances that lie "
+     "in memory of another object."},
     {record, "lifecycle", "Whole record", "{r} *{r}_get(H, I, {r} *object, E)", "Lifecycle<{R}>::get",
      "Returns the instance itself, so that code can treat records as it treats members."},
     {record, "accessors", "Whole record", "void {r}_get_all(H, I, {r} *object, {get_all}E)", "Whole<{R}>::get_all",
@@ -65,8 +64,8 @@ constexpr Row table[] = {
      "Assignment<{R}>::set",
      "MOVES the source into the destination: members, state bytes, and the ownership of arrays and strings, which the "
      "source loses. What the destination owned before is not released. Moves even if err is already set. EINVAL if "
-     "either is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all "
-     "the same. Use {r}_copy_cr() to copy."},
+     "either is NULL. On a tracking handle, EINVAL if either has no state bytes; arrays and strings are moved all the "
+     "same. Use {r}_copy_cr() to copy."},
     {record, "assignment", "Whole record",
      "void {r}_post_copyout_cleanup(H, I, {r} *new_location, {r} *old_location, E)",
      "Assignment<{R}>::post_copyout_cleanup",
@@ -74,9 +73,9 @@ constexpr Row table[] = {
      "strings, and clears them at the old location. Acts even if err is already set."},
     {record, "accessors", "Whole record", "void {r}_set_all_state_tracking_flag(H, I, {r} *object, uint8_t value)",
      "Whole<{R}>::set_all_state_tracking_flag",
-     "Fills the state area of the instance and of each element of its own arrays with one byte, without "
-     "notifications. Elements of arrays in nested records are not filled. All element states then read as this value "
-     "and can no longer be set one by one. Has no effect without tracking."},
+     "Fills the state area of the instance and of each element of its own arrays with one byte, without notifications. "
+     "Elements of arrays in nested records are not filled. All element states then read as this value and can no "
+     "longer be set one by one. Has no effect without tracking."},
     {record, "accessors", "Whole record", "uint32_t {r}_is_valid_cr(H, {r} *object, uint32_t field_index)",
      "Whole<{R}>::is_valid_cr",
      "Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a "
@@ -168,56 +167,67 @@ constexpr Row table[] = {
 
     // ---- members with one value
     {single, "accessors", "", "{A} *{r}_{f}_get(H, I, {r} *object, E)", "Accessor<{F}>::get",
-     "Returns the address of the member {f} in the object: {meaning}. NULL after an error or for a NULL object."},
+     "Returns the address of {f} in the object: {meaning}. NULL for a NULL object, and with EIDRM for an object "
+     "without a body."},
     {length, "accessors", "", "{A} *{r}_{f}_get(H, I, {r} *object, E)", "Accessor<{F}>::get",
-     "Returns the address of the length {f}: {meaning}. Read-only: it follows from the string."},
+     "Returns the address of the length {f}: {meaning}. Read-only: it follows from the string. NULL for a NULL object, "
+     "and with EIDRM for an object without a body."},
     {count, "accessors", "", "{A} *{r}_{f}_get(H, I, {r} *object, E)", "Accessor<{F}>::get",
-     "Returns the address of the count {f}: {meaning}. Read-only: it follows from the array."},
+     "Returns the address of the count {f}: {meaning}. Read-only: it follows from the array. NULL for a NULL object, "
+     "and with EIDRM for an object without a body."},
     {value, "accessors", "", "{V} {r}_{f}_get_value(H, I, {r} *object, E)", "Accessor<{F}>::get_value",
-     "Returns the value of the member {f}: {meaning}. 0 after an error or for a NULL object."},
+     "Returns the value of {f}: {meaning}. 0 for a NULL object, and with EIDRM for an object without a body."},
     {length, "accessors", "", "{V} {r}_{f}_get_value(H, I, {r} *object, E)", "Accessor<{F}>::get_value",
-     "Returns {f}: {meaning}. 0 after an error or for a NULL object."},
+     "Returns the length {f}: {meaning}. 0 for a NULL object, and with EIDRM for an object without a body."},
     {count, "accessors", "", "{V} {r}_{f}_get_value(H, I, {r} *object, E)", "Accessor<{F}>::get_value",
-     "Returns the count {f}: {meaning}. 0 after an error or for a NULL object."},
+     "Returns the count {f}: {meaning}. 0 for a NULL object, and with EIDRM for an object without a body."},
     {integer | boolean, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, const {A} *source, E)",
      "Accessor<{F}>::set",
      "Stores the value of the source in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking "
-     "handle, sets the state byte to 2."},
+     "handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without "
+     "state bytes; EIDRM for one without a body."},
     {address, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
      "Stores the value of the source in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking "
-     "handle, sets the state byte to 2."},
+     "handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without "
+     "state bytes; EIDRM for one without a body."},
     {enumerated, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
-     "Stores the value of the source in {f}: {meaning}. A number that is not an enumerator is refused with EIDRM; its "
-     "state byte and the modified mark are set all the same."},
+     "Stores the value of the source in {f}: {meaning}. A number that is not an enumerator is refused with EIDRM; the "
+     "member's state byte and the modified mark are set all the same. EINVAL for a NULL pointer and, on a tracking "
+     "handle, for an object without state bytes; EIDRM for one without a body."},
     {nested, "accessors", "", "void {r}_{f}_set(H, I, {r} *object, {A} *source, E)", "Accessor<{F}>::set",
      "MOVES a record into {f}: {meaning}. The source loses its arrays and strings. What {f} owned before is not "
-     "released."},
+     "released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one "
+     "without a body."},
     {integer | boolean, "accessors", "", "void {r}_{f}_set_value(H, I, {r} *object, {V} value, E)",
      "Accessor<{F}>::set_value",
      "Stores a value in {f}: {meaning}. Notifies, marks the object as modified and, on a tracking handle, sets the "
-     "state byte to 2."},
+     "state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for "
+     "one without a body."},
     {enumerated, "accessors", "", "void {r}_{f}_set_value(H, I, {r} *object, {V} value, E)", "Accessor<{F}>::set_value",
-     "Stores an enumerator of {n} in {f}: {meaning}. Another number is refused with EIDRM; its state byte and the "
-     "modified mark are set all the same."},
+     "Stores an enumerator of {n} in {f}: {meaning}. Another number is refused with EIDRM; the member's state byte and "
+     "the modified mark are set all the same. ENOENT for a NULL object; on a tracking handle, EINVAL for one without "
+     "state bytes; EIDRM for one without a body."},
 
     // ---- strings and arrays
     {string, "strings", "", "void {r}_{f}_get(H, I, {r} *object, char *destination, uint32_t size, E)",
      "String<{F}>::get",
      "Copies {f} and a NUL after it: {meaning}. The destination has size bytes and needs the length plus 1. ENOSPC: "
-     "the copy is truncated. EINVAL: size is 0."},
+     "the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body."},
     {string, "strings", "", "void {r}_{f}_set(H, I, {r} *object, const char *text, uint32_t length, E)",
      "String<{F}>::set",
      "Stores length bytes of text in {f}: {meaning}. length is truncated to 16 bits. If the text ends earlier or is "
-     "NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL if "
-     "object is NULL.",
+     "NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL for a "
+     "NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body.",
      error},
     {array, "arrays", "", "{n} *{r}_{f}_get(H, I, {r} *object, uint32_t index, E)", "Array<{F}>::get",
      "Returns the address of an element of {f}: {meaning}. The array owns the element, and its next growth invalidates "
-     "the address. ENOENT if the index is out of range."},
+     "the address. ENOENT if the index is out of range, EIDRM if the object has no body."},
     {array, "arrays", "", "void {r}_{f}_set(H, I, {r} *object, uint32_t index, {n} *value, E)", "Array<{F}>::move_in",
      "MOVES the value into an element of {f}: {meaning}. An index out of range grows the array to index + 1 elements "
      "and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a "
-     "tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified."},
+     "tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a "
+     "tracking handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark "
+     "the object as modified."},
     {array, "arrays", "", "uint32_t {r}_{f}_set_cr(H, {r} *object, uint32_t index, {n} *value, uint32_t copy_mode)",
      "Array<{F}>::set_cr",
      "Sticky form of {r}_{f}_set(): copies the value with copy_mode 0 and moves it otherwise. Returns the handle's "
@@ -260,8 +270,8 @@ constexpr Row table[] = {
      "{e}_destroy().",
      create, "_internal"},
     {enumeration, "enumeration", "Lifecycle",
-     "void {e}_initialize(H, I, {e} *instance, mirk_type_info *type, uint32_t notify, uint32_t not_used_1, "
-     "uint8_t flags, void *not_used_2, E)",
+     "void {e}_initialize(H, I, {e} *instance, mirk_type_info *type, uint32_t notify, uint32_t not_used_1, uint8_t "
+     "flags, void *not_used_2, E)",
      "Enum<{E}>::initialize",
      "Initializes an object in memory of the caller. type is normally _{e}_type_info_internal. notify 0 suppresses "
      "write notifications. flags are added to obj_flag."},
@@ -340,8 +350,8 @@ constexpr Row table[] = {
      "not well-formed XML. EMSGSIZE if the text does not fit.",
      size},
     {enumeration, "enumeration", "XML",
-     "void {e}_from_xml(H, I, const char *path, void *document, {e} *instance, E, char *message, "
-     "uint32_t message_size)",
+     "void {e}_from_xml(H, I, const char *path, void *document, {e} *instance, E, char *message, uint32_t "
+     "message_size)",
      "Enum<{E}>::from_xml",
      "Reads the value from the enumerator's element below a path of the runtime's document. Without one, the value "
      "stays. Only a failed look-up writes a sentence to message, which may be NULL. Clear its first byte before the "
@@ -352,8 +362,8 @@ constexpr Row table[] = {
      "MessageObject<{M}>::create_shallow",
      "Allocates a message without a payload. Returns NULL if allocation fails. The caller owns it."},
     {message, "message", "Message objects", "{m} *{m}_message_create(H, I)", "MessageObject<{M}>::create",
-     "Allocates a message with a new payload. Returns NULL if the message or its payload cannot be created. The "
-     "caller owns it and releases it with {m}_message_destroy().",
+     "Allocates a message with a new payload. Returns NULL if the message or its payload cannot be created. The caller "
+     "owns it and releases it with {m}_message_destroy().",
      create, "_unsafe"},
     {message, "message", "Message objects", "void {m}_message_destroy(H, I, {m} *message)",
      "MessageObject<{M}>::destroy", "Destroys the message and its payload. NULL and the sentinel are ignored.", as_is,
@@ -438,7 +448,7 @@ constexpr Row table[] = {
     {control, "control", "Control messages", "void {b}_bundle_{k}_message_destroy_cr(H, void *token)",
      "ControlMessage<{B}, {K}>::destroy_cr", "Frees the token. NULL and the sentinel are ignored."},
     {control, "control", "Control messages", "uint32_t {b}_bundle_{k}_message_len(H, I, void *token)",
-     "ControlMessage<{B}, {K}>::len", "Returns the size of the frame in bytes, header and identity: 43.", zero,
+     "ControlMessage<{B}, {K}>::len", "Returns the size of the frame: 43 bytes, header and identity.", zero,
      "_unsafe"},
     {control, "control", "Control messages",
      "uint32_t {b}_bundle_{k}_message_marshal(H, I, void *buffer, void *token, uint32_t size, E)",
@@ -510,8 +520,7 @@ constexpr Row table[] = {
     {module, "module", "Trace", "void mirk_lumo_ui_tarn_type_trace_init(void)", "initialize_type_trace",
      "Registers the trace module of records and enumerations; may be repeated. Creating a record calls it."},
     {module, "module", "Trace", "void mirk_lumo_ui_tarn_message_trace_init(void)", "initialize_message_trace",
-     "Registers the trace module of messages; may be repeated. Call it once; otherwise message traces go to module "
-     "0."},
+     "Registers the trace module of messages; may be repeated. Call it once; otherwise message traces go to module 0."},
     {module, "registration", "Registration",
      "mirk_bundle_handler lumo_ui_tarn_bundle_handler_register(mirk_bundle_handler handler)", "register_for_module",
      "Registers one handler for all bundles of this module and of the modules it depends on, and returns the previous "

@@ -57,7 +57,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_unsafe
     void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_start_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes, header and identity: 43. */
+/** Returns the size of the frame: 43 bytes, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_len(mirk_handle *h, uint32_t ctx_id, void *token);
 /** Sticky form of lumo_tarn_dp_debug_rsp_bundle_start_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_start_message_len_cr(mirk_handle *h, void *token);
@@ -144,7 +144,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_unsafe
     void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_abort_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes, header and identity: 43. */
+/** Returns the size of the frame: 43 bytes, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_len(mirk_handle *h, uint32_t ctx_id, void *token);
 /** Sticky form of lumo_tarn_dp_debug_rsp_bundle_abort_message_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_abort_message_len_cr(mirk_handle *h, void *token);
@@ -234,7 +234,7 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_unsaf
     void *token);
 /** Frees the token. NULL and the sentinel are ignored. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_rsp_bundle_commit_message_destroy_cr(mirk_handle *h, void *token);
-/** Returns the size of the frame in bytes, header and identity: 43. */
+/** Returns the size of the frame: 43 bytes, header and identity. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_rsp_bundle_commit_message_len(mirk_handle *h, uint32_t ctx_id,
     void *token);
 /** Sticky form of lumo_tarn_dp_debug_rsp_bundle_commit_message_len(). Returns 0 while last_error is set. */

@@ -210,19 +210,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_type_type_backpropagate(mirk_ha
 
 /** @name show_header: whether to show the header
  *  @{ */
-/** Returns the address of the member show_header in the object: whether to show the header. NULL after an error or for
- * a NULL object. */
+/** Returns the address of show_header in the object: whether to show the header. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_cl_appl_data_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Returns the value of the member show_header: whether to show the header. 0 after an error or for a NULL object. */
+/** Returns the value of show_header: whether to show the header. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_appl_data_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
 /** Stores the value of the source in show_header: whether to show the header. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_header: whether to show the header. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -236,10 +239,12 @@ LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_state_flag_set(mirk_han
 
 /** @name num_kesh_appls: elements in kesh_appl
  *  @{ */
-/** Returns the address of the count num_kesh_appls: elements in kesh_appl. Read-only: it follows from the array. */
+/** Returns the address of the count num_kesh_appls: elements in kesh_appl. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_cl_appl_data_num_kesh_appls_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Returns the count num_kesh_appls: elements in kesh_appl. 0 after an error or for a NULL object. */
+/** Returns the count num_kesh_appls: elements in kesh_appl. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_num_kesh_appls_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
 /** @} */
@@ -247,12 +252,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_num_kesh_appls_get_value(mirk_h
 /** @name kesh_appl: applications
  *  @{ */
 /** Returns the address of an element of kesh_appl: applications. The array owns the element, and its next growth
- * invalidates the address. ENOENT if the index is out of range. */
+ * invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_cl_kesh_appl *lumo_tarn_cl_appl_data_kesh_appl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of kesh_appl: applications. An index out of range grows the array to index + 1
  * elements and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a
- * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified. */
+ * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a tracking
+ * handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_kesh_appl_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t index, lumo_tarn_cl_kesh_appl *value, uint32_t *err);
 /** Sticky form of lumo_tarn_cl_appl_data_kesh_appl_set(): copies the value with copy_mode 0 and moves it otherwise.

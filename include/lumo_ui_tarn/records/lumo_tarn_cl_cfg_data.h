@@ -214,19 +214,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_cl_cfg_data_type_type_backpropagate(mirk_han
 
 /** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
- * a NULL object. */
+/** Returns the address of display_all in the object: whether to show everything. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_cl_cfg_data_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
+/** Returns the value of display_all: whether to show everything. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_cfg_data_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -240,19 +243,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_all_state_flag_set(mirk_hand
 
 /** @name display_smc: whether to show the smc part
  *  @{ */
-/** Returns the address of the member display_smc in the object: whether to show the smc part. NULL after an error or
- * for a NULL object. */
+/** Returns the address of display_smc in the object: whether to show the smc part. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_cl_cfg_data_display_smc_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member display_smc: whether to show the smc part. 0 after an error or for a NULL object. */
+/** Returns the value of display_smc: whether to show the smc part. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_cl_cfg_data_display_smc_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in display_smc: whether to show the smc part. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_smc_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_smc: whether to show the smc part. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_smc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_smc. EINVAL if the handle's tracking is off or the object has no state. */
@@ -266,12 +272,13 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_display_smc_state_flag_set(mirk_hand
 
 /** @name global_info: global record
  *  @{ */
-/** Returns the address of the member global_info in the object: global record. NULL after an error or for a NULL
- * object. */
+/** Returns the address of global_info in the object: global record. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_global_info *lumo_tarn_cl_cfg_data_global_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** MOVES a record into global_info: global record. The source loses its arrays and strings. What global_info owned
- * before is not released. */
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_global_info_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, lumo_tarn_global_info *source, uint32_t *err);
 /** Returns the state byte of global_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -285,20 +292,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_global_info_state_flag_set(mirk_hand
 
 /** @name tarn_smc_queue_initialized: flag word, set if the smc queue is initialized
  *  @{ */
-/** Returns the address of the member tarn_smc_queue_initialized in the object: flag word, set if the smc queue is
- * initialized. NULL after an error or for a NULL object. */
+/** Returns the address of tarn_smc_queue_initialized in the object: flag word, set if the smc queue is initialized.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member tarn_smc_queue_initialized: flag word, set if the smc queue is initialized. 0 after
- * an error or for a NULL object. */
+/** Returns the value of tarn_smc_queue_initialized: flag word, set if the smc queue is initialized. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in tarn_smc_queue_initialized: flag word, set if the smc queue is initialized.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in tarn_smc_queue_initialized: flag word, set if the smc queue is initialized. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tarn_smc_queue_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -313,20 +322,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_state_fla
 
 /** @name tarn_smc_queue_size: size of the smc queue
  *  @{ */
-/** Returns the address of the member tarn_smc_queue_size in the object: size of the smc queue. NULL after an error or
- * for a NULL object. */
+/** Returns the address of tarn_smc_queue_size in the object: size of the smc queue. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member tarn_smc_queue_size: size of the smc queue. 0 after an error or for a NULL
- * object. */
+/** Returns the value of tarn_smc_queue_size: size of the smc queue. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in tarn_smc_queue_size: size of the smc queue. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tarn_smc_queue_size: size of the smc queue. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tarn_smc_queue_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -340,20 +351,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_state_flag_set(m
 
 /** @name tarn_smc_blocked_flags: blocked flags of the smc queue
  *  @{ */
-/** Returns the address of the member tarn_smc_blocked_flags in the object: blocked flags of the smc queue. NULL after
- * an error or for a NULL object. */
+/** Returns the address of tarn_smc_blocked_flags in the object: blocked flags of the smc queue. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member tarn_smc_blocked_flags: blocked flags of the smc queue. 0 after an error or for a
- * NULL object. */
+/** Returns the value of tarn_smc_blocked_flags: blocked flags of the smc queue. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in tarn_smc_blocked_flags: blocked flags of the smc queue. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in tarn_smc_blocked_flags: blocked flags of the smc queue. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tarn_smc_blocked_flags. EINVAL if the handle's tracking is off or the object has no
@@ -368,20 +381,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_blocked_flags_state_flag_se
 
 /** @name tarn_smc_queue_size_warn_count: number of warnings on the queue's size
  *  @{ */
-/** Returns the address of the member tarn_smc_queue_size_warn_count in the object: number of warnings on the queue's
- * size. NULL after an error or for a NULL object. */
+/** Returns the address of tarn_smc_queue_size_warn_count in the object: number of warnings on the queue's size. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of the member tarn_smc_queue_size_warn_count: number of warnings on the queue's size. 0 after an
- * error or for a NULL object. */
+/** Returns the value of tarn_smc_queue_size_warn_count: number of warnings on the queue's size. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_get_value(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_cl_cfg_data *object, uint32_t *err);
 /** Stores the value of the source in tarn_smc_queue_size_warn_count: number of warnings on the queue's size. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tarn_smc_queue_size_warn_count: number of warnings on the queue's size. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_warn_count_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tarn_smc_queue_size_warn_count. EINVAL if the handle's tracking is off or the object has

@@ -213,10 +213,11 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_cl_kesh_appl_type_type_backpropagate(mirk_ha
 /** @name proto_name_len: length of proto_name in bytes
  *  @{ */
 /** Returns the address of the length proto_name_len: length of proto_name in bytes. Read-only: it follows from the
- * string. */
+ * string. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_proto_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
-/** Returns proto_name_len: length of proto_name in bytes. 0 after an error or for a NULL object. */
+/** Returns the length proto_name_len: length of proto_name in bytes. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_proto_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
 /** @} */
@@ -224,12 +225,12 @@ LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_proto_name_len_get_value(mirk_h
 /** @name proto_name: name of the protocol
  *  @{ */
 /** Copies proto_name and a NUL after it: name of the protocol. The destination has size bytes and needs the length plus
- * 1. ENOSPC: the copy is truncated. EINVAL: size is 0. */
+ * 1. ENOSPC: the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, char *destination, uint32_t size, uint32_t *err);
 /** Stores length bytes of text in proto_name: name of the protocol. length is truncated to 16 bits. If the text ends
  * earlier or is NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL
- * if object is NULL. */
+ * for a NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const char *text, uint32_t length, uint32_t *err);
 /** Sticky form of lumo_tarn_cl_kesh_appl_proto_name_set(). Returns the handle's last_error. */
@@ -247,10 +248,11 @@ LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_proto_name_state_flag_set(mirk_hand
 /** @name sub_proto_name_len: length of sub_proto_name in bytes
  *  @{ */
 /** Returns the address of the length sub_proto_name_len: length of sub_proto_name in bytes. Read-only: it follows from
- * the string. */
+ * the string. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_sub_proto_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
-/** Returns sub_proto_name_len: length of sub_proto_name in bytes. 0 after an error or for a NULL object. */
+/** Returns the length sub_proto_name_len: length of sub_proto_name in bytes. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_sub_proto_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
 /** @} */
@@ -258,12 +260,12 @@ LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_sub_proto_name_len_get_value(mi
 /** @name sub_proto_name: name of the sub-protocol
  *  @{ */
 /** Copies sub_proto_name and a NUL after it: name of the sub-protocol. The destination has size bytes and needs the
- * length plus 1. ENOSPC: the copy is truncated. EINVAL: size is 0. */
+ * length plus 1. ENOSPC: the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, char *destination, uint32_t size, uint32_t *err);
 /** Stores length bytes of text in sub_proto_name: name of the sub-protocol. length is truncated to 16 bits. If the text
  * ends earlier or is NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same.
- * EINVAL if object is NULL. */
+ * EINVAL for a NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const char *text, uint32_t length, uint32_t *err);
 /** Sticky form of lumo_tarn_cl_kesh_appl_sub_proto_name_set(). Returns the handle's last_error. */
@@ -280,19 +282,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_sub_proto_name_state_flag_set(mirk_
 
 /** @name protocol_id: identifier of the protocol
  *  @{ */
-/** Returns the address of the member protocol_id in the object: identifier of the protocol. NULL after an error or for
- * a NULL object. */
+/** Returns the address of protocol_id in the object: identifier of the protocol. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_protocol_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
-/** Returns the value of the member protocol_id: identifier of the protocol. 0 after an error or for a NULL object. */
+/** Returns the value of protocol_id: identifier of the protocol. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_protocol_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
 /** Stores the value of the source in protocol_id: identifier of the protocol. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in protocol_id: identifier of the protocol. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of protocol_id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -306,20 +311,22 @@ LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_protocol_id_state_flag_set(mirk_han
 
 /** @name tarn_id: identifier of the application within the tarn feature
  *  @{ */
-/** Returns the address of the member tarn_id in the object: identifier of the application within the tarn feature. NULL
- * after an error or for a NULL object. */
+/** Returns the address of tarn_id in the object: identifier of the application within the tarn feature. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_cl_kesh_appl_tarn_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
-/** Returns the value of the member tarn_id: identifier of the application within the tarn feature. 0 after an error or
- * for a NULL object. */
+/** Returns the value of tarn_id: identifier of the application within the tarn feature. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_cl_kesh_appl_tarn_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint32_t *err);
 /** Stores the value of the source in tarn_id: identifier of the application within the tarn feature. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_tarn_id_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in tarn_id: identifier of the application within the tarn feature. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_kesh_appl_tarn_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_kesh_appl *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of tarn_id. EINVAL if the handle's tracking is off or the object has no state. */

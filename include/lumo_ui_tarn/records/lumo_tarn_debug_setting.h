@@ -213,20 +213,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_debug_setting_type_type_backpropagate(mirk_h
 
 /** @name info_enabled: switch of information-level debug output
  *  @{ */
-/** Returns the address of the member info_enabled in the object: switch of information-level debug output. NULL after
- * an error or for a NULL object. */
+/** Returns the address of info_enabled in the object: switch of information-level debug output. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_debug_setting_info_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
-/** Returns the value of the member info_enabled: switch of information-level debug output. 0 after an error or for a
- * NULL object. */
+/** Returns the value of info_enabled: switch of information-level debug output. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_debug_setting_info_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in info_enabled: switch of information-level debug output. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_info_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in info_enabled: switch of information-level debug output. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_info_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of info_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -240,20 +242,22 @@ LUMO_UI_TARN_API void lumo_tarn_debug_setting_info_enabled_state_flag_set(mirk_h
 
 /** @name trace_enabled: switch of trace-level debug output
  *  @{ */
-/** Returns the address of the member trace_enabled in the object: switch of trace-level debug output. NULL after an
- * error or for a NULL object. */
+/** Returns the address of trace_enabled in the object: switch of trace-level debug output. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_debug_setting_trace_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
-/** Returns the value of the member trace_enabled: switch of trace-level debug output. 0 after an error or for a NULL
- * object. */
+/** Returns the value of trace_enabled: switch of trace-level debug output. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_debug_setting_trace_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in trace_enabled: switch of trace-level debug output. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_trace_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in trace_enabled: switch of trace-level debug output. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_trace_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of trace_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -267,20 +271,22 @@ LUMO_UI_TARN_API void lumo_tarn_debug_setting_trace_enabled_state_flag_set(mirk_
 
 /** @name warn_enabled: switch of warning-level debug output
  *  @{ */
-/** Returns the address of the member warn_enabled in the object: switch of warning-level debug output. NULL after an
- * error or for a NULL object. */
+/** Returns the address of warn_enabled in the object: switch of warning-level debug output. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_debug_setting_warn_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
-/** Returns the value of the member warn_enabled: switch of warning-level debug output. 0 after an error or for a NULL
- * object. */
+/** Returns the value of warn_enabled: switch of warning-level debug output. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_debug_setting_warn_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in warn_enabled: switch of warning-level debug output. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_warn_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in warn_enabled: switch of warning-level debug output. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_warn_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of warn_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -294,20 +300,22 @@ LUMO_UI_TARN_API void lumo_tarn_debug_setting_warn_enabled_state_flag_set(mirk_h
 
 /** @name error_enabled: switch of error-level debug output
  *  @{ */
-/** Returns the address of the member error_enabled in the object: switch of error-level debug output. NULL after an
- * error or for a NULL object. */
+/** Returns the address of error_enabled in the object: switch of error-level debug output. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_debug_setting_error_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
-/** Returns the value of the member error_enabled: switch of error-level debug output. 0 after an error or for a NULL
- * object. */
+/** Returns the value of error_enabled: switch of error-level debug output. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_debug_setting_error_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in error_enabled: switch of error-level debug output. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_error_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in error_enabled: switch of error-level debug output. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_debug_setting_error_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of error_enabled. EINVAL if the handle's tracking is off or the object has no state. */

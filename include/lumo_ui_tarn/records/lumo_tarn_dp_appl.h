@@ -209,12 +209,13 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_type_type_backpropagate(mirk_handle 
 
 /** @name exmem_info: location of the entry in memory
  *  @{ */
-/** Returns the address of the member exmem_info in the object: location of the entry in memory. NULL after an error or
- * for a NULL object. */
+/** Returns the address of exmem_info in the object: location of the entry in memory. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_appl_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl *object, uint32_t *err);
 /** MOVES a record into exmem_info: location of the entry in memory. The source loses its arrays and strings. What
- * exmem_info owned before is not released. */
+ * exmem_info owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_exmem_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -228,19 +229,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_exmem_info_state_flag_set(mirk_handle *h
 
 /** @name type: type of the application entry
  *  @{ */
-/** Returns the address of the member type in the object: type of the application entry. NULL after an error or for a
- * NULL object. */
+/** Returns the address of type in the object: type of the application entry. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_type_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint32_t *err);
-/** Returns the value of the member type: type of the application entry. 0 after an error or for a NULL object. */
+/** Returns the value of type: type of the application entry. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_type_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint32_t *err);
 /** Stores the value of the source in type: type of the application entry. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in type: type of the application entry. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_type_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -254,19 +258,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_type_state_flag_set(mirk_handle *h, uint
 
 /** @name id: identifier of the application entry
  *  @{ */
-/** Returns the address of the member id in the object: identifier of the application entry. NULL after an error or for
- * a NULL object. */
+/** Returns the address of id in the object: identifier of the application entry. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_id_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint32_t *err);
-/** Returns the value of the member id: identifier of the application entry. 0 after an error or for a NULL object. */
+/** Returns the value of id: identifier of the application entry. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_id_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint32_t *err);
 /** Stores the value of the source in id: identifier of the application entry. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in id: identifier of the application entry. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_id_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -280,20 +287,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_id_state_flag_set(mirk_handle *h, uint32
 
 /** @name tarn_kesh_id: tarn feature's identifier of the kesh application
  *  @{ */
-/** Returns the address of the member tarn_kesh_id in the object: tarn feature's identifier of the kesh application.
- * NULL after an error or for a NULL object. */
+/** Returns the address of tarn_kesh_id in the object: tarn feature's identifier of the kesh application. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_tarn_kesh_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl *object, uint32_t *err);
-/** Returns the value of the member tarn_kesh_id: tarn feature's identifier of the kesh application. 0 after an error or
- * for a NULL object. */
+/** Returns the value of tarn_kesh_id: tarn feature's identifier of the kesh application. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_tarn_kesh_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl *object, uint32_t *err);
 /** Stores the value of the source in tarn_kesh_id: tarn feature's identifier of the kesh application. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_tarn_kesh_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in tarn_kesh_id: tarn feature's identifier of the kesh application. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_tarn_kesh_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of tarn_kesh_id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -307,20 +316,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_tarn_kesh_id_state_flag_set(mirk_handle 
 
 /** @name next_ptr: link to the next entry in the data plane
  *  @{ */
-/** Returns the address of the member next_ptr in the object: link to the next entry in the data plane. NULL after an
- * error or for a NULL object. */
+/** Returns the address of next_ptr in the object: link to the next entry in the data plane. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_appl_next_ptr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint32_t *err);
-/** Returns the value of the member next_ptr: link to the next entry in the data plane. 0 after an error or for a NULL
- * object. */
+/** Returns the value of next_ptr: link to the next entry in the data plane. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_appl_next_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl *object, uint32_t *err);
 /** Stores the value of the source in next_ptr: link to the next entry in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_next_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in next_ptr: link to the next entry in the data plane. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_next_ptr_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl *object,
     uint64_t value, uint32_t *err);
 /** Returns the state byte of next_ptr. EINVAL if the handle's tracking is off or the object has no state. */

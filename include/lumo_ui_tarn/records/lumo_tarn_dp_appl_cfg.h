@@ -211,19 +211,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_type_type_backpropagate(mirk_han
 
 /** @name show_header: whether to show the header
  *  @{ */
-/** Returns the address of the member show_header in the object: whether to show the header. NULL after an error or for
- * a NULL object. */
+/** Returns the address of show_header in the object: whether to show the header. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_appl_cfg_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
-/** Returns the value of the member show_header: whether to show the header. 0 after an error or for a NULL object. */
+/** Returns the value of show_header: whether to show the header. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_cfg_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
 /** Stores the value of the source in show_header: whether to show the header. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_header: whether to show the header. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -237,19 +240,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_show_header_state_flag_set(mirk_hand
 
 /** @name lumo_num: number of the lumo processor
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of the lumo processor. NULL after an error or for a
- * NULL object. */
+/** Returns the address of lumo_num in the object: number of the lumo processor. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_cfg_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor. 0 after an error or for a NULL object. */
+/** Returns the value of lumo_num: number of the lumo processor. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_cfg_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_lumo_num_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_cfg *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of the lumo processor. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -263,12 +269,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_lumo_num_state_flag_set(mirk_handle 
 
 /** @name hash_exmem_info: memory block of the processor's signature hash
  *  @{ */
-/** Returns the address of the member hash_exmem_info in the object: memory block of the processor's signature hash.
- * NULL after an error or for a NULL object. */
+/** Returns the address of hash_exmem_info in the object: memory block of the processor's signature hash. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_appl_cfg_hash_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
 /** MOVES a record into hash_exmem_info: memory block of the processor's signature hash. The source loses its arrays and
- * strings. What hash_exmem_info owned before is not released. */
+ * strings. What hash_exmem_info owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for
+ * an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_hash_exmem_info_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of hash_exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -282,10 +289,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_hash_exmem_info_state_flag_set(mirk_
 
 /** @name num_sigs: elements in sig_list
  *  @{ */
-/** Returns the address of the count num_sigs: elements in sig_list. Read-only: it follows from the array. */
+/** Returns the address of the count num_sigs: elements in sig_list. Read-only: it follows from the array. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_cfg_num_sigs_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
-/** Returns the count num_sigs: elements in sig_list. 0 after an error or for a NULL object. */
+/** Returns the count num_sigs: elements in sig_list. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_num_sigs_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
 /** @} */
@@ -293,12 +302,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_num_sigs_get_value(mirk_handle *
 /** @name sig_list: signatures
  *  @{ */
 /** Returns the address of an element of sig_list: signatures. The array owns the element, and its next growth
- * invalidates the address. ENOENT if the index is out of range. */
+ * invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_sig *lumo_tarn_dp_appl_cfg_sig_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of sig_list: signatures. An index out of range grows the array to index + 1 elements
  * and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a tracking
- * handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified. */
+ * handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a tracking handle, for
+ * an object or a value without state bytes; EIDRM for an object without a body. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_sig_list_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_cfg *object,
     uint32_t index, lumo_tarn_dp_appl_sig *value, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_cfg_sig_list_set(): copies the value with copy_mode 0 and moves it otherwise.

@@ -222,12 +222,13 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_type_type_backpropagate(mirk_han
 
 /** @name exmem_info: location of the signature in memory
  *  @{ */
-/** Returns the address of the member exmem_info in the object: location of the signature in memory. NULL after an error
- * or for a NULL object. */
+/** Returns the address of exmem_info in the object: location of the signature in memory. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_appl_sig_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** MOVES a record into exmem_info: location of the signature in memory. The source loses its arrays and strings. What
- * exmem_info owned before is not released. */
+ * exmem_info owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_exmem_info_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -241,20 +242,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_exmem_info_state_flag_set(mirk_handl
 
 /** @name dp_hash_bucket: bucket of the signature in the data plane's hash
  *  @{ */
-/** Returns the address of the member dp_hash_bucket in the object: bucket of the signature in the data plane's hash.
- * NULL after an error or for a NULL object. */
+/** Returns the address of dp_hash_bucket in the object: bucket of the signature in the data plane's hash. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_dp_hash_bucket_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dp_hash_bucket: bucket of the signature in the data plane's hash. 0 after an error
- * or for a NULL object. */
+/** Returns the value of dp_hash_bucket: bucket of the signature in the data plane's hash. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_dp_hash_bucket_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in dp_hash_bucket: bucket of the signature in the data plane's hash. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_hash_bucket: bucket of the signature in the data plane's hash. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_hash_bucket. EINVAL if the handle's tracking is off or the object has no state. */
@@ -268,20 +271,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dp_hash_bucket_state_flag_set(mirk_h
 
 /** @name pal_id: identifier of the signature in the adaptation layer
  *  @{ */
-/** Returns the address of the member pal_id in the object: identifier of the signature in the adaptation layer. NULL
- * after an error or for a NULL object. */
+/** Returns the address of pal_id in the object: identifier of the signature in the adaptation layer. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_pal_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member pal_id: identifier of the signature in the adaptation layer. 0 after an error or for
- * a NULL object. */
+/** Returns the value of pal_id: identifier of the signature in the adaptation layer. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_pal_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in pal_id: identifier of the signature in the adaptation layer. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_pal_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in pal_id: identifier of the signature in the adaptation layer. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_pal_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of pal_id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -296,10 +301,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_pal_id_state_flag_set(mirk_handle *h
 /** @name appl_name_len: length of appl_name in bytes
  *  @{ */
 /** Returns the address of the length appl_name_len: length of appl_name in bytes. Read-only: it follows from the
- * string. */
+ * string. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_appl_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns appl_name_len: length of appl_name in bytes. 0 after an error or for a NULL object. */
+/** Returns the length appl_name_len: length of appl_name in bytes. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** @} */
@@ -307,12 +313,12 @@ LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_name_len_get_value(mirk_han
 /** @name appl_name: name of the application
  *  @{ */
 /** Copies appl_name and a NUL after it: name of the application. The destination has size bytes and needs the length
- * plus 1. ENOSPC: the copy is truncated. EINVAL: size is 0. */
+ * plus 1. ENOSPC: the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, char *destination, uint32_t size, uint32_t *err);
 /** Stores length bytes of text in appl_name: name of the application. length is truncated to 16 bits. If the text ends
  * earlier or is NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL
- * if object is NULL. */
+ * for a NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const char *text, uint32_t length, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_appl_sig_appl_name_set(). Returns the handle's last_error. */
@@ -329,19 +335,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_name_state_flag_set(mirk_handle
 
 /** @name appl_id: identifier of the application
  *  @{ */
-/** Returns the address of the member appl_id in the object: identifier of the application. NULL after an error or for a
- * NULL object. */
+/** Returns the address of appl_id in the object: identifier of the application. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_appl_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member appl_id: identifier of the application. 0 after an error or for a NULL object. */
+/** Returns the value of appl_id: identifier of the application. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_appl_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in appl_id: identifier of the application. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in appl_id: identifier of the application. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of appl_id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -355,19 +364,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_appl_id_state_flag_set(mirk_handle *
 
 /** @name protocol: protocol number to match
  *  @{ */
-/** Returns the address of the member protocol in the object: protocol number to match. NULL after an error or for a
- * NULL object. */
+/** Returns the address of protocol in the object: protocol number to match. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_sig_protocol_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member protocol: protocol number to match. 0 after an error or for a NULL object. */
+/** Returns the value of protocol: protocol number to match. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_sig_protocol_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in protocol: protocol number to match. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_protocol_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in protocol: protocol number to match. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_protocol_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of protocol. EINVAL if the handle's tracking is off or the object has no state. */
@@ -381,19 +393,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_protocol_state_flag_set(mirk_handle 
 
 /** @name tos: type-of-service value to match
  *  @{ */
-/** Returns the address of the member tos in the object: type-of-service value to match. NULL after an error or for a
- * NULL object. */
+/** Returns the address of tos in the object: type-of-service value to match. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_sig_tos_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     uint32_t *err);
-/** Returns the value of the member tos: type-of-service value to match. 0 after an error or for a NULL object. */
+/** Returns the value of tos: type-of-service value to match. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_sig_tos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in tos: type-of-service value to match. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_tos_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in tos: type-of-service value to match. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_tos_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of tos. EINVAL if the handle's tracking is off or the object has no state. */
@@ -407,19 +422,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_tos_state_flag_set(mirk_handle *h, u
 
 /** @name flags: flags of the signature
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the signature. NULL after an error or for a NULL
- * object. */
+/** Returns the address of flags in the object: flags of the signature. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_sig_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member flags: flags of the signature. 0 after an error or for a NULL object. */
+/** Returns the value of flags: flags of the signature. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_sig_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in flags: flags of the signature. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in flags: flags of the signature. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -433,20 +451,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_flags_state_flag_set(mirk_handle *h,
 
 /** @name dport_min: low end of the destination port range
  *  @{ */
-/** Returns the address of the member dport_min in the object: low end of the destination port range. NULL after an
- * error or for a NULL object. */
+/** Returns the address of dport_min in the object: low end of the destination port range. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_dport_min_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dport_min: low end of the destination port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of dport_min: low end of the destination port range. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_dport_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in dport_min: low end of the destination port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_min_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in dport_min: low end of the destination port range. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_min_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of dport_min. EINVAL if the handle's tracking is off or the object has no state. */
@@ -460,20 +480,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_min_state_flag_set(mirk_handle
 
 /** @name dport_max: high end of the destination port range
  *  @{ */
-/** Returns the address of the member dport_max in the object: high end of the destination port range. NULL after an
- * error or for a NULL object. */
+/** Returns the address of dport_max in the object: high end of the destination port range. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_dport_max_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member dport_max: high end of the destination port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of dport_max: high end of the destination port range. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_dport_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in dport_max: high end of the destination port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_max_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in dport_max: high end of the destination port range. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_max_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of dport_max. EINVAL if the handle's tracking is off or the object has no state. */
@@ -487,20 +509,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_dport_max_state_flag_set(mirk_handle
 
 /** @name sport_min: low end of the source port range
  *  @{ */
-/** Returns the address of the member sport_min in the object: low end of the source port range. NULL after an error or
- * for a NULL object. */
+/** Returns the address of sport_min in the object: low end of the source port range. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_sport_min_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member sport_min: low end of the source port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of sport_min: low end of the source port range. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_sport_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in sport_min: low end of the source port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_min_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in sport_min: low end of the source port range. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_min_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of sport_min. EINVAL if the handle's tracking is off or the object has no state. */
@@ -514,20 +538,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_min_state_flag_set(mirk_handle
 
 /** @name sport_max: high end of the source port range
  *  @{ */
-/** Returns the address of the member sport_max in the object: high end of the source port range. NULL after an error or
- * for a NULL object. */
+/** Returns the address of sport_max in the object: high end of the source port range. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_appl_sig_sport_max_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member sport_max: high end of the source port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of sport_max: high end of the source port range. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_appl_sig_sport_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in sport_max: high end of the source port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_max_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in sport_max: high end of the source port range. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_max_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of sport_max. EINVAL if the handle's tracking is off or the object has no state. */
@@ -541,20 +567,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_sport_max_state_flag_set(mirk_handle
 
 /** @name next_ptr: link to the next signature in the bucket
  *  @{ */
-/** Returns the address of the member next_ptr in the object: link to the next signature in the bucket. NULL after an
- * error or for a NULL object. */
+/** Returns the address of next_ptr in the object: link to the next signature in the bucket. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_appl_sig_next_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
-/** Returns the value of the member next_ptr: link to the next signature in the bucket. 0 after an error or for a NULL
- * object. */
+/** Returns the value of next_ptr: link to the next signature in the bucket. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_appl_sig_next_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint32_t *err);
 /** Stores the value of the source in next_ptr: link to the next signature in the bucket. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_next_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_appl_sig *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in next_ptr: link to the next signature in the bucket. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_appl_sig_next_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_sig *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of next_ptr. EINVAL if the handle's tracking is off or the object has no state. */

@@ -225,20 +225,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_type_type_backpropagate(mir
 
 /** @name lumo_num: number of the lumo processor that this entry describes
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of the lumo processor that this entry describes.
- * NULL after an error or for a NULL object. */
+/** Returns the address of lumo_num in the object: number of the lumo processor that this entry describes. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_debug_setting_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor that this entry describes. 0 after an error
- * or for a NULL object. */
+/** Returns the value of lumo_num: number of the lumo processor that this entry describes. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor that this entry describes. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of the lumo processor that this entry describes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -252,20 +254,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_state_flag_set(mirk_ha
 
 /** @name mp_cache_enabled: debug switch of the data plane's mp (prefix) cache
  *  @{ */
-/** Returns the address of the member mp_cache_enabled in the object: debug switch of the data plane's mp (prefix)
- * cache. NULL after an error or for a NULL object. */
+/** Returns the address of mp_cache_enabled in the object: debug switch of the data plane's mp (prefix) cache. NULL for
+ * a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_mp_cache_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member mp_cache_enabled: debug switch of the data plane's mp (prefix) cache. 0 after an
- * error or for a NULL object. */
+/** Returns the value of mp_cache_enabled: debug switch of the data plane's mp (prefix) cache. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_mp_cache_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in mp_cache_enabled: debug switch of the data plane's mp (prefix) cache. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in mp_cache_enabled: debug switch of the data plane's mp (prefix) cache. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mp_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -279,20 +283,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_state_flag_set
 
 /** @name tt_cache_enabled: debug switch of the data plane's tt (traffic table) cache
  *  @{ */
-/** Returns the address of the member tt_cache_enabled in the object: debug switch of the data plane's tt (traffic
- * table) cache. NULL after an error or for a NULL object. */
+/** Returns the address of tt_cache_enabled in the object: debug switch of the data plane's tt (traffic table) cache.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_tt_cache_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member tt_cache_enabled: debug switch of the data plane's tt (traffic table) cache. 0 after
- * an error or for a NULL object. */
+/** Returns the value of tt_cache_enabled: debug switch of the data plane's tt (traffic table) cache. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_tt_cache_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in tt_cache_enabled: debug switch of the data plane's tt (traffic table) cache.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in tt_cache_enabled: debug switch of the data plane's tt (traffic table) cache. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tt_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -306,20 +312,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_state_flag_set
 
 /** @name flow_cache_enabled: debug switch of the data plane's flow cache
  *  @{ */
-/** Returns the address of the member flow_cache_enabled in the object: debug switch of the data plane's flow cache.
- * NULL after an error or for a NULL object. */
+/** Returns the address of flow_cache_enabled in the object: debug switch of the data plane's flow cache. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_flow_cache_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member flow_cache_enabled: debug switch of the data plane's flow cache. 0 after an error or
- * for a NULL object. */
+/** Returns the value of flow_cache_enabled: debug switch of the data plane's flow cache. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_flow_cache_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in flow_cache_enabled: debug switch of the data plane's flow cache. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in flow_cache_enabled: debug switch of the data plane's flow cache. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of flow_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -333,20 +341,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_state_flag_s
 
 /** @name ager_enabled: debug switch of the data plane's ager
  *  @{ */
-/** Returns the address of the member ager_enabled in the object: debug switch of the data plane's ager. NULL after an
- * error or for a NULL object. */
+/** Returns the address of ager_enabled in the object: debug switch of the data plane's ager. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_ager_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member ager_enabled: debug switch of the data plane's ager. 0 after an error or for a NULL
- * object. */
+/** Returns the value of ager_enabled: debug switch of the data plane's ager. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_ager_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in ager_enabled: debug switch of the data plane's ager. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in ager_enabled: debug switch of the data plane's ager. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ager_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -360,20 +370,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_state_flag_set(mir
 
 /** @name exporter_enabled: debug switch of the exporter as a whole
  *  @{ */
-/** Returns the address of the member exporter_enabled in the object: debug switch of the exporter as a whole. NULL
- * after an error or for a NULL object. */
+/** Returns the address of exporter_enabled in the object: debug switch of the exporter as a whole. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_exporter_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member exporter_enabled: debug switch of the exporter as a whole. 0 after an error or for a
- * NULL object. */
+/** Returns the value of exporter_enabled: debug switch of the exporter as a whole. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_exporter_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in exporter_enabled: debug switch of the exporter as a whole. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in exporter_enabled: debug switch of the exporter as a whole. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of exporter_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -387,19 +399,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_state_flag_set
 
 /** @name proxy_enabled: debug switch of the proxy
  *  @{ */
-/** Returns the address of the member proxy_enabled in the object: debug switch of the proxy. NULL after an error or for
- * a NULL object. */
+/** Returns the address of proxy_enabled in the object: debug switch of the proxy. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_proxy_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member proxy_enabled: debug switch of the proxy. 0 after an error or for a NULL object. */
+/** Returns the value of proxy_enabled: debug switch of the proxy. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_proxy_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in proxy_enabled: debug switch of the proxy. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in proxy_enabled: debug switch of the proxy. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of proxy_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -413,20 +428,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_state_flag_set(mi
 
 /** @name exporter_tt_enabled: debug switch of the exporter for tt data
  *  @{ */
-/** Returns the address of the member exporter_tt_enabled in the object: debug switch of the exporter for tt data. NULL
- * after an error or for a NULL object. */
+/** Returns the address of exporter_tt_enabled in the object: debug switch of the exporter for tt data. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_exporter_tt_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member exporter_tt_enabled: debug switch of the exporter for tt data. 0 after an error or
- * for a NULL object. */
+/** Returns the value of exporter_tt_enabled: debug switch of the exporter for tt data. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_exporter_tt_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in exporter_tt_enabled: debug switch of the exporter for tt data. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in exporter_tt_enabled: debug switch of the exporter for tt data. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of exporter_tt_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -440,20 +457,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_state_flag_
 
 /** @name exporter_mp_enabled: debug switch of the exporter for mp data
  *  @{ */
-/** Returns the address of the member exporter_mp_enabled in the object: debug switch of the exporter for mp data. NULL
- * after an error or for a NULL object. */
+/** Returns the address of exporter_mp_enabled in the object: debug switch of the exporter for mp data. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_debug_setting_exporter_mp_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Returns the value of the member exporter_mp_enabled: debug switch of the exporter for mp data. 0 after an error or
- * for a NULL object. */
+/** Returns the value of exporter_mp_enabled: debug switch of the exporter for mp data. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_exporter_mp_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Stores the value of the source in exporter_mp_enabled: debug switch of the exporter for mp data. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_mp_enabled_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in exporter_mp_enabled: debug switch of the exporter for mp data. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_mp_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of exporter_mp_enabled. EINVAL if the handle's tracking is off or the object has no state. */

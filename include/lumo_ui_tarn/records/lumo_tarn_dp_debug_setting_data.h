@@ -224,10 +224,12 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_data_type_type_backpropagat
 
 /** @name num_lumos: elements in lumo_data
  *  @{ */
-/** Returns the address of the count num_lumos: elements in lumo_data. Read-only: it follows from the array. */
+/** Returns the address of the count num_lumos: elements in lumo_data. Read-only: it follows from the array. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_debug_setting_data_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting_data *object, uint32_t *err);
-/** Returns the count num_lumos: elements in lumo_data. 0 after an error or for a NULL object. */
+/** Returns the count num_lumos: elements in lumo_data. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_data_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting_data *object, uint32_t *err);
 /** @} */
@@ -235,13 +237,14 @@ LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_data_num_lumos_get_value(mir
 /** @name lumo_data: one element for each processor
  *  @{ */
 /** Returns the address of an element of lumo_data: one element for each processor. The array owns the element, and its
- * next growth invalidates the address. ENOENT if the index is out of range. */
+ * next growth invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_dp_debug_setting *lumo_tarn_dp_debug_setting_data_lumo_data_get(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_debug_setting_data *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of lumo_data: one element for each processor. An index out of range grows the array
  * to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array and stores
- * nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as
- * modified. */
+ * nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on
+ * a tracking handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark
+ * the object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_data_lumo_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting_data *object, uint32_t index, lumo_tarn_dp_debug_setting *value, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_debug_setting_data_lumo_data_set(): copies the value with copy_mode 0 and moves it

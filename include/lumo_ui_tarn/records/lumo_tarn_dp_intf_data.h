@@ -215,20 +215,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_intf_data_type_type_backpropagate(mirk_ha
 
 /** @name intf_name_is_valid: whether intf_name holds a value
  *  @{ */
-/** Returns the address of the member intf_name_is_valid in the object: whether intf_name holds a value. NULL after an
- * error or for a NULL object. */
+/** Returns the address of intf_name_is_valid in the object: whether intf_name holds a value. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_intf_name_is_valid_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
-/** Returns the value of the member intf_name_is_valid: whether intf_name holds a value. 0 after an error or for a NULL
- * object. */
+/** Returns the value of intf_name_is_valid: whether intf_name holds a value. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_intf_name_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** Stores the value of the source in intf_name_is_valid: whether intf_name holds a value. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in intf_name_is_valid: whether intf_name holds a value. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of intf_name_is_valid. EINVAL if the handle's tracking is off or the object has no state. */
@@ -243,10 +245,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_is_valid_state_flag_set(m
 /** @name intf_name_len: length of intf_name in bytes
  *  @{ */
 /** Returns the address of the length intf_name_len: length of intf_name in bytes. Read-only: it follows from the
- * string. */
+ * string. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_intf_data_intf_name_len_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
-/** Returns intf_name_len: length of intf_name in bytes. 0 after an error or for a NULL object. */
+/** Returns the length intf_name_len: length of intf_name in bytes. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_intf_data_intf_name_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** @} */
@@ -254,12 +257,12 @@ LUMO_UI_TARN_API uint16_t lumo_tarn_dp_intf_data_intf_name_len_get_value(mirk_ha
 /** @name intf_name: name of the interface
  *  @{ */
 /** Copies intf_name and a NUL after it: name of the interface. The destination has size bytes and needs the length plus
- * 1. ENOSPC: the copy is truncated. EINVAL: size is 0. */
+ * 1. ENOSPC: the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, char *destination, uint32_t size, uint32_t *err);
 /** Stores length bytes of text in intf_name: name of the interface. length is truncated to 16 bits. If the text ends
  * earlier or is NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL
- * if object is NULL. */
+ * for a NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, const char *text, uint32_t length, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_intf_data_intf_name_set(). Returns the handle's last_error. */
@@ -276,20 +279,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_intf_name_state_flag_set(mirk_handl
 
 /** @name in_lumo_wexa_is_valid: whether in_lumo_wexa holds a value
  *  @{ */
-/** Returns the address of the member in_lumo_wexa_is_valid in the object: whether in_lumo_wexa holds a value. NULL
- * after an error or for a NULL object. */
+/** Returns the address of in_lumo_wexa_is_valid in the object: whether in_lumo_wexa holds a value. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
-/** Returns the value of the member in_lumo_wexa_is_valid: whether in_lumo_wexa holds a value. 0 after an error or for a
- * NULL object. */
+/** Returns the value of in_lumo_wexa_is_valid: whether in_lumo_wexa holds a value. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** Stores the value of the source in in_lumo_wexa_is_valid: whether in_lumo_wexa holds a value. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in in_lumo_wexa_is_valid: whether in_lumo_wexa holds a value. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of in_lumo_wexa_is_valid. EINVAL if the handle's tracking is off or the object has no
@@ -304,12 +309,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_is_valid_state_flag_se
 
 /** @name in_lumo_wexa: ingress side
  *  @{ */
-/** Returns the address of the member in_lumo_wexa in the object: ingress side. NULL after an error or for a NULL
- * object. */
+/** Returns the address of in_lumo_wexa in the object: ingress side. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_lumo_wexa_info *lumo_tarn_dp_intf_data_in_lumo_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** MOVES a record into in_lumo_wexa: ingress side. The source loses its arrays and strings. What in_lumo_wexa owned
- * before is not released. */
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, lumo_tarn_dp_lumo_wexa_info *source, uint32_t *err);
 /** Returns the state byte of in_lumo_wexa. EINVAL if the handle's tracking is off or the object has no state. */
@@ -323,20 +329,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_in_lumo_wexa_state_flag_set(mirk_ha
 
 /** @name out_lumo_wexa_is_valid: whether out_lumo_wexa holds a value
  *  @{ */
-/** Returns the address of the member out_lumo_wexa_is_valid in the object: whether out_lumo_wexa holds a value. NULL
- * after an error or for a NULL object. */
+/** Returns the address of out_lumo_wexa_is_valid in the object: whether out_lumo_wexa holds a value. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
-/** Returns the value of the member out_lumo_wexa_is_valid: whether out_lumo_wexa holds a value. 0 after an error or for
- * a NULL object. */
+/** Returns the value of out_lumo_wexa_is_valid: whether out_lumo_wexa holds a value. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** Stores the value of the source in out_lumo_wexa_is_valid: whether out_lumo_wexa holds a value. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in out_lumo_wexa_is_valid: whether out_lumo_wexa holds a value. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of out_lumo_wexa_is_valid. EINVAL if the handle's tracking is off or the object has no
@@ -351,12 +359,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_is_valid_state_flag_s
 
 /** @name out_lumo_wexa: egress side
  *  @{ */
-/** Returns the address of the member out_lumo_wexa in the object: egress side. NULL after an error or for a NULL
- * object. */
+/** Returns the address of out_lumo_wexa in the object: egress side. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_lumo_wexa_info *lumo_tarn_dp_intf_data_out_lumo_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, uint32_t *err);
 /** MOVES a record into out_lumo_wexa: egress side. The source loses its arrays and strings. What out_lumo_wexa owned
- * before is not released. */
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_intf_data_out_lumo_wexa_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_intf_data *object, lumo_tarn_dp_lumo_wexa_info *source, uint32_t *err);
 /** Returns the state byte of out_lumo_wexa. EINVAL if the handle's tracking is off or the object has no state. */

@@ -237,19 +237,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_type_type_backpropagate(mirk_hand
 
 /** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
- * a NULL object. */
+/** Returns the address of display_all in the object: whether to show everything. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_ll_spec_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
+/** Returns the value of display_all: whether to show everything. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -263,20 +266,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_state_flag_set(mirk_handl
 
 /** @name display_tc: whether to show the traffic classes
  *  @{ */
-/** Returns the address of the member display_tc in the object: whether to show the traffic classes. NULL after an error
- * or for a NULL object. */
+/** Returns the address of display_tc in the object: whether to show the traffic classes. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_ll_spec_display_tc_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member display_tc: whether to show the traffic classes. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_tc: whether to show the traffic classes. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_tc_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in display_tc: whether to show the traffic classes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_tc: whether to show the traffic classes. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_tc. EINVAL if the handle's tracking is off or the object has no state. */
@@ -290,20 +295,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_state_flag_set(mirk_handle
 
 /** @name display_appl: whether to show the applications
  *  @{ */
-/** Returns the address of the member display_appl in the object: whether to show the applications. NULL after an error
- * or for a NULL object. */
+/** Returns the address of display_appl in the object: whether to show the applications. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_ll_spec_display_appl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member display_appl: whether to show the applications. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_appl: whether to show the applications. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_appl_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in display_appl: whether to show the applications. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_appl: whether to show the applications. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_appl. EINVAL if the handle's tracking is off or the object has no state. */
@@ -317,12 +324,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_state_flag_set(mirk_hand
 
 /** @name exmem_info: location of the definition in memory
  *  @{ */
-/** Returns the address of the member exmem_info in the object: location of the definition in memory. NULL after an
- * error or for a NULL object. */
+/** Returns the address of exmem_info in the object: location of the definition in memory. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_ll_spec_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** MOVES a record into exmem_info: location of the definition in memory. The source loses its arrays and strings. What
- * exmem_info owned before is not released. */
+ * exmem_info owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_exmem_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -336,19 +344,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_exmem_info_state_flag_set(mirk_handle
 
 /** @name id: identifier of the definition
  *  @{ */
-/** Returns the address of the member id in the object: identifier of the definition. NULL after an error or for a NULL
- * object. */
+/** Returns the address of id in the object: identifier of the definition. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_ll_spec_id_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     uint32_t *err);
-/** Returns the value of the member id: identifier of the definition. 0 after an error or for a NULL object. */
+/** Returns the value of id: identifier of the definition. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in id: identifier of the definition. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in id: identifier of the definition. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     uint32_t value, uint32_t *err);
 /** Returns the state byte of id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -362,19 +373,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_state_flag_set(mirk_handle *h, uin
 
 /** @name min_mask: minimum mask length
  *  @{ */
-/** Returns the address of the member min_mask in the object: minimum mask length. NULL after an error or for a NULL
- * object. */
+/** Returns the address of min_mask in the object: minimum mask length. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_min_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member min_mask: minimum mask length. 0 after an error or for a NULL object. */
+/** Returns the value of min_mask: minimum mask length. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_min_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in min_mask: minimum mask length. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in min_mask: minimum mask length. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of min_mask. EINVAL if the handle's tracking is off or the object has no state. */
@@ -388,19 +402,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_state_flag_set(mirk_handle *
 
 /** @name agg_type: aggregation type
  *  @{ */
-/** Returns the address of the member agg_type in the object: aggregation type. NULL after an error or for a NULL
- * object. */
+/** Returns the address of agg_type in the object: aggregation type. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member agg_type: aggregation type. 0 after an error or for a NULL object. */
+/** Returns the value of agg_type: aggregation type. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in agg_type: aggregation type. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in agg_type: aggregation type. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of agg_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -414,18 +431,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_state_flag_set(mirk_handle *
 
 /** @name learn_type: learn type
  *  @{ */
-/** Returns the address of the member learn_type in the object: learn type. NULL after an error or for a NULL object. */
+/** Returns the address of learn_type in the object: learn type. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member learn_type: learn type. 0 after an error or for a NULL object. */
+/** Returns the value of learn_type: learn type. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in learn_type: learn type. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in learn_type: learn type. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. */
+ * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of learn_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -439,19 +459,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_state_flag_set(mirk_handle
 
 /** @name ll_type: learn list type
  *  @{ */
-/** Returns the address of the member ll_type in the object: learn list type. NULL after an error or for a NULL
- * object. */
+/** Returns the address of ll_type in the object: learn list type. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_ll_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member ll_type: learn list type. 0 after an error or for a NULL object. */
+/** Returns the value of ll_type: learn list type. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_ll_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in ll_type: learn list type. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in ll_type: learn list type. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of ll_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -465,19 +487,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_state_flag_set(mirk_handle *h
 
 /** @name num_prefixes: number of prefixes
  *  @{ */
-/** Returns the address of the member num_prefixes in the object: number of prefixes. NULL after an error or for a NULL
- * object. */
+/** Returns the address of num_prefixes in the object: number of prefixes. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_ll_spec_num_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member num_prefixes: number of prefixes. 0 after an error or for a NULL object. */
+/** Returns the value of num_prefixes: number of prefixes. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_num_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in num_prefixes: number of prefixes. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in num_prefixes: number of prefixes. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of num_prefixes. EINVAL if the handle's tracking is off or the object has no state. */
@@ -491,20 +516,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_state_flag_set(mirk_hand
 
 /** @name filter_tc_list_ptr: location of the filter list in the data plane
  *  @{ */
-/** Returns the address of the member filter_tc_list_ptr in the object: location of the filter list in the data plane.
- * NULL after an error or for a NULL object. */
+/** Returns the address of filter_tc_list_ptr in the object: location of the filter list in the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_filter_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member filter_tc_list_ptr: location of the filter list in the data plane. 0 after an error
- * or for a NULL object. */
+/** Returns the value of filter_tc_list_ptr: location of the filter list in the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_filter_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in filter_tc_list_ptr: location of the filter list in the data plane. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in filter_tc_list_ptr: location of the filter list in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -518,12 +545,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_state_flag_set(mir
 
 /** @name filter_tc_list: filter traffic classes
  *  @{ */
-/** Returns the address of the member filter_tc_list in the object: filter traffic classes. NULL after an error or for a
- * NULL object. */
+/** Returns the address of filter_tc_list in the object: filter traffic classes. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_ll_spec_filter_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** MOVES a record into filter_tc_list: filter traffic classes. The source loses its arrays and strings. What
- * filter_tc_list owned before is not released. */
+ * filter_tc_list owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
 /** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -537,20 +565,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_state_flag_set(mirk_ha
 
 /** @name acl_tc_list_ptr: location of the access-list classes in the data plane
  *  @{ */
-/** Returns the address of the member acl_tc_list_ptr in the object: location of the access-list classes in the data
- * plane. NULL after an error or for a NULL object. */
+/** Returns the address of acl_tc_list_ptr in the object: location of the access-list classes in the data plane. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_acl_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member acl_tc_list_ptr: location of the access-list classes in the data plane. 0 after an
- * error or for a NULL object. */
+/** Returns the value of acl_tc_list_ptr: location of the access-list classes in the data plane. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_acl_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in acl_tc_list_ptr: location of the access-list classes in the data plane. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in acl_tc_list_ptr: location of the access-list classes in the data plane. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of acl_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -564,12 +594,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_state_flag_set(mirk_h
 
 /** @name acl_tc_list: access-list traffic classes
  *  @{ */
-/** Returns the address of the member acl_tc_list in the object: access-list traffic classes. NULL after an error or for
- * a NULL object. */
+/** Returns the address of acl_tc_list in the object: access-list traffic classes. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_ll_spec_acl_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** MOVES a record into acl_tc_list: access-list traffic classes. The source loses its arrays and strings. What
- * acl_tc_list owned before is not released. */
+ * acl_tc_list owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
 /** Returns the state byte of acl_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -583,20 +614,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_state_flag_set(mirk_handl
 
 /** @name appl_list_ptr: location of the application list in the data plane
  *  @{ */
-/** Returns the address of the member appl_list_ptr in the object: location of the application list in the data plane.
- * NULL after an error or for a NULL object. */
+/** Returns the address of appl_list_ptr in the object: location of the application list in the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_appl_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member appl_list_ptr: location of the application list in the data plane. 0 after an error
- * or for a NULL object. */
+/** Returns the value of appl_list_ptr: location of the application list in the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_appl_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in appl_list_ptr: location of the application list in the data plane. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in appl_list_ptr: location of the application list in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -610,12 +643,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_state_flag_set(mirk_han
 
 /** @name appl_list: applications
  *  @{ */
-/** Returns the address of the member appl_list in the object: applications. NULL after an error or for a NULL
- * object. */
+/** Returns the address of appl_list in the object: applications. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl_list *lumo_tarn_dp_ll_spec_appl_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** MOVES a record into appl_list: applications. The source loses its arrays and strings. What appl_list owned before is
- * not released. */
+ * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     lumo_tarn_dp_appl_list *source, uint32_t *err);
 /** Returns the state byte of appl_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -629,19 +663,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_state_flag_set(mirk_handle 
 
 /** @name next_ptr: link to the next definition
  *  @{ */
-/** Returns the address of the member next_ptr in the object: link to the next definition. NULL after an error or for a
- * NULL object. */
+/** Returns the address of next_ptr in the object: link to the next definition. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_next_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member next_ptr: link to the next definition. 0 after an error or for a NULL object. */
+/** Returns the value of next_ptr: link to the next definition. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_next_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in next_ptr: link to the next definition. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in next_ptr: link to the next definition. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of next_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -655,20 +692,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_state_flag_set(mirk_handle *
 
 /** @name head_ptr: head of the entries that num_entries counts
  *  @{ */
-/** Returns the address of the member head_ptr in the object: head of the entries that num_entries counts. NULL after an
- * error or for a NULL object. */
+/** Returns the address of head_ptr in the object: head of the entries that num_entries counts. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_head_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member head_ptr: head of the entries that num_entries counts. 0 after an error or for a
- * NULL object. */
+/** Returns the value of head_ptr: head of the entries that num_entries counts. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_head_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in head_ptr: head of the entries that num_entries counts. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in head_ptr: head of the entries that num_entries counts. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -682,20 +721,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_state_flag_set(mirk_handle *
 
 /** @name num_entries: number of entries that start at head_ptr
  *  @{ */
-/** Returns the address of the member num_entries in the object: number of entries that start at head_ptr. NULL after an
- * error or for a NULL object. */
+/** Returns the address of num_entries in the object: number of entries that start at head_ptr. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_ll_spec_num_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member num_entries: number of entries that start at head_ptr. 0 after an error or for a
- * NULL object. */
+/** Returns the value of num_entries: number of entries that start at head_ptr. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_num_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in num_entries: number of entries that start at head_ptr. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in num_entries: number of entries that start at head_ptr. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of num_entries. EINVAL if the handle's tracking is off or the object has no state. */
@@ -709,20 +750,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_state_flag_set(mirk_handl
 
 /** @name heap_max_elements: capacity of the definition's heap
  *  @{ */
-/** Returns the address of the member heap_max_elements in the object: capacity of the definition's heap. NULL after an
- * error or for a NULL object. */
+/** Returns the address of heap_max_elements in the object: capacity of the definition's heap. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_ll_spec_heap_max_elements_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member heap_max_elements: capacity of the definition's heap. 0 after an error or for a NULL
- * object. */
+/** Returns the value of heap_max_elements: capacity of the definition's heap. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_heap_max_elements_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in heap_max_elements: capacity of the definition's heap. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in heap_max_elements: capacity of the definition's heap. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of heap_max_elements. EINVAL if the handle's tracking is off or the object has no state. */
@@ -736,19 +779,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_state_flag_set(mirk
 
 /** @name heap_size: current size of the heap
  *  @{ */
-/** Returns the address of the member heap_size in the object: current size of the heap. NULL after an error or for a
- * NULL object. */
+/** Returns the address of heap_size in the object: current size of the heap. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_ll_spec_heap_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member heap_size: current size of the heap. 0 after an error or for a NULL object. */
+/** Returns the value of heap_size: current size of the heap. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_heap_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in heap_size: current size of the heap. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in heap_size: current size of the heap. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of heap_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -762,20 +808,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_state_flag_set(mirk_handle 
 
 /** @name heap_compare_func: value of the heap's comparison routine as a 64-bit number
  *  @{ */
-/** Returns the address of the member heap_compare_func in the object: value of the heap's comparison routine as a
- * 64-bit number. NULL after an error or for a NULL object. */
+/** Returns the address of heap_compare_func in the object: value of the heap's comparison routine as a 64-bit number.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_heap_compare_func_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member heap_compare_func: value of the heap's comparison routine as a 64-bit number. 0
- * after an error or for a NULL object. */
+/** Returns the value of heap_compare_func: value of the heap's comparison routine as a 64-bit number. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_heap_compare_func_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in heap_compare_func: value of the heap's comparison routine as a 64-bit number.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in heap_compare_func: value of the heap's comparison routine as a 64-bit number. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of heap_compare_func. EINVAL if the handle's tracking is off or the object has no state. */
@@ -789,20 +837,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_state_flag_set(mirk
 
 /** @name heap_elements_ptr: location of the heap's elements
  *  @{ */
-/** Returns the address of the member heap_elements_ptr in the object: location of the heap's elements. NULL after an
- * error or for a NULL object. */
+/** Returns the address of heap_elements_ptr in the object: location of the heap's elements. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_ll_spec_heap_elements_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member heap_elements_ptr: location of the heap's elements. 0 after an error or for a NULL
- * object. */
+/** Returns the value of heap_elements_ptr: location of the heap's elements. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_ll_spec_heap_elements_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in heap_elements_ptr: location of the heap's elements. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in heap_elements_ptr: location of the heap's elements. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of heap_elements_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -816,20 +866,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_state_flag_set(mirk
 
 /** @name show_ll_comm: selection flag of the show command
  *  @{ */
-/** Returns the address of the member show_ll_comm in the object: selection flag of the show command. NULL after an
- * error or for a NULL object. */
+/** Returns the address of show_ll_comm in the object: selection flag of the show command. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_ll_spec_show_ll_comm_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of the member show_ll_comm: selection flag of the show command. 0 after an error or for a NULL
- * object. */
+/** Returns the value of show_ll_comm: selection flag of the show command. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_show_ll_comm_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Stores the value of the source in show_ll_comm: selection flag of the show command. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_show_ll_comm_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_ll_comm: selection flag of the show command. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_show_ll_comm_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_ll_comm. EINVAL if the handle's tracking is off or the object has no state. */

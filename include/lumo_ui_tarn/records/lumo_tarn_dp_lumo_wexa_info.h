@@ -221,19 +221,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_lumo_wexa_info_type_type_backpropagate(mi
 
 /** @name lumo_num: number of the lumo processor
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of the lumo processor. NULL after an error or for a
- * NULL object. */
+/** Returns the address of lumo_num in the object: number of the lumo processor. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_lumo_wexa_info_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor. 0 after an error or for a NULL object. */
+/** Returns the value of lumo_num: number of the lumo processor. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_lumo_wexa_info_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_lumo_num_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of the lumo processor. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -247,20 +250,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_lumo_num_state_flag_set(mirk_h
 
 /** @name in_wexa_is_valid: whether in_wexa holds a value
  *  @{ */
-/** Returns the address of the member in_wexa_is_valid in the object: whether in_wexa holds a value. NULL after an error
- * or for a NULL object. */
+/** Returns the address of in_wexa_is_valid in the object: whether in_wexa holds a value. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
-/** Returns the value of the member in_wexa_is_valid: whether in_wexa holds a value. 0 after an error or for a NULL
- * object. */
+/** Returns the value of in_wexa_is_valid: whether in_wexa holds a value. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
 /** Stores the value of the source in in_wexa_is_valid: whether in_wexa holds a value. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in in_wexa_is_valid: whether in_wexa holds a value. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of in_wexa_is_valid. EINVAL if the handle's tracking is off or the object has no state. */
@@ -274,11 +279,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_in_wexa_is_valid_state_flag_se
 
 /** @name in_wexa: ingress entry
  *  @{ */
-/** Returns the address of the member in_wexa in the object: ingress entry. NULL after an error or for a NULL object. */
+/** Returns the address of in_wexa in the object: ingress entry. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_wexa_info *lumo_tarn_dp_lumo_wexa_info_in_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
 /** MOVES a record into in_wexa: ingress entry. The source loses its arrays and strings. What in_wexa owned before is
- * not released. */
+ * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_in_wexa_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, lumo_tarn_dp_wexa_info *source, uint32_t *err);
 /** Returns the state byte of in_wexa. EINVAL if the handle's tracking is off or the object has no state. */
@@ -292,20 +299,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_in_wexa_state_flag_set(mirk_ha
 
 /** @name out_wexa_is_valid: whether out_wexa holds a value
  *  @{ */
-/** Returns the address of the member out_wexa_is_valid in the object: whether out_wexa holds a value. NULL after an
- * error or for a NULL object. */
+/** Returns the address of out_wexa_is_valid in the object: whether out_wexa holds a value. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
-/** Returns the value of the member out_wexa_is_valid: whether out_wexa holds a value. 0 after an error or for a NULL
- * object. */
+/** Returns the value of out_wexa_is_valid: whether out_wexa holds a value. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
 /** Stores the value of the source in out_wexa_is_valid: whether out_wexa holds a value. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in out_wexa_is_valid: whether out_wexa holds a value. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of out_wexa_is_valid. EINVAL if the handle's tracking is off or the object has no state. */
@@ -319,11 +328,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_out_wexa_is_valid_state_flag_s
 
 /** @name out_wexa: egress entry
  *  @{ */
-/** Returns the address of the member out_wexa in the object: egress entry. NULL after an error or for a NULL object. */
+/** Returns the address of out_wexa in the object: egress entry. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_wexa_info *lumo_tarn_dp_lumo_wexa_info_out_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, uint32_t *err);
 /** MOVES a record into out_wexa: egress entry. The source loses its arrays and strings. What out_wexa owned before is
- * not released. */
+ * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_lumo_wexa_info_out_wexa_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_lumo_wexa_info *object, lumo_tarn_dp_wexa_info *source, uint32_t *err);
 /** Returns the state byte of out_wexa. EINVAL if the handle's tracking is off or the object has no state. */

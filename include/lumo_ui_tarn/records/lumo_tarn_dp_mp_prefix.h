@@ -210,20 +210,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_type_type_backpropagate(mirk_ha
 
 /** @name complex_num: number of the complex that this entry describes
  *  @{ */
-/** Returns the address of the member complex_num in the object: number of the complex that this entry describes. NULL
- * after an error or for a NULL object. */
+/** Returns the address of complex_num in the object: number of the complex that this entry describes. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_mp_prefix_complex_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member complex_num: number of the complex that this entry describes. 0 after an error or
- * for a NULL object. */
+/** Returns the value of complex_num: number of the complex that this entry describes. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_prefix_complex_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in complex_num: number of the complex that this entry describes. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_num_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in complex_num: number of the complex that this entry describes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of complex_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -237,12 +239,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_num_state_flag_set(mirk_han
 
 /** @name prefix: prefix as the complex holds it
  *  @{ */
-/** Returns the address of the member prefix in the object: prefix as the complex holds it. NULL after an error or for a
- * NULL object. */
+/** Returns the address of prefix in the object: prefix as the complex holds it. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_dp_mp_prefix_prefix_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in prefix: prefix as the complex holds it. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_prefix_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_mp_prefix *object,
     ip_address *source, uint32_t *err);
 /** Returns the state byte of prefix. EINVAL if the handle's tracking is off or the object has no state. */
@@ -256,19 +259,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_prefix_state_flag_set(mirk_handle *
 
 /** @name flags: flags of the prefix, sixteen bits
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the prefix, sixteen bits. NULL after an error or for
- * a NULL object. */
+/** Returns the address of flags in the object: flags of the prefix, sixteen bits. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_mp_prefix_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member flags: flags of the prefix, sixteen bits. 0 after an error or for a NULL object. */
+/** Returns the value of flags: flags of the prefix, sixteen bits. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_mp_prefix_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in flags: flags of the prefix, sixteen bits. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_mp_prefix *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in flags: flags of the prefix, sixteen bits. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -282,20 +288,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_flags_state_flag_set(mirk_handle *h
 
 /** @name tc_list_ptr: location of the prefix's class list in the data plane
  *  @{ */
-/** Returns the address of the member tc_list_ptr in the object: location of the prefix's class list in the data plane.
- * NULL after an error or for a NULL object. */
+/** Returns the address of tc_list_ptr in the object: location of the prefix's class list in the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_mp_prefix_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member tc_list_ptr: location of the prefix's class list in the data plane. 0 after an error
- * or for a NULL object. */
+/** Returns the value of tc_list_ptr: location of the prefix's class list in the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_mp_prefix_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in tc_list_ptr: location of the prefix's class list in the data plane. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tc_list_ptr: location of the prefix's class list in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */

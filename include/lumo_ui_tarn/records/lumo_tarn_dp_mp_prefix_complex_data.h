@@ -225,12 +225,13 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_complex_data_type_type_backprop
 
 /** @name lookup_prefix: prefix that was looked up
  *  @{ */
-/** Returns the address of the member lookup_prefix in the object: prefix that was looked up. NULL after an error or for
- * a NULL object. */
+/** Returns the address of lookup_prefix in the object: prefix that was looked up. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t *err);
 /** Stores the value of the source in lookup_prefix: prefix that was looked up. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, ip_address *source, uint32_t *err);
 /** Returns the state byte of lookup_prefix. EINVAL if the handle's tracking is off or the object has no state. */
@@ -244,10 +245,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_state_fl
 
 /** @name num_complexes: elements in complex_data
  *  @{ */
-/** Returns the address of the count num_complexes: elements in complex_data. Read-only: it follows from the array. */
+/** Returns the address of the count num_complexes: elements in complex_data. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t *err);
-/** Returns the count num_complexes: elements in complex_data. 0 after an error or for a NULL object. */
+/** Returns the count num_complexes: elements in complex_data. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t *err);
 /** @} */
@@ -255,13 +258,14 @@ LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_v
 /** @name complex_data: entries, one for each complex
  *  @{ */
 /** Returns the address of an element of complex_data: entries, one for each complex. The array owns the element, and
- * its next growth invalidates the address. ENOENT if the index is out of range. */
+ * its next growth invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_dp_mp_prefix *lumo_tarn_dp_mp_prefix_complex_data_complex_data_get(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of complex_data: entries, one for each complex. An index out of range grows the
  * array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array and
- * stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object
- * as modified. */
+ * stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object
+ * and, on a tracking handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not
+ * mark the object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_data_complex_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t index, lumo_tarn_dp_mp_prefix *value, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_mp_prefix_complex_data_complex_data_set(): copies the value with copy_mode 0 and moves

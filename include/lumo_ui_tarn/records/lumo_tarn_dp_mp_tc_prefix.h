@@ -220,20 +220,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_type_type_backpropagate(mirk
 
 /** @name lumo_num: number of the lumo processor that this entry describes
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of the lumo processor that this entry describes.
- * NULL after an error or for a NULL object. */
+/** Returns the address of lumo_num in the object: number of the lumo processor that this entry describes. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_mp_tc_prefix_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor that this entry describes. 0 after an error
- * or for a NULL object. */
+/** Returns the value of lumo_num: number of the lumo processor that this entry describes. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor that this entry describes. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_num_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of the lumo processor that this entry describes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -247,20 +249,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_num_state_flag_set(mirk_han
 
 /** @name cl_addr: the entry's address on the client side
  *  @{ */
-/** Returns the address of the member cl_addr in the object: the entry's address on the client side. NULL after an error
- * or for a NULL object. */
+/** Returns the address of cl_addr in the object: the entry's address on the client side. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_mp_tc_prefix_cl_addr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
-/** Returns the value of the member cl_addr: the entry's address on the client side. 0 after an error or for a NULL
- * object. */
+/** Returns the value of cl_addr: the entry's address on the client side. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_mp_tc_prefix_cl_addr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** Stores the value of the source in cl_addr: the entry's address on the client side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_cl_addr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in cl_addr: the entry's address on the client side. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_cl_addr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of cl_addr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -274,12 +278,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_cl_addr_state_flag_set(mirk_hand
 
 /** @name tc_list_head: location of the head of the class list in memory
  *  @{ */
-/** Returns the address of the member tc_list_head in the object: location of the head of the class list in memory. NULL
- * after an error or for a NULL object. */
+/** Returns the address of tc_list_head in the object: location of the head of the class list in memory. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_mp_tc_prefix_tc_list_head_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** MOVES a record into tc_list_head: location of the head of the class list in memory. The source loses its arrays and
- * strings. What tc_list_head owned before is not released. */
+ * strings. What tc_list_head owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_head_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of tc_list_head. EINVAL if the handle's tracking is off or the object has no state. */
@@ -293,20 +298,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_head_state_flag_set(mirk
 
 /** @name tc_list_head_next: link of the list head to its successor in the data plane
  *  @{ */
-/** Returns the address of the member tc_list_head_next in the object: link of the list head to its successor in the
- * data plane. NULL after an error or for a NULL object. */
+/** Returns the address of tc_list_head_next in the object: link of the list head to its successor in the data plane.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
-/** Returns the value of the member tc_list_head_next: link of the list head to its successor in the data plane. 0 after
- * an error or for a NULL object. */
+/** Returns the value of tc_list_head_next: link of the list head to its successor in the data plane. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** Stores the value of the source in tc_list_head_next: link of the list head to its successor in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tc_list_head_next: link of the list head to its successor in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tc_list_head_next. EINVAL if the handle's tracking is off or the object has no state. */
@@ -320,12 +327,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_head_next_state_flag_set
 
 /** @name tc_list: traffic classes
  *  @{ */
-/** Returns the address of the member tc_list in the object: traffic classes. NULL after an error or for a NULL
- * object. */
+/** Returns the address of tc_list in the object: traffic classes. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_mp_tc_prefix_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** MOVES a record into tc_list: traffic classes. The source loses its arrays and strings. What tc_list owned before is
- * not released. */
+ * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
 /** Returns the state byte of tc_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -339,20 +347,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_tc_list_state_flag_set(mirk_hand
 
 /** @name show_pfx_comm: selection flag of the show request
  *  @{ */
-/** Returns the address of the member show_pfx_comm in the object: selection flag of the show request. NULL after an
- * error or for a NULL object. */
+/** Returns the address of show_pfx_comm in the object: selection flag of the show request. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
-/** Returns the value of the member show_pfx_comm: selection flag of the show request. 0 after an error or for a NULL
- * object. */
+/** Returns the value of show_pfx_comm: selection flag of the show request. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint32_t *err);
 /** Stores the value of the source in show_pfx_comm: selection flag of the show request. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_pfx_comm: selection flag of the show request. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_show_pfx_comm_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_pfx_comm. EINVAL if the handle's tracking is off or the object has no state. */

@@ -222,12 +222,13 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_type_type_backpropagate(mirk_handle *h
 
 /** @name exmem_info: location of the traffic class in memory
  *  @{ */
-/** Returns the address of the member exmem_info in the object: location of the traffic class in memory. NULL after an
- * error or for a NULL object. */
+/** Returns the address of exmem_info in the object: location of the traffic class in memory. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_tc_exmem_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** MOVES a record into exmem_info: location of the traffic class in memory. The source loses its arrays and strings.
- * What exmem_info owned before is not released. */
+ * What exmem_info owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_exmem_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -241,12 +242,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_exmem_info_state_flag_set(mirk_handle *h, 
 
 /** @name src_prefix: source prefix of the class
  *  @{ */
-/** Returns the address of the member src_prefix in the object: source prefix of the class. NULL after an error or for a
- * NULL object. */
+/** Returns the address of src_prefix in the object: source prefix of the class. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_dp_tc_src_prefix_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in src_prefix: source prefix of the class. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_prefix_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     ip_address *source, uint32_t *err);
 /** Returns the state byte of src_prefix. EINVAL if the handle's tracking is off or the object has no state. */
@@ -260,12 +262,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_prefix_state_flag_set(mirk_handle *h, 
 
 /** @name dst_prefix: destination prefix of the class
  *  @{ */
-/** Returns the address of the member dst_prefix in the object: destination prefix of the class. NULL after an error or
- * for a NULL object. */
+/** Returns the address of dst_prefix in the object: destination prefix of the class. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_dp_tc_dst_prefix_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in dst_prefix: destination prefix of the class. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_prefix_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     ip_address *source, uint32_t *err);
 /** Returns the state byte of dst_prefix. EINVAL if the handle's tracking is off or the object has no state. */
@@ -279,19 +282,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_prefix_state_flag_set(mirk_handle *h, 
 
 /** @name proto: protocol number to match
  *  @{ */
-/** Returns the address of the member proto in the object: protocol number to match. NULL after an error or for a NULL
- * object. */
+/** Returns the address of proto in the object: protocol number to match. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tc_proto_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member proto: protocol number to match. 0 after an error or for a NULL object. */
+/** Returns the value of proto: protocol number to match. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tc_proto_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in proto: protocol number to match. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_proto_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in proto: protocol number to match. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_proto_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of proto. EINVAL if the handle's tracking is off or the object has no state. */
@@ -305,19 +311,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_proto_state_flag_set(mirk_handle *h, uint3
 
 /** @name tos: type-of-service value to match
  *  @{ */
-/** Returns the address of the member tos in the object: type-of-service value to match. NULL after an error or for a
- * NULL object. */
+/** Returns the address of tos in the object: type-of-service value to match. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tc_tos_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member tos: type-of-service value to match. 0 after an error or for a NULL object. */
+/** Returns the value of tos: type-of-service value to match. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tc_tos_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in tos: type-of-service value to match. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_tos_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in tos: type-of-service value to match. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_tos_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of tos. EINVAL if the handle's tracking is off or the object has no state. */
@@ -331,19 +340,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_tos_state_flag_set(mirk_handle *h, uint32_
 
 /** @name flags: flags of the class, sixteen bits
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the class, sixteen bits. NULL after an error or for
- * a NULL object. */
+/** Returns the address of flags in the object: flags of the class, sixteen bits. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_flags_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member flags: flags of the class, sixteen bits. 0 after an error or for a NULL object. */
+/** Returns the value of flags: flags of the class, sixteen bits. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_flags_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in flags: flags of the class, sixteen bits. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in flags: flags of the class, sixteen bits. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_flags_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -357,20 +369,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_flags_state_flag_set(mirk_handle *h, uint3
 
 /** @name bit_flags: second, separate set of flags, eight bits
  *  @{ */
-/** Returns the address of the member bit_flags in the object: second, separate set of flags, eight bits. NULL after an
- * error or for a NULL object. */
+/** Returns the address of bit_flags in the object: second, separate set of flags, eight bits. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tc_bit_flags_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member bit_flags: second, separate set of flags, eight bits. 0 after an error or for a NULL
- * object. */
+/** Returns the value of bit_flags: second, separate set of flags, eight bits. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tc_bit_flags_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in bit_flags: second, separate set of flags, eight bits. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_bit_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in bit_flags: second, separate set of flags, eight bits. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_bit_flags_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of bit_flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -384,20 +398,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_bit_flags_state_flag_set(mirk_handle *h, u
 
 /** @name src_port_min: low end of the source port range
  *  @{ */
-/** Returns the address of the member src_port_min in the object: low end of the source port range. NULL after an error
- * or for a NULL object. */
+/** Returns the address of src_port_min in the object: low end of the source port range. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_src_port_min_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member src_port_min: low end of the source port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of src_port_min: low end of the source port range. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_src_port_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in src_port_min: low end of the source port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_min_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in src_port_min: low end of the source port range. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_min_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of src_port_min. EINVAL if the handle's tracking is off or the object has no state. */
@@ -411,20 +427,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_min_state_flag_set(mirk_handle *h
 
 /** @name src_port_max: high end of the source port range
  *  @{ */
-/** Returns the address of the member src_port_max in the object: high end of the source port range. NULL after an error
- * or for a NULL object. */
+/** Returns the address of src_port_max in the object: high end of the source port range. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_src_port_max_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member src_port_max: high end of the source port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of src_port_max: high end of the source port range. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_src_port_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in src_port_max: high end of the source port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_max_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in src_port_max: high end of the source port range. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_max_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of src_port_max. EINVAL if the handle's tracking is off or the object has no state. */
@@ -438,20 +456,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_max_state_flag_set(mirk_handle *h
 
 /** @name dst_port_min: low end of the destination port range
  *  @{ */
-/** Returns the address of the member dst_port_min in the object: low end of the destination port range. NULL after an
- * error or for a NULL object. */
+/** Returns the address of dst_port_min in the object: low end of the destination port range. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_dst_port_min_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member dst_port_min: low end of the destination port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of dst_port_min: low end of the destination port range. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_dst_port_min_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in dst_port_min: low end of the destination port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_min_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in dst_port_min: low end of the destination port range. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_min_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of dst_port_min. EINVAL if the handle's tracking is off or the object has no state. */
@@ -465,20 +485,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_min_state_flag_set(mirk_handle *h
 
 /** @name dst_port_max: high end of the destination port range
  *  @{ */
-/** Returns the address of the member dst_port_max in the object: high end of the destination port range. NULL after an
- * error or for a NULL object. */
+/** Returns the address of dst_port_max in the object: high end of the destination port range. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_dst_port_max_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member dst_port_max: high end of the destination port range. 0 after an error or for a NULL
- * object. */
+/** Returns the value of dst_port_max: high end of the destination port range. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_dst_port_max_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in dst_port_max: high end of the destination port range. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_max_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in dst_port_max: high end of the destination port range. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_max_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of dst_port_max. EINVAL if the handle's tracking is off or the object has no state. */
@@ -492,20 +514,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_max_state_flag_set(mirk_handle *h
 
 /** @name src_port_opr: operator applied to the source port range
  *  @{ */
-/** Returns the address of the member src_port_opr in the object: operator applied to the source port range. NULL after
- * an error or for a NULL object. */
+/** Returns the address of src_port_opr in the object: operator applied to the source port range. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_src_port_opr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member src_port_opr: operator applied to the source port range. 0 after an error or for a
- * NULL object. */
+/** Returns the value of src_port_opr: operator applied to the source port range. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_src_port_opr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in src_port_opr: operator applied to the source port range. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_opr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in src_port_opr: operator applied to the source port range. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_opr_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of src_port_opr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -519,20 +543,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_src_port_opr_state_flag_set(mirk_handle *h
 
 /** @name dst_port_opr: operator applied to the destination port range
  *  @{ */
-/** Returns the address of the member dst_port_opr in the object: operator applied to the destination port range. NULL
- * after an error or for a NULL object. */
+/** Returns the address of dst_port_opr in the object: operator applied to the destination port range. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tc_dst_port_opr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member dst_port_opr: operator applied to the destination port range. 0 after an error or
- * for a NULL object. */
+/** Returns the value of dst_port_opr: operator applied to the destination port range. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tc_dst_port_opr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in dst_port_opr: operator applied to the destination port range. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_opr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in dst_port_opr: operator applied to the destination port range. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_opr_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of dst_port_opr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -546,20 +572,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_dst_port_opr_state_flag_set(mirk_handle *h
 
 /** @name next_ptr: link to the next class in the data plane
  *  @{ */
-/** Returns the address of the member next_ptr in the object: link to the next class in the data plane. NULL after an
- * error or for a NULL object. */
+/** Returns the address of next_ptr in the object: link to the next class in the data plane. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tc_next_ptr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member next_ptr: link to the next class in the data plane. 0 after an error or for a NULL
- * object. */
+/** Returns the value of next_ptr: link to the next class in the data plane. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tc_next_ptr_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in next_ptr: link to the next class in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_next_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in next_ptr: link to the next class in the data plane. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_next_ptr_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint64_t value, uint32_t *err);
 /** Returns the state byte of next_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -573,20 +601,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_next_ptr_state_flag_set(mirk_handle *h, ui
 
 /** @name appl_data_ptr: location of the application data in the data plane
  *  @{ */
-/** Returns the address of the member appl_data_ptr in the object: location of the application data in the data plane.
- * NULL after an error or for a NULL object. */
+/** Returns the address of appl_data_ptr in the object: location of the application data in the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tc_appl_data_ptr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member appl_data_ptr: location of the application data in the data plane. 0 after an error
- * or for a NULL object. */
+/** Returns the value of appl_data_ptr: location of the application data in the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tc_appl_data_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc *object, uint32_t *err);
 /** Stores the value of the source in appl_data_ptr: location of the application data in the data plane. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_data_ptr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in appl_data_ptr: location of the application data in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_data_ptr_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_data_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -600,12 +630,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_data_ptr_state_flag_set(mirk_handle *
 
 /** @name appl: class's application entry
  *  @{ */
-/** Returns the address of the member appl in the object: class's application entry. NULL after an error or for a NULL
- * object. */
+/** Returns the address of appl in the object: class's application entry. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl *lumo_tarn_dp_tc_appl_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** MOVES a record into appl: class's application entry. The source loses its arrays and strings. What appl owned before
- * is not released. */
+ * is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     lumo_tarn_dp_appl *source, uint32_t *err);
 /** Returns the state byte of appl. EINVAL if the handle's tracking is off or the object has no state. */
@@ -619,19 +650,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_state_flag_set(mirk_handle *h, uint32
 
 /** @name id: identifier of the class
  *  @{ */
-/** Returns the address of the member id in the object: identifier of the class. NULL after an error or for a NULL
- * object. */
+/** Returns the address of id in the object: identifier of the class. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tc_id_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** Returns the value of the member id: identifier of the class. 0 after an error or for a NULL object. */
+/** Returns the value of id: identifier of the class. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_id_get_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
 /** Stores the value of the source in id: identifier of the class. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in id: identifier of the class. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_id_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t value, uint32_t *err);
 /** Returns the state byte of id. EINVAL if the handle's tracking is off or the object has no state. */

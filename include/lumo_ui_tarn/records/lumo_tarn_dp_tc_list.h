@@ -206,10 +206,11 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_list_type_type_backpropagate(mirk_hand
 
 /** @name num_tcs: elements in tc_list
  *  @{ */
-/** Returns the address of the count num_tcs: elements in tc_list. Read-only: it follows from the array. */
+/** Returns the address of the count num_tcs: elements in tc_list. Read-only: it follows from the array. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tc_list_num_tcs_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc_list *object, uint32_t *err);
-/** Returns the count num_tcs: elements in tc_list. 0 after an error or for a NULL object. */
+/** Returns the count num_tcs: elements in tc_list. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_list_num_tcs_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc_list *object, uint32_t *err);
 /** @} */
@@ -217,12 +218,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_list_num_tcs_get_value(mirk_handle *h,
 /** @name tc_list: traffic classes
  *  @{ */
 /** Returns the address of an element of tc_list: traffic classes. The array owns the element, and its next growth
- * invalidates the address. ENOENT if the index is out of range. */
+ * invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc *lumo_tarn_dp_tc_list_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc_list *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of tc_list: traffic classes. An index out of range grows the array to index + 1
  * elements and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a
- * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified. */
+ * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a tracking
+ * handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_list_tc_list_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc_list *object,
     uint32_t index, lumo_tarn_dp_tc *value, uint32_t *err);
 /** Sticky form of lumo_tarn_dp_tc_list_tc_list_set(): copies the value with copy_mode 0 and moves it otherwise. Returns

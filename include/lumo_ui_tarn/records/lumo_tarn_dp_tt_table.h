@@ -249,20 +249,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_type_type_backpropagate(mirk_han
 
 /** @name show_header: whether to show the table's header
  *  @{ */
-/** Returns the address of the member show_header in the object: whether to show the table's header. NULL after an error
- * or for a NULL object. */
+/** Returns the address of show_header in the object: whether to show the table's header. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_header: whether to show the table's header. 0 after an error or for a NULL
- * object. */
+/** Returns the value of show_header: whether to show the table's header. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in show_header: whether to show the table's header. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_header: whether to show the table's header. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -276,20 +278,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_state_flag_set(mirk_hand
 
 /** @name show_agg_list: whether to show the aggregation class list
  *  @{ */
-/** Returns the address of the member show_agg_list in the object: whether to show the aggregation class list. NULL
- * after an error or for a NULL object. */
+/** Returns the address of show_agg_list in the object: whether to show the aggregation class list. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_agg_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_agg_list: whether to show the aggregation class list. 0 after an error or for a
- * NULL object. */
+/** Returns the value of show_agg_list: whether to show the aggregation class list. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_agg_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in show_agg_list: whether to show the aggregation class list. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_agg_list: whether to show the aggregation class list. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_agg_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -303,20 +307,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_state_flag_set(mirk_ha
 
 /** @name show_filter_list: whether to show the filter class list
  *  @{ */
-/** Returns the address of the member show_filter_list in the object: whether to show the filter class list. NULL after
- * an error or for a NULL object. */
+/** Returns the address of show_filter_list in the object: whether to show the filter class list. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_filter_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_filter_list: whether to show the filter class list. 0 after an error or for a
- * NULL object. */
+/** Returns the value of show_filter_list: whether to show the filter class list. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_filter_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in show_filter_list: whether to show the filter class list. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_filter_list: whether to show the filter class list. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_filter_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -330,20 +336,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_state_flag_set(mirk
 
 /** @name show_ll_header: whether to show the header of the learn list
  *  @{ */
-/** Returns the address of the member show_ll_header in the object: whether to show the header of the learn list. NULL
- * after an error or for a NULL object. */
+/** Returns the address of show_ll_header in the object: whether to show the header of the learn list. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_ll_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_ll_header: whether to show the header of the learn list. 0 after an error or
- * for a NULL object. */
+/** Returns the value of show_ll_header: whether to show the header of the learn list. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in show_ll_header: whether to show the header of the learn list. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_ll_header: whether to show the header of the learn list. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_ll_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -357,20 +365,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_state_flag_set(mirk_h
 
 /** @name show_ll_list: whether to show the learn list itself
  *  @{ */
-/** Returns the address of the member show_ll_list in the object: whether to show the learn list itself. NULL after an
- * error or for a NULL object. */
+/** Returns the address of show_ll_list in the object: whether to show the learn list itself. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_show_ll_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member show_ll_list: whether to show the learn list itself. 0 after an error or for a NULL
- * object. */
+/** Returns the value of show_ll_list: whether to show the learn list itself. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_list_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in show_ll_list: whether to show the learn list itself. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_ll_list: whether to show the learn list itself. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_ll_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -384,19 +394,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_state_flag_set(mirk_han
 
 /** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
- * a NULL object. */
+/** Returns the address of display_all in the object: whether to show everything. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
+/** Returns the value of display_all: whether to show everything. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -410,20 +423,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_state_flag_set(mirk_hand
 
 /** @name display_tc: whether to show the traffic classes
  *  @{ */
-/** Returns the address of the member display_tc in the object: whether to show the traffic classes. NULL after an error
- * or for a NULL object. */
+/** Returns the address of display_tc in the object: whether to show the traffic classes. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_tc_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_tc: whether to show the traffic classes. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_tc: whether to show the traffic classes. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_tc_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in display_tc: whether to show the traffic classes. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_tc: whether to show the traffic classes. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_tc. EINVAL if the handle's tracking is off or the object has no state. */
@@ -437,20 +452,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_state_flag_set(mirk_handl
 
 /** @name display_ll: whether to show the learn lists
  *  @{ */
-/** Returns the address of the member display_ll in the object: whether to show the learn lists. NULL after an error or
- * for a NULL object. */
+/** Returns the address of display_ll in the object: whether to show the learn lists. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_dp_tt_table_display_ll_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member display_ll: whether to show the learn lists. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_ll: whether to show the learn lists. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_ll_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in display_ll: whether to show the learn lists. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_ll: whether to show the learn lists. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_ll. EINVAL if the handle's tracking is off or the object has no state. */
@@ -464,12 +481,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_state_flag_set(mirk_handl
 
 /** @name fdb_info: fdb memory of the table
  *  @{ */
-/** Returns the address of the member fdb_info in the object: fdb memory of the table. NULL after an error or for a NULL
- * object. */
+/** Returns the address of fdb_info in the object: fdb memory of the table. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_dp_tt_table_fdb_info_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into fdb_info: fdb memory of the table. The source loses its arrays and strings. What fdb_info owned
- * before is not released. */
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_fdb_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     lumo_tarn_fdb_mem_info *source, uint32_t *err);
 /** Returns the state byte of fdb_info. EINVAL if the handle's tracking is off or the object has no state. */
@@ -483,20 +501,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_fdb_info_state_flag_set(mirk_handle 
 
 /** @name lumo_num: number of the lumo processor that holds the table
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of the lumo processor that holds the table. NULL
- * after an error or for a NULL object. */
+/** Returns the address of lumo_num in the object: number of the lumo processor that holds the table. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_lumo_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member lumo_num: number of the lumo processor that holds the table. 0 after an error or for
- * a NULL object. */
+/** Returns the value of lumo_num: number of the lumo processor that holds the table. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of the lumo processor that holds the table. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of the lumo processor that holds the table. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -510,19 +530,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_state_flag_set(mirk_handle 
 
 /** @name state: state of the table
  *  @{ */
-/** Returns the address of the member state in the object: state of the table. NULL after an error or for a NULL
- * object. */
+/** Returns the address of state in the object: state of the table. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_state_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member state: state of the table. 0 after an error or for a NULL object. */
+/** Returns the value of state: state of the table. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_state_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in state: state of the table. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in state: state of the table. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of state. EINVAL if the handle's tracking is off or the object has no state. */
@@ -536,19 +558,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_state_flag_set(mirk_handle *h,
 
 /** @name learn_type: type of learning
  *  @{ */
-/** Returns the address of the member learn_type in the object: type of learning. NULL after an error or for a NULL
- * object. */
+/** Returns the address of learn_type in the object: type of learning. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member learn_type: type of learning. 0 after an error or for a NULL object. */
+/** Returns the value of learn_type: type of learning. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in learn_type: type of learning. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in learn_type: type of learning. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of learn_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -562,19 +587,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_state_flag_set(mirk_handl
 
 /** @name agg_type: type of aggregation
  *  @{ */
-/** Returns the address of the member agg_type in the object: type of aggregation. NULL after an error or for a NULL
- * object. */
+/** Returns the address of agg_type in the object: type of aggregation. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member agg_type: type of aggregation. 0 after an error or for a NULL object. */
+/** Returns the value of agg_type: type of aggregation. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in agg_type: type of aggregation. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in agg_type: type of aggregation. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of agg_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -588,18 +616,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_state_flag_set(mirk_handle 
 
 /** @name min_mask: minimum mask
  *  @{ */
-/** Returns the address of the member min_mask in the object: minimum mask. NULL after an error or for a NULL object. */
+/** Returns the address of min_mask in the object: minimum mask. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_min_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member min_mask: minimum mask. 0 after an error or for a NULL object. */
+/** Returns the value of min_mask: minimum mask. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_min_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in min_mask: minimum mask. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in min_mask: minimum mask. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. */
+ * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of min_mask. EINVAL if the handle's tracking is off or the object has no state. */
@@ -613,19 +644,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_state_flag_set(mirk_handle 
 
 /** @name tt_bit_flags: flags of the table
  *  @{ */
-/** Returns the address of the member tt_bit_flags in the object: flags of the table. NULL after an error or for a NULL
- * object. */
+/** Returns the address of tt_bit_flags in the object: flags of the table. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_tt_bit_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member tt_bit_flags: flags of the table. 0 after an error or for a NULL object. */
+/** Returns the value of tt_bit_flags: flags of the table. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_tt_bit_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in tt_bit_flags: flags of the table. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in tt_bit_flags: flags of the table. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of tt_bit_flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -639,19 +673,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_set(mirk_han
 
 /** @name aging_type: type of aging
  *  @{ */
-/** Returns the address of the member aging_type in the object: type of aging. NULL after an error or for a NULL
- * object. */
+/** Returns the address of aging_type in the object: type of aging. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tt_table_aging_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member aging_type: type of aging. 0 after an error or for a NULL object. */
+/** Returns the value of aging_type: type of aging. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tt_table_aging_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in aging_type: type of aging. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in aging_type: type of aging. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of aging_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -665,20 +701,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_state_flag_set(mirk_handl
 
 /** @name num_prefixes: number of prefixes in the table
  *  @{ */
-/** Returns the address of the member num_prefixes in the object: number of prefixes in the table. NULL after an error
- * or for a NULL object. */
+/** Returns the address of num_prefixes in the object: number of prefixes in the table. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_num_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member num_prefixes: number of prefixes in the table. 0 after an error or for a NULL
- * object. */
+/** Returns the value of num_prefixes: number of prefixes in the table. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_num_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in num_prefixes: number of prefixes in the table. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in num_prefixes: number of prefixes in the table. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of num_prefixes. EINVAL if the handle's tracking is off or the object has no state. */
@@ -692,18 +730,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_state_flag_set(mirk_han
 
 /** @name duration: duration
  *  @{ */
-/** Returns the address of the member duration in the object: duration. NULL after an error or for a NULL object. */
+/** Returns the address of duration in the object: duration. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_duration_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member duration: duration. 0 after an error or for a NULL object. */
+/** Returns the value of duration: duration. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_duration_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in duration: duration. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in duration: duration. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. */
+ * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of duration. EINVAL if the handle's tracking is off or the object has no state. */
@@ -717,18 +758,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_state_flag_set(mirk_handle 
 
 /** @name start_time: start time
  *  @{ */
-/** Returns the address of the member start_time in the object: start time. NULL after an error or for a NULL object. */
+/** Returns the address of start_time in the object: start time. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_start_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member start_time: start time. 0 after an error or for a NULL object. */
+/** Returns the value of start_time: start time. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_start_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in start_time: start time. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in start_time: start time. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. */
+ * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of start_time. EINVAL if the handle's tracking is off or the object has no state. */
@@ -742,18 +786,21 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_state_flag_set(mirk_handl
 
 /** @name end_time: end time
  *  @{ */
-/** Returns the address of the member end_time in the object: end time. NULL after an error or for a NULL object. */
+/** Returns the address of end_time in the object: end time. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_end_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member end_time: end time. 0 after an error or for a NULL object. */
+/** Returns the value of end_time: end time. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_end_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in end_time: end time. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in end_time: end time. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. */
+ * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of end_time. EINVAL if the handle's tracking is off or the object has no state. */
@@ -767,20 +814,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_state_flag_set(mirk_handle 
 
 /** @name agg_tc_list_ptr: location of the aggregation class list in the data plane
  *  @{ */
-/** Returns the address of the member agg_tc_list_ptr in the object: location of the aggregation class list in the data
- * plane. NULL after an error or for a NULL object. */
+/** Returns the address of agg_tc_list_ptr in the object: location of the aggregation class list in the data plane. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_agg_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member agg_tc_list_ptr: location of the aggregation class list in the data plane. 0 after
- * an error or for a NULL object. */
+/** Returns the value of agg_tc_list_ptr: location of the aggregation class list in the data plane. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_agg_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in agg_tc_list_ptr: location of the aggregation class list in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in agg_tc_list_ptr: location of the aggregation class list in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of agg_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -794,12 +843,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_set(mirk_
 
 /** @name agg_tc_list: aggregation classes
  *  @{ */
-/** Returns the address of the member agg_tc_list in the object: aggregation classes. NULL after an error or for a NULL
- * object. */
+/** Returns the address of agg_tc_list in the object: aggregation classes. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_agg_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into agg_tc_list: aggregation classes. The source loses its arrays and strings. What agg_tc_list
- * owned before is not released. */
+ * owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
 /** Returns the state byte of agg_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -813,20 +863,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_state_flag_set(mirk_hand
 
 /** @name filter_tc_list_ptr: location of the filter class list in the data plane
  *  @{ */
-/** Returns the address of the member filter_tc_list_ptr in the object: location of the filter class list in the data
- * plane. NULL after an error or for a NULL object. */
+/** Returns the address of filter_tc_list_ptr in the object: location of the filter class list in the data plane. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_filter_tc_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member filter_tc_list_ptr: location of the filter class list in the data plane. 0 after an
- * error or for a NULL object. */
+/** Returns the value of filter_tc_list_ptr: location of the filter class list in the data plane. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_filter_tc_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in filter_tc_list_ptr: location of the filter class list in the data plane. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in filter_tc_list_ptr: location of the filter class list in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -840,12 +892,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_set(mi
 
 /** @name filter_tc_list: filter classes
  *  @{ */
-/** Returns the address of the member filter_tc_list in the object: filter classes. NULL after an error or for a NULL
- * object. */
+/** Returns the address of filter_tc_list in the object: filter classes. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_filter_tc_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into filter_tc_list: filter classes. The source loses its arrays and strings. What filter_tc_list
- * owned before is not released. */
+ * owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
 /** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -859,20 +912,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_state_flag_set(mirk_h
 
 /** @name learn_list_ptr: location of the learn list in the data plane
  *  @{ */
-/** Returns the address of the member learn_list_ptr in the object: location of the learn list in the data plane. NULL
- * after an error or for a NULL object. */
+/** Returns the address of learn_list_ptr in the object: location of the learn list in the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_learn_list_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member learn_list_ptr: location of the learn list in the data plane. 0 after an error or
- * for a NULL object. */
+/** Returns the value of learn_list_ptr: location of the learn list in the data plane. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_learn_list_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in learn_list_ptr: location of the learn list in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in learn_list_ptr: location of the learn list in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of learn_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -886,11 +941,13 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_set(mirk_h
 
 /** @name learn_list: learn list
  *  @{ */
-/** Returns the address of the member learn_list in the object: learn list. NULL after an error or for a NULL object. */
+/** Returns the address of learn_list in the object: learn list. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_learn_list *lumo_tarn_dp_tt_table_learn_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** MOVES a record into learn_list: learn list. The source loses its arrays and strings. What learn_list owned before is
- * not released. */
+ * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_learn_list *source, uint32_t *err);
 /** Returns the state byte of learn_list. EINVAL if the handle's tracking is off or the object has no state. */
@@ -904,19 +961,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_state_flag_set(mirk_handl
 
 /** @name key_mask: mask of the table's key
  *  @{ */
-/** Returns the address of the member key_mask in the object: mask of the table's key. NULL after an error or for a NULL
- * object. */
+/** Returns the address of key_mask in the object: mask of the table's key. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_key_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member key_mask: mask of the table's key. 0 after an error or for a NULL object. */
+/** Returns the value of key_mask: mask of the table's key. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_key_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in key_mask: mask of the table's key. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in key_mask: mask of the table's key. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of key_mask. EINVAL if the handle's tracking is off or the object has no state. */
@@ -930,20 +990,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_state_flag_set(mirk_handle 
 
 /** @name thruput_head_ptr: head of the throughput entries in the data plane
  *  @{ */
-/** Returns the address of the member thruput_head_ptr in the object: head of the throughput entries in the data plane.
- * NULL after an error or for a NULL object. */
+/** Returns the address of thruput_head_ptr in the object: head of the throughput entries in the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_thruput_head_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member thruput_head_ptr: head of the throughput entries in the data plane. 0 after an error
- * or for a NULL object. */
+/** Returns the value of thruput_head_ptr: head of the throughput entries in the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_thruput_head_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in thruput_head_ptr: head of the throughput entries in the data plane. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in thruput_head_ptr: head of the throughput entries in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of thruput_head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -957,20 +1019,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_set(mirk
 
 /** @name thruput_entries: number of throughput entries
  *  @{ */
-/** Returns the address of the member thruput_entries in the object: number of throughput entries. NULL after an error
- * or for a NULL object. */
+/** Returns the address of thruput_entries in the object: number of throughput entries. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_thruput_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member thruput_entries: number of throughput entries. 0 after an error or for a NULL
- * object. */
+/** Returns the value of thruput_entries: number of throughput entries. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_thruput_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in thruput_entries: number of throughput entries. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in thruput_entries: number of throughput entries. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of thruput_entries. EINVAL if the handle's tracking is off or the object has no state. */
@@ -984,20 +1048,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_state_flag_set(mirk_
 
 /** @name delay_head_ptr: head of the delay entries in the data plane
  *  @{ */
-/** Returns the address of the member delay_head_ptr in the object: head of the delay entries in the data plane. NULL
- * after an error or for a NULL object. */
+/** Returns the address of delay_head_ptr in the object: head of the delay entries in the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dp_tt_table_delay_head_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member delay_head_ptr: head of the delay entries in the data plane. 0 after an error or for
- * a NULL object. */
+/** Returns the value of delay_head_ptr: head of the delay entries in the data plane. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dp_tt_table_delay_head_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in delay_head_ptr: head of the delay entries in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in delay_head_ptr: head of the delay entries in the data plane. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of delay_head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1011,19 +1077,22 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_set(mirk_h
 
 /** @name delay_entries: number of delay entries
  *  @{ */
-/** Returns the address of the member delay_entries in the object: number of delay entries. NULL after an error or for a
- * NULL object. */
+/** Returns the address of delay_entries in the object: number of delay entries. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_delay_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of the member delay_entries: number of delay entries. 0 after an error or for a NULL object. */
+/** Returns the value of delay_entries: number of delay entries. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_delay_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Stores the value of the source in delay_entries: number of delay entries. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_entries_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in delay_entries: number of delay entries. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of delay_entries. EINVAL if the handle's tracking is off or the object has no state. */

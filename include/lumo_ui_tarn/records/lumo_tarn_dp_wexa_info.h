@@ -207,19 +207,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_wexa_info_type_type_backpropagate(mirk_ha
 
 /** @name flags: flags of the wexa entry
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the wexa entry. NULL after an error or for a NULL
- * object. */
+/** Returns the address of flags in the object: flags of the wexa entry. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_wexa_info_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_wexa_info *object, uint32_t *err);
-/** Returns the value of the member flags: flags of the wexa entry. 0 after an error or for a NULL object. */
+/** Returns the value of flags: flags of the wexa entry. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_wexa_info_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_wexa_info *object, uint32_t *err);
 /** Stores the value of the source in flags: flags of the wexa entry. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_wexa_info_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_wexa_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in flags: flags of the wexa entry. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_wexa_info_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_wexa_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of flags. EINVAL if the handle's tracking is off or the object has no state. */

@@ -217,19 +217,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dyn_exmem_info_type_type_backpropagate(mirk_
 
 /** @name mem_type: which kind of memory this is
  *  @{ */
-/** Returns the address of the member mem_type in the object: which kind of memory this is. NULL after an error or for a
- * NULL object. */
+/** Returns the address of mem_type in the object: which kind of memory this is. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_dyn_exmem_info_mem_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
-/** Returns the value of the member mem_type: which kind of memory this is. 0 after an error or for a NULL object. */
+/** Returns the value of mem_type: which kind of memory this is. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dyn_exmem_info_mem_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in mem_type: which kind of memory this is. A number that is not an enumerator is
- * refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * refused with EIDRM; the member's state byte and the modified mark are set all the same. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_mem_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, lumo_tarn_mem_desc_e *source, uint32_t *err);
 /** Stores an enumerator of lumo_tarn_mem_desc_e in mem_type: which kind of memory this is. Another number is refused
- * with EIDRM; its state byte and the modified mark are set all the same. */
+ * with EIDRM; the member's state byte and the modified mark are set all the same. ENOENT for a NULL object; on a
+ * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_mem_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mem_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -243,20 +246,22 @@ LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_mem_type_state_flag_set(mirk_hand
 
 /** @name list_header_ptr: list header of the dynamic blocks
  *  @{ */
-/** Returns the address of the member list_header_ptr in the object: list header of the dynamic blocks. NULL after an
- * error or for a NULL object. */
+/** Returns the address of list_header_ptr in the object: list header of the dynamic blocks. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_dyn_exmem_info_list_header_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
-/** Returns the value of the member list_header_ptr: list header of the dynamic blocks. 0 after an error or for a NULL
- * object. */
+/** Returns the value of list_header_ptr: list header of the dynamic blocks. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_dyn_exmem_info_list_header_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in list_header_ptr: list header of the dynamic blocks. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_list_header_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in list_header_ptr: list header of the dynamic blocks. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_list_header_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of list_header_ptr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -270,10 +275,12 @@ LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_list_header_ptr_state_flag_set(mi
 
 /** @name num_exmems: elements in exmem
  *  @{ */
-/** Returns the address of the count num_exmems: elements in exmem. Read-only: it follows from the array. */
+/** Returns the address of the count num_exmems: elements in exmem. Read-only: it follows from the array. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dyn_exmem_info_num_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
-/** Returns the count num_exmems: elements in exmem. 0 after an error or for a NULL object. */
+/** Returns the count num_exmems: elements in exmem. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dyn_exmem_info_num_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
 /** @} */
@@ -281,12 +288,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dyn_exmem_info_num_exmems_get_value(mirk_han
 /** @name exmem: dynamic blocks
  *  @{ */
 /** Returns the address of an element of exmem: dynamic blocks. The array owns the element, and its next growth
- * invalidates the address. ENOENT if the index is out of range. */
+ * invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info_wrapper *lumo_tarn_dyn_exmem_info_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of exmem: dynamic blocks. An index out of range grows the array to index + 1
  * elements and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a
- * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified. */
+ * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a tracking
+ * handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t index, lumo_tarn_exmem_info_wrapper *value, uint32_t *err);
 /** Sticky form of lumo_tarn_dyn_exmem_info_exmem_set(): copies the value with copy_mode 0 and moves it otherwise.

@@ -207,20 +207,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_exmem_info_type_type_backpropagate(mirk_hand
 
 /** @name cl_addr: address of the block on the client side
  *  @{ */
-/** Returns the address of the member cl_addr in the object: address of the block on the client side. NULL after an
- * error or for a NULL object. */
+/** Returns the address of cl_addr in the object: address of the block on the client side. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_exmem_info_cl_addr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
-/** Returns the value of the member cl_addr: address of the block on the client side. 0 after an error or for a NULL
- * object. */
+/** Returns the value of cl_addr: address of the block on the client side. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_exmem_info_cl_addr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in cl_addr: address of the block on the client side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_cl_addr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in cl_addr: address of the block on the client side. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_cl_addr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of cl_addr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -234,20 +236,22 @@ LUMO_UI_TARN_API void lumo_tarn_exmem_info_cl_addr_state_flag_set(mirk_handle *h
 
 /** @name exmem_addr: address of the block in external memory
  *  @{ */
-/** Returns the address of the member exmem_addr in the object: address of the block in external memory. NULL after an
- * error or for a NULL object. */
+/** Returns the address of exmem_addr in the object: address of the block in external memory. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_exmem_info_exmem_addr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
-/** Returns the value of the member exmem_addr: address of the block in external memory. 0 after an error or for a NULL
- * object. */
+/** Returns the value of exmem_addr: address of the block in external memory. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_exmem_info_exmem_addr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in exmem_addr: address of the block in external memory. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_exmem_addr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in exmem_addr: address of the block in external memory. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_exmem_addr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of exmem_addr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -261,20 +265,22 @@ LUMO_UI_TARN_API void lumo_tarn_exmem_info_exmem_addr_state_flag_set(mirk_handle
 
 /** @name ppe_addr: address of the block as the ppe side uses it
  *  @{ */
-/** Returns the address of the member ppe_addr in the object: address of the block as the ppe side uses it. NULL after
- * an error or for a NULL object. */
+/** Returns the address of ppe_addr in the object: address of the block as the ppe side uses it. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_exmem_info_ppe_addr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
-/** Returns the value of the member ppe_addr: address of the block as the ppe side uses it. 0 after an error or for a
- * NULL object. */
+/** Returns the value of ppe_addr: address of the block as the ppe side uses it. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_exmem_info_ppe_addr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in ppe_addr: address of the block as the ppe side uses it. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_ppe_addr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in ppe_addr: address of the block as the ppe side uses it. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_ppe_addr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of ppe_addr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -288,19 +294,21 @@ LUMO_UI_TARN_API void lumo_tarn_exmem_info_ppe_addr_state_flag_set(mirk_handle *
 
 /** @name size: size of the block
  *  @{ */
-/** Returns the address of the member size in the object: size of the block. NULL after an error or for a NULL
- * object. */
+/** Returns the address of size in the object: size of the block. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_exmem_info_size_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     uint32_t *err);
-/** Returns the value of the member size: size of the block. 0 after an error or for a NULL object. */
+/** Returns the value of size: size of the block. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_exmem_info_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in size: size of the block. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_size_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in size: size of the block. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_size_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_exmem_info *object,
     uint32_t value, uint32_t *err);
 /** Returns the state byte of size. EINVAL if the handle's tracking is off or the object has no state. */

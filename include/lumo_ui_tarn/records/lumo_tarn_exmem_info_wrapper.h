@@ -218,12 +218,13 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_exmem_info_wrapper_type_type_backpropagate(m
 
 /** @name exmem: wrapped block description
  *  @{ */
-/** Returns the address of the member exmem in the object: wrapped block description. NULL after an error or for a NULL
- * object. */
+/** Returns the address of exmem in the object: wrapped block description. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_exmem_info_wrapper_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info_wrapper *object, uint32_t *err);
 /** MOVES a record into exmem: wrapped block description. The source loses its arrays and strings. What exmem owned
- * before is not released. */
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_exmem_info_wrapper_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_exmem_info_wrapper *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem. EINVAL if the handle's tracking is off or the object has no state. */

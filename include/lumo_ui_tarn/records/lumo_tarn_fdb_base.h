@@ -208,19 +208,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_base_type_type_backpropagate(mirk_handle
 
 /** @name hdr_ver: version of the header
  *  @{ */
-/** Returns the address of the member hdr_ver in the object: version of the header. NULL after an error or for a NULL
- * object. */
+/** Returns the address of hdr_ver in the object: version of the header. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_fdb_base_hdr_ver_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint32_t *err);
-/** Returns the value of the member hdr_ver: version of the header. 0 after an error or for a NULL object. */
+/** Returns the value of hdr_ver: version of the header. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_fdb_base_hdr_ver_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint32_t *err);
 /** Stores the value of the source in hdr_ver: version of the header. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_ver_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in hdr_ver: version of the header. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_ver_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of hdr_ver. EINVAL if the handle's tracking is off or the object has no state. */
@@ -234,19 +237,22 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_ver_state_flag_set(mirk_handle *h, 
 
 /** @name hdr_len: length of the header
  *  @{ */
-/** Returns the address of the member hdr_len in the object: length of the header. NULL after an error or for a NULL
- * object. */
+/** Returns the address of hdr_len in the object: length of the header. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_fdb_base_hdr_len_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint32_t *err);
-/** Returns the value of the member hdr_len: length of the header. 0 after an error or for a NULL object. */
+/** Returns the value of hdr_len: length of the header. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_fdb_base_hdr_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint32_t *err);
 /** Stores the value of the source in hdr_len: length of the header. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_len_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in hdr_len: length of the header. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_len_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint8_t value, uint32_t *err);
 /** Returns the state byte of hdr_len. EINVAL if the handle's tracking is off or the object has no state. */
@@ -260,19 +266,21 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_len_state_flag_set(mirk_handle *h, 
 
 /** @name hdr_flags: header flags
  *  @{ */
-/** Returns the address of the member hdr_flags in the object: header flags. NULL after an error or for a NULL
- * object. */
+/** Returns the address of hdr_flags in the object: header flags. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_fdb_base_hdr_flags_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint32_t *err);
-/** Returns the value of the member hdr_flags: header flags. 0 after an error or for a NULL object. */
+/** Returns the value of hdr_flags: header flags. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_fdb_base_hdr_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint32_t *err);
 /** Stores the value of the source in hdr_flags: header flags. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_flags_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in hdr_flags: header flags. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of hdr_flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -286,19 +294,22 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_base_hdr_flags_state_flag_set(mirk_handle *h
 
 /** @name ftr_ver: version of the footer
  *  @{ */
-/** Returns the address of the member ftr_ver in the object: version of the footer. NULL after an error or for a NULL
- * object. */
+/** Returns the address of ftr_ver in the object: version of the footer. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_fdb_base_ftr_ver_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint32_t *err);
-/** Returns the value of the member ftr_ver: version of the footer. 0 after an error or for a NULL object. */
+/** Returns the value of ftr_ver: version of the footer. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_fdb_base_ftr_ver_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint32_t *err);
 /** Stores the value of the source in ftr_ver: version of the footer. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_ftr_ver_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in ftr_ver: version of the footer. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_ftr_ver_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of ftr_ver. EINVAL if the handle's tracking is off or the object has no state. */
@@ -312,19 +323,22 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_base_ftr_ver_state_flag_set(mirk_handle *h, 
 
 /** @name ftr_len: length of the footer
  *  @{ */
-/** Returns the address of the member ftr_len in the object: length of the footer. NULL after an error or for a NULL
- * object. */
+/** Returns the address of ftr_len in the object: length of the footer. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_fdb_base_ftr_len_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint32_t *err);
-/** Returns the value of the member ftr_len: length of the footer. 0 after an error or for a NULL object. */
+/** Returns the value of ftr_len: length of the footer. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_fdb_base_ftr_len_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_base *object, uint32_t *err);
 /** Stores the value of the source in ftr_len: length of the footer. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_ftr_len_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     const uint16_t *source, uint32_t *err);
 /** Stores a value in ftr_len: length of the footer. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_base_ftr_len_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_base *object,
     uint16_t value, uint32_t *err);
 /** Returns the state byte of ftr_len. EINVAL if the handle's tracking is off or the object has no state. */

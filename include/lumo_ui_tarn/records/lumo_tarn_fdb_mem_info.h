@@ -209,19 +209,21 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_type_type_backpropagate(mirk_ha
 
 /** @name type: type of the memory
  *  @{ */
-/** Returns the address of the member type in the object: type of the memory. NULL after an error or for a NULL
- * object. */
+/** Returns the address of type in the object: type of the memory. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_fdb_mem_info_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
-/** Returns the value of the member type: type of the memory. 0 after an error or for a NULL object. */
+/** Returns the value of type: type of the memory. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
 /** Stores the value of the source in type: type of the memory. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_mem_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in type: type of the memory. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -235,19 +237,21 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_type_state_flag_set(mirk_handle *h,
 
 /** @name size: size of the memory
  *  @{ */
-/** Returns the address of the member size in the object: size of the memory. NULL after an error or for a NULL
- * object. */
+/** Returns the address of size in the object: size of the memory. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_fdb_mem_info_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
-/** Returns the value of the member size: size of the memory. 0 after an error or for a NULL object. */
+/** Returns the value of size: size of the memory. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
 /** Stores the value of the source in size: size of the memory. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_size_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_mem_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in size: size of the memory. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -261,19 +265,22 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_size_state_flag_set(mirk_handle *h,
 
 /** @name mem_addr: address of the memory
  *  @{ */
-/** Returns the address of the member mem_addr in the object: address of the memory. NULL after an error or for a NULL
- * object. */
+/** Returns the address of mem_addr in the object: address of the memory. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_fdb_mem_info_mem_addr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
-/** Returns the value of the member mem_addr: address of the memory. 0 after an error or for a NULL object. */
+/** Returns the value of mem_addr: address of the memory. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_fdb_mem_info_mem_addr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
 /** Stores the value of the source in mem_addr: address of the memory. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_mem_addr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in mem_addr: address of the memory. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_mem_addr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of mem_addr. EINVAL if the handle's tracking is off or the object has no state. */

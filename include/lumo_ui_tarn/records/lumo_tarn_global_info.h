@@ -223,19 +223,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_type_type_backpropagate(mirk_han
 
 /** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
- * a NULL object. */
+/** Returns the address of display_all in the object: whether to show everything. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
+/** Returns the value of display_all: whether to show everything. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -249,20 +252,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_all_state_flag_set(mirk_hand
 
 /** @name display_plat_cfg: whether to show the platform configuration
  *  @{ */
-/** Returns the address of the member display_plat_cfg in the object: whether to show the platform configuration. NULL
- * after an error or for a NULL object. */
+/** Returns the address of display_plat_cfg in the object: whether to show the platform configuration. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_plat_cfg_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_plat_cfg: whether to show the platform configuration. 0 after an error or
- * for a NULL object. */
+/** Returns the value of display_plat_cfg: whether to show the platform configuration. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_plat_cfg_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in display_plat_cfg: whether to show the platform configuration. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_plat_cfg: whether to show the platform configuration. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_plat_cfg. EINVAL if the handle's tracking is off or the object has no state. */
@@ -276,20 +281,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_plat_cfg_state_flag_set(mirk
 
 /** @name display_proc_ctx: whether to show the process context
  *  @{ */
-/** Returns the address of the member display_proc_ctx in the object: whether to show the process context. NULL after an
- * error or for a NULL object. */
+/** Returns the address of display_proc_ctx in the object: whether to show the process context. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_global_info_display_proc_ctx_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member display_proc_ctx: whether to show the process context. 0 after an error or for a
- * NULL object. */
+/** Returns the value of display_proc_ctx: whether to show the process context. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_display_proc_ctx_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in display_proc_ctx: whether to show the process context. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_proc_ctx: whether to show the process context. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_proc_ctx. EINVAL if the handle's tracking is off or the object has no state. */
@@ -303,20 +310,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_display_proc_ctx_state_flag_set(mirk
 
 /** @name platform_cfg_set: flag word, set if the platform configuration is set
  *  @{ */
-/** Returns the address of the member platform_cfg_set in the object: flag word, set if the platform configuration is
- * set. NULL after an error or for a NULL object. */
+/** Returns the address of platform_cfg_set in the object: flag word, set if the platform configuration is set. NULL for
+ * a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_platform_cfg_set_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member platform_cfg_set: flag word, set if the platform configuration is set. 0 after an
- * error or for a NULL object. */
+/** Returns the value of platform_cfg_set: flag word, set if the platform configuration is set. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_platform_cfg_set_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in platform_cfg_set: flag word, set if the platform configuration is set. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in platform_cfg_set: flag word, set if the platform configuration is set. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of platform_cfg_set. EINVAL if the handle's tracking is off or the object has no state. */
@@ -330,20 +339,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_platform_cfg_set_state_flag_set(mirk
 
 /** @name max_tt_cache_entries: maximum number of tt cache entries
  *  @{ */
-/** Returns the address of the member max_tt_cache_entries in the object: maximum number of tt cache entries. NULL after
- * an error or for a NULL object. */
+/** Returns the address of max_tt_cache_entries in the object: maximum number of tt cache entries. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_max_tt_cache_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member max_tt_cache_entries: maximum number of tt cache entries. 0 after an error or for a
- * NULL object. */
+/** Returns the value of max_tt_cache_entries: maximum number of tt cache entries. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_max_tt_cache_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in max_tt_cache_entries: maximum number of tt cache entries. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_max_tt_cache_entries_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in max_tt_cache_entries: maximum number of tt cache entries. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_max_tt_cache_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of max_tt_cache_entries. EINVAL if the handle's tracking is off or the object has no
@@ -358,20 +369,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_max_tt_cache_entries_state_flag_set(
 
 /** @name max_mp_cache_entries: maximum number of mp cache entries
  *  @{ */
-/** Returns the address of the member max_mp_cache_entries in the object: maximum number of mp cache entries. NULL after
- * an error or for a NULL object. */
+/** Returns the address of max_mp_cache_entries in the object: maximum number of mp cache entries. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_max_mp_cache_entries_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member max_mp_cache_entries: maximum number of mp cache entries. 0 after an error or for a
- * NULL object. */
+/** Returns the value of max_mp_cache_entries: maximum number of mp cache entries. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_max_mp_cache_entries_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in max_mp_cache_entries: maximum number of mp cache entries. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_max_mp_cache_entries_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in max_mp_cache_entries: maximum number of mp cache entries. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_max_mp_cache_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of max_mp_cache_entries. EINVAL if the handle's tracking is off or the object has no
@@ -386,20 +399,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_max_mp_cache_entries_state_flag_set(
 
 /** @name lumo_evctx_p: event context of the lumo side
  *  @{ */
-/** Returns the address of the member lumo_evctx_p in the object: event context of the lumo side. NULL after an error or
- * for a NULL object. */
+/** Returns the address of lumo_evctx_p in the object: event context of the lumo side. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_lumo_evctx_p_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member lumo_evctx_p: event context of the lumo side. 0 after an error or for a NULL
- * object. */
+/** Returns the value of lumo_evctx_p: event context of the lumo side. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_lumo_evctx_p_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in lumo_evctx_p: event context of the lumo side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_lumo_evctx_p_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in lumo_evctx_p: event context of the lumo side. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_lumo_evctx_p_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of lumo_evctx_p. EINVAL if the handle's tracking is off or the object has no state. */
@@ -413,20 +428,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_lumo_evctx_p_state_flag_set(mirk_han
 
 /** @name smc_evctx_p: event context of the smc side
  *  @{ */
-/** Returns the address of the member smc_evctx_p in the object: event context of the smc side. NULL after an error or
- * for a NULL object. */
+/** Returns the address of smc_evctx_p in the object: event context of the smc side. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_smc_evctx_p_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member smc_evctx_p: event context of the smc side. 0 after an error or for a NULL
- * object. */
+/** Returns the value of smc_evctx_p: event context of the smc side. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_smc_evctx_p_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in smc_evctx_p: event context of the smc side. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_smc_evctx_p_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in smc_evctx_p: event context of the smc side. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_smc_evctx_p_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of smc_evctx_p. EINVAL if the handle's tracking is off or the object has no state. */
@@ -440,19 +457,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_smc_evctx_p_state_flag_set(mirk_hand
 
 /** @name listen_chan: the listening channel
  *  @{ */
-/** Returns the address of the member listen_chan in the object: the listening channel. NULL after an error or for a
- * NULL object. */
+/** Returns the address of listen_chan in the object: the listening channel. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_global_info_listen_chan_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member listen_chan: the listening channel. 0 after an error or for a NULL object. */
+/** Returns the value of listen_chan: the listening channel. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_global_info_listen_chan_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in listen_chan: the listening channel. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_listen_chan_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in listen_chan: the listening channel. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_listen_chan_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of listen_chan. EINVAL if the handle's tracking is off or the object has no state. */
@@ -466,20 +486,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_listen_chan_state_flag_set(mirk_hand
 
 /** @name ha_init: flag word, set if high availability is initialized
  *  @{ */
-/** Returns the address of the member ha_init in the object: flag word, set if high availability is initialized. NULL
- * after an error or for a NULL object. */
+/** Returns the address of ha_init in the object: flag word, set if high availability is initialized. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_ha_init_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member ha_init: flag word, set if high availability is initialized. 0 after an error or for
- * a NULL object. */
+/** Returns the value of ha_init: flag word, set if high availability is initialized. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_ha_init_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in ha_init: flag word, set if high availability is initialized. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in ha_init: flag word, set if high availability is initialized. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_init. EINVAL if the handle's tracking is off or the object has no state. */
@@ -493,19 +515,21 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_ha_init_state_flag_set(mirk_handle *
 
 /** @name mdr: flag word named mdr
  *  @{ */
-/** Returns the address of the member mdr in the object: flag word named mdr. NULL after an error or for a NULL
- * object. */
+/** Returns the address of mdr in the object: flag word named mdr. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_global_info_mdr_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     uint32_t *err);
-/** Returns the value of the member mdr: flag word named mdr. 0 after an error or for a NULL object. */
+/** Returns the value of mdr: flag word named mdr. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_global_info_mdr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in mdr: flag word named mdr. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_mdr_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_global_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in mdr: flag word named mdr. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. */
+ * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
+ * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_mdr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mdr. EINVAL if the handle's tracking is off or the object has no state. */
@@ -519,19 +543,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_mdr_state_flag_set(mirk_handle *h, u
 
 /** @name num_lumos: number of processors
  *  @{ */
-/** Returns the address of the member num_lumos in the object: number of processors. NULL after an error or for a NULL
- * object. */
+/** Returns the address of num_lumos in the object: number of processors. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_global_info_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member num_lumos: number of processors. 0 after an error or for a NULL object. */
+/** Returns the value of num_lumos: number of processors. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in num_lumos: number of processors. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_num_lumos_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in num_lumos: number of processors. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_num_lumos_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of num_lumos. EINVAL if the handle's tracking is off or the object has no state. */
@@ -545,19 +572,22 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_num_lumos_state_flag_set(mirk_handle
 
 /** @name num_complexes: number of complexes
  *  @{ */
-/** Returns the address of the member num_complexes in the object: number of complexes. NULL after an error or for a
- * NULL object. */
+/** Returns the address of num_complexes in the object: number of complexes. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_global_info_num_complexes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
-/** Returns the value of the member num_complexes: number of complexes. 0 after an error or for a NULL object. */
+/** Returns the value of num_complexes: number of complexes. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_global_info_num_complexes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** Stores the value of the source in num_complexes: number of complexes. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_num_complexes_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in num_complexes: number of complexes. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_num_complexes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of num_complexes. EINVAL if the handle's tracking is off or the object has no state. */
@@ -571,12 +601,13 @@ LUMO_UI_TARN_API void lumo_tarn_global_info_num_complexes_state_flag_set(mirk_ha
 
 /** @name lumo_info_list: per-processor records
  *  @{ */
-/** Returns the address of the member lumo_info_list in the object: per-processor records. NULL after an error or for a
- * NULL object. */
+/** Returns the address of lumo_info_list in the object: per-processor records. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_lumo_info_list *lumo_tarn_global_info_lumo_info_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, uint32_t *err);
 /** MOVES a record into lumo_info_list: per-processor records. The source loses its arrays and strings. What
- * lumo_info_list owned before is not released. */
+ * lumo_info_list owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_global_info_lumo_info_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_global_info *object, lumo_tarn_lumo_info_list *source, uint32_t *err);
 /** Returns the state byte of lumo_info_list. EINVAL if the handle's tracking is off or the object has no state. */

@@ -289,19 +289,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_type_type_backpropagate(mirk_handl
 
 /** @name display_all: whether to show everything
  *  @{ */
-/** Returns the address of the member display_all in the object: whether to show everything. NULL after an error or for
- * a NULL object. */
+/** Returns the address of display_all in the object: whether to show everything. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_all_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_all: whether to show everything. 0 after an error or for a NULL object. */
+/** Returns the value of display_all: whether to show everything. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_all_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_all: whether to show everything. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_all: whether to show everything. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
@@ -315,19 +318,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_state_flag_set(mirk_handle
 
 /** @name display_fdb: whether to show the fdb part
  *  @{ */
-/** Returns the address of the member display_fdb in the object: whether to show the fdb part. NULL after an error or
- * for a NULL object. */
+/** Returns the address of display_fdb in the object: whether to show the fdb part. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_fdb_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_fdb: whether to show the fdb part. 0 after an error or for a NULL object. */
+/** Returns the value of display_fdb: whether to show the fdb part. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_fdb_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_fdb: whether to show the fdb part. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_fdb: whether to show the fdb part. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_fdb. EINVAL if the handle's tracking is off or the object has no state. */
@@ -341,20 +347,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_state_flag_set(mirk_handle
 
 /** @name display_ha: whether to show the high-availability part
  *  @{ */
-/** Returns the address of the member display_ha in the object: whether to show the high-availability part. NULL after
- * an error or for a NULL object. */
+/** Returns the address of display_ha in the object: whether to show the high-availability part. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_ha_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_ha: whether to show the high-availability part. 0 after an error or for a
- * NULL object. */
+/** Returns the value of display_ha: whether to show the high-availability part. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_ha_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_ha: whether to show the high-availability part. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_ha: whether to show the high-availability part. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_ha. EINVAL if the handle's tracking is off or the object has no state. */
@@ -368,20 +376,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_state_flag_set(mirk_handle 
 
 /** @name display_wexa: whether to show the wexa part
  *  @{ */
-/** Returns the address of the member display_wexa in the object: whether to show the wexa part. NULL after an error or
- * for a NULL object. */
+/** Returns the address of display_wexa in the object: whether to show the wexa part. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_wexa_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_wexa: whether to show the wexa part. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_wexa: whether to show the wexa part. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_wexa_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_wexa: whether to show the wexa part. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_wexa: whether to show the wexa part. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_wexa. EINVAL if the handle's tracking is off or the object has no state. */
@@ -395,20 +405,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_state_flag_set(mirk_handl
 
 /** @name display_handles: whether to show the handles
  *  @{ */
-/** Returns the address of the member display_handles in the object: whether to show the handles. NULL after an error or
- * for a NULL object. */
+/** Returns the address of display_handles in the object: whether to show the handles. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_handles_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_handles: whether to show the handles. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_handles: whether to show the handles. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_handles_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_handles: whether to show the handles. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_handles: whether to show the handles. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_handles. EINVAL if the handle's tracking is off or the object has no state. */
@@ -422,20 +434,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_state_flag_set(mirk_ha
 
 /** @name display_exmem: whether to show the memory blocks
  *  @{ */
-/** Returns the address of the member display_exmem in the object: whether to show the memory blocks. NULL after an
- * error or for a NULL object. */
+/** Returns the address of display_exmem in the object: whether to show the memory blocks. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_exmem: whether to show the memory blocks. 0 after an error or for a NULL
- * object. */
+/** Returns the value of display_exmem: whether to show the memory blocks. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_exmem_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_exmem: whether to show the memory blocks. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_exmem: whether to show the memory blocks. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_exmem. EINVAL if the handle's tracking is off or the object has no state. */
@@ -449,20 +463,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_state_flag_set(mirk_hand
 
 /** @name display_init: whether to show the initialization state
  *  @{ */
-/** Returns the address of the member display_init in the object: whether to show the initialization state. NULL after
- * an error or for a NULL object. */
+/** Returns the address of display_init in the object: whether to show the initialization state. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_lumo_info_display_init_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member display_init: whether to show the initialization state. 0 after an error or for a
- * NULL object. */
+/** Returns the value of display_init: whether to show the initialization state. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_init_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in display_init: whether to show the initialization state. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const mirk_boolean *source, uint32_t *err);
 /** Stores a value in display_init: whether to show the initialization state. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of display_init. EINVAL if the handle's tracking is off or the object has no state. */
@@ -476,19 +492,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_state_flag_set(mirk_handl
 
 /** @name lumo_num: number of this lumo processor
  *  @{ */
-/** Returns the address of the member lumo_num in the object: number of this lumo processor. NULL after an error or for
- * a NULL object. */
+/** Returns the address of lumo_num in the object: number of this lumo processor. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_lumo_num_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member lumo_num: number of this lumo processor. 0 after an error or for a NULL object. */
+/** Returns the value of lumo_num: number of this lumo processor. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_lumo_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in lumo_num: number of this lumo processor. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in lumo_num: number of this lumo processor. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -502,20 +521,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_state_flag_set(mirk_handle *h
 
 /** @name complex_num: number of the complex that the processor belongs to
  *  @{ */
-/** Returns the address of the member complex_num in the object: number of the complex that the processor belongs to.
- * NULL after an error or for a NULL object. */
+/** Returns the address of complex_num in the object: number of the complex that the processor belongs to. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_complex_num_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member complex_num: number of the complex that the processor belongs to. 0 after an error
- * or for a NULL object. */
+/** Returns the value of complex_num: number of the complex that the processor belongs to. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_complex_num_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in complex_num: number of the complex that the processor belongs to. Notifies, marks
- * the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint8_t *source, uint32_t *err);
 /** Stores a value in complex_num: number of the complex that the processor belongs to. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of complex_num. EINVAL if the handle's tracking is off or the object has no state. */
@@ -529,20 +550,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_state_flag_set(mirk_handle
 
 /** @name direction: direction of traffic that the processor serves
  *  @{ */
-/** Returns the address of the member direction in the object: direction of traffic that the processor serves. NULL
- * after an error or for a NULL object. */
+/** Returns the address of direction in the object: direction of traffic that the processor serves. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_lumo_direction_e *lumo_tarn_lumo_info_direction_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member direction: direction of traffic that the processor serves. 0 after an error or for a
- * NULL object. */
+/** Returns the value of direction: direction of traffic that the processor serves. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_direction_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in direction: direction of traffic that the processor serves. A number that is not an
- * enumerator is refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * enumerator is refused with EIDRM; the member's state byte and the modified mark are set all the same. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_lumo_direction_e *source, uint32_t *err);
 /** Stores an enumerator of lumo_tarn_lumo_direction_e in direction: direction of traffic that the processor serves.
- * Another number is refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * Another number is refused with EIDRM; the member's state byte and the modified mark are set all the same. ENOENT for
+ * a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of direction. EINVAL if the handle's tracking is off or the object has no state. */
@@ -556,19 +579,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_state_flag_set(mirk_handle *
 
 /** @name epoch: epoch value of the processor
  *  @{ */
-/** Returns the address of the member epoch in the object: epoch value of the processor. NULL after an error or for a
- * NULL object. */
+/** Returns the address of epoch in the object: epoch value of the processor. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_epoch_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member epoch: epoch value of the processor. 0 after an error or for a NULL object. */
+/** Returns the value of epoch: epoch value of the processor. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_epoch_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in epoch: epoch value of the processor. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in epoch: epoch value of the processor. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t value, uint32_t *err);
 /** Returns the state byte of epoch. EINVAL if the handle's tracking is off or the object has no state. */
@@ -582,20 +608,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_state_flag_set(mirk_handle *h, u
 
 /** @name fdb_initialized: flag word, set if the fdb is initialized
  *  @{ */
-/** Returns the address of the member fdb_initialized in the object: flag word, set if the fdb is initialized. NULL
- * after an error or for a NULL object. */
+/** Returns the address of fdb_initialized in the object: flag word, set if the fdb is initialized. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_fdb_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member fdb_initialized: flag word, set if the fdb is initialized. 0 after an error or for a
- * NULL object. */
+/** Returns the value of fdb_initialized: flag word, set if the fdb is initialized. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_fdb_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in fdb_initialized: flag word, set if the fdb is initialized. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in fdb_initialized: flag word, set if the fdb is initialized. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of fdb_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -609,12 +637,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_state_flag_set(mirk_ha
 
 /** @name fdb_base: header and footer description of the fdb
  *  @{ */
-/** Returns the address of the member fdb_base in the object: header and footer description of the fdb. NULL after an
- * error or for a NULL object. */
+/** Returns the address of fdb_base in the object: header and footer description of the fdb. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_fdb_base *lumo_tarn_lumo_info_fdb_base_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into fdb_base: header and footer description of the fdb. The source loses its arrays and strings.
- * What fdb_base owned before is not released. */
+ * What fdb_base owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_fdb_base *source, uint32_t *err);
 /** Returns the state byte of fdb_base. EINVAL if the handle's tracking is off or the object has no state. */
@@ -628,19 +657,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_state_flag_set(mirk_handle *h
 
 /** @name chunk_overhead: overhead of a chunk
  *  @{ */
-/** Returns the address of the member chunk_overhead in the object: overhead of a chunk. NULL after an error or for a
- * NULL object. */
+/** Returns the address of chunk_overhead in the object: overhead of a chunk. NULL for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_chunk_overhead_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member chunk_overhead: overhead of a chunk. 0 after an error or for a NULL object. */
+/** Returns the value of chunk_overhead: overhead of a chunk. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_chunk_overhead_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in chunk_overhead: overhead of a chunk. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in chunk_overhead: overhead of a chunk. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of chunk_overhead. EINVAL if the handle's tracking is off or the object has no state. */
@@ -654,20 +686,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_state_flag_set(mirk_han
 
 /** @name flow_info_mem_size: memory size of a flow information entry
  *  @{ */
-/** Returns the address of the member flow_info_mem_size in the object: memory size of a flow information entry. NULL
- * after an error or for a NULL object. */
+/** Returns the address of flow_info_mem_size in the object: memory size of a flow information entry. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_flow_info_mem_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member flow_info_mem_size: memory size of a flow information entry. 0 after an error or for
- * a NULL object. */
+/** Returns the value of flow_info_mem_size: memory size of a flow information entry. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_flow_info_mem_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in flow_info_mem_size: memory size of a flow information entry. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in flow_info_mem_size: memory size of a flow information entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of flow_info_mem_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -681,20 +715,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_state_flag_set(mirk
 
 /** @name mp_cache_entry_size: size of an mp cache entry
  *  @{ */
-/** Returns the address of the member mp_cache_entry_size in the object: size of an mp cache entry. NULL after an error
- * or for a NULL object. */
+/** Returns the address of mp_cache_entry_size in the object: size of an mp cache entry. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_mp_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member mp_cache_entry_size: size of an mp cache entry. 0 after an error or for a NULL
- * object. */
+/** Returns the value of mp_cache_entry_size: size of an mp cache entry. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_mp_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in mp_cache_entry_size: size of an mp cache entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in mp_cache_entry_size: size of an mp cache entry. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of mp_cache_entry_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -708,20 +744,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_set(mir
 
 /** @name tt_cache_entry_size: size of a tt cache entry
  *  @{ */
-/** Returns the address of the member tt_cache_entry_size in the object: size of a tt cache entry. NULL after an error
- * or for a NULL object. */
+/** Returns the address of tt_cache_entry_size in the object: size of a tt cache entry. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_tt_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_cache_entry_size: size of a tt cache entry. 0 after an error or for a NULL
- * object. */
+/** Returns the value of tt_cache_entry_size: size of a tt cache entry. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_tt_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_cache_entry_size: size of a tt cache entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in tt_cache_entry_size: size of a tt cache entry. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of tt_cache_entry_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -735,12 +773,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_set(mir
 
 /** @name tarn_tt_tbl: memory of the feature's traffic table
  *  @{ */
-/** Returns the address of the member tarn_tt_tbl in the object: memory of the feature's traffic table. NULL after an
- * error or for a NULL object. */
+/** Returns the address of tarn_tt_tbl in the object: memory of the feature's traffic table. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_tt_tbl_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tarn_tt_tbl: memory of the feature's traffic table. The source loses its arrays and strings.
- * What tarn_tt_tbl owned before is not released. */
+ * What tarn_tt_tbl owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_tt_tbl_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_fdb_mem_info *source, uint32_t *err);
 /** Returns the state byte of tarn_tt_tbl. EINVAL if the handle's tracking is off or the object has no state. */
@@ -754,12 +793,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_set(mirk_handle
 
 /** @name tarn_debug_flags: memory of the feature's debug flags
  *  @{ */
-/** Returns the address of the member tarn_debug_flags in the object: memory of the feature's debug flags. NULL after an
- * error or for a NULL object. */
+/** Returns the address of tarn_debug_flags in the object: memory of the feature's debug flags. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_debug_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tarn_debug_flags: memory of the feature's debug flags. The source loses its arrays and strings.
- * What tarn_debug_flags owned before is not released. */
+ * What tarn_debug_flags owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_debug_flags_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_fdb_mem_info *source, uint32_t *err);
 /** Returns the state byte of tarn_debug_flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -773,20 +813,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_debug_flags_state_flag_set(mirk_h
 
 /** @name ha_state: high-availability state of the processor
  *  @{ */
-/** Returns the address of the member ha_state in the object: high-availability state of the processor. NULL after an
- * error or for a NULL object. */
+/** Returns the address of ha_state in the object: high-availability state of the processor. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_ha_state_e *lumo_tarn_lumo_info_ha_state_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_state: high-availability state of the processor. 0 after an error or for a NULL
- * object. */
+/** Returns the value of ha_state: high-availability state of the processor. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_state_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in ha_state: high-availability state of the processor. A number that is not an
- * enumerator is refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * enumerator is refused with EIDRM; the member's state byte and the modified mark are set all the same. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_ha_state_e *source, uint32_t *err);
 /** Stores an enumerator of lumo_tarn_ha_state_e in ha_state: high-availability state of the processor. Another number
- * is refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * is refused with EIDRM; the member's state byte and the modified mark are set all the same. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_state. EINVAL if the handle's tracking is off or the object has no state. */
@@ -800,20 +842,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_state_flag_set(mirk_handle *h
 
 /** @name ha_running: flag word, set if high availability is running
  *  @{ */
-/** Returns the address of the member ha_running in the object: flag word, set if high availability is running. NULL
- * after an error or for a NULL object. */
+/** Returns the address of ha_running in the object: flag word, set if high availability is running. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_ha_running_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_running: flag word, set if high availability is running. 0 after an error or for
- * a NULL object. */
+/** Returns the value of ha_running: flag word, set if high availability is running. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_running_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in ha_running: flag word, set if high availability is running. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in ha_running: flag word, set if high availability is running. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_running. EINVAL if the handle's tracking is off or the object has no state. */
@@ -827,20 +871,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_state_flag_set(mirk_handle 
 
 /** @name ha_enabled: flag word, set if high availability is enabled
  *  @{ */
-/** Returns the address of the member ha_enabled in the object: flag word, set if high availability is enabled. NULL
- * after an error or for a NULL object. */
+/** Returns the address of ha_enabled in the object: flag word, set if high availability is enabled. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_ha_enabled_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ha_enabled: flag word, set if high availability is enabled. 0 after an error or for
- * a NULL object. */
+/** Returns the value of ha_enabled: flag word, set if high availability is enabled. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_ha_enabled_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in ha_enabled: flag word, set if high availability is enabled. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in ha_enabled: flag word, set if high availability is enabled. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of ha_enabled. EINVAL if the handle's tracking is off or the object has no state. */
@@ -854,20 +900,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_state_flag_set(mirk_handle 
 
 /** @name drv_conn_h: handle of the connection to the driver
  *  @{ */
-/** Returns the address of the member drv_conn_h in the object: handle of the connection to the driver. NULL after an
- * error or for a NULL object. */
+/** Returns the address of drv_conn_h in the object: handle of the connection to the driver. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_drv_conn_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member drv_conn_h: handle of the connection to the driver. 0 after an error or for a NULL
- * object. */
+/** Returns the value of drv_conn_h: handle of the connection to the driver. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_drv_conn_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in drv_conn_h: handle of the connection to the driver. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in drv_conn_h: handle of the connection to the driver. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of drv_conn_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -881,19 +929,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_state_flag_set(mirk_handle 
 
 /** @name exmem_h: handle of the external memory
  *  @{ */
-/** Returns the address of the member exmem_h in the object: handle of the external memory. NULL after an error or for a
- * NULL object. */
+/** Returns the address of exmem_h in the object: handle of the external memory. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_exmem_h_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t *err);
-/** Returns the value of the member exmem_h: handle of the external memory. 0 after an error or for a NULL object. */
+/** Returns the value of exmem_h: handle of the external memory. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_exmem_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in exmem_h: handle of the external memory. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in exmem_h: handle of the external memory. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of exmem_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -907,20 +958,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_state_flag_set(mirk_handle *h,
 
 /** @name wexa_num_feat: number of features in a wexa entry
  *  @{ */
-/** Returns the address of the member wexa_num_feat in the object: number of features in a wexa entry. NULL after an
- * error or for a NULL object. */
+/** Returns the address of wexa_num_feat in the object: number of features in a wexa entry. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_wexa_num_feat_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member wexa_num_feat: number of features in a wexa entry. 0 after an error or for a NULL
- * object. */
+/** Returns the value of wexa_num_feat: number of features in a wexa entry. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_wexa_num_feat_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in wexa_num_feat: number of features in a wexa entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in wexa_num_feat: number of features in a wexa entry. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of wexa_num_feat. EINVAL if the handle's tracking is off or the object has no state. */
@@ -934,20 +987,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_state_flag_set(mirk_hand
 
 /** @name wexa_feat_size: size of a feature in a wexa entry
  *  @{ */
-/** Returns the address of the member wexa_feat_size in the object: size of a feature in a wexa entry. NULL after an
- * error or for a NULL object. */
+/** Returns the address of wexa_feat_size in the object: size of a feature in a wexa entry. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_wexa_feat_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member wexa_feat_size: size of a feature in a wexa entry. 0 after an error or for a NULL
- * object. */
+/** Returns the value of wexa_feat_size: size of a feature in a wexa entry. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_wexa_feat_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in wexa_feat_size: size of a feature in a wexa entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
 /** Stores a value in wexa_feat_size: size of a feature in a wexa entry. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of wexa_feat_size. EINVAL if the handle's tracking is off or the object has no state. */
@@ -961,19 +1016,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_state_flag_set(mirk_han
 
 /** @name in_wexa_h: handle of the ingress wexa
  *  @{ */
-/** Returns the address of the member in_wexa_h in the object: handle of the ingress wexa. NULL after an error or for a
- * NULL object. */
+/** Returns the address of in_wexa_h in the object: handle of the ingress wexa. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_in_wexa_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member in_wexa_h: handle of the ingress wexa. 0 after an error or for a NULL object. */
+/** Returns the value of in_wexa_h: handle of the ingress wexa. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_in_wexa_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in in_wexa_h: handle of the ingress wexa. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in in_wexa_h: handle of the ingress wexa. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of in_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -987,20 +1045,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_state_flag_set(mirk_handle *
 
 /** @name in_wexa_feat_h: handle of the ingress wexa feature
  *  @{ */
-/** Returns the address of the member in_wexa_feat_h in the object: handle of the ingress wexa feature. NULL after an
- * error or for a NULL object. */
+/** Returns the address of in_wexa_feat_h in the object: handle of the ingress wexa feature. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_in_wexa_feat_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member in_wexa_feat_h: handle of the ingress wexa feature. 0 after an error or for a NULL
- * object. */
+/** Returns the value of in_wexa_feat_h: handle of the ingress wexa feature. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_in_wexa_feat_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in in_wexa_feat_h: handle of the ingress wexa feature. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in in_wexa_feat_h: handle of the ingress wexa feature. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of in_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1014,19 +1074,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_set(mirk_han
 
 /** @name out_wexa_h: handle of the egress wexa
  *  @{ */
-/** Returns the address of the member out_wexa_h in the object: handle of the egress wexa. NULL after an error or for a
- * NULL object. */
+/** Returns the address of out_wexa_h in the object: handle of the egress wexa. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_out_wexa_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member out_wexa_h: handle of the egress wexa. 0 after an error or for a NULL object. */
+/** Returns the value of out_wexa_h: handle of the egress wexa. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_out_wexa_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in out_wexa_h: handle of the egress wexa. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in out_wexa_h: handle of the egress wexa. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. */
+ * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of out_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1040,20 +1103,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_state_flag_set(mirk_handle 
 
 /** @name out_wexa_feat_h: handle of the egress wexa feature
  *  @{ */
-/** Returns the address of the member out_wexa_feat_h in the object: handle of the egress wexa feature. NULL after an
- * error or for a NULL object. */
+/** Returns the address of out_wexa_feat_h in the object: handle of the egress wexa feature. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_out_wexa_feat_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member out_wexa_feat_h: handle of the egress wexa feature. 0 after an error or for a NULL
- * object. */
+/** Returns the value of out_wexa_feat_h: handle of the egress wexa feature. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_out_wexa_feat_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in out_wexa_feat_h: handle of the egress wexa feature. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in out_wexa_feat_h: handle of the egress wexa feature. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. */
+ * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of out_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1067,20 +1132,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_set(mirk_ha
 
 /** @name dp_hash_salt: salt of the data plane's hash
  *  @{ */
-/** Returns the address of the member dp_hash_salt in the object: salt of the data plane's hash. NULL after an error or
- * for a NULL object. */
+/** Returns the address of dp_hash_salt in the object: salt of the data plane's hash. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_hash_salt_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_hash_salt: salt of the data plane's hash. 0 after an error or for a NULL
- * object. */
+/** Returns the value of dp_hash_salt: salt of the data plane's hash. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_hash_salt_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_hash_salt: salt of the data plane's hash. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_hash_salt: salt of the data plane's hash. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_hash_salt. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1094,20 +1161,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_state_flag_set(mirk_handl
 
 /** @name flow_info_initialized: flag word, set if flow information is initialized on the client side
  *  @{ */
-/** Returns the address of the member flow_info_initialized in the object: flag word, set if flow information is
- * initialized on the client side. NULL after an error or for a NULL object. */
+/** Returns the address of flow_info_initialized in the object: flag word, set if flow information is initialized on the
+ * client side. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_flow_info_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member flow_info_initialized: flag word, set if flow information is initialized on the
- * client side. 0 after an error or for a NULL object. */
+/** Returns the value of flow_info_initialized: flag word, set if flow information is initialized on the client side. 0
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_flow_info_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in flow_info_initialized: flag word, set if flow information is initialized on the
- * client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in flow_info_initialized: flag word, set if flow information is initialized on the client side.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1122,20 +1191,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_state_flag_set(m
 
 /** @name dp_flow_info_initialized: flag word, set if flow information is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_flow_info_initialized in the object: flag word, set if flow information is
- * initialized in the data plane. NULL after an error or for a NULL object. */
+/** Returns the address of dp_flow_info_initialized in the object: flag word, set if flow information is initialized in
+ * the data plane. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_flow_info_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_flow_info_initialized: flag word, set if flow information is initialized in the
- * data plane. 0 after an error or for a NULL object. */
+/** Returns the value of dp_flow_info_initialized: flag word, set if flow information is initialized in the data plane.
+ * 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_flow_info_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_flow_info_initialized: flag word, set if flow information is initialized in the
- * data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_flow_info_initialized: flag word, set if flow information is initialized in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1150,20 +1221,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_se
 
 /** @name mp_initialized: flag word, set if mp is initialized on the client side
  *  @{ */
-/** Returns the address of the member mp_initialized in the object: flag word, set if mp is initialized on the client
- * side. NULL after an error or for a NULL object. */
+/** Returns the address of mp_initialized in the object: flag word, set if mp is initialized on the client side. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_mp_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member mp_initialized: flag word, set if mp is initialized on the client side. 0 after an
- * error or for a NULL object. */
+/** Returns the value of mp_initialized: flag word, set if mp is initialized on the client side. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_mp_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in mp_initialized: flag word, set if mp is initialized on the client side. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in mp_initialized: flag word, set if mp is initialized on the client side. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1177,20 +1250,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_state_flag_set(mirk_han
 
 /** @name dp_mp_initialized: flag word, set if mp is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_mp_initialized in the object: flag word, set if mp is initialized in the data
- * plane. NULL after an error or for a NULL object. */
+/** Returns the address of dp_mp_initialized in the object: flag word, set if mp is initialized in the data plane. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_mp_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_mp_initialized: flag word, set if mp is initialized in the data plane. 0 after an
- * error or for a NULL object. */
+/** Returns the value of dp_mp_initialized: flag word, set if mp is initialized in the data plane. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_mp_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_mp_initialized: flag word, set if mp is initialized in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_mp_initialized: flag word, set if mp is initialized in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1204,20 +1279,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_state_flag_set(mirk_
 
 /** @name tt_initialized: flag word, set if tt is initialized on the client side
  *  @{ */
-/** Returns the address of the member tt_initialized in the object: flag word, set if tt is initialized on the client
- * side. NULL after an error or for a NULL object. */
+/** Returns the address of tt_initialized in the object: flag word, set if tt is initialized on the client side. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_tt_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_initialized: flag word, set if tt is initialized on the client side. 0 after an
- * error or for a NULL object. */
+/** Returns the value of tt_initialized: flag word, set if tt is initialized on the client side. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_tt_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_initialized: flag word, set if tt is initialized on the client side. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in tt_initialized: flag word, set if tt is initialized on the client side. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1231,20 +1308,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_state_flag_set(mirk_han
 
 /** @name dp_tt_initialized: flag word, set if tt is initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_tt_initialized in the object: flag word, set if tt is initialized in the data
- * plane. NULL after an error or for a NULL object. */
+/** Returns the address of dp_tt_initialized in the object: flag word, set if tt is initialized in the data plane. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_tt_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_tt_initialized: flag word, set if tt is initialized in the data plane. 0 after an
- * error or for a NULL object. */
+/** Returns the value of dp_tt_initialized: flag word, set if tt is initialized in the data plane. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_tt_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_tt_initialized: flag word, set if tt is initialized in the data plane.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_tt_initialized: flag word, set if tt is initialized in the data plane. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1258,20 +1337,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_state_flag_set(mirk_
 
 /** @name appl_sig_initialized: flag word, set if application signatures are initialized on the client side
  *  @{ */
-/** Returns the address of the member appl_sig_initialized in the object: flag word, set if application signatures are
- * initialized on the client side. NULL after an error or for a NULL object. */
+/** Returns the address of appl_sig_initialized in the object: flag word, set if application signatures are initialized
+ * on the client side. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_appl_sig_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_sig_initialized: flag word, set if application signatures are initialized on
- * the client side. 0 after an error or for a NULL object. */
+/** Returns the value of appl_sig_initialized: flag word, set if application signatures are initialized on the client
+ * side. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_appl_sig_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in appl_sig_initialized: flag word, set if application signatures are initialized on
- * the client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * the client side. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL
+ * for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in appl_sig_initialized: flag word, set if application signatures are initialized on the client side.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1286,20 +1367,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_state_flag_set(mi
 
 /** @name dp_appl_sig_initialized: flag word, set if application signatures are initialized in the data plane
  *  @{ */
-/** Returns the address of the member dp_appl_sig_initialized in the object: flag word, set if application signatures
- * are initialized in the data plane. NULL after an error or for a NULL object. */
+/** Returns the address of dp_appl_sig_initialized in the object: flag word, set if application signatures are
+ * initialized in the data plane. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_dp_appl_sig_initialized_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_appl_sig_initialized: flag word, set if application signatures are initialized in
- * the data plane. 0 after an error or for a NULL object. */
+/** Returns the value of dp_appl_sig_initialized: flag word, set if application signatures are initialized in the data
+ * plane. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dp_appl_sig_initialized_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_appl_sig_initialized: flag word, set if application signatures are initialized
- * in the data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * in the data plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL
+ * for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in dp_appl_sig_initialized: flag word, set if application signatures are initialized in the data
- * plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * plane. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL
+ * object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of dp_appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
@@ -1314,20 +1397,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_set
 
 /** @name tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class list
  *  @{ */
-/** Returns the address of the member tt_tc_filter_list_exmem_ptr in the object: external memory of the traffic table's
- * filter class list. NULL after an error or for a NULL object. */
+/** Returns the address of tt_tc_filter_list_exmem_ptr in the object: external memory of the traffic table's filter
+ * class list. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class
- * list. 0 after an error or for a NULL object. */
+/** Returns the value of tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class list. 0 for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class
- * list. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * list. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL
+ * pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tt_tc_filter_list_exmem_ptr: external memory of the traffic table's filter class list. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a
+ * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tt_tc_filter_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
@@ -1342,20 +1427,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag
 
 /** @name tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class list
  *  @{ */
-/** Returns the address of the member tt_tc_agg_list_exmem_ptr in the object: external memory of the traffic table's
- * aggregation class list. NULL after an error or for a NULL object. */
+/** Returns the address of tt_tc_agg_list_exmem_ptr in the object: external memory of the traffic table's aggregation
+ * class list. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class
- * list. 0 after an error or for a NULL object. */
+/** Returns the value of tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class list. 0 for
+ * a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class
- * list. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * list. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL
+ * pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tt_tc_agg_list_exmem_ptr: external memory of the traffic table's aggregation class list. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a
+ * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tt_tc_agg_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
@@ -1370,20 +1457,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_se
 
 /** @name tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list
  *  @{ */
-/** Returns the address of the member tt_tc_learn_list_exmem_ptr in the object: external memory of the traffic table's
- * learn list. NULL after an error or for a NULL object. */
+/** Returns the address of tt_tc_learn_list_exmem_ptr in the object: external memory of the traffic table's learn list.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list. 0
- * after an error or for a NULL object. */
+/** Returns the value of tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tt_tc_learn_list_exmem_ptr: external memory of the traffic table's learn list. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tt_tc_learn_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
@@ -1398,20 +1487,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_
 
 /** @name tc_list_head_chunk_h: handle of the chunk pool of class list heads
  *  @{ */
-/** Returns the address of the member tc_list_head_chunk_h in the object: handle of the chunk pool of class list heads.
- * NULL after an error or for a NULL object. */
+/** Returns the address of tc_list_head_chunk_h in the object: handle of the chunk pool of class list heads. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tc_list_head_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tc_list_head_chunk_h: handle of the chunk pool of class list heads. 0 after an error
- * or for a NULL object. */
+/** Returns the value of tc_list_head_chunk_h: handle of the chunk pool of class list heads. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tc_list_head_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tc_list_head_chunk_h: handle of the chunk pool of class list heads. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in tc_list_head_chunk_h: handle of the chunk pool of class list heads. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tc_list_head_chunk_h. EINVAL if the handle's tracking is off or the object has no
@@ -1426,20 +1517,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_set(mi
 
 /** @name tc_chunk_h: handle of the chunk pool of traffic classes
  *  @{ */
-/** Returns the address of the member tc_chunk_h in the object: handle of the chunk pool of traffic classes. NULL after
- * an error or for a NULL object. */
+/** Returns the address of tc_chunk_h in the object: handle of the chunk pool of traffic classes. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_tc_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member tc_chunk_h: handle of the chunk pool of traffic classes. 0 after an error or for a
- * NULL object. */
+/** Returns the value of tc_chunk_h: handle of the chunk pool of traffic classes. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_tc_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in tc_chunk_h: handle of the chunk pool of traffic classes. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in tc_chunk_h: handle of the chunk pool of traffic classes. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tc_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1453,20 +1546,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_state_flag_set(mirk_handle 
 
 /** @name ll_chunk_h: handle of the chunk pool of learn lists
  *  @{ */
-/** Returns the address of the member ll_chunk_h in the object: handle of the chunk pool of learn lists. NULL after an
- * error or for a NULL object. */
+/** Returns the address of ll_chunk_h in the object: handle of the chunk pool of learn lists. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_ll_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member ll_chunk_h: handle of the chunk pool of learn lists. 0 after an error or for a NULL
- * object. */
+/** Returns the value of ll_chunk_h: handle of the chunk pool of learn lists. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_ll_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in ll_chunk_h: handle of the chunk pool of learn lists. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in ll_chunk_h: handle of the chunk pool of learn lists. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. */
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of ll_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1480,20 +1575,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_state_flag_set(mirk_handle 
 
 /** @name appl_chunk_h: handle of the chunk pool of applications
  *  @{ */
-/** Returns the address of the member appl_chunk_h in the object: handle of the chunk pool of applications. NULL after
- * an error or for a NULL object. */
+/** Returns the address of appl_chunk_h in the object: handle of the chunk pool of applications. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_appl_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_chunk_h: handle of the chunk pool of applications. 0 after an error or for a
- * NULL object. */
+/** Returns the value of appl_chunk_h: handle of the chunk pool of applications. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_appl_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in appl_chunk_h: handle of the chunk pool of applications. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in appl_chunk_h: handle of the chunk pool of applications. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1507,20 +1604,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_state_flag_set(mirk_handl
 
 /** @name cl_appl_sig_hash_ptr: application signature hash of the client side
  *  @{ */
-/** Returns the address of the member cl_appl_sig_hash_ptr in the object: application signature hash of the client side.
- * NULL after an error or for a NULL object. */
+/** Returns the address of cl_appl_sig_hash_ptr in the object: application signature hash of the client side. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member cl_appl_sig_hash_ptr: application signature hash of the client side. 0 after an
- * error or for a NULL object. */
+/** Returns the value of cl_appl_sig_hash_ptr: application signature hash of the client side. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in cl_appl_sig_hash_ptr: application signature hash of the client side. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in cl_appl_sig_hash_ptr: application signature hash of the client side. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of cl_appl_sig_hash_ptr. EINVAL if the handle's tracking is off or the object has no
@@ -1535,20 +1634,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_set(mi
 
 /** @name dp_appl_sig_hash_h: handle of the data plane's application signature hash
  *  @{ */
-/** Returns the address of the member dp_appl_sig_hash_h in the object: handle of the data plane's application signature
- * hash. NULL after an error or for a NULL object. */
+/** Returns the address of dp_appl_sig_hash_h in the object: handle of the data plane's application signature hash. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_dp_appl_sig_hash_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member dp_appl_sig_hash_h: handle of the data plane's application signature hash. 0 after
- * an error or for a NULL object. */
+/** Returns the value of dp_appl_sig_hash_h: handle of the data plane's application signature hash. 0 for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_dp_appl_sig_hash_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in dp_appl_sig_hash_h: handle of the data plane's application signature hash.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in dp_appl_sig_hash_h: handle of the data plane's application signature hash. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of dp_appl_sig_hash_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1562,20 +1663,22 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_set(mirk
 
 /** @name appl_sig_chunk_h: handle of the chunk pool of application signatures
  *  @{ */
-/** Returns the address of the member appl_sig_chunk_h in the object: handle of the chunk pool of application
- * signatures. NULL after an error or for a NULL object. */
+/** Returns the address of appl_sig_chunk_h in the object: handle of the chunk pool of application signatures. NULL for
+ * a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_lumo_info_appl_sig_chunk_h_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of the member appl_sig_chunk_h: handle of the chunk pool of application signatures. 0 after an
- * error or for a NULL object. */
+/** Returns the value of appl_sig_chunk_h: handle of the chunk pool of application signatures. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_lumo_info_appl_sig_chunk_h_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Stores the value of the source in appl_sig_chunk_h: handle of the chunk pool of application signatures. Notifies,
- * marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint64_t *source, uint32_t *err);
 /** Stores a value in appl_sig_chunk_h: handle of the chunk pool of application signatures. Notifies, marks the object
- * as modified and, on a tracking handle, sets the state byte to 2. */
+ * as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle,
+ * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of appl_sig_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1589,12 +1692,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_set(mirk_h
 
 /** @name appl_sig_hash_exmem: block of the application signature hash
  *  @{ */
-/** Returns the address of the member appl_sig_hash_exmem in the object: block of the application signature hash. NULL
- * after an error or for a NULL object. */
+/** Returns the address of appl_sig_hash_exmem in the object: block of the application signature hash. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_appl_sig_hash_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into appl_sig_hash_exmem: block of the application signature hash. The source loses its arrays and
- * strings. What appl_sig_hash_exmem owned before is not released. */
+ * strings. What appl_sig_hash_exmem owned before is not released. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_hash_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of appl_sig_hash_exmem. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1608,12 +1712,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_set(mir
 
 /** @name mp_export_exmem: block of the mp export
  *  @{ */
-/** Returns the address of the member mp_export_exmem in the object: block of the mp export. NULL after an error or for
- * a NULL object. */
+/** Returns the address of mp_export_exmem in the object: block of the mp export. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_mp_export_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into mp_export_exmem: block of the mp export. The source loses its arrays and strings. What
- * mp_export_exmem owned before is not released. */
+ * mp_export_exmem owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_export_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of mp_export_exmem. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1627,12 +1732,13 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_export_exmem_state_flag_set(mirk_ha
 
 /** @name tt_export_exmem: block of the tt export
  *  @{ */
-/** Returns the address of the member tt_export_exmem in the object: block of the tt export. NULL after an error or for
- * a NULL object. */
+/** Returns the address of tt_export_exmem in the object: block of the tt export. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_tt_export_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** MOVES a record into tt_export_exmem: block of the tt export. The source loses its arrays and strings. What
- * tt_export_exmem owned before is not released. */
+ * tt_export_exmem owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of tt_export_exmem. EINVAL if the handle's tracking is off or the object has no state. */
@@ -1646,11 +1752,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_state_flag_set(mirk_ha
 
 /** @name num_static_exmems: elements in static_exmem
  *  @{ */
-/** Returns the address of the count num_static_exmems: elements in static_exmem. Read-only: it follows from the
- * array. */
+/** Returns the address of the count num_static_exmems: elements in static_exmem. Read-only: it follows from the array.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_static_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_static_exmems: elements in static_exmem. 0 after an error or for a NULL object. */
+/** Returns the count num_static_exmems: elements in static_exmem. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_static_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */
@@ -1658,13 +1765,15 @@ LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_static_exmems_get_value(mirk_ha
 /** @name static_exmem: static memory blocks of the processor
  *  @{ */
 /** Returns the address of an element of static_exmem: static memory blocks of the processor. The array owns the
- * element, and its next growth invalidates the address. ENOENT if the index is out of range. */
+ * element, and its next growth invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no
+ * body. */
 LUMO_UI_TARN_API lumo_tarn_static_exmem_info *lumo_tarn_lumo_info_static_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of static_exmem: static memory blocks of the processor. An index out of range grows
  * the array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array
- * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the
- * object as modified. */
+ * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL
+ * object and, on a tracking handle, for an object or a value without state bytes; EIDRM for an object without a body.
+ * Does not mark the object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_static_exmem_info *value, uint32_t *err);
 /** Sticky form of lumo_tarn_lumo_info_static_exmem_set(): copies the value with copy_mode 0 and moves it otherwise.
@@ -1700,10 +1809,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_set_arr(mirk_h
 
 /** @name num_dyn_exmems: elements in dyn_exmem
  *  @{ */
-/** Returns the address of the count num_dyn_exmems: elements in dyn_exmem. Read-only: it follows from the array. */
+/** Returns the address of the count num_dyn_exmems: elements in dyn_exmem. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_dyn_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_dyn_exmems: elements in dyn_exmem. 0 after an error or for a NULL object. */
+/** Returns the count num_dyn_exmems: elements in dyn_exmem. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_dyn_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */
@@ -1711,13 +1822,14 @@ LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_dyn_exmems_get_value(mirk_handl
 /** @name dyn_exmem: dynamic memory blocks of the processor
  *  @{ */
 /** Returns the address of an element of dyn_exmem: dynamic memory blocks of the processor. The array owns the element,
- * and its next growth invalidates the address. ENOENT if the index is out of range. */
+ * and its next growth invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_dyn_exmem_info *lumo_tarn_lumo_info_dyn_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of dyn_exmem: dynamic memory blocks of the processor. An index out of range grows
  * the array to index + 1 elements and moves all of them, so set the highest index first. A NULL value grows the array
- * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the
- * object as modified. */
+ * and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL
+ * object and, on a tracking handle, for an object or a value without state bytes; EIDRM for an object without a body.
+ * Does not mark the object as modified. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_dyn_exmem_info *value, uint32_t *err);
 /** Sticky form of lumo_tarn_lumo_info_dyn_exmem_set(): copies the value with copy_mode 0 and moves it otherwise.

@@ -213,19 +213,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_type_type_backpropagate(mirk_h
 
 /** @name id: identifier of the prefix
  *  @{ */
-/** Returns the address of the member id in the object: identifier of the prefix. NULL after an error or for a NULL
- * object. */
+/** Returns the address of id in the object: identifier of the prefix. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_pal_mp_prefix_id_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member id: identifier of the prefix. 0 after an error or for a NULL object. */
+/** Returns the value of id: identifier of the prefix. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_pal_mp_prefix_id_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in id: identifier of the prefix. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_id_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_pal_mp_prefix *object,
     const uint64_t *source, uint32_t *err);
 /** Stores a value in id: identifier of the prefix. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_id_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of id. EINVAL if the handle's tracking is off or the object has no state. */
@@ -239,21 +242,23 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_id_state_flag_set(mirk_handle *h, 
 
 /** @name flags: flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix
  *  @{ */
-/** Returns the address of the member flags in the object: flags of the prefix, eight bits: half the width of flags in
- * lumo_tarn_dp_mp_prefix. NULL after an error or for a NULL object. */
+/** Returns the address of flags in the object: flags of the prefix, eight bits: half the width of flags in
+ * lumo_tarn_dp_mp_prefix. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_pal_mp_prefix_flags_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member flags: flags of the prefix, eight bits: half the width of flags in
- * lumo_tarn_dp_mp_prefix. 0 after an error or for a NULL object. */
+/** Returns the value of flags: flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix. 0
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_pal_mp_prefix_flags_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in flags: flags of the prefix, eight bits: half the width of flags in
- * lumo_tarn_dp_mp_prefix. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to
- * 2. */
+ * lumo_tarn_dp_mp_prefix. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2.
+ * EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a
+ * body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_flags_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, const uint8_t *source, uint32_t *err);
 /** Stores a value in flags: flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix.
- * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. */
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of flags. EINVAL if the handle's tracking is off or the object has no state. */
@@ -267,11 +272,13 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_flags_state_flag_set(mirk_handle *
 
 /** @name prefix: prefix
  *  @{ */
-/** Returns the address of the member prefix in the object: prefix. NULL after an error or for a NULL object. */
+/** Returns the address of prefix in the object: prefix. NULL for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_pal_mp_prefix_prefix_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in prefix: prefix. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. */
+ * sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes;
+ * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_prefix_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, ip_address *source, uint32_t *err);
 /** Returns the state byte of prefix. EINVAL if the handle's tracking is off or the object has no state. */
@@ -285,20 +292,22 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_prefix_state_flag_set(mirk_handle 
 
 /** @name tc_list_size: size of the prefix's class list
  *  @{ */
-/** Returns the address of the member tc_list_size in the object: size of the prefix's class list. NULL after an error
- * or for a NULL object. */
+/** Returns the address of tc_list_size in the object: size of the prefix's class list. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_pal_mp_prefix_tc_list_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
-/** Returns the value of the member tc_list_size: size of the prefix's class list. 0 after an error or for a NULL
- * object. */
+/** Returns the value of tc_list_size: size of the prefix's class list. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_tc_list_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
 /** Stores the value of the source in tc_list_size: size of the prefix's class list. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_tc_list_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in tc_list_size: size of the prefix's class list. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_tc_list_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of tc_list_size. EINVAL if the handle's tracking is off or the object has no state. */

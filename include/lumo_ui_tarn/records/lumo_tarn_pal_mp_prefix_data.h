@@ -222,20 +222,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_data_type_type_backpropagate(m
 
 /** @name show_header: selection flag of the show request
  *  @{ */
-/** Returns the address of the member show_header in the object: selection flag of the show request. NULL after an error
- * or for a NULL object. */
+/** Returns the address of show_header in the object: selection flag of the show request. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API mirk_boolean *lumo_tarn_pal_mp_prefix_data_show_header_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
-/** Returns the value of the member show_header: selection flag of the show request. 0 after an error or for a NULL
- * object. */
+/** Returns the value of show_header: selection flag of the show request. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_pal_mp_prefix_data_show_header_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
 /** Stores the value of the source in show_header: selection flag of the show request. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. */
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_show_header_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, const mirk_boolean *source, uint32_t *err);
 /** Stores a value in show_header: selection flag of the show request. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
@@ -249,19 +251,22 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_show_header_state_flag_set(mi
 
 /** @name total_prefixes: total number of prefixes
  *  @{ */
-/** Returns the address of the member total_prefixes in the object: total number of prefixes. NULL after an error or for
- * a NULL object. */
+/** Returns the address of total_prefixes in the object: total number of prefixes. NULL for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_pal_mp_prefix_data_total_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
-/** Returns the value of the member total_prefixes: total number of prefixes. 0 after an error or for a NULL object. */
+/** Returns the value of total_prefixes: total number of prefixes. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_data_total_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
 /** Stores the value of the source in total_prefixes: total number of prefixes. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
+ * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_total_prefixes_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in total_prefixes: total number of prefixes. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. */
+ * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_total_prefixes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of total_prefixes. EINVAL if the handle's tracking is off or the object has no state. */
@@ -275,10 +280,12 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_total_prefixes_state_flag_set
 
 /** @name num_prefixes: elements in prefix_data
  *  @{ */
-/** Returns the address of the count num_prefixes: elements in prefix_data. Read-only: it follows from the array. */
+/** Returns the address of the count num_prefixes: elements in prefix_data. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_pal_mp_prefix_data_num_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
-/** Returns the count num_prefixes: elements in prefix_data. 0 after an error or for a NULL object. */
+/** Returns the count num_prefixes: elements in prefix_data. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t *err);
 /** @} */
@@ -286,12 +293,14 @@ LUMO_UI_TARN_API uint8_t lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value(mir
 /** @name prefix_data: prefixes
  *  @{ */
 /** Returns the address of an element of prefix_data: prefixes. The array owns the element, and its next growth
- * invalidates the address. ENOENT if the index is out of range. */
+ * invalidates the address. ENOENT if the index is out of range, EIDRM if the object has no body. */
 LUMO_UI_TARN_API lumo_tarn_pal_mp_prefix *lumo_tarn_pal_mp_prefix_data_prefix_data_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t index, uint32_t *err);
 /** MOVES the value into an element of prefix_data: prefixes. An index out of range grows the array to index + 1
  * elements and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a
- * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. Does not mark the object as modified. */
+ * tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a tracking
+ * handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark the object as
+ * modified. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_data_prefix_data_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_data *object, uint32_t index, lumo_tarn_pal_mp_prefix *value, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_data_prefix_data_set(): copies the value with copy_mode 0 and moves it

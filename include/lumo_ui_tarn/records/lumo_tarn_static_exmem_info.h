@@ -218,19 +218,22 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_static_exmem_info_type_type_backpropagate(mi
 
 /** @name mem_type: which kind of memory this is
  *  @{ */
-/** Returns the address of the member mem_type in the object: which kind of memory this is. NULL after an error or for a
- * NULL object. */
+/** Returns the address of mem_type in the object: which kind of memory this is. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_mem_desc_e *lumo_tarn_static_exmem_info_mem_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t *err);
-/** Returns the value of the member mem_type: which kind of memory this is. 0 after an error or for a NULL object. */
+/** Returns the value of mem_type: which kind of memory this is. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_static_exmem_info_mem_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in mem_type: which kind of memory this is. A number that is not an enumerator is
- * refused with EIDRM; its state byte and the modified mark are set all the same. */
+ * refused with EIDRM; the member's state byte and the modified mark are set all the same. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_mem_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, lumo_tarn_mem_desc_e *source, uint32_t *err);
 /** Stores an enumerator of lumo_tarn_mem_desc_e in mem_type: which kind of memory this is. Another number is refused
- * with EIDRM; its state byte and the modified mark are set all the same. */
+ * with EIDRM; the member's state byte and the modified mark are set all the same. ENOENT for a NULL object; on a
+ * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_mem_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of mem_type. EINVAL if the handle's tracking is off or the object has no state. */
@@ -244,20 +247,22 @@ LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_mem_type_state_flag_set(mirk_h
 
 /** @name num_hash_elements: number of hash elements in the block
  *  @{ */
-/** Returns the address of the member num_hash_elements in the object: number of hash elements in the block. NULL after
- * an error or for a NULL object. */
+/** Returns the address of num_hash_elements in the object: number of hash elements in the block. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_static_exmem_info_num_hash_elements_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t *err);
-/** Returns the value of the member num_hash_elements: number of hash elements in the block. 0 after an error or for a
- * NULL object. */
+/** Returns the value of num_hash_elements: number of hash elements in the block. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_static_exmem_info_num_hash_elements_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t *err);
 /** Stores the value of the source in num_hash_elements: number of hash elements in the block. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. */
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_num_hash_elements_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, const uint32_t *source, uint32_t *err);
 /** Stores a value in num_hash_elements: number of hash elements in the block. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. */
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_num_hash_elements_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of num_hash_elements. EINVAL if the handle's tracking is off or the object has no state. */
@@ -271,12 +276,13 @@ LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_num_hash_elements_state_flag_s
 
 /** @name exmem: the block itself
  *  @{ */
-/** Returns the address of the member exmem in the object: the block itself. NULL after an error or for a NULL
- * object. */
+/** Returns the address of exmem in the object: the block itself. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_static_exmem_info_exmem_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, uint32_t *err);
 /** MOVES a record into exmem: the block itself. The source loses its arrays and strings. What exmem owned before is not
- * released. */
+ * released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
+ * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_static_exmem_info_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_static_exmem_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
 /** Returns the state byte of exmem. EINVAL if the handle's tracking is off or the object has no state. */
