@@ -11,8 +11,8 @@
  * - `_marshal`: writes the wire form and returns its bytes.
  * - `_unmarshal`: reads the wire form and returns its bytes. Does not call write_notify. `reuse` is ignored.
  * - `_print`: writes a line "name@kind:VALUE", indented by `indent` blanks. Returns its characters without the NUL.
- * - `_to_xml`: writes an element with the value; a nonzero `state` is an attribute. Note that `name` precedes the
- * buffer. Returns its characters without the NUL.
+ * - `_to_xml`: writes an element with the value; a nonzero `state` is an attribute. Returns its characters without
+ *   the NUL. Note that `name` precedes the buffer.
  * - `_from_xml`: reads the value from the first element at `path`. Does not call write_notify. ENOENT: no such element.
  *   EINVAL: not a value of the type. `message` is not written. Note that `err` is not the last argument.
  * - `_compare`: returns -1, 0 or 1. Null is less than any value.

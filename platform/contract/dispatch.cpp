@@ -40,10 +40,17 @@ extern "C" void destroy_recorded(mirk_handle *h, uint32_t ctx_id, void *, void *
 void record(const Delivery &to, const DispatchEntry &entry, const Frame &frame) {
     const uint32_t last_error = to.handle.last_error;
     uint32_t err = 0;
+    errno = 0;
     entry.message.unmarshal(&to.handle, to.ctx_id, to.dispatch_ctx, nullptr, frame.bytes, frame.size, destroy_recorded,
                             &err);
     to.handle.last_error = last_error;
+    // The operation ignores failed writes.
+    FILE *const stream = mirklib_msg_recorder_get_handle();
+    if (err == 0 && stream != nullptr && std::ferror(stream) != 0) {
+        err = errno != 0 ? static_cast<uint32_t>(errno) : uint32_t{EIO};
+    }
     if (err == 0) return;
+    mirk::count_recording_failure(err);
     skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): message %s was not recorded: %s", entry.message.name,
                   std::strerror(static_cast<int>(err)));
 }

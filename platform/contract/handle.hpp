@@ -215,6 +215,7 @@ void file_received(Handle &handle, const DispatchEntry &entry, void *message, ui
 
 // recorder.cpp: whether the next query of this thread reports that the recorder is off
 void skip_next_recording(bool skip);
+void count_recording_failure(uint32_t number);
 
 // own_trace.cpp: trace lines of the runtime itself
 uint16_t trace_module();

@@ -306,10 +306,17 @@ MIRK_PLATFORM_API size_t mirk_platform_list_sent(mirk_handle *h, mirk_platform_s
  * The stream stays the caller's and must remain open while the recorder is on. It may be null: each message then causes
  * a trace line instead.
  *
- * A larger message is not recorded. mirk_platform_dispatch() traces that and delivers the message as if the recorder
- * were off. A direct call of the unmarshal operation passes EMSGSIZE to the handler. If there is no memory for the
- * 4096-byte buffer, the process ends. */
+ * mirk_platform_dispatch() delivers messages that cannot be recorded as if the recorder were off; see
+ * mirk_platform_recorder_failures(). A direct call of the unmarshal operation passes EMSGSIZE to the handler of a
+ * larger message, and ignores write errors. If the 4096-byte buffer cannot be allocated, the process ends. */
 MIRK_PLATFORM_API void mirk_platform_recorder_set(uint32_t on, FILE *stream);
+/** Returns how many messages mirk_platform_dispatch() could not record since the recorder was last switched on; each is
+ * also traced. `*number`, if not null, receives the error of the last one, or 0. EMSGSIZE: the message is too large.
+ * Errors of writing are those of the system, such as ENOSPC; EIO if unknown.
+ *
+ * Every message counts that is recorded while the error indicator of the stream is set. Streams are buffered, so a
+ * write error may concern earlier messages; check fflush() or fclose() for the last ones. */
+MIRK_PLATFORM_API uint64_t mirk_platform_recorder_failures(uint32_t *number);
 
 /* ---- frames and requests ---------------------------------------------------------------------------------------- */
 

@@ -48,6 +48,7 @@ uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **o
     if (mirklib_msg_recorder_get_state() != 0) {
         calls.recorded += *static_cast<char *>(message);
         *err = calls.record_error;
+        if (FILE *stream = mirklib_msg_recorder_get_handle(); stream != nullptr) std::fputs("<message/>", stream);
     }
     if (handler != nullptr) {
         handler(h, ctx_id, dispatch_ctx, message, err);
@@ -233,6 +234,47 @@ TEST_F(Dispatch, FilesAMessageThatCouldNotBeRecorded) {
     EXPECT_EQ(dispatch(frame(start_luid, "") + frame(plain_luid, "a")), 0u);
     EXPECT_EQ(mirk_platform_received_count(h), 1u);
     EXPECT_TRUE(trace.has(3, "message plain was not recorded"));
+}
+
+TEST_F(Dispatch, CountsMessagesThatCouldNotBeRecorded) {
+    uint32_t number = 77;
+    mirk_platform_recorder_set(1, nullptr);
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 0u);
+    EXPECT_EQ(mirk_platform_recorder_failures(&number), 0u);
+    EXPECT_EQ(number, 0u);
+    calls.record_error = EMSGSIZE;
+    EXPECT_EQ(dispatch(frame(plain_luid, "b") + frame(plain_luid, "c")), 0u);
+    EXPECT_EQ(mirk_platform_recorder_failures(&number), 2u);
+    EXPECT_EQ(number, uint32_t{EMSGSIZE});
+    mirk_platform_recorder_set(0, nullptr);
+    EXPECT_EQ(mirk_platform_recorder_failures(nullptr), 2u) << "remains readable after switching off";
+    mirk_platform_recorder_set(1, nullptr);
+    EXPECT_EQ(mirk_platform_recorder_failures(&number), 0u);
+    EXPECT_EQ(number, 0u);
+}
+
+TEST_F(Dispatch, ReportsWriteErrorsOfTheRecordersStream) {
+    const std::unique_ptr<FILE, int (*)(FILE *)> full(std::fopen("/dev/full", "w"), std::fclose);
+    ASSERT_NE(full, nullptr);
+    std::setvbuf(full.get(), nullptr, _IONBF, 0);
+    mirk_platform_recorder_set(1, full.get());
+    EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(plain_luid, "b")), 0u);
+    EXPECT_EQ(calls.values, "ab") << "messages are delivered all the same";
+    uint32_t number = 0;
+    EXPECT_EQ(mirk_platform_recorder_failures(&number), 2u);
+    EXPECT_EQ(number, uint32_t{ENOSPC});
+    EXPECT_TRUE(trace.has(3, "message plain was not recorded: No space left on device"));
+}
+
+TEST_F(Dispatch, WriteErrorsOfABufferedStreamAppearWhenItIsFlushed) {
+    const std::unique_ptr<FILE, int (*)(FILE *)> full(std::fopen("/dev/full", "w"), std::fclose);
+    ASSERT_NE(full, nullptr);
+    mirk_platform_recorder_set(1, full.get());
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 0u);
+    EXPECT_EQ(mirk_platform_recorder_failures(nullptr), 0u);
+    EXPECT_NE(std::fflush(full.get()), 0);
+    EXPECT_EQ(dispatch(frame(plain_luid, "b")), 0u);
+    EXPECT_EQ(mirk_platform_recorder_failures(nullptr), 1u);
 }
 
 TEST_F(Dispatch, DeliversTheSameWhetherOrNotAMessageCouldBeRecorded) {
