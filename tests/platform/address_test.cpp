@@ -19,7 +19,7 @@ ip_address make(uint8_t af, uint8_t prefix_len, uint16_t scope, uint32_t a, uint
     return address;
 }
 
-// A free-standing address with its state area behind it.
+// An address that is not embedded, followed by its state area.
 struct Placed {
     ip_address address{};
     uint8_t states[8]{};
@@ -43,7 +43,7 @@ std::string text_of(ip_address address) {
 
 uint32_t read(const std::string &text, ip_address *address) {
     Handle h;
-    test::Document document("<a>" + text + "</a>");
+    kit::Document document("<a>" + text + "</a>");
     uint32_t err = 0;
     ip_address_from_xml(h, 7, "//a", document, address, &err, nullptr, 0);
     return err;
@@ -79,12 +79,12 @@ TEST(Address, EveryValueSurvivesARoundThroughXml) {
     }
 }
 
-TEST(Address, RefusesWhatIsNoAddress) {
+TEST(Address, RefusesTextThatIsNotAnAddress) {
     ip_address address = make(AF_INET, 8, 0, 0x0a000000);
     for (const char *bad : {"", "10.0.0.1", "10.0.0.1/", "10.0.0.1/256", "10.0.0/8", "10.0.0.1/8/8", "::1%/64",
                             "::1%65536/64", "unset/0", "Unset", "1,2,3/4", "256,0,0,0,0,0/0", "1,0,0,0,0,0,0/0",
                             "1,0,0,0,0,/0", "2001:db8:::/32", "x/1", "10.0.0.1 /8"}) {
-        EXPECT_EQ(read(bad, &address), 22u) << bad;
+        EXPECT_EQ(read(bad, &address), uint32_t{EINVAL}) << bad;
     }
     EXPECT_EQ(address.word[0], 0x0a000000u);
     EXPECT_EQ(read("  unset\n", &address), 0u);
@@ -142,7 +142,7 @@ TEST(AddressWire, IsARecordFrameOf26Bytes) {
 }
 
 TEST(AddressWire, CarriesSevenStateBytesOnATrackingHandle) {
-    Handle h(test::tracked());
+    Handle h(kit::Tracking::on);
     Placed source(h), target(h);
     for (uint8_t i = 0; i < 7; ++i) source.states[i] = static_cast<uint8_t>(10 + i);
     uint8_t buffer[40];
@@ -195,7 +195,7 @@ TEST(AddressWire, NegativeVariantHasNoBody) {
     EXPECT_EQ(target.address.word[0], 5u);
 }
 
-TEST(AddressWire, StepsOverWhatANewerSenderAdded) {
+TEST(AddressWire, SkipsMembersThatANewerSenderAdded) {
     Handle h;
     test::Trace trace;
     Placed target(h);
@@ -207,16 +207,16 @@ TEST(AddressWire, StepsOverWhatANewerSenderAdded) {
     EXPECT_TRUE(trace.has(6, "offset_jump read_len 26 offset_jump_base 2 _mirk_variant_jump 29"));
 }
 
-TEST(AddressWire, NeverLeavesTheRoomGiven) {
+TEST(AddressWire, NeverAccessesMemoryBeyondRemaining) {
     for (const bool track : {false, true}) {
-        Handle h(track ? test::tracked() : test::Options());
+        Handle h(track ? kit::Tracking::on : kit::Tracking::none);
         Placed source(h);
         mirk_platform_set_ra_data(h, &source.address, nullptr, 1);
         for (size_t room = 0; room <= 42; ++room) {
             test::Guarded<48> buffer;
             uint32_t err = 0;
             ip_address_marshal(h, 7, buffer.at(), &source.address, static_cast<int32_t>(room), &err);
-            EXPECT_TRUE(buffer.intact_behind(room)) << room;
+            EXPECT_TRUE(buffer.intact_after(room)) << room;
             EXPECT_EQ(err == 0, room >= (track ? 41u : 35u)) << room;
         }
     }
@@ -224,7 +224,7 @@ TEST(AddressWire, NeverLeavesTheRoomGiven) {
 
 TEST(AddressWire, AnyBytesAreSafe) {
     for (const bool track : {false, true}) {
-        Handle h(track ? test::tracked() : test::Options());
+        Handle h(track ? kit::Tracking::on : kit::Tracking::none);
         test::Trace trace;
         uint32_t seed = 1;
         for (int round = 0; round < 2000; ++round) {
@@ -242,14 +242,14 @@ TEST(AddressWire, AnyBytesAreSafe) {
     }
 }
 
-TEST(AddressWire, DowngradeReports43) {
+TEST(AddressWire, DowngradeReportsEidrm) {
     Handle h;
     Placed source(h);
     mirk_platform_domain_set_variant(h, _ip_address_type_info_internal.luid, -1);
     uint8_t buffer[40] = {};
     uint32_t err = 0;
     ip_address_marshal(h, 7, buffer, &source.address, 40, &err);
-    EXPECT_EQ(err, 43u);
+    EXPECT_EQ(err, uint32_t{EIDRM});
     mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
     err = 0;
     EXPECT_EQ(ip_address_marshal(h, 7, buffer, &source.address, 40, &err), 6u);
@@ -258,13 +258,13 @@ TEST(AddressWire, DowngradeReports43) {
 }
 
 TEST(Address, SetAssignsTheWholeRecord) {
-    Handle h(test::tracked());
-    test::Log log(h);
+    Handle h(kit::Tracking::on);
+    kit::Events log(h);
     Placed source(h), target(h);
     source.address.word[1] = 7;
     source.address.slop = 99;
     source.states[2] = 5;
-    log.events.clear();
+    log.all.clear();
     uint32_t err = 0;
     ip_address_set(h, 7, &target.address, &source.address, &err);
     EXPECT_EQ(err, 0u);
@@ -279,11 +279,11 @@ TEST(Address, SetAssignsTheWholeRecord) {
     EXPECT_EQ(ip_address_type_type_backpropagate(h, 7, &target.address, nullptr), 0u);
 }
 
-TEST(Address, SetKeepsThePlaceOfItsOwnStateArea) {
-    Handle h(test::tracked());
+TEST(Address, SetKeepsTheOffsetOfItsOwnStateArea) {
+    Handle h(kit::Tracking::on);
     struct {
         ip_address address;
-        uint8_t behind[8], elsewhere[7];
+        uint8_t following[8], elsewhere[7];
     } source{{}, {}, {3}};
     Placed target(h);
     source.address.obj_flag = 8;
@@ -296,25 +296,25 @@ TEST(Address, SetKeepsThePlaceOfItsOwnStateArea) {
 }
 
 TEST(Address, SetNeedsTrackedObjectsOnATrackingHandle) {
-    Handle h(test::tracked());
+    Handle h(kit::Tracking::on);
     test::Trace trace;
     Placed source(h);
     ip_address target{};
     uint32_t err = 0;
     source.address.af = 2;
     ip_address_set(h, 7, &target, &source.address, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
     EXPECT_EQ(target.af, 2);
     EXPECT_EQ(target.obj_flag & 8, 0);
     EXPECT_TRUE(trace.has(3, "(ERR): The object is not state tracked"));
     err = 0;
     ip_address_set(h, 7, &target, nullptr, &err);
-    EXPECT_EQ(err, 22u);
-    EXPECT_EQ(h->last_error, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
+    EXPECT_EQ(h->last_error, uint32_t{EINVAL});
 }
 
-TEST(Address, LivesAndDiesCounted) {
-    Handle h(test::tracked());
+TEST(Address, CountsCreationAndDestruction) {
+    Handle h(kit::Tracking::on);
     auto *address = static_cast<ip_address *>(h.alloc(47));
     std::memset(static_cast<void *>(address), 0, 47);
     mirk_variant_entry &entry = _ip_address_type_info_internal.variant_info->entries[0];
@@ -330,18 +330,18 @@ TEST(Address, LivesAndDiesCounted) {
     EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0u);
 }
 
-TEST(Address, NestedWithoutBaseIsRefused) {
-    Handle h(test::tracked());
+TEST(Address, InitializeFailsForANestedObjectWithoutABase) {
+    Handle h(kit::Tracking::on);
     test::Trace trace;
     ip_address address{};
     uint32_t err = 0;
     ip_address_initialize(h, 7, &address, &_ip_address_type_info_internal, 1, 0, 4, nullptr, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
     EXPECT_EQ(address.obj_flag, 4 | 8);
     EXPECT_TRUE(trace.has(3, "sttr_base can not be NULL in NESTED case"));
 }
 
-TEST(Address, ReferencesPutOffItsDestruction) {
+TEST(Address, ReferencesDeferItsDestruction) {
     Handle h;
     test::Trace trace;
     Placed placed(h);

@@ -2,9 +2,9 @@
 
 using test::Handle;
 
-TEST(Boolean, InitializesAnnouncedAndCounted) {
-    Handle h(test::tracked());
-    test::Log log(h);
+TEST(Boolean, InitializeNotifiesAndCounts) {
+    Handle h(kit::Tracking::on);
+    kit::Events log(h);
     mirk_boolean object{};
     uint32_t err = 0;
     mirk_variant_entry &entry = _mirk_boolean_type_info_internal.variant_info->entries[0];
@@ -28,9 +28,9 @@ TEST(Boolean, InitializesAnnouncedAndCounted) {
     EXPECT_EQ(counts[1].address, &entry.num_live);
 }
 
-TEST(Boolean, InitializesSilentlyAndUncountedWhenTold) {
+TEST(Boolean, InitializeNeitherNotifiesNorCountsOnRequest) {
     Handle h;
-    test::Log log(h);
+    kit::Events log(h);
     mirk_boolean object{};
     uint32_t err = 0;
     mirk_boolean_initialize(h, 7, &object, &_mirk_boolean_type_info_internal, 0, 1, 4, nullptr, &err);
@@ -39,10 +39,8 @@ TEST(Boolean, InitializesSilentlyAndUncountedWhenTold) {
     EXPECT_EQ(object.tinfo, &_mirk_boolean_type_info_internal);
 }
 
-TEST(Boolean, TakesAPrivateTypeOnAPrivateHandle) {
-    test::Options options;
-    options.private_types = 3;
-    Handle h(options);
+TEST(Boolean, UsesThePrivateTypeOfAHandleWithPrivateTypes) {
+    Handle h({.private_types = 3});
     mirk_boolean object{}, other{};
     uint32_t err = 0;
     const uint64_t shared = _mirk_boolean_type_info_internal.variant_info->entries[0].num_created;
@@ -68,9 +66,9 @@ TEST(Boolean, CapsAPositiveVariantAndKeepsANegativeOne) {
     EXPECT_EQ(object.home_variant, -128);
 }
 
-TEST(Boolean, SetMarksAndAnnouncesTheValueAlone) {
+TEST(Boolean, SetNotifiesTheValueOnlyAndMarksTheField) {
     Handle h;
-    test::Log log(h);
+    kit::Events log(h);
     mirk_boolean field{}, source{};
     source.value = 2;
     source.variant = -4;
@@ -90,10 +88,10 @@ TEST(Boolean, SetMarksAndAnnouncesTheValueAlone) {
     EXPECT_EQ(mirk_boolean_get_value(h, 7, mirk_boolean_get(h, 7, &field, &err), &err), 0);
     EXPECT_EQ(field.obj_flag, 16);
     mirk_boolean_set(h, 7, &field, nullptr, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
 }
 
-TEST(Boolean, GoesThroughTheWireAsVariantAndValue) {
+TEST(Boolean, IsVariantAndValueOnTheWire) {
     Handle h;
     mirk_boolean field{}, read{};
     field.variant = -2;
@@ -114,10 +112,10 @@ TEST(Boolean, GoesThroughTheWireAsVariantAndValue) {
     EXPECT_EQ(mirk_boolean_unmarshal(h, 7, buffer, &read, 2, 0, &err), 2u);
     EXPECT_EQ(read.variant, 0);
     EXPECT_EQ(mirk_boolean_unmarshal(h, 7, buffer, &read, 1, 0, &err), 0u);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
 }
 
-TEST(Boolean, RendersTrueAndFalse) {
+TEST(Boolean, WritesTrueAndFalse) {
     Handle h;
     mirk_boolean field{};
     char buffer[64];
@@ -132,7 +130,7 @@ TEST(Boolean, RendersTrueAndFalse) {
 TEST(Boolean, ReadsFourWords) {
     Handle h;
     const auto read = [&](const std::string &text, mirk_boolean *field) {
-        test::Document document("<on>" + text + "</on>");
+        kit::Document document("<on>" + text + "</on>");
         uint32_t err = 0;
         mirk_boolean_from_xml(h, 7, "//on", document, field, &err, nullptr, 0);
         return err;
@@ -147,7 +145,8 @@ TEST(Boolean, ReadsFourWords) {
     EXPECT_EQ(read("false", &field), 0u);
     EXPECT_EQ(field.value, 0);
     EXPECT_EQ(field.obj_flag, 0);
-    for (const char *bad : {"", "yes", "TRUE", "2", "true false"}) EXPECT_EQ(read(bad, &field), 22u) << bad;
+    for (const char *bad : {"", "yes", "TRUE", "2", "true false"})
+        EXPECT_EQ(read(bad, &field), uint32_t{EINVAL}) << bad;
 }
 
 TEST(Boolean, ComparesAndHashesByTruth) {
@@ -166,7 +165,7 @@ TEST(Boolean, ComparesAndHashesByTruth) {
 
 TEST(Boolean, SetsTheEmbeddedFlag) {
     Handle h;
-    test::Log log(h);
+    kit::Events log(h);
     test::Trace trace;
     mirk_boolean field{};
     mirk_boolean_set_instance_embedded(h, 7, &field);

@@ -9,15 +9,15 @@ const mirk_allowed_row table[] = {{luid_a, "message a", 0}, {luid_b, "message b"
 
 }  // namespace
 
-TEST(SendBundle, AdmitsWhatTheTableLists) {
+TEST(SendBundle, AdmitsOnlyMessagesThatTheTableLists) {
     Handle h;
     uint32_t err = 0;
     h->bundle_table = table;
     bundle_message_validate_add(h, 7, luid_c, "message c", &err);
-    EXPECT_EQ(err, 2u);
+    EXPECT_EQ(err, uint32_t{ENOENT});
     err = 0;
     bundle_message_increment_count(h, luid_a, &err);
-    EXPECT_EQ(err, 2u);
+    EXPECT_EQ(err, uint32_t{ENOENT});
     err = 0;
     const uint8_t twin[16] = {1};
     bundle_message_validate_add(h, 7, luid_a, "message a", &err);
@@ -41,14 +41,14 @@ TEST(SendBundle, AdmitsWhatTheTableLists) {
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
 }
 
-TEST(SendBundle, WithoutTableAdmitsNothing) {
+TEST(SendBundle, AdmitsNothingWithoutATable) {
     Handle h;
     uint32_t err = 0;
     bundle_message_validate_add(h, 7, luid_a, "message a", &err);
-    EXPECT_EQ(err, 2u);
+    EXPECT_EQ(err, uint32_t{ENOENT});
 }
 
-TEST(ReceiveBundle, DestroyEndsReceivingWhateverThereIs) {
+TEST(ReceiveBundle, DestroyEndsReceivingInEveryState) {
     Handle h;
     uint32_t err = 5;
     bundle_receive_message_list_destroy(h, 7, &err);

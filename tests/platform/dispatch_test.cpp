@@ -1,4 +1,4 @@
-// The dispatcher, with messages made by hand: an object is one allocated byte, the last of its frame.
+// The dispatcher, with simulated messages: an object is one allocated byte, the last byte of its frame.
 #include "support.hpp"
 
 using test::Handle;
@@ -36,7 +36,7 @@ uint32_t unmarshal_only(mirk_handle *h, uint32_t ctx_id, void **out, void *buffe
     calls.size = size;
     *out = make(h, ctx_id, buffer, size);
     *err = calls.only_error;
-    return 1000000;  // a wild claim, which the dispatcher must not follow
+    return 1000000;  // wrong on purpose: the dispatcher must ignore it
 }
 
 uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **out, void *buffer, uint32_t size,
@@ -58,7 +58,7 @@ uint32_t unmarshal(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void **o
         if (calls.linked_in_takes) {
             h->obj_free(h->mem_ctx, ctx_id, message);
         } else {
-            *err = 38;
+            *err = ENOSYS;
         }
     }
     return size;
@@ -71,7 +71,7 @@ void handle_message(mirk_handle *h, uint32_t ctx_id, void *dispatch_ctx, void *m
     calls.values += *static_cast<char *>(message);
     EXPECT_STREQ(mirklib_in_dispatch_message_info(h, nullptr)->name, "plain");
     *err = calls.handler_error;
-    if (calls.handler_error != 38) h->obj_free(h->mem_ctx, ctx_id, message);
+    if (calls.handler_error != ENOSYS) h->obj_free(h->mem_ctx, ctx_id, message);
 }
 
 uint32_t start(mirk_handle *h, uint32_t, void *, void **, void *, uint32_t size, mirk_message_handler handler,
@@ -136,7 +136,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Dispatch, HandsOverFrameByFrame) {
+TEST_F(Dispatch, DeliversEachFrame) {
     EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(plain_luid, "xxb")), 0u);
     EXPECT_EQ(calls.values, "ab");
     EXPECT_EQ(calls.size, 46u);
@@ -147,42 +147,42 @@ TEST_F(Dispatch, HandsOverFrameByFrame) {
     EXPECT_EQ(dispatch(""), 0u);
 }
 
-TEST_F(Dispatch, NamesTheOffsetOfABadFrame) {
+TEST_F(Dispatch, ReportsTheOffsetOfABadFrame) {
     const std::string good = frame(plain_luid, "a");
     std::string bad = frame(plain_luid, "b");
     bad[0] = 0;
-    EXPECT_EQ(dispatch(good + bad), 74u);
-    EXPECT_EQ(report.number, 74u);
+    EXPECT_EQ(dispatch(good + bad), uint32_t{EBADMSG});
+    EXPECT_EQ(report.number, uint32_t{EBADMSG});
     EXPECT_EQ(report.offset, 44u);
     EXPECT_STRNE(report.sentence, "");
     EXPECT_EQ(calls.values, "a");
     bad = frame(plain_luid, "b");
     bad[15] = 42;
-    EXPECT_EQ(dispatch(bad), 74u);
+    EXPECT_EQ(dispatch(bad), uint32_t{EBADMSG});
     bad[15] = 45;
-    EXPECT_EQ(dispatch(bad), 74u);
-    EXPECT_EQ(dispatch(good + good.substr(0, 42)), 74u);
+    EXPECT_EQ(dispatch(bad), uint32_t{EBADMSG});
+    EXPECT_EQ(dispatch(good + good.substr(0, 42)), uint32_t{EBADMSG});
     EXPECT_EQ(report.offset, 44u);
     EXPECT_TRUE(trace.has(3, "frame at offset 44"));
 }
 
-TEST_F(Dispatch, UnknownLuidIs2) {
+TEST_F(Dispatch, AnUnknownLuidIsEnoent) {
     const uint8_t unknown[16] = {0x77};
-    EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(unknown, "")), 2u);
+    EXPECT_EQ(dispatch(frame(plain_luid, "a") + frame(unknown, "")), uint32_t{ENOENT});
     EXPECT_EQ(report.offset, 44u);
 }
 
-TEST_F(Dispatch, DestroysWhatABadFrameLeft) {
-    calls.only_error = 90;
-    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 90u);
+TEST_F(Dispatch, DestroysTheMessageOfABadFrame) {
+    calls.only_error = EMSGSIZE;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), uint32_t{EMSGSIZE});
     EXPECT_EQ(calls.destroyed, 1);
     EXPECT_EQ(calls.handled, 0);
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
 }
 
-TEST_F(Dispatch, DestroysWhatNobodyTook) {
-    calls.handler_error = 38;
-    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 38u);
+TEST_F(Dispatch, DestroysMessagesThatNoHandlerTakes) {
+    calls.handler_error = ENOSYS;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), uint32_t{ENOSYS});
     EXPECT_EQ(calls.destroyed, 1);
     calls.handler_error = 5;
     EXPECT_EQ(dispatch(frame(plain_luid, "a")), 5u);
@@ -190,10 +190,10 @@ TEST_F(Dispatch, DestroysWhatNobodyTook) {
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
 }
 
-TEST_F(Dispatch, WithoutHandlerTheLinkedInOneRuns) {
+TEST_F(Dispatch, CallsTheLinkedInHandlerIfNoneIsRegistered) {
     plain.handler = nullptr;
     ASSERT_EQ(mirk_platform_dispatch_register(h, &plain), 0u);
-    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 38u);
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), uint32_t{ENOSYS});
     EXPECT_EQ(calls.linked_in, 1);
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
     calls.linked_in_takes = true;
@@ -201,7 +201,7 @@ TEST_F(Dispatch, WithoutHandlerTheLinkedInOneRuns) {
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
 }
 
-TEST_F(Dispatch, FilesMessagesWhileABundleIsReceived) {
+TEST_F(Dispatch, MessagesOfAnOpenBundleGoToTheReceiveList) {
     EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, commit_luid, handle_bundle), 0u);
     const std::string bundle = frame(start_luid, "") + frame(plain_luid, "a") + frame(plain_luid, "b");
     EXPECT_EQ(dispatch(bundle + frame(commit_luid, "")), 0u);
@@ -213,7 +213,7 @@ TEST_F(Dispatch, FilesMessagesWhileABundleIsReceived) {
     EXPECT_EQ(dispatch(bundle + frame(commit_luid, "")), 0u);
     EXPECT_EQ(calls.destroyed, 3);
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
-    EXPECT_EQ(dispatch(bundle), 0u) << "what is still filed is destroyed when the handle closes";
+    EXPECT_EQ(dispatch(bundle), 0u) << "messages on the receive list are destroyed when the handle is closed";
 }
 
 TEST_F(Dispatch, ReadsAGoodFrameASecondTimeWhileRecording) {
@@ -222,15 +222,15 @@ TEST_F(Dispatch, ReadsAGoodFrameASecondTimeWhileRecording) {
     EXPECT_EQ(calls.only, 1);
     EXPECT_EQ(calls.full, 1);
     EXPECT_EQ(calls.handled, 1);
-    calls.only_error = 90;
-    EXPECT_EQ(dispatch(frame(plain_luid, "a")), 90u);
+    calls.only_error = EMSGSIZE;
+    EXPECT_EQ(dispatch(frame(plain_luid, "a")), uint32_t{EMSGSIZE});
     EXPECT_EQ(calls.full, 1);
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
 }
 
-TEST_F(Dispatch, FilesAMessageThatCouldNotBeRecorded) {
+TEST_F(Dispatch, MessagesThatCouldNotBeRecordedGoToTheReceiveList) {
     mirk_platform_recorder_set(1, nullptr);
-    calls.record_error = 90;
+    calls.record_error = EMSGSIZE;
     EXPECT_EQ(dispatch(frame(start_luid, "") + frame(plain_luid, "a")), 0u);
     EXPECT_EQ(mirk_platform_received_count(h), 1u);
     EXPECT_TRUE(trace.has(3, "message plain was not recorded"));
@@ -296,7 +296,7 @@ TEST_F(Dispatch, DeliversTheSameWhetherOrNotAMessageCouldBeRecorded) {
     }
 }
 
-TEST_F(Dispatch, TheLinkedInHandlerGetsTheSameWhetherOrNotAMessageCouldBeRecorded) {
+TEST_F(Dispatch, DeliversTheSameToTheLinkedInHandlerWhetherOrNotAMessageCouldBeRecorded) {
     plain.handler = nullptr;
     ASSERT_EQ(mirk_platform_dispatch_register(h, &plain), 0u);
     const std::string frames = frame(plain_luid, "a") + frame(plain_luid, "b");
@@ -314,18 +314,18 @@ TEST_F(Dispatch, TheLinkedInHandlerGetsTheSameWhetherOrNotAMessageCouldBeRecorde
     }
 }
 
-TEST_F(Dispatch, RegistersWholeEntriesOnly) {
+TEST_F(Dispatch, RefusesIncompleteEntries) {
     mirk_platform_message broken = plain;
     broken.destroy = nullptr;
-    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), 22u);
+    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), uint32_t{EINVAL});
     broken = plain;
     broken.unmarshal = nullptr;
-    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), 22u);
+    EXPECT_EQ(mirk_platform_dispatch_register(h, &broken), uint32_t{EINVAL});
     const uint8_t unknown[16] = {0x77};
-    EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, unknown, handle_bundle), 2u);
+    EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, unknown, handle_bundle), uint32_t{ENOENT});
 }
 
-TEST_F(Dispatch, WritesTheTableAlsoOutsideOfADispatch) {
+TEST_F(Dispatch, MessageInfoClearsTheTableOutsideOfADispatch) {
     void *table = &calls;
     EXPECT_EQ(mirklib_in_dispatch_message_info(h, &table), nullptr);
     EXPECT_EQ(table, nullptr);

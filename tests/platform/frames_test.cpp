@@ -12,7 +12,7 @@ mirk_message_header make_header() {
 
 }  // namespace
 
-TEST(MessageHeader, HasItsPlaceInTheFrame) {
+TEST(MessageHeader, HasAFixedLayout) {
     Handle h;
     Guarded<32> frame;
     mirk_message_header header = make_header(), read{};
@@ -20,28 +20,28 @@ TEST(MessageHeader, HasItsPlaceInTheFrame) {
     _mirk_message_header_marshal(h, 7, frame.at(), &header, 27, &err);
     const uint8_t expected[27] = {0xbc, 255, 255, 255, 255, 255, 255, 1, 1, 2, 3, 4, 10, 11, 12, 13};
     EXPECT_EQ(std::memcmp(frame.at(), expected, 27), 0);
-    EXPECT_TRUE(frame.intact_behind(27));
+    EXPECT_TRUE(frame.intact_after(27));
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 7, frame.at(), &read, 27, &err), 27u);
     EXPECT_EQ(std::memcmp(&read, &header, sizeof header), 0);
     EXPECT_EQ(err, 0u);
 }
 
-TEST(MessageHeader, RefusesWhatIsNone) {
+TEST(MessageHeader, RefusesBytesThatAreNotAHeader) {
     Handle h;
     uint8_t frame[27] = {0xbc};
     mirk_message_header read{};
     uint32_t err = 0;
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 7, frame, &read, 26, &err), 0u);
-    EXPECT_EQ(err, 90u);
-    EXPECT_EQ(_mirk_message_header_unmarshal(h, 7, frame, &read, 27, &err), 0u) << "an error stays";
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
+    EXPECT_EQ(_mirk_message_header_unmarshal(h, 7, frame, &read, 27, &err), 0u) << "an earlier error remains";
     err = 0;
     frame[0] = 0xbd;
     EXPECT_EQ(_mirk_message_header_unmarshal(h, 7, frame, &read, 27, &err), 0u);
-    EXPECT_EQ(err, 74u);
+    EXPECT_EQ(err, uint32_t{EBADMSG});
     EXPECT_EQ(read.marker, 0);
 }
 
-TEST(MessageHeader, MarshalFailsWhenTold) {
+TEST(MessageHeader, MarshalFailsOnRequest) {
     Handle h;
     Guarded<32> frame;
     mirk_message_header header = make_header();
@@ -49,13 +49,13 @@ TEST(MessageHeader, MarshalFailsWhenTold) {
     uint32_t err = 0;
     _mirk_message_header_marshal(h, 7, frame.at(), &header, 27, &err);
     EXPECT_EQ(err, 5u);
-    EXPECT_TRUE(frame.intact_behind(0));
+    EXPECT_TRUE(frame.intact_after(0));
     err = 0;
     _mirk_message_header_marshal(h, 7, frame.at(), &header, 26, &err);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
 }
 
-TEST(FramePieces, MoveOneOneAndFourBytes) {
+TEST(FramePieces, AreOneOneAndFourBytes) {
     Handle h;
     uint8_t buffer[16];
     int8_t variant = -5, read_variant = 0;
@@ -73,7 +73,7 @@ TEST(FramePieces, MoveOneOneAndFourBytes) {
     EXPECT_EQ(read_flag, 0x28);
     EXPECT_EQ(read_jump, jump);
     EXPECT_EQ(_mirk_variant_jump_unmarshal(h, 7, buffer, &read_jump, 3, &err), 0u);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
     EXPECT_EQ(_mirk_instance_variant_unmarshal(h, 7, buffer, &read_variant, 1, &err), 0u);
 }
 
@@ -89,5 +89,5 @@ TEST(FramePieces, RaDataIsNineBytes) {
     EXPECT_EQ(read_value, value);
     EXPECT_EQ(read_byte, 7);
     EXPECT_EQ(_mirk_instance_ra_data_unmarshal(h, 7, buffer, &read_value, &read_byte, 8, &err), 0u);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
 }

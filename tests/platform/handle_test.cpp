@@ -1,7 +1,7 @@
 #include "support.hpp"
 
+using kit::Tracking;
 using test::Handle;
-using test::Options;
 
 TEST(Handle, OpensWithTheDefaults) {
     Handle h;
@@ -35,7 +35,8 @@ TEST(Handle, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
     std::memset(&options, 0x5c, sizeof options);
     mirk_platform_handle_options_init_sized(&options, offsetof(mirk_platform_handle_options, total_ceiling));
     EXPECT_EQ(options.request_ceiling, uint64_t{256} << 20);
-    EXPECT_EQ(options.total_ceiling, 0x5c5c5c5c5c5c5c5cu) << "the initializer writes behind what the program has";
+    EXPECT_EQ(options.total_ceiling, 0x5c5c5c5c5c5c5c5cu)
+        << "the initializer wrote past the members that the program has";
     options.private_types = 1;
     mirk_handle *h = mirk_platform_handle_open(&options);
     ASSERT_NE(h, nullptr);
@@ -45,7 +46,7 @@ TEST(Handle, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
     EXPECT_EQ(mirk_platform_handle_close(h), 0u);
 }
 
-TEST(Handle, OptionsThatAreNotKnownYetAreEmptyAndIgnored) {
+TEST(Handle, UnknownOptionsAreClearedAndIgnored) {
     struct {
         mirk_platform_handle_options known;
         uint64_t later[4];
@@ -61,11 +62,9 @@ TEST(Handle, OptionsThatAreNotKnownYetAreEmptyAndIgnored) {
     EXPECT_EQ(mirk_platform_handle_close(h), 0u);
 }
 
-TEST(Handle, TracksAsAsked) {
-    Options options;
-    options.tracking = MIRK_PLATFORM_TRACKING_OFF;
-    EXPECT_EQ(Handle(options)->sttr_desc->sttr_mode, 0xddddu);
-    Handle h(test::tracked());
+TEST(Handle, TracksAsRequested) {
+    EXPECT_EQ(Handle(Tracking::off)->sttr_desc->sttr_mode, 0xddddu);
+    Handle h(Tracking::on);
     EXPECT_EQ(h->sttr_desc->sttr_mode, 0xeeeeu);
     mirk_platform_handle_set_tracking(h, MIRK_PLATFORM_TRACKING_NONE);
     EXPECT_EQ(h->sttr_desc, nullptr);
@@ -73,7 +72,7 @@ TEST(Handle, TracksAsAsked) {
     EXPECT_EQ(h->sttr_desc->sttr_mode, 0u);
 }
 
-TEST(Handle, SettersReachTheMembers) {
+TEST(Handle, SettersChangeTheMembers) {
     Handle h;
     mirk_platform_handle_set_default_id(h, 9);
     mirk_platform_handle_set_message_stamp(h, 77);
@@ -89,7 +88,7 @@ TEST(Handle, SettersReachTheMembers) {
     EXPECT_EQ(mirklib_suppress_messages_enabled(h), 1u);
 }
 
-TEST(Handle, WorkspaceIsOneBufferWithSlack) {
+TEST(Handle, WorkspaceIsOneBufferWithAGuardByte) {
     Handle h;
     void *first = nullptr, *second = nullptr;
     uint32_t size = 0;
@@ -100,10 +99,10 @@ TEST(Handle, WorkspaceIsOneBufferWithSlack) {
     static_cast<char *>(first)[size] = 1;
 }
 
-TEST(Errors, StickInTheHandle) {
+TEST(Errors, StayInTheHandleUntilCleared) {
     Handle h;
-    mirk_store_err(h, 12);
-    EXPECT_EQ(h->last_error, 12u);
+    mirk_store_err(h, ENOMEM);
+    EXPECT_EQ(h->last_error, uint32_t{ENOMEM});
     mirk_clear_last_error(h);
     EXPECT_EQ(h->last_error, 0u);
 }
@@ -111,37 +110,35 @@ TEST(Errors, StickInTheHandle) {
 TEST(Errors, StrictPolicyWritesHandleAndSlot) {
     Handle h;
     uint32_t err = 0;
-    mirk_store_epoch_err(h, 43, &err);
-    EXPECT_EQ(err, 43u);
-    EXPECT_EQ(h->last_error, 43u);
-    mirk_store_epoch_err(h, 52, &err);
-    EXPECT_EQ(err, 52u);
+    mirk_store_epoch_err(h, EIDRM, &err);
+    EXPECT_EQ(err, uint32_t{EIDRM});
+    EXPECT_EQ(h->last_error, uint32_t{EIDRM});
+    mirk_store_epoch_err(h, EBADE, &err);
+    EXPECT_EQ(err, uint32_t{EBADE});
 }
 
-TEST(Errors, LenientPolicySparesTheSlotFor43Only) {
-    Options options;
-    options.epoch_policy = MIRK_PLATFORM_LENIENT_EIDRM;
-    Handle h(options);
+TEST(Errors, LenientPolicyKeepsTheSlotClearForEidrmOnly) {
+    Handle h({.lenient = true});
     uint32_t err = 0;
-    mirk_store_epoch_err(h, 43, &err);
+    mirk_store_epoch_err(h, EIDRM, &err);
     EXPECT_EQ(err, 0u);
-    EXPECT_EQ(h->last_error, 43u);
-    mirk_store_epoch_err(h, 52, &err);
-    EXPECT_EQ(err, 52u);
-    EXPECT_EQ(h->last_error, 52u);
+    EXPECT_EQ(h->last_error, uint32_t{EIDRM});
+    mirk_store_epoch_err(h, EBADE, &err);
+    EXPECT_EQ(err, uint32_t{EBADE});
+    EXPECT_EQ(h->last_error, uint32_t{EBADE});
 }
 
-TEST(Errors, LenientPolicySparesTheHandleWhenItIsTheSlot) {
+TEST(Errors, LenientPolicyKeepsLastErrorClearWhenItIsTheSlot) {
     Handle h;
     mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_LENIENT_EIDRM);
-    mirk_store_epoch_err(h, 43, &h->last_error);
+    mirk_store_epoch_err(h, EIDRM, &h->last_error);
     EXPECT_EQ(h->last_error, 0u);
     mirk_platform_handle_set_epoch_policy(h, MIRK_PLATFORM_STRICT);
-    mirk_store_epoch_err(h, 43, &h->last_error);
-    EXPECT_EQ(h->last_error, 43u);
+    mirk_store_epoch_err(h, EIDRM, &h->last_error);
+    EXPECT_EQ(h->last_error, uint32_t{EIDRM});
 }
 
-TEST(Domain, KnowsTypesByLuid) {
+TEST(Domain, IdentifiesTypesByLuid) {
     Handle h;
     mirk_type_info type = test::make_type(1), copy = type, other = test::make_type(50);
     uint32_t err = 0;
@@ -167,7 +164,7 @@ TEST(Domain, ForbidsMessagesByLuid) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST(Domain, AnswersWhateverTheSlotHolds) {
+TEST(Domain, ReturnsItsResultEvenIfAnErrorIsSet) {
     Handle h;
     mirk_type_info type = test::make_type(1);
     mirk_platform_domain_set_variant(h, type.luid, 4);
@@ -177,7 +174,7 @@ TEST(Domain, AnswersWhateverTheSlotHolds) {
     EXPECT_EQ(err, 5u);
 }
 
-TEST(Domain, LookUpsFailWhenTold) {
+TEST(Domain, LookUpsFailOnRequest) {
     Handle h;
     mirk_type_info type = test::make_type(1);
     uint32_t err = 0;

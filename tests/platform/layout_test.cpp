@@ -1,4 +1,4 @@
-// Layouts are fixed by the contract: a library compiled against it must meet them in any runtime.
+// The contract fixes these layouts, so that a compiled library works with every runtime.
 #include <cstddef>
 
 #include "support.hpp"
@@ -37,7 +37,7 @@ static_assert(offsetof(mirk_handle, message_stamp) == 176 && offsetof(mirk_handl
 static_assert(offsetof(mirk_handle, last_error) == 216 && offsetof(mirk_handle, cr_mode) == 224);
 static_assert(offsetof(mirk_handle, sttr_desc) == 232 && offsetof(mirk_handle, oid_mapping) == 240);
 
-TEST(Layout, RuntimeTypesDescribeTheirOwnSizes) {
+TEST(Layout, RuntimeTypesHaveTheirSizes) {
     const mirk_variant_entry &boolean = _mirk_boolean_type_info_internal.variant_info->entries[0];
     EXPECT_EQ(boolean.used_length + boolean.alloc_slop, sizeof(mirk_boolean));
     const mirk_variant_entry &address = _ip_address_type_info_internal.variant_info->entries[0];
@@ -45,7 +45,7 @@ TEST(Layout, RuntimeTypesDescribeTheirOwnSizes) {
     EXPECT_EQ(address.used_length + address.alloc_slop, sizeof(ip_address));
 }
 
-TEST(Layout, RuntimeTypesNameThemselves) {
+TEST(Layout, RuntimeTypesHaveTheirNames) {
     for (const mirk_type_info *type : {&_mirk_boolean_type_info_internal, &_ip_address_type_info_internal}) {
         EXPECT_EQ(type->magic, 0xbeeff00du);
         EXPECT_EQ(type->reserved_index, -1);

@@ -1,9 +1,9 @@
 #include "support.hpp"
 
+using kit::Tracking;
 using test::Handle;
-using test::Options;
 
-TEST(Memory, ZeroBytesGiveDistinctBlocks) {
+TEST(Memory, RequestsOfZeroBytesReturnDistinctBlocks) {
     Handle h;
     void *a = h.alloc(0), *b = h.alloc(0);
     EXPECT_NE(a, nullptr);
@@ -14,7 +14,7 @@ TEST(Memory, ZeroBytesGiveDistinctBlocks) {
     h.free(b);
 }
 
-TEST(Memory, CountsAndListsLiveBlocksByAge) {
+TEST(Memory, ListsLiveBlocksInTheOrderOfAllocation) {
     Handle h;
     void *a = h.alloc(10, 3), *b = h.alloc(20, 4), *c = h.alloc(30, 5);
     h.free(b);
@@ -31,17 +31,14 @@ TEST(Memory, CountsAndListsLiveBlocksByAge) {
     h.free(c);
 }
 
-TEST(Memory, ReportsLeftoversAtClose) {
+TEST(Memory, CloseReturnsTheNumberOfLiveBlocks) {
     Handle h;
     EXPECT_NE(h.alloc(8), nullptr);
-    h.expected_leftovers = 1;
+    h.expect_lost_blocks(1);
 }
 
-TEST(Memory, CeilingsAnswerNull) {
-    Options options;
-    options.request_ceiling = 100;
-    options.total_ceiling = 150;
-    Handle h(options);
+TEST(Memory, RequestsBeyondACeilingReturnNull) {
+    Handle h({.request_ceiling = 100, .total_ceiling = 150});
     EXPECT_EQ(h.alloc(101), nullptr);
     void *a = h.alloc(100);
     EXPECT_NE(a, nullptr);
@@ -58,28 +55,24 @@ TEST(Memory, CeilingsAnswerNull) {
 }
 
 TEST(Memory, TotalCeilingCountsTheStateOffsetsOfTheRequestedBlock) {
-    Options options = test::tracked();
-    options.total_ceiling = uint64_t{260} << 20;
-    Handle h(options);
+    constexpr uint64_t ceiling = uint64_t{260} << 20;
+    Handle h({.tracking = Tracking::on, .total_ceiling = ceiling, .fresh_fill = 0});
     EXPECT_EQ(h.alloc(size_t{256} << 20), nullptr);
     EXPECT_EQ(mirk_platform_live_bytes(h), 0u);
     void *a = h.alloc(size_t{128} << 20);
-    EXPECT_NE(a, nullptr) << "with 68 MiB for state offsets it fits";
-    EXPECT_EQ(h.alloc(size_t{64} << 20), nullptr) << "which would need another 34 MiB";
+    EXPECT_NE(a, nullptr) << "128 MiB and 68 MiB for state offsets fit";
+    EXPECT_EQ(h.alloc(size_t{64} << 20), nullptr) << "it would need another 34 MiB for state offsets";
     h.free(a);
 
-    options.tracking = MIRK_PLATFORM_TRACKING_OFF;
-    Handle untracked(options);
+    Handle untracked({.tracking = Tracking::off, .total_ceiling = ceiling, .fresh_fill = 0});
     void *b = untracked.alloc(size_t{256} << 20);
     EXPECT_NE(b, nullptr);
     untracked.free(b);
 }
 
 TEST(Memory, StateOffsetsNeverExceedWhatTheCeilingAllowed) {
-    Options options = test::tracked();
     constexpr uint64_t ceiling = 100000;
-    options.total_ceiling = ceiling;
-    Handle h(options);
+    Handle h({.tracking = Tracking::on, .total_ceiling = ceiling});
     std::vector<void *> blocks;
     while (void *block = h.alloc(1)) blocks.push_back(block);
     EXPECT_EQ(blocks.size(), ceiling / 137) << "a byte, and the offsets of one stretch of addresses";
@@ -92,7 +85,7 @@ TEST(Memory, DefaultCeilingStopsHostileCounts) {
     EXPECT_EQ(h.alloc(SIZE_MAX), nullptr);
 }
 
-TEST(Memory, FreeOfAForeignAddressIsTracedAndIgnored) {
+TEST(Memory, FreeOfAnUnknownAddressIsTracedAndIgnored) {
     Handle h;
     test::Trace trace;
     static char sentinel;
@@ -134,7 +127,7 @@ TEST(Memory, AllocationsFailFromTheNthOn) {
     h.free(b);
 }
 
-TEST(Memory, OtherAllocatorsFailWhenTold) {
+TEST(Memory, OtherAllocatorsFailOnRequest) {
     Handle h;
     mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_SYS_ALLOC, 1, 0);
     EXPECT_EQ(h->sys_alloc(h->sys_ctx, 0xffffffffu, 8), nullptr);
@@ -148,27 +141,27 @@ TEST(Memory, OtherAllocatorsFailWhenTold) {
 
 TEST(Memory, FreshBlocksAreFilledOnRequest) {
     Handle h;
-    mirk_platform_testing_set_fresh_fill(h, 0xa5);
+    mirk_platform_testing_set_fresh_fill(h, 0x5c);
     auto *a = static_cast<uint8_t *>(h.alloc(4));
-    EXPECT_EQ(a[0], 0xa5);
-    EXPECT_EQ(a[3], 0xa5);
+    EXPECT_EQ(a[0], 0x5c);
+    EXPECT_EQ(a[3], 0x5c);
     h.free(a);
 }
 
-TEST(Memory, NoticesReachTheHook) {
+TEST(Memory, NotificationsReachTheHook) {
     Handle h;
-    test::Log log(h);
+    kit::Events log(h);
     uint64_t counter = 0;
     h->write_notify(h->mem_ctx, &counter, 8, 5);
     h->count_notify(h->mem_ctx, &counter, -1, 6);
-    ASSERT_EQ(log.events.size(), 2u);
-    EXPECT_EQ(log.events[0].kind, MIRK_PLATFORM_TESTING_WRITE_NOTIFY);
-    EXPECT_EQ(log.events[0].address, &counter);
-    EXPECT_EQ(log.events[0].size, 8u);
-    EXPECT_EQ(log.events[0].ctx_id, 5u);
-    EXPECT_EQ(log.events[1].kind, MIRK_PLATFORM_TESTING_COUNT_NOTIFY);
-    EXPECT_EQ(log.events[1].value, -1);
-    EXPECT_EQ(log.events[1].ctx_id, 6u);
+    ASSERT_EQ(log.all.size(), 2u);
+    EXPECT_EQ(log.all[0].kind, MIRK_PLATFORM_TESTING_WRITE_NOTIFY);
+    EXPECT_EQ(log.all[0].address, &counter);
+    EXPECT_EQ(log.all[0].size, 8u);
+    EXPECT_EQ(log.all[0].ctx_id, 5u);
+    EXPECT_EQ(log.all[1].kind, MIRK_PLATFORM_TESTING_COUNT_NOTIFY);
+    EXPECT_EQ(log.all[1].value, -1);
+    EXPECT_EQ(log.all[1].ctx_id, 6u);
 }
 
 TEST(Memory, SurvivesManyBlocksInAnyOrder) {

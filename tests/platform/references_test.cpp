@@ -21,7 +21,7 @@ void *make_object(Handle &h) {
 
 }  // namespace
 
-TEST(References, AnObjectWithoutMappingIsGone) {
+TEST(References, RequestDestroySucceedsWithoutAMapping) {
     Handle h;
     mirk_object object{};
     uint32_t err = 0;
@@ -29,12 +29,12 @@ TEST(References, AnObjectWithoutMappingIsGone) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST(References, UnknownOidIs2) {
+TEST(References, AnUnknownOidIsEnoent) {
     Handle h;
     uint32_t err = 0;
     mirklib_lookup_and_update_oid_ref_count(h, 7, &err, 0, &err);
-    EXPECT_EQ(err, 2u);
-    EXPECT_EQ(mirk_platform_oid_mapping_state(h, &err, nullptr, nullptr), 2u);
+    EXPECT_EQ(err, uint32_t{ENOENT});
+    EXPECT_EQ(mirk_platform_oid_mapping_state(h, &err, nullptr, nullptr), uint32_t{ENOENT});
 }
 
 TEST(References, TheLastReferenceDestroysACondemnedObject) {
@@ -43,7 +43,7 @@ TEST(References, TheLastReferenceDestroysACondemnedObject) {
     destroyed = 0;
     ASSERT_EQ(mirk_platform_oid_mapping_make(h, object, 2, destroy, &oid), 0u);
     EXPECT_EQ(static_cast<mirk_object *>(object)->obj_flag, 1);
-    EXPECT_EQ(mirk_platform_oid_mapping_make(h, object, 2, destroy, &oid), 17u);
+    EXPECT_EQ(mirk_platform_oid_mapping_make(h, object, 2, destroy, &oid), uint32_t{EEXIST});
     uint32_t err = 0, references = 0, condemned = 0;
     EXPECT_EQ(mirk_request_oid_mapping_destroy(h, 7, object, &err), 0u);
     EXPECT_EQ(err, 0u);
@@ -57,7 +57,7 @@ TEST(References, TheLastReferenceDestroysACondemnedObject) {
     EXPECT_EQ(destroyed, 1);
     EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
     mirklib_lookup_and_update_oid_ref_count(h, 7, oid, 0, &err);
-    EXPECT_EQ(err, 2u);
+    EXPECT_EQ(err, uint32_t{ENOENT});
 }
 
 TEST(References, AnObjectThatIsNotCondemnedOutlivesItsLastReference) {
@@ -69,7 +69,7 @@ TEST(References, AnObjectThatIsNotCondemnedOutlivesItsLastReference) {
     mirklib_lookup_and_update_oid_ref_count(h, 7, oid, 0, &err);
     EXPECT_EQ(destroyed, 0);
     mirklib_lookup_and_update_oid_ref_count(h, 7, oid, 0, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
     destroy(h, 7, object);
 }
 
@@ -78,10 +78,10 @@ TEST(References, FreedMemoryKeepsNoMapping) {
     void *object = make_object(h), *oid = nullptr;
     ASSERT_EQ(mirk_platform_oid_mapping_make(h, object, 1, destroy, &oid), 0u);
     h.free(object);
-    EXPECT_EQ(mirk_platform_oid_mapping_state(h, oid, nullptr, nullptr), 2u);
+    EXPECT_EQ(mirk_platform_oid_mapping_state(h, oid, nullptr, nullptr), uint32_t{ENOENT});
 }
 
-TEST(References, OperationsFailWhenTold) {
+TEST(References, OperationsFailOnRequest) {
     Handle h;
     void *object = make_object(h), *oid = nullptr;
     ASSERT_EQ(mirk_platform_oid_mapping_make(h, object, 1, destroy, &oid), 0u);
@@ -99,7 +99,7 @@ TEST(References, OperationsFailWhenTold) {
     h.free(object);
 }
 
-TEST(References, AnAddressHoldsWhatItWasGiven) {
+TEST(References, AnAddressReturnsItsOids) {
     Handle h;
     ip_address address{};
     uint32_t err = 0;
@@ -121,12 +121,12 @@ TEST(References, AnAddressHoldsWhatItWasGiven) {
     EXPECT_EQ(ip_address_get_oid_count(h, 7, &address, &err), 0u);
 }
 
-TEST(References, NullAddressIsInvalid) {
+TEST(References, ANullAddressIsEinval) {
     Handle h;
     test::Trace trace;
     uint32_t err = 0;
     EXPECT_EQ(ip_address_get_oid_count(h, 7, nullptr, &err), 0u);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
     EXPECT_TRUE(trace.has(3, "Invalid object passed in to get object oid count"));
     EXPECT_EQ(ip_address_get_oid_count(h, 7, nullptr, &err), 0u);
     EXPECT_TRUE(trace.has(3, "Error already present in call to get object oid count"));

@@ -1,6 +1,6 @@
 #include "support.hpp"
 
-TEST(Request, NamesABundle) {
+TEST(Request, RoundTripsTheNameOfABundle) {
     uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     const uint32_t length = mirk_platform_request_encode(frame, sizeof frame, 9, "some_rsp", 1, nullptr);
     ASSERT_EQ(length, 45u + 8u);
@@ -17,7 +17,7 @@ TEST(Request, NamesABundle) {
     EXPECT_STREQ(request.bundle, "some_rsp");
 }
 
-TEST(Request, RefusalSaysWhy) {
+TEST(Request, RoundTripsTheReasonOfARefusal) {
     uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     const uint32_t length = mirk_platform_refusal_encode(frame, sizeof frame, 0, 52, "not here", nullptr);
     ASSERT_EQ(length, 49u + 8u);
@@ -26,41 +26,41 @@ TEST(Request, RefusalSaysWhy) {
     mirk_platform_request request;
     EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 0u);
     EXPECT_NE(request.options & MIRK_PLATFORM_REQUEST_REFUSED, 0);
-    EXPECT_EQ(request.number, 52u);
+    EXPECT_EQ(request.number, uint32_t{EBADE});
     EXPECT_STREQ(request.sentence, "not here");
 }
 
-TEST(Request, FitsOrFails) {
+TEST(Request, FailsIfTheFrameDoesNotFit) {
     uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     uint32_t number = 0;
     EXPECT_EQ(mirk_platform_request_encode(frame, 52, 0, "some_rsp", 0, &number), 0u);
-    EXPECT_EQ(number, 90u);
+    EXPECT_EQ(number, uint32_t{EMSGSIZE});
     const std::string most(255, 'x');
     EXPECT_EQ(mirk_platform_request_encode(frame, sizeof frame, 0, most.c_str(), 0, nullptr), 300u);
     EXPECT_EQ(mirk_platform_request_encode(frame, sizeof frame, 0, (most + "x").c_str(), 0, &number), 0u);
-    EXPECT_EQ(number, 22u);
+    EXPECT_EQ(number, uint32_t{EINVAL});
     EXPECT_EQ(mirk_platform_refusal_encode(frame, sizeof frame, 0, 2, (most + most).c_str(), nullptr), 304u);
 }
 
-TEST(Request, RefusesWhatBreaksTheForm) {
+TEST(Request, RefusesMalformedFrames) {
     uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     mirk_platform_request request;
     const auto fresh = [&] { return mirk_platform_request_encode(frame, sizeof frame, 0, "some_rsp", 0, nullptr); };
     uint32_t length = fresh();
     for (uint32_t cut = 0; cut < length; ++cut) {
-        EXPECT_EQ(mirk_platform_request_decode(frame, cut, &request), 74u) << cut;
+        EXPECT_EQ(mirk_platform_request_decode(frame, cut, &request), uint32_t{EBADMSG}) << cut;
     }
     frame[44] = 9;
-    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 74u);
+    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), uint32_t{EBADMSG});
     frame[44] = 7;
-    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 74u);
+    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), uint32_t{EBADMSG});
     length = fresh();
     frame[46] = 0;
-    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 74u);
+    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), uint32_t{EBADMSG});
     length = fresh();
     frame[30] ^= 1;
-    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 2u);
+    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), uint32_t{ENOENT});
     length = fresh();
     frame[43] = 0x80;
-    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), 74u);
+    EXPECT_EQ(mirk_platform_request_decode(frame, length, &request), uint32_t{EBADMSG});
 }

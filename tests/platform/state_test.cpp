@@ -10,7 +10,7 @@ struct Object : mirk_object {
 
 }  // namespace
 
-TEST(InstanceState, NullIsAnEmptyObject) {
+TEST(InstanceState, NullHasNoVariantFlagsOrMark) {
     EXPECT_EQ(mirk_get_instance_variant(nullptr, 1, 0), 0);
     EXPECT_EQ(mirk_get_instance_obj_flag(nullptr, 1, 0), 0);
     EXPECT_EQ(mirk_get_instance_modified(nullptr, 1, 0), 0u);
@@ -28,24 +28,24 @@ TEST(InstanceState, TheModifiedMarkIsOneBitForEveryCaller) {
     EXPECT_EQ(mirk_get_instance_variant(&object, 1, 0), -2);
 }
 
-TEST(AdjustVariant, StoresTheDomainsVariantUncappedAndAnnounced) {
+TEST(AdjustVariant, StoresTheVariantOfTheDomainUncappedAndNotifies) {
     Handle h;
     mirk_type_info type = test::make_type(1);
     Object object;
     object.tinfo = &type;
     mirk_platform_domain_set_variant(h, type.luid, 3);
-    test::Log log(h);
+    kit::Events log(h);
     uint32_t err = 0;
     mirklib_adjust_variant(h, 7, &object, &type, 0, &err);
     mirklib_adjust_variant(h, 7, &object, &type, 0, &err);
     EXPECT_EQ(object.variant, 3);
-    const auto notices = log.of(MIRK_PLATFORM_TESTING_WRITE_NOTIFY);
-    ASSERT_EQ(notices.size(), 1u);
-    EXPECT_EQ(notices[0].address, &object.variant);
-    EXPECT_EQ(notices[0].size, 1u);
+    const auto notifications = log.of(MIRK_PLATFORM_TESTING_WRITE_NOTIFY);
+    ASSERT_EQ(notifications.size(), 1u);
+    EXPECT_EQ(notifications[0].address, &object.variant);
+    EXPECT_EQ(notifications[0].size, 1u);
 }
 
-TEST(AdjustVariant, DoesNothingWithoutObjectOrTypeOrWithAnError) {
+TEST(AdjustVariant, DoesNothingForNullOrIfAnErrorIsSet) {
     Handle h;
     mirk_type_info type = test::make_type(1);
     Object object;
@@ -59,7 +59,7 @@ TEST(AdjustVariant, DoesNothingWithoutObjectOrTypeOrWithAnError) {
     EXPECT_EQ(err, 5u);
 }
 
-TEST(StateOffset, NewestUpdateCounts) {
+TEST(StateOffset, TheLatestUpdateIsReturned) {
     Handle h;
     Object object;
     mirklib_update_sttr_offset(h, 7, &object, 100);
@@ -69,7 +69,7 @@ TEST(StateOffset, NewestUpdateCounts) {
     EXPECT_EQ(mirk_platform_testing_offset_entries(h), 1u);
 }
 
-TEST(StateOffset, WithoutEntryTheAreaLiesBehindTheObject) {
+TEST(StateOffset, TheAreaFollowsTheObjectIfNoOffsetIsRecorded) {
     Handle h;
     mirk_variant_entry entry{0, 300, 20, 0, 0, 0};
     mirk_variant_info variants{1, &entry};
@@ -80,7 +80,7 @@ TEST(StateOffset, WithoutEntryTheAreaLiesBehindTheObject) {
     EXPECT_EQ(mirklib_get_sttr_offset(h, 7, &object), 320u);
 }
 
-TEST(RaData, WithoutEntryIsEmpty) {
+TEST(RaData, IsEmptyIfNoneIsRecorded) {
     Handle h;
     Object object;
     void *value = &object;
@@ -88,10 +88,10 @@ TEST(RaData, WithoutEntryIsEmpty) {
     EXPECT_EQ(mirklib_get_ra_data(h, 7, &object, &value, &byte), 0u);
     EXPECT_EQ(value, nullptr);
     EXPECT_EQ(byte, 0);
-    EXPECT_EQ(mirk_platform_ra_data(h, &object, nullptr, nullptr), 2u);
+    EXPECT_EQ(mirk_platform_ra_data(h, &object, nullptr, nullptr), uint32_t{ENOENT});
 }
 
-TEST(RaData, IsKeptByAddress) {
+TEST(RaData, IsRecordedPerObject) {
     Handle h;
     Object object;
     void *value = nullptr;
@@ -108,7 +108,7 @@ TEST(RaData, IsKeptByAddress) {
     EXPECT_EQ(mirklib_get_ra_data(h, 7, &object, &value, &byte), 5u);
 }
 
-TEST(HdMapping, DestroyDropsBothEntriesAndNoFlag) {
+TEST(HdMapping, DestroyRemovesBothEntriesAndChangesNoFlags) {
     Handle h;
     Object object;
     uint32_t err = 0;
@@ -122,18 +122,18 @@ TEST(HdMapping, DestroyDropsBothEntriesAndNoFlag) {
     EXPECT_EQ(object.obj_flag, 32 | 64);
 }
 
-TEST(HdMapping, DestroyFailsWhenTold) {
+TEST(HdMapping, DestroyFailsOnRequest) {
     Handle h;
     Object object;
     mirklib_update_sttr_offset(h, 7, &object, 4);
-    mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_HD_MAPPING_DESTROY, 0, 1, 22);
+    mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_HD_MAPPING_DESTROY, 0, 1, EINVAL);
     uint32_t err = 0;
     mirk_hd_mapping_destroy(h, 7, &object, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
     EXPECT_EQ(mirk_platform_testing_offset_entries(h), 1u);
 }
 
-TEST(ObjFree, ForgetsEveryEntryInsideTheBlockAndNoOther) {
+TEST(ObjFree, ErasesEveryEntryInTheBlockAndNoOther) {
     Handle h;
     for (const size_t size : {size_t{8}, size_t{264}, size_t{4096}, size_t{100000}}) {
         auto *block = static_cast<char *>(h.alloc(size));

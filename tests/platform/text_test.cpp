@@ -11,12 +11,12 @@ TEST(PrintSpace, WritesExactlyTheBlanks) {
     uint32_t err = 0;
     EXPECT_EQ(mirk_print_space(h, 7, buffer.at(), 3, 3, &err), 3u);
     EXPECT_EQ(std::memcmp(buffer.at(), "   ", 3), 0);
-    EXPECT_TRUE(buffer.intact_behind(3));
+    EXPECT_TRUE(buffer.intact_after(3));
     EXPECT_EQ(mirk_print_space(h, 7, nullptr, 0, -5, &err), 0u);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(mirk_print_space(h, 7, buffer.at(), 4, 3, &err), 0u);
-    EXPECT_EQ(err, 28u);
-    EXPECT_TRUE(buffer.intact_behind(3));
+    EXPECT_EQ(err, uint32_t{ENOSPC});
+    EXPECT_TRUE(buffer.intact_after(3));
 }
 
 TEST(Snprintf, FormatsAsPrintfDoes) {
@@ -28,7 +28,7 @@ TEST(Snprintf, FormatsAsPrintfDoes) {
             uint32_t err = 0;
             const uint32_t written = mirk_snprintf(h, 7, own, room, &err, format, values...);
             EXPECT_STREQ(own, expected) << format;
-            EXPECT_EQ(err, length < room ? 0u : 28u) << format;
+            EXPECT_EQ(err, length < room ? 0u : uint32_t{ENOSPC}) << format;
             EXPECT_EQ(written, static_cast<uint32_t>(std::min(length, room - 1))) << format;
         };
         check("%s@%s: {\n", "name", "kind");
@@ -40,23 +40,23 @@ TEST(Snprintf, FormatsAsPrintfDoes) {
     }
 }
 
-TEST(Snprintf, CutsWith28) {
+TEST(Snprintf, CutsTextWithEnospc) {
     Handle h;
     Guarded<16> buffer;
     uint32_t err = 0;
     EXPECT_EQ(mirk_snprintf(h, 7, buffer.at(), 6, &err, "%s", "hello"), 5u);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(mirk_snprintf(h, 7, buffer.at(), 5, &err, "%s", "hello"), 4u);
-    EXPECT_EQ(err, 28u);
+    EXPECT_EQ(err, uint32_t{ENOSPC});
     EXPECT_STREQ(buffer.at(), "hell");
-    EXPECT_TRUE(buffer.intact_behind(6));
+    EXPECT_TRUE(buffer.intact_after(6));
     EXPECT_EQ(mirk_snprintf(h, 7, buffer.at(), 16, &err, "x"), 0u);
     for (const int32_t remaining : {0, -1}) {
         Guarded<4> empty;
         err = 0;
         EXPECT_EQ(mirk_snprintf(h, 7, empty.at(), remaining, &err, "x"), 0u);
-        EXPECT_EQ(err, 28u);
-        EXPECT_TRUE(empty.intact_behind(0));
+        EXPECT_EQ(err, uint32_t{ENOSPC});
+        EXPECT_TRUE(empty.intact_after(0));
     }
 }
 
@@ -74,26 +74,26 @@ TEST(Tags, ShowANonzeroState) {
     EXPECT_STREQ(buffer, "</tc>");
 }
 
-TEST(Tags, FitWholeOrNotAtAll) {
+TEST(Tags, AreWrittenCompletelyOrNotAtAll) {
     Handle h;
     Guarded<16> buffer;
     uint32_t err = 0;
     EXPECT_EQ(start_tag(h, 7, buffer.at(), "tc", 4, 0, &err), 0u);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
     err = 0;
     EXPECT_EQ(end_tag(h, 7, buffer.at(), "tc", 5, &err), 0u);
-    EXPECT_EQ(err, 90u);
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
     err = 0;
     EXPECT_EQ(xml_enum_print(h, 7, buffer.at(), "<X/>", 4, 4, &err), 0u);
-    EXPECT_EQ(err, 90u);
-    EXPECT_TRUE(buffer.intact_behind(0));
+    EXPECT_EQ(err, uint32_t{EMSGSIZE});
+    EXPECT_TRUE(buffer.intact_after(0));
     err = 0;
     EXPECT_EQ(xml_enum_print(h, 7, buffer.at(), "<X/>tail", 5, 4, &err), 4u);
     EXPECT_STREQ(buffer.at(), "<X/>");
-    EXPECT_TRUE(buffer.intact_behind(5));
+    EXPECT_TRUE(buffer.intact_after(5));
 }
 
-TEST(Strings, PrintOnOneLine) {
+TEST(Strings, ArePrintedOnOneLine) {
     Handle h;
     char buffer[64];
     uint32_t err = 0;
@@ -103,10 +103,10 @@ TEST(Strings, PrintOnOneLine) {
     EXPECT_EQ(var_string_print(h, 7, buffer, 0, "s", nullptr, 64, 0, &err), 14u);
     EXPECT_STREQ(buffer, "s@var_string:\n");
     var_string_print(h, 7, buffer, 0, "s", nullptr, 64, 3, &err);
-    EXPECT_EQ(err, 22u);
+    EXPECT_EQ(err, uint32_t{EINVAL});
 }
 
-TEST(Strings, EveryByteIsPrintedAlikeAtEveryPlace) {
+TEST(Strings, EachByteIsPrintedTheSameAtEveryPosition) {
     Handle h;
     for (unsigned byte = 0; byte < 256; ++byte) {
         char escaped[8];
@@ -115,19 +115,19 @@ TEST(Strings, EveryByteIsPrintedAlikeAtEveryPlace) {
                       : byte < 0x20 || byte > 0x7e ? "\\x%02x"
                                                    : "%c",
                       byte);
-        for (size_t place = 0; place < 20; ++place) {
+        for (size_t position = 0; position < 20; ++position) {
             std::string text(20, 'a');
-            text[place] = static_cast<char>(byte);
+            text[position] = static_cast<char>(byte);
             char buffer[128];
             uint32_t err = 0;
             var_string_print(h, 7, buffer, 0, "s", text.data(), 128, 20, &err);
-            const std::string expected = std::string(place, 'a') + escaped + std::string(19 - place, 'a');
+            const std::string expected = std::string(position, 'a') + escaped + std::string(19 - position, 'a');
             EXPECT_EQ(buffer, "s@var_string:" + expected + "\n");
         }
     }
 }
 
-TEST(Strings, EscapeWhatXmlReserves) {
+TEST(Strings, EscapeReservedCharactersOfXml) {
     Handle h;
     char buffer[128];
     uint32_t err = 0;
@@ -137,7 +137,7 @@ TEST(Strings, EscapeWhatXmlReserves) {
     EXPECT_EQ(err, 0u);
 }
 
-TEST(Strings, ReplaceByteForByteWhatXmlCannotHold) {
+TEST(Strings, ReplaceEachByteThatXmlDoesNotAllow) {
     Handle h;
     const auto rendered = [&](const std::string &text) {
         char buffer[128];
@@ -159,16 +159,16 @@ TEST(Strings, ReplaceByteForByteWhatXmlCannotHold) {
     EXPECT_EQ(rendered("\xe2\x82x"), "??x");
 }
 
-TEST(Strings, EveryByteComesBackInNumber) {
+TEST(Strings, KeepTheirLengthThroughXml) {
     Handle h;
     std::string text;
     for (int c = 0; c < 256; ++c) text += static_cast<char>(c);
     std::vector<char> buffer(4096);
     uint32_t err = 0;
     var_string_to_xml(h, 7, "s", buffer.data(), text.data(), 4096, 256, 0, &err);
-    test::Document document(buffer.data());
+    kit::Document document(buffer.data());
     uint32_t length = 0;
-    EXPECT_EQ(xml_get_element_value(document, "//s", nullptr, 0, &length), 28u);
+    EXPECT_EQ(xml_get_element_value(document, "//s", nullptr, 0, &length), uint32_t{ENOSPC});
     EXPECT_EQ(length, 256u);
     char value[257];
     var_string_from_xml(h, 7, "//s", document, value, 257, &err, nullptr, 0);
@@ -178,7 +178,7 @@ TEST(Strings, EveryByteComesBackInNumber) {
         EXPECT_EQ(value[c], kept ? static_cast<char>(c) : '?') << c;
     }
     var_string_from_xml(h, 7, "//s", document, value, 256, &err, nullptr, 0);
-    EXPECT_EQ(err, 28u);
+    EXPECT_EQ(err, uint32_t{ENOSPC});
 }
 
 TEST(Strings, CharactersAreBytes) {

@@ -41,7 +41,7 @@ TEST(Trace, OneNameHasOneIdentifier) {
     EXPECT_STREQ(mirk_platform_trace_module_name(65535), "?");
 }
 
-TEST(Trace, ASinkGetsTheSelectedLevels) {
+TEST(Trace, ASinkReceivesTheSelectedLevels) {
     Sink here;
     skald_wrapper(5, 3, 0, "(ERR): %s %u", "text", 7u);
     skald_wrapper(5, 6, 0, "(info): unseen");
@@ -56,7 +56,7 @@ TEST(Trace, ASinkGetsTheSelectedLevels) {
     EXPECT_EQ(mirk_platform_trace_levels(), 1u << 6);
 }
 
-TEST(Trace, LongLinesStayWhole) {
+TEST(Trace, LongLinesAreNotCut) {
     Sink here;
     const std::string text(5000, 'x');
     skald_wrapper(5, 0, 0, "%s", text.c_str());
@@ -64,7 +64,7 @@ TEST(Trace, LongLinesStayWhole) {
     EXPECT_EQ(here.sunk.lines[0], text);
 }
 
-TEST(Trace, ReadsLevelLists) {
+TEST(Trace, ParsesListsOfLevels) {
     uint32_t mask = 5;
     EXPECT_EQ(mirk_platform_trace_parse_levels("0, 3,31", &mask), 0u);
     EXPECT_EQ(mask, 1u | 8u | 0x80000000u);
@@ -73,8 +73,8 @@ TEST(Trace, ReadsLevelLists) {
     EXPECT_EQ(mirk_platform_trace_parse_levels("none", &mask), 0u);
     EXPECT_EQ(mask, 0u);
     for (const char *bad : {"", "3,", "32", "x", "3 6"})
-        EXPECT_EQ(mirk_platform_trace_parse_levels(bad, &mask), 22u) << bad;
-    EXPECT_EQ(mirk_platform_trace_parse_levels(nullptr, &mask), 22u);
+        EXPECT_EQ(mirk_platform_trace_parse_levels(bad, &mask), uint32_t{EINVAL}) << bad;
+    EXPECT_EQ(mirk_platform_trace_parse_levels(nullptr, &mask), uint32_t{EINVAL});
 }
 
 TEST(Trace, DefaultsToErrorsOnStandardError) {
@@ -84,19 +84,19 @@ TEST(Trace, DefaultsToErrorsOnStandardError) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "?: (ERR): to stderr\n");
 }
 
-TEST(Trace, CaptureKeepsEveryLevelAndOnlyFatalLinesGoOn) {
+TEST(Trace, CaptureKeepsEveryLevelAndPassesOnFatalLinesOnly) {
     Sink here;
     test::Trace trace;
     skald_wrapper(5, 7, 0, "(debug): kept");
     skald_wrapper(5, 3, 0, "(ERR): kept");
     skald_wrapper(5, 0, 0, "(FATAL): kept");
-    EXPECT_EQ(trace.lines(), 4u) << "three, and what the sink traced itself";
+    EXPECT_EQ(trace.lines(), 4u) << "three, and the one that the sink traced";
     EXPECT_TRUE(trace.has(7, "kept"));
     ASSERT_EQ(here.sunk.lines.size(), 1u);
     EXPECT_EQ(here.sunk.lines[0], "(FATAL): kept");
 }
 
-TEST(Recorder, IsASwitchWithAStream) {
+TEST(Recorder, HasASwitchAndAStream) {
     EXPECT_EQ(mirklib_msg_recorder_get_state(), 0u);
     mirk_platform_recorder_set(1, stderr);
     EXPECT_NE(mirklib_msg_recorder_get_state(), 0u);

@@ -19,7 +19,7 @@ std::string frame(size_t length, char fill) {
     return bytes;
 }
 
-// Sends every frame back; runs on a thread of its own.
+// A server that returns every frame to its sender; runs on its own thread.
 class Echo {
 public:
     explicit Echo(mirk_platform_server_options options = defaults()) {
@@ -47,13 +47,13 @@ public:
     }
 
     std::string path;
-    std::vector<std::string> reasons, refusals;  // to be read after stop
+    std::vector<std::string> reasons, refusals;  // read them only after stop
     std::atomic<int> frames = 0, peers_gone = 0;
     mirk_platform_server *server = nullptr;
 
 private:
     static void echo(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *bytes, uint32_t size) {
-        static_cast<char *>(bytes)[size] = 'S';  // the slack is writable and spoils nothing
+        static_cast<char *>(bytes)[size] = 'S';  // the guard byte is writable and not part of the next frame
         if (static_cast<char *>(bytes)[size - 1] == 'Q') {
             mirk_platform_server_send(server, peer, bytes, size);
             mirk_platform_server_disconnect(server, peer, "asked to");
@@ -97,7 +97,7 @@ public:
     std::string next() {
         std::string bytes;
         const uint32_t error = receive(&bytes);
-        return error == 0 ? bytes : "error " + std::to_string(error);
+        return error == 0 ? bytes : strerrorname_np(static_cast<int>(error));
     }
 
     mirk_platform_client *client = nullptr;
@@ -105,7 +105,7 @@ public:
 
 }  // namespace
 
-TEST(Transport, CutsFramesByTheirLength) {
+TEST(Transport, SplitsFramesByTheirLength) {
     Echo echo;
     Client client(echo.path);
     const std::string a = frame(43, 'a'), b = frame(44, 'b'), c = frame(300000, 'c');
@@ -115,7 +115,7 @@ TEST(Transport, CutsFramesByTheirLength) {
     EXPECT_EQ(client.next(), c);
 }
 
-TEST(Transport, JoinsFramesThatComeInPieces) {
+TEST(Transport, JoinsFramesThatArriveInPieces) {
     Echo echo;
     Client client(echo.path);
     const std::string whole = frame(100, 'x');
@@ -133,20 +133,20 @@ TEST(Transport, ServesManyPeers) {
     }
 }
 
-TEST(Transport, DisconnectsRubbishWithTheReasonTraced) {
+TEST(Transport, DisconnectsPeersThatSendGarbageAndTracesTheReason) {
     test::Trace trace;
     Echo echo;
     std::string zero_length = frame(43, 0);
     zero_length[15] = 0;
-    for (const std::string &rubbish :
+    for (const std::string &garbage :
          {std::string("hello"), std::string(1, '\0'), zero_length, std::string(5000, 'z')}) {
         Client client(echo.path);
-        client.send(rubbish);
-        EXPECT_EQ(client.next(), "error 104");
+        client.send(garbage);
+        EXPECT_EQ(client.next(), "ECONNRESET");
     }
-    Client honest(echo.path);
-    honest.send(frame(60, 'k'));
-    EXPECT_EQ(honest.next(), frame(60, 'k'));
+    Client other(echo.path);
+    other.send(frame(60, 'k'));
+    EXPECT_EQ(other.next(), frame(60, 'k'));
     echo.stop();
     ASSERT_GE(echo.reasons.size(), 4u);
     EXPECT_EQ(echo.reasons[0], "what it sent is no frame");
@@ -160,16 +160,16 @@ TEST(Transport, LimitsFramesOnBothSides) {
     Echo echo(options);
     Client client(echo.path);
     client.send(frame(1001, 'x').substr(0, 43));
-    EXPECT_EQ(client.next(), "error 104");
+    EXPECT_EQ(client.next(), "ECONNRESET");
     Client narrow(echo.path, 100);
     narrow.send(frame(101, 'y'));
-    EXPECT_EQ(narrow.next(), "error 90");
+    EXPECT_EQ(narrow.next(), "EMSGSIZE");
     echo.stop();
     ASSERT_FALSE(echo.reasons.empty());
     EXPECT_EQ(echo.reasons[0], "its frame exceeds the limit");
 }
 
-TEST(Transport, TurnsSurplusPeersAway) {
+TEST(Transport, RefusesPeersBeyondTheLimit) {
     auto options = Echo::defaults();
     options.peer_limit = 1;
     test::Trace trace;
@@ -178,7 +178,7 @@ TEST(Transport, TurnsSurplusPeersAway) {
     first.send(frame(43, 'a'));
     EXPECT_EQ(first.next(), frame(43, 'a'));
     Client second(echo.path);
-    EXPECT_EQ(second.next(), "error 104");
+    EXPECT_EQ(second.next(), "ECONNRESET");
     EXPECT_TRUE(trace.has(3, "turned away"));
 }
 
@@ -188,7 +188,7 @@ TEST(Transport, DisconnectsIdlePeers) {
     test::Trace trace;
     Echo echo(options);
     Client client(echo.path);
-    EXPECT_EQ(client.next(), "error 104");
+    EXPECT_EQ(client.next(), "ECONNRESET");
     echo.stop();
     ASSERT_EQ(echo.reasons.size(), 1u);
     EXPECT_EQ(echo.reasons[0], "it was idle for too long");
@@ -209,7 +209,7 @@ TEST(Transport, DisconnectsPeersThatDoNotRead) {
     EXPECT_EQ(echo.reasons[0], "it lets too much pile up unread");
 }
 
-TEST(Transport, TellsWhoPassedALimit) {
+TEST(Transport, ReportsEachPeerThatExceededALimit) {
     test::Trace trace;
     auto options = Echo::defaults();
     options.peer_limit = 1;
@@ -219,9 +219,9 @@ TEST(Transport, TellsWhoPassedALimit) {
     first.send(frame(43, 'a'));
     EXPECT_EQ(first.next(), frame(43, 'a'));
     Client second(echo.path);
-    EXPECT_EQ(second.next(), "error 104");
+    EXPECT_EQ(second.next(), "ECONNRESET");
     first.send(frame(1001, 'x').substr(0, 43));
-    EXPECT_EQ(first.next(), "error 104");
+    EXPECT_EQ(first.next(), "ECONNRESET");
     echo.stop();
     EXPECT_EQ(echo.refusals,
               (std::vector<std::string>{"2: there are 1 peers already", "1: its frame exceeds the limit"}));
@@ -233,14 +233,14 @@ TEST(Transport, LimitsTheTimeForAFrame) {
     auto options = Echo::defaults();
     options.frame_ms = 50;
     Echo echo(options);
-    Client quiet(echo.path);
+    Client silent(echo.path);
     Client client(echo.path);
-    // Whole frames do not count, however many, nor does the time between them.
+    // Neither complete frames nor the time between them count.
     client.send(frame(60, 'a') + frame(60, 'b').substr(0, 20));
     EXPECT_EQ(client.next(), frame(60, 'a'));
-    EXPECT_EQ(client.next(), "error 104");
-    quiet.send(frame(60, 'c'));
-    EXPECT_EQ(quiet.next(), frame(60, 'c'));
+    EXPECT_EQ(client.next(), "ECONNRESET");
+    silent.send(frame(60, 'c'));
+    EXPECT_EQ(silent.next(), frame(60, 'c'));
     echo.stop();
     EXPECT_EQ(echo.refusals, (std::vector<std::string>{"2: it took too long for one frame"}));
 }
@@ -258,11 +258,11 @@ TEST(Transport, LimitsTheTimeToReadAnAnswer) {
     EXPECT_EQ(echo.refusals, (std::vector<std::string>{"1: it took too long to read an answer"}));
 }
 
-TEST(Transport, TurnsOutWhoeverLetsTheMostPileUp) {
+TEST(Transport, DisconnectsThePeerWithTheMostUnreadData) {
     test::Trace trace;
     auto options = Echo::defaults();
     options.pending_limit = 3000000;
-    options.total_pending_limit = 0;  // counts as the limit of one peer
+    options.total_pending_limit = 0;  // means pending_limit
     Echo echo(options);
     Client much(echo.path), little(echo.path), reads(echo.path);
     much.send(frame(2500000, 'm'));
@@ -282,11 +282,11 @@ TEST(Transport, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
     std::memset(&options, 0x5c, sizeof options);
     mirk_platform_server_options_init_sized(&options, offsetof(mirk_platform_server_options, frame_ms));
     EXPECT_EQ(options.socket_mode, 0600u);
-    EXPECT_EQ(options.frame_ms, 0x5c5c5c5cu) << "the initializer writes behind what the program has";
+    EXPECT_EQ(options.frame_ms, 0x5c5c5c5cu) << "the initializer wrote past the members that the program has";
     Echo echo(options);
     Client client(echo.path);
     client.send(std::string(43, 'x'));
-    EXPECT_EQ(client.next(), "error 104");
+    EXPECT_EQ(client.next(), "ECONNRESET");
     echo.stop();
     EXPECT_EQ(echo.reasons, (std::vector<std::string>{"what it sent is no frame"}));
     options.size = offsetof(mirk_platform_server_options, on_frame);
@@ -300,14 +300,14 @@ TEST(Transport, SendsWhatIsQueuedBeforeADisconnect) {
     const std::string last = frame(2000000, 'Q');
     client.send(last);
     EXPECT_EQ(client.next(), last);
-    EXPECT_EQ(client.next(), "error 104");
+    EXPECT_EQ(client.next(), "ECONNRESET");
 }
 
-TEST(Transport, ReceiveTimesOutAndGoesOn) {
+TEST(Transport, ReceiveContinuesAfterATimeout) {
     Echo echo;
     Client client(echo.path);
     std::string bytes;
-    EXPECT_EQ(client.receive(&bytes, 20), 110u);
+    EXPECT_EQ(client.receive(&bytes, 20), uint32_t{ETIMEDOUT});
     client.send(frame(70, 'l'));
     EXPECT_EQ(client.next(), frame(70, 'l'));
 }
@@ -321,10 +321,10 @@ TEST(Transport, StopEndsRunAndRemovesTheFile) {
     EXPECT_EQ(info.st_mode & 0777, 0600u);
     echo.stop();
     EXPECT_NE(stat(echo.path.c_str(), &info), 0);
-    EXPECT_EQ(client.next(), "error 104");
+    EXPECT_EQ(client.next(), "ECONNRESET");
 }
 
-TEST(Transport, StopBeforeRunReturnsAtOnce) {
+TEST(Transport, RunReturnsIfStoppedBefore) {
     auto options = Echo::defaults();
     options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
     mirk_platform_server *server = nullptr;
@@ -335,13 +335,13 @@ TEST(Transport, StopBeforeRunReturnsAtOnce) {
     mirk_platform_server_close(server);
 }
 
-TEST(Transport, TakesOverAStaleSocketFileOnly) {
+TEST(Transport, ReplacesOnlyAStaleSocketFile) {
     Echo echo;
     auto options = Echo::defaults();
     mirk_platform_server *server = nullptr;
-    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), 22u);
+    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), uint32_t{EINVAL});
     options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
-    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), 98u);
+    EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), uint32_t{EADDRINUSE});
     const std::string path = echo.path + "_stale";
     const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
     sockaddr_un address{};
@@ -354,19 +354,19 @@ TEST(Transport, TakesOverAStaleSocketFileOnly) {
     FILE *file = std::fopen(path.c_str(), "w");
     ASSERT_NE(file, nullptr);
     std::fclose(file);
-    EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 17u);
+    EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), uint32_t{EEXIST});
     unlink(path.c_str());
     EXPECT_EQ(mirk_platform_server_open((path + std::string(200, 'x')).c_str(), &options, &server), 36u);
 }
 
-TEST(Transport, NobodyThereIsAnError) {
+TEST(Transport, ConnectingWithoutAServerFails) {
     mirk_platform_client *client = nullptr;
-    EXPECT_EQ(mirk_platform_client_open("/tmp/mirk_transport_nobody", 0, 100, &client), 2u);
+    EXPECT_EQ(mirk_platform_client_open("/tmp/mirk_transport_nobody", 0, 100, &client), uint32_t{ENOENT});
 }
 
 namespace {
 
-// Serves over TCP, on a port that the system chose.
+// The same over TCP, on a port that the system chooses.
 class TcpEcho {
 public:
     explicit TcpEcho(const char *address) {
@@ -376,8 +376,8 @@ public:
             mirk_platform_server_send(from, peer, bytes, size);
         };
         EXPECT_EQ(mirk_platform_server_open_tcp(address, &options, &server), 0u);
-        const std::string place = mirk_platform_server_place(server);
-        port = place.substr(place.rfind(':') + 1);
+        const std::string endpoint = mirk_platform_server_place(server);
+        port = endpoint.substr(endpoint.rfind(':') + 1);
         thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
     }
     ~TcpEcho() {
@@ -417,12 +417,12 @@ TEST(Transport, CarriesFramesOverTcp) {
     }
 }
 
-TEST(Transport, ATcpPortWithoutAHostIsReachedFromThisMachineOnly) {
+TEST(Transport, ATcpPortWithoutAHostIsLocal) {
     const TcpEcho echo(":0");
     mirk_platform_client *client = nullptr;
     EXPECT_EQ(open_tcp("127.0.0.1:" + echo.port, &client), 0u);
     mirk_platform_client_close(client);
-    // Another address of this machine, where a server on all addresses would answer.
+    // Another address of this machine, at which a server on all addresses would be reachable.
     EXPECT_EQ(open_tcp("127.0.0.2:" + echo.port, &client), 111u);
 }
 
@@ -431,22 +431,23 @@ TEST(Transport, TwoServersDoNotShareATcpPort) {
     auto options = Echo::defaults();
     options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
     mirk_platform_server *server = nullptr;
-    EXPECT_EQ(mirk_platform_server_open_tcp((":" + echo.port).c_str(), &options, &server), 98u);
+    EXPECT_EQ(mirk_platform_server_open_tcp((":" + echo.port).c_str(), &options, &server), uint32_t{EADDRINUSE});
 }
 
-TEST(Transport, TextThatIsNoTcpAddressIsAnError) {
+TEST(Transport, RefusesTextThatIsNotATcpAddress) {
     auto options = Echo::defaults();
     options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
     mirk_platform_server *server = nullptr;
     mirk_platform_client *client = nullptr;
     for (const char *text : {"127.0.0.1:", "127.0.0.1:x", "127.0.0.1:65536", "127.0.0.1:-1", "127.0.0.1:123456", "::1",
                              "[::1", "[]:1", "[::1]1", ":"}) {
-        EXPECT_EQ(mirk_platform_server_open_tcp(text, &options, &server), 22u) << text;
-        EXPECT_EQ(open_tcp(text, &client), 22u) << text;
+        EXPECT_EQ(mirk_platform_server_open_tcp(text, &options, &server), uint32_t{EINVAL}) << text;
+        EXPECT_EQ(open_tcp(text, &client), uint32_t{EINVAL}) << text;
     }
-    EXPECT_EQ(mirk_platform_server_open_tcp("no such host:1", &options, &server), 99u);
-    EXPECT_EQ(mirk_platform_server_open_tcp("192.0.2.1:0", &options, &server), 99u);  // nobody has this one
-    EXPECT_EQ(open_tcp("no such host:1", &client), 99u);
+    EXPECT_EQ(mirk_platform_server_open_tcp("no such host:1", &options, &server), uint32_t{EADDRNOTAVAIL});
+    EXPECT_EQ(mirk_platform_server_open_tcp("192.0.2.1:0", &options, &server),
+              uint32_t{EADDRNOTAVAIL});  // reserved for documentation
+    EXPECT_EQ(open_tcp("no such host:1", &client), uint32_t{EADDRNOTAVAIL});
     options.on_frame = nullptr;
-    EXPECT_EQ(mirk_platform_server_open_tcp(":0", &options, &server), 22u);
+    EXPECT_EQ(mirk_platform_server_open_tcp(":0", &options, &server), uint32_t{EINVAL});
 }

@@ -3,7 +3,6 @@
 #include "support.hpp"
 
 using test::Handle;
-using test::Options;
 
 namespace {
 
@@ -16,50 +15,44 @@ struct Variants {
 };
 
 mirk_type_info *registered = nullptr;
-int initialised = 0;
+int initialized = 0;
 
 void initialise(mirk_handle *h, uint32_t ctx_id, uint32_t *) {
-    ++initialised;
+    ++initialized;
     auto *copy = static_cast<mirk_type_info_copy *>(h->sys_alloc(h->sys_ctx, 0xffffffffu, sizeof(mirk_type_info_copy)));
     *copy = {*registered, 0, 0};
     h->type_store_put(h->type_store, ctx_id, copy->info.luid_text, copy);
     mirk_update_variant_info(h, ctx_id, copy, registered, 1);
 }
 
-void initialise_nothing(mirk_handle *, uint32_t, uint32_t *) { ++initialised; }
-
-Options private_types() {
-    Options options;
-    options.private_types = 1;
-    return options;
-}
+void initialize_nothing(mirk_handle *, uint32_t, uint32_t *) { ++initialized; }
 
 }  // namespace
 
-TEST(TypeStore, CallsInitOnceAndFindsTheCopyByLuid) {
-    Handle h(private_types());
+TEST(TypeStore, CallsInitOnceAndFindsTheCopyByItsLuid) {
+    Handle h({.private_types = 1});
     Variants variants;
     mirk_type_info type = test::make_type(1, &variants.info), twin = type;
     registered = &type;
-    initialised = 0;
+    initialized = 0;
     mirk_type_info *copy = mirk_type_info_ptr_get(h, 7, &type, initialise);
     EXPECT_NE(copy, &type);
     EXPECT_EQ(mirk_type_info_ptr_get(h, 7, &twin, initialise), copy);
-    EXPECT_EQ(initialised, 1);
+    EXPECT_EQ(initialized, 1);
     EXPECT_STREQ(copy->luid_text, type.luid_text);
 }
 
 TEST(TypeStore, FallsBackToTheModulesRecord) {
-    Handle h(private_types());
+    Handle h({.private_types = 1});
     mirk_type_info type = test::make_type(1);
-    initialised = 0;
-    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, &type, initialise_nothing), &type);
-    EXPECT_EQ(initialised, 1);
-    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, nullptr, initialise_nothing), nullptr);
+    initialized = 0;
+    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, &type, initialize_nothing), &type);
+    EXPECT_EQ(initialized, 1);
+    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, nullptr, initialize_nothing), nullptr);
 }
 
-TEST(VariantInfo, ANewCopyGets129EntriesOfItsOwn) {
-    Handle h(private_types());
+TEST(VariantInfo, ANewCopyHas129EntriesOfItsOwn) {
+    Handle h({.private_types = 1});
     Variants variants;
     mirk_type_info type = test::make_type(1, &variants.info);
     mirk_type_info_copy copy{type, 0, 0};
@@ -75,7 +68,7 @@ TEST(VariantInfo, ANewCopyGets129EntriesOfItsOwn) {
 }
 
 TEST(VariantInfo, AKnownCopyGetsTheSizesOnly) {
-    Handle h(private_types());
+    Handle h({.private_types = 1});
     Variants variants;
     mirk_type_info type = test::make_type(1, &variants.info);
     mirk_type_info_copy copy{type, 0, 0};
@@ -89,8 +82,8 @@ TEST(VariantInfo, AKnownCopyGetsTheSizesOnly) {
     EXPECT_EQ(block->entries[0].num_live, 3u);
 }
 
-TEST(VariantInfo, WithoutMemoryTheBlockIsShared) {
-    Handle h(private_types());
+TEST(VariantInfo, TheBlockIsSharedIfAllocationFails) {
+    Handle h({.private_types = 1});
     Variants variants;
     mirk_type_info type = test::make_type(1, &variants.info);
     mirk_type_info_copy copy{type, 0, 0};
@@ -100,7 +93,7 @@ TEST(VariantInfo, WithoutMemoryTheBlockIsShared) {
     EXPECT_EQ(variants.entries[128].num_created, 11u);
 }
 
-TEST(Siblings, KeepTheLastHandlerGiven) {
+TEST(Siblings, StoreTheHandlerRegisteredLast) {
     const mirk_bundle_handler one = [](mirk_handle *, uint32_t, void *, uint32_t *) {};
     const mirk_bundle_handler two = [](mirk_handle *, uint32_t, void *, uint32_t *) { std::abort(); };
     EXPECT_EQ(veld_view_bundle_handler_register(one), nullptr);
@@ -111,7 +104,7 @@ TEST(Siblings, KeepTheLastHandlerGiven) {
     EXPECT_EQ(veld_comm_bundle_handler_unregister(), two);
 }
 
-TEST(Siblings, OwnTheIdentityOfRequests) {
+TEST(Siblings, DefineTheIdentityOfRequests) {
     EXPECT_EQ(message_ui_req_msg_luid[0], 0xb7);
     EXPECT_EQ(message_ui_req_msg_luid[15], 0xa5);
     EXPECT_STREQ(message_ui_req_msg_name, "message ui_req_msg");
