@@ -1,8 +1,10 @@
-/* Answers show requests for the debug levels of the client layer: answer_request SOCKET [WORD...], where a word such as
- * warn switches a level on. Ask it with "tarn show cl-debug --socket SOCKET". An interrupt ends it.
+/* Answers show requests for the debug levels of the client layer:
  *
- * Every request gets the levels as they are at that moment, in a bundle of one message; a request for anything else is
- * refused with a sentence. */
+ *     answer_request SOCKET [info|trace|warn]...
+ *     tarn show cl-debug --socket SOCKET
+ *
+ * The arguments enable levels. Each answer is a bundle of one message with the current levels. Requests for other
+ * bundles are refused. The program runs until it is interrupted. */
 #include <errno.h>
 #include <signal.h>
 #include <stdio.h>
@@ -23,8 +25,8 @@ struct levels {
     uint8_t info, trace, warn, error;
 };
 
-/* Returns the bytes of the whole answer, 0 with the error in the slot. A handle is opened for each answer, since the
- * peer says whether it wants per-field state. */
+/* Returns the size of the answer in bytes, or 0 and sets err. Each answer has its own handle, because the request
+ * decides whether the answer has state bytes. */
 static uint32_t write_answer(const struct levels *now, int tracked, uint8_t *frames, uint32_t size, uint32_t *err) {
     mirk_platform_handle_options options;
     mirk_platform_handle_options_init(&options);
@@ -55,11 +57,11 @@ static uint32_t write_answer(const struct levels *now, int tracked, uint8_t *fra
 }
 
 static void on_frame(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *frame, uint32_t size) {
-    uint8_t answer[1024 + 1]; /* one spare byte behind the size */
+    uint8_t answer[1024 + 1]; /* one guard byte after the size */
     mirk_platform_request request;
     uint32_t err = 0, length = 0;
     if (mirk_platform_request_decode(frame, size, &request) != 0) {
-        mirk_platform_server_disconnect(server, peer, "sent no request");
+        mirk_platform_server_disconnect(server, peer, "the frame is not a request");
         return;
     }
     if (strcmp(request.bundle, "lumo_tarn_cl_debug_rsp") == 0) {
@@ -69,7 +71,7 @@ static void on_frame(void *user, mirk_platform_server *server, mirk_platform_pee
     }
     if (err != 0) {
         length =
-            mirk_platform_refusal_encode(answer, 1024, 0, err, "only the levels of the client are known here", NULL);
+            mirk_platform_refusal_encode(answer, 1024, 0, err, "this program serves only lumo_tarn_cl_debug_rsp", NULL);
     }
     mirk_platform_server_send(server, peer, answer, length);
 }

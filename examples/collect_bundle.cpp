@@ -1,8 +1,10 @@
-// Asks for the traffic tables of the data plane, collects the bundle that answers, and prints its classes:
-// collect_bundle SOCKET. "tarn answer --socket SOCKET dp-tt-cfg=FILE" makes a process to ask.
+// Requests the traffic tables of the data plane, receives the bundle, and prints its traffic classes:
 //
-// The frames go through the runtime's dispatcher, so nothing is seen of an answer before all of it is there: the
-// handler runs when the commit comes, with all messages on the handle's list, and never for an answer that is aborted.
+//     tarn answer --socket SOCKET dp-tt-cfg=FILE &
+//     collect_bundle SOCKET
+//
+// The runtime's dispatcher keeps the messages of a bundle on the handle until the commit arrives. Then it calls the
+// bundle handler once. The handler is not called for a bundle that is aborted.
 #include <arpa/inet.h>
 #include <mirk_platform.h>
 
@@ -39,7 +41,7 @@ void print(dp_tt_msg_ref message) {
 }
 
 extern "C" void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *done, std::uint32_t *) {
-    context c(h, ctx_id, errors::kept);  // no exception may pass through the dispatcher
+    context c(h, ctx_id, errors::kept);  // exceptions must not pass through C code
     for (auto *item = mirk_platform_received_first(h); item != nullptr; item = mirk_platform_received_next(h, item)) {
         print({c, static_cast<lumo_tarn_dp_tt_msg *>(mirk_platform_received_message(item))});
     }
@@ -50,9 +52,9 @@ void check(std::uint32_t error, const char *what) {
     if (error != 0) throw std::system_error(static_cast<int>(error), std::generic_category(), what);
 }
 
-// What may arrive: the bundle's own messages.
-void enlist(mirk_handle *h) {
-    const mirk_platform_message known[] = {
+// Registers the messages that may arrive: those of the bundle.
+void register_messages(mirk_handle *h) {
+    const mirk_platform_message messages[] = {
         {message_lumo_tarn_dp_tt_cfg_rsp_bundle_start_luid, "start",
          lumo_tarn_dp_tt_cfg_rsp_bundle_start_message_unmarshal, nullptr, nullptr, nullptr},
         {message_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_luid, "abort",
@@ -73,28 +75,30 @@ void enlist(mirk_handle *h) {
          },
          nullptr},
     };
-    for (const mirk_platform_message &message : known) check(mirk_platform_dispatch_register(h, &message), "enlist");
+    for (const mirk_platform_message &message : messages)
+        check(mirk_platform_dispatch_register(h, &message), "register");
 }
 
 void collect(const char *socket) {
-    constexpr std::uint32_t patience_ms = 10000;
+    constexpr std::uint32_t timeout_ms = 10000;
     mirk_platform_handle_options options;
     mirk_platform_handle_options_init(&options);
     options.bundle_handler = on_bundle;
     const Handle h(mirk_platform_handle_open(&options), mirk_platform_handle_close);
-    enlist(h.get());
+    register_messages(h.get());
 
     mirk_platform_client *opened = nullptr;
-    check(mirk_platform_client_open(socket, 0, patience_ms, &opened), socket);
+    check(mirk_platform_client_open(socket, 0, timeout_ms, &opened), socket);
     const Client client(opened, mirk_platform_client_close);
-    std::uint8_t ask[MIRK_PLATFORM_REQUEST_SIZE_MAX];
-    const std::uint32_t length = mirk_platform_request_encode(ask, sizeof ask, 0, dp_tt_cfg_rsp::name, 0, nullptr);
-    check(mirk_platform_client_send(client.get(), ask, length, patience_ms), "ask");
+    std::uint8_t request[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+    const std::uint32_t length =
+        mirk_platform_request_encode(request, sizeof request, 0, dp_tt_cfg_rsp::name, 0, nullptr);
+    check(mirk_platform_client_send(client.get(), request, length, timeout_ms), "send");
 
     for (bool done = false; !done;) {
         void *bytes = nullptr;
         std::uint32_t size = 0;
-        check(mirk_platform_client_receive(client.get(), &bytes, &size, patience_ms), "receive");
+        check(mirk_platform_client_receive(client.get(), &bytes, &size, timeout_ms), "receive");
         mirk_platform_request refusal;
         if (mirk_platform_request_decode(bytes, size, &refusal) == 0) check(refusal.number, refusal.sentence);
         mirk_platform_frame frame;
@@ -102,7 +106,7 @@ void collect(const char *socket) {
         mirk_platform_report report;
         check(mirk_platform_dispatch(h.get(), 1, bytes, size, &done, &report), report.sentence);
         if (std::memcmp(frame.luid, message_lumo_tarn_dp_tt_cfg_rsp_bundle_abort_luid, sizeof frame.luid) == 0) {
-            check(ECANCELED, "the answering side aborted");
+            check(ECANCELED, "the server aborted the bundle");
         }
     }
 }

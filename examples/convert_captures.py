@@ -1,6 +1,6 @@
-"""Converts captures in bulk: convert_captures.py FROM TO writes FROM/NAME.bin as TO/NAME.json, a line for each message.
+"""Converts captures to JSON: convert_captures.py FROM TO reads FROM/NAME.bin and writes TO/NAME.json, a line per message.
 
-A capture that is broken is named, and the others are converted all the same; the exit code then is 1.
+An invalid capture is reported and skipped; the exit code is then 1.
 """
 
 import json
@@ -13,14 +13,14 @@ if len(sys.argv) != 3:
     sys.exit(__doc__)
 source, target = (pathlib.Path(name) for name in sys.argv[1:])
 target.mkdir(parents=True, exist_ok=True)
-broken = 0
+failures = 0
 for capture in sorted(source.glob("*.bin")):
     try:
         lines = [json.dumps(message.to_dict()) for message in lumo_tarn.messages(capture.read_bytes())]
     except (OSError, ValueError) as error:
         print(f"{capture.name}: {error}", file=sys.stderr)
-        broken += 1
+        failures += 1
         continue
     target.joinpath(capture.stem + ".json").write_text("".join(line + "\n" for line in lines))
     print(f"{capture.name}: {len(lines)} messages")
-sys.exit(1 if broken else 0)
+sys.exit(1 if failures else 0)

@@ -1,5 +1,5 @@
-/* Answers a debug request of the client layer: opens the bundle, fills one message, closes the bundle, and prints what
- * would go out. The block in the middle is the tour in README.md, line by line. */
+/* Writes the frames of an answer to a debug request of the client layer: opens the bundle, fills one message, commits
+ * the bundle, and prints the size. The README shows the block in the middle, line by line. */
 #include <stdio.h>
 
 #include <lumo_ui_tarn.h>

@@ -1,4 +1,4 @@
-"""Prints the traffic classes of a captured answer: print_classes.py FILE, as "tarn show dp-tt-cfg --save" keeps one."""
+"""Prints the traffic classes of a captured answer: print_classes.py FILE, from "tarn show dp-tt-cfg --save FILE"."""
 
 import sys
 

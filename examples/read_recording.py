@@ -1,5 +1,5 @@
-"""Reads what a recorder kept, and prints how each record changed from one message of its kind to the next:
-read_recording.py FILE, as "tarn record --rounds" keeps one.
+"""Prints the changes between successive messages of the same type in a recording: read_recording.py FILE, from
+"tarn record --rounds".
 """
 
 import pathlib
@@ -9,7 +9,7 @@ import lumo_tarn
 
 
 def changes(before, after, path=""):
-    """Paths and values of what differs, from two plain values of one form."""
+    """Yields path, old value and new value of each difference between two results of to_dict()."""
     if isinstance(after, dict):
         for name, value in after.items():
             yield from changes(before[name], value, f"{path}.{name}" if path else name)

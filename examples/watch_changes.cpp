@@ -1,8 +1,8 @@
-// Watches records for changes by their state bytes. Setters leave 2 in the state byte of what they write, so whoever
-// clears the bytes after a look sees at the next look what was written in between, at any depth, without a copy to
-// compare with. Needs a handle that tracks.
+// Finds changed members by their state bytes: a setter sets the state byte of its member to 2. Clearing the bytes after
+// each look shows the members that were written since, at any depth, without a copy to compare with. Requires a handle
+// that tracks state.
 //
-// The program plays both parts: something sets members of a table, and the watcher tells of them.
+// The program sets members of a table in two rounds and prints the changes after each.
 #include <mirk_platform.h>
 
 #include <cstdio>
@@ -17,7 +17,7 @@ namespace {
 constexpr std::uint8_t written = 2;
 
 template <class T>
-std::string shown(T value) {
+std::string text_of(T value) {
     if constexpr (std::is_same_v<T, std::string>) {
         return value;
     } else if constexpr (std::is_same_v<T, address>) {
@@ -29,23 +29,23 @@ std::string shown(T value) {
     }
 }
 
-// Prints what was written, and says that it has been seen. Works for every record there is.
+// Prints the members that were written and clears their state bytes. Works for every record.
 template <class R>
-void tell_changes(record_ref<R> record, const std::string &path) {
+void print_changes(record_ref<R> record, const std::string &path) {
     record_ref<R>::for_each_member([&](const auto &m) {
         if constexpr (!std::is_null_pointer_v<decltype(m.get_state)>) {
-            const std::string place = path + "." + std::string(m.name);
+            const std::string location = path + "." + std::string(m.name);
             const auto value = (record.*m.get)();
             using Value = std::decay_t<decltype(value)>;
-            if constexpr (std::is_null_pointer_v<decltype(m.set)>) {  // an array: ask each element
+            if constexpr (std::is_null_pointer_v<decltype(m.set)>) {  // an array: print the changes of each element
                 for (std::size_t i = 0; i < value.size(); ++i) {
-                    tell_changes(value[i], place + "[" + std::to_string(i) + "]");
+                    print_changes(value[i], location + "[" + std::to_string(i) + "]");
                 }
             } else if constexpr (std::is_class_v<Value> && !std::is_same_v<Value, std::string> &&
                                  !std::is_same_v<Value, address>) {
-                tell_changes(value, place);
+                print_changes(value, location);
             } else if ((record.*m.get_state)() == written) {
-                std::printf("  %s is now %s\n", place.c_str(), shown(value).c_str());
+                std::printf("  %s is now %s\n", location.c_str(), text_of(value).c_str());
                 (record.*m.set_state)(0);
             }
         }
@@ -55,27 +55,27 @@ void tell_changes(record_ref<R> record, const std::string &path) {
 void watch(mirk_handle *h) {
     context c(h);
     dp_tt_table table(c);
-    const auto look = [&](const char *when) {
+    const auto print = [&](const char *when) {
         std::printf("%s:\n", when);
-        tell_changes<dp_tt_table_type>(table, "table");
+        print_changes<dp_tt_table_type>(table, "table");
     };
-    look("at first");
+    print("initially");
 
     table.set_lumo_num(3).set_duration(60);
     const auto classes = table.agg_tc_list().tc_list();
     classes.grow(2);
     classes[1].set_proto(17).appl().set_id(5);
-    look("after the first round");
+    print("after the first round");
 
-    look("with nothing done");
+    print("without writes");
 
-    classes[1].set_proto(17);  // the same value, and written all the same
+    classes[1].set_proto(17);  // the same value also counts as written
     address prefix;
     prefix.af = 2;
     prefix.prefix_len = 8;
     prefix.word[0] = 0x0a000000;
     classes[0].set_src_prefix(prefix);
-    look("after the second round");
+    print("after the second round");
 }
 
 }  // namespace

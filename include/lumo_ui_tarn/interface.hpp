@@ -458,7 +458,8 @@ protected:
         }
         return value;
     }
-    /// The C setter takes an object: a copy of the present one with the new values, and with state bytes 2 for written.
+    /// The C setter takes an object: a copy of the present one with the new values, whose state bytes mark it as
+    /// written.
     template <class Object, class Get, class Set>
     static auto &write_address_(Object &object, Get get, Set set, const lumo_ui_tarn::address &value) {
         const ip_address *present = object.call_(get);

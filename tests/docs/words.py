@@ -72,7 +72,7 @@ RULES += [(whole(f"(?:{stems})"), "{}: American spelling") for stems in BRITISH]
 
 # Numbers that stand for an error. A number with a unit, a bound, and the number after an error's name are others; 2 is
 # an error only where the reason follows.
-ERROR = re.compile(r"(?<![\w.#])(?<!E[A-Z]{3} \()(?<!E[A-Z]{4} \()(?<!E[A-Z]{5} \()(?<!E[A-Z]{6} \()(?<!E[A-Z]{7} \()"
+ERROR = re.compile(r"(?<![\w.#+])(?<!E[A-Z]{3} \()(?<!E[A-Z]{4} \()(?<!E[A-Z]{5} \()(?<!E[A-Z]{6} \()(?<!E[A-Z]{7} \()"
                    r"(?<!below )(?<!above )(?<!least )(?<!most )(?<!than )(?<!= )(?<!bytes: )(?<!Returns )"
                    r"(?:(?:12|17|22|28|38|43|52|74|84|90|98|99|104|105|107|110|111)(?![\w-])(?!\.\d)"
                    r"(?! (?:bytes?|bits?|characters?|digits?|records?|messages?|bundles?|KiB|MiB|GiB|seconds)\b)"

@@ -50,7 +50,7 @@ def test_answer_request(tmp_path: pathlib.Path):
             states = {"@state": dict.fromkeys(levels, 2)} if options else {}
             assert message["payload"] == {**levels, **states}
         refusal = run(TOOL, "show", "dp-intf", "--socket", socket, code=1)
-        assert "only the levels of the client are known here" in refusal
+        assert "this program serves only lumo_tarn_cl_debug_rsp" in refusal
 
 
 @pytest.mark.parametrize("name", sorted(path.name for path in EXAMPLES.glob("*.py")))
@@ -87,13 +87,13 @@ def test_collect_bundle(tmp_path: pathlib.Path):
 
 def test_watch_changes():
     assert run(PROGRAMS / "watch_changes") == (
-        "at first:\n"
+        "initially:\n"
         "after the first round:\n"
         "  table.lumo_num is now 3\n"
         "  table.duration is now 60\n"
         "  table.agg_tc_list.tc_list[1].proto is now 17\n"
         "  table.agg_tc_list.tc_list[1].appl.id is now 5\n"
-        "with nothing done:\n"
+        "without writes:\n"
         "after the second round:\n"
         "  table.agg_tc_list.tc_list[0].src_prefix is now an address with prefix length 8\n"
         "  table.agg_tc_list.tc_list[1].proto is now 17\n"

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "names.h"
 #include "api.h"
+#include "names.h"
 #include "writers.h"
 
 namespace tarn::generate {
