@@ -6,7 +6,8 @@
 ///
 /// A member proto has these functions, without the setters on a const owner or a view:
 /// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
-/// - set_proto(value) writes the value and returns the object, so that calls chain. Setters copy.
+/// - set_proto(value) writes the value and returns the object, so that calls chain. Setters copy. EINVAL for text that
+///   contains a NUL, EOVERFLOW for text of more than 65535 bytes.
 /// - adopt_appl(record) moves a record into the nested record appl.
 /// - proto_state() returns the state byte, or nothing if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.

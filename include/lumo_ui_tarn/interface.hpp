@@ -2,7 +2,8 @@
 /// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include lumo_ui_tarn.hpp instead of this header.
 ///
 /// A context holds the arguments that all C functions take: handle, ctx_id and error slot. It also decides how errors
-/// are reported: thrown as std::system_error, or kept in the slot as in C.
+/// are reported: thrown as std::system_error, or kept in the slot as in C. A function reports the errors of the C
+/// functions that it calls, which lumo_ui_tarn/families.h lists, and those that this header names.
 ///
 /// A record has three types:
 /// - dp_tc owns an instance and destroys it. A const dp_tc is read-only.
@@ -531,7 +532,8 @@ public:
 
     /// The C object, or nullptr.
     typename R::native *get() const { return this->native_; }
-    /// Sets all state bytes, also those of array elements, without notifications.
+    /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
+    /// arrays in nested records keep theirs.
     void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
     template <class Visit>
@@ -578,7 +580,8 @@ public:
     const typename R::native *get() const { return this->native_; }
     /// Converts to a reference to the record.
     operator record_ref<R>() { return {this->context(), this->native_}; }
-    /// Sets all state bytes, also those of array elements, without notifications.
+    /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
+    /// arrays in nested records keep theirs.
     void set_all_states(std::uint8_t value) { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema. The functions need an owner
     /// that is not const; for a const one use view_type.
@@ -817,7 +820,7 @@ public:
         put(elements - 1, blank ? blank->get() : nullptr);
         return *this;
     }
-    /// Moves a record into an element, whose arrays and strings are freed first. Grows the array if necessary;
+    /// Moves a record into an element and frees the element's former arrays and strings. Grows the array if necessary;
     /// EOVERFLOW if index is not less than max_size().
     const array_ref &set(std::size_t index, record<element> &&value) const {
         const std::size_t before = size();

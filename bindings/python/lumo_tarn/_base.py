@@ -168,7 +168,8 @@ class Record(Native):
         self.members[member].set_state(self, value)
 
     def set_all_states(self, value: int) -> None:
-        """Writes all state bytes, also those of array elements."""
+        """Writes all state bytes of the record and of the elements of its own arrays. Elements of arrays in nested
+        records keep theirs."""
         self._function("set_all_state_tracking_flag")(self._handle.native, CTX_ID, self.native, value)
 
     def _is_tracked(self) -> bool:
