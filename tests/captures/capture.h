@@ -1,4 +1,4 @@
-// Network captures as a file, made from bytes that never were on a network.
+// Network capture files from given bytes.
 #pragma once
 
 #include <algorithm>
@@ -20,7 +20,7 @@ public:
         put<std::uint32_t>(228);     // packets begin with their IPv4 header
     }
 
-    // One TCP connection for each client port; its bytes go in segments of the size given.
+    // One TCP connection for each client port, in segments of the given size.
     void add(std::uint16_t client_port, std::uint16_t server_port, std::string_view bytes, std::size_t segment = 1400) {
         std::uint32_t sequence = 1;
         while (!bytes.empty()) {

@@ -1,4 +1,4 @@
-// What the dissector says of a capture is what the tool says of the same frames.
+// The dissector decodes captures like the tool decodes the same frames.
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 
@@ -104,7 +104,7 @@ json string_json(const std::string &digits) {
     }
 }
 
-// Booleans and enumerations carry their value whatever their variant is.
+// Booleans and enumerations have a value even if their variant is negative.
 json with_variant(const Field &field, const json &value) {
     const int variant = std::stoi(field.find("tarn.variant")->show);
     return variant < 0 ? json{{"@variant", variant}, {"@value", value}} : value;
@@ -118,7 +118,7 @@ json enumeration_json(const Field &field, const std::string &type) {
     return names[number];
 }
 
-// The words of an address stand in brackets, which a filter cannot have.
+// The names of the words of an address have brackets, which a filter cannot contain.
 std::string filter_of(const reference::RecordTable &table, const reference::MemberTable &member) {
     std::string name = "tarn." + table.name + "." + member.name;
     std::erase_if(name, [](char c) { return c == '[' || c == ']'; });
@@ -196,7 +196,7 @@ json record_json(const Field &field, const reference::RecordTable &table) {
         if (found != nullptr) {
             all[member.name] = member_json(*found, member);
         } else {
-            // What is empty takes no byte behind its length or count.
+            // An empty string or array has no bytes after its length or count.
             all[member.name] = member.cls == reference::Class::string ? json("") : json::array();
         }
     }
@@ -228,7 +228,7 @@ void expect_equal(const std::string &bytes, const Capture &capture) {
     }
 }
 
-TEST(Dissector, SaysOfEveryMessageWhatTheToolSays) {
+TEST(Dissector, DecodesEveryMessageLikeTheTool) {
     std::string bytes;
     for (const reference::MessageTable &message : reference::messages()) {
         for (const bool tracked : {false, true}) {
@@ -242,7 +242,7 @@ TEST(Dissector, SaysOfEveryMessageWhatTheToolSays) {
     expect_equal(bytes, capture);
 }
 
-TEST(Dissector, JoinsFramesThatComeInPieces) {
+TEST(Dissector, JoinsFramesFromSeveralSegments) {
     const reference::BundleTable &bundle = reference::bundles().front();
     const std::string bytes =
         tool_test::answer(bundle, tool_test::plain_payload(reference::message_table(bundle.message), 3), true);
@@ -262,14 +262,14 @@ TEST(Dissector, FindsFramesOnAnyPort) {
     Capture capture;
     capture.add(40000, other_port, bytes, 100);
     capture.add(40001, other_port, "GET / HTTP/1.0\r\n\r\n");
-    capture.add(40002, other_port, "\xbc and nothing else that would make it a frame, though it is long enough");
+    capture.add(40002, other_port, "\xbc and no more of a frame, although it is long enough");
     expect_equal(bytes, capture);
 }
 
 TEST(Dissector, EveryMemberIsAFilter) {
     const Outcome outcome = tool_test::run(TARN_TSHARK, {"-G", "fields", "-X", "lua_script:" TARN_DISSECTOR});
     ASSERT_EQ(outcome.exit, 0) << outcome.err;
-    // The label and the name of each field that a filter may ask for.
+    // Label and filter name of each field.
     std::set<std::string> known;
     for (const std::string &line : lines(outcome.out)) {
         if (line.starts_with("F\t")) known.insert(line.substr(2, line.find('\t', line.find('\t', 2) + 1) - 2));
@@ -299,7 +299,7 @@ TEST(Dissector, FiltersByValue) {
 }
 
 TEST(Dissector, ReadsRequestsAndRefusals) {
-    // What two processes say over a socket file is put into a capture, both directions one behind the other.
+    // The traffic of two processes over a socket file, first one direction and then the other, becomes a capture.
     const Directory directory;
     const tool_test::Socket listener = tool_test::Socket::listen_on(directory.path("asked"));
     const tool_test::Process client({"show", "dp-intf", "--tracked", "--socket", directory.path("asked")});
@@ -324,11 +324,11 @@ TEST(Dissector, ReadsRequestsAndRefusals) {
     EXPECT_EQ(frames[1].find("tarn.number")->show, std::to_string(ENOENT));
 }
 
-// What the tool says of a frame that it cannot read.
+// The error of the tool for a broken frame.
 std::optional<std::string> break_of(const std::string &bytes) {
-    const Outcome told = tool_test::tarn({"dissect", "--json"}, bytes);
-    if (told.exit == 0) return std::nullopt;
-    const json broken = json::parse(told.out).back().at("broken");
+    const Outcome dissected = tool_test::tarn({"dissect", "--json"}, bytes);
+    if (dissected.exit == 0) return std::nullopt;
+    const json broken = json::parse(dissected.out).back().at("broken");
     const std::string path = broken.at("path"), reason = broken.at("reason");
     return path.empty() ? reason : path + ": " + reason;
 }
@@ -344,7 +344,7 @@ TEST(Dissector, MarksBrokenFramesWithTheReason) {
     options.min_elements = options.max_elements = 1;
     Capture capture;
     std::vector<std::string> expected;
-    // Is the frame broken? Then it is put into the capture.
+    // Adds the frame to the capture if it is broken.
     const auto add = [&](const std::string &bytes) {
         const std::optional<std::string> reason = break_of(bytes);
         if (!reason) return false;
@@ -376,7 +376,7 @@ TEST(Dissector, MarksBrokenFramesWithTheReason) {
     EXPECT_EQ(lines(outcome.out), expected);
 }
 
-TEST(Dissector, MarksBytesThatAreNoFrame) {
+TEST(Dissector, MarksBytesThatAreNotAFrame) {
     const std::string good = tool_test::control(reference::bundles().front(), "start");
     Capture capture;
     capture.add(40001, port, "hello");
@@ -384,9 +384,9 @@ TEST(Dissector, MarksBytesThatAreNoFrame) {
     capture.add(40003, port, with_length(good, 42));
     capture.add(40004, port, with_length(good, 16777217));
     const Outcome outcome = tshark(capture, {"-Y", "tarn.no_frame", "-T", "fields", "-e", "_ws.expert.message"});
-    EXPECT_EQ(lines(outcome.out), (std::vector<std::string>{"the marker is missing", "the marker is missing",
-                                                            "a frame cannot have the total length 42",
-                                                            "a frame cannot have the total length 16777217"}))
+    EXPECT_EQ(lines(outcome.out),
+              (std::vector<std::string>{"the marker is missing", "the marker is missing", "invalid total length 42",
+                                        "invalid total length 16777217"}))
         << outcome.err;
 }
 

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Completes command lines as bash does when the tabulator is pressed.  bash_test.sh TARN SCRIPT
+# Completes command lines as bash does for the Tab key.  bash_test.sh TARN SCRIPT
 set -u
 PATH=$(dirname "$1"):$PATH
 source /usr/share/bash-completion/bash_completion
@@ -9,15 +9,15 @@ touch answer.xml
 mkdir folder
 failures=0
 
-# compopt works inside a completion alone; what is asked of it is noted here.
+# compopt works only during completion; this records its arguments.
 compopt() { options+="$* "; }
 
-# complete_line "LINE" gives what is offered for its last word, sorted, in one line.
+# complete_line "LINE" prints the sorted candidates for the last word, in one line.
 complete_line() {
     COMP_LINE=$1
     COMP_POINT=${#COMP_LINE}
     COMP_WORDS=()
-    # As readline splits it: blanks separate words, an equals sign is one of its own.
+    # Splits like readline: blanks separate words, and an equals sign is a word.
     local word rest
     for word in $1; do
         while [[ $word == *=* ]]; do

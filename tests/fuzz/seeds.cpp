@@ -107,7 +107,7 @@ void tool() {
     set_up_trace(false);
     for (const reference::MessageTable &table : reference::messages()) {
         const std::string frame = text_of(reference::message_frame(table.name, value_of(table.payload, true), true, 7));
-        const Handles handles(tarn::tool::Tracking::as_given);
+        const Handles handles(tarn::tool::Tracking::as_input);
         const std::vector<Item> items = items_of(handles, frame, "seed", false);
         files["tool/" + table.name + "-json"] = head({0}) + rendered(items.at(0), Style::json);
         files["tool/" + table.name + "-recording"] = head({0}) + "<bundle_start name=\"" + table.bundles.at(0) +

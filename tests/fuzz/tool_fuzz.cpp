@@ -22,7 +22,7 @@ constexpr unsigned lenient_bit = 0, tracking_bit = 1, falls_bit = 3;
 void read(std::string_view content, const fuzz::Choice &choice) {
     const Handles handles(choice.bit(tracking_bit)       ? Tracking::on
                           : choice.bit(tracking_bit + 1) ? Tracking::off
-                                                         : Tracking::as_given);
+                                                         : Tracking::as_input);
     const std::vector<Item> items = items_of(handles, content, "input", choice.bit(lenient_bit));
     std::string all;
     for (const Item &item : items) {

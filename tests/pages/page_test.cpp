@@ -1,4 +1,4 @@
-// The pages of the tool in a browser without a window: what is pointed at, typed and clicked, and what comes of it.
+// The HTML pages of the tool in a headless browser: pointing, typing and clicking, and their effect.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -39,7 +39,7 @@ Outcome chromium(const std::string &file, const std::vector<std::string> &more) 
     return tool_test::run(TARN_CHROMIUM, all);
 }
 
-// What a user does, in the page's own language.
+// Actions of a user.
 const char *const helpers = R"(
 const rowAt = path => [...document.querySelectorAll('.row')].find(r => r.dataset.path === path);
 const pointAt = target => target.dispatchEvent(new MouseEvent('mouseover', {bubbles: true}));
@@ -57,7 +57,7 @@ const press = key =>
 const found = () => document.getElementById('found').textContent;
 )";
 
-// Runs statements that fill in `seen`, behind the page's own; errors of either go into it.
+// Runs statements after the script of the page. They fill in `seen`, which also gets the errors of both.
 json seen_in(std::string page, const std::string &statements) {
     const Directory directory;
     replace(page, "<body>", "<body><script>const errors = []; onerror = text => { errors.push(text); };</script>");
@@ -96,7 +96,7 @@ std::string debug_answer(unsigned info, unsigned warn) {
     return tool_test::answer(bundle, payload, false);
 }
 
-// Behind a start of 43 bytes: the frame's 43, then variant, flag and jump, then four numbers of four bytes.
+// After a start of 43 bytes: 43 bytes of the frame, then variant, flag and jump, then four numbers of four bytes.
 constexpr unsigned members_at = 43 + 43 + 6;
 
 json bytes(unsigned from, unsigned count) {
@@ -105,7 +105,7 @@ json bytes(unsigned from, unsigned count) {
     return all;
 }
 
-TEST(View, PointingMarksBytesAndMembers) {
+TEST(View, HoveringHighlightsBytesAndMembers) {
     const Directory directory;
     const json seen = seen_in(page_of({directory.write("a.bin", debug_answer(1, 5))}), R"(
         pointAt(rowAt('payload.warn_enabled'));
@@ -133,7 +133,7 @@ TEST(View, PointingMarksBytesAndMembers) {
     EXPECT_NE(seen.at("detail").get<std::string>().find("switch of warning-level debug output"), std::string::npos);
 }
 
-TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
+TEST(View, SearchFindsNamesAndValuesInFoldedMembers) {
     const Directory directory;
     const reference::MessageTable &message = reference::message_table("lumo_tarn_dp_appl_msg");
     reference::GeneratorOptions options;
@@ -150,13 +150,13 @@ TEST(View, FindsByNameAndByValueWhereverItIsFoldedAway) {
         seen.name = [found(), heldRows()];
         type('');
         seen.nothing = found();
-        seen.intruders = document.querySelectorAll('img, #broken').length;
+        seen.injected = document.querySelectorAll('img, #broken').length;
         seen.title = document.title;
         seen.owned = [...sides[0].data.keys()].every(at => ownerOf(0, at) !== null);)");
     EXPECT_EQ(seen.at("value"), (json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}));
     EXPECT_EQ(seen.at("name"), (json{"2 of 2", {"payload.lumo_data[1].sig_list"}}));
     EXPECT_EQ(seen.at("nothing"), "");
-    EXPECT_EQ(seen.at("intruders"), 0);
+    EXPECT_EQ(seen.at("injected"), 0);
     EXPECT_EQ(seen.at("title"), name + " - tarn");
     EXPECT_EQ(seen.at("owned"), true);
 }
@@ -184,7 +184,7 @@ TEST(View, ShowsADifference) {
     EXPECT_EQ(seen.at("next"), (json{"2 of 2 changes", {"payload.warn_enabled"}}));
 }
 
-TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
+TEST(View, ShowsABrokenFrameUpToTheError) {
     const Directory directory;
     std::string broken = debug_answer(1, 5);
     broken.resize(members_at + 6);
@@ -201,8 +201,8 @@ TEST(View, ShowsWhatIsGoodOfABrokenFrame) {
     EXPECT_EQ(seen.at("bytes"), bytes(members_at, 4));
 }
 
-// The page has forms of pieces and bytes, and makes names and values of them; they are those that the tool tells.
-TEST(View, TellsEachPieceAsTheDissectionDoes) {
+// The page derives names and values from shapes and bytes. They must be those of tarn dissect.
+TEST(View, ShowsTheSamePiecesAsDissect) {
     const Directory directory;
     reference::GeneratorOptions options;
     options.min_elements = 2;
@@ -224,11 +224,11 @@ TEST(View, TellsEachPieceAsTheDissectionDoes) {
         };
         roots.forEach(walk);
         seen.pieces = pieces.sort((a, b) => a[0] - b[0]);)");
-    const Outcome told = tool_test::tarn({"dissect", "--json", name});
-    ASSERT_EQ(told.exit, 0) << told.err;
+    const Outcome dissected = tool_test::tarn({"dissect", "--json", name});
+    ASSERT_EQ(dissected.exit, 0) << dissected.err;
     json pieces = json::array();
     std::size_t number = 0;
-    for (const json &frame : json::parse(told.out)) {
+    for (const json &frame : json::parse(dissected.out)) {
         for (const json &p : frame.at("pieces")) {
             const std::string path = std::to_string(number) + ":" + p.at("path").get<std::string>();
             pieces.push_back({p.at("offset"), p.at("size"), path, p.at("kind"), p.at("value")});
@@ -239,8 +239,8 @@ TEST(View, TellsEachPieceAsTheDissectionDoes) {
     EXPECT_EQ(seen.at("pieces"), pieces);
 }
 
-// Elements of one form take little more than their bytes.
-TEST(View, GrowsWithTheBytesThatItShows) {
+// Elements of the same shape take little more than their bytes.
+TEST(View, SizeIsProportionalToItsBytes) {
     const Directory directory;
     const auto size = [&](const std::string &frame_size) {
         const std::string file = directory.path("answer.bin");
@@ -252,7 +252,7 @@ TEST(View, GrowsWithTheBytesThatItShows) {
     EXPECT_LT(size("128K") - size("32K"), 2 * (128 - 32) * 1024);
 }
 
-TEST(View, OpensALongListWhereSomebodyLooks) {
+TEST(View, CreatesOnlyTheVisibleRowsOfALongList) {
     const Directory directory;
     const std::string frames = directory.path("answer.bin");
     ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit, 0);
@@ -270,7 +270,7 @@ TEST(View, OpensALongListWhereSomebodyLooks) {
     EXPECT_EQ(seen.at("many"), "1 of 5000 or more");
 }
 
-TEST(View, ShowsARecordOfANewerForm) {
+TEST(View, ShowsARecordOfANewerVersion) {
     const Directory directory;
     std::string newer = debug_answer(1, 5);
     newer.insert(members_at + 16, "new");
@@ -282,7 +282,7 @@ TEST(View, ShowsARecordOfANewerForm) {
         pointAt(rowAt('payload.@skipped'));
         seen.skipped = [markedBytes(0), rowAt('payload.@skipped').textContent];)");
     EXPECT_EQ(seen.at("warn"), bytes(members_at + 8, 4));
-    EXPECT_EQ(seen.at("skipped"), (json{bytes(members_at + 16, 3), "@skipped3 bytes of a newer form"}));
+    EXPECT_EQ(seen.at("skipped"), (json{bytes(members_at + 16, 3), "@skipped3 bytes of a newer version"}));
 }
 
 TEST(View, ReadsXmlAndJsonAsFrames) {
@@ -301,7 +301,7 @@ TEST(View, ReadsXmlAndJsonAsFrames) {
     EXPECT_EQ(bytes.begin()->size(), (frames.size() + 2) / 3 * 4);
 }
 
-TEST(View, RefusesWhatItCannotRead) {
+TEST(View, RefusesInvalidInput) {
     const Directory directory;
     EXPECT_EQ(tool_test::tarn({"view"}).exit, 2);
     EXPECT_EQ(tool_test::tarn({"view", "-"}, "").exit, 2);
@@ -345,7 +345,7 @@ TEST(Schema, PageHasEveryRecordAndItsMembers) {
     EXPECT_EQ(tool_test::tarn({"schema", "lumo_tarn_dp_tc", "--html"}).exit, 2);
 }
 
-TEST(Pages, FetchNothingAndCanBePainted) {
+TEST(Pages, LoadNothingAndRender) {
     const Directory directory;
     for (std::string page :
          {page_of({directory.write("a.bin", debug_answer(1, 5))}), tool_test::tarn({"schema", "--html"}).out}) {
@@ -356,7 +356,7 @@ TEST(Pages, FetchNothingAndCanBePainted) {
         const std::string picture = directory.path("page.png");
         chromium(directory.write("page.html", page), {"--screenshot=" + picture});
         const std::string png = directory.read("page.png");
-        ASSERT_GT(png.size(), 20000U);  // one colour all over takes far less
+        ASSERT_GT(png.size(), 20000U);  // a single color takes far less
         EXPECT_EQ(png.substr(0, 4), "\x89PNG");
         EXPECT_EQ(png.substr(16, 8), std::string("\0\0\5\0\0\0\3\x20", 8));
     }

@@ -13,14 +13,14 @@ namespace {
 
 const char *const bundle = "lumo_tarn_dp_tt_cfg_rsp";
 
-// The address sanitizer keeps what is freed for a while, which is no growth that anybody should hear of.
-void keep_little() {
+// The quarantine of the address sanitizer must not count as memory growth.
+void limit_quarantine() {
     const char *set = std::getenv("ASAN_OPTIONS");
     setenv("ASAN_OPTIONS", ((set != nullptr ? std::string(set) + ":" : "") + "quarantine_size_mb=1").c_str(), 1);
 }
 
 std::vector<std::string> arguments_of(const Directory &directory, std::vector<std::string> more) {
-    keep_little();
+    limit_quarantine();
     const Outcome tables = tarn({"generate", "dp-tt-cfg", "--elements", "10", "--form", "frames", "--seed", "1"});
     if (tables.exit != 0) throw std::runtime_error(tables.err);
     more.push_back("dp-tt-cfg=" + directory.write("tables.bin", tables.out));
@@ -36,7 +36,7 @@ std::vector<std::string> arguments_of(const Directory &directory, std::vector<st
 
 std::string table_request() { return request(bundle); }
 
-Besieged::Besieged(const std::vector<std::string> &more)
+LimitedServer::LimitedServer(const std::vector<std::string> &more)
     : server_(arguments_of(directory_, more)),
       answer_size_(directory_.read("tables.bin").size() +
                    2 * control(reference::bundle_table(bundle), "start").size()) {}
@@ -46,61 +46,61 @@ Socket Crowd::connect() {
     return Socket::connect_to(socket_);
 }
 
-void Crowd::ask(std::size_t clients) {
-    std::vector<Socket> asking;
+void Crowd::request(std::size_t clients) {
+    std::vector<Socket> sockets;
     for (std::size_t i = 0; i < clients; ++i) {
-        asking.push_back(connect());
-        asking.back().send(table_request());
+        sockets.push_back(connect());
+        sockets.back().send(table_request());
     }
-    for (const Socket &socket : asking) answered_ += socket.receive(answer_size_).size() == answer_size_ ? 1 : 0;
-    asked_ += clients;
+    for (const Socket &socket : sockets) answered_ += socket.receive(answer_size_).size() == answer_size_ ? 1 : 0;
+    requests_ += clients;
 }
 
-void Crowd::send_rubbish(std::size_t clients) {
+void Crowd::send_garbage(std::size_t clients) {
     for (std::size_t i = 0; i < clients; ++i) connect().send(std::string(1 + 997 * i, static_cast<char>('a' + i % 26)));
 }
 
-void Crowd::vanish_within_a_frame(std::size_t clients) {
+void Crowd::disconnect_within_a_frame(std::size_t clients) {
     const std::string whole = table_request();
     for (std::size_t i = 0; i < clients; ++i)
         connect().send(std::string_view(whole).substr(0, 1 + i % (whole.size() - 1)));
 }
 
-void Crowd::send_too_long_a_frame(std::size_t clients) {
+void Crowd::send_a_long_frame(std::size_t clients) {
     std::string head = table_request();
-    head[13] = 1;  // 64 KiB more than there is
+    head[13] = 1;  // 64 KiB more than the frame has
     for (std::size_t i = 0; i < clients; ++i) {
-        hanging_on_.push_back(connect());
-        hanging_on_.back().send(head);
+        open_.push_back(connect());
+        open_.back().send(head);
     }
 }
 
 void Crowd::stall(std::size_t clients) {
     const std::string whole = table_request();
     for (std::size_t i = 0; i < clients; ++i) {
-        hanging_on_.push_back(connect());
-        hanging_on_.back().send(std::string_view(whole).substr(0, 1 + i % (whole.size() - 1)));
+        open_.push_back(connect());
+        open_.back().send(std::string_view(whole).substr(0, 1 + i % (whole.size() - 1)));
     }
 }
 
 void Crowd::never_read(std::size_t clients) {
-    // What a socket takes, what may pile up, and as much again.
+    // Twice the buffer of a socket and the limit on unread bytes.
     const std::size_t enough = (std::size_t{2} << 20) / answer_size_ + 1;
     std::string requests;
     for (std::size_t i = 0; i < enough; ++i) requests += table_request();
     for (std::size_t i = 0; i < clients; ++i) {
-        hanging_on_.push_back(connect());
-        hanging_on_.back().send(requests);
+        open_.push_back(connect());
+        open_.back().send(requests);
     }
 }
 
-void Crowd::let_go(std::size_t left) {
-    while (hanging_on_.size() > left) hanging_on_.pop_front();
+void Crowd::close_oldest(std::size_t left) {
+    while (open_.size() > left) open_.pop_front();
 }
 
-void Crowd::wait_until_turned_out() {
-    for (const Socket &socket : hanging_on_) socket.receive();
-    hanging_on_.clear();
+void Crowd::wait_until_disconnected() {
+    for (const Socket &socket : open_) socket.receive();
+    open_.clear();
 }
 
 }  // namespace tool_test

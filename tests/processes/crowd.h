@@ -1,4 +1,4 @@
-// Clients of an answering process of which few behave: what a hostile network may send to it.
+// Clients of an answering process, most of them hostile or faulty.
 #pragma once
 
 #include <cstdint>
@@ -10,16 +10,16 @@
 
 namespace tool_test {
 
-// The answering process that they come to, with limits that are soon reached. It serves dp-tt-cfg with a message of
-// some tens of kilobytes, so that few answers fill what a socket takes.
-class Besieged {
+// An answering process with low limits. It serves dp-tt-cfg with a message of some tens of kilobytes, so that few
+// answers fill the buffer of a socket.
+class LimitedServer {
 public:
-    explicit Besieged(const std::vector<std::string> &more = {});
+    explicit LimitedServer(const std::vector<std::string> &more = {});
 
     Server &server() { return server_; }
     const Server &server() const { return server_; }
     bool is_ready() const { return server_.is_ready(); }
-    // The bytes of one answer.
+    // The size of one answer in bytes.
     std::size_t answer_size() const { return answer_size_; }
 
 private:
@@ -28,34 +28,34 @@ private:
     std::size_t answer_size_;
 };
 
-// A hundred connections at once hold some ten MiB, which the allocator of the process gives back or keeps, as it falls
-// out. More than that, and it has grown.
-inline constexpr std::size_t allocator_play_kib = 16384;
+// A hundred concurrent connections use about ten MiB, which the allocator of the process may keep or return to the
+// system. More than this is memory growth.
+inline constexpr std::size_t allocator_tolerance_kib = 16384;
 
-// What the clients ask for.
+// The request that the clients send.
 std::string table_request();
 
-// Rounds of clients, in one thread and with nothing random: each round does the same.
+// Rounds of clients, in one thread and without randomness, so all rounds are the same.
 class Crowd {
 public:
     Crowd(std::string socket, std::size_t answer_size) : socket_(std::move(socket)), answer_size_(answer_size) {}
 
-    // Clients that ask and read; counted as answered if the whole answer comes.
-    void ask(std::size_t clients);
-    void send_rubbish(std::size_t clients);
-    void vanish_within_a_frame(std::size_t clients);
-    void send_too_long_a_frame(std::size_t clients);
-    // Begin a frame and keep still.
+    // Clients that send a request and read the answer. They count as answered if it is complete.
+    void request(std::size_t clients);
+    void send_garbage(std::size_t clients);
+    void disconnect_within_a_frame(std::size_t clients);
+    void send_a_long_frame(std::size_t clients);
+    // Send a part of a frame and stay connected.
     void stall(std::size_t clients);
-    // Ask until the process has enough of them, and read nothing.
+    // Send requests until the answers exceed the limit, and read nothing.
     void never_read(std::size_t clients);
 
-    // Lets go of the oldest that still hang on, until no more than so many are left.
-    void let_go(std::size_t left);
-    // Waits until the process has closed every connection that hangs on.
-    void wait_until_turned_out();
+    // Closes the oldest open connections until at most `left` are open.
+    void close_oldest(std::size_t left);
+    // Waits until the process has closed every open connection.
+    void wait_until_disconnected();
 
-    std::uint64_t asked() const { return asked_; }
+    std::uint64_t requests() const { return requests_; }
     std::uint64_t answered() const { return answered_; }
     std::uint64_t clients() const { return clients_; }
 
@@ -64,8 +64,8 @@ private:
 
     std::string socket_;
     std::size_t answer_size_;
-    std::deque<Socket> hanging_on_;
-    std::uint64_t asked_ = 0, answered_ = 0, clients_ = 0;
+    std::deque<Socket> open_;
+    std::uint64_t requests_ = 0, answered_ = 0, clients_ = 0;
 };
 
 }  // namespace tool_test

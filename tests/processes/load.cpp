@@ -1,5 +1,5 @@
-// An answering process under load: load --minutes M, or load --rounds N. Prints what it did and what it holds, and
-// fails if its memory or its open files have grown.
+// Loads an answering process: load --minutes M, or load --rounds N. Prints its progress, its memory and its open files,
+// and fails if one of these has grown.
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -12,32 +12,32 @@ namespace {
 
 class Load {
 public:
-    bool is_ready() const { return besieged_.is_ready(); }
+    bool is_ready() const { return limited_.is_ready(); }
 
-    // Twenty clients, of which eight behave; some of the others hang on for a few rounds.
+    // Twenty clients, eight of which behave. Some of the others stay connected for a few rounds.
     void round() {
         crowd_.stall(2);
-        crowd_.send_rubbish(3);
-        crowd_.vanish_within_a_frame(3);
-        crowd_.send_too_long_a_frame(2);
+        crowd_.send_garbage(3);
+        crowd_.disconnect_within_a_frame(3);
+        crowd_.send_a_long_frame(2);
         crowd_.never_read(2);
-        crowd_.ask(8);
-        crowd_.let_go(30);
-        if (++rounds_ % 50 == 0) rest();
+        crowd_.request(8);
+        crowd_.close_oldest(30);
+        if (++rounds_ % 50 == 0) disconnect_all();
     }
-    // More come than are served, nobody leaves by himself, and then all are gone but the process.
-    void rest() {
+    // Connects more clients than are served, and waits until the process has disconnected all of them.
+    void disconnect_all() {
         crowd_.stall(120);
-        crowd_.wait_until_turned_out();
-        if (!process().comes_down_to(files_)) ++late_;
+        crowd_.wait_until_disconnected();
+        if (!process().reaches_open_files(files_)) ++leaks_;
     }
 
-    // Rounds until memory has found its level.
+    // Rounds until the memory is stable.
     void warm_up() {
         std::printf("%10s %10s %10s %14s %12s\n", "rounds", "clients", "answered", "resident KiB", "open files");
         show();
         for (int i = 0; i < 100; ++i) round();
-        rest();
+        disconnect_all();
         level_ = process().resident_kib();
         show();
     }
@@ -48,9 +48,9 @@ public:
         std::fflush(stdout);
     }
 
-    // Says what came of it.
-    bool is_well() {
-        rest();
+    // Prints the summary. False if something has failed or grown.
+    bool finish() {
+        disconnect_all();
         show();
         const std::size_t resident = process().resident_kib(), files = process().open_files();
         const Outcome end = process().stop();
@@ -59,24 +59,24 @@ public:
              {"frame exceeds the limit", "too long for one frame", "pile up unread", "peers already"}) {
             std::printf("%10zu %s\n", occurrences(end.err, reason), reason);
         }
-        const bool flat = resident <= level_ + allocator_play_kib;
-        std::printf("memory is %s: %zu KiB at the end, %zu KiB after the first hundred rounds\n",
-                    flat ? "flat" : "not flat", resident, level_);
-        if (crowd_.answered() != crowd_.asked()) std::printf("not everybody who asked was answered\n");
-        if (files != files_ || late_ != 0) std::printf("files stayed open\n");
-        if (end.exit != 0) std::printf("the process ended with %d\n", end.exit);
-        return flat && crowd_.answered() == crowd_.asked() && files == files_ && late_ == 0 && end.exit == 0;
+        const bool stable = resident <= level_ + allocator_tolerance_kib;
+        std::printf("memory %s: %zu KiB at the end, %zu KiB after the first hundred rounds\n",
+                    stable ? "has not grown" : "has grown", resident, level_);
+        if (crowd_.answered() != crowd_.requests()) std::printf("not all requests were answered\n");
+        if (files != files_ || leaks_ != 0) std::printf("the process has not closed all files\n");
+        if (end.exit != 0) std::printf("the process ended with exit code %d\n", end.exit);
+        return stable && crowd_.answered() == crowd_.requests() && files == files_ && leaks_ == 0 && end.exit == 0;
     }
 
 private:
-    const Process &process() const { return besieged_.server().process(); }
-    Process &process() { return besieged_.server().process(); }
+    const Process &process() const { return limited_.server().process(); }
+    Process &process() { return limited_.server().process(); }
 
-    Besieged besieged_{{"--peers", "100", "--frame-time", "0.1"}};
-    Crowd crowd_{besieged_.server().socket(), besieged_.answer_size()};
+    LimitedServer limited_{{"--peers", "100", "--frame-time", "0.1"}};
+    Crowd crowd_{limited_.server().socket(), limited_.answer_size()};
     std::size_t files_ = process().open_files();
     std::size_t level_ = 0;
-    unsigned rounds_ = 0, late_ = 0;
+    unsigned rounds_ = 0, leaks_ = 0;
 };
 
 void run_rounds(Load &load, unsigned rounds) {
@@ -101,8 +101,8 @@ void run_minutes(Load &load, double minutes) {
 
 int main(int argc, char **argv) {
     const bool timed = argc == 3 && std::strcmp(argv[1], "--minutes") == 0;
-    const double much = argc == 3 ? std::atof(argv[2]) : 0;
-    if (!(timed || (argc == 3 && std::strcmp(argv[1], "--rounds") == 0)) || much <= 0 || much > 1e6) {
+    const double amount = argc == 3 ? std::atof(argv[2]) : 0;
+    if (!(timed || (argc == 3 && std::strcmp(argv[1], "--rounds") == 0)) || amount <= 0 || amount > 1e6) {
         std::fprintf(stderr, "usage: load --minutes MINUTES | --rounds ROUNDS\n");
         return 2;
     }
@@ -110,9 +110,9 @@ int main(int argc, char **argv) {
     if (!load.is_ready()) return 3;
     load.warm_up();
     if (timed) {
-        run_minutes(load, much);
+        run_minutes(load, amount);
     } else {
-        run_rounds(load, static_cast<unsigned>(much));
+        run_rounds(load, static_cast<unsigned>(amount));
     }
-    return load.is_well() ? 0 : 1;
+    return load.finish() ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// The library forgives what it does not know in XML; the tool tells of it, with the line, unless told to be lenient.
+// The library ignores unknown XML; the tool reports it with its line unless it is lenient.
 #include <gtest/gtest.h>
 
 #include "process.h"
@@ -10,7 +10,7 @@ namespace {
 struct Mistake {
     std::string name;
     std::string xml;
-    std::string words;
+    std::string message;
     bool lenient_passes = true;
 };
 
@@ -36,10 +36,10 @@ std::string application(const std::string &members) {
 
 class XmlMistake : public testing::TestWithParam<Mistake> {};
 
-TEST_P(XmlMistake, IsNamedWithItsLine) {
+TEST_P(XmlMistake, IsReportedWithItsLine) {
     const Outcome strict = tarn({"encode"}, GetParam().xml);
     EXPECT_EQ(strict.exit, 2);
-    EXPECT_NE(strict.err.find("standard input:" + GetParam().words), std::string::npos) << strict.err;
+    EXPECT_NE(strict.err.find("standard input:" + GetParam().message), std::string::npos) << strict.err;
     EXPECT_EQ(strict.out, "");
     const Outcome lenient = tarn({"encode", "--lenient"}, GetParam().xml);
     EXPECT_EQ(lenient.exit, GetParam().lenient_passes ? 0 : 2) << lenient.err;
@@ -54,19 +54,19 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"misspelt_member", debug("<info_enabeld>1</info_enabeld>"),
                 "3: " + path + ": lumo_tarn_debug_setting has no member \"info_enabeld\"; did you mean info_enabled?"},
         Mistake{"value_too_wide", debug("<info_enabled>4294967296</info_enabled>"),
-                "3: " + path + "/info_enabled: \"4294967296\" is no number from 0 to 4294967295", false},
+                "3: " + path + "/info_enabled: \"4294967296\" is not a number from 0 to 4294967295", false},
         Mistake{"negative_value", debug("<info_enabled>-1</info_enabled>"),
-                "3: " + path + "/info_enabled: \"-1\" is no number", false},
-        Mistake{"empty_value", debug("<info_enabled/>"), "3: " + path + "/info_enabled: \"\" is no number", false},
+                "3: " + path + "/info_enabled: \"-1\" is not a number", false},
+        Mistake{"empty_value", debug("<info_enabled/>"), "3: " + path + "/info_enabled: \"\" is not a number", false},
         Mistake{"twice", debug("<info_enabled>1</info_enabled>\n<info_enabled>2</info_enabled>"),
-                "4: " + path + "/info_enabled: stands here a second time"},
+                "4: " + path + "/info_enabled: duplicate element"},
         Mistake{"element_in_a_value", debug("<info_enabled><b>1</b></info_enabled>"),
-                "3: " + path + "/info_enabled: no element is expected inside"},
+                "3: " + path + "/info_enabled: unexpected element \"b\" in a value"},
         Mistake{"text_between", debug("loose words"), "2: " + path + ": text \"loose words\" between the members"},
-        Mistake{"attribute", debug("<info_enabled colour=\"red\">1</info_enabled>"),
-                "3: " + path + "/info_enabled: unknown attribute \"colour\""},
+        Mistake{"attribute", debug("<info_enabled color=\"red\">1</info_enabled>"),
+                "3: " + path + "/info_enabled: unknown attribute \"color\""},
         Mistake{"state_too_wide", debug("<info_enabled state=\"256\">1</info_enabled>"),
-                "3: " + path + "/info_enabled: state \"256\" is no number from 0 to 255"},
+                "3: " + path + "/info_enabled: state \"256\" is not a number from 0 to 255"},
         Mistake{"missing_payload", "<lumo_tarn_debug_setting_msg>\n</lumo_tarn_debug_setting_msg>",
                 "1: /lumo_tarn_debug_setting_msg: the payload \"lumo_tarn_debug_setting\" is missing"},
         Mistake{"unknown_enumerator", processor("<direction><LUMO_TARN_DIR_BOHT/></direction>"),
@@ -80,21 +80,20 @@ INSTANTIATE_TEST_SUITE_P(
                 "\"yes\" is neither true nor false",
                 false},
         Mistake{"address", prefixes("<prefix_data>\n<prefix>10.0.0.256/8</prefix></prefix_data>"),
-                "4: " + prefix_path + "/prefix_data[1]/prefix: \"10.0.0.256/8\" is no address", false},
+                "4: " + prefix_path + "/prefix_data[1]/prefix: \"10.0.0.256/8\" is not an address", false},
         Mistake{"wrong_count", prefixes("<num_prefixes>2</num_prefixes><prefix_data/>"),
-                "3: " + prefix_path + "/num_prefixes: says 2, but prefix_data has 1"},
+                "3: " + prefix_path + "/num_prefixes: is 2, but prefix_data has 1"},
         Mistake{"skipped_member", application("<proto_name>sip</proto_name>\n<protocol_id>7</protocol_id>"),
                 "3: /lumo_tarn_cl_appl_msg/lumo_tarn_cl_appl_data/kesh_appl[1]/protocol_id: would not be read, because "
-                "sub_proto_name in front of it is absent"}),
+                "sub_proto_name, the preceding string, is absent"}),
     [](const auto &info) { return info.param.name; });
 
-TEST(Checking, AListThatItsCountCannotTellIsNamed) {
+TEST(Checking, AListLongerThanItsCountAllowsIsReported) {
     std::string many;
     for (int i = 0; i < 256; ++i) many += "<prefix_data/>";
     const Outcome outcome = tarn({"encode"}, prefixes(many));
     EXPECT_EQ(outcome.exit, 2);
-    EXPECT_NE(outcome.err.find("256 prefix_data are more than num_prefixes can tell"), std::string::npos)
-        << outcome.err;
+    EXPECT_NE(outcome.err.find("256 prefix_data exceed the range of num_prefixes"), std::string::npos) << outcome.err;
 }
 
 TEST(Checking, AllMistakesOfADocumentAreListed) {
@@ -104,7 +103,7 @@ TEST(Checking, AllMistakesOfADocumentAreListed) {
     }
 }
 
-TEST(Checking, WhatIsNoXmlIsNamedWithItsLine) {
+TEST(Checking, MalformedXmlIsReportedWithItsLine) {
     const auto expect = [](const std::string &xml, const std::string &words) {
         const Outcome outcome = tarn({"encode"}, xml);
         EXPECT_EQ(outcome.exit, 2);
@@ -114,28 +113,28 @@ TEST(Checking, WhatIsNoXmlIsNamedWithItsLine) {
     expect("<lumo_tarn_debug_setting_msg>\n<lumo_tarn_debug_setting>", "standard input:1: ");
     expect("\n<!DOCTYPE a [<!ENTITY b \"c\">]>\n" + debug(""),
            "standard input:2: a document type declaration is not allowed");
-    expect(
-        "\n\n<lumo_tarn_debug_setting_mgs></lumo_tarn_debug_setting_mgs>",
-        "standard input:3: \"lumo_tarn_debug_setting_mgs\" is no message; did you mean lumo_tarn_debug_setting_msg?");
-    expect(debug("") + "stray", "standard input:6: no element begins here");
+    expect("\n\n<lumo_tarn_debug_setting_mgs></lumo_tarn_debug_setting_mgs>",
+           "standard input:3: \"lumo_tarn_debug_setting_mgs\" is not a message; did you mean "
+           "lumo_tarn_debug_setting_msg?");
+    expect(debug("") + "stray", "standard input:6: expected an element");
 }
 
-TEST(Checking, LinesAreCountedThroughARunOfDocuments) {
+TEST(Checking, LinesAreCountedAcrossDocuments) {
     const Outcome outcome = tarn({"encode"}, debug("") + debug("<wrong/>"));
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_NE(outcome.err.find("standard input:8: "), std::string::npos) << outcome.err;
 }
 
 struct JsonMistake {
-    std::string name, json, words;
+    std::string name, json, message;
 };
 
 class JsonMistakes : public testing::TestWithParam<JsonMistake> {};
 
-TEST_P(JsonMistakes, AreNamedWithTheirPath) {
+TEST_P(JsonMistakes, AreReportedWithTheirPath) {
     const Outcome outcome = tarn({"encode"}, GetParam().json);
     EXPECT_EQ(outcome.exit, 2);
-    EXPECT_NE(outcome.err.find(GetParam().words), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find(GetParam().message), std::string::npos) << outcome.err;
     EXPECT_EQ(outcome.out, "");
 }
 
@@ -153,24 +152,26 @@ INSTANTIATE_TEST_SUITE_P(
         JsonMistake{"misspelt", debug_json(R"({"info_enable": 1})"),
                     "payload: lumo_tarn_debug_setting has no member \"info_enable\"; did you mean info_enabled?"},
         JsonMistake{"too_wide", debug_json(R"({"info_enabled": 4294967296})"),
-                    "payload/info_enabled: 4294967296 is no number from 0 to 4294967295"},
-        JsonMistake{"negative", debug_json(R"({"info_enabled": -1})"), "payload/info_enabled: -1 is no number"},
-        JsonMistake{"text", debug_json(R"({"info_enabled": "1"})"), "payload/info_enabled: \"1\" is no number"},
-        JsonMistake{"no_object", debug_json("[]"), "payload: an object is expected for lumo_tarn_debug_setting"},
+                    "payload/info_enabled: 4294967296 is not a number from 0 to 4294967295"},
+        JsonMistake{"negative", debug_json(R"({"info_enabled": -1})"), "payload/info_enabled: -1 is not a number"},
+        JsonMistake{"text", debug_json(R"({"info_enabled": "1"})"), "payload/info_enabled: \"1\" is not a number"},
+        JsonMistake{"no_object", debug_json("[]"), "payload: expected an object for lumo_tarn_debug_setting"},
         JsonMistake{"address", prefix_json(R"({"prefix": "10.0.0.0"})"),
-                    "payload/prefix_data[1]/prefix: \"10.0.0.0\" is no address"},
+                    "payload/prefix_data[1]/prefix: \"10.0.0.0\" is not an address"},
         JsonMistake{"no_array", R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"prefix_data": {}}})",
-                    "payload/prefix_data: an array is expected"},
+                    "payload/prefix_data: expected an array"},
         JsonMistake{
             "count",
             R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"num_prefixes": 3, "prefix_data": [{}]}})",
-            "payload/num_prefixes: says 3, but there are 1"},
-        JsonMistake{"variant", prefix_json(R"({"@variant": 1})"), "@variant: 1 is no number from -128 to -1"},
+            "payload/num_prefixes: is 3, but there are 1"},
+        JsonMistake{"variant", prefix_json(R"({"@variant": 1})"), "@variant: 1 is not a number from -128 to -1"},
         JsonMistake{"no_payload", R"({"message": "lumo_tarn_debug_setting_msg"})", "the payload is missing"},
-        JsonMistake{"no_message", R"({"message": "lumo_tarn_msg", "payload": {}})", "\"lumo_tarn_msg\" is no message"},
-        JsonMistake{"no_bundle", R"({"bundle": "x", "control": "start"})", "\"x\" is no bundle"},
-        JsonMistake{"no_control", R"({"bundle": "lumo_tarn_cl_cfg_rsp", "control": "stop"})", "\"stop\" is none of"},
-        JsonMistake{"neither", R"({"a": 1})", "neither a message nor a control message"},
+        JsonMistake{"no_message", R"({"message": "lumo_tarn_msg", "payload": {}})",
+                    "\"lumo_tarn_msg\" is not a message"},
+        JsonMistake{"no_bundle", R"({"bundle": "x", "control": "start"})", "\"x\" is not a bundle"},
+        JsonMistake{"no_control", R"({"bundle": "lumo_tarn_cl_cfg_rsp", "control": "stop"})",
+                    "\"stop\" is not start, abort or commit"},
+        JsonMistake{"neither", R"({"a": 1})", "neither a message, a control message nor a list of them"},
         JsonMistake{"syntax", "{\n\"message\": \n}", "standard input:3: syntax error"},
         JsonMistake{"number_beyond_all", "{\n\"message\": 1e400\n}",
                     "standard input:2: number overflow parsing '1e400'"}),

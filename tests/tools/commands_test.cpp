@@ -1,4 +1,4 @@
-// dissect, diff, schema, manifest, generate; help and exit codes of all.
+// dissect, diff, schema, manifest and generate; help and exit codes of all commands.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -34,14 +34,53 @@ INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
                                          "generate", "record", "view"),
                          [](const auto &info) { return info.param; });
 
-TEST(Commands, NoneAndAnUnknownOneAreUsageErrors) {
+TEST(Commands, MissingAndUnknownCommandsAreUsageErrors) {
     EXPECT_EQ(tarn({}).exit, 2);
     EXPECT_EQ(tarn({"explain"}).exit, 2);
+}
+
+TEST(Commands, FilesThatCannotBeOpenedAreEnvironmentErrors) {
     EXPECT_EQ(tarn({"decode", "/nonexistent/file"}).exit, 3);
     EXPECT_EQ(tarn({"generate", "dp-intf", "-o", "/nonexistent/file"}).exit, 3);
 }
 
-// Every line of a dump that bears an offset, as (offset, bytes in it).
+TEST(Commands, UnknownNamesAreUsageErrorsOfAllCommands) {
+    const std::vector<std::vector<std::string>> all = {
+        {"schema", "cl-debag"},
+        {"generate", "cl-debag"},
+        {"show", "cl-debag", "--socket", "/nonexistent"},
+        {"answer", "--socket", "/nonexistent", "cl-debag=/nonexistent"},
+        {"encode", "--bundle", "cl-debag", std::string(TARN_EXAMPLES) + "/cl_debug.xml"},
+        {"record", "cl-debag", "--socket", "/nonexistent", "-o", "/dev/null"},
+    };
+    for (const std::vector<std::string> &words : all) {
+        const Outcome outcome = tarn(words);
+        EXPECT_EQ(outcome.exit, 2) << words.front();
+        EXPECT_NE(outcome.err.find("\"cl-debag\"; did you mean cl-debug?"), std::string::npos) << outcome.err;
+    }
+}
+
+// One table for all commands, in the help and in the manual page.
+TEST(Commands, HelpAndManualListTheSameExitCodes) {
+    const std::string help = tarn({"--help"}).out;
+    std::istringstream in(help.substr(help.find("Exit codes of all commands:\n")));
+    std::string line, items;
+    std::getline(in, line);
+    for (int code = 0; std::getline(in, line) && !line.empty(); ++code) {
+        const std::string front = "  " + std::to_string(code) + "  ";
+        ASSERT_EQ(line.substr(0, front.size()), front);
+        line = line.substr(front.size());
+        line.front() = static_cast<char>(line.front() - 'a' + 'A');
+        items += ".It " + std::to_string(code) + "\n" + line + ".\n";
+    }
+    EXPECT_EQ(items.substr(0, 14), ".It 0\nSuccess.");
+    EXPECT_NE(items.find(".It 3\n"), std::string::npos) << items;
+    const std::string manual = tarn({"manual"}).out;
+    EXPECT_NE(manual.find(".Sh EXIT STATUS\n"), std::string::npos);
+    EXPECT_NE(manual.find(items + ".El\n"), std::string::npos) << items;
+}
+
+// Checks that the lines of a dump are consecutive, and returns their number of bytes.
 std::size_t dumped_bytes(const std::string &dump) {
     std::size_t next = 0;
     std::istringstream in(dump);
@@ -71,7 +110,7 @@ TEST(Dissect, ShowsPathKindAndValue) {
     EXPECT_NE(outcome.out.find("\"kind\": \"u_int32\""), std::string::npos) << outcome.out;
 }
 
-TEST(Dissect, OfACutFrameShowsTheGoodPartAndThePlaceOfTheBreak) {
+TEST(Dissect, ShowsATruncatedFrameUpToTheError) {
     const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
     for (std::size_t size = 1; size < bytes.size(); size += 3) {
         const Outcome outcome = tarn({"dissect"}, bytes.substr(0, size));
@@ -84,7 +123,7 @@ TEST(Dissect, OfACutFrameShowsTheGoodPartAndThePlaceOfTheBreak) {
         << outcome.err;
 }
 
-TEST(Dissect, NamesAJumpThatContradictsTheMembers) {
+TEST(Dissect, ReportsAJumpThatContradictsTheMembers) {
     std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
     bytes[48] = 19;
     EXPECT_NE(tarn({"dissect"}, bytes)
@@ -92,16 +131,16 @@ TEST(Dissect, NamesAJumpThatContradictsTheMembers) {
                             "members end at 65"),
               std::string::npos);
     bytes[48] = 21;
-    EXPECT_NE(tarn({"dissect"}, bytes).err.find("offset 45, payload.jump: jump 21 leads to 66, behind the end at 65"),
+    EXPECT_NE(tarn({"dissect"}, bytes).err.find("offset 45, payload.jump: jump 21 leads to 66, beyond the end at 65"),
               std::string::npos);
     bytes[48] = 21;
     bytes[15] = static_cast<char>(bytes.size() + 1);
     const Outcome newer = tarn({"dissect"}, bytes + "x");
     EXPECT_EQ(newer.exit, 0) << newer.err;
-    EXPECT_NE(newer.out.find("skipped 1 bytes of a newer form"), std::string::npos) << newer.out;
+    EXPECT_NE(newer.out.find("skipped 1 bytes of a newer version"), std::string::npos) << newer.out;
 }
 
-TEST(Diff, TellsEqualFromDifferentAcrossForms) {
+TEST(Diff, ComparesMessagesOfDifferentFormats) {
     const Directory directory;
     reference::Record payload = plain_payload(debug_message(), 1);
     payload["warn_enabled"].number = 1;
@@ -118,7 +157,7 @@ TEST(Diff, TellsEqualFromDifferentAcrossForms) {
     EXPECT_EQ(tarn({"diff", a, directory.write("bad", "bad")}).exit, 2);
 }
 
-TEST(Diff, ShowsElementsThatOnlyOneSideHasAndState) {
+TEST(Diff, ShowsStateAndElementsOfOneSideOnly) {
     const Directory directory;
     const auto &message = reference::message_table("lumo_tarn_dp_debug_setting_msg");
     reference::Record payload(message.payload);
@@ -173,11 +212,11 @@ TEST(Manifest, PrintsTheTypesOfTheLibraryAndItsBuild) {
     EXPECT_NE(outcome.out.find("\nbuild stamp:\nlumo_ui_tarn\n"), std::string::npos);
 }
 
-TEST(Manifest, TellsAFileWithoutOneFromAFileThatIsNone) {
+TEST(Manifest, DistinguishesFilesWithoutAManifestFromOtherFiles) {
     const Directory directory;
-    // This program is one of those that have no manifest, whatever it is linked with.
+    // This program has no manifest, however it is linked.
     EXPECT_EQ(tarn({"manifest", std::filesystem::read_symlink("/proc/self/exe").string()}).exit, 1);
-    EXPECT_EQ(tarn({"manifest", directory.write("text", "no library")}).exit, 2);
+    EXPECT_EQ(tarn({"manifest", directory.write("text", "not a library")}).exit, 2);
     EXPECT_EQ(tarn({"manifest", directory.path("absent")}).exit, 3);
 }
 
@@ -188,7 +227,7 @@ TEST(Generate, GivesTheSameForTheSameSeed) {
     EXPECT_NE(tarn({"generate", "dp-mp-tc-cfg", "--seed", "5"}).out, one.out);
 }
 
-TEST(Generate, ReachesTheSizeAskedFor) {
+TEST(Generate, ReachesTheRequestedSize) {
     for (const std::string what : {"dp-tt-cfg", "cl-appl-cfg"}) {
         for (const bool tracked : {false, true}) {
             std::vector<std::string> arguments{"generate", what, "--size", "20K", "--form", "frames"};
@@ -200,11 +239,32 @@ TEST(Generate, ReachesTheSizeAskedFor) {
             EXPECT_EQ(tarn({"dissect"}, outcome.out).exit, 0);
         }
     }
-    // A list that is counted with one byte ends there.
-    EXPECT_EQ(tarn({"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"}).exit, 0);
+    // A count of one byte limits the list to 255 elements.
+    const Outcome full = tarn({"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"});
+    EXPECT_EQ(full.exit, 0);
+    EXPECT_EQ(full.err, "tarn: all lists have their maximum length, and the frame only " +
+                            std::to_string(full.out.size()) + " bytes\n");
 }
 
-TEST(Examples, AreOneForEachBundleAndFreeOfMistakes) {
+TEST(Generate, RefusesASizeForAMessageWithoutVariableLists) {
+    for (const std::string type : {"cl-debug", "debug-setting", "dp-debug"}) {
+        const Outcome outcome = tarn({"generate", type, "--size", "10"});
+        EXPECT_EQ(outcome.exit, 2) << type;
+        EXPECT_NE(outcome.err.find("--size has no effect on lumo_tarn_"), std::string::npos) << outcome.err;
+        EXPECT_EQ(outcome.out, "");
+    }
+}
+
+TEST(Generate, TakesMessagesByTheirShortNames) {
+    for (const auto &message : reference::messages()) {
+        const Outcome in_full = tarn({"generate", message.name, "--form", "json"});
+        EXPECT_EQ(in_full.exit, 0) << in_full.err;
+        EXPECT_NE(in_full.out.find("\"" + message.name + "\""), std::string::npos) << in_full.out;
+        EXPECT_EQ(tarn({"generate", short_name(message.name), "--form", "json"}).out, in_full.out);
+    }
+}
+
+TEST(Examples, ExistForEachBundleAndAreValid) {
     for (const auto &bundle : reference::bundles()) {
         std::string name = bundle.name.substr(10, bundle.name.size() - 14);
         const std::string path = std::string(TARN_EXAMPLES) + "/" + name + ".xml";

@@ -1,4 +1,4 @@
-// What the shells are offered: every name of the schema, and members by their path.
+// The candidates for the shells: every name of the schema, and members by their path.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace tool_test {
 
 namespace {
 
-// The candidates without their explanations, in order.
+// The candidates without their descriptions, in order.
 std::vector<std::string> candidates(std::vector<std::string> words) {
     words.insert(words.begin(), "complete");
     const Outcome outcome = tarn(words);
@@ -55,7 +55,7 @@ TEST(Completion, OffersEveryTypeByItsFullName) {
     for (const auto &b : reference::bundles()) EXPECT_TRUE(std::binary_search(all.begin(), all.end(), b.name));
 }
 
-TEST(Completion, OffersBundlesWhereBundlesAreAskedFor) {
+TEST(Completion, OffersOnlyBundlesForBundleArguments) {
     Names wanted;
     for (const auto &b : reference::bundles()) wanted.push_back(b.name);
     Names shown = candidates({"show", "lumo_"});
@@ -67,7 +67,7 @@ TEST(Completion, OffersBundlesWhereBundlesAreAskedFor) {
     EXPECT_EQ(candidates({"encode", "--bundle", "cl-deb"}), (Names{"cl-debug"}));
 }
 
-TEST(Completion, KnowsWhatAnOptionTakes) {
+TEST(Completion, OffersTheValuesOfOptions) {
     EXPECT_EQ(candidates({"show", "--via", "l"}), (Names{"lut", "linked"}));
     EXPECT_EQ(candidates({"show", "--via=li"}), (Names{"--via=linked"}));
     EXPECT_EQ(candidates({"show", "--socket", ""}), (Names{":files"}));

@@ -77,8 +77,8 @@ std::size_t occurrences(std::string_view in, std::string_view text) {
 }
 
 std::string tool() {
-    const char *told = std::getenv("TARN_TOOL");
-    return told != nullptr ? told : TARN_TOOL;
+    const char *path = std::getenv("TARN_TOOL");
+    return path != nullptr ? path : TARN_TOOL;
 }
 
 Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input) {
@@ -131,7 +131,7 @@ std::size_t Process::open_files() const {
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));
 }
 
-bool Process::comes_down_to(std::size_t files) const {
+bool Process::reaches_open_files(std::size_t files) const {
     for (int i = 0; i < 6000 && open_files() > files; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
     return open_files() == files;
 }
@@ -203,7 +203,7 @@ Socket Socket::connect_to(const std::string &path) {
     Socket socket(::socket(AF_UNIX, SOCK_STREAM, 0));
     const sockaddr_un address = address_of(path);
     require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");
-    socket.set_patience();
+    socket.set_timeouts();
     return socket;
 }
 
@@ -214,14 +214,14 @@ Socket Socket::connect_to_port(const std::string &port) {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<std::uint16_t>(std::stoi(port)));
     require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");
-    socket.set_patience();
+    socket.set_timeouts();
     return socket;
 }
 
-void Socket::set_patience() const {
-    const timeval patience{60, 0};
-    setsockopt(descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-    setsockopt(descriptor_, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
+void Socket::set_timeouts() const {
+    const timeval timeout{60, 0};
+    setsockopt(descriptor_, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout);
+    setsockopt(descriptor_, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof timeout);
 }
 
 Socket Socket::listen_on(const std::string &path) {

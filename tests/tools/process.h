@@ -1,4 +1,4 @@
-// Running the tool as other people's programs do: with arguments, pipes, files and sockets.
+// Runs the tool as other programs do: with arguments, pipes, files and sockets.
 #pragma once
 
 #include <sys/types.h>
@@ -10,7 +10,7 @@
 
 namespace tool_test {
 
-// How often a text occurs in another.
+// Number of occurrences of a text in another.
 std::size_t occurrences(std::string_view in, std::string_view text);
 
 struct Outcome {
@@ -19,16 +19,16 @@ struct Outcome {
     std::string err;  // standard error
 };
 
-// Runs a program, which is given by its path, to its end.
+// Runs a program and waits for its end.
 Outcome run(const std::string &program, const std::vector<std::string> &arguments, std::string_view input = {});
 
-// The path of the tool: of this build's, unless the environment names another one.
+// The path of the tool: TARN_TOOL in the environment, or else the tool of this build.
 std::string tool();
 
-// Runs the tool to its end.
+// Runs the tool and waits for its end.
 Outcome tarn(const std::vector<std::string> &arguments, std::string_view input = {});
 
-// A program in the background, the tool if none is told, with its standard output and error in files.
+// A program in the background, by default the tool. Its standard output and error are files.
 class Process {
 public:
     explicit Process(const std::vector<std::string> &arguments, const std::string &program = tool());
@@ -36,22 +36,22 @@ public:
     Process &operator=(const Process &) = delete;
     ~Process();
 
-    // Waits until the standard output holds the text. False if the process ends or a minute passes first.
+    // Waits until the standard output contains the text. False if the process ends or a minute passes first.
     bool wait_for(std::string_view text) const;
     std::string out() const;
     std::string err() const;
-    // Waits until the standard error holds the text so often. False as with wait_for().
+    // Waits until the standard error contains the text `times` times. False as with wait_for().
     bool wait_for_error(std::string_view text, std::size_t times = 1) const;
     bool is_running() const;
-    // What the system says of it while it runs.
+    // The number of its open files, according to the system.
     std::size_t open_files() const;
-    // Waits until it has no more files open. False if a minute passes first, or if it has fewer.
-    bool comes_down_to(std::size_t files) const;
+    // Waits until it has no more than `files` open files. False if a minute passes first, or if it has fewer.
+    bool reaches_open_files(std::size_t files) const;
     std::size_t resident_kib() const;
     void signal(int number) const;
-    // Sends SIGTERM and waits for the end.
+    // Sends SIGTERM and waits for its end.
     Outcome stop();
-    // Waits for the end.
+    // Waits for its end.
     Outcome finish();
 
 private:
@@ -61,7 +61,7 @@ private:
     std::string out_, err_;
 };
 
-// A directory of its own for each test, gone with it.
+// A temporary directory.
 class Directory {
 public:
     Directory();
@@ -77,7 +77,7 @@ private:
     std::string path_;
 };
 
-// tarn answer on a socket of its own, ready when made.
+// tarn answer on its own socket; the constructor waits until it is ready.
 class Server {
 public:
     explicit Server(const std::vector<std::string> &arguments);
@@ -94,7 +94,7 @@ private:
     bool ready_;
 };
 
-// A stream socket of the test's own.
+// A stream socket of the test.
 class Socket {
 public:
     static Socket connect_to(const std::string &path);
@@ -105,14 +105,14 @@ public:
     ~Socket();
 
     Socket accept() const;
-    // False if the other side has had enough, or takes nothing for a minute.
+    // False if the other side has closed the connection, or reads nothing for a minute.
     bool send(std::string_view bytes) const;
-    // Everything until the other side closes, or until so many bytes have come.
+    // Everything until the other side closes the connection, but at most `most` bytes.
     std::string receive(std::size_t most = SIZE_MAX) const;
 
 private:
     explicit Socket(int descriptor) : descriptor_(descriptor) {}
-    void set_patience() const;
+    void set_timeouts() const;
 
     int descriptor_;
 };

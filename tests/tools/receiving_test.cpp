@@ -1,4 +1,4 @@
-// decode --bundles: the receiver's side, with the handler chain, aborted and nested bundles; and record.
+// decode --bundles: the receiving side, with the handler chain, aborted and nested bundles; and record.
 #include <gtest/gtest.h>
 
 #include "process.h"
@@ -25,20 +25,20 @@ void expect_words(const Outcome &outcome, const std::string &words) {
 
 struct Link {
     std::string via, line;
-    bool taken;
+    bool handled;
 };
 
 class HandlerChain : public testing::TestWithParam<Link> {};
 
-TEST_P(HandlerChain, TellsWhichLinkTookTheBundle) {
+TEST_P(HandlerChain, TracesTheLinkThatHandledTheBundle) {
     const Outcome outcome = deliver(answer(bundle(), plain_payload(message(), 3), false), {"--via", GetParam().via});
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
     expect_words(outcome, GetParam().line + " for lumo_tarn_cl_debug_rsp_bundle_commit\n");
-    EXPECT_EQ(outcome.out, GetParam().taken ? message_text() : "");
-    expect_words(outcome, GetParam().taken ? "\n1 bundles reached" : "\n0 bundles reached");
+    EXPECT_EQ(outcome.out, GetParam().handled ? message_text() : "");
+    expect_words(outcome, GetParam().handled ? "\n1 bundles were handled" : "\n0 bundles were handled");
 }
 
-// The line of the module's handler is that of the look-up table's.
+// The trace line for the module's handler is the same as for that of the look-up table.
 INSTANTIATE_TEST_SUITE_P(Receiving, HandlerChain,
                          testing::Values(Link{"lut", "(debug): Invoking LUT-registered handler", true},
                                          Link{"handle", "(debug): Invoking MIRK handle-registered handler", true},
@@ -55,7 +55,7 @@ TEST(Receiving, AnAbortedBundleDeliversNothing) {
     expect_words(outcome, "frame at offset 108: aborts lumo_tarn_cl_debug_rsp");
 }
 
-TEST(Receiving, ASecondStartIsRefusedAndTheBundleGoesOn) {
+TEST(Receiving, ASecondStartIsRefusedAndTheBundleContinues) {
     const std::string start = control(bundle(), "start");
     const Outcome outcome = deliver(start + start + message_frame() + control(bundle(), "commit"));
     EXPECT_EQ(outcome.exit, 2);
@@ -63,7 +63,7 @@ TEST(Receiving, ASecondStartIsRefusedAndTheBundleGoesOn) {
         outcome,
         "(ERR): Start message lumo_ui_tarn_lumo_tarn_cl_debug_rsp_bundle_start_message received while aready in "
         "bundle context");
-    expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp_bundle_start: File exists (17)");
+    expect_words(outcome, "frame at offset 43: lumo_tarn_cl_debug_rsp_bundle_start: File exists (EEXIST)");
     EXPECT_EQ(outcome.out, message_text());
 }
 
@@ -71,10 +71,10 @@ TEST(Receiving, ACommitOutsideABundleIsRefused) {
     const Outcome outcome = deliver(control(bundle(), "commit"));
     EXPECT_EQ(outcome.exit, 2);
     expect_words(outcome, "(ERR): Abort message received outside of bundle context");
-    expect_words(outcome, "Bad message (74)");
+    expect_words(outcome, "Bad message (EBADMSG)");
 }
 
-TEST(Receiving, AMessageThatTheBundleDoesNotAdmitIsNamed) {
+TEST(Receiving, AMessageThatTheBundleDoesNotAdmitIsReported) {
     const auto &foreign = reference::message_table("lumo_tarn_dp_intf_msg");
     const Outcome outcome = deliver(control(bundle(), "start") + frame(foreign, plain_payload(foreign, 1), false) +
                                     message_frame() + control(bundle(), "commit"));
@@ -83,17 +83,24 @@ TEST(Receiving, AMessageThatTheBundleDoesNotAdmitIsNamed) {
     EXPECT_EQ(outcome.out, message_text());
 }
 
-TEST(Receiving, ABundleThatNeverEndsIsNamed) {
+TEST(Receiving, ABundleThatNeverEndsIsReported) {
     const Outcome outcome = deliver(control(bundle(), "start") + message_frame());
     EXPECT_EQ(outcome.exit, 2);
     expect_words(outcome, "ends inside lumo_tarn_cl_debug_rsp");
     EXPECT_EQ(outcome.out, "");
 }
 
-TEST(Receiving, AMessageAloneIsDeliveredAtOnce) {
+TEST(Receiving, AMessageOutsideABundleIsDeliveredAtOnce) {
     const Outcome outcome = deliver(message_frame());
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
     EXPECT_EQ(outcome.out, message_text());
+}
+
+TEST(Receiving, KeepGoingEndsWithTheHighestExitCode) {
+    const Outcome outcome =
+        deliver(control(bundle(), "commit") + control(bundle(), "start") + control(bundle(), "abort"));
+    expect_words(outcome, "frame at offset 86: aborts lumo_tarn_cl_debug_rsp");
+    EXPECT_EQ(outcome.exit, 2);
 }
 
 class Recording : public testing::Test {
@@ -102,7 +109,7 @@ protected:
     std::string xml() const { return reference::message_to_xml(message().name, plain_payload(message(), 3), false); }
 };
 
-TEST_F(Recording, IsARunOfFragmentsThatDecodeReadsBack) {
+TEST_F(Recording, IsASequenceOfFragmentsThatDecodeReads) {
     const std::string whole = answer(bundle(), plain_payload(message(), 3), false);
     const std::string from = directory_.write("frames.bin", whole + message_frame());
     const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
@@ -114,12 +121,12 @@ TEST_F(Recording, IsARunOfFragmentsThatDecodeReadsBack) {
     EXPECT_EQ(decoded.out, message_text() + message_text());
 }
 
-TEST_F(Recording, NamesWhatIsTooLargeForTheRecorder) {
+TEST_F(Recording, ReportsMessagesTooLargeForTheRecorder) {
     const Outcome large = tarn({"generate", "dp-tt-cfg", "--elements", "4", "--form", "frames", "--bundle"});
     const std::string from = directory_.write("frames.bin", large.out + message_frame());
     const Outcome outcome = tarn({"record", "--from", from, "-o", directory_.path("recording.xml")});
     EXPECT_EQ(outcome.exit, 1);
-    expect_words(outcome, "frame at offset 43: lumo_tarn_dp_tt_msg, ");
+    expect_words(outcome, "frame at offset 43: lumo_tarn_dp_tt_msg of ");
     expect_words(outcome, "is too large for the recorder");
     EXPECT_EQ(outcome.out, "recorded 1 of 2 messages\n");
     EXPECT_EQ(directory_.read("recording.xml"), xml());
@@ -130,7 +137,7 @@ TEST_F(Recording, NamesWhatIsTooLargeForTheRecorder) {
     EXPECT_EQ(directory_.read("full.bin"), large.out + message_frame());
 }
 
-TEST_F(Recording, AsksOverASocket) {
+TEST_F(Recording, RequestsBundlesOverASocket) {
     const Server server({"cl-debug=" + directory_.write("debug.xml", xml())});
     ASSERT_TRUE(server.is_ready());
     const Outcome outcome = tarn({"record", "cl-debug", "--socket", server.socket(), "-o",
@@ -140,9 +147,8 @@ TEST_F(Recording, AsksOverASocket) {
     EXPECT_EQ(directory_.read("recording.xml"), xml() + xml() + xml());
 }
 
-// A number that no enumerator has renders as an element which is not well-formed; the fragments around it stay
-// readable.
-TEST_F(Recording, AFragmentThatIsNotWellFormedDoesNotSpoilTheOthers) {
+// The library writes an unknown enumerator as a malformed element; other fragments stay readable.
+TEST_F(Recording, AMalformedFragmentDoesNotAffectTheOthers) {
     const std::string bad =
         "<lumo_tarn_cl_cfg_msg><lumo_tarn_cl_cfg_data><lumo_tarn_ha_state_e value out of "
         "range/></lumo_tarn_cl_cfg_data>"

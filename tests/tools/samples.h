@@ -1,4 +1,4 @@
-// Payloads from the reference generator, and what the reference makes of them.
+// Payloads from the reference generator, and their encoding by the reference.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace tool_test {
 
 inline std::string text_of(const reference::Bytes &bytes) { return {bytes.begin(), bytes.end()}; }
 
-// Without negative variants and the like, and with strings that survive XML.
+// Without negative variants and other unusual values, and with strings that survive XML.
 inline reference::Record plain_payload(const reference::MessageTable &message, std::uint64_t seed) {
     reference::GeneratorOptions options;
     options.printable = true;
@@ -23,7 +23,7 @@ inline reference::Record plain_payload(const reference::MessageTable &message, s
     return reference::Generator(seed, options).make(message.payload);
 }
 
-// Whatever a frame may bring, strange variants included.
+// With everything that a frame may contain, such as unknown variants.
 inline reference::Record strange_payload(const reference::MessageTable &message, std::uint64_t seed) {
     reference::GeneratorOptions options;
     options.strange = true;
@@ -36,7 +36,7 @@ inline std::string frame(const reference::MessageTable &message, const reference
     return text_of(reference::message_frame(message.name, payload, tracked, stamp));
 }
 
-// The tool fills the gaps in front of nested closing lines with blanks.
+// The tool fills the gaps before nested closing lines with blanks.
 inline std::string shown(const reference::MessageTable &message, const reference::Record &payload) {
     std::string text = reference::print_message(message.name, payload, ' ');
     for (char &c : text) c = c == '\0' ? ' ' : c;
@@ -47,18 +47,18 @@ inline std::string control(const reference::BundleTable &bundle, const std::stri
     return text_of(reference::control_frame(bundle.name, kind, 0));
 }
 
-// A whole answer: start, message, commit.
+// A complete answer: start, message, commit.
 inline std::string answer(const reference::BundleTable &bundle, const reference::Record &payload, bool tracked) {
     return control(bundle, "start") + frame(reference::message_table(bundle.message), payload, tracked) +
            control(bundle, "commit");
 }
 
-// A snapshot of cl-debug.
+// A file with the messages of cl-debug.
 inline const std::string debug_xml =
     "<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting><info_enabled>1</info_enabled>"
     "</lumo_tarn_debug_setting></lumo_tarn_debug_setting_msg>";
 
-// A request for a bundle, with the options as they stand in the frame.
+// A request for a bundle; `options` is the byte in the frame.
 inline std::string request(const std::string &name, char options = 0) {
     std::string bytes = text_of(reference::control_frame("lumo_tarn_cl_debug_rsp", "start", 0)).substr(0, 27);
     bytes += std::string("\xb7\x3e\x91\x0c\x5a\xd4\x46\x2f\x88\xe1\x6c\x0f\x93\x2b\x7d\xa5", 16);
@@ -69,7 +69,7 @@ inline std::string request(const std::string &name, char options = 0) {
     return bytes;
 }
 
-inline std::string short_form(const std::string &bundle) {
+inline std::string short_name(const std::string &bundle) {
     std::string text = bundle.substr(10, bundle.size() - 14);
     for (char &c : text) c = c == '_' ? '-' : c;
     return text;

@@ -26,7 +26,7 @@ local f = {
     flag_tracked = declare("flag_tracked",
         ProtoField.bool("tarn.flag.tracked", "with per-field state", 8, nil, flags.tracked)),
     flag_ra = declare("flag_ra", ProtoField.bool("tarn.flag.ra_data", "RA data follows", 8, nil, flags.ra_data)),
-    skipped = declare("skipped", ProtoField.bytes("tarn.skipped", "members of a newer form")),
+    skipped = declare("skipped", ProtoField.bytes("tarn.skipped", "members of a newer version")),
 }
 
 local function integer_field(prefix, size) return ProtoField[prefix .. 8 * size] end
@@ -46,7 +46,7 @@ for _, parts in ipairs({ message_parts, record_parts }) do
 end
 
 local broken = ProtoExpert.new("tarn.broken", "The frame is broken", expert.group.MALFORMED, expert.severity.ERROR)
-local cut = ProtoExpert.new("tarn.no_frame", "Bytes that are no frame", expert.group.MALFORMED, expert.severity.ERROR)
+local cut = ProtoExpert.new("tarn.no_frame", "Bytes that are not a frame", expert.group.MALFORMED, expert.severity.ERROR)
 tarn.experts = { broken, cut }
 
 local function field_of(filter, member)
@@ -207,7 +207,7 @@ function reader:record(tree, record, path)
             stop_at - base, self.at - base))
     end
     if stop_at > self.stop_at then
-        self:stop(jump_at, path .. ".jump", string.format("jump %.0f leads to %.0f, behind the end at %d", jump,
+        self:stop(jump_at, path .. ".jump", string.format("jump %.0f leads to %.0f, beyond the end at %d", jump,
             stop_at - base, self.stop_at - base))
     end
     -- A newer sender may have more members after those that are known.
@@ -316,14 +316,14 @@ function reader:frame(tree, length)
         self.title = "request"
         self.title = self:request(tree)
     else
-        self:stop(self.base + frame.luid_at, "luid", "no message is known by this luid")
+        self:stop(self.base + frame.luid_at, "luid", "unknown luid")
     end
     if self.base + length > self.stop_at then
-        self:stop(self.at, "", string.format("cut short: the total length is %.0f, and %d bytes are there", length,
+        self:stop(self.at, "", string.format("truncated: the total length is %.0f, but there are %d bytes", length,
             self.stop_at - self.base))
     end
     if self.at ~= self.stop_at then
-        self:stop(self.at, "", string.format("%d bytes more than the message has", self.stop_at - self.at))
+        self:stop(self.at, "", string.format("%d extra bytes after the message", self.stop_at - self.at))
     end
 end
 
@@ -370,11 +370,11 @@ local function dissect(tvb, pinfo, tree)
                 more(pinfo, at, DESEGMENT_ONE_MORE_SEGMENT)
                 break
             end
-            return no_frame(tvb, at, pinfo, tree, "cut short within the header")
+            return no_frame(tvb, at, pinfo, tree, "truncated header")
         end
         local length = tvb(at + frame.length_at, 4):uint()
         if length < frame.least or length > frame.most then
-            return no_frame(tvb, at, pinfo, tree, string.format("a frame cannot have the total length %.0f", length))
+            return no_frame(tvb, at, pinfo, tree, string.format("invalid total length %.0f", length))
         end
         if length > tvb:reported_length_remaining(at) and pinfo.can_desegment > 0 then
             more(pinfo, at, length - tvb:reported_length_remaining(at))

@@ -1,4 +1,4 @@
-// tarn: shows, reads, writes and takes apart what the tarn feature says about itself.
+// tarn: serves, displays, converts and dissects answers of the tarn feature.
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -7,24 +7,32 @@
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
 
 namespace {
 
 using namespace tarn::tool;
 
-int print_error(const char *sentence, Exit exit) {
+int print_error(const char *message, Exit exit) {
     std::fflush(stdout);
-    std::fprintf(stderr, "tarn: %s\n", sentence);
+    std::fprintf(stderr, "tarn: %s\n", message);
     return static_cast<int>(exit);
 }
 
+std::string exit_code_list() {
+    std::string text;
+    for (const ExitCode &e : exit_codes) {
+        text += "\n  " + std::to_string(static_cast<int>(e.code)) + "  " + std::string(e.meaning);
+    }
+    return text;
+}
+
 int run(int argc, char **argv) {
-    CLI::App app("Shows, reads, writes and takes apart the answers of the tarn feature.", "tarn");
+    CLI::App app("Serve, display, convert and dissect answers of the tarn feature.", "tarn");
     Context context;
     app.require_subcommand(1);
-    app.footer(
-        "Exit codes: 0 done, 1 different or not found, 2 usage or input, 3 environment.\n"
-        "\"tarn COMMAND --help\" tells about one command and gives examples.");
+    app.footer(std::string(terms) + "\n\n" + name_rule + "\n\nExit codes of all commands:" + exit_code_list() +
+               "\n\nRun \"tarn COMMAND --help\" for the options of a command and examples.");
     add_answer(app, context);
     add_show(app, context);
     add_decode(app, context);
@@ -36,7 +44,7 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
-    // These two describe the command line and are not part of it: for the shells, and for the manual.
+    // "complete" and "manual" describe the command line to the shells and to the build, and are not listed in the help.
     if (argc > 1 && std::string_view(argv[1]) == "complete") {
         write_file("-", completions(app, {argv + 2, argv + argc}));
         return 0;
@@ -57,7 +65,7 @@ int run(int argc, char **argv) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    // Exceeding the limit on file sizes is an error like a full disk, and must not kill the process.
+    // A write beyond the limit on file sizes must fail with EFBIG, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return run(argc, argv);

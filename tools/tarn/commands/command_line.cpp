@@ -4,7 +4,7 @@ namespace tarn::tool {
 
 namespace {
 
-// A group has a help flag of its own, which is not listed again.
+// Each option group has its own copy of the help flag; list the flag once.
 void add_options(const CLI::App &command, bool is_group, std::vector<const CLI::Option *> &options) {
     for (const CLI::Option *option : command.get_options()) {
         if (is_group && option == command.get_help_ptr()) continue;

@@ -1,4 +1,12 @@
-// The subcommands. Each adds itself to the command line, and sets the exit code when it has run.
+// The subcommands. Each function adds one to the command line. A command that runs to its end leaves its exit code in
+// the context.
+//
+// What each folder of the tool may know (tests/layers holds it to this):
+//   support/   files, names, handles, exit codes: no format and no other folder of the tool
+//   formats/   frames, text, XML and JSON of messages: support/
+//   pages/     HTML pages: formats/ and support/
+//   service/   sockets, requests and bundles on the move: formats/ and support/
+//   commands/  the command line: all of the above
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -8,7 +16,7 @@
 namespace tarn::tool {
 
 struct Context {
-    Exit exit = Exit::done;
+    Exit exit = Exit::success;
 };
 
 void add_answer(CLI::App &app, Context &context);

@@ -11,25 +11,25 @@ namespace {
 
 class Candidates {
 public:
-    // `before` is what the word already has in front of the part that is completed.
-    Candidates(std::string word, std::string before) : word_(std::move(word)), before_(std::move(before)) {}
+    // `prefix` is the part of the word that precedes the completed part.
+    Candidates(std::string word, std::string prefix) : word_(std::move(word)), prefix_(std::move(prefix)) {}
 
     void add(std::string_view name, std::string_view meaning) {
-        const std::string whole = before_ + std::string(name);
+        const std::string whole = prefix_ + std::string(name);
         if (whole.starts_with(word_)) text_ += whole + (meaning.empty() ? "" : "\t" + std::string(meaning)) + "\n";
     }
-    // In the short form, or in full if the word begins so.
-    void add(const std::vector<Named> &names, const std::string &behind = "") {
-        const bool in_full = word_.substr(before_.size()).starts_with("lumo_");
+    // Short names, or full names if the word begins like one.
+    void add(const std::vector<Named> &names, const std::string &suffix = "") {
+        const bool in_full = word_.substr(prefix_.size()).starts_with("lumo_");
         for (const Named &n : names) {
-            add((in_full ? std::string(n.name) : short_form(n.name)) + behind, n.meaning);
+            add((in_full ? std::string(n.name) : short_name(n.name)) + suffix, n.meaning);
         }
     }
     void add_files() { text_ += ":files\n"; }
     const std::string &text() const { return text_; }
 
 private:
-    std::string word_, before_, text_;
+    std::string word_, prefix_, text_;
 };
 
 const CLI::Option *option_named(const CLI::App &command, const std::string &word) {
@@ -50,8 +50,8 @@ std::string members(const std::string &word) {
     return candidates.text();
 }
 
-std::string values(const CLI::Option &option, const std::string &word, const std::string &before) {
-    Candidates candidates(word, before);
+std::string values(const CLI::Option &option, const std::string &word, const std::string &prefix) {
+    Candidates candidates(word, prefix);
     const std::string kind = word_of(option);
     if (const auto choices = choices_of(option); !choices.empty()) {
         for (const std::string &choice : choices) candidates.add(choice, "");
@@ -75,19 +75,19 @@ std::string values(const CLI::Option &option, const std::string &word, const std
 
 std::string completions(const CLI::App &app, const std::vector<std::string> &words) {
     const CLI::App *command = nullptr;
-    const CLI::Option *awaits = nullptr;  // the option whose value comes next
+    const CLI::Option *pending = nullptr;  // the option whose value comes next
     std::size_t positionals = 0;
     bool options_end = false;
     for (std::size_t i = 0; i + 1 < words.size(); ++i) {
         const std::string &word = words[i];
-        if (awaits != nullptr) {
-            awaits = nullptr;
+        if (pending != nullptr) {
+            pending = nullptr;
         } else if (!options_end && word == "--") {
             options_end = true;
         } else if (!options_end && word.size() > 1 && word.front() == '-') {
             const CLI::Option *option = option_named(command != nullptr ? *command : app, word);
             const bool has_value = word.find('=') != std::string::npos;
-            if (option != nullptr && takes_value(*option) && !has_value) awaits = option;
+            if (option != nullptr && takes_value(*option) && !has_value) pending = option;
         } else if (command == nullptr) {
             for (const CLI::App *candidate : commands_of(app)) {
                 if (candidate->get_name() == word) command = candidate;
@@ -100,7 +100,7 @@ std::string completions(const CLI::App &app, const std::vector<std::string> &wor
 
     const std::string &word = words.empty() ? "" : words.back();
     const CLI::App &here = command != nullptr ? *command : app;
-    if (awaits != nullptr) return values(*awaits, word, "");
+    if (pending != nullptr) return values(*pending, word, "");
     if (!options_end && word.starts_with('-')) {
         const std::size_t equals = word.find('=');
         if (equals != std::string::npos) {

@@ -1,4 +1,4 @@
-// tarn decode: frames, and recordings, into text, XML or JSON.
+// tarn decode: converts frames and recordings to text, XML or JSON.
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -26,7 +26,7 @@ struct DecodeOptions {
     Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
 };
 
-// Throws the first failure, or prints each and remembers the exit code.
+// Throws the first failure, or prints all failures and remembers the highest exit code.
 class Failures {
 public:
     explicit Failures(bool keep_going) : keep_going_(keep_going) {}
@@ -35,26 +35,26 @@ public:
         if (!keep_going_) throw failure;
         std::fflush(stdout);
         std::fprintf(stderr, "tarn: %s\n", failure.what());
-        exit_ = failure.exit();
+        exit_ = std::max(exit_, failure.exit());
     }
     Exit exit() const { return exit_; }
 
 private:
     bool keep_going_;
-    Exit exit_ = Exit::done;
+    Exit exit_ = Exit::success;
 };
 
-// The library reports that a frame is bad; the dissection finds where.
+// The library reports only that a frame is invalid; the dissection finds the offset.
 Failure with_location(const Failure &failure, const Frame &frame, const std::string &origin) {
     const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
     const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();
-    const std::string words = failure.what();
+    const std::string message = failure.what();
     const std::string location = frame_location(origin, frame.offset) + ": ";
-    return {failure.exit(), (words.starts_with(location) ? words : location + words) + where};
+    return {failure.exit(), (message.starts_with(location) ? message : location + message) + where};
 }
 
 void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
-    const Handles handles(Tracking::as_given);
+    const Handles handles(Tracking::as_input);
     Progress progress("decoding " + origin);
     for (std::size_t offset = 0; offset < bytes.size();) {
         const Frame frame = frame_at(bytes, offset, origin);
@@ -70,8 +70,7 @@ void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOption
     }
 }
 
-// A message that the bundle being received does not admit is filed all the same; the bundle's table says that it is
-// wrong.
+// The library receives a message even if the open bundle does not admit it, so the tool checks that itself.
 void require_admitted(const Frame &frame, const reflect::BundleOperations *open, const std::string &origin) {
     if (open == nullptr || frame.identity.is_control() || admits(*open, *frame.identity.operations)) return;
     throw Failure(Exit::input, not_admitted(frame_location(origin, frame.offset), *open, *frame.identity.operations));
@@ -92,19 +91,19 @@ void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &o
         }
         for (const Item &item : receiver.take()) write_file("-", rendered(item, options.style()));
         if (frame.identity.is_control() && frame.identity.control == Control::abort) {
-            failures.add({Exit::different, frame_location(origin, frame.offset) + ": aborts " +
-                                               std::string(frame.identity.bundle->bundle->name)});
+            failures.add({Exit::negative, frame_location(origin, frame.offset) + ": aborts " +
+                                              std::string(frame.identity.bundle->bundle->name)});
         }
     }
     if (receiver.in_bundle()) {
         failures.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
     }
-    if (options.verbose) std::fprintf(stderr, "%u bundles reached their handler\n", receiver.committed());
+    if (options.verbose) std::fprintf(stderr, "%u bundles were handled\n", receiver.handled());
 }
 
 void decode_fragments(std::string_view content, const std::string &origin, const DecodeOptions &options,
                       Failures &failures) {
-    const Handles handles(Tracking::as_given);
+    const Handles handles(Tracking::as_input);
     for (const Fragment &fragment : split_fragments(content, origin)) {
         std::string out;
         try {
@@ -129,7 +128,7 @@ Exit run_decode(const DecodeOptions &options) {
             decode_fragments(content, origin, options, failures);
             break;
         case Form::json: {
-            const Handles handles(Tracking::as_given);
+            const Handles handles(Tracking::as_input);
             for (const Item &item : items_of(handles, content, origin, options.lenient)) {
                 write_file("-", rendered(item, options.style()));
             }
@@ -142,24 +141,26 @@ Exit run_decode(const DecodeOptions &options) {
 
 void add_decode(CLI::App &app, Context &context) {
     auto options = std::make_shared<DecodeOptions>();
-    CLI::App *command = app.add_subcommand("decode", "frames and recordings into text, XML or JSON");
-    add_input(*command, options->file, "frames, a run of XML fragments, or JSON");
-    CLI::Option_group *form = command->add_option_group("form", "what to make of them");
-    form->add_flag("--text", options->text, "indented text, which is the default");
-    form->add_flag("--xml", options->xml, "XML, one message to a line");
-    form->add_flag("--json", options->json, "JSON, one object to a line");
+    CLI::App *command = app.add_subcommand("decode", "Convert frames and recordings to text, XML or JSON");
+    add_input(*command, options->file, "Frames, XML fragments or JSON");
+    CLI::Option_group *form = command->add_option_group("form", "Output format");
+    form->add_flag("--text", options->text, "Indented text (default)");
+    form->add_flag("--xml", options->xml, "XML, one message per line");
+    form->add_flag("--json", options->json, "JSON, one object per line");
     form->require_option(0, 1);
-    command->add_flag("--bundles", options->bundles,
-                      "deliver the frames as a receiver does: messages appear when their bundle is committed");
-    add_via(*command, options->via, "with --bundles: which link of the handler chain takes them");
-    command->add_flag("-k,--keep-going", options->keep_going, "complain of what is broken, and go on behind it");
-    command->add_flag("--lenient", options->lenient, "pass over what the schema does not know in XML and JSON");
+    command->add_flag("--bundles", options->bundles, "Print messages when their bundle is committed, like a receiver");
+    add_via(*command, options->via, "With --bundles: where to register the handler of the bundles");
+    command->add_flag("-k,--keep-going", options->keep_going,
+                      "Print errors and continue with the next frame or fragment");
+    add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
-        "The message is found from each frame's luid; frames with per-field state are read with it.\n\n"
+        "Each frame contains the 16-byte identity of its message, the luid. With\n"
+        "--keep-going, the exit code is the highest of all errors. \"tarn show --help\"\n"
+        "explains --via.\n\n"
         "Examples:\n"
         "  tarn decode answer.bin --json\n"
-        "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles --via module -v\n"
+        "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles -v\n"
         "  tarn decode recording.xml");
     command->callback([options, &context] { context.exit = run_decode(*options); });
 }

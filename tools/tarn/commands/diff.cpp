@@ -1,4 +1,4 @@
-// tarn diff: two messages, or runs of messages, member by member.
+// tarn diff: compares messages member by member.
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -22,7 +22,7 @@ struct DiffOptions {
 
 struct Difference {
     std::string path;
-    const ordered_json *a, *b;  // null where there is nothing
+    const ordered_json *a, *b;  // null: only the other side has it
 };
 
 class Comparison {
@@ -53,13 +53,13 @@ private:
         differences.push_back({path, a, b});
     }
 
-    bool passed_over(const std::string &name) const {
+    bool is_ignored(const std::string &name) const {
         return !with_state_ && (name == "@state" || name == "@members" || name == "tracked");
     }
 
     void compare_objects(const std::string &path, const ordered_json &a, const ordered_json &b) {
         for (const auto &item : a.items()) {
-            if (passed_over(item.key())) continue;
+            if (is_ignored(item.key())) continue;
             const auto other = b.find(item.key());
             const std::string below = path + "." + item.key();
             if (other == b.end()) {
@@ -69,7 +69,7 @@ private:
             }
         }
         for (const auto &item : b.items()) {
-            if (!passed_over(item.key()) && !a.contains(item.key()))
+            if (!is_ignored(item.key()) && !a.contains(item.key()))
                 add(path + "." + item.key(), nullptr, &item.value());
         }
     }
@@ -78,7 +78,7 @@ private:
 };
 
 ordered_json load(const std::string &path, bool lenient) {
-    const Handles handles(Tracking::as_given);
+    const Handles handles(Tracking::as_input);
     ordered_json all = ordered_json::array();
     for (const Item &item : read_items(handles, path, lenient)) all.push_back(json_of(item));
     return all;
@@ -91,11 +91,11 @@ void print(const std::vector<Difference> &differences) {
     for (const Difference &d : differences) {
         if (d.a != nullptr && d.b != nullptr) {
             out +=
-                d.path + ": " + painted(d.a->dump(), Color::red) + " -> " + painted(d.b->dump(), Color::green) + "\n";
+                d.path + ": " + colored(d.a->dump(), Color::red) + " -> " + colored(d.b->dump(), Color::green) + "\n";
         } else if (d.a != nullptr) {
-            out += d.path + ": " + painted("only in A: " + shown(d.a), Color::red) + "\n";
+            out += d.path + ": " + colored("only in A: " + shown(d.a), Color::red) + "\n";
         } else {
-            out += d.path + ": " + painted("only in B: " + shown(d.b), Color::green) + "\n";
+            out += d.path + ": " + colored("only in B: " + shown(d.b), Color::green) + "\n";
         }
     }
     write_file("-", out);
@@ -115,7 +115,7 @@ void print_json(const std::vector<Difference> &differences) {
 Exit run_diff(const DiffOptions &options) {
     const ordered_json a = load(options.a, options.lenient), b = load(options.b, options.lenient);
     Comparison comparison(!options.no_state);
-    // A lone message needs no index in front of its paths.
+    // The paths of a single message have no index.
     for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
         const std::string path = std::max(a.size(), b.size()) == 1 ? "" : "[" + std::to_string(i) + "]";
         if (i < a.size() && i < b.size()) {
@@ -128,24 +128,24 @@ Exit run_diff(const DiffOptions &options) {
         if (!d.path.empty() && d.path[0] == '.') d.path.erase(0, 1);
     }
     if (!options.quiet) (options.json ? print_json : print)(comparison.differences);
-    return comparison.differences.empty() ? Exit::done : Exit::different;
+    return comparison.differences.empty() ? Exit::success : Exit::negative;
 }
 
 }  // namespace
 
 void add_diff(CLI::App &app, Context &context) {
     auto options = std::make_shared<DiffOptions>();
-    CLI::App *command = app.add_subcommand("diff", "two messages member by member");
-    command->add_option("a", options->a, "frames, XML or JSON")->type_name(words::file)->required();
-    command->add_option("b", options->b, "frames, XML or JSON, not necessarily of the same form")
+    CLI::App *command = app.add_subcommand("diff", "Compare two files of messages member by member");
+    command->add_option("a", options->a, "Frames, XML or JSON")->type_name(words::file)->required();
+    command->add_option("b", options->b, "Frames, XML or JSON; the formats may differ")
         ->type_name(words::file)
         ->required();
-    command->add_flag("--json", options->json, "as JSON");
-    command->add_flag("-q,--quiet", options->quiet, "say nothing, the exit code tells");
-    command->add_flag("--no-state", options->no_state, "pass over per-field state");
+    command->add_flag("--json", options->json, "Print the differences as JSON");
+    command->add_flag("-q,--quiet", options->quiet, "Print nothing; only set the exit code");
+    command->add_flag("--no-state", options->no_state, "Ignore per-field state");
     add_lenient(*command, options->lenient);
     command->footer(
-        "Exit codes: 0 no difference, 1 different, 2 one of them cannot be read.\n\n"
+        "The exit code is 0 if the messages are equal, and 1 if they differ.\n\n"
         "Examples:\n"
         "  tarn diff before.bin after.bin\n"
         "  tarn diff examples/cl_debug.xml answer.json --json");

@@ -1,4 +1,4 @@
-// tarn dissect: an annotated dump of frames.
+// tarn dissect: prints an annotated dump of frames.
 #include <cstdio>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -31,14 +31,14 @@ std::string hex_column(FrameBytes bytes) {
 void print_line(std::size_t offset, FrameBytes bytes, const std::string &words, std::string &out) {
     char front[24];
     std::snprintf(front, sizeof front, "%8zu  ", offset);
-    out += painted(front, Color::grey) + hex_column(bytes) + words + "\n";
+    out += colored(front, Color::grey) + hex_column(bytes) + words + "\n";
 }
 
 void print_piece(const Piece &piece, FrameBytes all, std::string &out) {
     const FrameBytes bytes = all.subspan(piece.offset, piece.size);
     std::string words = " " + std::string(2 * piece.depth, ' ') + piece.path;
     if (words.size() < 56) words.resize(56, ' ');
-    words += " " + painted(piece.kind, Color::blue);
+    words += " " + colored(piece.kind, Color::blue);
     if (!piece.value.empty()) words += " " + piece.value;
     print_line(piece.offset, bytes.first(std::min(bytes.size(), bytes_in_line)), words, out);
     for (std::size_t at = bytes_in_line; at < bytes.size(); at += bytes_in_line) {
@@ -67,7 +67,7 @@ nlohmann::ordered_json json_of_dissection(const Dissection &dissection, std::siz
 Exit run_dissect(const DissectOptions &options) {
     const std::string content = read_file(options.file);
     const FrameBytes all = bytes_of(content);
-    if (all.empty()) throw Failure(Exit::input, shown_path(options.file) + ": is empty");
+    if (all.empty()) throw Failure(Exit::input, shown_path(options.file) + ": empty");
     nlohmann::ordered_json frames = nlohmann::ordered_json::array();
     for (std::size_t offset = 0; offset < all.size();) {
         const Dissection dissection = dissect_frame(all.subspan(offset), offset);
@@ -85,18 +85,19 @@ Exit run_dissect(const DissectOptions &options) {
         offset += dissection.size;
     }
     if (options.json) write_file("-", frames.dump(2) + "\n");
-    return Exit::done;
+    return Exit::success;
 }
 
 }  // namespace
 
 void add_dissect(CLI::App &app, Context &context) {
     auto options = std::make_shared<DissectOptions>();
-    CLI::App *command = app.add_subcommand("dissect", "an annotated dump of frames, byte by byte");
-    add_input(*command, options->file, "frames");
-    command->add_flag("--json", options->json, "as JSON");
+    CLI::App *command = app.add_subcommand("dissect", "Print an annotated dump of frames, byte by byte");
+    add_input(*command, options->file, "Frames");
+    command->add_flag("--json", options->json, "Print JSON");
     command->footer(
-        "Of a broken frame it shows what is good, then where it breaks and why, and ends with exit code 2.\n\n"
+        "Of a broken frame, the dump shows what precedes the error. The error follows on\n"
+        "standard error, with its offset and reason.\n\n"
         "Examples:\n"
         "  tarn dissect answer.bin\n"
         "  tarn encode examples/cl_debug.xml | tarn dissect");

@@ -1,4 +1,4 @@
-// tarn encode: XML and JSON into frames.
+// tarn encode: converts XML and JSON to frames.
 #include <memory>
 
 #include "tools/tarn/commands/commands.h"
@@ -22,30 +22,30 @@ struct EncodeOptions {
 Exit run_encode(const EncodeOptions &options) {
     set_up_trace(options.verbose);
     const std::string origin = shown_path(options.file);
-    const Handles handles(options.tracked ? Tracking::on : Tracking::as_given);
+    const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
     const std::vector<Item> items = read_items(handles, options.file, options.lenient);
     const auto *bundle = options.bundle.empty() ? nullptr : &bundle_named(options.bundle);
     write_file(options.output, frames_of(handles, items, origin, bundle, options.stamp));
-    return Exit::done;
+    return Exit::success;
 }
 
 }  // namespace
 
 void add_encode(CLI::App &app, Context &context) {
     auto options = std::make_shared<EncodeOptions>();
-    CLI::App *command = app.add_subcommand("encode", "XML and JSON into frames");
-    add_input(*command, options->file, "XML, JSON, or frames");
-    add_output(*command, options->output, "where the frames go");
-    command->add_option("--bundle", options->bundle, "put a start and a commit of this bundle around them")
+    CLI::App *command = app.add_subcommand("encode", "Convert XML and JSON to frames");
+    add_input(*command, options->file, "XML, JSON or frames");
+    add_output(*command, options->output, "Output file");
+    command->add_option("--bundle", options->bundle, "Put the start and the commit of this bundle around the messages")
         ->type_name(words::bundle);
-    command->add_option("--stamp", options->stamp, "stamp in every header")->capture_default_str();
-    command->add_flag("--tracked", options->tracked, "write per-field state");
+    command->add_option("--stamp", options->stamp, "Message stamp in the header of each frame")->capture_default_str();
+    command->add_flag("--tracked", options->tracked, "Write per-field state");
     add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
-        "Input is held against the schema: a misspelt member, an unknown enumerator, a value too wide or a missing "
-        "payload\n"
-        "is an error with its line or path.\n\n"
+        "The input is checked against the schema: a misspelled member, an unknown\n"
+        "enumerator, a value out of range or a missing payload is an error, reported with\n"
+        "its line or path.\n\n"
         "Examples:\n"
         "  tarn encode examples/cl_debug.xml -o debug.bin\n"
         "  tarn encode tables.json --bundle dp-tt-cfg --tracked | tarn dissect\n"

@@ -1,4 +1,5 @@
-// tarn generate: plausible answers for trying things out.
+// tarn generate: random messages with plausible values.
+#include <cstdio>
 #include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -8,6 +9,7 @@
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/writer.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/random_payload.h"
@@ -18,14 +20,14 @@ namespace tarn::tool {
 namespace {
 
 struct GenerateOptions {
-    std::string what, output = "-", form = "xml";
+    std::string type, output = "-", form = "xml";
     std::uint64_t seed = 1;
     std::uint32_t elements = 3;
     std::uint64_t size = 0;
     bool tracked = false, bundle = false;
 };
 
-// Bytes of a payload's frame, without reading it into an instance first.
+// The size of a payload on the wire, computed from its JSON form.
 std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &record, bool tracked) {
     std::size_t size = schema::record_head_size;
     for (const schema::Member &m : record.members) {
@@ -57,15 +59,22 @@ public:
         return std::move(from_json(handles_, json.dump(), "generated", false).front());
     }
 
-    // The least number of elements whose frame is at least as large as asked for, or, if no number reaches that, one
-    // beyond which the frame does not grow.
+    // The smallest number of elements with which the frame has at least `size` bytes. If the counts of the lists are
+    // too narrow for that, a number beyond which the frame does not grow.
     std::uint32_t elements_for(std::uint64_t size) const {
-        Progress progress("looking for the size");
+        if (!RandomPayload::can_grow(operations_.message->payload)) {
+            throw Failure(Exit::input, "--size has no effect on " + std::string(operations_.name) +
+                                           ", which has no list of variable length");
+        }
+        Progress progress("searching for the number of elements");
         std::uint32_t most = 1;
         std::size_t reached = size_of(most), before = 0;
         while (reached < size && reached != before) {
             progress.at(reached, size);
             before = std::exchange(reached, size_of(most *= 2));
+        }
+        if (reached < size) {
+            std::fprintf(stderr, "tarn: all lists have their maximum length, and the frame only %zu bytes\n", reached);
         }
         std::uint32_t least = most / 2 + 1;
         while (least < most) {
@@ -89,16 +98,18 @@ private:
     Handles handles_;
 };
 
-// A bundle by its name, or a message by its own.
-const reflect::MessageOperations &message_for(const std::string &what, const reflect::BundleOperations *&bundle) {
-    for (const reflect::MessageOperations &o : reflect::messages()) {
-        if (what == o.name) {
-            bundle = &bundle_of(o);
-            return o;
-        }
+// The message of a bundle, or a message with its bundle.
+const reflect::MessageOperations &message_for(const std::string &name, const reflect::BundleOperations *&bundle) {
+    bundle = find_bundle_named(name);
+    if (bundle != nullptr) return reflect::operations_of(bundle->bundle->message);
+    const auto *message = find_message_named(name);
+    if (message == nullptr) {
+        std::vector<Named> known = bundle_names();
+        for (const Named &n : message_names()) known.push_back(n);
+        throw unknown_name("bundle or message", name, known);
     }
-    bundle = &bundle_named(what);
-    return reflect::operations_of(bundle->bundle->message);
+    bundle = &bundle_of(*message);
+    return *message;
 }
 
 const std::map<std::string, Style> style_names = {
@@ -106,7 +117,7 @@ const std::map<std::string, Style> style_names = {
 
 void run_generate(const GenerateOptions &options) {
     const reflect::BundleOperations *bundle = nullptr;
-    const reflect::MessageOperations &operations = message_for(options.what, bundle);
+    const reflect::MessageOperations &operations = message_for(options.type, bundle);
     const Generator generator(options, operations);
     const Item item = generator.make(options.size != 0 ? generator.elements_for(options.size) : options.elements);
     const Style style = style_names.at(options.form);
@@ -123,30 +134,31 @@ void run_generate(const GenerateOptions &options) {
 
 void add_generate(CLI::App &app, Context &) {
     auto options = std::make_shared<GenerateOptions>();
-    CLI::App *command = app.add_subcommand("generate", "plausible random answers");
-    command->add_option("what", options->what, "a bundle by name or short form, or a message by name")
-        ->type_name(words::bundle_or_message)
-        ->required();
-    command->add_option("--seed", options->seed, "the same seed gives the same answer")->capture_default_str();
+    CLI::App *command = app.add_subcommand("generate", "Generate a message with random, plausible values");
+    command->add_option("type", options->type, "Bundle or message")->type_name(words::bundle_or_message)->required();
+    command->add_option("--seed", options->seed, "Seed; the same seed gives the same message")->capture_default_str();
     CLI::Option *elements =
-        command->add_option("--elements", options->elements, "about how many elements each list has")
-            ->check(CLI::Range(0U, 1000000U))
+        command->add_option("--elements", options->elements, "Number of elements of the outer lists")
+            ->check(CLI::Range(0U, 1000000U).description(""))
             ->capture_default_str();
-    command->add_option("--size", options->size, "make the frame at least so large, such as 64K or 1M")
-        ->transform(CLI::AsSizeValue(false))
-        ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 28))
+    add_size(*command, "--size", options->size, "Lengthen the lists until the frame has at least this size", 1,
+             1U << 28)
         ->excludes(elements);
-    command->add_option("--form", options->form, "what to write")
+    command->add_option("--form", options->form, "Output format")
         ->check(CLI::IsMember({"xml", "json", "text", "frames"}))
         ->capture_default_str();
-    add_output(*command, options->output, "where to write it");
-    command->add_flag("--tracked", options->tracked, "with per-field state");
-    command->add_flag("--bundle", options->bundle, "with the start and the commit of its bundle around it");
+    add_output(*command, options->output, "Output file");
+    command->add_flag("--tracked", options->tracked, "Generate with per-field state");
+    command->add_flag("--bundle", options->bundle, "Put the start and the commit of the bundle around the message");
     command->footer(
+        "With --size, the number of elements is the smallest that reaches the size. The\n"
+        "frame stays smaller, with a note on standard error, if the counts of its lists\n"
+        "are too narrow; --size is an error for a message without a list of variable\n"
+        "length.\n\n"
         "Examples:\n"
         "  tarn generate dp-tt-cfg --seed 7 --elements 4 -o tables.xml\n"
-        "  tarn generate dp-appl-cfg --size 1M --form frames --bundle | tarn decode --bundles --json\n"
-        "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.xml");
+        "  tarn generate dp-appl-cfg --size 1MiB --form frames --bundle -o answer.bin\n"
+        "  tarn generate debug-setting --form json");
     command->callback([options] { run_generate(*options); });
 }
 

@@ -1,4 +1,4 @@
-// tarn manifest: the section .orrin of a library file: the list of its types, and who built it when.
+// tarn manifest: prints the section .orrin of a library file: its list of types and its build stamp.
 #include <elf.h>
 
 #include <cstring>
@@ -19,18 +19,18 @@ struct ManifestOptions {
     bool json = false;
 };
 
-// Reads nothing beyond the file's end, whatever its tables claim.
+// Reads nothing beyond the end of the file, even if its tables are damaged.
 class ElfFile {
 public:
     ElfFile(std::string_view bytes, const std::string &path) : bytes_(bytes), path_(path) {
-        if (bytes.substr(0, SELFMAG) != ELFMAG) fail("is no ELF file");
-        if (bytes.size() < EI_NIDENT || bytes[EI_DATA] != ELFDATA2LSB) fail("is no little-endian ELF file");
+        if (bytes.substr(0, SELFMAG) != ELFMAG) fail("not an ELF file");
+        if (bytes.size() < EI_NIDENT || bytes[EI_DATA] != ELFDATA2LSB) fail("not a little-endian ELF file");
     }
 
     std::string_view section(std::string_view name) const {
         if (bytes_[EI_CLASS] == ELFCLASS64) return find<Elf64_Ehdr, Elf64_Shdr>(name);
         if (bytes_[EI_CLASS] == ELFCLASS32) return find<Elf32_Ehdr, Elf32_Shdr>(name);
-        fail("is neither a 32-bit nor a 64-bit ELF file");
+        fail("neither a 32-bit nor a 64-bit ELF file");
     }
 
 private:
@@ -38,7 +38,7 @@ private:
 
     std::string_view part(std::uint64_t offset, std::uint64_t size, const char *what) const {
         if (offset > bytes_.size() || size > bytes_.size() - offset) {
-            fail(std::string(what) + " lies behind the end of the file");
+            fail(std::string(what) + " is beyond the end of the file");
         }
         return bytes_.substr(offset, size);
     }
@@ -90,7 +90,7 @@ std::vector<Block> blocks_of(std::string_view section, const std::string &path) 
         const std::size_t left = section.size() - at;
         const std::uint32_t length = left >= 8 ? number_at(section, at) : 0;
         if (left < 8 || length == 0 || length > left - 8) {
-            throw Failure(Exit::input, path + ": .orrin is broken at offset " + std::to_string(at));
+            throw Failure(Exit::input, path + ": section .orrin is invalid at offset " + std::to_string(at));
         }
         blocks.push_back({number_at(section, at + 4), std::string(section.substr(at + 8, length - 1))});
         at += 8 + (std::size_t{length} + 3) / 4 * 4;
@@ -106,7 +106,7 @@ Exit run_manifest(const ManifestOptions &options) {
     const std::string content = read_file(options.file);
     const ElfFile file(content, options.file);
     const std::string_view section = file.section(".orrin");
-    if (section.empty()) throw Failure(Exit::different, options.file + ": has no section .orrin");
+    if (section.empty()) throw Failure(Exit::negative, options.file + ": no section .orrin");
     nlohmann::ordered_json json = nlohmann::ordered_json::array();
     std::string out;
     for (const Block &block : blocks_of(section, options.file)) {
@@ -115,18 +115,18 @@ Exit run_manifest(const ManifestOptions &options) {
         if (!block.text.empty() && block.text.back() != '\n') out += "\n";
     }
     write_file("-", options.json ? json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n" : out);
-    return Exit::done;
+    return Exit::success;
 }
 
 }  // namespace
 
 void add_manifest(CLI::App &app, Context &context) {
     auto options = std::make_shared<ManifestOptions>();
-    CLI::App *command = app.add_subcommand("manifest", "what a library file says of its types and its build");
-    command->add_option("file", options->file, "an ELF file")->type_name(words::file)->required();
-    command->add_flag("--json", options->json, "as JSON");
+    CLI::App *command = app.add_subcommand("manifest", "Print the types and the build stamp in a library file");
+    command->add_option("file", options->file, "ELF file")->type_name(words::file)->required();
+    command->add_flag("--json", options->json, "Print JSON");
     command->footer(
-        "Exit codes: 0 printed, 1 the file has no manifest, 2 it is no ELF file or is damaged.\n\n"
+        "The manifest is the section .orrin. The exit code is 1 if the file has none.\n\n"
         "Examples:\n"
         "  tarn manifest build/release/liblumo_ui_tarn.so\n"
         "  tarn manifest liblumo_ui_tarn.so.1 --json");

@@ -1,13 +1,17 @@
 // The manual page of the tool, from the definitions of its command line.
+#include <cctype>
 #include <sstream>
+#include <utility>
 
 #include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
 
 namespace {
 
-// Text that a line of mdoc may begin with.
+// Escapes a line of mdoc text.
 std::string text_line(const std::string &line) {
     std::string out;
     for (const char c : line) out += c == '\\' ? std::string("\\e") : std::string(1, c);
@@ -15,19 +19,25 @@ std::string text_line(const std::string &line) {
     return out;
 }
 
-// Running text, in which a sentence begins a line of its own.
+// Running text: mdoc wants each sentence on a line of its own.
 std::string text_lines(const std::string &text) {
     std::string out = text_line(text);
     for (std::size_t at = 0; (at = out.find(". ", at)) != std::string::npos;) out.replace(at, 2, ".\n");
     return out;
 }
 
-std::string sentence(std::string text) {
-    if (!text.empty() && text.front() >= 'a' && text.front() <= 'z') {
-        text.front() = static_cast<char>(text.front() - 'a' + 'A');
-    }
+std::string sentence(std::string_view words) {
+    std::string text(words);
+    if (!text.empty()) text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     if (!text.ends_with('.')) text += '.';
     return text_lines(text);
+}
+
+// The form of a description in the line of a page's name.
+std::string lower_first(std::string text) {
+    text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+    if (text.ends_with('.')) text.pop_back();
+    return text;
 }
 
 std::string argument(const CLI::Option &option) {
@@ -59,7 +69,7 @@ void write_option(const CLI::Option &option, std::ostream &out) {
     if (!option.get_default_str().empty()) out << "The default is " << text_line(option.get_default_str()) << ".\n";
 }
 
-// The usage of a command: its positionals, behind whatever options.
+// The usage of a command: its positionals after the options.
 void write_usage(const CLI::App &command, std::ostream &out) {
     out << ".Nm tarn " << command.get_name() << "\n.Op Ar options\n";
     for (const CLI::Option *option : positionals_of(command)) {
@@ -68,18 +78,21 @@ void write_usage(const CLI::App &command, std::ostream &out) {
     }
 }
 
-// What stands below a command's options in its help: paragraphs, then examples.
+// The footer of a command's help: paragraphs, which blank lines separate, then examples.
 void write_footer(const std::string &footer, std::ostream &out) {
     std::istringstream in(footer);
+    std::string paragraph;
     bool literal = false;
     for (std::string line; std::getline(in, line);) {
         if (line == "Examples:") {
-            out << ".Bd -literal -offset indent\n";
+            out << ".Pp\nExamples:\n.Bd -literal -offset indent\n";
             literal = true;
         } else if (literal) {
             out << text_line(line.starts_with("  ") ? line.substr(2) : line) << "\n";
         } else if (!line.empty()) {
-            out << ".Pp\n" << text_lines(line) << "\n";
+            paragraph += (paragraph.empty() ? "" : " ") + line;
+        } else {
+            out << ".Pp\n" << text_lines(std::exchange(paragraph, {})) << "\n";
         }
     }
     if (literal) out << ".Ed\n";
@@ -97,40 +110,29 @@ void write_command(const CLI::App &command, std::ostream &out) {
 
 std::string manual_page(const CLI::App &app) {
     std::ostringstream out;
-    out << ".Dd November 21, 2026\n.Dt TARN 1\n.Os\n.Sh NAME\n.Nm tarn\n.Nd show, read, write and take apart answers "
-           "of "
-           "the tarn feature\n.Sh SYNOPSIS\n";
+    out << ".Dd November 22, 2026\n.Dt TARN 1\n.Os\n.Sh NAME\n.Nm tarn\n.Nd " << lower_first(app.get_description())
+        << "\n.Sh SYNOPSIS\n";
     for (const CLI::App *command : commands_of(app)) write_usage(*command, out);
-    out << R"(.Sh DESCRIPTION
-Processes tell what the feature tarn knows in records, which travel as frames inside messages, and messages inside
-bundles.
-.Nm
-asks a process for a bundle and prints the answer, plays such a process with answers from files, and turns frames,
-XML and JSON into each other.
+    out << ".Sh DESCRIPTION\n"
+        << text_lines(terms) << "\n.Pp\n"
+        << text_lines(name_rule) << R"(
 .Pp
-Bundles, messages and records are named in full, such as lumo_tarn_dp_tt_cfg_rsp, or in short, such as dp-tt-cfg:
-without the first two words and the last, and with hyphens.
-.Pp
-A file named - is standard input or standard output.
+The file name - stands for standard input or standard output.
 .Sh COMMANDS
 )";
     for (const CLI::App *command : commands_of(app)) write_command(*command, out);
     out << R"(.Sh ENVIRONMENT
 .Bl -tag -width MIRK_TRACE
 .It Ev MIRK_TRACE
-Levels of trace lines that are printed on standard error: numbers from 0 to 31 with commas between them, all, or none.
+Trace levels to print on standard error: comma-separated numbers from 0 to 31, all, or none.
 .El
 .Sh EXIT STATUS
+All commands use the same exit codes:
 .Bl -tag -width Ds
-.It 0
-Done.
-.It 1
-Different or not found.
-.It 2
-Wrong usage, or broken input.
-.It 3
-The environment is in the way: no memory, no file, no connection.
-.El
+)";
+    for (const ExitCode &e : exit_codes)
+        out << ".It " << static_cast<int>(e.code) << "\n" << sentence(e.meaning) << "\n";
+    out << R"(.El
 .Sh SEE ALSO
 .Xr lumo_ui_tarn 3 ,
 .Xr tarn_frame 5

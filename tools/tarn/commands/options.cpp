@@ -4,53 +4,52 @@
 
 namespace tarn::tool {
 
-std::string tcp_words(const std::string &what) {
-    return "HOST:PORT, " + what + "; without a host 127.0.0.1, without a port " +
-           std::to_string(MIRK_PLATFORM_TCP_PORT);
+std::string tcp_words() {
+    return "TCP address HOST:PORT; default host 127.0.0.1, default port " + std::to_string(MIRK_PLATFORM_TCP_PORT);
 }
 
-void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what) {
+void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what, double least) {
     command.add_option(name, seconds, what)
-        ->check(CLI::Range(0.0, 86400.0).description(""))
+        ->check(CLI::Range(least, 86400.0).description(""))
         ->type_name("SECONDS")
         ->capture_default_str();
 }
 
-void add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
-              std::uint64_t least) {
+CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
+                      std::uint64_t least, std::uint64_t most) {
+    CLI::Option *option = command.add_option(name, size, what)
+                              ->check(CLI::Range(least, most).description(""))
+                              ->transform(CLI::AsSizeValue(false).description(""))
+                              ->type_name("SIZE");
     const bool whole_mib = size % (1U << 20) == 0;
-    command.add_option(name, size, what)
-        ->check(CLI::Range(least, std::uint64_t{UINT32_MAX}).description(""))
-        ->transform(CLI::AsSizeValue(false).description(""))
-        ->type_name("SIZE")
-        ->default_str(whole_mib ? std::to_string(size >> 20) + "MiB" : std::to_string(size >> 10) + "KiB");
+    if (size != 0)
+        option->default_str(whole_mib ? std::to_string(size >> 20) + "MiB" : std::to_string(size >> 10) + "KiB");
+    return option;
 }
 
 void add_input(CLI::App &command, std::string &path, const std::string &what) {
-    command.add_option("file", path, what + "; - is standard input")->type_name(words::file)->capture_default_str();
+    command.add_option("file", path, what + "; default: standard input")->type_name(words::file);
 }
 
 void add_output(CLI::App &command, std::string &path, const std::string &what) {
-    command.add_option("-o,--output", path, what + "; - is standard output")
-        ->type_name(words::file)
-        ->capture_default_str();
+    command.add_option("-o,--output", path, what + "; default: standard output")->type_name(words::file);
 }
 
 void add_lenient(CLI::App &command, bool &lenient) {
-    command.add_flag("--lenient", lenient, "pass over what the schema does not know");
+    command.add_flag("--lenient", lenient, "Ignore what the schema does not define in XML and JSON");
 }
 
 void add_verbose(CLI::App &command, bool &verbose) {
-    command.add_flag("-v,--verbose", verbose, "print every trace line on standard error");
+    command.add_flag("-v,--verbose", verbose, "Print all trace lines on standard error");
 }
 
 void add_timeout(CLI::App &command, double &seconds, const std::string &what) {
-    command.add_option("--timeout", seconds, what)->check(CLI::Range(0.001, 86400.0))->capture_default_str();
+    add_seconds(command, "--timeout", seconds, what, 0.001);
 }
 
 void add_limits(CLI::App &command, AnswerLimits &limits) {
-    add_size(command, "--frame-limit", limits.frame, "longest frame that the answer may hold", 1 << 10);
-    add_size(command, "--answer-limit", limits.answer, "most bytes that an answer may have", 1 << 10);
+    add_size(command, "--frame-limit", limits.frame, "Largest frame to accept", 1 << 10);
+    add_size(command, "--answer-limit", limits.answer, "Largest answer to accept, all frames together", 1 << 10);
 }
 
 void add_via(CLI::App &command, std::string &via, const std::string &what) {

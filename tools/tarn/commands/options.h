@@ -1,4 +1,4 @@
-// Options that several commands have, and what their values are.
+// Options that several commands share, and the types of their values.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -9,7 +9,7 @@
 
 namespace tarn::tool {
 
-// What words stand for; an option's type, and so shown by --help as well.
+// Types of values. --help prints them, and completion chooses candidates by them.
 namespace words {
 inline constexpr const char *file = "FILE";
 inline constexpr const char *address = "ADDRESS";
@@ -19,22 +19,23 @@ inline constexpr const char *bundle_or_message = "BUNDLE|MESSAGE";
 inline constexpr const char *type = "TYPE[.MEMBER...]";
 }  // namespace words
 
-// How an option that takes a TCP address describes it.
-std::string tcp_words(const std::string &what);
+// The description of an option that takes a TCP address.
+std::string tcp_words();
 
-// A time in seconds, at most a day; 0 is permitted where it means no limit. The value before is the default.
-void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what);
-// A number of bytes below 4 GiB, with an optional unit.
-void add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
-              std::uint64_t least);
+// A time in seconds, at most a day. 0 means no limit unless `least` excludes it. The initial value is the default.
+void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what,
+                 double least = 0);
+// A number of bytes with an optional unit. The initial value is the default, unless it is 0.
+CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
+                      std::uint64_t least, std::uint64_t most = UINT32_MAX);
 
-// The positional `file`, which is standard input if left out.
+// The positional `file`; its default is standard input.
 void add_input(CLI::App &command, std::string &path, const std::string &what);
 void add_output(CLI::App &command, std::string &path, const std::string &what);
 void add_lenient(CLI::App &command, bool &lenient);
 void add_verbose(CLI::App &command, bool &verbose);
 
-// Of the side that asks.
+// Options of a requesting process.
 void add_timeout(CLI::App &command, double &seconds, const std::string &what);
 void add_limits(CLI::App &command, AnswerLimits &limits);
 void add_via(CLI::App &command, std::string &via, const std::string &what);

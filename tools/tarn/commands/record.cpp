@@ -1,4 +1,4 @@
-// tarn record: keeps what is received, through the recorder of the runtime.
+// tarn record: records received messages through the recorder of the reference runtime.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -22,14 +22,14 @@ struct RecordOptions {
     std::string output, full, from;
     Endpoint endpoint;
     AnswerLimits limits;
-    std::vector<std::string> what;
+    std::vector<std::string> bundles;
     unsigned rounds = 1;
     double interval = 1, timeout = 10;
     bool tracked = false, verbose = false;
 };
 
-// Switches the recorder on during its lifetime. What the recorder writes is taken message by message, which shows
-// whether it recorded each.
+// Enables the recorder during its lifetime. Its output is taken after each message, which shows whether the message was
+// recorded.
 class Recorder {
 public:
     Recorder() : stream_(open_memstream(&text_, &size_)) {
@@ -44,7 +44,7 @@ public:
         std::free(text_);
     }
 
-    // What came since the last time; empty if the recorder omitted it.
+    // The output since the last call; empty if the recorder omitted the message.
     std::string take() {
         if (std::fflush(stream_) != 0 || std::ferror(stream_) != 0) throw std::bad_alloc();
         std::string piece(text_, size_);
@@ -58,7 +58,7 @@ private:
     FILE *stream_;
 };
 
-// The files, which grow message by message: what was written before a failure stays.
+// The output files. They grow message by message, so everything before a failure is kept.
 class Recording {
 public:
     explicit Recording(const RecordOptions &options) : fragments_(options.output) {
@@ -72,9 +72,9 @@ public:
         ++messages_;
         const std::string piece = recorder_.take();
         if (piece.empty()) {
-            // The recorder omits, without an error, what does not fit into its buffer.
+            // The recorder omits a message that does not fit into its buffer, without reporting an error.
             ++too_large_;
-            std::fprintf(stderr, "tarn: %s: %s, %zu bytes, is too large for the recorder\n",
+            std::fprintf(stderr, "tarn: %s: %s of %zu bytes is too large for the recorder\n",
                          frame_location(origin, frame.offset).c_str(), frame.identity.operations->name,
                          frame.bytes.size());
             return;
@@ -110,11 +110,11 @@ void record_from_file(const RecordOptions &options, Recording &recording) {
 void record_from_socket(const RecordOptions &options, Recording &recording) {
     for (unsigned round = 0; round < options.rounds; ++round) {
         if (round != 0) std::this_thread::sleep_for(std::chrono::duration<double>(options.interval));
-        for (const std::string &what : options.what) {
-            const reflect::BundleOperations &bundle = bundle_named(what);
+        for (const std::string &name : options.bundles) {
+            const reflect::BundleOperations &bundle = bundle_named(name);
             Receiver receiver(options.tracked, Via::handle);
             Connection connection(options.endpoint, Deadline(options.timeout), options.limits);
-            connection.ask(bundle, options.tracked);
+            connection.request(bundle, options.tracked);
             receive_answer(connection, receiver, bundle,
                            [&](const Frame &frame) { recording.feed(receiver, frame, options.endpoint.text()); });
         }
@@ -132,51 +132,48 @@ Exit run_record(const RecordOptions &options) {
         throw;
     }
     recording.print_summary();
-    return recording.is_complete() ? Exit::done : Exit::different;
+    return recording.is_complete() ? Exit::success : Exit::negative;
 }
 
 }  // namespace
 
 void add_record(CLI::App &app, Context &context) {
     auto options = std::make_shared<RecordOptions>();
-    CLI::App *command = app.add_subcommand("record", "keep what is received in a file");
-    command->add_option("what", options->what, "bundles to ask for, by name or short form")->type_name(words::bundle);
-    command->add_option("-o,--output", options->output, "the recording: XML fragments, one behind the other")
+    CLI::App *command = app.add_subcommand("record", "Record received messages in a file");
+    command->add_option("bundles", options->bundles, "Bundles to request")->type_name(words::bundle);
+    command->add_option("-o,--output", options->output, "The recording: a sequence of XML fragments")
         ->type_name(words::file)
         ->required();
     command
-        ->add_option("--full", options->full,
-                     "keep all frames in this file, too, also those too large for the recorder")
+        ->add_option("--full", options->full, "Also write all frames to this file, including those of large messages")
         ->type_name(words::file);
     CLI::Option *socket =
-        command->add_option("--socket", options->endpoint.socket, "socket file of the answering process")
-            ->type_name(words::file);
-    CLI::Option *connect = command->add_option("--connect", options->endpoint.tcp, tcp_words("its TCP address"))
-                               ->type_name(words::address);
-    CLI::Option *from = command->add_option("--from", options->from, "receive from this file of frames instead")
+        command->add_option("--socket", options->endpoint.socket, "Socket file to connect to")->type_name(words::file);
+    CLI::Option *connect =
+        command->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
+    CLI::Option *from = command->add_option("--from", options->from, "Receive from this file of frames instead")
                             ->type_name(words::file);
     socket->excludes(from)->excludes(connect);
     connect->excludes(from);
-    command->add_option("--rounds", options->rounds, "ask for each bundle so many times")->capture_default_str();
-    command->add_option("--interval", options->interval, "seconds between the rounds")->capture_default_str();
-    add_timeout(*command, options->timeout, "seconds to wait for a whole answer");
+    command->add_option("--rounds", options->rounds, "Number of requests for each bundle")->capture_default_str();
+    add_seconds(*command, "--interval", options->interval, "Pause between two rounds");
+    add_timeout(*command, options->timeout, "Timeout for each answer");
     add_limits(*command, options->limits);
-    command->add_flag("--tracked", options->tracked, "ask for per-field state, and record it");
+    command->add_flag("--tracked", options->tracked, "Request and record per-field state");
     add_verbose(*command, options->verbose);
     command->footer(
-        "The recorder takes messages of up to 4096 bytes of XML. Each larger one is named, and the exit code is then "
-        "1\n"
-        "unless --full keeps them. \"tarn decode\" reads both files. Each message is written when it has come: after "
-        "a\n"
-        "full disk, which ends it with exit code 3, or after whatever else, the files hold all messages before, "
-        "whole.\n\n"
+        "The recorder omits messages of more than 4096 bytes of XML. Each omitted message\n"
+        "is reported on standard error, and the exit code is 1 unless --full keeps it.\n"
+        "Each message is written as soon as it has been received, so after an error, such\n"
+        "as a full disk, the files contain all preceding messages, whole. Both files can\n"
+        "be read with \"tarn decode\".\n\n"
         "Examples:\n"
         "  tarn record cl-debug dp-intf --socket /tmp/tarn.sock -o recording.xml\n"
-        "  tarn record dp-tt-cfg --socket /tmp/tarn.sock -o recording.xml --full frames.bin --rounds 10\n"
+        "  tarn record dp-tt-cfg --connect :28276 -o recording.xml --full frames.bin\n"
         "  tarn record --from frames.bin -o recording.xml");
     command->callback([options, &context] {
-        if (options->from.empty() && (!options->endpoint.is_given() || options->what.empty())) {
-            throw Failure(Exit::input, "either --from, or --socket or --connect and at least one bundle, is needed");
+        if (options->from.empty() && (!options->endpoint.is_given() || options->bundles.empty())) {
+            throw Failure(Exit::input, "--from, or --socket or --connect with at least one bundle, is required");
         }
         context.exit = run_record(*options);
     });

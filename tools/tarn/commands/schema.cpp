@@ -1,4 +1,4 @@
-// tarn schema: the schema as lists, trees and tables.
+// tarn schema: prints the schema as lists, trees or tables.
 #include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -51,16 +51,16 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
         for (std::size_t i = 0; i < row.size(); ++i)
             line += i + 1 < row.size() ? padded(row[i], widths[i] + 2) : row[i];
         const bool heading = &row == &rows.front();
-        out += heading ? painted(line, Color::grey) + "\n" : line + "\n";
+        out += heading ? colored(line, Color::grey) + "\n" : line + "\n";
     }
     return out;
 }
 
 std::string list_text() {
     std::string out = "bundles\n";
-    std::vector<std::vector<std::string>> rows{{"short form", "name", "admits"}};
+    std::vector<std::vector<std::string>> rows{{"short name", "name", "message"}};
     for (const auto *b : schema::bundles) {
-        rows.push_back({short_form(b->name), std::string(b->name), std::string(b->message.name)});
+        rows.push_back({short_name(b->name), std::string(b->name), std::string(b->message.name)});
     }
     out += table(rows) + "\nmessages\n";
     rows = {{"name", "luid", "payload"}};
@@ -82,7 +82,7 @@ std::string list_text() {
     return out + table(rows);
 }
 
-// A heading, and a row for each member.
+// A heading and one row for each member.
 std::vector<std::vector<std::string>> record_rows(const Record &record) {
     const schema::Layout layout = schema::lay_out(record);
     std::vector<std::vector<std::string>> rows{{"member", "kind", "role", "offset", "size", "slot", "wire", "meaning"}};
@@ -114,7 +114,7 @@ std::string enumeration_text(const schema::Enumeration &e) {
 void add_tree(const Record &record, const std::string &indent, std::string &out) {
     for (const Member &m : record.members) {
         if (m.role != schema::Role::value) continue;
-        out += indent + std::string(m.name) + "  " + painted(kind_text(m), Color::blue) + "\n";
+        out += indent + std::string(m.name) + "  " + colored(kind_text(m), Color::blue) + "\n";
         if (m.record != nullptr) add_tree(*m.record, indent + "  ", out);
     }
 }
@@ -148,21 +148,13 @@ std::string dot_text(const std::function<bool(const Record &)> &wanted) {
     return out + "}\n";
 }
 
-[[noreturn]] void unknown(const std::string &name) {
-    std::vector<std::string> candidates;
-    for (const auto *r : schema::records) candidates.push_back(short_form(r->name));
-    for (const auto *r : schema::records) candidates.emplace_back(r->name);
-    for (const auto *b : schema::bundles) candidates.push_back(short_form(b->name));
-    throw Failure(Exit::input, "the schema has no \"" + name + "\"" + suggestion(name, candidates));
-}
-
 [[noreturn]] void unknown_member(const std::string &path) {
     std::vector<std::string> candidates;
     const std::string in = path.substr(0, path.rfind('.'));
     if (const Target target = target_of(in); target && target.nested() != nullptr) {
         for (const Member &m : target.nested()->members) candidates.push_back(in + "." + std::string(m.name));
     }
-    throw Failure(Exit::input, "the schema has no \"" + path + "\"" + suggestion(path, candidates));
+    throw Failure(Exit::input, "unknown member \"" + path + "\"" + suggestion(path, candidates));
 }
 
 bool reaches(const Record &from, const Record &to) {
@@ -178,14 +170,14 @@ std::string of_enumeration(const schema::Enumeration &e, bool as_json) {
     return ordered_json{{"name", e.name}, {"luid", e.luid.text.data()}, {"enumerators", e.enumerators}}.dump(2) + "\n";
 }
 
-// The member's row, and what it nests.
+// The member's row, and the type that it nests.
 std::string of_member(const Target &target, const SchemaOptions &options) {
     const Member &member = *target.member;
     const bool nests = member.record != nullptr;
     if (options.tree)
         return nests ? tree_text(*member.record) : std::string(member.name) + "  " + kind_text(member) + "\n";
     if (options.dot && nests) return dot_text([&member](const Record &r) { return reaches(*member.record, r); });
-    if (options.dot) throw Failure(Exit::input, options.name + " nests nothing that could be drawn");
+    if (options.dot) throw Failure(Exit::input, options.name + " nests no record, so there is no graph");
     const auto at = static_cast<std::size_t>(&member - target.record->members.data());
     if (options.json) return json_of_record(*target.record)["members"][at].dump(2) + "\n";
     const auto rows = record_rows(*target.record);
@@ -197,7 +189,7 @@ std::string of_member(const Target &target, const SchemaOptions &options) {
 }
 
 std::string of_one(const SchemaOptions &options) {
-    if (options.html) throw Failure(Exit::input, "the page holds all of the schema, so no name goes with --html");
+    if (options.html) throw Failure(Exit::input, "--html shows the whole schema and takes no name");
     for (const auto *e : schema::enumerations) {
         if (is_named(options.name, e->name)) return of_enumeration(*e, options.json);
     }
@@ -207,7 +199,7 @@ std::string of_one(const SchemaOptions &options) {
         return of_member(target, options);
     }
     const Record *record = record_named(options.name);
-    if (record == nullptr) unknown(options.name);
+    if (record == nullptr) throw unknown_name("type", options.name, type_names());
     if (options.tree) return tree_text(*record);
     if (options.dot) return dot_text([record](const Record &r) { return reaches(*record, r); });
     return options.json ? json_of_record(*record).dump(2) + "\n" : record_text(*record);
@@ -227,19 +219,20 @@ std::string of_all(const SchemaOptions &options) {
 
 void add_schema(CLI::App &app, Context &) {
     auto options = std::make_shared<SchemaOptions>();
-    CLI::App *command = app.add_subcommand("schema", "the schema as lists, trees and tables");
+    CLI::App *command = app.add_subcommand("schema", "Print the schema as lists, trees or tables");
     command
-        ->add_option("name", options->name,
-                     "a record, enumeration, message or bundle, or a member by its path; all of it if left out")
+        ->add_option("type", options->name,
+                     "Record, enumeration, message, bundle, or the path of a member; default: everything")
         ->type_name(words::type);
-    CLI::Option_group *form = command->add_option_group("form", "how to show it");
-    form->add_flag("--tree", options->tree, "as a tree of members");
-    form->add_flag("--dot", options->dot, "as a graph for dot");
-    form->add_flag("--json", options->json, "as JSON");
-    form->add_flag("--html", options->html, "as a page for a browser, with the nesting drawn; of all of it");
+    CLI::Option_group *form = command->add_option_group("form", "Output format");
+    form->add_flag("--tree", options->tree, "Tree of members");
+    form->add_flag("--dot", options->dot, "Graph for dot");
+    form->add_flag("--json", options->json, "JSON");
+    form->add_flag("--html", options->html, "HTML page of the whole schema, with a drawing of its nesting");
     form->require_option(0, 1);
     command->footer(
-        "Wire widths are bytes without per-field state; a + says that arrays and strings come on top.\n\n"
+        "Sizes on the wire are in bytes, without per-field state; a + means that arrays\n"
+        "and strings add to them.\n\n"
         "Examples:\n"
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"

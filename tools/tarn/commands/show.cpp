@@ -1,4 +1,4 @@
-// tarn show: asks a process for a bundle and prints what it answers.
+// tarn show: requests a bundle from a process and prints the answer.
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -19,7 +19,7 @@ namespace {
 enum class Print : std::uint8_t { text, xml, json, hex };
 
 struct ShowOptions {
-    std::string what, save;
+    std::string bundle, save;
     Endpoint endpoint;
     AnswerLimits limits;
     bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
@@ -43,15 +43,16 @@ void print(const Answer &answer, const reflect::BundleOperations &bundle, Print 
 
 void run_show(const ShowOptions &options) {
     set_up_trace(options.verbose);
-    const reflect::BundleOperations &bundle = bundle_named(options.what);
+    const reflect::BundleOperations &bundle = bundle_named(options.bundle);
     const Deadline deadline(options.timeout);
     Receiver receiver(options.tracked, via_named(options.via));
     Connection connection(options.endpoint, deadline, options.limits);
-    connection.ask(bundle, options.tracked);
+    connection.request(bundle, options.tracked);
     const Answer answer = receive_answer(connection, receiver, bundle);
     if (!options.save.empty()) write_file(options.save, answer.frames);
-    if (receiver.committed() == 0) {
-        throw Failure(Exit::different, options.endpoint.text() + ": nobody took " + std::string(bundle.bundle->name));
+    if (receiver.handled() == 0) {
+        throw Failure(Exit::negative,
+                      options.endpoint.text() + ": no handler took " + std::string(bundle.bundle->name));
     }
     const Print form = options.xml ? Print::xml : options.json ? Print::json : options.hex ? Print::hex : Print::text;
     print(answer, bundle, form);
@@ -61,30 +62,30 @@ void run_show(const ShowOptions &options) {
 
 void add_show(CLI::App &app, Context &) {
     auto options = std::make_shared<ShowOptions>();
-    CLI::App *command = app.add_subcommand("show", "ask a process for a bundle and print its answer");
-    command->add_option("what", options->what, "bundle by name or short form, such as cl-debug")
-        ->type_name(words::bundle)
-        ->required();
-    CLI::Option_group *place = command->add_option_group("place", "where the answering process is");
-    place->add_option("--socket", options->endpoint.socket, "its socket file")->type_name(words::file);
-    place->add_option("--connect", options->endpoint.tcp, tcp_words("its TCP address"))->type_name(words::address);
-    place->require_option(1);
-    CLI::Option_group *form = command->add_option_group("form", "how to print the answer");
-    form->add_flag("--text", options->text, "as indented text, which is the default");
-    form->add_flag("--xml", options->xml, "as XML");
-    form->add_flag("--json", options->json, "as JSON");
-    form->add_flag("--hex", options->hex, "as a dump of the frames");
+    CLI::App *command = app.add_subcommand("show", "Request a bundle from a process and print the answer");
+    command->add_option("bundle", options->bundle, "The requested bundle")->type_name(words::bundle)->required();
+    CLI::Option_group *endpoint = command->add_option_group("endpoint", "Where the answering process listens");
+    endpoint->add_option("--socket", options->endpoint.socket, "Socket file")->type_name(words::file);
+    endpoint->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
+    endpoint->require_option(1);
+    CLI::Option_group *form = command->add_option_group("form", "Output format");
+    form->add_flag("--text", options->text, "Indented text (default)");
+    form->add_flag("--xml", options->xml, "XML");
+    form->add_flag("--json", options->json, "JSON");
+    form->add_flag("--hex", options->hex, "Hexadecimal dump of the frames");
     form->require_option(0, 1);
-    command->add_flag("--tracked", options->tracked, "ask for per-field state, and receive with it");
-    add_timeout(*command, options->timeout, "seconds to wait for the whole answer");
+    command->add_flag("--tracked", options->tracked, "Request and receive per-field state");
+    add_timeout(*command, options->timeout, "Timeout for the whole answer");
     add_limits(*command, options->limits);
-    command->add_option("--save", options->save, "keep the frames of the answer in this file, too")
+    command->add_option("--save", options->save, "Also write the frames of the answer to this file")
         ->type_name(words::file);
-    add_via(*command, options->via, "which link of the handler chain takes the bundle");
+    add_via(*command, options->via, "Where to register the handler of the bundle");
     add_verbose(*command, options->verbose);
     command->footer(
-        "Exit codes: 0 answered, 1 refused, aborted or not taken, 2 the answer is broken, 3 no connection or no "
-        "time.\n\n"
+        "The library looks for the handler of a bundle in the look-up table, the handle,\n"
+        "the module and the bundle, in this order; --via selects where the tool registers\n"
+        "its own. With \"--via linked\" it registers none, and the stub that is linked into\n"
+        "the library discards the bundle.\n\n"
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock\n"
         "  tarn show dp-tt-cfg --socket /tmp/tarn.sock --json | jq .messages[0].payload\n"

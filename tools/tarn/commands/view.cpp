@@ -1,4 +1,4 @@
-// tarn view: frames, or the difference of two files of frames, as a page for a browser.
+// tarn view: creates an HTML page that shows frames, or the difference of two files.
 #include <memory>
 
 #include "tools/tarn/commands/commands.h"
@@ -22,7 +22,7 @@ ViewedFile load_frames(const std::string &path, const ViewOptions &options) {
     std::string content = read_file(path);
     const std::string origin = shown_path(path);
     if (form_of(content, origin) != Form::frames) {
-        const Handles handles(options.tracked ? Tracking::on : Tracking::as_given);
+        const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
         content = frames_of(handles, items_of(handles, content, origin, options.lenient), origin);
     }
     return {origin, std::move(content), {}};
@@ -41,22 +41,23 @@ void run_view(const ViewOptions &options) {
 
 void add_view(CLI::App &app, Context &) {
     auto options = std::make_shared<ViewOptions>();
-    CLI::App *command = app.add_subcommand("view", "frames, or two files of them, as a page for a browser");
-    command->add_option("a", options->a, "frames, XML or JSON; - is standard input")
+    CLI::App *command =
+        app.add_subcommand("view", "Create an HTML page that shows frames, or the difference of two files");
+    command->add_option("a", options->a, "Frames, XML or JSON; - is standard input")
         ->type_name(words::file)
         ->required();
-    command->add_option("b", options->b, "a second file; the page then shows the difference")->type_name(words::file);
-    add_output(*command, options->output, "where the page goes");
-    command->add_flag("--tracked", options->tracked, "show XML and JSON as frames with per-field state");
+    command->add_option("b", options->b, "Second file; the page shows the difference")->type_name(words::file);
+    add_output(*command, options->output, "Output file");
+    command->add_flag("--tracked", options->tracked, "Convert XML and JSON to frames with per-field state");
     add_lenient(*command, options->lenient);
     command->footer(
-        "The page is one file and needs no network. Pointing at a member marks its bytes, pointing at a byte marks "
-        "its\n"
-        "member; a click holds the mark, and the address of the page then leads to it. Of a broken frame it shows "
-        "what\n"
-        "is good, and the exit code is 2.\n\n"
+        "The page is a single file and needs no network. Hovering over a member highlights\n"
+        "its bytes, and the reverse. Clicking keeps the highlight and puts a link to the\n"
+        "member into the address bar. Of a broken frame, the page shows what precedes the\n"
+        "error.\n\n"
         "Examples:\n"
-        "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin && tarn view answer.bin -o answer.html\n"
+        "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin\n"
+        "  tarn view answer.bin -o answer.html\n"
         "  tarn view before.bin after.bin -o difference.html\n"
         "  tarn view examples/dp_tt_cfg.xml -o tables.html");
     command->callback([options] { run_view(*options); });

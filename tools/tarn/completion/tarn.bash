@@ -1,7 +1,7 @@
-# Completion of tarn for bash. What there is to choose from, the tool itself says.
+# Completion of tarn for bash. The tool itself provides the candidates.
 _tarn() {
     local cur words cword candidates candidate name
-    # A word may hold an equals sign: BUNDLE=FILE, --option=value.
+    # A word may contain an equals sign: BUNDLE=FILE, --option=value.
     _get_comp_words_by_ref -n = cur words cword
     COMPREPLY=()
     mapfile -t candidates < <("${words[0]/#\~/$HOME}" complete "${words[@]:1:cword}" 2>/dev/null)
@@ -12,7 +12,7 @@ _tarn() {
             continue
         fi
         name=${candidate%%$'\t'*}
-        # bash replaces what stands behind the last equals sign.
+        # bash replaces only the part after the last equals sign.
         [[ $cur == *=* ]] && name=${name#"${cur%"${cur##*=}"}"}
         [[ $name == *= ]] && compopt -o nospace
         COMPREPLY+=("$name")

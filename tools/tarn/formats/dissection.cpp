@@ -20,7 +20,7 @@ static_assert(schema::message_head_size == MIRK_PLATFORM_FRAME_SIZE);
 
 constexpr std::uint32_t length_at = offset_of(schema::message_frame, "total_length");
 
-// Thrown from any depth; what was found up to there stays.
+// Thrown at any depth; the pieces found so far are kept.
 struct Stop {};
 
 class Dissector {
@@ -65,7 +65,7 @@ private:
         done_.broken = Break{base_ + offset, path, reason};
         throw Stop{};
     }
-    // A number in network order; the piece is noted with what `show` makes of it.
+    // A number in network byte order, recorded as a piece.
     std::uint64_t number(std::size_t size, const std::string &path, unsigned depth, std::string_view kind) {
         require(size, path);
         std::uint64_t value = 0;
@@ -88,7 +88,7 @@ private:
     FrameBytes bytes_;
     std::size_t base_;
     std::size_t end_;         // of the frame
-    std::size_t length_ = 0;  // that the header says
+    std::size_t length_ = 0;  // according to the header
     std::size_t at_ = 0;
     Dissection done_;
 };
@@ -130,7 +130,7 @@ void Dissector::walk_header_part(const Part &part, const std::string &path) {
     }
     if (from != length_at) return;
     if (value < schema::message_head_size) {
-        stop(from, path, std::to_string(value) + " is less than a header and a luid");
+        stop(from, path, std::to_string(value) + " is less than the size of a header and a luid");
     }
     end_ = std::min<std::size_t>(end_, value);
     length_ = value;
@@ -155,7 +155,7 @@ void Dissector::walk_frame() {
     const std::optional<Identity> identity = identify(luid);
     const bool request = std::equal(luid, luid + schema::luid_size, message_ui_req_msg_luid);
     note(schema::luid_size, path, 1, path, luid_text(luid));
-    if (!identity && !request) stop(at_ - schema::luid_size, path, "no message is known by this luid");
+    if (!identity && !request) stop(at_ - schema::luid_size, path, "unknown luid");
     last().value += " " + std::string(request ? "ui_req_msg" : identity->operations->name);
     if (request) {
         walk_request();
@@ -164,10 +164,10 @@ void Dissector::walk_frame() {
     }
     if (length_ > available) {
         stop(at_, "",
-             "cut short: the total length is " + std::to_string(length_) + ", and " + std::to_string(available) +
-                 " bytes are there");
+             "truncated: the total length is " + std::to_string(length_) + ", but there are " +
+                 std::to_string(available) + " bytes");
     }
-    if (at_ != end_) stop(at_, "", std::to_string(end_ - at_) + " bytes more than the message has");
+    if (at_ != end_) stop(at_, "", std::to_string(end_ - at_) + " extra bytes after the message");
 }
 
 void Dissector::walk_record(const Record &record, const std::string &path, unsigned depth) {
@@ -177,7 +177,7 @@ void Dissector::walk_record(const Record &record, const std::string &path, unsig
     walk_end(head.jump_at + head.jump, head.jump_at, head.jump, path, depth + 1);
 }
 
-// The parts of a record's frame in front of its members.
+// The parts of a record's frame that precede its members.
 void Dissector::walk_parts(std::span<const Part> parts, Head &head, const std::string &path, unsigned depth) {
     for (const Part &part : parts) {
         if (part.flag != 0 && !head.has(part.flag)) continue;
@@ -200,14 +200,14 @@ void Dissector::walk_parts(std::span<const Part> parts, Head &head, const std::s
     }
 }
 
-// A variant and a value, which is returned and stands for the member.
+// A variant and a value. Returns the value, which is the member's piece.
 std::uint64_t Dissector::walk_small_frame(std::span<const Part> parts, const std::string &path, unsigned depth) {
     const Part &variant = parts.front(), &value = parts.back();
     number(variant.size, path + "." + std::string(variant.name), depth + 1, variant.type);
     return number(value.size, path, depth, value.type);
 }
 
-// A newer sender may have more behind the members that are known; a jump into them is a contradiction.
+// A newer sender may append members that this schema does not know. A jump into the known members is an error.
 void Dissector::walk_end(std::size_t end, std::size_t jump_at, std::uint32_t jump, const std::string &path,
                          unsigned depth) {
     if (end < at_) {
@@ -217,10 +217,10 @@ void Dissector::walk_end(std::size_t end, std::size_t jump_at, std::uint32_t jum
     }
     if (end > end_) {
         stop(jump_at, path + ".jump",
-             "jump " + std::to_string(jump) + " leads to " + std::to_string(base_ + end) + ", behind the end at " +
+             "jump " + std::to_string(jump) + " leads to " + std::to_string(base_ + end) + ", beyond the end at " +
                  std::to_string(base_ + end_));
     }
-    if (end > at_) note(end - at_, path, depth, "skipped", std::to_string(end - at_) + " bytes of a newer form");
+    if (end > at_) note(end - at_, path, depth, "skipped", std::to_string(end - at_) + " bytes of a newer version");
 }
 
 void Dissector::walk_members(const Record &record, const std::string &path, unsigned depth, bool tracked) {

@@ -1,5 +1,5 @@
-// Describes every byte of a frame, using the tables of the schema alone. For a broken frame it reports where it breaks
-// and why.
+// Describes every byte of a frame from the tables of the schema. For an invalid frame, it reports the offset and the
+// reason of the error.
 #pragma once
 
 #include <cstdint>
@@ -27,12 +27,12 @@ struct Break {
 };
 
 struct Dissection {
-    std::vector<Piece> pieces;  // in order, without gaps, up to the break
+    std::vector<Piece> pieces;  // in order, without gaps, up to the error
     std::optional<Break> broken;
-    std::size_t size = 0;  // bytes that belong to the frame
+    std::size_t size = 0;  // of the frame, in bytes
 };
 
-// The frame at the front of the bytes; offsets in the result count from `base`.
+// The frame at the beginning of the bytes; `base` is added to all offsets.
 Dissection dissect_frame(FrameBytes bytes, std::size_t base);
 
 // "offset 57, payload.lumo_data[0].id: 2 bytes are left of 4"

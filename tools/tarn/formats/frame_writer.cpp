@@ -8,7 +8,7 @@ namespace tarn::tool {
 
 namespace {
 
-// Frames of one bundle come from one handle, so control messages must go with the messages that they enclose.
+// A bundle is open on one handle, so its control messages are written through the handle of its messages.
 class FrameWriter {
 public:
     FrameWriter(const Handles &handles, std::uint32_t stamp) : handles_(handles), stamp_(stamp) {}
@@ -52,13 +52,13 @@ bool is_tracked(const Item &item) { return item.message && item.message->handle(
 
 std::string frames_of(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
                       const reflect::BundleOperations *bundle, std::uint32_t stamp) {
-    // Mixed input goes by its first message, since a bundle is open on one handle only.
+    // All messages go through one handle, since a bundle is open on one handle only.
     bool tracked = false;
     for (const Item &item : items) tracked = tracked || is_tracked(item);
     for (const Item &item : items) {
         if (item.message && is_tracked(item) != tracked) {
             throw Failure(Exit::input,
-                          item.location + ": messages with and without per-field state do not mix; use --tracked");
+                          item.location + ": messages with and without per-field state cannot be mixed; use --tracked");
         }
     }
     FrameWriter writer(handles, stamp);

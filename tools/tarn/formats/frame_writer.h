@@ -1,4 +1,4 @@
-// Writes items as the frames of one run.
+// Writes items as consecutive frames.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace tarn::tool {
 
-// With a bundle, its start and its commit go around them. Throws a Failure that names the location of the item.
+// With a bundle, its start and commit enclose them. Throws a Failure that names the location of the item.
 std::string frames_of(const Handles &handles, const std::vector<Item> &items, const std::string &origin,
                       const reflect::BundleOperations *bundle = nullptr, std::uint32_t stamp = 0);
 

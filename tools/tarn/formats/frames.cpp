@@ -14,23 +14,23 @@ Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) 
         return {Exit::input, frame_location(origin, offset) + ": " + reason};
     };
     const FrameBytes rest = bytes.subspan(offset);
-    mirk_platform_frame look;
-    const mirk_platform_error error = mirk_platform_frame_look(rest.data(), rest.size(), &look);
+    mirk_platform_frame head;
+    const mirk_platform_error error = mirk_platform_frame_look(rest.data(), rest.size(), &head);
     if (rest.size() < MIRK_PLATFORM_FRAME_SIZE) {
-        throw fail(std::to_string(rest.size()) + " bytes are left, and a frame has at least " +
+        throw fail(std::to_string(rest.size()) + " bytes are left, but a frame has at least " +
                    std::to_string(MIRK_PLATFORM_FRAME_SIZE));
     }
     if (error != 0) {
-        throw fail("no frame begins here (marker " + std::to_string(look.header.marker) + ", total length " +
-                   std::to_string(look.header.total_length) + ")");
+        throw fail("not a frame (marker " + std::to_string(head.header.marker) + ", total length " +
+                   std::to_string(head.header.total_length) + ")");
     }
-    if (look.header.total_length > rest.size()) {
-        throw fail("cut short: its total length is " + std::to_string(look.header.total_length) + ", and " +
+    if (head.header.total_length > rest.size()) {
+        throw fail("truncated: its total length is " + std::to_string(head.header.total_length) + ", but " +
                    std::to_string(rest.size()) + " bytes are left");
     }
-    const std::optional<Identity> identity = identify(look.luid);
-    if (!identity) throw fail("unknown luid " + luid_text(look.luid));
-    return {rest.first(look.header.total_length), offset, *identity};
+    const std::optional<Identity> identity = identify(head.luid);
+    if (!identity) throw fail("unknown luid " + luid_text(head.luid));
+    return {rest.first(head.header.total_length), offset, *identity};
 }
 
 std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin) {

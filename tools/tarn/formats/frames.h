@@ -1,4 +1,4 @@
-// Cuts a run of bytes into frames by the length that each of them states, and reads one.
+// Splits bytes into frames by the length in their headers, and reads a frame.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ struct Frame {
     std::size_t offset;
     Identity identity;
 
-    // The sender made the message with per-field state.
+    // True if the frame contains per-field state.
     bool is_tracked() const { return bytes[offset_of(schema::message_frame, "sttr")] != 0; }
 };
 
@@ -31,7 +31,7 @@ inline std::string_view chars_of(FrameBytes bytes) {
     return {reinterpret_cast<const char *>(bytes.data()), bytes.size()};
 }
 
-// The frame at the front of the bytes, or a Failure that names the origin, the offset and the reason.
+// The frame at the offset. Throws a Failure that names the origin, the offset and the reason.
 Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin);
 std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin);
 

@@ -1,4 +1,4 @@
-// One entry of a file, whatever its form: a message or a control message.
+// One entry of a file of any format: a message or a control message.
 #pragma once
 
 #include <optional>
@@ -11,8 +11,8 @@ namespace tarn::tool {
 
 struct Item {
     Identity identity;
-    std::optional<Message> message;  // nothing for a control message
-    std::string location;            // where it was found, for messages to people
+    std::optional<Message> message;  // empty for a control message
+    std::string location;            // in the input, for error messages
 
     void *object() const { return message ? message->object() : nullptr; }
 };

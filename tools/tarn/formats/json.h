@@ -1,14 +1,13 @@
-// Messages as JSON, and back. One object for each message:
+// Converts messages to and from JSON. Each message is one object:
 //
 //   {"bundle": NAME, "control": "start"}
 //   {"message": NAME, "tracked": true, "payload": {MEMBER: VALUE, ...}}
 //
-// "tracked" says that there is per-field state, and is left out if there is none. Integers are numbers, booleans true
-// or false, enumerators and addresses their text, strings text or {"bytes": HEX} if they are no UTF-8, nested records
-// objects, arrays arrays. Counts and lengths follow from what they count and are left out. What has no form of its own
-// in JSON is written under a name with an "@": "@state" holds the state bytes, of which those that are 0 are left out;
-// "@variant" stands in place of the members of a record that has no body, and beside "@value" in a boolean or an
-// enumeration; "@ra" holds RA data.
+// "tracked" is present if the message has per-field state. Integers are numbers, booleans true or false, enumerators
+// and addresses text, strings text or {"bytes": HEX} if they are not UTF-8, nested records objects, arrays arrays.
+// Counts and lengths are omitted, since their members imply them. Names with an "@" are not members: "@state" contains
+// the state bytes except those that are 0; "@variant" replaces the members of a record without a body, and accompanies
+// "@value" in a boolean or an enumeration; "@ra" contains RA data.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>

@@ -1,4 +1,4 @@
-// From JSON to instances. What the schema does not know is refused with its path, unless told to be lenient.
+// Converts JSON to instances. Names that the schema does not define are errors with their path, unless lenient.
 #include "tools/tarn/formats/json.h"
 
 #include <algorithm>
@@ -20,20 +20,20 @@ using reflect::RecordOperations;
 using schema::Kind;
 using schema::Role;
 
-[[noreturn]] void fail(const std::string &path, const std::string &sentence) {
-    throw Failure(Exit::input, path + ": " + sentence);
+[[noreturn]] void fail(const std::string &path, const std::string &reason) {
+    throw Failure(Exit::input, path + ": " + reason);
 }
 
 std::uint64_t number_in(const ordered_json &json, std::uint64_t limit, const std::string &path) {
     if (!json.is_number_unsigned() || json.get<std::uint64_t>() > limit) {
-        fail(path, json.dump() + " is no number from 0 to " + std::to_string(limit));
+        fail(path, json.dump() + " is not a number from 0 to " + std::to_string(limit));
     }
     return json.get<std::uint64_t>();
 }
 
 std::int8_t variant_in(const ordered_json &json, const std::string &path) {
     if (!json.is_number_integer() || json.get<std::int64_t>() < -128 || json.get<std::int64_t>() > -1) {
-        fail(path, json.dump() + " is no number from -128 to -1");
+        fail(path, json.dump() + " is not a number from -128 to -1");
     }
     return static_cast<std::int8_t>(json.get<std::int64_t>());
 }
@@ -95,7 +95,7 @@ private:
 bool Reader::read_header(const ordered_json &json, void *object, const std::string &path) {
     if (const auto ra = json.find("@ra"); ra != json.end()) {
         if (!ra->is_object() || !ra->contains("value") || !ra->contains("byte"))
-            fail(path + "/@ra", "value and byte are expected");
+            fail(path + "/@ra", "expected value and byte");
         set_ra_data(handle_, object,
                     {number_in((*ra)["value"], ~std::uint64_t{0}, path + "/@ra/value"),
                      static_cast<std::uint8_t>(number_in((*ra)["byte"], 255, path + "/@ra/byte"))});
@@ -121,21 +121,21 @@ void Reader::check_names(const ordered_json &json, const RecordOperations &opera
 
 void Reader::check_count(const ordered_json &json, const RecordOperations &operations, std::size_t index,
                          const std::string &path) {
-    const auto said = json.find(operations.members[index].member->name);
+    const auto given = json.find(operations.members[index].member->name);
     const auto counted = json.find(operations.members[index + 1].member->name);
-    if (said == json.end() || lenient_) return;
-    const std::size_t there = counted == json.end() ? 0
-                              : counted->is_array() ? counted->size()
-                                                    : bytes_in(*counted, path).size();
-    if (!said->is_number_unsigned() || said->get<std::uint64_t>() != there) {
+    if (given == json.end() || lenient_) return;
+    const std::size_t actual = counted == json.end() ? 0
+                               : counted->is_array() ? counted->size()
+                                                     : bytes_in(*counted, path).size();
+    if (!given->is_number_unsigned() || given->get<std::uint64_t>() != actual) {
         fail(path + "/" + std::string(operations.members[index].member->name),
-             "says " + said->dump() + ", but there are " + std::to_string(there));
+             "is " + given->dump() + ", but there are " + std::to_string(actual));
     }
 }
 
 void Reader::read_record(const ordered_json &json, const RecordOperations &operations, void *instance,
                          const std::string &path) {
-    if (!json.is_object()) fail(path, "an object is expected for " + std::string(operations.record->name));
+    if (!json.is_object()) fail(path, "expected an object for " + std::string(operations.record->name));
     if (!lenient_) check_names(json, operations, path);
     for (std::size_t i = 0; i < operations.members.size(); ++i) {
         const schema::Member &m = *operations.members[i].member;
@@ -175,7 +175,7 @@ void Reader::read_embedded(const ordered_json &json, const Field &field, const s
         return;
     }
     if (json.is_object() && (!json.contains("@value") || !json.contains("@variant"))) {
-        fail(path, "a value, or @variant and @value, are expected");
+        fail(path, "expected a value, or @variant and @value");
     }
     const ordered_json &value = json.is_object() ? json["@value"] : json;
     if (m.kind == Kind::enumeration) {
@@ -184,7 +184,7 @@ void Reader::read_embedded(const ordered_json &json, const Field &field, const s
         const std::uint64_t truth = value.is_boolean() ? value.get<bool>() : number_in(value, 255, path);
         field.member().set_value(handle_.get(), context_id, field.instance, truth, &err_);
     }
-    // Setting a value brings the variant back to that of the domain.
+    // Setting the value has reset the variant to that of the domain.
     if (json.is_object()) read_header(json, object, path);
 }
 
@@ -192,19 +192,19 @@ void Reader::read_address(const ordered_json &json, ip_address *address, const s
     const ordered_json *text = &json;
     if (json.is_object()) {
         const auto found = json.find("@address");
-        if (found == json.end()) fail(path, "an address is expected");
+        if (found == json.end()) fail(path, "expected an address");
         text = &*found;
     }
     const std::string words = text->is_string() ? text->get<std::string>() : text->dump();
     if (!text->is_string() || !is_address(words) || !set_address(handle_, address, words)) {
-        fail(path, "\"" + words + "\" is no address with a prefix length");
+        fail(path, "\"" + words + "\" is not an address with a prefix length");
     }
     std::uint8_t *state = address_state(handle_, address);
     if (state == nullptr) return;
     std::fill_n(state, 7, std::uint8_t{0});
     if (!json.is_object() || !json.contains("@members")) return;
     const ordered_json &members = json["@members"];
-    if (!members.is_array() || members.size() != 7) fail(path + "/@members", "seven state bytes are expected");
+    if (!members.is_array() || members.size() != 7) fail(path + "/@members", "expected seven state bytes");
     for (std::size_t i = 0; i < 7; ++i)
         state[i] = static_cast<std::uint8_t>(number_in(members[i], 255, path + "/@members"));
 }
@@ -222,7 +222,7 @@ void Reader::read_enumeration(const ordered_json &json, const Field &field, void
         field.member().set_value(handle_.get(), context_id, field.instance, number, &err_);
         return;
     }
-    // A frame may bring any number; the setter would refuse it.
+    // A frame may contain any number, but the setter rejects an unknown one.
     const std::uint64_t number = number_in(json, 0xffffffff, path);
     if (number >= candidates.size() && !lenient_) fail(path, "unknown enumerator " + json.dump());
     set_enumeration_value(object, static_cast<std::uint32_t>(number));
@@ -231,24 +231,24 @@ void Reader::read_enumeration(const ordered_json &json, const Field &field, void
 void Reader::read_string(const ordered_json &json, const Field &field, const std::string &path) {
     const std::string text = bytes_in(json, path);
     if (text.size() > 65535) fail(path, "more than 65535 bytes");
-    // The setter copies up to the first NUL and fills up with NULs.
+    // The setter copies up to the first NUL and pads with NULs.
     if (const std::size_t nul = text.find('\0');
         nul != std::string::npos && text.find_first_not_of('\0', nul) != std::string::npos) {
-        fail(path, "a NUL in the middle cannot be stored");
+        fail(path, "a string cannot contain a NUL before other characters");
     }
     field.member().text_set(handle_.get(), context_id, field.instance, text.c_str(),
                             static_cast<std::uint32_t>(text.size()), &err_);
 }
 
 void Reader::read_array(const ordered_json &json, const Field &field, const std::string &path) {
-    if (!json.is_array()) fail(path, "an array is expected");
+    if (!json.is_array()) fail(path, "expected an array");
     if (json.size() > greatest(field.operations.members[field.index - 1].member->kind))
-        fail(path, std::to_string(json.size()) + " elements are more than its count can tell");
+        fail(path, std::to_string(json.size()) + " elements exceed the range of its count");
     if (json.empty()) return;
-    // Setting the last element first lets the array grow once.
+    // Setting the last element first grows the array only once.
     const RecordOperations &element = reflect::operations_of(*field.schema().record);
     void *fresh = element.create(handle_.get(), context_id);
-    if (fresh == nullptr) throw Failure(Exit::environment, "no memory for " + path);
+    if (fresh == nullptr) throw Failure(Exit::environment, "out of memory for " + path);
     const auto count = static_cast<std::uint32_t>(json.size());
     field.member().element_set(handle_.get(), context_id, field.instance, count - 1, fresh, &err_);
     element.destroy(handle_.get(), context_id, fresh);
@@ -265,7 +265,7 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
     const auto all = json.find("@state");
     const ordered_json none = ordered_json::object();
     const ordered_json &states = all != json.end() ? *all : none;
-    if (!states.is_object()) fail(path + "/@state", "an object is expected");
+    if (!states.is_object()) fail(path + "/@state", "expected an object");
     const auto byte = [&](const ordered_json &value) {
         return static_cast<std::uint8_t>(number_in(value, 255, path + "/@state"));
     };
@@ -282,7 +282,7 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
         if (given && (!state->is_object() || !state->contains("whole") || !state->contains("elements") ||
                       (*state)["elements"].size() != count)) {
             fail(path + "/@state/" + std::string(m.member->name),
-                 "whole, and elements with one byte for each, are expected");
+                 "expected whole, and elements with one byte per element");
         }
         m.state_flag_set(handle_.get(), context_id, instance, given ? byte((*state)["whole"]) : std::uint8_t{0}, &err_);
         for (std::uint32_t i = 0; i < count; ++i) {
@@ -295,21 +295,21 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
 
 Item control_of(const ordered_json &json, const std::string &location) {
     const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
-    if (bundle == nullptr) fail(location, json["bundle"].dump() + " is no bundle");
+    if (bundle == nullptr) fail(location, json["bundle"].dump() + " is not a bundle");
     for (const Control control : controls) {
         if (json["control"] != word(control)) continue;
         return {identity_of(*bundle, control), std::nullopt, location};
     }
-    fail(location, json["control"].dump() + " is none of start, abort and commit");
+    fail(location, json["control"].dump() + " is not start, abort or commit");
 }
 
 Item message_of(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient) {
-    if (!json["message"].is_string()) fail(location, "message is to be a name");
+    if (!json["message"].is_string()) fail(location, "message must be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
-    if (operations == nullptr) fail(location, json["message"].dump() + " is no message");
+    if (operations == nullptr) fail(location, json["message"].dump() + " is not a message");
     if (!json.contains("payload") && !lenient) fail(location, "the payload is missing");
     const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
-    Item item{{operations}, Message::make(handle, *operations), location};
+    Item item{{operations}, Message::create(handle, *operations), location};
     if (json.contains("payload")) {
         Reader(handle, lenient)
             .read_record(json["payload"], item.message->record(), item.message->payload(), location + "payload");
@@ -328,7 +328,7 @@ void collect(const Handles &handles, const ordered_json &json, const std::string
     } else if (json.is_object() && json.contains("messages")) {
         collect(handles, json["messages"], location, lenient, items);
     } else {
-        fail(location, "neither a message nor a control message nor a list of them");
+        fail(location, "neither a message, a control message nor a list of them");
     }
 }
 
@@ -349,8 +349,8 @@ std::vector<Item> from_json(const Handles &handles, std::string_view content, co
             in >> json;
         } catch (const ordered_json::exception &error) {
             in.clear();
-            const std::size_t at = static_cast<std::size_t>(in.tellg()) - 1;  // of what was read last
-            // A number beyond all is no error of syntax to the parser.
+            const std::size_t at = static_cast<std::size_t>(in.tellg()) - 1;  // of the last character read
+            // The parser reports a number out of range with another prefix than a syntax error.
             const std::string_view words = error.what(), brackets = "] ";
             std::size_t begin = words.find("syntax error");
             if (begin == words.npos) begin = words.find(brackets) + brackets.size();

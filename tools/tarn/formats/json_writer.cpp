@@ -1,4 +1,4 @@
-// From instances to JSON.
+// Converts instances to JSON.
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
@@ -62,7 +62,7 @@ ordered_json json_of_value(const Handle &handle, const MemberOperations &member,
         const auto &enumerators = member.member->enumeration->enumerators;
         json = number < enumerators.size() ? ordered_json(enumerators[number]) : ordered_json(number);
     }
-    // These two carry their value whatever their variant is.
+    // Booleans and enumerations have a value even if their variant is negative.
     if (variant_of(value) < 0) return {{"@variant", variant_of(value)}, {"@value", json}};
     return json;
 }

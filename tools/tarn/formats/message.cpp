@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t most_bytes = std::size_t{1} << 30;
 
-// Writers report a lack of room with one of three numbers, so the buffer grows until the message fits.
+// Writers report a buffer that is too small as EMSGSIZE, ENOSPC or ENOMEM, so it grows until the message fits.
 template <class Buffer, class Write>
 Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type filler, const char *what,
                       const reflect::MessageOperations &operations, const Write &write) {
@@ -19,8 +19,8 @@ Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type fille
         Buffer buffer(size + 1, filler);
         std::uint32_t err = 0;
         const std::uint32_t written = write(buffer.data(), static_cast<std::uint32_t>(size), &err);
-        const bool lacks_room = err == EMSGSIZE || err == ENOSPC || err == ENOMEM;
-        if (lacks_room && size < most_bytes) continue;
+        const bool too_small = err == EMSGSIZE || err == ENOSPC || err == ENOMEM;
+        if (too_small && size < most_bytes) continue;
         if (err != 0) {
             throw Failure(exit_of(err), std::string(operations.name) + " cannot be " + what + ": " + error_text(err));
         }
@@ -48,7 +48,8 @@ std::string text_of(const Handle &handle, const reflect::MessageOperations &oper
                                     [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
                                         return operations.print(handle.get(), context_id, buffer, object, size, err);
                                     });
-    // The first byte of a gap is the terminator of the line before it.
+    // The library fills the gaps in front of nested closing lines, and their first byte is the terminator of the
+    // previous line.
     std::replace(text.begin(), text.end(), '\0', ' ');
     return text;
 }
@@ -69,9 +70,9 @@ Message message_from_frame(const Handle &handle, const reflect::MessageOperation
     std::uint32_t err = 0;
     operations.unmarshal_only(handle.get(), context_id, &object, buffer.data(),
                               static_cast<std::uint32_t>(frame.size()), &err);
-    if (object == nullptr) throw Failure(Exit::environment, "no memory for a message");
+    if (object == nullptr) throw Failure(Exit::environment, "out of memory for a message");
     Message message(handle, operations, object);
-    // The library reports ENOMEM also for a count that is too large and for a frame that ends too early.
+    // The library also reports ENOMEM for a count that is too large and for a frame that ends too early.
     if (err != 0) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + error_text(err));
     return message;
 }

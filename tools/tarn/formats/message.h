@@ -1,4 +1,4 @@
-// The three forms of a message that the library itself writes, and the one that it reads without a document.
+// Formats of a message that the library writes itself, and frames, which it also reads.
 #pragma once
 
 #include <span>
@@ -8,13 +8,13 @@
 
 namespace tarn::tool {
 
-// Frames, text and XML of a message, or of a control message with a null object. The gaps that the text form leaves in
-// front of nested closing lines are filled with blanks.
+// Frame, text and XML of a message; the object is null for a control message. Gaps in the text, which the library
+// leaves before nested closing lines, are filled with blanks.
 Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
 std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
 std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
 
-// Reads a plain message from a frame of the right luid. Throws a Failure with the error of the library.
+// Reads a plain message from a frame with its luid. Throws a Failure with the error of the library.
 Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
                            std::span<const std::uint8_t> frame);
 

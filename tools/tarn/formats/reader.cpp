@@ -30,7 +30,7 @@ std::vector<Item> from_xml(const Handles &handles, std::string_view content, con
 Form form_of(std::string_view content, const std::string &origin) {
     if (content.substr(0, 3) == "\xEF\xBB\xBF") content.remove_prefix(3);
     const std::size_t first = content.find_first_not_of(" \t\r\n");
-    if (first == std::string_view::npos) throw Failure(Exit::input, origin + ": is empty");
+    if (first == std::string_view::npos) throw Failure(Exit::input, origin + ": empty");
     switch (content[first]) {
         case '<':
             return Form::xml;
@@ -40,7 +40,7 @@ Form form_of(std::string_view content, const std::string &origin) {
         case static_cast<char>(schema::frame_marker):
             return Form::frames;
         default:
-            throw Failure(Exit::input, origin + ": neither frames nor XML nor JSON begin here");
+            throw Failure(Exit::input, origin + ": neither frames nor XML nor JSON");
     }
 }
 
@@ -59,7 +59,7 @@ std::vector<Item> items_of(const Handles &handles, std::string_view content, con
 std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient) {
     const std::string origin = shown_path(path);
     std::vector<Item> items = items_of(handles, read_file(path), origin, lenient);
-    if (items.empty()) throw Failure(Exit::input, origin + ": holds no message");
+    if (items.empty()) throw Failure(Exit::input, origin + ": no message");
     return items;
 }
 

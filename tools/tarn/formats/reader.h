@@ -1,4 +1,4 @@
-// Reads files of any form: frames, XML or JSON.
+// Reads files of any format: frames, XML or JSON.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace tarn::tool {
 
 enum class Form : std::uint8_t { frames, xml, json };
 
-// By the first byte that is not blank.
+// Decides by the first byte that is not a blank.
 Form form_of(std::string_view content, const std::string &origin);
 
 std::vector<Item> items_of(const Handles &handles, std::string_view content, const std::string &origin, bool lenient);

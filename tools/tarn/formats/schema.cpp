@@ -48,7 +48,7 @@ ordered_json schema_json() {
     ordered_json json;
     for (const auto *b : schema::bundles) {
         json["bundles"].push_back({{"name", b->name},
-                                   {"short", short_form(b->name)},
+                                   {"short", short_name(b->name)},
                                    {"message", b->message.name},
                                    {"start", b->start.text.data()},
                                    {"abort", b->abort.text.data()},

@@ -1,4 +1,4 @@
-// What the schema says of its records and members, as words and as JSON.
+// The schema as text and as JSON.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>

@@ -12,7 +12,7 @@ namespace tarn::tool {
 
 std::string rendered(const Item &item, Style style) {
     if (style == Style::json) return json_of(item).dump() + "\n";
-    // A control message has no object, so any handle does.
+    // A control message has no object, so any handle can write it.
     static const Handle any(false);
     const Handle &handle = item.message ? item.message->handle() : any;
     const reflect::MessageOperations &operations = *item.identity.operations;

@@ -1,4 +1,4 @@
-// Writes items in the form that was asked for.
+// Writes items in the requested format.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace tarn::tool {
 
 enum class Style : std::uint8_t { text, xml, json, frames };
 
-// Text with the control lines, XML fragments one to a line, JSON one object to a line, or a frame.
+// Text including the control lines, one XML fragment per line, one JSON object per line, or a frame.
 std::string rendered(const Item &item, Style style);
 
 std::string hex_dump(std::string_view bytes);

@@ -13,9 +13,9 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-class Cutter {
+class Splitter {
 public:
-    Cutter(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
+    Splitter(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
 
     std::vector<Fragment> run() {
         std::vector<Fragment> fragments;
@@ -43,13 +43,13 @@ private:
 
     long line() const { return 1 + std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(at_), '\n'); }
 
-    [[noreturn]] void fail(const std::string &sentence) const {
-        throw Failure(Exit::input, origin_ + ":" + std::to_string(line()) + ": " + sentence);
+    [[noreturn]] void fail(const std::string &reason) const {
+        throw Failure(Exit::input, origin_ + ":" + std::to_string(line()) + ": " + reason);
     }
 
     std::string_view take(std::string_view end, const std::string &what) {
         const std::size_t found = text_.find(end, at_);
-        if (found == std::string_view::npos) fail(what + " has no end");
+        if (found == std::string_view::npos) fail(what + " is not terminated");
         const std::string_view taken = text_.substr(at_, found + end.size() - at_);
         at_ += taken.size();
         return taken;
@@ -58,7 +58,7 @@ private:
     Fragment take_element() {
         const std::size_t name_end =
             text_[at_] == '<' ? text_.find_first_of(" \t\r\n/>", at_ + 1) : std::string_view::npos;
-        if (name_end == std::string_view::npos || name_end == at_ + 1) fail("no element begins here");
+        if (name_end == std::string_view::npos || name_end == at_ + 1) fail("expected an element");
         Fragment fragment{std::string(text_.substr(at_ + 1, name_end - at_ - 1)), declaration_, line()};
         const std::size_t tag_end = text_.find('>', name_end);
         if (tag_end != std::string_view::npos && text_[tag_end - 1] == '/') {
@@ -92,18 +92,18 @@ void require_schema(const Document &document, const Fragment &fragment, const st
                     const schema::Message &message) {
     const std::vector<Problem> problems = check_document(document.get(), message);
     if (problems.empty()) return;
-    std::string sentence;
+    std::string text;
     for (const Problem &p : problems) {
-        sentence += (sentence.empty() ? "" : "\n") + location(origin, fragment, p.line) + p.path + ": " + p.sentence;
+        text += (text.empty() ? "" : "\n") + location(origin, fragment, p.line) + p.path + ": " + p.reason;
     }
-    throw Failure(Exit::input, sentence);
+    throw Failure(Exit::input, text);
 }
 
 const reflect::MessageOperations &message_for(const Fragment &fragment, const std::string &origin) {
     if (const auto *found = reflect::find_message(fragment.name); found != nullptr) return *found;
     std::vector<std::string> candidates;
     for (const reflect::MessageOperations &o : reflect::messages()) candidates.emplace_back(o.name);
-    throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + fragment.name + "\" is no message" +
+    throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + fragment.name + "\" is not a message" +
                                    suggestion(fragment.name, candidates));
 }
 
@@ -118,7 +118,7 @@ std::optional<Identity> control_in(const Fragment &fragment, const std::string &
         }
         const auto *bundle = reflect::find_bundle(name);
         if (bundle == nullptr) {
-            throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + name + "\" is no bundle");
+            throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + name + "\" is not a bundle");
         }
         return identity_of(*bundle, control);
     }
@@ -146,7 +146,7 @@ Message message_from_xml(const Handles &handles, const Fragment &fragment, const
 }  // namespace
 
 std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin) {
-    return Cutter(text, origin).run();
+    return Splitter(text, origin).run();
 }
 
 Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient) {

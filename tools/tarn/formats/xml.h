@@ -1,4 +1,4 @@
-// Messages from XML: single documents, and runs of fragments such as a recorder leaves behind.
+// Reads messages from XML: a document, or a sequence of fragments such as a recording.
 #pragma once
 
 #include <string>
@@ -9,18 +9,19 @@
 
 namespace tarn::tool {
 
-// One element of the outermost level with its content, not yet parsed.
+// One top-level element with its content, not parsed yet.
 struct Fragment {
     std::string name;
     std::string text;
     long line;  // of its first character, from 1
 };
 
-// Cuts at the end tag of each outermost element, so that a fragment which is not well-formed does not spoil the others.
+// Splits at the end tag of each top-level element, so that a malformed fragment does not affect the others.
 std::vector<Fragment> split_fragments(std::string_view text, const std::string &origin);
 
-// A control message is <bundle_start name="..."></bundle_start>. A message whose document has states has per-field
-// state. Strict: what the schema does not know, or what would be lost, is a Failure that lists every line concerned.
+// A control message is <bundle_start name="..."></bundle_start>. A message has per-field state if an element has a
+// state attribute. Unless lenient, names that the schema does not define and values that the library would not read are
+// a Failure that lists all lines concerned.
 Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient);
 
 }  // namespace tarn::tool

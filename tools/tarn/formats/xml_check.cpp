@@ -55,8 +55,8 @@ public:
     explicit Checker(std::size_t limit) : limit_(limit) {}
 
     void check_record(xmlNode *node, const Record &record, const std::string &path);
-    void add(const xmlNode *node, const std::string &path, std::string sentence) {
-        if (problems.size() < limit_) problems.push_back({xmlGetLineNo(node), path, std::move(sentence)});
+    void add(const xmlNode *node, const std::string &path, std::string reason) {
+        if (problems.size() < limit_) problems.push_back({xmlGetLineNo(node), path, std::move(reason)});
     }
     void check_attributes(const xmlNode *node, const std::string &path);
 
@@ -79,7 +79,7 @@ void Checker::check_attributes(const xmlNode *node, const std::string &path) {
         if (name != "state") {
             add(node, path, "unknown attribute \"" + name + "\"");
         } else if (const std::string value = text_in(a->children); !is_number<std::uint64_t>(value, 255)) {
-            add(node, path, "state \"" + value + "\" is no number from 0 to 255");
+            add(node, path, "state \"" + value + "\" is not a number from 0 to 255");
         }
     }
 }
@@ -100,7 +100,7 @@ void Checker::check_enumeration(xmlNode *node, const Member &member, const std::
             return;
         }
     }
-    if (chosen != 1) add(node, path, "exactly one enumerator is expected, not " + std::to_string(chosen));
+    if (chosen != 1) add(node, path, "expected exactly one enumerator, not " + std::to_string(chosen));
 }
 
 void Checker::check_member(xmlNode *node, const Member &member, const std::string &path) {
@@ -109,8 +109,7 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
     if (member.kind == Kind::enumeration) return check_enumeration(node, member, path);
     for (xmlNode *child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_ELEMENT_NODE) {
-            return add(child, path,
-                       "no element is expected inside, but \"" + std::string(name_of(child)) + "\" stands there");
+            return add(child, path, "unexpected element \"" + std::string(name_of(child)) + "\" in a value");
         }
     }
     const std::string text = text_in(node);
@@ -122,14 +121,14 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
             }
             break;
         case Category::address:
-            if (!is_address(value)) add(node, path, "\"" + value + "\" is no address with a prefix length");
+            if (!is_address(value)) add(node, path, "\"" + value + "\" is not an address with a prefix length");
             break;
         case Category::string:
             if (text.size() > 65535) add(node, path, "more than 65535 bytes");
             break;
         case Category::integer:
             if (!is_number<std::uint64_t>(value, greatest(member.kind))) {
-                add(node, path, "\"" + value + "\" is no number from 0 to " + std::to_string(greatest(member.kind)));
+                add(node, path, "\"" + value + "\" is not a number from 0 to " + std::to_string(greatest(member.kind)));
             }
             break;
         case Category::enumeration:
@@ -139,31 +138,32 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
     }
 }
 
-// Counts and lengths are taken from what is there; one that says something else shows that something was lost.
+// The library computes counts and lengths from the elements. A different one in the document means that data is
+// missing.
 void Checker::check_counts(xmlNode *node, const Record &record, const Found &found, const std::string &path) {
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &count = record.members[i];
         if (count.role == Role::value) continue;
         const Member &counted = record.members[i + 1];
         const auto items = found.find(counted.name);
-        std::uint64_t there = items == found.end() ? 0 : items->second.size();
-        if (counted.kind == Kind::array && there > greatest(count.kind)) {
+        std::uint64_t actual = items == found.end() ? 0 : items->second.size();
+        if (counted.kind == Kind::array && actual > greatest(count.kind)) {
             add(node, path,
-                std::to_string(there) + " " + std::string(counted.name) + " are more than " + std::string(count.name) +
-                    " can tell");
+                std::to_string(actual) + " " + std::string(counted.name) + " exceed the range of " +
+                    std::string(count.name));
         }
-        if (counted.kind == Kind::string && there != 0) there = text_in(items->second.front()).size();
-        const auto said = found.find(count.name);
-        if (said == found.end()) continue;
-        const std::string value(trimmed(text_in(said->second.front())));
-        if (is_number<std::uint64_t>(value, greatest(count.kind)) && value != std::to_string(there)) {
-            add(said->second.front(), path + "/" + std::string(count.name),
-                "says " + value + ", but " + std::string(counted.name) + " has " + std::to_string(there));
+        if (counted.kind == Kind::string && actual != 0) actual = text_in(items->second.front()).size();
+        const auto given = found.find(count.name);
+        if (given == found.end()) continue;
+        const std::string value(trimmed(text_in(given->second.front())));
+        if (is_number<std::uint64_t>(value, greatest(count.kind)) && value != std::to_string(actual)) {
+            add(given->second.front(), path + "/" + std::string(count.name),
+                "is " + value + ", but " + std::string(counted.name) + " has " + std::to_string(actual));
         }
     }
 }
 
-// The reader passes over the member behind a string that is absent, unless that is a string too.
+// The library does not read the member after an absent string, unless that member is a string too.
 void Checker::check_skipped(const Record &record, const Found &found, const std::string &path) {
     const Member *absent = nullptr;
     for (const Member &m : record.members) {
@@ -174,7 +174,7 @@ void Checker::check_skipped(const Record &record, const Found &found, const std:
         } else if (absent != nullptr) {
             if (here != found.end()) {
                 add(here->second.front(), path + "/" + std::string(m.name),
-                    "would not be read, because " + std::string(absent->name) + " in front of it is absent");
+                    "would not be read, because " + std::string(absent->name) + ", the preceding string, is absent");
             }
             absent = nullptr;
         }
@@ -202,7 +202,7 @@ void Checker::check_record(xmlNode *node, const Record &record, const std::strin
         if (member->kind == Kind::array) {
             below += "[" + std::to_string(nodes.size()) + "]";
         } else if (nodes.size() > 1) {
-            add(child, below, "stands here a second time");
+            add(child, below, "duplicate element");
         }
         check_member(child, *member, below);
     }
@@ -214,8 +214,8 @@ bool is_list_of_members(const std::string &text) {
     constexpr std::uint64_t limits[] = {255, 65535, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 255};
     std::string_view rest(text);
     for (std::size_t i = 0; i < std::size(limits); ++i) {
-        const char behind = i == 5 ? '/' : ',';
-        const std::size_t end = i == 6 ? rest.size() : rest.find(behind);
+        const char separator = i == 5 ? '/' : ',';
+        const std::size_t end = i == 6 ? rest.size() : rest.find(separator);
         if (end == std::string_view::npos || !is_number<std::uint64_t>(rest.substr(0, end), limits[i])) return false;
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
@@ -243,7 +243,7 @@ std::vector<Problem> check_document(void *document, const schema::Message &messa
     xmlNode *root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
     const std::string path = "/" + std::string(message.name);
     if (root == nullptr || name_of(root) != message.name) {
-        checker.add(root, "/", "the root element is to be \"" + std::string(message.name) + "\"");
+        checker.add(root, "/", "the root element must be \"" + std::string(message.name) + "\"");
         return checker.problems;
     }
     checker.check_attributes(root, path);
@@ -257,7 +257,7 @@ std::vector<Problem> check_document(void *document, const schema::Message &messa
                 "unknown element \"" + name + "\", the payload is \"" + std::string(message.payload.name) + "\"");
             continue;
         }
-        if (++payloads == 2) checker.add(child, path, "a message has one payload");
+        if (++payloads == 2) checker.add(child, path, "a message has only one payload");
         checker.check_attributes(child, path + "/" + name);
         checker.check_record(child, message.payload, path + "/" + name);
     }

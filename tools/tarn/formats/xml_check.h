@@ -1,5 +1,5 @@
-// Checks a parsed document against the schema. The library ignores what it does not know; the author of a document
-// needs an error message.
+// Checks a parsed document against the schema. The library ignores names that it does not know, but the author of a
+// document needs an error message.
 #pragma once
 
 #include <string>
@@ -12,10 +12,10 @@ namespace tarn::tool {
 struct Problem {
     long line;
     std::string path;
-    std::string sentence;
+    std::string reason;
 };
 
-// The document's root must be the message. At most `limit` problems are listed.
+// The root of the document must be the message. Returns at most `limit` problems.
 std::vector<Problem> check_document(void *document, const schema::Message &message, std::size_t limit = 20);
 
 // "unset", an address with its prefix length, or the seven members in decimal.

@@ -68,7 +68,7 @@ private:
 }  // namespace
 
 bool has_states(void *document) {
-    // In document order, without recursion: depth is the writer's choice.
+    // In document order, without recursion, since the input determines the depth.
     xmlNode *const root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
     for (xmlNode *node = root; node != nullptr;) {
         if (node->type == XML_ELEMENT_NODE && xmlHasProp(node, attribute) != nullptr) return true;

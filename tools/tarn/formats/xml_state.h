@@ -1,4 +1,4 @@
-// Per-field state in XML. The library writes it as attributes and does not read them back, so the tool applies it.
+// Per-field state in XML. The library writes it as attributes but does not read them, so the tool does.
 #pragma once
 
 #include "tools/tarn/support/handle.h"
@@ -8,8 +8,8 @@ namespace tarn::tool {
 // True if any element has a state attribute.
 bool has_states(void *document);
 
-// Gives the fields of a message that was read from the document the states of their elements, 0 where there is none.
-// XML has no states for enumerations, whole arrays and members of addresses; these keep theirs.
+// Sets the state of each field of a message to the state attribute of its element in the document, or to 0.
+// Enumerations, whole arrays and members of addresses have no such attribute in XML and keep their state.
 void apply_states(const Message &message, void *document);
 
 }  // namespace tarn::tool

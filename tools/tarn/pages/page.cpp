@@ -8,14 +8,14 @@ namespace tarn::tool {
 
 namespace {
 
-// Text for an element's content.
+// Escapes text as the content of an element.
 std::string escaped(std::string_view text) {
     std::string out;
     for (const char c : text) out += c == '<' ? "&lt;" : c == '&' ? "&amp;" : std::string(1, c);
     return out;
 }
 
-// JSON inside a script element must not look like its end, or like the start of a comment.
+// JSON inside a script element must not contain the end tag of the element or the start of a comment.
 std::string escaped_json(const nlohmann::ordered_json &data) {
     std::string out;
     for (const char c : data.dump(-1, ' ', true, nlohmann::ordered_json::error_handler_t::replace)) {
@@ -27,7 +27,7 @@ std::string escaped_json(const nlohmann::ordered_json &data) {
 }  // namespace
 
 std::string page_text(const Page &page) {
-    // The policy makes the browser fetch nothing.
+    // The policy keeps the browser from loading anything.
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
            "script-src 'unsafe-inline'; img-src data:\">\n"

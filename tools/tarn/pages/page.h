@@ -1,4 +1,4 @@
-// Pages for a browser: one file each, with all they need inside, so that they work from a disk and without a network.
+// HTML pages. Each is a single file that contains everything it needs, so it works from disk and without a network.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>
@@ -9,11 +9,11 @@ namespace tarn::tool {
 
 struct Page {
     std::string title;
-    std::string_view body, script;  // as they are
+    std::string_view body, script;  // not escaped
     const nlohmann::ordered_json &data;
 };
 
-// The script finds the data as JSON in the element "data".
+// The script reads the data as JSON from the element "data".
 std::string page_text(const Page &page);
 
 }  // namespace tarn::tool

@@ -1,5 +1,5 @@
 'use strict';
-// The page of tarn schema --html: a drawing of who holds whom, and a table of what was chosen in it.
+// The page of tarn schema --html: a drawing of the nesting, and a table of the selected type.
 
 const data = JSON.parse(document.getElementById('data').textContent);
 const element = id => document.getElementById(id);
@@ -12,7 +12,7 @@ const records = named(data.schema.records), messages = named(data.schema.message
 const bundles = named(data.schema.bundles), enumerations = named(data.schema.enumerations);
 let chosen = null, wanted = '';
 
-// Everything that holds the thing or is held by it, at any distance.
+// All types that contain the named one or that it contains, directly or indirectly.
 function relatives(name) {
   const all = new Set([name]);
   const follow = (from, to) => {
@@ -87,14 +87,14 @@ function show(name) {
       add(line, 'td', m.meaning);
     });
     const holders = edges.filter(e => e.dataset.to === name).map(e => e.dataset.from);
-    const line = add(panel, 'p', 'held by ');
+    const line = add(panel, 'p', 'contained in ');
     holders.forEach((holder, i) => { if (i) line.append(', '); link(line, holder); });
   } else if (message) {
     add(panel, 'p', 'message, luid ').append(message.luid);
     link(add(panel, 'p', 'payload '), message.payload);
   } else if (bundle) {
-    add(panel, 'p', 'bundle, ' + bundle.short + ' for short');
-    link(add(panel, 'p', 'admits '), bundle.message);
+    add(panel, 'p', 'bundle, ' + 'short name ' + bundle.short);
+    link(add(panel, 'p', 'message '), bundle.message);
     const controls = ['start', 'abort', 'commit'].map(c => ({name: c, luid: bundle[c]}));
     table(['control message', 'luid'], controls, (line, c) => {
       add(line, 'td', c.name);
@@ -111,7 +111,7 @@ function show(name) {
 
 function showStart(panel) {
   add(panel, 'h2', 'Records');
-  add(panel, 'p', 'Point at a box to see what it holds and what holds it; click to see its members.');
+  add(panel, 'p', 'Hover over a box to highlight what it contains and what contains it. Click it to see its members.');
   table(['name', 'members', 'meaning'], data.schema.records, (line, r) => {
     link(add(line, 'td'), r.name, r.name.replace('lumo_tarn_', ''));
     add(line, 'td', String(r.members.length), 'number');

@@ -1,4 +1,4 @@
-// A page that shows the schema, with the nesting of its records drawn.
+// A page that shows the schema, with a drawing of the nesting of its records.
 #pragma once
 
 #include <string>

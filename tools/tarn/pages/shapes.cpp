@@ -6,8 +6,8 @@ namespace tarn::tool {
 
 namespace {
 
-// "payload.list[0].id" has the steps payload, list, [0], id. What stands between members has a name of its own kind,
-// since a member may be called "state", too.
+// "payload.list[0].id" has the steps payload, list, [0], id. Pieces that are not members get an "@", since a member may
+// be called "state".
 std::vector<std::string> steps_of(const Piece &piece) {
     std::vector<std::string> steps;
     for (const char c : piece.path) {
@@ -33,7 +33,7 @@ std::size_t Shapes::number_of(nlohmann::ordered_json shape) {
     return at->second;
 }
 
-// What is nothing but a piece needs no list around it.
+// A single piece needs no list.
 void Shapes::close(std::size_t depth) {
     while (open_.size() > depth) {
         const Open done = std::move(open_.back());

@@ -1,9 +1,10 @@
-// The pieces of frames without their values, each form listed once. An array of a million elements of one form takes
-// one form and a list of numbers, so the size of a page follows from the bytes that it shows.
+// The pieces of frames without their values, each distinct shape stored once. An array of a million elements of the
+// same shape takes one shape and a list of numbers, so the size of a page is proportional to the bytes that it shows.
 //
-// A shape is text for one piece: its kind, its size, and what of its value the bytes do not say ("variant 1, begins
-// lumo_tarn_dp_tc"). Or it is a list, of names and shapes in turn, of what follows on another in the frame: the name ""
-// for a piece of its own, i for an element [i], -1-i for the state of that element, which travels behind all elements.
+// The shape of a piece is a string: its kind, its size, and the part of its value that the bytes do not contain
+// ("variant 1, begins lumo_tarn_dp_tc"). The shape of a sequence of pieces is a list that alternates names and shapes:
+// the name "" for the piece of the parent itself, i for the element [i], -1-i for the state of that element, which
+// follows all elements.
 #pragma once
 
 #include <map>
@@ -15,7 +16,7 @@ namespace tarn::tool {
 
 class Shapes {
 public:
-    // What is all of a frame; the number of its shape.
+    // Adds all pieces of a frame and returns the number of its shape.
     std::size_t add(const std::vector<Piece> &pieces);
     const nlohmann::ordered_json &json() const { return shapes_; }
 
@@ -30,7 +31,7 @@ private:
 
     nlohmann::ordered_json shapes_ = nlohmann::ordered_json::array();
     std::map<std::string, std::size_t, std::less<>> numbers_;
-    std::vector<Open> open_;  // the frame, and what is within what at this piece
+    std::vector<Open> open_;  // the frame, and the nested pieces that contain the current one
 };
 
 }  // namespace tarn::tool

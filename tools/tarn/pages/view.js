@@ -1,7 +1,7 @@
 'use strict';
-// The page of tarn view. The frames are there as bytes, and as shapes that say which bytes are which member; shapes.h of
-// the tool tells their form. The tree of members, which two files share, is made where somebody looks, and so are its
-// rows and the lines of bytes beside it: a page with a million members opens like one with ten.
+// The page of tarn view. It contains the bytes of the frames, and shapes that map bytes to members; shapes.h of the tool
+// documents them. Nodes of the tree, its rows and the lines of the dump are created only when they become visible, so a
+// page with a million members opens as fast as one with ten. Two files share one tree.
 
 const data = JSON.parse(document.getElementById('data').textContent);
 const sides = data.sides, two = sides.length === 2;
@@ -16,7 +16,7 @@ const shapes = data.shapes.map(shape => {
   const [, kind, size, rest] = shape.match(/^(\S+) (\d+)(.*)$/);
   return {kind, size: Number(size), rest};
 });
-// A shape stands behind those that it has in it, so that their sizes are known.
+// A shape follows the shapes that it contains, so their sizes are known.
 for (const shape of shapes) {
   shape.own = null;
   if (!shape.list) continue;
@@ -29,7 +29,7 @@ for (const shape of shapes) {
   shape.size = shape.offsets[shape.offsets.length - 1];
 }
 
-// The last number of an ascending list that is at most this one.
+// The index of the last number of an ascending list that is at most `wanted`.
 function lastUpTo(numbers, wanted) {
   let from = 0, to = numbers.length;
   while (to - from > 1) {
@@ -56,12 +56,12 @@ function quoted(bytes) {
   return out + '"';
 }
 
-// As tarn dissect says it.
+// In the form of tarn dissect.
 function valueAt(bytes, at, {kind, size, rest}) {
   switch (kind) {
     case 'fill': return '';
     case 'zero': return bytes.subarray(at, at + size).every(byte => byte === 0) ? '' : 'not all zero';
-    case 'skipped': return size + ' bytes of a newer form';
+    case 'skipped': return size + ' bytes of a newer version';
     case 'text': case 'var_string': return quoted(bytes.subarray(at, at + size));
     case 'luid': {
       const luid = Array.from(bytes.subarray(at, at + size), hex).join('');
@@ -81,7 +81,7 @@ function valueAt(bytes, at, {kind, size, rest}) {
 
 // ---- the tree
 
-// Of each side a node has its shape, where that begins, and, if it is an element, where its state lies.
+// For each side, a node has its shape, its offset and, if it is an element, the location of its state.
 let count = 0;
 function makeNode(name, parent) {
   const path = !parent ? '' : parent.path + (name[0] === '[' || !parent.path ? '' : '.') + name;
@@ -103,7 +103,7 @@ function put(node, s, shape, at) {
   if (!node.type && own) node.type = own.kind;
 }
 
-// What a node itself is on one side, apart from what is in it.
+// The piece of the node itself on one side, without its children.
 function pieceOf(node, s) {
   const shape = node.shape[s];
   if (!shape || shape.list && !shape.own) return null;
@@ -161,12 +161,12 @@ sides.forEach((side, s) => {
     put(root, s, shape, side.read);
     side.starts.push(side.read);
     side.read += shape.size;
-    // The frame says by its luid what its payload is.
+    // The luid of the frame identifies its payload.
     root.record = root.record || record;
   }
 });
 
-// The member that a byte belongs to.
+// The node that a byte belongs to.
 function ownerOf(s, at) {
   const side = sides[s];
   if (at < 0 || at >= side.read) return null;
@@ -194,7 +194,7 @@ function isSame(node) {
     sameBytes(node.at[0], node.at[1], node.shape[0].size);
 }
 
-// What stands between members says nothing that the members do not say, but for state.
+// Framing other than state is redundant: a difference in it is also one in the members.
 function compare(node) {
   if (isSame(node)) return;
   if (isOfOneSide(node)) {
@@ -327,7 +327,7 @@ function drawTree() {
   drawRows(tree, roots, 0);
 }
 
-// Opens everything above, so that the row is there.
+// Unfolds all ancestors, so that the row exists.
 function reveal(node) {
   const way = [];
   for (let n = node; n; n = n.parent) way.unshift(n);
@@ -340,16 +340,16 @@ function reveal(node) {
 
 // ---- bytes
 
-// The places of a member and of all below it.
+// The byte ranges of a node and its descendants.
 function bytesOf(node, s) {
   if (!isOn(node, s)) return [];
-  const places = [[node.at[s], node.at[s] + node.shape[s].size]];
+  const ranges = [[node.at[s], node.at[s] + node.shape[s].size]];
   const state = node.state[s];
-  if (state) places.push([state.at, state.at + state.shape.size]);
-  return places.filter(([from, to]) => from < to);
+  if (state) ranges.push([state.at, state.at + state.shape.size]);
+  return ranges.filter(([from, to]) => from < to);
 }
 
-const contains = (places, at) => places.some(([from, to]) => from <= at && at < to);
+const contains = (ranges, at) => ranges.some(([from, to]) => from <= at && at < to);
 const lineHeight = 20, perLine = 16;
 
 function makeDump(side, s) {
@@ -394,7 +394,7 @@ function drawLines(side, s) {
     for (let at = from; at < to; ++at) {
       const kind = classOf(s, at), byte = side.data[at];
       const open = '<i data-at="' + at + '"' + (kind ? ' class="' + kind + '"' : '') + '>';
-      // The gap belongs to the byte before it, so that a mark has no holes.
+      // The gap belongs to the preceding byte, so that highlights are continuous.
       words += open + hex(byte) + (at % perLine === 7 ? '  ' : ' ') + '</i>';
       const shown = byte < 32 || byte > 126 ? '\u00b7' : String.fromCharCode(byte);
       ascii += open + (shown === '<' ? '&lt;' : shown === '&' ? '&amp;' : shown) + '</i>';
@@ -420,7 +420,7 @@ function showByte(s, at) {
 
 let held = null, pointed = null;
 
-// The nearest row that is there, for a member that is folded away.
+// The row of the nearest visible ancestor.
 function rowOf(node) {
   for (let n = node; n; n = n.parent) {
     if (n.row && n.row.isConnected && n.row.offsetParent !== null) return n;
@@ -438,10 +438,10 @@ function detail(node) {
   const words = [];
   if (node.type) words.push(node.type);
   sides.forEach((side, s) => {
-    const places = bytesOf(node, s), size = places.reduce((sum, r) => sum + r[1] - r[0], 0);
+    const ranges = bytesOf(node, s), size = ranges.reduce((sum, r) => sum + r[1] - r[0], 0);
     if (!size) return;
-    const last = places[places.length - 1][1] - 1;
-    words.push((two ? side.name + ': ' : '') + 'bytes ' + places[0][0] + ' to ' + last + ' (' + size + ')');
+    const last = ranges[ranges.length - 1][1] - 1;
+    words.push((two ? side.name + ': ' : '') + 'bytes ' + ranges[0][0] + ' to ' + last + ' (' + size + ')');
   });
   if (node.meaning) words.push(node.meaning);
   box.append('   ' + words.join('  \u00b7  '));
@@ -535,7 +535,7 @@ tree.addEventListener('keydown', event => {
 const hits = new Set(), most = 5000;
 let order = [], current = -1;
 
-// Is the word in the name or the value of anything in the shape? Asked before nodes are made of it.
+// Whether a name or value in the shape contains the text. Used before nodes exist.
 function isIn(shape, at, s, wanted, framing) {
   if (!shape.list) {
     if (structural.has(shape.kind) && !framing) return false;
@@ -572,10 +572,10 @@ function search() {
   };
   if (wanted || two) roots.forEach(visit);
   rows.forEach(n => n.row.classList.toggle('hit', hits.has(n)));
-  tell();
+  showFound();
 }
 
-function tell() {
+function showFound() {
   const what = element('search').value.trim() ? '' : two ? ' changes' : '';
   element('found').textContent = !what && !element('search').value.trim() ? ''
     : (current >= 0 ? current + 1 + ' of ' : '') + order.length + (order.length === most ? ' or more' : '') + what;
@@ -586,7 +586,7 @@ function step(by) {
   current = (current + by + order.length) % order.length;
   if (current < 0) current = order.length - 1;
   hold(order[current]);
-  tell();
+  showFound();
 }
 
 element('search').addEventListener('input', () => { search(); if (order.length && hits.size) step(1); });
@@ -612,7 +612,7 @@ element('framing').addEventListener('change', redraw);
 element('changes').addEventListener('change', redraw);
 element('only').hidden = !two;
 
-// ---- beginning
+// ---- start
 
 const dark = () => document.documentElement.classList.toggle('dark');
 if (matchMedia('(prefers-color-scheme: dark)').matches) dark();
@@ -631,7 +631,7 @@ sides.forEach((side, s) => {
   note.textContent = (two ? side.name + ': ' : '') + 'broken at ' + side.broken;
   element('summary').after(note);
 });
-// So much is open that a page is filled and no more.
+// Unfold only enough to fill the page.
 let budget = 60;
 for (const root of roots) root.open = true;
 for (const level of [1, 2, 3]) {

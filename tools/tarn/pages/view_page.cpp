@@ -16,7 +16,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Four letters for three bytes, as browsers read them.
+// Base64, as browsers decode it.
 std::string base64_of(FrameBytes bytes) {
     constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string text;
@@ -29,15 +29,14 @@ std::string base64_of(FrameBytes bytes) {
     return text;
 }
 
-// What both files of a difference share: forms of pieces, names of identities, and the first line of each sort of
-// frame.
+// Data that both files share: shapes, names of luids, and headings of frames.
 struct Shared {
     Shapes shapes;
     ordered_json headings = ordered_json::array();
     ordered_json luids = ordered_json::object();
 };
 
-// A request has no name and no record here; its bytes are shown as they are.
+// Requests have no name and no record here.
 ordered_json heading_of(FrameBytes frame) {
     const std::optional<Identity> identity =
         frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);
@@ -60,7 +59,7 @@ void note_luid(const Dissection &dissection, ordered_json &luids) {
     }
 }
 
-// Bytes after a break are shown as bytes alone.
+// Bytes after an error appear in the dump only.
 ordered_json json_of_file(ViewedFile &file, Shared &shared) {
     const FrameBytes all = bytes_of(file.frames);
     ordered_json json{{"name", file.name}, {"bytes", base64_of(all)}, {"frames", ordered_json::array()}};

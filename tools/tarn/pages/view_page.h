@@ -7,9 +7,9 @@
 namespace tarn::tool {
 
 struct ViewedFile {
-    std::string name;    // as people are to see it
-    std::string frames;  // back to back
-    std::string broken;  // set by view_page: where they break, and why
+    std::string name;    // for display
+    std::string frames;  // concatenated
+    std::string broken;  // set by view_page: offset and reason of the first error
 };
 
 std::string view_page(std::vector<ViewedFile> &files);

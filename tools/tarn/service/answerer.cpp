@@ -14,7 +14,7 @@ namespace {
 
 void append(Bytes &to, const Bytes &frame) { to.insert(to.end(), frame.begin(), frame.end()); }
 
-// Closes the bundle on the handle also if an exception is thrown.
+// Closes the bundle on the handle even if an exception is thrown.
 class OpenBundle {
 public:
     OpenBundle(const Handle &handle, const reflect::BundleOperations &bundle, Bytes &frames)
@@ -42,24 +42,24 @@ const reflect::MessageOperations &foreign_to(const reflect::BundleOperations &bu
     return *std::find_if(all.begin(), all.end(), [&](const auto &o) { return !admits(bundle, o); });
 }
 
-// The library refuses to put such a message into the open bundle, so it is made outside.
+// The library does not write such a message into the open bundle, so another handle writes it.
 Bytes foreign_frame(const reflect::BundleOperations &bundle) {
-    const Handle outside(false);
-    const Message message = Message::make(outside, foreign_to(bundle));
-    return frame_of(outside, message.operations(), message.object());
+    const Handle other(false);
+    const Message message = Message::create(other, foreign_to(bundle));
+    return frame_of(other, message.operations(), message.object());
 }
 
 Bytes second_start(const reflect::BundleOperations &bundle) {
-    const Handle outside(false);
+    const Handle other(false);
     Bytes frames;
-    const OpenBundle open(outside, bundle, frames);
+    const OpenBundle open(other, bundle, frames);
     return frames;
 }
 
-void spoil(Bytes &frames, Fault fault) {
+void corrupt(Bytes &frames, Fault fault) {
     if (fault == Fault::cut) frames.erase(frames.end() - MIRK_PLATFORM_FRAME_SIZE - 1, frames.end());
     if (fault == Fault::unknown) frames[MIRK_PLATFORM_FRAME_SIZE + MIRK_PLATFORM_HEADER_SIZE] ^= 0xff;
-    if (fault == Fault::rubbish) std::fill(frames.begin(), frames.end(), std::uint8_t{'x'});
+    if (fault == Fault::garbage) std::fill(frames.begin(), frames.end(), std::uint8_t{'x'});
 }
 
 }  // namespace
@@ -73,10 +73,10 @@ void Answerer::add(const reflect::BundleOperations &bundle, const std::string &p
         std::erase_if(items, [](const Item &item) { return item.identity.is_control(); });
         for (const Item &item : items) {
             if (admits(bundle, *item.identity.operations)) continue;
-            throw Failure(Exit::input, not_admitted(item.location, bundle, *item.identity.operations) + ", but " +
+            throw Failure(Exit::input, not_admitted(item.location, bundle, *item.identity.operations) + ", only " +
                                            std::string(bundle.bundle->message.name));
         }
-        if (items.empty()) throw Failure(Exit::input, shown_path(path) + ": holds no message");
+        if (items.empty()) throw Failure(Exit::input, shown_path(path) + ": no message");
     }
     snapshots_.insert_or_assign(&bundle, std::move(snapshot));
 }
@@ -84,7 +84,7 @@ void Answerer::add(const reflect::BundleOperations &bundle, const std::string &p
 std::vector<std::string> Answerer::names() const {
     std::vector<std::string> names;
     for (const reflect::BundleOperations &b : reflect::bundles()) {
-        if (has(b)) names.push_back(short_form(b.bundle->name));
+        if (has(b)) names.push_back(short_name(b.bundle->name));
     }
     return names;
 }
@@ -101,7 +101,7 @@ Bytes Answerer::answer(const reflect::BundleOperations &bundle, bool tracked, st
     for (const Item &item : tracked ? snapshot.tracked : snapshot.plain) open.add(item);
     if (fault == Fault::no_commit) return frames;
     open.close(fault == Fault::abort ? Control::abort : Control::commit);
-    spoil(frames, fault);
+    corrupt(frames, fault);
     return frames;
 }
 

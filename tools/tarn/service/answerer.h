@@ -1,4 +1,4 @@
-// The frames that answer a request: start, the bundle's messages, commit.
+// The frames of an answer: start, the messages of the bundle, commit.
 #pragma once
 
 #include <map>
@@ -9,18 +9,18 @@
 
 namespace tarn::tool {
 
-// Errors that an answer contains on purpose, to test the asking side.
-enum class Fault : std::uint8_t { none, abort, second_start, foreign, cut, unknown, rubbish, no_commit, silent };
+// Deliberate errors in an answer, for tests of the requesting side.
+enum class Fault : std::uint8_t { none, abort, second_start, foreign, cut, unknown, garbage, no_commit, silent };
 
 class Answerer {
 public:
-    // The file's messages must be those that the bundle admits.
+    // Reads the messages of a bundle from a file. Throws a Failure if the bundle does not admit one of them.
     void add(const reflect::BundleOperations &bundle, const std::string &path, bool lenient);
 
     bool has(const reflect::BundleOperations &bundle) const { return snapshots_.count(&bundle) != 0; }
     std::vector<std::string> names() const;
 
-    // All frames of the answer, back to back.
+    // All frames of the answer, concatenated.
     Bytes answer(const reflect::BundleOperations &bundle, bool tracked, std::uint32_t stamp, Fault fault);
 
 private:

@@ -12,12 +12,12 @@ void require_no_refusal(FrameBytes frame, const std::string &origin) {
     mirk_platform_request reply;
     if (mirk_platform_request_decode(frame.data(), frame.size(), &reply) != 0) return;
     if ((reply.options & MIRK_PLATFORM_REQUEST_REFUSED) == 0) {
-        throw Failure(Exit::input, origin + ": answered with a request");
+        throw Failure(Exit::input, origin + ": the answer is a request");
     }
-    throw Failure(Exit::different, origin + ": refused: " + reply.sentence + ": " + error_text(reply.number));
+    throw Failure(Exit::negative, origin + ": refused: " + reply.sentence + ": " + error_text(reply.number));
 }
 
-// The dispatcher delivers every well-formed frame; the asking side checks that it belongs to this answer.
+// The dispatcher delivers every well-formed frame; the requesting side checks that it belongs to the answer.
 void require_expected(const Frame &frame, const reflect::BundleOperations &bundle, const Receiver &receiver,
                       const std::string &origin) {
     const Identity &identity = frame.identity;
@@ -27,7 +27,7 @@ void require_expected(const Frame &frame, const reflect::BundleOperations &bundl
     }
     if (!identity.is_control() && !receiver.in_bundle()) {
         throw Failure(Exit::input, frame_location(origin, frame.offset) + ": " + identity.operations->name +
-                                       " came before the start of its bundle");
+                                       " precedes the start of its bundle");
     }
 }
 
@@ -45,19 +45,19 @@ Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const
           "cannot connect");
 }
 
-void Connection::ask(const reflect::BundleOperations &bundle, bool tracked) {
+void Connection::request(const reflect::BundleOperations &bundle, bool tracked) {
     std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     const std::string name(bundle.bundle->name);
-    const std::uint8_t wish = tracked ? MIRK_PLATFORM_REQUEST_TRACKED : 0;
-    const std::uint32_t size = mirk_platform_request_encode(frame, sizeof frame, 0, name.c_str(), wish, nullptr);
-    check(mirk_platform_client_send(client_, frame, size, deadline_.left_ms()), "cannot ask");
+    const std::uint8_t options = tracked ? MIRK_PLATFORM_REQUEST_TRACKED : 0;
+    const std::uint32_t size = mirk_platform_request_encode(frame, sizeof frame, 0, name.c_str(), options, nullptr);
+    check(mirk_platform_client_send(client_, frame, size, deadline_.left_ms()), "cannot send the request");
 }
 
 FrameBytes Connection::receive() {
     void *frame = nullptr;
     std::uint32_t size = 0;
     const mirk_platform_error error = mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms());
-    check(error, error == EMSGSIZE ? "a frame is longer than --frame-limit" : "no whole answer");
+    check(error, error == EMSGSIZE ? "a frame is longer than --frame-limit" : "no complete answer");
     received_ += size;
     if (received_ > limits_.answer) check(EMSGSIZE, "the answer is longer than --answer-limit");
     return {static_cast<const std::uint8_t *>(frame), size};
@@ -87,7 +87,8 @@ Answer receive_answer(Connection &connection, Receiver &receiver, const reflect:
         }
         if (!frame.identity.is_control() || frame.identity.control == Control::start) continue;
         if (frame.identity.control == Control::abort) {
-            throw Failure(Exit::different, origin + ": the answering side aborted " + std::string(bundle.bundle->name));
+            throw Failure(Exit::negative,
+                          origin + ": the answering process aborted " + std::string(bundle.bundle->name));
         }
         answer.messages = receiver.take();
         return answer;

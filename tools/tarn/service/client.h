@@ -1,4 +1,4 @@
-// The side that asks: one request, and the frames of its answer.
+// The requesting side: one request, and the frames of its answer.
 #pragma once
 
 #include <chrono>
@@ -21,7 +21,7 @@ private:
     std::chrono::steady_clock::time_point end_;
 };
 
-// Of the answering process: a socket file or a TCP address; the other one is empty.
+// Of the answering process: a socket file or a TCP address; the other member is empty.
 struct Endpoint {
     std::string socket, tcp;
 
@@ -29,7 +29,7 @@ struct Endpoint {
     const std::string &text() const { return socket.empty() ? tcp : socket; }
 };
 
-// Limits on what is accepted from an answering process, which may be broken or hostile.
+// Limits on an answer, since the answering process may be faulty or hostile. In bytes.
 struct AnswerLimits {
     std::uint64_t frame = 16 << 20, answer = 256 << 20;
 };
@@ -42,8 +42,8 @@ public:
     ~Connection() { mirk_platform_client_close(client_); }
 
     const std::string &name() const { return name_; }
-    void ask(const reflect::BundleOperations &bundle, bool tracked);
-    // One whole frame, until the next call. All frames together have a limit.
+    void request(const reflect::BundleOperations &bundle, bool tracked);
+    // One whole frame, valid until the next call. Throws a Failure if the frame or the whole answer exceeds its limit.
     FrameBytes receive();
 
 private:
@@ -58,11 +58,11 @@ private:
 
 struct Answer {
     std::vector<Item> messages;
-    std::string frames;  // as they came
+    std::string frames;  // as received
 };
 
-// Feeds the frames to the receiver, by `feed` if given, until the bundle ends. A refusal, an abort, and whatever does
-// not belong to this answer is a Failure.
+// Feeds the frames to the receiver, through `feed` if given, until the bundle ends. Throws a Failure for a refusal, an
+// abort, and a frame that does not belong to this answer.
 Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
                       const std::function<void(const Frame &)> &feed = {});
 

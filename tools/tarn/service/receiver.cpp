@@ -48,7 +48,7 @@ void Receiver::keep(const Identity &identity, void *object) {
 
 void Receiver::on_bundle(mirk_handle *h, std::uint32_t, void *dispatch_ctx, std::uint32_t *) {
     auto *self = static_cast<Receiver *>(dispatch_ctx);
-    ++self->committed_;
+    ++self->handled_;
     while (mirk_platform_received *item = mirk_platform_received_first(h)) {
         const Identity identity = *identify(mirk_platform_received_luid(item));
         self->keep(identity, mirk_platform_received_detach(h, item));
@@ -69,8 +69,8 @@ void Receiver::feed(const Frame &frame, const std::string &origin) {
         handle_.get(), context_id, buffer.data(), static_cast<std::uint32_t>(frame.bytes.size()), this, &report);
     current_ = nullptr;
     if (error != 0) {
-        throw Failure(Exit::input, frame_location(origin, frame.offset) + ": " + report.sentence + " (" +
-                                       std::to_string(error) + ")");
+        throw Failure(Exit::input,
+                      frame_location(origin, frame.offset) + ": " + report.sentence + " (" + error_name(error) + ")");
     }
 }
 

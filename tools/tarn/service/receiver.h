@@ -1,4 +1,4 @@
-// The side that receives: frames go through the dispatcher, and the messages of a bundle come out of its handler.
+// The receiving side: frames go to the dispatcher, which delivers the messages of a bundle to its handler.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace tarn::tool {
 
-// Where the bundle handler is registered; the library tries these in this order, the linked-in one last.
+// Where the bundle handler is registered, in the order in which the library tries them.
 enum class Via : std::uint8_t { lut, handle, module, bundle, linked };
 
 Via via_named(std::string_view word);
@@ -24,14 +24,14 @@ public:
 
     const Handle &handle() const { return handle_; }
 
-    // Throws a Failure with the dispatcher's sentence.
+    // Throws a Failure with the report of the dispatcher.
     void feed(const Frame &frame, const std::string &origin);
 
-    // Messages of bundles that were committed, and messages that came alone, in order of arrival.
+    // Messages of committed bundles, and messages outside bundles, in order of arrival.
     std::vector<Item> take() { return std::exchange(received_, {}); }
     bool in_bundle() const { return handle_.get()->recv_bundle_open != 0; }
-    // Bundles that reached the handler; one that only the linked-in stub saw does not count.
-    unsigned committed() const { return committed_; }
+    // Bundles that reached a registered handler; those for the linked-in stub do not count.
+    unsigned handled() const { return handled_; }
 
 private:
     static void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *dispatch_ctx, std::uint32_t *err);
@@ -42,7 +42,7 @@ private:
     Handle handle_;
     Via via_;
     std::vector<Item> received_;
-    unsigned committed_ = 0;
+    unsigned handled_ = 0;
     const Frame *current_ = nullptr;
 };
 

@@ -11,7 +11,7 @@ namespace tarn::tool {
 
 namespace {
 
-// 0 stays 0, which means no limit, and nothing else becomes it.
+// Rounds up, so that only 0 becomes 0, which means no limit.
 std::uint32_t milliseconds(double seconds) { return static_cast<std::uint32_t>(std::ceil(seconds * 1000)); }
 
 mirk_platform_server *server_to_stop = nullptr;
@@ -20,18 +20,17 @@ extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop);
 
 }  // namespace
 
-// Peers are named only with --verbose, but a peer that is disconnected for what it sent always is.
-void Server::note(mirk_platform_peer peer, const std::string &sentence) const {
-    if (options_.verbose)
-        std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), sentence.c_str());
+// Only with --verbose. Peers that exceed a limit or send invalid bytes are always printed; see print_disconnected().
+void Server::log(mirk_platform_peer peer, const std::string &event) const {
+    if (options_.verbose) std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), event.c_str());
 }
 
-void Server::print_refused(mirk_platform_peer peer, const char *reason) {
+void Server::print_disconnected(mirk_platform_peer peer, const char *reason) {
     if (peer == 0) {
         std::fprintf(stderr, "tarn: %s\n", reason);
     } else {
-        ++refused_;
-        std::fprintf(stderr, "tarn: peer %llu is turned out: %s\n", static_cast<unsigned long long>(peer), reason);
+        ++disconnected_;
+        std::fprintf(stderr, "tarn: peer %llu disconnected: %s\n", static_cast<unsigned long long>(peer), reason);
     }
 }
 
@@ -49,13 +48,13 @@ void Server::open() {
     settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
                            std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
     settings.on_connect = [](void *user, mirk_platform_server *, mirk_platform_peer peer) {
-        static_cast<Server *>(user)->note(peer, "connected");
+        static_cast<Server *>(user)->log(peer, "connected");
     };
     settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
-        static_cast<Server *>(user)->note(peer, std::string("gone: ") + reason);
+        static_cast<Server *>(user)->log(peer, std::string("disconnected: ") + reason);
     };
     settings.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
-        static_cast<Server *>(user)->print_refused(peer, reason);
+        static_cast<Server *>(user)->print_disconnected(peer, reason);
     };
     const bool tcp = !options_.listen.empty();
     const std::string &endpoint = tcp ? options_.listen : options_.socket;
@@ -77,14 +76,14 @@ void Server::run() {
     std::printf("answering on %s: %s\n", mirk_platform_server_place(server_), names.c_str());
     std::fflush(stdout);
     const mirk_platform_error error = mirk_platform_server_run(server_);
-    if (error != 0) throw Failure(Exit::environment, "serving ended: " + error_text(error));
-    std::printf("stopped after %u answers, %u peers turned out\n", answers_, refused_);
+    if (error != 0) throw Failure(Exit::environment, "the server failed: " + error_text(error));
+    std::printf("stopped after %u answers, %u peers disconnected\n", answers_, disconnected_);
 }
 
-void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence) {
-    note(peer, "refused: " + sentence);
+void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &reason) {
+    log(peer, "refused: " + reason);
     std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
-    const std::uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, number, sentence.c_str(), nullptr);
+    const std::uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, number, reason.c_str(), nullptr);
     mirk_platform_server_send(server_, peer, frame, size);
 }
 
@@ -93,18 +92,18 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
     const mirk_platform_error error = mirk_platform_request_decode(frame, size, &request);
     if (error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
         const char *reason = "it sent a frame that is not a request";
-        refuse(peer, error != 0 ? error : EBADMSG, "this is no request");
-        print_refused(peer, reason);
+        refuse(peer, error != 0 ? error : EBADMSG, "not a request");
+        print_disconnected(peer, reason);
         mirk_platform_server_disconnect(server_, peer, reason);
         return;
     }
     const auto *bundle = reflect::find_bundle(request.bundle);
-    if (bundle == nullptr) return refuse(peer, ENOENT, "there is no bundle \"" + std::string(request.bundle) + "\"");
+    if (bundle == nullptr) return refuse(peer, ENOENT, "unknown bundle \"" + std::string(request.bundle) + "\"");
     if (!answerer_.has(*bundle)) {
         return refuse(peer, ENOENT, std::string(bundle->bundle->name) + " is not served here");
     }
     const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
-    note(peer, "asks for " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
+    log(peer, "requests " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
     try {
         const Bytes frames = answerer_.answer(*bundle, tracked, ++answers_, options_.fault);
         mirk_platform_server_send(server_, peer, frames.data(), frames.size());

@@ -1,4 +1,4 @@
-// Serves snapshots of bundles to whoever asks over a socket or TCP.
+// Serves bundles over a socket file or TCP.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@
 namespace tarn::tool {
 
 struct ServerOptions {
-    std::string socket, listen;  // a socket file or a TCP address; the other one is empty
+    std::string socket, listen;  // a socket file or a TCP address; the other is empty
     Fault fault = Fault::none;
     unsigned peers = 256;
-    double idle = 60, frame_time = 10, answer_time = 60;  // seconds; 0 is no limit
+    double idle = 60, frame_time = 10, answer_time = 60;  // seconds; 0: no limit
     std::uint64_t frame_limit = 64 << 10, unread = 64 << 20, unread_total = 256 << 20;
     bool verbose = false;
 };
@@ -26,19 +26,19 @@ public:
     Server &operator=(const Server &) = delete;
 
     void open();
-    // Until SIGINT or SIGTERM.
+    // Returns after SIGINT or SIGTERM.
     void run();
 
 private:
     void on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size);
-    void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &sentence);
-    void note(mirk_platform_peer peer, const std::string &sentence) const;
-    void print_refused(mirk_platform_peer peer, const char *reason);
+    void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &reason);
+    void log(mirk_platform_peer peer, const std::string &event) const;
+    void print_disconnected(mirk_platform_peer peer, const char *reason);
 
     const ServerOptions &options_;
     Answerer &answerer_;
     mirk_platform_server *server_ = nullptr;
-    std::uint32_t answers_ = 0, refused_ = 0;
+    std::uint32_t answers_ = 0, disconnected_ = 0;
 };
 
 }  // namespace tarn::tool

@@ -1,32 +1,42 @@
-// How a command ends: one set of exit codes for the whole tool, and the exception that carries them.
+// The exit codes of the tool, and the exception that ends a command with one of them.
 #pragma once
 
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace tarn::tool {
 
-enum class Exit : int {
-    done = 0,
-    different = 1,    // compared and found different, asked for and not found
-    input = 2,        // the command line, or something that was read, is wrong
-    environment = 3,  // files, sockets, memory
+enum class Exit : int { success = 0, negative = 1, input = 2, environment = 3 };
+
+// The one table of exit codes: all commands keep to it, and the help and the manual page print it.
+struct ExitCode {
+    Exit code;
+    std::string_view meaning;
+};
+inline constexpr ExitCode exit_codes[] = {
+    {Exit::success, "success"},
+    {Exit::negative, "files differ; no manifest; bundle refused, aborted or not handled; recording incomplete"},
+    {Exit::input, "usage error, unknown name, or invalid input"},
+    {Exit::environment, "file, connection, timeout or memory error"},
 };
 
 class Failure : public std::runtime_error {
 public:
-    Failure(Exit exit, const std::string &sentence) : std::runtime_error(sentence), exit_(exit) {}
+    Failure(Exit exit, const std::string &message) : std::runtime_error(message), exit_(exit) {}
     Exit exit() const { return exit_; }
 
 private:
     Exit exit_;
 };
 
-// "Message too long (EMSGSIZE, 90)"
+// "EMSGSIZE"; the number itself if it has no name.
+std::string error_name(std::uint32_t number);
+// "Message too long (EMSGSIZE)"
 std::string error_text(std::uint32_t number);
 
-// Lack of memory is not an error of the input.
+// ENOMEM is an error of the environment, every other number one of the input.
 Exit exit_of(std::uint32_t number);
 
 }  // namespace tarn::tool

@@ -65,7 +65,7 @@ void GrowingFile::append(std::string_view piece) {
             done += static_cast<std::size_t>(written);
         } else if (errno != EINTR) {
             const auto number = static_cast<std::uint32_t>(errno);
-            // Pipes and devices cannot take anything back.
+            // Fails for pipes and devices, where nothing can be removed.
             [[maybe_unused]] const int kept = ::ftruncate(descriptor_, static_cast<off_t>(size_));
             throw Failure(Exit::environment,
                           path_ + ": at byte " + std::to_string(size_ + done) + ": " + error_text(number));

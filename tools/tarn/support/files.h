@@ -7,20 +7,20 @@
 
 namespace tarn::tool {
 
-// "-" is standard input. Throws a Failure with the path and the reason.
+// "-" is standard input. Throws a Failure that names the path and the reason.
 std::string read_file(const std::string &path);
 
 // "-" is standard output.
 void write_file(const std::string &path, std::string_view bytes);
 
-// The name of a path in messages.
+// The path as messages print it: "standard input" for "-".
 std::string shown_path(const std::string &path);
 
-// Throws a Failure if anything that was printed could not be written.
+// Throws a Failure if standard output could not be written.
 void flush_output();
 
-// A new file that grows piece by piece. A piece that does not fit is removed again, and the Failure names the offset:
-// the file contains whole pieces only, even if the disk is full.
+// A new file that grows piece by piece. If writing a piece fails, the part already written is removed and the Failure
+// names the offset, so that the file contains whole pieces only, even if the disk is full.
 class GrowingFile {
 public:
     explicit GrowingFile(std::string path);
@@ -29,7 +29,7 @@ public:
     ~GrowingFile();
 
     void append(std::string_view piece);
-    // Reports errors that a file system reports only when a file is closed.
+    // Closes the file; some errors are reported only then.
     void finish();
 
 private:

@@ -9,12 +9,12 @@ Handle::Handle(bool tracked) : tracked_(tracked) {
     mirk_platform_handle_options_init(&options);
     options.tracking = tracked ? MIRK_PLATFORM_TRACKING_ON : MIRK_PLATFORM_TRACKING_NONE;
     handle_ = mirk_platform_handle_open(&options);
-    if (handle_ == nullptr) throw Failure(Exit::environment, "no memory for a handle");
+    if (handle_ == nullptr) throw Failure(Exit::environment, "out of memory for a handle");
 }
 
-Message Message::make(const Handle &handle, const reflect::MessageOperations &operations) {
+Message Message::create(const Handle &handle, const reflect::MessageOperations &operations) {
     void *object = operations.create(handle.get(), context_id);
-    if (object == nullptr) throw Failure(Exit::environment, "no memory for a message");
+    if (object == nullptr) throw Failure(Exit::environment, "out of memory for a message");
     return {handle, operations, object};
 }
 

@@ -1,4 +1,4 @@
-// Owners of what the runtime and the library allocate: handles, messages, parsed documents.
+// Owners of objects that the runtime and the library allocate: handles, messages, parsed documents.
 #pragma once
 
 #include <cstdint>
@@ -30,25 +30,25 @@ private:
     bool tracked_;
 };
 
-// Whether messages are created with per-field state: as the input has it, or all alike.
-enum class Tracking : std::uint8_t { as_given, off, on };
+// Whether messages are created with per-field state: like the input, never or always.
+enum class Tracking : std::uint8_t { as_input, off, on };
 
-// One handle of each kind, since objects must not cross between them.
+// A handle with and one without tracking, since an object belongs to the handle that created it.
 class Handles {
 public:
-    explicit Handles(Tracking wanted) : wanted_(wanted) {}
+    explicit Handles(Tracking tracking) : tracking_(tracking) {}
 
-    const Handle &choose(bool given_tracked) const {
-        const bool tracked = wanted_ == Tracking::as_given ? given_tracked : wanted_ == Tracking::on;
+    const Handle &choose(bool input_tracked) const {
+        const bool tracked = tracking_ == Tracking::as_input ? input_tracked : tracking_ == Tracking::on;
         return tracked ? tracked_ : plain_;
     }
 
 private:
-    Tracking wanted_;
+    Tracking tracking_;
     Handle plain_{false}, tracked_{true};
 };
 
-// A plain message with its payload. The handle must live longer.
+// A plain message with its payload. The handle must outlive it.
 class Message {
 public:
     Message(const Handle &handle, const reflect::MessageOperations &operations, void *object)
@@ -63,7 +63,7 @@ public:
     }
     ~Message() { operations_->destroy(handle_->get(), context_id, object_); }
 
-    static Message make(const Handle &handle, const reflect::MessageOperations &operations);
+    static Message create(const Handle &handle, const reflect::MessageOperations &operations);
 
     const Handle &handle() const { return *handle_; }
     const reflect::MessageOperations &operations() const { return *operations_; }

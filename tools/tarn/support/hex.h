@@ -1,4 +1,4 @@
-// Bytes in hexadecimal digits.
+// Hexadecimal digits of bytes.
 #pragma once
 
 #include <cstdint>
@@ -7,13 +7,13 @@
 
 namespace tarn::tool {
 
-// Two digits a byte, each byte followed by `gap`.
-inline std::string hex_text(std::span<const std::uint8_t> bytes, const std::string &gap = {}) {
+// Two digits per byte, each byte followed by `separator`.
+inline std::string hex_text(std::span<const std::uint8_t> bytes, const std::string &separator = {}) {
     constexpr char digits[] = "0123456789abcdef";
     std::string text;
     for (const std::uint8_t byte : bytes) {
         text += {digits[byte >> 4], digits[byte & 15]};
-        text += gap;
+        text += separator;
     }
     return text;
 }

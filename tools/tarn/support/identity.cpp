@@ -56,7 +56,7 @@ const reflect::BundleOperations &bundle_of(const reflect::MessageOperations &mes
     for (const reflect::BundleOperations &b : reflect::bundles()) {
         if (admits(b, message)) return b;
     }
-    throw Failure(Exit::input, std::string(message.name) + " belongs to no bundle");
+    throw Failure(Exit::input, std::string(message.name) + ": no bundle admits it");
 }
 
 bool admits(const reflect::BundleOperations &bundle, const reflect::MessageOperations &message) {

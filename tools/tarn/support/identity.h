@@ -1,4 +1,4 @@
-// What the luid in a frame identifies: a message, or a control message of a bundle.
+// Messages and control messages of bundles, as the luid of a frame identifies them.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ const reflect::MessageOperations &operations_of(const reflect::BundleOperations 
 
 struct Identity {
     const reflect::MessageOperations *operations;
-    const reflect::BundleOperations *bundle = nullptr;  // of a control message
+    const reflect::BundleOperations *bundle = nullptr;  // null for a message
     Control control = Control::start;
 
     bool is_control() const { return bundle != nullptr; }
@@ -28,7 +28,7 @@ std::optional<Identity> identify(const std::uint8_t *luid);
 
 std::string luid_text(const std::uint8_t *luid);
 
-// The bundle that a message is shown in, the first if there are several.
+// The first bundle that admits the message.
 const reflect::BundleOperations &bundle_of(const reflect::MessageOperations &message);
 bool admits(const reflect::BundleOperations &bundle, const reflect::MessageOperations &message);
 

@@ -9,7 +9,7 @@ namespace tarn::tool {
 
 namespace {
 
-constexpr std::uint8_t placed_state = 64, carries_ra_data = 32;
+constexpr std::uint8_t has_state_offset = 64, has_ra_data = 32;
 
 template <typename T>
 T load(const void *object, std::size_t offset) {
@@ -32,7 +32,7 @@ std::int8_t variant_of(const void *object) { return static_cast<const mirk_objec
 void set_variant(void *object, std::int8_t variant) { static_cast<mirk_object *>(object)->variant = variant; }
 
 std::optional<RaData> ra_data_of(const Handle &handle, void *object) {
-    if ((static_cast<const mirk_object *>(object)->obj_flag & carries_ra_data) == 0) return std::nullopt;
+    if ((static_cast<const mirk_object *>(object)->obj_flag & has_ra_data) == 0) return std::nullopt;
     void *value = nullptr;
     RaData data{};
     if (mirk_platform_ra_data(handle.get(), object, &value, &data.byte) != 0) return data;
@@ -45,7 +45,7 @@ void set_ra_data(const Handle &handle, void *object, const RaData &data) {
     static_assert(sizeof value == sizeof data.value);
     std::memcpy(&value, &data.value, sizeof value);
     if (mirk_platform_set_ra_data(handle.get(), object, value, data.byte) != 0) {
-        throw Failure(Exit::environment, "no memory for RA data");
+        throw Failure(Exit::environment, "out of memory for RA data");
     }
 }
 
@@ -54,7 +54,7 @@ std::string address_text(const Handle &handle, ip_address *address) {
     std::uint32_t err = 0;
     const std::uint32_t size =
         ip_address_to_xml(handle.get(), context_id, "a", buffer, address, sizeof buffer, 0, &err);
-    if (err != 0) throw Failure(exit_of(err), "an address cannot be written: " + error_text(err));
+    if (err != 0) throw Failure(exit_of(err), "cannot write an address: " + error_text(err));
     const std::string_view element(buffer, size);
     constexpr std::string_view open = "<a>", close = "</a>";
     return std::string(element.substr(open.size(), element.size() - open.size() - close.size()));
@@ -71,7 +71,7 @@ bool set_address(const Handle &handle, ip_address *address, const std::string &t
 }
 
 std::uint8_t *address_state(const Handle &handle, ip_address *address) {
-    if (!handle.tracked() || (address->obj_flag & placed_state) == 0) return nullptr;
+    if (!handle.tracked() || (address->obj_flag & has_state_offset) == 0) return nullptr;
     return reinterpret_cast<std::uint8_t *>(address) + mirklib_get_sttr_offset(handle.get(), context_id, address);
 }
 

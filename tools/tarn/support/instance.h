@@ -1,5 +1,5 @@
-// Values that accessors do not give in full, read and written by the layout of the schema and the operations of the
-// runtime.
+// Values that the accessors do not return in full. They are read and written through the layout of the schema and the
+// operations of the runtime.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@
 
 namespace tarn::tool {
 
-// The accessors of strings stop at a NUL, though a frame may bring one.
+// The whole string; the accessors stop at the first NUL, which a string from a frame may contain.
 std::string string_at(const schema::Record &record, std::size_t index, void *instance);
 
 std::int8_t variant_of(const void *object);
@@ -25,10 +25,10 @@ std::optional<RaData> ra_data_of(const Handle &handle, void *object);
 void set_ra_data(const Handle &handle, void *object, const RaData &data);
 
 std::string address_text(const Handle &handle, ip_address *address);
-// False if the text is no address.
+// False if the text is not an address.
 bool set_address(const Handle &handle, ip_address *address, const std::string &text);
 
-// The seven state bytes of an address on a tracking handle; null if it has none.
+// The seven state bytes of an address; null if it has none.
 std::uint8_t *address_state(const Handle &handle, ip_address *address);
 
 std::uint32_t enumeration_value(const void *enumeration);

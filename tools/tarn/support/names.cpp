@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "schema/catalogue.h"
-#include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
 
@@ -48,29 +47,44 @@ std::vector<Named> type_names() {
     return names;
 }
 
-std::string short_form(std::string_view name) {
-    constexpr std::string_view front = "lumo_tarn_";
-    if (name.substr(0, front.size()) == front) name.remove_prefix(front.size());
-    for (const std::string_view back : {"_rsp", "_msg"}) {
-        if (name.size() > back.size() && name.substr(name.size() - back.size()) == back) {
-            name.remove_suffix(back.size());
-        }
+std::string short_name(std::string_view name) {
+    constexpr std::string_view prefix = "lumo_tarn_";
+    if (name.starts_with(prefix)) name.remove_prefix(prefix.size());
+    for (const std::string_view suffix : {"_rsp", "_msg"}) {
+        if (name.ends_with(suffix)) name.remove_suffix(suffix.size());
     }
     std::string text(name);
     std::replace(text.begin(), text.end(), '_', '-');
     return text;
 }
 
-bool is_named(std::string_view given, std::string_view name) { return given == name || given == short_form(name); }
+bool is_named(std::string_view given, std::string_view name) { return given == name || given == short_name(name); }
+
+Failure unknown_name(const std::string &kind, std::string_view name, const std::vector<Named> &known) {
+    std::vector<std::string> candidates;
+    for (const Named &n : known) candidates.push_back(short_name(n.name));
+    for (const Named &n : known) candidates.emplace_back(n.name);
+    return {Exit::input, "unknown " + kind + " \"" + std::string(name) + "\"" + suggestion(name, candidates)};
+}
+
+const reflect::BundleOperations *find_bundle_named(std::string_view name) {
+    for (const reflect::BundleOperations &b : reflect::bundles()) {
+        if (is_named(name, b.bundle->name)) return &b;
+    }
+    return nullptr;
+}
+
+const reflect::MessageOperations *find_message_named(std::string_view name) {
+    for (const reflect::MessageOperations &o : reflect::messages()) {
+        if (is_named(name, o.name)) return &o;
+    }
+    return nullptr;
+}
 
 const reflect::BundleOperations &bundle_named(std::string_view name) {
-    std::vector<std::string> candidates;
-    for (const reflect::BundleOperations &b : reflect::bundles()) {
-        if (is_named(name, b.bundle->name)) return b;
-        candidates.push_back(short_form(b.bundle->name));
-        candidates.emplace_back(b.bundle->name);
-    }
-    throw Failure(Exit::input, "there is no bundle \"" + std::string(name) + "\"" + suggestion(name, candidates));
+    const auto *bundle = find_bundle_named(name);
+    if (bundle == nullptr) throw unknown_name("bundle", name, bundle_names());
+    return *bundle;
 }
 
 const schema::Record *record_named(std::string_view name) {

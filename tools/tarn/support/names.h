@@ -1,5 +1,5 @@
-// The names of the schema: in full, in the short form that people write, and members by a path that begins at a
-// record: "dp-tt-cfg.tables".
+// The names of the schema: full names, short names, and members by a path that begins at a record or its message or
+// bundle: "dp-tt-cfg.lumo_data".
 #pragma once
 
 #include <string>
@@ -8,6 +8,7 @@
 
 #include "schema/model.h"
 #include "tools/reflect/operations.h"
+#include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
 
@@ -19,26 +20,38 @@ std::vector<Named> bundle_names();
 std::vector<Named> message_names();
 std::vector<Named> type_names();  // records, enumerations, messages, bundles
 
-// "lumo_tarn_dp_tt_cfg_rsp" gives "dp-tt-cfg".
-std::string short_form(std::string_view name);
-bool is_named(std::string_view given, std::string_view name);  // in full or in short
+// The one rule for all types and commands. Both name_rule, which the help and the manual page print, and short_name()
+// state it.
+inline constexpr char name_rule[] =
+    "Types have full names, such as lumo_tarn_dp_tt_cfg_rsp, and short names, such as\n"
+    "dp-tt-cfg: without the prefix lumo_tarn_, without the suffix _rsp or _msg, and\n"
+    "with hyphens for underscores. A short name that several types share means the\n"
+    "record, or the bundle if no record has it.";
+std::string short_name(std::string_view name);
+bool is_named(std::string_view given, std::string_view name);  // by its full or its short name
 
-// Throws a Failure with the nearest name if there is no such bundle.
+// A Failure for an unknown name, which suggests the nearest known one.
+Failure unknown_name(const std::string &kind, std::string_view name, const std::vector<Named> &known);
+
+// Null if there is no such bundle or message.
+const reflect::BundleOperations *find_bundle_named(std::string_view name);
+const reflect::MessageOperations *find_message_named(std::string_view name);
+// Throws a Failure if there is no such bundle.
 const reflect::BundleOperations &bundle_named(std::string_view name);
 
-// A record, or the payload of a message or a bundle; null if there is none.
+// A record, or the payload of a bundle or a message; null if there is none.
 const schema::Record *record_named(std::string_view name);
 
-// What a path leads to. A member that nests records leads on to theirs.
+// The record or member at the end of a path. A path continues from a member into the record that it nests.
 struct Target {
-    const schema::Record *record = nullptr;  // the record that is named, or the one that holds the member
-    const schema::Member *member = nullptr;  // of a path with members
+    const schema::Record *record = nullptr;  // the named record, or the record that contains the member
+    const schema::Member *member = nullptr;  // null if the path has no members
     const schema::Record *nested() const { return member != nullptr ? member->record : record; }
     explicit operator bool() const { return record != nullptr; }
 };
 Target target_of(std::string_view path);
 
-// "; did you mean X?", or nothing if no candidate is close.
+// "; did you mean X?", or an empty string if no candidate is close.
 std::string suggestion(std::string_view word, const std::vector<std::string> &candidates);
 
 }  // namespace tarn::tool

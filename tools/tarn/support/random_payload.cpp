@@ -19,7 +19,18 @@ bool ends(const Member &m, std::string_view part) {
     return m.name.size() >= part.size() && m.name.substr(m.name.size() - part.size()) == part;
 }
 
+bool has_fixed_length(const Member &m) {
+    return m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info";
+}
+
 }  // namespace
+
+bool RandomPayload::can_grow(const Record &record) {
+    return std::any_of(record.members.begin(), record.members.end(), [](const Member &m) {
+        return (category(m.kind) == Category::array && !has_fixed_length(m)) ||
+               (m.record != nullptr && can_grow(*m.record));
+    });
+}
 
 std::string RandomPayload::address() {
     constexpr std::uint64_t v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
@@ -27,7 +38,7 @@ std::string RandomPayload::address() {
         return "10." + std::to_string(below(256)) + "." + std::to_string(below(256)) + ".0/" +
                std::to_string(v4_lengths[below(6)]);
     }
-    // Groups without a zero at the front read back as they are written.
+    // Groups without a leading zero are in canonical form, so they read back as written.
     std::string text = "2001:db8:";
     for (int i = 0; i < 2; ++i) {
         const std::uint64_t group = 1 + below(0xffff);
@@ -74,8 +85,8 @@ std::uint64_t RandomPayload::number(const Record &record, const Member &m) {
 }
 
 std::uint32_t RandomPayload::length_of_list(const Member &m, std::uint64_t most) {
-    if (m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info") return 2;
-    // A list inside a list of this kind is shorter, or size would grow with the square.
+    if (has_fixed_length(m)) return 2;
+    // A list inside such a list is shorter; otherwise the size would grow with the square of `elements`.
     const std::uint32_t wanted = depth_ == 0 ? elements_ : elements_ / 4 + 1;
     return static_cast<std::uint32_t>(std::min<std::uint64_t>(wanted, most));
 }

@@ -1,4 +1,4 @@
-// Random payloads with plausible values. The same seed gives the same payload everywhere.
+// Random payloads with plausible values. A seed gives the same payload on every machine.
 #pragma once
 
 #include <cstdint>
@@ -12,11 +12,14 @@ namespace tarn::tool {
 
 class RandomPayload {
 public:
-    // Processors and complexes stay at two; other lists get about `elements` elements, as far as the width of their
-    // counts permits.
+    // Lists of processors and of complexes always have two elements. Other lists get `elements`, lists inside them a
+    // quarter of that plus one; a list is shorter if its count is too narrow.
     RandomPayload(std::uint64_t seed, std::uint32_t elements) : random_(seed), elements_(elements) {}
 
     nlohmann::ordered_json make(const schema::Record &record);
+
+    // True if the record has a list whose length depends on `elements`.
+    static bool can_grow(const schema::Record &record);
 
 private:
     std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
@@ -30,7 +33,7 @@ private:
     std::uint32_t elements_;
     std::uint32_t index_ = 0;  // of the innermost element
     std::uint64_t port_min_ = 0;
-    unsigned depth_ = 0;  // of lists
+    unsigned depth_ = 0;  // of nested lists
 };
 
 }  // namespace tarn::tool

@@ -1,4 +1,4 @@
-// Colors and progress, only on a terminal.
+// Colors and progress lines, on terminals only.
 #pragma once
 
 #include <chrono>
@@ -12,14 +12,14 @@ namespace tarn::tool {
 
 enum class Color : std::uint8_t { none, red, green, yellow, blue, grey };
 
-inline std::string painted(std::string_view text, Color color) {
+inline std::string colored(std::string_view text, Color color) {
     static const bool terminal = isatty(STDOUT_FILENO) != 0;
     constexpr const char *codes[] = {"", "\x1b[31m", "\x1b[32m", "\x1b[33m", "\x1b[34m", "\x1b[90m"};
     if (!terminal || color == Color::none) return std::string(text);
     return std::string(codes[static_cast<std::size_t>(color)]) + std::string(text) + "\x1b[0m";
 }
 
-// A line on standard error that replaces itself, from the second second on.
+// A line on standard error that overwrites itself. It first appears after a second.
 class Progress {
 public:
     explicit Progress(std::string what) : what_(std::move(what)) {}

@@ -25,7 +25,7 @@ void set_up_trace(bool verbose) {
         mirk_platform_trace_set_levels(~std::uint32_t{0});
         mirk_platform_trace_set_sink(trace_to_standard_error, nullptr);
     } else if (std::getenv("MIRK_TRACE") == nullptr) {
-        // The tool itself prints errors, with their location.
+        // The tool prints errors itself, with their location.
         mirk_platform_trace_set_levels(1);
     }
 }

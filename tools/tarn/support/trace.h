@@ -1,9 +1,9 @@
-// Trace lines of the process.
+// Trace output of the process.
 #pragma once
 
 namespace tarn::tool {
 
-// Names the modules of the library. With verbose every level goes to standard error.
+// Registers the trace modules of the library. Verbose enables all levels, on standard error.
 void set_up_trace(bool verbose);
 
 }  // namespace tarn::tool

@@ -1,4 +1,4 @@
-// encode and decode: frames to text, XML and JSON and back, held against the reference encoding.
+// encode and decode: conversion between frames, text, XML and JSON, compared with the reference encoding.
 #include <gtest/gtest.h>
 
 #include "process.h"
@@ -31,8 +31,8 @@ TEST_P(EveryMessage, IsEncodedFromXmlAsTheReferenceEncodesIt) {
     EXPECT_EQ(outcome.out, frame(GetParam(), payload, false, 77));
 }
 
-// Variants, RA data, states and numbers out of range all survive; only a NUL inside a string does not.
-TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
+// Variants, RA data, states and numbers out of range survive; only a NUL inside a string does not.
+TEST_P(EveryMessage, SurvivesARoundTripThroughJson) {
     for (const bool tracked : {false, true}) {
         for (const std::uint64_t seed : {34U, 35U, 36U}) {
             reference::GeneratorOptions options;
@@ -50,7 +50,7 @@ TEST_P(EveryMessage, SurvivesTheWayThroughJsonByteByByte) {
     }
 }
 
-TEST_P(EveryMessage, KeepsItsStateOnTheWayThroughXml) {
+TEST_P(EveryMessage, KeepsItsStateInARoundTripThroughXml) {
     reference::GeneratorOptions options;
     options.printable = true;
     options.min_text = 1;
@@ -63,10 +63,10 @@ TEST_P(EveryMessage, KeepsItsStateOnTheWayThroughXml) {
     EXPECT_EQ(tarn({"decode", "--xml"}, back.out).out, xml.out);
 }
 
-INSTANTIATE_TEST_SUITE_P(Coding, EveryMessage, testing::ValuesIn(reference::messages()),
+INSTANTIATE_TEST_SUITE_P(Conversion, EveryMessage, testing::ValuesIn(reference::messages()),
                          [](const auto &info) { return info.param.name; });
 
-TEST(Coding, ARunOfFramesKeepsItsOrderInEveryForm) {
+TEST(Conversion, FramesKeepTheirOrderInEveryFormat) {
     std::string bytes;
     for (const auto &bundle : reference::bundles()) {
         bytes += answer(bundle, plain_payload(reference::message_table(bundle.message), 40), false);
@@ -82,7 +82,7 @@ TEST(Coding, ARunOfFramesKeepsItsOrderInEveryForm) {
     EXPECT_EQ(again.out, bytes) << again.err;
 }
 
-TEST(Coding, ABundleIsPutAround) {
+TEST(Conversion, BundleOptionAddsStartAndCommit) {
     const auto &bundle = reference::bundle_table("lumo_tarn_dp_intf_rsp");
     const auto &message = reference::message_table(bundle.message);
     const reference::Record payload = plain_payload(message, 41);
@@ -91,7 +91,7 @@ TEST(Coding, ABundleIsPutAround) {
     EXPECT_EQ(outcome.out, answer(bundle, payload, false)) << outcome.err;
 }
 
-TEST(Coding, AMessageThatTheBundleDoesNotAdmitIsRefused) {
+TEST(Conversion, AMessageThatTheBundleDoesNotAdmitIsRefused) {
     const Outcome outcome = tarn({"encode", "--bundle", "dp-intf", "--verbose"},
                                  R"({"message": "lumo_tarn_debug_setting_msg", "payload": {}})");
     EXPECT_EQ(outcome.exit, 2);
@@ -100,7 +100,7 @@ TEST(Coding, AMessageThatTheBundleDoesNotAdmitIsRefused) {
     EXPECT_EQ(outcome.out, "");
 }
 
-TEST(Coding, AStartInsideABundleIsRefused) {
+TEST(Conversion, AStartInsideABundleIsRefused) {
     const Outcome outcome = tarn({"encode"}, R"({"bundle": "lumo_tarn_dp_intf_rsp", "control": "start"}
 {"bundle": "lumo_tarn_cl_cfg_rsp", "control": "start"})");
     EXPECT_EQ(outcome.exit, 2);
@@ -108,7 +108,7 @@ TEST(Coding, AStartInsideABundleIsRefused) {
     EXPECT_NE(outcome.err.find("EEXIST"), std::string::npos) << outcome.err;
 }
 
-TEST(Coding, ABundleLeftOpenIsNamed) {
+TEST(Conversion, ABundleWithoutAnEndIsReported) {
     const Outcome outcome = tarn({"encode"}, R"(<bundle_start name="lumo_tarn_dp_intf_rsp"></bundle_start>)");
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_NE(outcome.err.find("ends inside a bundle"), std::string::npos) << outcome.err;
@@ -118,28 +118,29 @@ std::string intf_json(const std::string &name) {
     return R"({"message": "lumo_tarn_dp_intf_msg", "payload": {"intf_name": )" + name + "}}";
 }
 
-TEST(Coding, AStringThatIsNoUtf8StandsAsHexadecimalBytes) {
+TEST(Conversion, AStringThatIsNotUtf8BecomesHexadecimalBytes) {
     const Outcome frame = tarn({"encode"}, intf_json(R"({"bytes": "ff00"})"));
     EXPECT_EQ(frame.exit, 0) << frame.err;
     const Outcome json = tarn({"decode", "--json"}, frame.out);
     EXPECT_NE(json.out.find(R"("intf_name":{"bytes":"ff00"})"), std::string::npos) << json.out;
 }
 
-TEST(Coding, AStringThatCannotBeStoredIsRefused) {
+TEST(Conversion, AStringThatCannotBeStoredIsRefused) {
     const Outcome nul = tarn({"encode"}, intf_json(R"({"bytes": "610062"})"));
     EXPECT_EQ(nul.exit, 2);
-    EXPECT_NE(nul.err.find("intf_name: a NUL in the middle"), std::string::npos) << nul.err;
+    EXPECT_NE(nul.err.find("intf_name: a string cannot contain a NUL before other characters"), std::string::npos)
+        << nul.err;
     EXPECT_EQ(tarn({"encode"}, intf_json(R"({"bytes": "6"})")).exit, 2);
     EXPECT_EQ(tarn({"encode"}, intf_json("17")).exit, 2);
 }
 
-TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
+TEST(Conversion, ABrokenFrameIsReportedWithItsOffset) {
     const auto &message = reference::message_table("lumo_tarn_debug_setting_msg");
-    std::string cut = frame(message, plain_payload(message, 1), false);
-    const std::string good = cut;
-    cut.resize(60);
-    cut[15] = 60;
-    const Outcome outcome = tarn({"decode"}, good + cut + good);
+    std::string truncated = frame(message, plain_payload(message, 1), false);
+    const std::string good = truncated;
+    truncated.resize(60);
+    truncated[15] = 60;
+    const Outcome outcome = tarn({"decode"}, good + truncated + good);
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_NE(outcome.err.find("frame at offset 65: lumo_tarn_debug_setting_msg cannot be read"), std::string::npos)
         << outcome.err;
@@ -147,12 +148,12 @@ TEST(Coding, ABrokenFrameIsNamedWithItsPlace) {
         << outcome.err;
     EXPECT_EQ(outcome.out, shown(message, plain_payload(message, 1)));
 
-    const Outcome further = tarn({"decode", "--keep-going"}, good + cut + good);
-    EXPECT_EQ(further.exit, 2);
-    EXPECT_EQ(further.out, outcome.out + outcome.out);
+    const Outcome all = tarn({"decode", "--keep-going"}, good + truncated + good);
+    EXPECT_EQ(all.exit, 2);
+    EXPECT_EQ(all.out, outcome.out + outcome.out);
 }
 
-TEST(Coding, ACountThatNothingStandsBehindIsAFaultOfTheInput) {
+TEST(Conversion, ACountWithoutElementsIsAnInputError) {
     const auto &message = reference::message_table("lumo_tarn_cl_appl_msg");
     std::string bytes = frame(message, reference::Record(message.payload), false);
     bytes[51] = '\x7f';  // first byte of num_kesh_appls
@@ -161,7 +162,7 @@ TEST(Coding, ACountThatNothingStandsBehindIsAFaultOfTheInput) {
     EXPECT_NE(outcome.err.find("broken at offset 55, payload.kesh_appl[0]"), std::string::npos) << outcome.err;
 }
 
-TEST(Coding, WhatIsNoFrameIsNamed) {
+TEST(Conversion, BytesThatAreNotAFrameAreReported) {
     const auto expect = [](const std::string &bytes, const std::string &words) {
         const Outcome outcome = tarn({"decode"}, bytes);
         EXPECT_EQ(outcome.exit, 2) << words;
@@ -174,12 +175,12 @@ TEST(Coding, WhatIsNoFrameIsNamed) {
     longer[15] = 44;
     std::string shorter = commit;
     shorter[15] = 42;
-    expect("", "standard input: is empty");
-    expect("rubbish", "neither frames nor XML nor JSON");
-    expect(commit.substr(0, 42), "42 bytes are left, and a frame has at least 43");
+    expect("", "standard input: empty");
+    expect("garbage", "neither frames nor XML nor JSON");
+    expect(commit.substr(0, 42), "42 bytes are left, but a frame has at least 43");
     expect(unknown, "unknown luid ca461fb9");
-    expect(longer, "cut short: its total length is 44, and 43 bytes are left");
-    expect(shorter, "no frame begins here");
+    expect(longer, "truncated: its total length is 44, but 43 bytes are left");
+    expect(shorter, "not a frame");
     expect(commit + "x", "frame at offset 43: 1 bytes are left");
 }
 

@@ -1,4 +1,4 @@
-// One process answers, another asks: every bundle, every form, with and without per-field state.
+// One process answers, another requests: every bundle, every format, with and without per-field state.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -16,21 +16,21 @@ protected:
     const reference::MessageTable &message() const { return reference::message_table(bundle().message); }
 };
 
-// The first answer of a server bears the stamp 1.
+// The first answer of a server has the stamp 1.
 std::string first_answer(const reference::BundleTable &bundle, const reference::Record &payload, bool tracked) {
     return text_of(reference::control_frame(bundle.name, "start", 1)) +
            frame(reference::message_table(bundle.message), payload, tracked, 1) +
            text_of(reference::control_frame(bundle.name, "commit", 1));
 }
 
-TEST_P(EveryBundle, IsAnsweredFromXmlAndShownAsTextAndXml) {
+TEST_P(EveryBundle, IsServedFromXmlAndShownAsTextAndXml) {
     const Directory directory;
     const reference::Record payload = plain_payload(message(), 5);
     const std::string xml = reference::message_to_xml(bundle().message, payload, false);
-    const Server server({short_form(bundle().name) + "=" + directory.write("snapshot.xml", xml)});
+    const Server server({short_name(bundle().name) + "=" + directory.write("snapshot.xml", xml)});
     ASSERT_TRUE(server.is_ready());
 
-    const Outcome text = server.show(short_form(bundle().name));
+    const Outcome text = server.show(short_name(bundle().name));
     EXPECT_EQ(text.exit, 0) << text.err;
     EXPECT_EQ(text.out, shown(message(), payload));
     EXPECT_EQ(text.err, "");
@@ -40,7 +40,7 @@ TEST_P(EveryBundle, IsAnsweredFromXmlAndShownAsTextAndXml) {
     EXPECT_EQ(again.out, xml + "\n");
 }
 
-TEST_P(EveryBundle, ArrivesByteByByteAsTheReferenceEncodesIt) {
+TEST_P(EveryBundle, ArrivesAsTheReferenceEncodesIt) {
     for (const bool tracked : {false, true}) {
         const Directory directory;
         const reference::Record payload = strange_payload(message(), tracked ? 21 : 22);
@@ -70,10 +70,10 @@ TEST_P(EveryBundle, ShowsPerFieldStateInXml) {
     EXPECT_EQ(outcome.out, reference::message_to_xml(bundle().message, received, true) + "\n");
 }
 
-INSTANTIATE_TEST_SUITE_P(Asking, EveryBundle, testing::ValuesIn(reference::bundles()),
+INSTANTIATE_TEST_SUITE_P(Show, EveryBundle, testing::ValuesIn(reference::bundles()),
                          [](const auto &info) { return info.param.name; });
 
-TEST(Asking, OneProcessServesSeveralBundles) {
+TEST(Show, OneProcessServesSeveralBundles) {
     const Directory directory;
     const std::string debug = directory.write("debug.xml", debug_xml);
     const std::string interface = directory.write(
@@ -89,7 +89,7 @@ TEST(Asking, OneProcessServesSeveralBundles) {
     EXPECT_NE(end.out.find("stopped after 3 answers"), std::string::npos);
 }
 
-TEST(Asking, ABundleThatIsNotServedIsRefused) {
+TEST(Show, ABundleThatIsNotServedIsRefused) {
     const Directory directory;
     const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
@@ -99,7 +99,7 @@ TEST(Asking, ABundleThatIsNotServedIsRefused) {
     EXPECT_EQ(outcome.out, "");
 }
 
-TEST(Asking, JsonAndHexAreFormsToo) {
+TEST(Show, ShowPrintsJsonAndHex) {
     const Directory directory;
     const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
@@ -110,7 +110,7 @@ TEST(Asking, JsonAndHexAreFormsToo) {
     EXPECT_EQ(server.show("cl-debug", {"--hex", "--json"}).exit, 2);
 }
 
-TEST(Asking, TcpCarriesTheSameAnswer) {
+TEST(Show, TcpAndSocketsGiveTheSameAnswer) {
     const Directory directory;
     const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
     const Server local({snapshot});
@@ -132,7 +132,7 @@ TEST(Asking, TcpCarriesTheSameAnswer) {
     EXPECT_NE(gone.err.find("ECONNREFUSED"), std::string::npos) << gone.err;
 }
 
-TEST(Asking, AnAddressIsGivenOnceAndWell) {
+TEST(Show, ExactlyOneValidEndpointIsRequired) {
     const Directory directory;
     const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
     for (const char *wrong : {"127.0.0.1:", "127.0.0.1:99999", "::1", "[::1"}) {
@@ -145,14 +145,14 @@ TEST(Asking, AnAddressIsGivenOnceAndWell) {
     EXPECT_EQ(tarn({"show", "cl-debug", "--connect", ":1", "--socket", directory.path("socket")}).exit, 2);
 }
 
-TEST(Asking, NobodyListeningIsAFailureOfTheEnvironment) {
+TEST(Show, ConnectingToNoServerIsAnEnvironmentError) {
     const Directory directory;
     const Outcome outcome = tarn({"show", "cl-debug", "--socket", directory.path("nothing")});
     EXPECT_EQ(outcome.exit, 3);
     EXPECT_NE(outcome.err.find("cannot connect"), std::string::npos) << outcome.err;
 }
 
-TEST(Asking, ASilentProcessCostsTheTimeoutAndNoMore) {
+TEST(Show, ASilentServerEndsTheRequestAtTheTimeout) {
     const Directory directory;
     const Server server({"--fault", "silent", "cl-debug=" + directory.write("debug.xml", debug_xml)});
     ASSERT_TRUE(server.is_ready());
@@ -161,7 +161,7 @@ TEST(Asking, ASilentProcessCostsTheTimeoutAndNoMore) {
     EXPECT_NE(outcome.err.find("ETIMEDOUT"), std::string::npos) << outcome.err;
 }
 
-TEST(Asking, TwoProcessesDoNotShareASocket) {
+TEST(Show, TwoProcessesDoNotShareASocket) {
     const Directory directory;
     const std::string snapshot = directory.write("debug.xml", debug_xml);
     const Server server({"cl-debug=" + snapshot});
@@ -172,7 +172,7 @@ TEST(Asking, TwoProcessesDoNotShareASocket) {
     EXPECT_EQ(server.show("cl-debug").exit, 0);
 }
 
-TEST(Asking, SnapshotsAreCheckedBeforeServingBegins) {
+TEST(Show, FilesAreCheckedBeforeServingStarts) {
     const Directory directory;
     const std::string socket = directory.path("socket");
     const auto start = [&](const std::string &served) { return tarn({"answer", "--socket", socket, served}); };
