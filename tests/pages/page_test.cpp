@@ -47,7 +47,7 @@ const markedBytes = s => [...new Set([...document.querySelectorAll('.dump')[s].q
   .map(i => Number(i.dataset.at)))];
 const byteAt = (s, at) => document.querySelectorAll('.dump')[s].querySelector('i[data-at="' + at + '"]');
 const markedRows = () => [...document.querySelectorAll('.row.marked')].map(r => r.dataset.path);
-const heldRows = () => [...document.querySelectorAll('.row.held')].map(r => r.dataset.path);
+const selectedRows = () => [...document.querySelectorAll('.row.selected')].map(r => r.dataset.path);
 const type = words => {
   document.getElementById('search').value = words;
   document.getElementById('search').dispatchEvent(new Event('input'));
@@ -120,7 +120,7 @@ TEST(View, HoveringHighlightsBytesAndMembers) {
         pointAt(byteAt(0, 88));
         seen.jump = markedRows();
         byteAt(0, 100).click();
-        seen.held = heldRows();
+        seen.selected = selectedRows();
         seen.address = location.hash;
         seen.detail = document.getElementById('detail').textContent;)");
     EXPECT_EQ(seen.at("warn"), bytes(members_at + 8, 4));
@@ -128,7 +128,7 @@ TEST(View, HoveringHighlightsBytesAndMembers) {
     EXPECT_EQ(seen.at("row"), json::array({"payload.info_enabled"}));
     EXPECT_EQ(seen.at("framing"), json::array({"payload"}));
     EXPECT_EQ(seen.at("jump"), json::array({"payload.@jump"}));
-    EXPECT_EQ(seen.at("held"), json::array({"payload.warn_enabled"}));
+    EXPECT_EQ(seen.at("selected"), json::array({"payload.warn_enabled"}));
     EXPECT_EQ(seen.at("address"), "#1:payload.warn_enabled");
     EXPECT_NE(seen.at("detail").get<std::string>().find("switch of warning-level debug output"), std::string::npos);
 }
@@ -144,10 +144,10 @@ TEST(View, SearchFindsNamesAndValuesInFoldedMembers) {
         directory.write("<img src=x onerror=alert(1)>.bin", tool_test::frame(message, payload, true));
     const json seen = seen_in(page_of({name}), R"(
         type('NEEDLE &AMP');
-        seen.value = [found(), heldRows()];
+        seen.value = [found(), selectedRows()];
         type('sig_list');
         press('Enter');
-        seen.name = [found(), heldRows()];
+        seen.name = [found(), selectedRows()];
         type('');
         seen.nothing = found();
         seen.injected = document.querySelectorAll('img, #broken').length;
@@ -175,7 +175,7 @@ TEST(View, ShowsADifference) {
         seen.left = [...document.querySelectorAll('.row')].map(r => r.dataset.path);
         document.getElementById('next').click();
         document.getElementById('next').click();
-        seen.next = [found(), heldRows()];)");
+        seen.next = [found(), selectedRows()];)");
     EXPECT_EQ(seen.at("summary"), "3 frames, 2 differences");
     EXPECT_EQ(seen.at("changed"), json::array({"payload.info_enabled", "payload.warn_enabled"}));
     EXPECT_EQ(seen.at("values"), json::array({"5", "7"}));
@@ -261,7 +261,7 @@ TEST(View, CreatesOnlyTheVisibleRowsOfALongList) {
         unfold([...rows.values()].find(node => node.path === 'payload.lumo_data[0].sig_list'));
         seen.open = document.querySelectorAll('.row').length - seen.rows;
         type('payload.lumo_data[0].sig_list[1234].appl_id');
-        seen.found = [found(), heldRows()];
+        seen.found = [found(), selectedRows()];
         type('appl_');
         seen.many = found();)");
     EXPECT_LT(seen.at("rows"), 200);

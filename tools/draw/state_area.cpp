@@ -23,11 +23,11 @@ std::vector<Box> instance_boxes(const Layout &layout) {
         if (to > at) boxes.push_back({"-", bytes(at) + " to " + bytes(to - 1), "box"});
     };
     for (std::size_t i = 0; i < shown.members.size(); ++i) {
-        const MemberLayout &place = layout.members[i];
-        gap(place.offset);
-        at = place.offset + place.size;
+        const MemberLayout &location = layout.members[i];
+        gap(location.offset);
+        at = location.offset + location.size;
         boxes.push_back({std::string(shown.members[i].name),
-                         place.size == 1 ? bytes(place.offset) : bytes(place.offset) + " to " + bytes(at - 1),
+                         location.size == 1 ? bytes(location.offset) : bytes(location.offset) + " to " + bytes(at - 1),
                          is_tracked(shown.members[i]) ? kinds[i % kinds.size()] : "framing"});
     }
     boxes.push_back({"slop", bytes(at) + " to " + bytes(layout.base_size - 1), "box"});
@@ -54,14 +54,17 @@ void draw_area(Svg &svg, double y, const Layout &layout) {
     };
     for (std::size_t i = 0; i < shown.members.size(); ++i) {
         const Member &m = shown.members[i];
-        const MemberLayout &place = layout.members[i];
+        const MemberLayout &location = layout.members[i];
         if (!is_tracked(m)) continue;
         const char *kind = kinds[i % kinds.size()];
         const std::string name(m.name);
-        run(place.slot, 1, kind, "state of " + name, 1);
-        if (m.kind == Kind::address) run(place.inner, facts(m.kind).own_states, kind, "state of the parts of " + name, 0);
-        if (m.kind == Kind::record) run(place.inner, lay_out(*m.record).state_width, kind, "state of the members of " + name, 0);
-        if (m.kind == Kind::array) run(place.inner, pointer_size, kind, "pointer to a vector with one byte per element", 0);
+        run(location.slot, 1, kind, "state of " + name, 1);
+        if (m.kind == Kind::address)
+            run(location.inner, facts(m.kind).own_states, kind, "state of the parts of " + name, 0);
+        if (m.kind == Kind::record)
+            run(location.inner, lay_out(*m.record).state_width, kind, "state of the members of " + name, 0);
+        if (m.kind == Kind::array)
+            run(location.inner, pointer_size, kind, "pointer to a vector with one byte per element", 0);
     }
 }
 

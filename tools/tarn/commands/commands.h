@@ -1,7 +1,7 @@
 // The subcommands. Each function adds one to the command line. A command that runs to its end leaves its exit code in
 // the context.
 //
-// What each folder of the tool may know (tests/layers holds it to this):
+// What each folder of the tool may know (tests/layers checks it):
 //   support/   files, names, handles, exit codes: no format and no other folder of the tool
 //   formats/   frames, text, XML and JSON of messages: support/
 //   pages/     HTML pages: formats/ and support/

@@ -26,11 +26,11 @@ struct SchemaOptions {
     bool tree = false, dot = false, json = false, html = false;
 };
 
-std::string slot_text(const Member &m, const schema::MemberLayout &place) {
+std::string slot_text(const Member &m, const schema::MemberLayout &location) {
     if (!schema::is_tracked(m)) return "-";
-    const std::string slot = std::to_string(place.slot);
-    if (m.kind == Kind::array) return slot + ", vector at " + std::to_string(place.inner);
-    return schema::has_area(m) ? slot + ", own from " + std::to_string(place.inner) : slot;
+    const std::string slot = std::to_string(location.slot);
+    if (m.kind == Kind::array) return slot + ", vector at " + std::to_string(location.inner);
+    return schema::has_area(m) ? slot + ", own from " + std::to_string(location.inner) : slot;
 }
 
 std::string padded(std::string text, std::size_t width) {
@@ -88,9 +88,9 @@ std::vector<std::vector<std::string>> record_rows(const Record &record) {
     std::vector<std::vector<std::string>> rows{{"member", "kind", "role", "offset", "size", "slot", "wire", "meaning"}};
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
-        const schema::MemberLayout &place = layout.members[i];
-        rows.push_back({std::string(m.name), kind_text(m), role_text(m), std::to_string(place.offset),
-                        std::to_string(place.size), slot_text(m, place), wire_text(m), std::string(m.meaning)});
+        const schema::MemberLayout &location = layout.members[i];
+        rows.push_back({std::string(m.name), kind_text(m), role_text(m), std::to_string(location.offset),
+                        std::to_string(location.size), slot_text(m, location), wire_text(m), std::string(m.meaning)});
     }
     return rows;
 }

@@ -48,7 +48,7 @@ std::string text_of(const Handle &handle, const reflect::MessageOperations &oper
                                     [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
                                         return operations.print(handle.get(), context_id, buffer, object, size, err);
                                     });
-    // The library fills the gaps in front of nested closing lines, and their first byte is the terminator of the
+    // The library leaves gaps before nested closing lines; their first byte is the terminator of the
     // previous line.
     std::replace(text.begin(), text.end(), '\0', ' ');
     return text;

@@ -121,7 +121,7 @@ function showStart(panel) {
 
 function choose(name) {
   chosen = name;
-  nodes.forEach((node, own) => node.classList.toggle('held', own === name));
+  nodes.forEach((node, own) => node.classList.toggle('selected', own === name));
   light(nodes.has(name) ? name : null);
   show(name);
   element('table').scrollTop = 0;

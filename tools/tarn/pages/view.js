@@ -135,7 +135,7 @@ function children(node) {
     if (node.state[s]) put(below('@state'), s, node.state[s].shape, node.state[s].at);
   });
   node.list = [...named.values()];
-  if (isOfOneSide(node)) for (const child of node.list) child.inside = Number(child.differs = !child.structural);
+  if (isOneSided(node)) for (const child of node.list) child.inside = Number(child.differs = !child.structural);
   return node.list;
 }
 
@@ -197,7 +197,7 @@ function isSame(node) {
 // Framing other than state is redundant: a difference in it is also one in the members.
 function compare(node) {
   if (isSame(node)) return;
-  if (isOfOneSide(node)) {
+  if (isOneSided(node)) {
     node.inside = Number(node.differs = !node.structural);
     return;
   }
@@ -207,10 +207,10 @@ function compare(node) {
   node.inside = children(node).reduce((sum, child) => sum + child.inside, Number(node.differs));
 }
 
-const isOfOneSide = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
+const isOneSided = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
 if (two) roots.forEach(compare);
 const isShown = node => (!node.structural || element('framing').checked) &&
-  (!element('changes').checked || node.inside > 0 || isOfOneSide(node.parent));
+  (!element('changes').checked || node.inside > 0 || isOneSided(node.parent));
 
 // ---- rows
 
@@ -257,12 +257,12 @@ function makeRow(node, depth) {
   if (!node.parent) row.classList.add('frame');
   if (node.structural) row.classList.add('framing');
   if (two) {
-    if (isOfOneSide(node)) row.classList.add(isOn(node, 0) ? 'a' : 'b');
+    if (isOneSided(node)) row.classList.add(isOn(node, 0) ? 'a' : 'b');
     else if (node.differs) row.classList.add('changed');
     else if (node.inside) row.classList.add('inside');
   }
   if (hits.has(node)) row.classList.add('hit');
-  if (node === held) row.classList.add('held');
+  if (node === selected) row.classList.add('selected');
   fill(row, node);
   holder.append(row);
   Object.assign(node, {row, holder, depth, below: null, later: null});
@@ -271,8 +271,8 @@ function makeRow(node, depth) {
   return holder;
 }
 
-// Of a long list only the beginning gets rows at once. An empty box as high as the rest's rows stands for each further
-// part of it, until that comes into sight or a row of it is wanted.
+// Only the first part of a long list gets rows at once. Each further part is an empty box of the same height until it
+// becomes visible or one of its rows is needed.
 const atOnce = 200, rowHeight = 22.5;
 const waiting = new Map();
 const sight = new IntersectionObserver(
@@ -363,7 +363,7 @@ function makeDump(side, s) {
   dump.append(spacer, lines);
   section.append(title, dump);
   element('bytes').append(section);
-  Object.assign(side, {dump, lines, marked: [], held: []});
+  Object.assign(side, {dump, lines, marked: [], selected: []});
   dump.addEventListener('scroll', () => drawLines(side, s));
   dump.addEventListener('mouseover', event => pointAtByte(event, s, false));
   dump.addEventListener('click', event => pointAtByte(event, s, true));
@@ -377,8 +377,8 @@ function classOf(s, at) {
   else if (node.structural) words.push('framing');
   else if (node.path.startsWith('header') || kind === 'luid') words.push('head');
   else if (kind === 'var_string' || kind === 'text') words.push('text');
-  if (two && (node.differs || isOfOneSide(node))) words.push('changed');
-  if (contains(side.held, at)) words.push('held');
+  if (two && (node.differs || isOneSided(node))) words.push('changed');
+  if (contains(side.selected, at)) words.push('selected');
   if (contains(side.marked, at)) words.push('marked');
   return words.join(' ');
 }
@@ -418,7 +418,7 @@ function showByte(s, at) {
 
 // ---- marks
 
-let held = null, pointed = null;
+let selected = null, pointed = null;
 
 // The row of the nearest visible ancestor.
 function rowOf(node) {
@@ -457,20 +457,20 @@ function point(node) {
     side.marked = node ? bytesOf(node, s) : [];
     drawLines(side, s);
   });
-  detail(node || held);
+  detail(node || selected);
 }
 
-function hold(node) {
-  rows.forEach(n => n.row.classList.remove('held'));
-  held = node;
+function select(node) {
+  rows.forEach(n => n.row.classList.remove('selected'));
+  selected = node;
   sides.forEach((side, s) => {
-    side.held = node ? bytesOf(node, s) : [];
-    if (side.held.length) showByte(s, side.held[0][0]);
+    side.selected = node ? bytesOf(node, s) : [];
+    if (side.selected.length) showByte(s, side.selected[0][0]);
     drawLines(side, s);
   });
   if (!node) return;
   reveal(node);
-  if (node.row) node.row.classList.add('held');
+  if (node.row) node.row.classList.add('selected');
   detail(node);
   const frame = roots.indexOf(rootOf(node));
   history.replaceState(null, '', '#' + encodeURI(frame + ':' + node.path));
@@ -490,7 +490,7 @@ function pointAtByte(event, s, click) {
   if (!owner) return;
   const node = visibleOwner(owner);
   point(node);
-  if (click) hold(node);
+  if (click) select(node);
   else if (node.row && node.row.offsetParent !== null) node.row.scrollIntoView({block: 'nearest'});
 }
 
@@ -507,7 +507,7 @@ tree.addEventListener('click', event => {
   if (!row) return;
   const node = rows.get(row.dataset.id);
   if (event.target.classList.contains('fold')) (node.open ? fold : unfold)(node);
-  else hold(node);
+  else select(node);
 });
 tree.addEventListener('dblclick', event => {
   const row = event.target.closest('.row');
@@ -519,13 +519,13 @@ tree.addEventListener('dblclick', event => {
 
 tree.addEventListener('keydown', event => {
   const shown = [...tree.querySelectorAll('.row')].filter(r => r.offsetParent !== null);
-  const here = shown.findIndex(r => held && r.dataset.id === String(held.id));
-  const go = index => { if (shown[index]) hold(rows.get(shown[index].dataset.id)); };
+  const here = shown.findIndex(r => selected && r.dataset.id === String(selected.id));
+  const go = index => { if (shown[index]) select(rows.get(shown[index].dataset.id)); };
   if (event.key === 'ArrowDown') go(here + 1);
   else if (event.key === 'ArrowUp') go(Math.max(0, here - 1));
-  else if (event.key === 'ArrowRight' && held) held.open ? go(here + 1) : unfold(held);
-  else if (event.key === 'ArrowLeft' && held && held.open && children(held).length) fold(held);
-  else if (event.key === 'ArrowLeft' && held && held.parent) hold(held.parent);
+  else if (event.key === 'ArrowRight' && selected) selected.open ? go(here + 1) : unfold(selected);
+  else if (event.key === 'ArrowLeft' && selected && selected.open && children(selected).length) fold(selected);
+  else if (event.key === 'ArrowLeft' && selected && selected.parent) select(selected.parent);
   else return;
   event.preventDefault();
 });
@@ -568,7 +568,7 @@ function search() {
         if (wanted) hits.add(node);
       }
     }
-    if (wanted ? mayHave(node, wanted) : node.inside && !isOfOneSide(node)) children(node).forEach(visit);
+    if (wanted ? mayHave(node, wanted) : node.inside && !isOneSided(node)) children(node).forEach(visit);
   };
   if (wanted || two) roots.forEach(visit);
   rows.forEach(n => n.row.classList.toggle('hit', hits.has(n)));
@@ -585,7 +585,7 @@ function step(by) {
   if (!order.length) return;
   current = (current + by + order.length) % order.length;
   if (current < 0) current = order.length - 1;
-  hold(order[current]);
+  select(order[current]);
   showFound();
 }
 
@@ -606,7 +606,7 @@ document.addEventListener('keydown', event => {
 function redraw() {
   drawTree();
   search();
-  if (held) hold(held);
+  if (selected) select(selected);
 }
 element('framing').addEventListener('change', redraw);
 element('changes').addEventListener('change', redraw);
@@ -657,7 +657,7 @@ function follow() {
   for (const root of among) {
     let node = root;
     for (const name of steps(parts[2])) node = node && childOf(node, name);
-    if (node) return hold(node);
+    if (node) return select(node);
   }
 }
 addEventListener('hashchange', follow);
