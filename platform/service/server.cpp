@@ -106,7 +106,7 @@ public:
         if (closed_ || disconnecting_) return ENOTCONN;
         if (size == 0) return 0;
         if (pending_ + size > server_.options.pending_limit) {
-            refuse("it lets too much pile up unread");
+            refuse("it left too many bytes unread");
             return ENOBUFS;
         }
         server_.make_room_for(size);
@@ -220,7 +220,7 @@ private:
                     read();
                     return;
                 case mirk::Inbox::Cut::bad:
-                    refuse("what it sent is no frame");
+                    refuse("it sent bytes that are not a frame");
                     return;
                 case mirk::Inbox::Cut::too_long:
                     refuse("its frame exceeds the limit");
@@ -397,7 +397,7 @@ void mirk_platform_server::make_room_for(size_t size) {
         });
         const auto connection = most->second;
         if (connection->pending() == 0) return;
-        connection->refuse("too much piles up unread, and most of it is for this peer");
+        connection->refuse("all peers left too many bytes unread, and this one left the most");
     }
 }
 

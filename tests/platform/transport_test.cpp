@@ -149,8 +149,8 @@ TEST(Transport, DisconnectsPeersThatSendGarbageAndTracesTheReason) {
     EXPECT_EQ(other.next(), frame(60, 'k'));
     echo.stop();
     ASSERT_GE(echo.reasons.size(), 4u);
-    EXPECT_EQ(echo.reasons[0], "what it sent is no frame");
-    EXPECT_TRUE(trace.has(3, "is disconnected: what it sent is no frame"));
+    EXPECT_EQ(echo.reasons[0], "it sent bytes that are not a frame");
+    EXPECT_TRUE(trace.has(3, "is disconnected: it sent bytes that are not a frame"));
 }
 
 TEST(Transport, LimitsFramesOnBothSides) {
@@ -206,7 +206,7 @@ TEST(Transport, DisconnectsPeersThatDoNotRead) {
     }
     echo.stop();
     ASSERT_EQ(echo.reasons.size(), 1u);
-    EXPECT_EQ(echo.reasons[0], "it lets too much pile up unread");
+    EXPECT_EQ(echo.reasons[0], "it left too many bytes unread");
 }
 
 TEST(Transport, ReportsEachPeerThatExceededALimit) {
@@ -273,7 +273,7 @@ TEST(Transport, DisconnectsThePeerWithTheMostUnreadData) {
     EXPECT_EQ(little.next(), frame(1500000, 'l'));
     echo.stop();
     EXPECT_EQ(echo.refusals,
-              (std::vector<std::string>{"1: too much piles up unread, and most of it is for this peer"}));
+              (std::vector<std::string>{"1: all peers left too many bytes unread, and this one left the most"}));
 }
 
 TEST(Transport, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
@@ -288,7 +288,7 @@ TEST(Transport, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
     client.send(std::string(43, 'x'));
     EXPECT_EQ(client.next(), "ECONNRESET");
     echo.stop();
-    EXPECT_EQ(echo.reasons, (std::vector<std::string>{"what it sent is no frame"}));
+    EXPECT_EQ(echo.reasons, (std::vector<std::string>{"it sent bytes that are not a frame"}));
     options.size = offsetof(mirk_platform_server_options, on_frame);
     mirk_platform_server *server = nullptr;
     EXPECT_EQ(mirk_platform_server_open(echo.path.c_str(), &options, &server), uint32_t{EINVAL});

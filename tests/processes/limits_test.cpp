@@ -90,7 +90,7 @@ TEST_F(Limit, PeersThatSendNoRequestAreReported) {
     const Socket garbage = connect();
     garbage.send(std::string(100, 'x'));
     EXPECT_EQ(garbage.receive(), "");
-    EXPECT_TRUE(server_->process().wait_for_error("tarn: peer 3 disconnected: what it sent is no frame\n"));
+    EXPECT_TRUE(server_->process().wait_for_error("tarn: peer 3 disconnected: it sent bytes that are not a frame\n"));
     expect_disconnected("it sent a frame that is not a request", 2, 1);
 }
 
@@ -140,8 +140,7 @@ TEST_F(Limit, APeerWithTooManyUnreadBytesIsDisconnected) {
     ASSERT_TRUE(limited.is_ready());
     Crowd crowd(limited.server().socket(), limited.answer_size());
     crowd.never_read(1);
-    EXPECT_TRUE(
-        limited.server().process().wait_for_error("tarn: peer 1 disconnected: it lets too much pile up unread"));
+    EXPECT_TRUE(limited.server().process().wait_for_error("tarn: peer 1 disconnected: it left too many bytes unread"));
     EXPECT_EQ(limited.server().show("dp-tt-cfg").exit, 0);
 }
 
@@ -152,7 +151,7 @@ TEST_F(Limit, TheTotalOfUnreadBytesIsLimited) {
     Crowd crowd(limited.server().socket(), limited.answer_size());
     crowd.never_read(4);
     EXPECT_TRUE(limited.server().process().wait_for_error(
-        " disconnected: too much piles up unread, and most of it is for this peer"));
+        " disconnected: all peers left too many bytes unread, and this one left the most"));
     EXPECT_EQ(limited.server().show("dp-tt-cfg").exit, 0);
 }
 

@@ -56,7 +56,7 @@ public:
         const Outcome end = process().stop();
         std::printf("%s", end.out.substr(end.out.find('\n') + 1).c_str());
         for (const char *reason :
-             {"frame exceeds the limit", "too long for one frame", "pile up unread", "peers already"}) {
+             {"frame exceeds the limit", "too long for one frame", "too many bytes unread", "peers already"}) {
             std::printf("%10zu %s\n", occurrences(end.err, reason), reason);
         }
         const bool stable = resident <= level_ + allocator_tolerance_kib;

@@ -53,7 +53,7 @@ TEST(Crowd, AHundredMisbehavingClientsDoNotAffectOthers) {
     const std::string reported = std::to_string(occurrences(end.err, "tarn: peer "));
     EXPECT_NE(end.out.find(" answers, " + reported + " peers disconnected\n"), std::string::npos) << end.out;
     EXPECT_EQ(occurrences(end.err, "its frame exceeds the limit\n"), 20U);
-    EXPECT_EQ(occurrences(end.err, "it lets too much pile up unread\n") +
+    EXPECT_EQ(occurrences(end.err, "it left too many bytes unread\n") +
                   occurrences(end.err, "it took too long to read an answer\n"),
               20U);
 }
