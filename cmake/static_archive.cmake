@@ -1,13 +1,13 @@
-# lumo_ui_tarn_static: the library and the reference runtime in one archive, for programs that need no foreign runtime.
+# lumo_ui_tarn_static: the library and the reference runtime in one archive, for programs that need no other runtime.
 #
-# All of it is compiled as one program, so that the runtime's primitives end up inside the code that calls them, and
-# written as one object of ordinary machine code: whoever links the archive needs neither this compiler nor its flags.
+# Both are compiled as one program, so that calls of the runtime's primitives are inlined. The result is one object of
+# ordinary machine code: linking the archive requires neither this compiler nor its flags.
 find_package(LibXml2 REQUIRED)
 find_package(Threads REQUIRED)
 add_library(tarn_static_library OBJECT EXCLUDE_FROM_ALL ${TARN_FAMILIES} core/manifest.S)
 add_dependencies(tarn_static_library tarn_exports)
 target_include_directories(tarn_static_library PRIVATE ${PROJECT_SOURCE_DIR} ${generated})
-# The object is cut free of what other objects share with it; unique symbols would resist.
+# Hidden symbols of the object become local, which is impossible for unique symbols.
 target_compile_options(tarn_static_library PRIVATE ${TARN_LIBRARY_OPTIONS} $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
 target_link_libraries(tarn_static_library PRIVATE mirk_contract tarn_schema)
 
@@ -18,7 +18,7 @@ target_compile_definitions(tarn_static_runtime PRIVATE ASIO_STANDALONE ASIO_NO_D
 target_compile_options(tarn_static_runtime PRIVATE -fno-strict-aliasing $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 target_link_libraries(tarn_static_runtime PRIVATE mirk_contract LibXml2::LibXml2 Threads::Threads)
 
-# Only g++ writes machine code from here; with other compilers the archive is the same without the inlining.
+# Only g++ can write machine code from here. With other compilers the archive is the same, but without the inlining.
 set(whole_program)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_BUILD_TYPE STREQUAL Release AND NOT TARN_SANITIZE AND NOT TARN_COVERAGE)
   target_compile_definitions(tarn_static_library PRIVATE TARN_RUNTIME_INSIDE)

@@ -1,20 +1,20 @@
-# What an installation holds. Components are what people ask for: programs that run need `library`, people who build
-# programs need `development`, people who look at answers need `tools`, and `documentation` is for all of them.
+# Installation. Component `library` is for running programs, `development` for building programs, `tools` for inspecting
+# answers, `documentation` for all users.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# Packages of Debian find their libraries where the loader looks; everything else finds them from where it lies itself,
-# so that an installation can be moved.
-option(TARN_DEBIAN "install as Debian's packages want it" OFF)
+# In Debian packages the loader finds the libraries on its search path. Otherwise they are found relative to the
+# installed files, so that installations are relocatable.
+option(TARN_DEBIAN "install for Debian packages" OFF)
 
-# The archive takes as long to build as everything else.
+# Optional, because the archive takes as long to build as everything else.
 option(TARN_STATIC "build, test and install the archive as well" OFF)
 
 set(include_dir ${CMAKE_INSTALL_INCLUDEDIR})
 set(library_dir ${CMAKE_INSTALL_LIBDIR})
 set(cmake_dir ${library_dir}/cmake/lumo_ui_tarn)
 
-# ---- before anything is written: is everything built?
+# ---- before anything is written, check that everything is built
 function(require_built component)
   foreach(file IN LISTS ARGN)
     install(CODE "if(NOT EXISTS \"${file}\")\n  string(APPEND not_built \"\\n  ${file}\")\nendif()"
@@ -51,7 +51,7 @@ install(TARGETS lumo_ui_tarn mirklib skald veld mirk_contract EXPORT lumo_ui_tar
 install(TARGETS tarn RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COMPONENT tools)
 
-# ---- what programs are built with
+# ---- files for building programs
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 if(TARN_STATIC)
@@ -75,7 +75,7 @@ foreach(module lumo_ui_tarn mirk_platform ${static_module})
   install(FILES ${CMAKE_BINARY_DIR}/${module}.pc DESTINATION ${library_dir}/pkgconfig COMPONENT development)
 endforeach()
 
-# ---- what the shells ask
+# ---- shell completion
 set(TARN_ZSH_DIR ${CMAKE_INSTALL_DATAROOTDIR}/zsh/site-functions)
 if(TARN_DEBIAN)
   set(TARN_ZSH_DIR ${CMAKE_INSTALL_DATAROOTDIR}/zsh/vendor-completions)
@@ -84,12 +84,12 @@ install(FILES tools/tarn/completion/tarn.bash DESTINATION ${CMAKE_INSTALL_DATARO
         RENAME tarn COMPONENT tools)
 install(FILES tools/tarn/completion/_tarn DESTINATION ${TARN_ZSH_DIR} COMPONENT tools)
 
-# ---- the Python package, if there was a Python to build it with
+# ---- the Python package, if its requirements were found
 if(TARN_PYTHON_FILES)
   install(FILES ${TARN_PYTHON_FILES} DESTINATION lib/python3/dist-packages/lumo_tarn COMPONENT tools)
 endif()
 
-# ---- what people read
+# ---- documents
 install(FILES ${CMAKE_BINARY_DIR}/docs/tarn.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
 install(FILES ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man3
         COMPONENT development)
@@ -99,7 +99,8 @@ if(TARN_REFERENCE)
   install(DIRECTORY ${CMAKE_BINARY_DIR}/docs/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
           COMPONENT documentation)
 endif()
-install(FILES README.md docs/design.md docs/tour.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(FILES README.md CHANGELOG.md docs/design.md docs/tour.md docs/versioning.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        COMPONENT documentation)
 install(DIRECTORY examples docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
 
 if(TARN_DEBIAN)

@@ -1,4 +1,4 @@
-# Debian packages, a component each: cpack -G DEB in a build with TARN_DEBIAN.
+# Debian packages, one for each component: run cpack -G DEB in a build with TARN_DEBIAN.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lumo-ui-tarn)
 set(CPACK_PACKAGE_CONTACT "The lumo_ui_tarn authors <authors@lumo-ui-tarn.invalid>")
@@ -15,7 +15,7 @@ set(CPACK_DEBIAN_PACKAGE_SOURCE lumo-ui-tarn)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(of_this_build "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 
-# What apt shows of a package: its name, its section, a line, and a paragraph.
+# The description of a package: name, section, a line, and a paragraph.
 function(describe component package section line paragraph)
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package} PARENT_SCOPE)
@@ -25,29 +25,28 @@ function(describe component package section line paragraph)
           DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${component})
 endfunction()
 describe(library liblumo-ui-tarn1 libs "records and messages of traffic-aware routing (shared libraries)"
-  "The feature tarn says what it knows in records that travel between processes
-as frames, in messages and bundles. This package holds the library that makes,
-fills, compares, writes and reads them, and the runtime that it stands on.")
+  "The traffic-aware routing feature tarn exchanges records between processes as
+binary frames. This package contains the library that creates, accesses,
+compares, writes and reads these records, and its reference runtime.")
 describe(development liblumo-ui-tarn-dev libdevel "records and messages of traffic-aware routing (development)"
-  "The feature tarn says what it knows in records that travel between processes
-as frames, in messages and bundles. This package holds what programs are built
-with: headers, and files for pkg-config and CMake.")
+  "The traffic-aware routing feature tarn exchanges records between processes as
+binary frames. This package contains headers, a static library, and files for
+pkg-config and CMake.")
 if(TARN_PYTHON_FILES)
   set(python_depends ", python3:any, python3-cffi-backend")
   set(python_text "\nand the Python package lumo_tarn")
-  # dpkg does not know the bytecode that Python adds.
+  # dpkg does not remove the bytecode that Python writes.
   set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/prerm)
 endif()
-describe(tools lumo-ui-tarn-tools utils "show, read, write and take apart answers of the tarn feature"
-  "The tool tarn asks a process for its bundles and prints them, serves bundles
-from files, turns frames into text, XML or JSON and back, shows frames byte by
-byte, compares answers and makes plausible ones. With a dissector for Wireshark${python_text}.")
+describe(tools lumo-ui-tarn-tools utils "request, convert, compare and inspect answers of the tarn feature"
+  "The tool tarn requests bundles from a process and prints them, serves bundles
+from files, converts frames to text, XML or JSON and back, dumps frames byte by
+byte, compares answers and generates random ones. With a dissector for Wireshark${python_text}.")
 describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
-  "The feature tarn says what it knows in records that travel between processes
-as frames, in messages and bundles. This package holds manuals, the reference
-of the library and examples.")
+  "The traffic-aware routing feature tarn exchanges records between processes as
+binary frames. This package contains manuals, the API reference and examples.")
 
-# What a package needs of the system is read from its binaries, what it needs of the others stands here.
+# Dependencies on system libraries are read from the binaries; dependencies between these packages are listed here.
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SHLIBDEPS ON)
 file(WRITE ${CMAKE_BINARY_DIR}/shlibs
      "liblumo_ui_tarn ${PROJECT_VERSION_MAJOR} liblumo-ui-tarn${PROJECT_VERSION_MAJOR} (>= ${PROJECT_VERSION})\n")

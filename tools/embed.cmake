@@ -1,5 +1,5 @@
-# Makes NAME.h of a text file: one constant with the whole text. So what a program prints stands beside it as a file in
-# its own language.
+# Generates NAME.h from a text file: one constant with the whole text. So a long text that a program prints can be a
+# file in its own language.
 function(embed_text target name file)
   set(path ${CMAKE_CURRENT_SOURCE_DIR}/${file})
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/embedded)

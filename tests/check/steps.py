@@ -1,7 +1,7 @@
 """A script that runs steps fails if any of its steps fails.  steps.py SOURCES SCRATCH
 
-Runs copies of ./check and its like with stubs in place of every program that does work. First all stubs succeed, then each
-call of a stub fails in turn. No build is configured beforehand."""
+Runs copies of ./check and similar scripts with stubs instead of all programs that do work. First all stubs succeed; then
+each call of a stub fails in turn. No build is configured at the start."""
 
 import concurrent.futures
 import os
@@ -17,7 +17,7 @@ scripts = "check", "tools/need", "tools/regenerate", ".ci/run"
 programs = ("apt-get cmake clang-format clang-tidy cppcheck cpack ctest doxygen gcovr lintian python3 strip sudo "
             "valgrind").split()
 
-# Each call creates the file of the next free number; set -C makes that atomic.
+# Each call creates a file with the next free number; set -C makes that atomic.
 STUB = r"""#!/bin/sh
 set -C
 n=1
@@ -56,7 +56,7 @@ def prepare():
     write("bin/dpkg-query", QUERY)
     write("bin/id", "#!/bin/sh\necho 1000\n")
     check = (sources / "check").read_text()
-    # Programs that are run by their path begin a line or follow the variables of their environment.
+    # Programs that are run by their path are at the beginning of a line.
     for program in re.findall(r"^ *(?:\./)?((?:bench|build|tests)/[\w/.-]+|demo)\b", check, re.M):
         write(program, STUB)
     for program in re.search(r"library_tests=\((.*?)\)", check, re.S)[1].split():

@@ -1,4 +1,4 @@
-# Installs a build into an empty place and moves it to PREFIX, so that nothing in it may lean on where it was installed.
+# Installs a build into an empty folder and moves it to PREFIX, so that nothing can depend on the original path.
 #   cmake -DBUILD= -DSOURCE= -DSCRATCH= -DPREFIX= -P install.cmake
 cmake_minimum_required(VERSION 3.25)
 set(first ${SCRATCH}/first)
@@ -15,12 +15,12 @@ run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${first})
 file(RENAME ${first} ${PREFIX})
 file(GLOB_RECURSE whole RELATIVE ${PREFIX} ${PREFIX}/*)
 
-# Every file belongs to one component.
+# Every file belongs to exactly one component.
 set(parts "")
 foreach(component library development tools documentation)
-  set(place ${SCRATCH}/components/${component})
-  run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${place} --component ${component})
-  file(GLOB_RECURSE part RELATIVE ${place} ${place}/*)
+  set(folder ${SCRATCH}/components/${component})
+  run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${folder} --component ${component})
+  file(GLOB_RECURSE part RELATIVE ${folder} ${folder}/*)
   if(part STREQUAL "")
     message(FATAL_ERROR "the component ${component} is empty")
   endif()
@@ -29,10 +29,10 @@ endforeach()
 list(SORT whole)
 list(SORT parts)
 if(NOT whole STREQUAL parts)
-  message(FATAL_ERROR "the components hold\n${parts}\nand the whole is\n${whole}")
+  message(FATAL_ERROR "the components contain\n${parts}\nand the whole installation\n${whole}")
 endif()
 
-# Every header of the project is there.
+# Every public header is installed.
 foreach(folder include platform/include)
   file(GLOB_RECURSE headers RELATIVE ${SOURCE}/${folder} ${SOURCE}/${folder}/*)
   foreach(header IN LISTS headers)
@@ -42,8 +42,8 @@ foreach(folder include platform/include)
   endforeach()
 endforeach()
 
-# No text file contains a path into the source or build tree. Binaries do, in their debug information. A bare ${SOURCE}
-# would prove nothing where the clone has a name as short as /src.
+# No text file contains a path of the source or build tree. Binaries may, in their debug information. The search is for
+# paths of files, since the path of the source tree may be as short as /src.
 file(GLOB entries ${SOURCE}/*)
 set(texts ${whole})
 list(FILTER texts EXCLUDE REGEX "^bin/|\\.so|\\.a$")

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Do the Debian packages depend on what they need, and does their removal leave nothing behind?  packages.sh FOLDER
-# Installs them into an empty root of its own; needs fakeroot, and the packages for a static link.
+# Tests that Debian packages have all dependencies and that their removal leaves no files:  packages.sh FOLDER
+# It installs them into an empty root, and requires fakeroot and the packages for a static link.
 set -euo pipefail
 packages=("$1"/*.deb)
 scratch=$(mktemp -d)
@@ -8,7 +8,7 @@ trap 'rm -rf "$scratch"' EXIT
 root=$scratch/root
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers} "$scratch/bin"
 touch "$root/var/lib/dpkg/status"
-# Maintainer scripts run outside of the root, where the cache of the system's libraries is none of their business.
+# Maintainer scripts run outside of the root and must not change the library cache of the system.
 printf '#!/bin/sh\n' >"$scratch/bin/ldconfig"
 chmod +x "$scratch/bin/ldconfig"
 in_root() {
@@ -20,7 +20,7 @@ files() { find "$root" -path "$root/var/lib/dpkg" -prune -o -print | sort; }
 files >"$scratch/before"
 in_root --install "${packages[@]}"
 
-# Libraries of a static link, except those of the compiler, come from dependencies or from direct dependencies of these.
+# Each library of a static link, except those of the compiler, is in a dependency or a direct dependency of one.
 modules=$(dirname "$(find "$root" -name lumo_ui_tarn_static.pc)")
 libraries=$(PKG_CONFIG_PATH=$modules pkg-config --static --libs-only-l lumo_ui_tarn_static)
 names() { tr '|,' '\n\n' | sed 's/[ :(].*//;/^$/d'; }
@@ -36,7 +36,7 @@ for library in $libraries; do
 done
 [ $checked -gt 0 ] || { echo "no libraries of a static link were found"; failed=1; }
 
-# What Python adds when a privileged user runs it.
+# The bytecode that Python writes when a privileged user imports the package.
 python=$root/usr/lib/python3/dist-packages/lumo_tarn
 [ ! -d "$python" ] || python3 -m compileall -q "$python"
 names=()

@@ -1,4 +1,4 @@
-# An installation of a tree that is not built names what is missing and writes nothing.
+# Installing a tree that is not built lists the missing files and writes nothing.
 #   cmake -DSOURCE= -DSCRATCH= -P unbuilt.cmake
 file(REMOVE_RECURSE ${SCRATCH})
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE} -B ${SCRATCH}/build -G Ninja -DBUILD_TESTING=OFF -DTARN_PYTHON=false

@@ -1,4 +1,4 @@
-# Builds and runs a program against an installation, in one of the ways that users have.
+# Builds a program against an installation, in one of the ways that users do it, and runs it.
 #   cmake -DWAY= -DLANGUAGE= -DPROGRAM= -DPREFIX= -DLIBDIR= -DFLAGS= -DC_COMPILER= -DCXX_COMPILER= -DSCRATCH= -DUSER=
 #         -P user_builds.cmake
 file(REMOVE_RECURSE ${SCRATCH})
@@ -37,7 +37,7 @@ else()
 endif()
 run(${binary})
 
-# A program with the archive inside needs none of the libraries; the others do need them.
+# A program with the archive depends on none of the shared libraries; the others do.
 execute_process(COMMAND ldd ${binary} OUTPUT_VARIABLE needed)
 string(FIND "${needed}" ${PREFIX} at)
 if(WAY MATCHES static AND NOT at EQUAL -1 OR NOT WAY MATCHES static AND at EQUAL -1)
