@@ -76,7 +76,7 @@ ERROR = re.compile(r"(?<![\w.#+])(?<!E[A-Z]{3} \()(?<!E[A-Z]{4} \()(?<!E[A-Z]{5}
                    r"(?<!below )(?<!above )(?<!least )(?<!most )(?<!than )(?<!= )(?<!bytes: )(?<!Returns )"
                    r"(?:(?:12|17|22|28|38|43|52|74|84|90|98|99|104|105|107|110|111)(?![\w-])(?!\.\d)"
                    r"(?! (?:bytes?|bits?|characters?|digits?|records?|messages?|bundles?|KiB|MiB|GiB|seconds)\b)"
-                   r"|2(?=:| (?:if|for|absent|when)\b))")
+                   r"|2(?=:| (?:if|absent|when|for (?:an?|no|null))\b))")
 
 
 def comments(text):
