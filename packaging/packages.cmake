@@ -41,7 +41,8 @@ endif()
 describe(tools lumo-ui-tarn-tools utils "request, convert, compare and inspect answers of the tarn feature"
   "The tool tarn requests bundles from a process and prints them, serves bundles
 from files, converts frames to text, XML or JSON and back, dumps frames byte by
-byte, compares answers and generates random ones. With a dissector for Wireshark${python_text}.")
+byte, compares answers and generates random ones. This package also contains a
+dissector for Wireshark${python_text}.")
 describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
   "The traffic-aware routing feature tarn exchanges records between processes as
 binary frames. This package contains manuals, the API reference and examples.")
