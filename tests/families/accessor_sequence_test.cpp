@@ -11,30 +11,30 @@ using AccessorSequence = Sequence;
 
 std::string kind_word(const MemberOperations &m) { return is_value_kind(m) ? "1" : "0"; }
 std::string variant_line(const MemberOperations &m) { return "mirk_get_instance_variant object 1 " + kind_word(m); }
-std::string place_text(const RecordOperations &r, const MemberOperations &m) { return plus("object", offset(r, m)); }
+std::string member_text(const RecordOperations &r, const MemberOperations &m) { return plus("object", offset(r, m)); }
 std::string state_text(const RecordOperations &r, const MemberOperations &m) {
-    return plus("object", table(r).base + place(r, m).slot);
+    return plus("object", table(r).base + member_layout(r, m).slot);
 }
 std::string modified_line(const MemberOperations &m) {
     return "mirk_set_instance_modified object 1 " + kind_word(m) + " 1";
 }
 std::string adjust_line(const RecordOperations &r) { return "mirklib_adjust_variant object " + name(r) + " 0"; }
 
-// How the pointer to a member is found: nested records and enumerations need no call.
+// The calls that find the pointer to a member: nested records and enumerations need none.
 Lines pointer_lines(const RecordOperations &r, const MemberOperations &m) {
     if (m.member->kind == Kind::record || m.member->kind == Kind::enumeration) return {};
-    return {type_name(m) + "_get " + place_text(r, m)};
+    return {type_name(m) + "_get " + member_text(r, m)};
 }
 Lines value_lines(const RecordOperations &r, const MemberOperations &m) {
     if (m.member->kind == Kind::enumeration) return {"mirk_clear_last_error"};
-    return {type_name(m) + "_get_value " + place_text(r, m)};
+    return {type_name(m) + "_get_value " + member_text(r, m)};
 }
 Lines store_value_lines(const RecordOperations &r, const MemberOperations &m) {
-    if (m.member->kind != Kind::enumeration) return {type_name(m) + "_set_value " + place_text(r, m) + " 1"};
-    return {"mirk_clear_last_error", "mirklib_adjust_variant " + place_text(r, m) + " " + type_name(m) + " 0",
-            "mirk_get_instance_variant " + place_text(r, m) + " 0 1",
+    if (m.member->kind != Kind::enumeration) return {type_name(m) + "_set_value " + member_text(r, m) + " 1"};
+    return {"mirk_clear_last_error", "mirklib_adjust_variant " + member_text(r, m) + " " + type_name(m) + " 0",
+            "mirk_get_instance_variant " + member_text(r, m) + " 0 1",
             "write_notify " + plus("object", offset(r, m) + 12) + " 4",
-            "mirk_set_instance_modified " + place_text(r, m) + " 0 1 1"};
+            "mirk_set_instance_modified " + member_text(r, m) + " 0 1 1"};
 }
 Lines mark_lines(const RecordOperations &r, const MemberOperations &m, bool on) {
     Lines lines;
@@ -47,7 +47,7 @@ TEST_F(AccessorSequence, ReadsClearTheErrorAndCheckTheVariant) {
     Handle h({Tracking::on});
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.get == nullptr) return;
-        forget();
+        reset();
         void *object = make_object(h, r);
         Lines expected{"mirk_clear_last_error", variant_line(m)};
         append(expected, pointer_lines(r, m));
@@ -63,7 +63,7 @@ TEST_F(AccessorSequence, SetValueChecksTheVariantTwiceBeforeItStores) {
         Handle h({tracking});
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set_value == nullptr) return;
-            forget();
+            reset();
             void *object = make_object(h, r);
             Lines expected{"mirk_clear_last_error", adjust_line(r), variant_line(m), variant_line(m)};
             append(expected, pointer_lines(r, m));
@@ -80,17 +80,17 @@ TEST_F(AccessorSequence, SetStoresBeforeItMarks) {
         Handle h({tracking});
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.set == nullptr || m.member->kind == Kind::record) return;
-            forget();
+            reset();
             void *source = make_object(h, r, "source"), *object = make_object(h, r);
             Lines expected{"mirk_clear_last_error", adjust_line(r), variant_line(m)};
             if (m.member->kind == Kind::enumeration) {
                 append(expected, {"mirk_clear_last_error",
-                                  "mirklib_adjust_variant " + place_text(r, m) + " " + type_name(m) + " 0",
-                                  "mirk_get_instance_variant " + place_text(r, m) + " 0 1",
-                                  "write_notify " + place_text(r, m) + " 16",
-                                  "mirk_set_instance_modified " + place_text(r, m) + " 0 1 1"});
+                                  "mirklib_adjust_variant " + member_text(r, m) + " " + type_name(m) + " 0",
+                                  "mirk_get_instance_variant " + member_text(r, m) + " 0 1",
+                                  "write_notify " + member_text(r, m) + " 16",
+                                  "mirk_set_instance_modified " + member_text(r, m) + " 0 1 1"});
             } else {
-                expected.push_back(type_name(m) + "_set " + place_text(r, m) + " " + plus("source", offset(r, m)));
+                expected.push_back(type_name(m) + "_set " + member_text(r, m) + " " + plus("source", offset(r, m)));
             }
             append(expected, mark_lines(r, m, tracking == Tracking::on));
             EXPECT_EQ(lines_of([&] { m.set(h, id, object, at(r, source, m), &err); }), expected);
@@ -103,13 +103,13 @@ TEST_F(AccessorSequence, StateBytesAreFoundAtTheRecordedOffset) {
     Handle h({Tracking::on});
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.state_flag_get == nullptr) return;
-        forget();
+        reset();
         void *object = make_object(h, r);
         EXPECT_EQ(lines_of([&] { m.state_flag_get(h, id, object, &err); }), Lines{});
         EXPECT_EQ(
             lines_of([&] { m.state_flag_set(h, id, object, 9, &err); }),
             (Lines{adjust_line(r), variant_line(m), "write_notify " + state_text(r, m) + " 1", modified_line(m)}));
-        // With a place of its own, the area is asked for each time.
+        // With a recorded offset, it is looked up each time.
         h.set_state_offset(object, table(r).base);
         EXPECT_EQ(lines_of([&] { EXPECT_EQ(m.state_flag_get(h, id, object, &err), 9); }),
                   (Lines{"mirklib_get_sttr_offset object"}));
@@ -119,7 +119,7 @@ TEST_F(AccessorSequence, StateBytesAreFoundAtTheRecordedOffset) {
     });
 }
 
-// Only the flag of a place of its own has the runtime asked where an object's states are.
+// The runtime is only asked for an offset if the object's flag says that it has one.
 TEST_F(AccessorSequence, AMappedObjectWithoutAnOffsetIsNotLookedUp) {
     Handle h({Tracking::on});
     const RecordOperations &r = record("lumo_tarn_dp_appl_list");
@@ -138,7 +138,7 @@ TEST_F(AccessorSequence, RefusalsTraceAndStoreTheError) {
     const MemberOperations &m = r.members[0];
     void *object = make_object(h, r);
     header(object)->obj_flag = 0;
-    // Setters store first, then report; state operations trace ahead of the error or behind it, reads saying "non".
+    // Setters store first, then report. State operations trace before the error or after it, and reads say "non".
     EXPECT_EQ(lines_of([&] { m.set_value(h, id, object, 1, &err); }),
               (Lines{"mirk_clear_last_error", adjust_line(r), variant_line(m), variant_line(m), "u_int32_get object+12",
                      "u_int32_set_value object+12 1", "mirk_store_err 22",
@@ -164,7 +164,7 @@ TEST_F(AccessorSequence, RefusalsTraceAndStoreTheError) {
 TEST_F(AccessorSequence, GetAllAndSetAllAccessEachMemberInTableOrder) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
         std::uint64_t numbers[64];
         void *out[64];
@@ -191,7 +191,7 @@ TEST_F(AccessorSequence, GetAllAndSetAllAccessEachMemberInTableOrder) {
 TEST_F(AccessorSequence, FillGetAndAdjustMakeNoNotification) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
         EXPECT_EQ(lines_of([&] { r.set_all_state_tracking_flag(h, id, object, 0); }), Lines{});
         EXPECT_EQ(lines_of([&] { r.get(h, id, object, &err); }), Lines{});

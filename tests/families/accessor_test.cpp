@@ -1,4 +1,4 @@
-// Access to single members of every record: values, state bytes, and what refuses it.
+// Access to single members of every record: values, state bytes, and refusals.
 #include <cerrno>
 
 #include "values.h"
@@ -15,16 +15,16 @@ std::uint64_t mask(const MemberOperations &m) {
 }
 std::uint64_t sample(const MemberOperations &m) { return is_value_kind(m) ? 1 : 0xFEDCBA9876543210U & mask(m); }
 std::uint64_t stored(const RecordOperations &r, void *object, const MemberOperations &m) {
-    const std::uint8_t *place = bytes(at(r, object, m));
-    if (m.member->kind == Kind::boolean) return place[11];
-    if (m.member->kind == Kind::enumeration) return read<std::uint32_t>(place + 12);
+    const std::uint8_t *field = bytes(at(r, object, m));
+    if (m.member->kind == Kind::boolean) return field[11];
+    if (m.member->kind == Kind::enumeration) return read<std::uint32_t>(field + 12);
     std::uint64_t value = 0;
-    std::memcpy(&value, place, width(m));
+    std::memcpy(&value, field, width(m));
     return value;
 }
 bool has_state_byte(const MemberOperations &m) { return m.member->role == Role::value; }
 std::uint8_t *state(const RecordOperations &r, void *object, const MemberOperations &m) {
-    return area(r, object) + place(r, m).slot;
+    return area(r, object) + member_layout(r, m).slot;
 }
 bool modified(void *object) { return mirk_get_instance_modified(object, 1, 0) != 0; }
 void unmark(void *object) { mirk_set_instance_modified(object, 1, 0, 0); }
@@ -56,9 +56,9 @@ TEST(Accessors, ASetValueIsReadBackAndChangesNoOtherMember) {
             EXPECT_EQ(m.get_value(h, id, object, &err), sample(m));
             EXPECT_EQ(stored(r, object, m), sample(m));
             EXPECT_TRUE(modified(object));
-            // Nothing beside the member has changed, apart from the modified mark.
+            // Nothing but the member has changed, except for the modified mark.
             unmark(object);
-            const std::uint32_t start = offset(r, m), end = start + place(r, m).size;
+            const std::uint32_t start = offset(r, m), end = start + member_layout(r, m).size;
             EXPECT_EQ(std::memcmp(object, before.data(), start), 0);
             EXPECT_EQ(std::memcmp(bytes(object) + end, before.data() + end, before.size() - end), 0);
             r.destroy(h, id, object);
@@ -104,7 +104,7 @@ TEST(Accessors, ASetterWritesState2ToItsOwnByteOnly) {
         m.set_value(h, id, object, sample(m), &err);
         EXPECT_EQ(err, 0u);
         for (std::uint32_t slot = 0; slot < table(r).state; ++slot) {
-            EXPECT_EQ(area(r, object)[slot], slot == place(r, m).slot ? 2 : 0) << slot;
+            EXPECT_EQ(area(r, object)[slot], slot == member_layout(r, m).slot ? 2 : 0) << slot;
         }
         r.destroy(h, id, object);
     });
@@ -122,11 +122,11 @@ TEST(Accessors, EachStateByteIsStoredInItsSlot) {
         m.state_flag_set(h, id, object, 0xC7, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
-        header(object)->obj_flag |= mapped;  // has to do with references alone
+        header(object)->obj_flag |= mapped;  // only concerns references
         EXPECT_EQ(m.state_flag_get(h, id, object, &err), 0xC7);
         header(object)->obj_flag &= static_cast<std::uint8_t>(~mapped);
         for (std::uint32_t slot = 0; slot < table(r).state; ++slot) {
-            EXPECT_EQ(area(r, object)[slot], slot == place(r, m).slot ? 0xC7 : 0) << slot;
+            EXPECT_EQ(area(r, object)[slot], slot == member_layout(r, m).slot ? 0xC7 : 0) << slot;
         }
         EXPECT_TRUE(modified(object));
         r.destroy(h, id, object);
@@ -249,7 +249,7 @@ TEST(Accessors, ANegativeVariantFailsForEveryMember) {
             refused([&](std::uint32_t *e) { m.element_state_flag_set(h, id, object, 0, 1, e); });
             refused([&](std::uint32_t *e) { m.element_state_flag_set_arr(h, id, object, nullptr, 0, e); });
         }
-        // Reading state asks for no variant.
+        // Reading state does not check the variant.
         for (const MemberOperations &m : r.members) {
             std::uint32_t err = 0;
             if (m.state_flag_get != nullptr) m.state_flag_get(h, id, object, &err);
@@ -268,7 +268,7 @@ TEST(Accessors, AWriteFirstAdjustsTheObjectToTheDomainsVariant) {
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.set_value == nullptr) return;
         void *object = r.create(h, id);
-        header(object)->variant = -5;  // from a frame, say
+        header(object)->variant = -5;  // for example from a frame
         std::uint32_t err = 0;
         m.set_value(h, id, object, sample(m), &err);
         EXPECT_EQ(err, 0u);
@@ -327,7 +327,7 @@ TEST(Accessors, ANullObjectHasNoMembersAndNoState) {
             EXPECT_EQ(trace.lines(), mode == Tracking::off ? Lines{}
                                                            : (Lines{"type 3 (ERR): The object is non state tracked",
                                                                     "type 3 (ERR): The object is not state tracked"}));
-            // Setting anything on null is refused without harm.
+            // Setting a member of null is refused without harm.
             err = 0;
             if (m.set != nullptr) m.set(h, id, nullptr, nullptr, &err);
             if (m.text_set != nullptr) m.text_set(h, id, nullptr, "a", 1, &err);
@@ -344,7 +344,7 @@ TEST(Accessors, ARefusedEnumerationValueStillCountsAsWritten) {
         if (m.member->kind != Kind::enumeration) return;
         void *object = r.create(h, id);
         std::uint32_t err = 0;
-        m.set_value(h, id, object, 4711, &err);  // no enumerator
+        m.set_value(h, id, object, 4711, &err);  // not an enumerator
         EXPECT_EQ(err, static_cast<std::uint32_t>(EIDRM));
         EXPECT_EQ(*state(r, object, m), 2);
         EXPECT_TRUE(modified(object));

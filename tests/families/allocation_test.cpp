@@ -1,4 +1,4 @@
-// Every allocation fails in turn, once and for good: nothing breaks, and everything can be given back.
+// Each allocation fails in turn, once and for good: nothing breaks, and everything can be released.
 #include <cerrno>
 
 #include "values.h"
@@ -7,7 +7,7 @@ using namespace families;
 
 namespace {
 
-// Makes, fills and destroys under failing allocations until a run meets no failure any more.
+// Creates, fills and destroys with failing allocations until a run meets no failure.
 void sweep(const Handle &h, const std::function<void()> &run) {
     for (bool onwards : {false, true}) {
         for (std::uint64_t nth = 1;; ++nth) {

@@ -1,4 +1,4 @@
-// Arrays at their limits: counts that wrap, growth without memory, counts and blocks that do not go together.
+// Arrays at their limits: counts that wrap, failed growth, counts and blocks that do not match.
 #include <cerrno>
 
 #include "arrays.h"
@@ -26,7 +26,7 @@ TEST(Arrays, AOneByteCountWraps) {
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(count(h, s, object), 2u);
             EXPECT_NE(s.m.element_get(h, id, object, 1, &err), nullptr);
-            // Setting the next one grows again, and moves the two that count.
+            // Setting the next one grows the array again, and moves the two that are counted.
             s.m.element_set(h, id, object, 2, value, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(count(h, s, object), 3u);

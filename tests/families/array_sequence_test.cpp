@@ -20,7 +20,7 @@ protected:
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.element_set == nullptr) return;
             Handle h({tracking});
-            forget();
+            reset();
             err = 0;
             value = make_object(h, nested_record(m), "value");
             object = make_object(h, r);
@@ -31,35 +31,35 @@ protected:
         return {"mirk_clear_last_error", "mirklib_adjust_variant object " + name(s.r) + " 0",
                 "mirk_get_instance_variant object 1 0"};
     }
-    static std::string block_place(const Subject &s) { return plus("object", offset(s.r, s.m)); }
-    static std::string announce_count(const Subject &s) {
+    static std::string block_text(const Subject &s) { return plus("object", offset(s.r, s.m)); }
+    static std::string count_notification(const Subject &s) {
         const MemberOperations &counter = s.r.members[index_of(s.r, s.m) - 1];
         return "write_notify " + plus("object", offset(s.r, counter)) + " " + std::to_string(width(counter));
     }
-    static std::string state_place(const Subject &s, std::uint32_t slot) {
+    static std::string state_text(const Subject &s, std::uint32_t slot) {
         return plus("object", table(s.r).base + slot);
     }
-    static Spot element(const Subject &s, const std::string &region, std::uint32_t n, std::uint32_t k) {
+    static Location element(const Subject &s, const std::string &region, std::uint32_t n, std::uint32_t k) {
         return {region, k * table(s.e).base, n * table(s.e).base + k * table(s.e).state};
     }
-    static std::string update(const Spot &spot) {
+    static std::string update(const Location &spot) {
         return "mirklib_update_sttr_offset " + spot.text() + " " + std::to_string(spot.area - spot.at);
     }
     static Lines fresh(const Subject &s, const std::string &region, std::uint32_t n, std::uint32_t from, bool on) {
         Lines lines;
         for (std::uint32_t k = from; on && k < n; ++k) lines.push_back(update(element(s, region, n, k)));
         for (std::uint32_t k = from; k < n; ++k) {
-            Making making;
-            making.on = on;
-            making.is_nested = true;
-            making.has_entry = on;
-            // Without tracking the area is where it would be, which for the last element is behind the block.
-            making.base = element(s, region, n, k).state(0);
-            append(lines, initialize_lines(s.e, element(s, region, n, k), making));
+            Creation creation;
+            creation.on = on;
+            creation.is_nested = true;
+            creation.has_entry = on;
+            // Without tracking the area is where it would be, which for the last element is past the block.
+            creation.base = element(s, region, n, k).state(0);
+            append(lines, initialize_lines(s.e, element(s, region, n, k), creation));
         }
         return lines;
     }
-    // Names of bases behind an untracked block do not matter: nothing is there.
+    // Addresses past an untracked block do not matter, since nothing is stored there.
     static Lines without_bases(Lines lines) {
         for (std::string &line : lines) {
             if (line.find("_initialize ") != line.npos) line.resize(line.rfind(' '));
@@ -71,11 +71,11 @@ protected:
         std::erase_if(lines, [](const std::string &line) { return line.starts_with("skald_wrapper"); });
         return lines;
     }
-    // What assignment and clean-up call is told elsewhere; here it matters where they stand.
-    Lines assignment(const Subject &s, const Handle &h, const Spot &to) const {
+    // The calls of assignment and clean-up are tested elsewhere; this checks where they happen.
+    Lines assignment(const Subject &s, const Handle &h, const Location &to) const {
         return set_lines(s.e, {to, top_level(s.e, "value")}, {h->sttr_desc != nullptr, h->sttr_desc != nullptr, false});
     }
-    static Lines cleaned_up(const Subject &s, const Handle &h, const Spot &to, const Spot &from) {
+    static Lines cleaned_up(const Subject &s, const Handle &h, const Location &to, const Location &from) {
         return cleanup_lines(s.e, {to, from}, h->sttr_desc != nullptr);
     }
 
@@ -88,7 +88,7 @@ TEST_F(ArraySequence, TheFirstSetAllocatesAndInitializesWithoutTracking) {
         each(tracking, [&](const Handle &h, const Subject &s) {
             Lines expected = begin(s);
             append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).base),
-                              "write_notify " + block_place(s) + " 8", announce_count(s)});
+                              "write_notify " + block_text(s) + " 8", count_notification(s)});
             append(expected, fresh(s, "block3", 3, 0, false));
             EXPECT_EQ(without_bases(lines_of([&] { s.m.element_set(h, id, object, 2, nullptr, &err); })),
                       without_bases(expected));
@@ -100,12 +100,13 @@ TEST_F(ArraySequence, TheFirstSetAllocatesAndInitializesWithoutTracking) {
 TEST_F(ArraySequence, TheFirstSetAllocatesStatesAfterTheElementsWithTracking) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         Lines expected = begin(s);
-        append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).tracked),
-                          "write_notify " + block_place(s) + " 8", announce_count(s)});
+        append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).tracked), "write_notify " + block_text(s) + " 8",
+                          count_notification(s)});
         append(expected, fresh(s, "block3", 3, 0, true));
-        append(expected, {"write_notify " + state_place(s, place(s.r, s.m).area) + " 8", "obj_alloc 3"});
+        append(expected, {"write_notify " + state_text(s, member_layout(s.r, s.m).area) + " 8", "obj_alloc 3"});
         append(expected, assignment(s, h, element(s, "block3", 3, 2)));
-        append(expected, {"write_notify " + state_place(s, place(s.r, s.m).slot) + " 1", "write_notify block4+2 1"});
+        append(expected,
+               {"write_notify " + state_text(s, member_layout(s.r, s.m).slot) + " 1", "write_notify block4+2 1"});
         EXPECT_EQ(lines_of([&] { s.m.element_set(h, id, object, 2, value, &err); }), expected);
         EXPECT_EQ(err, 0u);
     });
@@ -117,11 +118,11 @@ TEST_F(ArraySequence, GrowthCleansUpEachOldElementWithoutTracking) {
         s.m.element_set(h, id, object, 0, value, &err);
         const Lines lines = without_traces(lines_of([&] { s.m.element_set(h, id, object, 2, nullptr, &err); }));
         Lines expected = begin(s);
-        append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).base), "write_notify " + block_place(s) + " 8"});
+        append(expected, {"obj_alloc " + std::to_string(3 * table(s.e).base), "write_notify " + block_text(s) + " 8"});
         for (std::uint32_t k = 0; k < 2; ++k) {
             append(expected, cleaned_up(s, h, element(s, "block4", 3, k), element(s, "block3", 2, k)));
         }
-        append(expected, {"obj_free block3", announce_count(s)});
+        append(expected, {"obj_free block3", count_notification(s)});
         append(expected, fresh(s, "block4", 3, 2, false));
         EXPECT_EQ(without_bases(lines), without_bases(expected));
         EXPECT_EQ(err, 0u);
@@ -134,28 +135,29 @@ TEST_F(ArraySequence, GrowthMovesOffsetsBeforeItCleansUpWithTracking) {
         const Lines lines = without_traces(lines_of([&] { s.m.element_set(h, id, object, 2, value, &err); }));
         Lines expected = begin(s);
         append(expected,
-               {"obj_alloc " + std::to_string(3 * table(s.e).tracked), "write_notify " + block_place(s) + " 8"});
+               {"obj_alloc " + std::to_string(3 * table(s.e).tracked), "write_notify " + block_text(s) + " 8"});
         // Old areas are found by each element's own offset.
         for (std::uint32_t k = 0; k < 2; ++k) {
             expected.push_back("mirklib_get_sttr_offset " + element(s, "block3", 2, k).text());
         }
         for (std::uint32_t k = 0; k < 2; ++k) {
-            const Spot moved = element(s, "block5", 3, k);
+            const Location moved = element(s, "block5", 3, k);
             expected.push_back(update(moved));
             append(expected, offset_update_lines(s.e, moved));
         }
         for (std::uint32_t k = 0; k < 2; ++k) {
-            const Spot old = element(s, "block3", 2, k);
+            const Location old = element(s, "block3", 2, k);
             append(expected, cleaned_up(s, h, element(s, "block5", 3, k), old));
             expected.push_back("mirk_hd_mapping_destroy " + old.text());
             append(expected, offset_remove_lines(s.e, old));
         }
-        append(expected, {"obj_free block3", announce_count(s)});
+        append(expected, {"obj_free block3", count_notification(s)});
         append(expected, fresh(s, "block5", 3, 2, true));
-        append(expected,
-               {"write_notify " + state_place(s, place(s.r, s.m).area) + " 8", "obj_alloc 3", "obj_free block4"});
+        append(expected, {"write_notify " + state_text(s, member_layout(s.r, s.m).area) + " 8", "obj_alloc 3",
+                          "obj_free block4"});
         append(expected, assignment(s, h, element(s, "block5", 3, 2)));
-        append(expected, {"write_notify " + state_place(s, place(s.r, s.m).slot) + " 1", "write_notify block6+2 1"});
+        append(expected,
+               {"write_notify " + state_text(s, member_layout(s.r, s.m).slot) + " 1", "write_notify block6+2 1"});
         EXPECT_EQ(lines, expected);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(read<void *>(at(s.r, object, s.m)) != nullptr, true);
@@ -174,7 +176,7 @@ TEST_F(ArraySequence, AFailedAllocationStopsAtOnce) {
         handle.fail_obj_alloc(2);
         const Lines lines = lines_of([&] { s.m.element_set(h, id, object, 0, value, &err); });
         ASSERT_GT(lines.size(), 3u);
-        EXPECT_EQ(lines[lines.size() - 3], "write_notify " + state_place(s, place(s.r, s.m).area) + " 8");
+        EXPECT_EQ(lines[lines.size() - 3], "write_notify " + state_text(s, member_layout(s.r, s.m).area) + " 8");
         EXPECT_EQ(lines[lines.size() - 2], "obj_alloc 1");
         EXPECT_EQ(lines[lines.size() - 1], "mirk_store_err 12");
     });
@@ -183,7 +185,8 @@ TEST_F(ArraySequence, AFailedAllocationStopsAtOnce) {
 TEST_F(ArraySequence, ElementAccessNotifiesBeforeEachStateWrite) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
-        recording::name_region("vector", read<void *>(bytes(object) + table(s.r).base + place(s.r, s.m).area), 2);
+        recording::name_region("vector", read<void *>(bytes(object) + table(s.r).base + member_layout(s.r, s.m).area),
+                               2);
         const Lines read_begin{"mirk_clear_last_error", "mirk_get_instance_variant object 1 0"};
         const std::string adjusted = "mirklib_adjust_variant object " + name(s.r) + " 0";
         const std::string variant = "mirk_get_instance_variant object 1 0";
@@ -225,7 +228,7 @@ TEST_F(ArraySequence, AFailedDeepCopyKeepsTheElementsOffset) {
     });
 }
 
-// Where objects are not mapped nothing is dropped, so nothing is asked for and recorded anew.
+// Without object mapping no offset is removed, so none is looked up or recorded again.
 TEST_F(ArraySequence, AFailedDeepCopyLooksUpNoOffsetWithoutMapping) {
     each(Tracking::on, [&](const Handle &h, const Subject &s) {
         s.m.element_set(h, id, object, 1, value, &err);
@@ -245,9 +248,9 @@ TEST_F(ArraySequence, AFailedDeepCopyLooksUpNoOffsetWithoutMapping) {
             };
             return std::pair{count("mirklib_get_sttr_offset"), count("mirklib_update_sttr_offset")};
         };
-        const auto [questions, updates] = failed_copy(0);
-        const auto [questions_with_mapping, updates_with_mapping] = failed_copy(1);
-        EXPECT_EQ(questions + 1, questions_with_mapping);
+        const auto [look_ups, updates] = failed_copy(0);
+        const auto [look_ups_with_mapping, updates_with_mapping] = failed_copy(1);
+        EXPECT_EQ(look_ups + 1, look_ups_with_mapping);
         EXPECT_EQ(updates, 0);
         EXPECT_GT(updates_with_mapping, 0);
         mirk_clear_last_error(h);

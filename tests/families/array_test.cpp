@@ -7,7 +7,7 @@ using namespace families;
 
 namespace {
 
-// In a process of its own, since the report is made once in the life of one.
+// In a process of its own, since the line is traced once per process.
 [[noreturn]] void grow_every_array_and_exit() {
     Handle h;
     bool good = true;
@@ -82,7 +82,7 @@ TEST(Arrays, SettingAnIndexPastTheEndInitializesTheGap) {
                 EXPECT_EQ(element, block + i * table(s.e).base);
                 EXPECT_EQ(content(h, s.e, element), i < 5 ? empty : value_of(h, s, 7));
                 EXPECT_EQ(header(element)->tinfo, s.e.type);
-                // Assignment copies the flags of the value, which stood for itself.
+                // Assignment copies the flags of the value, which was an object of its own.
                 EXPECT_EQ(header(element)->obj_flag & nested, i < 5 ? nested : 0);
             }
             EXPECT_EQ(s.m.element_get(h, id, object, 6, &err), nullptr);

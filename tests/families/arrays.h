@@ -1,4 +1,4 @@
-// What tests of arrays share: each array with its owner, its count and its elements.
+// Shared by tests of arrays: each array with its owner, its count and its elements.
 #pragma once
 
 #include "values.h"
@@ -27,7 +27,7 @@ inline std::uint64_t count(mirk_handle *h, const ArraySubject &s, void *object) 
     return s.count.get_value(h, id, object, &err);
 }
 
-// Puts a filled value at the index and lets go of the shell that is left of it.
+// Moves a filled value to the index and destroys the remaining shell.
 inline void put(mirk_handle *h, const ArraySubject &s, void *object, std::uint32_t index, std::uint32_t seed) {
     void *value = filled(h, s.e, seed, {1, 2, false});
     std::uint32_t err = 0;

@@ -1,4 +1,4 @@
-// The calls of whole-record assignment and of the clean-up behind a move.
+// The calls of whole-record assignment, and of the clean-up after a move.
 #include <cerrno>
 
 #include "recorded.h"
@@ -13,7 +13,7 @@ TEST_F(AssignmentSequence, EveryRecordNotifiesCopiesAndReleases) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
-            forget();
+            reset();
             void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
             const Pair pair{top_level(r, "to"), top_level(r, "from")};
             EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), set_lines(r, pair, {tracking == Tracking::on}));
@@ -25,7 +25,7 @@ TEST_F(AssignmentSequence, EveryRecordNotifiesCopiesAndReleases) {
 TEST_F(AssignmentSequence, RecordedOffsetsAreLookedUpOnBothSides) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
         h.set_state_offset(from, table(r).base);
         h.set_state_offset(to, table(r).base);
@@ -37,7 +37,7 @@ TEST_F(AssignmentSequence, RecordedOffsetsAreLookedUpOnBothSides) {
 TEST_F(AssignmentSequence, NullFailsAndTheObjectItselfIsOnlyAdjusted) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
         const std::string adjusted = "mirklib_adjust_variant object " + name(r) + " 0";
         EXPECT_EQ(lines_of([&] { r.set(h, id, object, object, &err); }), (Lines{adjusted}));
@@ -47,12 +47,12 @@ TEST_F(AssignmentSequence, NullFailsAndTheObjectItselfIsOnlyAdjusted) {
     });
 }
 
-// What is in nested records is given up as well, since the raw copy has reached it.
-Lines give_up_everything(const RecordOperations &r, const Spot &from) {
+// Blocks in nested records are released as well, since the raw copy has copied their pointers.
+Lines clear_all_blocks_lines(const RecordOperations &r, const Location &from) {
     Lines lines;
     for (const MemberOperations &m : r.members) {
-        if (m.member->kind == Kind::record) append(lines, give_up_everything(nested_record(m), from.member(r, m)));
-        if (owns_block(m)) append(lines, give_up(r, m, from));
+        if (m.member->kind == Kind::record) append(lines, clear_all_blocks_lines(nested_record(m), from.member(r, m)));
+        if (owns_block(m)) append(lines, clear_block_lines(r, m, from));
     }
     return lines;
 }
@@ -61,12 +61,12 @@ TEST_F(AssignmentSequence, BlocksMoveEvenIfOneSideIsNotTracked) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         for (bool source_lacks_it : {false, true}) {
-            forget();
+            reset();
             void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
             header(source_lacks_it ? from : to)->obj_flag = 0;
             Lines expected{"mirklib_adjust_variant to " + name(r) + " 0",
                            "write_notify to " + std::to_string(table(r).base)};
-            append(expected, give_up_everything(r, top_level(r, "from")));
+            append(expected, clear_all_blocks_lines(r, top_level(r, "from")));
             append(expected, {"mirk_store_err 22", "skald_wrapper type 3 (ERR): The object is not state tracked"});
             EXPECT_EQ(lines_of([&] { r.set(h, id, to, from, &err); }), expected);
             EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
@@ -81,7 +81,7 @@ TEST_F(AssignmentSequence, CleanUpAfterAMoveReleasesTheOldLocation) {
         Handle h({tracking});
         const bool on = tracking == Tracking::on;
         each_record([&](const RecordOperations &r) {
-            forget();
+            reset();
             void *from = make_object(h, r, "from"), *to = make_object(h, r, "to");
             const Pair pair{top_level(r, "to"), top_level(r, "from")};
             EXPECT_EQ(lines_of([&] { r.post_copyout_cleanup(h, id, to, from, &err); }), cleanup_lines(r, pair, on));

@@ -1,4 +1,5 @@
-// Whole-record assignment: a raw copy that is put right afterwards, after which one object owns what both pointed to.
+// Assignment of whole records: a raw copy that is then corrected, so that one object owns the blocks that both pointed
+// to.
 #include <cerrno>
 
 #include "values.h"
@@ -19,12 +20,12 @@ void expect_no_blocks(const RecordOperations &r, void *object) {
     }
 }
 
-// Every object inside finds its area within its owner's.
+// The area of each embedded object is within that of its owner.
 void expect_own_areas(const Handle &h, const RecordOperations &r, void *object, std::uintptr_t state) {
     for (const MemberOperations &m : r.members) {
         if (!has_area(m)) continue;
         void *child = at(r, object, m);
-        const std::uintptr_t inner = state + place(r, m).area;
+        const std::uintptr_t inner = state + member_layout(r, m).area;
         EXPECT_EQ(h.offset_of(child), static_cast<std::uint32_t>(inner - reinterpret_cast<std::uintptr_t>(child)))
             << name(m);
         if (m.member->kind == Kind::record) expect_own_areas(h, nested_record(m), child, inner);
@@ -133,7 +134,7 @@ TEST(Assignment, TheOffsetBitIsKeptUnlessThereIsNoDescriptor) {
         for (int own : {0, 1}) {
             for (int others : {0, 1}) {
                 void *source = r.create(h, id), *destination = r.create(h, id);
-                // An offset that says what holds anyway.
+                // An offset equal to the default.
                 if (own) mirklib_update_sttr_offset(h, id, destination, table(r).base);
                 if (others) mirklib_update_sttr_offset(h, id, source, table(r).base);
                 std::uint32_t err = 0;
@@ -150,7 +151,7 @@ TEST(Assignment, TheOffsetBitIsKeptUnlessThereIsNoDescriptor) {
 TEST(Assignment, AnUntrackedSourceOnATrackingHandleLosesItsBlocksAndFails) {
     Handle h(Tracking::on), off(Tracking::off);
     each_record([&](const RecordOperations &r) {
-        // The source is as one made without tracking, on the same memory.
+        // The source is like one created without tracking, in the same memory.
         mirk_platform_testing_set_sttr_mode(h, 0xDDDD);
         void *source = filled(h, r, 8);
         mirk_platform_testing_set_sttr_mode(h, 0xEEEE);
@@ -169,14 +170,14 @@ TEST(Assignment, AnUntrackedSourceOnATrackingHandleLosesItsBlocksAndFails) {
     });
 }
 
-// Neither the object nor a record or an address in it, at any depth.
+// True if neither the object nor a record or an address in it has an offset, at any depth.
 void expect_untracked(const RecordOperations &r, void *object) {
     EXPECT_EQ(header(object)->obj_flag & tracked, 0) << name(r);
     for (const MemberOperations &m : r.members) {
-        void *place = at(r, object, m);
-        if (m.member->kind == Kind::record) expect_untracked(nested_record(m), place);
+        void *field = at(r, object, m);
+        if (m.member->kind == Kind::record) expect_untracked(nested_record(m), field);
         if (m.member->kind == Kind::address) {
-            EXPECT_EQ(header(place)->obj_flag & tracked, 0) << name(r) << '.' << m.member->name;
+            EXPECT_EQ(header(field)->obj_flag & tracked, 0) << name(r) << '.' << m.member->name;
         }
     }
 }
@@ -190,13 +191,13 @@ TEST(Assignment, ADestinationWithoutAStateAreaFailsAndStaysUntracked) {
         void *source = filled(h, r, 8);
         std::uint32_t err = 0;
         Trace trace;
-        header(destination)->obj_flag |= 1;  // that it can be referred to says nothing of its states
+        header(destination)->obj_flag |= 1;  // this flag only concerns references
         r.set(h, id, destination, source, &err);
         EXPECT_EQ(err, static_cast<std::uint32_t>(EINVAL));
         EXPECT_EQ(trace.lines(), (Lines{"type 3 (ERR): The object is not state tracked"}));
         expect_untracked(r, destination);
         expect_no_blocks(r, source);
-        // The element-state vectors of the source stay with it, since there is no room for them over there.
+        // The source keeps its vectors of element states, since the destination has no room for them.
         r.destroy(h, id, source);
         r.destroy(h, id, destination);
         EXPECT_EQ(h.live_blocks(), 0u);
@@ -239,16 +240,16 @@ TEST(CopyoutCleanup, TheOldLocationLosesItsBlocksAndTheNewOneKeepsThem) {
     for (Tracking mode : {Tracking::none, Tracking::off}) {
         Handle h(mode);
         each_record([&](const RecordOperations &r) {
-            void *old_place = filled(h, r, 5), *new_place = r.create(h, id);
-            const Lines before = content(h, r, old_place);
-            std::memcpy(new_place, old_place, table(r).base);
+            void *old_location = filled(h, r, 5), *new_location = r.create(h, id);
+            const Lines before = content(h, r, old_location);
+            std::memcpy(new_location, old_location, table(r).base);
             std::uint32_t err = 0;
-            r.post_copyout_cleanup(h, id, new_place, old_place, &err);
+            r.post_copyout_cleanup(h, id, new_location, old_location, &err);
             EXPECT_EQ(err, 0u);
-            EXPECT_EQ(content(h, r, new_place), before);
-            expect_no_blocks(r, old_place);
-            r.destroy(h, id, old_place);
-            r.destroy(h, id, new_place);
+            EXPECT_EQ(content(h, r, new_location), before);
+            expect_no_blocks(r, old_location);
+            r.destroy(h, id, old_location);
+            r.destroy(h, id, new_location);
             EXPECT_EQ(h.live_blocks(), 0u);
         });
     }

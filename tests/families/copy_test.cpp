@@ -1,4 +1,4 @@
-// Deep copy by way of a frame.
+// Deep copy through a frame.
 #include <gtest/gtest.h>
 
 #include "wire_support.h"
@@ -12,13 +12,13 @@ GuardedMemory &memory() {
     return guarded;
 }
 
-// A copy made in a buffer of just this size, with its byte of slack.
+// A copy made with a buffer of exactly this size, with its guard byte.
 struct Cloned {
     Instance instance;
     std::uint32_t error;
 };
 Cloned clone(mirk_handle *h, const Instance &source, std::size_t size) {
-    void *result = &result;  // to be nulled before anything else
+    void *result = &result;  // cleared before anything else
     std::uint32_t err = 0;
     source.record().clone(h, id, source.get(), &result, memory().room(size), static_cast<std::uint32_t>(size), &err);
     return {Instance(h, source.record(), result), err};
@@ -107,7 +107,7 @@ TEST_P(Copies, NothingIsCopiedIfTheErrorIsSet) {
 TEST_P(Copies, AWorkspaceThatIsTooSmallFails) {
     const Instance source(handle, rich_value(reference::record_table("lumo_tarn_dp_tc_list")));
     const std::size_t blocks = handle.live_blocks();
-    // States alone may be missing at the end without an error, and the last element ends in front of them.
+    // Only states may be missing at the end without an error, and the last element ends before them.
     const std::size_t in_the_elements = reference::encode(source.value(), handle.tracks()).size() - 12;
     const std::uint64_t created = source.header()->tinfo->variant_info->entries[0].num_created;
     for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{9}, in_the_elements}) {
@@ -130,7 +130,7 @@ TEST_P(Copies, AStickyCopyLargerThanTheWorkspaceFails) {
     EXPECT_EQ(handle.live_blocks(), blocks);
     mirk_clear_last_error(handle);
 
-    // A destination that was handed in is not touched before the source is known to fit.
+    // The caller's destination is not changed before the source is known to fit.
     const Instance target(handle, "lumo_tarn_dp_tc_list");
     source.record().copy_cr(handle, source.get(), target.get());
     EXPECT_NE(handle->last_error, 0U);
@@ -148,7 +148,7 @@ TEST_P(Copies, AFailedCopyDestroysTheCallersDestination) {
     EXPECT_EQ(handle.live_blocks(), blocks);
 }
 
-// The element that a copy fails into is ended, stays in its array, and is ended once more with it.
+// An element is destroyed if the copy into it fails, stays in its array, and is destroyed again with it.
 TEST_P(Copies, AFailedCopyIntoAnElementDestroysItAndKeepsItsMemory) {
     const Instance list(handle, "lumo_tarn_lumo_info_list");
     const auto &elements = list.record().members.back();

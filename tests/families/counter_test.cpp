@@ -1,4 +1,4 @@
-// Usage counters: who counts, where, and in which variant.
+// Usage counters: which operations count, where, and in which variant.
 #include <map>
 #include <thread>
 
@@ -9,7 +9,7 @@ using namespace families;
 
 namespace {
 
-// How often each type is initialised when one object of the record is.
+// How often each type is initialized when one object of the record is.
 void tally(const RecordOperations &r, std::map<const mirk_type_info *, std::uint64_t> &counts) {
     ++counts[r.type];
     for (const MemberOperations &m : r.members) {
@@ -69,32 +69,32 @@ TEST(Counters, EmbeddedObjectsCountInTheirOwnTypes) {
     }
 }
 
-// Notifications that a program put in the place of the runtime's own, and what they hear.
-class Listener {
+// Notifications that replace the runtime's own, and the calls that they get.
+class Observer {
 public:
-    explicit Listener(Handle &h) : h_(h), write_(h->write_notify), count_(h->count_notify) {
-        listening = this;
+    explicit Observer(Handle &h) : h_(h), write_(h->write_notify), count_(h->count_notify) {
+        active = this;
         h->write_notify = [](void *, void *address, std::size_t size, std::uint32_t) {
-            listening->heard.emplace_back(address, size);
+            active->notifications.emplace_back(address, size);
             return 0;
         };
         h->count_notify = [](void *, std::uint64_t *address, std::int64_t delta, std::uint32_t) {
-            listening->heard.emplace_back(address, static_cast<std::uint64_t>(delta));
+            active->notifications.emplace_back(address, static_cast<std::uint64_t>(delta));
             return 0;
         };
     }
-    ~Listener() {
+    ~Observer() {
         h_->write_notify = write_;
         h_->count_notify = count_;
-        listening = nullptr;
+        active = nullptr;
     }
-    Listener(const Listener &) = delete;
-    Listener &operator=(const Listener &) = delete;
+    Observer(const Observer &) = delete;
+    Observer &operator=(const Observer &) = delete;
 
-    std::vector<std::pair<void *, std::uint64_t>> heard;
+    std::vector<std::pair<void *, std::uint64_t>> notifications;
 
 private:
-    static inline Listener *listening = nullptr;
+    static inline Observer *active = nullptr;
     Handle &h_;
     int (*write_)(void *, void *, std::size_t, std::uint32_t);
     int (*count_)(void *, std::uint64_t *, std::int64_t, std::uint32_t);
@@ -125,15 +125,15 @@ TEST(Counters, ReplacedNotificationsGetWhatTheRuntimeGets) {
                     }
                 }
             }
-            Listener listener(h);
+            Observer observer(h);
             live();
-            // Whether the object lies at the same address again is up to malloc; what is told of it is not.
-            ASSERT_EQ(listener.heard.size(), by_the_runtime.size()) << name(r);
-            for (std::size_t i = 0; i < listener.heard.size(); ++i) {
-                EXPECT_EQ(listener.heard[i].second, by_the_runtime[i].second) << name(r) << ' ' << i;
+            // The object may get another address each time, but the notifications refer to the same offsets.
+            ASSERT_EQ(observer.notifications.size(), by_the_runtime.size()) << name(r);
+            for (std::size_t i = 0; i < observer.notifications.size(); ++i) {
+                EXPECT_EQ(observer.notifications[i].second, by_the_runtime[i].second) << name(r) << ' ' << i;
             }
-            EXPECT_GE(listener.heard.size(), 9u)
-                << name(r);  // four words of the header, four counts, the type at the end
+            EXPECT_GE(observer.notifications.size(), 9u)
+                << name(r);  // four members of the header, four counts, and the type when it is released
         });
     }
 }
@@ -277,7 +277,7 @@ TEST(Counters, EachChangeIsNotifiedBeforeItHappens) {
     EXPECT_EQ(std::memcmp(&reference, &entry(*r.type), sizeof reference), 0);
 }
 
-// The module's own records are shared by all handles, whatever thread they are on.
+// The module's own records are shared by all handles on all threads.
 TEST(Counters, SharedCountersAreExactOnSeveralThreads) {
     constexpr std::uint64_t rounds = 20000;
     const RecordOperations &r = record("lumo_tarn_debug_setting");

@@ -14,7 +14,7 @@ TEST_F(DestroySequence, ANewObjectIsCountedThenReleased) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
         each_record([&](const RecordOperations &r) {
-            forget();
+            reset();
             void *object = make_object(h, r);
             EXPECT_EQ(lines_of([&] { r.destroy(h, id, object); }),
                       destroy_lines(r, top_level(r), {tracking == Tracking::on}));
@@ -29,7 +29,7 @@ TEST_F(DestroySequence, ARecordedOffsetIsRemoved) {
         Handle h({Tracking::on, 0, mapping});
         each_record([&](const RecordOperations &r) {
             for (bool frees : {false, true}) {
-                forget();
+                reset();
                 void *object = make_object(h, r);
                 h.set_state_offset(object, table(r).base);
                 EXPECT_EQ(lines_of([&] { r.destroy_internal(h, id, object, frees ? 1 : 0); }),
@@ -53,24 +53,24 @@ TEST_F(DestroySequence, RaDataAloneIsRemovedToo) {
 TEST_F(DestroySequence, AMappedObjectFailsStaysOrIsDestroyed) {
     Handle h;
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
         header(object)->obj_flag |= mapped;
-        const std::string asked = "mirk_request_oid_mapping_destroy object", of = name(r) + " destroy: ";
+        const std::string request = "mirk_request_oid_mapping_destroy object", of = name(r) + " destroy: ";
 
         h.knobs().oid_destroy_error = EPROTO;
         EXPECT_EQ(lines_of([&] { r.destroy(h, id, object); }),
-                  (Lines{asked,
+                  (Lines{request,
                          "skald_wrapper type 3 (ERR): " + of + "Failed to remove oid mapping for object. Error " +
                              std::strerror(EPROTO),
                          "mirk_store_err 71"}));
         h.knobs().oid_destroy_error = 0;
         h.knobs().oid_destroy_result = 0;
         EXPECT_EQ(lines_of([&] { r.destroy(h, id, object); }),
-                  (Lines{asked, "skald_wrapper type 6 (info): " + of +
-                                    "Object has references and will be cleaned up when all of them are released"}));
+                  (Lines{request, "skald_wrapper type 6 (info): " + of +
+                                      "Object has references and will be cleaned up when all of them are released"}));
         h.knobs().oid_destroy_result = 1;
-        Lines expected{asked, "skald_wrapper type 7 (debug): " + of + "Successfully removed OID mapping"};
+        Lines expected{request, "skald_wrapper type 7 (debug): " + of + "Successfully removed OID mapping"};
         append(expected, destroy_lines(r, top_level(r), {}));
         EXPECT_EQ(lines_of([&] { r.destroy(h, id, object); }), expected);
     });
@@ -114,7 +114,7 @@ TEST_F(DestroySequence, AnArrayIsDestroyedElementsFirstThenBlockThenVector) {
         each_member([&](const RecordOperations &r, const MemberOperations &m) {
             if (m.element_set == nullptr) return;
             const RecordOperations &e = nested_record(m);
-            forget();
+            reset();
             void *object = make_object(h, r);
             recording::pause();
             void *value = e.create(h, id);
@@ -124,7 +124,9 @@ TEST_F(DestroySequence, AnArrayIsDestroyedElementsFirstThenBlockThenVector) {
             ASSERT_EQ(err, 0u);
             auto *block = read<std::uint8_t *>(at(r, object, m));
             recording::name_region("elements", block, 2 * e.sizeof_(h));
-            if (on) recording::name_region("vector", read<void *>(bytes(object) + table(r).base + place(r, m).area), 2);
+            if (on)
+                recording::name_region("vector", read<void *>(bytes(object) + table(r).base + member_layout(r, m).area),
+                                       2);
             Lines array;
             for (std::uint32_t k = 0; k < 2; ++k) {
                 append(array, destroy_lines(e, {"elements", k * table(e).base, 2 * table(e).base + k * table(e).state},
@@ -133,7 +135,7 @@ TEST_F(DestroySequence, AnArrayIsDestroyedElementsFirstThenBlockThenVector) {
             append(array, {"obj_free elements", "write_notify " + plus("object", offset(r, m)) + " 8"});
             if (on) array.push_back("obj_free vector");
             const Lines lines = lines_of([&] { r.destroy(h, id, object); });
-            // The other members' calls stand around it.
+            // The calls of other members come before and after.
             EXPECT_NE(std::search(lines.begin(), lines.end(), array.begin(), array.end()), lines.end());
             EXPECT_EQ(h.live_blocks(), 0u);
         });

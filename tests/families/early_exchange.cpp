@@ -1,6 +1,6 @@
-// A whole exchange in a constructor that runs before any constructor of the library: a handle with type records of its
-// own and with tracking, an instance with an array, its frame, and the reading of a frame whose flag claims an offset.
-// Built as a program and as a library that is initialized first of all.
+// A complete exchange in a constructor that runs before any constructor of the library: a handle with private types and
+// tracking, an instance with an array, its frame, and the reading of a frame whose flag claims an offset. Built as a
+// program, and as a library that is initialized before all others.
 #include <cstdint>
 #include <cstdio>
 #include <vector>

@@ -1,4 +1,4 @@
-// Asks the library that is initialized first of all what came of its exchange.
+// Checks the result of the exchange in the library that is initialized before all others.
 #include <cstdio>
 
 extern "C" const char *early_exchange_failure();

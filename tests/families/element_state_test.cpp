@@ -1,4 +1,4 @@
-// State of arrays: one byte for the whole, and a vector with one for each element.
+// State of arrays: one byte for the whole, and a vector with one byte per element.
 #include <cerrno>
 
 #include "arrays.h"
@@ -18,7 +18,7 @@ void *with_elements(mirk_handle *h, const ArraySubject &s, std::uint32_t n) {
 }
 
 std::uint8_t *vector_of(const ArraySubject &s, void *object) {
-    return read<std::uint8_t *>(area(s.r, object) + place(s.r, s.m).area);
+    return read<std::uint8_t *>(area(s.r, object) + member_layout(s.r, s.m).area);
 }
 
 TEST(ElementStates, SettingMarksTheElementAndTheWhole) {
@@ -90,12 +90,12 @@ TEST(ElementStates, FailWithoutTrackingAndForUntrackedObjects) {
     });
 }
 
-// Bytes of the area that belong to the address of a vector, of this record or of one nested in it.
+// Bytes of the area that hold the address of a vector, of this record or of a nested one.
 void mark_vectors(const RecordOperations &r, std::uint32_t base, std::vector<bool> &marks) {
     for (const MemberOperations &m : r.members) {
-        if (m.member->kind == Kind::record) mark_vectors(nested_record(m), base + place(r, m).area, marks);
+        if (m.member->kind == Kind::record) mark_vectors(nested_record(m), base + member_layout(r, m).area, marks);
         for (std::uint32_t i = 0; m.member->kind == Kind::array && i < 8; ++i)
-            marks[base + place(r, m).area + i] = true;
+            marks[base + member_layout(r, m).area + i] = true;
     }
 }
 
@@ -160,7 +160,7 @@ TEST(ElementStates, AFilledVectorWordIsAStateAndNotAnAddress) {
         EXPECT_EQ(states, nullptr);
         s.m.element_set(h, id, object, 0, value, &err);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 0, &err), 0x33);
-        // Growth makes a vector again.
+        // Growth allocates a new vector.
         s.m.element_set(h, id, object, 2, value, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(s.m.element_state_flag_get(h, id, object, 2, &err), 2);
@@ -169,7 +169,7 @@ TEST(ElementStates, AFilledVectorWordIsAStateAndNotAnAddress) {
         s.e.destroy(h, id, value);
         s.r.destroy(h, id, object);
         h->obj_free(h->mem_ctx, id, lost);
-        // The vector of the growth is lost to the second fill.
+        // The second fill overwrites the address of that vector.
         EXPECT_EQ(h.live_blocks(), 1u);
         mirk_platform_block block;
         mirk_platform_list_blocks(h, &block, 1);

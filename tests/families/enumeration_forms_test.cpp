@@ -101,7 +101,7 @@ TEST(EnumerationWire, ABufferThatIsTooSmallFails) {
             EXPECT_EQ(e.unmarshal(h, id, frame, one.get(), static_cast<std::uint32_t>(room), 0, &err), 0u);
             EXPECT_EQ(err, 12u);
             EXPECT_EQ(one.value(), 2u);
-            // With an error in the slot nothing happens, and the number stays.
+            // With an error in the slot nothing happens, and the value does not change.
             err = 5;
             EXPECT_EQ(e.marshal(h, id, frame, one.get(), 5, &err), 0u);
             EXPECT_EQ(e.unmarshal(h, id, frame, one.get(), 5, 0, &err), 0u);
@@ -150,7 +150,7 @@ TEST(EnumerationText, NamesTheEnumerator) {
     EnumerationObject state(h, ha_state(), 3);
     EXPECT_EQ(print(h, ha_state(), state, 2, "ha_state").text(),
               "  ha_state@lumo_tarn_ha_state_e:LUMO_TARN_HA_ACTIVE_SOLO_STATE\n");
-    // No line end: what is printed next stands on the same line.
+    // There is no line end, so the next text follows on the same line.
     state.put(9);
     EXPECT_EQ(print(h, ha_state(), state, 0, "ha_state").text(),
               "ha_state@lumo_tarn_ha_state_e:Enum value out of range");
@@ -217,7 +217,7 @@ TEST(EnumerationText, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
             EXPECT_EQ(e.print_cr(h, one.get(), area.data(), 3), 0xFFFFFFFFu);
             h->last_error = 0;
             EXPECT_EQ(e.toxml_cr(h, one.get(), area.data(), 3), 0xFFFFFFFFu);
-            // The error stays, and the sticky forms then write nothing at all.
+            // The error stays set, and the sticky forms then write nothing.
             EXPECT_NE(h->last_error, 0u);
             area.assign(100, blank);
             EXPECT_EQ(e.print_cr(h, one.get(), area.data(), 100), 0xFFFFFFFFu);
@@ -252,7 +252,7 @@ TEST(EnumerationXml, ReadsEachEnumeratorBack) {
             EXPECT_EQ(result.err, 0u);
             EXPECT_EQ(one.value(), value);
             EXPECT_EQ(mirk_get_instance_modified(one.get(), 0, 1), 0u);
-            // What is in the element is not looked at, as long as it is short.
+            // The content of the element is ignored, as long as it is short.
             const std::string name(e.enumeration->enumerators[value]);
             const EnumerationObject other(h, e, (value + 1) % bound(e));
             EXPECT_EQ(read(h, e, other, "<x><" + name + ">" + std::string(127, 'q') + "</" + name + "></x>", "//x").err,
@@ -280,7 +280,7 @@ TEST(EnumerationXml, AnUnknownOrMissingElementKeepsTheValue) {
             EXPECT_EQ(result.err, 0u);
             EXPECT_EQ(result.message, "");
             EXPECT_EQ(one.value(), 2u);
-            // The look-ups' own 2 remains in the handle.
+            // The look-ups' own ENOENT remains in the handle.
             EXPECT_EQ(h->last_error, 2u);
         }
     });
@@ -312,7 +312,7 @@ TEST(EnumerationXml, OtherErrorsAreWrittenToTheMessageBuffer) {
     });
 }
 
-// A record hands its message buffer down, ends its walk there, and passes the error on.
+// A record passes its message buffer on, stops there, and reports the error.
 TEST(EnumerationXml, AFailedLookUpStopsTheReadOfTheRecord) {
     const Handle h;
     const Instance info(h, "lumo_tarn_lumo_info");

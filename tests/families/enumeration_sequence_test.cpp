@@ -94,7 +94,7 @@ TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
               (Lines{"mirk_clear_last_error", "mirk_get_instance_variant object 0 1",
                      "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "_mirk_instance_variant_marshal buffer 0 100",
                      "u_int32_marshal buffer+1 local 99"}));
-    // A domain with an older variant: told, and the older one written if the slot stays clear.
+    // A domain with an older variant: reported, and the older one written if the slot stays clear.
     h.knobs().slot_gets_eidrm = false;
     h.knobs().default_variant = {-3, 0};
     recording::clear_log();
@@ -105,7 +105,7 @@ TEST_F(EnumerationSequence, MarshalWritesVariantAndValue) {
                      "_mirk_instance_variant_marshal buffer -3 100", "u_int32_marshal buffer+1 local 99"}));
 }
 
-// The value is announced behind its first store.
+// The value is notified after its first store.
 TEST_F(EnumerationSequence, UnmarshalNotifiesTheValueLast) {
     lumo_tarn_mem_desc_e_marshal(h, id, buffer, object, 100, &err);
     recording::clear_log();
@@ -169,7 +169,7 @@ TEST_F(EnumerationSequence, XmlIsSearchedForEachEnumeratorInOrder) {
     Element document{"r", "", {}};
     document.add("m").add("LUMO_TARN_TT_MEM");
     lumo_tarn_mem_desc_e_from_xml(h, id, "//r/m", &document, object, &err, buffer, sizeof buffer);
-    // No announcement and no mark.
+    // No notification and no mark.
     EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "xml_get_element_value //r/m/LUMO_TARN_MP_MEM local 128 null",
                      "mirk_store_err 2", "xml_get_element_value //r/m/LUMO_TARN_TT_MEM local 128 null"}));
@@ -206,7 +206,7 @@ TEST_F(EnumerationSequence, ValueOperationsMakeOnlyTheirOwnCalls) {
 }
 
 TEST_F(EnumerationSequence, NullIsTracedWithoutAskingForAMark) {
-    mirk_lumo_ui_tarn_type_trace_init();  // no enumeration does so by itself
+    mirk_lumo_ui_tarn_type_trace_init();  // no enumeration registers it
     recording::clear_log();
     EXPECT_EQ(lumo_tarn_mem_desc_e_backpropagate(h, id, nullptr, nullptr), 0u);
     EXPECT_EQ(recording::lines(),

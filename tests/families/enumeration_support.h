@@ -1,4 +1,4 @@
-// What the tests of enumerations share.
+// Shared by the tests of enumerations.
 #pragma once
 
 #include <stdexcept>
@@ -29,7 +29,7 @@ public:
         std::memcpy(&value, static_cast<char *>(p_) + 12, sizeof value);
         return value;
     }
-    // Any value at all, as a sender may choose it.
+    // Any value, as a sender may choose it.
     void put(std::uint32_t value) { std::memcpy(static_cast<char *>(p_) + 12, &value, sizeof value); }
 
 private:

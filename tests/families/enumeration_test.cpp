@@ -1,4 +1,4 @@
-// Enumerations as objects: life, values, order, marks.
+// Enumerations as objects: lifecycle, values, order, marks.
 #include <array>
 
 #include "enumeration_support.h"
@@ -58,7 +58,7 @@ TEST(Enumeration, CreationAndDestructionAreCounted) {
             EXPECT_EQ(one.header()->home_variant, -128);
         }
         EXPECT_EQ(e.type->variant_info->entries[-128].num_created, early + 1);
-        // A later variant than is known here counts as the latest that is.
+        // A variant newer than this schema counts as the highest one.
         set_domain(h, e, 5);
         EXPECT_EQ(EnumerationObject(h, e).header()->variant, 0);
         mirk_platform_domain_clear(h);
@@ -74,7 +74,7 @@ TEST(Enumeration, AFailedAllocationGivesNullOrTheSentinel) {
         EXPECT_NE(sentinel, nullptr);
         EXPECT_EQ(h->last_error, 12u);
         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 0, 0);
-        // With an error in the handle the sticky form makes nothing, and the sentinel is never released.
+        // With an error in the handle the sticky form allocates nothing, and the sentinel is never released.
         EXPECT_EQ(e.create_cr(h), sentinel);
         h->last_error = 0;
         EXPECT_EQ(e.destroy_internal(h, id, sentinel, 1), sentinel);
@@ -147,7 +147,7 @@ TEST(Enumeration, InitializeWritesTheHeaderAndKeepsTheOtherFlags) {
         set_domain(h, e, -2);
         std::uint32_t err = 0;
         const std::uint64_t created = e.type->variant_info->entries[-2].num_created;
-        // Neither of the words that are not used keeps it from being counted.
+        // The two unused arguments do not prevent it from being counted.
         e.initialize(h, id, object, e.type, 0, 1, 2, storage, &err);
         EXPECT_EQ(err, 0u);
         EXPECT_EQ(e.type->variant_info->entries[-2].num_created, created + 1);
@@ -156,11 +156,11 @@ TEST(Enumeration, InitializeWritesTheHeaderAndKeepsTheOtherFlags) {
         EXPECT_EQ(object->tinfo, e.type);
         EXPECT_EQ(object->obj_flag, 6);
 
-        // The error of the look-up stays with the caller.
+        // The error of the look-up is reported to the caller.
         mirk_platform_testing_fail_operation(h, MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, 0, 1, 5);
         e.initialize(h, id, object, e.type, 0, 0, 0, nullptr, &err);
         EXPECT_EQ(err, 5u);
-        // And with an error in the slot nothing is set up.
+        // With an error in the slot nothing is initialized.
         object->variant = 0;
         e.initialize(h, id, object, e.type, 0, 0, 0, nullptr, &err);
         EXPECT_EQ(object->variant, 0);
@@ -275,11 +275,11 @@ TEST(Enumeration, SettersRefuseValuesWithoutAnEnumerator) {
             EXPECT_EQ(err, 43u);
             EXPECT_EQ(one.value(), 1u);
             EXPECT_EQ(mirk_get_instance_modified(one.get(), 0, 1), 0u);
-            // An error in the slot keeps good values out as well.
+            // With an error in the slot valid values are refused, too.
             e.set_value(h, id, one.get(), 2, &err);
             EXPECT_EQ(one.value(), 1u);
         }
-        // A later variant may have more enumerators than are known here.
+        // A newer variant may have more enumerators than this schema.
         set_domain(h, e, 1);
         std::uint32_t err = 0;
         e.set_value(h, id, one.get(), 1000, &err);

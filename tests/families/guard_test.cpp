@@ -1,5 +1,5 @@
-// How operations begin: a set slot stops them, a clean one ends the handle's sticky error; and what stands for null in
-// a chain of sticky calls.
+// How operations start: a set slot stops them, a clear one clears the handle's sticky error. And the sentinels that
+// replace null in a chain of sticky calls.
 #include <cerrno>
 #include <set>
 
@@ -9,7 +9,7 @@ using namespace families;
 
 namespace {
 
-// Calls every operation of a member that looks at its slot, with an error in it.
+// Calls each operation of a member that checks its slot, with an error set.
 void call_all(mirk_handle *h, const MemberOperations &m, void *object, void *source, std::uint32_t *err) {
     char text[8] = "untouch";
     std::uint8_t *states = nullptr;
@@ -210,9 +210,9 @@ TEST(StickyChain, ContinuesAfterAnExplicitCall) {
 TEST(Sentinel, EachTypeHasOneOfZeros) {
     std::set<void *> all;
     each_record([&](const RecordOperations &r) {
-        void *place = sentinel(r);
-        EXPECT_TRUE(all.insert(place).second);
-        EXPECT_EQ(std::vector<std::uint8_t>(bytes(place), bytes(place) + table(r).base),
+        void *instance = sentinel(r);
+        EXPECT_TRUE(all.insert(instance).second);
+        EXPECT_EQ(std::vector<std::uint8_t>(bytes(instance), bytes(instance) + table(r).base),
                   std::vector<std::uint8_t>(table(r).base, 0));
     });
     for (const auto &e : tarn::reflect::enumerations()) {
@@ -227,13 +227,13 @@ TEST(Sentinel, DestroyingItDoesNothing) {
     Handle h(Tracking::on);
     each_record([&](const RecordOperations &r) {
         const mirk_variant_entry before = entry(*r.type);
-        void *place = sentinel(r);
+        void *instance = sentinel(r);
         Trace trace;
         Events events(h);
-        r.destroy(h, id, place);
-        r.destroy_cr(h, place);
-        r.destroy_internal(h, id, place, 1);
-        r.destroy_internal(h, id, place, 0);
+        r.destroy(h, id, instance);
+        r.destroy_cr(h, instance);
+        r.destroy_internal(h, id, instance, 1);
+        r.destroy_internal(h, id, instance, 0);
         EXPECT_TRUE(events.all.empty());
         EXPECT_EQ(trace.lines(), Lines{});
         EXPECT_EQ(std::memcmp(&before, &entry(*r.type), sizeof before), 0);

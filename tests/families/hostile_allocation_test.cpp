@@ -1,4 +1,4 @@
-// Every allocation of a read and of a copy fails in turn, once and from then on.
+// Each allocation of a read and of a copy fails in turn, once and from then on.
 #include <gtest/gtest.h>
 
 #include "wire_support.h"
@@ -50,7 +50,7 @@ TEST_P(FailingAllocations, APartlyReadInstanceIsCompleteAfterAnotherRead) {
                     }
                     ASSERT_EQ(handle.live_blocks(), 0U) << "allocation " << nth;
 
-                    // Clearing a block that is kept loses what its elements had by then.
+                    // Clearing a reused block loses what its elements owned.
                     handle.allow_lost_blocks();
                     const Instance instance(handle, table().name);
                     fail(handle, nth, onwards);

@@ -1,4 +1,4 @@
-// Single hostile frames whose effect is told, beside the many random ones.
+// Single hostile frames with a known effect, in addition to the random ones.
 #include <gtest/gtest.h>
 
 #include "wire_support.h"
@@ -24,7 +24,7 @@ TEST(HostileFrame, AnyJumpOfTheOutermostFrameIsSafe) {
                 const Instance instance(handle, table.name);
                 const Outcome outcome = read(handle, instance, frame);
                 EXPECT_EQ(outcome.error, 0U);
-                // Only a jump ahead moves; as signed numbers, those with the top bit set lead back.
+                // Only forward jumps have an effect; as signed numbers, those with the top bit set go back.
                 const auto end = static_cast<std::int32_t>(2 + jump);
                 const auto size = static_cast<std::int32_t>(frame.size());
                 EXPECT_EQ(outcome.consumed, static_cast<std::uint32_t>(std::max(end, size))) << jump;
@@ -46,7 +46,7 @@ TEST(HostileFrame, ANestedJumpPastTheEndLeavesNothingToRead) {
         Record expected = value;
         const auto end = static_cast<std::int32_t>(8 + jump);
         const auto nested_end = static_cast<std::int32_t>(frame.size() - 1);
-        // The state byte behind the end counts as 0, and is stored.
+        // The state byte past the end counts as 0, and is stored.
         if (end > nested_end) expected.members[0].state = 0;
         EXPECT_TRUE(bridge::same(expected, instance.value())) << jump;
     }
@@ -138,17 +138,17 @@ TEST(HostileFrame, StatesWithoutAVectorReadAs0AndIgnoreWrites) {
     array.element_state_flag_set(handle, id, instance.get(), 1, 0x44, &err);
     EXPECT_EQ(array.element_state_flag_get(handle, id, instance.get(), 1, &err), 0);
     EXPECT_EQ(err, 0U);
-    // They go out as zeros.
+    // They are written as zeros.
     EXPECT_TRUE(bridge::same(reference::encode(reference::as_received(value, false), true),
                              bridge::marshal(handle, instance.record(), instance.get()).bytes));
 }
 
-// Elements whose states were taken from directly behind them would get those of a neighbour.
+// If an element's states were read directly after it, they would be those of the next element.
 TEST(HostileFrame, ElementStatesDoNotOverlapWhateverTheFlagsInTheirFrames) {
     const Handle handle(Tracking::on);
     const Record value = rich_value(reference::record_table("lumo_tarn_dp_debug_setting_data"));
     const auto &elements = value["lumo_data"].items;
-    // A frame without states around elements with states, which claim to have offsets and more.
+    // A frame without states that contains elements with states, whose flags claim offsets and more.
     Bytes frame = {0, 0, 0, 0, 0, 0, 2};
     for (const Record &element : elements) {
         Bytes one = reference::encode(element, true);

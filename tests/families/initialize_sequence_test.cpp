@@ -13,15 +13,15 @@ TEST_F(InitializeSequence, CreateAllocatesThenInitializesDepthFirst) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         each_record([&](const RecordOperations &r) {
             Handle h({tracking});
-            forget();
+            reset();
             const bool on = tracking == Tracking::on;
             Lines expected{"skald_module_init_fn mirk_lumo_ui_tarn_type",
                            "obj_alloc " + std::to_string(on ? table(r).tracked : table(r).base)};
             append(expected, initialize_lines(r, top_level(r, "block1"), {on}));
             EXPECT_EQ(lines_of([&] { r.create(h, id); }), expected);
-            forget();
+            reset();
             EXPECT_EQ(lines_of([&] { r.create_cr(h); }), expected);
-            forget();
+            reset();
             expected.erase(expected.begin());
             EXPECT_EQ(lines_of([&] { r.create_internal(h, id); }), expected);
         });
@@ -49,14 +49,14 @@ TEST_F(InitializeSequence, PrivateTypesAreBoundAfterTheVariant) {
         recording::pause();
         r.create(h, id);
         recording::pause(false);
-        forget();
+        reset();
         Lines expected{"skald_module_init_fn mirk_lumo_ui_tarn_type", "obj_alloc " + std::to_string(table(r).tracked)};
         append(expected, initialize_lines(r, top_level(r, "block1"), {true, true}));
         EXPECT_EQ(lines_of([&] { r.create(h, id); }), expected);
     });
 }
 
-// In storage of the test's own, with the area behind the object.
+// In the test's own storage, with the area after the object.
 TEST_F(InitializeSequence, NotificationsAndCountsCanBeSkipped) {
     for (Tracking tracking : {Tracking::none, Tracking::off, Tracking::on}) {
         Handle h({tracking});
@@ -64,9 +64,9 @@ TEST_F(InitializeSequence, NotificationsAndCountsCanBeSkipped) {
             for (std::uint32_t notify : {0u, 1u}) {
                 for (std::uint32_t skip : {0u, 1u}) {
                     std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
-                    forget();
+                    reset();
                     recording::name_region("object", storage.data(), table(r).tracked);
-                    Making s;
+                    Creation s;
                     s.on = tracking == Tracking::on;
                     s.notify = notify;
                     s.skip = skip;
@@ -87,9 +87,9 @@ TEST_F(InitializeSequence, NestedObjectsRecordOffsetsIfTheyHaveOne) {
             for (bool has_entry : {false, true}) {
                 for (bool is_nested : {false, true}) {
                     std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
-                    forget();
+                    reset();
                     recording::name_region("object", storage.data(), table(r).tracked);
-                    Making s;
+                    Creation s;
                     s.on = tracking == Tracking::on;
                     s.is_nested = is_nested;
                     s.has_entry = has_entry;
@@ -111,7 +111,7 @@ TEST_F(InitializeSequence, AMissingStateBaseStopsBeforeTheMembers) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
         std::vector<std::uint64_t> storage(table(r).tracked / 8 + 1);
-        forget();
+        reset();
         recording::name_region("object", storage.data(), table(r).tracked);
         Lines expected = header_lines(name(r), top_level(r), {true});
         expected.push_back("write_notify object+10 1");
@@ -129,12 +129,12 @@ TEST_F(InitializeSequence, AMissingStateBaseStopsBeforeTheMembers) {
 TEST_F(InitializeSequence, AFailedAllocationStopsAtOnce) {
     each_record([&](const RecordOperations &r) {
         Handle h({Tracking::none});
-        const std::string asked = "obj_alloc " + std::to_string(table(r).base);
+        const std::string request = "obj_alloc " + std::to_string(table(r).base);
         h.fail_obj_alloc(1);
-        EXPECT_EQ(lines_of([&] { r.create(h, id); }), (Lines{"skald_module_init_fn mirk_lumo_ui_tarn_type", asked}));
+        EXPECT_EQ(lines_of([&] { r.create(h, id); }), (Lines{"skald_module_init_fn mirk_lumo_ui_tarn_type", request}));
         h.fail_obj_alloc(1);
         EXPECT_EQ(lines_of([&] { r.create_cr(h); }),
-                  (Lines{"skald_module_init_fn mirk_lumo_ui_tarn_type", asked, "mirk_store_err 12"}));
+                  (Lines{"skald_module_init_fn mirk_lumo_ui_tarn_type", request, "mirk_store_err 12"}));
         EXPECT_EQ(lines_of([&] { r.create_cr(h); }), (Lines{"skald_module_init_fn mirk_lumo_ui_tarn_type"}));
     });
 }
@@ -161,7 +161,7 @@ TEST_F(InitializeSequence, AFailedMemberFailsAStickyCreate) {
     EXPECT_EQ(h->cr_mode, 0u);
 }
 
-// A private copy that cannot be had leaves nothing to count in.
+// Without a type record there are no counters.
 TEST_F(InitializeSequence, AMissingPrivateTypeAborts) {
     Handle h({Tracking::none, 1});
     h.knobs().no_type_info = true;
@@ -169,11 +169,11 @@ TEST_F(InitializeSequence, AMissingPrivateTypeAborts) {
                 "\\(FATAL\\): varinfo is NULL");
 }
 
-Lines marked(const RecordOperations &r, const Spot &spot) {
+Lines marked(const RecordOperations &r, const Location &spot) {
     Lines lines;
     for (const MemberOperations &m : r.members) {
         if (!is_embedded(m) || m.member->kind == Kind::enumeration) continue;
-        const Spot child = spot.member(r, m);
+        const Location child = spot.member(r, m);
         if (m.member->kind == Kind::record) {
             append(lines, marked(nested_record(m), child));
         } else {
@@ -187,7 +187,7 @@ Lines marked(const RecordOperations &r, const Spot &spot) {
 TEST_F(InitializeSequence, SetInstanceEmbeddedGoesDepthFirst) {
     Handle h;
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
         EXPECT_EQ(lines_of([&] { r.set_instance_embedded(h, id, object); }), marked(r, top_level(r)));
     });

@@ -1,4 +1,4 @@
-// What is left when creation or destruction fails on the way.
+// What remains when creation or destruction fails halfway.
 #include <cerrno>
 
 #include "lumo_ui_tarn.h"
@@ -21,7 +21,7 @@ TEST(Lifecycle, AFailedLookUpIsClearedForRecordsAndFailsForEmbeddedEnumerations)
     Handle h;
     std::uint32_t failed = 0, made = 0;
     each_record([&](const RecordOperations &r) {
-        if (holds(r, Kind::boolean) || holds(r, Kind::address)) return;  // these answer as the runtime likes
+        if (holds(r, Kind::boolean) || holds(r, Kind::address)) return;  // their results are up to the runtime
         h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO);
         Trace trace;
         void *object = r.create(h, id);
@@ -60,7 +60,7 @@ TEST(Lifecycle, AllMembersAreInitializedEvenIfOneFails) {
     const RecordOperations &r = record("lumo_tarn_static_exmem_info");
     alignas(8) std::uint8_t object[256] = {};
     std::uint32_t err = 0;
-    h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);  // the enumeration, which comes first
+    h.fail(MIRK_PLATFORM_TESTING_VARIANT_LOOKUP, EPROTO, 1, 1);  // the enumeration's, which is the first
     r.initialize(h, id, object, r.type, 1, 0, 0, nullptr, &err);
     EXPECT_EQ(err, static_cast<std::uint32_t>(EPROTO));
     const RecordOperations &last = record("lumo_tarn_exmem_info");
@@ -112,7 +112,7 @@ TEST(Lifecycle, AFailedMappingRemovalKeepsTheBlockButCountsIt) {
         void *object = r.create(h, id);
         mirk_platform_set_ra_data(h, object, nullptr, 1);
         const std::uint64_t destroyed = entry(*r.type).num_destroyed;
-        // Members with areas have mappings of their own, which go well.
+        // Members with areas have mappings of their own, whose removal succeeds.
         Events events(h);
         std::uint32_t mappings = 0;
         std::function<void(const RecordOperations &)> tally = [&](const RecordOperations &inner) {

@@ -1,4 +1,4 @@
-// Creation and the end of instances: sizes, headers, state areas, and what happens when something fails on the way.
+// Creation and destruction of instances: sizes, headers, state areas, and failures halfway.
 #include <cerrno>
 
 #include "lumo_ui_tarn.h"
@@ -38,7 +38,7 @@ TEST(Lifecycle, CreateAllocatesOneZeroedBlockWithTheCallersId) {
             EXPECT_EQ(allocations[0].ctx_id, id);
             for (const MemberOperations &m : r.members) {
                 if (is_embedded(m)) continue;
-                for (std::uint32_t i = 0; i < place(r, m).size; ++i)
+                for (std::uint32_t i = 0; i < member_layout(r, m).size; ++i)
                     EXPECT_EQ(bytes(at(r, object, m))[i], 0) << name(m);
             }
             if (mode == Tracking::on) {
@@ -68,7 +68,7 @@ TEST(Lifecycle, AStickyCreateUsesTheDefaultId) {
     }
 }
 
-// Headers of an object and of all that is embedded in it; on a tracking handle also where their areas are.
+// Headers of an object and of its embedded members; on a tracking handle also the location of their areas.
 void expect_headers(const Handle &h, const RecordOperations &r, void *object, std::uint8_t flags, std::uintptr_t state,
                     bool tracking) {
     SCOPED_TRACE(name(r));
@@ -82,7 +82,7 @@ void expect_headers(const Handle &h, const RecordOperations &r, void *object, st
         void *child = at(r, object, m);
         std::uint8_t expected = nested;
         if (has_area(m) && tracking) expected = nested | tracked | has_offset;
-        const std::uintptr_t inner = state + place(r, m).area;
+        const std::uintptr_t inner = state + member_layout(r, m).area;
         if (has_area(m) && tracking) {
             EXPECT_EQ(h.offset_of(child), static_cast<std::uint32_t>(inner - reinterpret_cast<std::uintptr_t>(child)));
         }
@@ -214,7 +214,7 @@ TEST(Lifecycle, SkippingTheCountOmitsCountersAndOffsetsButNotTheMembers) {
     });
 }
 
-// An enumeration keeps its flag as it is; every other embedded object is marked, as deep as they go.
+// An enumeration keeps its flag; every other embedded object is marked, at any depth.
 void expect_marked(const RecordOperations &r, void *object) {
     EXPECT_NE(header(object)->obj_flag & embedded, 0);
     for (const MemberOperations &m : r.members) {
@@ -256,7 +256,7 @@ TEST(Lifecycle, NoMappingIsRemovedIfMappingIsOff) {
     Events events(h);
     each_record([&](const RecordOperations &r) { r.destroy(h, id, r.create(h, id)); });
     for (const auto &event : events.of(MIRK_PLATFORM_TESTING_HD_DESTROY)) {
-        // Only the runtime's own addresses may.
+        // Only the runtime's own addresses may remove mappings.
         EXPECT_EQ(header(event.address)->tinfo, &_ip_address_type_info_internal);
     }
 }

@@ -1,4 +1,4 @@
-// Loading the library links its module into the runtime's list, and unloading takes it out again.
+// Loading the library links its module into the runtime's list, and unloading removes it.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ TEST(Module, IsLinkedWhileTheLibraryIsLoaded) {
     EXPECT_EQ(module->next, nullptr);
     EXPECT_EQ(mirk_module_tot_root.last, &module->next);
 
-    // Opened again it is still linked once.
+    // Opened again, it is still linked once.
     void *again = dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL);
     EXPECT_EQ(mirk_module_tot_root.count, 1u);
     dlclose(again);

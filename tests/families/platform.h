@@ -15,17 +15,17 @@ using kit::Lines;
 using kit::Trace;
 using kit::Tracking;
 
-// Errors are what most of these tests provoke, and they need not be shown.
-inline const bool quiet = (mirk_platform_trace_set_levels(1), true);
+// Most of these tests cause errors, which should not be printed.
+inline const bool only_fatal_lines = (mirk_platform_trace_set_levels(1), true);
 
-// The sticky create of a failed chain hands out the sentinel.
+// The sticky create of a failed chain returns the sentinel.
 inline void *sentinel(const RecordOperations &r) {
     Handle h;
     h->last_error = ENOMEM;
     return r.create_cr(h);
 }
 
-// A top-level object's area stands directly behind it.
+// The state area of a top-level object directly follows it.
 inline std::uint8_t *area(const RecordOperations &r, void *object) { return bytes(object) + table(r).base; }
 
 inline mirk_variant_entry &entry(const mirk_type_info &type, int variant = 0) {

@@ -1,4 +1,4 @@
-// The calls that operations are expected to make, worked out from the reference layout.
+// The calls that operations are expected to make, computed from the reference layout.
 #pragma once
 
 #include "lumo_ui_tarn.h"
@@ -11,8 +11,8 @@ using Lines = std::vector<std::string>;
 using recording::Handle;
 using recording::Tracking;
 
-// Made without a record of it. From here on the object's bytes, area included, read as "object+N", and new blocks are
-// numbered from 1.
+// Creates an object without recording calls. From here on its bytes, including its area, read as "object+N", and new
+// blocks are numbered from 1.
 inline void *make_object(const Handle &h, const RecordOperations &r, const char *called = "object") {
     recording::pause();
     void *object = r.create(h, id);
@@ -31,9 +31,9 @@ class Sequence : public testing::Test {
 protected:
     void SetUp() override {
         mirk_lumo_ui_tarn_type_trace_init();  // not every test creates an instance first
-        forget();
+        reset();
     }
-    void forget() {
+    void reset() {
         recording::clear_names();
         recording::clear_log();
         recording::name_region("slot", &err, sizeof err);
@@ -58,28 +58,28 @@ inline std::string type_name(const MemberOperations &m) {
     }
 }
 
-// One object somewhere in a named region, with its state area in the same one.
-struct Spot {
+// One object in a named region, with its state area in the same one.
+struct Location {
     std::string region = "object";
     std::uint32_t at = 0, area = 0;
 
     std::string text(std::uint32_t offset = 0) const { return plus(region, at + offset); }
     std::string state(std::uint32_t slot) const { return plus(region, area + slot); }
-    Spot member(const RecordOperations &r, const MemberOperations &m) const {
-        return {region, at + offset(r, m), area + place(r, m).area};
+    Location member(const RecordOperations &r, const MemberOperations &m) const {
+        return {region, at + offset(r, m), area + member_layout(r, m).area};
     }
 };
 
-inline Spot top_level(const RecordOperations &r, std::string region = "object") {
+inline Location top_level(const RecordOperations &r, std::string region = "object") {
     return {std::move(region), 0, table(r).base};
 }
 
-// Every embedded object with an area of its own gets its place.
-inline Lines offset_update_lines(const RecordOperations &r, const Spot &spot) {
+// The offset of each embedded object with an area is recorded.
+inline Lines offset_update_lines(const RecordOperations &r, const Location &spot) {
     Lines lines;
     for (const MemberOperations &m : r.members) {
         if (!has_area(m)) continue;
-        const Spot child = spot.member(r, m);
+        const Location child = spot.member(r, m);
         lines.push_back("mirklib_update_sttr_offset " + child.text() + " " + std::to_string(child.area - child.at));
         if (m.member->kind == Kind::address) {
             lines.push_back("ip_address_offset_update " + child.text() + " " + child.state(0));
@@ -90,11 +90,11 @@ inline Lines offset_update_lines(const RecordOperations &r, const Spot &spot) {
     return lines;
 }
 
-inline Lines offset_remove_lines(const RecordOperations &r, const Spot &spot) {
+inline Lines offset_remove_lines(const RecordOperations &r, const Location &spot) {
     Lines lines;
     for (const MemberOperations &m : r.members) {
         if (!has_area(m)) continue;
-        const Spot child = spot.member(r, m);
+        const Location child = spot.member(r, m);
         lines.push_back("mirk_hd_mapping_destroy " + child.text());
         if (m.member->kind == Kind::address) {
             lines.push_back("ip_address_offset_remove " + child.text());
@@ -105,16 +105,16 @@ inline Lines offset_remove_lines(const RecordOperations &r, const Spot &spot) {
     return lines;
 }
 
-struct Making {
+struct Creation {
     bool on = false;
     bool private_types = false;
     std::uint32_t notify = 1, skip = 0;
-    bool is_nested = false;     // flags 4
-    bool has_entry = false;     // flag 64 is set beforehand
-    std::string base = "null";  // the sttr_base that is given
+    bool is_nested = false;     // flag 4
+    bool has_entry = false;     // flag 64 was set before
+    std::string base = "null";  // the sttr_base argument
 };
 
-inline Lines header_lines(const std::string &type, const Spot &spot, const Making &s) {
+inline Lines header_lines(const std::string &type, const Location &spot, const Creation &s) {
     Lines lines{"mirk_clear_last_error", "mirk_domain_lookup_variant " + type};
     const auto tell = [&](std::uint32_t offset, std::uint32_t size) {
         if (s.notify != 0) lines.push_back("write_notify " + spot.text(offset) + " " + std::to_string(size));
@@ -127,31 +127,31 @@ inline Lines header_lines(const std::string &type, const Spot &spot, const Makin
     return lines;
 }
 
-inline void append_count(Lines &lines, const std::string &type, const Making &s) {
+inline void append_count(Lines &lines, const std::string &type, const Creation &s) {
     const std::string counters = type + (s.private_types ? "(copy)" : "");
     append(lines, {"count_notify " + counters + ".num_created 1", "count_notify " + counters + ".num_live 1"});
 }
 
-inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Making s) {
+inline Lines initialize_lines(const RecordOperations &r, const Location &spot, Creation s) {
     Lines lines = header_lines(name(r), spot, s);
     if (s.on && s.notify != 0) lines.push_back("write_notify " + spot.text(10) + " 1");
     if (s.skip == 0) append_count(lines, name(r), s);
-    const bool placed = s.on && s.skip == 0;
+    const bool needs_area = s.on && s.skip == 0;
     bool gives_offsets = false;
-    if (placed && embeds_something(r)) {
+    if (needs_area && embeds_something(r)) {
         if (!s.is_nested && s.base == "null") s.base = spot.state(0);
         gives_offsets = !s.is_nested || s.has_entry;
         if (s.has_entry) lines.push_back("mirklib_get_sttr_offset " + spot.text());
         if (gives_offsets) append(lines, offset_update_lines(r, spot));
-    } else if (placed && s.has_entry) {
+    } else if (needs_area && s.has_entry) {
         lines.push_back("mirklib_get_sttr_offset " + spot.text());
     }
-    Making inner = s;
+    Creation inner = s;
     inner.is_nested = true;
     inner.has_entry = gives_offsets;
     for (const MemberOperations &m : r.members) {
         if (!is_embedded(m)) continue;
-        const Spot child = spot.member(r, m);
+        const Location child = spot.member(r, m);
         if (m.member->kind == Kind::record) {
             append(lines, initialize_lines(nested_record(m), child, inner));
         } else if (m.member->kind == Kind::enumeration) {
@@ -165,18 +165,18 @@ inline Lines initialize_lines(const RecordOperations &r, const Spot &spot, Makin
     return lines;
 }
 
-struct Ending {
+struct Destruction {
     bool on = false;
     bool has_entry = false;
     bool mapping = true;
     bool frees = true;
 };
 
-// Of an object whose arrays and strings are empty.
-inline Lines destroy_lines(const RecordOperations &r, const Spot &spot, const Ending &e) {
+// For an object whose arrays and strings are empty.
+inline Lines destroy_lines(const RecordOperations &r, const Location &spot, const Destruction &e) {
     Lines lines;
     for (const MemberOperations &m : r.members) {
-        const Spot child = spot.member(r, m);
+        const Location child = spot.member(r, m);
         if (m.member->kind == Kind::record) {
             append(lines, destroy_lines(nested_record(m), child, {e.on, e.on, e.mapping, false}));
         } else if (m.member->kind == Kind::address) {
@@ -193,12 +193,12 @@ inline Lines destroy_lines(const RecordOperations &r, const Spot &spot, const En
     return lines;
 }
 
-// Both objects stand for themselves, as regions of their own.
+// Both objects are top-level, in regions of their own.
 struct Pair {
-    Spot to, from;
+    Location to, from;
 };
 
-inline Lines give_up(const RecordOperations &r, const MemberOperations &m, const Spot &from) {
+inline Lines clear_block_lines(const RecordOperations &r, const MemberOperations &m, const Location &from) {
     const MemberOperations &counter = r.members[index_of(r, m) - 1];
     return {"write_notify " + from.text(offset(r, m)) + " 8",
             "write_notify " + from.text(offset(r, counter)) + " " + std::to_string(width(counter))};
@@ -208,18 +208,18 @@ inline bool owns_block(const MemberOperations &m) {
     return m.member->kind == Kind::array || m.member->kind == Kind::string;
 }
 
-struct Circumstances {
+struct AssignmentCase {
     bool on = false;
-    bool to_placed = false, from_placed = false;
+    bool to_has_offset = false, from_has_offset = false;
 };
 
-inline Lines set_lines(const RecordOperations &r, const Pair &p, const Circumstances &c) {
+inline Lines set_lines(const RecordOperations &r, const Pair &p, const AssignmentCase &c) {
     Lines lines{"mirklib_adjust_variant " + p.to.text() + " " + name(r) + " 0",
                 "write_notify " + p.to.text() + " " + std::to_string(table(r).base)};
     if (c.on) {
-        if (c.to_placed) lines.push_back("mirklib_get_sttr_offset " + p.to.text());
+        if (c.to_has_offset) lines.push_back("mirklib_get_sttr_offset " + p.to.text());
         append(lines, offset_update_lines(r, p.to));
-        if (c.from_placed) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
+        if (c.from_has_offset) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
     }
     for (const MemberOperations &m : r.members) {
         if (!has_area(m)) continue;
@@ -231,10 +231,10 @@ inline Lines set_lines(const RecordOperations &r, const Pair &p, const Circumsta
         }
     }
     for (const MemberOperations &m : r.members) {
-        if (owns_block(m)) append(lines, give_up(r, m, p.from));
+        if (owns_block(m)) append(lines, clear_block_lines(r, m, p.from));
         if (m.member->kind != Kind::array || !c.on) continue;
-        if (c.from_placed) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
-        lines.push_back("write_notify " + p.from.state(place(r, m).area) + " 8");
+        if (c.from_has_offset) lines.push_back("mirklib_get_sttr_offset " + p.from.text());
+        lines.push_back("write_notify " + p.from.state(member_layout(r, m).area) + " 8");
     }
     return lines;
 }
@@ -248,7 +248,7 @@ inline Lines cleanup_lines(const RecordOperations &r, const Pair &p, bool on) {
         } else if (m.member->kind == Kind::record) {
             append(lines, set_lines(nested_record(m), inner, {on, on, on}));
         } else if (owns_block(m)) {
-            append(lines, give_up(r, m, p.from));
+            append(lines, clear_block_lines(r, m, p.from));
         }
     }
     return lines;

@@ -1,5 +1,5 @@
-// What both test programs know about records: the operations of each, and where its members lie by the independent
-// reckoning of the reference.
+// Shared by both test programs: the operations of each record, and the location of its members as computed by the
+// reference.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -52,12 +52,12 @@ inline const reference::RecordLayout &layout(const RecordOperations &r) { return
 inline std::size_t index_of(const RecordOperations &r, const MemberOperations &m) {
     return static_cast<std::size_t>(&m - r.members.data());
 }
-inline const reference::MemberLayout &place(const RecordOperations &r, const MemberOperations &m) {
+inline const reference::MemberLayout &member_layout(const RecordOperations &r, const MemberOperations &m) {
     return layout(r).members.at(index_of(r, m));
 }
-// An array or a string is reached through its pointer, which has an offset of its own.
+// For arrays and strings, the offset of the pointer.
 inline std::uint32_t offset(const RecordOperations &r, const MemberOperations &m) {
-    const reference::MemberLayout &p = place(r, m);
+    const reference::MemberLayout &p = member_layout(r, m);
     return p.block_offset != reference::no_slot ? p.block_offset : p.offset;
 }
 
@@ -124,7 +124,7 @@ inline const char *family(const MemberOperations &m) {
     }
 }
 
-// Each with the record's name in front of whatever fails.
+// Adds the record's name to each failure.
 inline void each_record(const std::function<void(const RecordOperations &)> &visit) {
     for (const RecordOperations &r : tarn::reflect::records()) {
         SCOPED_TRACE(name(r));

@@ -1,4 +1,4 @@
-// Offsets of embedded objects after a move, and the sweep of references.
+// Offsets of embedded objects after a move, and the release of references.
 #include <cerrno>
 
 #include "recorded.h"
@@ -49,18 +49,18 @@ TEST_F(ReferenceSequence, OffsetsOfALearnListEntryAreAlignedForVectors) {
                            std::to_string(336 + c.k - where));
     }
     EXPECT_EQ(lines_of([&] { r.offset_update(h, id, object, bytes(object) + 336, &err); }), expected);
-    EXPECT_EQ(place(r, member(r, "filter_tc_list")).slot, 15u);
-    EXPECT_EQ(place(r, member(r, "acl_tc_list")).slot, 33u);
-    EXPECT_EQ(place(r, member(r, "appl_list")).slot, 57u);
-    EXPECT_EQ(place(r, member(r, "show_ll_comm")).slot, 87u);
+    EXPECT_EQ(member_layout(r, member(r, "filter_tc_list")).slot, 15u);
+    EXPECT_EQ(member_layout(r, member(r, "acl_tc_list")).slot, 33u);
+    EXPECT_EQ(member_layout(r, member(r, "appl_list")).slot, 57u);
+    EXPECT_EQ(member_layout(r, member(r, "show_ll_comm")).slot, 87u);
 }
 
 TEST_F(ReferenceSequence, EachEmbeddedObjectsOffsetIsRecordedAndRemoved) {
     Handle h({Tracking::on});
     each_record([&](const RecordOperations &r) {
-        forget();
+        reset();
         void *object = make_object(h, r);
-        // They have no guard: a set slot goes along.
+        // They do not check the slot, and pass a set one on.
         err = EIO;
         EXPECT_EQ(lines_of([&] { r.offset_update(h, id, object, bytes(object) + table(r).base, &err); }),
                   offset_update_lines(r, top_level(r)));
@@ -79,8 +79,8 @@ void each_address(const std::function<void(const RecordOperations &, const Membe
     EXPECT_EQ(found, reference::members_of(reference::Class::address));
 }
 
-// What concerns one address while its owner is destroyed.
-Lines sweep_of(const Handle &h, const RecordOperations &r, const MemberOperations &m) {
+// The calls for one address while its owner is destroyed.
+Lines release_lines(const Handle &h, const RecordOperations &r, const MemberOperations &m) {
     recording::pause();
     void *object = r.create(h, id);
     recording::pause(false);
@@ -89,10 +89,10 @@ Lines sweep_of(const Handle &h, const RecordOperations &r, const MemberOperation
     recording::clear_log();
     r.destroy(h, id, object);
     Lines lines;
-    bool sweeping = false;
+    bool is_releasing = false;
     for (const std::string &line : recording::lines()) {
-        if (line == "ip_address_get_oid_count address") sweeping = true;
-        if (!sweeping) continue;
+        if (line == "ip_address_get_oid_count address") is_releasing = true;
+        if (!is_releasing) continue;
         lines.push_back(line);
         if (line == "ip_address_destroy_internal address 0") break;
     }
@@ -106,10 +106,10 @@ TEST_F(ReferenceSequence, ReferencesAreListedInBuffersOfEverySize) {
             Handle h;
             for (std::uintptr_t i = 0; i < n; ++i) h.knobs().address_oids.push_back(reinterpret_cast<void *>(1000 + i));
             Lines expected{"ip_address_get_oid_count address"};
-            const Lines lines = sweep_of(h, r, m);
+            const Lines lines = release_lines(h, r, m);
             if (n != 0) {
                 ASSERT_GT(lines.size(), 1u);
-                const std::string room = n <= 64 ? "local" : "elsewhere";  // few on the stack, many not
+                const std::string room = n <= 64 ? "local" : "elsewhere";  // few on the stack, many on the heap
                 expected.push_back("ip_address_get_object_references address " + room + " " + std::to_string(n));
             }
             for (std::uintptr_t i = 0; i < n; ++i) {
@@ -128,7 +128,7 @@ TEST_F(ReferenceSequence, CountedReferencesThatAreNotListedAreNull) {
             h.knobs().address_oids = {reinterpret_cast<void *>(1000)};
             h.knobs().address_oid_count = n;
             recording::clear_log();
-            const Lines lines = sweep_of(h, r, m);
+            const Lines lines = release_lines(h, r, m);
             ASSERT_EQ(lines.size(), n + 3);
             EXPECT_EQ(lines[2], "mirklib_lookup_and_update_oid_ref_count 1000 0");
             for (std::uint32_t i = 1; i < n; ++i) {
@@ -144,7 +144,7 @@ TEST_F(ReferenceSequence, ACountThatCannotBeDecrementedIsTraced) {
         void *oids[] = {reinterpret_cast<void *>(0x1001), reinterpret_cast<void *>(0x1002)};
         h.knobs().address_oids = {oids[0], oids[1]};
         h.knobs().oid_count_errors[oids[0]] = EPROTO;
-        EXPECT_EQ(sweep_of(h, r, m),
+        EXPECT_EQ(release_lines(h, r, m),
                   (Lines{"ip_address_get_oid_count address", "ip_address_get_object_references address local 2",
                          "mirklib_lookup_and_update_oid_ref_count 4097 0",
                          "skald_wrapper type 3 (ERR): " + name(r) +
@@ -162,12 +162,13 @@ TEST_F(ReferenceSequence, UnreadableReferencesStopTheDestruction) {
             h.knobs().address_oid_count = n;
             h.knobs().address_references_error = EPROTO;
             recording::clear_log();
-            EXPECT_EQ(sweep_of(h, r, m), (Lines{"ip_address_get_oid_count address",
-                                                "ip_address_get_object_references address " +
-                                                    std::string(n <= 64 ? "local " : "elsewhere ") + std::to_string(n),
-                                                "skald_wrapper type 3 (ERR): " + name(r) +
-                                                    " destroy: Failed to get oid references from object. Error " +
-                                                    std::strerror(EPROTO)}));
+            EXPECT_EQ(
+                release_lines(h, r, m),
+                (Lines{"ip_address_get_oid_count address",
+                       "ip_address_get_object_references address " + std::string(n <= 64 ? "local " : "elsewhere ") +
+                           std::to_string(n),
+                       "skald_wrapper type 3 (ERR): " + name(r) +
+                           " destroy: Failed to get oid references from object. Error " + std::strerror(EPROTO)}));
             EXPECT_EQ(h->last_error, 0u);
             EXPECT_EQ(h.live_blocks(), 1u);
         }
@@ -181,7 +182,7 @@ TEST_F(ReferenceSequence, ReferencesAreReadEvenIfCountingThemFailed) {
         h.knobs().address_oid_count = 2;
         h.knobs().address_oid_count_error = EPROTO;
         recording::clear_log();
-        EXPECT_EQ(sweep_of(h, r, m),
+        EXPECT_EQ(release_lines(h, r, m),
                   (Lines{"ip_address_get_oid_count address", "ip_address_get_object_references address local 2",
                          "skald_wrapper type 3 (ERR): " + name(r) +
                              " destroy: Failed to get oid references from object. Error " + std::strerror(EPROTO)}));

@@ -1,5 +1,4 @@
-// Object references: an object that others refer to outlives its destroy, and one that refers to others lowers their
-// counts.
+// Object references: a referenced object outlives its destroy, and one that refers to others decrements their counts.
 #include <cerrno>
 
 #include "values.h"
@@ -30,7 +29,7 @@ TEST(References, NoRecordHoldsAny) {
     });
 }
 
-// Unlike accessors, these trace when they find an error.
+// Unlike accessors, these operations trace if an error is set.
 TEST(References, ASetErrorIsTracedAndKept) {
     Handle h;
     const auto check = [&](auto &&count, auto &&references) {
@@ -136,7 +135,7 @@ struct Target {
     void *object = nullptr, *oid = nullptr;
 };
 
-// Objects that something refers to once.
+// Objects with one reference each.
 std::vector<Target> make_targets(mirk_handle *h, std::size_t n) {
     std::vector<Target> targets(n);
     for (Target &t : targets) {
@@ -233,7 +232,7 @@ TEST(ReferenceRelease, StopsTheDestructionWhenReferencesCannotBeRead) {
             for (const Target &t : targets) EXPECT_EQ(references_of(h, t), 1u);
             h->obj_free(h->mem_ctx, id, object);
             destroy(h, targets);
-            for (const Target &t : targets) h->obj_free(h->mem_ctx, id, t.object);  // these are still referred to
+            for (const Target &t : targets) h->obj_free(h->mem_ctx, id, t.object);  // these still have references
         }
         EXPECT_EQ(h.live_blocks(), 0u);
     });

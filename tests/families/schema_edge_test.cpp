@@ -1,5 +1,5 @@
-// Members that look as if they had a meaning, orders that might be taken for others, and lists that may be empty. The
-// library carries values: nothing relates one member to another.
+// Members that look as if they were related, orders that could be mistaken for others, and lists that may be empty. The
+// library only carries values: it relates no member to another.
 #include "value_reference.h"
 
 namespace {
@@ -7,7 +7,7 @@ namespace {
 using namespace forms;
 using reference::Class;
 
-// The value is what every form shows, and comes back from each.
+// Every form contains the value, and it is read back from each.
 void expect_carried(const reference::Record &value) {
     SCOPED_TRACE(value.table->name);
     const Handle h;
@@ -35,7 +35,7 @@ void expect_carried(const reference::Record &value) {
     EXPECT_EQ(record.hash(read.get(), 3), reference_hash(value, 3));
 }
 
-// Makes a member greater than it is in a fresh record.
+// Makes a member greater than in a new record.
 void raise(reference::Record &value, std::size_t i) {
     reference::Member &member = value.members[i];
     switch (value.table->members[i].cls) {
@@ -58,7 +58,7 @@ void raise(reference::Record &value, std::size_t i) {
     }
 }
 
-// A difference in an earlier member outweighs one in a later member.
+// A difference in an earlier member takes precedence over one in a later member.
 void expect_order(std::string_view record, const std::vector<std::string> &members) {
     const Handle h;
     for (std::size_t first = 0; first < members.size(); ++first) {
@@ -80,7 +80,7 @@ TEST(Schema, MembersAreComparedInTableOrder) {
         SCOPED_TRACE(std::string(record.record->name));
         std::vector<std::string> members;
         for (const reference::MemberTable &row : reference::record_table(record.record->name).members) {
-            // A count and what it counts decide as one here.
+            // A count and its elements are compared as one here.
             if (row.cls != Class::count && row.cls != Class::length) members.push_back(row.name);
         }
         expect_order(record.record->name, members);
@@ -121,7 +121,7 @@ TEST(Schema, NumbersThatNameAnAmountAllocateNothing) {
         entry["heap_max_elements"].number = amount - 1;
         entry["num_entries"].number = amount;
         entry["num_prefixes"].number = amount;
-        entry["heap_compare_func"].number = amount;  // a number on every path, and never called
+        entry["heap_compare_func"].number = amount;  // a number in every form, and never called
         expect_carried(entry);
         reference::Record table("lumo_tarn_dp_tt_table");
         for (const char *member : {"num_prefixes", "thruput_entries", "delay_entries"}) table[member].number = amount;
@@ -179,7 +179,7 @@ TEST(Schema, FlagsOfSelectionAndValidityHideNoMember) {
     expect_carried(wexa);
 }
 
-// An empty list takes nothing with it: its count stands, and so does what stands beside it.
+// An empty list hides nothing: its count and the members next to it remain.
 TEST(Schema, EmptyListsShowTheirCounts) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {

@@ -1,4 +1,4 @@
-// The calls of string operations: a string frees, announces, allocates, stores and announces its length.
+// The calls of string operations: a setter releases, notifies, allocates, stores and notifies the length.
 #include <cerrno>
 
 #include "recorded.h"
@@ -13,13 +13,13 @@ protected:
         each_member([&](const RecordOperations &record_, const MemberOperations &m_) {
             if (m_.text_set == nullptr) return;
             Handle made({tracking});
-            forget();
+            reset();
             h = &made;
             r = &record_;
             m = &m_;
             object = make_object(made, record_);
             body = plus("object", offset(record_, m_));
-            length = plus("object", place(record_, record_.members[index_of(record_, m_) - 1]).offset);
+            length = plus("object", member_layout(record_, record_.members[index_of(record_, m_) - 1]).offset);
             begin = {"mirk_clear_last_error", "mirklib_adjust_variant object " + name(record_) + " 0",
                      "mirk_get_instance_variant object 1 0"};
             err = 0;
@@ -39,7 +39,7 @@ TEST_F(StringSequence, SetReleasesNotifiesAllocatesAndStoresTheLength) {
         each(tracking, [&] {
             Lines end{"write_notify " + length + " 2"};
             if (tracking == Tracking::on) {
-                end.push_back("write_notify " + plus("object", table(*r).base + place(*r, *m).slot) + " 1");
+                end.push_back("write_notify " + plus("object", table(*r).base + member_layout(*r, *m).slot) + " 1");
             }
             end.push_back("mirk_set_instance_modified object 1 0 1");
             Lines first = begin;

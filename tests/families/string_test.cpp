@@ -1,4 +1,4 @@
-// The four strings: bodies without terminator, lengths of sixteen bits.
+// The four strings: bodies without a terminator, 16-bit lengths.
 #include <cerrno>
 
 #include "values.h"
@@ -158,18 +158,18 @@ TEST(Strings, TheLengthIsTruncatedTo16Bits) {
     Handle h;
     const std::string text(70000, 'q');
     each_string([&](const Subject &s) {
-        for (std::uint32_t wanted : {65534u, 65535u, 65536u, 65540u, 0xFFFF0003u}) {
+        for (std::uint32_t requested : {65534u, 65535u, 65536u, 65540u, 0xFFFF0003u}) {
             void *object = s.r.create(h, id);
             std::uint32_t err = 0;
             Events events(h);
-            s.m.text_set(h, id, object, text.c_str(), wanted, &err);
+            s.m.text_set(h, id, object, text.c_str(), requested, &err);
             EXPECT_EQ(err, 0u);
-            EXPECT_EQ(length(h, s, object), wanted & 0xFFFF);
-            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, wanted & 0xFFFF);
+            EXPECT_EQ(length(h, s, object), requested & 0xFFFF);
+            EXPECT_EQ(events.of(MIRK_PLATFORM_TESTING_ALLOC).at(0).size, requested & 0xFFFF);
             std::vector<char> read_back(65536 + 1);
             s.m.text_get(h, id, object, read_back.data(), 65536, &err);
             EXPECT_EQ(err, 0u);
-            EXPECT_EQ(std::string(read_back.data()), text.substr(0, wanted & 0xFFFF));
+            EXPECT_EQ(std::string(read_back.data()), text.substr(0, requested & 0xFFFF));
             s.r.destroy(h, id, object);
         }
     });
@@ -187,7 +187,7 @@ TEST(Strings, AnEmptyTextAllocatesABlockOfZeroBytes) {
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(length(h, s, object), 0u);
             EXPECT_EQ(h.live_blocks(), 2u);
-            h.fail_alloc(1);  // no memory is no failure when none is needed
+            h.fail_alloc(1);  // null is not a failure if no bytes are needed
             s.m.text_set(h, id, object, "abc", 0, &err);
             EXPECT_EQ(err, 0u);
             EXPECT_EQ(body(s, object), nullptr);
@@ -215,7 +215,7 @@ TEST(Strings, AFailedAllocationLosesTheOldBodyAndKeepsTheLength) {
             EXPECT_EQ(body(s, object), nullptr);
             EXPECT_EQ(length(h, s, object), 3u);
             EXPECT_EQ(mirk_get_instance_modified(object, 1, 0), 0u);
-            // What stands beside null counts nothing, and everything goes on.
+            // A length without a body counts no characters, and all operations still work.
             char text[8] = "#######";
             err = 0;
             s.m.text_get(h, id, object, text, sizeof text, &err);

@@ -16,7 +16,7 @@ constexpr std::uint32_t id = 7;
 
 class RenderingSequence : public testing::Test {
 protected:
-    // From here on the calls count; the object's block, its elements and the buffer are known by name.
+    // From here on calls are recorded; the object's block, its elements and the buffer have names.
     void watch(void *object, std::size_t size, void *block = nullptr, std::size_t block_size = 0) {
         recording::clear_names();
         recording::name_region("object", object, size);
@@ -92,7 +92,7 @@ TEST_F(RenderingSequence, PrintShowsCountsElementsAndStrings) {
     lumo_tarn_cl_appl_data_destroy(h, id, data);
 }
 
-// Nothing looks at the slot between members: all are called, and do nothing. Elements and nested records end at once.
+// The slot is not checked between members: each is called and does nothing. Elements and nested records return at once.
 TEST_F(RenderingSequence, PrintContinuesAfterAnError) {
     Handle h;
     lumo_tarn_dp_appl_cfg *config = lumo_tarn_dp_appl_cfg_create(h, id);
@@ -180,7 +180,7 @@ TEST_F(RenderingSequence, XmlReadsStatesOnATrackingHandleOnly) {
     }
 }
 
-// Unlike text, XML looks at the slot in front of each member; end tags are asked for all the same.
+// Unlike text, XML checks the slot before each member; end tags are written in any case.
 TEST_F(RenderingSequence, XmlStopsItsMembersAtAnError) {
     Handle h;
     lumo_tarn_cl_appl_data *data = applications(h, false);

@@ -64,7 +64,7 @@ TEST(Text, ARecordWithoutABodyLeavesItsBraceOpen) {
         "    flags@u_int32:5\n"
         "??}\n"
         "}\n";
-    // The line in front ends in a NUL, and the byte behind it is as it was.
+    // The line before ends with a NUL, and the byte after it is unchanged.
     expected.replace(expected.find("??"), 2, std::string("\0#", 2));
     EXPECT_EQ(written.text(), expected);
 
@@ -80,7 +80,8 @@ TEST(Text, EveryByteIsWrittenWithoutIndentation) {
     EXPECT_EQ(std::strlen(written.buffer.c_str()), written.result);
 }
 
-// The blanks of the closing line fall on those of the opening line, and the bytes in front of the brace are counted.
+// The blanks of the closing line are written over those of the opening line, and the bytes before the brace are only
+// counted.
 TEST(Text, BytesBeforeANestedBraceAreNotWritten) {
     const Handle h;
     const Instance exmem(h, operations("lumo_tarn_exmem_info"));
@@ -149,7 +150,7 @@ TEST(Text, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
                                                                  instance.get(), static_cast<std::int32_t>(room), &err);
             ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
             ASSERT_LE(result, room);
-            // The last line ends in a NUL, so that the text alone does not do.
+            // The last line ends with a NUL, so room for the text alone is not enough.
             ASSERT_EQ(err != 0, room <= whole.size()) << room;
             ASSERT_EQ(area.substr(0, result), whole.substr(0, result)) << room;
         }

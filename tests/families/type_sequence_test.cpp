@@ -1,4 +1,4 @@
-// The calls that private types and bundle handlers cost.
+// The calls that private types and bundle handlers make.
 #include <cerrno>
 
 #include "lumo_ui_tarn.h"

@@ -1,4 +1,4 @@
-// The static description of each type, private copies of it, and the list of modules that leads to both.
+// The static description of each type, its private copies, and the list of modules that refers to both.
 #include <cerrno>
 #include <cstdarg>
 #include <set>
@@ -71,7 +71,7 @@ TEST(TypeTable, DescribesEachTypeOnce) {
         reference::Luid luid;
         std::memcpy(luid.data(), type->luid, 16);
         EXPECT_EQ(reference::luid_text(luid), type->luid_text);
-        // The text fields are padded with NULs to their ends.
+        // Text fields are padded with NULs.
         for (std::size_t k = all[i].name.size(); k < sizeof type->name; ++k) EXPECT_EQ(type->name[k], '\0');
     }
     EXPECT_EQ(found->types[all.size()], nullptr);
@@ -243,7 +243,7 @@ TEST(BundleHandler, DoesNotChangeTheVariablesOfBundles) {
 }
 
 TEST(TypesDeathTest, AnObjectWithoutATypeAborts) {
-    // Without a copy and without an answer from the runtime there is nothing to count in.
+    // Without a copy and without an answer from the runtime there are no counters.
     Handle h;
     alignas(8) std::uint8_t object[64] = {};
     std::uint32_t err = 0;

@@ -9,7 +9,7 @@ using namespace forms;
 
 int sign(std::int32_t order) { return order < 0 ? -1 : order > 0 ? 1 : 0; }
 
-// Values that agree in much, so that every member has its turn to decide.
+// Values with many equal members, so that each member decides in some pair.
 std::vector<reference::Record> related_values(std::string_view record, std::uint64_t seed, std::size_t n) {
     reference::Generator random(seed * 31);
     std::vector<reference::Record> values{random_value(record, seed, {.max_elements = 2, .states = false})};
@@ -73,7 +73,7 @@ TEST(Compare, NullIsLessThanEveryInstance) {
     }
 }
 
-// All that is not a value: variants, flags and states, at any depth.
+// What does not belong to the value: variants, flags and states, at any depth.
 void change_all_but_the_values(reference::Record &value) {
     value.variant = -3;
     value.ra = reference::ReferenceData{5, 6};
@@ -97,7 +97,7 @@ TEST(Compare, OrderAndHashIgnoreHeaderAndState) {
         const Instance b(tracking, other);
         EXPECT_EQ(record.compare(a.get(), b.get()), 0) << record.record->name;
         EXPECT_EQ(record.hash(a.get(), 1), record.hash(b.get(), 1)) << record.record->name;
-        b.header()->obj_flag ^= 16;  // the mark of a change
+        b.header()->obj_flag ^= 16;  // the modified mark
         b.header()->home_variant = -9;
         EXPECT_EQ(record.compare(a.get(), b.get()), 0) << record.record->name;
 
@@ -114,11 +114,11 @@ TEST(Compare, AnElementDecides) {
     for (int i = 0; i < 4; ++i) a.append("tc_list");
     reference::Record b = a;
     a["tc_list"].items[2]["id"].number = 1;
-    b["tc_list"].items[3]["id"].number = 2;  // no longer of interest
+    b["tc_list"].items[3]["id"].number = 2;  // comes after the difference
     const RecordOperations &list = operations("lumo_tarn_dp_tc_list");
     EXPECT_EQ(list.compare(Instance(h, a).get(), Instance(h, b).get()), 1);
     EXPECT_EQ(list.compare(Instance(h, b).get(), Instance(h, a).get()), -1);
-    // The count comes first, whatever the elements hold.
+    // The count is compared first, whatever the elements are.
     b["tc_list"].items.pop_back();
     EXPECT_EQ(list.compare(Instance(h, b).get(), Instance(h, a).get()), -1);
 }
@@ -158,7 +158,7 @@ TEST(Compare, StringsAreComparedByLengthThenByBytes) {
     a["proto_name"].text = "abc";
     b["proto_name"].text = "ab\xE9";
     const std::int32_t order = appl.compare(Instance(h, a).get(), Instance(h, b).get());
-    // The very number of memcmp, as the library at hand gives it for bytes that the compiler does not know.
+    // The exact result of memcmp, as this C library returns it for bytes that the compiler does not know.
     int (*volatile memory_order)(const void *, const void *, std::size_t) = std::memcmp;
     EXPECT_EQ(order, memory_order(a["proto_name"].text.data(), b["proto_name"].text.data(), 3));
     EXPECT_LT(order, 0);

@@ -1,4 +1,4 @@
-// Hashes of records, which all sides of a system have to agree on.
+// Hashes of records, which all peers have to compute alike.
 #include <set>
 
 #include "value_reference.h"
@@ -48,7 +48,7 @@ TEST(Hash, EqualValuesHaveEqualHashesAndOthersRarely) {
     }
 }
 
-// A count counts once as a member and once at the head of what it counts, also when that is nothing.
+// A count is hashed once as a member and once before what it counts, even if that is empty.
 TEST(Hash, ACountIsHashedTwice) {
     const Handle h;
     const std::uint32_t zero = 0;
@@ -68,7 +68,7 @@ TEST(Hash, ALengthIsHashedTwiceThenTheCharacters) {
     const std::uint16_t three = 3;
     const std::uint16_t zero = 0;
     std::uint32_t seed = SuperFastHash("tcp", 3, u_int16_hash(&three, u_int16_hash(&three, 4)));
-    // Nothing in the string, and yet it has its turn.
+    // The string is empty, and still hashed.
     seed = SuperFastHash("", 0, u_int16_hash(&zero, u_int16_hash(&zero, seed)));
     seed = u_int16_hash(&zero, u_int16_hash(&zero, seed));
     EXPECT_EQ(operations(value).hash(Instance(h, value).get(), 4), seed);

@@ -1,4 +1,4 @@
-// Finding and clearing the marks of changes.
+// Finding and clearing modified marks.
 #include "value_support.h"
 
 namespace {
@@ -31,7 +31,7 @@ TEST(Propagate, TheRecordsOwnMarkIsReportedAndClearedOnce) {
     }
 }
 
-// Every member that can bear a mark, in table order; elements and characters are not among them.
+// Each member that can have a mark, in table order; elements and characters cannot.
 TEST(Propagate, OneCallClearsOneMark) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
@@ -56,7 +56,7 @@ TEST(Propagate, OneCallClearsOneMark) {
         mark(instance.get());
         for (std::size_t call = 0; call < marks; ++call) {
             ASSERT_EQ(walk(h, instance), 1u) << record.record->name << " " << call;
-            // The own mark goes with the first call, whatever the walk found.
+            // The record's own mark is cleared by the first call, whatever the walk found.
             ASSERT_FALSE(marked(instance.get()));
         }
         for (void *object : objects) ASSERT_FALSE(marked(object));
@@ -121,7 +121,7 @@ TEST(Propagate, StatesDoNotChange) {
 TEST(Propagate, NullIsTracedAndHasNoMark) {
     const Handle h;
     for (const RecordOperations &record : tarn::reflect::records()) {
-        const Instance any(h, record);  // so that the trace module is known
+        const Instance any(h, record);  // so that the trace module is registered
         const Trace trace;
         EXPECT_EQ(record.type_type_backpropagate(h, id, nullptr, nullptr), 0u);
         EXPECT_EQ(trace.lines(),

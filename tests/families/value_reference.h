@@ -1,11 +1,11 @@
-// Order and hash of reference values, worked out member by member.
+// Order and hash of reference values, computed member by member.
 #pragma once
 
 #include "value_support.h"
 
 namespace forms {
 
-// -1, 0 or 1, as the library's order has to come out; header, variants and states play no part.
+// -1, 0 or 1: the sign that the library must return. Header, variants and states are ignored.
 inline int reference_order(const reference::Record &a, const reference::Record &b) {
     using reference::Class;
     const auto numbers = [](std::uint64_t x, std::uint64_t y) { return x < y ? -1 : x > y ? 1 : 0; };
@@ -18,7 +18,8 @@ inline int reference_order(const reference::Record &a, const reference::Record &
                 order = numbers(x.number != 0, y.number != 0);
                 break;
             case Class::enumeration: {
-                // By the distance as a signed number, which is an order for enumerators but not for any 32-bit number.
+                // By the difference as a signed number, which is an order for enumerators but not for all 32-bit
+                // numbers.
                 const auto distance = static_cast<std::int32_t>(static_cast<std::uint32_t>(x.number - y.number));
                 order = distance < 0 ? -1 : distance > 0 ? 1 : 0;
                 break;
@@ -41,7 +42,7 @@ inline int reference_order(const reference::Record &a, const reference::Record &
     return 0;
 }
 
-// By the operations that the runtime offers for single values.
+// By the runtime's operations for single values.
 inline std::uint32_t reference_hash(const reference::Record &value, std::uint32_t seed);
 
 inline std::uint32_t integer_hash(unsigned width, std::uint64_t number, std::uint32_t seed) {
@@ -83,7 +84,7 @@ inline std::uint32_t member_hash(const reference::Record &owner, std::size_t i, 
         case Class::nested:
             return reference_hash(member.items[0], seed);
         case Class::string:
-            // The number in front of it a second time, then the characters.
+            // The length a second time, then the characters.
             seed = member_hash(owner, i - 1, seed);
             return SuperFastHash(member.text.data(), static_cast<std::uint32_t>(member.text.size()), seed);
         case Class::array:
@@ -136,7 +137,7 @@ inline void change(reference::Record &value, reference::Generator &random) {
             return;
         case Class::count:
         case Class::length:
-            // Follows from what stands behind it.
+            // Follows from the array or string after it.
             return;
     }
 }

@@ -1,4 +1,4 @@
-// What the tests of text, XML and values share: documents, the trace, renderings into watched buffers.
+// Shared by the tests of text, XML and values: documents, the trace, checked buffers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -26,24 +26,24 @@ using kit::Lines;
 using kit::Trace;
 using kit::Tracking;
 
-// Strings as setters take them: they end at a NUL.
-inline void drop_nuls(reference::Record &value) {
+// Strings as setters accept them: they end at a NUL.
+inline void replace_nuls(reference::Record &value) {
     for (reference::Member &member : value.members) {
         for (char &c : member.text) {
             if (c == '\0') c = '\1';
         }
-        for (reference::Record &item : member.items) drop_nuls(item);
+        for (reference::Record &item : member.items) replace_nuls(item);
     }
 }
 
 inline reference::Record random_value(std::string_view record, std::uint64_t seed,
                                       reference::GeneratorOptions options = {}) {
     reference::Record value = reference::Generator(seed, options).make(record);
-    drop_nuls(value);
+    replace_nuls(value);
     return value;
 }
 
-// Between them every kind of member, at some depth.
+// Together they contain every kind of member, at some depth.
 inline std::vector<reference::Record> rich_values() {
     reference::Record processor("lumo_tarn_lumo_info");
     processor["direction"].number = 2;
@@ -58,7 +58,7 @@ inline std::vector<reference::Record> rich_values() {
 
 inline constexpr char blank = '#';
 
-// What a rendering left in a buffer that was full of blank, and what it answered.
+// Result of a rendering into a buffer that was full of blank.
 struct Written {
     std::uint32_t result = 0;
     std::uint32_t err = 0;
@@ -89,7 +89,7 @@ inline Written to_xml(const Handle &h, const Instance &instance, std::string_vie
     });
 }
 
-// Reads a document whose root is named as the record.
+// Reads a document whose root element has the name of the record.
 inline std::uint32_t read_document(const Handle &h, const Instance &instance, const std::string &text) {
     const Document document(text);
     std::uint32_t err = 0;

@@ -6,7 +6,7 @@ namespace families {
 
 namespace {
 
-// The highest index comes first, so that an array grows once.
+// Sets the highest index first, so that an array grows once.
 std::uint32_t fill_array(mirk_handle *h, const MemberOperations &m, void *object, std::uint32_t seed, Extent extent) {
     const RecordOperations &element = nested_record(m);
     std::uint32_t first_error = 0;
@@ -89,7 +89,7 @@ void *filled(mirk_handle *h, const RecordOperations &r, std::uint32_t seed, Exte
 
 std::vector<std::string> content(mirk_handle *h, const RecordOperations &r, void *object) {
     std::vector<std::string> lines;
-    std::uint64_t last_number = 0;  // a count stands right in front of its array
+    std::uint64_t last_number = 0;  // a count directly precedes its array
     for (const MemberOperations &m : r.members) {
         std::uint32_t err = 0;
         const std::string label = name(m);

@@ -7,12 +7,12 @@ namespace families {
 
 struct Extent {
     std::uint32_t elements = 2;  // of every array
-    int depth = 3;               // arrays farther down stay empty
+    int depth = 3;               // deeper arrays stay empty
     bool states = false;         // state bytes too, on a tracking handle
 };
 
-// Everything that can be set gets a value that follows from the seed. Errors are put up with, so that a fill can be
-// tried under failing allocations; the first one is the result.
+// Sets all members to values that follow from the seed. Continues after errors, so that filling can be tested with
+// failing allocations; returns the first one.
 std::uint32_t fill(mirk_handle *h, const RecordOperations &r, void *object, std::uint32_t seed, Extent extent = {});
 
 void *filled(mirk_handle *h, const RecordOperations &r, std::uint32_t seed, Extent extent = {});

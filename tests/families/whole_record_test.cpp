@@ -1,4 +1,4 @@
-// All values of a record at once, all state bytes at once, and which members there are.
+// get_all, set_all, the fill of all state bytes, and the validity of members.
 #include <cerrno>
 
 #include "values.h"
@@ -18,7 +18,7 @@ struct Numbers {
     void *out[64];
 };
 
-// Integers, counts and lengths, booleans, enumerations; a count stands in front of its array.
+// Integers, counts and lengths, booleans, enumerations; a count precedes its array.
 bool is_listed_by_get_all(const MemberOperations &m) { return m.get_value != nullptr; }
 bool is_listed_by_set_all(const MemberOperations &m) { return is_scalar(m); }
 
@@ -122,7 +122,7 @@ TEST(WholeRecord, GetAllOfNullGivesZeros) {
         std::uint32_t err = 0;
         r.get_all(h, id, nullptr, numbers.out, &err);
         for (std::uint64_t value : numbers.value) EXPECT_EQ(value, 0u);
-        // No member that is read is there, so nothing can be set either.
+        // There is no such member, so there is nothing to set either.
         r.set_all(h, id, nullptr, numbers.value, &err);
         h->last_error = 0;
     });
@@ -146,7 +146,7 @@ TEST(WholeRecord, TheFillSetsEveryStateByteWithoutANotification) {
 
 TEST(WholeRecord, TheFillReachesElements) {
     Handle h(Tracking::on);
-    h.allow_lost_blocks();  // the vectors of the elements' state bytes
+    h.allow_lost_blocks();  // the vectors of element states
     each_member([&](const RecordOperations &r, const MemberOperations &m) {
         if (m.element_set == nullptr) return;
         const RecordOperations &e = nested_record(m);

@@ -30,7 +30,7 @@ TEST(WireBlocks, AnEmptyArrayIsOnlyItsCount) {
             const Instance instance(handle, value);
             const Bytes frame = bridge::marshal(handle, instance.record(), instance.get()).bytes;
             EXPECT_TRUE(bridge::same(reference::encode(value, handle.tracks()), frame));
-            // The length counts one byte more for each empty array or string of a tracked frame.
+            // len counts one byte more for each empty array or string of a tracked frame.
             EXPECT_EQ(instance.record().len(handle, id, instance.get()), reference::length(value, handle.tracks()));
             EXPECT_EQ(instance.record().len(handle, id, instance.get()) > frame.size(),
                       handle.tracks() && bridge::owns_blocks(table));
@@ -66,9 +66,10 @@ TEST(WireBlocks, AStringThatDoesNotFitIsTruncated) {
         EXPECT_EQ(written.error, 90U);
         EXPECT_EQ(handle->last_error, 90U);
         EXPECT_EQ(written.size, 11U);
-        // The length in front still tells of eight characters, three of which there are.
+        // The length still says eight characters, three of which are there.
         EXPECT_EQ(Bytes(written.buffer.begin() + 6, written.buffer.end()), (Bytes{0, 8, 'a', 'b', 'c'}));
-        EXPECT_EQ(written.slack, handle.tracks() ? 0 : 0xA5);  // states go on, the last one of the record is 0
+        EXPECT_EQ(written.guard_byte,
+                  handle.tracks() ? 0 : 0xA5);  // states are still written; the record's last one is 0
     }
 }
 
@@ -90,8 +91,8 @@ TEST(WireBlocks, AVectorThatDoesNotFitIsTruncatedWithoutAnError) {
         const Written written = write(handle, instance, whole.size() - missing);
         EXPECT_EQ(written.error, 0U);
         EXPECT_EQ(written.size, whole.size() - missing);
-        // Only with four bytes missing the state of the whole stands in the slack.
-        EXPECT_EQ(written.slack, missing == 4 ? 0x31 : 0xA5);
+        // Only if four bytes are missing, the state of the whole is the guard byte.
+        EXPECT_EQ(written.guard_byte, missing == 4 ? 0x31 : 0xA5);
     }
 }
 
@@ -106,7 +107,7 @@ TEST(WireBlocks, AFrameThatEndsInAVectorGivesThePresentStates) {
         for (std::size_t i = 0; i < std::min<std::size_t>(missing, 3); ++i) {
             expected["tc_list"].element_state[2 - i] = 0;
         }
-        // The state of the whole is taken from the slack, if it would stand there.
+        // The state of the whole is read from the guard byte if the frame ends just before it.
         if (missing == 4) expected["tc_list"].state = 0x99;
         EXPECT_TRUE(bridge::same(expected, instance.value()));
     }
@@ -115,7 +116,7 @@ TEST(WireBlocks, AFrameThatEndsInAVectorGivesThePresentStates) {
 TEST(WireBlocks, ElementsPastTheEndHaveNoStates) {
     const Handle handle(Tracking::on);
     Bytes frame = reference::encode(tc_list(1), true);
-    // The jump of the element, behind the list's head, the count with its state, and the element's variant and flag.
+    // The element's jump, after the list's head, the count with its state, and the element's variant and flag.
     const std::size_t jump = 6 + 4 + 1 + 2;
     frame[jump] = frame[jump + 1] = 0;
     frame[jump + 2] = frame[jump + 3] = 0xFF;
@@ -237,7 +238,7 @@ TEST(WireBlocks, ACountOrLengthWithoutABlockIsWrittenAlone) {
                              bridge::marshal(handle, appl.record(), appl.get()).bytes));
 }
 
-// A fill of the whole state area covers the vector's address too; then each element's state is that byte.
+// Filling the whole state area also overwrites the vector's address; then each element's state is that byte.
 TEST(WireBlocks, AFilledStateAreaIsWrittenAsItsByte) {
     Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(2));
@@ -247,7 +248,7 @@ TEST(WireBlocks, AFilledStateAreaIsWrittenAsItsByte) {
     handle.expect_lost_blocks(1);  // the vector
 }
 
-// Calls of the runtime, of which a walk may make only so many for each element.
+// Calls of the runtime, which a walk may make only so often per element.
 struct Calls {
     std::size_t count = 0, allocations = 0;
 
@@ -295,7 +296,7 @@ TEST(WireBlocks, TheCostOfAnArrayIsLinearInItsElements) {
         const auto expect_linear = [](std::size_t a, std::size_t b, std::size_t c) { EXPECT_EQ(c, a + (b - a) * 99); };
         expect_linear(few.reading.count, more.reading.count, many.reading.count);
         expect_linear(few.writing.count, more.writing.count, many.writing.count);
-        // One block, and one vector.
+        // One block and one vector.
         EXPECT_EQ(many.reading.allocations, tracking == Tracking::on ? 2U : 1U);
         EXPECT_EQ(many.writing.allocations, 0U);
     }

@@ -1,4 +1,4 @@
-// Frames of random instances of every record, held against the reference codec byte for byte, and read back.
+// Frames of random instances of every record, compared with the reference codec byte for byte, and read back.
 #include <gtest/gtest.h>
 
 #include "reference/lengths.h"
@@ -8,7 +8,7 @@ namespace {
 
 using namespace wire;
 
-// For every record, under every kind of tracking, some values of each kind of instance.
+// For every record, in each tracking mode, some values of each kind of instance.
 template <class Check>
 void for_each_value(int values, Check &&check) {
     const GeneratorOptions kinds[] = {
@@ -55,7 +55,7 @@ TEST(WireProperties, LengthsEqualThoseOfTheReference) {
     }
 }
 
-// Whether or not each of two peers tracks states, they read each other; states arrive where both do.
+// Any two peers can read each other, whether they track states or not; states arrive if both do.
 TEST(WireProperties, AFrameReadIntoANewInstanceGivesTheValue) {
     for (const Tracking tracking : kit::every_tracking) {
         const Handle handle(tracking);
@@ -77,7 +77,7 @@ TEST(WireProperties, AFrameReadIntoANewInstanceGivesTheValue) {
 TEST(WireProperties, AFrameReadOverAnotherGivesTheValue) {
     for (const Tracking tracking : kit::every_tracking) {
         Handle handle(tracking);
-        handle.allow_lost_blocks();  // what elements of a kept block had
+        handle.allow_lost_blocks();  // what the elements of a reused block owned
         const GeneratorOptions filled{.min_elements = 1, .max_elements = 3, .min_text = 1, .max_text = 9};
         for (const RecordTable &table : reference::records()) {
             Generator generator(7, filled);
@@ -87,14 +87,14 @@ TEST(WireProperties, AFrameReadOverAnotherGivesTheValue) {
                 const Bytes frame = reference::encode(value, handle.tracks());
                 EXPECT_EQ(read(handle, instance, frame, 1).consumed, frame.size());
                 const Record seen = instance.value();
-                // What a budget left empty brings no state of its own.
+                // Arrays and strings left empty by the budget have no state in the frame.
                 EXPECT_TRUE(bridge::same(frame, reference::encode(seen, handle.tracks())));
             }
         }
     }
 }
 
-// Through the library alone: no byte of the reference codec in between.
+// Through the library alone, without the reference codec.
 TEST(WireProperties, PeersReadWhatPeersWrote) {
     for (const Tracking writer : kit::every_tracking) {
         for (const Tracking reader : kit::every_tracking) {
@@ -177,7 +177,7 @@ TEST(WireProperties, FillingAndReadingBackGivesTheValue) {
         for_each_value(2, [&](const Record &value) {
             const Instance instance(handle, value);
             const Record seen = instance.value();
-            // Without tracking there are no states to be seen.
+            // Without tracking there are no states.
             EXPECT_TRUE(handle.tracks() ? bridge::same(value, seen)
                                         : bridge::same(reference::as_received(value, false), seen));
         });

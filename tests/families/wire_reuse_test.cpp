@@ -1,4 +1,4 @@
-// What a read does to an instance that has arrays and strings already, with reuse and without.
+// Reading into an instance that already has arrays and strings, with reuse and without.
 #include <gtest/gtest.h>
 
 #include "reference/lengths.h"
@@ -68,7 +68,7 @@ TEST(WireReuse, AnUnchangedCountKeepsTheBlockAndReplacesTheVector) {
     EXPECT_EQ(array_of(instance), block);
     EXPECT_NE(vector_of(handle, instance), vector);
     EXPECT_TRUE(bridge::same(other, instance.value()));
-    // The former vector is not released.
+    // The old vector is not released.
     EXPECT_EQ(handle.live_blocks(), blocks + 1);
     handle.expect_lost_blocks(1);
 }
@@ -76,7 +76,7 @@ TEST(WireReuse, AnUnchangedCountKeepsTheBlockAndReplacesTheVector) {
 TEST(WireReuse, AReusedBlockIsClearedBeforeItIsRead) {
     const Handle handle(Tracking::none);
     const Instance instance(handle, tc_list(2));
-    // A frame that ends behind the count: the elements are as fresh.
+    // A frame that ends after the count: the elements are as new.
     const Bytes whole = reference::encode(tc_list(2), false);
     const Outcome outcome = read(handle, instance, Bytes(whole.begin(), whole.begin() + 10), 1);
     EXPECT_EQ(outcome.error, 12U);
@@ -156,7 +156,7 @@ TEST(WireReuse, AnEmptyStringKeepsTheOldBlockAndState) {
         expect_good(read(handle, instance, frame, reuse), frame);
         EXPECT_EQ(string_of(instance), body);
         EXPECT_EQ(instance.value()["proto_name"].text, "");
-        // There is no byte on the wire, so the one that was there stays.
+        // The frame has no byte for it, so the old one stays.
         EXPECT_EQ(instance.value()["proto_name"].state, 3);
     }
 }
@@ -172,7 +172,7 @@ TEST(WireReuse, AFrameWithoutStatesKeepsTheStates) {
     EXPECT_EQ(instance.value()["tc_list"].element_state, tc_list(3)["tc_list"].element_state);
 }
 
-// A vector that is too short for the elements would be read behind its end.
+// A vector that is too short for the elements would be read past its end.
 TEST(WireReuse, AVectorOfAnotherCountIsReleasedByAFrameWithoutStates) {
     const Handle handle(Tracking::on);
     const Instance instance(handle, tc_list(3));
@@ -213,7 +213,7 @@ TEST(WireReuse, AFilledStateAreaHasNoVectorToRelease) {
         const Bytes frame = reference::encode(tc_list(count, 6), true);
         expect_good(read(handle, instance, frame, 1), frame);
         EXPECT_TRUE(bridge::same(tc_list(count, 6), instance.value()));
-        handle.expect_lost_blocks(1);  // the vector that the fill covered
+        handle.expect_lost_blocks(1);  // the vector whose address was overwritten
     }
 }
 

@@ -1,4 +1,4 @@
-// The calls that frames make of the runtime, in their order, which a runtime sees and relies on.
+// The calls of the runtime for frames, in their order, which a runtime may rely on.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -16,19 +16,19 @@ using tarn::reflect::RecordOperations;
 
 constexpr std::uint32_t id = 7;
 
-// A frame with a byte of slack, and an instance, both known by name.
+// A frame with its guard byte, and an instance, both as named regions.
 class Wire {
 public:
     Wire(std::string_view record, Tracking tracking)
         : handle({.tracking = tracking}), record_(*tarn::reflect::find_record(record)) {
         instance = record_.create(handle, id);
-        forget();
+        reset();
     }
     ~Wire() { record_.destroy(handle, id, instance); }
     Wire(const Wire &) = delete;
     Wire &operator=(const Wire &) = delete;
 
-    void forget() {
+    void reset() {
         recording::clear_names();
         recording::name_region("buffer", buffer.data(), buffer.size());
         recording::name_region("object", instance, handle.block_size(instance));
@@ -42,7 +42,7 @@ public:
         err = 0;
         return record_.unmarshal(handle, id, buffer.data(), instance, length, reuse, &err);
     }
-    // The frame of an array of so many elements, in the buffer; the instance has none.
+    // The frame of an array with that many elements, in the buffer; the instance has none.
     std::uint32_t frame_of(std::uint32_t elements) {
         void *source = record_.create(handle, id);
         const auto &array = record_.members[1];
@@ -54,7 +54,7 @@ public:
         of.destroy(handle, id, element);
         record_.destroy(handle, id, source);
         EXPECT_EQ(err, 0U);
-        forget();
+        reset();
         return size;
     }
     void text(std::size_t member, const char *value) {
@@ -72,7 +72,7 @@ private:
     const RecordOperations &record_;
 };
 
-// What happens to memory and offsets.
+// The calls for memory and offsets.
 Lines memory_lines() {
     return recording::lines_of({"write_notify", "obj_alloc", "obj_free", "mirklib_update_sttr_offset",
                                 "mirk_hd_mapping_destroy", "mirk_store_err"});
@@ -105,7 +105,7 @@ TEST(WireSequence, AFrameIsWrittenForwardAndItsJumpLast) {
 TEST(WireSequence, AFlatReadReadsEachMemberOnceWithoutANotification) {
     Wire w("lumo_tarn_fdb_mem_info", Tracking::on);
     const std::uint32_t size = w.write();
-    w.forget();
+    w.reset();
     EXPECT_EQ(w.read(size, 1), size);
     EXPECT_EQ(recording::lines(),
               (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal buffer local 25",
@@ -154,7 +154,7 @@ TEST(WireSequence, AnUnchangedCountReplacesTheVectorOnly) {
     Wire w("lumo_tarn_dp_debug_setting_data", Tracking::on);
     const std::uint32_t two = w.frame_of(2);
     w.read(two, 0);
-    w.forget();
+    w.reset();
     w.read(two, 1);
     EXPECT_EQ(
         recording::lines_of({"obj_alloc", "obj_free", "mirk_hd_mapping_destroy", "mirklib_update_sttr_offset"}),
@@ -213,31 +213,31 @@ TEST(WireSequence, AStringIsReleasedNotifiedAndAllocated) {
         Wire w("lumo_tarn_cl_kesh_appl", tracking);
         w.text(1, "abc");
         const std::uint32_t size = w.write();
-        w.forget();
+        w.reset();
         w.read(size, 1);
         EXPECT_EQ(memory_lines(), Lines{});
         w.text(1, "abcd");
-        w.forget();
+        w.reset();
         w.read(size, 1);
         EXPECT_EQ(memory_lines(),
                   (Lines{"obj_free earlier", "write_notify object+16 8", "write_notify object+16 8", "obj_alloc 3"}));
-        w.forget();
+        w.reset();
         w.read(size, 0);
         EXPECT_EQ(memory_lines(), (Lines{"write_notify object+16 8", "obj_alloc 3"}));
     }
 }
 
-// Unlike the states of single values, which are stepped over there too.
+// Unlike the states of single values, which are skipped there.
 TEST(WireSequence, ASkippedStateOfAStringDoesNotSkipTheLastByte) {
     Wire w("lumo_tarn_cl_kesh_appl", Tracking::off);
     w.text(1, "abc");
     w.handle.set_tracking(Tracking::on);
     w.write();
     w.handle.set_tracking(Tracking::off);
-    w.forget();
+    w.reset();
     w.read(12, 1);
     EXPECT_EQ(recording::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+11 object+24 1 1");
-    w.forget();
+    w.reset();
     w.read(13, 1);
     EXPECT_EQ(recording::lines_of({"u_int16_unmarshal"})[1], "u_int16_unmarshal buffer+12 object+24 1 1");
 }
@@ -251,9 +251,9 @@ TEST(WireSequence, RaDataFollowTheFlag) {
                      "_mirk_instance_variant_marshal", "mirk_get_instance_obj_flag", "_mirk_instance_obj_flag_marshal",
                      "mirklib_get_ra_data", "_mirk_instance_ra_data_marshal", "_mirk_variant_jump_marshal",
                      "u_int32_marshal", "u_int32_marshal", "u_int64_marshal", "_mirk_variant_jump_marshal"}));
-    // The length knows nothing of them.
+    // len does not count them.
     EXPECT_EQ(size, w.record().len(w.handle, id, w.instance) + recording::ra_wire_size);
-    w.forget();
+    w.reset();
     EXPECT_EQ(w.read(size, 0), size);
     EXPECT_EQ(functions(),
               (Lines{"mirk_clear_last_error", "_mirk_instance_variant_unmarshal", "_mirk_instance_obj_flag_unmarshal",
@@ -266,7 +266,7 @@ TEST(WireSequence, UnreadableRaDataAreEmpty) {
     static_cast<mirk_object *>(w.instance)->obj_flag |= 32;
     const std::uint32_t size = w.write();
     w.handle.knobs().errors["_mirk_instance_ra_data_unmarshal"] = 5;
-    w.forget();
+    w.reset();
     w.read(size, 0);
     EXPECT_EQ(recording::lines_of({"mirklib_update_ra_all"}), (Lines{"mirklib_update_ra_all object 0 0"}));
     w.handle.knobs().errors.clear();
@@ -286,18 +286,18 @@ TEST(WireSequence, ADowngradeIsStoredBeforeTheVariantIsWritten) {
                      "_mirk_variant_jump_marshal buffer+2 4 4"}));
 }
 
-// A length costs one question for arrays whose elements all have one size, whatever their number.
+// len makes one call for arrays whose elements all have one size, whatever their number.
 TEST(WireSequence, TheLengthOfFixedSizeElementsIsComputedOnce) {
-    const auto questions = [](std::string_view record, std::uint32_t elements) {
+    const auto look_ups = [](std::string_view record, std::uint32_t elements) {
         Wire w(record, Tracking::off);
         w.read(w.frame_of(elements), 0);
-        w.forget();
+        w.reset();
         w.record().len(w.handle, id, w.instance);
         return recording::lines().size();
     };
-    EXPECT_EQ(questions("lumo_tarn_dp_debug_setting_data", 3), questions("lumo_tarn_dp_debug_setting_data", 1));
-    EXPECT_EQ(questions("lumo_tarn_dp_appl_list", 3), questions("lumo_tarn_dp_appl_list", 1));
-    EXPECT_GT(questions("lumo_tarn_dp_tc_list", 3), questions("lumo_tarn_dp_tc_list", 1));
+    EXPECT_EQ(look_ups("lumo_tarn_dp_debug_setting_data", 3), look_ups("lumo_tarn_dp_debug_setting_data", 1));
+    EXPECT_EQ(look_ups("lumo_tarn_dp_appl_list", 3), look_ups("lumo_tarn_dp_appl_list", 1));
+    EXPECT_GT(look_ups("lumo_tarn_dp_tc_list", 3), look_ups("lumo_tarn_dp_tc_list", 1));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the tests of frames share.
+// Shared by the tests of frames.
 #pragma once
 
 #include <cstdint>
@@ -39,21 +39,21 @@ struct Outcome {
     std::uint32_t consumed = 0, error = 0;
 };
 
-// Reads from a buffer with one byte behind its end.
+// Reads from a buffer with a guard byte after its end.
 inline Outcome read(mirk_handle *h, const Instance &into, const Bytes &frame, std::uint32_t reuse = 0,
-                    std::uint8_t slack = 0xEE) {
+                    std::uint8_t guard_byte = 0xEE) {
     Outcome outcome;
-    std::uint8_t *at = guarded_input().put(frame.data(), frame.size(), slack);
+    std::uint8_t *at = guarded_input().put(frame.data(), frame.size(), guard_byte);
     outcome.consumed =
         into.record().unmarshal(h, id, at, into.get(), static_cast<std::uint32_t>(frame.size()), reuse, &outcome.error);
     return outcome;
 }
 
-// Writes into a buffer of just this size, with one byte behind its end.
+// Writes into a buffer of exactly this size, with a guard byte after its end.
 struct Written {
     std::uint32_t size = 0, error = 0;
     Bytes buffer;
-    std::uint8_t slack = 0;
+    std::uint8_t guard_byte = 0;
 };
 inline Written write(mirk_handle *h, const Instance &from, std::size_t size, bool for_clone = false) {
     static GuardedMemory memory(most_bytes);
@@ -63,11 +63,11 @@ inline Written write(mirk_handle *h, const Instance &from, std::size_t size, boo
     const auto operation = for_clone ? from.record().marshal_for_clone : from.record().marshal;
     written.size = operation(h, id, at, from.get(), static_cast<std::int32_t>(size), &written.error);
     written.buffer.assign(at, at + size);
-    written.slack = at[size];
+    written.guard_byte = at[size];
     return written;
 }
 
-// No array and no string is empty; two elements in each array where the frame stays small.
+// No array and no string is empty; arrays have two elements if the frame stays small.
 inline Record rich_value(const RecordTable &table, std::uint64_t seed = 11) {
     const Record value =
         Generator(seed, {.min_elements = 2, .max_elements = 2, .min_text = 1, .max_text = 5}).make(table.name);
@@ -83,7 +83,7 @@ inline std::vector<const RecordTable *> all_records() {
     return all;
 }
 
-// Everything that can be done with an instance, with what a hostile peer made of it, into a buffer of that many bytes.
+// Runs all operations on an instance that a hostile peer has filled, with a buffer of that many bytes.
 void use(mirk_handle *h, const Instance &instance, std::int32_t size = 2048);
 
 }  // namespace wire

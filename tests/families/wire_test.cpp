@@ -1,4 +1,4 @@
-// The frame of a record: header, jump, state bytes, and what a reader makes of frames that differ from its own.
+// The frame of a record: header, jump, state bytes, and how a reader handles frames that differ from its own.
 #include <gtest/gtest.h>
 
 #include "reference/layout.h"
@@ -26,7 +26,7 @@ void put_jump(Bytes &frame, std::uint32_t jump, std::size_t at = 2) {
     for (std::size_t i = 0; i < 4; ++i) frame[at + i] = static_cast<std::uint8_t>(jump >> (24 - 8 * i));
 }
 
-// As a sender writes it that knows more members than this schema.
+// As written by a sender with more members than this schema.
 Bytes longer(Bytes frame, std::size_t extra) {
     frame.insert(frame.end(), extra, 0xC3);
     put_jump(frame, static_cast<std::uint32_t>(frame.size() - 2));
@@ -75,9 +75,9 @@ TEST(Wire, TheLastStateByteMayBeTheGuardByte) {
     expected.resize(37);
     put_jump(expected, 35);  // agrees with the size
     EXPECT_TRUE(bridge::same(expected, written.buffer));
-    EXPECT_EQ(written.slack, 0x24);
+    EXPECT_EQ(written.guard_byte, 0x24);
 
-    // A reader of those bytes neither takes the state from behind the end nor steps over it.
+    // A reader of those bytes neither reads the state past the end nor skips it.
     const Instance target(handle, flat_value());
     std::uint32_t err = 0;
     bridge::member(target.record(), "size").state_flag_set(handle, id, target.get(), 0x77, &err);
@@ -100,10 +100,10 @@ TEST(Wire, MembersOfANewerSenderAreSkipped) {
             EXPECT_EQ(outcome.error, 0U);
             EXPECT_EQ(outcome.consumed, frame.size());
             EXPECT_TRUE(bridge::same(reference::as_received(value, handle.tracks()), instance.value()));
-            // The jump says where the frame ends, and nobody but a tracing developer is told.
-            const std::string told = "type 6 (info): offset_jump read_len " + std::to_string(known.size()) +
-                                     " offset_jump_base 2 _mirk_variant_jump " + std::to_string(frame.size() - 2);
-            EXPECT_EQ(trace.lines(), Lines{told}) << table.name;
+            // The jump says where the frame ends; only a trace line reports the skipped bytes.
+            const std::string skipped = "type 6 (info): offset_jump read_len " + std::to_string(known.size()) +
+                                        " offset_jump_base 2 _mirk_variant_jump " + std::to_string(frame.size() - 2);
+            EXPECT_EQ(trace.lines(), Lines{skipped}) << table.name;
         }
     }
 }
@@ -233,7 +233,7 @@ TEST(Wire, UnreadableRaDataReplaceTheError) {
     const Instance instance(handle, value);
     mirk_platform_testing_fail_operation(handle, MIRK_PLATFORM_TESTING_RA_DATA, 0, 1, 71);
     EXPECT_EQ(write(handle, instance, 64).error, 71U);
-    // The good result of the look-up clears a pending downgrade.
+    // The successful look-up clears a pending downgrade.
     mirk_platform_domain_set_variant(handle, instance.record().type->luid, -1);
     EXPECT_EQ(write(handle, instance, 64).error, 0U);
     EXPECT_EQ(handle->last_error, 43U);
@@ -252,7 +252,7 @@ TEST(Wire, ADowngradeFailsOrOmitsTheBody) {
                 EXPECT_TRUE(bridge::same(Bytes{0xFE, 0, 0, 0, 0, 4}, frame.bytes));
             }
             EXPECT_EQ(instance.header()->variant, 0);
-            // A copy stays on the handle and is not held to the domain.
+            // A copy stays on the handle, so it ignores the domain.
             const std::size_t size = reference::encode(rich_value(table), false).size();
             const Written copied = write(*handle, instance, size, true);
             EXPECT_EQ(copied.error, 0U);
@@ -351,7 +351,7 @@ TEST(Wire, ANullInstanceFailsAtItsFirstMember) {
 
 class WireDeathTest : public testing::TestWithParam<const RecordTable *> {
 protected:
-    // While lines are captured only those of level 0 still go to standard error.
+    // While lines are captured, only those of level 0 go to standard error.
     const Trace trace;
 
     static std::string fatal(const char *text) {
@@ -366,10 +366,10 @@ TEST_P(WireDeathTest, ACorruptModeAborts) {
     std::vector<std::uint8_t> buffer(8192);
     std::uint32_t err = 0;
     handle->sttr_desc->sttr_mode = 0x1234;
-    const std::string told = fatal("Corrupted MIRK Handle");
-    EXPECT_DEATH(instance.record().len(handle, id, instance.get()), told);
-    EXPECT_DEATH(instance.record().marshal(handle, id, buffer.data(), instance.get(), 8000, &err), told);
-    EXPECT_DEATH(instance.record().unmarshal(handle, id, buffer.data(), instance.get(), 8000, 0, &err), told);
+    const std::string line = fatal("Corrupted MIRK Handle");
+    EXPECT_DEATH(instance.record().len(handle, id, instance.get()), line);
+    EXPECT_DEATH(instance.record().marshal(handle, id, buffer.data(), instance.get(), 8000, &err), line);
+    EXPECT_DEATH(instance.record().unmarshal(handle, id, buffer.data(), instance.get(), 8000, 0, &err), line);
     handle->sttr_desc->sttr_mode = 0xEEEE;
 }
 

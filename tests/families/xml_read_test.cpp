@@ -6,9 +6,8 @@ namespace {
 using namespace forms;
 using reference::Class;
 
-// What comes back from the XML form of a value: variants, RA data and states are not in it, a record without a body is
-// as fresh, and what no document can hold has been replaced. Strings and elements go through setters, which mark
-// states.
+// The value that is read back from XML: it lacks variants, RA data and states; a record without a body is as new;
+// characters that no document can contain are replaced. Strings and elements are set by setters, which mark states.
 reference::Record as_read(const reference::Record &value, bool tracked) {
     reference::Record result(*value.table);
     if (value.variant < 0) return result;
@@ -56,8 +55,7 @@ std::string unescaped(std::string text) {
     return text;
 }
 
-// Numbers of enumerations that have a name, since others make no well-formed document; strings as a document holds
-// them.
+// Enumeration values with a name, since others are not well-formed; strings as a document can contain them.
 void make_presentable(reference::Record &value, bool replace) {
     for (std::size_t i = 0; i < value.members.size(); ++i) {
         const reference::MemberTable &row = value.table->members[i];
@@ -99,8 +97,8 @@ TEST(XmlReading, Utf8IsReadBack) {
     EXPECT_TRUE(bridge::same(value, copy.value()));
 }
 
-// A document that lacks members at random, and what a reader makes of it. An absent string leaves its error to the next
-// member, which is passed over for it; if that is a string as well, the error makes place for its own.
+// A document that lacks random members, and the result of reading it. The error of an absent string stays until the
+// next member, which is skipped for it; if that is a string as well, its own error replaces it.
 class Partial {
 public:
     Partial(std::uint64_t seed, bool tracked) : random_(seed), tracked_(tracked) {}
@@ -115,7 +113,7 @@ public:
         for (std::size_t i = 0; i < value.members.size(); ++i) {
             const reference::MemberTable &row = table.members[i];
             if (row.cls == Class::count || row.cls == Class::length) {
-                // Not read, so that any content will do.
+                // Not read, so any content will do.
                 if (random_.below(2) == 0) text += "<" + row.name + ">no number</" + row.name + ">";
                 continue;
             }
@@ -197,13 +195,13 @@ TEST(XmlReading, NumbersAreStoredWithoutAModifiedMark) {
     EXPECT_EQ(wexa.record().type_type_backpropagate(h, id, wexa.get(), nullptr), 0u);
 }
 
-// Every failing allocation in turn: the read ends with 12, nothing is lost, and the instance can be destroyed.
+// Each allocation fails in turn: the read stops with ENOMEM, nothing is lost, and the instance can be destroyed.
 TEST(XmlReading, FailedAllocationsStopTheReadAndLoseNothing) {
     for (const Tracking mode : {Tracking::none, Tracking::on}) {
         for (const bool onwards : {false, true}) {
             const Handle h(mode);
             for (const RecordOperations &record : tarn::reflect::records()) {
-                // Growth under tracking may lose the vector of element states that it replaces, so there one element.
+                // Growth with tracking may lose the vector of element states that it replaces, so one element here.
                 const std::uint32_t most = h.tracks() ? 1 : 2;
                 const reference::Record value = random_value(record.record->name, 5,
                                                              {.min_elements = most,
@@ -255,7 +253,7 @@ TEST(XmlReading, AFailedGrowthLosesAtMostTheOldStates) {
         mirk_platform_block left[4];
         const std::size_t n = mirk_platform_list_blocks(h, left, 4);
         ASSERT_LE(n, 1u) << nth;
-        // A vector has one byte for each element, and there were two of them at most.
+        // A vector has one byte per element, and there were at most two.
         if (n == 1) {
             ASSERT_LE(left[0].size, 2u) << nth;
         }

@@ -1,4 +1,4 @@
-// What a reader forgives in a document and what it does not.
+// Which defects of a document a reader ignores, and which it reports.
 #include "value_support.h"
 
 namespace {
@@ -55,7 +55,7 @@ TEST(XmlRules, AnEmptyElementIsNotAnError) {
     }
 }
 
-// The forgiven error of the missing record remains in the handle, since the slot is another word.
+// The ignored error of the missing record remains in the handle, which is not the slot here.
 TEST(XmlRules, AMissingNestedRecordIsIgnored) {
     const Handle h;
     reference::Record value = random_value("lumo_tarn_dp_lumo_wexa_info", 1, {.states = false});
@@ -77,7 +77,7 @@ TEST(XmlRules, AnInvalidValueStopsTheRead) {
     EXPECT_EQ(exmem.value()["cl_addr"].number, 1u);
     EXPECT_EQ(exmem.value()["ppe_addr"].number, 0u);
 
-    // Also from inside a nested record, and for a number that is too wide.
+    // Also in a nested record, and for a number that is too large.
     const Instance wexa(h, "lumo_tarn_dp_lumo_wexa_info");
     EXPECT_EQ(read_members(h, wexa,
                            "<lumo_num>1</lumo_num><in_wexa><flags>4294967296</flags></in_wexa>"
@@ -86,7 +86,7 @@ TEST(XmlRules, AnInvalidValueStopsTheRead) {
     EXPECT_EQ(wexa.value()["lumo_num"].number, 1u);
     EXPECT_EQ(wexa.value()["out_wexa_is_valid"].number, 0u);
 
-    // And from an element, which is not stored.
+    // And in an element, which is not stored.
     const Instance data(h, "lumo_tarn_dp_debug_setting_data");
     EXPECT_EQ(read_members(h, data,
                            "<lumo_data><lumo_num>1</lumo_num></lumo_data><lumo_data><lumo_num>-1</lumo_num></lumo_data>"
@@ -158,7 +158,7 @@ TEST(XmlRules, AnAbsentStringSkipsTheNextScalar) {
         EXPECT_EQ(appl.value()["tarn_id"].number, 7u);
     }
     {
-        // A string behind an absent one begins anew.
+        // A string after an absent one is read normally.
         const Instance appl(h, "lumo_tarn_cl_kesh_appl");
         EXPECT_EQ(read_members(h, appl, "<sub_proto_name>b</sub_proto_name>" + numbers), 0u);
         EXPECT_EQ(appl.value()["sub_proto_name"].text, "b");
@@ -184,11 +184,11 @@ TEST(XmlRules, AnAbsentStringSkipsTheNextScalar) {
     }
 }
 
-// Only absence is forgiven to a string, and its own rule leaves every other error to the next member.
+// A string ignores only its absence, and leaves every other error to the next member.
 TEST(XmlRules, AFailedStringLookUpStopsTheReadAtTheNextScalar) {
     const Handle h;
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
-    // The path of a member is cut behind its slash, and what is left is no path.
+    // The path of a member is truncated after its slash, and the rest is not a valid path.
     const std::string root(252, 'a');
     const Document document("<" + root + "><proto_name>tcp</proto_name><tarn_id>1</tarn_id></" + root + ">");
     std::uint32_t err = 0;
@@ -202,8 +202,8 @@ TEST(XmlRules, APathOfMoreThan255CharactersIsTruncatedAndFindsNothing) {
     const Handle h;
     reference::Record value = random_value("lumo_tarn_exmem_info", 1, {.states = false});
     const Instance exmem(h, value);
-    // Behind the root and two slashes there is room for seven characters: two names whole and two that are cut, one of
-    // which so becomes that of another element.
+    // After the root and two slashes there is room for seven characters: two names fit and two are truncated, one of
+    // which becomes the name of another element.
     const std::string root(245, 'a');
     const Document document("<" + root + "><cl_addr>1</cl_addr><exmem_addr>2</exmem_addr><exmem_a>5</exmem_a>" +
                             "<ppe_addr>3</ppe_addr><size>4</size></" + root + ">");
@@ -222,7 +222,7 @@ TEST(XmlRules, BothArraysOfAProcessorAreRead) {
     const std::string dynamic = "<dyn_exmem><list_header_ptr>2</list_header_ptr><exmem/><exmem/></dyn_exmem>";
     {
         const Instance info(h, "lumo_tarn_lumo_info");
-        // In any order, with other elements between.
+        // In any order, with other elements in between.
         EXPECT_EQ(
             read_members(h, info, dynamic + fixed + "<num_dyn_exmems>9</num_dyn_exmems>" + dynamic + fixed + fixed),
             0u);
@@ -233,7 +233,7 @@ TEST(XmlRules, BothArraysOfAProcessorAreRead) {
         EXPECT_EQ(value["dyn_exmem"].items[1]["list_header_ptr"].number, 2u);
     }
     {
-        // No memory for the first array's element: the second has its turn, and ends at once.
+        // The first array's element cannot be allocated: the second array is tried, and stops at once.
         const Instance info(h, "lumo_tarn_lumo_info");
         const std::uint64_t made = mirk_platform_testing_allocations(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC);
         mirk_platform_testing_fail_allocation(h, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 1, 0);
@@ -266,7 +266,7 @@ TEST(XmlRules, AnInstanceWithoutABodyStoresNumbersButNoStrings) {
     const Instance appl(h, "lumo_tarn_cl_kesh_appl");
     mirk_platform_domain_set_variant(h, tarn::schema::lumo_tarn_cl_kesh_appl.luid.bytes.data(), -1);
     appl.header()->variant = -1;
-    // The setter of the string refuses.
+    // The setter of the string fails.
     EXPECT_EQ(read_members(h, appl, "<proto_name>tcp</proto_name><tarn_id>1</tarn_id>"), 43u);
     EXPECT_EQ(read_members(h, appl, "<proto_name/><sub_proto_name/><tarn_id>1</tarn_id>"), 0u);
     appl.header()->variant = 0;

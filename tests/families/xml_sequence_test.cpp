@@ -36,7 +36,7 @@ TEST_F(ReadingSequence, MembersAreLookedUpInTableOrder) {
     document.add("lumo_num", "9");
     watch(wexa, 112);
     lumo_tarn_dp_lumo_wexa_info_from_xml(h, id, "//r", &document, wexa, &err, message, 40);
-    // Nothing is announced, marked or asked about states.
+    // Nothing is notified or marked, and no state is read.
     EXPECT_EQ(recording::lines(Detail::full),
               (Lines{"mirk_clear_last_error", "xml_get_element_nodecount //r",
                      "u_int8_from_xml //r/lumo_num object+11 message 40 ctx=7 err=slot",
@@ -133,7 +133,7 @@ TEST_F(ReadingSequence, AFailedStringReadReleasesItsBuffer) {
                        "obj_alloc 5",
                        "var_string_from_xml //r/proto_name block1 5 message 40",
                        "obj_free block1"};
-        // An absence is forgiven, anything else ends the reading.
+        // Only absence is ignored; other errors stop the read.
         if (number == 2) {
             expected.insert(expected.end(),
                             {"xml_get_element_value //r/sub_proto_name null 0 local", "mirk_store_err 2",
@@ -179,7 +179,7 @@ TEST_F(ReadingSequence, AnArrayIsReadByPositionsUntilOneIsMissing) {
                      "obj_alloc 112", "obj_free block2", "obj_free block3", "obj_alloc 56",
                      "xml_get_element_nodecount //r/lumo_data[3]", "mirk_store_err 2", "obj_free block5"}));
     EXPECT_EQ(err, 0u);
-    // The count in the document was not looked at.
+    // The count in the document is ignored.
     for (const std::string &line : recording::lines()) EXPECT_EQ(line.find("num_lumos"), line.npos) << line;
     lumo_tarn_dp_debug_setting_data_destroy(h, id, data);
 }
@@ -193,7 +193,7 @@ TEST_F(ReadingSequence, AFailedElementAllocationEndsOnlyItsArray) {
     lumo_tarn_lumo_info_from_xml(h, id, "//r", const_cast<Element *>(&document), info, &err, message, 40);
     const Lines lines = recording::lines_of({"xml_get_element_nodecount", "obj_alloc", "obj_free", "mirk_store_err"});
     ASSERT_GE(lines.size(), 4u);
-    // The second array makes its element, which the error then keeps from being read.
+    // The second array allocates its element, which is not read because of the error.
     EXPECT_EQ(Lines(lines.end() - 4, lines.end()),
               (Lines{"obj_alloc 112", "mirk_store_err 12", "obj_alloc 64", "obj_free block1"}));
     EXPECT_EQ(err, 12u);

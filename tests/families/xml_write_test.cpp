@@ -63,7 +63,7 @@ TEST(XmlWriting, CountsAndLengthsHaveNoState) {
 TEST(XmlWriting, ElementsShowTheirOwnStateAndNestedRecordsThatOfTheMember) {
     const Handle h(Tracking::on);
     reference::Record value("lumo_tarn_dyn_exmem_info");
-    value["exmem"].state = 3;  // of the array as a whole, which no element of the text stands for
+    value["exmem"].state = 3;  // of the whole array, which has no element in the text
     value.append("exmem", 4)["exmem"].state = 5;
     value.append("exmem", 0);
     const std::string text = to_xml(h, Instance(h, value), "x").text();
@@ -155,7 +155,7 @@ TEST(XmlWriting, ABufferThatIsTooSmallFailsAndIsNotOverrun) {
                                                                       static_cast<std::int32_t>(room), 3, &err);
                 ASSERT_EQ(area.find_first_not_of(blank, room), std::string::npos) << room;
                 ASSERT_LE(result, room);
-                // A NUL stands behind the last tag, so that the text alone does not do.
+                // A NUL follows the last tag, so room for the text alone is not enough.
                 ASSERT_EQ(err != 0, room <= whole.size()) << room;
                 ASSERT_EQ(area.substr(0, result), whole.substr(0, result)) << room;
             }

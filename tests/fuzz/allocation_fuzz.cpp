@@ -1,4 +1,4 @@
-// Memory taken away at a place that the input says: under one reading, of which nothing may be left, or amid any calls.
+// An allocation fails at a point chosen by the input: in one read, which must leave no block, or within any calls.
 #include <string>
 
 #include "machine.h"
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     }
     Handle handle(options(choice));
-    // Elements that were made before the failure go without being ended.
+    // Elements that were created before the failure are not destroyed.
     if (choice.bit(document_bit)) handle.allow_lost_blocks();
     const Root root = fuzz::root(input.u8());
     const std::uint64_t nth = input.u8() % 32;

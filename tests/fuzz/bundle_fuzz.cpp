@@ -1,4 +1,4 @@
-// A run of frames through the dispatcher, with each kind of receiver behind it.
+// A stream of frames through the dispatcher, with each kind of receiver.
 #include <cstdio>
 
 #include "fuzz.h"
@@ -20,7 +20,7 @@ const MessageOperations &operations_of(const std::uint8_t *luid) {
     std::abort();
 }
 
-// A bundle's messages: some are looked at and given back, some are left to the dispatcher.
+// A bundle's messages: some are read and destroyed, some are left to the dispatcher.
 extern "C" void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *context, std::uint32_t *) {
     if (context == nullptr || !static_cast<Receiver *>(context)->takes_messages) return;
     while (mirk_platform_received *item = mirk_platform_received_first(h)) {

@@ -1,4 +1,4 @@
-// The library against the codec of the tests, which was written from the tables alone.
+// Compares the library with the codec of the tests, which was written from the tables alone.
 #include <cstdio>
 #include <cstdlib>
 
@@ -32,7 +32,7 @@ Text text_of(Call &&call) {
     return result;
 }
 
-// Whatever the library makes of the value, the codec makes too.
+// The codec must write the same frame and texts as the library.
 void hold_against(mirk_handle *h, bool tracks, const RecordOperations &record, void *instance, const Record &value) {
     const bridge::Marshalled written = write(h, record, instance);
     require(written.error == 0, "a value is written without an error");
@@ -49,7 +49,7 @@ void hold_against(mirk_handle *h, bool tracks, const RecordOperations &record, v
     require_same(bridge::same(value, bridge::extract(h, record, instance)));
 }
 
-// Bytes that the codec reads, the library reads to the same value.
+// Bytes that the codec can read, the library must read to the same value.
 void bytes(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
     const Handle handle(options(choice));
     for (const bool tracked : {false, true}) {
@@ -67,7 +67,7 @@ void bytes(const Choice &choice, const RecordOperations &record, std::span<const
     }
 }
 
-// Values that the input chooses, through accessors and out again.
+// Values chosen by the input, set through accessors, written and read.
 void generated(const Choice &choice, const RecordOperations &record, Input &input) {
     const Handle handle(options(choice));
     const std::uint64_t seed = input.u64();
@@ -83,7 +83,7 @@ void generated(const Choice &choice, const RecordOperations &record, Input &inpu
     void *instance = record.create(handle, id);
     bridge::fill(handle, record, instance, value);
     hold_against(handle, handle.tracks(), record, instance, value);
-    // Read by a handle of any kind.
+    // Read on a handle of any kind.
     const Bytes frame = reference::encode(value, handle.tracks());
     record.destroy(handle, id, instance);
     const Handle peer(options(Choice(input.u8())));

@@ -1,4 +1,4 @@
-// A frame of any root, read into a fresh instance or into one that holds something already.
+// A frame of any root, read into a new instance or into a filled one.
 #include "fuzz.h"
 
 namespace {
@@ -13,7 +13,7 @@ void read_record(const Choice &choice, const RecordOperations &record, std::span
     void *instance = record.create(handle, id);
     std::uint32_t err = 0;
     if (choice.bit(occupied)) {
-        // Read twice: what an occupied instance loses belongs to the behaviour.
+        // Read twice, since losing blocks of a filled instance is part of the behavior.
         handle.allow_lost_blocks();
         record.unmarshal(handle, id, guarded(frame), instance, size, 0, &err);
         err = 0;
@@ -71,7 +71,7 @@ void read_message(const Choice &choice, const MessageOperations &message, std::s
         message.destroy(handle, id, object);
     }
     if (!choice.bit(clean_second)) return;
-    // The operation that delivers keeps what a bad frame left.
+    // The delivering operation does not release the message of a bad frame.
     err = 0;
     handle.allow_lost_blocks();
     static const mirk_message_handler end = [](mirk_handle *h, std::uint32_t ctx_id, void *context, void *received,

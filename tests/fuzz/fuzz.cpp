@@ -8,7 +8,7 @@ namespace fuzz {
 
 namespace {
 
-// Low enough that a count from an input costs little, high enough for what the seeds hold.
+// Low enough that a count from an input costs little, high enough for the seeds.
 constexpr std::uint64_t request_ceiling = 12 << 10, total_ceiling = 48 << 10;
 constexpr std::size_t most_bytes = std::size_t{1} << 21;
 
@@ -127,7 +127,7 @@ void use(mirk_handle *h, const MessageOperations &message, void *object, std::ui
 }
 
 bridge::Marshalled write(mirk_handle *h, const RecordOperations &record, void *instance) {
-    // What an instance holds came from an arena of this size, and no part of it takes more than four bytes for one.
+    // An instance's content came from an arena of this size, and each of its bytes takes at most four in any form.
     constexpr std::size_t room = 4 * total_ceiling;
     static_assert(room < most_bytes);
     std::uint8_t *buffer = output().room(room);

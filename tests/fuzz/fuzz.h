@@ -1,5 +1,5 @@
-// What the fuzz targets share: an input that is taken apart from its front, the options of handles, and everything that
-// can be done with what a hostile peer made.
+// Shared by the fuzz targets: an input that is consumed from its front, the options of handles, and all operations on
+// an instance that a hostile peer has filled.
 #pragma once
 
 #include <cstddef>
@@ -22,10 +22,10 @@ using reference::Bytes;
 using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MessageOperations;
 
-// Ends the process with the words, so that a fuzzer keeps the input.
+// Prints the text and aborts, so that a fuzzer keeps the input.
 void require(bool holds, const char *words);
 
-// Behind its end it gives zeros.
+// Returns zeros after its end.
 class Input {
 public:
     Input(const std::uint8_t *data, std::size_t size) : rest_(data, size) {}
@@ -42,8 +42,8 @@ private:
     std::span<const std::uint8_t> rest_;
 };
 
-// How a handle is made, from one byte: tracking in bits 0 and 1, then types of its own, a lenient runtime, and three
-// bits that the target gives a meaning.
+// Options of a handle from one byte: tracking in bits 0 and 1, then private types, the lenient policy, and three bits
+// that the target defines.
 struct Choice {
     explicit Choice(std::uint8_t byte) : byte_(byte) {}
     bool bit(unsigned n) const { return (byte_ >> n & 1U) != 0; }
@@ -53,11 +53,10 @@ private:
     std::uint8_t byte_;
 };
 
-// With little memory. A handle that is made with these requires that nothing is left on it, unless told otherwise.
+// With little memory. Unless allowed, all blocks must be released when the handle closes.
 kit::Options options(const Choice &choice);
 
-// An instance of a record or an enumeration, or a message with its payload: what stands at the front of a frame or a
-// document.
+// An instance of a record or an enumeration, or a message with its payload: the root of a frame or a document.
 struct Root {
     const RecordOperations *record = nullptr;
     const EnumerationOperations *enumeration = nullptr;
@@ -66,7 +65,7 @@ struct Root {
 Root root(std::uint8_t number);
 std::size_t roots();
 
-// Readable bytes with exactly one byte of slack; valid until the next call.
+// Readable bytes with exactly one guard byte; valid until the next call.
 std::uint8_t *guarded(std::span<const std::uint8_t> bytes);
 
 // Prints, renders, writes, measures, compares and hashes, into buffers of that many bytes.
@@ -74,7 +73,7 @@ void use(mirk_handle *h, const RecordOperations &record, void *instance, std::ui
 void use(mirk_handle *h, const EnumerationOperations &enumeration, void *instance, std::uint32_t size = 4096);
 void use(mirk_handle *h, const MessageOperations &message, void *object, std::uint32_t size = 4096);
 
-// The frame of an instance, with room to spare.
+// The frame of an instance, written to a buffer of ample size.
 bridge::Marshalled write(mirk_handle *h, const RecordOperations &record, void *instance);
 
 }  // namespace fuzz

@@ -71,7 +71,7 @@ void Machine::step() {
         &Machine::text,   &Machine::document, &Machine::message,   &Machine::bundle,   &Machine::domain,
         &Machine::memory, &Machine::look};
     const std::uint8_t byte = input_.u8();
-    // An error stays until the input, or the end of a few calls, clears it: most calls should do something.
+    // An error stays set until the input or the end of a few calls clears it, so that most calls have an effect.
     if ((byte & 0x80) == 0) err_ = 0;
     if ((byte & 0x40) == 0) mirk_clear_last_error(handle_);
     (this->*calls[(byte & 0x3F) % std::size(calls)])();
@@ -81,7 +81,7 @@ void Machine::create() {
     Object &s = slot();
     const RecordOperations &record = tarn::reflect::records()[input_.u8() % tarn::reflect::records().size()];
     if (s.instance != nullptr) s.record->destroy(handle_, id, s.instance);
-    // Destruction that stopped on its way leaves its block.
+    // A destruction that stopped halfway does not release its block.
     if (s.instance != nullptr && is_live(s.instance)) handle_.allow_lost_blocks();
     s = {&record, record.create(handle_, id)};
 }
@@ -104,7 +104,7 @@ void Machine::set_value() {
         m.set(handle_, id, o.instance, m.get(handle_, id, o.instance, &err_), &err_);
     }
     if (m.member->kind != Kind::record || m.set == nullptr) return;
-    // What a nested record owned is lost under the new value.
+    // The blocks of a nested record are lost when it is overwritten.
     const Object from = object_of(tarn::reflect::operations_of(*m.member->record));
     if (from.instance == nullptr) return;
     handle_.allow_lost_blocks();
@@ -138,7 +138,7 @@ void Machine::set_element() {
     const Object value = object_of(tarn::reflect::operations_of(*m.member->record));
     const std::uint32_t at = index();
     const std::uint8_t how = input_.u8() % 4;
-    // The element that stood there goes without being ended, and a count of one byte may wrap.
+    // The element that was there is not destroyed, and a one-byte count may wrap.
     handle_.allow_lost_blocks();
     if (how < 2) m.element_set(handle_, id, o.instance, at, value.instance, &err_);
     if (how >= 2) m.element_set_cr(handle_, o.instance, at, value.instance, how & 1U);
@@ -206,7 +206,7 @@ void Machine::copy() {
         use(handle_, *from.record, made, 512);
         from.record->destroy(handle_, id, made);
     } else if (to.record == from.record && to.instance != nullptr && to.instance != from.instance) {
-        // What the destination held is not released, and a destination that could not be filled is.
+        // The old blocks of the destination are not released, but a destination whose copy failed is destroyed.
         handle_.allow_lost_blocks();
         from.record->copy_cr(handle_, from.instance, to.instance);
         if (!is_live(to.instance)) to.instance = nullptr;
@@ -304,7 +304,7 @@ void Machine::domain() {
 void Machine::memory() {
     const std::uint8_t byte = input_.u8();
     if (!failures_) return;
-    // What a failed allocation leaves behind is told of each operation, and swept elsewhere.
+    // The results of failed allocations are documented per operation, and tested by the sweep.
     handle_.allow_lost_blocks();
     constexpr mirk_platform_testing_allocator allocators[] = {
         MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_VARIANT_BLOCK};

@@ -11,14 +11,14 @@ namespace fuzz {
 
 class Machine {
 public:
-    // With failures, the input may also take memory away.
+    // With failures, the input may also make allocations fail.
     Machine(Input &input, const Choice &choice, bool failures)
         : input_(input), handle_(options(choice)), failures_(failures) {}
     ~Machine();
     Machine(const Machine &) = delete;
     Machine &operator=(const Machine &) = delete;
 
-    // Until the input is used up.
+    // Runs until the input is consumed.
     void run();
 
 private:
@@ -28,9 +28,9 @@ private:
     };
 
     Object &slot() { return slots_[input_.u8() % slots_.size()]; }
-    // An object of a slot, or one inside of it.
+    // An object of a slot, or one inside it.
     Object object();
-    // One of this type, wherever it is.
+    // An object of this type, at any depth.
     Object object_of(const RecordOperations &record);
     const tarn::reflect::MemberOperations &member(const RecordOperations &record);
     bool is_live(const void *block);

@@ -1,5 +1,5 @@
-// Any exported operation on anything that has it, called as the sweep of failing allocations calls it, with memory
-// taken away where the input says. What it leaves behind may serve the next one.
+// Any exported operation on any type that has it, called like in the sweep of failing allocations, with failures chosen
+// by the input. The next operation may use the results of the one before.
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -24,7 +24,7 @@ const Operation &another(const Operation &operation, std::uint8_t number) {
     return *same[number % same.size()];
 }
 
-// Calls operations of one subject, until one has ended something or made something.
+// Calls operations of one subject, until one has destroyed or created an object.
 void play(Input input, const kit::Options &options) {
     const auto &all = trust::operations();
     const Operation *operation = &all[input.u16() % all.size()];
@@ -32,7 +32,7 @@ void play(Input input, const kit::Options &options) {
     const std::array held{scene.object, scene.other, scene.element};
     for (std::size_t calls = 1;; ++calls) {
         const trust::Driver *driver = operation->driver;
-        if (driver == nullptr) return;  // the sweep names it
+        if (driver == nullptr) return;  // the sweep reports it
         const std::uint8_t how = input.u8();
         const trust::Failure failure{static_cast<mirk_platform_testing_allocator>(how % 4), input.u8() % 32U,
                                      (how & 4) != 0};
@@ -40,7 +40,7 @@ void play(Input input, const kit::Options &options) {
         if (failure.nth != 0) scene.fail(failure);
         driver->call(scene);
         scene.end_call();
-        // What a driver tells is told of a scene as it was made.
+        // A driver describes a scene as it was created.
         const bool failed = failure.nth != 0 && scene.requests(failure.allocator) >= failure.nth;
         if (calls > 1) scene.may_lose = SIZE_MAX;
         if (calls == 1 && failed && trust::judges(*driver, failure)) driver->judge(scene, failure);
@@ -49,7 +49,7 @@ void play(Input input, const kit::Options &options) {
         operation = &another(*operation, input.u8());
     }
     scene.clean_up();
-    // The test framework keeps what it is told outside of a test.
+    // The test framework keeps failures that are reported outside of a test.
     require(!testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed(), operation->name.c_str());
 }
 

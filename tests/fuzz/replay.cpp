@@ -1,5 +1,5 @@
-// Runs the target once over each named file, and over each file of the named folders, in the order of their names. A
-// folder of seeds comes first and must hold some; a target without findings has no folder of them.
+// Runs the target once on each named file, and on each file of the named folders, in the order of their names. The
+// first folder contains the seeds and must not be empty; a target without findings has no folder for them.
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -27,7 +27,7 @@ int main(int argc, char **argv) {
         std::ifstream stream(file, std::ios::binary);
         const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
         std::fprintf(stderr, "%s\n", file.c_str());
-        // A copy of just this size, so that a sanitizer sees the end.
+        // A copy of exactly this size, so that a sanitizer detects reads past its end.
         const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
         LLVMFuzzerTestOneInput(input.data(), input.size());
     }

@@ -127,12 +127,12 @@ void calls() {
     }
 }
 
-// Each operation once, in one file for all that are called alike. Half of them are followed by another.
+// Each operation once, one file for all that are called alike. Half of them are followed by another.
 void operations() {
     constexpr std::size_t choices[] = {0, 1, 2, 4, 6};
     const auto &all = trust::operations();
     for (std::size_t i = 0; i < all.size(); ++i) {
-        if (all[i].driver == nullptr) continue;  // the sweep names it
+        if (all[i].driver == nullptr) continue;  // the sweep reports it
         std::string path = std::string("operations/") + all[i].driver->of + '-' + all[i].driver->suffix;
         std::replace(path.begin(), path.end(), ' ', '-');
         std::string &file = files[path];
@@ -141,7 +141,7 @@ void operations() {
     }
 }
 
-// What a fuzzer does not find by itself: identities and names.
+// Words that a fuzzer does not find by itself: identities and names.
 void dictionaries() {
     std::string identities, names;
     const auto add_identity = [&](const std::uint8_t *luid) {

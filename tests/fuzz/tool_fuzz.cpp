@@ -1,5 +1,5 @@
-// What the command-line tool reads: frames, JSON, XML and recordings, each told apart by its first byte; and what it
-// shows of broken frames.
+// Input of the command-line tool: frames, JSON, XML and recordings, each recognized by its first byte; and the output
+// for broken frames.
 #include <nlohmann/json.hpp>
 
 #include "fuzz.h"
@@ -30,7 +30,7 @@ void read(std::string_view content, const fuzz::Choice &choice) {
         rendered(item, Style::xml);
         all += rendered(item, Style::json);
     }
-    // What it writes, it reads to the same.
+    // Its own output must be read to the same value.
     if (items.empty()) return;
     std::string again;
     for (const Item &item : from_json(handles, all, "output", false)) again += rendered(item, Style::json);

@@ -17,7 +17,7 @@ void read_record(const Choice &choice, const RecordOperations &record, void *doc
     std::uint32_t err = 0;
     record.from_xml(handle, id, path.c_str(), document, instance, &err, words, sizeof words);
     if (choice.bit(occupied)) {
-        // Elements of the first reading are moved and cleared by the second.
+        // Elements of the first read are moved and cleared by the second.
         handle.allow_lost_blocks();
         err = 0;
         record.from_xml(handle, id, path.c_str(), document, instance, &err, words, sizeof words);
@@ -55,7 +55,7 @@ void read_message(const Choice &choice, const MessageOperations &message, void *
     std::uint32_t err = 0;
     void *object = message.from_xml(handle, id, document, &err, words, sizeof words);
     if (object == nullptr) {
-        // A failed reading keeps the message.
+        // A failed read does not release the message.
         handle.allow_lost_blocks();
         return;
     }
@@ -63,7 +63,7 @@ void read_message(const Choice &choice, const MessageOperations &message, void *
     message.destroy(handle, id, object);
 }
 
-// Whether "<!DOCTYPE" stands in a text that has no other place for it than markup.
+// True if a text contains "<!DOCTYPE" where it can only be markup.
 bool declares_a_type(std::span<const std::uint8_t> bytes) {
     const std::string_view text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
     const auto holds = [&](const char *words) { return text.find(words) != std::string_view::npos; };

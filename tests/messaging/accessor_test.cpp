@@ -1,4 +1,4 @@
-// The four accessors of a message's payload, and what is the end of the process.
+// The four accessors of a message's payload, and damage that aborts the process.
 #include "messaging.h"
 
 namespace {
@@ -76,7 +76,7 @@ TEST_F(PayloadAccessors, FreeAndSetWithTheOwnPayloadStoresTheDestroyedOne) {
         m.payload_free_and_set(h, id, message, payload, &err);
         EXPECT_EQ(h.live_blocks(), 1u);
         EXPECT_EQ(object(message)->payload, payload);
-        object(message)->payload = nullptr;  // it points at nothing any more
+        object(message)->payload = nullptr;  // destroyed above
         m.destroy(h, id, message);
     }
     EXPECT_EQ(err, 0u);
@@ -157,12 +157,12 @@ TEST_F(FatalMessages, ADamagedNumberOfVariantsIsOnlyTraced) {
     for (const MessageOperations &m : messages()) {
         SCOPED_TRACE(m.name);
         Handle h;
-        const std::string complaint{"message 6 (info): variant 0 requested only 4294967295 variants present"};
+        const std::string line{"message 6 (info): variant 0 requested only 4294967295 variants present"};
         m.type->variant_info->n_variants = -1;
         void *message = m.create(h, id), *shallow = m.create_shallow(h, id);
-        EXPECT_EQ(traced(), (Lines{complaint, complaint}));
+        EXPECT_EQ(traced(), (Lines{line, line}));
         m.destroy(h, id, message);
-        EXPECT_EQ(traced(), (Lines{complaint}));
+        EXPECT_EQ(traced(), (Lines{line}));
         m.type->variant_info->n_variants = 0;  // not negative
         m.destroy(h, id, shallow);
         EXPECT_EQ(traced(), Lines{});

@@ -14,7 +14,7 @@ struct Received {
 std::vector<Received> received;
 const MessageOperations *expected_message;
 
-// Takes every message off the list that the handler finds, and reads it.
+// Removes and reads every message that the handler finds in the list.
 void take_all(mirk_handle *h, std::uint32_t ctx_id, void *, std::uint32_t *) {
     EXPECT_NE(h->recv_bundle_commit_lut, nullptr);
     while (mirk_platform_received *item = mirk_platform_received_first(h)) {
@@ -37,7 +37,7 @@ struct Bundles : Messaging {
         handler_calls.clear();
     }
 
-    // The bundle as the library writes it, one frame behind the other.
+    // The bundle as the library writes it, its frames one after the other.
     Bytes send(mirk_handle *h, const BundleOperations &b, const std::vector<reference::Record> &values,
                const char *ending) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
@@ -184,7 +184,7 @@ TEST_F(Bundles, EveryTruncationFailsInTheDispatcherAndLeaksNothing) {
             for (const bool in_bundle : {false, true}) {
                 Handle h(tracked ? Tracking::on : Tracking::off);
                 register_all(h, [](mirk_handle *, std::uint32_t, void *, void *, std::uint32_t *error) {
-                    *error = ENOSYS;  // the dispatcher may destroy it
+                    *error = ENOSYS;  // so that the dispatcher destroys it
                 });
                 std::size_t unnoticed = 0;
                 for (std::size_t size = 1; size < whole.size(); ++size) {
@@ -193,7 +193,7 @@ TEST_F(Bundles, EveryTruncationFailsInTheDispatcherAndLeaksNothing) {
                     Buffer short_frame(cut);
                     EXPECT_EQ(mirk_platform_dispatch(h, id, short_frame.data(), short_frame.size(), nullptr, nullptr),
                               std::uint32_t{EBADMSG});
-                    // A length that agrees with the bytes brings the frame to the message itself.
+                    // With a matching length in the header, the frame reaches the message itself.
                     if (size < frame_head) continue;
                     write_length(cut, size);
                     Buffer frame(cut);
@@ -202,7 +202,7 @@ TEST_F(Bundles, EveryTruncationFailsInTheDispatcherAndLeaksNothing) {
                     bundle_receive_message_list_destroy(h, id, &err);
                     ASSERT_EQ(h.live_blocks(), 0u) << m.name << ", size " << size;
                 }
-                // State bytes at the end of a tracked frame may go without a sign.
+                // State bytes at the end of a tracked frame may be missing without an error.
                 EXPECT_LT(unnoticed, tracked ? 12u : 1u) << m.name;
             }
         }

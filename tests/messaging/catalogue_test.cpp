@@ -89,7 +89,7 @@ TEST(Catalogue, ABundleAdmitsItsMessageAndTheRequest) {
         for (int i = 0; i < 3; ++i) EXPECT_EQ(rows[i].zero, 0u);
         tables.insert(rows);
     }
-    // Also where two bundles admit the same message.
+    // Also if two bundles admit the same message.
     EXPECT_EQ(tables.size(), bundles().size());
 }
 

@@ -1,4 +1,4 @@
-// What control messages and handlers ask of a runtime, call by call and in order.
+// The calls that control messages and handlers make of the runtime, in their order.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -114,7 +114,7 @@ mirk_dispatch_info entry_with(mirk_bundle_handler handler) { return {nullptr, "t
 void handle(mirk_handle *h, std::uint32_t ctx_id, void *, std::uint32_t *err) {
     EXPECT_NE(h->recv_bundle_commit_lut, nullptr);
     skald_wrapper(g_mirk_lumo_ui_tarn_message_trace_module_id, 7, 0, "handled under %u", ctx_id);
-    *err = EPERM;  // does not stop what follows
+    *err = EPERM;  // does not stop the rest of the commit
 }
 
 TEST_F(ControlSequence, ACommitRunsItsHandlerThenDestroysTheListThenTheToken) {
@@ -197,7 +197,7 @@ TEST_F(ControlSequence, AStartRecordsTheEntryAndTheTable) {
         ASSERT_EQ(lines.size(), 3u);
         EXPECT_EQ(lines[0], "mirklib_is_accumulating_bundle");
         EXPECT_EQ(lines[1], "mirklib_in_dispatch_message_info local");
-        // The table is told also when there is no entry.
+        // The table is recorded even if there is no entry.
         h->recv_bundle_open = 0;
         h.knobs().dispatch_info = nullptr;
         b.start.handler(h, id, nullptr, nullptr, &err);

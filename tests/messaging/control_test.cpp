@@ -9,7 +9,7 @@ using namespace messaging;
 
 constexpr std::uint32_t top_bit = 0x80000000;
 
-// No operation of a control message traces, so each test ends with a look at the trace.
+// No operation of a control message traces, which each test checks at its end.
 struct ControlMessages : Messaging {
     void SetUp() override {
         Messaging::SetUp();
@@ -20,7 +20,7 @@ struct ControlMessages : Messaging {
         Messaging::TearDown();
     }
     static bool is_start(const Control &c) { return c.kind == "start"; }
-    // Opens a bundle for sending, with a message admitted to it.
+    // Opens a bundle for sending and admits a message to it.
     void open(mirk_handle *h, const Control &c) {
         Buffer buffer(frame_head);
         std::uint32_t error = 0;
@@ -56,7 +56,7 @@ TEST_F(ControlMessages, ObjectsAreTokensOfZeroBytes) {
         const auto frees = events.of(MIRK_PLATFORM_TESTING_FREE);
         ASSERT_EQ(frees.size(), 5u);
         EXPECT_EQ(frees[2].ctx_id, 31u);
-        EXPECT_EQ(events.all.size(), 10u);  // and nothing else: no counter, no error
+        EXPECT_EQ(events.all.size(), 10u);  // no other event: no counter, no error
     }
 }
 
@@ -85,7 +85,7 @@ TEST_F(ControlMessages, AFailedAllocationInAStickyCreateGivesTheSentinelAndTheEr
 TEST_F(ControlMessages, StickyCreateOnlyChecksTheLastError) {
     for (const Control &c : controls()) {
         Handle h;
-        h->cr_mode = 1;  // of no account here, and left as it is
+        h->cr_mode = 1;  // ignored and unchanged
         h->last_error = ENOSPC;
         EXPECT_EQ(c->create_cr(h), sentinel_of(*c.operations));
         EXPECT_EQ(h->last_error, std::uint32_t{ENOSPC});
@@ -146,7 +146,7 @@ TEST_F(ControlMessages, AllFormsOfMarshalWriteTheSameFrame) {
         SCOPED_TRACE(c->name);
         const Bytes expected = reference::control_frame(c.bundle_name(), c.kind, 9);
         for (int form = 0; form < 3; ++form) {
-            Handle h(Tracking::on);  // the header says untracked all the same
+            Handle h(Tracking::on);  // the header says untracked nevertheless
             mirk_platform_handle_set_message_stamp(h, 9);
             if (!is_start(c)) open(h, c);
             Buffer buffer(frame_head);
@@ -168,7 +168,7 @@ TEST_F(ControlMessages, AStartOpensTheBundle) {
         if (!is_start(c)) continue;
         Handle h;
         EXPECT_EQ(h->send_bundle_open, 0u);
-        h->send_bundle_list = {nullptr, nullptr};  // what stood there before plays no part
+        h->send_bundle_list = {nullptr, nullptr};  // the previous content is ignored
         Buffer buffer(frame_head);
         EXPECT_EQ(c->marshal(h, id, buffer.data(), nullptr, frame_head, &err), 43u);
         EXPECT_EQ(h->send_bundle_open, 1u);
@@ -367,7 +367,7 @@ TEST_F(ControlMessages, AnyDocumentGivesAToken) {
     ASSERT_NE(document, nullptr);
     for (const Control &c : controls()) {
         Handle h;
-        err = EPERM;  // not looked at
+        err = EPERM;  // not checked
         void *token = c->from_xml(h, id, document, &err, nullptr, 0);
         EXPECT_NE(token, nullptr);
         EXPECT_EQ(err, std::uint32_t{EPERM});

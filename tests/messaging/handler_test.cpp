@@ -1,4 +1,4 @@
-// The linked-in handlers of control messages and bundles, and who gets a committed bundle.
+// The linked-in handlers of control messages and bundles, and the choice of the handler that gets a committed bundle.
 #include <cstdio>
 
 #include "messaging.h"
@@ -18,7 +18,7 @@ struct Handlers : Messaging {
         for (const BundleOperations &b : bundles()) b.unregister_handler();
         Messaging::TearDown();
     }
-    // The frame through the dispatcher, so that there is an entry to be asked for.
+    // Passes the frame through the dispatcher, so that there is an entry to look up.
     mirk_platform_error dispatch(mirk_handle *h, const BundleOperations &b, std::string_view kind,
                                  void *context = nullptr) {
         Buffer frame(reference::control_frame(b.bundle->name, kind, 0));
@@ -34,7 +34,7 @@ struct Handlers : Messaging {
     }
 };
 
-// What stands for a dispatch entry in the handle's words.
+// The dispatch entry in the handle's members.
 void expect_no_dispatch(mirk_handle *h) {
     EXPECT_EQ(h->recv_bundle_lut, nullptr);
     EXPECT_EQ(h->recv_bundle_lut_ref, nullptr);
@@ -111,7 +111,7 @@ TEST_F(Handlers, AnAbortDestroysTheBundle) {
         expect_no_dispatch(h);
         EXPECT_EQ(traced(), (Lines{"message 7 (debug): Bundle aborting for " + name_of(b, "abort") + " with LUT " +
                                    pointer(lut)}));
-        // Without an entry nothing is said.
+        // Without an entry nothing is traced.
         h->recv_bundle_open = 1;
         err = 0;
         b.abort.handler(h, id, nullptr, nullptr, &err);
@@ -190,7 +190,7 @@ TEST_F(Handlers, TheirTokenIsAlwaysReleased) {
     }
 }
 
-// One handler for each place in the chain; taken away one by one, the next in the order runs.
+// One handler for each position in the chain: whenever one is removed, the next one runs.
 TEST_F(Handlers, ExactlyOneOfFiveRunsInAFixedOrder) {
     int context = 0;
     for (const BundleOperations &b : bundles()) {
@@ -225,7 +225,7 @@ TEST_F(Handlers, ExactlyOneOfFiveRunsInAFixedOrder) {
         mirk_platform_dispatch_set_bundle_handler(h, b.commit.luid, nullptr);
         expect_runs("h", "(debug): Invoking MIRK handle-registered handler for ");
         mirk_platform_handle_set_bundle_handler(h, nullptr);
-        expect_runs("m", "(debug): Invoking LUT-registered handler for ");  // as if from the look-up table
+        expect_runs("m", "(debug): Invoking LUT-registered handler for ");  // the line says look-up table
         lumo_ui_tarn_bundle_handler_unregister();
         expect_runs("b", "(debug): Invoking registered bundle handler for ");
         b.unregister_handler();
@@ -258,12 +258,12 @@ TEST_F(Handlers, TheStubOfABundleTracesFillersAndSetsNoError) {
     }
 }
 
-// The numbers of the process before anything of the test ran.
+// The module numbers before the first test ran.
 const std::uint16_t message_module_at_start = g_mirk_lumo_ui_tarn_message_trace_module_id;
 const std::uint16_t stub_module_at_start = g_mirk_lumo_ui_tarn_stub_trace_module_id;
 const std::uint16_t queue_module_at_start = g_mirk_lumo_ui_tarn_queue_trace_module_id;
 
-// A process initialises the trace of messages itself; the library has no use for the other two numbers.
+// The process registers the trace module of messages itself; the library never uses the other two.
 TEST_F(Handlers, MessageTraceModulesHaveNoNumberUntilTheyAreRegistered) {
     EXPECT_EQ(message_module_at_start, 0);
     EXPECT_EQ(stub_module_at_start, 0);
@@ -288,7 +288,7 @@ TEST_F(Handlers, ABundlesVariableIsExchanged) {
 
 TEST_F(Handlers, TheModulesHandlerReachesTheSiblings) {
     veld_defs_bundle_handler_register(on_bundle<'d'>);
-    EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(on_bundle<'1'>), nullptr);  // not what a sibling had
+    EXPECT_EQ(lumo_ui_tarn_bundle_handler_register(on_bundle<'1'>), nullptr);  // not the sibling's previous handler
     EXPECT_EQ(lumo_ui_tarn_bundle_registered_handler, on_bundle<'1'>);
     for (const BundleOperations &b : bundles()) EXPECT_EQ(*b.registered_handler, nullptr);
     for (const auto exchange :

@@ -11,11 +11,11 @@ constexpr std::uint32_t top_bit = 0x80000000;
 std::string failed(const MessageOperations &m, std::uint32_t number) {
     return "message 3 (ERR): Message " + std::string(m.name) + " failed to marshal: " + error_text(number);
 }
-std::string failed_quietly(const MessageOperations &m, std::uint32_t number) {
+std::string failed_at_debug_level(const MessageOperations &m, std::uint32_t number) {
     return "message 7 (debug): Message " + std::string(m.name) + " failed to marshal: " + error_text(number);
 }
 
-// The lines of messages alone; records trace on a module of their own.
+// The lines of messages; records trace on a module of their own.
 Lines of_messages(const Lines &lines) {
     Lines found;
     for (const std::string &line : lines) {
@@ -193,7 +193,7 @@ TEST_F(Marshal, ABufferForTheHeadAloneFailsInThePayload) {
         Buffer buffer(100);
         err = 0;
         EXPECT_EQ(m.marshal(h, id, buffer.data(), message, frame_head, &err), frame_head);
-        EXPECT_EQ(err, std::uint32_t{ENOMEM});  // a record's marshal without any room
+        EXPECT_EQ(err, std::uint32_t{ENOMEM});  // the payload's marshal fails in an empty buffer
         EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
         EXPECT_EQ(std::memcmp(buffer.data() + header_size, m.luid, 16), 0);
         EXPECT_TRUE(buffer.untouched(frame_head));
@@ -216,9 +216,9 @@ TEST_F(Marshal, APayloadThatDoesNotFitLeavesTheHeaderZero) {
                 Buffer buffer(size);
                 err = 0;
                 const std::uint32_t written = m.marshal(h, id, buffer.data(), message, buffer.size(), &err);
-                ASSERT_TRUE(buffer.guards_stand());
+                ASSERT_TRUE(buffer.guards_are_intact());
                 if (tracking == Tracking::on && err == 0) {
-                    // State at the very end is cut without an error: the frame looks whole.
+                    // State at the very end is truncated without an error: the frame looks complete.
                     EXPECT_GT(size + 60, whole);
                     ++counted;
                     continue;
@@ -228,7 +228,7 @@ TEST_F(Marshal, APayloadThatDoesNotFitLeavesTheHeaderZero) {
                 EXPECT_EQ(buffer.first(header_size), Bytes(header_size, 0));
                 EXPECT_EQ(of_messages(traced()), (Lines{failed(m, err)}));
             }
-            // Frames that looked whole were counted, the others were not.
+            // Frames that looked complete were counted, the others were not.
             EXPECT_EQ(sent(h).at(0).count, counted);
             m.destroy(h, id, message);
         }
@@ -243,14 +243,14 @@ TEST_F(Marshal, FailuresAreTracedAtDebugLevelIfTheRuntimeSuppressesThem) {
         Buffer buffer(60);
         for (const std::uint32_t size : {26u, 42u, 50u}) {
             mirk_platform_handle_set_suppress_messages(h, 0);
-            std::uint32_t loud = 0, quiet = 0;
-            m.marshal(h, id, buffer.data(), message, size, &loud);
+            std::uint32_t traced_error = 0, suppressed_error = 0;
+            m.marshal(h, id, buffer.data(), message, size, &traced_error);
             ASSERT_NE(loud, 0u);
-            EXPECT_EQ(of_messages(traced()), (Lines{failed(m, loud)}));
+            EXPECT_EQ(of_messages(traced()), (Lines{failed(m, traced_error)}));
             mirk_platform_handle_set_suppress_messages(h, 1);
-            m.marshal(h, id, buffer.data(), message, size, &quiet);
-            EXPECT_EQ(quiet, loud);
-            EXPECT_EQ(of_messages(traced()), (Lines{failed_quietly(m, loud)}));
+            m.marshal(h, id, buffer.data(), message, size, &suppressed_error);
+            EXPECT_EQ(suppressed_error, traced_error);
+            EXPECT_EQ(of_messages(traced()), (Lines{failed_at_debug_level(m, traced_error)}));
         }
         m.destroy(h, id, message);
     }

@@ -1,4 +1,4 @@
-// What the tests of messages share: message objects as they lie in memory, control messages, payloads, handlers.
+// Shared by the tests of messages: message objects as they are in memory, control messages, payloads, handlers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ using tarn::reflect::BundleOperations;
 using tarn::reflect::MessageOperations;
 using tarn::reflect::RecordOperations;
 
-// A message object; clients see the name of its type alone.
+// A message object; clients only know the name of its type.
 struct Message {
     mirk_type_info *tinfo;
     std::int8_t variant, home_variant;
@@ -87,7 +87,7 @@ inline reference::Record sample(const MessageOperations &m, std::uint64_t seed =
     return reference::Generator(seed, options).make(m.message->payload.name);
 }
 
-// A message that holds the value.
+// A message with this value as its payload.
 inline void *make(mirk_handle *h, const MessageOperations &m, const reference::Record &value) {
     void *message = m.create(h, id);
     bridge::fill(h, payload_of(m), object(message)->payload, value);
@@ -103,7 +103,7 @@ inline Bytes frame_of(const MessageOperations &m, const reference::Record &value
 
 inline std::string error_text(std::uint32_t number) { return std::strerror(static_cast<int>(number)); }
 
-// With the trace of the library's own modules.
+// Captures the trace of the library's own modules.
 struct Messaging : testing::Test {
     void SetUp() override {
         // The library never registers the module of its stubs; a process may.
@@ -112,7 +112,7 @@ struct Messaging : testing::Test {
     }
     void TearDown() override { mirk_platform_recorder_set(0, nullptr); }
 
-    // What was traced since the last call.
+    // The lines that were traced since the last call.
     Lines traced() const {
         const Lines lines = trace.of_the_library();
         trace.clear();
@@ -123,7 +123,7 @@ struct Messaging : testing::Test {
     std::uint32_t err = 0;
 };
 
-// The static objects that stand for null after an error.
+// The static objects that replace null after an error.
 inline void *sentinel_of(const MessageOperations &m) {
     Handle h;
     h->last_error = EINVAL;
@@ -138,7 +138,7 @@ struct HandlerCall {
     std::uint32_t ctx_id = 0;
     void *dispatch_ctx = nullptr, *message = nullptr;
     std::uint32_t *slot = nullptr;
-    std::uint32_t err = 0;  // what the slot held on entry
+    std::uint32_t err = 0;  // value of the slot on entry
 };
 inline std::vector<HandlerCall> handler_calls;
 

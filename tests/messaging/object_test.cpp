@@ -1,4 +1,4 @@
-// Message objects: their making and ending, and the accessors of the payload.
+// Message objects: creation, destruction, and the accessors of the payload.
 #include <set>
 
 #include "messaging.h"
@@ -267,9 +267,9 @@ TEST_F(MessageObjects, IsValidChecksTheDomain) {
         Handle h;
         Events events(h);
         EXPECT_NE(m.is_valid_cr(h), 0u);
-        const auto asked = events.of(MIRK_PLATFORM_TESTING_MESSAGE_LOOKED_UP);
-        ASSERT_EQ(asked.size(), 1u);
-        EXPECT_EQ(asked[0].address, m.type);
+        const auto look_ups = events.of(MIRK_PLATFORM_TESTING_MESSAGE_LOOKED_UP);
+        ASSERT_EQ(look_ups.size(), 1u);
+        EXPECT_EQ(look_ups[0].address, m.type);
         mirk_platform_domain_set_message(h, m.luid, 0);
         EXPECT_EQ(m.is_valid_cr(h), 0u);
         EXPECT_EQ(h->last_error, 0u);

@@ -34,7 +34,7 @@ TEST_F(Rendering, PrintEqualsTheReference) {
             const reference::Record value = sample(m, seed, printable);
             const std::string expected = reference::print_message(m.name, value, '.');
             void *message = make(h, m, value);
-            // The gap in front of a closing brace keeps what the buffer held.
+            // The gap before a closing brace keeps the content of the buffer.
             const std::string dots(expected.size() + 100, '.');
             const auto check = [&](std::uint32_t written, const std::string &buffer) {
                 ASSERT_EQ(written, expected.size());

@@ -1,4 +1,4 @@
-// A process that defines every handler itself: its functions run in place of the linked-in ones.
+// A process that defines all handlers itself: its functions run instead of the linked-in ones.
 #include <set>
 
 #include "messaging.h"
@@ -76,11 +76,11 @@ TEST_F(ReplacedHandlers, HandlersOfControlMessagesRun) {
         Handle h;
         EXPECT_EQ(c->unmarshal(h, id, nullptr, nullptr, nullptr, 0, nullptr, &err), 43u);
         EXPECT_EQ(called, (std::vector<std::string>{"lumo_ui_tarn_" + std::string(c->name) + "_message_handler"}));
-        EXPECT_EQ(h->recv_bundle_open, 0u);  // the state keeping is the process's now
+        EXPECT_EQ(h->recv_bundle_open, 0u);  // the process keeps the state now
     }
 }
 
-// The commit of one bundle may be replaced and the bundle's handler too; what is called is always the process's own.
+// Whichever handlers of a bundle are replaced, the process's own are called.
 TEST_F(ReplacedHandlers, TheProcessFindsThemByName) {
     std::set<std::string> names;
     for (const BundleOperations &b : tarn::reflect::bundles()) {

@@ -1,4 +1,4 @@
-// What messages ask of a runtime, call by call and in order.
+// The calls that messages make of the runtime, in their order.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -37,7 +37,7 @@ struct Sequence : testing::Test {
         lumo_ui_tarn_bundle_handler_unregister();
         recording::clear_names();
     }
-    // The calls since the last look at them.
+    // The calls since the last call of this function.
     static Strings calls(Detail detail = Detail::brief) {
         Strings lines = recording::lines(detail);
         recording::clear_log();
@@ -92,7 +92,7 @@ TEST_F(Sequence, DestroyReleasesThePayloadFirst) {
         EXPECT_EQ(own(calls_of({"count_notify", "obj_free"}), m),
                   (Strings{"obj_free block2", "count_notify " + std::string(m.name) + ".num_destroyed 1",
                            "obj_free block1"}));
-        // A message without a payload is counted and released, nothing else.
+        // A message without a payload is only counted and released.
         message = m.create_shallow(h, id);
         calls();
         m.destroy(h, id, message);
@@ -147,7 +147,7 @@ TEST_F(Sequence, MarshalChecksTheDomainThenTheBundleAndWritesTheHeaderLast) {
         EXPECT_EQ(all[0], "mirk_clear_last_error");
         EXPECT_EQ(all[1], "mirk_domain_lookup_message_ok " + std::string(m.name));
         EXPECT_TRUE(all[2].starts_with("bundle_message_validate_add ")) << all[2];
-        EXPECT_EQ(all[3], "mirk_clear_last_error");  // the record's marshal begins
+        EXPECT_EQ(all[3], "mirk_clear_last_error");  // the record's marshal starts
         EXPECT_TRUE(all[all.size() - 2].starts_with("bundle_message_increment_count ")) << all[all.size() - 2];
         EXPECT_EQ(all.back(), header);
         m.destroy(h, id, message);
@@ -175,7 +175,7 @@ TEST_F(Sequence, AMessageMissingInTheOpenBundleIsTraced) {
     }
 }
 
-// The domain may allow a message and leave an error all the same.
+// The domain may allow a message and set an error nevertheless.
 TEST_F(Sequence, AnErrorOfTheDomainCheckStopsMarshal) {
     for (const BundleOperations &b : bundles()) {
         const MessageOperations &m = tarn::reflect::operations_of(b.bundle->message);
@@ -258,9 +258,9 @@ TEST_F(Sequence, UnmarshalReadsTheHeaderBeforeThePayloadIsMade) {
         EXPECT_EQ(lines[1], "obj_alloc 40");
         EXPECT_EQ(lines[2], "count_notify " + std::string(m.name) + ".num_created 1");
         EXPECT_EQ(lines[3], "_mirk_message_header_unmarshal buffer block1+12 " + std::to_string(size));
-        EXPECT_TRUE(lines[4].starts_with("obj_alloc "));  // no trace module is initialised on this way
+        EXPECT_TRUE(lines[4].starts_with("obj_alloc "));  // no trace module is registered here
         for (const std::string &line : lines) {
-            // A fresh payload has nothing to be used again.
+            // A new payload has no blocks to reuse.
             if (line.starts_with("u_int") && line.find("_unmarshal ") != std::string::npos) {
                 EXPECT_TRUE(line.ends_with(" 0")) << line;
             }
@@ -285,7 +285,7 @@ TEST_F(Sequence, AMessageIsRecordedBetweenReadingAndDelivery) {
         m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         const Strings all = calls();
         ASSERT_GT(all.size(), 2u);
-        EXPECT_EQ(all[0], "mirk_clear_last_error");  // of the whole, and of the reading
+        EXPECT_EQ(all[0], "mirk_clear_last_error");  // of unmarshal, then of unmarshal_only
         EXPECT_EQ(all[1], "mirk_clear_last_error");
         m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         // The last of these is the handler's own.
@@ -305,7 +305,7 @@ TEST_F(Sequence, AMessageIsRecordedBetweenReadingAndDelivery) {
         EXPECT_EQ(lines[4], "mirklib_free null null ctx=0");
         EXPECT_EQ(recording::live_mallocs(), 0u);
 
-        // A rendering that fails is not asked a stream for.
+        // If the rendering fails, the stream is not requested.
         h.knobs().errors["start_tag"] = EMSGSIZE;
         m.unmarshal(h, id, nullptr, &message, buffer.data(), size, note_handler, &err);
         EXPECT_EQ(err, std::uint32_t{EMSGSIZE});
@@ -329,7 +329,7 @@ TEST_F(Sequence, PrintWritesItsLastLineEvenAfterAFailure) {
                   (Strings{"mirk_clear_last_error", "mirk_print_space buffer 0 5",
                            "mirk_snprintf buffer 5 message@" + std::string(m.name) + ": {\\n", "mirk_store_err 90",
                            "mirk_print_space buffer 0 5", "mirk_snprintf buffer 5 }\\n"}));
-        // The blanks of the last line, of which there are none, go to the start of the buffer, its brace to the end.
+        // The indentation of the last line, which is empty, goes to the start of the buffer, its brace to the end.
         err = 0;
         const std::uint32_t written = m.print(h, id, reinterpret_cast<char *>(buffer.data()), message, room, &err);
         const Strings lines = calls();

@@ -50,10 +50,10 @@ TEST_F(Unmarshal, DeliversToTheHandlerThatItWasGiven) {
         SCOPED_TRACE(m.name);
         Handle h;
         Buffer frame(frame_of(m, sample(m), false));
-        for (const bool wants_it : {true, false}) {
+        for (const bool takes_message : {true, false}) {
             handler_calls.clear();
             void *message = &context;
-            EXPECT_EQ(m.unmarshal(h, id, &context, wants_it ? &message : nullptr, frame.data(), frame.size(),
+            EXPECT_EQ(m.unmarshal(h, id, &context, takes_message ? &message : nullptr, frame.data(), frame.size(),
                                   on_message, &err),
                       frame.size());
             ASSERT_EQ(handler_calls.size(), 1u);
@@ -64,7 +64,7 @@ TEST_F(Unmarshal, DeliversToTheHandlerThatItWasGiven) {
             EXPECT_EQ(call.slot, &err);
             EXPECT_EQ(call.err, 0u);
             ASSERT_NE(call.message, nullptr);
-            EXPECT_EQ(message, wants_it ? call.message : &context);
+            EXPECT_EQ(message, takes_message ? call.message : &context);
             m.destroy(h, id, call.message);
         }
     }
@@ -130,7 +130,7 @@ TEST_F(Unmarshal, EveryTruncationOfAFrameFailsAndLeavesADestroyableObject) {
     }
 }
 
-// State bytes at the end of a tracked frame may be cut without a sign of it; everything else must be noticed.
+// State bytes at the end of a tracked frame may be missing without an error; all other truncations must be detected.
 TEST_F(Unmarshal, EveryTruncationOfATrackedFrameIsHarmless) {
     for (const bool receiver_tracks : {false, true}) {
         for (const MessageOperations &m : messages()) {
@@ -158,7 +158,7 @@ TEST_F(Unmarshal, ATruncatedFrameCallsNoHandlerAndReturnsNoMessage) {
         for (const std::size_t size : {std::size_t{0}, std::size_t{26}, std::size_t{43}, whole.size() - 1}) {
             SCOPED_TRACE(std::string(m.name) + ", size " + std::to_string(size));
             Handle h;
-            h.allow_lost_blocks();  // the message that was made is given to nobody
+            h.allow_lost_blocks();  // the created message is not returned
             Buffer frame(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
             void *message = &frame;
             err = 0;
@@ -276,7 +276,7 @@ TEST_F(Unmarshal, AFrameOfAnotherMessageDoesNoHarm) {
                     Buffer text(20000);
                     std::uint32_t ignored = 0;
                     wrong.print(h, id, text.text(), message, text.size(), &ignored);
-                    EXPECT_TRUE(frame.guards_stand());
+                    EXPECT_TRUE(frame.guards_are_intact());
                     wrong.destroy(h, id, message);
                 }
                 ++pairs;

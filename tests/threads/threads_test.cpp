@@ -1,6 +1,6 @@
-// A handle belongs to one thread, and all handles share the records of types with their counters. Threads with handles
-// of their own run every record through every operation at once; each finds what it would have found alone, and no
-// count is lost. The thread sanitizer watches the same tests for accesses that race without a trace (./check threads).
+// A handle belongs to one thread, and all handles share the type records with their counters. Threads with handles of
+// their own run every operation on every record at once: the results are those of a single thread, and no count is
+// lost. The thread sanitizer checks the same tests for data races (./check threads).
 #include <atomic>
 #include <cstdlib>
 #include <thread>
@@ -23,7 +23,7 @@ using reference::Record;
 
 constexpr std::size_t room = 1 << 18;
 
-// Starts all threads at one moment, so that they do meet.
+// Starts all threads at one moment, so that they do run concurrently.
 template <class Work>
 void on_threads(unsigned count, Work &&work) {
     std::atomic<unsigned> waiting{count};
@@ -46,7 +46,7 @@ void write_and_read(const Handle &h, const Record &value) {
     EXPECT_TRUE(bridge::same(reference::encode(value, h.tracks()), frame.bytes));
     std::uint32_t err = 0;
     const auto size = static_cast<std::uint32_t>(frame.bytes.size());
-    frame.bytes.push_back(0);  // the spare byte
+    frame.bytes.push_back(0);  // the guard byte
     EXPECT_EQ(record.unmarshal(h, id, frame.bytes.data(), second.get(), size, 0, &err), size);
     EXPECT_EQ(err, 0u);
     EXPECT_EQ(record.compare(instance.get(), second.get()), 0);
@@ -134,7 +134,7 @@ TEST(Threads, SharedTypeRecordsLoseNoCount) {
     for (unsigned i = 0; i < 3; ++i) everything(i, false);
     const std::vector<Counts> alone = counts();
     constexpr unsigned times = 4;
-    // Each of the first three again and again: threads divided by three with the same remainder do the same.
+    // Repeats the first three: threads with the same number modulo three do the same.
     on_threads(3 * times, [](unsigned i) { everything(i % 3, false); });
     const std::vector<Counts> together = counts();
     for (std::size_t i = 0; i < first.size(); ++i) {
@@ -152,7 +152,7 @@ TEST(Threads, PrivateTypeRecordsWorkBesideSharedOnes) {
     for (std::size_t i = 0; i < before.size(); ++i) EXPECT_EQ(after[i].live, before[i].live);
 }
 
-// The trace modules are announced by the first object of a process, whichever thread makes it.
+// The first object of a process registers the trace modules, whichever thread creates it.
 TEST(Threads, HandlesOpenAndCloseConcurrently) {
     on_threads(8, [](unsigned) {
         for (int round = 0; round < 20; ++round) {
@@ -170,8 +170,8 @@ void load_a_document() {
     mirk_platform_document_free(document);
 }
 
-// Runs the work in a process that has done nothing yet, again and again. Each process ends with the leak check and with
-// the verdict of the thread sanitizer, where there are such.
+// Runs the work repeatedly, each time in a new process, which ends with the leak check and the result of the thread
+// sanitizer, if there are any.
 template <class Work>
 void in_fresh_processes(int rounds, Work &&work) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
@@ -185,12 +185,12 @@ void in_fresh_processes(int rounds, Work &&work) {
     }
 }
 
-// The engine behind documents prepares itself once for the process.
+// The engine of documents initializes itself once per process.
 TEST(Threads, TheFirstDocumentsLoadConcurrently) {
     in_fresh_processes(60, [] { on_threads(2, [](unsigned) { load_a_document(); }); });
 }
 
-// The first object of a process gets the library its numbers for tracing, and who only reads uses them all the same.
+// The first object of a process assigns the trace numbers, which a thread that only reads uses as well.
 TEST(Threads, ABrokenFrameIsTracedWhileTheFirstObjectIsCreated) {
     in_fresh_processes(5, [] {
         on_threads(2, [](unsigned i) {
@@ -224,7 +224,7 @@ TEST(Threads, AllThreadsGetTheSameSentinels) {
     });
 }
 
-// A handle that gets no counters of its own goes on with those that all share.
+// A handle that gets no private counters continues with the shared ones.
 TEST(Threads, SharedCountersLoseNoCountIfPrivateTypesFail) {
     constexpr unsigned threads = 4, objects = 2000;
     const RecordOperations &record = bridge::operations("lumo_tarn_dp_tc");

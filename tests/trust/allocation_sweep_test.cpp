@@ -1,4 +1,4 @@
-// Each request for memory of each exported operation is refused in turn, once and from then on.
+// Each allocation of each exported operation fails in turn, once and from then on.
 #include <cerrno>
 #include <set>
 
@@ -39,7 +39,7 @@ protected:
     };
 
     static Outcome run(const Operation &operation, const kit::Options &options, const Failure *failure,
-                       bool tells_of_it) {
+                       bool is_described) {
         Scene scene(operation.subject, options);
         scene.begin_call();
         if (failure != nullptr) scene.fail(*failure);
@@ -48,7 +48,7 @@ protected:
         Outcome outcome{
             .err = scene.err, .last_error = scene.last_error, .result = scene.result, .made = scene.made != nullptr};
         for (const auto allocator : allocators) outcome.requests[allocator] = scene.requests(allocator);
-        if (tells_of_it) operation.driver->judge(scene, *failure);
+        if (is_described) operation.driver->judge(scene, *failure);
         scene.clean_up();
         return outcome;
     }
@@ -63,7 +63,7 @@ TEST_P(EachOperation, SurvivesEachFailure) {
         SCOPED_TRACE(operation.name);
         for (const kit::Tracking tracking : kit::every_tracking) {
             for (const bool private_types : {false, true}) {
-                // Type records are made alike in every mode.
+                // Type records are created in the same way in every mode.
                 if (private_types && tracking != kit::Tracking::none) continue;
                 SCOPED_TRACE(std::string(kit::name_of(tracking)) + (private_types ? ", types of its own" : ""));
                 const kit::Options options{.tracking = tracking, .private_types = private_types};
@@ -72,13 +72,14 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                 for (const auto allocator : allocators) {
                     const bool of_types = allocator == MIRK_PLATFORM_TESTING_SYS_ALLOC ||
                                           allocator == MIRK_PLATFORM_TESTING_VARIANT_BLOCK;
-                    // What the call asks for besides is asked for without types of its own, too.
+                    // The call's other allocations also happen without private types.
                     if (private_types && !of_types) continue;
                     if (driver.judge == nullptr && !private_types) {
                         EXPECT_EQ(calm.requests[allocator], 0U)
                             << "asks for memory, and its driver tells nothing of it";
                     }
-                    // All types are made at once, whichever is asked for: after one sweep through them, first and last.
+                    // All types are created at once, whichever is requested: after one sweep through them, only the
+                    // first and the last are tried.
                     const std::uint64_t requests = calm.requests[allocator];
                     const std::uint64_t step =
                         private_types && types_swept[allocator] && requests > 1 ? requests - 1 : 1;
@@ -93,8 +94,9 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                             const Outcome outcome = run(operation, options, &failure, judged);
                             ++refused;
                             if (judged) continue;
-                            // Without a type record of its own the handle goes on with the module's; the handle says
-                            // so if it was the library that wanted to make it, and a sticky call goes by that.
+                            // Without a private type record the handle continues with the module's. The handle reports
+                            // the error if it was the library that wanted to create the record, and a sticky call
+                            // checks it.
                             EXPECT_EQ(outcome.err, calm.err);
                             EXPECT_TRUE(outcome.last_error == calm.last_error || outcome.last_error == ENOMEM);
                             EXPECT_TRUE(outcome.made == calm.made || (!outcome.made && outcome.last_error == ENOMEM));
@@ -129,7 +131,7 @@ INSTANTIATE_TEST_SUITE_P(Exports, EachOperation, testing::ValuesIn(each_driver()
 
 using RecorderDeathTest = testing::TestWithParam<const MessageOperations *>;
 
-// A recording asked for and silently missing would be worse.
+// A recording that silently lacks messages would be worse than an abort.
 TEST_P(RecorderDeathTest, AFailedBufferAllocationAborts) {
     const MessageOperations &m = *GetParam();
     EXPECT_EXIT(
@@ -153,8 +155,8 @@ INSTANTIATE_TEST_SUITE_P(EveryMessage, RecorderDeathTest, testing::ValuesIn(each
 
 void *no_memory(std::size_t) { return nullptr; }
 
-// More references than a few are listed in memory of the process. Without it the destruction stops where it is, as when
-// the references cannot be read.
+// Larger numbers of references are listed in memory of the process. If it cannot be allocated, the destruction stops,
+// as if the references could not be read.
 TEST(AllocationSweep, UnlistableReferencesStopADestruction) {
     const RecordOperations *holder = nullptr;
     std::size_t index = 0;
@@ -183,13 +185,13 @@ TEST(AllocationSweep, UnlistableReferencesStopADestruction) {
         mirk_platform_testing_capture_stop();
     }
     EXPECT_TRUE(scene.is_live(scene.object));
-    // Without room for them the references were not asked for, so no line says that they cannot be had.
+    // Without memory for them the references were not read, so no line reports that they cannot be read.
     EXPECT_EQ(mirk_platform_testing_captured(), 0U);
     std::uint32_t left = 0;
     EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[0], &left, nullptr), 0U);
     EXPECT_EQ(left, 1U);
 
-    // With memory it goes through.
+    // With memory it succeeds.
     holder->destroy(scene.h, id, scene.object);
     EXPECT_FALSE(scene.is_live(scene.object));
     EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[99], &left, nullptr), 0U);

@@ -1,11 +1,11 @@
-// A bundle as it travels, and a handle that takes whatever comes.
+// The frames of a bundle, and a handle that accepts all messages.
 #pragma once
 
 #include "damage.h"
 
 namespace trust {
 
-// Messages that a bundle brought, and messages that came alone. Each was looked at from all sides.
+// Messages that were received in a bundle, and messages outside of bundles. All operations were run on each.
 struct Received {
     std::size_t in_bundles = 0, alone = 0;
 };

@@ -1,4 +1,4 @@
-// Damaged input: how much of it a run goes through, and the roots that it is read as.
+// Damaged input: how much of it a run tries, and the roots that it is read as.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ using reference::Bytes;
 using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MessageOperations;
 
-// With TARN_DAMAGE=whole all of it; else one case of so many, chosen by TARN_SEED, which is 1 if not set.
+// All of it with TARN_DAMAGE=whole; otherwise one case in so many, chosen by TARN_SEED, which defaults to 1.
 class Share {
 public:
     explicit Share(std::uint64_t one_in) : one_in_(is_whole() ? 1 : one_in), random_(seed()) {}
@@ -56,7 +56,7 @@ struct Root {
     const EnumerationOperations *enumeration = nullptr;
     const MessageOperations *message = nullptr;
 
-    // The record behind the frame, which an enumeration has not.
+    // The record in the frame; null for an enumeration.
     const RecordOperations *payload() const {
         return message != nullptr ? &tarn::reflect::operations_of(message->message->payload) : record;
     }
@@ -66,14 +66,13 @@ const std::vector<Root> &roots();
 Bytes frame_of(const Root &root, bool tracked);
 std::string document_of(const Root &root);
 
-// A handle that gives so little memory that counts cost little. Nothing may be left on it at its end.
+// A handle with so little memory that counts cost little. All blocks must be released when it closes.
 std::unique_ptr<kit::Handle> small_handle(Tracking tracking, bool private_types = false);
 
-// Prints, renders, writes, measures, compares and hashes, into buffers that end at a page that cannot be read. Null is
-// left alone.
+// Prints, renders, writes, measures, compares and hashes, into buffers that end at an unreadable page. Null is ignored.
 void use(mirk_handle *h, const Root &root, void *instance, std::int32_t size);
 
-// One instance of a root, which what was read goes into.
+// One instance of a root, to read into.
 class Specimen {
 public:
     Specimen(mirk_handle *h, const Root &root);
@@ -81,7 +80,7 @@ public:
     Specimen(const Specimen &) = delete;
     Specimen &operator=(const Specimen &) = delete;
 
-    // From a buffer that ends, behind its one spare byte, at a page that cannot be read.
+    // From a buffer that ends, after its guard byte, at an unreadable page.
     std::uint32_t read(const Bytes &frame, std::uint32_t reuse = 0);
     std::uint32_t read_document(void *document);
     void use(std::int32_t size) { trust::use(h_, root_, instance_, size); }

@@ -1,4 +1,4 @@
-// Documents of every root: cut, spliced, deep, with types and entities, with numbers that nothing holds, in wrong
+// Documents of every root: truncated, spliced, deep, with types and entities, with numbers out of range, in wrong
 // encodings.
 #include <functional>
 
@@ -21,10 +21,10 @@ protected:
         std::uint32_t error = 0;
         std::string sentence;
     };
-    // Loads from memory that ends with the text, reads into a fresh instance, and uses and ends that.
+    // Loads from memory that ends with the text, reads into a new instance, uses it and destroys it.
     Outcome read(const std::string &text, Tracking tracking = Tracking::on) {
         static kit::GuardedMemory memory(std::size_t{1} << 22);
-        // Not even the one byte: a parser is told the length.
+        // There is no guard byte, since a parser gets the length.
         std::uint8_t *at = memory.room(text.size()) + 1;
         std::memcpy(at, text.data(), text.size());
         mirk_platform_report report;
@@ -39,7 +39,7 @@ protected:
             outcome.error = specimen.read_document(document);
             specimen.use(2048);
         }
-        // A message that could not be read is kept.
+        // A message that could not be read is not released.
         if (root().message != nullptr && outcome.error != 0) {
             handle->allow_lost_blocks();
         } else {
@@ -65,7 +65,7 @@ TEST_P(DocumentDamage, CutAtEveryByteIsRefused) {
     for (std::size_t size = 0; size <= last; ++size) expect_refused(text_.substr(0, size));
 }
 
-// Up to one tag of a document, and on from another tag of the same, or of another document.
+// One document up to a tag, continued from a tag of the same or of another document.
 TEST_P(DocumentDamage, SplicedOnesAreReadOrRefused) {
     Share share(1024);
     const auto tags = [](const std::string &text) {
@@ -79,12 +79,12 @@ TEST_P(DocumentDamage, SplicedOnesAreReadOrRefused) {
             for (const std::size_t second : tags(rest)) {
                 if (!share.takes()) continue;
                 read(text_.substr(0, first) + rest.substr(second));
-                // With what stood between two tags, inside the element of the root.
+                // With the text between two tags moved inside the root element.
                 read("<" + root().name + ">" + text_.substr(first) + rest.substr(0, second) + "</" + root().name + ">");
             }
         }
     }
-    // Well-formed whatever they are made of: every element of the one, twice and in turn with those of the other.
+    // Always well-formed: each element of one document twice, alternating with those of the other.
     const auto inner = [](const std::string &text) {
         const std::size_t begin = text.find('>') + 1;
         return text.substr(begin, text.rfind("</") - begin);
@@ -137,10 +137,10 @@ TEST_P(DocumentDamage, TypesAndEntitiesAreRefused) {
         laughs += "<!ENTITY a" + std::to_string(i) + " \"" + before + before + "\">";
     }
     expect_refused(laughs + "]><" + name + ">&a29;</" + name + ">");
-    // Behind something, and in capitals only as it is written.
+    // After other content, and only in the case that XML requires.
     expect_refused("<?xml version=\"1.0\"?><!-- a --><!DOCTYPE " + name + ">" + text_);
     expect_refused("<!doctype " + name + ">" + text_);
-    // Inside the root there is no place for one.
+    // A document type is not allowed inside the root.
     expect_refused("<" + name + "><!DOCTYPE a></" + name + ">");
     expect_refused("<" + name + ">&undeclared;</" + name + ">");
     expect_refused("<" + name + ">&#0;</" + name + ">");
@@ -149,7 +149,7 @@ TEST_P(DocumentDamage, TypesAndEntitiesAreRefused) {
     EXPECT_TRUE(read("<" + name + ">&#65;&lt;&amp;<![CDATA[<!DOCTYPE a>]]></" + name + ">").loaded);
 }
 
-// The text of a document in another encoding, each character in so many bytes.
+// The text of a document in another encoding, with a fixed number of bytes per character.
 std::string widened(const std::string &text, std::size_t width, bool big_endian) {
     std::string wide;
     for (const char c : text) {
@@ -165,7 +165,7 @@ TEST_P(DocumentDamage, WrongEncodingsAreRefused) {
     const auto declared = [&](const std::string &encoding) {
         return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
     };
-    // Right ones, for comparison.
+    // Correct ones, for comparison.
     EXPECT_EQ(read(declared("UTF-8") + text_).error, read(text_).error);
     EXPECT_TRUE(read("\xEF\xBB\xBF" + text_).loaded);
     EXPECT_TRUE(read("\xFF\xFE" + widened(text_, 2, false)).loaded);
@@ -181,14 +181,14 @@ TEST_P(DocumentDamage, WrongEncodingsAreRefused) {
     expect_refused("<" + name + ">\xE2\x82</" + name + ">");
     expect_refused("\xFF\xFE" + text_);
     expect_refused("\xFE\xFF" + widened(text_, 2, false));
-    // To the parser a NUL ends a document. What stands behind it must not be lost for that.
+    // For the parser, a NUL ends a document. The bytes after it must not be silently ignored.
     expect_refused(text_ + std::string(1, '\0') + "<!DOCTYPE a>");
     expect_refused(text_ + std::string(1, '\0'));
     expect_refused("<" + name + ">" + std::string(1, '\0') + "</" + name + ">");
     expect_refused("<" + name + ">\x01</" + name + ">");
     for (const std::size_t width : {2U, 4U}) {
         for (const bool big_endian : {false, true}) {
-            // Whether it is known without a mark or not: read or refused, and cut in the middle of a character refused.
+            // With or without a byte order mark: read or refused, and refused if truncated within a character.
             const std::string wide = widened(text_, width, big_endian);
             read(wide);
             expect_refused(wide.substr(0, wide.size() - 1));
@@ -213,8 +213,7 @@ const char *const numbers[] = {"256",
                                "\xC2\xA0",
                                "\xD9\xA1"};
 
-// Every place of a document that holds a number, one after the other. What a member cannot hold is refused, and nothing
-// of it is stored.
+// Each number in a document in turn: a value that the member cannot hold is refused and not stored.
 TEST_P(DocumentDamage, NumbersOutOfRangeAreRefused) {
     const RecordOperations *payload = root().payload();
     if (payload == nullptr) {
@@ -222,7 +221,7 @@ TEST_P(DocumentDamage, NumbersOutOfRangeAreRefused) {
         return;
     }
     const std::string name(payload->record->name);
-    // The member behind an absent string is not read, so that none is absent.
+    // The member after an absent string is not read, so none is absent.
     std::string strings;
     for (const auto &m : payload->members) {
         const std::string tag(m.member->name);
@@ -250,7 +249,7 @@ TEST_P(DocumentDamage, NumbersOutOfRangeAreRefused) {
             const bool digits = number.find_first_not_of("0123456789") == std::string::npos;
             const std::size_t first = number.find_first_not_of('0');
             const std::string shown = digits && first != std::string::npos ? number.substr(first) : number;
-            // Compared as text, as the numbers are longer than any type.
+            // Compared as text, since the numbers are longer than any type.
             const std::string limit = std::to_string(most);
             const bool fits =
                 digits && (shown.size() < limit.size() || (shown.size() == limit.size() && shown <= limit));

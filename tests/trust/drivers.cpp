@@ -1,5 +1,5 @@
-// How operations are called in the sweep that allocate, destroy or move, and what they report when allocation fails.
-// The calls of all others are printed from the table of operations.
+// How the sweep calls operations that allocate, destroy or move, and what they report when allocation fails. The calls
+// of all others are printed from the table of operations.
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -20,7 +20,7 @@ const EnumerationOperations &en(const Scene &s) { return *s.subject.enumeration;
 const MessageOperations &msg(const Scene &s) { return *s.subject.message; }
 std::uint32_t frame_size(const Scene &s) { return static_cast<std::uint32_t>(s.frame.size() - 1); }
 
-// A sticky create on a handle that has an error hands out the sentinel.
+// A sticky create on a handle with an error returns the sentinel.
 template <class Operations>
 void *sentinel_of(const Operations &operations) {
     mirk_handle *h = mirk_platform_handle_open(nullptr);
@@ -53,12 +53,13 @@ void enomem_and_nothing(Scene &s, const Failure &f) {
     enomem(s, f);
     EXPECT_EQ(s.made, nullptr);
 }
-// A document's reader makes an element before it looks at the error of the one before, which clears the handle's.
+// Before the reader of a document checks the error of one element, it creates the next, which clears the handle's
+// error.
 void enomem_in_the_slot(Scene &s, const Failure &) {
     EXPECT_EQ(s.err, static_cast<std::uint32_t>(ENOMEM));
     EXPECT_TRUE(s.last_error == 0 || s.last_error == ENOMEM) << s.last_error;
 }
-// A message that could not be read is left behind.
+// A message that could not be read is not released.
 void message_is_kept(Scene &s, const Failure &f) {
     enomem_in_the_slot(s, f);
     EXPECT_EQ(s.made, nullptr);
@@ -69,7 +70,8 @@ void sticky_enomem(Scene &s, const Failure &) {
     EXPECT_EQ(s.made, nullptr);
 }
 
-// An array that cannot grow is as it was, but the old vector of element states is lost if a new one cannot be had.
+// An array that cannot grow does not change, but the old vector of element states is lost if a new one cannot be
+// allocated.
 void grown(Scene &s, const Failure &f) {
     sticky_enomem(s, f);
     if (s.tracks) s.may_lose = 1;
@@ -77,12 +79,12 @@ void grown(Scene &s, const Failure &f) {
 
 // ---- records
 
-// The states of an instance on its own stand directly behind it.
+// The state area of a top-level instance directly follows it.
 void *area_of(const Scene &s, void *object) {
     return static_cast<char *>(object) + reference::layout_of(reference::record_table(rec(s).record->name)).base;
 }
 
-// As an array moves an element: the bytes first, then the cleaning up of the old place, which is then only storage.
+// As an array moves an element: copies the bytes, then cleans up the old location, which is only storage from then on.
 void move_out(Scene &s) {
     rec(s).destroy_internal(s.h, id, s.other, 0);
     std::memcpy(s.other, s.object, rec(s).sizeof_(s.h));
@@ -116,7 +118,7 @@ void message_create_cr_failed(Scene &s, const Failure &f) {
     const RecordOperations &payload = tarn::reflect::operations_of(msg(s).message->payload);
     std::uint32_t err = 0;
     EXPECT_EQ(msg(s).payload_get(s.h, id, s.made, &err), sentinel_of(payload));
-    // Without memory for the message its own sentinel is handed out; without memory for the payload a message is.
+    // If the message cannot be allocated, its sentinel is returned; if the payload cannot, a message is.
     EXPECT_EQ(s.made == sentinel_of(msg(s)), f.nth == 1);
 }
 
@@ -155,7 +157,7 @@ const Driver by_hand[] = {
          rec(s).set_all(s.h, id, s.object, values.data(), s.error());
      }},
     {"record", "post_copyout_cleanup", move_out},
-    // Where there is a vector of element states, it is lost under the fill.
+    // A vector of element states is lost by the fill.
     {"record", "set_all_state_tracking_flag",
      [](Scene &s) { rec(s).set_all_state_tracking_flag(s.h, id, s.other, 1); }},
     {"record", "get_object_references",
@@ -165,7 +167,7 @@ const Driver by_hand[] = {
      }},
     {"record", "offset_update",
      [](Scene &s) { rec(s).offset_update(s.h, id, s.object, area_of(s, s.object), s.error()); }},
-    // Put back at once: what is nested finds its states by these.
+    // Restored at once, since nested objects find their states by these.
     {"record", "offset_remove",
      [](Scene &s) {
          rec(s).offset_remove(s.h, id, s.object, s.error());
@@ -201,7 +203,7 @@ const Driver by_hand[] = {
      }},
 
     // ---- members
-    // From a fresh record, so that a nested one has nothing to lose and nothing to gain.
+    // From a new record, so that a nested one neither loses nor gains blocks.
     {"single", "set",
      [](Scene &s) { mem(s).set(s.h, id, s.other, mem(s).get(s.h, id, s.object, s.error()), s.error()); }},
     {"string", "set", [](Scene &s) { mem(s).text_set(s.h, id, s.object, "another", 7, s.error()); }, string_set_failed},
@@ -249,7 +251,7 @@ const Driver by_hand[] = {
     {"message", "destroy", [](Scene &s) { msg(s).destroy(s.h, id, std::exchange(s.object, nullptr)); }},
     {"message", "destroy_cr", [](Scene &s) { msg(s).destroy_cr(s.h, std::exchange(s.object, nullptr)); }},
     {"message", "destroy_unsafe", [](Scene &s) { msg(s).destroy_unsafe(s.h, id, std::exchange(s.object, nullptr)); }},
-    // The message goes to the handler; what a failed reading made goes to nobody.
+    // The message goes to the handler; the message of a failed read is lost.
     {"message", "unmarshal",
      [](Scene &s) {
          void *out = nullptr;
@@ -263,7 +265,7 @@ const Driver by_hand[] = {
          enomem(s, f);
          EXPECT_EQ(s.made == nullptr, f.nth == 1) << "what was read so far is handed out";
      }},
-    // A failed reading returns null and keeps the object.
+    // A failed read returns null and does not release the object.
     {"message", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, id, s.document, s.error(), s.text(), 128); },
      message_is_kept},
     {"message", "from_xml_unsafe",
@@ -281,7 +283,7 @@ const Driver by_hand[] = {
     {"payload", "free_and_set", [](Scene &s) { msg(s).payload_free_and_set(s.h, id, s.object, nullptr, s.error()); }},
     {"message handler", "handler",
      [](Scene &s) {
-         // It reports that nobody took the message, which stays with the caller.
+         // It reports that the message was not handled; the caller still owns it.
          msg(s).handler(s.h, id, nullptr, s.object, s.error());
          s.result = s.err;
      }},
@@ -303,7 +305,7 @@ const Driver by_hand[] = {
          void *out = nullptr;
          s.result = msg(s).unmarshal_only(s.h, id, &out, s.frame.data(), frame_size(s), s.error());
      }},
-    // A token, or null when there is no memory, and no error.
+    // A token, or null if allocation fails, without an error.
     {"control", "from_xml", [](Scene &s) { s.made = msg(s).from_xml(s.h, id, nullptr, s.error(), s.text(), 128); },
      null_alone},
     {"control", "from_xml_unsafe",
@@ -327,7 +329,7 @@ const Driver by_hand[] = {
          const mirk_bundle_handler before = s.subject.bundle->unregister_handler();
          s.subject.bundle->register_handler(before);
      }},
-    // Copies that were made stay in the store, and a later call makes the rest.
+    // Copies stay in the store, and a later call creates the rest.
     {"module", "lumo_ui_tarn_typeinfo_initialize",
      [](Scene &s) { lumo_ui_tarn_typeinfo_initialize(s.h, id, s.error()); },
      [](Scene &s, const Failure &f) {
@@ -344,7 +346,7 @@ const Driver by_hand[] = {
      [](Scene &) { lumo_ui_tarn_bundle_handler_register(lumo_ui_tarn_bundle_handler_unregister()); }},
 };
 
-// Those whose arguments follow from their names.
+// Operations whose arguments follow from their names.
 const Driver printed[] = {
 #include "drivers.inc"
 };

@@ -1,4 +1,4 @@
-// Frames of every root and of every bundle, cut, with each byte replaced and with neighbouring bits flipped.
+// Frames of every root and of every bundle: truncated, with each byte replaced, and with neighboring bits flipped.
 #include "bundle_stream.h"
 #include "damage.h"
 
@@ -13,7 +13,8 @@ protected:
 
     const Root &root() const { return *GetParam(); }
 
-    // A fresh instance gives everything back at its end. An occupied one loses some, so its handle does not live long.
+    // A new instance must release everything when it is destroyed. A filled one may lose blocks, so its handle is
+    // closed early.
     void read(const Bytes &bytes, Tracking tracking, std::uint32_t reuse) {
         constexpr std::uint64_t reads_per_handle = 64;
         auto &handle = handles_[static_cast<int>(tracking)][reuse];
@@ -25,7 +26,7 @@ protected:
             Specimen specimen(*handle, root());
             if (reuse != 0) specimen.read(good_[static_cast<int>(handle->tracks())]);
             specimen.read(bytes, reuse);
-            // Most of the time goes into text, so most texts end early.
+            // Text takes most of the time, so most texts end early.
             constexpr int whole = 16384;
             specimen.use(reads_ % 8 != 0 ? 256 : Share::is_whole() ? whole : 2048);
         }
@@ -43,7 +44,7 @@ protected:
             damage(whole, [&](const Bytes &bytes) {
                 for (const Tracking tracking : kit::every_tracking) {
                     for (const std::uint32_t reuse : {0U, 1U}) {
-                        // Nothing of a message is used again.
+                        // A message reuses no blocks.
                         if (reuse != 0 && root().message != nullptr) continue;
                         if (share.takes()) read(bytes, tracking, reuse);
                         if (HasFatalFailure()) return;
@@ -63,7 +64,8 @@ private:
 };
 
 TEST_P(FrameDamage, CutAtEveryByte) {
-    // Records are cut at every byte by the tests of their frames; a share is enough here. Messages are cut here alone.
+    // Records are truncated at every byte by the tests of their frames, so a share is enough here. Messages are only
+    // truncated here.
     read_each(root().message != nullptr ? 1 : 16, [](const Bytes &whole, auto &&next) {
         for (std::size_t size = 0; size <= whole.size(); ++size) {
             next(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
@@ -84,7 +86,7 @@ TEST_P(FrameDamage, EachByteReplacedByAllOthers) {
     });
 }
 
-// All of them: those of heads, counts, lengths and jumps are among them.
+// All bits, so those of heads, counts, lengths and jumps are among them.
 TEST_P(FrameDamage, EachPairOfNeighbouringBitsFlipped) {
     read_each(64, [](const Bytes &whole, auto &&next) {
         Bytes bytes = whole;

@@ -1,5 +1,5 @@
-// Takes an import of the loaded library to another function, while this lives: what the library calls by this name goes
-// there, what everything else calls does not.
+// Redirects an import of the loaded library to another function during its lifetime. Only calls by this library are
+// redirected.
 #pragma once
 
 #include <elf.h>

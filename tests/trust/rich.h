@@ -1,4 +1,4 @@
-// The values that failures are tried on.
+// The values that failures are tested with.
 #pragma once
 
 #include <string_view>

@@ -1,6 +1,6 @@
-// The reference runtime keeps tables and lists of its own beside the blocks that it hands out. Each request for their
-// memory is refused in turn, once and from then on, whatever function asks: the process goes on, an error is reported
-// or nothing is amiss, and everything can be destroyed.
+// The reference runtime has tables and lists besides the blocks that it returns. Each allocation for them fails in
+// turn, once and from then on, in whichever function: the process continues, the result is an error or correct, and
+// everything can be destroyed.
 #include <cerrno>
 #include <new>
 #include <optional>
@@ -32,7 +32,7 @@ void *some_new(std::size_t size) {
     return ::operator new(size);
 }
 
-// While this lives, what the reference runtime asks for is counted and refused.
+// During its lifetime, allocations of the reference runtime are counted and can fail.
 class ShortOfMemory {
 public:
     ShortOfMemory() { EXPECT_TRUE(malloc_.found() && calloc_.found() && new_.found()); }
@@ -43,7 +43,7 @@ private:
     const Import new_{"libmirklib", "_Znwm", reinterpret_cast<void *>(&some_new)};
 };
 
-// Does the work again and again, with one request refused after the other. Returns how many there are.
+// Repeats the work, with a different allocation failing each time. Returns the number of allocations.
 template <class Work>
 std::uint64_t refuse_each(Work &&work) {
     refused = {};
@@ -62,10 +62,8 @@ std::uint64_t refuse_each(Work &&work) {
     return all;
 }
 
-// Where nothing was refused, nothing goes wrong.
-void expect_want_of_memory(std::uint32_t error) {
-    EXPECT_TRUE(error == 0 || (error == ENOMEM && refused.nth != 0)) << error;
-}
+// If no allocation failed, there must be no error.
+void expect_enomem(std::uint32_t error) { EXPECT_TRUE(error == 0 || (error == ENOMEM && refused.nth != 0)) << error; }
 
 class RuntimeMemory : public testing::Test {
 protected:
@@ -84,7 +82,7 @@ TEST_F(RuntimeMemory, AFailedReadOfAnyRootIsHarmless) {
                 std::optional<Specimen> specimen(std::in_place, h, root);
                 {
                     const ShortOfMemory is_short;
-                    expect_want_of_memory(specimen->read(frame));
+                    expect_enomem(specimen->read(frame));
                     specimen->use(256);
                 }
                 specimen->use(2048);
@@ -98,16 +96,16 @@ TEST_F(RuntimeMemory, AFailedReceiverOfABundleIsHarmless) {
     for (const reference::BundleTable &table : reference::bundles()) {
         SCOPED_TRACE(table.name);
         Bytes stream = bundle_stream(table, true);
-        const std::uint64_t asked = refuse_each([&] {
+        const std::uint64_t allocations = refuse_each([&] {
             kit::Handle h(Tracking::on);
             h.allow_lost_blocks();
             enlist(h);
             Received received;
             const ShortOfMemory is_short;
-            expect_want_of_memory(mirk_platform_dispatch(
-                h, id, guarded(stream), static_cast<std::uint32_t>(stream.size()), &received, nullptr));
+            expect_enomem(mirk_platform_dispatch(h, id, guarded(stream), static_cast<std::uint32_t>(stream.size()),
+                                                 &received, nullptr));
         });
-        EXPECT_GT(asked, 0U);
+        EXPECT_GT(allocations, 0U);
     }
 }
 
@@ -115,7 +113,7 @@ TEST_F(RuntimeMemory, AFailedSenderOfABundleIsHarmless) {
     for (const auto &bundle : tarn::reflect::bundles()) {
         SCOPED_TRACE(bundle.bundle->name);
         const MessageOperations &m = tarn::reflect::operations_of(bundle.bundle->message);
-        const std::uint64_t asked = refuse_each([&] {
+        const std::uint64_t allocations = refuse_each([&] {
             const kit::Handle h;
             std::uint32_t err = 0;
             void *message = m.create(h, id);
@@ -125,13 +123,13 @@ TEST_F(RuntimeMemory, AFailedSenderOfABundleIsHarmless) {
                 bundle.start.marshal(h, id, frame.data(), nullptr, 4095, &err);
                 m.marshal(h, id, frame.data(), message, 4095, &err);
                 bundle.commit.marshal(h, id, frame.data(), nullptr, 4095, &err);
-                expect_want_of_memory(err);
+                expect_enomem(err);
             }
             m.destroy(h, id, message);
             err = 0;
             if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, id, &err);
         });
-        EXPECT_GT(asked, 0U);
+        EXPECT_GT(allocations, 0U);
     }
 }
 
@@ -139,7 +137,7 @@ TEST_F(RuntimeMemory, AFailedReaderOfADocumentIsHarmless) {
     for (const Root &root : roots()) {
         SCOPED_TRACE(root.name);
         const std::string text = document_of(root);
-        const std::uint64_t asked = refuse_each([&] {
+        const std::uint64_t allocations = refuse_each([&] {
             kit::Handle h(Tracking::on);
             h.allow_lost_blocks();
             Specimen specimen(h, root);
@@ -150,24 +148,24 @@ TEST_F(RuntimeMemory, AFailedReaderOfADocumentIsHarmless) {
                 EXPECT_EQ(report.number, static_cast<std::uint32_t>(ENOMEM)) << report.sentence;
                 return;
             }
-            expect_want_of_memory(specimen.read_document(document));
+            expect_enomem(specimen.read_document(document));
             mirk_platform_document_free(document);
         });
-        EXPECT_GT(asked, 0U);
+        EXPECT_GT(allocations, 0U);
     }
 }
 
 TEST_F(RuntimeMemory, AFailedOpenOfAHandleIsHarmless) {
-    const std::uint64_t asked = refuse_each([&] {
+    const std::uint64_t allocations = refuse_each([&] {
         const ShortOfMemory is_short;
         mirk_handle *h = mirk_platform_handle_open(nullptr);
         EXPECT_EQ(h == nullptr, refused.nth != 0);
         if (h != nullptr) mirk_platform_handle_close(h);
     });
-    EXPECT_GT(asked, 0U);
+    EXPECT_GT(allocations, 0U);
 }
 
-// What is refused is refused before there is an object, so its place for states is recorded in any case.
+// An allocation fails before there is an object, so the state offset of an existing object can always be recorded.
 TEST_F(RuntimeMemory, StateOffsetsAreReservedWithEachBlock) {
     kit::Handle h(Tracking::on);
     for (const std::size_t size : {1U, 200U, 256U, 5000U, 100000U}) {
@@ -188,7 +186,7 @@ TEST_F(RuntimeMemory, StateOffsetsAreReservedWithEachBlock) {
     EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
 }
 
-// Many come and go: what was set aside for their states goes as well, and counts as long as it is there.
+// Many objects come and go: the memory reserved for their states is released with them, and counts until then.
 TEST_F(RuntimeMemory, StateOffsetsCountAgainstTheCeiling) {
     for (const Tracking tracking : {Tracking::off, Tracking::on}) {
         const kit::Handle h({.tracking = tracking, .total_ceiling = 1 << 20});

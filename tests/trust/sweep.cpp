@@ -17,7 +17,7 @@ constexpr mirk_platform_testing_allocator allocators[] = {
     MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC,
     MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
 
-// The same values serve every scene.
+// All scenes share these values.
 const reference::Record &value_of(const RecordOperations &record) {
     static std::map<const RecordOperations *, reference::Record> all;
     auto [at, fresh] = all.try_emplace(&record);
@@ -93,11 +93,11 @@ Scene::Scene(const Subject &s, const kit::Options &options)
         frame.assign(43, 0);
     }
     frame.push_back(0);
-    // Types of a handle's own are made by the first who asks, which is to be the call itself.
+    // Private types are created on first use, which should be the call itself.
     h->private_types = options.private_types ? 1 : 0;
 }
 
-// One for all scenes, of which there are many, one after the other.
+// Shared by all scenes, which are used one after the other.
 char *Scene::text() {
     static char buffer[room];
     return buffer;
@@ -142,7 +142,7 @@ void Scene::clean_up() {
     if (subject.record != nullptr) {
         for (void *instance : {object, other, made}) {
             if (instance == nullptr) continue;
-            // Whatever state it is in, it can be looked at and ended.
+            // In any state, it can be read and destroyed.
             const RecordOperations &r = *subject.record;
             std::uint32_t error = 0;
             r.print(h, id, text(), 0, "o", instance, size(), &error);
@@ -166,7 +166,7 @@ void Scene::clean_up() {
     if (h->send_bundle_open != 0) bundle_send_message_list_destroy(h, id, &err);
     object = other = made = element = nullptr;
     EXPECT_LE(mirk_platform_live_blocks(h), may_lose) << "blocks are left";
-    // What is left behind keeps its entries in the runtime.
+    // A block that remains keeps its entries in the runtime.
     if (may_lose == 0) {
         EXPECT_EQ(mirk_platform_testing_offset_entries(h), 0U);
     }

@@ -1,6 +1,6 @@
-// Every exported operation with memory taken away: what an operation works on, how it is called, and what is told of
-// its failures. The operations come from the list of exports; a driver is what the sweep knows about one of them, for
-// all records, members, enumerations or messages that have it.
+// Every exported operation with failing allocations: its objects, how it is called, and the expected result. The
+// operations come from the list of exports; a driver describes one of them for all records, members, enumerations or
+// messages that have it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MemberOperations;
 using tarn::reflect::MessageOperations;
 
-// What an export is an operation of. Of a member, its record is there as well; of a control message, its bundle.
+// The type that an export belongs to. For a member, its record is set as well; for a control message, its bundle.
 struct Subject {
     const RecordOperations *record = nullptr;
     const MemberOperations *member = nullptr;
@@ -42,7 +42,7 @@ struct Failure {
 };
 std::ostream &operator<<(std::ostream &out, const Failure &failure);
 
-// One handle with what a call needs, made while there is memory.
+// A handle with the arguments of a call, created before allocations fail.
 class Scene {
 public:
     Scene(const Subject &subject, const kit::Options &options);
@@ -52,11 +52,11 @@ public:
 
     void fail(const Failure &failure);
     void end_failures();
-    // Requests in the last call.
+    // Allocations in the last call.
     std::uint64_t requests(mirk_platform_testing_allocator allocator) const;
     void begin_call();
     void end_call();
-    // Frees or destroys what the call made and what the scene holds, and reports blocks that are left.
+    // Frees or destroys the objects of the call and of the scene, and reports blocks that are left.
     void clean_up();
     bool is_live(const void *block) const;
 
@@ -68,16 +68,17 @@ public:
     Subject subject;
     mirk_handle *h = nullptr;
     bool tracks;
-    void *object = nullptr, *other = nullptr;  // a rich instance and a fresh one; a message with its payload
-    void *element = nullptr;                   // rich, of the type that an array holds
+    void *object = nullptr,
+         *other = nullptr;    // an instance with all members set and a new one; a message with its payload
+    void *element = nullptr;  // with all members set, of an array's element type
     void *document = nullptr;
-    std::vector<std::uint8_t> frame;  // with its slack
+    std::vector<std::uint8_t> frame;  // with its guard byte
 
-    // What came of the call.
+    // Result of the call.
     std::uint32_t err = 0, last_error = 0;
     std::uint64_t result = 0;
     void *made = nullptr;      // to be destroyed at the end
-    std::size_t may_lose = 0;  // blocks that are told to be lost
+    std::size_t may_lose = 0;  // blocks that are documented to be lost
 
 private:
     std::uint64_t before_[4] = {}, requests_[4] = {};
@@ -87,22 +88,22 @@ struct Driver {
     const char *of;      // a record, a single member, a message's payload, ...
     const char *suffix;  // the end of the exported name
     void (*call)(Scene &);
-    // Null: the operation asks for no memory.
+    // Null: the operation allocates nothing.
     void (*judge)(Scene &, const Failure &) = nullptr;
 };
 
 const std::vector<Driver> &drivers();
-// Whether the driver tells what comes of this failure. Without a type record of its own a handle goes on with the
-// module's, so of those only what makes them has something to tell.
+// True if the driver describes this failure. Without a private type record a handle continues with the module's, so
+// only operations that create such records describe that failure.
 bool judges(const Driver &driver, const Failure &failure);
 
-// What an exported function is called, and which operation of what it is.
+// The name of an exported function, and the operation and type that it belongs to.
 struct Operation {
     std::string name;
     Subject subject;
     const Driver *driver;
 };
-// Of every function in the golden list of exports; those that no driver knows have none.
+// One for each function in the golden list of exports; driver is null if none matches.
 const std::vector<Operation> &operations();
 
 }  // namespace trust

@@ -16,7 +16,7 @@ using tarn::reflect::MemberOperations;
 
 namespace {
 
-constexpr std::size_t enumeration_value = 12;  // where an enumeration has its number
+constexpr std::size_t enumeration_value = 12;  // offset of an enumeration's value
 constexpr std::uint8_t ra_data_flag = 32, offset_flag = 64;
 
 mirk_object *header(void *object) { return static_cast<mirk_object *>(object); }
@@ -25,7 +25,7 @@ void check(std::uint32_t err, const RecordTable &table, const std::string &membe
     if (err != 0) throw std::runtime_error(table.name + "." + member + ": error " + std::to_string(err));
 }
 
-// For the time that an object without a body is looked into.
+// While an object without a body is accessed.
 class WithBody {
 public:
     explicit WithBody(void *object) : object_(header(object)), variant_(object_->variant) { object_->variant = 0; }
@@ -123,7 +123,7 @@ void fill_member(mirk_handle *h, const RecordOperations &record, const MemberOpe
             return;
         }
         case Class::enumeration: {
-            // Its setter refuses a number out of range, which a sender can choose all the same.
+            // Its setter refuses a number out of range, which a sender can choose nevertheless.
             operation.set_value(h, id, instance, 0, err);
             void *enumeration = operation.get(h, id, instance, err);
             if (enumeration == nullptr) return;
@@ -140,7 +140,7 @@ void fill_member(mirk_handle *h, const RecordOperations &record, const MemberOpe
             return;
         case Class::string:
             if (value.text.empty()) return;
-            // Its setter copies up to the first NUL byte only, so the characters are put to where they lie.
+            // Its setter stops at the first NUL byte, so the characters are written directly.
             operation.text_set(h, id, instance, value.text.data(), static_cast<std::uint32_t>(value.text.size()), err);
             if (*err == 0) std::memcpy(block_of(record, instance, row.name), value.text.data(), value.text.size());
             return;
@@ -150,7 +150,7 @@ void fill_member(mirk_handle *h, const RecordOperations &record, const MemberOpe
     }
 }
 
-// size: how much is in the block of an array or a string.
+// size: the number of elements or characters in the block.
 void extract_member(mirk_handle *h, const RecordOperations &record, const MemberOperations &operation,
                     const MemberTable &row, void *instance, std::uint32_t size, reference::Member &value,
                     std::uint32_t *err) {
@@ -184,7 +184,7 @@ void extract_member(mirk_handle *h, const RecordOperations &record, const Member
             value.items[0] = extract(h, operations(row.type), operation.get(h, id, instance, err));
             return;
         case Class::string:
-            // Its getter ends at the first NUL byte, so the characters are taken from where they lie.
+            // Its getter stops at the first NUL byte, so the characters are read directly.
             if (size != 0) value.text.assign(static_cast<const char *>(block_of(record, instance, row.name)), size);
             return;
         case Class::array:
@@ -217,7 +217,7 @@ void fill(mirk_handle *h, const RecordOperations &record, void *instance, const 
         fill_member(h, record, record.members[i], table.members[i], instance, value.members[i], &err);
         check(err, table, table.members[i].name);
     }
-    // States behind all values, whose setters mark them as written.
+    // States after all values, whose setters mark them as written.
     for (std::size_t i = 0; tracks(h) && i < table.members.size(); ++i) {
         if (!table.members[i].tracked()) continue;
         std::uint32_t err = 0;
@@ -234,7 +234,7 @@ reference::Record extract(mirk_handle *h, const RecordOperations &record, void *
     const WithBody body(instance);
     for (std::size_t i = 0; i < table.members.size(); ++i) {
         std::uint32_t err = 0;
-        // A count or length beside no block, as a failed read leaves it, counts nothing.
+        // A count or length without a block, as after a failed read, counts nothing.
         const bool has_block = block_of(record, instance, table.members[i].name) != nullptr;
         const auto size = has_block ? static_cast<std::uint32_t>(record.members[i - 1].get_value(h, id, instance, &err))
                                     : std::uint32_t{0};
@@ -264,7 +264,7 @@ void Instance::reset() {
 }
 
 Marshalled marshal(mirk_handle *h, const RecordOperations &record, void *instance) {
-    // The length counts no RA data, of which every frame inside may have some.
+    // len counts no RA data, which each nested frame may contain.
     constexpr std::size_t ra_room = 3;
     std::vector<std::uint8_t> buffer(ra_room * record.len(h, id, instance) + 64);
     Marshalled result;

@@ -1,5 +1,5 @@
-// Between reference values and instances of the library: instances filled from a value and read back into one, through
-// exported accessors and the public structs of the runtime alone.
+// Conversions between reference values and instances of the library: fills instances from a value and reads them back,
+// through exported accessors and the public structs of the runtime alone.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -18,16 +18,16 @@ namespace bridge {
 
 using tarn::reflect::RecordOperations;
 
-// The ctx_id under which the helpers call. Operations that take none use the handle's default_id, which is 1.
+// The ctx_id of the helpers' calls. Operations without one use the handle's default_id, which is 1.
 inline constexpr std::uint32_t id = 7;
 
 const RecordOperations &operations(std::string_view record);
 inline const RecordOperations &operations(const reference::Record &value) { return operations(value.table->name); }
 
-// Fills a fresh instance, state bytes (on a handle that tracks), variants and RA data included. Throws
+// Fills a new instance, including state bytes (on a handle that tracks), variants and RA data. Throws
 // std::runtime_error if an accessor reports an error.
 void fill(mirk_handle *h, const RecordOperations &record, void *instance, const reference::Record &value);
-// The reverse. The instance is left as it was; flag bit 32 without RA data of its own reads as empty RA data.
+// The reverse. Does not change the instance; flag bit 32 without RA data reads as empty RA data.
 reference::Record extract(mirk_handle *h, const RecordOperations &record, void *instance);
 
 // An instance that is destroyed at the end.
@@ -38,7 +38,7 @@ public:
     Instance(mirk_handle *h, const reference::Record &value) : Instance(h, operations(value)) {
         fill(h, record(), get(), value);
     }
-    // Takes over what somebody else made, which may be null.
+    // Takes ownership of an existing object, which may be null.
     Instance(mirk_handle *h, const RecordOperations &record, void *instance)
         : handle_(h), record_(&record), instance_(instance) {}
     ~Instance() { reset(); }
@@ -60,18 +60,18 @@ private:
 };
 
 struct Marshalled {
-    reference::Bytes bytes;  // as many as the operation says were written
+    reference::Bytes bytes;  // as many as the operation reports
     std::uint32_t error = 0;
 };
 
-// Into a buffer with room to spare, RA data included.
+// Into a buffer of ample size, including RA data.
 Marshalled marshal(mirk_handle *h, const RecordOperations &record, void *instance);
 
-// A member of a record by its name; throws std::out_of_range for a name that is none.
+// A member of a record by its name; throws std::out_of_range if there is none.
 const tarn::reflect::MemberOperations &member(const RecordOperations &record, std::string_view name);
-// The block of an array or the characters of a string, null if there is none; null for other members.
+// The block of an array or the characters of a string, or null; null for other members.
 void *block_of(const RecordOperations &record, const void *instance, std::string_view name);
-// Whether a record holds an array or a string, at any depth.
+// True if a record contains an array or a string, at any depth.
 bool owns_blocks(const reference::RecordTable &table);
 
 // EXPECT_TRUE(same(expected, actual)) names the first member that differs.

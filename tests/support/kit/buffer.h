@@ -1,4 +1,4 @@
-// Room of a stated size with the guard byte that may be written behind it, and bytes around both that may not.
+// A buffer of a given size with a guard byte that may be written, and bytes around both that must not be.
 #pragma once
 
 #include <algorithm>
@@ -26,8 +26,8 @@ public:
     bool untouched(std::size_t from = 0) const {
         return std::all_of(bytes_.begin() + margin + static_cast<std::ptrdiff_t>(from), bytes_.end(), is_fill);
     }
-    // The guard byte may have been written, nothing behind it.
-    bool guards_stand() const {
+    // The guard byte may have been written, but nothing after it.
+    bool guards_are_intact() const {
         return std::all_of(bytes_.begin(), bytes_.begin() + margin, is_fill) &&
                std::all_of(bytes_.end() - margin, bytes_.end(), is_fill);
     }

@@ -1,4 +1,4 @@
-// What the library does on a handle of the reference runtime.
+// Events on a handle of the reference runtime.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace kit {
 
-// Everything that happens on a handle while it lives.
+// Records all events on a handle during its lifetime.
 class Events {
 public:
     explicit Events(mirk_handle *h) : h_(h) {

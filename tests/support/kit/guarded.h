@@ -1,4 +1,4 @@
-// Memory whose end is the end of what may be touched: the page behind it faults.
+// Memory followed by an inaccessible page.
 #pragma once
 
 #include <sys/mman.h>
@@ -24,13 +24,13 @@ public:
     GuardedMemory(const GuardedMemory &) = delete;
     GuardedMemory &operator=(const GuardedMemory &) = delete;
 
-    // Room for size bytes, behind which exactly one byte of slack can be touched.
+    // Room for size bytes, followed by exactly one accessible guard byte.
     std::uint8_t *room(std::size_t size) { return start_ + room_ - size - 1; }
-    // The bytes and a byte of slack behind them.
-    std::uint8_t *put(const std::uint8_t *bytes, std::size_t size, std::uint8_t slack = 0xEE) {
+    // The bytes, followed by the guard byte.
+    std::uint8_t *put(const std::uint8_t *bytes, std::size_t size, std::uint8_t guard_byte = 0xEE) {
         std::uint8_t *to = room(size);
         if (size != 0) std::memcpy(to, bytes, size);
-        to[size] = slack;
+        to[size] = guard_byte;
         return to;
     }
 

@@ -18,17 +18,16 @@ void fail_test(std::size_t left, std::size_t expected, const Options &options);
 struct Options {
     Tracking tracking = Tracking::none;
     std::uint32_t private_types = 0;
-    bool lenient = false;               // a downgrade leaves the error slot alone
-    std::uint64_t request_ceiling = 0;  // 0: the runtime's own
+    bool lenient = false;               // a downgrade does not set the error slot
+    std::uint64_t request_ceiling = 0;  // 0: the runtime's default
     std::uint64_t total_ceiling = 0;
-    std::uint8_t fresh_fill =
-        0xA5;  // what a fresh block of memory is filled with, so that nothing relies on it; 0: nothing
-    // Called when the handle closes and another number of blocks is left than expected. Programs without the test
-    // framework name a function of their own.
+    std::uint8_t fresh_fill = 0xA5;  // fill of new blocks, so that no test relies on their content; 0: none
+    // Called if the handle closes with another number of blocks than expected. Programs without the test framework pass
+    // their own function.
     void (*on_leak)(std::size_t left, std::size_t expected, const Options &options) = fail_test;
 };
 
-// Checks when it closes that no block is left, unless told otherwise.
+// Checks that no block is left when it closes, unless a loss is expected or allowed.
 class Handle {
 public:
     explicit Handle(const Options &options = {}) : options_(options) {
@@ -59,11 +58,11 @@ public:
 
     bool tracks() const { return options_.tracking == Tracking::on; }
     std::size_t live_blocks() const { return mirk_platform_live_blocks(handle_); }
-    // Exactly so many blocks are left at the end: a loss that belongs to what is tested.
+    // Exactly this many blocks are left at the end: their loss is part of the tested behavior.
     void expect_lost_blocks(std::size_t blocks) { lost_ = blocks; }
     void allow_lost_blocks() { any_loss_ = true; }
 
-    // The nth request for memory from now on fails, or all from the nth on; 0 ends the failing.
+    // The nth allocation from now on fails, or all from the nth on; 0 stops this.
     void fail_alloc(std::uint64_t nth, bool onwards = false) const {
         mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_OBJ_ALLOC, nth, onwards ? 1 : 0);
     }

@@ -1,4 +1,4 @@
-// The trace while a test runs.
+// Captures the trace of a test.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ namespace kit {
 
 using Lines = std::vector<std::string>;
 
-// Every line of every level while it lives. Only those of level 0 go to standard error meanwhile.
+// All lines of all levels during its lifetime. Only those of level 0 also go to standard error.
 class Trace {
 public:
     Trace() {
@@ -27,10 +27,10 @@ public:
     Trace(const Trace &) = delete;
     Trace &operator=(const Trace &) = delete;
 
-    // Each as "<module> <level> <text>", such as "type 3 (ERR): ...". A module of the library stands by what comes
-    // behind the prefix that all of them share.
+    // Each as "<module> <level> <text>", such as "type 3 (ERR): ...". A module of the library reads as its name without
+    // the common prefix.
     Lines lines() const { return lines(false); }
-    // The library's own lines alone.
+    // Only the library's own lines.
     Lines of_the_library() const { return lines(true); }
     void clear() const { mirk_platform_testing_capture_clear(); }
 

@@ -3,9 +3,9 @@
 
 namespace kit {
 
-enum class Tracking { none, off, on, corrupt };  // none: no descriptor at all; corrupt: a descriptor with another word
+enum class Tracking { none, off, on, corrupt };  // none: no descriptor; corrupt: a descriptor with an invalid word
 
-// Those with which a library works on; a corrupt one ends the process.
+// The valid modes; a corrupt one aborts the process.
 inline constexpr Tracking every_tracking[] = {Tracking::none, Tracking::off, Tracking::on};
 
 inline const char *name_of(Tracking tracking) {

@@ -20,14 +20,14 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes encode(const Record &value, bool tracked);
 
 struct Decoded {
-    std::optional<Record> value;  // nothing if the bytes are not exactly a frame
+    std::optional<Record> value;  // empty if the bytes are not exactly a frame
     std::size_t consumed = 0;
-    std::size_t offset = 0;  // where it goes wrong, from the first byte of the outermost frame
+    std::size_t offset = 0;  // offset of the error in the outermost frame
     std::string reason;
 };
 
-// Strict: the frame must be what encode writes, tracked or not as told, with nothing missing. Bytes behind the
-// frame are left alone, and show in consumed.
+// Strict: the frame must be what encode writes, tracked or not as given, and complete. Bytes after the frame are
+// ignored and not included in consumed.
 Decoded decode(std::string_view type, std::span<const std::uint8_t> bytes, bool tracked);
 
 struct Header {
@@ -43,7 +43,7 @@ constexpr std::size_t payload_offset = 43;
 Bytes message_frame(std::string_view message, const Record &payload, bool tracked, std::uint32_t stamp);
 Bytes control_frame(std::string_view bundle, std::string_view kind, std::uint32_t stamp);
 
-// Nothing if there are fewer than 27 bytes, the marker is wrong, or the 11 bytes that end the header are not zero.
+// Empty if there are fewer than 27 bytes, the marker is wrong, or the last 11 bytes of the header are not zero.
 std::optional<Header> decode_header(std::span<const std::uint8_t> frame);
 Decoded decode_message(std::string_view message, std::span<const std::uint8_t> frame, bool tracked);
 

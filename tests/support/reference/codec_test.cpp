@@ -44,7 +44,7 @@ TEST(Frame, StringsTracked) {
     Record value("lumo_tarn_cl_kesh_appl");
     value["proto_name"].text = "tcp";
     value["proto_name"].state = 2;
-    value["sub_proto_name"].state = 9;  // not sent, as the string is empty
+    value["sub_proto_name"].state = 9;  // not sent, since the string is empty
     value["protocol_id"].number = 0x0102;
     value["protocol_id"].state = 4;
     value["tarn_id"].number = 0xFFEE;

@@ -61,7 +61,7 @@ void Generator::fill_member(const MemberTable &row, Member &member) {
 void Generator::fill_array(const MemberTable &row, std::uint32_t limit, Member &member) {
     member.state = state();
     const RecordTable &element = row.element();
-    // What the elements take at least is set aside before they are filled, so that a deep tree stays in the budget.
+    // The minimum size of the elements is reserved before they are filled, so that a deep tree stays within the budget.
     const std::size_t least = length(Record(element), true) + 1;
     const std::uint64_t most = std::min(options_.max_elements, limit);
     const std::uint64_t span = most - std::min<std::uint64_t>(options_.min_elements, most) + 1;

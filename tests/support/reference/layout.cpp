@@ -12,7 +12,7 @@ constexpr std::uint32_t pointer = 8;
 
 std::uint32_t align(std::uint32_t value, std::uint32_t to) { return (value + to - 1) / to * to; }
 
-// The members' places in the instance.
+// The members' offsets in the instance.
 void place(const RecordTable &table, RecordLayout &layout) {
     std::uint32_t end = header;
     const auto next = [&end](std::uint32_t size, std::uint32_t alignment) {
@@ -56,7 +56,7 @@ void place(const RecordTable &table, RecordLayout &layout) {
     layout.slop = layout.base - layout.used;
 }
 
-// The members' places in the state area.
+// The members' offsets in the state area.
 void number_slots(const RecordTable &table, RecordLayout &layout) {
     std::uint32_t end = 0;
     for (std::size_t i = 0; i < table.members.size(); ++i) {
@@ -109,7 +109,7 @@ const char *class_name(Class cls) {
 }  // namespace
 
 const RecordLayout &layout_of(const RecordTable &table) {
-    // A map keeps its nodes in place while the records inside are worked out.
+    // A map does not move its nodes while nested records are computed.
     static std::map<std::string, RecordLayout> known;
     const auto found = known.find(table.name);
     if (found != known.end()) return found->second;

@@ -2,9 +2,9 @@
 
 namespace reference {
 
-// A record line holds the name, the luid, and the sizes: used, rounded, slop, base, state, tracked. Its members
-// follow in order, each with its class and type; a string and an array name the member that counts them, and an
-// array tells how its length is worked out.
+// A record line has the name, the luid, and the sizes: used, rounded, slop, base, state, tracked. Its members follow in
+// order, each with its class and type; a string and an array name the member that counts them, and an array names the
+// method that computes its length.
 const char *const record_tables = R"tables(
 record lumo_tarn_exmem_info 60d55c75e70c45de4e19a835975182eb 44 48 12 56 4 60
   cl_addr integer u_int64

@@ -1,4 +1,4 @@
-// The schema as plain tables, kept apart from the library so that tests can hold the one against the other.
+// The schema as plain tables, independent of the library so that tests can compare the two.
 #pragma once
 
 #include <array>
@@ -22,11 +22,11 @@ struct MemberTable {
     std::string type;        // u_int8 to u_int64, mirk_boolean, ip_address, var_string, an enumeration, a record
     unsigned width = 0;      // bytes of an integer, count or length
     std::string counted_by;  // count member of an array, length member of a string
-    bool product = false;    // array whose length is taken as that of element 0 times the count
+    bool product = false;    // array whose length is computed as that of element 0 times the count
 
     // Members with a state byte of their own.
     bool tracked() const { return cls != Class::count && cls != Class::length; }
-    // The record behind a nested record, an address or an array.
+    // The record of a nested record, an address or an array element.
     const RecordTable &element() const;
 };
 
@@ -74,7 +74,7 @@ const EnumerationTable &enumeration_table(std::string_view name);
 const MessageTable &message_table(std::string_view name);
 const BundleTable &bundle_table(std::string_view name);
 
-// How many members of that class all records have.
+// Number of members of that class in all records.
 std::size_t members_of(Class cls);
 
 std::string luid_text(const Luid &luid);

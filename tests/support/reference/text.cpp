@@ -60,7 +60,7 @@ std::string member_text(const Record &owner, std::size_t index, unsigned indent,
         case Class::boolean:
             return head + (member.number != 0 ? "true\n" : "false\n");
         case Class::enumeration: {
-            // A value out of range has no line end: what follows stands on the same line.
+            // A value out of range has no line end, so the next text follows on the same line.
             const std::string *name = enumerator(row, member.number);
             return head + (name != nullptr ? *name + "\n" : "Enum value out of range");
         }
@@ -117,7 +117,7 @@ std::string member_xml(const Record &owner, std::size_t index, bool tracked) {
 
 std::string print(const Record &value, std::string_view name, unsigned indent, char gap) {
     std::string text = std::string(indent, ' ') + std::string(name) + "@" + value.table->name + ": {\n";
-    // The brace of a record without a body stays open.
+    // The brace of a record without a body is not closed.
     if (value.variant < 0) return text;
     for (std::size_t i = 0; i < value.members.size(); ++i) text += member_text(value, i, indent + 2, gap);
     if (indent > 0) text += '\0' + std::string(indent - 1, gap);

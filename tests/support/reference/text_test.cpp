@@ -95,7 +95,7 @@ TEST(Xml, StatesAreAttributes) {
 
 TEST(Xml, ElementsHaveTheNameOfTheArray) {
     Record value("lumo_tarn_dp_debug_setting_data");
-    value["lumo_data"].state = 9;  // the whole array has no element to show its state
+    value["lumo_data"].state = 9;  // the whole array has no element for its state
     value.append("lumo_data", 2).variant = -1;
     value.append("lumo_data", 0).variant = -1;
     EXPECT_EQ(to_xml(value, "r", true),

@@ -22,7 +22,7 @@ Record &Record::append(std::string_view array, std::uint8_t element_state) {
 
 std::uint64_t Record::number(std::size_t index) const {
     const MemberTable &row = table->members[index];
-    // The array or string stands directly behind the member that counts it.
+    // The array or string directly follows the member that counts it.
     if (row.cls == Class::count) return members[index + 1].items.size();
     if (row.cls == Class::length) return members[index + 1].text.size();
     return members[index].number;

@@ -1,4 +1,4 @@
-// The value of one record instance as a tree, independent of how an instance lies in memory.
+// The value of one record instance as a tree, independent of its layout in memory.
 #pragma once
 
 #include <array>
@@ -16,8 +16,8 @@ namespace reference {
 
 struct Record;
 
-// One member. Which parts are in use follows from the member's class; the others keep their defaults. Count and
-// length members stay at their defaults: the number is that of the array or the string behind them.
+// One member. Its class determines which parts are used; the others keep their defaults. So do count and length
+// members, whose number is that of the array or the string after them.
 struct Member {
     std::uint64_t number = 0;                 // integer, boolean (0 or 1 to 255), enumeration
     std::int8_t variant = 0;                  // boolean, enumeration
@@ -44,7 +44,7 @@ struct Record {
     std::vector<Member> members;  // one for each row of the table
 
     Record() = default;
-    explicit Record(const RecordTable &t);  // all zero, as a fresh instance
+    explicit Record(const RecordTable &t);  // all zero, like a new instance
     explicit Record(std::string_view type) : Record(record_table(type)) {}
 
     Member &operator[](std::string_view name) { return members[table->index_of(name)]; }
@@ -54,7 +54,7 @@ struct Record {
     const Record &nested(std::string_view name) const { return (*this)[name].items.at(0); }
     // Adds an element with the state given, and returns it.
     Record &append(std::string_view array, std::uint8_t element_state = 0);
-    // The number that a member shows: for a count that of the elements, for a length that of the bytes.
+    // The number of a member: for a count that of the elements, for a length that of the bytes.
     std::uint64_t number(std::size_t index) const;
 
     bool operator==(const Record &other) const;
@@ -69,15 +69,15 @@ struct Address {
 void set_address(Record &address, const Address &value);
 Address get_address(const Record &address);
 
-// What a receiver has after reading the value's frame into a fresh instance: variants above 0 are 0, a body that
-// was not sent is as fresh, the state of empty arrays and strings was not sent, and without tracking there is none.
+// The value after its frame was read into a new instance: variants above 0 are 0, a body that was not sent is as new,
+// the state of empty arrays and strings is not sent, and without tracking there is none.
 Record as_received(const Record &value, bool tracked);
 
 // Empty if equal, else the path of the first member that differs and both values.
 std::string first_difference(const Record &a, const Record &b);
 
 struct GeneratorOptions {
-    std::uint32_t min_elements = 0, max_elements = 3;  // of every array, as far as the count member can tell
+    std::uint32_t min_elements = 0, max_elements = 3;  // of every array, as far as the count member allows
     std::uint32_t min_text = 0, max_text = 40;         // bytes of every string
     std::size_t budget = 16384;                        // bytes of arrays and strings in one value, on the wire
     bool states = true;                                // random state bytes, also of empty arrays and strings
