@@ -46,15 +46,15 @@ TEST(Module, IsAppendedToTheListAndUnlinkedWithoutDamage) {
     EXPECT_EQ(module->prev, &before.next);
     EXPECT_EQ(mirk_module_tot_root.count, 2u);
 
-    mirk_module behind{"behind", nullptr, nullptr, mirk_module_tot_root.last};
-    *mirk_module_tot_root.last = &behind;
-    mirk_module_tot_root.last = &behind.next;
+    mirk_module later{"later", nullptr, nullptr, mirk_module_tot_root.last};
+    *mirk_module_tot_root.last = &later;
+    mirk_module_tot_root.last = &later.next;
     mirk_module_tot_root.count = 3;
     ASSERT_EQ(dlclose(library), 0);
     EXPECT_EQ(mirk_module_tot_root.count, 2u);
-    EXPECT_EQ(before.next, &behind);
-    EXPECT_EQ(behind.prev, &before.next);
-    EXPECT_EQ(mirk_module_tot_root.last, &behind.next);
+    EXPECT_EQ(before.next, &later);
+    EXPECT_EQ(later.prev, &before.next);
+    EXPECT_EQ(mirk_module_tot_root.last, &later.next);
     mirk_module_tot_root = {0, nullptr, &mirk_module_tot_root.first};
 }
 

@@ -31,7 +31,7 @@ void read_record(const Handle &handle, const RecordOperations &record, std::span
         fail(handle, nth, choice.bit(onwards_bit));
         record.unmarshal(handle, id, guarded(bytes), instance, static_cast<std::uint32_t>(bytes.size()), 0, &err);
         const bool met = mirk_platform_testing_allocations(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC) - before >= nth;
-        require(nth == 0 || !met || err != 0, "a frame that wants for memory is not read without an error");
+        require(nth == 0 || !met || err != 0, "a failed allocation sets an error");
     }
     fail(handle, 0, false);
     mirk_clear_last_error(handle);

@@ -60,7 +60,7 @@ void bytes(const Choice &choice, const RecordOperations &record, std::span<const
         const std::uint32_t consumed = record.unmarshal(handle, id, guarded(frame.first(decoded.consumed)), instance,
                                                         static_cast<std::uint32_t>(decoded.consumed), 0, &err);
         require(err == 0, "a good frame is read without an error");
-        require(consumed == decoded.consumed, "a good frame is read to its end");
+        require(consumed == decoded.consumed, "a valid frame is read to its end");
         const Record expected = reference::as_received(*decoded.value, tracked && handle.tracks());
         require_same(bridge::same(expected, bridge::extract(handle, record, instance)));
         record.destroy(handle, id, instance);

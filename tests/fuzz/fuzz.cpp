@@ -61,7 +61,7 @@ kit::Options options(const Choice &choice) {
             .total_ceiling = total_ceiling,
             .fresh_fill = 0xDB,
             .on_leak = [](std::size_t, std::size_t, const kit::Options &) {
-                require(false, "nothing is left on the handle");
+                require(false, "no block is left on the handle");
             }};
 }
 

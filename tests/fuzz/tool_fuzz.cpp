@@ -43,15 +43,15 @@ void take_apart(std::string_view content) {
         const Dissection dissection = dissect_frame(all.subspan(offset), offset);
         std::size_t at = offset;
         for (const Piece &piece : dissection.pieces) {
-            require(piece.offset == at, "pieces stand side by side");
+            require(piece.offset == at, "pieces are adjacent");
             at += piece.size;
-            require(at <= all.size(), "pieces stand inside the frame");
+            require(at <= all.size(), "pieces are inside the frame");
         }
         if (dissection.broken) {
             sentence_of(*dissection.broken);
             return;
         }
-        require(dissection.size != 0, "a whole frame has a size");
+        require(dissection.size != 0, "a complete frame has a size");
         offset += dissection.size;
     }
 }

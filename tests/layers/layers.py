@@ -24,13 +24,13 @@ MAY_INCLUDE = {
     "tools/tarn/service": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/commands": ["tools/tarn/service", "tools/tarn/pages", "tools/tarn/formats", "tools/tarn/support"],
 }
-# The tool as a whole stands on these, and all folders of the library include what is printed for them.
+# All layers of the tool may include these.
 ALL_OF_THE_TOOL = ["tools/reflect", "schema", "include", "platform/include"]
 INCLUDE_FOLDERS = ("", "include", "platform/include")
 
 
 def folder_of(root, including, name):
-    """The folder of an included file, as the compiler finds it; None for what is printed or of a package."""
+    """The folder of an included file, as the compiler finds it; None for generated files and packages."""
     for start in (including.parent, *(root / folder for folder in INCLUDE_FOLDERS)):
         if (start / name).is_file():
             return (start / name).resolve().relative_to(root).parent

@@ -1,15 +1,15 @@
 #!/usr/bin/python3
-"""Writes a copy of the library's sources with a sample of mutants in it, each of which sleeps until it is chosen by number.
+"""Writes a copy of the library's sources that contains a sample of mutants, each inactive until selected by its number.
 
     mutate.py ROOT EXPORTS OUT COUNT SEED
 
-A mutant is one small error: a condition negated, a statement dropped, or a constant shifted by one, upwards but for a 1:
-in most places any number but 0 says the same. They are found in the syntax tree, in bodies of functions that run. What the
-compiler evaluates (constexpr, consteval, if constexpr, template arguments, static assertions) cannot be changed at run time
-and has none; an error there changes what is compiled, and the tests of the schema and of the API look at that. What
-only the archive compiles has none either, since it is the shared library that is tested.
+A mutant is one small error: a negated condition, a removed statement, or a constant that is increased by one, except that
+a 1 is decreased, since most code treats all numbers but 0 alike. Mutants are found in the syntax tree, in the bodies of
+functions that run. Code that the compiler evaluates (constexpr, consteval, if constexpr, template arguments, static
+assertions) cannot be changed at run time and has none; errors there are detected by the tests of the schema and of the
+API. Code that only the archive compiles has none either, since the tests run on the shared library.
 
-OUT gets the sources, core/mutant_switch.cpp with the switch, and mutants.json with what each number stands for."""
+OUT gets the sources, core/mutant_switch.cpp with the switch, and mutants.json with a description of each mutant."""
 import json
 import pathlib
 import random
@@ -25,7 +25,7 @@ LOOPS = {Kind.WHILE_STMT, Kind.FOR_STMT}
 EXPRESSIONS = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR,
                Kind.UNEXPOSED_EXPR}
 COMPARISONS = {"==", "!=", "<", ">", "<=", ">="}
-# What only the archive compiles: what this word guards, and a folder.
+# Code that only the archive compiles: branches with this word, and a folder.
 ARCHIVE_WORD = re.compile(r"(!?)\bruntime_inside\b")
 ARCHIVE_FOLDER = pathlib.PurePath("families/shortcuts")
 INTEGERS = re.compile(r"(const )?(unsigned |signed )?(char|short|int|long|long long|bool)$")
@@ -49,7 +49,7 @@ inline bool shifted<bool>(int id, bool value) {
 }  // namespace tarn_mutants
 """
 
-# What was reached is kept in a file that all processes of a test share, and that outlives one which ends itself.
+# Reached mutants are recorded in a file, which all processes of a test share and which survives a process that aborts.
 SWITCH_SOURCE = """#include "mutant_switch.h"
 #include <cstdlib>
 #include <fcntl.h>
@@ -108,7 +108,7 @@ class Finder:
         return cursor.extent.start.offset, cursor.extent.end.offset
 
     def words_before(self, cursor, stop):
-        """The declaration's own words, up to its body or initial value."""
+        """The words of the declaration, up to its body or initial value."""
         start, end = self.span(cursor)
         head = re.split(stop, self.text(self.file)[start:end].decode(), maxsplit=1)[0]
         return set(re.findall(r"\w+", head))
@@ -122,7 +122,7 @@ class Finder:
             if self.file is None or self.evaluated_by_compiler(cursor, r"[{]"):
                 return
             for child in cursor.get_children():
-                # A macro's expansion has no text of its own.
+                # The expansion of a macro has no source text.
                 if child.kind == Kind.COMPOUND_STMT and self.text(self.file)[child.extent.start.offset:][:1] == b"{":
                     self.body(child, [cursor])
             return
@@ -147,10 +147,10 @@ class Finder:
         elif kind == Kind.CXX_FOR_RANGE_STMT:
             self.statement(children[-1], cursor, above)
         elif kind == Kind.IF_STMT:
-            asked, *branches = (c for c in children if c.kind not in (Kind.DECL_STMT, Kind.VAR_DECL))
-            signs = self.archive_words(asked)
+            condition, *branches = (c for c in children if c.kind not in (Kind.DECL_STMT, Kind.VAR_DECL))
+            signs = self.archive_words(condition)
             if signs:
-                # Only one side is there: the second, unless what the archive has is asked with a "not".
+                # Only one branch is compiled: the second, unless the condition is negated.
                 children = branches = branches[:1] if set(signs) == {"!"} else branches[1:]
             elif self.is_constexpr_if(cursor):
                 children = children[1:]
@@ -191,7 +191,7 @@ class Finder:
         return re.match(rb"if\s+constexpr\b", self.text(self.file)[start:end]) is not None
 
     def condition(self, cursor):
-        """The part between the brackets that is asked: all, what follows a declaration, or the middle of three."""
+        """Negates the condition in the parentheses: all of them, the part after a declaration, or the second of three."""
         start, _ = self.span(cursor)
         source = self.text(self.file)
         at = source.index(b"(", start)
@@ -228,7 +228,7 @@ class Finder:
             self.add("drop", start, end + 1)
 
     def may_go_on(self, cursor, parent, above):
-        """A return may be dropped where something follows: at the end of an `if` that is not the last statement."""
+        """A return may be removed if code follows: at the end of an `if` that is not the last statement."""
         chain = above + [parent]
         if parent.kind == Kind.COMPOUND_STMT:
             if list(parent.get_children())[-1] != cursor:
@@ -275,7 +275,7 @@ def find(root, exports):
 
 
 def number_alike(mutants):
-    """Which of several alike it is, so that a mutant is found again when lines move."""
+    """Numbers equal mutants, so that one can be identified after its line has moved."""
     seen = {}
     for m in mutants:
         key = (m["file"], m["kind"], m["text"], m["part"])
@@ -288,7 +288,7 @@ OUTER_FIRST = {"drop": 0, "negate": 1, "shift": 2}
 
 
 def write(source, mutants):
-    """Mutants nest as the tree does: an outer one opens earlier and closes later."""
+    """Mutants nest like the tree: an outer one opens earlier and closes later."""
     insertions = []
     for m in mutants:
         length, order = m["end"] - m["start"], OUTER_FIRST[m["kind"]]

@@ -1,15 +1,14 @@
 #!/usr/bin/python3
-"""Runs the tests against one mutant after the other, and tells how many they notice.
+"""Runs the tests against one mutant after the other, and prints how many they detect.
 
     run.py BUILD MUTANTS EQUIVALENT
 
-Each test program is run to its first failure, the quick ones first, and only those which reach the place of the mutant. A
-program that fails, crashes or takes ten times as long as it should has noticed. EQUIVALENT lists mutants that no test
-could notice, each with the reason; a survivor that is not listed is to be judged.
+Each test program that reaches the mutant runs to its first failure, the fast ones first. A mutant is detected if a program
+fails, crashes or takes ten times as long as usual. EQUIVALENT lists mutants that no test can detect, each with the reason;
+other survivors have to be judged.
 
-Fails if fewer than 95 of 100 are noticed. A sample of less than a hundred is too small for that share: it fails if so many
-survive, not counting the listed ones, that tests which notice 95 of 100 would let so many through less than once in a
-hundred samples."""
+Fails if less than 95 % are detected. A sample of less than a hundred is too small for that share: it fails if more survive,
+not counting the listed ones, than tests that detect 95 % would miss in one of a hundred samples."""
 import concurrent.futures
 import json
 import math
@@ -21,7 +20,7 @@ import sys
 import time
 
 WANTED = 0.95
-LARGE = 100  # from here on the share itself is asked for
+LARGE = 100  # from this size on, the share itself is checked
 BAD_LUCK = 0.01
 PROGRAMS = ["families/families_module_test", "messaging/messaging_replaced_test", "messaging/messaging_sequence_test",
             "families/families_sequence_test", "messaging/messaging_test", "families/families_test", "examples/one_answer",
@@ -50,13 +49,13 @@ class Program:
             return None
         finally:
             try:
-                os.killpg(process.pid, 9)  # what it started goes as well
+                os.killpg(process.pid, 9)  # with the processes that it started
             except ProcessLookupError:
                 pass
             process.wait()
 
     def measure(self, count):
-        """The time it takes, and what it reaches."""
+        """Measures the time that it takes, and which mutants it reaches."""
         path = self.build / "reached"
         path.write_bytes(bytes(count))
         begin = time.monotonic()

@@ -1,4 +1,4 @@
-"""Add a member: idle_limit, at the end of a traffic class and of two records that the pictures of the tour show."""
+"""Add a member: idle_limit, at the end of a traffic class and of two records in the pictures of the tour."""
 
 import functools
 

@@ -1,4 +1,4 @@
-"""Add a record: lumo_tarn_dp_queue, and an array of it, so that it is seen inside another one."""
+"""Add a record: lumo_tarn_dp_queue, and an array of it, so that it is also nested in another one."""
 
 NEW = ["dp_queue"]
 

@@ -76,7 +76,7 @@ TEST_P(EachOperation, SurvivesEachFailure) {
                     if (private_types && !of_types) continue;
                     if (driver.judge == nullptr && !private_types) {
                         EXPECT_EQ(calm.requests[allocator], 0U)
-                            << "asks for memory, and its driver tells nothing of it";
+                            << "allocates, and its driver does not describe the failure";
                     }
                     // All types are created at once, whichever is requested: after one sweep through them, only the
                     // first and the last are tried.

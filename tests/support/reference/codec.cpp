@@ -255,7 +255,7 @@ Decoded decode_message(std::string_view message, std::span<const std::uint8_t> f
     for (std::size_t i = 0; i < 16; ++i)
         if (frame[header_size + i] != table.luid[i]) return failed(header_size + i, "luid");
     Decoded result = decode_at(record_table(table.payload), frame, tracked, payload_offset);
-    if (result.value && result.consumed != frame.size()) return failed(result.consumed, "bytes behind the payload");
+    if (result.value && result.consumed != frame.size()) return failed(result.consumed, "bytes after the payload");
     return result;
 }
 

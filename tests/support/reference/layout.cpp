@@ -13,7 +13,7 @@ constexpr std::uint32_t pointer = 8;
 std::uint32_t align(std::uint32_t value, std::uint32_t to) { return (value + to - 1) / to * to; }
 
 // The members' offsets in the instance.
-void place(const RecordTable &table, RecordLayout &layout) {
+void assign_offsets(const RecordTable &table, RecordLayout &layout) {
     std::uint32_t end = header;
     const auto next = [&end](std::uint32_t size, std::uint32_t alignment) {
         const std::uint32_t offset = align(end, alignment);
@@ -114,7 +114,7 @@ const RecordLayout &layout_of(const RecordTable &table) {
     const auto found = known.find(table.name);
     if (found != known.end()) return found->second;
     RecordLayout layout;
-    place(table, layout);
+    assign_offsets(table, layout);
     number_slots(table, layout);
     return known.emplace(table.name, std::move(layout)).first->second;
 }
