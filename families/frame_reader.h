@@ -64,11 +64,11 @@ struct Reader {
     template <StringMember S>
     bool string(mirk_object *instance);
     template <ArrayMember A>
-    void drop_block(mirk_object *instance);
+    void release_elements(mirk_object *instance);
 };
 
 template <ArrayMember A>
-void Reader::drop_block(mirk_object *instance) {
+void Reader::release_elements(mirk_object *instance) {
     mirk_object **block = A::at(instance);
     for (std::uint32_t i = 0; i < old_count && h->oid_mapping != 0; ++i) {
         mirk_object *element = element_at<A::element>(*block, i);
@@ -89,7 +89,7 @@ bool Reader::array(mirk_object *instance) {
 
     const ElementStates states = read_state ? A::element_states(area) : ElementStates();
     const bool same_elements = *block != nullptr && old_count == n;
-    if (reuse != 0 && *block != nullptr && old_count != n) drop_block<A>(instance);
+    if (reuse != 0 && *block != nullptr && old_count != n) release_elements<A>(instance);
     if (reuse != 0 && read_state && states.block() != nullptr && old_count != n) {
         release(h, ctx_id, states.block());
         states.put(nullptr);
