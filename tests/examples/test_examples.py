@@ -1,4 +1,4 @@
-"""Runs every example program as its user would, and holds what it prints against what the tool says or what is known."""
+"""Runs every example program as a user would, and compares its output with that of the tool or with known text."""
 
 import json
 import os
@@ -25,7 +25,7 @@ def script(name: str, *arguments, code: int = 0) -> str:
 
 
 class Background:
-    """A process that serves on a socket, and says in a line when it is ready, until the with statement ends."""
+    """A process that serves on a socket until the with statement ends. It prints a line when it is ready."""
 
     def __init__(self, *command) -> None:
         self.command = [str(word) for word in command]
@@ -54,10 +54,10 @@ def test_answer_request(tmp_path: pathlib.Path):
 
 
 @pytest.mark.parametrize("name", sorted(path.name for path in EXAMPLES.glob("*.py")))
-def test_a_script_without_arguments_says_what_it_takes(name: str):
-    said = script(name, code=1)
-    assert f"{name} F" in said
-    assert "Traceback" not in said
+def test_a_script_without_arguments_prints_its_usage(name: str):
+    usage = script(name, code=1)
+    assert f"{name} F" in usage
+    assert "Traceback" not in usage
 
 
 def classes_as_the_tool_shows_them(file: pathlib.Path) -> list:
@@ -111,7 +111,7 @@ def test_print_classes(tmp_path: pathlib.Path):
     assert script("print_classes.py", answer).splitlines() == expected
 
 
-def test_the_lines_of_the_readme_are_an_example():
+def test_the_readme_quotes_an_example():
     readme = EXAMPLES.parent.joinpath("README.md").read_text()
     block = readme.partition("```python\n")[2].partition("```")[0]
     program = EXAMPLES.joinpath("print_classes.py").read_text().replace("sys.argv[1]", '"answer.bin"')
@@ -138,22 +138,22 @@ def test_read_recording(tmp_path: pathlib.Path):
 def test_convert_captures(tmp_path: pathlib.Path):
     source, target = tmp_path / "captures", tmp_path / "converted"
     source.mkdir()
-    told = ""
+    expected = ""
     for bundle in ("cl-debug", "dp-appl-cfg", "dp-tt-cfg"):
         capture = source / f"{bundle}.bin"
         run(TOOL, "generate", bundle, "--form", "frames", "--elements", "2", "--bundle", "-o", capture)
-        told += f"{bundle}.bin: 1 messages\n"
-    assert script("convert_captures.py", source, target) == told
+        expected += f"{bundle}.bin: 1 messages\n"
+    assert script("convert_captures.py", source, target) == expected
     for file in source.glob("*.bin"):
         shown = [json.loads(line) for line in run(TOOL, "decode", "--json", file).splitlines()]
         converted = [json.loads(line) for line in target.joinpath(file.stem + ".json").read_text().splitlines()]
         assert converted == [line for line in shown if "message" in line]
-    source.joinpath("a.bin").write_bytes(b"rubbish")
-    complaint = script("convert_captures.py", source, tmp_path / "again", code=1)
-    assert complaint.startswith("a.bin: incomplete frame at offset 0")
+    source.joinpath("a.bin").write_bytes(b"garbage")
+    error = script("convert_captures.py", source, tmp_path / "again", code=1)
+    assert error.startswith("a.bin: incomplete frame at offset 0")
     assert len(list(tmp_path.joinpath("again").glob("*.json"))) == 3
 
 
 @pytest.mark.parametrize("program", ["answer_request", "collect_bundle"])
-def test_usage_is_told(program: str):
+def test_a_wrong_call_prints_the_usage(program: str):
     assert run(PROGRAMS / program, code=2).startswith(f"usage: {program} SOCKET")

@@ -185,7 +185,7 @@ TEST(AllocationSweep, UnlistableReferencesStopADestruction) {
         mirk_platform_testing_capture_stop();
     }
     EXPECT_TRUE(scene.is_live(scene.object));
-    // Without memory for them the references were not read, so no line reports that they cannot be read.
+    // They could not be listed, so they were not read, and no line reports that they cannot be read.
     EXPECT_EQ(mirk_platform_testing_captured(), 0U);
     std::uint32_t left = 0;
     EXPECT_EQ(mirk_platform_oid_mapping_state(scene.h, oids[0], &left, nullptr), 0U);
