@@ -87,7 +87,7 @@ TEST_P(FrameDamage, EachByteReplacedByAllOthers) {
 }
 
 // All bits, so those of heads, counts, lengths and jumps are among them.
-TEST_P(FrameDamage, EachPairOfNeighbouringBitsFlipped) {
+TEST_P(FrameDamage, EachPairOfNeighboringBitsFlipped) {
     read_each(64, [](const Bytes &whole, auto &&next) {
         Bytes bytes = whole;
         const auto flip = [&](std::size_t bit) {

@@ -537,7 +537,7 @@ TEST_F(RecordingRuntime, TextForms) {
     EXPECT_EQ(err, recording::text_overflow_error);
 }
 
-TEST_F(RecordingRuntime, ProcessWideAnswers) {
+TEST_F(RecordingRuntime, ProcessWideStateCanBeSet) {
     EXPECT_EQ(mirklib_msg_recorder_get_state(), 0u);
     recording::set_recorder(1, stderr);
     EXPECT_EQ(mirklib_msg_recorder_get_handle(), stderr);
