@@ -49,6 +49,7 @@ uint32_t mirk_domain_lookup_message_ok(mirk_handle *h, mirk_domain *domain, mirk
 mirk_platform_error mirk_platform_domain_set_variant(mirk_handle *h, const uint8_t *luid, int8_t variant) {
     return mirk::guarded([&]() -> mirk_platform_error {
         own(h)->variants[mirk::luid_from(luid)] = variant;
+        own(h)->update_unobserved();
         return 0;
     });
 }
@@ -63,6 +64,7 @@ mirk_platform_error mirk_platform_domain_set_message(mirk_handle *h, const uint8
 void mirk_platform_domain_clear(mirk_handle *h) {
     own(h)->variants.clear();
     own(h)->messages.clear();
+    own(h)->update_unobserved();
 }
 
 }  // extern "C"

@@ -126,6 +126,7 @@ void mirk_platform_testing_fail_operation(mirk_handle *h, mirk_platform_testing_
     failure.skip = skip;
     failure.count = count;
     failure.number = number;
+    own(h)->update_unobserved();
 }
 
 uint64_t mirk_platform_testing_calls(mirk_handle *h, mirk_platform_testing_operation operation) {
@@ -135,6 +136,7 @@ uint64_t mirk_platform_testing_calls(mirk_handle *h, mirk_platform_testing_opera
 void mirk_platform_testing_set_hook(mirk_handle *h, mirk_platform_testing_hook hook, void *user) {
     own(h)->hook = hook;
     own(h)->hook_user = user;
+    own(h)->update_unobserved();
 }
 
 }  // extern "C"

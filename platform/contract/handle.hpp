@@ -1,6 +1,7 @@
 // The runtime's own part of a mirk_handle, and helpers that its sources share.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -51,6 +52,7 @@ struct AllocationFailure {
     uint64_t calls = 0, nth = 0;
     bool onwards = false;
 
+    bool is_set() const { return nth != 0; }
     bool next() {
         ++calls;
         if (nth == 0 || --nth != 0) return false;
@@ -63,6 +65,7 @@ struct OperationFailure {
     uint64_t calls = 0;
     uint32_t skip = 0, count = 0, number = 0;
 
+    bool is_set() const { return count != 0; }
     // 0, or the number to fail with.
     uint32_t next() {
         ++calls;
@@ -151,6 +154,16 @@ struct Handle : mirk_handle {
     std::array<OperationFailure, MIRK_PLATFORM_TESTING_OPERATIONS> operation_failures;
     mirk_platform_testing_hook hook = nullptr;
     void *hook_user = nullptr;
+    // Nothing is set on this handle that could see in which steps an operation does its work: no hook, no failure to
+    // inject, an empty domain, no address that holds references. Whoever changes one of these updates it.
+    bool unobserved = true;
+
+    void update_unobserved() {
+        const auto fails = [](const auto &failure) { return failure.is_set(); };
+        unobserved = hook == nullptr && variants.empty() && references.held_by_address.empty() &&
+                     std::none_of(allocation_failures.begin(), allocation_failures.end(), fails) &&
+                     std::none_of(operation_failures.begin(), operation_failures.end(), fails);
+    }
 
     void event(mirk_platform_testing_event_kind kind, const void *address, uint64_t size, int64_t value,
                uint32_t ctx_id) {

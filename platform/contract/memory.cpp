@@ -129,8 +129,21 @@ int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint3
     return 0;
 }
 
-// For a library that is compiled as one program with this runtime.
+// The rest is for a library that is compiled as one program with this runtime.
 bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_observed(h); }
+
+// Loads and compares everything, so that one branch decides.
+bool mirk_inside_is_unobserved(const mirk_handle *h) {
+    const auto &handle = *static_cast<const Handle *>(h);
+    const bool own_notifications =
+        (h->write_notify == mirk_own_write_notify) & (h->count_notify == mirk_own_count_notify);
+    const bool untracked = h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off;
+    return handle.unobserved & own_notifications & (h->domain.opaque[0] == h) & untracked;
+}
+
+void mirk_inside_count_lookups(mirk_handle *h, uint64_t n) {
+    own(h)->operation_failures[MIRK_PLATFORM_TESTING_VARIANT_LOOKUP].calls += n;
+}
 
 void *mirklib_malloc(void *, uint32_t, size_t size) {
     {
@@ -166,6 +179,7 @@ void mirk_platform_testing_fail_allocation(mirk_handle *h, mirk_platform_testing
     auto &failure = allocator == mirklib_malloc_index ? plain_failure : failure_of(*own(h), allocator);
     failure.nth = nth;
     failure.onwards = onwards != 0;
+    if (allocator != mirklib_malloc_index) own(h)->update_unobserved();
 }
 
 uint64_t mirk_platform_testing_allocations(mirk_handle *h, mirk_platform_testing_allocator allocator) {

@@ -113,10 +113,12 @@ mirk_platform_error mirk_platform_address_set_oids(mirk_handle *h, const ip_addr
     auto &held = own(h)->references.held_by_address;
     if (count == 0) {
         held.erase(mirk::address_of(address));
+        own(h)->update_unobserved();
         return 0;
     }
     return mirk::guarded([&]() -> mirk_platform_error {
         held[mirk::address_of(address)] = std::vector<void *>(oids, oids + count);
+        own(h)->update_unobserved();
         return 0;
     });
 }

@@ -116,6 +116,18 @@ mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_typ
     return find_type(handle, ctx_id, type, init);
 }
 
+// For a library that is compiled as one program with this runtime: the private copy of a type, or null if there is none
+// yet. No hook hears of the look-up.
+mirk_type_info *mirk_inside_known_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
+    if (h->type_store_get != type_store_get) return nullptr;
+    const Handle::RecentType &recent = recent_type(*own(h), type);
+    if (recent.type == type && std::memcmp(recent.luid.data(), type->luid, sizeof type->luid) == 0) {
+        return &recent.copy->info;
+    }
+    mirk_type_info_copy *copy = type_store_get(h->type_store, ctx_id, type->luid_text);
+    return copy != nullptr ? &copy->info : nullptr;
+}
+
 void mirk_update_variant_info(mirk_handle *h, uint32_t ctx_id, mirk_type_info_copy *copy, mirk_type_info *type,
                               uint32_t is_new) {
     Handle &handle = *own(h);
