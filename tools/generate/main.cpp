@@ -1,9 +1,10 @@
 // Prints all files that follow from the schema and the table of operations: generate KIND DIRECTORY [ARGUMENT...]. The
 // arguments of exports are the sources of the library, those of link NAME=VALUE for the build stamp of the manifest.
 //
-// tools/generate may include schema/ and the drawing code of tools/draw. It does not include the library, the runtime
-// or the headers that it prints: it forms names and prototypes and knows nothing of how an operation works. A name is
-// formed in api.cpp alone; a text about an operation is written in operations.cpp alone.
+// tools/generate may include schema/, the drawing code of tools/draw, and mirk_platform.h for the constants that the
+// dissector needs. It does not include the library or the headers that it prints: it forms names and prototypes, and has
+// no knowledge of how an operation works. Exported names are formed in api.cpp alone, and texts about operations are
+// written in operations.cpp alone.
 #include <cstdlib>
 #include <ctime>
 #include <iostream>

@@ -68,7 +68,7 @@ std::string generic(std::string_view pattern) {
 }
 
 std::string operations(const std::string &heading, const std::string &introduction, Applies classes) {
-    std::string out = ".Ss " + heading + "\n" + introduction + "\n.Bl -tag -width Ds\n";
+    std::string out = ".Ss " + heading + "\n" + line(introduction) + ".Bl -tag -width Ds\n";
     std::vector<std::string> listed;
     for (const Operation &o : tarn::generate::operations()) {
         if (!includes(o.row->applies, classes)) continue;
