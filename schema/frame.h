@@ -53,7 +53,7 @@ inline constexpr std::uint8_t frame_fill = 0xFF;
 inline constexpr Part message_frame[] = {
     {"marker", "marker", "marker", Content::constant, 1, "0xBC", frame_marker},
     {"fill", "fill", "fill", Content::constant, 6, "0xFF", frame_fill},
-    {"sttr", "sttr", "u_int8", Content::number, 1, "1 if the sender tracks state, else 0"},
+    {"sttr", "sttr", "u_int8", Content::number, 1, "1 in a plain message of a sender that tracks state, else 0"},
     {"stamp", "stamp", "u_int32", Content::number, 4, "chosen by the sender"},
     {"total_length", "total length", "u_int32", Content::number, 4, "bytes of the frame, from the marker to its end"},
     {"zero", "zero", "zero", Content::constant, 11, "0"},
