@@ -35,6 +35,7 @@ write("spelling.md", [("The behaviour, initialised in a neighbouring colour.",
                       ("It was analysed, cancelled and unrecognised; the centre is grey.",
                        ["analysed", "cancelled", "unrecognised", "centre", "grey"]),
                       ("The behavior is precise; analysis promises four hours of canceled, realistic exercise.", [])])
+write("CHANGELOG.md", [("`rubbish` is now `garbage`.", []), ("They told it.", ["told"])])
 numbers = [("/** Fails with 12, or (43) at times. 2 if there is none. */", ["12", "43", "2"]),
            ("/** 110: too late. Gives 22. */", ["110", "22"]),
            ("/** Fails with EINVAL (22) or EIDRM. Returns 43; 12 bytes, at most 43, 43 records. */", []),
