@@ -61,8 +61,8 @@ HEADER = re.compile(r"^(?:include|platform/include)/.*\.h(?:pp)?$")
 HELP_TEXT = re.compile(r"^tools/tarn/commands/.*\.(?:cpp|h)$")
 LONGEST = 35
 
-# Between the words of a term: blanks, or a line end with the marks of a comment or a quoted line.
-GAP = r"(?:[ \t]+|[ \t]*\n[ \t]*(?:///?|//!|\*|#|>|\")?[ \t]*)"
+# Between the words of a term: a line end with the marks of a comment or of a text in quotes, or blanks.
+GAP = r"(?:[ \t]*\"?[ \t]*\n[ \t]*(?:///?|//!|\*|#|>|\")?[ \t]*|[ \t]+)"
 
 
 def one_of(patterns):

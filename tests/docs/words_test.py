@@ -28,6 +28,8 @@ write("page.md", [(f"Text with {term}) in it.", [term]) for term in terms])
 write("names.cpp", [("int turned_outwards, stands_in, untold;", []),
                     ("// A term over the end of a spare", ["spare byte"]),
                     ("// byte.", []),
+                    ('"a text that was passed "', ["passed over"]),
+                    ('    "over here"', []),
                     ("int told_once;", ["told"]),
                     ("#define OBSERVING Honour", ["observing", "Honour"])])
 write("spelling.md", [("The behaviour, initialised in a neighbouring colour.",
