@@ -27,7 +27,6 @@ TERMS = {
     "announcements": "notifications",
     "heard": "observed, received",
     "hears": "observes, receives",
-    "tells": "documents, reports",
     "told": "documented, reported",
     "one behind the other": "one after the other",
     "quietly": "unobserved, without an error",
@@ -37,7 +36,6 @@ TERMS = {
     "takes leave": "frees",
     "what came of": "results",
     "in front of": "before",
-    "whoever": "a caller that, a program that",
     "surface": "symbols, API",
     "rivals": "competitors",
     "contract floor": "lower bound",
@@ -76,7 +74,7 @@ SPELLING = one_of(BRITISH)
 # an error only where the reason follows.
 ERROR = re.compile(r"(?<![\w.#+])(?<!E[A-Z]{3} \()(?<!E[A-Z]{4} \()(?<!E[A-Z]{5} \()(?<!E[A-Z]{6} \()(?<!E[A-Z]{7} \()"
                    r"(?<!below )(?<!above )(?<!least )(?<!most )(?<!than )(?<!= )(?<!bytes: )(?<!Returns )"
-                   r"(?:(?:12|17|22|28|38|43|52|74|84|90|98|99|104|105|107|110|111)(?![\w-])(?!\.\d)"
+                   r"(?:(?:12|17|22|28|38|43|52|74|84|90|98|99|104|105|107|110|111)(?![\w-])(?!\.\d)(?!, \d{4})"
                    r"(?! (?:bytes?|bits?|characters?|digits?|records?|messages?|bundles?|KiB|MiB|GiB|seconds)\b)"
                    r"|2(?=:| (?:if|absent|when|for (?:an?|no|null))\b))")
 

@@ -41,7 +41,7 @@ write("CHANGELOG.md", [("`rubbish` is now `garbage`.", []), ("They told it.", ["
 numbers = [("/** Fails with 12, or (43) at times. 2 if there is none. */", ["12", "43", "2"]),
            ("/** 110: too late. Gives 22. */", ["110", "22"]),
            ("/** Fails with EINVAL (22) or EIDRM. Returns 43; 12 bytes, at most 43, 43 records. */", []),
-           ("/** A 28-bit number, 0x12, 1.12, 112, C++17; state 2 for set. */", []),
+           ("/** A 28-bit number, 0x12, 1.12, 112, C++17; state 2 for set, May 22, 2026. */", []),
            ("int number = 22; // of 22", ["22"])]
 for header in "include/one.h", "include/mirk/two.h", "platform/include/three.hpp":
     write(header, numbers + [
