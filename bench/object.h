@@ -28,7 +28,7 @@ struct Sample {
     Sample(Setup setup, const Plain &from) : handle(options(setup)), value(from), object(built(handle, value)) {
         require(sum(handle, context_id, object, &err) == sum(value), "an object does not hold what was put in");
         const std::uint32_t room = Ops::len(handle, context_id, object);
-        frame.resize(room + 1);  // one spare byte behind the size
+        frame.resize(room + 1);  // one guard byte after the size
         size = Ops::marshal(handle, context_id, frame.data(), object, static_cast<std::int32_t>(room), &err);
         require(err == 0, "a frame cannot be written");
         other.resize(frame.size());

@@ -17,7 +17,7 @@ struct Variants {
 mirk_type_info *registered = nullptr;
 int initialized = 0;
 
-void initialise(mirk_handle *h, uint32_t ctx_id, uint32_t *) {
+void initialize_copy(mirk_handle *h, uint32_t ctx_id, uint32_t *) {
     ++initialized;
     auto *copy = static_cast<mirk_type_info_copy *>(h->sys_alloc(h->sys_ctx, 0xffffffffu, sizeof(mirk_type_info_copy)));
     *copy = {*registered, 0, 0};
@@ -35,9 +35,9 @@ TEST(TypeStore, CallsInitOnceAndFindsTheCopyByItsLuid) {
     mirk_type_info type = test::make_type(1, &variants.info), twin = type;
     registered = &type;
     initialized = 0;
-    mirk_type_info *copy = mirk_type_info_ptr_get(h, 7, &type, initialise);
+    mirk_type_info *copy = mirk_type_info_ptr_get(h, 7, &type, initialize_copy);
     EXPECT_NE(copy, &type);
-    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, &twin, initialise), copy);
+    EXPECT_EQ(mirk_type_info_ptr_get(h, 7, &twin, initialize_copy), copy);
     EXPECT_EQ(initialized, 1);
     EXPECT_STREQ(copy->luid_text, type.luid_text);
 }

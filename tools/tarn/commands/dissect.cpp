@@ -31,7 +31,7 @@ std::string hex_column(FrameBytes bytes) {
 void print_line(std::size_t offset, FrameBytes bytes, const std::string &words, std::string &out) {
     char front[24];
     std::snprintf(front, sizeof front, "%8zu  ", offset);
-    out += colored(front, Color::grey) + hex_column(bytes) + words + "\n";
+    out += colored(front, Color::gray) + hex_column(bytes) + words + "\n";
 }
 
 void print_piece(const Piece &piece, FrameBytes all, std::string &out) {

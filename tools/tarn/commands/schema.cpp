@@ -51,7 +51,7 @@ std::string table(const std::vector<std::vector<std::string>> &rows) {
         for (std::size_t i = 0; i < row.size(); ++i)
             line += i + 1 < row.size() ? padded(row[i], widths[i] + 2) : row[i];
         const bool heading = &row == &rows.front();
-        out += heading ? colored(line, Color::grey) + "\n" : line + "\n";
+        out += heading ? colored(line, Color::gray) + "\n" : line + "\n";
     }
     return out;
 }

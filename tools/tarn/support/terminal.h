@@ -10,7 +10,7 @@
 
 namespace tarn::tool {
 
-enum class Color : std::uint8_t { none, red, green, yellow, blue, grey };
+enum class Color : std::uint8_t { none, red, green, yellow, blue, gray };
 
 inline std::string colored(std::string_view text, Color color) {
     static const bool terminal = isatty(STDOUT_FILENO) != 0;
