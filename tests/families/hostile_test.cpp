@@ -86,10 +86,10 @@ TEST_P(HostileFrames, CutAtEveryByte) {
 // A few edits of the kinds that change counts, lengths, jumps, flags and variants.
 Bytes mutate(const Bytes &from, Generator &random) {
     Bytes bytes = from;
-    const auto place = [&] { return static_cast<std::size_t>(random.below(bytes.size())); };
+    const auto position = [&] { return static_cast<std::size_t>(random.below(bytes.size())); };
     const auto spread = [](std::size_t at) { return static_cast<std::ptrdiff_t>(at); };
     for (std::uint64_t edits = 1 + random.below(3); edits > 0 && !bytes.empty(); --edits) {
-        const std::size_t at = member_layout();
+        const std::size_t at = position();
         switch (random.below(6)) {
             case 0:
                 bytes[at] = static_cast<std::uint8_t>(random.below(256));

@@ -245,7 +245,7 @@ TEST_F(Marshal, FailuresAreTracedAtDebugLevelIfTheRuntimeSuppressesThem) {
             mirk_platform_handle_set_suppress_messages(h, 0);
             std::uint32_t traced_error = 0, suppressed_error = 0;
             m.marshal(h, id, buffer.data(), message, size, &traced_error);
-            ASSERT_NE(loud, 0u);
+            ASSERT_NE(traced_error, 0u);
             EXPECT_EQ(of_messages(traced()), (Lines{failed(m, traced_error)}));
             mirk_platform_handle_set_suppress_messages(h, 1);
             m.marshal(h, id, buffer.data(), message, size, &suppressed_error);
