@@ -29,6 +29,12 @@ void track(Handle &handle, mirk_platform_tracking tracking) {
 
 }  // namespace
 
+void Handle::call_hook(mirk_platform_testing_event_kind kind, const void *address, uint64_t size, int64_t value,
+                       uint32_t ctx_id) {
+    const mirk_platform_testing_event what{kind, const_cast<void *>(address), size, value, ctx_id};
+    hook(hook_user, this, &what);
+}
+
 extern "C" {
 
 void mirk_platform_handle_options_init_sized(mirk_platform_handle_options *options, size_t size) {

@@ -167,10 +167,12 @@ struct Handle : mirk_handle {
 
     void event(mirk_platform_testing_event_kind kind, const void *address, uint64_t size, int64_t value,
                uint32_t ctx_id) {
-        if (hook == nullptr) return;
-        const mirk_platform_testing_event what{kind, const_cast<void *>(address), size, value, ctx_id};
-        hook(hook_user, this, &what);
+        if (hook != nullptr) [[unlikely]]
+            call_hook(kind, address, size, value, ctx_id);
     }
+    // Not inlined, so that callers need no stack frame for the event of a hook that is rarely set.
+    [[gnu::noinline, gnu::cold]] void call_hook(mirk_platform_testing_event_kind kind, const void *address,
+                                                uint64_t size, int64_t value, uint32_t ctx_id);
     uint32_t failure(mirk_platform_testing_operation operation) {
         return operation_failures[static_cast<size_t>(operation)].next();
     }
@@ -207,20 +209,7 @@ inline bool skip_variant_lookup(Handle &handle) {
 
 // types.cpp
 void type_store_callbacks(Handle &handle);
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool observed);
-mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant);  // also for negative variants
 void runtime_types_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
-
-// The type record for an object of one of the runtime's own types: on a handle with private types, its copy.
-inline mirk_type_info *bind_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
-    return h->private_types != 0 ? mirk_type_info_ptr_get(h, ctx_id, type, runtime_types_initialize) : type;
-}
-
-// embedded.cpp: shared by booleans and addresses
-void set_header(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mirk_type_info *type, uint32_t notify,
-                uint8_t flags, uint32_t *err);
-void count_created(mirk_handle *h, uint32_t ctx_id, mirk_object *object, uint32_t *err);
-void set_embedded(mirk_handle *h, uint32_t ctx_id, mirk_object *object);
 
 // bundles.cpp
 bool list_empty(const mirk_list_head &head);

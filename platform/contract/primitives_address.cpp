@@ -14,6 +14,7 @@
 #include "platform/contract/address_text.hpp"
 #include "platform/contract/coding.hpp"
 #include "platform/contract/document.hpp"
+#include "platform/contract/embedded.hpp"
 #include "platform/contract/handle.hpp"
 
 namespace {
@@ -52,7 +53,10 @@ void for_each_member(Address &address, Visit visit) {
     visit(address.af);
     visit(address.prefix_len);
     visit(address.scope);
-    for (auto &word : address.word) visit(word);
+    visit(address.word[0]);
+    visit(address.word[1]);
+    visit(address.word[2]);
+    visit(address.word[3]);
 }
 
 bool can_start(mirk_handle *h, const void *buffer, const void *field, int32_t remaining, uint32_t *err) {
@@ -68,9 +72,9 @@ constexpr uint8_t usual_head[frame_overhead] = {0, 0, 0, 0, 0, usual_frame_size 
 
 bool is_usual(const mirk_handle *h, const void *buffer, const ip_address *field, int32_t remaining,
               const uint32_t *err) {
-    const bool untracked = h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off;
-    return *err == 0 && buffer != nullptr && field != nullptr && untracked &&
-           remaining >= static_cast<int32_t>(usual_frame_size) && static_cast<const mirk::Handle *>(h)->hook == nullptr;
+    return *err == 0 && mirk::known_nonnull(buffer, field) && remaining >= static_cast<int32_t>(usual_frame_size) &&
+           (h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off) &&
+           static_cast<const mirk::Handle *>(h)->hook == nullptr;
 }
 
 void put_usual_frame(uint8_t *frame, const ip_address &address) {
@@ -219,6 +223,63 @@ bool release_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
     return offset;
 }
 
+[[gnu::noinline]] void initialize_any(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type,
+                                      uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base,
+                                      uint32_t *err) {
+    if (*err != 0) return;
+    if (object == nullptr) {
+        *err = EINVAL;
+        return;
+    }
+    mirk_clear_last_error(h);
+    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
+    const bool tracked = tracking(h);
+    if (tracked) {
+        if (notify != 0) mirk::notify_write(h, ctx_id, &object->obj_flag, 1);
+        object->obj_flag |= mirk::state_tracked;
+    }
+    if (skip_count != 0) return;
+    mirk::count_created(h, ctx_id, header(object), mirk::is_observed(h));
+    *err = 0;
+    if (!tracked) return;
+    if ((object->obj_flag & mirk::nested) != 0 && sttr_base == nullptr) {
+        fail(h, err, EINVAL);
+        trace(3,
+              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the correct "
+              "state tracking base pointer");
+        return;
+    }
+    if ((object->obj_flag & mirk::has_sttr_offset) != 0) mirklib_get_sttr_offset(h, ctx_id, object);
+}
+
+void check_type(const ip_address *object) {
+    const mirk_type_info *type = object->tinfo;
+    if (type == nullptr || type->magic != mirk::type_magic) mirk::fatal("(FATAL): tinfo is null or corrupted");
+}
+
+[[gnu::noinline]] void destroy_any(mirk_handle *h, uint32_t ctx_id, ip_address *object, uint32_t free_it) {
+    if ((object->obj_flag & mirk::oid_mapped) != 0 && !release_oid(h, ctx_id, object)) return;
+    constexpr uint8_t own_state_area = mirk::state_tracked | mirk::has_sttr_offset;
+    if ((object->obj_flag & own_state_area) == own_state_area) mirklib_get_sttr_offset(h, ctx_id, object);
+    check_type(object);
+    mirk::count_destroyed(h, ctx_id, header(object), mirk::is_observed(h));
+    if ((object->obj_flag & (mirk::has_ra_data | mirk::has_sttr_offset)) != 0 && h->oid_mapping != 0) {
+        uint32_t err = 0;
+        mirk_hd_mapping_destroy(h, ctx_id, object, &err);
+        if (err != 0) {
+            skald_wrapper(mirk::trace_module(), 3, 0,
+                          "(ERR): ip_address destroy: Failed to remove oid mapping for object. Error %s",
+                          std::strerror(static_cast<int>(err)));
+            mirk_store_err(h, err);
+            return;
+        }
+    }
+    if (free_it == 0) return;
+    mirk::notify_write(h, ctx_id, &object->tinfo, sizeof object->tinfo);
+    object->tinfo = nullptr;
+    h->obj_free(h->mem_ctx, ctx_id, object);
+}
+
 }  // namespace
 
 extern "C" {
@@ -255,66 +316,27 @@ void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip
     std::memmove(state_area(h, ctx_id, destination), state_area(h, ctx_id, source), state_width);
 }
 
-[[gnu::flatten]] void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type,
-                                            uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base,
-                                            uint32_t *err) {
-    if (*err != 0) return;
-    if (object == nullptr) {
-        *err = EINVAL;
-        return;
-    }
-    mirk_clear_last_error(h);
-    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
-    const bool tracked = tracking(h);
-    if (tracked) {
-        if (notify != 0) mirk::notify_write(h, ctx_id, &object->obj_flag, 1);
-        object->obj_flag |= mirk::state_tracked;
-    }
-    if (skip_count != 0) return;
-    mirk::count_created(h, ctx_id, header(object), err);
-    if (!tracked) return;
-    if ((object->obj_flag & mirk::nested) != 0 && sttr_base == nullptr) {
-        fail(h, err, EINVAL);
-        trace(3,
-              "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the correct "
-              "state tracking base pointer");
-        return;
-    }
-    if ((object->obj_flag & mirk::has_sttr_offset) != 0) mirklib_get_sttr_offset(h, ctx_id, object);
+void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type, uint32_t notify,
+                           uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err) {
+    const bool usual = *err == 0 && object != nullptr && !tracking(h) &&
+                       mirk::initialize_usual(h, ctx_id, header(object), type, skip_count, flags);
+    if (!usual) initialize_any(h, ctx_id, object, type, notify, skip_count, flags, sttr_base, err);
 }
 
 void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
     mirk::set_embedded(h, ctx_id, reinterpret_cast<mirk_object *>(object));
 }
 
-[[gnu::flatten]] void ip_address_destroy_internal(mirk_handle *h, uint32_t ctx_id, ip_address *object,
-                                                  uint32_t free_it) {
+void ip_address_destroy_internal(mirk_handle *h, uint32_t ctx_id, ip_address *object, uint32_t free_it) {
     if (object == nullptr) return;
-    if ((object->obj_flag & mirk::oid_mapped) != 0 && !release_oid(h, ctx_id, object)) return;
-    constexpr uint8_t own_state_area = mirk::state_tracked | mirk::has_sttr_offset;
-    if ((object->obj_flag & own_state_area) == own_state_area) mirklib_get_sttr_offset(h, ctx_id, object);
-    mirk_type_info *type = object->tinfo;
-    if (type == nullptr || type->magic != mirk::type_magic) mirk::fatal("(FATAL): tinfo is null or corrupted");
-    if (type->variant_info == nullptr) mirk::fatal("(FATAL): varinfo is NULL");
-    mirk_variant_entry *entry = mirk::variant_entry(type, object->variant);
-    const bool observed = mirk::is_observed(h);
-    mirk::count(h, ctx_id, type, &entry->num_destroyed, 1, observed);
-    mirk::count(h, ctx_id, type, &entry->num_live, -1, observed);
-    if ((object->obj_flag & (mirk::has_ra_data | mirk::has_sttr_offset)) != 0 && h->oid_mapping != 0) {
-        uint32_t err = 0;
-        mirk_hd_mapping_destroy(h, ctx_id, object, &err);
-        if (err != 0) {
-            skald_wrapper(mirk::trace_module(), 3, 0,
-                          "(ERR): ip_address destroy: Failed to remove oid mapping for object. Error %s",
-                          std::strerror(static_cast<int>(err)));
-            mirk_store_err(h, err);
-            return;
-        }
+    constexpr uint8_t has_table_entry = mirk::oid_mapped | mirk::has_ra_data | mirk::has_sttr_offset;
+    const bool usual = free_it == 0 && (object->obj_flag & has_table_entry) == 0 && !mirk::is_observed(h);
+    if (!usual) {
+        destroy_any(h, ctx_id, object, free_it);
+        return;
     }
-    if (free_it == 0) return;
-    mirk::notify_write(h, ctx_id, &object->tinfo, sizeof object->tinfo);
-    object->tinfo = nullptr;
-    h->obj_free(h->mem_ctx, ctx_id, object);
+    check_type(object);
+    mirk::count_destroyed(h, ctx_id, header(object), false);
 }
 
 // An address embeds no objects, so there are no offsets to update or remove.
@@ -322,6 +344,8 @@ void ip_address_offset_update(mirk_handle *, uint32_t, ip_address *, void *, uin
 void ip_address_offset_remove(mirk_handle *, uint32_t, ip_address *, uint32_t *) {}
 
 uint32_t ip_address_get_oid_count(mirk_handle *h, uint32_t, ip_address *object, uint32_t *err) {
+    const auto &held = mirk::own(h)->references.held_by_address;
+    if (*err == 0 && object != nullptr && held.empty()) return 0;
     if (*err != 0) {
         trace(3, "(ERR): Error already present in call to get object oid count");
         return 0;
@@ -331,8 +355,6 @@ uint32_t ip_address_get_oid_count(mirk_handle *h, uint32_t, ip_address *object, 
         fail(h, err, EINVAL);
         return 0;
     }
-    const auto &held = mirk::own(h)->references.held_by_address;
-    if (held.empty()) return 0;
     const auto found = held.find(mirk::address_of(object));
     return found == held.end() ? 0 : static_cast<uint32_t>(found->second.size());
 }

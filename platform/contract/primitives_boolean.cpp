@@ -2,25 +2,42 @@
 // stored unchanged.
 #include "platform/contract/coding.hpp"
 #include "platform/contract/document.hpp"
+#include "platform/contract/embedded.hpp"
 #include "platform/contract/handle.hpp"
 #include "platform/contract/text.hpp"
 
 namespace {
 
-void store(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const uint8_t *value, uint32_t *err) {
+[[gnu::noinline]] void store_any(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, uint8_t value, uint32_t *err) {
     if (*err != 0) return;
-    if (field == nullptr || value == nullptr) {
+    if (field == nullptr) {
         *err = EINVAL;
         return;
     }
     mirk::notify_write(h, ctx_id, &field->value, sizeof field->value);
-    field->value = *value;
+    field->value = value;
     field->obj_flag |= mirk::modified;
 }
 
 uint8_t truth(const mirk_boolean &field) { return field.value != 0 ? uint8_t{1} : uint8_t{0}; }
 
 std::string_view text_of(const mirk_boolean &field) { return field.value != 0 ? "true" : "false"; }
+
+mirk_object *header(mirk_boolean *field) { return reinterpret_cast<mirk_object *>(field); }
+
+[[gnu::noinline]] void initialize_any(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object, mirk_type_info *type,
+                                      uint32_t notify, uint32_t skip_count, uint8_t flags, void *, uint32_t *err) {
+    if (*err != 0) return;
+    if (object == nullptr) {
+        *err = EINVAL;
+        return;
+    }
+    mirk_clear_last_error(h);
+    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
+    if (skip_count != 0) return;
+    mirk::count_created(h, ctx_id, header(object), mirk::is_observed(h));
+    *err = 0;
+}
 
 }  // namespace
 
@@ -35,36 +52,40 @@ uint8_t mirk_boolean_get_value(mirk_handle *, uint32_t, mirk_boolean *field, uin
 }
 
 void mirk_boolean_set(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, const mirk_boolean *source, uint32_t *err) {
-    store(h, ctx_id, field, source != nullptr ? &source->value : nullptr, err);
+    if (*err != 0) return;
+    if (source == nullptr) {
+        *err = EINVAL;
+    } else {
+        store_any(h, ctx_id, field, source->value, err);
+    }
 }
 
 void mirk_boolean_set_value(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field, uint8_t value, uint32_t *err) {
-    store(h, ctx_id, field, &value, err);
+    if (*err == 0 && field != nullptr && !mirk::is_observed(h)) [[likely]] {
+        field->value = value;
+        field->obj_flag |= mirk::modified;
+    } else {
+        store_any(h, ctx_id, field, value, err);
+    }
 }
 
 // A boolean has no state area, so the tracking mode is not checked and sttr_base is not used.
-[[gnu::flatten]] void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object,
-                                              mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags,
-                                              void *, uint32_t *err) {
-    if (*err != 0) return;
-    if (object == nullptr) {
-        *err = EINVAL;
-        return;
-    }
-    mirk_clear_last_error(h);
-    mirk::set_header(h, ctx_id, reinterpret_cast<mirk_object *>(object), type, notify, flags, err);
-    if (skip_count == 0) mirk::count_created(h, ctx_id, reinterpret_cast<mirk_object *>(object), err);
+void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object, mirk_type_info *type,
+                             uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err) {
+    const bool usual =
+        *err == 0 && object != nullptr && mirk::initialize_usual(h, ctx_id, header(object), type, skip_count, flags);
+    if (!usual) initialize_any(h, ctx_id, object, type, notify, skip_count, flags, sttr_base, err);
 }
 
 void mirk_boolean_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object) {
-    mirk::set_embedded(h, ctx_id, reinterpret_cast<mirk_object *>(object));
+    mirk::set_embedded(h, ctx_id, header(object));
 }
 
 uint32_t mirk_boolean_len(mirk_handle *, uint32_t, mirk_boolean *) { return 2; }
 
 uint32_t mirk_boolean_marshal(mirk_handle *, uint32_t, void *buffer, mirk_boolean *field, int32_t remaining,
                               uint32_t *err) {
-    if (!mirk::can_move(buffer, field, 2, remaining, err)) return 0;
+    if (!mirk::can_move<2>(buffer, field, remaining, err)) return 0;
     auto *bytes = static_cast<uint8_t *>(buffer);
     bytes[0] = static_cast<uint8_t>(field->variant);
     bytes[1] = field->value;
@@ -73,7 +94,7 @@ uint32_t mirk_boolean_marshal(mirk_handle *, uint32_t, void *buffer, mirk_boolea
 
 uint32_t mirk_boolean_unmarshal(mirk_handle *, uint32_t, void *buffer, mirk_boolean *field, int32_t remaining, uint32_t,
                                 uint32_t *err) {
-    if (!mirk::can_move(buffer, field, 2, remaining, err)) return 0;
+    if (!mirk::can_move<2>(buffer, field, remaining, err)) return 0;
     const auto *bytes = static_cast<const uint8_t *>(buffer);
     const auto variant = static_cast<int8_t>(bytes[0]);
     field->variant = variant > 0 ? int8_t{0} : variant;

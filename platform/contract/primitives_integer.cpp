@@ -12,14 +12,33 @@ T read(const T *field, uint32_t *err) {
 }
 
 template <typename T>
-void store(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {
+[[gnu::noinline]] void store_any(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {
     if (*err != 0) return;
-    if (field == nullptr || source == nullptr) {
+    if (field == nullptr) {
         *err = EINVAL;
         return;
     }
     mirk::notify_write(h, ctx_id, field, sizeof(T));
-    *field = *source;
+    *field = value;
+}
+
+template <typename T>
+void store(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {
+    if (*err == 0 && field != nullptr && !mirk::is_observed(h)) [[likely]] {
+        *field = value;
+    } else {
+        store_any(h, ctx_id, field, value, err);
+    }
+}
+
+template <typename T>
+void store_from(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {
+    if (*err != 0) return;
+    if (source == nullptr) {
+        *err = EINVAL;
+    } else {
+        store(h, ctx_id, field, *source, err);
+    }
 }
 
 template <typename T>
@@ -61,10 +80,10 @@ uint32_t test_and_clear_mark(mirk_handle *h, const void *field) {
     T *K##_get(mirk_handle *, uint32_t, T *field, uint32_t *err) { return *err != 0 ? nullptr : field; }          \
     T K##_get_value(mirk_handle *, uint32_t, T *field, uint32_t *err) { return read<T>(field, err); }             \
     void K##_set(mirk_handle *h, uint32_t ctx_id, T *field, const T *source, uint32_t *err) {                     \
-        store<T>(h, ctx_id, field, source, err);                                                                  \
+        store_from<T>(h, ctx_id, field, source, err);                                                             \
     }                                                                                                             \
     void K##_set_value(mirk_handle *h, uint32_t ctx_id, T *field, T value, uint32_t *err) {                       \
-        store<T>(h, ctx_id, field, &value, err);                                                                  \
+        store<T>(h, ctx_id, field, value, err);                                                                   \
     }                                                                                                             \
     uint32_t K##_len(mirk_handle *, uint32_t, T *) { return sizeof(T); }                                          \
     uint32_t K##_marshal(mirk_handle *, uint32_t, void *buffer, T *field, int32_t remaining, uint32_t *err) {     \

@@ -168,20 +168,6 @@ void type_store_callbacks(Handle &handle) {
     handle.type_store = &handle;
 }
 
-mirk_variant_entry *variant_entry(mirk_type_info *type, int8_t variant) {
-    return type->variant_info->entries + (variant > 0 ? 0 : variant);
-}
-
-void count(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type, uint64_t *counter, int64_t delta, bool observed) {
-    if (observed) h->count_notify(h->mem_ctx, counter, delta, ctx_id);
-    const auto step = static_cast<uint64_t>(delta);
-    if (type->plain_counters != 0) {
-        *counter += step;
-    } else {
-        __atomic_fetch_add(counter, step, __ATOMIC_SEQ_CST);
-    }
-}
-
 void runtime_types_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err) {
     for (mirk_type_info *type : {&_mirk_boolean_type_info_internal, &_ip_address_type_info_internal}) {
         mirk_type_info_copy *copy = h->type_store_get(h->type_store, ctx_id, type->luid_text);
