@@ -128,7 +128,7 @@ struct Handle : mirk_handle {
     std::unique_ptr<char[]> workspace;
 
     AddressMap<Block, 16> blocks;
-    uint64_t live_bytes = 0, blocks_made = 0, request_ceiling = 0, total_ceiling = 0;
+    uint64_t live_bytes = 0, blocks_made = 0, request_ceiling = 0, total_ceiling = 0, ceiling_refusals = 0;
     int fresh_fill = -1;
     std::vector<void *> system_blocks;  // released when the handle is closed
 

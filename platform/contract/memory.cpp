@@ -28,7 +28,10 @@ bool within_ceilings(const Handle &handle, size_t size, bool has_offsets) {
 void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
     if (failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) return nullptr;
     const bool has_offsets = mirk::tracks(&handle);
-    if (!within_ceilings(handle, size, has_offsets)) return nullptr;
+    if (!within_ceilings(handle, size, has_offsets)) {
+        ++handle.ceiling_refusals;
+        return nullptr;
+    }
     void *block = std::malloc(size == 0 ? 1 : size);
     if (block == nullptr) return nullptr;
     const mirk::Block known{size, handle.blocks_made + 1, ctx_id, has_offsets};
@@ -158,6 +161,8 @@ void mirklib_free(void *, uint32_t, void *p) { std::free(p); }
 size_t mirk_platform_live_blocks(mirk_handle *h) { return own(h)->blocks.size(); }
 
 uint64_t mirk_platform_live_bytes(mirk_handle *h) { return own(h)->live_bytes; }
+
+uint64_t mirk_platform_ceiling_refusals(mirk_handle *h) { return own(h)->ceiling_refusals; }
 
 size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform_block *blocks, size_t capacity) {
     mirk::guarded([&]() -> mirk_platform_error {

@@ -125,6 +125,9 @@ MIRK_PLATFORM_API void mirk_platform_handle_set_tracking(mirk_handle *h, mirk_pl
 MIRK_PLATFORM_API size_t mirk_platform_live_blocks(mirk_handle *h);
 /** Returns the total size in bytes of the obj_alloc blocks that have not been freed. */
 MIRK_PLATFORM_API uint64_t mirk_platform_live_bytes(mirk_handle *h);
+/** Returns how many requests obj_alloc has refused because of request_ceiling or total_ceiling. Operations report
+ * ENOMEM for these as for a lack of memory; this number distinguishes them. */
+MIRK_PLATFORM_API uint64_t mirk_platform_ceiling_refusals(mirk_handle *h);
 
 /** A live block of obj_alloc. */
 typedef struct mirk_platform_block {

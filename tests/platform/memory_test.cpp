@@ -85,6 +85,20 @@ TEST(Memory, DefaultCeilingStopsHostileCounts) {
     EXPECT_EQ(h.alloc(SIZE_MAX), nullptr);
 }
 
+TEST(Memory, CountsRequestsRefusedBecauseOfACeilingOnly) {
+    Handle h({.request_ceiling = 100, .total_ceiling = 150});
+    EXPECT_EQ(mirk_platform_ceiling_refusals(h), 0u);
+    EXPECT_EQ(h.alloc(101), nullptr);
+    EXPECT_EQ(mirk_platform_ceiling_refusals(h), 1u);
+    h.fail_alloc(1);
+    EXPECT_EQ(h.alloc(1), nullptr);
+    EXPECT_EQ(mirk_platform_ceiling_refusals(h), 1u) << "memory ran out below the ceilings";
+    void *a = h.alloc(100);
+    EXPECT_EQ(h.alloc(51), nullptr);
+    EXPECT_EQ(mirk_platform_ceiling_refusals(h), 2u);
+    h.free(a);
+}
+
 TEST(Memory, FreeOfAnUnknownAddressIsTracedAndIgnored) {
     Handle h;
     test::Trace trace;
