@@ -196,7 +196,7 @@ TEST(View, ShowsABrokenFrameUpToTheError) {
         seen.rest = [...document.querySelectorAll('.dump i.rest')].length / 2;
         pointAt(rowAt('payload.info_enabled'));
         seen.bytes = markedBytes(0);)");
-    EXPECT_EQ(seen.at("note"), "broken at offset 96, payload.trace_enabled: 2 bytes are left of 4");
+    EXPECT_EQ(seen.at("note"), "broken at offset 96, payload.trace_enabled: needs 4 bytes, but 2 are left");
     EXPECT_EQ(seen.at("rest"), 2);
     EXPECT_EQ(seen.at("bytes"), bytes(members_at, 4));
 }

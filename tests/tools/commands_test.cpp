@@ -119,7 +119,7 @@ TEST(Dissect, ShowsATruncatedFrameUpToTheError) {
         EXPECT_NE(outcome.err.find("broken at offset "), std::string::npos) << outcome.err;
     }
     const Outcome outcome = tarn({"dissect"}, bytes.substr(0, 60));
-    EXPECT_NE(outcome.err.find("offset 57, payload.warn_enabled: 3 bytes are left of 4"), std::string::npos)
+    EXPECT_NE(outcome.err.find("offset 57, payload.warn_enabled: needs 4 bytes, but 3 are left"), std::string::npos)
         << outcome.err;
 }
 

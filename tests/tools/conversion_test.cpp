@@ -144,7 +144,8 @@ TEST(Conversion, ABrokenFrameIsReportedWithItsOffset) {
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_NE(outcome.err.find("frame at offset 65: lumo_tarn_debug_setting_msg cannot be read"), std::string::npos)
         << outcome.err;
-    EXPECT_NE(outcome.err.find("broken at offset 122, payload.warn_enabled: 3 bytes are left of 4"), std::string::npos)
+    EXPECT_NE(outcome.err.find("broken at offset 122, payload.warn_enabled: needs 4 bytes, but 3 are left"),
+              std::string::npos)
         << outcome.err;
     EXPECT_EQ(outcome.out, shown(message, plain_payload(message, 1)));
 

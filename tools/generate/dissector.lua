@@ -146,7 +146,7 @@ function reader:stop(at, path, reason) error({ at = at, path = path, reason = re
 
 function reader:require(size, path)
     if size > self.stop_at - self.at then
-        self:stop(self.at, path, string.format("%d bytes are left of %.0f", self.stop_at - self.at, size))
+        self:stop(self.at, path, string.format("needs %.0f bytes, but %d are left", size, self.stop_at - self.at))
     end
 end
 

@@ -5,7 +5,7 @@
 //   support/   files, names, handles, exit codes: no format and no other folder of the tool
 //   formats/   frames, text, XML and JSON of messages: support/
 //   pages/     HTML pages: formats/ and support/
-//   service/   sockets, requests and bundles on the move: formats/ and support/
+//   service/   sockets, requests and answers: formats/ and support/
 //   commands/  the command line: all of the above
 #pragma once
 

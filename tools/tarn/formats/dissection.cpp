@@ -75,7 +75,8 @@ private:
     }
     void require(std::size_t size, const std::string &path) {
         if (size > end_ - at_) {
-            stop(at_, path, std::to_string(end_ - at_) + " bytes are left of " + std::to_string(size));
+            stop(at_, path,
+                 "needs " + std::to_string(size) + " bytes, but " + std::to_string(end_ - at_) + " are left");
         }
     }
     void note(std::size_t size, const std::string &path, unsigned depth, std::string kind, std::string value) {

@@ -29,13 +29,13 @@ struct Break {
 struct Dissection {
     std::vector<Piece> pieces;  // in order, without gaps, up to the error
     std::optional<Break> broken;
-    std::size_t size = 0;  // of the frame, in bytes
+    std::size_t size = 0;  // in bytes, up to the error if there is one
 };
 
 // The frame at the beginning of the bytes; `base` is added to all offsets.
 Dissection dissect_frame(FrameBytes bytes, std::size_t base);
 
-// "offset 57, payload.lumo_data[0].id: 2 bytes are left of 4"
+// "offset 57, payload.lumo_data[0].id: needs 4 bytes, but 2 are left"
 std::string sentence_of(const Break &broken);
 
 }  // namespace tarn::tool

@@ -20,8 +20,7 @@ std::vector<Named> bundle_names();
 std::vector<Named> message_names();
 std::vector<Named> type_names();  // records, enumerations, messages, bundles
 
-// The one rule for all types and commands. Both name_rule, which the help and the manual page print, and short_name()
-// state it.
+// The rule for short names is the same for all types and commands. The help and the manual page print it.
 inline constexpr char name_rule[] =
     "Types have full names, such as lumo_tarn_dp_tt_cfg_rsp, and short names, such as\n"
     "dp-tt-cfg: without the prefix lumo_tarn_, without the suffix _rsp or _msg, and\n"
