@@ -22,6 +22,7 @@ struct Reader {
     std::uint32_t size;
     std::uint32_t reuse;
     std::uint32_t *err;
+    std::uint32_t limit = size;  // the end of the buffer, or the offset once that has passed the end
     std::uint32_t offset = 0;
     bool read_state = false;
     bool skip_state = false;
@@ -30,14 +31,24 @@ struct Reader {
     std::uint32_t old_count = 0;  // value of the count or length before it was read
 
     std::uint8_t *at() const { return buffer + offset; }
-    std::int32_t left() const { return bytes_left(size, offset); }
+    std::int32_t left() const { return static_cast<std::int32_t>(limit - offset); }
+    // After what may move the offset past the end: a nested frame, by its jump, and the state that follows it.
+    [[gnu::always_inline]] void pass(std::uint32_t n) {
+        offset += n;
+        limit = offset < size ? size : offset;
+    }
     std::uint32_t step() const { return offset != size ? 1 : 0; }
     std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
 
     template <class F>
     [[gnu::always_inline]] void plain_value(mirk_object *instance) {
         if constexpr (CounterMember<F>) old_count = *F::at(instance);
-        offset += Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
+        const std::uint32_t n = Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
+        if constexpr (RecordMember<F>) {
+            pass(n);
+        } else {
+            offset += n;
+        }
     }
     template <class F>
     [[gnu::always_inline]] void value(mirk_object *instance) {
@@ -49,14 +60,14 @@ struct Reader {
     void state_of() {
         const std::uint32_t n = step();
         if (read_state && n != 0) *F::state(area) = offset < size ? *at() : std::uint8_t{0};
-        if (read_state || skip_state) offset += n;
+        if (read_state || skip_state) pass(n);
     }
 
     // The state of a whole array or of a string, which may be read from the guard byte.
     template <class F>
     void block_state() {
         *F::state(area) = offset <= size ? *at() : std::uint8_t{0};
-        offset += step();
+        pass(step());
     }
 
     template <ArrayMember A>
@@ -136,8 +147,7 @@ bool Reader::array(mirk_object *instance) {
             Lifecycle<A::element>::initialize(h, ctx_id, element, &TypeInfo<A::element>::own, 1, 0, flag::nested,
                                               reinterpret_cast<void *>(element_state), errors.next());
         }
-        offset +=
-            WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err);
+        pass(WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err));
     }
     if (read_state) {
         block_state<A>();
@@ -145,7 +155,7 @@ bool Reader::array(mirk_object *instance) {
         std::memcpy(states.block(), at(), m);
         offset += m;
     } else if (skip_state) {
-        offset += step();
+        pass(step());
         offset += at_most(n);
     }
     return true;
@@ -178,7 +188,7 @@ bool Reader::string(mirk_object *instance) {
     } else if (skip_state) {
         // Unlike the state of a scalar, the last byte of a buffer is not skipped. In a nested frame, the jump corrects
         // the offset.
-        if (static_cast<std::int32_t>(size - offset) > 1) offset += 1;
+        if (static_cast<std::int32_t>(size - offset) > 1) pass(1);
     }
     return true;
 }

@@ -22,7 +22,8 @@ struct Writer {
     std::uint8_t *area = nullptr;  // null: an instance without state, whose state bytes are written as 0
 
     [[gnu::always_inline]] std::uint8_t *at() const { return buffer + offset; }
-    [[gnu::always_inline]] std::int32_t left() const { return bytes_left(size, offset); }
+    // Nothing that writes passes the end.
+    [[gnu::always_inline]] std::int32_t left() const { return static_cast<std::int32_t>(size - offset); }
 
     // If the buffer is full, writes the guard byte after its end, which is not counted.
     [[gnu::always_inline]] void state(std::uint8_t value) {
@@ -38,6 +39,13 @@ struct Writer {
     [[gnu::always_inline]] void value(mirk_object *instance) {
         offset += Primitive<F>::marshal(h, ctx_id, at(), F::at(instance), left(), err);
         if constexpr (schema::is_tracked(F::member)) state_of<F>();
+    }
+
+    // A single value of a null instance: a null member, and a state byte of 0.
+    template <Kind K, auto Of, bool is_tracked>
+    [[gnu::cold, gnu::noinline]] void null_value() {
+        offset += PrimitiveOf<K, Of>::marshal(h, ctx_id, at(), nullptr, left(), err);
+        if (is_tracked && tracked) state(0);
     }
 
     template <ArrayMember A>

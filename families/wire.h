@@ -25,8 +25,13 @@ struct WireWrite {
                                         std::int32_t remaining, std::uint32_t *err);
 
 private:
-    static std::uint32_t write(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                               std::int32_t remaining, std::uint32_t *err, bool follow_domain);
+    // Fits one register, so that all arguments do.
+    struct Room {
+        std::int32_t remaining;
+        std::uint32_t keeps_variant;  // 0: the frame follows the domain
+    };
+    static std::uint32_t write(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance, Room room,
+                               std::uint32_t *err);
 };
 
 template <const Record &R>
@@ -37,10 +42,5 @@ struct WireRead {
     static std::uint32_t unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                           std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
 };
-
-// Bytes left after an offset; 0 once the offset has passed the end, as after a jump that a damaged frame contains.
-constexpr std::int32_t bytes_left(std::uint32_t length, std::uint32_t offset) {
-    return offset < length ? static_cast<std::int32_t>(length - offset) : 0;
-}
 
 }  // namespace tarn

@@ -14,8 +14,9 @@ namespace {
     return _mirk_instance_ra_data_marshal(h, ctx_id, buffer, &ra_value, &ra_byte, remaining, err);
 }
 
-template <const Record &R>
-[[gnu::always_inline]] inline void write_frame(Writer &out, mirk_object *instance, std::int8_t variant) {
+template <class Members>
+[[gnu::always_inline]] inline void write_parts(Writer &out, mirk_object *instance, std::int8_t variant,
+                                               std::uint32_t base_size, Members members) {
     mirk_handle *h = out.h;
     const std::uint32_t ctx_id = out.ctx_id;
     out.offset += _mirk_instance_variant_marshal(h, ctx_id, out.at(), &variant, out.left(), out.err);
@@ -24,7 +25,7 @@ template <const Record &R>
     out.tracked = tracks(h);
     if (out.tracked) {
         wire_flag |= flag::state_tracked;
-        if (is_state_tracked(instance)) out.area = state_area<R>(h, ctx_id, instance);
+        if (is_state_tracked(instance)) out.area = state_area(h, ctx_id, instance, base_size);
     } else {
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
@@ -38,21 +39,27 @@ template <const Record &R>
     const std::uint32_t jump_base = out.offset;
     std::uint32_t jump = 0;
     out.offset += _mirk_variant_jump_marshal(h, ctx_id, out.at(), &jump, out.left(), out.err);
-    if (variant >= 0) {
-        walk<R>(cases{
-            [&]<ArrayMember A>(A) TARN_INLINE { out.array<A>(instance); },
-            [&]<StringMember S>(S) TARN_INLINE { out.string<S>(instance); },
-            [&]<SingleMember F>(F) TARN_INLINE { out.value<F>(instance); },
-        });
-    }
+    if (variant >= 0) members(out, instance);
     jump = out.offset - jump_base;
     _mirk_variant_jump_marshal(h, ctx_id, out.buffer + jump_base, &jump, sizeof jump, out.err);
 }
 
 template <const Record &R>
+[[gnu::always_inline]] inline void write_frame(Writer &out, mirk_object *instance, std::int8_t variant) {
+    const auto members = [](Writer &to, mirk_object *of) TARN_INLINE {
+        walk<R>(cases{
+            [&]<ArrayMember A>(A) TARN_INLINE { to.array<A>(of); },
+            [&]<StringMember S>(S) TARN_INLINE { to.string<S>(of); },
+            [&]<SingleMember F>(F) TARN_INLINE { to.value<F>(of); },
+        });
+    };
+    write_parts(out, instance, variant, schema::layout<R>.base_size, members);
+}
+
+template <class Frame>
 [[gnu::always_inline]] inline std::uint32_t write_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                          mirk_object *instance, std::int32_t remaining,
-                                                         std::uint32_t *err, bool follow_domain) {
+                                                         std::uint32_t *err, bool keeps_variant, Frame frame) {
     if (!enter(h, err)) return 0;
     if (remaining < 1) {
         fail(h, err, ENOMEM);
@@ -63,18 +70,49 @@ template <const Record &R>
     std::int8_t variant = mirk_get_instance_variant(instance, 1, 0);
     const std::int8_t domain_variant =
         mirk_domain_lookup_variant(h, &h->domain, instance != nullptr ? instance->tinfo : nullptr, err);
-    if (follow_domain && variant > domain_variant) {
+    if (variant > domain_variant && !keeps_variant) {
         // The downgrade: the frame is written in the variant that the peer's domain understands.
         mirk_store_epoch_err(h, EIDRM, err);
         variant = domain_variant;
     }
-    variant = cap_variant(variant);
-    if constexpr (runtime_inside) {
-        shortcut::write_frame<R, write_frame<R>>(out, instance, variant);
-    } else {
-        write_frame<R>(out, instance, variant);
-    }
+    frame(out, instance, cap_variant(variant));
     return out.offset;
+}
+
+// The members of a null instance are null. It has a function of its own, for all records, so that elsewhere the
+// compiler knows that a member has an address.
+[[gnu::cold, gnu::noinline]] std::uint32_t write_null(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                      std::int32_t remaining, std::uint32_t *err, bool keeps_variant,
+                                                      void (*members)(Writer &, mirk_object *)) {
+    return write_record(h, ctx_id, buffer, nullptr, remaining, err, keeps_variant,
+                        [&](Writer &out, mirk_object *instance, std::int8_t variant) {
+                            write_parts(out, instance, variant, 0, members);
+                        });
+}
+
+template <const Record &R>
+[[gnu::cold]] void write_null_members(Writer &out, mirk_object *) {
+    walk<R>(cases{
+        nothing,
+        [&]<SingleMember F>(F) { out.null_value<F::kind, F::of, schema::is_tracked(F::member)>(); },
+    });
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint32_t write_record(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                         mirk_object *instance, std::int32_t remaining,
+                                                         std::uint32_t *err, bool keeps_variant) {
+    if (instance == nullptr) {
+        return write_null(h, ctx_id, buffer, remaining, err, keeps_variant, write_null_members<R>);
+    }
+    return write_record(h, ctx_id, buffer, instance, remaining, err, keeps_variant,
+                        [](Writer &out, mirk_object *of, std::int8_t variant) TARN_INLINE {
+                            if constexpr (runtime_inside) {
+                                shortcut::write_frame<R, write_frame<R>>(out, of, variant);
+                            } else {
+                                write_frame<R>(out, of, variant);
+                            }
+                        });
 }
 
 }  // namespace
@@ -82,15 +120,14 @@ template <const Record &R>
 // One function for both forms: as a template, it would exist twice per record.
 template <const Record &R>
 [[gnu::noinline]] std::uint32_t WireWrite<R>::write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                                    mirk_object *instance, std::int32_t remaining, std::uint32_t *err,
-                                                    bool follow_domain) {
-    return write_record<R>(h, ctx_id, buffer, instance, remaining, err, follow_domain);
+                                                    mirk_object *instance, Room room, std::uint32_t *err) {
+    return write_record<R>(h, ctx_id, buffer, instance, room.remaining, err, room.keeps_variant != 0);
 }
 
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                     std::int32_t remaining, std::uint32_t *err) {
-    return write(h, ctx_id, buffer, instance, remaining, err, true);
+    return write(h, ctx_id, buffer, instance, {remaining, 0}, err);
 }
 
 // Inlined into the owner where no call of the runtime is involved and little code is added.
@@ -99,7 +136,7 @@ TARN_INLINE_INSIDE inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle
                                                                      mirk_object *instance, std::int32_t remaining,
                                                                      std::uint32_t *err) {
     if constexpr (runtime_inside && all_integers(R)) {
-        return write_record<R>(h, ctx_id, buffer, instance, remaining, err, true);
+        return write_record<R>(h, ctx_id, buffer, instance, remaining, err, false);
     } else {
         return marshal(h, ctx_id, buffer, instance, remaining, err);
     }
@@ -108,7 +145,7 @@ TARN_INLINE_INSIDE inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                               std::int32_t remaining, std::uint32_t *err) {
-    return write(h, ctx_id, buffer, instance, remaining, err, false);
+    return write(h, ctx_id, buffer, instance, {remaining, 1}, err);
 }
 
 // An upper bound, for sizing a buffer: an empty array or string is counted with one state byte, and a string with one
