@@ -24,10 +24,9 @@ struct Reader {
     std::uint32_t *err;
     std::uint32_t limit = size;  // the end of the buffer, or the offset once that has passed the end
     std::uint32_t offset = 0;
-    bool read_state = false;
-    bool skip_state = false;
+    bool with_state = false;  // the frame has state bytes
     bool tracked = false;
-    std::uint8_t *area = nullptr;
+    std::uint8_t *area = nullptr;  // where they go; null: they are skipped
     std::uint32_t old_count = 0;  // value of the count or length before it was read
 
     std::uint8_t *at() const { return buffer + offset; }
@@ -58,9 +57,10 @@ struct Reader {
 
     template <class F>
     void state_of() {
+        if (!with_state) return;
         const std::uint32_t n = step();
-        if (read_state && n != 0) *F::state(area) = offset < size ? *at() : std::uint8_t{0};
-        if (read_state || skip_state) pass(n);
+        if (area != nullptr && n != 0) *F::state(area) = offset < size ? *at() : std::uint8_t{0};
+        pass(n);
     }
 
     // The state of a whole array or of a string, which may be read from the guard byte.
@@ -98,14 +98,14 @@ bool Reader::array(mirk_object *instance) {
     const std::uint32_t n = A::stored_count(instance);
     if (n == 0) return true;
 
-    const ElementStates states = read_state ? A::element_states(area) : ElementStates();
+    const ElementStates states = A::element_states(area);
     const bool same_elements = *block != nullptr && old_count == n;
     if (reuse != 0 && *block != nullptr && old_count != n) release_elements<A>(instance);
-    if (reuse != 0 && read_state && states.block() != nullptr && old_count != n) {
+    if (reuse != 0 && states.block() != nullptr && old_count != n) {
         release(h, ctx_id, states.block());
         states.put(nullptr);
     }
-    if (tracked && !read_state && !same_elements) {
+    if (tracked && !with_state && !same_elements) {
         // A frame without state keeps the old vector, unless it may be too short for the new elements or was left by an
         // empty frame or a failed read.
         const ElementStates stale = A::element_states(state_area<A::owner>(h, ctx_id, instance));
@@ -124,7 +124,7 @@ bool Reader::array(mirk_object *instance) {
         return false;
     }
     std::memset(bytes_of(*block), 0, stride * n);
-    if (read_state) {
+    if (area != nullptr) {
         auto *vector = static_cast<std::uint8_t *>(allocate(h, ctx_id, n));
         states.put(vector);
         if (vector == nullptr) {
@@ -149,12 +149,12 @@ bool Reader::array(mirk_object *instance) {
         }
         pass(WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err));
     }
-    if (read_state) {
+    if (area != nullptr) {
         block_state<A>();
         const std::uint32_t m = at_most(n);
         std::memcpy(states.block(), at(), m);
         offset += m;
-    } else if (skip_state) {
+    } else if (with_state) {
         pass(step());
         offset += at_most(n);
     }
@@ -183,9 +183,9 @@ bool Reader::string(mirk_object *instance) {
     const std::uint32_t m = at_most(n);
     std::memcpy(*body, at(), m);
     offset += m;
-    if (read_state) {
+    if (area != nullptr) {
         block_state<S>();
-    } else if (skip_state) {
+    } else if (with_state) {
         // Unlike the state of a scalar, the last byte of a buffer is not skipped. In a nested frame, the jump corrects
         // the offset.
         if (static_cast<std::int32_t>(size - offset) > 1) pass(1);

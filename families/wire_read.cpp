@@ -57,14 +57,12 @@ template <const Record &R>
     const std::int8_t variant = cap_variant(head.variant);
     std::uint8_t wire_flag = head.wire_flag;
 
-    const bool sender_tracks = (wire_flag & flag::state_tracked) != 0;
+    in.with_state = (wire_flag & flag::state_tracked) != 0;
     in.tracked = tracks(h);
     if (in.tracked) {
         if (!is_state_tracked(instance)) die("(FATAL): MIRK handle and object state tracking mis-match");
-        in.read_state = sender_tracks;
-        if (in.read_state) in.area = state_area<R>(h, ctx_id, instance);
+        if (in.with_state) in.area = state_area<R>(h, ctx_id, instance);
     } else {
-        in.skip_state = sender_tracks;
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 

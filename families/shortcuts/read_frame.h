@@ -62,7 +62,7 @@ template <bool (*general)(Reader &, mirk_object *)>
 // Of a frame without state bytes; others are read the general way. False: out of memory.
 template <const Record &R, bool (*general)(Reader &, mirk_object *)>
 [[gnu::always_inline]] inline bool read_members(Reader &in, mirk_object *instance) {
-    if (in.tracked || in.skip_state) {
+    if (in.tracked || in.with_state) {
         const Progress progress = read_otherwise<general>(in, instance);
         in.offset = progress.offset;
         return progress.complete;
