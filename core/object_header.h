@@ -22,8 +22,9 @@ inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->l
 }
 
 // Writes the header of a new object. Returns its variant.
-inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                              bool observed, std::uint8_t flags, std::uint32_t *err) {
+[[gnu::always_inline]] inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                     mirk_type_info *type, bool observed, std::uint8_t flags,
+                                                     std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
     const auto notify = [&](auto *member) {
         if (observed) h->write_notify(h->mem_ctx, member, sizeof *member, ctx_id);
@@ -45,8 +46,8 @@ inline void check_variant_count(const mirk_variant_info &info, std::int8_t varia
     }
 }
 
-inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object, std::int8_t variant,
-                          bool observed) {
+[[gnu::always_inline]] inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object,
+                                                 std::int8_t variant, bool observed) {
     const mirk_variant_info &info = variant_info(object->tinfo);
     check_variant_count(info, variant);
     mirk_variant_entry &entry = info.entries[variant];

@@ -2,12 +2,26 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "families/wire.h"
 #include "kinds/kinds.h"
+#include "schema/catalogue.h"
 
 namespace tarn {
+
+// The states of an instance without a state area. Read where it would need a test for each member.
+inline constexpr auto no_states = [] {
+    constexpr std::size_t widest = [] {
+        std::size_t width = 0;
+        for (const Record *record : schema::records) {
+            width = std::max(width, std::size_t{schema::lay_out(*record).state_width});
+        }
+        return width;
+    }();
+    return std::array<std::uint8_t, widest>{};
+}();
 
 // The output of one frame. The walk continues after a member has failed: later members are no-ops because the slot is
 // set, state bytes are still written, and the caller checks the slot at the end.
@@ -19,7 +33,7 @@ struct Writer {
     std::uint32_t *err;
     std::uint32_t offset = 0;
     bool tracked = false;
-    std::uint8_t *area = nullptr;  // null: an instance without state, whose state bytes are written as 0
+    const std::uint8_t *area = no_states.data();
 
     [[gnu::always_inline]] std::uint8_t *at() const { return buffer + offset; }
     // Nothing that writes passes the end.
@@ -32,7 +46,7 @@ struct Writer {
     }
     template <class F>
     TARN_INLINE_INSIDE void state_of() {
-        if (tracked) state(area != nullptr ? *F::state(area) : std::uint8_t{0});
+        if (tracked) state(area[F::place.slot]);
     }
 
     template <class F>
@@ -60,7 +74,7 @@ struct Writer {
         state_of<A>();
         // Truncated without an error, since a buffer sized by len always has room.
         const std::uint32_t fits = std::min(n, static_cast<std::uint32_t>(left()));
-        const ElementStates states = A::element_states(area);
+        const ElementStates states = A::element_states(const_cast<std::uint8_t *>(area));  // only read
         if (const std::uint8_t *block_of_states = states.block(); block_of_states != nullptr) {
             std::memcpy(at(), block_of_states, fits);
         } else {

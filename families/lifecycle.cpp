@@ -26,25 +26,33 @@ constinit SentinelStorage<R> sentinel_of{};
     return nullptr;
 }
 
-// Initializes all but the members. False: the members must not be initialized either. If members_area is set, the
-// caller records the state offsets of the embedded members in it; sttr_base becomes the start of the instance's state.
-bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                         std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, std::uint32_t base_size,
-                         void *&sttr_base, void *&members_area, std::uint32_t *err) {
+// The state areas of an instance that is initialized.
+struct Areas {
+    void *base;               // start of the instance's state; found if null
+    std::uint32_t base_size;  // of the instance
+    void *members = nullptr;  // if set, the caller records the state offsets of the embedded members in it
+};
+
+// Initializes all but the members. False: the members must not be initialized either.
+[[gnu::always_inline]] inline bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                       mirk_type_info *type, std::uint32_t notify,
+                                                       std::uint32_t skip_count, std::uint8_t flags, Areas &areas,
+                                                       std::uint32_t *err) {
     if (!enter(h, err)) return false;
     const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
-    if (tracks(h)) {
+    const bool tracked = tracks(h);
+    if (tracked) {
         if (notify != 0) notify_write(h, ctx_id, &object->obj_flag);
         object->obj_flag |= flag::state_tracked;
     }
     if (skip_count != 0) return true;
     count_created(h, ctx_id, object, variant, true);
     *err = 0;  // clears an error of the domain look-up; the first require_body reports it
-    if (!tracks(h)) return true;
+    if (!tracked) return true;
 
     const bool nested = (object->obj_flag & flag::nested) != 0;
     const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
-    if (nested && sttr_base == nullptr) {
+    if (nested && areas.base == nullptr) {
         fail(h, err, EINVAL);
         trace(error_level,
               "(ERR): sttr_base can not be NULL in NESTED case. Please check the parent object and provide the "
@@ -52,9 +60,23 @@ bool initialize_instance(mirk_handle *h, std::uint32_t ctx_id, mirk_object *obje
         return false;
     }
     void *offset_area = has_offset ? bytes_of(object) + mirklib_get_sttr_offset(h, ctx_id, object) : nullptr;
-    if (!nested && sttr_base == nullptr) sttr_base = bytes_of(object) + base_size;
-    if (!nested || has_offset) members_area = has_offset ? offset_area : sttr_base;
+    if (!nested && areas.base == nullptr) areas.base = bytes_of(object) + areas.base_size;
+    if (!nested || has_offset) areas.members = has_offset ? offset_area : areas.base;
     return true;
+}
+
+[[gnu::noinline]] bool initialize_owner(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                                        std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags,
+                                        Areas &areas, std::uint32_t *err) {
+    return initialize_instance(h, ctx_id, object, type, notify, skip_count, flags, areas, err);
+}
+
+// A record without embedded members. Its arguments are those of initialize, which jumps here.
+[[gnu::noinline]] void initialize_plain(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                                        std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags,
+                                        void *sttr_base, std::uint32_t *err) {
+    Areas areas{sttr_base, 0};
+    initialize_instance(h, ctx_id, object, type, notify, skip_count, flags, areas, err);
 }
 
 struct ReferenceTexts {
@@ -160,13 +182,13 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
             return;
         }
     }
-    void *members_area = nullptr;
-    const bool set_up = initialize_instance(h, ctx_id, object, type, notify, skip_count, flags,
-                                            schema::layout<R>.base_size, sttr_base, members_area, err);
     if constexpr (any_member<R>(schema::is_embedded)) {
-        if (!set_up) return;
-        if (members_area != nullptr) References<R>::offset_update(h, ctx_id, object, members_area, err);
-        initialize_members(h, ctx_id, object, notify, skip_count, sttr_base, err);
+        Areas areas{sttr_base, schema::layout<R>.base_size};
+        if (!initialize_owner(h, ctx_id, object, type, notify, skip_count, flags, areas, err)) return;
+        if (areas.members != nullptr) References<R>::offset_update(h, ctx_id, object, areas.members, err);
+        initialize_members(h, ctx_id, object, notify, skip_count, areas.base, err);
+    } else {
+        initialize_plain(h, ctx_id, object, type, notify, skip_count, flags, sttr_base, err);
     }
 }
 
