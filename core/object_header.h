@@ -26,17 +26,21 @@ inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->l
                                                      mirk_type_info *type, bool observed, std::uint8_t flags,
                                                      std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
-    const auto notify = [&](auto *member) {
-        if (observed) h->write_notify(h->mem_ctx, member, sizeof *member, ctx_id);
+    const auto write = [&](auto notify) TARN_INLINE {
+        notify(&object->home_variant);
+        object->home_variant = variant;
+        notify(&object->variant);
+        object->variant = variant;
+        notify(&object->tinfo);
+        object->tinfo = bind_type(h, ctx_id, type);
+        notify(&object->obj_flag);
+        object->obj_flag |= flags;
     };
-    notify(&object->home_variant);
-    object->home_variant = variant;
-    notify(&object->variant);
-    object->variant = variant;
-    notify(&object->tinfo);
-    object->tinfo = bind_type(h, ctx_id, type);
-    notify(&object->obj_flag);
-    object->obj_flag |= flags;
+    if (observed) {
+        write([&](auto *member) TARN_INLINE { h->write_notify(h->mem_ctx, member, sizeof *member, ctx_id); });
+    } else {
+        write([](auto *) {});
+    }
     return variant;
 }
 

@@ -194,8 +194,10 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
 
 // Members get the same base, not the start of their own area, which they look up in the runtime.
 template <const Record &R>
-void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
-                                      std::uint32_t skip_count, void *sttr_base, std::uint32_t *err) {
+[[gnu::always_inline]] inline void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id,
+                                                                    mirk_object *object, std::uint32_t notify,
+                                                                    std::uint32_t skip_count, void *sttr_base,
+                                                                    std::uint32_t *err) {
     StepErrors errors(h, err);
     walk<R>(cases{
         [&]<EmbeddedMember F>(F) {
