@@ -12,6 +12,13 @@
 
 namespace tarn {
 
+struct Head {
+    // Initialized, because a primitive that fails writes nothing.
+    std::int8_t variant = 0;
+    std::uint8_t wire_flag = 0;
+    std::uint32_t jump_base = 0, jump = 0;
+};
+
 // The input of one frame. A nested frame's jump may move the 32-bit offset past the end, so every access is limited by
 // left(), which is 0 from there on. The guard byte after the end is readable: the buffer's owner provides it, and the
 // state of a whole array or of a string is read from it when the frame ends just before that state.
@@ -27,7 +34,7 @@ struct Reader {
     bool with_state = false;  // the frame has state bytes
     bool tracked = false;
     std::uint8_t *area = nullptr;  // where they go; null: they are skipped
-    std::uint32_t old_count = 0;  // value of the count or length before it was read
+    std::uint32_t old_count = 0;   // value of the count or length before it was read
 
     std::uint8_t *at() const { return buffer + offset; }
     std::int32_t left() const { return static_cast<std::int32_t>(limit - offset); }
@@ -40,7 +47,7 @@ struct Reader {
     std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
 
     template <class F>
-    [[gnu::always_inline]] void plain_value(mirk_object *instance) {
+    [[gnu::always_inline]] void value(mirk_object *instance) {
         if constexpr (CounterMember<F>) old_count = *F::at(instance);
         const std::uint32_t n = Primitive<F>::unmarshal(h, ctx_id, at(), F::at(instance), left(), reuse, err);
         if constexpr (RecordMember<F>) {
@@ -48,10 +55,6 @@ struct Reader {
         } else {
             offset += n;
         }
-    }
-    template <class F>
-    [[gnu::always_inline]] void value(mirk_object *instance) {
-        plain_value<F>(instance);
         if constexpr (schema::is_tracked(F::member)) state_of<F>();
     }
 
@@ -76,7 +79,26 @@ struct Reader {
     bool string(mirk_object *instance);
     template <ArrayMember A>
     void release_elements(mirk_object *instance);
+    template <ArrayMember A>
+    bool make_block(mirk_object *instance, std::uint32_t n, ElementStates states);
+    template <const Record &R>
+    void element(mirk_object *block, std::uint32_t n, std::uint32_t index);
+    void skip_to_end(const Head &head);
 };
+
+[[gnu::cold, gnu::noinline]] inline void report_jump(std::uint32_t read_length, std::uint32_t jump_base,
+                                                     std::uint32_t jump) {
+    trace(info_level, "(info): offset_jump read_len %d offset_jump_base %d _mirk_variant_jump %d", read_length,
+          jump_base, jump);
+}
+
+// Skips what a newer sender wrote after the members known here.
+[[gnu::always_inline]] inline void Reader::skip_to_end(const Head &head) {
+    const std::uint32_t end = head.jump_base + head.jump;
+    if (static_cast<std::int32_t>(end) <= static_cast<std::int32_t>(offset)) return;
+    report_jump(offset, head.jump_base, head.jump);
+    offset = end;
+}
 
 template <ArrayMember A>
 void Reader::release_elements(mirk_object *instance) {
@@ -91,14 +113,10 @@ void Reader::release_elements(mirk_object *instance) {
     store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
 }
 
-// False: an allocation failed, which ends the reading of this frame.
+// Allocates zeroed room for n elements, and for their states if the frame has some. False: an allocation failed.
 template <ArrayMember A>
-bool Reader::array(mirk_object *instance) {
+[[gnu::always_inline]] inline bool Reader::make_block(mirk_object *instance, std::uint32_t n, ElementStates states) {
     mirk_object **block = A::at(instance);
-    const std::uint32_t n = A::stored_count(instance);
-    if (n == 0) return true;
-
-    const ElementStates states = A::element_states(area);
     const bool same_elements = *block != nullptr && old_count == n;
     if (reuse != 0 && *block != nullptr && old_count != n) release_elements<A>(instance);
     if (reuse != 0 && states.block() != nullptr && old_count != n) {
@@ -136,19 +154,33 @@ bool Reader::array(mirk_object *instance) {
         }
         std::memset(vector, 0, n);
     }
-    for (std::uint32_t i = 0; i < n; ++i) {
-        mirk_object *element = element_at<A::element>(*block, i);
-        const std::uintptr_t element_state = element_area<A::element>(*block, n, i);
-        // On a tracking handle every element gets its offset, even if the frame has no state: otherwise its state would
-        // be read directly after it, from the next element's bytes.
-        if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
-        {
-            StepErrors errors(h, err);
-            Lifecycle<A::element>::initialize(h, ctx_id, element, &TypeInfo<A::element>::own, 1, 0, flag::nested,
-                                              reinterpret_cast<void *>(element_state), errors.next());
-        }
-        pass(WireRead<A::element>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err));
+    return true;
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline void Reader::element(mirk_object *block, std::uint32_t n, std::uint32_t index) {
+    mirk_object *element = element_at<R>(block, index);
+    const std::uintptr_t element_state = element_area<R>(block, n, index);
+    // On a tracking handle every element gets its offset, even if the frame has no state: otherwise its state would be
+    // read directly after it, from the next element's bytes.
+    if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
+    {
+        StepErrors errors(h, err);
+        Lifecycle<R>::initialize(h, ctx_id, element, &TypeInfo<R>::own, 1, 0, flag::nested,
+                                 reinterpret_cast<void *>(element_state), errors.next());
     }
+    pass(WireRead<R>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err));
+}
+
+// False: an allocation failed, which ends the reading of this frame.
+template <ArrayMember A>
+bool Reader::array(mirk_object *instance) {
+    const std::uint32_t n = A::stored_count(instance);
+    if (n == 0) return true;
+
+    const ElementStates states = A::element_states(area);
+    if (!make_block<A>(instance, n, states)) return false;
+    for (std::uint32_t i = 0; i < n; ++i) element<A::element>(*A::at(instance), n, i);
     if (area != nullptr) {
         block_state<A>();
         const std::uint32_t m = at_most(n);
@@ -192,13 +224,6 @@ bool Reader::string(mirk_object *instance) {
     }
     return true;
 }
-
-struct Head {
-    // Initialized, because a primitive that fails writes nothing.
-    std::int8_t variant = 0;
-    std::uint8_t wire_flag = 0;
-    std::uint32_t jump_base = 0, jump = 0;
-};
 
 // Takes separate arguments instead of the reader, so that the reader can stay in registers.
 [[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,

@@ -3,7 +3,7 @@
 #include "core/object_header.h"
 #include "core/sticky.h"
 #include "families/references.h"
-#include "families/shortcuts/initialize.h"
+#include "families/shortcuts/shortcuts.h"
 #include "kinds/kinds.h"
 
 extern "C" void mirk_lumo_ui_tarn_type_trace_init(void);
@@ -177,8 +177,7 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
                               std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
                               std::uint32_t *err) {
     if constexpr (runtime_inside) {
-        if (skip_count == 0 && type == &TypeInfo<R>::own && shortcut::is_unobserved(h, err)) {
-            shortcut::initialize_tree<R>(h, ctx_id, object, flags, sttr_base, err);
+        if (skip_count == 0 && type == &TypeInfo<R>::own && shortcut::initialize<R>(h, ctx_id, object, flags, err)) {
             return;
         }
     }
@@ -231,6 +230,9 @@ void Lifecycle<R>::destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *ob
 template <const Record &R>
 void Lifecycle<R>::destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it) {
     if (object == nullptr || object == sentinel()) return;
+    if constexpr (runtime_inside) {
+        if (shortcut::destroy<R>(h, ctx_id, object, free_it)) return;
+    }
     if (!release_mapping(h, ctx_id, object, destroy_texts<R>)) return;
     std::uint32_t error = 0;
     // False: the references of an address could not be read. The rest of the object is not destroyed.

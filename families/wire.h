@@ -11,6 +11,13 @@
 
 namespace tarn {
 
+// The general way of an operation. In the archive it is a separate function, called if the shortcut does not apply.
+#ifdef TARN_RUNTIME_INSIDE
+#define TARN_GENERAL_WAY [[gnu::noinline]]
+#else
+#define TARN_GENERAL_WAY [[gnu::always_inline]] inline
+#endif
+
 inline constexpr std::uint32_t record_head = schema::record_head_size;
 
 template <const Record &R>
@@ -20,9 +27,6 @@ struct WireWrite {
                                  std::int32_t remaining, std::uint32_t *err);
     static std::uint32_t marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                            std::int32_t remaining, std::uint32_t *err);
-    // Writes a member of another record.
-    static std::uint32_t marshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                        std::int32_t remaining, std::uint32_t *err);
 
 private:
     // Fits one register, so that all arguments do.
@@ -38,9 +42,9 @@ template <const Record &R>
 struct WireRead {
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                    std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
-    // Reads a member of another record.
-    static std::uint32_t unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                          std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
+    // The same, without the archive's shortcut.
+    static std::uint32_t unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                       std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
 };
 
 }  // namespace tarn

@@ -1,14 +1,9 @@
 #include "families/frame_reader.h"
-#include "families/shortcuts/read_frame.h"
+#include "families/shortcuts/shortcuts.h"
 
 namespace tarn {
 
 namespace {
-
-[[gnu::cold, gnu::noinline]] void report_jump(std::uint32_t read_length, std::uint32_t jump_base, std::uint32_t jump) {
-    trace(info_level, "(info): offset_jump read_len %d offset_jump_base %d _mirk_variant_jump %d", read_length,
-          jump_base, jump);
-}
 
 [[gnu::always_inline]] inline void read_head(Reader &in, mirk_object *instance, Head &head) {
     in.offset += _mirk_instance_variant_unmarshal(in.h, in.ctx_id, in.at(), &head.variant, in.left(), in.err);
@@ -49,11 +44,7 @@ template <const Record &R>
     Reader in{h, ctx_id, static_cast<std::uint8_t *>(buffer), length, reuse, err};
 
     Head head;
-    if (runtime_inside && length >= record_head && buffer != nullptr) {
-        shortcut::read_head(in, instance, head);
-    } else {
-        read_head(in, instance, head);
-    }
+    read_head(in, instance, head);
     const std::int8_t variant = cap_variant(head.variant);
     std::uint8_t wire_flag = head.wire_flag;
 
@@ -66,21 +57,8 @@ template <const Record &R>
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 
-    if (variant >= 0) {
-        bool complete = false;
-        if constexpr (runtime_inside) {
-            complete = shortcut::read_members<R, read_members<R>>(in, instance);
-        } else {
-            complete = read_members<R>(in, instance);
-        }
-        if (!complete) return 0;
-    }
-
-    const std::uint32_t end = head.jump_base + head.jump;
-    if (static_cast<std::int32_t>(end) > static_cast<std::int32_t>(in.offset)) {
-        report_jump(in.offset, head.jump_base, head.jump);
-        in.offset = end;
-    }
+    if (variant >= 0 && !read_members<R>(in, instance)) return 0;
+    in.skip_to_end(head);
     instance->variant = variant;
     instance->obj_flag |= wire_flag;
     instance->tinfo = bind_type(h, ctx_id, &TypeInfo<R>::own);
@@ -90,22 +68,20 @@ template <const Record &R>
 }  // namespace
 
 template <const Record &R>
-std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                     std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
+TARN_GENERAL_WAY std::uint32_t WireRead<R>::unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                          mirk_object *instance, std::uint32_t length,
+                                                          std::uint32_t reuse, std::uint32_t *err) {
     return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
 }
 
-// Inlined into the owner where no call of the runtime is involved and little code is added.
 template <const Record &R>
-TARN_INLINE_INSIDE inline std::uint32_t WireRead<R>::unmarshal_nested(mirk_handle *h, std::uint32_t ctx_id,
-                                                                      void *buffer, mirk_object *instance,
-                                                                      std::uint32_t length, std::uint32_t reuse,
-                                                                      std::uint32_t *err) {
-    if constexpr (runtime_inside && all_integers(R)) {
-        return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
-    } else {
-        return unmarshal(h, ctx_id, buffer, instance, length, reuse, err);
+std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                     std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        std::uint32_t consumed = 0;
+        if (shortcut::read<R>(h, ctx_id, buffer, instance, length, reuse, err, consumed)) return consumed;
     }
+    return unmarshal_any(h, ctx_id, buffer, instance, length, reuse, err);
 }
 
 }  // namespace tarn

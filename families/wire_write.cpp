@@ -1,5 +1,5 @@
 #include "families/frame_writer.h"
-#include "families/shortcuts/write_frame.h"
+#include "families/shortcuts/shortcuts.h"
 
 namespace tarn {
 
@@ -106,13 +106,8 @@ template <const Record &R>
         return write_null(h, ctx_id, buffer, remaining, err, keeps_variant, write_null_members<R>);
     }
     return write_record(h, ctx_id, buffer, instance, remaining, err, keeps_variant,
-                        [](Writer &out, mirk_object *of, std::int8_t variant) TARN_INLINE {
-                            if constexpr (runtime_inside) {
-                                shortcut::write_frame<R, write_frame<R>>(out, of, variant);
-                            } else {
-                                write_frame<R>(out, of, variant);
-                            }
-                        });
+                        [](Writer &out, mirk_object *of, std::int8_t variant)
+                            TARN_INLINE { write_frame<R>(out, of, variant); });
 }
 
 }  // namespace
@@ -127,24 +122,18 @@ template <const Record &R>
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                     std::int32_t remaining, std::uint32_t *err) {
-    return write(h, ctx_id, buffer, instance, {remaining, 0}, err);
-}
-
-// Inlined into the owner where no call of the runtime is involved and little code is added.
-template <const Record &R>
-TARN_INLINE_INSIDE inline std::uint32_t WireWrite<R>::marshal_nested(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                                                     mirk_object *instance, std::int32_t remaining,
-                                                                     std::uint32_t *err) {
-    if constexpr (runtime_inside && all_integers(R)) {
-        return write_record<R>(h, ctx_id, buffer, instance, remaining, err, false);
-    } else {
-        return marshal(h, ctx_id, buffer, instance, remaining, err);
+    if constexpr (runtime_inside) {
+        if (const auto written = shortcut::write<R>(h, buffer, instance, remaining, err); written != 0) return written;
     }
+    return write(h, ctx_id, buffer, instance, {remaining, 0}, err);
 }
 
 template <const Record &R>
 std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                               std::int32_t remaining, std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (const auto written = shortcut::write<R>(h, buffer, instance, remaining, err); written != 0) return written;
+    }
     return write(h, ctx_id, buffer, instance, {remaining, 1}, err);
 }
 

@@ -39,14 +39,10 @@ struct PrimitiveOf<Kind::record, Of> {
     static mirk_object *get(mirk_handle *, std::uint32_t, mirk_object *field, std::uint32_t *) { return field; }
     static void set(auto... arguments) { Assignment<*Of>::set(arguments...); }
     static std::uint32_t len(auto... arguments) { return WireWrite<*Of>::len(arguments...); }
-    [[gnu::always_inline]] static std::uint32_t marshal(auto... arguments) {
-        return WireWrite<*Of>::marshal_nested(arguments...);
-    }
-    [[gnu::always_inline]] static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                                          mirk_object *field, std::int32_t left, std::uint32_t reuse,
-                                                          std::uint32_t *err) {
-        const auto length = static_cast<std::uint32_t>(left);
-        return WireRead<*Of>::unmarshal_nested(h, ctx_id, buffer, field, length, reuse, err);
+    static std::uint32_t marshal(auto... arguments) { return WireWrite<*Of>::marshal(arguments...); }
+    static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *field,
+                                   std::int32_t left, std::uint32_t reuse, std::uint32_t *err) {
+        return WireRead<*Of>::unmarshal(h, ctx_id, buffer, field, static_cast<std::uint32_t>(left), reuse, err);
     }
     static std::uint32_t print(auto... arguments) { return Text<*Of>::print(arguments...); }
     static std::uint32_t to_xml(auto... arguments) { return XmlWrite<*Of>::to_xml(arguments...); }

@@ -1,42 +1,48 @@
-// Initializing a record together with all records in it, in the archive: on a handle that has no observer and tracks
-// nothing, an object needs its header and its counts and nothing else.
+// The archive's initialization of trees: one store of each header, at a constant offset.
 #pragma once
 
-#include "core/object_header.h"
-#include "kinds/kinds.h"
+#include "families/shortcuts/batch.h"
 
 namespace tarn::shortcut {
 
-inline bool is_unobserved(const mirk_handle *h, const std::uint32_t *err) {
-    return *err == 0 && !is_observed(h) && !tracks(h);
-}
+// Fresh memory is zeroed; any other keeps what initialization does not set.
+enum class Memory { fresh, any };
 
-[[gnu::noinline, gnu::flatten]] inline void initialize_one(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                           mirk_type_info *type, std::uint8_t flags,
-                                                           std::uint32_t *err) {
-    mirk_clear_last_error(h);
-    const std::int8_t variant = set_header(h, ctx_id, object, type, false, flags, err);
-    count_created(h, ctx_id, object, variant, false);
-    *err = 0;
-}
-
-template <const Record &R>
-[[gnu::always_inline]] inline void initialize_tree(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                   std::uint8_t flags, void *sttr_base, std::uint32_t *err) {
-    initialize_one(h, ctx_id, object, &TypeInfo<R>::own, flags, err);
-    if constexpr (any_member<R>(schema::is_embedded)) {
-        StepErrors errors(h, err);
-        walk<R>(cases{
-            [&]<RecordMember F>(F) {
-                initialize_tree<*F::of>(h, ctx_id, F::at(object), flag::nested, sttr_base, errors.next());
-            },
-            [&]<EmbeddedMember F>(F) {
-                Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), 0, 0, flag::nested, sttr_base,
-                                         errors.next());
-            },
-            nothing,
-        });
+template <Memory memory>
+[[gnu::always_inline]] inline void put_header(mirk_object *object, mirk_type_info *type, std::uint8_t flags) {
+    object->tinfo = type;
+    if constexpr (memory == Memory::fresh) {
+        object->obj_flag = flags;
+    } else {
+        object->variant = object->home_variant = 0;
+        object->obj_flag |= flags;
     }
+}
+
+template <const Record &R, Memory memory>
+[[gnu::always_inline]] inline void put_headers(mirk_object *object, const Types &types, std::uint8_t flags) {
+    put_header<memory>(object, types[number_of(R)], flags);
+    walk<R>(cases{
+        [&]<RecordMember F>(F) TARN_INLINE { put_headers<*F::of, memory>(F::at(object), types, flag::nested); },
+        [&]<EmbeddedMember F>(F) TARN_INLINE {
+            auto *header = reinterpret_cast<mirk_object *>(F::at(object));
+            put_header<memory>(header, types[number_of(F::member)], flag::nested);
+        },
+        nothing,
+    });
+}
+
+// False: the shortcut does not apply, and nothing was changed.
+template <const Record &R>
+[[gnu::always_inline]] inline bool initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                              std::uint8_t flags, const std::uint32_t *err) {
+    Types types;
+    if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
+    h->last_error = 0;
+    put_headers<R, Memory::any>(object, types, flags);
+    count_tree<made<R>, count_created>(types);
+    mirk_inside_count_lookups(h, n_made<R>);
+    return true;
 }
 
 }  // namespace tarn::shortcut

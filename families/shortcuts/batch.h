@@ -1,0 +1,123 @@
+// What the archive's operations on whole trees share. They apply to handles without an observer: the calls that the
+// general way makes for each object are invisible there, except for the counters that they change.
+//
+// Each operation first checks all headers of a tree, and takes one branch: a usual tree is processed in one piece; any
+// other is left untouched for the general way.
+#pragma once
+
+#include <sys/single_threaded.h>
+
+#include <bit>
+
+#include "core/object_header.h"
+#include "families/shortcuts/shape.h"
+
+extern "C" {
+bool mirk_inside_is_unobserved(const mirk_handle *h);
+void mirk_inside_count_lookups(mirk_handle *h, std::uint64_t n);
+mirk_type_info *mirk_inside_known_type(mirk_handle *h, std::uint32_t ctx_id, mirk_type_info *type);
+}
+
+namespace tarn::shortcut {
+
+// The type records that objects on a handle point to, by number.
+class Types {
+public:
+    // False: one of these types has no private copy yet. The general way makes it.
+    template <const Counts &counts>
+    [[gnu::always_inline]] bool bind(mirk_handle *h, std::uint32_t ctx_id) {
+        return h->private_types == 0 || bind_private<counts>(h, ctx_id);
+    }
+    mirk_type_info *operator[](std::size_t number) const { return records_[number]; }
+
+private:
+    template <const Counts &counts>
+    [[gnu::noinline]] bool bind_private(mirk_handle *h, std::uint32_t ctx_id) {
+        records_ = private_.data();
+        return each_type<counts>([&](std::size_t number, std::uint32_t) {
+            private_[number] = mirk_inside_known_type(h, ctx_id, own_types[number]);
+            return private_[number] != nullptr;
+        });
+    }
+
+    mirk_type_info *const *records_ = own_types.data();
+    std::array<mirk_type_info *, n_types> private_;
+};
+
+// An atomic addition costs about twenty plain ones, and a process with one thread needs none.
+inline void add_to(std::uint64_t &counter, std::uint64_t n, const mirk_type_info *type) {
+    if (type->plain_counters != 0 || __libc_single_threaded) {
+        counter += n;
+    } else {
+        __atomic_fetch_add(&counter, n, __ATOMIC_SEQ_CST);
+    }
+}
+
+// The counters to change for n objects. The general way traces a damaged number of variants once per object.
+inline mirk_variant_entry &entry_for(const mirk_type_info *type, std::uint64_t n) {
+    const mirk_variant_info &info = variant_info(type);
+    for (std::uint64_t i = 0; i < n && info.n_variants < 0; ++i) check_variant_count(info, 0);
+    return info.entries[0];
+}
+[[gnu::noinline]] inline void count_created(const mirk_type_info *type, std::uint64_t n) {
+    mirk_variant_entry &entry = entry_for(type, n);
+    add_to(entry.num_created, n, type);
+    add_to(entry.num_live, n, type);
+}
+[[gnu::noinline]] inline void count_destroyed(const mirk_type_info *type, std::uint64_t n) {
+    check_type(type);
+    mirk_variant_entry &entry = entry_for(type, n);
+    add_to(entry.num_destroyed, n, type);
+    add_to(entry.num_live, std::uint64_t{0} - n, type);
+}
+
+// An operation on a tree with arrays: counts the objects, and updates the counters at its end.
+struct Batch {
+    mirk_handle *h;
+    std::uint32_t ctx_id;
+    Types types{};
+    Counts counts{};
+    std::uint64_t lookups = 0;
+
+    // Adds n trees.
+    template <const Counts &tree>
+    [[gnu::always_inline]] void add(std::uint32_t n) {
+        each_type<tree>([&](std::size_t number, std::uint32_t uses) {
+            counts[number] += n * uses;
+            return true;
+        });
+    }
+    template <const Counts &possible, void (*count)(const mirk_type_info *, std::uint64_t)>
+    [[gnu::always_inline]] void finish() {
+        each_type<possible>([&](std::size_t number, std::uint32_t) {
+            if (counts[number] != 0) count(types[number], counts[number]);
+            return true;
+        });
+        if (lookups != 0) mirk_inside_count_lookups(h, lookups);
+    }
+};
+
+// Updates the counters for one tree without arrays.
+template <const Counts &tree, void (*count)(const mirk_type_info *, std::uint64_t)>
+[[gnu::always_inline]] inline void count_tree(const Types &types) {
+    each_type<tree>([&](std::size_t number, std::uint32_t uses) {
+        count(types[number], uses);
+        return true;
+    });
+}
+
+// The header of an object, apart from its type: variant, home variant and flags.
+inline std::uint32_t header_bits(const void *object) {
+    std::uint32_t bits;
+    std::memcpy(&bits, static_cast<const std::uint8_t *>(object) + offsetof(mirk_object, variant), sizeof bits);
+    return bits;
+}
+// The bits of it that are 0 in a usual object: the variant and the given flags.
+consteval std::uint32_t unusual_bits(std::uint8_t flags) {
+    std::array<std::uint8_t, 4> bytes{};
+    bytes[offsetof(mirk_object, variant) - offsetof(mirk_object, variant)] = 0xff;
+    bytes[offsetof(mirk_object, obj_flag) - offsetof(mirk_object, variant)] = flags;
+    return std::bit_cast<std::uint32_t>(bytes);
+}
+
+}  // namespace tarn::shortcut
