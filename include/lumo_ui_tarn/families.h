@@ -2,7 +2,10 @@
  * families.h - how the operations of all records, enumerations and messages behave.
  *
  * This header declares nothing. The other headers list names of the form TYPE_OPERATION or TYPE_MEMBER_OPERATION. An
- * operation behaves the same for every type. In this text T is a record, M a member, E an enumeration, N a message.
+ * operation behaves the same for every type.
+ *
+ * In this text T is a record, M a member, E an enumeration, N a message, and names are shortened: M_get is T_M_get,
+ * N_marshal is N_message_marshal, N_get is N_message_T_get with the payload for T.
  *
  *
  * Terms
@@ -31,8 +34,9 @@
  * - `err` is the error slot: 0 or a number from errno.h. Calls are no-ops that return 0 or NULL once it is set; check
  *   it once at the end of a sequence. These act regardless: T_set, T_post_copyout_cleanup, T_offset_update,
  *   T_offset_remove.
- * - A call that starts with `err` 0 clears the handle's last_error. These do not: T_set, T_get, T_len,
- *   T_adjust_variant, destroy operations, and the operations of state bytes, references and message payloads.
+ * - A call that starts with `err` 0 clears the handle's last_error. These do not: T_set, T_get, E_get, T_len,
+ *   T_adjust_variant, destroy operations, and the operations of state bytes, references and message payloads. Nor do
+ *   unmarshal, print and to_xml of control messages.
  *
  * An error inside a bundle: clear `err`, then marshal the abort. A commit called with `err` set does nothing, so the
  * bundle stays open, and the next start fails with EEXIST.
@@ -42,7 +46,7 @@
  * An _unsafe form, of messages only, is another name of the explicit form.
  *
  * Errors:
- * - ENOENT: no such index or element; no bundle is open; the open bundle does not admit the message
+ * - ENOENT: no such index, element or object; no bundle is open; the open bundle does not admit the message
  * - ENOMEM: allocation failed; a buffer ends exactly where a record begins
  * - EEXIST: a bundle is already open
  * - EINVAL: there are no state bytes; a pointer is NULL; a number in XML is invalid; a string's destination has size 0

@@ -170,7 +170,7 @@ Every buffer for a frame, of a record or of a message, has one guard byte after 
     return out + R"mdoc(.Sh ERRORS
 .Bl -tag -width Er
 .It Bq Er ENOENT
-There is no such index or element, no bundle is open, or the open bundle does not admit the message.
+There is no such index, element or object, no bundle is open, or the open bundle does not admit the message.
 .It Bq Er ENOMEM
 Allocation failed, or a buffer ends exactly where a record begins.
 .It Bq Er EEXIST
