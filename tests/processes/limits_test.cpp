@@ -203,6 +203,21 @@ TEST_F(Limit, LargeAnswersAreRefused) {
     EXPECT_NE(answer.err.find("the answer is longer than --answer-limit"), std::string::npos) << answer.err;
 }
 
+TEST(SnapshotLimit, IsReportedByItsName) {
+    const Directory directory;
+    std::string messages;
+    for (int i = 0; i < 100; ++i) messages += debug_xml;
+    const std::string served = "cl-debug=" + directory.write("debug.xml", messages);
+    const Outcome outcome = tarn({"answer", "--socket", directory.path("socket"), "--snapshot-limit", "16KiB", served});
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_NE(outcome.err.find("/debug.xml: the messages to serve need more memory than --snapshot-limit, 16384 bytes"),
+              std::string::npos)
+        << outcome.err;
+    const Server server({"--snapshot-limit", "1MiB", served});
+    EXPECT_TRUE(server.is_ready());
+    EXPECT_EQ(server.show("cl-debug").exit, 0);
+}
+
 // The test plays a server that does not answer in time.
 class NoAnswer : public testing::Test {
 protected:
@@ -237,9 +252,9 @@ TEST(Limits, InvalidValuesAreUsageErrors) {
     const Directory directory;
     const std::string snapshot = "cl-debug=" + directory.write("debug.xml", debug_xml);
     const std::vector<std::vector<std::string>> wrong = {
-        {"--frame-limit", "12"}, {"--frame-limit", "4GiB"},  {"--frame-limit", "-1"}, {"--unread", "much"},
-        {"--unread-total", "0"}, {"--frame-time", "-1"},     {"--idle", "1e9"},       {"--answer-time", "soon"},
-        {"--peers", "0"},        {"--peers", "99999999999"},
+        {"--frame-limit", "12"}, {"--frame-limit", "4GiB"},  {"--frame-limit", "-1"},   {"--unread", "much"},
+        {"--unread-total", "0"}, {"--frame-time", "-1"},     {"--idle", "1e9"},         {"--answer-time", "soon"},
+        {"--peers", "0"},        {"--peers", "99999999999"}, {"--snapshot-limit", "1"},
     };
     for (const std::vector<std::string> &flag : wrong) {
         const Outcome outcome =

@@ -15,6 +15,7 @@ namespace {
 
 struct AnswerOptions : ServerOptions {
     std::vector<std::string> served;
+    std::uint64_t snapshot_limit = 1 << 30;
     bool lenient = false;
 };
 
@@ -60,6 +61,8 @@ void add_answer(CLI::App &app, Context &) {
     add_size(*command, "--unread", options->unread, "Most unread bytes for one peer", 1 << 10);
     add_size(*command, "--unread-total", options->unread_total,
              "Most unread bytes for all peers; the peer with the most is disconnected", 1 << 10);
+    add_size(*command, "--snapshot-limit", options->snapshot_limit,
+             "Most memory for the messages to serve, with and without state each", 1 << 10);
     add_lenient(*command, options->lenient);
     command->add_flag("-v,--verbose", options->verbose, "Log connections and requests, and print all trace lines");
     command->add_option("--fault", options->fault, "Send a deliberately broken answer, to test the requesting side")
@@ -77,7 +80,7 @@ void add_answer(CLI::App &app, Context &) {
         "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
     command->callback([options] {
         set_up_trace(options->verbose);
-        Answerer answerer;
+        Answerer answerer(options->snapshot_limit);
         load(answerer, *options);
         Server server(*options, answerer);
         server.open();

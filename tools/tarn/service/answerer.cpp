@@ -64,12 +64,21 @@ void corrupt(Bytes &frames, Fault fault) {
 
 }  // namespace
 
+std::vector<Item> Answerer::read(const Handles &handles, const std::string &content, const std::string &path,
+                                 bool lenient) try {
+    return items_of(handles, content, path, lenient);
+} catch (const Failure &) {
+    if (!handles.reached_memory_limit()) throw;
+    throw Failure(Exit::environment, path + ": the messages to serve need more memory than --snapshot-limit, " +
+                                         std::to_string(snapshot_limit_) + " bytes");
+}
+
 void Answerer::add(const reflect::BundleOperations &bundle, const std::string &path, bool lenient) {
     Snapshot snapshot;
     const std::string content = read_file(path);
     for (const Handles *handles : {&plain_, &tracked_}) {
         std::vector<Item> &items = handles == &tracked_ ? snapshot.tracked : snapshot.plain;
-        items = items_of(*handles, content, shown_path(path), lenient);
+        items = read(*handles, content, shown_path(path), lenient);
         std::erase_if(items, [](const Item &item) { return item.identity.is_control(); });
         for (const Item &item : items) {
             if (admits(bundle, *item.identity.operations)) continue;

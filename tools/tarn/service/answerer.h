@@ -14,7 +14,11 @@ enum class Fault : std::uint8_t { none, abort, second_start, foreign, cut, unkno
 
 class Answerer {
 public:
-    // Reads the messages of a bundle from a file. Throws a Failure if the bundle does not admit one of them.
+    // The limit, in bytes, holds for all messages without state together, and for all with state.
+    explicit Answerer(std::uint64_t snapshot_limit) : snapshot_limit_(snapshot_limit) {}
+
+    // Reads the messages of a bundle from a file. Throws a Failure if the bundle does not admit one of them, or if the
+    // limit is exceeded.
     void add(const reflect::BundleOperations &bundle, const std::string &path, bool lenient);
 
     bool has(const reflect::BundleOperations &bundle) const { return snapshots_.count(&bundle) != 0; }
@@ -28,7 +32,10 @@ private:
         std::vector<Item> plain, tracked;
     };
 
-    Handles plain_{Tracking::off}, tracked_{Tracking::on};
+    std::vector<Item> read(const Handles &handles, const std::string &content, const std::string &path, bool lenient);
+
+    std::uint64_t snapshot_limit_;
+    Handles plain_{Tracking::off, snapshot_limit_}, tracked_{Tracking::on, snapshot_limit_};
     std::map<const reflect::BundleOperations *, Snapshot> snapshots_;
 };
 

@@ -4,10 +4,11 @@
 
 namespace tarn::tool {
 
-Handle::Handle(bool tracked) : tracked_(tracked) {
+Handle::Handle(bool tracked, std::uint64_t memory_limit) : tracked_(tracked) {
     mirk_platform_handle_options options;
     mirk_platform_handle_options_init(&options);
     options.tracking = tracked ? MIRK_PLATFORM_TRACKING_ON : MIRK_PLATFORM_TRACKING_NONE;
+    if (memory_limit != 0) options.request_ceiling = options.total_ceiling = memory_limit;
     handle_ = mirk_platform_handle_open(&options);
     if (handle_ == nullptr) throw Failure(Exit::environment, "out of memory for a handle");
 }

@@ -17,13 +17,15 @@ inline constexpr std::uint32_t context_id = 1;
 
 class Handle {
 public:
-    explicit Handle(bool tracked);
+    // `memory_limit` is in bytes; 0 means the defaults of the runtime.
+    explicit Handle(bool tracked, std::uint64_t memory_limit = 0);
     Handle(const Handle &) = delete;
     Handle &operator=(const Handle &) = delete;
     ~Handle() { mirk_platform_handle_close(handle_); }
 
     mirk_handle *get() const { return handle_; }
     bool tracked() const { return tracked_; }
+    bool reached_memory_limit() const { return mirk_platform_ceiling_refusals(handle_) != 0; }
 
 private:
     mirk_handle *handle_;
@@ -36,7 +38,10 @@ enum class Tracking : std::uint8_t { as_input, off, on };
 // A handle with and one without tracking, since an object belongs to the handle that created it.
 class Handles {
 public:
-    explicit Handles(Tracking tracking) : tracking_(tracking) {}
+    explicit Handles(Tracking tracking, std::uint64_t memory_limit = 0)
+        : tracking_(tracking), plain_(false, memory_limit), tracked_(true, memory_limit) {}
+
+    bool reached_memory_limit() const { return plain_.reached_memory_limit() || tracked_.reached_memory_limit(); }
 
     const Handle &choose(bool input_tracked) const {
         const bool tracked = tracking_ == Tracking::as_input ? input_tracked : tracking_ == Tracking::on;
@@ -45,7 +50,7 @@ public:
 
 private:
     Tracking tracking_;
-    Handle plain_{false}, tracked_{true};
+    Handle plain_, tracked_;
 };
 
 // A plain message with its payload. The handle must outlive it.
