@@ -51,7 +51,7 @@ const std::string prefix_path = "/lumo_tarn_pal_mp_prefix_msg/lumo_tarn_pal_mp_p
 INSTANTIATE_TEST_SUITE_P(
     Checking, XmlMistake,
     testing::Values(
-        Mistake{"misspelt_member", debug("<info_enabeld>1</info_enabeld>"),
+        Mistake{"misspelled_member", debug("<info_enabeld>1</info_enabeld>"),
                 "3: " + path + ": lumo_tarn_debug_setting has no member \"info_enabeld\"; did you mean info_enabled?"},
         Mistake{"value_too_wide", debug("<info_enabled>4294967296</info_enabled>"),
                 "3: " + path + "/info_enabled: \"4294967296\" is not a number from 0 to 4294967295", false},
@@ -149,7 +149,7 @@ std::string prefix_json(const std::string &element) {
 INSTANTIATE_TEST_SUITE_P(
     Checking, JsonMistakes,
     testing::Values(
-        JsonMistake{"misspelt", debug_json(R"({"info_enable": 1})"),
+        JsonMistake{"misspelled", debug_json(R"({"info_enable": 1})"),
                     "payload: lumo_tarn_debug_setting has no member \"info_enable\"; did you mean info_enabled?"},
         JsonMistake{"too_wide", debug_json(R"({"info_enabled": 4294967296})"),
                     "payload/info_enabled: 4294967296 is not a number from 0 to 4294967295"},

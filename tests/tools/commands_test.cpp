@@ -190,6 +190,15 @@ TEST(Schema, ListsEverythingAndDescribesARecord) {
     }
 }
 
+// A record comes before a bundle or message of the same short name.
+TEST(Schema, TakesEveryTypeByItsShortName) {
+    const auto shown = [](const std::string &name) { return tarn({"schema", short_name(name)}).out; };
+    for (const auto &record : reference::records()) EXPECT_EQ(shown(record.name).find(record.name + ": "), 0U);
+    for (const auto &e : reference::enumerations()) EXPECT_EQ(shown(e.name).find(e.name + ": "), 0U);
+    EXPECT_EQ(shown("lumo_tarn_dp_tt_cfg_rsp").find("lumo_tarn_dp_tt_table_data: "), 0U);
+    EXPECT_EQ(shown("lumo_tarn_dp_tt_msg").find("lumo_tarn_dp_tt_table_data: "), 0U);
+}
+
 TEST(Schema, DrawsTreesAndGraphs) {
     const Outcome tree = tarn({"schema", "dp-tt-cfg", "--tree"});
     EXPECT_NE(tree.out.find("\n      tc_list  lumo_tarn_dp_tc[]\n"), std::string::npos) << tree.out.substr(0, 2000);

@@ -69,8 +69,10 @@ inline std::string request(const std::string &name, char options = 0) {
     return bytes;
 }
 
-inline std::string short_name(const std::string &bundle) {
-    std::string text = bundle.substr(10, bundle.size() - 14);
+// Without the prefix "lumo_tarn_" and, if it has one, the suffix "_rsp" or "_msg".
+inline std::string short_name(const std::string &name) {
+    std::string text = name.substr(10);
+    if (text.ends_with("_rsp") || text.ends_with("_msg")) text.resize(text.size() - 4);
     for (char &c : text) c = c == '_' ? '-' : c;
     return text;
 }

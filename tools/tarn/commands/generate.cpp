@@ -137,10 +137,11 @@ void add_generate(CLI::App &app, Context &) {
     CLI::App *command = app.add_subcommand("generate", "Generate a message with random, plausible values");
     command->add_option("type", options->type, "Bundle or message")->type_name(words::bundle_or_message)->required();
     command->add_option("--seed", options->seed, "Seed; the same seed gives the same message")->capture_default_str();
-    CLI::Option *elements =
-        command->add_option("--elements", options->elements, "Number of elements of the outer lists")
-            ->check(CLI::Range(0U, 1000000U).description(""))
-            ->capture_default_str();
+    CLI::Option *elements = command
+                                ->add_option("--elements", options->elements,
+                                             "Approximate number of elements in each list; nested lists have fewer")
+                                ->check(CLI::Range(0U, 1000000U).description(""))
+                                ->capture_default_str();
     add_size(*command, "--size", options->size, "Lengthen the lists until the frame has at least this size", 1,
              1U << 28)
         ->excludes(elements);

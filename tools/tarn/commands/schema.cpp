@@ -231,8 +231,10 @@ void add_schema(CLI::App &app, Context &) {
     form->add_flag("--html", options->html, "HTML page of the whole schema, with a drawing of its nesting");
     form->require_option(0, 1);
     command->footer(
-        "Sizes on the wire are in bytes, without per-field state; a + means that arrays\n"
-        "and strings add to them.\n\n"
+        "Offset and size locate a member within an instance in memory. Its slot is the\n"
+        "index of its byte in the state area, which follows the base size. Sizes on the\n"
+        "wire exclude per-field state; a + means that arrays and strings add to them. All\n"
+        "sizes are in bytes.\n\n"
         "Examples:\n"
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"
