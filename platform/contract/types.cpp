@@ -117,7 +117,7 @@ mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_typ
 }
 
 // For a library that is compiled as one program with this runtime: the private copy of a type, or null if there is none
-// yet. No hook hears of the look-up.
+// yet. No hook is called for the look-up.
 mirk_type_info *mirk_inside_known_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
     if (h->type_store_get != type_store_get) return nullptr;
     const Handle::RecentType &recent = recent_type(*own(h), type);
