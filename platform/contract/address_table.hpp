@@ -14,9 +14,9 @@ namespace mirk {
 
 inline uintptr_t address_of(const void *p) { return reinterpret_cast<uintptr_t>(p); }
 
-// Open addressing with linear probing; key 0 marks a free cell and must not be inserted. The hash spreads runs of 64
-// keys that are `Unit` apart and keeps each run contiguous, since neighboring blocks are often used together.
-template <typename Value, size_t Unit = 1>
+// Open addressing with linear probing; key 0 marks a free cell and must not be inserted. The hash spreads runs of keys
+// that are `Unit` apart and keeps each run contiguous, since neighboring blocks are often used together.
+template <typename Value, size_t Unit = 1, size_t RunLength = 64>
 class AddressMap {
     static_assert(std::is_trivially_copyable_v<Value>);
 
@@ -87,12 +87,10 @@ private:
         Value value;
     };
 
-    static constexpr size_t run_length = 64;
-
     size_t capacity() const { return cells_ == nullptr ? 0 : mask_ + 1; }
     size_t home(uintptr_t key) const {
-        const uint64_t unit = key / Unit, run = unit / run_length;
-        return (static_cast<size_t>((run * 0x9e3779b97f4a7c15u) >> shift_) + unit % run_length) & mask_;
+        const uint64_t unit = key / Unit, run = unit / RunLength;
+        return (static_cast<size_t>((run * 0x9e3779b97f4a7c15u) >> shift_) + unit % RunLength) & mask_;
     }
 
     bool grow() {

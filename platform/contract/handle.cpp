@@ -46,7 +46,7 @@ mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *chose
     if (chosen != nullptr) options = mirk::read_options(chosen, options);
     Handle *opened = nullptr;
     mirk::guarded([&]() -> mirk_platform_error {
-        auto handle = std::make_unique<Handle>();
+        auto handle = std::make_unique<Handle>(!mirk::memory_is_checked());
         handle->workspace = std::make_unique<char[]>(workspace_size + 1);
         handle->domain_text = options.domain_name != nullptr ? options.domain_name : "";
         handle->domain_name = handle->domain_text.c_str();
@@ -77,8 +77,6 @@ size_t mirk_platform_handle_close(mirk_handle *h) {
     bundle_receive_message_list_destroy(h, h->default_id, &err);
     bundle_send_message_list_destroy(h, h->default_id, &err);
     const size_t left = handle->blocks.size();
-    handle->blocks.for_each(
-        [](uintptr_t address, const mirk::Block &) { std::free(reinterpret_cast<void *>(address)); });
     for (void *block : handle->system_blocks) std::free(block);
     return left;
 }

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/contract/address_table.hpp"
+#include "platform/contract/blocks.hpp"
 #include "platform/contract/contract.hpp"
 
 namespace mirk {
@@ -79,13 +80,6 @@ struct OperationFailure {
     }
 };
 
-struct Block {
-    size_t size;
-    uint64_t serial;
-    uint32_t ctx_id;
-    bool has_offsets;  // entries for the state offsets of its objects are reserved
-};
-
 struct RaData {
     void *value;
     uint8_t byte;
@@ -121,13 +115,15 @@ struct DispatchEntry {
 };
 
 struct Handle : mirk_handle {
+    explicit Handle(bool use_cells) : mirk_handle{}, blocks(use_cells) {}
+
     mirk_sttr_desc descriptor{};
     std::string domain_text;
     bool lenient = false;
     bool suppress_messages = false;
     std::unique_ptr<char[]> workspace;
 
-    AddressMap<Block, 16> blocks;
+    Blocks blocks;
     uint64_t live_bytes = 0, blocks_made = 0, request_ceiling = 0, total_ceiling = 0, ceiling_refusals = 0;
     int fresh_fill = -1;
     std::vector<void *> system_blocks;  // released when the handle is closed
@@ -186,6 +182,7 @@ inline bool tracks(const mirk_handle *h) { return h->sttr_desc != nullptr && h->
 extern "C" int mirk_own_write_notify(void *mem_ctx, void *address, size_t size, uint32_t ctx_id);
 extern "C" int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint32_t ctx_id);
 void memory_callbacks(Handle &handle);
+bool memory_is_checked();                                 // by a memory checker, which should see every block
 void *allocate_until_close(Handle &handle, size_t size);  // zeroed; null if allocation fails
 
 // Programs may replace the notification callbacks of a handle. Our own callbacks only call the hook.

@@ -1,12 +1,16 @@
-// The memory callbacks of a handle, and mirklib_malloc(). A block comes from malloc without a header before it, so that
-// memory checkers see its real bounds; what the runtime records about it is in a separate table.
+// The memory callbacks of a handle, and mirklib_malloc().
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <mutex>
 
 #include "platform/contract/handle.hpp"
 
 using mirk::Handle;
 using mirk::own;
+
+// Defined in programs that run under the address sanitizer.
+extern "C" [[gnu::weak]] void __asan_init();
 
 namespace {
 
@@ -32,23 +36,18 @@ void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
         ++handle.ceiling_refusals;
         return nullptr;
     }
-    void *block = std::malloc(size == 0 ? 1 : size);
-    if (block == nullptr) return nullptr;
-    const mirk::Block known{size, handle.blocks_made + 1, ctx_id, has_offsets};
-    if (handle.blocks.put(mirk::address_of(block), known) == nullptr) {
-        std::free(block);
-        return nullptr;
-    }
+    const mirk::Blocks::Place place = handle.blocks.allocate(size);
+    if (place.address == nullptr) return nullptr;
+    *place.block = {handle.blocks_made + 1, size, ctx_id, has_offsets};
     // Recording the state offset of an object cannot report an allocation failure, so its entry is reserved here.
-    if (has_offsets && !handle.offsets.reserve(block, size)) {
-        handle.blocks.erase(mirk::address_of(block));
-        std::free(block);
+    if (has_offsets && !handle.offsets.reserve(place.address, size)) {
+        handle.blocks.release(place);
         return nullptr;
     }
     ++handle.blocks_made;
     handle.live_bytes += size;
-    if (handle.fresh_fill >= 0) std::memset(block, handle.fresh_fill, size);
-    return block;
+    if (handle.fresh_fill >= 0) std::memset(place.address, handle.fresh_fill, size);
+    return place.address;
 }
 
 extern "C" {
@@ -63,24 +62,22 @@ static void *obj_alloc(void *mem_ctx, uint32_t ctx_id, size_t size) {
 static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     auto &handle = *static_cast<Handle *>(mem_ctx);
     if (p == nullptr) return;
-    const mirk::Block *known = handle.blocks.find(mirk::address_of(p));
-    if (known == nullptr) {
+    const mirk::Blocks::Place place = handle.blocks.find(p);
+    if (place.block == nullptr) [[unlikely]] {
         // The plain destroy of a control message passes its sentinel, which is not a block.
         handle.event(MIRK_PLATFORM_TESTING_FREE, p, 0, 0, ctx_id);
         skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): obj_free of an address that is no live block: %p", p);
         return;
     }
-    const size_t size = known->size;
-    const bool has_offsets = known->has_offsets;
+    const size_t size = place.block->size;
     handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
     // A later object at the same address must not inherit these entries.
     handle.offsets.erase_block(p, size);
-    if (has_offsets) handle.offsets.unreserve(p, size);
+    if (place.block->has_offsets) handle.offsets.unreserve(p, size);
     handle.ra_data.erase_block(p, size);
     handle.references.erase_block(p, size);
     handle.live_bytes -= size;
-    handle.blocks.erase(mirk::address_of(p));
-    std::free(p);
+    handle.blocks.release(place);
 }
 
 static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
@@ -95,6 +92,11 @@ static void *sys_alloc(void *sys_ctx, uint32_t id, size_t size) {
 }  // namespace
 
 namespace mirk {
+
+bool memory_is_checked() {
+    const char *const preloaded = std::getenv("LD_PRELOAD");
+    return __asan_init != nullptr || (preloaded != nullptr && std::strstr(preloaded, "vgpreload_memcheck") != nullptr);
+}
 
 void memory_callbacks(Handle &handle) {
     handle.sys_alloc = sys_alloc;
@@ -168,8 +170,8 @@ size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform_block *blocks, si
     mirk::guarded([&]() -> mirk_platform_error {
         std::vector<mirk_platform_block> all;
         all.reserve(own(h)->blocks.size());
-        own(h)->blocks.for_each([&](uintptr_t address, const mirk::Block &known) {
-            all.push_back({reinterpret_cast<void *>(address), known.size, known.ctx_id, known.serial});
+        own(h)->blocks.for_each([&](void *address, const mirk::Block &block) {
+            all.push_back({address, block.size, block.ctx_id, block.serial});
         });
         std::sort(all.begin(), all.end(), [](const auto &a, const auto &b) { return a.serial < b.serial; });
         std::copy_n(all.begin(), std::min(capacity, all.size()), blocks);

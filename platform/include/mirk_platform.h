@@ -75,8 +75,8 @@ typedef struct mirk_platform_handle_options {
      * offsets. A request counts as many stretches as a block of its size can touch.
      *
      * Memory outside obj_alloc does not count: what the C library adds to a block, and what the runtime keeps for
-     * types, documents and bundles. Neither do the tables that find blocks and offsets: up to 128 bytes per block and
-     * 64 per stretch. */
+     * types, documents and bundles. Neither do the rest of the cells and slabs that hold small blocks, nor the tables
+     * that find blocks and offsets: up to 128 bytes per block and 64 per stretch. */
     uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< gets committed bundles; may be null, the default */

@@ -1,0 +1,251 @@
+// The blocks of obj_alloc. Small ones are cells of slabs, with their records in the slab but apart from the cells, so
+// that writing past the end of a block does not damage them. Larger ones come from malloc and have their records in a
+// table.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <utility>
+
+#include "platform/contract/address_table.hpp"
+
+namespace mirk {
+
+// What the runtime records about a block.
+struct Block {
+    uint64_t serial;  // 0: the block is not live
+    size_t size;
+    uint32_t ctx_id;
+    bool has_offsets;  // room for the state offsets of objects in it is reserved
+};
+
+class Blocks {
+    struct Slab;
+
+public:
+    static constexpr size_t largest_cell = 1024;
+
+    // Without cells every block comes from malloc.
+    explicit Blocks(bool use_cells) : cells_below_(use_cells ? largest_cell + 1 : 0) {}
+    Blocks(const Blocks &) = delete;
+    Blocks &operator=(const Blocks &) = delete;
+    ~Blocks() {
+        large_.for_each([](uintptr_t address, const Block &) { std::free(reinterpret_cast<void *>(address)); });
+        for_each_slab([](Slab *slab) { std::free(slab); });
+    }
+
+    size_t size() const { return live_; }
+
+    struct Place {
+        void *address;  // null: allocation failed
+        Block *block;   // null: there is no live block at the address
+        Slab *slab;     // null: the block is not a cell
+    };
+
+    // The caller fills in the record at once. Its serial must not be 0.
+    [[gnu::always_inline]] Place allocate(size_t size) {
+        const Place place = size < cells_below_ ? allocate_cell(size) : allocate_large(size);
+        if (place.address != nullptr) ++live_;
+        return place;
+    }
+
+    [[gnu::always_inline]] Place find(void *address) const {
+        Slab **const slab = slabs_.find(page_of(address));
+        if (slab != nullptr) return {address, (*slab)->find(address), *slab};
+        return {address, large_.find(address_of(address)), nullptr};
+    }
+
+    [[gnu::always_inline]] void release(const Place &place) {
+        --live_;
+        if (place.slab != nullptr) {
+            release_cell(place.block, place.slab);
+        } else {
+            large_.erase(address_of(place.address));
+            std::free(place.address);
+        }
+    }
+
+    template <typename Visit>
+    void for_each(Visit visit) const {
+        large_.for_each(
+            [&](uintptr_t address, const Block &block) { visit(reinterpret_cast<void *>(address), block); });
+        for_each_slab([&](Slab *slab) { slab->for_each(visit); });
+    }
+
+private:
+    static constexpr size_t unit = 16;  // the alignment of malloc
+    static constexpr size_t page_size = 4096;
+    static constexpr size_t slab_size = 4 * page_size;
+    static constexpr size_t most_spare = 4;
+
+    static constexpr std::array<uint32_t, 20> cell_sizes{16,  32,  48,  64,  80,  96,  112, 128, 160, 192,
+                                                         224, 256, 320, 384, 448, 512, 640, 768, 896, largest_cell};
+    static constexpr auto class_of_units = [] {
+        std::array<uint8_t, largest_cell / unit + 1> classes{};
+        uint8_t size_class = 0;
+        for (size_t units = 0; units < classes.size(); ++units) {
+            if (units * unit > cell_sizes[size_class]) ++size_class;
+            classes[units] = size_class;
+        }
+        return classes;
+    }();
+
+    struct Slab {
+        Slab *next, *previous;  // of the same class, with free cells; a spare slab has a next one only
+        Block *free;            // free cells form a list: the size in a free record is the address of the next
+        uint32_t used;          // cells that were live at least once; the others are free, too
+        uint32_t live;
+        uint32_t size_class, cell_size, cell_count;
+        uint32_t reciprocal;  // 2^32 / cell_size, rounded up, which is exact for all offsets in a slab
+        char *cells;
+
+        void start(uint32_t new_class) {
+            size_class = new_class;
+            cell_size = cell_sizes[size_class];
+            cell_count = static_cast<uint32_t>((slab_size - sizeof(Slab)) / (cell_size + sizeof(Block)));
+            reciprocal = static_cast<uint32_t>((uint64_t{1} << 32) / cell_size + 1);
+            cells = reinterpret_cast<char *>(this) + slab_size - cell_count * cell_size;
+            free = nullptr;
+            used = live = 0;
+        }
+
+        bool is_full() const { return live == cell_count; }
+        Block *blocks() { return reinterpret_cast<Block *>(this + 1); }
+
+        Place take() {
+            Block *const block = free != nullptr ? free : blocks() + used++;
+            if (block == free) free = reinterpret_cast<Block *>(block->size);
+            ++live;
+            return {cells + static_cast<size_t>(block - blocks()) * cell_size, block, this};
+        }
+
+        Block *find(const void *address) {
+            const uintptr_t offset = address_of(address) - address_of(cells);
+            const size_t index = offset * reciprocal >> 32;
+            // An address before the first cell has an offset that is too large.
+            if (offset >= slab_size || index * cell_size != offset || index >= used) return nullptr;
+            Block *const block = blocks() + index;
+            return block->serial != 0 ? block : nullptr;
+        }
+
+        void give_back(Block *block) {
+            block->serial = 0;
+            block->size = address_of(std::exchange(free, block));
+            --live;
+        }
+
+        template <typename Visit>
+        void for_each(Visit visit) {
+            for (size_t i = 0; i < used; ++i) {
+                if (blocks()[i].serial != 0) visit(cells + i * cell_size, blocks()[i]);
+            }
+        }
+    };
+
+    Place allocate_cell(size_t size) {
+        const uint32_t size_class = class_of_units[(size + unit - 1) / unit];
+        Slab *slab = partial_[size_class];
+        if (slab == nullptr) [[unlikely]] {
+            slab = start_slab(size_class);
+            if (slab == nullptr) return {};
+        }
+        const Place place = slab->take();
+        if (slab->is_full()) unlink(slab);
+        return place;
+    }
+
+    void release_cell(Block *block, Slab *slab) {
+        if (slab->is_full()) link(slab);
+        slab->give_back(block);
+        if (slab->live == 0) retire(slab);
+    }
+
+    [[gnu::noinline]] Place allocate_large(size_t size) {
+        void *const address = std::malloc(size == 0 ? 1 : size);
+        if (address == nullptr) return {};
+        Block *const block = large_.put(address_of(address), {});
+        if (block != nullptr) return {address, block, nullptr};
+        std::free(address);
+        return {};
+    }
+
+    // Null if allocation fails.
+    [[gnu::noinline]] Slab *start_slab(uint32_t size_class) {
+        Slab *slab = spare_;
+        if (slab != nullptr) {
+            spare_ = slab->next;
+            --spare_count_;
+        } else if (slab = make_slab(); slab == nullptr) {
+            return nullptr;
+        }
+        slab->start(size_class);
+        link(slab);
+        return slab;
+    }
+
+    // Some empty slabs are kept, for whatever class needs one next.
+    [[gnu::noinline]] void retire(Slab *slab) {
+        unlink(slab);
+        if (spare_count_ < most_spare) {
+            slab->next = std::exchange(spare_, slab);
+            ++spare_count_;
+        } else {
+            forget_pages(slab);
+            std::free(slab);
+        }
+    }
+
+    // Slabs begin at a page, and each of their pages is in the table.
+    Slab *make_slab() {
+        auto *const slab = static_cast<Slab *>(std::aligned_alloc(page_size, slab_size));
+        if (slab == nullptr) return nullptr;
+        for (uintptr_t page = address_of(slab); page != address_of(slab) + slab_size; page += page_size) {
+            if (slabs_.put(page, slab) == nullptr) {
+                forget_pages(slab);
+                std::free(slab);
+                return nullptr;
+            }
+        }
+        return slab;
+    }
+
+    void forget_pages(Slab *slab) {
+        for (uintptr_t page = address_of(slab); page != address_of(slab) + slab_size; page += page_size) {
+            slabs_.erase(page);
+        }
+    }
+
+    void link(Slab *slab) {
+        Slab *&first = partial_[slab->size_class];
+        slab->next = first;
+        slab->previous = nullptr;
+        if (first != nullptr) first->previous = slab;
+        first = slab;
+    }
+
+    void unlink(Slab *slab) {
+        (slab->previous != nullptr ? slab->previous->next : partial_[slab->size_class]) = slab->next;
+        if (slab->next != nullptr) slab->next->previous = slab->previous;
+    }
+
+    template <typename Visit>
+    void for_each_slab(Visit visit) const {
+        slabs_.for_each([&](uintptr_t page, Slab *slab) {
+            if (page == address_of(slab)) visit(slab);
+        });
+    }
+
+    static uintptr_t page_of(const void *address) { return address_of(address) / page_size * page_size; }
+
+    const size_t cells_below_;
+    size_t live_ = 0;
+    AddressMap<Block, unit> large_;
+    AddressMap<Slab *, page_size, 1> slabs_;  // by page
+    std::array<Slab *, cell_sizes.size()> partial_{};
+    Slab *spare_ = nullptr;
+    size_t spare_count_ = 0;
+};
+
+}  // namespace mirk
