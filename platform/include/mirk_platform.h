@@ -456,7 +456,8 @@ MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer,
                                                                 const void *bytes, size_t size);
 /** Disconnects a peer after sending what is queued for it; its further frames are ignored. Call it only from a
- * callback. `reason` goes to on_disconnect and the trace; null means "asked to leave". An unknown peer is ignored. */
+ * callback. `reason` goes to on_disconnect and the trace; null means "disconnected by the program". An unknown peer is
+ * ignored. */
 MIRK_PLATFORM_API void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform_peer peer,
                                                        const char *reason);
 /** Returns the number of connected peers. Call it only from a callback, or while the server does not run. */

@@ -405,7 +405,7 @@ void mirk_platform_server::add_connection(Socket socket) {
     const mirk_platform_peer peer = ++last_peer;
     if (connections.size() >= options.peer_limit) {
         const std::string reason = "there are " + std::to_string(connections.size()) + " peers already";
-        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): peer %llu is turned away: %s",
+        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): peer %llu is refused: %s",
                       static_cast<unsigned long long>(peer), reason.c_str());
         notify_refused(peer, reason.c_str());
         return;
@@ -437,7 +437,7 @@ void mirk_platform_server::accept_next() {
             return 0;
         });
         if (failed != 0) {
-            skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): cannot take on a peer: %s",
+            skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): cannot accept a peer: %s",
                           std::strerror(static_cast<int>(failed)));
         }
         accept_next();
@@ -541,7 +541,7 @@ void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform
         const auto found = server->connections.find(peer);
         if (found == server->connections.end()) return ENOTCONN;
         const auto connection = found->second;
-        connection->disconnect_when_sent(reason != nullptr ? reason : "asked to leave");
+        connection->disconnect_when_sent(reason != nullptr ? reason : "disconnected by the program");
         return 0;
     });
 }

@@ -179,7 +179,7 @@ TEST(Transport, RefusesPeersBeyondTheLimit) {
     EXPECT_EQ(first.next(), frame(43, 'a'));
     Client second(echo.path);
     EXPECT_EQ(second.next(), "ECONNRESET");
-    EXPECT_TRUE(trace.has(3, "turned away"));
+    EXPECT_TRUE(trace.has(3, "is refused: there are 1 peers already"));
 }
 
 TEST(Transport, DisconnectsIdlePeers) {
