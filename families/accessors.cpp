@@ -8,6 +8,7 @@
 #include "core/guard.h"
 #include "core/type_table.h"
 #include "families/assignment.h"
+#include "families/shortcuts/shortcuts.h"
 #include "kinds/kinds.h"
 
 namespace tarn {
@@ -109,6 +110,36 @@ template <class Value>
     // If the value is refused, the error stays in the slot, and the member still counts as written.
     PrimitiveOf<K, Of>::set_value(h, ctx_id, field, value, err);
     if (mark_written(h, ctx_id, object, location, err)) mark_modified(object, location.value_kind);
+}
+
+template <class F>
+[[gnu::always_inline]] inline auto Accessor<F>::get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                    std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (auto *member = shortcut::member_to_get<F>(h, object, err); member != nullptr) return member;
+    }
+    return OfKind::get(h, ctx_id, object, err, member_location<F>);
+}
+
+template <class F>
+[[gnu::always_inline]] inline auto Accessor<F>::get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                          std::uint32_t *err) {
+    using Value = decltype(OfKind::get_value(h, ctx_id, object, err, member_location<F>));
+    if constexpr (runtime_inside) {
+        if (auto *member = shortcut::member_to_get<F>(h, object, err); member != nullptr) {
+            return Value{shortcut::value_of(*member)};
+        }
+    }
+    return OfKind::get_value(h, ctx_id, object, err, member_location<F>);
+}
+
+template <class F>
+[[gnu::always_inline]] inline void Accessor<F>::set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                          auto value, std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (shortcut::set_value<F>(h, object, value, err)) return;
+    }
+    OfKind::set_value(h, ctx_id, object, value, err, member_location<F>);
 }
 
 std::uint8_t get_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,

@@ -35,18 +35,12 @@ template <class F>
 struct Accessor {
     using OfKind = KindAccessor<F::kind, F::of>;
 
-    static auto get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-        return OfKind::get(h, ctx_id, object, err, member_location<F>);
-    }
-    static auto get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err) {
-        return OfKind::get_value(h, ctx_id, object, err, member_location<F>);
-    }
+    static auto get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
+    static auto get_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err);
     static void set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, auto *source, std::uint32_t *err) {
         OfKind::set(h, ctx_id, object, source, err, member_location<F>);
     }
-    static void set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, auto value, std::uint32_t *err) {
-        OfKind::set_value(h, ctx_id, object, value, err, member_location<F>);
-    }
+    static void set_value(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, auto value, std::uint32_t *err);
 };
 
 std::uint8_t get_state_byte(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t *err,

@@ -11,6 +11,7 @@
 #include "families/copy.h"
 #include "families/lifecycle.h"
 #include "families/references.h"
+#include "families/shortcuts/shortcuts.h"
 #include "kinds/kinds.h"
 
 namespace tarn {
@@ -25,6 +26,8 @@ struct ElementShape {
     decltype(&Assignment<schema::lumo_tarn_debug_setting>::post_copyout_cleanup) post_copyout_cleanup;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_update) offset_update;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_remove) offset_remove;
+    decltype(&shortcut::initialize_elements<schema::lumo_tarn_debug_setting>)
+        initialize_elements;  // null in the shared library
 
     mirk_object *at(mirk_object *block, std::uint64_t index) const {
         return reinterpret_cast<mirk_object *>(bytes_of(block) + index * base);
@@ -35,10 +38,22 @@ struct ElementShape {
     }
 };
 template <const Record &R>
-constinit const ElementShape element_shape{
-    schema::layout<R>.base_size, schema::layout<R>.state_width,       TypeInfo<R>::own,
-    Lifecycle<R>::initialize,    Assignment<R>::post_copyout_cleanup, References<R>::offset_update,
-    References<R>::offset_remove};
+constexpr decltype(ElementShape::initialize_elements) initialize_elements = [] {
+    if constexpr (runtime_inside) {
+        return shortcut::initialize_elements<R>;
+    } else {
+        return nullptr;
+    }
+}();
+template <const Record &R>
+constinit const ElementShape element_shape{schema::layout<R>.base_size,
+                                           schema::layout<R>.state_width,
+                                           TypeInfo<R>::own,
+                                           Lifecycle<R>::initialize,
+                                           Assignment<R>::post_copyout_cleanup,
+                                           References<R>::offset_update,
+                                           References<R>::offset_remove,
+                                           initialize_elements<R>};
 
 template <class A>
 constexpr auto growth_text = named_text<A::owner>("(ERR): Reallocating resource for ", "");
@@ -99,6 +114,9 @@ void initialize_new_elements(const Call &call, mirk_object *block, std::uint32_t
             mirklib_update_sttr_offset(call.h, call.ctx_id, element,
                                        distance(element, address_of(shape.area(block, n, i))));
         }
+    }
+    if constexpr (runtime_inside) {
+        if (shape.initialize_elements(call.h, call.ctx_id, shape.at(block, from), n - from, call.err)) return;
     }
     StepErrors errors(call.h, call.err);
     for (std::uint64_t i = from; i < n; ++i) {
@@ -225,6 +243,10 @@ void set_all_states(const Call &call, mirk_object *object, std::uint32_t count, 
 template <class A>
 mirk_object *Array<A>::get(mirk_handle *h, std::uint32_t, mirk_object *object, std::uint32_t index,
                            std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        if (mirk_object *element = shortcut::element_to_get<A>(h, object, index, err); element != nullptr)
+            return element;
+    }
     if (!enter(h, err)) return nullptr;
     if (!require_body(h, object, 0, err)) return nullptr;
     if (index >= A::count(object)) {

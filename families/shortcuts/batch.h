@@ -97,11 +97,11 @@ struct Batch {
     }
 };
 
-// Updates the counters for one tree without arrays.
+// Updates the counters for n trees without arrays.
 template <const Counts &tree, void (*count)(const mirk_type_info *, std::uint64_t)>
-[[gnu::always_inline]] inline void count_tree(const Types &types) {
+[[gnu::always_inline]] inline void count_trees(const Types &types, std::uint64_t n) {
     each_type<tree>([&](std::size_t number, std::uint32_t uses) {
-        count(types[number], uses);
+        count(types[number], n * uses);
         return true;
     });
 }

@@ -73,7 +73,7 @@ template <const Record &R>
     if constexpr (is_closed(R)) {
         Types types;
         if (!types.bind<destroyed<R>>(h, ctx_id) || unusual_tree_at_end<R>(object, types) != 0) return false;
-        count_tree<destroyed<R>, count_destroyed>(types);
+        count_trees<destroyed<R>, count_destroyed>(types, 1);
     } else {
         Batch batch{h, ctx_id};
         if (!batch.types.bind<reached<R>>(h, ctx_id) || unusual_tree_at_end<R>(object, batch.types) != 0) return false;

@@ -40,8 +40,24 @@ template <const Record &R>
     if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
     h->last_error = 0;
     put_headers<R, Memory::any>(object, types, flags);
-    count_tree<made<R>, count_created>(types);
+    count_trees<made<R>, count_created>(types, 1);
     mirk_inside_count_lookups(h, n_made<R>);
+    return true;
+}
+
+// The same for n elements in fresh memory.
+template <const Record &R>
+bool initialize_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *first, std::uint64_t n,
+                         const std::uint32_t *err) {
+    Types types;
+    if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
+    h->last_error = 0;
+    for (std::uint64_t i = 0; i < n; ++i) {
+        mirk_object *element = element_at<R>(first, static_cast<std::uint32_t>(i));
+        put_headers<R, Memory::fresh>(element, types, flag::nested);
+    }
+    count_trees<made<R>, count_created>(types, n);
+    mirk_inside_count_lookups(h, n * n_made<R>);
     return true;
 }
 

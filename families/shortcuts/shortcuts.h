@@ -5,6 +5,7 @@
 // The shared library has none of them: each call is in `if constexpr (runtime_inside)`.
 #pragma once
 
+#include "families/shortcuts/access.h"
 #include "families/shortcuts/destroy.h"
 #include "families/shortcuts/initialize.h"
 #include "families/shortcuts/read_tree.h"

@@ -150,8 +150,9 @@ struct Handle : mirk_handle {
     std::array<OperationFailure, MIRK_PLATFORM_TESTING_OPERATIONS> operation_failures;
     mirk_platform_testing_hook hook = nullptr;
     void *hook_user = nullptr;
-    // Nothing is set on this handle that could see in which steps an operation does its work: no hook, no failure to
-    // inject, an empty domain, no address that holds references. Whoever changes one of these updates it.
+    // True if nothing is set on this handle that can see in which steps an operation works: no hook, no failure to
+    // inject, an empty domain, and no address that holds references. Each function that changes one of these calls
+    // update_unobserved.
     bool unobserved = true;
 
     void update_unobserved() {

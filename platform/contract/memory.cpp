@@ -137,7 +137,9 @@ int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint3
 // The rest is for a library that is compiled as one program with this runtime.
 bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_observed(h); }
 
-// Loads and compares everything, so that one branch decides.
+bool mirk_inside_is_unhooked(const mirk_handle *h) { return static_cast<const Handle *>(h)->unobserved; }
+
+// Loads and compares all conditions, so that one branch decides.
 bool mirk_inside_is_unobserved(const mirk_handle *h) {
     const auto &handle = *static_cast<const Handle *>(h);
     const bool own_notifications =
