@@ -30,7 +30,7 @@ template <const Record &R>
             }
         } else if (*in.err == 0) {
             put_headers<R, Memory::fresh>(element, batch.types, flag::nested);
-            in.offset += read_open<R>(batch, in.at(), element, static_cast<std::uint32_t>(in.left()), in.reuse, in.err);
+            in.pass(read_open<R>(batch, in.at(), element, static_cast<std::uint32_t>(in.left()), in.reuse, in.err));
             ++usual;
             continue;
         }
@@ -61,7 +61,7 @@ template <class First>
         });
     }
     if (unusual != 0) {
-        in.offset = read_segment_in_general<First>(in, object, in.old_count);
+        in.pass(read_segment_in_general<First>(in, object, in.old_count) - in.offset);
         return;
     }
     const std::uint8_t *from = in.at();
@@ -94,7 +94,7 @@ std::uint32_t read_open(Batch &batch, std::uint8_t *buffer, mirk_object *object,
         [&]<StringMember S>(S) TARN_INLINE { return in.string<S>(object); },
         [&]<OpenRecordMember F>(F) TARN_INLINE {
             const auto left = static_cast<std::uint32_t>(in.left());
-            in.offset += read_open<*F::of>(batch, in.at(), F::at(object), left, reuse, err);
+            in.pass(read_open<*F::of>(batch, in.at(), F::at(object), left, reuse, err));
             return true;
         },
         [&]<SingleMember F>(F) TARN_INLINE {
