@@ -7,6 +7,7 @@ find_package(Threads REQUIRED)
 add_library(tarn_static_library OBJECT EXCLUDE_FROM_ALL ${TARN_FAMILIES} core/manifest.S)
 add_dependencies(tarn_static_library tarn_exports)
 target_include_directories(tarn_static_library PRIVATE ${PROJECT_SOURCE_DIR} ${generated})
+target_compile_definitions(tarn_static_library PRIVATE TARN_RUNTIME_INSIDE)
 # Hidden symbols of the object become local, which is impossible for unique symbols.
 target_compile_options(tarn_static_library PRIVATE ${TARN_LIBRARY_OPTIONS} $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
 target_link_libraries(tarn_static_library PRIVATE mirk_contract tarn_schema)
@@ -21,7 +22,6 @@ target_link_libraries(tarn_static_runtime PRIVATE mirk_contract LibXml2::LibXml2
 # Only g++ can write machine code from here. With other compilers the archive is the same, but without the inlining.
 set(whole_program)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_BUILD_TYPE STREQUAL Release AND NOT TARN_SANITIZE AND NOT TARN_COVERAGE)
-  target_compile_definitions(tarn_static_library PRIVATE TARN_RUNTIME_INSIDE)
   target_compile_options(tarn_static_library PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-flto -fno-semantic-interposition>)
   target_compile_options(tarn_static_runtime PRIVATE -flto -fno-semantic-interposition)
   set(whole_program -flto -flto-partition=none -flinker-output=nolto-rel -O2 -fPIC -fno-gnu-unique -fno-semantic-interposition -fno-strict-aliasing)

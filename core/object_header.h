@@ -11,14 +11,17 @@ namespace tarn {
 // A sticky create after an error allocates nothing and returns the sentinel.
 inline bool create_is_off(const mirk_handle *h) { return h->cr_mode != 0 && h->last_error != 0; }
 
-// Zeroed storage for a new object. If allocation fails: null or, in a sticky create, the sentinel with ENOMEM in the
-// handle.
-[[gnu::noinline]] inline void *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, void *sentinel) {
-    void *storage = allocate(h, ctx_id, size);
-    if (storage != nullptr) return std::memset(storage, 0, size);
+// The result of a create whose allocation failed: null or, in a sticky create, the sentinel with ENOMEM in the handle.
+inline void *no_object(mirk_handle *h, void *sentinel) {
     if (h->cr_mode == 0) return nullptr;
     if (h->last_error == 0) mirk_store_err(h, ENOMEM);
     return sentinel;
+}
+
+// Zeroed storage for a new object, or no_object.
+[[gnu::noinline]] inline void *new_object(mirk_handle *h, std::uint32_t ctx_id, std::size_t size, void *sentinel) {
+    void *storage = allocate(h, ctx_id, size);
+    return storage != nullptr ? std::memset(storage, 0, size) : no_object(h, sentinel);
 }
 
 // Writes the header of a new object. Returns its variant.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/runs.h"
+#include "families/shortcuts/shortcuts.h"
 #include "families/value.h"
 #include "kinds/kinds.h"
 
@@ -51,7 +52,9 @@ template <const Record &R>
 // a and b are not null. Records of integers alone are compared inline.
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of(const mirk_object *a, const mirk_object *b) {
-    if constexpr (all_integers(R)) {
+    if constexpr (runtime_inside && shortcut::is_closed(R)) {
+        return shortcut::difference_of<R>(a, b) == 0 ? 0 : Compare<R>::compare(a, b);
+    } else if constexpr (all_integers(R)) {
         return order_of_members<R>(a, b);
     } else {
         return Compare<R>::compare(a, b);
@@ -98,6 +101,9 @@ template <const Record &R>
 std::int32_t Compare<R>::compare(const mirk_object *a, const mirk_object *b) {
     if (a == nullptr) return b == nullptr ? 0 : -1;
     if (b == nullptr) return 1;
+    if constexpr (runtime_inside && shortcut::is_closed(R)) {
+        if (shortcut::difference_of<R>(a, b) == 0) return 0;
+    }
     return order_of_members<R>(a, b);
 }
 

@@ -150,6 +150,12 @@ std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
 template <const Record &R>
 mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
     if (create_is_off(h)) return sentinel();
+    if constexpr (runtime_inside) {
+        mirk_object *object = nullptr;
+        if (shortcut::create<R>(h, ctx_id, object)) {
+            return object != nullptr ? object : static_cast<mirk_object *>(no_object(h, sentinel()));
+        }
+    }
     auto *object = static_cast<mirk_object *>(new_object(h, ctx_id, sizeof_instance(h), sentinel()));
     if (object == nullptr || object == sentinel()) return object;
     std::uint32_t error = 0;

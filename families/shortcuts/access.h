@@ -28,6 +28,16 @@ template <class Storage>
     }
 }
 
+// A sequence of setters writes to one object. Bytes that have their value already are not written again, because each
+// would have to wait for the one before.
+template <class Object>
+[[gnu::always_inline]] inline void reset_variant(Object &object) {
+    if (object.variant != 0) object.variant = 0;
+}
+[[gnu::always_inline]] inline void mark_once(void *object, std::uint32_t value_kind) {
+    if (mirk_get_instance_modified(object, 1, value_kind) == 0) mirk_set_instance_modified(object, 1, value_kind, 1);
+}
+
 // False: the shortcut does not apply, and nothing was changed.
 template <class F>
 [[gnu::always_inline]] inline bool set_value(mirk_handle *h, mirk_object *object, auto value,
@@ -38,19 +48,19 @@ template <class F>
     if constexpr (EnumerationMember<F>) {
         // Any other value is refused.
         if (value >= F::of->enumerators.size() || member->tinfo == nullptr) return false;
-        member->variant = 0;
+        reset_variant(*member);
     }
     // An object that is written gets the domain's variant, after a look-up of its type.
-    object->variant = 0;
+    reset_variant(*object);
     mirk_inside_count_lookups(h, EnumerationMember<F> ? 2 : 1);
     h->last_error = 0;
     if constexpr (IntegerMember<F>) {
         *member = value;
     } else {
         member->value = value;
-        mirk_set_instance_modified(member, 1, F::value_kind, 1);
+        mark_once(member, F::value_kind);
     }
-    mark_modified(object, F::value_kind);
+    mark_once(object, F::value_kind);
     return true;
 }
 

@@ -44,31 +44,35 @@ private:
     std::array<mirk_type_info *, n_types> private_;
 };
 
-// An atomic addition costs about twenty plain ones, and a process with one thread needs none.
-inline void add_to(std::uint64_t &counter, std::uint64_t n, const mirk_type_info *type) {
-    if (type->plain_counters != 0 || __libc_single_threaded) {
-        counter += n;
-    } else {
-        __atomic_fetch_add(&counter, n, __ATOMIC_SEQ_CST);
-    }
-}
+// Changes the counters of a type for n objects. The general way traces a damaged number of variants once per object.
+enum class Change { created, destroyed };
 
-// The counters to change for n objects. The general way traces a damaged number of variants once per object.
-inline mirk_variant_entry &entry_for(const mirk_type_info *type, std::uint64_t n) {
+template <Change change>
+[[gnu::cold, gnu::noinline]] void count_carefully(const mirk_type_info *type, std::uint64_t n) {
+    if constexpr (change == Change::destroyed) check_type(type);
     const mirk_variant_info &info = variant_info(type);
     for (std::uint64_t i = 0; i < n && info.n_variants < 0; ++i) check_variant_count(info, 0);
-    return info.entries[0];
+    mirk_variant_entry &entry = info.entries[0];
+    std::uint64_t &counter = change == Change::created ? entry.num_created : entry.num_destroyed;
+    __atomic_fetch_add(&counter, n, __ATOMIC_SEQ_CST);
+    __atomic_fetch_add(&entry.num_live, change == Change::created ? n : std::uint64_t{0} - n, __ATOMIC_SEQ_CST);
 }
-[[gnu::noinline]] inline void count_created(const mirk_type_info *type, std::uint64_t n) {
-    mirk_variant_entry &entry = entry_for(type, n);
-    add_to(entry.num_created, n, type);
-    add_to(entry.num_live, n, type);
-}
-[[gnu::noinline]] inline void count_destroyed(const mirk_type_info *type, std::uint64_t n) {
-    check_type(type);
-    mirk_variant_entry &entry = entry_for(type, n);
-    add_to(entry.num_destroyed, n, type);
-    add_to(entry.num_live, std::uint64_t{0} - n, type);
+
+// An atomic addition costs about twenty plain ones, and a process with one thread needs none.
+template <Change change>
+[[gnu::always_inline]] inline void count(const mirk_type_info *type, std::uint64_t n) {
+    const mirk_variant_info *info = type->variant_info;
+    const bool usual = info != nullptr && info->n_variants >= 0 && type->magic == type_magic &&
+                       (type->plain_counters != 0 || __libc_single_threaded);
+    if (!usual) return count_carefully<change>(type, n);
+    mirk_variant_entry &entry = info->entries[0];
+    if constexpr (change == Change::created) {
+        entry.num_created += n;
+        entry.num_live += n;
+    } else {
+        entry.num_destroyed += n;
+        entry.num_live -= n;
+    }
 }
 
 // An operation on a tree with arrays: counts the objects, and updates the counters at its end.
@@ -87,10 +91,10 @@ struct Batch {
             return true;
         });
     }
-    template <const Counts &possible, void (*count)(const mirk_type_info *, std::uint64_t)>
+    template <const Counts &possible, Change change>
     [[gnu::always_inline]] void finish() {
         each_type<possible>([&](std::size_t number, std::uint32_t) {
-            if (counts[number] != 0) count(types[number], counts[number]);
+            if (counts[number] != 0) count<change>(types[number], counts[number]);
             return true;
         });
         if (lookups != 0) mirk_inside_count_lookups(h, lookups);
@@ -98,10 +102,10 @@ struct Batch {
 };
 
 // Updates the counters for n trees without arrays.
-template <const Counts &tree, void (*count)(const mirk_type_info *, std::uint64_t)>
+template <const Counts &tree, Change change>
 [[gnu::always_inline]] inline void count_trees(const Types &types, std::uint64_t n) {
     each_type<tree>([&](std::size_t number, std::uint32_t uses) {
-        count(types[number], n * uses);
+        count<change>(types[number], n * uses);
         return true;
     });
 }

@@ -73,13 +73,13 @@ template <const Record &R>
     if constexpr (is_closed(R)) {
         Types types;
         if (!types.bind<destroyed<R>>(h, ctx_id) || unusual_tree_at_end<R>(object, types) != 0) return false;
-        count_trees<destroyed<R>, count_destroyed>(types, 1);
+        count_trees<destroyed<R>, Change::destroyed>(types, 1);
     } else {
         Batch batch{h, ctx_id};
         if (!batch.types.bind<reached<R>>(h, ctx_id) || unusual_tree_at_end<R>(object, batch.types) != 0) return false;
         release_blocks<R>(batch, object);
         batch.add<destroyed<R>>(1);
-        batch.finish<reached<R>, count_destroyed>();
+        batch.finish<reached<R>, Change::destroyed>();
     }
     if (free_it == 0) return true;
     object->tinfo = nullptr;

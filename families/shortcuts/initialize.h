@@ -12,7 +12,7 @@ template <Memory memory>
 [[gnu::always_inline]] inline void put_header(mirk_object *object, mirk_type_info *type, std::uint8_t flags) {
     object->tinfo = type;
     if constexpr (memory == Memory::fresh) {
-        object->obj_flag = flags;
+        if (flags != 0) object->obj_flag = flags;
     } else {
         object->variant = object->home_variant = 0;
         object->obj_flag |= flags;
@@ -40,7 +40,22 @@ template <const Record &R>
     if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
     h->last_error = 0;
     put_headers<R, Memory::any>(object, types, flags);
-    count_trees<made<R>, count_created>(types, 1);
+    count_trees<made<R>, Change::created>(types, 1);
+    mirk_inside_count_lookups(h, n_made<R>);
+    return true;
+}
+
+// The same in new memory. object is null if there is none.
+template <const Record &R>
+[[gnu::always_inline]] inline bool create(mirk_handle *h, std::uint32_t ctx_id, mirk_object *&object) {
+    Types types;
+    if (!mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
+    object = static_cast<mirk_object *>(allocate(h, ctx_id, schema::layout<R>.base_size));
+    if (object == nullptr) return true;
+    h->last_error = 0;
+    std::memset(bytes_of(object), 0, schema::layout<R>.base_size);
+    put_headers<R, Memory::fresh>(object, types, 0);
+    count_trees<made<R>, Change::created>(types, 1);
     mirk_inside_count_lookups(h, n_made<R>);
     return true;
 }
@@ -56,7 +71,7 @@ bool initialize_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *firs
         mirk_object *element = element_at<R>(first, static_cast<std::uint32_t>(i));
         put_headers<R, Memory::fresh>(element, types, flag::nested);
     }
-    count_trees<made<R>, count_created>(types, n);
+    count_trees<made<R>, Change::created>(types, n);
     mirk_inside_count_lookups(h, n * n_made<R>);
     return true;
 }

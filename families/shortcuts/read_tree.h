@@ -131,7 +131,7 @@ template <const Record &R>
         if (!batch.types.bind<reached<R>>(h, ctx_id) || get<std::uint16_t>(frame) != 0) return false;
         h->last_error = 0;
         consumed = read_open<R>(batch, frame, object, length, reuse, err);
-        batch.finish<reached<R>, count_created>();
+        batch.finish<reached<R>, Change::created>();
     }
     return true;
 }

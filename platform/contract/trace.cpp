@@ -104,13 +104,7 @@ void skald_wrapper(uint16_t module_id, uint32_t level, uint32_t, const char *for
     }
 }
 
-void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {
-    // Libraries register their module each time they create an object. The runtime keeps the assigned identifier in the
-    // module state, to return early.
-    if (module_id != nullptr && module_state != nullptr) {
-        const uint64_t known = __atomic_load_n(module_state, __ATOMIC_ACQUIRE);
-        if (known != 0 && __atomic_load_n(module_id, __ATOMIC_RELAXED) == known) return;
-    }
+[[gnu::noinline]] static void register_module(const char *name, uint16_t *module_id, uint64_t *module_state) {
     Trace &t = trace();
     try {
         const std::lock_guard<std::mutex> hold(t.lock);
@@ -126,6 +120,16 @@ void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *modul
     } catch (...) {
         return;
     }
+}
+
+// Libraries register their module each time they create an object. The runtime keeps the assigned identifier in the
+// module state, to return early.
+void skald_module_init_fn(const char *name, uint16_t *module_id, uint64_t *module_state) {
+    if (module_id != nullptr && module_state != nullptr) {
+        const uint64_t known = __atomic_load_n(module_state, __ATOMIC_ACQUIRE);
+        if (known != 0 && __atomic_load_n(module_id, __ATOMIC_RELAXED) == known) return;
+    }
+    register_module(name, module_id, module_state);
 }
 
 void mirk_platform_trace_set_sink(mirk_platform_trace_sink sink, void *user) {
