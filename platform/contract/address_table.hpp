@@ -3,6 +3,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -14,9 +16,8 @@ namespace mirk {
 
 inline uintptr_t address_of(const void *p) { return reinterpret_cast<uintptr_t>(p); }
 
-// Open addressing with linear probing; key 0 marks a free cell and must not be inserted. The hash spreads runs of keys
-// that are `Unit` apart and keeps each run contiguous, since neighboring blocks are often used together.
-template <typename Value, size_t Unit = 1, size_t RunLength = 64>
+// Open addressing with linear probing; key 0 marks a free cell and must not be inserted. Keys are multiples of `Unit`.
+template <typename Value, size_t Unit = 1>
 class AddressMap {
     static_assert(std::is_trivially_copyable_v<Value>);
 
@@ -34,14 +35,6 @@ public:
             if (cells_[i].key == key) return &cells_[i].value;
             if (cells_[i].key == 0) return nullptr;
         }
-    }
-
-    // Reserves capacity for this many entries in total. False if allocation fails.
-    bool reserve(size_t entries) {
-        while (entries * 2 > capacity()) {
-            if (!grow()) return false;
-        }
-        return true;
     }
 
     // Inserts or replaces the entry of the key. Null if allocation fails.
@@ -89,8 +82,7 @@ private:
 
     size_t capacity() const { return cells_ == nullptr ? 0 : mask_ + 1; }
     size_t home(uintptr_t key) const {
-        const uint64_t unit = key / Unit, run = unit / RunLength;
-        return (static_cast<size_t>((run * 0x9e3779b97f4a7c15u) >> shift_) + unit % RunLength) & mask_;
+        return static_cast<size_t>((uint64_t{key} / Unit * 0x9e3779b97f4a7c15u) >> shift_);
     }
 
     bool grow() {
@@ -120,10 +112,9 @@ private:
 };
 
 // One value per object. Objects are aligned to 8 bytes, so a 256-byte stretch holds at most 32 of them, and the table
-// has one bucket per stretch. Erasing the entries of a freed block visits each stretch that the block touches, which
-// costs less than clearing the block did when it was allocated, and nothing while the table is empty.
+// has one bucket per stretch. Buckets in recent use are found by the low bits of the number of their stretch.
 //
-// Callers that cannot handle a failed insertion reserve buckets for a block before it holds objects.
+// Callers that cannot handle a failed insertion reserve the buckets of a block before it holds objects.
 template <typename Value>
 class ObjectTable {
     static_assert(std::is_trivially_copyable_v<Value>);
@@ -139,61 +130,69 @@ public:
 
     // False if allocation fails.
     bool reserve(const void *block, size_t size) {
-        const size_t wanted = reserved_ + stretches(block, size);
-        while (owned_ < wanted) {
-            if (!add_spare()) return false;
+        const uintptr_t begin = stretch(address_of(block)), last = stretch(last_address(block, size));
+        for (uintptr_t key = begin; key <= last; ++key) {
+            Bucket *bucket = bucket_of(key);
+            if (bucket == nullptr) bucket = add_bucket(key);
+            if (bucket == nullptr) {
+                while (key-- > begin) release(key, 0, true);
+                return false;
+            }
+            ++bucket->blocks;
+            ++reserved_;
         }
-        if (!buckets_.reserve(wanted)) return false;
-        reserved_ = wanted;
         return true;
-    }
-    void unreserve(const void *block, size_t size) {
-        reserved_ -= stretches(block, size);
-        trim();
     }
 
     size_t size() const { return entries_; }
-    size_t bytes() const { return owned_ * sizeof(Bucket); }
+    size_t bytes() const { return std::max(buckets_.size(), reserved_) * sizeof(Bucket); }
     // Upper bound of bytes() after reserving buckets for a block of this size at any address.
     size_t bytes_with(size_t block_size) const {
         const size_t most_stretches = (block_size + stretch_size - 2) / stretch_size + 1;
-        return std::max(owned_, reserved_ + most_stretches) * sizeof(Bucket);
+        return std::max(buckets_.size(), reserved_ + most_stretches) * sizeof(Bucket);
     }
 
     Value *find(const void *object) const {
-        if (entries_ == 0) return nullptr;
-        Bucket *bucket = bucket_of(stretch(address_of(object)));
+        Bucket *const bucket = bucket_of(stretch(address_of(object)));
         const unsigned slot = slot_of(address_of(object));
         return bucket != nullptr && (bucket->present >> slot & 1u) != 0 ? &bucket->values[slot] : nullptr;
+    }
+
+    // The same, but may be null for objects whose bucket was not used lately.
+    const Value *find_recent(const void *object) const {
+        const uintptr_t key = stretch(address_of(object));
+        const Recent &known = recent(key);
+        const unsigned slot = slot_of(address_of(object));
+        return known.key == key && (known.bucket->present >> slot & 1u) != 0 ? &known.bucket->values[slot] : nullptr;
     }
 
     // False if allocation fails, which cannot happen for objects in a block with reserved buckets.
     bool put(const void *object, const Value &value) {
         const uintptr_t key = stretch(address_of(object));
         Bucket *bucket = bucket_of(key);
-        if (bucket == nullptr) {
-            if (spare_ == nullptr && !add_spare()) return false;
-            if (buckets_.put(key, spare_) == nullptr) return false;
-            bucket = spare_;
-            spare_ = bucket->next;
-            bucket->present = 0;
-            last_key_ = key;
-            last_ = bucket;
-        }
+        if (bucket == nullptr) bucket = add_bucket(key);
+        if (bucket == nullptr) return false;
         const unsigned slot = slot_of(address_of(object));
-        if ((bucket->present >> slot & 1u) == 0) ++entries_;
+        entries_ += (bucket->present >> slot & 1u) ^ 1u;
         bucket->present |= 1u << slot;
         bucket->values[slot] = value;
         return true;
     }
 
-    void erase(const void *object) { clear(stretch(address_of(object)), 1u << slot_of(address_of(object))); }
-
-    void erase_block(const void *block, size_t size) {
+    void erase(const void *object) {
         if (entries_ == 0) return;
-        const uintptr_t begin = address_of(block);
-        const uintptr_t last = begin + (size == 0 ? 0 : size - 1);
-        for (uintptr_t key = stretch(begin); key <= stretch(last); ++key) clear(key, covered(key, begin, last));
+        const uintptr_t key = stretch(address_of(object));
+        Bucket *const bucket = bucket_of(key);
+        if (bucket == nullptr) return;
+        const unsigned slot = slot_of(address_of(object));
+        entries_ -= bucket->present >> slot & 1u;
+        bucket->present &= ~(1u << slot);
+        if (bucket->is_unused()) remove(key, bucket);
+    }
+
+    // Erases the entries in a block that is freed, and releases what was reserved for it.
+    void erase_block(const void *block, size_t size, bool reserved) {
+        if (reserved || entries_ != 0) release_block(block, size, reserved);
     }
 
 private:
@@ -202,74 +201,104 @@ private:
     static constexpr size_t min_spare = 64;
 
     struct Bucket {
+        uint32_t present;
+        uint32_t blocks;  // that reserved this bucket
         union {
-            uint32_t present;
+            Value values[slots];
             Bucket *next;  // in the list of spare buckets
         };
-        Value values[slots];
+
+        bool is_unused() const { return present == 0 && blocks == 0; }
+    };
+    struct Recent {
+        uintptr_t key = 0;
+        Bucket *bucket = nullptr;
     };
 
     // Never 0, which the map reserves.
     static uintptr_t stretch(uintptr_t address) { return address / stretch_size + 1; }
-    static size_t stretches(const void *block, size_t size) {
-        return stretch(address_of(block) + (size == 0 ? 0 : size - 1)) - stretch(address_of(block)) + 1;
+    static uintptr_t last_address(const void *block, size_t size) {
+        return address_of(block) + (size == 0 ? 0 : size - 1);
     }
     static unsigned slot_of(uintptr_t address) { return static_cast<unsigned>(address / 8 % slots); }
 
-    static uint32_t covered(uintptr_t key, uintptr_t begin, uintptr_t last) {
-        uint32_t mask = 0xffffffffu;
-        if (key == stretch(begin)) mask &= 0xffffffffu << slot_of(begin);
-        if (key == stretch(last)) mask &= 0xffffffffu >> (slots - 1 - slot_of(last));
-        return mask;
-    }
+    Recent &recent(uintptr_t key) const { return recent_[key % recent_.size()]; }
 
+    // Null if there is none.
     Bucket *bucket_of(uintptr_t key) const {
-        if (key == last_key_) return last_;
-        Bucket **found = buckets_.find(key);
+        const Recent &known = recent(key);
+        return known.key == key ? known.bucket : look_up(key);
+    }
+    [[gnu::noinline]] Bucket *look_up(uintptr_t key) const {
+        Bucket **const found = buckets_.find(key);
         if (found == nullptr) return nullptr;
-        last_key_ = key;
-        last_ = *found;
-        return last_;
+        recent(key) = {key, *found};
+        return *found;
     }
 
-    void clear(uintptr_t key, uint32_t mask) {
-        Bucket *bucket = bucket_of(key);
+    // Null if allocation fails.
+    [[gnu::noinline]] Bucket *add_bucket(uintptr_t key) {
+        Bucket *const bucket = spare_ != nullptr ? spare_ : static_cast<Bucket *>(std::malloc(sizeof(Bucket)));
+        if (bucket == nullptr) return nullptr;
+        if (bucket == spare_) {
+            spare_ = bucket->next;
+            --spare_count_;
+        }
+        bucket->present = bucket->blocks = 0;
+        if (buckets_.put(key, bucket) == nullptr) {
+            add_spare(bucket);
+            return nullptr;
+        }
+        recent(key) = {key, bucket};
+        return bucket;
+    }
+
+    [[gnu::noinline]] void release_block(const void *block, size_t size, bool reserved) {
+        const uintptr_t begin = address_of(block), last = last_address(block, size);
+        for (uintptr_t key = stretch(begin); key <= stretch(last); ++key) {
+            uint32_t mask = 0xffffffffu;
+            if (key == stretch(begin)) mask &= 0xffffffffu << slot_of(begin);
+            if (key == stretch(last)) mask &= 0xffffffffu >> (slots - 1 - slot_of(last));
+            release(key, mask, reserved);
+        }
+    }
+
+    // Erases the entries of the mask, and one reservation.
+    void release(uintptr_t key, uint32_t mask, bool reserved) {
+        Bucket *const bucket = bucket_of(key);
         if (bucket == nullptr) return;
-        entries_ -= static_cast<size_t>(__builtin_popcount(bucket->present & mask));
-        bucket->present &= ~mask;
-        if (bucket->present != 0) return;
+        if (const uint32_t erased = bucket->present & mask; erased != 0) {
+            entries_ -= static_cast<size_t>(std::popcount(erased));
+            bucket->present &= ~mask;
+        }
+        bucket->blocks -= reserved;
+        reserved_ -= reserved;
+        if (bucket->is_unused()) remove(key, bucket);
+    }
+
+    [[gnu::noinline]] void remove(uintptr_t key, Bucket *bucket) {
         buckets_.erase(key);
-        last_key_ = 0;
-        bucket->next = spare_;
-        spare_ = bucket;
-        trim();
+        recent(key) = {};
+        add_spare(bucket);
     }
 
-    bool add_spare() {
-        auto *bucket = static_cast<Bucket *>(std::malloc(sizeof(Bucket)));
-        if (bucket == nullptr) return false;
-        bucket->next = spare_;
-        spare_ = bucket;
-        ++owned_;
-        return true;
+    // Keeps some spare buckets, since freed blocks are usually followed by new ones.
+    void add_spare(Bucket *bucket) {
+        bucket->next = std::exchange(spare_, bucket);
+        ++spare_count_;
+        while (spare_count_ > reserved_ / 2 + min_spare) free_spare();
     }
-
     void free_spare() {
         std::free(std::exchange(spare_, spare_->next));
-        --owned_;
-    }
-    // Keeps some spare buckets, since freed blocks are usually followed by new ones.
-    void trim() {
-        while (spare_ != nullptr && owned_ > reserved_ + reserved_ / 2 + min_spare) free_spare();
+        --spare_count_;
     }
 
     AddressMap<Bucket *> buckets_;
+    mutable std::array<Recent, 128> recent_{};
     size_t entries_ = 0;
-    size_t reserved_ = 0;  // buckets that must exist
-    size_t owned_ = 0;     // buckets that exist, in use or spare
-    mutable uintptr_t last_key_ = 0;
-    mutable Bucket *last_ = nullptr;
+    size_t reserved_ = 0;  // reservations, which are more than buckets if blocks share a stretch
     Bucket *spare_ = nullptr;
+    size_t spare_count_ = 0;
 };
 
 }  // namespace mirk

@@ -242,7 +242,7 @@ private:
     const size_t cells_below_;
     size_t live_ = 0;
     AddressMap<Block, unit> large_;
-    AddressMap<Slab *, page_size, 1> slabs_;  // by page
+    AddressMap<Slab *, page_size> slabs_;  // by page
     std::array<Slab *, cell_sizes.size()> partial_{};
     Slab *spare_ = nullptr;
     size_t spare_count_ = 0;

@@ -27,20 +27,22 @@ inline void add(const mirk_type_info *type, uint64_t *counter, int64_t delta) {
 }
 
 // Counts an event that changes the number of live instances.
-inline void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t *events, uint64_t *live,
-                  int64_t change, bool observed) {
+[[gnu::always_inline]] inline void count(mirk_handle *h, uint32_t ctx_id, const mirk_type_info *type, uint64_t *events,
+                                         uint64_t *live, int64_t change, bool observed) {
     if (observed) h->count_notify(h->mem_ctx, events, 1, ctx_id);
     add(type, events, 1);
     if (observed) h->count_notify(h->mem_ctx, live, change, ctx_id);
     add(type, live, change);
 }
 
-inline void count_created(mirk_handle *h, uint32_t ctx_id, const mirk_object *object, bool observed) {
+[[gnu::always_inline]] inline void count_created(mirk_handle *h, uint32_t ctx_id, const mirk_object *object,
+                                                 bool observed) {
     mirk_variant_entry *entry = variant_entry(object->tinfo, object->variant);
     count(h, ctx_id, object->tinfo, &entry->num_created, &entry->num_live, 1, observed);
 }
 
-inline void count_destroyed(mirk_handle *h, uint32_t ctx_id, const mirk_object *object, bool observed) {
+[[gnu::always_inline]] inline void count_destroyed(mirk_handle *h, uint32_t ctx_id, const mirk_object *object,
+                                                   bool observed) {
     mirk_variant_entry *entry = variant_entry(object->tinfo, object->variant);
     count(h, ctx_id, object->tinfo, &entry->num_destroyed, &entry->num_live, -1, observed);
 }
@@ -65,8 +67,8 @@ inline void set_header(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mir
 
 // Initializes an object on a handle with shared types, an empty domain and no observer. Returns false on any other
 // handle and has no effect then.
-inline bool initialize_usual(mirk_handle *h, uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                             uint32_t skip_count, uint8_t flags) {
+[[gnu::always_inline]] inline bool initialize_usual(mirk_handle *h, uint32_t ctx_id, mirk_object *object,
+                                                    mirk_type_info *type, uint32_t skip_count, uint8_t flags) {
     if (h->private_types != 0 || is_observed(h) || !skip_variant_lookup(*own(h))) return false;
     h->last_error = 0;
     object->home_variant = 0;

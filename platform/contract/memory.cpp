@@ -72,9 +72,8 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     const size_t size = place.block->size;
     handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
     // A later object at the same address must not inherit these entries.
-    handle.offsets.erase_block(p, size);
-    if (place.block->has_offsets) handle.offsets.unreserve(p, size);
-    handle.ra_data.erase_block(p, size);
+    handle.offsets.erase_block(p, size, place.block->has_offsets);
+    handle.ra_data.erase_block(p, size, false);
     handle.references.erase_block(p, size);
     handle.live_bytes -= size;
     handle.blocks.release(place);

@@ -66,32 +66,62 @@ bool can_start(mirk_handle *h, const void *buffer, const void *field, int32_t re
     return *err == 0;
 }
 
-// Nearly all frames: no state, no RA data, variant 0, complete, and on a handle without a hook.
-constexpr uint32_t usual_frame_size = frame_overhead + body_size;
-constexpr uint8_t usual_head[frame_overhead] = {0, 0, 0, 0, 0, usual_frame_size - 2};
+// Nearly all frames: no RA data, variant 0, complete, state bytes exactly if the handle tracks state, and no hook.
+template <bool Tracked>
+constexpr uint32_t usual_size = frame_overhead + body_size + (Tracked ? state_width : 0);
+template <bool Tracked>
+constexpr uint8_t usual_head[frame_overhead] = {
+    0, Tracked ? mirk::state_tracked : uint8_t{0}, 0, 0, 0, usual_size<Tracked> - 2};
 
+template <bool Tracked>
 bool is_usual(const mirk_handle *h, const void *buffer, const ip_address *field, int32_t remaining,
               const uint32_t *err) {
-    return *err == 0 && mirk::known_nonnull(buffer, field) && remaining >= static_cast<int32_t>(usual_frame_size) &&
-           (h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off) &&
+    return *err == 0 && mirk::known_nonnull(buffer, field) && remaining >= static_cast<int32_t>(usual_size<Tracked>) &&
+           (Tracked ? mirk::tracks(h) && (field->obj_flag & mirk::state_tracked) != 0
+                    : h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off) &&
            static_cast<const mirk::Handle *>(h)->hook == nullptr;
 }
 
-void put_usual_frame(uint8_t *frame, const ip_address &address) {
-    std::memcpy(frame, usual_head, sizeof usual_head);
-    uint8_t *to = frame + sizeof usual_head;
-    for_each_member(address, [&](const auto &member) {
+// 0: the frame is not a usual one, and nothing was written.
+template <bool Tracked>
+uint32_t marshal_usual(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
+                       const uint32_t *err) {
+    if (!is_usual<Tracked>(h, buffer, field, remaining, err) || field->variant != 0 ||
+        (field->obj_flag & mirk::has_ra_data) != 0 || !mirk::skip_variant_lookup(*mirk::own(h))) {
+        return 0;
+    }
+    h->last_error = 0;
+    auto *to = static_cast<uint8_t *>(buffer);
+    std::memcpy(to, usual_head<Tracked>, frame_overhead);
+    to += frame_overhead;
+    [[maybe_unused]] const uint8_t *states = Tracked ? state_area(h, ctx_id, field) : nullptr;
+    for_each_member(*field, [&](const auto &member) {
         mirk::put_big_endian(to, member);
         to += sizeof member;
+        if constexpr (Tracked) *to++ = *states++;
     });
+    return usual_size<Tracked>;
 }
 
-void get_usual_members(const uint8_t *frame, ip_address *address) {
-    const uint8_t *from = frame + sizeof usual_head;
-    for_each_member(*address, [&](auto &member) {
+// 0: the frame is not a usual one, and nothing was read.
+template <bool Tracked>
+uint32_t unmarshal_usual(mirk_handle *h, uint32_t ctx_id, const void *buffer, ip_address *field, int32_t remaining,
+                         const uint32_t *err) {
+    if (!is_usual<Tracked>(h, buffer, field, remaining, err) ||
+        std::memcmp(buffer, usual_head<Tracked>, frame_overhead) != 0) {
+        return 0;
+    }
+    h->last_error = 0;
+    const uint8_t *from = static_cast<const uint8_t *>(buffer) + frame_overhead;
+    [[maybe_unused]] uint8_t *states = Tracked ? state_area(h, ctx_id, field) : nullptr;
+    for_each_member(*field, [&](auto &member) {
         member = mirk::get_big_endian<std::remove_reference_t<decltype(member)>>(from);
         from += sizeof member;
+        if constexpr (Tracked) *states++ = *from++;
     });
+    field->variant = 0;
+    field->tinfo = mirk::bind_type(h, ctx_id, &_ip_address_type_info_internal);
+    return usual_size<Tracked>;
 }
 
 // Removes the oid mapping. False: the object must not be destroyed now.
@@ -116,6 +146,7 @@ bool release_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
 
 [[gnu::noinline]] uint32_t marshal_any(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field,
                                        int32_t remaining, uint32_t *err) {
+    if (const uint32_t size = marshal_usual<true>(h, ctx_id, buffer, field, remaining, err); size != 0) return size;
     if (!can_start(h, buffer, field, remaining, err)) return 0;
     auto *bytes = static_cast<uint8_t *>(buffer);
     const auto size = static_cast<uint32_t>(remaining);
@@ -167,6 +198,7 @@ bool release_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
 
 [[gnu::noinline]] uint32_t unmarshal_any(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field,
                                          int32_t remaining, uint32_t *err) {
+    if (const uint32_t size = unmarshal_usual<true>(h, ctx_id, buffer, field, remaining, err); size != 0) return size;
     if (!can_start(h, buffer, field, remaining, err)) return 0;
     auto *bytes = static_cast<uint8_t *>(buffer);
     const auto size = static_cast<uint32_t>(remaining);
@@ -231,17 +263,20 @@ bool release_oid(mirk_handle *h, uint32_t ctx_id, ip_address *object) {
         *err = EINVAL;
         return;
     }
-    mirk_clear_last_error(h);
-    mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
-    const bool tracked = tracking(h);
-    if (tracked) {
-        if (notify != 0) mirk::notify_write(h, ctx_id, &object->obj_flag, 1);
-        object->obj_flag |= mirk::state_tracked;
+    const auto tracked_flags = static_cast<uint8_t>(flags | mirk::state_tracked);
+    if (!mirk::tracks(h) || !mirk::initialize_usual(h, ctx_id, header(object), type, skip_count, tracked_flags)) {
+        mirk_clear_last_error(h);
+        mirk::set_header(h, ctx_id, header(object), type, notify, flags, err);
+        if (tracking(h)) {
+            if (notify != 0) mirk::notify_write(h, ctx_id, &object->obj_flag, 1);
+            object->obj_flag |= mirk::state_tracked;
+        }
+        if (skip_count == 0) {
+            mirk::count_created(h, ctx_id, header(object), mirk::is_observed(h));
+            *err = 0;
+        }
     }
-    if (skip_count != 0) return;
-    mirk::count_created(h, ctx_id, header(object), mirk::is_observed(h));
-    *err = 0;
-    if (!tracked) return;
+    if (skip_count != 0 || !mirk::tracks(h)) return;
     if ((object->obj_flag & mirk::nested) != 0 && sttr_base == nullptr) {
         fail(h, err, EINVAL);
         trace(3,
@@ -387,24 +422,14 @@ uint32_t ip_address_len(mirk_handle *h, uint32_t, ip_address *field) {
 
 uint32_t ip_address_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
                             uint32_t *err) {
-    const bool usual = is_usual(h, buffer, field, remaining, err) && field->variant == 0 &&
-                       (field->obj_flag & mirk::has_ra_data) == 0 && mirk::skip_variant_lookup(*mirk::own(h));
-    if (!usual) return marshal_any(h, ctx_id, buffer, field, remaining, err);
-    h->last_error = 0;
-    put_usual_frame(static_cast<uint8_t *>(buffer), *field);
-    return usual_frame_size;
+    const uint32_t size = marshal_usual<false>(h, ctx_id, buffer, field, remaining, err);
+    return size != 0 ? size : marshal_any(h, ctx_id, buffer, field, remaining, err);
 }
 
 uint32_t ip_address_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, ip_address *field, int32_t remaining,
                               uint32_t, uint32_t *err) {
-    const bool usual =
-        is_usual(h, buffer, field, remaining, err) && std::memcmp(buffer, usual_head, sizeof usual_head) == 0;
-    if (!usual) return unmarshal_any(h, ctx_id, buffer, field, remaining, err);
-    h->last_error = 0;
-    get_usual_members(static_cast<const uint8_t *>(buffer), field);
-    field->variant = 0;
-    field->tinfo = mirk::bind_type(h, ctx_id, &_ip_address_type_info_internal);
-    return usual_frame_size;
+    const uint32_t size = unmarshal_usual<false>(h, ctx_id, buffer, field, remaining, err);
+    return size != 0 ? size : unmarshal_any(h, ctx_id, buffer, field, remaining, err);
 }
 
 uint32_t ip_address_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, ip_address *field,

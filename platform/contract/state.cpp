@@ -19,6 +19,22 @@ mirk_object *object_at(void *object) { return static_cast<mirk_object *>(object)
     stored = variant;
 }
 
+[[gnu::noinline]] uint32_t find_offset(mirk_handle *h, uint32_t ctx_id, void *object) {
+    uint32_t offset = 0;
+    if (const uint32_t *known = own(h)->offsets.find(object); known != nullptr) {
+        offset = *known;
+    } else if (object != nullptr) {
+        // The flag bit came from a frame or a copy: assumes that the area directly follows the object.
+        const mirk_type_info *type = object_at(object)->tinfo;
+        if (type != nullptr && type->variant_info != nullptr) {
+            const mirk_variant_entry &entry = type->variant_info->entries[0];
+            offset = entry.used_length + entry.alloc_slop;
+        }
+    }
+    own(h)->event(MIRK_PLATFORM_TESTING_OFFSET_GET, object, 0, offset, ctx_id);
+    return offset;
+}
+
 }  // namespace
 
 extern "C" {
@@ -53,19 +69,8 @@ void mirklib_adjust_variant(mirk_handle *h, uint32_t ctx_id, void *object, mirk_
 }
 
 uint32_t mirklib_get_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object) {
-    uint32_t offset = 0;
-    if (const uint32_t *known = own(h)->offsets.find(object); known != nullptr) {
-        offset = *known;
-    } else if (object != nullptr) {
-        // The flag bit came from a frame or a copy: assumes that the area directly follows the object.
-        const mirk_type_info *type = object_at(object)->tinfo;
-        if (type != nullptr && type->variant_info != nullptr) {
-            const mirk_variant_entry &entry = type->variant_info->entries[0];
-            offset = entry.used_length + entry.alloc_slop;
-        }
-    }
-    own(h)->event(MIRK_PLATFORM_TESTING_OFFSET_GET, object, 0, offset, ctx_id);
-    return offset;
+    const uint32_t *const known = own(h)->offsets.find_recent(object);
+    return known != nullptr && own(h)->hook == nullptr ? *known : find_offset(h, ctx_id, object);
 }
 
 void mirklib_update_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object, uint32_t offset) {
