@@ -194,7 +194,7 @@ bool Reader::array(mirk_object *instance) {
 }
 
 template <StringMember S>
-bool Reader::string(mirk_object *instance) {
+[[gnu::always_inline]] inline bool Reader::string(mirk_object *instance) {
     char **body = S::at(instance);
     const std::uint32_t n = S::stored_count(instance);
     if (n == 0) return true;

@@ -119,7 +119,7 @@ constexpr ReferenceTexts reference_texts{unreadable_text<R>.data(), not_lowered_
 }
 
 template <class T>
-[[gnu::noinline]] void release_block(mirk_handle *h, std::uint32_t ctx_id, T **block) {
+[[gnu::always_inline]] inline void release_block(mirk_handle *h, std::uint32_t ctx_id, T **block) {
     release(h, ctx_id, *block);
     store(h, ctx_id, block, static_cast<T *>(nullptr));
 }
