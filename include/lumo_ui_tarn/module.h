@@ -21,19 +21,21 @@ extern LUMO_UI_TARN_API mirk_bundle_handler lumo_ui_tarn_bundle_registered_handl
 
 /** @name Types
  *  @{ */
-/** Creates the private copies of type records that are missing in the handle's type store. Call it before the first use
- * of a handle with private types. ENOMEM if allocation fails. err is not read. */
+/** Creates the copies of type records that are missing in the handle's type store. Call it before the first use of a
+ * handle with private types, which has copies of its own. ENOMEM if allocation fails. err is not read. */
 LUMO_UI_TARN_API void lumo_ui_tarn_typeinfo_initialize(mirk_handle *h, uint32_t ctx_id, uint32_t *err);
-/** Prints the number of variants of each type and, for each variant, the used length and the slop of an instance in
- * bytes. */
+/** Prints the number of variants of each type and, for each variant, the length of an instance and of the padding after
+ * it (slop) in bytes. */
 LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump(mirk_print_fn print);
 /** @} */
 
 /** @name Trace
  *  @{ */
-/** Registers the trace module of records and enumerations; may be repeated. Creating a record calls it. */
+/** Registers the trace module of records and enumerations. Creating a record calls it. Repeated calls have no
+ * effect. */
 LUMO_UI_TARN_API void mirk_lumo_ui_tarn_type_trace_init(void);
-/** Registers the trace module of messages; may be repeated. Call it once; otherwise message traces go to module 0. */
+/** Registers the trace module of messages. Call it at least once: until then message traces go to module 0. Repeated
+ * calls have no effect. */
 LUMO_UI_TARN_API void mirk_lumo_ui_tarn_message_trace_init(void);
 /** @} */
 

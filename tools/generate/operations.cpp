@@ -18,8 +18,8 @@ constexpr Row table[] = {
      "enumeration member fails. The caller owns the instance and releases it with {r}_destroy()."},
     {record, "lifecycle", "Lifecycle", "{r} *{r}_create_cr(H)", "Lifecycle<{R}>::create_cr",
      "Sticky form of {r}_create(): returns a sentinel instead of NULL if allocation fails or last_error is set "
-     "already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy "
-     "operations, and sticky forms while last_error is set, accept the sentinel."},
+     "already. Returns NULL, not the sentinel, if the domain look-up of an enumeration member fails; last_error may "
+     "then be 0. Only destroy operations, and sticky forms while last_error is set, accept the sentinel."},
     {record, "lifecycle", "Lifecycle", "{r} *{r}_create_internal(H, I)", "Lifecycle<{R}>::create_internal",
      "Same as {r}_create(), but does not register the trace module of types. For callers that create many instances."},
     {record, "lifecycle", "Lifecycle",
@@ -32,14 +32,14 @@ constexpr Row table[] = {
      "another one. EINVAL if a nested instance on a tracking handle has none."},
     {record, "lifecycle", "Lifecycle", "uint32_t {r}_sizeof(H)", "Lifecycle<{R}>::sizeof_instance",
      "Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its "
-     "state area. Blocks of arrays and strings are not counted. The size differs between handles."},
+     "state area. Blocks of arrays and strings are not counted. The size differs between tracking modes."},
     {record, "lifecycle", "Lifecycle", "int8_t {r}_variant_data_index_cap(int8_t variant)",
      "Lifecycle<{R}>::variant_data_index_cap",
      "Returns the variant, limited to 0, the highest one that this library has."},
     {record, "lifecycle", "Lifecycle", "void {r}_set_instance_embedded(H, I, {r} *object)",
      "Lifecycle<{R}>::set_instance_embedded",
-     "Sets MIRK_OBJ_EMBEDDED, \"lies in memory of another object\", in the instance and in the records, addresses and "
-     "booleans nested in it."},
+     "Sets MIRK_OBJ_EMBEDDED, \"lies in memory of another object\", in the instance and in the records, IP addresses "
+     "and booleans nested in it."},
     {record, "lifecycle", "Lifecycle", "void {r}_adjust_variant(H, I, {r} *object, E)",
      "Lifecycle<{R}>::adjust_variant",
      "Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes."},
@@ -74,8 +74,9 @@ constexpr Row table[] = {
     {record, "accessors", "Whole record", "void {r}_set_all_state_tracking_flag(H, I, {r} *object, uint8_t value)",
      "Whole<{R}>::set_all_state_tracking_flag",
      "Fills the state area of the instance and of each element of its own arrays with one byte, without notifications. "
-     "Elements of arrays in nested records are not filled. All element states then read as this value and can no "
-     "longer be set one by one. Has no effect without tracking."},
+     "Elements of arrays in nested records are not filled. Leaks the blocks of element states: the elements of each "
+     "array then all have this state, and setting it for one of them has no effect. When such an array grows, the "
+     "state of its old elements becomes 0, and states can be set again. Has no effect without tracking."},
     {record, "accessors", "Whole record", "uint32_t {r}_is_valid_cr(H, {r} *object, uint32_t field_index)",
      "Whole<{R}>::is_valid_cr",
      "Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a "
@@ -91,11 +92,11 @@ constexpr Row table[] = {
      "NULL."},
     {record, "references", "References", "void {r}_offset_update(H, I, {r} *object, void *state_area, E)",
      "References<{R}>::offset_update",
-     "Records in the runtime where the state of each nested record and address is, in the state area at this address. "
-     "For code that has moved the instance or its state. Acts even if err is already set."},
+     "Stores in the runtime where the state of each nested record and IP address is. state_area is the address of the "
+     "instance's state area. For code that has moved the instance or its state. Acts even if err is already set."},
     {record, "references", "References", "void {r}_offset_remove(H, I, {r} *object, E)",
      "References<{R}>::offset_remove",
-     "Removes from the runtime the state locations that {r}_offset_update() recorded, at every depth. Acts even if err "
+     "Removes from the runtime the state locations that {r}_offset_update() stored, at every depth. Acts even if err "
      "is already set."},
     {record, "wire_write", "Wire", "uint32_t {r}_len(H, I, {r} *instance)", "WireWrite<{R}>::len",
      "Returns the buffer size in bytes that {r}_marshal() needs, without the guard byte. On a tracking handle this is "
@@ -104,10 +105,10 @@ constexpr Row table[] = {
     {record, "wire_write", "Wire", "uint32_t {r}_marshal(H, I, void *buffer, {r} *instance, int32_t remaining, E)",
      "WireWrite<{R}>::marshal",
      "Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the "
-     "number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM "
-     "instead if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have "
-     "the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's "
-     "variant."},
+     "number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; "
+     "state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does "
+     "not have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the "
+     "domain's variant."},
     {record, "wire_write", "Wire",
      "uint32_t {r}_marshal_for_clone(H, I, void *buffer, {r} *instance, int32_t remaining, E)",
      "WireWrite<{R}>::marshal_for_clone",
@@ -117,10 +118,11 @@ constexpr Row table[] = {
      "uint32_t {r}_unmarshal(H, I, void *buffer, {r} *instance, uint32_t length, uint32_t reuse, E)",
      "WireRead<{R}>::unmarshal",
      "Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the "
-     "number of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; "
-     "anything it owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may "
-     "come from an untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if "
-     "instance is NULL. Aborts if the handle tracks state and the instance has none."},
+     "number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it "
+     "has no meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and "
+     "strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an "
+     "untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is "
+     "NULL. Calls abort() if the handle tracks state and the instance has none."},
     {record, "copy", "Deep copy", "void {r}_clone(H, I, {r} *source, {r} **result, void *buffer, uint32_t size, E)",
      "Copy<{R}>::clone",
      "Makes a deep copy through a frame in buffer, which has size bytes, at least {r}_len(), and one guard byte after "
@@ -131,7 +133,8 @@ constexpr Row table[] = {
      "after any error; otherwise the caller owns the copy. A larger record needs {r}_clone()."},
     {record, "copy", "Deep copy", "void {r}_copy_cr(H, {r} *source, {r} *destination)", "Copy<{R}>::copy_cr",
      "Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is "
-     "not released. If the copy cannot be read back, the destination is destroyed and its memory freed."},
+     "not released. After an error do not use or destroy it: it has been freed if the copy could not be read, and "
+     "leaks if the copy could not be written. A NULL destination leaks the copy. {r}_clone_cr() has none of this."},
     {record, "text", "Text",
      "uint32_t {r}_print(H, I, char *buffer, uint32_t indent, const char *name, {r} *instance, int32_t remaining, E)",
      "Text<{R}>::print",
@@ -150,10 +153,10 @@ constexpr Row table[] = {
      "void {r}_from_xml(H, I, const char *path, void *document, {r} *instance, E, char *message, uint32_t "
      "message_size)",
      "XmlRead<{R}>::from_xml",
-     "Reads the element at a path of the runtime's document into the instance. Members without an element keep their "
-     "values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a "
-     "failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before "
-     "the call."},
+     "Reads the element at a path of the runtime's document into the instance. Members without an element, and strings "
+     "with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, "
+     "which ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. "
+     "Clear its first byte before the call."},
     {record, "compare", "Value", "int32_t {r}_compare(const {r} *a, const {r} *b)", "Compare<{R}>::compare",
      "Orders two instances by their members in table order; only the sign of the result has a meaning. NULL comes "
      "first. Header and state are ignored."},
@@ -162,8 +165,9 @@ constexpr Row table[] = {
      "for NULL."},
     {record, "propagate", "Value", "uint32_t {r}_type_type_backpropagate(H, I, {r} *instance, void *word)",
      "Propagate<{R}>::backpropagate",
-     "Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first "
-     "member that has one. word is passed to the runtime unchanged. NULL gives 0."},
+     "Returns 1 if the record or one of its members has the modified mark. Clears the mark of the record and of the "
+     "first member that has one. Does not look into arrays: call it for each element. word is passed to the runtime "
+     "unchanged. NULL gives 0."},
 
     // ---- members with one value
     {single, "accessors", "", "{A} *{r}_{f}_get(H, I, {r} *object, E)", "Accessor<{F}>::get",
@@ -215,19 +219,19 @@ constexpr Row table[] = {
      "the copy is truncated. EINVAL: size is 0. EIDRM: the object has no body."},
     {string, "strings", "", "void {r}_{f}_set(H, I, {r} *object, const char *text, uint32_t length, E)",
      "String<{F}>::set",
-     "Stores length bytes of text in {f}: {meaning}. length is truncated to 16 bits. If the text ends earlier or is "
-     "NULL, zero bytes follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL for a "
-     "NULL object and, on a tracking handle, for one without state bytes; EIDRM for one without a body.",
+     "Stores length bytes, modulo 65,536, of text in {f}: {meaning}. If the text ends earlier or is NULL, zero bytes "
+     "follow. ENOMEM if allocation fails; the previous text is released all the same. EINVAL for a NULL object and, on "
+     "a tracking handle, for one without state bytes; EIDRM for one without a body.",
      error},
     {array, "arrays", "", "{n} *{r}_{f}_get(H, I, {r} *object, uint32_t index, E)", "Array<{F}>::get",
      "Returns the address of an element of {f}: {meaning}. The array owns the element, and its next growth invalidates "
      "the address. ENOENT if the index is out of range, EIDRM if the object has no body."},
     {array, "arrays", "", "void {r}_{f}_set(H, I, {r} *object, uint32_t index, {n} *value, E)", "Array<{F}>::move_in",
      "MOVES the value into an element of {f}: {meaning}. An index out of range grows the array to index + 1 elements "
-     "and moves all of them, so set the highest index first. A NULL value grows the array and stores nothing; on a "
-     "tracking handle it is refused with EINVAL. ENOMEM if allocation fails. EINVAL for a NULL object and, on a "
-     "tracking handle, for an object or a value without state bytes; EIDRM for an object without a body. Does not mark "
-     "the object as modified."},
+     "and moves all of them, so set the highest index first. What the element owned before is not released. A NULL "
+     "value grows the array and stores nothing; on a tracking handle it is refused with EINVAL. ENOMEM if allocation "
+     "fails. EINVAL for a NULL object and, on a tracking handle, for an object or a value without state bytes; EIDRM "
+     "for an object without a body. Does not mark the object as modified."},
     {array, "arrays", "", "uint32_t {r}_{f}_set_cr(H, {r} *object, uint32_t index, {n} *value, uint32_t copy_mode)",
      "Array<{F}>::set_cr",
      "Sticky form of {r}_{f}_set(): copies the value with copy_mode 0 and moves it otherwise. Returns the handle's "
@@ -252,9 +256,9 @@ constexpr Row table[] = {
     {array, "arrays", "",
      "void {r}_{f}_state_flag_set_arr(H, I, {r} *object, const uint8_t *source, uint32_t length, E)",
      "Array<{F}>::state_flag_set_arr",
-     "Copies length bytes, which must equal the count of {f}, to the start of the object's whole state area, and not "
-     "to the element states. ENOENT for another length, EINVAL if the handle's tracking is off or the object has no "
-     "state."},
+     "Copies length bytes, which must equal the count of {f}, to the start of the object's state area, over the states "
+     "of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking is "
+     "off or the object has no state."},
 
     // ---- state of single members and strings
     {single | string, "accessors", "", "uint8_t {r}_{f}_state_flag_get(H, I, {r} *object, E)", "StateByte<{F}>::get",
@@ -321,7 +325,7 @@ constexpr Row table[] = {
      "Mixes the value into the seed. Returns the seed itself for NULL."},
     {enumeration, "enumeration", "Value", "uint32_t {e}_backpropagate(H, I, {e} *instance, void *word)",
      "Enum<{E}>::backpropagate",
-     "Returns 1 if the object has a change mark, and clears it. word is not used. NULL gives 0."},
+     "Returns 1 if the object has the modified mark, and clears it. word is not used. NULL gives 0."},
     {enumeration, "enumeration", "Wire", "uint32_t {e}_len(H, I, {e} *instance)", "Enum<{E}>::len",
      "Returns the number of bytes on the wire: 5, also for NULL."},
     {enumeration, "enumeration", "Wire", "uint32_t {e}_len_cr(H)", "Enum<{E}>::len_cr",
@@ -387,9 +391,9 @@ constexpr Row table[] = {
      "uint32_t {m}_message_marshal(H, I, void *buffer, {m} *message, uint32_t size, E)", "MessageWire<{M}>::marshal",
      "Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard "
      "byte after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain "
-     "does not have the message, ENOENT if the open bundle does not admit it. EMSGSIZE if the buffer is too small; "
-     "ENOMEM instead if it ends exactly where a record begins, or if allocation fails. EIDRM as in {r}_marshal(). "
-     "EINVAL if the message has no payload.",
+     "does not have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer is too "
+     "small, ENOMEM also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM as in "
+     "{r}_marshal(). EINVAL if the message has no payload.",
      size, "_unsafe"},
     {message, "message_wire", "Message frames",
      "uint32_t {m}_message_unmarshal(H, I, void *dispatch_ctx, {m} **out, void *buffer, uint32_t size, "
@@ -398,16 +402,15 @@ constexpr Row table[] = {
      "Reads a frame of size bytes from buffer, which has one guard byte after them, and records the message if the "
      "recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_{m}_message_handler() if handler is NULL. "
      "The receiver owns the message. out, which may be NULL, also gets its address. Returns the number of bytes "
-     "consumed; after an error the result has no meaning. EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its "
-     "first byte is not 0xBC, ENOMEM if allocation fails. The message of a bad frame is leaked: see "
-     "{m}_message_unmarshal_only()."},
+     "consumed. It may exceed size without an error: check it before you advance. After an error it has no meaning. "
+     "EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC, ENOMEM if allocation fails. "
+     "The message of a bad frame is leaked: see {m}_message_unmarshal_only()."},
     {message, "message_wire", "Message frames",
      "uint32_t {m}_message_unmarshal_only(H, I, {m} **out, void *buffer, uint32_t size, E)",
      "MessageWire<{M}>::unmarshal_only",
      "Reads a frame of size bytes from buffer, which has one guard byte after them, and returns the message through "
      "out. The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no "
-     "message can be allocated. Returns the number of bytes consumed; after an error the result has no meaning. Errors "
-     "as in {m}_message_unmarshal()."},
+     "message can be allocated. Result and errors as in {m}_message_unmarshal()."},
     {message, "message_rendering", "Message text and XML",
      "uint32_t {m}_message_print(H, I, char *buffer, {m} *message, uint32_t size, E)", "MessageRendering<{M}>::print",
      "Writes the message as readable text. Returns the length in bytes without the final NUL. The indent of closing "
@@ -444,12 +447,14 @@ constexpr Row table[] = {
      "Sticky form of {b}_bundle_{k}_message_create(): returns a sentinel instead of NULL if allocation fails or "
      "last_error is set already. Only {b}_bundle_{k}_message_destroy_cr() accepts the sentinel."},
     {control, "control", "Control messages", "void {b}_bundle_{k}_message_destroy(H, I, void *token)",
-     "ControlMessage<{B}, {K}>::destroy", "Frees the token. NULL is ignored.", none, "_unsafe"},
+     "ControlMessage<{B}, {K}>::destroy",
+     "Frees the token. NULL is ignored. Release a token of {b}_bundle_{k}_message_create_cr() with "
+     "{b}_bundle_{k}_message_destroy_cr() instead.",
+     none, "_unsafe"},
     {control, "control", "Control messages", "void {b}_bundle_{k}_message_destroy_cr(H, void *token)",
      "ControlMessage<{B}, {K}>::destroy_cr", "Frees the token. NULL and the sentinel are ignored."},
     {control, "control", "Control messages", "uint32_t {b}_bundle_{k}_message_len(H, I, void *token)",
-     "ControlMessage<{B}, {K}>::len", "Returns the size of the frame: 43 bytes, header and identity.", zero,
-     "_unsafe"},
+     "ControlMessage<{B}, {K}>::len", "Returns the size of the frame: 43 bytes, header and identity.", zero, "_unsafe"},
     {control, "control", "Control messages",
      "uint32_t {b}_bundle_{k}_message_marshal(H, I, void *buffer, void *token, uint32_t size, E)",
      "ControlMessage<{B}, {K}>::marshal",
@@ -512,15 +517,17 @@ constexpr Row table[] = {
 
     // ---- the module
     {module, "module", "Types", "void lumo_ui_tarn_typeinfo_initialize(H, I, E)", "initialize_private_types",
-     "Creates the private copies of type records that are missing in the handle's type store. Call it before the first "
-     "use of a handle with private types. ENOMEM if allocation fails. err is not read."},
+     "Creates the copies of type records that are missing in the handle's type store. Call it before the first use of "
+     "a handle with private types, which has copies of its own. ENOMEM if allocation fails. err is not read."},
     {module, "module", "Types", "void lumo_ui_tarn_type_variant_dump(mirk_print_fn print)", "dump_variants",
-     "Prints the number of variants of each type and, for each variant, the used length and the slop of an instance in "
-     "bytes."},
+     "Prints the number of variants of each type and, for each variant, the length of an instance and of the padding "
+     "after it (slop) in bytes."},
     {module, "module", "Trace", "void mirk_lumo_ui_tarn_type_trace_init(void)", "initialize_type_trace",
-     "Registers the trace module of records and enumerations; may be repeated. Creating a record calls it."},
+     "Registers the trace module of records and enumerations. Creating a record calls it. Repeated calls have no "
+     "effect."},
     {module, "module", "Trace", "void mirk_lumo_ui_tarn_message_trace_init(void)", "initialize_message_trace",
-     "Registers the trace module of messages; may be repeated. Call it once; otherwise message traces go to module 0."},
+     "Registers the trace module of messages. Call it at least once: until then message traces go to module 0. "
+     "Repeated calls have no effect."},
     {module, "registration", "Registration",
      "mirk_bundle_handler lumo_ui_tarn_bundle_handler_register(mirk_bundle_handler handler)", "register_for_module",
      "Registers one handler for all bundles of this module and of the modules it depends on, and returns the previous "

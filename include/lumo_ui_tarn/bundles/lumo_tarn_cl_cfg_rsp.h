@@ -50,7 +50,8 @@ LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_start_message_create_unsafe(m
  * fails or last_error is set already. Only lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy_cr() accepts the
  * sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_start_message_create_cr(mirk_handle *h);
-/** Frees the token. NULL is ignored. */
+/** Frees the token. NULL is ignored. Release a token of lumo_tarn_cl_cfg_rsp_bundle_start_message_create_cr() with
+ * lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy_cr() instead. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy(mirk_handle *h, uint32_t ctx_id, void *token);
 /** Another name of lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_start_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
@@ -137,7 +138,8 @@ LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_abort_message_create_unsafe(m
  * fails or last_error is set already. Only lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy_cr() accepts the
  * sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_abort_message_create_cr(mirk_handle *h);
-/** Frees the token. NULL is ignored. */
+/** Frees the token. NULL is ignored. Release a token of lumo_tarn_cl_cfg_rsp_bundle_abort_message_create_cr() with
+ * lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy_cr() instead. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy(mirk_handle *h, uint32_t ctx_id, void *token);
 /** Another name of lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_abort_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,
@@ -226,7 +228,8 @@ LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_commit_message_create_unsafe(
  * fails or last_error is set already. Only lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy_cr() accepts the
  * sentinel. */
 LUMO_UI_TARN_API void *lumo_tarn_cl_cfg_rsp_bundle_commit_message_create_cr(mirk_handle *h);
-/** Frees the token. NULL is ignored. */
+/** Frees the token. NULL is ignored. Release a token of lumo_tarn_cl_cfg_rsp_bundle_commit_message_create_cr() with
+ * lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy_cr() instead. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy(mirk_handle *h, uint32_t ctx_id, void *token);
 /** Another name of lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy(). */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_rsp_bundle_commit_message_destroy_unsafe(mirk_handle *h, uint32_t ctx_id,

@@ -91,7 +91,7 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_map_to_internal_value(uint32_t va
 LUMO_UI_TARN_API int32_t lumo_tarn_mem_desc_e_compare(const lumo_tarn_mem_desc_e *a, const lumo_tarn_mem_desc_e *b);
 /** Mixes the value into the seed. Returns the seed itself for NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_hash(const lumo_tarn_mem_desc_e *instance, uint32_t seed);
-/** Returns 1 if the object has a change mark, and clears it. word is not used. NULL gives 0. */
+/** Returns 1 if the object has the modified mark, and clears it. word is not used. NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_mem_desc_e_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_mem_desc_e *instance, void *word);
 /** @} */

@@ -76,9 +76,9 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_msg_message_len_unsafe(mirk_ha
     lumo_tarn_pal_mp_prefix_msg *message);
 /** Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard byte
  * after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain does not
- * have the message, ENOENT if the open bundle does not admit it. EMSGSIZE if the buffer is too small; ENOMEM instead if
- * it ends exactly where a record begins, or if allocation fails. EIDRM as in lumo_tarn_pal_mp_prefix_data_marshal().
- * EINVAL if the message has no payload. */
+ * have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer is too small, ENOMEM
+ * also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM as in
+ * lumo_tarn_pal_mp_prefix_data_marshal(). EINVAL if the message has no payload. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_msg_message_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_pal_mp_prefix_msg *message, uint32_t size, uint32_t *err);
 /** Sticky form of lumo_tarn_pal_mp_prefix_msg_message_marshal(). Returns 0xFFFFFFFF after an error. */
@@ -90,16 +90,15 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_msg_message_marshal_unsafe(mir
 /** Reads a frame of size bytes from buffer, which has one guard byte after them, and records the message if the
  * recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_lumo_tarn_pal_mp_prefix_msg_message_handler() if
  * handler is NULL. The receiver owns the message. out, which may be NULL, also gets its address. Returns the number of
- * bytes consumed; after an error the result has no meaning. EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if
- * its first byte is not 0xBC, ENOMEM if allocation fails. The message of a bad frame is leaked: see
- * lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only(). */
+ * bytes consumed. It may exceed size without an error: check it before you advance. After an error it has no meaning.
+ * EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC, ENOMEM if allocation fails. The
+ * message of a bad frame is leaked: see lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_msg_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, lumo_tarn_pal_mp_prefix_msg **out, void *buffer, uint32_t size, mirk_message_handler handler,
     uint32_t *err);
 /** Reads a frame of size bytes from buffer, which has one guard byte after them, and returns the message through out.
  * The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no message
- * can be allocated. Returns the number of bytes consumed; after an error the result has no meaning. Errors as in
- * lumo_tarn_pal_mp_prefix_msg_message_unmarshal(). */
+ * can be allocated. Result and errors as in lumo_tarn_pal_mp_prefix_msg_message_unmarshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_pal_mp_prefix_msg_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix_msg **out, void *buffer, uint32_t size, uint32_t *err);
 /** @} */

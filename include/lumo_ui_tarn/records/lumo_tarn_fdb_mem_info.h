@@ -27,8 +27,8 @@ extern LUMO_UI_TARN_API mirk_type_info _lumo_tarn_fdb_mem_info_type_info_interna
  * enumeration member fails. The caller owns the instance and releases it with lumo_tarn_fdb_mem_info_destroy(). */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_fdb_mem_info_create(mirk_handle *h, uint32_t ctx_id);
 /** Sticky form of lumo_tarn_fdb_mem_info_create(): returns a sentinel instead of NULL if allocation fails or last_error
- * is set already. Returns NULL, not the sentinel, if initialization fails; last_error may then be 0. Only destroy
- * operations, and sticky forms while last_error is set, accept the sentinel. */
+ * is set already. Returns NULL, not the sentinel, if the domain look-up of an enumeration member fails; last_error may
+ * then be 0. Only destroy operations, and sticky forms while last_error is set, accept the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_fdb_mem_info_create_cr(mirk_handle *h);
 /** Same as lumo_tarn_fdb_mem_info_create(), but does not register the trace module of types. For callers that create
  * many instances. */
@@ -40,11 +40,11 @@ LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_fdb_mem_info_create_internal(
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_initialize(mirk_handle *h, uint32_t ctx_id, lumo_tarn_fdb_mem_info *object,
     mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
 /** Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its state
- * area. Blocks of arrays and strings are not counted. The size differs between handles. */
+ * area. Blocks of arrays and strings are not counted. The size differs between tracking modes. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_fdb_mem_info_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, addresses and
+/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
  * booleans nested in it. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object);
@@ -88,8 +88,9 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_set(mirk_handle *h, uint32_t ctx_id
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_post_copyout_cleanup(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *new_location, lumo_tarn_fdb_mem_info *old_location, uint32_t *err);
 /** Fills the state area of the instance and of each element of its own arrays with one byte, without notifications.
- * Elements of arrays in nested records are not filled. All element states then read as this value and can no longer be
- * set one by one. Has no effect without tracking. */
+ * Elements of arrays in nested records are not filled. Leaks the blocks of element states: the elements of each array
+ * then all have this state, and setting it for one of them has no effect. When such an array grows, the state of its
+ * old elements becomes 0, and states can be set again. Has no effect without tracking. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_set_all_state_tracking_flag(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint8_t value);
 /** Returns 1 if the record has a member with this index, counted from 0 in table order, else 0. If the domain has a
@@ -108,11 +109,11 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_get_oid_count(mirk_handle *h, u
  * NULL. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_get_object_references(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, void **oids, uint32_t size, uint32_t *err);
-/** Records in the runtime where the state of each nested record and address is, in the state area at this address. For
- * code that has moved the instance or its state. Acts even if err is already set. */
+/** Stores in the runtime where the state of each nested record and IP address is. state_area is the address of the
+ * instance's state area. For code that has moved the instance or its state. Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_offset_update(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, void *state_area, uint32_t *err);
-/** Removes from the runtime the state locations that lumo_tarn_fdb_mem_info_offset_update() recorded, at every depth.
+/** Removes from the runtime the state locations that lumo_tarn_fdb_mem_info_offset_update() stored, at every depth.
  * Acts even if err is already set. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_offset_remove(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *object, uint32_t *err);
@@ -127,8 +128,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_len(mirk_handle *h, uint32_t ct
 /** Sticky form of lumo_tarn_fdb_mem_info_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_len_cr(mirk_handle *h, lumo_tarn_fdb_mem_info *instance);
 /** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE if the buffer is too small; ENOMEM instead
- * if it ends exactly where a record begins. EINVAL if instance is NULL. EIDRM if the domain does not have the
+ * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
+ * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
  * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_fdb_mem_info *instance, int32_t remaining, uint32_t *err);
@@ -137,10 +138,11 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_marshal(mirk_handle *h, uint32_
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_fdb_mem_info *instance, int32_t remaining, uint32_t *err);
 /** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed; after an error the result has no meaning. reuse 0: the instance owns nothing yet; anything it
- * owned is leaked. reuse 1: its arrays and strings are kept where the counts are equal. The frame may come from an
- * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
- * Aborts if the handle tracks state and the instance has none. */
+ * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
+ * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
+ * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
+ * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
+ * if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_fdb_mem_info *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
@@ -157,7 +159,8 @@ LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_clone(mirk_handle *h, uint32_t ctx_
 LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_fdb_mem_info_clone_cr(mirk_handle *h,
     lumo_tarn_fdb_mem_info *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
- * released. If the copy cannot be read back, the destination is destroyed and its memory freed. */
+ * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_fdb_mem_info_clone_cr() has none of this. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_copy_cr(mirk_handle *h, lumo_tarn_fdb_mem_info *source,
     lumo_tarn_fdb_mem_info *destination);
 /** @} */
@@ -184,10 +187,10 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_to_xml(mirk_handle *h, uint32_t
 /** Sticky form of lumo_tarn_fdb_mem_info_to_xml(), under the type's own name. Returns 0xFFFFFFFF after an error. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_toxml_cr(mirk_handle *h, lumo_tarn_fdb_mem_info *instance,
     char *buffer, int32_t remaining);
-/** Reads the element at a path of the runtime's document into the instance. Members without an element keep their
- * values. ENOENT if there is no element at the path. EINVAL for an invalid number, which ends the reading. Only a
- * failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its first byte before the
- * call. */
+/** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
+ * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
+ * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
+ * first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_fdb_mem_info_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_fdb_mem_info *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -201,8 +204,9 @@ LUMO_UI_TARN_API int32_t lumo_tarn_fdb_mem_info_compare(const lumo_tarn_fdb_mem_
 /** Mixes all members into the seed. Equal instances give equal results in every process. Returns the seed itself for
  * NULL. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_hash(const lumo_tarn_fdb_mem_info *instance, uint32_t seed);
-/** Returns 1 if the record or one of its members has a change mark. Clears the mark of the record and of the first
- * member that has one. word is passed to the runtime unchanged. NULL gives 0. */
+/** Returns 1 if the record or one of its members has the modified mark. Clears the mark of the record and of the first
+ * member that has one. Does not look into arrays: call it for each element. word is passed to the runtime unchanged.
+ * NULL gives 0. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_fdb_mem_info_type_type_backpropagate(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_fdb_mem_info *instance, void *word);
 /** @} */
