@@ -24,7 +24,7 @@
 #define LUMO_UI_TARN_END
 #endif
 
-/** @name Bits of an object's obj_flag
+/** @name Bits of an object's obj_flag; 16 belongs to the runtime
  *  @{ */
 #define MIRK_OBJ_OID_MAPPED 1    /**< other objects refer to it by its identifier */
 #define MIRK_OBJ_EMBEDDED 2      /**< lies in memory of another object */
