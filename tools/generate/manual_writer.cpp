@@ -120,8 +120,9 @@ A number that is passed to the memory callbacks of the runtime unchanged.
 .It Fa err
 The error slot: 0, or a number from
 .In errno.h .
-Calls are no-ops that return 0 or NULL once it is set; check it once at the end of a sequence.
-RECORD_set, RECORD_post_copyout_cleanup, RECORD_offset_update and RECORD_offset_remove act regardless.
+Once it is set, calls are no-ops that return 0, NULL or their documented failure value; check it once at the end.
+RECORD_set, RECORD_post_copyout_cleanup, RECORD_offset_update, RECORD_offset_remove, the from_xml operations of control
+messages, and lumo_ui_tarn_typeinfo_initialize act regardless.
 After an error inside a bundle, clear it and marshal the abort: a commit called with it set leaves the bundle open.
 .El
 .Pp
@@ -134,7 +135,7 @@ Every buffer for a frame, of a record or of a message, has one guard byte after 
     out += operations("Records", "Each RECORD has these.", record);
     out += operations(
         "Members with one value",
-        "An integer, boolean, enumeration, address or nested record has these. The last two have no value forms.",
+        "An integer, boolean, enumeration, IP address or nested record has these. The last two have no value forms.",
         integer | boolean | enumerated | address | nested);
     out += operations("Counts and lengths", "A count or a length has these.", count | length);
     out += operations("Strings", "A string has these.", string);
@@ -170,29 +171,32 @@ Every buffer for a frame, of a record or of a message, has one guard byte after 
     return out + R"mdoc(.Sh ERRORS
 .Bl -tag -width Er
 .It Bq Er ENOENT
-There is no such index, element or object, no bundle is open, or the open bundle does not admit the message.
+There is no such index, element or object, no bundle is open to be ended, or the open bundle does not admit the message.
 .It Bq Er ENOMEM
-Allocation failed, or a buffer ends exactly where a record begins.
+Allocation failed.
+For some sizes of a buffer it is set in place of EMSGSIZE.
 .It Bq Er EEXIST
 A bundle is already open.
 .It Bq Er EINVAL
 There are no state bytes, a pointer is NULL, a number in XML is invalid, or a string's destination has size 0.
 .It Bq Er ENOSPC
-The destination is too short for the text.
+A string was truncated, or the buffer of a print operation is too small.
 .It Bq Er ENOSYS
 No handler took the message.
 .It Bq Er EIDRM
 The object has no body, the domain does not have its variant, or the enumeration does not have the value.
 A lenient runtime does not set it; marshal operations then write the frame in the domain's variant.
+Explicit forms still set last_error, and sticky forms do nothing until an explicit form clears it.
 .It Bq Er EBADE
 The domain does not have the message.
 .It Bq Er EBADMSG
-A control message is out of order, or a message's frame does not begin with 0xBC.
+A commit or an abort was received while no bundle is open, or a message's frame does not begin with 0xBC.
 .It Bq Er EMSGSIZE
-The buffer is too small for the frame or the text, or the frame is too short.
+The buffer is too small for the frame or the XML, or for parts of RECORD_print, or the frame is too short.
 .El
 .Pp
-Nothing is rolled back; an object can be destroyed after any failure.
+Nothing is rolled back.
+An object can be destroyed after any failure, except the destination of a failed RECORD_copy_cr.
 .Sh SEE ALSO
 .Xr tarn 1 ,
 .Xr tarn_frame 5
