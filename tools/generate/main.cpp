@@ -2,9 +2,9 @@
 // arguments of exports are the sources of the library, those of link NAME=VALUE for the build stamp of the manifest.
 //
 // tools/generate may include schema/, the drawing code of tools/draw, and mirk_platform.h for the constants that the
-// dissector needs. It does not include the library or the headers that it prints: it forms names and prototypes, and has
-// no knowledge of how an operation works. Exported names are formed in api.cpp alone, and texts about operations are
-// written in operations.cpp alone.
+// dissector needs. It does not include the library or the headers that it prints: it forms names and prototypes, and
+// has no knowledge of how an operation works. Exported names are formed in api.cpp alone, and texts about operations
+// are written in operations.cpp alone.
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
