@@ -132,12 +132,7 @@ public:
     }
 
     // Disconnects a peer that exceeded a limit or sent something other than a frame.
-    void refuse(const char *reason) {
-        if (closed_) return;
-        const auto self = shared_from_this();
-        server_.notify_refused(peer_, reason);
-        close(3, reason);
-    }
+    void refuse(const char *reason) { close(3, reason, true); }
 
     // Sends what the socket accepts without blocking, then closes.
     void stop() {
@@ -149,16 +144,18 @@ public:
         close(7, "the server stops");
     }
 
-    void close(uint32_t level, const char *reason) {
+    void close(uint32_t level, const char *reason, bool refused = false) {
         if (closed_) return;
         closed_ = true;
         // The connection may own `reason`.
         const auto self = shared_from_this();
-        skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
-                      level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
+        // Removed before any callback, which could otherwise send to this peer and exceed the limit again.
         server_.connections.erase(peer_);
         server_.total_pending -= pending_;
         pending_ = 0;
+        if (refused) server_.notify_refused(peer_, reason);
+        skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
+                      level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
         if (server_.options.on_disconnect != nullptr) {
             server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
         }

@@ -228,6 +228,28 @@ TEST(Transport, ReportsEachPeerThatExceededALimit) {
     EXPECT_EQ(echo.reasons, (std::vector<std::string>{"its frame exceeds the limit"}));
 }
 
+TEST(Transport, SendingToARefusedPeerIsEnotconn) {
+    test::Trace trace;
+    static std::vector<uint32_t> results;
+    results.clear();
+    auto options = Echo::defaults();
+    options.pending_limit = 50;
+    options.on_refused = [](void *, mirk_platform_server *server, mirk_platform_peer peer, const char *) {
+        const std::string beyond_the_limit = frame(60, 'r');
+        results.push_back(mirk_platform_server_send(server, peer, beyond_the_limit.data(), beyond_the_limit.size()));
+    };
+    Echo echo(options);
+    for (const std::string &refused : {frame(60, 'a'), std::string(43, 'x')}) {
+        Client client(echo.path);
+        client.send(refused);
+        EXPECT_EQ(client.next(), "ECONNRESET");
+    }
+    echo.stop();
+    EXPECT_EQ(results, (std::vector<uint32_t>{ENOTCONN, ENOTCONN}));
+    EXPECT_EQ(echo.reasons,
+              (std::vector<std::string>{"it left too many bytes unread", "it sent bytes that are not a frame"}));
+}
+
 TEST(Transport, LimitsTheTimeForAFrame) {
     test::Trace trace;
     auto options = Echo::defaults();
