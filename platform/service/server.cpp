@@ -6,6 +6,7 @@
 //
 // Connections and their acceptor work with any stream socket; only listening differs between socket files and TCP
 // ports.
+#include <fcntl.h>
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -36,6 +37,10 @@ struct SocketFile {
 
     void record_identity() {
         if (::stat(path.c_str(), &bound) != 0) path.clear();
+    }
+    // Restores access rights that the umask has removed. Never follows a symbolic link that has replaced the file.
+    bool set_mode(mode_t mode) const {
+        return (bound.st_mode & 07777) == mode || ::fchmodat(AT_FDCWD, path.c_str(), mode, AT_SYMLINK_NOFOLLOW) == 0;
     }
     void remove() const {
         struct stat now {};
@@ -347,7 +352,7 @@ mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
     if (const mirk_platform_error error = remove_stale_socket_file(context, path, endpoint); error != 0) return error;
     asio::error_code error;
     acceptor.open(endpoint.protocol(), error);
-    // Binding gives the file the mode of the socket, so the file never has wider access rights.
+    // Binding gives the file the mode of the socket without the bits of the umask, so it never has wider access rights.
     if (!error && ::fchmod(acceptor.native_handle(), options.socket_mode) != 0) {
         return static_cast<mirk_platform_error>(errno);
     }
@@ -356,6 +361,7 @@ mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
         endpoint_text = path;
         file.path = path;
         file.record_identity();
+        if (!file.set_mode(options.socket_mode)) return static_cast<mirk_platform_error>(errno);
         acceptor.listen(asio::socket_base::max_listen_connections, error);
     }
     return number_of(error);

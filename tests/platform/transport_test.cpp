@@ -346,6 +346,19 @@ TEST(Transport, StopEndsRunAndRemovesTheFile) {
     EXPECT_EQ(client.next(), "ECONNRESET");
 }
 
+TEST(Transport, TheUmaskDoesNotChangeTheAccessRightsOfTheFile) {
+    auto options = Echo::defaults();
+    options.socket_mode = 0660;
+    for (const mode_t mask : {mode_t{0}, mode_t{027}, mode_t{0777}}) {
+        const mode_t before = umask(mask);
+        const Echo echo(options);
+        umask(before);
+        struct stat info {};
+        ASSERT_EQ(stat(echo.path.c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 0777, 0660u) << mask;
+    }
+}
+
 TEST(Transport, RunReturnsIfStoppedBefore) {
     auto options = Echo::defaults();
     options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
