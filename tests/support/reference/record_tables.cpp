@@ -5,6 +5,18 @@ namespace reference {
 // A record line has the name, the luid, and the sizes: used, rounded, slop, base, state, tracked. Its members follow in
 // order, each with its class and type; a string and an array name the member that counts them, and an array names the
 // method that computes its length.
+//
+// The sizes are in bytes, with offsets from the start of the instance or of its state area:
+//   used     11 for the header, then the members: integers, counts and lengths at multiples of their size; at multiples
+//            of 8, booleans and enumerations of 16, addresses of 40, strings and arrays of 8, and nested records of
+//            their base
+//   rounded  used, rounded up to a multiple of 8
+//   base     rounded + 8, or + 16 if rounded is 64 or more
+//   slop     base - used
+//   state    1 for each member but counts and lengths; after it 7 for an address; 8 for an array, at a multiple of 8;
+//            for a nested record its state, at a multiple of 8 if it has an array at any depth. With an array at any
+//            depth, the sum is rounded up to a multiple of 8
+//   tracked  base + state
 const char *const record_tables = R"tables(
 record lumo_tarn_exmem_info 60d55c75e70c45de4e19a835975182eb 44 48 12 56 4 60
   cl_addr integer u_int64
