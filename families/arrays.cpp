@@ -285,6 +285,17 @@ void Array<A>::set(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, st
     }
 }
 
+// The first growth in the life of a process is reported, which the shortcut does not do.
+template <class A>
+void Array<A>::append(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
+                      mirk_object *value, std::uint32_t *err) {
+    if constexpr (runtime_inside) {
+        const bool reported = growth_reported<A>.load(std::memory_order_relaxed);
+        if (reported && shortcut::append<A>(h, ctx_id, object, index, value, err)) return;
+    }
+    set(h, ctx_id, object, index, value, 1, err);
+}
+
 template <class A>
 std::uint32_t Array<A>::set_cr(mirk_handle *h, mirk_object *object, std::uint32_t index, mirk_object *value,
                                std::uint32_t copy_mode) {

@@ -17,6 +17,9 @@ struct Array {
                         mirk_object *value, std::uint32_t *err) {
         set(h, ctx_id, object, index, value, 1, err);
     }
+    // The same, for a caller that has moved in all elements before this one.
+    static void append(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,
+                       mirk_object *value, std::uint32_t *err);
     static std::uint32_t set_cr(mirk_handle *h, mirk_object *object, std::uint32_t index, mirk_object *value,
                                 std::uint32_t copy_mode);
     static std::uint8_t state_flag_get(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t index,

@@ -85,7 +85,7 @@ bool XmlReader::array() {
             Lifecycle<A::element>::destroy(h, ctx_id, element);
             return ignore_absence();
         }
-        Array<A>::move_in(h, ctx_id, instance, i, element, err);
+        Array<A>::append(h, ctx_id, instance, i, element, err);
         Lifecycle<A::element>::destroy(h, ctx_id, element);
     }
 }

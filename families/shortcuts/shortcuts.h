@@ -6,6 +6,7 @@
 #pragma once
 
 #include "families/shortcuts/access.h"
+#include "families/shortcuts/append.h"
 #include "families/shortcuts/compare.h"
 #include "families/shortcuts/destroy.h"
 #include "families/shortcuts/initialize.h"

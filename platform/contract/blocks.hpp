@@ -3,10 +3,12 @@
 // table.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 #include "platform/contract/address_table.hpp"
@@ -65,6 +67,19 @@ public:
             large_.erase(address_of(place.address));
             std::free(place.address);
         }
+    }
+
+    // Gives a live block another size. It may move, with as much of its contents as fits. Its record has to be filled
+    // in again. If allocation fails, the address is null and the block stays as it is.
+    Place resize(const Place &old, size_t size) {
+        if (old.slab == nullptr && size >= cells_below_) return resize_large(old, size);
+        if (old.slab != nullptr && size <= old.slab->cell_size) return old;
+        const size_t kept = std::min(old.block->size, size);
+        const Place place = allocate(size);
+        if (place.address == nullptr) return place;
+        std::memcpy(place.address, old.address, kept);
+        release(old);
+        return place;
     }
 
     template <typename Visit>
@@ -169,6 +184,15 @@ private:
         if (block != nullptr) return {address, block, nullptr};
         std::free(address);
         return {};
+    }
+
+    Place resize_large(const Place &old, size_t size) {
+        const uintptr_t old_address = address_of(old.address);
+        void *const address = std::realloc(old.address, size == 0 ? 1 : size);
+        if (address == nullptr || address_of(address) == old_address) return {address, old.block, nullptr};
+        // The table has room for the new entry, since it had room for the old one.
+        large_.erase(old_address);
+        return {address, large_.put(address_of(address), {}), nullptr};
     }
 
     // Null if allocation fails.

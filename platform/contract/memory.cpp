@@ -151,6 +151,35 @@ void mirk_inside_count_lookups(mirk_handle *h, uint64_t n) {
     own(h)->operation_failures[MIRK_PLATFORM_TESTING_VARIANT_LOOKUP].calls += n;
 }
 
+// Has the effect of obj_alloc, of moving the contents, and of obj_free, but the block may stay where it is. If
+// allocation fails, *block is null and the old block stays as it was. False: nothing was done, and the callbacks have
+// to be called.
+bool mirk_inside_grow_block(mirk_handle *h, uint32_t ctx_id, void **block, size_t size) {
+    Handle &handle = *own(h);
+    if (h->obj_alloc != obj_alloc || h->obj_free != obj_free || h->mem_ctx != h) return false;
+    const mirk::Blocks::Place old = handle.blocks.find(*block);
+    if (old.block == nullptr || old.block->has_offsets) return false;
+    const size_t old_size = old.block->size;
+    mirk::Blocks::Place grown{};
+    if (!failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) {
+        if (within_ceilings(handle, size, false)) {
+            grown = handle.blocks.resize(old, size);
+        } else {
+            ++handle.ceiling_refusals;
+        }
+    }
+    if (grown.address != nullptr) {
+        // Entries of objects in the old block do not move to the new one.
+        handle.offsets.erase_block(old.address, old_size, false);
+        handle.ra_data.erase_block(old.address, old_size, false);
+        handle.references.erase_block(old.address, old_size);
+        *grown.block = {++handle.blocks_made, size, ctx_id, false};
+        handle.live_bytes += size - old_size;
+    }
+    *block = grown.address;
+    return true;
+}
+
 void *mirklib_malloc(void *, uint32_t, size_t size) {
     {
         const std::lock_guard<std::mutex> hold(plain_lock);

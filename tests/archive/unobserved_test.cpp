@@ -437,6 +437,35 @@ TEST_P(Observed, BehavesLikeAnUnobservedHandle) {
     }
 }
 
+// The document's elements are appended one by one. Growth is reported once per process, and with the first element that
+// follows another one.
+TEST(Unobserved, ReadsALongArrayFromADocumentLikeAnObservedHandle) {
+    mirk_platform_trace_set_levels(1);
+    const RecordOperations &record = bridge::operations("lumo_tarn_dp_tc_list");
+    reference::Generator generator(7, {.min_elements = 300, .max_elements = 300, .budget = 1 << 20, .states = false});
+    const reference::Record value = generator.make(record.record->name);
+    const Handle writer;
+    const bridge::Instance source(writer, value);
+    std::string text(1 << 20, ' ');
+    std::uint32_t err = 0;
+    text.resize(
+        record.to_xml(writer, id, "o", text.data(), source.get(), static_cast<std::int32_t>(text.size()), 0, &err));
+    ASSERT_EQ(err, 0u);
+    const auto read = [&](bool observed, std::uint64_t ceiling) {
+        Side side({.total_ceiling = ceiling});
+        if (observed) observe(side.handle, Observer::hook);
+        side.objects[0] = {&record, record.create(side.handle, id)};
+        void *document = mirk_platform_document_load_memory(text.data(), text.size(), nullptr);
+        char message[64];
+        record.from_xml(side.handle, id, "/o", document, side.objects[0].instance, &side.err, message, sizeof message);
+        mirk_platform_document_free(document);
+        return picture(side);
+    };
+    // With the second ceiling, there is no room for the old block and the new one from some element on.
+    const std::uint64_t ceilings[] = {1 << 20, 64 << 10};
+    for (const std::uint64_t ceiling : ceilings) EXPECT_EQ(read(false, ceiling), read(true, ceiling));
+}
+
 TEST(Unobserved, AHookSeesCallsAsLongAsItIsSet) {
     const Handle h;
     const RecordOperations &record = bridge::operations("lumo_tarn_dp_tc");

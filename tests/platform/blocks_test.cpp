@@ -127,3 +127,31 @@ TEST(BlocksOfMalloc, AreUsedForEverySizeIfCellsAreNot) {
         EXPECT_EQ(blocks.find(place.address).block, nullptr);
     }
 }
+
+TEST_F(Cells, ResizedBlocksKeepTheirContentsAndTheirNeighbors) {
+    std::vector<char *> neighbors;
+    char *block = allocate(1);
+    *block = 'a';
+    for (size_t size = 1; size < 5000;) {
+        neighbors.push_back(allocate(size));
+        std::memset(neighbors.back(), 'n', size);
+        const size_t more = size + size / 7 + 1;
+        const Blocks::Place place = blocks.resize(blocks.find(block), more);
+        ASSERT_NE(place.address, nullptr);
+        *place.block = {++serial, more, 0, false};
+        char *const moved = static_cast<char *>(place.address);
+        ASSERT_TRUE(moved == block || !is_live(block));
+        block = moved;
+        for (size_t i = 0; i < size; ++i) ASSERT_EQ(block[i], 'a');
+        std::memset(block, 'a', more);
+        size = more;
+    }
+    EXPECT_EQ(blocks.size(), neighbors.size() + 1);
+    for (char *const neighbor : neighbors) {
+        const size_t size = blocks.find(neighbor).block->size;
+        for (size_t i = 0; i < size; ++i) ASSERT_EQ(neighbor[i], 'n');
+        release(neighbor);
+    }
+    release(block);
+    EXPECT_EQ(blocks.size(), 0u);
+}
