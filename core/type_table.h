@@ -29,10 +29,16 @@ inline constexpr int variant_entries = 129;
 // Counters, and the lengths of an object of the type. Initialized at compile time, although that takes a quarter of a
 // megabyte in the file: a constructor that runs before this library's own may create and read objects, and the runtime
 // copies each record by these lengths.
+//
+// Threads that share types change the counters of the last entry. Nothing else is in its cache line: the record of the
+// type, which each of them reads for every object, would otherwise follow directly.
+struct alignas(64) VariantEntries : std::array<mirk_variant_entry, variant_entries> {};
+static_assert((variant_entries - 1) * sizeof(mirk_variant_entry) % 64 == 0);
+
 template <const auto &Type>
-inline constinit std::array<mirk_variant_entry, variant_entries> entries_of = [] {
+inline constinit VariantEntries entries_of = [] {
     constexpr std::uint32_t used = used_length(Type), slop = alloc_slop(Type);
-    std::array<mirk_variant_entry, variant_entries> entries{};
+    VariantEntries entries{};
     for (mirk_variant_entry &entry : entries) {
         entry.used_length = used;
         entry.alloc_slop = slop;

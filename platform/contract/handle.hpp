@@ -114,7 +114,8 @@ struct DispatchEntry {
     mirk_platform_message message;
 };
 
-struct Handle : mirk_handle {
+// Aligned to cache lines, so that threads with handles of their own share none.
+struct alignas(64) Handle : mirk_handle {
     explicit Handle(bool use_cells) : mirk_handle{}, blocks(use_cells) {}
 
     mirk_sttr_desc descriptor{};

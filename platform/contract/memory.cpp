@@ -108,8 +108,13 @@ void memory_callbacks(Handle &handle) {
 }
 
 void *allocate_until_close(Handle &handle, size_t size) {
-    void *block = std::calloc(1, size == 0 ? 1 : size);
+    // Counters of private types are written often, so they share no cache line with memory of other handles.
+    constexpr size_t line = 64;
+    if (size > SIZE_MAX - line) return nullptr;
+    const size_t rounded = (size / line + 1) * line;
+    void *block = std::aligned_alloc(line, rounded);
     if (block == nullptr) return nullptr;
+    std::memset(block, 0, rounded);
     const auto error = guarded([&]() -> mirk_platform_error {
         handle.system_blocks.push_back(block);
         return 0;

@@ -8,10 +8,13 @@ namespace {
 
 constexpr int variant_entries = 129;  // negative variants index backwards, down to -128
 
-struct VariantBlock {
+// Threads that share types change the counters, which are at the end: nothing else is in their cache line.
+struct alignas(64) VariantBlock {
     mirk_variant_info info;
+    char padding[48];
     mirk_variant_entry entries[variant_entries];
 };
+static_assert(offsetof(VariantBlock, entries[variant_entries - 1]) % 64 == 0);
 
 constexpr mirk_type_info describe(const mirk::Luid &luid, const char *name, mirk_variant_info *variants) {
     constexpr char digits[] = "0123456789abcdef";
