@@ -31,6 +31,13 @@ TEST_P(EveryMessage, IsEncodedFromXmlAsTheReferenceEncodesIt) {
     EXPECT_EQ(outcome.out, frame(GetParam(), payload, false, 77));
 }
 
+TEST_P(EveryMessage, GetsPerFieldStateFromFramesWithoutIt) {
+    const reference::Record payload = plain_payload(GetParam(), 39);
+    const Outcome outcome = tarn({"encode", "--tracked"}, frame(GetParam(), payload, false));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, frame(GetParam(), payload, true));
+}
+
 // Variants, RA data, states and numbers out of range survive; only a NUL inside a string does not.
 TEST_P(EveryMessage, SurvivesARoundTripThroughJson) {
     for (const bool tracked : {false, true}) {

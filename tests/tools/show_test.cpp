@@ -57,6 +57,21 @@ TEST_P(EveryBundle, ArrivesAsTheReferenceEncodesIt) {
     }
 }
 
+// The request decides about per-field state, whether the served frames have it or not.
+TEST_P(EveryBundle, IsServedWithStateOnlyOnRequest) {
+    const Directory directory;
+    const reference::Record payload = plain_payload(message(), 23);
+    for (const bool tracked : {false, true}) {
+        const Server server(
+            {bundle().name + "=" + directory.write("snapshot.bin", frame(message(), payload, !tracked))});
+        ASSERT_TRUE(server.is_ready());
+        std::vector<std::string> options{"--save", directory.path("saved.bin")};
+        if (tracked) options.emplace_back("--tracked");
+        EXPECT_EQ(server.show(bundle().name, options).exit, 0);
+        EXPECT_EQ(directory.read("saved.bin"), first_answer(bundle(), payload, tracked));
+    }
+}
+
 TEST_P(EveryBundle, ShowsPerFieldStateInXml) {
     const Directory directory;
     reference::GeneratorOptions options;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "schema/frame.h"
 #include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
@@ -66,6 +67,9 @@ Message message_from_frame(const Handle &handle, const reflect::MessageOperation
                            std::span<const std::uint8_t> frame) {
     Bytes buffer(frame.begin(), frame.end());
     buffer.push_back(0);
+    // The message keeps the header of its frame, but the handle decides whether it has per-field state.
+    std::uint8_t &sttr = buffer[offset_of(schema::message_frame, "sttr")];
+    if ((sttr != 0) != handle.tracked()) sttr = handle.tracked() ? 1 : 0;
     void *object = nullptr;
     std::uint32_t err = 0;
     operations.unmarshal_only(handle.get(), context_id, &object, buffer.data(),

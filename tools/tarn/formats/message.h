@@ -14,7 +14,8 @@ Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operation
 std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
 std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object);
 
-// Reads a plain message from a frame with its luid. Throws a Failure with the error of the library.
+// Reads a plain message from a frame with its luid, with per-field state if the handle tracks it. Throws a Failure with
+// the error of the library.
 Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
                            std::span<const std::uint8_t> frame);
 
