@@ -137,6 +137,52 @@ TEST_F(Recording, ReportsMessagesTooLargeForTheRecorder) {
     EXPECT_EQ(directory_.read("full.bin"), large.out + message_frame());
 }
 
+TEST_F(Recording, GoesToStandardOutputWithoutItsSummary) {
+    const std::string from = directory_.write("frames.bin", message_frame() + message_frame());
+    const Outcome fragments = tarn({"record", "--from", from, "-o", "-"});
+    EXPECT_EQ(fragments.exit, 0);
+    EXPECT_EQ(fragments.out, xml() + xml());
+    EXPECT_EQ(fragments.err, "recorded 2 of 2 messages\n");
+    const Outcome frames = tarn({"record", "--from", from, "-o", directory_.path("recording.xml"), "--full", "-"});
+    EXPECT_EQ(frames.out, message_frame() + message_frame());
+    EXPECT_EQ(tarn({"record", "--from", from, "-o", "-", "--full", "-"}).exit, 2);
+}
+
+TEST_F(Recording, RequiresExactlyTheOptionsOfItsSource) {
+    const std::string from = directory_.write("frames.bin", message_frame());
+    const std::vector<std::string> all{"record", "--from", from, "-o", "-"};
+    const std::vector<std::vector<std::string>> wrong = {
+        {"cl-debug"},           {"--rounds", "2"},         {"--interval", "2"},        {"--timeout", "2"},
+        {"--socket", "socket"}, {"--frame-limit", "4KiB"}, {"--answer-limit", "4KiB"}, {"--connect", ":1"},
+    };
+    for (const std::vector<std::string> &more : wrong) {
+        std::vector<std::string> arguments = all;
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const Outcome outcome = tarn(arguments);
+        EXPECT_EQ(outcome.exit, 2) << more.front();
+        expect_words(outcome, "--from");
+    }
+    EXPECT_EQ(tarn({"record", "cl-debug", "-o", "-"}).exit, 2);
+    const Outcome outcome = tarn({"record", "--socket", "socket", "-o", "-"});
+    EXPECT_EQ(outcome.exit, 2);
+    expect_words(outcome, "at least one bundle");
+}
+
+TEST_F(Recording, OfAnAbortedOrUnfinishedBundleIsReported) {
+    const std::string start = control(bundle(), "start");
+    const auto record = [&](const std::string &frames) {
+        return tarn({"record", "--from", directory_.write("frames.bin", frames), "-o", "-"});
+    };
+    const Outcome aborted = record(start + message_frame() + control(bundle(), "abort") + message_frame());
+    EXPECT_EQ(aborted.exit, 1);
+    EXPECT_EQ(aborted.out, xml() + xml());
+    expect_words(aborted, "frame at offset 108: aborts lumo_tarn_cl_debug_rsp\n");
+    const Outcome unfinished = record(start + message_frame());
+    EXPECT_EQ(unfinished.exit, 2);
+    EXPECT_EQ(unfinished.out, xml());
+    expect_words(unfinished, "ends inside a bundle\n");
+}
+
 TEST_F(Recording, RequestsBundlesOverASocket) {
     const Server server({"cl-debug=" + directory_.write("debug.xml", xml())});
     ASSERT_TRUE(server.is_ready());

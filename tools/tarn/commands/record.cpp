@@ -61,7 +61,8 @@ private:
 // The output files. They grow message by message, so everything before a failure is kept.
 class Recording {
 public:
-    explicit Recording(const RecordOptions &options) : fragments_(options.output) {
+    explicit Recording(const RecordOptions &options)
+        : fragments_(options.output), summary_(options.output == "-" || options.full == "-" ? stderr : stdout) {
         if (!options.full.empty()) frames_.emplace(options.full);
     }
 
@@ -83,18 +84,25 @@ public:
         ++recorded_;
     }
 
+    void add_abort(const std::string &location, const reflect::BundleOperations &bundle) {
+        aborted_ = true;
+        std::fprintf(stderr, "tarn: %s: aborts %s\n", location.c_str(), std::string(bundle.bundle->name).c_str());
+    }
+
     void finish() {
         fragments_.finish();
         if (frames_) frames_->finish();
     }
-    void print_summary() const { std::printf("recorded %u of %u messages\n", recorded_, messages_); }
-    bool is_complete() const { return too_large_ == 0 || frames_; }
+    void print_summary() const { std::fprintf(summary_, "recorded %u of %u messages\n", recorded_, messages_); }
+    bool is_complete() const { return !aborted_ && (too_large_ == 0 || frames_); }
 
 private:
     GrowingFile fragments_;
     std::optional<GrowingFile> frames_;
     Recorder recorder_;
+    FILE *summary_;
     unsigned messages_ = 0, recorded_ = 0, too_large_ = 0;
+    bool aborted_ = false;
 };
 
 void record_from_file(const RecordOptions &options, Recording &recording) {
@@ -104,7 +112,11 @@ void record_from_file(const RecordOptions &options, Recording &recording) {
     for (const Frame &frame : split_frames(bytes_of(content), origin)) {
         recording.feed(receiver, frame, origin);
         receiver.take();
+        if (frame.identity.is_control() && frame.identity.control == Control::abort) {
+            recording.add_abort(frame_location(origin, frame.offset), *frame.identity.bundle);
+        }
     }
+    if (receiver.in_bundle()) throw Failure(Exit::input, origin + ": ends inside a bundle");
 }
 
 void record_from_socket(const RecordOptions &options, Recording &recording) {
@@ -135,6 +147,19 @@ Exit run_record(const RecordOptions &options) {
     return recording.is_complete() ? Exit::success : Exit::negative;
 }
 
+void check_source(const CLI::App &command, const RecordOptions &options) {
+    if (options.output == "-" && options.full == "-") {
+        throw Failure(Exit::input, "only one of -o and --full can be standard output");
+    }
+    if (options.from.empty()) {
+        if (options.bundles.empty()) throw Failure(Exit::input, "--socket and --connect require at least one bundle");
+        return;
+    }
+    for (const char *name : {"bundles", "--rounds", "--interval", "--timeout", "--frame-limit", "--answer-limit"}) {
+        if (command.count(name) != 0) throw Failure(Exit::input, std::string("--from excludes ") + name);
+    }
+}
+
 }  // namespace
 
 void add_record(CLI::App &app, Context &context) {
@@ -147,14 +172,12 @@ void add_record(CLI::App &app, Context &context) {
     command
         ->add_option("--full", options->full, "Also write all frames to this file, including those of large messages")
         ->type_name(words::file);
-    CLI::Option *socket =
-        command->add_option("--socket", options->endpoint.socket, "Socket file to connect to")->type_name(words::file);
-    CLI::Option *connect =
-        command->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
-    CLI::Option *from = command->add_option("--from", options->from, "Receive from this file of frames instead")
-                            ->type_name(words::file);
-    socket->excludes(from)->excludes(connect);
-    connect->excludes(from);
+    CLI::Option_group *source = command->add_option_group("source", "Where to receive from");
+    source->add_option("--socket", options->endpoint.socket, "Unix domain socket")->type_name(words::file);
+    source->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
+    source->add_option("--from", options->from, "File of frames, without bundles to request and options of connections")
+        ->type_name(words::file);
+    source->require_option(1);
     command->add_option("--rounds", options->rounds, "Number of requests for each bundle")->capture_default_str();
     add_seconds(*command, "--interval", options->interval, "Pause between two rounds");
     add_timeout(*command, options->timeout, "Timeout for each answer");
@@ -171,10 +194,8 @@ void add_record(CLI::App &app, Context &context) {
         "  tarn record cl-debug dp-intf --socket /tmp/tarn.sock -o recording.xml\n"
         "  tarn record dp-tt-cfg --connect :28276 -o recording.xml --full frames.bin\n"
         "  tarn record --from frames.bin -o recording.xml");
-    command->callback([options, &context] {
-        if (options->from.empty() && (!options->endpoint.is_given() || options->bundles.empty())) {
-            throw Failure(Exit::input, "--from, or --socket or --connect with at least one bundle, is required");
-        }
+    command->callback([options, command, &context] {
+        check_source(*command, *options);
         context.exit = run_record(*options);
     });
 }

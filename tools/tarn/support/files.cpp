@@ -30,6 +30,8 @@ using File = std::unique_ptr<FILE, Close>;
 
 std::string shown_path(const std::string &path) { return path == "-" ? "standard input" : path; }
 
+std::string shown_output(const std::string &path) { return path == "-" ? "standard output" : path; }
+
 std::string read_file(const std::string &path) {
     const File file(path == "-" ? stdin : std::fopen(path.c_str(), "rbe"));
     if (file == nullptr) fail(shown_path(path));
@@ -41,7 +43,7 @@ std::string read_file(const std::string &path) {
 }
 
 void write_file(const std::string &path, std::string_view bytes) {
-    const std::string shown = path == "-" ? "standard output" : path;
+    const std::string shown = shown_output(path);
     File file(path == "-" ? stdout : std::fopen(path.c_str(), "wbe"));
     if (file == nullptr) fail(shown);
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
@@ -49,8 +51,10 @@ void write_file(const std::string &path, std::string_view bytes) {
 }
 
 GrowingFile::GrowingFile(std::string path)
-    : path_(std::move(path)), descriptor_(::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {
-    if (descriptor_ < 0) fail(path_);
+    : path_(std::move(path)),
+      descriptor_(path_ == "-" ? ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0)
+                               : ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {
+    if (descriptor_ < 0) fail(shown_output(path_));
 }
 
 GrowingFile::~GrowingFile() {
@@ -65,17 +69,17 @@ void GrowingFile::append(std::string_view piece) {
             done += static_cast<std::size_t>(written);
         } else if (errno != EINTR) {
             const auto number = static_cast<std::uint32_t>(errno);
-            // Fails for pipes and devices, where nothing can be removed.
-            [[maybe_unused]] const int kept = ::ftruncate(descriptor_, static_cast<off_t>(size_));
-            throw Failure(Exit::environment,
-                          path_ + ": at byte " + std::to_string(size_ + done) + ": " + error_text(number));
+            // Fails for pipes and devices, where nothing can be removed. Standard output may contain more than this.
+            [[maybe_unused]] const int kept = path_ == "-" ? 0 : ::ftruncate(descriptor_, static_cast<off_t>(size_));
+            throw Failure(Exit::environment, shown_output(path_) + ": at byte " + std::to_string(size_ + done) + ": " +
+                                                 error_text(number));
         }
     }
     size_ += piece.size();
 }
 
 void GrowingFile::finish() {
-    if (::close(std::exchange(descriptor_, -1)) != 0) fail(path_);
+    if (::close(std::exchange(descriptor_, -1)) != 0) fail(shown_output(path_));
 }
 
 void flush_output() {

@@ -13,14 +13,15 @@ std::string read_file(const std::string &path);
 // "-" is standard output.
 void write_file(const std::string &path, std::string_view bytes);
 
-// The path as messages print it: "standard input" for "-".
+// The path as messages print it: "standard input" or "standard output" for "-".
 std::string shown_path(const std::string &path);
+std::string shown_output(const std::string &path);
 
 // Throws a Failure if standard output could not be written.
 void flush_output();
 
-// A new file that grows piece by piece. If writing a piece fails, the part already written is removed and the Failure
-// names the offset, so that the file contains whole pieces only, even if the disk is full.
+// A new file that grows piece by piece, or standard output. If writing a piece fails, the part already written is
+// removed and the Failure names the offset, so that the file contains whole pieces only, even if the disk is full.
 class GrowingFile {
 public:
     explicit GrowingFile(std::string path);
