@@ -161,6 +161,19 @@ TEST(Conversion, ABrokenFrameIsReportedWithItsOffset) {
     EXPECT_EQ(all.out, outcome.out + outcome.out);
 }
 
+TEST(Conversion, KeepGoingContinuesAfterAnUnknownMessage) {
+    const auto &message = reference::message_table("lumo_tarn_debug_setting_msg");
+    const std::string good = frame(message, plain_payload(message, 1), false);
+    std::string unknown = good;
+    unknown[27] ^= 1;
+    for (const std::string flag : {"--lenient", "--bundles"}) {
+        const Outcome outcome = tarn({"decode", "--keep-going", flag}, good + unknown + good);
+        EXPECT_EQ(outcome.exit, 2);
+        EXPECT_NE(outcome.err.find("frame at offset 65: unknown luid "), std::string::npos) << outcome.err;
+        EXPECT_EQ(outcome.out, shown(message, plain_payload(message, 1)) + shown(message, plain_payload(message, 1)));
+    }
+}
+
 TEST(Conversion, ACountWithoutElementsIsAnInputError) {
     const auto &message = reference::message_table("lumo_tarn_cl_appl_msg");
     std::string bytes = frame(message, reference::Record(message.payload), false);

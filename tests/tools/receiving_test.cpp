@@ -32,7 +32,7 @@ class HandlerChain : public testing::TestWithParam<Link> {};
 
 TEST_P(HandlerChain, TracesTheLinkThatHandledTheBundle) {
     const Outcome outcome = deliver(answer(bundle(), plain_payload(message(), 3), false), {"--via", GetParam().via});
-    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.exit, GetParam().handled ? 0 : 1) << outcome.err;
     expect_words(outcome, GetParam().line + " for lumo_tarn_cl_debug_rsp_bundle_commit\n");
     EXPECT_EQ(outcome.out, GetParam().handled ? message_text() : "");
     expect_words(outcome, GetParam().handled ? "\n1 bundles were handled" : "\n0 bundles were handled");
@@ -94,6 +94,14 @@ TEST(Receiving, AMessageOutsideABundleIsDeliveredAtOnce) {
     const Outcome outcome = deliver(message_frame());
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
     EXPECT_EQ(outcome.out, message_text());
+}
+
+TEST(Receiving, OptionsOfReceptionRequireFramesAndBundles) {
+    const Outcome xml = tarn({"decode", "--bundles"}, debug_xml);
+    EXPECT_EQ(xml.exit, 2);
+    EXPECT_EQ(xml.out, "");
+    expect_words(xml, "standard input: --bundles requires frames");
+    EXPECT_EQ(tarn({"decode", "--via", "lut"}, message_frame()).exit, 2);
 }
 
 TEST(Receiving, KeepGoingEndsWithTheHighestExitCode) {

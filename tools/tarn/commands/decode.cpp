@@ -45,11 +45,11 @@ private:
 };
 
 // The library reports only that a frame is invalid; the dissection finds the offset.
-Failure with_location(const Failure &failure, const Frame &frame, const std::string &origin) {
-    const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
+Failure with_location(const Failure &failure, FrameBytes frame, std::size_t offset, const std::string &origin) {
+    const Dissection dissection = dissect_frame(frame, offset);
     const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();
     const std::string message = failure.what();
-    const std::string location = frame_location(origin, frame.offset) + ": ";
+    const std::string location = frame_location(origin, offset) + ": ";
     return {failure.exit(), (message.starts_with(location) ? message : location + message) + where};
 }
 
@@ -57,17 +57,33 @@ void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOption
     const Handles handles(Tracking::as_input);
     Progress progress("decoding " + origin);
     for (std::size_t offset = 0; offset < bytes.size();) {
-        const Frame frame = frame_at(bytes, offset, origin);
-        offset += frame.bytes.size();
+        const std::size_t at = offset;
+        const FrameBytes frame = frame_bytes_at(bytes, at, origin);
+        offset += frame.size();
         progress.at(offset, bytes.size());
         std::string out;
         try {
-            out = rendered(item_of(handles, frame, origin), options.style());
+            out = rendered(item_of(handles, identified(frame, at, origin), origin), options.style());
         } catch (const Failure &failure) {
-            failures.add(with_location(failure, frame, origin));
+            failures.add(with_location(failure, frame, at, origin));
         }
         write_file("-", out);
     }
+}
+
+// Adds a failure for each frame with an unknown luid, which no bundle can contain.
+std::vector<Frame> known_frames(FrameBytes bytes, const std::string &origin, Failures &failures) {
+    std::vector<Frame> frames;
+    for (std::size_t offset = 0; offset < bytes.size();) {
+        const FrameBytes frame = frame_bytes_at(bytes, offset, origin);
+        try {
+            frames.push_back(identified(frame, offset, origin));
+        } catch (const Failure &failure) {
+            failures.add(failure);
+        }
+        offset += frame.size();
+    }
+    return frames;
 }
 
 // The library receives a message even if the open bundle does not admit it, so the tool checks that itself.
@@ -77,17 +93,19 @@ void require_admitted(const Frame &frame, const reflect::BundleOperations *open,
 }
 
 void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
-    const std::vector<Frame> frames = split_frames(bytes, origin);
+    const std::vector<Frame> frames = known_frames(bytes, origin, failures);
     const bool tracked = std::any_of(frames.begin(), frames.end(), [](const Frame &f) { return f.is_tracked(); });
     Receiver receiver(tracked, via_named(options.via));
     const reflect::BundleOperations *open = nullptr;
+    unsigned committed = 0;
     for (const Frame &frame : frames) {
         try {
             require_admitted(frame, open, origin);
             receiver.feed(frame, origin);
             if (frame.identity.is_control()) open = receiver.in_bundle() ? frame.identity.bundle : nullptr;
+            if (frame.identity.is_control() && frame.identity.control == Control::commit) ++committed;
         } catch (const Failure &failure) {
-            failures.add(with_location(failure, frame, origin));
+            failures.add(with_location(failure, frame.bytes, frame.offset, origin));
         }
         for (const Item &item : receiver.take()) write_file("-", rendered(item, options.style()));
         if (frame.identity.is_control() && frame.identity.control == Control::abort) {
@@ -97,6 +115,10 @@ void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &o
     }
     if (receiver.in_bundle()) {
         failures.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
+    }
+    if (receiver.handled() < committed) {
+        failures.add({Exit::negative, origin + ": no handler took " + std::to_string(committed - receiver.handled()) +
+                                          " of " + std::to_string(committed) + " bundles"});
     }
     if (options.verbose) std::fprintf(stderr, "%u bundles were handled\n", receiver.handled());
 }
@@ -120,7 +142,11 @@ Exit run_decode(const DecodeOptions &options) {
     const std::string content = read_file(options.file);
     const std::string origin = shown_path(options.file);
     Failures failures(options.keep_going);
-    switch (form_of(content, origin)) {
+    const Form form = form_of(content, origin);
+    if (options.bundles && form != Form::frames) {
+        throw Failure(Exit::input, origin + ": --bundles requires frames");
+    }
+    switch (form) {
         case Form::frames:
             (options.bundles ? deliver : decode_each)(bytes_of(content), origin, options, failures);
             break;
@@ -148,8 +174,9 @@ void add_decode(CLI::App &app, Context &context) {
     form->add_flag("--xml", options->xml, "XML, one message per line");
     form->add_flag("--json", options->json, "JSON, one object per line");
     form->require_option(0, 1);
-    command->add_flag("--bundles", options->bundles, "Print messages when their bundle is committed, like a receiver");
-    add_via(*command, options->via, "With --bundles: where to register the handler of the bundles");
+    CLI::Option *bundles = command->add_flag(
+        "--bundles", options->bundles, "Receive bundles from frames: print messages when their bundle is committed");
+    add_via(*command, options->via, "Where to register the handler of the bundles")->needs(bundles);
     command->add_flag("-k,--keep-going", options->keep_going,
                       "Print errors and continue with the next frame or fragment");
     add_lenient(*command, options->lenient);

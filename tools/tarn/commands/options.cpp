@@ -52,8 +52,8 @@ void add_limits(CLI::App &command, AnswerLimits &limits) {
     add_size(command, "--answer-limit", limits.answer, "Largest answer to accept, all frames together", 1 << 10);
 }
 
-void add_via(CLI::App &command, std::string &via, const std::string &what) {
-    command.add_option("--via", via, what)->check(CLI::IsMember(via_words()))->capture_default_str();
+CLI::Option *add_via(CLI::App &command, std::string &via, const std::string &what) {
+    return command.add_option("--via", via, what)->check(CLI::IsMember(via_words()))->capture_default_str();
 }
 
 }  // namespace tarn::tool

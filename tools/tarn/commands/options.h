@@ -38,6 +38,6 @@ void add_verbose(CLI::App &command, bool &verbose);
 // Options of a requesting process.
 void add_timeout(CLI::App &command, double &seconds, const std::string &what);
 void add_limits(CLI::App &command, AnswerLimits &limits);
-void add_via(CLI::App &command, std::string &via, const std::string &what);
+CLI::Option *add_via(CLI::App &command, std::string &via, const std::string &what);
 
 }  // namespace tarn::tool

@@ -9,7 +9,7 @@ std::string frame_location(const std::string &origin, std::size_t offset) {
     return origin + ": frame at offset " + std::to_string(offset);
 }
 
-Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
+FrameBytes frame_bytes_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
     const auto fail = [&](const std::string &reason) -> Failure {
         return {Exit::input, frame_location(origin, offset) + ": " + reason};
     };
@@ -28,9 +28,18 @@ Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) 
         throw fail("truncated: its total length is " + std::to_string(head.header.total_length) + ", but " +
                    std::to_string(rest.size()) + " bytes are left");
     }
-    const std::optional<Identity> identity = identify(head.luid);
-    if (!identity) throw fail("unknown luid " + luid_text(head.luid));
-    return {rest.first(head.header.total_length), offset, *identity};
+    return rest.first(head.header.total_length);
+}
+
+Frame identified(FrameBytes frame, std::size_t offset, const std::string &origin) {
+    const std::uint8_t *luid = frame.data() + schema::message_header_size;
+    const std::optional<Identity> identity = identify(luid);
+    if (!identity) throw Failure(Exit::input, frame_location(origin, offset) + ": unknown luid " + luid_text(luid));
+    return {frame, offset, *identity};
+}
+
+Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
+    return identified(frame_bytes_at(bytes, offset, origin), offset, origin);
 }
 
 std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin) {

@@ -31,7 +31,10 @@ inline std::string_view chars_of(FrameBytes bytes) {
     return {reinterpret_cast<const char *>(bytes.data()), bytes.size()};
 }
 
-// The frame at the offset. Throws a Failure that names the origin, the offset and the reason.
+// The frame at the offset, in two steps: its bytes, then its identity. Throws a Failure that names the origin, the
+// offset and the reason.
+FrameBytes frame_bytes_at(FrameBytes bytes, std::size_t offset, const std::string &origin);
+Frame identified(FrameBytes frame, std::size_t offset, const std::string &origin);
 Frame frame_at(FrameBytes bytes, std::size_t offset, const std::string &origin);
 std::vector<Frame> split_frames(FrameBytes bytes, const std::string &origin);
 
