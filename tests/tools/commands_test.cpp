@@ -211,6 +211,15 @@ TEST(Schema, DrawsTreesAndGraphs) {
     EXPECT_NE(unknown.err.find("did you mean lumo_tarn_dp_tc?"), std::string::npos) << unknown.err;
 }
 
+TEST(Schema, RefusesTreesAndGraphsOfAnEnumeration) {
+    for (const std::string form : {"--tree", "--dot"}) {
+        const Outcome outcome = tarn({"schema", "ha-state-e", form});
+        EXPECT_EQ(outcome.exit, 2) << form;
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_NE(outcome.err.find("has no tree and no graph"), std::string::npos) << outcome.err;
+    }
+}
+
 TEST(Manifest, PrintsTheTypesOfTheLibraryAndItsBuild) {
     const Outcome outcome = tarn({"manifest", TARN_LIBRARY});
     EXPECT_EQ(outcome.exit, 0) << outcome.err;

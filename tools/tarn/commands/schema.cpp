@@ -165,8 +165,11 @@ bool reaches(const Record &from, const Record &to) {
     return false;
 }
 
-std::string of_enumeration(const schema::Enumeration &e, bool as_json) {
-    if (!as_json) return enumeration_text(e);
+std::string of_enumeration(const schema::Enumeration &e, const SchemaOptions &options) {
+    if (options.tree || options.dot) {
+        throw Failure(Exit::input, options.name + " is an enumeration, which has no tree and no graph");
+    }
+    if (!options.json) return enumeration_text(e);
     return ordered_json{{"name", e.name}, {"luid", e.luid.text.data()}, {"enumerators", e.enumerators}}.dump(2) + "\n";
 }
 
@@ -191,7 +194,7 @@ std::string of_member(const Target &target, const SchemaOptions &options) {
 std::string of_one(const SchemaOptions &options) {
     if (options.html) throw Failure(Exit::input, "--html shows the whole schema and takes no name");
     for (const auto *e : schema::enumerations) {
-        if (is_named(options.name, e->name)) return of_enumeration(*e, options.json);
+        if (is_named(options.name, e->name)) return of_enumeration(*e, options);
     }
     if (options.name.find('.') != std::string::npos) {
         const Target target = target_of(options.name);
