@@ -254,7 +254,7 @@ TEST(Limits, InvalidValuesAreUsageErrors) {
     const std::vector<std::vector<std::string>> wrong = {
         {"--frame-limit", "12"}, {"--frame-limit", "4GiB"},  {"--frame-limit", "-1"},   {"--unread", "much"},
         {"--unread-total", "0"}, {"--frame-time", "-1"},     {"--idle", "1e9"},         {"--answer-time", "soon"},
-        {"--peers", "0"},        {"--peers", "99999999999"}, {"--snapshot-limit", "1"},
+        {"--peers", "0"},        {"--peers", "99999999999"}, {"--snapshot-limit", "1"}, {"--unread-total", "1MiB"},
     };
     for (const std::vector<std::string> &flag : wrong) {
         const Outcome outcome =

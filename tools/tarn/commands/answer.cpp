@@ -79,6 +79,9 @@ void add_answer(CLI::App &app, Context &) {
         "  tarn answer --listen 127.0.0.1:28276 cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
     command->callback([options] {
+        if (options->unread_total < options->unread) {
+            throw Failure(Exit::input, "--unread-total is less than --unread");
+        }
         set_up_trace(options->verbose);
         Answerer answerer(options->snapshot_limit);
         load(answerer, *options);
