@@ -99,9 +99,10 @@ if(TARN_REFERENCE)
   install(DIRECTORY ${CMAKE_BINARY_DIR}/docs/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
           COMPONENT documentation)
 endif()
-install(FILES README.md CHANGELOG.md docs/design.md docs/tour.md docs/versioning.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
         COMPONENT documentation)
-install(DIRECTORY examples docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
+        PATTERN CMakeLists.txt EXCLUDE PATTERN Doxyfile EXCLUDE)
 
 if(TARN_DEBIAN)
   include(packaging/packages.cmake)

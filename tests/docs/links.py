@@ -1,4 +1,4 @@
-"""Tests that the documents refer only to files that exist:  links.py ROOT
+"""Tests that the documents below ROOT refer only to files that exist:  links.py ROOT
 
 References are links of Markdown and paths in quoted code such as `core/walk.h`. Paths with words in capitals, stars or
 braces are patterns."""
@@ -21,9 +21,9 @@ def missing(document, text):
             yield path
 
 
-example = missing(root / "README.md", "[a](no.md) [b](README.md) `core/no.h` `core/` `wc core/no.c` `build/no` "
+example = missing(root / "README.md", "[a](no.md) [b](README.md) `docs/no.h` `docs/` `wc docs/no.c` `build/no` "
                   "`families/NAME.cpp` `no/no.h`")
-if list(example) != ["no.md", "core/no.h", "core/no.c"]:
+if list(example) != ["no.md", "docs/no.h", "docs/no.c"]:
     sys.exit("missing files are not found")
 documents = [path for path in root.rglob("*.md") if "build" not in path.relative_to(root).parts]
 wrong = [f"{document.relative_to(root)}: {path} does not exist" for document in documents
