@@ -46,8 +46,8 @@
  *   T_adjust_variant, destroy operations, and the operations of state bytes, references and message payloads. Nor do
  *   unmarshal, print and to_xml of control messages.
  *
- * An error inside a bundle: clear `err`, then marshal the abort. A commit called with `err` set does nothing, so the
- * bundle stays open, and the next start fails with EEXIST.
+ * An error inside a bundle: clear `err`, then marshal the abort after the last complete frame. A commit called with
+ * `err` set does nothing, so the bundle stays open, and the next start fails with EEXIST.
  *
  * Forms: an explicit form takes (h, ctx_id, ..., err). A sticky form, named _cr, takes (h, ...): it works under the
  * handle's default_id, and its error slot is the handle's last_error, which stays set until an explicit form clears it.
