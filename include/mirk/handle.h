@@ -16,11 +16,11 @@ struct mirk_handle {
     /** Allocates `size` bytes that live as long as the handle; the library never frees them. Returns null if allocation
      * fails. `id` is 0xFFFFFFFF. */
     void *(*sys_alloc)(void *sys_ctx, uint32_t id, size_t size);
-    /** Allocates `size` bytes, which may be 0, for an instance, an array block, a string body or a token. The library
+    /** Allocates `size` bytes, which may be 0, for an object, an array block, a string body or a token. The library
      * owns them until obj_free. Contents are unspecified. Returns null if allocation fails. */
     void *(*obj_alloc)(void *mem_ctx, uint32_t ctx_id, size_t size);
-    /** Frees a block of obj_alloc. Also called with the sentinel of a control message, which is not a block and must be
-     * ignored. */
+    /** Frees a block of obj_alloc. Also called with the sentinel of a control message, which is not a block and must
+     * not be treated as one. */
     void (*obj_free)(void *mem_ctx, uint32_t ctx_id, void *p);
     /** Called before `size` bytes of an existing object change. The result is ignored. Note that ctx_id is the last
      * argument. */
@@ -36,8 +36,8 @@ struct mirk_handle {
     void *type_store;                   /**< first argument of type_store_put and type_store_get */
     void *sys_ctx;                      /**< first argument of sys_alloc */
     mirk_bundle_handler bundle_handler; /**< receives committed bundles; may be null */
-    uint32_t send_bundle_open;          /**< nonzero between writing a start and its commit or abort */
-    uint32_t recv_bundle_open;          /**< nonzero between receiving a start and its commit or abort */
+    uint32_t send_bundle_open;          /**< nonzero from writing a start message to its commit or abort */
+    uint32_t recv_bundle_open;          /**< nonzero from receiving a start message to its commit or abort */
     const mirk_allowed_row *bundle_table;       /**< messages that the open send bundle admits */
     mirk_dispatch_info *recv_bundle_lut;        /**< dispatch entry of the start of the receive bundle */
     void *recv_bundle_lut_ref;                  /**< look-up table of that entry */
@@ -51,7 +51,7 @@ struct mirk_handle {
     uint32_t default_id;                        /**< the ctx_id of every _cr operation */
     uint32_t cr_mode;                           /**< 1 while a _create_cr runs */
     mirk_sttr_desc *sttr_desc;                  /**< null: no state tracking */
-    uint32_t oid_mapping;                       /**< nonzero: destroying an object removes its mappings */
+    uint32_t oid_mapping;                       /**< nonzero: destroying an object removes state offset and RA data */
 };
 
 #ifdef __cplusplus

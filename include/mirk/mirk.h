@@ -12,6 +12,8 @@
  *   Callbacks  Only mirk_type_info_ptr_get(), the two functions that destroy bundle lists, and
  *              mirklib_lookup_and_update_oid_ref_count() may call functions outside the runtime. The callbacks of the
  *              handle are not subject to this rule.
+ *
+ * lumo_ui_tarn/families.h explains domain, variant, body, state area, RA data, sentinel and token.
  */
 #ifndef MIRK_MIRK_H
 #define MIRK_MIRK_H

@@ -71,7 +71,7 @@ void mirk_boolean_set_value(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field
  * nonzero. Counts a created object unless `skip_count` is nonzero. */
 void mirk_boolean_initialize(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object, mirk_type_info *type,
                              uint32_t notify, uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Sets bit 2 of the flags: the object is in memory of another object. Calls write_notify first. */
+/** Sets the flag "embedded" (2): the object is in memory of another object. Calls write_notify first. */
 void mirk_boolean_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, mirk_boolean *object);
 /** Returns the number of bytes on the wire, also for null. */
 uint32_t mirk_boolean_len(mirk_handle *h, uint32_t ctx_id, mirk_boolean *field);
@@ -112,7 +112,7 @@ void ip_address_set(mirk_handle *h, uint32_t ctx_id, ip_address *destination, ip
  * needs `sttr_base`, the state area of its parent: EINVAL for null. */
 void ip_address_initialize(mirk_handle *h, uint32_t ctx_id, ip_address *object, mirk_type_info *type, uint32_t notify,
                            uint32_t skip_count, uint8_t flags, void *sttr_base, uint32_t *err);
-/** Sets bit 2 of the flags: the object is in memory of another object. Calls write_notify first. */
+/** Sets the flag "embedded" (2): the object is in memory of another object. Calls write_notify first. */
 void ip_address_set_instance_embedded(mirk_handle *h, uint32_t ctx_id, ip_address *object);
 /** Destroys an address. Frees its memory only if `free_it` is nonzero, which it is not for an embedded address. Errors
  * are written to last_error. Null is ignored. */

@@ -17,7 +17,7 @@ uint32_t mirk_request_oid_mapping_destroy(mirk_handle *h, uint32_t ctx_id, void 
  * Changes no flags. */
 void mirk_hd_mapping_destroy(mirk_handle *h, uint32_t ctx_id, void *object, uint32_t *err);
 /** Decrements the reference count of the object with this oid. At 0 destroys an object whose destruction was deferred.
- * ENOENT: unknown oid. `zero` is always 0. */
+ * ENOENT: unknown oid. EINVAL: the count is 0 already. `zero` is always 0. */
 void mirklib_lookup_and_update_oid_ref_count(mirk_handle *h, uint32_t ctx_id, void *oid, uint32_t zero, uint32_t *err);
 
 #ifdef __cplusplus

@@ -25,7 +25,7 @@ VELD(intf)
 VELD(cond)
 VELD(view)
 
-/** Identity of the request message, 16 bytes. Every bundle admits it in addition to its own message. */
+/** The luid of the request message, 16 bytes. Every bundle admits it in addition to its own message. */
 extern const uint8_t message_ui_req_msg_luid[16];
 /** Name of the request message, for trace lines. */
 extern const char message_ui_req_msg_name[64];

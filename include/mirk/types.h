@@ -29,17 +29,18 @@ typedef int (*mirk_print_fn)(const char *format, ...);
 /** One variant of a type: its sizes and its usage counters. 40 bytes. */
 typedef struct mirk_variant_entry {
     uint32_t variant_word;  /**< 0; not used */
-    uint32_t used_length;   /**< bytes of an instance up to the end of its last member */
-    uint32_t alloc_slop;    /**< bytes of an instance after that */
-    uint64_t num_created;   /**< instances created */
-    uint64_t num_destroyed; /**< instances destroyed */
+    uint32_t used_length;   /**< bytes of an object up to the end of its last member */
+    uint32_t alloc_slop;    /**< bytes of an object after that */
+    uint64_t num_created;   /**< objects created */
+    uint64_t num_destroyed; /**< objects destroyed */
     uint64_t num_live;      /**< the difference of both; always 0 for messages */
 } mirk_variant_entry;
 
-/** The variants of a type. */
+/** The variants of a type. Negative variants, which objects without a body have, also count objects: entries[-128] to
+ * entries[n_variants - 1] must exist. */
 typedef struct mirk_variant_info {
-    int8_t n_variants;           /**< number of variants, which count from 0 */
-    mirk_variant_entry *entries; /**< entries[-128] to entries[0] must exist */
+    int8_t n_variants;           /**< number of variants with a body: 0 to n_variants - 1 */
+    mirk_variant_entry *entries; /**< indexed by variant */
 } mirk_variant_info;
 
 /** Describes a type of objects. 272 bytes. Text members are padded with NUL. */
@@ -77,13 +78,13 @@ typedef struct mirk_module_root {
     mirk_module **last; /**< the link that will point to the next module */
 } mirk_module_root;
 
-/** The header of every object. Its members begin at offset 11 or later. */
+/** The header of every object: 11 bytes. The members of the object follow at offset 11 or later. */
 typedef struct mirk_object {
     mirk_type_info *tinfo; /**< the type */
     int8_t variant;        /**< variant of the object; negative: it has no body */
     int8_t home_variant;   /**< variant in which it was created */
-    /** Bits: 1 has an oid, 2 embedded, 4 nested, 8 has state, 16 for use by the runtime, 32 has RA data, 64 has a
-     * recorded state offset. */
+    /** Sum of flags: 1 has an oid, 2 embedded, 4 nested, 8 has state, 16 for use by the runtime, 32 has RA data, 64 has
+     * a recorded state offset. */
     uint8_t obj_flag;
 } mirk_object;
 
@@ -118,12 +119,12 @@ typedef struct mirk_message_header {
     uint8_t fill[6];       /**< 0xFF */
     uint8_t sttr;          /**< 1: the frame contains state */
     uint32_t stamp;        /**< message_stamp of the sender */
-    uint32_t total_length; /**< bytes of the frame, including header and identity */
+    uint32_t total_length; /**< bytes of the frame, including header and luid */
 } mirk_message_header;
 
 /** A message that a bundle admits: a row of a table, which ends with a row of zeros. */
 typedef struct mirk_allowed_row {
-    const uint8_t *luid; /**< identity, 16 bytes */
+    const uint8_t *luid; /**< luid of the message, 16 bytes */
     const char *name;    /**< for trace lines */
     uint64_t zero;       /**< 0 */
 } mirk_allowed_row;
