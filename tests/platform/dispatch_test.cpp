@@ -216,6 +216,20 @@ TEST_F(Dispatch, MessagesOfAnOpenBundleGoToTheReceiveList) {
     EXPECT_EQ(dispatch(bundle), 0u) << "messages on the receive list are destroyed when the handle is closed";
 }
 
+TEST_F(Dispatch, AnErrorInsideABundleLeavesItOpenUntilItsListIsDestroyed) {
+    EXPECT_EQ(mirk_platform_dispatch_set_bundle_handler(h, commit_luid, handle_bundle), 0u);
+    EXPECT_EQ(dispatch(frame(start_luid, "") + frame(plain_luid, "a") + "not a frame"), uint32_t{EBADMSG});
+    EXPECT_NE(mirklib_is_accumulating_bundle(h), 0u);
+    EXPECT_EQ(mirk_platform_received_count(h), 1u);
+    uint32_t err = 0;
+    bundle_receive_message_list_destroy(h, 7, &err);
+    EXPECT_EQ(mirklib_is_accumulating_bundle(h), 0u);
+    EXPECT_EQ(
+        dispatch(frame(start_luid, "") + frame(plain_luid, "b") + frame(plain_luid, "c") + frame(commit_luid, "")), 0u);
+    EXPECT_EQ(calls.values, "bc");
+    EXPECT_EQ(mirk_platform_live_blocks(h), 0u);
+}
+
 TEST_F(Dispatch, ReadsAGoodFrameASecondTimeWhileRecording) {
     mirk_platform_recorder_set(1, nullptr);
     EXPECT_EQ(dispatch(frame(plain_luid, "a")), 0u);
