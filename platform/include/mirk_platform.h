@@ -6,6 +6,10 @@
  * receives frames over sockets. A schema library calls nothing that is declared here.
  *
  * Conventions
+ *   - mirk/mirk.h explains handle, ctx_id, error slot and last_error; lumo_ui_tarn/families.h explains variant, body,
+ *     domain, RA data, bundle, control message and sticky form. Messages that are not control messages are plain. A
+ *     luid is the identity of a type or a message, 16 bytes. A linked-in handler is a weak function of the schema
+ *     library, which a program can replace.
  *   - mirk_platform_error is 0 or an error number of errno.h. Functions that return it also return ENOMEM if an
  *     allocation fails, and EIO for an unexpected failure. No function throws an exception.
  *   - Use each handle, document, server and client from one thread at a time. Functions of the trace, the recorder and
@@ -14,7 +18,8 @@
  *   - Pointers must not be null unless the comment permits it.
  *   - Options structures begin with their size, which the initializer sets. Later versions only add members at the end,
  *     so programs compiled with this header keep working and get the defaults of new members.
- *   - Frame buffers have a guard byte: one byte after their stated size that must be readable and writable.
+ *   - A guard byte is one readable and writable byte after the stated size of a buffer. The buffer that is passed to
+ *     mirk_platform_dispatch() must have one, and received frames have one.
  */
 #ifndef MIRK_PLATFORM_H
 #define MIRK_PLATFORM_H
@@ -49,18 +54,19 @@ typedef struct mirk_platform_report {
 
 /* ---- handles ---------------------------------------------------------------------------------------------------- */
 
-/** State tracking of a handle: whether objects have a state byte for each member. */
+/** State tracking of a handle: whether objects have a state byte for each member. Programs choose NONE or ON. */
 typedef enum mirk_platform_tracking {
-    MIRK_PLATFORM_TRACKING_NONE = 0, /**< off: no descriptor */
-    MIRK_PLATFORM_TRACKING_OFF = 1,  /**< off: a descriptor with the word 0xDDDD */
-    MIRK_PLATFORM_TRACKING_ON = 2    /**< on: a descriptor with the word 0xEEEE */
+    MIRK_PLATFORM_TRACKING_NONE = 0, /**< off: the handle's sttr_desc is null */
+    MIRK_PLATFORM_TRACKING_OFF = 1,  /**< off: the word in sttr_desc is 0xDDDD */
+    MIRK_PLATFORM_TRACKING_ON = 2    /**< on: the word in sttr_desc is 0xEEEE */
 } mirk_platform_tracking;
 
-/** What mirk_store_epoch_err() does with EIDRM: an object has no body, or the domain does not have its variant. */
+/** How operations report EIDRM: an object has no body, or the domain does not have its variant. */
 typedef enum mirk_platform_epoch_policy {
-    MIRK_PLATFORM_STRICT = 0, /**< writes last_error and the error slot, as for every other error */
-    /** Leaves the error slot clear, so that a frame is written completely in the older variant that the domain has.
-     * Writes last_error, unless that is the slot. Accessors of an object without a body then report no error. */
+    MIRK_PLATFORM_STRICT = 0, /**< they set last_error and the error slot, as for every other error */
+    /** They set only last_error and leave the error slot clear. A frame is then written completely, in the older
+     * variant that the domain has; accessors of an object without a body report no error. Sticky forms, whose error
+     * slot is last_error, set neither. */
     MIRK_PLATFORM_LENIENT_EIDRM = 1
 } mirk_platform_epoch_policy;
 
@@ -70,13 +76,12 @@ typedef struct mirk_platform_handle_options {
     mirk_platform_tracking tracking; /**< default NONE */
     uint32_t private_types;          /**< nonzero: the handle has its own copies of type records; default 0 */
     uint64_t request_ceiling;        /**< bytes; obj_alloc returns null for larger requests; default 256 MiB */
-    /** Bytes; obj_alloc returns null if the handle would exceed this; default 1 GiB. The sizes of live blocks count.
-     * With tracking ON, 136 bytes count for each 256-byte stretch of addresses that a block touches, which hold state
-     * offsets. A request counts as many stretches as a block of its size can touch.
+    /** Bytes; obj_alloc returns null if the sum of the sizes of live blocks would exceed this; default 1 GiB. With
+     * tracking ON each block counts 136 bytes more, for state offsets, for each 256-byte range of addresses that it
+     * overlaps, and a request counts the most ranges that its block can overlap.
      *
-     * Memory outside obj_alloc does not count: what the C library adds to a block, and what the runtime keeps for
-     * types, documents and bundles. Neither do the rest of the cells and slabs that hold small blocks, nor the tables
-     * that find blocks and offsets: up to 128 bytes per block and 64 per stretch. */
+     * Other memory does not count: what the allocator adds to blocks, tables of blocks and offsets (up to 128 bytes per
+     * block and 64 per range), types, documents and bundles. */
     uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< gets committed bundles; may be null, the default */
@@ -92,8 +97,7 @@ typedef struct mirk_platform_handle_options {
 MIRK_PLATFORM_API void mirk_platform_handle_options_init_sized(mirk_platform_handle_options *options, size_t size);
 
 /** Opens a handle, which the caller owns and releases with mirk_platform_handle_close(). Null options mean the
- * defaults. Returns null if allocation fails. On this runtime obj_alloc returns a distinct block for each request of
- * size 0. */
+ * defaults. Returns null if allocation fails. */
 MIRK_PLATFORM_API mirk_handle *mirk_platform_handle_open(const mirk_platform_handle_options *options);
 
 /** Closes a handle: destroys messages on the receive list, then frees every live block, all copies of types, and the
@@ -107,29 +111,29 @@ MIRK_PLATFORM_API void mirk_platform_handle_set_default_id(mirk_handle *h, uint3
 MIRK_PLATFORM_API void mirk_platform_handle_set_message_stamp(mirk_handle *h, uint32_t stamp);
 /** Sets the name of the domain for trace lines. ENOMEM: the old name remains. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_handle_set_domain_name(mirk_handle *h, const char *name);
-/** Nonzero: destroying an object also removes its RA data and its state offset. 0: they remain until the block that
- * holds the object is freed. */
+/** Nonzero: destroying an object also removes its RA data and its state offset, see mirk_platform_sttr_offset(). 0:
+ * they remain until the block that holds the object is freed. Does not concern oids. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_oid_mapping(mirk_handle *h, uint32_t oid_mapping);
 /** Sets the handle's own handler of committed bundles; null removes it. A handler of
  * mirk_platform_dispatch_set_bundle_handler() takes precedence. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_bundle_handler(mirk_handle *h, mirk_bundle_handler handler);
-/** Sets what errors of variants do to the error slot from now on. */
+/** Sets the epoch policy from now on. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_epoch_policy(mirk_handle *h, mirk_platform_epoch_policy policy);
 /** Nonzero: a message that fails to marshal is traced at level 7 instead of level 3. Initially 0. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_suppress_messages(mirk_handle *h, uint32_t enabled);
-/** Changes the word in the descriptor, or attaches or removes the descriptor. The handle must have no live objects,
- * since objects created in one mode must not be used in the other. */
+/** Sets the tracking mode. The handle must have no live objects, since objects created in one mode must not be used in
+ * the other. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_tracking(mirk_handle *h, mirk_platform_tracking tracking);
 
 /** Returns the number of obj_alloc blocks that have not been freed. */
 MIRK_PLATFORM_API size_t mirk_platform_live_blocks(mirk_handle *h);
 /** Returns the total size in bytes of the obj_alloc blocks that have not been freed. */
 MIRK_PLATFORM_API uint64_t mirk_platform_live_bytes(mirk_handle *h);
-/** Returns how many requests obj_alloc has refused because of request_ceiling or total_ceiling. Operations report
+/** Returns how many requests obj_alloc has denied because of request_ceiling or total_ceiling. Operations report
  * ENOMEM for these as for a lack of memory; this number distinguishes them. */
 MIRK_PLATFORM_API uint64_t mirk_platform_ceiling_refusals(mirk_handle *h);
 
-/** A live block of obj_alloc. */
+/** A live block of obj_alloc. Blocks of size 0 also have distinct addresses. */
 typedef struct mirk_platform_block {
     void *address;   /**< its first byte */
     size_t size;     /**< bytes requested */
@@ -143,11 +147,11 @@ MIRK_PLATFORM_API size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform
 
 /* ---- domain: what the peers of a handle understand --------------------------------------------------------------- */
 
-/** Sets the variant that the domain has for the type with this identity of 16 bytes; negative: the domain does not have
- * the type. Types that were not set have variant 0. */
+/** Sets the variant that the domain has for the type with this luid; negative: the domain does not have the type. Types
+ * that were not set have variant 0. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_variant(mirk_handle *h, const uint8_t *luid,
                                                                        int8_t variant);
-/** Allows (nonzero) or forbids (0) the message with this identity of 16 bytes. Messages that were not set are allowed.
+/** Allows (nonzero) or forbids (0) the message with this luid. Messages that were not set are allowed.
  * Marshalling a forbidden message fails with EBADE. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_message(mirk_handle *h, const uint8_t *luid,
                                                                        uint32_t allowed);
@@ -156,8 +160,8 @@ MIRK_PLATFORM_API void mirk_platform_domain_clear(mirk_handle *h);
 
 /* ---- trace (process-wide, any thread) --------------------------------------------------------------------------- */
 
-/** Receives each line of a selected level, without a line end. Calls never overlap, on any threads. A line traced from
- * inside a sink is discarded. */
+/** Receives each line of a selected level, without a line end. Calls never overlap, even from different threads. A line
+ * traced from inside a sink is discarded. */
 typedef void (*mirk_platform_trace_sink)(void *user, uint16_t module_id, uint32_t level, const char *line);
 
 /** Sets the sink; `user` is its first argument. Null restores the default, which writes "module: line" to standard
@@ -169,8 +173,8 @@ MIRK_PLATFORM_API void mirk_platform_trace_set_sink(mirk_platform_trace_sink sin
 MIRK_PLATFORM_API void mirk_platform_trace_set_levels(uint32_t mask);
 /** Returns the mask of selected levels. */
 MIRK_PLATFORM_API uint32_t mirk_platform_trace_levels(void);
-/** Parses "all", "none", or a comma-separated list of levels from 0 to 31 into a mask. EINVAL for null and for any
- * other text; the mask is then unchanged. */
+/** Parses "all", "none", or a comma-separated list of levels from 0 to 31 into a mask, ignoring blanks around each.
+ * EINVAL for null and for any other text; the mask is then unchanged. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_trace_parse_levels(const char *text, uint32_t *mask);
 /** Returns the name under which a module was registered, or "?" for an unknown identifier. The text stays valid until
  * the process ends. */
@@ -178,7 +182,7 @@ MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id
 
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
-/** Attaches RA data to an object, replacing earlier data, and sets bit 32 of its flags. The value is an opaque word
+/** Attaches RA data to an object, replacing earlier data, and sets flag 32 of the object. The value is an opaque word
  * that is never dereferenced. EINVAL for a null object. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_set_ra_data(mirk_handle *h, void *object, void *value,
                                                                 uint8_t byte);
@@ -189,11 +193,12 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_ra_data(mirk_handle *h, cons
 /** The type of the destroy operation of every record. */
 typedef void (*mirk_platform_object_destroy)(mirk_handle *h, uint32_t ctx_id, void *object);
 
-/** Assigns an identifier (oid) to an object and sets bit 1 of its flags. `*oid` receives the oid, an opaque word.
+/** Assigns an identifier (oid) to an object and sets flag 1 of the object. `*oid` receives the oid, an opaque word.
  *
- * While `references` is above 0, destroying the object only marks it as condemned. When the count of a condemned object
- * drops to 0, `destroy` is called with the ctx_id of that call. `destroy` may be null: a condemned object then remains
- * until the program destroys it again.
+ * While `references` is above 0, destroying the object only marks it as condemned. The library lowers the count with
+ * mirklib_lookup_and_update_oid_ref_count() when it destroys a record that refers to the oid. At 0 that function calls
+ * `destroy`, with its own ctx_id, for a condemned object. `destroy` may be null: a condemned object then remains until
+ * the program destroys it again.
  *
  * EINVAL if `object` or `oid` is null; EEXIST if the object already has an oid. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_oid_mapping_make(mirk_handle *h, void *object, uint32_t references,
@@ -218,7 +223,7 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_sttr_offset(mirk_handle *h, 
  * caller owns it and releases it with mirk_platform_document_free(). The text may be released at once.
  *
  * Returns null on failure. The report, which may be null, then has the number (EINVAL or ENOMEM), the line and a
- * sentence. Documents with a document type declaration are refused. The parser never opens a file or a connection. */
+ * sentence. Documents with a document type declaration are rejected. The parser never opens a file or a connection. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_memory(const void *text, size_t length,
                                                            mirk_platform_report *report);
 /** The same for the contents of a file. The report may also have the error of opening or reading the file, such as
@@ -238,12 +243,12 @@ typedef uint32_t (*mirk_platform_unmarshal_only)(mirk_handle *h, uint32_t ctx_id
 /** The type of the destroy operation of every message. */
 typedef void (*mirk_platform_message_destroy)(mirk_handle *h, uint32_t ctx_id, void *message);
 
-/** A message that a handle can receive: its identity and the operations of the schema library. */
+/** A message that a handle can receive: its luid and the operations of the schema library. */
 typedef struct mirk_platform_message {
-    const uint8_t *luid; /**< identity, 16 bytes; not copied, must outlive the handle */
+    const uint8_t *luid; /**< not copied, must outlive the handle */
     const char *name;    /**< for trace lines; not copied, must outlive the handle */
-    /** Reads control messages. Reads a plain message a second time if the recorder is on, because only this operation
-     * records, or if `handler` is null, because only this operation calls the linked-in handler. */
+    /** Required. Reads control messages. Reads a plain message after unmarshal_only has done so, to record it or to
+     * call the linked-in handler, which no other operation does. */
     mirk_platform_unmarshal unmarshal;
     mirk_platform_unmarshal_only unmarshal_only; /**< reads plain messages; null: this is a control message */
     mirk_platform_message_destroy destroy;       /**< null is permitted for a control message */
@@ -252,27 +257,28 @@ typedef struct mirk_platform_message {
     mirk_message_handler handler;
 } mirk_platform_message;
 
-/** Registers a message, or replaces the entry with the same identity; its bundle handler stays. The structure is
+/** Registers a message, or replaces the entry with the same luid; its bundle handler stays. The structure is
  * copied. EINVAL if luid, name or unmarshal is null, or if a plain message has no destroy operation. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_register(mirk_handle *h,
                                                                       const mirk_platform_message *message);
-/** Sets the handler that receives a bundle committed by the control message with this identity, instead of all other
- * bundle handlers. Null removes it. ENOENT if the message is not registered. */
+/** Sets the handler that receives bundles whose commit message has this luid, instead of all other bundle handlers;
+ * with the luid of any other message it is never called. Null removes it. ENOENT if the message is not registered. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_set_bundle_handler(mirk_handle *h, const uint8_t *luid,
                                                                                 mirk_bundle_handler handler);
 
 /** Delivers a buffer of `size` bytes, which contains complete frames and has a guard byte. Messages of an open bundle
  * go to the receive list, other plain messages to their handlers. The buffer stays the caller's.
  *
- * Stops at the first error; frames before it have been delivered. The report, which may be null, names the frame.
- * EBADMSG: not a complete frame; ENOENT: the message is not registered; otherwise the error of reading the frame or of
- * its handler. */
+ * Stops at the first error; frames before it have been delivered. An error inside a bundle leaves the bundle open: call
+ * bundle_receive_message_list_destroy(), or close the handle, before dispatching other frames. The report, which may be
+ * null, names the frame. EBADMSG: not a complete frame; ENOENT: the message is not registered; otherwise the error of
+ * reading the frame or of its handler. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void *buffer,
                                                              uint32_t size, void *dispatch_ctx,
                                                              mirk_platform_report *report);
 
-/** A message on the receive list of a handle: the messages of the open bundle in order of arrival. For use by a bundle
- * handler: when it returns, the messages that are still on the list are destroyed. */
+/** An item of a handle's receive list, which contains the messages of the open bundle in order of arrival. For use by a
+ * bundle handler: when it returns, the messages that are still on the list are destroyed. */
 typedef struct mirk_platform_received mirk_platform_received;
 
 /** Returns the number of messages on the list. */
@@ -283,7 +289,7 @@ MIRK_PLATFORM_API mirk_platform_received *mirk_platform_received_first(mirk_hand
 MIRK_PLATFORM_API mirk_platform_received *mirk_platform_received_next(mirk_handle *h, mirk_platform_received *item);
 /** Returns the message, which remains on the list. */
 MIRK_PLATFORM_API void *mirk_platform_received_message(const mirk_platform_received *item);
-/** Returns the identity of the message, 16 bytes. */
+/** Returns the luid of the message. */
 MIRK_PLATFORM_API const uint8_t *mirk_platform_received_luid(const mirk_platform_received *item);
 /** Returns the name of the message. */
 MIRK_PLATFORM_API const char *mirk_platform_received_name(const mirk_platform_received *item);
@@ -293,7 +299,7 @@ MIRK_PLATFORM_API void *mirk_platform_received_detach(mirk_handle *h, mirk_platf
 
 /** A message admitted to the bundle that is open for sending. */
 typedef struct mirk_platform_sent {
-    const uint8_t *luid; /**< identity, 16 bytes */
+    const uint8_t *luid; /**< luid of the message */
     const char *name;    /**< name of the message */
     uint64_t count;      /**< number of messages written */
 } mirk_platform_sent;
@@ -306,8 +312,9 @@ MIRK_PLATFORM_API size_t mirk_platform_list_sent(mirk_handle *h, mirk_platform_s
 /** Switches the recorder on or off. While it is on, each plain message is written to the stream as XML when its
  * unmarshal operation has read it, before it is delivered. Only messages of at most 4095 bytes of XML are recorded.
  *
- * The stream stays the caller's and must remain open while the recorder is on. It may be null: each message then causes
- * a trace line instead.
+ * The stream stays the caller's and must remain open while the recorder is on. Switching off does not wait for a
+ * message that another thread is recording: close the stream only when no thread receives messages. Null is
+ * permitted: each message then causes a trace line instead.
  *
  * mirk_platform_dispatch() delivers messages that cannot be recorded as if the recorder were off; see
  * mirk_platform_recorder_failures(). A direct call of the unmarshal operation passes EMSGSIZE to the handler of a
@@ -317,8 +324,8 @@ MIRK_PLATFORM_API void mirk_platform_recorder_set(uint32_t on, FILE *stream);
  * also traced. `*number`, if not null, receives the error of the last one, or 0. EMSGSIZE: the message is too large.
  * Errors of writing are those of the system, such as ENOSPC; EIO if unknown.
  *
- * Every message counts that is recorded while the error indicator of the stream is set. Streams are buffered, so a
- * write error may concern earlier messages; check fflush() or fclose() for the last ones. */
+ * While the error indicator of the stream is set, every message counts as failed. Streams are buffered, so a write
+ * error may concern earlier messages; check fflush() or fclose() for the last ones. */
 MIRK_PLATFORM_API uint64_t mirk_platform_recorder_failures(uint32_t *number);
 
 /* ---- frames and requests ---------------------------------------------------------------------------------------- */
@@ -329,10 +336,10 @@ enum {
     MIRK_PLATFORM_REQUEST_SIZE_MAX = 304 /**< bytes of the largest request or refusal */
 };
 
-/** The start of a frame: header and identity. */
+/** The start of a frame: header and luid. */
 typedef struct mirk_platform_frame {
     mirk_message_header header; /**< the first 27 bytes */
-    uint8_t luid[16];           /**< identity of the message */
+    uint8_t luid[16];           /**< luid of the message */
 } mirk_platform_frame;
 
 /** Reads the start of the first frame in a buffer of `size` bytes. EMSGSIZE: fewer than 43 bytes. EBADMSG: wrong
@@ -387,8 +394,8 @@ typedef struct mirk_platform_server_options {
     uint32_t frame_limit;   /**< bytes; a peer that sends a longer frame is disconnected; default 16 MiB */
     uint32_t peer_limit;    /**< number of connected peers; further peers are refused; default 64 */
     uint32_t idle_ms;       /**< a peer without traffic for this long is disconnected; 0: never; default 60000 */
-    uint64_t pending_limit; /**< bytes; a peer with more unread data is disconnected; default 64 MiB */
-    uint32_t socket_mode;   /**< access rights of the socket file; default 0600 */
+    uint64_t pending_limit; /**< bytes queued for one peer; beyond it the peer is disconnected; default 64 MiB */
+    uint32_t socket_mode;   /**< access rights of the socket file, whatever the umask is; default 0600 */
     /** Receives one complete frame. The buffer is writable and has a guard byte; it is valid until the callback
      * returns. Required. */
     void (*on_frame)(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *frame, uint32_t size);
@@ -401,13 +408,14 @@ typedef struct mirk_platform_server_options {
      * 10000.
      */
     uint32_t frame_ms;
-    /** Milliseconds that a peer has to read the bytes of one send, once it has read all earlier ones; a slower peer is
-     * disconnected; 0: no limit; default 60000. */
+    /** Milliseconds from when the bytes of a mirk_platform_server_send() are first in the queue until the socket has
+     * accepted them; a slower peer is disconnected; 0: no limit; default 60000. */
     uint32_t answer_ms;
-    /** Bytes of unread data of all peers together; default 256 MiB. Beyond it the peer with the most is disconnected. A
-     * value below pending_limit means pending_limit. */
+    /** Bytes queued for all peers together; default 256 MiB. Beyond it the peer with the most queued bytes is
+     * disconnected. A value below pending_limit means pending_limit. */
     uint64_t total_pending_limit;
-    /** A peer exceeded a limit or sent something other than a frame; on_disconnect follows. May be null.
+    /** A peer exceeded a limit or sent something other than a frame. Nothing can be sent to it any more; on_disconnect
+     * follows. May be null.
      *
      * Also called for a peer that is refused because of peer_limit; it gets no other callback. Called with peer 0 if
      * connections cannot be accepted, as when descriptors run out: once, until accepting works again. */
@@ -446,18 +454,19 @@ MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_ser
 /** Serves until mirk_platform_server_stop() is called. All callbacks run on the calling thread. When stopped, sends
  * what the sockets accept without blocking, and disconnects all peers. Call it once per server. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
-/** Stops the server. May be called from any thread and from a signal handler. If called before
- * mirk_platform_server_run(), that returns immediately. */
+/** Stops the server. May be called from any thread and from a signal handler. A later mirk_platform_server_run()
+ * returns immediately. */
 MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
-/** Queues a copy of `size` bytes, which should be complete frames, for a peer. Call it only from a callback.
+/** Queues a copy of `size` bytes, which should be complete frames, for a peer. Call it only from a callback. May
+ * call on_refused and on_disconnect before it returns, for this or for another peer.
  *
  * ENOTCONN: the peer is gone or being disconnected. ENOBUFS: pending_limit or total_pending_limit was exceeded; the
  * peer has been disconnected. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer,
                                                                 const void *bytes, size_t size);
 /** Disconnects a peer after sending what is queued for it; its further frames are ignored. Call it only from a
- * callback. `reason` goes to on_disconnect and the trace; null means "disconnected by the program". An unknown peer is
- * ignored. */
+ * callback. May call on_disconnect before it returns. `reason` goes to on_disconnect and the trace; null means
+ * "disconnected by the program". An unknown peer is ignored. */
 MIRK_PLATFORM_API void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform_peer peer,
                                                        const char *reason);
 /** Returns the number of connected peers. Call it only from a callback, or while the server does not run. */
@@ -467,8 +476,8 @@ MIRK_PLATFORM_API size_t mirk_platform_server_peers(mirk_platform_server *server
 MIRK_PLATFORM_API void mirk_platform_server_close(mirk_platform_server *server);
 
 /** Connects to a socket file. The caller owns `*client` and releases it with mirk_platform_client_close().
- * `frame_limit` is the length in bytes of the longest frame to receive; 0 means 16 MiB. `timeout_ms` is in
- * milliseconds.
+ * `frame_limit` is the length in bytes of the longest frame to receive; 0 means 16 MiB. `timeout_ms`, here and below,
+ * is in milliseconds; 0 does not wait, and no value waits forever.
  *
  * ETIMEDOUT: the timeout expired. ECONNREFUSED: no process listens. ENOENT: the file does not exist. ENAMETOOLONG: the
  * path does not fit a socket address. EINVAL: an argument is null. Other errors come from the system. */

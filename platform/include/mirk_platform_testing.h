@@ -105,7 +105,7 @@ typedef void (*mirk_platform_testing_hook)(void *user, mirk_handle *h, const mir
 /** Sets the hook of a handle; `user` is its first argument. Null removes it. */
 MIRK_PLATFORM_API void mirk_platform_testing_set_hook(mirk_handle *h, mirk_platform_testing_hook hook, void *user);
 
-/** Returns the number of state offsets that the handle keeps. */
+/** Returns the number of state offsets that the handle keeps; see mirk_platform_sttr_offset(). */
 MIRK_PLATFORM_API size_t mirk_platform_testing_offset_entries(mirk_handle *h);
 /** Returns the number of objects with RA data. */
 MIRK_PLATFORM_API size_t mirk_platform_testing_ra_entries(mirk_handle *h);
