@@ -1,23 +1,33 @@
 /// @file
 /// lumo_ui_tarn.hpp - the C++17 interface: records, enumerations, messages and bundles as types.
 ///
-/// A record has three types: dp_tc owns an instance, dp_tc_ref borrows one, dp_tc_view borrows one to read it.
-/// lumo_ui_tarn/interface.hpp describes what all types have in common, and how errors are reported.
+/// - Records: three types for each type in C. For lumo_tarn_dp_tc they are dp_tc, which owns a record, dp_tc_ref, which
+///   borrows one, and dp_tc_view, which borrows one to read it.
+/// - Enumerations: enum classes, for example ha_state. name_of() returns the name of an enumerator in C.
+/// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
+/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
 ///
-/// A member proto has these functions, without the setters on a const owner or a view:
+/// lumo_ui_tarn/interface.hpp describes what these types have in common, and how errors are reported.
+///
+/// Each member of a record, for example proto of lumo_tarn_dp_tc, has the functions below. Const owners and views have
+/// no setters.
 /// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
-/// - set_proto(value) writes the value and returns the object, so that calls chain. Setters copy. EINVAL for text that
-///   contains a NUL, EOVERFLOW for text of more than 65535 bytes.
-/// - adopt_appl(record) moves a record into the nested record appl.
+/// - set_proto(value) writes the value and returns the object, so that calls chain. EINVAL for text with a NUL
+///   character, EOVERFLOW for text of more than 65535 bytes.
+/// - set_appl(record) makes a deep copy of a record in the nested record appl.
+/// - adopt_appl(record) moves the contents of a record into the nested record appl. The source keeps its C object,
+///   without arrays and strings.
 /// - proto_state() returns the state byte, or nothing if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
 ///
-/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no setter,
-/// because the container writes elements. If the name of a member is a keyword or a function of all records, _member is
-/// appended.
+/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no
+/// setter, because the container writes elements. If the name of a member is a keyword or a function of all records,
+/// _member is appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names from
+/// the systems that send the data. The library does not interpret these values.
 ///
-/// dp_tc_type names the C functions of lumo_tarn_dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
-/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions.
+/// dp_tc_type names the C functions of the whole record: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
+/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions and explains the terms: handle,
+/// ctx_id, state byte, RA data and others.
 ///
 /// Everything is inline: link the C library.
 // Generated from the schema; edit the tables there and run tools/regenerate.
@@ -252,7 +262,7 @@ struct mem_desc_type {
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_mem_desc_e);
 };
 
-/// lumo_tarn_exmem_info: one block of external memory: its three addresses and its size.
+/// One block of external memory: its three addresses and its size. C type: lumo_tarn_exmem_info.
 struct exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_exmem_info);
@@ -368,7 +378,7 @@ using exmem_info = record<exmem_info_type>;  ///< owns one
 using exmem_info_ref = record_ref<exmem_info_type>;  ///< borrows one
 using exmem_info_view = record_view<exmem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_fdb_base: versions and lengths of the header and the footer of the fdb.
+/// Versions and lengths of the header and the footer of the fdb. C type: lumo_tarn_fdb_base.
 struct fdb_base_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_fdb_base);
@@ -504,7 +514,7 @@ using fdb_base = record<fdb_base_type>;  ///< owns one
 using fdb_base_ref = record_ref<fdb_base_type>;  ///< borrows one
 using fdb_base_view = record_view<fdb_base_type>;  ///< borrows one to read it
 
-/// lumo_tarn_fdb_mem_info: one piece of fdb memory.
+/// One piece of fdb memory. C type: lumo_tarn_fdb_mem_info.
 struct fdb_mem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_fdb_mem_info);
@@ -602,7 +612,7 @@ using fdb_mem_info = record<fdb_mem_info_type>;  ///< owns one
 using fdb_mem_info_ref = record_ref<fdb_mem_info_type>;  ///< borrows one
 using fdb_mem_info_view = record_view<fdb_mem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_exmem_info_wrapper: one block of a growing list of blocks.
+/// One block of a growing list of blocks. C type: lumo_tarn_exmem_info_wrapper.
 struct exmem_info_wrapper_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_exmem_info_wrapper);
@@ -681,7 +691,7 @@ using exmem_info_wrapper = record<exmem_info_wrapper_type>;  ///< owns one
 using exmem_info_wrapper_ref = record_ref<exmem_info_wrapper_type>;  ///< borrows one
 using exmem_info_wrapper_view = record_view<exmem_info_wrapper_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_appl: one application entry in the data plane.
+/// One application entry in the data plane. C type: lumo_tarn_dp_appl.
 struct dp_appl_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_appl);
@@ -828,7 +838,7 @@ using dp_appl = record<dp_appl_type>;  ///< owns one
 using dp_appl_ref = record_ref<dp_appl_type>;  ///< borrows one
 using dp_appl_view = record_view<dp_appl_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_tc: one traffic class.
+/// One traffic class. C type: lumo_tarn_dp_tc.
 struct dp_tc_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_tc);
@@ -873,7 +883,7 @@ struct dp_tc_type {
         std::uint64_t next_ptr() const { return this->call_(lumo_tarn_dp_tc_next_ptr_get_value); }
         /// Location of the application data in the data plane.
         std::uint64_t appl_data_ptr() const { return this->call_(lumo_tarn_dp_tc_appl_data_ptr_get_value); }
-        /// Class's application entry.
+        /// Application entry of the class.
         lumo_ui_tarn::dp_appl_view appl() const {
             return this->template nested_<lumo_ui_tarn::dp_appl_type>(lumo_tarn_dp_tc_appl_get);
         }
@@ -1216,7 +1226,7 @@ using dp_tc = record<dp_tc_type>;  ///< owns one
 using dp_tc_ref = record_ref<dp_tc_type>;  ///< borrows one
 using dp_tc_view = record_view<dp_tc_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_tc_list: counted list of traffic classes.
+/// Counted list of traffic classes. C type: lumo_tarn_dp_tc_list.
 struct dp_tc_list_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_tc_list);
@@ -1234,7 +1244,7 @@ struct dp_tc_list_type {
     public:
         using detail::operations<dp_tc_list_type, Self>::operations;
 
-        /// Elements in tc_list.
+        /// Number of elements in tc_list.
         std::uint32_t num_tcs() const { return this->call_(lumo_tarn_dp_tc_list_num_tcs_get_value); }
         /// Traffic classes.
         lumo_ui_tarn::array_view<tc_list_array> tc_list() const { return this->template array_<tc_list_array>(); }
@@ -1282,7 +1292,7 @@ using dp_tc_list = record<dp_tc_list_type>;  ///< owns one
 using dp_tc_list_ref = record_ref<dp_tc_list_type>;  ///< borrows one
 using dp_tc_list_view = record_view<dp_tc_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_appl_list: counted list of application entries.
+/// Counted list of application entries. C type: lumo_tarn_dp_appl_list.
 struct dp_appl_list_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_appl_list);
@@ -1300,7 +1310,7 @@ struct dp_appl_list_type {
     public:
         using detail::operations<dp_appl_list_type, Self>::operations;
 
-        /// Elements in appl_list.
+        /// Number of elements in appl_list.
         std::uint32_t num_appls() const { return this->call_(lumo_tarn_dp_appl_list_num_appls_get_value); }
         /// Application entries.
         lumo_ui_tarn::array_view<appl_list_array> appl_list() const { return this->template array_<appl_list_array>(); }
@@ -1348,7 +1358,7 @@ using dp_appl_list = record<dp_appl_list_type>;  ///< owns one
 using dp_appl_list_ref = record_ref<dp_appl_list_type>;  ///< borrows one
 using dp_appl_list_view = record_view<dp_appl_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_ll_spec: definition of one learn list.
+/// Definition of one learn list. C type: lumo_tarn_dp_ll_spec.
 struct dp_ll_spec_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_ll_spec);
@@ -1949,7 +1959,7 @@ using dp_ll_spec = record<dp_ll_spec_type>;  ///< owns one
 using dp_ll_spec_ref = record_ref<dp_ll_spec_type>;  ///< borrows one
 using dp_ll_spec_view = record_view<dp_ll_spec_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_learn_list: learn list definitions of one traffic table.
+/// Learn list definitions of one traffic table. C type: lumo_tarn_dp_learn_list.
 struct dp_learn_list_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_learn_list);
@@ -1967,7 +1977,7 @@ struct dp_learn_list_type {
     public:
         using detail::operations<dp_learn_list_type, Self>::operations;
 
-        /// Elements in ll_spec_list.
+        /// Number of elements in ll_spec_list.
         std::uint32_t num_ll_specs() const { return this->call_(lumo_tarn_dp_learn_list_num_ll_specs_get_value); }
         /// Learn list definitions.
         lumo_ui_tarn::array_view<ll_spec_list_array> ll_spec_list() const {
@@ -2021,7 +2031,7 @@ using dp_learn_list = record<dp_learn_list_type>;  ///< owns one
 using dp_learn_list_ref = record_ref<dp_learn_list_type>;  ///< borrows one
 using dp_learn_list_view = record_view<dp_learn_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_debug_setting: debug switches of one processor's data plane.
+/// Debug switches of one processor's data plane. C type: lumo_tarn_dp_debug_setting.
 struct dp_debug_setting_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_debug_setting);
@@ -2259,7 +2269,7 @@ using dp_debug_setting = record<dp_debug_setting_type>;  ///< owns one
 using dp_debug_setting_ref = record_ref<dp_debug_setting_type>;  ///< borrows one
 using dp_debug_setting_view = record_view<dp_debug_setting_type>;  ///< borrows one to read it
 
-/// lumo_tarn_debug_setting: four debug levels of one component.
+/// Four debug levels of one component. C type: lumo_tarn_debug_setting.
 struct debug_setting_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_debug_setting);
@@ -2379,7 +2389,7 @@ using debug_setting = record<debug_setting_type>;  ///< owns one
 using debug_setting_ref = record_ref<debug_setting_type>;  ///< borrows one
 using debug_setting_view = record_view<debug_setting_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_debug_setting_data: debug switches of all processors.
+/// Debug switches of all processors. C type: lumo_tarn_dp_debug_setting_data.
 struct dp_debug_setting_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_debug_setting_data);
@@ -2397,7 +2407,7 @@ struct dp_debug_setting_data_type {
     public:
         using detail::operations<dp_debug_setting_data_type, Self>::operations;
 
-        /// Elements in lumo_data.
+        /// Number of elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_debug_setting_data_num_lumos_get_value); }
         /// One element for each processor.
         lumo_ui_tarn::array_view<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
@@ -2445,7 +2455,7 @@ using dp_debug_setting_data = record<dp_debug_setting_data_type>;  ///< owns one
 using dp_debug_setting_data_ref = record_ref<dp_debug_setting_data_type>;  ///< borrows one
 using dp_debug_setting_data_view = record_view<dp_debug_setting_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_cl_kesh_appl: one application.
+/// One application. C type: lumo_tarn_cl_kesh_appl.
 struct cl_kesh_appl_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_cl_kesh_appl);
@@ -2580,7 +2590,7 @@ using cl_kesh_appl = record<cl_kesh_appl_type>;  ///< owns one
 using cl_kesh_appl_ref = record_ref<cl_kesh_appl_type>;  ///< borrows one
 using cl_kesh_appl_view = record_view<cl_kesh_appl_type>;  ///< borrows one to read it
 
-/// lumo_tarn_cl_appl_data: applications of the client.
+/// Applications of the client. C type: lumo_tarn_cl_appl_data.
 struct cl_appl_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_cl_appl_data);
@@ -2600,7 +2610,7 @@ struct cl_appl_data_type {
 
         /// Whether to show the header.
         bool show_header() const { return this->call_(lumo_tarn_cl_appl_data_show_header_get_value) != 0; }
-        /// Elements in kesh_appl.
+        /// Number of elements in kesh_appl.
         std::uint32_t num_kesh_appls() const { return this->call_(lumo_tarn_cl_appl_data_num_kesh_appls_get_value); }
         /// Applications.
         lumo_ui_tarn::array_view<kesh_appl_array> kesh_appl() const { return this->template array_<kesh_appl_array>(); }
@@ -2666,7 +2676,7 @@ using cl_appl_data = record<cl_appl_data_type>;  ///< owns one
 using cl_appl_data_ref = record_ref<cl_appl_data_type>;  ///< borrows one
 using cl_appl_data_view = record_view<cl_appl_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_static_exmem_info: memory block that a processor holds permanently, with its kind of memory.
+/// Memory block that a processor holds permanently, with its kind of memory. C type: lumo_tarn_static_exmem_info.
 struct static_exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_static_exmem_info);
@@ -2792,7 +2802,7 @@ using static_exmem_info = record<static_exmem_info_type>;  ///< owns one
 using static_exmem_info_ref = record_ref<static_exmem_info_type>;  ///< borrows one
 using static_exmem_info_view = record_view<static_exmem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dyn_exmem_info: memory blocks that a processor adds at run time, with their kind of memory.
+/// Memory blocks that a processor adds at run time, with their kind of memory. C type: lumo_tarn_dyn_exmem_info.
 struct dyn_exmem_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dyn_exmem_info);
@@ -2818,7 +2828,7 @@ struct dyn_exmem_info_type {
         std::uint64_t list_header_ptr() const {
             return this->call_(lumo_tarn_dyn_exmem_info_list_header_ptr_get_value);
         }
-        /// Elements in exmem.
+        /// Number of elements in exmem.
         std::uint32_t num_exmems() const { return this->call_(lumo_tarn_dyn_exmem_info_num_exmems_get_value); }
         /// Dynamic blocks.
         lumo_ui_tarn::array_view<exmem_array> exmem() const { return this->template array_<exmem_array>(); }
@@ -2903,7 +2913,7 @@ using dyn_exmem_info = record<dyn_exmem_info_type>;  ///< owns one
 using dyn_exmem_info_ref = record_ref<dyn_exmem_info_type>;  ///< borrows one
 using dyn_exmem_info_view = record_view<dyn_exmem_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_lumo_info: state of one processor.
+/// State of one processor. C type: lumo_tarn_lumo_info.
 struct lumo_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_lumo_info);
@@ -3072,13 +3082,13 @@ struct lumo_info_type {
         lumo_ui_tarn::exmem_info_view tt_export_exmem() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_lumo_info_tt_export_exmem_get);
         }
-        /// Elements in static_exmem.
+        /// Number of elements in static_exmem.
         std::uint8_t num_static_exmems() const { return this->call_(lumo_tarn_lumo_info_num_static_exmems_get_value); }
         /// Static memory blocks of the processor.
         lumo_ui_tarn::array_view<static_exmem_array> static_exmem() const {
             return this->template array_<static_exmem_array>();
         }
-        /// Elements in dyn_exmem.
+        /// Number of elements in dyn_exmem.
         std::uint8_t num_dyn_exmems() const { return this->call_(lumo_tarn_lumo_info_num_dyn_exmems_get_value); }
         /// Dynamic memory blocks of the processor.
         lumo_ui_tarn::array_view<dyn_exmem_array> dyn_exmem() const { return this->template array_<dyn_exmem_array>(); }
@@ -4206,7 +4216,7 @@ using lumo_info = record<lumo_info_type>;  ///< owns one
 using lumo_info_ref = record_ref<lumo_info_type>;  ///< borrows one
 using lumo_info_view = record_view<lumo_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_lumo_info_list: processors of the system.
+/// Processors of the system. C type: lumo_tarn_lumo_info_list.
 struct lumo_info_list_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_lumo_info_list);
@@ -4224,7 +4234,7 @@ struct lumo_info_list_type {
     public:
         using detail::operations<lumo_info_list_type, Self>::operations;
 
-        /// Elements in lumo_info.
+        /// Number of elements in lumo_info.
         std::uint32_t num_lumos() const { return this->call_(lumo_tarn_lumo_info_list_num_lumos_get_value); }
         /// One element for each processor.
         lumo_ui_tarn::array_view<lumo_info_array> lumo_info() const { return this->template array_<lumo_info_array>(); }
@@ -4272,7 +4282,7 @@ using lumo_info_list = record<lumo_info_list_type>;  ///< owns one
 using lumo_info_list_ref = record_ref<lumo_info_list_type>;  ///< borrows one
 using lumo_info_list_view = record_view<lumo_info_list_type>;  ///< borrows one to read it
 
-/// lumo_tarn_global_info: state of the whole client process.
+/// State of the whole client process. C type: lumo_tarn_global_info.
 struct global_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_global_info);
@@ -4618,7 +4628,7 @@ using global_info = record<global_info_type>;  ///< owns one
 using global_info_ref = record_ref<global_info_type>;  ///< borrows one
 using global_info_view = record_view<global_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_cl_cfg_data: state of the client side as a whole.
+/// State of the client side as a whole. C type: lumo_tarn_cl_cfg_data.
 struct cl_cfg_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_cl_cfg_data);
@@ -4831,7 +4841,7 @@ using cl_cfg_data = record<cl_cfg_data_type>;  ///< owns one
 using cl_cfg_data_ref = record_ref<cl_cfg_data_type>;  ///< borrows one
 using cl_cfg_data_view = record_view<cl_cfg_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_wexa_info: flags of a wexa entry.
+/// Flags of a wexa entry. C type: lumo_tarn_dp_wexa_info.
 struct dp_wexa_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_wexa_info);
@@ -4890,7 +4900,7 @@ using dp_wexa_info = record<dp_wexa_info_type>;  ///< owns one
 using dp_wexa_info_ref = record_ref<dp_wexa_info_type>;  ///< borrows one
 using dp_wexa_info_view = record_view<dp_wexa_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_lumo_wexa_info: two wexa entries of one processor.
+/// Two wexa entries of one processor. C type: lumo_tarn_dp_lumo_wexa_info.
 struct dp_lumo_wexa_info_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_lumo_wexa_info);
@@ -5078,7 +5088,7 @@ using dp_lumo_wexa_info = record<dp_lumo_wexa_info_type>;  ///< owns one
 using dp_lumo_wexa_info_ref = record_ref<dp_lumo_wexa_info_type>;  ///< borrows one
 using dp_lumo_wexa_info_view = record_view<dp_lumo_wexa_info_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_intf_data: state of the feature on one interface.
+/// State of the feature on one interface. C type: lumo_tarn_dp_intf_data.
 struct dp_intf_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_intf_data);
@@ -5297,7 +5307,7 @@ using dp_intf_data = record<dp_intf_data_type>;  ///< owns one
 using dp_intf_data_ref = record_ref<dp_intf_data_type>;  ///< borrows one
 using dp_intf_data_view = record_view<dp_intf_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_appl_sig: one signature.
+/// One signature. C type: lumo_tarn_dp_appl_sig.
 struct dp_appl_sig_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_appl_sig);
@@ -5614,7 +5624,7 @@ using dp_appl_sig = record<dp_appl_sig_type>;  ///< owns one
 using dp_appl_sig_ref = record_ref<dp_appl_sig_type>;  ///< borrows one
 using dp_appl_sig_view = record_view<dp_appl_sig_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_appl_cfg: signatures of one processor.
+/// Signatures of one processor. C type: lumo_tarn_dp_appl_cfg.
 struct dp_appl_cfg_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_appl_cfg);
@@ -5640,7 +5650,7 @@ struct dp_appl_cfg_type {
         lumo_ui_tarn::exmem_info_view hash_exmem_info() const {
             return this->template nested_<lumo_ui_tarn::exmem_info_type>(lumo_tarn_dp_appl_cfg_hash_exmem_info_get);
         }
-        /// Elements in sig_list.
+        /// Number of elements in sig_list.
         std::uint32_t num_sigs() const { return this->call_(lumo_tarn_dp_appl_cfg_num_sigs_get_value); }
         /// Signatures.
         lumo_ui_tarn::array_view<sig_list_array> sig_list() const { return this->template array_<sig_list_array>(); }
@@ -5760,7 +5770,7 @@ using dp_appl_cfg = record<dp_appl_cfg_type>;  ///< owns one
 using dp_appl_cfg_ref = record_ref<dp_appl_cfg_type>;  ///< borrows one
 using dp_appl_cfg_view = record_view<dp_appl_cfg_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_appl_data: signature tables, one for each processor.
+/// Signature tables, one for each processor. C type: lumo_tarn_dp_appl_data.
 struct dp_appl_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_appl_data);
@@ -5780,7 +5790,7 @@ struct dp_appl_data_type {
 
         /// Whether to show the header.
         bool show_header() const { return this->call_(lumo_tarn_dp_appl_data_show_header_get_value) != 0; }
-        /// Elements in lumo_data.
+        /// Number of elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_appl_data_num_lumos_get_value); }
         /// One element for each processor.
         lumo_ui_tarn::array_view<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
@@ -5846,7 +5856,7 @@ using dp_appl_data = record<dp_appl_data_type>;  ///< owns one
 using dp_appl_data_ref = record_ref<dp_appl_data_type>;  ///< borrows one
 using dp_appl_data_view = record_view<dp_appl_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_tt_table: one traffic table of one processor.
+/// One traffic table of one processor. C type: lumo_tarn_dp_tt_table.
 struct dp_tt_table_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_tt_table);
@@ -6590,7 +6600,7 @@ using dp_tt_table = record<dp_tt_table_type>;  ///< owns one
 using dp_tt_table_ref = record_ref<dp_tt_table_type>;  ///< borrows one
 using dp_tt_table_view = record_view<dp_tt_table_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_tt_table_data: one traffic table for each processor.
+/// One traffic table for each processor. C type: lumo_tarn_dp_tt_table_data.
 struct dp_tt_table_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_tt_table_data);
@@ -6610,7 +6620,7 @@ struct dp_tt_table_data_type {
 
         /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_dp_tt_table_data_show_header_get_value) != 0; }
-        /// Elements in lumo_data.
+        /// Number of elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_tt_table_data_num_lumos_get_value); }
         /// Tables, one for each processor.
         lumo_ui_tarn::array_view<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
@@ -6678,7 +6688,7 @@ using dp_tt_table_data = record<dp_tt_table_data_type>;  ///< owns one
 using dp_tt_table_data_ref = record_ref<dp_tt_table_data_type>;  ///< borrows one
 using dp_tt_table_data_view = record_view<dp_tt_table_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_tc_prefix: traffic classes of one prefix on one processor.
+/// Traffic classes of one prefix on one processor. C type: lumo_tarn_dp_mp_tc_prefix.
 struct dp_mp_tc_prefix_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_tc_prefix);
@@ -6880,7 +6890,7 @@ using dp_mp_tc_prefix = record<dp_mp_tc_prefix_type>;  ///< owns one
 using dp_mp_tc_prefix_ref = record_ref<dp_mp_tc_prefix_type>;  ///< borrows one
 using dp_mp_tc_prefix_view = record_view<dp_mp_tc_prefix_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_tc_prefix_lumo_data: one prefix with its entries.
+/// One prefix with its entries. C type: lumo_tarn_dp_mp_tc_prefix_lumo_data.
 struct dp_mp_tc_prefix_lumo_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_tc_prefix_lumo_data);
@@ -6902,7 +6912,7 @@ struct dp_mp_tc_prefix_lumo_data_type {
         lumo_ui_tarn::address prefix() const {
             return this->read_address_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get);
         }
-        /// Elements in lumo_data.
+        /// Number of elements in lumo_data.
         std::uint8_t num_lumos() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_lumo_data_num_lumos_get_value); }
         /// Entries, one for each processor.
         lumo_ui_tarn::array_view<lumo_data_array> lumo_data() const { return this->template array_<lumo_data_array>(); }
@@ -6969,7 +6979,7 @@ using dp_mp_tc_prefix_lumo_data = record<dp_mp_tc_prefix_lumo_data_type>;  ///< 
 using dp_mp_tc_prefix_lumo_data_ref = record_ref<dp_mp_tc_prefix_lumo_data_type>;  ///< borrows one
 using dp_mp_tc_prefix_lumo_data_view = record_view<dp_mp_tc_prefix_lumo_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_tc_prefix_data: prefixes with their traffic classes.
+/// Prefixes with their traffic classes. C type: lumo_tarn_dp_mp_tc_prefix_data.
 struct dp_mp_tc_prefix_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_tc_prefix_data);
@@ -6993,7 +7003,7 @@ struct dp_mp_tc_prefix_data_type {
         std::uint32_t total_prefixes() const {
             return this->call_(lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_get_value);
         }
-        /// Elements in prefix_data.
+        /// Number of elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get_value); }
         /// Prefixes.
         lumo_ui_tarn::array_view<prefix_data_array> prefix_data() const {
@@ -7083,7 +7093,7 @@ using dp_mp_tc_prefix_data = record<dp_mp_tc_prefix_data_type>;  ///< owns one
 using dp_mp_tc_prefix_data_ref = record_ref<dp_mp_tc_prefix_data_type>;  ///< borrows one
 using dp_mp_tc_prefix_data_view = record_view<dp_mp_tc_prefix_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_prefix: one prefix as one complex holds it.
+/// One prefix as one complex holds it. C type: lumo_tarn_dp_mp_prefix.
 struct dp_mp_prefix_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_prefix);
@@ -7203,7 +7213,7 @@ using dp_mp_prefix = record<dp_mp_prefix_type>;  ///< owns one
 using dp_mp_prefix_ref = record_ref<dp_mp_prefix_type>;  ///< borrows one
 using dp_mp_prefix_view = record_view<dp_mp_prefix_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_prefix_complex_data: one looked-up prefix with its entries.
+/// One looked-up prefix with its entries. C type: lumo_tarn_dp_mp_prefix_complex_data.
 struct dp_mp_prefix_complex_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_prefix_complex_data);
@@ -7225,7 +7235,7 @@ struct dp_mp_prefix_complex_data_type {
         lumo_ui_tarn::address lookup_prefix() const {
             return this->read_address_(lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_get);
         }
-        /// Elements in complex_data.
+        /// Number of elements in complex_data.
         std::uint8_t num_complexes() const {
             return this->call_(lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value);
         }
@@ -7301,7 +7311,7 @@ using dp_mp_prefix_complex_data = record<dp_mp_prefix_complex_data_type>;  ///< 
 using dp_mp_prefix_complex_data_ref = record_ref<dp_mp_prefix_complex_data_type>;  ///< borrows one
 using dp_mp_prefix_complex_data_view = record_view<dp_mp_prefix_complex_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_dp_mp_prefix_data: looked-up prefixes.
+/// Looked-up prefixes. C type: lumo_tarn_dp_mp_prefix_data.
 struct dp_mp_prefix_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_dp_mp_prefix_data);
@@ -7321,7 +7331,7 @@ struct dp_mp_prefix_data_type {
 
         /// Selection flag of the show request.
         bool show_header() const { return this->call_(lumo_tarn_dp_mp_prefix_data_show_header_get_value) != 0; }
-        /// Elements in prefix_data.
+        /// Number of elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_dp_mp_prefix_data_num_prefixes_get_value); }
         /// Looked-up prefixes.
         lumo_ui_tarn::array_view<prefix_data_array> prefix_data() const {
@@ -7393,7 +7403,7 @@ using dp_mp_prefix_data = record<dp_mp_prefix_data_type>;  ///< owns one
 using dp_mp_prefix_data_ref = record_ref<dp_mp_prefix_data_type>;  ///< borrows one
 using dp_mp_prefix_data_view = record_view<dp_mp_prefix_data_type>;  ///< borrows one to read it
 
-/// lumo_tarn_pal_mp_prefix: one prefix of the adaptation layer.
+/// One prefix of the adaptation layer. C type: lumo_tarn_pal_mp_prefix.
 struct pal_mp_prefix_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_pal_mp_prefix);
@@ -7508,7 +7518,7 @@ using pal_mp_prefix = record<pal_mp_prefix_type>;  ///< owns one
 using pal_mp_prefix_ref = record_ref<pal_mp_prefix_type>;  ///< borrows one
 using pal_mp_prefix_view = record_view<pal_mp_prefix_type>;  ///< borrows one to read it
 
-/// lumo_tarn_pal_mp_prefix_data: prefixes of the adaptation layer.
+/// Prefixes of the adaptation layer. C type: lumo_tarn_pal_mp_prefix_data.
 struct pal_mp_prefix_data_type {
     /// @cond names
     LUMO_UI_TARN_RECORD(lumo_tarn_pal_mp_prefix_data);
@@ -7532,7 +7542,7 @@ struct pal_mp_prefix_data_type {
         std::uint32_t total_prefixes() const {
             return this->call_(lumo_tarn_pal_mp_prefix_data_total_prefixes_get_value);
         }
-        /// Elements in prefix_data.
+        /// Number of elements in prefix_data.
         std::uint8_t num_prefixes() const { return this->call_(lumo_tarn_pal_mp_prefix_data_num_prefixes_get_value); }
         /// Prefixes.
         lumo_ui_tarn::array_view<prefix_data_array> prefix_data() const {
@@ -7712,67 +7722,67 @@ using pal_mp_prefix_msg = message<pal_mp_prefix_msg_type>;  ///< owns one
 using pal_mp_prefix_msg_ref = message_ref<pal_mp_prefix_msg_type>;  ///< borrows one
 using pal_mp_prefix_msg_view = message_view<pal_mp_prefix_msg_type>;  ///< borrows one to read it
 
-/// lumo_tarn_pal_debug_rsp admits lumo_tarn_debug_setting_msg.
+/// lumo_tarn_pal_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer.
 struct pal_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_pal_debug_rsp);
 };
 
-/// lumo_tarn_cl_debug_rsp admits lumo_tarn_debug_setting_msg.
+/// lumo_tarn_cl_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer.
 struct cl_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_debug_rsp);
 };
 
-/// lumo_tarn_dp_debug_rsp admits lumo_tarn_dp_debug_setting_msg.
+/// lumo_tarn_dp_debug_rsp: bundle of lumo_tarn_dp_debug_setting_msg messages. See bundle_writer.
 struct dp_debug_rsp {
     using message = lumo_ui_tarn::dp_debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_debug_rsp);
 };
 
-/// lumo_tarn_cl_appl_cfg_rsp admits lumo_tarn_cl_appl_msg.
+/// lumo_tarn_cl_appl_cfg_rsp: bundle of lumo_tarn_cl_appl_msg messages. See bundle_writer.
 struct cl_appl_cfg_rsp {
     using message = lumo_ui_tarn::cl_appl_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_appl_cfg_rsp);
 };
 
-/// lumo_tarn_cl_cfg_rsp admits lumo_tarn_cl_cfg_msg.
+/// lumo_tarn_cl_cfg_rsp: bundle of lumo_tarn_cl_cfg_msg messages. See bundle_writer.
 struct cl_cfg_rsp {
     using message = lumo_ui_tarn::cl_cfg_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_cfg_rsp);
 };
 
-/// lumo_tarn_dp_intf_rsp admits lumo_tarn_dp_intf_msg.
+/// lumo_tarn_dp_intf_rsp: bundle of lumo_tarn_dp_intf_msg messages. See bundle_writer.
 struct dp_intf_rsp {
     using message = lumo_ui_tarn::dp_intf_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_intf_rsp);
 };
 
-/// lumo_tarn_dp_appl_cfg_rsp admits lumo_tarn_dp_appl_msg.
+/// lumo_tarn_dp_appl_cfg_rsp: bundle of lumo_tarn_dp_appl_msg messages. See bundle_writer.
 struct dp_appl_cfg_rsp {
     using message = lumo_ui_tarn::dp_appl_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_appl_cfg_rsp);
 };
 
-/// lumo_tarn_dp_tt_cfg_rsp admits lumo_tarn_dp_tt_msg.
+/// lumo_tarn_dp_tt_cfg_rsp: bundle of lumo_tarn_dp_tt_msg messages. See bundle_writer.
 struct dp_tt_cfg_rsp {
     using message = lumo_ui_tarn::dp_tt_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_tt_cfg_rsp);
 };
 
-/// lumo_tarn_dp_mp_tc_cfg_rsp admits lumo_tarn_dp_mp_tc_msg.
+/// lumo_tarn_dp_mp_tc_cfg_rsp: bundle of lumo_tarn_dp_mp_tc_msg messages. See bundle_writer.
 struct dp_mp_tc_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_tc_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_mp_tc_cfg_rsp);
 };
 
-/// lumo_tarn_dp_mp_prefix_cfg_rsp admits lumo_tarn_dp_mp_prefix_msg.
+/// lumo_tarn_dp_mp_prefix_cfg_rsp: bundle of lumo_tarn_dp_mp_prefix_msg messages. See bundle_writer.
 struct dp_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_prefix_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_mp_prefix_cfg_rsp);
 };
 
-/// lumo_tarn_pal_mp_prefix_cfg_rsp admits lumo_tarn_pal_mp_prefix_msg.
+/// lumo_tarn_pal_mp_prefix_cfg_rsp: bundle of lumo_tarn_pal_mp_prefix_msg messages. See bundle_writer.
 struct pal_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::pal_mp_prefix_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_pal_mp_prefix_cfg_rsp);
@@ -7784,6 +7794,7 @@ struct kind {
     using type = T;  ///< the type
 };
 /// Calls visit with a kind<T> for each record, in the order of the schema.
+/// T owns one, for example exmem_info.
 template <class Visit>
 void for_each_record(Visit &&visit) {
     visit(kind<exmem_info>{});
@@ -7825,6 +7836,7 @@ void for_each_record(Visit &&visit) {
     visit(kind<pal_mp_prefix_data>{});
 }
 /// Calls visit with a kind<T> for each enumeration, in the order of the schema.
+/// T names its C functions, for example ha_state_type.
 template <class Visit>
 void for_each_enumeration(Visit &&visit) {
     visit(kind<ha_state_type>{});
@@ -7832,6 +7844,7 @@ void for_each_enumeration(Visit &&visit) {
     visit(kind<mem_desc_type>{});
 }
 /// Calls visit with a kind<T> for each message, in the order of the schema.
+/// T owns one, for example debug_setting_msg.
 template <class Visit>
 void for_each_message(Visit &&visit) {
     visit(kind<debug_setting_msg>{});
@@ -7846,6 +7859,7 @@ void for_each_message(Visit &&visit) {
     visit(kind<pal_mp_prefix_msg>{});
 }
 /// Calls visit with a kind<T> for each bundle, in the order of the schema.
+/// T is an argument of bundle_writer, for example pal_debug_rsp.
 template <class Visit>
 void for_each_bundle(Visit &&visit) {
     visit(kind<pal_debug_rsp>{});

@@ -17,7 +17,7 @@ inline constexpr Record lumo_tarn_pal_mp_prefix{"lumo_tarn_pal_mp_prefix", "ac9e
 inline constexpr Member lumo_tarn_pal_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
     u32("total_prefixes", "total number of prefixes"),
-    count8("num_prefixes", "elements in prefix_data"),
+    count8("num_prefixes", "number of elements in prefix_data"),
     many("prefix_data", lumo_tarn_pal_mp_prefix, "prefixes"),
 };
 inline constexpr Record lumo_tarn_pal_mp_prefix_data{"lumo_tarn_pal_mp_prefix_data", "241d16b4c4922cef34b251a15d1689cb",

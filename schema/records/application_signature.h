@@ -29,7 +29,7 @@ inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     boolean("show_header", "whether to show the header"),
     u8("lumo_num", "number of the lumo processor"),
     one("hash_exmem_info", lumo_tarn_exmem_info, "memory block of the processor's signature hash"),
-    count32("num_sigs", "elements in sig_list"),
+    count32("num_sigs", "number of elements in sig_list"),
     many("sig_list", lumo_tarn_dp_appl_sig, "signatures"),
 };
 inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b85570bd4a83d4a45eb2dee05",
@@ -37,7 +37,7 @@ inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b
 
 inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
     boolean("show_header", "whether to show the header"),
-    count8("num_lumos", "elements in lumo_data"),
+    count8("num_lumos", "number of elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_appl_cfg, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_appl_data{"lumo_tarn_dp_appl_data", "6f31f2ab35c46bda63067283fc99bf24",

@@ -21,7 +21,7 @@ inline constexpr Record lumo_tarn_dp_mp_tc_prefix{"lumo_tarn_dp_mp_tc_prefix", "
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
     address("prefix", "prefix"),
-    count8("num_lumos", "elements in lumo_data"),
+    count8("num_lumos", "number of elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_mp_tc_prefix, "entries, one for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{
@@ -31,7 +31,7 @@ inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
     u32("total_prefixes", "total number of prefixes"),
-    count8("num_prefixes", "elements in prefix_data"),
+    count8("num_prefixes", "number of elements in prefix_data"),
     many("prefix_data", lumo_tarn_dp_mp_tc_prefix_lumo_data, "prefixes"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix_data{

@@ -18,7 +18,7 @@ inline constexpr Record lumo_tarn_cl_kesh_appl{"lumo_tarn_cl_kesh_appl", "6be606
 
 inline constexpr Member lumo_tarn_cl_appl_data_members[] = {
     boolean("show_header", "whether to show the header"),
-    count32("num_kesh_appls", "elements in kesh_appl"),
+    count32("num_kesh_appls", "number of elements in kesh_appl"),
     many("kesh_appl", lumo_tarn_cl_kesh_appl, "applications"),
 };
 inline constexpr Record lumo_tarn_cl_appl_data{"lumo_tarn_cl_appl_data", "31558f3e5ec0670c57987d4b5f175613",

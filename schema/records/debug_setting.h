@@ -30,7 +30,7 @@ inline constexpr Record lumo_tarn_debug_setting{"lumo_tarn_debug_setting", "c5b1
                                                 "four debug levels of one component", lumo_tarn_debug_setting_members};
 
 inline constexpr Member lumo_tarn_dp_debug_setting_data_members[] = {
-    count8("num_lumos", "elements in lumo_data"),
+    count8("num_lumos", "number of elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_debug_setting, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_debug_setting_data{

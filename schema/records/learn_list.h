@@ -37,7 +37,7 @@ inline constexpr Record lumo_tarn_dp_ll_spec{"lumo_tarn_dp_ll_spec", "1a46d1ad24
                                              "definition of one learn list", lumo_tarn_dp_ll_spec_members};
 
 inline constexpr Member lumo_tarn_dp_learn_list_members[] = {
-    count32("num_ll_specs", "elements in ll_spec_list"),
+    count32("num_ll_specs", "number of elements in ll_spec_list"),
     many("ll_spec_list", lumo_tarn_dp_ll_spec, "learn list definitions"),
 };
 inline constexpr Record lumo_tarn_dp_learn_list{"lumo_tarn_dp_learn_list", "42d51729efe0ba6f65a2b03426858912",

@@ -51,7 +51,7 @@ inline constexpr Record lumo_tarn_static_exmem_info{
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
     enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
     u64("list_header_ptr", "list header of the dynamic blocks"),
-    count32("num_exmems", "elements in exmem"),
+    count32("num_exmems", "number of elements in exmem"),
     many("exmem", lumo_tarn_exmem_info_wrapper, "dynamic blocks"),
 };
 inline constexpr Record lumo_tarn_dyn_exmem_info{

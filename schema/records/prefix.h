@@ -16,7 +16,7 @@ inline constexpr Record lumo_tarn_dp_mp_prefix{"lumo_tarn_dp_mp_prefix", "877f47
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_complex_data_members[] = {
     address("lookup_prefix", "prefix that was looked up"),
-    count8("num_complexes", "elements in complex_data"),
+    count8("num_complexes", "number of elements in complex_data"),
     many("complex_data", lumo_tarn_dp_mp_prefix, "entries, one for each complex"),
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix_complex_data{
@@ -25,7 +25,7 @@ inline constexpr Record lumo_tarn_dp_mp_prefix_complex_data{
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
-    count8("num_prefixes", "elements in prefix_data"),
+    count8("num_prefixes", "number of elements in prefix_data"),
     many("prefix_data", lumo_tarn_dp_mp_prefix_complex_data, "looked-up prefixes"),
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix_data{"lumo_tarn_dp_mp_prefix_data", "eb7c2027f5bf174d47e3e2d2c4504a6f",

@@ -60,16 +60,16 @@ inline constexpr Member lumo_tarn_lumo_info_members[] = {
     one("appl_sig_hash_exmem", lumo_tarn_exmem_info, "block of the application signature hash"),
     one("mp_export_exmem", lumo_tarn_exmem_info, "block of the mp export"),
     one("tt_export_exmem", lumo_tarn_exmem_info, "block of the tt export"),
-    count8("num_static_exmems", "elements in static_exmem"),
+    count8("num_static_exmems", "number of elements in static_exmem"),
     many("static_exmem", lumo_tarn_static_exmem_info, "static memory blocks of the processor"),
-    count8("num_dyn_exmems", "elements in dyn_exmem"),
+    count8("num_dyn_exmems", "number of elements in dyn_exmem"),
     many("dyn_exmem", lumo_tarn_dyn_exmem_info, "dynamic memory blocks of the processor"),
 };
 inline constexpr Record lumo_tarn_lumo_info{"lumo_tarn_lumo_info", "96db130edec7ebbd06d4f894d4fe5c5c",
                                             "state of one processor", lumo_tarn_lumo_info_members};
 
 inline constexpr Member lumo_tarn_lumo_info_list_members[] = {
-    count32("num_lumos", "elements in lumo_info"),
+    count32("num_lumos", "number of elements in lumo_info"),
     many("lumo_info", lumo_tarn_lumo_info, "one element for each processor"),
 };
 inline constexpr Record lumo_tarn_lumo_info_list{"lumo_tarn_lumo_info_list", "feae474225863ddfc8b3a23c79e311d4",

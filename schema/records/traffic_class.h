@@ -32,21 +32,21 @@ inline constexpr Member lumo_tarn_dp_tc_members[] = {
     u16("dst_port_opr", "operator applied to the destination port range"),
     u64("next_ptr", "link to the next class in the data plane"),
     u64("appl_data_ptr", "location of the application data in the data plane"),
-    one("appl", lumo_tarn_dp_appl, "class's application entry"),
+    one("appl", lumo_tarn_dp_appl, "application entry of the class"),
     u32("id", "identifier of the class"),
 };
 inline constexpr Record lumo_tarn_dp_tc{"lumo_tarn_dp_tc", "ed7168bceeaa74618db6b05286fecacb", "one traffic class",
                                         lumo_tarn_dp_tc_members};
 
 inline constexpr Member lumo_tarn_dp_tc_list_members[] = {
-    count32("num_tcs", "elements in tc_list"),
+    count32("num_tcs", "number of elements in tc_list"),
     many("tc_list", lumo_tarn_dp_tc, "traffic classes"),
 };
 inline constexpr Record lumo_tarn_dp_tc_list{"lumo_tarn_dp_tc_list", "e418727cd10ea7443c8bbbe9816b285b",
                                              "counted list of traffic classes", lumo_tarn_dp_tc_list_members};
 
 inline constexpr Member lumo_tarn_dp_appl_list_members[] = {
-    count32("num_appls", "elements in appl_list"),
+    count32("num_appls", "number of elements in appl_list"),
     many("appl_list", lumo_tarn_dp_appl, "application entries"),
 };
 inline constexpr Record lumo_tarn_dp_appl_list{"lumo_tarn_dp_appl_list", "552017bbbbd8bdc890695d1686395706",

@@ -46,7 +46,7 @@ inline constexpr Record lumo_tarn_dp_tt_table{"lumo_tarn_dp_tt_table", "9035b091
 
 inline constexpr Member lumo_tarn_dp_tt_table_data_members[] = {
     boolean("show_header", "selection flag of the show request"),
-    count8("num_lumos", "elements in lumo_data"),
+    count8("num_lumos", "number of elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_tt_table, "tables, one for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_tt_table_data{"lumo_tarn_dp_tt_table_data", "f1ed07c033b05e484505be542bc9308f",

@@ -291,8 +291,8 @@ std::string record_types(const Record &record) {
         return "    template <class M, class Visit>\n    static void " + function + "(Visit &&visit) {\n" + body +
                "    }\n";
     };
-    return "/// " + c + ": " + std::string(record.meaning) + ".\nstruct " + name + "_type {\n    /// @cond names\n" +
-           "    LUMO_UI_TARN_RECORD(" + c +
+    return "/// " + sentence(record.meaning) + " C type: " + c + ".\nstruct " + name +
+           "_type {\n    /// @cond names\n" + "    LUMO_UI_TARN_RECORD(" + c +
            ");\n    static constexpr bool owns_blocks = " + (owns_blocks(record) ? "true" : "false") + ";\n" +
            members.arrays() + "    /// @endcond\n\n" + "    /// Reads the members.\n" +
            mixin("members", "detail::operations<" + name + "_type, Self>", "operations",
@@ -332,16 +332,15 @@ std::string message_types(const Message &message) {
 
 std::string bundle_type(const Bundle &bundle) {
     const std::string c(bundle.name), message(bundle.message.name);
-    return "/// " + c + " admits " + message + ".\nstruct " + short_name(bundle.name) +
+    return "/// " + c + ": bundle of " + message + " messages. See bundle_writer.\nstruct " + short_name(bundle.name) +
            " {\n    using message = " + space + short_name(message) +
            "_type;  ///< the type of its messages\n    LUMO_UI_TARN_BUNDLE(" + c + ");\n};\n\n";
 }
 
-std::string visit_all(const std::string &function, const std::string &what, const std::vector<std::string> &names) {
-    std::string text = "/// Calls visit with a kind<T> for each " + what +
-                       ", in the order of the schema.\n"
-                       "template <class Visit>\nvoid " +
-                       function + "(Visit &&visit) {\n";
+std::string visit_all(const std::string &what, const std::string &role, const std::vector<std::string> &names) {
+    std::string text = "/// Calls visit with a kind<T> for each " + what + ", in the order of the schema.\n/// T " +
+                       role + ", for example " + names.front() + ".\ntemplate <class Visit>\nvoid for_each_" + what +
+                       "(Visit &&visit) {\n";
     for (const std::string &name : names) text += "    visit(kind<" + name + ">{});\n";
     return text + "}\n";
 }
@@ -349,23 +348,33 @@ std::string visit_all(const std::string &function, const std::string &what, cons
 constexpr std::string_view introduction = R"(/// @file
 /// lumo_ui_tarn.hpp - the C++17 interface: records, enumerations, messages and bundles as types.
 ///
-/// A record has three types: dp_tc owns an instance, dp_tc_ref borrows one, dp_tc_view borrows one to read it.
-/// lumo_ui_tarn/interface.hpp describes what all types have in common, and how errors are reported.
+/// - Records: three types for each type in C. For lumo_tarn_dp_tc they are dp_tc, which owns a record, dp_tc_ref, which
+///   borrows one, and dp_tc_view, which borrows one to read it.
+/// - Enumerations: enum classes, for example ha_state. name_of() returns the name of an enumerator in C.
+/// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
+/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
 ///
-/// A member proto has these functions, without the setters on a const owner or a view:
+/// lumo_ui_tarn/interface.hpp describes what these types have in common, and how errors are reported.
+///
+/// Each member of a record, for example proto of lumo_tarn_dp_tc, has the functions below. Const owners and views have
+/// no setters.
 /// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
-/// - set_proto(value) writes the value and returns the object, so that calls chain. Setters copy. EINVAL for text that
-///   contains a NUL, EOVERFLOW for text of more than 65535 bytes.
-/// - adopt_appl(record) moves a record into the nested record appl.
+/// - set_proto(value) writes the value and returns the object, so that calls chain. EINVAL for text with a NUL
+///   character, EOVERFLOW for text of more than 65535 bytes.
+/// - set_appl(record) makes a deep copy of a record in the nested record appl.
+/// - adopt_appl(record) moves the contents of a record into the nested record appl. The source keeps its C object,
+///   without arrays and strings.
 /// - proto_state() returns the state byte, or nothing if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
 ///
-/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no setter,
-/// because the container writes elements. If the name of a member is a keyword or a function of all records, _member is
-/// appended.
+/// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no
+/// setter, because the container writes elements. If the name of a member is a keyword or a function of all records,
+/// _member is appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names from
+/// the systems that send the data. The library does not interpret these values.
 ///
-/// dp_tc_type names the C functions of lumo_tarn_dp_tc: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
-/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions.
+/// dp_tc_type names the C functions of the whole record: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
+/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions and explains the terms: handle,
+/// ctx_id, state byte, RA data and others.
 ///
 /// Everything is inline: link the C library.
 // Generated from the schema; edit the tables there and run tools/regenerate.
@@ -394,12 +403,12 @@ std::string interface_page() {
     text +=
         "/// Passes a type as an argument.\ntemplate <class T>\nstruct kind {\n    using type = T;  ///< the "
         "type\n};\n";
-    text += visit_all("for_each_record", "record", names(records));
+    text += visit_all("record", "owns one", names(records));
     std::vector<std::string> enumeration_types;
     for (const Enumeration *e : enumerations) enumeration_types.push_back(type_name(*e) + "_type");
-    text += visit_all("for_each_enumeration", "enumeration", enumeration_types);
-    text += visit_all("for_each_message", "message", names(messages));
-    text += visit_all("for_each_bundle", "bundle", names(bundles));
+    text += visit_all("enumeration", "names its C functions", enumeration_types);
+    text += visit_all("message", "owns one", names(messages));
+    text += visit_all("bundle", "is an argument of bundle_writer", names(bundles));
     text += "\n}  // namespace lumo_ui_tarn\n\n";
     for (const std::string_view name : macro_names) text += "#undef LUMO_UI_TARN_" + std::string(name) + "\n";
     return text + "\n#endif\n";

@@ -14,7 +14,7 @@ LUMO_UI_TARN_BEGIN
  * | member         | type                     | meaning |
  * |----------------|--------------------------|---|
  * | show_header    | boolean                  | whether to show the header |
- * | num_kesh_appls | uint32_t count           | elements in kesh_appl |
+ * | num_kesh_appls | uint32_t count           | number of elements in kesh_appl |
  * | kesh_appl      | lumo_tarn_cl_kesh_appl[] | applications |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -241,14 +241,14 @@ LUMO_UI_TARN_API void lumo_tarn_cl_appl_data_show_header_state_flag_set(mirk_han
     lumo_tarn_cl_appl_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_kesh_appls: elements in kesh_appl
+/** @name num_kesh_appls: number of elements in kesh_appl
  *  @{ */
-/** Returns the address of the count num_kesh_appls: elements in kesh_appl. Read-only: it follows from the array. NULL
- * for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_kesh_appls: number of elements in kesh_appl. Read-only: it follows from the
+ * array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_cl_appl_data_num_kesh_appls_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
-/** Returns the count num_kesh_appls: elements in kesh_appl. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_kesh_appls: number of elements in kesh_appl. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_cl_appl_data_num_kesh_appls_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_appl_data *object, uint32_t *err);
 /** @} */

@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | show_header     | boolean                 | whether to show the header |
  * | lumo_num        | uint8_t                 | number of the lumo processor |
  * | hash_exmem_info | lumo_tarn_exmem_info    | memory block of the processor's signature hash |
- * | num_sigs        | uint32_t count          | elements in sig_list |
+ * | num_sigs        | uint32_t count          | number of elements in sig_list |
  * | sig_list        | lumo_tarn_dp_appl_sig[] | signatures |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -291,14 +291,14 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_cfg_hash_exmem_info_state_flag_set(mirk_
     lumo_tarn_dp_appl_cfg *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_sigs: elements in sig_list
+/** @name num_sigs: number of elements in sig_list
  *  @{ */
-/** Returns the address of the count num_sigs: elements in sig_list. Read-only: it follows from the array. NULL for a
- * NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_sigs: number of elements in sig_list. Read-only: it follows from the array.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_cfg_num_sigs_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
-/** Returns the count num_sigs: elements in sig_list. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_sigs: number of elements in sig_list. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_cfg_num_sigs_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_cfg *object, uint32_t *err);
 /** @} */

@@ -14,7 +14,7 @@ LUMO_UI_TARN_BEGIN
  * | member      | type                    | meaning |
  * |-------------|-------------------------|---|
  * | show_header | boolean                 | whether to show the header |
- * | num_lumos   | uint8_t count           | elements in lumo_data |
+ * | num_lumos   | uint8_t count           | number of elements in lumo_data |
  * | lumo_data   | lumo_tarn_dp_appl_cfg[] | one element for each processor |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -241,14 +241,14 @@ LUMO_UI_TARN_API void lumo_tarn_dp_appl_data_show_header_state_flag_set(mirk_han
     lumo_tarn_dp_appl_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_lumos: elements in lumo_data
+/** @name num_lumos: number of elements in lumo_data
  *  @{ */
-/** Returns the address of the count num_lumos: elements in lumo_data. Read-only: it follows from the array. NULL for a
- * NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_lumos: number of elements in lumo_data. Read-only: it follows from the array.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_appl_data_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
-/** Returns the count num_lumos: elements in lumo_data. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_lumos: number of elements in lumo_data. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_appl_data_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_data *object, uint32_t *err);
 /** @} */

@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member    | type                | meaning |
  * |-----------|---------------------|---|
- * | num_appls | uint32_t count      | elements in appl_list |
+ * | num_appls | uint32_t count      | number of elements in appl_list |
  * | appl_list | lumo_tarn_dp_appl[] | application entries |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -211,14 +211,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_list_type_type_backpropagate(mirk_ha
     lumo_tarn_dp_appl_list *instance, void *word);
 /** @} */
 
-/** @name num_appls: elements in appl_list
+/** @name num_appls: number of elements in appl_list
  *  @{ */
-/** Returns the address of the count num_appls: elements in appl_list. Read-only: it follows from the array. NULL for a
- * NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_appls: number of elements in appl_list. Read-only: it follows from the array.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_appl_list_num_appls_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_list *object, uint32_t *err);
-/** Returns the count num_appls: elements in appl_list. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_appls: number of elements in appl_list. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_appl_list_num_appls_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_appl_list *object, uint32_t *err);
 /** @} */

@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member       | type                   | meaning |
  * |--------------|------------------------|---|
- * | num_ll_specs | uint32_t count         | elements in ll_spec_list |
+ * | num_ll_specs | uint32_t count         | number of elements in ll_spec_list |
  * | ll_spec_list | lumo_tarn_dp_ll_spec[] | learn list definitions |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -214,14 +214,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_learn_list_type_type_backpropagate(mirk_h
     lumo_tarn_dp_learn_list *instance, void *word);
 /** @} */
 
-/** @name num_ll_specs: elements in ll_spec_list
+/** @name num_ll_specs: number of elements in ll_spec_list
  *  @{ */
-/** Returns the address of the count num_ll_specs: elements in ll_spec_list. Read-only: it follows from the array. NULL
- * for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_ll_specs: number of elements in ll_spec_list. Read-only: it follows from the
+ * array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_learn_list_num_ll_specs_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_learn_list *object, uint32_t *err);
-/** Returns the count num_ll_specs: elements in ll_spec_list. 0 for a NULL object, and with EIDRM for an object without
- * a body. */
+/** Returns the count num_ll_specs: number of elements in ll_spec_list. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_learn_list_num_ll_specs_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_learn_list *object, uint32_t *err);
 /** @} */

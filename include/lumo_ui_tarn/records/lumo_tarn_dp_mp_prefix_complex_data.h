@@ -14,7 +14,7 @@ LUMO_UI_TARN_BEGIN
  * | member        | type                     | meaning |
  * |---------------|--------------------------|---|
  * | lookup_prefix | address                  | prefix that was looked up |
- * | num_complexes | uint8_t count            | elements in complex_data |
+ * | num_complexes | uint8_t count            | number of elements in complex_data |
  * | complex_data  | lumo_tarn_dp_mp_prefix[] | entries, one for each complex |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -248,14 +248,14 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_prefix_complex_data_lookup_prefix_state_fl
     lumo_tarn_dp_mp_prefix_complex_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_complexes: elements in complex_data
+/** @name num_complexes: number of elements in complex_data
  *  @{ */
-/** Returns the address of the count num_complexes: elements in complex_data. Read-only: it follows from the array. NULL
- * for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_complexes: number of elements in complex_data. Read-only: it follows from the
+ * array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t *err);
-/** Returns the count num_complexes: elements in complex_data. 0 for a NULL object, and with EIDRM for an object without
- * a body. */
+/** Returns the count num_complexes: number of elements in complex_data. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_prefix_complex_data_num_complexes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_complex_data *object, uint32_t *err);
 /** @} */

@@ -15,7 +15,7 @@ LUMO_UI_TARN_BEGIN
  * |----------------|---------------------------------------|---|
  * | show_header    | boolean                               | selection flag of the show request |
  * | total_prefixes | uint32_t                              | total number of prefixes |
- * | num_prefixes   | uint8_t count                         | elements in prefix_data |
+ * | num_prefixes   | uint8_t count                         | number of elements in prefix_data |
  * | prefix_data    | lumo_tarn_dp_mp_tc_prefix_lumo_data[] | prefixes |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -284,14 +284,14 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_data_total_prefixes_state_flag_s
     lumo_tarn_dp_mp_tc_prefix_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_prefixes: elements in prefix_data
+/** @name num_prefixes: number of elements in prefix_data
  *  @{ */
-/** Returns the address of the count num_prefixes: elements in prefix_data. Read-only: it follows from the array. NULL
- * for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_prefixes: number of elements in prefix_data. Read-only: it follows from the
+ * array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_data *object, uint32_t *err);
-/** Returns the count num_prefixes: elements in prefix_data. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_prefixes: number of elements in prefix_data. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_data_num_prefixes_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_data *object, uint32_t *err);
 /** @} */

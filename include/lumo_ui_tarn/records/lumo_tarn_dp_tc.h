@@ -29,7 +29,7 @@ LUMO_UI_TARN_BEGIN
  * | dst_port_opr  | uint16_t             | operator applied to the destination port range |
  * | next_ptr      | uint64_t             | link to the next class in the data plane |
  * | appl_data_ptr | uint64_t             | location of the application data in the data plane |
- * | appl          | lumo_tarn_dp_appl    | class's application entry |
+ * | appl          | lumo_tarn_dp_appl    | application entry of the class |
  * | id            | uint32_t             | identifier of the class |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -632,15 +632,15 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_data_ptr_state_flag_set(mirk_handle *
     lumo_tarn_dp_tc *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name appl: class's application entry
+/** @name appl: application entry of the class
  *  @{ */
-/** Returns the address of appl in the object: class's application entry. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of appl in the object: application entry of the class. NULL for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_appl *lumo_tarn_dp_tc_appl_get(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     uint32_t *err);
-/** MOVES a record into appl: class's application entry. The source loses its arrays and strings. What appl owned before
- * is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for
- * one without a body. */
+/** MOVES a record into appl: application entry of the class. The source loses its arrays and strings. What appl owned
+ * before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tc_appl_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tc *object,
     lumo_tarn_dp_appl *source, uint32_t *err);
 /** Returns the state byte of appl. EINVAL if the handle's tracking is off or the object has no state. */

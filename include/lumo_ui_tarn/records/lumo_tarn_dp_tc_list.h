@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member  | type              | meaning |
  * |---------|-------------------|---|
- * | num_tcs | uint32_t count    | elements in tc_list |
+ * | num_tcs | uint32_t count    | number of elements in tc_list |
  * | tc_list | lumo_tarn_dp_tc[] | traffic classes |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -208,13 +208,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_list_type_type_backpropagate(mirk_hand
     lumo_tarn_dp_tc_list *instance, void *word);
 /** @} */
 
-/** @name num_tcs: elements in tc_list
+/** @name num_tcs: number of elements in tc_list
  *  @{ */
-/** Returns the address of the count num_tcs: elements in tc_list. Read-only: it follows from the array. NULL for a NULL
- * object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_tcs: number of elements in tc_list. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tc_list_num_tcs_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc_list *object, uint32_t *err);
-/** Returns the count num_tcs: elements in tc_list. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the count num_tcs: number of elements in tc_list. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tc_list_num_tcs_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tc_list *object, uint32_t *err);
 /** @} */

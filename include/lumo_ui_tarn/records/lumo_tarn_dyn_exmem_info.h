@@ -16,7 +16,7 @@ LUMO_UI_TARN_BEGIN
  * |-----------------|--------------------------------|---|
  * | mem_type        | lumo_tarn_mem_desc_e           | which kind of memory this is |
  * | list_header_ptr | uint64_t                       | list header of the dynamic blocks |
- * | num_exmems      | uint32_t count                 | elements in exmem |
+ * | num_exmems      | uint32_t count                 | number of elements in exmem |
  * | exmem           | lumo_tarn_exmem_info_wrapper[] | dynamic blocks |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -278,14 +278,14 @@ LUMO_UI_TARN_API void lumo_tarn_dyn_exmem_info_list_header_ptr_state_flag_set(mi
     lumo_tarn_dyn_exmem_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_exmems: elements in exmem
+/** @name num_exmems: number of elements in exmem
  *  @{ */
-/** Returns the address of the count num_exmems: elements in exmem. Read-only: it follows from the array. NULL for a
- * NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_exmems: number of elements in exmem. Read-only: it follows from the array. NULL
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dyn_exmem_info_num_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
-/** Returns the count num_exmems: elements in exmem. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_exmems: number of elements in exmem. 0 for a NULL object, and with EIDRM for an object without
+ * a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dyn_exmem_info_num_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dyn_exmem_info *object, uint32_t *err);
 /** @} */

@@ -71,9 +71,9 @@ LUMO_UI_TARN_BEGIN
  * | appl_sig_hash_exmem         | lumo_tarn_exmem_info          | block of the application signature hash |
  * | mp_export_exmem             | lumo_tarn_exmem_info          | block of the mp export |
  * | tt_export_exmem             | lumo_tarn_exmem_info          | block of the tt export |
- * | num_static_exmems           | uint8_t count                 | elements in static_exmem |
+ * | num_static_exmems           | uint8_t count                 | number of elements in static_exmem |
  * | static_exmem                | lumo_tarn_static_exmem_info[] | static memory blocks of the processor |
- * | num_dyn_exmems              | uint8_t count                 | elements in dyn_exmem |
+ * | num_dyn_exmems              | uint8_t count                 | number of elements in dyn_exmem |
  * | dyn_exmem                   | lumo_tarn_dyn_exmem_info[]    | dynamic memory blocks of the processor |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -1754,14 +1754,14 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_state_flag_set(mirk_ha
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name num_static_exmems: elements in static_exmem
+/** @name num_static_exmems: number of elements in static_exmem
  *  @{ */
-/** Returns the address of the count num_static_exmems: elements in static_exmem. Read-only: it follows from the array.
- * NULL for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_static_exmems: number of elements in static_exmem. Read-only: it follows from
+ * the array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_static_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_static_exmems: elements in static_exmem. 0 for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the count num_static_exmems: number of elements in static_exmem. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_static_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */
@@ -1811,14 +1811,14 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_set_arr(mirk_h
     lumo_tarn_lumo_info *object, const uint8_t *source, uint32_t length, uint32_t *err);
 /** @} */
 
-/** @name num_dyn_exmems: elements in dyn_exmem
+/** @name num_dyn_exmems: number of elements in dyn_exmem
  *  @{ */
-/** Returns the address of the count num_dyn_exmems: elements in dyn_exmem. Read-only: it follows from the array. NULL
- * for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_dyn_exmems: number of elements in dyn_exmem. Read-only: it follows from the
+ * array. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_lumo_info_num_dyn_exmems_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the count num_dyn_exmems: elements in dyn_exmem. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_dyn_exmems: number of elements in dyn_exmem. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_num_dyn_exmems_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** @} */

@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member    | type                  | meaning |
  * |-----------|-----------------------|---|
- * | num_lumos | uint32_t count        | elements in lumo_info |
+ * | num_lumos | uint32_t count        | number of elements in lumo_info |
  * | lumo_info | lumo_tarn_lumo_info[] | one element for each processor |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -216,14 +216,14 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_list_type_type_backpropagate(mirk_
     lumo_tarn_lumo_info_list *instance, void *word);
 /** @} */
 
-/** @name num_lumos: elements in lumo_info
+/** @name num_lumos: number of elements in lumo_info
  *  @{ */
-/** Returns the address of the count num_lumos: elements in lumo_info. Read-only: it follows from the array. NULL for a
- * NULL object, and with EIDRM for an object without a body. */
+/** Returns the address of the count num_lumos: number of elements in lumo_info. Read-only: it follows from the array.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_lumo_info_list_num_lumos_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info_list *object, uint32_t *err);
-/** Returns the count num_lumos: elements in lumo_info. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the count num_lumos: number of elements in lumo_info. 0 for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_list_num_lumos_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info_list *object, uint32_t *err);
 /** @} */
