@@ -266,6 +266,19 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
     return text;
 }
 
+/// Reads an element of a document into a record: the one at path, or the first one, at any depth, with the record's
+/// name.
+template <class R>
+void read_xml(context &c, void *document, const char *path, typename R::native *object, std::uint32_t ignored = 0) {
+    if (!c.ok()) return;
+    const std::string anywhere = std::string("//") + R::name;
+    char explanation[256] = "";
+    std::uint32_t err = 0;
+    R::from_xml(c.handle(), c.ctx_id(), path != nullptr ? path : anywhere.c_str(), document, object, &err, explanation,
+                sizeof explanation);
+    if (err != 0 && err != ignored) c.fail(err, explanation);
+}
+
 /// Selects the overload of a getter for objects that can be written, if it has one.
 template <class C, class Result>
 constexpr auto writable(Result (C::*get)(), int) {
@@ -616,14 +629,7 @@ public:
     /// with the record's name.
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
-        std::string anywhere = "//";
-        anywhere += R::name;
-        char explanation[256] = "";
-        if (c.ok()) {
-            R::from_xml(c.handle(), c.ctx_id(), path != nullptr ? path : anywhere.c_str(), document, fresh.get(),
-                        c.slot(), explanation, sizeof explanation);
-            if (!c.ok()) c.fail(*c.slot(), explanation);
-        }
+        detail::read_xml<R>(c, document, path, fresh.get());
         return fresh;
     }
 
@@ -1038,13 +1044,10 @@ public:
 #endif
     /// Creates a message from the first element of the runtime's document that has the payload's name.
     static message from_xml(context &c, void *document) {
-        char explanation[256] = "";
-        typename M::native *native = nullptr;
-        if (c.ok()) {
-            native = M::from_xml(c.handle(), c.ctx_id(), document, c.slot(), explanation, sizeof explanation);
-            if (!c.ok()) c.fail(*c.slot(), explanation);
-        }
-        return message(c, native);
+        message fresh(c);
+        // Not by the message's C function, which leaks the message after an error.
+        detail::read_xml<typename M::payload>(c, document, nullptr, fresh.payload().get(), ENOENT);
+        return fresh;
     }
 
 private:

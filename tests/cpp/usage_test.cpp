@@ -178,12 +178,46 @@ TEST_F(CppUsageTracked, KeptErrorsMakeMovesAndStatesNoOps) {
     EXPECT_EQ(to.tc_list_state(), 0);
 }
 
+template <class Function>
+void expect_error(std::errc expected, Function function) {
+    try {
+        function();
+        ADD_FAILURE() << "no error";
+    } catch (const std::system_error &error) {
+        EXPECT_EQ(error.code(), expected);
+    }
+}
+
+template <class Function>
+void with_document(const std::string &text, Function function) {
+    void *document = mirk_platform_document_load_memory(text.data(), text.size(), nullptr);
+    ASSERT_NE(document, nullptr) << text;
+    function(document);
+    mirk_platform_document_free(document);
+}
+
+// The fixture counts blocks, so the test fails if a message is leaked.
 TEST_F(CppUsage, InvalidNumbersInXmlAreReported) {
     context c(handle);
-    const std::string text = "<lumo_tarn_exmem_info><size>many</size></lumo_tarn_exmem_info>";
-    void *document = mirk_platform_document_load_memory(text.data(), text.size(), nullptr);
-    EXPECT_THROW(exmem_info::from_xml(c, document), std::system_error);
-    mirk_platform_document_free(document);
+    with_document("<lumo_tarn_exmem_info><size>many</size></lumo_tarn_exmem_info>", [&](void *document) {
+        expect_error(std::errc::invalid_argument, [&] { exmem_info::from_xml(c, document); });
+    });
+    with_document("<lumo_tarn_debug_setting><warn_enabled>x</warn_enabled></lumo_tarn_debug_setting>",
+                  [&](void *document) {
+                      expect_error(std::errc::invalid_argument, [&] { debug_setting_msg::from_xml(c, document); });
+                      context kept(handle, errors::kept);
+                      debug_setting_msg::from_xml(kept, document);
+                      EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+                  });
+}
+
+TEST_F(CppUsage, AbsentElementsAreReportedForRecordsOnly) {
+    context c(handle);
+    with_document("<other/>", [&](void *document) {
+        expect_error(std::errc::no_such_file_or_directory, [&] { debug_setting::from_xml(c, document); });
+        const debug_setting_msg message = debug_setting_msg::from_xml(c, document);
+        EXPECT_TRUE(message.payload() == debug_setting(c));
+    });
 }
 
 TEST_F(CppUsage, AllocationFailureIsReported) {

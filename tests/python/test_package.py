@@ -226,6 +226,22 @@ def test_objects_left_at_exit_are_destroyed(tmp_path: pathlib.Path):
     assert (ended.returncode, ended.stderr) == (0, b"")
 
 
+def test_messages_of_invalid_xml_are_destroyed(handle):
+    """The fixture checks that no block is left."""
+    invalid = "<lumo_tarn_debug_setting><warn_enabled>x</warn_enabled></lumo_tarn_debug_setting>"
+    with pytest.raises(OSError, match="Invalid argument"):
+        lumo_tarn.DebugSettingMsg.from_xml(invalid, on=handle)
+    with pytest.raises(ValueError):
+        lumo_tarn.DebugSettingMsg.from_xml("<no xml", on=handle)
+
+
+def test_absent_elements_are_reported_for_records_only(handle):
+    with pytest.raises(OSError, match="No such file or directory"):
+        lumo_tarn.DebugSetting.from_xml("<other/>", on=handle)
+    message = lumo_tarn.DebugSettingMsg.from_xml("<other/>", on=handle)
+    assert message.payload == lumo_tarn.DebugSetting()
+
+
 def test_handles_and_objects_in_a_cycle_are_destroyed():
     class Holder:
         pass

@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import dataclasses
+import errno
 import ipaddress
 import os
 import socket
@@ -169,7 +170,10 @@ class Record(Native):
 
     def set_all_states(self, value: int) -> None:
         """Writes all state bytes of the record and of the elements of its own arrays. Elements of arrays in nested
-        records keep theirs."""
+        records keep theirs. Has no effect on a record without state bytes.
+
+        The blocks with the states of elements are leaked: Array.state then returns value for each element, and
+        Array.set_state has no effect, until the array grows, which clears the states of its elements."""
         self._function("set_all_state_tracking_flag")(self._handle.native, CTX_ID, self.native, value)
 
     def _is_tracked(self) -> bool:
@@ -204,19 +208,22 @@ class Record(Native):
     @classmethod
     def from_xml(cls: type[R], text: str | bytes, path: str | None = None, on: Handle | None = None) -> R:
         """Creates a record from the element at path, or from the first one, at any depth, with the record's name. Raises
-        ValueError for malformed XML and OSError for an invalid number."""
+        ValueError for malformed XML and OSError for an invalid number, or if there is no such element."""
         record = cls(on=on)
-        with Document(text) as document:
-            explanation, err = ffi.new("char[256]"), ffi.new("uint32_t *")
-            location = (path or f"//{cls.record_name}").encode()
-            read = cls._function("from_xml")
-            read(record._handle.native, CTX_ID, location, document, record.native, err, explanation, 256)
-            if err[0] != 0:
-                raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
+        record._read_xml(text, path)
         return record
 
+    def _read_xml(self, text: str | bytes, path: str | None = None, ignored: int = 0) -> None:
+        explanation, err = ffi.new("char[256]"), ffi.new("uint32_t *")
+        location = (path or f"//{self.record_name}").encode()
+        with Document(text) as document:
+            read = self._function("from_xml")
+            read(self._handle.native, CTX_ID, location, document, self.native, err, explanation, 256)
+        if err[0] not in (0, ignored):
+            raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
+
     def text(self, name: str | None = None) -> str:
-        """Returns readable text, under this name or the record's."""
+        """Returns text for people, under this name or the record's. There is no parser for it."""
         h, native, called = self._handle, self.native, (name or self.record_name).encode()
         show = self._function("print")
         return self._rendered(lambda buffer, room, err: show(h.native, CTX_ID, buffer, 0, called, native, room, err))
@@ -340,7 +347,8 @@ class Array(Sequence[R], Generic[R]):
         return int(self._owner._call(f"{self._member.name}_state_flag_get", self._at(index)))
 
     def set_state(self, index: int, value: int) -> None:
-        """Writes the state byte of an element."""
+        """Writes the state byte of an element. Raises OSError if the record has no state bytes. May have no effect after
+        Record.set_all_states."""
         self._owner._call(f"{self._member.name}_state_flag_set", self._at(index), value)
 
     def __eq__(self, other: object) -> bool:
@@ -456,7 +464,7 @@ class Message(Native):
         return self._rendered("to_xml")
 
     def text(self) -> str:
-        """Returns readable text."""
+        """Returns text for people. There is no parser for it."""
         return self._rendered("print")
 
     def _rendered(self, name: str) -> str:
@@ -467,15 +475,12 @@ class Message(Native):
 
     @classmethod
     def from_xml(cls: type[M], text: str | bytes, on: Handle | None = None) -> M:
-        """Creates a message from the first element with the payload's name. Raises ValueError for malformed XML and
-        OSError for an invalid number."""
-        on = on or handle()
-        with Document(text) as document:
-            explanation, err = ffi.new("char[256]"), ffi.new("uint32_t *")
-            native = cls._function("from_xml")(on.native, CTX_ID, document, err, explanation, 256)
-            if err[0] != 0:
-                raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
-        return cls._taken(on, native)
+        """Creates a message and reads its payload from the first element with the payload's name. If there is none, all
+        members are zero. Raises ValueError for malformed XML and OSError for an invalid number."""
+        message = cls(on=on)
+        # Not by the message's C function, which leaks the message after an error.
+        message.payload._read_xml(text, ignored=errno.ENOENT)
+        return message
 
     def to_dict(self) -> dict[str, Any]:
         """Returns name and payload, as in the output of "tarn decode --json" without state bytes."""
