@@ -476,13 +476,11 @@ protected:
     /// written.
     template <class Object, class Get, class Set>
     static auto &write_address_(Object &object, Get get, Set set, const lumo_ui_tarn::address &value) {
-        const ip_address *present = object.call_(get);
-        if (present == nullptr) return self_(object);
         struct {
             ip_address object;
             std::uint8_t states[8];
-        } source;
-        source.object = *present;
+        } source{};
+        if (const ip_address *present = object.call_(get); present != nullptr) source.object = *present;
         source.object.obj_flag &= static_cast<std::uint8_t>(~(MIRK_OBJ_STTR_OFFSET | MIRK_OBJ_RA_DATA));
         source.object.af = value.af;
         source.object.prefix_len = value.prefix_len;
@@ -756,7 +754,7 @@ public:
 
     /// An element. ENOENT if index is not less than size().
     value_type operator[](std::size_t index) const {
-        return {*context_, context_->call(A::get, owner_, static_cast<std::uint32_t>(index))};
+        return {*context_, context_->call(A::get, owner_, narrowed(index))};
     }
     /// The first element.
     value_type front() const { return (*this)[0]; }
@@ -773,12 +771,18 @@ public:
         if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
             return std::nullopt;
         }
-        return context_->call(A::state_flag_get, owner_, static_cast<std::uint32_t>(index));
+        return context_->call(A::state_flag_get, owner_, narrowed(index));
     }
     /// @cond helpers
 protected:
     friend class iterator;
     array(context &c, typename A::native *owner) : context_(&c), owner_(owner) {}
+
+    /// The largest number is not the index of an element, because sizes have 32 bits.
+    static std::uint32_t narrowed(std::size_t index) {
+        constexpr std::uint32_t largest = std::numeric_limits<std::uint32_t>::max();
+        return index < largest ? static_cast<std::uint32_t>(index) : largest;
+    }
 
     context *context_;
     typename A::native *owner_;
@@ -830,6 +834,7 @@ public:
     /// EOVERFLOW if index is not less than max_size().
     const array_ref &set(std::size_t index, record<element> &&value) const {
         const std::size_t before = size();
+        if (!value) context_->fail(EINVAL, "there is no record");
         if (index >= max_size()) context_->fail(EOVERFLOW);
         if (!context_->ok()) return *this;
         if (index < before) {
@@ -849,13 +854,13 @@ public:
 
     /// Writes the state byte of an element.
     const array_ref &set_state(std::size_t index, std::uint8_t value) const {
-        context_->call(A::state_flag_set, owner_, static_cast<std::uint32_t>(index), value);
+        context_->call(A::state_flag_set, owner_, base::narrowed(index), value);
         return *this;
     }
 
 private:
     void put(std::size_t index, typename element::native *value) const {
-        context_->call(A::set, owner_, static_cast<std::uint32_t>(index), value);
+        context_->call(A::set, owner_, base::narrowed(index), value);
     }
 };
 
@@ -887,6 +892,7 @@ public:
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
     /// ENOMEM if the buffer is too small.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_guard) const {
+        if (!has_object()) return 0;
         return this->context().call(M::marshal, static_cast<void *>(buffer), this->native_,
                                     static_cast<std::uint32_t>(size_with_guard) - 1);
     }
@@ -898,6 +904,7 @@ public:
 #endif
     /// Returns the frame.
     frame to_frame() const {
+        if (!has_object()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return M::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
@@ -920,17 +927,22 @@ protected:
         return record<payload_type>::take(this->context(), this->call_(M::payload_get_detach));
     }
     void set_payload_(record<payload_type> &&value) const {
-        lumo_ui_tarn::context &c = this->context();
-        if (this->native_ == nullptr) c.fail(EINVAL, "there is no message");
+        if (!has_object()) return;
         const bool is_its_own = value.get() == payload_().get();
         if (!is_its_own) this->call_(M::payload_free_and_set, value.get());
-        if (c.ok()) (void)value.release();  // else it stays with its owner
+        if (this->context().ok()) (void)value.release();  // else it stays with its owner
     }
     /// @endcond
 
 private:
+    /// The C functions that write frames and text do not check for NULL.
+    bool has_object() const {
+        if (this->native_ == nullptr) this->context().fail(EINVAL, "there is no message");
+        return this->native_ != nullptr;
+    }
     template <class Operation>
     std::string rendered(Operation operation) const {
+        if (!has_object()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return operation(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
@@ -1078,7 +1090,8 @@ public:
 
     /// Appends the frame of a message.
     bundle_writer &add(message_view<typename B::message> one) {
-        frames_.append(one.to_frame());
+        if (!open_) context_->fail(ENOENT, "the bundle is not open");
+        if (context_->ok()) frames_.append(one.to_frame());
         return *this;
     }
     /// Closes the bundle and appends the commit's frame. Has no effect while an error is kept.

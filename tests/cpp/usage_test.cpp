@@ -220,6 +220,86 @@ TEST_F(CppUsage, AbsentElementsAreReportedForRecordsOnly) {
     });
 }
 
+TEST_F(CppUsage, MovedFromMessagesReportAnError) {
+    context c(handle);
+    debug_setting_msg message(c);
+    const debug_setting_msg owner = std::move(message);
+    EXPECT_FALSE(message);
+    EXPECT_FALSE(message.payload());
+    EXPECT_EQ(message.frame_size(), 0u);
+    std::uint8_t buffer[100];
+    expect_error(std::errc::invalid_argument, [&] { message.to_frame(); });
+    expect_error(std::errc::invalid_argument, [&] { message.write_frame(buffer, sizeof buffer); });
+    expect_error(std::errc::invalid_argument, [&] { message.to_xml(); });
+    expect_error(std::errc::invalid_argument, [&] { message.text(); });
+
+    context kept(handle, errors::kept);
+    const debug_setting_msg_view none(kept, nullptr);
+    EXPECT_TRUE(none.to_frame().empty());
+    EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+    EXPECT_EQ(none.write_frame(buffer, sizeof buffer), 0u);
+    EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+    EXPECT_TRUE(none.to_xml().empty());
+    EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+    EXPECT_TRUE(none.text().empty());
+    EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+}
+
+TEST_F(CppUsage, MovedFromRecordsReportAnError) {
+    context c(handle);
+    dp_tc tc(c);
+    const dp_tc owner = std::move(tc);
+    EXPECT_EQ(tc.proto(), 0);
+    expect_error(std::errc::no_such_file_or_directory, [&] { tc.set_proto(6); });
+    expect_error(std::errc::invalid_argument, [&] { tc.set_src_prefix(v4(0x0a000000, 8)); });
+    expect_error(std::errc::invalid_argument, [&] { tc.to_frame(); });
+
+    dp_tc_list list(c);
+    expect_error(std::errc::invalid_argument, [&] { list.tc_list().push_back(std::move(tc)); });
+    expect_error(std::errc::invalid_argument, [&] { list.tc_list().set(0, std::move(tc)); });
+    EXPECT_TRUE(list.tc_list().empty());
+
+    context kept(handle, errors::kept);
+    dp_tc other(kept);
+    const dp_tc other_owner = std::move(other);
+    dp_tc_list_ref(kept, list.get()).tc_list().push_back(std::move(other));
+    EXPECT_EQ(kept.take_error(), std::errc::invalid_argument);
+    EXPECT_TRUE(list.tc_list().empty());
+}
+
+TEST_F(CppUsageTracked, IndexesOfMoreThan32BitsAreOutOfRange) {
+    context c(handle);
+    dp_tc_list list(c);
+    const auto classes = list.tc_list();
+    classes.grow(1);
+    const std::size_t beyond = std::size_t{1} << 32;
+    for (const std::size_t index : {beyond, beyond + 1, beyond - 1}) {
+        expect_error(std::errc::no_such_file_or_directory, [&] { classes[index]; });
+        expect_error(std::errc::no_such_file_or_directory, [&] { classes.state(index); });
+        expect_error(std::errc::no_such_file_or_directory, [&] { classes.set_state(index, 1); });
+    }
+    expect_error(std::errc::value_too_large, [&] { classes.set(beyond, dp_tc(c)); });
+    EXPECT_EQ(classes.size(), 1u);
+}
+
+TEST_F(CppUsage, MessagesAreAddedToOpenBundlesOnly) {
+    context c(handle);
+    const debug_setting_msg message(c);
+    bundle_writer<cl_debug_rsp> answer(c);
+    const frame whole = answer.add(message).commit().frames();
+    expect_error(std::errc::no_such_file_or_directory, [&] { answer.add(message); });
+    expect_error(std::errc::no_such_file_or_directory, [&] { answer.commit(); });
+    EXPECT_EQ(answer.frames(), whole);
+
+    context kept(handle, errors::kept);
+    kept.fail(EIO);
+    bundle_writer<cl_debug_rsp> unopened(kept);
+    EXPECT_EQ(kept.take_error(), std::errc::io_error);
+    unopened.add(message);
+    EXPECT_EQ(kept.take_error(), std::errc::no_such_file_or_directory);
+    EXPECT_TRUE(unopened.frames().empty());
+}
+
 TEST_F(CppUsage, AllocationFailureIsReported) {
     mirk_platform_handle_options options;
     mirk_platform_handle_options_init(&options);
@@ -307,6 +387,29 @@ TEST_F(CppUsageTracked, SettersSetTheStateByte) {
     list.tc_list().set_state(0, 0);
     EXPECT_EQ(list.tc_list().state(0), 0);
     EXPECT_EQ(list.tc_list()[1].src_prefix_state(), 2);
+}
+
+// On a handle of its own, because set_all_states leaks the block of the element states.
+TEST(CppUsageStates, ElementStatesAreFixedUntilTheArrayGrows) {
+    mirk_platform_handle_options options;
+    mirk_platform_handle_options_init(&options);
+    options.tracking = MIRK_PLATFORM_TRACKING_ON;
+    mirk_handle *handle = mirk_platform_handle_open(&options);
+    {
+        context c(handle);
+        dp_tc_list list(c);
+        const auto classes = list.tc_list();
+        classes.grow(2);
+        list.set_all_states(6);
+        classes.set_state(1, 9);
+        EXPECT_EQ(classes.state(0), 6);
+        EXPECT_EQ(classes.state(1), 6);
+        classes.grow(3);
+        EXPECT_EQ(classes.state(0), 0);
+        classes.set_state(1, 9);
+        EXPECT_EQ(classes.state(1), 9);
+    }
+    EXPECT_EQ(mirk_platform_handle_close(handle), 1u);
 }
 
 TEST_F(CppUsage, FramesEndWithAGuardByte) {
