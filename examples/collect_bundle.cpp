@@ -40,8 +40,9 @@ void print(dp_tt_msg_ref message) {
     }
 }
 
-extern "C" void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *done, std::uint32_t *) {
-    context c(h, ctx_id, errors::kept);  // exceptions must not pass through C code
+// Exceptions must not pass through C code: the context keeps errors, and a std::bad_alloc ends the program.
+extern "C" void on_bundle(mirk_handle *h, std::uint32_t ctx_id, void *done, std::uint32_t *) noexcept {
+    context c(h, ctx_id, errors::kept);
     for (auto *item = mirk_platform_received_first(h); item != nullptr; item = mirk_platform_received_next(h, item)) {
         print({c, static_cast<lumo_tarn_dp_tt_msg *>(mirk_platform_received_message(item))});
     }

@@ -2,20 +2,23 @@
 /// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include lumo_ui_tarn.hpp instead of this header.
 ///
 /// A context holds the arguments that all C functions take: handle, ctx_id and error slot. It also decides how errors
-/// are reported: thrown as std::system_error, or kept in the slot as in C. A function reports the errors of the C
-/// functions that it calls, which lumo_ui_tarn/families.h lists, and those that this header names.
+/// are reported: thrown as std::system_error, or kept in the slot as in C. Errors are those of the C functions (see
+/// lumo_ui_tarn/families.h) and those named in this header. If a std::string or frame cannot be allocated,
+/// std::bad_alloc is thrown in both modes.
 ///
 /// A record has three types:
-/// - dp_tc owns an instance and destroys it. A const dp_tc is read-only.
-/// - dp_tc_ref borrows an instance from an owner, an array, a message or C code. It behaves like a pointer: copying it
+/// - dp_tc owns a record and destroys it. A const dp_tc is read-only.
+/// - dp_tc_ref borrows a record from an owner, an array, a message or C code. It behaves like a pointer: copying it
 ///   copies no record, and a const dp_tc_ref can write.
-/// - dp_tc_view borrows an instance to read it. Owners and references convert to views.
+/// - dp_tc_view borrows a record to read it. Owners and references convert to views.
 ///
-/// Messages have the same three types. get() returns the C object, for functions that this header does not wrap; const
-/// owners and views return it as const.
+/// Messages have the same three types. get() returns the C object, a pointer for functions that this header does not
+/// wrap; const owners and views return it as const. An owner that was moved from has no C object: get() is nullptr, its
+/// members read as zero, and functions that write it, copy it or convert it report ENOENT or EINVAL.
 ///
-/// Everything is inline. Reading or writing a scalar makes one call, of the C function with the member's name. Strings,
-/// addresses, nested records and arrays take several calls. Assigning a record that owns arrays or strings copies it.
+/// Everything is inline. Reading or writing a scalar calls one C function, such as lumo_tarn_dp_tc_proto_get_value().
+/// Reading a string, writing an address, and copying or moving a nested record that owns arrays or strings take several
+/// calls.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
@@ -49,14 +52,17 @@ namespace lumo_ui_tarn {
 /// How a context reports errors.
 enum class errors {
     thrown,  ///< the call that fails throws std::system_error
-    kept     ///< the first error is kept until take_error(); until then writes have no effect and results are empty
+    /// The first error stays in the slot until take_error(). While it is there, calls are no-ops that return zero,
+    /// empty or null results; only frame_size(), compare(), hash() and is_tracked() work. If from_frame() or from_xml()
+    /// fails, the object that it returns may be partly filled: check ok(), not the object.
+    kept
 };
 
 #if defined(__cpp_exceptions)
-/// The default of a context: kept in programs without exceptions.
+/// Default error mode of a context: kept in programs without exceptions.
 inline constexpr errors usual_errors = errors::thrown;
 #else
-/// The default of a context: kept in programs without exceptions.
+/// Default error mode of a context: kept in programs without exceptions.
 inline constexpr errors usual_errors = errors::kept;
 #endif
 
@@ -78,7 +84,8 @@ public:
     mirk_handle *handle() const { return handle_; }
     /// The second argument of C operations.
     std::uint32_t ctx_id() const { return ctx_id_; }
-    /// The last argument of C operations.
+    /// The last argument of C operations. An error that is stored through it is kept in both modes: check ok() after
+    /// the operation. call() reports errors in the mode of the context.
     std::uint32_t *slot() { return &slot_; }
 
     /// Returns the kept error, an errno number.
@@ -132,7 +139,8 @@ private:
     [[maybe_unused]] errors mode_;
 };
 
-/// The bytes of one or more frames, and the guard byte after them that C functions may read or write.
+/// The bytes of a frame, or of several frames in sequence, and the guard byte after them, which C functions may read or
+/// write.
 class frame {
 public:
     /// Creates an empty frame.
@@ -193,8 +201,8 @@ struct address {
     friend bool operator!=(const address &a, const address &b) { return !(a == b); }
 };
 
-/// The argument of for_each_member's visitor: a member's name, and pointers to its member functions. A function that
-/// the member does not have is nullptr.
+/// Describes a member of a record to the visitor of for_each_member: its name, and pointers to the functions that
+/// access it. Functions that do not exist are nullptr.
 template <class Get, class Set, class GetState, class SetState>
 struct member {
     std::string_view name;  ///< its name in C
@@ -311,7 +319,8 @@ class bound {
 public:
     /// The context that was passed to the constructor.
     lumo_ui_tarn::context &context() const { return *context_; }
-    /// True if there is a C object: the owner was not moved from, and no error prevented the creation.
+    /// True if there is a C object: the owner was not moved from, and the object could be created. No test for other
+    /// errors: see context::ok().
     explicit operator bool() const { return native_ != nullptr; }
 
     /// @cond helpers
@@ -347,7 +356,8 @@ public:
     /// Converts to a view of the record.
     operator record_view<R>() const { return {this->context(), this->native_}; }
 
-    /// An upper bound of the frame's size in bytes, without the guard byte. RA data of the runtime is not counted.
+    /// An upper bound on the frame's size in bytes, without the guard byte. RA data is not counted: with it, the frame
+    /// can be larger.
     std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->native_); }
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
     /// ENOMEM if the buffer is too small.
@@ -376,7 +386,7 @@ public:
                              err);
         });
     }
-    /// Returns readable text under this name. No function reads it.
+    /// Returns text for people, under this name. There is no parser for it.
     std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
@@ -385,7 +395,7 @@ public:
         });
     }
 
-    /// Compares the members in the order of the schema. Only the sign of the result has a meaning. State bytes are
+    /// Compares the members in the order of the schema. Only the sign of the result is meaningful. State bytes are
     /// ignored.
     std::int32_t compare(record_view<R> other) const { return R::compare(this->native_, other.get()); }
     /// Returns a hash of the members. Equal records have equal hashes.
@@ -520,7 +530,7 @@ class record_view : public R::template members<record_view<R>> {
     using base = typename R::template members<record_view<R>>;
 
 public:
-    /// Borrows an instance of C code.
+    /// Borrows a record of C code.
     record_view(context &c, const typename R::native *native) : base(c, const_cast<typename R::native *>(native)) {}
 
     /// The C object, or nullptr.
@@ -538,13 +548,16 @@ class record_ref : public R::template ref_writers<record_ref<R>> {
     using base = typename R::template ref_writers<record_ref<R>>;
 
 public:
-    /// Borrows an instance of C code.
+    /// Borrows a record of C code.
     record_ref(context &c, typename R::native *native) : base(c, native) {}
 
     /// The C object, or nullptr.
     typename R::native *get() const { return this->native_; }
     /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
-    /// arrays in nested records keep theirs.
+    /// arrays in nested records keep theirs. Has no effect on a record without state bytes.
+    ///
+    /// The blocks with the states of elements are leaked: array_ref::state() then returns value for each element, and
+    /// array_ref::set_state() has no effect, until the array grows, which clears the states of its elements.
     void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
     template <class Visit>
@@ -570,7 +583,7 @@ public:
     }
     /// Use copy().
     record(const record &) = delete;
-    /// The other owner has no record afterwards.
+    /// The other owner has no C object afterwards.
     record(record &&other) noexcept : base(other.context(), other.release()) {}
     /// Swaps the two.
     record &operator=(record &&other) noexcept {
@@ -583,7 +596,7 @@ public:
         if (this->native_ != nullptr) R::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
-    /// Takes the ownership of an instance from C code.
+    /// Takes ownership of a record from C code.
     static record take(context &c, typename R::native *native) { return record(c, native); }
     /// The C object, or nullptr.
     typename R::native *get() { return this->native_; }
@@ -591,8 +604,7 @@ public:
     const typename R::native *get() const { return this->native_; }
     /// Converts to a reference to the record.
     operator record_ref<R>() { return {this->context(), this->native_}; }
-    /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
-    /// arrays in nested records keep theirs.
+    /// See record_ref::set_all_states.
     void set_all_states(std::uint8_t value) { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema. The functions need an owner
     /// that is not const; for a const one use view_type.
@@ -600,10 +612,10 @@ public:
     static void for_each_member(Visit &&visit) {
         R::template visit_writable_<record>(visit);
     }
-    /// Passes the ownership to the caller, who destroys the C object.
+    /// Transfers ownership of the C object to the caller, who destroys it.
     [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// Creates a record from a frame. A guard byte follows the size bytes; it is not part of the frame.
+    /// Creates a record from a frame of size bytes. One guard byte, which size does not count, follows them.
     static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
         // The C function only reads.
@@ -623,8 +635,9 @@ public:
     /// Creates a record from a copy of a frame: no guard byte is needed.
     static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// Creates a record from an element of the runtime's document: the one at path, or the first one, at any depth,
-    /// with the record's name.
+    /// Creates a record from an element of a document of the runtime: the one at path, or the first one, at any depth,
+    /// with the record's name. ENOENT if there is none, EINVAL for an invalid number. Documents of the reference
+    /// runtime are created by mirk_platform_document_load_memory().
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
         detail::read_xml<R>(c, document, path, fresh.get());
@@ -685,14 +698,15 @@ public:
     /// The type of sizes and indexes.
     using size_type = std::size_t;
 
-    /// A random access iterator.
+    /// A random access iterator of C++20. For the algorithms of C++17 it is an input iterator, because its reference is
+    /// a value.
     class iterator {
     public:
         /// @cond members of any iterator
         using value_type = Element;
         using reference = value_type;
         using difference_type = std::ptrdiff_t;
-        using iterator_category = std::input_iterator_tag;  // because reference is a value
+        using iterator_category = std::input_iterator_tag;
 #if __cplusplus >= 202002L
         using iterator_concept = std::random_access_iterator_tag;
 #endif
@@ -742,7 +756,7 @@ public:
         typename A::native *owner_ = nullptr;
         std::size_t at_ = 0;
     };
-    /// A const container protects itself and not the elements.
+    /// Constness is shallow: elements of a const array_ref can be written.
     using const_iterator = iterator;
 
     /// Number of elements.
@@ -765,7 +779,8 @@ public:
     /// Iterator past the last element.
     iterator end() const { return {context_, owner_, size()}; }
 
-    /// The state byte of an element, or nothing if the record has no state bytes.
+    /// The state byte of an element, or nothing if the record has no state bytes. ENOENT if index is not less than
+    /// size().
     std::optional<std::uint8_t> state(std::size_t index) const {
         const auto *object = reinterpret_cast<const mirk_object *>(owner_);
         if (!context_->tracks() || object == nullptr || (object->obj_flag & MIRK_OBJ_STATE_TRACKED) == 0) {
@@ -830,8 +845,9 @@ public:
         put(elements - 1, blank ? blank->get() : nullptr);
         return *this;
     }
-    /// Moves a record into an element and frees the element's former arrays and strings. Grows the array if necessary;
-    /// EOVERFLOW if index is not less than max_size().
+    /// Moves the contents of a record into an element and frees the element's former arrays and strings. The source
+    /// keeps its C object, without arrays and strings. Grows the array if necessary; EOVERFLOW if index is not less
+    /// than max_size(). EINVAL if value has no C object.
     const array_ref &set(std::size_t index, record<element> &&value) const {
         const std::size_t before = size();
         if (!value) context_->fail(EINVAL, "there is no record");
@@ -847,12 +863,13 @@ public:
     }
     /// Copies a record into an element. Grows the array if necessary.
     const array_ref &set(std::size_t index, record_view<element> value) const { return set(index, value.copy()); }
-    /// Appends a record by moving it.
+    /// Appends an element and moves the contents of a record into it, like set().
     const array_ref &push_back(record<element> &&value) const { return set(size(), std::move(value)); }
     /// Appends a copy of a record.
     const array_ref &push_back(record_view<element> value) const { return set(size(), value.copy()); }
 
-    /// Writes the state byte of an element.
+    /// Writes the state byte of an element. ENOENT if index is not less than size(), EINVAL if the record has no state
+    /// bytes. May have no effect after record_ref::set_all_states().
     const array_ref &set_state(std::size_t index, std::uint8_t value) const {
         context_->call(A::state_flag_set, owner_, base::narrowed(index), value);
         return *this;
@@ -885,7 +902,8 @@ public:
     /// Converts to a view of the message.
     operator message_view<M>() const { return {this->context(), this->native_}; }
 
-    /// An upper bound of the frame's size in bytes, without the guard byte. RA data of the runtime is not counted.
+    /// An upper bound on the frame's size in bytes, without the guard byte. RA data is not counted: with it, the frame
+    /// can be larger.
     std::size_t frame_size() const {
         return this->native_ != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
     }
@@ -912,7 +930,7 @@ public:
     }
     /// Returns an XML element with the message's name.
     std::string to_xml() const { return rendered(M::to_xml); }
-    /// Returns readable text. No function reads it.
+    /// Returns text for people. There is no parser for it.
     std::string text() const { return rendered(M::print); }
 
     /// @cond helpers
@@ -979,7 +997,8 @@ public:
     record_ref<typename M::payload> payload() const { return this->payload_(); }
     /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() const { return this->detach_payload_(); }
-    /// Destroys the payload and stores another one, which must be on the same handle. After an error value keeps it.
+    /// Destroys the payload and stores another one, which must be on the same handle. After an error, value
+    /// still owns its record.
     void set_payload(record<typename M::payload> &&value) const { this->set_payload_(std::move(value)); }
 };
 
@@ -1000,7 +1019,7 @@ public:
     }
     /// Messages cannot be copied; their payloads can.
     message(const message &) = delete;
-    /// The other owner has no message afterwards.
+    /// The other owner has no C object afterwards.
     message(message &&other) noexcept : base(other.context(), other.release()) {}
     /// Swaps the two.
     message &operator=(message &&other) noexcept {
@@ -1013,7 +1032,7 @@ public:
         if (this->native_ != nullptr) M::destroy(this->context_->handle(), this->context_->ctx_id(), this->native_);
     }
 
-    /// Takes the ownership of a message from C code.
+    /// Takes ownership of a message from C code.
     static message take(context &c, typename M::native *native) { return message(c, native); }
     /// The C object, or nullptr.
     typename M::native *get() { return this->native_; }
@@ -1025,14 +1044,15 @@ public:
     record_ref<typename M::payload> payload() { return this->payload_(); }
     /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() { return this->detach_payload_(); }
-    /// Destroys the payload and stores another one, which must be on the same handle. After an error value keeps it.
+    /// Destroys the payload and stores another one, which must be on the same handle. After an error, value
+    /// still owns its record.
     void set_payload(record<typename M::payload> &&value) { this->set_payload_(std::move(value)); }
     /// The payload, read-only. The message owns it.
     record_view<typename M::payload> payload() const { return this->payload_(); }
-    /// Passes the ownership to the caller, who destroys the C object.
+    /// Transfers ownership of the C object to the caller, who destroys it.
     [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// Creates a message from a frame. A guard byte follows the size bytes; it is not part of the frame.
+    /// Creates a message from a frame of size bytes. One guard byte, which size does not count, follows them.
     static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         std::uint32_t err = *c.slot();
@@ -1054,7 +1074,9 @@ public:
     /// Creates a message from a copy of a frame: no guard byte is needed.
     static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// Creates a message from the first element of the runtime's document that has the payload's name.
+    /// Creates a message and reads its payload from the first element of a document of the runtime that has the
+    /// payload's name. If there is none, all members of the payload are zero and no error is reported. See
+    /// record::from_xml.
     static message from_xml(context &c, void *document) {
         message fresh(c);
         // Not by the message's C function, which leaks the message after an error.
@@ -1088,17 +1110,18 @@ public:
         B::abort_message_marshal(context_->handle(), context_->ctx_id(), unused, nullptr, sizeof unused - 1, &err);
     }
 
-    /// Appends the frame of a message.
+    /// Appends the frame of a message. ENOENT after commit() or abort(), or if the bundle could not be opened.
     bundle_writer &add(message_view<typename B::message> one) {
         if (!open_) context_->fail(ENOENT, "the bundle is not open");
         if (context_->ok()) frames_.append(one.to_frame());
         return *this;
     }
-    /// Closes the bundle and appends the commit's frame. Has no effect while an error is kept.
+    /// Closes the bundle and appends the commit's frame. ENOENT if it is not open. Has no effect while an error is
+    /// kept.
     bundle_writer &commit() { return end(B::commit_message_marshal); }
-    /// Closes the bundle and appends the abort's frame. Has no effect while an error is kept.
+    /// Closes the bundle and appends the abort's frame. ENOENT if it is not open. Has no effect while an error is kept.
     bundle_writer &abort() { return end(B::abort_message_marshal); }
-    /// The frames written so far.
+    /// The frames written so far, in sequence.
     const frame &frames() const { return frames_; }
 
 private:
