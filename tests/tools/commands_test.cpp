@@ -80,6 +80,30 @@ TEST(Commands, HelpAndManualListTheSameExitCodes) {
     EXPECT_NE(manual.find(items + ".El\n"), std::string::npos) << items;
 }
 
+TEST(Commands, ManualSaysWhatIsRequiredAndExcluded) {
+    const std::string manual = tarn({"manual"}).out;
+    for (const std::string line : {
+             ".Nm tarn show\n.Brq Fl \\-socket Ar FILE | Fl \\-connect Ar ADDRESS\n.Op Ar options\n.Ar BUNDLE\n",
+             ".Nm tarn record\n.Fl o Ar FILE\n.Brq ",
+             "Exactly one of --socket, --connect and --from is required.\n",
+             "At most one of --text, --xml and --json is allowed.\n",
+             "Excludes --elements.\n",
+             "Requires --bundles.\n",
+         }) {
+        EXPECT_NE(manual.find(line), std::string::npos) << line;
+    }
+}
+
+TEST(Commands, ManualExplainsEveryFault) {
+    const std::string manual = tarn({"manual"}).out;
+    std::istringstream in(tarn({"complete", "answer", "--fault", ""}).out);
+    int faults = 0;
+    for (std::string fault; std::getline(in, fault); ++faults) {
+        EXPECT_NE(manual.find(".It " + fault + "\n"), std::string::npos) << fault;
+    }
+    EXPECT_EQ(faults, 8);
+}
+
 // Checks that the lines of a dump are consecutive, and returns their number of bytes.
 std::size_t dumped_bytes(const std::string &dump) {
     std::size_t next = 0;

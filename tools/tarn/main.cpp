@@ -1,4 +1,4 @@
-// tarn: serves, displays, converts and dissects answers of the tarn feature.
+// tarn: inspects, converts, serves and records messages of the library lumo_ui_tarn.
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -28,11 +28,12 @@ std::string exit_code_list() {
 }
 
 int run(int argc, char **argv) {
-    CLI::App app("Serve, display, convert and dissect answers of the tarn feature.", "tarn");
+    CLI::App app("Inspect, convert, serve and record messages of the library lumo_ui_tarn.", "tarn");
     Context context;
     app.require_subcommand(1);
-    app.footer(std::string(terms) + "\n\n" + name_rule + "\n\nExit codes of all commands:" + exit_code_list() +
-               "\n\nRun \"tarn COMMAND --help\" for the options of a command and examples.");
+    app.footer(std::string(terms) + "\n\n" + name_rule + "\n\n" + value_rule +
+               "\n\nExit codes of all commands:" + exit_code_list() +
+               "\n\nRun \"tarn COMMAND --help\" for the options of a command and examples. tarn(1) explains\nmore.");
     add_answer(app, context);
     add_show(app, context);
     add_decode(app, context);

@@ -10,9 +10,7 @@ void add_options(const CLI::App &command, bool is_group, std::vector<const CLI::
         if (is_group && option == command.get_help_ptr()) continue;
         if (option->nonpositional() && !option->get_group().empty()) options.push_back(option);
     }
-    for (const CLI::App *group : command.get_subcommands([](const CLI::App *app) { return app->get_name().empty(); })) {
-        add_options(*group, true, options);
-    }
+    for (const CLI::App *group : groups_of(command)) add_options(*group, true, options);
 }
 
 }  // namespace
@@ -20,6 +18,10 @@ void add_options(const CLI::App &command, bool is_group, std::vector<const CLI::
 std::vector<const CLI::App *> commands_of(const CLI::App &app) {
     return app.get_subcommands(
         [](const CLI::App *command) { return !command->get_name().empty() && !command->get_group().empty(); });
+}
+
+std::vector<const CLI::App *> groups_of(const CLI::App &command) {
+    return command.get_subcommands([](const CLI::App *app) { return app->get_name().empty(); });
 }
 
 std::vector<const CLI::Option *> options_of(const CLI::App &command) {

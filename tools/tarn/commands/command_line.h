@@ -10,13 +10,21 @@ namespace tarn::tool {
 
 // The terms that the help and the manual page use.
 inline constexpr char terms[] =
-    "The feature tarn reports its configuration and state in records. A message\n"
-    "carries one record and travels as a binary frame; with per-field state, the frame\n"
-    "also has a byte for each member that shows whether it was written. A bundle is a\n"
-    "sequence of messages between a start and a commit. A process requests a bundle by\n"
-    "its name, and another process answers with its frames.";
+    "The traffic-aware routing feature tarn reports its configuration and its state in\n"
+    "records. A message carries one record and travels as a binary frame, which begins\n"
+    "with a header and the 16-byte identifier of its type, the luid. With per-field\n"
+    "state, the frame also has one byte for each member, which programs use to mark it\n"
+    "as set or changed; XML and JSON show the bytes that are not 0. A bundle is a\n"
+    "sequence of messages between two control frames, a start and a commit. One process\n"
+    "requests a bundle by name, and another answers with the frames of that bundle.";
+
+// The forms of values that several commands take.
+inline constexpr char value_rule[] =
+    "The file name - stands for standard input or standard output. A SIZE is in bytes\n"
+    "or has a unit, such as 64KiB or 1MiB.";
 
 std::vector<const CLI::App *> commands_of(const CLI::App &app);
+std::vector<const CLI::App *> groups_of(const CLI::App &command);
 std::vector<const CLI::Option *> options_of(const CLI::App &command);  // including those of its groups
 std::vector<const CLI::Option *> positionals_of(const CLI::App &command);
 

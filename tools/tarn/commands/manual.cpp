@@ -1,5 +1,7 @@
 // The manual page of the tool, from the definitions of its command line.
+#include <algorithm>
 #include <cctype>
+#include <set>
 #include <sstream>
 #include <utility>
 
@@ -57,6 +59,33 @@ std::string names(const CLI::Option &option) {
     return text;
 }
 
+// "--text, --xml and --json"
+std::string enumeration_of(const std::vector<std::string> &names) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        text += (i == 0 ? "" : i + 1 < names.size() ? ", " : " and ") + names[i];
+    }
+    return text;
+}
+
+std::vector<std::string> names_of(const std::set<CLI::Option *> &options) {
+    std::vector<std::string> names;
+    for (const CLI::Option *option : options) names.push_back(option->get_name());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// "Fl o Ar FILE"
+std::string call(const CLI::Option &option) {
+    const std::string name =
+        option.get_snames().empty() ? "\\-" + option.get_lnames().front() : option.get_snames().front();
+    return "Fl " + name + (takes_value(option) ? " Ar " + argument(option) : "");
+}
+
+std::vector<const CLI::Option *> members_of(const CLI::App &group) {
+    return group.get_options([&](const CLI::Option *option) { return option != group.get_help_ptr(); });
+}
+
 void write_option(const CLI::Option &option, std::ostream &out) {
     out << ".It ";
     if (option.get_positional()) {
@@ -67,11 +96,82 @@ void write_option(const CLI::Option &option, std::ostream &out) {
     }
     out << "\n" << sentence(option.get_description()) << "\n";
     if (!option.get_default_str().empty()) out << "The default is " << text_line(option.get_default_str()) << ".\n";
+    if (!option.get_excludes().empty()) out << "Excludes " << enumeration_of(names_of(option.get_excludes())) << ".\n";
+    if (!option.get_needs().empty()) out << "Requires " << enumeration_of(names_of(option.get_needs())) << ".\n";
 }
 
-// The usage of a command: its positionals after the options.
+// What the groups of options require.
+void write_groups(const CLI::App &command, std::ostream &out) {
+    for (const CLI::App *group : groups_of(command)) {
+        std::vector<std::string> names;
+        for (const CLI::Option *option : members_of(*group)) names.push_back(option->get_name());
+        const bool required = group->get_require_option_min() != 0;
+        out << (required ? "Exactly" : "At most") << " one of " << enumeration_of(names) << " is "
+            << (required ? "required" : "allowed") << ".\n";
+    }
+}
+
+// What only the manual page explains.
+std::string_view details_of(const std::string &command) {
+    if (command == "answer") {
+        return R"(.Pp
+If the served messages need more memory than --snapshot-limit, the command ends with exit code 3.
+A peer that requests a larger answer than --unread is disconnected.
+.Pp
+The faults of --fault:
+.Bl -tag -width second-start -compact
+.It abort
+the bundle is aborted instead of committed
+.It cut
+the connection is closed within the last message
+.It foreign
+the first message is one that the bundle does not admit
+.It garbage
+the bytes are not frames
+.It no-commit
+the commit is missing
+.It second-start
+the bundle starts twice
+.It silent
+nothing is sent
+.It unknown
+the luid of the first message is unknown
+.El
+)";
+    }
+    if (command == "show")
+        return R"(.Pp
+The trace line of a handler for the whole library is the same as that of a handler in the look-up table.
+)";
+    if (command == "schema")
+        return R"(.Pp
+The column role marks the members that count the elements of the next member, or the bytes of its text.
+In the column slot,
+.Dq own from N
+marks a member with state bytes of its own, of which the first has slot N;
+.Dq vector at N
+marks an array, of which the slots from N contain a pointer to the state bytes of the elements.
+)";
+    if (command == "record")
+        return R"(.Pp
+If the recording or --full is standard output, the summary is printed on standard error.
+)";
+    return {};
+}
+
+// The usage of a command: required options, the other options, positionals.
 void write_usage(const CLI::App &command, std::ostream &out) {
-    out << ".Nm tarn " << command.get_name() << "\n.Op Ar options\n";
+    out << ".Nm tarn " << command.get_name() << "\n";
+    for (const CLI::Option *option : options_of(command)) {
+        if (option->get_required()) out << "." << call(*option) << "\n";
+    }
+    for (const CLI::App *group : groups_of(command)) {
+        if (group->get_require_option_min() == 0) continue;
+        std::string calls;
+        for (const CLI::Option *option : members_of(*group)) calls += (calls.empty() ? "" : " | ") + call(*option);
+        out << ".Brq " << calls << "\n";
+    }
+    out << ".Op Ar options\n";
     for (const CLI::Option *option : positionals_of(command)) {
         out << (option->get_required() ? ".Ar " : ".Op Ar ") << argument(*option);
         out << (option->get_items_expected_max() > 1 ? " ...\n" : "\n");
@@ -79,13 +179,13 @@ void write_usage(const CLI::App &command, std::ostream &out) {
 }
 
 // The footer of a command's help: paragraphs, which blank lines separate, then examples.
-void write_footer(const std::string &footer, std::ostream &out) {
-    std::istringstream in(footer);
+void write_footer(const CLI::App &command, std::ostream &out) {
+    std::istringstream in(command.get_footer());
     std::string paragraph;
     bool literal = false;
     for (std::string line; std::getline(in, line);) {
         if (line == "Examples:") {
-            out << ".Pp\nExamples:\n.Bd -literal -offset indent\n";
+            out << details_of(command.get_name()) << ".Pp\nExamples:\n.Bd -literal -offset indent\n";
             literal = true;
         } else if (literal) {
             out << text_line(line.starts_with("  ") ? line.substr(2) : line) << "\n";
@@ -103,7 +203,9 @@ void write_command(const CLI::App &command, std::ostream &out) {
     for (const CLI::Option *option : positionals_of(command)) write_option(*option, out);
     for (const CLI::Option *option : options_of(command)) write_option(*option, out);
     out << ".El\n";
-    write_footer(command.get_footer(), out);
+    if (!groups_of(command).empty()) out << ".Pp\n";
+    write_groups(command, out);
+    write_footer(command, out);
 }
 
 }  // namespace
@@ -115,16 +217,21 @@ std::string manual_page(const CLI::App &app) {
     for (const CLI::App *command : commands_of(app)) write_usage(*command, out);
     out << ".Sh DESCRIPTION\n"
         << text_lines(terms) << "\n.Pp\n"
-        << text_lines(name_rule) << R"(
-.Pp
-The file name - stands for standard input or standard output.
+        << text_lines(name_rule) << "\n.Pp\n"
+        << text_lines(value_rule) << R"(
+The units are KiB (1024 bytes), MiB and GiB; K and KB mean KiB.
+Limits in bytes are at least 1KiB and less than 4GiB.
+SECONDS may have a fraction and are at most 86400, one day.
 .Sh COMMANDS
 )";
     for (const CLI::App *command : commands_of(app)) write_command(*command, out);
     out << R"(.Sh ENVIRONMENT
 .Bl -tag -width MIRK_TRACE
 .It Ev MIRK_TRACE
-Trace levels to print on standard error: comma-separated numbers from 0 to 31, all, or none.
+Trace levels of the library to print on standard error: comma-separated numbers from 0 to 31, all, or none.
+Errors have level 3, debug lines level 7.
+Without this variable, only level 0 is printed; with an invalid value, levels 0 and 3.
+--verbose prints all levels.
 .El
 .Sh EXIT STATUS
 All commands use the same exit codes:
