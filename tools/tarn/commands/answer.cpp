@@ -1,4 +1,4 @@
-// tarn answer: serves bundles from files over a socket or TCP.
+// tarn answer: serves bundles from files over a Unix domain socket or TCP.
 #include <map>
 #include <memory>
 
@@ -39,9 +39,9 @@ const std::map<std::string, Fault> fault_names = {
 
 void add_answer(CLI::App &app, Context &) {
     auto options = std::make_shared<AnswerOptions>();
-    CLI::App *command = app.add_subcommand("answer", "Serve bundles from files over a socket or TCP");
+    CLI::App *command = app.add_subcommand("answer", "Serve bundles from files over a Unix domain socket or TCP");
     CLI::Option_group *endpoint = command->add_option_group("endpoint", "Where to listen");
-    endpoint->add_option("--socket", options->socket, "Socket file; only its owner may connect")
+    endpoint->add_option("--socket", options->socket, "Unix domain socket; only its owner may connect")
         ->type_name(words::file);
     endpoint->add_option("--listen", options->listen, tcp_words() + "; anybody who can reach it may connect")
         ->type_name(words::address);
@@ -49,7 +49,7 @@ void add_answer(CLI::App &app, Context &) {
     command->add_option("served", options->served, "A bundle, and the file with its messages as XML, JSON or frames")
         ->type_name(words::bundle_file)
         ->required();
-    command->add_option("--peers", options->peers, "Maximum number of peers; further ones are rejected")
+    command->add_option("--peers", options->peers, "Maximum number of peers; further ones are disconnected")
         ->check(CLI::Range(1U, 1U << 20).description(""))
         ->capture_default_str();
     add_seconds(*command, "--idle", options->idle, "Disconnect a peer that is silent for longer; 0: never");
@@ -58,13 +58,15 @@ void add_answer(CLI::App &app, Context &) {
     add_seconds(*command, "--answer-time", options->answer_time,
                 "Disconnect a peer that takes longer to read an answer; 0: never");
     add_size(*command, "--frame-limit", options->frame_limit, "Largest frame that a peer may send", 1 << 10);
-    add_size(*command, "--unread", options->unread, "Most unread bytes for one peer", 1 << 10);
+    add_size(*command, "--unread", options->unread,
+             "Maximum unread bytes of one peer; also the size of the largest answer", 1 << 10);
     add_size(*command, "--unread-total", options->unread_total,
-             "Most unread bytes for all peers; the peer with the most is disconnected", 1 << 10);
+             "Maximum unread bytes of all peers, at least --unread; the peer with the most is disconnected", 1 << 10);
     add_size(*command, "--snapshot-limit", options->snapshot_limit,
-             "Most memory for the messages to serve, with and without state each", 1 << 10);
+             "Maximum memory for the served messages, each kept with and without per-field state", 1 << 10);
     add_lenient(*command, options->lenient);
-    command->add_flag("-v,--verbose", options->verbose, "Log connections and requests, and print all trace lines");
+    command->add_flag("-v,--verbose", options->verbose,
+                      "Log connections and requests on standard error, with all trace lines");
     command->add_option("--fault", options->fault, "Send a deliberately broken answer, to test the requesting side")
         ->transform(CLI::CheckedTransformer(fault_names)
                         .description("{abort,cut,foreign,garbage,no-commit,second-start,silent,unknown}"));
@@ -72,7 +74,7 @@ void add_answer(CLI::App &app, Context &) {
         "Prints one line when it is ready to accept connections. SIGINT and SIGTERM stop\n"
         "it with exit code 0. A peer that exceeds a limit, or sends anything but\n"
         "requests, is disconnected and reported on standard error with the reason; other\n"
-        "peers are not affected. Sizes are in bytes or have a unit, such as 64KiB.\n\n"
+        "peers are not affected.\n\n"
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.json dp-intf=intf.xml\n"

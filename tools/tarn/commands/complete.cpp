@@ -65,7 +65,7 @@ std::string values(const CLI::Option &option, const std::string &word, const std
         candidates.add(type_names());
     } else if (kind == words::bundle_file && word.find('=') == std::string::npos) {
         candidates.add(bundle_names(), "=");
-    } else if (kind == words::file || kind == words::bundle_file) {
+    } else if (kind.starts_with(words::file) || kind == words::bundle_file) {
         candidates.add_files();
     }
     return candidates.text();

@@ -171,7 +171,7 @@ void add_decode(CLI::App &app, Context &context) {
     add_input(*command, options->file, "Frames, XML fragments or JSON");
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
-    form->add_flag("--xml", options->xml, "XML, one message per line");
+    form->add_flag("--xml", options->xml, "XML, one message per line unless a string contains a newline");
     form->add_flag("--json", options->json, "JSON, one object per line");
     form->require_option(0, 1);
     CLI::Option *bundles = command->add_flag(
@@ -182,9 +182,9 @@ void add_decode(CLI::App &app, Context &context) {
     add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
-        "Each frame contains the 16-byte identity of its message, the luid. With\n"
-        "--keep-going, the exit code is the highest of all errors. \"tarn show --help\"\n"
-        "explains --via.\n\n"
+        "With --bundles, a message outside any bundle is printed at once; \"tarn show\n"
+        "--help\" explains --via. With --keep-going, the exit code is the highest of all\n"
+        "errors. Bytes that are not a frame, and an error in JSON, end decoding anyway.\n\n"
         "Examples:\n"
         "  tarn decode answer.bin --json\n"
         "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles -v\n"

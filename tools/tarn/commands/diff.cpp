@@ -136,9 +136,9 @@ Exit run_diff(const DiffOptions &options) {
 void add_diff(CLI::App &app, Context &context) {
     auto options = std::make_shared<DiffOptions>();
     CLI::App *command = app.add_subcommand("diff", "Compare two files of messages member by member");
-    command->add_option("a", options->a, "Frames, XML or JSON")->type_name(words::file)->required();
+    command->add_option("a", options->a, "Frames, XML or JSON")->type_name(words::file_a)->required();
     command->add_option("b", options->b, "Frames, XML or JSON; the formats may differ")
-        ->type_name(words::file)
+        ->type_name(words::file_b)
         ->required();
     command->add_flag("--json", options->json, "Print the differences as JSON");
     command->add_flag("-q,--quiet", options->quiet, "Print nothing; only set the exit code");

@@ -96,8 +96,8 @@ void add_dissect(CLI::App &app, Context &context) {
     add_input(*command, options->file, "Frames");
     command->add_flag("--json", options->json, "Print JSON");
     command->footer(
-        "Of a broken frame, the dump shows what precedes the error. The error follows on\n"
-        "standard error, with its offset and reason.\n\n"
+        "If a frame is broken, the dump stops at the error, which is printed on standard\n"
+        "error with its offset and reason.\n\n"
         "Examples:\n"
         "  tarn dissect answer.bin\n"
         "  tarn encode examples/cl_debug.xml | tarn dissect");

@@ -38,14 +38,17 @@ void add_encode(CLI::App &app, Context &context) {
     add_output(*command, options->output, "Output file");
     command->add_option("--bundle", options->bundle, "Put the start and the commit of this bundle around the messages")
         ->type_name(words::bundle);
-    command->add_option("--stamp", options->stamp, "Message stamp in the header of each frame")->capture_default_str();
+    command
+        ->add_option("--stamp", options->stamp,
+                     "Message stamp: a number of the sender's choice, in the header of each frame")
+        ->capture_default_str();
     command->add_flag("--tracked", options->tracked, "Write per-field state");
     add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
         "The input is checked against the schema: a misspelled member, an unknown\n"
         "enumerator, a value out of range or a missing payload is an error, reported with\n"
-        "its line or path.\n\n"
+        "its line or path. See --lenient for exceptions.\n\n"
         "Examples:\n"
         "  tarn encode examples/cl_debug.xml -o debug.bin\n"
         "  tarn encode tables.json --bundle dp-tt-cfg --tracked | tarn dissect\n"

@@ -139,7 +139,8 @@ void add_generate(CLI::App &app, Context &) {
     command->add_option("--seed", options->seed, "Seed; the same seed gives the same message")->capture_default_str();
     CLI::Option *elements = command
                                 ->add_option("--elements", options->elements,
-                                             "Approximate number of elements in each list; nested lists have fewer")
+                                             "Number of elements in each list; lists in lists have about a quarter, "
+                                             "lists of processors always 2")
                                 ->check(CLI::Range(0U, 1000000U).description(""))
                                 ->capture_default_str();
     add_size(*command, "--size", options->size, "Lengthen the lists until the frame has at least this size", 1,
@@ -152,10 +153,10 @@ void add_generate(CLI::App &app, Context &) {
     command->add_flag("--tracked", options->tracked, "Generate with per-field state");
     command->add_flag("--bundle", options->bundle, "Put the start and the commit of the bundle around the message");
     command->footer(
-        "With --size, the number of elements is the smallest that reaches the size. The\n"
-        "frame stays smaller, with a note on standard error, if the counts of its lists\n"
-        "are too narrow; --size is an error for a message without a list of variable\n"
-        "length.\n\n"
+        "With --size, the number of elements is the smallest that reaches the size. If the\n"
+        "lists cannot be long enough, because their count members are too small (such as\n"
+        "u_int8), the frame is the largest possible one, with a note on standard error.\n"
+        "--size is an error for a message whose lists cannot grow.\n\n"
         "Examples:\n"
         "  tarn generate dp-tt-cfg --seed 7 --elements 4 -o tables.xml\n"
         "  tarn generate dp-appl-cfg --size 1MiB --form frames --bundle -o answer.bin\n"

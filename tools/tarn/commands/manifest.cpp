@@ -122,11 +122,13 @@ Exit run_manifest(const ManifestOptions &options) {
 
 void add_manifest(CLI::App &app, Context &context) {
     auto options = std::make_shared<ManifestOptions>();
-    CLI::App *command = app.add_subcommand("manifest", "Print the types and the build stamp in a library file");
+    CLI::App *command = app.add_subcommand("manifest", "Print the list of types and the build stamp in a library file");
     command->add_option("file", options->file, "ELF file")->type_name(words::file)->required();
     command->add_flag("--json", options->json, "Print JSON");
     command->footer(
-        "The manifest is the section .orrin. The exit code is 1 if the file has none.\n\n"
+        "The manifest is the ELF section .orrin: the schema list, with a line for each\n"
+        "type, and the build stamp, which says who built the file and when. The exit code\n"
+        "is 1 if the file has none.\n\n"
         "Examples:\n"
         "  tarn manifest build/release/liblumo_ui_tarn.so\n"
         "  tarn manifest liblumo_ui_tarn.so.1 --json");

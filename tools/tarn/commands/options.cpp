@@ -21,9 +21,12 @@ CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t 
                               ->check(CLI::Range(least, most).description(""))
                               ->transform(CLI::AsSizeValue(false).description(""))
                               ->type_name("SIZE");
-    const bool whole_mib = size % (1U << 20) == 0;
-    if (size != 0)
-        option->default_str(whole_mib ? std::to_string(size >> 20) + "MiB" : std::to_string(size >> 10) + "KiB");
+    if (size == 0) return option;
+    const char *units[] = {"B", "KiB", "MiB", "GiB"};
+    std::size_t unit = 0;
+    std::uint64_t number = size;
+    for (; unit < 3 && number % 1024 == 0; ++unit) number /= 1024;
+    option->default_str(std::to_string(number) + units[unit]);
     return option;
 }
 
@@ -36,7 +39,9 @@ void add_output(CLI::App &command, std::string &path, const std::string &what) {
 }
 
 void add_lenient(CLI::App &command, bool &lenient) {
-    command.add_flag("--lenient", lenient, "Ignore what the schema does not define in XML and JSON");
+    command.add_flag(
+        "--lenient", lenient,
+        "Accept XML and JSON with unknown members, unknown enumerators (read as the first one) or no payload (zeros)");
 }
 
 void add_verbose(CLI::App &command, bool &verbose) {

@@ -11,7 +11,7 @@ namespace tarn::tool {
 
 // Types of values. --help prints them, and completion chooses candidates by them.
 namespace words {
-inline constexpr const char *file = "FILE";
+inline constexpr const char *file = "FILE", *file_a = "FILE_A", *file_b = "FILE_B";
 inline constexpr const char *address = "ADDRESS";
 inline constexpr const char *bundle = "BUNDLE";
 inline constexpr const char *bundle_file = "BUNDLE=FILE";

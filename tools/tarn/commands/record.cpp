@@ -175,7 +175,7 @@ void add_record(CLI::App &app, Context &context) {
     CLI::Option_group *source = command->add_option_group("source", "Where to receive from");
     source->add_option("--socket", options->endpoint.socket, "Unix domain socket")->type_name(words::file);
     source->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
-    source->add_option("--from", options->from, "File of frames, without bundles to request and options of connections")
+    source->add_option("--from", options->from, "File of frames; excludes bundles and the options of connections")
         ->type_name(words::file);
     source->require_option(1);
     command->add_option("--rounds", options->rounds, "Number of requests for each bundle")->capture_default_str();
@@ -189,10 +189,10 @@ void add_record(CLI::App &app, Context &context) {
         "is reported on standard error, and the exit code is 1 unless --full keeps it.\n"
         "Each message is written as soon as it has been received, so after an error, such\n"
         "as a full disk, the files contain all preceding messages, whole. Both files can\n"
-        "be read with \"tarn decode\".\n\n"
+        "be read with \"tarn decode\" unless they are empty.\n\n"
         "Examples:\n"
         "  tarn record cl-debug dp-intf --socket /tmp/tarn.sock -o recording.xml\n"
-        "  tarn record dp-tt-cfg --connect :28276 -o recording.xml --full frames.bin\n"
+        "  tarn record dp-intf dp-tt-cfg --connect :28276 -o recording.xml --full frames.bin\n"
         "  tarn record --from frames.bin -o recording.xml");
     command->callback([options, command, &context] {
         check_source(*command, *options);

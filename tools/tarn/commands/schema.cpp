@@ -225,7 +225,8 @@ void add_schema(CLI::App &app, Context &) {
     CLI::App *command = app.add_subcommand("schema", "Print the schema as lists, trees or tables");
     command
         ->add_option("type", options->name,
-                     "Record, enumeration, message, bundle, or the path of a member; default: everything")
+                     "Record, enumeration, message or bundle (its payload), or the path of a member; default: "
+                     "everything")
         ->type_name(words::type);
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--tree", options->tree, "Tree of members");
@@ -234,10 +235,10 @@ void add_schema(CLI::App &app, Context &) {
     form->add_flag("--html", options->html, "HTML page of the whole schema, with a drawing of its nesting");
     form->require_option(0, 1);
     command->footer(
-        "Offset and size locate a member within an instance in memory. Its slot is the\n"
-        "index of its byte in the state area, which follows the base size. Sizes on the\n"
-        "wire exclude per-field state; a + means that arrays and strings add to them. All\n"
-        "sizes are in bytes.\n\n"
+        "Offset and size locate a member in a record in memory, of which base size is the\n"
+        "size without per-field state. The slot is the index of the member's byte in the\n"
+        "state area, which follows. Sizes on the wire exclude per-field state; a + means\n"
+        "that arrays and strings add to them. All sizes are in bytes.\n\n"
         "Examples:\n"
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"

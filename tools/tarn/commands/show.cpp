@@ -65,7 +65,7 @@ void add_show(CLI::App &app, Context &) {
     CLI::App *command = app.add_subcommand("show", "Request a bundle from a process and print the answer");
     command->add_option("bundle", options->bundle, "The requested bundle")->type_name(words::bundle)->required();
     CLI::Option_group *endpoint = command->add_option_group("endpoint", "Where the answering process listens");
-    endpoint->add_option("--socket", options->endpoint.socket, "Socket file")->type_name(words::file);
+    endpoint->add_option("--socket", options->endpoint.socket, "Unix domain socket")->type_name(words::file);
     endpoint->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
     endpoint->require_option(1);
     CLI::Option_group *form = command->add_option_group("form", "Output format");
@@ -82,10 +82,12 @@ void add_show(CLI::App &app, Context &) {
     add_via(*command, options->via, "Where to register the handler of the bundle");
     add_verbose(*command, options->verbose);
     command->footer(
-        "The library looks for the handler of a bundle in the look-up table, the handle,\n"
-        "the module and the bundle, in this order; --via selects where the tool registers\n"
-        "its own. With \"--via linked\" it registers none, and the stub that is linked into\n"
-        "the library discards the bundle.\n\n"
+        "When a bundle is committed, the library calls the first handler that is\n"
+        "registered: in the look-up table of messages (lut), on the receiving handle\n"
+        "(handle), for the whole library (module), or for this bundle (bundle). --via\n"
+        "tests one of these registrations; the output is the same. With \"--via linked\",\n"
+        "none is registered, and the handler that is linked into the library discards the\n"
+        "bundle: exit code 1.\n\n"
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock\n"
         "  tarn show dp-tt-cfg --socket /tmp/tarn.sock --json | jq .messages[0].payload\n"

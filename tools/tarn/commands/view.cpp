@@ -43,18 +43,15 @@ void add_view(CLI::App &app, Context &) {
     auto options = std::make_shared<ViewOptions>();
     CLI::App *command =
         app.add_subcommand("view", "Create an HTML page that shows frames, or the difference of two files");
-    command->add_option("a", options->a, "Frames, XML or JSON; - is standard input")
-        ->type_name(words::file)
-        ->required();
-    command->add_option("b", options->b, "Second file; the page shows the difference")->type_name(words::file);
+    command->add_option("a", options->a, "Frames, XML or JSON")->type_name(words::file_a)->required();
+    command->add_option("b", options->b, "Second file; the page shows the difference")->type_name(words::file_b);
     add_output(*command, options->output, "Output file");
     command->add_flag("--tracked", options->tracked, "Convert XML and JSON to frames with per-field state");
     add_lenient(*command, options->lenient);
     command->footer(
         "The page is a single file and needs no network. Hovering over a member highlights\n"
-        "its bytes, and the reverse. Clicking keeps the highlight and puts a link to the\n"
-        "member into the address bar. Of a broken frame, the page shows what precedes the\n"
-        "error.\n\n"
+        "its bytes, and vice versa. Clicking keeps the highlight and puts a link to the\n"
+        "member into the address bar. If a frame is broken, the page stops at the error.\n\n"
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin\n"
         "  tarn view answer.bin -o answer.html\n"

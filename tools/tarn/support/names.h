@@ -22,10 +22,11 @@ std::vector<Named> type_names();  // records, enumerations, messages, bundles
 
 // The rule for short names is the same for all types and commands. The help and the manual page print it.
 inline constexpr char name_rule[] =
-    "Types have full names, such as lumo_tarn_dp_tt_cfg_rsp, and short names, such as\n"
-    "dp-tt-cfg: without the prefix lumo_tarn_, without the suffix _rsp or _msg, and\n"
-    "with hyphens for underscores. A short name that several types share means the\n"
-    "record, or the bundle if no record has it.";
+    "Types (records, enumerations, messages, bundles) have full names, such as\n"
+    "lumo_tarn_dp_tt_cfg_rsp, and short names, such as dp-tt-cfg: without the prefix\n"
+    "lumo_tarn_, without the suffix _rsp or _msg, and with hyphens for underscores. If\n"
+    "several types share a short name, a command takes the kind that it expects;\n"
+    "\"tarn schema\" prefers the record, then the bundle.";
 std::string short_name(std::string_view name);
 bool is_named(std::string_view given, std::string_view name);  // by its full or its short name
 
