@@ -82,7 +82,8 @@ void add_answer(CLI::App &app, Context &) {
         "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
     command->callback([options] {
         if (options->unread_total < options->unread) {
-            throw Failure(Exit::input, "--unread-total is less than --unread");
+            throw Failure(Exit::input,
+                          "--unread-total is less than --unread, " + std::to_string(options->unread) + " bytes");
         }
         set_up_trace(options->verbose);
         Answerer answerer(options->snapshot_limit);
