@@ -24,11 +24,11 @@
 #define LUMO_UI_TARN_END
 #endif
 
-/** @name Bits of an object's obj_flag; 16 belongs to the runtime
+/** @name Bits of an object's obj_flag; 16 is the modified mark, which only the runtime accesses
  *  @{ */
 #define MIRK_OBJ_OID_MAPPED 1    /**< other objects refer to it by its identifier */
-#define MIRK_OBJ_EMBEDDED 2      /**< lies in memory of another object */
-#define MIRK_OBJ_NESTED 4        /**< initialized as part of another object, which holds its state */
+#define MIRK_OBJ_EMBEDDED 2      /**< the caller states that it lies in memory of another object */
+#define MIRK_OBJ_NESTED 4        /**< a member of another object; its state is part of that object's state area */
 #define MIRK_OBJ_STATE_TRACKED 8 /**< has state bytes */
 #define MIRK_OBJ_RA_DATA 32      /**< the runtime keeps RA data for the object */
 #define MIRK_OBJ_STTR_OFFSET 64  /**< the runtime has the location of the state; otherwise it follows the object */
