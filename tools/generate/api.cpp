@@ -308,14 +308,13 @@ std::vector<Datum> all_data() {
             "Identity of " + c.name + " in hexadecimal digits.");
         add("const char", "message_" + c.name + "_name", "[64]", c.subject, "Name of " + c.name + ", for trace lines.");
     }
-    const auto add_trace_module = [&](const std::string &trace, const std::string &when) {
-        add("uint16_t", "g_mirk_lumo_ui_tarn_" + trace + "_trace_module_id", "", {},
-            "Trace module number of the module's " + trace + " code; " + when);
+    const auto add_trace_module = [&](const std::string &trace, const std::string &text) {
+        add("uint16_t", "g_mirk_lumo_ui_tarn_" + trace + "_trace_module_id", "", {}, "Trace module number " + text);
     };
-    add_trace_module("type", "0 until mirk_lumo_ui_tarn_type_trace_init() registers it.");
-    add_trace_module("message", "0 until mirk_lumo_ui_tarn_message_trace_init() registers it.");
-    add_trace_module("queue", "never registered, so always 0.");
-    add_trace_module("stub", "never registered, so always 0.");
+    add_trace_module("type", "of records and enumerations; 0 until mirk_lumo_ui_tarn_type_trace_init() registers it.");
+    add_trace_module("message", "of messages; 0 until mirk_lumo_ui_tarn_message_trace_init() registers it.");
+    add_trace_module("queue", "that is not used; always 0.");
+    add_trace_module("stub", "of default handlers; never registered, so always 0.");
     add("mirk_bundle_handler", "lumo_ui_tarn_bundle_registered_handler", "", {},
         "The handler that is registered for all bundles of the module, or NULL. Not synchronized.");
     for (const Bundle *b : bundles) {

@@ -117,6 +117,7 @@ The handle.
 Use it from one thread at a time.
 .It Fa ctx_id
 A number that is passed to the memory callbacks of the runtime unchanged.
+With the reference runtime any number will do, for example 1.
 .It Fa err
 The error slot: 0, or a number from
 .In errno.h .
@@ -128,8 +129,9 @@ After an error inside a bundle, clear it and marshal the abort: a commit called 
 .Pp
 A sticky form, with _cr at the end of its name, takes neither: it works under the handle's default_id, and its error slot is
 the handle's last_error.
+The destroy and is_valid operations named _cr act also while last_error is set.
 .Pp
-Every buffer for a frame, of a record or of a message, has one guard byte after the size that is passed.
+Allocate every buffer for a frame, of a record or of a message, one byte larger than the size you pass: the guard byte.
 )mdoc";
     using enum Applies;
     out += operations("Records", "Each RECORD has these.", record);

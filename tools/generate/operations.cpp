@@ -26,10 +26,10 @@ constexpr Row table[] = {
      "void {r}_initialize(H, I, {r} *object, mirk_type_info *type, uint32_t notify, uint32_t skip_count, uint8_t "
      "flags, void *sttr_base, E)",
      "Lifecycle<{R}>::initialize",
-     "Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is "
-     "normally _{r}_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage "
-     "counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in "
-     "another one. EINVAL if a nested instance on a tracking handle has none."},
+     "Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally "
+     "_{r}_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage counting. flags "
+     "are added to obj_flag. sttr_base is the address of the state area if the instance is nested in another one. "
+     "EINVAL if a nested instance on a tracking handle has none."},
     {record, "lifecycle", "Lifecycle", "uint32_t {r}_sizeof(H)", "Lifecycle<{R}>::sizeof_instance",
      "Returns the size of an instance in bytes: its members, everything nested in it and, on a tracking handle, its "
      "state area. Blocks of arrays and strings are not counted. The size differs between tracking modes."},
@@ -38,8 +38,8 @@ constexpr Row table[] = {
      "Returns the variant, limited to 0, the highest one that this library has."},
     {record, "lifecycle", "Lifecycle", "void {r}_set_instance_embedded(H, I, {r} *object)",
      "Lifecycle<{R}>::set_instance_embedded",
-     "Sets MIRK_OBJ_EMBEDDED, \"lies in memory of another object\", in the instance and in the records, IP addresses "
-     "and booleans nested in it."},
+     "Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller "
+     "thereby states that the instance lies in memory of another object."},
     {record, "lifecycle", "Lifecycle", "void {r}_adjust_variant(H, I, {r} *object, E)",
      "Lifecycle<{R}>::adjust_variant",
      "Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes."},
@@ -100,15 +100,16 @@ constexpr Row table[] = {
      "is already set."},
     {record, "wire_write", "Wire", "uint32_t {r}_len(H, I, {r} *instance)", "WireWrite<{R}>::len",
      "Returns the buffer size in bytes that {r}_marshal() needs, without the guard byte. On a tracking handle this is "
-     "too large by one byte for each character and for each empty array or string. RA data is not counted.",
+     "too large by one byte for each character and for each empty array or string. RA data is not counted: add 9 bytes "
+     "for each object that has it, including nested objects and elements.",
      zero},
     {record, "wire_write", "Wire", "uint32_t {r}_marshal(H, I, void *buffer, {r} *instance, int32_t remaining, E)",
      "WireWrite<{R}>::marshal",
-     "Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the "
-     "number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; "
-     "state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does "
-     "not have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the "
-     "domain's variant."},
+     "Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. "
+     "Returns the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is "
+     "too small; state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the "
+     "domain does not have the instance's variant. A lenient runtime then leaves err alone and the frame is written in "
+     "the domain's variant."},
     {record, "wire_write", "Wire",
      "uint32_t {r}_marshal_for_clone(H, I, void *buffer, {r} *instance, int32_t remaining, E)",
      "WireWrite<{R}>::marshal_for_clone",
@@ -117,24 +118,26 @@ constexpr Row table[] = {
     {record, "wire_read", "Wire",
      "uint32_t {r}_unmarshal(H, I, void *buffer, {r} *instance, uint32_t length, uint32_t reuse, E)",
      "WireRead<{R}>::unmarshal",
-     "Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the "
-     "number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it "
-     "has no meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and "
-     "strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an "
-     "untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is "
-     "NULL. Calls abort() if the handle tracks state and the instance has none."},
+     "Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns "
+     "the number of bytes consumed. It may exceed length without an error: check it before you advance. After an error "
+     "it has no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 "
+     "its arrays and strings are kept where the counts are equal; what the elements owned is leaked. The frame may "
+     "come from an untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if "
+     "instance is NULL. Calls abort() if the handle tracks state and the instance has none."},
     {record, "copy", "Deep copy", "void {r}_clone(H, I, {r} *source, {r} **result, void *buffer, uint32_t size, E)",
      "Copy<{R}>::clone",
-     "Makes a deep copy through a frame in buffer, which has size bytes, at least {r}_len(), and one guard byte after "
-     "them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or buffer is NULL; "
-     "other errors are those of {r}_marshal() and {r}_unmarshal()."},
+     "Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at "
+     "least {r}_len(), and 9 more for each object with RA data. *result is NULL after any error; otherwise the caller "
+     "owns it. ENOENT if source, result or buffer is NULL; other errors are those of {r}_marshal() and "
+     "{r}_unmarshal()."},
     {record, "copy", "Deep copy", "{r} *{r}_clone_cr(H, {r} *source)", "Copy<{R}>::clone_cr",
      "Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL "
      "after any error; otherwise the caller owns the copy. A larger record needs {r}_clone()."},
     {record, "copy", "Deep copy", "void {r}_copy_cr(H, {r} *source, {r} *destination)", "Copy<{R}>::copy_cr",
      "Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is "
      "not released. After an error do not use or destroy it: it has been freed if the copy could not be read, and "
-     "leaks if the copy could not be written. A NULL destination leaks the copy. {r}_clone_cr() has none of this."},
+     "leaks if the copy could not be written. A NULL destination leaks the copy. {r}_clone_cr() does not have these "
+     "problems."},
     {record, "text", "Text",
      "uint32_t {r}_print(H, I, char *buffer, uint32_t indent, const char *name, {r} *instance, int32_t remaining, E)",
      "Text<{R}>::print",
@@ -155,8 +158,8 @@ constexpr Row table[] = {
      "XmlRead<{R}>::from_xml",
      "Reads the element at a path of the runtime's document into the instance. Members without an element, and strings "
      "with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, "
-     "which ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. "
-     "Clear its first byte before the call."},
+     "which ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element "
+     "fails. Clear its first byte before the call."},
     {record, "compare", "Value", "int32_t {r}_compare(const {r} *a, const {r} *b)", "Compare<{R}>::compare",
      "Orders two instances by their members in table order; only the sign of the result has a meaning. NULL comes "
      "first. Header and state are ignored."},
@@ -239,34 +242,36 @@ constexpr Row table[] = {
     {array, "arrays", "", "uint8_t {r}_{f}_state_flag_get(H, I, {r} *object, uint32_t index, E)",
      "Array<{F}>::state_flag_get",
      "Returns the state byte of one element of {f}. ENOENT if the index is out of range, EINVAL if the handle's "
-     "tracking is off or the object has no state."},
+     "tracking mode is OFF or the object has no state bytes."},
     {array, "arrays", "", "void {r}_{f}_state_flag_set(H, I, {r} *object, uint32_t index, uint8_t value, E)",
      "Array<{F}>::state_flag_set",
      "Sets the state byte of one element of {f}. ENOENT if the index is out of range, EINVAL if the handle's tracking "
-     "is off or the object has no state."},
+     "mode is OFF or the object has no state bytes."},
     {array, "accessors", "", "uint8_t {r}_{f}_state_flag_whole_get(H, I, {r} *object, E)", "StateByte<{F}>::get",
-     "Returns the state byte of {f} as a whole. EINVAL if the handle's tracking is off or the object has no state."},
+     "Returns the state byte of {f} as a whole. EINVAL if the handle's tracking mode is OFF or the object has no state "
+     "bytes."},
     {array, "accessors", "", "void {r}_{f}_state_flag_whole_set(H, I, {r} *object, uint8_t value, E)",
      "StateByte<{F}>::set",
-     "Sets the state byte of {f} as a whole. EINVAL if the handle's tracking is off or the object has no state."},
+     "Sets the state byte of {f} as a whole. EINVAL if the handle's tracking mode is OFF or the object has no state "
+     "bytes."},
     {array, "arrays", "", "void {r}_{f}_state_flag_get_arr(H, I, {r} *object, uint8_t **out, E)",
      "Array<{F}>::state_flag_get_arr",
      "Writes the address of the element states of {f} through out: one byte for each element, NULL if there are none. "
-     "EINVAL if the handle's tracking is off or the object has no state."},
+     "EINVAL if the handle's tracking mode is OFF or the object has no state bytes."},
     {array, "arrays", "",
      "void {r}_{f}_state_flag_set_arr(H, I, {r} *object, const uint8_t *source, uint32_t length, E)",
      "Array<{F}>::state_flag_set_arr",
      "Copies length bytes, which must equal the count of {f}, to the start of the object's state area, over the states "
-     "of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking is "
-     "off or the object has no state."},
+     "of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking mode "
+     "is OFF or the object has no state bytes."},
 
     // ---- state of single members and strings
     {single | string, "accessors", "", "uint8_t {r}_{f}_state_flag_get(H, I, {r} *object, E)", "StateByte<{F}>::get",
-     "Returns the state byte of {f}. EINVAL if the handle's tracking is off or the object has no state."},
+     "Returns the state byte of {f}. EINVAL if the handle's tracking mode is OFF or the object has no state bytes."},
     {single | string, "accessors", "", "void {r}_{f}_state_flag_set(H, I, {r} *object, uint8_t value, E)",
      "StateByte<{F}>::set",
-     "Sets the state byte of {f}, notifies, and marks the object as modified. EINVAL if the handle's tracking is off "
-     "or the object has no state."},
+     "Sets the state byte of {f}, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is "
+     "OFF or the object has no state bytes."},
 
     // ---- enumerations
     {enumeration, "enumeration", "Lifecycle", "{e} *{e}_create(H, I)", "Enum<{E}>::create",
@@ -284,7 +289,8 @@ constexpr Row table[] = {
     {enumeration, "enumeration", "Lifecycle", "int8_t {e}_variant_data_index_cap(int8_t variant)",
      "Enum<{E}>::variant_data_index_cap", "Returns the variant, limited to 0, the highest one that this library has."},
     {enumeration, "enumeration", "Lifecycle", "void {e}_set_instance_embedded(H, I, {e} *instance)",
-     "Enum<{E}>::set_instance_embedded", "Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object."},
+     "Enum<{E}>::set_instance_embedded",
+     "Sets MIRK_OBJ_EMBEDDED in the object. The caller thereby states that it lies in memory of another object."},
     {enumeration, "enumeration", "Lifecycle", "void {e}_adjust_variant(H, I, {e} *instance, E)",
      "Enum<{E}>::adjust_variant",
      "Changes the object to the variant that the handle's domain has for its type. Notifies if the variant changes."},
@@ -292,8 +298,8 @@ constexpr Row table[] = {
      "Destroys the object and frees its memory. NULL and the sentinel are ignored.", as_is},
     {enumeration, "enumeration", "Lifecycle", "{e} *{e}_destroy_internal(H, I, {e} *instance, uint32_t free_it)",
      "Enum<{E}>::destroy_internal",
-     "Same as {e}_destroy(), but has no effect with free_it 0, because an embedded object owns nothing. Returns the "
-     "sentinel."},
+     "Same as {e}_destroy(), but has no effect with free_it 0, because an enumeration owns no other memory. Returns "
+     "the sentinel."},
     {enumeration, "enumeration", "References", "uint32_t {e}_get_oid_count(H, I, {e} *instance, E)",
      "Enum<{E}>::get_oid_count",
      "Returns the number of object identifiers in the object: 0. EINVAL if instance is NULL."},
@@ -358,8 +364,8 @@ constexpr Row table[] = {
      "message_size)",
      "Enum<{E}>::from_xml",
      "Reads the value from the enumerator's element below a path of the runtime's document. Without one, the value "
-     "stays. Only a failed look-up writes a sentence to message, which may be NULL. Clear its first byte before the "
-     "call."},
+     "stays. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear its "
+     "first byte before the call."},
 
     // ---- plain messages
     {message, "message", "Message objects", "{m} *{m}_message_create_shallow(H, I)",
@@ -386,31 +392,33 @@ constexpr Row table[] = {
     {message, "message", "Message objects", "uint32_t {m}_message_is_valid_cr(H)", "MessageObject<{M}>::is_valid_cr",
      "Returns nonzero if the handle's domain has this message."},
     {message, "message_wire", "Message frames", "uint32_t {m}_message_len(H, I, {m} *message)", "MessageWire<{M}>::len",
-     "Returns the buffer size in bytes that {m}_message_marshal() needs, without the guard byte.", zero, "_unsafe"},
+     "Returns the buffer size in bytes that {m}_message_marshal() needs, without the guard byte and without RA data, "
+     "as in {r}_len().",
+     zero, "_unsafe"},
     {message, "message_wire", "Message frames",
      "uint32_t {m}_message_marshal(H, I, void *buffer, {m} *message, uint32_t size, E)", "MessageWire<{M}>::marshal",
-     "Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard "
-     "byte after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain "
-     "does not have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer is too "
-     "small, ENOMEM also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM as in "
-     "{r}_marshal(). EINVAL if the message has no payload.",
+     "Writes the message as a frame of header, identity and payload into buffer, which must have size bytes and one "
+     "guard byte after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the "
+     "domain does not have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer "
+     "is too small, ENOMEM also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM "
+     "as in {r}_marshal(). EINVAL if the message has no payload.",
      size, "_unsafe"},
     {message, "message_wire", "Message frames",
      "uint32_t {m}_message_unmarshal(H, I, void *dispatch_ctx, {m} **out, void *buffer, uint32_t size, "
      "mirk_message_handler handler, E)",
      "MessageWire<{M}>::unmarshal",
-     "Reads a frame of size bytes from buffer, which has one guard byte after them, and records the message if the "
-     "recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_{m}_message_handler() if handler is NULL. "
-     "The receiver owns the message. out, which may be NULL, also gets its address. Returns the number of bytes "
-     "consumed. It may exceed size without an error: check it before you advance. After an error it has no meaning. "
-     "EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC, ENOMEM if allocation fails. "
-     "The message of a bad frame is leaked: see {m}_message_unmarshal_only()."},
+     "Reads a frame of size bytes from buffer, which must have one guard byte after them, and records the message if "
+     "the recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_{m}_message_handler() if handler is "
+     "NULL. The receiver owns the message. The address of the message is also stored in *out, unless out is NULL. "
+     "Returns the number of bytes consumed. It may exceed size without an error: check it before you advance. After an "
+     "error it has no meaning. EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC, "
+     "ENOMEM if allocation fails. The message of a bad frame is leaked: see {m}_message_unmarshal_only()."},
     {message, "message_wire", "Message frames",
      "uint32_t {m}_message_unmarshal_only(H, I, {m} **out, void *buffer, uint32_t size, E)",
      "MessageWire<{M}>::unmarshal_only",
-     "Reads a frame of size bytes from buffer, which has one guard byte after them, and returns the message through "
-     "out. The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no "
-     "message can be allocated. Result and errors as in {m}_message_unmarshal()."},
+     "Reads a frame of size bytes from buffer, which must have one guard byte after them, and returns the message "
+     "through out. The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays "
+     "unchanged if no message can be allocated. Result and errors as in {m}_message_unmarshal()."},
     {message, "message_rendering", "Message text and XML",
      "uint32_t {m}_message_print(H, I, char *buffer, {m} *message, uint32_t size, E)", "MessageRendering<{M}>::print",
      "Writes the message as readable text. Returns the length in bytes without the final NUL. The indent of closing "
@@ -425,10 +433,10 @@ constexpr Row table[] = {
     {message, "message_rendering", "Message text and XML",
      "{m} *{m}_message_from_xml(H, I, void *document, E, char *message_buffer, uint32_t message_size)",
      "MessageRendering<{M}>::from_xml",
-     "Creates a message from the first element with the payload's name in the runtime's document; without one, with a "
-     "new payload. The caller owns it. Returns NULL after an error; a message that was already allocated is leaked. "
-     "Only a failed look-up of an enumeration writes a sentence to message_buffer, which may be NULL. Clear its first "
-     "byte before the call.",
+     "Creates a message from the first element with the payload's name in the runtime's document. If there is none, "
+     "all members of the payload are zero, and err stays 0. The caller owns the message. Returns NULL after an error; "
+     "a message that was already allocated is leaked. message_buffer, which may be NULL, gets a sentence only if "
+     "reading an enumerator's element fails. Clear its first byte before the call.",
      none, "_unsafe"},
     {message, "handlers", "Handlers",
      "void lumo_ui_tarn_{m}_message_handler(H, I, void *dispatch_ctx, void *message, E)",
@@ -517,8 +525,8 @@ constexpr Row table[] = {
 
     // ---- the module
     {module, "module", "Types", "void lumo_ui_tarn_typeinfo_initialize(H, I, E)", "initialize_private_types",
-     "Creates the copies of type records that are missing in the handle's type store. Call it before the first use of "
-     "a handle with private types, which has copies of its own. ENOMEM if allocation fails. err is not read."},
+     "Creates the copies of type records that a handle with private_types set does not have yet. Programs need not "
+     "call it: the runtime does so when it needs a copy. ENOMEM if allocation fails. err is not read."},
     {module, "module", "Types", "void lumo_ui_tarn_type_variant_dump(mirk_print_fn print)", "dump_variants",
      "Prints the number of variants of each type and, for each variant, the length of an instance and of the padding "
      "after it (slop) in bytes."},
@@ -526,8 +534,8 @@ constexpr Row table[] = {
      "Registers the trace module of records and enumerations. Creating a record calls it. Repeated calls have no "
      "effect."},
     {module, "module", "Trace", "void mirk_lumo_ui_tarn_message_trace_init(void)", "initialize_message_trace",
-     "Registers the trace module of messages. Call it at least once: until then message traces go to module 0. "
-     "Repeated calls have no effect."},
+     "Registers the trace module of messages. Call it at least once: until then trace lines of messages have module "
+     "number 0. Repeated calls have no effect."},
     {module, "registration", "Registration",
      "mirk_bundle_handler lumo_ui_tarn_bundle_handler_register(mirk_bundle_handler handler)", "register_for_module",
      "Registers one handler for all bundles of this module and of the modules it depends on, and returns the previous "

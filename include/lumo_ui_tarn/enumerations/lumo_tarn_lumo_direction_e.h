@@ -40,7 +40,7 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_direction_e_initialize(mirk_handle *h, uint
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_direction_e_sizeof(void);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_lumo_direction_e_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED in the object: it lies in memory of another object. */
+/** Sets MIRK_OBJ_EMBEDDED in the object. The caller thereby states that it lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_direction_e_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_direction_e *instance);
 /** Changes the object to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -52,8 +52,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_direction_e_destroy(mirk_handle *h, uint32_
 /** Sticky form of lumo_tarn_lumo_direction_e_destroy(): works under the handle's default_id, also while last_error is
  * set. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_direction_e_destroy_cr(mirk_handle *h, lumo_tarn_lumo_direction_e *instance);
-/** Same as lumo_tarn_lumo_direction_e_destroy(), but has no effect with free_it 0, because an embedded object owns
- * nothing. Returns the sentinel. */
+/** Same as lumo_tarn_lumo_direction_e_destroy(), but has no effect with free_it 0, because an enumeration owns no other
+ * memory. Returns the sentinel. */
 LUMO_UI_TARN_API lumo_tarn_lumo_direction_e *lumo_tarn_lumo_direction_e_destroy_internal(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_lumo_direction_e *instance, uint32_t free_it);
 /** @} */
@@ -140,7 +140,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_direction_e_to_xml(mirk_handle *h, uint
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_direction_e_toxml_cr(mirk_handle *h, lumo_tarn_lumo_direction_e *instance,
     char *buffer, int32_t remaining);
 /** Reads the value from the enumerator's element below a path of the runtime's document. Without one, the value stays.
- * Only a failed look-up writes a sentence to message, which may be NULL. Clear its first byte before the call. */
+ * message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear its first byte
+ * before the call. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_direction_e_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path,
     void *document, lumo_tarn_lumo_direction_e *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */

@@ -63,7 +63,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_is_valid_cr(mirk_ha
 
 /** @name Message frames
  *  @{ */
-/** Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_msg_message_marshal() needs, without the guard byte. */
+/** Returns the buffer size in bytes that lumo_tarn_dp_mp_prefix_msg_message_marshal() needs, without the guard byte and
+ * without RA data, as in lumo_tarn_dp_mp_prefix_data_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_len(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_msg *message);
 /** Sticky form of lumo_tarn_dp_mp_prefix_msg_message_len(). Returns 0 while last_error is set. */
@@ -72,10 +73,10 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_len_cr(mirk_handle 
 /** Another name of lumo_tarn_dp_mp_prefix_msg_message_len(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_len_unsafe(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_msg *message);
-/** Writes the message as a frame of header, identity and payload into buffer, which has size bytes and one guard byte
- * after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain does not
- * have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer is too small, ENOMEM
- * also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM as in
+/** Writes the message as a frame of header, identity and payload into buffer, which must have size bytes and one guard
+ * byte after them. Returns the number of bytes written; after an error the frame is not valid. EBADE if the domain does
+ * not have the message, ENOENT if the open bundle does not admit it. EMSGSIZE or ENOMEM if the buffer is too small,
+ * ENOMEM also if allocation fails. State bytes that do not fit are dropped without an error. EIDRM as in
  * lumo_tarn_dp_mp_prefix_data_marshal(). EINVAL if the message has no payload. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_mp_prefix_msg *message, uint32_t size, uint32_t *err);
@@ -85,18 +86,19 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_marshal_cr(mirk_han
 /** Another name of lumo_tarn_dp_mp_prefix_msg_message_marshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_marshal_unsafe(mirk_handle *h, uint32_t ctx_id,
     void *buffer, lumo_tarn_dp_mp_prefix_msg *message, uint32_t size, uint32_t *err);
-/** Reads a frame of size bytes from buffer, which has one guard byte after them, and records the message if the
+/** Reads a frame of size bytes from buffer, which must have one guard byte after them, and records the message if the
  * recorder is on. Then delivers it to the handler, or to lumo_ui_tarn_lumo_tarn_dp_mp_prefix_msg_message_handler() if
- * handler is NULL. The receiver owns the message. out, which may be NULL, also gets its address. Returns the number of
- * bytes consumed. It may exceed size without an error: check it before you advance. After an error it has no meaning.
- * EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC, ENOMEM if allocation fails. The
- * message of a bad frame is leaked: see lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only(). */
+ * handler is NULL. The receiver owns the message. The address of the message is also stored in *out, unless out is
+ * NULL. Returns the number of bytes consumed. It may exceed size without an error: check it before you advance. After
+ * an error it has no meaning. EMSGSIZE or ENOMEM if the frame is too short, EBADMSG if its first byte is not 0xBC,
+ * ENOMEM if allocation fails. The message of a bad frame is leaked: see
+ * lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_unmarshal(mirk_handle *h, uint32_t ctx_id,
     void *dispatch_ctx, lumo_tarn_dp_mp_prefix_msg **out, void *buffer, uint32_t size, mirk_message_handler handler,
     uint32_t *err);
-/** Reads a frame of size bytes from buffer, which has one guard byte after them, and returns the message through out.
- * The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no message
- * can be allocated. Result and errors as in lumo_tarn_dp_mp_prefix_msg_message_unmarshal(). */
+/** Reads a frame of size bytes from buffer, which must have one guard byte after them, and returns the message through
+ * out. The caller destroys it, also after a bad frame. Set *out to NULL before the call: it stays unchanged if no
+ * message can be allocated. Result and errors as in lumo_tarn_dp_mp_prefix_msg_message_unmarshal(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_unmarshal_only(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_prefix_msg **out, void *buffer, uint32_t size, uint32_t *err);
 /** @} */
@@ -124,10 +126,10 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_toxml_cr(mirk_handl
 /** Another name of lumo_tarn_dp_mp_prefix_msg_message_to_xml(). */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_prefix_msg_message_to_xml_unsafe(mirk_handle *h, uint32_t ctx_id,
     char *buffer, lumo_tarn_dp_mp_prefix_msg *message, uint32_t size, uint32_t *err);
-/** Creates a message from the first element with the payload's name in the runtime's document; without one, with a new
- * payload. The caller owns it. Returns NULL after an error; a message that was already allocated is leaked. Only a
- * failed look-up of an enumeration writes a sentence to message_buffer, which may be NULL. Clear its first byte before
- * the call. */
+/** Creates a message from the first element with the payload's name in the runtime's document. If there is none, all
+ * members of the payload are zero, and err stays 0. The caller owns the message. Returns NULL after an error; a message
+ * that was already allocated is leaked. message_buffer, which may be NULL, gets a sentence only if reading an
+ * enumerator's element fails. Clear its first byte before the call. */
 LUMO_UI_TARN_API lumo_tarn_dp_mp_prefix_msg *lumo_tarn_dp_mp_prefix_msg_message_from_xml(mirk_handle *h,
     uint32_t ctx_id, void *document, uint32_t *err, char *message_buffer, uint32_t message_size);
 /** Another name of lumo_tarn_dp_mp_prefix_msg_message_from_xml(). */

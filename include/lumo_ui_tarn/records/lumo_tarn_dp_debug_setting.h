@@ -40,7 +40,7 @@ LUMO_UI_TARN_API lumo_tarn_dp_debug_setting *lumo_tarn_dp_debug_setting_create_c
  * create many instances. */
 LUMO_UI_TARN_API lumo_tarn_dp_debug_setting *lumo_tarn_dp_debug_setting_create_internal(mirk_handle *h,
     uint32_t ctx_id);
-/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally
  * _lumo_tarn_dp_debug_setting_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses
  * usage counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
  * another one. EINVAL if a nested instance on a tracking handle has none. */
@@ -52,8 +52,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_initialize(mirk_handle *h, uint
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_debug_setting_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
- * booleans nested in it. */
+/** Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller
+ * thereby states that the instance lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object);
 /** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -136,37 +136,38 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_offset_remove(mirk_handle *h, u
  *  @{ */
 /** Returns the buffer size in bytes that lumo_tarn_dp_debug_setting_marshal() needs, without the guard byte. On a
  * tracking handle this is too large by one byte for each character and for each empty array or string. RA data is not
- * counted. */
+ * counted: add 9 bytes for each object that has it, including nested objects and elements. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_len(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *instance);
 /** Sticky form of lumo_tarn_dp_debug_setting_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_len_cr(mirk_handle *h, lumo_tarn_dp_debug_setting *instance);
-/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
- * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
- * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
+/** Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. Returns
+ * the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small;
+ * state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not
+ * have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's
+ * variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_debug_setting *instance, int32_t remaining, uint32_t *err);
 /** Same as lumo_tarn_dp_debug_setting_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_debug_setting *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
- * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
- * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
- * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
- * if the handle tracks state and the instance has none. */
+/** Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns the
+ * number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has
+ * no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 its arrays
+ * and strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Calls abort() if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_debug_setting *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_debug_setting_len(), and
- * one guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
- * buffer is NULL; other errors are those of lumo_tarn_dp_debug_setting_marshal() and
- * lumo_tarn_dp_debug_setting_unmarshal(). */
+/** Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at
+ * least lumo_tarn_dp_debug_setting_len(), and 9 more for each object with RA data. *result is NULL after any error;
+ * otherwise the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
+ * lumo_tarn_dp_debug_setting_marshal() and lumo_tarn_dp_debug_setting_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_clone(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *source, lumo_tarn_dp_debug_setting **result, void *buffer, uint32_t size,
     uint32_t *err);
@@ -176,8 +177,8 @@ LUMO_UI_TARN_API lumo_tarn_dp_debug_setting *lumo_tarn_dp_debug_setting_clone_cr
     lumo_tarn_dp_debug_setting *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
  * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
- * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_debug_setting_clone_cr() has none of
- * this. */
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_debug_setting_clone_cr() does not have
+ * these problems. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_copy_cr(mirk_handle *h, lumo_tarn_dp_debug_setting *source,
     lumo_tarn_dp_debug_setting *destination);
 /** @} */
@@ -206,8 +207,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_debug_setting_toxml_cr(mirk_handle *h, lu
     char *buffer, int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
  * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
- * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
- * first byte before the call. */
+ * ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear
+ * its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path,
     void *document, lumo_tarn_dp_debug_setting *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -248,11 +249,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_set(mirk_handle *h, ui
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of lumo_num. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_lumo_num_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_lumo_num_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -277,11 +278,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_set(mirk_handl
  * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of mp_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of mp_cache_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_mp_cache_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of mp_cache_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_mp_cache_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -306,11 +308,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_set(mirk_handl
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of tt_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tt_cache_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_tt_cache_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of tt_cache_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_tt_cache_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -335,11 +338,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_set(mirk_han
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of flow_cache_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of flow_cache_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_flow_cache_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of flow_cache_enabled, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_flow_cache_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -364,11 +368,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_set(mirk_handle *h
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of ager_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ager_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_ager_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Sets the state byte of ager_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of ager_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_ager_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -393,11 +398,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_set(mirk_handl
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of exporter_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of exporter_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_exporter_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of exporter_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -422,11 +428,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_set(mirk_handle *
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of proxy_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of proxy_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_proxy_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
-/** Sets the state byte of proxy_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of proxy_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_proxy_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -451,11 +458,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_set(mirk_ha
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of exporter_tt_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of exporter_tt_enabled. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_exporter_tt_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of exporter_tt_enabled, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_tt_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -480,11 +488,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_mp_enabled_set(mirk_ha
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_mp_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of exporter_mp_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of exporter_mp_enabled. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_debug_setting_exporter_mp_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint32_t *err);
 /** Sets the state byte of exporter_mp_enabled, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_debug_setting_exporter_mp_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_debug_setting *object, uint8_t value, uint32_t *err);
 /** @} */

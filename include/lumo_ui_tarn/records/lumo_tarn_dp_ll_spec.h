@@ -57,7 +57,7 @@ LUMO_UI_TARN_API lumo_tarn_dp_ll_spec *lumo_tarn_dp_ll_spec_create_cr(mirk_handl
 /** Same as lumo_tarn_dp_ll_spec_create(), but does not register the trace module of types. For callers that create many
  * instances. */
 LUMO_UI_TARN_API lumo_tarn_dp_ll_spec *lumo_tarn_dp_ll_spec_create_internal(mirk_handle *h, uint32_t ctx_id);
-/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally
  * _lumo_tarn_dp_ll_spec_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
  * another one. EINVAL if a nested instance on a tracking handle has none. */
@@ -68,8 +68,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_initialize(mirk_handle *h, uint32_t c
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_ll_spec_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
- * booleans nested in it. */
+/** Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller
+ * thereby states that the instance lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object);
 /** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -152,36 +152,38 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_offset_remove(mirk_handle *h, uint32_
 /** @name Wire
  *  @{ */
 /** Returns the buffer size in bytes that lumo_tarn_dp_ll_spec_marshal() needs, without the guard byte. On a tracking
- * handle this is too large by one byte for each character and for each empty array or string. RA data is not
- * counted. */
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not counted:
+ * add 9 bytes for each object that has it, including nested objects and elements. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *instance);
 /** Sticky form of lumo_tarn_dp_ll_spec_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_len_cr(mirk_handle *h, lumo_tarn_dp_ll_spec *instance);
-/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
- * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
- * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
+/** Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. Returns
+ * the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small;
+ * state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not
+ * have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's
+ * variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_ll_spec *instance, int32_t remaining, uint32_t *err);
 /** Same as lumo_tarn_dp_ll_spec_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_ll_spec *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
- * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
- * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
- * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
- * if the handle tracks state and the instance has none. */
+/** Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns the
+ * number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has
+ * no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 its arrays
+ * and strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Calls abort() if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_ll_spec *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_ll_spec_len(), and one
- * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
- * buffer is NULL; other errors are those of lumo_tarn_dp_ll_spec_marshal() and lumo_tarn_dp_ll_spec_unmarshal(). */
+/** Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at
+ * least lumo_tarn_dp_ll_spec_len(), and 9 more for each object with RA data. *result is NULL after any error; otherwise
+ * the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
+ * lumo_tarn_dp_ll_spec_marshal() and lumo_tarn_dp_ll_spec_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *source,
     lumo_tarn_dp_ll_spec **result, void *buffer, uint32_t size, uint32_t *err);
 /** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
@@ -189,7 +191,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_clone(mirk_handle *h, uint32_t ctx_id
 LUMO_UI_TARN_API lumo_tarn_dp_ll_spec *lumo_tarn_dp_ll_spec_clone_cr(mirk_handle *h, lumo_tarn_dp_ll_spec *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
  * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
- * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_ll_spec_clone_cr() has none of this. */
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_ll_spec_clone_cr() does not have these
+ * problems. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_copy_cr(mirk_handle *h, lumo_tarn_dp_ll_spec *source,
     lumo_tarn_dp_ll_spec *destination);
 /** @} */
@@ -218,8 +221,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_ll_spec_toxml_cr(mirk_handle *h, lumo_tar
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
  * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
- * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
- * first byte before the call. */
+ * ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear
+ * its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_dp_ll_spec *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -259,11 +262,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_set(mirk_handle *h, uint3
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_all. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_all_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_all_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -288,11 +292,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_set(mirk_handle *h, uint32
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_tc. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_tc. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_tc_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of display_tc, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_tc, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_tc_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -317,11 +322,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_set(mirk_handle *h, uint
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_appl. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_appl. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_display_appl_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of display_appl, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_appl, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_display_appl_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -337,11 +343,12 @@ LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_dp_ll_spec_exmem_info_get(mirk_
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_exmem_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     lumo_tarn_exmem_info *source, uint32_t *err);
-/** Returns the state byte of exmem_info. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of exmem_info. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_exmem_info_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of exmem_info, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of exmem_info, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_exmem_info_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -366,11 +373,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_set(mirk_handle *h, uint32_t ctx_i
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     uint32_t value, uint32_t *err);
-/** Returns the state byte of id. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of id. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_id_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of id, notifies, and marks the object as modified. EINVAL if the handle's tracking is off or the
- * object has no state. */
+/** Sets the state byte of id, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is OFF
+ * or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_id_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -395,11 +402,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_set(mirk_handle *h, uint32_t
  * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of min_mask. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of min_mask. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_min_mask_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of min_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of min_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -424,11 +431,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set(mirk_handle *h, uint32_t
  * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of agg_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of agg_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_agg_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of agg_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of agg_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -452,11 +459,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set(mirk_handle *h, uint32
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of learn_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of learn_type. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_learn_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of learn_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of learn_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -480,11 +488,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set(mirk_handle *h, uint32_t 
  * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of ll_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ll_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_ll_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of ll_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of ll_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -509,11 +517,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_set(mirk_handle *h, uint
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of num_prefixes. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of num_prefixes. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_num_prefixes_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of num_prefixes, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of num_prefixes, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_prefixes_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -538,11 +547,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_set(mirk_handle *h
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_filter_tc_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of filter_tc_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -558,11 +568,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_ll_spec_filter_tc_list_get(m
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
-/** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_filter_tc_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of filter_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_filter_tc_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -587,11 +598,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_set(mirk_handle *h, u
  * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of acl_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of acl_tc_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_acl_tc_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of acl_tc_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -607,11 +619,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_ll_spec_acl_tc_list_get(mirk
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
-/** Returns the state byte of acl_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of acl_tc_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_acl_tc_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of acl_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of acl_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_acl_tc_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -636,11 +649,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_set(mirk_handle *h, uin
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of appl_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of appl_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_appl_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of appl_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of appl_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -656,11 +670,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_appl_list *lumo_tarn_dp_ll_spec_appl_list_get(mirk
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     lumo_tarn_dp_appl_list *source, uint32_t *err);
-/** Returns the state byte of appl_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of appl_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_appl_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of appl_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of appl_list, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_appl_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -685,11 +700,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_set(mirk_handle *h, uint32_t
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of next_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of next_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_next_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of next_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of next_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_next_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -714,11 +729,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_set(mirk_handle *h, uint32_t
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of head_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_head_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of head_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of head_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_head_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -743,11 +758,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_set(mirk_handle *h, uint3
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of num_entries. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of num_entries. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_num_entries_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of num_entries, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of num_entries, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_num_entries_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -772,11 +788,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_set(mirk_handle *h,
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of heap_max_elements. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of heap_max_elements. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_heap_max_elements_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of heap_max_elements, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_max_elements_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -801,11 +818,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_set(mirk_handle *h, uint32_
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of heap_size. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of heap_size. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_heap_size_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of heap_size, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of heap_size, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_size_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -830,11 +848,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_set(mirk_handle *h,
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of heap_compare_func. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of heap_compare_func. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_heap_compare_func_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of heap_compare_func, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_compare_func_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -859,11 +878,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_set(mirk_handle *h,
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of heap_elements_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of heap_elements_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_heap_elements_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
 /** Sets the state byte of heap_elements_ptr, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_heap_elements_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -888,11 +908,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_show_ll_comm_set(mirk_handle *h, uint
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_show_ll_comm_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_ll_comm. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_ll_comm. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_show_ll_comm_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Sets the state byte of show_ll_comm, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of show_ll_comm, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_show_ll_comm_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */

@@ -36,7 +36,7 @@ LUMO_UI_TARN_API lumo_tarn_dp_mp_tc_prefix_lumo_data *lumo_tarn_dp_mp_tc_prefix_
 /** Same as lumo_tarn_dp_mp_tc_prefix_lumo_data_create(), but does not register the trace module of types. For callers
  * that create many instances. */
 LUMO_UI_TARN_API lumo_tarn_dp_mp_tc_prefix_lumo_data *lumo_tarn_dp_mp_tc_prefix_lumo_data_create_internal(mirk_handle *h, uint32_t ctx_id);
-/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally
  * _lumo_tarn_dp_mp_tc_prefix_lumo_data_type_info_internal. notify 0 suppresses write notifications, skip_count 1
  * suppresses usage counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is
  * nested in another one. EINVAL if a nested instance on a tracking handle has none. */
@@ -48,8 +48,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_initialize(mirk_handle
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_mp_tc_prefix_lumo_data_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
- * booleans nested in it. */
+/** Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller
+ * thereby states that the instance lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object);
 /** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -130,16 +130,17 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_offset_remove(mirk_han
  *  @{ */
 /** Returns the buffer size in bytes that lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal() needs, without the guard byte.
  * On a tracking handle this is too large by one byte for each character and for each empty array or string. RA data is
- * not counted. */
+ * not counted: add 9 bytes for each object that has it, including nested objects and elements. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_len(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance);
 /** Sticky form of lumo_tarn_dp_mp_tc_prefix_lumo_data_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_len_cr(mirk_handle *h,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance);
-/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
- * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
- * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
+/** Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. Returns
+ * the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small;
+ * state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not
+ * have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's
+ * variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, int32_t remaining, uint32_t *err);
 /** Same as lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal(), but the outermost frame keeps the instance's own variant,
@@ -147,21 +148,21 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal(mirk_handl
  * copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal_for_clone(mirk_handle *h, uint32_t ctx_id,
     void *buffer, lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
- * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
- * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
- * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
- * if the handle tracks state and the instance has none. */
+/** Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns the
+ * number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has
+ * no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 its arrays
+ * and strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Calls abort() if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy through a frame in buffer, which has size bytes, at least
- * lumo_tarn_dp_mp_tc_prefix_lumo_data_len(), and one guard byte after them. *result is NULL after any error; otherwise
- * the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
+/** Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at
+ * least lumo_tarn_dp_mp_tc_prefix_lumo_data_len(), and 9 more for each object with RA data. *result is NULL after any
+ * error; otherwise the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
  * lumo_tarn_dp_mp_tc_prefix_lumo_data_marshal() and lumo_tarn_dp_mp_tc_prefix_lumo_data_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_clone(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *source, lumo_tarn_dp_mp_tc_prefix_lumo_data **result, void *buffer,
@@ -173,8 +174,8 @@ LUMO_UI_TARN_API lumo_tarn_dp_mp_tc_prefix_lumo_data *lumo_tarn_dp_mp_tc_prefix_
     lumo_tarn_dp_mp_tc_prefix_lumo_data *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
  * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
- * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_mp_tc_prefix_lumo_data_clone_cr() has none
- * of this. */
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_mp_tc_prefix_lumo_data_clone_cr() does not
+ * have these problems. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_copy_cr(mirk_handle *h,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *source, lumo_tarn_dp_mp_tc_prefix_lumo_data *destination);
 /** @} */
@@ -205,8 +206,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_toxml_cr(mirk_hand
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, char *buffer, int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
  * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
- * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
- * first byte before the call. */
+ * ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear
+ * its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path,
     void *document, lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -239,11 +240,11 @@ LUMO_UI_TARN_API ip_address *lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get(mirk
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, ip_address *source, uint32_t *err);
-/** Returns the state byte of prefix. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of prefix. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t *err);
-/** Sets the state byte of prefix, notifies, and marks the object as modified. EINVAL if the handle's tracking is off or
- * the object has no state. */
+/** Sets the state byte of prefix, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -278,27 +279,28 @@ LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_set(mirk_han
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_set_cr(mirk_handle *h,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t index, lumo_tarn_dp_mp_tc_prefix *value, uint32_t copy_mode);
 /** Returns the state byte of one element of lumo_data. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t index, uint32_t *err);
 /** Sets the state byte of one element of lumo_data. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t index, uint8_t value, uint32_t *err);
-/** Returns the state byte of lumo_data as a whole. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of lumo_data as a whole. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_whole_get(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t *err);
-/** Sets the state byte of lumo_data as a whole. EINVAL if the handle's tracking is off or the object has no state. */
+/** Sets the state byte of lumo_data as a whole. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_whole_set(mirk_handle *h,
     uint32_t ctx_id, lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint8_t value, uint32_t *err);
 /** Writes the address of the element states of lumo_data through out: one byte for each element, NULL if there are
- * none. EINVAL if the handle's tracking is off or the object has no state. */
+ * none. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_get_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint8_t **out, uint32_t *err);
 /** Copies length bytes, which must equal the count of lumo_data, to the start of the object's state area, over the
- * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking is
- * off or the object has no state. */
+ * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_lumo_data_state_flag_set_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, const uint8_t *source, uint32_t length, uint32_t *err);
 /** @} */

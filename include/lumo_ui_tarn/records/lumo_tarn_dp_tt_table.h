@@ -64,7 +64,7 @@ LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_create_cr(mirk_han
 /** Same as lumo_tarn_dp_tt_table_create(), but does not register the trace module of types. For callers that create
  * many instances. */
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_create_internal(mirk_handle *h, uint32_t ctx_id);
-/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally
  * _lumo_tarn_dp_tt_table_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
  * another one. EINVAL if a nested instance on a tracking handle has none. */
@@ -75,8 +75,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_initialize(mirk_handle *h, uint32_t 
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_dp_tt_table_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
- * booleans nested in it. */
+/** Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller
+ * thereby states that the instance lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object);
 /** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -164,36 +164,38 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_offset_remove(mirk_handle *h, uint32
 /** @name Wire
  *  @{ */
 /** Returns the buffer size in bytes that lumo_tarn_dp_tt_table_marshal() needs, without the guard byte. On a tracking
- * handle this is too large by one byte for each character and for each empty array or string. RA data is not
- * counted. */
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not counted:
+ * add 9 bytes for each object that has it, including nested objects and elements. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *instance);
 /** Sticky form of lumo_tarn_dp_tt_table_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_len_cr(mirk_handle *h, lumo_tarn_dp_tt_table *instance);
-/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
- * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
- * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
+/** Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. Returns
+ * the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small;
+ * state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not
+ * have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's
+ * variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, int32_t remaining, uint32_t *err);
 /** Same as lumo_tarn_dp_tt_table_marshal(), but the outermost frame keeps the instance's own variant, whatever the
  * domain has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
- * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
- * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
- * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
- * if the handle tracks state and the instance has none. */
+/** Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns the
+ * number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has
+ * no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 its arrays
+ * and strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Calls abort() if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_dp_tt_table *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_dp_tt_table_len(), and one
- * guard byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or
- * buffer is NULL; other errors are those of lumo_tarn_dp_tt_table_marshal() and lumo_tarn_dp_tt_table_unmarshal(). */
+/** Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at
+ * least lumo_tarn_dp_tt_table_len(), and 9 more for each object with RA data. *result is NULL after any error;
+ * otherwise the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
+ * lumo_tarn_dp_tt_table_marshal() and lumo_tarn_dp_tt_table_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *source,
     lumo_tarn_dp_tt_table **result, void *buffer, uint32_t size, uint32_t *err);
 /** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
@@ -201,7 +203,8 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_clone(mirk_handle *h, uint32_t ctx_i
 LUMO_UI_TARN_API lumo_tarn_dp_tt_table *lumo_tarn_dp_tt_table_clone_cr(mirk_handle *h, lumo_tarn_dp_tt_table *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
  * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
- * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_tt_table_clone_cr() has none of this. */
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_dp_tt_table_clone_cr() does not have these
+ * problems. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_copy_cr(mirk_handle *h, lumo_tarn_dp_tt_table *source,
     lumo_tarn_dp_tt_table *destination);
 /** @} */
@@ -230,8 +233,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_toxml_cr(mirk_handle *h, lumo_ta
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
  * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
- * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
- * first byte before the call. */
+ * ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear
+ * its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_dp_tt_table *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -271,11 +274,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set(mirk_handle *h, uint
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_header. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_header. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_header_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of show_header, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of show_header, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_header_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -300,11 +304,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set(mirk_handle *h, ui
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_agg_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_agg_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_agg_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of show_agg_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of show_agg_list, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_agg_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -329,11 +334,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set(mirk_handle *h,
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_filter_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_filter_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_filter_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of show_filter_list, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_filter_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -358,11 +364,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set(mirk_handle *h, u
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_ll_header. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_ll_header. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_header_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of show_ll_header, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_header_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -387,11 +394,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set(mirk_handle *h, uin
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of show_ll_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of show_ll_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_show_ll_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of show_ll_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of show_ll_list, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_show_ll_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -416,11 +424,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set(mirk_handle *h, uint
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_all. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_all_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_all_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -445,11 +454,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set(mirk_handle *h, uint3
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_tc. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_tc. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_tc_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of display_tc, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_tc, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_tc_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -474,11 +484,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set(mirk_handle *h, uint3
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_ll. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_ll. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_display_ll_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of display_ll, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_ll, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_display_ll_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -494,11 +505,11 @@ LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_dp_tt_table_fdb_info_get(mirk
  * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_fdb_info_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     lumo_tarn_fdb_mem_info *source, uint32_t *err);
-/** Returns the state byte of fdb_info. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of fdb_info. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_fdb_info_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of fdb_info, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of fdb_info, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_fdb_info_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -523,11 +534,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_set(mirk_handle *h, uint32_
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of lumo_num. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_lumo_num_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -551,11 +562,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set(mirk_handle *h, uint32_t c
  * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of state. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of state. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_state_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of state, notifies, and marks the object as modified. EINVAL if the handle's tracking is off or
- * the object has no state. */
+/** Sets the state byte of state, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -580,11 +591,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set(mirk_handle *h, uint3
  * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of learn_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of learn_type. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of learn_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of learn_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -609,11 +621,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set(mirk_handle *h, uint32_
  * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of agg_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of agg_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of agg_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of agg_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -637,11 +649,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set(mirk_handle *h, uint32_
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of min_mask. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of min_mask. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_min_mask_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of min_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of min_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -666,11 +678,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_set(mirk_handle *h, uin
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of tt_bit_flags. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tt_bit_flags. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of tt_bit_flags, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of tt_bit_flags, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -694,11 +707,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set(mirk_handle *h, uint3
  * one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of aging_type. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of aging_type. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_aging_type_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of aging_type, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of aging_type, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -723,11 +737,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_set(mirk_handle *h, uin
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of num_prefixes. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of num_prefixes. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_num_prefixes_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of num_prefixes, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of num_prefixes, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -751,11 +766,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set(mirk_handle *h, uint32_
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of duration. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of duration. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_duration_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of duration, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of duration, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -779,11 +794,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set(mirk_handle *h, uint3
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of start_time. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of start_time. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_start_time_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of start_time, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of start_time, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -807,11 +823,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set(mirk_handle *h, uint32_
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of end_time. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of end_time. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_end_time_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of end_time, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of end_time, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -836,11 +852,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set(mirk_handle *h, 
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of agg_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of agg_tc_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of agg_tc_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -856,11 +873,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_agg_tc_list_get(mir
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
-/** Returns the state byte of agg_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of agg_tc_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_tc_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of agg_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of agg_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_tc_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -885,11 +903,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set(mirk_handle *
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of filter_tc_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of filter_tc_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -905,11 +924,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_tc_list *lumo_tarn_dp_tt_table_filter_tc_list_get(
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_tc_list *source, uint32_t *err);
-/** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of filter_tc_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_filter_tc_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of filter_tc_list, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_filter_tc_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -934,11 +954,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set(mirk_handle *h, u
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of learn_list_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of learn_list_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of learn_list_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -954,11 +975,12 @@ LUMO_UI_TARN_API lumo_tarn_dp_learn_list *lumo_tarn_dp_tt_table_learn_list_get(m
  * without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_learn_list *source, uint32_t *err);
-/** Returns the state byte of learn_list. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of learn_list. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_list_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of learn_list, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of learn_list, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -983,11 +1005,11 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_set(mirk_handle *h, uint32_
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of key_mask. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of key_mask. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_key_mask_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of key_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of key_mask, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_key_mask_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1012,11 +1034,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_set(mirk_handle *h,
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of thruput_head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of thruput_head_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of thruput_head_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_head_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1041,11 +1064,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_set(mirk_handle *h, 
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of thruput_entries. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of thruput_entries. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_thruput_entries_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of thruput_entries, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_thruput_entries_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1070,11 +1094,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_set(mirk_handle *h, u
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of delay_head_ptr. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of delay_head_ptr. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
 /** Sets the state byte of delay_head_ptr, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_head_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1099,11 +1124,12 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_entries_set(mirk_handle *h, ui
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_entries_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of delay_entries. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of delay_entries. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_delay_entries_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Sets the state byte of delay_entries, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of delay_entries, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_delay_entries_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */

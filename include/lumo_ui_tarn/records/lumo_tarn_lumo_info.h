@@ -93,7 +93,7 @@ LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_create_cr(mirk_handle 
 /** Same as lumo_tarn_lumo_info_create(), but does not register the trace module of types. For callers that create many
  * instances. */
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_create_internal(mirk_handle *h, uint32_t ctx_id);
-/** Initializes an instance in zeroed memory of the caller: header, usage counters, embedded members. type is normally
+/** Initializes an instance in zeroed memory of the caller: header, usage counters, nested objects. type is normally
  * _lumo_tarn_lumo_info_type_info_internal. notify 0 suppresses write notifications, skip_count 1 suppresses usage
  * counting. flags are added to obj_flag. sttr_base is the address of the state area if the instance is nested in
  * another one. EINVAL if a nested instance on a tracking handle has none. */
@@ -104,8 +104,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_initialize(mirk_handle *h, uint32_t ct
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_sizeof(mirk_handle *h);
 /** Returns the variant, limited to 0, the highest one that this library has. */
 LUMO_UI_TARN_API int8_t lumo_tarn_lumo_info_variant_data_index_cap(int8_t variant);
-/** Sets MIRK_OBJ_EMBEDDED, "lies in memory of another object", in the instance and in the records, IP addresses and
- * booleans nested in it. */
+/** Sets MIRK_OBJ_EMBEDDED in the instance and in the records, IP addresses and booleans nested in it. The caller
+ * thereby states that the instance lies in memory of another object. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_set_instance_embedded(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object);
 /** Changes the instance to the variant that the handle's domain has for its type. Notifies if the variant changes. */
@@ -204,36 +204,38 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_offset_remove(mirk_handle *h, uint32_t
 /** @name Wire
  *  @{ */
 /** Returns the buffer size in bytes that lumo_tarn_lumo_info_marshal() needs, without the guard byte. On a tracking
- * handle this is too large by one byte for each character and for each empty array or string. RA data is not
- * counted. */
+ * handle this is too large by one byte for each character and for each empty array or string. RA data is not counted:
+ * add 9 bytes for each object that has it, including nested objects and elements. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_len(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *instance);
 /** Sticky form of lumo_tarn_lumo_info_len(). Returns 0 while last_error is set. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_len_cr(mirk_handle *h, lumo_tarn_lumo_info *instance);
-/** Writes the instance as a frame into buffer, which has remaining bytes and one guard byte after them. Returns the
- * number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small; state
- * bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not have the
- * instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's variant. */
+/** Writes the instance as a frame into buffer, which must have remaining bytes and one guard byte after them. Returns
+ * the number of bytes written; after an error the frame is not valid. EMSGSIZE or ENOMEM if the buffer is too small;
+ * state bytes that do not fit are dropped without an error. EINVAL if instance is NULL. EIDRM if the domain does not
+ * have the instance's variant. A lenient runtime then leaves err alone and the frame is written in the domain's
+ * variant. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, int32_t remaining, uint32_t *err);
 /** Same as lumo_tarn_lumo_info_marshal(), but the outermost frame keeps the instance's own variant, whatever the domain
  * has. Nested records are still limited to the domain's variants. This is the frame of a deep copy. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_marshal_for_clone(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, int32_t remaining, uint32_t *err);
-/** Reads a frame of length bytes from buffer, which has one guard byte after them, into an instance. Returns the number
- * of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has no
- * meaning. reuse 0: the instance owns nothing yet; anything it owned is leaked. reuse 1: its arrays and strings are
- * kept where the counts are equal; what the elements owned is leaked. The frame may come from an untrusted peer.
- * EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL. Calls abort()
- * if the handle tracks state and the instance has none. */
+/** Reads a frame of length bytes from buffer, which must have one guard byte after them, into an instance. Returns the
+ * number of bytes consumed. It may exceed length without an error: check it before you advance. After an error it has
+ * no meaning. With reuse 0 the instance must own no arrays or strings; they would be leaked. With reuse 1 its arrays
+ * and strings are kept where the counts are equal; what the elements owned is leaked. The frame may come from an
+ * untrusted peer. EMSGSIZE or ENOMEM if the frame is too short, ENOMEM if allocation fails, EINVAL if instance is NULL.
+ * Calls abort() if the handle tracks state and the instance has none. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer,
     lumo_tarn_lumo_info *instance, uint32_t length, uint32_t reuse, uint32_t *err);
 /** @} */
 
 /** @name Deep copy
  *  @{ */
-/** Makes a deep copy through a frame in buffer, which has size bytes, at least lumo_tarn_lumo_info_len(), and one guard
- * byte after them. *result is NULL after any error; otherwise the caller owns it. ENOENT if source, result or buffer is
- * NULL; other errors are those of lumo_tarn_lumo_info_marshal() and lumo_tarn_lumo_info_unmarshal(). */
+/** Makes a deep copy through a frame in buffer, which must have size bytes and one guard byte after them. size: at
+ * least lumo_tarn_lumo_info_len(), and 9 more for each object with RA data. *result is NULL after any error; otherwise
+ * the caller owns it. ENOENT if source, result or buffer is NULL; other errors are those of
+ * lumo_tarn_lumo_info_marshal() and lumo_tarn_lumo_info_unmarshal(). */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_clone(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *source,
     lumo_tarn_lumo_info **result, void *buffer, uint32_t size, uint32_t *err);
 /** Makes a deep copy through the handle's workspace, which has 65,536 bytes in the reference runtime. Returns NULL
@@ -241,7 +243,8 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_clone(mirk_handle *h, uint32_t ctx_id,
 LUMO_UI_TARN_API lumo_tarn_lumo_info *lumo_tarn_lumo_info_clone_cr(mirk_handle *h, lumo_tarn_lumo_info *source);
 /** Makes a deep copy in an existing instance, through the handle's workspace. What the destination owned before is not
  * released. After an error do not use or destroy it: it has been freed if the copy could not be read, and leaks if the
- * copy could not be written. A NULL destination leaks the copy. lumo_tarn_lumo_info_clone_cr() has none of this. */
+ * copy could not be written. A NULL destination leaks the copy. lumo_tarn_lumo_info_clone_cr() does not have these
+ * problems. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_copy_cr(mirk_handle *h, lumo_tarn_lumo_info *source,
     lumo_tarn_lumo_info *destination);
 /** @} */
@@ -270,8 +273,8 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_toxml_cr(mirk_handle *h, lumo_tarn
     int32_t remaining);
 /** Reads the element at a path of the runtime's document into the instance. Members without an element, and strings
  * with an empty one, keep their values. ENOENT if there is no element at the path. EINVAL for an invalid number, which
- * ends the reading. Only a failed look-up of an enumeration writes a sentence to message, which may be NULL. Clear its
- * first byte before the call. */
+ * ends the reading. message, which may be NULL, gets a sentence only if reading an enumerator's element fails. Clear
+ * its first byte before the call. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_from_xml(mirk_handle *h, uint32_t ctx_id, const char *path, void *document,
     lumo_tarn_lumo_info *instance, uint32_t *err, char *message, uint32_t message_size);
 /** @} */
@@ -311,11 +314,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set(mirk_handle *h, uint32
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_all. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_all. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_all_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_all, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_all_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -340,11 +344,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set(mirk_handle *h, uint32
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_fdb. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_fdb. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_fdb_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_fdb, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_fdb, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_fdb_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -369,11 +374,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set(mirk_handle *h, uint32_
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_ha. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_ha. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_ha_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_ha, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_ha, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_ha_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -398,11 +404,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set(mirk_handle *h, uint3
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_wexa. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_wexa. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_wexa_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_wexa, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_wexa, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_wexa_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -427,11 +434,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set(mirk_handle *h, ui
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_handles. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_handles. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_handles_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of display_handles, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_handles_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -456,11 +464,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set(mirk_handle *h, uint
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_exmem. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_exmem. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_exmem, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_exmem, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -485,11 +494,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set(mirk_handle *h, uint3
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of display_init. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of display_init. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_display_init_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of display_init, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of display_init, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_display_init_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -514,11 +524,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_set(mirk_handle *h, uint32_t 
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of lumo_num. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of lumo_num. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_lumo_num_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of lumo_num, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_lumo_num_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -543,11 +553,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_set(mirk_handle *h, uint32
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
-/** Returns the state byte of complex_num. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of complex_num. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_complex_num_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of complex_num, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of complex_num, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_complex_num_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -572,11 +583,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set(mirk_handle *h, uint32_t
  * a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of direction. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of direction. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_direction_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of direction, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of direction, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_direction_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -601,11 +613,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_set(mirk_handle *h, uint32_t ctx
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_set_value(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     uint32_t value, uint32_t *err);
-/** Returns the state byte of epoch. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of epoch. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_epoch_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of epoch, notifies, and marks the object as modified. EINVAL if the handle's tracking is off or
- * the object has no state. */
+/** Sets the state byte of epoch, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_epoch_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -630,11 +642,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set(mirk_handle *h, ui
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of fdb_initialized. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of fdb_initialized. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_fdb_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of fdb_initialized, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -650,11 +663,11 @@ LUMO_UI_TARN_API lumo_tarn_fdb_base *lumo_tarn_lumo_info_fdb_base_get(mirk_handl
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_fdb_base *source, uint32_t *err);
-/** Returns the state byte of fdb_base. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of fdb_base. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_fdb_base_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of fdb_base, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of fdb_base, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -679,11 +692,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set(mirk_handle *h, uin
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of chunk_overhead. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of chunk_overhead. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_chunk_overhead_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of chunk_overhead, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -708,11 +722,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set(mirk_handle *h,
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of flow_info_mem_size. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of flow_info_mem_size. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_flow_info_mem_size_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of flow_info_mem_size, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -737,11 +752,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set(mirk_handle *h
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of mp_cache_entry_size. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of mp_cache_entry_size. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of mp_cache_entry_size, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -766,11 +782,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set(mirk_handle *h
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of tt_cache_entry_size. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tt_cache_entry_size. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_cache_entry_size, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -786,11 +803,12 @@ LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_tt_tbl_get(mir
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_tt_tbl_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_lumo_info *object,
     lumo_tarn_fdb_mem_info *source, uint32_t *err);
-/** Returns the state byte of tarn_tt_tbl. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tarn_tt_tbl. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of tarn_tt_tbl, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of tarn_tt_tbl, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_tt_tbl_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -806,11 +824,12 @@ LUMO_UI_TARN_API lumo_tarn_fdb_mem_info *lumo_tarn_lumo_info_tarn_debug_flags_ge
  * object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_debug_flags_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_fdb_mem_info *source, uint32_t *err);
-/** Returns the state byte of tarn_debug_flags. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tarn_debug_flags. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tarn_debug_flags_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tarn_debug_flags, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tarn_debug_flags_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -835,11 +854,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set(mirk_handle *h, uint32_t 
  * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of ha_state. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ha_state. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_ha_state_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of ha_state, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of ha_state, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_state_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -864,11 +883,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set(mirk_handle *h, uint32_
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of ha_running. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ha_running. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_ha_running_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of ha_running, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of ha_running, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_running_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -893,11 +913,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set(mirk_handle *h, uint32_
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of ha_enabled. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ha_enabled. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_ha_enabled_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of ha_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of ha_enabled, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ha_enabled_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -922,11 +943,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set(mirk_handle *h, uint32_
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of drv_conn_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of drv_conn_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_drv_conn_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of drv_conn_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of drv_conn_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_drv_conn_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -951,11 +973,11 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set(mirk_handle *h, uint32_t c
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of exmem_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of exmem_h. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_exmem_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of exmem_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of exmem_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode is
+ * OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_exmem_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -980,11 +1002,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_set(mirk_handle *h, uint
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of wexa_num_feat. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of wexa_num_feat. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_wexa_num_feat_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of wexa_num_feat, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of wexa_num_feat, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1009,11 +1032,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set(mirk_handle *h, uin
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
-/** Returns the state byte of wexa_feat_size. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of wexa_feat_size. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_wexa_feat_size_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of wexa_feat_size, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1038,11 +1062,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set(mirk_handle *h, uint32_t
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of in_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of in_wexa_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_in_wexa_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of in_wexa_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is off
- * or the object has no state. */
+/** Sets the state byte of in_wexa_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1067,11 +1092,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set(mirk_handle *h, uin
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of in_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of in_wexa_feat_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of in_wexa_feat_h, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_in_wexa_feat_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1096,11 +1122,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set(mirk_handle *h, uint32_
  * EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of out_wexa_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of out_wexa_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_out_wexa_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of out_wexa_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of out_wexa_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1125,11 +1152,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set(mirk_handle *h, ui
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of out_wexa_feat_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of out_wexa_feat_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of out_wexa_feat_h, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_out_wexa_feat_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1154,11 +1182,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set(mirk_handle *h, uint3
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of dp_hash_salt. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of dp_hash_salt. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_hash_salt_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of dp_hash_salt, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of dp_hash_salt, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_hash_salt_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1183,12 +1212,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set(mirk_handle 
  * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of flow_info_initialized. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_flow_info_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of flow_info_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1213,12 +1242,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set(mirk_hand
  * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of dp_flow_info_initialized. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of dp_flow_info_initialized. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of dp_flow_info_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_flow_info_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1243,11 +1272,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set(mirk_handle *h, uin
  * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of mp_initialized. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_mp_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of mp_initialized, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1272,11 +1302,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set(mirk_handle *h, 
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of dp_mp_initialized. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of dp_mp_initialized. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_mp_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of dp_mp_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_mp_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1301,11 +1332,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set(mirk_handle *h, uin
  * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tt_initialized. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_initialized, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1330,11 +1362,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set(mirk_handle *h, 
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of dp_tt_initialized. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of dp_tt_initialized. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_tt_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of dp_tt_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_tt_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1359,12 +1392,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set(mirk_handle *
  * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of appl_sig_initialized. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_appl_sig_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of appl_sig_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1389,12 +1422,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set(mirk_handl
  * object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t value, uint32_t *err);
-/** Returns the state byte of dp_appl_sig_initialized. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of dp_appl_sig_initialized. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of dp_appl_sig_initialized, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_initialized_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1419,12 +1452,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_set(mirk_h
  * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of tt_tc_filter_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of tt_tc_filter_list_exmem_ptr. EINVAL if the handle's tracking mode is OFF or the object has
+ * no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_tc_filter_list_exmem_ptr, notifies, and marks the object as modified. EINVAL if the
- * handle's tracking is off or the object has no state. */
+ * handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_filter_list_exmem_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1449,12 +1482,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_set(mirk_hand
  * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of tt_tc_agg_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of tt_tc_agg_list_exmem_ptr. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_tc_agg_list_exmem_ptr, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_agg_list_exmem_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1479,12 +1512,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_set(mirk_ha
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of tt_tc_learn_list_exmem_ptr. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of tt_tc_learn_list_exmem_ptr. EINVAL if the handle's tracking mode is OFF or the object has
+ * no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_tc_learn_list_exmem_ptr, notifies, and marks the object as modified. EINVAL if the
- * handle's tracking is off or the object has no state. */
+ * handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_tc_learn_list_exmem_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1509,12 +1542,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set(mirk_handle *
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of tc_list_head_chunk_h. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of tc_list_head_chunk_h. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tc_list_head_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_list_head_chunk_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1539,11 +1572,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set(mirk_handle *h, uint32_
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of tc_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tc_chunk_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tc_chunk_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of tc_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of tc_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tc_chunk_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1568,11 +1602,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set(mirk_handle *h, uint32_
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of ll_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of ll_chunk_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_ll_chunk_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of ll_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of ll_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking mode
+ * is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_ll_chunk_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1597,11 +1632,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set(mirk_handle *h, uint3
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of appl_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of appl_chunk_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_appl_chunk_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of appl_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking is
- * off or the object has no state. */
+/** Sets the state byte of appl_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_chunk_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1626,12 +1662,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set(mirk_handle *
  * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of cl_appl_sig_hash_ptr. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of cl_appl_sig_hash_ptr. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of cl_appl_sig_hash_ptr, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_cl_appl_sig_hash_ptr_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1656,11 +1692,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set(mirk_handle *h,
  * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of dp_appl_sig_hash_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of dp_appl_sig_hash_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of dp_appl_sig_hash_h, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dp_appl_sig_hash_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1685,11 +1722,12 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set(mirk_handle *h, u
  * EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint64_t value, uint32_t *err);
-/** Returns the state byte of appl_sig_chunk_h. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of appl_sig_chunk_h. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of appl_sig_chunk_h, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_chunk_h_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1705,11 +1743,12 @@ LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_appl_sig_hash_exmem_g
  * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_hash_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
-/** Returns the state byte of appl_sig_hash_exmem. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of appl_sig_hash_exmem. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of appl_sig_hash_exmem, notifies, and marks the object as modified. EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_appl_sig_hash_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1725,11 +1764,12 @@ LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_mp_export_exmem_get(m
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_export_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
-/** Returns the state byte of mp_export_exmem. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of mp_export_exmem. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_mp_export_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of mp_export_exmem, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_export_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1745,11 +1785,12 @@ LUMO_UI_TARN_API lumo_tarn_exmem_info *lumo_tarn_lumo_info_tt_export_exmem_get(m
  * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, lumo_tarn_exmem_info *source, uint32_t *err);
-/** Returns the state byte of tt_export_exmem. EINVAL if the handle's tracking is off or the object has no state. */
+/** Returns the state byte of tt_export_exmem. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_tt_export_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
 /** Sets the state byte of tt_export_exmem, notifies, and marks the object as modified. EINVAL if the handle's tracking
- * is off or the object has no state. */
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_export_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
@@ -1785,28 +1826,28 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_set(mirk_handle *h, uint3
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_static_exmem_set_cr(mirk_handle *h, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_static_exmem_info *value, uint32_t copy_mode);
 /** Returns the state byte of one element of static_exmem. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_static_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
 /** Sets the state byte of one element of static_exmem. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint8_t value, uint32_t *err);
-/** Returns the state byte of static_exmem as a whole. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of static_exmem as a whole. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_static_exmem_state_flag_whole_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of static_exmem as a whole. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Sets the state byte of static_exmem as a whole. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_whole_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Writes the address of the element states of static_exmem through out: one byte for each element, NULL if there are
- * none. EINVAL if the handle's tracking is off or the object has no state. */
+ * none. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_get_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t **out, uint32_t *err);
 /** Copies length bytes, which must equal the count of static_exmem, to the start of the object's state area, over the
- * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking is
- * off or the object has no state. */
+ * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_static_exmem_state_flag_set_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint8_t *source, uint32_t length, uint32_t *err);
 /** @} */
@@ -1841,27 +1882,28 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_set(mirk_handle *h, uint32_t
 LUMO_UI_TARN_API uint32_t lumo_tarn_lumo_info_dyn_exmem_set_cr(mirk_handle *h, lumo_tarn_lumo_info *object,
     uint32_t index, lumo_tarn_dyn_exmem_info *value, uint32_t copy_mode);
 /** Returns the state byte of one element of dyn_exmem. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dyn_exmem_state_flag_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint32_t *err);
 /** Sets the state byte of one element of dyn_exmem. ENOENT if the index is out of range, EINVAL if the handle's
- * tracking is off or the object has no state. */
+ * tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_state_flag_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t index, uint8_t value, uint32_t *err);
-/** Returns the state byte of dyn_exmem as a whole. EINVAL if the handle's tracking is off or the object has no
- * state. */
+/** Returns the state byte of dyn_exmem as a whole. EINVAL if the handle's tracking mode is OFF or the object has no
+ * state bytes. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_lumo_info_dyn_exmem_state_flag_whole_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Sets the state byte of dyn_exmem as a whole. EINVAL if the handle's tracking is off or the object has no state. */
+/** Sets the state byte of dyn_exmem as a whole. EINVAL if the handle's tracking mode is OFF or the object has no state
+ * bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_state_flag_whole_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** Writes the address of the element states of dyn_exmem through out: one byte for each element, NULL if there are
- * none. EINVAL if the handle's tracking is off or the object has no state. */
+ * none. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_state_flag_get_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint8_t **out, uint32_t *err);
 /** Copies length bytes, which must equal the count of dyn_exmem, to the start of the object's state area, over the
- * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking is
- * off or the object has no state. */
+ * states of other members, and not to the element states. ENOENT for another length, EINVAL if the handle's tracking
+ * mode is OFF or the object has no state bytes. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_dyn_exmem_state_flag_set_arr(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint8_t *source, uint32_t length, uint32_t *err);
 /** @} */
