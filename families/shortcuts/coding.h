@@ -153,7 +153,7 @@ template <class F, Memory memory>
     auto *member = F::at(object);
     if constexpr (memory == Memory::any && EmbeddedMember<F>) {
         member->variant = 0;
-        if constexpr (!BooleanMember<F>) member->tinfo = types[number_of(F::member)];
+        if constexpr (!BooleanMember<F>) member->tinfo = types[member_number<F>];
     }
     if constexpr (ClosedRecordMember<F>) {
         get_closed_record<*F::of, memory>(from, member, types);

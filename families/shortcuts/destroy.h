@@ -16,10 +16,10 @@ namespace tarn::shortcut {
 
 template <const Record &R>
 [[gnu::always_inline]] inline std::uintptr_t unusual_tree_at_end(const mirk_object *object, const Types &types) {
-    std::uintptr_t unusual = unusual_at_end(object, types[number_of(R)]);
+    std::uintptr_t unusual = unusual_at_end(object, types[record_number<R>]);
     walk<R>(cases{
         [&]<RecordMember F>(F) TARN_INLINE { unusual |= unusual_tree_at_end<*F::of>(F::at(object), types); },
-        [&]<AreaMember F>(F) TARN_INLINE { unusual |= unusual_at_end(F::at(object), types[number_of(F::member)]); },
+        [&]<AreaMember F>(F) TARN_INLINE { unusual |= unusual_at_end(F::at(object), types[member_number<F>]); },
         nothing,
     });
     return unusual;

@@ -21,12 +21,12 @@ template <Memory memory>
 
 template <const Record &R, Memory memory>
 [[gnu::always_inline]] inline void put_headers(mirk_object *object, const Types &types, std::uint8_t flags) {
-    put_header<memory>(object, types[number_of(R)], flags);
+    put_header<memory>(object, types[record_number<R>], flags);
     walk<R>(cases{
         [&]<RecordMember F>(F) TARN_INLINE { put_headers<*F::of, memory>(F::at(object), types, flag::nested); },
         [&]<EmbeddedMember F>(F) TARN_INLINE {
             auto *header = reinterpret_cast<mirk_object *>(F::at(object));
-            put_header<memory>(header, types[number_of(F::member)], flag::nested);
+            put_header<memory>(header, types[member_number<F>], flag::nested);
         },
         nothing,
     });

@@ -105,7 +105,7 @@ std::uint32_t read_open(Batch &batch, std::uint8_t *buffer, mirk_object *object,
     if (!complete) return 0;
     in.skip_to_end(head);
     object->variant = 0;
-    object->tinfo = batch.types[number_of(R)];
+    object->tinfo = batch.types[record_number<R>];
     return in.offset;
 }
 
@@ -123,7 +123,7 @@ template <const Record &R>
         h->last_error = 0;
         get_closed_record<R, Memory::any>(frame, object, types);
         object->variant = 0;
-        object->tinfo = types[number_of(R)];
+        object->tinfo = types[record_number<R>];
         consumed = frame_size<R>;
     } else {
         if (static_cast<std::int32_t>(length) < static_cast<std::int32_t>(record_head)) return false;

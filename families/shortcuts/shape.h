@@ -74,10 +74,11 @@ inline constexpr std::size_t boolean_number = n_records + schema::enumerations.s
 inline constexpr std::size_t address_number = boolean_number + 1;
 inline constexpr std::size_t n_types = address_number + 1;
 
+// By name: the compiler does not compare addresses in constant expressions if it checks pointers at run time.
 template <class List, class Type>
 constexpr std::size_t position_in(const List &list, const Type *type) {
     std::size_t i = 0;
-    while (list[i] != type) ++i;
+    while (list[i]->name != type->name) ++i;
     return i;
 }
 constexpr std::size_t number_of(const Record &record) { return position_in(schema::records, &record); }
@@ -86,6 +87,11 @@ constexpr std::size_t number_of(const Member &m) {
     if (m.kind == Kind::enumeration) return n_records + position_in(schema::enumerations, m.enumeration);
     return m.kind == Kind::boolean ? boolean_number : address_number;
 }
+
+template <const Record &R>
+inline constexpr std::size_t record_number = number_of(R);
+template <class F>
+inline constexpr std::size_t member_number = number_of(F::member);
 
 // The module's own record of each type.
 inline constinit const auto own_types =
