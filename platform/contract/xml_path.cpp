@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "platform/contract/text.hpp"
 
@@ -79,7 +80,7 @@ bool PathMemo::split(std::string_view path, size_t from) {
     return true;
 }
 
-const std::vector<xmlNode *> *PathMemo::find(std::string_view path) {
+const std::span<xmlNode *const> *PathMemo::find(std::string_view path) {
     if (path.size() < 3 || path.substr(0, 2) != "//" || document_->dict == nullptr) return nullptr;
     const auto differs = std::mismatch(path.begin(), path.end(), path_.begin(), path_.end()).first;
     const auto common = static_cast<size_t>(differs - path.begin());
@@ -90,71 +91,106 @@ const std::vector<xmlNode *> *PathMemo::find(std::string_view path) {
     }
     if (!split(path, kept == 0 ? 1 : levels_[kept - 1].step.end)) return nullptr;
 
-    const size_t known = depth_;
     path_ = path;
     depth_ = kept;
     if (levels_.size() < kept + steps_.size()) levels_.resize(kept + steps_.size());
     for (const Step &step : steps_) {
         Level &level = levels_[depth_];
-        // A later position of the same array continues from the previous one.
-        const bool same_array = depth_ == kept && depth_ < known && level.step.name == step.name &&
-                                level.step.position != 0 && level.step.position <= step.position;
-        if (same_array) {
-            advance(step.position, &level);
-        } else {
-            level.nodes.clear();
-            level.nested = false;
-            level.step = step;
+        level.step = step;
+        level.nodes = {};
+        level.found.clear();
+        level.nested = level.children_known = false;
+        if (step.name != nullptr) {
             if (depth_ == 0) {
                 find_everywhere(&level);
             } else {
-                find_children(levels_[depth_ - 1], &level);
+                find_children(&levels_[depth_ - 1], &level);
             }
         }
-        level.step = step;
         ++depth_;
     }
     return &levels_[depth_ - 1].nodes;
 }
 
-void PathMemo::find_everywhere(Level *level) const {
-    if (level->step.name == nullptr) return;
-    for (xmlNode *node = document_->children; node != nullptr; node = following(node)) {
-        if (!matches(node, level->step.name)) continue;
-        // While no node is nested, a node inside an earlier one can only be inside the last one.
-        if (!level->nested && !level->nodes.empty() && inside(node, level->nodes.back())) level->nested = true;
-        level->nodes.push_back(node);
+void PathMemo::find_everywhere(Level *level) {
+    const xmlChar *const name = level->step.name;
+    auto known = everywhere_.find(name);
+    if (known == everywhere_.end()) {
+        Everywhere all;
+        for (xmlNode *node = document_->children; node != nullptr; node = following(node)) {
+            if (!matches(node, name)) continue;
+            // While no node is nested, a node inside an earlier one can only be inside the last one.
+            if (!all.nested && !all.nodes.empty() && inside(node, all.nodes.back())) all.nested = true;
+            all.nodes.push_back(node);
+        }
+        known = everywhere_.emplace(name, std::move(all)).first;
     }
+    level->nodes = known->second.nodes;
+    level->nested = known->second.nested;
 }
 
-void PathMemo::find_children(const Level &parents, Level *level) {
-    level->nested = parents.nested;
+void PathMemo::find_children(Level *parents, Level *level) {
     const auto &[name, position, end] = level->step;
-    if (name == nullptr) return;
-    for (xmlNode *parent : parents.nodes) {
-        xmlNode *node = next_match(parent->children, name);
+    Found &found = level->found;
+    for (size_t i = 0; i < parents->nodes.size(); ++i) {
+        if (const Children *const children = children_of(parents, i); children != nullptr) {
+            const auto known = children->find(name);
+            if (known == children->end()) continue;
+            const Found &all = known->second;
+            if (position != 0) {
+                if (position <= all.size()) found.push_back(all[position - 1]);
+            } else if (parents->nodes.size() == 1) {
+                level->nodes = all;
+                return;
+            } else {
+                found.insert(found.end(), all.begin(), all.end());
+            }
+            continue;
+        }
+        xmlNode *node = next_match(parents->nodes[i]->children, name);
         if (position == 0) {
-            for (; node != nullptr; node = next_match(node->next, name)) level->nodes.push_back(node);
+            for (; node != nullptr; node = next_match(node->next, name)) found.push_back(node);
         } else {
-            for (size_t i = 1; i < position && node != nullptr; ++i) node = next_match(node->next, name);
-            if (node != nullptr) level->nodes.push_back(node);
+            for (size_t at = 1; at < position && node != nullptr; ++at) node = next_match(node->next, name);
+            if (node != nullptr) found.push_back(node);
         }
     }
+    level->nested = parents->nested;
     sort(level);
+    level->nodes = found;
 }
 
-void PathMemo::advance(size_t position, Level *level) {
-    for (size_t at = level->step.position; at < position; ++at) {
-        for (xmlNode *&node : level->nodes) node = next_match(node->next, level->step.name);
-        std::erase(level->nodes, nullptr);
+// Null if the element has few children, which are searched faster than a table.
+const PathMemo::Children *PathMemo::children_of(Level *parents, size_t index) {
+    if (parents->nodes.size() != 1) return many_children(parents->nodes[index]);
+    if (!parents->children_known) {
+        parents->children = many_children(parents->nodes[0]);
+        parents->children_known = true;
     }
-    sort(level);
+    return parents->children;
+}
+
+const PathMemo::Children *PathMemo::many_children(const xmlNode *parent) {
+    if (!many_children_.empty()) {
+        if (const auto known = many_children_.find(parent); known != many_children_.end()) return &known->second;
+    }
+    constexpr size_t few = 200;
+    size_t count = 0;
+    for (const xmlNode *node = parent->children; node != nullptr; node = node->next) {
+        if (++count > few) break;
+    }
+    if (count <= few) return nullptr;
+    Children children;
+    for (xmlNode *node = parent->children; node != nullptr; node = node->next) {
+        if (node->type == XML_ELEMENT_NODE && node->ns == nullptr) children[node->name].push_back(node);
+    }
+    return &many_children_.emplace(parent, std::move(children)).first->second;
 }
 
 void PathMemo::sort(Level *level) {
     // Without nested parents the children are already in document order.
     if (!level->nested) return;
-    std::sort(level->nodes.begin(), level->nodes.end(),
+    std::sort(level->found.begin(), level->found.end(),
               [](const xmlNode *a, const xmlNode *b) { return number_of(a) < number_of(b); });
 }
 
