@@ -36,8 +36,8 @@
  * - Notification: a call of the handle's write_notify before a member is written.
  * - Sentinel: a static object, one for each type, that the sticky create operations return instead of NULL.
  * - Modified mark: a flag of an object. Setters set it, and backpropagate finds and clears it.
- * - RA data: a value and a byte that the runtime, or a frame read, attaches to an object; the flag MIRK_OBJ_RA_DATA is
- *   set then. Frames carry them; nothing interprets them.
+ * - RA data: a value and a byte that the runtime or a received frame attaches to an object, with MIRK_OBJ_RA_DATA in
+ *   its obj_flag. Frames carry them; nothing interprets them.
  *
  *
  * Handles, contexts, errors
