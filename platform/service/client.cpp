@@ -102,11 +102,19 @@ mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t 
 mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes, size_t size,
                                               uint32_t timeout_ms) {
     return mirk::guarded([&]() -> mirk_platform_error {
+        const Clock::time_point until = deadline(timeout_ms);
+        // A write that starts after the deadline would not be canceled any more.
+        const auto next_write_size = [&](const asio::error_code &error, size_t moved) {
+            const bool expired = moved != 0 && Clock::now() >= until;
+            return error || expired ? 0 : size;
+        };
         Outcome outcome;
-        asio::async_write(client->socket, asio::buffer(bytes, size), [&](const asio::error_code &error, size_t moved) {
-            outcome = {error, moved};
-        });
-        wait(*client, deadline(timeout_ms), &outcome);
+        asio::async_write(client->socket, asio::buffer(bytes, size), next_write_size,
+                          [&](const asio::error_code &error, size_t moved) {
+                              outcome = {error, moved};
+                          });
+        wait(*client, until, &outcome);
+        if (!outcome.error && outcome.moved < size) return ETIMEDOUT;
         return outcome.number();
     });
 }

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <future>
 #include <thread>
 
 #include "support.hpp"
@@ -332,6 +333,36 @@ TEST(Transport, ReceiveContinuesAfterATimeout) {
     EXPECT_EQ(client.receive(&bytes, 20), uint32_t{ETIMEDOUT});
     client.send(frame(70, 'l'));
     EXPECT_EQ(client.next(), frame(70, 'l'));
+}
+
+TEST(Transport, SendToAPeerThatDoesNotReadEndsAtTheTimeout) {
+    const std::string path = "/tmp/mirk_transport_unread_" + std::to_string(getpid());
+    sockaddr_un address{AF_UNIX, {}};
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    ASSERT_EQ(listen(listener, 4), 0);
+
+    const std::string big = frame(8 << 20, 'x');
+    std::vector<std::future<uint32_t>> results;
+    for (const uint32_t timeout_ms : {0u, 1u, 50u}) {
+        results.push_back(std::async(std::launch::async, [&big, &path, timeout_ms] {
+            Client client(path);
+            return mirk_platform_client_send(client.client, big.data(), big.size(), timeout_ms);
+        }));
+    }
+    for (auto &result : results) EXPECT_EQ(result.wait_for(std::chrono::seconds(5)), std::future_status::ready);
+    close(listener);  // disconnects the clients, so that a send that is still blocked fails
+    for (auto &result : results) EXPECT_EQ(result.get(), static_cast<uint32_t>(ETIMEDOUT));
+    unlink(path.c_str());
+}
+
+TEST(Transport, SendWithTimeoutZeroSendsWhatFits) {
+    Echo echo;
+    Client client(echo.path);
+    const std::string whole = frame(30000, 'x');
+    EXPECT_EQ(mirk_platform_client_send(client.client, whole.data(), whole.size(), 0), 0u);
+    EXPECT_EQ(client.next(), whole);
 }
 
 TEST(Transport, StopEndsRunAndRemovesTheFile) {
