@@ -143,8 +143,8 @@ private:
 /// write.
 class frame {
 public:
-    /// Creates an empty frame.
-    frame() : bytes_(1) {}
+    /// Creates an empty frame. A frame that was moved from is empty too.
+    frame() = default;
     /// Copies the bytes.
     frame(const void *bytes, std::size_t size) : bytes_(size + 1) {
         if (size != 0) std::memcpy(bytes_.data(), bytes, size);
@@ -156,11 +156,17 @@ public:
     operator std::span<const std::uint8_t>() const { return {data(), size()}; }
 #endif
     /// The first byte.
-    const std::uint8_t *data() const { return bytes_.data(); }
+    const std::uint8_t *data() const {
+        static constexpr std::uint8_t guard = 0;
+        return bytes_.empty() ? &guard : bytes_.data();
+    }
     /// The first byte, writable.
-    std::uint8_t *data() { return bytes_.data(); }
+    std::uint8_t *data() {
+        if (bytes_.empty()) bytes_.resize(1);
+        return bytes_.data();
+    }
     /// Number of bytes without the guard byte.
-    std::size_t size() const { return bytes_.size() - 1; }
+    std::size_t size() const { return bytes_.empty() ? 0 : bytes_.size() - 1; }
     /// True if there are no bytes.
     bool empty() const { return size() == 0; }
     /// The first byte.
@@ -183,7 +189,7 @@ public:
     friend bool operator!=(const frame &a, const frame &b) { return !(a == b); }
 
 private:
-    std::vector<std::uint8_t> bytes_;
+    std::vector<std::uint8_t> bytes_;  // with the guard byte; may have none if the frame is empty
 };
 
 /// The value of an address or prefix.

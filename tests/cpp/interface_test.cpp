@@ -175,6 +175,21 @@ TEST(CppInterface, RaDataIsWrittenToFrames) {
     EXPECT_EQ(object.to_frame().size(), plain + 9);
 }
 
+TEST(CppInterface, FramesThatWereMovedFromAreEmpty) {
+    kit::Handle h;
+    context c(h);
+    frame source = debug_setting(c).to_frame();
+    const frame whole = source;
+    const frame moved = std::move(source);
+    EXPECT_EQ(moved, whole);
+    EXPECT_TRUE(source.empty());
+    EXPECT_EQ(source, frame());
+    EXPECT_EQ(source.begin(), source.end());
+    EXPECT_THROW(debug_setting::from_frame(c, source), std::system_error);  // reads the guard byte at most
+    source.append(moved);
+    EXPECT_EQ(source, whole);
+}
+
 TEST(CppInterface, CopiesAreDeepAndMovesKeepTheObject) {
     for (const Tracking tracking : kit::every_tracking) {
         SCOPED_TRACE(kit::name_of(tracking));
