@@ -952,6 +952,10 @@ protected:
     }
     void set_payload_(record<payload_type> &&value) const {
         if (!has_object()) return;
+        if (!value) {  // the C function would remove the payload
+            this->context().fail(EINVAL, "there is no record");
+            return;
+        }
         const bool is_its_own = value.get() == payload_().get();
         if (!is_its_own) this->call_(M::payload_free_and_set, value.get());
         if (this->context().ok()) (void)value.release();  // else it stays with its owner
@@ -1003,8 +1007,8 @@ public:
     record_ref<typename M::payload> payload() const { return this->payload_(); }
     /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() const { return this->detach_payload_(); }
-    /// Destroys the payload and stores another one, which must be on the same handle. After an error, value
-    /// still owns its record.
+    /// Destroys the payload and stores another one, which must be on the same handle. EINVAL if value has no C object.
+    /// After an error, value still owns its record.
     void set_payload(record<typename M::payload> &&value) const { this->set_payload_(std::move(value)); }
 };
 
@@ -1050,8 +1054,8 @@ public:
     record_ref<typename M::payload> payload() { return this->payload_(); }
     /// Removes the payload from the message and returns it.
     record<typename M::payload> detach_payload() { return this->detach_payload_(); }
-    /// Destroys the payload and stores another one, which must be on the same handle. After an error, value
-    /// still owns its record.
+    /// Destroys the payload and stores another one, which must be on the same handle. EINVAL if value has no C object.
+    /// After an error, value still owns its record.
     void set_payload(record<typename M::payload> &&value) { this->set_payload_(std::move(value)); }
     /// The payload, read-only. The message owns it.
     record_view<typename M::payload> payload() const { return this->payload_(); }

@@ -380,6 +380,20 @@ TEST(CppInterface, MessagesOwnTheirPayload) {
     });
 }
 
+TEST(CppInterface, MovedFromRecordsAreRefused) {
+    for (const Tracking tracking : kit::every_tracking) {
+        kit::Handle h(tracking);
+        context c(h, errors::kept);
+        debug_setting_msg message(c);
+        const auto *payload = message.payload().get();
+        debug_setting gone(c);
+        const debug_setting owner = std::move(gone);
+        message.set_payload(std::move(gone));
+        EXPECT_EQ(c.take_error().value(), EINVAL);
+        EXPECT_EQ(message.payload().get(), payload);
+    }
+}
+
 TEST(CppInterface, MessageFramesEqualThoseOfTheIndependentCodec) {
     for (const Tracking tracking : kit::every_tracking) {
         each_message([&]<class M>(kind<M>, const reference::Record &value) {
