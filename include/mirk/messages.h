@@ -12,7 +12,7 @@
 extern "C" {
 #endif
 
-/** Writes the 27-byte header at the start of a frame. `size` is 27. EMSGSIZE: `size` is below 27. */
+/** Writes the 27-byte header at the start of a frame. The library passes 27 as `size`; EMSGSIZE for less. */
 void _mirk_message_header_marshal(mirk_handle *h, uint32_t ctx_id, void *frame, mirk_message_header *header,
                                   uint32_t size, uint32_t *err);
 /** Reads the header of a received buffer of `size` bytes and returns 27. Does not compare total_length with `size`.

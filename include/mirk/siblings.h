@@ -1,5 +1,7 @@
 /** @file
- * siblings.h - the sibling schema modules. Each stores the bundle handler that was registered last.
+ * siblings.h - seven other schema modules, as far as the library refers to them; the runtime supplies these functions
+ * and data. A handler for all bundles that is registered with the library is also registered with each of these
+ * modules. Each module stores the last one.
  */
 #ifndef MIRK_SIBLINGS_H
 #define MIRK_SIBLINGS_H
@@ -10,7 +12,7 @@
 extern "C" {
 #endif
 
-/** Declares the two operations of the sibling module M, veld_M_bundle_handler_register() and
+/** Declares the two operations of the module M, veld_M_bundle_handler_register() and
  * veld_M_bundle_handler_unregister(). Both return the previous handler, initially null. They are not thread-safe: call
  * them while no frames are dispatched. */
 #define VELD(M)                                                                          \

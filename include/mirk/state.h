@@ -30,8 +30,8 @@ uint32_t mirk_get_instance_modified(void *object, uint32_t is_record, uint32_t i
 /** Returns the flags of an object. 0 for null. */
 uint8_t mirk_get_instance_obj_flag(void *object, uint32_t is_record, uint32_t is_value_kind);
 
-/** Returns the distance in bytes from an object to its state area. Called only if obj_flag has flag 64. If no distance
- * is recorded, the area directly follows the object. */
+/** Returns the distance in bytes from an object to its state area. Called only if obj_flag has flag 64, a recorded
+ * state offset. If no distance is recorded, the area directly follows the object. */
 uint32_t mirklib_get_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object);
 /** Records that distance, replacing an earlier one, and sets flag 64 in obj_flag. Does not call write_notify. */
 void mirklib_update_sttr_offset(mirk_handle *h, uint32_t ctx_id, void *object, uint32_t offset);

@@ -78,7 +78,8 @@ typedef struct mirk_module_root {
     mirk_module **last; /**< the link that will point to the next module */
 } mirk_module_root;
 
-/** The header of every object: 11 bytes. The members of the object follow at offset 11 or later. */
+/** The header of every object: 11 bytes without the padding of this structure, whose size is 16. Members of an object
+ * may begin at offset 11. */
 typedef struct mirk_object {
     mirk_type_info *tinfo; /**< the type */
     int8_t variant;        /**< variant of the object; negative: it has no body */
@@ -113,7 +114,8 @@ struct ip_address {
     uint64_t slop;         /**< reserved */
 };
 
-/** A message header in memory. 16 bytes, alignment 4. */
+/** A message header in memory. 16 bytes, alignment 4. On the wire it has 27 bytes: these members in this order, with
+ * big-endian integers, and 11 zero bytes. */
 typedef struct mirk_message_header {
     uint8_t marker;        /**< 0xBC */
     uint8_t fill[6];       /**< 0xFF */

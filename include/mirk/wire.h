@@ -25,7 +25,7 @@ uint32_t _mirk_instance_obj_flag_marshal(mirk_handle *h, uint32_t ctx_id, void *
 /** Reads a flag: 1 byte. */
 uint32_t _mirk_instance_obj_flag_unmarshal(mirk_handle *h, uint32_t ctx_id, void *buffer, uint8_t *flag,
                                            int32_t remaining, uint32_t *err);
-/** Writes a jump, the number of bytes from its first to the end of the frame: 4 bytes, big-endian. */
+/** Writes a jump, the number of bytes from the first byte of the jump to the end of the frame: 4 bytes, big-endian. */
 uint32_t _mirk_variant_jump_marshal(mirk_handle *h, uint32_t ctx_id, void *buffer, uint32_t *jump, int32_t remaining,
                                     uint32_t *err);
 /** Reads a jump: 4 bytes, big-endian. */
