@@ -12,8 +12,8 @@
  *     library, which a program can replace.
  *   - mirk_platform_error is 0 or an error number of errno.h. Functions that return it also return ENOMEM if an
  *     allocation fails, and EIO for an unexpected failure. No function throws an exception.
- *   - Use each handle, document, server and client from one thread at a time. Functions of the trace, the recorder and
- *     mirk_platform_server_stop() may be called from any thread.
+ *   - Use each handle, document, server and client from one thread at a time. The functions of the trace
+ *     and of the recorder may be called from any thread, and so may mirk_platform_server_stop().
  *   - Text is NUL-terminated. Functions copy the text that they are given unless their comment says otherwise.
  *   - Pointers must not be null unless the comment permits it.
  *   - Options structures begin with their size, which the initializer sets. Later versions only add members at the end,
@@ -54,7 +54,8 @@ typedef struct mirk_platform_report {
 
 /* ---- handles ---------------------------------------------------------------------------------------------------- */
 
-/** State tracking of a handle: whether objects have a state byte for each member. Programs choose NONE or ON. */
+/** State tracking of a handle: whether objects have a state byte for each member. Programs choose NONE or ON. OFF
+ * is for tests: tracking is off, but the library has a descriptor to read. */
 typedef enum mirk_platform_tracking {
     MIRK_PLATFORM_TRACKING_NONE = 0, /**< off: the handle's sttr_desc is null */
     MIRK_PLATFORM_TRACKING_OFF = 1,  /**< off: the word in sttr_desc is 0xDDDD */
@@ -77,11 +78,11 @@ typedef struct mirk_platform_handle_options {
     uint32_t private_types;          /**< nonzero: the handle has its own copies of type records; default 0 */
     uint64_t request_ceiling;        /**< bytes; obj_alloc returns null for larger requests; default 256 MiB */
     /** Bytes; obj_alloc returns null if the sum of the sizes of live blocks would exceed this; default 1 GiB. With
-     * tracking ON each block counts 136 bytes more, for state offsets, for each 256-byte range of addresses that it
-     * overlaps, and a request counts the most ranges that its block can overlap.
+     * tracking ON, memory for state offsets counts, too: 136 bytes for each aligned 256-byte range that a block
+     * overlaps. A request is checked against the largest number of ranges that a block of its size can overlap.
      *
-     * Other memory does not count: what the allocator adds to blocks, tables of blocks and offsets (up to 128 bytes per
-     * block and 64 per range), types, documents and bundles. */
+     * Not counted: allocator overhead; the tables of blocks and offsets, up to 128 bytes per block and 64 per range;
+     * types; documents; bundles. */
     uint64_t total_ceiling;
     mirk_platform_epoch_policy epoch_policy; /**< default STRICT */
     mirk_bundle_handler bundle_handler;      /**< gets committed bundles; may be null, the default */
@@ -122,7 +123,7 @@ MIRK_PLATFORM_API void mirk_platform_handle_set_epoch_policy(mirk_handle *h, mir
 /** Nonzero: a message that fails to marshal is traced at level 7 instead of level 3. Initially 0. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_suppress_messages(mirk_handle *h, uint32_t enabled);
 /** Sets the tracking mode. The handle must have no live objects, since objects created in one mode must not be used in
- * the other. */
+ * another. */
 MIRK_PLATFORM_API void mirk_platform_handle_set_tracking(mirk_handle *h, mirk_platform_tracking tracking);
 
 /** Returns the number of obj_alloc blocks that have not been freed. */
@@ -152,7 +153,7 @@ MIRK_PLATFORM_API size_t mirk_platform_list_blocks(mirk_handle *h, mirk_platform
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_variant(mirk_handle *h, const uint8_t *luid,
                                                                        int8_t variant);
 /** Allows (nonzero) or forbids (0) the message with this luid. Messages that were not set are allowed.
- * Marshalling a forbidden message fails with EBADE. */
+ * Marshaling a forbidden message fails with EBADE. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_domain_set_message(mirk_handle *h, const uint8_t *luid,
                                                                        uint32_t allowed);
 /** Resets the domain: every type has variant 0, and every message is allowed. */
@@ -173,8 +174,8 @@ MIRK_PLATFORM_API void mirk_platform_trace_set_sink(mirk_platform_trace_sink sin
 MIRK_PLATFORM_API void mirk_platform_trace_set_levels(uint32_t mask);
 /** Returns the mask of selected levels. */
 MIRK_PLATFORM_API uint32_t mirk_platform_trace_levels(void);
-/** Parses "all", "none", or a comma-separated list of levels from 0 to 31 into a mask, ignoring blanks around each.
- * EINVAL for null and for any other text; the mask is then unchanged. */
+/** Parses "all", "none", or a comma-separated list of levels from 0 to 31 into a mask, ignoring white space around
+ * each. EINVAL for null and for any other text; the mask is then unchanged. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_trace_parse_levels(const char *text, uint32_t *mask);
 /** Returns the name under which a module was registered, or "?" for an unknown identifier. The text stays valid until
  * the process ends. */
@@ -182,8 +183,8 @@ MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id
 
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
-/** Attaches RA data to an object, replacing earlier data, and sets flag 32 of the object. The value is an opaque word
- * that is never dereferenced. EINVAL for a null object. */
+/** Attaches RA data to an object, replacing earlier data, and sets its flag "has RA data" (32). The value is an opaque
+ * word that is never dereferenced. EINVAL for a null object. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_set_ra_data(mirk_handle *h, void *object, void *value,
                                                                 uint8_t byte);
 /** Reads the RA data of an object. ENOENT if it has none. `value` and `byte` may be null. */
@@ -193,12 +194,13 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_ra_data(mirk_handle *h, cons
 /** The type of the destroy operation of every record. */
 typedef void (*mirk_platform_object_destroy)(mirk_handle *h, uint32_t ctx_id, void *object);
 
-/** Assigns an identifier (oid) to an object and sets flag 1 of the object. `*oid` receives the oid, an opaque word.
+/** Assigns an identifier (oid) to an object and sets its flag "has an oid" (1). `*oid` receives the oid, an opaque
+ * word.
  *
  * While `references` is above 0, destroying the object only marks it as condemned. The library lowers the count with
  * mirklib_lookup_and_update_oid_ref_count() when it destroys a record that refers to the oid. At 0 that function calls
- * `destroy`, with its own ctx_id, for a condemned object. `destroy` may be null: a condemned object then remains until
- * the program destroys it again.
+ * `destroy` for a condemned object, with the ctx_id that it was called with. `destroy` may be null: a condemned object
+ * then remains until the program destroys it again.
  *
  * EINVAL if `object` or `oid` is null; EEXIST if the object already has an oid. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_oid_mapping_make(mirk_handle *h, void *object, uint32_t references,
@@ -245,10 +247,11 @@ typedef void (*mirk_platform_message_destroy)(mirk_handle *h, uint32_t ctx_id, v
 
 /** A message that a handle can receive: its luid and the operations of the schema library. */
 typedef struct mirk_platform_message {
-    const uint8_t *luid; /**< not copied, must outlive the handle */
-    const char *name;    /**< for trace lines; not copied, must outlive the handle */
-    /** Required. Reads control messages. Reads a plain message after unmarshal_only has done so, to record it or to
-     * call the linked-in handler, which no other operation does. */
+    const uint8_t *luid; /**< not copied; must outlive the handle */
+    const char *name;    /**< for trace lines; not copied; must outlive the handle */
+    /** Required. Reads control messages. A plain message is read with unmarshal_only. If it must be recorded or
+     * passed to the linked-in handler, its frame is then read a second time with this operation, since no other can do
+     * either. */
     mirk_platform_unmarshal unmarshal;
     mirk_platform_unmarshal_only unmarshal_only; /**< reads plain messages; null: this is a control message */
     mirk_platform_message_destroy destroy;       /**< null is permitted for a control message */
@@ -269,10 +272,10 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_set_bundle_handler(
 /** Delivers a buffer of `size` bytes, which contains complete frames and has a guard byte. Messages of an open bundle
  * go to the receive list, other plain messages to their handlers. The buffer stays the caller's.
  *
- * Stops at the first error; frames before it have been delivered. An error inside a bundle leaves the bundle open: call
- * bundle_receive_message_list_destroy(), or close the handle, before dispatching other frames. The report, which may be
- * null, names the frame. EBADMSG: not a complete frame; ENOENT: the message is not registered; otherwise the error of
- * reading the frame or of its handler. */
+ * Stops at the first error; frames before it have been delivered. An error in an open bundle, before its commit or
+ * abort, leaves the bundle open: call bundle_receive_message_list_destroy(), or close the handle, before dispatching
+ * other frames. The report, which may be null, contains the offset of the frame. EBADMSG: not a complete frame; ENOENT:
+ * the message is not registered; otherwise the error of reading the frame or of its handler. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch(mirk_handle *h, uint32_t ctx_id, void *buffer,
                                                              uint32_t size, void *dispatch_ctx,
                                                              mirk_platform_report *report);
@@ -338,7 +341,7 @@ enum {
 
 /** The start of a frame: header and luid. */
 typedef struct mirk_platform_frame {
-    mirk_message_header header; /**< the first 27 bytes */
+    mirk_message_header header; /**< decoded from the first 27 bytes */
     uint8_t luid[16];           /**< luid of the message */
 } mirk_platform_frame;
 
@@ -368,9 +371,9 @@ typedef struct mirk_platform_request {
  * the name exceeds 255 bytes. */
 MIRK_PLATFORM_API uint32_t mirk_platform_request_encode(void *buffer, uint32_t size, uint32_t stamp, const char *bundle,
                                                         uint8_t options, uint32_t *number);
-/** Writes the frame of a refusal in the same way. `reason` is an error number of errno.h. A sentence longer than 255
+/** Writes the frame of a refusal in the same way. `error` is an error number of errno.h. A sentence longer than 255
  * bytes is cut; null means "". The only error is EMSGSIZE. */
-MIRK_PLATFORM_API uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t reason,
+MIRK_PLATFORM_API uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t error,
                                                         const char *sentence, uint32_t *number);
 /** Reads the frame of a request or a refusal, which the bit REFUSED of `options` distinguishes. ENOENT: a frame of
  * another message. EBADMSG: not a complete frame, or its parts do not fill exactly total_length bytes, or the text
@@ -395,21 +398,21 @@ typedef struct mirk_platform_server_options {
     uint32_t peer_limit;    /**< number of connected peers; further peers are refused; default 64 */
     uint32_t idle_ms;       /**< a peer without traffic for this long is disconnected; 0: never; default 60000 */
     uint64_t pending_limit; /**< bytes queued for one peer; beyond it the peer is disconnected; default 64 MiB */
-    uint32_t socket_mode;   /**< access rights of the socket file, whatever the umask is; default 0600 */
+    uint32_t socket_mode;   /**< access rights of the socket file, regardless of the umask; default 0600 */
     /** Receives one complete frame. The buffer is writable and has a guard byte; it is valid until the callback
      * returns. Required. */
     void (*on_frame)(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *frame, uint32_t size);
     /** A peer has connected. May be null. */
     void (*on_connect)(void *user, mirk_platform_server *server, mirk_platform_peer peer);
-    /** A connected peer is gone, whoever closed the connection; `reason` is text for users. May be null. */
+    /** A connected peer was disconnected, by either side; `reason` is text for users. May be null. */
     void (*on_disconnect)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
     void *user; /**< first argument of the callbacks */
     /** Milliseconds from the first byte of a frame to its last; a slower peer is disconnected; 0: no limit; default
      * 10000.
      */
     uint32_t frame_ms;
-    /** Milliseconds from when the bytes of a mirk_platform_server_send() are first in the queue until the socket has
-     * accepted them; a slower peer is disconnected; 0: no limit; default 60000. */
+    /** Time limit in milliseconds for writing the bytes of one mirk_platform_server_send() to the socket, from when
+     * they reach the head of the queue; a slower peer is disconnected; 0: no limit; default 60000. */
     uint32_t answer_ms;
     /** Bytes queued for all peers together; default 256 MiB. Beyond it the peer with the most queued bytes is
      * disconnected. A value below pending_limit means pending_limit. */
@@ -417,8 +420,8 @@ typedef struct mirk_platform_server_options {
     /** A peer exceeded a limit or sent something other than a frame. Nothing can be sent to it any more; on_disconnect
      * follows. May be null.
      *
-     * Also called for a peer that is refused because of peer_limit; it gets no other callback. Called with peer 0 if
-     * connections cannot be accepted, as when descriptors run out: once, until accepting works again. */
+     * Also called for a peer that is refused because of peer_limit; it gets no other callback. Called once with peer 0
+     * when accepting connections starts to fail, for example when descriptors run out. */
     void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
 } mirk_platform_server_options;
 
@@ -430,8 +433,9 @@ MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_ser
 /** Listens on a socket file. The caller owns `*server` and releases it with mirk_platform_server_close(). A socket file
  * that no process listens on is replaced. The options are copied.
  *
- * EADDRINUSE: a process listens on the file. EEXIST: the path is not a socket. ENAMETOOLONG: the path does not fit a
- * socket address. EINVAL: an argument or on_frame is null. Other errors come from the system, such as EACCES. */
+ * EADDRINUSE: a process listens on the file, or it cannot be determined that none does. EEXIST: the path is not a
+ * socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: an argument or on_frame is null. Other errors
+ * come from the system, such as EACCES. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,
                                                                 const mirk_platform_server_options *options,
                                                                 mirk_platform_server **server);
@@ -477,7 +481,7 @@ MIRK_PLATFORM_API void mirk_platform_server_close(mirk_platform_server *server);
 
 /** Connects to a socket file. The caller owns `*client` and releases it with mirk_platform_client_close().
  * `frame_limit` is the length in bytes of the longest frame to receive; 0 means 16 MiB. `timeout_ms`, here and below,
- * is in milliseconds; 0 does not wait, and no value waits forever.
+ * is in milliseconds; 0 means not to wait. An infinite timeout is not available.
  *
  * ETIMEDOUT: the timeout expired. ECONNREFUSED: no process listens. ENOENT: the file does not exist. ENAMETOOLONG: the
  * path does not fit a socket address. EINVAL: an argument is null. Other errors come from the system. */
@@ -491,7 +495,7 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open(const char *path
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open_tcp(const char *address, uint32_t frame_limit,
                                                                     uint32_t timeout_ms, mirk_platform_client **client);
 /** Sends `size` bytes, which should be complete frames. EPIPE or ECONNRESET: the peer closed the connection. ETIMEDOUT:
- * the timeout expired. After an error part of the bytes may have been sent: then only close the client. */
+ * the timeout expired. After an error part of the bytes may have been sent, and the client can only be closed. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_send(mirk_platform_client *client, const void *bytes,
                                                                 size_t size, uint32_t timeout_ms);
 /** Waits for one complete frame. It is in the client's buffer, which is writable and has a guard byte, and stays valid
@@ -499,7 +503,7 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_send(mirk_platform_cl
  *
  * ETIMEDOUT: the timeout expired; bytes that have arrived are kept for the next call. ECONNRESET: the peer closed the
  * connection. EBADMSG: it sent something other than a frame. EMSGSIZE: the frame exceeds frame_limit. After the last
- * three only close the client. */
+ * three, the client can only be closed. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, void **frame,
                                                                    uint32_t *size, uint32_t timeout_ms);
 /** Closes the connection and releases the client. Null is permitted. */

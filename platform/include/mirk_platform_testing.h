@@ -110,7 +110,7 @@ MIRK_PLATFORM_API size_t mirk_platform_testing_offset_entries(mirk_handle *h);
 /** Returns the number of objects with RA data. */
 MIRK_PLATFORM_API size_t mirk_platform_testing_ra_entries(mirk_handle *h);
 
-/** Sets (nonzero) or clears (0) the change mark that the _backpropagate operation of the integer at this address
+/** Sets (nonzero) or clears (0) the modified mark that the _backpropagate operation of the integer at this address
  * reports and clears. EINVAL for a null address. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_testing_mark_integer(mirk_handle *h, const void *address,
                                                                          uint32_t changed);

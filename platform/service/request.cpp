@@ -66,14 +66,14 @@ uint32_t mirk_platform_request_encode(void *buffer, uint32_t size, uint32_t stam
     return length;
 }
 
-uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t reason,
-                                      const char *sentence, uint32_t *number) {
+uint32_t mirk_platform_refusal_encode(void *buffer, uint32_t size, uint32_t stamp, uint32_t error, const char *sentence,
+                                      uint32_t *number) {
     const std::string_view text = std::string_view(sentence != nullptr ? sentence : "").substr(0, 255);
     const auto length = static_cast<uint32_t>(refusal_text_at + 1 + text.size());
     if (size < length) return fail(number, EMSGSIZE);
     auto *frame = static_cast<uint8_t *>(buffer);
     put_frame(frame, stamp, length, MIRK_PLATFORM_REQUEST_REFUSED);
-    mirk::put_big_endian<uint32_t>(frame + options_at + 1, reason);
+    mirk::put_big_endian<uint32_t>(frame + options_at + 1, error);
     put_text(frame + refusal_text_at, text);
     return length;
 }
