@@ -244,6 +244,12 @@ namespace detail {
 /// @cond helpers
 inline constexpr std::size_t max_buffer_size = std::size_t{1} << 30;
 
+/// The size of a buffer for a frame with RA data, which frame_size() does not count: 9 bytes for each object, whose
+/// frame has at least 6 bytes. In a smaller buffer, state bytes at the end can be dropped without an error.
+inline std::size_t with_ra_data(std::size_t frame_size) {
+    return frame_size < max_buffer_size / 3 ? 3 * frame_size : frame_size;
+}
+
 /// Retries with a larger buffer while a C function reports one of the three errors that mean too little room. The
 /// buffer has a guard byte after the size that is passed.
 template <class Buffer, class Write>
@@ -679,12 +685,12 @@ bool operator<(const A &a, const B &b) {
 namespace detail {
 
 /// @cond helpers
-/// Through a frame, like T_copy_cr, but in a buffer that is large enough for any record.
+/// Through a frame, like T_copy_cr, but in a buffer of the record's size.
 template <class R, class Self>
 record<R> operations<R, Self>::copy() const {
     lumo_ui_tarn::context &c = this->context();
     typename R::native *result = nullptr;
-    const std::size_t size = frame_size();
+    const std::size_t size = with_ra_data(frame_size());
     std::vector<std::uint8_t> buffer(size + 1);
     c.call(R::clone, this->native_, &result, static_cast<void *>(buffer.data()), static_cast<std::uint32_t>(size));
     return record<R>::take(c, result);

@@ -190,6 +190,27 @@ TEST(CppInterface, FramesThatWereMovedFromAreEmpty) {
     EXPECT_EQ(source, whole);
 }
 
+TEST(CppInterface, RecordsWithRaDataAreCopiedWithAllStates) {
+    for (const Tracking tracking : kit::every_tracking) {
+        SCOPED_TRACE(kit::name_of(tracking));
+        kit::Handle h(tracking);
+        context c(h);
+        dp_tc_list object(c);
+        object.tc_list().grow(20);
+        const auto attach = [&](void *native) { EXPECT_EQ(mirk_platform_set_ra_data(h, native, nullptr, 1), 0u); };
+        attach(object.get());
+        for (std::size_t i = 0; i < 20; ++i) {
+            attach(object.tc_list()[i].get());
+            if (h.tracks()) object.tc_list().set_state(i, 3);
+        }
+        const dp_tc_list copy = object.copy();
+        EXPECT_TRUE(copy == object);
+        for (std::size_t i = 0; i < 20; ++i) {
+            EXPECT_EQ(copy.tc_list().state(i), object.tc_list().state(i)) << i;
+        }
+    }
+}
+
 TEST(CppInterface, CopiesAreDeepAndMovesKeepTheObject) {
     for (const Tracking tracking : kit::every_tracking) {
         SCOPED_TRACE(kit::name_of(tracking));

@@ -15,7 +15,7 @@ from conftest import MESSAGES, RECORDS, tool, values_of
 from hypothesis import HealthCheck, given, settings
 from hypothesis import strategies as st
 from lumo_tarn import _schema
-from lumo_tarn._native import lib
+from lumo_tarn._native import ffi, lib
 
 
 def json_lines(data: bytes) -> list:
@@ -165,6 +165,17 @@ def test_assigning_frees_the_former_content(handle):
     message.payload = data
     message.payload = lumo_tarn.DpTtTableData()
     assert len(message.payload.lumo_data) == 0
+
+
+def test_records_with_ra_data_are_copied(handle):
+    table = lumo_tarn.DpTcList(on=handle)
+    table.tc_list.extend({"proto": number} for number in range(20))
+    states = [table.tc_list.state(at) for at in range(20)]
+    for record in [table, *table.tc_list]:
+        assert lib.mirk_platform_set_ra_data(handle.native, record.native, ffi.NULL, 1) == 0
+    copied = table.copy()
+    assert copied == table
+    assert [copied.tc_list.state(at) for at in range(20)] == states
 
 
 def test_records_have_order_text_and_repr(handle):

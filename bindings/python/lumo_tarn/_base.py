@@ -237,7 +237,8 @@ class Record(Native):
         return record
 
     def _cloned(self) -> Any:
-        size = self._function("len")(self._handle.native, CTX_ID, self.native)
+        # Room for RA data, which len does not count: 9 bytes for each object, whose frame has at least 6 bytes.
+        size = 3 * self._function("len")(self._handle.native, CTX_ID, self.native)
         result, buffer = ffi.new(f"{self.record_name} **"), ffi.new("uint8_t[]", size + 1)
         self._call("clone", result, buffer, size)
         return result[0]
