@@ -3,7 +3,7 @@
 ///
 /// - Records: three types for each type in C. For lumo_tarn_dp_tc they are dp_tc, which owns a record, dp_tc_ref, which
 ///   borrows one, and dp_tc_view, which borrows one to read it.
-/// - Enumerations: enum classes, for example ha_state. name_of() returns the name of an enumerator in C.
+/// - Enumerations: enum classes, for example ha_state. name_of() returns the C name of an enumerator.
 /// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
 /// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
 ///
@@ -14,20 +14,20 @@
 /// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
 /// - set_proto(value) writes the value and returns the object, so that calls chain. EINVAL for text with a NUL
 ///   character, EOVERFLOW for text of more than 65535 bytes.
-/// - set_appl(record) makes a deep copy of a record in the nested record appl.
+/// - set_appl(record) replaces the contents of the nested record appl by a deep copy of record.
 /// - adopt_appl(record) moves the contents of a record into the nested record appl. The source keeps its C object,
 ///   without arrays and strings.
-/// - proto_state() returns the state byte, or nothing if the record has no state bytes.
+/// - proto_state() returns the state byte, or std::nullopt if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
 ///
 /// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no
-/// setter, because the container writes elements. If the name of a member is a keyword or a function of all records,
-/// _member is appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names from
-/// the systems that send the data. The library does not interpret these values.
+/// setter, because the container writes elements. If the name of a member were a keyword or a function of all records,
+/// _member would be appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names
+/// from the systems that send the data. The library does not interpret the members that they describe.
 ///
-/// dp_tc_type names the C functions of the whole record: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
-/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions and explains the terms: handle,
-/// ctx_id, state byte, RA data and others.
+/// dp_tc_type has the C functions of the whole record as static members: c.call(dp_tc_type::adjust_variant, tc.get()).
+/// If the name is a keyword, _operation is appended: sizeof_operation. lumo_ui_tarn/families.h describes the functions
+/// and explains the terms: handle, ctx_id, state byte, RA data and others.
 ///
 /// Everything is inline: link the C library.
 // Generated from the schema; edit the tables there and run tools/regenerate.
@@ -184,7 +184,7 @@ enum class ha_state : std::uint32_t {
     fault_recovery_state = 7,  ///< LUMO_TARN_HA_FAULT_RECOVERY_STATE
     quiesce_state = 8,  ///< LUMO_TARN_HA_QUIESCE_STATE
 };
-/// Returns the enumerator's name in C, or "" for any other value: frames can contain any number.
+/// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
 constexpr std::string_view name_of(ha_state value) {
     switch (value) {
         case ha_state::invalid_state:
@@ -208,7 +208,7 @@ constexpr std::string_view name_of(ha_state value) {
     }
     return {};
 }
-/// Names the C functions of lumo_tarn_ha_state_e.
+/// The C functions of lumo_tarn_ha_state_e, as static members.
 struct ha_state_type {
     using value = lumo_ui_tarn::ha_state;  ///< the type of its values
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_ha_state_e);
@@ -220,7 +220,7 @@ enum class lumo_direction : std::uint32_t {
     egress = 1,  ///< LUMO_TARN_DIR_EGRESS
     both = 2,  ///< LUMO_TARN_DIR_BOTH
 };
-/// Returns the enumerator's name in C, or "" for any other value: frames can contain any number.
+/// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
 constexpr std::string_view name_of(lumo_direction value) {
     switch (value) {
         case lumo_direction::ingress:
@@ -232,7 +232,7 @@ constexpr std::string_view name_of(lumo_direction value) {
     }
     return {};
 }
-/// Names the C functions of lumo_tarn_lumo_direction_e.
+/// The C functions of lumo_tarn_lumo_direction_e, as static members.
 struct lumo_direction_type {
     using value = lumo_ui_tarn::lumo_direction;  ///< the type of its values
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_lumo_direction_e);
@@ -244,7 +244,7 @@ enum class mem_desc : std::uint32_t {
     tt_mem = 1,  ///< LUMO_TARN_TT_MEM
     flow_mem = 2,  ///< LUMO_TARN_FLOW_MEM
 };
-/// Returns the enumerator's name in C, or "" for any other value: frames can contain any number.
+/// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
 constexpr std::string_view name_of(mem_desc value) {
     switch (value) {
         case mem_desc::mp_mem:
@@ -256,7 +256,7 @@ constexpr std::string_view name_of(mem_desc value) {
     }
     return {};
 }
-/// Names the C functions of lumo_tarn_mem_desc_e.
+/// The C functions of lumo_tarn_mem_desc_e, as static members.
 struct mem_desc_type {
     using value = lumo_ui_tarn::mem_desc;  ///< the type of its values
     LUMO_UI_TARN_ENUMERATION(lumo_tarn_mem_desc_e);

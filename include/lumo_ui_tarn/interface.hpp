@@ -1,10 +1,13 @@
 /// @file
 /// interface.hpp - what the types of lumo_ui_tarn.hpp have in common. Include lumo_ui_tarn.hpp instead of this header.
 ///
-/// A context holds the arguments that all C functions take: handle, ctx_id and error slot. It also decides how errors
-/// are reported: thrown as std::system_error, or kept in the slot as in C. Errors are those of the C functions (see
-/// lumo_ui_tarn/families.h) and those named in this header. If a std::string or frame cannot be allocated,
-/// std::bad_alloc is thrown in both modes.
+/// A context holds the arguments that most C functions share: handle, ctx_id and error slot. It also decides how errors
+/// are reported: thrown as std::system_error, or kept in the slot as in C. Errors are those of the C functions and
+/// those named in this header and in lumo_ui_tarn.hpp. If a std::string or frame cannot be allocated, std::bad_alloc is
+/// thrown in both modes.
+///
+/// lumo_ui_tarn/families.h describes the C functions and their errors, and explains the terms: ctx_id, state byte,
+/// notification, RA data, guard byte and others.
 ///
 /// A record has three types:
 /// - dp_tc owns a record and destroys it. A const dp_tc is read-only.
@@ -13,8 +16,8 @@
 /// - dp_tc_view borrows a record to read it. Owners and references convert to views.
 ///
 /// Messages have the same three types. get() returns the C object, a pointer for functions that this header does not
-/// wrap; const owners and views return it as const. An owner that was moved from has no C object: get() is nullptr, its
-/// members read as zero, and functions that write it, copy it or convert it report ENOENT or EINVAL.
+/// wrap; const owners and views return it as const. An owner that was moved from or released has no C object: get() is
+/// nullptr, its members read as zero, and functions that write it, copy it or convert it report ENOENT or EINVAL.
 ///
 /// Everything is inline. Reading or writing a scalar calls one C function, such as lumo_tarn_dp_tc_proto_get_value().
 /// Reading a string, writing an address, and copying or moving a nested record that owns arrays or strings take several
@@ -113,7 +116,7 @@ public:
         }
     }
 
-    /// Reports an error, an errno number, as if a C function had set it. A kept error stays.
+    /// Reports an error, an errno number, as if a C function had set it. If an error is kept, reports that one instead.
     void fail(std::uint32_t number, const char *explanation = nullptr) {
         if (slot_ == 0) slot_ = number;
         raise(explanation);
@@ -211,7 +214,7 @@ struct address {
 /// access it. Functions that do not exist are nullptr.
 template <class Get, class Set, class GetState, class SetState>
 struct member {
-    std::string_view name;  ///< its name in C
+    std::string_view name;  ///< its C name
     Get get;                ///< reads it
     Set set;                ///< writes it
     GetState get_state;     ///< reads its state byte
@@ -331,8 +334,8 @@ class bound {
 public:
     /// The context that was passed to the constructor.
     lumo_ui_tarn::context &context() const { return *context_; }
-    /// True if there is a C object: the owner was not moved from, and the object could be created. No test for other
-    /// errors: see context::ok().
+    /// True if there is a C object: the owner was not moved from or released, and the object could be created. It does
+    /// not tell whether an error is kept: see context::ok().
     explicit operator bool() const { return native_ != nullptr; }
 
     /// @cond helpers
@@ -359,10 +362,10 @@ class operations : public bound<typename R::native> {
     using base = bound<typename R::native>;
 
 public:
-    /// Names the record's C functions.
+    /// The type whose static members are the record's C functions.
     using record_type = R;
 
-    /// The record's name in C.
+    /// The record's C name.
     static constexpr std::string_view record_name() { return R::name; }
 
     /// Converts to a view of the record.
@@ -398,7 +401,7 @@ public:
                              err);
         });
     }
-    /// Returns text for people, under this name. There is no parser for it.
+    /// Returns human-readable text that starts with this name. It cannot be read back.
     std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
@@ -566,10 +569,11 @@ public:
     /// The C object, or nullptr.
     typename R::native *get() const { return this->native_; }
     /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
-    /// arrays in nested records keep theirs. Has no effect on a record without state bytes.
+    /// arrays in nested records keep the states of their members. Has no effect on a record without state bytes.
     ///
-    /// The blocks with the states of elements are leaked: array_ref::state() then returns value for each element, and
-    /// array_ref::set_state() has no effect, until the array grows, which clears the states of its elements.
+    /// The blocks with the states of elements are leaked, also those of arrays in nested records: array_ref::state()
+    /// then returns value for each element, and array_ref::set_state() has no effect, until the array grows, which
+    /// clears the states of its elements.
     void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
     template <class Visit>
@@ -635,7 +639,7 @@ public:
                std::uint32_t{0});
         return fresh;
     }
-    /// Creates a record from a frame.
+    /// Creates a record from a frame. Of several frames in sequence, only the first one is read.
     static record from_frame(context &c, const frame &whole) {
         return from_frame_with_guard(c, whole.data(), whole.size());
     }
@@ -647,9 +651,9 @@ public:
     /// Creates a record from a copy of a frame: no guard byte is needed.
     static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// Creates a record from an element of a document of the runtime: the one at path, or the first one, at any depth,
-    /// with the record's name. ENOENT if there is none, EINVAL for an invalid number. Documents of the reference
-    /// runtime are created by mirk_platform_document_load_memory().
+    /// Creates a record from an element of an XML document that the runtime has parsed: the one at path, or the first
+    /// one, at any depth, with the record's name. ENOENT if there is none, EINVAL for an invalid number. The reference
+    /// runtime parses a document with mirk_platform_document_load_memory().
     static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
         detail::read_xml<R>(c, document, path, fresh.get());
@@ -701,7 +705,7 @@ record<R> operations<R, Self>::copy() const {
 
 namespace detail {
 
-/// A container over an array of a record. Elements are references or views.
+/// A container over an array that is a member of a record. Its elements are references or views.
 template <class A, class Element>
 class array {
 public:
@@ -791,7 +795,7 @@ public:
     /// Iterator past the last element.
     iterator end() const { return {context_, owner_, size()}; }
 
-    /// The state byte of an element, or nothing if the record has no state bytes. ENOENT if index is not less than
+    /// The state byte of an element, or std::nullopt if the record has no state bytes. ENOENT if index is not less than
     /// size().
     std::optional<std::uint8_t> state(std::size_t index) const {
         const auto *object = reinterpret_cast<const mirk_object *>(owner_);
@@ -818,17 +822,17 @@ protected:
 
 }  // namespace detail
 
-/// An array of a record, read-only.
+/// Borrows an array that is a member of a record, to read it.
 template <class A>
 class array_view : public detail::array<A, record_view<typename A::element>> {
 public:
-    /// An array of this record.
+    /// Borrows the array from the record owner.
     array_view(context &c, const typename A::native *owner)
         : detail::array<A, record_view<typename A::element>>(c, const_cast<typename A::native *>(owner)) {}
 };
 
-/// An array of a record. It is valid as long as the record. Growing moves all elements and invalidates references to
-/// them: grow once, then fill.
+/// Borrows an array that is a member of a record. It is valid as long as that record. Growing moves all elements and
+/// invalidates references to them: grow once, then fill.
 template <class A>
 class array_ref : public detail::array<A, record_ref<typename A::element>> {
     using base = detail::array<A, record_ref<typename A::element>>;
@@ -840,7 +844,7 @@ public:
     using base::max_size;
     using base::size;
 
-    /// An array of this record.
+    /// Borrows the array from the record owner.
     array_ref(context &c, typename A::native *owner) : base(c, owner) {}
     /// Converts to a read-only array.
     operator array_view<A>() const { return {*context_, owner_}; }
@@ -901,14 +905,14 @@ class message_operations : public bound<typename M::native> {
     using base = bound<typename M::native>;
 
 public:
-    /// Names the message's C functions.
+    /// The type whose static members are the message's C functions.
     using message_type = M;
-    /// Names its payload's C functions.
+    /// The type whose static members are the C functions of its payload.
     using payload_type = typename M::payload;
 
-    /// The message's name in C.
+    /// The message's C name.
     static constexpr std::string_view message_name() { return M::name; }
-    /// Its identity, 16 bytes.
+    /// Its identity (LUID), 16 bytes.
     static const std::uint8_t *luid() { return M::luid(); }
 
     /// Converts to a view of the message.
@@ -942,7 +946,7 @@ public:
     }
     /// Returns an XML element with the message's name.
     std::string to_xml() const { return rendered(M::to_xml); }
-    /// Returns text for people. There is no parser for it.
+    /// Returns human-readable text. It cannot be read back.
     std::string text() const { return rendered(M::print); }
 
     /// @cond helpers
@@ -1068,7 +1072,9 @@ public:
     /// Transfers ownership of the C object to the caller, who destroys it.
     [[nodiscard]] typename M::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// Creates a message from a frame of size bytes. One guard byte, which size does not count, follows them.
+    /// Creates a message from a frame of size bytes. One guard byte, which size does not count, follows them. The
+    /// identity in the frame is not checked: compare its bytes 27 to 42 with luid() before. Of several frames in
+    /// sequence, only the first one is read.
     static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         std::uint32_t err = *c.slot();
@@ -1078,20 +1084,22 @@ public:
         if (err != 0) c.fail(err);
         return read;
     }
-    /// Creates a message from a frame.
+    /// Creates a message from a frame, whose identity is not checked. See from_frame_with_guard().
     static message from_frame(context &c, const frame &whole) {
         return from_frame_with_guard(c, whole.data(), whole.size());
     }
-    /// Creates a message from a copy of a frame: no guard byte is needed.
+    /// Creates a message from a copy of a frame: no guard byte is needed. The identity is not checked. See
+    /// from_frame_with_guard().
     static message from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
-    /// Creates a message from a copy of a frame: no guard byte is needed.
+    /// Creates a message from a copy of a frame: no guard byte is needed. The identity is not checked. See
+    /// from_frame_with_guard().
     static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
 #endif
-    /// Creates a message and reads its payload from the first element of a document of the runtime that has the
-    /// payload's name. If there is none, all members of the payload are zero and no error is reported. See
+    /// Creates a message and reads its payload from the first element of a parsed XML document that has the payload's
+    /// name. If there is none, all members of the payload are zero and no error is reported. See
     /// record::from_xml.
     static message from_xml(context &c, void *document) {
         message fresh(c);
@@ -1104,8 +1112,9 @@ private:
     message(context &c, typename M::native *native) : base(c, native) {}
 };
 
-/// Writes the frames of a bundle: its start, its messages, and its commit or abort. The destructor aborts an open
-/// bundle on the handle, without a frame: do not send frames() before commit() or abort().
+/// Writes the frames of a bundle: its start, its messages, and its commit or abort. If the bundle is still open, the
+/// destructor aborts it on the handle but appends no frame. A receiver of frames() would then see a bundle without an
+/// end, so send them only after commit() or abort().
 template <class B>
 class bundle_writer {
 public:

@@ -316,11 +316,11 @@ std::string enumeration_type(const Enumeration &enumeration) {
         cases += "        case " + name + "::" + enumerator + ":\n            return \"" + in_c + "\";\n";
     }
     return text +
-           "};\n/// Returns the enumerator's name in C, or \"\" for any other value: frames can contain any number.\n" +
+           "};\n/// Returns the enumerator's C name, or \"\" for any other value: frames can contain any number.\n" +
            "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
-           "    }\n    return {};\n}\n/// Names the C functions of " + c + ".\nstruct " + name + "_type {\n" +
-           "    using value = " + space + name + ";  ///< the type of its values\n    LUMO_UI_TARN_ENUMERATION(" + c +
-           ");\n};\n\n";
+           "    }\n    return {};\n}\n/// The C functions of " + c + ", as static members.\nstruct " + name +
+           "_type {\n" + "    using value = " + space + name +
+           ";  ///< the type of its values\n    LUMO_UI_TARN_ENUMERATION(" + c + ");\n};\n\n";
 }
 
 std::string message_types(const Message &message) {
@@ -350,7 +350,7 @@ constexpr std::string_view introduction = R"(/// @file
 ///
 /// - Records: three types for each type in C. For lumo_tarn_dp_tc they are dp_tc, which owns a record, dp_tc_ref, which
 ///   borrows one, and dp_tc_view, which borrows one to read it.
-/// - Enumerations: enum classes, for example ha_state. name_of() returns the name of an enumerator in C.
+/// - Enumerations: enum classes, for example ha_state. name_of() returns the C name of an enumerator.
 /// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
 /// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
 ///
@@ -361,20 +361,20 @@ constexpr std::string_view introduction = R"(/// @file
 /// - proto() returns the value. A nested record is returned as a reference or view, an array as a container of them.
 /// - set_proto(value) writes the value and returns the object, so that calls chain. EINVAL for text with a NUL
 ///   character, EOVERFLOW for text of more than 65535 bytes.
-/// - set_appl(record) makes a deep copy of a record in the nested record appl.
+/// - set_appl(record) replaces the contents of the nested record appl by a deep copy of record.
 /// - adopt_appl(record) moves the contents of a record into the nested record appl. The source keeps its C object,
 ///   without arrays and strings.
-/// - proto_state() returns the state byte, or nothing if the record has no state bytes.
+/// - proto_state() returns the state byte, or std::nullopt if the record has no state bytes.
 /// - set_proto_state(value) writes the state byte. EINVAL if the record has no state bytes.
 ///
 /// Counts and lengths have only the first function, because they follow from the array or string. Arrays have no
-/// setter, because the container writes elements. If the name of a member is a keyword or a function of all records,
-/// _member is appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names from
-/// the systems that send the data. The library does not interpret these values.
+/// setter, because the container writes elements. If the name of a member were a keyword or a function of all records,
+/// _member would be appended. Words such as ppe, fdb, wexa, kesh, smc and mdr in the descriptions of members are names
+/// from the systems that send the data. The library does not interpret the members that they describe.
 ///
-/// dp_tc_type names the C functions of the whole record: c.call(dp_tc_type::adjust_variant, tc.get()). If the name is a
-/// keyword, _operation is appended. lumo_ui_tarn/families.h describes the functions and explains the terms: handle,
-/// ctx_id, state byte, RA data and others.
+/// dp_tc_type has the C functions of the whole record as static members: c.call(dp_tc_type::adjust_variant, tc.get()).
+/// If the name is a keyword, _operation is appended: sizeof_operation. lumo_ui_tarn/families.h describes the functions
+/// and explains the terms: handle, ctx_id, state byte, RA data and others.
 ///
 /// Everything is inline: link the C library.
 // Generated from the schema; edit the tables there and run tools/regenerate.
