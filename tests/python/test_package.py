@@ -173,9 +173,9 @@ def test_records_with_ra_data_are_copied(handle):
     states = [table.tc_list.state(at) for at in range(20)]
     for record in [table, *table.tc_list]:
         assert lib.mirk_platform_set_ra_data(handle.native, record.native, ffi.NULL, 1) == 0
-    copied = table.copy()
-    assert copied == table
-    assert [copied.tc_list.state(at) for at in range(20)] == states
+        for received in (table.copy(), lumo_tarn.DpTcList.from_frame(table.to_frame(), on=handle)):
+            assert received == table
+            assert [received.tc_list.state(at) for at in range(20)] == states
 
 
 def test_records_have_order_text_and_repr(handle):

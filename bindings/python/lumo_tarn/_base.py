@@ -181,11 +181,15 @@ class Record(Native):
 
     # ---- whole
 
+    def _frame_room(self) -> int:
+        # Room for RA data, which len does not count: 9 bytes for each object, whose frame has at least 6 bytes. In a
+        # smaller buffer, state bytes at the end can be dropped without an error.
+        return 3 * int(self._function("len")(self._handle.native, CTX_ID, self.native))
+
     def to_frame(self) -> bytes:
         """Returns the record as a frame."""
-        size = self._function("len")(self._handle.native, CTX_ID, self.native)
         marshal, native, h = self._function("marshal"), self.native, self._handle
-        return h.grown(size, lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
+        return h.grown(self._frame_room(), lambda buffer, room, err: marshal(h.native, CTX_ID, buffer, native, room, err))
 
     @classmethod
     def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
@@ -237,8 +241,7 @@ class Record(Native):
         return record
 
     def _cloned(self) -> Any:
-        # Room for RA data, which len does not count: 9 bytes for each object, whose frame has at least 6 bytes.
-        size = 3 * self._function("len")(self._handle.native, CTX_ID, self.native)
+        size = self._frame_room()
         result, buffer = ffi.new(f"{self.record_name} **"), ffi.new("uint8_t[]", size + 1)
         self._call("clone", result, buffer, size)
         return result[0]
