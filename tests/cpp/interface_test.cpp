@@ -197,17 +197,16 @@ TEST(CppInterface, RecordsWithRaDataAreCopiedWithAllStates) {
         context c(h);
         dp_tc_list object(c);
         object.tc_list().grow(20);
-        const auto attach = [&](void *native) { EXPECT_EQ(mirk_platform_set_ra_data(h, native, nullptr, 1), 0u); };
+        for (std::size_t i = 0; h.tracks() && i < 20; ++i) object.tc_list().set_state(i, 3);
+        // The frame grows with each: the buffer must not be too small for some states, nor for some elements.
+        const auto attach = [&](void *native) {
+            ASSERT_EQ(mirk_platform_set_ra_data(h, native, nullptr, 1), 0u);
+            const dp_tc_list copy = object.copy();
+            EXPECT_TRUE(copy == object);
+            for (std::size_t i = 0; i < 20; ++i) EXPECT_EQ(copy.tc_list().state(i), object.tc_list().state(i)) << i;
+        };
         attach(object.get());
-        for (std::size_t i = 0; i < 20; ++i) {
-            attach(object.tc_list()[i].get());
-            if (h.tracks()) object.tc_list().set_state(i, 3);
-        }
-        const dp_tc_list copy = object.copy();
-        EXPECT_TRUE(copy == object);
-        for (std::size_t i = 0; i < 20; ++i) {
-            EXPECT_EQ(copy.tc_list().state(i), object.tc_list().state(i)) << i;
-        }
+        for (const auto element : object.tc_list()) attach(element.get());
     }
 }
 
