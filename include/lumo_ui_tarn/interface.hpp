@@ -386,7 +386,8 @@ public:
         return write_frame(with_guard.data(), with_guard.size());
     }
 #endif
-    /// Returns the frame.
+    /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
+    /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
     frame to_frame() const {
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
@@ -936,7 +937,8 @@ public:
         return write_frame(with_guard.data(), with_guard.size());
     }
 #endif
-    /// Returns the frame.
+    /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
+    /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
     frame to_frame() const {
         if (!has_object()) return {};
         lumo_ui_tarn::context &c = this->context();
