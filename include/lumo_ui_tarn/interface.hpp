@@ -572,8 +572,8 @@ public:
     /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
     /// arrays in nested records keep the states of their members. Has no effect on a record without state bytes.
     ///
-    /// The blocks with the states of elements are leaked, also those of arrays in nested records: array_ref::state()
-    /// then returns value for each element, and array_ref::set_state() has no effect, until the array grows, which
+    /// The blocks with the states of elements are leaked, also those of arrays in nested records. array_ref::state()
+    /// then returns value for each element, and array_ref::set_state() has no effect, until the array grows. That
     /// clears the states of its elements.
     void set_all_states(std::uint8_t value) const { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
