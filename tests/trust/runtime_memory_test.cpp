@@ -31,16 +31,21 @@ void *some_new(std::size_t size) {
     if (refuses()) throw std::bad_alloc();
     return ::operator new(size);
 }
+void *some_aligned_new(std::size_t size, std::align_val_t alignment) {
+    if (refuses()) throw std::bad_alloc();
+    return ::operator new(size, alignment);
+}
 
 // During its lifetime, allocations of the reference runtime are counted and can fail.
 class ShortOfMemory {
 public:
-    ShortOfMemory() { EXPECT_TRUE(malloc_.found() && calloc_.found() && new_.found()); }
+    ShortOfMemory() { EXPECT_TRUE(malloc_.found() && calloc_.found() && new_.found() && aligned_new_.found()); }
 
 private:
     const Import malloc_{"libmirklib", "malloc", reinterpret_cast<void *>(&some_malloc)};
     const Import calloc_{"libmirklib", "calloc", reinterpret_cast<void *>(&some_calloc)};
     const Import new_{"libmirklib", "_Znwm", reinterpret_cast<void *>(&some_new)};
+    const Import aligned_new_{"libmirklib", "_ZnwmSt11align_val_t", reinterpret_cast<void *>(&some_aligned_new)};
 };
 
 // Repeats the work, with a different allocation failing each time. Returns the number of allocations.
