@@ -9,7 +9,7 @@ namespace tarn::bench {
 namespace {
 
 // Allocates blocks one after another and releases all of them with the last one: an obj_alloc for programs that handle
-// one message at a time.
+// one message at a time. It installs empty notifications, too.
 class Arena {
 public:
     explicit Arena(mirk_handle *h) : h_(h), before_(*h), memory_(std::size_t{4} << 20) {
@@ -18,11 +18,15 @@ public:
             return static_cast<Arena *>(self)->take(size);
         };
         h->obj_free = [](void *self, std::uint32_t, void *p) { static_cast<Arena *>(self)->give(p); };
+        h->write_notify = [](void *, void *, std::size_t, std::uint32_t) { return 0; };
+        h->count_notify = [](void *, std::uint64_t *, std::int64_t, std::uint32_t) { return 0; };
     }
     ~Arena() {
         h_->mem_ctx = before_.mem_ctx;
         h_->obj_alloc = before_.obj_alloc;
         h_->obj_free = before_.obj_free;
+        h_->write_notify = before_.write_notify;
+        h_->count_notify = before_.count_notify;
     }
     Arena(const Arena &) = delete;
     Arena &operator=(const Arena &) = delete;
