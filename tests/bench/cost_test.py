@@ -59,6 +59,11 @@ class Comparison(unittest.TestCase):
     def test_another_allocation_is_reported(self):
         self.assertEqual(len(self.worse("encode/deep/library", 1000, 3.0)), 1)
 
+    def test_allocations_of_a_handle_that_tracks_are_not_compared(self):
+        golden = {"encode/deep/library, tracking": [1000, 2.0]}
+        worse, _ = cost.compare({"encode/deep/library, tracking": [1000, 3.0]}, golden)
+        self.assertEqual(worse, [])
+
     def test_what_is_missing_on_either_side_is_reported(self):
         self.assertEqual(len(self.worse("decode/deep/library", 1000, 2.0)), 2)
 
