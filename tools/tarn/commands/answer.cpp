@@ -43,13 +43,15 @@ void add_answer(CLI::App &app, Context &) {
     CLI::Option_group *endpoint = command->add_option_group("endpoint", "Where to listen");
     endpoint->add_option("--socket", options->socket, "Unix domain socket; only its owner may connect")
         ->type_name(words::file);
-    endpoint->add_option("--listen", options->listen, tcp_words() + "; anybody who can reach it may connect")
+    endpoint
+        ->add_option("--listen", options->listen,
+                     tcp_words() + "; no authentication: anyone who can reach it may connect")
         ->type_name(words::address);
     endpoint->require_option(1);
-    command->add_option("served", options->served, "A bundle, and the file with its messages as XML, JSON or frames")
+    command->add_option("served", options->served, "A bundle, and the file with its messages as frames, XML or JSON")
         ->type_name(words::bundle_file)
         ->required();
-    command->add_option("--peers", options->peers, "Maximum number of peers; further ones are disconnected")
+    command->add_option("--peers", options->peers, "Maximum number of peers; additional peers are disconnected")
         ->check(CLI::Range(1U, 1U << 20).description(""))
         ->capture_default_str();
     add_seconds(*command, "--idle", options->idle, "Disconnect a peer that is silent for longer; 0: never");
@@ -59,7 +61,7 @@ void add_answer(CLI::App &app, Context &) {
                 "Disconnect a peer that takes longer to read an answer; 0: never");
     add_size(*command, "--frame-limit", options->frame_limit, "Largest frame that a peer may send", 1 << 10);
     add_size(*command, "--unread", options->unread,
-             "Maximum unread bytes of one peer; also the size of the largest answer", 1 << 10);
+             "Maximum size of the answers that one peer has not read yet, and thus of one answer", 1 << 10);
     add_size(*command, "--unread-total", options->unread_total,
              "Maximum unread bytes of all peers, at least --unread; the peer with the most is disconnected", 1 << 10);
     add_size(*command, "--snapshot-limit", options->snapshot_limit,
@@ -71,10 +73,10 @@ void add_answer(CLI::App &app, Context &) {
         ->transform(CLI::CheckedTransformer(fault_names)
                         .description("{abort,cut,foreign,garbage,no-commit,second-start,silent,unknown}"));
     command->footer(
-        "Prints one line when it is ready to accept connections. SIGINT and SIGTERM stop\n"
-        "it with exit code 0. A peer that exceeds a limit, or sends anything but\n"
-        "requests, is disconnected and reported on standard error with the reason; other\n"
-        "peers are not affected.\n\n"
+        "Prints one line when it is ready to accept connections, and a summary when it\n"
+        "stops. SIGINT and SIGTERM stop it with exit code 0. A peer that exceeds a limit,\n"
+        "or sends anything but requests, is disconnected and reported on standard error\n"
+        "with the reason; other peers are not affected.\n\n"
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.json dp-intf=intf.xml\n"

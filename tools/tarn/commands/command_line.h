@@ -10,18 +10,21 @@ namespace tarn::tool {
 
 // The terms that the help and the manual page use.
 inline constexpr char terms[] =
-    "The traffic-aware routing feature tarn reports its configuration and its state in\n"
-    "records. A message carries one record and travels as a binary frame, which begins\n"
-    "with a header and the 16-byte identifier of its type, the luid. With per-field\n"
-    "state, the frame also has one byte for each member, which programs use to mark it\n"
-    "as set or changed; XML and JSON show the bytes that are not 0. A bundle is a\n"
-    "sequence of messages between two control frames, a start and a commit. One process\n"
-    "requests a bundle by name, and another answers with the frames of that bundle.";
+    "Routers with traffic-aware routing, a feature that is also called tarn, report its\n"
+    "configuration and state as records. The program tarn works on these records, with\n"
+    "the library lumo_ui_tarn. A message carries one record and travels as a binary\n"
+    "frame, which begins with a header and the 16-byte identifier of its type, the luid.\n"
+    "With per-field state, the frame also has one state byte for each member, which\n"
+    "programs use to mark it as set or changed; XML and JSON contain only the nonzero\n"
+    "state bytes. A bundle is a sequence of messages between two control frames: a start,\n"
+    "and a commit or an abort, which discards the bundle. One process requests a bundle\n"
+    "by name, and another answers with the frames of that bundle.";
 
 // The forms of values that several commands take.
 inline constexpr char value_rule[] =
-    "The file name - stands for standard input or standard output. A SIZE is in bytes\n"
-    "or has a unit, such as 64KiB or 1MiB.";
+    "The name - of an input or output file stands for standard input or output; use it\n"
+    "at most once for each of the two. A SIZE is in bytes or has a unit, such as 64KiB\n"
+    "or 1MiB.";
 
 std::vector<const CLI::App *> commands_of(const CLI::App &app);
 std::vector<const CLI::App *> groups_of(const CLI::App &command);

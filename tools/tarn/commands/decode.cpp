@@ -168,14 +168,15 @@ Exit run_decode(const DecodeOptions &options) {
 void add_decode(CLI::App &app, Context &context) {
     auto options = std::make_shared<DecodeOptions>();
     CLI::App *command = app.add_subcommand("decode", "Convert frames and recordings to text, XML or JSON");
-    add_input(*command, options->file, "Frames, XML fragments or JSON");
+    add_input(*command, options->file, "Frames, XML or JSON");
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
     form->add_flag("--xml", options->xml, "XML, one message per line unless a string contains a newline");
     form->add_flag("--json", options->json, "JSON, one object per line");
     form->require_option(0, 1);
-    CLI::Option *bundles = command->add_flag(
-        "--bundles", options->bundles, "Receive bundles from frames: print messages when their bundle is committed");
+    CLI::Option *bundles =
+        command->add_flag("--bundles", options->bundles,
+                          "Receive bundles (the input must be frames): print messages when their bundle is committed");
     add_via(*command, options->via, "Where to register the handler of the bundles")->needs(bundles);
     command->add_flag("-k,--keep-going", options->keep_going,
                       "Print errors and continue with the next frame or fragment");
@@ -184,7 +185,10 @@ void add_decode(CLI::App &app, Context &context) {
     command->footer(
         "With --bundles, a message outside any bundle is printed at once; \"tarn show\n"
         "--help\" explains --via. With --keep-going, the exit code is the highest of all\n"
-        "errors. Bytes that are not a frame, and an error in JSON, end decoding anyway.\n\n"
+        "errors. Bytes that are not a frame, and an error in JSON, always stop decoding.\n"
+        "Malformed XML, such as an element without an end, prevents all output.\n\n"
+        "Frames are read as the library reads them, which does not detect every broken\n"
+        "frame; \"tarn dissect\" does.\n\n"
         "Examples:\n"
         "  tarn decode answer.bin --json\n"
         "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles -v\n"

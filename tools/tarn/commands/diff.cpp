@@ -145,7 +145,10 @@ void add_diff(CLI::App &app, Context &context) {
     command->add_flag("--no-state", options->no_state, "Ignore per-field state");
     add_lenient(*command, options->lenient);
     command->footer(
-        "The exit code is 0 if the messages are equal, and 1 if they differ.\n\n"
+        "The exit code is 0 if the messages are equal, and 1 if they differ. If they are\n"
+        "equal, nothing is printed, or [] with --json.\n\n"
+        "Frames are read as the library reads them, which does not detect every broken\n"
+        "frame; \"tarn dissect\" does.\n\n"
         "Examples:\n"
         "  tarn diff before.bin after.bin\n"
         "  tarn diff examples/cl_debug.xml answer.json --json");

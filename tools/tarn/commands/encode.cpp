@@ -34,7 +34,7 @@ Exit run_encode(const EncodeOptions &options) {
 void add_encode(CLI::App &app, Context &context) {
     auto options = std::make_shared<EncodeOptions>();
     CLI::App *command = app.add_subcommand("encode", "Convert XML and JSON to frames");
-    add_input(*command, options->file, "XML, JSON or frames");
+    add_input(*command, options->file, "Frames, XML or JSON");
     add_output(*command, options->output, "Output file");
     command->add_option("--bundle", options->bundle, "Put the start and the commit of this bundle around the messages")
         ->type_name(words::bundle);
@@ -48,7 +48,8 @@ void add_encode(CLI::App &app, Context &context) {
     command->footer(
         "The input is checked against the schema: a misspelled member, an unknown\n"
         "enumerator, a value out of range or a missing payload is an error, reported with\n"
-        "its line or path. See --lenient for exceptions.\n\n"
+        "its line or path. A missing member is zero; this is not an error. See --lenient\n"
+        "for exceptions.\n\n"
         "Examples:\n"
         "  tarn encode examples/cl_debug.xml -o debug.bin\n"
         "  tarn encode tables.json --bundle dp-tt-cfg --tracked | tarn dissect\n"

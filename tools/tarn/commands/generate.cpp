@@ -137,12 +137,13 @@ void add_generate(CLI::App &app, Context &) {
     CLI::App *command = app.add_subcommand("generate", "Generate a message with random, plausible values");
     command->add_option("type", options->type, "Bundle or message")->type_name(words::bundle_or_message)->required();
     command->add_option("--seed", options->seed, "Seed; the same seed gives the same message")->capture_default_str();
-    CLI::Option *elements = command
-                                ->add_option("--elements", options->elements,
-                                             "Number of elements in each list; lists in lists have about a quarter, "
-                                             "lists of processors always 2")
-                                ->check(CLI::Range(0U, 1000000U).description(""))
-                                ->capture_default_str();
+    CLI::Option *elements =
+        command
+            ->add_option("--elements", options->elements,
+                         "Number of elements in each list; nested lists get about a quarter of this "
+                         "number, per-processor lists always two elements")
+            ->check(CLI::Range(0U, 1000000U).description(""))
+            ->capture_default_str();
     add_size(*command, "--size", options->size, "Lengthen the lists until the frame has at least this size", 1,
              1U << 28)
         ->excludes(elements);
@@ -151,7 +152,10 @@ void add_generate(CLI::App &app, Context &) {
         ->capture_default_str();
     add_output(*command, options->output, "Output file");
     command->add_flag("--tracked", options->tracked, "Generate with per-field state");
-    command->add_flag("--bundle", options->bundle, "Put the start and the commit of the bundle around the message");
+    command->add_flag(
+        "--bundle", options->bundle,
+        "Put the start and the commit of the bundle around the message; if the type is a message, of the first bundle "
+        "in the schema that carries it");
     command->footer(
         "With --size, the number of elements is the smallest that reaches the size. If the\n"
         "lists cannot be long enough, because their count members are too small (such as\n"

@@ -145,12 +145,16 @@ The trace line of a handler for the whole library is the same as that of a handl
 )";
     if (command == "schema")
         return R"(.Pp
-The column role marks the members that count the elements of the next member, or the bytes of its text.
+The role of a member is
+.Dq count
+if it counts the elements of the next member, and
+.Dq length
+if it is the number of bytes of the text in the next member.
 In the column slot,
 .Dq own from N
-marks a member with state bytes of its own, of which the first has slot N;
+marks a member with state bytes of its own, the first of them at slot N;
 .Dq vector at N
-marks an array, of which the slots from N contain a pointer to the state bytes of the elements.
+marks an array: the slots from N contain a pointer to the state bytes of its elements.
 )";
     if (command == "record")
         return R"(.Pp
@@ -220,8 +224,8 @@ std::string manual_page(const CLI::App &app) {
         << text_lines(name_rule) << "\n.Pp\n"
         << text_lines(value_rule) << R"(
 The units are KiB (1024 bytes), MiB and GiB; K and KB mean KiB.
-Limits in bytes are at least 1KiB and less than 4GiB.
-SECONDS may have a fraction and are at most 86400, one day.
+Limits in bytes are at least 1KiB and less than 4GiB; the size for generate is from 1 byte to 256MiB.
+SECONDS may have a fraction and are at most 86400, one day; a timeout is at least 0.001.
 .Sh COMMANDS
 )";
     for (const CLI::App *command : commands_of(app)) write_command(*command, out);
@@ -230,7 +234,8 @@ SECONDS may have a fraction and are at most 86400, one day.
 .It Ev MIRK_TRACE
 Trace levels of the library to print on standard error: comma-separated numbers from 0 to 31, all, or none.
 Errors have level 3, debug lines level 7.
-Without this variable, only level 0 is printed; with an invalid value, levels 0 and 3.
+Without this variable, the commands with --verbose print only level 0, the others levels 0 and 3.
+With an invalid value, levels 0 and 3 are printed.
 --verbose prints all levels.
 .El
 .Sh EXIT STATUS

@@ -41,11 +41,12 @@ void add_output(CLI::App &command, std::string &path, const std::string &what) {
 void add_lenient(CLI::App &command, bool &lenient) {
     command.add_flag(
         "--lenient", lenient,
-        "Accept XML and JSON with unknown members, unknown enumerators (read as the first one) or no payload (zeros)");
+        "Accept incomplete XML and JSON: ignore unknown members, read an unknown enumerator as the first one of its "
+        "type and a missing payload as zeros");
 }
 
 void add_verbose(CLI::App &command, bool &verbose) {
-    command.add_flag("-v,--verbose", verbose, "Print all trace lines on standard error");
+    command.add_flag("-v,--verbose", verbose, "Print all trace lines of the library on standard error");
 }
 
 void add_timeout(CLI::App &command, double &seconds, const std::string &what) {

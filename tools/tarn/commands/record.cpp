@@ -185,8 +185,9 @@ void add_record(CLI::App &app, Context &context) {
     command->add_flag("--tracked", options->tracked, "Request and record per-field state");
     add_verbose(*command, options->verbose);
     command->footer(
-        "The recorder omits messages of more than 4096 bytes of XML. Each omitted message\n"
-        "is reported on standard error, and the exit code is 1 unless --full keeps it.\n"
+        "The recorder omits a message if its XML text has more than 4095 bytes, whatever the\n"
+        "size of its frame. Each omitted message is reported on standard error, and the exit\n"
+        "code is 1 unless --full keeps it.\n"
         "Each message is written as soon as it has been received, so after an error, such\n"
         "as a full disk, the files contain all preceding messages, whole. Both files can\n"
         "be read with \"tarn decode\" unless they are empty.\n\n"

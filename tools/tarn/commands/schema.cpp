@@ -235,10 +235,11 @@ void add_schema(CLI::App &app, Context &) {
     form->add_flag("--html", options->html, "HTML page of the whole schema, with a drawing of its nesting");
     form->require_option(0, 1);
     command->footer(
-        "Offset and size locate a member in a record in memory, of which base size is the\n"
-        "size without per-field state. The slot is the index of the member's byte in the\n"
-        "state area, which follows. Sizes on the wire exclude per-field state; a + means\n"
-        "that arrays and strings add to them. All sizes are in bytes.\n\n"
+        "Offset and size are the location of a member in the record in memory. The base\n"
+        "size is the size of the record without per-field state. The state area follows\n"
+        "this base; the slot is the index of the member's byte in the state area. Sizes on\n"
+        "the wire exclude per-field state; a + means that arrays and strings add to them.\n"
+        "All sizes are in bytes.\n\n"
         "Examples:\n"
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"

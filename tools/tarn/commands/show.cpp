@@ -82,15 +82,17 @@ void add_show(CLI::App &app, Context &) {
     add_via(*command, options->via, "Where to register the handler of the bundle");
     add_verbose(*command, options->verbose);
     command->footer(
-        "When a bundle is committed, the library calls the first handler that is\n"
-        "registered: in the look-up table of messages (lut), on the receiving handle\n"
-        "(handle), for the whole library (module), or for this bundle (bundle). --via\n"
-        "tests one of these registrations; the output is the same. With \"--via linked\",\n"
-        "none is registered, and the handler that is linked into the library discards the\n"
-        "bundle: exit code 1.\n\n"
+        "When a bundle is committed, the library calls a handler, a function of the\n"
+        "program; lumo_ui_tarn(3) explains handlers and handles. The library searches\n"
+        "four levels in this order and calls the first handler that it finds: in the look-up\n"
+        "table of messages (lut), on the receiving handle (handle), for the whole library\n"
+        "(module), and for this bundle (bundle). --via selects the level at which tarn\n"
+        "registers its handler, to test that level; the output does not depend on it. With\n"
+        "\"--via linked\", none is registered, and the handler that is linked into the\n"
+        "library discards the bundle: exit code 1.\n\n"
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock\n"
-        "  tarn show dp-tt-cfg --socket /tmp/tarn.sock --json | jq .messages[0].payload\n"
+        "  tarn show dp-tt-cfg --socket /tmp/tarn.sock --json | jq \".messages[0].payload\"\n"
         "  tarn show cl-debug --connect 127.0.0.1:28276\n"
         "  tarn show lumo_tarn_dp_intf_rsp --socket /tmp/tarn.sock --tracked --xml\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --via module --verbose");
