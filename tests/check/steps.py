@@ -56,8 +56,8 @@ def prepare():
     write("bin/dpkg-query", QUERY)
     write("bin/id", "#!/bin/sh\necho 1000\n")
     check = (sources / "check").read_text()
-    # Programs that are run by their path are at the beginning of a line.
-    for program in re.findall(r"^ *(?:\./)?((?:bench|build|tests)/[\w/.-]+|demo)\b", check, re.M):
+    # Programs that are run by their path are at the beginning of a line or after xargs.
+    for program in re.findall(r"^ *(?:xargs -0 )?(?:\./)?((?:bench|build|tests)/[\w/.-]+|demo)\b", check, re.M):
         write(program, STUB)
     for program in re.search(r"library_tests=\((.*?)\)", check, re.S)[1].split():
         write(f"build/coverage/tests/{program.split('_')[0]}/{program}", STUB)
