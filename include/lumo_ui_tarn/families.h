@@ -30,9 +30,9 @@
  * - Bundle: messages that are sent between a start and a commit, and are delivered together at the commit. An abort in
  *   place of the commit discards them. Start, commit and abort are control messages.
  * - Tracking: a handle with tracking keeps a state byte for each member except counts and lengths, so that programs can
- *   see what was set. It is 0 at first, and setters store 2. Other values are up to the program. Frames and XML carry
- *   the state bytes. Those of an instance form its state area. The modes OFF and NONE do not track; see
- *   mirk_platform_tracking.
+ *   see what was set. It is 0 at first, and setters store 2. Other values are up to the program. Frames carry the state
+ *   bytes. XML shows them, but reading XML does not restore them. Those of an instance form its state area. The modes
+ *   OFF and NONE do not track; see mirk_platform_tracking.
  * - Notification: a call of the handle's write_notify before a member is written.
  * - Sentinel: a static object, one for each type, that the sticky create operations return instead of NULL.
  * - Modified mark: a flag of an object. Setters set it, and backpropagate finds and clears it.
@@ -50,8 +50,9 @@
  *   T_post_copyout_cleanup, T_offset_update, T_offset_remove, from_xml of control messages, handlers of messages and
  *   bundles, and lumo_ui_tarn_typeinfo_initialize.
  * - A call that starts with `err` 0 clears the handle's last_error, and so do T_create, E_create and N_create, which
- *   have no `err`. These do not: the calls just listed, T_len, T_adjust_variant, destroy operations, and the operations
- *   of state bytes, references and message payloads. Nor do unmarshal, print and to_xml of control messages.
+ *   have no `err`. These do not clear it: the calls of the previous item that act regardless, T_len, T_adjust_variant,
+ *   destroy operations, and the operations of state bytes, references and message payloads. Nor do unmarshal, print and
+ *   to_xml of control messages.
  *
  * An error inside a bundle: clear `err`, then marshal the abort after the last complete frame. A commit called with
  * `err` set does nothing, so the bundle stays open, and the next start fails with EEXIST.
@@ -199,8 +200,8 @@
  * One XML element for each member, with the member's name; an array repeats it for each of its elements. A nonzero
  * state becomes an attribute. T_from_xml takes the path of the record's element in a document of the runtime. It
  * tolerates gaps: members without an element and strings with an empty one keep their values, so read into a new
- * instance. Counts and lengths are not read, and an unknown enumerator does not change the value. An invalid number
- * ends the reading.
+ * instance. Counts, lengths and states are not read, and an unknown enumerator does not change the value. An invalid
+ * number ends the reading.
  *
  * If a string's element is missing, the next scalar is not read either, unless another string comes before it. Arrays
  * are read element by element and grow one by one: reading XML is slow.

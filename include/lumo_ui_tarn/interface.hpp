@@ -1161,7 +1161,9 @@ private:
     }
     template <class Operation>
     bundle_writer &end(Operation operation) {
-        if (!context_->ok()) return *this;  // an incomplete bundle must not be committed
+        // An incomplete bundle must not be committed, nor that of another writer on the same handle.
+        if (!open_) context_->fail(ENOENT, "the bundle is not open");
+        if (!context_->ok()) return *this;
         open_ = false;
         control(operation);
         return *this;

@@ -62,12 +62,13 @@ typedef enum mirk_platform_tracking {
     MIRK_PLATFORM_TRACKING_ON = 2    /**< on: the word in sttr_desc is 0xEEEE */
 } mirk_platform_tracking;
 
-/** How operations report EIDRM: an object has no body, or the domain does not have its variant. */
+/** How operations report EIDRM: an object has no body, the domain does not have its variant, or a value is not an
+ * enumerator. */
 typedef enum mirk_platform_epoch_policy {
     MIRK_PLATFORM_STRICT = 0, /**< they set last_error and the error slot, as for every other error */
     /** They set only last_error and leave the error slot clear. A frame is then written completely, in the older
-     * variant that the domain has; accessors of an object without a body report no error. Sticky forms, whose error
-     * slot is last_error, set neither. */
+     * variant that the domain has. Accessors of an object without a body, and setters that refuse a value, report no
+     * error. Sticky forms, whose error slot is last_error, set neither. */
     MIRK_PLATFORM_LENIENT_EIDRM = 1
 } mirk_platform_epoch_policy;
 
@@ -270,7 +271,8 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_dispatch_set_bundle_handler(
                                                                                 mirk_bundle_handler handler);
 
 /** Delivers a buffer of `size` bytes, which contains complete frames and has a guard byte. Messages of an open bundle
- * go to the receive list, other plain messages to their handlers. The buffer stays the caller's.
+ * go to the receive list, other plain messages to their handlers. The buffer stays the caller's. `dispatch_ctx` is
+ * passed to the handlers unchanged and may be null.
  *
  * Stops at the first error; frames before it have been delivered. An error in an open bundle, before its commit or
  * abort, leaves the bundle open: call bundle_receive_message_list_destroy(), or close the handle, before dispatching

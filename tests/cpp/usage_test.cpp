@@ -298,6 +298,13 @@ TEST_F(CppUsage, MessagesAreAddedToOpenBundlesOnly) {
     unopened.add(message);
     EXPECT_EQ(kept.take_error(), std::errc::no_such_file_or_directory);
     EXPECT_TRUE(unopened.frames().empty());
+
+    // Neither does it end the bundle that another writer opened meanwhile.
+    bundle_writer<cl_debug_rsp> other(kept);
+    unopened.commit();
+    EXPECT_EQ(kept.take_error(), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(other.add(message).commit().frames(), whole);
+    EXPECT_TRUE(kept.ok());
 }
 
 TEST_F(CppUsage, AllocationFailureIsReported) {

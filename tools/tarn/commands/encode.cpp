@@ -48,8 +48,9 @@ void add_encode(CLI::App &app, Context &context) {
     command->footer(
         "The input is checked against the schema: a misspelled member, an unknown\n"
         "enumerator, a value out of range or a missing payload is an error, reported with\n"
-        "its line or path. A missing member is zero; this is not an error. See --lenient\n"
-        "for exceptions.\n\n"
+        "its line or path. A missing member is zero; this is not an error, except for a\n"
+        "string in XML whose next member is present and no string. --lenient skips most\n"
+        "of these checks; for XML, a member after an omitted string may then be ignored.\n\n"
         "Examples:\n"
         "  tarn encode examples/cl_debug.xml -o debug.bin\n"
         "  tarn encode tables.json --bundle dp-tt-cfg --tracked | tarn dissect\n"

@@ -233,10 +233,10 @@ SECONDS may have a fraction and are at most 86400, one day; a timeout is at leas
 .Bl -tag -width MIRK_TRACE
 .It Ev MIRK_TRACE
 Trace levels of the library to print on standard error: comma-separated numbers from 0 to 31, all, or none.
-Errors have level 3, debug lines level 7.
-Without this variable, the commands with --verbose print only level 0, the others levels 0 and 3.
-With an invalid value, levels 0 and 3 are printed.
---verbose prints all levels.
+Fatal errors have level 0, errors level 3, debug lines level 7.
+--verbose prints all levels and overrides this variable.
+Without both, the commands that have the option --verbose print level 0 only, because they report errors themselves.
+The other commands then print levels 0 and 3, as all do if the value is invalid.
 .El
 .Sh EXIT STATUS
 All commands use the same exit codes:
