@@ -220,7 +220,7 @@ TEST(Wire, OnlyTwoBitsOfAFlagDetermineWhatFollows) {
 TEST(Wire, OnlyTwoBitsOfTheFlagAreWritten) {
     const Handle handle(Tracking::off);
     const Instance instance(handle, flat);
-    instance.header()->obj_flag = 0xFF & ~1;
+    instance.header()->obj_flag = 0xFF;
     const Written written = write(handle, instance, 64);
     instance.header()->obj_flag = 0;
     EXPECT_EQ(written.buffer[1], ra_data_flag);
@@ -347,6 +347,15 @@ TEST(Wire, ANullInstanceFailsAtItsFirstMember) {
             EXPECT_EQ(written.buffer[1], handle.tracks() ? tracked_flag : 0);
         }
     }
+}
+
+TEST(Wire, ANullInstanceIsWrittenWithStatesOnATrackingHandleOnly) {
+    const Handle plain(Tracking::none), tracking(Tracking::on);
+    const auto size = [](const Handle &handle) {
+        return write(handle, Instance(handle, bridge::operations(flat), nullptr), 4096).size;
+    };
+    EXPECT_EQ(size(plain), 6U);      // the header alone, since the first member fails
+    EXPECT_EQ(size(tracking), 10U);  // and the states of four members
 }
 
 class WireDeathTest : public testing::TestWithParam<const RecordTable *> {
