@@ -5,15 +5,6 @@
 
 namespace tarn {
 
-// True if all members are integers, at any depth.
-constexpr bool all_integers(const Record &record) {
-    for (const Member &m : record.members) {
-        const bool nested = m.kind == Kind::record && all_integers(*m.record);
-        if (!schema::is_integer(m.kind) && !nested) return false;
-    }
-    return true;
-}
-
 // True if the member follows the previous member of its run without a gap.
 template <const Record &R>
 constexpr bool continues_run(std::size_t i) {

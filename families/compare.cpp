@@ -54,7 +54,7 @@ template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of(const mirk_object *a, const mirk_object *b) {
     if constexpr (runtime_inside && shortcut::is_closed(R)) {
         return shortcut::difference_of<R>(a, b) == 0 ? 0 : Compare<R>::compare(a, b);
-    } else if constexpr (all_integers(R)) {
+    } else if constexpr (schema::has_fixed_wire_size(R)) {  // integers alone
         return order_of_members<R>(a, b);
     } else {
         return Compare<R>::compare(a, b);
