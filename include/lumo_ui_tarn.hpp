@@ -1385,11 +1385,11 @@ struct dp_ll_spec_type {
         std::uint32_t id() const { return this->call_(lumo_tarn_dp_ll_spec_id_get_value); }
         /// Minimum mask length.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_ll_spec_min_mask_get_value); }
-        /// Aggregation type.
+        /// Type of aggregation.
         std::uint8_t agg_type() const { return this->call_(lumo_tarn_dp_ll_spec_agg_type_get_value); }
-        /// Learn type.
+        /// Type of learning.
         std::uint8_t learn_type() const { return this->call_(lumo_tarn_dp_ll_spec_learn_type_get_value); }
-        /// Learn list type.
+        /// Type of the learn list.
         std::uint8_t ll_type() const { return this->call_(lumo_tarn_dp_ll_spec_ll_type_get_value); }
         /// Number of prefixes.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_ll_spec_num_prefixes_get_value); }
@@ -5905,11 +5905,11 @@ struct dp_tt_table_type {
         std::uint16_t aging_type() const { return this->call_(lumo_tarn_dp_tt_table_aging_type_get_value); }
         /// Number of prefixes in the table.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_tt_table_num_prefixes_get_value); }
-        /// Duration.
+        /// Duration, in the data plane's unit of time.
         std::uint32_t duration() const { return this->call_(lumo_tarn_dp_tt_table_duration_get_value); }
-        /// Start time.
+        /// Start time, in the data plane's unit of time.
         std::uint32_t start_time() const { return this->call_(lumo_tarn_dp_tt_table_start_time_get_value); }
-        /// End time.
+        /// End time, in the data plane's unit of time.
         std::uint32_t end_time() const { return this->call_(lumo_tarn_dp_tt_table_end_time_get_value); }
         /// Location of the aggregation class list in the data plane.
         std::uint64_t agg_tc_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_agg_tc_list_ptr_get_value); }
@@ -5927,7 +5927,7 @@ struct dp_tt_table_type {
         }
         /// Location of the learn list in the data plane.
         std::uint64_t learn_list_ptr() const { return this->call_(lumo_tarn_dp_tt_table_learn_list_ptr_get_value); }
-        /// Learn list.
+        /// Learn list definitions of the table.
         lumo_ui_tarn::dp_learn_list_view learn_list() const {
             return this->template nested_<lumo_ui_tarn::dp_learn_list_type>(lumo_tarn_dp_tt_table_learn_list_get);
         }
@@ -6908,7 +6908,7 @@ struct dp_mp_tc_prefix_lumo_data_type {
     public:
         using detail::operations<dp_mp_tc_prefix_lumo_data_type, Self>::operations;
 
-        /// Prefix.
+        /// Network prefix.
         lumo_ui_tarn::address prefix() const {
             return this->read_address_(lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get);
         }
@@ -7420,7 +7420,7 @@ struct pal_mp_prefix_type {
         std::uint64_t id() const { return this->call_(lumo_tarn_pal_mp_prefix_id_get_value); }
         /// Flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix.
         std::uint8_t flags() const { return this->call_(lumo_tarn_pal_mp_prefix_flags_get_value); }
-        /// Prefix.
+        /// Network prefix.
         lumo_ui_tarn::address prefix() const { return this->read_address_(lumo_tarn_pal_mp_prefix_prefix_get); }
         /// Size of the prefix's class list.
         std::uint32_t tc_list_size() const { return this->call_(lumo_tarn_pal_mp_prefix_tc_list_size_get_value); }

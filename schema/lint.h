@@ -25,6 +25,21 @@ constexpr bool is_length_name(std::string_view length, std::string_view string) 
     return length.size() == string.size() + 4 && length.starts_with(string) && length.ends_with("_len");
 }
 
+constexpr Finding lint_key(const Record &record) {
+    for (const std::string_view name : record.key.members()) {
+        const auto found = [&](std::string_view sentence) { return Finding{record.name, name, sentence}; };
+        const Member *member = nullptr;
+        for (const Member &m : record.members) {
+            if (m.name == name) member = &m;
+        }
+        if (member == nullptr) return found("a key names members of its record");
+        if (member->role != Role::value || member->kind == Kind::record || member->kind == Kind::array) {
+            return found("a key consists of single values");
+        }
+    }
+    return {};
+}
+
 constexpr Finding lint(const Record &record) {
     const auto found = [&](const Member &m, std::string_view sentence) {
         return Finding{record.name, m.name, sentence};
@@ -75,8 +90,11 @@ constexpr Finding lint(const Record &record) {
         if (m.kind == Kind::string && !is_preceded_by(Role::length)) {
             return found(m, "a string directly follows its length");
         }
+        if (m.kind == Kind::array && !m.record->key.is_stated) {
+            return found(m, "the record of an array's elements states its key, or no_key");
+        }
     }
-    return {};
+    return lint_key(record);
 }
 
 constexpr Finding lint(const Enumeration &enumeration) {

@@ -36,6 +36,20 @@ struct Luid {
     }
 };
 
+// How people read an integer: as a number, or as the address of something in another process.
+enum class Notation : std::uint8_t { decimal, hexadecimal };
+
+// The members that identify an element among the others of its list. Tools align two versions of a list by them.
+struct Key {
+    std::array<std::string_view, 4> names{};
+    std::size_t size = 0;
+    bool is_stated = false;  // also true of no_key
+
+    constexpr std::span<const std::string_view> members() const { return {names.data(), size}; }
+};
+consteval Key keyed_by(auto... members) { return {{members...}, sizeof...(members), true}; }
+inline constexpr Key no_key{{}, 0, true};  // elements are told apart by their position alone
+
 struct Record;
 
 struct Enumeration {
@@ -52,6 +66,7 @@ struct Member {
     Role role = Role::value;
     const Record *record = nullptr;            // of a nested record or of an array's elements
     const Enumeration *enumeration = nullptr;  // of an enumeration
+    Notation notation = Notation::decimal;
 };
 
 struct Record {
@@ -59,6 +74,7 @@ struct Record {
     Luid luid;
     std::string_view meaning;
     std::span<const Member> members;
+    Key key{};  // stated by each record that is an element of an array
 };
 
 struct Message {
@@ -78,6 +94,10 @@ consteval Member u8(std::string_view name, std::string_view meaning) { return {n
 consteval Member u16(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u16}; }
 consteval Member u32(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u32}; }
 consteval Member u64(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::u64}; }
+// The value of a pointer or a handle of another process.
+consteval Member pointer(std::string_view name, std::string_view meaning) {
+    return {name, meaning, Kind::u64, Role::value, nullptr, nullptr, Notation::hexadecimal};
+}
 consteval Member boolean(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::boolean}; }
 consteval Member address(std::string_view name, std::string_view meaning) { return {name, meaning, Kind::address}; }
 consteval Member enumerated(std::string_view name, const Enumeration &of, std::string_view meaning) {

@@ -8,11 +8,12 @@ namespace tarn::schema {
 inline constexpr Member lumo_tarn_pal_mp_prefix_members[] = {
     u64("id", "identifier of the prefix"),
     u8("flags", "flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix"),
-    address("prefix", "prefix"),
+    address("prefix", "network prefix"),
     u32("tc_list_size", "size of the prefix's class list"),
 };
 inline constexpr Record lumo_tarn_pal_mp_prefix{"lumo_tarn_pal_mp_prefix", "ac9e5fcfde50ba72b735168c77bba633",
-                                                "one prefix of the adaptation layer", lumo_tarn_pal_mp_prefix_members};
+                                                "one prefix of the adaptation layer", lumo_tarn_pal_mp_prefix_members,
+                                                keyed_by("id")};
 
 inline constexpr Member lumo_tarn_pal_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

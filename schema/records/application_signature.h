@@ -20,10 +20,10 @@ inline constexpr Member lumo_tarn_dp_appl_sig_members[] = {
     u16("dport_max", "high end of the destination port range"),
     u16("sport_min", "low end of the source port range"),
     u16("sport_max", "high end of the source port range"),
-    u64("next_ptr", "link to the next signature in the bucket"),
+    pointer("next_ptr", "link to the next signature in the bucket"),
 };
 inline constexpr Record lumo_tarn_dp_appl_sig{"lumo_tarn_dp_appl_sig", "aaa0672e95bcc307d1218218a1706891",
-                                              "one signature", lumo_tarn_dp_appl_sig_members};
+                                              "one signature", lumo_tarn_dp_appl_sig_members, keyed_by("pal_id")};
 
 inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     boolean("show_header", "whether to show the header"),
@@ -33,7 +33,8 @@ inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     many("sig_list", lumo_tarn_dp_appl_sig, "signatures"),
 };
 inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b85570bd4a83d4a45eb2dee05",
-                                              "signatures of one processor", lumo_tarn_dp_appl_cfg_members};
+                                              "signatures of one processor", lumo_tarn_dp_appl_cfg_members,
+                                              keyed_by("lumo_num")};
 
 inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
     boolean("show_header", "whether to show the header"),

@@ -9,24 +9,24 @@ namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_members[] = {
     u8("lumo_num", "number of the lumo processor that this entry describes"),
-    u64("cl_addr", "the entry's address on the client side"),
+    pointer("cl_addr", "the entry's address on the client side"),
     one("tc_list_head", lumo_tarn_exmem_info, "location of the head of the class list in memory"),
-    u64("tc_list_head_next", "link of the list head to its successor in the data plane"),
+    pointer("tc_list_head_next", "link of the list head to its successor in the data plane"),
     one("tc_list", lumo_tarn_dp_tc_list, "traffic classes"),
     boolean("show_pfx_comm", "selection flag of the show request"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix{"lumo_tarn_dp_mp_tc_prefix", "fbe004f62f1d7cc30a8c75dac41c968e",
                                                   "traffic classes of one prefix on one processor",
-                                                  lumo_tarn_dp_mp_tc_prefix_members};
+                                                  lumo_tarn_dp_mp_tc_prefix_members, keyed_by("lumo_num")};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
-    address("prefix", "prefix"),
+    address("prefix", "network prefix"),
     count8("num_lumos", "number of elements in lumo_data"),
     many("lumo_data", lumo_tarn_dp_mp_tc_prefix, "entries, one for each processor"),
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{
     "lumo_tarn_dp_mp_tc_prefix_lumo_data", "711360b81716cdfdc00a905deaa73014", "one prefix with its entries",
-    lumo_tarn_dp_mp_tc_prefix_lumo_data_members};
+    lumo_tarn_dp_mp_tc_prefix_lumo_data_members, keyed_by("prefix")};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

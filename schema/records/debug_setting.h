@@ -18,7 +18,7 @@ inline constexpr Member lumo_tarn_dp_debug_setting_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_debug_setting{"lumo_tarn_dp_debug_setting", "ad41ed1f43f7eb0ede202ce5d6780f0a",
                                                    "debug switches of one processor's data plane",
-                                                   lumo_tarn_dp_debug_setting_members};
+                                                   lumo_tarn_dp_debug_setting_members, keyed_by("lumo_num")};
 
 inline constexpr Member lumo_tarn_debug_setting_members[] = {
     u32("info_enabled", "switch of information-level debug output"),

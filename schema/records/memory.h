@@ -7,9 +7,9 @@
 namespace tarn::schema {
 
 inline constexpr Member lumo_tarn_exmem_info_members[] = {
-    u64("cl_addr", "address of the block on the client side"),
-    u64("exmem_addr", "address of the block in external memory"),
-    u64("ppe_addr", "address of the block as the ppe side uses it"),
+    pointer("cl_addr", "address of the block on the client side"),
+    pointer("exmem_addr", "address of the block in external memory"),
+    pointer("ppe_addr", "address of the block as the ppe side uses it"),
     u32("size", "size of the block"),
 };
 inline constexpr Record lumo_tarn_exmem_info{"lumo_tarn_exmem_info", "60d55c75e70c45de4e19a835975182eb",
@@ -27,7 +27,7 @@ inline constexpr Record lumo_tarn_fdb_base{"lumo_tarn_fdb_base", "6a69888fdf996d
 inline constexpr Member lumo_tarn_fdb_mem_info_members[] = {
     u32("type", "type of the memory"),
     u32("size", "size of the memory"),
-    u64("mem_addr", "address of the memory"),
+    pointer("mem_addr", "address of the memory"),
 };
 inline constexpr Record lumo_tarn_fdb_mem_info{"lumo_tarn_fdb_mem_info", "5ea662ce18406a57e8d97350d5779fbc",
                                                "one piece of fdb memory", lumo_tarn_fdb_mem_info_members};
@@ -37,7 +37,7 @@ inline constexpr Member lumo_tarn_exmem_info_wrapper_members[] = {
 };
 inline constexpr Record lumo_tarn_exmem_info_wrapper{"lumo_tarn_exmem_info_wrapper", "1ac4a09d31cce88dcc15cc105062ccf8",
                                                      "one block of a growing list of blocks",
-                                                     lumo_tarn_exmem_info_wrapper_members};
+                                                     lumo_tarn_exmem_info_wrapper_members, no_key};
 
 inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
     enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
@@ -46,16 +46,18 @@ inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
 };
 inline constexpr Record lumo_tarn_static_exmem_info{
     "lumo_tarn_static_exmem_info", "2557d9fc36ed08f926459963e2b84549",
-    "memory block that a processor holds permanently, with its kind of memory", lumo_tarn_static_exmem_info_members};
+    "memory block that a processor holds permanently, with its kind of memory", lumo_tarn_static_exmem_info_members,
+    keyed_by("mem_type")};
 
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
     enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
-    u64("list_header_ptr", "list header of the dynamic blocks"),
+    pointer("list_header_ptr", "list header of the dynamic blocks"),
     count32("num_exmems", "number of elements in exmem"),
     many("exmem", lumo_tarn_exmem_info_wrapper, "dynamic blocks"),
 };
 inline constexpr Record lumo_tarn_dyn_exmem_info{
     "lumo_tarn_dyn_exmem_info", "21946a632bd59ef767c684b5ebddc290",
-    "memory blocks that a processor adds at run time, with their kind of memory", lumo_tarn_dyn_exmem_info_members};
+    "memory blocks that a processor adds at run time, with their kind of memory", lumo_tarn_dyn_exmem_info_members,
+    keyed_by("mem_type")};
 
 }  // namespace tarn::schema

@@ -11,10 +11,11 @@ inline constexpr Member lumo_tarn_dp_appl_members[] = {
     u8("type", "type of the application entry"),
     u16("id", "identifier of the application entry"),
     u16("tarn_kesh_id", "tarn feature's identifier of the kesh application"),
-    u64("next_ptr", "link to the next entry in the data plane"),
+    pointer("next_ptr", "link to the next entry in the data plane"),
 };
 inline constexpr Record lumo_tarn_dp_appl{"lumo_tarn_dp_appl", "79672243f138925a1adfdb7e012965bd",
-                                          "one application entry in the data plane", lumo_tarn_dp_appl_members};
+                                          "one application entry in the data plane", lumo_tarn_dp_appl_members,
+                                          keyed_by("id")};
 
 inline constexpr Member lumo_tarn_dp_tc_members[] = {
     one("exmem_info", lumo_tarn_exmem_info, "location of the traffic class in memory"),
@@ -30,13 +31,13 @@ inline constexpr Member lumo_tarn_dp_tc_members[] = {
     u16("dst_port_max", "high end of the destination port range"),
     u16("src_port_opr", "operator applied to the source port range"),
     u16("dst_port_opr", "operator applied to the destination port range"),
-    u64("next_ptr", "link to the next class in the data plane"),
-    u64("appl_data_ptr", "location of the application data in the data plane"),
+    pointer("next_ptr", "link to the next class in the data plane"),
+    pointer("appl_data_ptr", "location of the application data in the data plane"),
     one("appl", lumo_tarn_dp_appl, "application entry of the class"),
     u32("id", "identifier of the class"),
 };
 inline constexpr Record lumo_tarn_dp_tc{"lumo_tarn_dp_tc", "ed7168bceeaa74618db6b05286fecacb", "one traffic class",
-                                        lumo_tarn_dp_tc_members};
+                                        lumo_tarn_dp_tc_members, keyed_by("id")};
 
 inline constexpr Member lumo_tarn_dp_tc_list_members[] = {
     count32("num_tcs", "number of elements in tc_list"),

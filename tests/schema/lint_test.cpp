@@ -20,7 +20,7 @@ constexpr schema::Luid some_luid("00000000000000000000000000000001");
 constexpr std::string_view one_name[] = {"ONE"};
 constexpr schema::Enumeration some_enumeration{"state", some_luid, "a state", one_name};
 constexpr Member plain_members[] = {schema::u8("a", "a value")};
-constexpr schema::Record some_record{"some", some_luid, "a record", plain_members};
+constexpr schema::Record some_record{"some", some_luid, "a record", plain_members, schema::keyed_by("a")};
 
 schema::Finding lint_of(const std::vector<Member> &members, std::string_view name = "r") {
     return lint(schema::Record{name, some_luid, "a record", members});
@@ -130,6 +130,28 @@ TEST(Lint, LengthsAndStrings) {
                    "a length has two bytes");
     EXPECT_FINDING(lint_of({schema::length("a_length", "x"), schema::string("a", "x")}), "a_length",
                    "a length has the name of its string and _len");
+}
+
+TEST(Lint, KeysOfElements) {
+    static constexpr schema::Record unstated{"some", some_luid, "a record", plain_members};
+    EXPECT_FINDING(lint_of({schema::count8("n", "x"), schema::many("a", unstated, "x")}), "a",
+                   "the record of an array's elements states its key, or no_key");
+    static constexpr schema::Record keyless{"some", some_luid, "a record", plain_members, schema::no_key};
+    EXPECT_FALSE(lint_of({schema::count8("n", "x"), schema::many("a", keyless, "x")}));
+}
+
+TEST(Lint, MembersOfAKey) {
+    const auto lint_of_key = [](const std::vector<Member> &members, schema::Key key) {
+        return lint(schema::Record{"r", some_luid, "a record", members, key});
+    };
+    EXPECT_FALSE(lint_of_key({schema::u8("a", "x"), schema::address("b", "x")}, schema::keyed_by("a", "b")));
+    EXPECT_FINDING(lint_of_key({schema::u8("a", "x")}, schema::keyed_by("a", "b")), "b",
+                   "a key names members of its record");
+    const std::string_view sentence = "a key consists of single values";
+    EXPECT_FINDING(lint_of_key({schema::one("a", some_record, "x")}, schema::keyed_by("a")), "a", sentence);
+    EXPECT_FINDING(lint_of_key({schema::length("a_len", "x"), schema::string("a", "x")}, schema::keyed_by("a_len")),
+                   "a_len", sentence);
+    EXPECT_FALSE(lint_of_key({schema::length("a_len", "x"), schema::string("a", "x")}, schema::keyed_by("a")));
 }
 
 TEST(Lint, Enumerations) {

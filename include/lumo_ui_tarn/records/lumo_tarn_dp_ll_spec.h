@@ -21,9 +21,9 @@ LUMO_UI_TARN_BEGIN
  * | exmem_info         | lumo_tarn_exmem_info   | location of the definition in memory |
  * | id                 | uint32_t               | identifier of the definition |
  * | min_mask           | uint8_t                | minimum mask length |
- * | agg_type           | uint8_t                | aggregation type |
- * | learn_type         | uint8_t                | learn type |
- * | ll_type            | uint8_t                | learn list type |
+ * | agg_type           | uint8_t                | type of aggregation |
+ * | learn_type         | uint8_t                | type of learning |
+ * | ll_type            | uint8_t                | type of the learn list |
  * | num_prefixes       | uint32_t               | number of prefixes |
  * | filter_tc_list_ptr | uint64_t               | location of the filter list in the data plane |
  * | filter_tc_list     | lumo_tarn_dp_tc_list   | filter traffic classes |
@@ -411,24 +411,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_state_flag_set(mirk_handle *
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name agg_type: aggregation type
+/** @name agg_type: type of aggregation
  *  @{ */
-/** Returns the address of agg_type in the object: aggregation type. NULL for a NULL object, and with EIDRM for an
+/** Returns the address of agg_type in the object: type of aggregation. NULL for a NULL object, and with EIDRM for an
  * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of agg_type: aggregation type. 0 for a NULL object, and with EIDRM for an object without a
+/** Returns the value of agg_type: type of aggregation. 0 for a NULL object, and with EIDRM for an object without a
  * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in agg_type: aggregation type. Notifies, marks the object as modified and, on a
+/** Stores the value of the source in agg_type: type of aggregation. Notifies, marks the object as modified and, on a
  * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in agg_type: aggregation type. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
- * one without a body. */
+/** Stores a value in agg_type: type of aggregation. Notifies, marks the object as modified and, on a tracking handle,
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of agg_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -440,23 +440,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_state_flag_set(mirk_handle *
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name learn_type: learn type
+/** @name learn_type: type of learning
  *  @{ */
-/** Returns the address of learn_type in the object: learn type. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of learn_type in the object: type of learning. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of learn_type: learn type. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of learn_type: type of learning. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in learn_type: learn type. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
- * bytes; EIDRM for one without a body. */
+/** Stores the value of the source in learn_type: type of learning. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in learn_type: learn type. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
- * without a body. */
+/** Stores a value in learn_type: type of learning. Notifies, marks the object as modified and, on a tracking handle,
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of learn_type. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -469,23 +470,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_state_flag_set(mirk_handle
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ll_type: learn list type
+/** @name ll_type: type of the learn list
  *  @{ */
-/** Returns the address of ll_type in the object: learn list type. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of ll_type in the object: type of the learn list. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_ll_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of ll_type: learn list type. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of ll_type: type of the learn list. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_ll_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in ll_type: learn list type. Notifies, marks the object as modified and, on a
+/** Stores the value of the source in ll_type: type of the learn list. Notifies, marks the object as modified and, on a
  * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
  * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in ll_type: learn list type. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
- * one without a body. */
+/** Stores a value in ll_type: type of the learn list. Notifies, marks the object as modified and, on a tracking handle,
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of ll_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */

@@ -13,7 +13,7 @@ LUMO_UI_TARN_BEGIN
  *
  * | member    | type                        | meaning |
  * |-----------|-----------------------------|---|
- * | prefix    | address                     | prefix |
+ * | prefix    | address                     | network prefix |
  * | num_lumos | uint8_t count               | number of elements in lumo_data |
  * | lumo_data | lumo_tarn_dp_mp_tc_prefix[] | entries, one for each processor |
  *
@@ -229,15 +229,15 @@ LUMO_UI_TARN_API uint32_t lumo_tarn_dp_mp_tc_prefix_lumo_data_type_type_backprop
     lumo_tarn_dp_mp_tc_prefix_lumo_data *instance, void *word);
 /** @} */
 
-/** @name prefix: prefix
+/** @name prefix: network prefix
  *  @{ */
-/** Returns the address of prefix in the object: prefix. NULL for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the address of prefix in the object: network prefix. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, uint32_t *err);
-/** Stores the value of the source in prefix: prefix. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes;
- * EIDRM for one without a body. */
+/** Stores the value of the source in prefix: network prefix. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_mp_tc_prefix_lumo_data_prefix_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_mp_tc_prefix_lumo_data *object, ip_address *source, uint32_t *err);
 /** Returns the state byte of prefix. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */

@@ -32,15 +32,15 @@ LUMO_UI_TARN_BEGIN
  * | tt_bit_flags       | uint8_t                 | flags of the table |
  * | aging_type         | uint16_t                | type of aging |
  * | num_prefixes       | uint32_t                | number of prefixes in the table |
- * | duration           | uint32_t                | duration |
- * | start_time         | uint32_t                | start time |
- * | end_time           | uint32_t                | end time |
+ * | duration           | uint32_t                | duration, in the data plane's unit of time |
+ * | start_time         | uint32_t                | start time, in the data plane's unit of time |
+ * | end_time           | uint32_t                | end time, in the data plane's unit of time |
  * | agg_tc_list_ptr    | uint64_t                | location of the aggregation class list in the data plane |
  * | agg_tc_list        | lumo_tarn_dp_tc_list    | aggregation classes |
  * | filter_tc_list_ptr | uint64_t                | location of the filter class list in the data plane |
  * | filter_tc_list     | lumo_tarn_dp_tc_list    | filter classes |
  * | learn_list_ptr     | uint64_t                | location of the learn list in the data plane |
- * | learn_list         | lumo_tarn_dp_learn_list | learn list |
+ * | learn_list         | lumo_tarn_dp_learn_list | learn list definitions of the table |
  * | key_mask           | uint32_t                | mask of the table's key |
  * | thruput_head_ptr   | uint64_t                | head of the throughput entries in the data plane |
  * | thruput_entries    | uint32_t                | number of throughput entries |
@@ -747,23 +747,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_num_prefixes_state_flag_set(mirk_han
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name duration: duration
+/** @name duration: duration, in the data plane's unit of time
  *  @{ */
-/** Returns the address of duration in the object: duration. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of duration in the object: duration, in the data plane's unit of time. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_duration_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of duration: duration. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of duration: duration, in the data plane's unit of time. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_duration_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in duration: duration. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
- * bytes; EIDRM for one without a body. */
+/** Stores the value of the source in duration: duration, in the data plane's unit of time. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in duration: duration. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
- * without a body. */
+/** Stores a value in duration: duration, in the data plane's unit of time. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of duration. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -775,23 +776,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_duration_state_flag_set(mirk_handle 
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name start_time: start time
+/** @name start_time: start time, in the data plane's unit of time
  *  @{ */
-/** Returns the address of start_time in the object: start time. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of start_time in the object: start time, in the data plane's unit of time. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_start_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of start_time: start time. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of start_time: start time, in the data plane's unit of time. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_start_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in start_time: start time. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
- * bytes; EIDRM for one without a body. */
+/** Stores the value of the source in start_time: start time, in the data plane's unit of time. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint32_t *source, uint32_t *err);
-/** Stores a value in start_time: start time. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
- * without a body. */
+/** Stores a value in start_time: start time, in the data plane's unit of time. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of start_time. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -804,23 +806,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_start_time_state_flag_set(mirk_handl
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name end_time: end time
+/** @name end_time: end time, in the data plane's unit of time
  *  @{ */
-/** Returns the address of end_time in the object: end time. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of end_time in the object: end time, in the data plane's unit of time. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint32_t *lumo_tarn_dp_tt_table_end_time_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of end_time: end time. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of end_time: end time, in the data plane's unit of time. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint32_t lumo_tarn_dp_tt_table_end_time_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in end_time: end time. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
- * bytes; EIDRM for one without a body. */
+/** Stores the value of the source in end_time: end time, in the data plane's unit of time. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint32_t *source, uint32_t *err);
-/** Stores a value in end_time: end time. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
- * without a body. */
+/** Stores a value in end_time: end time, in the data plane's unit of time. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_end_time_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t value, uint32_t *err);
 /** Returns the state byte of end_time. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -964,15 +967,15 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_ptr_state_flag_set(mirk_h
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name learn_list: learn list
+/** @name learn_list: learn list definitions of the table
  *  @{ */
-/** Returns the address of learn_list in the object: learn list. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of learn_list in the object: learn list definitions of the table. NULL for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API lumo_tarn_dp_learn_list *lumo_tarn_dp_tt_table_learn_list_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** MOVES a record into learn_list: learn list. The source loses its arrays and strings. What learn_list owned before is
- * not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one
- * without a body. */
+/** MOVES a record into learn_list: learn list definitions of the table. The source loses its arrays and strings. What
+ * learn_list owned before is not released. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_list_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, lumo_tarn_dp_learn_list *source, uint32_t *err);
 /** Returns the state byte of learn_list. EINVAL if the handle's tracking mode is OFF or the object has no state

@@ -14,7 +14,7 @@ LUMO_UI_TARN_BEGIN
  * |--------------|----------|---|
  * | id           | uint64_t | identifier of the prefix |
  * | flags        | uint8_t  | flags of the prefix, eight bits: half the width of flags in lumo_tarn_dp_mp_prefix |
- * | prefix       | address  | prefix |
+ * | prefix       | address  | network prefix |
  * | tc_list_size | uint32_t | size of the prefix's class list |
  *
  * lumo_ui_tarn/families.h describes the operations. */
@@ -276,15 +276,15 @@ LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_flags_state_flag_set(mirk_handle *
     lumo_tarn_pal_mp_prefix *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name prefix: prefix
+/** @name prefix: network prefix
  *  @{ */
-/** Returns the address of prefix in the object: prefix. NULL for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the address of prefix in the object: network prefix. NULL for a NULL object, and with EIDRM for an object
+ * without a body. */
 LUMO_UI_TARN_API ip_address *lumo_tarn_pal_mp_prefix_prefix_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, uint32_t *err);
-/** Stores the value of the source in prefix: prefix. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes;
- * EIDRM for one without a body. */
+/** Stores the value of the source in prefix: network prefix. Notifies, marks the object as modified and, on a tracking
+ * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
+ * bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_pal_mp_prefix_prefix_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_pal_mp_prefix *object, ip_address *source, uint32_t *err);
 /** Returns the state byte of prefix. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
