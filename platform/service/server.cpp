@@ -130,10 +130,12 @@ public:
 
     uint64_t pending() const { return pending_; }
 
-    void disconnect_when_sent(const char *reason) {
+    void disconnect_when_sent(const char *reason, uint32_t level = 7) {
+        if (disconnecting_) return;
         disconnecting_ = true;
         disconnect_reason_ = reason;
-        if (queue_.empty()) close(7, reason);
+        disconnect_level_ = level;
+        if (queue_.empty()) close(level, reason);
     }
 
     // Disconnects a peer that exceeded a limit or sent something other than a frame.
@@ -194,15 +196,8 @@ private:
 
     void on_read(const asio::error_code &error, size_t count) {
         if (closed_) return;
-        if (error) {
-            const bool whole = inbox_.empty();
-            if (error == asio::error::eof) {
-                close(whole ? 7 : 3, whole ? "it closed the connection" : "it closed the connection within a frame");
-            } else {
-                close(3, std::strerror(error.value()));
-            }
-            return;
-        }
+        if (error == asio::error::eof) return on_end_of_input();
+        if (error) return close(3, std::strerror(error.value()));
         last_moved_ = Clock::now();
         inbox_.received(count);
         void *frame = nullptr;
@@ -228,6 +223,16 @@ private:
                     refuse("its frame exceeds the limit");
                     return;
             }
+        }
+    }
+
+    // The peer may have closed only its sending side, so it still gets what is queued for it.
+    void on_end_of_input() {
+        frame_has_begun_ = false;
+        if (inbox_.empty()) {
+            disconnect_when_sent("it closed the connection");
+        } else {
+            disconnect_when_sent("it closed the connection within a frame", 3);
         }
     }
 
@@ -259,7 +264,7 @@ private:
                 if (!self->queue_.empty()) {
                     self->write();
                 } else if (self->disconnecting_) {
-                    self->close(7, self->disconnect_reason_.c_str());
+                    self->close(self->disconnect_level_, self->disconnect_reason_.c_str());
                 }
             });
         });
@@ -317,6 +322,7 @@ private:
     bool closed_ = false;
     bool disconnecting_ = false;
     std::string disconnect_reason_;
+    uint32_t disconnect_level_ = 7;
 };
 
 // Removes a socket file that no process listens on any more.

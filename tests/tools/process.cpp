@@ -251,6 +251,8 @@ bool Socket::send(std::string_view bytes) const {
     return true;
 }
 
+void Socket::end_sending() const { require(shutdown(descriptor_, SHUT_WR) == 0, "shutdown"); }
+
 std::string Socket::receive(std::size_t most) const {
     std::string all;
     char piece[4096];

@@ -107,6 +107,8 @@ public:
     Socket accept() const;
     // False if the other side has closed the connection, or reads nothing for a minute.
     bool send(std::string_view bytes) const;
+    // Closes the sending side. The other side sees the end of input and can still be read from.
+    void end_sending() const;
     // Everything until the other side closes the connection, but at most `most` bytes.
     std::string receive(std::size_t most = SIZE_MAX) const;
 
