@@ -68,6 +68,8 @@ int run(int argc, char **argv) {
 int main(int argc, char **argv) {
     // A write beyond the limit on file sizes must fail with EFBIG, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
+    // Likewise a write to a pipe or connection that nobody reads any more: EPIPE.
+    std::signal(SIGPIPE, SIG_IGN);
     try {
         return run(argc, argv);
     } catch (const Failure &failure) {

@@ -87,10 +87,12 @@ void add_answer(CLI::App &app, Context &) {
             throw Failure(Exit::input,
                           "--unread-total is less than --unread, " + std::to_string(options->unread) + " bytes");
         }
+        Log log;
         set_up_trace(options->verbose);
+        const TraceToLog trace(log);
         Answerer answerer(options->snapshot_limit);
         load(answerer, *options);
-        Server server(*options, answerer);
+        Server server(*options, answerer, log);
         server.open();
         server.run();
     });

@@ -20,17 +20,17 @@ extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop);
 
 }  // namespace
 
-// Only with --verbose. Peers that exceed a limit or send invalid bytes are always printed; see print_disconnected().
-void Server::log(mirk_platform_peer peer, const std::string &event) const {
-    if (options_.verbose) std::fprintf(stderr, "peer %llu: %s\n", static_cast<unsigned long long>(peer), event.c_str());
+// Only with --verbose. Peers that exceed a limit or send invalid bytes are always reported; see log_disconnected().
+void Server::log_event(mirk_platform_peer peer, const std::string &event) {
+    if (options_.verbose) log_.line("peer " + std::to_string(peer) + ": " + event);
 }
 
-void Server::print_disconnected(mirk_platform_peer peer, const char *reason) {
+void Server::log_disconnected(mirk_platform_peer peer, const char *reason) {
     if (peer == 0) {
-        std::fprintf(stderr, "tarn: %s\n", reason);
+        log_.line(std::string("tarn: ") + reason);
     } else {
         ++disconnected_;
-        std::fprintf(stderr, "tarn: peer %llu disconnected: %s\n", static_cast<unsigned long long>(peer), reason);
+        log_.line("tarn: peer " + std::to_string(peer) + " disconnected: " + reason);
     }
 }
 
@@ -48,13 +48,13 @@ void Server::open() {
     settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
                            std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
     settings.on_connect = [](void *user, mirk_platform_server *, mirk_platform_peer peer) {
-        static_cast<Server *>(user)->log(peer, "connected");
+        static_cast<Server *>(user)->log_event(peer, "connected");
     };
     settings.on_disconnect = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
-        static_cast<Server *>(user)->log(peer, std::string("disconnected: ") + reason);
+        static_cast<Server *>(user)->log_event(peer, std::string("disconnected: ") + reason);
     };
     settings.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
-        static_cast<Server *>(user)->print_disconnected(peer, reason);
+        static_cast<Server *>(user)->log_disconnected(peer, reason);
     };
     const bool tcp = !options_.listen.empty();
     const std::string &endpoint = tcp ? options_.listen : options_.socket;
@@ -81,7 +81,7 @@ void Server::run() {
 }
 
 void Server::refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &reason) {
-    log(peer, "refused: " + reason);
+    log_event(peer, "refused: " + reason);
     std::uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
     const std::uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, number, reason.c_str(), nullptr);
     mirk_platform_server_send(server_, peer, frame, size);
@@ -93,7 +93,7 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
     if (error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
         const char *reason = "it sent a frame that is not a request";
         refuse(peer, error != 0 ? error : EBADMSG, "not a request");
-        print_disconnected(peer, reason);
+        log_disconnected(peer, reason);
         mirk_platform_server_disconnect(server_, peer, reason);
         return;
     }
@@ -103,7 +103,7 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
         return refuse(peer, ENOENT, std::string(bundle->bundle->name) + " is not served here");
     }
     const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
-    log(peer, "requests " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
+    log_event(peer, "requests " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
     try {
         const Bytes frames = answerer_.answer(*bundle, tracked, ++answers_, options_.fault);
         mirk_platform_server_send(server_, peer, frames.data(), frames.size());

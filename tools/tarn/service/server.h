@@ -6,6 +6,7 @@
 
 #include "mirk_platform.h"
 #include "tools/tarn/service/answerer.h"
+#include "tools/tarn/support/log.h"
 
 namespace tarn::tool {
 
@@ -20,7 +21,8 @@ struct ServerOptions {
 
 class Server {
 public:
-    Server(const ServerOptions &options, Answerer &answerer) : options_(options), answerer_(answerer) {}
+    Server(const ServerOptions &options, Answerer &answerer, Log &log)
+        : options_(options), answerer_(answerer), log_(log) {}
     ~Server() { mirk_platform_server_close(server_); }
     Server(const Server &) = delete;
     Server &operator=(const Server &) = delete;
@@ -32,11 +34,12 @@ public:
 private:
     void on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size);
     void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &reason);
-    void log(mirk_platform_peer peer, const std::string &event) const;
-    void print_disconnected(mirk_platform_peer peer, const char *reason);
+    void log_event(mirk_platform_peer peer, const std::string &event);
+    void log_disconnected(mirk_platform_peer peer, const char *reason);
 
     const ServerOptions &options_;
     Answerer &answerer_;
+    Log &log_;
     mirk_platform_server *server_ = nullptr;
     std::uint32_t answers_ = 0, disconnected_ = 0;
 };

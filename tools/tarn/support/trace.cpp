@@ -10,8 +10,17 @@ namespace tarn::tool {
 
 namespace {
 
+std::string shown(std::uint16_t module_id, std::uint32_t level, const char *line) {
+    return "trace " + std::string(mirk_platform_trace_module_name(module_id)) + " " + std::to_string(level) + ": " +
+           line;
+}
+
 extern "C" void trace_to_standard_error(void *, std::uint16_t module_id, std::uint32_t level, const char *line) {
-    std::fprintf(stderr, "trace %s %u: %s\n", mirk_platform_trace_module_name(module_id), level, line);
+    std::fprintf(stderr, "%s\n", shown(module_id, level, line).c_str());
+}
+
+extern "C" void trace_to_log(void *log, std::uint16_t module_id, std::uint32_t level, const char *line) {
+    static_cast<Log *>(log)->line(shown(module_id, level, line));
 }
 
 }  // namespace
@@ -29,5 +38,9 @@ void set_up_trace(bool verbose) {
         mirk_platform_trace_set_levels(1);
     }
 }
+
+TraceToLog::TraceToLog(Log &log) { mirk_platform_trace_set_sink(trace_to_log, &log); }
+
+TraceToLog::~TraceToLog() { mirk_platform_trace_set_sink(nullptr, nullptr); }
 
 }  // namespace tarn::tool
