@@ -57,8 +57,9 @@ const press = key =>
 const found = () => document.getElementById('found').textContent;
 )";
 
-// Runs statements after the script of the page. They fill in `seen`, which also gets the errors of both.
-json seen_in(std::string page, const std::string &statements) {
+// Runs statements after the script of the page. They fill in `seen`, which also gets the errors of both. The fragment
+// ends the address of the page.
+json seen_in(std::string page, const std::string &statements, const std::string &fragment = {}) {
     const Directory directory;
     replace(page, "<body>", "<body><script>const errors = []; onerror = text => { errors.push(text); };</script>");
     replace(
@@ -66,7 +67,7 @@ json seen_in(std::string page, const std::string &statements) {
         "<script>" + std::string(helpers) + "const seen = {errors}; try {" + statements +
             "} catch (error) { errors.push(String(error)); }\nconst note = document.createElement('pre'); "
             "note.id = 'seen'; note.textContent = JSON.stringify(seen); document.body.append(note);</script></body>");
-    const Outcome outcome = chromium(directory.write("page.html", page), {"--dump-dom"});
+    const Outcome outcome = chromium(directory.write("page.html", page) + fragment, {"--dump-dom"});
     const std::string open = "<pre id=\"seen\">";
     const std::size_t from = outcome.out.find(open);
     EXPECT_NE(from, std::string::npos) << outcome.err;
@@ -343,6 +344,29 @@ TEST(Schema, PageHasEveryRecordAndItsMembers) {
     EXPECT_FALSE(lit.contains("lumo_tarn_cl_debug_rsp"));
     EXPECT_EQ(seen.at("found"), (json{"1 found", {"lumo_tarn_cl_kesh_appl"}}));
     EXPECT_EQ(tool_test::tarn({"schema", "lumo_tarn_dp_tc", "--html"}).exit, 2);
+}
+
+// Control characters and reversals in strings, in the name of a file and in the address.
+TEST(Pages, ShowTextFromOutsideAsText) {
+    const std::string hostile = "\x1b[31m<b>\n\u009b31m\u202e\x7f\xff";
+    const reference::MessageTable &message = reference::message_table("lumo_tarn_dp_intf_msg");
+    reference::Record payload(message.payload);
+    payload["intf_name"].text = hostile;
+    const Directory directory;
+    const std::string file = directory.write("a" + hostile, tool_test::frame(message, payload, false));
+    const char *const look = R"(
+        const unsafe = /[\u0000-\u001f\u007f-\u009f\u061c\u200e\u200f\u2028-\u202e\u2066-\u2069]/;
+        const words = [document.title];
+        const walk = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+        while (walk.nextNode()) if (!walk.currentNode.parentNode.closest('script')) words.push(walk.currentNode.data);
+        seen.unsafe = words.filter(w => w.trim() && unsafe.test(w.replaceAll('\n', ' ')));
+        seen.all = words.join('|');)";
+    const json view = seen_in(page_of({file}), look, "#%");
+    EXPECT_EQ(view.at("unsafe"), json::array());
+    EXPECT_NE(view.at("all").get<std::string>().find("a\\x1b[31m<b>\\x0a\\u009b31m\\u202e\\x7f\\xff"),
+              std::string::npos);
+    EXPECT_NE(view.at("all").get<std::string>().find("\"\\x1b[31m<b>\\x0a"), std::string::npos) << view.at("all");
+    EXPECT_EQ(seen_in(tool_test::tarn({"schema", "--html"}).out, look, "#%").at("unsafe"), json::array());
 }
 
 TEST(Pages, LoadNothingAndRender) {

@@ -19,7 +19,7 @@ TEST_P(EveryMessage, IsDecodedAsTheReferencePrintsIt) {
         EXPECT_EQ(text.exit, 0) << text.err;
         EXPECT_EQ(text.out, shown(GetParam(), received));
         const Outcome xml = tarn({"decode", "--xml"}, bytes);
-        EXPECT_EQ(xml.out, reference::message_to_xml(GetParam().name, received, tracked) + "\n");
+        EXPECT_EQ(xml.out, shown_xml(GetParam(), received, tracked) + "\n");
     }
 }
 

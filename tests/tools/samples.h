@@ -43,6 +43,18 @@ inline std::string shown(const reference::MessageTable &message, const reference
     return text;
 }
 
+// The tool writes control characters in strings, which XML may contain, as references.
+inline std::string shown_xml(const reference::MessageTable &message, const reference::Record &payload, bool tracked) {
+    std::string text;
+    for (const char c : reference::message_to_xml(message.name, payload, tracked)) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool second_half = text.ends_with('\xc2') && byte < 0xa0;
+        if (second_half) text.pop_back();
+        text += second_half || byte < ' ' || byte == 0x7f ? "&#" + std::to_string(byte) + ";" : std::string(1, c);
+    }
+    return text;
+}
+
 inline std::string control(const reference::BundleTable &bundle, const std::string &kind) {
     return text_of(reference::control_frame(bundle.name, kind, 0));
 }

@@ -2,21 +2,22 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <sstream>
 
 #include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 
 namespace {
 
 using namespace tarn::tool;
 
-int print_error(const char *message, Exit exit) {
-    std::fflush(stdout);
-    std::fprintf(stderr, "tarn: %s\n", message);
-    return static_cast<int>(exit);
+int report(const Failure &failure) {
+    print_error(failure);
+    return static_cast<int>(failure.exit());
 }
 
 std::string exit_code_list() {
@@ -31,6 +32,10 @@ int run(int argc, char **argv) {
     CLI::App app("Inspect, convert, serve and record messages of the library lumo_ui_tarn.", "tarn");
     Context context;
     app.require_subcommand(1);
+    app.failure_message([](const CLI::App *command, const CLI::Error &error) {
+        const CLI::Error shown(error.get_name(), printable(error.what(), 4096), error.get_exit_code());
+        return CLI::FailureMessage::simple(command, shown);
+    });
     app.footer(std::string(terms) + "\n\n" + name_rule + "\n\n" + value_rule +
                "\n\nExit codes of all commands:" + exit_code_list() +
                "\n\nRun \"tarn COMMAND --help\" for the options of a command and examples. tarn(1) explains\nmore.");
@@ -57,7 +62,11 @@ int run(int argc, char **argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
-        return app.exit(error) == 0 ? 0 : static_cast<int>(Exit::input);
+        std::ostringstream help, problem;
+        const bool good = app.exit(error, help, problem) == 0;
+        std::fputs(problem.str().c_str(), stderr);
+        write_file("-", help.str());
+        return good ? 0 : static_cast<int>(Exit::input);
     }
     flush_output();
     return static_cast<int>(context.exit);
@@ -73,10 +82,10 @@ int main(int argc, char **argv) {
     try {
         return run(argc, argv);
     } catch (const Failure &failure) {
-        return print_error(failure.what(), failure.exit());
+        return report(failure);
     } catch (const std::bad_alloc &) {
-        return print_error("out of memory", Exit::environment);
+        return report({Exit::environment, "out of memory"});
     } catch (const std::exception &error) {
-        return print_error(error.what(), Exit::environment);
+        return report({Exit::environment, error.what()});
     }
 }

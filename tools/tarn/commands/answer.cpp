@@ -7,6 +7,7 @@
 #include "tools/tarn/service/server.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -23,7 +24,7 @@ void load(Answerer &answerer, const AnswerOptions &options) {
     for (const std::string &served : options.served) {
         const std::size_t equals = served.find('=');
         if (equals == std::string::npos || equals + 1 == served.size()) {
-            throw Failure(Exit::input, "\"" + served + "\" is not of the form BUNDLE=FILE");
+            throw Failure(Exit::input, in_quotes(served) + " is not of the form BUNDLE=FILE");
         }
         answerer.add(bundle_named(served.substr(0, equals)), served.substr(equals + 1), options.lenient);
     }

@@ -33,8 +33,7 @@ public:
 
     void add(const Failure &failure) {
         if (!keep_going_) throw failure;
-        std::fflush(stdout);
-        std::fprintf(stderr, "tarn: %s\n", failure.what());
+        print_error(failure);
         exit_ = std::max(exit_, failure.exit());
     }
     Exit exit() const { return exit_; }
@@ -171,7 +170,7 @@ void add_decode(CLI::App &app, Context &context) {
     add_input(*command, options->file, "Frames, XML or JSON");
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
-    form->add_flag("--xml", options->xml, "XML, one message per line unless a string contains a newline");
+    form->add_flag("--xml", options->xml, "XML, one message per line");
     form->add_flag("--json", options->json, "JSON, one object per line");
     form->require_option(0, 1);
     CLI::Option *bundles =

@@ -84,14 +84,14 @@ ordered_json load(const std::string &path, bool lenient) {
     return all;
 }
 
-std::string shown(const ordered_json *json) { return json->is_structured() ? "{...}" : json->dump(); }
+std::string shown(const ordered_json *json) { return json->is_structured() ? "{...}" : json_text(*json); }
 
 void print(const std::vector<Difference> &differences) {
     std::string out;
     for (const Difference &d : differences) {
         if (d.a != nullptr && d.b != nullptr) {
-            out +=
-                d.path + ": " + colored(d.a->dump(), Color::red) + " -> " + colored(d.b->dump(), Color::green) + "\n";
+            out += d.path + ": " + colored(json_text(*d.a), Color::red) + " -> " +
+                   colored(json_text(*d.b), Color::green) + "\n";
         } else if (d.a != nullptr) {
             out += d.path + ": " + colored("only in A: " + shown(d.a), Color::red) + "\n";
         } else {
@@ -109,7 +109,7 @@ void print_json(const std::vector<Difference> &differences) {
         if (d.b != nullptr) one["b"] = *d.b;
         all.push_back(one);
     }
-    write_file("-", all.dump(2) + "\n");
+    write_file("-", json_text(all, 2) + "\n");
 }
 
 Exit run_diff(const DiffOptions &options) {

@@ -6,6 +6,7 @@
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/json.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/hex.h"
@@ -79,12 +80,12 @@ Exit run_dissect(const DissectOptions &options) {
             write_file("-", out);
         }
         if (dissection.broken) {
-            if (options.json) write_file("-", frames.dump(2) + "\n");
+            if (options.json) write_file("-", json_text(frames, 2) + "\n");
             throw Failure(Exit::input, shown_path(options.file) + ": broken at " + sentence_of(*dissection.broken));
         }
         offset += dissection.size;
     }
-    if (options.json) write_file("-", frames.dump(2) + "\n");
+    if (options.json) write_file("-", json_text(frames, 2) + "\n");
     return Exit::success;
 }
 

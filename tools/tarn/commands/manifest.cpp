@@ -7,8 +7,10 @@
 
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
+#include "tools/tarn/formats/json.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -114,7 +116,7 @@ Exit run_manifest(const ManifestOptions &options) {
         out += (out.empty() ? "" : "\n") + block_kind(block.kind) + ":\n" + block.text;
         if (!block.text.empty() && block.text.back() != '\n') out += "\n";
     }
-    write_file("-", options.json ? json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n" : out);
+    write_file("-", options.json ? json_text(json, 2) + "\n" : printable_output(out, Notation::text));
     return Exit::success;
 }
 

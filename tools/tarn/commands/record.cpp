@@ -12,6 +12,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -80,7 +81,7 @@ public:
                          frame.bytes.size());
             return;
         }
-        fragments_.append(piece);
+        fragments_.append(printable_output(piece, Notation::xml));
         ++recorded_;
     }
 
@@ -128,7 +129,7 @@ void record_from_socket(const RecordOptions &options, Recording &recording) {
             Connection connection(options.endpoint, Deadline(options.timeout), options.limits);
             connection.request(bundle, options.tracked);
             receive_answer(connection, receiver, bundle,
-                           [&](const Frame &frame) { recording.feed(receiver, frame, options.endpoint.text()); });
+                           [&](const Frame &frame) { recording.feed(receiver, frame, connection.name()); });
         }
     }
 }

@@ -10,6 +10,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 #include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
@@ -154,7 +155,7 @@ std::string dot_text(const std::function<bool(const Record &)> &wanted) {
     if (const Target target = target_of(in); target && target.nested() != nullptr) {
         for (const Member &m : target.nested()->members) candidates.push_back(in + "." + std::string(m.name));
     }
-    throw Failure(Exit::input, "unknown member \"" + path + "\"" + suggestion(path, candidates));
+    throw Failure(Exit::input, "unknown member " + in_quotes(path) + suggestion(path, candidates));
 }
 
 bool reaches(const Record &from, const Record &to) {

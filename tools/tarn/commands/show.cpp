@@ -34,7 +34,7 @@ void print(const Answer &answer, const reflect::BundleOperations &bundle, Print 
     } else if (form == Print::json) {
         nlohmann::ordered_json all{{"bundle", bundle.bundle->name}, {"messages", nlohmann::ordered_json::array()}};
         for (const Item &item : answer.messages) all["messages"].push_back(json_of(item));
-        out = all.dump(2) + "\n";
+        out = json_text(all, 2) + "\n";
     } else {
         for (const Item &item : answer.messages) out += rendered(item, form == Print::xml ? Style::xml : Style::text);
     }

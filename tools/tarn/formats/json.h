@@ -22,6 +22,9 @@ namespace tarn::tool {
 nlohmann::ordered_json json_of(const Handle &handle, const reflect::RecordOperations &operations, void *instance);
 nlohmann::ordered_json json_of(const Item &item);
 
+// For output: printable; readers get the same values. A negative indent writes one line.
+std::string json_text(const nlohmann::ordered_json &json, int indent = -1);
+
 std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient);
 
 }  // namespace tarn::tool

@@ -9,6 +9,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/instance.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -24,16 +25,21 @@ using schema::Role;
     throw Failure(Exit::input, path + ": " + reason);
 }
 
+// A list or an object may be as long as the file.
+std::string shown(const ordered_json &json) {
+    return json.is_array() ? "a list" : json.is_object() ? "an object" : printable(json.dump());
+}
+
 std::uint64_t number_in(const ordered_json &json, std::uint64_t limit, const std::string &path) {
     if (!json.is_number_unsigned() || json.get<std::uint64_t>() > limit) {
-        fail(path, json.dump() + " is not a number from 0 to " + std::to_string(limit));
+        fail(path, shown(json) + " is not a number from 0 to " + std::to_string(limit));
     }
     return json.get<std::uint64_t>();
 }
 
 std::int8_t variant_in(const ordered_json &json, const std::string &path) {
     if (!json.is_number_integer() || json.get<std::int64_t>() < -128 || json.get<std::int64_t>() > -1) {
-        fail(path, json.dump() + " is not a number from -128 to -1");
+        fail(path, shown(json) + " is not a number from -128 to -1");
     }
     return static_cast<std::int8_t>(json.get<std::int64_t>());
 }
@@ -113,7 +119,7 @@ void Reader::check_names(const ordered_json &json, const RecordOperations &opera
         const std::string &name = item.key();
         if (name == "@ra" || name == "@variant" || name == "@state") continue;
         if (std::find(candidates.begin(), candidates.end(), name) == candidates.end()) {
-            fail(path, std::string(operations.record->name) + " has no member \"" + name + "\"" +
+            fail(path, std::string(operations.record->name) + " has no member " + in_quotes(name) +
                            suggestion(name, candidates));
         }
     }
@@ -129,7 +135,7 @@ void Reader::check_count(const ordered_json &json, const RecordOperations &opera
                                                      : bytes_in(*counted, path).size();
     if (!given->is_number_unsigned() || given->get<std::uint64_t>() != actual) {
         fail(path + "/" + std::string(operations.members[index].member->name),
-             "is " + given->dump() + ", but there are " + std::to_string(actual));
+             "is " + shown(*given) + ", but there are " + std::to_string(actual));
     }
 }
 
@@ -195,9 +201,9 @@ void Reader::read_address(const ordered_json &json, ip_address *address, const s
         if (found == json.end()) fail(path, "expected an address");
         text = &*found;
     }
-    const std::string words = text->is_string() ? text->get<std::string>() : text->dump();
+    const std::string words = text->is_string() ? text->get<std::string>() : shown(*text);
     if (!text->is_string() || !is_address(words) || !set_address(handle_, address, words)) {
-        fail(path, "\"" + words + "\" is not an address with a prefix length");
+        fail(path, in_quotes(words) + " is not an address with a prefix length");
     }
     std::uint8_t *state = address_state(handle_, address);
     if (state == nullptr) return;
@@ -216,7 +222,7 @@ void Reader::read_enumeration(const ordered_json &json, const Field &field, void
         const auto found = std::find(candidates.begin(), candidates.end(), json.get<std::string>());
         if (found == candidates.end()) {
             if (lenient_) return;
-            fail(path, "unknown enumerator " + json.dump() + suggestion(json.get<std::string>(), candidates));
+            fail(path, "unknown enumerator " + shown(json) + suggestion(json.get<std::string>(), candidates));
         }
         const auto number = static_cast<std::uint64_t>(found - candidates.begin());
         field.member().set_value(handle_.get(), context_id, field.instance, number, &err_);
@@ -224,7 +230,7 @@ void Reader::read_enumeration(const ordered_json &json, const Field &field, void
     }
     // A frame may contain any number, but the setter rejects an unknown one.
     const std::uint64_t number = number_in(json, 0xffffffff, path);
-    if (number >= candidates.size() && !lenient_) fail(path, "unknown enumerator " + json.dump());
+    if (number >= candidates.size() && !lenient_) fail(path, "unknown enumerator " + shown(json));
     set_enumeration_value(object, static_cast<std::uint32_t>(number));
 }
 
@@ -295,18 +301,18 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
 
 Item control_of(const ordered_json &json, const std::string &location) {
     const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
-    if (bundle == nullptr) fail(location, json["bundle"].dump() + " is not a bundle");
+    if (bundle == nullptr) fail(location, shown(json["bundle"]) + " is not a bundle");
     for (const Control control : controls) {
         if (json["control"] != word(control)) continue;
         return {identity_of(*bundle, control), std::nullopt, location};
     }
-    fail(location, json["control"].dump() + " is not start, abort or commit");
+    fail(location, shown(json["control"]) + " is not start, abort or commit");
 }
 
 Item message_of(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient) {
     if (!json["message"].is_string()) fail(location, "message must be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
-    if (operations == nullptr) fail(location, json["message"].dump() + " is not a message");
+    if (operations == nullptr) fail(location, shown(json["message"]) + " is not a message");
     if (!json.contains("payload") && !lenient) fail(location, "the payload is missing");
     const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
     Item item{{operations}, Message::create(handle, *operations), location};
@@ -354,7 +360,7 @@ std::vector<Item> from_json(const Handles &handles, std::string_view content, co
             const std::string_view words = error.what(), brackets = "] ";
             std::size_t begin = words.find("syntax error");
             if (begin == words.npos) begin = words.find(brackets) + brackets.size();
-            throw Failure(Exit::input, origin + ":" + line(at) + ": " + std::string(words.substr(begin)));
+            throw Failure(Exit::input, origin + ":" + line(at) + ": " + printable(words.substr(begin)));
         }
         collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
     }

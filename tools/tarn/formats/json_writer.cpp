@@ -6,6 +6,7 @@
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/support/hex.h"
 #include "tools/tarn/support/instance.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -153,6 +154,10 @@ private:
 
 ordered_json json_of(const Handle &handle, const RecordOperations &operations, void *instance) {
     return Writer(handle, operations, instance).run();
+}
+
+std::string json_text(const ordered_json &json, int indent) {
+    return printable_output(json.dump(indent, ' ', false, ordered_json::error_handler_t::replace), Notation::json);
 }
 
 ordered_json json_of(const Item &item) {

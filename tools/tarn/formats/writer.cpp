@@ -7,17 +7,18 @@
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/message.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
 std::string rendered(const Item &item, Style style) {
-    if (style == Style::json) return json_of(item).dump() + "\n";
+    if (style == Style::json) return json_text(json_of(item)) + "\n";
     // A control message has no object, so any handle can write it.
     static const Handle any(false);
     const Handle &handle = item.message ? item.message->handle() : any;
     const reflect::MessageOperations &operations = *item.identity.operations;
-    if (style == Style::xml) return xml_of(handle, operations, item.object()) + "\n";
-    if (style == Style::text) return text_of(handle, operations, item.object());
+    if (style == Style::xml) return printable_output(xml_of(handle, operations, item.object()), Notation::xml) + "\n";
+    if (style == Style::text) return printable_output(text_of(handle, operations, item.object()), Notation::text);
     return std::string(chars_of(frame_of(handle, operations, item.object())));
 }
 

@@ -6,6 +6,7 @@
 #include "tools/tarn/formats/xml_state.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -64,7 +65,7 @@ private:
         if (tag_end != std::string_view::npos && text_[tag_end - 1] == '/') {
             fragment.text += take(">", fragment.name);
         } else {
-            fragment.text += take("</" + fragment.name + ">", "element \"" + fragment.name + "\"");
+            fragment.text += take("</" + fragment.name + ">", "element " + in_quotes(fragment.name));
         }
         return fragment;
     }
@@ -92,18 +93,16 @@ void require_schema(const Document &document, const Fragment &fragment, const st
                     const schema::Message &message) {
     const std::vector<Problem> problems = check_document(document.get(), message);
     if (problems.empty()) return;
-    std::string text;
-    for (const Problem &p : problems) {
-        text += (text.empty() ? "" : "\n") + location(origin, fragment, p.line) + p.path + ": " + p.reason;
-    }
-    throw Failure(Exit::input, text);
+    std::vector<std::string> lines;
+    for (const Problem &p : problems) lines.push_back(location(origin, fragment, p.line) + p.path + ": " + p.reason);
+    throw Failure(Exit::input, lines);
 }
 
 const reflect::MessageOperations &message_for(const Fragment &fragment, const std::string &origin) {
     if (const auto *found = reflect::find_message(fragment.name); found != nullptr) return *found;
     std::vector<std::string> candidates;
     for (const reflect::MessageOperations &o : reflect::messages()) candidates.emplace_back(o.name);
-    throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + fragment.name + "\" is not a message" +
+    throw Failure(Exit::input, location(origin, fragment, 1) + in_quotes(fragment.name) + " is not a message" +
                                    suggestion(fragment.name, candidates));
 }
 
@@ -118,7 +117,7 @@ std::optional<Identity> control_in(const Fragment &fragment, const std::string &
         }
         const auto *bundle = reflect::find_bundle(name);
         if (bundle == nullptr) {
-            throw Failure(Exit::input, location(origin, fragment, 1) + "\"" + name + "\" is not a bundle");
+            throw Failure(Exit::input, location(origin, fragment, 1) + in_quotes(name) + " is not a bundle");
         }
         return identity_of(*bundle, control);
     }

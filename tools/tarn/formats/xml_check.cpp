@@ -9,6 +9,7 @@
 
 #include "schema/model.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -77,9 +78,9 @@ void Checker::check_attributes(const xmlNode *node, const std::string &path) {
     for (const xmlAttr *a = node->properties; a != nullptr; a = a->next) {
         const std::string name(reinterpret_cast<const char *>(a->name));
         if (name != "state") {
-            add(node, path, "unknown attribute \"" + name + "\"");
+            add(node, path, "unknown attribute " + in_quotes(name));
         } else if (const std::string value = text_in(a->children); !is_number<std::uint64_t>(value, 255)) {
-            add(node, path, "state \"" + value + "\" is not a number from 0 to 255");
+            add(node, path, "state " + in_quotes(value) + " is not a number from 0 to 255");
         }
     }
 }
@@ -93,7 +94,7 @@ void Checker::check_enumeration(xmlNode *node, const Member &member, const std::
             ++chosen;
             const std::string name(name_of(child));
             if (std::find(candidates.begin(), candidates.end(), name) == candidates.end()) {
-                add(child, path, "unknown enumerator \"" + name + "\"" + suggestion(name, candidates));
+                add(child, path, "unknown enumerator " + in_quotes(name) + suggestion(name, candidates));
             }
         } else if (child->type == XML_TEXT_NODE && !is_blank(text_in(child))) {
             add(node, path, "an enumerator is an empty element, not text");
@@ -109,7 +110,7 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
     if (member.kind == Kind::enumeration) return check_enumeration(node, member, path);
     for (xmlNode *child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_ELEMENT_NODE) {
-            return add(child, path, "unexpected element \"" + std::string(name_of(child)) + "\" in a value");
+            return add(child, path, "unexpected element " + in_quotes(name_of(child)) + " in a value");
         }
     }
     const std::string text = text_in(node);
@@ -117,18 +118,19 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
     switch (category(member.kind)) {
         case Category::boolean:
             if (value != "true" && value != "false" && value != "1" && value != "0") {
-                add(node, path, "\"" + value + "\" is neither true nor false");
+                add(node, path, in_quotes(value) + " is neither true nor false");
             }
             break;
         case Category::address:
-            if (!is_address(value)) add(node, path, "\"" + value + "\" is not an address with a prefix length");
+            if (!is_address(value)) add(node, path, in_quotes(value) + " is not an address with a prefix length");
             break;
         case Category::string:
             if (text.size() > 65535) add(node, path, "more than 65535 bytes");
             break;
         case Category::integer:
             if (!is_number<std::uint64_t>(value, greatest(member.kind))) {
-                add(node, path, "\"" + value + "\" is not a number from 0 to " + std::to_string(greatest(member.kind)));
+                add(node, path,
+                    in_quotes(value) + " is not a number from 0 to " + std::to_string(greatest(member.kind)));
             }
             break;
         case Category::enumeration:
@@ -185,7 +187,7 @@ void Checker::check_record(xmlNode *node, const Record &record, const std::strin
     Found found;
     for (xmlNode *child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_TEXT_NODE && !is_blank(text_in(child))) {
-            add(node, path, "text \"" + std::string(trimmed(text_in(child))).substr(0, 40) + "\" between the members");
+            add(node, path, "text " + in_quotes(trimmed(text_in(child))) + " between the members");
         }
         if (child->type != XML_ELEMENT_NODE) continue;
         const std::string name(name_of(child));
@@ -193,7 +195,7 @@ void Checker::check_record(xmlNode *node, const Record &record, const std::strin
             std::find_if(record.members.begin(), record.members.end(), [&](const Member &m) { return m.name == name; });
         if (member == record.members.end()) {
             add(child, path,
-                std::string(record.name) + " has no member \"" + name + "\"" + suggestion(name, names_of(record)));
+                std::string(record.name) + " has no member " + in_quotes(name) + suggestion(name, names_of(record)));
             continue;
         }
         auto &nodes = found[member->name];
@@ -252,9 +254,9 @@ std::vector<Problem> check_document(void *document, const schema::Message &messa
         if (child->type != XML_ELEMENT_NODE) continue;
         const std::string name(name_of(child));
         if (name != message.payload.name) {
-            checker.add(
-                child, path,
-                "unknown element \"" + name + "\", the payload is \"" + std::string(message.payload.name) + "\"");
+            checker.add(child, path,
+                        "unknown element " + in_quotes(name) + ", the payload is \"" +
+                            std::string(message.payload.name) + "\"");
             continue;
         }
         if (++payloads == 2) checker.add(child, path, "a message has only one payload");

@@ -164,4 +164,6 @@ if (matchMedia('(prefers-color-scheme: dark)').matches) dark();
 element('theme').addEventListener('click', dark);
 element('summary').textContent = [bundles.size + ' bundles', messages.size + ' messages', records.size + ' records',
   enumerations.size + ' enumerations'].join(', ');
-choose(decodeURI(location.hash.slice(1)) || null);
+let wantedAtStart = '';
+try { wantedAtStart = decodeURI(location.hash.slice(1)); } catch { /* a malformed address chooses nothing */ }
+choose(wantedAtStart || null);

@@ -650,8 +650,12 @@ search();
 sides.forEach(drawLines);
 addEventListener('resize', () => sides.forEach(drawLines));
 
+// Nothing if the address is malformed.
+function addressed() {
+  try { return decodeURI(location.hash.slice(1)); } catch { return ''; }
+}
 function follow() {
-  const parts = decodeURI(location.hash.slice(1)).match(/^(?:(\d+):)?(.*)$/);
+  const parts = addressed().match(/^(?:(\d+):)?(.*)$/);
   if (!parts || (!parts[1] && !parts[2])) return;
   const among = parts[1] === undefined ? roots : roots.slice(Number(parts[1]), Number(parts[1]) + 1);
   for (const root of among) {

@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -39,9 +40,9 @@ std::uint32_t Deadline::left_ms() const {
 }
 
 Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits)
-    : name_(endpoint.text()), deadline_(deadline), limits_(limits) {
+    : name_(printable(endpoint.text())), deadline_(deadline), limits_(limits) {
     const auto open = endpoint.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
-    check(open(name_.c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
+    check(open(endpoint.text().c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
           "cannot connect");
 }
 

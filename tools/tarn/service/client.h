@@ -41,7 +41,7 @@ public:
     Connection &operator=(const Connection &) = delete;
     ~Connection() { mirk_platform_client_close(client_); }
 
-    const std::string &name() const { return name_; }
+    const std::string &name() const { return name_; }  // printable
     void request(const reflect::BundleOperations &bundle, bool tracked);
     // One whole frame, valid until the next call. Throws a Failure if the frame or the whole answer exceeds its limit.
     FrameBytes receive();

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -98,7 +99,7 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
         return;
     }
     const auto *bundle = reflect::find_bundle(request.bundle);
-    if (bundle == nullptr) return refuse(peer, ENOENT, "unknown bundle \"" + std::string(request.bundle) + "\"");
+    if (bundle == nullptr) return refuse(peer, ENOENT, "unknown bundle " + in_quotes(request.bundle));
     if (!answerer_.has(*bundle)) {
         return refuse(peer, ENOENT, std::string(bundle->bundle->name) + " is not served here");
     }

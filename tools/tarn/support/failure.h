@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn::tool {
 
@@ -22,9 +23,11 @@ inline constexpr ExitCode exit_codes[] = {
     {Exit::environment, "file, connection, timeout or memory error"},
 };
 
+// Its words are printable, whatever text from outside the message quotes, and have as many lines as it was given.
 class Failure : public std::runtime_error {
 public:
-    Failure(Exit exit, const std::string &message) : std::runtime_error(message), exit_(exit) {}
+    Failure(Exit exit, const std::string &message) : Failure(exit, std::vector{message}) {}
+    Failure(Exit exit, const std::vector<std::string> &lines);
     Exit exit() const { return exit_; }
 
 private:
@@ -35,6 +38,9 @@ private:
 std::string error_name(std::uint32_t number);
 // "Message too long (EMSGSIZE)"
 std::string error_text(std::uint32_t number);
+
+// Prints on standard error, after what is waiting for standard output.
+void print_error(const Failure &failure);
 
 // ENOMEM is an error of the environment, every other number one of the input.
 Exit exit_of(std::uint32_t number);

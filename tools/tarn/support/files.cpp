@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -22,15 +23,21 @@ struct Close {
 };
 using File = std::unique_ptr<FILE, Close>;
 
+constexpr std::size_t longest_path = 4096;
+
 [[noreturn]] void fail(const std::string &shown) {
     throw Failure(Exit::environment, shown + ": " + std::strerror(errno));
 }
 
 }  // namespace
 
-std::string shown_path(const std::string &path) { return path == "-" ? "standard input" : path; }
+std::string shown_path(const std::string &path) {
+    return path == "-" ? "standard input" : printable(path, longest_path);
+}
 
-std::string shown_output(const std::string &path) { return path == "-" ? "standard output" : path; }
+std::string shown_output(const std::string &path) {
+    return path == "-" ? "standard output" : printable(path, longest_path);
+}
 
 std::string read_file(const std::string &path) {
     const File file(path == "-" ? stdin : std::fopen(path.c_str(), "rbe"));

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "schema/catalogue.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -64,7 +65,7 @@ Failure unknown_name(const std::string &kind, std::string_view name, const std::
     std::vector<std::string> candidates;
     for (const Named &n : known) candidates.push_back(short_name(n.name));
     for (const Named &n : known) candidates.emplace_back(n.name);
-    return {Exit::input, "unknown " + kind + " \"" + std::string(name) + "\"" + suggestion(name, candidates)};
+    return {Exit::input, "unknown " + kind + " " + in_quotes(name) + suggestion(name, candidates)};
 }
 
 const reflect::BundleOperations *find_bundle_named(std::string_view name) {
@@ -120,6 +121,8 @@ std::string suggestion(std::string_view word, const std::vector<std::string> &ca
     const std::string *nearest = nullptr;
     std::size_t least = word.size() / 3 + 2;
     for (const std::string &candidate : candidates) {
+        // A word from outside may have megabytes.
+        if (word.size() >= candidate.size() + least) continue;
         const std::size_t steps = distance(word, candidate);
         if (steps < least) {
             least = steps;

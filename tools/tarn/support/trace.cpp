@@ -5,6 +5,7 @@
 
 #include "lumo_ui_tarn.h"
 #include "mirk_platform.h"
+#include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
 
@@ -12,7 +13,7 @@ namespace {
 
 std::string shown(std::uint16_t module_id, std::uint32_t level, const char *line) {
     return "trace " + std::string(mirk_platform_trace_module_name(module_id)) + " " + std::to_string(level) + ": " +
-           line;
+           printable(line, 4096);
 }
 
 extern "C" void trace_to_standard_error(void *, std::uint16_t module_id, std::uint32_t level, const char *line) {
