@@ -130,7 +130,7 @@ public:
 
     // False if allocation fails.
     bool reserve(const void *block, size_t size) {
-        const uintptr_t begin = stretch(address_of(block)), last = stretch(last_address(block, size));
+        const uintptr_t begin = stretch(address_of(block)), last = stretch(last_address(address_of(block), size));
         for (uintptr_t key = begin; key <= last; ++key) {
             Bucket *bucket = bucket_of(key);
             if (bucket == nullptr) bucket = add_bucket(key);
@@ -190,9 +190,9 @@ public:
         if (bucket->is_unused()) remove(key, bucket);
     }
 
-    // Erases the entries in a block that is freed, and releases what was reserved for it.
-    void erase_block(const void *block, size_t size, bool reserved) {
-        if (reserved || entries_ != 0) release_block(block, size, reserved);
+    // Erases the entries in a block that is or was freed, and releases what was reserved for it.
+    void erase_block(uintptr_t begin, size_t size, bool reserved) {
+        if (reserved || entries_ != 0) release_block(begin, size, reserved);
     }
 
 private:
@@ -217,9 +217,7 @@ private:
 
     // Never 0, which the map reserves.
     static uintptr_t stretch(uintptr_t address) { return address / stretch_size + 1; }
-    static uintptr_t last_address(const void *block, size_t size) {
-        return address_of(block) + (size == 0 ? 0 : size - 1);
-    }
+    static uintptr_t last_address(uintptr_t begin, size_t size) { return begin + (size == 0 ? 0 : size - 1); }
     static unsigned slot_of(uintptr_t address) { return static_cast<unsigned>(address / 8 % slots); }
 
     Recent &recent(uintptr_t key) const { return recent_[key % recent_.size()]; }
@@ -253,8 +251,8 @@ private:
         return bucket;
     }
 
-    [[gnu::noinline]] void release_block(const void *block, size_t size, bool reserved) {
-        const uintptr_t begin = address_of(block), last = last_address(block, size);
+    [[gnu::noinline]] void release_block(uintptr_t begin, size_t size, bool reserved) {
+        const uintptr_t last = last_address(begin, size);
         for (uintptr_t key = stretch(begin); key <= stretch(last); ++key) {
             uint32_t mask = 0xffffffffu;
             if (key == stretch(begin)) mask &= 0xffffffffu << slot_of(begin);

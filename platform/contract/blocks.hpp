@@ -121,7 +121,7 @@ private:
             cell_size = cell_sizes[size_class];
             cell_count = static_cast<uint32_t>((slab_size - sizeof(Slab)) / (cell_size + sizeof(Block)));
             reciprocal = static_cast<uint32_t>((uint64_t{1} << 32) / cell_size + 1);
-            cells = reinterpret_cast<char *>(this) + slab_size - cell_count * cell_size;
+            cells = reinterpret_cast<char *>(this) + slab_size - size_t{cell_count} * cell_size;
             free = nullptr;
             used = live = 0;
         }

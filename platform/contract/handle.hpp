@@ -98,10 +98,10 @@ struct References {
     std::map<uintptr_t, std::vector<void *>> held_by_address;  // by ip_address
     uintptr_t last_oid = 0;
 
-    void erase_block(const void *block, size_t size) {
-        if (!oid_of.empty() || !held_by_address.empty()) erase_entries(block, size);
+    void erase_block(uintptr_t begin, size_t size) {
+        if (!oid_of.empty() || !held_by_address.empty()) erase_entries(begin, size);
     }
-    void erase_entries(const void *block, size_t size);
+    void erase_entries(uintptr_t begin, size_t size);
 };
 
 struct TextHash {

@@ -9,7 +9,8 @@
 using mirk::Handle;
 using mirk::own;
 
-// Defined in programs that run under the address sanitizer.
+// Defined in programs that run under the address sanitizer, which names it so.
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" [[gnu::weak]] void __asan_init();
 
 namespace {
@@ -72,9 +73,10 @@ static void obj_free(void *mem_ctx, uint32_t ctx_id, void *p) {
     const size_t size = place.block->size;
     handle.event(MIRK_PLATFORM_TESTING_FREE, p, size, 0, ctx_id);
     // A later object at the same address must not inherit these entries.
-    handle.offsets.erase_block(p, size, place.block->has_offsets);
-    handle.ra_data.erase_block(p, size, false);
-    handle.references.erase_block(p, size);
+    const uintptr_t begin = mirk::address_of(p);
+    handle.offsets.erase_block(begin, size, place.block->has_offsets);
+    handle.ra_data.erase_block(begin, size, false);
+    handle.references.erase_block(begin, size);
     handle.live_bytes -= size;
     handle.blocks.release(place);
 }
@@ -165,6 +167,7 @@ bool mirk_inside_grow_block(mirk_handle *h, uint32_t ctx_id, void **block, size_
     const mirk::Blocks::Place old = handle.blocks.find(*block);
     if (old.block == nullptr || old.block->has_offsets) return false;
     const size_t old_size = old.block->size;
+    const uintptr_t begin = mirk::address_of(old.address);
     mirk::Blocks::Place grown{};
     if (!failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) {
         if (within_ceilings(handle, size, false)) {
@@ -175,9 +178,9 @@ bool mirk_inside_grow_block(mirk_handle *h, uint32_t ctx_id, void **block, size_
     }
     if (grown.address != nullptr) {
         // Entries of objects in the old block do not move to the new one.
-        handle.offsets.erase_block(old.address, old_size, false);
-        handle.ra_data.erase_block(old.address, old_size, false);
-        handle.references.erase_block(old.address, old_size);
+        handle.offsets.erase_block(begin, old_size, false);
+        handle.ra_data.erase_block(begin, old_size, false);
+        handle.references.erase_block(begin, old_size);
         *grown.block = {++handle.blocks_made, size, ctx_id, false};
         handle.live_bytes += size - old_size;
     }

@@ -5,8 +5,7 @@ using mirk::own;
 
 namespace mirk {
 
-void References::erase_entries(const void *block, size_t size) {
-    const uintptr_t begin = address_of(block);
+void References::erase_entries(uintptr_t begin, size_t size) {
     const uintptr_t end = begin + (size == 0 ? 1 : size);
     if (!oid_of.empty()) {
         const auto first = oid_of.lower_bound(begin), last = oid_of.lower_bound(end);
