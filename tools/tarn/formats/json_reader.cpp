@@ -2,9 +2,8 @@
 #include "tools/tarn/formats/json.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
-#include <sstream>
 
+#include "tools/tarn/formats/json_texts.h"
 #include "tools/tarn/formats/xml_check.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/instance.h"
@@ -15,7 +14,7 @@ namespace tarn::tool {
 
 namespace {
 
-using nlohmann::ordered_json;
+using Json = nlohmann::json;
 using reflect::MemberOperations;
 using reflect::RecordOperations;
 using schema::Kind;
@@ -26,25 +25,25 @@ using schema::Role;
 }
 
 // A list or an object may be as long as the file.
-std::string shown(const ordered_json &json) {
+std::string shown(const Json &json) {
     return json.is_array() ? "a list" : json.is_object() ? "an object" : printable(json.dump());
 }
 
-std::uint64_t number_in(const ordered_json &json, std::uint64_t limit, const std::string &path) {
+std::uint64_t number_in(const Json &json, std::uint64_t limit, const std::string &path) {
     if (!json.is_number_unsigned() || json.get<std::uint64_t>() > limit) {
         fail(path, shown(json) + " is not a number from 0 to " + std::to_string(limit));
     }
     return json.get<std::uint64_t>();
 }
 
-std::int8_t variant_in(const ordered_json &json, const std::string &path) {
+std::int8_t variant_in(const Json &json, const std::string &path) {
     if (!json.is_number_integer() || json.get<std::int64_t>() < -128 || json.get<std::int64_t>() > -1) {
         fail(path, shown(json) + " is not a number from -128 to -1");
     }
     return static_cast<std::int8_t>(json.get<std::int64_t>());
 }
 
-std::string bytes_in(const ordered_json &json, const std::string &path) {
+std::string bytes_in(const Json &json, const std::string &path) {
     if (json.is_string()) return json.get<std::string>();
     const auto digits = json.is_object() && json.size() == 1 && json.contains("bytes") && json["bytes"].is_string()
                             ? json["bytes"].get<std::string>()
@@ -63,8 +62,7 @@ class Reader {
 public:
     Reader(const Handle &handle, bool lenient) : handle_(handle), lenient_(lenient) {}
 
-    void read_record(const ordered_json &json, const RecordOperations &operations, void *instance,
-                     const std::string &path);
+    void read_record(const Json &json, const RecordOperations &operations, void *instance, const std::string &path);
 
 private:
     struct Field {
@@ -76,18 +74,16 @@ private:
         const schema::Member &schema() const { return *member().member; }
     };
 
-    void read_member(const ordered_json &json, const Field &field, const std::string &path);
-    void read_embedded(const ordered_json &json, const Field &field, const std::string &path);
-    void read_address(const ordered_json &json, ip_address *address, const std::string &path);
-    void read_enumeration(const ordered_json &json, const Field &field, void *object, const std::string &path);
-    void read_string(const ordered_json &json, const Field &field, const std::string &path);
-    void read_array(const ordered_json &json, const Field &field, const std::string &path);
-    void read_state(const ordered_json &json, const RecordOperations &operations, void *instance,
-                    const std::string &path);
-    void check_names(const ordered_json &json, const RecordOperations &operations, const std::string &path);
-    void check_count(const ordered_json &json, const RecordOperations &operations, std::size_t index,
-                     const std::string &path);
-    bool read_header(const ordered_json &json, void *object, const std::string &path);
+    void read_member(const Json &json, const Field &field, const std::string &path);
+    void read_embedded(const Json &json, const Field &field, const std::string &path);
+    void read_address(const Json &json, ip_address *address, const std::string &path);
+    void read_enumeration(const Json &json, const Field &field, void *object, const std::string &path);
+    void read_string(const Json &json, const Field &field, const std::string &path);
+    void read_array(const Json &json, const Field &field, const std::string &path);
+    void read_state(const Json &json, const RecordOperations &operations, void *instance, const std::string &path);
+    void check_names(const Json &json, const RecordOperations &operations, const std::string &path);
+    void check_count(const Json &json, const RecordOperations &operations, std::size_t index, const std::string &path);
+    bool read_header(const Json &json, void *object, const std::string &path);
     void require(const std::string &path) {
         if (err_ != 0) throw Failure(exit_of(err_), path + ": " + error_text(err_));
     }
@@ -98,7 +94,7 @@ private:
 };
 
 // True if the object has a body.
-bool Reader::read_header(const ordered_json &json, void *object, const std::string &path) {
+bool Reader::read_header(const Json &json, void *object, const std::string &path) {
     if (const auto ra = json.find("@ra"); ra != json.end()) {
         if (!ra->is_object() || !ra->contains("value") || !ra->contains("byte"))
             fail(path + "/@ra", "expected value and byte");
@@ -112,7 +108,7 @@ bool Reader::read_header(const ordered_json &json, void *object, const std::stri
     return false;
 }
 
-void Reader::check_names(const ordered_json &json, const RecordOperations &operations, const std::string &path) {
+void Reader::check_names(const Json &json, const RecordOperations &operations, const std::string &path) {
     std::vector<std::string> candidates;
     for (const MemberOperations &m : operations.members) candidates.emplace_back(m.member->name);
     for (const auto &item : json.items()) {
@@ -125,7 +121,7 @@ void Reader::check_names(const ordered_json &json, const RecordOperations &opera
     }
 }
 
-void Reader::check_count(const ordered_json &json, const RecordOperations &operations, std::size_t index,
+void Reader::check_count(const Json &json, const RecordOperations &operations, std::size_t index,
                          const std::string &path) {
     const auto given = json.find(operations.members[index].member->name);
     const auto counted = json.find(operations.members[index + 1].member->name);
@@ -139,7 +135,7 @@ void Reader::check_count(const ordered_json &json, const RecordOperations &opera
     }
 }
 
-void Reader::read_record(const ordered_json &json, const RecordOperations &operations, void *instance,
+void Reader::read_record(const Json &json, const RecordOperations &operations, void *instance,
                          const std::string &path) {
     if (!json.is_object()) fail(path, "expected an object for " + std::string(operations.record->name));
     if (!lenient_) check_names(json, operations, path);
@@ -155,7 +151,7 @@ void Reader::read_record(const ordered_json &json, const RecordOperations &opera
     read_header(json, instance, path);
 }
 
-void Reader::read_member(const ordered_json &json, const Field &field, const std::string &path) {
+void Reader::read_member(const Json &json, const Field &field, const std::string &path) {
     const schema::Member &m = field.schema();
     if (is_integer(m.kind)) {
         field.member().set_value(handle_.get(), context_id, field.instance, number_in(json, greatest(m.kind), path),
@@ -170,7 +166,7 @@ void Reader::read_member(const ordered_json &json, const Field &field, const std
     require(path);
 }
 
-void Reader::read_embedded(const ordered_json &json, const Field &field, const std::string &path) {
+void Reader::read_embedded(const Json &json, const Field &field, const std::string &path) {
     const schema::Member &m = field.schema();
     void *object = field.member().get(handle_.get(), context_id, field.instance, &err_);
     require(path);
@@ -183,7 +179,7 @@ void Reader::read_embedded(const ordered_json &json, const Field &field, const s
     if (json.is_object() && (!json.contains("@value") || !json.contains("@variant"))) {
         fail(path, "expected a value, or @variant and @value");
     }
-    const ordered_json &value = json.is_object() ? json["@value"] : json;
+    const Json &value = json.is_object() ? json["@value"] : json;
     if (m.kind == Kind::enumeration) {
         read_enumeration(value, field, object, path);
     } else {
@@ -194,8 +190,8 @@ void Reader::read_embedded(const ordered_json &json, const Field &field, const s
     if (json.is_object()) read_header(json, object, path);
 }
 
-void Reader::read_address(const ordered_json &json, ip_address *address, const std::string &path) {
-    const ordered_json *text = &json;
+void Reader::read_address(const Json &json, ip_address *address, const std::string &path) {
+    const Json *text = &json;
     if (json.is_object()) {
         const auto found = json.find("@address");
         if (found == json.end()) fail(path, "expected an address");
@@ -209,13 +205,13 @@ void Reader::read_address(const ordered_json &json, ip_address *address, const s
     if (state == nullptr) return;
     std::fill_n(state, 7, std::uint8_t{0});
     if (!json.is_object() || !json.contains("@members")) return;
-    const ordered_json &members = json["@members"];
+    const Json &members = json["@members"];
     if (!members.is_array() || members.size() != 7) fail(path + "/@members", "expected seven state bytes");
     for (std::size_t i = 0; i < 7; ++i)
         state[i] = static_cast<std::uint8_t>(number_in(members[i], 255, path + "/@members"));
 }
 
-void Reader::read_enumeration(const ordered_json &json, const Field &field, void *object, const std::string &path) {
+void Reader::read_enumeration(const Json &json, const Field &field, void *object, const std::string &path) {
     const auto &enumerators = field.schema().enumeration->enumerators;
     const std::vector<std::string> candidates(enumerators.begin(), enumerators.end());
     if (json.is_string()) {
@@ -234,7 +230,7 @@ void Reader::read_enumeration(const ordered_json &json, const Field &field, void
     set_enumeration_value(object, static_cast<std::uint32_t>(number));
 }
 
-void Reader::read_string(const ordered_json &json, const Field &field, const std::string &path) {
+void Reader::read_string(const Json &json, const Field &field, const std::string &path) {
     const std::string text = bytes_in(json, path);
     if (text.size() > 65535) fail(path, "more than 65535 bytes");
     // The setter copies up to the first NUL and pads with NULs.
@@ -246,7 +242,7 @@ void Reader::read_string(const ordered_json &json, const Field &field, const std
                             static_cast<std::uint32_t>(text.size()), &err_);
 }
 
-void Reader::read_array(const ordered_json &json, const Field &field, const std::string &path) {
+void Reader::read_array(const Json &json, const Field &field, const std::string &path) {
     if (!json.is_array()) fail(path, "expected an array");
     if (json.size() > greatest(field.operations.members[field.index - 1].member->kind))
         fail(path, std::to_string(json.size()) + " elements exceed the range of its count");
@@ -266,13 +262,12 @@ void Reader::read_array(const ordered_json &json, const Field &field, const std:
     }
 }
 
-void Reader::read_state(const ordered_json &json, const RecordOperations &operations, void *instance,
-                        const std::string &path) {
+void Reader::read_state(const Json &json, const RecordOperations &operations, void *instance, const std::string &path) {
     const auto all = json.find("@state");
-    const ordered_json none = ordered_json::object();
-    const ordered_json &states = all != json.end() ? *all : none;
+    const Json none = Json::object();
+    const Json &states = all != json.end() ? *all : none;
     if (!states.is_object()) fail(path + "/@state", "expected an object");
-    const auto byte = [&](const ordered_json &value) {
+    const auto byte = [&](const Json &value) {
         return static_cast<std::uint8_t>(number_in(value, 255, path + "/@state"));
     };
     for (const MemberOperations &m : operations.members) {
@@ -299,7 +294,7 @@ void Reader::read_state(const ordered_json &json, const RecordOperations &operat
     require(path + "/@state");
 }
 
-Item control_of(const ordered_json &json, const std::string &location) {
+Item control_of(const Json &json, const std::string &location) {
     const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
     if (bundle == nullptr) fail(location, shown(json["bundle"]) + " is not a bundle");
     for (const Control control : controls) {
@@ -309,7 +304,7 @@ Item control_of(const ordered_json &json, const std::string &location) {
     fail(location, shown(json["control"]) + " is not start, abort or commit");
 }
 
-Item message_of(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient) {
+Item message_of(const Handles &handles, const Json &json, const std::string &location, bool lenient) {
     if (!json["message"].is_string()) fail(location, "message must be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
     if (operations == nullptr) fail(location, shown(json["message"]) + " is not a message");
@@ -323,10 +318,10 @@ Item message_of(const Handles &handles, const ordered_json &json, const std::str
     return item;
 }
 
-void collect(const Handles &handles, const ordered_json &json, const std::string &location, bool lenient,
+void collect(const Handles &handles, const Json &json, const std::string &location, bool lenient,
              std::vector<Item> &items) {
     if (json.is_array()) {
-        for (const ordered_json &one : json) collect(handles, one, location, lenient, items);
+        for (const Json &one : json) collect(handles, one, location, lenient, items);
     } else if (json.is_object() && json.contains("message")) {
         items.push_back(message_of(handles, json, location, lenient));
     } else if (json.is_object() && json.contains("bundle") && json.contains("control")) {
@@ -342,28 +337,8 @@ void collect(const Handles &handles, const ordered_json &json, const std::string
 
 std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     std::vector<Item> items;
-    std::istringstream in{std::string(content)};
-    while ((in >> std::ws).peek() != std::istringstream::traits_type::eof()) {
-        const auto start = static_cast<std::size_t>(in.tellg());
-        const auto line = [&](std::size_t at) {
-            return std::to_string(
-                1 + std::count(content.begin(),
-                               content.begin() + static_cast<std::ptrdiff_t>(std::min(at, content.size())), '\n'));
-        };
-        ordered_json json;
-        try {
-            in >> json;
-        } catch (const ordered_json::exception &error) {
-            in.clear();
-            const std::size_t at = static_cast<std::size_t>(in.tellg()) - 1;  // of the last character read
-            // The parser reports a number out of range with another prefix than a syntax error.
-            const std::string_view words = error.what(), brackets = "] ";
-            std::size_t begin = words.find("syntax error");
-            if (begin == words.npos) begin = words.find(brackets) + brackets.size();
-            throw Failure(Exit::input, origin + ":" + line(at) + ": " + printable(words.substr(begin)));
-        }
-        collect(handles, json, origin + ":" + line(start) + ": ", lenient, items);
-    }
+    JsonTexts texts(content, origin);
+    while (texts.next()) collect(handles, texts.value(), texts.location() + ": ", lenient, items);
     return items;
 }
 
