@@ -146,8 +146,17 @@ private:
 /// write.
 class frame {
 public:
-    /// Creates an empty frame. A frame that was moved from is empty too.
+    /// Creates an empty frame.
     frame() = default;
+    /// Copies the bytes.
+    frame(const frame &) = default;
+    /// The other frame is empty afterwards.
+    frame(frame &&) noexcept = default;
+    /// Copies or moves the bytes. A frame that was moved from is empty.
+    frame &operator=(frame other) noexcept {
+        bytes_.swap(other.bytes_);
+        return *this;
+    }
     /// Copies the bytes.
     frame(const void *bytes, std::size_t size) : bytes_(size + 1) {
         if (size != 0) std::memcpy(bytes_.data(), bytes, size);
@@ -177,12 +186,15 @@ public:
     /// The end of the bytes: the guard byte.
     const std::uint8_t *end() const { return data() + size(); }
     /// Truncates the frame or appends zeros.
-    void resize(std::size_t size) { bytes_.resize(size + 1); }
-    /// Appends the bytes of another frame.
+    void resize(std::size_t size) {
+        if (!bytes_.empty()) bytes_.back() = 0;  // the guard byte, which C functions can have written
+        bytes_.resize(size + 1);
+    }
+    /// Appends the bytes of a frame, which can be this one.
     void append(const frame &other) {
-        const std::size_t before = size();
-        resize(before + other.size());
-        if (!other.empty()) std::memcpy(data() + before, other.data(), other.size());
+        const std::size_t before = size(), added = other.size();
+        resize(before + added);
+        if (added != 0) std::memcpy(data() + before, other.data(), added);
     }
     /// True if the bytes are equal.
     friend bool operator==(const frame &a, const frame &b) {
@@ -350,6 +362,23 @@ protected:
         return context_->call(operation, native_, arguments...);
     }
 
+    /// Not all C functions check for NULL.
+    bool exists_() const {
+        if (native_ == nullptr) context_->fail(EINVAL, "there is no object");
+        return native_ != nullptr;
+    }
+    /// Size is the type of the size in the C function, which would take that of an empty buffer for a huge one.
+    template <class Size, class Marshal>
+    std::size_t write_frame_(Marshal marshal, std::uint8_t *buffer, std::size_t size_with_guard) const {
+        if (!exists_()) return 0;
+        if (size_with_guard == 0) {
+            context_->fail(EMSGSIZE, "the buffer has no guard byte");
+            return 0;
+        }
+        const std::size_t size = size_with_guard - 1 < max_buffer_size ? size_with_guard - 1 : max_buffer_size;
+        return context_->call(marshal, static_cast<void *>(buffer), native_, static_cast<Size>(size));
+    }
+
     lumo_ui_tarn::context *context_;
     Native *native_;
     /// @endcond
@@ -373,12 +402,13 @@ public:
 
     /// An upper bound on the frame's size in bytes, without the guard byte. RA data is not counted: with it, the frame
     /// can be larger.
-    std::size_t frame_size() const { return R::len(this->context().handle(), this->context().ctx_id(), this->native_); }
+    std::size_t frame_size() const {
+        return this->native_ != nullptr ? R::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
+    }
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
     /// ENOMEM if the buffer is too small.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_guard) const {
-        return this->context().call(R::marshal, static_cast<void *>(buffer), this->native_,
-                                    static_cast<std::int32_t>(size_with_guard) - 1);
+        return this->template write_frame_<std::int32_t>(R::marshal, buffer, size_with_guard);
     }
 #if defined(__cpp_lib_span)
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte.
@@ -389,6 +419,7 @@ public:
     /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
     /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
     frame to_frame() const {
+        if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return R::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::int32_t>(size), err);
@@ -520,7 +551,9 @@ protected:
     /// The C setters move, and leak the arrays and strings of the destination. So these are moved out first, and freed.
     template <class Object, class N, class Get, class Set>
     static auto &adopt_(Object &object, Get get, Set set, record<N> &&value) {
-        {
+        if (!value) {
+            object.context().fail(EINVAL, "there is no record");
+        } else {
             const emptied<N> former(object.context(), object.call_(get));
             object.call_(set, value.get());
         }
@@ -531,7 +564,11 @@ protected:
         if constexpr (N::owns_blocks) {
             return adopt_(object, get, set, value.copy());
         } else {
-            object.call_(set, const_cast<typename N::native *>(value.get()));  // only reads
+            if (!value) {  // the C function would not refuse to assign NULL to NULL
+                object.context().fail(EINVAL, "there is no record");
+            } else {
+                object.call_(set, const_cast<typename N::native *>(value.get()));  // only reads
+            }
             return self_(object);
         }
     }
@@ -602,10 +639,11 @@ public:
     record(const record &) = delete;
     /// The other owner has no C object afterwards.
     record(record &&other) noexcept : base(other.context(), other.release()) {}
-    /// Swaps the two.
+    /// Destroys the present record and takes the other owner's, which has no C object afterwards.
     record &operator=(record &&other) noexcept {
-        std::swap(this->context_, other.context_);
-        std::swap(this->native_, other.native_);
+        record taken(std::move(other));
+        std::swap(this->context_, taken.context_);
+        std::swap(this->native_, taken.native_);
         return *this;
     }
     /// Destroys the record.
@@ -927,9 +965,7 @@ public:
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
     /// ENOMEM if the buffer is too small.
     std::size_t write_frame(std::uint8_t *buffer, std::size_t size_with_guard) const {
-        if (!has_object()) return 0;
-        return this->context().call(M::marshal, static_cast<void *>(buffer), this->native_,
-                                    static_cast<std::uint32_t>(size_with_guard) - 1);
+        return this->template write_frame_<std::uint32_t>(M::marshal, buffer, size_with_guard);
     }
 #if defined(__cpp_lib_span)
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte.
@@ -940,7 +976,7 @@ public:
     /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
     /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
     frame to_frame() const {
-        if (!has_object()) return {};
+        if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
             return M::marshal(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
@@ -963,7 +999,7 @@ protected:
         return record<payload_type>::take(this->context(), this->call_(M::payload_get_detach));
     }
     void set_payload_(record<payload_type> &&value) const {
-        if (!has_object()) return;
+        if (!this->exists_()) return;
         if (!value) {  // the C function would remove the payload
             this->context().fail(EINVAL, "there is no record");
             return;
@@ -975,14 +1011,9 @@ protected:
     /// @endcond
 
 private:
-    /// The C functions that write frames and text do not check for NULL.
-    bool has_object() const {
-        if (this->native_ == nullptr) this->context().fail(EINVAL, "there is no message");
-        return this->native_ != nullptr;
-    }
     template <class Operation>
     std::string rendered(Operation operation) const {
-        if (!has_object()) return {};
+        if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return operation(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
@@ -1043,10 +1074,11 @@ public:
     message(const message &) = delete;
     /// The other owner has no C object afterwards.
     message(message &&other) noexcept : base(other.context(), other.release()) {}
-    /// Swaps the two.
+    /// Destroys the present message and takes the other owner's, which has no C object afterwards.
     message &operator=(message &&other) noexcept {
-        std::swap(this->context_, other.context_);
-        std::swap(this->native_, other.native_);
+        message taken(std::move(other));
+        std::swap(this->context_, taken.context_);
+        std::swap(this->native_, taken.native_);
         return *this;
     }
     /// Destroys the message and its payload.

@@ -419,6 +419,16 @@ TEST(CppUsageStates, ElementStatesAreFixedUntilTheArrayGrows) {
     EXPECT_EQ(mirk_platform_handle_close(handle), 1u);
 }
 
+TEST_F(CppUsage, BuffersWithoutRoomForTheGuardByteAreRefused) {
+    context c(handle);
+    const debug_setting record(c);
+    const debug_setting_msg message(c);
+    std::uint8_t none = 0xaa;
+    expect_error(std::errc::message_size, [&] { record.write_frame(&none, 0); });
+    expect_error(std::errc::message_size, [&] { message.write_frame(&none, 0); });
+    EXPECT_EQ(none, 0xaa);
+}
+
 TEST_F(CppUsage, FramesEndWithAGuardByte) {
     frame empty;
     EXPECT_TRUE(empty.empty());
