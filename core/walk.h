@@ -117,8 +117,8 @@ struct Block : Field<R, I> {
 template <const Record &R, std::size_t I>
 struct ArrayField : Block<R, I> {
     static constexpr const Record &element = *R.members[I].record;
-    static constexpr std::size_t base = schema::layout<element>.base_size;
-    static constexpr std::size_t width = schema::layout<element>.state_width;
+    static constexpr std::size_t base = schema::layout<*R.members[I].record>.base_size;
+    static constexpr std::size_t width = schema::layout<*R.members[I].record>.state_width;
 
     // The block must not be null.
     template <class Object>

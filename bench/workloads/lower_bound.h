@@ -2,6 +2,7 @@
 // schema.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 

@@ -1,5 +1,6 @@
 #include "machine.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace fuzz {

@@ -1,6 +1,7 @@
 // The calls that messages make of the runtime, in their order.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>

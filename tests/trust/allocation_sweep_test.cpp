@@ -1,4 +1,5 @@
 // Each allocation of each exported operation fails in turn, once and from then on.
+#include <algorithm>
 #include <cerrno>
 #include <set>
 
