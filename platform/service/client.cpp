@@ -49,13 +49,17 @@ Client make_client(uint32_t frame_limit) {
 
 mirk_platform_error connect(mirk_platform_client &client, const mirk::StreamProtocol::endpoint &endpoint,
                             Clock::time_point until) {
-    // Connecting to a socket file whose queue is full fails immediately, so it is retried until the deadline.
+    // Connecting to a socket file whose queue is full fails immediately, so it is retried until the deadline. Asio 1.30
+    // reports success instead, but the socket has no peer.
+    const bool is_local = endpoint.protocol().family() == AF_UNIX;
     for (;;) {
         Outcome outcome;
         client.socket.async_connect(endpoint, [&](const asio::error_code &error) { outcome.error = error; });
         wait(client, until, &outcome);
+        asio::error_code no_peer;
+        if (!outcome.error && is_local) client.socket.remote_endpoint(no_peer);
         const bool queue_is_full =
-            outcome.error == asio::error::would_block || outcome.error == asio::error::no_buffer_space;
+            no_peer || outcome.error == asio::error::would_block || outcome.error == asio::error::no_buffer_space;
         if (!queue_is_full) return outcome.number();
         if (Clock::now() >= until) return ETIMEDOUT;
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
