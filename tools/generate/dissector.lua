@@ -82,15 +82,15 @@ tarn.fields = list
 -- ---- text of an address, in the same form as in the library
 
 local function v4_text(word)
-    return string.format("%d.%d.%d.%d", bit32.extract(word, 24, 8), bit32.extract(word, 16, 8),
-        bit32.extract(word, 8, 8), bit32.extract(word, 0, 8))
+    return string.format("%d.%d.%d.%d", bit.rshift(word, 24), bit.band(bit.rshift(word, 16), 0xff),
+        bit.band(bit.rshift(word, 8), 0xff), bit.band(word, 0xff))
 end
 
 local function v6_text(words)
     local part = {}
     for _, word in ipairs(words) do
-        part[#part + 1] = bit32.rshift(word, 16)
-        part[#part + 1] = bit32.band(word, 0xffff)
+        part[#part + 1] = bit.rshift(word, 16)
+        part[#part + 1] = bit.band(word, 0xffff)
     end
     local from, length = 0, 1 -- the longest run of zeros, if there are two at least
     local i = 1
@@ -176,7 +176,7 @@ function reader:close(item, from) item:set_len(self.at - from) end
 function reader:record(tree, record, path)
     local head, jump_at = {}, nil
     for _, part in ipairs(record_parts) do
-        if not part.flag or bit32.band(head.flag, part.flag) ~= 0 then
+        if not part.flag or bit.band(head.flag, part.flag) ~= 0 then
             if part.name == "jump" then jump_at = self.at end
             local item, range = self:take(tree, f[part.name], part.size, path .. "." .. part.name)
             if part.content == "signed" then
@@ -190,7 +190,7 @@ function reader:record(tree, record, path)
             end
         end
     end
-    local variant, jump, tracked = head.variant, head.jump, bit32.band(head.flag, flags.tracked) ~= 0
+    local variant, jump, tracked = head.variant, head.jump, bit.band(head.flag, flags.tracked) ~= 0
     local values = {}
     if variant >= 0 then
         local count = 0
@@ -288,7 +288,7 @@ function reader:request(tree)
     local item, range = self:take(tree, f.options, 1, "options")
     item:add(f.tracked, range)
     item:add(f.refused, range)
-    local refused = bit32.band(range:uint(), request.refused) ~= 0
+    local refused = bit.band(range:uint(), request.refused) ~= 0
     if refused then self:take(tree, f.number, 4, "number") end
     local name = refused and "sentence" or "bundle"
     _, range = self:take(tree, f.text_length, 1, name .. "_len")
