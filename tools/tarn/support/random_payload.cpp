@@ -32,11 +32,14 @@ bool RandomPayload::can_grow(const Record &record) {
     });
 }
 
+// Each statement draws at most one number: compilers evaluate operands in different orders.
 std::string RandomPayload::address() {
     constexpr std::uint64_t v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
     if (below(3) != 0) {
-        return "10." + std::to_string(below(256)) + "." + std::to_string(below(256)) + ".0/" +
-               std::to_string(v4_lengths[below(6)]);
+        std::string text = "10.";
+        text += std::to_string(below(256)) + ".";
+        text += std::to_string(below(256)) + ".0/";
+        return text + std::to_string(v4_lengths[below(6)]);
     }
     // Groups without a leading zero are in canonical form, so they read back as written.
     std::string text = "2001:db8:";
@@ -53,8 +56,10 @@ std::string RandomPayload::address() {
 std::string RandomPayload::name(const Member &m) {
     constexpr const char *protocols[] = {"http", "dns", "rtp", "ssh", "smtp", "quic", "sip", "ntp"};
     if (has(m, "intf")) {
-        return "TenGigE0/" + std::to_string(below(8)) + "/" + std::to_string(below(4)) + "/" +
-               std::to_string(below(32));
+        std::string text = "TenGigE0/";
+        text += std::to_string(below(8)) + "/";
+        text += std::to_string(below(4)) + "/";
+        return text + std::to_string(below(32));
     }
     const std::string word = protocols[below(8)];
     return has(m, "sub") ? word + "-video" : has(m, "appl") ? word + "-" + std::to_string(index_) : word;
