@@ -40,6 +40,13 @@ std::optional<Section> section_of(const std::string &file, const std::string &na
     return std::nullopt;
 }
 
+// Numbers of the manifest are little-endian on every host.
+std::uint32_t number_at(const std::string &content, std::size_t position) {
+    std::uint32_t number = 0;
+    for (unsigned i = 0; i < 4; ++i) number |= std::uint32_t{at<std::uint8_t>(content, position + i)} << (8 * i);
+    return number;
+}
+
 struct Block {
     std::uint32_t kind = 0;
     std::string text;  // without its NUL
@@ -48,7 +55,7 @@ struct Block {
 std::vector<Block> blocks_of(const std::string &content) {
     std::vector<Block> blocks;
     for (std::size_t position = 0; position < content.size();) {
-        const auto length = at<std::uint32_t>(content, position), kind = at<std::uint32_t>(content, position + 4);
+        const auto length = number_at(content, position), kind = number_at(content, position + 4);
         const std::string text = content.substr(position + 8, length);
         EXPECT_EQ(text.size(), length);
         EXPECT_EQ(text.find('\0'), length - 1) << "one NUL, and it ends the text";

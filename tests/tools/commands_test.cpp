@@ -1,4 +1,5 @@
 // dissect, diff, schema, manifest and generate; help and exit codes of all commands.
+#include <elf.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -252,6 +253,62 @@ TEST(Manifest, PrintsTheTypesOfTheLibraryAndItsBuild) {
         EXPECT_NE(outcome.out.find("\n" + reference::luid_text(record.luid) + ":"), std::string::npos) << record.name;
     }
     EXPECT_NE(outcome.out.find("\nbuild stamp:\nlumo_ui_tarn\n"), std::string::npos);
+}
+
+// Writes numbers of the width of their type, in the given byte order.
+class ElfWriter {
+public:
+    explicit ElfWriter(int order) : order_(order) {}
+
+    template <class T>
+    ElfWriter &operator<<(T number) {
+        for (unsigned i = 0; i < sizeof number; ++i) {
+            const unsigned shift = 8 * (order_ == ELFDATA2LSB ? i : static_cast<unsigned>(sizeof number) - 1 - i);
+            text_ += static_cast<char>(std::uint64_t{number} >> shift & 0xff);
+        }
+        return *this;
+    }
+    ElfWriter &operator<<(const std::string &bytes) {
+        text_ += bytes;
+        return *this;
+    }
+    const std::string &text() const { return text_; }
+
+private:
+    int order_;
+    std::string text_;
+};
+
+// The smallest file with a manifest: the file header, two section headers, the table of names, the section.
+std::string elf_with(const std::string &manifest, int order) {
+    const std::string names("\0.orrin\0", 8);
+    const Elf64_Off tables = sizeof(Elf64_Ehdr), content = tables + 2 * sizeof(Elf64_Shdr);
+    ElfWriter file(order);
+    file << std::string(ELFMAG) + static_cast<char>(ELFCLASS64) + static_cast<char>(order) + std::string(10, '\1');
+    file << Elf64_Half{ET_DYN} << Elf64_Half{EM_S390} << Elf64_Word{EV_CURRENT} << Elf64_Addr{0} << Elf64_Off{0};
+    file << tables << Elf64_Word{0} << Elf64_Half{sizeof(Elf64_Ehdr)} << Elf64_Half{0} << Elf64_Half{0};
+    file << Elf64_Half{sizeof(Elf64_Shdr)} << Elf64_Half{2} << Elf64_Half{0};
+    const auto section = [&](Elf64_Word name, Elf64_Off offset, std::size_t size) {
+        file << name << Elf64_Word{SHT_PROGBITS} << Elf64_Xword{0} << Elf64_Addr{0} << offset << Elf64_Xword{size};
+        file << Elf64_Word{0} << Elf64_Word{0} << Elf64_Xword{1} << Elf64_Xword{0};
+    };
+    section(0, content, names.size());
+    section(1, content + names.size(), manifest.size());
+    file << names << manifest;
+    return file.text();
+}
+
+TEST(Manifest, IsReadFromFilesOfEitherByteOrder) {
+    const Directory directory;
+    // Numbers of the manifest itself are little-endian in both.
+    const std::string manifest("\5\0\0\0\1\0\0\0four\0\0\0\0", 16);
+    for (const int order : {ELFDATA2LSB, ELFDATA2MSB}) {
+        const std::string file = elf_with(manifest, order);
+        EXPECT_EQ(tarn({"manifest", directory.write("file", file)}).out, "build stamp:\nfour\n") << order;
+        for (std::size_t size = 4; size < file.size(); ++size) {
+            EXPECT_EQ(tarn({"manifest", directory.write("cut", file.substr(0, size))}).exit, 2) << size;
+        }
+    }
 }
 
 TEST(Manifest, DistinguishesFilesWithoutAManifestFromOtherFiles) {

@@ -1,6 +1,9 @@
 // tarn manifest: prints the section .orrin of a library file: its list of types and its build stamp.
 #include <elf.h>
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstring>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -21,12 +24,15 @@ struct ManifestOptions {
     bool json = false;
 };
 
-// Reads nothing beyond the end of the file, even if its tables are damaged.
+// An ELF file of either byte order, on hosts of either. Reads nothing beyond the end of the file, even if its tables
+// are damaged.
 class ElfFile {
 public:
     ElfFile(std::string_view bytes, const std::string &path) : bytes_(bytes), path_(path) {
         if (bytes.substr(0, SELFMAG) != ELFMAG) fail("not an ELF file");
-        if (bytes.size() < EI_NIDENT || bytes[EI_DATA] != ELFDATA2LSB) fail("not a little-endian ELF file");
+        if (bytes.size() < EI_NIDENT) fail("the file header is beyond the end of the file");
+        if (bytes[EI_DATA] != ELFDATA2LSB && bytes[EI_DATA] != ELFDATA2MSB) fail("an ELF file of unknown byte order");
+        is_foreign_ = (bytes[EI_DATA] == ELFDATA2LSB) != (std::endian::native == std::endian::little);
     }
 
     std::string_view section(std::string_view name) const {
@@ -51,28 +57,40 @@ private:
         return value;
     }
 
+    // A number of the file in the byte order of the host.
+    template <class T>
+    T native(T number) const {
+        auto bytes = std::bit_cast<std::array<char, sizeof number>>(number);
+        if (is_foreign_) std::reverse(bytes.begin(), bytes.end());
+        return std::bit_cast<T>(bytes);
+    }
+
     template <class File, class Section>
     std::string_view find(std::string_view name) const {
         const auto file = load<File>(0, "the file header");
         const auto header = [&](std::uint64_t index) {
-            return load<Section>(file.e_shoff + index * sizeof(Section), "a section header");
+            return load<Section>(native(file.e_shoff) + index * sizeof(Section), "a section header");
+        };
+        const auto content = [&](const Section &section, const char *what) {
+            return part(native(section.sh_offset), native(section.sh_size), what);
         };
         if (file.e_shoff == 0) return {};
-        const std::uint64_t count = file.e_shnum != 0 ? file.e_shnum : header(0).sh_size;
-        const std::uint64_t names_at = file.e_shstrndx != SHN_XINDEX ? file.e_shstrndx : header(0).sh_link;
-        const Section names = header(names_at);
-        const std::string_view words = part(names.sh_offset, names.sh_size, "the table of names");
+        const std::uint64_t count = file.e_shnum != 0 ? native(file.e_shnum) : native(header(0).sh_size);
+        const std::uint64_t names_at =
+            native(file.e_shstrndx) != SHN_XINDEX ? native(file.e_shstrndx) : native(header(0).sh_link);
+        const std::string_view words = content(header(names_at), "the table of names");
         for (std::uint64_t i = 0; i < count; ++i) {
             const Section section = header(i);
-            if (section.sh_name >= words.size()) continue;
-            const std::string_view word = words.substr(section.sh_name);
-            if (word.substr(0, word.find('\0')) == name) return part(section.sh_offset, section.sh_size, "the section");
+            if (native(section.sh_name) >= words.size()) continue;
+            const std::string_view word = words.substr(native(section.sh_name));
+            if (word.substr(0, word.find('\0')) == name) return content(section, "the section");
         }
         return {};
     }
 
     std::string_view bytes_;
     const std::string &path_;
+    bool is_foreign_ = false;
 };
 
 struct Block {
