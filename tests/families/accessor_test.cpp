@@ -7,20 +7,12 @@ using namespace families;
 
 namespace {
 
-std::uint64_t mask(const MemberOperations &m) {
-    return m.member->kind == Kind::boolean       ? 0xFF
-           : m.member->kind == Kind::enumeration ? 0xFFFFFFFF
-           : width(m) == 8                       ? ~std::uint64_t{0}
-                                                 : (std::uint64_t{1} << (8 * width(m))) - 1;
-}
+std::uint64_t mask(const MemberOperations &m) { return ~std::uint64_t{0} >> (64 - 8 * value_width(m)); }
 std::uint64_t sample(const MemberOperations &m) { return is_value_kind(m) ? 1 : 0xFEDCBA9876543210U & mask(m); }
 std::uint64_t stored(const RecordOperations &r, void *object, const MemberOperations &m) {
     const std::uint8_t *field = bytes(at(r, object, m));
-    if (m.member->kind == Kind::boolean) return field[11];
-    if (m.member->kind == Kind::enumeration) return read<std::uint32_t>(field + 12);
-    std::uint64_t value = 0;
-    std::memcpy(&value, field, width(m));
-    return value;
+    const unsigned start = m.member->kind == Kind::boolean ? 11 : m.member->kind == Kind::enumeration ? 12 : 0;
+    return number_at(field + start, value_width(m));
 }
 bool has_state_byte(const MemberOperations &m) { return m.member->role == Role::value; }
 std::uint8_t *state(const RecordOperations &r, void *object, const MemberOperations &m) {

@@ -1,6 +1,7 @@
 // The order in which the operations of an enumeration call the runtime.
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cstring>
 
 #include "lumo_ui_tarn.h"
@@ -198,11 +199,13 @@ TEST_F(EnumerationSequence, ValueOperationsMakeOnlyTheirOwnCalls) {
     lumo_tarn_mem_desc_e_get(h, id, object, &err);
     lumo_tarn_mem_desc_e_adjust_variant(h, id, object, &err);
     lumo_tarn_mem_desc_e_set_instance_embedded(h, id, object);
+    // Its bytes are hashed least significant first, which requires a copy on big-endian hosts.
+    const bool in_place = std::endian::native == std::endian::little;
     EXPECT_EQ(recording::lines(),
-              (Lines{"SuperFastHash object+12 4 5", "mirk_domain_lookup_variant lumo_tarn_mem_desc_e",
-                     "mirk_get_instance_modified object 0 1", "mirk_set_instance_modified object 0 1 0",
-                     "mirk_get_instance_modified object 0 1", "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0",
-                     "write_notify object+10 1"}));
+              (Lines{in_place ? "SuperFastHash object+12 4 5" : "SuperFastHash local 4 5",
+                     "mirk_domain_lookup_variant lumo_tarn_mem_desc_e", "mirk_get_instance_modified object 0 1",
+                     "mirk_set_instance_modified object 0 1 0", "mirk_get_instance_modified object 0 1",
+                     "mirklib_adjust_variant object lumo_tarn_mem_desc_e 0", "write_notify object+10 1"}));
 }
 
 TEST_F(EnumerationSequence, NullIsTracedWithoutAskingForAMark) {

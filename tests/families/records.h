@@ -105,6 +105,22 @@ inline std::uint32_t width(const MemberOperations &m) {
             return 8;
     }
 }
+// The width of the number that accessors pass: for booleans and enumerations it is not that of the object.
+inline std::uint32_t value_width(const MemberOperations &m) {
+    return m.member->kind == Kind::boolean ? 1 : m.member->kind == Kind::enumeration ? 4 : width(m);
+}
+inline std::uint64_t number_at(const void *address, std::uint32_t bytes) {
+    switch (bytes) {
+        case 1:
+            return read<std::uint8_t>(address);
+        case 2:
+            return read<std::uint16_t>(address);
+        case 4:
+            return read<std::uint32_t>(address);
+        default:
+            return read<std::uint64_t>(address);
+    }
+}
 inline const char *family(const MemberOperations &m) {
     switch (m.member->kind) {
         case Kind::u8:

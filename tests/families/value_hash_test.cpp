@@ -23,6 +23,38 @@ TEST(Hash, EveryRecordChainsItsMembers) {
     }
 }
 
+// Worked out member by member with another implementation of the function: peers keep tables of these numbers.
+TEST(Hash, KnownValuesHaveTheSameHashOnEveryHost) {
+    const Handle h;
+    const auto hash_of = [&](const reference::Record &value) {
+        return operations(value).hash(Instance(h, value).get(), 5);
+    };
+    reference::Record memory("lumo_tarn_static_exmem_info");
+    memory["mem_type"].number = 2;
+    memory["num_hash_elements"].number = 0x31323334;
+    memory.nested("exmem")["cl_addr"].number = 0x0102030405060708;
+    memory.nested("exmem")["exmem_addr"].number = 0x1112131415161718;
+    memory.nested("exmem")["size"].number = 0x21222324;
+    EXPECT_EQ(hash_of(memory), 2097704632u);
+
+    reference::Record prefix("lumo_tarn_pal_mp_prefix");
+    prefix["id"].number = 0x0102030405060708;
+    prefix["flags"].number = 0x99;
+    reference::set_address(prefix.nested("prefix"),
+                           {.af = 2, .prefix_len = 24, .scope = 0, .word = {0x0A010200, 0, 0, 0}});
+    prefix["tc_list_size"].number = 0x05060708;
+    EXPECT_EQ(hash_of(prefix), 1997105880u);
+
+    reference::Record applications("lumo_tarn_cl_appl_data");
+    applications["show_header"].number = 1;
+    reference::Record &application = applications.append("kesh_appl");
+    application["proto_name"].text = "tcp";
+    application["sub_proto_name"].text = "video-sub";
+    application["protocol_id"].number = 6;
+    application["tarn_id"].number = 0x0102;
+    EXPECT_EQ(hash_of(applications), 3603418630u);
+}
+
 TEST(Hash, NullReturnsTheSeed) {
     for (const RecordOperations &record : tarn::reflect::records()) {
         EXPECT_EQ(record.hash(nullptr, 0xABCD1234), 0xABCD1234u) << record.record->name;

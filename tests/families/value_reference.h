@@ -69,8 +69,10 @@ inline std::uint32_t member_hash(const reference::Record &owner, std::size_t i, 
             return mirk_boolean_hash(&boolean, seed);
         }
         case Class::enumeration: {
-            const auto number = static_cast<std::uint32_t>(member.number);
-            return SuperFastHash(&number, sizeof number, seed);
+            // Least significant first on every host.
+            std::uint8_t bytes[4];
+            for (unsigned k = 0; k < 4; ++k) bytes[k] = static_cast<std::uint8_t>(member.number >> (8 * k));
+            return SuperFastHash(bytes, sizeof bytes, seed);
         }
         case Class::address: {
             const reference::Address from = reference::get_address(member.items[0]);
