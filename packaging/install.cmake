@@ -86,7 +86,7 @@ install(FILES tools/tarn/completion/_tarn DESTINATION ${TARN_ZSH_DIR} COMPONENT 
 
 # ---- the Python package, if its requirements were found
 if(TARN_PYTHON_FILES)
-  install(FILES ${TARN_PYTHON_FILES} DESTINATION lib/python3/dist-packages/lumo_tarn COMPONENT tools)
+  install(FILES ${TARN_PYTHON_FILES} DESTINATION ${TARN_PYTHON_DIR} COMPONENT tools)
 endif()
 
 # ---- documents

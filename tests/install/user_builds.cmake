@@ -31,7 +31,11 @@ elseif(WAY STREQUAL pkg_config_static)
   run(${${LANGUAGE}_COMPILER} ${FLAGS} ${PROGRAM} -o ${binary} ${flags})
 else()
   string(REPLACE find_package_ "" kind ${WAY})
-  run(${CMAKE_COMMAND} -G Ninja -S ${USER} -B ${SCRATCH} -DCMAKE_PREFIX_PATH=${PREFIX} -DKIND=${kind} -DLANGUAGE=${LANGUAGE}
+  set(found -DCMAKE_PREFIX_PATH=${PREFIX})
+  if(LIBDIR STREQUAL lib64)  # not searched on Debian
+    set(found -Dlumo_ui_tarn_DIR=${PREFIX}/${LIBDIR}/cmake/lumo_ui_tarn)
+  endif()
+  run(${CMAKE_COMMAND} -G Ninja -S ${USER} -B ${SCRATCH} ${found} -DKIND=${kind} -DLANGUAGE=${LANGUAGE}
       -DPROGRAM=${PROGRAM} -DCMAKE_${LANGUAGE}_COMPILER=${${LANGUAGE}_COMPILER} -DCMAKE_${LANGUAGE}_FLAGS=${FLAGS})
   run(${CMAKE_COMMAND} --build ${SCRATCH})
 endif()

@@ -10,16 +10,17 @@ from pathlib import Path
 from typing import Any, Callable
 
 from ._cffi import ffi as ffi
+from ._installed import LIBRARIES
 
 # Some releases of cffi crash if they parse a function type before the structure that it takes.
 ffi.typeof("mirk_handle")
 
 
 def _library() -> str:
-    """Path of the library. An installed package is LIBRARIES/python3/dist-packages/lumo_tarn, three levels below it."""
+    """Path of the library: relative to the package in an installation, which may have been moved."""
     name = "liblumo_ui_tarn.so.1"
-    beside = Path(__file__).resolve().parents[3] / name
-    return os.environ.get("LUMO_TARN_LIBRARY") or (str(beside) if beside.exists() else name)
+    installed = Path(__file__).resolve().parent / LIBRARIES / name
+    return os.environ.get("LUMO_TARN_LIBRARY") or (str(installed) if installed.exists() else name)
 
 
 # The library stays loaded, because finalizers call it while the interpreter exits.
