@@ -79,6 +79,7 @@ int main(int argc, char **argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     // Likewise a write to a pipe or connection that nobody reads any more: EPIPE.
     std::signal(SIGPIPE, SIG_IGN);
+    reserve_standard_streams();
     try {
         return run(argc, argv);
     } catch (const Failure &failure) {

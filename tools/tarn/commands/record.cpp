@@ -59,7 +59,8 @@ private:
     FILE *stream_;
 };
 
-// The output files. They grow message by message, so everything before a failure is kept.
+// The output files. They grow message by message, so everything before a failure is kept; before the first message,
+// what was there.
 class Recording {
 public:
     explicit Recording(const RecordOptions &options)
@@ -69,7 +70,10 @@ public:
 
     void feed(Receiver &receiver, const Frame &frame, const std::string &origin) {
         receiver.feed(frame, origin);
-        if (frames_) frames_->append(chars_of(frame.bytes));
+        if (frames_) {
+            frames_->append(chars_of(frame.bytes));
+            frames_->publish();
+        }
         if (frame.identity.is_control()) return;
         ++messages_;
         const std::string piece = recorder_.take();
@@ -82,6 +86,7 @@ public:
             return;
         }
         fragments_.append(printable_output(piece, Notation::xml));
+        fragments_.publish();
         ++recorded_;
     }
 
@@ -98,8 +103,8 @@ public:
     bool is_complete() const { return !aborted_ && (too_large_ == 0 || frames_); }
 
 private:
-    GrowingFile fragments_;
-    std::optional<GrowingFile> frames_;
+    OutputFile fragments_;
+    std::optional<OutputFile> frames_;
     Recorder recorder_;
     FILE *summary_;
     unsigned messages_ = 0, recorded_ = 0, too_large_ = 0;

@@ -1,13 +1,16 @@
 #include "tools/tarn/support/files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -29,6 +32,33 @@ constexpr std::size_t longest_path = 4096;
     throw Failure(Exit::environment, shown + ": " + std::strerror(errno));
 }
 
+std::filesystem::path whole_path(const std::string &path) {
+    std::error_code error;
+    return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+}
+
+// The files that this process has read and written, since none may be both.
+using Paths = std::vector<std::filesystem::path>;
+Paths inputs, outputs;
+
+void note(Paths &used, const Paths &others, const std::string &path) {
+    std::error_code error;
+    const char *const standard = &used == &inputs ? "/proc/self/fd/0" : "/proc/self/fd/1";
+    const std::filesystem::path whole = whole_path(path == "-" ? standard : path);
+    const std::filesystem::file_status status = std::filesystem::status(whole, error);
+    const bool is_new = status.type() == std::filesystem::file_type::not_found && path != "-";
+    if (!is_new && !std::filesystem::is_regular_file(status)) return;
+    const auto is_same = [&](const std::filesystem::path &other) {
+        return other == whole || std::filesystem::equivalent(other, whole, error);
+    };
+    const bool written_twice = &used == &outputs && std::any_of(used.begin(), used.end(), is_same);
+    if (written_twice || std::any_of(others.begin(), others.end(), is_same)) {
+        throw Failure(Exit::input, (&used == &inputs ? shown_path(path) : shown_output(path)) + ": the same file is " +
+                                       (written_twice ? "two outputs" : "input and output"));
+    }
+    used.push_back(whole);
+}
+
 }  // namespace
 
 std::string shown_path(const std::string &path) {
@@ -42,6 +72,7 @@ std::string shown_output(const std::string &path) {
 std::string read_file(const std::string &path) {
     const File file(path == "-" ? stdin : std::fopen(path.c_str(), "rbe"));
     if (file == nullptr) fail(shown_path(path));
+    note(inputs, outputs, path);
     std::string content;
     char piece[65536];
     for (std::size_t got = 0; (got = std::fread(piece, 1, sizeof piece, file.get())) != 0;) content.append(piece, got);
@@ -50,25 +81,56 @@ std::string read_file(const std::string &path) {
 }
 
 void write_file(const std::string &path, std::string_view bytes) {
-    const std::string shown = shown_output(path);
-    File file(path == "-" ? stdout : std::fopen(path.c_str(), "wbe"));
-    if (file == nullptr) fail(shown);
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    if (!written || std::fflush(file.get()) != 0) fail(shown);
+    if (path != "-") {
+        OutputFile file(path);
+        file.append(bytes);
+        return file.finish();
+    }
+    [[maybe_unused]] static const bool noted = (note(outputs, inputs, path), true);
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size()) fail(shown_output(path));
+    flush_output();
 }
 
-GrowingFile::GrowingFile(std::string path)
-    : path_(std::move(path)),
-      descriptor_(path_ == "-" ? ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0)
-                               : ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {
-    if (descriptor_ < 0) fail(shown_output(path_));
+OutputFile::OutputFile(const std::string &path) : shown_(shown_output(path)) {
+    note(outputs, inputs, path);
+    struct stat existing {};
+    const bool exists = path != "-" && ::stat(path.c_str(), &existing) == 0;
+    if (path == "-") {
+        descriptor_ = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+    } else if (exists && !S_ISREG(existing.st_mode)) {
+        descriptor_ = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    } else {
+        place_ = whole_path(path);
+        // What may not be written may not be replaced either.
+        const bool may_write = !exists || ::access(path.c_str(), W_OK) == 0;
+        if (!may_write || ::access(place_.parent_path().c_str(), W_OK | X_OK) != 0) fail(shown_);
+        return;
+    }
+    if (descriptor_ < 0) fail(shown_);
 }
 
-GrowingFile::~GrowingFile() {
+OutputFile::~OutputFile() {
     if (descriptor_ >= 0) ::close(descriptor_);
+    if (!beside_.empty()) ::unlink(beside_.c_str());
 }
 
-void GrowingFile::append(std::string_view piece) {
+void OutputFile::open() {
+    for (int i = 0; descriptor_ < 0; ++i) {
+        const auto name = ".tarn-" + std::to_string(::getpid()) + "-" + std::to_string(i);
+        const std::filesystem::path beside = place_.parent_path() / name;
+        descriptor_ = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor_ >= 0) beside_ = beside;
+        if (descriptor_ < 0 && errno != EEXIST) fail(shown_);
+    }
+    struct stat existing {};
+    if (::stat(place_.c_str(), &existing) != 0) return;
+    // As far as the file system and the rights of the user allow.
+    [[maybe_unused]] const int owner = ::fchown(descriptor_, existing.st_uid, existing.st_gid);
+    [[maybe_unused]] const int mode = ::fchmod(descriptor_, existing.st_mode & 07777);
+}
+
+void OutputFile::append(std::string_view piece) {
+    if (descriptor_ < 0) open();
     std::size_t done = 0;
     while (done < piece.size()) {
         const ssize_t written = ::write(descriptor_, piece.data() + done, piece.size() - done);
@@ -76,22 +138,38 @@ void GrowingFile::append(std::string_view piece) {
             done += static_cast<std::size_t>(written);
         } else if (errno != EINTR) {
             const auto number = static_cast<std::uint32_t>(errno);
-            // Fails for pipes and devices, where nothing can be removed. Standard output may contain more than this.
-            [[maybe_unused]] const int kept = path_ == "-" ? 0 : ::ftruncate(descriptor_, static_cast<off_t>(size_));
-            throw Failure(Exit::environment, shown_output(path_) + ": at byte " + std::to_string(size_ + done) + ": " +
-                                                 error_text(number));
+            // Nothing can be removed from pipes and devices, and standard output may contain more than this.
+            [[maybe_unused]] const int kept = place_.empty() ? 0 : ::ftruncate(descriptor_, static_cast<off_t>(size_));
+            throw Failure(Exit::environment,
+                          shown_ + ": at byte " + std::to_string(size_ + done) + ": " + error_text(number));
         }
     }
     size_ += piece.size();
 }
 
-void GrowingFile::finish() {
-    if (::close(std::exchange(descriptor_, -1)) != 0) fail(shown_output(path_));
+void OutputFile::publish() {
+    if (beside_.empty()) return;
+    if (::rename(beside_.c_str(), place_.c_str()) != 0) fail(shown_);
+    beside_.clear();
+}
+
+void OutputFile::finish() {
+    if (descriptor_ < 0) open();
+    if (::close(std::exchange(descriptor_, -1)) != 0) fail(shown_);
+    publish();
 }
 
 void flush_output() {
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         throw Failure(Exit::environment, std::string("standard output: ") + std::strerror(errno));
+    }
+}
+
+void reserve_standard_streams() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(descriptor, F_GETFD) >= 0) continue;
+        // Using it stays an error. The lowest free descriptor is this one.
+        [[maybe_unused]] const int unusable = ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
     }
 }
 

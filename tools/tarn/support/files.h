@@ -2,15 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace tarn::tool {
 
-// "-" is standard input. Throws a Failure that names the path and the reason.
+// "-" is standard input or output. Throws a Failure that names the path and the reason; also if a file is read and
+// written, or written twice.
 std::string read_file(const std::string &path);
-
-// "-" is standard output.
 void write_file(const std::string &path, std::string_view bytes);
 
 // The path as messages print it: "standard input" or "standard output" for "-".
@@ -20,23 +20,34 @@ std::string shown_output(const std::string &path);
 // Throws a Failure if standard output could not be written.
 void flush_output();
 
-// A new file that grows piece by piece, or standard output. If writing a piece fails, the part already written is
-// removed and the Failure names the offset, so that the file contains whole pieces only, even if the disk is full.
-class GrowingFile {
+// A file that replaces the one of its name only when it is finished or published; until then it has another name in the
+// same folder, and the destructor removes it. Or a device, a pipe or standard output, which get each piece at once.
+class OutputFile {
 public:
-    explicit GrowingFile(std::string path);
-    GrowingFile(const GrowingFile &) = delete;
-    GrowingFile &operator=(const GrowingFile &) = delete;
-    ~GrowingFile();
+    explicit OutputFile(const std::string &path);
+    OutputFile(const OutputFile &) = delete;
+    OutputFile &operator=(const OutputFile &) = delete;
+    ~OutputFile();
 
+    // If writing fails, the part that was written is removed and the Failure names the offset, so that the file
+    // contains whole pieces only, even if the disk is full.
     void append(std::string_view piece);
-    // Closes the file; some errors are reported only then.
+    // Gives the file its name already while it grows.
+    void publish();
+    // Closes and publishes the file; some errors are reported only then.
     void finish();
 
 private:
-    std::string path_;
-    int descriptor_;
+    void open();
+
+    std::string shown_;
+    std::filesystem::path place_;   // empty for devices, pipes and standard output
+    std::filesystem::path beside_;  // empty if it does not exist (any more)
+    int descriptor_ = -1;
     std::uint64_t size_ = 0;
 };
+
+// Standard streams that are closed would become the first files that the process opens.
+void reserve_standard_streams();
 
 }  // namespace tarn::tool
