@@ -36,6 +36,7 @@
 
 #include <lumo_ui_tarn.h>
 
+#include <lumo_ui_tarn/frame_parts.hpp>
 #include <lumo_ui_tarn/interface.hpp>
 
 /// @cond names of the C functions, which the C headers document
@@ -71,6 +72,7 @@
 #define LUMO_UI_TARN_RECORD(RECORD) \
     using native = RECORD; \
     static constexpr const char *name = #RECORD; \
+    static constexpr const frame_part *parts = frame_parts::RECORD; \
     static constexpr auto create = RECORD##_create; \
     static constexpr auto create_internal = RECORD##_create_internal; \
     static constexpr auto initialize = RECORD##_initialize; \

@@ -25,6 +25,7 @@
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
+#include <lumo_ui_tarn/admission.hpp>
 #include <lumo_ui_tarn/base.h>
 
 #include <array>
@@ -299,6 +300,12 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
         if (character == '\0') character = ' ';
     }
     return text;
+}
+
+/// Reports what a frame claims but cannot contain. False: an error is kept.
+inline bool admitted(context &c, const frame_excess &excess) {
+    if (c.ok() && excess) c.fail(EBADMSG, excess.text().c_str());
+    return c.ok();
 }
 
 /// Reads an element of a document into a record: the one at path, or the first one, at any depth, with the record's
@@ -670,9 +677,14 @@ public:
     /// Transfers ownership of the C object to the caller, who destroys it.
     [[nodiscard]] typename R::native *release() noexcept { return std::exchange(this->native_, nullptr); }
 
-    /// Creates a record from a frame of size bytes. One guard byte, which size does not count, follows them.
+    /// Creates a record from a frame of size bytes. One guard byte, which size does not count, follows them. EBADMSG if
+    /// the frame claims more elements or characters than it can contain (admission.hpp); the C function would
+    /// allocate memory for them.
     static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
+        if constexpr (R::owns_blocks) {
+            if (!detail::admitted(c, excess_of_record(R::parts, bytes, size, c.tracks()))) return fresh;
+        }
         // The C function only reads.
         c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), static_cast<std::uint32_t>(size),
                std::uint32_t{0});
@@ -1108,9 +1120,13 @@ public:
 
     /// Creates a message from a frame of size bytes. One guard byte, which size does not count, follows them. The
     /// identity in the frame is not checked: compare its bytes 27 to 42 with luid() before. Of several frames in
-    /// sequence, only the first one is read.
+    /// sequence, only the first one is read. EBADMSG if the frame claims more elements or characters than it can
+    /// contain.
     static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
+        if constexpr (M::payload::owns_blocks) {
+            if (!detail::admitted(c, excess_of_message(M::payload::parts, bytes, size, c.tracks()))) return {c, native};
+        }
         std::uint32_t err = *c.slot();
         M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
                           &err);

@@ -323,6 +323,39 @@ TEST_F(CppUsage, AllocationFailureIsReported) {
     mirk_platform_handle_close(poor);
 }
 
+TEST_F(CppUsage, AFrameThatClaimsMoreThanItContainsIsRefusedBeforeItIsRead) {
+    context c(handle, errors::kept);
+    dp_tc_list list(c);
+    list.tc_list().grow(2);
+    frame whole = list.to_frame();
+    ASSERT_TRUE(c.ok());
+    whole.data()[6] = 0x7F;  // first byte of the count
+    for (int reads = 0; reads < 2; ++reads) {
+        const dp_tc_list read = dp_tc_list::from_frame(c, whole);
+        EXPECT_EQ(c.take_error(), std::errc::bad_message);
+        EXPECT_TRUE(read.tc_list().empty());
+    }
+    EXPECT_EQ(mirk_platform_ceiling_refusals(handle), 0u) << "nothing is requested for the elements";
+
+    cl_appl_msg message(c);
+    frame sent = message.to_frame();
+    sent.data()[54] = 1;  // last byte of the count; no element follows
+    EXPECT_FALSE(cl_appl_msg::from_frame(c, sent));
+    EXPECT_EQ(c.take_error(), std::errc::bad_message);
+
+    context thrown(handle);
+    try {
+        cl_appl_msg::from_frame(thrown, sent);
+        ADD_FAILURE() << "was read";
+    } catch (const std::system_error &error) {
+        EXPECT_NE(std::string(error.what())
+                      .find("lumo_tarn_cl_appl_data.kesh_appl claims 1 elements of at least 6 "
+                            "bytes, but 0 bytes are left"),
+                  std::string::npos)
+            << error.what();
+    }
+}
+
 TEST_F(CppUsage, AOneByteCountDoesNotWrap) {
     context c(handle);
     lumo_info_list list(c);

@@ -217,6 +217,7 @@ Files write_headers() {
              data_of({}) + by_family({}, Applies::module));
     files["lumo_ui_tarn.h"] = umbrella(files);
     files["lumo_ui_tarn.hpp"] = interface_page();
+    files[base + "frame_parts.hpp"] = parts_page();
     return files;
 }
 

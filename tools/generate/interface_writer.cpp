@@ -32,7 +32,7 @@ constexpr std::string_view names_of_records =
     "is_tracked record_name record_type reference_type release set_all_states take text to_frame to_xml write_frame ";
 // Names in a structure of C functions that are not operations.
 constexpr std::string_view names_of_structures =
-    " luid members message name native owner_writers owns_blocks payload ref_writers value visit_readable_ "
+    " luid members message name native owner_writers owns_blocks parts payload ref_writers value visit_readable_ "
     "visit_writable_ ";
 
 bool contains(std::string_view words, const std::string &name) {
@@ -262,8 +262,9 @@ std::string macros() {
     return "/// @cond names of the C functions, which the C headers document\n" +
            macro("ENUMERATION(ENUMERATION)",
                  "using native = ENUMERATION;\n" + name_in_c("ENUMERATION") + constants(Applies::enumeration, "{e}_")) +
-           macro("RECORD(RECORD)",
-                 "using native = RECORD;\n" + name_in_c("RECORD") + constants(Applies::record, "{r}_")) +
+           macro("RECORD(RECORD)", "using native = RECORD;\n" + name_in_c("RECORD") +
+                                       "static constexpr const frame_part *parts = frame_parts::RECORD;\n" +
+                                       constants(Applies::record, "{r}_")) +
            macro("ARRAY(RECORD, COUNT, MEMBER)", array) +
            macro("MESSAGE(MESSAGE, PAYLOAD)",
                  "using native = MESSAGE;\n" + name_in_c("MESSAGE") +
@@ -383,6 +384,7 @@ constexpr std::string_view introduction = R"(/// @file
 
 #include <lumo_ui_tarn.h>
 
+#include <lumo_ui_tarn/frame_parts.hpp>
 #include <lumo_ui_tarn/interface.hpp>
 
 )";

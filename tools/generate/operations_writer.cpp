@@ -228,8 +228,8 @@ Files write_operations() {
         text += "    return all;\n}\n\n";
         text += "RecordOperations record_" + name + "() {\n    RecordOperations o{};\n    o.record = &schema::" + name +
                 ";\n    o.type = &_" + name + "_type_info_internal;\n    static const auto members = members_of_" +
-                name + "();\n    o.members = members;\n" + fields({.record = r}, Applies::record, "    ") +
-                "    return o;\n}\n\n";
+                name + "();\n    o.members = members;\n    o.parts = lumo_ui_tarn::frame_parts::" + name + ";\n" +
+                fields({.record = r}, Applies::record, "    ") + "    return o;\n}\n\n";
         record_rows += "    record_" + name + "(),\n";
     }
     for (const Enumeration *e : enumerations) {
@@ -244,8 +244,9 @@ Files write_operations() {
         const bool plain = c.subject.message != nullptr;
         text += "MessageOperations message_" + c.name + "() {\n    MessageOperations o{};\n" + catalogue_fields(c.name);
         if (plain) {
-            text +=
-                "    o.message = &schema::" + c.name + ";\n    o.type = &_" + c.name + "_message_type_info_internal;\n";
+            text += "    o.message = &schema::" + c.name + ";\n    o.type = &_" + c.name +
+                    "_message_type_info_internal;\n    o.payload_parts = lumo_ui_tarn::frame_parts::" +
+                    std::string(c.subject.message->payload.name) + ";\n";
             message_rows += "    message_" + c.name + "(),\n";
         }
         text += fields(c.subject, plain ? Applies::message : Applies::control, "    ") + "    return o;\n}\n\n";

@@ -10,6 +10,7 @@ namespace tarn::generate {
 
 Files write_headers();         // include/: the public headers, checked in
 std::string interface_page();  // one of these headers: the C++ interface
+std::string parts_page();      // and the parts of frames
 // Build tree: export stubs, one file for each of the given sources of the library (named without suffix).
 Files write_exports(const std::vector<std::string> &sources, bool sample_only = false);
 Files write_lists();          // goldens: exported names, layout of every record
