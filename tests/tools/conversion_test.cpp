@@ -183,6 +183,31 @@ TEST(Conversion, ACountWithoutElementsIsAnInputError) {
     EXPECT_NE(outcome.err.find("broken at offset 55, payload.kesh_appl[0]"), std::string::npos) << outcome.err;
 }
 
+TEST(Conversion, AFrameThatClaimsMoreThanItContainsIsRefusedBeforeItIsRead) {
+    const auto &message = reference::message_table("lumo_tarn_cl_appl_msg");
+    std::string bytes = frame(message, reference::Record(message.payload), false);
+    const Directory directory;
+    const std::string file = directory.path("frames.bin"), recording = directory.path("recording.xml");
+    for (const auto &[first_byte, count] : {std::pair{'\x00', "1"}, {'\x7f', "2130706433"}, {'\xff', "4278190081"}}) {
+        bytes[51] = first_byte;  // of num_kesh_appls
+        bytes[54] = 1;
+        directory.write("frames.bin", bytes);
+        for (const std::vector<std::string> &command :
+             {std::vector<std::string>{"decode", file},
+              {"diff", file, file},
+              {"record", "--from", file, "-o", recording},
+              {"answer", "--socket", directory.path("s"), "cl-appl-cfg=" + file}}) {
+            const Outcome outcome = tarn(command);
+            EXPECT_EQ(outcome.exit, 2) << command[0];
+            EXPECT_NE(outcome.err.find(std::string("frame at offset 0: lumo_tarn_cl_appl_msg cannot be read: "
+                                                   "lumo_tarn_cl_appl_data.kesh_appl claims ") +
+                                       count + " elements of at least 6 bytes, but 0 bytes are left"),
+                      std::string::npos)
+                << command[0] << ": " << outcome.err;
+        }
+    }
+}
+
 TEST(Conversion, BytesThatAreNotAFrameAreReported) {
     const auto expect = [](const std::string &bytes, const std::string &words) {
         const Outcome outcome = tarn({"decode"}, bytes);

@@ -63,8 +63,17 @@ std::string xml_of(const Handle &handle, const reflect::MessageOperations &opera
                                        });
 }
 
+void require_admitted(const Handle &handle, const reflect::MessageOperations &operations,
+                      std::span<const std::uint8_t> frame) {
+    if (operations.payload_parts == nullptr) return;
+    const lumo_ui_tarn::frame_excess excess =
+        lumo_ui_tarn::excess_of_message(operations.payload_parts, frame.data(), frame.size(), handle.tracked());
+    if (excess) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + excess.text());
+}
+
 Message message_from_frame(const Handle &handle, const reflect::MessageOperations &operations,
                            std::span<const std::uint8_t> frame) {
+    require_admitted(handle, operations, frame);
     Bytes buffer(frame.begin(), frame.end());
     buffer.push_back(0);
     // The message keeps the header of its frame, but the handle decides whether it has per-field state.
@@ -76,7 +85,7 @@ Message message_from_frame(const Handle &handle, const reflect::MessageOperation
                               static_cast<std::uint32_t>(frame.size()), &err);
     if (object == nullptr) throw Failure(Exit::environment, "out of memory for a message");
     Message message(handle, operations, object);
-    // The library also reports ENOMEM for a count that is too large and for a frame that ends too early.
+    // The library also reports ENOMEM for a frame that ends too early.
     if (err != 0) throw Failure(Exit::input, std::string(operations.name) + " cannot be read: " + error_text(err));
     return message;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lumo_ui_tarn.h"
+#include "tools/tarn/formats/message.h"
 #include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
@@ -61,6 +62,11 @@ void Receiver::on_message(mirk_handle *, std::uint32_t, void *dispatch_ctx, void
 }
 
 void Receiver::feed(const Frame &frame, const std::string &origin) {
+    try {
+        require_admitted(handle_, *frame.identity.operations, frame.bytes);
+    } catch (const Failure &failure) {
+        throw Failure(failure.exit(), frame_location(origin, frame.offset) + ": " + failure.what());
+    }
     Bytes buffer(frame.bytes.begin(), frame.bytes.end());
     buffer.push_back(0);
     current_ = &frame;
