@@ -5,7 +5,10 @@ import copy
 import errno
 import gc
 import json
+import os
 import pathlib
+import random
+import re
 import subprocess
 import sys
 
@@ -345,3 +348,61 @@ def test_recordings_equal_the_recorded_messages(tmp_path: pathlib.Path):
     for wrong in ("<lumo_tarn_debug_setting_msg>", "x" + kept.read_text(), kept.read_text() + "<other/>"):
         with pytest.raises(ValueError):
             list(lumo_tarn.recording(wrong))
+
+
+# ---- admission
+
+
+def test_a_frame_that_claims_more_than_it_contains_is_refused_before_it_is_read():
+    handle = lumo_tarn.Handle()
+    frame = bytearray(lumo_tarn.DpTcList(on=handle).to_frame())
+    for count in (1, 0x7FFFFFFF, 0xFFFFFFFF):
+        frame[6:10] = count.to_bytes(4, "big")
+        with pytest.raises(OSError, match=f"lumo_tarn_dp_tc_list.tc_list claims {count} elements") as raised:
+            lumo_tarn.DpTcList.from_frame(frame, on=handle)
+        assert raised.value.errno == errno.EBADMSG
+    assert handle.live_blocks() == 0
+    whole = bytearray(lumo_tarn.ClApplMsg(on=handle).to_frame())
+    whole[54] = 1
+    with pytest.raises(OSError, match="but 0 bytes are left"):
+        next(lumo_tarn.messages(bytes(whole)))
+
+
+def damaged_frames(message, tracked: bool, seed: int) -> list[bytes]:
+    """Frames with other counts, jumps and flags. The header keeps their length."""
+    chance = random.Random(seed)
+    options = ["--elements", "2", "--seed", str(seed), "--form", "frames", *(["--tracked"] if tracked else [])]
+    frame = tool("generate", message.message_name, *options)
+    frames = []
+    for _ in range(120):
+        damaged = bytearray(frame)
+        for _ in range(chance.randint(1, 3)):
+            at = chance.randrange(43, len(frame))
+            word = chance.choices([0, 1, 6, 255, 0xFFFF, 0x7FFFFFF0, 0x7FFFFFFF, 0xFFFFFFFE, chance.randrange(600)])[0]
+            size = chance.choices([1, 2, 4])[0]
+            damaged[at : at + size] = (word & (1 << 8 * size) - 1).to_bytes(size, "big")[: len(frame) - at]
+        frames.append(bytes(damaged))
+    return frames
+
+
+@pytest.mark.parametrize("tracked", [False, True])
+def test_refuses_the_same_frames_as_the_tool(tracked, tmp_path):
+    handle, refused, read = lumo_tarn.Handle(tracked), 0, 0
+    for seed, message in enumerate(MESSAGES):
+        frames = damaged_frames(message, tracked, seed)
+        file = tmp_path / "frames.bin"
+        file.write_bytes(b"".join(frames))
+        command = [os.environ["TARN_TOOL"], "decode", "--keep-going", str(file)]
+        printed = subprocess.run(command, capture_output=True, check=False).stderr.decode()
+        reasons = dict(re.findall(r"frame at offset (\d+): \w+ cannot be read: (.*? claims .*? left)", printed))
+        at = 0
+        for frame in frames:
+            try:
+                message.from_frame(frame, on=handle)
+                reason = None
+            except OSError as error:
+                reason = error.strerror if error.errno == errno.EBADMSG else None
+            assert reason == reasons.get(str(at))
+            refused, read = refused + (reason is not None), read + (reason is None)
+            at += len(frame)
+    assert refused > 50 and read > 50

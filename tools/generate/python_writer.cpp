@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "api.h"
+#include "frame_parts.h"
 #include "names.h"
 #include "writers.h"
 
@@ -94,6 +95,15 @@ std::string tables() {
     }
     text += "}\n\n# the message that the bundle admits\nBUNDLES = {\n";
     for (const Bundle *b : bundles) text += "    " + quoted(b->name) + ": " + quoted(b->message.name) + ",\n";
+    text += "}\n\n# parts of each record's frame: kind, states, bytes, record, array or string\nPARTS = {\n";
+    for (const Record *r : records_in_frames()) {
+        text += "    " + quoted(r->name) + ": [\n";
+        for (const FramePart &part : frame_parts(*r)) {
+            text += "        (" + quoted(part.kind) + ", " + std::to_string(part.states) + ", " +
+                    std::to_string(part.bytes) + ", " + quoted(part.of) + ", " + quoted(part.counted) + "),\n";
+        }
+        text += "    ],\n";
+    }
     text += "}\n\n# the largest value of each kind of integer\nGREATEST = {\n";
     for (const KindFacts &kind : kind_facts) {
         if (kind.greatest == 0) continue;

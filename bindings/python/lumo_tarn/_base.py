@@ -10,6 +10,7 @@ import socket
 from collections.abc import Sequence
 from typing import Any, Callable, ClassVar, Generic, Iterator, Mapping, TypeVar, Union, overload
 
+from ._admission import admit_message, admit_record
 from ._native import CTX_ID, Document, Handle, ffi, handle, lib
 
 R = TypeVar("R", bound="Record")
@@ -193,7 +194,11 @@ class Record(Native):
 
     @classmethod
     def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
-        """Creates a record from a frame. Raises OSError if the frame is invalid."""
+        """Creates a record from a frame. Raises OSError if the frame is invalid. EBADMSG means that it claims more
+        elements or characters than it can contain, which is tested before memory is allocated for them."""
+        on = on or handle()
+        if cls.owns_blocks:
+            admit_record(cls.record_name, bytes(frame), on.tracked)
         record = cls(on=on)
         record._handle.call(cls._function("unmarshal"), ffi.from_buffer(bytes(frame) + b"\0"), record.native,
                             len(frame), 0)
@@ -454,8 +459,10 @@ class Message(Native):
 
     @classmethod
     def from_frame(cls: type[M], frame: bytes, on: Handle | None = None) -> M:
-        """Creates a message from a frame. Raises OSError if the frame is invalid."""
+        """Creates a message from a frame. Raises OSError if the frame is invalid, as Record.from_frame does."""
         on = on or handle()
+        if cls.payload_type.owns_blocks:
+            admit_message(cls.payload_type.record_name, bytes(frame), on.tracked)
         out, err = ffi.new(f"{cls.message_name} **"), ffi.new("uint32_t *")
         cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(bytes(frame) + b"\0"), len(frame), err)
         message = cls._taken(on, out[0])  # also after an error, so that it is destroyed
