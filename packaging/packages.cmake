@@ -35,9 +35,10 @@ pkg-config and CMake.")
 if(TARN_PYTHON_FILES)
   set(python_depends ", python3:any, python3-cffi-backend")
   set(python_text "\nand the Python package lumo_tarn")
-  # dpkg does not remove the bytecode that Python writes.
-  set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/prerm)
 endif()
+# It stops services, and removes the bytecode that Python writes, which dpkg does not know.
+set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/prerm)
+install(FILES packaging/systemd/tarn-answer@.service DESTINATION lib/systemd/system COMPONENT tools)
 describe(tools lumo-ui-tarn-tools utils "request, convert, compare and inspect answers of the tarn feature"
   "The tool tarn requests bundles from a process and prints them, serves bundles
 from files, converts frames to text, XML or JSON and back, dumps frames byte by

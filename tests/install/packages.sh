@@ -36,6 +36,13 @@ for library in $libraries; do
 done
 [ $checked -gt 0 ] || { echo "no libraries of a static link were found"; failed=1; }
 
+# The program that a unit starts is installed.
+units=("$root"/usr/lib/systemd/system/*.service)
+for program in $(sed -n 's/^ExecStart=\([^ ]*\).*/\1/p' "${units[@]}"); do
+    [ -x "$root$program" ] || { echo "a unit starts $program, which is not installed"; failed=1; }
+done
+[ -e "${units[0]}" ] || { echo "no unit is installed"; failed=1; }
+
 # The bytecode that Python writes when a privileged user imports the package.
 python=$root/usr/lib/python3/dist-packages/lumo_tarn
 [ ! -d "$python" ] || python3 -m compileall -q "$python"

@@ -35,6 +35,20 @@ INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
                                          "generate", "record", "view"),
                          [](const auto &info) { return info.param; });
 
+// The user may be root.
+TEST(Commands, AnsweringHasNoPrivileges) {
+    const Directory directory;
+    Server server({"cl-debug=" + directory.write("debug.xml", debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    // The line that it is ready precedes the loop, so it has answered when its capabilities are read.
+    EXPECT_EQ(server.show("cl-debug").exit, 0);
+    for (const char *const set : {"CapInh", "CapPrm", "CapEff"}) {
+        EXPECT_EQ(server.process().status(set), "0000000000000000") << set;
+    }
+    EXPECT_EQ(server.process().status("NoNewPrivs"), "1");
+    EXPECT_EQ(server.process().stop().exit, 0);
+}
+
 TEST(Commands, MissingAndUnknownCommandsAreUsageErrors) {
     EXPECT_EQ(tarn({}).exit, 2);
     EXPECT_EQ(tarn({"explain"}).exit, 2);

@@ -143,6 +143,14 @@ std::size_t Process::resident_kib() const {
     return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) / 1024;
 }
 
+std::string Process::status(const std::string &field) const {
+    std::ifstream in("/proc/" + std::to_string(pid_) + "/status");
+    for (std::string name, value; in >> name && std::getline(in >> std::ws, value);) {
+        if (name == field + ":") return value;
+    }
+    return {};
+}
+
 bool Process::is_running() const {
     siginfo_t info{};
     return waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == 0;

@@ -48,6 +48,8 @@ public:
     // Waits until it has no more than `files` open files. False if a minute passes first, or if it has fewer.
     bool reaches_open_files(std::size_t files) const;
     std::size_t resident_kib() const;
+    // A field of its status, according to the system, such as "NoNewPrivs".
+    std::string status(const std::string &field) const;
     void signal(int number) const;
     // Sends SIGTERM and waits for its end.
     Outcome stop();

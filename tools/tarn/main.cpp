@@ -10,6 +10,7 @@
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
+#include "tools/tarn/support/privileges.h"
 
 namespace {
 
@@ -81,6 +82,7 @@ int main(int argc, char **argv) {
     std::signal(SIGPIPE, SIG_IGN);
     reserve_standard_streams();
     try {
+        set_no_new_privileges();
         return run(argc, argv);
     } catch (const Failure &failure) {
         return report(failure);

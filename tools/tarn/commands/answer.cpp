@@ -8,6 +8,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
+#include "tools/tarn/support/privileges.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -78,6 +79,8 @@ void add_answer(CLI::App &app, Context &) {
         "stops. SIGINT and SIGTERM stop it with exit code 0. A peer that exceeds a limit,\n"
         "or sends anything but requests, is disconnected and reported on standard error\n"
         "with the reason; other peers are not affected.\n\n"
+        "Once the socket is open, the process has no capabilities, also as root. The unit\n"
+        "tarn-answer@.service runs it for systemd, as a user of its own.\n\n"
         "Examples:\n"
         "  tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.json dp-intf=intf.xml\n"
@@ -95,6 +98,8 @@ void add_answer(CLI::App &app, Context &) {
         load(answerer, *options);
         Server server(*options, answerer, log);
         server.open();
+        // Files have been read and the socket is open: what peers send is handled without the privileges of root.
+        drop_capabilities();
         server.run();
     });
 }
