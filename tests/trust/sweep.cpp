@@ -1,10 +1,10 @@
 #include "sweep.h"
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <string_view>
 
+#include "golden_exports.h"
 #include "reference/codec.h"
 #include "reference/text.h"
 #include "rich.h"
@@ -221,10 +221,9 @@ const std::vector<Operation> &operations() {
             if (of == "module") know(suffix, {}, d);
         }
         std::vector<Operation> found;
-        std::ifstream list(TARN_GOLDEN "/exports.txt");
-        for (std::string line; std::getline(list, line);) {
-            if (line.empty() || line[0] == 'D') continue;
-            const std::string name = line.substr(2);
+        for (const std::string_view line : golden_exports) {
+            if (line[0] == 'D') continue;
+            const std::string name(line.substr(2));
             const auto at = known.find(name);
             found.push_back(at == known.end() ? Operation{name, {}, nullptr}
                                               : Operation{name, at->second.first, at->second.second});
