@@ -1,16 +1,18 @@
-// A frame of any root, read into a new instance or into a filled one.
+// A frame of any root, read into a new instance or into one that was used before.
 #include "fuzz.h"
 
 namespace {
 
 using namespace fuzz;
 
-constexpr unsigned occupied = 4, reuse = 5, clean_second = 6;
+constexpr unsigned occupied = 4, reuse = 5, clean_second = 6, prepared = 7;
 
-void read_record(const Choice &choice, const RecordOperations &record, std::span<const std::uint8_t> frame) {
+void read_record(const Choice &choice, const RecordOperations &record, Input &input) {
     Handle handle(options(choice));
-    const auto size = static_cast<std::uint32_t>(frame.size());
     void *instance = record.create(handle, id);
+    if (choice.bit(prepared)) prepare(handle, record, instance, input);
+    const auto frame = input.rest();
+    const auto size = static_cast<std::uint32_t>(frame.size());
     std::uint32_t err = 0;
     if (choice.bit(occupied)) {
         // Read twice, since losing blocks of a filled instance is part of the behavior.
@@ -21,13 +23,19 @@ void read_record(const Choice &choice, const RecordOperations &record, std::span
     record.unmarshal(handle, id, guarded(frame), instance, size, choice.bit(reuse) ? 1 : 0, &err);
     mirk_clear_last_error(handle);
     use(handle, record, instance);
+    mirk_platform_domain_clear(handle);
     const bridge::Marshalled written = write(handle, record, instance);
     if (err == 0 && written.error == 0) {
         void *again = record.create(handle, id);
         std::uint32_t error = 0;
         record.unmarshal(handle, id, guarded(written.bytes), again, static_cast<std::uint32_t>(written.bytes.size()), 0,
                          &error);
-        if (error == 0) {
+        if (error == 0 && choice.bit(prepared)) {
+            // What an instance without a body contained before is not sent.
+            const reference::Record sent =
+                reference::as_received(bridge::extract(handle, record, instance), handle.tracks());
+            require(bridge::same(sent, bridge::extract(handle, record, again)), "what was written reads back as sent");
+        } else if (error == 0) {
             require(record.compare(instance, again) == 0, "what was written reads back as it was");
             require(record.hash(instance, 5) == record.hash(again, 5), "what is equal hashes alike");
         }
@@ -87,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Input input(data, size);
     const Root root = fuzz::root(input.u8());
     const Choice choice(input.u8());
-    if (root.record != nullptr) read_record(choice, *root.record, input.rest());
+    if (root.record != nullptr) read_record(choice, *root.record, input);
     if (root.enumeration != nullptr) read_enumeration(choice, *root.enumeration, input.rest());
     if (root.message != nullptr) read_message(choice, *root.message, input.rest());
     return 0;

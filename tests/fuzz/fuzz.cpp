@@ -1,8 +1,12 @@
 #include "fuzz.h"
 
+#include <stdlib.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 
 namespace fuzz {
 
@@ -11,6 +15,8 @@ namespace {
 // Low enough that a count from an input costs little, high enough for the seeds.
 constexpr std::uint64_t request_ceiling = 12 << 10, total_ceiling = 48 << 10;
 constexpr std::size_t most_bytes = std::size_t{1} << 21;
+
+const int report_descriptor = ::dup(STDERR_FILENO);
 
 template <class Number>
 Number number(Input &input) {
@@ -28,7 +34,7 @@ kit::GuardedMemory &output() {
 
 void require(bool holds, const char *words) {
     if (holds) return;
-    std::fprintf(stderr, "required: %s\n", words);
+    ::dprintf(report_descriptor, "required: %s\n", words);
     std::abort();
 }
 
@@ -75,6 +81,90 @@ Root root(std::uint8_t number) {
 
 std::size_t roots() {
     return tarn::reflect::records().size() + tarn::reflect::enumerations().size() + tarn::reflect::messages().size();
+}
+
+reference::Record small_value(std::string_view type, bool printable) {
+    constexpr std::size_t small = 300;
+    for (const std::uint32_t elements : {2U, 1U}) {
+        const reference::Record value = reference::Generator(3, {.min_elements = elements,
+                                                                 .max_elements = elements,
+                                                                 .min_text = 1,
+                                                                 .max_text = 5,
+                                                                 .printable = printable})
+                                            .make(type);
+        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
+    }
+    std::abort();
+}
+
+namespace {
+
+using tarn::schema::Kind;
+
+// The addresses of an instance, at any depth but in arrays.
+void add_addresses(mirk_handle *h, const RecordOperations &record, void *instance, std::vector<ip_address *> &to) {
+    for (const auto &m : record.members) {
+        std::uint32_t err = 0;
+        const bool embedded = m.member->kind == Kind::address || m.member->kind == Kind::record;
+        void *at = embedded ? m.get(h, id, instance, &err) : nullptr;
+        if (at == nullptr) continue;
+        if (m.member->kind == Kind::address) {
+            to.push_back(static_cast<ip_address *>(at));
+        } else {
+            add_addresses(h, tarn::reflect::operations_of(*m.member->record), at, to);
+        }
+    }
+}
+
+// Each address of the instance refers to another object. That one is destroyed before the instance, and so remains
+// until the last of these references ends.
+void refer(mirk_handle *h, const RecordOperations &record, void *instance) {
+    std::vector<ip_address *> addresses;
+    add_addresses(h, record, instance, addresses);
+    void *target = record.create(h, id);
+    if (target == nullptr) return;
+    void *oid = nullptr;
+    mirk_platform_oid_mapping_make(h, target, static_cast<std::uint32_t>(addresses.size()), record.destroy, &oid);
+    for (const ip_address *address : addresses) mirk_platform_address_set_oids(h, address, &oid, 1);
+    record.destroy(h, id, target);
+}
+
+}  // namespace
+
+void prepare(Handle &handle, const RecordOperations &record, void *instance, Input &input) {
+    // What a read overwrites is lost, as documented.
+    handle.allow_lost_blocks();
+    constexpr unsigned filled = 1, with_ra_data = 2, refers = 4, of_another_variant = 8, strange = 16;
+    const unsigned how = input.u8();
+    if ((how & filled) != 0) {
+        reference::Generator generator(input.u8(), {.min_elements = how >> 5U & 1U,
+                                                    .max_elements = 1 + (how >> 6U),
+                                                    .max_text = 12,
+                                                    .budget = 1024,
+                                                    .states = handle.tracks(),
+                                                    .strange = (how & strange) != 0});
+        bridge::fill(handle, record, instance, generator.make(record.record->name));
+    }
+    if ((how & with_ra_data) != 0) mirk_platform_set_ra_data(handle, instance, nullptr, input.u8());
+    if ((how & refers) != 0) refer(handle, record, instance);
+    if ((how & of_another_variant) != 0) handle.set_variant(*record.type, static_cast<std::int8_t>(input.u8()));
+    mirk_clear_last_error(handle);
+}
+
+const std::string &scratch_folder() {
+    struct Folder {
+        Folder() {
+            path = (std::filesystem::temp_directory_path() / "tarn-fuzz-XXXXXX").string();
+            require(::mkdtemp(path.data()) != nullptr, "a folder can be created");
+        }
+        ~Folder() {
+            std::error_code ignored;
+            std::filesystem::remove_all(path, ignored);
+        }
+        std::string path;
+    };
+    static const Folder folder;
+    return folder.path;
 }
 
 std::uint8_t *guarded(std::span<const std::uint8_t> bytes) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "bridge/bridge.h"
@@ -22,13 +23,15 @@ using reference::Bytes;
 using tarn::reflect::EnumerationOperations;
 using tarn::reflect::MessageOperations;
 
-// Prints the text and aborts, so that a fuzzer keeps the input.
+// Prints the text and aborts, so that a fuzzer keeps the input. Prints to the standard error of the start, since
+// fuzzers may close it to silence the code under test.
 void require(bool holds, const char *words);
 
 // Returns zeros after its end.
 class Input {
 public:
     Input(const std::uint8_t *data, std::size_t size) : rest_(data, size) {}
+    explicit Input(std::span<const std::uint8_t> bytes) : rest_(bytes) {}
 
     bool empty() const { return rest_.empty(); }
     std::uint8_t u8();
@@ -64,6 +67,16 @@ struct Root {
 };
 Root root(std::uint8_t number);
 std::size_t roots();
+
+// A value of at most two elements to an array and five characters to a string, and of a few hundred bytes.
+reference::Record small_value(std::string_view type, bool printable = false);
+
+// What happens to a new instance before it is used, as the next bytes of the input describe it: it is filled, gets RA
+// data, refers to an object that waits for its destruction, or the domain gets another variant of its type.
+void prepare(Handle &handle, const RecordOperations &record, void *instance, Input &input);
+
+// A folder for files and sockets of this process, removed at its end.
+const std::string &scratch_folder();
 
 // Readable bytes with exactly one guard byte; valid until the next call.
 std::uint8_t *guarded(std::span<const std::uint8_t> bytes);

@@ -8,10 +8,16 @@ namespace fuzz {
 using tarn::reflect::MemberOperations;
 using tarn::schema::Kind;
 
+namespace {
+
+constexpr mirk_platform_testing_allocator allocators[] = {
+    MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_VARIANT_BLOCK,
+    MIRK_PLATFORM_TESTING_MIRKLIB_MALLOC};
+
+}  // namespace
+
 Machine::~Machine() {
-    mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_OBJ_ALLOC, 0, 0);
-    mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_SYS_ALLOC, 0, 0);
-    mirk_platform_testing_fail_allocation(handle_, MIRK_PLATFORM_TESTING_VARIANT_BLOCK, 0, 0);
+    for (const auto allocator : allocators) mirk_platform_testing_fail_allocation(handle_, allocator, 0, 0);
     if (handle_->send_bundle_open != 0) {
         std::uint32_t err = 0;
         bundle_send_message_list_destroy(handle_, id, &err);
@@ -67,10 +73,10 @@ bool Machine::is_live(const void *block) {
 
 void Machine::step() {
     static constexpr void (Machine::*calls[])() = {
-        &Machine::create, &Machine::destroy,  &Machine::set_value, &Machine::set_text, &Machine::set_element,
-        &Machine::states, &Machine::whole,    &Machine::assign,    &Machine::copy,     &Machine::frame,
-        &Machine::text,   &Machine::document, &Machine::message,   &Machine::bundle,   &Machine::domain,
-        &Machine::memory, &Machine::look};
+        &Machine::create, &Machine::destroy,  &Machine::set_value, &Machine::set_text,  &Machine::set_element,
+        &Machine::states, &Machine::whole,    &Machine::assign,    &Machine::copy,      &Machine::frame,
+        &Machine::text,   &Machine::document, &Machine::message,   &Machine::bundle,    &Machine::domain,
+        &Machine::memory, &Machine::look,     &Machine::received,  &Machine::references};
     const std::uint8_t byte = input_.u8();
     // An error stays set until the input or the end of a few calls clears it, so that most calls have an effect.
     if ((byte & 0x80) == 0) err_ = 0;
@@ -227,6 +233,35 @@ void Machine::frame() {
                         &err_);
 }
 
+// Any bytes as a frame, read into an object as it is.
+void Machine::received() {
+    const Object o = object();
+    if (o.instance == nullptr) return;
+    const auto bytes = input_.take(input_.u8());
+    handle_.allow_lost_blocks();
+    o.record->unmarshal(handle_, id, guarded(bytes), o.instance, static_cast<std::uint32_t>(bytes.size()), 0, &err_);
+}
+
+// An address of one object refers to another, or to none.
+void Machine::references() {
+    const Object from = object();
+    if (from.instance == nullptr) return;
+    const MemberOperations &m = member(*from.record);
+    if (m.member->kind != Kind::address) return;
+    std::uint32_t err = 0;
+    const auto *address = static_cast<const ip_address *>(m.get(handle_, id, from.instance, &err));
+    if (address == nullptr) return;
+    Object &to = slot();
+    const std::uint32_t count = input_.u8() % 3;
+    void *oid = nullptr;
+    // A condemned object whose references never end is left.
+    handle_.allow_lost_blocks();
+    if (to.instance != nullptr && count != 0) {
+        mirk_platform_oid_mapping_make(handle_, to.instance, count, to.record->destroy, &oid);
+    }
+    mirk_platform_address_set_oids(handle_, address, &oid, oid != nullptr ? 1 : 0);
+}
+
 void Machine::text() {
     const Object o = object();
     if (o.instance != nullptr) use(handle_, *o.record, o.instance, input_.u16() % 4096U + 1U);
@@ -307,9 +342,7 @@ void Machine::memory() {
     if (!failures_) return;
     // The results of failed allocations are documented per operation, and tested by the sweep.
     handle_.allow_lost_blocks();
-    constexpr mirk_platform_testing_allocator allocators[] = {
-        MIRK_PLATFORM_TESTING_OBJ_ALLOC, MIRK_PLATFORM_TESTING_SYS_ALLOC, MIRK_PLATFORM_TESTING_VARIANT_BLOCK};
-    mirk_platform_testing_fail_allocation(handle_, allocators[byte % 3], byte / 3 % 16, byte >> 7);
+    mirk_platform_testing_fail_allocation(handle_, allocators[byte % 4], byte / 4 % 16, byte >> 7);
 }
 
 void Machine::look() {

@@ -47,6 +47,8 @@ private:
     void assign();
     void copy();
     void frame();
+    void received();
+    void references();
     void text();
     void document();
     void message();

@@ -59,8 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Input input(data, size);
     const kit::Options options = fuzz::options(Choice(input.u8()));
     while (!input.empty()) {
-        const auto bytes = input.take(bytes_of_a_scene);
-        play(Input(bytes.data(), bytes.size()), options);
+        play(Input(input.take(bytes_of_a_scene)), options);
     }
     return 0;
 }

@@ -7,11 +7,12 @@ namespace {
 
 using namespace fuzz;
 
-constexpr unsigned occupied = 4;
+constexpr unsigned occupied = 4, prepared = 5;
 
-void read_record(const Choice &choice, const RecordOperations &record, void *document) {
+void read_record(const Choice &choice, const RecordOperations &record, Input &past, void *document) {
     Handle handle(options(choice));
     void *instance = record.create(handle, id);
+    if (choice.bit(prepared)) prepare(handle, record, instance, past);
     const std::string path = "/" + std::string(record.record->name);
     char words[64];
     std::uint32_t err = 0;
@@ -76,13 +77,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Input input(data, size);
     const Root root = fuzz::root(input.u8());
     const Choice choice(input.u8());
+    // The bytes of prepare() precede the document.
+    constexpr std::size_t bytes_of_a_past = 4;
+    Input past = choice.bit(prepared) ? Input(input.take(bytes_of_a_past)) : Input({});
     const auto text = input.rest();
     mirk_platform_report report;
     void *document = mirk_platform_document_load_memory(text.data(), text.size(), &report);
     require((document == nullptr) == (report.number != 0), "a document that is refused says why");
     if (document == nullptr) return 0;
     require(!declares_a_type(text), "a document type is refused");
-    if (root.record != nullptr) read_record(choice, *root.record, document);
+    if (root.record != nullptr) read_record(choice, *root.record, past, document);
     if (root.enumeration != nullptr) read_enumeration(choice, *root.enumeration, document);
     if (root.message != nullptr) read_message(choice, *root.message, document);
     mirk_platform_document_free(document);
