@@ -238,7 +238,7 @@ TEST(Dissector, DecodesEveryMessageLikeTheTool) {
         }
     }
     Capture capture;
-    capture.add(40000, port, bytes);
+    capture.add(61000, port, bytes);
     expect_equal(bytes, capture);
 }
 
@@ -249,7 +249,7 @@ TEST(Dissector, JoinsFramesFromSeveralSegments) {
     Capture capture;
     std::string all;
     for (const std::uint16_t segment : std::initializer_list<std::uint16_t>{1, 15, 16, 44}) {
-        capture.add(static_cast<std::uint16_t>(40000 + segment), port, bytes, segment);
+        capture.add(static_cast<std::uint16_t>(61000 + segment), port, bytes, segment);
         all += bytes;
     }
     expect_equal(all, capture);
@@ -260,9 +260,9 @@ TEST(Dissector, FindsFramesOnAnyPort) {
     const std::string bytes =
         tool_test::answer(bundle, tool_test::plain_payload(reference::message_table(bundle.message), 4), false);
     Capture capture;
-    capture.add(40000, other_port, bytes, 100);
-    capture.add(40001, other_port, "GET / HTTP/1.0\r\n\r\n");
-    capture.add(40002, other_port, "\xbc and no more of a frame, although it is long enough");
+    capture.add(61000, other_port, bytes, 100);
+    capture.add(61001, other_port, "GET / HTTP/1.0\r\n\r\n");
+    capture.add(61002, other_port, "\xbc and no more of a frame, although it is long enough");
     expect_equal(bytes, capture);
 }
 
@@ -288,13 +288,13 @@ TEST(Dissector, FiltersByValue) {
     for (const std::uint16_t level : std::initializer_list<std::uint16_t>{1, 7, 3}) {
         reference::Record payload(message.payload);
         payload["trace_enabled"].number = level;
-        capture.add(static_cast<std::uint16_t>(40000 + level), port, tool_test::frame(message, payload, false));
+        capture.add(static_cast<std::uint16_t>(61000 + level), port, tool_test::frame(message, payload, false));
     }
     const auto count = [&](const std::string &filter) {
         return lines(tshark(capture, {"-Y", filter, "-T", "fields", "-e", "tcp.srcport"}).out);
     };
-    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled == 7"), std::vector<std::string>{"40007"});
-    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled < 7"), (std::vector<std::string>{"40001", "40003"}));
+    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled == 7"), std::vector<std::string>{"61007"});
+    EXPECT_EQ(count("tarn.lumo_tarn_debug_setting.trace_enabled < 7"), (std::vector<std::string>{"61001", "61003"}));
     EXPECT_EQ(count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size(), 3U);
 }
 
@@ -311,14 +311,19 @@ TEST(Dissector, ReadsRequestsAndRefusals) {
     socket.send(request);
     const std::string sentence = "lumo_tarn_dp_intf_rsp is not served here";
     Capture capture;
-    capture.add(40000, port, request + socket.receive(49 + sentence.size()));
+    capture.add(61000, port, request + socket.receive(49 + sentence.size()));
 
     const std::vector<Field> frames = frames_in(capture);
     ASSERT_EQ(frames.size(), 2U);
     EXPECT_EQ(frames[0].label, "Tarn frame: request: lumo_tarn_dp_intf_rsp");
     EXPECT_EQ(frames[0].find("tarn.bundle")->show, "lumo_tarn_dp_intf_rsp");
-    EXPECT_EQ(frames[0].find("tarn.options")->find("tarn.options.tracked")->show, "1");
-    EXPECT_EQ(frames[0].find("tarn.options")->find("tarn.options.refused")->show, "0");
+    // Wireshark 4.4 shows booleans as words, earlier versions as numbers.
+    const auto shows = [&](const char *option) {
+        const std::string text = frames[0].find("tarn.options")->find(option)->show;
+        return text == "1" || text == "True" ? "set" : text == "0" || text == "False" ? "clear" : text;
+    };
+    EXPECT_EQ(shows("tarn.options.tracked"), "set");
+    EXPECT_EQ(shows("tarn.options.refused"), "clear");
     EXPECT_EQ(frames[1].label, "Tarn frame: refusal: " + sentence);
     EXPECT_EQ(frames[1].find("tarn.sentence")->show, sentence);
     EXPECT_EQ(frames[1].find("tarn.number")->show, std::to_string(ENOENT));
@@ -348,7 +353,7 @@ TEST(Dissector, MarksBrokenFramesWithTheReason) {
     const auto add = [&](const std::string &bytes) {
         const std::optional<std::string> reason = break_of(bytes);
         if (!reason) return false;
-        capture.add(static_cast<std::uint16_t>(40000 + expected.size()), port, bytes, 65000);
+        capture.add(static_cast<std::uint16_t>(61000 + expected.size()), port, bytes, 65000);
         expected.push_back("_ws.malformed\t" + *reason);
         return true;
     };
@@ -379,10 +384,10 @@ TEST(Dissector, MarksBrokenFramesWithTheReason) {
 TEST(Dissector, MarksBytesThatAreNotAFrame) {
     const std::string good = tool_test::control(reference::bundles().front(), "start");
     Capture capture;
-    capture.add(40001, port, "hello");
-    capture.add(40002, port, good + "hello");
-    capture.add(40003, port, with_length(good, 42));
-    capture.add(40004, port, with_length(good, 16777217));
+    capture.add(61001, port, "hello");
+    capture.add(61002, port, good + "hello");
+    capture.add(61003, port, with_length(good, 42));
+    capture.add(61004, port, with_length(good, 16777217));
     const Outcome outcome = tshark(capture, {"-Y", "tarn.no_frame", "-T", "fields", "-e", "_ws.expert.message"});
     EXPECT_EQ(lines(outcome.out),
               (std::vector<std::string>{"the marker is missing", "the marker is missing", "invalid total length 42",
