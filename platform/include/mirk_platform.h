@@ -436,8 +436,8 @@ MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_ser
  * that no process listens on is replaced. The options are copied.
  *
  * EADDRINUSE: a process listens on the file, or it cannot be determined that none does. EEXIST: the path is not a
- * socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: an argument or on_frame is null. Other errors
- * come from the system, such as EACCES. */
+ * socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: the path is empty, or an argument or on_frame
+ * is null. Other errors come from the system, such as EACCES. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,
                                                                 const mirk_platform_server_options *options,
                                                                 mirk_platform_server **server);
@@ -486,7 +486,8 @@ MIRK_PLATFORM_API void mirk_platform_server_close(mirk_platform_server *server);
  * is in milliseconds; 0 means not to wait. An infinite timeout is not available.
  *
  * ETIMEDOUT: the timeout expired. ECONNREFUSED: no process listens. ENOENT: the file does not exist. ENAMETOOLONG: the
- * path does not fit a socket address. EINVAL: an argument is null. Other errors come from the system. */
+ * path does not fit a socket address. EINVAL: the path is empty, or an argument is null. Other errors come from the
+ * system. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit,
                                                                 uint32_t timeout_ms, mirk_platform_client **client);
 /** Connects to a TCP address in the form of mirk_platform_server_open_tcp(). If a name has several addresses, they are

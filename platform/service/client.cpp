@@ -72,7 +72,7 @@ extern "C" {
 
 mirk_platform_error mirk_platform_client_open(const char *path, uint32_t frame_limit, uint32_t timeout_ms,
                                               mirk_platform_client **client) {
-    if (path == nullptr || client == nullptr) return EINVAL;
+    if (path == nullptr || *path == 0 || client == nullptr) return EINVAL;
     return mirk::guarded([&]() -> mirk_platform_error {
         if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
         Client opened = make_client(frame_limit);

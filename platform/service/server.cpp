@@ -353,6 +353,8 @@ mirk_platform_error mirk_platform_server::prepare_stop() {
 }
 
 mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
+    // The system would choose an abstract address, which has no access rights.
+    if (*path == 0) return EINVAL;
     if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
     const LocalProtocol::endpoint endpoint(path);
     if (const mirk_platform_error error = remove_stale_socket_file(context, path, endpoint); error != 0) return error;

@@ -425,6 +425,17 @@ TEST(Transport, ReplacesOnlyAStaleSocketFile) {
     EXPECT_EQ(mirk_platform_server_open((path + std::string(200, 'x')).c_str(), &options, &server), 36u);
 }
 
+// The system would choose an abstract address, which any user can connect to.
+TEST(Transport, AnEmptyPathIsAnError) {
+    auto options = Echo::defaults();
+    options.on_frame = [](void *, mirk_platform_server *, mirk_platform_peer, void *, uint32_t) {};
+    mirk_platform_server *server = nullptr;
+    EXPECT_EQ(mirk_platform_server_open("", &options, &server), uint32_t{EINVAL});
+    EXPECT_EQ(server, nullptr);
+    mirk_platform_client *client = nullptr;
+    EXPECT_EQ(mirk_platform_client_open("", 0, 100, &client), uint32_t{EINVAL});
+}
+
 TEST(Transport, ConnectingWithoutAServerFails) {
     mirk_platform_client *client = nullptr;
     EXPECT_EQ(mirk_platform_client_open("/tmp/mirk_transport_nobody", 0, 100, &client), uint32_t{ENOENT});

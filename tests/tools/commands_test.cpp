@@ -59,6 +59,46 @@ TEST(Commands, FilesThatCannotBeOpenedAreEnvironmentErrors) {
     EXPECT_EQ(tarn({"generate", "dp-intf", "-o", "/nonexistent/file"}).exit, 3);
 }
 
+TEST(Commands, EmptyPathsAreUsageErrors) {
+    for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
+             {"answer", "--socket", "", "cl-debug=/dev/null"},
+             {"answer", "--listen", "", "cl-debug=/dev/null"},
+             {"show", "cl-debug", "--socket", ""},
+             {"show", "cl-debug", "--connect", ""},
+             {"show", "cl-debug", "--socket", "/nonexistent", "--save", ""},
+             {"record", "cl-debug", "--socket", "", "-o", "/dev/null"},
+             {"record", "--from", "", "-o", "/dev/null"},
+             {"record", "--from", "/dev/null", "-o", ""},
+             {"record", "--from", "/dev/null", "-o", "/dev/null", "--full", ""},
+             {"generate", "dp-intf", "-o", ""},
+             {"encode", ""},
+             {"diff", "/dev/null", ""},
+             {"view", ""},
+             {"manifest", ""},
+         }) {
+        const Outcome outcome = tarn(words, debug_xml);
+        EXPECT_EQ(outcome.exit, 2) << words.front();
+        EXPECT_NE(outcome.err.find("must not be empty"), std::string::npos) << outcome.err;
+    }
+}
+
+TEST(Commands, TimesAreNumbersWithinTheirRange) {
+    for (const std::string time : {"nan", "-nan", "inf", "-1", "1e300", "86401", "x", ""}) {
+        for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
+                 {"answer", "--socket", "/nonexistent/socket", "cl-debug=/dev/null", "--idle", time},
+                 {"answer", "--socket", "/nonexistent/socket", "cl-debug=/dev/null", "--frame-time", time},
+                 {"answer", "--socket", "/nonexistent/socket", "cl-debug=/dev/null", "--answer-time", time},
+                 {"show", "cl-debug", "--socket", "/nonexistent/socket", "--timeout", time},
+                 {"record", "cl-debug", "--socket", "/nonexistent/socket", "-o", "/dev/null", "--interval", time},
+                 {"record", "cl-debug", "--socket", "/nonexistent/socket", "-o", "/dev/null", "--timeout", time},
+             }) {
+            const Outcome outcome = tarn(words);
+            EXPECT_EQ(outcome.exit, 2) << words.front() << " " << time;
+            EXPECT_NE(outcome.err.find(" not in range "), std::string::npos) << outcome.err;
+        }
+    }
+}
+
 TEST(Commands, UnknownNamesAreUsageErrorsOfAllCommands) {
     const std::vector<std::vector<std::string>> all = {
         {"schema", "cl-debag"},

@@ -6,6 +6,7 @@
 
 #include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/options.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
@@ -51,6 +52,7 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
+    refuse_empty_paths(app);
     // "complete" and "manual" describe the command line to the shells and to the build, and are not listed in the help.
     if (argc > 1 && std::string_view(argv[1]) == "complete") {
         write_file("-", completions(app, {argv + 2, argv + argc}));

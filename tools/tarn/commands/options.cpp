@@ -8,11 +8,23 @@ std::string tcp_words() {
     return "TCP address HOST:PORT; default host 127.0.0.1, default port " + std::to_string(MIRK_PLATFORM_TCP_PORT);
 }
 
+void refuse_empty_paths(CLI::App &app) {
+    for (CLI::Option *option : app.get_options()) {
+        const std::string &type = option->get_type_name();
+        if (!type.starts_with(words::file) && type != words::address) continue;
+        option->check([](const std::string &text) { return std::string(text.empty() ? "must not be empty" : ""); });
+    }
+    for (CLI::App *command : app.get_subcommands({})) refuse_empty_paths(*command);
+}
+
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what, double least) {
-    command.add_option(name, seconds, what)
-        ->check(CLI::Range(least, 86400.0).description(""))
-        ->type_name("SECONDS")
-        ->capture_default_str();
+    // Also refuses what is no number, which no comparison does.
+    const auto in_range = [least](const std::string &text) {
+        double value = 0;
+        if (CLI::detail::lexical_cast(text, value) && value >= least && value <= 86400) return std::string();
+        return "Value " + text + " not in range " + std::to_string(least) + " to " + std::to_string(86400);
+    };
+    command.add_option(name, seconds, what)->check(in_range)->type_name("SECONDS")->capture_default_str();
 }
 
 CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,

@@ -22,6 +22,9 @@ inline constexpr const char *type = "TYPE[.MEMBER...]";
 // The description of an option that takes a TCP address.
 std::string tcp_words();
 
+// For all options with a file or an address: an empty text would count as an option that was not given.
+void refuse_empty_paths(CLI::App &app);
+
 // A time in seconds, at most a day. 0 means no limit unless `least` excludes it. The initial value is the default.
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what,
                  double least = 0);
