@@ -26,10 +26,10 @@ TEST(ObjectTable, ReservationsCountEachBlockThatTouchesAStretch) {
     EXPECT_EQ(table.bytes(), 5 * bucket_bytes);
     EXPECT_EQ(table.bytes_with(1), 6 * bucket_bytes);
     EXPECT_EQ(table.bytes_with(2), 7 * bucket_bytes);
-    table.erase_block(at(0x10000), 16, true);
-    table.erase_block(at(0x100f0), 300, true);
+    table.erase_block(0x10000, 16, true);
+    table.erase_block(0x100f0, 300, true);
     EXPECT_EQ(table.bytes(), bucket_bytes);
-    table.erase_block(at(0x10010), 16, true);
+    table.erase_block(0x10010, 16, true);
     EXPECT_EQ(table.bytes(), 0u);
 }
 
@@ -69,7 +69,7 @@ TEST(ObjectTable, AgreesWithAMapInRandomUse) {
         } else if (action == 1 && blocks.size() > 50) {
             const size_t i = random() % blocks.size();
             const Extent block = blocks[i];
-            table.erase_block(at(block.begin), block.size, block.reserved);
+            table.erase_block(block.begin, block.size, block.reserved);
             expected.erase(expected.lower_bound(block.begin), expected.lower_bound(block.begin + block.size));
             blocks[i] = blocks.back();
             blocks.pop_back();
@@ -92,7 +92,7 @@ TEST(ObjectTable, AgreesWithAMapInRandomUse) {
         ASSERT_EQ(found != nullptr, known != expected.end());
         ASSERT_TRUE(found == nullptr || *found == known->second);
     }
-    for (const Extent &block : blocks) table.erase_block(at(block.begin), block.size, block.reserved);
+    for (const Extent &block : blocks) table.erase_block(block.begin, block.size, block.reserved);
     EXPECT_EQ(table.size(), 0u);
     EXPECT_EQ(table.bytes(), 0u);
 }
