@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include "core/object.h"
 
@@ -68,35 +69,29 @@ inline bool require_body(mirk_handle *h, mirk_object *object, std::uint32_t valu
     return false;
 }
 
-// Error slots for a sequence of initializations. Each step clears the handle's last error, which in a sticky call is
-// the caller's slot. But all steps have to run, since an object without a header would abort a later destroy. So each
-// step gets a slot of its own, and the destructor restores an earlier error, or else the first one of the steps.
+// The errors of a sequence of initializations. Each step clears the handle's last error, which in a sticky call is the
+// caller's slot. But all steps have to run, since an object without a header would abort a later destroy. So each step
+// returns its error or gets a slot of its own, and the result is an earlier error, or else the first one of the steps.
 class StepErrors {
 public:
-    StepErrors(mirk_handle *h, std::uint32_t *slot) : h_(h), slot_(slot), earlier_(*slot) {}
-    StepErrors(const StepErrors &) = delete;
-    StepErrors &operator=(const StepErrors &) = delete;
-    ~StepErrors() {
-        take();
-        if (earlier_ != 0) {
-            fail(h_, slot_, earlier_);
-        } else if (first_ != 0) {
-            *slot_ = first_;
-        }
+    explicit StepErrors(std::uint32_t earlier) : earlier_(earlier) {}
+
+    void add(std::uint32_t error) {
+        if (error != 0 && first_ == 0) first_ = error;
     }
     std::uint32_t *next() {
-        take();
+        if (own_ != 0) add(std::exchange(own_, 0));
         return &own_;
+    }
+    // Also restores an earlier error in the handle.
+    std::uint32_t result(mirk_handle *h) {
+        next();
+        if (earlier_ == 0) return first_;
+        mirk_store_err(h, earlier_);
+        return earlier_;
     }
 
 private:
-    void take() {
-        if (first_ == 0) first_ = own_;
-        own_ = 0;
-    }
-
-    mirk_handle *h_;
-    std::uint32_t *slot_;
     std::uint32_t earlier_, first_ = 0, own_ = 0;
 };
 

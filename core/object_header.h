@@ -24,9 +24,9 @@ inline void *no_object(mirk_handle *h, void *sentinel) {
     return storage != nullptr ? std::memset(storage, 0, size) : no_object(h, sentinel);
 }
 
-// Writes the header of a new object. Returns its variant.
+// Writes the header of a new object. Returns its variant, and in type the type that it is bound to.
 [[gnu::always_inline]] inline std::int8_t set_header(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                                     mirk_type_info *type, bool observed, std::uint8_t flags,
+                                                     mirk_type_info *&type, bool observed, std::uint8_t flags,
                                                      std::uint32_t *err) {
     const std::int8_t variant = cap_variant(mirk_domain_lookup_variant(h, &h->domain, type, err));
     const auto write = [&](auto notify) TARN_INLINE {
@@ -35,7 +35,8 @@ inline void *no_object(mirk_handle *h, void *sentinel) {
         notify(&object->variant);
         object->variant = variant;
         notify(&object->tinfo);
-        object->tinfo = bind_type(h, ctx_id, type);
+        type = bind_type(h, ctx_id, type);
+        object->tinfo = type;
         notify(&object->obj_flag);
         object->obj_flag |= flags;
     };
@@ -47,19 +48,20 @@ inline void *no_object(mirk_handle *h, void *sentinel) {
     return variant;
 }
 
+[[gnu::cold, gnu::noinline]] inline void report_variant(const mirk_variant_info &info, std::int8_t variant) {
+    trace(info_level, "(info): variant %u requested only %u variants present", variant, info.n_variants);
+}
 inline void check_variant_count(const mirk_variant_info &info, std::int8_t variant) {
-    if (info.n_variants < variant) {
-        trace(info_level, "(info): variant %u requested only %u variants present", variant, info.n_variants);
-    }
+    if (info.n_variants < variant) report_variant(info, variant);
 }
 
-[[gnu::always_inline]] inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_object *object,
+[[gnu::always_inline]] inline void count_created(mirk_handle *h, std::uint32_t ctx_id, const mirk_type_info *type,
                                                  std::int8_t variant, bool observed) {
-    const mirk_variant_info &info = variant_info(object->tinfo);
+    const mirk_variant_info &info = variant_info(type);
     check_variant_count(info, variant);
     mirk_variant_entry &entry = info.entries[variant];
-    count(h, ctx_id, object->tinfo, &entry.num_created, 1, observed);
-    count(h, ctx_id, object->tinfo, &entry.num_live, 1, observed);
+    count(h, ctx_id, type, &entry.num_created, 1, observed);
+    count(h, ctx_id, type, &entry.num_live, 1, observed);
 }
 
 // Trace lines of a type's destroy.
@@ -109,13 +111,15 @@ inline bool release_mapping(mirk_handle *h, std::uint32_t ctx_id, mirk_object *o
     constexpr std::uint8_t has_area_elsewhere = flag::state_tracked | flag::sttr_offset;
     if ((object->obj_flag & has_area_elsewhere) == has_area_elsewhere) mirklib_get_sttr_offset(h, ctx_id, object);
 
-    check_type(object->tinfo);
-    const mirk_variant_info &info = variant_info(object->tinfo);
-    check_variant_count(info, object->variant);
-    mirk_variant_entry &entry = info.entries[cap_variant(object->variant)];
+    const mirk_type_info *type = object->tinfo;
+    check_type(type);
+    const mirk_variant_info &info = variant_info(type);
+    const std::int8_t variant = object->variant;
+    check_variant_count(info, variant);
+    mirk_variant_entry &entry = info.entries[cap_variant(variant)];
     const bool observed = is_observed(h);
-    count(h, ctx_id, object->tinfo, &entry.num_destroyed, 1, observed);
-    count(h, ctx_id, object->tinfo, &entry.num_live, -1, observed);
+    count(h, ctx_id, type, &entry.num_destroyed, 1, observed);
+    count(h, ctx_id, type, &entry.num_live, -1, observed);
 
     if ((object->obj_flag & (flag::ra_data | flag::sttr_offset)) != 0 && h->oid_mapping != 0) {
         std::uint32_t error = 0;

@@ -21,8 +21,7 @@ namespace {
 // What growth needs to know of the elements, so that one function serves all arrays with counts of the same width.
 struct ElementShape {
     std::size_t base, width;
-    mirk_type_info &type;
-    decltype(&Lifecycle<schema::lumo_tarn_debug_setting>::initialize) initialize;
+    decltype(&Lifecycle<schema::lumo_tarn_debug_setting>::initialize_new) initialize;
     decltype(&Assignment<schema::lumo_tarn_debug_setting>::post_copyout_cleanup) post_copyout_cleanup;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_update) offset_update;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_remove) offset_remove;
@@ -46,13 +45,9 @@ constexpr decltype(ElementShape::initialize_elements) initialize_elements = [] {
     }
 }();
 template <const Record &R>
-constinit const ElementShape element_shape{schema::layout<R>.base_size,
-                                           schema::layout<R>.state_width,
-                                           TypeInfo<R>::own,
-                                           Lifecycle<R>::initialize,
-                                           Assignment<R>::post_copyout_cleanup,
-                                           References<R>::offset_update,
-                                           References<R>::offset_remove,
+constinit const ElementShape element_shape{schema::layout<R>.base_size,  schema::layout<R>.state_width,
+                                           Lifecycle<R>::initialize_new, Assignment<R>::post_copyout_cleanup,
+                                           References<R>::offset_update, References<R>::offset_remove,
                                            initialize_elements<R>};
 
 template <class A>
@@ -118,11 +113,11 @@ void initialize_new_elements(const Call &call, mirk_object *block, std::uint32_t
     if constexpr (runtime_inside) {
         if (shape.initialize_elements(call.h, call.ctx_id, shape.at(block, from), n - from, call.err)) return;
     }
-    StepErrors errors(call.h, call.err);
+    StepErrors errors(*call.err);
     for (std::uint64_t i = from; i < n; ++i) {
-        shape.initialize(call.h, call.ctx_id, shape.at(block, i), &shape.type, 1, 0, flag::nested,
-                         shape.area(block, n, i), errors.next());
+        errors.add(shape.initialize(call.h, call.ctx_id, shape.at(block, i), flag::nested, shape.area(block, n, i)));
     }
+    if (const std::uint32_t error = errors.result(call.h); error != 0) *call.err = error;
 }
 
 // Replaces the vector of element states by a longer one that starts with the old states. False: EINVAL or ENOMEM.

@@ -164,11 +164,9 @@ template <const Record &R>
     // On a tracking handle every element gets its offset, even if the frame has no state: otherwise its state would be
     // read directly after it, from the next element's bytes.
     if (tracked) mirklib_update_sttr_offset(h, ctx_id, element, distance(element, element_state));
-    {
-        StepErrors errors(h, err);
-        Lifecycle<R>::initialize(h, ctx_id, element, &TypeInfo<R>::own, 1, 0, flag::nested,
-                                 reinterpret_cast<void *>(element_state), errors.next());
-    }
+    StepErrors errors(*err);
+    errors.add(Lifecycle<R>::initialize_new(h, ctx_id, element, flag::nested, reinterpret_cast<void *>(element_state)));
+    if (const std::uint32_t error = errors.result(h); error != 0) *err = error;
     pass(WireRead<R>::unmarshal(h, ctx_id, at(), element, static_cast<std::uint32_t>(left()), reuse, err));
 }
 

@@ -40,15 +40,18 @@ struct Areas {
                                                        std::uint32_t *err) {
     if (!enter(h, err)) return false;
     const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
-    const bool tracked = tracks(h);
-    if (tracked) {
-        if (notify != 0) notify_write(h, ctx_id, &object->obj_flag);
-        object->obj_flag |= flag::state_tracked;
+    const auto count = [&] TARN_INLINE {
+        count_created(h, ctx_id, type, variant, true);
+        *err = 0;  // clears an error of the domain look-up; the first require_body reports it
+    };
+    if (!tracks(h)) {
+        if (skip_count == 0) count();
+        return true;
     }
+    if (notify != 0) notify_write(h, ctx_id, &object->obj_flag);
+    object->obj_flag |= flag::state_tracked;
     if (skip_count != 0) return true;
-    count_created(h, ctx_id, object, variant, true);
-    *err = 0;  // clears an error of the domain look-up; the first require_body reports it
-    if (!tracked) return true;
+    count();
 
     const bool nested = (object->obj_flag & flag::nested) != 0;
     const bool has_offset = (object->obj_flag & flag::sttr_offset) != 0;
@@ -65,18 +68,78 @@ struct Areas {
     return true;
 }
 
-[[gnu::noinline]] bool initialize_owner(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                                        std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags,
-                                        Areas &areas, std::uint32_t *err) {
+[[gnu::noinline]] bool initialize_any(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                                      std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, Areas &areas,
+                                      std::uint32_t *err) {
     return initialize_instance(h, ctx_id, object, type, notify, skip_count, flags, areas, err);
 }
 
-// A record without embedded members. Its arguments are those of initialize, which jumps here.
-[[gnu::noinline]] void initialize_plain(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                                        std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags,
-                                        void *sttr_base, std::uint32_t *err) {
+// The same in new memory. The result fits two registers.
+struct Begun {
+    void *areas_of_members;
+    std::uint64_t error;  // if set, the members must not be initialized
+};
+[[gnu::always_inline]] inline Begun begin(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                          mirk_type_info *type, std::uint8_t flags, void *sttr_base) {
     Areas areas{sttr_base, 0};
-    initialize_instance(h, ctx_id, object, type, notify, skip_count, flags, areas, err);
+    std::uint32_t error = 0;
+    initialize_instance(h, ctx_id, object, type, 1, 0, flags, areas, &error);
+    return {areas.members, error};
+}
+[[gnu::noinline]] Begun begin_owner(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
+                                    std::uint8_t flags, void *sttr_base) {
+    return begin(h, ctx_id, object, type, flags, sttr_base);
+}
+// A record without embedded members.
+[[gnu::noinline]] std::uint32_t begin_plain(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                            mirk_type_info *type, std::uint8_t flags, void *sttr_base) {
+    return static_cast<std::uint32_t>(begin(h, ctx_id, object, type, flags, sttr_base).error);
+}
+
+// What a create needs to know of a record, so that one function serves all.
+struct CreateShape {
+    std::uint32_t base_size, state_width;
+    void *sentinel;
+    mirk_type_info &type;
+    // Null for a record without embedded members, whose initialization cannot fail.
+    decltype(&Lifecycle<schema::lumo_tarn_debug_setting>::initialize_new) initialize;
+    const char *failure_text;
+};
+template <const Record &R>
+constexpr auto failure_text = named_text<R>("(ERR): error in ", " create: %s");
+template <const Record &R>
+constinit const CreateShape create_shape = [] {
+    constexpr const schema::Layout &layout = schema::layout<R>;
+    if constexpr (any_member<R>(schema::is_embedded)) {
+        return CreateShape{layout.base_size, layout.state_width,           &sentinel_of<R>,
+                           TypeInfo<R>::own, Lifecycle<R>::initialize_new, failure_text<R>.data()};
+    } else {
+        return CreateShape{layout.base_size, layout.state_width, &sentinel_of<R>, TypeInfo<R>::own, nullptr, nullptr};
+    }
+}();
+
+[[gnu::always_inline]] inline void *create_inline(mirk_handle *h, std::uint32_t ctx_id, const CreateShape &shape) {
+    if (create_is_off(h)) return shape.sentinel;
+    const bool tracked = tracks(h);
+    const std::uint32_t size = shape.base_size + (tracked ? shape.state_width : 0);
+    void *storage = allocate(h, ctx_id, size);
+    if (storage == nullptr) return no_object(h, shape.sentinel);
+    auto *object = static_cast<mirk_object *>(std::memset(storage, 0, size));
+    void *area = tracked ? bytes_of(object) + shape.base_size : nullptr;
+    if (shape.initialize == nullptr) {
+        begin(h, ctx_id, object, &shape.type, 0, area);
+        return object;
+    }
+    const std::uint32_t error = shape.initialize(h, ctx_id, object, 0, area);
+    return error == 0 ? object : abandon_create(h, ctx_id, object, error, shape.failure_text);
+}
+[[gnu::noinline]] void *create_object(mirk_handle *h, std::uint32_t ctx_id, const CreateShape &shape) {
+    return create_inline(h, ctx_id, shape);
+}
+// For create, which programs call for each tree: one call less.
+[[gnu::noinline]] void *create_object_with_trace(mirk_handle *h, std::uint32_t ctx_id, const CreateShape &shape) {
+    mirk_lumo_ui_tarn_type_trace_init();
+    return create_inline(h, ctx_id, shape);
 }
 
 struct ReferenceTexts {
@@ -149,26 +212,23 @@ std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
 
 template <const Record &R>
 mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
-    if (create_is_off(h)) return sentinel();
     if constexpr (runtime_inside) {
         mirk_object *object = nullptr;
-        if (shortcut::create<R>(h, ctx_id, object)) {
+        if (!create_is_off(h) && shortcut::create<R>(h, ctx_id, object)) {
             return object != nullptr ? object : static_cast<mirk_object *>(no_object(h, sentinel()));
         }
     }
-    auto *object = static_cast<mirk_object *>(new_object(h, ctx_id, sizeof_instance(h), sentinel()));
-    if (object == nullptr || object == sentinel()) return object;
-    std::uint32_t error = 0;
-    initialize(h, ctx_id, object, &TypeInfo<R>::own, 1, 0, 0, nullptr, &error);
-    if (error == 0) return object;
-    static constexpr auto text = named_text<R>("(ERR): error in ", " create: %s");
-    return abandon_create(h, ctx_id, object, error, text.data());
+    return static_cast<mirk_object *>(create_object(h, ctx_id, create_shape<R>));
 }
 
 template <const Record &R>
 mirk_object *Lifecycle<R>::create(mirk_handle *h, std::uint32_t ctx_id) {
-    mirk_lumo_ui_tarn_type_trace_init();
-    return create_internal(h, ctx_id);
+    if constexpr (runtime_inside) {
+        mirk_lumo_ui_tarn_type_trace_init();
+        return create_internal(h, ctx_id);
+    } else {
+        return static_cast<mirk_object *>(create_object_with_trace(h, ctx_id, create_shape<R>));
+    }
 }
 
 // The trace module is initialized before the handle is in create mode.
@@ -187,30 +247,53 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
             return;
         }
     }
+    Areas areas{sttr_base, schema::layout<R>.base_size};
+    if (!initialize_any(h, ctx_id, object, type, notify, skip_count, flags, areas, err)) return;
+    sttr_base = areas.base;
     if constexpr (any_member<R>(schema::is_embedded)) {
-        Areas areas{sttr_base, schema::layout<R>.base_size};
-        if (!initialize_owner(h, ctx_id, object, type, notify, skip_count, flags, areas, err)) return;
         if (areas.members != nullptr) References<R>::offset_update(h, ctx_id, object, areas.members, err);
-        initialize_members(h, ctx_id, object, notify, skip_count, areas.base, err);
-    } else {
-        initialize_plain(h, ctx_id, object, type, notify, skip_count, flags, sttr_base, err);
+        StepErrors errors(*err);
+        walk<R>(cases{
+            // Members get the same base, not the start of their own area, which they look up in the runtime.
+            [&]<EmbeddedMember F>(F) {
+                Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), notify, skip_count,
+                                         flag::nested, sttr_base, errors.next());
+            },
+            nothing,
+        });
+        if (const std::uint32_t error = errors.result(h); error != 0) *err = error;
     }
 }
 
-// Members get the same base, not the start of their own area, which they look up in the runtime.
 template <const Record &R>
-[[gnu::always_inline]] inline void Lifecycle<R>::initialize_members(mirk_handle *h, std::uint32_t ctx_id,
-                                                                    mirk_object *object, std::uint32_t notify,
-                                                                    std::uint32_t skip_count, void *sttr_base,
-                                                                    std::uint32_t *err) {
-    StepErrors errors(h, err);
-    walk<R>(cases{
-        [&]<EmbeddedMember F>(F) {
-            Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), notify, skip_count, flag::nested,
-                                     sttr_base, errors.next());
-        },
-        nothing,
-    });
+std::uint32_t Lifecycle<R>::initialize_new(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                           std::uint8_t flags, void *sttr_base) {
+    std::uint32_t error = 0;
+    if constexpr (runtime_inside) {
+        if (shortcut::initialize<R>(h, ctx_id, object, flags, &error)) return error;
+    }
+    if constexpr (any_member<R>(schema::is_embedded)) {
+        const Begun begun = begin_owner(h, ctx_id, object, &TypeInfo<R>::own, flags, sttr_base);
+        if (begun.error != 0) return static_cast<std::uint32_t>(begun.error);
+        if (begun.areas_of_members != nullptr) {
+            References<R>::offset_update(h, ctx_id, object, begun.areas_of_members, &error);
+        }
+        StepErrors errors(error);
+        walk<R>(cases{
+            [&]<EmbeddedMember F>(F) {
+                if constexpr (F::kind == Kind::record || F::kind == Kind::enumeration) {
+                    errors.add(Primitive<F>::initialize_new(h, ctx_id, F::at(object), flag::nested, sttr_base));
+                } else {
+                    Primitive<F>::initialize(h, ctx_id, F::at(object), Primitive<F>::type(), 1, 0, flag::nested,
+                                             sttr_base, errors.next());
+                }
+            },
+            nothing,
+        });
+        return errors.result(h);
+    } else {
+        return begin_plain(h, ctx_id, object, &TypeInfo<R>::own, flags, sttr_base);
+    }
 }
 
 template <const Record &R>

@@ -18,9 +18,14 @@ struct Lifecycle {
     static mirk_object *create(mirk_handle *h, std::uint32_t ctx_id);
     static mirk_object *create_cr(mirk_handle *h);
     static mirk_object *create_internal(mirk_handle *h, std::uint32_t ctx_id);
-    static void initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, mirk_type_info *type,
-                           std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
-                           std::uint32_t *err);
+    // For clients. The library itself initializes new memory only.
+    [[gnu::cold, gnu::nonnull(3)]] static void initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                          mirk_type_info *type, std::uint32_t notify,
+                                                          std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
+                                                          std::uint32_t *err);
+    // The same for new memory, where all is notified and counted. Returns the error; its arguments fit the registers.
+    [[gnu::nonnull(3)]] static std::uint32_t initialize_new(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
+                                                            std::uint8_t flags, void *sttr_base);
     static void set_instance_embedded(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object);
     static void destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object);
     static void destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t free_it);
@@ -30,10 +35,6 @@ struct Lifecycle {
     }
     // All zero and never initialized; a failed sticky chain returns it instead of null.
     static mirk_object *sentinel();
-
-private:
-    static void initialize_members(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object, std::uint32_t notify,
-                                   std::uint32_t skip_count, void *sttr_base, std::uint32_t *err);
 };
 
 }  // namespace tarn

@@ -54,9 +54,7 @@ auto Enum<E>::create(mirk_handle *h, std::uint32_t ctx_id) -> object * {
     if (create_is_off(h)) return sentinel();
     auto *instance = static_cast<object *>(new_object(h, ctx_id, sizeof(object), sentinel()));
     if (instance == nullptr || instance == sentinel()) return instance;
-    std::uint32_t error = 0;
-    initialize(h, ctx_id, instance, &TypeInfo<E>::own, 1, 0, 0, nullptr, &error);
-    if (error != 0) {
+    if (const std::uint32_t error = initialize_new(h, ctx_id, instance, 0, nullptr); error != 0) {
         static constexpr auto text = named_text<E>("(ERR): error in ", " create %s");
         trace(error_level, text.data(), error_text(error));
     }
@@ -71,7 +69,15 @@ void Enum<E>::initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance,
     if (!enter(h, err)) return;
     const bool observed = is_observed(h);
     const std::int8_t variant = set_header(h, ctx_id, header_of(instance), type, notify != 0 && observed, flags, err);
-    count_created(h, ctx_id, header_of(instance), variant, observed);
+    count_created(h, ctx_id, type, variant, observed);
+}
+
+template <const Enumeration &E>
+[[gnu::flatten]] std::uint32_t Enum<E>::initialize_new(mirk_handle *h, std::uint32_t ctx_id, object *instance,
+                                                       std::uint8_t flags, void *) {
+    std::uint32_t error = 0;
+    initialize(h, ctx_id, instance, &TypeInfo<E>::own, 1, 0, flags, nullptr, &error);
+    return error;
 }
 
 template <const Enumeration &E>

@@ -15,6 +15,9 @@ struct Enum {
     static void initialize(mirk_handle *h, std::uint32_t ctx_id, object *instance, mirk_type_info *type,
                            std::uint32_t notify, std::uint32_t not_used_1, std::uint8_t flags, void *not_used_2,
                            std::uint32_t *err);
+    // The same for new memory, where all is notified. Returns the error.
+    static std::uint32_t initialize_new(mirk_handle *h, std::uint32_t ctx_id, object *instance, std::uint8_t flags,
+                                        void *not_used);
     static void set_instance_embedded(mirk_handle *h, std::uint32_t ctx_id, object *instance);
     static std::uint32_t get_oid_count(mirk_handle *h, std::uint32_t, object *instance, std::uint32_t *err);
     static void get_object_references(mirk_handle *h, std::uint32_t, object *instance, void **, std::uint32_t,

@@ -51,6 +51,7 @@ struct PrimitiveOf<Kind::record, Of> {
     static std::uint32_t hash(auto... arguments) { return Hash<*Of>::hash(arguments...); }
     static std::uint32_t backpropagate(auto... arguments) { return Propagate<*Of>::backpropagate(arguments...); }
     static void initialize(auto... arguments) { Lifecycle<*Of>::initialize(arguments...); }
+    static std::uint32_t initialize_new(auto... arguments) { return Lifecycle<*Of>::initialize_new(arguments...); }
     static mirk_type_info *type() { return &TypeInfo<*Of>::own; }
     static void set_instance_embedded(auto... arguments) { Lifecycle<*Of>::set_instance_embedded(arguments...); }
     static void destroy_internal(mirk_handle *h, std::uint32_t ctx_id, mirk_object *field, std::uint32_t free_it) {
