@@ -31,9 +31,8 @@ struct Reader {
     std::uint32_t *err;
     std::uint32_t limit = size;  // the end of the buffer, or the offset once that has passed the end
     std::uint32_t offset = 0;
-    bool with_state = false;  // the frame has state bytes
-    bool tracked = false;
-    std::uint8_t *area = nullptr;  // where they go; null: they are skipped
+    bool tracked = false;          // the handle tracks state
+    std::uint8_t *area = nullptr;  // where the frame's state bytes go; null if it has none
     std::uint32_t old_count = 0;   // value of the count or length before it was read
 
     std::uint8_t *at() const { return buffer + offset; }
@@ -44,6 +43,7 @@ struct Reader {
         limit = offset < size ? size : offset;
     }
     std::uint32_t step() const { return offset != size ? 1 : 0; }
+    bool keeps_state() const { return area != nullptr && tracked; }
     std::uint32_t at_most(std::uint32_t n) const { return std::min(n, static_cast<std::uint32_t>(left())); }
 
     template <class F>
@@ -58,27 +58,27 @@ struct Reader {
         if constexpr (schema::is_tracked(F::member)) state_of<F>();
     }
 
+    // The state of a whole array or of a string may be read from the guard byte.
     template <class F>
-    void state_of() {
-        if (!with_state) return;
-        const std::uint32_t n = step();
-        if (area != nullptr && n != 0) *F::state(area) = offset < size ? *at() : std::uint8_t{0};
-        pass(n);
-    }
-
-    // The state of a whole array or of a string, which may be read from the guard byte.
-    template <class F>
-    void block_state() {
-        *F::state(area) = offset <= size ? *at() : std::uint8_t{0};
-        pass(step());
+    [[gnu::always_inline]] void state_of() {
+        if (area == nullptr) return;
+        if (offset < size) {
+            *F::state(area) = *at();
+            ++offset;
+            limit = size;
+        } else if (offset > size) {
+            *F::state(area) = 0;
+            pass(1);
+        } else {
+            if constexpr (BlockMember<F>) *F::state(area) = *at();
+            limit = size;
+        }
     }
 
     template <ArrayMember A>
     bool array(mirk_object *instance);
     template <StringMember S>
     bool string(mirk_object *instance);
-    template <ArrayMember A>
-    void release_elements(mirk_object *instance);
     template <ArrayMember A>
     bool make_block(mirk_object *instance, std::uint32_t n, ElementStates states);
     template <const Record &R>
@@ -100,14 +100,15 @@ struct Reader {
     offset = end;
 }
 
-template <ArrayMember A>
-void Reader::release_elements(mirk_object *instance) {
-    mirk_object **block = A::at(instance);
-    for (std::uint32_t i = 0; i < old_count && h->oid_mapping != 0; ++i) {
-        mirk_object *element = element_at<A::element>(*block, i);
+// Takes separate arguments instead of the reader, so that the reader can stay in registers. read_ra_data does, too.
+template <const Record &R>
+[[gnu::noinline]] void release_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object **block, std::uint32_t count,
+                                        std::uint32_t *err) {
+    for (std::uint32_t i = 0; i < count && h->oid_mapping != 0; ++i) {
+        mirk_object *element = element_at<R>(*block, i);
         if ((element->obj_flag & (flag::ra_data | flag::sttr_offset)) == 0) continue;
         mirk_hd_mapping_destroy(h, ctx_id, element, err);
-        References<A::element>::offset_remove(h, ctx_id, element, err);
+        References<R>::offset_remove(h, ctx_id, element, err);
     }
     release(h, ctx_id, *block);
     store(h, ctx_id, block, static_cast<mirk_object *>(nullptr));
@@ -118,12 +119,14 @@ template <ArrayMember A>
 [[gnu::always_inline]] inline bool Reader::make_block(mirk_object *instance, std::uint32_t n, ElementStates states) {
     mirk_object **block = A::at(instance);
     const bool same_elements = *block != nullptr && old_count == n;
-    if (reuse != 0 && *block != nullptr && old_count != n) release_elements<A>(instance);
+    if (reuse != 0 && *block != nullptr && old_count != n) {
+        release_elements<A::element>(h, ctx_id, block, old_count, err);
+    }
     if (reuse != 0 && states.block() != nullptr && old_count != n) {
         release(h, ctx_id, states.block());
         states.put(nullptr);
     }
-    if (tracked && !with_state && !same_elements) {
+    if (tracked && area == nullptr && !same_elements) {
         // A frame without state keeps the old vector, unless it may be too short for the new elements or was left by an
         // empty frame or a failed read.
         const ElementStates stale = A::element_states(state_area<A::owner>(h, ctx_id, instance));
@@ -142,7 +145,7 @@ template <ArrayMember A>
         return false;
     }
     std::memset(bytes_of(*block), 0, stride * n);
-    if (area != nullptr) {
+    if (keeps_state()) {
         auto *vector = static_cast<std::uint8_t *>(allocate(h, ctx_id, n));
         states.put(vector);
         if (vector == nullptr) {
@@ -172,22 +175,22 @@ template <const Record &R>
 
 // False: an allocation failed, which ends the reading of this frame.
 template <ArrayMember A>
-bool Reader::array(mirk_object *instance) {
+[[gnu::always_inline]] inline bool Reader::array(mirk_object *instance) {
     const std::uint32_t n = A::stored_count(instance);
     if (n == 0) return true;
 
-    const ElementStates states = A::element_states(area);
+    const ElementStates states = A::element_states(keeps_state() ? area : nullptr);
     if (!make_block<A>(instance, n, states)) return false;
     for (std::uint32_t i = 0; i < n; ++i) element<A::element>(*A::at(instance), n, i);
-    if (area != nullptr) {
-        block_state<A>();
-        const std::uint32_t m = at_most(n);
-        std::memcpy(states.block(), at(), m);
-        offset += m;
-    } else if (with_state) {
+    if (area == nullptr) return true;
+    if (tracked) {
+        state_of<A>();
+    } else {
         pass(step());
-        offset += at_most(n);
     }
+    const std::uint32_t m = at_most(n);
+    if (tracked) std::memcpy(states.block(), at(), m);
+    offset += m;
     return true;
 }
 
@@ -213,9 +216,10 @@ template <StringMember S>
     const std::uint32_t m = at_most(n);
     std::memcpy(*body, at(), m);
     offset += m;
-    if (area != nullptr) {
-        block_state<S>();
-    } else if (with_state) {
+    if (area == nullptr) return true;
+    if (tracked) {
+        state_of<S>();
+    } else {
         // Unlike the state of a scalar, the last byte of a buffer is not skipped. In a nested frame, the jump corrects
         // the offset.
         if (static_cast<std::int32_t>(size - offset) > 1) pass(1);
@@ -223,7 +227,6 @@ template <StringMember S>
     return true;
 }
 
-// Takes separate arguments instead of the reader, so that the reader can stay in registers.
 [[gnu::cold, gnu::noinline]] inline std::uint32_t read_ra_data(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
                                                                mirk_object *instance, std::int32_t remaining,
                                                                std::uint32_t *err) {

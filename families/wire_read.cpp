@@ -48,12 +48,14 @@ template <const Record &R>
     const std::int8_t variant = cap_variant(head.variant);
     std::uint8_t wire_flag = head.wire_flag;
 
-    in.with_state = (wire_flag & flag::state_tracked) != 0;
+    std::uint8_t unread[schema::layout<R>.state_width];  // states that the handle does not keep
+    const bool with_state = (wire_flag & flag::state_tracked) != 0;
     in.tracked = tracks(h);
     if (in.tracked) {
         if (!is_state_tracked(instance)) die("(FATAL): MIRK handle and object state tracking mis-match");
-        if (in.with_state) in.area = state_area<R>(h, ctx_id, instance);
-    } else {
+        if (with_state) in.area = state_area<R>(h, ctx_id, instance);
+    } else if (with_state) {
+        in.area = unread;
         wire_flag &= static_cast<std::uint8_t>(~flag::state_tracked);
     }
 
