@@ -21,6 +21,7 @@ namespace {
 
 struct DecodeOptions {
     std::string file = "-", via = "handle";
+    From from = From::detect;
     bool text = false, xml = false, json = false, bundles = false, keep_going = false, lenient = false, verbose = false;
 
     Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
@@ -138,7 +139,7 @@ void decode_fragments(std::string_view content, const std::string &origin, const
 
 Exit run_decode(const DecodeOptions &options) {
     set_up_trace(options.verbose);
-    const std::string content = read_file(options.file);
+    const std::string content = read_input(options.file, options.from);
     const std::string origin = shown_path(options.file);
     Failures failures(options.keep_going);
     const Form form = form_of(content, origin);
@@ -179,6 +180,7 @@ void add_decode(CLI::App &app, Context &context) {
     add_via(*command, options->via, "Where to register the handler of the bundles")->needs(bundles);
     command->add_flag("-k,--keep-going", options->keep_going,
                       "Print errors and continue with the next frame or fragment");
+    add_from(*command, options->from);
     add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(

@@ -17,6 +17,7 @@ using nlohmann::ordered_json;
 
 struct DiffOptions {
     std::string a, b;
+    From from = From::detect;
     bool json = false, quiet = false, no_state = false, lenient = false;
 };
 
@@ -77,10 +78,10 @@ private:
     bool with_state_;
 };
 
-ordered_json load(const std::string &path, bool lenient) {
+ordered_json load(const std::string &path, const DiffOptions &options) {
     const Handles handles(Tracking::as_input);
     ordered_json all = ordered_json::array();
-    for (const Item &item : read_items(handles, path, lenient)) all.push_back(json_of(item));
+    for (const Item &item : read_items(handles, path, options.lenient, options.from)) all.push_back(json_of(item));
     return all;
 }
 
@@ -113,7 +114,7 @@ void print_json(const std::vector<Difference> &differences) {
 }
 
 Exit run_diff(const DiffOptions &options) {
-    const ordered_json a = load(options.a, options.lenient), b = load(options.b, options.lenient);
+    const ordered_json a = load(options.a, options), b = load(options.b, options);
     Comparison comparison(!options.no_state);
     // The paths of a single message have no index.
     for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
@@ -143,6 +144,7 @@ void add_diff(CLI::App &app, Context &context) {
     command->add_flag("--json", options->json, "Print the differences as JSON");
     command->add_flag("-q,--quiet", options->quiet, "Print nothing; only set the exit code");
     command->add_flag("--no-state", options->no_state, "Ignore per-field state");
+    add_from(*command, options->from);
     add_lenient(*command, options->lenient);
     command->footer(
         "The exit code is 0 if the messages are equal, and 1 if they differ. If they are\n"

@@ -7,6 +7,7 @@
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/dissection.h"
 #include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/hex.h"
@@ -18,6 +19,7 @@ namespace {
 
 struct DissectOptions {
     std::string file = "-";
+    From from = From::detect;
     bool json = false;
 };
 
@@ -66,7 +68,7 @@ nlohmann::ordered_json json_of_dissection(const Dissection &dissection, std::siz
 }
 
 Exit run_dissect(const DissectOptions &options) {
-    const std::string content = read_file(options.file);
+    const std::string content = read_input(options.file, options.from);
     const FrameBytes all = bytes_of(content);
     if (all.empty()) throw Failure(Exit::input, shown_path(options.file) + ": empty");
     nlohmann::ordered_json frames = nlohmann::ordered_json::array();
@@ -96,6 +98,7 @@ void add_dissect(CLI::App &app, Context &context) {
     CLI::App *command = app.add_subcommand("dissect", "Print an annotated dump of frames, byte by byte");
     add_input(*command, options->file, "Frames");
     command->add_flag("--json", options->json, "Print JSON");
+    add_from(*command, options->from);
     command->footer(
         "If a frame is broken, the dump stops at the error, which is printed on standard\n"
         "error with its offset and reason.\n\n"

@@ -16,6 +16,7 @@ namespace {
 struct EncodeOptions {
     std::string file = "-", output = "-", bundle;
     std::uint32_t stamp = 0;
+    From from = From::detect;
     bool tracked = false, lenient = false, verbose = false;
 };
 
@@ -23,7 +24,7 @@ Exit run_encode(const EncodeOptions &options) {
     set_up_trace(options.verbose);
     const std::string origin = shown_path(options.file);
     const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
-    const std::vector<Item> items = read_items(handles, options.file, options.lenient);
+    const std::vector<Item> items = read_items(handles, options.file, options.lenient, options.from);
     const auto *bundle = options.bundle.empty() ? nullptr : &bundle_named(options.bundle);
     write_file(options.output, frames_of(handles, items, origin, bundle, options.stamp));
     return Exit::success;
@@ -43,6 +44,7 @@ void add_encode(CLI::App &app, Context &context) {
                      "Message stamp: a number of the sender's choice, in the header of each frame")
         ->capture_default_str();
     command->add_flag("--tracked", options->tracked, "Write per-field state");
+    add_from(*command, options->from);
     add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(

@@ -50,6 +50,14 @@ void add_output(CLI::App &command, std::string &path, const std::string &what) {
     command.add_option("-o,--output", path, what + "; default: standard output")->type_name(words::file);
 }
 
+void add_from(CLI::App &command, From &from) {
+    const std::map<std::string, From> forms{{"detect", From::detect}, {"hex", From::hex}};
+    command.add_option("--from", from, "How the input is written: hex is hexadecimal text, as dumps and C arrays are")
+        ->transform(CLI::CheckedTransformer(forms).description(""))
+        ->type_name("FORM")
+        ->default_str("detect");
+}
+
 void add_lenient(CLI::App &command, bool &lenient) {
     command.add_flag(
         "--lenient", lenient,

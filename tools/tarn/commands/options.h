@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "tools/tarn/formats/reader.h"
 #include "tools/tarn/service/client.h"
 
 namespace tarn::tool {
@@ -35,6 +36,7 @@ CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t 
 // The positional `file`; its default is standard input.
 void add_input(CLI::App &command, std::string &path, const std::string &what);
 void add_output(CLI::App &command, std::string &path, const std::string &what);
+void add_from(CLI::App &command, From &from);
 void add_lenient(CLI::App &command, bool &lenient);
 void add_verbose(CLI::App &command, bool &verbose);
 

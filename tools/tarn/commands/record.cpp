@@ -112,7 +112,7 @@ private:
 };
 
 void record_from_file(const RecordOptions &options, Recording &recording) {
-    const std::string content = read_file(options.from);
+    const std::string content = read_input(options.from);
     const std::string origin = shown_path(options.from);
     Receiver receiver(options.tracked, Via::handle);
     for (const Frame &frame : split_frames(bytes_of(content), origin)) {

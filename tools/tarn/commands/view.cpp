@@ -15,11 +15,12 @@ namespace {
 
 struct ViewOptions {
     std::string a, b, output = "-";
+    From from = From::detect;
     bool tracked = false, lenient = false;
 };
 
 ViewedFile load_frames(const std::string &path, const ViewOptions &options) {
-    std::string content = read_file(path);
+    std::string content = read_input(path, options.from);
     const std::string origin = shown_path(path);
     if (form_of(content, origin) != Form::frames) {
         const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
@@ -47,6 +48,7 @@ void add_view(CLI::App &app, Context &) {
     command->add_option("b", options->b, "Second file; the page shows the difference")->type_name(words::file_b);
     add_output(*command, options->output, "Output file");
     command->add_flag("--tracked", options->tracked, "Convert XML and JSON to frames with per-field state");
+    add_from(*command, options->from);
     add_lenient(*command, options->lenient);
     command->footer(
         "The page is a single file and needs no network. Hovering over a member highlights\n"

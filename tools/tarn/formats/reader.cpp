@@ -2,6 +2,7 @@
 
 #include "schema/frame.h"
 #include "tools/tarn/formats/frames.h"
+#include "tools/tarn/formats/hex_dump.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/xml.h"
 #include "tools/tarn/support/failure.h"
@@ -26,6 +27,12 @@ std::vector<Item> from_xml(const Handles &handles, std::string_view content, con
 }
 
 }  // namespace
+
+std::string read_input(const std::string &path, From from) {
+    std::string content = read_file(path);
+    if (from == From::hex || looks_like_hex(content)) return bytes_of_hex(content, shown_path(path));
+    return content;
+}
 
 Form form_of(std::string_view content, const std::string &origin) {
     if (content.substr(0, 3) == "\xEF\xBB\xBF") content.remove_prefix(3);
@@ -56,9 +63,9 @@ std::vector<Item> items_of(const Handles &handles, std::string_view content, con
     return from_json(handles, content, origin, lenient);
 }
 
-std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient) {
+std::vector<Item> read_items(const Handles &handles, const std::string &path, bool lenient, From from) {
     const std::string origin = shown_path(path);
-    std::vector<Item> items = items_of(handles, read_file(path), origin, lenient);
+    std::vector<Item> items = items_of(handles, read_input(path, from), origin, lenient);
     if (items.empty()) throw Failure(Exit::input, origin + ": no message");
     return items;
 }

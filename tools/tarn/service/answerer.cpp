@@ -75,7 +75,7 @@ std::vector<Item> Answerer::read(const Handles &handles, const std::string &cont
 
 void Answerer::add(const reflect::BundleOperations &bundle, const std::string &path, bool lenient) {
     Snapshot snapshot;
-    const std::string content = read_file(path);
+    const std::string content = read_input(path);
     for (const Handles *handles : {&plain_, &tracked_}) {
         std::vector<Item> &items = handles == &tracked_ ? snapshot.tracked : snapshot.plain;
         items = read(*handles, content, shown_path(path), lenient);

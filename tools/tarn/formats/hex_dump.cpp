@@ -1,0 +1,199 @@
+#include "tools/tarn/formats/hex_dump.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <optional>
+
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+namespace {
+
+constexpr std::string_view line_blanks = " \t\r";
+
+bool is_digit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
+
+std::size_t digits_at(std::string_view text) {
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), is_digit) - text.begin());
+}
+
+std::string_view without_blanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(line_blanks);
+    return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+void skip_blanks(std::string_view &text) { text = without_blanks(text); }
+
+std::uint64_t number_of(std::string_view digits) {
+    std::uint64_t value = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+    return value;
+}
+
+// What stands before the bytes of a line.
+struct Front {
+    std::optional<std::uint64_t> offset;
+    bool is_address = false;  // in the memory of a process, so that the first one is not 0
+    std::string_view rest;
+};
+
+// "00000010: " (xxd), "00000010  " (hexdump, tshark), "0x7ffe10 <buffer+16>:" (gdb), or nothing.
+Front front_of(std::string_view line) {
+    const bool prefixed = line.starts_with("0x");
+    const std::string_view text = line.substr(prefixed ? 2 : 0);
+    const std::size_t digits = digits_at(text);
+    std::string_view rest = text.substr(digits);
+    if (digits == 0 || digits > 16) return {std::nullopt, false, line};
+    const std::uint64_t offset = number_of(text.substr(0, digits));
+    if (prefixed) {
+        if (const std::string_view symbol = without_blanks(rest); symbol.starts_with('<')) {
+            rest = symbol.substr(std::min(symbol.find('>'), symbol.size() - 1) + 1);
+        }
+        if (rest.starts_with(':')) return {offset, true, rest.substr(1)};
+    } else if (digits >= 4) {
+        if (rest.starts_with(':')) return {offset, false, rest.substr(1)};
+        if (rest.starts_with("  ") || without_blanks(rest).empty()) {
+            return {offset, false, rest};
+        }
+    }
+    return {std::nullopt, false, line};
+}
+
+class DumpReader {
+public:
+    DumpReader(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
+
+    std::string run() {
+        while (!text_.empty()) {
+            const std::size_t end = std::min(text_.find('\n'), text_.size());
+            ++line_;
+            read_line(without_blanks(text_.substr(0, end)));
+            text_.remove_prefix(std::min(end + 1, text_.size()));
+        }
+        if (out_.empty()) fail("no bytes");
+        return std::move(out_);
+    }
+
+private:
+    [[noreturn]] void fail(const std::string &reason) const {
+        throw Failure(Exit::input, origin_ + ": line " + std::to_string(line_) + ": " + reason);
+    }
+
+    void read_line(std::string_view line) {
+        if (line.empty()) return;
+        if (in_array_) return read_array(line);
+        // What tshark prints before the bytes of each of several sources.
+        if (line.find(" bytes):") != std::string_view::npos) return;
+        if (line.front() == '*' && without_blanks(line.substr(1)).empty()) {
+            is_repeated_ = true;
+            return;
+        }
+        const Front front = front_of(line);
+        // Digits alone are an offset only at the end of a dump; elsewhere they are bytes.
+        if (front.offset && (has_offsets_ || !without_blanks(front.rest).empty())) {
+            has_offsets_ = true;
+            go_to(front);
+            // hexdump separates the halves of a line by two line_blanks; its characters follow a bar in a fixed column.
+            constexpr std::size_t bar = 52;
+            const bool is_hexdump = front.rest.starts_with("  ") && front.rest.size() > bar && front.rest[bar] == '|';
+            return is_hexdump ? read_bytes(front.rest.substr(0, bar), true) : read_bytes(front.rest, false);
+        }
+        if (line.find('{') != std::string_view::npos) return read_array(line.substr(line.find('{') + 1));
+        // The size of the array, which "xxd -i" prints behind it.
+        if (array_has_ended_ && (line.front() == ';' || line.starts_with("unsigned int "))) return;
+        read_bytes(line, true);
+    }
+
+    // A dump that begins anew, as each packet of a capture does, continues the bytes.
+    void go_to(const Front &front) {
+        if (front.is_address && !base_) base_ = *front.offset;
+        const std::uint64_t offset = *front.offset - base_.value_or(0);
+        const std::uint64_t here = out_.size() - begin_;
+        if (is_repeated_ && offset > here && last_size_ != 0 && (offset - here) % last_size_ == 0) {
+            constexpr std::uint64_t most = std::uint64_t{1} << 30;
+            if (offset > most) fail("the repeated bytes would be more than 1 GiB");
+            const std::string last = out_.substr(out_.size() - last_size_);
+            while (out_.size() - begin_ < offset) out_ += last;
+        } else if (offset == 0 && !front.is_address) {
+            begin_ = out_.size();
+        } else if (offset != here) {
+            fail("the offset is " + std::to_string(offset) + ", but " + std::to_string(here) + " bytes precede it");
+        }
+        is_repeated_ = false;
+    }
+
+    // Groups of digits, all of them or up to the column of characters, which follows at least two line_blanks.
+    void read_bytes(std::string_view line, bool all) {
+        const std::size_t before = out_.size();
+        for (skip_blanks(line); !line.empty();) {
+            if (line.starts_with("0x")) line.remove_prefix(2);
+            const std::size_t digits = digits_at(line);
+            if (digits == 0 || digits % 2 != 0) fail("expected two hexadecimal digits for each byte");
+            for (std::size_t i = 0; i < digits; i += 2) out_ += static_cast<char>(number_of(line.substr(i, 2)));
+            line.remove_prefix(digits);
+            const std::string_view rest = without_blanks(line);
+            if (line.starts_with("  ") && !all) break;
+            if (line.size() == rest.size() && !rest.empty() && rest.front() != ',')
+                fail("expected a hexadecimal digit");
+            line = rest;
+            if (line.starts_with(',')) line.remove_prefix(1);
+            skip_blanks(line);
+        }
+        last_size_ = out_.size() - before;
+    }
+
+    // "unsigned char frame[] = {", "0x50, 0x01, ...", "};"
+    void read_array(std::string_view line) {
+        in_array_ = true;
+        for (skip_blanks(line); !line.empty(); skip_blanks(line)) {
+            if (line.starts_with("//")) return;
+            if (line.front() == '}') {
+                in_array_ = false;
+                array_has_ended_ = true;
+                return;
+            }
+            if (line.front() == ',') {
+                line.remove_prefix(1);
+                continue;
+            }
+            if (!line.starts_with("0x") && !line.starts_with("0X")) fail("expected a number such as 0x50");
+            line.remove_prefix(2);
+            const std::size_t digits = digits_at(line);
+            if (digits == 0 || digits > 2) fail("expected a byte of one or two hexadecimal digits");
+            out_ += static_cast<char>(number_of(line.substr(0, digits)));
+            line.remove_prefix(digits);
+        }
+    }
+
+    std::string_view text_;
+    const std::string &origin_;
+    std::string out_;
+    std::size_t line_ = 0;
+    std::size_t begin_ = 0;      // of the current dump in the bytes
+    std::size_t last_size_ = 0;  // of the last line in bytes, which "*" repeats
+    std::optional<std::uint64_t> base_;
+    bool has_offsets_ = false, is_repeated_ = false, in_array_ = false, array_has_ended_ = false;
+};
+
+}  // namespace
+
+bool looks_like_hex(std::string_view text) {
+    // Enough for a line of any dump. A frame is longer than that only as a run of digits, of which an even number is
+    // tried.
+    constexpr std::size_t enough = 4096;
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    const std::string_view line = text.substr(0, std::min(text.find('\n'), enough));
+    if (line.find("[] = {") != std::string_view::npos) return true;
+    if (line.empty() || !is_digit(line.front())) return false;
+    try {
+        return !bytes_of_hex(line.substr(0, line.size() == enough ? enough - enough % 2 : line.size()), {}).empty();
+    } catch (const Failure &) {
+        return false;
+    }
+}
+
+std::string bytes_of_hex(std::string_view text, const std::string &origin) { return DumpReader(text, origin).run(); }
+
+}  // namespace tarn::tool
