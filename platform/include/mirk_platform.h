@@ -397,7 +397,7 @@ typedef uint64_t mirk_platform_peer;
 typedef struct mirk_platform_server_options {
     size_t size;            /**< bytes of this structure; set by the initializer */
     uint32_t frame_limit;   /**< bytes; a peer that sends a longer frame is disconnected; default 16 MiB */
-    uint32_t peer_limit;    /**< number of connected peers; further peers are refused; default 64 */
+    uint32_t peer_limit;    /**< number of connected peers, see origin_share; default 64 */
     uint32_t idle_ms;       /**< a peer without traffic for this long is disconnected; 0: never; default 60000 */
     uint64_t pending_limit; /**< bytes queued for one peer; beyond it the peer is disconnected; default 64 MiB */
     uint32_t socket_mode;   /**< access rights of the socket file, regardless of the umask; default 0600 */
@@ -416,8 +416,9 @@ typedef struct mirk_platform_server_options {
     /** Time limit in milliseconds for writing the bytes of one mirk_platform_server_send() to the socket, from when
      * they reach the head of the queue; a slower peer is disconnected; 0: no limit; default 60000. */
     uint32_t answer_ms;
-    /** Bytes queued for all peers together; default 256 MiB. Beyond it the peer with the most queued bytes is
-     * disconnected. A value below pending_limit means pending_limit. */
+    /** Memory for what is queued for all peers together, in bytes; see origin_share; default 256 MiB. Each
+     * mirk_platform_server_send() takes 128 bytes more than its size until all of it is sent. A value that is too small
+     * for pending_limit means pending_limit. */
     uint64_t total_pending_limit;
     /** A peer exceeded a limit or sent something other than a frame. Nothing can be sent to it any more; on_disconnect
      * follows. May be null.
@@ -425,6 +426,22 @@ typedef struct mirk_platform_server_options {
      * Also called for a peer that is refused because of peer_limit; it gets no other callback. Called once with peer 0
      * when accepting connections starts to fail, for example when descriptors run out. */
     void (*on_refused)(void *user, mirk_platform_server *server, mirk_platform_peer peer, const char *reason);
+    /** Percentage of peer_limit and of total_pending_limit that the peers of one origin may use together; default 100,
+     * at least one peer and pending_limit. An origin is a user on a socket file, an address over TCP, and a network of
+     * 64 bits over IPv6.
+     *
+     * Beyond total_pending_limit, or its share, a peer that does not read is disconnected; see stall_ms. If all read,
+     * it is one that reads. In both cases it belongs to the origin with the most queued bytes, and has read nothing for
+     * the longest time.
+     *
+     * Beyond peer_limit, or its share, a new peer takes the place of a silent peer, to which nothing is queued, or else
+     * of a peer that does not read. It belongs to the origin with the most such peers, and has been silent for the
+     * longest time. If there is none, the new peer is refused. The peer that has to go is sent a refusal
+     * (mirk_platform_refusal_encode()) with EUSERS. */
+    uint32_t origin_share;
+    /** A peer that has taken nothing of what is queued for it for this many milliseconds does not read; 0: all do;
+     * default 1000. */
+    uint32_t stall_ms;
 } mirk_platform_server_options;
 
 /** Sets the size and all defaults. Call this before setting members. */
@@ -457,8 +474,9 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open_tcp(const char *
 /** Returns where the server listens: the path of its socket file, or address and port such as "127.0.0.1:28276". Valid
  * until the server is closed. */
 MIRK_PLATFORM_API const char *mirk_platform_server_place(const mirk_platform_server *server);
-/** Serves until mirk_platform_server_stop() is called. All callbacks run on the calling thread. When stopped, sends
- * what the sockets accept without blocking, and disconnects all peers. Call it once per server. */
+/** Serves until mirk_platform_server_stop() is called. All callbacks run on the calling thread. A peer that has closed
+ * its sending side gets what is queued for it before it is disconnected. When stopped, sends what the sockets accept
+ * without blocking, and disconnects all peers. Call it once per server. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_server *server);
 /** Stops the server. May be called from any thread and from a signal handler. A later mirk_platform_server_run()
  * returns immediately. */
@@ -470,6 +488,20 @@ MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
  * peer has been disconnected. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer,
                                                                 const void *bytes, size_t size);
+/** Releases what a program has lent to a server. */
+typedef void (*mirk_platform_release)(void *owner);
+/** Queues bytes for a peer without copying them. They must not change until `release` is called with `owner`: exactly
+ * once, also after an error, possibly before this function returns, and at the latest by mirk_platform_server_close().
+ * Bytes that several peers wait for, with the same address and size, count once toward total_pending_limit. Otherwise
+ * like mirk_platform_server_send(). */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send_shared(mirk_platform_server *server,
+                                                                       mirk_platform_peer peer, const void *bytes,
+                                                                       size_t size, mirk_platform_release release,
+                                                                       void *owner);
+/** Returns the origin of a peer as text: "user 1000", "address 192.0.2.1" or "network 2001:db8::/64"; see origin_share.
+ * Valid until the callback returns; null for an unknown peer. Call it only from a callback; those of a disconnected or
+ * refused peer still know it. */
+MIRK_PLATFORM_API const char *mirk_platform_server_origin(const mirk_platform_server *server, mirk_platform_peer peer);
 /** Disconnects a peer after sending what is queued for it; its further frames are ignored. Call it only from a
  * callback. May call on_disconnect before it returns. `reason` goes to on_disconnect and the trace; null means
  * "disconnected by the program". An unknown peer is ignored. */

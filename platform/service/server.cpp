@@ -13,13 +13,17 @@
 
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <deque>
+#include <optional>
 #include <sstream>
+#include <tuple>
 #include <utility>
 
 #include "platform/contract/handle.hpp"
 #include "platform/contract/options.hpp"
 #include "platform/service/inbox.hpp"
+#include "platform/service/origin.hpp"
 #include "platform/service/tcp_address.hpp"
 
 using Socket = mirk::StreamProtocol::socket;
@@ -29,6 +33,21 @@ using Clock = std::chrono::steady_clock;
 namespace {
 
 class Connection;
+
+// Why a peer should go before others when something runs out: those with the lowest rank go first, of these one from
+// the origin whose claims weigh most, and of these the oldest.
+struct Claim {
+    unsigned rank;
+    uint64_t weight;
+    Clock::time_point since;
+};
+
+// A peer in its last callbacks, which may disconnect further peers.
+struct Leaving {
+    mirk_platform_peer peer;
+    const mirk::Origin &origin;
+    const Leaving *outer;
+};
 
 // Removes the socket file that this server bound, unless another file has replaced it.
 struct SocketFile {
@@ -67,12 +86,19 @@ struct mirk_platform_server {
 
     // Notifies the program that a peer exceeded a limit or could not be accepted.
     void notify_refused(mirk_platform_peer peer, const char *reason);
-    // Enforces total_pending_limit: disconnects the peer with the most unread bytes until `size` more bytes fit.
-    void make_room_for(size_t size);
-    uint64_t total_pending_limit() const { return std::max(options.total_pending_limit, options.pending_limit); }
+    std::shared_ptr<mirk::Origin> origin_of(Socket &socket);
+    // Enforce the limits on memory and on peers, and the shares of an origin in both, by disconnecting peers.
+    void make_room_for(const mirk::Chunk &chunk, const mirk::Origin &origin);
+    // The new peer counts for its origin already. Returns an empty text, or the reason why there is no place.
+    std::string make_place_for_peer_of(const mirk::Origin &origin);
+    std::shared_ptr<Connection> first_to_go(std::optional<Claim> (Connection::*claim)(Clock::time_point now),
+                                            const mirk::Origin *within);
+    uint64_t total_pending_limit() const;
+    uint64_t share_of(uint64_t limit) const;
 
     mirk_platform_server_options options;
-    uint64_t total_pending = 0;
+    mirk::Held held;
+    std::unordered_map<std::string, std::weak_ptr<mirk::Origin>> origins;  // of connected peers
     bool accepting = true;  // false between a failed accept and the next successful one
     asio::io_context context{1};
     asio::basic_socket_acceptor<mirk::StreamProtocol> acceptor{context};
@@ -84,6 +110,7 @@ struct mirk_platform_server {
     SocketFile file;
     mirk_platform_peer last_peer = 0;
     std::unordered_map<mirk_platform_peer, std::shared_ptr<Connection>> connections;
+    const Leaving *leaving = nullptr;
 };
 
 namespace {
@@ -95,40 +122,56 @@ Clock::time_point deadline_after(Clock::time_point from, uint32_t ms) {
 
 class Connection : public std::enable_shared_from_this<Connection> {
 public:
-    Connection(mirk_platform_server &server, mirk_platform_peer peer, Socket socket)
+    Connection(mirk_platform_server &server, mirk_platform_peer peer, Socket socket,
+               std::shared_ptr<mirk::Origin> origin)
         : server_(server),
           peer_(peer),
           socket_(std::move(socket)),
+          origin_(std::move(origin)),
           timer_(server.context),
-          inbox_(server.options.frame_limit) {}
+          inbox_(server.options.frame_limit) {
+        ++origin_->peers;
+    }
 
     void start() {
         set_timer();
         read();
     }
 
-    mirk_platform_error send(const void *bytes, size_t size) {
+    const mirk::Origin &origin() const { return *origin_; }
+
+    mirk_platform_error send(const mirk::Chunk &chunk) {
         if (closed_ || disconnecting_) return ENOTCONN;
-        if (size == 0) return 0;
-        if (pending_ + size > server_.options.pending_limit) {
+        if (chunk.size == 0) return 0;
+        if (pending_ + chunk.size > server_.options.pending_limit) {
             refuse("it left too many bytes unread");
             return ENOBUFS;
         }
-        server_.make_room_for(size);
+        server_.make_room_for(chunk, *origin_);
         if (closed_) return ENOBUFS;
-        const auto *from = static_cast<const char *>(bytes);
-        queue_.emplace_back(from, from + size);
-        pending_ += size;
-        server_.total_pending += size;
+        enqueue(chunk);
         if (queue_.size() == 1) {
-            front_since_ = Clock::now();
-            write();
+            front_since_ = last_taken_ = Clock::now();
+            is_full_ = reads_ = false;
+            wait_to_write();
             set_timer();
         }
         return 0;
     }
 
-    uint64_t pending() const { return pending_; }
+    // A peer that does not read has to go first; then one that has not had the time to; then one that reads.
+    std::optional<Claim> claim_on_memory(Clock::time_point now) {
+        if (queue_.empty()) return std::nullopt;
+        const unsigned rank = is_stalled(now) ? 0 : reads_ ? 2 : 1;
+        return Claim{rank, pending_, last_taken_};
+    }
+    // A silent peer has to go first, then one that does not read. Others keep their place.
+    std::optional<Claim> claim_on_place(Clock::time_point now) {
+        if (!queue_.empty()) return is_stalled(now) ? std::optional(Claim{1, 1, last_taken_}) : std::nullopt;
+        asio::error_code ignored;
+        if (socket_.available(ignored) != 0) return std::nullopt;  // its request has arrived
+        return Claim{0, 1, last_moved_};
+    }
 
     void disconnect_when_sent(const char *reason, uint32_t level = 7) {
         if (disconnecting_) return;
@@ -141,13 +184,23 @@ public:
     // Disconnects a peer that exceeded a limit or sent something other than a frame.
     void refuse(const char *reason) { close(3, reason, true); }
 
+    // Disconnects a peer that does nothing wrong but has to make place for another, or finds no place.
+    void turn_away() {
+        turn_away(queue_.empty() ? "silent while others waited for a place"
+                                 : "did not read while others waited for a place");
+    }
+    void turn_away(const char *reason) {
+        char frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+        const uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, EUSERS, reason, nullptr);
+        asio::error_code ignored;
+        if (queue_.empty()) socket_.write_some(asio::buffer(frame, size), ignored);
+        refuse(reason);
+    }
+
     // Sends what the socket accepts without blocking, then closes.
     void stop() {
         asio::error_code error;
-        socket_.non_blocking(true, error);
-        while (!queue_.empty() && !error) {
-            written(socket_.write_some(front(), error));
-        }
+        while (!queue_.empty() && !error) write_some(error);
         close(7, "the server stops");
     }
 
@@ -157,18 +210,22 @@ public:
         // The connection may own `reason`.
         const auto self = shared_from_this();
         // Removed before any callback, which could otherwise send to this peer and exceed the limit again.
-        server_.connections.erase(peer_);
-        server_.total_pending -= pending_;
-        pending_ = 0;
-        if (refused) server_.notify_refused(peer_, reason);
-        skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is disconnected: %s",
-                      level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_), reason);
-        if (server_.options.on_disconnect != nullptr) {
-            server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
-        }
+        const bool connected = server_.connections.erase(peer_) != 0;
+        while (!queue_.empty()) pop_front();
+        if (--origin_->peers == 0) server_.origins.erase(origin_->name);
         asio::error_code ignored;
         timer_.cancel();
         socket_.close(ignored);
+        const Leaving now{peer_, *origin_, server_.leaving};
+        const std::unique_ptr<const Leaving *, void (*)(const Leaving **)> until_the_end(
+            &(server_.leaving = &now), [](const Leaving **innermost) { *innermost = (*innermost)->outer; });
+        if (refused) server_.notify_refused(peer_, reason);
+        skald_wrapper(mirk::trace_module(), level, 0, "%speer %llu is %s: %s",
+                      level == 3 ? "(ERR): " : "(debug): ", static_cast<unsigned long long>(peer_),
+                      connected ? "disconnected" : "refused", reason);
+        if (connected && server_.options.on_disconnect != nullptr) {
+            server_.options.on_disconnect(server_.options.user, &server_, peer_, reason);
+        }
     }
 
 private:
@@ -236,38 +293,66 @@ private:
         }
     }
 
-    asio::const_buffer front() const {
-        return asio::buffer(queue_.front().data() + front_sent_, queue_.front().size() - front_sent_);
+    // Has no effect if allocation fails.
+    void enqueue(const mirk::Chunk &chunk) {
+        queue_.push_back(chunk);
+        try {
+            server_.held.add(chunk);
+            try {
+                origin_->held.add(chunk);
+            } catch (...) {
+                server_.held.remove(chunk);
+                throw;
+            }
+        } catch (...) {
+            queue_.pop_back();
+            throw;
+        }
+        pending_ += chunk.size;
     }
 
-    void written(size_t count) {
-        front_sent_ += count;
-        pending_ -= count;
-        server_.total_pending -= count;
-        if (front_sent_ == queue_.front().size()) {
-            queue_.pop_front();
-            front_sent_ = 0;
-            front_since_ = Clock::now();
+    void wait_to_write() {
+        socket_.async_wait(Socket::wait_write, [self = shared_from_this()](const asio::error_code &error) {
+            self->protect([&] { self->on_writable(error); });
+        });
+    }
+
+    void on_writable(asio::error_code error) {
+        if (closed_) return;
+        if (!error) write_some(error);
+        if (error && error != asio::error::would_block) return close(3, std::strerror(error.value()));
+        if (!queue_.empty()) {
+            wait_to_write();
+        } else if (disconnecting_) {
+            close(disconnect_level_, disconnect_reason_.c_str());
         }
     }
 
-    void write() {
-        socket_.async_write_some(front(), [self = shared_from_this()](const asio::error_code &error, size_t count) {
-            self->protect([&] {
-                if (self->closed_) return;
-                if (error) {
-                    self->close(3, std::strerror(error.value()));
-                    return;
-                }
-                self->last_moved_ = Clock::now();
-                self->written(count);
-                if (!self->queue_.empty()) {
-                    self->write();
-                } else if (self->disconnecting_) {
-                    self->close(self->disconnect_level_, self->disconnect_reason_.c_str());
-                }
-            });
-        });
+    void write_some(asio::error_code &error) {
+        const mirk::Chunk &front = queue_.front();
+        const size_t count =
+            socket_.write_some(asio::buffer(front.bytes.get() + front_sent_, front.size - front_sent_), error);
+        if (count == 0) return;
+        // Once the socket is full, it takes more only after the peer has read.
+        reads_ = reads_ || is_full_;
+        front_sent_ += count;
+        is_full_ = front_sent_ < front.size;
+        last_taken_ = last_moved_ = Clock::now();
+        if (!is_full_) pop_front();
+    }
+
+    void pop_front() {
+        const mirk::Chunk front = std::move(queue_.front());
+        queue_.pop_front();
+        pending_ -= front.size;
+        server_.held.remove(front);
+        origin_->held.remove(front);
+        front_sent_ = 0;
+        front_since_ = Clock::now();
+    }
+
+    bool is_stalled(Clock::time_point now) const {
+        return now >= deadline_after(last_taken_, server_.options.stall_ms);
     }
 
     // When this peer exceeds a time limit unless it makes progress.
@@ -310,12 +395,16 @@ private:
     mirk_platform_server &server_;
     mirk_platform_peer peer_;
     Socket socket_;
+    std::shared_ptr<mirk::Origin> origin_;
     asio::steady_timer timer_;
     Clock::time_point timer_at_ = Clock::time_point::max();
     mirk::Inbox inbox_;
-    std::deque<std::vector<char>> queue_;
+    std::deque<mirk::Chunk> queue_;
     size_t front_sent_ = 0;
-    uint64_t pending_ = 0;
+    uint64_t pending_ = 0;  // bytes of the queue
+    bool is_full_ = false;  // whether the socket has taken only a part of the front
+    bool reads_ = false;    // whether the peer has made room in a full socket
+    Clock::time_point last_taken_;
     Clock::time_point last_moved_ = Clock::now();
     Clock::time_point frame_since_, front_since_;
     bool frame_has_begun_ = false;
@@ -401,28 +490,83 @@ void mirk_platform_server::notify_refused(mirk_platform_peer peer, const char *r
     if (options.on_refused != nullptr) options.on_refused(options.user, this, peer, reason);
 }
 
-void mirk_platform_server::make_room_for(size_t size) {
-    while (!connections.empty() && total_pending + size > total_pending_limit()) {
-        const auto most = std::max_element(connections.begin(), connections.end(), [](const auto &a, const auto &b) {
-            return a.second->pending() < b.second->pending();
-        });
-        const auto connection = most->second;
-        if (connection->pending() == 0) return;
-        connection->refuse("all peers left too many bytes unread, and this one left the most");
+std::shared_ptr<mirk::Origin> mirk_platform_server::origin_of(Socket &socket) {
+    const std::string name = mirk::origin_name(socket, is_tcp);
+    auto &known = origins[name];
+    std::shared_ptr<mirk::Origin> origin = known.lock();
+    if (origin == nullptr) known = origin = std::make_shared<mirk::Origin>(mirk::Origin{name, 0, {}});
+    return origin;
+}
+
+uint64_t mirk_platform_server::share_of(uint64_t limit) const {
+    return options.origin_share < 100 ? limit / 100 * options.origin_share + limit % 100 * options.origin_share / 100
+                                      : limit;
+}
+
+uint64_t mirk_platform_server::total_pending_limit() const {
+    return std::max(options.total_pending_limit, options.pending_limit + mirk::Held::entry_cost);
+}
+
+std::shared_ptr<Connection> mirk_platform_server::first_to_go(
+    std::optional<Claim> (Connection::*claim)(Clock::time_point now), const mirk::Origin *within) {
+    std::vector<std::pair<std::shared_ptr<Connection>, Claim>> claims;
+    unsigned lowest = UINT_MAX;
+    const Clock::time_point now = Clock::now();
+    for (const auto &[peer, connection] : connections) {
+        if (within != nullptr && &connection->origin() != within) continue;
+        const std::optional<Claim> made = ((*connection).*claim)(now);
+        if (!made) continue;
+        claims.emplace_back(connection, *made);
+        lowest = std::min(lowest, made->rank);
     }
+    std::unordered_map<const mirk::Origin *, uint64_t> weights;
+    for (const auto &[connection, made] : claims) {
+        if (made.rank == lowest) weights[&connection->origin()] += made.weight;
+    }
+    const auto first = std::min_element(claims.begin(), claims.end(), [&](const auto &a, const auto &b) {
+        const auto order = [&](const auto &one) {
+            return std::tuple(one.second.rank, ~weights[&one.first->origin()], one.second.since);
+        };
+        return order(a) < order(b);
+    });
+    return first != claims.end() ? first->first : nullptr;
+}
+
+void mirk_platform_server::make_room_for(const mirk::Chunk &chunk, const mirk::Origin &origin) {
+    const uint64_t limit = total_pending_limit();
+    const uint64_t share = std::max(share_of(limit), options.pending_limit + mirk::Held::entry_cost);
+    for (;;) {
+        const bool all_exceed = held.bytes() + held.cost(chunk) > limit;
+        if (!all_exceed && origin.held.bytes() + origin.held.cost(chunk) <= share) return;
+        const auto connection = first_to_go(&Connection::claim_on_memory, all_exceed ? nullptr : &origin);
+        if (connection == nullptr) return;
+        connection->refuse(all_exceed ? "all peers left too many bytes unread, and this one reads slowest"
+                                      : "peers of its origin left too many bytes unread, and this one reads slowest");
+    }
+}
+
+std::string mirk_platform_server::make_place_for_peer_of(const mirk::Origin &origin) {
+    const bool all_exceed = connections.size() >= options.peer_limit;
+    if (!all_exceed && origin.peers <= std::max(share_of(options.peer_limit), uint64_t{1})) return {};
+    if (const auto connection = first_to_go(&Connection::claim_on_place, all_exceed ? nullptr : &origin)) {
+        connection->turn_away();
+        return {};
+    }
+    return "there are " +
+           (all_exceed ? std::to_string(connections.size()) + " peers"
+                       : std::to_string(origin.peers - 1) + " peers of " + origin.name) +
+           " already";
 }
 
 void mirk_platform_server::add_connection(Socket socket) {
     const mirk_platform_peer peer = ++last_peer;
-    if (connections.size() >= options.peer_limit) {
-        const std::string reason = "there are " + std::to_string(connections.size()) + " peers already";
-        skald_wrapper(mirk::trace_module(), 3, 0, "(ERR): peer %llu is refused: %s",
-                      static_cast<unsigned long long>(peer), reason.c_str());
-        notify_refused(peer, reason.c_str());
-        return;
-    }
+    asio::error_code ignored;
+    socket.non_blocking(true, ignored);
     if (is_tcp) mirk::set_no_delay(socket);
-    const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket));
+    const auto origin = origin_of(socket);
+    const auto connection = std::make_shared<Connection>(*this, peer, std::move(socket), origin);
+    const std::string reason = make_place_for_peer_of(*origin);
+    if (!reason.empty()) return connection->turn_away(reason.c_str());
     connections.emplace(peer, connection);
     if (options.on_connect != nullptr) options.on_connect(options.user, this, peer);
     if (connections.contains(peer)) connection->start();
@@ -483,6 +627,8 @@ mirk_platform_server_options default_options() {
     options.frame_ms = 10000;
     options.answer_ms = 60000;
     options.total_pending_limit = uint64_t{256} << 20;
+    options.origin_share = 100;
+    options.stall_ms = 1000;
     return options;
 }
 
@@ -497,6 +643,16 @@ mirk_platform_error open_server(const char *address, mirk_platform_error (mirk_p
         if (error == 0) error = (*opened.*listen)(address);
         if (error == 0) *server = opened.release();
         return error;
+    });
+}
+
+template <typename MakeChunk>
+mirk_platform_error send_chunk(mirk_platform_server *server, mirk_platform_peer peer, MakeChunk make_chunk) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        const auto found = server->connections.find(peer);
+        if (found == server->connections.end()) return ENOTCONN;
+        const auto connection = found->second;
+        return connection->send(make_chunk());
     });
 }
 
@@ -539,12 +695,30 @@ void mirk_platform_server_stop(mirk_platform_server *server) {
 
 mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer, const void *bytes,
                                               size_t size) {
-    return mirk::guarded([&]() -> mirk_platform_error {
-        const auto found = server->connections.find(peer);
-        if (found == server->connections.end()) return ENOTCONN;
-        const auto connection = found->second;
-        return connection->send(bytes, size);
+    return send_chunk(server, peer, [&] {
+        std::shared_ptr<char> copy(new char[size], std::default_delete<char[]>());
+        std::memcpy(copy.get(), bytes, size);
+        return mirk::Chunk{copy, size, false};
     });
+}
+
+mirk_platform_error mirk_platform_server_send_shared(mirk_platform_server *server, mirk_platform_peer peer,
+                                                     const void *bytes, size_t size, mirk_platform_release release,
+                                                     void *owner) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        // Calls `release` even if its own allocation fails.
+        const std::shared_ptr<const char> shared(static_cast<const char *>(bytes),
+                                                 [release, owner](const char *) { release(owner); });
+        return send_chunk(server, peer, [&] { return mirk::Chunk{shared, size, true}; });
+    });
+}
+
+const char *mirk_platform_server_origin(const mirk_platform_server *server, mirk_platform_peer peer) {
+    const auto connected = server->connections.find(peer);
+    if (connected != server->connections.end()) return connected->second->origin().name.c_str();
+    const Leaving *left = server->leaving;
+    while (left != nullptr && left->peer != peer) left = left->outer;
+    return left != nullptr ? left->origin.name.c_str() : nullptr;
 }
 
 void mirk_platform_server_disconnect(mirk_platform_server *server, mirk_platform_peer peer, const char *reason) {

@@ -1,3 +1,5 @@
+#include <arpa/inet.h>
+#include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -23,9 +25,11 @@ std::string frame(size_t length, char fill) {
 // A server that returns every frame to its sender; runs on its own thread.
 class Echo {
 public:
-    explicit Echo(mirk_platform_server_options options = defaults()) {
+    using OnFrame = decltype(mirk_platform_server_options::on_frame);
+
+    explicit Echo(mirk_platform_server_options options = defaults(), OnFrame on_frame = echo) {
         path = "/tmp/mirk_transport_" + std::to_string(getpid()) + "_" + std::to_string(++number);
-        options.on_frame = echo;
+        options.on_frame = on_frame;
         options.on_disconnect = gone;
         options.user = this;
         EXPECT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
@@ -52,7 +56,6 @@ public:
     std::atomic<int> frames = 0, peers_gone = 0;
     mirk_platform_server *server = nullptr;
 
-private:
     static void echo(void *user, mirk_platform_server *server, mirk_platform_peer peer, void *bytes, uint32_t size) {
         static_cast<char *>(bytes)[size] = 'S';  // the guard byte is writable and not part of the next frame
         if (static_cast<char *>(bytes)[size - 1] == 'Q') {
@@ -63,6 +66,8 @@ private:
         mirk_platform_server_send(server, peer, bytes, size);
         ++static_cast<Echo *>(user)->frames;
     }
+
+private:
     static void gone(void *user, mirk_platform_server *, mirk_platform_peer, const char *reason) {
         static_cast<Echo *>(user)->reasons.emplace_back(reason);
         ++static_cast<Echo *>(user)->peers_gone;
@@ -99,6 +104,14 @@ public:
         std::string bytes;
         const uint32_t error = receive(&bytes);
         return error == 0 ? bytes : strerrorname_np(static_cast<int>(error));
+    }
+
+    // The sentence of a refusal and the name of its error.
+    std::string refusal() {
+        const std::string bytes = next();
+        mirk_platform_request reply;
+        if (mirk_platform_request_decode(bytes.data(), bytes.size(), &reply) != 0) return "no refusal";
+        return std::string(reply.sentence) + " (" + strerrorname_np(static_cast<int>(reply.number)) + ")";
     }
 
     mirk_platform_client *client = nullptr;
@@ -170,17 +183,59 @@ TEST(Transport, LimitsFramesOnBothSides) {
     EXPECT_EQ(echo.reasons[0], "its frame exceeds the limit");
 }
 
+// A silent peer would have to make place, so the first one leaves a frame unread.
 TEST(Transport, RefusesPeersBeyondTheLimit) {
     auto options = Echo::defaults();
     options.peer_limit = 1;
+    options.stall_ms = 0;
     test::Trace trace;
     Echo echo(options);
     Client first(echo.path);
-    first.send(frame(43, 'a'));
-    EXPECT_EQ(first.next(), frame(43, 'a'));
+    first.send(frame(4000000, 'a'));
+    wait_for(echo.frames, 1);
     Client second(echo.path);
+    EXPECT_EQ(second.refusal(), "there are 1 peers already (EUSERS)");
     EXPECT_EQ(second.next(), "ECONNRESET");
+    EXPECT_EQ(first.next(), frame(4000000, 'a'));
     EXPECT_TRUE(trace.has(3, "is refused: there are 1 peers already"));
+}
+
+TEST(Transport, TheOldestSilentPeerMakesPlace) {
+    auto options = Echo::defaults();
+    options.peer_limit = 2;
+    test::Trace trace;
+    Echo echo(options);
+    Client first(echo.path), second(echo.path);
+    for (Client *each : {&second, &first}) {
+        each->send(frame(43, 'a'));
+        EXPECT_EQ(each->next(), frame(43, 'a'));
+    }
+    Client third(echo.path);
+    third.send(frame(43, 'c'));
+    EXPECT_EQ(third.next(), frame(43, 'c'));
+    EXPECT_EQ(second.refusal(), "silent while others waited for a place (EUSERS)");
+    EXPECT_EQ(second.next(), "ECONNRESET");
+    first.send(frame(43, 'f'));
+    EXPECT_EQ(first.next(), frame(43, 'f'));
+}
+
+TEST(Transport, APeerThatDoesNotReadMakesPlaceIfNoneIsSilent) {
+    auto options = Echo::defaults();
+    options.peer_limit = 1;
+    options.stall_ms = 1;
+    test::Trace trace;
+    Echo echo(options);
+    Client first(echo.path);
+    first.send(frame(4000000, 'a'));
+    wait_for(echo.frames, 1);
+    for (;;) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        Client second(echo.path);
+        second.send(frame(43, 'b'));
+        if (second.next() == frame(43, 'b')) break;
+    }
+    echo.stop();
+    EXPECT_EQ(echo.refusals.back(), "1: did not read while others waited for a place");
 }
 
 TEST(Transport, DisconnectsIdlePeers) {
@@ -214,14 +269,15 @@ TEST(Transport, ReportsEachPeerThatExceededALimit) {
     test::Trace trace;
     auto options = Echo::defaults();
     options.peer_limit = 1;
-    options.frame_limit = 1000;
+    options.stall_ms = 0;
+    options.frame_limit = 4000000;
     Echo echo(options);
     Client first(echo.path);
-    first.send(frame(43, 'a'));
-    EXPECT_EQ(first.next(), frame(43, 'a'));
+    first.send(frame(4000000, 'a'));
+    wait_for(echo.frames, 1);
     Client second(echo.path);
-    EXPECT_EQ(second.next(), "ECONNRESET");
-    first.send(frame(1001, 'x').substr(0, 43));
+    EXPECT_EQ(second.refusal(), "there are 1 peers already (EUSERS)");
+    first.send(frame(4000001, 'x').substr(0, 43));
     EXPECT_EQ(first.next(), "ECONNRESET");
     echo.stop();
     EXPECT_EQ(echo.refusals,
@@ -281,7 +337,7 @@ TEST(Transport, LimitsTheTimeToReadAnAnswer) {
     EXPECT_EQ(echo.refusals, (std::vector<std::string>{"1: it took too long to read an answer"}));
 }
 
-TEST(Transport, DisconnectsThePeerWithTheMostUnreadData) {
+TEST(Transport, DisconnectsThePeerThatReadsSlowestIfMemoryRunsOut) {
     test::Trace trace;
     auto options = Echo::defaults();
     options.pending_limit = 3000000;
@@ -296,7 +352,84 @@ TEST(Transport, DisconnectsThePeerWithTheMostUnreadData) {
     EXPECT_EQ(little.next(), frame(1500000, 'l'));
     echo.stop();
     EXPECT_EQ(echo.refusals,
-              (std::vector<std::string>{"1: all peers left too many bytes unread, and this one left the most"}));
+              (std::vector<std::string>{"1: all peers left too many bytes unread, and this one reads slowest"}));
+}
+
+TEST(Transport, CountsMemoryUntilTheWholeFrameIsSent) {
+    test::Trace trace;
+    auto options = Echo::defaults();
+    options.pending_limit = 3000000;
+    options.total_pending_limit = 4000000;
+    Echo echo(options);
+    Client first(echo.path), second(echo.path);
+    // The socket takes a part of the frame, which stays in memory.
+    first.send(frame(2000000, 'a'));
+    wait_for(echo.frames, 1);
+    second.send(frame(2000000, 'b'));
+    wait_for(echo.frames, 2);
+    echo.stop();
+    EXPECT_EQ(echo.refusals,
+              (std::vector<std::string>{"1: all peers left too many bytes unread, and this one reads slowest"}));
+}
+
+// Each peer is sent the same bytes instead of an echo.
+TEST(Transport, SharedBytesCountOnceAndAreReleasedForEachPeer) {
+    static const std::string shared = frame(2000000, 's');
+    static std::atomic<int> sent, released;
+    sent = released = 0;
+    {
+        auto options = Echo::defaults();
+        options.pending_limit = 2000000;
+        options.total_pending_limit = 2100000;
+        Echo echo(options, [](void *, mirk_platform_server *server, mirk_platform_peer peer, void *, uint32_t) {
+            EXPECT_EQ(mirk_platform_server_send_shared(
+                          server, peer, shared.data(), shared.size(),
+                          [](void *count) { ++*static_cast<std::atomic<int> *>(count); }, &released),
+                      0u);
+            ++sent;
+        });
+        std::vector<std::unique_ptr<Client>> clients;
+        for (int i = 0; i < 5; ++i) {
+            clients.push_back(std::make_unique<Client>(echo.path));
+            clients.back()->send(frame(43, 'r'));
+        }
+        wait_for(sent, 5);
+        EXPECT_EQ(clients[0]->next(), shared);
+        EXPECT_EQ(clients[1]->next(), shared);
+        clients[2].reset();
+        wait_for(released, 3);
+        echo.stop();
+        EXPECT_EQ(echo.refusals, std::vector<std::string>{});
+    }
+    EXPECT_EQ(released, 5);
+}
+
+TEST(Transport, KnowsTheOriginOfPeersUntilTheirLastCallback) {
+    static std::vector<std::string> origins;
+    origins.clear();
+    test::Trace trace;
+    auto options = Echo::defaults();
+    const auto note = [](mirk_platform_server *server, mirk_platform_peer peer) {
+        const char *origin = mirk_platform_server_origin(server, peer);
+        origins.emplace_back(origin != nullptr ? origin : "none");
+    };
+    static const auto add = note;
+    options.on_connect = [](void *, mirk_platform_server *server, mirk_platform_peer peer) {
+        add(server, peer);
+        add(server, peer + 1);
+    };
+    options.on_refused = [](void *, mirk_platform_server *server, mirk_platform_peer peer, const char *) {
+        add(server, peer);
+    };
+    Echo echo(options);
+    {
+        Client client(echo.path);
+        client.send("garbage");
+        EXPECT_EQ(client.next(), "ECONNRESET");
+    }
+    echo.stop();
+    const std::string user = "user " + std::to_string(getuid());
+    EXPECT_EQ(origins, (std::vector<std::string>{user, "none", user}));
 }
 
 TEST(Transport, AProgramWithFewerOptionsHasTheDefaultsOfTheOthers) {
@@ -446,9 +579,11 @@ namespace {
 // The same over TCP, on a port that the system chooses.
 class TcpEcho {
 public:
-    explicit TcpEcho(const char *address) {
-        mirk_platform_server_options options;
-        mirk_platform_server_options_init(&options);
+    explicit TcpEcho(const char *address, mirk_platform_server_options options = Echo::defaults()) {
+        options.on_refused = [](void *user, mirk_platform_server *, mirk_platform_peer peer, const char *reason) {
+            static_cast<TcpEcho *>(user)->refusals.push_back(std::to_string(peer) + ": " + reason);
+        };
+        options.user = this;
         options.on_frame = [](void *, mirk_platform_server *from, mirk_platform_peer peer, void *bytes, uint32_t size) {
             mirk_platform_server_send(from, peer, bytes, size);
         };
@@ -457,17 +592,45 @@ public:
         port = endpoint.substr(endpoint.rfind(':') + 1);
         thread = std::thread([this] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
     }
-    ~TcpEcho() {
+    ~TcpEcho() { stop(); }
+
+    void stop() {
+        if (!thread.joinable()) return;
         mirk_platform_server_stop(server);
         thread.join();
         mirk_platform_server_close(server);
     }
 
     std::string port;
+    std::vector<std::string> refusals;  // read them only after stop
 
 private:
     mirk_platform_server *server = nullptr;
     std::thread thread;
+};
+
+// A peer with one of the addresses of this machine, which sends a frame and reads the first byte of the echo.
+class PeerAt {
+public:
+    PeerAt(const char *address, const std::string &port, const std::string &bytes)
+        : descriptor_(socket(AF_INET, SOCK_STREAM, 0)) {
+        sockaddr_in at{};
+        at.sin_family = AF_INET;
+        EXPECT_EQ(inet_pton(AF_INET, address, &at.sin_addr), 1);
+        EXPECT_EQ(bind(descriptor_, reinterpret_cast<const sockaddr *>(&at), sizeof at), 0);
+        at.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        at.sin_port = htons(static_cast<uint16_t>(std::stoi(port)));
+        EXPECT_EQ(connect(descriptor_, reinterpret_cast<const sockaddr *>(&at), sizeof at), 0);
+        EXPECT_EQ(::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL), static_cast<ssize_t>(bytes.size()));
+        char first = 0;
+        EXPECT_EQ(recv(descriptor_, &first, 1, 0), 1);
+    }
+    PeerAt(const PeerAt &) = delete;
+    PeerAt &operator=(const PeerAt &) = delete;
+    ~PeerAt() { close(descriptor_); }
+
+private:
+    int descriptor_;
 };
 
 uint32_t open_tcp(const std::string &address, mirk_platform_client **client) {
@@ -492,6 +655,26 @@ TEST(Transport, CarriesFramesOverTcp) {
         }
         mirk_platform_client_close(client);
     }
+}
+
+// TCP buffers less than half of a frame.
+TEST(Transport, LimitsTheShareOfAnOriginInTheMemory) {
+    test::Trace trace;
+    auto options = Echo::defaults();
+    options.frame_limit = 24u << 20;
+    options.pending_limit = 24u << 20;
+    options.total_pending_limit = uint64_t{100} << 20;
+    options.origin_share = 25;
+    TcpEcho echo("127.0.0.1:0", options);
+    const std::string big = frame(24u << 20, 'x');
+    {
+        const PeerAt other("127.0.0.2", echo.port, big), first("127.0.0.1", echo.port, big),
+            second("127.0.0.1", echo.port, big);
+    }
+    echo.stop();
+    EXPECT_EQ(
+        echo.refusals,
+        (std::vector<std::string>{"2: peers of its origin left too many bytes unread, and this one reads slowest"}));
 }
 
 TEST(Transport, ATcpPortWithoutAHostIsLocal) {

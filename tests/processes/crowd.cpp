@@ -94,6 +94,19 @@ void Crowd::never_read(std::size_t clients) {
     }
 }
 
+void Crowd::never_read_refusals(std::size_t clients) {
+    std::string requests;
+    for (int i = 0; i < 3000; ++i) requests += tool_test::request("lumo_tarn_no_such_rsp");
+    for (std::size_t i = 0; i < clients; ++i) {
+        open_.push_back(connect());
+        open_.back().send(requests);
+    }
+}
+
+void Crowd::wait_for_answers() const {
+    for (const Socket &socket : open_) socket.receive(1);
+}
+
 void Crowd::close_oldest(std::size_t left) {
     while (open_.size() > left) open_.pop_front();
 }

@@ -49,6 +49,11 @@ public:
     void stall(std::size_t clients);
     // Send requests until the answers exceed the limit, and read nothing.
     void never_read(std::size_t clients);
+    // Request unknown bundles, and read none of the refusals. Unlike answers, these take memory for each peer: in all
+    // about half a megabyte.
+    void never_read_refusals(std::size_t clients);
+    // Waits until the server has begun to answer each open connection. None of them may read otherwise.
+    void wait_for_answers() const;
 
     // Closes the oldest open connections until at most `left` are open.
     void close_oldest(std::size_t left);

@@ -50,20 +50,24 @@ std::string frame_of_length(std::uint32_t length) {
     return bytes;
 }
 
-TEST_F(Limit, FurtherPeersAreDisconnected) {
-    serve({"--peers", "2"});
-    const std::size_t files = server_->process().open_files();
-    {
-        const Socket first = connect(), second = connect();
-        first.send(debug_request());
-        second.send(debug_request());
-        EXPECT_EQ(first.receive(answer_size).size(), answer_size);
-        EXPECT_EQ(second.receive(answer_size).size(), answer_size);
-        EXPECT_EQ(connect().receive(), "");
-    }
+// The two do not read, so they are not silent.
+TEST_F(Limit, FurtherPeersAreRefusedWithTheReason) {
+    LimitedServer limited({"--peers", "2", "--stall", "0", "--answer-time", "0", "--unread", "64MiB"});
+    ASSERT_TRUE(limited.is_ready());
+    const Process &process = limited.server().process();
+    const std::size_t files = process.open_files();
+    Crowd crowd(limited.server().socket(), limited.answer_size());
+    crowd.never_read(2);
+    crowd.wait_for_answers();
+    const Outcome refused = limited.server().show("dp-tt-cfg");
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_NE(refused.err.find(": refused: there are 2 peers already: Too many users (EUSERS)\n"), std::string::npos)
+        << refused.err;
+    EXPECT_TRUE(process.wait_for_error("tarn: peer 3 disconnected: there are 2 peers already\n"));
     // New peers are accepted as soon as the server has seen the two disconnect.
-    EXPECT_TRUE(server_->process().reaches_open_files(files));
-    expect_disconnected("there are 2 peers already");
+    crowd.close_oldest(0);
+    EXPECT_TRUE(process.reaches_open_files(files));
+    EXPECT_EQ(limited.server().show("dp-tt-cfg").exit, 0);
 }
 
 TEST_F(Limit, LongFramesAreDisconnected) {
@@ -146,12 +150,12 @@ TEST_F(Limit, APeerWithTooManyUnreadBytesIsDisconnected) {
 
 // Each of the four peers stays below the limit of one peer.
 TEST_F(Limit, TheTotalOfUnreadBytesIsLimited) {
-    LimitedServer limited({"--unread", "4MiB", "--unread-total", "4MiB", "--answer-time", "0"});
+    LimitedServer limited({"--unread", "1MiB", "--unread-total", "1MiB", "--answer-time", "0"});
     ASSERT_TRUE(limited.is_ready());
     Crowd crowd(limited.server().socket(), limited.answer_size());
-    crowd.never_read(4);
+    crowd.never_read_refusals(4);
     EXPECT_TRUE(limited.server().process().wait_for_error(
-        " disconnected: all peers left too many bytes unread, and this one left the most"));
+        " disconnected: all peers left too many bytes unread, and this one reads slowest"));
     EXPECT_EQ(limited.server().show("dp-tt-cfg").exit, 0);
 }
 

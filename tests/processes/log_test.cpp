@@ -74,7 +74,7 @@ protected:
 };
 
 TEST_F(StandardError, ThatNobodyReadsDoesNotStopTheService) {
-    serve("2>\"$PIPE\"");
+    serve("2>\"$PIPE\"", {"--log-rate", "0"});
     ASSERT_TRUE(server_->wait_for("answering on"));
     // A pipe takes 64 KiB, and so does the log; a line has more than 60 bytes.
     send_garbage(2500);
@@ -89,7 +89,7 @@ TEST_F(StandardError, ThatNobodyReadsDoesNotStopTheService) {
 }
 
 TEST_F(StandardError, ThatNobodyReadsDoesNotKeepTheProcessFromStopping) {
-    serve("2>\"$PIPE\"");
+    serve("2>\"$PIPE\"", {"--log-rate", "0"});
     ASSERT_TRUE(server_->wait_for("answering on"));
     send_garbage(1500);
     const Outcome end = server_->stop();
@@ -117,6 +117,19 @@ TEST_F(StandardError, AndOutputThatAreClosedDoNotStopTheService) {
     send_garbage(3);
     EXPECT_EQ(show().exit, 0);
     EXPECT_EQ(server_->stop().exit, 3);
+}
+
+TEST_F(StandardError, HasALimitedNumberOfLinesAboutPeersOfOneOrigin) {
+    serve("", {"--log-rate", "3"});
+    ASSERT_TRUE(server_->wait_for("answering on"));
+    // A second may end meanwhile, which allows three more lines.
+    send_garbage(200);
+    const Outcome end = server_->stop();
+    EXPECT_NE(end.out.find(", 200 peers disconnected\n"), std::string::npos) << end.out;
+    const std::string omitted = " lines about peers of user " + std::to_string(getuid()) + " were omitted\n";
+    const std::size_t lines = occurrences(end.err, " disconnected: it sent bytes that are not a frame\n");
+    EXPECT_EQ(lines, 3 * occurrences(end.err, omitted)) << end.err;
+    EXPECT_LE(lines, 60U);
 }
 
 TEST(StandardOutput, ThatIsClosedIsReported) {

@@ -1,5 +1,6 @@
 #include "process.h"
 
+#include <arpa/inet.h>
 #include <fcntl.h>
 #include <netinet/in.h>
 #include <spawn.h>
@@ -215,10 +216,12 @@ Socket Socket::connect_to(const std::string &path) {
     return socket;
 }
 
-Socket Socket::connect_to_port(const std::string &port) {
+Socket Socket::connect_to_port(const std::string &port, const std::string &from) {
     Socket socket(::socket(AF_INET, SOCK_STREAM, 0));
     sockaddr_in address{};
     address.sin_family = AF_INET;
+    require(inet_pton(AF_INET, from.c_str(), &address.sin_addr) == 1, "inet_pton");
+    require(bind(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "bind");
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<std::uint16_t>(std::stoi(port)));
     require(connect(socket.descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0, "connect");

@@ -100,7 +100,8 @@ private:
 class Socket {
 public:
     static Socket connect_to(const std::string &path);
-    static Socket connect_to_port(const std::string &port);  // of this machine
+    // Of this machine, from one of its addresses.
+    static Socket connect_to_port(const std::string &port, const std::string &from = "127.0.0.1");
     static Socket listen_on(const std::string &path);
     Socket(Socket &&other) noexcept : descriptor_(other.descriptor_) { other.descriptor_ = -1; }
     Socket &operator=(Socket &&) = delete;

@@ -53,7 +53,9 @@ void add_answer(CLI::App &app, Context &) {
     command->add_option("served", options->served, "A bundle, and the file with its messages as frames, XML or JSON")
         ->type_name(words::bundle_file)
         ->required();
-    command->add_option("--peers", options->peers, "Maximum number of peers; additional peers are disconnected")
+    command
+        ->add_option("--peers", options->peers,
+                     "Maximum number of peers; an additional peer takes the place of a silent one, or is refused")
         ->check(CLI::Range(1U, 1U << 20).description(""))
         ->capture_default_str();
     add_seconds(*command, "--idle", options->idle, "Disconnect a peer that is silent for longer; 0: never");
@@ -65,7 +67,25 @@ void add_answer(CLI::App &app, Context &) {
     add_size(*command, "--unread", options->unread,
              "Maximum size of the answers that one peer has not read yet, and thus of one answer", 1 << 10);
     add_size(*command, "--unread-total", options->unread_total,
-             "Maximum unread bytes of all peers, at least --unread; the peer with the most is disconnected", 1 << 10);
+             "Maximum memory for all answers that have not been read yet, at least --unread; beyond it the peer that "
+             "reads slowest is disconnected",
+             1 << 10);
+    command
+        ->add_option("--share", options->share,
+                     "Maximum share of one origin in --peers and --unread-total, in percent; an origin is a user of a "
+                     "socket, or an address")
+        ->check(CLI::Range(1U, 100U).description(""))
+        ->type_name("PERCENT")
+        ->capture_default_str();
+    add_seconds(*command, "--stall", options->stall,
+                "A peer that reads nothing for this long gives way to others that need its place or its memory; 0: "
+                "never");
+    command
+        ->add_option("--log-rate", options->log_rate,
+                     "Maximum number of lines per second on standard error about the peers of one origin; 0: no limit")
+        ->check(CLI::Range(0U, 1U << 20).description(""))
+        ->type_name("LINES")
+        ->capture_default_str();
     add_size(*command, "--snapshot-limit", options->snapshot_limit,
              "Maximum memory for the served messages, each kept with and without per-field state", 1 << 10);
     add_lenient(*command, options->lenient);

@@ -1,6 +1,7 @@
 #include "tools/tarn/service/answerer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "tools/tarn/formats/message.h"
 #include "tools/tarn/formats/reader.h"
@@ -98,12 +99,25 @@ std::vector<std::string> Answerer::names() const {
     return names;
 }
 
-Bytes Answerer::answer(const reflect::BundleOperations &bundle, bool tracked, std::uint32_t stamp, Fault fault) {
+std::shared_ptr<const Bytes> Answerer::answer(const reflect::BundleOperations &bundle, bool tracked, Fault fault) {
+    Snapshot &snapshot = snapshots_.at(&bundle);
+    std::weak_ptr<const Bytes> &last = tracked ? snapshot.tracked_answer : snapshot.plain_answer;
+    std::shared_ptr<const Bytes> answer = last.lock();
+    if (answer == nullptr) {
+        ++written_;
+        Bytes frames = write(bundle, tracked, fault);
+        frames.shrink_to_fit();
+        last = answer = std::make_shared<const Bytes>(std::move(frames));
+    }
+    return answer;
+}
+
+Bytes Answerer::write(const reflect::BundleOperations &bundle, bool tracked, Fault fault) const {
     Bytes frames;
     if (fault == Fault::silent) return frames;
     const Handle &handle = (tracked ? tracked_ : plain_).choose(tracked);
     const Snapshot &snapshot = snapshots_.at(&bundle);
-    mirk_platform_handle_set_message_stamp(handle.get(), stamp);
+    mirk_platform_handle_set_message_stamp(handle.get(), written_);
     OpenBundle open(handle, bundle, frames);
     if (fault == Fault::second_start) append(frames, second_start(bundle));
     if (fault == Fault::foreign) append(frames, foreign_frame(bundle));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,19 +25,23 @@ public:
     bool has(const reflect::BundleOperations &bundle) const { return snapshots_.count(&bundle) != 0; }
     std::vector<std::string> names() const;
 
-    // All frames of the answer, concatenated.
-    Bytes answer(const reflect::BundleOperations &bundle, bool tracked, std::uint32_t stamp, Fault fault);
+    // All frames of the answer, concatenated. An answer that is still in use is returned again. The stamp in the frames
+    // is the number of the answer, without those that were returned again.
+    std::shared_ptr<const Bytes> answer(const reflect::BundleOperations &bundle, bool tracked, Fault fault);
 
 private:
     struct Snapshot {
         std::vector<Item> plain, tracked;
+        std::weak_ptr<const Bytes> plain_answer, tracked_answer;
     };
 
+    Bytes write(const reflect::BundleOperations &bundle, bool tracked, Fault fault) const;
     std::vector<Item> read(const Handles &handles, const std::string &content, const std::string &path, bool lenient);
 
     std::uint64_t snapshot_limit_;
     Handles plain_{Tracking::off, snapshot_limit_}, tracked_{Tracking::on, snapshot_limit_};
     std::map<const reflect::BundleOperations *, Snapshot> snapshots_;
+    std::uint32_t written_ = 0;
 };
 
 }  // namespace tarn::tool

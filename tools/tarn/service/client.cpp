@@ -15,7 +15,7 @@ void require_no_refusal(FrameBytes frame, const std::string &origin) {
     if ((reply.options & MIRK_PLATFORM_REQUEST_REFUSED) == 0) {
         throw Failure(Exit::input, origin + ": the answer is a request");
     }
-    throw Failure(Exit::negative, origin + ": refused: " + reply.sentence + ": " + error_text(reply.number));
+    throw Failure(Exit::negative, origin + ": refused: " + printable(reply.sentence) + ": " + error_text(reply.number));
 }
 
 // The dispatcher delivers every well-formed frame; the requesting side checks that it belongs to the answer.
@@ -51,7 +51,16 @@ void Connection::request(const reflect::BundleOperations &bundle, bool tracked) 
     const std::string name(bundle.bundle->name);
     const std::uint8_t options = tracked ? MIRK_PLATFORM_REQUEST_TRACKED : 0;
     const std::uint32_t size = mirk_platform_request_encode(frame, sizeof frame, 0, name.c_str(), options, nullptr);
-    check(mirk_platform_client_send(client_, frame, size, deadline_.left_ms()), "cannot send the request");
+    const mirk_platform_error error = mirk_platform_client_send(client_, frame, size, deadline_.left_ms());
+    // A process that has no place for this peer refuses it without waiting for the request.
+    if (error == EPIPE || error == ECONNRESET) {
+        void *reply = nullptr;
+        std::uint32_t length = 0;
+        if (mirk_platform_client_receive(client_, &reply, &length, deadline_.left_ms()) == 0) {
+            require_no_refusal({static_cast<const std::uint8_t *>(reply), length}, name_);
+        }
+    }
+    check(error, "cannot send the request");
 }
 
 FrameBytes Connection::receive() {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstdio>
+#include <utility>
 
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -21,9 +22,28 @@ extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop);
 
 }  // namespace
 
+void Server::log(mirk_platform_peer peer, const std::string &line) {
+    const auto now = std::chrono::steady_clock::now();
+    if (now >= second_ends_) {
+        log_omitted();
+        second_ends_ = now + std::chrono::seconds(1);
+    }
+    const char *origin = mirk_platform_server_origin(server_, peer);
+    const unsigned lines = ++lines_[origin != nullptr ? origin : "unknown origin"];
+    if (options_.log_rate == 0 || lines <= options_.log_rate) log_.line(line);
+}
+
+void Server::log_omitted() {
+    for (const auto &[origin, lines] : std::exchange(lines_, {})) {
+        if (options_.log_rate == 0 || lines <= options_.log_rate) continue;
+        log_.line("tarn: " + std::to_string(lines - options_.log_rate) + " lines about peers of " + origin +
+                  " were omitted");
+    }
+}
+
 // Only with --verbose. Peers that exceed a limit or send invalid bytes are always reported; see log_disconnected().
 void Server::log_event(mirk_platform_peer peer, const std::string &event) {
-    if (options_.verbose) log_.line("peer " + std::to_string(peer) + ": " + event);
+    if (options_.verbose) log(peer, "peer " + std::to_string(peer) + ": " + event);
 }
 
 void Server::log_disconnected(mirk_platform_peer peer, const char *reason) {
@@ -31,7 +51,7 @@ void Server::log_disconnected(mirk_platform_peer peer, const char *reason) {
         log_.line(std::string("tarn: ") + reason);
     } else {
         ++disconnected_;
-        log_.line("tarn: peer " + std::to_string(peer) + " disconnected: " + reason);
+        log(peer, "tarn: peer " + std::to_string(peer) + " disconnected: " + reason);
     }
 }
 
@@ -45,6 +65,8 @@ void Server::open() {
     settings.total_pending_limit = options_.unread_total;
     settings.frame_ms = milliseconds(options_.frame_time);
     settings.answer_ms = milliseconds(options_.answer_time);
+    settings.stall_ms = milliseconds(options_.stall);
+    settings.origin_share = options_.share;
     settings.user = this;
     settings.on_frame = [](void *user, mirk_platform_server *, mirk_platform_peer peer, void *frame,
                            std::uint32_t size) { static_cast<Server *>(user)->on_frame(peer, frame, size); };
@@ -77,6 +99,7 @@ void Server::run() {
     std::printf("answering on %s: %s\n", mirk_platform_server_place(server_), names.c_str());
     std::fflush(stdout);
     const mirk_platform_error error = mirk_platform_server_run(server_);
+    log_omitted();
     if (error != 0) throw Failure(Exit::environment, "the server failed: " + error_text(error));
     std::printf("stopped after %u answers, %u peers disconnected\n", answers_, disconnected_);
 }
@@ -106,8 +129,12 @@ void Server::on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t 
     const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
     log_event(peer, "requests " + std::string(request.bundle) + (tracked ? ", tracked" : ""));
     try {
-        const Bytes frames = answerer_.answer(*bundle, tracked, ++answers_, options_.fault);
-        mirk_platform_server_send(server_, peer, frames.data(), frames.size());
+        using Frames = std::shared_ptr<const Bytes>;
+        const Frames frames = answerer_.answer(*bundle, tracked, options_.fault);
+        mirk_platform_server_send_shared(
+            server_, peer, frames->data(), frames->size(), [](void *owner) { delete static_cast<Frames *>(owner); },
+            new Frames(frames));
+        ++answers_;
         if (options_.fault == Fault::cut) mirk_platform_server_disconnect(server_, peer, "cut on purpose");
     } catch (const std::exception &failure) {
         refuse(peer, EIO, failure.what());

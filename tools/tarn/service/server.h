@@ -1,7 +1,9 @@
 // Serves bundles over a socket file or TCP.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "mirk_platform.h"
@@ -14,7 +16,9 @@ struct ServerOptions {
     std::string socket, listen;  // a socket file or a TCP address; the other is empty
     Fault fault = Fault::none;
     unsigned peers = 256;
-    double idle = 60, frame_time = 10, answer_time = 60;  // seconds; 0: no limit
+    unsigned share = 100;                                            // percent of the peers and of unread_total
+    unsigned log_rate = 100;                                         // lines per second; 0: no limit
+    double idle = 60, frame_time = 10, answer_time = 60, stall = 1;  // seconds; 0: no limit
     std::uint64_t frame_limit = 64 << 10, unread = 64 << 20, unread_total = 256 << 20;
     bool verbose = false;
 };
@@ -34,6 +38,9 @@ public:
 private:
     void on_frame(mirk_platform_peer peer, const void *frame, std::uint32_t size);
     void refuse(mirk_platform_peer peer, std::uint32_t number, const std::string &reason);
+    // A line about a peer. Those of one origin are limited by --log-rate; the number of omitted lines is logged.
+    void log(mirk_platform_peer peer, const std::string &line);
+    void log_omitted();
     void log_event(mirk_platform_peer peer, const std::string &event);
     void log_disconnected(mirk_platform_peer peer, const char *reason);
 
@@ -42,6 +49,8 @@ private:
     Log &log_;
     mirk_platform_server *server_ = nullptr;
     std::uint32_t answers_ = 0, disconnected_ = 0;
+    std::map<std::string, unsigned> lines_;  // about each origin, since the second began
+    std::chrono::steady_clock::time_point second_ends_;
 };
 
 }  // namespace tarn::tool
