@@ -1,4 +1,5 @@
 // Loads XML documents from untrusted input, and reads element values from them.
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <string_view>
 
 #include "platform/contract/document.hpp"
 #include "platform/contract/handle.hpp"
@@ -29,15 +31,57 @@ using PathContext = std::unique_ptr<xmlXPathContext, Releaser<xmlXPathFreeContex
 using PathResult = std::unique_ptr<xmlXPathObject, Releaser<xmlXPathFreeObject>>;
 using File = std::unique_ptr<FILE, Releaser<fclose>>;
 
-// Document type declarations can define entities and refer to files, so documents that have one are refused.
-struct Refusal {
+// The text, which the parser reads piece by piece, and why it was refused.
+struct Source {
+    std::string_view rest;
+    xmlParserCtxt *parser;
+    const char *refusal = nullptr;
     int line = 0;
+
+    void refuse(const char *reason) {
+        if (refusal != nullptr) return;
+        refusal = reason;
+        line = parser->input != nullptr ? parser->input->line : 1;
+    }
 };
 
+Source *source_of(xmlParserCtxt *parser) { return static_cast<Source *>(parser->_private); }
+
+// Document type declarations can define entities and refer to files.
 extern "C" void refuse_doctype(void *context, const xmlChar *, const xmlChar *, const xmlChar *) {
     auto *parser = static_cast<xmlParserCtxt *>(context);
-    static_cast<Refusal *>(parser->_private)->line = parser->input != nullptr ? parser->input->line : 1;
+    source_of(parser)->refuse("a document type declaration is not allowed");
     xmlStopParser(parser);
+}
+
+// The parser compares each attribute of an element with all others, and searches namespaces one by one.
+constexpr int most_attributes = 256;
+constexpr char too_many_attributes[] = "an element has more than 256 attributes or namespaces";
+
+extern "C" void start_element(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
+                              int namespaces, const xmlChar **namespace_names, int attributes, int defaulted,
+                              const xmlChar **attribute_names) {
+    auto *parser = static_cast<xmlParserCtxt *>(context);
+    // Each visible namespace has two entries.
+    if (attributes <= most_attributes && parser->nsNr <= 2 * most_attributes) {
+        return xmlSAX2StartElementNs(context, name, prefix, uri, namespaces, namespace_names, attributes, defaulted,
+                                     attribute_names);
+    }
+    source_of(parser)->refuse(too_many_attributes);
+    xmlStopParser(parser);
+}
+
+// The parser collects the attributes of a tag before it compares them, and reads on meanwhile. Its table of attributes
+// has five entries for each, and grows to twice what it needs.
+extern "C" int read_piece(void *context, char *buffer, int size) {
+    auto *source = static_cast<Source *>(context);
+    if (source->parser->maxatts > 20 * most_attributes || source->parser->nsNr > 4 * most_attributes) {
+        source->refuse(too_many_attributes);
+        return -1;
+    }
+    const size_t count = source->rest.copy(buffer, static_cast<size_t>(size));
+    source->rest.remove_prefix(count);
+    return static_cast<int>(count);
 }
 
 extern "C" void ignore_error(void *, xmlErrorPtr) {}
@@ -183,15 +227,15 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
         fill_in(report, ENOMEM, 0, std::strerror(ENOMEM));
         return nullptr;
     }
-    Refusal refusal;
-    parser->_private = &refusal;
+    Source source{{static_cast<const char *>(text), length}, parser.get()};
+    parser->_private = &source;
     parser->sax->internalSubset = refuse_doctype;
+    parser->sax->startElementNs = start_element;
     const ErrorsIgnored scope;
     constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA;
-    Document document(xmlCtxtReadMemory(parser.get(), static_cast<const char *>(text), static_cast<int>(length),
-                                        nullptr, nullptr, options));
-    if (refusal.line != 0) {
-        fill_in(report, EINVAL, refusal.line, "a document type declaration is not allowed");
+    Document document(xmlCtxtReadIO(parser.get(), read_piece, nullptr, &source, nullptr, nullptr, options));
+    if (source.refusal != nullptr) {
+        fill_in(report, EINVAL, source.line, source.refusal);
         return nullptr;
     }
     if (document == nullptr) {

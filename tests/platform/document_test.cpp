@@ -217,6 +217,40 @@ TEST(Document, LimitsDepth) {
     EXPECT_EQ(report.number, uint32_t{EINVAL});
 }
 
+// The parser takes time with the square of their number.
+TEST(Document, LimitsAttributesAndNamespaces) {
+    const auto element = [](int attributes, const std::string &prefix, const std::string &value) {
+        std::string text = "<r>\n<i";
+        for (int i = 0; i < attributes; ++i) text += " " + prefix + std::to_string(i) + "=\"" + value + "\"";
+        return text + "/></r>";
+    };
+    const auto expect_refused = [](const std::string &text) {
+        mirk_platform_report report;
+        const Document refused(text, &report);
+        EXPECT_EQ(static_cast<void *>(refused), nullptr) << text.substr(0, 40);
+        EXPECT_EQ(report.number, uint32_t{EINVAL});
+        EXPECT_STREQ(report.sentence, "an element has more than 256 attributes or namespaces");
+        EXPECT_EQ(report.line, 2u);
+    };
+    for (const char *const prefix : {"a", "xmlns:a"}) {
+        EXPECT_NE(static_cast<void *>(Document(element(256, prefix, "b"), nullptr)), nullptr);
+        for (const int attributes : {257, 2000, 400000}) expect_refused(element(attributes, prefix, "b"));
+    }
+    // Also of elements around it, and in an encoding that hides the syntax from a search for it.
+    std::string nested = "<r>\n";
+    for (int i = 0; i < 200; ++i)
+        nested += "<i xmlns:a" + std::to_string(i) + "=\"a\" xmlns:b" + std::to_string(i) + "=\"b\">";
+    for (int i = 0; i < 200; ++i) nested += "</i>";
+    expect_refused(nested + "</r>");
+    std::string hidden = "<?xml version='1.0' encoding='UTF-7'?>+ADw-r+AD4-\n+ADw-i";
+    for (int i = 0; i < 100000; ++i) hidden += " a" + std::to_string(i) + "+AD0-'b'";
+    expect_refused(hidden + "/+AD4APA-/r+AD4-");
+    // Any number of elements may have some.
+    std::string many = "<r>";
+    for (int i = 0; i < 20000; ++i) many += "<i a='b' xmlns:c='d'/>";
+    EXPECT_NE(static_cast<void *>(Document(many + "</r>", nullptr)), nullptr);
+}
+
 TEST(Document, LoadsAFile) {
     char path[] = "/tmp/mirk_document_XXXXXX";
     const int fd = mkstemp(path);
