@@ -11,6 +11,7 @@ import random
 import re
 import subprocess
 import sys
+import time
 
 import lumo_tarn
 import pytest
@@ -336,6 +337,42 @@ def test_invalid_captures_are_reported_with_their_offset():
     unknown[27:43] = bytes(16)
     with pytest.raises(ValueError, match="unknown message at offset 0"):
         list(lumo_tarn.frames(bytes(unknown)))
+
+
+class CountedBytes(bytes):
+    """Counts the bytes that slices copy."""
+
+    copied = 0
+
+    def __getitem__(self, index):
+        part = super().__getitem__(index)
+        CountedBytes.copied += len(part) if isinstance(index, slice) else 0
+        return part
+
+
+def test_each_byte_of_a_capture_is_copied_twice_at_most():
+    data = CountedBytes(lumo_tarn.DebugSettingMsg().to_frame() * 200)
+    assert len(list(lumo_tarn.frames(data))) == 200
+    assert CountedBytes.copied <= 2 * len(data)
+
+
+def processor_time(function) -> float:
+    times = []
+    for _ in range(3):
+        begin = time.process_time()
+        function()
+        times.append(time.process_time() - begin)
+    return min(times)
+
+
+@pytest.mark.parametrize("tag", ["<lumo_tarn_dp_tt_msg>", "<lumo_tarn_dp_tt_msg ", " ", "<"])
+def test_unclosed_tags_take_time_in_proportion(tag):
+    def read(count: int) -> None:
+        with pytest.raises(ValueError, match="not a message"):
+            list(lumo_tarn.recording(tag * count + "<"))
+
+    # Twice the square would be more than 16 times as long; the rest is for small numbers.
+    assert processor_time(lambda: read(8000)) < 8 * processor_time(lambda: read(2000)) + 0.05
 
 
 def test_recordings_equal_the_recorded_messages(tmp_path: pathlib.Path):

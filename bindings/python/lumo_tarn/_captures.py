@@ -13,6 +13,7 @@ from ._native import Handle, ffi, handle, lib
 from .records import MESSAGES
 
 _TRACKED = 7  # offset in the header: not 0 if the message has state bytes
+_START_SIZE = lib.MIRK_PLATFORM_FRAME_SIZE  # header and luid
 
 
 @dataclasses.dataclass(frozen=True)
@@ -43,13 +44,13 @@ def frames(data: bytes) -> Iterator[Message | Control]:
     of a frame is invalid."""
     at, look = 0, ffi.new("mirk_platform_frame *")
     while at < len(data):
-        rest = data[at:]
-        error = lib.mirk_platform_frame_look(ffi.from_buffer(rest), len(rest), look)
+        start = data[at : at + _START_SIZE]
+        error = lib.mirk_platform_frame_look(ffi.from_buffer(start), len(start), look)
         if error == errno.EBADMSG:
             raise ValueError(f"invalid frame at offset {at}")
-        if error != 0 or look.header.total_length > len(rest):
+        if error != 0 or look.header.total_length > len(data) - at:
             raise ValueError(f"incomplete frame at offset {at}")
-        frame, luid = rest[: look.header.total_length], bytes(look.luid)
+        frame, luid = data[at : at + look.header.total_length], bytes(look.luid)
         at += len(frame)
         if luid in _CONTROLS:
             yield _CONTROLS[luid]
@@ -68,16 +69,19 @@ def recording(text: str, on: Handle | None = None) -> Iterator[Message]:
     """Yields the messages of a recorder's file, which is a sequence of XML elements without a root. Raises ValueError at
     any other text."""
     kinds = {kind.message_name: kind for kind in MESSAGES.values()}
-    # Messages do not nest, so the first closing tag with the message's name is its own.
-    pattern = re.compile(rf"<({'|'.join(kinds)})\b[^>]*>.*?</\1>", re.DOTALL)
+    opening = re.compile(rf"\s*<({'|'.join(kinds)})\b[^>]*>")
     at = 0
-    for found in pattern.finditer(text):
-        if text[at : found.start()].strip():
-            raise ValueError(f"not a message: {text[at : found.start()].strip()[:60]}")
-        at = found.end()
-        yield kinds[found[1]].from_xml(found[0], on=on)
-    if text[at:].strip():
-        raise ValueError(f"not a message: {text[at:].strip()[:60]}")
+    while found := opening.match(text, at):
+        # Messages do not nest, so the first closing tag with the message's name is its own.
+        closing = f"</{found[1]}>"
+        end = text.find(closing, found.end())
+        if end == -1:
+            break
+        message = text[at : end + len(closing)].lstrip()
+        at = end + len(closing)
+        yield kinds[found[1]].from_xml(message, on=on)
+    if rest := text[at:].strip():
+        raise ValueError(f"not a message: {rest[:60]}")
 
 
 def bundle_frames(bundle: str, content: Iterable[Message], on: Handle | None = None) -> bytes:
@@ -90,13 +94,14 @@ def bundle_frames(bundle: str, content: Iterable[Message], on: Handle | None = N
         raise ValueError(f"unknown bundle: {bundle}")
     listed = list(content)
     on = on or (listed[0].handle if listed else handle())
-    whole = Control(name, "start").to_frame(on)
+    whole = [Control(name, "start").to_frame(on)]
     try:
         for message in listed:
             if message.handle is not on:
                 raise ValueError("the messages of a bundle must be on one handle")
-            whole += message.to_frame()
+            whole.append(message.to_frame())
     except BaseException:
         Control(name, "abort").to_frame(on)
         raise
-    return whole + Control(name, "commit").to_frame(on)
+    whole.append(Control(name, "commit").to_frame(on))
+    return b"".join(whole)
