@@ -7,10 +7,12 @@ import gc
 import json
 import os
 import pathlib
+import pickle
 import random
 import re
 import subprocess
 import sys
+import threading
 import time
 
 import lumo_tarn
@@ -269,6 +271,154 @@ def test_handles_and_objects_in_a_cycle_are_destroyed():
     gc.collect()
 
 
+# ---- threads
+
+
+def in_another_thread(function) -> None:
+    thread = threading.Thread(target=function)
+    thread.start()
+    thread.join()
+
+
+class Cycle:
+    """Keeps something until the garbage collector finds it."""
+
+    def __init__(self, kept) -> None:
+        self.kept, self.itself = kept, self
+
+
+def test_objects_are_destroyed_by_the_thread_that_uses_their_handle(handle):
+    destroyed_by = []
+    holder = Cycle(lumo_tarn.DpTcList(tc_list=[{}, {}], on=handle))
+    handle.destroy_with(holder, ffi.NULL, lambda *_: destroyed_by.append(threading.get_ident()))
+    blocks = handle.live_blocks()
+    del holder
+    in_another_thread(gc.collect)
+    assert destroyed_by == [] and lib.mirk_platform_live_blocks(handle._native) == blocks
+    lumo_tarn.DpAppl(on=handle)  # any use destroys them
+    assert destroyed_by == [threading.get_ident()]
+    assert handle.live_blocks() < blocks
+
+
+def test_objects_whose_handle_was_collected_too_are_destroyed():
+    holder = Cycle(lumo_tarn.DpTcList(tc_list=[{}], on=lumo_tarn.Handle()))
+    del holder
+    in_another_thread(gc.collect)
+
+
+def test_garbage_of_other_threads_does_not_disturb_a_handle(handle):
+    """Under a memory checker, an object that is destroyed while another thread uses its handle is an error."""
+    frame = lumo_tarn.DpTcList(tc_list=[{"proto": 6}] * 100).to_frame()
+    done = threading.Event()
+    passed: list = []
+
+    def drop() -> None:
+        while not done.is_set():
+            passed.clear()
+            gc.collect(0)
+
+    dropping = threading.Thread(target=drop)
+    interval = sys.getswitchinterval()
+    sys.setswitchinterval(1e-6)
+    dropping.start()
+    try:
+        end = time.monotonic() + 2
+        while time.monotonic() < end:
+            passed.append(Cycle(lumo_tarn.DpTcList.from_frame(frame, on=handle)))
+    finally:
+        done.set()
+        dropping.join()
+        sys.setswitchinterval(interval)
+    passed.clear()
+    gc.collect()
+
+
+# ---- copies
+
+
+def copies(one, handle):
+    kept = pickle.loads(pickle.dumps(one))
+    assert kept.handle is lumo_tarn.handle(tracked=handle.tracked)
+    for made in (copy.copy(one), copy.deepcopy(one), one.copy()):
+        assert made.handle is handle
+        yield made
+    yield kept
+    other = lumo_tarn.Handle()
+    moved = one.copy(on=other)
+    assert moved.handle is other
+    yield moved
+
+
+@pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
+@given(data=st.data())
+@settings(max_examples=2, suppress_health_check=list(HealthCheck))
+def test_records_are_copied_by_value(record, data, handle):
+    values = data.draw(values_of(record.record_name))
+    one = record(on=handle, **values)
+    for made in copies(one, handle):
+        assert type(made) is record and made == one and made.native != one.native
+        if made.handle.tracked == handle.tracked:
+            assert made.to_frame() == one.to_frame()
+    made = copy.copy(one)
+    del one
+    gc.collect()
+    assert made.to_dict() == values
+
+
+@pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
+@given(data=st.data())
+@settings(max_examples=2, suppress_health_check=list(HealthCheck))
+def test_messages_are_copied_by_value(message, data, handle):
+    values = data.draw(values_of(message.payload_type.record_name))
+    one = message(message.payload_type(**values), on=handle)
+    for made in copies(one, handle):
+        assert type(made) is message and made == one
+        assert made.native != one.native and made.payload.native != one.payload.native
+    made = copy.copy(one)
+    del one
+    gc.collect()
+    assert made.payload.to_dict() == values
+    with pytest.raises(TypeError):
+        hash(made)
+
+
+def test_copies_of_parts_stand_alone(handle):
+    table = lumo_tarn.DpTtTable(agg_tc_list={"tc_list": [{"id": 1}, {"id": 2}]}, on=handle)
+    element, nested = copy.copy(table.agg_tc_list.tc_list[1]), copy.deepcopy(table.agg_tc_list)
+    classes = table.agg_tc_list.tc_list
+    shallow, deep, kept = copy.copy(classes), copy.deepcopy(classes), pickle.loads(pickle.dumps(classes))
+    assert classes == shallow == deep == kept and {type(one) for one in (shallow, deep, kept)} == {list}
+    classes[0].id = 5
+    assert shallow[0].id == 5 and deep[0].id == kept[0].id == nested.tc_list[0].id == 1
+    del table, classes, shallow
+    gc.collect()
+    assert element.id == 2 and deep[1].id == 2 and nested.tc_list[1].id == 2
+    with pytest.raises(TypeError):
+        hash(nested.tc_list)
+
+
+def test_copies_in_a_structure_are_made_once():
+    tc = lumo_tarn.DpTc(id=3)
+    first, second = copy.deepcopy([tc, tc])
+    assert first is second and first == tc and first is not tc
+
+
+def test_handles_are_not_copied(handle):
+    for copied in (copy.copy, copy.deepcopy, pickle.dumps):
+        with pytest.raises(TypeError, match="a handle cannot be copied or pickled"):
+            copied(handle)
+    assert handle == handle and handle != lumo_tarn.Handle() and handle in {handle}
+
+
+def test_values_are_copied_and_compared_by_value():
+    control = lumo_tarn.Control("lumo_tarn_cl_debug_rsp", "start")
+    for value in (lumo_tarn.Address.of("fe80::1%3/64"), control, lumo_tarn.LumoDirection.BOTH):
+        for made in (copy.copy(value), copy.deepcopy(value), pickle.loads(pickle.dumps(value))):
+            assert made == value and hash(made) == hash(value) and type(made) is type(value)
+        with pytest.raises(AttributeError):
+            value.kind = value.af = value.value = 1
+
+
 # ---- messages, against the tool
 
 
@@ -294,7 +444,7 @@ def test_frames_equal_those_of_the_tool(message, tracked):
 
 @pytest.mark.parametrize("message", MESSAGES, ids=lambda message: message.__name__)
 @given(data=st.data())
-@settings(max_examples=3, suppress_health_check=list(HealthCheck))
+@settings(max_examples=2, suppress_health_check=list(HealthCheck))
 def test_frames_of_random_values_equal_those_of_the_tool(message, data):
     values = data.draw(values_of(message.payload_type.record_name))
     one = message(message.payload_type(**values))

@@ -8,6 +8,12 @@
 Each record of the schema is a class, such as DpTc, with an attribute for each member. The package loads the shared
 library from the path in the environment variable LUMO_TARN_LIBRARY, else from its own installation, else as
 liblumo_ui_tarn.so.1 from the loader's search path. Errors of the library raise OSError with an errno number.
+
+Records and messages are created on a handle, by default on one that belongs to the thread. Use a handle and everything
+on it from one thread at a time, also for reading. To pass a record or message to another thread, pass its frame, its
+pickle, or a copy on a handle of its own, which moves with it: record.copy(on=lumo_tarn.Handle()). Any thread may drop
+the last reference to an object: it is destroyed by the thread that uses its handle next. Address, Control and the
+enumerations are immutable and can be shared.
 """
 
 from ._base import Address, Array, Message, Record

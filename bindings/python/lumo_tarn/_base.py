@@ -81,7 +81,12 @@ class Address:
 
 class Native:
     """A C object that this object owns, or one that is part of another object. A part is located at each use, because an
-    array moves its elements when it grows."""
+    array moves its elements when it grows.
+
+    copy(), copy.copy() and copy.deepcopy() return a deep copy that is not a part of anything, on the same handle.
+    Pickling stores the frame, and unpickling reads it on the thread's default handle, a tracked one if the original's
+    was. Objects are equal if their types and members are; state bytes are ignored. They are mutable, so they cannot be
+    keys of a dict."""
 
     _handle: Handle
     _locate: Callable[[], Any]
@@ -104,6 +109,19 @@ class Native:
             raise MemoryError(f"cannot allocate a {type(self).__name__}")
         on.destroy_with(self, native, destroy)
         self._bind(on, lambda: native)
+
+    def __copy__(self: Any) -> Any:
+        return self.copy()
+
+    def __deepcopy__(self: Any, _: object) -> Any:
+        return self.copy()
+
+    def __reduce__(self: Any) -> Any:
+        return _unpickled, (type(self), self.to_frame(), self._handle.tracked)
+
+
+def _unpickled(kind: Any, frame: bytes, tracked: bool) -> Any:
+    return kind.from_frame(frame, on=handle(tracked))
 
 
 class Record(Native):
@@ -251,19 +269,13 @@ class Record(Native):
         self._call("clone", result, buffer, size)
         return result[0]
 
-    def __copy__(self: R) -> R:
-        return self.copy()
-
-    def __deepcopy__(self: R, _: object) -> R:
-        return self.copy()
-
     def compare(self: R, other: R) -> int:
         """Compares the members in the order of the schema. Returns a number less than, equal to or greater than 0. State
         bytes are ignored."""
         return int(self._function("compare")(self.native, other.native))
 
     def hash(self, seed: int = 0) -> int:
-        """Returns the library's hash of the members. Records are mutable, so they cannot be keys of a dict."""
+        """Returns the library's hash of the members."""
         return int(self._function("hash")(self.native, seed))
 
     def __eq__(self, other: object) -> bool:
@@ -289,10 +301,22 @@ class Record(Native):
 
 
 class Array(Sequence[R], Generic[R]):
-    """The elements of an array member. They are parts of the record. Arrays can grow, but not shrink."""
+    """The elements of an array member. They are parts of the record. Arrays can grow, but not shrink.
+
+    copy.copy() returns a list of the elements, copy.deepcopy() a list of copies, and pickling stores such a list. An
+    array is equal to an array, list or tuple of equal elements."""
 
     def __init__(self, owner: Record, member: Any) -> None:
         self._owner, self._member = owner, member
+
+    def __copy__(self) -> list[R]:
+        return list(self)
+
+    def __deepcopy__(self, _: object) -> list[R]:
+        return [element.copy() for element in self]
+
+    def __reduce__(self) -> Any:
+        return list, (list(self),)
 
     def __len__(self) -> int:
         return int(self._owner._call(f"{self._member.counted_by}_get_value"))
@@ -450,6 +474,10 @@ class Message(Native):
         expect(self.payload_type, value)
         own = value if value.handle is self._handle else value.copy(on=self._handle)
         self._handle.call(self._function(f"{own.record_name}_free_and_set"), self.native, own._cloned())
+
+    def copy(self: M, on: Handle | None = None) -> M:
+        """Returns a message with a copy of the payload, on the same handle or on another one."""
+        return type(self)(self.payload, on=on or self._handle)
 
     def to_frame(self) -> bytes:
         """Returns the message as a frame. Raises OSError if an open bundle on the handle does not admit it."""

@@ -2,12 +2,13 @@
 
 from __future__ import annotations
 
+import collections
 import errno
 import os
 import threading
 import weakref
 from pathlib import Path
-from typing import Any, Callable
+from typing import Any, Callable, Deque, NoReturn, Tuple
 
 from ._cffi import ffi as ffi
 from ._installed import LIBRARIES
@@ -36,14 +37,28 @@ if "MIRK_TRACE" not in os.environ:
     lib.mirk_platform_trace_set_levels(1)  # errors are raised, so traces would repeat them
 
 
-def _destroy(closing: Any, h: Any, native: Any, destroy: Callable[..., Any], ctx_id: int = CTX_ID) -> None:
-    if closing.alive:
-        destroy(h, ctx_id, native)
+_Collected = Deque[Tuple[Any, Callable[..., Any]]]  # native objects, and the functions that destroy them
+
+
+def _destroy(h: Any, collected: _Collected) -> None:
+    while True:
+        try:
+            native, destroy = collected.popleft()
+        except IndexError:  # a test for elements could be outdated, because collections can run in between
+            return
+        destroy(h, CTX_ID, native)
+
+
+def _close(h: Any, collected: _Collected) -> None:
+    _destroy(h, collected)
+    lib.mirk_platform_handle_close(h)
 
 
 class Handle:
-    """A handle of the runtime. Use it, and the objects created on it, from one thread at a time. On a tracked handle
-    records have state bytes."""
+    """A handle of the runtime. On a tracked handle records have state bytes.
+
+    Use a handle, and the objects that were created on it, from one thread at a time. They can be garbage in any thread:
+    the next use of the handle destroys them. Handles cannot be copied or pickled, and are equal only to themselves."""
 
     def __init__(self, tracked: bool = False) -> None:
         options = ffi.new("mirk_platform_handle_options *")
@@ -53,16 +68,28 @@ class Handle:
         native = lib.mirk_platform_handle_open(options)
         if native == ffi.NULL:
             raise MemoryError("cannot allocate a handle")
-        self.native: Any = native
-        self._closing = weakref.finalize(self, lib.mirk_platform_handle_close, native)
+        self._native: Any = native
+        self._collected: _Collected = collections.deque()
+        weakref.finalize(self, _close, native, self._collected)
+
+    @property
+    def native(self) -> Any:
+        """The C handle. Destroys the objects that were collected since it was last read."""
+        if self._collected:
+            _destroy(self._native, self._collected)
+        return self._native
 
     def destroy_with(self, holder: object, native: Any, destroy: Callable[..., Any]) -> None:
-        """Destroys the native object when its holder is collected. Holders refer to their handle, so it is collected
-        first only in a cycle; closing it then frees the native object."""
-        weakref.finalize(holder, _destroy, self._closing, self.native, native, destroy)
+        """Destroys the native object at the first use of the handle after its holder was collected. Collections run in
+        any thread, which may not use the handle. Holders refer to their handle, so it is collected first only in a
+        cycle; closing it then frees the native object."""
+        weakref.finalize(holder, self._collected.append, (native, destroy))
+
+    def __reduce__(self) -> NoReturn:
+        raise TypeError("a handle cannot be copied or pickled")
 
     def live_blocks(self) -> int:
-        """Number of memory blocks allocated on the handle; 0 if all objects are destroyed."""
+        """Number of memory blocks allocated on the handle; 0 if no objects are left."""
         return int(lib.mirk_platform_live_blocks(self.native))
 
     def call(self, function: Callable[..., Any], *arguments: Any) -> Any:
