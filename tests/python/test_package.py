@@ -300,12 +300,6 @@ def test_objects_are_destroyed_by_the_thread_that_uses_their_handle(handle):
     assert handle.live_blocks() < blocks
 
 
-def test_objects_whose_handle_was_collected_too_are_destroyed():
-    holder = Cycle(lumo_tarn.DpTcList(tc_list=[{}], on=lumo_tarn.Handle()))
-    del holder
-    in_another_thread(gc.collect)
-
-
 def test_garbage_of_other_threads_does_not_disturb_a_handle(handle):
     """Under a memory checker, an object that is destroyed while another thread uses its handle is an error."""
     frame = lumo_tarn.DpTcList(tc_list=[{"proto": 6}] * 100).to_frame()
