@@ -137,7 +137,8 @@ constinit const CreateShape create_shape = [] {
     return create_inline(h, ctx_id, shape);
 }
 // For create, which programs call for each tree: one call less.
-[[gnu::noinline]] void *create_object_with_trace(mirk_handle *h, std::uint32_t ctx_id, const CreateShape &shape) {
+[[gnu::noinline, maybe_unused]] void *create_object_with_trace(mirk_handle *h, std::uint32_t ctx_id,
+                                                               const CreateShape &shape) {
     mirk_lumo_ui_tarn_type_trace_init();
     return create_inline(h, ctx_id, shape);
 }
