@@ -40,7 +40,7 @@ struct Areas {
                                                        std::uint32_t *err) {
     if (!enter(h, err)) return false;
     const std::int8_t variant = set_header(h, ctx_id, object, type, notify != 0, flags, err);
-    const auto count = [&] TARN_INLINE {
+    const auto count = [&]() TARN_INLINE {
         count_created(h, ctx_id, type, variant, true);
         *err = 0;  // clears an error of the domain look-up; the first require_body reports it
     };
