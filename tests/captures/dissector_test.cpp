@@ -298,25 +298,34 @@ TEST(Dissector, FiltersByValue) {
     EXPECT_EQ(count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size(), 3U);
 }
 
-TEST(Dissector, ReadsRequestsAndRefusals) {
-    // The traffic of two processes over a socket file, first one direction and then the other, becomes a capture.
+// What a client and a server send each other about a bundle that is not served.
+struct Exchange {
+    std::string request, refusal;
+};
+const std::string wanted = "lumo_tarn_dp_intf_rsp", sentence = wanted + " is not served here";
+
+Exchange refused_request() {
     const Directory directory;
     const tool_test::Socket listener = tool_test::Socket::listen_on(directory.path("asked"));
     const tool_test::Process client({"show", "dp-intf", "--tracked", "--socket", directory.path("asked")});
-    const std::string request = listener.accept().receive(45 + std::string("lumo_tarn_dp_intf_rsp").size());
+    const std::string request = listener.accept().receive(45 + wanted.size());
     const tool_test::Server server(
         {"cl-debug=" + directory.write("debug.json", R"({"message": "lumo_tarn_debug_setting_msg", "payload": {}})")});
-    ASSERT_TRUE(server.is_ready());
+    EXPECT_TRUE(server.is_ready());
     const tool_test::Socket socket = tool_test::Socket::connect_to(server.socket());
     socket.send(request);
-    const std::string sentence = "lumo_tarn_dp_intf_rsp is not served here";
+    return {request, socket.receive(49 + sentence.size())};
+}
+
+TEST(Dissector, ReadsRequestsAndRefusals) {
+    const Exchange exchange = refused_request();
     Capture capture;
-    capture.add(61000, port, request + socket.receive(49 + sentence.size()));
+    capture.add(40000, port, exchange.request + exchange.refusal);
 
     const std::vector<Field> frames = frames_in(capture);
     ASSERT_EQ(frames.size(), 2U);
-    EXPECT_EQ(frames[0].label, "Tarn frame: request: lumo_tarn_dp_intf_rsp");
-    EXPECT_EQ(frames[0].find("tarn.bundle")->show, "lumo_tarn_dp_intf_rsp");
+    EXPECT_EQ(frames[0].label, "Tarn frame: request: " + wanted);
+    EXPECT_EQ(frames[0].find("tarn.bundle")->show, wanted);
     // Wireshark 4.4 shows booleans as words, earlier versions as numbers.
     const auto shows = [&](const char *option) {
         const std::string text = frames[0].find("tarn.options")->find(option)->show;
@@ -327,6 +336,51 @@ TEST(Dissector, ReadsRequestsAndRefusals) {
     EXPECT_EQ(frames[1].label, "Tarn frame: refusal: " + sentence);
     EXPECT_EQ(frames[1].find("tarn.sentence")->show, sentence);
     EXPECT_EQ(frames[1].find("tarn.number")->show, std::to_string(ENOENT));
+}
+
+TEST(Dissector, EscapesControlCharactersOfRequestsAndRefusals) {
+    struct Case {
+        const char *bytes, *shown;
+    };
+    // Printed on a terminal, each of these would change more than its own place.
+    const Case cases[] = {
+        {"\x1b]0;title\a", "\\x1b]0;title\\x07"},  // an escape sequence
+        {"\n\r\t\x7f", "\\x0a\\x0d\\x09\\x7f"},
+        {"\xc2\x9b\xc2\x80", "\\u009b\\u0080"},  // the same as escape sequences of two characters
+        {"\xe2\x80\xae\xe2\x81\xa6\xd8\x9c\xe2\x80\xa8", "\\u202e\\u2066\\u061c\\u2028"},  // directions, and lines
+        {"\xc3\xa4\xe2\x82\xac", "\xc3\xa4\xe2\x82\xac"},                                  // letters
+    };
+    const Exchange exchange = refused_request();
+    Capture capture;
+    std::string expected;
+    for (const Case &one : cases) {
+        const auto with = [&](std::string frame, const std::string &text) {
+            std::string foreign = one.bytes;
+            foreign.resize(text.size(), '.');
+            return frame.replace(frame.size() - text.size(), text.size(), foreign);
+        };
+        const auto shown = [&](const std::string &text) {
+            return one.shown + std::string(text.size() - std::string(one.bytes).size(), '.');
+        };
+        capture.add(static_cast<std::uint16_t>(40000 + (&one - cases)), port,
+                    with(exchange.request, wanted) + with(exchange.refusal, sentence));
+        expected += "request: " + shown(wanted) + ", refusal: " + shown(sentence) + "\n";
+    }
+    EXPECT_EQ(tshark(capture, {"-T", "fields", "-e", "_ws.col.Info"}).out, expected);
+    const std::vector<Field> frames = frames_in(capture);
+    ASSERT_EQ(frames.size(), 2 * std::size(cases));
+    std::string labels;
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        labels += frames[i].label.substr(std::string("Tarn frame: ").size()) + (i % 2 == 0 ? ", " : "\n");
+    }
+    EXPECT_EQ(labels, expected);
+
+    for (const char *const option : {"-V", "-P"}) {
+        const std::string printed = tshark(capture, {option}).out;
+        EXPECT_EQ(std::count(printed.begin(), printed.end(), '\x1b'), 0) << option;
+        EXPECT_EQ(printed.find("\xc2\x9b"), std::string::npos) << option;
+        EXPECT_EQ(printed.find("\xe2\x80\xae"), std::string::npos) << option;
+    }
 }
 
 // The error of the tool for a broken frame.

@@ -131,6 +131,25 @@ local function address_text(v)
     return text .. "/" .. v.prefix_len
 end
 
+-- ---- text from a peer, in titles and in the column
+
+-- Control characters, characters that change the direction of text, and separators of lines, in UTF-8.
+local unprintable = { "[%z\1-\31\127]", "\194[\128-\159]", "\216\156", "\226\128[\142\143\168-\174]",
+    "\226\129[\166-\169]" }
+
+local function escaped(character)
+    local first, second, third = character:byte(1, 3)
+    if not second then return string.format("\\x%02x", first) end
+    local code = third and (first % 16 * 64 + second % 64) * 64 + third % 64 or first % 32 * 64 + second % 64
+    return string.format("\\u%04x", code)
+end
+
+-- In the same notation as in the tool: such text is printed on terminals.
+local function printable(text)
+    for _, pattern in ipairs(unprintable) do text = text:gsub(pattern, escaped) end
+    return text
+end
+
 -- ---- one frame
 
 -- Stands in for a tree if none is shown.
@@ -293,7 +312,8 @@ function reader:request(tree)
     local name = refused and "sentence" or "bundle"
     _, range = self:take(tree, f.text_length, 1, name .. "_len")
     self:text(tree, refused and f.sentence or f.bundle, range:uint(), name)
-    return (refused and "refusal: " or "request: ") .. self.tvb(self.at - range:uint(), range:uint()):string(ENC_UTF_8)
+    local text = self.tvb(self.at - range:uint(), range:uint()):string(ENC_UTF_8)
+    return (refused and "refusal: " or "request: ") .. printable(text)
 end
 
 -- A readable description of the frame.
