@@ -57,14 +57,17 @@ const press = key =>
 const found = () => document.getElementById('found').textContent;
 )";
 
-// Runs statements after the script of the page. They fill in `seen`, which also gets the errors of both. The fragment
-// ends the address of the page.
+// Runs statements after the script of the page. They fill in `seen`, which also gets the errors of both. The policy of
+// the page is changed to admit them besides its own script. The fragment ends the address of the page.
 json seen_in(std::string page, const std::string &statements, const std::string &fragment = {}) {
     const Directory directory;
-    replace(page, "<body>", "<body><script>const errors = []; onerror = text => { errors.push(text); };</script>");
+    const std::string script = "<script nonce=\"test\">";
+    replace(page, "script-src ", "script-src 'nonce-test' ");
+    replace(page, "<body>",
+            "<body>" + script + "const errors = []; onerror = text => { errors.push(text); };</script>");
     replace(
         page, "</body>",
-        "<script>" + std::string(helpers) + "const seen = {errors}; try {" + statements +
+        script + std::string(helpers) + "const seen = {errors}; try {" + statements +
             "} catch (error) { errors.push(String(error)); }\nconst note = document.createElement('pre'); "
             "note.id = 'seen'; note.textContent = JSON.stringify(seen); document.body.append(note);</script></body>");
     const Outcome outcome = chromium(directory.write("page.html", page) + fragment, {"--dump-dom"});
@@ -160,6 +163,21 @@ TEST(View, SearchFindsNamesAndValuesInFoldedMembers) {
     EXPECT_EQ(seen.at("injected"), 0);
     EXPECT_EQ(seen.at("title"), name + " - tarn");
     EXPECT_EQ(seen.at("owned"), true);
+}
+
+// Scripts and handlers like those that text from outside would bring into a page if it were not escaped.
+TEST(Pages, RunTheirOwnScriptOnly) {
+    const Directory directory;
+    for (std::string page :
+         {page_of({directory.write("a.bin", debug_answer(1, 5))}), tool_test::tarn({"schema", "--html"}).out}) {
+        replace(page, "</body>",
+                "<script>document.body.id = 'changed';</script>"
+                "<img src=\"data:,\" onerror=\"document.body.id = 'changed'\"></body>");
+        const Outcome shown = chromium(directory.write("page.html", page), {"--dump-dom"});
+        EXPECT_EQ(shown.out.find("<body id=\"changed\">"), std::string::npos);
+        EXPECT_NE(shown.out.find("<p id=\"summary\">"), std::string::npos) << shown.err;
+        EXPECT_EQ(shown.out.find("<p id=\"summary\"></p>"), std::string::npos) << "the page's own script fills it in";
+    }
 }
 
 TEST(View, ShowsADifference) {

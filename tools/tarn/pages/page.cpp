@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "page_style.h"
+#include "tools/tarn/support/base64.h"
 
 namespace tarn::tool {
 
@@ -27,14 +28,16 @@ std::string escaped_json(const nlohmann::ordered_json &data) {
 }  // namespace
 
 std::string page_text(const Page &page) {
-    // The policy keeps the browser from loading anything.
+    // The policy keeps the browser from loading anything, and from running any script but this one.
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
-           "script-src 'unsafe-inline'; img-src data:\">\n"
+           "script-src 'sha256-" +
+           base64_of(page.script_sha256) +
+           "'; img-src data:\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
            escaped(page.title) + "</title>\n<style>\n" + page_style + "</style>\n</head>\n<body>\n" +
            std::string(page.body) + "<script type=\"application/json\" id=\"data\">" + escaped_json(page.data) +
-           "</script>\n<script>\n" + std::string(page.script) + "</script>\n</body>\n</html>\n";
+           "</script>\n<script>" + std::string(page.script) + "</script>\n</body>\n</html>\n";
 }
 
 }  // namespace tarn::tool

@@ -1,7 +1,9 @@
 // HTML pages. Each is a single file that contains everything it needs, so it works from disk and without a network.
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json_fwd.hpp>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -10,6 +12,7 @@ namespace tarn::tool {
 struct Page {
     std::string title;
     std::string_view body, script;  // not escaped
+    std::span<const std::uint8_t> script_sha256;
     const nlohmann::ordered_json &data;
 };
 

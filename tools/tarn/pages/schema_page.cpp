@@ -12,7 +12,7 @@ namespace tarn::tool {
 
 std::string schema_page() {
     const nlohmann::ordered_json data{{"schema", schema_json()}, {"drawing", draw::nesting(false)}};
-    return page_text({"Schema of tarn", schema_body, schema_script, data});
+    return page_text({"Schema of tarn", schema_body, schema_script, schema_script_sha256, data});
 }
 
 }  // namespace tarn::tool

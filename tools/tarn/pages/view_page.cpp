@@ -7,6 +7,7 @@
 #include "tools/tarn/formats/schema.h"
 #include "tools/tarn/pages/page.h"
 #include "tools/tarn/pages/shapes.h"
+#include "tools/tarn/support/base64.h"
 #include "view_body.h"
 #include "view_script.h"
 
@@ -15,19 +16,6 @@ namespace tarn::tool {
 namespace {
 
 using nlohmann::ordered_json;
-
-// Base64, as browsers decode it.
-std::string base64_of(FrameBytes bytes) {
-    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string text;
-    for (std::size_t at = 0; at < bytes.size(); at += 3) {
-        const std::size_t count = std::min<std::size_t>(3, bytes.size() - at);
-        std::uint32_t bits = 0;
-        for (std::size_t i = 0; i < 3; ++i) bits = bits << 8 | (i < count ? bytes[at + i] : 0);
-        for (std::size_t i = 0; i < 4; ++i) text += i <= count ? letters[bits >> (18 - 6 * i) & 63] : '=';
-    }
-    return text;
-}
 
 // Data that both files share: shapes, names of luids, and headings of frames.
 struct Shared {
@@ -99,7 +87,7 @@ std::string view_page(std::vector<ViewedFile> &files) {
         for (const auto &m : record.at("members"))
             members[m.at("name").get<std::string>()] = {m.at("kind"), m.at("meaning")};
     }
-    return page_text({title + " - tarn", view_body, view_script, data});
+    return page_text({title + " - tarn", view_body, view_script, view_script_sha256, data});
 }
 
 }  // namespace tarn::tool
