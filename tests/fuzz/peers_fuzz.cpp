@@ -82,7 +82,8 @@ std::optional<fuzz::Bytes> take_frame(fuzz::Bytes &stream) {
     if (stream.size() < length) return std::nullopt;
     fuzz::Bytes frame(stream.begin(), stream.begin() + length);
     stream.erase(stream.begin(), stream.begin() + length);
-    std::ranges::fill(stamp_of(frame), std::uint8_t{0});
+    const auto stamp = stamp_of(frame);
+    std::fill(stamp.begin(), stamp.end(), std::uint8_t{0});
     return frame;
 }
 
