@@ -13,7 +13,7 @@ import sys
 
 sources, scratch = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
 tree = scratch / "tree"
-scripts = "check", "tools/need", "tools/regenerate", ".ci/run"
+scripts = "check", "tools/need", "tools/as_root", "tools/regenerate", ".ci/run"
 programs = ("apt-get cmake clang-format clang-tidy cppcheck cpack ctest doxygen gcovr lintian python3 strip sudo "
             "valgrind").split()
 
@@ -57,7 +57,8 @@ def prepare():
     write("bin/id", "#!/bin/sh\necho 1000\n")
     check = (sources / "check").read_text()
     # Programs that are run by their path are at the beginning of a line or after xargs.
-    for program in re.findall(r"^ *(?:xargs -0 )?(?:\./)?((?:bench|build|tests)/[\w/.-]+|demo)\b", check, re.M):
+    for program in re.findall(r"^ *(?:xargs -0 )?(?:\./)?((?:bench|build|tests)/[\w/.-]+|tools/(?:in_debian|sysroot)|demo)\b",
+                              check, re.M):
         write(program, STUB)
     for program in re.search(r"library_tests=\((.*?)\)", check, re.S)[1].split():
         write(f"build/coverage/tests/{program.split('_')[0]}/{program}", STUB)
@@ -102,7 +103,7 @@ def errors_of(number, command, installed):
 
 prepare()
 text = subprocess.run([sources / "check", "help"], check=True, capture_output=True, text=True).stdout
-names = [name for name in re.findall(r"^  ([a-z]+)\b", text, re.M) if name != "help"]
+names = [name for name in re.findall(r"^  ([a-z0-9]+)\b", text, re.M) if name != "help"]
 if len(names) < 10:
     sys.exit(f"only {names} were found in the help text")
 commands = [(["check", name], True) for name in names]
