@@ -4,6 +4,7 @@
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -112,7 +113,34 @@ void fill_in(mirk_platform_report *report, uint32_t number, int line, const char
     report->sentence[std::strcspn(report->sentence, "\n")] = 0;
 }
 
-void *finish(Document document, mirk_platform_report *report) {
+std::atomic<uint32_t> list_limit{0};
+
+// The element in which the document exceeds the limit on lists, or null.
+const xmlNode *too_long_list(const xmlDoc *document, size_t length) {
+    const uint64_t limit = list_limit;
+    if (limit == 0) return nullptr;
+    uint64_t room = limit * length;
+    for (const xmlNode *node = xmlDocGetRootElement(document); node != nullptr;) {
+        const uint64_t elements = xmlChildElementCount(const_cast<xmlNode *>(node));
+        if (elements * elements > room) return node;
+        room -= elements * elements;
+        // The next one in the order of the document.
+        const xmlNode *next = xmlFirstElementChild(const_cast<xmlNode *>(node));
+        while (next == nullptr && node != nullptr && node->type == XML_ELEMENT_NODE) {
+            next = xmlNextElementSibling(const_cast<xmlNode *>(node));
+            node = node->parent;
+        }
+        node = next;
+    }
+    return nullptr;
+}
+
+void *finish(Document document, size_t length, mirk_platform_report *report) {
+    if (const xmlNode *list = too_long_list(document.get(), length); list != nullptr) {
+        fill_in(report, EINVAL, static_cast<int>(xmlGetLineNo(list)),
+                "the elements inside this one are too many for the length of the document");
+        return nullptr;
+    }
     const mirk_platform_error error = mirk::guarded([&]() -> mirk_platform_error {
         document->_private = new PathMemo(document.get());
         return 0;
@@ -250,7 +278,7 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
         fill_in(report, EINVAL, parser->input->line, "there is more data after the end of the document");
         return nullptr;
     }
-    return finish(std::move(document), report);
+    return finish(std::move(document), length, report);
 }
 
 void *mirk_platform_document_load_file(const char *path, mirk_platform_report *report) {
@@ -269,6 +297,8 @@ void *mirk_platform_document_load_file(const char *path, mirk_platform_report *r
     }
     return mirk_platform_document_load_memory(text.data(), text.size(), report);
 }
+
+void mirk_platform_document_limit_lists(uint32_t per_byte) { list_limit = per_byte; }
 
 void mirk_platform_document_free(void *document) {
     if (document == nullptr) return;

@@ -233,6 +233,12 @@ MIRK_PLATFORM_API void *mirk_platform_document_load_memory(const void *text, siz
 /** The same for the contents of a file. The report may also have the error of opening or reading the file, such as
  * ENOENT or EACCES. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_file(const char *path, mirk_platform_report *report);
+/** Limits the time that _from_xml operations take for a document. They read the elements of a list one by one and move
+ * all others for each of them, so n elements inside another one count n * n. Documents where these numbers are more than
+ * `per_byte` for each byte of the document are rejected with EINVAL. Applies to all threads and to documents that are
+ * loaded afterwards. 0, the default, means no limit; 256 rejects documents with long lists of elements that are nearly
+ * empty. */
+MIRK_PLATFORM_API void mirk_platform_document_limit_lists(uint32_t per_byte);
 /** Releases a document. Null is permitted. */
 MIRK_PLATFORM_API void mirk_platform_document_free(void *document);
 

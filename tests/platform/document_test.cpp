@@ -251,6 +251,38 @@ TEST(Document, LimitsAttributesAndNamespaces) {
     EXPECT_NE(static_cast<void *>(Document(many + "</r>", nullptr)), nullptr);
 }
 
+// A list of n elements counts n * n, and may have so much for each byte.
+TEST(Document, LimitsListsThatAreTooLongForItsLength) {
+    const auto list = [](size_t elements) {
+        std::string text = "<r>\n<l>";
+        for (size_t i = 0; i < elements; ++i) text += "<i/>";
+        return text + "</l></r>";
+    };
+    const auto is_loaded = [](const std::string &text) {
+        mirk_platform_report report;
+        const Document d(text, &report);
+        if (static_cast<void *>(d) != nullptr) return true;
+        EXPECT_EQ(report.number, uint32_t{EINVAL});
+        EXPECT_EQ(report.line, 2u);
+        EXPECT_STREQ(report.sentence, "the elements inside this one are too many for the length of the document");
+        return false;
+    };
+    EXPECT_TRUE(is_loaded(list(20000)));
+    mirk_platform_document_limit_lists(256);
+    // 16 bytes are around the elements, and the list is one more element.
+    size_t most = 1000;
+    while ((most + 1) * (most + 1) + 1 <= 256 * (16 + 4 * (most + 1))) ++most;
+    EXPECT_TRUE(is_loaded(list(most)));
+    EXPECT_FALSE(is_loaded(list(most + 1)));
+    EXPECT_TRUE(is_loaded(list(most + 1) + std::string(1000, ' '))) << "a longer document";
+    // All lists count together.
+    const std::string one = list(900), inner = one.substr(4, one.size() - 8);
+    std::string many = "<r>\n<l>";
+    for (int i = 0; i < 200; ++i) many += "<l>" + inner + "</l>";
+    EXPECT_TRUE(is_loaded(many + "</l></r>"));
+    mirk_platform_document_limit_lists(0);
+}
+
 TEST(Document, LoadsAFile) {
     char path[] = "/tmp/mirk_document_XXXXXX";
     const int fd = mkstemp(path);

@@ -587,3 +587,12 @@ def test_refuses_the_same_frames_as_the_tool(tracked, tmp_path):
             refused, read = refused + (reason is not None), read + (reason is None)
             at += len(frame)
     assert refused > 50 and read > 50
+
+
+def test_xml_with_lists_too_long_for_its_length_is_refused():
+    def text(elements):
+        return f"<lumo_tarn_cl_appl_data>{'<kesh_appl/>' * elements}</lumo_tarn_cl_appl_data>"
+
+    assert len(lumo_tarn.ClApplData.from_xml(text(100)).kesh_appl) == 100
+    with pytest.raises(ValueError, match="too many for the length of the document"):
+        lumo_tarn.ClApplData.from_xml(text(3200))

@@ -208,6 +208,18 @@ TEST(Conversion, AFrameThatClaimsMoreThanItContainsIsRefusedBeforeItIsRead) {
     }
 }
 
+TEST(Conversion, XmlWithListsTooLongForItsLengthNeedsAnOption) {
+    std::string text = "<lumo_tarn_cl_appl_msg><lumo_tarn_cl_appl_data>";
+    for (int i = 0; i < 3200; ++i) text += "<kesh_appl/>";
+    text += "</lumo_tarn_cl_appl_data></lumo_tarn_cl_appl_msg>";
+    const Outcome refused = tarn({"encode"}, text);
+    EXPECT_EQ(refused.exit, 2);
+    EXPECT_NE(refused.err.find("the elements inside this one are too many for the length of the document"),
+              std::string::npos)
+        << refused.err;
+    EXPECT_EQ(tarn({"encode", "--long-lists"}, text).exit, 0);
+}
+
 TEST(Conversion, BytesThatAreNotAFrameAreReported) {
     const auto expect = [](const std::string &bytes, const std::string &words) {
         const Outcome outcome = tarn({"decode"}, bytes);

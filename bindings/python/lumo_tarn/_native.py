@@ -33,6 +33,8 @@ _MAX_BUFFER_SIZE = 1 << 30
 
 lib.mirk_lumo_ui_tarn_type_trace_init()
 lib.mirk_lumo_ui_tarn_message_trace_init()
+# Reading a list takes time with the square of its elements; docs/trust.md states what a byte may cost.
+lib.mirk_platform_document_limit_lists(256)
 if "MIRK_TRACE" not in os.environ:
     lib.mirk_platform_trace_set_levels(1)  # errors are raised, so traces would repeat them
 

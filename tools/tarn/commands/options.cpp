@@ -4,6 +4,13 @@
 
 namespace tarn::tool {
 
+namespace {
+
+// Of the elements of lists in XML: the sum of the squares of their numbers, for each byte of the document.
+constexpr std::uint32_t list_limit = 256;
+
+}  // namespace
+
 std::string tcp_words() {
     return "TCP address HOST:PORT; default host 127.0.0.1, default port " + std::to_string(MIRK_PLATFORM_TCP_PORT);
 }
@@ -63,6 +70,11 @@ void add_lenient(CLI::App &command, bool &lenient) {
         "--lenient", lenient,
         "Accept incomplete XML and JSON: ignore unknown members, read an unknown enumerator as the first one of its "
         "type and a missing payload as zeros");
+    // All commands that read XML have both.
+    mirk_platform_document_limit_lists(list_limit);
+    command.add_flag_callback(
+        "--long-lists", [] { mirk_platform_document_limit_lists(0); },
+        "Accept XML with lists of very many elements, which take time with the square of their number");
 }
 
 void add_verbose(CLI::App &command, bool &verbose) {
