@@ -58,8 +58,11 @@ install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATAROOTDI
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR} ${CMAKE_BINARY_DIR}/platform)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}${python_depends}")
-# libxml2-dev does not depend on everything that a static link with it requires.
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liblumo-ui-tarn1 ${of_this_build}, libxml2-dev, zlib1g-dev, liblzma-dev")
+# libxml2-dev does not depend on everything that a static link with it requires, and a C compiler does not include the C++
+# library.
+string(REGEX MATCH "^[0-9]+" compiler_version ${CMAKE_CXX_COMPILER_VERSION})
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "liblumo-ui-tarn1 ${of_this_build}, libxml2-dev, zlib1g-dev, liblzma-dev, libstdc++-${compiler_version}-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS lumo-ui-tarn-doc)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 
