@@ -170,6 +170,14 @@ void add_plain_of(Results &results, std::string_view workload, const Plain &valu
     results.add("compare", workload, "plain structs", [one, two] { benchmark::DoNotOptimize(*one == *two); });
 }
 
+template <class Plain>
+void add_after_threads(Results &results, std::string_view workload, const Plain &value) {
+    const auto plain = std::make_shared<Sample<Plain>>(Setup::plain, value);
+    results.add("build and destroy", workload, "library, after threads", building(plain));
+    results.add("decode and destroy", workload, "library, after threads", decoding(plain));
+    results.add("copy and destroy", workload, "library, after threads", copying(plain));
+}
+
 }  // namespace
 
 void add_library(Results &results) {
@@ -177,6 +185,13 @@ void add_library(Results &results) {
     add(results, "flat", flat());
     add(results, "wide", wide());
     add(results, "strings", strings());
+}
+
+void add_library_after_threads(Results &results) {
+    add_after_threads(results, "deep", deep());
+    add_after_threads(results, "flat", flat());
+    add_after_threads(results, "wide", wide());
+    add_after_threads(results, "strings", strings());
 }
 
 void add_lower_bounds(Results &results) {

@@ -119,6 +119,7 @@ void write_pictures(const Results &results, const std::string &directory);
 
 // The subjects, one file each.
 void add_library(Results &results);
+void add_library_after_threads(Results &results);  // the same library in a process that has started threads
 void add_lower_bounds(Results &results);
 void add_plain(Results &results);
 void add_protobuf(Results &results);
