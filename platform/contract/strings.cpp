@@ -72,19 +72,26 @@ uint64_t bytes_that_are(uint64_t word, uint8_t byte) {
     return (difference - ones) & ~difference & ones * 0x80;
 }
 
-// Number of leading characters that are printed unchanged. Examines eight at a time.
+bool prints_unchanged(uint8_t byte) { return byte >= 0x20 && byte < 0x7f && byte != '\\'; }
+// The same for eight characters.
+bool all_print_unchanged(const char *text) {
+    uint64_t word;
+    std::memcpy(&word, text, sizeof word);
+    const uint64_t control = (word - ones * 0x20) & ~word;
+    return ((word | control) & ones * 0x80) == 0 && (bytes_that_are(word, 0x7f) | bytes_that_are(word, '\\')) == 0;
+}
+
+// Number of leading characters that are printed unchanged. Examines eight at a time; the last eight may overlap others.
 size_t printable_prefix(std::string_view text) {
+    constexpr size_t width = sizeof(uint64_t);
     size_t at = 0;
-    for (uint64_t word; at + sizeof word <= text.size(); at += sizeof word) {
-        std::memcpy(&word, text.data() + at, sizeof word);
-        const uint64_t control = (word - ones * 0x20) & ~word;
-        if (((word | control) & ones * 0x80) != 0 || (bytes_that_are(word, 0x7f) | bytes_that_are(word, '\\')) != 0)
-            break;
+    if (text.size() >= width) {
+        const size_t last = text.size() - width;
+        while (at < last && all_print_unchanged(text.data() + at)) at += width;
+        if (at >= last && all_print_unchanged(text.data() + last)) return text.size();
+        at = std::min(at, last);
     }
-    for (; at < text.size(); ++at) {
-        const auto byte = static_cast<uint8_t>(text[at]);
-        if (byte < 0x20 || byte >= 0x7f || byte == '\\') break;
-    }
+    while (at < text.size() && prints_unchanged(static_cast<uint8_t>(text[at]))) ++at;
     return at;
 }
 
@@ -124,12 +131,16 @@ uint32_t char_sizeof(mirk_handle *) { return 1; }
 uint32_t var_string_print(mirk_handle *, uint32_t, char *buffer, uint32_t indent, const char *name, const char *chars,
                           int32_t remaining, uint32_t length, uint32_t *err) {
     if (!usable(buffer, chars, length, err)) return 0;
+    const std::string_view text = view(chars, length);
+    if (printable_prefix(text) == text.size()) {
+        return mirk::print_line(buffer, indent, name, "@var_string:", text, remaining, err);
+    }
     const std::string_view own = mirk::text_or_empty(name);
     return mirk::write_whole(buffer, remaining, err, [&](TextSink &sink) {
         sink.blanks(indent);
         sink.put(own);
         sink.put("@var_string:");
-        put_printable(sink, view(chars, length));
+        put_printable(sink, text);
         sink.put("\n");
     });
 }

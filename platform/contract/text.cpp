@@ -45,17 +45,19 @@ constexpr int unsupported_format = -2;
 // Most formats contain only text and %s. Formats those as vsnprintf does, but faster.
 int print_strings(char *buffer, size_t size, const char *format, va_list arguments) {
     size_t length = 0;
-    for (; *format != 0; ++format) {
-        if (*format != '%') {
-            if (length < size) buffer[length] = *format;
-            ++length;
-            continue;
-        }
-        if (*++format != 's') return unsupported_format;
-        const char *argument = va_arg(arguments, const char *);
-        const std::string_view text = argument != nullptr ? argument : "(null)";
-        if (length < size) text.copy(buffer + length, size - length);
+    const auto put = [&](std::string_view text) {
+        if (length < size) mirk::copy_short(buffer + length, text.substr(0, size - length));
         length += text.size();
+    };
+    for (;;) {
+        const char *const begin = format;
+        while (*format != 0 && *format != '%') ++format;
+        put({begin, static_cast<size_t>(format - begin)});
+        if (*format == 0) break;
+        if (format[1] != 's') return unsupported_format;
+        format += 2;
+        const char *argument = va_arg(arguments, const char *);
+        put(argument != nullptr ? argument : "(null)");
     }
     buffer[std::min(length, size - 1)] = 0;
     return length <= INT32_MAX ? static_cast<int>(length) : -1;
@@ -76,7 +78,7 @@ uint32_t mirk_print_space(mirk_handle *, uint32_t, char *buffer, uint32_t indent
         return 0;
     }
     // No NUL, since a caller may fill blanks into text that already exists.
-    std::memset(buffer, ' ', indent);
+    mirk::put_blanks(buffer, indent);
     return indent;
 }
 

@@ -136,6 +136,26 @@ TYPED_TEST(Integer, NullIsEinvalWhereAValueIsReadOrWritten) {
     expect_invalid();
 }
 
+TYPED_TEST(Integer, PrintsNumbersOfEveryLength) {
+    using T = typename TypeParam::type;
+    const auto expect_printed = [&](T field) {
+        char buffer[64];
+        TypeParam::print(this->h, 7, buffer, 0, "n", &field, sizeof buffer, &this->err);
+        EXPECT_EQ(buffer, std::string("n@") + TypeParam::name + ":" + std::to_string(field) + "\n");
+    };
+    uint64_t power = 1;
+    for (int digits = 1; digits <= std::numeric_limits<T>::digits10; ++digits) {
+        power *= 10;
+        for (const uint64_t value : {power - 1, power, power + power / 10, power / 10 * 7}) {
+            expect_printed(static_cast<T>(value));
+        }
+    }
+    expect_printed(0);
+    expect_printed(std::numeric_limits<T>::max());
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 2000; ++i) expect_printed(static_cast<T>(random() >> random() % 64));
+}
+
 TYPED_TEST(Integer, PrintsALine) {
     using T = typename TypeParam::type;
     T field = 123;
