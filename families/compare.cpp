@@ -49,16 +49,27 @@ template <const Record &R, std::size_t First>
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of_members(const mirk_object *a, const mirk_object *b);
 
-// a and b are not null. Records of integers alone are compared inline.
+// a and b are not null. Records of integers alone are compared inline, in the archive all records.
 template <const Record &R>
 [[gnu::always_inline]] inline std::int32_t order_of(const mirk_object *a, const mirk_object *b) {
     if constexpr (runtime_inside && shortcut::is_closed(R)) {
         return shortcut::difference_of<R>(a, b) == 0 ? 0 : Compare<R>::compare(a, b);
-    } else if constexpr (schema::has_fixed_wire_size(R)) {  // integers alone
+    } else if constexpr (runtime_inside || schema::has_fixed_wire_size(R)) {
         return order_of_members<R>(a, b);
     } else {
         return Compare<R>::compare(a, b);
     }
+}
+
+template <const Record &R>
+[[gnu::always_inline]] inline std::int32_t order_of_elements(const mirk_object *a, const mirk_object *b,
+                                                             std::uint32_t n) {
+    for (; n != 0; --n) {
+        if (const std::int32_t order = order_of<R>(a, b); order != 0) return order;
+        a = element_at<R>(a, 1);
+        b = element_at<R>(b, 1);
+    }
+    return 0;
 }
 
 // Only the sign of the result has a meaning: strings return memcmp's result, enumerations the difference.
@@ -69,9 +80,7 @@ template <const Record &R>
         [&]<ArrayMember A>(A) TARN_INLINE {
             // The counts were compared before, as members; a null block has no elements.
             const std::uint32_t n = std::min(A::count(a), A::count(b));
-            for (std::uint32_t i = 0; i < n && order == 0; ++i) {
-                order = order_of<A::element>(A::element_of(a, i), A::element_of(b, i));
-            }
+            order = order_of_elements<A::element>(*A::at(a), *A::at(b), n);
             return order == 0;
         },
         [&]<StringMember S>(S) TARN_INLINE {
@@ -88,6 +97,9 @@ template <const Record &R>
             return order == 0;
         },
         [&]<SingleMember F>(F) TARN_INLINE {
+            if constexpr (runtime_inside) {
+                if (shortcut::difference_of_member<F>(a, b) == 0) return true;
+            }
             order = Primitive<F>::compare(F::at(a), F::at(b));
             return order == 0;
         },

@@ -19,39 +19,42 @@ template <class T>
 template <std::size_t Size>
 [[gnu::always_inline]] inline std::uint64_t difference_of_bytes(const void *left, const void *right) {
     const auto *a = static_cast<const std::uint8_t *>(left), *b = static_cast<const std::uint8_t *>(right);
-    constexpr std::size_t words = Size / sizeof(std::uint64_t) * sizeof(std::uint64_t);
-    std::uint64_t difference = 0;
-    for (std::size_t i = 0; i < words; i += sizeof(std::uint64_t)) {
-        difference |= difference_at<std::uint64_t>(a + i, b + i);
+    if constexpr (Size == 0) {
+        return 0;
+    } else {
+        using Word = std::conditional_t<
+            Size >= 8, std::uint64_t,
+            std::conditional_t<Size >= 4, std::uint32_t, std::conditional_t<Size >= 2, std::uint16_t, std::uint8_t>>>;
+        constexpr std::size_t size = sizeof(Word);
+        return difference_at<Word>(a, b) | difference_of_bytes<Size - size>(a + size, b + size);
     }
-    if constexpr ((Size & 4) != 0) difference |= difference_at<std::uint32_t>(a + words, b + words);
-    if constexpr ((Size & 2) != 0) {
-        difference |= difference_at<std::uint16_t>(a + words + (Size & 4), b + words + (Size & 4));
-    }
-    if constexpr ((Size & 1) != 0) difference |= difference_at<std::uint8_t>(a + Size - 1, b + Size - 1);
-    return difference;
 }
 
-// 0 if the members of two instances of a closed record are equal.
+template <const Record &R>
+[[gnu::always_inline]] inline std::uint64_t difference_of(const mirk_object *a, const mirk_object *b);
+
+// 0 if a closed member is equal in two instances. Booleans that are true may differ in their bytes.
+template <class F>
+[[gnu::always_inline]] inline std::uint64_t difference_of_member(const mirk_object *a, const mirk_object *b) {
+    if constexpr (RecordMember<F>) {
+        return difference_of<*F::of>(F::at(a), F::at(b));
+    } else if constexpr (AddressMember<F>) {
+        const ip_address &x = *F::at(a), &y = *F::at(b);
+        return static_cast<std::uint64_t>((x.af ^ y.af) | (x.prefix_len ^ y.prefix_len) | (x.scope ^ y.scope)) |
+               difference_of_bytes<sizeof x.word>(x.word, y.word);
+    } else if constexpr (EmbeddedMember<F>) {
+        return static_cast<std::uint64_t>(F::at(a)->value ^ F::at(b)->value);
+    } else if constexpr (!continues_run<F::owner>(F::index)) {
+        return difference_of_bytes<size_of_run<F>()>(F::at(a), F::at(b));
+    } else {
+        return 0;
+    }
+}
+
 template <const Record &R>
 [[gnu::always_inline]] inline std::uint64_t difference_of(const mirk_object *a, const mirk_object *b) {
     std::uint64_t difference = 0;
-    walk<R>(cases{
-        [&]<IntegerMember F>(F) TARN_INLINE {
-            if constexpr (!continues_run<R>(F::index)) {
-                difference |= difference_of_bytes<size_of_run<F>()>(F::at(a), F::at(b));
-            }
-        },
-        [&]<RecordMember F>(F) TARN_INLINE { difference |= difference_of<*F::of>(F::at(a), F::at(b)); },
-        [&]<AddressMember F>(F) TARN_INLINE {
-            const ip_address &x = *F::at(a), &y = *F::at(b);
-            difference |=
-                static_cast<std::uint64_t>((x.af ^ y.af) | (x.prefix_len ^ y.prefix_len) | (x.scope ^ y.scope));
-            difference |= difference_of_bytes<sizeof x.word>(x.word, y.word);
-        },
-        [&]<EnumerationMember F>(F) TARN_INLINE { difference |= F::at(a)->value ^ F::at(b)->value; },
-        [&]<BooleanMember F>(F) TARN_INLINE { difference |= (F::at(a)->value != 0) != (F::at(b)->value != 0) ? 1 : 0; },
-    });
+    walk<R>([&]<class F>(F) TARN_INLINE { difference |= difference_of_member<F>(a, b); });
     return difference;
 }
 
