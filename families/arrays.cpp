@@ -25,8 +25,9 @@ struct ElementShape {
     decltype(&Assignment<schema::lumo_tarn_debug_setting>::post_copyout_cleanup) post_copyout_cleanup;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_update) offset_update;
     decltype(&References<schema::lumo_tarn_debug_setting>::offset_remove) offset_remove;
-    decltype(&shortcut::initialize_elements<schema::lumo_tarn_debug_setting>)
-        initialize_elements;  // null in the shared library
+    // Null in the shared library.
+    bool (*initialize_elements)(mirk_handle *h, std::uint32_t ctx_id, mirk_object *first, std::uint64_t n,
+                                const std::uint32_t *err);
 
     mirk_object *at(mirk_object *block, std::uint64_t index) const {
         return reinterpret_cast<mirk_object *>(bytes_of(block) + index * base);
@@ -39,7 +40,9 @@ struct ElementShape {
 template <const Record &R>
 constexpr decltype(ElementShape::initialize_elements) initialize_elements = [] {
     if constexpr (runtime_inside) {
-        return shortcut::initialize_elements<R>;
+        return [](mirk_handle *h, std::uint32_t ctx_id, mirk_object *first, std::uint64_t n, const std::uint32_t *err) {
+            return shortcut::initialize<R, shortcut::Memory::fresh>(h, ctx_id, first, n, flag::nested, err);
+        };
     } else {
         return nullptr;
     }

@@ -214,8 +214,8 @@ std::uint32_t Lifecycle<R>::sizeof_instance(const mirk_handle *h) {
 template <const Record &R>
 mirk_object *Lifecycle<R>::create_internal(mirk_handle *h, std::uint32_t ctx_id) {
     if constexpr (runtime_inside) {
-        mirk_object *object = nullptr;
-        if (!create_is_off(h) && shortcut::create<R>(h, ctx_id, object)) {
+        if (shortcut::Types types; !create_is_off(h) && shortcut::can_make<R>(h, ctx_id, types)) {
+            mirk_object *object = shortcut::make<R>(h, ctx_id, types);
             return object != nullptr ? object : static_cast<mirk_object *>(no_object(h, sentinel()));
         }
     }
@@ -244,9 +244,8 @@ void Lifecycle<R>::initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object 
                               std::uint32_t notify, std::uint32_t skip_count, std::uint8_t flags, void *sttr_base,
                               std::uint32_t *err) {
     if constexpr (runtime_inside) {
-        if (skip_count == 0 && type == &TypeInfo<R>::own && shortcut::initialize<R>(h, ctx_id, object, flags, err)) {
-            return;
-        }
+        const bool is_own = skip_count == 0 && type == &TypeInfo<R>::own;
+        if (is_own && shortcut::initialize<R, shortcut::Memory::any>(h, ctx_id, object, 1, flags, err)) return;
     }
     Areas areas{sttr_base, schema::layout<R>.base_size};
     if (!initialize_any(h, ctx_id, object, type, notify, skip_count, flags, areas, err)) return;
@@ -271,7 +270,7 @@ std::uint32_t Lifecycle<R>::initialize_new(mirk_handle *h, std::uint32_t ctx_id,
                                            std::uint8_t flags, void *sttr_base) {
     std::uint32_t error = 0;
     if constexpr (runtime_inside) {
-        if (shortcut::initialize<R>(h, ctx_id, object, flags, &error)) return error;
+        if (shortcut::initialize<R, shortcut::Memory::any>(h, ctx_id, object, 1, flags, &error)) return error;
     }
     if constexpr (any_member<R>(schema::is_embedded)) {
         const Begun begun = begin_owner(h, ctx_id, object, &TypeInfo<R>::own, flags, sttr_base);

@@ -42,7 +42,7 @@ template <class Object>
 template <class F>
 [[gnu::always_inline]] inline bool set_value(mirk_handle *h, mirk_object *object, auto value,
                                              const std::uint32_t *err) {
-    const bool applies = *err == 0 && object != nullptr && object->tinfo != nullptr && mirk_inside_is_unobserved(h);
+    const bool applies = *err == 0 && object != nullptr && object->tinfo != nullptr && is_plain(h);
     if (!applies) return false;
     auto *member = F::at(object);
     if constexpr (EnumerationMember<F>) {

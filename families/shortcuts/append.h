@@ -27,7 +27,7 @@ template <class A>
     const auto new_count = static_cast<typename A::Count>(index + 1);
     if (block == nullptr || *A::Counter::at(object) != index || new_count <= index) return false;
     Types types;
-    if (!mirk_inside_is_unobserved(h) || !types.bind<made<A::element>>(h, ctx_id)) return false;
+    if (!can_make<A::element>(h, ctx_id, types)) return false;
     if (!mirk_inside_grow_block(h, ctx_id, &block, A::base * (std::size_t{index} + 1))) return false;
 
     h->last_error = 0;
@@ -42,8 +42,8 @@ template <class A>
     mirk_object *element = A::element_of(object, index);
     std::memset(bytes_of(element), 0, A::base);
     put_headers<A::element, Memory::fresh>(element, types, flag::nested);
-    count_trees<made<A::element>, Change::created>(types, 1);
-    mirk_inside_count_lookups(h, std::uint64_t{index} * n_assigned<A::element> + n_made<A::element>);
+    count_made<A::element>(h, types, 1);
+    mirk_inside_count_lookups(h, std::uint64_t{index} * n_assigned<A::element>);
     Assignment<A::element>::set(h, ctx_id, element, value, err);
     return true;
 }

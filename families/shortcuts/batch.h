@@ -15,10 +15,19 @@
 extern "C" {
 bool mirk_inside_is_unobserved(const mirk_handle *h);
 void mirk_inside_count_lookups(mirk_handle *h, std::uint64_t n);
+mirk_type_info **mirk_inside_numbered_types(mirk_handle *h);
 mirk_type_info *mirk_inside_known_type(mirk_handle *h, std::uint32_t ctx_id, mirk_type_info *type);
+void *mirk_inside_allocate(mirk_handle *h, std::uint32_t ctx_id, std::size_t size);
+void mirk_inside_release(mirk_handle *h, std::uint32_t ctx_id, void *p, std::size_t size);
 }
 
 namespace tarn::shortcut {
+
+inline bool has_states(const mirk_handle *h) { return h->sttr_desc != nullptr && h->sttr_desc->sttr_mode != 0xDDDD; }
+// True if the shortcuts for handles without tracking apply.
+[[gnu::always_inline]] inline bool is_plain(const mirk_handle *h) {
+    return !has_states(h) && mirk_inside_is_unobserved(h);
+}
 
 // The type records that objects on a handle point to, by number.
 class Types {
@@ -26,22 +35,28 @@ public:
     // False: one of these types has no private copy yet. The general way makes it.
     template <const Counts &counts>
     [[gnu::always_inline]] bool bind(mirk_handle *h, std::uint32_t ctx_id) {
-        return h->private_types == 0 || bind_private<counts>(h, ctx_id);
+        if (h->private_types == 0) return true;
+        records_ = mirk_inside_numbered_types(h);
+        if (records_ == nullptr) return false;
+        const auto is_known = [&](std::size_t number, std::uint32_t)
+                                  TARN_INLINE { return records_[number] != nullptr; };
+        return each_type<counts>(is_known) || find<counts>(h, ctx_id);
     }
     mirk_type_info *operator[](std::size_t number) const { return records_[number]; }
 
 private:
+    static_assert(n_types <= 64, "the runtime has no room for so many types");
+
     template <const Counts &counts>
-    [[gnu::noinline]] bool bind_private(mirk_handle *h, std::uint32_t ctx_id) {
-        records_ = private_.data();
+    [[gnu::noinline]] static bool find(mirk_handle *h, std::uint32_t ctx_id) {
+        mirk_type_info **const records = mirk_inside_numbered_types(h);
         return each_type<counts>([&](std::size_t number, std::uint32_t) {
-            private_[number] = mirk_inside_known_type(h, ctx_id, own_types[number]);
-            return private_[number] != nullptr;
+            records[number] = mirk_inside_known_type(h, ctx_id, own_types[number]);
+            return records[number] != nullptr;
         });
     }
 
     mirk_type_info *const *records_ = own_types.data();
-    std::array<mirk_type_info *, n_types> private_;
 };
 
 // Changes the counters of a type for n objects. The general way traces a damaged number of variants once per object.

@@ -69,7 +69,7 @@ template <const Record &R>
 template <const Record &R>
 [[gnu::always_inline]] inline bool destroy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
                                            std::uint32_t free_it) {
-    if (!mirk_inside_is_unobserved(h)) return false;
+    if (!is_plain(h)) return false;
     if constexpr (is_closed(R)) {
         Types types;
         if (!types.bind<destroyed<R>>(h, ctx_id) || unusual_tree_at_end<R>(object, types) != 0) return false;
@@ -83,7 +83,7 @@ template <const Record &R>
     }
     if (free_it == 0) return true;
     object->tinfo = nullptr;
-    release(h, ctx_id, object);
+    mirk_inside_release(h, ctx_id, object, schema::layout<R>.base_size);
     return true;
 }
 

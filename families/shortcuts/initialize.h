@@ -34,46 +34,39 @@ template <const Record &R, Memory memory>
 
 // False: the shortcut does not apply, and nothing was changed.
 template <const Record &R>
-[[gnu::always_inline]] inline bool initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *object,
-                                              std::uint8_t flags, const std::uint32_t *err) {
-    Types types;
-    if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
-    h->last_error = 0;
-    put_headers<R, Memory::any>(object, types, flags);
-    count_trees<made<R>, Change::created>(types, 1);
-    mirk_inside_count_lookups(h, n_made<R>);
-    return true;
+[[gnu::always_inline]] inline bool can_make(mirk_handle *h, std::uint32_t ctx_id, Types &types) {
+    return is_plain(h) && types.bind<made<R>>(h, ctx_id);
 }
-
-// The same in new memory. object is null if there is none.
 template <const Record &R>
-[[gnu::always_inline]] inline bool create(mirk_handle *h, std::uint32_t ctx_id, mirk_object *&object) {
-    Types types;
-    if (!mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
-    object = static_cast<mirk_object *>(allocate(h, ctx_id, schema::layout<R>.base_size));
-    if (object == nullptr) return true;
+[[gnu::always_inline]] inline void count_made(mirk_handle *h, const Types &types, std::uint64_t n) {
     h->last_error = 0;
-    std::memset(bytes_of(object), 0, schema::layout<R>.base_size);
-    put_headers<R, Memory::fresh>(object, types, 0);
-    count_trees<made<R>, Change::created>(types, 1);
-    mirk_inside_count_lookups(h, n_made<R>);
-    return true;
-}
-
-// The same for n elements in fresh memory.
-template <const Record &R>
-bool initialize_elements(mirk_handle *h, std::uint32_t ctx_id, mirk_object *first, std::uint64_t n,
-                         const std::uint32_t *err) {
-    Types types;
-    if (*err != 0 || !mirk_inside_is_unobserved(h) || !types.bind<made<R>>(h, ctx_id)) return false;
-    h->last_error = 0;
-    for (std::uint64_t i = 0; i < n; ++i) {
-        mirk_object *element = element_at<R>(first, static_cast<std::uint32_t>(i));
-        put_headers<R, Memory::fresh>(element, types, flag::nested);
-    }
     count_trees<made<R>, Change::created>(types, n);
     mirk_inside_count_lookups(h, n * n_made<R>);
+}
+
+// Initializes n elements. False: the shortcut does not apply, and nothing was changed.
+template <const Record &R, Memory memory>
+[[gnu::always_inline]] inline bool initialize(mirk_handle *h, std::uint32_t ctx_id, mirk_object *first, std::uint64_t n,
+                                              std::uint8_t flags, const std::uint32_t *err) {
+    Types types;
+    if (*err != 0 || !can_make<R>(h, ctx_id, types)) return false;
+    for (std::uint64_t i = 0; i < n; ++i) {
+        put_headers<R, memory>(element_at<R>(first, static_cast<std::uint32_t>(i)), types, flags);
+    }
+    count_made<R>(h, types, n);
     return true;
+}
+
+// A new tree, or null if there is no memory.
+template <const Record &R>
+[[gnu::always_inline]] inline mirk_object *make(mirk_handle *h, std::uint32_t ctx_id, const Types &types) {
+    constexpr std::size_t size = schema::layout<R>.base_size;
+    auto *object = static_cast<mirk_object *>(mirk_inside_allocate(h, ctx_id, size));
+    if (object == nullptr) return nullptr;
+    std::memset(bytes_of(object), 0, size);
+    put_headers<R, Memory::fresh>(object, types, 0);
+    count_made<R>(h, types, 1);
+    return object;
 }
 
 }  // namespace tarn::shortcut

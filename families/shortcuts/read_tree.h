@@ -115,7 +115,7 @@ template <const Record &R>
                                         std::uint32_t length, std::uint32_t reuse, std::uint32_t *err,
                                         std::uint32_t &consumed) {
     auto *const frame = static_cast<std::uint8_t *>(buffer);
-    if (*err != 0 || frame == nullptr || object == nullptr || !mirk_inside_is_unobserved(h)) return false;
+    if (*err != 0 || frame == nullptr || object == nullptr || !is_plain(h)) return false;
     if constexpr (is_closed(R)) {
         if (static_cast<std::int32_t>(length) < static_cast<std::int32_t>(frame_size<R>)) return false;
         Types types;

@@ -90,7 +90,7 @@ template <const Record &R>
 [[gnu::always_inline]] inline std::uint32_t write(mirk_handle *h, void *buffer, mirk_object *object,
                                                   std::int32_t remaining, const std::uint32_t *err) {
     auto *const begin = static_cast<std::uint8_t *>(buffer);
-    if (*err != 0 || begin == nullptr || object == nullptr || !mirk_inside_is_unobserved(h)) return 0;
+    if (*err != 0 || begin == nullptr || object == nullptr || !is_plain(h)) return 0;
     std::uint8_t *end = nullptr;
     if constexpr (is_closed(R)) {
         if (remaining < static_cast<std::int32_t>(frame_size<R>)) return 0;

@@ -145,6 +145,7 @@ public:
     }
 
     size_t size() const { return entries_; }
+    bool is_empty() const { return (buckets_.size() | reserved_) == 0; }
     size_t bytes() const { return std::max(buckets_.size(), reserved_) * sizeof(Bucket); }
     // Upper bound of bytes() after reserving buckets for a block of this size at any address.
     size_t bytes_with(size_t block_size) const {

@@ -48,9 +48,30 @@ public:
 
     // The caller fills in the record at once. Its serial must not be 0.
     [[gnu::always_inline]] Place allocate(size_t size) {
+        if (const Place *kept = reuse(size); kept != nullptr) return *kept;
         const Place place = size < cells_below_ ? allocate_cell(size) : allocate_large(size);
         if (place.address != nullptr) ++live_;
         return place;
+    }
+
+    // The same, if a cell of this size was kept by the last release. Otherwise null.
+    [[gnu::always_inline]] const Place *reuse(size_t size) {
+        if (size > largest_cell) return nullptr;
+        const Place &kept = kept_[class_of(size)];
+        if (kept.block->serial != 0) return nullptr;
+        ++live_;
+        return &kept;
+    }
+
+    // The block at the address, if it is live and its cell was kept by its last release. Otherwise null.
+    [[gnu::always_inline]] Block *find_kept(const void *address, size_t size) const {
+        if (size > largest_cell) return nullptr;
+        const Place &kept = kept_[class_of(size)];
+        return kept.address == address && kept.block->serial != 0 ? kept.block : nullptr;
+    }
+    [[gnu::always_inline]] void release_kept(Block *block) {
+        --live_;
+        block->serial = 0;
     }
 
     [[gnu::always_inline]] Place find(void *address) const {
@@ -62,7 +83,7 @@ public:
     [[gnu::always_inline]] void release(const Place &place) {
         --live_;
         if (place.slab != nullptr) {
-            release_cell(place.block, place.slab);
+            release_cell(place);
         } else {
             large_.erase(address_of(place.address));
             std::free(place.address);
@@ -94,6 +115,8 @@ private:
     static constexpr size_t page_size = 4096;
     static constexpr size_t slab_size = 4 * page_size;
     static constexpr size_t most_spare = 4;
+    static inline Block in_use{1, 0, 0, false};
+    static constexpr Place none_kept{nullptr, &in_use, nullptr};
 
     static constexpr std::array<uint32_t, 20> cell_sizes{16,  32,  48,  64,  80,  96,  112, 128, 160, 192,
                                                          224, 256, 320, 384, 448, 512, 640, 768, 896, largest_cell};
@@ -159,8 +182,10 @@ private:
         }
     };
 
+    static size_t class_of(size_t size) { return class_of_units[(size + unit - 1) / unit]; }
+
     Place allocate_cell(size_t size) {
-        const uint32_t size_class = class_of_units[(size + unit - 1) / unit];
+        const auto size_class = static_cast<uint32_t>(class_of(size));
         Slab *slab = partial_[size_class];
         if (slab == nullptr) [[unlikely]] {
             slab = start_slab(size_class);
@@ -171,7 +196,15 @@ private:
         return place;
     }
 
-    void release_cell(Block *block, Slab *slab) {
+    // Keeps the cell if the one that was kept before is in use.
+    void release_cell(const Place &place) {
+        Place &kept = kept_[place.slab->size_class];
+        if (kept.address != place.address && kept.block->serial == 0) return give_back(place.block, place.slab);
+        kept = place;
+        place.block->serial = 0;
+    }
+
+    void give_back(Block *block, Slab *slab) {
         if (slab->is_full()) link(slab);
         slab->give_back(block);
         if (slab->live == 0) retire(slab);
@@ -197,6 +230,7 @@ private:
 
     // Null if allocation fails.
     [[gnu::noinline]] Slab *start_slab(uint32_t size_class) {
+        if (spare_ == nullptr) give_back_kept();
         Slab *slab = spare_;
         if (slab != nullptr) {
             spare_ = slab->next;
@@ -209,7 +243,15 @@ private:
         return slab;
     }
 
-    // Some empty slabs are kept, for whatever class needs one next.
+    // The kept cells may be the last ones of their slabs.
+    void give_back_kept() {
+        for (Place &kept : kept_) {
+            if (kept.block->serial == 0) give_back(kept.block, kept.slab);
+            kept = none_kept;
+        }
+    }
+
+    // Some empty slabs are spare, for whatever class needs one next.
     [[gnu::noinline]] void retire(Slab *slab) {
         unlink(slab);
         if (spare_count_ < most_spare) {
@@ -268,6 +310,13 @@ private:
     AddressMap<Block, unit> large_;
     AddressMap<Slab *, page_size> slabs_;  // by page
     std::array<Slab *, cell_sizes.size()> partial_{};
+    // One cell of each class that is not given back to its slab, so that a block which is made and released again and
+    // again takes few steps. Whether it is live shows its serial.
+    std::array<Place, cell_sizes.size()> kept_ = [] {
+        std::array<Place, cell_sizes.size()> all;
+        all.fill(none_kept);
+        return all;
+    }();
     Slab *spare_ = nullptr;
     size_t spare_count_ = 0;
 };

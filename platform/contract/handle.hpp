@@ -138,6 +138,8 @@ struct alignas(64) Handle : mirk_handle {
         Luid luid;
     };
     std::array<RecentType, 256> recent_types{};
+    // For a library that is compiled as one program with this runtime: the private copies of its types, by its numbers.
+    std::array<mirk_type_info *, 64> numbered_types{};
 
     ObjectTable<uint32_t> offsets;
     ObjectTable<RaData> ra_data;

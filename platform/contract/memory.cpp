@@ -21,19 +21,18 @@ std::mutex plain_lock;
 mirk::AllocationFailure plain_failure;
 
 mirk::AllocationFailure &failure_of(Handle &handle, mirk_platform_testing_allocator allocator) {
-    return handle.allocation_failures.at(static_cast<size_t>(allocator));
+    return handle.allocation_failures[static_cast<size_t>(allocator)];
 }
 
-bool within_ceilings(const Handle &handle, size_t size, bool has_offsets) {
+[[gnu::always_inline]] inline bool within_ceilings(const Handle &handle, size_t size, uint64_t offset_bytes) {
     if (size > handle.request_ceiling || size > handle.total_ceiling) return false;
-    const uint64_t offsets = has_offsets ? handle.offsets.bytes_with(size) : handle.offsets.bytes();
-    return handle.live_bytes + offsets <= handle.total_ceiling - size;
+    return handle.live_bytes + offset_bytes <= handle.total_ceiling - size;
 }
 
 void *allocate(Handle &handle, uint32_t ctx_id, size_t size) {
     if (failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) return nullptr;
     const bool has_offsets = mirk::tracks(&handle);
-    if (!within_ceilings(handle, size, has_offsets)) {
+    if (!within_ceilings(handle, size, has_offsets ? handle.offsets.bytes_with(size) : handle.offsets.bytes())) {
         ++handle.ceiling_refusals;
         return nullptr;
     }
@@ -140,18 +139,48 @@ int mirk_own_count_notify(void *mem_ctx, uint64_t *address, int64_t delta, uint3
     return 0;
 }
 
-// The rest is for a library that is compiled as one program with this runtime.
+// The rest is for a library that is compiled as one program with this runtime. Marked functions are inlined there.
+#define MIRK_INSIDE [[gnu::used, gnu::always_inline]] inline
+
 bool mirk_inside_is_observed(const mirk_handle *h) { return mirk::is_observed(h); }
 
 bool mirk_inside_is_unhooked(const mirk_handle *h) { return static_cast<const Handle *>(h)->unobserved; }
 
-// Loads and compares all conditions, so that one branch decides.
-bool mirk_inside_is_unobserved(const mirk_handle *h) {
-    const auto &handle = *static_cast<const Handle *>(h);
-    const bool own_notifications =
-        (h->write_notify == mirk_own_write_notify) & (h->count_notify == mirk_own_count_notify);
-    const bool untracked = h->sttr_desc == nullptr || h->sttr_desc->sttr_mode == mirk::tracking_off;
-    return handle.unobserved & own_notifications & (h->domain.opaque[0] == h) & untracked;
+// Whether it tracks states is another question.
+MIRK_INSIDE bool mirk_inside_is_unobserved(const mirk_handle *h) {
+    const bool own_notifications = h->write_notify == mirk_own_write_notify && h->count_notify == mirk_own_count_notify;
+    return own_notifications && static_cast<const Handle *>(h)->unobserved && h->domain.opaque[0] == h;
+}
+
+// Has the effect of obj_alloc on an unobserved handle without tracking. The caller sets all bytes of the block, so that
+// nobody sees how new blocks are filled.
+MIRK_INSIDE void *mirk_inside_allocate(mirk_handle *h, uint32_t ctx_id, size_t size) {
+    Handle &handle = *own(h);
+    const bool is_usual = h->obj_alloc == obj_alloc && h->mem_ctx == h && handle.offsets.is_empty();
+    if (is_usual && within_ceilings(handle, size, 0)) {
+        if (const mirk::Blocks::Place *place = handle.blocks.reuse(size); place != nullptr) {
+            ++failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).calls;
+            *place->block = {++handle.blocks_made, size, ctx_id, false};
+            handle.live_bytes += size;
+            return place->address;
+        }
+    }
+    return h->obj_alloc(h->mem_ctx, ctx_id, size);
+}
+
+// Has the effect of obj_free on such a handle. The block is expected to have the given size, but may have any.
+MIRK_INSIDE void mirk_inside_release(mirk_handle *h, uint32_t ctx_id, void *p, size_t size) {
+    Handle &handle = *own(h);
+    const bool is_usual = h->obj_free == obj_free && h->mem_ctx == h && handle.offsets.is_empty() &&
+                          handle.ra_data.size() == 0 && handle.references.oid_of.empty();
+    if (is_usual) {
+        if (mirk::Block *block = handle.blocks.find_kept(p, size); block != nullptr) {
+            handle.live_bytes -= block->size;
+            handle.blocks.release_kept(block);
+            return;
+        }
+    }
+    h->obj_free(h->mem_ctx, ctx_id, p);
 }
 
 void mirk_inside_count_lookups(mirk_handle *h, uint64_t n) {
@@ -170,7 +199,7 @@ bool mirk_inside_grow_block(mirk_handle *h, uint32_t ctx_id, void **block, size_
     const uintptr_t begin = mirk::address_of(old.address);
     mirk::Blocks::Place grown{};
     if (!failure_of(handle, MIRK_PLATFORM_TESTING_OBJ_ALLOC).next()) {
-        if (within_ceilings(handle, size, false)) {
+        if (within_ceilings(handle, size, handle.offsets.bytes())) {
             grown = handle.blocks.resize(old, size);
         } else {
             ++handle.ceiling_refusals;

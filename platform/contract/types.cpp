@@ -65,6 +65,7 @@ static void type_store_put(void *type_store, uint32_t ctx_id, const char *key, m
         return 0;
     });
     handle.recent_types = {};
+    handle.numbered_types = {};
 }
 
 static mirk_type_info_copy *type_store_get(void *type_store, uint32_t ctx_id, const char *key) {
@@ -119,14 +120,14 @@ mirk_type_info *mirk_type_info_ptr_get(mirk_handle *h, uint32_t ctx_id, mirk_typ
     return find_type(handle, ctx_id, type, init);
 }
 
-// For a library that is compiled as one program with this runtime: the private copy of a type, or null if there is none
-// yet. No hook is called for the look-up.
+// For a library that is compiled as one program with this runtime: room for the private copies of its types, which is
+// cleared when another copy is stored. Null if the program has replaced the type store.
+mirk_type_info **mirk_inside_numbered_types(mirk_handle *h) {
+    return h->type_store_get == type_store_get ? own(h)->numbered_types.data() : nullptr;
+}
+
+// The private copy of a type, or null if there is none yet. No hook is called for the look-up.
 mirk_type_info *mirk_inside_known_type(mirk_handle *h, uint32_t ctx_id, mirk_type_info *type) {
-    if (h->type_store_get != type_store_get) return nullptr;
-    const Handle::RecentType &recent = recent_type(*own(h), type);
-    if (recent.type == type && std::memcmp(recent.luid.data(), type->luid, sizeof type->luid) == 0) {
-        return &recent.copy->info;
-    }
     mirk_type_info_copy *copy = type_store_get(h->type_store, ctx_id, type->luid_text);
     return copy != nullptr ? &copy->info : nullptr;
 }

@@ -106,6 +106,38 @@ TEST_F(Cells, AFreedCellIsUsedAgain) {
     EXPECT_EQ(allocate(100), first);
 }
 
+TEST_F(Cells, AReleasedCellIsKeptForTheNextBlockOfItsSize) {
+    EXPECT_EQ(blocks.reuse(100), nullptr);
+    char *const first = allocate(100), *const second = allocate(100);
+    EXPECT_EQ(blocks.find_kept(first, 100), nullptr);
+    release(first);
+    EXPECT_EQ(blocks.find_kept(first, 100), nullptr) << "not live";
+    release(second);
+    EXPECT_EQ(blocks.reuse(200), nullptr);
+
+    const Blocks::Place *const kept = blocks.reuse(97);
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(kept->address, first);
+    *kept->block = {++serial, 97, 0, false};
+    EXPECT_EQ(blocks.size(), 1u);
+    EXPECT_EQ(blocks.reuse(97), nullptr) << "in use";
+    EXPECT_EQ(blocks.find_kept(first, 100), blocks.find(first).block);
+    EXPECT_EQ(blocks.find_kept(first, 200), nullptr);
+    EXPECT_EQ(blocks.find_kept(second, 100), nullptr);
+
+    // While the kept cell is in use, another takes its place.
+    char *const third = allocate(100);
+    release(third);
+    blocks.release(blocks.find(first));
+    EXPECT_EQ(blocks.size(), 0u);
+    EXPECT_EQ(allocate(100), third);
+    EXPECT_EQ(blocks.find_kept(third, 100), blocks.find(third).block);
+    blocks.release_kept(blocks.find_kept(third, 100));
+    EXPECT_FALSE(is_live(third));
+    EXPECT_EQ(blocks.size(), 0u);
+    EXPECT_EQ(blocks.reuse(Blocks::largest_cell + 1), nullptr);
+}
+
 TEST_F(Cells, AnEmptySlabServesAnotherSize) {
     char *const small = allocate(16);
     release(small);
