@@ -3,6 +3,7 @@
 #include "core/guard.h"
 #include "families/lifecycle.h"
 #include "families/references.h"
+#include "families/shortcuts/shortcuts.h"
 #include "families/wire.h"
 #include "schema/catalogue.h"
 
@@ -35,6 +36,15 @@ void Copy<R>::copy(mirk_handle *h, std::uint32_t ctx_id, mirk_object *source, mi
     if (source == nullptr || destination == nullptr || buffer == nullptr) {
         fail(h, err, ENOENT);
         return;
+    }
+    if constexpr (runtime_inside && shortcut::is_closed(R)) {
+        // A sticky create has another result if there is no memory.
+        const bool creates = *destination == nullptr && h->cr_mode == 0;
+        if (creates && shortcut::clone<R>(h, ctx_id, source, *destination, buffer, size)) {
+            mirk_lumo_ui_tarn_type_trace_init();
+            if (*destination == nullptr) fail(h, err, ENOMEM);
+            return;
+        }
     }
     const std::uint32_t written =
         WireWrite<R>::marshal_for_clone(h, ctx_id, buffer, source, static_cast<std::int32_t>(size), err);

@@ -8,6 +8,7 @@
 #include "families/shortcuts/access.h"
 #include "families/shortcuts/append.h"
 #include "families/shortcuts/compare.h"
+#include "families/shortcuts/copy_tree.h"
 #include "families/shortcuts/destroy.h"
 #include "families/shortcuts/initialize.h"
 #include "families/shortcuts/read_tree.h"
