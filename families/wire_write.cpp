@@ -123,7 +123,8 @@ template <const Record &R>
 std::uint32_t WireWrite<R>::marshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                     std::int32_t remaining, std::uint32_t *err) {
     if constexpr (runtime_inside) {
-        if (const auto written = shortcut::write<R>(h, buffer, instance, remaining, err); written != 0) return written;
+        const auto written = shortcut::write<R>(h, ctx_id, buffer, instance, remaining, err);
+        if (written != 0) return written;
     }
     return write(h, ctx_id, buffer, instance, {remaining, 0}, err);
 }
@@ -132,7 +133,8 @@ template <const Record &R>
 std::uint32_t WireWrite<R>::marshal_for_clone(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                               std::int32_t remaining, std::uint32_t *err) {
     if constexpr (runtime_inside) {
-        if (const auto written = shortcut::write<R>(h, buffer, instance, remaining, err); written != 0) return written;
+        const auto written = shortcut::write<R>(h, ctx_id, buffer, instance, remaining, err);
+        if (written != 0) return written;
     }
     return write(h, ctx_id, buffer, instance, {remaining, 1}, err);
 }

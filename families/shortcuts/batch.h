@@ -24,6 +24,8 @@ void mirk_inside_release(mirk_handle *h, std::uint32_t ctx_id, void *p, std::siz
 namespace tarn::shortcut {
 
 inline bool has_states(const mirk_handle *h) { return h->sttr_desc != nullptr && h->sttr_desc->sttr_mode != 0xDDDD; }
+// False if the mode is corrupted, too: the general way ends the process.
+inline bool tracks_states(const mirk_handle *h) { return has_states(h) && h->sttr_desc->sttr_mode == 0xEEEE; }
 // True if the shortcuts for handles without tracking apply.
 [[gnu::always_inline]] inline bool is_plain(const mirk_handle *h) {
     return !has_states(h) && mirk_inside_is_unobserved(h);

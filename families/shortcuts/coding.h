@@ -33,16 +33,17 @@ template <class T>
     return to_or_from_big_endian(value);
 }
 
-// The head of a usual frame: variant 0, flag 0, and a jump from its own start to the end of the frame.
+// The head of a usual frame: variant 0, a flag without RA data, and a jump from its own start to the end of the frame.
 inline constexpr std::uint32_t jump_offset = 2;
 static_assert(record_head == jump_offset + sizeof(std::uint32_t));
 
-[[gnu::always_inline]] inline void put_head(std::uint8_t *to, std::uint32_t size) {
-    put(to, std::uint16_t{0});
+[[gnu::always_inline]] inline void put_head(std::uint8_t *to, std::uint32_t size, std::uint8_t wire_flag = 0) {
+    put(to, std::uint16_t{wire_flag});
     put(to + jump_offset, size - jump_offset);
 }
-[[gnu::always_inline]] inline std::uint32_t unusual_head(const std::uint8_t *from, std::uint32_t size) {
-    return get<std::uint16_t>(from) | (get<std::uint32_t>(from + jump_offset) ^ (size - jump_offset));
+[[gnu::always_inline]] inline std::uint32_t unusual_head(const std::uint8_t *from, std::uint32_t size,
+                                                         std::uint8_t wire_flag = 0) {
+    return (get<std::uint16_t>(from) ^ wire_flag) | (get<std::uint32_t>(from + jump_offset) ^ (size - jump_offset));
 }
 
 template <class Visit>

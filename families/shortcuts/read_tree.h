@@ -3,7 +3,7 @@
 #pragma once
 
 #include "families/frame_reader.h"
-#include "families/shortcuts/coding.h"
+#include "families/shortcuts/tracked.h"
 
 namespace tarn::shortcut {
 
@@ -115,8 +115,12 @@ template <const Record &R>
                                         std::uint32_t length, std::uint32_t reuse, std::uint32_t *err,
                                         std::uint32_t &consumed) {
     auto *const frame = static_cast<std::uint8_t *>(buffer);
-    if (*err != 0 || frame == nullptr || object == nullptr || !is_plain(h)) return false;
+    if (*err != 0 || frame == nullptr || object == nullptr || !mirk_inside_is_unobserved(h)) return false;
     if constexpr (is_closed(R)) {
+        if (has_states(h)) {
+            consumed = read_tracked<R>(h, ctx_id, frame, object, length);
+            return consumed != 0;
+        }
         if (static_cast<std::int32_t>(length) < static_cast<std::int32_t>(frame_size<R>)) return false;
         Types types;
         if (!types.bind<made<R>>(h, ctx_id) || unusual_frame<R>(frame) != 0) return false;
@@ -126,7 +130,7 @@ template <const Record &R>
         object->tinfo = types[record_number<R>];
         consumed = frame_size<R>;
     } else {
-        if (static_cast<std::int32_t>(length) < static_cast<std::int32_t>(record_head)) return false;
+        if (has_states(h) || static_cast<std::int32_t>(length) < static_cast<std::int32_t>(record_head)) return false;
         Batch batch{h, ctx_id};
         if (!batch.types.bind<reached<R>>(h, ctx_id) || get<std::uint16_t>(frame) != 0) return false;
         h->last_error = 0;

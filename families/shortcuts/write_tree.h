@@ -2,7 +2,7 @@
 // again: the bytes written so far are the same.
 #pragma once
 
-#include "families/shortcuts/coding.h"
+#include "families/shortcuts/tracked.h"
 
 namespace tarn::shortcut {
 
@@ -87,18 +87,20 @@ template <const Record &R>
 
 // Returns the number of bytes written, or 0 if the shortcut does not apply.
 template <const Record &R>
-[[gnu::always_inline]] inline std::uint32_t write(mirk_handle *h, void *buffer, mirk_object *object,
-                                                  std::int32_t remaining, const std::uint32_t *err) {
+[[gnu::always_inline]] inline std::uint32_t write(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
+                                                  mirk_object *object, std::int32_t remaining,
+                                                  const std::uint32_t *err) {
     auto *const begin = static_cast<std::uint8_t *>(buffer);
-    if (*err != 0 || begin == nullptr || object == nullptr || !is_plain(h)) return 0;
+    if (*err != 0 || begin == nullptr || object == nullptr || !mirk_inside_is_unobserved(h)) return 0;
     std::uint8_t *end = nullptr;
     if constexpr (is_closed(R)) {
+        if (has_states(h)) return write_tracked<R>(h, ctx_id, begin, object, remaining);
         if (remaining < static_cast<std::int32_t>(frame_size<R>)) return 0;
         end = write_closed<R>(begin, object);
         if (end == nullptr) return 0;
         mirk_inside_count_lookups(h, n_checked<R>);
     } else {
-        if (remaining < static_cast<std::int32_t>(record_head)) return 0;
+        if (has_states(h) || remaining < static_cast<std::int32_t>(record_head)) return 0;
         Output out{begin + remaining};
         end = write_open<R>(out, begin, object);
         if (end == nullptr) return 0;
