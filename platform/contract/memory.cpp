@@ -229,6 +229,15 @@ void mirklib_free(void *, uint32_t, void *p) { std::free(p); }
 
 size_t mirk_platform_live_blocks(mirk_handle *h) { return own(h)->blocks.size(); }
 
+uint64_t mirk_platform_handle_limit_growth(mirk_handle *h, uint64_t bytes) {
+    Handle &handle = *own(h);
+    const uint64_t counted = handle.live_bytes + handle.offsets.bytes(), ceiling = handle.total_ceiling;
+    if (ceiling > counted && ceiling - counted > bytes) handle.total_ceiling = counted + bytes;
+    return ceiling;
+}
+
+void mirk_platform_handle_set_total_ceiling(mirk_handle *h, uint64_t bytes) { own(h)->total_ceiling = bytes; }
+
 uint64_t mirk_platform_live_bytes(mirk_handle *h) { return own(h)->live_bytes; }
 
 uint64_t mirk_platform_ceiling_refusals(mirk_handle *h) { return own(h)->ceiling_refusals; }

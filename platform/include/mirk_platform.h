@@ -134,6 +134,11 @@ MIRK_PLATFORM_API uint64_t mirk_platform_live_bytes(mirk_handle *h);
 /** Returns how many requests obj_alloc has denied because of request_ceiling or total_ceiling. Operations report
  * ENOMEM for these as for a lack of memory; this number distinguishes them. */
 MIRK_PLATFORM_API uint64_t mirk_platform_ceiling_refusals(mirk_handle *h);
+/** Lowers total_ceiling so that live blocks can grow by no more than this many bytes, for example while input from
+ * outside is read. Returns the previous total_ceiling, for mirk_platform_handle_set_total_ceiling(). */
+MIRK_PLATFORM_API uint64_t mirk_platform_handle_limit_growth(mirk_handle *h, uint64_t bytes);
+/** Sets total_ceiling, in bytes, from now on. */
+MIRK_PLATFORM_API void mirk_platform_handle_set_total_ceiling(mirk_handle *h, uint64_t bytes);
 
 /** A live block of obj_alloc. Blocks of size 0 also have distinct addresses. */
 typedef struct mirk_platform_block {

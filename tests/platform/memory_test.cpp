@@ -54,6 +54,33 @@ TEST(Memory, RequestsBeyondACeilingReturnNull) {
     EXPECT_EQ(h.alloc(11), nullptr);
 }
 
+TEST(Memory, GrowthCanBeLimitedForAWhile) {
+    Handle h({.request_ceiling = 1000, .total_ceiling = 1000});
+    void *a = h.alloc(100);
+    EXPECT_EQ(mirk_platform_handle_limit_growth(h, 50), 1000u);
+    EXPECT_EQ(h.alloc(51), nullptr);
+    void *b = h.alloc(50);
+    EXPECT_NE(b, nullptr);
+    EXPECT_EQ(mirk_platform_handle_limit_growth(h, 50), 150u) << "limits are lowered only";
+    EXPECT_EQ(h.alloc(1), nullptr);
+    mirk_platform_handle_set_total_ceiling(h, 1000);
+    EXPECT_EQ(mirk_platform_handle_limit_growth(h, UINT64_MAX), 1000u);
+    void *c = h.alloc(850);
+    EXPECT_NE(c, nullptr);
+    for (void *block : {a, b, c}) h.free(block);
+}
+
+TEST(Memory, LimitedGrowthCountsStateOffsets) {
+    Handle h({.tracking = Tracking::on});
+    void *a = h.alloc(1);
+    mirk_platform_handle_limit_growth(h, 137);
+    void *b = h.alloc(1);
+    EXPECT_NE(b, nullptr) << "a byte, and the offsets of one stretch of addresses";
+    EXPECT_EQ(h.alloc(1), nullptr);
+    h.free(a);
+    h.free(b);
+}
+
 TEST(Memory, TotalCeilingCountsTheStateOffsetsOfTheRequestedBlock) {
     constexpr uint64_t ceiling = uint64_t{260} << 20;
     Handle h({.tracking = Tracking::on, .total_ceiling = ceiling, .fresh_fill = 0});

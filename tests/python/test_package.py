@@ -534,7 +534,7 @@ def test_recordings_equal_the_recorded_messages(tmp_path: pathlib.Path):
 # ---- admission
 
 
-def test_a_frame_that_claims_more_than_it_contains_is_refused_before_it_is_read():
+def test_a_frame_that_claims_more_than_it_contains_is_refused_by_name():
     handle = lumo_tarn.Handle()
     frame = bytearray(lumo_tarn.DpTcList(on=handle).to_frame())
     for count in (1, 0x7FFFFFFF, 0xFFFFFFFF):
@@ -542,11 +542,23 @@ def test_a_frame_that_claims_more_than_it_contains_is_refused_before_it_is_read(
         with pytest.raises(OSError, match=f"lumo_tarn_dp_tc_list.tc_list claims {count} elements") as raised:
             lumo_tarn.DpTcList.from_frame(frame, on=handle)
         assert raised.value.errno == errno.EBADMSG
+    del raised  # its traceback refers to the record
     assert handle.live_blocks() == 0
     whole = bytearray(lumo_tarn.ClApplMsg(on=handle).to_frame())
     whole[54] = 1
     with pytest.raises(OSError, match="but 0 bytes are left"):
         next(lumo_tarn.messages(bytes(whole)))
+
+
+@pytest.mark.parametrize("tracked", [False, True])
+def test_elements_without_a_body_are_read_whatever_memory_they_take(tracked):
+    handle = lumo_tarn.Handle(tracked=tracked)
+    frame = bytearray(lumo_tarn.LumoInfoList(on=handle).to_frame())
+    head, end = bytes(frame[:6]), bytes(frame[10:])
+    count = 2000
+    body = count.to_bytes(4, "big") + bytes([0xFF, 0, 0, 0, 0, 4]) * count
+    read = lumo_tarn.LumoInfoList.from_frame(head[:2] + (4 + len(body)).to_bytes(4, "big") + body + end, on=handle)
+    assert len(read.lumo_info) == count
 
 
 def damaged_frames(message, tracked: bool, seed: int) -> list[bytes]:

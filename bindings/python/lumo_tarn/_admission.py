@@ -1,4 +1,4 @@
-"""The test that a frame contains the elements and characters that it claims, before it is read.
+"""Finds out whether a frame that could not be read claims more elements or characters than it contains.
 
 It follows a frame as the C function does; lumo_ui_tarn/admission.hpp gives the reasons for each step."""
 

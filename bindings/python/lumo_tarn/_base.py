@@ -213,13 +213,11 @@ class Record(Native):
     @classmethod
     def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
         """Creates a record from a frame. Raises OSError if the frame is invalid. EBADMSG means that it claims more
-        elements or characters than it can contain, which is tested before memory is allocated for them."""
-        on = on or handle()
-        if cls.owns_blocks:
-            admit_record(cls.record_name, bytes(frame), on.tracked)
+        elements or characters than it can contain. Memory is limited in proportion to the frame's length."""
+        on, frame = on or handle(), bytes(frame)
         record = cls(on=on)
-        record._handle.call(cls._function("unmarshal"), ffi.from_buffer(bytes(frame) + b"\0"), record.native,
-                            len(frame), 0)
+        with on.reading(frame, lambda: admit_record(cls.record_name, frame, on.tracked)):
+            on.call(cls._function("unmarshal"), ffi.from_buffer(frame + b"\0"), record.native, len(frame), 0)
         return record
 
     def _rendered(self, write: Callable[[Any, int, Any], Any]) -> str:
@@ -488,14 +486,13 @@ class Message(Native):
     @classmethod
     def from_frame(cls: type[M], frame: bytes, on: Handle | None = None) -> M:
         """Creates a message from a frame. Raises OSError if the frame is invalid, as Record.from_frame does."""
-        on = on or handle()
-        if cls.payload_type.owns_blocks:
-            admit_message(cls.payload_type.record_name, bytes(frame), on.tracked)
+        on, frame = on or handle(), bytes(frame)
         out, err = ffi.new(f"{cls.message_name} **"), ffi.new("uint32_t *")
-        cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(bytes(frame) + b"\0"), len(frame), err)
-        message = cls._taken(on, out[0])  # also after an error, so that it is destroyed
-        if err[0] != 0:
-            raise OSError(err[0], f"invalid frame of {cls.message_name}: {os.strerror(err[0])}")
+        with on.reading(frame, lambda: admit_message(cls.payload_type.record_name, frame, on.tracked)):
+            cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(frame + b"\0"), len(frame), err)
+            message = cls._taken(on, out[0])  # also after an error, so that it is destroyed
+            if err[0] != 0:
+                raise OSError(err[0], f"invalid frame of {cls.message_name}: {os.strerror(err[0])}")
         return message
 
     def to_xml(self) -> str:

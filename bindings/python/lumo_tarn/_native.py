@@ -3,12 +3,13 @@
 from __future__ import annotations
 
 import collections
+import contextlib
 import errno
 import os
 import threading
 import weakref
 from pathlib import Path
-from typing import Any, Callable, Deque, NoReturn, Tuple
+from typing import Any, Callable, Deque, Iterator, NoReturn, Tuple
 
 from ._cffi import ffi as ffi
 from ._installed import LIBRARIES
@@ -30,6 +31,9 @@ lib: Any = ffi.dlopen(_library(), os.RTLD_NOW | os.RTLD_NODELETE)
 CTX_ID = 1
 _BUFFER_TOO_SMALL = (errno.ENOMEM, errno.ENOSPC, errno.EMSGSIZE)
 _MAX_BUFFER_SIZE = 1 << 30
+# Bytes of memory for each byte of a frame. An element without a body takes 6 bytes of a frame, and as an instance with
+# state bytes at most 2,500.
+_GROWTH, _LEAST_GROWTH = 512, 1 << 16
 
 lib.mirk_lumo_ui_tarn_type_trace_init()
 lib.mirk_lumo_ui_tarn_message_trace_init()
@@ -101,6 +105,19 @@ class Handle:
         if err[0] != 0:
             raise OSError(err[0], os.strerror(err[0]))
         return result
+
+    @contextlib.contextmanager
+    def reading(self, frame: bytes, test: Callable[[], None]) -> Iterator[None]:
+        """While a frame is read, limits the memory that it can make the runtime allocate. If it cannot be read, the test
+        raises a better error, or else the error is raised. A test before reading would take far longer than reading."""
+        ceiling = lib.mirk_platform_handle_limit_growth(self.native, _GROWTH * len(frame) + _LEAST_GROWTH)
+        try:
+            yield
+        except OSError:
+            test()
+            raise
+        finally:
+            lib.mirk_platform_handle_set_total_ceiling(self._native, ceiling)
 
     def grown(self, guess: int, write: Callable[[Any, int, Any], Any]) -> bytes:
         """Returns what write(buffer, size, err) writes. Retries with a larger buffer if it is too small. The buffer has
