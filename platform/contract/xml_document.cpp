@@ -55,20 +55,27 @@ extern "C" void refuse_doctype(void *context, const xmlChar *, const xmlChar *, 
     xmlStopParser(parser);
 }
 
-// The parser compares each attribute of an element with all others, and searches namespaces one by one.
-constexpr int most_attributes = 256;
+// The parser compares each attribute of an element with all others, and searches namespaces and, beyond some thousands,
+// names one by one.
+constexpr int most_attributes = 256, most_names = 10000;
 constexpr char too_many_attributes[] = "an element has more than 256 attributes or namespaces";
+
+// Each visible namespace has two entries.
+const char *reason_to_refuse(const xmlParserCtxt *parser) {
+    if (parser->nsNr > 2 * most_attributes) return too_many_attributes;
+    return xmlDictSize(parser->dict) > most_names ? "the document has more than 10000 names" : nullptr;
+}
 
 extern "C" void start_element(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
                               int namespaces, const xmlChar **namespace_names, int attributes, int defaulted,
                               const xmlChar **attribute_names) {
     auto *parser = static_cast<xmlParserCtxt *>(context);
-    // Each visible namespace has two entries.
-    if (attributes <= most_attributes && parser->nsNr <= 2 * most_attributes) {
+    const char *const reason = attributes > most_attributes ? too_many_attributes : reason_to_refuse(parser);
+    if (reason == nullptr) {
         return xmlSAX2StartElementNs(context, name, prefix, uri, namespaces, namespace_names, attributes, defaulted,
                                      attribute_names);
     }
-    source_of(parser)->refuse(too_many_attributes);
+    source_of(parser)->refuse(reason);
     xmlStopParser(parser);
 }
 
@@ -76,8 +83,10 @@ extern "C" void start_element(void *context, const xmlChar *name, const xmlChar 
 // has five entries for each, and grows to twice what it needs.
 extern "C" int read_piece(void *context, char *buffer, int size) {
     auto *source = static_cast<Source *>(context);
-    if (source->parser->maxatts > 20 * most_attributes || source->parser->nsNr > 4 * most_attributes) {
-        source->refuse(too_many_attributes);
+    const bool attributes = source->parser->maxatts > 20 * most_attributes;
+    const char *const reason = attributes ? too_many_attributes : reason_to_refuse(source->parser);
+    if (reason != nullptr) {
+        source->refuse(reason);
         return -1;
     }
     const size_t count = source->rest.copy(buffer, static_cast<size_t>(size));

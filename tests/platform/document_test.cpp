@@ -283,6 +283,23 @@ TEST(Document, LimitsListsThatAreTooLongForItsLength) {
     mirk_platform_document_limit_lists(0);
 }
 
+TEST(Document, LimitsNames) {
+    const auto elements = [](int count) {
+        std::string text = "<r>";
+        for (int i = 0; i < count; ++i) text += "<e" + std::to_string(i) + "/>";
+        return text + "</r>";
+    };
+    EXPECT_NE(static_cast<void *>(Document(elements(9900), nullptr)), nullptr);
+    std::string instructions;
+    for (int i = 0; i < 20000; ++i) instructions += "<?e" + std::to_string(i) + "?>";
+    for (const std::string &text : {elements(10100), elements(500000), instructions + "<r/>"}) {
+        mirk_platform_report report;
+        const Document refused(text, &report);
+        EXPECT_EQ(static_cast<void *>(refused), nullptr);
+        EXPECT_STREQ(report.sentence, "the document has more than 10000 names");
+    }
+}
+
 TEST(Document, LoadsAFile) {
     char path[] = "/tmp/mirk_document_XXXXXX";
     const int fd = mkstemp(path);
