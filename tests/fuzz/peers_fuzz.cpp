@@ -39,28 +39,32 @@ ServerOptions options_of(const fuzz::Choice &choice) {
     options.socket = fuzz::scratch_folder() + "/socket";
     options.verbose = choice.bit(verbose);
     if (choice.bit(few_bytes)) {
-        options.peers = 2;
+        options.peers = 4;
+        options.share = 50;
+        options.log_rate = 1;
         options.frame_limit = options.unread = options.unread_total = 1 << 10;
     }
-    if (choice.bit(no_time)) options.idle = options.frame_time = options.answer_time = 0.001;
+    if (choice.bit(no_time)) options.idle = options.frame_time = options.answer_time = options.stall = 0.001;
     return options;
 }
 
 // Answers to requests for all bundles but the last.
-Answerer &answerer() {
-    static Answerer all(1 << 30);
-    static const bool loaded = [] {
+struct AllButTheLast : Answerer {
+    AllButTheLast() : Answerer(1 << 30) {
         const auto bundles = tarn::reflect::bundles();
         for (const auto &bundle : bundles.first(bundles.size() - 1)) {
             const std::string path = fuzz::scratch_folder() + "/" + std::string(bundle.bundle->name) + ".xml";
             const std::string message(bundle.bundle->message.name);
             const std::string &payload = reference::message_table(message).payload;
             std::ofstream(path) << reference::message_to_xml(message, fuzz::small_value(payload, true), false);
-            all.add(bundle, path, false);
+            add(bundle, path, false);
         }
-        return true;
-    }();
-    require(loaded, "the bundles are loaded");
+    }
+};
+
+// That of the server, which only its thread uses.
+Answerer &answerer() {
+    static AllButTheLast all;
     return all;
 }
 
@@ -90,12 +94,13 @@ std::optional<fuzz::Bytes> take_frame(fuzz::Bytes &stream) {
 // What a server sends next: a frame, or if it is empty, any refusal.
 using Replies = std::deque<fuzz::Bytes>;
 
-void add_answer(const tarn::reflect::BundleOperations &bundle, bool tracked, Replies &to) {
-    static std::map<std::pair<const void *, bool>, fuzz::Bytes> answers;
-    fuzz::Bytes &known = answers[{&bundle, tracked}];
-    if (known.empty()) known = answerer().answer(bundle, tracked, 0, Fault::none);
-    fuzz::Bytes answer = known;
+// The answer to a request. False: the bundle is not served.
+bool add_answer(const tarn::reflect::BundleOperations &bundle, bool tracked, Replies &to) {
+    static AllButTheLast expected;
+    if (!expected.has(bundle)) return false;
+    fuzz::Bytes answer = *expected.answer(bundle, tracked, Fault::none);
     while (const auto frame = take_frame(answer)) to.push_back(*frame);
+    return true;
 }
 
 // The server in a thread. It stops on a signal, as the program does.
@@ -243,11 +248,8 @@ private:
         const mirk_platform_error error = mirk_platform_request_decode(frame.data(), frame.size(), &request);
         ends_ = error != 0 || (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0;
         const auto *bundle = ends_ ? nullptr : tarn::reflect::find_bundle(request.bundle);
-        if (bundle == nullptr || !answerer().has(*bundle)) {
-            expected_.emplace_back();
-        } else {
-            add_answer(*bundle, (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0, expected_);
-        }
+        const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
+        if (bundle == nullptr || !add_answer(*bundle, tracked, expected_)) expected_.emplace_back();
     }
 
     // Compares complete frames with what is expected.
