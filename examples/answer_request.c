@@ -101,6 +101,9 @@ int main(int argc, char **argv) {
     printf("answering on %s\n", argv[1]);
     fflush(stdout);
     mirk_platform_server_run(running);
+    /* Further signals must not reach a server that is gone. */
+    signal(SIGINT, SIG_IGN);
+    signal(SIGTERM, SIG_IGN);
     mirk_platform_server_close(running);
     return 0;
 }

@@ -462,9 +462,10 @@ typedef struct mirk_platform_server_options {
 MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_server_options *options, size_t size);
 
 /** Listens on a socket file. The caller owns `*server` and releases it with mirk_platform_server_close(). A socket file
- * that no process listens on is replaced. The options are copied.
+ * that no process listens on is replaced. Until it is closed, the server locks the file `path`.lock, which it creates
+ * and removes. The options are copied.
  *
- * EADDRINUSE: a process listens on the file, or it cannot be determined that none does. EEXIST: the path is not a
+ * EADDRINUSE: a process listens on the file, or locks it, or it cannot be determined that none does. EEXIST: the path is not a
  * socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: the path is empty, or an argument or on_frame
  * is null. Other errors come from the system, such as EACCES. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,

@@ -6,7 +6,6 @@
 //
 // Connections and their acceptor work with any stream socket; only listening differs between socket files and TCP
 // ports.
-#include <fcntl.h>
 #include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,6 +23,7 @@
 #include "platform/contract/options.hpp"
 #include "platform/service/inbox.hpp"
 #include "platform/service/origin.hpp"
+#include "platform/service/socket_file.hpp"
 #include "platform/service/tcp_address.hpp"
 
 using Socket = mirk::StreamProtocol::socket;
@@ -47,25 +47,6 @@ struct Leaving {
     mirk_platform_peer peer;
     const mirk::Origin &origin;
     const Leaving *outer;
-};
-
-// Removes the socket file that this server bound, unless another file has replaced it.
-struct SocketFile {
-    std::string path;
-    struct stat bound {};
-
-    void record_identity() {
-        if (::stat(path.c_str(), &bound) != 0) path.clear();
-    }
-    // Restores access rights that the umask has removed. Never follows a symbolic link that has replaced the file.
-    bool set_mode(mode_t mode) const {
-        return (bound.st_mode & 07777) == mode || ::fchmodat(AT_FDCWD, path.c_str(), mode, AT_SYMLINK_NOFOLLOW) == 0;
-    }
-    void remove() const {
-        struct stat now {};
-        if (path.empty() || ::stat(path.c_str(), &now) != 0) return;
-        if (now.st_ino == bound.st_ino && now.st_dev == bound.st_dev) ::unlink(path.c_str());
-    }
 };
 
 mirk_platform_error number_of(const asio::error_code &error) { return static_cast<mirk_platform_error>(error.value()); }
@@ -107,7 +88,7 @@ struct mirk_platform_server {
     asio::steady_timer accept_retry{context};
     asio::posix::stream_descriptor stop_signal{context};
     int stop_fd = -1;
-    SocketFile file;
+    mirk::SocketFile file;
     mirk_platform_peer last_peer = 0;
     std::unordered_map<mirk_platform_peer, std::shared_ptr<Connection>> connections;
     const Leaving *leaving = nullptr;
@@ -159,10 +140,11 @@ public:
         return 0;
     }
 
-    // A peer that does not read has to go first; then one that has not had the time to; then one that reads.
+    // A peer that does not read has to go first; then one that has not had the time to; then one that reads, or whose
+    // socket is not full yet.
     std::optional<Claim> claim_on_memory(Clock::time_point now) {
         if (queue_.empty()) return std::nullopt;
-        const unsigned rank = is_stalled(now) ? 0 : reads_ ? 2 : 1;
+        const unsigned rank = is_stalled(now) ? 0 : is_full_ && !reads_ ? 1 : 2;
         return Claim{rank, pending_, last_taken_};
     }
     // A silent peer has to go first, then one that does not read. Others keep their place.
@@ -319,7 +301,9 @@ private:
 
     void on_writable(asio::error_code error) {
         if (closed_) return;
-        if (!error) write_some(error);
+        // Until the socket is full, which shows whether the peer reads. The limit is more than a socket buffers, and so
+        // little that other peers do not wait for long.
+        for (size_t count = 0; count < most_at_once && !queue_.empty() && !error;) count += write_some(error);
         if (error && error != asio::error::would_block) return close(3, std::strerror(error.value()));
         if (!queue_.empty()) {
             wait_to_write();
@@ -328,17 +312,18 @@ private:
         }
     }
 
-    void write_some(asio::error_code &error) {
+    size_t write_some(asio::error_code &error) {
         const mirk::Chunk &front = queue_.front();
         const size_t count =
             socket_.write_some(asio::buffer(front.bytes.get() + front_sent_, front.size - front_sent_), error);
-        if (count == 0) return;
         // Once the socket is full, it takes more only after the peer has read.
-        reads_ = reads_ || is_full_;
+        if (is_full_ && count != 0) reads_ = true;
+        is_full_ = count < front.size - front_sent_;
+        if (count == 0) return 0;
         front_sent_ += count;
-        is_full_ = front_sent_ < front.size;
         last_taken_ = last_moved_ = Clock::now();
         if (!is_full_) pop_front();
+        return count;
     }
 
     void pop_front() {
@@ -350,6 +335,8 @@ private:
         front_sent_ = 0;
         front_since_ = Clock::now();
     }
+
+    static constexpr size_t most_at_once = size_t{8} << 20;
 
     bool is_stalled(Clock::time_point now) const {
         return now >= deadline_after(last_taken_, server_.options.stall_ms);
@@ -402,7 +389,7 @@ private:
     std::deque<mirk::Chunk> queue_;
     size_t front_sent_ = 0;
     uint64_t pending_ = 0;  // bytes of the queue
-    bool is_full_ = false;  // whether the socket has taken only a part of the front
+    bool is_full_ = false;  // whether the socket has not taken the whole front
     bool reads_ = false;    // whether the peer has made room in a full socket
     Clock::time_point last_taken_;
     Clock::time_point last_moved_ = Clock::now();
@@ -414,25 +401,9 @@ private:
     uint32_t disconnect_level_ = 7;
 };
 
-// Removes a socket file that no process listens on any more.
-mirk_platform_error remove_stale_socket_file(asio::io_context &context, const char *path,
-                                             const LocalProtocol::endpoint &endpoint) {
-    struct stat there {};
-    if (::lstat(path, &there) != 0) return errno == ENOENT ? 0 : static_cast<mirk_platform_error>(errno);
-    if (!S_ISSOCK(there.st_mode)) return EEXIST;
-    LocalProtocol::socket probe(context);
-    asio::error_code error;
-    probe.connect(endpoint, error);
-    if (error != asio::error::connection_refused) return EADDRINUSE;
-    return ::unlink(path) == 0 ? 0 : static_cast<mirk_platform_error>(errno);
-}
-
 }  // namespace
 
-mirk_platform_server::~mirk_platform_server() {
-    connections.clear();
-    file.remove();
-}
+mirk_platform_server::~mirk_platform_server() { connections.clear(); }
 
 mirk_platform_error mirk_platform_server::prepare_stop() {
     stop_fd = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
@@ -444,9 +415,8 @@ mirk_platform_error mirk_platform_server::prepare_stop() {
 mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
     // The system would choose an abstract address, which has no access rights.
     if (*path == 0) return EINVAL;
-    if (std::strlen(path) >= sizeof(sockaddr_un::sun_path)) return ENAMETOOLONG;
+    if (const mirk_platform_error error = file.reserve(path); error != 0) return error;
     const LocalProtocol::endpoint endpoint(path);
-    if (const mirk_platform_error error = remove_stale_socket_file(context, path, endpoint); error != 0) return error;
     asio::error_code error;
     acceptor.open(endpoint.protocol(), error);
     // Binding gives the file the mode of the socket without the bits of the umask, so it never has wider access rights.
@@ -456,9 +426,7 @@ mirk_platform_error mirk_platform_server::listen_on_file(const char *path) {
     if (!error) acceptor.bind(endpoint, error);
     if (!error) {
         endpoint_text = path;
-        file.path = path;
-        file.record_identity();
-        if (!file.set_mode(options.socket_mode)) return static_cast<mirk_platform_error>(errno);
+        if (const mirk_platform_error failed = file.bound(options.socket_mode); failed != 0) return failed;
         acceptor.listen(asio::socket_base::max_listen_connections, error);
     }
     return number_of(error);

@@ -1,5 +1,6 @@
 #include "tools/tarn/service/server.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cmath>
 #include <csignal>
@@ -16,9 +17,12 @@ namespace {
 // Rounds up, so that only 0 becomes 0, which means no limit.
 std::uint32_t milliseconds(double seconds) { return static_cast<std::uint32_t>(std::ceil(seconds * 1000)); }
 
-mirk_platform_server *server_to_stop = nullptr;
+// Signals are delivered to this thread only, so the handler does not run while the pointer is reset.
+std::atomic<mirk_platform_server *> server_to_stop = nullptr;
 
-extern "C" void stop_on_signal(int) { mirk_platform_server_stop(server_to_stop); }
+extern "C" void stop_on_signal(int) {
+    if (mirk_platform_server *server = server_to_stop) mirk_platform_server_stop(server);
+}
 
 }  // namespace
 
@@ -53,6 +57,12 @@ void Server::log_disconnected(mirk_platform_peer peer, const char *reason) {
         ++disconnected_;
         log(peer, "tarn: peer " + std::to_string(peer) + " disconnected: " + reason);
     }
+}
+
+Server::~Server() {
+    // Further signals must not reach a server that is gone.
+    server_to_stop = nullptr;
+    mirk_platform_server_close(server_);
 }
 
 void Server::open() {

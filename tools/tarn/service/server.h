@@ -27,7 +27,7 @@ class Server {
 public:
     Server(const ServerOptions &options, Answerer &answerer, Log &log)
         : options_(options), answerer_(answerer), log_(log) {}
-    ~Server() { mirk_platform_server_close(server_); }
+    ~Server();
     Server(const Server &) = delete;
     Server &operator=(const Server &) = delete;
 
