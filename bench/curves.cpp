@@ -25,12 +25,13 @@ private:
 };
 
 // What reading asks of a document, without the object that is read: for each element whether it is there, and one
-// value.
+// value. Of n elements, each `step`-th.
 template <class Plain>
-auto looking_up(std::shared_ptr<Sample<Plain>> s, std::string array, std::string member, std::size_t n) {
+auto looking_up(std::shared_ptr<Sample<Plain>> s, std::string array, std::string member, std::size_t n,
+                std::size_t step = 1) {
     const auto document = document_of(s);
-    return [document, array, member, n] {
-        for (std::size_t i = 1; i <= n; ++i) {
+    return [document, array, member, n, step] {
+        for (std::size_t i = 1; i <= n; i += step) {
             char path[128], value[128];
             std::uint32_t count = 0, length = 0;
             const int end = std::snprintf(path, sizeof path, "//o/%s[%zu]", array.c_str(), i);
@@ -64,6 +65,13 @@ void add(Results &results, std::string_view list, Plain (*make)(std::size_t), st
 }  // namespace
 
 void add_curves(Results &results) {
+    constexpr std::size_t looked_up = 1000;
+    for (const std::size_t n : {looked_up, 3 * looked_up, 10 * looked_up}) {
+        results.add_count("XML look-ups, 1000 classes", std::to_string(n) + " in the document", "library", [n] {
+            return looking_up(std::make_shared<Sample<decltype(classes(n))>>(Setup::plain, classes(n)), "tc_list", "id",
+                              n, n / looked_up);
+        });
+    }
     add(results, "classes", classes, "tc_list", "id");
     add(results, "applications", applications, "kesh_appl", "tarn_id");
 }

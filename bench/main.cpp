@@ -43,11 +43,13 @@ private:
 // One profile per measurement. Some iterations come first, in which tables and heaps grow to their size.
 void count_instructions(const tarn::bench::Results &results) {
     tarn::bench::print_description(compiler, counted_iterations);
-    for (const auto &[name, run] : results.runs()) {
-        for (int i = 0; i < 5; ++i) run();
-        CALLGRIND_ZERO_STATS;
-        for (int i = 0; i < counted_iterations; ++i) run();
-        CALLGRIND_DUMP_STATS_AT(name.c_str());
+    for (const auto *runs : {&results.runs(), &results.counts()}) {
+        for (const auto &[name, run] : *runs) {
+            for (int i = 0; i < 5; ++i) run();
+            CALLGRIND_ZERO_STATS;
+            for (int i = 0; i < counted_iterations; ++i) run();
+            CALLGRIND_DUMP_STATS_AT(name.c_str());
+        }
     }
 }
 
@@ -88,11 +90,11 @@ int main(int argc, char **argv) {
     add_flatbuffers(results);
     add_capnp(results);
 #endif
+    add_curves(results);
     if (instructions) {
         count_instructions(results);
         return 0;
     }
-    add_curves(results);
     Collector collector(results);
     std::ostringstream errors;
     collector.SetErrorStream(&errors);

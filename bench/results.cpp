@@ -6,10 +6,6 @@ namespace tarn::bench {
 
 namespace {
 
-std::string joined(std::string_view operation, std::string_view workload, std::string_view subject) {
-    return std::string(operation) + "/" + std::string(workload) + "/" + std::string(subject);
-}
-
 using Goals = std::array<std::optional<double>, workload_names.size()>;
 constexpr Goals none{};
 constexpr Goals each(double goal) { return {goal, goal, goal, goal}; }
@@ -63,6 +59,10 @@ constexpr Pair pairs[] = {
 };
 
 }  // namespace
+
+std::string Results::joined(std::string_view operation, std::string_view workload, std::string_view subject) {
+    return std::string(operation) + "/" + std::string(workload) + "/" + std::string(subject);
+}
 
 std::string Results::key(std::string_view operation, std::string_view workload, std::string_view subject) {
     names_.push_back({std::string(operation), std::string(workload), std::string(subject)});

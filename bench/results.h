@@ -55,6 +55,16 @@ public:
         curves_[std::string(operation)][std::string(list)].push_back(elements);
     }
 
+    // A measurement of instructions alone, not of time.
+    template <class Make>
+    void add_count(std::string_view operation, std::string_view workload, std::string_view subject, Make make) {
+        const auto run = std::make_shared<std::optional<decltype(make())>>();
+        counts_.emplace_back(joined(operation, workload, subject), [make, run] {
+            if (!*run) run->emplace(make());
+            (**run)();
+        });
+    }
+
     // The same work on several threads at once; each thread calls `make` for an iteration of its own.
     template <class Make>
     void add_threads(std::string_view operation, std::string_view tables, Make make) {
@@ -80,8 +90,12 @@ public:
     std::vector<std::string> subjects(std::string_view operation) const;
     std::vector<std::string> operations() const;
 
-    // All measurements except curves and threads, by name; each function is one iteration.
-    const std::vector<std::pair<std::string, std::function<void()>>> &runs() const { return runs_; }
+    // By name; each function is one iteration.
+    using Runs = std::vector<std::pair<std::string, std::function<void()>>>;
+    // All measurements except curves and threads.
+    const Runs &runs() const { return runs_; }
+    // Those of instructions alone.
+    const Runs &counts() const { return counts_; }
 
     // By operation and list: the numbers of elements that have a point.
     using Curves = std::map<std::string, std::map<std::string, std::vector<std::size_t>>>;
@@ -90,13 +104,14 @@ public:
     const std::vector<std::array<std::string, 2>> &threads() const { return threads_; }
 
 private:
+    static std::string joined(std::string_view operation, std::string_view workload, std::string_view subject);
     std::string key(std::string_view operation, std::string_view workload, std::string_view subject);
     static std::string point(std::string_view operation, std::string_view list, std::size_t elements);
     static std::string threaded(std::string_view operation, std::string_view tables);
     std::optional<double> median(const std::string &name) const;
 
     std::vector<std::array<std::string, 3>> names_;
-    std::vector<std::pair<std::string, std::function<void()>>> runs_;
+    Runs runs_, counts_;
     std::map<std::string, std::vector<double>> times_;
     Curves curves_;
     std::vector<std::array<std::string, 2>> threads_;

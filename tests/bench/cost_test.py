@@ -47,6 +47,20 @@ class Profile(unittest.TestCase):
         with self.assertRaises(cost.CostError):
             cost.read_profile("desc: Trigger: Client Request: encode/deep/library\n")
 
+    def test_misses_of_the_last_cache_are_reads_and_writes(self):
+        text = "events: Ir Dr Dw I1mr D1mr D1mw ILmr DLmr DLmw\nsummary: 90 20 10 9 8 7 6 5 4\n"
+        self.assertEqual(cost.read_misses(text), 9)
+        self.assertEqual(cost.read_misses(text[:-2]), 5)
+
+
+class Tables(unittest.TestCase):
+    def test_workloads_are_in_their_order_and_numbers_of_elements_in_that_of_numbers(self):
+        costs = {"encode/flat/library": [1, 0], "encode/deep/library": [2, 0],
+                 "look-ups/10000 in all/library": [4, 0], "look-ups/3000 in all/library": [3, 0]}
+        rows = cost.rows_of(costs, ["deep", "flat", "wide"])
+        self.assertEqual(rows["encode"], (["deep", "flat", "wide"], {"library": [[2, 0], [1, 0], None]}))
+        self.assertEqual(rows["look-ups"], (["3000 in all", "10000 in all"], {"library": [[3, 0], [4, 0]]}))
+
 
 class Comparison(unittest.TestCase):
     def worse(self, name, *costs):
