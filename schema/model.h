@@ -48,7 +48,7 @@ struct Key {
     constexpr std::span<const std::string_view> members() const { return {names.data(), size}; }
 };
 consteval Key keyed_by(auto... members) { return {{members...}, sizeof...(members), true}; }
-inline constexpr Key no_key{{}, 0, true};  // elements are told apart by their position alone
+inline constexpr Key no_key{{}, 0, true};  // only their position identifies elements
 
 struct Record;
 

@@ -232,7 +232,8 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_sttr_offset(mirk_handle *h, 
  *
  * Returns null on failure. The report, which may be null, then has the number (EINVAL or ENOMEM), the line and a
  * sentence. Documents with a document type declaration are rejected, and those with elements more than 256 deep or with
- * more than 256 attributes or visible namespaces, or with more than 10,000 different names. The parser never opens a file or a connection. */
+ * more than 256 attributes or visible namespaces, or with more than 10,000 different names. The parser never opens a
+ * file or a connection. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_memory(const void *text, size_t length,
                                                            mirk_platform_report *report);
 /** The same for the contents of a file. The report may also have the error of opening or reading the file, such as

@@ -1,3 +1,5 @@
+#include <random>
+
 #include "support.hpp"
 
 using test::Handle;

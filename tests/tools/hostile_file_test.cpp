@@ -48,6 +48,20 @@ TEST(HostileFile, XmlIsNestedUpToALimit) {
     }
 }
 
+TEST(HostileFile, XmlDeclarationsAreShort) {
+    // Each message gets it again.
+    const auto document = [](std::size_t size) {
+        const std::string begin = "<?xml version='1.0'", end = "?>";
+        const std::string blanks(size - begin.size() - end.size(), ' ');
+        return begin + blanks + end +
+               "\n<lumo_tarn_debug_setting_msg><lumo_tarn_debug_setting/></lumo_tarn_debug_setting_msg>";
+    };
+    const Outcome outcome = tarn({"encode"}, document(200));
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    expect_refused(document(201), "standard input:1: the XML declaration has more than 200 bytes");
+    expect_refused(document(1000000), "standard input:1: the XML declaration has more than 200 bytes");
+}
+
 // Other readers would take the other value.
 TEST(HostileFile, KeysOfJsonAreUnique) {
     expect_refused(debug_start + "\n\"info_enabled\": 1,\n\"warn_enabled\": 1,\n\n\"info_enabled\": 2}}",

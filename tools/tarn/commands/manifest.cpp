@@ -82,7 +82,8 @@ private:
         for (std::uint64_t i = 0; i < count; ++i) {
             const Section section = header(i);
             if (native(section.sh_name) >= words.size()) continue;
-            const std::string_view word = words.substr(native(section.sh_name));
+            // Not the whole name, since each may be as long as the file.
+            const std::string_view word = words.substr(native(section.sh_name), name.size() + 1);
             if (word.substr(0, word.find('\0')) == name) return content(section, "the section");
         }
         return {};

@@ -14,6 +14,9 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
+// The parser gets it with each fragment.
+constexpr std::size_t longest_declaration = 200;
+
 class Splitter {
 public:
     Splitter(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
@@ -23,7 +26,10 @@ public:
         if (starts("\xEF\xBB\xBF")) at_ = 3;
         for (skip_blanks(); at_ < text_.size(); skip_blanks()) {
             if (starts("<?xml ")) {
-                declaration_ = std::string(take("?>", "the XML declaration"));
+                declaration_ = take("?>", "the XML declaration");
+                if (declaration_.size() > longest_declaration) {
+                    fail("the XML declaration has more than " + std::to_string(longest_declaration) + " bytes");
+                }
             } else if (starts("<?")) {
                 take("?>", "a processing instruction");
             } else if (starts("<!--")) {
@@ -42,9 +48,14 @@ private:
 
     void skip_blanks() { at_ = std::min(text_.find_first_not_of(blanks, at_), text_.size()); }
 
-    long line() const { return 1 + std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(at_), '\n'); }
+    // Counts on from the last place where the line was asked for.
+    long line() {
+        const std::string_view passed = text_.substr(counted_, at_ - counted_);
+        counted_ = at_;
+        return line_ += std::count(passed.begin(), passed.end(), '\n');
+    }
 
-    [[noreturn]] void fail(const std::string &reason) const {
+    [[noreturn]] void fail(const std::string &reason) {
         throw Failure(Exit::input, origin_ + ":" + std::to_string(line()) + ": " + reason);
     }
 
@@ -60,20 +71,19 @@ private:
         const std::size_t name_end =
             text_[at_] == '<' ? text_.find_first_of(" \t\r\n/>", at_ + 1) : std::string_view::npos;
         if (name_end == std::string_view::npos || name_end == at_ + 1) fail("expected an element");
-        Fragment fragment{std::string(text_.substr(at_ + 1, name_end - at_ - 1)), declaration_, line()};
+        const std::string_view name = text_.substr(at_ + 1, name_end - at_ - 1);
+        const long begins = line();
         const std::size_t tag_end = text_.find('>', name_end);
-        if (tag_end != std::string_view::npos && text_[tag_end - 1] == '/') {
-            fragment.text += take(">", fragment.name);
-        } else {
-            fragment.text += take("</" + fragment.name + ">", "element " + in_quotes(fragment.name));
-        }
-        return fragment;
+        const bool is_empty = tag_end != std::string_view::npos && text_[tag_end - 1] == '/';
+        const std::string end = is_empty ? ">" : "</" + std::string(name) + ">";
+        return {name, take(end, "element " + in_quotes(name)), declaration_, begins};
     }
 
     std::string_view text_;
     const std::string &origin_;
-    std::string declaration_;
-    std::size_t at_ = 0;
+    std::string_view declaration_;
+    std::size_t at_ = 0, counted_ = 0;
+    long line_ = 1;
 };
 
 std::string location(const std::string &origin, const Fragment &fragment, long line) {
@@ -81,8 +91,9 @@ std::string location(const std::string &origin, const Fragment &fragment, long l
 }
 
 Document parse(const Fragment &fragment, const std::string &origin) {
+    const std::string text = std::string(fragment.declaration).append(fragment.text);
     mirk_platform_report report;
-    Document document(mirk_platform_document_load_memory(fragment.text.data(), fragment.text.size(), &report));
+    Document document(mirk_platform_document_load_memory(text.data(), text.size(), &report));
     if (document == nullptr) {
         throw Failure(exit_of(report.number), location(origin, fragment, report.line) + report.sentence);
     }
@@ -108,12 +119,13 @@ const reflect::MessageOperations &message_for(const Fragment &fragment, const st
 
 std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin) {
     for (const Control control : controls) {
-        if (fragment.name != "bundle_" + std::string(word(control))) continue;
+        const std::string element = "bundle_" + std::string(word(control));
+        if (fragment.name != element) continue;
         const Document document = parse(fragment, origin);
         char name[128];
-        const std::string path = "/" + fragment.name + "/@name";
+        const std::string path = "/" + element + "/@name";
         if (xml_get_element_value(document.get(), path.c_str(), name, sizeof name, nullptr) != 0) {
-            throw Failure(Exit::input, location(origin, fragment, 1) + fragment.name + " has no name");
+            throw Failure(Exit::input, location(origin, fragment, 1) + element + " has no name");
         }
         const auto *bundle = reflect::find_bundle(name);
         if (bundle == nullptr) {

@@ -9,11 +9,11 @@
 
 namespace tarn::tool {
 
-// One top-level element with its content, not parsed yet.
+// One top-level element with its content, not parsed yet. Refers to the text that it is a part of.
 struct Fragment {
-    std::string name;
-    std::string text;
-    long line;  // of its first character, from 1
+    std::string_view name, text;
+    std::string_view declaration;  // the XML declaration before it, which may name its encoding
+    long line;                     // of its first character, from 1
 };
 
 // Splits at the end tag of each top-level element, so that a malformed fragment does not affect the others.

@@ -185,7 +185,7 @@ void Checker::check_skipped(const Record &record, const Found &found, const std:
 
 void Checker::check_record(xmlNode *node, const Record &record, const std::string &path) {
     Found found;
-    for (xmlNode *child = node->children; child != nullptr; child = child->next) {
+    for (xmlNode *child = node->children; child != nullptr && problems.size() < limit_; child = child->next) {
         if (child->type == XML_TEXT_NODE && !is_blank(text_in(child))) {
             add(node, path, "text " + in_quotes(trimmed(text_in(child))) + " between the members");
         }
