@@ -240,10 +240,10 @@ MIRK_PLATFORM_API void *mirk_platform_document_load_memory(const void *text, siz
  * ENOENT or EACCES. */
 MIRK_PLATFORM_API void *mirk_platform_document_load_file(const char *path, mirk_platform_report *report);
 /** Limits the time that _from_xml operations take for a document. They read the elements of a list one by one and move
- * all others for each of them, so n elements inside another one count n * n. Documents where these numbers are more than
- * `per_byte` for each byte of the document are rejected with EINVAL. Applies to all threads and to documents that are
- * loaded afterwards. 0, the default, means no limit; 256 rejects documents with long lists of elements that are nearly
- * empty. */
+ * all others for each of them, so n elements inside another one count n * n. Documents where these numbers are more
+ * than `per_byte` for each byte of the document are rejected with EINVAL. Applies to all threads and to documents that
+ * are loaded afterwards. 0, the default, means no limit; 256 rejects documents with long lists of elements that are
+ * nearly empty. */
 MIRK_PLATFORM_API void mirk_platform_document_limit_lists(uint32_t per_byte);
 /** Releases a document. Null is permitted. */
 MIRK_PLATFORM_API void mirk_platform_document_free(void *document);
@@ -466,9 +466,9 @@ MIRK_PLATFORM_API void mirk_platform_server_options_init_sized(mirk_platform_ser
  * that no process listens on is replaced. Until it is closed, the server locks the file `path`.lock, which it creates
  * and removes. The options are copied.
  *
- * EADDRINUSE: a process listens on the file, or locks it, or it cannot be determined that none does. EEXIST: the path is not a
- * socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: the path is empty, or an argument or on_frame
- * is null. Other errors come from the system, such as EACCES. */
+ * EADDRINUSE: a process listens on the file, or locks it, or it cannot be determined that none does. EEXIST: the path
+ * is not a socket. ENAMETOOLONG: the path does not fit a socket address. EINVAL: the path is empty, or an argument or
+ * on_frame is null. Other errors come from the system, such as EACCES. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_open(const char *path,
                                                                 const mirk_platform_server_options *options,
                                                                 mirk_platform_server **server);

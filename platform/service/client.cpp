@@ -138,6 +138,8 @@ mirk_platform_error mirk_platform_client_receive(mirk_platform_client *client, v
                 case mirk::Inbox::Cut::more_needed:
                     break;
             }
+            // Without a timeout, what has arrived is still read.
+            if (timeout_ms != 0 && Clock::now() >= until) return ETIMEDOUT;
             const auto [at, room] = client->inbox.room();
             Outcome outcome;
             client->socket.async_read_some(asio::buffer(at, room), [&](const asio::error_code &error, size_t moved) {

@@ -1,6 +1,8 @@
 // One process answers, another requests: every bundle, every format, with and without per-field state.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <cstdlib>
 #include <cstring>
 
 #include "process.h"
@@ -145,6 +147,77 @@ TEST(Show, TcpAndSocketsGiveTheSameAnswer) {
     const Outcome gone = tarn({"show", "cl-debug", "--connect", address});
     EXPECT_EQ(gone.exit, 3);
     EXPECT_NE(gone.err.find("ECONNREFUSED"), std::string::npos) << gone.err;
+}
+
+// Several messages are printed one after the other, but as one document.
+TEST(Show, ShowPrintsSeveralMessagesInEveryForm) {
+    const Directory directory;
+    const Server server({"cl-debug=" + directory.write("debug.xml", debug_xml + debug_xml + debug_xml)});
+    ASSERT_TRUE(server.is_ready());
+    const std::string one = tarn({"decode"}, debug_xml).out;
+    EXPECT_EQ(server.show("cl-debug").out, one + one + one);
+    const Outcome json = server.show("cl-debug", {"--json", "--save", directory.path("saved.bin")});
+    const std::string message =
+        "    {\n      \"message\": \"lumo_tarn_debug_setting_msg\",\n      \"payload\": {\n"
+        "        \"info_enabled\": 1,\n        \"trace_enabled\": 0,\n"
+        "        \"warn_enabled\": 0,\n        \"error_enabled\": 0\n      }\n    }";
+    EXPECT_EQ(json.out, "{\n  \"bundle\": \"lumo_tarn_cl_debug_rsp\",\n  \"messages\": [\n" + message + ",\n" +
+                            message + ",\n" + message + "\n  ]\n}\n");
+    // Lines of the dump do not begin anew with each frame.
+    const std::string hex = server.show("cl-debug", {"--hex"}).out;
+    EXPECT_EQ(occurrences(hex, "\n"), (directory.read("saved.bin").size() + 15) / 16);
+    EXPECT_NE(hex.find("\n00000020  "), std::string::npos) << hex;
+}
+
+// The test plays a server that sends messages of a bundle without end, always faster than they are read.
+TEST(Show, TheDeadlineHoldsWhileFramesArrive) {
+    const Directory directory;
+    const auto &bundle = reference::bundle_table("lumo_tarn_cl_debug_rsp");
+    const auto &message = reference::message_table(bundle.message);
+    const Socket listener = Socket::listen_on(directory.path("socket"));
+    Process client({"show", "cl-debug", "--socket", directory.path("socket"), "--timeout", "0.5"});
+    const Socket peer = listener.accept();
+    peer.send(control(bundle, "start"));
+    std::string many;
+    for (int i = 0; i < 1000; ++i) many += frame(message, plain_payload(message, 1), false);
+    std::size_t sent = 0;
+    while (peer.send(many)) sent += many.size();
+    const Outcome outcome = client.finish();
+    EXPECT_EQ(outcome.exit, 3);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_NE(outcome.err.find("no complete answer: Connection timed out (ETIMEDOUT)"), std::string::npos)
+        << outcome.err << sent;
+}
+
+// The largest resident size of the processes that have ended, in KiB.
+long largest_resident_kib() {
+    rusage used{};
+    getrusage(RUSAGE_CHILDREN, &used);
+    return used.ru_maxrss;
+}
+
+// The answer is 300 times as large as one of its frames.
+TEST(Show, MemoryIsBoundedByTheLargestFrame) {
+    // The address sanitizer must not keep what was released.
+    setenv("ASAN_OPTIONS", "quarantine_size_mb=1", 0);
+    const Directory directory;
+    const auto &bundle = reference::bundle_table("lumo_tarn_dp_tt_cfg_rsp");
+    const std::string one = tarn({"generate", "dp-tt-cfg", "--elements", "10", "--form", "frames"}).out;
+    const auto show = [&](int messages) {
+        const std::string path = directory.path("socket" + std::to_string(messages));
+        const Socket listener = Socket::listen_on(path);
+        Process client({"show", "dp-tt-cfg", "--json", "--socket", path, "--timeout", "600"});
+        const Socket peer = listener.accept();
+        peer.send(control(bundle, "start"));
+        for (int i = 0; i < messages; ++i) peer.send(one);
+        peer.send(control(bundle, "commit"));
+        const Outcome outcome = client.finish();
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        EXPECT_EQ(occurrences(outcome.out, "\"lumo_tarn_dp_tt_msg\""), static_cast<std::size_t>(messages));
+        return largest_resident_kib();
+    };
+    const long small = show(3);
+    EXPECT_LE(show(300), small + 12 * 1024);
 }
 
 TEST(Show, ExactlyOneValidEndpointIsRequired) {

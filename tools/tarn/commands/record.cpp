@@ -133,8 +133,10 @@ void record_from_socket(const RecordOptions &options, Recording &recording) {
             Receiver receiver(options.tracked, Via::handle);
             Connection connection(options.endpoint, Deadline(options.timeout), options.limits);
             connection.request(bundle, options.tracked);
-            receive_answer(connection, receiver, bundle,
-                           [&](const Frame &frame) { recording.feed(receiver, frame, connection.name()); });
+            receive_answer(connection, receiver, bundle, [&](const Frame &frame) {
+                recording.feed(receiver, frame, connection.name());
+                receiver.release();
+            });
         }
     }
 }

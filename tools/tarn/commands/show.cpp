@@ -1,12 +1,14 @@
 // tarn show: requests a bundle from a process and prints the answer.
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/service/client.h"
+#include "tools/tarn/service/spool.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
@@ -27,20 +29,62 @@ struct ShowOptions {
     std::string via = "handle";
 };
 
-void print(const Answer &answer, const reflect::BundleOperations &bundle, Print form) {
-    std::string out;
-    if (form == Print::hex) {
-        out = hex_dump(answer.frames);
-    } else if (form == Print::json) {
-        nlohmann::ordered_json all{{"bundle", bundle.bundle->name}, {"messages", nlohmann::ordered_json::array()}};
-        for (const Item &item : answer.messages) all["messages"].push_back(json_of(item));
-        out = json_text(all, 2) + "\n";
-    } else {
-        for (const Item &item : answer.messages) out += rendered(item, form == Print::xml ? Style::xml : Style::text);
+// Prints the frames of an answer one after the other, so that only one is in memory.
+class Printer {
+public:
+    Printer(const Receiver &receiver, const reflect::BundleOperations &bundle, Print form)
+        : receiver_(receiver), form_(form) {
+        if (form_ != Print::json) return;
+        const nlohmann::ordered_json name(bundle.bundle->name);
+        out_.append("{\n  \"bundle\": " + json_text(name, 2) + ",\n  \"messages\": [");
     }
-    write_file("-", out);
+
+    void add(FrameBytes bytes, const std::string &origin) {
+        const Frame frame = identified(bytes, offset_, origin);
+        if (form_ == Print::hex) return add_hex(chars_of(bytes));
+        offset_ += bytes.size();
+        if (frame.identity.is_control()) return;
+        const Item item = receiver_.read(frame, origin);
+        if (form_ == Print::json) return add_json(item);
+        out_.append(rendered(item, form_ == Print::xml ? Style::xml : Style::text));
+    }
+    void finish() {
+        if (form_ == Print::hex) out_.append(hex_dump(rest_, offset_));
+        if (form_ == Print::json) out_.append(is_empty_ ? "]\n}\n" : "\n  ]\n}\n");
+        out_.finish();
+    }
+
+private:
+    void add_json(const Item &item) {
+        out_.append(std::exchange(is_empty_, false) ? "\n    " : ",\n    ");
+        std::string text;
+        for (const char c : json_text(json_of(item), 2)) text += c == '\n' ? "\n    " : std::string(1, c);
+        out_.append(text);
+    }
+    // Lines of the dump contain the end of one frame and the begin of the next.
+    void add_hex(std::string_view bytes) {
+        rest_ += bytes;
+        const std::size_t whole = rest_.size() / 16 * 16;
+        out_.append(hex_dump(std::string_view(rest_).substr(0, whole), offset_));
+        rest_.erase(0, whole);
+        offset_ += whole;
+    }
+
+    const Receiver &receiver_;
+    Print form_;
+    OutputFile out_{"-"};
+    std::size_t offset_ = 0;
+    std::string rest_;
+    bool is_empty_ = true;
+};
+
+void save(Spool &frames, const std::string &path) {
+    OutputFile file(path);
+    frames.for_each([&](FrameBytes frame) { file.append(chars_of(frame)); });
+    file.finish();
 }
 
+// Nothing is printed before the bundle is committed, so the frames are kept until then.
 void run_show(const ShowOptions &options) {
     set_up_trace(options.verbose);
     const reflect::BundleOperations &bundle = bundle_named(options.bundle);
@@ -48,14 +92,21 @@ void run_show(const ShowOptions &options) {
     Receiver receiver(options.tracked, via_named(options.via));
     Connection connection(options.endpoint, deadline, options.limits);
     connection.request(bundle, options.tracked);
-    const Answer answer = receive_answer(connection, receiver, bundle);
-    if (!options.save.empty()) write_file(options.save, answer.frames);
+    Spool frames;
+    receive_answer(connection, receiver, bundle, [&](const Frame &frame) {
+        receiver.feed(frame, connection.name());
+        receiver.release();
+        frames.append(frame.bytes);
+    });
+    if (!options.save.empty()) save(frames, options.save);
     if (receiver.handled() == 0) {
         throw Failure(Exit::negative,
                       options.endpoint.text() + ": no handler took " + std::string(bundle.bundle->name));
     }
     const Print form = options.xml ? Print::xml : options.json ? Print::json : options.hex ? Print::hex : Print::text;
-    print(answer, bundle, form);
+    Printer printer(receiver, bundle, form);
+    frames.for_each([&](FrameBytes frame) { printer.add(frame, connection.name()); });
+    printer.finish();
 }
 
 }  // namespace

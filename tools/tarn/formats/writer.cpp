@@ -22,11 +22,11 @@ std::string rendered(const Item &item, Style style) {
     return std::string(chars_of(frame_of(handle, operations, item.object())));
 }
 
-std::string hex_dump(std::string_view bytes) {
+std::string hex_dump(std::string_view bytes, std::size_t from) {
     std::string dump;
     for (std::size_t at = 0; at < bytes.size(); at += 16) {
         char offset[24];
-        std::snprintf(offset, sizeof offset, "%08zx ", at);
+        std::snprintf(offset, sizeof offset, "%08zx ", from + at);
         dump += offset;
         const std::string_view line = bytes.substr(at, 16);
         for (std::size_t i = 0; i < 16; ++i) {

@@ -64,6 +64,7 @@ void Connection::request(const reflect::BundleOperations &bundle, bool tracked) 
 }
 
 FrameBytes Connection::receive() {
+    if (deadline_.left_ms() == 0) check(ETIMEDOUT, "no complete answer");
     void *frame = nullptr;
     std::uint32_t size = 0;
     const mirk_platform_error error = mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms());
@@ -79,29 +80,20 @@ void Connection::check(mirk_platform_error error, const char *what) const {
     throw Failure(bad_input ? Exit::input : Exit::environment, name_ + ": " + what + ": " + error_text(error));
 }
 
-Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
-                      const std::function<void(const Frame &)> &feed) {
+void receive_answer(Connection &connection, const Receiver &receiver, const reflect::BundleOperations &bundle,
+                    const std::function<void(const Frame &)> &feed) {
     const std::string &origin = connection.name();
-    Answer answer;
-    for (;;) {
+    for (std::size_t offset = 0;;) {
         const FrameBytes bytes = connection.receive();
         require_no_refusal(bytes, origin);
         Frame frame = frame_at(bytes, 0, origin);
-        frame.offset = answer.frames.size();
-        answer.frames += chars_of(bytes);
+        frame.offset = offset;
+        offset += bytes.size();
         require_expected(frame, bundle, receiver, origin);
-        if (feed) {
-            feed(frame);
-        } else {
-            receiver.feed(frame, origin);
-        }
+        feed(frame);
         if (!frame.identity.is_control() || frame.identity.control == Control::start) continue;
-        if (frame.identity.control == Control::abort) {
-            throw Failure(Exit::negative,
-                          origin + ": the answering process aborted " + std::string(bundle.bundle->name));
-        }
-        answer.messages = receiver.take();
-        return answer;
+        if (frame.identity.control == Control::commit) return;
+        throw Failure(Exit::negative, origin + ": the answering process aborted " + std::string(bundle.bundle->name));
     }
 }
 

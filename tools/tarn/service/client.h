@@ -4,7 +4,6 @@
 #include <chrono>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "mirk_platform.h"
 #include "tools/tarn/service/receiver.h"
@@ -43,7 +42,8 @@ public:
 
     const std::string &name() const { return name_; }  // printable
     void request(const reflect::BundleOperations &bundle, bool tracked);
-    // One whole frame, valid until the next call. Throws a Failure if the frame or the whole answer exceeds its limit.
+    // One whole frame, valid until the next call. Throws a Failure if the frame or the whole answer exceeds its limit,
+    // and at the deadline even if frames are ready.
     FrameBytes receive();
 
 private:
@@ -56,14 +56,9 @@ private:
     mirk_platform_client *client_ = nullptr;
 };
 
-struct Answer {
-    std::vector<Item> messages;
-    std::string frames;  // as received
-};
-
-// Feeds the frames to the receiver, through `feed` if given, until the bundle ends. Throws a Failure for a refusal, an
-// abort, and a frame that does not belong to this answer.
-Answer receive_answer(Connection &connection, Receiver &receiver, const reflect::BundleOperations &bundle,
-                      const std::function<void(const Frame &)> &feed = {});
+// Passes each frame of the answer to `feed`, which has to feed it to the receiver, until the bundle ends. Throws a
+// Failure for a refusal, an abort, a frame that does not belong to this answer, and at the deadline.
+void receive_answer(Connection &connection, const Receiver &receiver, const reflect::BundleOperations &bundle,
+                    const std::function<void(const Frame &)> &feed);
 
 }  // namespace tarn::tool

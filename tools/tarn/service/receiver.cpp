@@ -1,6 +1,7 @@
 #include "tools/tarn/service/receiver.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "lumo_ui_tarn.h"
 #include "tools/tarn/formats/message.h"
@@ -78,6 +79,28 @@ void Receiver::feed(const Frame &frame, const std::string &origin) {
         throw Failure(Exit::input,
                       frame_location(origin, frame.offset) + ": " + report.sentence + " (" + error_name(error) + ")");
     }
+}
+
+void Receiver::release() {
+    received_.clear();
+    while (mirk_platform_received *item = mirk_platform_received_first(handle_.get())) {
+        const Identity identity = *identify(mirk_platform_received_luid(item));
+        const Message released(handle_, *identity.operations, mirk_platform_received_detach(handle_.get(), item));
+    }
+}
+
+Item Receiver::read(const Frame &frame, const std::string &origin) const {
+    Bytes buffer(frame.bytes.begin(), frame.bytes.end());
+    buffer.push_back(0);
+    void *object = nullptr;
+    std::uint32_t err = 0;
+    const reflect::MessageOperations &operations = *frame.identity.operations;
+    operations.unmarshal_only(handle_.get(), context_id, &object, buffer.data(),
+                              static_cast<std::uint32_t>(frame.bytes.size()), &err);
+    Item item{frame.identity, Message(handle_, operations, object), frame_location(origin, frame.offset)};
+    if (err == 0 && object == nullptr) err = ENOMEM;
+    if (err != 0) throw Failure(exit_of(err), item.location + ": " + operations.name + ": " + error_text(err));
+    return item;
 }
 
 }  // namespace tarn::tool

@@ -29,6 +29,10 @@ public:
 
     // Messages of committed bundles, and messages outside bundles, in order of arrival.
     std::vector<Item> take() { return std::exchange(received_, {}); }
+    // Destroys the messages that have arrived, also those of a bundle that is still open.
+    void release();
+    // The message of a plain frame, read as feed() reads it.
+    Item read(const Frame &frame, const std::string &origin) const;
     bool in_bundle() const { return handle_.get()->recv_bundle_open != 0; }
     // Bundles that reached a registered handler; those for the linked-in stub do not count.
     unsigned handled() const { return handled_; }
