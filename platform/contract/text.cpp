@@ -45,19 +45,17 @@ constexpr int unsupported_format = -2;
 // Most formats contain only text and %s. Formats those as vsnprintf does, but faster.
 int print_strings(char *buffer, size_t size, const char *format, va_list arguments) {
     size_t length = 0;
-    const auto put = [&](std::string_view text) {
-        if (length < size) mirk::copy_short(buffer + length, text.substr(0, size - length));
-        length += text.size();
-    };
-    for (;;) {
-        const char *const begin = format;
-        while (*format != 0 && *format != '%') ++format;
-        put({begin, static_cast<size_t>(format - begin)});
-        if (*format == 0) break;
-        if (format[1] != 's') return unsupported_format;
-        format += 2;
+    for (; *format != 0; ++format) {
+        if (*format != '%') {
+            if (length < size) buffer[length] = *format;
+            ++length;
+            continue;
+        }
+        if (*++format != 's') return unsupported_format;
         const char *argument = va_arg(arguments, const char *);
-        put(argument != nullptr ? argument : "(null)");
+        const std::string_view text = argument != nullptr ? argument : "(null)";
+        if (length < size) text.copy(buffer + length, size - length);
+        length += text.size();
     }
     buffer[std::min(length, size - 1)] = 0;
     return length <= INT32_MAX ? static_cast<int>(length) : -1;

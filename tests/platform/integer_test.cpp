@@ -1,3 +1,4 @@
+#include <limits>
 #include <random>
 
 #include "support.hpp"
