@@ -25,16 +25,17 @@ private:
 };
 
 // What reading asks of a document, without the object that is read: for each element whether it is there, and one
-// value. Of n elements, each `step`-th.
+// value. An iteration continues with the next elements of the n, and after the last with the first.
 template <class Plain>
 auto looking_up(std::shared_ptr<Sample<Plain>> s, std::string array, std::string member, std::size_t n,
-                std::size_t step = 1) {
+                std::size_t in_an_iteration) {
     const auto document = document_of(s);
-    return [document, array, member, n, step] {
-        for (std::size_t i = 1; i <= n; i += step) {
+    return [document, array, member, n, in_an_iteration, last = n]() mutable {
+        for (std::size_t looked_up = 0; looked_up < in_an_iteration; ++looked_up) {
+            last = last % n + 1;
             char path[128], value[128];
             std::uint32_t count = 0, length = 0;
-            const int end = std::snprintf(path, sizeof path, "//o/%s[%zu]", array.c_str(), i);
+            const int end = std::snprintf(path, sizeof path, "//o/%s[%zu]", array.c_str(), last);
             if (xml_get_element_nodecount(document.get(), path, &count) != 0 || count != 1) std::abort();
             std::snprintf(path + end, sizeof path - static_cast<std::size_t>(end), "/%s", member.c_str());
             if (xml_get_element_value(document.get(), path, value, sizeof value, &length) != 0) std::abort();
@@ -55,7 +56,7 @@ void add(Results &results, std::string_view list, Plain (*make)(std::size_t), st
         results.add_point("text", list, n, [later] { return printing(later->get()); });
         results.add_point("XML writing", list, n, [later] { return writing_xml(later->get()); });
         results.add_point("XML look-ups", list, n,
-                          [later, array, member, n] { return looking_up(later->get(), array, member, n); });
+                          [later, array, member, n] { return looking_up(later->get(), array, member, n, n); });
         if (n <= most_read_from_xml) {
             results.add_point("XML reading", list, n, [later] { return reading_xml(later->get()); });
         }
@@ -69,7 +70,7 @@ void add_curves(Results &results) {
     for (const std::size_t n : {looked_up, 3 * looked_up, 10 * looked_up}) {
         results.add_count("XML look-ups, 1000 classes", std::to_string(n) + " in the document", "library", [n] {
             return looking_up(std::make_shared<Sample<decltype(classes(n))>>(Setup::plain, classes(n)), "tc_list", "id",
-                              n, n / looked_up);
+                              n, looked_up);
         });
     }
     add(results, "classes", classes, "tc_list", "id");
