@@ -5,8 +5,6 @@
 #include <cstdlib>
 #include <map>
 
-#include "tools/tarn/formats/xml_nodes.h"
-
 namespace tarn::tool {
 
 namespace {
@@ -70,9 +68,16 @@ private:
 }  // namespace
 
 bool has_states(void *document) {
-    const xmlNode *const root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
-    for (const xmlNode *node = root; node != nullptr; node = following(node, root)) {
+    // In document order, without recursion, since the input determines the depth.
+    xmlNode *const root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
+    for (xmlNode *node = root; node != nullptr;) {
         if (node->type == XML_ELEMENT_NODE && xmlHasProp(node, attribute) != nullptr) return true;
+        if (node->type == XML_ELEMENT_NODE && node->children != nullptr) {
+            node = node->children;
+            continue;
+        }
+        while (node != root && node->next == nullptr) node = node->parent;
+        node = node == root ? nullptr : node->next;
     }
     return false;
 }
