@@ -197,6 +197,7 @@ public:
     // Reads everything that is due.
     void read_all() {
         send({});
+        if (abandoned_) return;
         while (!expected_.empty() || ends_ || half_closed_) {
             pollfd at{socket_, POLLIN, 0};
             require(::poll(&at, 1, patience_ms) == 1, "an answer arrives in time");
