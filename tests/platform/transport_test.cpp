@@ -468,6 +468,30 @@ TEST(Transport, ReceiveContinuesAfterATimeout) {
     EXPECT_EQ(client.next(), frame(70, 'l'));
 }
 
+TEST(Transport, ConnectingWaitsForAPlaceInAFullQueue) {
+    const std::string path = "/tmp/mirk_transport_full_" + std::to_string(getpid());
+    sockaddr_un address{AF_UNIX, {}};
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    ASSERT_EQ(listen(listener, 0), 0);  // one place
+
+    mirk_platform_client *first = nullptr, *second = nullptr;
+    EXPECT_EQ(mirk_platform_client_open(path.c_str(), 0, 5000, &first), 0u);
+    EXPECT_EQ(mirk_platform_client_open(path.c_str(), 0, 30, &second), uint32_t{ETIMEDOUT});
+    EXPECT_EQ(second, nullptr);
+    std::thread server([listener] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        close(accept(listener, nullptr, nullptr));
+    });
+    EXPECT_EQ(mirk_platform_client_open(path.c_str(), 0, 5000, &second), 0u);
+    server.join();
+    mirk_platform_client_close(first);
+    mirk_platform_client_close(second);
+    close(listener);
+    unlink(path.c_str());
+}
+
 TEST(Transport, SendToAPeerThatDoesNotReadEndsAtTheTimeout) {
     const std::string path = "/tmp/mirk_transport_unread_" + std::to_string(getpid());
     sockaddr_un address{AF_UNIX, {}};
