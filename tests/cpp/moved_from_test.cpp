@@ -232,16 +232,16 @@ TEST(CppMovedFrom, AdoptingLeavesTheContent) {
     for (const Tracking tracking : kit::every_tracking) {
         kit::Handle h(tracking);
         context c(h, errors::kept);
-        dp_ll_spec spec(c);
-        spec.filter_tc_list().tc_list().grow(2);
+        dp_ll_spec definition(c);
+        definition.filter_tc_list().tc_list().grow(2);
         dp_tc_list list(c);
         dp_tc_list owner = std::move(list);
         expect_error(
-            c, [&] { spec.adopt_filter_tc_list(std::move(list)); }, "a record that owns blocks");
-        EXPECT_EQ(spec.filter_tc_list().num_tcs(), 2u);
+            c, [&] { definition.adopt_filter_tc_list(std::move(list)); }, "a record that owns blocks");
+        EXPECT_EQ(definition.filter_tc_list().num_tcs(), 2u);
         expect_error(
-            c, [&] { dp_ll_spec_ref(spec).adopt_filter_tc_list(std::move(list)); }, "by reference");
-        EXPECT_EQ(spec.filter_tc_list().num_tcs(), 2u);
+            c, [&] { dp_ll_spec_ref(definition).adopt_filter_tc_list(std::move(list)); }, "by reference");
+        EXPECT_EQ(definition.filter_tc_list().num_tcs(), 2u);
 
         dp_tc tc(c);
         tc.appl().set_id(7);
@@ -251,10 +251,10 @@ TEST(CppMovedFrom, AdoptingLeavesTheContent) {
             c, [&] { tc.adopt_appl(std::move(appl)); }, "a record of numbers");
         EXPECT_EQ(tc.appl().id(), 7);
 
-        const dp_ll_spec gone = std::move(spec);
+        const dp_ll_spec gone = std::move(definition);
         owner.tc_list().grow(3);
         expect_error(
-            c, [&] { spec.adopt_filter_tc_list(std::move(owner)); }, "to a record that does not exist");
+            c, [&] { definition.adopt_filter_tc_list(std::move(owner)); }, "to a record that does not exist");
         EXPECT_EQ(owner.num_tcs(), 3u);
     }
 }

@@ -80,7 +80,7 @@ int run(int argc, char **argv) {
 int main(int argc, char **argv) {
     // A write beyond the limit on file sizes must fail with EFBIG, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
-    // Likewise a write to a pipe or connection that nobody reads any more: EPIPE.
+    // Likewise a write to a pipe or connection without a reader: EPIPE.
     std::signal(SIGPIPE, SIG_IGN);
     reserve_standard_streams();
     try {

@@ -1,4 +1,4 @@
-// Lines on standard error that a server prints while it runs. Whoever reads them may be slow or gone, so a thread
+// Lines on standard error that a server prints while it runs. Their reader may be slow or gone, so a thread
 // writes them: the caller never waits.
 #pragma once
 
