@@ -362,11 +362,14 @@ TEST(Dissector, EscapesControlCharactersOfRequestsAndRefusals) {
         const auto shown = [&](const std::string &text) {
             return one.shown + std::string(text.size() - std::string(one.bytes).size(), '.');
         };
-        capture.add(static_cast<std::uint16_t>(40000 + (&one - cases)), port,
+        capture.add(static_cast<std::uint16_t>(61000 + (&one - cases)), port,
                     with(exchange.request, wanted) + with(exchange.refusal, sentence));
         expected += "request: " + shown(wanted) + ", refusal: " + shown(sentence) + "\n";
     }
-    EXPECT_EQ(tshark(capture, {"-T", "fields", "-e", "_ws.col.Info"}).out, expected);
+    std::string column = tshark(capture, {"-T", "fields", "-e", "_ws.col.Info"}).out;
+    // Wireshark 4.4 doubles backslashes in fields.
+    for (std::size_t at = 0; (at = column.find("\\\\", at)) != std::string::npos; ++at) column.erase(at, 1);
+    EXPECT_EQ(column, expected);
     const std::vector<Field> frames = frames_in(capture);
     ASSERT_EQ(frames.size(), 2 * std::size(cases));
     std::string labels;

@@ -180,7 +180,10 @@ function reader:text(tree, field, size, path)
     self:require(size, path)
     local range = self.tvb(self.at, size)
     self.at = self.at + size
-    return tree:add_packet_field(field, range, ENC_UTF_8)
+    local item, value = tree:add_packet_field(field, range, ENC_UTF_8)
+    -- Wireshark 4.4 shows characters that change the direction of text as they are.
+    if tree ~= nothing then item.text = printable(item.text) end
+    return item, value
 end
 
 -- A subtree whose length is that of its content.
