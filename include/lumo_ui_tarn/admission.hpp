@@ -6,6 +6,8 @@
 /// An element takes at least six bytes of its frame, and a character one, so whatever passes can be read with memory
 /// and time in proportion to the length of the frame. A frame that does not pass is truncated or invalid.
 ///
+/// How numbers lie in a frame is up to the runtime. The test reads those of the reference runtime: big-endian.
+///
 /// Include lumo_ui_tarn/frame_parts.hpp, which has the parts of each record.
 #ifndef LUMO_UI_TARN_ADMISSION_HPP
 #define LUMO_UI_TARN_ADMISSION_HPP

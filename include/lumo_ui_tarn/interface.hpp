@@ -302,9 +302,20 @@ std::string grown_text(context &c, std::size_t guess, Write write) {
     return text;
 }
 
+#if defined(__GNUC__)
+/// Numbers in frames have the encoding of the runtime. excess_of_record() knows that of the reference runtime, which is
+/// the one that has this function; with another runtime the reference is null.
+extern "C" [[gnu::weak]] std::uint64_t mirk_platform_handle_limit_growth(mirk_handle *h, std::uint64_t bytes);
+inline bool knows_encoding() { return &mirk_platform_handle_limit_growth != nullptr; }
+#else
+inline bool knows_encoding() { return false; }
+#endif
+
 /// Reports what a frame claims but cannot contain. False: an error is kept.
-inline bool admitted(context &c, const frame_excess &excess) {
-    if (c.ok() && excess) c.fail(EBADMSG, excess.text().c_str());
+template <class Test>
+bool admitted(context &c, Test excess_of, const frame_part *parts, const void *bytes, std::size_t size) {
+    if (!c.ok() || !knows_encoding()) return c.ok();
+    if (const frame_excess excess = excess_of(parts, bytes, size, c.tracks())) c.fail(EBADMSG, excess.text().c_str());
     return c.ok();
 }
 
@@ -679,11 +690,11 @@ public:
 
     /// Creates a record from a frame of size bytes. One guard byte, which size does not count, follows them. EBADMSG if
     /// the frame claims more elements or characters than it can contain (admission.hpp); the C function would
-    /// allocate memory for them.
+    /// allocate memory for them. Only frames of the reference runtime are tested: what another one encodes is its own.
     static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
         if constexpr (R::owns_blocks) {
-            if (!detail::admitted(c, excess_of_record(R::parts, bytes, size, c.tracks()))) return fresh;
+            if (!detail::admitted(c, excess_of_record, R::parts, bytes, size)) return fresh;
         }
         // The C function only reads.
         c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), static_cast<std::uint32_t>(size),
@@ -1125,7 +1136,7 @@ public:
     static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         if constexpr (M::payload::owns_blocks) {
-            if (!detail::admitted(c, excess_of_message(M::payload::parts, bytes, size, c.tracks()))) return {c, native};
+            if (!detail::admitted(c, excess_of_message, M::payload::parts, bytes, size)) return {c, native};
         }
         std::uint32_t err = *c.slot();
         M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),

@@ -214,10 +214,10 @@ class Record(Native):
     def from_frame(cls: type[R], frame: bytes, on: Handle | None = None) -> R:
         """Creates a record from a frame. Raises OSError if the frame is invalid. EBADMSG means that it claims more
         elements or characters than it can contain. Memory is limited in proportion to the frame's length."""
-        on, frame = on or handle(), bytes(frame)
-        record = cls(on=on)
-        with on.reading(frame, lambda: admit_record(cls.record_name, frame, on.tracked)):
-            on.call(cls._function("unmarshal"), ffi.from_buffer(frame + b"\0"), record.native, len(frame), 0)
+        h, frame = on or handle(), bytes(frame)
+        record = cls(on=h)
+        with h.reading(frame, lambda: admit_record(cls.record_name, frame, h.tracked)):
+            h.call(cls._function("unmarshal"), ffi.from_buffer(frame + b"\0"), record.native, len(frame), 0)
         return record
 
     def _rendered(self, write: Callable[[Any, int, Any], Any]) -> str:
@@ -486,11 +486,11 @@ class Message(Native):
     @classmethod
     def from_frame(cls: type[M], frame: bytes, on: Handle | None = None) -> M:
         """Creates a message from a frame. Raises OSError if the frame is invalid, as Record.from_frame does."""
-        on, frame = on or handle(), bytes(frame)
+        h, frame = on or handle(), bytes(frame)
         out, err = ffi.new(f"{cls.message_name} **"), ffi.new("uint32_t *")
-        with on.reading(frame, lambda: admit_message(cls.payload_type.record_name, frame, on.tracked)):
-            cls._function("unmarshal_only")(on.native, CTX_ID, out, ffi.from_buffer(frame + b"\0"), len(frame), err)
-            message = cls._taken(on, out[0])  # also after an error, so that it is destroyed
+        with h.reading(frame, lambda: admit_message(cls.payload_type.record_name, frame, h.tracked)):
+            cls._function("unmarshal_only")(h.native, CTX_ID, out, ffi.from_buffer(frame + b"\0"), len(frame), err)
+            message = cls._taken(h, out[0])  # also after an error, so that it is destroyed
             if err[0] != 0:
                 raise OSError(err[0], f"invalid frame of {cls.message_name}: {os.strerror(err[0])}")
         return message

@@ -15,9 +15,9 @@ namespace tarn::tool {
 struct Log::Queue {
     std::mutex lock;
     std::condition_variable changed;
-    std::string lines;
+    std::string lines, writing;
     std::size_t dropped = 0;
-    bool writing = false, ended = false;
+    bool ended = false;
 };
 
 namespace {
@@ -46,12 +46,14 @@ Log::~Log() {
     std::unique_lock<std::mutex> hold(queue_->lock);
     queue_->ended = true;
     queue_->changed.notify_all();
-    const auto written = [this] { return queue_->lines.empty() && !queue_->writing; };
+    const auto written = [this] { return queue_->lines.empty() && queue_->writing.empty(); };
     const bool all_written = queue_->changed.wait_for(hold, std::chrono::seconds(1), written);
     hold.unlock();
     if (all_written) {
         writer_.join();
     } else {
+        // The thread still uses the queue when the process ends: it must not look like a leak.
+        [[maybe_unused]] static const auto *const left = new std::shared_ptr<Queue>(queue_);
         writer_.detach();
     }
 }
@@ -71,15 +73,14 @@ void Log::write_lines(const std::shared_ptr<Queue> &queue) {
     for (;;) {
         queue->changed.wait(hold, [&] { return !queue->lines.empty() || queue->ended; });
         if (queue->lines.empty()) return;
-        std::string lines = std::exchange(queue->lines, {});
+        queue->writing = std::exchange(queue->lines, {});
         if (const std::size_t dropped = std::exchange(queue->dropped, 0); dropped != 0) {
-            lines += "tarn: " + std::to_string(dropped) + " lines were dropped: standard error is too slow\n";
+            queue->writing += "tarn: " + std::to_string(dropped) + " lines were dropped: standard error is too slow\n";
         }
-        queue->writing = true;
         hold.unlock();
-        write_to_standard_error(lines);
+        write_to_standard_error(queue->writing);
         hold.lock();
-        queue->writing = false;
+        queue->writing.clear();
         queue->changed.notify_all();
     }
 }
