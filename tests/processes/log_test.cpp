@@ -48,12 +48,18 @@ private:
 
 class StandardError : public testing::Test {
 protected:
-    // `redirection` is of the shell; it names the pipe "$PIPE".
+    // `redirection` is of the shell; it names the pipe "$PIPE". A sanitizer writes what it says beside the pipe, since
+    // it would wait for a reader.
     void serve(const std::string &redirection, const std::vector<std::string> &more = {}) {
-        std::vector<std::string> words{"-c",         "PIPE=$0; exec \"$@\" " + redirection,
-                                       pipe_.path(), tool(),
-                                       "answer",     "--socket",
-                                       socket_,      "cl-debug=" + directory_.write("debug.xml", debug_xml)};
+        std::vector<std::string> words{
+            "-c",
+            "PIPE=$0; export ASAN_OPTIONS=\"$ASAN_OPTIONS:log_path=$PIPE.log\"; exec \"$@\" " + redirection,
+            pipe_.path(),
+            tool(),
+            "answer",
+            "--socket",
+            socket_,
+            "cl-debug=" + directory_.write("debug.xml", debug_xml)};
         words.insert(words.end(), more.begin(), more.end());
         server_ = std::make_unique<Process>(words, "/bin/sh");
     }
