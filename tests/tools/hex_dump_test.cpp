@@ -72,6 +72,18 @@ std::string in_halves(std::string_view bytes) {
     return text + print("%08zx\n", bytes.size());
 }
 
+// "000010 41 42  >AB<" and the size at the end, as "od -A x -t x1z -v" prints it.
+std::string in_bytes(std::string_view bytes) {
+    return in_lines(bytes, 16,
+                    [](std::size_t offset, std::string_view line) {
+                        std::string text = print("%06zx", offset);
+                        for (std::size_t i = 0; i < line.size(); ++i) text += print(" %02x", byte_at(line, i));
+                        text.resize(54, ' ');
+                        return text + "  >" + characters(line) + "<";
+                    }) +
+           print("%06zx\n", bytes.size());
+}
+
 // "0010  41 42   AB", as "tshark -x" prints it, each packet from offset 0.
 std::string in_packets(std::string_view bytes) {
     std::string text;
@@ -147,8 +159,9 @@ TEST_P(EveryDump, NamesTheLineWhereItStops) {
 
 INSTANTIATE_TEST_SUITE_P(HexDump, EveryDump,
                          testing::Values(Dump{"Pairs", in_pairs}, Dump{"Halves", in_halves},
-                                         Dump{"Packets", in_packets}, Dump{"Memory", in_memory},
-                                         Dump{"Array", in_array}, Dump{"Digits", in_one_line}),
+                                         Dump{"Packets", in_packets}, Dump{"Bytes", in_bytes},
+                                         Dump{"Memory", in_memory}, Dump{"Array", in_array},
+                                         Dump{"Digits", in_one_line}),
                          [](const auto &info) { return info.param.name; });
 
 TEST(HexDump, OfRepeatedLinesHasAllOfThem) {

@@ -39,7 +39,7 @@ struct Front {
     std::string_view rest;
 };
 
-// "00000010: " (xxd), "00000010  " (hexdump, tshark), "0x7ffe10 <buffer+16>:" (gdb), or nothing.
+// "00000010: " (xxd), "00000010  " (hexdump, tshark), "000010 " (od), "0x7ffe10 <buffer+16>:" (gdb), or nothing.
 Front front_of(std::string_view line) {
     const bool prefixed = line.starts_with("0x");
     const std::string_view text = line.substr(prefixed ? 2 : 0);
@@ -54,9 +54,10 @@ Front front_of(std::string_view line) {
         if (rest.starts_with(':')) return {offset, true, rest.substr(1)};
     } else if (digits >= 4) {
         if (rest.starts_with(':')) return {offset, false, rest.substr(1)};
-        if (rest.starts_with("  ") || without_blanks(rest).empty()) {
-            return {offset, false, rest};
-        }
+        if (rest.starts_with("  ") || without_blanks(rest).empty()) return {offset, false, rest};
+        // Bytes in groups have groups of one size.
+        const bool is_before_byte = rest.front() == ' ' && digits_at(rest.substr(1)) == 2;
+        if ((digits == 6 || digits == 7) && is_before_byte) return {offset, false, rest};
     }
     return {std::nullopt, false, line};
 }

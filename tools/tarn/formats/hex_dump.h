@@ -1,5 +1,5 @@
-// Bytes as hexadecimal text: the output of xxd, "hexdump -C", "tshark -x" and gdb's x/NNxb, arrays in C, and plain
-// digits.
+// Bytes as hexadecimal text: the output of xxd, "hexdump -C", "tshark -x", "od -A x -t x1z" and gdb's x/NNxb,
+// arrays in C, and plain digits.
 #pragma once
 
 #include <string>
