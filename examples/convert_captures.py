@@ -3,7 +3,6 @@
 An invalid capture is reported and skipped; the exit code is then 1.
 """
 
-import json
 import pathlib
 import sys
 
@@ -16,7 +15,7 @@ target.mkdir(parents=True, exist_ok=True)
 failures = 0
 for capture in sorted(source.glob("*.bin")):
     try:
-        lines = [json.dumps(message.to_dict()) for message in lumo_tarn.messages(capture.read_bytes())]
+        lines = [message.to_json() for message in lumo_tarn.messages(capture.read_bytes())]
     except (OSError, ValueError) as error:
         print(f"{capture.name}: {error}", file=sys.stderr)
         failures += 1

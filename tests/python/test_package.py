@@ -428,7 +428,9 @@ def test_frames_equal_those_of_the_tool(message, tracked):
         assert one.to_xml() == tool("decode", "--xml", given=frame).decode().rstrip("\n")
         assert one.text() == tool("decode", "--text", given=frame).decode()
         (expected,) = json_lines(tool("decode", "--json", given=frame))
-        assert one.to_dict() == without_states({key: expected[key] for key in ("message", "payload")})
+        plain = without_states({key: expected[key] for key in ("message", "payload")})
+        assert json.loads(one.to_json()) == plain
+        assert message(message.payload_type(**plain["payload"])) == one
         assert message.from_xml(one.to_xml()) == one
         # The package writes from plain values, the tool from XML.
         again = message(message.payload_type(**one.to_dict()["payload"]))
@@ -444,6 +446,18 @@ def test_frames_of_random_values_equal_those_of_the_tool(message, data):
     one = message(message.payload_type(**values))
     line = json.dumps({"message": message.message_name, "payload": values})
     assert one.to_frame() == tool("encode", given=line.encode())
+    assert one.to_frame() == tool("encode", given=one.to_json().encode())
+
+
+def test_members_of_64_bits_are_text_in_json_and_numbers_in_dictionaries():
+    prefix = lumo_tarn.PalMpPrefix(id=0xFFFFFFFFFFFFFFFF)
+    assert prefix.to_dict()["id"] == 0xFFFFFFFFFFFFFFFF
+    assert json.loads(prefix.to_json())["id"] == "18446744073709551615"
+    assert lumo_tarn.PalMpPrefix(**json.loads(prefix.to_json())) == prefix
+    prefix.id = "17"
+    assert prefix.id == 17
+    with pytest.raises(ValueError):
+        prefix.id = "seventeen"
 
 
 def test_bundles_equal_those_of_the_tool():

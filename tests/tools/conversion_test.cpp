@@ -121,6 +121,24 @@ TEST(Conversion, ABundleWithoutAnEndIsReported) {
     EXPECT_NE(outcome.err.find("ends inside a bundle"), std::string::npos) << outcome.err;
 }
 
+std::string prefix_json(const std::string &id) {
+    return R"({"message":"lumo_tarn_pal_mp_prefix_msg","payload":{"prefix_data":[{"id":)" + id + "}]}}";
+}
+
+TEST(Conversion, MembersOf64BitsAreTextInJson) {
+    const Outcome frame = tarn({"encode"}, prefix_json("18446744073709551615"));
+    EXPECT_EQ(frame.exit, 0) << frame.err;
+    const Outcome json = tarn({"decode", "--json"}, frame.out);
+    EXPECT_NE(json.out.find(R"("id":"18446744073709551615")"), std::string::npos) << json.out;
+    EXPECT_EQ(tarn({"encode"}, prefix_json("\"18446744073709551615\"")).out, frame.out);
+}
+
+TEST(Conversion, NarrowerMembersAreNumbersInJson) {
+    const std::string json = R"({"message":"lumo_tarn_debug_setting_msg","payload":{"info_enabled":4294967295}})";
+    const Outcome frame = tarn({"encode"}, json);
+    EXPECT_NE(tarn({"decode", "--json"}, frame.out).out.find(R"("info_enabled":4294967295)"), std::string::npos);
+}
+
 std::string intf_json(const std::string &name) {
     return R"({"message": "lumo_tarn_dp_intf_msg", "payload": {"intf_name": )" + name + "}}";
 }

@@ -24,7 +24,7 @@ constexpr std::string_view reserved_names[] = {
     "lambda",         "members",      "native",   "nonlocal",    "not",      "or",
     "owns_blocks",    "pass",         "raise",    "record_name", "return",   "set",
     "set_all_states", "set_state_of", "state_of", "text",        "to_dict",  "to_frame",
-    "to_xml",         "try",          "while",    "with",        "yield"};
+    "to_json",        "to_xml",       "try",      "while",       "with",     "yield"};
 
 std::string attribute(std::string_view name) {
     const bool is_reserved =
@@ -120,7 +120,7 @@ Typed typed(const Member &m) {
     if (m.role != Role::value) return {"int", ""};
     switch (category(m.kind)) {
         case Category::integer:
-            return {"int", "int"};
+            return {"int", greatest(m.kind) > 0xffffffff ? "int | str" : "int"};
         case Category::boolean:
             return {"bool", "bool"};
         case Category::enumeration: {

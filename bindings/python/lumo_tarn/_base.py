@@ -5,6 +5,7 @@ from __future__ import annotations
 import dataclasses
 import errno
 import ipaddress
+import json
 import os
 import socket
 from collections.abc import Sequence
@@ -176,8 +177,17 @@ class Record(Native):
         return ((name, getattr(self, name)) for name, member in self.members.items() if member.tracked)
 
     def to_dict(self) -> dict[str, Any]:
-        """Returns the values of all members, as in the output of "tarn decode --json" without state bytes."""
+        """Returns the values of all members, as in the output of "tarn decode --json" without state bytes, except that
+        members of 64 bits are numbers."""
         return {member.name: member.plain(self) for member in self.members.values() if member.tracked}
+
+    def to_json(self) -> str:
+        """Returns JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are text, which
+        the constructor and assignments accept."""
+        return json.dumps(self._json())
+
+    def _json(self) -> dict[str, Any]:
+        return {member.name: member.json(self) for member in self.members.values() if member.tracked}
 
     def state_of(self, member: str) -> int | None:
         """Returns the state byte of a member, of an array that of the whole; None if the record has no state bytes."""
@@ -519,8 +529,14 @@ class Message(Native):
         return message
 
     def to_dict(self) -> dict[str, Any]:
-        """Returns name and payload, as in the output of "tarn decode --json" without state bytes."""
+        """Returns name and payload, as in the output of "tarn decode --json" without state bytes, except that members of
+        64 bits are numbers."""
         return {"message": self.message_name, "payload": self.payload.to_dict()}
+
+    def to_json(self) -> str:
+        """Returns a line of JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are
+        text."""
+        return json.dumps({"message": self.message_name, "payload": self.payload._json()})
 
     def __eq__(self, other: object) -> bool:
         return type(self) is type(other) and bool(self.payload == other.payload)  # type: ignore[attr-defined]

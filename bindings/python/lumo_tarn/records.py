@@ -33,11 +33,24 @@ class Member:
     def plain(self, record: Record) -> Any:
         return self.read(record)
 
+    def json(self, record: Record) -> Any:
+        return self.plain(record)
+
     def state(self, record: Record) -> int:
         return int(record._call(f"{self.name}_state_flag_get"))
 
     def set_state(self, record: Record, value: int) -> None:
         record._call(f"{self.name}_state_flag_set", value)
+
+
+class WideMember(Member):
+    """An integer of 64 bits, which is text in JSON."""
+
+    def write(self, record: Record, value: Any) -> None:
+        super().write(record, int(value) if isinstance(value, str) else value)
+
+    def json(self, record: Record) -> str:
+        return str(self.read(record))
 
 
 class CountMember(Member):
@@ -127,6 +140,9 @@ class RecordMember(Member):
     def plain(self, record: Record) -> Any:
         return self.read(record).to_dict()
 
+    def json(self, record: Record) -> Any:
+        return self.read(record)._json()
+
 
 class ArrayMember(Member):
     def __init__(self, name: str, meaning: str, record: type[Record], counted_by: str, most: int) -> None:
@@ -141,6 +157,9 @@ class ArrayMember(Member):
 
     def plain(self, record: Record) -> Any:
         return [element.to_dict() for element in self.read(record)]
+
+    def json(self, record: Record) -> Any:
+        return [element._json() for element in self.read(record)]
 
     def state(self, record: Record) -> int:
         return int(record._call(f"{self.name}_state_flag_whole_get"))
@@ -171,7 +190,7 @@ def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
         elif kind == "array":
             member = ArrayMember(name, meaning, _made[of], before, most)
         elif kind in _schema.GREATEST:
-            member = Member(name, meaning)
+            member = (WideMember if _schema.GREATEST[kind] > 0xFFFFFFFF else Member)(name, meaning)
         else:
             raise NotImplementedError(f"members of kind {kind} are not supported")
         members[attribute] = member

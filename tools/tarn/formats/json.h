@@ -3,13 +3,15 @@
 //   {"bundle": NAME, "control": "start"}
 //   {"message": NAME, "tracked": true, "payload": {MEMBER: VALUE, ...}}
 //
-// "tracked" is present if the message has per-field state. Integers are numbers, booleans true or false, enumerators
-// and addresses text, strings text or {"bytes": HEX} if they are not UTF-8, nested records objects, arrays arrays.
-// Counts and lengths are omitted, since their members imply them. Names with an "@" are not members: "@state" contains
-// the state bytes except those that are 0; "@variant" replaces the members of a record without a body, and accompanies
-// "@value" in a boolean or an enumeration; "@ra" contains RA data.
+// "tracked" is present if the message has per-field state. Integers are numbers, those of 64 bits decimal text, since
+// many readers round numbers beyond 2^53; both forms are read. Booleans are true or false, enumerators and addresses
+// text, strings text or {"bytes": HEX} if they are not UTF-8, nested records objects, arrays arrays. Counts and lengths
+// are omitted, since their members imply them. Names with an "@" are not members: "@state" contains the state bytes
+// except those that are 0; "@variant" replaces the members of a record without a body, and accompanies "@value" in a
+// boolean or an enumeration; "@ra" contains RA data.
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
@@ -18,6 +20,9 @@
 #include "tools/tarn/formats/item.h"
 
 namespace tarn::tool {
+
+// Written as text.
+constexpr bool is_wide(std::uint64_t greatest) { return greatest > 0xffffffff; }
 
 nlohmann::ordered_json json_of(const Handle &handle, const reflect::RecordOperations &operations, void *instance);
 nlohmann::ordered_json json_of(const Item &item);

@@ -2,6 +2,7 @@
 #include "tools/tarn/formats/json.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "tools/tarn/formats/json_texts.h"
 #include "tools/tarn/formats/xml_check.h"
@@ -30,10 +31,14 @@ std::string shown(const Json &json) {
 }
 
 std::uint64_t number_in(const Json &json, std::uint64_t limit, const std::string &path) {
-    if (!json.is_number_unsigned() || json.get<std::uint64_t>() > limit) {
-        fail(path, shown(json) + " is not a number from 0 to " + std::to_string(limit));
+    if (json.is_number_unsigned() && json.get<std::uint64_t>() <= limit) return json.get<std::uint64_t>();
+    if (json.is_string() && is_wide(limit)) {
+        const auto &text = json.get_ref<const std::string &>();
+        std::uint64_t number = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (error == std::errc() && end == text.data() + text.size()) return number;
     }
-    return json.get<std::uint64_t>();
+    fail(path, shown(json) + " is not a number from 0 to " + std::to_string(limit));
 }
 
 std::int8_t variant_in(const Json &json, const std::string &path) {
@@ -294,6 +299,14 @@ void Reader::read_state(const Json &json, const RecordOperations &operations, vo
     require(path + "/@state");
 }
 
+// Of the objects around payloads.
+void check_keys(const Json &json, const std::vector<std::string> &known, const std::string &location) {
+    for (const auto &item : json.items()) {
+        if (std::find(known.begin(), known.end(), item.key()) != known.end()) continue;
+        fail(location, "unknown key " + in_quotes(item.key()) + suggestion(item.key(), known));
+    }
+}
+
 Item control_of(const Json &json, const std::string &location) {
     const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
     if (bundle == nullptr) fail(location, shown(json["bundle"]) + " is not a bundle");
@@ -313,20 +326,26 @@ Item message_of(const Handles &handles, const Json &json, const std::string &loc
     Item item{{operations}, Message::create(handle, *operations), location};
     if (json.contains("payload")) {
         Reader(handle, lenient)
-            .read_record(json["payload"], item.message->record(), item.message->payload(), location + "payload");
+            .read_record(json["payload"], item.message->record(), item.message->payload(), location + ": payload");
     }
     return item;
 }
 
 void collect(const Handles &handles, const Json &json, const std::string &location, bool lenient,
              std::vector<Item> &items) {
+    const auto check = [&](const std::vector<std::string> &known) {
+        if (!lenient) check_keys(json, known, location);
+    };
     if (json.is_array()) {
         for (const Json &one : json) collect(handles, one, location, lenient, items);
     } else if (json.is_object() && json.contains("message")) {
+        check({"message", "tracked", "payload"});
         items.push_back(message_of(handles, json, location, lenient));
     } else if (json.is_object() && json.contains("bundle") && json.contains("control")) {
+        check({"bundle", "control"});
         items.push_back(control_of(json, location));
     } else if (json.is_object() && json.contains("messages")) {
+        check({"bundle", "messages"});
         collect(handles, json["messages"], location, lenient, items);
     } else {
         fail(location, "neither a message, a control message nor a list of them");
@@ -338,7 +357,7 @@ void collect(const Handles &handles, const Json &json, const std::string &locati
 std::vector<Item> from_json(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
     std::vector<Item> items;
     JsonTexts texts(content, origin);
-    while (texts.next()) collect(handles, texts.value(), texts.location() + ": ", lenient, items);
+    while (texts.next()) collect(handles, texts.value(), texts.location(), lenient, items);
     return items;
 }
 

@@ -33,7 +33,8 @@ ordered_json json_of_string(const std::string &text) {
 }
 
 void add_ra_data(const Handle &handle, void *object, ordered_json &json) {
-    if (const auto ra = ra_data_of(handle, object)) json["@ra"] = {{"value", ra->value}, {"byte", ra->byte}};
+    if (const auto ra = ra_data_of(handle, object))
+        json["@ra"] = {{"value", std::to_string(ra->value)}, {"byte", ra->byte}};
 }
 
 ordered_json json_of_address(const Handle &handle, ip_address *address) {
@@ -96,8 +97,10 @@ private:
         const MemberOperations &m = operations_.members[index];
         mirk_handle *h = handle_.get();
         switch (category(m.member->kind)) {
-            case Category::integer:
-                return m.get_value(h, context_id, instance_, &err_);
+            case Category::integer: {
+                const std::uint64_t number = m.get_value(h, context_id, instance_, &err_);
+                return is_wide(greatest(m.member->kind)) ? ordered_json(std::to_string(number)) : ordered_json(number);
+            }
             case Category::string:
                 return json_of_string(string_at(*operations_.record, index, instance_));
             case Category::record:
