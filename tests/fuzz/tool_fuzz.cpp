@@ -87,6 +87,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     try_it([&] { take_apart(content); });
     try_it([&] { deliver(content, choice.bit(tracking_bit)); });
     hex_dump(content);
-    is_address(content);
+    address_problem(content);
     return 0;
 }

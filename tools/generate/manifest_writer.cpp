@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "api.h"
+#include "schema/digest.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -24,38 +25,6 @@ void append_block(std::string &out, std::uint32_t kind, const std::string &text)
     append_number(out, kind);
     out += text;
     out.append(round_up(length, 4) - text.size(), '\0');
-}
-
-// The description of a type from which its digest is made: the same in every build, different for every type.
-std::string describe(const Record &record) {
-    std::string text = "record " + std::string(record.name);
-    for (const Member &m : record.members) {
-        text += ";" + std::string(m.name) + ":" + std::to_string(static_cast<int>(m.kind)) +
-                std::to_string(static_cast<int>(m.role));
-        if (m.record != nullptr) text += "<" + describe(*m.record) + ">";
-        if (m.enumeration != nullptr) text += "<" + std::string(m.enumeration->name) + ">";
-    }
-    return text;
-}
-std::string describe(const Enumeration &enumeration) {
-    std::string text = "enumeration " + std::string(enumeration.name);
-    for (const std::string_view name : enumeration.enumerators) text += ";" + std::string(name);
-    return text;
-}
-std::string describe(const Message &message) {
-    return "message " + std::string(message.name) + "<" + describe(message.payload) + ">";
-}
-
-// Two 64-bit FNV-1a hashes from different starting points.
-std::string digest(const std::string &text) {
-    std::string digits;
-    for (std::uint64_t hash : {0xcbf29ce484222325ULL, 0x6c62272e07bb0142ULL}) {
-        for (const char c : text) hash = (hash ^ static_cast<std::uint8_t>(c)) * 0x100000001b3ULL;
-        char half[17];
-        std::snprintf(half, sizeof half, "%016llx", static_cast<unsigned long long>(hash));
-        digits += half;
-    }
-    return digits;
 }
 
 std::string line(const Luid &luid, const std::string &description, const char *kind, std::uint32_t size) {

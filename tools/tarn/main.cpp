@@ -10,8 +10,8 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
-#include "tools/tarn/support/printable.h"
 #include "tools/tarn/support/privileges.h"
+#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -34,10 +34,6 @@ int run(int argc, char **argv) {
     CLI::App app("Inspect, convert, serve and record messages of the library lumo_ui_tarn.", "tarn");
     Context context;
     app.require_subcommand(1);
-    app.failure_message([](const CLI::App *command, const CLI::Error &error) {
-        const CLI::Error shown(error.get_name(), printable(error.what(), 4096), error.get_exit_code());
-        return CLI::FailureMessage::simple(command, shown);
-    });
     app.footer(std::string(terms) + "\n\n" + name_rule + "\n\n" + value_rule +
                "\n\nExit codes of all commands:" + exit_code_list() +
                "\n\nRun \"tarn COMMAND --help\" for the options of a command and examples. tarn(1) explains\nmore.");
@@ -52,7 +48,8 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
-    refuse_empty_paths(app);
+    add_to_all_commands(app);
+    check_places(app);
     // "complete" and "manual" describe the command line to the shells and to the build, and are not listed in the help.
     if (argc > 1 && std::string_view(argv[1]) == "complete") {
         write_file("-", completions(app, {argv + 2, argv + argc}));
@@ -65,11 +62,18 @@ int run(int argc, char **argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
-        std::ostringstream help, problem;
-        const bool good = app.exit(error, help, problem) == 0;
-        std::fputs(problem.str().c_str(), stderr);
+        if (error.get_exit_code() != 0) {
+            // Without arguments the help is what a person wants, but a script that lost them has to fail.
+            if (argc == 1)
+                write_file("-", app.help());
+            else
+                std::fputs(usage_error(app, error).c_str(), stderr);
+            return static_cast<int>(Exit::input);
+        }
+        std::ostringstream help;
+        app.exit(error, help, help);
         write_file("-", help.str());
-        return good ? 0 : static_cast<int>(Exit::input);
+        return 0;
     }
     flush_output();
     return static_cast<int>(context.exit);
@@ -85,6 +89,7 @@ int main(int argc, char **argv) {
     reserve_standard_streams();
     try {
         set_no_new_privileges();
+        set_up_trace(false);
         return run(argc, argv);
     } catch (const Failure &failure) {
         return report(failure);

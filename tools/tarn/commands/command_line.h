@@ -1,5 +1,5 @@
-// The command line as data, for completion and the manual page. It comes from the definitions that parse the command
-// line, so there is no second list to keep in step.
+// The command line as data, for errors, completion and the manual pages. It comes from the definitions that parse the
+// command line, so there is no second list to keep in step.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -34,6 +34,9 @@ std::vector<const CLI::Option *> positionals_of(const CLI::App &command);
 bool takes_value(const CLI::Option &option);
 std::string word_of(const CLI::Option &option);                  // the type of its value, such as FILE
 std::vector<std::string> choices_of(const CLI::Option &option);  // the values of an enumerated option
+
+// What is wrong with the arguments, with the word that was probably meant.
+std::string usage_error(const CLI::App &app, const CLI::ParseError &error);
 
 // Candidates for the last word, one per line, each followed by a tab and its description if it has one. The line
 // ":files" tells the shell to complete file names.

@@ -27,23 +27,6 @@ struct DecodeOptions {
     Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
 };
 
-// Throws the first failure, or prints all failures and remembers the highest exit code.
-class Failures {
-public:
-    explicit Failures(bool keep_going) : keep_going_(keep_going) {}
-
-    void add(const Failure &failure) {
-        if (!keep_going_) throw failure;
-        print_error(failure);
-        exit_ = std::max(exit_, failure.exit());
-    }
-    Exit exit() const { return exit_; }
-
-private:
-    bool keep_going_;
-    Exit exit_ = Exit::success;
-};
-
 // The library reports only that a frame is invalid; the dissection finds the offset.
 Failure with_location(const Failure &failure, FrameBytes frame, std::size_t offset, const std::string &origin) {
     const Dissection dissection = dissect_frame(frame, offset);

@@ -7,6 +7,7 @@
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/terminal.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -17,11 +18,12 @@ struct EncodeOptions {
     std::string file = "-", output = "-", bundle;
     std::uint32_t stamp = 0;
     From from = From::detect;
-    bool tracked = false, lenient = false, verbose = false;
+    bool tracked = false, lenient = false, verbose = false, force = false;
 };
 
 Exit run_encode(const EncodeOptions &options) {
     set_up_trace(options.verbose);
+    if (!options.force) refuse_terminal(options.output);
     const std::string origin = shown_path(options.file);
     const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
     const std::vector<Item> items = read_items(handles, options.file, options.lenient, options.from);
@@ -37,6 +39,7 @@ void add_encode(CLI::App &app, Context &context) {
     CLI::App *command = app.add_subcommand("encode", "Convert XML and JSON to frames");
     add_input(*command, options->file, "Frames, XML or JSON");
     add_output(*command, options->output, "Output file");
+    add_force(*command, options->force);
     command->add_option("--bundle", options->bundle, "Put the start and the commit of this bundle around the messages")
         ->type_name(words::bundle);
     command

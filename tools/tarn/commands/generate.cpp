@@ -24,7 +24,7 @@ struct GenerateOptions {
     std::uint64_t seed = 1;
     std::uint32_t elements = 3;
     std::uint64_t size = 0;
-    bool tracked = false, bundle = false;
+    bool tracked = false, bundle = false, force = false;
 };
 
 // The size of a payload on the wire, computed from its JSON form.
@@ -116,11 +116,12 @@ const std::map<std::string, Style> style_names = {
     {"xml", Style::xml}, {"json", Style::json}, {"text", Style::text}, {"frames", Style::frames}};
 
 void run_generate(const GenerateOptions &options) {
+    const Style style = style_names.at(options.form);
+    if (style == Style::frames && !options.force) refuse_terminal(options.output);
     const reflect::BundleOperations *bundle = nullptr;
     const reflect::MessageOperations &operations = message_for(options.type, bundle);
     const Generator generator(options, operations);
     const Item item = generator.make(options.size != 0 ? generator.elements_for(options.size) : options.elements);
-    const Style style = style_names.at(options.form);
     const auto control = [&](Control c) {
         return options.bundle ? rendered({identity_of(*bundle, c), std::nullopt, {}}, style) : std::string();
     };
@@ -151,6 +152,7 @@ void add_generate(CLI::App &app, Context &) {
         ->check(CLI::IsMember({"xml", "json", "text", "frames"}))
         ->capture_default_str();
     add_output(*command, options->output, "Output file");
+    add_force(*command, options->force);
     command->add_flag("--tracked", options->tracked, "Generate with per-field state");
     command->add_flag(
         "--bundle", options->bundle,

@@ -235,8 +235,8 @@ SECONDS may have a fraction and are at most 86400, one day; a timeout is at leas
 Trace levels of the library to print on standard error: comma-separated numbers from 0 to 31, all, or none.
 Fatal errors have level 0, errors level 3, debug lines level 7.
 --verbose prints all levels and overrides this variable.
-Without both, the commands that have the option --verbose print level 0 only, because they report errors themselves.
-The other commands then print levels 0 and 3, as all do if the value is invalid.
+Without both, level 0 is printed only, because the commands report errors themselves; if the value is invalid, levels 0
+and 3.
 .El
 .Sh EXIT STATUS
 All commands use the same exit codes:

@@ -1,6 +1,11 @@
 #include "tools/tarn/commands/options.h"
 
+#include <map>
+
 #include "mirk_platform.h"
+#include "schema/digest.h"
+#include "tools/tarn/support/printable.h"
+#include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
 
@@ -9,19 +14,64 @@ namespace {
 // Of the elements of lists in XML: the sum of the squares of their numbers, for each byte of the document.
 constexpr std::uint32_t list_limit = 256;
 
+// What is wrong with a TCP address; empty if nothing is.
+std::string address_problem(const std::string &text) {
+    if (text.empty()) return "must not be empty";
+    const std::size_t host_end = text.front() == '[' ? text.find(']') : text.find(':');
+    if (text.front() == '[' && host_end == std::string::npos) return in_quotes(text) + " has no closing bracket";
+    if (host_end == std::string::npos) return {};
+    const std::string rest = text.substr(host_end + (text.front() == '[' ? 1 : 0));
+    if (rest.empty()) return {};
+    const std::string port = rest.substr(1);
+    if (rest.front() != ':' || port.empty()) return in_quotes(text) + " is not of the form HOST:PORT";
+    const bool is_number = port.find_first_not_of("0123456789") == std::string::npos;
+    if (is_number && port.size() <= 5 && std::stoul(port) <= 65535) return {};
+    return "the port " + in_quotes(port) + " is not a number from 0 to 65535" +
+           (port.find(':') != std::string::npos ? "; an IPv6 address is written in brackets" : "");
+}
+
+std::string empty_path_problem(const std::string &text) { return text.empty() ? "must not be empty" : ""; }
+
+std::string version_text() {
+#ifdef __clang__
+    const std::string compiler = "clang " __clang_version__;
+#else
+    const std::string compiler = "g++ " __VERSION__;
+#endif
+    return "tarn " TARN_VERSION "\nschema " + schema::schema_digest() + ", " + std::to_string(schema::records.size()) +
+           " records, " + std::to_string(schema::enumerations.size()) + " enumerations, " +
+           std::to_string(schema::messages.size()) + " messages, " + std::to_string(schema::bundles.size()) +
+           " bundles\ncompiler " + compiler;
+}
+
+const std::map<std::string, ColorUse> color_uses = {
+    {"auto", ColorUse::automatic}, {"always", ColorUse::always}, {"never", ColorUse::never}};
+
 }  // namespace
 
 std::string tcp_words() {
     return "TCP address HOST:PORT; default host 127.0.0.1, default port " + std::to_string(MIRK_PLATFORM_TCP_PORT);
 }
 
-void refuse_empty_paths(CLI::App &app) {
+void check_places(CLI::App &app) {
     for (CLI::Option *option : app.get_options()) {
         const std::string &type = option->get_type_name();
-        if (!type.starts_with(words::file) && type != words::address) continue;
-        option->check([](const std::string &text) { return std::string(text.empty() ? "must not be empty" : ""); });
+        if (type.starts_with(words::file)) option->check(empty_path_problem);
+        if (type == words::address) option->check(address_problem);
     }
-    for (CLI::App *command : app.get_subcommands({})) refuse_empty_paths(*command);
+    for (CLI::App *command : app.get_subcommands({})) check_places(*command);
+}
+
+void add_to_all_commands(CLI::App &app) {
+    app.set_version_flag("--version", version_text, "Print the version, the digest of the schema, and the compiler");
+    for (CLI::App *command : app.get_subcommands({})) {
+        command
+            ->add_option_function<ColorUse>("--color", use_color,
+                                            "Colors in text: auto is on a terminal, unless NO_COLOR is set")
+            ->transform(CLI::CheckedTransformer(color_uses).description("{auto,always,never}"))
+            ->default_str("auto");
+        command->set_version_flag("--version", version_text, "Print the version and exit");
+    }
 }
 
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what, double least) {
@@ -56,6 +106,8 @@ void add_input(CLI::App &command, std::string &path, const std::string &what) {
 void add_output(CLI::App &command, std::string &path, const std::string &what) {
     command.add_option("-o,--output", path, what + "; default: standard output")->type_name(words::file);
 }
+
+void add_force(CLI::App &command, bool &force) { command.add_flag("--force", force, "Write frames to a terminal"); }
 
 void add_from(CLI::App &command, From &from) {
     const std::map<std::string, From> forms{{"detect", From::detect}, {"hex", From::hex}};

@@ -23,8 +23,12 @@ inline constexpr const char *type = "TYPE[.MEMBER...]";
 // The description of an option that takes a TCP address.
 std::string tcp_words();
 
-// For all options with a file or an address: an empty text would count as an option that was not given.
-void refuse_empty_paths(CLI::App &app);
+// For all options with a file or an address: an empty text would count as an option that was not given, and the system
+// has no words for what is wrong with an address.
+void check_places(CLI::App &app);
+
+// --version and --color, which all commands have.
+void add_to_all_commands(CLI::App &app);
 
 // A time in seconds, at most a day. 0 means no limit unless `least` excludes it. The initial value is the default.
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what,
@@ -36,6 +40,7 @@ CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t 
 // The positional `file`; its default is standard input.
 void add_input(CLI::App &command, std::string &path, const std::string &what);
 void add_output(CLI::App &command, std::string &path, const std::string &what);
+void add_force(CLI::App &command, bool &force);
 void add_from(CLI::App &command, From &from);
 void add_lenient(CLI::App &command, bool &lenient);
 void add_verbose(CLI::App &command, bool &verbose);

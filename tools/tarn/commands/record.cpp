@@ -13,6 +13,7 @@
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
+#include "tools/tarn/support/terminal.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -26,7 +27,7 @@ struct RecordOptions {
     std::vector<std::string> bundles;
     unsigned rounds = 1;
     double interval = 1, timeout = 10;
-    bool tracked = false, verbose = false;
+    bool tracked = false, verbose = false, force = false;
 };
 
 // Enables the recorder during its lifetime. Its output is taken after each message, which shows whether the message was
@@ -159,6 +160,7 @@ void check_source(const CLI::App &command, const RecordOptions &options) {
     if (options.output == "-" && options.full == "-") {
         throw Failure(Exit::input, "only one of -o and --full can be standard output");
     }
+    if (!options.force) refuse_terminal(options.full);
     if (options.from.empty()) {
         if (options.bundles.empty()) throw Failure(Exit::input, "--socket and --connect require at least one bundle");
         return;
@@ -180,6 +182,7 @@ void add_record(CLI::App &app, Context &context) {
     command
         ->add_option("--full", options->full, "Also write all frames to this file, including those of large messages")
         ->type_name(words::file);
+    add_force(*command, options->force);
     CLI::Option_group *source = command->add_option_group("source", "Where to receive from");
     source->add_option("--socket", options->endpoint.socket, "Unix domain socket")->type_name(words::file);
     source->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);

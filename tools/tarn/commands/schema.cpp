@@ -149,13 +149,22 @@ std::string dot_text(const std::function<bool(const Record &)> &wanted) {
     return out + "}\n";
 }
 
+// Names the first step of the path that is wrong.
 [[noreturn]] void unknown_member(const std::string &path) {
-    std::vector<std::string> candidates;
-    const std::string in = path.substr(0, path.rfind('.'));
-    if (const Target target = target_of(in); target && target.nested() != nullptr) {
-        for (const Member &m : target.nested()->members) candidates.push_back(in + "." + std::string(m.name));
+    std::size_t end = path.find('.');
+    const std::string type = path.substr(0, end);
+    if (!target_of(type)) throw unknown_name("type", type, type_names());
+    for (Target in = target_of(type);; in = target_of(path.substr(0, end))) {
+        const std::size_t from = end + 1;
+        end = path.find('.', from);
+        if (target_of(path.substr(0, end))) continue;
+        const std::string before = path.substr(0, from - 1), name = path.substr(from, end - from);
+        if (in.nested() == nullptr) throw Failure(Exit::input, in_quotes(before) + " nests no record");
+        std::vector<std::string> candidates;
+        for (const Member &m : in.nested()->members) candidates.push_back(before + "." + std::string(m.name));
+        throw Failure(Exit::input, std::string(in.nested()->name) + " has no member " + in_quotes(name) +
+                                       suggestion(before + "." + name, candidates));
     }
-    throw Failure(Exit::input, "unknown member " + in_quotes(path) + suggestion(path, candidates));
 }
 
 bool reaches(const Record &from, const Record &to) {

@@ -12,6 +12,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/terminal.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -24,7 +25,7 @@ struct ShowOptions {
     std::string bundle, save;
     Endpoint endpoint;
     AnswerLimits limits;
-    bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false;
+    bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false, force = false;
     double timeout = 10;
     std::string via = "handle";
 };
@@ -88,6 +89,7 @@ void save(Spool &frames, const std::string &path) {
 void run_show(const ShowOptions &options) {
     set_up_trace(options.verbose);
     const reflect::BundleOperations &bundle = bundle_named(options.bundle);
+    if (!options.force) refuse_terminal(options.save);
     const Deadline deadline(options.timeout);
     Receiver receiver(options.tracked, via_named(options.via));
     Connection connection(options.endpoint, deadline, options.limits);
@@ -103,6 +105,7 @@ void run_show(const ShowOptions &options) {
         throw Failure(Exit::negative,
                       options.endpoint.text() + ": no handler took " + std::string(bundle.bundle->name));
     }
+    if (options.save == "-") return;
     const Print form = options.xml ? Print::xml : options.json ? Print::json : options.hex ? Print::hex : Print::text;
     Printer printer(receiver, bundle, form);
     frames.for_each([&](FrameBytes frame) { printer.add(frame, connection.name()); });
@@ -128,8 +131,11 @@ void add_show(CLI::App &app, Context &) {
     command->add_flag("--tracked", options->tracked, "Request and receive per-field state");
     add_timeout(*command, options->timeout, "Timeout for the whole answer");
     add_limits(*command, options->limits);
-    command->add_option("--save", options->save, "Also write the frames of the answer to this file")
+    command
+        ->add_option("--save", options->save,
+                     "Also write the frames of the answer to this file; - prints them instead of text")
         ->type_name(words::file);
+    add_force(*command, options->force);
     add_via(*command, options->via, "Where to register the handler of the bundle");
     add_verbose(*command, options->verbose);
     command->footer(

@@ -20,7 +20,14 @@ public:
             frames_ += chars_of(frame_of(handle, *item.identity.operations, item.object()));
         } catch (const Failure &failure) {
             close();
+            // The library reports ENOENT.
+            if (open_ != nullptr && !item.identity.is_control() && !admits(*open_, *item.identity.operations)) {
+                throw Failure(Exit::input, not_admitted(item.location, *open_, *item.identity.operations));
+            }
             throw Failure(failure.exit(), item.location + ": " + failure.what());
+        }
+        if (item.identity.is_control()) {
+            open_ = item.identity.control == Control::start ? item.identity.bundle : nullptr;
         }
     }
     const std::string &finish(const std::string &origin) {
@@ -43,6 +50,7 @@ private:
 
     const Handles &handles_;
     std::uint32_t stamp_;
+    const reflect::BundleOperations *open_ = nullptr;
     std::string frames_;
 };
 

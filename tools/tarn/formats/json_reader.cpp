@@ -203,7 +203,8 @@ void Reader::read_address(const Json &json, ip_address *address, const std::stri
         text = &*found;
     }
     const std::string words = text->is_string() ? text->get<std::string>() : shown(*text);
-    if (!text->is_string() || !is_address(words) || !set_address(handle_, address, words)) {
+    if (const std::string problem = address_problem(words); !problem.empty() && !lenient_) fail(path, problem);
+    if (!text->is_string() || !set_address(handle_, address, words)) {
         fail(path, in_quotes(words) + " is not an address with a prefix length");
     }
     std::uint8_t *state = address_state(handle_, address);
@@ -308,8 +309,11 @@ void check_keys(const Json &json, const std::vector<std::string> &known, const s
 }
 
 Item control_of(const Json &json, const std::string &location) {
-    const auto *bundle = json["bundle"].is_string() ? reflect::find_bundle(json["bundle"].get<std::string>()) : nullptr;
-    if (bundle == nullptr) fail(location, shown(json["bundle"]) + " is not a bundle");
+    const std::string name = json["bundle"].is_string() ? json["bundle"].get<std::string>() : std::string();
+    const auto *bundle = reflect::find_bundle(name);
+    if (bundle == nullptr) {
+        fail(location, shown(json["bundle"]) + " is not a bundle" + suggestion(name, bundle_names()));
+    }
     for (const Control control : controls) {
         if (json["control"] != word(control)) continue;
         return {identity_of(*bundle, control), std::nullopt, location};
@@ -320,7 +324,10 @@ Item control_of(const Json &json, const std::string &location) {
 Item message_of(const Handles &handles, const Json &json, const std::string &location, bool lenient) {
     if (!json["message"].is_string()) fail(location, "message must be a name");
     const auto *operations = reflect::find_message(json["message"].get<std::string>());
-    if (operations == nullptr) fail(location, shown(json["message"]) + " is not a message");
+    if (operations == nullptr) {
+        const std::string name = json["message"].get<std::string>();
+        fail(location, shown(json["message"]) + " is not a message" + suggestion(name, message_names()));
+    }
     if (!json.contains("payload") && !lenient) fail(location, "the payload is missing");
     const Handle &handle = handles.choose(json.contains("tracked") && json["tracked"] == true);
     Item item{{operations}, Message::create(handle, *operations), location};

@@ -102,19 +102,18 @@ Document parse(const Fragment &fragment, const std::string &origin) {
 
 void require_schema(const Document &document, const Fragment &fragment, const std::string &origin,
                     const schema::Message &message) {
-    const std::vector<Problem> problems = check_document(document.get(), message);
-    if (problems.empty()) return;
+    const Problems problems = check_document(document.get(), message);
+    if (problems.first.empty()) return;
     std::vector<std::string> lines;
-    for (const Problem &p : problems) lines.push_back(location(origin, fragment, p.line) + p.path + ": " + p.reason);
-    throw Failure(Exit::input, lines);
+    for (const Problem &p : problems.first)
+        lines.push_back(location(origin, fragment, p.line) + p.path + ": " + p.reason);
+    throw Failure(Exit::input, lines, problems.more);
 }
 
 const reflect::MessageOperations &message_for(const Fragment &fragment, const std::string &origin) {
     if (const auto *found = reflect::find_message(fragment.name); found != nullptr) return *found;
-    std::vector<std::string> candidates;
-    for (const reflect::MessageOperations &o : reflect::messages()) candidates.emplace_back(o.name);
     throw Failure(Exit::input, location(origin, fragment, 1) + in_quotes(fragment.name) + " is not a message" +
-                                   suggestion(fragment.name, candidates));
+                                   suggestion(fragment.name, message_names()));
 }
 
 std::optional<Identity> control_in(const Fragment &fragment, const std::string &origin) {
@@ -129,7 +128,8 @@ std::optional<Identity> control_in(const Fragment &fragment, const std::string &
         }
         const auto *bundle = reflect::find_bundle(name);
         if (bundle == nullptr) {
-            throw Failure(Exit::input, location(origin, fragment, 1) + in_quotes(name) + " is not a bundle");
+            throw Failure(Exit::input, location(origin, fragment, 1) + in_quotes(name) + " is not a bundle" +
+                                           suggestion(name, bundle_names()));
         }
         return identity_of(*bundle, control);
     }

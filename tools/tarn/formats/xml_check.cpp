@@ -8,6 +8,7 @@
 #include <map>
 
 #include "schema/model.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
 
@@ -53,15 +54,17 @@ std::vector<std::string> names_of(const Record &record) {
 
 class Checker {
 public:
-    explicit Checker(std::size_t limit) : limit_(limit) {}
-
     void check_record(xmlNode *node, const Record &record, const std::string &path);
     void add(const xmlNode *node, const std::string &path, std::string reason) {
-        if (problems.size() < limit_) problems.push_back({xmlGetLineNo(node), path, std::move(reason)});
+        if (problems.first.size() == most_complaints) {
+            ++problems.more;
+        } else {
+            problems.first.push_back({xmlGetLineNo(node), path, std::move(reason)});
+        }
     }
     void check_attributes(const xmlNode *node, const std::string &path);
 
-    std::vector<Problem> problems;
+    Problems problems;
 
 private:
     using Found = std::map<std::string_view, std::vector<xmlNode *>>;
@@ -70,8 +73,6 @@ private:
     void check_counts(xmlNode *node, const Record &record, const Found &found, const std::string &path);
     void check_skipped(const Record &record, const Found &found, const std::string &path);
     void check_enumeration(xmlNode *node, const Member &member, const std::string &path);
-
-    std::size_t limit_;
 };
 
 void Checker::check_attributes(const xmlNode *node, const std::string &path) {
@@ -122,7 +123,7 @@ void Checker::check_member(xmlNode *node, const Member &member, const std::strin
             }
             break;
         case Category::address:
-            if (!is_address(value)) add(node, path, in_quotes(value) + " is not an address with a prefix length");
+            if (const std::string problem = address_problem(value); !problem.empty()) add(node, path, problem);
             break;
         case Category::string:
             if (text.size() > 65535) add(node, path, "more than 65535 bytes");
@@ -185,7 +186,7 @@ void Checker::check_skipped(const Record &record, const Found &found, const std:
 
 void Checker::check_record(xmlNode *node, const Record &record, const std::string &path) {
     Found found;
-    for (xmlNode *child = node->children; child != nullptr && problems.size() < limit_; child = child->next) {
+    for (xmlNode *child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_TEXT_NODE && !is_blank(text_in(child))) {
             add(node, path, "text " + in_quotes(trimmed(text_in(child))) + " between the members");
         }
@@ -226,22 +227,26 @@ bool is_list_of_members(const std::string &text) {
 
 }  // namespace
 
-bool is_address(const std::string &text) {
-    if (text == "unset") return true;
+std::string address_problem(const std::string &text) {
+    if (text == "unset" || is_list_of_members(text)) return {};
+    const std::string not_one = in_quotes(text) + " is not an address with a prefix length";
     const std::size_t slash = text.find('/');
-    if (slash == std::string::npos || !is_number<std::uint64_t>(text.substr(slash + 1), 255)) return false;
+    if (slash == std::string::npos || !is_number<std::uint64_t>(text.substr(slash + 1), 255)) return not_one;
     std::string address = text.substr(0, slash);
     if (const std::size_t percent = address.find('%'); percent != std::string::npos) {
-        if (!is_number<std::uint64_t>(address.substr(percent + 1), 65535)) return false;
+        if (!is_number<std::uint64_t>(address.substr(percent + 1), 65535)) return not_one;
         address.resize(percent);
     }
     unsigned char bytes[16];
-    return inet_pton(AF_INET, address.c_str(), bytes) == 1 || inet_pton(AF_INET6, address.c_str(), bytes) == 1 ||
-           is_list_of_members(text);
+    const bool v4 = inet_pton(AF_INET, address.c_str(), bytes) == 1;
+    if (!v4 && inet_pton(AF_INET6, address.c_str(), bytes) != 1) return not_one;
+    const std::uint64_t longest = v4 ? 32 : 128;
+    if (is_number(text.substr(slash + 1), longest)) return {};
+    return "the prefix length of " + in_quotes(text) + " is greater than " + std::to_string(longest);
 }
 
-std::vector<Problem> check_document(void *document, const schema::Message &message, std::size_t limit) {
-    Checker checker(limit);
+Problems check_document(void *document, const schema::Message &message) {
+    Checker checker;
     xmlNode *root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
     const std::string path = "/" + std::string(message.name);
     if (root == nullptr || name_of(root) != message.name) {

@@ -15,10 +15,16 @@ struct Problem {
     std::string reason;
 };
 
-// The root of the document must be the message. Returns at most `limit` problems.
-std::vector<Problem> check_document(void *document, const schema::Message &message, std::size_t limit = 20);
+struct Problems {
+    std::vector<Problem> first;  // at most as many as are printed
+    std::size_t more = 0;
+};
 
-// "unset", an address with its prefix length, or the seven members in decimal.
-bool is_address(const std::string &text);
+// The root of the document must be the message.
+Problems check_document(void *document, const schema::Message &message);
+
+// Why the text is not an address: "unset", an address with its prefix length, or the seven members in decimal. Empty if
+// it is one.
+std::string address_problem(const std::string &text);
 
 }  // namespace tarn::tool

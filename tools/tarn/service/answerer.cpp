@@ -83,8 +83,7 @@ void Answerer::add(const reflect::BundleOperations &bundle, const std::string &p
         std::erase_if(items, [](const Item &item) { return item.identity.is_control(); });
         for (const Item &item : items) {
             if (admits(bundle, *item.identity.operations)) continue;
-            throw Failure(Exit::input, not_admitted(item.location, bundle, *item.identity.operations) + ", only " +
-                                           std::string(bundle.bundle->message.name));
+            throw Failure(Exit::input, not_admitted(item.location, bundle, *item.identity.operations));
         }
         if (items.empty()) throw Failure(Exit::input, shown_path(path) + ": no message");
     }

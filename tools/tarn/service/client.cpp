@@ -42,8 +42,13 @@ std::uint32_t Deadline::left_ms() const {
 Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits)
     : name_(printable(endpoint.text())), deadline_(deadline), limits_(limits) {
     const auto open = endpoint.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
-    check(open(endpoint.text().c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_),
-          "cannot connect");
+    const mirk_platform_error error =
+        open(endpoint.text().c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_);
+    check(error, !endpoint.tcp.empty() && error == EADDRNOTAVAIL
+                     ? "cannot connect: the host is unknown or has no address"
+                 : endpoint.tcp.empty() && error == ENOENT ? "cannot connect: there is no such socket"
+                 : error == ECONNREFUSED                   ? "cannot connect: no process listens there"
+                                                           : "cannot connect");
 }
 
 void Connection::request(const reflect::BundleOperations &bundle, bool tracked) {

@@ -94,7 +94,9 @@ void Server::open() {
     const auto open = tcp ? mirk_platform_server_open_tcp : mirk_platform_server_open;
     if (const mirk_platform_error error = open(endpoint.c_str(), &settings, &server_); error != 0) {
         throw Failure(tcp && error == EINVAL ? Exit::input : Exit::environment,
-                      "cannot listen on " + endpoint + ": " + error_text(error));
+                      "cannot listen on " + endpoint + ": " +
+                          (tcp && error == EADDRNOTAVAIL ? "the host is unknown or not this machine: " : "") +
+                          error_text(error));
     }
 }
 

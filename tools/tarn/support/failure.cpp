@@ -1,5 +1,6 @@
 #include "tools/tarn/support/failure.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -13,19 +14,36 @@ namespace {
 // More than a path and what is said about it.
 constexpr std::size_t longest_line = 8192;
 
-std::string joined(const std::vector<std::string> &lines) {
+std::string others(std::size_t number) {
+    return "and " + std::to_string(number) + (number == 1 ? " more error" : " more errors");
+}
+
+std::string joined(const std::vector<std::string> &lines, std::size_t more) {
+    const std::size_t shown = std::min(lines.size(), most_complaints);
     std::string text;
-    for (const std::string &line : lines) text += (text.empty() ? "" : "\n") + printable(line, longest_line);
-    return text;
+    for (std::size_t i = 0; i < shown; ++i) text += (i == 0 ? "" : "\n") + printable(lines[i], longest_line);
+    more += lines.size() - shown;
+    return more == 0 ? text : text + "\n" + others(more);
 }
 
 }  // namespace
 
-Failure::Failure(Exit exit, const std::vector<std::string> &lines) : std::runtime_error(joined(lines)), exit_(exit) {}
+Failure::Failure(Exit exit, const std::vector<std::string> &lines, std::size_t more)
+    : std::runtime_error(joined(lines, more)), exit_(exit) {}
 
 void print_error(const Failure &failure) {
     std::fflush(stdout);
     std::fprintf(stderr, "tarn: %s\n", failure.what());
+}
+
+Failures::~Failures() {
+    if (count_ > most_complaints) print_error({exit_, others(count_ - most_complaints)});
+}
+
+void Failures::add(const Failure &failure) {
+    if (!keep_going_) throw failure;
+    if (++count_ <= most_complaints) print_error(failure);
+    exit_ = std::max(exit_, failure.exit());
 }
 
 std::string error_name(std::uint32_t number) {

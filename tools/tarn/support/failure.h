@@ -1,6 +1,7 @@
 // The exit codes of the tool, and the exception that ends a command with one of them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -23,11 +24,16 @@ inline constexpr ExitCode exit_codes[] = {
     {Exit::environment, "file, connection, timeout or memory error"},
 };
 
-// Its words are printable, whatever text from outside the message quotes, and have as many lines as it was given.
+// Of more complaints about one input, only the number is printed.
+inline constexpr std::size_t most_complaints = 20;
+
+// Its words are printable, whatever text from outside the message quotes. It has a line for each of the first
+// complaints, and one for the number of the others.
 class Failure : public std::runtime_error {
 public:
     Failure(Exit exit, const std::string &message) : Failure(exit, std::vector{message}) {}
-    Failure(Exit exit, const std::vector<std::string> &lines);
+    // `more` complaints are not among the lines.
+    Failure(Exit exit, const std::vector<std::string> &lines, std::size_t more = 0);
     Exit exit() const { return exit_; }
 
 private:
@@ -41,6 +47,24 @@ std::string error_text(std::uint32_t number);
 
 // Prints on standard error, after what is waiting for standard output.
 void print_error(const Failure &failure);
+
+// Throws the first failure or, to keep going, prints the first ones and finally the number of the others.
+class Failures {
+public:
+    explicit Failures(bool keep_going) : keep_going_(keep_going) {}
+    Failures(const Failures &) = delete;
+    Failures &operator=(const Failures &) = delete;
+    ~Failures();
+
+    void add(const Failure &failure);
+    std::size_t count() const { return count_; }
+    Exit exit() const { return exit_; }  // the highest exit code
+
+private:
+    bool keep_going_;
+    std::size_t count_ = 0;
+    Exit exit_ = Exit::success;
+};
 
 // ENOMEM is an error of the environment, every other number one of the input.
 Exit exit_of(std::uint32_t number);

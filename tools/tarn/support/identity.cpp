@@ -65,7 +65,8 @@ bool admits(const reflect::BundleOperations &bundle, const reflect::MessageOpera
 
 std::string not_admitted(const std::string &location, const reflect::BundleOperations &bundle,
                          const reflect::MessageOperations &message) {
-    return location + ": " + std::string(bundle.bundle->name) + " does not admit " + message.name;
+    return location + ": " + std::string(bundle.bundle->name) + " does not admit " + message.name + ", only " +
+           std::string(bundle.bundle->message.name);
 }
 
 }  // namespace tarn::tool

@@ -132,4 +132,10 @@ std::string suggestion(std::string_view word, const std::vector<std::string> &ca
     return nearest != nullptr ? "; did you mean " + *nearest + "?" : std::string();
 }
 
+std::string suggestion(std::string_view word, const std::vector<Named> &full_names) {
+    std::vector<std::string> candidates;
+    for (const Named &n : full_names) candidates.emplace_back(n.name);
+    return suggestion(word, candidates);
+}
+
 }  // namespace tarn::tool

@@ -53,5 +53,6 @@ Target target_of(std::string_view path);
 
 // "; did you mean X?", or an empty string if no candidate is close.
 std::string suggestion(std::string_view word, const std::vector<std::string> &candidates);
+std::string suggestion(std::string_view word, const std::vector<Named> &full_names);
 
 }  // namespace tarn::tool

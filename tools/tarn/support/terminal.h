@@ -1,23 +1,26 @@
-// Colors and progress lines, on terminals only.
+// Colors on standard output, progress lines on standard error, and what is not written to a terminal.
 #pragma once
 
 #include <chrono>
-#include <cstdio>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
-
-#include <unistd.h>
 
 namespace tarn::tool {
 
 enum class Color : std::uint8_t { none, red, green, yellow, blue, gray };
 
-inline std::string colored(std::string_view text, Color color) {
-    static const bool terminal = isatty(STDOUT_FILENO) != 0;
-    constexpr const char *codes[] = {"", "\x1b[31m", "\x1b[32m", "\x1b[33m", "\x1b[34m", "\x1b[90m"};
-    if (!terminal || color == Color::none) return std::string(text);
-    return std::string(codes[static_cast<std::size_t>(color)]) + std::string(text) + "\x1b[0m";
-}
+// Automatic: not if NO_COLOR is set; else if CLICOLOR_FORCE is set, or if standard output is a terminal that is not
+// dumb.
+enum class ColorUse : std::uint8_t { automatic, always, never };
+void use_color(ColorUse use);
+
+std::string colored(std::string_view text, Color color);
+
+// Throws a Failure if the output is "-" and standard output is a terminal: bytes of any value could change its
+// settings.
+void refuse_terminal(const std::string &output);
 
 // A line on standard error that overwrites itself. It first appears after a second.
 class Progress {
@@ -25,18 +28,9 @@ public:
     explicit Progress(std::string what) : what_(std::move(what)) {}
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
-    ~Progress() {
-        if (shown_) std::fprintf(stderr, "\r\x1b[K");
-    }
+    ~Progress();
 
-    void at(std::size_t done, std::size_t all) {
-        static const bool terminal = isatty(STDERR_FILENO) != 0;
-        const auto now = std::chrono::steady_clock::now();
-        if (!terminal || now < next_) return;
-        next_ = now + std::chrono::milliseconds(200);
-        shown_ = true;
-        std::fprintf(stderr, "\r\x1b[K%s: %zu of %zu", what_.c_str(), done, all);
-    }
+    void at(std::size_t done, std::size_t all);
 
 private:
     std::string what_;

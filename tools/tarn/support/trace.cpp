@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "lumo_ui_tarn.h"
 #include "mirk_platform.h"
@@ -27,10 +28,13 @@ extern "C" void trace_to_log(void *log, std::uint16_t module_id, std::uint32_t l
 }  // namespace
 
 void set_up_trace(bool verbose) {
-    mirk_lumo_ui_tarn_type_trace_init();
-    mirk_lumo_ui_tarn_message_trace_init();
+    static bool is_registered = false;
     static std::uint64_t stub_state;
-    skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &stub_state);
+    if (!std::exchange(is_registered, true)) {
+        mirk_lumo_ui_tarn_type_trace_init();
+        mirk_lumo_ui_tarn_message_trace_init();
+        skald_module_init_fn("mirk_lumo_ui_tarn_stub", &g_mirk_lumo_ui_tarn_stub_trace_module_id, &stub_state);
+    }
     if (verbose) {
         mirk_platform_trace_set_levels(~std::uint32_t{0});
         mirk_platform_trace_set_sink(trace_to_standard_error, nullptr);

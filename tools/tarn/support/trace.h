@@ -5,7 +5,8 @@
 
 namespace tarn::tool {
 
-// Registers the trace modules of the library. Verbose enables all levels, on standard error.
+// Registers the trace modules of the library. Verbose enables all levels, on standard error; otherwise only fatal
+// errors are printed, unless the environment says more. May be called again.
 void set_up_trace(bool verbose);
 
 // Sends trace lines to a log during its lifetime. Create it after set_up_trace().
