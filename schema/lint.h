@@ -93,6 +93,9 @@ constexpr Finding lint(const Record &record) {
         if (m.kind == Kind::array && !m.record->key.is_stated) {
             return found(m, "the record of an array's elements states its key, or no_key");
         }
+        if (m.kind == Kind::array && m.record->key.element.empty()) {
+            return found(m, "the record of an array's elements states what an element is called");
+        }
     }
     return lint_key(record);
 }

@@ -39,13 +39,16 @@ struct Luid {
 // How people read an integer: as a number, or as the address of something in another process.
 enum class Notation : std::uint8_t { decimal, hexadecimal };
 
-// The members that identify an element among the others of its list. Tools align two versions of a list by them.
+// The members that identify an element among the others of its list, and what people call such an element. Tools align
+// two versions of a list by its key, and write "class 1003".
 struct Key {
     std::array<std::string_view, 4> names{};
     std::size_t size = 0;
     bool is_stated = false;  // also true of no_key
+    std::string_view element{};
 
     constexpr std::span<const std::string_view> members() const { return {names.data(), size}; }
+    consteval Key called(std::string_view name) const { return {names, size, is_stated, name}; }
 };
 consteval Key keyed_by(auto... members) { return {{members...}, sizeof...(members), true}; }
 inline constexpr Key no_key{{}, 0, true};  // only their position identifies elements

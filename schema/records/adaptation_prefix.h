@@ -13,7 +13,7 @@ inline constexpr Member lumo_tarn_pal_mp_prefix_members[] = {
 };
 inline constexpr Record lumo_tarn_pal_mp_prefix{"lumo_tarn_pal_mp_prefix", "ac9e5fcfde50ba72b735168c77bba633",
                                                 "one prefix of the adaptation layer", lumo_tarn_pal_mp_prefix_members,
-                                                keyed_by("id")};
+                                                keyed_by("id").called("prefix")};
 
 inline constexpr Member lumo_tarn_pal_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

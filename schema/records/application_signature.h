@@ -23,7 +23,8 @@ inline constexpr Member lumo_tarn_dp_appl_sig_members[] = {
     pointer("next_ptr", "link to the next signature in the bucket"),
 };
 inline constexpr Record lumo_tarn_dp_appl_sig{"lumo_tarn_dp_appl_sig", "aaa0672e95bcc307d1218218a1706891",
-                                              "one signature", lumo_tarn_dp_appl_sig_members, keyed_by("pal_id")};
+                                              "one signature", lumo_tarn_dp_appl_sig_members,
+                                              keyed_by("pal_id").called("signature")};
 
 inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
     boolean("show_header", "whether to show the header"),
@@ -34,7 +35,7 @@ inline constexpr Member lumo_tarn_dp_appl_cfg_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_appl_cfg{"lumo_tarn_dp_appl_cfg", "74fae40b85570bd4a83d4a45eb2dee05",
                                               "signatures of one processor", lumo_tarn_dp_appl_cfg_members,
-                                              keyed_by("lumo_num")};
+                                              keyed_by("lumo_num").called("processor")};
 
 inline constexpr Member lumo_tarn_dp_appl_data_members[] = {
     boolean("show_header", "whether to show the header"),

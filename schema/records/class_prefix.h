@@ -15,9 +15,9 @@ inline constexpr Member lumo_tarn_dp_mp_tc_prefix_members[] = {
     one("tc_list", lumo_tarn_dp_tc_list, "traffic classes"),
     boolean("show_pfx_comm", "selection flag of the show request"),
 };
-inline constexpr Record lumo_tarn_dp_mp_tc_prefix{"lumo_tarn_dp_mp_tc_prefix", "fbe004f62f1d7cc30a8c75dac41c968e",
-                                                  "traffic classes of one prefix on one processor",
-                                                  lumo_tarn_dp_mp_tc_prefix_members, keyed_by("lumo_num")};
+inline constexpr Record lumo_tarn_dp_mp_tc_prefix{
+    "lumo_tarn_dp_mp_tc_prefix", "fbe004f62f1d7cc30a8c75dac41c968e", "traffic classes of one prefix on one processor",
+    lumo_tarn_dp_mp_tc_prefix_members, keyed_by("lumo_num").called("processor")};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
     address("prefix", "network prefix"),
@@ -26,7 +26,7 @@ inline constexpr Member lumo_tarn_dp_mp_tc_prefix_lumo_data_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_mp_tc_prefix_lumo_data{
     "lumo_tarn_dp_mp_tc_prefix_lumo_data", "711360b81716cdfdc00a905deaa73014", "one prefix with its entries",
-    lumo_tarn_dp_mp_tc_prefix_lumo_data_members, keyed_by("prefix")};
+    lumo_tarn_dp_mp_tc_prefix_lumo_data_members, keyed_by("prefix").called("prefix")};
 
 inline constexpr Member lumo_tarn_dp_mp_tc_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

@@ -14,7 +14,8 @@ inline constexpr Member lumo_tarn_cl_kesh_appl_members[] = {
     u16("tarn_id", "identifier of the application within the tarn feature"),
 };
 inline constexpr Record lumo_tarn_cl_kesh_appl{"lumo_tarn_cl_kesh_appl", "6be60647e80e57000b6b6f8f2d9a6e0f",
-                                               "one application", lumo_tarn_cl_kesh_appl_members, keyed_by("tarn_id")};
+                                               "one application", lumo_tarn_cl_kesh_appl_members,
+                                               keyed_by("tarn_id").called("application")};
 
 inline constexpr Member lumo_tarn_cl_appl_data_members[] = {
     boolean("show_header", "whether to show the header"),

@@ -16,9 +16,9 @@ inline constexpr Member lumo_tarn_dp_debug_setting_members[] = {
     u32("exporter_tt_enabled", "debug switch of the exporter for tt data"),
     u32("exporter_mp_enabled", "debug switch of the exporter for mp data"),
 };
-inline constexpr Record lumo_tarn_dp_debug_setting{"lumo_tarn_dp_debug_setting", "ad41ed1f43f7eb0ede202ce5d6780f0a",
-                                                   "debug switches of one processor's data plane",
-                                                   lumo_tarn_dp_debug_setting_members, keyed_by("lumo_num")};
+inline constexpr Record lumo_tarn_dp_debug_setting{
+    "lumo_tarn_dp_debug_setting", "ad41ed1f43f7eb0ede202ce5d6780f0a", "debug switches of one processor's data plane",
+    lumo_tarn_dp_debug_setting_members, keyed_by("lumo_num").called("processor")};
 
 inline constexpr Member lumo_tarn_debug_setting_members[] = {
     u32("info_enabled", "switch of information-level debug output"),

@@ -35,7 +35,7 @@ inline constexpr Member lumo_tarn_dp_ll_spec_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_ll_spec{"lumo_tarn_dp_ll_spec", "1a46d1ad245ecd8ddb03940c9e78474e",
                                              "definition of one learn list", lumo_tarn_dp_ll_spec_members,
-                                             keyed_by("id")};
+                                             keyed_by("id").called("learn list")};
 
 inline constexpr Member lumo_tarn_dp_learn_list_members[] = {
     count32("num_ll_specs", "number of elements in ll_spec_list"),

@@ -37,7 +37,7 @@ inline constexpr Member lumo_tarn_exmem_info_wrapper_members[] = {
 };
 inline constexpr Record lumo_tarn_exmem_info_wrapper{"lumo_tarn_exmem_info_wrapper", "1ac4a09d31cce88dcc15cc105062ccf8",
                                                      "one block of a growing list of blocks",
-                                                     lumo_tarn_exmem_info_wrapper_members, no_key};
+                                                     lumo_tarn_exmem_info_wrapper_members, no_key.called("block")};
 
 inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
     enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
@@ -47,7 +47,7 @@ inline constexpr Member lumo_tarn_static_exmem_info_members[] = {
 inline constexpr Record lumo_tarn_static_exmem_info{
     "lumo_tarn_static_exmem_info", "2557d9fc36ed08f926459963e2b84549",
     "memory block that a processor holds permanently, with its kind of memory", lumo_tarn_static_exmem_info_members,
-    keyed_by("mem_type")};
+    keyed_by("mem_type").called("static memory")};
 
 inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
     enumerated("mem_type", lumo_tarn_mem_desc_e, "which kind of memory this is"),
@@ -58,6 +58,6 @@ inline constexpr Member lumo_tarn_dyn_exmem_info_members[] = {
 inline constexpr Record lumo_tarn_dyn_exmem_info{
     "lumo_tarn_dyn_exmem_info", "21946a632bd59ef767c684b5ebddc290",
     "memory blocks that a processor adds at run time, with their kind of memory", lumo_tarn_dyn_exmem_info_members,
-    keyed_by("mem_type")};
+    keyed_by("mem_type").called("dynamic memory")};
 
 }  // namespace tarn::schema

@@ -13,7 +13,7 @@ inline constexpr Member lumo_tarn_dp_mp_prefix_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix{"lumo_tarn_dp_mp_prefix", "877f4706728a7ef61240d5ada90d521a",
                                                "one prefix as one complex holds it", lumo_tarn_dp_mp_prefix_members,
-                                               keyed_by("complex_num")};
+                                               keyed_by("complex_num").called("complex")};
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_complex_data_members[] = {
     address("lookup_prefix", "prefix that was looked up"),
@@ -22,7 +22,7 @@ inline constexpr Member lumo_tarn_dp_mp_prefix_complex_data_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_mp_prefix_complex_data{
     "lumo_tarn_dp_mp_prefix_complex_data", "7b6d292586e45fb1cd81d6683d42da19", "one looked-up prefix with its entries",
-    lumo_tarn_dp_mp_prefix_complex_data_members, keyed_by("lookup_prefix")};
+    lumo_tarn_dp_mp_prefix_complex_data_members, keyed_by("lookup_prefix").called("prefix")};
 
 inline constexpr Member lumo_tarn_dp_mp_prefix_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

@@ -67,7 +67,7 @@ inline constexpr Member lumo_tarn_lumo_info_members[] = {
 };
 inline constexpr Record lumo_tarn_lumo_info{"lumo_tarn_lumo_info", "96db130edec7ebbd06d4f894d4fe5c5c",
                                             "state of one processor", lumo_tarn_lumo_info_members,
-                                            keyed_by("lumo_num")};
+                                            keyed_by("lumo_num").called("processor")};
 
 inline constexpr Member lumo_tarn_lumo_info_list_members[] = {
     count32("num_lumos", "number of elements in lumo_info"),

@@ -15,7 +15,7 @@ inline constexpr Member lumo_tarn_dp_appl_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_appl{"lumo_tarn_dp_appl", "79672243f138925a1adfdb7e012965bd",
                                           "one application entry in the data plane", lumo_tarn_dp_appl_members,
-                                          keyed_by("id")};
+                                          keyed_by("id").called("application")};
 
 inline constexpr Member lumo_tarn_dp_tc_members[] = {
     one("exmem_info", lumo_tarn_exmem_info, "location of the traffic class in memory"),
@@ -37,7 +37,7 @@ inline constexpr Member lumo_tarn_dp_tc_members[] = {
     u32("id", "identifier of the class"),
 };
 inline constexpr Record lumo_tarn_dp_tc{"lumo_tarn_dp_tc", "ed7168bceeaa74618db6b05286fecacb", "one traffic class",
-                                        lumo_tarn_dp_tc_members, keyed_by("id")};
+                                        lumo_tarn_dp_tc_members, keyed_by("id").called("class")};
 
 inline constexpr Member lumo_tarn_dp_tc_list_members[] = {
     count32("num_tcs", "number of elements in tc_list"),

@@ -43,7 +43,7 @@ inline constexpr Member lumo_tarn_dp_tt_table_members[] = {
 };
 inline constexpr Record lumo_tarn_dp_tt_table{"lumo_tarn_dp_tt_table", "9035b091bd9713f7567017cbe2e56f08",
                                               "one traffic table of one processor", lumo_tarn_dp_tt_table_members,
-                                              keyed_by("lumo_num")};
+                                              keyed_by("lumo_num").called("processor")};
 
 inline constexpr Member lumo_tarn_dp_tt_table_data_members[] = {
     boolean("show_header", "selection flag of the show request"),

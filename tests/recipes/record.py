@@ -9,7 +9,7 @@ def add_record(tree):
     u64("packets", "packets in the queue"),
 };
 inline constexpr Record lumo_tarn_dp_queue{"lumo_tarn_dp_queue", "5be1f0c25d0f4a1f9d5d2c8a73e1b064", "one packet queue",
-                                           lumo_tarn_dp_queue_members, keyed_by("id")};
+                                           lumo_tarn_dp_queue_members, keyed_by("id").called("queue")};
 
 inline constexpr Member lumo_tarn_dp_queue_list_members[] = {
     count8("num_queues", "elements in queues"),

@@ -20,7 +20,8 @@ constexpr schema::Luid some_luid("00000000000000000000000000000001");
 constexpr std::string_view one_name[] = {"ONE"};
 constexpr schema::Enumeration some_enumeration{"state", some_luid, "a state", one_name};
 constexpr Member plain_members[] = {schema::u8("a", "a value")};
-constexpr schema::Record some_record{"some", some_luid, "a record", plain_members, schema::keyed_by("a")};
+constexpr schema::Record some_record{"some", some_luid, "a record", plain_members,
+                                     schema::keyed_by("a").called("thing")};
 
 schema::Finding lint_of(const std::vector<Member> &members, std::string_view name = "r") {
     return lint(schema::Record{name, some_luid, "a record", members});
@@ -132,12 +133,16 @@ TEST(Lint, LengthsAndStrings) {
                    "a length has the name of its string and _len");
 }
 
-TEST(Lint, KeysOfElements) {
+TEST(Lint, KeysAndNamesOfElements) {
     static constexpr schema::Record unstated{"some", some_luid, "a record", plain_members};
     EXPECT_FINDING(lint_of({schema::count8("n", "x"), schema::many("a", unstated, "x")}), "a",
                    "the record of an array's elements states its key, or no_key");
-    static constexpr schema::Record keyless{"some", some_luid, "a record", plain_members, schema::no_key};
+    static constexpr schema::Record keyless{"some", some_luid, "a record", plain_members,
+                                            schema::no_key.called("thing")};
     EXPECT_FALSE(lint_of({schema::count8("n", "x"), schema::many("a", keyless, "x")}));
+    static constexpr schema::Record nameless{"some", some_luid, "a record", plain_members, schema::no_key};
+    EXPECT_FINDING(lint_of({schema::count8("n", "x"), schema::many("a", nameless, "x")}), "a",
+                   "the record of an array's elements states what an element is called");
 }
 
 TEST(Lint, MembersOfAKey) {
