@@ -219,39 +219,6 @@ TEST(Dissect, ReportsAJumpThatContradictsTheMembers) {
     EXPECT_NE(newer.out.find("skipped 1 bytes of a newer version"), std::string::npos) << newer.out;
 }
 
-TEST(Diff, ComparesMessagesOfDifferentFormats) {
-    const Directory directory;
-    reference::Record payload = plain_payload(debug_message(), 1);
-    payload["warn_enabled"].number = 1;
-    const std::string a = directory.write("a.bin", frame(debug_message(), payload, false));
-    const std::string same = directory.write("a.xml", reference::message_to_xml(debug_message().name, payload, false));
-    payload["warn_enabled"].number = 2;
-    const std::string b =
-        directory.write("b.json", tarn({"decode", "--json"}, frame(debug_message(), payload, false)).out);
-    EXPECT_EQ(tarn({"diff", a, same}).exit, 0);
-    const Outcome outcome = tarn({"diff", a, b});
-    EXPECT_EQ(outcome.exit, 1);
-    EXPECT_EQ(outcome.out, "payload.warn_enabled: 1 -> 2\n");
-    EXPECT_EQ(tarn({"diff", a, b, "--quiet"}).out, "");
-    EXPECT_EQ(tarn({"diff", a, directory.write("bad", "bad")}).exit, 2);
-}
-
-TEST(Diff, ShowsStateAndElementsOfOneSideOnly) {
-    const Directory directory;
-    const auto &message = reference::message_table("lumo_tarn_dp_debug_setting_msg");
-    reference::Record payload(message.payload);
-    payload.append("lumo_data", 1);
-    const std::string one = directory.write("one", frame(message, payload, true));
-    payload.append("lumo_data", 1)["ager_enabled"].state = 7;
-    const std::string two = directory.write("two", frame(message, payload, true));
-    const Outcome outcome = tarn({"diff", one, two});
-    EXPECT_EQ(outcome.exit, 1);
-    EXPECT_NE(outcome.out.find("payload.lumo_data[1]: only in B: {...}\n"), std::string::npos) << outcome.out;
-    EXPECT_NE(outcome.out.find("payload.@state.lumo_data.elements[1]: only in B: 1\n"), std::string::npos)
-        << outcome.out;
-    EXPECT_EQ(tarn({"diff", one, two, "--no-state"}).out.find("@state"), std::string::npos);
-}
-
 TEST(Schema, ListsEverythingAndDescribesARecord) {
     const Outcome list = tarn({"schema"});
     for (const auto &record : reference::records())
@@ -267,6 +234,14 @@ TEST(Schema, ListsEverythingAndDescribesARecord) {
         for (const auto &member : record.members)
             EXPECT_NE(one.out.find("\n  " + member.name + " "), std::string::npos);
     }
+}
+
+TEST(Schema, SaysWhatIdentifiesAnElement) {
+    EXPECT_NE(tarn({"schema", "dp-tc"}).out.find("\n  class, key id\n"), std::string::npos);
+    EXPECT_NE(tarn({"schema", "exmem-info-wrapper"}).out.find("\n  block, key none\n"), std::string::npos);
+    EXPECT_EQ(tarn({"schema", "dp-tc-list"}).out.find(", key "), std::string::npos);
+    EXPECT_NE(tarn({"schema", "dp-tc", "--json"}).out.find("\"element\": \"class\",\n  \"key\": [\n    \"id\"\n  ]"),
+              std::string::npos);
 }
 
 // A record comes before a bundle or message of the same short name.

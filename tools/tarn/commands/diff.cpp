@@ -1,13 +1,14 @@
 // tarn diff: compares messages member by member.
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/message_changes.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/files.h"
-#include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
 
@@ -18,118 +19,110 @@ using nlohmann::ordered_json;
 struct DiffOptions {
     std::string a, b;
     From from = From::detect;
-    bool json = false, quiet = false, no_state = false, lenient = false;
+    ComparisonOptions comparison;
+    bool json = false, quiet = false, summary = false, lenient = false;
 };
 
-struct Difference {
-    std::string path;
-    const ordered_json *a, *b;  // null: only the other side has it
-};
-
-class Comparison {
+// The messages of a file.
+class DiffSource {
 public:
-    explicit Comparison(bool with_state) : with_state_(with_state) {}
-
-    void compare(const std::string &path, const ordered_json &a, const ordered_json &b) {
-        if (a.is_object() && b.is_object()) {
-            compare_objects(path, a, b);
-        } else if (a.is_array() && b.is_array()) {
-            for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
-                const std::string below = path + "[" + std::to_string(i) + "]";
-                if (i < a.size() && i < b.size()) {
-                    compare(below, a[i], b[i]);
-                } else {
-                    add(below, i < a.size() ? &a[i] : nullptr, i < b.size() ? &b[i] : nullptr);
-                }
-            }
-        } else if (a != b) {
-            add(path, &a, &b);
-        }
+    DiffSource(const Handles &handles, const std::string &path, const DiffOptions &options)
+        : origin_(shown_path(path)), content_(read_input(path, options.from)) {
+        if (form_of(content_, origin_) == Form::frames) return;
+        items_ = items_of(handles, content_, origin_, options.lenient);
+        if (items_.empty()) throw Failure(Exit::input, origin_ + ": no message");
+        offset_ = content_.size();
     }
 
-    std::vector<Difference> differences;
+    std::optional<Version> next() {
+        if (offset_ < content_.size()) {
+            const Frame frame = frame_at(bytes_of(content_), offset_, origin_);
+            offset_ += frame.bytes.size();
+            return Version{frame.identity, std::string(chars_of(frame.bytes)), std::nullopt,
+                           frame_location(origin_, frame.offset)};
+        }
+        if (item_ == items_.size()) return std::nullopt;
+        Item &item = items_[item_++];
+        const Identity identity = item.identity;
+        return Version{identity, {}, std::move(item), {}};
+    }
 
 private:
-    void add(const std::string &path, const ordered_json *a, const ordered_json *b) {
-        differences.push_back({path, a, b});
-    }
-
-    bool is_ignored(const std::string &name) const {
-        return !with_state_ && (name == "@state" || name == "@members" || name == "tracked");
-    }
-
-    void compare_objects(const std::string &path, const ordered_json &a, const ordered_json &b) {
-        for (const auto &item : a.items()) {
-            if (is_ignored(item.key())) continue;
-            const auto other = b.find(item.key());
-            const std::string below = path + "." + item.key();
-            if (other == b.end()) {
-                add(below, &item.value(), nullptr);
-            } else {
-                compare(below, item.value(), *other);
-            }
-        }
-        for (const auto &item : b.items()) {
-            if (!is_ignored(item.key()) && !a.contains(item.key()))
-                add(path + "." + item.key(), nullptr, &item.value());
-        }
-    }
-
-    bool with_state_;
+    std::string origin_, content_;
+    std::size_t offset_ = 0, item_ = 0;
+    std::vector<Item> items_;
 };
 
-ordered_json load(const std::string &path, const DiffOptions &options) {
-    const Handles handles(Tracking::as_input);
-    ordered_json all = ordered_json::array();
-    for (const Item &item : read_items(handles, path, options.lenient, options.from)) all.push_back(json_of(item));
-    return all;
-}
+// Prints changes one after the other.
+class ChangePrinter {
+public:
+    explicit ChangePrinter(const DiffOptions &options) : options_(options) {}
 
-std::string shown(const ordered_json *json) { return json->is_structured() ? "{...}" : json_text(*json); }
-
-void print(const std::vector<Difference> &differences) {
-    std::string out;
-    for (const Difference &d : differences) {
-        if (d.a != nullptr && d.b != nullptr) {
-            out += d.path + ": " + colored(json_text(*d.a), Color::red) + " -> " +
-                   colored(json_text(*d.b), Color::green) + "\n";
-        } else if (d.a != nullptr) {
-            out += d.path + ": " + colored("only in A: " + shown(d.a), Color::red) + "\n";
-        } else {
-            out += d.path + ": " + colored("only in B: " + shown(d.b), Color::green) + "\n";
+    void add(Change &change, std::size_t number) {
+        is_empty_ = false;
+        if (options_.quiet) return;
+        if (options_.summary) return counts_.add(change);
+        if (options_.json) {
+            ordered_json json{{"message", number}};
+            json.update(json_of(change));
+            return print(std::exchange(separator_, ",\n ") + json_text(json));
         }
+        change.whole = nullptr;
+        // Lines of the first message wait until it is known whether there are others.
+        if (number == 1 && change.element != "message") return first_.push_back(std::move(change));
+        print_first(true);
+        print_line(change, number);
     }
-    write_file("-", out);
-}
 
-void print_json(const std::vector<Difference> &differences) {
-    ordered_json all = ordered_json::array();
-    for (const Difference &d : differences) {
-        ordered_json one{{"path", d.path}};
-        if (d.a != nullptr) one["a"] = *d.a;
-        if (d.b != nullptr) one["b"] = *d.b;
-        all.push_back(one);
+    void finish(std::size_t messages) {
+        print_first(messages > 1);
+        if (options_.summary) {
+            print(options_.json ? json_text(counts_.json()) + "\n" : counts_.text());
+        } else if (options_.json) {
+            print(is_empty_ ? "[]\n" : "]\n");
+        }
+        if (!options_.quiet) write_file("-", text_);
     }
-    write_file("-", json_text(all, 2) + "\n");
-}
+    bool is_empty() const { return is_empty_; }
+
+private:
+    void print_first(bool with_number) {
+        for (Change &change : std::exchange(first_, {})) print_line(change, with_number ? 1 : 0);
+    }
+    void print_line(Change &change, std::size_t number) {
+        const std::string message = "message " + std::to_string(number);
+        if (change.element == "message") {
+            const bool in_b = change.kind == Change::Kind::added;
+            change.place = message + (in_b ? " of B (" : " (") + change.place + ")";
+        } else if (number != 0) {
+            change.place = message + (change.place.empty() ? "" : ", ") + change.place;
+        }
+        print(line_of(change) + "\n");
+    }
+    void print(const std::string &text) {
+        constexpr std::size_t most = std::size_t{64} << 10;
+        text_ += text;
+        if (text_.size() >= most) write_file("-", std::exchange(text_, {}));
+    }
+
+    const DiffOptions &options_;
+    bool is_empty_ = true;
+    const char *separator_ = "[";
+    std::string text_;
+    std::vector<Change> first_;
+    ChangeCounts counts_;
+};
 
 Exit run_diff(const DiffOptions &options) {
-    const ordered_json a = load(options.a, options), b = load(options.b, options);
-    Comparison comparison(!options.no_state);
-    // The paths of a single message have no index.
-    for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
-        const std::string path = std::max(a.size(), b.size()) == 1 ? "" : "[" + std::to_string(i) + "]";
-        if (i < a.size() && i < b.size()) {
-            comparison.compare(path, a[i], b[i]);
-        } else {
-            comparison.differences.push_back({path, i < a.size() ? &a[i] : nullptr, i < b.size() ? &b[i] : nullptr});
-        }
-    }
-    for (Difference &d : comparison.differences) {
-        if (!d.path.empty() && d.path[0] == '.') d.path.erase(0, 1);
-    }
-    if (!options.quiet) (options.json ? print_json : print)(comparison.differences);
-    return comparison.differences.empty() ? Exit::success : Exit::negative;
+    Comparison comparison(options.comparison.rules());
+    const Handles handles(Tracking::as_input);
+    DiffSource a(handles, options.a, options), b(handles, options.b, options);
+    ChangePrinter printer(options);
+    const std::size_t messages = compare_sequences(
+        handles, comparison, [&] { return a.next(); }, [&] { return b.next(); },
+        [&](Change &change, std::size_t number) { printer.add(change, number); });
+    printer.finish(messages);
+    return printer.is_empty() ? Exit::success : Exit::negative;
 }
 
 }  // namespace
@@ -141,18 +134,28 @@ void add_diff(CLI::App &app, Context &context) {
     command->add_option("b", options->b, "Frames, XML or JSON; the formats may differ")
         ->type_name(words::file_b)
         ->required();
+    command->add_flag("--summary", options->summary, "Print how often something was added, removed and changed");
     command->add_flag("--json", options->json, "Print the differences as JSON");
     command->add_flag("-q,--quiet", options->quiet, "Print nothing; only set the exit code");
-    command->add_flag("--no-state", options->no_state, "Ignore per-field state");
+    add_comparison(*command, options->comparison);
+    command->add_flag("--no-state", options->comparison.no_state, "Ignore per-field state");
     add_from(*command, options->from);
     add_lenient(*command, options->lenient);
     command->footer(
         "The exit code is 0 if the messages are equal, and 1 if they differ. If they are\n"
         "equal, nothing is printed, or [] with --json.\n\n"
+        "Elements of a list are compared with those that have the same key, which\n"
+        "\"tarn schema\" prints for each record; in a list whose elements have none, with\n"
+        "those between the same neighbors. A message is compared with the one that has its\n"
+        "type and its position in the same bundle. Starts and commits of bundles, stamps, and\n"
+        "counts of elements are no differences of their own.\n\n"
         "Frames are read as the library reads them, which does not detect every broken\n"
-        "frame; \"tarn dissect\" does.\n\n"
+        "frame; \"tarn dissect\" does. Of frames with the same bytes, only the counts are\n"
+        "checked.\n\n"
         "Examples:\n"
         "  tarn diff before.bin after.bin\n"
+        "  tarn diff before.bin after.bin --ignore \"*_ptr\" --ignore \"*_addr\"\n"
+        "  tarn diff before.bin after.bin --summary\n"
         "  tarn diff examples/cl_debug.xml answer.json --json");
     command->callback([options, &context] { context.exit = run_diff(*options); });
 }

@@ -4,6 +4,7 @@
 
 #include "mirk_platform.h"
 #include "schema/digest.h"
+#include "tools/tarn/support/files.h"
 #include "tools/tarn/support/printable.h"
 #include "tools/tarn/support/terminal.h"
 
@@ -131,6 +132,34 @@ void add_lenient(CLI::App &command, bool &lenient) {
 
 void add_verbose(CLI::App &command, bool &verbose) {
     command.add_flag("-v,--verbose", verbose, "Print all trace lines of the library on standard error");
+}
+
+ComparisonRules ComparisonOptions::rules() const {
+    ComparisonRules rules;
+    for (const std::string &path : ignore_files) rules.add_ignored(read_file(path), shown_path(path));
+    rules.ignored.insert(rules.ignored.end(), ignored.begin(), ignored.end());
+    rules.by = by;
+    rules.with_state = !no_state;
+    return rules;
+}
+
+void add_comparison(CLI::App &command, ComparisonOptions &options) {
+    command
+        .add_option("--ignore", options.ignored,
+                    "Ignore members with this name, such as next_ptr, *_ptr or exmem.size; repeatable")
+        ->type_name("NAME")
+        ->allow_extra_args(false);
+    command
+        .add_option("--ignore-file", options.ignore_files,
+                    "Ignore the names in this file, one a line; # begins a comment")
+        ->type_name(words::file)
+        ->allow_extra_args(false);
+    command
+        .add_option("--by", options.by,
+                    "Align elements that have this member, or these, by it instead of their key, such as id or "
+                    "type,id; repeatable")
+        ->type_name("MEMBER[,...]")
+        ->allow_extra_args(false);
 }
 
 void add_timeout(CLI::App &command, double &seconds, const std::string &what) {

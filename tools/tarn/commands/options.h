@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "tools/tarn/formats/comparison.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/service/client.h"
 
@@ -44,6 +45,15 @@ void add_force(CLI::App &command, bool &force);
 void add_from(CLI::App &command, From &from);
 void add_lenient(CLI::App &command, bool &lenient);
 void add_verbose(CLI::App &command, bool &verbose);
+
+// What to compare; shared by the commands that print changes.
+struct ComparisonOptions {
+    std::vector<std::string> ignored, ignore_files, by;
+    bool no_state = false;
+
+    ComparisonRules rules() const;
+};
+void add_comparison(CLI::App &command, ComparisonOptions &options);
 
 // Options of a requesting process.
 void add_timeout(CLI::App &command, double &seconds, const std::string &what);

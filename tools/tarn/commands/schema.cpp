@@ -96,12 +96,20 @@ std::vector<std::vector<std::string>> record_rows(const Record &record) {
     return rows;
 }
 
+// Nothing for a record that is no element of a list.
+std::string key_text(const schema::Key &key) {
+    if (!key.is_stated) return {};
+    std::string members;
+    for (const std::string_view name : key.members()) members += (members.empty() ? "" : ", ") + std::string(name);
+    return "  " + std::string(key.element) + ", key " + (members.empty() ? "none" : members) + "\n";
+}
+
 std::string record_text(const Record &record) {
     const schema::Layout layout = schema::lay_out(record);
     std::string out = std::string(record.name) + ": " + std::string(record.meaning) + "\n  luid " +
                       record.luid.text.data() + ", base size " + std::to_string(layout.base_size) + ", state area " +
                       std::to_string(layout.state_width) + ", on the wire " + wire_text(record) + " bytes\n";
-    return out + table(record_rows(record));
+    return out + key_text(record.key) + table(record_rows(record));
 }
 
 std::string enumeration_text(const schema::Enumeration &e) {
@@ -249,7 +257,8 @@ void add_schema(CLI::App &app, Context &) {
         "size is the size of the record without per-field state. The state area follows\n"
         "this base; the slot is the index of the member's byte in the state area. Sizes on\n"
         "the wire exclude per-field state; a + means that arrays and strings add to them.\n"
-        "All sizes are in bytes.\n\n"
+        "All sizes are in bytes. If a record is an element of lists, the third line says what\n"
+        "it is called, and which members identify it in its list.\n\n"
         "Examples:\n"
         "  tarn schema\n"
         "  tarn schema lumo_tarn_dp_tc\n"

@@ -25,6 +25,9 @@ namespace tarn::tool {
 constexpr bool is_wide(std::uint64_t greatest) { return greatest > 0xffffffff; }
 
 nlohmann::ordered_json json_of(const Handle &handle, const reflect::RecordOperations &operations, void *instance);
+// A member that is neither a record nor an array.
+nlohmann::ordered_json json_of_member(const Handle &handle, const reflect::RecordOperations &operations,
+                                      std::size_t index, void *instance);
 nlohmann::ordered_json json_of(const Item &item);
 
 // For output: printable; readers get the same values. A negative indent writes one line.

@@ -92,7 +92,6 @@ public:
         return json;
     }
 
-private:
     ordered_json value(std::size_t index) {
         const MemberOperations &m = operations_.members[index];
         mirk_handle *h = handle_.get();
@@ -116,6 +115,7 @@ private:
         return json_of_value(handle_, m, m.get(h, context_id, instance_, &err_));
     }
 
+private:
     ordered_json elements(std::size_t index) {
         const MemberOperations &m = operations_.members[index];
         const RecordOperations &element = reflect::operations_of(*m.member->record);
@@ -157,6 +157,11 @@ private:
 
 ordered_json json_of(const Handle &handle, const RecordOperations &operations, void *instance) {
     return Writer(handle, operations, instance).run();
+}
+
+ordered_json json_of_member(const Handle &handle, const RecordOperations &operations, std::size_t index,
+                            void *instance) {
+    return Writer(handle, operations, instance).value(index);
 }
 
 std::string json_text(const ordered_json &json, int indent) {

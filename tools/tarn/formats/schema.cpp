@@ -30,6 +30,10 @@ ordered_json json_of_record(const Record &record) {
     ordered_json json{
         {"name", record.name},           {"luid", record.luid.text.data()},   {"meaning", record.meaning},
         {"base_size", layout.base_size}, {"state_width", layout.state_width}, {"members", ordered_json::array()}};
+    if (record.key.is_stated) {
+        json["element"] = record.key.element;
+        json["key"] = record.key.members();
+    }
     for (std::size_t i = 0; i < record.members.size(); ++i) {
         const Member &m = record.members[i];
         ordered_json one{{"name", m.name}, {"kind", kind_text(m)}};

@@ -1,0 +1,81 @@
+#include "tools/tarn/formats/message_changes.h"
+
+#include <nlohmann/json.hpp>
+
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/message.h"
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+namespace {
+
+// The header contains a stamp, which is no difference.
+bool are_equal(const Version &a, const Version &b) {
+    constexpr std::size_t sttr = offset_of(schema::message_frame, "sttr");
+    return !a.frame.empty() && a.frame.size() == b.frame.size() && a.frame[sttr] == b.frame[sttr] &&
+           std::string_view(a.frame).substr(schema::message_header_size) ==
+               std::string_view(b.frame).substr(schema::message_header_size);
+}
+
+Frame frame_of(const Version &version) { return {bytes_of(version.frame), 0, version.identity}; }
+
+// Calls `use` with a function's result, or throws what it throws, with the location.
+auto at(const Version &version, const auto &read) {
+    try {
+        return read();
+    } catch (const Failure &failure) {
+        throw Failure(failure.exit(), version.location + ": " + failure.what());
+    }
+}
+
+// The message of a version. `read` keeps it if it is read from a frame.
+const Message &message_of(const Handles &handles, const Version &version, std::optional<Message> &read) {
+    if (version.item) return *version.item->message;
+    at(version, [&] {
+        const Frame frame = frame_of(version);
+        read.emplace(message_from_frame(handles.choose(frame.is_tracked()), *version.identity.operations, frame.bytes));
+    });
+    return *read;
+}
+
+}  // namespace
+
+std::size_t compare_sequences(const Handles &handles, Comparison &comparison, const MessagePairs::Next &a,
+                              const MessagePairs::Next &b, const std::function<void(Change &, std::size_t)> &report) {
+    MessagePairs pairs;
+    pairs.both = [&](const Version &left, const Version &right) {
+        if (left.identity.is_control()) return;
+        if (are_equal(left, right)) {
+            return at(left, [&] {
+                const Frame frame = frame_of(left);
+                require_admitted(handles.choose(frame.is_tracked()), *left.identity.operations, frame.bytes);
+            });
+        }
+        std::optional<Message> read_left, read_right;
+        const Message &message_a = message_of(handles, left, read_left);
+        const Message &message_b = message_of(handles, right, read_right);
+        comparison.compare(message_a, message_b, [&](Change &change) { report(change, left.number); });
+    };
+    const auto only = [&](const Version &version, Change::Kind kind) {
+        std::optional<Message> read;
+        Change change;
+        change.kind = kind;
+        change.element = "message";
+        change.place = version.identity.operations->name;
+        if (version.identity.is_control()) {
+            change.path = "control";
+            change.whole = [&] { return json_of(Item{version.identity, std::nullopt, {}}); };
+        } else {
+            const Message &message = message_of(handles, version, read);
+            change.path = "payload";
+            change.whole = [&] { return json_of(message.handle(), message.record(), message.payload()); };
+        }
+        report(change, version.number);
+    };
+    pairs.only_a = [&](const Version &version) { only(version, Change::Kind::removed); };
+    pairs.only_b = [&](const Version &version) { only(version, Change::Kind::added); };
+    return pairs.run(a, b);
+}
+
+}  // namespace tarn::tool
