@@ -277,16 +277,73 @@ TEST(View, CreatesOnlyTheVisibleRowsOfALongList) {
     ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit, 0);
     const json seen = seen_in(page_of({frames}), R"(
         seen.rows = document.querySelectorAll('.row').length;
-        unfold([...rows.values()].find(node => node.path === 'payload.lumo_data[0].sig_list'));
+        const node = [...rows.values()].find(node => node.path === 'payload.lumo_data[0].sig_list');
+        unfold(node);
         seen.open = document.querySelectorAll('.row').length - seen.rows;
+        seen.elements = sizeOf(node);
+        seen.nodes = count;
         type('payload.lumo_data[0].sig_list[1234].appl_id');
         seen.found = [found(), selectedRows()];
         type('appl_');
         seen.many = found();)");
     EXPECT_LT(seen.at("rows"), 200);
     EXPECT_EQ(seen.at("open"), 200);
+    EXPECT_GT(seen.at("elements"), 1000);
+    // Each row has made its own members, to see whether there are any.
+    EXPECT_LT(seen.at("nodes"), 200 * 16 + 1000);
     EXPECT_EQ(seen.at("found"), (json{"1 of 1", {"payload.lumo_data[0].sig_list[1234].appl_id"}}));
     EXPECT_EQ(seen.at("many"), "1 of 5000 or more");
+}
+
+TEST(View, RemovesTheRowsOfALongListThatAreOutOfSight) {
+    const Directory directory;
+    const std::string frames = directory.path("answer.bin");
+    ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit, 0);
+    const json seen = seen_in(page_of({frames}), R"(
+        const list = nodeOf('0:payload.lumo_data[0].sig_list'), few = document.querySelectorAll('.row').length;
+        reveal(list);
+        unfold(list);
+        unfold(childAt(list, 5));
+        list.boxes.forEach(draw);
+        seen.all = document.querySelectorAll('.row').length - few >= sizeOf(list);
+        const height = list.boxes[0].offsetHeight;
+        list.boxes.forEach(erase);
+        seen.left = [document.querySelectorAll('.row').length - few, list.boxes[0].offsetHeight === height];
+        draw(list.boxes[0]);
+        seen.again = [childAt(list, 5).open, list.boxes[0].offsetHeight === height, Boolean(rowAt(list.path + '[199]')),
+                      Boolean(rowAt(list.path + '[5].appl_id'))];)");
+    EXPECT_EQ(seen.at("all"), true);
+    EXPECT_EQ(seen.at("left"), (json{0, true}));
+    EXPECT_EQ(seen.at("again"), (json{true, true, true, true}));
+}
+
+TEST(View, SearchesALargeFrameInSlices) {
+    const Directory directory;
+    const std::string frames = directory.path("answer.bin");
+    ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "-o", frames}).exit, 0);
+    const json seen = seen_in(page_of({frames}), R"(
+        const original = valueAt, slices = [];
+        const last = nodeOf('0:payload.lumo_data[1].sig_list'), element = childAt(last, sizeOf(last) - 1);
+        const numbers = list(element).map(node => [valueOf(node, 0) || '', node]).filter(([v]) => /^\d+$/.test(v));
+        const [wanted, node] = numbers.sort(([a], [b]) => b.length - a.length)[0];
+        valueAt = (...all) => { ++slices[slices.length - 1]; return original(...all); };
+        slices.push(0);
+        type(wanted);
+        seen.first = found().endsWith('\u2026');
+        while (scan) { slices.push(0); continueSearch(scan); }
+        seen.most = Math.max(...slices);
+        seen.all = slices.reduce((sum, n) => sum + n, 0);
+        seen.hits = order.includes(keyOf(node));
+        const before = slices.length;
+        type('x');
+        type('');
+        while (scan) { slices.push(0); continueSearch(scan); }
+        seen.dropped = [slices.length - before, found()];)");
+    EXPECT_EQ(seen.at("first"), true);
+    EXPECT_LE(seen.at("most"), 20000);
+    EXPECT_GT(seen.at("all"), 20000);
+    EXPECT_EQ(seen.at("hits"), true);
+    EXPECT_EQ(seen.at("dropped"), (json{0, ""}));
 }
 
 TEST(View, ShowsARecordOfANewerVersion) {

@@ -25,6 +25,19 @@ std::vector<std::string> steps_of(const Piece &piece) {
 bool is_element(const std::string &step) { return step.front() == '['; }
 long index_of(const std::string &step) { return std::stol(step.substr(1)); }
 
+void to_array(nlohmann::ordered_json &list) {
+    nlohmann::ordered_json array{{"elements", nlohmann::ordered_json::array()}, {"states", 0}, {"state", 0}};
+    for (std::size_t i = 0; i < list.size(); i += 2) {
+        if (list[i].is_number() && list[i].get<long>() >= 0) {
+            array["elements"].push_back(list[i + 1]);
+        } else {
+            array["states"] = array["states"].get<long>() + 1;
+            array["state"] = list[i + 1];
+        }
+    }
+    list = array;
+}
+
 }  // namespace
 
 std::size_t Shapes::number_of(nlohmann::ordered_json shape) {
@@ -36,10 +49,11 @@ std::size_t Shapes::number_of(nlohmann::ordered_json shape) {
 // A single piece needs no list.
 void Shapes::close(std::size_t depth) {
     while (open_.size() > depth) {
-        const Open done = std::move(open_.back());
+        Open done = std::move(open_.back());
         open_.pop_back();
+        if (done.shape.front().is_number()) to_array(done.shape);
         nlohmann::ordered_json &outer = open_.back().shape;
-        const bool is_piece = done.shape.size() == 2 && done.shape.front() == "";
+        const bool is_piece = done.shape.is_array() && done.shape.size() == 2 && done.shape.front() == "";
         if (is_element(done.name)) {
             outer.push_back(index_of(done.name));
         } else {

@@ -2,9 +2,9 @@
 // same shape takes one shape and a list of numbers, so the size of a page is proportional to the bytes that it shows.
 //
 // The shape of a piece is a string: its kind, its size, and the part of its value that the bytes do not contain
-// ("variant 1, begins lumo_tarn_dp_tc"). The shape of a sequence of pieces is a list that alternates names and shapes:
-// the name "" for the piece of the parent itself, i for the element [i], -1-i for the state of that element, which
-// follows all elements.
+// ("variant 1, begins lumo_tarn_dp_tc"). The shape of an array has the shapes of its elements; the number of its
+// states, which are that of the array and those of the elements; and their shape. The shape of any other sequence of
+// pieces is a list that alternates names and shapes; the name "" is that of the piece of the parent itself.
 #pragma once
 
 #include <map>

@@ -1,7 +1,8 @@
 'use strict';
 // The page of tarn view. It contains the bytes of the frames, and shapes that map bytes to members; shapes.h of the tool
-// documents them. Nodes of the tree, its rows and the lines of the dump are created only when they become visible, so a
-// page with a million members opens as fast as one with ten. Two files share one tree.
+// documents them. Nodes of the tree, its rows and the lines of the dump are created only when they become visible, and
+// rows that are out of sight are removed, so a page with a million members opens as fast as one with ten. The search
+// works in slices, so that typing never waits for it. Two files share one tree.
 
 const data = JSON.parse(document.getElementById('data').textContent);
 const sides = data.sides, two = sides.length === 2;
@@ -11,22 +12,36 @@ const isState = name => name === '@state';
 
 // ---- shapes
 
+// An array has elements, then its state and the states of its elements; any other group has names.
 const shapes = data.shapes.map(shape => {
-  if (Array.isArray(shape)) return {list: shape};
-  const [, kind, size, rest] = shape.match(/^(\S+) (\d+)(.*)$/);
-  return {kind, size: Number(size), rest};
+  if (typeof shape === 'string') {
+    const [, kind, size, rest] = shape.match(/^(\S+) (\d+)(.*)$/);
+    return {kind, size: Number(size), rest, structural: structural.has(kind)};
+  }
+  if (Array.isArray(shape)) {
+    return {names: shape.filter((_, i) => i % 2 === 0), inner: shape.filter((_, i) => i % 2 === 1), elements: 0};
+  }
+  const inner = new Int32Array(shape.elements.length + shape.states);
+  inner.set(shape.elements);
+  inner.fill(shape.state, shape.elements.length);
+  return {names: null, inner, elements: shape.elements.length};
 });
 // A shape follows the shapes that it contains, so their sizes are known.
 for (const shape of shapes) {
   shape.own = null;
-  if (!shape.list) continue;
-  shape.offsets = [0];
-  for (let i = 0; i < shape.list.length; i += 2) {
-    const at = shape.offsets[i / 2], below = shapes[shape.list[i + 1]];
-    if (shape.list[i] === '') shape.own = {at, shape: below};
-    shape.offsets.push(at + below.size);
-  }
-  shape.size = shape.offsets[shape.offsets.length - 1];
+  if (!shape.inner) continue;
+  const offsets = shape.offsets = new Uint32Array(shape.inner.length + 1);
+  for (let i = 0; i < shape.inner.length; ++i) offsets[i + 1] = offsets[i] + shapes[shape.inner[i]].size;
+  shape.size = offsets[shape.inner.length];
+  const own = shape.names ? shape.names.indexOf('') : -1;
+  if (own >= 0) shape.own = {at: offsets[own], shape: shapes[shape.inner[own]]};
+}
+const isArray = shape => Boolean(shape && shape.inner && !shape.names);
+
+// The name of a part; -1-i for the state of the element [i].
+function partOf(shape, i) {
+  if (shape.names) return shape.names[i];
+  return i < shape.elements ? i : i === shape.elements ? '@state' : shape.elements - i;
 }
 
 // The index of the last number of an ascending list that is at most `wanted`.
@@ -81,12 +96,14 @@ function valueAt(bytes, at, {kind, size, rest}) {
 
 // ---- the tree
 
-// For each side, a node has its shape, its offset and, if it is an element, the location of its state.
+// For each side, a node has its shape, its offset and, if it is an element, the location of its state. The list of its
+// children has holes if it is an array.
 let count = 0;
-function makeNode(name, parent) {
+function makeNode(name, parent, index) {
   const path = !parent ? '' : parent.path + (name[0] === '[' || !parent.path ? '' : '.') + name;
-  const node = {id: count++, name, path, parent, list: null, shape: [null, null], at: [0, 0], state: [null, null],
-    type: '', meaning: '', structural: false, differs: false, inside: 0, open: false, row: null, below: null, later: null};
+  const node = {id: count++, name, path, parent, index, list: null, isArray: false, shape: [null, null], at: [0, 0],
+    state: [null, null], type: '', meaning: '', structural: false, differs: false, inside: 0, open: false, row: null,
+    below: null, shown: null, boxes: null};
   const owner = parent && parent.type;
   const member = owner && (data.records[owner] || {})[name];
   if (member) [node.type, node.meaning] = member;
@@ -98,16 +115,16 @@ function makeNode(name, parent) {
 function put(node, s, shape, at) {
   node.shape[s] = shape;
   node.at[s] = at;
-  if (!shape.list) node.structural = structural.has(shape.kind);
-  const own = shape.list ? shape.own && shape.own.shape : shape;
+  if (!shape.inner) node.structural = shape.structural;
+  const own = shape.inner ? shape.own && shape.own.shape : shape;
   if (!node.type && own) node.type = own.kind;
 }
 
 // The piece of the node itself on one side, without its children.
 function pieceOf(node, s) {
   const shape = node.shape[s];
-  if (!shape || shape.list && !shape.own) return null;
-  return shape.list ? {at: node.at[s] + shape.own.at, shape: shape.own.shape} : {at: node.at[s], shape};
+  if (!shape || shape.inner && !shape.own) return null;
+  return shape.inner ? {at: node.at[s] + shape.own.at, shape: shape.own.shape} : {at: node.at[s], shape};
 }
 const valueOf = (node, s) => {
   const piece = pieceOf(node, s);
@@ -117,45 +134,91 @@ const isOn = (node, s) => node.shape[s] !== null;
 
 const nameOf = part => typeof part === 'number' ? '[' + (part < 0 ? -1 - part : part) + ']' : part;
 
-function children(node) {
+// Makes the list of children, but not the elements of an array.
+function list(node) {
   if (node.list) return node.list;
+  node.isArray = sides.every((side, s) => !isOn(node, s) || isArray(node.shape[s]));
+  node.list = [];
   const named = new Map();
   const below = name => {
-    if (!named.has(name)) named.set(name, makeNode(name, node));
+    if (!named.has(name)) {
+      named.set(name, makeNode(name, node, node.list.length));
+      node.list.push(named.get(name));
+    }
     return named.get(name);
   };
+  if (node.isArray) node.list.length = Math.max(...node.shape.map(shape => shape ? shape.elements : 0));
   sides.forEach((side, s) => {
     const shape = node.shape[s];
-    for (let i = 0; shape && shape.list && i < shape.list.length; i += 2) {
-      const part = shape.list[i], at = node.at[s] + shape.offsets[i / 2], inner = shapes[shape.list[i + 1]];
+    for (let i = node.isArray && shape ? shape.elements : 0; shape && shape.inner && i < shape.inner.length; ++i) {
+      const part = partOf(shape, i), at = node.at[s] + shape.offsets[i], inner = shapes[shape.inner[i]];
+      if (node.isArray && part !== '@state') break;
       if (part === '') continue;
       if (part < 0) below(nameOf(part)).state[s] = {at, shape: inner};
       else put(below(nameOf(part)), s, inner, at);
     }
     if (node.state[s]) put(below('@state'), s, node.state[s].shape, node.state[s].at);
   });
-  node.list = [...named.values()];
-  if (isOneSided(node)) for (const child of node.list) child.inside = Number(child.differs = !child.structural);
+  if (isOneSided(node)) node.list.forEach(markOneSided);
+  return node.list;
+}
+function markOneSided(child) { child.inside = Number(child.differs = !child.structural); }
+
+function childAt(node, i) {
+  const all = list(node);
+  if (all[i]) return all[i];
+  const child = all[i] = makeNode(nameOf(i), node, i);
+  sides.forEach((side, s) => {
+    const shape = node.shape[s];
+    if (!shape || i >= shape.elements) return;
+    put(child, s, shapes[shape.inner[i]], node.at[s] + shape.offsets[i]);
+    const state = shape.elements + 1 + i;
+    if (state < shape.inner.length) child.state[s] = {at: node.at[s] + shape.offsets[state], shape: shapes[shape.inner[state]]};
+  });
+  if (isOneSided(node)) markOneSided(child);
+  return child;
+}
+
+function children(node) {
+  for (let i = 0; i < list(node).length; ++i) childAt(node, i);
   return node.list;
 }
 
 function childOf(node, name) {
-  const list = children(node), likely = name[0] === '[' ? list[Number(name.slice(1, -1))] : null;
-  return likely && likely.name === name ? likely : list.find(child => child.name === name);
+  list(node);
+  if (!node.isArray) return node.list.find(child => child.name === name);
+  if (name === '@state') return node.list[sizeOf(node)];
+  const i = name[0] === '[' ? Number(name.slice(1, -1)) : -1;
+  return Number.isInteger(i) && i >= 0 && i < sizeOf(node) ? childAt(node, i) : undefined;
 }
+// The number of elements.
+const sizeOf = node => Math.max(...node.shape.map(shape => shape ? shape.elements || 0 : 0));
 
 // "payload.list[0].id" has the steps payload, list, [0], id.
 const steps = path => path.match(/\[[^\]]*\]|[^.[]+/g) || [];
 
+function bytesOfBase64(text) {
+  const values = new Uint8Array(128);
+  [...'ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/'].forEach((c, i) => values[c.charCodeAt(0)] = i);
+  const bytes = new Uint8Array(text.length / 4 * 3), value = i => values[text.charCodeAt(i)];
+  for (let from = 0, to = 0; from < text.length; from += 4) {
+    const bits = value(from) << 18 | value(from + 1) << 12 | value(from + 2) << 6 | value(from + 3);
+    bytes[to++] = bits >> 16;
+    bytes[to++] = bits >> 8;
+    bytes[to++] = bits;
+  }
+  return bytes.subarray(0, bytes.length - (text.endsWith('==') ? 2 : text.endsWith('=') ? 1 : 0));
+}
+
 const roots = [];
 sides.forEach((side, s) => {
-  side.data = Uint8Array.from(atob(side.bytes), letter => letter.charCodeAt(0));
+  side.data = bytesOfBase64(side.bytes);
   side.bytes = '';
   side.starts = [];
   side.read = 0;
   for (let f = 0; 2 * f < side.frames.length; ++f) {
     const [name, record] = data.headings[side.frames[2 * f + 1]], shape = shapes[side.frames[2 * f]];
-    const root = roots[f] || (roots[f] = makeNode('frame ' + f, null));
+    const root = roots[f] || (roots[f] = makeNode('frame ' + f, null, f));
     root.label = root.label && name && root.label !== name ? root.label + ' / ' + name
       : name || root.label || 'ui_req_msg';
     put(root, s, shape, side.read);
@@ -171,9 +234,8 @@ function ownerOf(s, at) {
   const side = sides[s];
   if (at < 0 || at >= side.read) return null;
   let node = roots[lastUpTo(side.starts, at)];
-  while (node.shape[s].list) {
-    const {list, offsets} = node.shape[s], i = lastUpTo(offsets, at - node.at[s]);
-    const part = list[2 * i];
+  while (node.shape[s].inner) {
+    const shape = node.shape[s], part = partOf(shape, lastUpTo(shape.offsets, at - node.at[s]));
     if (part === '') break;
     node = childOf(node, nameOf(part));
     if (part < 0) return childOf(node, '@state');
@@ -194,6 +256,17 @@ function isSame(node) {
     sameBytes(node.at[0], node.at[1], node.shape[0].size);
 }
 
+// Whether the element is the same on both sides, without making it.
+function isSameElement(node, i) {
+  const place = s => {
+    const shape = node.shape[s], state = shape.elements + 1 + i;
+    return {inner: i < shape.elements ? shape.inner[i] : -1, at: node.at[s] + shape.offsets[i],
+      state: state < shape.inner.length ? sides[s].data[node.at[s] + shape.offsets[state]] : -1};
+  };
+  const a = place(0), b = place(1);
+  return a.inner >= 0 && a.inner === b.inner && a.state === b.state && sameBytes(a.at, b.at, shapes[a.inner].size);
+}
+
 // Framing other than state is redundant: a difference in it is also one in the members.
 function compare(node) {
   if (isSame(node)) return;
@@ -203,14 +276,29 @@ function compare(node) {
   }
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
   node.differs = a !== null && b !== null && a !== b && (!node.structural || isState(node.name));
-  children(node).forEach(compare);
-  node.inside = children(node).reduce((sum, child) => sum + child.inside, Number(node.differs));
+  for (let i = 0; i < list(node).length; ++i) {
+    if (!node.isArray || node.list[i] || !isSameElement(node, i)) compare(childAt(node, i));
+  }
+  node.inside = node.list.reduce((sum, child) => sum + child.inside, Number(node.differs));
 }
 
 const isOneSided = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
 if (two) roots.forEach(compare);
 const isShown = node => (!node.structural || element('framing').checked) &&
   (!element('changes').checked || node.inside > 0 || isOneSided(node.parent));
+const hasShown = node => shownBelow(node).length > 0;
+
+// What is shown below a node: a number of children, and each of them when it is needed.
+function shownBelow(node) {
+  list(node);
+  if (node.isArray && !element('changes').checked) {
+    const state = node.list[sizeOf(node)];
+    const length = sizeOf(node) + Number(Boolean(state) && isShown(state));
+    return {length, at: i => childAt(node, i), indexOf: child => child.index < length ? child.index : -1};
+  }
+  const shown = (isOneSided(node) ? children(node) : list(node)).filter(isShown);
+  return {length: shown.length, at: i => shown[i], indexOf: child => shown.indexOf(child)};
+}
 
 // ---- rows
 
@@ -229,7 +317,7 @@ function valueClass(kind, value) {
 }
 
 function fill(row, node) {
-  text(row, 'fold', children(node).some(isShown) ? (node.open ? '\u25bc' : '\u25b6') : '');
+  text(row, 'fold', hasShown(node) ? (node.open ? '\u25bc' : '\u25b6') : '');
   text(row, 'name', node.parent ? node.name : node.label);
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
   if (two && a !== null && b !== null && a !== b && !node.structural) {
@@ -239,7 +327,7 @@ function fill(row, node) {
     text(row, valueClass(pieceOf(node, a === null ? 1 : 0).shape.kind, a || b), a || b);
   }
   const size = bytesOf(node, isOn(node, 0) ? 0 : 1).reduce((sum, r) => sum + r[1] - r[0], 0);
-  if (children(node).some(c => !c.structural)) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
+  if (node.isArray || list(node).some(c => !c.structural)) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
   const state = childOf(node, '@state');
   if (state) {
     const values = [valueOf(state, 0), valueOf(state, 1)].filter(v => v !== null);
@@ -261,44 +349,75 @@ function makeRow(node, depth) {
     else if (node.differs) row.classList.add('changed');
     else if (node.inside) row.classList.add('inside');
   }
-  if (hits.has(node)) row.classList.add('hit');
+  if (hits.has(keyOf(node))) row.classList.add('hit');
   if (node === selected) row.classList.add('selected');
   fill(row, node);
   holder.append(row);
-  Object.assign(node, {row, holder, depth, below: null, later: null});
+  Object.assign(node, {row, holder, depth, below: null, boxes: null});
   rows.set(String(node.id), node);
   if (node.open) unfold(node);
   return holder;
 }
 
-// Only the first part of a long list gets rows at once. Each further part is an empty box of the same height until it
-// becomes visible or one of its rows is needed.
-const atOnce = 200, rowHeight = 22.5;
-const waiting = new Map();
-const sight = new IntersectionObserver(
-  boxes => boxes.filter(box => box.isIntersecting).forEach(box => drawLater(box.target)),
-  {root: tree, rootMargin: '400px'});
-
-function drawRows(into, nodes, depth) {
-  const shown = nodes.filter(isShown);
-  into.append(...shown.slice(0, atOnce).map(node => makeRow(node, depth)));
-  for (let i = atOnce; i < shown.length; i += atOnce) {
-    const box = document.createElement('div'), part = shown.slice(i, i + atOnce);
-    box.style.height = part.length * rowHeight + 'px';
-    for (const node of part) node.later = box;
-    waiting.set(box, {part, depth});
-    sight.observe(box);
-    into.append(box);
+// Each part of a long list is a box that has rows only while it is near what is visible; otherwise it is as high as they
+// were.
+const atOnce = 200, rowHeight = 22;
+const parts = new Map();
+const sight = new IntersectionObserver(boxes => {
+  for (const {target, isIntersecting} of boxes) {
+    if (isIntersecting) draw(target);
+    else if (target.offsetParent) erase(target);
   }
+}, {root: tree, rootMargin: '400px'});
+
+function drawRows(into, node, depth) {
+  const shown = node.shown = shownBelow(node);
+  if (shown.length <= atOnce) {
+    for (let i = 0; i < shown.length; ++i) into.append(makeRow(shown.at(i), depth));
+    return;
+  }
+  node.boxes = [];
+  for (let from = 0; from < shown.length; from += atOnce) {
+    const box = document.createElement('div'), to = Math.min(from + atOnce, shown.length);
+    box.className = 'part';
+    box.style.height = (to - from) * rowHeight + 'px';
+    parts.set(box, {shown, from, to, depth, drawn: false});
+    node.boxes.push(box);
+  }
+  draw(node.boxes[0]);
+  into.append(...node.boxes);
+  node.boxes.forEach(box => sight.observe(box));
 }
 
-function drawLater(box) {
-  if (!waiting.has(box)) return;
-  const {part, depth} = waiting.get(box);
-  waiting.delete(box);
-  sight.unobserve(box);
+function draw(box) {
+  const part = parts.get(box);
+  if (!part || part.drawn) return;
+  part.drawn = true;
   box.style.height = '';
-  box.append(...part.map(node => makeRow(node, depth)));
+  for (let i = part.from; i < part.to; ++i) box.append(makeRow(part.shown.at(i), part.depth));
+}
+
+function erase(box) {
+  const part = parts.get(box);
+  if (!part || !part.drawn) return;
+  part.drawn = false;
+  box.style.height = box.offsetHeight + 'px';
+  for (const inner of box.querySelectorAll('.part')) {
+    sight.unobserve(inner);
+    parts.delete(inner);
+  }
+  for (const row of box.querySelectorAll('.row')) {
+    Object.assign(rows.get(row.dataset.id), {row: null, holder: null, below: null, boxes: null});
+    rows.delete(row.dataset.id);
+  }
+  box.replaceChildren();
+}
+
+// The box of a node's row, if the list is long.
+function boxOf(node) {
+  const {shown, boxes} = node.parent || trunk;
+  const index = boxes ? shown.indexOf(node) : -1;
+  return index < 0 ? null : boxes[Math.floor(index / atOnce)];
 }
 
 function unfold(node) {
@@ -306,25 +425,28 @@ function unfold(node) {
   if (!node.below) {
     node.below = document.createElement('div');
     node.below.setAttribute('role', 'group');
-    drawRows(node.below, children(node), node.depth + 1);
+    drawRows(node.below, node, node.depth + 1);
     node.holder.append(node.below);
   }
   node.below.hidden = false;
+  if (node.boxes) draw(node.boxes[0]);
   node.row.querySelector('.fold').textContent = node.below.children.length ? '\u25bc' : '';
 }
 
 function fold(node) {
   node.open = false;
   if (node.below) node.below.hidden = true;
-  node.row.querySelector('.fold').textContent = children(node).some(isShown) ? '\u25b6' : '';
+  node.row.querySelector('.fold').textContent = hasShown(node) ? '\u25b6' : '';
 }
 
+const trunk = {list: roots, isArray: false, parent: null, shape: [null, null]};
 function drawTree() {
+  rows.forEach(node => Object.assign(node, {row: null, holder: null, below: null, boxes: null}));
   rows.clear();
   sight.disconnect();
-  waiting.clear();
+  parts.clear();
   tree.replaceChildren();
-  drawRows(tree, roots, 0);
+  drawRows(tree, trunk, 0);
 }
 
 // Unfolds all ancestors, so that the row exists.
@@ -332,7 +454,8 @@ function reveal(node) {
   const way = [];
   for (let n = node; n; n = n.parent) way.unshift(n);
   for (const n of way) {
-    if (n.later) drawLater(n.later);
+    const box = boxOf(n);
+    if (box) draw(box);
     if (n !== node && n.row && !n.open) unfold(n);
   }
   if (node.row) node.row.scrollIntoView({block: 'nearest'});
@@ -524,7 +647,7 @@ tree.addEventListener('keydown', event => {
   if (event.key === 'ArrowDown') go(here + 1);
   else if (event.key === 'ArrowUp') go(Math.max(0, here - 1));
   else if (event.key === 'ArrowRight' && selected) selected.open ? go(here + 1) : unfold(selected);
-  else if (event.key === 'ArrowLeft' && selected && selected.open && children(selected).length) fold(selected);
+  else if (event.key === 'ArrowLeft' && selected && selected.open && list(selected).length) fold(selected);
   else if (event.key === 'ArrowLeft' && selected && selected.parent) select(selected.parent);
   else return;
   event.preventDefault();
@@ -532,64 +655,150 @@ tree.addEventListener('keydown', event => {
 
 // ---- search
 
+// Hits are kept by frame and path, so that a node is made only for the one that is looked at.
 const hits = new Set(), most = 5000;
-let order = [], current = -1;
-
-// Whether a name or value in the shape contains the text. Used before nodes exist.
-function isIn(shape, at, s, wanted, framing) {
-  if (!shape.list) {
-    if (structural.has(shape.kind) && !framing) return false;
-    return valueAt(sides[s].data, at, shape).toLowerCase().includes(wanted);
-  }
-  for (let i = 0; i < shape.list.length; i += 2) {
-    if (nameOf(shape.list[i]).includes(wanted)) return true;
-    if (isIn(shapes[shape.list[i + 1]], at + shape.offsets[i / 2], s, wanted, framing)) return true;
-  }
-  return false;
-}
-function mayHave(node, wanted) {
-  if (node.list || wanted.startsWith(node.path.toLowerCase())) return true;
-  const framing = element('framing').checked;
-  return sides.some((side, s) => isOn(node, s) && isIn(node.shape[s], node.at[s], s, wanted, framing));
+let order = [], current = -1, scan = null;
+const keyOf = node => rootOf(node).index + ':' + node.path;
+function nodeOf(key) {
+  const colon = key.indexOf(':');
+  let node = roots[Number(key.slice(0, colon))];
+  for (const name of steps(key.slice(colon + 1))) node = node && childOf(node, name);
+  return node;
 }
 
-function search() {
+function addHit(key) {
+  if (hits.has(key) || order.length === most) return;
+  if (element('changes').checked && !isShown(nodeOf(key))) return;
+  hits.add(key);
+  order.push(key);
+}
+
+// Looks through all bytes, one slice after the other. A slice is a number of values, so it takes about as long in every
+// file; a piece that cannot contain the text is as much work as a part of a value.
+const perSlice = 20000;
+class Scan {
+  constructor(wanted, follows) {
+    this.wanted = wanted;
+    this.follows = follows;
+    this.framing = element('framing').checked;
+    this.next = 0;    // the next frame of a side, the sides of a frame one after the other
+    this.stack = [];  // the groups around the current piece: its shape, its offset, its path, the next part in it
+    this.digits = /^\d+$/.test(wanted);
+    this.inElement = /^[\d[\]]+$/.test(wanted);
+    this.named = new Map();
+    // A shape follows the shapes that it contains.
+    this.may = new Uint8Array(shapes.length);
+    shapes.forEach((shape, n) => {
+      this.may[n] = Number(!shape.inner ? this.mayBe(shape) : shape.names
+        ? shape.names.some((name, i) => this.isNamed(name) || this.may[shape.inner[i]])
+        : this.inElement || shape.inner.some(inner => this.may[inner]));
+    });
+    // A path is where to go, not what to look for.
+    if (/[.[]/.test(wanted)) roots.forEach(root => {
+      const node = nodeOf(root.index + ':' + wanted);
+      if (node && isShown(node)) addHit(keyOf(node));
+    });
+    if (hits.size) this.next = roots.length * sides.length;
+  }
+
+  isNamed(part) {
+    if (typeof part === 'number') return part >= 0 && this.inElement && nameOf(part).includes(this.wanted);
+    if (!this.named.has(part)) this.named.set(part, part !== '' && part.includes(this.wanted));
+    return this.named.get(part);
+  }
+  // Whether a value of the shape can contain the text: most kinds have digits only.
+  mayBe({kind, structural}) {
+    if (structural) return this.framing;
+    return this.digits || data.enumerations[kind] || !/^(u_int|count|length)/.test(kind);
+  }
+  hit(path) { addHit(this.frame + ':' + path); }
+
+  // Returns whether there is more.
+  run() {
+    for (let work = perSlice; work > 0;) {
+      if (order.length === most) return false;
+      const group = this.stack[this.stack.length - 1];
+      if (!group) {
+        if (this.next === roots.length * sides.length) return false;
+        this.start();
+        --work;
+      } else if (group.i === group.shape.inner.length) {
+        this.stack.pop();
+      } else {
+        work -= this.look(group, group.i++);
+      }
+    }
+    return true;
+  }
+  start() {
+    const s = this.side = this.next % sides.length, root = roots[this.frame = Math.floor(this.next++ / sides.length)];
+    if (root.label.toLowerCase().includes(this.wanted)) this.hit('');
+    if (isOn(root, s) && root.shape[s].inner) this.stack.push({shape: root.shape[s], at: root.at[s], path: '', i: 0});
+  }
+  // Returns the work that it was.
+  look(group, i) {
+    const part = partOf(group.shape, i), number = group.shape.inner[i], inner = shapes[number];
+    const found = this.isNamed(part);
+    if (!found && !this.may[number] || inner.structural && !this.framing) return 1 / 8;
+    const at = group.at + group.shape.offsets[i];
+    let path = group.path;
+    if (part !== '') path += (typeof part === 'string' && path ? '.' : '') + nameOf(part) + (part < 0 ? '.@state' : '');
+    if (found || part < 0 && '@state'.includes(this.wanted)) this.hit(path);
+    if (inner.inner) {
+      this.stack.push({shape: inner, at, path, i: 0});
+      return 1;
+    }
+    if (valueAt(sides[this.side].data, at, inner).toLowerCase().includes(this.wanted)) this.hit(path);
+    return 1 + inner.size / 8;
+  }
+}
+
+function search(follows) {
   const wanted = element('search').value.trim().toLowerCase();
   hits.clear();
   order = [];
   current = -1;
+  scan = wanted ? new Scan(wanted, follows) : null;
   const visit = node => {
     if (order.length === most) return;
-    if (isShown(node)) {
-      const words = [node.parent ? node.name : node.label, valueOf(node, 0) || '', valueOf(node, 1) || ''];
-      const found = words.some(w => w.toLowerCase().includes(wanted)) || node.path.toLowerCase() === wanted;
-      if (wanted ? found : node.differs) {
-        order.push(node);
-        if (wanted) hits.add(node);
-      }
-    }
-    if (wanted ? mayHave(node, wanted) : node.inside && !isOneSided(node)) children(node).forEach(visit);
+    if (isShown(node) && node.differs) order.push(keyOf(node));
+    if (node.inside && !isOneSided(node)) node.list.forEach(visit);
   };
-  if (wanted || two) roots.forEach(visit);
-  rows.forEach(n => n.row.classList.toggle('hit', hits.has(n)));
+  if (!wanted && two) roots.forEach(visit);
+  if (scan) continueSearch(scan);
+  else showHits();
+}
+
+function continueSearch(which) {
+  if (which !== scan) return;
+  const {follows} = scan, more = scan.run();
+  if (!more) scan = null;
+  showHits();
+  if (follows && current < 0 && order.length) step(1);
+  if (more) setTimeout(continueSearch, 0, which);
+}
+
+function showHits() {
+  rows.forEach(n => n.row.classList.toggle('hit', hits.has(keyOf(n))));
   showFound();
 }
 
 function showFound() {
   const what = element('search').value.trim() ? '' : two ? ' changes' : '';
   element('found').textContent = !what && !element('search').value.trim() ? ''
-    : (current >= 0 ? current + 1 + ' of ' : '') + order.length + (order.length === most ? ' or more' : '') + what;
+    : (current >= 0 ? current + 1 + ' of ' : '') + order.length + (scan ? '\u2026' : order.length === most ? ' or more' : '') +
+      what;
 }
 
 function step(by) {
   if (!order.length) return;
   current = (current + by + order.length) % order.length;
   if (current < 0) current = order.length - 1;
-  select(order[current]);
+  select(nodeOf(order[current]));
   showFound();
 }
 
-element('search').addEventListener('input', () => { search(); if (order.length && hits.size) step(1); });
+element('search').addEventListener('input', () => search(true));
 element('search').addEventListener('keydown', event => {
   if (event.key === 'Enter') step(event.shiftKey ? -1 : 1);
   if (event.key === 'Escape') { element('search').value = ''; search(); tree.focus(); }
@@ -637,11 +846,12 @@ for (const root of roots) root.open = true;
 for (const level of [1, 2, 3]) {
   const visit = (node, depth) => {
     if (budget <= 0) return;
-    if (depth === level && (!two || node.inside) && node.name !== 'header' && children(node).length) {
+    if (depth === level && (!two || node.inside) && node.name !== 'header' && list(node).length) {
       node.open = true;
-      budget -= children(node).length;
+      budget -= list(node).length;
     }
-    if (depth < level && node.open) for (const child of children(node)) visit(child, depth + 1);
+    if (depth >= level || !node.open) return;
+    for (let i = 0; i < list(node).length && budget > 0; ++i) visit(childAt(node, i), depth + 1);
   };
   for (const root of roots) visit(root, 0);
 }
