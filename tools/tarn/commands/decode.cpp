@@ -1,18 +1,18 @@
 // tarn decode: converts frames and recordings to text, XML or JSON.
 #include <algorithm>
 #include <cstdio>
+#include <deque>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/many_files.h"
 #include "tools/tarn/commands/options.h"
-#include "tools/tarn/formats/dissection.h"
-#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/formats/writer.h"
-#include "tools/tarn/formats/xml.h"
 #include "tools/tarn/service/receiver.h"
 #include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/files.h"
-#include "tools/tarn/support/terminal.h"
 #include "tools/tarn/support/trace.h"
 
 namespace tarn::tool {
@@ -20,54 +20,16 @@ namespace tarn::tool {
 namespace {
 
 struct DecodeOptions {
-    std::string file = "-", via = "handle";
-    From from = From::detect;
-    bool text = false, xml = false, json = false, bundles = false, keep_going = false, lenient = false, verbose = false;
+    InputOptions input;
+    OutputOptions output;
+    std::string via = "handle";
+    bool text = false, xml = false, json = false, bundles = false, verbose = false;
 
     Style style() const { return xml ? Style::xml : json ? Style::json : Style::text; }
+    std::string_view suffix() const { return xml ? ".xml" : json ? ".json" : ".txt"; }
 };
 
-// The library reports only that a frame is invalid; the dissection finds the offset.
-Failure with_location(const Failure &failure, FrameBytes frame, std::size_t offset, const std::string &origin) {
-    const Dissection dissection = dissect_frame(frame, offset);
-    const std::string where = dissection.broken ? "; broken at " + sentence_of(*dissection.broken) : std::string();
-    const std::string message = failure.what();
-    const std::string location = frame_location(origin, offset) + ": ";
-    return {failure.exit(), (message.starts_with(location) ? message : location + message) + where};
-}
-
-void decode_each(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
-    const Handles handles(Tracking::as_input);
-    Progress progress("decoding " + origin);
-    for (std::size_t offset = 0; offset < bytes.size();) {
-        const std::size_t at = offset;
-        const FrameBytes frame = frame_bytes_at(bytes, at, origin);
-        offset += frame.size();
-        progress.at(offset, bytes.size());
-        std::string out;
-        try {
-            out = rendered(item_of(handles, identified(frame, at, origin), origin), options.style());
-        } catch (const Failure &failure) {
-            failures.add(with_location(failure, frame, at, origin));
-        }
-        write_file("-", out);
-    }
-}
-
-// Adds a failure for each frame with an unknown luid, which no bundle can contain.
-std::vector<Frame> known_frames(FrameBytes bytes, const std::string &origin, Failures &failures) {
-    std::vector<Frame> frames;
-    for (std::size_t offset = 0; offset < bytes.size();) {
-        const FrameBytes frame = frame_bytes_at(bytes, offset, origin);
-        try {
-            frames.push_back(identified(frame, offset, origin));
-        } catch (const Failure &failure) {
-            failures.add(failure);
-        }
-        offset += frame.size();
-    }
-    return frames;
-}
+using Write = std::function<void(std::string_view)>;
 
 // The library receives a message even if the open bundle does not admit it, so the tool checks that itself.
 void require_admitted(const Frame &frame, const reflect::BundleOperations *open, const std::string &origin) {
@@ -75,75 +37,106 @@ void require_admitted(const Frame &frame, const reflect::BundleOperations *open,
     throw Failure(Exit::input, not_admitted(frame_location(origin, frame.offset), *open, *frame.identity.operations));
 }
 
-void deliver(FrameBytes bytes, const std::string &origin, const DecodeOptions &options, Failures &failures) {
-    const std::vector<Frame> frames = known_frames(bytes, origin, failures);
-    const bool tracked = std::any_of(frames.begin(), frames.end(), [](const Frame &f) { return f.is_tracked(); });
-    Receiver receiver(tracked, via_named(options.via));
-    const reflect::BundleOperations *open = nullptr;
-    unsigned committed = 0;
-    for (const Frame &frame : frames) {
+// Receives bundles from one file. Each is complete in memory before it is received, since only all of its messages tell
+// whether it has per-field state.
+class Delivery {
+public:
+    Delivery(const DecodeOptions &options, bool keep_going, const Write &write)
+        : options_(options), failures_(keep_going), write_(write) {}
+
+    void add(const Frame &frame, const std::string &origin) {
+        origin_ = origin;
+        if (frame.identity.is_control()) in_bundle_ = frame.identity.control == Control::start;
+        const Bytes &bytes = held_.emplace_back(frame.bytes.begin(), frame.bytes.end());
+        frames_.push_back({bytes, frame.offset, frame.identity});
+        if (!in_bundle_) receive();
+    }
+    Exit finish() {
+        receive();
+        if (receiver_ && receiver_->in_bundle()) {
+            failures_.add({Exit::input, origin_ + ": ends inside " + std::string(open_->bundle->name)});
+        }
+        const unsigned handled = handled_ + (receiver_ ? receiver_->handled() : 0);
+        if (handled < committed_) {
+            failures_.add({Exit::negative, origin_ + ": no handler took " + std::to_string(committed_ - handled) +
+                                               " of " + std::to_string(committed_) + " bundles"});
+        }
+        if (options_.verbose) std::fprintf(stderr, "%u bundles were handled\n", handled);
+        return failures_.exit();
+    }
+
+private:
+    void receive() {
+        const bool tracked = std::any_of(frames_.begin(), frames_.end(), [](const Frame &f) { return f.is_tracked(); });
+        if (!receiver_ || (!receiver_->in_bundle() && receiver_->handle().tracked() != tracked)) {
+            if (receiver_) handled_ += receiver_->handled();
+            receiver_.emplace(tracked, via_named(options_.via));
+        }
+        for (const Frame &frame : std::exchange(frames_, {})) receive(frame);
+        held_.clear();
+    }
+    void receive(const Frame &frame) {
+        const Identity &identity = frame.identity;
         try {
-            require_admitted(frame, open, origin);
-            receiver.feed(frame, origin);
-            if (frame.identity.is_control()) open = receiver.in_bundle() ? frame.identity.bundle : nullptr;
-            if (frame.identity.is_control() && frame.identity.control == Control::commit) ++committed;
+            require_admitted(frame, open_, origin_);
+            receiver_->feed(frame, origin_);
+            if (identity.is_control()) open_ = receiver_->in_bundle() ? identity.bundle : nullptr;
+            if (identity.is_control() && identity.control == Control::commit) ++committed_;
         } catch (const Failure &failure) {
-            failures.add(with_location(failure, frame.bytes, frame.offset, origin));
+            failures_.add(with_cause(failure, frame));
         }
-        for (const Item &item : receiver.take()) write_file("-", rendered(item, options.style()));
-        if (frame.identity.is_control() && frame.identity.control == Control::abort) {
-            failures.add({Exit::negative, frame_location(origin, frame.offset) + ": aborts " +
-                                              std::string(frame.identity.bundle->bundle->name)});
+        for (const Item &item : receiver_->take()) write_(rendered(item, options_.style()));
+        if (identity.is_control() && identity.control == Control::abort) {
+            failures_.add({Exit::negative, frame_location(origin_, frame.offset) + ": aborts " +
+                                               std::string(identity.bundle->bundle->name)});
         }
     }
-    if (receiver.in_bundle()) {
-        failures.add({Exit::input, origin + ": ends inside " + std::string(open->bundle->name)});
-    }
-    if (receiver.handled() < committed) {
-        failures.add({Exit::negative, origin + ": no handler took " + std::to_string(committed - receiver.handled()) +
-                                          " of " + std::to_string(committed) + " bundles"});
-    }
-    if (options.verbose) std::fprintf(stderr, "%u bundles were handled\n", receiver.handled());
+
+    const DecodeOptions &options_;
+    Failures failures_;
+    const Write &write_;
+    std::string origin_;
+    std::deque<Bytes> held_;
+    std::vector<Frame> frames_;  // in held_
+    bool in_bundle_ = false;
+    std::optional<Receiver> receiver_;
+    const reflect::BundleOperations *open_ = nullptr;
+    unsigned handled_ = 0, committed_ = 0;
+};
+
+Exit deliver(const InputOptions &input, const DecodeOptions &options, const Write &write) {
+    Delivery delivery(options, input.keep_going, write);
+    const Exit exit = for_each_stretch(input, [&](const Stretch &stretch, const std::string &file) {
+        if (stretch.offset == 0 && form_of(chars_of(stretch.bytes), file) != Form::frames) {
+            throw Failure(Exit::input, file + ": --bundles requires frames");
+        }
+        if (stretch.identity) delivery.add(stretch.frame(), file);
+    });
+    return exit != Exit::success && !input.keep_going ? exit : std::max(exit, delivery.finish());
 }
 
-void decode_fragments(std::string_view content, const std::string &origin, const DecodeOptions &options,
-                      Failures &failures) {
-    const Handles handles(Tracking::as_input);
-    for (const Fragment &fragment : split_fragments(content, origin)) {
-        std::string out;
+Exit decode(const InputOptions &input, const DecodeOptions &options, const Write &write) {
+    if (!options.bundles) {
+        return for_each_item(input, [&](Entry &entry) { write(rendered(entry.item, options.style())); });
+    }
+    Failures failures(true);
+    for (const InputFile &file : files_of(input.paths)) {
+        InputOptions one = input;
+        one.paths = {file.path};
         try {
-            out = rendered(item_of(handles, fragment, origin, options.lenient), options.style());
+            failures.add(deliver(one, options, write));
         } catch (const Failure &failure) {
+            if (failure.exit() == Exit::environment) throw;
             failures.add(failure);
         }
-        write_file("-", out);
     }
+    return failures.exit();
 }
 
 Exit run_decode(const DecodeOptions &options) {
     set_up_trace(options.verbose);
-    const std::string content = read_input(options.file, options.from);
-    const std::string origin = shown_path(options.file);
-    Failures failures(options.keep_going);
-    const Form form = form_of(content, origin);
-    if (options.bundles && form != Form::frames) {
-        throw Failure(Exit::input, origin + ": --bundles requires frames");
-    }
-    switch (form) {
-        case Form::frames:
-            (options.bundles ? deliver : decode_each)(bytes_of(content), origin, options, failures);
-            break;
-        case Form::xml:
-            decode_fragments(content, origin, options, failures);
-            break;
-        case Form::json: {
-            const Handles handles(Tracking::as_input);
-            for (const Item &item : items_of(handles, content, origin, options.lenient)) {
-                write_file("-", rendered(item, options.style()));
-            }
-        }
-    }
-    return failures.exit();
+    return convert_files(options.input, options.output, options.suffix(),
+                         [&](const InputOptions &input, const Write &write) { return decode(input, options, write); });
 }
 
 }  // namespace
@@ -151,7 +144,8 @@ Exit run_decode(const DecodeOptions &options) {
 void add_decode(CLI::App &app, Context &context) {
     auto options = std::make_shared<DecodeOptions>();
     CLI::App *command = app.add_subcommand("decode", "Convert frames and recordings to text, XML or JSON");
-    add_input(*command, options->file, "Frames, XML or JSON");
+    add_inputs(*command, options->input);
+    add_output_directory(*command, options->output);
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
     form->add_flag("--xml", options->xml, "XML, one message per line");
@@ -161,22 +155,22 @@ void add_decode(CLI::App &app, Context &context) {
         command->add_flag("--bundles", options->bundles,
                           "Receive bundles (the input must be frames): print messages when their bundle is committed");
     add_via(*command, options->via, "Where to register the handler of the bundles")->needs(bundles);
-    command->add_flag("-k,--keep-going", options->keep_going,
-                      "Print errors and continue with the next frame or fragment");
-    add_from(*command, options->from);
-    add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
         "With --bundles, a message outside any bundle is printed at once; \"tarn show\n"
-        "--help\" explains --via. With --keep-going, the exit code is the highest of all\n"
-        "errors. Bytes that are not a frame, and an error in JSON, always stop decoding.\n"
+        "--help\" explains --via.\n\n"
+        "After an error, the next file is read; the exit code is the highest of all errors.\n"
+        "With --keep-going, the rest of the file is read, too: bytes that are not a frame\n"
+        "are skipped up to the next header of a known message, and their offset,\n"
+        "their number and the reason are printed. An error in JSON always ends its file.\n"
         "Malformed XML, such as an element without an end, prevents all output.\n\n"
         "Frames are read as the library reads them, which does not detect every broken\n"
         "frame; \"tarn dissect\" does.\n\n"
         "Examples:\n"
         "  tarn decode answer.bin --json\n"
         "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles -v\n"
-        "  tarn decode recording.xml");
+        "  tarn decode recording.xml\n"
+        "  tarn decode --json captures --output-directory decoded --jobs 4");
     command->callback([options, &context] { context.exit = run_decode(*options); });
 }
 

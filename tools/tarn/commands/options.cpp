@@ -104,6 +104,23 @@ void add_input(CLI::App &command, std::string &path, const std::string &what) {
     command.add_option("file", path, what + "; default: standard input")->type_name(words::file);
 }
 
+void add_files(CLI::App &command, InputOptions &options, const std::string &what) {
+    command.add_option("files", options.paths, what + "; of a folder, all files; default: standard input")
+        ->type_name(words::file);
+}
+
+void add_keep_going(CLI::App &command, bool &keep_going) {
+    command.add_flag("-k,--keep-going", keep_going,
+                     "Print errors and continue behind them, also within a file: with the next frame or fragment");
+}
+
+void add_inputs(CLI::App &command, InputOptions &options) {
+    add_files(command, options, "Frames, XML or JSON");
+    add_keep_going(command, options.keep_going);
+    add_from(command, options.from);
+    add_lenient(command, options.lenient);
+}
+
 void add_output(CLI::App &command, std::string &path, const std::string &what) {
     command.add_option("-o,--output", path, what + "; default: standard output")->type_name(words::file);
 }

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "tools/tarn/formats/comparison.h"
-#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/service/client.h"
 
 namespace tarn::tool {
@@ -40,6 +40,11 @@ CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t 
 
 // The positional `file`; its default is standard input.
 void add_input(CLI::App &command, std::string &path, const std::string &what);
+// The positional `files`: files and folders; the default is standard input. And how to read them.
+void add_files(CLI::App &command, InputOptions &options, const std::string &what);
+void add_keep_going(CLI::App &command, bool &keep_going);
+// All options of a command that reads messages: add_files(), add_keep_going(), add_from() and add_lenient().
+void add_inputs(CLI::App &command, InputOptions &options);
 void add_output(CLI::App &command, std::string &path, const std::string &what);
 void add_force(CLI::App &command, bool &force);
 void add_from(CLI::App &command, From &from);

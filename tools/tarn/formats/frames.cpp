@@ -9,32 +9,43 @@ std::string frame_location(const std::string &origin, std::size_t offset) {
     return origin + ": frame at offset " + std::to_string(offset);
 }
 
-FrameBytes frame_bytes_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
-    const auto fail = [&](const std::string &reason) -> Failure {
-        return {Exit::input, frame_location(origin, offset) + ": " + reason};
-    };
-    const FrameBytes rest = bytes.subspan(offset);
+std::string fault_of(FrameBytes bytes, std::uint64_t left) {
     mirk_platform_frame head;
-    const mirk_platform_error error = mirk_platform_frame_look(rest.data(), rest.size(), &head);
-    if (rest.size() < MIRK_PLATFORM_FRAME_SIZE) {
-        throw fail(std::to_string(rest.size()) + " bytes are left, but a frame has at least " +
-                   std::to_string(MIRK_PLATFORM_FRAME_SIZE));
+    const mirk_platform_error error = mirk_platform_frame_look(bytes.data(), bytes.size(), &head);
+    if (bytes.size() < MIRK_PLATFORM_FRAME_SIZE) {
+        return std::to_string(bytes.size()) + " bytes are left, but a frame has at least " +
+               std::to_string(MIRK_PLATFORM_FRAME_SIZE);
     }
     if (error != 0) {
-        throw fail("not a frame (marker " + std::to_string(head.header.marker) + ", total length " +
-                   std::to_string(head.header.total_length) + ")");
+        return "not a frame (marker " + std::to_string(head.header.marker) + ", total length " +
+               std::to_string(head.header.total_length) + ")";
     }
-    if (head.header.total_length > rest.size()) {
-        throw fail("truncated: its total length is " + std::to_string(head.header.total_length) + ", but " +
-                   std::to_string(rest.size()) + " bytes are left");
+    if (head.header.total_length > left) {
+        return "truncated: its total length is " + std::to_string(head.header.total_length) + ", but " +
+               std::to_string(left) + " bytes are left";
     }
-    return rest.first(head.header.total_length);
+    return {};
+}
+
+std::size_t claimed_size(FrameBytes bytes) {
+    mirk_platform_frame head;
+    return mirk_platform_frame_look(bytes.data(), bytes.size(), &head) == 0 ? head.header.total_length : 0;
+}
+
+std::string unknown_luid(FrameBytes frame) {
+    return "unknown luid " + luid_text(frame.data() + schema::message_header_size);
+}
+
+FrameBytes frame_bytes_at(FrameBytes bytes, std::size_t offset, const std::string &origin) {
+    const FrameBytes rest = bytes.subspan(offset);
+    const std::string fault = fault_of(rest, rest.size());
+    if (!fault.empty()) throw Failure(Exit::input, frame_location(origin, offset) + ": " + fault);
+    return rest.first(claimed_size(rest));
 }
 
 Frame identified(FrameBytes frame, std::size_t offset, const std::string &origin) {
-    const std::uint8_t *luid = frame.data() + schema::message_header_size;
-    const std::optional<Identity> identity = identify(luid);
-    if (!identity) throw Failure(Exit::input, frame_location(origin, offset) + ": unknown luid " + luid_text(luid));
+    const std::optional<Identity> identity = identify(frame.data() + schema::message_header_size);
+    if (!identity) throw Failure(Exit::input, frame_location(origin, offset) + ": " + unknown_luid(frame));
     return {frame, offset, *identity};
 }
 

@@ -31,6 +31,12 @@ inline std::string_view chars_of(FrameBytes bytes) {
     return {reinterpret_cast<const char *>(bytes.data()), bytes.size()};
 }
 
+// Why the bytes do not begin with a frame, of which `left` bytes are there; empty if they do.
+std::string fault_of(FrameBytes bytes, std::uint64_t left);
+// The number of bytes that a frame has according to its header; 0 if the bytes do not begin with one.
+std::size_t claimed_size(FrameBytes bytes);
+std::string unknown_luid(FrameBytes frame);
+
 // The frame at the offset, in two steps: its bytes, then its identity. Throws a Failure that names the origin, the
 // offset and the reason.
 FrameBytes frame_bytes_at(FrameBytes bytes, std::size_t offset, const std::string &origin);

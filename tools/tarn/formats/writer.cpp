@@ -14,7 +14,7 @@ namespace tarn::tool {
 std::string rendered(const Item &item, Style style) {
     if (style == Style::json) return json_text(json_of(item)) + "\n";
     // A control message has no object, so any handle can write it.
-    static const Handle any(false);
+    thread_local const Handle any(false);
     const Handle &handle = item.message ? item.message->handle() : any;
     const reflect::MessageOperations &operations = *item.identity.operations;
     if (style == Style::xml) return printable_output(xml_of(handle, operations, item.object()), Notation::xml) + "\n";

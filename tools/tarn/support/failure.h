@@ -1,6 +1,7 @@
 // The exit codes of the tool, and the exception that ends a command with one of them.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
@@ -57,6 +58,7 @@ public:
     ~Failures();
 
     void add(const Failure &failure);
+    void add(Exit exit) { exit_ = std::max(exit_, exit); }  // of what has been printed
     std::size_t count() const { return count_; }
     Exit exit() const { return exit_; }  // the highest exit code
 

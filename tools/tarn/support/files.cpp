@@ -9,8 +9,9 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <mutex>
+#include <set>
 #include <utility>
-#include <vector>
 
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -19,12 +20,18 @@ namespace tarn::tool {
 
 namespace {
 
-struct Close {
-    void operator()(FILE *file) const {
-        if (file != stdin && file != stdout) std::fclose(file);
+// A descriptor for reading. That of standard input stays open.
+struct Input {
+    explicit Input(const std::string &path)
+        : descriptor(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    Input(const Input &) = delete;
+    Input &operator=(const Input &) = delete;
+    ~Input() {
+        if (descriptor > STDIN_FILENO) ::close(descriptor);
     }
+
+    const int descriptor;
 };
-using File = std::unique_ptr<FILE, Close>;
 
 constexpr std::size_t longest_path = 4096;
 
@@ -37,26 +44,33 @@ std::filesystem::path whole_path(const std::string &path) {
     return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
 }
 
-// The files that this process has read and written, since none may be both.
-using Paths = std::vector<std::filesystem::path>;
-Paths inputs, outputs;
+// The files that this process has read or written, since none may be both. A file that is yet to be written has only a
+// path.
+struct Used {
+    std::set<std::filesystem::path> paths;
+    std::set<std::pair<dev_t, ino_t>> files;
+};
+Used inputs, outputs;
+std::mutex lock;
 
-void note(Paths &used, const Paths &others, const std::string &path) {
-    std::error_code error;
+void note(Used &used, const Used &others, const std::string &path) {
+    const std::lock_guard<std::mutex> hold(lock);
     const char *const standard = &used == &inputs ? "/proc/self/fd/0" : "/proc/self/fd/1";
     const std::filesystem::path whole = whole_path(path == "-" ? standard : path);
-    const std::filesystem::file_status status = std::filesystem::status(whole, error);
-    const bool is_new = status.type() == std::filesystem::file_type::not_found && path != "-";
-    if (!is_new && !std::filesystem::is_regular_file(status)) return;
-    const auto is_same = [&](const std::filesystem::path &other) {
-        return other == whole || std::filesystem::equivalent(other, whole, error);
+    struct stat status {};
+    const bool exists = ::stat(whole.c_str(), &status) == 0;
+    if (exists ? !S_ISREG(status.st_mode) : path == "-") return;
+    const std::pair id(status.st_dev, status.st_ino);
+    const auto is_in = [&](const Used &some) {
+        return some.paths.count(whole) != 0 || (exists && some.files.count(id) != 0);
     };
-    const bool written_twice = &used == &outputs && std::any_of(used.begin(), used.end(), is_same);
-    if (written_twice || std::any_of(others.begin(), others.end(), is_same)) {
+    const bool written_twice = &used == &outputs && is_in(used);
+    if (written_twice || is_in(others)) {
         throw Failure(Exit::input, (&used == &inputs ? shown_path(path) : shown_output(path)) + ": the same file is " +
                                        (written_twice ? "two outputs" : "input and output"));
     }
-    used.push_back(whole);
+    used.paths.insert(whole);
+    if (exists) used.files.insert(id);
 }
 
 }  // namespace
@@ -69,16 +83,30 @@ std::string shown_output(const std::string &path) {
     return path == "-" ? "standard output" : printable(path, longest_path);
 }
 
-std::string read_file(const std::string &path) {
-    const File file(path == "-" ? stdin : std::fopen(path.c_str(), "rbe"));
-    if (file == nullptr) fail(shown_path(path));
+ByteStream open_input(const std::string &path) {
+    const std::string shown = shown_path(path);
+    const auto input = std::make_shared<const Input>(path);
+    if (input->descriptor < 0) fail(shown);
     note(inputs, outputs, path);
-    std::string content;
-    char piece[65536];
-    for (std::size_t got = 0; (got = std::fread(piece, 1, sizeof piece, file.get())) != 0;) content.append(piece, got);
-    if (std::ferror(file.get()) != 0) fail(shown_path(path));
-    return content;
+    struct stat status {};
+    std::optional<std::uint64_t> size;
+    // Files of the system have size 0, whatever they contain.
+    if (::fstat(input->descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0) {
+        const off_t begin = ::lseek(input->descriptor, 0, SEEK_CUR);
+        size = static_cast<std::uint64_t>(std::max<off_t>(status.st_size - begin, 0));
+    }
+    const auto read = [input, shown](char *to, std::size_t most) {
+        ssize_t got = 0;
+        do {
+            got = ::read(input->descriptor, to, most);
+        } while (got < 0 && errno == EINTR);
+        if (got < 0) fail(shown);
+        return static_cast<std::size_t>(got);
+    };
+    return {shown, read, size};
 }
+
+std::string read_file(const std::string &path) { return open_input(path).take_rest(); }
 
 void write_file(const std::string &path, std::string_view bytes) {
     if (path != "-") {

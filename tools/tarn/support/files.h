@@ -1,4 +1,4 @@
-// Whole files, standard input and standard output.
+// Files, standard input and standard output.
 #pragma once
 
 #include <cstdint>
@@ -6,10 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "tools/tarn/support/byte_stream.h"
+
 namespace tarn::tool {
 
 // "-" is standard input or output. Throws a Failure that names the path and the reason; also if a file is read and
 // written, or written twice.
+ByteStream open_input(const std::string &path);
 std::string read_file(const std::string &path);
 void write_file(const std::string &path, std::string_view bytes);
 
@@ -32,6 +35,7 @@ public:
     // If writing fails, the part that was written is removed and the Failure names the offset, so that the file
     // contains whole pieces only, even if the disk is full.
     void append(std::string_view piece);
+    bool is_empty() const { return size_ == 0; }
     // Gives the file its name already while it grows.
     void publish();
     // Closes and publishes the file; some errors are reported only then.

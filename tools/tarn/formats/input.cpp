@@ -1,0 +1,264 @@
+#include "tools/tarn/formats/input.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/hex_dump.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/xml.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/terminal.h"
+
+namespace tarn::tool {
+
+namespace {
+
+// Enough to tell what a file contains.
+constexpr std::size_t enough_to_detect = 64 * 1024;
+
+Form form_at(ByteStream &stream, bool keep_going) {
+    const std::string_view begin = stream.look(enough_to_detect);
+    try {
+        return form_of(begin, stream.name());
+    } catch (const Failure &) {
+        // There may be frames behind it.
+        if (!keep_going || begin.empty()) throw;
+        return Form::frames;
+    }
+}
+
+class Frames : public EntryReader::Source {
+public:
+    Frames(const Handles &handles, ByteStream &stream, bool keep_going)
+        : handles_(handles), origin_(stream.name()), reader_(stream, keep_going), keep_going_(keep_going) {}
+
+    std::optional<Item> next() override {
+        if (has_ended_) return std::nullopt;
+        const std::optional<Stretch> stretch = reader_.next();
+        if (!stretch) return std::nullopt;
+        if (!stretch->identity) {
+            const std::string reason = stretch->fault.empty() ? "a request for a bundle, no message" : stretch->fault;
+            has_ended_ = !keep_going_ && !stretch->fault.empty();
+            const std::string consequence = keep_going_ && !stretch->fault.empty() ? skipped(reader_.skip()) : "";
+            throw Failure(Exit::input, frame_location(origin_, stretch->offset) + ": " + reason + consequence);
+        }
+        try {
+            return item_of(handles_, stretch->frame(), origin_);
+        } catch (const Failure &failure) {
+            throw with_cause(failure, stretch->frame());
+        }
+    }
+
+private:
+    const Handles &handles_;
+    const std::string origin_;
+    FrameReader reader_;
+    bool keep_going_, has_ended_ = false;
+};
+
+class Fragments : public EntryReader::Source {
+public:
+    Fragments(const Handles &handles, ByteStream &stream, bool lenient)
+        : handles_(handles),
+          origin_(stream.name()),
+          text_(stream.take_rest()),
+          fragments_(split_fragments(text_, origin_)),
+          lenient_(lenient) {}
+
+    std::optional<Item> next() override {
+        if (next_ == fragments_.size()) return std::nullopt;
+        return item_of(handles_, fragments_[next_++], origin_, lenient_);
+    }
+
+private:
+    const Handles &handles_;
+    const std::string origin_, text_;
+    const std::vector<Fragment> fragments_;
+    std::size_t next_ = 0;
+    bool lenient_;
+};
+
+class Objects : public EntryReader::Source {
+public:
+    Objects(const Handles &handles, ByteStream &stream, bool lenient)
+        : items_(from_json(handles, stream.take_rest(), stream.name(), lenient)) {}
+
+    std::optional<Item> next() override {
+        if (next_ == items_.size()) return std::nullopt;
+        return std::move(items_[next_++]);
+    }
+
+private:
+    std::vector<Item> items_;
+    std::size_t next_ = 0;
+};
+
+std::unique_ptr<EntryReader::Source> source_of(const Handles &handles, ByteStream &stream,
+                                               const InputOptions &options) {
+    switch (form_at(stream, options.keep_going)) {
+        case Form::frames:
+            return std::make_unique<Frames>(handles, stream, options.keep_going);
+        case Form::xml:
+            return std::make_unique<Fragments>(handles, stream, options.lenient);
+        case Form::json:
+            break;
+    }
+    return std::make_unique<Objects>(handles, stream, options.lenient);
+}
+
+}  // namespace
+
+Failure with_cause(const Failure &failure, const Frame &frame) {
+    const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
+    if (!dissection.broken) return failure;
+    return {failure.exit(), std::string(failure.what()) + "; broken at " + sentence_of(*dissection.broken)};
+}
+
+EntryReader::EntryReader(const Handles &handles, ByteStream &stream, const InputOptions &options)
+    : file_(stream.name()), source_(source_of(handles, stream, options)) {}
+
+EntryReader::~EntryReader() = default;
+
+std::optional<Entry> EntryReader::next() {
+    std::optional<Item> item = source_->next();
+    if (!item) return std::nullopt;
+    const Identity &identity = item->identity;
+    const bool begins = identity.is_control() && identity.control == Control::start;
+    if (begins) bundle_ = identity.bundle;
+    const std::size_t number = identity.is_control() ? 0 : ++number_;
+    Entry entry{std::move(*item), file_, number, bundle_};
+    if (identity.is_control() && !begins) bundle_ = nullptr;
+    return entry;
+}
+
+std::vector<InputFile> files_of(const std::vector<std::string> &paths) {
+    namespace fs = std::filesystem;
+    std::vector<InputFile> files;
+    for (const std::string &path : paths) {
+        std::error_code error;
+        if (path == "-") {
+            files.push_back({path, "standard-input"});
+            continue;
+        }
+        if (!fs::is_directory(path, error)) {
+            files.push_back({path, fs::path(path).filename()});
+            continue;
+        }
+        const auto first = static_cast<std::ptrdiff_t>(files.size());
+        try {
+            for (const fs::directory_entry &entry : fs::recursive_directory_iterator(path)) {
+                if (!entry.is_regular_file()) continue;
+                files.push_back({entry.path(), entry.path().lexically_relative(path)});
+            }
+        } catch (const fs::filesystem_error &failure) {
+            throw Failure(Exit::environment, shown_path(failure.path1()) + ": " + failure.code().message());
+        }
+        std::sort(files.begin() + first, files.end(),
+                  [](const InputFile &a, const InputFile &b) { return a.path < b.path; });
+    }
+    if (paths.empty()) return files_of({"-"});
+    return files;
+}
+
+ByteStream open_bytes(const std::string &path, From from) {
+    ByteStream stream = open_input(path);
+    if (from != From::hex && !looks_like_hex(stream.look(enough_to_detect))) return stream;
+    return stream_of(bytes_of_hex(stream.take_rest(), stream.name()), stream.name());
+}
+
+namespace {
+
+std::uint64_t size_of_file(const std::string &path) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return error ? 0 : size;
+}
+
+// Calls `read` for the stream of each file, and with a function that shows the progress.
+void for_each_file(const InputOptions &options, Failures &failures,
+                   const std::function<void(ByteStream &, const std::function<void()> &)> &read) {
+    const std::vector<InputFile> files = files_of(options.paths);
+    std::uint64_t before = 0, all = 0;
+    for (const InputFile &file : files) all += size_of_file(file.path);
+    Progress progress("reading");
+    for (const InputFile &file : files) {
+        const std::uint64_t size = size_of_file(file.path);
+        std::optional<ByteStream> stream;
+        try {
+            stream.emplace(open_bytes(file.path, options.from));
+        } catch (const Failure &failure) {
+            failures.add(failure);
+        }
+        const auto show = [&] {
+            if (options.shows_progress) progress.at(before + std::min(stream->offset(), size), all);
+        };
+        if (stream) read(*stream, show);
+        before += size;
+    }
+}
+
+// False if `visit` has failed. Failures of the environment end the command.
+template <class Visit>
+bool is_visited(Failures &failures, const Visit &visit) {
+    try {
+        visit();
+        return true;
+    } catch (const Failure &failure) {
+        if (failure.exit() == Exit::environment) throw;
+        failures.add(failure);
+        return false;
+    }
+}
+
+}  // namespace
+
+Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit) {
+    const Handles handles(options.tracking);
+    Failures failures(true);
+    for_each_file(options, failures, [&](ByteStream &stream, const std::function<void()> &show) {
+        std::optional<EntryReader> reader;
+        for (bool goes_on = true; goes_on; show()) {
+            std::optional<Entry> entry;
+            try {
+                if (!reader) reader.emplace(handles, stream, options);
+                entry = reader->next();
+                goes_on = entry.has_value();
+            } catch (const Failure &failure) {
+                failures.add(failure);
+                goes_on = options.keep_going && reader;
+            }
+            if (entry && !is_visited(failures, [&] { visit(*entry); })) goes_on = options.keep_going;
+        }
+    });
+    return failures.exit();
+}
+
+Exit for_each_stretch(const InputOptions &options,
+                      const std::function<void(const Stretch &, const std::string &file)> &visit) {
+    Failures failures(true);
+    for_each_file(options, failures, [&](ByteStream &stream, const std::function<void()> &show) {
+        FrameReader reader(stream, options.keep_going);
+        for (bool goes_on = true; goes_on; show()) {
+            std::optional<Stretch> stretch;
+            try {
+                if (stream.look(1).empty() && stream.offset() == 0)
+                    throw Failure(Exit::input, stream.name() + ": empty");
+                stretch = reader.next();
+            } catch (const Failure &failure) {
+                failures.add(failure);
+            }
+            if (!stretch) break;
+            const bool is_good = is_visited(failures, [&] { visit(*stretch, stream.name()); });
+            goes_on = options.keep_going || (is_good && stretch->fault.empty());
+            if (stretch->fault.empty() || !is_good) continue;
+            const std::string consequence = options.keep_going ? skipped(reader.skip()) : "";
+            failures.add(
+                {Exit::input, frame_location(stream.name(), stretch->offset) + ": " + stretch->fault + consequence});
+        }
+    });
+    return failures.exit();
+}
+
+}  // namespace tarn::tool

@@ -1,0 +1,86 @@
+// Reads files and folders of any format: frames, also as hexadecimal text, XML or JSON. At most one message is in
+// memory.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/tarn/formats/frame_reader.h"
+#include "tools/tarn/formats/item.h"
+#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/support/failure.h"
+
+namespace tarn::tool {
+
+struct InputOptions {
+    std::vector<std::string> paths;  // files and folders; "-" or none: standard input
+    From from = From::detect;
+    bool lenient = false;
+    bool keep_going = false;     // behind what is broken
+    bool shows_progress = true;  // on a terminal
+    Tracking tracking = Tracking::as_input;
+};
+
+// A message or a control message of a file.
+struct Entry {
+    Item item;
+    std::string_view file;                    // as messages print it
+    std::size_t number;                       // of the message in the file, from 1; 0 for a control message
+    const reflect::BundleOperations *bundle;  // that contains it; null outside bundles
+};
+
+// The entries of one file, one after the other.
+class EntryReader {
+public:
+    // The handles and the stream must outlive it.
+    EntryReader(const Handles &handles, ByteStream &stream, const InputOptions &options);
+    EntryReader(const EntryReader &) = delete;
+    EntryReader &operator=(const EntryReader &) = delete;
+    ~EntryReader();
+
+    // The next entry; none at the end. Throws a Failure for an entry that cannot be read. Then the next call returns
+    // the entry behind it, or none if there is no way to find it.
+    std::optional<Entry> next();
+
+    // The items of one format. The interface of next() is the same.
+    class Source {
+    public:
+        virtual ~Source() = default;
+        virtual std::optional<Item> next() = 0;
+    };
+
+private:
+    const std::string file_;
+    std::unique_ptr<Source> source_;
+    std::size_t number_ = 0;
+    const reflect::BundleOperations *bundle_ = nullptr;
+};
+
+// The files that the paths stand for: of a folder, the files in it and in the folders in it, in the order of their
+// names. A path that does not exist stays, so that opening it reports it.
+struct InputFile {
+    std::string path;
+    std::string name;  // without the path of its folder, or that of the given folder
+};
+std::vector<InputFile> files_of(const std::vector<std::string> &paths);
+
+// The bytes of a file; hexadecimal text is converted to the bytes that it shows.
+ByteStream open_bytes(const std::string &path, From from);
+
+// With the place where the frame is broken, which the library does not report.
+Failure with_cause(const Failure &failure, const Frame &frame);
+
+// Calls `visit` for each entry of each file. Prints what cannot be read, and continues: with `keep_going` behind it,
+// else with the next file. Returns the highest exit code of what was printed. A Failure that `visit` throws counts as
+// if the entry could not be read; one of the environment ends the command.
+Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit);
+
+// The same for files that contain frames, as bytes. `visit` also gets the parts that are not frames, before they are
+// reported.
+Exit for_each_stretch(const InputOptions &options,
+                      const std::function<void(const Stretch &, const std::string &file)> &visit);
+
+}  // namespace tarn::tool
