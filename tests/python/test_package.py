@@ -14,6 +14,7 @@ import subprocess
 import sys
 import threading
 import time
+import tracemalloc
 
 import lumo_tarn
 import pytest
@@ -495,6 +496,52 @@ def test_invalid_captures_are_reported_with_their_offset():
     unknown[27:43] = bytes(16)
     with pytest.raises(ValueError, match="unknown message at offset 0"):
         list(lumo_tarn.frames(bytes(unknown)))
+
+
+def files_of(data: bytes, directory) -> list:
+    """The same bytes as bytes, as a file and as a pipe, which has no size."""
+    path = directory / "frames.bin"
+    path.write_bytes(data)
+    pipe = subprocess.Popen(["cat", str(path)], stdout=subprocess.PIPE)
+    return [data, path.open("rb"), pipe.stdout]
+
+
+def test_broken_bytes_are_skipped_up_to_the_next_frame(tmp_path):
+    one, other = (lumo_tarn.DebugSettingMsg(lumo_tarn.DebugSetting(info_enabled=n)) for n in (1, 2))
+    a, b = one.to_frame(), other.to_frame()
+    assert len(a) == 65
+
+    def with_length(length):
+        return a[:12] + length.to_bytes(4, "big") + a[16:]
+
+    for broken, number, reason in (
+        (b"\xbc" * 1000, 1000, "incomplete frame at offset 65"),
+        (b"garbage" * 20000, 140000, "invalid frame at offset 65"),
+        (b"x" + a[1:], 65, "invalid frame at offset 65"),
+        (a[:27] + bytes(16) + a[43:], 65, "unknown message at offset 65: " + "00" * 16),
+        (with_length(75), 65, "wrong length of the frame at offset 65"),
+        (with_length(50), 65, "invalid frame of lumo_tarn_debug_setting_msg: " + os.strerror(errno.EMSGSIZE)),
+        (with_length(1 << 31), 65, "incomplete frame at offset 65"),
+        (a[:44], 44, "wrong length of the frame at offset 65"),
+    ):
+        for source in files_of(a + broken + b, tmp_path):
+            skipped = []
+            items = list(lumo_tarn.frames(source, skipped))
+            assert [item.payload.info_enabled for item in items] == [1, 2]
+            assert skipped == [lumo_tarn.Skipped(65, number, reason)]
+    for source in files_of(a + b + a[:60], tmp_path):
+        skipped = []
+        assert len(list(lumo_tarn.messages(source, skipped))) == 2
+        assert skipped == [lumo_tarn.Skipped(130, 60, "incomplete frame at offset 130")]
+
+
+def test_one_frame_of_a_file_is_in_memory(tmp_path):
+    message = lumo_tarn.DebugSettingMsg().to_frame()
+    for source in files_of(message * 40000, tmp_path)[1:]:
+        tracemalloc.start()
+        assert sum(1 for _ in lumo_tarn.frames(source)) == 40000
+        assert tracemalloc.get_traced_memory()[1] < 1 << 20
+        tracemalloc.stop()
 
 
 class CountedBytes(bytes):

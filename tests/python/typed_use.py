@@ -14,6 +14,14 @@ def protocols(data: bytes) -> list[int]:
     return found
 
 
+def broken(path: str) -> int:
+    skipped: list[lumo_tarn.Skipped] = []
+    with open(path, "rb") as file:
+        for item in lumo_tarn.frames(file, skipped=skipped):
+            assert isinstance(item, (lumo_tarn.Message, lumo_tarn.Control))
+    return sum(one.length for one in skipped)
+
+
 def made() -> lumo_tarn.DpTc:
     tc = lumo_tarn.DpTc(id=3, src_prefix="10.0.0.0/8", appl={"id": 4})
     tc.dst_prefix = lumo_tarn.Address.of("unset")

@@ -1,6 +1,6 @@
 """Records, messages and bundles of the traffic-aware routing feature tarn as Python objects.
 
-    for message in lumo_tarn.messages(open("answer.bin", "rb").read()):
+    for message in lumo_tarn.messages(open("answer.bin", "rb")):
         for table in message.payload.lumo_data:
             for tc in table.agg_tc_list.tc_list:
                 print(tc.id, tc.src_prefix, tc.dst_prefix)
@@ -17,7 +17,7 @@ enumerations are immutable and can be shared.
 """
 
 from ._base import Address, Array, Message, Record
-from ._captures import Control, bundle_frames, frames, messages, recording
+from ._captures import Control, Skipped, bundle_frames, frames, messages, recording
 from ._native import Handle, handle
 from .records import *  # noqa: F403 - the classes of the schema
 from .records import __all__ as _classes
@@ -29,6 +29,7 @@ __all__ = [
     "Handle",
     "Message",
     "Record",
+    "Skipped",
     "bundle_frames",
     "frames",
     "handle",

@@ -4,8 +4,9 @@ from __future__ import annotations
 
 import dataclasses
 import errno
+import io
 import re
-from typing import Iterable, Iterator
+from typing import BinaryIO, Callable, Iterable, Iterator, NamedTuple
 
 from . import _schema
 from ._base import Message
@@ -14,6 +15,8 @@ from .records import MESSAGES
 
 _TRACKED = 7  # offset in the header: not 0 if the message has state bytes
 _START_SIZE = lib.MIRK_PLATFORM_FRAME_SIZE  # header and luid
+_MARKER = b"\xbc"  # the first byte of a frame
+_PIECE = 1 << 16  # bytes that are read at once
 
 
 @dataclasses.dataclass(frozen=True)
@@ -38,31 +41,131 @@ _CONTROLS = {
 }
 
 
-def frames(data: bytes) -> Iterator[Message | Control]:
-    """Yields the messages and control messages of consecutive frames. A message with state bytes is created on a tracked
-    handle. Raises ValueError with the offset at an incomplete frame or an unknown message, and OSError if the content
-    of a frame is invalid."""
-    at, look = 0, ffi.new("mirk_platform_frame *")
-    while at < len(data):
-        start = data[at : at + _START_SIZE]
-        error = lib.mirk_platform_frame_look(ffi.from_buffer(start), len(start), look)
-        if error == errno.EBADMSG:
-            raise ValueError(f"invalid frame at offset {at}")
-        if error != 0 or look.header.total_length > len(data) - at:
-            raise ValueError(f"incomplete frame at offset {at}")
-        frame, luid = data[at : at + look.header.total_length], bytes(look.luid)
-        at += len(frame)
-        if luid in _CONTROLS:
-            yield _CONTROLS[luid]
-        elif luid in MESSAGES:
-            yield MESSAGES[luid].from_frame(frame, on=handle(tracked=frame[_TRACKED] != 0))
+class Skipped(NamedTuple):
+    """Bytes that are no frame that can be read: their offset, their number, and the reason."""
+
+    offset: int
+    length: int
+    reason: str
+
+
+class _Window:
+    """The part of a file that is in memory."""
+
+    def __init__(self, file: BinaryIO) -> None:
+        self._file, self._begin, self._held = file, 0, bytearray()
+        self.size: int | None = None
+        if file.seekable():
+            at = file.tell()
+            self.size = file.seek(0, io.SEEK_END) - at
+            file.seek(at)
+
+    def part(self, begin: int, size: int) -> bytes:
+        while self._begin + len(self._held) < begin + size and (piece := self._file.read(_PIECE)):
+            self._held += piece
+        return bytes(self._held[begin - self._begin : begin - self._begin + size])
+
+    def drop(self, end: int) -> None:
+        """Releases everything before the offset."""
+        del self._held[: end - self._begin]
+        self._begin = end
+
+
+class _Frames:
+    """Finds frames in bytes or a file."""
+
+    def __init__(self, source: bytes | BinaryIO) -> None:
+        self._look = ffi.new("mirk_platform_frame *")
+        if isinstance(source, (bytes, bytearray, memoryview)):
+            data = source
+            self._part: Callable[[int, int], bytes] = lambda begin, size: bytes(data[begin : begin + size])
+            self._size: int | None = len(data)
+            self.drop: Callable[[int], None] = lambda end: None
         else:
-            raise ValueError(f"unknown message at offset {at - len(frame)}: {luid.hex()}")
+            window = _Window(source)
+            self._part, self._size, self.drop = window.part, window.size, window.drop
+
+    def has_ended(self, at: int) -> bool:
+        return not self._part(at, 1) if self._size is None else at >= self._size
+
+    def head_at(self, at: int) -> tuple[int, bytes]:
+        """The length and the luid of the frame. Raises ValueError if there is no header."""
+        start = self._part(at, _START_SIZE)
+        error = lib.mirk_platform_frame_look(ffi.from_buffer(start), len(start), self._look)
+        if error != 0:
+            raise ValueError(f"{'invalid' if error == errno.EBADMSG else 'incomplete'} frame at offset {at}")
+        return self._look.header.total_length, bytes(self._look.luid)
+
+    def frame_at(self, at: int) -> tuple[bytes, bytes]:
+        """The bytes of the frame and its luid. Raises ValueError if it is incomplete or unknown."""
+        length, luid = self.head_at(at)
+        frame = self._part(at, length) if self._size is None or length <= self._size - at else b""
+        if len(frame) < length:
+            raise ValueError(f"incomplete frame at offset {at}")
+        if luid not in _CONTROLS and luid not in MESSAGES:
+            raise ValueError(f"unknown message at offset {at}: {luid.hex()}")
+        return frame, luid
+
+    def is_head(self, at: int) -> bool:
+        try:
+            luid = self.head_at(at)[1]
+        except ValueError:
+            return False
+        return luid in _CONTROLS or luid in MESSAGES
+
+    def next_head(self, at: int) -> int:
+        """The offset of the next header of a known message, or of the end."""
+        while piece := self._part(at, _PIECE):
+            self.drop(at)
+            found = piece.find(_MARKER)
+            at += len(piece) if found == -1 else found
+            if found != -1:
+                if self.is_head(at):
+                    break
+                at += 1
+        return at
+
+    def has_wrong_length(self, at: int, length: int) -> bool:
+        """True if no header follows the frame, but one begins inside it."""
+        end = at + length
+        if self.has_ended(end) or self.is_head(end):
+            return False
+        return _Frames(self._part(at, length + _START_SIZE)).next_head(1) < length
 
 
-def messages(data: bytes) -> Iterator[Message]:
+def _read(frame: bytes, luid: bytes) -> Message | Control:
+    if luid in _CONTROLS:
+        return _CONTROLS[luid]
+    return MESSAGES[luid].from_frame(frame, on=handle(tracked=frame[_TRACKED] != 0))
+
+
+def frames(source: bytes | BinaryIO, skipped: list[Skipped] | None = None) -> Iterator[Message | Control]:
+    """Yields the messages and control messages of consecutive frames in bytes or in a binary file, of which it holds
+    one frame in memory. A message with state bytes is created on a tracked handle. Raises ValueError with the offset at
+    an incomplete frame or an unknown message, and OSError if the content of a frame is invalid.
+
+    With a list, continues instead with the next header of a known message, and appends what it skips to the list."""
+    found, at = _Frames(source), 0
+    while not found.has_ended(at):
+        try:
+            frame, luid = found.frame_at(at)
+            if skipped is not None and found.has_wrong_length(at, len(frame)):
+                raise ValueError(f"wrong length of the frame at offset {at}")
+            item = _read(frame, luid)
+        except (ValueError, OSError) as error:
+            if skipped is None:
+                raise
+            begin, at = at, found.next_head(at + 1)
+            skipped.append(Skipped(begin, at - begin, error.strerror if isinstance(error, OSError) else str(error)))
+        else:
+            at += len(frame)
+            found.drop(at)
+            yield item
+
+
+def messages(source: bytes | BinaryIO, skipped: list[Skipped] | None = None) -> Iterator[Message]:
     """Yields the messages of consecutive frames, as frames() does, without the control messages."""
-    return (item for item in frames(data) if isinstance(item, Message))
+    return (item for item in frames(source, skipped) if isinstance(item, Message))
 
 
 def recording(text: str, on: Handle | None = None) -> Iterator[Message]:
