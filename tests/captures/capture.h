@@ -10,14 +10,15 @@ namespace captures {
 
 class Capture {
 public:
-    Capture() {
+    // The link type says how packets begin: `front` precedes the IPv4 header.
+    explicit Capture(std::uint32_t link = 228, std::string_view front = {}) : front_(front) {
         put<std::uint32_t>(0xa1b2c3d4);
         put<std::uint16_t>(2);
         put<std::uint16_t>(4);
         put<std::uint32_t>(0);
         put<std::uint32_t>(0);
         put<std::uint32_t>(262144);  // the longest packet
-        put<std::uint32_t>(228);     // packets begin with their IPv4 header
+        put(link);
     }
 
     // One TCP connection for each client port, in segments of the given size.
@@ -33,13 +34,16 @@ public:
 
     const std::string &file() const { return file_; }
 
-private:
-    void add_segment(std::uint16_t from, std::uint16_t to, std::uint32_t sequence, std::string_view bytes) {
+    static constexpr std::uint16_t begins = 0x02, ends = 0x01, carries = 0x18;  // flags of a segment
+
+    void add_segment(std::uint16_t from, std::uint16_t to, std::uint32_t sequence, std::string_view bytes,
+                     std::uint16_t flags = carries) {
         const auto size = static_cast<std::uint32_t>(40 + bytes.size());
         put<std::uint32_t>(packets_++);  // seconds
         put<std::uint32_t>(0);
-        put(size);
-        put(size);
+        put(static_cast<std::uint32_t>(front_.size()) + size);
+        put(static_cast<std::uint32_t>(front_.size()) + size);
+        file_ += front_;
         put<std::uint16_t>(0x4500);
         put(static_cast<std::uint16_t>(size));
         put<std::uint32_t>(0);
@@ -51,18 +55,19 @@ private:
         put(to);
         put(sequence);
         put<std::uint32_t>(1);
-        put<std::uint16_t>(0x5018);  // a header of 20 bytes; acknowledges, pushes
+        put(static_cast<std::uint16_t>(0x5000 | flags));  // a header of 20 bytes
         put<std::uint16_t>(0xffff);
         put<std::uint32_t>(0);
         file_ += bytes;
     }
 
+private:
     template <typename T>
     void put(T value) {
         for (std::size_t i = sizeof value; i-- > 0;) file_ += static_cast<char>(value >> (8 * i) & 0xff);
     }
 
-    std::string file_;
+    std::string front_, file_;
     std::uint32_t packets_ = 0;
 };
 

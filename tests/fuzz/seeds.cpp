@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "capture.h"
 #include "pieces.h"
 #include "reference/text.h"
 #include "sweep.h"
@@ -191,6 +192,29 @@ void commands() {
     add("generate", 7, debug + "\n--seed\n3\n--elements\n2\n--form\njson\n", "");
     add("complete", 0x80, "--\n", "");
 }
+
+#ifdef TARN_WITH_CAPTURES
+// Connections with segments in another order, twice, overlapping and missing; and frames with other bytes between them.
+void captures_of_frames() {
+    const reference::BundleTable &bundle = reference::bundles().front();
+    const std::string payload = reference::message_table(bundle.message).payload;
+    const std::string message = text_of(reference::message_frame(bundle.message, fuzz::small_value(payload), false, 7));
+    const std::string bytes = message + text_of(reference::control_frame(bundle.name, "start", 7)) + message;
+    for (const std::size_t choice : {0U, 2U}) {
+        files["capture/frames-" + std::to_string(choice)] =
+            head({choice}) + bytes + "other bytes" + message.substr(0, message.size() / 2) + bytes;
+        captures::Capture capture;
+        capture.add_segment(28276, 40000, 99, "", captures::Capture::begins);
+        capture.add_segment(28276, 40000, 140, bytes.substr(40));
+        capture.add_segment(28276, 40000, 100, bytes.substr(0, 50));
+        capture.add_segment(28276, 40000, 100, bytes.substr(0, 50));
+        capture.add_segment(28276, 40000, 600, bytes);
+        capture.add_segment(28276, 40000, 7, "", captures::Capture::begins);
+        capture.add(40000, 28276, bytes, 30);
+        files["capture/connections-" + std::to_string(choice)] = head({choice | 1}) + capture.file();
+    }
+}
+#endif
 
 // Each operation once, one file for all that are called alike. Half of them are followed by another.
 void operations() {
@@ -395,6 +419,12 @@ int main(int argc, char **argv) {
     conversations();
     commands();
     operations();
+#ifdef TARN_WITH_CAPTURES
+    captures_of_frames();
+    files["capture.options"] =
+        "[libfuzzer]\ntimeout = 300\nreport_slow_units = 3600\nrss_limit_mb = 2048\nentropic = 0\nmax_len = 4096\n";
+    files["capture.dict"] = (identities() + numbers()).text();
+#endif
     dictionaries();
     fuzzer_options();
     const std::filesystem::path folder = argv[1];

@@ -105,19 +105,42 @@ private:
 };
 
 Exit deliver(const InputOptions &input, const DecodeOptions &options, const Write &write) {
-    Delivery delivery(options, input.keep_going, write);
-    const Exit exit = for_each_stretch(input, [&](const Stretch &stretch, const std::string &file) {
+    Exit exit = Exit::success;
+    std::optional<Delivery> delivery;
+    std::string origin;
+    const Exit read = for_each_stretch(input, [&](const Stretch &stretch, const std::string &file) {
         if (stretch.offset == 0 && form_of(chars_of(stretch.bytes), file) != Form::frames) {
             throw Failure(Exit::input, file + ": --bundles requires frames");
         }
-        if (stretch.identity) delivery.add(stretch.frame(), file);
+        // A network capture has several connections, and a bundle does not continue in another.
+        if (!delivery || origin != file) {
+            if (delivery) exit = std::max(exit, delivery->finish());
+            delivery.emplace(options, input.keep_going, write);
+            origin = file;
+        }
+        if (stretch.identity) delivery->add(stretch.frame(), file);
     });
-    return exit != Exit::success && !input.keep_going ? exit : std::max(exit, delivery.finish());
+    const bool stopped = read != Exit::success && !input.keep_going;
+    if (delivery && !stopped) exit = std::max(exit, delivery->finish());
+    return std::max(exit, read);
+}
+
+// Names the connection of the messages that follow. Readers of XML ignore it.
+std::string heading(const std::string &connection, Style style) {
+    return style == Style::xml ? "<!-- " + connection + " -->\n" : "# " + connection + "\n";
 }
 
 Exit decode(const InputOptions &input, const DecodeOptions &options, const Write &write) {
     if (!options.bundles) {
-        return for_each_item(input, [&](Entry &entry) { write(rendered(entry.item, options.style())); });
+        std::string connection;
+        return for_each_item(input, [&](Entry &entry) {
+            std::string text = rendered(entry.item, options.style());
+            if (entry.connection != connection) {
+                connection = entry.connection;
+                if (options.style() != Style::json) text = heading(connection, options.style()) + text;
+            }
+            write(text);
+        });
     }
     Failures failures(true);
     for (const InputFile &file : files_of(input.paths)) {

@@ -114,9 +114,16 @@ void add_keep_going(CLI::App &command, bool &keep_going) {
                      "Print errors and continue behind them, also within a file: with the next frame or fragment");
 }
 
+void add_port(CLI::App &command, std::uint16_t &port) {
+    command.add_option("--port", port, "TCP port of the connections to read from a network capture (pcap, pcapng)")
+        ->type_name("PORT")
+        ->capture_default_str();
+}
+
 void add_inputs(CLI::App &command, InputOptions &options) {
     add_files(command, options, "Frames, XML or JSON");
     add_keep_going(command, options.keep_going);
+    add_port(command, options.port);
     add_from(command, options.from);
     add_lenient(command, options.lenient);
 }

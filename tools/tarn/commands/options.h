@@ -43,7 +43,9 @@ void add_input(CLI::App &command, std::string &path, const std::string &what);
 // The positional `files`: files and folders; the default is standard input. And how to read them.
 void add_files(CLI::App &command, InputOptions &options, const std::string &what);
 void add_keep_going(CLI::App &command, bool &keep_going);
-// All options of a command that reads messages: add_files(), add_keep_going(), add_from() and add_lenient().
+void add_port(CLI::App &command, std::uint16_t &port);
+// All options of a command that reads messages: those of add_files(), add_keep_going(), add_port(), add_from() and
+// add_lenient().
 void add_inputs(CLI::App &command, InputOptions &options);
 void add_output(CLI::App &command, std::string &path, const std::string &what);
 void add_force(CLI::App &command, bool &force);

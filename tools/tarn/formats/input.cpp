@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "tools/tarn/formats/capture.h"
 #include "tools/tarn/formats/dissection.h"
 #include "tools/tarn/formats/hex_dump.h"
 #include "tools/tarn/formats/json.h"
@@ -36,13 +37,16 @@ public:
 
     std::optional<Item> next() override {
         if (has_ended_) return std::nullopt;
-        const std::optional<Stretch> stretch = reader_.next();
-        if (!stretch) return std::nullopt;
+        std::optional<Stretch> stretch;
+        do {
+            stretch = reader_.next();
+            if (!stretch) return std::nullopt;
+            // A request for a bundle is no message.
+        } while (!stretch->identity && stretch->fault.empty());
         if (!stretch->identity) {
-            const std::string reason = stretch->fault.empty() ? "a request for a bundle, no message" : stretch->fault;
-            has_ended_ = !keep_going_ && !stretch->fault.empty();
-            const std::string consequence = keep_going_ && !stretch->fault.empty() ? skipped(reader_.skip()) : "";
-            throw Failure(Exit::input, frame_location(origin_, stretch->offset) + ": " + reason + consequence);
+            has_ended_ = !keep_going_;
+            const std::string consequence = keep_going_ ? skipped(reader_.skip()) : "";
+            throw Failure(Exit::input, frame_location(origin_, stretch->offset) + ": " + stretch->fault + consequence);
         }
         try {
             return item_of(handles_, stretch->frame(), origin_);
@@ -162,10 +166,21 @@ std::vector<InputFile> files_of(const std::vector<std::string> &paths) {
     return files;
 }
 
-ByteStream open_bytes(const std::string &path, From from) {
-    ByteStream stream = open_input(path);
+namespace {
+
+ByteStream bytes_in(ByteStream stream, From from) {
     if (from != From::hex && !looks_like_hex(stream.look(enough_to_detect))) return stream;
     return stream_of(bytes_of_hex(stream.take_rest(), stream.name()), stream.name());
+}
+
+}  // namespace
+
+ByteStream open_bytes(const std::string &path, From from) {
+    ByteStream stream = open_input(path);
+    if (is_capture(stream.look(enough_to_detect))) {
+        throw Failure(Exit::input, stream.name() + ": this command does not read network captures");
+    }
+    return bytes_in(std::move(stream), from);
 }
 
 namespace {
@@ -176,25 +191,44 @@ std::uint64_t size_of_file(const std::string &path) {
     return error ? 0 : size;
 }
 
-// Calls `read` for the stream of each file, and with a function that shows the progress.
-void for_each_file(const InputOptions &options, Failures &failures,
-                   const std::function<void(ByteStream &, const std::function<void()> &)> &read) {
+// A file, or what one side of a connection sent.
+struct Source {
+    std::string connection;
+    ByteStream stream;
+};
+
+std::vector<Source> open_sources(const std::string &path, const InputOptions &options, Failures &failures) {
+    std::vector<Source> sources;
+    try {
+        ByteStream stream = open_input(path);
+        if (options.from == From::hex || !is_capture(stream.look(enough_to_detect))) {
+            sources.push_back({{}, bytes_in(std::move(stream), options.from)});
+            return sources;
+        }
+        Capture capture = read_capture(stream, options.port);
+        for (const Failure &missing : capture.missing) failures.add(missing);
+        for (Sent &sent : capture.sent) sources.push_back({std::move(sent.connection), std::move(sent.bytes)});
+    } catch (const Failure &failure) {
+        failures.add(failure);
+    }
+    return sources;
+}
+
+// Calls `read` for each file, and with a function that shows the progress.
+void for_each_source(const InputOptions &options, Failures &failures,
+                     const std::function<void(Source &, const std::function<void()> &)> &read) {
     const std::vector<InputFile> files = files_of(options.paths);
     std::uint64_t before = 0, all = 0;
     for (const InputFile &file : files) all += size_of_file(file.path);
     Progress progress("reading");
     for (const InputFile &file : files) {
         const std::uint64_t size = size_of_file(file.path);
-        std::optional<ByteStream> stream;
-        try {
-            stream.emplace(open_bytes(file.path, options.from));
-        } catch (const Failure &failure) {
-            failures.add(failure);
+        for (Source &source : open_sources(file.path, options, failures)) {
+            const auto show = [&] {
+                if (options.shows_progress) progress.at(before + std::min(source.stream.offset(), size), all);
+            };
+            read(source, show);
         }
-        const auto show = [&] {
-            if (options.shows_progress) progress.at(before + std::min(stream->offset(), size), all);
-        };
-        if (stream) read(*stream, show);
         before += size;
     }
 }
@@ -217,19 +251,21 @@ bool is_visited(Failures &failures, const Visit &visit) {
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit) {
     const Handles handles(options.tracking);
     Failures failures(true);
-    for_each_file(options, failures, [&](ByteStream &stream, const std::function<void()> &show) {
+    for_each_source(options, failures, [&](Source &source, const std::function<void()> &show) {
         std::optional<EntryReader> reader;
         for (bool goes_on = true; goes_on; show()) {
             std::optional<Entry> entry;
             try {
-                if (!reader) reader.emplace(handles, stream, options);
+                if (!reader) reader.emplace(handles, source.stream, options);
                 entry = reader->next();
                 goes_on = entry.has_value();
             } catch (const Failure &failure) {
                 failures.add(failure);
                 goes_on = options.keep_going && reader;
             }
-            if (entry && !is_visited(failures, [&] { visit(*entry); })) goes_on = options.keep_going;
+            if (!entry) continue;
+            entry->connection = source.connection;
+            if (!is_visited(failures, [&] { visit(*entry); })) goes_on = options.keep_going;
         }
     });
     return failures.exit();
@@ -238,7 +274,8 @@ Exit for_each_item(const InputOptions &options, const std::function<void(Entry &
 Exit for_each_stretch(const InputOptions &options,
                       const std::function<void(const Stretch &, const std::string &file)> &visit) {
     Failures failures(true);
-    for_each_file(options, failures, [&](ByteStream &stream, const std::function<void()> &show) {
+    for_each_source(options, failures, [&](Source &source, const std::function<void()> &show) {
+        ByteStream &stream = source.stream;
         FrameReader reader(stream, options.keep_going);
         for (bool goes_on = true; goes_on; show()) {
             std::optional<Stretch> stretch;

@@ -1,5 +1,5 @@
-// Reads files and folders of any format: frames, also as hexadecimal text, XML or JSON. At most one message is in
-// memory.
+// Reads files and folders of any format: frames, also as hexadecimal text or in a network capture, XML or JSON. At most
+// one message is in memory.
 #pragma once
 
 #include <functional>
@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "mirk_platform.h"
 #include "tools/tarn/formats/frame_reader.h"
 #include "tools/tarn/formats/item.h"
 #include "tools/tarn/formats/reader.h"
@@ -19,8 +20,9 @@ struct InputOptions {
     std::vector<std::string> paths;  // files and folders; "-" or none: standard input
     From from = From::detect;
     bool lenient = false;
-    bool keep_going = false;     // behind what is broken
-    bool shows_progress = true;  // on a terminal
+    bool keep_going = false;                      // behind what is broken
+    std::uint16_t port = MIRK_PLATFORM_TCP_PORT;  // of the connections in a network capture
+    bool shows_progress = true;                   // on a terminal
     Tracking tracking = Tracking::as_input;
 };
 
@@ -30,6 +32,7 @@ struct Entry {
     std::string_view file;                    // as messages print it
     std::size_t number;                       // of the message in the file, from 1; 0 for a control message
     const reflect::BundleOperations *bundle;  // that contains it; null outside bundles
+    std::string_view connection = {};         // in a network capture: "10.0.0.1:28276 to 10.0.0.2:40000"
 };
 
 // The entries of one file, one after the other.
@@ -67,7 +70,8 @@ struct InputFile {
 };
 std::vector<InputFile> files_of(const std::vector<std::string> &paths);
 
-// The bytes of a file; hexadecimal text is converted to the bytes that it shows.
+// The bytes of a file; hexadecimal text is converted to the bytes that it shows. Throws a Failure for a network
+// capture, which contains several streams.
 ByteStream open_bytes(const std::string &path, From from);
 
 // With the place where the frame is broken, which the library does not report.

@@ -1,0 +1,203 @@
+// Network captures as input: connections put together, what is missing in them, and files that are broken.
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "capture.h"
+#include "process.h"
+#include "samples.h"
+
+namespace tool_test {
+
+namespace {
+
+using captures::Capture;
+
+constexpr std::uint16_t server = 28276, client = 40000;
+const std::string answer_of_client = "127.0.0.1:28276 to 127.0.0.1:40000";
+
+const reference::BundleTable &bundle() { return reference::bundle_table("lumo_tarn_cl_debug_rsp"); }
+const reference::MessageTable &message() { return reference::message_table(bundle().message); }
+
+std::string message_text(std::uint64_t seed) { return shown(message(), plain_payload(message(), seed)); }
+std::string one(std::uint64_t seed) { return frame(message(), plain_payload(message(), seed), false); }
+
+// 65 bytes each.
+std::string messages(std::uint64_t count) {
+    std::string all;
+    for (std::uint64_t i = 0; i < count; ++i) all += one(i);
+    return all;
+}
+std::string texts(std::uint64_t begin, std::uint64_t end) {
+    std::string all;
+    for (std::uint64_t i = begin; i < end; ++i) all += message_text(i);
+    return all;
+}
+
+Outcome decode(const Capture &capture, std::vector<std::string> more = {}) {
+    const Directory directory;
+    more.insert(more.begin(), {"decode", directory.write("capture.pcap", capture.file())});
+    return tarn(more);
+}
+
+TEST(NetworkCapture, MessagesComeWithTheirConnection) {
+    Capture capture;
+    capture.add(client, server, request("lumo_tarn_cl_debug_rsp"));
+    capture.add(server, client, messages(3), 50);
+    capture.add(server, 40001, one(7));
+    capture.add(5000, 6000, messages(1));
+    const Outcome text = decode(capture);
+    EXPECT_EQ(text.exit, 0) << text.err;
+    EXPECT_EQ(text.out, "# " + answer_of_client + "\n" + texts(0, 3) + "# 127.0.0.1:28276 to 127.0.0.1:40001\n" +
+                            message_text(7));
+    const Outcome xml = decode(capture, {"--xml"});
+    EXPECT_EQ(tarn({"decode"}, xml.out).out, texts(0, 3) + message_text(7));
+    const Outcome other = decode(capture, {"--port", "6000"});
+    EXPECT_EQ(other.out, "# 127.0.0.1:5000 to 127.0.0.1:6000\n" + texts(0, 1));
+    const Outcome none = decode(capture, {"--port", "6001"});
+    EXPECT_EQ(none.exit, 2);
+    EXPECT_NE(none.err.find("capture.pcap: no TCP connection with port 6001 has data\n"), std::string::npos)
+        << none.err;
+}
+
+TEST(NetworkCapture, SegmentsAreReorderedAndThoseSentAgainAreReadOnce) {
+    const std::string bytes = messages(4);
+    for (const std::uint32_t first : {1U, 0xffffff80U}) {  // the sequence number wraps around
+        for (const bool has_begin : {true, false}) {
+            Capture capture;
+            const auto segment = [&](std::size_t at, std::size_t size) {
+                capture.add_segment(server, client, first + static_cast<std::uint32_t>(at), bytes.substr(at, size));
+            };
+            if (has_begin) capture.add_segment(server, client, first - 1, "", Capture::begins);
+            segment(100, 50);
+            segment(0, 60);
+            segment(0, 60);
+            segment(150, 40);
+            segment(60, 40);
+            segment(30, 100);  // overlaps what is there
+            segment(200, 60);
+            segment(180, 30);
+            const Outcome outcome = decode(capture);
+            EXPECT_EQ(outcome.exit, 0) << outcome.err;
+            EXPECT_EQ(outcome.out, "# " + answer_of_client + "\n" + texts(0, 4)) << first << has_begin;
+        }
+    }
+}
+
+TEST(NetworkCapture, AConnectionAfterAnotherOfTheSamePortsIsAnother) {
+    Capture capture;
+    for (const std::uint32_t first : {1000U, 900U}) {
+        capture.add_segment(server, client, first, "", Capture::begins);
+        capture.add_segment(server, client, first + 1, messages(2));
+        capture.add_segment(server, client, first + 131, "", Capture::ends);
+    }
+    const Outcome outcome = decode(capture, {"--json"});
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(occurrences(outcome.out, "\n"), 4U);
+}
+
+TEST(NetworkCapture, MissingSegmentsAreNamedAndTheFramesAroundThemAreRead) {
+    const std::string bytes = messages(6);
+    Capture capture;
+    capture.add_segment(server, client, 0, "", Capture::begins);
+    capture.add_segment(server, client, 1, bytes.substr(0, 140));
+    capture.add_segment(server, client, 201, bytes.substr(200));
+    const Outcome outcome = decode(capture, {"-k"});
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(outcome.out, "# " + answer_of_client + "\n" + texts(0, 2) + texts(4, 6));
+    for (const std::string &words : {"(" + answer_of_client + "): 60 bytes after byte 140 are missing\n",
+                                    "(" + answer_of_client + "): frame at offset 130: 10 bytes are left",
+                                    "(" + answer_of_client + ", from byte 200): frame at offset 0: not a frame"}) {
+        EXPECT_NE(outcome.err.find(words), std::string::npos) << words << "\n" << outcome.err;
+    }
+}
+
+TEST(NetworkCapture, PacketsOfEachLinkTypeAreRead) {
+    using namespace std::string_literals;
+    const std::string ethernet = "\1\2\3\4\5\6\1\2\3\4\5\7"s;
+    for (const auto &[link, front] : {std::pair{1U, ethernet + "\x08\x00"s},
+                                      {1U, ethernet + "\x81\x00\x00\x05\x08\x00"s},
+                                      {101U, ""s},
+                                      {0U, "\0\0\0\2"s},
+                                      {113U, std::string(14, '\0') + "\x08\x00"s},
+                                      {276U, "\x08\x00"s + std::string(18, '\0')}}) {
+        Capture capture(link, front);
+        capture.add(server, client, messages(2));
+        const Outcome outcome = decode(capture);
+        EXPECT_EQ(outcome.exit, 0) << link << outcome.err;
+        EXPECT_EQ(outcome.out, "# " + answer_of_client + "\n" + texts(0, 2)) << link;
+    }
+    Capture radio(127);
+    radio.add(server, client, messages(1));
+    const Outcome outcome = decode(radio);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("link type IEEE802_11_RADIO are not supported"), std::string::npos) << outcome.err;
+}
+
+void put(std::string &file, std::uint32_t value) {
+    for (unsigned i = 0; i < 4; ++i) file += static_cast<char>(value >> (8 * (3 - i)) & 0xff);
+}
+
+// The same packets as pcapng: a section, an interface, and a block for each packet.
+std::string next_generation(const std::string &pcap) {
+    std::string file;
+    const auto block = [&](std::uint32_t type, std::string body) {
+        body.resize((body.size() + 3) / 4 * 4);
+        put(file, type);
+        put(file, static_cast<std::uint32_t>(body.size() + 12));
+        file += body;
+        put(file, static_cast<std::uint32_t>(body.size() + 12));
+    };
+    std::string section, interface;
+    put(section, 0x1a2b3c4d);
+    put(section, 0x00010000);
+    section += std::string(8, '\xff');
+    block(0x0a0d0d0a, section);
+    interface += pcap.substr(22, 2) + std::string(6, '\0');
+    block(1, interface);
+    for (std::size_t at = 24; at < pcap.size();) {
+        const std::size_t size =
+            static_cast<unsigned char>(pcap[at + 10]) * 256U + static_cast<unsigned char>(pcap[at + 11]);
+        block(6, std::string(12, '\0') + pcap.substr(at + 8, 8) + pcap.substr(at + 16, size));
+        at += 16 + size;
+    }
+    return file;
+}
+
+TEST(NetworkCapture, BothFormatsAreReadAlsoFromAPipe) {
+    Capture capture;
+    capture.add(server, client, messages(9), 100);
+    for (const std::string &bytes : {capture.file(), next_generation(capture.file())}) {
+        const Outcome outcome = tarn({"decode"}, bytes);
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        EXPECT_EQ(outcome.out, "# " + answer_of_client + "\n" + texts(0, 9));
+    }
+}
+
+TEST(NetworkCapture, ABrokenFileIsReportedWithItsPacket) {
+    Capture capture;
+    capture.add(server, client, messages(2), 65);
+    const std::string file = capture.file();
+    const Outcome cut = tarn({"decode"}, file.substr(0, file.size() - 10));
+    EXPECT_EQ(cut.exit, 2);
+    EXPECT_NE(cut.err.find("standard input: packet 2: truncated dump file"), std::string::npos) << cut.err;
+    EXPECT_EQ(cut.out, "# " + answer_of_client + "\n" + texts(0, 1));
+    const Outcome head = tarn({"decode"}, file.substr(0, 20));
+    EXPECT_EQ(head.exit, 2);
+    EXPECT_NE(head.err.find("standard input: truncated dump file"), std::string::npos) << head.err;
+}
+
+TEST(NetworkCapture, BundlesAreReceivedOfEachConnection) {
+    Capture capture;
+    const std::string whole = answer(bundle(), plain_payload(message(), 3), false);
+    capture.add(server, client, whole, 70);
+    capture.add(server, 40001, whole, 90);
+    const Outcome outcome = decode(capture, {"--bundles", "-v"});
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, message_text(3) + message_text(3));
+    EXPECT_EQ(occurrences(outcome.err, "1 bundles were handled"), 2U) << outcome.err;
+}
+
+}  // namespace
+
+}  // namespace tool_test
