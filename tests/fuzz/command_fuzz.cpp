@@ -21,8 +21,8 @@ namespace {
 using namespace tarn::tool;
 using fuzz::require;
 
-constexpr void (*commands[])(CLI::App &, Context &) = {add_decode, add_encode, add_dissect,  add_diff,
-                                                       add_view,   add_schema, add_manifest, add_generate};
+constexpr void (*commands[])(CLI::App &, Context &) = {add_decode, add_encode,   add_dissect,  add_diff, add_view,
+                                                       add_schema, add_manifest, add_generate, add_rows};
 constexpr std::uint8_t completes = 0x80;
 
 // Leaves the process in the scratch folder, with nothing to read from standard input.

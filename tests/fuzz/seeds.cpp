@@ -16,6 +16,7 @@
 #include "reference/text.h"
 #include "sweep.h"
 #include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/tables.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/support/trace.h"
 
@@ -167,7 +168,7 @@ void conversations() {
 }
 
 // The target numbers the commands: decode, encode, dissect, diff, view, schema, manifest,
-// generate.
+// generate, rows.
 void commands() {
     const std::string debug = reference::bundles().front().name;
     const std::string message = reference::bundles().front().message;
@@ -190,6 +191,7 @@ void commands() {
     add("schema-member", 5, payload + "." + reference::record_table(payload).members.at(0).name + "\n", "");
     add("manifest", 6, "input\n--json\n", "\177ELF\2\1\1");
     add("generate", 7, debug + "\n--seed\n3\n--elements\n2\n--form\njson\n", "");
+    add("rows", 8, payload + "\ninput\n--where\nmessage=1\n--sort\n-path\n--limit\n1\n--format\ncsv\n", frames);
     add("complete", 0x80, "--\n", "");
 }
 
@@ -215,6 +217,23 @@ void captures_of_frames() {
     }
 }
 #endif
+// A condition on each kind of column, for each record with one.
+void conditions() {
+    for (std::size_t i = 0; i < tarn::tool::tables().size(); ++i) {
+        for (const tarn::tool::Column &column : tarn::tool::tables()[i].columns) {
+            using tarn::schema::Category;
+            const Category kind = category(column.member->kind);
+            const std::string value = kind == Category::boolean   ? "=true"
+                                      : kind == Category::address ? " in 2001:db8::/32"
+                                      : kind == Category::string  ? "~a"
+                                      : kind == Category::enumeration
+                                          ? std::string("<=") += column.member->enumeration->enumerators[0]
+                                          : ">= 0x10";
+            const std::string name = tarn::tool::tables()[i].name + "-" + std::to_string(static_cast<int>(kind));
+            files["where/" + name] = head({i, i % 4}) + column.name + value;
+        }
+    }
+}
 
 // Each operation once, one file for all that are called alike. Half of them are followed by another.
 void operations() {
@@ -350,7 +369,7 @@ Dictionary options() {
 }
 
 void dictionaries() {
-    Dictionary markup, json;
+    Dictionary markup, json, operators;
     markup.add({"<!DOCTYPE", "<!ENTITY", "<![CDATA[", "]]>", "<!--", "-->", "<?xml version='1.0' encoding='", "&#x0;",
                 "&amp;", "bundle_start", "state='1'"});
     json.add({"@state",
@@ -376,6 +395,8 @@ void dictionaries() {
               "true",
               "{}",
               "[]"});
+    operators.add({"!=", "<=", ">=", "=", "<", ">", "~", " in ", "0x", "true", "unset", "::/0", "10.0.0.0/8", "file",
+                   "message", "bundle", "path"});
     const Dictionary frames = identities() + numbers();
     const std::map<std::string, Dictionary> of_targets = {
         {"frame", frames},
@@ -386,6 +407,7 @@ void dictionaries() {
         {"operations", calls_of_operations()},
         {"xml", names() + markup},
         {"json", names() + json},
+        {"where", names() + operators},
         {"tool", names() + identities() + markup + json},
         {"command", names() + identities() + options()},
         {"streams", frames + pieces()},
@@ -400,7 +422,7 @@ void dictionaries() {
 void fuzzer_options() {
     const std::string all = "[libfuzzer]\ntimeout = 300\nreport_slow_units = 3600\nrss_limit_mb = 2048\nentropic = 0\n";
     for (const char *target : {"frame", "bundle", "xml", "calls", "differential", "allocation", "operations", "tool",
-                               "json", "streams", "answers"}) {
+                               "json", "where", "streams", "answers"}) {
         files[std::string(target) + ".options"] = all + "max_len = 4096\n";
     }
     // The conversation of a longer input takes too long.
@@ -418,6 +440,7 @@ int main(int argc, char **argv) {
     calls();
     conversations();
     commands();
+    conditions();
     operations();
 #ifdef TARN_WITH_CAPTURES
     captures_of_frames();

@@ -60,6 +60,8 @@ std::string values(const CLI::Option &option, const std::string &word, const std
     } else if (kind == words::bundle_or_message) {
         candidates.add(bundle_names());
         candidates.add(message_names());
+    } else if (kind == words::record) {
+        candidates.add(record_names());
     } else if (kind == words::type) {
         if (word.find('.') != std::string::npos) return members(word);
         candidates.add(type_names());

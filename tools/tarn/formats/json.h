@@ -29,6 +29,8 @@ nlohmann::ordered_json json_of(const Handle &handle, const reflect::RecordOperat
 nlohmann::ordered_json json_of_member(const Handle &handle, const reflect::RecordOperations &operations,
                                       std::size_t index, void *instance);
 nlohmann::ordered_json json_of(const Item &item);
+// Text, or {"bytes": HEX} if it is not UTF-8.
+nlohmann::ordered_json json_of_string(const std::string &text);
 
 // For output: printable; readers get the same values. A negative indent writes one line.
 std::string json_text(const nlohmann::ordered_json &json, int indent = -1);

@@ -27,11 +27,6 @@ bool is_utf8(const std::string &text) {
     }
 }
 
-ordered_json json_of_string(const std::string &text) {
-    if (is_utf8(text)) return text;
-    return {{"bytes", hex_text(bytes_of(text))}};
-}
-
 void add_ra_data(const Handle &handle, void *object, ordered_json &json) {
     if (const auto ra = ra_data_of(handle, object))
         json["@ra"] = {{"value", std::to_string(ra->value)}, {"byte", ra->byte}};
@@ -154,6 +149,11 @@ private:
 };
 
 }  // namespace
+
+ordered_json json_of_string(const std::string &text) {
+    if (is_utf8(text)) return text;
+    return {{"bytes", hex_text(bytes_of(text))}};
+}
 
 ordered_json json_of(const Handle &handle, const RecordOperations &operations, void *instance) {
     return Writer(handle, operations, instance).run();

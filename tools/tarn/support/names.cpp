@@ -39,9 +39,14 @@ std::vector<Named> message_names() {
     return names;
 }
 
-std::vector<Named> type_names() {
+std::vector<Named> record_names() {
     std::vector<Named> names;
     for (const auto *r : schema::records) names.push_back({r->name, r->meaning});
+    return names;
+}
+
+std::vector<Named> type_names() {
+    std::vector<Named> names = record_names();
     for (const auto *e : schema::enumerations) names.push_back({e->name, e->meaning});
     for (const Named &m : message_names()) names.push_back(m);
     for (const Named &b : bundle_names()) names.push_back(b);

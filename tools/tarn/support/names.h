@@ -18,6 +18,7 @@ struct Named {
 
 std::vector<Named> bundle_names();
 std::vector<Named> message_names();
+std::vector<Named> record_names();
 std::vector<Named> type_names();  // records, enumerations, messages, bundles
 
 // The rule for short names is the same for all types and commands. The help and the manual page print it.

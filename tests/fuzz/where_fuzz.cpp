@@ -1,0 +1,71 @@
+// Conditions of `tarn rows`, and the rows that meet them: names of columns, operators, numbers, addresses, enumerators.
+//
+// The first byte chooses the record and the second one the format; the rest is the condition.
+#include <map>
+
+#include "fuzz.h"
+#include "reference/codec.h"
+#include "tools/tarn/formats/condition.h"
+#include "tools/tarn/formats/frames.h"
+#include "tools/tarn/formats/row_writer.h"
+#include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/trace.h"
+
+namespace {
+
+using namespace tarn::tool;
+using fuzz::require;
+
+// One message of each type.
+const std::vector<Item> &messages() {
+    static const Handles handles(tarn::tool::Tracking::as_input);
+    static const std::vector<Item> all = [] {
+        std::vector<Item> items;
+        for (const reference::MessageTable &table : reference::messages()) {
+            const auto frame = reference::message_frame(table.name, fuzz::small_value(table.payload), false, 0);
+            items.push_back(item_of(handles, frame_at(frame, 0, "sample"), "sample"));
+        }
+        return items;
+    }();
+    return all;
+}
+
+void run(const Instances &instances, RowStyle style, std::string_view text) {
+    const Condition holds = condition(text, instances);
+    std::size_t size = 0;
+    RowWriter writer(style, instances.fields(), [&](std::string_view piece) { size += piece.size(); });
+    std::size_t expected = 0;
+    for (const Item &item : messages()) {
+        instances.visit({"sample", 1, nullptr}, *item.message, [&](const Instance &instance) {
+            if (!holds(instance)) return;
+            const std::string line = line_of(style, instances.fields(), instance);
+            require(line.find('\n') == std::string::npos, "a row is one line");
+            writer.add(line);
+            expected += line.size();
+        });
+    }
+    writer.finish();
+    // Only the alignment of a table may remove blanks.
+    require(style == RowStyle::table || size >= expected, "all rows are written");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
+    require(set_up, "the trace is set up");
+    static std::map<std::size_t, Instances> made;
+    fuzz::Input input(data, size);
+    const std::size_t number = input.u8() % tables().size();
+    const auto style = static_cast<RowStyle>(input.u8() % 4);
+    const auto found = made.try_emplace(number, *tables()[number].record).first;
+    const auto bytes = input.rest();
+    const std::string_view text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+    try {
+        run(found->second, style, text);
+    } catch (const Failure &failure) {
+        require(std::string_view(failure.what()).find(": character ") != std::string_view::npos,
+                "a failure has a place");
+    }
+    return 0;
+}
