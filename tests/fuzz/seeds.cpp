@@ -168,7 +168,7 @@ void conversations() {
 }
 
 // The target numbers the commands: decode, encode, dissect, diff, view, schema, manifest,
-// generate, rows.
+// generate, rows, export.
 void commands() {
     const std::string debug = reference::bundles().front().name;
     const std::string message = reference::bundles().front().message;
@@ -192,6 +192,7 @@ void commands() {
     add("manifest", 6, "input\n--json\n", "\177ELF\2\1\1");
     add("generate", 7, debug + "\n--seed\n3\n--elements\n2\n--form\njson\n", "");
     add("rows", 8, payload + "\ninput\n--where\nmessage=1\n--sort\n-path\n--limit\n1\n--format\ncsv\n", frames);
+    add("export", 9, "input\n--sqlite\ndatabase\n", frames);
     add("complete", 0x80, "--\n", "");
 }
 

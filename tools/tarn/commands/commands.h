@@ -30,6 +30,7 @@ void add_schema(CLI::App &app, Context &context);
 void add_manifest(CLI::App &app, Context &context);
 void add_generate(CLI::App &app, Context &context);
 void add_record(CLI::App &app, Context &context);
+void add_export(CLI::App &app, Context &context);
 void add_rows(CLI::App &app, Context &context);
 
 }  // namespace tarn::tool

@@ -175,6 +175,12 @@ void OutputFile::append(std::string_view piece) {
     size_ += piece.size();
 }
 
+const std::filesystem::path &OutputFile::beside() {
+    if (place_.empty()) throw Failure(Exit::input, shown_ + ": not a regular file");
+    if (descriptor_ < 0) open();
+    return beside_;
+}
+
 void OutputFile::publish() {
     if (beside_.empty()) return;
     if (::rename(beside_.c_str(), place_.c_str()) != 0) fail(shown_);

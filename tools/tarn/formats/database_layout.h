@@ -1,0 +1,42 @@
+// The layout of the databases that `tarn export` writes, derived from the tables of the records. The statements that
+// create a database and its documentation, docs/export.md, come from the same columns.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/tarn/formats/tables.h"
+
+namespace tarn::tool {
+
+// Stored as PRAGMA user_version. Another number means that programs have to be changed, unlike further tables and
+// columns.
+inline constexpr int layout_version = 1;
+
+// What of a member's value a column holds.
+enum class Part : std::uint8_t { value, enumerator, bytes };
+
+struct SqlColumn {
+    std::string name;       // of the member, with underscores for the dots
+    std::string_view type;  // empty: integers, and text where SQLite's integers are too small
+    std::string meaning;
+    const Column *column;
+    Part part;
+};
+
+std::vector<SqlColumn> sql_columns(const Table &table);
+
+// The tables of payloads and of elements of lists, in the order of the catalogue. Other records are columns of these.
+std::vector<const Table *> sql_tables();
+
+// Statements that create the tables, and those that create views and indexes when the tables are filled.
+std::string sql_of_tables();
+std::string sql_of_views();
+
+std::string insertion_into(const Table &table);
+
+// Tables and views in Markdown.
+std::string layout_text();
+
+}  // namespace tarn::tool
