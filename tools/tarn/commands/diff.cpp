@@ -71,7 +71,8 @@ public:
         // Lines of the first message wait until it is known whether there are others.
         if (number == 1 && change.element != "message") return first_.push_back(std::move(change));
         print_first(true);
-        print_line(change, number);
+        name_message(change, number);
+        print(line_of(change) + "\n");
     }
 
     void finish(std::size_t messages) {
@@ -87,17 +88,10 @@ public:
 
 private:
     void print_first(bool with_number) {
-        for (Change &change : std::exchange(first_, {})) print_line(change, with_number ? 1 : 0);
-    }
-    void print_line(Change &change, std::size_t number) {
-        const std::string message = "message " + std::to_string(number);
-        if (change.element == "message") {
-            const bool in_b = change.kind == Change::Kind::added;
-            change.place = message + (in_b ? " of B (" : " (") + change.place + ")";
-        } else if (number != 0) {
-            change.place = message + (change.place.empty() ? "" : ", ") + change.place;
+        for (Change &change : std::exchange(first_, {})) {
+            if (with_number) name_message(change, 1);
+            print(line_of(change) + "\n");
         }
-        print(line_of(change) + "\n");
     }
     void print(const std::string &text) {
         constexpr std::size_t most = std::size_t{64} << 10;

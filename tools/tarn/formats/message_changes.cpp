@@ -78,4 +78,13 @@ std::size_t compare_sequences(const Handles &handles, Comparison &comparison, co
     return pairs.run(a, b);
 }
 
+void name_message(Change &change, std::size_t number) {
+    const std::string message = "message " + std::to_string(number);
+    if (change.element == "message") {
+        change.place = message + " (" + change.place + ")";
+    } else {
+        change.place = message + (change.place.empty() ? "" : ", ") + change.place;
+    }
+}
+
 }  // namespace tarn::tool
