@@ -50,6 +50,8 @@ int run(int argc, char **argv) {
     add_manifest(app, context);
     add_generate(app, context);
     add_record(app, context);
+    add_watch(app, context);
+    add_probe(app, context);
     add_to_all_commands(app);
     check_places(app);
     // "complete" and "manual" describe the command line to the shells and to the build, and are not listed in the help.

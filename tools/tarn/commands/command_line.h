@@ -24,7 +24,7 @@ inline constexpr char terms[] =
 inline constexpr char value_rule[] =
     "The name - of an input or output file stands for standard input or output; use it\n"
     "at most once for each of the two. A SIZE is in bytes or has a unit, such as 64KiB\n"
-    "or 1MiB.";
+    "or 1MiB. SECONDS may have a unit, too: 500ms, 5s, 2m, 1h.";
 
 std::vector<const CLI::App *> commands_of(const CLI::App &app);
 std::vector<const CLI::App *> groups_of(const CLI::App &command);

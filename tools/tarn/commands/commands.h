@@ -32,5 +32,7 @@ void add_generate(CLI::App &app, Context &context);
 void add_record(CLI::App &app, Context &context);
 void add_export(CLI::App &app, Context &context);
 void add_rows(CLI::App &app, Context &context);
+void add_watch(CLI::App &app, Context &context);
+void add_probe(CLI::App &app, Context &context);
 
 }  // namespace tarn::tool

@@ -76,13 +76,23 @@ void add_to_all_commands(CLI::App &app) {
 }
 
 void add_seconds(CLI::App &command, const std::string &name, double &seconds, const std::string &what, double least) {
-    // Also refuses what is no number, which no comparison does.
-    const auto in_range = [least](const std::string &text) {
+    const auto read = [least](std::string &text) {
+        static const std::map<std::string, double> units = {{"", 1}, {"ms", 0.001}, {"s", 1}, {"m", 60}, {"h", 3600}};
+        const std::size_t number_end = text.find_last_not_of("msh") + 1;
+        const auto unit = units.find(text.substr(number_end));
         double value = 0;
-        if (CLI::detail::lexical_cast(text, value) && value >= least && value <= 86400) return std::string();
-        return "Value " + text + " not in range " + std::to_string(least) + " to " + std::to_string(86400);
+        const bool is_number = CLI::detail::lexical_cast(text.substr(0, number_end), value) && unit != units.end();
+        // Not a number is in no range.
+        if (!is_number || !(value * unit->second >= least && value * unit->second <= 86400)) {
+            return "Value " + text + " not in range " + std::to_string(least) + " to " + std::to_string(86400);
+        }
+        text = std::to_string(value * unit->second);
+        return std::string();
     };
-    command.add_option(name, seconds, what)->check(in_range)->type_name("SECONDS")->capture_default_str();
+    command.add_option(name, seconds, what)
+        ->transform(CLI::Validator(read, ""))
+        ->type_name("SECONDS")
+        ->capture_default_str();
 }
 
 CLI::Option *add_size(CLI::App &command, const std::string &name, std::uint64_t &size, const std::string &what,
@@ -184,6 +194,13 @@ void add_comparison(CLI::App &command, ComparisonOptions &options) {
                     "type,id; repeatable")
         ->type_name("MEMBER[,...]")
         ->allow_extra_args(false);
+}
+
+void add_endpoint(CLI::App &command, Endpoint &endpoint) {
+    CLI::Option_group *group = command.add_option_group("endpoint", "Where the answering process listens");
+    group->add_option("--socket", endpoint.socket, "Unix domain socket")->type_name(words::file);
+    group->add_option("--connect", endpoint.tcp, tcp_words())->type_name(words::address);
+    group->require_option(1);
 }
 
 void add_timeout(CLI::App &command, double &seconds, const std::string &what) {

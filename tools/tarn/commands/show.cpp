@@ -118,10 +118,7 @@ void add_show(CLI::App &app, Context &) {
     auto options = std::make_shared<ShowOptions>();
     CLI::App *command = app.add_subcommand("show", "Request a bundle from a process and print the answer");
     command->add_option("bundle", options->bundle, "The requested bundle")->type_name(words::bundle)->required();
-    CLI::Option_group *endpoint = command->add_option_group("endpoint", "Where the answering process listens");
-    endpoint->add_option("--socket", options->endpoint.socket, "Unix domain socket")->type_name(words::file);
-    endpoint->add_option("--connect", options->endpoint.tcp, tcp_words())->type_name(words::address);
-    endpoint->require_option(1);
+    add_endpoint(*command, options->endpoint);
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
     form->add_flag("--xml", options->xml, "XML");

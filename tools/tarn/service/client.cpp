@@ -1,6 +1,8 @@
 #include "tools/tarn/service/client.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -39,8 +41,12 @@ std::uint32_t Deadline::left_ms() const {
     return left.count() > 0 ? static_cast<std::uint32_t>(left.count()) : 0;
 }
 
-Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits)
-    : name_(printable(endpoint.text())), deadline_(deadline), limits_(limits) {
+Connection::Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits,
+                       WhileWaiting while_waiting)
+    : name_(printable(endpoint.text())),
+      deadline_(deadline),
+      limits_(limits),
+      while_waiting_(std::move(while_waiting)) {
     const auto open = endpoint.tcp.empty() ? mirk_platform_client_open : mirk_platform_client_open_tcp;
     const mirk_platform_error error =
         open(endpoint.text().c_str(), static_cast<std::uint32_t>(limits.frame), deadline.left_ms(), &client_);
@@ -68,11 +74,23 @@ void Connection::request(const reflect::BundleOperations &bundle, bool tracked) 
     check(error, "cannot send the request");
 }
 
+void Connection::renew(const Deadline &deadline) {
+    deadline_ = deadline;
+    received_ = 0;
+}
+
 FrameBytes Connection::receive() {
     if (deadline_.left_ms() == 0) check(ETIMEDOUT, "no complete answer");
     void *frame = nullptr;
     std::uint32_t size = 0;
-    const mirk_platform_error error = mirk_platform_client_receive(client_, &frame, &size, deadline_.left_ms());
+    mirk_platform_error error = ETIMEDOUT;
+    while (error == ETIMEDOUT && deadline_.left_ms() != 0) {
+        constexpr std::uint32_t between_calls_ms = 100;
+        const std::uint32_t left = deadline_.left_ms();
+        error = mirk_platform_client_receive(client_, &frame, &size,
+                                             while_waiting_ ? std::min(left, between_calls_ms) : left);
+        if (error == ETIMEDOUT && while_waiting_) while_waiting_();
+    }
     check(error, error == EMSGSIZE ? "a frame is longer than --frame-limit" : "no complete answer");
     received_ += size;
     if (received_ > limits_.answer) check(EMSGSIZE, "the answer is longer than --answer-limit");

@@ -33,15 +33,21 @@ struct AnswerLimits {
     std::uint64_t frame = 16 << 20, answer = 256 << 20;
 };
 
+// Called ten times a second while a connection waits for a frame. What it throws ends the waiting.
+using WhileWaiting = std::function<void()>;
+
 class Connection {
 public:
-    Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits);
+    Connection(const Endpoint &endpoint, const Deadline &deadline, const AnswerLimits &limits,
+               WhileWaiting while_waiting = nullptr);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
     ~Connection() { mirk_platform_client_close(client_); }
 
     const std::string &name() const { return name_; }  // printable
     void request(const reflect::BundleOperations &bundle, bool tracked);
+    // For another request. Limits apply to each answer.
+    void renew(const Deadline &deadline);
     // One whole frame, valid until the next call. Throws a Failure if the frame or the whole answer exceeds its limit,
     // and at the deadline even if frames are ready.
     FrameBytes receive();
@@ -52,6 +58,7 @@ private:
     std::string name_;
     Deadline deadline_;
     AnswerLimits limits_;
+    WhileWaiting while_waiting_;
     std::uint64_t received_ = 0;
     mirk_platform_client *client_ = nullptr;
 };
