@@ -55,15 +55,18 @@ std::string bare_elements(std::size_t size) {
         must({"encode", "--tracked"},
              "<lumo_tarn_cl_cfg_msg><lumo_tarn_cl_cfg_data></lumo_tarn_cl_cfg_data></lumo_tarn_cl_cfg_msg>");
     const std::string dissection = must({"dissect"}, frame);
-    const auto offset_of = [&](const std::string &path) {
-        return std::stoul(dissection.substr(dissection.rfind('\n', dissection.find(" " + path + " ")) + 1));
+    // Each of them is inside the one before.
+    std::size_t line = 0;
+    const auto offset_of = [&](const std::string &name) {
+        line = dissection.find(" " + name + " ", line);
+        return std::stoul(dissection.substr(dissection.rfind('\n', line) + 1));
     };
-    const std::string list = "payload.global_info.lumo_info_list";
-    const std::size_t elements = size / 7, added = 7 * elements + 1, count = offset_of(list + ".num_lumos");
-    for (const std::string &outer : {std::string("payload"), std::string("payload.global_info"), list}) {
-        const std::size_t jump = offset_of(outer + ".jump");
+    const std::size_t elements = size / 7, added = 7 * elements + 1;
+    for (const char *const outer : {"payload", "global_info", "lumo_info_list"}) {
+        const std::size_t jump = offset_of(outer) + 2;  // after variant and flag
         put_number(frame, jump, number_at(frame, jump) + added);
     }
+    const std::size_t count = offset_of("num_lumos");
     put_number(frame, count, elements);
     frame.insert(count + 4, repeated(std::string("\x80\0\0\0\0\4", 6), 6 * elements) + std::string(1 + elements, '\0'));
     put_number(frame, 12, frame.size());

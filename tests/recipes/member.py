@@ -100,6 +100,6 @@ TOOL = [
     ("generate dp-mp-tc-cfg --form json", '"idle_limit":'),
     ("encode examples/dp_mp_tc_cfg.xml -o build/frames", ""),
     ("decode --json build/frames", '"idle_limit":0'),
-    ("dissect build/frames", "tc_list[0].idle_limit"),
+    ("dissect build/frames", " idle_limit "),
     ("view build/frames", '"idle_limit":["u_int16","how long the class may stay idle"]'),
 ]

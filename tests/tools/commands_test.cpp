@@ -166,9 +166,16 @@ std::size_t dumped_bytes(const std::string &dump) {
     for (std::string line; std::getline(in, line);) {
         if (line.rfind("frame at", 0) == 0) continue;
         EXPECT_EQ(std::stoul(line.substr(0, 8)), next) << line;
-        for (std::size_t at = 10; at + 1 < std::min<std::size_t>(line.size(), 34) && line[at] != ' '; at += 3) ++next;
+        for (std::size_t at = 10; at + 1 < line.size() && line[at] != ' '; at += 3) ++next;
     }
     return next;
+}
+
+std::string list_frame(unsigned elements, bool tracked) {
+    std::vector<std::string> words{"generate", "dp-mp-tc-cfg", "--elements", std::to_string(elements),
+                                   "--form",   "frames"};
+    if (tracked) words.emplace_back("--tracked");
+    return tarn(words).out;
 }
 
 TEST(Dissect, AccountsForEveryByteOfEveryMessage) {
@@ -182,11 +189,106 @@ TEST(Dissect, AccountsForEveryByteOfEveryMessage) {
     }
 }
 
-TEST(Dissect, ShowsPathKindAndValue) {
+TEST(Dissect, ShowsNameKindValueAndStateInOneLine) {
+    reference::Record payload = plain_payload(debug_message(), 1);
+    payload["info_enabled"].number = 5;
+    payload["info_enabled"].state = 2;
+    const std::string out = tarn({"dissect"}, frame(debug_message(), payload, true)).out;
+    EXPECT_NE(out.find(" 00 00 00 05 02  "), std::string::npos) << out;
+    EXPECT_NE(out.find(" info_enabled              u_int32 5 state 2\n"), std::string::npos) << out;
+}
+
+TEST(Dissect, ShowsAddressesAsText) {
+    const std::string out = tarn({"dissect"}, list_frame(4, false)).out;
+    EXPECT_NE(out.find("ip_address 10."), std::string::npos) << out;
+}
+
+TEST(Dissect, NamesTheIndexOfEachElement) {
+    const std::string out = tarn({"dissect"}, list_frame(4, true)).out;
+    for (const char *const name : {" prefix_data[0] ", " prefix_data[3] "})
+        EXPECT_NE(out.find(name), std::string::npos) << out;
+    EXPECT_NE(out.find(" prefix_data[0]            state 0 0 0 0\n"), std::string::npos) << out;
+}
+
+TEST(Dissect, WritesAtMost25BytesOfTextForAByte) {
+    for (const bool tracked : {false, true}) {
+        const std::string bytes = list_frame(40, tracked);
+        EXPECT_LT(tarn({"dissect"}, bytes).out.size(), 25 * bytes.size()) << tracked;
+    }
+}
+
+// A number of four bytes.
+std::uint32_t number_at(const std::string &bytes, std::size_t at) {
+    std::uint32_t number = 0;
+    for (const char c : bytes.substr(at, 4)) number = number << 8 | static_cast<unsigned char>(c);
+    return number;
+}
+void put_number(std::string &bytes, std::size_t at, std::size_t number) {
+    for (std::size_t i = 4; i-- != 0; number >>= 8) bytes[at + i] = static_cast<char>(number);
+}
+
+// A frame with a list of elements that have no members.
+std::string frame_of_empty_elements(std::size_t elements) {
+    std::string frame = tarn({"encode"},
+                             "<lumo_tarn_cl_cfg_msg><lumo_tarn_cl_cfg_data></lumo_tarn_cl_cfg_data>"
+                             "</lumo_tarn_cl_cfg_msg>")
+                            .out;
+    const std::string dump = tarn({"dissect"}, frame).out;
+    std::size_t line = 0;
+    const auto offset_of = [&](const std::string &name) {
+        line = dump.find(" " + name + " ", line);
+        return std::stoul(dump.substr(dump.rfind('\n', line) + 1));
+    };
+    for (const char *const outer : {"payload", "global_info", "lumo_info_list"}) {
+        const std::size_t jump = offset_of(outer) + 2;  // after variant and flag
+        put_number(frame, jump, number_at(frame, jump) + 6 * elements);
+    }
+    const std::size_t count = offset_of("num_lumos");
+    put_number(frame, count, elements);
+    std::string all;
+    for (std::size_t i = 0; i < elements; ++i) all.append("\x80\0\0\0\0\4", 6);
+    frame.insert(count + 4, all);
+    put_number(frame, 12, frame.size());
+    return frame;
+}
+
+TEST(Dissect, NeedsMemoryForItsInputOnly) {
+    if (*TARN_SANITIZE != 0) GTEST_SKIP() << "sanitizers need terabytes of addresses";
+    const Directory directory;
+    const std::string bytes = frame_of_empty_elements(300000);
+    const std::string file = directory.write("frame.bin", bytes);
+    for (const std::string form : {"", "--json"}) {
+        const std::vector<std::string> words{"-c", R"(ulimit -v 100000 && exec "$@" >/dev/null)", "sh", tool(),
+                                             "dissect"};
+        std::vector<std::string> all = words;
+        if (!form.empty()) all.push_back(form);
+        all.push_back(file);
+        const Outcome outcome = run("/bin/sh", all);
+        EXPECT_EQ(outcome.exit, 0) << form << outcome.err;
+    }
+}
+
+TEST(Dissect, WritesAnObjectAFrameAsJson) {
     const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), true);
-    const Outcome outcome = tarn({"dissect", "--json"}, bytes);
-    EXPECT_NE(outcome.out.find("\"path\": \"payload.info_enabled.state\""), std::string::npos) << outcome.out;
-    EXPECT_NE(outcome.out.find("\"kind\": \"u_int32\""), std::string::npos) << outcome.out;
+    const Outcome outcome = tarn({"dissect", "--json"}, bytes + bytes);
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    EXPECT_EQ(occurrences(outcome.out, "\n"), 2U);
+    EXPECT_EQ(outcome.out.find("{\"offset\":0,\"parts\":[{\"name\":\"header\","), 0U) << outcome.out;
+    EXPECT_NE(outcome.out.find("\n{\"offset\":69,\"parts\":["), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.out.find("{\"name\":\"payload\",\"kind\":\"lumo_tarn_debug_setting\",\"parts\":["),
+              std::string::npos);
+    EXPECT_NE(outcome.out.find("{\"name\":\"info_enabled\",\"offset\":53,\"size\":1,\"kind\":\"state\","),
+              std::string::npos);
+}
+
+TEST(Dissect, WritesABrokenFrameAsAWholeJsonObject) {
+    const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), true);
+    const Outcome outcome = tarn({"dissect", "--json"}, bytes.substr(0, 60));
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_TRUE(
+        outcome.out.ends_with("]}],\"size\":59,\"broken\":{\"offset\":59,\"path\":\"payload.warn_enabled\","
+                              "\"reason\":\"needs 4 bytes, but 1 are left\"}}\n"))
+        << outcome.out;
 }
 
 TEST(Dissect, ShowsATruncatedFrameUpToTheError) {

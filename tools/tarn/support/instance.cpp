@@ -60,6 +60,17 @@ std::string address_text(const Handle &handle, ip_address *address) {
     return std::string(element.substr(open.size(), element.size() - open.size() - close.size()));
 }
 
+std::string address_text(const Handle &handle, std::span<const std::uint64_t> members) {
+    ip_address address{};
+    address.af = static_cast<std::uint8_t>(members[0]);
+    address.prefix_len = static_cast<std::uint8_t>(members[1]);
+    address.scope = static_cast<std::uint16_t>(members[2]);
+    for (std::size_t i = 0; i < std::size(address.word); ++i) {
+        address.word[i] = static_cast<std::uint32_t>(members[3 + i]);
+    }
+    return address_text(handle, &address);
+}
+
 bool set_address(const Handle &handle, ip_address *address, const std::string &text) {
     const std::string element = "<a>" + text + "</a>";
     const Document document(mirk_platform_document_load_memory(element.data(), element.size(), nullptr));

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,8 @@ std::optional<RaData> ra_data_of(const Handle &handle, void *object);
 void set_ra_data(const Handle &handle, void *object, const RaData &data);
 
 std::string address_text(const Handle &handle, ip_address *address);
+// The same for its members.
+std::string address_text(const Handle &handle, std::span<const std::uint64_t> members);
 // False if the text is not an address.
 bool set_address(const Handle &handle, ip_address *address, const std::string &text);
 
