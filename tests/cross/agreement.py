@@ -64,6 +64,8 @@ for example in examples:
             same("decode", "frames", form)
         same("dissect", "frames")
         same("dissect", "frames", "--json")
+        (scratch / "source").write_bytes(same("dissect", "frames", "--source"))
+        same("assemble", "source")
         same("view", "frames")
         for form in "text", "json", "xml", "frames":
             same("generate", bundle, "--seed", 7, "--form", form, *tracked)

@@ -21,8 +21,9 @@ namespace {
 using namespace tarn::tool;
 using fuzz::require;
 
-constexpr void (*commands[])(CLI::App &, Context &) = {add_decode, add_encode,   add_dissect,  add_diff, add_view,
-                                                       add_schema, add_manifest, add_generate, add_rows, add_export};
+constexpr void (*commands[])(CLI::App &, Context &) = {add_decode, add_encode, add_dissect,  add_diff,
+                                                       add_view,   add_schema, add_manifest, add_generate,
+                                                       add_rows,   add_export, add_assemble};
 constexpr std::uint8_t completes = 0x80;
 
 // Leaves the process in the scratch folder, with nothing to read from standard input.

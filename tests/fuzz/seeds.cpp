@@ -16,6 +16,7 @@
 #include "reference/text.h"
 #include "sweep.h"
 #include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/source.h"
 #include "tools/tarn/formats/tables.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/support/trace.h"
@@ -111,6 +112,14 @@ void tool() {
         const Handles handles(tarn::tool::Tracking::as_input);
         const std::vector<Item> items = items_of(handles, frame, "seed", false);
         files["tool/" + table.name + "-json"] = head({0}) + rendered(items.at(0), Style::json);
+        for (const bool tracked : {false, true}) {
+            const std::string bytes =
+                text_of(reference::message_frame(table.name, fuzz::small_value(table.payload), tracked, 7));
+            std::string source;
+            write_source(tarn::tool::bytes_of(bytes), [&](std::string_view piece) { source += piece; });
+            files["source/" + table.name + form(tracked)] = head({0}) + bytes;
+            files["source/" + table.name + form(tracked) + "-text"] = head({1}) + source;
+        }
         files["json/" + table.name] = head({0}) + rendered(items.at(0), Style::json);
         files["json/" + table.name + "-lenient"] =
             head({3}) + "[" + rendered(items.at(0), Style::json) + ",\n" + rendered(items.at(0), Style::json) + "]";
@@ -168,7 +177,7 @@ void conversations() {
 }
 
 // The target numbers the commands: decode, encode, dissect, diff, view, schema, manifest,
-// generate, rows, export.
+// generate, rows, export, assemble.
 void commands() {
     const std::string debug = reference::bundles().front().name;
     const std::string message = reference::bundles().front().message;
@@ -193,6 +202,8 @@ void commands() {
     add("generate", 7, debug + "\n--seed\n3\n--elements\n2\n--form\njson\n", "");
     add("rows", 8, payload + "\ninput\n--where\nmessage=1\n--sort\n-path\n--limit\n1\n--format\ncsv\n", frames);
     add("export", 9, "input\n--sqlite\ndatabase\n", frames);
+    add("dissect-source", 2, "input\n--source\n", frames.substr(0, frames.size() - 9));
+    add("assemble", 10, "input\n-o\noutput\n", "frame " + message + " (stamp 7) { payload { ... } }");
     add("complete", 0x80, "--\n", "");
 }
 
@@ -398,6 +409,12 @@ void dictionaries() {
               "[]"});
     operators.add({"!=", "<=", ">=", "=", "<", ">", "~", " in ", "0x", "true", "unset", "::/0", "10.0.0.0/8", "file",
                    "message", "bundle", "path"});
+    Dictionary source;
+    source.add({"frame", "payload",      "start",      "ui_req_msg",   "options", "bundle",   "sttr",
+                "stamp", "total_length", "zero",       "variant",      "flag",    "ra_value", "ra_byte",
+                "jump",  "count",        "length",     "state",        "states",  "parts",    "none",
+                "true",  "unset",        "10.0.0.0/8", "fe80::1%1/64", "2*3",     "...",      "\\x00",
+                "0x",    "-128",         "{ }",        "[ ]",          "<00>",    "# \n"});
     const Dictionary frames = identities() + numbers();
     const std::map<std::string, Dictionary> of_targets = {
         {"frame", frames},
@@ -409,6 +426,7 @@ void dictionaries() {
         {"xml", names() + markup},
         {"json", names() + json},
         {"where", names() + operators},
+        {"source", names() + source + frames},
         {"tool", names() + identities() + markup + json},
         {"command", names() + identities() + options()},
         {"streams", frames + pieces()},
@@ -423,7 +441,7 @@ void dictionaries() {
 void fuzzer_options() {
     const std::string all = "[libfuzzer]\ntimeout = 300\nreport_slow_units = 3600\nrss_limit_mb = 2048\nentropic = 0\n";
     for (const char *target : {"frame", "bundle", "xml", "calls", "differential", "allocation", "operations", "tool",
-                               "json", "where", "streams", "answers"}) {
+                               "json", "where", "source", "streams", "answers"}) {
         files[std::string(target) + ".options"] = all + "max_len = 4096\n";
     }
     // The conversation of a longer input takes too long.

@@ -125,6 +125,9 @@ def cases(tarn):
     yield 'dissect: messages', ['dissect'], frames(tarn, *small)
     yield 'dissect: a list', ['dissect'], one_frame(tarn, *list_frame)
     yield 'dissect --json: a list', ['dissect', '--json'], one_frame(tarn, *list_frame)
+    yield 'dissect --source: a list', ['dissect', '--source'], one_frame(tarn, *list_frame)
+    yield 'assemble: elements', ['assemble'], filled('frame cl-cfg { payload { global_info { lumo_info_list { lumo_info [',
+                                                     '{ ... }\n', '] } } } }')
     yield 'view: messages', ['view', '-o', '/dev/null'], frames(tarn, *small)
     yield 'view: a list', ['view', '-o', '/dev/null'], one_frame(tarn, *list_frame)
     yield 'diff: a list', ['diff', '/dev/stdin'], one_frame(tarn, *list_frame)

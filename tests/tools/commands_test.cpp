@@ -31,8 +31,8 @@ TEST_P(EveryCommand, RefusesAnUnknownOption) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, EveryCommand,
-                         testing::Values("answer", "show", "decode", "encode", "dissect", "diff", "schema", "manifest",
-                                         "generate", "record", "view", "watch", "probe"),
+                         testing::Values("answer", "show", "decode", "encode", "dissect", "assemble", "diff", "schema",
+                                         "manifest", "generate", "record", "view", "watch", "probe"),
                          [](const auto &info) { return info.param; });
 
 // The user may be root.

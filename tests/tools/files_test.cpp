@@ -116,6 +116,7 @@ TEST(Files, StandardOutputIsCheckedToItsEnd) {
              {"decode", frames, "--bundles"},
              {"dissect", frames},
              {"dissect", frames, "--json"},
+             {"dissect", frames, "--source"},
              {"diff", frames, one},
              {"view", frames},
              {"manifest", TARN_LIBRARY},

@@ -64,6 +64,7 @@ TEST(Printable, ArgumentsOfEveryCommand) {
         {"encode", hostile},
         {"encode", "-", "--bundle", hostile},
         {"dissect", hostile},
+        {"assemble", hostile},
         {"diff", hostile, hostile},
         {"view", hostile},
         {"schema", hostile},
@@ -83,7 +84,7 @@ TEST(Printable, NamesOfFiles) {
     const Directory directory;
     const std::string bad = directory.write("bad\x1b[31m\ntarn: forged\u202e", "{]");
     const std::string good = directory.write("good\x1b[31m\ntarn: forged\u202e", frame_with("x"));
-    for (const std::string command : {"decode", "encode", "dissect", "view", "manifest"}) {
+    for (const std::string command : {"decode", "encode", "dissect", "assemble", "view", "manifest"}) {
         const Outcome outcome = printable_run({command, bad});
         EXPECT_NE(outcome.err.find("\\x1b[31m\\x0atarn: forged\\u202e"), std::string::npos) << outcome.err;
     }
@@ -145,6 +146,7 @@ TEST(Printable, OutputOfEveryForm) {
              {"decode", "--json", a},
              {"dissect", a},
              {"dissect", "--json", a},
+             {"dissect", "--source", a},
              {"diff", a, b},
              {"diff", a, b, "--json"},
              {"view", a},

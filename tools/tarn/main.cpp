@@ -44,6 +44,7 @@ int run(int argc, char **argv) {
     add_dissect(app, context);
     add_rows(app, context);
     add_export(app, context);
+    add_assemble(app, context);
     add_diff(app, context);
     add_view(app, context);
     add_schema(app, context);

@@ -23,6 +23,7 @@ void add_answer(CLI::App &app, Context &context);
 void add_show(CLI::App &app, Context &context);
 void add_decode(CLI::App &app, Context &context);
 void add_encode(CLI::App &app, Context &context);
+void add_assemble(CLI::App &app, Context &context);
 void add_dissect(CLI::App &app, Context &context);
 void add_diff(CLI::App &app, Context &context);
 void add_view(CLI::App &app, Context &context);

@@ -163,8 +163,10 @@ void Dissector::walk_header_part(const Part &part) {
 void Dissector::walk_request() {
     const RequestText text = request_text(number(1, "options", "u_int8"));
     if (text.refused) number(4, "number", "u_int32");
-    const auto length = number(1, text.length_name(), "length", Field::Kind::length);
-    add(take(Field::Kind::text, length, {text.name()}, "text"));
+    Field length = take(Field::Kind::length, 1, {text.length_name()}, "length");
+    length.words = text.name();
+    add(length);
+    add(take(Field::Kind::text, length.number, {text.name()}, "text"));
 }
 
 void Dissector::walk_frame() {

@@ -40,7 +40,7 @@ struct Field {
     std::size_t offset;
     FrameBytes bytes;
     std::uint64_t number = 0;                // their value if there are no more than 8
-    std::string_view words = {};             // what a luid identifies, and what is wrong with a constant
+    std::string_view words = {};             // what a luid identifies, or what is wrong with a constant
     const schema::Member *member = nullptr;  // null for parts of frames
     const schema::Record *record = nullptr;  // for a variant: which begins there; null for a boolean or an enumeration
 };
@@ -82,7 +82,7 @@ public:
     virtual void open(const Group &) {}
     virtual void field(const Field &) {}
     virtual void close() {}
-    // A jump that contradicts the members. True continues behind the members.
+    // A jump that contradicts the members. True: the walk continues after the members.
     virtual bool ignores_jumps() const { return false; }
 };
 
