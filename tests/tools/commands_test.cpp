@@ -268,6 +268,15 @@ TEST(Dissect, NeedsMemoryForItsInputOnly) {
     }
 }
 
+TEST(View, NeedsMemoryForItsPageOnly) {
+    if (*TARN_SANITIZE != 0) GTEST_SKIP() << "sanitizers need terabytes of addresses";
+    const Directory directory;
+    const std::string file = directory.write("frame.bin", frame_of_empty_elements(300000));
+    const Outcome outcome =
+        run("/bin/sh", {"-c", R"(ulimit -v 100000 && exec "$0" view "$1" >/dev/null)", tool(), file});
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+}
+
 TEST(Dissect, WritesAnObjectAFrameAsJson) {
     const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), true);
     const Outcome outcome = tarn({"dissect", "--json"}, bytes + bytes);

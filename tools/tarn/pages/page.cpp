@@ -18,9 +18,15 @@ std::string escaped(std::string_view text) {
 
 // JSON inside a script element must not contain the end tag of the element or the start of a comment.
 std::string escaped_json(const nlohmann::ordered_json &data) {
+    const std::string text = data.dump(-1, ' ', true, nlohmann::ordered_json::error_handler_t::replace);
     std::string out;
-    for (const char c : data.dump(-1, ' ', true, nlohmann::ordered_json::error_handler_t::replace)) {
-        out += c == '<' ? "\\u003c" : std::string(1, c);
+    out.reserve(text.size());
+    for (std::size_t from = 0;;) {
+        const std::size_t at = text.find('<', from);
+        out.append(text, from, at - from);
+        if (at == std::string::npos) break;
+        out += "\\u003c";
+        from = at + 1;
     }
     return out;
 }

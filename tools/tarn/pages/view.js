@@ -172,8 +172,8 @@ function childAt(node, i) {
     const shape = node.shape[s];
     if (!shape || i >= shape.elements) return;
     put(child, s, shapes[shape.inner[i]], node.at[s] + shape.offsets[i]);
-    const state = shape.elements + 1 + i;
-    if (state < shape.inner.length) child.state[s] = {at: node.at[s] + shape.offsets[state], shape: shapes[shape.inner[state]]};
+    const k = shape.elements + 1 + i, at = node.at[s] + shape.offsets[k];
+    if (k < shape.inner.length) child.state[s] = {at, shape: shapes[shape.inner[k]]};
   });
   if (isOneSided(node)) markOneSided(child);
   return child;
@@ -198,8 +198,8 @@ const sizeOf = node => Math.max(...node.shape.map(shape => shape ? shape.element
 const steps = path => path.match(/\[[^\]]*\]|[^.[]+/g) || [];
 
 function bytesOfBase64(text) {
-  const values = new Uint8Array(128);
-  [...'ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/'].forEach((c, i) => values[c.charCodeAt(0)] = i);
+  const letters = 'ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/', values = new Uint8Array(128);
+  for (let i = 0; i < letters.length; ++i) values[letters.charCodeAt(i)] = i;
   const bytes = new Uint8Array(text.length / 4 * 3), value = i => values[text.charCodeAt(i)];
   for (let from = 0, to = 0; from < text.length; from += 4) {
     const bits = value(from) << 18 | value(from + 1) << 12 | value(from + 2) << 6 | value(from + 3);
@@ -327,7 +327,8 @@ function fill(row, node) {
     text(row, valueClass(pieceOf(node, a === null ? 1 : 0).shape.kind, a || b), a || b);
   }
   const size = bytesOf(node, isOn(node, 0) ? 0 : 1).reduce((sum, r) => sum + r[1] - r[0], 0);
-  if (node.isArray || list(node).some(c => !c.structural)) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
+  const hasMembers = node.isArray || list(node).some(c => !c.structural);
+  if (hasMembers) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
   const state = childOf(node, '@state');
   if (state) {
     const values = [valueOf(state, 0), valueOf(state, 1)].filter(v => v !== null);
@@ -784,10 +785,9 @@ function showHits() {
 }
 
 function showFound() {
-  const what = element('search').value.trim() ? '' : two ? ' changes' : '';
-  element('found').textContent = !what && !element('search').value.trim() ? ''
-    : (current >= 0 ? current + 1 + ' of ' : '') + order.length + (scan ? '\u2026' : order.length === most ? ' or more' : '') +
-      what;
+  const searched = element('search').value.trim(), front = current >= 0 ? current + 1 + ' of ' : '';
+  const more = scan ? '\u2026' : order.length === most ? ' or more' : '';
+  element('found').textContent = searched || two ? front + order.length + more + (searched ? '' : ' changes') : '';
 }
 
 function step(by) {

@@ -17,11 +17,10 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Data that both files share: shapes, names of luids, and headings of frames.
+// Data that both files share: shapes and headings of frames.
 struct Shared {
     Shapes shapes;
     ordered_json headings = ordered_json::array();
-    ordered_json luids = ordered_json::object();
 };
 
 // Requests have no name and no record here.
@@ -40,25 +39,18 @@ std::size_t index_in(ordered_json &list, const ordered_json &what) {
     return index;
 }
 
-void note_luid(const Dissection &dissection, ordered_json &luids) {
-    for (const Piece &p : dissection.pieces) {
-        const std::size_t space = p.kind == "luid" ? p.value.find(' ') : std::string::npos;
-        if (space != std::string::npos) luids[p.value.substr(0, space)] = p.value.substr(space + 1);
-    }
-}
-
 // Bytes after an error appear in the dump only.
 ordered_json json_of_file(ViewedFile &file, Shared &shared) {
     const FrameBytes all = bytes_of(file.frames);
     ordered_json json{{"name", file.name}, {"bytes", base64_of(all)}, {"frames", ordered_json::array()}};
     for (std::size_t offset = 0; offset < all.size();) {
-        const Dissection dissection = dissect_frame(all.subspan(offset), offset);
-        note_luid(dissection, shared.luids);
-        json["frames"].push_back(shared.shapes.add(dissection.pieces));
+        shared.shapes.begin();
+        const Walked walked = walk_frame(all.subspan(offset), offset, shared.shapes);
+        json["frames"].push_back(shared.shapes.end());
         json["frames"].push_back(index_in(shared.headings, heading_of(all.subspan(offset))));
-        offset += dissection.size;
-        if (!dissection.broken) continue;
-        file.broken = sentence_of(*dissection.broken);
+        offset += walked.size;
+        if (!walked.broken) continue;
+        file.broken = sentence_of(*walked.broken);
         json["broken"] = file.broken;
         break;
     }
@@ -77,7 +69,7 @@ std::string view_page(std::vector<ViewedFile> &files) {
     }
     data["shapes"] = shared.shapes.json();
     data["headings"] = shared.headings;
-    data["luids"] = shared.luids;
+    data["luids"] = shared.shapes.luids();
     const ordered_json schema = schema_json();
     for (const auto &e : schema.at("enumerations")) {
         data["enumerations"][e.at("name").get<std::string>()] = e.at("enumerators");
