@@ -54,7 +54,7 @@ public:
 
 private:
     struct Key {
-        Field field;
+        RowField field;
         bool descends;
     };
     struct Sorted {
@@ -81,9 +81,9 @@ private:
     std::vector<Sorted> lines_;
 };
 
-std::vector<Field> chosen(const Instances &instances, const std::vector<std::string> &names) {
+std::vector<RowField> chosen(const Instances &instances, const std::vector<std::string> &names) {
     if (names.empty()) return instances.fields();
-    std::vector<Field> fields;
+    std::vector<RowField> fields;
     for (const std::string &name : names) fields.push_back(instances.field(name, "--columns"));
     return fields;
 }
@@ -94,7 +94,7 @@ struct LimitReached {};
 Exit run_rows(const RowsOptions &options) {
     const Instances instances(*table_named(options.record).record);
     const RowStyle style = row_styles.at(options.format);
-    const std::vector<Field> fields = chosen(instances, options.columns);
+    const std::vector<RowField> fields = chosen(instances, options.columns);
     std::vector<Condition> conditions;
     for (const std::string &text : options.where) conditions.push_back(condition(text, instances));
     Sorter sorter(instances, options.sort, options.limit);
@@ -117,7 +117,7 @@ Exit run_rows(const RowsOptions &options) {
     try {
         exit = for_each_item(options.input, [&](Entry &entry) {
             if (!entry.item.message) return;
-            const Source source{entry.file, entry.number, entry.bundle};
+            const Origin source{entry.file, entry.number, entry.bundle};
             instances.visit(source, *entry.item.message, add);
         });
     } catch (const LimitReached &) {

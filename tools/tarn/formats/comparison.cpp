@@ -97,20 +97,21 @@ Way way_to(const schema::Record &from, std::string_view path) {
     return record == nullptr ? way : Way{};
 }
 
-struct KeyPart {
+struct ElementKeyPart {
     std::string name;
     Way way;
 };
 
 // Empty if the record lacks one of the members.
-std::vector<KeyPart> key_of(const schema::Record &record, const auto &names) {
-    std::vector<KeyPart> key;
+std::vector<ElementKeyPart> key_of(const schema::Record &record, const auto &names) {
+    std::vector<ElementKeyPart> key;
     for (const auto &name : names) key.push_back({std::string(name), way_to(record, name)});
-    const bool lacks_one = std::any_of(key.begin(), key.end(), [](const KeyPart &part) { return part.way.empty(); });
-    return lacks_one ? std::vector<KeyPart>{} : key;
+    const bool lacks_one =
+        std::any_of(key.begin(), key.end(), [](const ElementKeyPart &part) { return part.way.empty(); });
+    return lacks_one ? std::vector<ElementKeyPart>{} : key;
 }
 
-std::vector<KeyPart> key_of(const schema::Record &record, const ComparisonRules &rules) {
+std::vector<ElementKeyPart> key_of(const schema::Record &record, const ComparisonRules &rules) {
     for (const std::string &by : rules.by) {
         if (auto key = key_of(record, split(by, ',')); !key.empty()) return key;
     }
@@ -165,12 +166,12 @@ struct Side {
     ordered_json variant() const { return variant_of(object) < 0 ? ordered_json(variant_of(object)) : ordered_json(); }
 };
 
-struct Value {
+struct MemberValue {
     const schema::Member *member;
     ordered_json json;
 };
 
-Value value_at(const RecordOperations &operations, Side side, const Way &way) {
+MemberValue value_at(const RecordOperations &operations, Side side, const Way &way) {
     const RecordOperations *record = &operations;
     for (std::size_t i = 0; i + 1 < way.size(); ++i) {
         const MemberOperations &m = record->members[way[i]];
@@ -241,7 +242,7 @@ struct Comparison::Plan {
 
     const RecordOperations &record;
     std::vector<Step> steps;
-    std::vector<KeyPart> key;  // of an element; empty if its content identifies it
+    std::vector<ElementKeyPart> key;  // of an element; empty if its content identifies it
     bool compares_header;
 };
 
@@ -404,7 +405,7 @@ private:
 
     void add_identity(const Plan &plan, const Side &element, std::string &text) const {
         if (plan.key.empty()) return add_content(plan, element, text);
-        for (const KeyPart &part : plan.key) {
+        for (const ElementKeyPart &part : plan.key) {
             const MemberOperations &m = plan.record.members[part.way.back()];
             const bool is_number = part.way.size() == 1 && schema::is_integer(m.member->kind);
             text +=
@@ -482,11 +483,11 @@ private:
         std::string with_members, text;
     };
     static ElementName name_of(const Level &level) {
-        const std::vector<KeyPart> &key = level.element->key;
+        const std::vector<ElementKeyPart> &key = level.element->key;
         if (key.empty()) return {std::to_string(level.index), "[" + std::to_string(level.index) + "]"};
         ElementName name;
-        for (const KeyPart &part : key) {
-            const Value value = value_at(level.element->record, level.side, part.way);
+        for (const ElementKeyPart &part : key) {
+            const MemberValue value = value_at(level.element->record, level.side, part.way);
             const std::string text = text_of(*value.member, value.json), comma = &part == &key.front() ? "" : ",";
             name.with_members += comma + part.name + "=" + text;
             name.text += comma + text;

@@ -35,7 +35,7 @@ public:
         skip_blanks();
         const std::string_view name = take(std::min(text_.find_first_not_of(name_characters, at_), text_.size()) - at_);
         if (name.empty()) fail("expected a column");
-        const Field field = instances_.field(name, place(at_ - name.size()));
+        const RowField field = instances_.field(name, place(at_ - name.size()));
         skip_blanks();
         const std::string_view op = take_operator();
         skip_blanks();
@@ -72,7 +72,7 @@ private:
         fail("expected one of = != < <= > >= ~ in");
     }
 
-    Condition compares(const Field &field, std::string_view op) const {
+    Condition compares(const RowField &field, std::string_view op) const {
         const Sortable wanted = wanted_of(*field.member);
         const bool is_truth = field.member->kind == schema::Kind::boolean;
         const auto compared = [field, wanted, is_truth](const Instance &instance, const auto &holds) {
@@ -145,7 +145,7 @@ private:
         return address;
     }
 
-    Condition within(const Field &field) const {
+    Condition within(const RowField &field) const {
         if (field.member->kind != schema::Kind::address) fail(field.name + " is not an address");
         const ip_address prefix = address();
         if (prefix.prefix_len > (prefix.af == AF_INET ? 32 : 128)) fail("the prefix is longer than the address");
@@ -161,7 +161,7 @@ private:
         };
     }
 
-    Condition contains(const Field &field) const {
+    Condition contains(const RowField &field) const {
         return [field, part = std::string(value_)](const Instance &instance) {
             std::string text;
             append_shown(text, instance.handle(), *field.member, instance.value(field));

@@ -96,7 +96,7 @@ Database::Insertion &Database::insertion(const Table &table) {
     return insertion;
 }
 
-void Database::add(const Source &source, const Message &message) {
+void Database::add(const Origin &source, const Message &message) {
     if (files_ == 0 || source.file != file_name_) {
         file_name_ = source.file;
         Call(*this, add_file_.get()).integer(++files_).text(file_name_).run();

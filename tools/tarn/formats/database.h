@@ -19,7 +19,7 @@ public:
     // The file gets its name when the database is finished.
     explicit Database(const std::string &path);
 
-    void add(const Source &source, const Message &message);
+    void add(const Origin &source, const Message &message);
     void finish();
 
     bool is_empty() const { return messages_ == 0; }

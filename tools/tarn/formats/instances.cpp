@@ -19,22 +19,22 @@ constexpr schema::Member places[] = {
 
 }  // namespace
 
-Value Instance::value(const Field &field) const {
+Value Instance::value(const RowField &field) const {
     switch (field.from) {
-        case Field::From::file:
+        case RowField::From::file:
             return source_.file;
-        case Field::From::message:
+        case RowField::From::message:
             return std::uint64_t{source_.number};
-        case Field::From::bundle:
+        case RowField::From::bundle:
             if (source_.bundle == nullptr) return {};
             return source_.bundle->bundle->name;
-        case Field::From::path:
+        case RowField::From::path:
             return path();
-        case Field::From::key: {
+        case RowField::From::key: {
             const Row *const row = around(field.table);
             return row != nullptr ? field.column->read(row->instance) : Value();
         }
-        case Field::From::member:
+        case RowField::From::member:
             break;
     }
     return field.column->read(object_);
@@ -61,13 +61,13 @@ const Row *Instance::around(const Table *table) const {
 
 Instances::Instances(const schema::Record &record) {
     for (std::size_t i = 0; i < std::size(places); ++i) {
-        fields_.push_back({std::string(places[i].name), &places[i], static_cast<Field::From>(i)});
+        fields_.push_back({std::string(places[i].name), &places[i], static_cast<RowField::From>(i)});
     }
     for (const KeyColumn &k : keys_around(record)) {
-        fields_.push_back({k.name(), k.column->member, Field::From::key, k.column, k.table});
+        fields_.push_back({k.name(), k.column->member, RowField::From::key, k.column, k.table});
     }
     for (const Column &c : table_of(record).columns) {
-        fields_.push_back({c.name, c.member, Field::From::member, &c});
+        fields_.push_back({c.name, c.member, RowField::From::member, &c});
     }
     for (const Table &table : tables()) {
         occurrences_[&table] = occurrences(table, record);
@@ -77,12 +77,12 @@ Instances::Instances(const schema::Record &record) {
     }
 }
 
-const Field &Instances::field(std::string_view name, const std::string &where) const {
-    for (const Field &f : fields_) {
+const RowField &Instances::field(std::string_view name, const std::string &where) const {
+    for (const RowField &f : fields_) {
         if (f.name == name) return f;
     }
     std::vector<std::string> names;
-    for (const Field &f : fields_) names.push_back(f.name);
+    for (const RowField &f : fields_) names.push_back(f.name);
     std::string help = suggestion(name, names);
     if (help.empty()) {
         help = "; there are ";
@@ -91,7 +91,7 @@ const Field &Instances::field(std::string_view name, const std::string &where) c
     throw Failure(Exit::input, where + ": unknown column " + in_quotes(name) + help);
 }
 
-void Instances::visit(const Source &source, const Message &message,
+void Instances::visit(const Origin &source, const Message &message,
                       const std::function<void(const Instance &)> &visit) const {
     for_each_row(
         message, [&](const List &list) { return entered_.contains(&list); },

@@ -16,14 +16,14 @@
 namespace tarn::tool {
 
 // Where a message was found.
-struct Source {
+struct Origin {
     std::string_view file;
     std::size_t number;                       // of the message in the file, from 1
     const reflect::BundleOperations *bundle;  // null outside bundles
 };
 
 // A column of these rows: first where the instance was found, then the keys of the records around it, then its members.
-struct Field {
+struct RowField {
     enum class From : std::uint8_t { file, message, bundle, path, key, member };
 
     std::string name;
@@ -36,17 +36,17 @@ struct Field {
 // One of these rows, while it is visited.
 class Instance {
 public:
-    Instance(const Source &source, const Handle &handle, const Row &row, const Occurrence &occurrence, void *object)
+    Instance(const Origin &source, const Handle &handle, const Row &row, const Occurrence &occurrence, void *object)
         : source_(source), handle_(handle), row_(row), occurrence_(occurrence), object_(object) {}
 
     const Handle &handle() const { return handle_; }
-    Value value(const Field &field) const;  // text is valid until the next call
+    Value value(const RowField &field) const;  // text is valid until the next call
 
 private:
     std::string_view path() const;
     const Row *around(const Table *table) const;
 
-    const Source &source_;
+    const Origin &source_;
     const Handle &handle_;
     const Row &row_;
     const Occurrence &occurrence_;
@@ -58,14 +58,14 @@ class Instances {
 public:
     explicit Instances(const schema::Record &record);
 
-    const std::vector<Field> &fields() const { return fields_; }
+    const std::vector<RowField> &fields() const { return fields_; }
     // The field of that name. Throws a Failure if there is none; `where` is what names it.
-    const Field &field(std::string_view name, const std::string &where) const;
+    const RowField &field(std::string_view name, const std::string &where) const;
     // Visits the instances in the message, in its order.
-    void visit(const Source &source, const Message &message, const std::function<void(const Instance &)> &visit) const;
+    void visit(const Origin &source, const Message &message, const std::function<void(const Instance &)> &visit) const;
 
 private:
-    std::vector<Field> fields_;
+    std::vector<RowField> fields_;
     std::map<const Table *, std::vector<Occurrence>> occurrences_;
     std::set<const List *> entered_;
 };

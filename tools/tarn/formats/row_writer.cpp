@@ -17,7 +17,7 @@ using schema::Member;
 
 // The widths of a table are those of its first lines, so that it needs no more memory than they do.
 constexpr std::size_t lines_that_decide = 1000;
-constexpr std::size_t piece_size = 65536;
+constexpr std::size_t flush_size = 65536;
 
 bool is_plain(std::string_view text) {
     return std::all_of(text.begin(), text.end(),
@@ -28,12 +28,12 @@ bool is_number(const Member &member) {
     return category(member.kind) == Category::integer && member.notation == schema::Notation::decimal;
 }
 
-void append_json(std::string &out, const Field &field, const Value &value, const std::string &shown) {
+void append_json(std::string &out, const RowField &field, const Value &value, const std::string &shown) {
     const Kind kind = field.member->kind;
     // A truth value or an enumerator without a name is a number.
     const bool has_word = shown.empty() || shown.front() < '0' || shown.front() > '9';
     const bool is_bare = kind == Kind::boolean || (kind == Kind::enumeration && !has_word) ||
-                         field.from == Field::From::message ||
+                         field.from == RowField::From::message ||
                          (is_number(*field.member) && greatest(kind) <= UINT32_MAX);
     if (value.index() == 0) {
         out += "null";
@@ -78,10 +78,10 @@ void for_each_cell(std::string_view line, const std::function<void(std::size_t, 
 
 }  // namespace
 
-std::string line_of(RowStyle style, const std::vector<Field> &fields, const Instance &instance) {
+std::string line_of(RowStyle style, const std::vector<RowField> &fields, const Instance &instance) {
     const char separator = style == RowStyle::csv || style == RowStyle::jsonl ? ',' : '\t';
     std::string line, shown;
-    for (const Field &field : fields) {
+    for (const RowField &field : fields) {
         if (&field != &fields.front()) line += separator;
         const Value value = instance.value(field);
         shown.clear();
@@ -96,10 +96,10 @@ std::string line_of(RowStyle style, const std::vector<Field> &fields, const Inst
     return style == RowStyle::jsonl ? "{" + line + "}" : line;
 }
 
-RowWriter::RowWriter(RowStyle style, const std::vector<Field> &fields, Write write)
+RowWriter::RowWriter(RowStyle style, const std::vector<RowField> &fields, Write write)
     : style_(style), write_(std::move(write)), widths_(fields.size()) {
     std::string header;
-    for (const Field &field : fields) {
+    for (const RowField &field : fields) {
         is_number_.push_back(is_number(*field.member));
         header += (header.empty() ? "" : style == RowStyle::csv ? "," : "\t") + field.name;
     }
@@ -118,7 +118,7 @@ void RowWriter::add(std::string_view line) {
         out_ += line;
         out_ += style_ == RowStyle::csv ? "\r\n" : "\n";
     }
-    flush(piece_size);
+    flush(flush_size);
 }
 
 void RowWriter::align() {
