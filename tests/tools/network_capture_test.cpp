@@ -106,8 +106,8 @@ TEST(NetworkCapture, MissingSegmentsAreNamedAndTheFramesAroundThemAreRead) {
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_EQ(outcome.out, "# " + answer_of_client + "\n" + texts(0, 2) + texts(4, 6));
     for (const std::string &words : {"(" + answer_of_client + "): 60 bytes after byte 140 are missing\n",
-                                    "(" + answer_of_client + "): frame at offset 130: 10 bytes are left",
-                                    "(" + answer_of_client + ", from byte 200): frame at offset 0: not a frame"}) {
+                                     "(" + answer_of_client + "): frame at offset 130: 10 bytes are left",
+                                     "(" + answer_of_client + ", from byte 200): frame at offset 0: not a frame"}) {
         EXPECT_NE(outcome.err.find(words), std::string::npos) << words << "\n" << outcome.err;
     }
 }

@@ -14,7 +14,7 @@ std::size_t compare_sequences(const Handles &handles, Comparison &comparison, co
                               const MessagePairs::Next &b,
                               const std::function<void(Change &, std::size_t number)> &report);
 
-// Puts the message in front of the place of a change: "message 2, class 1003".
+// Puts the message before the place of a change: "message 2, class 1003".
 void name_message(Change &change, std::size_t number);
 
 }  // namespace tarn::tool

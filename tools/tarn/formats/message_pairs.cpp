@@ -11,7 +11,7 @@ bool MessagePairs::Sequence::begins_with_bundle() {
     return !ahead || ahead->identity.is_control();
 }
 
-// The next message with its position. Starts and commits are passed over; an abort counts as a message.
+// The next message with its position. Starts and commits are skipped; an abort counts as a message.
 std::optional<std::pair<MessagePairs::Position, Version>> MessagePairs::Sequence::message(bool by_bundle) {
     for (;;) {
         std::optional<Version> version = ahead ? std::exchange(ahead, std::nullopt) : next();

@@ -36,8 +36,8 @@ public:
     // contains whole pieces only, even if the disk is full.
     void append(std::string_view piece);
     bool is_empty() const { return size_ == 0; }
-    // The file until it is published, for a writer that opens it by name. Throws a Failure for devices, pipes and standard
-    // output.
+    // The file until it is published, for a writer that opens it by name. Throws a Failure for devices, pipes and
+    // standard output.
     const std::filesystem::path &beside();
     // Gives the file its name already while it grows.
     void publish();
