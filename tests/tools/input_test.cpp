@@ -128,6 +128,17 @@ TEST(Input, KeepGoingFindsTheNextFrameBehindWhatIsBroken) {
     }
 }
 
+TEST(Input, AFrameThatIsReadAlthoughItIsBrokenIsDecodedWithAWarning) {
+    std::string longer = good(2) + "more";
+    longer[15] = static_cast<char>(longer.size());
+    const Outcome outcome = tarn({"decode"}, good(1) + longer + good(3));
+    EXPECT_EQ(outcome.exit, 0);
+    EXPECT_EQ(outcome.out, good_text(1) + good_text(2) + good_text(3));
+    EXPECT_EQ(outcome.err,
+              "tarn: standard input: frame at offset 65: warning: it can be read, but is broken at offset 130: "
+              "4 extra bytes after the message\n");
+}
+
 TEST(Input, NoDamageOfOneByteCostsAnotherFrame) {
     const Directory directory;
     const std::string all = good(1) + good(2) + good(3);

@@ -187,6 +187,19 @@ TEST(NetworkCapture, ABrokenFileIsReportedWithItsPacket) {
     EXPECT_NE(head.err.find("standard input: truncated dump file"), std::string::npos) << head.err;
 }
 
+TEST(NetworkCapture, IsReadByTheOtherCommands) {
+    Capture capture;
+    capture.add(client, server, request("lumo_tarn_cl_debug_rsp"));
+    capture.add(server, client, messages(3), 50);
+    const Directory directory;
+    const std::string network = directory.write("capture.pcap", capture.file()),
+                      frames = directory.write("frames.bin", messages(3));
+    EXPECT_EQ(tarn({"diff", network, frames}).exit, 0);
+    EXPECT_EQ(tarn({"dissect", network}).out, tarn({"dissect", frames}).out);
+    EXPECT_EQ(tarn({"encode", network}).out, messages(3));
+    EXPECT_EQ(tarn({"rows", "debug-setting", network}).exit, 0);
+}
+
 TEST(NetworkCapture, BundlesAreReceivedOfEachConnection) {
     Capture capture;
     const std::string whole = answer(bundle(), plain_payload(message(), 3), false);

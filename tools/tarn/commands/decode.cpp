@@ -133,8 +133,15 @@ std::string heading(const std::string &connection, Style style) {
 Exit decode(const InputOptions &input, const DecodeOptions &options, const Write &write) {
     if (!options.bundles) {
         std::string connection;
-        return for_each_item(input, [&](Entry &entry) {
+        Failures warnings(true);
+        InputOptions checked = input;
+        checked.checks_frames = true;
+        return for_each_item(checked, [&](Entry &entry) {
             std::string text = rendered(entry.item, options.style());
+            if (!entry.warning.empty()) {
+                warnings.add(
+                    {Exit::success, entry.item.location + ": warning: it can be read, but is " + entry.warning});
+            }
             if (entry.connection != connection) {
                 connection = entry.connection;
                 if (options.style() != Style::json) text = heading(connection, options.style()) + text;
@@ -187,8 +194,10 @@ void add_decode(CLI::App &app, Context &context) {
         "are skipped up to the next header of a known message, and their offset,\n"
         "their number and the reason are printed. An error in JSON always ends its file.\n"
         "Malformed XML, such as an element without an end, prevents all output.\n\n"
-        "Frames are read as the library reads them, which does not detect every broken\n"
-        "frame; \"tarn dissect\" does.\n\n"
+        "The library reads some frames that are broken, such as one with bytes after its\n"
+        "message. They are decoded with a warning, which does not change the exit code.\n\n"
+        "Of a network capture, text and XML name the connection before its messages, and\n"
+        "--port chooses the connections. \"tarn rows\" prints the connection in each row.\n\n"
         "Examples:\n"
         "  tarn decode answer.bin --json\n"
         "  tarn encode examples/cl_debug.xml --bundle cl-debug | tarn decode --bundles -v\n"

@@ -39,8 +39,8 @@ std::optional<Stretch> FrameReader::next() {
     const std::uint64_t left = stream_.left(size);
     if (size <= left && keep_going_ && !is_followed(size)) {
         // Either the bytes behind it are broken, or its length.
-        const Dissection dissection = dissect_frame(bytes_of(stream_.look(size)).first(size), stretch.offset);
-        if (dissection.broken) stretch.fault = "broken at " + sentence_of(*dissection.broken);
+        const std::optional<Break> broken = error_in(bytes_of(stream_.look(size)).first(size), stretch.offset);
+        if (broken) stretch.fault = "broken at " + sentence_of(*broken);
     }
     // Of what is cut, no more than can be examined.
     const std::uint64_t wanted = size <= left ? size : std::min<std::uint64_t>(left, most_examined);

@@ -32,8 +32,12 @@ Form form_at(ByteStream &stream, bool keep_going) {
 
 class Frames : public EntryReader::Source {
 public:
-    Frames(const Handles &handles, ByteStream &stream, bool keep_going)
-        : handles_(handles), origin_(stream.name()), reader_(stream, keep_going), keep_going_(keep_going) {}
+    Frames(const Handles &handles, ByteStream &stream, const InputOptions &options)
+        : handles_(handles),
+          origin_(stream.name()),
+          reader_(stream, options.keep_going),
+          keep_going_(options.keep_going),
+          checks_(options.checks_frames) {}
 
     std::optional<Item> next() override {
         if (has_ended_) return std::nullopt;
@@ -49,17 +53,22 @@ public:
             throw Failure(Exit::input, frame_location(origin_, stretch->offset) + ": " + stretch->fault + consequence);
         }
         try {
-            return item_of(handles_, stretch->frame(), origin_);
+            Item item = item_of(handles_, stretch->frame(), origin_);
+            if (checks_) broken_ = error_in(stretch->bytes, stretch->offset);
+            return item;
         } catch (const Failure &failure) {
             throw with_cause(failure, stretch->frame());
         }
     }
 
+    std::string warning() const override { return broken_ ? "broken at " + sentence_of(*broken_) : std::string(); }
+
 private:
     const Handles &handles_;
     const std::string origin_;
     FrameReader reader_;
-    bool keep_going_, has_ended_ = false;
+    bool keep_going_, checks_, has_ended_ = false;
+    std::optional<Break> broken_;
 };
 
 class Fragments : public EntryReader::Source {
@@ -103,7 +112,7 @@ std::unique_ptr<EntryReader::Source> source_of(const Handles &handles, ByteStrea
                                                const InputOptions &options) {
     switch (form_at(stream, options.keep_going)) {
         case Form::frames:
-            return std::make_unique<Frames>(handles, stream, options.keep_going);
+            return std::make_unique<Frames>(handles, stream, options);
         case Form::xml:
             return std::make_unique<Fragments>(handles, stream, options.lenient);
         case Form::json:
@@ -115,9 +124,9 @@ std::unique_ptr<EntryReader::Source> source_of(const Handles &handles, ByteStrea
 }  // namespace
 
 Failure with_cause(const Failure &failure, const Frame &frame) {
-    const Dissection dissection = dissect_frame(frame.bytes, frame.offset);
-    if (!dissection.broken) return failure;
-    return {failure.exit(), std::string(failure.what()) + "; broken at " + sentence_of(*dissection.broken)};
+    const std::optional<Break> broken = error_in(frame.bytes, frame.offset);
+    if (!broken) return failure;
+    return {failure.exit(), std::string(failure.what()) + "; broken at " + sentence_of(*broken)};
 }
 
 EntryReader::EntryReader(const Handles &handles, ByteStream &stream, const InputOptions &options)
@@ -132,7 +141,7 @@ std::optional<Entry> EntryReader::next() {
     const bool begins = identity.is_control() && identity.control == Control::start;
     if (begins) bundle_ = identity.bundle;
     const std::size_t number = identity.is_control() ? 0 : ++number_;
-    Entry entry{std::move(*item), file_, number, bundle_};
+    Entry entry{std::move(*item), file_, number, bundle_, source_->warning()};
     if (identity.is_control() && !begins) bundle_ = nullptr;
     return entry;
 }
@@ -192,13 +201,13 @@ std::uint64_t size_of_file(const std::string &path) {
 }
 
 // A file, or what one side of a connection sent.
-struct Source {
+struct Opened {
     std::string connection;
     ByteStream stream;
 };
 
-std::vector<Source> open_sources(const std::string &path, const InputOptions &options, Failures &failures) {
-    std::vector<Source> sources;
+std::vector<Opened> open_sources(const std::string &path, const InputOptions &options, Failures &failures) {
+    std::vector<Opened> sources;
     try {
         ByteStream stream = open_input(path);
         if (options.from == From::hex || !is_capture(stream.look(enough_to_detect))) {
@@ -216,14 +225,14 @@ std::vector<Source> open_sources(const std::string &path, const InputOptions &op
 
 // Calls `read` for each file, and with a function that shows the progress.
 void for_each_source(const InputOptions &options, Failures &failures,
-                     const std::function<void(Source &, const std::function<void()> &)> &read) {
+                     const std::function<void(Opened &, const std::function<void()> &)> &read) {
     const std::vector<InputFile> files = files_of(options.paths);
     std::uint64_t before = 0, all = 0;
     for (const InputFile &file : files) all += size_of_file(file.path);
     Progress progress("reading");
     for (const InputFile &file : files) {
         const std::uint64_t size = size_of_file(file.path);
-        for (Source &source : open_sources(file.path, options, failures)) {
+        for (Opened &source : open_sources(file.path, options, failures)) {
             const auto show = [&] {
                 if (options.shows_progress) progress.at(before + std::min(source.stream.offset(), size), all);
             };
@@ -251,7 +260,7 @@ bool is_visited(Failures &failures, const Visit &visit) {
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit) {
     const Handles handles(options.tracking);
     Failures failures(true);
-    for_each_source(options, failures, [&](Source &source, const std::function<void()> &show) {
+    for_each_source(options, failures, [&](Opened &source, const std::function<void()> &show) {
         std::optional<EntryReader> reader;
         for (bool goes_on = true; goes_on; show()) {
             std::optional<Entry> entry;
@@ -274,7 +283,7 @@ Exit for_each_item(const InputOptions &options, const std::function<void(Entry &
 Exit for_each_stretch(const InputOptions &options,
                       const std::function<void(const Stretch &, const std::string &file)> &visit) {
     Failures failures(true);
-    for_each_source(options, failures, [&](Source &source, const std::function<void()> &show) {
+    for_each_source(options, failures, [&](Opened &source, const std::function<void()> &show) {
         ByteStream &stream = source.stream;
         FrameReader reader(stream, options.keep_going);
         for (bool goes_on = true; goes_on; show()) {

@@ -23,6 +23,7 @@ struct InputOptions {
     bool keep_going = false;                      // behind what is broken
     std::uint16_t port = MIRK_PLATFORM_TCP_PORT;  // of the connections in a network capture
     bool shows_progress = true;                   // on a terminal
+    bool checks_frames = false;                   // sets Entry::warning
     Tracking tracking = Tracking::as_input;
 };
 
@@ -32,6 +33,7 @@ struct Entry {
     std::string_view file;                    // as messages print it
     std::size_t number;                       // of the message in the file, from 1; 0 for a control message
     const reflect::BundleOperations *bundle;  // that contains it; null outside bundles
+    std::string warning = {};                 // what is broken in a frame that the library reads all the same
     std::string_view connection = {};         // in a network capture: "10.0.0.1:28276 to 10.0.0.2:40000"
 };
 
@@ -53,6 +55,7 @@ public:
     public:
         virtual ~Source() = default;
         virtual std::optional<Item> next() = 0;
+        virtual std::string warning() const { return {}; }  // of the last item
     };
 
 private:

@@ -1,6 +1,8 @@
 #include "tools/tarn/formats/reader.h"
 
 #include "schema/frame.h"
+#include "tools/tarn/formats/capture.h"
+#include "tools/tarn/formats/frame_reader.h"
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/hex_dump.h"
 #include "tools/tarn/formats/json.h"
@@ -26,10 +28,29 @@ std::vector<Item> from_xml(const Handles &handles, std::string_view content, con
     return items;
 }
 
+// The frames of all connections, without the requests.
+std::string frames_of_capture(ByteStream &file) {
+    Capture capture = read_capture(file, MIRK_PLATFORM_TCP_PORT);
+    if (!capture.missing.empty()) throw capture.missing.front();
+    std::string frames;
+    for (Sent &sent : capture.sent) {
+        FrameReader reader(sent.bytes, false);
+        while (const auto stretch = reader.next()) {
+            if (!stretch->fault.empty()) {
+                throw Failure(Exit::input, frame_location(sent.bytes.name(), stretch->offset) + ": " + stretch->fault);
+            }
+            if (stretch->identity) frames += chars_of(stretch->bytes);
+        }
+    }
+    return frames;
+}
+
 }  // namespace
 
 std::string read_input(const std::string &path, From from) {
-    std::string content = read_file(path);
+    ByteStream file = open_input(path);
+    if (from != From::hex && is_capture(file.look(4))) return frames_of_capture(file);
+    std::string content = file.take_rest();
     if (from == From::hex || looks_like_hex(content)) return bytes_of_hex(content, shown_path(path));
     return content;
 }

@@ -14,7 +14,8 @@ enum class Form : std::uint8_t { frames, xml, json };
 // How to take the bytes of a file: by looking at them, or as hexadecimal text.
 enum class From : std::uint8_t { detect, hex };
 
-// The content of a file; hexadecimal text is converted to the bytes that it shows.
+// The content of a file; hexadecimal text is converted to the bytes that it shows, and a network capture to the frames
+// of all connections with the default port.
 std::string read_input(const std::string &path, From from = From::detect);
 
 // Decides by the first byte that is not a blank.
