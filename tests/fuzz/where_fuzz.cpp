@@ -17,15 +17,15 @@ using namespace tarn::tool;
 using fuzz::require;
 
 // One message of each type.
-const std::vector<Item> &messages() {
+const std::vector<Entry> &messages() {
     static const Handles handles(tarn::tool::Tracking::as_input);
-    static const std::vector<Item> all = [] {
-        std::vector<Item> items;
+    static const std::vector<Entry> all = [] {
+        std::vector<Entry> entries;
         for (const reference::MessageTable &table : reference::messages()) {
             const auto frame = reference::message_frame(table.name, fuzz::small_value(table.payload), false, 0);
-            items.push_back(item_of(handles, frame_at(frame, 0, "sample"), "sample"));
+            entries.push_back({item_of(handles, frame_at(frame, 0, "sample"), "sample"), "sample", 1, nullptr});
         }
-        return items;
+        return entries;
     }();
     return all;
 }
@@ -33,12 +33,12 @@ const std::vector<Item> &messages() {
 void run(const Instances &instances, RowStyle style, std::string_view text) {
     const Condition holds = condition(text, instances);
     std::size_t size = 0;
-    RowWriter writer(style, instances.fields(), [&](std::string_view piece) { size += piece.size(); });
+    RowWriter writer(style, instances.columns(), [&](std::string_view piece) { size += piece.size(); });
     std::size_t expected = 0;
-    for (const Item &item : messages()) {
-        instances.visit({"sample", 1, nullptr}, *item.message, [&](const Instance &instance) {
+    for (const Entry &entry : messages()) {
+        instances.visit(entry, [&](const Instance &instance) {
             if (!holds(instance)) return;
-            const std::string line = line_of(style, instances.fields(), instance);
+            const std::string line = line_of(style, instances.columns(), instance);
             require(line.find('\n') == std::string::npos, "a row is one line");
             writer.add(line);
             expected += line.size();

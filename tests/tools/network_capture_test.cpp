@@ -60,6 +60,18 @@ TEST(NetworkCapture, MessagesComeWithTheirConnection) {
         << none.err;
 }
 
+TEST(NetworkCapture, RowsAndDatabasesHaveTheConnection) {
+    const Directory directory;
+    Capture capture;
+    capture.add(server, client, messages(2), 50);
+    const std::string file = directory.write("capture.pcap", capture.file()), database = directory.path("database");
+    const std::string record = message().payload;
+    EXPECT_EQ(tarn({"rows", record, file, "--format", "tsv", "--columns", "message,connection"}).out,
+              "message\tconnection\n1\t" + answer_of_client + "\n2\t" + answer_of_client + "\n");
+    EXPECT_EQ(tarn({"export", file, "--sqlite", database}).exit, 0);
+    EXPECT_NE(directory.read("database").find(answer_of_client), std::string::npos);
+}
+
 TEST(NetworkCapture, SegmentsAreReorderedAndThoseSentAgainAreReadOnce) {
     const std::string bytes = messages(4);
     for (const std::uint32_t first : {1U, 0xffffff80U}) {  // the sequence number wraps around

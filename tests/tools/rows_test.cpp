@@ -201,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{{"tc", "--columns", "id,src_prefx"},
                 "--columns: unknown column \"src_prefx\"; did you mean src_prefix?"},
         Mistake{{"tc", "--columns", "pineapples"},
-                "unknown column \"pineapples\"; there are file, message, bundle, path"},
+                "unknown column \"pineapples\"; there are file, message, connection, bundle, path"},
         Mistake{{"tc", "--sort", "-idd"}, "--sort: unknown column \"idd\"; did you mean id?"},
         Mistake{{"tc", "--where", "idd=1"}, "\"idd=1\": character 1: unknown column \"idd\"; did you mean id?"},
         Mistake{{"tc", "--where", "=1"}, "\"=1\": character 1: expected a column"},
@@ -225,6 +225,29 @@ TEST(Rows, MessagesAreNumberedInEachFile) {
     EXPECT_EQ(rows_of({"tc", a, b, "--format", "tsv", "--columns", "file,message", "--where", "id=999"}, ""),
               "file\tmessage\n" + a + "\t1\n" + a + "\t2\n" + b + "\t1\n");
 }
+
+TEST(Rows, ContinueAfterBrokenBytes) {
+    const std::string frames = tarn({"encode"}, classes).out;
+    const Outcome outcome =
+        tarn({"rows", "tc", "-k", "--format", "tsv", "--columns", "id"}, frames + "broken" + frames);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(outcome.out, "id\n999\n1000\n1001\n999\n1000\n1001\n");
+    EXPECT_NE(outcome.err.find("6 bytes are skipped"), std::string::npos) << outcome.err;
+}
+
+// A sanitizer reserves more memory than any limit.
+#ifndef TARN_SANITIZED
+TEST(Rows, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
+    const Directory directory;
+    const std::string one = directory.path("one.bin");
+    ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
+    const std::size_t lines = occurrences(tarn({"rows", "tc", one}).out, "\n") - 1;
+    // 73 MB of frames with 70 MB of memory, of which the program takes most.
+    const std::string script =
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && "$0" rows tc --columns id 2>&1) | wc -l)";
+    EXPECT_EQ(run("/bin/sh", {"-c", script, tool(), one}).out, std::to_string(280 * lines + 1) + "\n");
+}
+#endif
 
 TEST(Rows, OfAllRecordsAreWhatDecodePrints) {
     for (const bool tracked : {false, true}) {

@@ -25,8 +25,7 @@ Exit run_export(const ExportOptions &options) {
     }
     Database database(options.database);
     const Exit exit = for_each_item(options.input, [&](Entry &entry) {
-        if (!entry.item.message) return;
-        database.add({entry.file, entry.number, entry.bundle}, *entry.item.message);
+        if (entry.item.message) database.add(entry);
     });
     // Nothing replaces an existing database if nothing could be read.
     if (exit == Exit::success || !database.is_empty()) database.finish();

@@ -33,7 +33,7 @@ public:
     Sorter(const Instances &instances, const std::vector<std::string> &names, std::size_t limit) : limit_(limit) {
         for (const std::string &name : names) {
             const bool descends = name.starts_with('-');
-            keys_.push_back({instances.field(descends ? name.substr(1) : name, "--sort"), descends});
+            keys_.push_back({instances.column(descends ? name.substr(1) : name, "--sort"), descends});
         }
     }
 
@@ -41,7 +41,7 @@ public:
 
     void add(const Instance &instance, std::string line) {
         Sorted sorted{{}, lines_.size(), std::move(line)};
-        for (const Key &key : keys_) sorted.values.push_back(sortable(instance.value(key.field)));
+        for (const Key &key : keys_) sorted.values.push_back(sortable(instance.value(key.column)));
         lines_.push_back(std::move(sorted));
         // Removing them seldom costs less than a heap.
         if (limit_ != 0 && lines_.size() > 2 * limit_ + 1024) keep_first();
@@ -54,7 +54,7 @@ public:
 
 private:
     struct Key {
-        RowField field;
+        RowColumn column;
         bool descends;
     };
     struct Sorted {
@@ -81,11 +81,11 @@ private:
     std::vector<Sorted> lines_;
 };
 
-std::vector<RowField> chosen(const Instances &instances, const std::vector<std::string> &names) {
-    if (names.empty()) return instances.fields();
-    std::vector<RowField> fields;
-    for (const std::string &name : names) fields.push_back(instances.field(name, "--columns"));
-    return fields;
+std::vector<RowColumn> chosen(const Instances &instances, const std::vector<std::string> &names) {
+    if (names.empty()) return instances.columns();
+    std::vector<RowColumn> columns;
+    for (const std::string &name : names) columns.push_back(instances.column(name, "--columns"));
+    return columns;
 }
 
 // Ends the reading of the input.
@@ -94,18 +94,18 @@ struct LimitReached {};
 Exit run_rows(const RowsOptions &options) {
     const Instances instances(*table_named(options.record).record);
     const RowStyle style = row_styles.at(options.format);
-    const std::vector<RowField> fields = chosen(instances, options.columns);
+    const std::vector<RowColumn> columns = chosen(instances, options.columns);
     std::vector<Condition> conditions;
     for (const std::string &text : options.where) conditions.push_back(condition(text, instances));
     Sorter sorter(instances, options.sort, options.limit);
     OutputFile file(options.output);
-    RowWriter writer(style, fields, [&](std::string_view piece) { file.append(piece); });
+    RowWriter writer(style, columns, [&](std::string_view piece) { file.append(piece); });
 
     std::size_t rows = 0;
     const auto add = [&](const Instance &instance) {
         const auto holds = [&](const Condition &c) { return c(instance); };
         if (!std::all_of(conditions.begin(), conditions.end(), holds)) return;
-        std::string line = line_of(style, fields, instance);
+        std::string line = line_of(style, columns, instance);
         if (sorter.is_used()) {
             sorter.add(instance, std::move(line));
         } else {
@@ -116,9 +116,7 @@ Exit run_rows(const RowsOptions &options) {
     Exit exit = Exit::success;
     try {
         exit = for_each_item(options.input, [&](Entry &entry) {
-            if (!entry.item.message) return;
-            const Origin source{entry.file, entry.number, entry.bundle};
-            instances.visit(source, *entry.item.message, add);
+            if (entry.item.message) instances.visit(entry, add);
         });
     } catch (const LimitReached &) {
     }

@@ -35,14 +35,14 @@ public:
         skip_blanks();
         const std::string_view name = take(std::min(text_.find_first_not_of(name_characters, at_), text_.size()) - at_);
         if (name.empty()) fail("expected a column");
-        const RowField field = instances_.field(name, place(at_ - name.size()));
+        const RowColumn column = instances_.column(name, place(at_ - name.size()));
         skip_blanks();
         const std::string_view op = take_operator();
         skip_blanks();
         value_ = text_.substr(at_, text_.find_last_not_of(spaces) + 1 - at_);
-        if (op == "~") return contains(field);
-        if (op == "in") return within(field);
-        return compares(field, op);
+        if (op == "~") return contains(column);
+        if (op == "in") return within(column);
+        return compares(column, op);
     }
 
 private:
@@ -72,11 +72,11 @@ private:
         fail("expected one of = != < <= > >= ~ in");
     }
 
-    Condition compares(const RowField &field, std::string_view op) const {
-        const Sortable wanted = wanted_of(*field.member);
-        const bool is_truth = field.member->kind == schema::Kind::boolean;
-        const auto compared = [field, wanted, is_truth](const Instance &instance, const auto &holds) {
-            Sortable value = sortable(instance.value(field));
+    Condition compares(const RowColumn &column, std::string_view op) const {
+        const Sortable wanted = wanted_of(*column.member);
+        const bool is_truth = column.member->kind == schema::Kind::boolean;
+        const auto compared = [column, wanted, is_truth](const Instance &instance, const auto &holds) {
+            Sortable value = sortable(instance.value(column));
             if (auto *const number = std::get_if<std::uint64_t>(&value); is_truth && number != nullptr) {
                 *number = *number != 0 ? 1 : 0;
             }
@@ -145,12 +145,12 @@ private:
         return address;
     }
 
-    Condition within(const RowField &field) const {
-        if (field.member->kind != schema::Kind::address) fail(field.name + " is not an address");
+    Condition within(const RowColumn &column) const {
+        if (column.member->kind != schema::Kind::address) fail(column.name + " is not an address");
         const ip_address prefix = address();
         if (prefix.prefix_len > (prefix.af == AF_INET ? 32 : 128)) fail("the prefix is longer than the address");
-        return [field, prefix](const Instance &instance) {
-            const Value value = instance.value(field);
+        return [column, prefix](const Instance &instance) {
+            const Value value = instance.value(column);
             auto *const *const held = std::get_if<ip_address *>(&value);
             if (held == nullptr || (*held)->af != prefix.af || (*held)->prefix_len < prefix.prefix_len) return false;
             for (unsigned bit = 0; bit < prefix.prefix_len; bit += 32) {
@@ -161,10 +161,10 @@ private:
         };
     }
 
-    Condition contains(const RowField &field) const {
-        return [field, part = std::string(value_)](const Instance &instance) {
+    Condition contains(const RowColumn &column) const {
+        return [column, part = std::string(value_)](const Instance &instance) {
             std::string text;
-            append_shown(text, instance.handle(), *field.member, instance.value(field));
+            append_shown(text, instance.handle(), *column.member, instance.value(column));
             return text.find(part) != std::string::npos;
         };
     }

@@ -71,7 +71,7 @@ Database::Database(const std::string &path) : shown_(shown_output(path)), file_(
         Call(*this, add_meta.get()).text(name).text(value).run();
     }
     add_file_ = prepare("INSERT INTO files VALUES (?, ?)");
-    add_message_ = prepare("INSERT INTO messages VALUES (?, ?, ?, ?, ?)");
+    add_message_ = prepare("INSERT INTO messages VALUES (?, ?, ?, ?, ?, ?)");
 }
 
 void Database::check(int code) {
@@ -96,14 +96,16 @@ Database::Insertion &Database::insertion(const Table &table) {
     return insertion;
 }
 
-void Database::add(const Origin &source, const Message &message) {
-    if (files_ == 0 || source.file != file_name_) {
-        file_name_ = source.file;
+void Database::add(const Entry &entry) {
+    const Message &message = *entry.item.message;
+    if (files_ == 0 || entry.file != file_name_) {
+        file_name_ = entry.file;
         Call(*this, add_file_.get()).integer(++files_).text(file_name_).run();
     }
     Call call(*this, add_message_.get());
-    call.integer(++messages_).integer(files_).integer(static_cast<std::int64_t>(source.number));
-    source.bundle != nullptr ? call.text(source.bundle->bundle->name) : call.null();
+    call.integer(++messages_).integer(files_).integer(static_cast<std::int64_t>(entry.number));
+    entry.bundle != nullptr ? call.text(entry.bundle->bundle->name) : call.null();
+    entry.connection.empty() ? call.null() : call.text(entry.connection);
     call.text(message.operations().name).run();
 
     std::size_t visited = 0;

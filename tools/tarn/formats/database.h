@@ -19,7 +19,8 @@ public:
     // The file gets its name when the database is finished.
     explicit Database(const std::string &path);
 
-    void add(const Origin &source, const Message &message);
+    // An entry with a message.
+    void add(const Entry &entry);
     void finish();
 
     bool is_empty() const { return messages_ == 0; }

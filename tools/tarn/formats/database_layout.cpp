@@ -30,6 +30,7 @@ constexpr FixedColumn columns_of_a_view[] = {
     {"file", "TEXT", "name of the file"},
     {"message", "INTEGER", "number of the message in the file, from 1"},
     {"bundle", "TEXT", "bundle that contains the message; NULL outside bundles"},
+    {"connection", "TEXT", "connection of the message, if the file is a network capture"},
     {"row_id", "INTEGER", "row of the table that contains the instance"},
 };
 
@@ -41,6 +42,7 @@ CREATE TABLE messages (
   file_id INTEGER NOT NULL REFERENCES files,
   number INTEGER NOT NULL,
   bundle TEXT,
+  connection TEXT,
   name TEXT NOT NULL
 );
 )";
@@ -156,7 +158,9 @@ std::string view_name(const Table &table) { return table.name + "_rows"; }
 std::string selection(const Table &table, const Occurrence &occurrence, const Table &record) {
     const Joins joins(table);
     const bool is_nested = !occurrence.path.empty();
-    std::string sql = "SELECT f.name AS file, m.number AS message, m.bundle AS bundle, r.row_id AS row_id";
+    std::string sql =
+        "SELECT f.name AS file, m.number AS message, m.bundle AS bundle, m.connection AS connection, r.row_id AS "
+        "row_id";
     for (const KeyPart &key : key_parts(record)) {
         const std::string value = joins.key(key, table, is_nested && is_element(table));
         sql += ",\n  " + (value.empty() ? "NULL" : value) + " AS " + key.name_in_view();

@@ -13,31 +13,35 @@ namespace {
 constexpr schema::Member places[] = {
     schema::string("file", "file in which the message is"),
     schema::u64("message", "number of the message in its file"),
+    schema::string("connection", "connection in a network capture"),
     schema::string("bundle", "bundle in which the message is"),
     schema::string("path", "path of the record in the message"),
 };
 
 }  // namespace
 
-Value Instance::value(const RowField &field) const {
-    switch (field.from) {
-        case RowField::From::file:
-            return source_.file;
-        case RowField::From::message:
-            return std::uint64_t{source_.number};
-        case RowField::From::bundle:
-            if (source_.bundle == nullptr) return {};
-            return source_.bundle->bundle->name;
-        case RowField::From::path:
+Value Instance::value(const RowColumn &column) const {
+    switch (column.origin) {
+        case RowColumn::Origin::file:
+            return entry_.file;
+        case RowColumn::Origin::message:
+            return std::uint64_t{entry_.number};
+        case RowColumn::Origin::connection:
+            if (entry_.connection.empty()) return {};
+            return entry_.connection;
+        case RowColumn::Origin::bundle:
+            if (entry_.bundle == nullptr) return {};
+            return entry_.bundle->bundle->name;
+        case RowColumn::Origin::path:
             return path();
-        case RowField::From::key: {
-            const Row *const row = around(field.table);
-            return row != nullptr ? field.column->read(row->instance) : Value();
+        case RowColumn::Origin::key: {
+            const Row *const row = around(column.table);
+            return row != nullptr ? column.value->read(row->instance) : Value();
         }
-        case RowField::From::member:
+        case RowColumn::Origin::member:
             break;
     }
-    return field.column->read(object_);
+    return column.value->read(object_);
 }
 
 // "lumo_data[0].agg_tc_list.tc_list[3]"
@@ -61,13 +65,13 @@ const Row *Instance::around(const Table *table) const {
 
 Instances::Instances(const schema::Record &record) {
     for (std::size_t i = 0; i < std::size(places); ++i) {
-        fields_.push_back({std::string(places[i].name), &places[i], static_cast<RowField::From>(i)});
+        columns_.push_back({std::string(places[i].name), &places[i], static_cast<RowColumn::Origin>(i)});
     }
     for (const KeyColumn &k : keys_around(record)) {
-        fields_.push_back({k.name(), k.column->member, RowField::From::key, k.column, k.table});
+        columns_.push_back({k.name(), k.column->member, RowColumn::Origin::key, k.column, k.table});
     }
     for (const Column &c : table_of(record).columns) {
-        fields_.push_back({c.name, c.member, RowField::From::member, &c});
+        columns_.push_back({c.name, c.member, RowColumn::Origin::member, &c});
     }
     for (const Table &table : tables()) {
         occurrences_[&table] = occurrences(table, record);
@@ -77,12 +81,12 @@ Instances::Instances(const schema::Record &record) {
     }
 }
 
-const RowField &Instances::field(std::string_view name, const std::string &where) const {
-    for (const RowField &f : fields_) {
+const RowColumn &Instances::column(std::string_view name, const std::string &where) const {
+    for (const RowColumn &f : columns_) {
         if (f.name == name) return f;
     }
     std::vector<std::string> names;
-    for (const RowField &f : fields_) names.push_back(f.name);
+    for (const RowColumn &f : columns_) names.push_back(f.name);
     std::string help = suggestion(name, names);
     if (help.empty()) {
         help = "; there are ";
@@ -91,14 +95,14 @@ const RowField &Instances::field(std::string_view name, const std::string &where
     throw Failure(Exit::input, where + ": unknown column " + in_quotes(name) + help);
 }
 
-void Instances::visit(const Origin &source, const Message &message,
-                      const std::function<void(const Instance &)> &visit) const {
+void Instances::visit(const Entry &entry, const std::function<void(const Instance &)> &visit) const {
+    const Message &message = *entry.item.message;
     for_each_row(
         message, [&](const List &list) { return entered_.contains(&list); },
         [&](const Row &row) {
             for (const Occurrence &occurrence : occurrences_.at(row.table)) {
                 void *const object = occurrence.find(row.instance);
-                if (object != nullptr) visit(Instance(source, message.handle(), row, occurrence, object));
+                if (object != nullptr) visit(Instance(entry, message.handle(), row, occurrence, object));
             }
         });
 }

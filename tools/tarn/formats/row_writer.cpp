@@ -28,13 +28,13 @@ bool is_number(const Member &member) {
     return category(member.kind) == Category::integer && member.notation == schema::Notation::decimal;
 }
 
-void append_json(std::string &out, const RowField &field, const Value &value, const std::string &shown) {
-    const Kind kind = field.member->kind;
+void append_json(std::string &out, const RowColumn &column, const Value &value, const std::string &shown) {
+    const Kind kind = column.member->kind;
     // A truth value or an enumerator without a name is a number.
     const bool has_word = shown.empty() || shown.front() < '0' || shown.front() > '9';
     const bool is_bare = kind == Kind::boolean || (kind == Kind::enumeration && !has_word) ||
-                         field.from == RowField::From::message ||
-                         (is_number(*field.member) && greatest(kind) <= UINT32_MAX);
+                         column.origin == RowColumn::Origin::message ||
+                         (is_number(*column.member) && greatest(kind) <= UINT32_MAX);
     if (value.index() == 0) {
         out += "null";
     } else if (is_bare) {
@@ -78,17 +78,17 @@ void for_each_cell(std::string_view line, const std::function<void(std::size_t, 
 
 }  // namespace
 
-std::string line_of(RowStyle style, const std::vector<RowField> &fields, const Instance &instance) {
+std::string line_of(RowStyle style, const std::vector<RowColumn> &columns, const Instance &instance) {
     const char separator = style == RowStyle::csv || style == RowStyle::jsonl ? ',' : '\t';
     std::string line, shown;
-    for (const RowField &field : fields) {
-        if (&field != &fields.front()) line += separator;
-        const Value value = instance.value(field);
+    for (const RowColumn &column : columns) {
+        if (&column != &columns.front()) line += separator;
+        const Value value = instance.value(column);
         shown.clear();
-        append_shown(shown, instance.handle(), *field.member, value);
+        append_shown(shown, instance.handle(), *column.member, value);
         if (style == RowStyle::jsonl) {
-            line += '"' + field.name + "\":";
-            append_json(line, field, value, shown);
+            line += '"' + column.name + "\":";
+            append_json(line, column, value, shown);
         } else {
             append_cell(line, style, shown);
         }
@@ -96,12 +96,12 @@ std::string line_of(RowStyle style, const std::vector<RowField> &fields, const I
     return style == RowStyle::jsonl ? "{" + line + "}" : line;
 }
 
-RowWriter::RowWriter(RowStyle style, const std::vector<RowField> &fields, Write write)
-    : style_(style), write_(std::move(write)), widths_(fields.size()) {
+RowWriter::RowWriter(RowStyle style, const std::vector<RowColumn> &columns, Write write)
+    : style_(style), write_(std::move(write)), widths_(columns.size()) {
     std::string header;
-    for (const RowField &field : fields) {
-        is_number_.push_back(is_number(*field.member));
-        header += (header.empty() ? "" : style == RowStyle::csv ? "," : "\t") + field.name;
+    for (const RowColumn &column : columns) {
+        is_number_.push_back(is_number(*column.member));
+        header += (header.empty() ? "" : style == RowStyle::csv ? "," : "\t") + column.name;
     }
     if (style != RowStyle::jsonl) add(header);
 }

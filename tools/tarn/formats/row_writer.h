@@ -18,13 +18,13 @@ namespace tarn::tool {
 enum class RowStyle : std::uint8_t { table, csv, tsv, jsonl };
 
 // The line of a row. A line of a table is one of tab-separated values, which RowWriter aligns.
-std::string line_of(RowStyle style, const std::vector<RowField> &fields, const Instance &instance);
+std::string line_of(RowStyle style, const std::vector<RowColumn> &columns, const Instance &instance);
 
 class RowWriter {
 public:
     using Write = std::function<void(std::string_view)>;
 
-    RowWriter(RowStyle style, const std::vector<RowField> &fields, Write write);
+    RowWriter(RowStyle style, const std::vector<RowColumn> &columns, Write write);
 
     void add(std::string_view line);
     // Writes what is waiting.
