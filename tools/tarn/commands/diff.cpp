@@ -5,9 +5,9 @@
 
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/message_changes.h"
-#include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/files.h"
 
 namespace tarn::tool {
@@ -23,34 +23,48 @@ struct DiffOptions {
     bool json = false, quiet = false, summary = false, lenient = false;
 };
 
-// The messages of a file.
+// The messages of a file, one after the other. Frames are not read.
 class DiffSource {
 public:
     DiffSource(const Handles &handles, const std::string &path, const DiffOptions &options)
-        : origin_(shown_path(path)), content_(read_input(path, options.from)) {
-        if (form_of(content_, origin_) == Form::frames) return;
-        items_ = items_of(handles, content_, origin_, options.lenient);
-        if (items_.empty()) throw Failure(Exit::input, origin_ + ": no message");
-        offset_ = content_.size();
+        : stream_(open_bytes(path, options.from)) {
+        constexpr std::size_t enough_to_detect = std::size_t{64} << 10;
+        if (form_of(stream_.look(enough_to_detect), stream_.name()) == Form::frames) {
+            frames_.emplace(stream_, false);
+        } else {
+            entries_.emplace(handles, stream_, InputOptions{.paths = {}, .lenient = options.lenient});
+        }
     }
 
     std::optional<Version> next() {
-        if (offset_ < content_.size()) {
-            const Frame frame = frame_at(bytes_of(content_), offset_, origin_);
-            offset_ += frame.bytes.size();
-            return Version{frame.identity, std::string(chars_of(frame.bytes)), std::nullopt,
-                           frame_location(origin_, frame.offset)};
-        }
-        if (item_ == items_.size()) return std::nullopt;
-        Item &item = items_[item_++];
-        const Identity identity = item.identity;
-        return Version{identity, {}, std::move(item), {}};
+        std::optional<Version> version = frames_ ? next_frame() : next_entry();
+        if (!version && is_first_) throw Failure(Exit::input, stream_.name() + ": no message");
+        is_first_ = false;
+        return version;
     }
 
 private:
-    std::string origin_, content_;
-    std::size_t offset_ = 0, item_ = 0;
-    std::vector<Item> items_;
+    std::optional<Version> next_frame() {
+        for (;;) {
+            const std::optional<Stretch> stretch = frames_->next();
+            if (!stretch) return std::nullopt;
+            if (!stretch->fault.empty()) {
+                throw Failure(Exit::input, frame_location(stream_.name(), stretch->offset) + ": " + stretch->fault);
+            }
+            // A request for a bundle is no message.
+            if (stretch->identity) return version_of(stretch->frame(), stream_.name());
+        }
+    }
+    std::optional<Version> next_entry() {
+        std::optional<Entry> entry = entries_->next();
+        if (!entry) return std::nullopt;
+        return Version{.identity = entry->item.identity, .frame = {}, .item = std::move(entry->item), .origin = {}};
+    }
+
+    ByteStream stream_;
+    std::optional<FrameReader> frames_;
+    std::optional<EntryReader> entries_;
+    bool is_first_ = true;
 };
 
 // Prints changes one after the other.

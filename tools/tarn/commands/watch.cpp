@@ -193,11 +193,7 @@ public:
     }
 
 private:
-    struct Received {
-        Identity identity;
-        std::string frame, location;
-    };
-    using Answer = std::vector<Received>;
+    using Answer = std::vector<Version>;
 
     static ComparisonRules rules_of(const WatchOptions &options) {
         ComparisonRules rules = options.comparison.rules();
@@ -223,8 +219,7 @@ private:
             if (answers_ == 0 && !frame.identity.is_control()) {
                 elements_ += count_elements(*receiver.read(frame, connection_->name()).message);
             }
-            answer.push_back({frame.identity, std::string(chars_of(frame.bytes)),
-                              frame_location(connection_->name(), frame.offset)});
+            answer.push_back(version_of(frame, connection_->name()));
         });
         return answer;
     }
@@ -252,7 +247,7 @@ private:
         output_.answered();
         if (answers_++ == 0) {
             const auto messages =
-                std::count_if(answer.begin(), answer.end(), [](const Received &r) { return !r.identity.is_control(); });
+                std::count_if(answer.begin(), answer.end(), [](const Version &v) { return !v.identity.is_control(); });
             output_.event("start", "first answer: " + plural(static_cast<std::size_t>(messages), "message") + ", " +
                                        plural(elements_, "element"));
         } else {
@@ -265,8 +260,8 @@ private:
         const auto next_of = [](const Answer &all, std::size_t &at) {
             return [&]() -> std::optional<Version> {
                 if (at == all.size()) return std::nullopt;
-                const Received &received = all[at++];
-                return Version{received.identity, received.frame, std::nullopt, received.location};
+                const Version &version = all[at++];
+                return version_of({bytes_of(version.frame), version.offset, version.identity}, version.origin);
             };
         };
         std::size_t a = 0, b = 0;

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/message.h"
 #include "tools/tarn/support/failure.h"
@@ -18,25 +19,27 @@ bool are_equal(const Version &a, const Version &b) {
                std::string_view(b.frame).substr(schema::message_header_size);
 }
 
-Frame frame_of(const Version &version) { return {bytes_of(version.frame), 0, version.identity}; }
+Frame frame_of(const Version &version) { return {bytes_of(version.frame), version.offset, version.identity}; }
 
-// Calls `use` with a function's result, or throws what it throws, with the location.
-auto at(const Version &version, const auto &read) {
+// Counts are checked, since frames with equal bytes are not read.
+void require_admitted(const Handles &handles, const Version &version) {
+    const Frame frame = frame_of(version);
     try {
-        return read();
+        require_admitted(handles.choose(frame.is_tracked()), *frame.identity.operations, frame.bytes);
     } catch (const Failure &failure) {
-        throw Failure(failure.exit(), version.location + ": " + failure.what());
+        throw Failure(failure.exit(), frame_location(version.origin, version.offset) + ": " + failure.what());
     }
 }
 
 // The message of a version. `read` keeps it if it is read from a frame.
-const Message &message_of(const Handles &handles, const Version &version, std::optional<Message> &read) {
+const Message &message_of(const Handles &handles, const Version &version, std::optional<Item> &read) {
     if (version.item) return *version.item->message;
-    at(version, [&] {
-        const Frame frame = frame_of(version);
-        read.emplace(message_from_frame(handles.choose(frame.is_tracked()), *version.identity.operations, frame.bytes));
-    });
-    return *read;
+    try {
+        read.emplace(item_of(handles, frame_of(version), version.origin));
+    } catch (const Failure &failure) {
+        throw with_cause(failure, frame_of(version));
+    }
+    return *read->message;
 }
 
 }  // namespace
@@ -46,19 +49,14 @@ std::size_t compare_sequences(const Handles &handles, Comparison &comparison, co
     MessagePairs pairs;
     pairs.both = [&](const Version &left, const Version &right) {
         if (left.identity.is_control()) return;
-        if (are_equal(left, right)) {
-            return at(left, [&] {
-                const Frame frame = frame_of(left);
-                require_admitted(handles.choose(frame.is_tracked()), *left.identity.operations, frame.bytes);
-            });
-        }
-        std::optional<Message> read_left, read_right;
+        if (are_equal(left, right)) return require_admitted(handles, left);
+        std::optional<Item> read_left, read_right;
         const Message &message_a = message_of(handles, left, read_left);
         const Message &message_b = message_of(handles, right, read_right);
         comparison.compare(message_a, message_b, [&](Change &change) { report(change, left.number); });
     };
     const auto only = [&](const Version &version, Change::Kind kind) {
-        std::optional<Message> read;
+        std::optional<Item> read;
         Change change;
         change.kind = kind;
         change.element = "message";

@@ -17,9 +17,14 @@ struct Version {
     Identity identity;
     std::string frame;         // empty for an item
     std::optional<Item> item;  // empty for a frame
-    std::string location;
-    std::size_t number = 0;  // among the messages of its sequence, from 1; set by the pairing
+    std::string origin;        // of the frame, for messages
+    std::size_t offset = 0;    // of the frame
+    std::size_t number = 0;    // among the messages of its sequence, from 1; set by the pairing
 };
+
+inline Version version_of(const Frame &frame, const std::string &origin) {
+    return {frame.identity, std::string(chars_of(frame.bytes)), std::nullopt, origin, frame.offset};
+}
 
 // Calls its functions for each message of two sequences. Two belong together if they have the same type and the same
 // position in the same bundle: the third bundle of its type, for example. If one of the sequences begins without a
