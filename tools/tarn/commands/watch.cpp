@@ -100,8 +100,8 @@ std::string cut(const std::string &line, std::size_t columns) {
     return text;
 }
 
-// What has happened, one line or JSON object each; or on a terminal a picture that is drawn again, with the latest line
-// of each place.
+// What has happened, one line or JSON object each; or on a terminal a picture that is drawn again: the latest line of
+// each member or element, below the list that contains it.
 class WatchOutput {
 public:
     WatchOutput(std::string title, bool json) : title_(std::move(title)), json_(json) {
@@ -111,29 +111,37 @@ public:
 
     void answered() { last_answer_ = time_text("%T", true); }
 
-    void change(const Change &change) {
+    void change(Change &change) {
         if (json_) return print_json(tool::json_of(change));
-        line(change.place + ": " + change.member, line_of(change));
+        if (!in_place_) return print_line(line_of(change));
+        const std::string place = change.place + ": " + change.member;
+        if (!change.list.empty() && change.place.starts_with(change.list + ", ")) {
+            change.place.erase(0, change.list.size() + 2);
+        }
+        add_row(change.list, place, line_of(change));
     }
     // Apart from changes of the messages.
     void event(const char *name, const std::string &text) {
         if (json_) return print_json({{"event", name}, {"text", text}});
-        line(name, text);
+        if (!in_place_) return print_line(text);
+        add_row("", name, text);
     }
     void draw() {
         if (!in_place_) return;
         winsize size{};
         if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_row == 0) size = {24, 80, 0, 0};
-        std::string picture = drawn_ == 0 ? "" : "\x1b[" + std::to_string(drawn_) + "A\r";
-        const auto add = [&](const std::string &text) { picture += cut(text, size.ws_col) + "\x1b[K\n"; };
-        add(title_ + "; last answer at " + last_answer_);
-        const std::size_t rows = std::min<std::size_t>(rows_.size(), std::max<std::size_t>(size.ws_row, 3) - 2);
-        for (std::size_t i = 0; i < rows; ++i) {
-            const Row &row = rows_[i];
-            const std::string times = row.times == 1 ? "" : " (" + std::to_string(row.times) + " times)";
-            add(colored(row.time, Color::gray) + "  " + row.text + times);
+        std::vector<std::string> lines{title_ + "; last answer at " + last_answer_};
+        for (const Table &table : tables_) {
+            if (!table.list.empty()) lines.push_back(table.list);
+            for (const Row &row : table.rows) {
+                const std::string times = row.times == 1 ? "" : " (" + std::to_string(row.times) + " times)";
+                lines.push_back("  " + colored(row.time, Color::gray) + "  " + row.text + times);
+            }
         }
-        drawn_ = rows + 1;
+        lines.resize(std::min<std::size_t>(lines.size(), std::max<std::size_t>(size.ws_row, 3) - 1));
+        std::string picture = drawn_ == 0 ? "" : "\x1b[" + std::to_string(drawn_) + "A\r";
+        for (const std::string &line : lines) picture += cut(line, size.ws_col) + "\x1b[K\n";
+        drawn_ = lines.size();
         write_file("-", picture + "\x1b[J");
     }
     void summary(const std::string &text, const ChangeCounts &counts) {
@@ -144,32 +152,47 @@ public:
 private:
     struct Row {
         std::string place, time, text;
-        std::size_t times = 1;
+        std::size_t times;
     };
-    static constexpr std::size_t most_rows = 1000;
+    struct Table {
+        std::string list;  // empty for events
+        std::deque<Row> rows;
+    };
+    static constexpr std::size_t most = 1000;  // more lines than terminals have
 
     void print_json(const ordered_json &json) {
         ordered_json whole{{"time", time_text("%FT%TZ", false)}};
         whole.update(json);
         write_file("-", json_text(whole) + "\n");
     }
-    void line(const std::string &place, const std::string &text) {
-        if (!in_place_) return write_file("-", time_text("%F %T", true) + "  " + text + "\n");
-        Row row{place, time_text("%T", true), text};
-        const auto old = std::find_if(rows_.begin(), rows_.end(), [&](const Row &r) { return r.place == place; });
-        if (old != rows_.end()) {
-            row.times = old->times + 1;
-            rows_.erase(old);
-        } else if (rows_.size() == most_rows) {
-            rows_.pop_back();
+    static void print_line(const std::string &text) { write_file("-", time_text("%F %T", true) + "  " + text + "\n"); }
+
+    // Moves what matches to the front, and removes the last one if there are too many.
+    template <class T>
+    static T &to_front(std::deque<T> &all, const auto &matches, T otherwise) {
+        const auto old = std::find_if(all.begin(), all.end(), matches);
+        if (old != all.end()) {
+            otherwise = std::move(*old);
+            all.erase(old);
+        } else if (all.size() == most) {
+            all.pop_back();
         }
-        rows_.push_front(row);
+        return all.emplace_front(std::move(otherwise));
+    }
+    void add_row(const std::string &list, const std::string &place, const std::string &text) {
+        Table &table = to_front(
+            tables_, [&](const Table &t) { return t.list == list; }, Table{list, {}});
+        Row &row = to_front(
+            table.rows, [&](const Row &r) { return r.place == place; }, Row{place, {}, {}, 0});
+        row.time = time_text("%T", true);
+        row.text = text;
+        ++row.times;
     }
 
     std::string title_, last_answer_;
-    bool json_, in_place_;
-    std::deque<Row> rows_;   // the latest first
-    std::size_t drawn_ = 0;  // lines
+    bool json_, in_place_ = false;
+    std::deque<Table> tables_;  // the latest first
+    std::size_t drawn_ = 0;     // lines
 };
 
 class Watch {

@@ -16,7 +16,7 @@
 
 namespace tarn::tool {
 
-// Not unnamed, since members of Comparison have these types.
+// Not unnamed, since a member of Comparison is declared in the header.
 namespace comparison {
 
 using nlohmann::ordered_json;
@@ -181,39 +181,8 @@ MemberValue value_at(const RecordOperations &operations, Side side, const Way &w
     return {record->members[way.back()].member, json_of_member(*side.handle, *record, way.back(), side.object)};
 }
 
-}  // namespace comparison
-
-using namespace comparison;
-
-void ComparisonRules::add_ignored(std::string_view text, const std::string &origin) {
-    std::size_t number = 0;
-    for (std::string line : split(text, '\n')) {
-        ++number;
-        constexpr const char *blanks = " \t\r";
-        line.erase(line.find_last_not_of(blanks) + 1);
-        line.erase(0, line.find_first_not_of(blanks));
-        if (line.empty() || line.front() == '#') continue;
-        require_member(line, origin + ":" + std::to_string(number));
-        ignored.push_back(line);
-    }
-}
-
-void ComparisonRules::check() const {
-    for (const std::string &pattern : ignored) require_member(pattern, "--ignore");
-    for (const std::string &pattern : compared) require_member(pattern, "--columns");
-    for (const std::string &names : by) {
-        const auto has_them = [&](const schema::Record *record) {
-            return record->key.is_stated && !key_of(*record, split(names, ',')).empty();
-        };
-        if (std::any_of(schema::records.begin(), schema::records.end(), has_them)) continue;
-        for (const std::string &name : split(names, ',')) require_member(name, "--by");
-        throw Failure(Exit::input, "--by: the elements of no list have the single value" +
-                                       std::string(split(names, ',').size() == 1 ? " " : "s ") + in_quotes(names));
-    }
-}
-
 // What to compare in a record at one place in a message.
-struct Comparison::Plan {
+struct Plan {
     struct Step {
         std::size_t index;
         const MemberOperations *member;
@@ -247,7 +216,7 @@ struct Comparison::Plan {
 };
 
 // One comparison of two messages.
-class Comparison::Walk {
+class Walk {
 public:
     Walk(bool with_state, const std::function<void(Change &)> &report) : with_state_(with_state), report_(report) {}
 
@@ -509,12 +478,15 @@ private:
                 records += member_name + ".";
                 continue;
             }
-            if (!records.empty()) records.back() = ',';
             const ElementName name = name_of(level);
             change.path += "[" + name.with_members + "]";
             change.element = level.element->record.record->key.element;
-            change.place += (change.place.empty() ? "" : ", ") + records + (records.empty() ? "" : " ") +
-                            std::string(change.element) + " " + name.text;
+            if (!records.empty()) records.pop_back();
+            const auto joined = [](const std::string &a, const std::string &b) {
+                return a + (a.empty() || b.empty() ? "" : ", ") + b;
+            };
+            change.list = joined(change.place, records);
+            change.place = joined(change.list, std::string(change.element) + " " + name.text);
             records.clear();
         }
         change.member = records + member;
@@ -527,17 +499,65 @@ private:
     std::vector<Level> levels_;
 };
 
+std::size_t elements_in(const RecordOperations &record, const Side &side) {
+    if (variant_of(side.object) < 0) return 0;
+    std::size_t sum = 0;
+    for (std::size_t i = 0; i < record.members.size(); ++i) {
+        const MemberOperations &m = record.members[i];
+        if (m.member->record == nullptr) continue;
+        const RecordOperations &nested = reflect::operations_of(*m.member->record);
+        if (m.member->kind != schema::Kind::array) {
+            sum += elements_in(nested, side.member(m));
+            continue;
+        }
+        const auto count = static_cast<std::size_t>(side.number(record.members[i - 1]));
+        sum += count;
+        for (std::size_t j = 0; j < count; ++j) sum += elements_in(nested, side.element(m, j));
+    }
+    return sum;
+}
+
+}  // namespace comparison
+
+void ComparisonRules::add_ignored(std::string_view text, const std::string &origin) {
+    std::size_t number = 0;
+    for (std::string line : comparison::split(text, '\n')) {
+        ++number;
+        constexpr const char *blanks = " \t\r";
+        line.erase(line.find_last_not_of(blanks) + 1);
+        line.erase(0, line.find_first_not_of(blanks));
+        if (line.empty() || line.front() == '#') continue;
+        comparison::require_member(line, origin + ":" + std::to_string(number));
+        ignored.push_back(line);
+    }
+}
+
+void ComparisonRules::check() const {
+    for (const std::string &pattern : ignored) comparison::require_member(pattern, "--ignore");
+    for (const std::string &pattern : compared) comparison::require_member(pattern, "--columns");
+    for (const std::string &names : by) {
+        const auto has_them = [&](const schema::Record *record) {
+            return record->key.is_stated && !comparison::key_of(*record, comparison::split(names, ',')).empty();
+        };
+        if (std::any_of(schema::records.begin(), schema::records.end(), has_them)) continue;
+        for (const std::string &name : comparison::split(names, ',')) comparison::require_member(name, "--by");
+        throw Failure(Exit::input, "--by: the elements of no list have the single value" +
+                                       std::string(comparison::split(names, ',').size() == 1 ? " " : "s ") +
+                                       in_quotes(names));
+    }
+}
+
 Comparison::Comparison(ComparisonRules rules) : rules_(std::move(rules)) { rules_.check(); }
 Comparison::~Comparison() = default;
 
 void Comparison::compare(const Message &a, const Message &b, const std::function<void(Change &)> &report) {
-    const RecordOperations &record = a.record();
+    const reflect::RecordOperations &record = a.record();
     auto plan = std::find_if(plans_.begin(), plans_.end(), [&](const auto &p) { return p.first == record.record; });
     if (plan == plans_.end()) {
         plan = plans_.emplace(plan, record.record,
-                              std::make_unique<Plan>(record, "payload", rules_, rules_.compared.empty()));
+                              std::make_unique<comparison::Plan>(record, "payload", rules_, rules_.compared.empty()));
     }
-    Walk walk(rules_.with_state, report);
+    comparison::Walk walk(rules_.with_state, report);
     if (rules_.with_state) walk.values("tracked", a.handle().tracked(), b.handle().tracked());
     walk.records(*plan->second, {&a.handle(), a.payload()}, {&b.handle(), b.payload()});
 }
@@ -563,8 +583,8 @@ std::string line_of(const Change &change) {
            colored(change.text_b, Color::green);
 }
 
-ordered_json json_of(const Change &change) {
-    ordered_json json{{"change", word(change.kind)}, {"path", change.path}};
+nlohmann::ordered_json json_of(const Change &change) {
+    nlohmann::ordered_json json{{"change", word(change.kind)}, {"path", change.path}};
     if (change.kind == Change::Kind::changed) {
         json["a"] = change.a;
         json["b"] = change.b;
@@ -628,41 +648,19 @@ std::string ChangeCounts::text() const {
     return text;
 }
 
-ordered_json ChangeCounts::json() const {
-    ordered_json json = ordered_json::object();
+nlohmann::ordered_json ChangeCounts::json() const {
+    nlohmann::ordered_json json = nlohmann::ordered_json::object();
     for (const Row &r : rows_) {
-        ordered_json &one = json[r.name];
+        nlohmann::ordered_json &one = json[r.name];
         one = {{"added", r.added}, {"removed", r.removed}, {"reordered", r.reordered}, {"changed", r.changed}};
-        one["members"] = ordered_json::object();
+        one["members"] = nlohmann::ordered_json::object();
         for (const auto &[name, number] : r.members) one["members"][name] = number;
     }
     return json;
 }
 
-namespace {
-
-std::size_t elements_in(const RecordOperations &record, const Side &side) {
-    if (variant_of(side.object) < 0) return 0;
-    std::size_t sum = 0;
-    for (std::size_t i = 0; i < record.members.size(); ++i) {
-        const MemberOperations &m = record.members[i];
-        if (m.member->record == nullptr) continue;
-        const RecordOperations &nested = reflect::operations_of(*m.member->record);
-        if (m.member->kind != schema::Kind::array) {
-            sum += elements_in(nested, side.member(m));
-            continue;
-        }
-        const auto count = static_cast<std::size_t>(side.number(record.members[i - 1]));
-        sum += count;
-        for (std::size_t j = 0; j < count; ++j) sum += elements_in(nested, side.element(m, j));
-    }
-    return sum;
-}
-
-}  // namespace
-
 std::size_t count_elements(const Message &message) {
-    return elements_in(message.record(), {&message.handle(), message.payload()});
+    return comparison::elements_in(message.record(), {&message.handle(), message.payload()});
 }
 
 }  // namespace tarn::tool

@@ -32,6 +32,7 @@ struct Change {
     enum class Kind : std::uint8_t { added, removed, changed, reordered };
 
     Kind kind;
+    std::string list;             // "processor 0, agg_tc_list", without the element; empty for the payload itself
     std::string place;            // "processor 0, agg_tc_list, class 1003"; empty for the payload itself
     std::string member;           // "appl.id"; empty for an element that one side does not have
     std::string path;             // "payload.lumo_data[lumo_num=0].agg_tc_list.tc_list[id=1003].appl.id"
@@ -46,6 +47,10 @@ std::string_view word(Change::Kind kind);
 std::string line_of(const Change &change);
 nlohmann::ordered_json json_of(const Change &change);
 
+namespace comparison {
+struct Plan;
+}
+
 class Comparison {
 public:
     explicit Comparison(ComparisonRules rules);
@@ -55,18 +60,14 @@ public:
     void compare(const Message &a, const Message &b, const std::function<void(Change &)> &report);
 
 private:
-    struct Plan;
-    class Walk;
-
     ComparisonRules rules_;
-    std::vector<std::pair<const schema::Record *, std::unique_ptr<Plan>>> plans_;  // of payloads
+    std::vector<std::pair<const schema::Record *, std::unique_ptr<comparison::Plan>>> plans_;  // of payloads
 };
 
 // How often something was added, removed and changed, by what it is.
 class ChangeCounts {
 public:
     void add(const Change &change);
-    bool is_empty() const { return rows_.empty(); }
     // "class: 1 removed, 1 changed (flags 1)"
     std::string text() const;
     nlohmann::ordered_json json() const;

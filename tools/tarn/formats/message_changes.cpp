@@ -80,9 +80,9 @@ void name_message(Change &change, std::size_t number) {
     const std::string message = "message " + std::to_string(number);
     if (change.element == "message") {
         change.place = message + " (" + change.place + ")";
-    } else {
-        change.place = message + (change.place.empty() ? "" : ", ") + change.place;
+        return;
     }
+    for (std::string *place : {&change.list, &change.place}) *place = message + (place->empty() ? "" : ", ") + *place;
 }
 
 }  // namespace tarn::tool
