@@ -123,6 +123,16 @@ void tool() {
         files["json/" + table.name] = head({0}) + rendered(items.at(0), Style::json);
         files["json/" + table.name + "-lenient"] =
             head({3}) + "[" + rendered(items.at(0), Style::json) + ",\n" + rendered(items.at(0), Style::json) + "]";
+        // The choice, the names to ignore, and two versions, of which the first has its length before it.
+        const std::string document = rendered(items.at(0), Style::json), names = "*_ptr\n";
+        const std::string other = text_of(reference::message_frame(table.name, Record(table.payload), true, 8));
+        std::size_t bits = 0;
+        for (const std::string &second : {frame + frame, document, other}) {
+            files["diff/" + table.name + "-" + std::to_string(bits)] =
+                head({bits, names.size()}) + names + head({document.size() >> 8, document.size() & 0xff}) + document +
+                second;
+            bits += 3;
+        }
         files["tool/" + table.name + "-recording"] = head({0}) + "<bundle_start name=\"" + table.bundles.at(0) +
                                                      "\"></bundle_start>\n" + rendered(items.at(0), Style::xml) +
                                                      rendered(items.at(0), Style::xml);
@@ -425,6 +435,7 @@ void dictionaries() {
         {"operations", calls_of_operations()},
         {"xml", names() + markup},
         {"json", names() + json},
+        {"diff", names() + identities() + markup + json},
         {"where", names() + operators},
         {"source", names() + source + frames},
         {"tool", names() + identities() + markup + json},
@@ -441,7 +452,7 @@ void dictionaries() {
 void fuzzer_options() {
     const std::string all = "[libfuzzer]\ntimeout = 300\nreport_slow_units = 3600\nrss_limit_mb = 2048\nentropic = 0\n";
     for (const char *target : {"frame", "bundle", "xml", "calls", "differential", "allocation", "operations", "tool",
-                               "json", "where", "source", "streams", "answers"}) {
+                               "json", "diff", "where", "source", "streams", "answers"}) {
         files[std::string(target) + ".options"] = all + "max_len = 4096\n";
     }
     // The conversation of a longer input takes too long.
