@@ -148,7 +148,9 @@ TEST(FirstContact, FramesAreNotWrittenToATerminalUnlessForced) {
     const Directory directory;
     const std::string debug = directory.write("debug.xml", debug_xml);
     const std::string refusal = "frames are not written to a terminal: use -o FILE, a pipe or --force";
-    for (const std::string &words : {"encode " + debug, std::string("generate cl-debug --form frames")}) {
+    const std::string source = directory.write("source", "frame cl-debug start");
+    for (const std::string &words :
+         {"encode " + debug, "assemble " + source, std::string("generate cl-debug --form frames")}) {
         const Outcome refused = on_terminal(words);
         EXPECT_EQ(refused.exit, 2) << words;
         EXPECT_NE(refused.out.find(refusal), std::string::npos) << refused.out;

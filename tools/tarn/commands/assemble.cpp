@@ -5,6 +5,7 @@
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/source.h"
 #include "tools/tarn/support/files.h"
+#include "tools/tarn/support/terminal.h"
 
 namespace tarn::tool {
 
@@ -12,9 +13,11 @@ namespace {
 
 struct AssembleOptions {
     std::string file = "-", output = "-";
+    bool force = false;
 };
 
 void run_assemble(const AssembleOptions &options) {
+    if (!options.force) refuse_terminal(options.output);
     write_file(options.output, assemble(read_file(options.file), shown_path(options.file)));
 }
 
@@ -25,6 +28,7 @@ void add_assemble(CLI::App &app, Context &) {
     CLI::App *command = app.add_subcommand("assemble", "Turn the text of \"dissect --source\" into frames");
     add_input(*command, options->file, "Text");
     add_output(*command, options->output, "Output file");
+    add_force(*command, options->force);
     command->footer(
         "The text describes frames member by member, also frames that no library writes:\n"
         "with wrong lengths, jumps and counts, members left out or repeated, and raw bytes\n"
