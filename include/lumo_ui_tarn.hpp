@@ -1387,11 +1387,11 @@ struct dp_ll_spec_type {
         std::uint32_t id() const { return this->call_(lumo_tarn_dp_ll_spec_id_get_value); }
         /// Minimum mask length.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_ll_spec_min_mask_get_value); }
-        /// Type of aggregation.
+        /// How the list aggregates: a code of the data plane.
         std::uint8_t agg_type() const { return this->call_(lumo_tarn_dp_ll_spec_agg_type_get_value); }
-        /// Type of learning.
+        /// How the list learns: a code of the data plane.
         std::uint8_t learn_type() const { return this->call_(lumo_tarn_dp_ll_spec_learn_type_get_value); }
-        /// Type of the learn list.
+        /// Kind of learn list: a code of the data plane.
         std::uint8_t ll_type() const { return this->call_(lumo_tarn_dp_ll_spec_ll_type_get_value); }
         /// Number of prefixes.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_ll_spec_num_prefixes_get_value); }
@@ -2968,17 +2968,17 @@ struct lumo_info_type {
         lumo_ui_tarn::fdb_base_view fdb_base() const {
             return this->template nested_<lumo_ui_tarn::fdb_base_type>(lumo_tarn_lumo_info_fdb_base_get);
         }
-        /// Overhead of a chunk.
+        /// What a chunk takes beyond its content, in the unit of the processor.
         std::uint16_t chunk_overhead() const { return this->call_(lumo_tarn_lumo_info_chunk_overhead_get_value); }
-        /// Memory size of a flow information entry.
+        /// Memory that a flow information entry takes, in the unit of the processor.
         std::uint16_t flow_info_mem_size() const {
             return this->call_(lumo_tarn_lumo_info_flow_info_mem_size_get_value);
         }
-        /// Size of an mp cache entry.
+        /// Memory that an entry of the mp (prefix) cache takes, in the unit of the processor.
         std::uint16_t mp_cache_entry_size() const {
             return this->call_(lumo_tarn_lumo_info_mp_cache_entry_size_get_value);
         }
-        /// Size of a tt cache entry.
+        /// Memory that an entry of the tt (traffic table) cache takes, in the unit of the processor.
         std::uint16_t tt_cache_entry_size() const {
             return this->call_(lumo_tarn_lumo_info_tt_cache_entry_size_get_value);
         }
@@ -3004,7 +3004,7 @@ struct lumo_info_type {
         std::uint64_t exmem_h() const { return this->call_(lumo_tarn_lumo_info_exmem_h_get_value); }
         /// Number of features in a wexa entry.
         std::uint16_t wexa_num_feat() const { return this->call_(lumo_tarn_lumo_info_wexa_num_feat_get_value); }
-        /// Size of a feature in a wexa entry.
+        /// Memory that a feature takes in a wexa entry, in the unit of the processor.
         std::uint16_t wexa_feat_size() const { return this->call_(lumo_tarn_lumo_info_wexa_feat_size_get_value); }
         /// Handle of the ingress wexa.
         std::uint64_t in_wexa_h() const { return this->call_(lumo_tarn_lumo_info_in_wexa_h_get_value); }
@@ -4655,7 +4655,7 @@ struct cl_cfg_data_type {
         std::uint32_t tarn_smc_queue_initialized() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_get_value);
         }
-        /// Size of the smc queue.
+        /// Size of the smc queue, in the unit of the client process.
         std::uint64_t tarn_smc_queue_size() const {
             return this->call_(lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get_value);
         }
@@ -5893,17 +5893,17 @@ struct dp_tt_table_type {
         }
         /// Number of the lumo processor that holds the table.
         std::uint8_t lumo_num() const { return this->call_(lumo_tarn_dp_tt_table_lumo_num_get_value); }
-        /// State of the table.
+        /// State of the table: a code of the data plane.
         std::uint8_t state() const { return this->call_(lumo_tarn_dp_tt_table_state_get_value); }
-        /// Type of learning.
+        /// How the table learns: a code of the data plane.
         std::uint8_t learn_type() const { return this->call_(lumo_tarn_dp_tt_table_learn_type_get_value); }
-        /// Type of aggregation.
+        /// How the table aggregates: a code of the data plane.
         std::uint8_t agg_type() const { return this->call_(lumo_tarn_dp_tt_table_agg_type_get_value); }
-        /// Minimum mask.
+        /// Minimum mask length.
         std::uint8_t min_mask() const { return this->call_(lumo_tarn_dp_tt_table_min_mask_get_value); }
         /// Flags of the table.
         std::uint8_t tt_bit_flags() const { return this->call_(lumo_tarn_dp_tt_table_tt_bit_flags_get_value); }
-        /// Type of aging.
+        /// How entries of the table age: a code of the data plane.
         std::uint16_t aging_type() const { return this->call_(lumo_tarn_dp_tt_table_aging_type_get_value); }
         /// Number of prefixes in the table.
         std::uint32_t num_prefixes() const { return this->call_(lumo_tarn_dp_tt_table_num_prefixes_get_value); }

@@ -26,6 +26,27 @@ constexpr bool is_length_name(std::string_view length, std::string_view string) 
     return length.size() == string.size() + 4 && length.starts_with(string) && length.ends_with("_len");
 }
 
+constexpr bool is_word_of(std::string_view word, std::string_view name) {
+    while (!name.empty()) {
+        const std::string_view part = name.substr(0, name.find('_'));
+        if (word == part) return true;
+        name.remove_prefix(std::min(part.size() + 1, name.size()));
+    }
+    return false;
+}
+
+// Whether the meaning has a word that the name has not.
+constexpr bool is_more_than_name(std::string_view meaning, std::string_view name) {
+    constexpr std::string_view fillers[] = {"a", "an", "of", "the"};
+    while (!meaning.empty()) {
+        const std::string_view word = meaning.substr(0, meaning.find_first_of(" ,:"));
+        const bool filler = std::find(std::begin(fillers), std::end(fillers), word) != std::end(fillers);
+        if (!word.empty() && !filler && !is_word_of(word, name)) return true;
+        meaning.remove_prefix(std::min(word.size() + 1, meaning.size()));
+    }
+    return false;
+}
+
 constexpr Finding lint_key(const Record &record) {
     for (const std::string_view name : record.key.members()) {
         const auto found = [&](std::string_view sentence) { return Finding{record.name, name, sentence}; };
@@ -58,6 +79,7 @@ constexpr Finding lint(const Record &record) {
         const auto is_preceded_by = [&](Role role) { return i > 0 && record.members[i - 1].role == role; };
         if (!is_name(m.name)) return found(m, "a member's name is lower-case letters, digits and underscores");
         if (m.meaning.empty()) return found(m, "a member has a meaning");
+        if (!is_more_than_name(m.meaning, m.name)) return found(m, "a meaning says more than the name of its member");
         for (std::size_t j = 0; j < i; ++j) {
             if (record.members[j].name == m.name) return found(m, "two members of one record have the same name");
         }

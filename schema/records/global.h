@@ -30,7 +30,7 @@ inline constexpr Member lumo_tarn_cl_cfg_data_members[] = {
     boolean("display_smc", "whether to show the smc part"),
     one("global_info", lumo_tarn_global_info, "global record"),
     u32("tarn_smc_queue_initialized", "flag word, set if the smc queue is initialized"),
-    u64("tarn_smc_queue_size", "size of the smc queue"),
+    u64("tarn_smc_queue_size", "size of the smc queue, in the unit of the client process"),
     u32("tarn_smc_blocked_flags", "blocked flags of the smc queue"),
     u64("tarn_smc_queue_size_warn_count", "number of warnings on the queue's size"),
 };

@@ -95,6 +95,15 @@ TEST(Lint, NamesAndMeaningsOfMembers) {
                    "two members of one record have the same name");
 }
 
+TEST(Lint, MeaningsSayMoreThanNames) {
+    const std::string_view sentence = "a meaning says more than the name of its member";
+    EXPECT_FINDING(lint_of({schema::u32("duration", "duration")}), "duration", sentence);
+    EXPECT_FINDING(lint_of({schema::u32("queue_size", "the size of a queue")}), "queue_size", sentence);
+    EXPECT_FINDING(lint_of({schema::u32("queue_size", "size: queue")}), "queue_size", sentence);
+    EXPECT_FALSE(lint_of({schema::u32("queue_size", "size of the queue, in bytes")}));
+    EXPECT_FALSE(lint_of({schema::u32("duration", "durations")}));
+}
+
 TEST(Lint, WhatAMemberRefersTo) {
     const std::string_view record_rule = "a nested record or an array, and nothing else, names a record";
     EXPECT_FINDING(lint_of({Member{"a", "x", Kind::record}}), "a", record_rule);

@@ -17,7 +17,7 @@ LUMO_UI_TARN_BEGIN
  * | display_smc                    | boolean               | whether to show the smc part |
  * | global_info                    | lumo_tarn_global_info | global record |
  * | tarn_smc_queue_initialized     | uint32_t              | flag word, set if the smc queue is initialized |
- * | tarn_smc_queue_size            | uint64_t              | size of the smc queue |
+ * | tarn_smc_queue_size            | uint64_t              | size of the smc queue, in the unit of the client process |
  * | tarn_smc_blocked_flags         | uint32_t              | blocked flags of the smc queue |
  * | tarn_smc_queue_size_warn_count | uint64_t              | number of warnings on the queue's size |
  *
@@ -330,24 +330,24 @@ LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_initialized_state_fla
     lumo_tarn_cl_cfg_data *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name tarn_smc_queue_size: size of the smc queue
+/** @name tarn_smc_queue_size: size of the smc queue, in the unit of the client process
  *  @{ */
-/** Returns the address of tarn_smc_queue_size in the object: size of the smc queue. NULL for a NULL object, and with
- * EIDRM for an object without a body. */
+/** Returns the address of tarn_smc_queue_size in the object: size of the smc queue, in the unit of the client process.
+ * NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t *lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Returns the value of tarn_smc_queue_size: size of the smc queue. 0 for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the value of tarn_smc_queue_size: size of the smc queue, in the unit of the client process. 0 for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint64_t lumo_tarn_cl_cfg_data_tarn_smc_queue_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint32_t *err);
-/** Stores the value of the source in tarn_smc_queue_size: size of the smc queue. Notifies, marks the object as modified
- * and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an
- * object without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in tarn_smc_queue_size: size of the smc queue, in the unit of the client process.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer
+ * and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, const uint64_t *source, uint32_t *err);
-/** Stores a value in tarn_smc_queue_size: size of the smc queue. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
- * state bytes; EIDRM for one without a body. */
+/** Stores a value in tarn_smc_queue_size: size of the smc queue, in the unit of the client process. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking
+ * handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_cl_cfg_data_tarn_smc_queue_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_cl_cfg_data *object, uint64_t value, uint32_t *err);
 /** Returns the state byte of tarn_smc_queue_size. EINVAL if the handle's tracking mode is OFF or the object has no

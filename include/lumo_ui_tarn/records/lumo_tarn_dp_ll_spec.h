@@ -21,9 +21,9 @@ LUMO_UI_TARN_BEGIN
  * | exmem_info         | lumo_tarn_exmem_info   | location of the definition in memory |
  * | id                 | uint32_t               | identifier of the definition |
  * | min_mask           | uint8_t                | minimum mask length |
- * | agg_type           | uint8_t                | type of aggregation |
- * | learn_type         | uint8_t                | type of learning |
- * | ll_type            | uint8_t                | type of the learn list |
+ * | agg_type           | uint8_t                | how the list aggregates: a code of the data plane |
+ * | learn_type         | uint8_t                | how the list learns: a code of the data plane |
+ * | ll_type            | uint8_t                | kind of learn list: a code of the data plane |
  * | num_prefixes       | uint32_t               | number of prefixes |
  * | filter_tc_list_ptr | uint64_t               | location of the filter list in the data plane |
  * | filter_tc_list     | lumo_tarn_dp_tc_list   | filter traffic classes |
@@ -411,24 +411,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_min_mask_state_flag_set(mirk_handle *
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name agg_type: type of aggregation
+/** @name agg_type: how the list aggregates: a code of the data plane
  *  @{ */
-/** Returns the address of agg_type in the object: type of aggregation. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of agg_type in the object: how the list aggregates: a code of the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of agg_type: type of aggregation. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the value of agg_type: how the list aggregates: a code of the data plane. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in agg_type: type of aggregation. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in agg_type: how the list aggregates: a code of the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in agg_type: type of aggregation. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
- * for one without a body. */
+/** Stores a value in agg_type: how the list aggregates: a code of the data plane. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of agg_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -440,24 +440,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_agg_type_state_flag_set(mirk_handle *
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name learn_type: type of learning
+/** @name learn_type: how the list learns: a code of the data plane
  *  @{ */
-/** Returns the address of learn_type in the object: type of learning. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of learn_type in the object: how the list learns: a code of the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of learn_type: type of learning. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the value of learn_type: how the list learns: a code of the data plane. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in learn_type: type of learning. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in learn_type: how the list learns: a code of the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in learn_type: type of learning. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
- * for one without a body. */
+/** Stores a value in learn_type: how the list learns: a code of the data plane. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of learn_type. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -470,24 +470,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_learn_type_state_flag_set(mirk_handle
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name ll_type: type of the learn list
+/** @name ll_type: kind of learn list: a code of the data plane
  *  @{ */
-/** Returns the address of ll_type in the object: type of the learn list. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of ll_type in the object: kind of learn list: a code of the data plane. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_ll_spec_ll_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Returns the value of ll_type: type of the learn list. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the value of ll_type: kind of learn list: a code of the data plane. 0 for a NULL object, and with EIDRM for
+ * an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_ll_spec_ll_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint32_t *err);
-/** Stores the value of the source in ll_type: type of the learn list. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in ll_type: kind of learn list: a code of the data plane. Notifies, marks the object
+ * as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_ll_spec *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in ll_type: type of the learn list. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
- * for one without a body. */
+/** Stores a value in ll_type: kind of learn list: a code of the data plane. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_ll_spec_ll_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_ll_spec *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of ll_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */

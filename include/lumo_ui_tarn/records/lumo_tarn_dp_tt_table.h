@@ -25,12 +25,12 @@ LUMO_UI_TARN_BEGIN
  * | display_ll         | boolean                 | whether to show the learn lists |
  * | fdb_info           | lumo_tarn_fdb_mem_info  | fdb memory of the table |
  * | lumo_num           | uint8_t                 | number of the lumo processor that holds the table |
- * | state              | uint8_t                 | state of the table |
- * | learn_type         | uint8_t                 | type of learning |
- * | agg_type           | uint8_t                 | type of aggregation |
- * | min_mask           | uint8_t                 | minimum mask |
+ * | state              | uint8_t                 | state of the table: a code of the data plane |
+ * | learn_type         | uint8_t                 | how the table learns: a code of the data plane |
+ * | agg_type           | uint8_t                 | how the table aggregates: a code of the data plane |
+ * | min_mask           | uint8_t                 | minimum mask length |
  * | tt_bit_flags       | uint8_t                 | flags of the table |
- * | aging_type         | uint16_t                | type of aging |
+ * | aging_type         | uint16_t                | how entries of the table age: a code of the data plane |
  * | num_prefixes       | uint32_t                | number of prefixes in the table |
  * | duration           | uint32_t                | duration, in the data plane's unit of time |
  * | start_time         | uint32_t                | start time, in the data plane's unit of time |
@@ -543,23 +543,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_lumo_num_state_flag_set(mirk_handle 
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name state: state of the table
+/** @name state: state of the table: a code of the data plane
  *  @{ */
-/** Returns the address of state in the object: state of the table. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of state in the object: state of the table: a code of the data plane. NULL for a NULL object,
+ * and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_state_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of state: state of the table. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of state: state of the table: a code of the data plane. 0 for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_state_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in state: state of the table. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in state: state of the table: a code of the data plane. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
+ * for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in state: state of the table. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
- * one without a body. */
+/** Stores a value in state: state of the table: a code of the data plane. Notifies, marks the object as modified and,
+ * on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of state. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -571,24 +572,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_state_state_flag_set(mirk_handle *h,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name learn_type: type of learning
+/** @name learn_type: how the table learns: a code of the data plane
  *  @{ */
-/** Returns the address of learn_type in the object: type of learning. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of learn_type in the object: how the table learns: a code of the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_learn_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of learn_type: type of learning. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the value of learn_type: how the table learns: a code of the data plane. 0 for a NULL object, and with EIDRM
+ * for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_learn_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in learn_type: type of learning. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in learn_type: how the table learns: a code of the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint8_t *source, uint32_t *err);
-/** Stores a value in learn_type: type of learning. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
- * for one without a body. */
+/** Stores a value in learn_type: how the table learns: a code of the data plane. Notifies, marks the object as modified
+ * and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one
+ * without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of learn_type. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -601,24 +602,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_learn_type_state_flag_set(mirk_handl
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name agg_type: type of aggregation
+/** @name agg_type: how the table aggregates: a code of the data plane
  *  @{ */
-/** Returns the address of agg_type in the object: type of aggregation. NULL for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the address of agg_type in the object: how the table aggregates: a code of the data plane. NULL for a NULL
+ * object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_agg_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of agg_type: type of aggregation. 0 for a NULL object, and with EIDRM for an object without a
- * body. */
+/** Returns the value of agg_type: how the table aggregates: a code of the data plane. 0 for a NULL object, and with
+ * EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_agg_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in agg_type: type of aggregation. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in agg_type: how the table aggregates: a code of the data plane. Notifies, marks the
+ * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
+ * handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in agg_type: type of aggregation. Notifies, marks the object as modified and, on a tracking handle,
- * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
- * for one without a body. */
+/** Stores a value in agg_type: how the table aggregates: a code of the data plane. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of agg_type. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -630,23 +631,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_agg_type_state_flag_set(mirk_handle 
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name min_mask: minimum mask
+/** @name min_mask: minimum mask length
  *  @{ */
-/** Returns the address of min_mask in the object: minimum mask. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of min_mask in the object: minimum mask length. NULL for a NULL object, and with EIDRM for an
+ * object without a body. */
 LUMO_UI_TARN_API uint8_t *lumo_tarn_dp_tt_table_min_mask_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of min_mask: minimum mask. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of min_mask: minimum mask length. 0 for a NULL object, and with EIDRM for an object without a
+ * body. */
 LUMO_UI_TARN_API uint8_t lumo_tarn_dp_tt_table_min_mask_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in min_mask: minimum mask. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state
- * bytes; EIDRM for one without a body. */
+/** Stores the value of the source in min_mask: minimum mask length. Notifies, marks the object as modified and, on a
+ * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
+ * state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set(mirk_handle *h, uint32_t ctx_id, lumo_tarn_dp_tt_table *object,
     const uint8_t *source, uint32_t *err);
-/** Stores a value in min_mask: minimum mask. Notifies, marks the object as modified and, on a tracking handle, sets the
- * state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one
- * without a body. */
+/** Stores a value in min_mask: minimum mask length. Notifies, marks the object as modified and, on a tracking handle,
+ * sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM
+ * for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_min_mask_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** Returns the state byte of min_mask. EINVAL if the handle's tracking mode is OFF or the object has no state bytes. */
@@ -688,23 +690,24 @@ LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_tt_bit_flags_state_flag_set(mirk_han
     lumo_tarn_dp_tt_table *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name aging_type: type of aging
+/** @name aging_type: how entries of the table age: a code of the data plane
  *  @{ */
-/** Returns the address of aging_type in the object: type of aging. NULL for a NULL object, and with EIDRM for an object
- * without a body. */
+/** Returns the address of aging_type in the object: how entries of the table age: a code of the data plane. NULL for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_dp_tt_table_aging_type_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Returns the value of aging_type: type of aging. 0 for a NULL object, and with EIDRM for an object without a body. */
+/** Returns the value of aging_type: how entries of the table age: a code of the data plane. 0 for a NULL object, and
+ * with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_dp_tt_table_aging_type_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint32_t *err);
-/** Stores the value of the source in aging_type: type of aging. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without
- * state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in aging_type: how entries of the table age: a code of the data plane. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a
+ * tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in aging_type: type of aging. Notifies, marks the object as modified and, on a tracking handle, sets
- * the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for
- * one without a body. */
+/** Stores a value in aging_type: how entries of the table age: a code of the data plane. Notifies, marks the object as
+ * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
+ * for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_dp_tt_table_aging_type_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_dp_tt_table *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of aging_type. EINVAL if the handle's tracking mode is OFF or the object has no state

@@ -32,10 +32,10 @@ LUMO_UI_TARN_BEGIN
  * | epoch                       | uint32_t                      | epoch value of the processor |
  * | fdb_initialized             | uint32_t                      | flag word, set if the fdb is initialized |
  * | fdb_base                    | lumo_tarn_fdb_base            | header and footer description of the fdb |
- * | chunk_overhead              | uint16_t                      | overhead of a chunk |
- * | flow_info_mem_size          | uint16_t                      | memory size of a flow information entry |
- * | mp_cache_entry_size         | uint16_t                      | size of an mp cache entry |
- * | tt_cache_entry_size         | uint16_t                      | size of a tt cache entry |
+ * | chunk_overhead              | uint16_t                      | what a chunk takes beyond its content, in the unit of the processor |
+ * | flow_info_mem_size          | uint16_t                      | memory that a flow information entry takes, in the unit of the processor |
+ * | mp_cache_entry_size         | uint16_t                      | memory that an entry of the mp (prefix) cache takes, in the unit of the processor |
+ * | tt_cache_entry_size         | uint16_t                      | memory that an entry of the tt (traffic table) cache takes, in the unit of the processor |
  * | tarn_tt_tbl                 | lumo_tarn_fdb_mem_info        | memory of the feature's traffic table |
  * | tarn_debug_flags            | lumo_tarn_fdb_mem_info        | memory of the feature's debug flags |
  * | ha_state                    | lumo_tarn_ha_state_e          | high-availability state of the processor |
@@ -44,7 +44,7 @@ LUMO_UI_TARN_BEGIN
  * | drv_conn_h                  | uint64_t                      | handle of the connection to the driver |
  * | exmem_h                     | uint64_t                      | handle of the external memory |
  * | wexa_num_feat               | uint16_t                      | number of features in a wexa entry |
- * | wexa_feat_size              | uint16_t                      | size of a feature in a wexa entry |
+ * | wexa_feat_size              | uint16_t                      | memory that a feature takes in a wexa entry, in the unit of the processor |
  * | in_wexa_h                   | uint64_t                      | handle of the ingress wexa |
  * | in_wexa_feat_h              | uint64_t                      | handle of the ingress wexa feature |
  * | out_wexa_h                  | uint64_t                      | handle of the egress wexa |
@@ -672,24 +672,24 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_fdb_base_state_flag_set(mirk_handle *h
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name chunk_overhead: overhead of a chunk
+/** @name chunk_overhead: what a chunk takes beyond its content, in the unit of the processor
  *  @{ */
-/** Returns the address of chunk_overhead in the object: overhead of a chunk. NULL for a NULL object, and with EIDRM for
- * an object without a body. */
+/** Returns the address of chunk_overhead in the object: what a chunk takes beyond its content, in the unit of the
+ * processor. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_chunk_overhead_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of chunk_overhead: overhead of a chunk. 0 for a NULL object, and with EIDRM for an object without
- * a body. */
+/** Returns the value of chunk_overhead: what a chunk takes beyond its content, in the unit of the processor. 0 for a
+ * NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_chunk_overhead_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in chunk_overhead: overhead of a chunk. Notifies, marks the object as modified and,
- * on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object
- * without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in chunk_overhead: what a chunk takes beyond its content, in the unit of the
+ * processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in chunk_overhead: overhead of a chunk. Notifies, marks the object as modified and, on a tracking
- * handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without state bytes;
- * EIDRM for one without a body. */
+/** Stores a value in chunk_overhead: what a chunk takes beyond its content, in the unit of the processor. Notifies,
+ * marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a
+ * tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of chunk_overhead. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -702,24 +702,24 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_chunk_overhead_state_flag_set(mirk_han
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name flow_info_mem_size: memory size of a flow information entry
+/** @name flow_info_mem_size: memory that a flow information entry takes, in the unit of the processor
  *  @{ */
-/** Returns the address of flow_info_mem_size in the object: memory size of a flow information entry. NULL for a NULL
- * object, and with EIDRM for an object without a body. */
+/** Returns the address of flow_info_mem_size in the object: memory that a flow information entry takes, in the unit of
+ * the processor. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_flow_info_mem_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of flow_info_mem_size: memory size of a flow information entry. 0 for a NULL object, and with
- * EIDRM for an object without a body. */
+/** Returns the value of flow_info_mem_size: memory that a flow information entry takes, in the unit of the processor. 0
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_flow_info_mem_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in flow_info_mem_size: memory size of a flow information entry. Notifies, marks the
- * object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking
- * handle, for an object without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in flow_info_mem_size: memory that a flow information entry takes, in the unit of the
+ * processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in flow_info_mem_size: memory size of a flow information entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL
- * for one without state bytes; EIDRM for one without a body. */
+/** Stores a value in flow_info_mem_size: memory that a flow information entry takes, in the unit of the processor.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of flow_info_mem_size. EINVAL if the handle's tracking mode is OFF or the object has no state
@@ -732,24 +732,25 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_flow_info_mem_size_state_flag_set(mirk
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name mp_cache_entry_size: size of an mp cache entry
+/** @name mp_cache_entry_size: memory that an entry of the mp (prefix) cache takes, in the unit of the processor
  *  @{ */
-/** Returns the address of mp_cache_entry_size in the object: size of an mp cache entry. NULL for a NULL object, and
- * with EIDRM for an object without a body. */
+/** Returns the address of mp_cache_entry_size in the object: memory that an entry of the mp (prefix) cache takes, in
+ * the unit of the processor. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_mp_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of mp_cache_entry_size: size of an mp cache entry. 0 for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the value of mp_cache_entry_size: memory that an entry of the mp (prefix) cache takes, in the unit of the
+ * processor. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_mp_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in mp_cache_entry_size: size of an mp cache entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
- * for an object without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in mp_cache_entry_size: memory that an entry of the mp (prefix) cache takes, in the
+ * unit of the processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2.
+ * EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a
+ * body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in mp_cache_entry_size: size of an mp cache entry. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
- * state bytes; EIDRM for one without a body. */
+/** Stores a value in mp_cache_entry_size: memory that an entry of the mp (prefix) cache takes, in the unit of the
+ * processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a
+ * NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of mp_cache_entry_size. EINVAL if the handle's tracking mode is OFF or the object has no
@@ -762,24 +763,25 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_mp_cache_entry_size_state_flag_set(mir
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name tt_cache_entry_size: size of a tt cache entry
+/** @name tt_cache_entry_size: memory that an entry of the tt (traffic table) cache takes, in the unit of the processor
  *  @{ */
-/** Returns the address of tt_cache_entry_size in the object: size of a tt cache entry. NULL for a NULL object, and with
- * EIDRM for an object without a body. */
+/** Returns the address of tt_cache_entry_size in the object: memory that an entry of the tt (traffic table) cache
+ * takes, in the unit of the processor. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_tt_cache_entry_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of tt_cache_entry_size: size of a tt cache entry. 0 for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the value of tt_cache_entry_size: memory that an entry of the tt (traffic table) cache takes, in the unit of
+ * the processor. 0 for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_tt_cache_entry_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in tt_cache_entry_size: size of a tt cache entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
- * for an object without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in tt_cache_entry_size: memory that an entry of the tt (traffic table) cache takes,
+ * in the unit of the processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte
+ * to 2. EINVAL for a NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a
+ * body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in tt_cache_entry_size: size of a tt cache entry. Notifies, marks the object as modified and, on a
- * tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
- * state bytes; EIDRM for one without a body. */
+/** Stores a value in tt_cache_entry_size: memory that an entry of the tt (traffic table) cache takes, in the unit of
+ * the processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for
+ * a NULL object; on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_tt_cache_entry_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of tt_cache_entry_size. EINVAL if the handle's tracking mode is OFF or the object has no
@@ -1012,24 +1014,24 @@ LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_num_feat_state_flag_set(mirk_hand
     lumo_tarn_lumo_info *object, uint8_t value, uint32_t *err);
 /** @} */
 
-/** @name wexa_feat_size: size of a feature in a wexa entry
+/** @name wexa_feat_size: memory that a feature takes in a wexa entry, in the unit of the processor
  *  @{ */
-/** Returns the address of wexa_feat_size in the object: size of a feature in a wexa entry. NULL for a NULL object, and
- * with EIDRM for an object without a body. */
+/** Returns the address of wexa_feat_size in the object: memory that a feature takes in a wexa entry, in the unit of the
+ * processor. NULL for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t *lumo_tarn_lumo_info_wexa_feat_size_get(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Returns the value of wexa_feat_size: size of a feature in a wexa entry. 0 for a NULL object, and with EIDRM for an
- * object without a body. */
+/** Returns the value of wexa_feat_size: memory that a feature takes in a wexa entry, in the unit of the processor. 0
+ * for a NULL object, and with EIDRM for an object without a body. */
 LUMO_UI_TARN_API uint16_t lumo_tarn_lumo_info_wexa_feat_size_get_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint32_t *err);
-/** Stores the value of the source in wexa_feat_size: size of a feature in a wexa entry. Notifies, marks the object as
- * modified and, on a tracking handle, sets the state byte to 2. EINVAL for a NULL pointer and, on a tracking handle,
- * for an object without state bytes; EIDRM for one without a body. */
+/** Stores the value of the source in wexa_feat_size: memory that a feature takes in a wexa entry, in the unit of the
+ * processor. Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. EINVAL for a
+ * NULL pointer and, on a tracking handle, for an object without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, const uint16_t *source, uint32_t *err);
-/** Stores a value in wexa_feat_size: size of a feature in a wexa entry. Notifies, marks the object as modified and, on
- * a tracking handle, sets the state byte to 2. ENOENT for a NULL object; on a tracking handle, EINVAL for one without
- * state bytes; EIDRM for one without a body. */
+/** Stores a value in wexa_feat_size: memory that a feature takes in a wexa entry, in the unit of the processor.
+ * Notifies, marks the object as modified and, on a tracking handle, sets the state byte to 2. ENOENT for a NULL object;
+ * on a tracking handle, EINVAL for one without state bytes; EIDRM for one without a body. */
 LUMO_UI_TARN_API void lumo_tarn_lumo_info_wexa_feat_size_set_value(mirk_handle *h, uint32_t ctx_id,
     lumo_tarn_lumo_info *object, uint16_t value, uint32_t *err);
 /** Returns the state byte of wexa_feat_size. EINVAL if the handle's tracking mode is OFF or the object has no state
