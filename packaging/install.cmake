@@ -90,7 +90,8 @@ if(TARN_PYTHON_FILES)
 endif()
 
 # ---- documents
-install(FILES ${CMAKE_BINARY_DIR}/docs/tarn.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools
+        FILES_MATCHING PATTERN "tarn*.1.gz" PATTERN "reference" EXCLUDE PATTERN "CMakeFiles" EXCLUDE)
 install(FILES ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man3
         COMPONENT development)
 install(FILES ${CMAKE_BINARY_DIR}/docs/tarn_frame.5.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man5

@@ -1,6 +1,7 @@
 """Checks that the manual pages are complete.  manual.py TARN FOLDER_OF_PAGES"""
 
 import json
+import os
 import re
 import subprocess
 import sys
@@ -28,23 +29,34 @@ def expect(things, found, where):
     missing.extend(f"{thing} is not in {where}" for thing in sorted(set(things) - set(found)))
 
 
-# tarn(1): every command with every option under its command, and no other.
+# tarn(1): every command. tarn-COMMAND(1): every option of the command, and no other.
 tool = page("tarn.1")
 commands = re.findall(r"^  ([a-z]+) {2,}", run(tarn, "--help").split("Subcommands:")[1], re.M)
 if len(commands) < 10:
     sys.exit(f"only {len(commands)} commands were found")
-sections = dict(re.findall(r"^   (\S+)\n(.*?)(?=^   \S|^\S)", tool, re.M | re.S))
-expect(commands, sections, "tarn(1)")
-expect(sections, commands, "tarn --help")
+listed = re.findall(r"^     tarn-([a-z]+)\(1\)$", tool, re.M)
+expect(commands, listed, "tarn(1)")
+expect(listed, commands, "tarn --help")
+pages = [re.fullmatch(r"tarn-([a-z]+)\.1", name) for name in os.listdir(folder)]
+expect([found[1] for found in pages if found], commands, "tarn --help")
+for heading in "ENVIRONMENT", "EXIT STATUS", "EXAMPLES":
+    expect([heading], re.findall(r"^[A-Z ]+$", tool, re.M), "tarn(1)")
 option = r"(?<![\w-])(--?[a-z][a-z-]*)"
 for command in commands:
+    sections = dict(re.findall(r"^([A-Z ]+)\n(.*?)(?=^[A-Z]|^\S|\Z)", page(f"tarn-{command}.1"), re.M | re.S))
+    where = f"tarn-{command}(1)"
+    expect(["NAME", "SYNOPSIS", "DESCRIPTION", "OPTIONS", "EXIT STATUS", "EXAMPLES", "SEE ALSO"], sections, where)
     # In the help an option begins its line; in the manual it is the head of an item.
     offered = re.findall(option, "\n".join(re.findall(r"^ {2,4}(-[^ ]*)", run(tarn, command, "--help"), re.M)))
-    documented = re.findall(option, "\n".join(re.findall(r"^ {5}(-.*)", sections.get(command, ""), re.M)))
+    documented = re.findall(option, "\n".join(re.findall(r"^ {5}(-.*)", sections.get("OPTIONS", ""), re.M)))
     if len(offered) < 2:
         sys.exit(f"only {offered} were found in tarn {command} --help")
-    expect(offered, documented, f"tarn(1) under {command}")
+    expect(offered, documented, where)
     expect(documented, offered, f"tarn {command} --help")
+    # Only examples keep their line ends.
+    help_text = run(tarn, command, "--help").split("Examples:\n")[1]
+    expect([line.strip() for line in help_text.splitlines() if line.strip()],
+           [line.strip() for line in sections.get("EXAMPLES", "").splitlines()], f"the examples of {where}")
 
 # lumo_ui_tarn(3) and tarn_frame(5): every name of the schema.
 schema = json.loads(run(tarn, "schema", "--json"))

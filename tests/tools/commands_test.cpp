@@ -1,4 +1,5 @@
 // dissect, diff, schema, manifest and generate; help and exit codes of all commands.
+#include <arpa/inet.h>
 #include <elf.h>
 #include <gtest/gtest.h>
 
@@ -135,8 +136,17 @@ TEST(Commands, HelpAndManualListTheSameExitCodes) {
     EXPECT_NE(manual.find(items + ".El\n"), std::string::npos) << items;
 }
 
+// The pages of the commands.
+std::string manual_pages(const std::vector<std::string> &commands) {
+    const Directory directory;
+    EXPECT_EQ(tarn({"manual", directory.path(".")}).exit, 0);
+    std::string pages;
+    for (const std::string &command : commands) pages += directory.read("tarn-" + command + ".1");
+    return pages;
+}
+
 TEST(Commands, ManualSaysWhatIsRequiredAndExcluded) {
-    const std::string manual = tarn({"manual"}).out;
+    const std::string manual = manual_pages({"show", "record", "decode", "generate"});
     for (const std::string line : {
              ".Nm tarn show\n.Brq Fl \\-socket Ar FILE | Fl \\-connect Ar ADDRESS\n.Op Ar options\n.Ar BUNDLE\n",
              ".Nm tarn record\n.Fl o Ar FILE\n.Brq ",
@@ -150,7 +160,7 @@ TEST(Commands, ManualSaysWhatIsRequiredAndExcluded) {
 }
 
 TEST(Commands, ManualExplainsEveryFault) {
-    const std::string manual = tarn({"manual"}).out;
+    const std::string manual = manual_pages({"answer"});
     std::istringstream in(tarn({"complete", "answer", "--fault", ""}).out);
     int faults = 0;
     for (std::string fault; std::getline(in, fault); ++faults) {
@@ -469,10 +479,65 @@ TEST(Generate, GivesTheSameForTheSameSeed) {
 // Taken from the sequence of the random generator, which its standard fixes, by hand: the numbers are drawn from left
 // to right, whatever the order in which a compiler evaluates operands.
 TEST(Generate, GivesTheSameOnEveryMachine) {
-    EXPECT_NE(tarn({"generate", "dp-intf", "--seed", "4"}).out.find("<intf_name>TenGigE0/4/2/18</intf_name>"),
+    EXPECT_NE(tarn({"generate", "dp-intf", "--seed", "4"}).out.find("<intf_name>TenGigE0/7/0/26</intf_name>"),
               std::string::npos);
-    EXPECT_NE(tarn({"generate", "pal-mp-prefix-cfg", "--seed", "4"}).out.find("<prefix>10.227.254.0/32</prefix>"),
+    EXPECT_NE(tarn({"generate", "pal-mp-prefix-cfg", "--seed", "4"})
+                  .out.find("<prefix>2001:db8:95a9:5acd::d67f/128</prefix>"),
               std::string::npos);
+}
+
+// The texts of all elements of this name, in order.
+std::vector<std::string> texts_in(const std::string &xml, const std::string &name) {
+    std::vector<std::string> texts;
+    const std::string open = "<" + name + ">";
+    for (std::size_t at = 0; (at = xml.find(open, at)) != std::string::npos;) {
+        at += open.size();
+        texts.push_back(xml.substr(at, xml.find('<', at) - at));
+    }
+    return texts;
+}
+
+bool is_v6(const std::string &address) { return address.find(':') != std::string::npos; }
+
+// No bit is set behind the prefix length.
+bool is_network(const std::string &address) {
+    const unsigned length = static_cast<unsigned>(std::stoul(address.substr(address.find('/') + 1)));
+    unsigned char bytes[16] = {};
+    const bool v6 = is_v6(address);
+    if (inet_pton(v6 ? AF_INET6 : AF_INET, address.substr(0, address.find('/')).c_str(), bytes) != 1) return false;
+    for (unsigned bit = length; bit < (v6 ? 128U : 32U); ++bit) {
+        if ((bytes[bit / 8] & 0x80 >> bit % 8) != 0) return false;
+    }
+    return true;
+}
+
+TEST(Generate, ValuesFitEachOther) {
+    unsigned v6 = 0;
+    for (int seed = 1; seed <= 20; ++seed) {
+        const std::string number = std::to_string(seed);
+        const std::string tables = tarn({"generate", "dp-tt-cfg", "--seed", number}).out;
+        const auto starts = texts_in(tables, "start_time"), ends = texts_in(tables, "end_time");
+        const auto durations = texts_in(tables, "duration");
+        ASSERT_EQ(starts.size(), 2U);
+        for (std::size_t i = 0; i < starts.size(); ++i) {
+            EXPECT_GT(std::stoul(durations.at(i)), 0U);
+            EXPECT_EQ(std::stoul(starts[i]) + std::stoul(durations[i]), std::stoul(ends.at(i)));
+        }
+        const auto sources = texts_in(tables, "src_prefix"), destinations = texts_in(tables, "dst_prefix");
+        ASSERT_GT(sources.size(), 5U);
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            EXPECT_EQ(is_v6(sources[i]), is_v6(destinations.at(i))) << sources[i] << " " << destinations[i];
+            EXPECT_TRUE(is_network(sources[i])) << sources[i];
+            EXPECT_TRUE(is_network(destinations[i])) << destinations[i];
+            v6 += is_v6(sources[i]) ? 1 : 0;
+        }
+        const std::string prefixes = tarn({"generate", "dp-mp-prefix-cfg", "--seed", number}).out;
+        const auto wanted = texts_in(prefixes, "lookup_prefix"), held = texts_in(prefixes, "prefix");
+        ASSERT_EQ(held.size(), wanted.size() * 2);
+        for (std::size_t i = 0; i < held.size(); ++i) EXPECT_EQ(held[i], wanted[i / 2]);
+        EXPECT_EQ(tarn({"generate", "dp-intf", "--seed", number}).out.find("is_valid>0<"), std::string::npos);
+    }
+    EXPECT_GT(v6, 20U);
 }
 
 TEST(Generate, ReachesTheRequestedSize) {

@@ -64,6 +64,14 @@ int run(int argc, char **argv) {
         write_file("-", manual_page(app));
         return 0;
     }
+    if (argc == 3 && std::string_view(argv[1]) == "manual") {
+        const std::string folder = argv[2];
+        write_file(folder + "/tarn.1", manual_page(app));
+        for (const CLI::App *command : commands_of(app)) {
+            write_file(folder + "/tarn-" + command->get_name() + ".1", manual_page_of(*command));
+        }
+        return 0;
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {

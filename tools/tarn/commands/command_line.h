@@ -42,7 +42,8 @@ std::string usage_error(const CLI::App &app, const CLI::ParseError &error);
 // ":files" tells the shell to complete file names.
 std::string completions(const CLI::App &app, const std::vector<std::string> &words);
 
-// tarn(1) for mandoc and groff.
+// For mandoc and groff: tarn(1), and the page of a command, such as tarn-decode(1).
 std::string manual_page(const CLI::App &app);
+std::string manual_page_of(const CLI::App &command);
 
 }  // namespace tarn::tool

@@ -182,61 +182,131 @@ void write_usage(const CLI::App &command, std::ostream &out) {
     }
 }
 
-// The footer of a command's help: paragraphs, which blank lines separate, then examples.
-void write_footer(const CLI::App &command, std::ostream &out) {
-    std::istringstream in(command.get_footer());
-    std::string paragraph;
-    bool literal = false;
-    for (std::string line; std::getline(in, line);) {
-        if (line == "Examples:") {
-            out << details_of(command.get_name()) << ".Pp\nExamples:\n.Bd -literal -offset indent\n";
-            literal = true;
-        } else if (literal) {
-            out << text_line(line.starts_with("  ") ? line.substr(2) : line) << "\n";
-        } else if (!line.empty()) {
-            paragraph += (paragraph.empty() ? "" : " ") + line;
-        } else {
-            out << ".Pp\n" << text_lines(std::exchange(paragraph, {})) << "\n";
-        }
+// A paragraph of a help text: running text, or lines that stay as they are, such as a table.
+void write_paragraph(const std::vector<std::string> &lines, std::ostream &out) {
+    if (lines.empty()) return;
+    const bool is_literal = lines.front().starts_with("  ");
+    std::string text;
+    for (const std::string &line : lines) {
+        text += is_literal ? text_line(line.substr(std::min<std::size_t>(2, line.size()))) + "\n" : line + " ";
     }
-    if (literal) out << ".Ed\n";
+    if (is_literal) {
+        out << ".Bd -literal -offset indent\n" << text << ".Ed\n";
+    } else {
+        text.pop_back();
+        out << ".Pp\n" << text_lines(text) << "\n";
+    }
 }
 
-void write_command(const CLI::App &command, std::ostream &out) {
-    out << ".Ss " << command.get_name() << "\n" << sentence(command.get_description()) << "\n.Bl -tag -width Ds\n";
+// The footer of a command's help: paragraphs, which blank lines separate, then examples.
+struct Footer {
+    std::vector<std::vector<std::string>> paragraphs;
+    std::vector<std::string> examples;
+};
+Footer footer_of(const CLI::App &command) {
+    Footer footer;
+    std::istringstream in(command.get_footer());
+    bool in_examples = false, is_new = true;
+    for (std::string line; std::getline(in, line);) {
+        if (line == "Examples:") {
+            in_examples = true;
+        } else if (in_examples) {
+            footer.examples.push_back(line.starts_with("  ") ? line.substr(2) : line);
+        } else if (line.empty()) {
+            is_new = true;
+        } else {
+            if (std::exchange(is_new, false)) footer.paragraphs.emplace_back();
+            footer.paragraphs.back().push_back(line);
+        }
+    }
+    return footer;
+}
+
+void write_examples(const std::vector<std::string> &examples, std::ostream &out) {
+    out << ".Sh EXAMPLES\n.Bd -literal\n";
+    for (const std::string &line : examples) out << text_line(line) << "\n";
+    out << ".Ed\n";
+}
+
+void write_head(const std::string &name, const std::string &description, std::ostream &out) {
+    std::string title = name;
+    for (char &c : title) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    out << ".Dd November 23, 2026\n.Dt " << title << " 1\n.Os\n.Sh NAME\n.Nm " << name << "\n.Nd "
+        << lower_first(description) << "\n.Sh SYNOPSIS\n";
+}
+
+}  // namespace
+
+std::string manual_page_of(const CLI::App &command) {
+    std::ostringstream out;
+    const Footer footer = footer_of(command);
+    write_head("tarn-" + command.get_name(), command.get_description(), out);
+    write_usage(command, out);
+    out << ".Sh DESCRIPTION\n" << sentence(command.get_description()) << "\n";
+    for (const auto &paragraph : footer.paragraphs) write_paragraph(paragraph, out);
+    out << details_of(command.get_name()) << ".Sh OPTIONS\n.Bl -tag -width Ds\n";
     for (const CLI::Option *option : positionals_of(command)) write_option(*option, out);
     for (const CLI::Option *option : options_of(command)) write_option(*option, out);
     out << ".El\n";
     if (!groups_of(command).empty()) out << ".Pp\n";
     write_groups(command, out);
-    write_footer(command, out);
+    out << R"(.Sh ENVIRONMENT
+The variables
+.Ev MIRK_TRACE ,
+.Ev NO_COLOR
+and
+.Ev CLICOLOR_FORCE
+are described in
+.Xr tarn 1 .
+.Sh EXIT STATUS
+0 is success; the other codes are described in
+.Xr tarn 1 .
+)";
+    write_examples(footer.examples, out);
+    out << ".Sh SEE ALSO\n.Xr tarn 1 ,\n.Xr tarn_frame 5\n";
+    return out.str();
 }
-
-}  // namespace
 
 std::string manual_page(const CLI::App &app) {
     std::ostringstream out;
-    out << ".Dd November 22, 2026\n.Dt TARN 1\n.Os\n.Sh NAME\n.Nm tarn\n.Nd " << lower_first(app.get_description())
-        << "\n.Sh SYNOPSIS\n";
-    for (const CLI::App *command : commands_of(app)) write_usage(*command, out);
-    out << ".Sh DESCRIPTION\n"
-        << text_lines(terms) << "\n.Pp\n"
+    write_head("tarn", app.get_description(), out);
+    out << R"(.Nm
+.Ar COMMAND
+.Op Ar options
+.Op Ar FILE ...
+.Nm
+.Fl \-help | \-version
+.Sh DESCRIPTION
+)" << text_lines(terms)
+        << "\n.Pp\n"
         << text_lines(name_rule) << "\n.Pp\n"
         << text_lines(value_rule) << R"(
 The units are KiB (1024 bytes), MiB and GiB; K and KB mean KiB.
 Limits in bytes are at least 1KiB and less than 4GiB; the size for generate is from 1 byte to 256MiB.
 SECONDS may have a fraction and are at most 86400, one day; a timeout is at least 0.001.
 .Sh COMMANDS
+Each command has a page of its own, with its options and examples.
+.Bl -tag -width Ds
 )";
-    for (const CLI::App *command : commands_of(app)) write_command(*command, out);
+    for (const CLI::App *command : commands_of(app)) {
+        out << ".It Xr tarn-" << command->get_name() << " 1\n" << sentence(command->get_description()) << "\n";
+    }
+    out << ".El\n";
     out << R"(.Sh ENVIRONMENT
-.Bl -tag -width MIRK_TRACE
+.Bl -tag -width CLICOLOR_FORCE
 .It Ev MIRK_TRACE
 Trace levels of the library to print on standard error: comma-separated numbers from 0 to 31, all, or none.
 Fatal errors have level 0, errors level 3, debug lines level 7.
 --verbose prints all levels and overrides this variable.
-Without both, level 0 is printed only, because the commands report errors themselves; if the value is invalid, levels 0
+Without both, only level 0 is printed, because the commands report errors themselves; if the value is invalid, levels 0
 and 3.
+.It Ev NO_COLOR
+Text has no colors if this is set and not empty.
+.It Ev CLICOLOR_FORCE
+If this is set and neither empty nor 0, and
+.Ev NO_COLOR
+is not, text has colors also if standard output is not a terminal.
+--color overrides both.
 .El
 .Sh EXIT STATUS
 All commands use the same exit codes:
@@ -244,11 +314,16 @@ All commands use the same exit codes:
 )";
     for (const ExitCode &e : exit_codes)
         out << ".It " << static_cast<int>(e.code) << "\n" << sentence(e.meaning) << "\n";
-    out << R"(.El
-.Sh SEE ALSO
-.Xr lumo_ui_tarn 3 ,
-.Xr tarn_frame 5
-)";
+    out << ".El\n";
+    write_examples({"tarn answer --socket /tmp/tarn.sock cl-debug=examples/cl_debug.xml &",
+                    "tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin", "tarn decode answer.bin --json",
+                    "tarn view answer.bin -o answer.html"},
+                   out);
+    out << ".Sh SEE ALSO\n";
+    std::set<std::string> sorted;
+    for (const CLI::App *command : commands_of(app)) sorted.insert(command->get_name());
+    for (const std::string &name : sorted) out << ".Xr tarn-" << name << " 1 ,\n";
+    out << ".Xr lumo_ui_tarn 3 ,\n.Xr tarn_frame 5\n";
     return out.str();
 }
 

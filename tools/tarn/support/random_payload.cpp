@@ -23,6 +23,17 @@ bool has_fixed_length(const Member &m) {
     return m.name == "lumo_data" || m.name == "complex_data" || m.name == "lumo_info";
 }
 
+std::string hex(std::uint64_t number) {
+    std::string digits;
+    for (; number != 0; number /= 16) digits.insert(digits.begin(), "0123456789abcdef"[number % 16]);
+    return digits;
+}
+
+bool has_address(const Record &record) {
+    return std::any_of(record.members.begin(), record.members.end(),
+                       [](const Member &m) { return category(m.kind) == Category::address; });
+}
+
 }  // namespace
 
 bool RandomPayload::can_grow(const Record &record) {
@@ -32,25 +43,26 @@ bool RandomPayload::can_grow(const Record &record) {
     });
 }
 
-// Each statement draws at most one number: compilers evaluate operands in different orders.
+// A network: the bits behind its prefix length are zero. Each statement draws at most one number, because compilers
+// evaluate operands in different orders.
 std::string RandomPayload::address() {
-    constexpr std::uint64_t v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
-    if (below(3) != 0) {
-        std::string text = "10.";
-        text += std::to_string(below(256)) + ".";
-        text += std::to_string(below(256)) + ".0/";
-        return text + std::to_string(v4_lengths[below(6)]);
+    constexpr unsigned v4_lengths[] = {8, 16, 24, 24, 30, 32}, v6_lengths[] = {32, 48, 56, 64, 64, 128};
+    const unsigned length = (v4_ ? v4_lengths : v6_lengths)[below(6)];
+    if (v4_) {
+        const std::uint64_t host = below(1U << 24);
+        const std::uint64_t bits = (std::uint64_t{10} << 24 | host) & ~std::uint64_t{0} << (32 - length);
+        std::string text;
+        for (unsigned shift = 32; shift != 0; shift -= 8) {
+            text += (text.empty() ? "" : ".") + std::to_string(bits >> (shift - 8) & 255);
+        }
+        return text + "/" + std::to_string(length);
     }
     // Groups without a leading zero are in canonical form, so they read back as written.
+    const std::uint64_t groups[] = {1 + below(0xffff), (1 + below(0xff)) << 8, 1 + below(0xff), 1 + below(0xffff)};
     std::string text = "2001:db8:";
-    for (int i = 0; i < 2; ++i) {
-        const std::uint64_t group = 1 + below(0xffff);
-        std::string digits;
-        for (std::uint64_t rest = group; rest != 0; rest /= 16)
-            digits.insert(digits.begin(), "0123456789abcdef"[rest % 16]);
-        text += digits + ":";
-    }
-    return text + ":/" + std::to_string(v6_lengths[below(6)]);
+    if (length >= 48) text += hex(groups[0]) + ":";
+    if (length >= 56) text += hex(length == 56 ? groups[1] : groups[1] | groups[2]) + ":";
+    return text + ":" + (length == 128 ? hex(groups[3]) : "") + "/" + std::to_string(length);
 }
 
 std::string RandomPayload::name(const Member &m) {
@@ -80,10 +92,13 @@ std::uint64_t RandomPayload::number(const Record &record, const Member &m) {
     if (ends(m, "enabled") || ends(m, "initialized") || ends(m, "running") || ends(m, "_set") || ends(m, "init"))
         return below(2);
     if (m.name == "size" || ends(m, "_size")) return std::min<std::uint64_t>(limit, std::uint64_t{64} << below(10));
-    if (ends(m, "_time")) return 1700000000 + below(100000);
+    if (m.name == "duration") return duration_ = 60 * (1 + below(1440));
+    if (m.name == "start_time") return start_ = 1700000000 + below(100000);
+    if (m.name == "end_time") return start_ + duration_;
     if (m.name == "id" || ends(m, "_id")) return (1000 + std::uint64_t{index_}) & limit;
     if (ends(m, "type") || m.name == "state") return below(4);
     if (m.name == "min_mask") return 8 + below(25);
+    if (m.name == "key_mask") return limit << below(25) & limit;
     if (has(m, "flags")) return below(256);
     if (m.name == "total_prefixes" && record.members.size() > 1) return std::uint64_t{elements_} + below(100);
     return below(std::min<std::uint64_t>(limit, 999) + 1);
@@ -99,9 +114,10 @@ std::uint32_t RandomPayload::length_of_list(const Member &m, std::uint64_t most)
 ordered_json RandomPayload::value(const Record &record, const Member &m, std::uint64_t most) {
     switch (category(m.kind)) {
         case Category::boolean:
-            return below(4) != 0;
+            return ends(m, "_is_valid") || below(4) != 0;
         case Category::address:
-            return address();
+            if (m.name == "prefix" && !looked_up_.empty()) return looked_up_;
+            return m.name == "lookup_prefix" ? looked_up_ = address() : address();
         case Category::enumeration:
             return m.enumeration->enumerators[below(m.enumeration->enumerators.size())];
         case Category::record:
@@ -131,12 +147,19 @@ ordered_json RandomPayload::value(const Record &record, const Member &m, std::ui
 ordered_json RandomPayload::make(const Record &record) {
     ordered_json json = ordered_json::object();
     std::uint64_t most = 0;
+    const bool chooses_family = has_address(record) && !has_family_;
+    if (chooses_family) v4_ = below(3) != 0;
+    has_family_ |= chooses_family;
     for (const Member &m : record.members) {
         if (m.role == Role::value) {
             json[std::string(m.name)] = value(record, m, most);
         } else {
             most = greatest(m.kind);
         }
+    }
+    if (chooses_family) {
+        has_family_ = false;
+        looked_up_.clear();
     }
     return json;
 }

@@ -32,8 +32,11 @@ private:
     std::mt19937_64 random_;
     std::uint32_t elements_;
     std::uint32_t index_ = 0;  // of the innermost element
-    std::uint64_t port_min_ = 0;
-    unsigned depth_ = 0;  // of nested lists
+    std::uint64_t port_min_ = 0, start_ = 0, duration_ = 0;
+    // The addresses of a record and of the records in it are of one family.
+    bool has_family_ = false, v4_ = true;
+    std::string looked_up_;  // the prefix that the records around are about
+    unsigned depth_ = 0;     // of nested lists
 };
 
 }  // namespace tarn::tool
