@@ -64,6 +64,7 @@ def prepare():
         write(f"build/coverage/tests/{program.split('_')[0]}/{program}", STUB)
     for preset in "dev", "mutants", "release-clang":
         write(f"build/{preset}/tools/generate/generate", STUB)
+    write("build/dev/tools/tarn/tarn", STUB)
     (tree / "build/coverage/CMakeFiles/lumo_ui_tarn.dir").mkdir(parents=True)
     for folder in ("core", "families", "families/shortcuts", "include", "kinds", "messaging", "platform/contract", "platform/service", "schema",
                    "tests", "tools"):
