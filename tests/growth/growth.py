@@ -17,7 +17,7 @@ SMALL, TIMES = 1 << 20, 4
 # Four times the time is proportional, sixteen times is the square. Below the least time, noise is larger than both.
 MOST_TIME_RATIO, LEAST_TIME = 8, 0.2
 # The first megabytes fit into memory that the program has anyway and are not counted.
-MOST_MEMORY_RATIO, SPARE_MEMORY = 5, 16 << 20
+MOST_MEMORY_RATIO, SPARE_MEMORY = 5, 24 << 20
 
 DEBUG, SETTING = 'lumo_tarn_debug_setting_msg', 'lumo_tarn_debug_setting'
 APPLICATIONS, APPLICATION_DATA = 'lumo_tarn_cl_appl_msg', 'lumo_tarn_cl_appl_data'
