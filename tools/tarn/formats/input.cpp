@@ -6,7 +6,6 @@
 
 #include "tools/tarn/formats/capture.h"
 #include "tools/tarn/formats/dissection.h"
-#include "tools/tarn/formats/hex_dump.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/xml.h"
 #include "tools/tarn/support/files.h"
@@ -15,9 +14,6 @@
 namespace tarn::tool {
 
 namespace {
-
-// Enough to tell what a file contains.
-constexpr std::size_t enough_to_detect = 64 * 1024;
 
 Form form_at(ByteStream &stream, bool keep_going) {
     const std::string_view begin = stream.look(enough_to_detect);
@@ -177,23 +173,6 @@ std::vector<InputFile> files_of(const std::vector<std::string> &paths) {
 
 namespace {
 
-ByteStream bytes_in(ByteStream stream, From from) {
-    if (from != From::hex && !looks_like_hex(stream.look(enough_to_detect))) return stream;
-    return stream_of(bytes_of_hex(stream.take_rest(), stream.name()), stream.name());
-}
-
-}  // namespace
-
-ByteStream open_bytes(const std::string &path, From from) {
-    ByteStream stream = open_input(path);
-    if (is_capture(stream.look(enough_to_detect))) {
-        throw Failure(Exit::input, stream.name() + ": this command does not read network captures");
-    }
-    return bytes_in(std::move(stream), from);
-}
-
-namespace {
-
 std::uint64_t size_of_file(const std::string &path) {
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
@@ -211,7 +190,7 @@ std::vector<Opened> open_sources(const std::string &path, const InputOptions &op
     try {
         ByteStream stream = open_input(path);
         if (options.from == From::hex || !is_capture(stream.look(enough_to_detect))) {
-            sources.push_back({{}, bytes_in(std::move(stream), options.from)});
+            sources.push_back({{}, converted(std::move(stream), options.from)});
             return sources;
         }
         Capture capture = read_capture(stream, options.port);

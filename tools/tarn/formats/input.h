@@ -73,10 +73,6 @@ struct InputFile {
 };
 std::vector<InputFile> files_of(const std::vector<std::string> &paths);
 
-// The bytes of a file; hexadecimal text is converted to the bytes that it shows. Throws a Failure for a network
-// capture, which contains several streams.
-ByteStream open_bytes(const std::string &path, From from);
-
 // With the place where the frame is broken, which the library does not report.
 Failure with_cause(const Failure &failure, const Frame &frame);
 

@@ -1,5 +1,9 @@
 #include "tools/tarn/formats/reader.h"
 
+#include <memory>
+#include <optional>
+#include <utility>
+
 #include "schema/frame.h"
 #include "tools/tarn/formats/capture.h"
 #include "tools/tarn/formats/frame_reader.h"
@@ -28,32 +32,56 @@ std::vector<Item> from_xml(const Handles &handles, std::string_view content, con
     return items;
 }
 
-// The frames of all connections, without the requests.
-std::string frames_of_capture(ByteStream &file) {
-    Capture capture = read_capture(file, MIRK_PLATFORM_TCP_PORT);
-    if (!capture.missing.empty()) throw capture.missing.front();
-    std::string frames;
-    for (Sent &sent : capture.sent) {
-        FrameReader reader(sent.bytes, false);
-        while (const auto stretch = reader.next()) {
-            if (!stretch->fault.empty()) {
-                throw Failure(Exit::input, frame_location(sent.bytes.name(), stretch->offset) + ": " + stretch->fault);
-            }
-            if (stretch->identity) frames += chars_of(stretch->bytes);
+// The frames of all connections in a capture, without the requests.
+class CapturedFrames {
+public:
+    explicit CapturedFrames(Capture capture) : capture_(std::move(capture)) {
+        if (!capture_.missing.empty()) throw capture_.missing.front();
+    }
+
+    std::size_t read(char *to, std::size_t most) {
+        while (rest_.empty() && current_ < capture_.sent.size()) read_frame();
+        const std::size_t got = rest_.copy(to, most);
+        rest_.remove_prefix(got);
+        return got;
+    }
+
+private:
+    void read_frame() {
+        ByteStream &bytes = capture_.sent[current_].bytes;
+        if (!reader_) reader_.emplace(bytes, false);
+        const std::optional<Stretch> stretch = reader_->next();
+        if (!stretch) {
+            reader_.reset();
+            ++current_;
+        } else if (!stretch->fault.empty()) {
+            throw Failure(Exit::input, frame_location(bytes.name(), stretch->offset) + ": " + stretch->fault);
+        } else if (stretch->identity) {
+            rest_ = chars_of(stretch->bytes);
         }
     }
-    return frames;
-}
+
+    Capture capture_;
+    std::size_t current_ = 0;
+    std::optional<FrameReader> reader_;
+    std::string_view rest_;  // of the last frame
+};
 
 }  // namespace
 
-std::string read_input(const std::string &path, From from) {
-    ByteStream file = open_input(path);
-    if (from != From::hex && is_capture(file.look(4))) return frames_of_capture(file);
-    std::string content = file.take_rest();
-    if (from == From::hex || looks_like_hex(content)) return bytes_of_hex(content, shown_path(path));
-    return content;
+ByteStream converted(ByteStream file, From from) {
+    if (from != From::hex && !looks_like_hex(file.look(enough_to_detect))) return file;
+    return stream_of(bytes_of_hex(file.take_rest(), file.name()), file.name());
 }
+
+ByteStream open_bytes(const std::string &path, From from) {
+    ByteStream file = open_input(path);
+    if (from == From::hex || !is_capture(file.look(enough_to_detect))) return converted(std::move(file), from);
+    const auto frames = std::make_shared<CapturedFrames>(read_capture(file, MIRK_PLATFORM_TCP_PORT));
+    return {file.name(), [frames](char *to, std::size_t most) { return frames->read(to, most); }};
+}
+
+std::string read_input(const std::string &path, From from) { return open_bytes(path, from).take_rest(); }
 
 Form form_of(std::string_view content, const std::string &origin) {
     if (content.substr(0, 3) == "\xEF\xBB\xBF") content.remove_prefix(3);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tools/tarn/formats/item.h"
+#include "tools/tarn/support/byte_stream.h"
 
 namespace tarn::tool {
 
@@ -14,9 +15,15 @@ enum class Form : std::uint8_t { frames, xml, json };
 // How to take the bytes of a file: by looking at them, or as hexadecimal text.
 enum class From : std::uint8_t { detect, hex };
 
-// The content of a file; hexadecimal text is converted to the bytes that it shows, and a network capture to the frames
-// of all connections with the default port.
+// Enough to tell what a file contains.
+inline constexpr std::size_t enough_to_detect = std::size_t{64} << 10;
+
+// The bytes of a file. Hexadecimal text is converted to the bytes that it shows, and a network capture to the frames of
+// all connections with the default port; a Failure names what is missing or broken in it.
+ByteStream open_bytes(const std::string &path, From from);
 std::string read_input(const std::string &path, From from = From::detect);
+// The bytes, or those that they show as hexadecimal text.
+ByteStream converted(ByteStream file, From from);
 
 // Decides by the first byte that is not a blank.
 Form form_of(std::string_view content, const std::string &origin);
