@@ -1,4 +1,6 @@
 // A network capture, or bytes between frames: every byte belongs to a frame or is reported as skipped.
+#include <algorithm>
+
 #include "fuzz.h"
 #include "tools/tarn/formats/capture.h"
 #include "tools/tarn/formats/frame_reader.h"

@@ -1,20 +1,22 @@
 #include "tools/tarn/formats/capture.h"
 
+#include <algorithm>
 #include <array>
-#include <cstring>
 
 #ifdef TARN_WITH_CAPTURES
 #include <pcap/pcap.h>
 #include <tins/tins.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <exception>
 #include <map>
 #include <memory>
+#include <new>
 #include <optional>
+#include <type_traits>
 #include <utility>
 #endif
 
