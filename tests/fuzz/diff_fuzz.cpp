@@ -29,7 +29,8 @@ public:
 
     void compare(Messages &other, Comparison &comparison, const std::function<void(Change &, std::size_t)> &report) {
         at_ = other.at_ = 0;
-        compare_sequences(handles_, comparison, [this] { return next(); }, [&] { return other.next(); }, report);
+        compare_sequences(
+            handles_, comparison, [this] { return next(); }, [&] { return other.next(); }, report);
     }
 
 private:
