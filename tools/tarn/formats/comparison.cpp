@@ -360,6 +360,7 @@ private:
         std::string text;
         const auto numbers = [&](const Side &side, std::size_t count) {
             std::vector<std::uint32_t> all;
+            all.reserve(count);
             for (std::size_t i = 0; i < count; ++i) {
                 text.clear();
                 add_identity(*step.nested, side.element(*step.member, i), text);
@@ -404,6 +405,7 @@ private:
 
     static std::vector<std::size_t> occurrences(const std::vector<std::uint32_t> &all, std::size_t different) {
         std::vector<std::size_t> counts(different), result;
+        result.reserve(all.size());
         for (const std::uint32_t identity : all) result.push_back(++counts[identity]);
         return result;
     }
@@ -416,6 +418,7 @@ private:
         Pairs pairs;
         std::vector<std::size_t> first(identities.different, absent), next(identities.b.size());
         std::vector<bool> is_taken(identities.b.size());
+        pairs.reserve(identities.a.size());
         for (std::size_t j = identities.b.size(); j-- != 0;) next[j] = std::exchange(first[identities.b[j]], j);
         for (std::size_t i = 0; i < identities.a.size(); ++i) {
             const std::size_t j = first[identities.a[i]];
