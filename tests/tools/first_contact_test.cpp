@@ -58,6 +58,8 @@ TEST(FirstContact, MisspelledWordsGetASuggestion) {
              {{"schema", "dp-tt-cfg.lumo_dta.x"}, "no member \"lumo_dta\"; did you mean dp-tt-cfg.lumo_data?"},
              {{"schema", "dp-tc.id.x"}, "\"dp-tc.id\" nests no record"},
              {{"view", "a", "b", "c"}, "tarn view: unexpected argument \"c\"\n"},
+             {{"show", "cl-debug"}, "tarn show: one of --socket, --connect is required\n"},
+             {{"decode", "--xml", "--json"}, "tarn decode: only one of --text, --xml, --json is allowed\n"},
              {{"encode", json(R"({"message":"lumo_tarn_debug_seting_msg"})")},
               "did you mean lumo_tarn_debug_setting_msg?"},
              {{"encode", json(R"({"bundle":"lumo_tarn_dp_inft_rsp","control":"start"})")},

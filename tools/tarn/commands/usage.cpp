@@ -38,13 +38,34 @@ std::string unknown_value(const CLI::App &command) {
     return {};
 }
 
+// Empty if each group of options has as many as it requires and allows.
+std::string wrong_number(const CLI::App &command) {
+    for (const CLI::App *group : groups_of(command)) {
+        std::size_t given = 0;
+        std::string names;
+        for (const CLI::Option *option : group->get_options()) {
+            if (option == group->get_help_ptr()) continue;
+            given += option->count() != 0 ? 1 : 0;
+            names += (names.empty() ? "" : ", ") + option->get_name();
+        }
+        if (group->get_require_option_max() != 1) continue;
+        if (given > 1) return "only one of " + names + " is allowed";
+        if (given < group->get_require_option_min()) return "one of " + names + " is required";
+    }
+    return {};
+}
+
 std::string problem_of(const CLI::App &app, const CLI::App *command, const CLI::ParseError &error) {
     const CLI::App &here = command != nullptr ? *command : app;
     const std::vector<std::string> rest = here.remaining();
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr) {
         if (const std::string problem = unknown_value(here); !problem.empty()) return problem;
     }
-    if (rest.empty()) return error.what();
+    if (rest.empty()) {
+        const bool required = dynamic_cast<const CLI::RequiredError *>(&error) != nullptr;
+        const std::string problem = required ? wrong_number(here) : std::string();
+        return problem.empty() ? error.what() : problem;
+    }
     const bool options_end = std::find(rest.begin(), rest.end(), "--") != rest.end();
     const auto option = std::find_if(rest.begin(), rest.end(), [&](const std::string &word) {
         return !options_end && word.size() > 1 && word.front() == '-';
