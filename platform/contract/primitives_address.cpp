@@ -450,6 +450,11 @@ void ip_address_from_xml(mirk_handle *, uint32_t, const char *path, void *docume
                        [field](std::string_view text) { return mirk::parse_address(text, field); });
 }
 
+mirk_platform_error mirk_platform_address_parse(const char *text, size_t length, ip_address *address) {
+    if (text == nullptr || address == nullptr) return EINVAL;
+    return mirk::parse_address({text, length}, address) ? 0 : EINVAL;
+}
+
 int32_t ip_address_compare(const ip_address *a, const ip_address *b) {
     if (a == nullptr) return b == nullptr ? 0 : -1;
     if (b == nullptr) return 1;

@@ -130,14 +130,19 @@ const xmlNode *too_long_list(const xmlDoc *document, size_t length) {
     if (limit == 0) return nullptr;
     uint64_t room = limit * length;
     for (const xmlNode *node = xmlDocGetRootElement(document); node != nullptr;) {
-        const uint64_t elements = xmlChildElementCount(const_cast<xmlNode *>(node));
+        uint64_t elements = 0;
+        for (const xmlNode *child = node->children; child != nullptr; child = child->next) {
+            if (child->type == XML_ELEMENT_NODE) ++elements;
+        }
         if (elements * elements > room) return node;
         room -= elements * elements;
         // The next one in the order of the document.
-        const xmlNode *next = xmlFirstElementChild(const_cast<xmlNode *>(node));
-        while (next == nullptr && node != nullptr && node->type == XML_ELEMENT_NODE) {
-            next = xmlNextElementSibling(const_cast<xmlNode *>(node));
+        const xmlNode *next = elements != 0 ? node->children : node->next;
+        for (;;) {
+            while (next != nullptr && next->type != XML_ELEMENT_NODE) next = next->next;
+            if (next != nullptr || node == nullptr || node->type != XML_ELEMENT_NODE) break;
             node = node->parent;
+            next = node->next;
         }
         node = next;
     }
@@ -269,7 +274,9 @@ void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_p
     parser->sax->internalSubset = refuse_doctype;
     parser->sax->startElementNs = start_element;
     const ErrorsIgnored scope;
-    constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA;
+    // Short texts are kept in their nodes.
+    constexpr int options =
+        XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA | XML_PARSE_COMPACT;
     Document document(xmlCtxtReadIO(parser.get(), read_piece, nullptr, &source, nullptr, nullptr, options));
     if (source.refusal != nullptr) {
         fill_in(report, EINVAL, source.line, source.refusal);

@@ -22,11 +22,6 @@ bool matches(const xmlNode *node, const xmlChar *name) {
     return node->type == XML_ELEMENT_NODE && node->name == name && node->ns == nullptr;
 }
 
-xmlNode *next_match(xmlNode *from, const xmlChar *name) {
-    while (from != nullptr && !matches(from, name)) from = from->next;
-    return from;
-}
-
 uintptr_t number_of(const xmlNode *node) { return reinterpret_cast<uintptr_t>(node->_private); }
 
 // The next node of a walk through the whole tree. Not recursive, since the sender controls the depth.
@@ -82,13 +77,14 @@ bool PathMemo::split(std::string_view path, size_t from) {
 
 const std::span<xmlNode *const> *PathMemo::find(std::string_view path) {
     if (path.size() < 3 || path.substr(0, 2) != "//" || document_->dict == nullptr) return nullptr;
-    const auto differs = std::mismatch(path.begin(), path.end(), path_.begin(), path_.end()).first;
-    const auto common = static_cast<size_t>(differs - path.begin());
-    size_t kept = 0;
-    for (; kept < depth_; ++kept) {
-        const size_t end = levels_[kept].step.end;
-        if (end > common || (end != path.size() && path[end] != '/')) break;
-    }
+    // The steps that both paths begin with.
+    const std::string_view last = path_;
+    const auto is_shared = [&](size_t end) {
+        return end <= path.size() && (end == path.size() || path[end] == '/') &&
+               path.substr(0, end) == last.substr(0, end);
+    };
+    size_t kept = depth_;
+    while (kept != 0 && !is_shared(levels_[kept - 1].step.end)) --kept;
     if (!split(path, kept == 0 ? 1 : levels_[kept - 1].step.end)) return nullptr;
 
     path_ = path;
@@ -130,29 +126,24 @@ void PathMemo::find_everywhere(Level *level) {
 }
 
 void PathMemo::find_children(Level *parents, Level *level) {
+    if (parents->nodes.size() == 1) return find_in_one(parents, level);
     const auto &[name, position, end] = level->step;
     Found &found = level->found;
-    for (size_t i = 0; i < parents->nodes.size(); ++i) {
-        if (const Children *const children = children_of(parents, i); children != nullptr) {
+    for (const xmlNode *parent : parents->nodes) {
+        if (const Children *const children = many_children(parent, nullptr); children != nullptr) {
             const auto known = children->find(name);
             if (known == children->end()) continue;
             const Found &all = known->second;
-            if (position != 0) {
-                if (position <= all.size()) found.push_back(all[position - 1]);
-            } else if (parents->nodes.size() == 1) {
-                level->nodes = all;
-                return;
-            } else {
+            if (position == 0) {
                 found.insert(found.end(), all.begin(), all.end());
+            } else if (position <= all.size()) {
+                found.push_back(all[position - 1]);
             }
             continue;
         }
-        xmlNode *node = next_match(parents->nodes[i]->children, name);
-        if (position == 0) {
-            for (; node != nullptr; node = next_match(node->next, name)) found.push_back(node);
-        } else {
-            for (size_t at = 1; at < position && node != nullptr; ++at) node = next_match(node->next, name);
-            if (node != nullptr) found.push_back(node);
+        size_t at = 0;
+        for (xmlNode *node = parent->children; node != nullptr; node = node->next) {
+            if (matches(node, name) && (++at == position || position == 0)) found.push_back(node);
         }
     }
     level->nested = parents->nested;
@@ -160,26 +151,39 @@ void PathMemo::find_children(Level *parents, Level *level) {
     level->nodes = found;
 }
 
-// Null if the element has few children, which are searched faster than a table.
-const PathMemo::Children *PathMemo::children_of(Level *parents, size_t index) {
-    if (parents->nodes.size() != 1) return many_children(parents->nodes[index]);
+// A record is read member by member, so the children of its element are listed once.
+void PathMemo::find_in_one(Level *parents, Level *level) {
     if (!parents->children_known) {
-        parents->children = many_children(parents->nodes[0]);
+        parents->children = many_children(parents->nodes[0], &parents->few);
         parents->children_known = true;
     }
-    return parents->children;
+    const auto &[name, position, end] = level->step;
+    if (parents->children == nullptr) {
+        size_t at = 0;
+        for (xmlNode *node : parents->few) {
+            if (node->name == name && (++at == position || position == 0)) level->found.push_back(node);
+        }
+        level->nodes = level->found;
+    } else if (const auto known = parents->children->find(name); known != parents->children->end()) {
+        const std::span<xmlNode *const> all = known->second;
+        if (position <= all.size()) level->nodes = position == 0 ? all : all.subspan(position - 1, 1);
+    }
+    level->nested = false;
 }
 
-const PathMemo::Children *PathMemo::many_children(const xmlNode *parent) {
+// Null if the element has few children, which are searched faster than a table.
+const PathMemo::Children *PathMemo::many_children(const xmlNode *parent, Found *few) {
     if (!many_children_.empty()) {
         if (const auto known = many_children_.find(parent); known != many_children_.end()) return &known->second;
     }
-    constexpr size_t few = 200;
+    constexpr size_t most = 200;
     size_t count = 0;
-    for (const xmlNode *node = parent->children; node != nullptr; node = node->next) {
-        if (++count > few) break;
+    if (few != nullptr) few->clear();
+    for (xmlNode *node = parent->children; node != nullptr && count <= most; node = node->next) {
+        ++count;
+        if (few != nullptr && node->type == XML_ELEMENT_NODE && node->ns == nullptr) few->push_back(node);
     }
-    if (count <= few) return nullptr;
+    if (count <= most) return nullptr;
     Children children;
     for (xmlNode *node = parent->children; node != nullptr; node = node->next) {
         if (node->type == XML_ELEMENT_NODE && node->ns == nullptr) children[node->name].push_back(node);

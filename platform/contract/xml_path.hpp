@@ -44,14 +44,15 @@ private:
         Found found;
         bool nested;               // one of the nodes is inside another
         const Children *children;  // of the only node, if it has many
+        Found few;                 // its children otherwise
         bool children_known;
     };
 
     bool split(std::string_view path, size_t from);
     void find_everywhere(Level *level);
     void find_children(Level *parents, Level *level);
-    const Children *children_of(Level *parents, size_t index);
-    const Children *many_children(const xmlNode *parent);
+    void find_in_one(Level *parents, Level *level);
+    const Children *many_children(const xmlNode *parent, Found *few);
     static void sort(Level *level);
 
     xmlDoc *document_;

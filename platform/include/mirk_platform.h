@@ -187,6 +187,12 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_trace_parse_levels(const cha
  * the process ends. */
 MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id);
 
+/* ---- addresses -------------------------------------------------------------------------------------------------- */
+
+/** Sets the members of an address from the text that _to_xml writes, such as "10.0.0.0/8" or "unset". The state bytes
+ * and the variant remain. EINVAL if the `length` bytes are not such a text; the address is then unchanged. */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_address_parse(const char *text, size_t length, ip_address *address);
+
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
 /** Attaches RA data to an object, replacing earlier data, and sets its flag "has RA data" (32). The value is an opaque

@@ -79,12 +79,22 @@ TEST(Address, EveryValueSurvivesARoundThroughXml) {
     }
 }
 
+TEST(Address, IsParsedFromAPartOfAText) {
+    ip_address address = make(9, 9, 9, 9, 9, 9, 9);
+    const char text[] = "fe80::1%9/640";
+    EXPECT_EQ(mirk_platform_address_parse(text, sizeof text - 2, &address), 0u);
+    EXPECT_EQ(text_of(address), "fe80::1%9/64");
+    EXPECT_EQ(mirk_platform_address_parse(nullptr, 0, &address), mirk_platform_error{EINVAL});
+    EXPECT_EQ(mirk_platform_address_parse(text, 0, nullptr), mirk_platform_error{EINVAL});
+}
+
 TEST(Address, RefusesTextThatIsNotAnAddress) {
     ip_address address = make(AF_INET, 8, 0, 0x0a000000);
     for (const char *bad : {"", "10.0.0.1", "10.0.0.1/", "10.0.0.1/256", "10.0.0/8", "10.0.0.1/8/8", "::1%/64",
                             "::1%65536/64", "unset/0", "Unset", "1,2,3/4", "256,0,0,0,0,0/0", "1,0,0,0,0,0,0/0",
                             "1,0,0,0,0,/0", "2001:db8:::/32", "x/1", "10.0.0.1 /8"}) {
         EXPECT_EQ(read(bad, &address), uint32_t{EINVAL}) << bad;
+        EXPECT_EQ(mirk_platform_address_parse(bad, std::strlen(bad), &address), mirk_platform_error{EINVAL}) << bad;
     }
     EXPECT_EQ(address.word[0], 0x0a000000u);
     EXPECT_EQ(read("  unset\n", &address), 0u);
