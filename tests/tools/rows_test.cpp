@@ -116,6 +116,18 @@ TEST(Rows, ALimitAppliesAfterSorting) {
               "id\n1001\n1000\n");
 }
 
+TEST(Rows, ALimitEndsTheReadingWithTheExitCodeOfWhatWasRead) {
+    const Directory directory;
+    const std::string good = directory.write("good.json", classes), bad = directory.write("bad.json", "{");
+    const auto first_id = [&](const std::string &a, const std::string &b) {
+        return tarn({"rows", "tc", a, b, "--format", "tsv", "--columns", "id", "--limit", "1"});
+    };
+    EXPECT_EQ(first_id(good, bad).exit, 0);
+    EXPECT_EQ(first_id(good, bad).out, "id\n999\n");
+    EXPECT_EQ(first_id(bad, good).exit, 2);
+    EXPECT_EQ(first_id(bad, good).out, "id\n999\n");
+}
+
 TEST(Rows, SortedRowsWithALimitAreTheFirstOfAll) {
     std::string input = R"({"message": "lumo_tarn_pal_mp_prefix_msg", "payload": {"prefix_data": [)";
     std::string all = "[";

@@ -88,9 +88,6 @@ std::vector<RowColumn> chosen(const Instances &instances, const std::vector<std:
     return columns;
 }
 
-// Ends the reading of the input.
-struct LimitReached {};
-
 Exit run_rows(const RowsOptions &options) {
     const Instances instances(*table_named(options.record).record);
     const RowStyle style = row_styles.at(options.format);
@@ -110,16 +107,12 @@ Exit run_rows(const RowsOptions &options) {
             sorter.add(instance, std::move(line));
         } else {
             writer.add(line);
-            if (++rows == options.limit) throw LimitReached();
+            if (++rows == options.limit) throw StopReading();
         }
     };
-    Exit exit = Exit::success;
-    try {
-        exit = for_each_item(options.input, [&](Entry &entry) {
-            if (entry.item.message) instances.visit(entry, add);
-        });
-    } catch (const LimitReached &) {
-    }
+    const Exit exit = for_each_item(options.input, [&](Entry &entry) {
+        if (entry.item.message) instances.visit(entry, add);
+    });
     for (const auto &sorted : sorter.finish()) writer.add(sorted.line);
     writer.finish();
     file.finish();

@@ -239,7 +239,7 @@ bool is_visited(Failures &failures, const Visit &visit) {
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit) {
     const Handles handles(options.tracking);
     Failures failures(true);
-    for_each_source(options, failures, [&](Opened &source, const std::function<void()> &show) {
+    const auto read = [&](Opened &source, const std::function<void()> &show) {
         std::optional<EntryReader> reader;
         for (bool goes_on = true; goes_on; show()) {
             std::optional<Entry> entry;
@@ -255,7 +255,11 @@ Exit for_each_item(const InputOptions &options, const std::function<void(Entry &
             entry->connection = source.connection;
             if (!is_visited(failures, [&] { visit(*entry); })) goes_on = options.keep_going;
         }
-    });
+    };
+    try {
+        for_each_source(options, failures, read);
+    } catch (const StopReading &) {
+    }
     return failures.exit();
 }
 

@@ -76,6 +76,9 @@ std::vector<InputFile> files_of(const std::vector<std::string> &paths);
 // With the place where the frame is broken, which the library does not report.
 Failure with_cause(const Failure &failure, const Frame &frame);
 
+// Thrown by a visitor to end the reading without an error of its own.
+struct StopReading {};
+
 // Calls `visit` for each entry of each file. Prints what cannot be read, and continues: with `keep_going` behind it,
 // else with the next file. Returns the highest exit code of what was printed. A Failure that `visit` throws counts as
 // if the entry could not be read; one of the environment ends the command.
