@@ -67,6 +67,15 @@ TEST(Completion, OffersOnlyBundlesForBundleArguments) {
     EXPECT_EQ(candidates({"encode", "--bundle", "cl-deb"}), (Names{"cl-debug"}));
 }
 
+TEST(Completion, OffersTheColumnsOfTheRowsOfARecord) {
+    EXPECT_EQ(candidates({"rows", "tc", "--columns", "appl."}),
+              (Names{"appl.exmem_info.cl_addr", "appl.exmem_info.exmem_addr", "appl.exmem_info.ppe_addr",
+                     "appl.exmem_info.size", "appl.type", "appl.id", "appl.tarn_kesh_id", "appl.next_ptr"}));
+    EXPECT_EQ(candidates({"rows", "tc", "--sort", "id,mess"}), (Names{"id,message"}));
+    EXPECT_EQ(candidates({"rows", "tc", "--columns=id,mess"}), (Names{"--columns=id,message"}));
+    EXPECT_EQ(candidates({"rows", "unknown", "--columns", "i"}), Names());
+}
+
 TEST(Completion, OffersTheValuesOfOptions) {
     EXPECT_EQ(candidates({"show", "--via", "l"}), (Names{"lut", "linked"}));
     EXPECT_EQ(candidates({"show", "--via=li"}), (Names{"--via=linked"}));

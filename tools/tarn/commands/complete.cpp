@@ -3,6 +3,7 @@
 
 #include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/options.h"
+#include "tools/tarn/formats/instances.h"
 #include "tools/tarn/support/names.h"
 
 namespace tarn::tool {
@@ -50,7 +51,21 @@ std::string members(const std::string &word) {
     return candidates.text();
 }
 
-std::string values(const CLI::Option &option, const std::string &word, const std::string &prefix) {
+// Of the rows of a record, the last of the columns in the word, which commas separate.
+std::string columns(const std::string &record, const std::string &word, const std::string &prefix) {
+    Candidates candidates(word, word.substr(0, std::max(prefix.size(), word.rfind(',') + 1)));
+    try {
+        const Instances instances(*table_named(record).record);
+        for (const RowColumn &c : instances.columns()) candidates.add(c.name, c.member->meaning);
+    } catch (const Failure &) {
+        // There is no such record.
+    }
+    return candidates.text();
+}
+
+// `first` is the first positional argument.
+std::string values(const CLI::Option &option, const std::string &word, const std::string &prefix,
+                   const std::string &first) {
     Candidates candidates(word, prefix);
     const std::string kind = word_of(option);
     if (const auto choices = choices_of(option); !choices.empty()) {
@@ -60,6 +75,8 @@ std::string values(const CLI::Option &option, const std::string &word, const std
     } else if (kind == words::bundle_or_message) {
         candidates.add(bundle_names());
         candidates.add(message_names());
+    } else if (kind == words::columns) {
+        return columns(first, word, prefix);
     } else if (kind == words::record) {
         candidates.add(record_names());
     } else if (kind == words::type) {
@@ -79,6 +96,7 @@ std::string completions(const CLI::App &app, const std::vector<std::string> &wor
     const CLI::App *command = nullptr;
     const CLI::Option *pending = nullptr;  // the option whose value comes next
     std::size_t positionals = 0;
+    std::string first;  // of the positional arguments
     bool options_end = false;
     for (std::size_t i = 0; i + 1 < words.size(); ++i) {
         const std::string &word = words[i];
@@ -96,18 +114,18 @@ std::string completions(const CLI::App &app, const std::vector<std::string> &wor
             }
             if (command == nullptr) return {};
         } else {
-            ++positionals;
+            if (positionals++ == 0) first = word;
         }
     }
 
     const std::string &word = words.empty() ? "" : words.back();
     const CLI::App &here = command != nullptr ? *command : app;
-    if (pending != nullptr) return values(*pending, word, "");
+    if (pending != nullptr) return values(*pending, word, "", first);
     if (!options_end && word.starts_with('-')) {
         const std::size_t equals = word.find('=');
         if (equals != std::string::npos) {
             const CLI::Option *option = option_named(here, word);
-            return option != nullptr ? values(*option, word, word.substr(0, equals + 1)) : std::string();
+            return option != nullptr ? values(*option, word, word.substr(0, equals + 1), first) : std::string();
         }
         Candidates candidates(word, "");
         for (const CLI::Option *option : options_of(here)) {
@@ -124,7 +142,7 @@ std::string completions(const CLI::App &app, const std::vector<std::string> &wor
     if (all.empty()) return {};
     const CLI::Option &last = *all.back();
     if (positionals >= all.size() && last.get_items_expected_max() == 1) return {};
-    return values(*all[std::min(positionals, all.size() - 1)], word, "");
+    return values(*all[std::min(positionals, all.size() - 1)], word, "", first);
 }
 
 }  // namespace tarn::tool

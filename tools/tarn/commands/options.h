@@ -18,6 +18,7 @@ inline constexpr const char *address = "ADDRESS";
 inline constexpr const char *bundle = "BUNDLE";
 inline constexpr const char *bundle_file = "BUNDLE=FILE";
 inline constexpr const char *bundle_or_message = "BUNDLE|MESSAGE";
+inline constexpr const char *columns = "COLUMN[,COLUMN...]";
 inline constexpr const char *record = "RECORD";
 inline constexpr const char *type = "TYPE[.MEMBER...]";
 }  // namespace words

@@ -129,7 +129,7 @@ void add_rows(CLI::App &app, Context &context) {
         ->required();
     add_inputs(*command, options->input);
     const auto add_list = [&](const char *name, std::vector<std::string> &list, const char *what) {
-        command->add_option(name, list, what)->delimiter(',')->allow_extra_args(false)->type_name("COLUMN[,COLUMN...]");
+        command->add_option(name, list, what)->delimiter(',')->allow_extra_args(false)->type_name(words::columns);
     };
     add_list("--columns", options->columns, "Columns to print; default: all");
     command->add_option("--where", options->where, "Print only rows that meet the condition; may be repeated")
