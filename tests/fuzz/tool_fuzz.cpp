@@ -37,22 +37,38 @@ void read(std::string_view content, const fuzz::Choice &choice) {
     require(all == again, "JSON that was written reads back as it was");
 }
 
+class Fields : public DissectionVisitor {
+public:
+    Fields(std::size_t begin, std::size_t end) : at_(begin), end_(end) {}
+
+    void open(const Group &) override { ++depth_; }
+    void close() override { --depth_; }
+    void field(const Field &field) override {
+        require(field.offset == at_, "fields are adjacent");
+        at_ += field.bytes.size();
+        require(at_ <= end_, "fields are inside the frame");
+        std::string value;
+        append_value(field, value);
+    }
+    bool is_closed() const { return depth_ == 0; }
+
+private:
+    std::size_t at_, end_;
+    std::size_t depth_ = 0;
+};
+
 void take_apart(std::string_view content) {
     const FrameBytes all = bytes_of(content);
     for (std::size_t offset = 0; offset < all.size();) {
-        const Dissection dissection = dissect_frame(all.subspan(offset), offset);
-        std::size_t at = offset;
-        for (const Piece &piece : dissection.pieces) {
-            require(piece.offset == at, "pieces are adjacent");
-            at += piece.size;
-            require(at <= all.size(), "pieces are inside the frame");
-        }
-        if (dissection.broken) {
-            sentence_of(*dissection.broken);
+        Fields fields(offset, all.size());
+        const Walked walked = walk_frame(all.subspan(offset), offset, fields);
+        if (walked.broken) {
+            sentence_of(*walked.broken);
             return;
         }
-        require(dissection.size != 0, "a complete frame has a size");
-        offset += dissection.size;
+        require(walked.size != 0, "a complete frame has a size");
+        require(fields.is_closed(), "all groups of a complete frame are closed");
+        offset += walked.size;
     }
 }
 

@@ -262,20 +262,30 @@ std::string frame_of_empty_elements(std::size_t elements) {
     return frame;
 }
 
-TEST(Dissect, NeedsMemoryForItsInputOnly) {
+// A frame of a newer version, with members that the schema does not know.
+std::string frame_with_unknown_members(std::size_t size) {
+    std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
+    put_number(bytes, 45, number_at(bytes, 45) + size);
+    bytes.append(size, 'x');
+    put_number(bytes, 12, bytes.size());
+    return bytes;
+}
+
+TEST(Dissect, NeedsMemoryForOneFrameOnly) {
     if (*TARN_SANITIZE != 0) GTEST_SKIP() << "sanitizers need terabytes of addresses";
     const Directory directory;
-    const std::string bytes = frame_of_empty_elements(300000);
-    const std::string file = directory.write("frame.bin", bytes);
-    for (const std::string form : {"", "--json"}) {
-        const std::vector<std::string> words{"-c", R"(ulimit -v 100000 && exec "$@" >/dev/null)", "sh", tool(),
-                                             "dissect"};
-        std::vector<std::string> all = words;
-        if (!form.empty()) all.push_back(form);
-        all.push_back(file);
-        const Outcome outcome = run("/bin/sh", all);
-        EXPECT_EQ(outcome.exit, 0) << form << outcome.err;
-    }
+    const auto dissect = [&](const std::string &options, const std::string &bytes) {
+        const std::string script = "ulimit -v 90000 && exec \"$0\" dissect " + options + " \"$1\" >/dev/null";
+        const Outcome outcome = run("/bin/sh", {"-c", script, tool(), directory.write("frames.bin", bytes)});
+        EXPECT_EQ(outcome.exit, 0) << options << outcome.err;
+    };
+    const std::string many_fields = frame_of_empty_elements(200000);
+    dissect("", many_fields);
+    dissect("--json", many_fields);
+    const std::string newer = frame_with_unknown_members(1 << 20);
+    std::string large;
+    while (large.size() < 32 << 20) large += newer;
+    dissect("--json", large);
 }
 
 TEST(View, NeedsMemoryForItsPageOnly) {
@@ -285,6 +295,45 @@ TEST(View, NeedsMemoryForItsPageOnly) {
     const Outcome outcome =
         run("/bin/sh", {"-c", R"(ulimit -v 100000 && exec "$0" view "$1" >/dev/null)", tool(), file});
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
+}
+
+TEST(Dissect, StopsAtAnErrorUnlessItKeepsGoing) {
+    const std::string good = frame(debug_message(), plain_payload(debug_message(), 1), false);
+    const std::string bytes = good + good.substr(0, 44) + good;
+    const Outcome stopped = tarn({"dissect"}, bytes);
+    EXPECT_EQ(stopped.exit, 2);
+    EXPECT_EQ(occurrences(stopped.out, "frame at offset "), 2U) << stopped.out;
+    EXPECT_NE(stopped.err.find("tarn: standard input: broken at offset "), std::string::npos) << stopped.err;
+    const Outcome outcome = tarn({"dissect", "-k"}, bytes);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(occurrences(outcome.out, "frame at offset "), 3U) << outcome.out;
+    EXPECT_NE(outcome.out.find("frame at offset 109\n     109  bc "), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.err.find("; 44 bytes are skipped"), std::string::npos) << outcome.err;
+    EXPECT_EQ(occurrences(tarn({"dissect", "-k", "--json"}, bytes).out, "\n"), 3U);
+}
+
+// The frame has its whole length, so nothing is skipped.
+TEST(Dissect, KeepsGoingAfterAFrameWithAnErrorInside) {
+    std::string bad = frame(debug_message(), plain_payload(debug_message(), 1), false);
+    const std::string good = bad;
+    bad[48] = 19;
+    const Outcome outcome = tarn({"dissect", "--keep-going"}, bad + good);
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(outcome.err.find("skipped"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.out.find("frame at offset 65\n"), std::string::npos) << outcome.out;
+}
+
+TEST(Dissect, NamesTheFileOfEachFrame) {
+    const Directory directory;
+    const std::string bytes = frame(debug_message(), plain_payload(debug_message(), 1), false);
+    const std::string a = directory.write("a.bin", bytes), b = directory.write("b.bin", bytes);
+    const Outcome outcome = tarn({"dissect", a, b});
+    EXPECT_NE(outcome.out.find("frame at offset 0 of " + a + "\n"), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.out.find("frame at offset 0 of " + b + "\n"), std::string::npos) << outcome.out;
+    EXPECT_EQ(tarn({"dissect", "--json", a, b}).out.find("{\"file\":\"" + a + "\",\"offset\":0,"), 0U);
+    const Outcome source = tarn({"dissect", "--source", a, b});
+    EXPECT_NE(source.out.find("# " + b + "\n# offset 0\nframe "), std::string::npos) << source.out;
+    EXPECT_EQ(tarn({"assemble"}, source.out).out, bytes + bytes);
 }
 
 TEST(Dissect, WritesAnObjectAFrameAsJson) {

@@ -193,6 +193,18 @@ TEST(Source, ContinuesAfterAWrongJump) {
     EXPECT_EQ(hex(assembled(source)), hex(bytes));
 }
 
+TEST(Source, ReturnsToTheSameBytesWhereverAFrameIsCut) {
+    for (const bool tracked : {false, true}) {
+        const std::string whole = control(debug_bundle(), "start") + debug_frame(tracked);
+        for (std::size_t size = 1; size < whole.size(); ++size) {
+            EXPECT_EQ(hex(assembled(source_of(whole.substr(0, size)))), hex(whole.substr(0, size))) << size;
+        }
+    }
+    std::string bytes = control(debug_bundle(), "start");
+    bytes[15] = 99;
+    EXPECT_EQ(hex(assembled(source_of(bytes))), hex(bytes));
+}
+
 TEST(Source, HasTheTextOfRequests) {
     const std::string bytes = request("lumo_tarn_cl_debug_rsp", 3);
     EXPECT_EQ(source_of(bytes),
@@ -289,6 +301,10 @@ TEST(Assemble, NamesLineColumnAndReason) {
         {"frame dp-mp-tc { payload { prefix_data [ { prefix 10.0.0/9 } ] } }",
          "1:51: \"10.0.0/9\" is not an address with a prefix length"},
         {"frame <00>", "1:7: a luid has 16 bytes"},
+        {"frame dp-mp-tc { payload { prefix_data [] (states 1) } }", "1:51: expected \"[\", not \"1\""},
+        {"frame dp-mp-tc { payload { prefix_data [] (state [1]) } }", "1:50: expected a number, not \"[\""},
+        {"frame dp-mp-tc { payload { prefix_data [{}] (states [2*2]) } }",
+         "1:56: the number of state bytes here is at most 1"},
         {"<0>", "1:3: a byte has two hexadecimal digits"},
         {"<0g>", "1:3: expected a hexadecimal digit or >"},
         {"<00", "1:1: the raw bytes have no end"},

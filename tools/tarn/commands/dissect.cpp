@@ -4,7 +4,7 @@
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/dump.h"
-#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/formats/source.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
@@ -14,30 +14,41 @@ namespace tarn::tool {
 namespace {
 
 struct DissectOptions {
-    std::string file = "-";
-    From from = From::detect;
+    InputOptions input;
     bool json = false, source = false;
 };
 
-Exit run_dissect(const DissectOptions &options) {
-    const std::string content = read_input(options.file, options.from);
-    const FrameBytes all = bytes_of(content);
-    if (all.empty()) throw Failure(Exit::input, shown_path(options.file) + ": empty");
-    const Write write = [](std::string_view text) { write_file("-", text); };
-    if (options.source) {
-        write_source(all, write);
-        return Exit::success;
-    }
-    const auto dump = (options.json ? json_dump : text_dump)(write);
-    for (std::size_t offset = 0; offset < all.size();) {
-        dump->begin(offset);
-        const Walked walked = walk_frame(all.subspan(offset), offset, *dump);
+void print(std::string_view text) { write_file("-", text); }
+
+Exit print_dump(const DissectOptions &options) {
+    const auto dump = (options.json ? json_dump : text_dump)(print);
+    // One file that is no network capture needs no name.
+    const std::vector<std::string> &paths = options.input.paths;
+    const std::string only = paths.empty() ? shown_path("-") : paths.size() == 1 ? shown_path(paths.front()) : "";
+    return for_each_stretch(options.input, [&](Stretch &stretch, const std::string &file) {
+        dump->begin(file == only ? "" : file, stretch.offset);
+        const Walked walked = walk_frame(stretch.bytes, stretch.offset, *dump);
         dump->end(walked);
-        if (walked.broken) {
-            throw Failure(Exit::input, shown_path(options.file) + ": broken at " + sentence_of(*walked.broken));
-        }
-        offset += walked.size;
+        if (!walked.broken) return;
+        const std::string fault = "broken at " + sentence_of(*walked.broken);
+        // The next frame follows one whose length is right.
+        if (stretch.fault.empty()) throw Failure(Exit::input, file + ": " + fault);
+        stretch.fault = fault;
+    });
+}
+
+void print_source(const InputOptions &input) {
+    const std::vector<InputFile> files = files_of(input.paths);
+    for (const InputFile &file : files) {
+        const std::string bytes = open_bytes(file.path, input.from).take_rest();
+        if (files.size() > 1) print("# " + shown_path(file.path) + "\n");
+        write_source(bytes_of(bytes), print);
     }
+}
+
+Exit run_dissect(const DissectOptions &options) {
+    if (!options.source) return print_dump(options);
+    print_source(options.input);
     return Exit::success;
 }
 
@@ -46,21 +57,25 @@ Exit run_dissect(const DissectOptions &options) {
 void add_dissect(CLI::App &app, Context &context) {
     auto options = std::make_shared<DissectOptions>();
     CLI::App *command = app.add_subcommand("dissect", "Print an annotated dump of frames, byte by byte");
-    add_input(*command, options->file, "Frames");
+    add_files(*command, options->input, "Frames");
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--json", options->json, "JSON, one object per frame and line");
     form->add_flag("--source", options->source, "Text for editors, which \"tarn assemble\" turns into the same bytes");
     form->require_option(0, 1);
-    add_from(*command, options->from);
+    add_keep_going(*command, options->input.keep_going);
+    add_port(*command, options->input.port);
+    add_from(*command, options->input.from);
     command->footer(
         "A line begins with an offset and at most eight bytes, a line that continues it has\n"
         "at most sixteen. The head of a record, an address, a boolean, an enumeration and\n"
         "the state of a member share a line. If a frame is broken, the dump stops at the\n"
-        "error, which is printed on standard error with its offset and reason.\n\n"
-        "With --json, each frame is one line: an object with its offset, its parts, its\n"
-        "size, and \"broken\" if it is broken. A part has name, offset, size, kind and value;\n"
-        "a group, such as a record or a list, has name, kind and parts; an element of a list\n"
-        "also has its index.\n\n"
+        "error, which is printed on standard error with its offset and reason. With\n"
+        "--keep-going, it continues at the next frame, and the error says how many bytes\n"
+        "are skipped.\n\n"
+        "With --json, each frame is one line: an object with its file if there are\n"
+        "several, its offset, its parts, their size, and \"broken\" if it is broken. A part\n"
+        "has name, offset, size, kind and value; a group, such as a record or a list, has\n"
+        "name, kind and parts; an element of a list also has its index.\n\n"
         "With --source, all bytes are printed, also those of broken frames and between\n"
         "frames. docs/assemble.md describes the language.\n\n"
         "Examples:\n"

@@ -311,50 +311,6 @@ void append_number(std::uint64_t number, std::string &out) {
     out.append(text, std::to_chars(text, text + sizeof text, number).ptr);
 }
 
-// Collects pieces with their paths.
-class Collector : public DissectionVisitor {
-public:
-    explicit Collector(std::vector<Piece> &pieces) : pieces_(pieces) {}
-
-    void open(const Group &group) override {
-        lengths_.push_back(path_.size());
-        if (group.kind != Group::Kind::array) add({group.name, group.index});
-        small_ = group.kind == Group::Kind::boolean || group.kind == Group::Kind::enumeration;
-    }
-    void close() override {
-        path_.resize(lengths_.back());
-        lengths_.pop_back();
-        small_ = false;
-    }
-    void field(const Field &field) override {
-        using Kind = Field::Kind;
-        const std::size_t length = path_.size();
-        const bool own = field.kind == Kind::skipped || (small_ && field.kind != Kind::variant);
-        if (!own) add({field.name, field.index});
-        if (field.kind == Kind::state) path_ += ".state";
-        std::string value;
-        append_value(field, value);
-        pieces_.push_back({field.offset, field.bytes.size(), path_, std::string(field.type), std::move(value)});
-        path_.resize(length);
-    }
-
-private:
-    struct Name {
-        std::string_view text;
-        std::size_t index;
-    };
-    void add(const Name &name) {
-        if (!path_.empty()) path_ += '.';
-        path_ += name.text;
-        if (name.index != no_index) path_ += "[" + std::to_string(name.index) + "]";
-    }
-
-    std::vector<Piece> &pieces_;
-    std::string path_;
-    std::vector<std::size_t> lengths_;
-    bool small_ = false;  // in a boolean or an enumeration, whose value has its path
-};
-
 }  // namespace
 
 void append_quoted(FrameBytes bytes, std::string &out) {
@@ -421,15 +377,6 @@ void append_value(const Field &field, std::string &out) {
 
 Walked walk_frame(FrameBytes bytes, std::size_t base, DissectionVisitor &visitor) {
     return Dissector(bytes, base, visitor).run();
-}
-
-Dissection dissect_frame(FrameBytes bytes, std::size_t base) {
-    Dissection dissection;
-    Collector collector(dissection.pieces);
-    Walked walked = walk_frame(bytes, base, collector);
-    dissection.broken = std::move(walked.broken);
-    dissection.size = walked.size;
-    return dissection;
 }
 
 std::optional<Break> error_in(FrameBytes frame, std::size_t base) {

@@ -94,22 +94,6 @@ struct Walked {
 // The frame at the beginning of the bytes; `base` is added to all offsets.
 Walked walk_frame(FrameBytes bytes, std::size_t base, DissectionVisitor &visitor);
 
-// The same as a list.
-struct Piece {
-    std::size_t offset;
-    std::size_t size;
-    std::string path;
-    std::string kind;
-    std::string value;
-};
-
-struct Dissection {
-    std::vector<Piece> pieces;
-    std::optional<Break> broken;
-    std::size_t size = 0;
-};
-Dissection dissect_frame(FrameBytes bytes, std::size_t base);
-
 // The first error of a frame.
 std::optional<Break> error_in(FrameBytes frame, std::size_t base);
 

@@ -14,7 +14,7 @@ namespace tarn::tool {
 
 namespace {
 
-constexpr std::size_t piece_size = 1 << 16;
+constexpr std::size_t dump_piece = 1 << 16;
 
 void append_decimal(std::uint64_t number, std::string &out, std::size_t width = 0) {
     char text[24];
@@ -31,7 +31,7 @@ public:
     std::string text;
 
     void flush_if_full() {
-        if (text.size() >= piece_size) flush();
+        if (text.size() >= dump_piece) flush();
     }
     void flush() {
         write_(text);
@@ -50,8 +50,8 @@ class TextDump : public Dump {
 public:
     explicit TextDump(Write write) : out_(std::move(write)), handle_(false) {}
 
-    void begin(std::size_t offset) override {
-        out_.text += "frame at offset " + std::to_string(offset) + "\n";
+    void begin(const std::string &file, std::size_t offset) override {
+        out_.text += "frame at offset " + std::to_string(offset) + (file.empty() ? "" : " of " + file) + "\n";
         depth_ = 0;
         joins_ = false;
     }
@@ -204,8 +204,10 @@ class JsonDump : public Dump {
 public:
     explicit JsonDump(Write write) : out_(std::move(write)) {}
 
-    void begin(std::size_t offset) override {
-        append_decimal(offset, out_.text += R"({"offset":)");
+    void begin(const std::string &file, std::size_t offset) override {
+        out_.text += '{';
+        if (!file.empty()) out_.text += R"("file":)" + json_text(file) + ",";
+        append_decimal(offset, out_.text += R"("offset":)");
         out_.text += R"(,"parts":[)";
         depth_ = 0;
     }

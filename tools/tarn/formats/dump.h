@@ -14,7 +14,7 @@ using Write = std::function<void(std::string_view)>;
 // Prints one frame after the other, in pieces of limited size, while the frame is walked.
 class Dump : public DissectionVisitor {
 public:
-    virtual void begin(std::size_t offset) = 0;
+    virtual void begin(const std::string &file, std::size_t offset) = 0;  // an empty name is omitted
     virtual void end(const Walked &walked) = 0;
 };
 
@@ -23,12 +23,13 @@ std::unique_ptr<Dump> text_dump(Write write);
 
 // A line for each frame:
 //
-//   {"offset": 0, "size": 65, "parts": [FIELD or GROUP, ...], "broken": {"offset": 57, "path": PATH, "reason": TEXT}}
+//   {"file": NAME, "offset": 0, "parts": [FIELD or GROUP, ...], "size": 59,
+//    "broken": {"offset": 57, "path": PATH, "reason": TEXT}}
 //   a field: {"name": NAME, "offset": N, "size": N, "kind": KIND, "value": TEXT}
 //   a group: {"name": NAME, "kind": KIND, "parts": [FIELD or GROUP, ...]}
 //
-// An element of a list and its state have an "index". The size follows the parts. "broken" is present if the frame is
-// broken.
+// An element of a list and its state have an "index". The size is that of the parts. "broken" is present if the frame
+// is broken.
 std::unique_ptr<Dump> json_dump(Write write);
 
 }  // namespace tarn::tool

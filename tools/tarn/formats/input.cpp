@@ -264,7 +264,7 @@ Exit for_each_item(const InputOptions &options, const std::function<void(Entry &
 }
 
 Exit for_each_stretch(const InputOptions &options,
-                      const std::function<void(const Stretch &, const std::string &file)> &visit) {
+                      const std::function<void(Stretch &, const std::string &file)> &visit) {
     Failures failures(true);
     for_each_source(options, failures, [&](Opened &source, const std::function<void()> &show) {
         ByteStream &stream = source.stream;

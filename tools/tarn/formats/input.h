@@ -85,8 +85,8 @@ struct StopReading {};
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit);
 
 // The same for files that contain frames, as bytes. `visit` also gets the parts that are not frames, before they are
-// reported.
+// reported, and may say more about their fault.
 Exit for_each_stretch(const InputOptions &options,
-                      const std::function<void(const Stretch &, const std::string &file)> &visit);
+                      const std::function<void(Stretch &, const std::string &file)> &visit);
 
 }  // namespace tarn::tool

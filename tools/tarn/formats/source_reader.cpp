@@ -157,14 +157,15 @@ std::string Tokens::raw_from(std::size_t begin) {
 }
 
 // In parentheses: what is usually computed.
-const std::vector<std::string_view> head_attributes = {"variant", "flag", "ra_value", "ra_byte"};
-
 struct Attribute {
     Token name;
-    Token value;  // unless it is a list
-    std::vector<std::uint8_t> list = {};
+    Token value;                          // unless it takes a list
+    std::vector<std::uint8_t> list = {};  // of state bytes
+
+    bool takes_list() const { return name.is("states") || name.is("parts"); }
 };
 using Attributes = std::vector<Attribute>;
+const std::vector<std::string_view> head_attributes = {"variant", "flag", "ra_value", "ra_byte"};
 
 class Assembler {
 public:
@@ -185,7 +186,6 @@ public:
 
 private:
     struct Name {
-        Token token;
         std::string luid;
         const reflect::MessageOperations *message = nullptr;  // with a payload
         bool is_request = false;
@@ -273,9 +273,10 @@ std::vector<std::uint8_t> Assembler::take_list(std::size_t most) {
         if (token.kind == Token::Kind::word && star != std::string_view::npos) {
             times.written = token.written.substr(star + 1);
             token.written = token.written.substr(0, star);
-            count = number_of(times, most);
+            count = number_of(times, UINT32_MAX);
         }
-        if (count > most - list.size()) tokens_.fail(token, "there are only " + std::to_string(most) + " state bytes");
+        if (count > most - list.size())
+            tokens_.fail(times, "the number of state bytes here is at most " + std::to_string(most));
         list.insert(list.end(), count, static_cast<std::uint8_t>(number_of(token, UINT8_MAX)));
     }
     expect(']');
@@ -294,8 +295,10 @@ Attributes Assembler::take_attributes(const std::vector<std::string_view> &known
             tokens_.fail(attribute.name, in_quotes(name) + " cannot be given here; possible: " + all);
         }
         if (find(attributes, name) != nullptr) tokens_.fail(attribute.name, in_quotes(name) + " is given twice");
-        if (tokens_.next().is('[')) {
+        if (attribute.takes_list()) {
             attribute.list = take_list(states);
+        } else if (tokens_.next().kind == Token::Kind::mark) {
+            tokens_.fail_expected("a number");
         } else {
             attribute.value = tokens_.take();
         }
@@ -308,31 +311,24 @@ Attributes Assembler::take_attributes(const std::vector<std::string_view> &known
 // ---- frames
 
 Assembler::Name Assembler::take_name() {
-    Name name{tokens_.take(), {}};
-    const auto luid = [](const std::uint8_t *bytes) { return std::string(chars_of({bytes, schema::luid_size})); };
-    const std::string_view written = name.token.written;
-    if (name.token.kind == Token::Kind::raw) {
-        if (name.token.bytes.size() != schema::luid_size) tokens_.fail(name.token, "a luid has 16 bytes");
-        name.luid = name.token.bytes;
-        return name;
+    const Token token = tokens_.take();
+    const std::string_view written = token.written;
+    const auto text_of = [](const std::uint8_t *luid) { return std::string(chars_of({luid, schema::luid_size})); };
+    if (token.kind == Token::Kind::raw) {
+        if (token.bytes.size() != schema::luid_size) tokens_.fail(token, "a luid has 16 bytes");
+        return {token.bytes};
     }
     for (const Control control : controls) {
         if (!tokens_.next().is(word(control))) continue;
         const auto *bundle = find_bundle_named(written);
-        if (bundle == nullptr) tokens_.fail(name.token, unknown_name("bundle", written, bundle_names()).what());
+        if (bundle == nullptr) tokens_.fail(token, unknown_name("bundle", written, bundle_names()).what());
         tokens_.take();
-        name.luid = luid(operations_of(*bundle, control).luid);
-        return name;
+        return {text_of(operations_of(*bundle, control).luid)};
     }
-    name.is_request = written == "ui_req_msg";
-    if (name.is_request) {
-        name.luid = luid(message_ui_req_msg_luid);
-        return name;
-    }
-    name.message = name.token.kind == Token::Kind::word ? find_message_named(written) : nullptr;
-    if (name.message == nullptr) tokens_.fail(name.token, unknown_name("message", written, message_names()).what());
-    name.luid = luid(name.message->luid);
-    return name;
+    if (token.is("ui_req_msg")) return {text_of(message_ui_req_msg_luid), nullptr, true};
+    const auto *message = find_message_named(written);
+    if (message == nullptr) tokens_.fail(token, unknown_name("message", written, message_names()).what());
+    return {text_of(message->luid), message};
 }
 
 void Assembler::assemble_frame() {
@@ -435,6 +431,9 @@ Assembler::Head Assembler::put_head(const Attributes &front, bool tracked) {
         }
     };
     put_parts(put_parts, schema::record_frame);
+    if (has_ra && (flag & schema::wire_flag::ra_data) == 0) {
+        tokens_.fail(front.front().name, "with this flag, there is no RA data");
+    }
     head.tracked = (flag & schema::wire_flag::tracked) != 0;
     return head;
 }

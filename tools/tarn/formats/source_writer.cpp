@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "tools/tarn/formats/dissection.h"
+#include "tools/tarn/formats/frame_reader.h"
 #include "tools/tarn/formats/source.h"
 #include "tools/tarn/support/hex.h"
 #include "tools/tarn/support/instance.h"
@@ -410,32 +411,31 @@ void SourceWriter::finish_frame(const std::optional<Break> &broken) {
     write_raw(bytes_from(partial ? partial->begin : begin), is_member ? std::string(partial->name) : "");
     while (levels_.size() > 1) close_lines();
     finish_value();
-    const bool has_body = levels_.front().is_begun;
     Parentheses back;
     if (total_length_ != bytes_.size()) back.add("total_length", std::to_string(total_length_));
-    out_ += (has_body ? "}" : "") + back.closed();
+    if (levels_.front().is_begun || !back.text.empty()) out_ += levels_.front().is_begun ? "}" : " {}";
+    out_ += back.closed();
     end_line();
 }
 
 }  // namespace
 
+// What is no frame ends where the next one begins.
 void write_source(FrameBytes bytes, const std::function<void(std::string_view)> &write) {
     SourceWriter writer(write);
-    constexpr std::size_t head_size = schema::message_head_size;
-    const auto is_head = [&](std::size_t at) {
-        if (bytes[at] != schema::frame_marker || bytes.size() - at < head_size) return false;
-        return identify(bytes.data() + at + schema::message_header_size).has_value();
-    };
-    for (std::size_t begin = 0; begin < bytes.size();) {
-        mirk_platform_frame head;
-        const FrameBytes rest = bytes.subspan(begin);
-        const bool is_frame =
-            rest.size() >= head_size && mirk_platform_frame_look(rest.data(), rest.size(), &head) == 0;
-        std::size_t size = is_frame ? std::min<std::size_t>(head.header.total_length, rest.size()) : 1;
-        // What is no frame ends where one begins.
-        while (!is_frame && size < rest.size() && !is_head(begin + size)) ++size;
-        writer.add(rest.first(size), begin);
-        begin += size;
+    ByteStream stream("", [rest = chars_of(bytes)](char *to, std::size_t most) mutable {
+        const std::size_t size = rest.copy(to, most);
+        rest.remove_prefix(size);
+        return size;
+    });
+    FrameReader reader(stream, true);
+    std::size_t begin = 0;
+    for (bool has_begun = false;; has_begun = true) {
+        const std::optional<Stretch> stretch = reader.next();
+        const std::size_t end = stretch ? stretch->offset : bytes.size();
+        if (has_begun) writer.add(bytes.subspan(begin, end - begin), begin);
+        if (!stretch) return;
+        begin = end;
     }
 }
 
