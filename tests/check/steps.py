@@ -65,6 +65,7 @@ def prepare():
     for preset in "dev", "mutants", "release-clang":
         write(f"build/{preset}/tools/generate/generate", STUB)
     write("build/dev/tools/tarn/tarn", STUB)
+    write("docs/export.md", "", 0o644)
     (tree / "build/coverage/CMakeFiles/lumo_ui_tarn.dir").mkdir(parents=True)
     for folder in ("core", "families", "families/shortcuts", "include", "kinds", "messaging", "platform/contract", "platform/service", "schema",
                    "tests", "tools"):
