@@ -209,8 +209,10 @@ TEST(Dissect, ShowsNameKindValueAndStateInOneLine) {
 }
 
 TEST(Dissect, ShowsAddressesAsText) {
-    const std::string out = tarn({"dissect"}, list_frame(4, false)).out;
-    EXPECT_NE(out.find("ip_address 10."), std::string::npos) << out;
+    const std::string source =
+        "frame dp-mp-tc { payload { show_header false total_prefixes 1 prefix_data [ { prefix 10.1.0.0/16 ... } ] } }";
+    const std::string out = tarn({"dissect"}, tarn({"assemble"}, source).out).out;
+    EXPECT_NE(out.find(" ip_address 10.1.0.0/16\n"), std::string::npos) << out;
 }
 
 TEST(Dissect, NamesTheIndexOfEachElement) {
