@@ -45,7 +45,10 @@ TEST(Generated, PicturesAreUpToDateAndInTheTour) {
     ASSERT_EQ(generate("pictures", fresh.path()).code, 0);
     const std::set<std::string> names = files_below(fresh.path());
     const std::filesystem::path docs = TARN_DOCS;
-    EXPECT_EQ(names, files_below(docs / "pictures"));
+    std::set<std::string> drawn = files_below(docs / "pictures");
+    // The others show the program at work.
+    std::erase_if(drawn, [](const std::string &name) { return !name.ends_with(".svg"); });
+    EXPECT_EQ(names, drawn);
     const std::string tour = content_of(docs / "tour.md");
     for (const std::string &name : names) {
         EXPECT_TRUE(content_of(docs / "pictures" / name) == content_of(fresh.path() / name)) << name << remedy;

@@ -640,25 +640,25 @@ def damaged_frames(message, tracked: bool, seed: int) -> list[bytes]:
 
 
 @pytest.mark.parametrize("tracked", [False, True])
-def test_refuses_the_same_frames_as_the_tool(tracked, tmp_path):
+def test_refuses_the_same_frames_as_the_tool(tracked):
     handle, refused, read = lumo_tarn.Handle(tracked), 0, 0
     for seed, message in enumerate(MESSAGES):
         frames = damaged_frames(message, tracked, seed)
-        file = tmp_path / "frames.bin"
-        file.write_bytes(b"".join(frames))
-        command = [os.environ["TARN_TOOL"], "decode", "--keep-going", str(file)]
-        printed = subprocess.run(command, capture_output=True, check=False).stderr.decode()
-        reasons = dict(re.findall(r"frame at offset (\d+): \w+ cannot be read: (.*? claims .*? left)", printed))
-        at = 0
-        for frame in frames:
-            try:
-                message.from_frame(frame, on=handle)
-                reason = None
-            except OSError as error:
-                reason = error.strerror if error.errno == errno.EBADMSG else None
-            assert reason == reasons.get(str(at))
-            refused, read = refused + (reason is not None), read + (reason is None)
-            at += len(frame)
+        for first in range(0, len(frames), 20):  # of more errors, the tool only counts the rest
+            some = frames[first : first + 20]
+            command = [os.environ["TARN_TOOL"], "decode", "--keep-going"]
+            printed = subprocess.run(command, input=b"".join(some), capture_output=True, check=False).stderr.decode()
+            reasons = dict(re.findall(r"frame at offset (\d+): \w+ cannot be read: (.*? claims .*? left)", printed))
+            at = 0
+            for frame in some:
+                try:
+                    message.from_frame(frame, on=handle)
+                    reason = None
+                except OSError as error:
+                    reason = error.strerror if error.errno == errno.EBADMSG else None
+                assert reason == reasons.get(str(at))
+                refused, read = refused + (reason is not None), read + (reason is None)
+                at += len(frame)
     assert refused > 50 and read > 50
 
 

@@ -98,7 +98,9 @@ private:
     Field take(Field::Kind kind, std::size_t size, const Name &name, std::string_view type,
                std::string_view suffix = {}) {
         if (size > end_ - at_) {
-            stop(at_, path(name, suffix),
+            // The value of a small frame belongs to the member that the frame is.
+            const bool is_value = kind == Field::Kind::boolean || kind == Field::Kind::enumeration;
+            stop(at_, path(is_value ? Name{} : name, suffix),
                  "needs " + std::to_string(size) + " bytes, but " + std::to_string(end_ - at_) + " are left");
         }
         Field field{kind, name.text, name.index, type, base_ + at_, bytes_.subspan(at_, size)};
