@@ -138,9 +138,9 @@ Exit decode(const InputOptions &input, const DecodeOptions &options, const Write
         checked.checks_frames = true;
         return for_each_item(checked, [&](Entry &entry) {
             std::string text = rendered(entry.item, options.style());
-            if (!entry.warning.empty()) {
-                warnings.add(
-                    {Exit::success, entry.item.location + ": warning: it can be read, but is " + entry.warning});
+            if (entry.broken) {
+                warnings.add({Exit::success, entry.item.location + ": warning: it can be read, but is broken at " +
+                                                 sentence_of(*entry.broken)});
             }
             if (entry.connection != connection) {
                 connection = entry.connection;
@@ -192,8 +192,8 @@ void add_decode(CLI::App &app, Context &context) {
         "After an error, the next file is read; the exit code is the highest of all errors.\n"
         "With --keep-going, the rest of the file is read, too: bytes that are not a frame\n"
         "are skipped up to the next header of a known message, and their offset,\n"
-        "their number and the reason are printed. An error in JSON always ends its file.\n"
-        "Malformed XML, such as an element without an end, prevents all output.\n\n"
+        "their number and the reason are printed. A syntax error in JSON, and an element\n"
+        "of XML without an end, always end their file.\n\n"
         "The library reads some frames that are broken, such as one with bytes after its\n"
         "message. They are decoded with a warning, which does not change the exit code.\n\n"
         "Of a network capture, text and XML name the connection before its messages, and\n"

@@ -2,9 +2,10 @@
 #include <memory>
 
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/many_files.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/frame_writer.h"
-#include "tools/tarn/formats/reader.h"
+#include "tools/tarn/formats/input.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/terminal.h"
@@ -15,21 +16,44 @@ namespace tarn::tool {
 namespace {
 
 struct EncodeOptions {
-    std::string file = "-", output = "-", bundle;
+    InputOptions input;
+    OutputOptions outputs;
+    std::string output = "-", bundle;
     std::uint32_t stamp = 0;
-    From from = From::detect;
-    bool tracked = false, lenient = false, verbose = false, force = false;
+    bool tracked = false, verbose = false, force = false;
 };
+
+Exit encode(const InputOptions &input, const EncodeOptions &options,
+            const std::function<void(std::string_view)> &write) {
+    const auto *bundle = options.bundle.empty() ? nullptr : &bundle_named(options.bundle);
+    const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
+    FrameWriter writer(handles, bundle, options.stamp, write);
+    std::string last;
+    const Exit exit = for_each_item(input, handles, [&](Entry &entry) {
+        writer.add(entry.item);
+        last = entry.file;
+    });
+    if (exit != Exit::success && (!input.keep_going || last.empty())) return exit;
+    if (last.empty()) {
+        throw Failure(Exit::input, shown_path(input.paths.empty() ? "-" : input.paths.back()) + ": no message");
+    }
+    writer.finish(last);
+    return exit;
+}
 
 Exit run_encode(const EncodeOptions &options) {
     set_up_trace(options.verbose);
-    if (!options.force) refuse_terminal(options.output);
-    const std::string origin = shown_path(options.file);
-    const Handles handles(options.tracked ? Tracking::on : Tracking::as_input);
-    const std::vector<Item> items = read_items(handles, options.file, options.lenient, options.from);
-    const auto *bundle = options.bundle.empty() ? nullptr : &bundle_named(options.bundle);
-    write_file(options.output, frames_of(handles, items, origin, bundle, options.stamp));
-    return Exit::success;
+    const bool has_directory = !options.outputs.directory.empty();
+    if (!options.force && !has_directory) refuse_terminal(options.output);
+    if (has_directory || options.output == "-") {
+        return convert_files(options.input, options.outputs, ".bin", [&](const InputOptions &input, const auto &write) {
+            return encode(input, options, write);
+        });
+    }
+    OutputFile file(options.output);
+    const Exit exit = encode(options.input, options, [&](std::string_view frame) { file.append(frame); });
+    if (exit == Exit::success || options.input.keep_going) file.finish();
+    return exit;
 }
 
 }  // namespace
@@ -37,8 +61,10 @@ Exit run_encode(const EncodeOptions &options) {
 void add_encode(CLI::App &app, Context &context) {
     auto options = std::make_shared<EncodeOptions>();
     CLI::App *command = app.add_subcommand("encode", "Convert XML and JSON to frames");
-    add_input(*command, options->file, "Frames, XML or JSON");
+    add_inputs(*command, options->input);
     add_output(*command, options->output, "Output file");
+    add_output_directory(*command, options->outputs);
+    command->get_option("--output-directory")->excludes(command->get_option("--output"));
     add_force(*command, options->force);
     command->add_option("--bundle", options->bundle, "Put the start and the commit of this bundle around the messages")
         ->type_name(words::bundle);
@@ -47,8 +73,6 @@ void add_encode(CLI::App &app, Context &context) {
                      "Message stamp: a number of the sender's choice, in the header of each frame")
         ->capture_default_str();
     command->add_flag("--tracked", options->tracked, "Write per-field state");
-    add_from(*command, options->from);
-    add_lenient(*command, options->lenient);
     add_verbose(*command, options->verbose);
     command->footer(
         "The input is checked against the schema: a misspelled member, an unknown\n"

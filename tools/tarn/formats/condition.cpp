@@ -138,10 +138,9 @@ private:
         if (text.find_first_of("/,") == std::string::npos && text != "unset") {
             text += text.find(':') == std::string::npos ? "/32" : "/128";
         }
-        static const Handle handle(false);
         ip_address address{};
         if (const std::string problem = address_problem(text); !problem.empty()) fail(problem);
-        if (!set_address(handle, &address, text)) fail_value("is not an address");
+        if (!set_address(&address, text)) fail_value("is not an address");
         return address;
     }
 

@@ -6,7 +6,7 @@
 
 #include "tools/tarn/formats/capture.h"
 #include "tools/tarn/formats/dissection.h"
-#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/json_reader.h"
 #include "tools/tarn/formats/xml.h"
 #include "tools/tarn/support/files.h"
 #include "tools/tarn/support/terminal.h"
@@ -46,7 +46,9 @@ public:
         if (!stretch->identity) {
             has_ended_ = !keep_going_;
             const std::string consequence = keep_going_ ? skipped(reader_.skip()) : "";
-            throw Failure(Exit::input, frame_location(origin_, stretch->offset) + ": " + stretch->fault + consequence);
+            const std::string reason = stretch->fault + consequence;
+            throw Invalid({Exit::input, frame_location(origin_, stretch->offset) + ": " + reason},
+                          {{}, {}, reason, {}, stretch->offset});
         }
         try {
             Item item = item_of(handles_, stretch->frame(), origin_);
@@ -57,7 +59,7 @@ public:
         }
     }
 
-    std::string warning() const override { return broken_ ? "broken at " + sentence_of(*broken_) : std::string(); }
+    std::optional<Break> broken() const override { return broken_; }
 
 private:
     const Handles &handles_;
@@ -67,41 +69,16 @@ private:
     std::optional<Break> broken_;
 };
 
-class Fragments : public EntryReader::Source {
+// Of XML or JSON.
+template <class Reader>
+class Messages : public EntryReader::Source {
 public:
-    Fragments(const Handles &handles, ByteStream &stream, bool lenient)
-        : handles_(handles),
-          origin_(stream.name()),
-          text_(stream.take_rest()),
-          fragments_(split_fragments(text_, origin_)),
-          lenient_(lenient) {}
+    Messages(const Handles &handles, ByteStream &stream, bool lenient) : reader_(handles, stream, lenient) {}
 
-    std::optional<Item> next() override {
-        if (next_ == fragments_.size()) return std::nullopt;
-        return item_of(handles_, fragments_[next_++], origin_, lenient_);
-    }
+    std::optional<Item> next() override { return reader_.next(); }
 
 private:
-    const Handles &handles_;
-    const std::string origin_, text_;
-    const std::vector<Fragment> fragments_;
-    std::size_t next_ = 0;
-    bool lenient_;
-};
-
-class Objects : public EntryReader::Source {
-public:
-    Objects(const Handles &handles, ByteStream &stream, bool lenient)
-        : items_(from_json(handles, stream.take_rest(), stream.name(), lenient)) {}
-
-    std::optional<Item> next() override {
-        if (next_ == items_.size()) return std::nullopt;
-        return std::move(items_[next_++]);
-    }
-
-private:
-    std::vector<Item> items_;
-    std::size_t next_ = 0;
+    Reader reader_;
 };
 
 std::unique_ptr<EntryReader::Source> source_of(const Handles &handles, ByteStream &stream,
@@ -110,19 +87,20 @@ std::unique_ptr<EntryReader::Source> source_of(const Handles &handles, ByteStrea
         case Form::frames:
             return std::make_unique<Frames>(handles, stream, options);
         case Form::xml:
-            return std::make_unique<Fragments>(handles, stream, options.lenient);
+            return std::make_unique<Messages<XmlReader>>(handles, stream, options.lenient);
         case Form::json:
             break;
     }
-    return std::make_unique<Objects>(handles, stream, options.lenient);
+    return std::make_unique<Messages<JsonReader>>(handles, stream, options.lenient);
 }
 
 }  // namespace
 
-Failure with_cause(const Failure &failure, const Frame &frame) {
+Invalid with_cause(const Failure &failure, const Frame &frame) {
     const std::optional<Break> broken = error_in(frame.bytes, frame.offset);
-    if (!broken) return failure;
-    return {failure.exit(), std::string(failure.what()) + "; broken at " + sentence_of(*broken)};
+    if (!broken) return {failure, {{}, {}, failure.what(), {}, frame.offset}};
+    return {{failure.exit(), std::string(failure.what()) + "; broken at " + sentence_of(*broken)},
+            {{}, broken->path, broken->reason, {}, broken->offset}};
 }
 
 EntryReader::EntryReader(const Handles &handles, ByteStream &stream, const InputOptions &options)
@@ -137,7 +115,7 @@ std::optional<Entry> EntryReader::next() {
     const bool begins = identity.is_control() && identity.control == Control::start;
     if (begins) bundle_ = identity.bundle;
     const std::size_t number = identity.is_control() ? 0 : ++number_;
-    Entry entry{std::move(*item), file_, number, bundle_, source_->warning()};
+    Entry entry{std::move(*item), file_, number, bundle_, source_->broken()};
     if (identity.is_control() && !begins) bundle_ = nullptr;
     return entry;
 }
@@ -237,8 +215,11 @@ bool is_visited(Failures &failures, const Visit &visit) {
 }  // namespace
 
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit) {
-    const Handles handles(options.tracking);
-    Failures failures(true);
+    return for_each_item(options, Handles(options.tracking), visit);
+}
+
+Exit for_each_item(const InputOptions &options, const Handles &handles, const std::function<void(Entry &)> &visit) {
+    Failures failures(true, options.report);
     const auto read = [&](Opened &source, const std::function<void()> &show) {
         std::optional<EntryReader> reader;
         for (bool goes_on = true; goes_on; show()) {
@@ -265,7 +246,7 @@ Exit for_each_item(const InputOptions &options, const std::function<void(Entry &
 
 Exit for_each_stretch(const InputOptions &options,
                       const std::function<void(Stretch &, const std::string &file)> &visit) {
-    Failures failures(true);
+    Failures failures(true, options.report);
     for_each_source(options, failures, [&](Opened &source, const std::function<void()> &show) {
         ByteStream &stream = source.stream;
         FrameReader reader(stream, options.keep_going);

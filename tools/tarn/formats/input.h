@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "mirk_platform.h"
+#include "tools/tarn/formats/dissection.h"
 #include "tools/tarn/formats/frame_reader.h"
 #include "tools/tarn/formats/item.h"
+#include "tools/tarn/formats/problems.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/failure.h"
 
@@ -23,8 +25,9 @@ struct InputOptions {
     bool keep_going = false;                      // behind what is broken
     std::uint16_t port = MIRK_PLATFORM_TCP_PORT;  // of the connections in a network capture
     bool shows_progress = true;                   // on a terminal
-    bool checks_frames = false;                   // sets Entry::warning
+    bool checks_frames = false;                   // sets Entry::broken
     Tracking tracking = Tracking::as_input;
+    std::function<void(const Failure &)> report = {};  // gets what cannot be read, which is then not printed
 };
 
 // A message or a control message of a file.
@@ -33,7 +36,7 @@ struct Entry {
     std::string_view file;                    // as messages print it
     std::size_t number;                       // of the message in the file, from 1; 0 for a control message
     const reflect::BundleOperations *bundle;  // that contains it; null outside bundles
-    std::string warning = {};                 // what is broken in a frame that the library reads all the same
+    std::optional<Break> broken = {};         // what is broken in a frame that the library reads all the same
     std::string_view connection = {};         // in a network capture: "10.0.0.1:28276 to 10.0.0.2:40000"
 };
 
@@ -55,7 +58,7 @@ public:
     public:
         virtual ~Source() = default;
         virtual std::optional<Item> next() = 0;
-        virtual std::string warning() const { return {}; }  // of the last item
+        virtual std::optional<Break> broken() const { return {}; }  // of the last item
     };
 
 private:
@@ -74,7 +77,7 @@ struct InputFile {
 std::vector<InputFile> files_of(const std::vector<std::string> &paths);
 
 // With the place where the frame is broken, which the library does not report.
-Failure with_cause(const Failure &failure, const Frame &frame);
+Invalid with_cause(const Failure &failure, const Frame &frame);
 
 // Thrown by a visitor to end the reading without an error of its own.
 struct StopReading {};
@@ -83,6 +86,8 @@ struct StopReading {};
 // else with the next file. Returns the highest exit code of what was printed. A Failure that `visit` throws counts as
 // if the entry could not be read; one of the environment ends the command.
 Exit for_each_item(const InputOptions &options, const std::function<void(Entry &)> &visit);
+// With handles that outlive the call.
+Exit for_each_item(const InputOptions &options, const Handles &handles, const std::function<void(Entry &)> &visit);
 
 // The same for files that contain frames, as bytes. `visit` also gets the parts that are not frames, before they are
 // reported, and may say more about their fault.

@@ -32,6 +32,9 @@ nlohmann::ordered_json json_of(const Item &item);
 // Text, or {"bytes": HEX} if it is not UTF-8.
 nlohmann::ordered_json json_of_string(const std::string &text);
 
+// The same as one line.
+std::string json_line(const Item &item);
+
 // For output: printable; readers get the same values. A negative indent writes one line.
 std::string json_text(const nlohmann::ordered_json &json, int indent = -1);
 

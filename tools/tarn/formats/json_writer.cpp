@@ -1,6 +1,10 @@
-// Converts instances to JSON.
+// Writes instances as JSON.
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 #include <nlohmann/json.hpp>
+#include <utility>
+#include <vector>
 
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
@@ -18,164 +22,287 @@ using reflect::RecordOperations;
 using schema::Category;
 using schema::Kind;
 
-bool is_utf8(const std::string &text) {
-    try {
-        (void)ordered_json(text).dump();
-        return true;
-    } catch (const ordered_json::type_error &) {
-        return false;
+// Appends to a text. The caller writes what is between the brackets of an object or a list.
+class Output {
+public:
+    explicit Output(std::string &text) : text_(text) {}
+
+    void open(char bracket) {
+        separate();
+        text_ += bracket;
     }
+    void close(char bracket) { text_ += bracket; }
+    void key(std::string_view name) {
+        separate();
+        text_ += '"';
+        text_ += name;
+        text_ += "\":";
+    }
+    template <class Number>
+    void number(Number number) {
+        separate();
+        char digits[24];
+        const auto [end, error] = std::to_chars(digits, digits + sizeof digits, number);
+        text_.append(digits, end);
+    }
+    void word(std::string_view word) {
+        separate();
+        text_ += word;
+    }
+    // Of printable ASCII characters without quotation marks and backslashes.
+    void plain(std::string_view text) {
+        separate();
+        text_ += '"';
+        text_ += text;
+        text_ += '"';
+    }
+    void string(std::string_view text) {
+        const auto is_plain = [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; };
+        if (std::all_of(text.begin(), text.end(), is_plain)) return plain(text);
+        separate();
+        text_ += json_text(text);
+    }
+    template <class Numbers>
+    void list(const Numbers &numbers) {
+        open('[');
+        for (const auto one : numbers) number(one);
+        close(']');
+    }
+
+private:
+    // From what precedes on the same level.
+    void separate() {
+        if (!text_.empty() && std::string_view("{[:").find(text_.back()) == std::string_view::npos) text_ += ',';
+    }
+
+    std::string &text_;
+};
+
+void put_ra_data(const Handle &handle, void *object, Output &out) {
+    const auto ra = ra_data_of(handle, object);
+    if (!ra) return;
+    out.key("@ra");
+    out.open('{');
+    out.key("value");
+    out.plain(std::to_string(ra->value));
+    out.key("byte");
+    out.number(unsigned{ra->byte});
+    out.close('}');
 }
 
-void add_ra_data(const Handle &handle, void *object, ordered_json &json) {
-    if (const auto ra = ra_data_of(handle, object))
-        json["@ra"] = {{"value", std::to_string(ra->value)}, {"byte", ra->byte}};
+void put_string(const std::string &text, Output &out) {
+    if (is_utf8(text)) return out.string(text);
+    out.open('{');
+    out.key("bytes");
+    out.plain(hex_text(bytes_of(text)));
+    out.close('}');
 }
 
-ordered_json json_of_address(const Handle &handle, ip_address *address) {
-    ordered_json json = ordered_json::object();
-    add_ra_data(handle, address, json);
+void put_variant(const void *object, Output &out) {
+    out.key("@variant");
+    out.number(int{variant_of(object)});
+}
+
+void put_address(const Handle &handle, ip_address *address, Output &out) {
+    const std::uint8_t *const state = address->variant < 0 ? nullptr : address_state(handle, address);
+    const bool has_state = state != nullptr && std::any_of(state, state + 7, [](std::uint8_t b) { return b != 0; });
+    if (address->variant >= 0 && !has_state && !ra_data_of(handle, address)) {
+        return out.plain(address_text(handle, address));
+    }
+    out.open('{');
+    put_ra_data(handle, address, out);
     if (address->variant < 0) {
-        json["@variant"] = address->variant;
-        return json;
+        put_variant(address, out);
+    } else {
+        if (has_state) {
+            out.key("@members");
+            out.list(std::vector<unsigned>(state, state + 7));
+        }
+        out.key("@address");
+        out.plain(address_text(handle, address));
     }
-    if (const std::uint8_t *state = address_state(handle, address)) {
-        const std::vector<std::uint8_t> bytes(state, state + 7);
-        if (bytes != std::vector<std::uint8_t>(7)) json["@members"] = bytes;
-    }
-    if (json.empty()) return address_text(handle, address);
-    json["@address"] = address_text(handle, address);
-    return json;
+    out.close('}');
 }
 
-ordered_json json_of_value(const Handle &handle, const MemberOperations &member, void *value) {
-    if (member.member->kind == Kind::address) return json_of_address(handle, static_cast<ip_address *>(value));
-    ordered_json json;
+void put_scalar(const MemberOperations &member, const void *value, Output &out) {
     if (member.member->kind == Kind::boolean) {
         const std::uint8_t truth = static_cast<const mirk_boolean *>(value)->value;
-        json = truth > 1 ? ordered_json(truth) : ordered_json(truth != 0);
-    } else {
-        const std::uint32_t number = enumeration_value(value);
-        const auto &enumerators = member.member->enumeration->enumerators;
-        json = number < enumerators.size() ? ordered_json(enumerators[number]) : ordered_json(number);
+        if (truth > 1) return out.number(unsigned{truth});
+        return out.word(truth != 0 ? "true" : "false");
     }
-    // Booleans and enumerations have a value even if their variant is negative.
-    if (variant_of(value) < 0) return {{"@variant", variant_of(value)}, {"@value", json}};
-    return json;
+    const std::uint32_t number = enumeration_value(value);
+    const auto &enumerators = member.member->enumeration->enumerators;
+    if (number < enumerators.size()) return out.plain(enumerators[number]);
+    out.number(number);
 }
 
 // One walk over the members of an instance.
 class Writer {
 public:
-    Writer(const Handle &handle, const RecordOperations &operations, void *instance)
-        : handle_(handle), operations_(operations), instance_(instance) {}
+    Writer(const Handle &handle, const RecordOperations &operations, void *instance, Output &out)
+        : handle_(handle), operations_(operations), instance_(instance), out_(out) {}
 
-    ordered_json run() {
-        ordered_json json = ordered_json::object();
-        add_ra_data(handle_, instance_, json);
+    void run() {
+        out_.open('{');
+        put_ra_data(handle_, instance_, out_);
         if (variant_of(instance_) < 0) {
-            json["@variant"] = variant_of(instance_);
-            return json;
+            put_variant(instance_, out_);
+        } else {
+            for (std::size_t i = 0; i < operations_.members.size(); ++i) {
+                const MemberOperations &m = operations_.members[i];
+                if (m.member->role != schema::Role::value) continue;
+                out_.key(m.member->name);
+                put_value(i);
+            }
+            if (handle_.tracked()) put_states();
         }
-        for (std::size_t i = 0; i < operations_.members.size(); ++i) {
-            const MemberOperations &m = operations_.members[i];
-            if (m.member->role != schema::Role::value) continue;
-            json[std::string(m.member->name)] = value(i);
-            if (handle_.tracked()) add_state(m, count_);
-        }
-        if (!state_.empty()) json["@state"] = state_;
-        return json;
+        out_.close('}');
     }
 
-    ordered_json value(std::size_t index) {
+    void put_value(std::size_t index) {
         const MemberOperations &m = operations_.members[index];
         mirk_handle *h = handle_.get();
         switch (category(m.member->kind)) {
             case Category::integer: {
                 const std::uint64_t number = m.get_value(h, context_id, instance_, &err_);
-                return is_wide(greatest(m.member->kind)) ? ordered_json(std::to_string(number)) : ordered_json(number);
+                return is_wide(greatest(m.member->kind)) ? out_.plain(std::to_string(number)) : out_.number(number);
             }
             case Category::string:
-                return json_of_string(string_at(*operations_.record, index, instance_));
+                return put_string(string_at(*operations_.record, index, instance_), out_);
             case Category::record:
-                return json_of(handle_, reflect::operations_of(*m.member->record),
-                               m.get(h, context_id, instance_, &err_));
+                return put_record(*m.member->record, m.get(h, context_id, instance_, &err_));
             case Category::array:
-                return elements(index);
+                return put_elements(index);
+            case Category::address:
+                return put_address(handle_, static_cast<ip_address *>(m.get(h, context_id, instance_, &err_)), out_);
             case Category::boolean:
             case Category::enumeration:
-            case Category::address:
                 break;
         }
-        return json_of_value(handle_, m, m.get(h, context_id, instance_, &err_));
+        const void *value = m.get(h, context_id, instance_, &err_);
+        // It has a value even if its variant is negative.
+        if (variant_of(value) >= 0) return put_scalar(m, value, out_);
+        out_.open('{');
+        put_variant(value, out_);
+        out_.key("@value");
+        put_scalar(m, value, out_);
+        out_.close('}');
     }
 
 private:
-    ordered_json elements(std::size_t index) {
-        const MemberOperations &m = operations_.members[index];
-        const RecordOperations &element = reflect::operations_of(*m.member->record);
-        ordered_json json = ordered_json::array();
-        count_ = static_cast<std::uint32_t>(
-            operations_.members[index - 1].get_value(handle_.get(), context_id, instance_, &err_));
-        for (std::uint32_t i = 0; i < count_; ++i) {
-            void *object = m.element_get(handle_.get(), context_id, instance_, i, &err_);
-            if (object == nullptr) break;
-            json.push_back(json_of(handle_, element, object));
-        }
-        return json;
+    void put_record(const schema::Record &record, void *instance) {
+        Writer(handle_, reflect::operations_of(record), instance, out_).run();
     }
 
-    void add_state(const MemberOperations &m, std::uint32_t count) {
-        const std::uint8_t own = m.state_flag_get(handle_.get(), context_id, instance_, &err_);
-        const std::string name(m.member->name);
-        if (m.member->kind != Kind::array) {
-            if (own != 0) state_[name] = own;
-            return;
-        }
-        std::vector<std::uint8_t> each;
+    std::uint32_t count_of(std::size_t array) {
+        const MemberOperations &count = operations_.members[array - 1];
+        return static_cast<std::uint32_t>(count.get_value(handle_.get(), context_id, instance_, &err_));
+    }
+
+    void put_elements(std::size_t index) {
+        const MemberOperations &m = operations_.members[index];
+        const RecordOperations &element = reflect::operations_of(*m.member->record);
+        out_.open('[');
+        const std::uint32_t count = count_of(index);
         for (std::uint32_t i = 0; i < count; ++i) {
-            each.push_back(m.element_state_flag_get(handle_.get(), context_id, instance_, i, &err_));
+            void *object = m.element_get(handle_.get(), context_id, instance_, i, &err_);
+            if (object == nullptr) break;
+            Writer(handle_, element, object, out_).run();
         }
-        const bool any = std::any_of(each.begin(), each.end(), [](std::uint8_t byte) { return byte != 0; });
-        if (own != 0 || any) state_[name] = {{"whole", own}, {"elements", each}};
+        out_.close(']');
+    }
+
+    // Only if there are any that are not 0.
+    void put_states() {
+        bool is_first = true;
+        for (std::size_t i = 0; i < operations_.members.size(); ++i) {
+            const MemberOperations &m = operations_.members[i];
+            if (m.member->role != schema::Role::value) continue;
+            const unsigned own = m.state_flag_get(handle_.get(), context_id, instance_, &err_);
+            std::vector<unsigned> each;
+            for (std::uint32_t e = 0, count = m.member->kind == Kind::array ? count_of(i) : 0; e < count; ++e) {
+                each.push_back(m.element_state_flag_get(handle_.get(), context_id, instance_, e, &err_));
+            }
+            if (own == 0 && std::count(each.begin(), each.end(), 0U) == std::ssize(each)) continue;
+            if (std::exchange(is_first, false)) {
+                out_.key("@state");
+                out_.open('{');
+            }
+            out_.key(m.member->name);
+            if (m.member->kind != Kind::array) {
+                out_.number(own);
+                continue;
+            }
+            out_.open('{');
+            out_.key("whole");
+            out_.number(own);
+            out_.key("elements");
+            out_.list(each);
+            out_.close('}');
+        }
+        if (!is_first) out_.close('}');
     }
 
     const Handle &handle_;
     const RecordOperations &operations_;
     void *instance_;
-    ordered_json state_;
+    Output &out_;
     std::uint32_t err_ = 0;
-    std::uint32_t count_ = 0;  // of the array written last
 };
 
+// What the function writes.
+template <class Put>
+ordered_json parsed(const Put &put) {
+    std::string text;
+    Output out(text);
+    put(out);
+    return ordered_json::parse(text);
+}
+
 }  // namespace
-
-ordered_json json_of_string(const std::string &text) {
-    if (is_utf8(text)) return text;
-    return {{"bytes", hex_text(bytes_of(text))}};
-}
-
-ordered_json json_of(const Handle &handle, const RecordOperations &operations, void *instance) {
-    return Writer(handle, operations, instance).run();
-}
-
-ordered_json json_of_member(const Handle &handle, const RecordOperations &operations, std::size_t index,
-                            void *instance) {
-    return Writer(handle, operations, instance).value(index);
-}
 
 std::string json_text(const ordered_json &json, int indent) {
     return printable_output(json.dump(indent, ' ', false, ordered_json::error_handler_t::replace), Notation::json);
 }
 
-ordered_json json_of(const Item &item) {
+std::string json_line(const Item &item) {
+    std::string text;
+    Output out(text);
     const Identity &identity = item.identity;
-    if (identity.is_control()) return {{"bundle", identity.bundle->bundle->name}, {"control", word(identity.control)}};
-    const Message &message = *item.message;
-    ordered_json json{{"message", message.operations().name}};
-    if (message.handle().tracked()) json["tracked"] = true;
-    json["payload"] = json_of(message.handle(), message.record(), message.payload());
-    return json;
+    out.open('{');
+    if (identity.is_control()) {
+        out.key("bundle");
+        out.plain(identity.bundle->bundle->name);
+        out.key("control");
+        out.plain(word(identity.control));
+    } else {
+        const Message &message = *item.message;
+        out.key("message");
+        out.plain(message.operations().name);
+        if (message.handle().tracked()) {
+            out.key("tracked");
+            out.word("true");
+        }
+        out.key("payload");
+        Writer(message.handle(), message.record(), message.payload(), out).run();
+    }
+    out.close('}');
+    return text;
+}
+
+ordered_json json_of(const Item &item) { return ordered_json::parse(json_line(item)); }
+
+ordered_json json_of(const Handle &handle, const RecordOperations &operations, void *instance) {
+    return parsed([&](Output &out) { Writer(handle, operations, instance, out).run(); });
+}
+
+ordered_json json_of_member(const Handle &handle, const RecordOperations &operations, std::size_t index,
+                            void *instance) {
+    return parsed([&](Output &out) { Writer(handle, operations, instance, out).put_value(index); });
+}
+
+ordered_json json_of_string(const std::string &text) {
+    return parsed([&](Output &out) { put_string(text, out); });
 }
 
 }  // namespace tarn::tool

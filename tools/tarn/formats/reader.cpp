@@ -24,14 +24,6 @@ std::vector<Item> from_frames(const Handles &handles, std::string_view content, 
     return items;
 }
 
-std::vector<Item> from_xml(const Handles &handles, std::string_view content, const std::string &origin, bool lenient) {
-    std::vector<Item> items;
-    for (const Fragment &fragment : split_fragments(content, origin)) {
-        items.push_back(item_of(handles, fragment, origin, lenient));
-    }
-    return items;
-}
-
 // The frames of all connections in a capture, without the requests.
 class CapturedFrames {
 public:
@@ -104,8 +96,13 @@ std::vector<Item> items_of(const Handles &handles, std::string_view content, con
     switch (form_of(content, origin)) {
         case Form::frames:
             return from_frames(handles, content, origin);
-        case Form::xml:
-            return from_xml(handles, content, origin, lenient);
+        case Form::xml: {
+            ByteStream stream = stream_of(std::string(content), origin);
+            XmlReader reader(handles, stream, lenient);
+            std::vector<Item> items;
+            while (std::optional<Item> item = reader.next()) items.push_back(std::move(*item));
+            return items;
+        }
         case Form::json:
             break;
     }

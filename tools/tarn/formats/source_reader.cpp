@@ -169,7 +169,7 @@ const std::vector<std::string_view> head_attributes = {"variant", "flag", "ra_va
 
 class Assembler {
 public:
-    Assembler(std::string_view text, const std::string &origin) : tokens_(text, origin), handle_(false) {}
+    Assembler(std::string_view text, const std::string &origin) : tokens_(text, origin) {}
 
     std::string run() {
         while (tokens_.next().kind != Token::Kind::end) {
@@ -239,7 +239,6 @@ private:
     }
 
     Tokens tokens_;
-    Handle handle_;  // for addresses
     std::string out_;
 };
 
@@ -612,7 +611,7 @@ Assembler::Head Assembler::assemble_address(bool tracked, std::vector<std::size_
     // The runtime reads it from XML, so markup must not reach it.
     const bool has_markup =
         text != "unset" && text.find_first_not_of("0123456789abcdefABCDEF.:%/,") != std::string::npos;
-    if (has_markup || !set_address(handle_, &address, text)) {
+    if (has_markup || !set_address(&address, text)) {
         tokens_.fail(value, in_quotes(text) + " is not an address with a prefix length");
     }
     const std::uint32_t numbers[] = {address.af,      address.prefix_len, address.scope,  address.word[0],

@@ -2,7 +2,6 @@
 
 #include <cctype>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/json.h"
@@ -12,7 +11,7 @@
 namespace tarn::tool {
 
 std::string rendered(const Item &item, Style style) {
-    if (style == Style::json) return json_text(json_of(item)) + "\n";
+    if (style == Style::json) return json_line(item) + "\n";
     // A control message has no object, so any handle can write it.
     thread_local const Handle any(false);
     const Handle &handle = item.message ? item.message->handle() : any;

@@ -3,28 +3,19 @@
 #pragma once
 
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "schema/model.h"
+#include "tools/tarn/formats/problems.h"
+#include "tools/tarn/formats/xml.h"
 
 namespace tarn::tool {
 
-struct Problem {
-    long line;
-    std::string path;
-    std::string reason;
-};
-
-struct Problems {
-    std::vector<Problem> first;  // at most as many as are printed
-    std::size_t more = 0;
-};
-
-// The root of the document must be the message.
-Problems check_document(void *document, const schema::Message &message);
+// The root of the document must be the message. Returns true if an element of the message has a state.
+bool check_document(void *document, const schema::Message &message, const Fragment &fragment, ProblemList &problems);
 
 // Why the text is not an address: "unset", an address with its prefix length, or the seven members in decimal. Empty if
 // it is one.
-std::string address_problem(const std::string &text);
+std::string address_problem(std::string_view text);
 
 }  // namespace tarn::tool

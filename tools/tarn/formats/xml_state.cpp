@@ -1,7 +1,5 @@
 #include "tools/tarn/formats/xml_state.h"
 
-#include <libxml/tree.h>
-
 #include <cstdlib>
 #include <map>
 
@@ -67,17 +65,19 @@ private:
 
 }  // namespace
 
+// Without recursion, since the input determines the depth.
+xmlNode *following(xmlNode *node) {
+    if (node->type == XML_ELEMENT_NODE && node->children != nullptr) return node->children;
+    while (node != nullptr && node->next == nullptr) node = node->parent;
+    return node != nullptr ? node->next : nullptr;
+}
+
 bool has_states(void *document) {
-    // In document order, without recursion, since the input determines the depth.
-    xmlNode *const root = xmlDocGetRootElement(static_cast<xmlDoc *>(document));
-    for (xmlNode *node = root; node != nullptr;) {
-        if (node->type == XML_ELEMENT_NODE && xmlHasProp(node, attribute) != nullptr) return true;
-        if (node->type == XML_ELEMENT_NODE && node->children != nullptr) {
-            node = node->children;
-            continue;
+    for (xmlNode *node = xmlDocGetRootElement(static_cast<xmlDoc *>(document)); node != nullptr;
+         node = following(node)) {
+        if (node->type == XML_ELEMENT_NODE && node->properties != nullptr && xmlHasProp(node, attribute) != nullptr) {
+            return true;
         }
-        while (node != root && node->next == nullptr) node = node->parent;
-        node = node == root ? nullptr : node->next;
     }
     return false;
 }

@@ -14,7 +14,7 @@ constexpr std::size_t piece = 64 * 1024;
 }  // namespace
 
 std::string_view ByteStream::look(std::size_t least) {
-    if (end_ - begin_ < least && !has_ended_) {
+    if (end_ - begin_ < least && begin_ != 0 && !has_ended_) {
         std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
         end_ -= std::exchange(begin_, 0);
     }

@@ -37,12 +37,17 @@ void print_error(const Failure &failure) {
 }
 
 Failures::~Failures() {
-    if (count_ > most_complaints) print_error({exit_, others(count_ - most_complaints)});
+    if (!report_ && count_ > most_complaints) print_error({exit_, others(count_ - most_complaints)});
 }
 
 void Failures::add(const Failure &failure) {
     if (!keep_going_) throw failure;
-    if (++count_ <= most_complaints) print_error(failure);
+    ++count_;
+    if (report_) {
+        report_(failure);
+    } else if (count_ <= most_complaints) {
+        print_error(failure);
+    }
     exit_ = std::max(exit_, failure.exit());
 }
 

@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tarn::tool {
@@ -49,10 +51,12 @@ std::string error_text(std::uint32_t number);
 // Prints on standard error, after what is waiting for standard output.
 void print_error(const Failure &failure);
 
-// Throws the first failure or, to keep going, prints the first ones and finally the number of the others.
+// Throws the first failure or, to keep going, prints the first ones and finally the number of the others. With
+// `report`, that gets all instead.
 class Failures {
 public:
-    explicit Failures(bool keep_going) : keep_going_(keep_going) {}
+    explicit Failures(bool keep_going, std::function<void(const Failure &)> report = {})
+        : keep_going_(keep_going), report_(std::move(report)) {}
     Failures(const Failures &) = delete;
     Failures &operator=(const Failures &) = delete;
     ~Failures();
@@ -64,6 +68,7 @@ public:
 
 private:
     bool keep_going_;
+    std::function<void(const Failure &)> report_;
     std::size_t count_ = 0;
     Exit exit_ = Exit::success;
 };

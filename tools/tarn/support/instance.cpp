@@ -71,14 +71,8 @@ std::string address_text(const Handle &handle, std::span<const std::uint64_t> me
     return address_text(handle, &address);
 }
 
-bool set_address(const Handle &handle, ip_address *address, const std::string &text) {
-    const std::string element = "<a>" + text + "</a>";
-    const Document document(mirk_platform_document_load_memory(element.data(), element.size(), nullptr));
-    if (document == nullptr) return false;
-    std::uint32_t err = 0;
-    char words[128];
-    ip_address_from_xml(handle.get(), context_id, "/a", document.get(), address, &err, words, sizeof words);
-    return err == 0;
+bool set_address(ip_address *address, std::string_view text) {
+    return mirk_platform_address_parse(text.data(), text.size(), address) == 0;
 }
 
 std::uint8_t *address_state(const Handle &handle, ip_address *address) {

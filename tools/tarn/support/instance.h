@@ -29,7 +29,7 @@ std::string address_text(const Handle &handle, ip_address *address);
 // The same for its members.
 std::string address_text(const Handle &handle, std::span<const std::uint64_t> members);
 // False if the text is not an address.
-bool set_address(const Handle &handle, ip_address *address, const std::string &text);
+bool set_address(ip_address *address, std::string_view text);
 
 // The seven state bytes of an address; null if it has none.
 std::uint8_t *address_state(const Handle &handle, ip_address *address);

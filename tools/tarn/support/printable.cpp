@@ -75,6 +75,18 @@ std::string printable(std::string_view text, std::size_t most) {
     return escaped(text.substr(0, size), Notation::text, false) + "... (" + std::to_string(text.size()) + " bytes)";
 }
 
+bool is_utf8(std::string_view text) {
+    unsigned char bits = 0;
+    for (const char c : text) bits |= static_cast<unsigned char>(c);
+    if (bits < 0x80) return true;
+    while (!text.empty()) {
+        const std::size_t size = first_of(text).size;
+        if (size == 0) return false;
+        text.remove_prefix(size);
+    }
+    return true;
+}
+
 std::string in_quotes(std::string_view text) { return "\"" + printable(text) + "\""; }
 
 std::string printable_output(std::string_view output, Notation notation) {

@@ -16,6 +16,8 @@ std::string printable(std::string_view text, std::size_t most = 160);
 // The same in quotation marks.
 std::string in_quotes(std::string_view text);
 
+bool is_utf8(std::string_view text);
+
 // Output of several lines, with the same characters escaped in its own notation, so that readers of JSON and XML get
 // the same values. Line ends stay, except in XML, where only a string can contain one.
 enum class Notation : std::uint8_t { text, json, xml };
