@@ -46,6 +46,7 @@ int run(int argc, char **argv) {
     add_export(app, context);
     add_assemble(app, context);
     add_diff(app, context);
+    add_validate(app, context);
     add_view(app, context);
     add_schema(app, context);
     add_manifest(app, context);

@@ -26,6 +26,7 @@ void add_encode(CLI::App &app, Context &context);
 void add_assemble(CLI::App &app, Context &context);
 void add_dissect(CLI::App &app, Context &context);
 void add_diff(CLI::App &app, Context &context);
+void add_validate(CLI::App &app, Context &context);
 void add_view(CLI::App &app, Context &context);
 void add_schema(CLI::App &app, Context &context);
 void add_manifest(CLI::App &app, Context &context);
