@@ -188,6 +188,34 @@ std::string list_frame(unsigned elements, bool tracked) {
     return tarn(words).out;
 }
 
+TEST(Schema, FindRanksNamesBeforeMeanings) {
+    const Outcome outcome = tarn({"schema", "--find", "PREFIX", "--json"});
+    EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    const std::size_t exact = outcome.out.find("\"name\": \"lumo_tarn_pal_mp_prefix.prefix\"");
+    const std::size_t begins = outcome.out.find("\"name\": \"lumo_tarn_pal_mp_prefix_data.prefix_data\"");
+    const std::size_t contains = outcome.out.find("\"name\": \"lumo_tarn_pal_mp_prefix_msg\"");
+    EXPECT_NE(contains, std::string::npos);
+    EXPECT_LT(exact, begins);
+    EXPECT_LT(begins, contains);
+}
+
+TEST(Schema, FindKnowsEnumeratorsAndMeanings) {
+    EXPECT_NE(tarn({"schema", "--find", "dir_both"}).out.find(".LUMO_TARN_DIR_BOTH\n"), std::string::npos);
+    EXPECT_NE(tarn({"schema", "--find", "warnings on the queue"}).out.find("member"), std::string::npos);
+    const Outcome colored = tarn({"schema", "--find", "dir_both", "--color", "always"});
+    EXPECT_NE(colored.out.find("LUMO_TARN_\x1b[33mDIR_BOTH\x1b[0m"), std::string::npos) << colored.out;
+    const Outcome nothing = tarn({"schema", "--find", "no such thing"});
+    EXPECT_EQ(nothing.exit, 1);
+    EXPECT_EQ(nothing.err, "tarn: nothing in the schema contains \"no such thing\"\n");
+}
+
+TEST(Schema, DocumentsRequireAMessage) {
+    EXPECT_EQ(tarn({"schema", "--xsd"}).exit, 2);
+    const Outcome outcome = tarn({"schema", "--json-schema", "cl-debgu"});
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("did you mean cl-debug?"), std::string::npos) << outcome.err;
+}
+
 TEST(Dissect, AccountsForEveryByteOfEveryMessage) {
     for (const auto &message : reference::messages()) {
         for (const bool tracked : {false, true}) {

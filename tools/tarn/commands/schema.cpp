@@ -1,4 +1,5 @@
 // tarn schema: prints the schema as lists, trees or tables.
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -6,6 +7,7 @@
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/schema.h"
+#include "tools/tarn/formats/schema_documents.h"
 #include "tools/tarn/pages/schema_page.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
@@ -24,7 +26,8 @@ using schema::Record;
 
 struct SchemaOptions {
     std::string name;
-    bool tree = false, dot = false, json = false, html = false;
+    std::string find;
+    bool tree = false, dot = false, json = false, html = false, json_schema = false, xsd = false;
 };
 
 std::string slot_text(const Member &m, const schema::MemberLayout &location) {
@@ -209,7 +212,88 @@ std::string of_member(const Target &target, const SchemaOptions &options) {
     return out;
 }
 
+// Something that a text was found in. A lower rank is printed first.
+struct Found {
+    int rank;
+    std::string kind, name, meaning;
+};
+
+std::string lower(std::string_view text) {
+    std::string out(text);
+    for (char &c : out) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return out;
+}
+
+std::vector<Found> found(const std::string &text) {
+    std::vector<Found> all;
+    const std::string wanted = lower(text);
+    // `name` is the end of the path, which counts for the rank.
+    const auto look = [&](const char *kind, std::string_view path, std::string_view name, std::string_view meaning) {
+        const std::string in_name = lower(name);
+        const bool is_named = in_name.find(wanted) != std::string::npos || lower(path) == wanted;
+        if (!is_named && lower(meaning).find(wanted) == std::string::npos) return;
+        const int rank = in_name == wanted || lower(path) == wanted || short_name(path) == wanted ? 0
+                         : is_named && in_name.starts_with(wanted)                                ? 1
+                         : is_named                                                               ? 2
+                                                                                                  : 3;
+        all.push_back({rank, kind, std::string(path), std::string(meaning)});
+    };
+    for (const auto *b : schema::bundles) look("bundle", b->name, b->name, b->message.payload.meaning);
+    for (const auto *m : schema::messages) look("message", m->name, m->name, m->payload.meaning);
+    for (const auto *e : schema::enumerations) {
+        look("enumeration", e->name, e->name, e->meaning);
+        for (const auto &name : e->enumerators)
+            look("enumerator", std::string(e->name) + "." + std::string(name), name, {});
+    }
+    for (const auto *r : schema::records) {
+        look("record", r->name, r->name, r->meaning);
+        for (const Member &m : r->members) {
+            look("member", std::string(r->name) + "." + std::string(m.name), m.name, m.meaning);
+        }
+    }
+    std::stable_sort(all.begin(), all.end(), [](const Found &a, const Found &b) { return a.rank < b.rank; });
+    return all;
+}
+
+// With the first occurrence of the text in color.
+std::string highlighted(const std::string &line, const std::string &text) {
+    const std::size_t at = lower(line).find(lower(text));
+    if (at == std::string::npos) return line;
+    return line.substr(0, at) + colored(line.substr(at, text.size()), Color::yellow) + line.substr(at + text.size());
+}
+
+std::string of_search(const SchemaOptions &options) {
+    const std::vector<Found> all = found(options.find);
+    if (all.empty()) throw Failure(Exit::negative, "nothing in the schema contains " + in_quotes(options.find));
+    if (options.json) {
+        ordered_json json = ordered_json::array();
+        for (const Found &f : all) json.push_back({{"kind", f.kind}, {"name", f.name}, {"meaning", f.meaning}});
+        return json.dump(2) + "\n";
+    }
+    std::size_t width = 0;
+    for (const Found &f : all) width = std::max(width, f.name.size());
+    std::string out;
+    for (const Found &f : all) {
+        out += padded(f.kind, 13) + highlighted(f.meaning.empty() ? f.name : padded(f.name, width + 2), options.find) +
+               highlighted(f.meaning, options.find) + "\n";
+    }
+    return out;
+}
+
+// The message of this name, or that of a bundle.
+const schema::Message &message_of(const std::string &name) {
+    if (const auto *bundle = find_bundle_named(name); bundle != nullptr) return bundle->bundle->message;
+    if (const auto *message = find_message_named(name); message != nullptr) return *message->message;
+    std::vector<Named> known = bundle_names();
+    for (const Named &n : message_names()) known.push_back(n);
+    throw unknown_name("bundle or message", name, known);
+}
+
 std::string of_one(const SchemaOptions &options) {
+    if (options.json_schema) return json_schema_of(message_of(options.name)).dump(2) + "\n";
+    if (options.xsd) return xsd_of(message_of(options.name));
     if (options.html) throw Failure(Exit::input, "--html shows the whole schema and takes no name");
     for (const auto *e : schema::enumerations) {
         if (is_named(options.name, e->name)) return of_enumeration(*e, options);
@@ -227,6 +311,7 @@ std::string of_one(const SchemaOptions &options) {
 }
 
 std::string of_all(const SchemaOptions &options) {
+    if (options.json_schema || options.xsd) throw Failure(Exit::input, "--json-schema and --xsd require a message");
     if (options.html) return schema_page();
     if (options.dot) return dot_text([](const Record &) { return true; });
     if (options.json) return schema_json().dump(2) + "\n";
@@ -251,7 +336,15 @@ void add_schema(CLI::App &app, Context &) {
     form->add_flag("--dot", options->dot, "Graph for dot");
     form->add_flag("--json", options->json, "JSON");
     form->add_flag("--html", options->html, "HTML page of the whole schema, with a drawing of its nesting");
+    form->add_flag("--json-schema", options->json_schema,
+                   "JSON Schema of a message in JSON, for validators and editors");
+    form->add_flag("--xsd", options->xsd, "XML Schema of a message in XML");
     form->require_option(0, 1);
+    command
+        ->add_option("--find", options->find,
+                     "Print what contains this text in its name or its meaning, the best matches first")
+        ->type_name("TEXT")
+        ->excludes(command->get_option("type"));
     command->footer(
         "Offset and size are the location of a member in the record in memory. The base\n"
         "size is the size of the record without per-field state. The state area follows\n"
@@ -265,8 +358,15 @@ void add_schema(CLI::App &app, Context &) {
         "  tarn schema dp-tt-cfg --tree\n"
         "  tarn schema --html > schema.html\n"
         "  tarn schema dp-tt-cfg.lumo_data\n"
+        "  tarn schema --find prefix\n"
+        "  tarn schema cl-debug --xsd > cl-debug.xsd\n"
         "  tarn schema --dot | dot -Tsvg -o schema.svg");
-    command->callback([options] { write_file("-", options->name.empty() ? of_all(*options) : of_one(*options)); });
+    command->callback([options] {
+        const std::string text = !options->find.empty()  ? of_search(*options)
+                                 : options->name.empty() ? of_all(*options)
+                                                         : of_one(*options);
+        write_file("-", text);
+    });
 }
 
 }  // namespace tarn::tool

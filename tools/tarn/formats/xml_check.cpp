@@ -128,6 +128,7 @@ private:
     void check_member(xmlNode *node, const Member &member, const Path &path);
     void check_value(xmlNode *node, const Member &member, const Path &path);
     void check_attributes(const xmlNode *node, const Path &path);
+    void check_blank(xmlNode *node, const Path &path);
     void check_enumeration(xmlNode *node, const Member &member, const Path &path);
     void check_counts(xmlNode *node, const Record &record, std::span<const Found> found, const Path &path);
     void check_skipped(const Record &record, std::span<const Found> found, const Path &path);
@@ -264,16 +265,19 @@ void Checker::check_skipped(const Record &record, std::span<const Found> found, 
     }
 }
 
+// What is between elements.
+void Checker::check_blank(xmlNode *node, const Path &path) {
+    const Text text(node);
+    if (text.value().empty()) return;
+    add(node->parent, path, [&] { return "text " + in_quotes(text.value()) + " between the members"; });
+}
+
 void Checker::check_record(xmlNode *node, const Record &record, const Path &path) {
     const std::span<const Member> members = record.members;
     std::vector<Found> found(members.size());
     std::size_t last = 0;
     for (xmlNode *child = node->children; child != nullptr; child = child->next) {
-        if (child->type == XML_TEXT_NODE) {
-            const Text text(child);
-            if (text.value().empty()) continue;
-            add(node, path, [&] { return "text " + in_quotes(text.value()) + " between the members"; });
-        }
+        if (child->type == XML_TEXT_NODE) check_blank(child, path);
         if (child->type != XML_ELEMENT_NODE) continue;
         const std::string_view name = name_of(child);
         // Usually the same member again or the next one.
@@ -310,6 +314,7 @@ void Checker::check_message(xmlNode *root, const schema::Message &message) {
     std::size_t payloads = 0;
     const Path below = path / message.payload.name;
     for (xmlNode *child = root->children; child != nullptr; child = child->next) {
+        if (child->type == XML_TEXT_NODE) check_blank(child, path);
         if (child->type != XML_ELEMENT_NODE) continue;
         const std::string_view name = name_of(child);
         if (name != message.payload.name) {
