@@ -166,8 +166,8 @@ std::vector<Reader> readers(const std::string &self) {
         of_tool("decode --xml", 300, frames, {"decode", "--xml"}),
         of_tool("decode --json", 300, frames, {"decode", "--json"}),
         of_tool("encode", 500, documents, {"encode"}),
-        of_tool("dissect", 400, frames, {"dissect"}),
-        of_tool("view", 300, frames, {"view"}),
+        of_tool("dissect", 100, frames, {"dissect"}),
+        of_tool("view", 100, frames, {"view"}),
         {"diff", 500, frames,
          [](const std::string &file, const Directory &directory) {
              return Arguments{tool(), "diff", "--no-state", file, directory.write("other", with_another_state(file))};
