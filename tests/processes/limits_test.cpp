@@ -35,8 +35,6 @@ protected:
     }
     Socket connect() const { return Socket::connect_to(server_->socket()); }
 
-    static constexpr std::size_t answer_size = 43 + 43 + 22 + 43;
-
     Directory directory_;
     std::unique_ptr<Server> server_;
 };
