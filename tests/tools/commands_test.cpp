@@ -257,6 +257,7 @@ TEST(Dissect, WritesAtMost25BytesOfTextForAByte) {
     }
 }
 
+#ifndef TARN_SANITIZED  // sanitizers need terabytes of addresses
 // A number of four bytes.
 std::uint32_t number_at(const std::string &bytes, std::size_t at) {
     std::uint32_t number = 0;
@@ -302,7 +303,6 @@ std::string frame_with_unknown_members(std::size_t size) {
 }
 
 TEST(Dissect, NeedsMemoryForOneFrameOnly) {
-    if (*TARN_SANITIZE != 0) GTEST_SKIP() << "sanitizers need terabytes of addresses";
     const Directory directory;
     const auto dissect = [&](const std::string &options, const std::string &bytes) {
         const std::string script = "ulimit -v 90000 && exec \"$0\" dissect " + options + " \"$1\" >/dev/null";
@@ -319,13 +319,13 @@ TEST(Dissect, NeedsMemoryForOneFrameOnly) {
 }
 
 TEST(View, NeedsMemoryForItsPageOnly) {
-    if (*TARN_SANITIZE != 0) GTEST_SKIP() << "sanitizers need terabytes of addresses";
     const Directory directory;
     const std::string file = directory.write("frame.bin", frame_of_empty_elements(300000));
     const Outcome outcome =
         run("/bin/sh", {"-c", R"(ulimit -v 100000 && exec "$0" view "$1" >/dev/null)", tool(), file});
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
 }
+#endif
 
 TEST(Dissect, StopsAtAnErrorUnlessItKeepsGoing) {
     const std::string good = frame(debug_message(), plain_payload(debug_message(), 1), false);

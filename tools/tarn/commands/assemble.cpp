@@ -32,7 +32,7 @@ void add_assemble(CLI::App &app, Context &) {
     command->footer(
         "The text describes frames member by member, also frames that no library writes:\n"
         "with wrong lengths, jumps and counts, members left out or repeated, and raw bytes\n"
-        "anywhere. Text that nobody has edited gives the bytes that it was printed from.\n"
+        "anywhere. Text that was not edited gives the bytes that it was printed from.\n"
         "Jumps, counts and lengths are computed unless the text gives them.\n\n"
         "  # a wrong jump, and raw bytes after the last member\n"
         "  frame debug-setting (stamp 7) {\n"

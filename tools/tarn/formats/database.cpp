@@ -60,7 +60,7 @@ Database::Database(const std::string &path) : shown_(shown_output(path)), file_(
         sqlite3_open_v2(file_.beside().c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     database_.reset(opened);
     check(code);
-    // Nobody else sees the file, and nothing of it is kept after an error.
+    // No other process reads the file before it is finished, and it is removed after an error.
     run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE;"
         "PRAGMA user_version = " +
         std::to_string(layout_version) + "; BEGIN;" + sql_of_tables());
