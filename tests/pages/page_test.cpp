@@ -204,6 +204,72 @@ TEST(View, ShowsADifference) {
     EXPECT_EQ(seen.at("next"), (json{"2 of 2 changes", {"payload.warn_enabled"}}));
 }
 
+// Frames whose parts have other sizes, other states and unusual values. A walk over all nodes counts the same.
+TEST(View, CountsDifferencesAsTheyAreShown) {
+    const Directory directory;
+    std::string a, b;
+    for (const reference::MessageTable &message : reference::messages()) {
+        for (const unsigned seed : {1U, 2U, 3U, 4U}) {
+            const reference::Record payload = tool_test::strange_payload(message, seed);
+            const reference::Record other = tool_test::strange_payload(message, seed == 2 ? 2 : seed + 10);
+            a += tool_test::frame(message, payload, seed % 2 == 1);
+            b += tool_test::frame(message, other, seed != 4);
+        }
+    }
+    const json seen = seen_in(page_of({directory.write("a.bin", a), directory.write("b.bin", b)}), R"(
+        const countBelow = node => {
+            if (isOneSided(node)) return Number(!node.structural);
+            let sum = Number(differs(node));
+            for (let i = 0; i < list(node).length; ++i) sum += countBelow(childAt(node, i));
+            return sum;
+        };
+        const wrong = [], walk = node => {
+            if (inside(node) !== countBelow(node)) wrong.push([node.index, node.path, inside(node), countBelow(node)]);
+            for (let i = 0; i < list(node).length; ++i) walk(childAt(node, i));
+        };
+        roots.forEach(walk);
+        seen.wrong = wrong;
+        seen.all = roots.reduce((sum, root) => sum + countBelow(root), 0);
+        seen.summary = document.getElementById('summary').textContent;)");
+    EXPECT_EQ(seen.at("wrong"), json::array());
+    EXPECT_GT(seen.at("all"), 1000);
+    EXPECT_EQ(seen.at("summary"), "40 frames, " + seen.at("all").dump() + " differences");
+}
+
+// All elements of the long lists differ.
+TEST(View, CreatesOnlyTheVisibleRowsOfADifference) {
+    const Directory directory;
+    std::vector<std::string> files;
+    for (const char *const seed : {"1", "2"}) {
+        files.push_back(directory.path(seed));
+        ASSERT_EQ(tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "--seed", seed,
+                                   "-o", files.back()})
+                      .exit,
+                  0);
+    }
+    const json seen = seen_in(page_of(files), R"(
+        seen.rows = document.querySelectorAll('.row').length;
+        const node = nodeOf('0:payload.lumo_data[0].sig_list');
+        reveal(node);
+        unfold(node);
+        seen.open = document.querySelectorAll('.row').length - seen.rows;
+        seen.elements = sizeOf(node);
+        seen.changed = inside(node) > seen.elements;
+        document.getElementById('changes').click();
+        seen.only = [document.querySelectorAll('.row').length, shownBelow(node).length === seen.elements];
+        document.getElementById('next').click();
+        seen.next = [found(), selectedRows().length];
+        seen.nodes = count;)");
+    EXPECT_LT(seen.at("rows"), 200);
+    EXPECT_EQ(seen.at("open"), 200);
+    EXPECT_GT(seen.at("elements"), 1000);
+    EXPECT_EQ(seen.at("changed"), true);
+    EXPECT_LT(seen.at("only")[0], 500);
+    EXPECT_EQ(seen.at("only")[1], true);
+    EXPECT_EQ(seen.at("next"), (json{"1 of 5000 or more changes", 1}));
+    EXPECT_LT(seen.at("nodes"), 5000 + 200 * 16 + 1000);
+}
+
 TEST(View, ShowsABrokenFrameUpToTheError) {
     const Directory directory;
     std::string broken = debug_answer(1, 5);
@@ -259,7 +325,7 @@ TEST(View, ShowsTheSamePiecesAsDissect) {
             const piece = pieceOf(node, 0);
             if (piece) pieces.push([piece.at, piece.shape.size, frame + ':' + node.path.replace('@', ''),
                                     piece.shape.kind, valueOf(node, 0)]);
-            children(node).forEach(child => walk(child, frame));
+            for (let i = 0; i < list(node).length; ++i) walk(childAt(node, i), frame);
         };
         roots.forEach(walk);
         seen.pieces = pieces.sort((a, b) => a[0] - b[0]);)");

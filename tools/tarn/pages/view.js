@@ -27,15 +27,16 @@ const shapes = data.shapes.map(shape => {
   return {names: null, inner, elements: shape.elements.length};
 });
 // A shape follows the shapes that it contains, so their sizes are known.
-for (const shape of shapes) {
+shapes.forEach((shape, number) => {
+  shape.number = number;
   shape.own = null;
-  if (!shape.inner) continue;
+  if (!shape.inner) return;
   const offsets = shape.offsets = new Uint32Array(shape.inner.length + 1);
   for (let i = 0; i < shape.inner.length; ++i) offsets[i + 1] = offsets[i] + shapes[shape.inner[i]].size;
   shape.size = offsets[shape.inner.length];
   const own = shape.names ? shape.names.indexOf('') : -1;
   if (own >= 0) shape.own = {at: offsets[own], shape: shapes[shape.inner[own]]};
-}
+});
 const isArray = shape => Boolean(shape && shape.inner && !shape.names);
 
 // The name of a part; -1-i for the state of the element [i].
@@ -102,7 +103,7 @@ let count = 0;
 function makeNode(name, parent, index) {
   const path = !parent ? '' : parent.path + (name[0] === '[' || !parent.path ? '' : '.') + name;
   const node = {id: count++, name, path, parent, index, list: null, isArray: false, shape: [null, null], at: [0, 0],
-    state: [null, null], type: '', meaning: '', structural: false, differs: false, inside: 0, open: false, row: null,
+    state: [null, null], type: '', meaning: '', structural: false, inside: null, open: false, row: null,
     below: null, shown: null, boxes: null};
   const owner = parent && parent.type;
   const member = owner && (data.records[owner] || {})[name];
@@ -159,10 +160,8 @@ function list(node) {
     }
     if (node.state[s]) put(below('@state'), s, node.state[s].shape, node.state[s].at);
   });
-  if (isOneSided(node)) node.list.forEach(markOneSided);
   return node.list;
 }
-function markOneSided(child) { child.inside = Number(child.differs = !child.structural); }
 
 function childAt(node, i) {
   const all = list(node);
@@ -175,13 +174,7 @@ function childAt(node, i) {
     const k = shape.elements + 1 + i, at = node.at[s] + shape.offsets[k];
     if (k < shape.inner.length) child.state[s] = {at, shape: shapes[shape.inner[k]]};
   });
-  if (isOneSided(node)) markOneSided(child);
   return child;
-}
-
-function children(node) {
-  for (let i = 0; i < list(node).length; ++i) childAt(node, i);
-  return node.list;
 }
 
 function childOf(node, name) {
@@ -245,58 +238,114 @@ function ownerOf(s, at) {
 
 // ---- differences
 
+const isOneSided = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
+
 function sameBytes(a, b, size) {
   for (let i = 0; i < size; ++i) if (sides[0].data[a + i] !== sides[1].data[b + i]) return false;
   return true;
 }
 
-function isSame(node) {
-  const [a, b] = node.state;
-  return node.shape[0] === node.shape[1] && !a === !b && (!a || sameBytes(a.at, b.at, 1)) &&
-    sameBytes(node.at[0], node.at[1], node.shape[0].size);
-}
-
-// Whether the element is the same on both sides, without making it.
-function isSameElement(node, i) {
-  const place = s => {
-    const shape = node.shape[s], state = shape.elements + 1 + i;
-    return {inner: i < shape.elements ? shape.inner[i] : -1, at: node.at[s] + shape.offsets[i],
-      state: state < shape.inner.length ? sides[s].data[node.at[s] + shape.offsets[state]] : -1};
-  };
-  const a = place(0), b = place(1);
-  return a.inner >= 0 && a.inner === b.inner && a.state === b.state && sameBytes(a.at, b.at, shapes[a.inner].size);
-}
-
-// Framing other than state is redundant: a difference in it is also one in the members.
-function compare(node) {
-  if (isSame(node)) return;
-  if (isOneSided(node)) {
-    node.inside = Number(node.differs = !node.structural);
-    return;
+// The parts that two shapes have in common, by name, and the number of members that only one of them has.
+const pairs = new Map(), mostPairs = 5000;
+function pairOf(x, y) {
+  const key = x.number * shapes.length + y.number;
+  if (pairs.has(key)) return pairs.get(key);
+  const [partsX, partsY] = [x, y].map(shape => {
+    const parts = new Map();
+    if (!shape.inner) parts.set('', {at: 0, shape});
+    for (let i = 0; shape.inner && i < shape.inner.length; ++i) {
+      const part = partOf(shape, i);
+      if (!(part < 0)) parts.set(nameOf(part), {at: shape.offsets[i], shape: shapes[shape.inner[i]]});
+    }
+    return parts;
+  });
+  const pair = {both: [], single: 0};
+  for (const [parts, others] of [[partsX, partsY], [partsY, partsX]]) {
+    for (const [name, part] of parts) {
+      const other = others.get(name);
+      if (!other) pair.single += Number(name !== '' && !part.shape.structural);
+      else if (parts === partsX) {
+        pair.both.push({isState: isState(name), x: part.shape, y: other.shape, a: part.at, b: other.at});
+      }
+    }
   }
+  if (pairs.size === mostPairs) pairs.clear();
+  pairs.set(key, pair);
+  return pair;
+}
+
+// The number of differences between the shape x at a in one file and y at b in the other. Makes no nodes. Framing other
+// than state is redundant: a difference in it is also one in the members.
+function differencesIn(x, a, y, b) {
+  if (x === y && sameBytes(a, b, x.size)) return 0;
+  if (!x.inner && !y.inner) return Number(!x.structural);
+  let sum = 0;
+  if (isArray(x) && isArray(y)) {
+    for (let i = Math.max(x.elements, y.elements); i-- > 0;) sum += differencesInElement(x, a, y, b, i);
+    return sum + Number(stateDiffers(x, a, y, b, 0));
+  }
+  const {both, single} = pairOf(x, y);
+  for (const part of both) {
+    sum += part.isState ? Number(!sameBytes(a + part.a, b + part.b, 1))
+      : differencesIn(part.x, a + part.a, part.y, b + part.b);
+  }
+  return sum + single;
+}
+function differencesInElement(x, a, y, b, i) {
+  if (i >= x.elements || i >= y.elements) return 1;
+  return Number(stateDiffers(x, a, y, b, i + 1)) +
+    differencesIn(shapes[x.inner[i]], a + x.offsets[i], shapes[y.inner[i]], b + y.offsets[i]);
+}
+// The states of two arrays: the first is that of the array, the others are those of the elements.
+function stateDiffers(x, a, y, b, which) {
+  const i = x.elements + which, j = y.elements + which;
+  return i < x.inner.length && j < y.inner.length && !sameBytes(a + x.offsets[i], b + y.offsets[j], 1);
+}
+
+// The number of differences in a node and below it.
+function inside(node) {
+  if (node.inside === null) {
+    const [x, y] = node.shape, [a, b] = node.at, [left, right] = node.state;
+    if (isOneSided(node)) node.inside = Number(!node.structural);
+    else if (!two) node.inside = 0;
+    else if (isState(node.name)) node.inside = Number(!sameBytes(a, b, 1));
+    else node.inside = differencesIn(x, a, y, b) + Number(Boolean(left && right) && !sameBytes(left.at, right.at, 1));
+  }
+  return node.inside;
+}
+
+// Whether the node itself differs.
+function differs(node) {
+  if (isOneSided(node)) return !node.structural;
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
-  node.differs = a !== null && b !== null && a !== b && (!node.structural || isState(node.name));
-  for (let i = 0; i < list(node).length; ++i) {
-    if (!node.isArray || node.list[i] || !isSameElement(node, i)) compare(childAt(node, i));
-  }
-  node.inside = node.list.reduce((sum, child) => sum + child.inside, Number(node.differs));
+  return a !== null && b !== null && a !== b && (!node.structural || isState(node.name));
 }
 
-const isOneSided = node => two && Boolean(node) && isOn(node, 0) !== isOn(node, 1);
-if (two) roots.forEach(compare);
+// Whether there are differences in a child, without making it if it is an element.
+function differsAt(node, i) {
+  if (isOneSided(node)) return true;
+  const [x, y] = node.shape, [a, b] = node.at;
+  return (node.list[i] ? inside(node.list[i]) : differencesInElement(x, a, y, b, i)) > 0;
+}
+
 const isShown = node => (!node.structural || element('framing').checked) &&
-  (!element('changes').checked || node.inside > 0 || isOneSided(node.parent));
+  (!element('changes').checked || inside(node) > 0 || isOneSided(node.parent));
 const hasShown = node => shownBelow(node).length > 0;
 
 // What is shown below a node: a number of children, and each of them when it is needed.
 function shownBelow(node) {
   list(node);
-  if (node.isArray && !element('changes').checked) {
-    const state = node.list[sizeOf(node)];
-    const length = sizeOf(node) + Number(Boolean(state) && isShown(state));
-    return {length, at: i => childAt(node, i), indexOf: child => child.index < length ? child.index : -1};
+  if (node.isArray) {
+    const state = node.list[sizeOf(node)], length = sizeOf(node) + Number(Boolean(state) && isShown(state));
+    if (!element('changes').checked || isOneSided(node)) {
+      return {length, at: i => childAt(node, i), indexOf: child => child.index < length ? child.index : -1};
+    }
+    const changed = [];
+    for (let i = 0; i < length; ++i) if (differsAt(node, i)) changed.push(i);
+    const indexOf = child => { const i = lastUpTo(changed, child.index); return changed[i] === child.index ? i : -1; };
+    return {length: changed.length, at: i => childAt(node, changed[i]), indexOf};
   }
-  const shown = (isOneSided(node) ? children(node) : list(node)).filter(isShown);
+  const shown = list(node).filter(isShown);
   return {length: shown.length, at: i => shown[i], indexOf: child => shown.indexOf(child)};
 }
 
@@ -347,8 +396,8 @@ function makeRow(node, depth) {
   if (node.structural) row.classList.add('framing');
   if (two) {
     if (isOneSided(node)) row.classList.add(isOn(node, 0) ? 'a' : 'b');
-    else if (node.differs) row.classList.add('changed');
-    else if (node.inside) row.classList.add('inside');
+    else if (differs(node)) row.classList.add('changed');
+    else if (inside(node)) row.classList.add('inside');
   }
   if (hits.has(keyOf(node))) row.classList.add('hit');
   if (node === selected) row.classList.add('selected');
@@ -501,7 +550,7 @@ function classOf(s, at) {
   else if (node.structural) words.push('framing');
   else if (node.path.startsWith('header') || kind === 'luid') words.push('head');
   else if (kind === 'var_string' || kind === 'text') words.push('text');
-  if (two && (node.differs || isOneSided(node))) words.push('changed');
+  if (two && (differs(node) || isOneSided(node))) words.push('changed');
   if (contains(side.selected, at)) words.push('selected');
   if (contains(side.marked, at)) words.push('marked');
   return words.join(' ');
@@ -762,8 +811,9 @@ function search(follows) {
   scan = wanted ? new Scan(wanted, follows) : null;
   const visit = node => {
     if (order.length === most) return;
-    if (isShown(node) && node.differs) order.push(keyOf(node));
-    if (node.inside && !isOneSided(node)) node.list.forEach(visit);
+    if (isShown(node) && differs(node)) order.push(keyOf(node));
+    if (isOneSided(node)) return;
+    for (let i = 0; i < list(node).length && order.length < most; ++i) if (differsAt(node, i)) visit(childAt(node, i));
   };
   if (!wanted && two) roots.forEach(visit);
   if (scan) continueSearch(scan);
@@ -829,7 +879,7 @@ element('theme').addEventListener('click', dark);
 
 element('title').textContent = sides.map(side => side.name).join('  \u2192  ');
 const frames = roots.length;
-const differences = roots.reduce((sum, root) => sum + root.inside, 0);
+const differences = roots.reduce((sum, root) => sum + inside(root), 0);
 element('summary').textContent = frames + (frames === 1 ? ' frame' : ' frames') +
   (two ? ', ' + (differences || 'no') + (differences > 1 ? ' differences' : ' difference') : '');
 sides.forEach((side, s) => {
@@ -846,7 +896,7 @@ for (const root of roots) root.open = true;
 for (const level of [1, 2, 3]) {
   const visit = (node, depth) => {
     if (budget <= 0) return;
-    if (depth === level && (!two || node.inside) && node.name !== 'header' && list(node).length) {
+    if (depth === level && (!two || inside(node)) && node.name !== 'header' && list(node).length) {
       node.open = true;
       budget -= list(node).length;
     }
