@@ -622,6 +622,23 @@ def test_elements_without_a_body_are_read_whatever_memory_they_take(tracked):
     assert len(read.lumo_info) == count
 
 
+def test_what_has_no_body_is_none_in_dictionaries(handle):
+    frame = bytearray(lumo_tarn.LumoInfoList(on=handle).to_frame())
+    head, end = bytes(frame[:6]), bytes(frame[10:])
+    body = (3).to_bytes(4, "big") + bytes([0xFF, 0, 0, 0, 0, 4]) * 3
+    read = lumo_tarn.LumoInfoList.from_frame(head[:2] + (4 + len(body)).to_bytes(4, "big") + body + end, on=handle)
+    assert read.to_dict() == {"lumo_info": [None] * 3}
+    with pytest.raises(OSError) as raised:
+        read.lumo_info[0].to_dict()
+    assert raised.value.errno == errno.EIDRM
+    del raised
+    plain = lumo_tarn.DpTc(id=7, appl={"id": 4}, src_prefix="10.0.0.0/8", on=handle)
+    ffi.cast("mirk_object *", plain.appl.native).variant = -1
+    lib.lumo_tarn_dp_tc_src_prefix_get(handle.native, 1, plain.native, ffi.new("uint32_t *")).variant = -1
+    values = plain.to_dict()
+    assert (values["appl"], values["src_prefix"], values["dst_prefix"], values["id"]) == (None, None, "unset", 7)
+
+
 def damaged_frames(message, tracked: bool, seed: int) -> list[bytes]:
     """Frames with other counts, jumps and flags. The header keeps their length."""
     chance = random.Random(seed)

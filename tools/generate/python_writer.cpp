@@ -6,6 +6,7 @@
 #include "api.h"
 #include "frame_parts.h"
 #include "names.h"
+#include "schema/layout.h"
 #include "writers.h"
 
 namespace tarn::generate {
@@ -104,6 +105,22 @@ std::string tables() {
         }
         text += "    ],\n";
     }
+    text += "}\n\n# of an instance: bytes, and the offset of each member\nLAYOUTS = {\n";
+    for (const Record *r : records) {
+        const Layout layout = lay_out(*r);
+        std::string offsets;
+        for (std::size_t i = 0; i < r->members.size(); ++i) {
+            offsets += (i == 0 ? "" : ", ") + std::to_string(layout.members[i].offset);
+        }
+        text += "    " + quoted(r->name) + ": (" + std::to_string(layout.base_size) + ", [" + offsets + "]),\n";
+    }
+    text += "}\n\n# of elements of arrays: what one is called, and the members that identify it\nKEYS = {\n";
+    for (const Record *r : records) {
+        if (!r->key.is_stated) continue;
+        std::string members;
+        for (const std::string_view name : r->key.members()) members += (members.empty() ? "" : ", ") + quoted(name);
+        text += "    " + quoted(r->name) + ": (" + quoted(r->key.element) + ", [" + members + "]),\n";
+    }
     text += "}\n\n# the largest value of each kind of integer\nGREATEST = {\n";
     for (const KindFacts &kind : kind_facts) {
         if (kind.greatest == 0) continue;
@@ -165,7 +182,8 @@ std::string stubs() {
     std::string text =
         "# Types of the schema's classes. Generated; do not edit.\n"
         "from __future__ import annotations\n\nimport enum\nfrom collections.abc import Mapping, Sequence\n"
-        "from typing import Any\n\nfrom ._base import Address, AddressLike, Array, Message, Record\n"
+        "from typing import Any\n\nfrom ._address import Address, AddressLike\nfrom ._base import Array, Message, "
+        "Record\n"
         "from ._native import Handle\n\n";
     std::string all;
     const auto list = [&](const std::string &name) { all += "    " + quoted(name) + ",\n"; };

@@ -16,7 +16,8 @@ the last reference to an object: it is destroyed by the thread that uses its han
 enumerations are immutable and can be shared.
 """
 
-from ._base import Address, Array, Message, Record
+from ._address import Address
+from ._base import Array, Message, Record
 from ._captures import Control, Skipped, bundle_frames, frames, messages, recording
 from ._native import Handle, handle
 from .records import *  # noqa: F403 - the classes of the schema

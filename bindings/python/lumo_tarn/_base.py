@@ -2,21 +2,19 @@
 
 from __future__ import annotations
 
-import dataclasses
 import errno
-import ipaddress
 import json
 import os
-import socket
 from collections.abc import Sequence
-from typing import Any, Callable, ClassVar, Generic, Iterator, Mapping, TypeVar, Union, overload
+from typing import Any, Callable, ClassVar, Generic, Iterator, Mapping, TypeVar, overload
 
+from ._address import Address, AddressLike
 from ._admission import admit_message, admit_record
 from ._native import CTX_ID, Document, Handle, ffi, handle, lib
+from ._values import plan
 
 R = TypeVar("R", bound="Record")
 M = TypeVar("M", bound="Message")
-AddressLike = Union["Address", str, ipaddress.IPv4Interface, ipaddress.IPv6Interface]
 
 # Bits of obj_flag in the header of an object.
 _STATE_TRACKED = 8
@@ -24,60 +22,6 @@ _STATE_OFFSET = 64
 _RA_DATA = 32
 # The state byte of a member that was written.
 _WRITTEN = 2
-
-
-@dataclasses.dataclass(frozen=True)
-class Address:
-    """An address or prefix: af is the address family of the operating system, and word the address as four 32-bit
-    numbers, the most significant first.
-
-    Its text is "unset", "10.0.0.0/8" or "fe80::1%3/64". Other families are "af,scope,word,word,word,word/length"."""
-
-    af: int = 0
-    prefix_len: int = 0
-    scope: int = 0
-    word: tuple[int, int, int, int] = (0, 0, 0, 0)
-
-    @classmethod
-    def of(cls, value: AddressLike) -> Address:
-        """Converts text or an object of the ipaddress module. Raises ValueError if it is not an address with a prefix
-        length."""
-        if isinstance(value, Address):
-            return value
-        text = str(value)
-        if text == "unset":
-            return cls()
-        front, slash, length = text.partition("/")
-        if not slash:
-            raise ValueError(f"{text} has no prefix length")
-        if "," in front:
-            af, scope, *word = (int(part) for part in front.split(","))
-            if len(word) != 4:
-                raise ValueError(f"{text} is not an address")
-            return cls(af, int(length), scope, (word[0], word[1], word[2], word[3]))
-        front, _, scope_text = front.partition("%")
-        ip = ipaddress.ip_address(front)
-        packed = ip.packed.ljust(16, b"\0")
-        word = [int.from_bytes(packed[at : at + 4], "big") for at in range(0, 16, 4)]
-        family = socket.AF_INET if ip.version == 4 else socket.AF_INET6
-        return cls(family, int(length), int(scope_text or 0), (word[0], word[1], word[2], word[3]))
-
-    def __str__(self) -> str:
-        if self == Address():
-            return "unset"
-        packed = b"".join(word.to_bytes(4, "big") for word in self.word)
-        if self.af == socket.AF_INET and not any(self.word[1:]):
-            text = socket.inet_ntop(socket.AF_INET, packed[:4])
-        elif self.af == socket.AF_INET6:
-            text = socket.inet_ntop(socket.AF_INET6, packed)
-        else:
-            numbers = ",".join(str(word) for word in self.word)
-            return f"{self.af},{self.scope},{numbers}/{self.prefix_len}"
-        scope = f"%{self.scope}" if self.scope else ""
-        return f"{text}{scope}/{self.prefix_len}"
-
-    def __repr__(self) -> str:
-        return f"Address.of({str(self)!r})"
 
 
 class Native:
@@ -178,16 +122,20 @@ class Record(Native):
 
     def to_dict(self) -> dict[str, Any]:
         """Returns the values of all members, as in the output of "tarn decode --json" without state bytes, except that
-        members of 64 bits are numbers."""
-        return {member.name: member.plain(self) for member in self.members.values() if member.tracked}
+        members of 64 bits are numbers. A nested record or an address without a body is None. Raises OSError (EIDRM) if
+        the record itself has none."""
+        return self._values()
 
     def to_json(self) -> str:
         """Returns JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are text, which
         the constructor and assignments accept."""
-        return json.dumps(self._json())
+        return json.dumps(self._values(as_json=True))
 
-    def _json(self) -> dict[str, Any]:
-        return {member.name: member.json(self) for member in self.members.values() if member.tracked}
+    def _values(self, as_json: bool = False) -> dict[str, Any]:
+        values: dict[str, Any] | None = plan(self.record_name, as_json).read(self.native)
+        if values is None:
+            raise OSError(errno.EIDRM, os.strerror(errno.EIDRM))
+        return values
 
     def state_of(self, member: str) -> int | None:
         """Returns the state byte of a member, of an array that of the whole; None if the record has no state bytes."""
@@ -536,7 +484,7 @@ class Message(Native):
     def to_json(self) -> str:
         """Returns a line of JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are
         text."""
-        return json.dumps({"message": self.message_name, "payload": self.payload._json()})
+        return json.dumps({"message": self.message_name, "payload": self.payload._values(as_json=True)})
 
     def __eq__(self, other: object) -> bool:
         return type(self) is type(other) and bool(self.payload == other.payload)  # type: ignore[attr-defined]

@@ -6,7 +6,8 @@ import enum
 from typing import Any
 
 from . import _schema
-from ._base import AddressLike, Array, Message, Record, emptied, expect, read_address, write_address
+from ._address import AddressLike
+from ._base import Array, Message, Record, emptied, expect, read_address, write_address
 from ._native import ffi, lib
 
 
@@ -30,12 +31,6 @@ class Member:
     def write(self, record: Record, value: Any) -> None:
         record._call(f"{self.name}_set_value", value)
 
-    def plain(self, record: Record) -> Any:
-        return self.read(record)
-
-    def json(self, record: Record) -> Any:
-        return self.plain(record)
-
     def state(self, record: Record) -> int:
         return int(record._call(f"{self.name}_state_flag_get"))
 
@@ -48,9 +43,6 @@ class WideMember(Member):
 
     def write(self, record: Record, value: Any) -> None:
         super().write(record, int(value) if isinstance(value, str) else value)
-
-    def json(self, record: Record) -> str:
-        return str(self.read(record))
 
 
 class CountMember(Member):
@@ -84,10 +76,6 @@ class EnumerationMember(Member):
             value = self.names.index(value)
         super().write(record, int(value))
 
-    def plain(self, record: Record) -> Any:
-        value = self.read(record)
-        return self.names[value] if isinstance(value, self.enumeration) else value
-
 
 class AddressMember(Member):
     def read(self, record: Record) -> Any:
@@ -95,9 +83,6 @@ class AddressMember(Member):
 
     def write(self, record: Record, value: AddressLike) -> None:
         write_address(record, self.name, value)
-
-    def plain(self, record: Record) -> str:
-        return str(self.read(record))
 
 
 class StringMember(Member):
@@ -137,12 +122,6 @@ class RecordMember(Member):
         record._call(f"{self.name}_set", copy.native)
         del former
 
-    def plain(self, record: Record) -> Any:
-        return self.read(record).to_dict()
-
-    def json(self, record: Record) -> Any:
-        return self.read(record)._json()
-
 
 class ArrayMember(Member):
     def __init__(self, name: str, meaning: str, record: type[Record], counted_by: str, most: int) -> None:
@@ -154,12 +133,6 @@ class ArrayMember(Member):
 
     def write(self, record: Record, value: Any) -> None:
         Array(record, self)[:] = value
-
-    def plain(self, record: Record) -> Any:
-        return [element.to_dict() for element in self.read(record)]
-
-    def json(self, record: Record) -> Any:
-        return [element._json() for element in self.read(record)]
 
     def state(self, record: Record) -> int:
         return int(record._call(f"{self.name}_state_flag_whole_get"))

@@ -1,0 +1,69 @@
+"""Addresses and their text."""
+
+from __future__ import annotations
+
+import dataclasses
+import ipaddress
+import socket
+import struct
+from typing import Sequence, Union
+
+AddressLike = Union["Address", str, ipaddress.IPv4Interface, ipaddress.IPv6Interface]
+
+_pack_word, _pack_words = struct.Struct(">I").pack, struct.Struct(">4I").pack
+
+
+def text_of(af: int, prefix_len: int, scope: int, word: Sequence[int]) -> str:
+    """The text of an address with these members."""
+    if af == socket.AF_INET and not (word[1] or word[2] or word[3]):
+        text = socket.inet_ntop(socket.AF_INET, _pack_word(word[0]))
+    elif af == socket.AF_INET6:
+        text = socket.inet_ntop(socket.AF_INET6, _pack_words(*word))
+    elif not (af or prefix_len or scope or any(word)):
+        return "unset"
+    else:
+        return f"{af},{scope},{word[0]},{word[1]},{word[2]},{word[3]}/{prefix_len}"
+    return f"{text}%{scope}/{prefix_len}" if scope else f"{text}/{prefix_len}"
+
+
+@dataclasses.dataclass(frozen=True)
+class Address:
+    """An address or prefix: af is the address family of the operating system, and word the address as four 32-bit
+    numbers, the most significant first.
+
+    Its text is "unset", "10.0.0.0/8" or "fe80::1%3/64". Other families are "af,scope,word,word,word,word/length"."""
+
+    af: int = 0
+    prefix_len: int = 0
+    scope: int = 0
+    word: tuple[int, int, int, int] = (0, 0, 0, 0)
+
+    @classmethod
+    def of(cls, value: AddressLike) -> Address:
+        """Converts text or an object of the ipaddress module. Raises ValueError if it is not an address with a prefix
+        length."""
+        if isinstance(value, Address):
+            return value
+        text = str(value)
+        if text == "unset":
+            return cls()
+        front, slash, length = text.partition("/")
+        if not slash:
+            raise ValueError(f"{text} has no prefix length")
+        if "," in front:
+            af, scope, *word = (int(part) for part in front.split(","))
+            if len(word) != 4:
+                raise ValueError(f"{text} is not an address")
+            return cls(af, int(length), scope, (word[0], word[1], word[2], word[3]))
+        front, _, scope_text = front.partition("%")
+        ip = ipaddress.ip_address(front)
+        packed = ip.packed.ljust(16, b"\0")
+        word = [int.from_bytes(packed[at : at + 4], "big") for at in range(0, 16, 4)]
+        family = socket.AF_INET if ip.version == 4 else socket.AF_INET6
+        return cls(family, int(length), int(scope_text or 0), (word[0], word[1], word[2], word[3]))
+
+    def __str__(self) -> str:
+        return text_of(self.af, self.prefix_len, self.scope, self.word)
+
+    def __repr__(self) -> str:
+        return f"Address.of({str(self)!r})"
