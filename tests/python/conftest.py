@@ -1,5 +1,6 @@
 """Fixtures of the package's tests: the tool, to compare with, and random values of records."""
 
+import json
 import os
 import subprocess
 
@@ -20,6 +21,10 @@ def tool(*arguments: str, given: bytes = b"") -> bytes:
     run = subprocess.run([TOOL, *arguments], input=given, capture_output=True, check=False)
     assert run.returncode == 0, run.stderr.decode()
     return run.stdout
+
+
+def json_lines(data: bytes) -> list:
+    return [json.loads(line) for line in data.splitlines()]
 
 
 RECORDS = [getattr(lumo_tarn, row[0]) for row in _schema.RECORDS.values()]

@@ -18,15 +18,11 @@ import tracemalloc
 
 import lumo_tarn
 import pytest
-from conftest import MESSAGES, RECORDS, tool, values_of
+from conftest import MESSAGES, RECORDS, json_lines, tool, values_of
 from hypothesis import HealthCheck, given, settings
 from hypothesis import strategies as st
 from lumo_tarn import _schema
 from lumo_tarn._native import ffi, lib
-
-
-def json_lines(data: bytes) -> list:
-    return [json.loads(line) for line in data.splitlines()]
 
 
 def without_states(value):

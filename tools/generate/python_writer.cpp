@@ -114,7 +114,7 @@ std::string tables() {
         }
         text += "    " + quoted(r->name) + ": (" + std::to_string(layout.base_size) + ", [" + offsets + "]),\n";
     }
-    text += "}\n\n# of elements of arrays: what one is called, and the members that identify it\nKEYS = {\n";
+    text += "}\n\n# of elements of arrays: what one is called, and the members that identify it\nKEYS: dict[str, tuple[str, list[str]]] = {\n";
     for (const Record *r : records) {
         if (!r->key.is_stated) continue;
         std::string members;

@@ -20,6 +20,7 @@ from ._address import Address
 from ._base import Array, Message, Record
 from ._captures import Control, Skipped, bundle_frames, frames, messages, recording
 from ._native import Handle, handle
+from ._rows import rows
 from .records import *  # noqa: F403 - the classes of the schema
 from .records import __all__ as _classes
 
@@ -36,5 +37,6 @@ __all__ = [
     "handle",
     "messages",
     "recording",
+    "rows",
 ]
 __all__ += _classes

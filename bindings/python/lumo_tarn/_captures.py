@@ -5,11 +5,13 @@ from __future__ import annotations
 import dataclasses
 import errno
 import io
+import os
 import re
-from typing import BinaryIO, Callable, Iterable, Iterator, NamedTuple
+from typing import BinaryIO, Callable, Iterable, Iterator, NamedTuple, Union, cast
 
 from . import _schema
 from ._base import Message
+from ._names import bundle_named
 from ._native import Handle, ffi, handle, lib
 from .records import MESSAGES
 
@@ -74,7 +76,7 @@ class _Window:
 class _Frames:
     """Finds frames in bytes or a file."""
 
-    def __init__(self, source: bytes | BinaryIO) -> None:
+    def __init__(self, source: bytes | bytearray | memoryview | BinaryIO) -> None:
         self._look = ffi.new("mirk_platform_frame *")
         if isinstance(source, (bytes, bytearray, memoryview)):
             data = source
@@ -139,12 +141,23 @@ def _read(frame: bytes, luid: bytes) -> Message | Control:
     return MESSAGES[luid].from_frame(frame, on=handle(tracked=frame[_TRACKED] != 0))
 
 
-def frames(source: bytes | BinaryIO, skipped: list[Skipped] | None = None) -> Iterator[Message | Control]:
-    """Yields the messages and control messages of consecutive frames in bytes or in a binary file, of which it holds
-    one frame in memory. A message with state bytes is created on a tracked handle. Raises ValueError with the offset at
-    an incomplete frame or an unknown message, and OSError if the content of a frame is invalid.
+# The path of a file, an open binary file, or the bytes of frames.
+Frames = Union[str, "os.PathLike[str]", bytes, bytearray, memoryview, BinaryIO]
+# Frames, or messages.
+Source = Union[Frames, Message, Control, Iterable[Union[Message, Control]]]
 
-    With a list, continues instead with the next header of a known message, and appends what it skips to the list."""
+
+def frames(source: Frames, skipped: list[Skipped] | None = None) -> Iterator[Message | Control]:
+    """Yields the messages and control messages of consecutive frames in bytes, in a binary file or in the file with
+    this path. Of a file, it holds one frame in memory. A message with state bytes is created on a tracked handle.
+
+    Raises ValueError with the offset at an incomplete frame or an unknown message, and OSError if the content of a frame
+    is invalid, or if the file cannot be opened. With a list, continues instead with the next header of a known message,
+    and appends what it skips to the list."""
+    if isinstance(source, (str, os.PathLike)):
+        with open(source, "rb") as file:
+            yield from frames(file, skipped)
+        return
     found, at = _Frames(source), 0
     while not found.has_ended(at):
         try:
@@ -163,9 +176,20 @@ def frames(source: bytes | BinaryIO, skipped: list[Skipped] | None = None) -> It
             yield item
 
 
-def messages(source: bytes | BinaryIO, skipped: list[Skipped] | None = None) -> Iterator[Message]:
+def messages(source: Frames, skipped: list[Skipped] | None = None) -> Iterator[Message]:
     """Yields the messages of consecutive frames, as frames() does, without the control messages."""
     return (item for item in frames(source, skipped) if isinstance(item, Message))
+
+
+def items_of(source: Source) -> Iterator[Message | Control]:
+    """Yields messages and control messages of what rows() and diff() read: frames as frames() takes them, a message, or
+    an iterable of messages and control messages."""
+    if isinstance(source, (Message, Control)):
+        yield source
+    elif isinstance(source, (str, os.PathLike, bytes, bytearray, memoryview)) or hasattr(source, "read"):
+        yield from frames(cast(Frames, source))
+    else:
+        yield from source
 
 
 def recording(text: str, on: Handle | None = None) -> Iterator[Message]:
@@ -191,10 +215,7 @@ def bundle_frames(bundle: str, content: Iterable[Message], on: Handle | None = N
     """Returns the frames of a bundle: its start, the messages, and its commit. bundle is its full name or a short one
     such as "cl-debug". Raises OSError if the bundle does not admit a message, and ValueError for an unknown bundle or
     messages of several handles; the bundle is then aborted on the handle, and no frames are returned."""
-    name = bundle.replace("-", "_")
-    name = name if name in _schema.BUNDLES else f"lumo_tarn_{name}_rsp"
-    if name not in _schema.BUNDLES:
-        raise ValueError(f"unknown bundle: {bundle}")
+    name = bundle_named(bundle)
     listed = list(content)
     on = on or (listed[0].handle if listed else handle())
     whole = [Control(name, "start").to_frame(on)]
