@@ -632,11 +632,26 @@ TEST(Generate, ReachesTheRequestedSize) {
         }
     }
     // A count of one byte limits the list to 255 elements.
-    const Outcome full = tarn({"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"});
-    EXPECT_EQ(full.exit, 0);
-    EXPECT_EQ(full.err, "tarn: all lists have their maximum length, and the frame only " +
-                            std::to_string(full.out.size()) + " bytes\n");
+    for (const std::string tracked : {"", "--tracked"}) {
+        std::vector<std::string> arguments{"generate", "pal-mp-prefix-cfg", "--size", "1M", "--form", "frames"};
+        if (!tracked.empty()) arguments.push_back(tracked);
+        const Outcome full = tarn(arguments);
+        EXPECT_EQ(full.exit, 0);
+        EXPECT_EQ(full.err, "tarn: all lists have their maximum length, and the frame only " +
+                                std::to_string(full.out.size()) + " bytes\n");
+    }
 }
+
+#ifndef TARN_SANITIZED
+TEST(Generate, NeedsMemoryForItsMessageAndItsOutputOnly) {
+    for (const std::string type : {"dp-tt-cfg", "cl-appl-cfg"}) {
+        const Outcome outcome = run(
+            "/bin/sh",
+            {"-c", R"(ulimit -v 110000 && exec "$0" generate "$1" --size 4M --form frames >/dev/null)", tool(), type});
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+    }
+}
+#endif
 
 TEST(Generate, RefusesASizeForAMessageWithoutVariableLists) {
     for (const std::string type : {"cl-debug", "debug-setting", "dp-debug"}) {

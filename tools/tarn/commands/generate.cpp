@@ -1,13 +1,11 @@
 // tarn generate: random messages with plausible values.
+#include <cinttypes>
 #include <cstdio>
 #include <map>
 #include <memory>
-#include <nlohmann/json.hpp>
 
-#include "schema/frame.h"
 #include "tools/tarn/commands/commands.h"
 #include "tools/tarn/commands/options.h"
-#include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/files.h"
@@ -27,36 +25,15 @@ struct GenerateOptions {
     bool tracked = false, bundle = false, force = false;
 };
 
-// The size of a payload on the wire, computed from its JSON form.
-std::size_t wire_size(const nlohmann::ordered_json &json, const schema::Record &record, bool tracked) {
-    std::size_t size = schema::record_head_size;
-    for (const schema::Member &m : record.members) {
-        const schema::KindFacts &kind = facts(m.kind);
-        size += kind.wire + (tracked ? kind.own_states : 0);
-        if (m.role != schema::Role::value) continue;
-        const nlohmann::ordered_json &value = json[std::string(m.name)];
-        std::size_t states = 1;
-        if (m.kind == schema::Kind::record) {
-            size += wire_size(value, *m.record, tracked);
-        } else if (m.kind == schema::Kind::string) {
-            size += value.get_ref<const std::string &>().size();
-        } else if (m.kind == schema::Kind::array) {
-            for (const auto &element : value) size += wire_size(element, *m.record, tracked);
-            states = value.empty() ? 0 : 1 + value.size();
-        }
-        size += tracked ? states : 0;
-    }
-    return size;
-}
-
 class Generator {
 public:
     Generator(const GenerateOptions &options, const reflect::MessageOperations &operations)
-        : options_(options), operations_(operations), handles_(options.tracked ? Tracking::on : Tracking::off) {}
+        : options_(options), operations_(operations), handle_(options.tracked) {}
 
     Item make(std::uint32_t elements) const {
-        const nlohmann::ordered_json json{{"message", operations_.name}, {"payload", payload(elements)}};
-        return std::move(from_json(handles_, json.dump(), "generated", false).front());
+        Item item{{&operations_}, Message::create(handle_, operations_), {}};
+        fill(elements, item.message->payload());
+        return item;
     }
 
     // The smallest number of elements with which the frame has at least `size` bytes. If the counts of the lists are
@@ -68,13 +45,14 @@ public:
         }
         Progress progress("searching for the number of elements");
         std::uint32_t most = 1;
-        std::size_t reached = size_of(most), before = 0;
+        std::uint64_t reached = size_of(most), before = 0;
         while (reached < size && reached != before) {
             progress.at(reached, size);
             before = std::exchange(reached, size_of(most *= 2));
         }
         if (reached < size) {
-            std::fprintf(stderr, "tarn: all lists have their maximum length, and the frame only %zu bytes\n", reached);
+            std::fprintf(stderr, "tarn: all lists have their maximum length, and the frame only %" PRIu64 " bytes\n",
+                         reached);
         }
         std::uint32_t least = most / 2 + 1;
         while (least < most) {
@@ -86,16 +64,14 @@ public:
     }
 
 private:
-    nlohmann::ordered_json payload(std::uint32_t elements) const {
-        return RandomPayload(options_.seed, elements).make(operations_.message->payload);
+    std::uint64_t fill(std::uint32_t elements, void *payload) const {
+        return RandomPayload(handle_, options_.seed, elements).fill(operations_.message->payload, payload);
     }
-    std::size_t size_of(std::uint32_t elements) const {
-        return MIRK_PLATFORM_FRAME_SIZE + wire_size(payload(elements), operations_.message->payload, options_.tracked);
-    }
+    std::uint64_t size_of(std::uint32_t elements) const { return MIRK_PLATFORM_FRAME_SIZE + fill(elements, nullptr); }
 
     const GenerateOptions &options_;
     const reflect::MessageOperations &operations_;
-    Handles handles_;
+    Handle handle_;
 };
 
 // The message of a bundle, or a message with its bundle.

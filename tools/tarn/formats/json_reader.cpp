@@ -319,13 +319,8 @@ void Reader::read_array(const JsonValue &json, const Field &field, const Path &p
                     [&] { return std::to_string(json.size()) + " elements exceed the range of its count"; });
     }
     if (json.size() == 0) return;
-    // Setting the last element first grows the array only once.
     const RecordOperations &element = reflect::operations_of(*field.schema().record);
-    void *fresh = element.create(h(), context_id);
-    if (fresh == nullptr) throw Failure(Exit::environment, "out of memory for " + path.text());
-    const auto count = static_cast<std::uint32_t>(json.size());
-    field.member().element_set(h(), context_id, field.instance, count - 1, fresh, &err_);
-    element.destroy(h(), context_id, fresh);
+    err_ = lengthen(*handle_, field.member(), field.instance, static_cast<std::uint32_t>(json.size()));
     if (!is_good(json, path)) return;
     std::uint32_t i = 0;
     json.for_each_element([&](const JsonValue &one) {

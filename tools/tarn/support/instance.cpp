@@ -1,5 +1,6 @@
 #include "tools/tarn/support/instance.h"
 
+#include <cerrno>
 #include <cstring>
 
 #include "schema/layout.h"
@@ -78,6 +79,18 @@ bool set_address(ip_address *address, std::string_view text) {
 std::uint8_t *address_state(const Handle &handle, ip_address *address) {
     if (!handle.tracked() || (address->obj_flag & has_state_offset) == 0) return nullptr;
     return reinterpret_cast<std::uint8_t *>(address) + mirklib_get_sttr_offset(handle.get(), context_id, address);
+}
+
+// Setting the last element first grows the array only once.
+std::uint32_t lengthen(const Handle &handle, const reflect::MemberOperations &list, void *instance,
+                       std::uint32_t count) {
+    const reflect::RecordOperations &element = reflect::operations_of(*list.member->record);
+    void *const fresh = element.create(handle.get(), context_id);
+    if (fresh == nullptr) return ENOMEM;
+    std::uint32_t err = 0;
+    list.element_set(handle.get(), context_id, instance, count - 1, fresh, &err);
+    element.destroy(handle.get(), context_id, fresh);
+    return err;
 }
 
 std::uint32_t enumeration_value(const void *enumeration) {

@@ -34,6 +34,10 @@ bool set_address(ip_address *address, std::string_view text);
 // The seven state bytes of an address; null if it has none.
 std::uint8_t *address_state(const Handle &handle, ip_address *address);
 
+// Gives an empty list this number of elements, which is at least one. Returns the error of the library.
+std::uint32_t lengthen(const Handle &handle, const reflect::MemberOperations &list, void *instance,
+                       std::uint32_t count);
+
 std::uint32_t enumeration_value(const void *enumeration);
 void set_enumeration_value(void *enumeration, std::uint32_t value);
 
