@@ -299,6 +299,42 @@ TEST(Dissector, FiltersByValue) {
     EXPECT_EQ(count("tarn.message == \"lumo_tarn_debug_setting_msg\"").size(), 3U);
 }
 
+std::vector<std::string> column_of(const Capture &capture) {
+    return lines(tshark(capture, {"-Y", "tarn", "-T", "fields", "-e", "_ws.col.Info"}).out);
+}
+
+TEST(Dissector, ShowsTheFirstKeysOfElementsInTheColumn) {
+    const auto prefix = [](const std::string &text, const std::string &complexes) {
+        return R"({"lookup_prefix": ")" + text + R"(", "complex_data": [)" + complexes + "]}";
+    };
+    const std::string payload = R"({"message": "lumo_tarn_dp_mp_prefix_msg", "payload": {"prefix_data": [)" +
+                                prefix("10.0.0.0/8", R"({"complex_num": 4}, {"complex_num": 7})") + ", " +
+                                prefix("2001:db8::/32", R"({"complex_num": 4})") + ", " + prefix("10.0.0.0/8", "") +
+                                ", " + prefix("unset", "") + ", " + prefix("10.1.0.0/16", "") + "]}}";
+    const std::string switches = R"({"message": "lumo_tarn_debug_setting_msg", "payload": {"warn_enabled": 1}})";
+    Capture capture;
+    capture.add(61000, port, tool_test::tarn({"encode"}, payload + "\n" + switches).out);
+    const std::string shown =
+        "lumo_tarn_dp_mp_prefix_msg (prefix 10.0.0.0/8, 2001:db8::/32, unset, \u2026; complex 4, 7)";
+    EXPECT_EQ(column_of(capture), std::vector<std::string>{shown + ", lumo_tarn_debug_setting_msg"});
+    const std::vector<Field> frames = frames_in(capture);
+    ASSERT_EQ(frames.size(), 2U);
+    EXPECT_EQ(frames[0].label, "Tarn frame: " + shown);
+}
+
+// The packet that ends the reassembled message also contains the frame that follows it.
+TEST(Dissector, SeparatesFramesThatOnePacketEnds) {
+    const reference::MessageTable &message = reference::message_table("lumo_tarn_debug_setting_msg");
+    const std::string start = tool_test::control(reference::bundles()[1], "start"),
+                      commit = tool_test::control(reference::bundles()[1], "commit"),
+                      frame = tool_test::frame(message, reference::Record(message.payload), false);
+    Capture capture;
+    capture.add(61000, port, start + frame + commit, start.size() + frame.size() - 1);
+    const std::string bundle = reference::bundles()[1].name;
+    EXPECT_EQ(column_of(capture),
+              (std::vector<std::string>{bundle + " start", message.name + ", " + bundle + " commit"}));
+}
+
 // What a client and a server send each other about a bundle that is not served.
 struct Exchange {
     std::string request, refusal;

@@ -62,8 +62,10 @@ local function field_of(filter, member)
 end
 
 for record, members in pairs(records) do
+    members.keys = {}
     for _, member in ipairs(members) do
         local filter = "tarn." .. record .. "." .. member[1]:gsub("[%[%]]", "")
+        if member.key then members.keys[#members.keys + 1] = member[1] end
         member.field = declare(filter, field_of(filter, member))
         if not member.counts then
             member.state = declare(filter .. ".state", ProtoField.uint8(filter .. ".state", "state of " .. member[1]))
@@ -148,6 +150,38 @@ end
 local function printable(text)
     for _, pattern in ipairs(unprintable) do text = text:gsub(pattern, escaped) end
     return text
+end
+
+-- ---- the elements of lists, by their keys
+
+-- The key of an element, from the values of its members.
+local function key_text(record, values)
+    local words = {}
+    for _, member in ipairs(values and record.keys or {}) do
+        local value = values[member]
+        words[#words + 1] = type(value) == "number" and string.format("%.0f", value) or value
+    end
+    return #words > 0 and table.concat(words, " ") or nil
+end
+
+local few, ellipsis = 3, "\226\128\166"
+
+-- The first keys of all elements with the same name, each once.
+local function add_key(group, key)
+    for _, known in ipairs(group) do
+        if known == key then return end
+    end
+    if #group < few then group[#group + 1] = key else group.more = true end
+end
+
+-- "processor 0, 1; class 1000, 1001, 1002, ...", with an ellipsis if there are more.
+local function elements_text(groups)
+    local words = {}
+    for _, group in ipairs(groups) do
+        if group.more then group[#group + 1] = ellipsis end
+        if #group > 0 then words[#words + 1] = group.element .. " " .. table.concat(group, ", ") end
+    end
+    return table.concat(words, "; ")
 end
 
 -- ---- one frame
@@ -239,10 +273,14 @@ end
 
 function reader:member(tree, member, count, path, tracked)
     local name, kind = member[1], member[2]
-    local value, range, item
+    local value, range, item, _
     if integer_sizes[kind] then
         item, range = self:take(tree, member.field, integer_sizes[kind], path)
-        if kind ~= "u64" then value = range:uint() end
+        if kind ~= "u64" then
+            value = range:uint()
+        elseif member.key then
+            value = tostring(range:uint64())
+        end
         if member.counts then return value end
     elseif kind == "boolean" then
         local _, variant = self:take(nothing, f.variant, 1, path .. ".variant")
@@ -252,13 +290,17 @@ function reader:member(tree, member, count, path, tracked)
         if value > 1 then item:append_text(" (" .. value .. ")") end
     elseif kind == "enumeration" then
         local _, variant = self:take(nothing, f.variant, 1, path .. ".variant")
-        self:take(tree, member.field, 4, path):add(f.variant, variant)
+        item, range = self:take(tree, member.field, 4, path)
+        item:add(f.variant, variant)
+        value = range:uint()
+        value = enumerations[member.of][value] or value
     elseif kind == "address" then
         -- The text depends on the parts, so they are read twice: for the text, and for the tree.
         local from = self.at
         local good, parts = pcall(self.record, self, nothing, "ip_address", path)
         self.at = from
-        item = tree:add(member.field, self.tvb(from, 0), good and parts and address_text(parts) or "")
+        value = good and parts and address_text(parts) or ""
+        item = tree:add(member.field, self.tvb(from, 0), value)
         self:record(item, "ip_address", path)
         self:close(item, from)
     elseif kind == "record" then
@@ -268,7 +310,8 @@ function reader:member(tree, member, count, path, tracked)
         self:close(item, from)
     elseif kind == "string" then
         if count == 0 then return end
-        self:text(tree, member.field, count, path)
+        _, value = self:text(tree, member.field, count, path)
+        if member.key then value = printable(value) end
     elseif kind == "array" then
         return self:array(tree, member, count, path, tracked)
     else
@@ -281,10 +324,16 @@ end
 function reader:array(tree, member, count, path, tracked)
     if count == 0 then return end
     local item, from = self:open(tree, member.field, string.format("%s: %.0f %s", member[1], count, member.of))
+    local record = records[member.of]
+    local group = self:group(record.element or member.of)
     for i = 0, count - 1 do
         local below = string.format("%s[%d]", path, i)
         local element, element_from = self:open(item, f.element, string.format("%s[%d]: %s", member[1], i, member.of))
-        self:record(element, member.of, below)
+        local key = key_text(record, self:record(element, member.of, below))
+        if key then
+            add_key(group, key)
+            element:append_text(", " .. group.element .. " " .. key)
+        end
         self:close(element, element_from)
     end
     self:close(item, from)
@@ -294,6 +343,16 @@ function reader:array(tree, member, count, path, tracked)
     if left == 0 then self:require(1, path .. "[0].state") end
     self:take(tree, member.states, math.min(count, left), path)
     if left < count then self:require(1, string.format("%s[%d].state", path, left)) end
+end
+
+-- The keys of the elements that are called so, in the order in which the frame begins them.
+function reader:group(element)
+    for _, group in ipairs(self.groups) do
+        if group.element == element then return group end
+    end
+    local group = { element = element }
+    self.groups[#self.groups + 1] = group
+    return group
 end
 
 -- Reads up to the identity, which is not part of the header, and returns its bytes.
@@ -353,9 +412,10 @@ end
 local function dissect_frame(tvb, base, length, tree)
     local available = math.min(length, tvb:captured_len() - base)
     local root = tree:add(tarn, tvb(base, available))
-    local self = setmetatable({ tvb = tvb, base = base, at = base, stop_at = base + available }, reader)
+    local self = setmetatable({ tvb = tvb, base = base, at = base, stop_at = base + available, groups = {} }, reader)
     local good, failure = pcall(self.frame, self, root, length)
-    local title = self.title or "frame"
+    local title, elements = self.title or "frame", elements_text(self.groups)
+    if elements ~= "" then title = title .. " (" .. elements .. ")" end
     if not good then
         if type(failure) ~= "table" then error(failure, 0) end
         local where = failure.path ~= "" and failure.path .. ": " or ""
@@ -407,8 +467,10 @@ local function dissect(tvb, pinfo, tree)
         at = at + length
     end
     if #titles > 0 then
-        pinfo.cols.info = table.concat(titles, ", ")
+        -- A packet that ends a reassembled frame and contains others is dissected in two calls, which share the column.
+        pinfo.cols.info = (pinfo.private.tarn or "") .. table.concat(titles, ", ")
         pinfo.cols.info:fence()
+        pinfo.private.tarn = ", "
     end
     return tvb:len()
 end

@@ -1,6 +1,7 @@
 // The dissector for network captures: the schema as Lua tables, followed by the code that reads frames with them.
 #include "dissector.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "api.h"
@@ -23,18 +24,21 @@ std::string quoted(std::string_view text) {
     return out + "\"";
 }
 
-std::string line_of(const Member &m) {
+std::string line_of(const Member &m, const Key &key) {
     std::string line = "        { " + quoted(m.name) + ", " + quoted(facts(m.kind).name);
     if (!m.meaning.empty()) line += ", " + quoted(m.meaning);
     if (m.record != nullptr) line += ", of = " + quoted(m.record->name);
     if (m.enumeration != nullptr) line += ", of = " + quoted(m.enumeration->name);
     if (m.role != Role::value) line += ", counts = true";
+    const auto names = key.members();
+    if (std::find(names.begin(), names.end(), m.name) != names.end()) line += ", key = true";
     return line + " },\n";
 }
 
 std::string table_of(const Record &record) {
     std::string text = "    " + std::string(record.name) + " = {\n";
-    for (const Member &m : record.members) text += line_of(m);
+    for (const Member &m : record.members) text += line_of(m, record.key);
+    if (!record.key.element.empty()) text += "        element = " + quoted(record.key.element) + ",\n";
     return text + "    },\n";
 }
 
