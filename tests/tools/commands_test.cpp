@@ -243,6 +243,21 @@ TEST(Dissect, ShowsAddressesAsText) {
     EXPECT_NE(out.find(" ip_address 10.1.0.0/16\n"), std::string::npos) << out;
 }
 
+TEST(Dissect, ShowsPointersInHexadecimal) {
+    const std::string bytes =
+        tarn({"encode"}, R"({"message": "lumo_tarn_dp_mp_prefix_msg", "payload": {"prefix_data": [{"complex_data": [
+             {"prefix": "2001:db8::/32", "tc_list_ptr": "139637976727552", "flags": 255}]}]}})")
+            .out;
+    const std::string out = tarn({"dissect"}, bytes).out;
+    EXPECT_NE(out.find(" u_int64 0x7f0000000000\n"), std::string::npos) << out;
+    EXPECT_NE(out.find(" u_int16 255\n"), std::string::npos) << out;
+    const std::string json = tarn({"dissect", "--json"}, bytes).out;
+    EXPECT_NE(json.find(R"("kind":"u_int64","value":"139637976727552","text":"0x7f0000000000"})"), std::string::npos)
+        << json;
+    EXPECT_NE(json.find(R"("kind":"u_int16","value":"255"})"), std::string::npos) << json;
+    EXPECT_NE(json.find(R"("value":"0"}],"text":"2001:db8::/32"},{"name":"flags",)"), std::string::npos) << json;
+}
+
 TEST(Dissect, NamesTheIndexOfEachElement) {
     const std::string out = tarn({"dissect"}, list_frame(4, true)).out;
     for (const char *const name : {" prefix_data[0] ", " prefix_data[3] "})

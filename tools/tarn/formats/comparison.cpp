@@ -9,6 +9,7 @@
 #include "tools/tarn/formats/alignment.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/hex.h"
 #include "tools/tarn/support/instance.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
@@ -123,9 +124,7 @@ std::string text_of(const schema::Member &m, const ordered_json &value) {
     if (m.notation == schema::Notation::hexadecimal && (value.is_number() || value.is_string())) {
         const std::uint64_t number =
             value.is_string() ? std::stoull(value.get<std::string>()) : value.get<std::uint64_t>();
-        char text[24];
-        std::snprintf(text, sizeof text, "0x%llx", static_cast<unsigned long long>(number));
-        return text;
+        return hex_number(number);
     }
     if (value.is_string() && m.kind != schema::Kind::string) return printable(value.get<std::string>());
     return json_text(value);

@@ -328,6 +328,10 @@ void append_quoted(FrameBytes bytes, std::string &out) {
     out += '"';
 }
 
+bool is_pointer(const Field &field) {
+    return field.member != nullptr && field.member->notation == schema::Notation::hexadecimal;
+}
+
 void append_value(const Field &field, std::string &out) {
     using Kind = Field::Kind;
     switch (field.kind) {

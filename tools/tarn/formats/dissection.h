@@ -45,6 +45,9 @@ struct Field {
     const schema::Record *record = nullptr;  // for a variant: which begins there; null for a boolean or an enumeration
 };
 
+// The value of a pointer or a handle of another process, which people read in hexadecimal.
+bool is_pointer(const Field &field);
+
 // "1000", "3 LUMO_TARN_HA_ACTIVE_SOLO_STATE", "56, ends at 103"
 void append_value(const Field &field, std::string &out);
 

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <utility>
 
 #include "schema/frame.h"
@@ -42,13 +43,35 @@ private:
     Write write_;
 };
 
+// The text of an address, from the fields of its group.
+class AddressReader {
+public:
+    void open(const Group &group) {
+        is_open_ = group.kind == Group::Kind::address;
+        numbers_.clear();
+    }
+    void field(const Field &field) {
+        if (is_open_ && field.kind == Field::Kind::number) numbers_.push_back(field.number);
+    }
+    // Nothing if another group ends, or if the address has no members.
+    std::optional<std::string> close() {
+        const bool is_whole = std::exchange(is_open_, false) && numbers_.size() == std::size(schema::address_members);
+        return is_whole ? std::optional(address_text(handle_, numbers_)) : std::nullopt;
+    }
+
+private:
+    Handle handle_{false};
+    bool is_open_ = false;
+    std::vector<std::uint64_t> numbers_;
+};
+
 // ---- for people
 
 constexpr std::size_t bytes_in_line = 8, name_width = 26;
 
 class TextDump : public Dump {
 public:
-    explicit TextDump(Write write) : out_(std::move(write)), handle_(false) {}
+    explicit TextDump(Write write) : out_(std::move(write)) {}
 
     void begin(const std::string &file, std::size_t offset) override {
         out_.text += "frame at offset " + std::to_string(offset) + (file.empty() ? "" : " of " + file) + "\n";
@@ -75,7 +98,7 @@ private:
     void append_line(std::size_t at, std::size_t most, std::string_view words);
 
     Buffer out_;
-    Handle handle_;  // for addresses
+    AddressReader address_;
     std::size_t depth_ = 0;
     Group::Kind group_ = Group::Kind::header;  // the innermost
     bool joins_ = false;                       // the next field belongs to the current line
@@ -86,9 +109,8 @@ private:
     std::size_t offset_ = 0;
     FrameBytes bytes_;
     std::string words_;
-    std::vector<std::uint64_t> numbers_;  // the members of an address
-    std::string states_;                  // theirs
-    bool has_states_ = false;             // other than 0
+    std::string states_;       // of the members of an address
+    bool has_states_ = false;  // other than 0
 };
 
 void TextDump::open(const Group &group) {
@@ -97,7 +119,7 @@ void TextDump::open(const Group &group) {
     joins_ = group.kind != Kind::header && group.kind != Kind::array;
     if (joins_) begin_line(group.name, group.index, group.type, group.offset);
     ++depth_;
-    numbers_.clear();
+    address_.open(group);
     states_.clear();
     has_states_ = false;
 }
@@ -105,9 +127,7 @@ void TextDump::open(const Group &group) {
 void TextDump::close() {
     --depth_;
     joins_ = false;
-    if (group_ == Group::Kind::address && numbers_.size() == std::size(schema::address_members)) {
-        words_ += " " + address_text(handle_, numbers_) + (has_states_ ? " states" + states_ : "");
-    }
+    if (const auto text = address_.close()) words_ += " " + *text + (has_states_ ? " states" + states_ : "");
     group_ = Group::Kind::record;
 }
 
@@ -116,7 +136,12 @@ void TextDump::field(const Field &field) {
     if (field.kind == Field::Kind::state) return add_state(field);
     begin_line(field.name, field.index, field.type, field.offset);
     add_bytes(field.bytes);
-    append_value(field, words_ += ' ');
+    words_ += ' ';
+    if (is_pointer(field)) {
+        words_ += hex_number(field.number);
+    } else {
+        append_value(field, words_);
+    }
     if (words_.back() == ' ') words_.pop_back();
 }
 
@@ -129,7 +154,7 @@ void TextDump::join(const Field &field) {
         states_ += " " + std::to_string(field.number);
         has_states_ = has_states_ || field.number != 0;
     } else if (field.kind == Kind::number) {
-        numbers_.push_back(field.number);
+        address_.field(field);
     } else if (field.kind == Kind::jump) {
         joins_ = !is_record;
         if (is_record) append_decimal(field.offset + field.number, words_ += " ends at ");
@@ -228,9 +253,12 @@ public:
         add("kind", group.type);
         out_.text += R"(,"parts":[)";
         ++depth_;
+        address_.open(group);
     }
     void close() override {
-        out_.text += "]}";
+        out_.text += ']';
+        if (const auto text = address_.close()) add("text", *text);
+        out_.text += '}';
         --depth_;
     }
     void field(const Field &field) override {
@@ -246,7 +274,10 @@ public:
             if (c == '"' || c == '\\') out_.text += '\\';
             out_.text += c;
         }
-        out_.text += "\"}";
+        out_.text += '"';
+        if (is_pointer(field)) add("text", hex_number(field.number));
+        out_.text += '}';
+        address_.field(field);
         out_.flush_if_full();
     }
 
@@ -256,11 +287,13 @@ private:
         (((out_.text += R"({"name":")") += name) += '"');
         if (index != no_index) append_decimal(index, out_.text += R"(,"index":)");
     }
-    void add(std::string_view key, std::string_view name) {
-        ((((out_.text += ",\"") += key) += "\":\"") += name) += '"';
+    // Without characters that need an escape.
+    void add(std::string_view key, std::string_view text) {
+        ((((out_.text += ",\"") += key) += "\":\"") += text) += '"';
     }
 
     Buffer out_;
+    AddressReader address_;
     std::string value_;
     std::size_t depth_ = 0;
 };

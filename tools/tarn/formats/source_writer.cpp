@@ -45,13 +45,6 @@ bool is_zero(const std::vector<std::uint64_t> &numbers) {
     return std::all_of(numbers.begin(), numbers.end(), [](std::uint64_t number) { return number == 0; });
 }
 
-std::string hex_number(std::uint64_t number) {
-    constexpr char digits[] = "0123456789abcdef";
-    std::string text;
-    for (; number != 0 || text.empty(); number >>= 4) text.insert(text.begin(), digits[number & 15]);
-    return "0x" + text;
-}
-
 std::string name_of(const Field &luid) {
     if (luid.words.empty()) return raw_text(luid.bytes);
     const std::optional<Identity> identity = identify(luid.bytes.data());
@@ -298,8 +291,7 @@ void SourceWriter::field(const Field &field) {
             break;
     }
     if (in_address) return level.numbers.push_back(field.number);
-    const bool is_pointer = field.member != nullptr && field.member->notation == schema::Notation::hexadecimal;
-    write_value(field.name, is_pointer ? hex_number(field.number) : std::to_string(field.number));
+    write_value(field.name, is_pointer(field) ? hex_number(field.number) : std::to_string(field.number));
 }
 
 // Only what is unusual is written.

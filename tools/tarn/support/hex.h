@@ -1,4 +1,4 @@
-// Hexadecimal digits of bytes.
+// Hexadecimal digits of bytes and numbers.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +16,14 @@ inline std::string hex_text(std::span<const std::uint8_t> bytes, const std::stri
         text += separator;
     }
     return text;
+}
+
+// 0x7f00
+inline std::string hex_number(std::uint64_t number) {
+    constexpr char digits[] = "0123456789abcdef";
+    std::string text;
+    for (; number != 0 || text.empty(); number >>= 4) text.insert(text.begin(), digits[number & 15]);
+    return "0x" + text;
 }
 
 }  // namespace tarn::tool
