@@ -1,6 +1,5 @@
 # Installation. Component `library` is for running programs, `development` for building programs, `tools` for inspecting
-# answers, `documentation` for all users.
-include(GNUInstallDirs)
+# answers, `fleet` for buses and stores, `documentation` for all users.
 include(CMakePackageConfigHelpers)
 
 # In Debian packages the loader finds the libraries on its search path. Otherwise they are found relative to the
@@ -50,6 +49,15 @@ install(TARGETS lumo_ui_tarn mirklib skald veld mirk_contract EXPORT lumo_ui_tar
         INCLUDES DESTINATION ${include_dir})
 install(TARGETS tarn RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COMPONENT tools)
+
+# ---- the fleet, if its libraries were found
+if(TARN_WITH_FLEET)
+  require_built(fleet $<TARGET_FILE:tarn-fleet>)
+  if(NOT TARN_DEBIAN)
+    set_target_properties(tarn-fleet PROPERTIES INSTALL_RPATH "$ORIGIN/..")
+  endif()
+  install(TARGETS tarn-fleet RUNTIME DESTINATION ${TARN_FLEET_DIR} COMPONENT fleet)
+endif()
 
 # ---- files for building programs
 install(DIRECTORY include/ platform/include/ DESTINATION ${include_dir} COMPONENT development

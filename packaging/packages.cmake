@@ -8,6 +8,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_COMPONENTS_ALL library development tools documentation)
+if(TARN_WITH_FLEET)
+  list(APPEND CPACK_COMPONENTS_ALL fleet)
+endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
@@ -44,6 +47,12 @@ describe(tools lumo-ui-tarn-tools utils "request, convert, compare and inspect a
 from files, converts frames to text, XML or JSON and back, dumps frames byte by
 byte, compares answers and generates random ones. This package also contains a
 dissector for Wireshark${python_text}.")
+if(TARN_WITH_FLEET)
+  describe(fleet lumo-ui-tarn-fleet utils "ask many devices for answers of the tarn feature"
+    "The tool tarn with a bus: it answers and asks on NATS, and simulates devices.")
+  set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "lumo-ui-tarn-tools ${of_this_build}")
+endif()
 describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
   "The traffic-aware routing feature tarn exchanges records between processes as
 binary frames. This package contains manuals, the API reference and examples.")

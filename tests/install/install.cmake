@@ -1,5 +1,5 @@
 # Installs a build into an empty folder and moves it to PREFIX, so that nothing can depend on the original path.
-#   cmake -DBUILD= -DSOURCE= -DSCRATCH= -DPREFIX= -P install.cmake
+#   cmake -DBUILD= -DSOURCE= -DSCRATCH= -DPREFIX= -DFLEET= -P install.cmake
 cmake_minimum_required(VERSION 3.25)
 set(first ${SCRATCH}/first)
 file(REMOVE_RECURSE ${first} ${PREFIX} ${SCRATCH}/components)
@@ -17,7 +17,11 @@ file(GLOB_RECURSE whole RELATIVE ${PREFIX} ${PREFIX}/*)
 
 # Every file belongs to exactly one component.
 set(parts "")
-foreach(component library development tools documentation)
+set(components library development tools documentation)
+if(FLEET)
+  list(APPEND components fleet)
+endif()
+foreach(component IN LISTS components)
   set(folder ${SCRATCH}/components/${component})
   run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${folder} --component ${component})
   file(GLOB_RECURSE part RELATIVE ${folder} ${folder}/*)

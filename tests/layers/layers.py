@@ -23,8 +23,9 @@ MAY_INCLUDE = {
     "tools/tarn/pages": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/service": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/commands": ["tools/tarn/service", "tools/tarn/pages", "tools/tarn/formats", "tools/tarn/support"],
+    "fleet/commands": ["tools/tarn", "fleet"],
 }
-# All layers of the tool may include these.
+# All layers of the tool and of the fleet may include these.
 ALL_OF_THE_TOOL = ["tools/reflect", "schema", "include", "platform/include"]
 INCLUDE_FOLDERS = ("", "include", "platform/include")
 
@@ -44,7 +45,7 @@ def within(folder, layer):
 def main():
     root, wrong, seen = pathlib.Path(sys.argv[1]).resolve(), [], 0
     for layer, below in MAY_INCLUDE.items():
-        allowed = [layer, *below, *(ALL_OF_THE_TOOL if layer.startswith("tools/") else [])]
+        allowed = [layer, *below, *(ALL_OF_THE_TOOL if layer.startswith(("tools/", "fleet/")) else [])]
         sources = [p for p in sorted((root / layer).rglob("*")) if p.suffix in (".h", ".hpp", ".cpp")]
         if not sources:
             wrong.append(f"{layer}: has no sources")

@@ -1,10 +1,12 @@
 // tarn answer: serves bundles from files over a Unix domain socket or TCP.
+#include "tools/tarn/commands/answer.h"
+
 #include <map>
 #include <memory>
 
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/extension.h"
 #include "tools/tarn/commands/options.h"
-#include "tools/tarn/service/server.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
@@ -14,12 +16,6 @@
 namespace tarn::tool {
 
 namespace {
-
-struct AnswerOptions : ServerOptions {
-    std::vector<std::string> served;
-    std::uint64_t snapshot_limit = 1 << 30;
-    bool lenient = false;
-};
 
 void load(Answerer &answerer, const AnswerOptions &options) {
     for (const std::string &served : options.served) {
@@ -106,6 +102,7 @@ void add_answer(CLI::App &app, Context &) {
         "  tarn answer --socket /tmp/tarn.sock dp-tt-cfg=tables.json dp-intf=intf.xml\n"
         "  tarn answer --listen 127.0.0.1:28276 cl-debug=examples/cl_debug.xml\n"
         "  tarn answer --socket /tmp/tarn.sock --fault abort cl-debug=examples/cl_debug.xml");
+    if (extension != nullptr) extension->extend_answer(*command, *endpoint, *options);
     command->callback([options] {
         if (options->unread_total < options->unread) {
             throw Failure(Exit::input,
@@ -116,6 +113,7 @@ void add_answer(CLI::App &app, Context &) {
         const TraceToLog trace(log);
         Answerer answerer(options->snapshot_limit);
         load(answerer, *options);
+        if (options->serve) return options->serve(answerer, log);
         Server server(*options, answerer, log);
         server.open();
         // Files have been read and the socket is open: what peers send is handled without the privileges of root.

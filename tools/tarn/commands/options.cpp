@@ -196,11 +196,12 @@ void add_comparison(CLI::App &command, ComparisonOptions &options) {
         ->allow_extra_args(false);
 }
 
-void add_endpoint(CLI::App &command, Endpoint &endpoint) {
+CLI::Option_group &add_endpoint(CLI::App &command, Endpoint &endpoint) {
     CLI::Option_group *group = command.add_option_group("endpoint", "Where the answering process listens");
     group->add_option("--socket", endpoint.socket, "Unix domain socket")->type_name(words::file);
     group->add_option("--connect", endpoint.tcp, tcp_words())->type_name(words::address);
     group->require_option(1);
+    return *group;
 }
 
 void add_timeout(CLI::App &command, double &seconds, const std::string &what) {

@@ -65,7 +65,7 @@ struct ComparisonOptions {
 void add_comparison(CLI::App &command, ComparisonOptions &options);
 
 // Options of a requesting process.
-void add_endpoint(CLI::App &command, Endpoint &endpoint);
+CLI::Option_group &add_endpoint(CLI::App &command, Endpoint &endpoint);
 void add_timeout(CLI::App &command, double &seconds, const std::string &what);
 void add_limits(CLI::App &command, AnswerLimits &limits);
 CLI::Option *add_via(CLI::App &command, std::string &via, const std::string &what);

@@ -1,9 +1,12 @@
 // tarn show: requests a bundle from a process and prints the answer.
+#include "tools/tarn/commands/show.h"
+
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <utility>
 
 #include "tools/tarn/commands/commands.h"
+#include "tools/tarn/commands/extension.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/writer.h"
@@ -20,15 +23,6 @@ namespace tarn::tool {
 namespace {
 
 enum class Print : std::uint8_t { text, xml, json, hex };
-
-struct ShowOptions {
-    std::string bundle, save;
-    Endpoint endpoint;
-    AnswerLimits limits;
-    bool text = false, xml = false, json = false, hex = false, tracked = false, verbose = false, force = false;
-    double timeout = 10;
-    std::string via = "handle";
-};
 
 // Prints the frames of an answer one after the other, so that only one is in memory.
 class Printer {
@@ -114,11 +108,11 @@ void run_show(const ShowOptions &options) {
 
 }  // namespace
 
-void add_show(CLI::App &app, Context &) {
+void add_show(CLI::App &app, Context &context) {
     auto options = std::make_shared<ShowOptions>();
     CLI::App *command = app.add_subcommand("show", "Request a bundle from a process and print the answer");
     command->add_option("bundle", options->bundle, "The requested bundle")->type_name(words::bundle)->required();
-    add_endpoint(*command, options->endpoint);
+    CLI::Option_group &endpoint = add_endpoint(*command, options->endpoint);
     CLI::Option_group *form = command->add_option_group("form", "Output format");
     form->add_flag("--text", options->text, "Indented text (default)");
     form->add_flag("--xml", options->xml, "XML");
@@ -150,7 +144,13 @@ void add_show(CLI::App &app, Context &) {
         "  tarn show cl-debug --connect 127.0.0.1:28276\n"
         "  tarn show lumo_tarn_dp_intf_rsp --socket /tmp/tarn.sock --tracked --xml\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --via module --verbose");
-    command->callback([options] { run_show(*options); });
+    if (extension != nullptr) extension->extend_show(*command, endpoint, *options);
+    command->callback([options, &context] {
+        if (options->ask)
+            context.exit = options->ask();
+        else
+            run_show(*options);
+    });
 }
 
 }  // namespace tarn::tool

@@ -1,7 +1,9 @@
 // What is wrong with a command line, in words that name the command, the option or the value that was meant.
 #include <algorithm>
+#include <span>
 
 #include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/extension.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
 
@@ -16,12 +18,19 @@ const CLI::App *chosen_command(const CLI::App &app) {
     return nullptr;
 }
 
+// Empty unless the word is one of those that only tarn-fleet knows, and it is not installed.
+std::string fleet_problem(std::span<const std::string_view> known, const std::string &word) {
+    if (extension != nullptr || std::find(known.begin(), known.end(), word) == known.end()) return {};
+    return in_quotes(word) + " requires the package " + fleet_package + ", which is not installed";
+}
+
 std::string unknown_option(const CLI::App &command, const std::string &word) {
     std::vector<std::string> names;
     for (const CLI::Option *option : options_of(command)) {
         for (const std::string &name : option->get_lnames()) names.push_back("--" + name);
     }
     const std::string name = word.substr(0, word.find('='));
+    if (const std::string problem = fleet_problem(fleet_options, name); !problem.empty()) return problem;
     return "unknown option " + in_quotes(name) + suggestion(name, names);
 }
 
@@ -73,6 +82,7 @@ std::string problem_of(const CLI::App &app, const CLI::App *command, const CLI::
     // The value of an unknown option is also left over.
     if (option != rest.end()) return unknown_option(here, *option);
     if (command != nullptr) return "unexpected argument " + in_quotes(rest.front());
+    if (const std::string problem = fleet_problem(fleet_commands, rest.front()); !problem.empty()) return problem;
     std::vector<std::string> names;
     for (const CLI::App *known : commands_of(app)) names.push_back(known->get_name());
     return "unknown command " + in_quotes(rest.front()) + suggestion(rest.front(), names);

@@ -1,0 +1,18 @@
+// What tarn-fleet adds to the command line of tarn.
+//
+// What each folder may know (tests/layers checks it):
+//   bus/       requests and answers between machines: the tool's service/, formats/ and support/
+//   store/     answers that are kept: the tool's formats/ and support/
+//   commands/  the command line: both, and the tool
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "tools/tarn/commands/extension.h"
+
+namespace tarn::fleet {
+
+// The one place where commands and options are added.
+extern const tool::Extension fleet_extension;
+
+}  // namespace tarn::fleet
