@@ -236,6 +236,37 @@ TEST(View, CountsDifferencesAsTheyAreShown) {
     EXPECT_EQ(seen.at("summary"), "40 frames, " + seen.at("all").dump() + " differences");
 }
 
+// Browsers draw nothing beyond 17 or 33 million pixels, depending on the browser. The bytes of the page are replaced by
+// more, of which the frames are the first.
+TEST(View, ScrollsToTheLastByteOfALargeFile) {
+    const Directory directory;
+    std::string page = page_of({directory.write("a.bin", debug_answer(1, 5))});
+    replace(page, "side.data = bytesOfBase64(side.bytes);",
+            "side.data = new Uint8Array(100000000); side.data.set(bytesOfBase64(side.bytes));");
+    replace(page, "<script>'use strict';", "<script nonce=\"test\">'use strict';");
+    const json seen = seen_in(page, R"(
+        const side = sides[0], dump = side.dump, at = () => [...dump.querySelectorAll('i')].map(i => +i.dataset.at);
+        const isInSight = i => { const [a, b] = [i, dump].map(e => e.getBoundingClientRect());
+                                 return a.top >= b.top && a.bottom <= b.bottom; };
+        seen.height = dump.scrollHeight;
+        dump.scrollTop = dump.scrollHeight;
+        drawLines(side, 0);
+        seen.last = [Math.max(...at()), isInSight(byteAt(0, 99999999))];
+        showByte(0, 50000000);
+        seen.middle = isInSight(byteAt(0, 50000000));
+        const top = dump.scrollTop;
+        showByte(0, 50000016);
+        seen.stays = dump.scrollTop === top;
+        dump.scrollTop = 0;
+        drawLines(side, 0);
+        seen.first = [Math.min(...at()), isInSight(byteAt(0, 0))];)");
+    EXPECT_LT(seen.at("height"), 17000000);
+    EXPECT_EQ(seen.at("last"), (json{99999999, true}));
+    EXPECT_EQ(seen.at("middle"), true);
+    EXPECT_EQ(seen.at("stays"), true);
+    EXPECT_EQ(seen.at("first"), (json{0, true}));
+}
+
 // All elements of the long lists differ.
 TEST(View, CreatesOnlyTheVisibleRowsOfADifference) {
     const Directory directory;

@@ -523,7 +523,8 @@ function bytesOf(node, s) {
 }
 
 const contains = (ranges, at) => ranges.some(([from, to]) => from <= at && at < to);
-const lineHeight = 20, perLine = 16;
+// Browsers limit the height of an element. A dump that is higher is as high as this, and scrolls faster.
+const lineHeight = 20, perLine = 16, highest = 16000000;
 
 function makeDump(side, s) {
   const [section, dump, spacer, lines] = [1, 2, 3, 4].map(() => document.createElement('div'));
@@ -532,7 +533,8 @@ function makeDump(side, s) {
   dump.className = 'dump';
   lines.className = 'lines';
   title.textContent = side.name + ', ' + side.data.length + ' bytes';
-  spacer.style.height = Math.ceil(side.data.length / perLine) * lineHeight + 16 + 'px';
+  side.height = Math.ceil(side.data.length / perLine) * lineHeight + 16;
+  spacer.style.height = Math.min(side.height, highest) + 'px';
   dump.append(spacer, lines);
   section.append(title, dump);
   element('bytes').append(section);
@@ -556,8 +558,11 @@ function classOf(s, at) {
   return words.join(' ');
 }
 
+// How far the lines move for each pixel that is scrolled: so far that the last ones are reached at the end.
+const pace = ({height, dump}) => height > highest ? (height - dump.clientHeight) / (highest - dump.clientHeight) : 1;
+
 function drawLines(side, s) {
-  const first = Math.floor(side.dump.scrollTop / lineHeight);
+  const top = side.dump.scrollTop * pace(side), first = Math.floor(top / lineHeight);
   const inSight = Math.ceil(side.dump.clientHeight / lineHeight) + 1;
   const last = Math.min(Math.ceil(side.data.length / perLine), first + inSight);
   let out = '';
@@ -577,14 +582,15 @@ function drawLines(side, s) {
     const offset = from.toString(16).padStart(6, '0');
     out += '<div class="line"><span class="at">' + offset + '  </span>' + words + ' ' + ascii + '</div>';
   }
-  side.lines.style.top = first * lineHeight + 8 + 'px';
+  side.lines.style.top = side.dump.scrollTop - top % lineHeight + 8 + 'px';
   side.lines.innerHTML = out;
 }
 
 function showByte(s, at) {
-  const side = sides[s], top = Math.floor(at / perLine) * lineHeight, dump = side.dump;
-  if (top < dump.scrollTop || top + 2 * lineHeight > dump.scrollTop + dump.clientHeight) {
-    dump.scrollTop = Math.max(0, top - dump.clientHeight / 3);
+  const side = sides[s], dump = side.dump, shown = dump.scrollTop * pace(side);
+  const top = Math.floor(at / perLine) * lineHeight;
+  if (top < shown || top + 2 * lineHeight > shown + dump.clientHeight) {
+    dump.scrollTop = Math.max(0, top - dump.clientHeight / 3) / pace(side);
     drawLines(side, s);
   }
 }
