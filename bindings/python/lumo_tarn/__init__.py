@@ -19,6 +19,7 @@ enumerations are immutable and can be shared.
 from ._address import Address
 from ._base import Array, Message, Record
 from ._captures import Control, Skipped, bundle_frames, frames, messages, recording
+from ._diff import Change, diff
 from ._native import Handle, handle
 from ._rows import rows
 from .records import *  # noqa: F403 - the classes of the schema
@@ -27,12 +28,14 @@ from .records import __all__ as _classes
 __all__ = [
     "Address",
     "Array",
+    "Change",
     "Control",
     "Handle",
     "Message",
     "Record",
     "Skipped",
     "bundle_frames",
+    "diff",
     "frames",
     "handle",
     "messages",
