@@ -540,6 +540,23 @@ def test_one_frame_of_a_file_is_in_memory(tmp_path):
         tracemalloc.stop()
 
 
+RESIDENT = """
+import itertools, resource, sys
+import lumo_tarn
+found = lumo_tarn.frames(sys.stdin.buffer)
+for number in 20, 260:
+    print(sum(1 for _ in itertools.islice(found, number)), resource.getrusage(resource.RUSAGE_SELF).ru_maxrss)
+"""
+
+
+def test_resident_memory_does_not_grow_with_the_length_of_a_capture():
+    frame = tool("generate", "dp-tt-cfg", "--size", "256K", "--form", "frames")
+    ended = subprocess.run([sys.executable, "-c", RESIDENT], input=frame * 280, check=True, capture_output=True)
+    first, early, others, late = map(int, ended.stdout.split())
+    assert (first, others) == (20, 260)
+    assert late - early < 16 << 10  # KiB; the capture has 73 MB
+
+
 class CountedBytes(bytes):
     """Counts the bytes that slices copy."""
 

@@ -97,6 +97,19 @@ TEST(Validate, PrintsAnObjectForEachFile) {
     EXPECT_EQ(json["errors"][1]["line"], 2);
 }
 
+// A sanitizer reserves more memory than any limit.
+#ifndef TARN_SANITIZED
+TEST(Validate, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
+    const Directory directory;
+    const std::string one = directory.path("one.bin");
+    ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
+    // 73 MB of frames with 70 MB of memory, of which the program takes most.
+    const std::string script =
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && exec "$0" validate 2>&1))";
+    EXPECT_EQ(run("/bin/sh", {"-c", script, tool(), one}).out, "standard input: valid, 280 messages\n");
+}
+#endif
+
 TEST(Validate, ReportsAMessageThatItsBundleDoesNotAdmit) {
     const Outcome outcome =
         tarn({"validate"}, "<bundle_start name=\"lumo_tarn_dp_intf_rsp\"></bundle_start>" + debug_xml);
