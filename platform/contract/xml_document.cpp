@@ -4,6 +4,7 @@
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
@@ -32,17 +33,28 @@ using PathContext = std::unique_ptr<xmlXPathContext, Releaser<xmlXPathFreeContex
 using PathResult = std::unique_ptr<xmlXPathObject, Releaser<xmlXPathFreeObject>>;
 using File = std::unique_ptr<FILE, Releaser<fclose>>;
 
+// In a document. Unknown parts are 0.
+struct Place {
+    int line = 0;
+    long offset = 0;
+};
+
+Place place_of(xmlParserCtxt *parser) {
+    if (parser->input == nullptr) return {1, 0};
+    return {parser->input->line, xmlByteConsumed(parser)};
+}
+
 // The text, which the parser reads piece by piece, and why it was refused.
 struct Source {
     std::string_view rest;
     xmlParserCtxt *parser;
     const char *refusal = nullptr;
-    int line = 0;
+    Place place = {};  // of the refusal or the last error
 
     void refuse(const char *reason) {
         if (refusal != nullptr) return;
         refusal = reason;
-        line = parser->input != nullptr ? parser->input->line : 1;
+        place = place_of(parser);
     }
 };
 
@@ -94,6 +106,12 @@ extern "C" int read_piece(void *context, char *buffer, int size) {
     return static_cast<int>(count);
 }
 
+extern "C" void note_place(void *context, xmlErrorPtr error) {
+    auto *parser = static_cast<xmlParserCtxt *>(context);
+    Source *const source = source_of(parser);
+    if (source->refusal == nullptr) source->place = {error->line, place_of(parser).offset};
+}
+
 extern "C" void ignore_error(void *, xmlErrorPtr) {}
 
 // Encoding errors bypass the parser context and would go to standard error. This discards them for the calling thread.
@@ -113,11 +131,12 @@ private:
 // the first documents of a process at the same time would both do it and leak memory.
 void prepare_parser() { [[maybe_unused]] static const bool prepared = (xmlInitParser(), true); }
 
-void fill_in(mirk_platform_report *report, uint32_t number, int line, const char *sentence) {
+void fill_in(mirk_platform_report *report, uint32_t number, const Place &place, const char *sentence) {
     if (report == nullptr) return;
     *report = {};
     report->number = number;
-    report->line = line > 0 ? static_cast<uint32_t>(line) : 0;
+    report->line = static_cast<uint32_t>(std::max(place.line, 0));
+    report->offset = static_cast<uint32_t>(std::max(place.offset, 0L));
     std::snprintf(report->sentence, sizeof report->sentence, "%s", sentence);
     report->sentence[std::strcspn(report->sentence, "\n")] = 0;
 }
@@ -151,7 +170,7 @@ const xmlNode *too_long_list(const xmlDoc *document, size_t length) {
 
 void *finish(Document document, size_t length, mirk_platform_report *report) {
     if (const xmlNode *list = too_long_list(document.get(), length); list != nullptr) {
-        fill_in(report, EINVAL, static_cast<int>(xmlGetLineNo(list)),
+        fill_in(report, EINVAL, {static_cast<int>(xmlGetLineNo(list)), 0},
                 "the elements inside this one are too many for the length of the document");
         return nullptr;
     }
@@ -160,7 +179,7 @@ void *finish(Document document, size_t length, mirk_platform_report *report) {
         return 0;
     });
     if (error != 0) {
-        fill_in(report, error, 0, std::strerror(static_cast<int>(error)));
+        fill_in(report, error, {}, std::strerror(static_cast<int>(error)));
         return nullptr;
     }
     if (report != nullptr) *report = {};
@@ -260,38 +279,39 @@ uint32_t xml_get_element_value(void *document, const char *path, char *value, ui
 
 void *mirk_platform_document_load_memory(const void *text, size_t length, mirk_platform_report *report) {
     if (text == nullptr || length == 0 || length > INT32_MAX) {
-        fill_in(report, EINVAL, 0, length > INT32_MAX ? "the document is too long" : "the document is empty");
+        fill_in(report, EINVAL, {}, length > INT32_MAX ? "the document is too long" : "the document is empty");
         return nullptr;
     }
     prepare_parser();
     const ParserContext parser(xmlNewParserCtxt());
     if (parser == nullptr) {
-        fill_in(report, ENOMEM, 0, std::strerror(ENOMEM));
+        fill_in(report, ENOMEM, {}, std::strerror(ENOMEM));
         return nullptr;
     }
     Source source{{static_cast<const char *>(text), length}, parser.get()};
     parser->_private = &source;
     parser->sax->internalSubset = refuse_doctype;
     parser->sax->startElementNs = start_element;
+    parser->sax->serror = note_place;
     const ErrorsIgnored scope;
     // Short texts are kept in their nodes.
     constexpr int options =
         XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOCDATA | XML_PARSE_COMPACT;
     Document document(xmlCtxtReadIO(parser.get(), read_piece, nullptr, &source, nullptr, nullptr, options));
     if (source.refusal != nullptr) {
-        fill_in(report, EINVAL, source.line, source.refusal);
+        fill_in(report, EINVAL, source.place, source.refusal);
         return nullptr;
     }
     if (document == nullptr) {
         const xmlError *error = xmlCtxtGetLastError(parser.get());
         const bool known = error != nullptr && error->message != nullptr;
-        fill_in(report, known && error->code == XML_ERR_NO_MEMORY ? ENOMEM : EINVAL, known ? error->line : 0,
+        fill_in(report, known && error->code == XML_ERR_NO_MEMORY ? ENOMEM : EINVAL, known ? source.place : Place{},
                 known ? error->message : "the document is not well-formed");
         return nullptr;
     }
     // The parser takes a NUL for the end of the document and would silently ignore the rest.
     if (const long read = xmlByteConsumed(parser.get()); read >= 0 && static_cast<size_t>(read) < length) {
-        fill_in(report, EINVAL, parser->input->line, "there is more data after the end of the document");
+        fill_in(report, EINVAL, place_of(parser.get()), "there is more data after the end of the document");
         return nullptr;
     }
     return finish(std::move(document), length, report);
@@ -308,7 +328,7 @@ void *mirk_platform_document_load_file(const char *path, mirk_platform_report *r
         return std::ferror(file.get()) != 0 ? static_cast<mirk_platform_error>(errno) : 0;
     });
     if (error != 0) {
-        fill_in(report, error, 0, std::strerror(static_cast<int>(error)));
+        fill_in(report, error, {}, std::strerror(static_cast<int>(error)));
         return nullptr;
     }
     return mirk_platform_document_load_memory(text.data(), text.size(), report);

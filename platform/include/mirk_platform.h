@@ -47,7 +47,7 @@ typedef uint32_t mirk_platform_error;
 /** Describes an error for users and programs. All members are 0 after success. */
 typedef struct mirk_platform_report {
     uint32_t number;    /**< error number of errno.h; 0: no error */
-    uint32_t offset;    /**< dispatch: offset of the frame in the buffer, in bytes */
+    uint32_t offset;    /**< in bytes: of the frame in the buffer, or of the error in the document; 0 if unknown */
     uint32_t line;      /**< documents: line, counted from 1; 0 if unknown */
     char sentence[256]; /**< description without a line end; cut if it is longer */
 } mirk_platform_report;
@@ -236,7 +236,7 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_sttr_offset(mirk_handle *h, 
 /** Parses an XML document of `length` bytes. The result is the `document` argument of every _from_xml operation; the
  * caller owns it and releases it with mirk_platform_document_free(). The text may be released at once.
  *
- * Returns null on failure. The report, which may be null, then has the number (EINVAL or ENOMEM), the line and a
+ * Returns null on failure. The report, which may be null, then has the number (EINVAL or ENOMEM), the place and a
  * sentence. Documents with a document type declaration are rejected, and those with elements more than 256 deep or with
  * more than 256 attributes or visible namespaces, or with more than 10,000 different names. The parser never opens a
  * file or a connection. */

@@ -147,6 +147,7 @@ TEST(Document, ReportsTheLineThatIsNotWellFormed) {
     const Document d("<r>\n<a>\n</b></r>", &report);
     EXPECT_EQ(static_cast<void *>(d), nullptr);
     EXPECT_EQ(report.line, 3u);
+    EXPECT_EQ(report.offset, std::strlen("<r>\n<a>\n</b>"));
     EXPECT_STRNE(report.sentence, "");
     EXPECT_EQ(std::strchr(report.sentence, '\n'), nullptr);
     EXPECT_EQ(static_cast<void *>(Document("", nullptr)), nullptr);
@@ -162,6 +163,7 @@ TEST(Document, RefusesDataAfterANul) {
         EXPECT_EQ(report.number, uint32_t{EINVAL});
         EXPECT_STREQ(report.sentence, "there is more data after the end of the document");
         EXPECT_EQ(report.line, 1 + std::count(text.data(), text.data() + text.find('\0'), '\n'));
+        EXPECT_EQ(report.offset, text.find('\0'));
     }
 }
 
@@ -264,6 +266,7 @@ TEST(Document, LimitsListsThatAreTooLongForItsLength) {
         if (static_cast<void *>(d) != nullptr) return true;
         EXPECT_EQ(report.number, uint32_t{EINVAL});
         EXPECT_EQ(report.line, 2u);
+        EXPECT_EQ(report.offset, 0u);
         EXPECT_STREQ(report.sentence, "the elements inside this one are too many for the length of the document");
         return false;
     };

@@ -32,11 +32,11 @@ TEST(HostileFile, JsonIsNestedUpToALimit) {
     const std::string deepest = repeated("[", 256) + repeated("]", 256);
     const Outcome inside = tarn({"encode"}, deepest);
     EXPECT_EQ(inside.err, "tarn: standard input: no message\n");
-    expect_refused("\n[" + deepest + "]", "standard input:2: nested more than 256 deep");
+    expect_refused("\n[" + deepest + "]", "standard input:2:257: nested more than 256 deep");
     expect_refused(repeated("[", 1000000), "nested more than 256 deep");
     expect_refused(repeated("{\"messages\":", 100000), "nested more than 256 deep");
     expect_refused(debug_start + "\n\"info_enabled\": " + repeated("[", 100000) + repeated("]", 100000) + "}}",
-                   "standard input:2: nested more than 256 deep");
+                   "standard input:2:271: nested more than 256 deep");
 }
 
 TEST(HostileFile, XmlIsNestedUpToALimit) {
@@ -58,16 +58,16 @@ TEST(HostileFile, XmlDeclarationsAreShort) {
     };
     const Outcome outcome = tarn({"encode"}, document(200));
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
-    expect_refused(document(201), "standard input:1: the XML declaration has more than 200 bytes");
-    expect_refused(document(1000000), "standard input:1: the XML declaration has more than 200 bytes");
+    expect_refused(document(201), "standard input:1:1: the XML declaration has more than 200 bytes");
+    expect_refused(document(1000000), "standard input:1:1: the XML declaration has more than 200 bytes");
 }
 
 // Other readers would take the other value.
 TEST(HostileFile, KeysOfJsonAreUnique) {
     expect_refused(debug_start + "\n\"info_enabled\": 1,\n\"warn_enabled\": 1,\n\n\"info_enabled\": 2}}",
-                   "standard input:5: the key \"info_enabled\" is also in line 2\n");
+                   "standard input:5:1: the key \"info_enabled\" is also in line 2\n");
     expect_refused("{\"message\": \"lumo_tarn_debug_setting_msg\",\n\"message\": \"lumo_tarn_dp_intf_msg\"}",
-                   "standard input:2: the key \"message\" is also in line 1\n");
+                   "standard input:2:1: the key \"message\" is also in line 1\n");
     const Outcome outcome =
         tarn({"encode"}, debug_start + "\"info_enabled\": 1}}\n" + debug_start + "\"info_enabled\": 2}}");
     EXPECT_EQ(outcome.exit, 0) << outcome.err;

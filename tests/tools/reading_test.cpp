@@ -40,7 +40,7 @@ TEST(Reading, ElementsOfAListArePrintedBeforeItsEndIsRead) {
     const Outcome outcome = tarn({"decode", "--json"}, "[" + message + ", " + message + ",\n");
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_EQ(outcome.out, one + one);
-    EXPECT_NE(outcome.err.find("standard input:2: syntax error"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find("standard input:2:1: syntax error"), std::string::npos) << outcome.err;
 }
 
 TEST(Reading, JsonIsTakenInListsAndOneAfterTheOther) {
@@ -57,11 +57,19 @@ TEST(Reading, JsonIsTakenInListsAndOneAfterTheOther) {
     expect("[" + message + " , " + message + "]\n" + message, 3);
     expect("[[], [" + message + "], " + message + "]", 2);
     expect(R"({"bundle": "any", "messages": [)" + message + ", [" + message + "]]}", 2);
-    for (const std::string &bad : {"[" + message + message + "]", "[" + message + ",]", "[," + message + "]",
-                                   "[" + message, message + "," + message, std::string("[]]")}) {
+    const std::size_t size = message.size();
+    const std::vector<std::pair<std::string, std::size_t>> faults{{"[" + message + message + "]", size + 2},
+                                                                  {"[" + message + ",]", size + 3},
+                                                                  {"[," + message + "]", 2},
+                                                                  {"[" + message, size + 2},
+                                                                  {message + "," + message, size + 1},
+                                                                  {"[]]", 3}};
+    for (const auto &[bad, column] : faults) {
         const Outcome outcome = tarn({"encode", "-o", "-"}, bad);
         EXPECT_EQ(outcome.exit, 2) << bad;
-        EXPECT_NE(outcome.err.find("standard input:1: syntax error: "), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find("standard input:1:" + std::to_string(column) + ": syntax error: "),
+                  std::string::npos)
+            << outcome.err;
     }
 }
 
@@ -72,10 +80,10 @@ TEST(Reading, AllProblemsOfAMessageInJsonAreListed) {
 "error_enabled": -1}})");
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_EQ(outcome.err,
-              "tarn: standard input:2: payload/info_enabled: \"x\" is not a number from 0 to 4294967295\n"
-              "standard input:3: payload: lumo_tarn_debug_setting has no member \"warn_enabeld\"; did you mean "
+              "tarn: standard input:2:17: payload/info_enabled: \"x\" is not a number from 0 to 4294967295\n"
+              "standard input:3:1: payload: lumo_tarn_debug_setting has no member \"warn_enabeld\"; did you mean "
               "warn_enabled?\n"
-              "standard input:4: payload/error_enabled: -1 is not a number from 0 to 4294967295\n");
+              "standard input:4:18: payload/error_enabled: -1 is not a number from 0 to 4294967295\n");
 }
 
 TEST(Reading, EncodeContinuesAfterAMessageWithProblems) {

@@ -210,7 +210,7 @@ TEST_F(Recording, AMalformedFragmentDoesNotAffectTheOthers) {
     const Outcome outcome = tarn({"decode", "--keep-going"}, xml() + bad + xml());
     EXPECT_EQ(outcome.exit, 2);
     EXPECT_EQ(outcome.out, message_text() + message_text());
-    expect_words(outcome, "standard input:1: ");
+    expect_words(outcome, "standard input:1:" + std::to_string(xml().size() + bad.find("out") + 1) + ": ");
 }
 
 }  // namespace

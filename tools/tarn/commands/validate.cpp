@@ -59,8 +59,7 @@ std::string line_of(const Result &result, const Problem &problem) {
     if (problem.offset) {
         line += " offset " + std::to_string(*problem.offset) + ":";
     } else {
-        line += std::to_string(problem.at.line) + ":";
-        if (problem.at.column != 0) line += std::to_string(problem.at.column) + ":";
+        line += problem.at.text() + ":";
     }
     return line + " " + (path_of(problem).empty() ? "" : path_of(problem) + ": ") + problem.reason;
 }

@@ -441,7 +441,7 @@ std::optional<Item> JsonReader::next() {
         if (json.is_array() || reader.is_list_of_messages(json, list)) {
             add_elements(list);
         } else {
-            item = reader.read(handles_, json, origin_ + ":" + std::to_string(json.position().line));
+            item = reader.read(handles_, json, origin_ + ":" + json.position().text());
         }
         reader.problems().require_none(origin_);
         if (item) return item;

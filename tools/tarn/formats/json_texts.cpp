@@ -132,8 +132,9 @@ private:
         const auto again = std::adjacent_find(
             keys_.begin(), keys_.end(), [&](const JsonValue &a, const JsonValue &b) { return text(a) == text(b); });
         if (again == keys_.end()) return;
-        texts_.fail((again + 1)->node().at, "the key " + in_quotes(again->text()) + " is also in line " +
-                                                std::to_string(again->position().line));
+        const std::string reason =
+            "the key " + in_quotes(again->text()) + " is also in line " + std::to_string(again->position().line);
+        throw Invalid(texts_.stream_.name(), {{(again + 1)->position(), {}, reason, {}}});
     }
 
     JsonTexts &texts_;

@@ -9,8 +9,7 @@ namespace {
 std::vector<std::string> lines_of(const std::string &origin, const std::vector<Problem> &problems) {
     std::vector<std::string> lines;
     for (const Problem &p : problems) {
-        lines.push_back(origin + ":" + std::to_string(p.at.line) + ": " + (p.path.empty() ? "" : p.path + ": ") +
-                        p.reason);
+        lines.push_back(origin + ":" + p.at.text() + ": " + (p.path.empty() ? "" : p.path + ": ") + p.reason);
     }
     return lines;
 }

@@ -58,7 +58,7 @@ private:
     std::size_t more_ = 0;
 };
 
-// "FILE:LINE: PATH: REASON"
+// "FILE:LINE:COLUMN: PATH: REASON"
 class Invalid : public Failure {
 public:
     Invalid(const std::string &origin, std::vector<Problem> problems, std::size_t more = 0);

@@ -23,14 +23,22 @@ constexpr std::size_t longest_declaration = 200;
     throw Invalid(origin, {{fragment.begin, {}, reason, {}}});
 }
 
+// Where the parser stopped in a fragment that it got behind its declaration.
+Position position_of(const mirk_platform_report &report, const Fragment &fragment) {
+    if (report.line == 0) return fragment.begin;
+    if (report.offset == 0) return {fragment.begin.line + report.line - 1, 0};
+    const std::size_t declared = std::min<std::size_t>(fragment.declaration.size(), report.offset);
+    return fragment.begin.after(fragment.text.substr(0, report.offset - declared));
+}
+
 Document parse(const Fragment &fragment, const std::string &origin) {
     const std::string text = std::string(fragment.declaration).append(fragment.text);
     mirk_platform_report report;
     Document document(mirk_platform_document_load_memory(text.data(), text.size(), &report));
     if (document != nullptr) return document;
-    const std::size_t line = fragment.begin.line + std::max(report.line, 1U) - 1;
-    if (exit_of(report.number) == Exit::input) throw Invalid(origin, {{{line, 0}, {}, report.sentence, {}}});
-    throw Failure(exit_of(report.number), origin + ":" + std::to_string(line) + ": " + report.sentence);
+    const Position position = position_of(report, fragment);
+    if (exit_of(report.number) == Exit::input) throw Invalid(origin, {{position, {}, report.sentence, {}}});
+    throw Failure(exit_of(report.number), origin + ":" + position.text() + ": " + report.sentence);
 }
 
 const reflect::MessageOperations &message_for(const Fragment &fragment, const std::string &origin) {
@@ -72,7 +80,7 @@ Message message_from_xml(const Handles &handles, const Fragment &fragment, const
         const std::string reason = std::string(operations.name) + " cannot be read: " + error_text(err) +
                                    (words[0] != 0 ? std::string("; ") + words : "");
         if (exit_of(err) == Exit::input) fail(fragment, origin, reason);
-        throw Failure(exit_of(err), origin + ":" + std::to_string(fragment.begin.line) + ": " + reason);
+        throw Failure(exit_of(err), origin + ":" + fragment.begin.text() + ": " + reason);
     }
     Message message(handle, operations, object);
     if (states && handle.tracked()) apply_states(message, document.get());
@@ -170,7 +178,7 @@ std::optional<Item> XmlReader::next() {
 }
 
 Item item_of(const Handles &handles, const Fragment &fragment, const std::string &origin, bool lenient) {
-    const std::string at = origin + ":" + std::to_string(fragment.begin.line);
+    const std::string at = origin + ":" + fragment.begin.text();
     if (const auto control = control_in(fragment, origin)) return {*control, std::nullopt, at};
     Message message = message_from_xml(handles, fragment, origin, lenient);
     Item item{{&message.operations()}, std::nullopt, at};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace tarn::tool {
@@ -9,6 +10,9 @@ namespace tarn::tool {
 // Lines count from 1. Columns are bytes from the beginning of the line, and count from 1.
 struct Position {
     std::size_t line = 1, column = 1;
+
+    // "3:14", or "3" if the column is 0, which means that it is not known.
+    std::string text() const { return std::to_string(line) + (column == 0 ? "" : ":" + std::to_string(column)); }
 
     // After this text, which begins here.
     Position after(std::string_view text) const {
