@@ -18,22 +18,36 @@ enumerations are immutable and can be shared.
 
 from ._address import Address
 from ._base import Array, Message, Record
-from ._captures import Control, Skipped, bundle_frames, frames, messages, recording
+from ._captures import Capture, Control, Skipped, bundle_frames, frames, messages, recording
+from ._client import AbortedError, Client, InvalidAnswerError, LimitError, RefusedError, ask, ask_async
 from ._diff import Change, diff
 from ._native import Handle, handle
 from ._rows import rows
+from ._server import Request, Server
 from .records import *  # noqa: F403 - the classes of the schema
 from .records import __all__ as _classes
 
+serve = Server
+
 __all__ = [
+    "AbortedError",
     "Address",
     "Array",
+    "Capture",
     "Change",
+    "Client",
     "Control",
     "Handle",
+    "InvalidAnswerError",
+    "LimitError",
     "Message",
     "Record",
+    "RefusedError",
+    "Request",
+    "Server",
     "Skipped",
+    "ask",
+    "ask_async",
     "bundle_frames",
     "diff",
     "frames",
@@ -41,5 +55,6 @@ __all__ = [
     "messages",
     "recording",
     "rows",
+    "serve",
 ]
 __all__ += _classes

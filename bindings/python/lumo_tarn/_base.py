@@ -38,7 +38,9 @@ class Native:
 
     @property
     def native(self) -> Any:
-        """The C object, an argument for the functions of lumo_tarn._native.lib."""
+        """The C object, an argument for the functions of lumo_tarn._native.lib. Raises ValueError if the handle is
+        closed."""
+        self._handle.require_open()
         return self._locate()
 
     @property

@@ -7,7 +7,7 @@ import errno
 import io
 import os
 import re
-from typing import BinaryIO, Callable, Iterable, Iterator, NamedTuple, Union, cast
+from typing import BinaryIO, Callable, Generator, Iterable, Iterator, NamedTuple, Union, cast
 
 from . import _schema
 from ._base import Message
@@ -36,7 +36,7 @@ class Control:
         return bytes(ffi.buffer(buffer, written))
 
 
-_CONTROLS = {
+CONTROLS = {
     bytes(ffi.buffer(getattr(lib, f"message_{bundle}_bundle_{kind}_luid"), 16)): Control(bundle, kind)
     for bundle in _schema.BUNDLES
     for kind in ("start", "abort", "commit")
@@ -104,7 +104,7 @@ class _Frames:
         frame = self._part(at, length) if self._size is None or length <= self._size - at else b""
         if len(frame) < length:
             raise ValueError(f"incomplete frame at offset {at}")
-        if luid not in _CONTROLS and luid not in MESSAGES:
+        if luid not in CONTROLS and luid not in MESSAGES:
             raise ValueError(f"unknown message at offset {at}: {luid.hex()}")
         return frame, luid
 
@@ -113,7 +113,7 @@ class _Frames:
             luid = self.head_at(at)[1]
         except ValueError:
             return False
-        return luid in _CONTROLS or luid in MESSAGES
+        return luid in CONTROLS or luid in MESSAGES
 
     def next_head(self, at: int) -> int:
         """The offset of the next header of a known message, or of the end."""
@@ -136,8 +136,8 @@ class _Frames:
 
 
 def _read(frame: bytes, luid: bytes) -> Message | Control:
-    if luid in _CONTROLS:
-        return _CONTROLS[luid]
+    if luid in CONTROLS:
+        return CONTROLS[luid]
     return MESSAGES[luid].from_frame(frame, on=handle(tracked=frame[_TRACKED] != 0))
 
 
@@ -147,7 +147,7 @@ Frames = Union[str, "os.PathLike[str]", bytes, bytearray, memoryview, BinaryIO]
 Source = Union[Frames, Message, Control, Iterable[Union[Message, Control]]]
 
 
-def frames(source: Frames, skipped: list[Skipped] | None = None) -> Iterator[Message | Control]:
+def frames(source: Frames, skipped: list[Skipped] | None = None) -> Generator[Message | Control, None, None]:
     """Yields the messages and control messages of consecutive frames in bytes, in a binary file or in the file with
     this path. Of a file, it holds one frame in memory. A message with state bytes is created on a tracked handle.
 
@@ -179,6 +179,46 @@ def frames(source: Frames, skipped: list[Skipped] | None = None) -> Iterator[Mes
 def messages(source: Frames, skipped: list[Skipped] | None = None) -> Iterator[Message]:
     """Yields the messages of consecutive frames, as frames() does, without the control messages."""
     return (item for item in frames(source, skipped) if isinstance(item, Message))
+
+
+class Capture:
+    """Frames that are read one after the other, of which one is in memory; for a with statement, which closes the file:
+
+        with lumo_tarn.Capture("answer.bin", keep_going=True) as capture:
+            for message in capture.messages():
+                print(message.payload)
+        print(capture.skipped)
+
+    source is what frames() takes. Iterating yields what frames() yields, and continues where it was left. keep_going
+    continues after broken bytes, and skipped lists them. Raises OSError if the file cannot be opened."""
+
+    def __init__(self, source: Frames, *, keep_going: bool = False) -> None:
+        self.skipped: list[Skipped] = []
+        opened = open(source, "rb") if isinstance(source, (str, os.PathLike)) else None
+        self._opened, self._is_closed = opened, False
+        self._items = frames(source if opened is None else opened, self.skipped if keep_going else None)
+
+    def __iter__(self) -> Iterator[Message | Control]:
+        if self._is_closed:
+            raise ValueError("the capture is closed")
+        return self._items
+
+    def messages(self) -> Iterator[Message]:
+        """Yields the messages without the control messages."""
+        return (item for item in self if isinstance(item, Message))
+
+    def close(self) -> None:
+        """Closes the file, unless the caller opened it. A closed capture can be closed again."""
+        self._is_closed = True
+        self._items.close()
+        if self._opened is not None:
+            self._opened.close()
+
+    def __enter__(self) -> Capture:
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        self.close()
 
 
 def items_of(source: Source) -> Iterator[Message | Control]:

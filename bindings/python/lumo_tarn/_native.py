@@ -64,7 +64,10 @@ class Handle:
     """A handle of the runtime. On a tracked handle records have state bytes.
 
     Use a handle, and the objects that were created on it, from one thread at a time. They can be garbage in any thread:
-    the next use of the handle destroys them. Handles cannot be copied or pickled, and are equal only to themselves."""
+    the next use of the handle destroys them. Handles cannot be copied or pickled, and are equal only to themselves.
+
+    A handle is closed when nothing refers to it, at the end of a with statement, or by close(). What was created on a
+    closed handle cannot be used any more: ValueError."""
 
     def __init__(self, tracked: bool = False) -> None:
         options = ffi.new("mirk_platform_handle_options *")
@@ -76,11 +79,12 @@ class Handle:
             raise MemoryError("cannot allocate a handle")
         self._native: Any = native
         self._collected: _Collected = collections.deque()
-        weakref.finalize(self, _close, native, self._collected)
+        self._finalizer = weakref.finalize(self, _close, native, self._collected)
 
     @property
     def native(self) -> Any:
         """The C handle. Destroys the objects that were collected since it was last read."""
+        self.require_open()
         if self._collected:
             _destroy(self._native, self._collected)
         return self._native
@@ -90,6 +94,26 @@ class Handle:
         any thread, which may not use the handle. Holders refer to their handle, so it is collected first only in a
         cycle; closing it then frees the native object."""
         weakref.finalize(holder, self._collected.append, (native, destroy))
+
+    @property
+    def is_closed(self) -> bool:
+        return self._native is None
+
+    def require_open(self) -> None:
+        """Raises ValueError if the handle is closed."""
+        if self.is_closed:
+            raise ValueError("the handle is closed")
+
+    def close(self) -> None:
+        """Frees all objects that were created on the handle. A closed handle can be closed again."""
+        self._native = None
+        self._finalizer()
+
+    def __enter__(self) -> Handle:
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        self.close()
 
     def __reduce__(self) -> NoReturn:
         raise TypeError("a handle cannot be copied or pickled")
@@ -141,9 +165,10 @@ _own = threading.local()
 def handle(tracked: bool = False) -> Handle:
     """The default handle of this thread: objects are created on it unless the argument on is given."""
     name = "tracked" if tracked else "plain"
-    if not hasattr(_own, name):
-        setattr(_own, name, Handle(tracked))
-    found: Handle = getattr(_own, name)
+    found: Handle | None = getattr(_own, name, None)
+    if found is None or found.is_closed:
+        found = Handle(tracked)
+        setattr(_own, name, found)
     return found
 
 
