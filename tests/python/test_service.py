@@ -467,9 +467,20 @@ def test_nothing_of_a_closed_handle_can_be_used(tracked):
             use()
     del table, element, message
     gc.collect()
-    with lumo_tarn.handle(tracked) as own:
-        pass
-    assert lumo_tarn.handle(tracked) is not own and lumo_tarn.DpTc(on=lumo_tarn.handle(tracked)).id == 0
+
+
+def test_a_thread_gets_a_new_handle_if_its_own_is_closed():
+    def run() -> None:
+        with lumo_tarn.handle() as own:
+            assert lumo_tarn.DpTc().handle is own
+        assert lumo_tarn.DpTc().handle is not own
+        passed.append(True)
+
+    passed: list[bool] = []
+    thread = threading.Thread(target=run)
+    thread.start()
+    thread.join()
+    assert passed
 
 
 def test_a_capture_closes_its_file(tmp_path):
