@@ -103,20 +103,22 @@ void Connection::check(mirk_platform_error error, const char *what) const {
     throw Failure(bad_input ? Exit::input : Exit::environment, name_ + ": " + what + ": " + error_text(error));
 }
 
+bool AnswerFrames::add(FrameBytes bytes, const Feed &feed) {
+    require_no_refusal(bytes, origin_);
+    Frame frame = frame_at(bytes, 0, origin_);
+    frame.offset = offset_;
+    offset_ += bytes.size();
+    require_expected(frame, bundle_, receiver_, origin_);
+    feed(frame);
+    if (!frame.identity.is_control() || frame.identity.control == Control::start) return false;
+    if (frame.identity.control == Control::commit) return true;
+    throw Failure(Exit::negative, origin_ + ": the answering process aborted " + std::string(bundle_.bundle->name));
+}
+
 void receive_answer(Connection &connection, const Receiver &receiver, const reflect::BundleOperations &bundle,
-                    const std::function<void(const Frame &)> &feed) {
-    const std::string &origin = connection.name();
-    for (std::size_t offset = 0;;) {
-        const FrameBytes bytes = connection.receive();
-        require_no_refusal(bytes, origin);
-        Frame frame = frame_at(bytes, 0, origin);
-        frame.offset = offset;
-        offset += bytes.size();
-        require_expected(frame, bundle, receiver, origin);
-        feed(frame);
-        if (!frame.identity.is_control() || frame.identity.control == Control::start) continue;
-        if (frame.identity.control == Control::commit) return;
-        throw Failure(Exit::negative, origin + ": the answering process aborted " + std::string(bundle.bundle->name));
+                    const AnswerFrames::Feed &feed) {
+    AnswerFrames answer(receiver, bundle, connection.name());
+    while (!answer.add(connection.receive(), feed)) {
     }
 }
 

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "mirk_platform.h"
 #include "tools/tarn/service/receiver.h"
@@ -63,9 +64,28 @@ private:
     mirk_platform_client *client_ = nullptr;
 };
 
-// Passes each frame of the answer to `feed`, which has to feed it to the receiver, until the bundle ends. Throws a
-// Failure for a refusal, an abort, a frame that does not belong to this answer, and at the deadline.
+// The frames of an answer, which must be a bundle that was requested, one after the other.
+class AnswerFrames {
+public:
+    using Feed = std::function<void(const Frame &)>;
+
+    AnswerFrames(const Receiver &receiver, const reflect::BundleOperations &bundle, std::string origin)
+        : receiver_(receiver), bundle_(bundle), origin_(std::move(origin)) {}
+
+    // Passes the next frame to `feed`, which has to feed it to the receiver. True if it is the last one. Throws a
+    // Failure for a refusal, an abort, and a frame that does not belong to this answer.
+    bool add(FrameBytes bytes, const Feed &feed);
+
+private:
+    const Receiver &receiver_;
+    const reflect::BundleOperations &bundle_;
+    std::string origin_;
+    std::size_t offset_ = 0;
+};
+
+// Passes each frame of the answer to `feed`, until the bundle ends. Throws a Failure as AnswerFrames::add(), and at the
+// deadline.
 void receive_answer(Connection &connection, const Receiver &receiver, const reflect::BundleOperations &bundle,
-                    const std::function<void(const Frame &)> &feed);
+                    const AnswerFrames::Feed &feed);
 
 }  // namespace tarn::tool
