@@ -6,10 +6,6 @@ namespace {
 
 void add_commands(CLI::App &, tool::Context &) {}
 
-void extend_answer(CLI::App &, CLI::Option_group &, tool::AnswerOptions &) {}
-
-void extend_show(CLI::App &, CLI::Option_group &, tool::ShowOptions &) {}
-
 }  // namespace
 
 const tool::Extension fleet_extension = {add_commands, extend_answer, extend_show};

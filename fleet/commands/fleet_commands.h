@@ -12,6 +12,9 @@
 
 namespace tarn::fleet {
 
+void extend_answer(CLI::App &command, CLI::Option_group &endpoint, tool::AnswerOptions &options);
+void extend_show(CLI::App &command, CLI::Option_group &endpoint, tool::ShowOptions &options);
+
 // The one place where commands and options are added.
 extern const tool::Extension fleet_extension;
 

@@ -1,0 +1,222 @@
+// tarn show --bus: asks many devices at once and prints their answers as they arrive.
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <vector>
+
+#include "fleet/bus/asker.h"
+#include "fleet/commands/bus_options.h"
+#include "fleet/commands/fleet_commands.h"
+#include "tools/tarn/commands/show.h"
+#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/writer.h"
+#include "tools/tarn/support/files.h"
+#include "tools/tarn/support/names.h"
+#include "tools/tarn/support/printable.h"
+#include "tools/tarn/support/terminal.h"
+#include "tools/tarn/support/trace.h"
+
+namespace tarn::fleet {
+
+using tool::Exit;
+using tool::Failure;
+
+namespace {
+
+struct ShowFleetOptions {
+    BusOptions bus;
+    std::vector<std::string> devices;
+    std::string site;
+    bool all = false;
+};
+
+class ShowFleet {
+public:
+    ShowFleet(const tool::ShowOptions &options, const ShowFleetOptions &fleet)
+        : options_(options),
+          fleet_(fleet),
+          bundle_(tool::bundle_named(options.bundle)),
+          asker_(
+              {fleet.bus, options.limits, options.tracked},
+              {.on_device = [this](const Device &device) { found(device); },
+               .on_answer = [this](Answer &&answer) { ended(answer); },
+               .on_problem = [](const std::string &device, const std::string &text) { print_problem(device, text); }}) {
+        if (!options.save.empty()) saved_.emplace(options.save);
+        if (options.save != "-") out_.emplace("-");
+    }
+
+    Exit run() {
+        bool needs_discovery = fleet_.devices.empty();
+        for (const std::string &name : fleet_.devices) {
+            const std::size_t slash = name.find('/');
+            if (slash == std::string::npos) {
+                needs_discovery = true;
+                wanted_.insert(name);
+            } else {
+                ask({name.substr(0, slash), name.substr(slash + 1)});
+            }
+        }
+        if (needs_discovery) asker_.discover();
+        tool::Progress progress("devices");
+        while (asker_.open() != 0 || (needs_discovery && !is_discovery_complete())) {
+            asker_.wait(std::min(deadline_, Asker::Clock::now() + std::chrono::milliseconds(10)));
+            progress.at(ended_, asked_.size());
+            if (Asker::Clock::now() >= deadline_ && asker_.open() == 0) break;
+        }
+        return finish();
+    }
+
+private:
+    static void print_problem(const std::string &device, const std::string &text) {
+        std::fprintf(stderr, "tarn: %s%s\n", device.empty() ? "" : (device + ": ").c_str(), text.c_str());
+    }
+
+    // Devices reply at once. No more are expected when none has replied for twice the time that the last one needed,
+    // and for a tenth of a second.
+    bool is_discovery_complete() const {
+        const auto now = Asker::Clock::now();
+        if (now >= deadline_) return true;
+        if (!fleet_.devices.empty() && wanted_.empty()) return true;
+        const auto quiet = std::max<Asker::Clock::duration>(std::chrono::milliseconds(100), 2 * (last_found_ - begin_));
+        return now - last_found_ > quiet;
+    }
+
+    void ask(const DeviceName &device) {
+        if (!asked_.insert(device).second) return;
+        asker_.ask(device, bundle_, deadline_);
+    }
+
+    void found(const Device &device) {
+        last_found_ = Asker::Clock::now();
+        const bool is_wanted =
+            fleet_.all || device.name.site == fleet_.site ||
+            std::find(fleet_.devices.begin(), fleet_.devices.end(), device.name.device) != fleet_.devices.end();
+        if (!is_wanted) return;
+        wanted_.erase(device.name.device);
+        const std::string &first = ids_.emplace(device.name, device.id).first->second;
+        if (first != device.id) {
+            print_problem(device.name.text(), "several processes answer for this device");
+            is_complete_ = false;
+        }
+        ask(device.name);
+    }
+
+    void ended(const Answer &answer) {
+        ++ended_;
+        const std::string name = answer.device.text();
+        if (answer.reply != Reply::answered) {
+            is_complete_ = false;
+            print_problem(name, std::string(word(answer.reply)) + ": " + answer.reason);
+        } else {
+            if (saved_) saved_->append(tool::chars_of(answer.frames));
+        }
+        if (!out_) return;
+        if (options_.json) return out_->append(json_of(answer) + "\n");
+        if (answer.reply != Reply::answered) return;
+        text_.clear();
+        if (options_.hex) {
+            text_ = heading(name) + tool::hex_dump(tool::chars_of(answer.frames));
+        } else {
+            text_ = options_.xml ? "<!-- " + name + " -->\n" : heading(name);
+            for (const tool::Item &item : answer.messages) {
+                text_ += tool::rendered(item, options_.xml ? tool::Style::xml : tool::Style::text);
+            }
+        }
+        out_->append(text_);
+    }
+
+    static std::string heading(const std::string &name) { return "== " + name + "\n"; }
+
+    // The messages are written as they are, without a tree of their values.
+    static std::string json_of(const Answer &answer) {
+        nlohmann::ordered_json json{{"device", answer.device.device},
+                                    {"site", answer.device.site},
+                                    {"reply", word(answer.reply)},
+                                    {"bundle", answer.bundle->bundle->name}};
+        if (answer.reply != Reply::answered) {
+            json["reason"] = answer.reason;
+            return tool::json_text(json);
+        }
+        std::string text = tool::json_text(json);
+        text.back() = ',';
+        text += "\"messages\":[";
+        for (const tool::Item &item : answer.messages) {
+            if (text.back() != '[') text += ',';
+            text += tool::json_line(item);
+            if (text.back() == '\n') text.pop_back();
+        }
+        return text + "]}";
+    }
+
+    Exit finish() {
+        if (saved_) saved_->finish();
+        if (out_) out_->finish();
+        for (const std::string &name : wanted_) {
+            is_complete_ = false;
+            print_problem(tool::printable(name), "silent: no such device replies to the discovery");
+        }
+        if (asked_.empty() && wanted_.empty()) {
+            is_complete_ = false;
+            std::fprintf(stderr, "tarn: %s: no device replies to the discovery\n", fleet_.bus.shown().c_str());
+        }
+        return is_complete_ ? Exit::success : Exit::negative;
+    }
+
+    const tool::ShowOptions &options_;
+    const ShowFleetOptions &fleet_;
+    const reflect::BundleOperations &bundle_;
+    Asker asker_;
+    std::optional<tool::OutputFile> saved_, out_;
+    Asker::Clock::time_point begin_ = Asker::Clock::now(), last_found_ = begin_;
+    Asker::Clock::time_point deadline_ =
+        begin_ + std::chrono::duration_cast<Asker::Clock::duration>(std::chrono::duration<double>(options_.timeout));
+    std::set<std::string> wanted_;  // names without a site that have not been found
+    std::set<DeviceName> asked_;
+    std::map<DeviceName, std::string> ids_;
+    std::size_t ended_ = 0;
+    bool is_complete_ = true;
+    std::string text_;
+};
+
+Exit show_fleet(const tool::ShowOptions &options, const ShowFleetOptions &fleet) {
+    if (fleet.devices.empty() && fleet.site.empty() && !fleet.all) {
+        throw Failure(Exit::input, "--bus requires one of --device, --site, --all");
+    }
+    tool::set_up_trace(options.verbose);
+    if (!options.force) tool::refuse_terminal(options.save);
+    return ShowFleet(options, fleet).run();
+}
+
+std::string device_problem(const std::string &text) {
+    const std::size_t slash = text.find('/');
+    if (slash == std::string::npos) return name_problem(text);
+    const std::string site = name_problem(text.substr(0, slash));
+    return site.empty() ? name_problem(text.substr(slash + 1)) : site;
+}
+
+}  // namespace
+
+void extend_show(CLI::App &command, CLI::Option_group &endpoint, tool::ShowOptions &options) {
+    auto fleet = std::make_shared<ShowFleetOptions>();
+    CLI::Option *bus = add_bus(command, endpoint, fleet->bus);
+    CLI::Option_group *which = command.add_option_group("devices", "Which devices to ask on the bus");
+    which->add_option("--device", fleet->devices, "This device, or SITE/DEVICE; repeatable")
+        ->type_name(words::device)
+        ->check(device_problem)
+        ->allow_extra_args(false)
+        ->needs(bus);
+    which->add_option("--site", fleet->site, "All devices of this site")
+        ->type_name(words::site)
+        ->check(name_problem)
+        ->needs(bus);
+    which->add_flag("--all", fleet->all, "All devices")->needs(bus);
+    which->require_option(0, 1);
+    bus->excludes(command.get_option("--via"));
+    bus->each([fleet, &options](const std::string &) {
+        options.ask = [fleet, &options] { return show_fleet(options, *fleet); };
+    });
+}
+
+}  // namespace tarn::fleet
