@@ -24,6 +24,7 @@ MAY_INCLUDE = {
     "tools/tarn/service": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/commands": ["tools/tarn/service", "tools/tarn/pages", "tools/tarn/formats", "tools/tarn/support"],
     "fleet/bus": ["tools/tarn/service", "tools/tarn/formats", "tools/tarn/support"],
+    "fleet/store": ["tools/tarn/formats", "tools/tarn/support"],
     "fleet/commands": ["tools/tarn", "fleet"],
 }
 # All layers of the tool and of the fleet may include these.

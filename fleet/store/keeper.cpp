@@ -1,0 +1,362 @@
+#include <openssl/evp.h>
+#include <soci/soci.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+#include "fleet/store/database.h"
+#include "fleet/store/layout.h"
+#include "fleet/store/store.h"
+#include "tools/tarn/support/printable.h"
+
+namespace tarn::fleet {
+
+namespace {
+
+using tool::Exit;
+using tool::Failure;
+
+std::string sha256(std::string_view bytes) {
+    unsigned char digest[EVP_MAX_MD_SIZE];
+    unsigned int size = 0;
+    if (EVP_Digest(bytes.data(), bytes.size(), digest, &size, EVP_sha256(), nullptr) != 1) throw std::bad_alloc();
+    std::string text;
+    for (unsigned i = 0; i < size; ++i) {
+        constexpr char digits[] = "0123456789abcdef";
+        text += digits[digest[i] >> 4];
+        text += digits[digest[i] & 0xF];
+    }
+    return text;
+}
+
+// "host:1234:5f3c", for people and unique.
+std::string collector_name() {
+    char host[256] = "";
+    ::gethostname(host, sizeof host - 1);
+    std::random_device random;
+    return tool::printable(host) + ":" + std::to_string(::getpid()) + ":" + std::to_string(random());
+}
+
+// The clock that all collectors of a store share.
+std::string clock_of(const Database &database) {
+    return std::string(database.either("CAST((julianday('now') - 2440587.5) * 86400000 AS INTEGER)",
+                                       "CAST(extract(epoch FROM clock_timestamp()) * 1000 AS BIGINT)"));
+}
+
+// The number of rows that were changed.
+template <class... Uses>
+long long change(Database &database, const std::string &sql, Uses... uses) {
+    soci::statement statement(database.session());
+    (statement.exchange(uses), ...);
+    statement.alloc();
+    statement.prepare(sql);
+    statement.define_and_bind();
+    statement.execute(true);
+    return statement.get_affected_rows();
+}
+
+long long count(Database &database, const std::string &sql) {
+    long long number = 0;
+    database.session() << sql, soci::into(number);
+    return number;
+}
+
+}  // namespace
+
+struct Keeper::Statements {
+    explicit Statements(Database &database)
+        : contents(database, "INSERT INTO contents (digest, size, frames) VALUES", "tib",
+                   "ON CONFLICT (digest) DO NOTHING"),
+          pairs(database, "INSERT INTO device_bundles (device_id, bundle) VALUES", "it",
+                "ON CONFLICT (device_id, bundle) DO NOTHING"),
+          answers(database,
+                  "INSERT INTO answers (device_id, bundle, number, digest, asked, first_seen, last_asked, last_seen, "
+                  "times) VALUES",
+                  "ititiiiii",
+                  "ON CONFLICT (device_id, bundle, number) DO UPDATE SET last_asked = excluded.last_asked, "
+                  "last_seen = excluded.last_seen, times = answers.times + 1"),
+          // What ends a gap is no request that was not answered.
+          gaps(database,
+               "INSERT INTO gaps (device_id, bundle, number, began, last_asked, ended, reason, requests) VALUES",
+               "itiiiiti",
+               "ON CONFLICT (device_id, bundle, number) DO UPDATE SET ended = excluded.ended, "
+               "last_asked = CASE WHEN excluded.requests = 0 THEN gaps.last_asked ELSE excluded.last_asked END, "
+               "reason = CASE WHEN excluded.requests = 0 THEN gaps.reason ELSE excluded.reason END, "
+               "requests = gaps.requests + excluded.requests") {}
+
+    void flush_spans() {
+        answers.flush();
+        gaps.flush();
+    }
+    void flush() {
+        // Two collectors with the same frames would wait for each other if their orders differed.
+        for (const auto &[digest, frames] : new_frames) {
+            contents.text(digest).integer(static_cast<std::int64_t>(frames.size())).bytes(frames);
+        }
+        contents.flush();
+        pairs.flush();
+        flush_spans();
+    }
+    void clear() {
+        new_frames.clear();
+        for (Insertion *insertion : {&contents, &pairs, &answers, &gaps}) insertion->clear();
+    }
+
+    std::map<std::string, std::string_view> new_frames;  // by digest
+    Insertion contents, pairs, answers, gaps;
+};
+
+Keeper::Keeper(const std::string &where, Time lease, Time patience)
+    : where_(where), name_(collector_name()), lease_(lease), patience_(patience) {
+    connect();
+}
+
+void Keeper::connect() {
+    lose();
+    statements_.reset();
+    database_ = std::make_unique<Database>(where_, Access::write);
+    create_layout(*database_);
+    statements_ = std::make_unique<Statements>(*database_);
+    if (database_->engine() == Engine::postgresql) {
+        // A collector that stalls in a transaction would keep its devices from the others.
+        database_->guarded(
+            [&] { database_->run("SET idle_in_transaction_session_timeout = " + std::to_string(lease_)); });
+    }
+}
+
+Keeper::~Keeper() {
+    if (!is_registered_) return;
+    try {
+        statements_.reset();
+        database_->transact([&] {
+            change(*database_, "DELETE FROM collectors WHERE collector = :me", soci::use(name_, "me"));
+            change(*database_, "UPDATE devices SET owner = NULL WHERE owner = :me", soci::use(name_, "me"));
+        });
+    } catch (const Failure &) {
+        // The lease ends by itself.
+    }
+}
+
+const std::string &Keeper::shown() const { return database_->shown(); }
+
+void Keeper::add_devices(std::span<const std::pair<std::string, std::string>> devices) {
+    std::map<std::string, std::string, std::less<>> added;
+    for (const auto &[device, site] : devices) {
+        const std::string name = tool::printable(device), where = tool::printable(site);
+        const auto known = known_sites_.find(name);
+        if (known == known_sites_.end() || known->second != where) added[name] = where;
+    }
+    if (added.empty()) return;
+    database_->transact([&] {
+        // Numbers are given out by one collector at a time.
+        if (database_->engine() == Engine::postgresql) {
+            database_->run("LOCK TABLE devices IN SHARE ROW EXCLUSIVE MODE");
+        }
+        long long last = count(*database_, "SELECT coalesce(max(device_id), 0) FROM devices");
+        const Time now = time_now();
+        Insertion rows(*database_, "INSERT INTO devices (device_id, device, site, added) VALUES", "itti",
+                       "ON CONFLICT (device) DO UPDATE SET site = excluded.site");
+        for (const auto &[device, site] : added) rows.integer(++last).text(device).text(site).integer(now);
+        rows.flush();
+    });
+    for (auto &[device, site] : added) known_sites_[device] = site;
+}
+
+bool Keeper::renew() {
+    const std::string clock = clock_of(*database_);
+    bool has_changed = !is_registered_;
+    database_->transact([&] {
+        std::string skip_locked;
+        if (database_->engine() == Engine::postgresql) {
+            // Of two collectors that renew their leases, one waits.
+            database_->run("SELECT pg_advisory_xact_lock(7561727)");
+            skip_locked = " FOR UPDATE SKIP LOCKED";
+        }
+        change(*database_,
+               "INSERT INTO collectors (collector, expires) VALUES (:me, " + clock +
+                   " + :lease) ON CONFLICT (collector) DO UPDATE SET expires = excluded.expires",
+               soci::use(name_, "me"), soci::use(lease_, "lease"));
+        // One that is in a transaction is alive.
+        const long long gone =
+            change(*database_,
+                   "DELETE FROM collectors WHERE collector IN (SELECT collector FROM collectors WHERE "
+                   "expires < " +
+                       clock + skip_locked + ")");
+        if (gone != 0) {
+            database_->run(
+                "UPDATE devices SET owner = NULL WHERE owner IS NOT NULL AND owner NOT IN (SELECT collector FROM "
+                "collectors)");
+        }
+        const long long devices = count(*database_, "SELECT count(*) FROM devices");
+        const long long collectors = count(*database_, "SELECT count(*) FROM collectors");
+        const long long share = (devices + collectors - 1) / collectors;
+        long long own = 0;
+        database_->session() << "SELECT count(*) FROM devices WHERE owner = :me", soci::use(name_, "me"),
+            soci::into(own);
+        if (own != static_cast<long long>(owned_.size())) has_changed = true;
+        const long long difference = own < share ? share - own : own - share;
+        if (difference == 0) return;
+        const std::string chosen = own < share ? "owner IS NULL" : "owner = :me";
+        const long long moved = change(*database_,
+                                       std::string("UPDATE devices SET owner = ") + (own < share ? ":me" : "NULL") +
+                                           " WHERE device_id IN (SELECT device_id FROM devices WHERE " + chosen +
+                                           " ORDER BY device_id LIMIT :number" + skip_locked + ")",
+                                       soci::use(name_, "me"), soci::use(difference, "number"));
+        if (moved != 0) has_changed = true;
+    });
+    is_registered_ = true;
+    if (has_changed) database_->guarded([&] { load_devices(); });
+    return has_changed;
+}
+
+void Keeper::load_devices() {
+    std::map<std::string, Owned, std::less<>> owned;
+    std::string device;
+    long long id = 0;
+    soci::statement statement =
+        (database_->session().prepare << "SELECT device_id, device FROM devices WHERE owner = :me",
+         soci::use(name_, "me"), soci::into(id), soci::into(device));
+    statement.execute();
+    while (statement.fetch()) {
+        const auto before = owned_.find(device);
+        // What was known of a device that was released meanwhile is gone with it.
+        owned[device] = before != owned_.end() ? std::move(before->second) : Owned{id, {}};
+    }
+    owned_ = std::move(owned);
+}
+
+std::vector<std::string> Keeper::devices() const {
+    std::vector<std::string> names;
+    for (const auto &[device, owned] : owned_) names.push_back(device);
+    return names;
+}
+
+Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
+    State state;
+    std::int64_t gap = 0, began = 0;
+    database_->session() << "SELECT number, digest, last_seen FROM answers WHERE device_id = :device AND "
+                            "bundle = :bundle ORDER BY number DESC LIMIT 1",
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.number), soci::into(state.digest),
+        soci::into(state.last_seen);
+    database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END FROM gaps WHERE "
+                            "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
+    // The answers before a gap may have been forgotten.
+    state.number = std::max(state.number, gap);
+    if (began != 0) {
+        state.digest.clear();
+        state.gap_began = began;
+    }
+    return state;
+}
+
+Keeper::State &Keeper::state_of(Owned &owned, std::string_view bundle) {
+    const auto found = owned.states.find(bundle);
+    if (found != owned.states.end()) return found->second;
+    const std::string name(bundle);
+    return owned.states[name] = load_state(owned.id, name);
+}
+
+void Keeper::lose() {
+    owned_.clear();
+    is_registered_ = false;
+}
+
+void Keeper::require_lease() {
+    const long long found = change(
+        *database_, "UPDATE collectors SET expires = " + clock_of(*database_) + " + :lease WHERE collector = :me",
+        soci::use(lease_, "lease"), soci::use(name_, "me"));
+    if (found != 0) return;
+    lose();
+    throw Unavailable(shown() + ": the lease of this collector ended before it was renewed");
+}
+
+void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &state) {
+    const std::string digest = sha256(outcome.frames);
+    const bool was_pause = patience_ != 0 && state.last_seen != 0 && outcome.asked - state.last_seen > patience_;
+    if (state.gap_began || was_pause) {
+        statements_->gaps.integer(device).text(outcome.bundle).integer(state.number);
+        statements_->gaps.integer(state.gap_began.value_or(state.last_seen)).integer(outcome.asked);
+        statements_->gaps.integer(outcome.ended).text("not requested").integer(0);
+        state.digest.clear();
+        state.gap_began.reset();
+    }
+    if (state.digest != digest) {
+        ++state.number;
+        state.digest = digest;
+        statements_->new_frames.emplace(digest, outcome.frames);
+    }
+    state.last_seen = outcome.ended;
+    statements_->answers.integer(device).text(outcome.bundle).integer(state.number).text(digest);
+    statements_->answers.integer(outcome.asked).integer(outcome.ended);
+    statements_->answers.integer(outcome.asked).integer(outcome.ended).integer(1);
+}
+
+void Keeper::add_silence(std::int64_t device, const Outcome &outcome, State &state) {
+    // The device may have been silent since its last answer.
+    if (!state.gap_began) state.gap_began = outcome.asked;
+    state.digest.clear();
+    statements_->gaps.integer(device).text(outcome.bundle).integer(state.number).integer(*state.gap_began);
+    statements_->gaps.integer(outcome.asked).null().text(tool::printable(outcome.reason)).integer(1);
+}
+
+void Keeper::add(std::int64_t device, const Outcome &outcome, State &state) {
+    if (state.number == 0 && !state.gap_began) statements_->pairs.integer(device).text(outcome.bundle);
+    outcome.frames.empty() ? add_silence(device, outcome, state) : add_answer(device, outcome, state);
+}
+
+std::size_t Keeper::put(std::span<const Outcome> outcomes) {
+    std::map<State *, State> changed;
+    std::set<const State *> waiting;  // two rows of one span cannot be in one statement
+    std::size_t stored = 0;
+    statements_->clear();
+    database_->transact([&] {
+        require_lease();
+        for (const Outcome &outcome : outcomes) {
+            const auto owned = owned_.find(outcome.device);
+            if (owned == owned_.end()) continue;
+            State &state = state_of(owned->second, outcome.bundle);
+            if (!waiting.insert(&state).second) {
+                statements_->flush_spans();
+                waiting = {&state};
+            }
+            add(owned->second.id, outcome, changed.try_emplace(&state, state).first->second);
+            ++stored;
+        }
+        statements_->flush();
+    });
+    for (auto &[state, after] : changed) *state = std::move(after);
+    return stored;
+}
+
+std::size_t Keeper::forget(Time before) {
+    constexpr std::int64_t step = 100;
+    const std::int64_t last =
+        database_->guarded([&] { return count(*database_, "SELECT coalesce(max(device_id), 0) FROM devices"); });
+    std::size_t forgotten = 0;
+    // In short transactions, since other collectors wait for them.
+    for (std::int64_t first = 1; first <= last; first += step) {
+        const std::int64_t end = first + step;
+        const auto erase = [&](const std::string &sql) {
+            return static_cast<std::size_t>(
+                change(*database_, sql, soci::use(first, "first"), soci::use(end, "end"), soci::use(before, "before")));
+        };
+        database_->transact([&] {
+            // Frames that are about to be deleted must not be found by a collector that receives them again.
+            if (database_->engine() == Engine::postgresql) {
+                database_->run("LOCK TABLE contents IN SHARE ROW EXCLUSIVE MODE");
+            }
+            const std::string old = "device_id >= :first AND device_id < :end AND last_seen < :before";
+            erase("DELETE FROM contents WHERE digest IN (SELECT digest FROM answers WHERE " + old +
+                  ") AND NOT EXISTS (SELECT 1 FROM answers WHERE answers.digest = contents.digest AND NOT (" + old +
+                  "))");
+            forgotten += erase("DELETE FROM answers WHERE " + old);
+            forgotten += erase("DELETE FROM gaps WHERE device_id >= :first AND device_id < :end AND ended < :before");
+        });
+    }
+    return forgotten;
+}
+
+}  // namespace tarn::fleet

@@ -1,0 +1,120 @@
+#include "fleet/store/layout.h"
+
+#include <string>
+#include <utility>
+
+#include "schema/digest.h"
+#include "tools/tarn/support/failure.h"
+#include "tools/tarn/support/printable.h"
+
+namespace tarn::fleet {
+
+namespace {
+
+using tool::Exit;
+using tool::Failure;
+
+// Times are milliseconds since 1970 in UTC. BYTES stands for the engine's type of bytes.
+constexpr std::string_view tables = R"(
+CREATE TABLE store_meta (name TEXT PRIMARY KEY, value TEXT NOT NULL);
+CREATE TABLE collectors (collector TEXT PRIMARY KEY, expires BIGINT NOT NULL);
+CREATE TABLE devices (
+  device_id BIGINT PRIMARY KEY,
+  device TEXT NOT NULL UNIQUE,
+  site TEXT NOT NULL,
+  added BIGINT NOT NULL,
+  owner TEXT
+);
+CREATE INDEX devices_by_owner ON devices (owner);
+CREATE TABLE device_bundles (device_id BIGINT NOT NULL, bundle TEXT NOT NULL, PRIMARY KEY (device_id, bundle));
+CREATE TABLE contents (digest TEXT PRIMARY KEY, size BIGINT NOT NULL, frames BYTES NOT NULL);
+CREATE TABLE answers (
+  device_id BIGINT NOT NULL,
+  bundle TEXT NOT NULL,
+  number BIGINT NOT NULL,
+  digest TEXT NOT NULL,
+  asked BIGINT NOT NULL,
+  first_seen BIGINT NOT NULL,
+  last_asked BIGINT NOT NULL,
+  last_seen BIGINT NOT NULL,
+  times BIGINT NOT NULL,
+  PRIMARY KEY (device_id, bundle, number)
+);
+CREATE INDEX answers_by_digest ON answers (digest);
+CREATE TABLE gaps (
+  device_id BIGINT NOT NULL,
+  bundle TEXT NOT NULL,
+  number BIGINT NOT NULL,
+  began BIGINT NOT NULL,
+  last_asked BIGINT NOT NULL,
+  ended BIGINT,
+  reason TEXT NOT NULL,
+  requests BIGINT NOT NULL,
+  PRIMARY KEY (device_id, bundle, number)
+);
+CREATE VIEW latest_answers AS
+  SELECT d.device, d.site, a.* FROM device_bundles p
+  JOIN devices d ON d.device_id = p.device_id
+  JOIN answers a ON a.device_id = p.device_id AND a.bundle = p.bundle AND a.number =
+    (SELECT max(number) FROM answers m WHERE m.device_id = p.device_id AND m.bundle = p.bundle);
+)";
+
+std::string with_types(const Database &database) {
+    std::string sql(tables);
+    const std::size_t at = sql.find("BYTES");
+    return sql.replace(at, 5, database.either("BLOB", "BYTEA"));
+}
+
+std::string version_in(Database &database) {
+    std::string version;
+    database.session() << "SELECT value FROM store_meta WHERE name = 'layout_version'", soci::into(version);
+    return version;
+}
+
+void require_version(Database &database) {
+    const std::string version = version_in(database);
+    if (version == std::to_string(store_version)) return;
+    throw Failure(Exit::input, database.shown() + ": a store of version " + tool::in_quotes(version) +
+                                   "; this program reads and writes version " + std::to_string(store_version));
+}
+
+bool is_empty(Database &database) {
+    int found = 0;
+    database.session() << database.either("SELECT count(*) FROM sqlite_master",
+                                          "SELECT count(*) FROM pg_tables WHERE schemaname = current_schema()"),
+        soci::into(found);
+    return found == 0;
+}
+
+}  // namespace
+
+void create_layout(Database &database) {
+    database.guarded([&] {
+        if (database.has_table("store_meta")) return require_version(database);
+    });
+    database.transact([&] {
+        // Of several processes, the first creates the tables. The number is any that no other program uses.
+        if (database.engine() == Engine::postgresql) database.run("SELECT pg_advisory_xact_lock(7561726)");
+        if (database.has_table("store_meta")) return require_version(database);
+        if (!is_empty(database)) {
+            throw Failure(Exit::input, database.shown() + ": not a store: a database with other tables");
+        }
+        database.run_all(with_types(database));
+        for (const auto &[name, value] :
+             {std::pair("layout_version", std::to_string(store_version)),
+              std::pair("program", std::string("tarn " TARN_VERSION)), std::pair("schema", schema::schema_digest())}) {
+            const std::string key = name;
+            database.session() << "INSERT INTO store_meta VALUES (:name, :value)", soci::use(key, "name"),
+                soci::use(value, "value");
+        }
+    });
+}
+
+void require_layout(Database &database) {
+    database.guarded([&] {
+        if (!database.has_table("store_meta")) throw Failure(Exit::input, database.shown() + ": not a store");
+        require_version(database);
+    });
+}
+
+}  // namespace tarn::fleet
