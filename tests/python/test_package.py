@@ -617,6 +617,7 @@ def test_a_frame_that_claims_more_than_it_contains_is_refused_by_name():
             lumo_tarn.DpTcList.from_frame(frame, on=handle)
         assert raised.value.errno == errno.EBADMSG
     del raised  # its traceback refers to the record
+    gc.collect()
     assert handle.live_blocks() == 0
     whole = bytearray(lumo_tarn.ClApplMsg(on=handle).to_frame())
     whole[54] = 1

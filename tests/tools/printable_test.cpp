@@ -1,6 +1,8 @@
 // Text from outside reaches a terminal only as text: in errors, logs and every form of output.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "process.h"
 #include "samples.h"
 

@@ -169,7 +169,8 @@ def frames(source: Frames, skipped: list[Skipped] | None = None) -> Generator[Me
             if skipped is None:
                 raise
             begin, at = at, found.next_head(at + 1)
-            skipped.append(Skipped(begin, at - begin, error.strerror if isinstance(error, OSError) else str(error)))
+            sentence = error.strerror if isinstance(error, OSError) else None
+            skipped.append(Skipped(begin, at - begin, sentence or str(error)))
         else:
             at += len(frame)
             found.drop(at)
