@@ -222,6 +222,78 @@ TEST(NetworkCapture, BundlesAreReceivedOfEachConnection) {
     EXPECT_EQ(occurrences(outcome.err, "1 bundles were handled"), 2U) << outcome.err;
 }
 
+std::string debug_answer(std::uint64_t info) {
+    reference::Record payload(message().payload);
+    payload["info_enabled"].number = info;
+    return answer(bundle(), payload, false);
+}
+
+// The clients come in another order, and one has another port.
+TEST(NetworkCapture, DiffComparesTheConnectionsOfTwoCaptures) {
+    Capture a, b, c;
+    a.add(client, server, request("lumo_tarn_cl_debug_rsp"));
+    a.add(server, client, debug_answer(1) + debug_answer(2), 50);
+    a.add(server, 40001, debug_answer(3));
+    b.add(server, 40001, debug_answer(3));
+    b.add(41000, server, request("lumo_tarn_cl_debug_rsp"));
+    b.add(server, 41000, debug_answer(1) + debug_answer(5), 60);
+    c.add(server, 40001, debug_answer(4));
+    const Directory directory;
+    const std::string first = directory.write("a.pcap", a.file()),
+                      second = directory.write("b.pcapng", next_generation(b.file())),
+                      third = directory.write("c.pcap", c.file());
+    const Outcome same = tarn({"diff", first, first});
+    EXPECT_EQ(same.exit, 0);
+    EXPECT_EQ(same.out, "");
+    const Outcome outcome = tarn({"diff", first, second});
+    EXPECT_EQ(outcome.exit, 1) << outcome.err;
+    EXPECT_EQ(outcome.out,
+              "# " + answer_of_client + ", 127.0.0.1:28276 to 127.0.0.1:41000\nmessage 2: info_enabled 2 -> 5\n");
+    const Outcome json = tarn({"diff", first, second, "--json"});
+    EXPECT_NE(json.out.find("\"message\":2,\"connections\":[\"" + answer_of_client +
+                            "\",\"127.0.0.1:28276 to 127.0.0.1:41000\"]"),
+              std::string::npos)
+        << json.out;
+    const Outcome missing = tarn({"diff", first, third});
+    EXPECT_EQ(missing.out, "# " + answer_of_client +
+                               "\nmessage 1 (lumo_tarn_debug_setting_msg) removed\n"
+                               "message 2 (lumo_tarn_debug_setting_msg) removed\n"
+                               "# 127.0.0.1:28276 to 127.0.0.1:40001\ninfo_enabled 3 -> 4\n");
+    EXPECT_EQ(tarn({"diff", first, second, "--summary"}).out, "message: 1 changed (info_enabled 1)\n");
+    EXPECT_EQ(tarn({"diff", first, second, "--port", "1"}).exit, 2);
+}
+
+// The first connection ends inside a bundle, to which the message in the second one does not belong.
+TEST(NetworkCapture, DiffComparesACaptureWithAFile) {
+    Capture capture;
+    capture.add(server, client, control(bundle(), "start") + one(1));
+    capture.add(server, 40001, one(2));
+    const Directory directory;
+    const std::string network = directory.write("a.pcap", capture.file()),
+                      frames = directory.write(
+                          "a.bin", control(bundle(), "start") + one(1) + control(bundle(), "commit") + one(2));
+    for (const auto &[a, b] : {std::pair{network, frames}, {frames, network}}) {
+        const Outcome outcome = tarn({"diff", a, b});
+        EXPECT_EQ(outcome.exit, 0) << outcome.err;
+        EXPECT_EQ(outcome.out, "");
+    }
+}
+
+TEST(NetworkCapture, DiffNamesWhatIsMissing) {
+    Capture capture;
+    capture.add_segment(server, client, 0, "", Capture::begins);
+    capture.add_segment(server, client, 1, messages(1));
+    capture.add_segment(server, client, 100, messages(1));
+    const Directory directory;
+    const std::string network = directory.write("a.pcap", capture.file());
+    const Outcome outcome = tarn({"diff", network, network});
+    EXPECT_EQ(outcome.exit, 2);
+    EXPECT_NE(outcome.err.find("a.pcap (" + answer_of_client + "): 34 bytes after byte 65 are missing\n"),
+              std::string::npos)
+        << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+}
+
 }  // namespace
 
 }  // namespace tool_test

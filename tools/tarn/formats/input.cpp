@@ -149,6 +149,19 @@ std::vector<InputFile> files_of(const std::vector<std::string> &paths) {
     return files;
 }
 
+std::vector<Opened> open_sources(const std::string &path, From from, std::uint16_t port, Failures &failures) {
+    std::vector<Opened> sources;
+    ByteStream stream = open_input(path);
+    if (from == From::hex || !is_capture(stream.look(enough_to_detect))) {
+        sources.push_back({{}, converted(std::move(stream), from)});
+        return sources;
+    }
+    Capture capture = read_capture(stream, port);
+    for (const Failure &missing : capture.missing) failures.add(missing);
+    for (Sent &sent : capture.sent) sources.push_back({std::move(sent.connection), std::move(sent.bytes)});
+    return sources;
+}
+
 namespace {
 
 std::uint64_t size_of_file(const std::string &path) {
@@ -157,27 +170,13 @@ std::uint64_t size_of_file(const std::string &path) {
     return error ? 0 : size;
 }
 
-// A file, or what one side of a connection sent.
-struct Opened {
-    std::string connection;
-    ByteStream stream;
-};
-
-std::vector<Opened> open_sources(const std::string &path, const InputOptions &options, Failures &failures) {
-    std::vector<Opened> sources;
+std::vector<Opened> open_or_report(const std::string &path, const InputOptions &options, Failures &failures) {
     try {
-        ByteStream stream = open_input(path);
-        if (options.from == From::hex || !is_capture(stream.look(enough_to_detect))) {
-            sources.push_back({{}, converted(std::move(stream), options.from)});
-            return sources;
-        }
-        Capture capture = read_capture(stream, options.port);
-        for (const Failure &missing : capture.missing) failures.add(missing);
-        for (Sent &sent : capture.sent) sources.push_back({std::move(sent.connection), std::move(sent.bytes)});
+        return open_sources(path, options.from, options.port, failures);
     } catch (const Failure &failure) {
         failures.add(failure);
+        return {};
     }
-    return sources;
 }
 
 // Calls `read` for each file, and with a function that shows the progress.
@@ -189,7 +188,7 @@ void for_each_source(const InputOptions &options, Failures &failures,
     Progress progress("reading");
     for (const InputFile &file : files) {
         const std::uint64_t size = size_of_file(file.path);
-        for (Opened &source : open_sources(file.path, options, failures)) {
+        for (Opened &source : open_or_report(file.path, options, failures)) {
             const auto show = [&] {
                 if (options.shows_progress) progress.at(before + std::min(source.stream.offset(), size), all);
             };

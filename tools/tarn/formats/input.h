@@ -76,6 +76,14 @@ struct InputFile {
 };
 std::vector<InputFile> files_of(const std::vector<std::string> &paths);
 
+// A file, or what one side of a connection in a network capture sent.
+struct Opened {
+    std::string connection;  // empty for a file
+    ByteStream stream;
+};
+// Of a network capture, all connections with the port. `failures` gets what is missing in it.
+std::vector<Opened> open_sources(const std::string &path, From from, std::uint16_t port, Failures &failures);
+
 // With the place where the frame is broken, which the library does not report.
 Invalid with_cause(const Failure &failure, const Frame &frame);
 

@@ -17,6 +17,7 @@ std::optional<std::pair<MessagePairs::Position, Version>> MessagePairs::Sequence
         std::optional<Version> version = ahead ? std::exchange(ahead, std::nullopt) : next();
         if (!version) return std::nullopt;
         const Identity &identity = version->identity;
+        if (std::exchange(source, version->source) != source) bundle = nullptr;
         if (by_bundle && identity.is_control() && identity.control == Control::start) {
             bundle = identity.bundle;
             ++bundles[bundle];

@@ -19,6 +19,7 @@ struct Version {
     std::optional<Item> item;  // empty for a frame
     std::string origin;        // of the frame, for messages
     std::size_t offset = 0;    // of the frame
+    std::size_t source = 0;    // a bundle does not continue in another one
     std::size_t number = 0;    // among the messages of its sequence, from 1; set by the pairing
 };
 
@@ -47,7 +48,7 @@ private:
     struct Sequence {
         const Next &next;
         std::optional<Version> ahead{};
-        std::size_t number = 0;
+        std::size_t number = 0, source = 0;
         const reflect::BundleOperations *bundle = nullptr;
         std::map<const void *, std::size_t> bundles{}, messages{};
         Waiting waiting{};
