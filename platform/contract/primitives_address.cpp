@@ -455,6 +455,15 @@ mirk_platform_error mirk_platform_address_parse(const char *text, size_t length,
     return mirk::parse_address({text, length}, address) ? 0 : EINVAL;
 }
 
+mirk_platform_error mirk_platform_address_text(const ip_address *address, char *text, size_t size) {
+    if (address == nullptr || text == nullptr) return EINVAL;
+    const mirk::AddressText written(*address);
+    const std::string_view view = written.view();
+    if (view.size() >= size) return EMSGSIZE;
+    text[view.copy(text, view.size())] = 0;
+    return 0;
+}
+
 int32_t ip_address_compare(const ip_address *a, const ip_address *b) {
     if (a == nullptr) return b == nullptr ? 0 : -1;
     if (b == nullptr) return 1;

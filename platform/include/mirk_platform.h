@@ -193,6 +193,14 @@ MIRK_PLATFORM_API const char *mirk_platform_trace_module_name(uint16_t module_id
  * and the variant remain. EINVAL if the `length` bytes are not such a text; the address is then unchanged. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_address_parse(const char *text, size_t length, ip_address *address);
 
+enum {
+    MIRK_PLATFORM_ADDRESS_TEXT_SIZE = 64 /**< bytes of the longest text of an address, with the NUL */
+};
+
+/** Writes the text that _to_xml writes for an address, with a NUL, to a buffer of `size` bytes. EMSGSIZE: `size` is too
+ * small. EINVAL: an argument is null. The buffer is then unchanged. */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_address_text(const ip_address *address, char *text, size_t size);
+
 /* ---- objects: RA data and references ---------------------------------------------------------------------------- */
 
 /** Attaches RA data to an object, replacing earlier data, and sets its flag "has RA data" (32). The value is an opaque

@@ -74,9 +74,30 @@ TEST(Address, EveryValueSurvivesARoundThroughXml) {
                 ip_address back = make(9, 9, 9, 9, 9, 9, 9);
                 ASSERT_EQ(read(text_of(address), &back), 0u) << text_of(address);
                 ASSERT_EQ(ip_address_compare(&address, &back), 0) << text_of(address);
+                char text[MIRK_PLATFORM_ADDRESS_TEXT_SIZE];
+                ASSERT_EQ(mirk_platform_address_text(&address, text, sizeof text), 0u) << text_of(address);
+                ASSERT_EQ(text, text_of(address));
             }
         }
     }
+}
+
+TEST(Address, TextIsWrittenWholeOrNotAtAll) {
+    const ip_address address = make(AF_INET, 24, 0, 0x0a010203);
+    const std::string expected = "10.1.2.3/24";
+    for (size_t size = 0; size <= expected.size() + 2; ++size) {
+        std::string text(32, '#');
+        const bool fits = size > expected.size();
+        EXPECT_EQ(mirk_platform_address_text(&address, text.data(), size), mirk_platform_error(fits ? 0 : EMSGSIZE));
+        EXPECT_EQ(text.substr(0, expected.size() + 2), fits ? expected + '\0' + '#' : std::string(13, '#')) << size;
+    }
+    char text[MIRK_PLATFORM_ADDRESS_TEXT_SIZE];
+    EXPECT_EQ(mirk_platform_address_text(nullptr, text, sizeof text), mirk_platform_error{EINVAL});
+    EXPECT_EQ(mirk_platform_address_text(&address, nullptr, sizeof text), mirk_platform_error{EINVAL});
+    const ip_address longest = make(255, 255, 65535, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff);
+    EXPECT_EQ(mirk_platform_address_text(&longest, text, sizeof text), 0u);
+    const ip_address longest_v6 = make(AF_INET6, 255, 65535, 0x11111111, 0x11111111, 0x11111111, 0x11111111);
+    EXPECT_EQ(mirk_platform_address_text(&longest_v6, text, sizeof text), 0u);
 }
 
 TEST(Address, IsParsedFromAPartOfAText) {
