@@ -5,7 +5,8 @@
 ///   borrows one, and dp_tc_view, which borrows one to read it.
 /// - Enumerations: enum classes, for example ha_state. name_of() returns the C name of an enumerator.
 /// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
-/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
+/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>, and bundle_reader
+///   reads them. lumo_ui_tarn/exchange.hpp requests and serves bundles.
 ///
 /// lumo_ui_tarn/interface.hpp describes what these types have in common, and how errors are reported.
 ///
@@ -115,7 +116,7 @@
 #define LUMO_UI_TARN_MESSAGE(MESSAGE, PAYLOAD) \
     using native = MESSAGE; \
     static constexpr const char *name = #MESSAGE; \
-    static const std::uint8_t *luid() { return message_##MESSAGE##_luid; } \
+    static const std::uint8_t *luid() noexcept { return message_##MESSAGE##_luid; } \
     static constexpr auto create_shallow = MESSAGE##_message_create_shallow; \
     static constexpr auto create = MESSAGE##_message_create; \
     static constexpr auto destroy = MESSAGE##_message_destroy; \
@@ -137,6 +138,7 @@
     static constexpr auto handler = lumo_ui_tarn_##BUNDLE##_bundle_handler; \
     static constexpr auto handler_register = lumo_ui_tarn_##BUNDLE##_bundle_handler_register; \
     static constexpr auto handler_unregister = lumo_ui_tarn_##BUNDLE##_bundle_handler_unregister; \
+    static const std::uint8_t *start_luid() noexcept { return message_##BUNDLE##_bundle_start_luid; } \
     static constexpr auto start_message_create = BUNDLE##_bundle_start_message_create; \
     static constexpr auto start_message_destroy = BUNDLE##_bundle_start_message_destroy; \
     static constexpr auto start_message_len = BUNDLE##_bundle_start_message_len; \
@@ -148,6 +150,7 @@
     static constexpr auto start_message_from_xml = BUNDLE##_bundle_start_message_from_xml; \
     static constexpr auto start_message_valid_cr = BUNDLE##_bundle_start_message_valid_cr; \
     static constexpr auto start_message_handler = lumo_ui_tarn_##BUNDLE##_bundle_start_message_handler; \
+    static const std::uint8_t *abort_luid() noexcept { return message_##BUNDLE##_bundle_abort_luid; } \
     static constexpr auto abort_message_create = BUNDLE##_bundle_abort_message_create; \
     static constexpr auto abort_message_destroy = BUNDLE##_bundle_abort_message_destroy; \
     static constexpr auto abort_message_len = BUNDLE##_bundle_abort_message_len; \
@@ -159,6 +162,7 @@
     static constexpr auto abort_message_from_xml = BUNDLE##_bundle_abort_message_from_xml; \
     static constexpr auto abort_message_valid_cr = BUNDLE##_bundle_abort_message_valid_cr; \
     static constexpr auto abort_message_handler = lumo_ui_tarn_##BUNDLE##_bundle_abort_message_handler; \
+    static const std::uint8_t *commit_luid() noexcept { return message_##BUNDLE##_bundle_commit_luid; } \
     static constexpr auto commit_message_create = BUNDLE##_bundle_commit_message_create; \
     static constexpr auto commit_message_destroy = BUNDLE##_bundle_commit_message_destroy; \
     static constexpr auto commit_message_len = BUNDLE##_bundle_commit_message_len; \
@@ -187,7 +191,7 @@ enum class ha_state : std::uint32_t {
     quiesce_state = 8,  ///< LUMO_TARN_HA_QUIESCE_STATE
 };
 /// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
-constexpr std::string_view name_of(ha_state value) {
+constexpr std::string_view name_of(ha_state value) noexcept {
     switch (value) {
         case ha_state::invalid_state:
             return "LUMO_TARN_HA_INVALID_STATE";
@@ -223,7 +227,7 @@ enum class lumo_direction : std::uint32_t {
     both = 2,  ///< LUMO_TARN_DIR_BOTH
 };
 /// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
-constexpr std::string_view name_of(lumo_direction value) {
+constexpr std::string_view name_of(lumo_direction value) noexcept {
     switch (value) {
         case lumo_direction::ingress:
             return "LUMO_TARN_DIR_INGRESS";
@@ -247,7 +251,7 @@ enum class mem_desc : std::uint32_t {
     flow_mem = 2,  ///< LUMO_TARN_FLOW_MEM
 };
 /// Returns the enumerator's C name, or "" for any other value: frames can contain any number.
-constexpr std::string_view name_of(mem_desc value) {
+constexpr std::string_view name_of(mem_desc value) noexcept {
     switch (value) {
         case mem_desc::mp_mem:
             return "LUMO_TARN_MP_MEM";
@@ -7724,67 +7728,67 @@ using pal_mp_prefix_msg = message<pal_mp_prefix_msg_type>;  ///< owns one
 using pal_mp_prefix_msg_ref = message_ref<pal_mp_prefix_msg_type>;  ///< borrows one
 using pal_mp_prefix_msg_view = message_view<pal_mp_prefix_msg_type>;  ///< borrows one to read it
 
-/// lumo_tarn_pal_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer.
+/// lumo_tarn_pal_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer and bundle_reader.
 struct pal_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_pal_debug_rsp);
 };
 
-/// lumo_tarn_cl_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer.
+/// lumo_tarn_cl_debug_rsp: bundle of lumo_tarn_debug_setting_msg messages. See bundle_writer and bundle_reader.
 struct cl_debug_rsp {
     using message = lumo_ui_tarn::debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_debug_rsp);
 };
 
-/// lumo_tarn_dp_debug_rsp: bundle of lumo_tarn_dp_debug_setting_msg messages. See bundle_writer.
+/// lumo_tarn_dp_debug_rsp: bundle of lumo_tarn_dp_debug_setting_msg messages. See bundle_writer and bundle_reader.
 struct dp_debug_rsp {
     using message = lumo_ui_tarn::dp_debug_setting_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_debug_rsp);
 };
 
-/// lumo_tarn_cl_appl_cfg_rsp: bundle of lumo_tarn_cl_appl_msg messages. See bundle_writer.
+/// lumo_tarn_cl_appl_cfg_rsp: bundle of lumo_tarn_cl_appl_msg messages. See bundle_writer and bundle_reader.
 struct cl_appl_cfg_rsp {
     using message = lumo_ui_tarn::cl_appl_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_appl_cfg_rsp);
 };
 
-/// lumo_tarn_cl_cfg_rsp: bundle of lumo_tarn_cl_cfg_msg messages. See bundle_writer.
+/// lumo_tarn_cl_cfg_rsp: bundle of lumo_tarn_cl_cfg_msg messages. See bundle_writer and bundle_reader.
 struct cl_cfg_rsp {
     using message = lumo_ui_tarn::cl_cfg_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_cl_cfg_rsp);
 };
 
-/// lumo_tarn_dp_intf_rsp: bundle of lumo_tarn_dp_intf_msg messages. See bundle_writer.
+/// lumo_tarn_dp_intf_rsp: bundle of lumo_tarn_dp_intf_msg messages. See bundle_writer and bundle_reader.
 struct dp_intf_rsp {
     using message = lumo_ui_tarn::dp_intf_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_intf_rsp);
 };
 
-/// lumo_tarn_dp_appl_cfg_rsp: bundle of lumo_tarn_dp_appl_msg messages. See bundle_writer.
+/// lumo_tarn_dp_appl_cfg_rsp: bundle of lumo_tarn_dp_appl_msg messages. See bundle_writer and bundle_reader.
 struct dp_appl_cfg_rsp {
     using message = lumo_ui_tarn::dp_appl_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_appl_cfg_rsp);
 };
 
-/// lumo_tarn_dp_tt_cfg_rsp: bundle of lumo_tarn_dp_tt_msg messages. See bundle_writer.
+/// lumo_tarn_dp_tt_cfg_rsp: bundle of lumo_tarn_dp_tt_msg messages. See bundle_writer and bundle_reader.
 struct dp_tt_cfg_rsp {
     using message = lumo_ui_tarn::dp_tt_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_tt_cfg_rsp);
 };
 
-/// lumo_tarn_dp_mp_tc_cfg_rsp: bundle of lumo_tarn_dp_mp_tc_msg messages. See bundle_writer.
+/// lumo_tarn_dp_mp_tc_cfg_rsp: bundle of lumo_tarn_dp_mp_tc_msg messages. See bundle_writer and bundle_reader.
 struct dp_mp_tc_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_tc_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_mp_tc_cfg_rsp);
 };
 
-/// lumo_tarn_dp_mp_prefix_cfg_rsp: bundle of lumo_tarn_dp_mp_prefix_msg messages. See bundle_writer.
+/// lumo_tarn_dp_mp_prefix_cfg_rsp: bundle of lumo_tarn_dp_mp_prefix_msg messages. See bundle_writer and bundle_reader.
 struct dp_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::dp_mp_prefix_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_dp_mp_prefix_cfg_rsp);
 };
 
-/// lumo_tarn_pal_mp_prefix_cfg_rsp: bundle of lumo_tarn_pal_mp_prefix_msg messages. See bundle_writer.
+/// lumo_tarn_pal_mp_prefix_cfg_rsp: bundle of lumo_tarn_pal_mp_prefix_msg messages. See bundle_writer and bundle_reader.
 struct pal_mp_prefix_cfg_rsp {
     using message = lumo_ui_tarn::pal_mp_prefix_msg_type;  ///< the type of its messages
     LUMO_UI_TARN_BUNDLE(lumo_tarn_pal_mp_prefix_cfg_rsp);

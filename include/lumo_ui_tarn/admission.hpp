@@ -39,10 +39,10 @@ struct frame_part {
 /// What a frame claims but cannot contain.
 struct frame_excess {
     const char *member =
-        nullptr;                  ///< record and member, for example "lumo_tarn_dp_tc_list.tc_list"; nullptr if nothing
+        nullptr;                ///< record and member, for example "lumo_tarn_dp_tc_list.tc_list"; nullptr if nothing
     std::uint32_t claimed = 0;  ///< number of elements or characters
-    std::uint32_t least = 0;      ///< bytes that each of them takes at least
-    std::uint32_t left = 0;       ///< bytes that are left for them
+    std::uint32_t least = 0;    ///< bytes that each of them takes at least
+    std::uint32_t left = 0;     ///< bytes that are left for them
 
     /// True if the frame claims too much.
     explicit operator bool() const { return member != nullptr; }
@@ -57,6 +57,8 @@ struct frame_excess {
 namespace detail {
 
 /// @cond helpers
+inline constexpr std::size_t message_head_size = 43;  // of the frame of a message: header and identity
+
 // Follows a frame as T_unmarshal does, also where jumps lead out of a record or back, so that both see the same counts.
 // Where the C function sets an error, it reads no further count: the walk ends.
 class frame_walk {
@@ -157,9 +159,10 @@ inline frame_excess excess_of_record(const frame_part *parts, const void *frame,
 
 /// Tests the frame of a message with a payload of these parts. See excess_of_record().
 inline frame_excess excess_of_message(const frame_part *parts, const void *frame, std::size_t size, bool tracks) {
-    constexpr std::size_t head = 43;  // header and identity
-    if (size <= head) return {};
-    return excess_of_record(parts, static_cast<const std::uint8_t *>(frame) + head, size - head, tracks);
+    using detail::message_head_size;
+    if (size <= message_head_size) return {};
+    return excess_of_record(parts, static_cast<const std::uint8_t *>(frame) + message_head_size,
+                            size - message_head_size, tracks);
 }
 
 }  // namespace lumo_ui_tarn

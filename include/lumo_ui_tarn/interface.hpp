@@ -19,16 +19,21 @@
 /// wrap; const owners and views return it as const. An owner that was moved from or released has no C object: get() is
 /// nullptr, its members read as zero, and functions that write it, copy it or convert it report ENOENT or EINVAL.
 ///
+/// Records and messages are printed with operator<<, std::format() or to_string(), in one line. Records are ordered and
+/// compared by compare(), and hashed by std::hash, so they are keys of standard containers; arrays are random access
+/// ranges of C++20.
+///
 /// Everything is inline. Reading or writing a scalar calls one C function, such as lumo_tarn_dp_tc_proto_get_value().
 /// Reading a string, writing an address, and copying or moving a nested record that owns arrays or strings take several
 /// calls.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
-#include <lumo_ui_tarn/admission.hpp>
 #include <lumo_ui_tarn/base.h>
+#include <lumo_ui_tarn/address.hpp>
+#include <lumo_ui_tarn/admission.hpp>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
@@ -37,14 +42,23 @@
 #include <iterator>
 #include <limits>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
 #if defined(__has_include) && __cplusplus >= 202002L
+#if __has_include(<compare>)
+#include <compare>
+#endif
+#if __has_include(<format>)
+#include <format>
+#endif
+#if __has_include(<ranges>)
+#include <ranges>
+#endif
 #if __has_include(<span>)
 #include <span>
 #endif
@@ -85,22 +99,26 @@ public:
     context &operator=(const context &) = delete;
 
     /// The first argument of C operations.
-    mirk_handle *handle() const { return handle_; }
+    mirk_handle *handle() const noexcept { return handle_; }
     /// The second argument of C operations.
-    std::uint32_t ctx_id() const { return ctx_id_; }
+    std::uint32_t ctx_id() const noexcept { return ctx_id_; }
     /// The last argument of C operations. An error that is stored through it is kept in both modes: check ok() after
     /// the operation. call() reports errors in the mode of the context.
-    std::uint32_t *slot() { return &slot_; }
+    std::uint32_t *slot() noexcept { return &slot_; }
 
     /// Returns the kept error, an errno number.
-    std::error_code error() const { return {static_cast<int>(slot_), std::generic_category()}; }
+    [[nodiscard]] std::error_code error() const noexcept { return {static_cast<int>(slot_), std::generic_category()}; }
     /// Returns the kept error and clears it.
-    std::error_code take_error() { return {static_cast<int>(std::exchange(slot_, 0)), std::generic_category()}; }
+    std::error_code take_error() noexcept {
+        return {static_cast<int>(std::exchange(slot_, 0)), std::generic_category()};
+    }
     /// True if no error is kept.
-    bool ok() const { return slot_ == 0; }
+    [[nodiscard]] bool ok() const noexcept { return slot_ == 0; }
 
     /// True if the handle tracks state: records that are created on it have state bytes.
-    bool tracks() const { return handle_->sttr_desc != nullptr && handle_->sttr_desc->sttr_mode == 0xEEEE; }
+    [[nodiscard]] bool tracks() const noexcept {
+        return handle_->sttr_desc != nullptr && handle_->sttr_desc->sttr_mode == 0xEEEE;
+    }
 
     /// Calls a C function of the form (h, ctx_id, ..., err). While an error is kept it makes no call and returns 0.
     template <class Operation, class... Arguments>
@@ -166,10 +184,10 @@ public:
     /// Copies the bytes.
     explicit frame(std::span<const std::uint8_t> bytes) : frame(bytes.data(), bytes.size()) {}
     /// The bytes without the guard byte.
-    operator std::span<const std::uint8_t>() const { return {data(), size()}; }
+    operator std::span<const std::uint8_t>() const noexcept { return {data(), size()}; }
 #endif
     /// The first byte.
-    const std::uint8_t *data() const {
+    const std::uint8_t *data() const noexcept {
         static constexpr std::uint8_t guard = 0;
         return bytes_.empty() ? &guard : bytes_.data();
     }
@@ -179,13 +197,13 @@ public:
         return bytes_.data();
     }
     /// Number of bytes without the guard byte.
-    std::size_t size() const { return bytes_.empty() ? 0 : bytes_.size() - 1; }
+    std::size_t size() const noexcept { return bytes_.empty() ? 0 : bytes_.size() - 1; }
     /// True if there are no bytes.
-    bool empty() const { return size() == 0; }
+    [[nodiscard]] bool empty() const noexcept { return size() == 0; }
     /// The first byte.
-    const std::uint8_t *begin() const { return data(); }
+    const std::uint8_t *begin() const noexcept { return data(); }
     /// The end of the bytes: the guard byte.
-    const std::uint8_t *end() const { return data() + size(); }
+    const std::uint8_t *end() const noexcept { return data() + size(); }
     /// Truncates the frame or appends zeros.
     void resize(std::size_t size) {
         if (!bytes_.empty()) bytes_.back() = 0;  // the guard byte, which C functions can have written
@@ -198,29 +216,14 @@ public:
         if (added != 0) std::memcpy(data() + before, other.data(), added);
     }
     /// True if the bytes are equal.
-    friend bool operator==(const frame &a, const frame &b) {
+    friend bool operator==(const frame &a, const frame &b) noexcept {
         return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size()) == 0;
     }
     /// True if the bytes differ.
-    friend bool operator!=(const frame &a, const frame &b) { return !(a == b); }
+    friend bool operator!=(const frame &a, const frame &b) noexcept { return !(a == b); }
 
 private:
     std::vector<std::uint8_t> bytes_;  // with the guard byte; may have none if the frame is empty
-};
-
-/// The value of an address or prefix.
-struct address {
-    std::uint8_t af = 0;                  ///< address family of the operating system; 0 if the address is not set
-    std::uint8_t prefix_len = 0;          ///< length of the prefix in bits
-    std::uint16_t scope = 0;              ///< scope of the address
-    std::array<std::uint32_t, 4> word{};  ///< the address, in host byte order; word[0] is the most significant
-
-    /// True if all fields are equal.
-    friend bool operator==(const address &a, const address &b) {
-        return a.af == b.af && a.prefix_len == b.prefix_len && a.scope == b.scope && a.word == b.word;
-    }
-    /// True if a field differs.
-    friend bool operator!=(const address &a, const address &b) { return !(a == b); }
 };
 
 /// Describes a member of a record to the visitor of for_each_member: its name, and pointers to the functions that
@@ -363,10 +366,10 @@ template <class Native>
 class bound {
 public:
     /// The context that was passed to the constructor.
-    lumo_ui_tarn::context &context() const { return *context_; }
+    lumo_ui_tarn::context &context() const noexcept { return *context_; }
     /// True if there is a C object: the owner was not moved from or released, and the object could be created. It does
     /// not tell whether an error is kept: see context::ok().
-    explicit operator bool() const { return native_ != nullptr; }
+    explicit operator bool() const noexcept { return native_ != nullptr; }
 
     /// @cond helpers
 protected:
@@ -413,14 +416,14 @@ public:
     using record_type = R;
 
     /// The record's C name.
-    static constexpr std::string_view record_name() { return R::name; }
+    static constexpr std::string_view record_name() noexcept { return R::name; }
 
     /// Converts to a view of the record.
-    operator record_view<R>() const { return {this->context(), this->native_}; }
+    operator record_view<R>() const noexcept { return {this->context(), this->native_}; }
 
     /// An upper bound on the frame's size in bytes, without the guard byte. RA data is not counted: with it, the frame
     /// can be larger.
-    std::size_t frame_size() const {
+    [[nodiscard]] std::size_t frame_size() const {
         return this->native_ != nullptr ? R::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
     }
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
@@ -436,7 +439,7 @@ public:
 #endif
     /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
     /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
-    frame to_frame() const {
+    [[nodiscard]] frame to_frame() const {
         if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
@@ -444,7 +447,7 @@ public:
         });
     }
     /// Returns an XML element with this name.
-    std::string to_xml(const char *name = R::name) const {
+    [[nodiscard]] std::string to_xml(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return R::to_xml(c.handle(), c.ctx_id(), name, buffer, this->native_, static_cast<std::int32_t>(size), 0,
@@ -452,7 +455,7 @@ public:
         });
     }
     /// Returns human-readable text that starts with this name. It cannot be read back.
-    std::string text(const char *name = R::name) const {
+    [[nodiscard]] std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
         return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->native_, static_cast<std::int32_t>(size),
@@ -462,14 +465,16 @@ public:
 
     /// Compares the members in the order of the schema. Only the sign of the result is meaningful. State bytes are
     /// ignored.
-    std::int32_t compare(record_view<R> other) const { return R::compare(this->native_, other.get()); }
+    [[nodiscard]] std::int32_t compare(record_view<R> other) const noexcept {
+        return R::compare(this->native_, other.get());
+    }
     /// Returns a hash of the members. Equal records have equal hashes.
-    std::uint32_t hash(std::uint32_t seed = 0) const { return R::hash(this->native_, seed); }
+    [[nodiscard]] std::uint32_t hash(std::uint32_t seed = 0) const noexcept { return R::hash(this->native_, seed); }
     /// Returns a deep copy, on the same handle.
-    record<R> copy() const;
+    [[nodiscard]] record<R> copy() const;
 
     /// True if the record has state bytes.
-    bool is_tracked() const {
+    [[nodiscard]] bool is_tracked() const noexcept {
         return this->context().tracks() && this->native_ != nullptr &&
                (reinterpret_cast<const mirk_object *>(this->native_)->obj_flag & MIRK_OBJ_STATE_TRACKED) != 0;
     }
@@ -605,7 +610,7 @@ public:
     record_view(context &c, const typename R::native *native) : base(c, const_cast<typename R::native *>(native)) {}
 
     /// The C object, or nullptr.
-    const typename R::native *get() const { return this->native_; }
+    const typename R::native *get() const noexcept { return this->native_; }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema.
     template <class Visit>
     static void for_each_member(Visit &&visit) {
@@ -623,7 +628,7 @@ public:
     record_ref(context &c, typename R::native *native) : base(c, native) {}
 
     /// The C object, or nullptr.
-    typename R::native *get() const { return this->native_; }
+    typename R::native *get() const noexcept { return this->native_; }
     /// Sets all state bytes of the record and of the elements of its own arrays, without notifications. Elements of
     /// arrays in nested records keep the states of their members. Has no effect on a record without state bytes.
     ///
@@ -670,13 +675,13 @@ public:
     }
 
     /// Takes ownership of a record from C code.
-    static record take(context &c, typename R::native *native) { return record(c, native); }
+    [[nodiscard]] static record take(context &c, typename R::native *native) { return record(c, native); }
     /// The C object, or nullptr.
-    typename R::native *get() { return this->native_; }
+    typename R::native *get() noexcept { return this->native_; }
     /// The C object, or nullptr.
-    const typename R::native *get() const { return this->native_; }
+    const typename R::native *get() const noexcept { return this->native_; }
     /// Converts to a reference to the record.
-    operator record_ref<R>() { return {this->context(), this->native_}; }
+    operator record_ref<R>() noexcept { return {this->context(), this->native_}; }
     /// See record_ref::set_all_states.
     void set_all_states(std::uint8_t value) { this->fill_states_(value); }
     /// Calls visit with a lumo_ui_tarn::member for each member, in the order of the schema. The functions need an owner
@@ -691,7 +696,7 @@ public:
     /// Creates a record from a frame of size bytes. One guard byte, which size does not count, follows them. EBADMSG if
     /// the frame claims more elements or characters than it can contain (admission.hpp); the C function would
     /// allocate memory for them. Only frames of the reference runtime are tested: what another one encodes is its own.
-    static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
+    [[nodiscard]] static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
         if constexpr (R::owns_blocks) {
             if (!detail::admitted(c, excess_of_record, R::parts, bytes, size)) return fresh;
@@ -702,21 +707,23 @@ public:
         return fresh;
     }
     /// Creates a record from a frame. Of several frames in sequence, only the first one is read.
-    static record from_frame(context &c, const frame &whole) {
+    [[nodiscard]] static record from_frame(context &c, const frame &whole) {
         return from_frame_with_guard(c, whole.data(), whole.size());
     }
     /// Creates a record from a copy of a frame: no guard byte is needed.
-    static record from_frame(context &c, const void *bytes, std::size_t size) {
+    [[nodiscard]] static record from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
     /// Creates a record from a copy of a frame: no guard byte is needed.
-    static record from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
+    [[nodiscard]] static record from_frame(context &c, std::span<const std::uint8_t> bytes) {
+        return from_frame(c, frame(bytes));
+    }
 #endif
     /// Creates a record from an element of an XML document that the runtime has parsed: the one at path, or the first
     /// one, at any depth, with the record's name. ENOENT if there is none, EINVAL for an invalid number. The reference
     /// runtime parses a document with mirk_platform_document_load_memory().
-    static record from_xml(context &c, void *document, const char *path = nullptr) {
+    [[nodiscard]] static record from_xml(context &c, void *document, const char *path = nullptr) {
         record fresh(c);
         detail::read_xml<R>(c, document, path, fresh.get());
         return fresh;
@@ -726,27 +733,55 @@ private:
     record(context &c, typename R::native *native) : base(c, native) {}
 };
 
-/// True if all members are equal.
-template <class A, class B, class R = typename A::record_type,
-          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
-                                   std::is_base_of_v<detail::operations<R, B>, B>>>
-bool operator==(const A &a, const B &b) {
+namespace detail {
+
+/// @cond helpers
+/// Exists if both are owners, references or views of the same type of record.
+template <class A, class B, class R>
+using if_same_record =
+    std::enable_if_t<std::is_base_of_v<operations<R, A>, A> && std::is_base_of_v<operations<R, B>, B>>;
+/// @endcond
+
+}  // namespace detail
+
+/// True if all members are equal. State bytes are ignored.
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator==(const A &a, const B &b) noexcept {
     return a.compare(b) == 0;
 }
+#if defined(__cpp_lib_three_way_comparison)
+/// Ordered by compare(). Equal records can differ in their state bytes.
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+std::weak_ordering operator<=>(const A &a, const B &b) noexcept {
+    return a.compare(b) <=> 0;
+}
+#else
 /// True if a member differs.
-template <class A, class B, class R = typename A::record_type,
-          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
-                                   std::is_base_of_v<detail::operations<R, B>, B>>>
-bool operator!=(const A &a, const B &b) {
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator!=(const A &a, const B &b) noexcept {
     return a.compare(b) != 0;
 }
 /// Ordered by compare().
-template <class A, class B, class R = typename A::record_type,
-          class = std::enable_if_t<std::is_base_of_v<detail::operations<R, A>, A> &&
-                                   std::is_base_of_v<detail::operations<R, B>, B>>>
-bool operator<(const A &a, const B &b) {
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator<(const A &a, const B &b) noexcept {
     return a.compare(b) < 0;
 }
+/// Ordered by compare().
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator>(const A &a, const B &b) noexcept {
+    return a.compare(b) > 0;
+}
+/// Ordered by compare().
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator<=(const A &a, const B &b) noexcept {
+    return a.compare(b) <= 0;
+}
+/// Ordered by compare().
+template <class A, class B, class R = typename A::record_type, class = detail::if_same_record<A, B, R>>
+bool operator>=(const A &a, const B &b) noexcept {
+    return a.compare(b) >= 0;
+}
+#endif
 
 namespace detail {
 
@@ -794,39 +829,40 @@ public:
         };
 
         iterator() = default;
-        iterator(context *c, typename A::native *owner, std::size_t at) : context_(c), owner_(owner), at_(at) {}
+        iterator(context *c, typename A::native *owner, std::size_t at) noexcept
+            : context_(c), owner_(owner), at_(at) {}
         reference operator*() const { return array(*context_, owner_)[at_]; }
         pointer operator->() const { return {**this}; }
         reference operator[](difference_type n) const { return *(*this + n); }
-        iterator &operator+=(difference_type n) {
+        iterator &operator+=(difference_type n) noexcept {
             at_ += static_cast<std::size_t>(n);
             return *this;
         }
-        iterator &operator-=(difference_type n) { return *this += -n; }
-        iterator &operator++() { return *this += 1; }
-        iterator &operator--() { return *this -= 1; }
-        iterator operator++(int) {
+        iterator &operator-=(difference_type n) noexcept { return *this += -n; }
+        iterator &operator++() noexcept { return *this += 1; }
+        iterator &operator--() noexcept { return *this -= 1; }
+        iterator operator++(int) noexcept {
             const iterator before = *this;
             ++*this;
             return before;
         }
-        iterator operator--(int) {
+        iterator operator--(int) noexcept {
             const iterator before = *this;
             --*this;
             return before;
         }
-        friend iterator operator+(iterator i, difference_type n) { return i += n; }
-        friend iterator operator+(difference_type n, iterator i) { return i += n; }
-        friend iterator operator-(iterator i, difference_type n) { return i -= n; }
-        friend difference_type operator-(const iterator &a, const iterator &b) {
+        friend iterator operator+(iterator i, difference_type n) noexcept { return i += n; }
+        friend iterator operator+(difference_type n, iterator i) noexcept { return i += n; }
+        friend iterator operator-(iterator i, difference_type n) noexcept { return i -= n; }
+        friend difference_type operator-(const iterator &a, const iterator &b) noexcept {
             return static_cast<difference_type>(a.at_) - static_cast<difference_type>(b.at_);
         }
-        friend bool operator==(const iterator &a, const iterator &b) { return a.at_ == b.at_; }
-        friend bool operator!=(const iterator &a, const iterator &b) { return a.at_ != b.at_; }
-        friend bool operator<(const iterator &a, const iterator &b) { return a.at_ < b.at_; }
-        friend bool operator>(const iterator &a, const iterator &b) { return a.at_ > b.at_; }
-        friend bool operator<=(const iterator &a, const iterator &b) { return a.at_ <= b.at_; }
-        friend bool operator>=(const iterator &a, const iterator &b) { return a.at_ >= b.at_; }
+        friend bool operator==(const iterator &a, const iterator &b) noexcept { return a.at_ == b.at_; }
+        friend bool operator!=(const iterator &a, const iterator &b) noexcept { return a.at_ != b.at_; }
+        friend bool operator<(const iterator &a, const iterator &b) noexcept { return a.at_ < b.at_; }
+        friend bool operator>(const iterator &a, const iterator &b) noexcept { return a.at_ > b.at_; }
+        friend bool operator<=(const iterator &a, const iterator &b) noexcept { return a.at_ <= b.at_; }
+        friend bool operator>=(const iterator &a, const iterator &b) noexcept { return a.at_ >= b.at_; }
         /// @endcond
 
     private:
@@ -840,9 +876,9 @@ public:
     /// Number of elements.
     std::size_t size() const { return context_->call(A::size, owner_); }
     /// True if there are no elements.
-    bool empty() const { return size() == 0; }
+    [[nodiscard]] bool empty() const { return size() == 0; }
     /// The largest number of elements that the count can hold.
-    static constexpr std::size_t max_size() { return std::numeric_limits<typename A::count>::max(); }
+    static constexpr std::size_t max_size() noexcept { return std::numeric_limits<typename A::count>::max(); }
 
     /// An element. ENOENT if index is not less than size().
     value_type operator[](std::size_t index) const {
@@ -909,7 +945,7 @@ public:
     /// Borrows the array from the record owner.
     array_ref(context &c, typename A::native *owner) : base(c, owner) {}
     /// Converts to a read-only array.
-    operator array_view<A>() const { return {*context_, owner_}; }
+    operator array_view<A>() const noexcept { return {*context_, owner_}; }
 
     /// Grows the array to this many elements; all members of new ones are zero. EINVAL for fewer than size(), because
     /// arrays do not shrink. EOVERFLOW for more than max_size().
@@ -973,16 +1009,16 @@ public:
     using payload_type = typename M::payload;
 
     /// The message's C name.
-    static constexpr std::string_view message_name() { return M::name; }
+    static constexpr std::string_view message_name() noexcept { return M::name; }
     /// Its identity (LUID), 16 bytes.
-    static const std::uint8_t *luid() { return M::luid(); }
+    static const std::uint8_t *luid() noexcept { return M::luid(); }
 
     /// Converts to a view of the message.
-    operator message_view<M>() const { return {this->context(), this->native_}; }
+    operator message_view<M>() const noexcept { return {this->context(), this->native_}; }
 
     /// An upper bound on the frame's size in bytes, without the guard byte. RA data is not counted: with it, the frame
     /// can be larger.
-    std::size_t frame_size() const {
+    [[nodiscard]] std::size_t frame_size() const {
         return this->native_ != nullptr ? M::len(this->context().handle(), this->context().ctx_id(), this->native_) : 0;
     }
     /// Writes the frame and returns its size in bytes. The last byte of the buffer is the guard byte. EMSGSIZE or
@@ -998,7 +1034,7 @@ public:
 #endif
     /// Returns the frame. If a record with RA data has state bytes, those at the end of the frame can be missing,
     /// without an error. Then call write_frame() with 9 more bytes for each object with RA data.
-    frame to_frame() const {
+    [[nodiscard]] frame to_frame() const {
         if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
         return grown_frame(c, frame_size(), [&](std::uint8_t *buffer, std::size_t size, std::uint32_t *err) {
@@ -1006,9 +1042,9 @@ public:
         });
     }
     /// Returns an XML element with the message's name.
-    std::string to_xml() const { return rendered(M::to_xml); }
+    [[nodiscard]] std::string to_xml() const { return rendered(M::to_xml); }
     /// Returns human-readable text. It cannot be read back.
-    std::string text() const { return rendered(M::print); }
+    [[nodiscard]] std::string text() const { return rendered(M::print); }
 
     /// @cond helpers
 protected:
@@ -1055,7 +1091,7 @@ public:
         : detail::message_operations<M>(c, const_cast<typename M::native *>(native)) {}
 
     /// The C object, or nullptr.
-    const typename M::native *get() const { return this->native_; }
+    const typename M::native *get() const noexcept { return this->native_; }
     /// The payload. The message owns it.
     record_view<typename M::payload> payload() const { return this->payload_(); }
 };
@@ -1068,7 +1104,7 @@ public:
     message_ref(context &c, typename M::native *native) : detail::message_operations<M>(c, native) {}
 
     /// The C object, or nullptr.
-    typename M::native *get() const { return this->native_; }
+    typename M::native *get() const noexcept { return this->native_; }
     /// The payload. The message owns it.
     record_ref<typename M::payload> payload() const { return this->payload_(); }
     /// Removes the payload from the message and returns it.
@@ -1110,13 +1146,13 @@ public:
     }
 
     /// Takes ownership of a message from C code.
-    static message take(context &c, typename M::native *native) { return message(c, native); }
+    [[nodiscard]] static message take(context &c, typename M::native *native) { return message(c, native); }
     /// The C object, or nullptr.
-    typename M::native *get() { return this->native_; }
+    typename M::native *get() noexcept { return this->native_; }
     /// The C object, or nullptr.
-    const typename M::native *get() const { return this->native_; }
+    const typename M::native *get() const noexcept { return this->native_; }
     /// Converts to a reference to the message.
-    operator message_ref<M>() { return {this->context(), this->native_}; }
+    operator message_ref<M>() noexcept { return {this->context(), this->native_}; }
     /// The payload. The message owns it.
     record_ref<typename M::payload> payload() { return this->payload_(); }
     /// Removes the payload from the message and returns it.
@@ -1133,7 +1169,7 @@ public:
     /// identity in the frame is not checked: compare its bytes 27 to 42 with luid() before. Of several frames in
     /// sequence, only the first one is read. EBADMSG if the frame claims more elements or characters than it can
     /// contain.
-    static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
+    [[nodiscard]] static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
         if constexpr (M::payload::owns_blocks) {
             if (!detail::admitted(c, excess_of_message, M::payload::parts, bytes, size)) return {c, native};
@@ -1146,23 +1182,25 @@ public:
         return read;
     }
     /// Creates a message from a frame, whose identity is not checked. See from_frame_with_guard().
-    static message from_frame(context &c, const frame &whole) {
+    [[nodiscard]] static message from_frame(context &c, const frame &whole) {
         return from_frame_with_guard(c, whole.data(), whole.size());
     }
     /// Creates a message from a copy of a frame: no guard byte is needed. The identity is not checked. See
     /// from_frame_with_guard().
-    static message from_frame(context &c, const void *bytes, std::size_t size) {
+    [[nodiscard]] static message from_frame(context &c, const void *bytes, std::size_t size) {
         return from_frame(c, frame(bytes, size));
     }
 #if defined(__cpp_lib_span)
     /// Creates a message from a copy of a frame: no guard byte is needed. The identity is not checked. See
     /// from_frame_with_guard().
-    static message from_frame(context &c, std::span<const std::uint8_t> bytes) { return from_frame(c, frame(bytes)); }
+    [[nodiscard]] static message from_frame(context &c, std::span<const std::uint8_t> bytes) {
+        return from_frame(c, frame(bytes));
+    }
 #endif
     /// Creates a message and reads its payload from the first element of a parsed XML document that has the payload's
     /// name. If there is none, all members of the payload are zero and no error is reported. See
     /// record::from_xml.
-    static message from_xml(context &c, void *document) {
+    [[nodiscard]] static message from_xml(context &c, void *document) {
         message fresh(c);
         // Not by the message's C function, which leaks the message after an error.
         detail::read_xml<typename M::payload>(c, document, nullptr, fresh.payload().get(), ENOENT);
@@ -1173,6 +1211,102 @@ private:
     message(context &c, typename M::native *native) : base(c, native) {}
 };
 
+namespace detail {
+
+/// @cond helpers
+inline void print(std::string &line, bool value) { line += value ? "true" : "false"; }
+inline void print(std::string &line, const address &value) { line += to_string(value); }
+/// In quotes, and so that it stays one line of visible characters.
+inline void print(std::string &line, const std::string &text) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    line += '"';
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x20 || byte >= 0x7F) {
+            ((line += "\\x") += digits[byte >> 4]) += digits[byte & 15];
+            continue;
+        }
+        if (character == '"' || character == '\\') line += '\\';
+        line += character;
+    }
+    line += '"';
+}
+template <class R>
+void print(std::string &line, const record_view<R> &object);
+template <class A>
+void print(std::string &line, const array_view<A> &list) {
+    const char *separator = "";
+    line += '[';
+    for (const auto element : list) {
+        line += std::exchange(separator, ", ");
+        print(line, element);
+    }
+    line += ']';
+}
+template <class Value, class = std::enable_if_t<std::is_integral_v<Value> || std::is_enum_v<Value>>>
+void print(std::string &line, Value value) {
+    if constexpr (std::is_enum_v<Value>) {
+        const std::string_view name = name_of(value);
+        line += name.empty() ? std::to_string(static_cast<std::underlying_type_t<Value>>(value)) : std::string(name);
+    } else {
+        line += std::to_string(value);
+    }
+}
+/// The name that a type has in C++: its C name without lumo_tarn_.
+inline std::string_view name_in_cpp(std::string_view name) {
+    constexpr std::string_view prefix = "lumo_tarn_";
+    return name.substr(0, prefix.size()) == prefix ? name.substr(prefix.size()) : name;
+}
+template <class R>
+void print(std::string &line, const record_view<R> &object) {
+    const char *separator = "";
+    (line += name_in_cpp(R::name)) += '{';
+    if (object) {
+        record_view<R>::for_each_member([&](const auto &member) {
+            // Counts and lengths, which alone have no state, are those of the arrays and strings that follow.
+            if constexpr (!std::is_null_pointer_v<decltype(member.get_state)>) {
+                ((line += std::exchange(separator, ", ")) += member.name) += '=';
+                print(line, (object.*member.get)());
+            }
+        });
+    }
+    line += '}';
+}
+template <class M>
+void print(std::string &line, const message_view<M> &object) {
+    (line += name_in_cpp(M::name)) += '{';
+    if (object) print(line, object.payload());
+    line += '}';
+}
+
+/// The view of an owner, reference or view.
+template <class A, class R = typename A::record_type, class = std::enable_if_t<std::is_base_of_v<operations<R, A>, A>>>
+record_view<R> view_of(const A &object) {
+    return object;
+}
+template <class A, class M = typename A::message_type,
+          class = std::enable_if_t<std::is_base_of_v<message_operations<M>, A>>, class = void>
+message_view<M> view_of(const A &object) {
+    return object;
+}
+/// @endcond
+
+}  // namespace detail
+
+/// Returns a record or message in one line, such as dp_tc{id=5, src_prefix=10.0.0.0/8, ...}, for logs and tests. Counts
+/// and lengths are left out. text() returns the text of the C function, which has a line for each member.
+template <class A, class = decltype(detail::view_of(std::declval<const A &>()))>
+[[nodiscard]] std::string to_string(const A &object) {
+    std::string line;
+    detail::print(line, detail::view_of(object));
+    return line;
+}
+/// Writes a record or message in one line. See to_string().
+template <class A, class = decltype(detail::view_of(std::declval<const A &>()))>
+std::ostream &operator<<(std::ostream &out, const A &object) {
+    return out << to_string(object);
+}
+
 /// Writes the frames of a bundle: its start, its messages, and its commit or abort. If the bundle is still open, the
 /// destructor aborts it on the handle but appends no frame. A receiver of frames() would then see a bundle without an
 /// end, so send them only after commit() or abort().
@@ -1180,7 +1314,7 @@ template <class B>
 class bundle_writer {
 public:
     /// Opens the bundle and writes the start's frame. EEXIST if a bundle is open on the handle.
-    explicit bundle_writer(context &c) : context_(&c) {
+    explicit bundle_writer(lumo_ui_tarn::context &c) : context_(&c) {
         control(B::start_message_marshal);
         open_ = c.ok();
     }
@@ -1207,8 +1341,12 @@ public:
     bundle_writer &commit() { return end(B::commit_message_marshal); }
     /// Closes the bundle and appends the abort's frame. ENOENT if it is not open. Has no effect while an error is kept.
     bundle_writer &abort() { return end(B::abort_message_marshal); }
+    /// True until commit() or abort(), unless the bundle could not be opened.
+    [[nodiscard]] bool is_open() const noexcept { return open_; }
     /// The frames written so far, in sequence.
-    const frame &frames() const { return frames_; }
+    const frame &frames() const noexcept { return frames_; }
+    /// The context that was passed to the constructor.
+    lumo_ui_tarn::context &context() const noexcept { return *context_; }
 
 private:
     template <class Operation>
@@ -1228,26 +1366,196 @@ private:
         return *this;
     }
 
-    context *context_;
+    lumo_ui_tarn::context *context_;
     frame frames_;
     bool open_ = false;
 };
 
+/// What a bundle_reader accepts, in bytes. The sender may be faulty or hostile.
+struct bundle_limits {
+    std::size_t frame = std::size_t{16} << 20;    ///< of one frame
+    std::size_t bundle = std::size_t{256} << 20;  ///< of all frames of one bundle
+};
+
+/// Reads bundles from bytes, such as those of a capture or of a connection. All messages of a bundle arrive together,
+/// when its commit has been read; those of an aborted or damaged bundle are destroyed. Link the runtime, which reads
+/// the headers of frames.
+///
+///     bundle_reader<dp_tt_cfg_rsp> reader(c);
+///     while (...) {
+///         reader.feed(bytes, size);
+///         while (const auto bundle = reader.next()) {
+///             for (const dp_tt_msg &message : *bundle) ...
+///         }
+///     }
+///     reader.finish();
+template <class B>
+class bundle_reader {
+public:
+    /// The messages of one bundle.
+    using bundle = std::vector<message<typename B::message>>;
+
+    /// The messages are created in this context.
+    explicit bundle_reader(context &c, const bundle_limits &limits = {}) : context_(&c), limits_(limits) {}
+    /// Messages have one owner.
+    bundle_reader(const bundle_reader &) = delete;
+    /// Messages have one owner.
+    bundle_reader &operator=(const bundle_reader &) = delete;
+
+    /// Appends a copy of the bytes to those that have not been read. Frames may be cut anywhere.
+    void feed(const void *bytes, std::size_t size) {
+        bytes_.erase(bytes_.begin(), bytes_.end() - static_cast<std::ptrdiff_t>(left() + 1));
+        read_ = 0;
+        const auto *first = static_cast<const std::uint8_t *>(bytes);
+        bytes_.insert(bytes_.end() - 1, first, first + size);
+    }
+    /// Appends a copy of frames.
+    void feed(const frame &frames) { feed(frames.data(), frames.size()); }
+#if defined(__cpp_lib_span)
+    /// Appends a copy of the bytes.
+    void feed(std::span<const std::uint8_t> bytes) { feed(bytes.data(), bytes.size()); }
+#endif
+
+    /// Reads up to the end of a bundle and returns its messages, or std::nullopt if the bytes end before. An error is
+    /// about one frame or one bundle: the next call continues after it. Only bytes that are not a frame and a frame
+    /// that exceeds the limit cannot be passed over.
+    /// - ECANCELED: the sender aborted the bundle.
+    /// - EBADMSG: the bytes are not a frame, a frame claims more elements or characters than it can contain, or a
+    ///   message, a commit or an abort is outside a bundle.
+    /// - EEXIST: a bundle starts inside a bundle. The earlier one is lost.
+    /// - ENOENT: a frame belongs to another bundle. What follows is passed over up to the next start.
+    /// - EMSGSIZE: a frame or a bundle exceeds the limits, or a message is truncated.
+    ///
+    /// Other errors are those of message::from_frame().
+    [[nodiscard]] std::optional<bundle> next() {
+        while (const std::size_t size = size_of_frame()) {
+            const std::uint8_t *at = bytes_.data() + read_;
+            read_ += size;
+            if (is(at, B::start_luid())) {
+                const bool was_open = std::exchange(state_, inside) == inside;
+                messages_.clear();
+                size_ = size;
+                if (was_open) context_->fail(EEXIST, "a bundle starts inside a bundle");
+            } else if (is(at, B::commit_luid())) {
+                const place before = std::exchange(state_, outside);
+                if (before == inside) return std::exchange(messages_, {});
+                if (before == outside) context_->fail(EBADMSG, "a commit is outside a bundle");
+            } else if (is(at, B::abort_luid())) {
+                const place before = std::exchange(state_, outside);
+                messages_.clear();
+                if (before == inside) context_->fail(ECANCELED, "the sender aborted the bundle");
+                if (before == outside) context_->fail(EBADMSG, "an abort is outside a bundle");
+            } else {
+                read_message(at, size);
+            }
+        }
+        return std::nullopt;
+    }
+    /// Call this when no more bytes will come. EBADMSG if they end inside a bundle or a frame.
+    void finish() {
+        if (state_ != inside && left() == 0) return;
+        context_->fail(EBADMSG, left() != 0 ? "the last frame is incomplete" : "the last bundle has no end");
+    }
+
+private:
+    enum place : std::uint8_t { outside, inside, lost };  // lost: in a bundle that has been reported
+
+    std::size_t left() const noexcept { return bytes_.size() - 1 - read_; }
+    static bool is(const std::uint8_t *frame, const std::uint8_t *luid) {
+        return std::equal(luid, luid + 16, frame + 27);
+    }
+    // 0: the frame is incomplete, or there is an error.
+    std::size_t size_of_frame() {
+        if (!context_->ok() || left() < detail::message_head_size) return 0;
+        mirk_message_header header{};
+        std::uint32_t err = 0;
+        _mirk_message_header_unmarshal(context_->handle(), context_->ctx_id(), bytes_.data() + read_, &header,
+                                       detail::message_head_size, &err);
+        const std::size_t size = header.total_length;
+        if (err != 0 || size < detail::message_head_size) {
+            context_->fail(EBADMSG, "the bytes are not a frame");
+        } else if (size > limits_.frame) {
+            context_->fail(EMSGSIZE, "a frame exceeds the limit");
+        } else if (size <= left()) {
+            return size;
+        }
+        return 0;
+    }
+    void read_message(const std::uint8_t *at, std::size_t size) {
+        // If the frame cannot be read, its bundle is lost.
+        const place before = std::exchange(state_, lost);
+        bundle messages = std::exchange(messages_, {});
+        if (before == lost) return;
+        if (!is(at, B::message::luid())) {
+            context_->fail(ENOENT, "a frame does not belong to the bundle");
+        } else if (before == outside) {
+            context_->fail(EBADMSG, "a message is outside a bundle");
+        } else if (size_ += size; size_ > limits_.bundle) {
+            context_->fail(EMSGSIZE, "the bundle exceeds the limit");
+        } else {
+            messages.push_back(message<typename B::message>::from_frame_with_guard(*context_, at, size));
+            if (!context_->ok()) return;
+            messages_ = std::move(messages);
+            state_ = inside;
+        }
+    }
+
+    context *context_;
+    bundle_limits limits_;
+    std::vector<std::uint8_t> bytes_{0};  // the last one is a guard byte
+    std::size_t read_ = 0, size_ = 0;
+    place state_ = outside;
+    bundle messages_;
+};
+
 }  // namespace lumo_ui_tarn
 
-/// @cond hashes
+/// @cond hashes and formatters
 template <class R>
 struct std::hash<lumo_ui_tarn::record<R>> {
-    std::size_t operator()(const lumo_ui_tarn::record<R> &object) const { return object.hash(); }
+    std::size_t operator()(const lumo_ui_tarn::record<R> &object) const noexcept { return object.hash(); }
 };
 template <class R>
 struct std::hash<lumo_ui_tarn::record_ref<R>> {
-    std::size_t operator()(const lumo_ui_tarn::record_ref<R> &object) const { return object.hash(); }
+    std::size_t operator()(const lumo_ui_tarn::record_ref<R> &object) const noexcept { return object.hash(); }
 };
 template <class R>
 struct std::hash<lumo_ui_tarn::record_view<R>> {
-    std::size_t operator()(const lumo_ui_tarn::record_view<R> &object) const { return object.hash(); }
+    std::size_t operator()(const lumo_ui_tarn::record_view<R> &object) const noexcept { return object.hash(); }
 };
+#if defined(__cpp_lib_format)
+namespace lumo_ui_tarn::detail {
+struct line_formatter : std::formatter<std::string> {
+    template <class A, class Context>
+    auto format(const A &object, Context &c) const {
+        return std::formatter<std::string>::format(to_string(object), c);
+    }
+};
+}  // namespace lumo_ui_tarn::detail
+template <class R>
+struct std::formatter<lumo_ui_tarn::record<R>> : lumo_ui_tarn::detail::line_formatter {};
+template <class R>
+struct std::formatter<lumo_ui_tarn::record_ref<R>> : lumo_ui_tarn::detail::line_formatter {};
+template <class R>
+struct std::formatter<lumo_ui_tarn::record_view<R>> : lumo_ui_tarn::detail::line_formatter {};
+template <class M>
+struct std::formatter<lumo_ui_tarn::message<M>> : lumo_ui_tarn::detail::line_formatter {};
+template <class M>
+struct std::formatter<lumo_ui_tarn::message_ref<M>> : lumo_ui_tarn::detail::line_formatter {};
+template <class M>
+struct std::formatter<lumo_ui_tarn::message_view<M>> : lumo_ui_tarn::detail::line_formatter {};
+#endif
+#if defined(__cpp_lib_ranges)
+// Arrays are borrowed from a record, so copies are cheap, and iterators stay valid without them.
+template <class A>
+inline constexpr bool std::ranges::enable_view<lumo_ui_tarn::array_ref<A>> = true;
+template <class A>
+inline constexpr bool std::ranges::enable_view<lumo_ui_tarn::array_view<A>> = true;
+template <class A>
+inline constexpr bool std::ranges::enable_borrowed_range<lumo_ui_tarn::array_ref<A>> = true;
+template <class A>
+inline constexpr bool std::ranges::enable_borrowed_range<lumo_ui_tarn::array_view<A>> = true;
+#endif
 /// @endcond
 
 #endif

@@ -1,11 +1,14 @@
 # Compiles every public header by itself, as the first and only include of a source, with all warnings that clients may
 # enable.
-#   cmake -DCOMPILER= -DLANGUAGE= -DSTANDARD= -DINCLUDE= -DSOURCE= -P headers.cmake
-# SOURCE has one declaration: a header may consist of comments, and a source may not be empty.
-file(GLOB_RECURSE headers RELATIVE ${INCLUDE} ${INCLUDE}/*.h)
+#   cmake -DCOMPILER= -DLANGUAGE= -DSTANDARD= -DINCLUDE= -DHEADERS= -DLEAST= -DSOURCE= -P headers.cmake
+# INCLUDE is a list of folders; the headers of the first that match HEADERS are compiled, and there must be LEAST of
+# them. SOURCE has one declaration: a header may consist of comments, and a source may not be empty.
+list(GET INCLUDE 0 folder)
+list(TRANSFORM INCLUDE PREPEND -I)
+file(GLOB_RECURSE headers RELATIVE ${folder} ${folder}/${HEADERS})
 list(LENGTH headers count)
-if(count LESS 70)
-  message(FATAL_ERROR "only ${count} headers in ${INCLUDE}")
+if(count LESS ${LEAST})
+  message(FATAL_ERROR "only ${count} headers in ${folder}")
 endif()
 if(COMPILER MATCHES "clang")
   # All warnings except those about the language version, about padding, and about the names of the contract, some of
@@ -24,8 +27,8 @@ endif()
 set(failed 0)
 foreach(header IN LISTS headers)
   execute_process(
-    COMMAND ${COMPILER} -x ${LANGUAGE} -std=${STANDARD} -fsyntax-only ${warnings} -Werror -I${INCLUDE}
-            -include ${INCLUDE}/${header} ${SOURCE}
+    COMMAND ${COMPILER} -x ${LANGUAGE} -std=${STANDARD} -fsyntax-only ${warnings} -Werror ${INCLUDE}
+            -include ${folder}/${header} ${SOURCE}
     RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT code EQUAL 0)
     message("${header} does not compile as ${STANDARD}:\n${output}")

@@ -267,9 +267,9 @@ int read_frame(const char *file) {
             if (mirk_platform_frame_look(bytes.data() + at, bytes.size() - at, &frame) != 0) return 1;
             const std::size_t size = frame.header.total_length;
             if (std::equal(frame.luid, frame.luid + 16, cl_cfg_msg_type::luid())) {
-                cl_cfg_msg::from_frame(c, bytes.data() + at, size);
+                (void)cl_cfg_msg::from_frame(c, bytes.data() + at, size);
             } else if (std::equal(frame.luid, frame.luid + 16, dp_tt_msg_type::luid())) {
-                dp_tt_msg::from_frame(c, bytes.data() + at, size);
+                (void)dp_tt_msg::from_frame(c, bytes.data() + at, size);
             }
             at += size;
         }

@@ -252,8 +252,9 @@ constexpr std::string_view macro_names[] = {"ENUMERATION", "RECORD", "ARRAY", "M
 
 std::string macros() {
     std::string bundle = name_in_c("BUNDLE") + constants(Applies::bundle, "{b}_bundle_");
-    for (const char *control : {"start", "abort", "commit"}) {
-        bundle += constants(Applies::control, "{b}_bundle_", control);
+    for (const std::string control : {"start", "abort", "commit"}) {
+        bundle += "static const std::uint8_t *" + control + "_luid() noexcept { return message_##BUNDLE##_bundle_" +
+                  control + "_luid; }\n" + constants(Applies::control, "{b}_bundle_", control);
     }
     std::string array = "using native = RECORD;\nstatic constexpr auto size = RECORD##_##COUNT##_get_value;\n";
     for (const char *function : {"get", "set", "state_flag_get", "state_flag_set"}) {
@@ -268,7 +269,7 @@ std::string macros() {
            macro("ARRAY(RECORD, COUNT, MEMBER)", array) +
            macro("MESSAGE(MESSAGE, PAYLOAD)",
                  "using native = MESSAGE;\n" + name_in_c("MESSAGE") +
-                     "static const std::uint8_t *luid() { return message_##MESSAGE##_luid; }\n" +
+                     "static const std::uint8_t *luid() noexcept { return message_##MESSAGE##_luid; }\n" +
                      constants(Applies::message, "{m}_message_")) +
            macro("BUNDLE(BUNDLE)", bundle) + "/// @endcond\n\n";
 }
@@ -318,7 +319,7 @@ std::string enumeration_type(const Enumeration &enumeration) {
     }
     return text +
            "};\n/// Returns the enumerator's C name, or \"\" for any other value: frames can contain any number.\n" +
-           "constexpr std::string_view name_of(" + name + " value) {\n    switch (value) {\n" + cases +
+           "constexpr std::string_view name_of(" + name + " value) noexcept {\n    switch (value) {\n" + cases +
            "    }\n    return {};\n}\n/// The C functions of " + c + ", as static members.\nstruct " + name +
            "_type {\n" + "    using value = " + space + name +
            ";  ///< the type of its values\n    LUMO_UI_TARN_ENUMERATION(" + c + ");\n};\n\n";
@@ -333,8 +334,8 @@ std::string message_types(const Message &message) {
 
 std::string bundle_type(const Bundle &bundle) {
     const std::string c(bundle.name), message(bundle.message.name);
-    return "/// " + c + ": bundle of " + message + " messages. See bundle_writer.\nstruct " + short_name(bundle.name) +
-           " {\n    using message = " + space + short_name(message) +
+    return "/// " + c + ": bundle of " + message + " messages. See bundle_writer and bundle_reader.\nstruct " +
+           short_name(bundle.name) + " {\n    using message = " + space + short_name(message) +
            "_type;  ///< the type of its messages\n    LUMO_UI_TARN_BUNDLE(" + c + ");\n};\n\n";
 }
 
@@ -353,7 +354,8 @@ constexpr std::string_view introduction = R"(/// @file
 ///   borrows one, and dp_tc_view, which borrows one to read it.
 /// - Enumerations: enum classes, for example ha_state. name_of() returns the C name of an enumerator.
 /// - Messages: three types like records, for example dp_tt_msg. payload() is the record that the message carries.
-/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>.
+/// - Bundles: bundle_writer writes the frames of a bundle, for example bundle_writer<dp_tt_cfg_rsp>, and bundle_reader
+///   reads them. lumo_ui_tarn/exchange.hpp requests and serves bundles.
 ///
 /// lumo_ui_tarn/interface.hpp describes what these types have in common, and how errors are reported.
 ///
