@@ -21,7 +21,7 @@ function(require_built component)
   endforeach()
 endfunction()
 require_built(library $<TARGET_FILE:lumo_ui_tarn> $<TARGET_FILE:mirklib> $<TARGET_FILE:skald> $<TARGET_FILE:veld>)
-require_built(development ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz)
+require_built(development ${CMAKE_BINARY_DIR}/docs/lumo_ui_tarn.3.gz ${TARN_PYTHON_GENERATED})
 require_built(tools $<TARGET_FILE:tarn> ${TARN_DISSECTOR} ${TARN_PYTHON_FILES} ${CMAKE_BINARY_DIR}/docs/tarn.1.gz)
 require_built(documentation ${CMAKE_BINARY_DIR}/docs/tarn_frame.5.gz)
 if(TARN_STATIC)
@@ -95,6 +95,7 @@ install(FILES tools/tarn/completion/_tarn DESTINATION ${TARN_ZSH_DIR} COMPONENT 
 # ---- the Python package, if its requirements were found
 if(TARN_PYTHON_FILES)
   install(FILES ${TARN_PYTHON_FILES} DESTINATION ${TARN_PYTHON_DIR} COMPONENT tools)
+  install(FILES ${TARN_PYTHON_GENERATED} DESTINATION ${library_dir}/lumo_ui_tarn/python COMPONENT development)
 endif()
 
 # ---- documents
