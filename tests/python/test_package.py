@@ -4,10 +4,12 @@ import ast
 import copy
 import errno
 import gc
+import inspect
 import json
 import os
 import pathlib
 import pickle
+import pydoc
 import random
 import re
 import subprocess
@@ -18,7 +20,7 @@ import tracemalloc
 
 import lumo_tarn
 import pytest
-from conftest import MESSAGES, RECORDS, json_lines, tool, values_of
+from conftest import BITS, MESSAGES, RECORDS, json_lines, tool, values_of
 from hypothesis import HealthCheck, given, settings
 from hypothesis import strategies as st
 from lumo_tarn import _schema
@@ -62,6 +64,59 @@ def test_members_match_the_schema(record):
     assert [member.__doc__ for member in record.members.values()] == [row[4] for row in rows]
     assert not set(record.members) & set(dir(lumo_tarn.Record)), "no member hides an attribute of all records"
     assert [name for name, _ in record()] == [row[0] for row in rows if " " not in row[2]]
+
+
+def wrong_values(record, member, kind: str, of: str) -> dict:
+    """Values that the documentation of the member excludes, with their errors. Values that it admits are assigned."""
+    documentation = record.members[member].__doc__
+
+    def number(before: str) -> int:
+        return int(re.search(f"{before} ([0-9]+)", documentation)[1])
+
+    one = record()
+    if kind in BITS:
+        setattr(one, member, number("from 0 to"))
+        assert getattr(one, member) == number("from 0 to")
+        return {-1: OverflowError, number("from 0 to") + 1: OverflowError, "x": ValueError if kind == "u64" else TypeError}
+    if kind == "string":
+        setattr(one, member, "\N{EURO SIGN}" * (number("at most") // 3))
+        return {"x" * (number("at most") + 1): OverflowError, "\0": ValueError}
+    if kind == "address":
+        return {"10.0.0.0": ValueError, "x/8": ValueError}
+    if kind == "enumeration":
+        assert type(getattr(one, member)).__name__ in documentation
+        return {len(_schema.ENUMERATIONS[of][2]): OSError, "x": ValueError}
+    if kind == "record":
+        assert type(getattr(one, member)).__name__ in documentation
+        return {(): TypeError}
+    if kind == "array":
+        assert _schema.RECORDS[of][0] in documentation
+        with pytest.raises(OverflowError):
+            getattr(one, member).grow(number("at most") + 1)
+        return {}
+    assert kind == "boolean" or "read-only" in documentation
+    return {} if kind == "boolean" else {1: AttributeError}
+
+
+@pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)
+def test_documentation_of_members_is_true(record):
+    shown = pydoc.plain(pydoc.render_doc(record))
+    for attribute, _, kind, of, documentation in _schema.RECORDS[record.record_name][2]:
+        assert documentation.split("; ")[0][:40] in shown
+        for value, error in wrong_values(record, attribute, kind, of).items():
+            with pytest.raises(error) as raised:
+                setattr(record(), attribute, value)
+            assert error is not OSError or raised.value.errno == errno.EIDRM
+
+
+def test_everything_public_is_documented():
+    for name in lumo_tarn.__all__:
+        public = getattr(lumo_tarn, name)
+        assert inspect.getdoc(public), name
+        for inner, value in vars(public).items() if isinstance(public, type) else ():
+            is_part = callable(value) or isinstance(value, (property, classmethod))
+            if not inner.startswith("_") and is_part:
+                assert inspect.getdoc(getattr(public, inner)), f"{name}.{inner}"
 
 
 @pytest.mark.parametrize("record", RECORDS, ids=lambda record: record.__name__)

@@ -2,6 +2,9 @@
 
 from __future__ import annotations
 
+import asyncio
+from collections.abc import Iterator
+
 import lumo_tarn
 
 
@@ -29,3 +32,36 @@ def made() -> lumo_tarn.DpTc:
     prefix: lumo_tarn.Address = tc.src_prefix
     copied: lumo_tarn.DpTc = lumo_tarn.DpTc.from_frame(tc.to_frame())
     return copied if prefix == copied.src_prefix else tc
+
+
+def flows(path: str) -> list[int]:
+    columns = ["id", "proto"]
+    return [row["id"] for row in lumo_tarn.rows(path, lumo_tarn.DpTc, columns, where={"proto": lambda proto: proto == 6})]
+
+
+def changed(before: bytes, after: lumo_tarn.Message) -> list[str]:
+    return [str(change) for change in lumo_tarn.diff(before, after, ignore=["*_ptr"]) if change.kind != "reordered"]
+
+
+def answer(request: lumo_tarn.Request) -> Iterator[lumo_tarn.Message]:
+    yield lumo_tarn.DebugSettingMsg(lumo_tarn.DebugSetting(info_enabled=int(request.tracked)))
+
+
+async def answer_later(request: lumo_tarn.Request) -> bytes:
+    return lumo_tarn.bundle_frames(request.bundle, answer(request))
+
+
+async def asked(peers: list[str]) -> int:
+    async with lumo_tarn.serve("127.0.0.1:0", {"cl-debug": answer_later}, idle=5.0) as server:
+        answers = await asyncio.gather(*(lumo_tarn.ask_async(peer, "cl-debug") for peer in [*peers, server.address]))
+    return sum(len(one) for one in answers)
+
+
+def exchanged() -> str:
+    with lumo_tarn.serve("127.0.0.1:0", {"cl-debug": answer}) as server, lumo_tarn.Client(server.address) as client:
+        try:
+            (message,) = client.ask("cl-debug", timeout=1.5) + lumo_tarn.ask(server.address, "cl-debug")
+        except lumo_tarn.RefusedError as error:
+            return error.strerror
+    with lumo_tarn.Handle(tracked=True) as on:
+        return message.copy(on=on).text()

@@ -1,6 +1,7 @@
 // The schema as tables for the Python package, and type stubs of its classes.
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <iterator>
 
 #include "api.h"
@@ -66,19 +67,66 @@ std::string quoted(std::string_view text) {
     return out + "\"";
 }
 
+// What a member holds, and the errors of assigning something else. `counter` is the count or the length before it.
+std::string documentation(const Member &m, const Member *counter) {
+    const std::string meaning(m.meaning);
+    const std::string most =
+        std::to_string(greatest(m.role == Role::value && counter != nullptr ? counter->kind : m.kind));
+    if (m.role != Role::value) return meaning + ": read-only, up to " + most;
+    switch (category(m.kind)) {
+        case Category::integer:
+            return meaning + ": a number from 0 to " + most +
+                   (greatest(m.kind) > 0xffffffff ? ", or its digits as text; ValueError for other text" : "") +
+                   "; OverflowError for other numbers";
+        case Category::boolean:
+            return meaning + ": True or False";
+        case Category::enumeration:
+            return meaning + ": " + class_name(type_name(*m.enumeration)) +
+                   ", or a number from a frame that has no name; assigning accepts numbers and names in C; OSError "
+                   "(EIDRM) "
+                   "for "
+                   "an unknown number, ValueError for an unknown name";
+        case Category::address:
+            return meaning +
+                   ": Address; assigning accepts text such as 10.0.0.0/8 and interfaces of the module ipaddress; "
+                   "ValueError "
+                   "for other text";
+        case Category::record:
+            return meaning + ": " + class_of_record(*m.record) +
+                   ", a part of this record; assigning copies another one; TypeError for anything else";
+        case Category::string:
+            return meaning + ": text of at most " + most +
+                   " bytes as UTF-8; OverflowError if it is longer, ValueError if it contains a NUL character";
+        case Category::array:
+            return meaning + ": Array of at most " + most + " " + class_of_record(*m.record) +
+                   "; assigning copies records or mappings; ValueError for fewer than before, OverflowError for too "
+                   "many";
+    }
+    std::abort();
+}
+
+// The members of a record with their documentation.
+void for_each_documented(const Record &record, const std::function<void(const Member &, const std::string &)> &visit) {
+    const Member *counter = nullptr;
+    for (const Member &m : record.members) {
+        visit(m, documentation(m, m.role == Role::value ? counter : nullptr));
+        counter = m.role == Role::value ? nullptr : &m;
+    }
+}
+
 std::string tables() {
     std::string text =
         "\"\"\"The schema. Generated; do not edit.\"\"\"\n\n"
-        "# class, meaning, members: attribute, name, kind, record or enumeration, meaning\nRECORDS = {\n";
+        "# class, meaning, members: attribute, name, kind, record or enumeration, documentation\nRECORDS = {\n";
     for (const Record *r : records) {
         text += "    " + quoted(r->name) + ": (" + quoted(class_of_record(*r)) + ", " + quoted(r->meaning) + ", [\n";
-        for (const Member &m : r->members) {
+        for_each_documented(*r, [&](const Member &m, const std::string &documentation) {
             const std::string_view of = m.record != nullptr        ? m.record->name
                                         : m.enumeration != nullptr ? m.enumeration->name
                                                                    : std::string_view();
             text += "        (" + quoted(attribute(m.name)) + ", " + quoted(m.name) + ", " + quoted(kind_of(m)) + ", " +
-                    quoted(of) + ", " + quoted(m.meaning) + "),\n";
-        }
+                    quoted(of) + ", " + quoted(documentation) + "),\n";
+        });
         text += "    ]),\n";
     }
     text += "}\n\n# class, meaning, names in C, names in Python\nENUMERATIONS = {\n";
@@ -114,7 +162,9 @@ std::string tables() {
         }
         text += "    " + quoted(r->name) + ": (" + std::to_string(layout.base_size) + ", [" + offsets + "]),\n";
     }
-    text += "}\n\n# of elements of arrays: what one is called, and the members that identify it\nKEYS: dict[str, tuple[str, list[str]]] = {\n";
+    text +=
+        "}\n\n# of elements of arrays: what one is called, and the members that identify it\nKEYS: dict[str, "
+        "tuple[str, list[str]]] = {\n";
     for (const Record *r : records) {
         if (!r->key.is_stated) continue;
         std::string members;
@@ -162,19 +212,19 @@ std::string stub(const Record &record) {
     std::string text = "class " + class_of_record(record) + "(Record):\n    \"\"\"" + std::string(record.meaning) +
                        "\"\"\"\n\n    def __init__(\n        self,\n        *,\n        on: Handle | None = None,\n";
     std::string properties;
-    for (const Member &m : record.members) {
+    for_each_documented(record, [&](const Member &m, const std::string &documentation) {
         const Typed type = typed(m);
         const std::string name = attribute(m.name);
         if (!type.written.empty()) {
             const bool nests = m.kind == Kind::record;
             text += "        " + name + ": " + type.written + (nests ? " | Mapping[str, Any]" : "") + " = ...,\n";
         }
-        properties +=
-            "    @property\n    def " + name + "(self) -> " + type.read + ": ...  # " + std::string(m.meaning) + "\n";
-        if (type.written.empty()) continue;
+        properties += "    @property\n    def " + name + "(self) -> " + type.read + ":\n        \"\"\"" +
+                      documentation + "\"\"\"\n";
+        if (type.written.empty()) return;
         properties +=
             "    @" + name + ".setter\n    def " + name + "(self, value: " + type.written + ") -> None: ...\n";
-    }
+    });
     return text + "    ) -> None: ...\n" + properties + "\n";
 }
 

@@ -45,6 +45,7 @@ class Native:
 
     @property
     def handle(self) -> Handle:
+        """The handle on which the object was created."""
         return self._handle
 
     def _bind(self, on: Handle, locate: Callable[[], Any]) -> None:

@@ -29,6 +29,8 @@ class Control:
     kind: str
 
     def to_frame(self, on: Handle | None = None) -> bytes:
+        """Returns the control message as a frame, and opens or closes the bundle on the handle. Raises OSError: EEXIST
+        for a start if a bundle is open there, ENOENT for a commit or an abort if none is."""
         on = on or handle()
         buffer = ffi.new("uint8_t[64]")
         marshal = getattr(lib, f"{self.bundle}_bundle_{self.kind}_message_marshal")

@@ -97,6 +97,7 @@ class Handle:
 
     @property
     def is_closed(self) -> bool:
+        """Whether close() was called."""
         return self._native is None
 
     def require_open(self) -> None:

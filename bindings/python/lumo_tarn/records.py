@@ -181,7 +181,8 @@ for _name, (_class, _meaning, _rows) in _schema.RECORDS.items():
         or isinstance(member, RecordMember) and member.record.owns_blocks
         for member in _fields.values()
     )
-    _content = {**_fields, "record_name": _name, "members": _fields, "owns_blocks": _owns, "__doc__": _meaning}
+    _doc = f"{_meaning}\n\nThe constructor takes members by name, and the handle as on. Record documents the methods."
+    _content = {**_fields, "record_name": _name, "members": _fields, "owns_blocks": _owns, "__doc__": _doc}
     _made[_name] = type(_class, (Record,), {**_content, "__module__": __name__})
 for _name, (_class, _payload) in _schema.MESSAGES.items():
     _luid = bytes(ffi.buffer(getattr(lib, f"message_{_name}_luid"), 16))
