@@ -1,4 +1,4 @@
-"""Compares rows() with "tarn rows --format csv": rows_speed.py FOLDER. Prints the processor time of both for 100,000
+"""Compares rows() with "tarn rows --format csv": rows.py FOLDER. Prints the processor time of both for 100,000
 classes with ten columns, and fails if Python takes more than ten times as long."""
 
 import os
@@ -30,6 +30,7 @@ for number, tc in enumerate(classes.tc_list):
     tc.set(id=number, src_prefix=f"10.0.{number % 256}.0/24", dst_prefix=f"2001:db8::{number:x}/128", next_ptr=number << 32)
 message = lumo_tarn.DpTtMsg(lumo_tarn.DpTtTableData(lumo_data=[{"agg_tc_list": classes}]))
 capture = pathlib.Path(sys.argv[1], "classes.bin")
+capture.parent.mkdir(parents=True, exist_ok=True)
 capture.write_bytes(message.to_frame() * 100)
 
 tool = processor_time(os.environ["TARN_TOOL"], "rows", "tc", str(capture), "--columns", COLUMNS, "--format", "csv")
