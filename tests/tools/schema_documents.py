@@ -1,19 +1,22 @@
 #!/usr/bin/env python3
-"""The schemas that tarn prints, with a validator each: schema_documents.py TARN
+"""The schemas that tarn prints, with a validator each: schema_documents.py TARN PAGE
 
-Random messages of every type are accepted. Damaged ones are refused, and so they are by tarn."""
+Random messages of every type are accepted. Damaged ones are refused, and so they are by tarn. Editors find in the
+schemas what they propose for completion: all members with their meanings, and all enumerators. The table in PAGE,
+docs/json.md, lists what they propose for a message."""
 
 import copy
 import json
 import pathlib
 import random
+import re
 import subprocess
 import sys
 import tempfile
 
 import jsonschema
 
-tarn = sys.argv[1]
+tarn, page = sys.argv[1:]
 scratch = pathlib.Path(tempfile.mkdtemp())
 failures = 0
 
@@ -76,16 +79,66 @@ def damages(message, pick):
     yield {**message, "more": 1}
 
 
+def alternatives(schema, part):
+    """The schemas that a part of a schema refers to or lists."""
+    if "$ref" in part:
+        yield from alternatives(schema, schema["$defs"][part["$ref"].rpartition("/")[2]])
+    elif "anyOf" in part:
+        for one in part["anyOf"]:
+            yield from alternatives(schema, one)
+    else:
+        yield part
+
+
+def proposals(schema, part):
+    """The keys, or the values, that an editor proposes for a part of a schema, with what it says about them."""
+    found = {}
+    for one in alternatives(schema, part):
+        for name, member in one.get("properties", {}).items():
+            found[name] = member.get("description")
+        for value in one.get("enum", [one["const"]] if "const" in one else []):
+            found[value] = None
+    return found
+
+
+def expect_completion(schema, described):
+    """Members and enumerators of all records in a schema are proposed."""
+    for name, definition in schema["$defs"].items():
+        if name not in described["records"]:
+            continue
+        proposed = proposals(schema, definition)
+        for member in described["records"][name]["members"]:
+            expect(proposed.get(member["name"]) == member["meaning"], f"{name}: {member['name']} has no meaning")
+            enumerators = described["enumerations"].get(member["kind"], {}).get("enumerators", [])
+            values = proposals(schema, definition["properties"].get(member["name"], {}))
+            expect(set(enumerators) <= set(values), f"{name}: enumerators of {member['name']} are not proposed")
+
+
+def expect_table(schema):
+    """The rows of the page list what is proposed."""
+    places = {"in the outermost object": schema, "value of `message`": schema["properties"]["message"],
+              "in the object `payload`": schema["properties"]["payload"]}
+    rows = re.findall(r"^\| ((?:in|value) .*?) \| (.*) \|$", pathlib.Path(page).read_text(), re.M)
+    expect(len(rows) == len(places), f"{page}: {len(rows)} places")
+    for place, names in rows:
+        expect(re.findall(r"`(.*?)`", names) == list(proposals(schema, places[place])), f"{page}: {place}")
+
+
 def accepted(text):
     return run(tarn, "encode", "-o", "/dev/null", given=text).returncode == 0
 
 
-names = [m["name"] for m in json.loads(output("schema", "--json"))["messages"]]
+described = json.loads(output("schema", "--json"))
+names = [m["name"] for m in described["messages"]]
+for list_name in "records", "enumerations":
+    described[list_name] = {one["name"]: one for one in described[list_name]}
+expect_table(json.loads(output("schema", "--json-schema", "cl-debug")))
 for name in names:
     pick = random.Random(name)
     schema = json.loads(output("schema", "--json-schema", name))
     jsonschema.Draft202012Validator.check_schema(schema)
     validator = jsonschema.Draft202012Validator(schema)
+    expect_completion(schema, described)
     xsd = scratch / f"{name}.xsd"
     xsd.write_text(output("schema", "--xsd", name))
 
