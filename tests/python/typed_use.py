@@ -62,6 +62,6 @@ def exchanged() -> str:
         try:
             (message,) = client.ask("cl-debug", timeout=1.5) + lumo_tarn.ask(server.address, "cl-debug")
         except lumo_tarn.RefusedError as error:
-            return error.strerror
+            return str(error)
     with lumo_tarn.Handle(tracked=True) as on:
         return message.copy(on=on).text()
