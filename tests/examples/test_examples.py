@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import signal
 import subprocess
 import sys
@@ -56,7 +57,7 @@ def test_answer_request(tmp_path: pathlib.Path):
 @pytest.mark.parametrize("name", sorted(path.name for path in EXAMPLES.glob("*.py")))
 def test_a_script_without_arguments_prints_its_usage(name: str):
     usage = script(name, code=1)
-    assert f"{name} F" in usage
+    assert re.search(rf"{name} [A-Z]+", usage)
     assert "Traceback" not in usage
 
 
@@ -157,3 +158,22 @@ def test_convert_captures(tmp_path: pathlib.Path):
 @pytest.mark.parametrize("program", ["answer_request", "collect_bundle"])
 def test_a_wrong_call_prints_the_usage(program: str):
     assert run(PROGRAMS / program, code=2).startswith(f"usage: {program} SOCKET")
+
+
+def test_serve_classes_and_ask_many(tmp_path: pathlib.Path):
+    table, socket, other = tmp_path / "classes.csv", tmp_path / "socket", tmp_path / "other"
+    table.write_text("id,src_prefix,proto\n7,10.0.0.0/8,6\n8,2001:db8::/32,17\n")
+    with Background(sys.executable, EXAMPLES / "serve_classes.py", table, socket):
+        saved = tmp_path / "saved.bin"
+        run(TOOL, "show", "dp-tt-cfg", "--socket", socket, "--save", saved)
+        assert script("print_classes.py", saved) == "7 10.0.0.0/8 unset\n8 2001:db8::/32 unset\n"
+        assert script("ask_many.py", "dp-tt-cfg", socket, socket) == f"{socket}: 1\n" * 2
+        table.write_text("id\nseven\n")
+        failed = subprocess.run(
+            [sys.executable, EXAMPLES / "ask_many.py", "dp-tt-cfg", socket, other], capture_output=True, text=True, check=False
+        )
+        assert failed.returncode == 1 and not failed.stderr
+        refused, absent = failed.stdout.splitlines()
+        assert refused == f"{socket}: [Errno 5] the answer could not be written"
+        assert absent == f"{other}: [Errno 2] cannot connect: No such file or directory: '{other}'"
+    assert not socket.exists()

@@ -131,7 +131,7 @@ class Record(Native):
 
     def to_json(self) -> str:
         """Returns JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are text, which
-        the constructor and assignments accept."""
+        the constructor and assignments accept. What has no body is null, or the error of to_dict()."""
         return json.dumps(self._values(as_json=True))
 
     def _values(self, as_json: bool = False) -> dict[str, Any]:

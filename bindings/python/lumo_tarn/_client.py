@@ -27,17 +27,25 @@ _BETWEEN_SIGNALS_MS = 100
 class RefusedError(OSError):
     """The peer refused the request. errno and strerror are what it stated."""
 
+    __module__ = "lumo_tarn"
+
 
 class AbortedError(OSError):
     """The peer aborted the bundle: ECANCELED."""
+
+    __module__ = "lumo_tarn"
 
 
 class LimitError(OSError):
     """A frame or the whole answer exceeds its limit: EMSGSIZE."""
 
+    __module__ = "lumo_tarn"
+
 
 class InvalidAnswerError(OSError):
     """The peer sent something other than an answer to the request: EBADMSG, or the error of reading a frame."""
+
+    __module__ = "lumo_tarn"
 
 
 def milliseconds(seconds: float) -> int:
