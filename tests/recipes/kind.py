@@ -81,6 +81,12 @@ import lumo_tarn
 setting = lumo_tarn.DebugSetting(peak_load=700)
 assert lumo_tarn.DebugSetting.from_xml(setting.to_xml()).peak_load == 700
 assert setting.to_frame()[-2:] == (700).to_bytes(2, "big")
+assert setting.to_dict()["peak_load"] == 700
+try:
+    setting.peak_load = 1001
+except OverflowError as error:
+    assert str(error) == "peak_load is at most 1000"
+assert setting.peak_load == 700
 
 # The tool refuses what is greater than the kind's greatest value.
 import os, pathlib, re, subprocess
@@ -96,7 +102,7 @@ FILES = [
     ("include/lumo_ui_tarn/records/lumo_tarn_debug_setting.h", "lumo_tarn_debug_setting_peak_load_set_value("),
     ("include/lumo_ui_tarn.hpp", "std::uint16_t peak_load() const"),
     ("tests/golden/layout.txt", "peak_load"),
-    ("build/dev/bindings/python/lumo_tarn/_schema.py", '"peak_load", "permille", "", "highest load so far"'),
+    ("build/dev/bindings/python/lumo_tarn/_schema.py", '"peak_load", "permille", "", "highest load so far: a number from 0 to 1000'),
     ("build/dev/tools/generate/dissector/tarn.lua", "permille = 2, "),
     ("build/dev/docs/tarn_frame.5", "permille Ta 2 Ta \"a number, at most 1000\"\n"),
     ("build/dev/docs/tarn_frame.5", ".It peak_load\npermille, 2 bytes: highest load so far\n"),

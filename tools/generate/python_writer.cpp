@@ -171,10 +171,11 @@ std::string tables() {
         for (const std::string_view name : r->key.members()) members += (members.empty() ? "" : ", ") + quoted(name);
         text += "    " + quoted(r->name) + ": (" + quoted(r->key.element) + ", [" + members + "]),\n";
     }
-    text += "}\n\n# the largest value of each kind of integer\nGREATEST = {\n";
+    text += "}\n\n# of each kind of integer: bytes, and the greatest value\nINTEGERS = {\n";
     for (const KindFacts &kind : kind_facts) {
         if (kind.greatest == 0) continue;
-        text += "    " + quoted(kind.name) + ": " + std::to_string(kind.greatest) + ",\n";
+        text += "    " + quoted(kind.name) + ": (" + std::to_string(kind.storage) + ", " +
+                std::to_string(kind.greatest) + "),\n";
     }
     return text + "}\n";
 }

@@ -89,13 +89,13 @@ class Plan:
             names = dict(enumerate(_schema.ENUMERATIONS[of][2]))
             return lambda values: names.get(value := next(values), value)  # frames can contain any number
         self._field(offset, _integer(kind))
-        if self._as_json and _schema.GREATEST[kind] > 0xFFFFFFFF:
+        if self._as_json and _schema.INTEGERS[kind][0] > 4:
             return lambda values: str(next(values))
         return next
 
 
 def _integer(kind: str) -> str:
-    return _INTEGERS[_schema.GREATEST[kind].bit_length() // 8]
+    return _INTEGERS[_schema.INTEGERS[kind][0]]
 
 
 def _address(raw: bytes) -> Any:

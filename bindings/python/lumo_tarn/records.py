@@ -12,7 +12,7 @@ from ._native import ffi, lib
 
 
 class Member:
-    """The descriptor of a member. This class is for integers; the other kinds of members derive from it."""
+    """The descriptor of a member. The kinds of members derive from it."""
 
     tracked = True
 
@@ -38,11 +38,17 @@ class Member:
         record._call(f"{self.name}_state_flag_set", value)
 
 
-class WideMember(Member):
-    """An integer of 64 bits, which is text in JSON."""
+class IntegerMember(Member):
+    def __init__(self, name: str, meaning: str, size: int, most: int) -> None:
+        super().__init__(name, meaning)
+        self.most, self.is_text_in_json = most, size > 4
 
     def write(self, record: Record, value: Any) -> None:
-        super().write(record, int(value) if isinstance(value, str) else value)
+        if self.is_text_in_json and isinstance(value, str):
+            value = int(value)
+        if value > self.most:
+            raise OverflowError(f"{self.name} is at most {self.most}")
+        super().write(record, value)
 
 
 class CountMember(Member):
@@ -86,9 +92,9 @@ class AddressMember(Member):
 
 
 class StringMember(Member):
-    def __init__(self, name: str, meaning: str, length: str) -> None:
+    def __init__(self, name: str, meaning: str, length: str, most: int) -> None:
         super().__init__(name, meaning)
-        self.length = length
+        self.length, self.most = length, most
 
     def read(self, record: Record) -> str:
         size = record._call(f"{self.length}_get_value") + 1
@@ -101,8 +107,8 @@ class StringMember(Member):
         text = value.encode(errors="surrogateescape")
         if b"\0" in text:  # the C function would store what precedes it
             raise ValueError(f"{self.name} cannot contain a NUL character")
-        if len(text) > 0xFFFF:
-            raise OverflowError(f"{self.name} holds at most 65535 bytes")
+        if len(text) > self.most:
+            raise OverflowError(f"{self.name} holds at most {self.most} bytes")
         record._call(f"{self.name}_set", text, len(text))
 
 
@@ -157,17 +163,17 @@ def _members(rows: list[tuple[str, str, str, str, str]]) -> dict[str, Member]:
         elif kind == "address":
             member = AddressMember(name, meaning)
         elif kind == "string":
-            member = StringMember(name, meaning, before)
+            member = StringMember(name, meaning, before, most)
         elif kind == "record":
             member = RecordMember(name, meaning, _made[of])
         elif kind == "array":
             member = ArrayMember(name, meaning, _made[of], before, most)
-        elif kind in _schema.GREATEST:
-            member = (WideMember if _schema.GREATEST[kind] > 0xFFFFFFFF else Member)(name, meaning)
+        elif kind in _schema.INTEGERS:
+            member = IntegerMember(name, meaning, *_schema.INTEGERS[kind])
         else:
             raise NotImplementedError(f"members of kind {kind} are not supported")
         members[attribute] = member
-        before, most = name, _schema.GREATEST.get(kind.rpartition(" ")[2], 0)
+        before, most = name, _schema.INTEGERS.get(kind.rpartition(" ")[2], (0, 0))[1]
     return members
 
 
