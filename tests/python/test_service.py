@@ -172,6 +172,23 @@ def test_a_signal_ends_the_waiting(path):
         assert time.monotonic() - begin < 2
 
 
+def test_a_client_in_use_is_not_closed(path):
+    errors = []
+
+    def answer(request):
+        for use in (client.close, lambda: client.ask("cl-debug")):
+            with pytest.raises(RuntimeError, match="the client is in use"):
+                use()
+            errors.append(True)
+        return []
+
+    with lumo_tarn.serve(path, {"cl-debug": answer}):
+        client = lumo_tarn.Client(path)
+        assert client.ask("cl-debug") == [] and errors == [True, True]
+        client.close()
+        client.close()
+
+
 # ---- serving
 
 

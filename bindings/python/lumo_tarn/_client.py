@@ -2,12 +2,13 @@
 
 from __future__ import annotations
 
+import contextlib
 import errno
 import os
 import threading
 import time
 import weakref
-from typing import Callable, Union
+from typing import Callable, Iterator, Union
 
 from . import _schema
 from ._async import in_thread
@@ -125,7 +126,8 @@ class _Answer:
 
 class Client:
     """A connection to a process that serves bundles. Use it from one thread at a time, in a with statement or with
-    close(). After an error other than RefusedError it is closed.
+    close(): a second call before the first has ended raises RuntimeError. After an error other than RefusedError it is
+    closed.
 
     address is the path of a socket file, as a path or as text with a slash, or a TCP address: "HOST:PORT", "HOST", ":PORT"
     or ""; by default, the host is 127.0.0.1 and the port 28276. timeout, here and below, is in seconds; frame_limit, in
@@ -155,8 +157,17 @@ class Client:
 
     def close(self) -> None:
         """Closes the connection. A closed client can be closed again."""
-        with self._lock:
+        with self._alone():
             self._finalizer()
+
+    @contextlib.contextmanager
+    def _alone(self) -> Iterator[None]:
+        if not self._lock.acquire(blocking=False):  # waiting would never end in a signal handler
+            raise RuntimeError("the client is in use")
+        try:
+            yield
+        finally:
+            self._lock.release()
 
     def __enter__(self) -> Client:
         return self
@@ -180,7 +191,7 @@ class Client:
     ) -> list[Message]:
         """Like ask(), for the full name of a bundle. Raises TimeoutError soon after is_canceled() returns true."""
         answer = _Answer(bundle, self._answer_limit, on or handle(tracked))
-        with self._lock:
+        with self._alone():
             if not self._finalizer.alive:
                 raise ValueError("the client is closed")
             try:
