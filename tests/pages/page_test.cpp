@@ -55,6 +55,8 @@ const type = words => {
 };
 const press = key =>
   document.getElementById('search').dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));
+// A key on what has the focus.
+const strike = key => document.activeElement.dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));
 const found = () => document.getElementById('found').textContent;
 )";
 
@@ -153,6 +155,8 @@ TEST(View, SearchFindsNamesAndValuesInFoldedMembers) {
         type('sig_list');
         press('Enter');
         seen.name = [found(), selectedRows()];
+        type('not in there');
+        seen.absent = [found(), selectedRows(), markedBytes(0), location.hash];
         type('');
         seen.nothing = found();
         seen.injected = document.querySelectorAll('img, #broken').length;
@@ -160,6 +164,7 @@ TEST(View, SearchFindsNamesAndValuesInFoldedMembers) {
         seen.owned = [...sides[0].data.keys()].every(at => ownerOf(0, at) !== null);)");
     EXPECT_EQ(seen.at("value"), (json{"1 of 1", {"payload.lumo_data[1].sig_list[1].appl_name"}}));
     EXPECT_EQ(seen.at("name"), (json{"2 of 2", {"payload.lumo_data[1].sig_list"}}));
+    EXPECT_EQ(seen.at("absent"), (json{"nothing found", json::array(), json::array(), ""}));
     EXPECT_EQ(seen.at("nothing"), "");
     EXPECT_EQ(seen.at("injected"), 0);
     EXPECT_EQ(seen.at("title"), name + " - tarn");
@@ -193,15 +198,26 @@ TEST(View, ShowsADifference) {
         seen.bytes = [markedBytes(0), markedBytes(1)];
         document.getElementById('changes').click();
         seen.left = [...document.querySelectorAll('.row')].map(r => r.dataset.path);
+        seen.first = [found(), selectedRows(), location.hash];
         document.getElementById('next').click();
-        document.getElementById('next').click();
-        seen.next = [found(), selectedRows()];)");
+        seen.next = [found(), selectedRows()];
+        strike('n');
+        seen.again = [found(), selectedRows()];
+        strike('p');
+        seen.back = [found(), selectedRows()];
+        document.getElementById('previous').click();
+        seen.previous = [found(), selectedRows()];)");
     EXPECT_EQ(seen.at("summary"), "3 frames, 2 differences");
     EXPECT_EQ(seen.at("changed"), json::array({"payload.info_enabled", "payload.warn_enabled"}));
     EXPECT_EQ(seen.at("values"), json::array({"5", "7"}));
     EXPECT_EQ(seen.at("bytes"), json::array({bytes(members_at + 8, 4), bytes(members_at + 8, 4)}));
     EXPECT_EQ(seen.at("left"), json::array({"", "payload", "payload.info_enabled", "payload.warn_enabled"}));
-    EXPECT_EQ(seen.at("next"), (json{"2 of 2 changes", {"payload.warn_enabled"}}));
+    const json first{"1 of 2 changes", {"payload.info_enabled"}}, second{"2 of 2 changes", {"payload.warn_enabled"}};
+    EXPECT_EQ(seen.at("first"), (json{first[0], first[1], "#1:payload.info_enabled"}));
+    EXPECT_EQ(seen.at("next"), second);
+    EXPECT_EQ(seen.at("again"), first);
+    EXPECT_EQ(seen.at("back"), second);
+    EXPECT_EQ(seen.at("previous"), first);
 }
 
 // Frames whose parts have other sizes, other states and unusual values. A walk over all nodes counts the same.
@@ -218,6 +234,7 @@ TEST(View, CountsDifferencesAsTheyAreShown) {
     }
     const json seen = seen_in(page_of({directory.write("a.bin", a), directory.write("b.bin", b)}), R"(
         const countBelow = node => {
+            if (isInAddress(node)) return 0;
             if (isOneSided(node)) return Number(!node.structural);
             let sum = Number(differs(node));
             for (let i = 0; i < list(node).length; ++i) sum += countBelow(childAt(node, i));
@@ -297,8 +314,104 @@ TEST(View, CreatesOnlyTheVisibleRowsOfADifference) {
     EXPECT_EQ(seen.at("changed"), true);
     EXPECT_LT(seen.at("only")[0], 500);
     EXPECT_EQ(seen.at("only")[1], true);
-    EXPECT_EQ(seen.at("next"), (json{"1 of 5000 or more changes", 1}));
+    EXPECT_EQ(seen.at("next"), (json{"2 of 5000 or more changes", 1}));
     EXPECT_LT(seen.at("nodes"), 5000 + 200 * 16 + 1000);
+}
+
+std::string large_answer(const Directory &directory, const std::string &seed = "1") {
+    std::string path = directory.path("answer" + seed);
+    const Outcome made =
+        tool_test::tarn({"generate", "dp-appl-cfg", "--size", "256K", "--form", "frames", "--seed", seed, "-o", path});
+    EXPECT_EQ(made.exit, 0) << made.err;
+    return path;
+}
+
+const char *const tree_helpers = R"(
+    const list = 'payload.lumo_data[0].sig_list', all = sizeOf(nodeOf('0:' + list));
+    const stops = () => [...document.querySelectorAll('#tree, .row')].filter(e => e.tabIndex === 0)
+      .map(e => e.dataset.path);
+    const active = () => document.activeElement.dataset.path;
+    const pressed = keys => keys.map(key => { strike(key); return active(); });
+    const enter = path => { select(nodeOf('0:' + path)); enterTree(); };
+    const facts = path => ['level', 'posinset', 'setsize', 'expanded', 'selected', 'label']
+      .map(name => rowAt(path).getAttribute('aria-' + name));
+)";
+
+TEST(View, TellsAScreenReaderLevelPositionAndState) {
+    const Directory directory;
+    const json seen = seen_in(page_of({large_answer(directory)}), tree_helpers + std::string(R"(
+        seen.start = [stops(), tree.tabIndex];
+        seen.list = facts('payload.lumo_data');
+        enter(list);
+        unfold(selected);
+        select(nodeOf('0:' + list + '[1]'));
+        seen.element = [facts(list + '[1]'), facts(list + '[0]')];
+        select(nodeOf('0:' + list + '[' + (all - 1) + '].pal_id'));
+        seen.last = [facts(selected.parent.path), selected.path].flat();
+        seen.all = String(all);
+        seen.stops = [stops(), tree.tabIndex];
+        seen.value = facts(selected.path);)"));
+    EXPECT_EQ(seen.at("start"), (json{{""}, -1}));
+    const json &list = seen.at("list"), &element = seen.at("element"), &last = seen.at("last"), &all = seen.at("all");
+    EXPECT_EQ(list[0], "3");
+    EXPECT_EQ(list[1], list[2]) << "the last member";
+    EXPECT_EQ(list[3], "true");
+    EXPECT_EQ(list[4], "false");
+    EXPECT_EQ(list[5].get<std::string>().find("lumo_data, lumo_tarn_dp_appl_cfg[], "), 0U) << list[5];
+    EXPECT_EQ(element[0], (json{"6", "2", all, "false", "true", element[0][5]}));
+    EXPECT_EQ(element[1], (json{"6", "1", all, "false", "false", element[1][5]}));
+    EXPECT_EQ(last, (json{"6", all, all, "true", "false", last[5], last[6]}));
+    EXPECT_EQ(seen.at("stops"), (json{{last[6]}, -1}));
+    EXPECT_EQ(seen.at("value")[3], nullptr) << "without members";
+}
+
+TEST(View, FollowsTheKeysOfATree) {
+    const Directory directory;
+    const json seen = seen_in(page_of({large_answer(directory)}), tree_helpers + std::string(R"(
+        seen.list = list;
+        seen.end = list + '[' + (all - 1) + ']';
+        enter(list);
+        seen.open = pressed(['ArrowRight', 'ArrowRight', 'ArrowDown', 'ArrowRight', 'ArrowRight', 'ArrowRight']);
+        seen.close = pressed(['ArrowLeft', 'ArrowLeft', 'ArrowLeft', 'ArrowLeft']);
+        seen.selected = selectedRows();
+        enter(seen.end);
+        seen.over = pressed(['ArrowUp', 'ArrowDown', 'ArrowDown', 'ArrowUp']);
+        seen.ends = pressed(['Home', 'ArrowUp', 'Enter', 'ArrowDown', 'Enter', 'ArrowDown', 'End', 'ArrowDown']);
+        enter(list + '[50]');
+        const rowsInPage = Math.floor(tree.clientHeight / 22) - 1;
+        seen.pages = pressed(['PageDown', 'PageUp', 'PageUp']);
+        seen.expected = [50 + rowsInPage, 50, 50 - rowsInPage].map(i => list + '[' + i + ']');
+        // A row that is out of sight does not exist; the keys still work.
+        enter(list + '[5]');
+        const box = boxOf(selected);
+        erase(box);
+        seen.lost = [document.activeElement === document.body, tree.tabIndex];
+        strike('ArrowDown');
+        seen.again = [active(), tree.tabIndex];
+        erase(box);
+        tree.focus();
+        seen.entered = active();
+        strike('/');
+        seen.search = document.activeElement.id;
+        press('Escape');
+        seen.escaped = active();)"));
+    const std::string list = seen.at("list");
+    const json end = seen.at("end");
+    const std::string element = list + "[1]", inner = element + ".exmem_info";
+    EXPECT_EQ(seen.at("open"), (json{list, list + "[0]", element, element, inner, inner}));
+    EXPECT_EQ(seen.at("close"), (json{inner, element, element, list}));
+    EXPECT_EQ(seen.at("selected"), json{list});
+    EXPECT_EQ(seen.at("over")[1], end);
+    EXPECT_EQ(seen.at("over")[2], "payload.lumo_data[1]");
+    EXPECT_EQ(seen.at("over")[3], end);
+    const std::string last = "payload.lumo_data[1].sig_list";
+    EXPECT_EQ(seen.at("ends"), (json{"", "", "", "", "", "header", last, last}));
+    EXPECT_EQ(seen.at("pages"), seen.at("expected"));
+    EXPECT_EQ(seen.at("lost"), (json{true, 0}));
+    EXPECT_EQ(seen.at("again"), (json{list + "[6]", -1}));
+    EXPECT_EQ(seen.at("entered"), list + "[6]");
+    EXPECT_EQ(seen.at("search"), "search");
+    EXPECT_EQ(seen.at("escaped"), list + "[6]");
 }
 
 TEST(View, ShowsABrokenFrameUpToTheError) {
@@ -310,30 +423,77 @@ TEST(View, ShowsABrokenFrameUpToTheError) {
     EXPECT_NE(outcome.err.find("broken at offset 96, payload.trace_enabled"), std::string::npos) << outcome.err;
     const json seen = seen_in(outcome.out, R"(
         seen.note = document.querySelector('.error').textContent;
+        seen.marked = selectedRows();
+        seen.mark = [rowAt('payload.trace_enabled').getAttribute('aria-label'), byteAt(0, 96).className];
+        seen.frame = document.querySelectorAll('.row.frame')[1].getAttribute('aria-label');
         seen.rest = [...document.querySelectorAll('.dump i.rest')].length / 2;
         pointAt(rowAt('payload.info_enabled'));
         seen.bytes = markedBytes(0);)");
     EXPECT_EQ(seen.at("note"), "broken at offset 96, payload.trace_enabled: needs 4 bytes, but 2 are left");
+    EXPECT_EQ(seen.at("marked"), json{"payload.trace_enabled"});
+    EXPECT_EQ(seen.at("mark"),
+              (json{"trace_enabled, breaks here: needs 4 bytes, but 2 are left", "break rest framing selected"}));
+    EXPECT_EQ(seen.at("frame"), "lumo_tarn_debug_setting_msg, broken, 53 bytes");
     EXPECT_EQ(seen.at("rest"), 2);
     EXPECT_EQ(seen.at("bytes"), bytes(members_at, 4));
 }
 
+TEST(View, NamesACutFrameAndMarksWhereItBreaks) {
+    const Directory directory;
+    const std::string bytes = debug_answer(1, 5);
+    const auto seen_of = [&](const std::string &frames) {
+        const Outcome outcome = tool_test::tarn({"view", directory.write("a.bin", frames)});
+        EXPECT_EQ(outcome.exit, 2);
+        return seen_in(outcome.out, R"(
+            const frames = [...document.querySelectorAll('.row.frame')];
+            seen.frame = frames[frames.length - 1].querySelector('.name').textContent;
+            seen.mark = [selected.path, selected.row.querySelector('.broken').textContent];
+            const marks = [...document.querySelectorAll('.dump i.break')].map(i => Number(i.dataset.at));
+            seen.at = marks[0];
+            document.querySelector('.error').click();
+            seen.address = decodeURI(document.querySelector('.error').hash);)");
+    };
+    const json header = seen_of(bytes.substr(0, 43 + 10));
+    EXPECT_EQ(header.at("frame"), "cut frame");
+    EXPECT_EQ(header.at("mark"), (json{"header.stamp", "breaks here: needs 4 bytes, but 2 are left"}));
+    EXPECT_EQ(header.at("at"), 43 + 8);
+    EXPECT_EQ(header.at("address"), "#1:header.stamp");
+    // Between two members, so that no bytes are left.
+    const json between = seen_of(bytes.substr(0, members_at + 8));
+    EXPECT_EQ(between.at("frame"), "lumo_tarn_debug_setting_msg");
+    EXPECT_EQ(between.at("mark"), (json{"payload.warn_enabled", "breaks here: needs 4 bytes, but 0 are left"}));
+    EXPECT_EQ(between.at("at"), members_at + 8);
+    std::string jump = bytes;
+    jump[members_at - 1] = 3;
+    const json inside = seen_of(jump);
+    EXPECT_EQ(inside.at("mark"), (json{"payload.@jump", "breaks here: jump 3 ends at 91, but the members end at 108"}));
+    EXPECT_EQ(inside.at("at"), members_at - 4);
+    std::string length = bytes;
+    length[43 + 15] = static_cast<char>(length[43 + 15] + 9);
+    length.resize(43 + 65);
+    const json end = seen_of(length);
+    EXPECT_EQ(end.at("mark"), (json{"@end", "breaks here: truncated: the total length is 74, but there are 65 bytes"}));
+    EXPECT_EQ(end.at("at"), 43 + 65);
+}
+
 // The parts of a frame in JSON, in order and with their paths. The value of a boolean or an enumeration has the path of
 // its group, as bytes of a newer version have that of their record; the elements of a list have names of their own.
-void add_pieces(const json &group, const std::string &path, json &pieces) {
+void add_pieces(const json &group, const std::string &path, json &pieces, json &addresses) {
     const bool of_value = group.at("parts").size() == 2 && group.at("parts")[1].value("name", "") == "value";
     for (const json &part : group.at("parts")) {
         std::string below = path + (path.ends_with(':') ? "" : ".") + part.at("name").get<std::string>();
         if (part.contains("index")) below += "[" + part.at("index").dump() + "]";
         if (part.contains("parts")) {
+            if (part.contains("text")) addresses.push_back({below, part.at("text")});
             const bool is_list = !part.at("parts").empty() && part.at("parts")[0].contains("index");
-            add_pieces(part, is_list ? path : below, pieces);
+            add_pieces(part, is_list ? path : below, pieces, addresses);
             continue;
         }
         const std::string &kind = part.at("kind").get_ref<const std::string &>();
         if (kind == "state") below += ".state";
         if (kind == "skipped" || (of_value && kind != "variant")) below = path;
-        pieces.push_back({part.at("offset"), part.at("size"), below, kind, part.at("value")});
+        const json &value = part.contains("text") ? part.at("text") : part.at("value");
+        pieces.push_back({part.at("offset"), part.at("size"), below, kind, value});
     }
 }
 
@@ -351,25 +511,99 @@ TEST(View, ShowsTheSamePiecesAsDissect) {
     }
     const std::string name = directory.write("a.bin", frames);
     const json seen = seen_in(page_of({name}), R"(
-        const pieces = [];
+        const pieces = [], addresses = [];
         const walk = (node, frame) => {
-            const piece = pieceOf(node, 0);
-            if (piece) pieces.push([piece.at, piece.shape.size, frame + ':' + node.path.replace('@', ''),
-                                    piece.shape.kind, valueOf(node, 0)]);
+            const piece = pieceOf(node, 0), path = frame + ':' + node.path.replace('@', '');
+            if (isAddress(node, 0)) addresses.push([path, valueOf(node, 0)]);
+            if (piece) pieces.push([piece.at, piece.shape.size, path, piece.shape.kind, valueOf(node, 0)]);
             for (let i = 0; i < list(node).length; ++i) walk(childAt(node, i), frame);
         };
         roots.forEach(walk);
-        seen.pieces = pieces.sort((a, b) => a[0] - b[0]);)");
+        seen.pieces = pieces.sort((a, b) => a[0] - b[0]);
+        seen.addresses = addresses;)");
     const Outcome dissected = tool_test::tarn({"dissect", "--json", name});
     ASSERT_EQ(dissected.exit, 0) << dissected.err;
-    json pieces = json::array();
+    json pieces = json::array(), addresses = json::array();
     std::size_t number = 0;
     std::istringstream lines(dissected.out);
     for (std::string line; std::getline(lines, line); ++number) {
-        add_pieces(json::parse(line), std::to_string(number) + ":", pieces);
+        add_pieces(json::parse(line), std::to_string(number) + ":", pieces, addresses);
     }
     ASSERT_EQ(number, 3 + 2 * 10);
     EXPECT_EQ(seen.at("pieces"), pieces);
+    EXPECT_EQ(seen.at("addresses"), addresses);
+    EXPECT_GT(addresses.size(), 20U);
+}
+
+TEST(View, ShowsAddressesInTheFormOfTheLibrary) {
+    const std::vector<std::string> texts{"unset",
+                                         "10.0.0.0/8",
+                                         "0.0.0.0/1",
+                                         "255.255.255.255/32",
+                                         "10.1.2.3%7/32",
+                                         "2001:db8::/32",
+                                         "::/1",
+                                         "::1/128",
+                                         "::10.1.2.3/128",
+                                         "::ffff:10.1.2.3/96",
+                                         "fe80::1%65535/64",
+                                         "1:2:3:4:5:6:7:8/128",
+                                         "1:0:3:4:5:6:7:8/128",
+                                         "1:0:0:4:0:0:0:8/128",
+                                         "1:2:3:4:5:6::/128",
+                                         "0:0:3:4:5:6:7:8/128",
+                                         "7,0,1,2,3,4294967295/9",
+                                         "2,0,1,0,0,5/8"};
+    std::string prefixes;
+    for (const std::string &text : texts) {
+        prefixes += (prefixes.empty() ? "" : ", ") + (R"({"lookup_prefix": ")" + text + "\"}");
+    }
+    const Outcome frame = tool_test::tarn(
+        {"encode"}, R"({"message": "lumo_tarn_dp_mp_prefix_msg", "payload": {"prefix_data": [)" + prefixes + "]}}");
+    ASSERT_EQ(frame.exit, 0) << frame.err;
+    const json decoded = json::parse(tool_test::tarn({"decode", "--json"}, frame.out).out);
+    json expected = json::array();
+    for (const json &prefix : decoded.at("payload").at("prefix_data")) {
+        expected.push_back(prefix.at("lookup_prefix"));
+    }
+    ASSERT_EQ(expected.size(), texts.size());
+    const Directory directory;
+    const json seen = seen_in(page_of({directory.write("a.bin", frame.out)}), R"(
+        const list = nodeOf('0:payload.prefix_data');
+        seen.texts = [...Array(sizeOf(list)).keys()].map(i => valueOf(childOf(childAt(list, i), 'lookup_prefix'), 0));
+        type('2001:DB8::/32');
+        seen.found = [found(), selectedRows()];
+        type('payload.prefix_data[2].lookup_prefix.word[0]');
+        seen.word = selectedRows();)");
+    EXPECT_EQ(seen.at("texts"), expected);
+    EXPECT_EQ(seen.at("found"), (json{"1 of 1", {"payload.prefix_data[5].lookup_prefix"}}));
+    EXPECT_EQ(seen.at("word"), json{"payload.prefix_data[2].lookup_prefix.word[0]"});
+}
+
+// Of all that differs in an address, its text is what people compare.
+TEST(View, CountsADifferenceOfAnAddressOnce) {
+    const auto frame = [](const std::string &prefix, const std::string &pointer) {
+        return tool_test::tarn({"encode"}, R"({"message": "lumo_tarn_dp_mp_prefix_msg", "payload": {"prefix_data": [
+            {"lookup_prefix": ")" + prefix + R"(", "complex_data": [{"tc_list_ptr": ")" +
+                                               pointer + R"("}]}]}})")
+            .out;
+    };
+    const Directory directory;
+    const std::string a = directory.write("a.bin", frame("10.0.0.0/8", "139637976727552")),
+                      b = directory.write("b.bin", frame("2001:db8::/32", "139637976727808"));
+    const json seen = seen_in(page_of({a, b}), R"(
+        const values = path => [...rowAt(path).querySelectorAll('.value')].map(v => v.textContent);
+        seen.first = [found(), selectedRows(), values(selected.path), rowAt(selected.path).getAttribute('aria-label')];
+        document.getElementById('next').click();
+        seen.next = [found(), values(selected.path)];
+        type('0X7F00000001');
+        seen.pointer = [found(), selectedRows()];)");
+    EXPECT_EQ(seen.at("first"), (json{"1 of 2 changes",
+                                      {"payload.prefix_data[0].lookup_prefix"},
+                                      {"10.0.0.0/8", "2001:db8::/32"},
+                                      "lookup_prefix, 10.0.0.0/8, now 2001:db8::/32, ip_address, 26 bytes"}));
+    EXPECT_EQ(seen.at("next"), (json{"2 of 2 changes", {"0x7f0000000000", "0x7f0000000100"}}));
+    EXPECT_EQ(seen.at("pointer"), (json{"1 of 1", {"payload.prefix_data[0].complex_data[0].tc_list_ptr"}}));
 }
 
 // Elements of the same shape take little more than their bytes.

@@ -53,7 +53,10 @@ void add_view(CLI::App &app, Context &) {
     command->footer(
         "The page is a single file and needs no network. Hovering over a member highlights\n"
         "its bytes, and vice versa. Clicking keeps the highlight and puts a link to the\n"
-        "member into the address bar. If a frame is broken, the page stops at the error.\n\n"
+        "member into the address bar. If a frame is broken, the page stops at the error,\n"
+        "and opens there; the page of two files opens at the first change.\n\n"
+        "Keys: arrows, Home, End, Page Up, Page Down and Enter move through the members and\n"
+        "unfold them, / searches, n and p go to the next and the previous hit or change.\n\n"
         "Examples:\n"
         "  tarn show cl-debug --socket /tmp/tarn.sock --save answer.bin\n"
         "  tarn view answer.bin -o answer.html\n"

@@ -48,13 +48,19 @@ function add(parent, tag, words, kind) {
 
 function link(parent, name, words) {
   const a = add(parent, 'a', words || name);
-  a.onclick = () => choose(name);
+  a.href = '#' + name;
+  // The link is replaced by what it leads to.
+  a.onclick = event => {
+    event.preventDefault();
+    choose(name);
+    element('table').focus({preventScroll: true});
+  };
 }
 
 function table(head, rows, cells) {
   const made = add(element('table'), 'table');
   const titles = add(made, 'tr');
-  for (const title of head) add(titles, 'th', title);
+  for (const title of head) add(titles, 'th', title).scope = 'col';
   for (const row of rows) {
     const line = add(made, 'tr');
     line.dataset.name = row.name;
@@ -73,6 +79,7 @@ function show(name) {
   const record = records.get(name), message = messages.get(name);
   const bundle = bundles.get(name), enumeration = enumerations.get(name);
   if (!name) return showStart(panel);
+  link(add(panel, 'p'), '', '\u2190 all');
   add(panel, 'h2', name);
   if (record) {
     add(panel, 'p', record.meaning);
@@ -117,6 +124,15 @@ function showStart(panel) {
     add(line, 'td', String(r.members.length), 'number');
     add(line, 'td', r.meaning);
   });
+  const others = {Bundles: bundles, Messages: messages, Enumerations: enumerations};
+  for (const [title, things] of Object.entries(others)) {
+    add(panel, 'h2', title);
+    const line = add(panel, 'p', '');
+    [...things.keys()].forEach((name, i) => {
+      if (i) line.append(', ');
+      link(line, name, name.replace('lumo_tarn_', ''));
+    });
+  }
 }
 
 function choose(name) {
@@ -164,6 +180,13 @@ if (matchMedia('(prefers-color-scheme: dark)').matches) dark();
 element('theme').addEventListener('click', dark);
 element('summary').textContent = [bundles.size + ' bundles', messages.size + ' messages', records.size + ' records',
   enumerations.size + ' enumerations'].join(', ');
-let wantedAtStart = '';
-try { wantedAtStart = decodeURI(location.hash.slice(1)); } catch { /* a malformed address chooses nothing */ }
-choose(wantedAtStart || null);
+drawing.setAttribute('role', 'img');
+drawing.setAttribute('aria-label', 'What contains what');
+
+function follow() {
+  let wantedName = '';
+  try { wantedName = decodeURI(location.hash.slice(1)); } catch { /* a malformed address chooses nothing */ }
+  choose(wantedName || null);
+}
+addEventListener('hashchange', follow);
+follow();

@@ -33,11 +33,14 @@ std::uint32_t Shapes::add_shape(nlohmann::ordered_json shape) {
 
 std::uint32_t Shapes::leaf(const Field &field) {
     // The names of types and records are constants in the schema.
-    const void *const key[] = {field.type.data(), reinterpret_cast<const void *>(field.bytes.size()), field.record};
+    const bool hex = is_pointer(field);
+    const void *const key[] = {field.type.data(), reinterpret_cast<const void *>(2 * field.bytes.size() + hex),
+                               field.record};
     const auto [at, is_new] = numbers_.try_emplace(bytes_in(key, sizeof key));
     if (is_new) {
         std::string text = std::string(field.type) + " " + std::to_string(field.bytes.size());
         if (field.record != nullptr) text += ", begins " + std::string(field.record->name);
+        if (hex) text += " hex";
         at->second = add_shape(std::move(text));
     }
     return at->second;

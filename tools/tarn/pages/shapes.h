@@ -2,10 +2,10 @@
 // same shape takes one shape and a list of numbers, so the size of a page is proportional to the bytes that it shows.
 //
 // The shape of a piece is a string: its kind, its size, and the part of its value that the bytes do not contain
-// ("variant 1, begins lumo_tarn_dp_tc"). The shape of an array has the shapes of its elements; the number of its
-// states, which are that of the array and those of the elements; and their shape. The shape of any other sequence of
-// pieces is a list that alternates names and shapes; the name "" is that of the piece of the parent itself. Pieces that
-// are not members get an "@", since a member may be called "state".
+// ("variant 1, begins lumo_tarn_dp_tc") or how people read it ("u_int64 8 hex"). The shape of an array has the shapes
+// of its elements; the number of its states, which are that of the array and those of the elements; and their shape.
+// The shape of any other sequence of pieces is a list that alternates names and shapes; the name "" is that of the
+// piece of the parent itself. Pieces that are not members get an "@", since a member may be called "state".
 #pragma once
 
 #include <nlohmann/json.hpp>

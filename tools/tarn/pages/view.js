@@ -26,16 +26,24 @@ const shapes = data.shapes.map(shape => {
   inner.fill(shape.state, shape.elements.length);
   return {names: null, inner, elements: shape.elements.length};
 });
-// A shape follows the shapes that it contains, so their sizes are known.
+// A shape follows the shapes that it contains, so their sizes are known. The shape of an address knows its members.
+const addressMembers = ['af', 'prefix_len', 'scope', 'word[0]', 'word[1]', 'word[2]', 'word[3]'];
 shapes.forEach((shape, number) => {
   shape.number = number;
-  shape.own = null;
+  shape.own = shape.address = null;
   if (!shape.inner) return;
   const offsets = shape.offsets = new Uint32Array(shape.inner.length + 1);
   for (let i = 0; i < shape.inner.length; ++i) offsets[i + 1] = offsets[i] + shapes[shape.inner[i]].size;
   shape.size = offsets[shape.inner.length];
   const own = shape.names ? shape.names.indexOf('') : -1;
   if (own >= 0) shape.own = {at: offsets[own], shape: shapes[shape.inner[own]]};
+  const members = addressMembers.map(name => shape.names ? shape.names.indexOf(name) : -1);
+  if (members.every(i => i >= 0)) {
+    shape.address = members.map(i => {
+      const member = shapes[shape.inner[i]], piece = member.own || {at: 0, shape: member};
+      return {at: offsets[i] + piece.at, size: piece.shape.size};
+    });
+  }
 });
 const isArray = shape => Boolean(shape && shape.inner && !shape.names);
 
@@ -72,10 +80,34 @@ function quoted(bytes) {
   return out + '"';
 }
 
+// The text of an address, in the form of the library.
+function addressAt(bytes, at, {address}) {
+  const [af, length, scope, ...words] = address.map(member => numberAt(bytes, at + member.at, member.size));
+  if ([af, length, scope, ...words].every(number => number === 0)) return 'unset';
+  const isV4 = af === 2 && words.slice(1).every(word => word === 0);
+  if (!isV4 && af !== 10) return [af, scope, ...words].join(',') + '/' + length;
+  return (isV4 ? v4Text(words[0]) : v6Text(words)) + (scope ? '%' + scope : '') + '/' + length;
+}
+const v4Text = word => [word >>> 24, word >>> 16 & 255, word >>> 8 & 255, word & 255].join('.');
+function v6Text(words) {
+  const parts = words.flatMap(word => [word >>> 16, word & 65535]);
+  let from = -1, length = 1;  // the longest run of zeros, if there are two at least
+  for (let i = 0; i < parts.length; ++i) {
+    let end = i;
+    while (parts[end] === 0) ++end;
+    if (end - i > length) [from, length] = [i, end - i];
+    i = Math.max(i, end - 1);
+  }
+  const texts = parts.map(part => part.toString(16));
+  if (from === 0 && (length === 6 || length === 5 && parts[5] === 65535)) texts.splice(6, 2, v4Text(words[3]));
+  if (from < 0) return texts.join(':');
+  return texts.slice(0, from).join(':') + '::' + texts.slice(from + length).join(':');
+}
+
 // In the form of tarn dissect.
 function valueAt(bytes, at, {kind, size, rest}) {
   switch (kind) {
-    case 'fill': return '';
+    case 'fill': case 'break': return '';
     case 'zero': return bytes.subarray(at, at + size).every(byte => byte === 0) ? '' : 'not all zero';
     case 'skipped': return size + ' bytes of a newer version';
     case 'text': case 'var_string': return quoted(bytes.subarray(at, at + size));
@@ -91,6 +123,7 @@ function valueAt(bytes, at, {kind, size, rest}) {
     case 'jump': return number + ', ends at ' + (at + number);
     case 'mirk_boolean': return number === 0 ? 'false' : number === 1 ? 'true' : 'true (' + number + ')';
   }
+  if (rest === ' hex') return '0x' + number.toString(16);
   const enumerators = data.enumerations[kind];
   return enumerators ? number + ' ' + (enumerators[number] || 'out of range') : String(number);
 }
@@ -104,7 +137,7 @@ function makeNode(name, parent, index) {
   const path = !parent ? '' : parent.path + (name[0] === '[' || !parent.path ? '' : '.') + name;
   const node = {id: count++, name, path, parent, index, list: null, isArray: false, shape: [null, null], at: [0, 0],
     state: [null, null], type: '', meaning: '', structural: false, inside: null, open: false, row: null,
-    below: null, shown: null, boxes: null};
+    below: null, shown: null, boxes: null, breaks: '', isBroken: false};
   const owner = parent && parent.type;
   const member = owner && (data.records[owner] || {})[name];
   if (member) [node.type, node.meaning] = member;
@@ -127,7 +160,9 @@ function pieceOf(node, s) {
   if (!shape || shape.inner && !shape.own) return null;
   return shape.inner ? {at: node.at[s] + shape.own.at, shape: shape.own.shape} : {at: node.at[s], shape};
 }
+const isAddress = (node, s) => isOn(node, s) && Boolean(node.shape[s].address);
 const valueOf = (node, s) => {
+  if (isAddress(node, s)) return addressAt(sides[s].data, node.at[s], node.shape[s]);
   const piece = pieceOf(node, s);
   return piece && valueAt(sides[s].data, piece.at, piece.shape);
 };
@@ -187,8 +222,8 @@ function childOf(node, name) {
 // The number of elements.
 const sizeOf = node => Math.max(...node.shape.map(shape => shape ? shape.elements || 0 : 0));
 
-// "payload.list[0].id" has the steps payload, list, [0], id.
-const steps = path => path.match(/\[[^\]]*\]|[^.[]+/g) || [];
+// "payload.list[0].id" has the steps payload, list, [0], id. The words of an address have names such as "word[0]".
+const steps = path => path.match(/word\[[0-3]\]|\[[^\]]*\]|[^.[]+/g) || [];
 
 function bytesOfBase64(text) {
   const letters = 'ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/', values = new Uint8Array(128);
@@ -222,10 +257,31 @@ sides.forEach((side, s) => {
   }
 });
 
+// The node where a frame breaks: one that has bytes, such as a jump, or one that the frame should contain.
+sides.forEach((side, s) => {
+  if (!side.broken) return;
+  let node = roots[side.starts.length - 1];
+  const way = steps(side.broken.path);
+  if (!way.length) way.push('@end');
+  for (const name of way) {
+    const known = childOf(node, name) || childOf(node, '@' + name);
+    node.isBroken = true;
+    if (!known) {
+      side.rest = makeNode(name, node, list(node).length);
+      put(side.rest, s, {kind: 'break', size: side.data.length - side.read, structural: true}, side.read);
+      node.list.push(side.rest);
+    }
+    node = known || side.rest;
+    if (!known) break;
+  }
+  Object.assign(node, {isBroken: true, breaks: side.broken.reason});
+  side.broken.node = node;
+});
+
 // The node that a byte belongs to.
 function ownerOf(s, at) {
   const side = sides[s];
-  if (at < 0 || at >= side.read) return null;
+  if (at < 0 || at >= side.read) return side.rest || null;
   let node = roots[lastUpTo(side.starts, at)];
   while (node.shape[s].inner) {
     const shape = node.shape[s], part = partOf(shape, lastUpTo(shape.offsets, at - node.at[s]));
@@ -289,7 +345,7 @@ function differencesIn(x, a, y, b) {
     sum += part.isState ? Number(!sameBytes(a + part.a, b + part.b, 1))
       : differencesIn(part.x, a + part.a, part.y, b + part.b);
   }
-  return sum + single;
+  return x.address && y.address ? Math.min(1, sum + single) : sum + single;
 }
 function differencesInElement(x, a, y, b, i) {
   if (i >= x.elements || i >= y.elements) return 1;
@@ -306,19 +362,27 @@ function stateDiffers(x, a, y, b, which) {
 function inside(node) {
   if (node.inside === null) {
     const [x, y] = node.shape, [a, b] = node.at, [left, right] = node.state;
-    if (isOneSided(node)) node.inside = Number(!node.structural);
-    else if (!two) node.inside = 0;
+    if (!two || isInAddress(node)) node.inside = 0;
+    else if (isOneSided(node)) node.inside = Number(!node.structural);
     else if (isState(node.name)) node.inside = Number(!sameBytes(a, b, 1));
     else node.inside = differencesIn(x, a, y, b) + Number(Boolean(left && right) && !sameBytes(left.at, right.at, 1));
   }
   return node.inside;
 }
 
-// Whether the node itself differs.
-function differs(node) {
-  if (isOneSided(node)) return !node.structural;
+const areAddresses = node => isAddress(node, 0) && isAddress(node, 1);
+const isInAddress = ({parent}) => Boolean(parent) &&
+  (areAddresses(parent) || Boolean(parent.parent) && areAddresses(parent.parent));
+
+function valuesDiffer(node) {
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
   return a !== null && b !== null && a !== b && (!node.structural || isState(node.name));
+}
+// Whether the node itself differs. What differs in an address is one difference.
+function differs(node) {
+  if (isInAddress(node)) return false;
+  if (isOneSided(node)) return !node.structural;
+  return areAddresses(node) ? inside(node) > 0 : valuesDiffer(node);
 }
 
 // Whether there are differences in a child, without making it if it is an element.
@@ -328,7 +392,7 @@ function differsAt(node, i) {
   return (node.list[i] ? inside(node.list[i]) : differencesInElement(x, a, y, b, i)) > 0;
 }
 
-const isShown = node => (!node.structural || element('framing').checked) &&
+const isShown = node => node.isBroken || (!node.structural || element('framing').checked) &&
   (!element('changes').checked || inside(node) > 0 || isOneSided(node.parent));
 const hasShown = node => shownBelow(node).length > 0;
 
@@ -341,7 +405,7 @@ function shownBelow(node) {
       return {length, at: i => childAt(node, i), indexOf: child => child.index < length ? child.index : -1};
     }
     const changed = [];
-    for (let i = 0; i < length; ++i) if (differsAt(node, i)) changed.push(i);
+    for (let i = 0; i < length; ++i) if (differsAt(node, i) || node.list[i] && node.list[i].isBroken) changed.push(i);
     const indexOf = child => { const i = lastUpTo(changed, child.index); return changed[i] === child.index ? i : -1; };
     return {length: changed.length, at: i => childAt(node, changed[i]), indexOf};
   }
@@ -365,36 +429,58 @@ function valueClass(kind, value) {
   return kind === 'luid' || /^[a-z]|^\d+ [A-Z]/.test(value) ? 'value word' : 'value';
 }
 
+// A row shows these words; a screen reader reads them with commas.
 function fill(row, node) {
-  text(row, 'fold', hasShown(node) ? (node.open ? '\u25bc' : '\u25b6') : '');
-  text(row, 'name', node.parent ? node.name : node.label);
+  const words = [], add = (kind, shown, read = shown) => {
+    text(row, kind, shown);
+    words.push(read);
+  };
+  text(row, 'fold', '');
+  add('name', node.parent ? node.name : node.label);
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
   if (two && a !== null && b !== null && a !== b && !node.structural) {
-    text(row, 'value old', a);
-    text(row, 'value new', b);
+    add('value old', a);
+    add('value new', b, 'now ' + b);
   } else if (a || b) {
-    text(row, valueClass(pieceOf(node, a === null ? 1 : 0).shape.kind, a || b), a || b);
+    const piece = pieceOf(node, a === null ? 1 : 0);
+    add(valueClass(piece && piece.shape.kind, a || b), a || b);
   }
   const size = bytesOf(node, isOn(node, 0) ? 0 : 1).reduce((sum, r) => sum + r[1] - r[0], 0);
+  if (node.breaks) add('badge broken', 'breaks here: ' + node.breaks);
+  else if (node.isBroken && !node.parent) add('badge broken', 'broken');
   const hasMembers = node.isArray || list(node).some(c => !c.structural);
-  if (hasMembers) text(row, 'type', (node.type ? node.type + ', ' : '') + size + ' bytes');
+  if (hasMembers) add('type', (node.type ? node.type + ', ' : '') + size + ' bytes');
   const state = childOf(node, '@state');
   if (state) {
     const values = [valueOf(state, 0), valueOf(state, 1)].filter(v => v !== null);
-    if (values.some(v => v !== '0')) text(row, 'badge', 'state ' + [...new Set(values)].join(' \u2192 '));
+    if (values.some(v => v !== '0')) add('badge', 'state ' + [...new Set(values)].join(' \u2192 '));
   }
+  if (isOneSided(node) && !node.breaks) words.push('only in ' + sides[isOn(node, 0) ? 0 : 1].name);
+  row.setAttribute('aria-label', words.join(', '));
 }
 
-function makeRow(node, depth) {
+function showFold(node) {
+  const folds = hasShown(node);
+  node.row.querySelector('.fold').textContent = folds ? (node.open ? '\u25bc' : '\u25b6') : '';
+  if (folds) node.row.setAttribute('aria-expanded', node.open);
+}
+
+function makeRow(node, depth, index, of) {
   const holder = document.createElement('div'), row = document.createElement('div');
   row.className = 'row';
   row.setAttribute('role', 'treeitem');
+  row.setAttribute('aria-level', depth + 1);
+  row.setAttribute('aria-posinset', index + 1);
+  row.setAttribute('aria-setsize', of);
+  row.setAttribute('aria-selected', node === selected);
   row.dataset.id = node.id;
   row.dataset.path = node.path;
   row.style.paddingLeft = 8 + 18 * depth + 'px';
   if (!node.parent) row.classList.add('frame');
-  if (node.structural) row.classList.add('framing');
-  if (two) {
+  if (node.structural && !node.breaks) row.classList.add('framing');
+  if (node.meaning) row.dataset.meaning = node.meaning;
+  if (node.breaks) row.classList.add('broken');
+  else if (two) {
     if (isOneSided(node)) row.classList.add(isOn(node, 0) ? 'a' : 'b');
     else if (differs(node)) row.classList.add('changed');
     else if (inside(node)) row.classList.add('inside');
@@ -405,6 +491,8 @@ function makeRow(node, depth) {
   holder.append(row);
   Object.assign(node, {row, holder, depth, below: null, boxes: null});
   rows.set(String(node.id), node);
+  showFold(node);
+  setTabStop(node);
   if (node.open) unfold(node);
   return holder;
 }
@@ -423,7 +511,7 @@ const sight = new IntersectionObserver(boxes => {
 function drawRows(into, node, depth) {
   const shown = node.shown = shownBelow(node);
   if (shown.length <= atOnce) {
-    for (let i = 0; i < shown.length; ++i) into.append(makeRow(shown.at(i), depth));
+    for (let i = 0; i < shown.length; ++i) into.append(makeRow(shown.at(i), depth, i, shown.length));
     return;
   }
   node.boxes = [];
@@ -444,7 +532,7 @@ function draw(box) {
   if (!part || part.drawn) return;
   part.drawn = true;
   box.style.height = '';
-  for (let i = part.from; i < part.to; ++i) box.append(makeRow(part.shown.at(i), part.depth));
+  for (let i = part.from; i < part.to; ++i) box.append(makeRow(part.shown.at(i), part.depth, i, part.shown.length));
 }
 
 function erase(box) {
@@ -457,8 +545,10 @@ function erase(box) {
     parts.delete(inner);
   }
   for (const row of box.querySelectorAll('.row')) {
-    Object.assign(rows.get(row.dataset.id), {row: null, holder: null, below: null, boxes: null});
+    const node = rows.get(row.dataset.id);
+    Object.assign(node, {row: null, holder: null, below: null, boxes: null});
     rows.delete(row.dataset.id);
+    setTabStop(node);
   }
   box.replaceChildren();
 }
@@ -474,19 +564,18 @@ function unfold(node) {
   node.open = true;
   if (!node.below) {
     node.below = document.createElement('div');
-    node.below.setAttribute('role', 'group');
     drawRows(node.below, node, node.depth + 1);
     node.holder.append(node.below);
   }
   node.below.hidden = false;
   if (node.boxes) draw(node.boxes[0]);
-  node.row.querySelector('.fold').textContent = node.below.children.length ? '\u25bc' : '';
+  showFold(node);
 }
 
 function fold(node) {
   node.open = false;
   if (node.below) node.below.hidden = true;
-  node.row.querySelector('.fold').textContent = hasShown(node) ? '\u25b6' : '';
+  showFold(node);
 }
 
 const trunk = {list: roots, isArray: false, parent: null, shape: [null, null]};
@@ -497,6 +586,7 @@ function drawTree() {
   parts.clear();
   tree.replaceChildren();
   drawRows(tree, trunk, 0);
+  if (!cursor && trunk.shown.length) moveCursor(trunk.shown.at(0));
 }
 
 // Unfolds all ancestors, so that the row exists.
@@ -531,9 +621,14 @@ function makeDump(side, s) {
   const title = document.createElement('h2');
   section.className = 'side';
   dump.className = 'dump';
+  dump.tabIndex = 0;
+  dump.setAttribute('role', 'region');
+  dump.setAttribute('aria-label', 'Bytes of ' + side.name);
   lines.className = 'lines';
   title.textContent = side.name + ', ' + side.data.length + ' bytes';
-  side.height = Math.ceil(side.data.length / perLine) * lineHeight + 16;
+  // A frame may break behind the last byte.
+  side.cells = side.data.length + Number(Boolean(side.broken) && side.broken.at === side.data.length);
+  side.height = Math.ceil(side.cells / perLine) * lineHeight + 16;
   spacer.style.height = Math.min(side.height, highest) + 'px';
   dump.append(spacer, lines);
   section.append(title, dump);
@@ -546,13 +641,15 @@ function makeDump(side, s) {
 
 function classOf(s, at) {
   const side = sides[s], node = ownerOf(s, at);
-  if (!node) return 'rest';
-  const words = [], kind = pieceOf(node, s).shape.kind;
+  const words = [], kind = node && pieceOf(node, s).shape.kind;
+  if (side.broken && side.broken.at === at) words.push('break');
+  if (!node || kind === 'break') words.push('rest');
+  if (!node) return words.join(' ');
   if (kind === 'state') words.push('state');
   else if (node.structural) words.push('framing');
   else if (node.path.startsWith('header') || kind === 'luid') words.push('head');
   else if (kind === 'var_string' || kind === 'text') words.push('text');
-  if (two && (differs(node) || isOneSided(node))) words.push('changed');
+  if (two && (isOneSided(node) || valuesDiffer(node))) words.push('changed');
   if (contains(side.selected, at)) words.push('selected');
   if (contains(side.marked, at)) words.push('marked');
   return words.join(' ');
@@ -564,16 +661,16 @@ const pace = ({height, dump}) => height > highest ? (height - dump.clientHeight)
 function drawLines(side, s) {
   const top = side.dump.scrollTop * pace(side), first = Math.floor(top / lineHeight);
   const inSight = Math.ceil(side.dump.clientHeight / lineHeight) + 1;
-  const last = Math.min(Math.ceil(side.data.length / perLine), first + inSight);
+  const last = Math.min(Math.ceil(side.cells / perLine), first + inSight);
   let out = '';
   for (let line = first; line < last; ++line) {
-    const from = line * perLine, to = Math.min(from + perLine, side.data.length);
+    const from = line * perLine, to = Math.min(from + perLine, side.cells);
     let words = '', ascii = '';
     for (let at = from; at < to; ++at) {
-      const kind = classOf(s, at), byte = side.data[at];
+      const kind = classOf(s, at), isByte = at < side.data.length, byte = isByte ? side.data[at] : 32;
       const open = '<i data-at="' + at + '"' + (kind ? ' class="' + kind + '"' : '') + '>';
       // The gap belongs to the preceding byte, so that highlights are continuous.
-      words += open + hex(byte) + (at % perLine === 7 ? '  ' : ' ') + '</i>';
+      words += open + (isByte ? hex(byte) : '  ') + (at % perLine === 7 ? '  ' : ' ') + '</i>';
       const shown = byte < 32 || byte > 126 ? '\u00b7' : String.fromCharCode(byte);
       ascii += open + (shown === '<' ? '&lt;' : shown === '&' ? '&amp;' : shown) + '</i>';
     }
@@ -597,7 +694,19 @@ function showByte(s, at) {
 
 // ---- marks
 
-let selected = null, pointed = null;
+// The row of the cursor is the one that the Tab key enters.
+let selected = null, pointed = null, cursor = null;
+
+function moveCursor(node) {
+  const old = cursor;
+  cursor = node;
+  for (const moved of [old, node]) if (moved) setTabStop(moved);
+}
+// If the row of the cursor is out of sight, the tree itself is entered.
+function setTabStop(node) {
+  if (node.row) node.row.tabIndex = node === cursor ? 0 : -1;
+  if (node === cursor) tree.tabIndex = node.row ? -1 : 0;
+}
 
 // The row of the nearest visible ancestor.
 function rowOf(node) {
@@ -639,20 +748,27 @@ function point(node) {
   detail(node || selected);
 }
 
+function showSelected(isSelected) {
+  if (!selected || !selected.row) return;
+  selected.row.classList.toggle('selected', isSelected);
+  selected.row.setAttribute('aria-selected', isSelected);
+}
+
 function select(node) {
-  rows.forEach(n => n.row.classList.remove('selected'));
+  showSelected(false);
   selected = node;
   sides.forEach((side, s) => {
     side.selected = node ? bytesOf(node, s) : [];
     if (side.selected.length) showByte(s, side.selected[0][0]);
+    else if (node && side.broken && node === side.broken.node) showByte(s, side.broken.at);
     drawLines(side, s);
   });
+  detail(node);
+  history.replaceState(null, '', '#' + (node ? encodeURI(keyOf(node)) : ''));
   if (!node) return;
   reveal(node);
-  if (node.row) node.row.classList.add('selected');
-  detail(node);
-  const frame = roots.indexOf(rootOf(node));
-  history.replaceState(null, '', '#' + encodeURI(frame + ':' + node.path));
+  showSelected(true);
+  moveCursor(node);
 }
 
 const rootOf = node => { while (node.parent) node = node.parent; return node; };
@@ -685,28 +801,94 @@ tree.addEventListener('click', event => {
   const row = event.target.closest('.row');
   if (!row) return;
   const node = rows.get(row.dataset.id);
-  if (event.target.classList.contains('fold')) (node.open ? fold : unfold)(node);
+  if (event.target.classList.contains('fold')) foldsAndUnfolds(node);
   else select(node);
 });
 tree.addEventListener('dblclick', event => {
   const row = event.target.closest('.row');
   if (row && !event.target.classList.contains('fold')) {
-    const node = rows.get(row.dataset.id);
-    (node.open ? fold : unfold)(node);
+    foldsAndUnfolds(rows.get(row.dataset.id));
   }
 });
 
-tree.addEventListener('keydown', event => {
-  const shown = [...tree.querySelectorAll('.row')].filter(r => r.offsetParent !== null);
-  const here = shown.findIndex(r => selected && r.dataset.id === String(selected.id));
-  const go = index => { if (shown[index]) select(rows.get(shown[index].dataset.id)); };
-  if (event.key === 'ArrowDown') go(here + 1);
-  else if (event.key === 'ArrowUp') go(Math.max(0, here - 1));
-  else if (event.key === 'ArrowRight' && selected) selected.open ? go(here + 1) : unfold(selected);
-  else if (event.key === 'ArrowLeft' && selected && selected.open && list(selected).length) fold(selected);
-  else if (event.key === 'ArrowLeft' && selected && selected.parent) select(selected.parent);
-  else return;
+// ---- keys
+
+// What is shown below a node, whether or not it is drawn.
+const shownIn = node => node.below || node === trunk ? node.shown : shownBelow(node);
+
+function rowAfter(node) {
+  const below = node.open ? shownIn(node) : null;
+  if (below && below.length) return below.at(0);
+  for (let n = node; n; n = n.parent) {
+    const {length, at, indexOf} = shownIn(n.parent || trunk), i = indexOf(n) + 1;
+    if (i < length) return at(i);
+  }
+  return node;
+}
+
+function rowBefore(node) {
+  const {at, indexOf} = shownIn(node.parent || trunk), i = indexOf(node);
+  return i > 0 ? lastRowIn(at(i - 1)) : node.parent || node;
+}
+
+function lastRowIn(node) {
+  for (let below; node.open && (below = shownIn(node)).length;) node = below.at(below.length - 1);
+  return node;
+}
+
+function repeated(move, node) {
+  for (let i = Math.floor(tree.clientHeight / rowHeight) - 1; i > 0; --i) node = move(node);
+  return node;
+}
+
+const foldsAndUnfolds = node => (node.open ? fold : unfold)(node);
+// Each returns the node to go to.
+const treeKeys = {
+  ArrowDown: rowAfter,
+  ArrowUp: rowBefore,
+  PageDown: node => repeated(rowAfter, node),
+  PageUp: node => repeated(rowBefore, node),
+  Home: () => trunk.shown.at(0),
+  End: () => lastRowIn(trunk.shown.at(trunk.shown.length - 1)),
+  ArrowRight: node => {
+    if (node.open) return rowAfter(node).parent === node ? rowAfter(node) : node;
+    if (hasShown(node)) unfold(node);
+    return node;
+  },
+  ArrowLeft: node => {
+    if (!node.open || !hasShown(node)) return node.parent || node;
+    fold(node);
+    return node;
+  },
+  Enter: node => {
+    if (hasShown(node)) foldsAndUnfolds(node);
+    return node;
+  },
+};
+
+function enterTree() {
+  if (!cursor) return;
+  reveal(cursor);
+  if (cursor.row) cursor.row.focus({preventScroll: true});
+}
+// The focus is lost if its row gets out of sight; then the keys still work.
+document.addEventListener('keydown', event => {
+  const {key, target} = event, move = treeKeys[key];
+  if (event.ctrlKey || event.altKey || event.metaKey || target === element('search')) return;
+  if (key === '/') element('search').focus();
+  else if (key === 'n' || key === 'p') {
+    step(key === 'n' ? 1 : -1);
+    if (tree.contains(target)) enterTree();
+  } else if (move && cursor && (target === document.body || tree.contains(target))) {
+    reveal(cursor);
+    select(move(cursor));
+    enterTree();
+  } else return;
   event.preventDefault();
+});
+tree.addEventListener('focusin', event => {
+  if (event.target === tree) enterTree();
+  else moveCursor(rows.get(event.target.dataset.id));
 });
 
 // ---- search
@@ -741,12 +923,15 @@ class Scan {
     this.stack = [];  // the groups around the current piece: its shape, its offset, its path, the next part in it
     this.digits = /^\d+$/.test(wanted);
     this.inElement = /^[\d[\]]+$/.test(wanted);
+    this.inHex = /^(0?x)?[\da-f]*$/.test(wanted);
+    this.inAddress = /^[\da-f.:/%,]+$/.test(wanted) || 'unset'.includes(wanted);
     this.named = new Map();
     // A shape follows the shapes that it contains.
     this.may = new Uint8Array(shapes.length);
     shapes.forEach((shape, n) => {
       this.may[n] = Number(!shape.inner ? this.mayBe(shape) : shape.names
-        ? shape.names.some((name, i) => this.isNamed(name) || this.may[shape.inner[i]])
+        ? shape.names.some((name, i) => this.isNamed(name) || this.may[shape.inner[i]]) ||
+          shape.address && this.inAddress
         : this.inElement || shape.inner.some(inner => this.may[inner]));
     });
     // A path is where to go, not what to look for.
@@ -763,8 +948,9 @@ class Scan {
     return this.named.get(part);
   }
   // Whether a value of the shape can contain the text: most kinds have digits only.
-  mayBe({kind, structural}) {
+  mayBe({kind, structural, rest}) {
     if (structural) return this.framing;
+    if (rest === ' hex') return this.inHex;
     return this.digits || data.enumerations[kind] || !/^(u_int|count|length)/.test(kind);
   }
   hit(path) { addHit(this.frame + ':' + path); }
@@ -800,11 +986,15 @@ class Scan {
     let path = group.path;
     if (part !== '') path += (typeof part === 'string' && path ? '.' : '') + nameOf(part) + (part < 0 ? '.@state' : '');
     if (found || part < 0 && '@state'.includes(this.wanted)) this.hit(path);
+    const bytes = sides[this.side].data;
     if (inner.inner) {
-      this.stack.push({shape: inner, at, path, i: 0});
-      return 1;
+      if (inner.address && this.inAddress && addressAt(bytes, at, inner).includes(this.wanted)) this.hit(path);
+      // The members of an address are found by their names; their values are those of the address.
+      this.stack.push({shape: inner, at, path, i: 0, isAddress: Boolean(inner.address) || group.isAddress});
+      return inner.address ? 4 : 1;
     }
-    if (valueAt(sides[this.side].data, at, inner).toLowerCase().includes(this.wanted)) this.hit(path);
+    if (group.isAddress && !inner.structural) return 1;
+    if (valueAt(bytes, at, inner).toLowerCase().includes(this.wanted)) this.hit(path);
     return 1 + inner.size / 8;
   }
 }
@@ -823,15 +1013,20 @@ function search(follows) {
   };
   if (!wanted && two) roots.forEach(visit);
   if (scan) continueSearch(scan);
-  else showHits();
+  else {
+    if (selected) current = order.indexOf(keyOf(selected));
+    showHits();
+  }
 }
 
 function continueSearch(which) {
   if (which !== scan) return;
   const {follows} = scan, more = scan.run();
   if (!more) scan = null;
+  if (!follows) current = selected ? order.indexOf(keyOf(selected)) : -1;
   showHits();
   if (follows && current < 0 && order.length) step(1);
+  if (follows && !more && !order.length) select(null);
   if (more) setTimeout(continueSearch, 0, which);
 }
 
@@ -843,13 +1038,13 @@ function showHits() {
 function showFound() {
   const searched = element('search').value.trim(), front = current >= 0 ? current + 1 + ' of ' : '';
   const more = scan ? '\u2026' : order.length === most ? ' or more' : '';
-  element('found').textContent = searched || two ? front + order.length + more + (searched ? '' : ' changes') : '';
+  const count = searched && !scan && !order.length ? 'nothing found' : front + order.length + more;
+  element('found').textContent = searched ? count : two ? count + ' changes' : '';
 }
 
 function step(by) {
   if (!order.length) return;
-  current = (current + by + order.length) % order.length;
-  if (current < 0) current = order.length - 1;
+  current = current < 0 ? (by > 0 ? 0 : order.length - 1) : (current + by + order.length) % order.length;
   select(nodeOf(order[current]));
   showFound();
 }
@@ -857,21 +1052,18 @@ function step(by) {
 element('search').addEventListener('input', () => search(true));
 element('search').addEventListener('keydown', event => {
   if (event.key === 'Enter') step(event.shiftKey ? -1 : 1);
-  if (event.key === 'Escape') { element('search').value = ''; search(); tree.focus(); }
+  if (event.key === 'Escape') { element('search').value = ''; search(); enterTree(); }
 });
 element('next').addEventListener('click', () => step(1));
 element('previous').addEventListener('click', () => step(-1));
-document.addEventListener('keydown', event => {
-  if (event.key === '/' && document.activeElement !== element('search')) {
-    element('search').focus();
-    event.preventDefault();
-  }
-});
-
 function redraw() {
+  [cursor, selected] = [cursor, selected].map(node => {
+    const owner = node && visibleOwner(node);
+    return owner && isShown(owner) ? owner : null;
+  });
   drawTree();
   search();
-  if (selected) select(selected);
+  select(selected);
 }
 element('framing').addEventListener('change', redraw);
 element('changes').addEventListener('change', redraw);
@@ -891,9 +1083,10 @@ element('summary').textContent = frames + (frames === 1 ? ' frame' : ' frames') 
 sides.forEach((side, s) => {
   makeDump(side, s);
   if (!side.broken) return;
-  const note = document.createElement('p');
+  const note = document.createElement('a');
   note.className = 'error';
-  note.textContent = (two ? side.name + ': ' : '') + 'broken at ' + side.broken;
+  note.textContent = (two ? side.name + ': ' : '') + 'broken at ' + side.broken.text;
+  note.href = '#' + encodeURI(keyOf(side.broken.node));
   element('summary').after(note);
 });
 // Unfold only enough to fill the page.
@@ -932,3 +1125,7 @@ function follow() {
 }
 addEventListener('hashchange', follow);
 follow();
+// What is wrong, or what has changed, is looked at first.
+const wrong = sides.find(side => side.broken);
+if (!selected && wrong) select(wrong.broken.node);
+else if (!selected && two) step(1);

@@ -23,11 +23,14 @@ struct Shared {
     ordered_json headings = ordered_json::array();
 };
 
-// Requests have no name and no record here.
+// The name of a frame, and its record if it has one.
 ordered_json heading_of(FrameBytes frame) {
-    const std::optional<Identity> identity =
-        frame.size() < MIRK_PLATFORM_FRAME_SIZE ? std::nullopt : identify(frame.data() + MIRK_PLATFORM_HEADER_SIZE);
-    if (!identity) return {"", ""};
+    if (frame.size() < MIRK_PLATFORM_FRAME_SIZE) return {"cut frame", ""};
+    const std::uint8_t *const luid = frame.data() + MIRK_PLATFORM_HEADER_SIZE;
+    if (std::equal(std::begin(message_ui_req_msg_luid), std::end(message_ui_req_msg_luid), luid))
+        return {"ui_req_msg", ""};
+    const std::optional<Identity> identity = identify(luid);
+    if (!identity) return {"unknown message", ""};
     if (!identity->is_control()) return {identity->operations->name, identity->operations->message->payload.name};
     return {std::string(identity->bundle->bundle->name) + " " + std::string(word(identity->control)), ""};
 }
@@ -51,7 +54,10 @@ ordered_json json_of_file(ViewedFile &file, Shared &shared) {
         offset += walked.size;
         if (!walked.broken) continue;
         file.broken = sentence_of(*walked.broken);
-        json["broken"] = file.broken;
+        json["broken"] = {{"at", walked.broken->offset},
+                          {"path", walked.broken->path},
+                          {"reason", walked.broken->reason},
+                          {"text", file.broken}};
         break;
     }
     return json;
