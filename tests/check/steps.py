@@ -14,7 +14,7 @@ import sys
 sources, scratch = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
 tree = scratch / "tree"
 scripts = "check", "tools/need", "tools/as_root", "tools/regenerate", ".ci/run"
-programs = ("apt-get cmake clang-format clang-tidy cppcheck cpack ctest doxygen gcovr lintian python3 strip sudo "
+programs = ("apt-get cmake clang-format clang-tidy cppcheck cpack ctest doxygen gcovr lintian npm python3 strip sudo "
             "valgrind").split()
 
 # Each call creates a file with the next free number; set -C makes that atomic.
