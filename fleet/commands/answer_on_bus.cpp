@@ -1,6 +1,7 @@
 // tarn answer --bus: serves bundles from files as a device on a bus.
 #include <csignal>
 #include <cstdio>
+#include <map>
 #include <memory>
 
 #include "fleet/bus/responder.h"
@@ -50,6 +51,8 @@ private:
             return responder.refuse(request, EMSGSIZE, "the answer is longer than --unread");
         }
         responder.answer(request, *frames, {.schema = {}, .is_torn = options_.fault == tool::Fault::cut});
+        // While it is held, the next answer has the same bytes, also the same stamp.
+        held_[{bundle, request.tracked}] = frames;
         ++answers_;
     }
 
@@ -71,6 +74,7 @@ private:
     const tool::AnswerOptions &options_;
     tool::Answerer &answerer_;
     tool::Log &log_;
+    std::map<std::pair<const reflect::BundleOperations *, bool>, std::shared_ptr<const tool::Bytes>> held_;
     std::chrono::steady_clock::time_point second_ends_;
     unsigned lines_ = 0, omitted_ = 0, answers_ = 0;
 };

@@ -4,7 +4,7 @@ namespace tarn::fleet {
 
 namespace {
 
-void add_commands(CLI::App &, tool::Context &) {}
+void add_commands(CLI::App &app, tool::Context &context) { add_simulate(app, context); }
 
 }  // namespace
 

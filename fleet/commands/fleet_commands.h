@@ -12,6 +12,7 @@
 
 namespace tarn::fleet {
 
+void add_simulate(CLI::App &app, tool::Context &context);
 void extend_answer(CLI::App &command, CLI::Option_group &endpoint, tool::AnswerOptions &options);
 void extend_show(CLI::App &command, CLI::Option_group &endpoint, tool::ShowOptions &options);
 

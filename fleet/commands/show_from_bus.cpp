@@ -73,13 +73,14 @@ private:
         std::fprintf(stderr, "tarn: %s%s\n", device.empty() ? "" : (device + ": ").c_str(), text.c_str());
     }
 
-    // Devices reply at once. No more are expected when none has replied for twice the time that the last one needed,
-    // and for a tenth of a second.
+    // The first device replies within a second. No more are expected when none has replied for twice the time that the
+    // last one needed, and for a while.
     bool is_discovery_complete() const {
         const auto now = Asker::Clock::now();
         if (now >= deadline_) return true;
         if (!fleet_.devices.empty() && wanted_.empty()) return true;
-        const auto quiet = std::max<Asker::Clock::duration>(std::chrono::milliseconds(100), 2 * (last_found_ - begin_));
+        if (ids_.empty()) return now - begin_ > std::chrono::seconds(1);
+        const auto quiet = std::max<Asker::Clock::duration>(std::chrono::milliseconds(150), 2 * (last_found_ - begin_));
         return now - last_found_ > quiet;
     }
 
@@ -93,9 +94,9 @@ private:
         const bool is_wanted =
             fleet_.all || device.name.site == fleet_.site ||
             std::find(fleet_.devices.begin(), fleet_.devices.end(), device.name.device) != fleet_.devices.end();
+        const std::string &first = ids_.emplace(device.name, device.id).first->second;
         if (!is_wanted) return;
         wanted_.erase(device.name.device);
-        const std::string &first = ids_.emplace(device.name, device.id).first->second;
         if (first != device.id) {
             print_problem(device.name.text(), "several processes answer for this device");
             is_complete_ = false;

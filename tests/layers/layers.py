@@ -23,7 +23,8 @@ MAY_INCLUDE = {
     "tools/tarn/pages": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/service": ["tools/tarn/formats", "tools/tarn/support"],
     "tools/tarn/commands": ["tools/tarn/service", "tools/tarn/pages", "tools/tarn/formats", "tools/tarn/support"],
-    "fleet/bus": ["tools/tarn/service", "tools/tarn/formats", "tools/tarn/support"],
+    "fleet/support": [],
+    "fleet/bus": ["fleet/support", "tools/tarn/service", "tools/tarn/formats", "tools/tarn/support"],
     "fleet/store": ["tools/tarn/formats", "tools/tarn/support"],
     "fleet/commands": ["tools/tarn", "fleet"],
 }
