@@ -4,7 +4,11 @@ namespace tarn::fleet {
 
 namespace {
 
-void add_commands(CLI::App &app, tool::Context &context) { add_simulate(app, context); }
+void add_commands(CLI::App &app, tool::Context &context) {
+    add_simulate(app, context);
+    add_history(app, context);
+    extend_inputs(app);
+}
 
 }  // namespace
 

@@ -86,22 +86,44 @@ std::vector<Latest> Store::latest(const Selection &selection) {
     });
 }
 
+namespace {
+
+// Visits the answers that the condition on `x`, a table or a selection of answers, leaves.
+void for_each_answer_in(Database &database, const std::string &from, const Selection &selection, Time since, Time until,
+                        const std::function<void(const StoredAnswer &)> &visit) {
+    database.guarded(
+        [&] {
+            StoredAnswer a;
+            soci::statement statement =
+                (database.session().prepare
+                     << "SELECT d.device, x.bundle, x.number, x.digest, c.size, x.asked, x.first_seen, x.last_asked, "
+                        "x.last_seen, x.times FROM "
+                     << from << " JOIN devices d ON d.device_id = x.device_id JOIN contents c ON c.digest = x.digest "
+                     << "WHERE x.last_seen >= :since AND x.first_seen <= :until AND" << of_selection
+                     << "ORDER BY d.device, x.bundle, x.number",
+                 soci::use(since, "since"), soci::use(until, "until"), soci::use(selection.device, "device"),
+                 soci::use(selection.bundle, "bundle"), soci::into(a.device), soci::into(a.bundle),
+                 soci::into(a.number), soci::into(a.digest), soci::into(a.size), soci::into(a.asked),
+                 soci::into(a.first_seen), soci::into(a.last_asked), soci::into(a.last_seen), soci::into(a.times));
+            for_each_row_of(statement, [&] { visit(a); });
+        });
+}
+
+}  // namespace
+
 void Store::for_each_answer(const Selection &selection, const std::function<void(const StoredAnswer &)> &visit) {
-    database_->guarded([&] {
-        StoredAnswer a;
-        const Time since = selection.since.value_or(always), until = selection.until.value_or(never);
-        soci::statement statement =
-            (database_->session().prepare
-                 << "SELECT d.device, x.bundle, x.number, x.digest, c.size, x.asked, x.first_seen, x.last_asked, "
-                    "x.last_seen, x.times FROM answers x JOIN devices d ON d.device_id = x.device_id "
-                    "JOIN contents c ON c.digest = x.digest WHERE x.last_seen >= :since AND x.first_seen <= :until AND"
-                 << of_selection << "ORDER BY d.device, x.bundle, x.number",
-             soci::use(since, "since"), soci::use(until, "until"), soci::use(selection.device, "device"),
-             soci::use(selection.bundle, "bundle"), soci::into(a.device), soci::into(a.bundle), soci::into(a.number),
-             soci::into(a.digest), soci::into(a.size), soci::into(a.asked), soci::into(a.first_seen),
-             soci::into(a.last_asked), soci::into(a.last_seen), soci::into(a.times));
-        for_each_row_of(statement, [&] { visit(a); });
-    });
+    for_each_answer_in(*database_, "answers x", selection, selection.since.value_or(always),
+                       selection.until.value_or(never), visit);
+}
+
+std::vector<StoredAnswer> Store::answers_at(const std::string &device, const std::string &bundle, Time time) {
+    std::vector<StoredAnswer> answers;
+    for_each_answer_in(*database_,
+                       "device_bundles p JOIN answers x ON x.device_id = p.device_id AND x.bundle = p.bundle AND "
+                       "x.number = (SELECT max(number) FROM answers m WHERE m.device_id = p.device_id AND "
+                       "m.bundle = p.bundle AND m.first_seen <= :until)",
+                       {device, bundle}, always, time, [&](const StoredAnswer &a) { answers.push_back(a); });
+    return answers;
 }
 
 void Store::for_each_gap(const Selection &selection, const std::function<void(const Gap &)> &visit) {
@@ -124,20 +146,6 @@ void Store::for_each_gap(const Selection &selection, const std::function<void(co
             visit(g);
         });
     });
-}
-
-std::vector<StoredAnswer> Store::answers_at(const std::string &device, const std::string &bundle, Time time) {
-    std::vector<StoredAnswer> answers;
-    const Selection selection{device, bundle, {}, time};
-    // The last one of each bundle that had begun.
-    for_each_answer(selection, [&](const StoredAnswer &answer) {
-        if (!answers.empty() && answers.back().bundle == answer.bundle) answers.pop_back();
-        answers.push_back(answer);
-    });
-    if (answers.empty()) {
-        throw Failure(Exit::input, shown() + ": no answer of " + tool::in_quotes(device) + " at " + time_text(time));
-    }
-    return answers;
 }
 
 std::string Store::frames(const std::string &digest) {

@@ -73,8 +73,8 @@ public:
     void for_each_answer(const Selection &selection, const std::function<void(const StoredAnswer &)> &visit);
     void for_each_gap(const Selection &selection, const std::function<void(const Gap &)> &visit);
 
-    // The last answers of a device that it had given by that time, in the order of the names of the bundles. Throws a
-    // Failure if there is none.
+    // The last answers that had been given by that time, one for each device and bundle, in the order of both. An empty
+    // device or bundle selects all.
     std::vector<StoredAnswer> answers_at(const std::string &device, const std::string &bundle, Time time);
 
     std::string frames(const std::string &digest);

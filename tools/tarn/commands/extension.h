@@ -22,8 +22,9 @@ inline const Extension *extension = nullptr;
 
 // What only tarn-fleet has, for the error that names its package.
 inline constexpr std::string_view fleet_commands[] = {"collect", "history", "simulate"};
-inline constexpr std::string_view fleet_options[] = {"--all",     "--bus",    "--bus-ca", "--bus-cert", "--bus-creds",
-                                                     "--bus-key", "--device", "--site",   "--store"};
+inline constexpr std::string_view fleet_options[] = {"--all",      "--at",        "--bundle",  "--bus",    "--bus-ca",
+                                                     "--bus-cert", "--bus-creds", "--bus-key", "--device", "--since",
+                                                     "--site",     "--store",     "--until"};
 inline constexpr char fleet_package[] = "lumo-ui-tarn-fleet";
 
 }  // namespace tarn::tool

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -73,7 +74,15 @@ void note(Used &used, const Used &others, const std::string &path) {
     if (exists) used.files.insert(id);
 }
 
+// Of offer_input(), by their names.
+std::map<std::string, std::function<std::string()>> other_inputs;
+
 }  // namespace
+
+void offer_input(const std::string &name, std::function<std::string()> read) {
+    const std::lock_guard<std::mutex> hold(lock);
+    other_inputs[name] = std::move(read);
+}
 
 std::string shown_path(const std::string &path) {
     return path == "-" ? "standard input" : printable(path, longest_path);
@@ -85,6 +94,10 @@ std::string shown_output(const std::string &path) {
 
 ByteStream open_input(const std::string &path) {
     const std::string shown = shown_path(path);
+    // They are added before the first input is opened.
+    if (const auto other = other_inputs.find(path); other != other_inputs.end()) {
+        return stream_of(other->second(), shown);
+    }
     const auto input = std::make_shared<const Input>(path);
     if (input->descriptor < 0) fail(shown);
     note(inputs, outputs, path);

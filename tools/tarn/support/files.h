@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,10 @@ namespace tarn::tool {
 ByteStream open_input(const std::string &path);
 std::string read_file(const std::string &path);
 void write_file(const std::string &path, std::string_view bytes);
+
+// Makes open_input() return these bytes for the name, which need not be that of a file. `read` may be called by several
+// threads at once.
+void offer_input(const std::string &name, std::function<std::string()> read);
 
 // The path as messages print it: "standard input" or "standard output" for "-".
 std::string shown_path(const std::string &path);
