@@ -10,11 +10,9 @@
 #include <fstream>
 #include <vector>
 
-#include "fuzz.h"
+#include "tool_target.h"
 #include "tools/tarn/commands/command_line.h"
 #include "tools/tarn/commands/commands.h"
-#include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -27,9 +25,10 @@ constexpr void (*commands[])(CLI::App &, Context &) = {add_decode, add_encode, a
 constexpr std::uint8_t completes = 0x80;
 
 // Leaves the process in the scratch folder, with nothing to read from standard input.
-bool enter_scratch() {
+void enter_scratch() {
     const int nothing = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
-    return ::dup2(nothing, STDIN_FILENO) == STDIN_FILENO && ::chdir(fuzz::scratch_folder().c_str()) == 0;
+    require(::dup2(nothing, STDIN_FILENO) == STDIN_FILENO, "standard input can be replaced");
+    require(::chdir(fuzz::scratch_folder().c_str()) == 0, "the folder exists");
 }
 
 std::vector<std::string> take_words(std::string_view &rest) {
@@ -66,12 +65,10 @@ void run(CLI::App &app, Context &context, const std::vector<std::string> &words)
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), enter_scratch());
-    require(set_up, "the folder exists");
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size, enter_scratch);
     const std::uint8_t byte = input.u8();
-    const auto bytes = input.rest();
-    std::string_view rest(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+    const std::string text = input.rest_of_text();
+    std::string_view rest = text;
     std::vector<std::string> words = take_words(rest);
     CLI::App app("Commands.", "tarn");
     Context context;

@@ -54,6 +54,11 @@ std::span<const std::uint8_t> Input::take(std::size_t size) {
     return taken;
 }
 
+std::string Input::text(std::size_t size) {
+    const auto bytes = take(size);
+    return {bytes.begin(), bytes.end()};
+}
+
 kit::Tracking Choice::tracking() const {
     return (byte_ & 3) == 0 ? kit::Tracking::none : (byte_ & 3) == 1 ? kit::Tracking::off : kit::Tracking::on;
 }
@@ -84,17 +89,7 @@ std::size_t roots() {
 }
 
 reference::Record small_value(std::string_view type, bool printable) {
-    constexpr std::size_t small = 300;
-    for (const std::uint32_t elements : {2U, 1U}) {
-        const reference::Record value = reference::Generator(3, {.min_elements = elements,
-                                                                 .max_elements = elements,
-                                                                 .min_text = 1,
-                                                                 .max_text = 5,
-                                                                 .printable = printable})
-                                            .make(type);
-        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
-    }
-    std::abort();
+    return reference::small_value(type, 3, printable);
 }
 
 namespace {

@@ -40,6 +40,8 @@ public:
     std::uint64_t u64();
     std::span<const std::uint8_t> take(std::size_t size);
     std::span<const std::uint8_t> rest() { return take(rest_.size()); }
+    std::string text(std::size_t size);
+    std::string rest_of_text() { return text(rest_.size()); }
 
 private:
     std::span<const std::uint8_t> rest_;

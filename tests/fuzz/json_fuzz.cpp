@@ -1,10 +1,8 @@
 // Messages in JSON: what is read is written, as JSON and as frames, and read again.
-#include "fuzz.h"
+#include "tool_target.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/formats/writer.h"
-#include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -25,28 +23,23 @@ std::string rendered(const std::vector<Item> &items, Style style) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
-    require(set_up, "the trace is set up");
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size);
     const fuzz::Choice choice(input.u8());
-    const auto bytes = input.rest();
-    const std::string content(bytes.begin(), bytes.end());
+    const std::string content = input.rest_of_text();
     const Handles handles(choice.bit(tracked)     ? Tracking::on
                           : choice.bit(untracked) ? Tracking::off
                                                   : Tracking::as_input);
-    try {
+    fuzz::succeeds([&] {
         const std::vector<Item> items = from_json(handles, content, "input", choice.bit(lenient));
-        if (items.empty()) return 0;
+        if (items.empty()) return;
         const std::string json = rendered(items, Style::json);
         require(rendered(from_json(handles, json, "output", false), Style::json) == json,
                 "JSON that was written reads back as it was");
         // A frame does not carry everything, such as the state of an empty array; a second one carries the same.
         const std::string frames = rendered(items, Style::frames);
-        if (frames.empty()) return 0;
+        if (frames.empty()) return;
         const std::string again = rendered(items_of(handles, frames, "frames", false), Style::frames);
         require(again == frames, "frames that were written are written again as they were");
-    } catch (const Failure &failure) {
-        require(failure.what()[0] != 0, "a failure has a sentence");
-    }
+    });
     return 0;
 }

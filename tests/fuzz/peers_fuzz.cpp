@@ -23,8 +23,8 @@
 #include "pieces.h"
 #include "reference/text.h"
 #include "schema/frame.h"
+#include "tool_target.h"
 #include "tools/tarn/service/server.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -337,9 +337,7 @@ void ask(const Service &service) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
-    require(set_up, "the trace is set up");
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size);
     const fuzz::Choice choice(input.u8());
     answerer();
     const std::size_t before = open_files();

@@ -4,10 +4,9 @@
 
 #include "pieces.h"
 #include "platform/service/inbox.hpp"
+#include "tool_target.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/service/receiver.h"
-#include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -70,9 +69,7 @@ private:
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
-    require(set_up, "the trace is set up");
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size);
     const std::uint8_t byte = input.u8();
     const fuzz::Choice choice(byte);
     const auto via = static_cast<Via>((byte >> via_shift & 7U) % via_words().size());

@@ -2,15 +2,13 @@
 // for broken frames.
 #include <nlohmann/json.hpp>
 
-#include "fuzz.h"
+#include "tool_target.h"
 #include "tools/tarn/formats/dissection.h"
 #include "tools/tarn/formats/json.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/formats/writer.h"
 #include "tools/tarn/formats/xml_check.h"
 #include "tools/tarn/service/receiver.h"
-#include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -80,28 +78,16 @@ void deliver(std::string_view content, bool tracked) {
     }
 }
 
-template <class Call>
-void try_it(Call &&call) {
-    try {
-        call();
-    } catch (const Failure &failure) {
-        require(failure.what()[0] != 0, "a failure has a sentence");
-    }
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
-    require(set_up, "the trace is set up");
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size);
     const fuzz::Choice choice(input.u8());
-    const auto bytes = input.rest();
-    const std::string content(bytes.begin(), bytes.end());
-    try_it([&] { read(content, choice); });
+    const std::string content = input.rest_of_text();
+    fuzz::succeeds([&] { read(content, choice); });
     if (!choice.bit(falls_bit)) return 0;
-    try_it([&] { take_apart(content); });
-    try_it([&] { deliver(content, choice.bit(tracking_bit)); });
+    fuzz::succeeds([&] { take_apart(content); });
+    fuzz::succeeds([&] { deliver(content, choice.bit(tracking_bit)); });
     hex_dump(content);
     address_problem(content);
     return 0;

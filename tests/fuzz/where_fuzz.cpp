@@ -3,13 +3,12 @@
 // The first byte chooses the record and the second one the format; the rest is the condition.
 #include <map>
 
-#include "fuzz.h"
 #include "reference/codec.h"
+#include "tool_target.h"
 #include "tools/tarn/formats/condition.h"
 #include "tools/tarn/formats/frames.h"
 #include "tools/tarn/formats/row_writer.h"
 #include "tools/tarn/support/failure.h"
-#include "tools/tarn/support/trace.h"
 
 namespace {
 
@@ -52,15 +51,12 @@ void run(const Instances &instances, RowStyle style, std::string_view text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const bool set_up = (set_up_trace(false), mirk_platform_trace_set_levels(1), true);
-    require(set_up, "the trace is set up");
     static std::map<std::size_t, Instances> made;
-    fuzz::Input input(data, size);
+    fuzz::Input input = fuzz::tool_input(data, size);
     const std::size_t number = input.u8() % tables().size();
     const auto style = static_cast<RowStyle>(input.u8() % 4);
     const auto found = made.try_emplace(number, *tables()[number].record).first;
-    const auto bytes = input.rest();
-    const std::string_view text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+    const std::string text = input.rest_of_text();
     try {
         run(found->second, style, text);
     } catch (const Failure &failure) {

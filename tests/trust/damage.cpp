@@ -28,19 +28,7 @@ const std::vector<Root> &roots() {
     return all;
 }
 
-reference::Record rich(std::string_view type, bool printable) {
-    constexpr std::size_t small = 300;
-    for (const std::uint32_t elements : {2U, 1U}) {
-        const reference::Record value = reference::Generator(11, {.min_elements = elements,
-                                                                  .max_elements = elements,
-                                                                  .min_text = 1,
-                                                                  .max_text = 5,
-                                                                  .printable = printable})
-                                            .make(type);
-        if (elements == 1 || reference::encode(value, true).size() <= small) return value;
-    }
-    std::abort();
-}
+reference::Record rich(std::string_view type, bool printable) { return reference::small_value(type, 11, printable); }
 
 Bytes frame_of(const Root &root, bool tracked) {
     if (root.enumeration != nullptr) return {0, 0, 0, 0, 1};

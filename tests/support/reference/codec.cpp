@@ -1,5 +1,6 @@
 #include "reference/codec.h"
 
+#include <cstdlib>
 #include <stdexcept>
 
 namespace reference {
@@ -207,6 +208,17 @@ Bytes encode(const Record &value, bool tracked) {
     Bytes out;
     put_record(out, value, tracked);
     return out;
+}
+
+Record small_value(std::string_view type, std::uint64_t seed, bool printable) {
+    constexpr std::size_t small = 300;
+    GeneratorOptions options{.min_text = 1, .max_text = 5, .printable = printable};
+    for (const std::uint32_t elements : {2U, 1U}) {
+        options.min_elements = options.max_elements = elements;
+        const Record value = Generator(seed, options).make(type);
+        if (elements == 1 || encode(value, true).size() <= small) return value;
+    }
+    std::abort();
 }
 
 Decoded decode(std::string_view type, std::span<const std::uint8_t> bytes, bool tracked) {

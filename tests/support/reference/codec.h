@@ -19,6 +19,9 @@ using Bytes = std::vector<std::uint8_t>;
 // The record's frame. A variant above 0 is written as 0.
 Bytes encode(const Record &value, bool tracked);
 
+// A value of at most two elements to an array and five characters to a string, whose frame has a few hundred bytes.
+Record small_value(std::string_view type, std::uint64_t seed, bool printable = false);
+
 struct Decoded {
     std::optional<Record> value;  // empty if the bytes are not exactly a frame
     std::size_t consumed = 0;

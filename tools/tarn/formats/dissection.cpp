@@ -10,12 +10,7 @@ namespace tarn::tool {
 
 namespace {
 
-using schema::Category;
-using schema::Content;
-using schema::Member;
-using schema::Part;
-using schema::Record;
-using schema::Role;
+using namespace schema;
 
 static_assert(schema::message_head_size == MIRK_PLATFORM_FRAME_SIZE);
 

@@ -14,12 +14,7 @@ namespace tarn::tool {
 
 namespace {
 
-using schema::Category;
-using schema::Content;
-using schema::Member;
-using schema::Part;
-using schema::Record;
-using schema::Role;
+using namespace schema;
 
 struct Token {
     enum class Kind : std::uint8_t { word, text, raw, mark, end };

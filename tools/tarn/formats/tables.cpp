@@ -16,11 +16,7 @@ namespace tarn::tool {
 
 namespace {
 
-using schema::Category;
-using schema::Kind;
-using schema::Member;
-using schema::Record;
-using schema::Role;
+using namespace schema;
 
 constexpr std::string_view name_prefix = "lumo_tarn_";
 constexpr std::array<std::string_view, 3> sides = {"dp_", "cl_", "pal_"};

@@ -19,11 +19,7 @@ namespace tarn::tool {
 
 namespace {
 
-using schema::Category;
-using schema::Kind;
-using schema::Member;
-using schema::Record;
-using schema::Role;
+using namespace schema;
 
 std::string_view name_of(const xmlNode *node) { return reinterpret_cast<const char *>(node->name); }
 
