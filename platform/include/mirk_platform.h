@@ -509,6 +509,9 @@ MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_run(mirk_platform_ser
 /** Stops the server. May be called from any thread and from a signal handler. A later mirk_platform_server_run()
  * returns immediately. */
 MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
+/** From now on, SIGINT and SIGTERM stop the server, also before it runs. They have their default action again when the
+ * server is closed. For programs that do not handle these signals themselves. */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_stop_on_signals(mirk_platform_server *server);
 /** Queues a copy of `size` bytes, which should be complete frames, for a peer. Call it only from a callback. May
  * call on_refused and on_disconnect before it returns, for this or for another peer.
  *
@@ -516,6 +519,9 @@ MIRK_PLATFORM_API void mirk_platform_server_stop(mirk_platform_server *server);
  * peer has been disconnected. */
 MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer,
                                                                 const void *bytes, size_t size);
+/** Queues the frame that mirk_platform_refusal_encode() writes. Otherwise like mirk_platform_server_send(). */
+MIRK_PLATFORM_API mirk_platform_error mirk_platform_server_refuse(mirk_platform_server *server, mirk_platform_peer peer,
+                                                                  uint32_t error, const char *sentence);
 /** Releases what a program has lent to a server. */
 typedef void (*mirk_platform_release)(void *owner);
 /** Queues bytes for a peer without copying them. They must not change until `release` is called with `owner`: exactly

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <climits>
+#include <csignal>
 #include <deque>
 #include <optional>
 #include <sstream>
@@ -88,6 +89,7 @@ struct mirk_platform_server {
     asio::steady_timer accept_retry{context};
     asio::posix::stream_descriptor stop_signal{context};
     int stop_fd = -1;
+    std::optional<asio::signal_set> signals;
     mirk::SocketFile file;
     mirk_platform_peer last_peer = 0;
     std::unordered_map<mirk_platform_peer, std::shared_ptr<Connection>> connections;
@@ -661,6 +663,16 @@ void mirk_platform_server_stop(mirk_platform_server *server) {
     errno = kept;
 }
 
+mirk_platform_error mirk_platform_server_stop_on_signals(mirk_platform_server *server) {
+    return mirk::guarded([&]() -> mirk_platform_error {
+        server->signals.emplace(server->context, SIGINT, SIGTERM);
+        server->signals->async_wait([server](const asio::error_code &error, int) {
+            if (!error) server->stop_now();
+        });
+        return 0;
+    });
+}
+
 mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk_platform_peer peer, const void *bytes,
                                               size_t size) {
     return send_chunk(server, peer, [&] {
@@ -668,6 +680,13 @@ mirk_platform_error mirk_platform_server_send(mirk_platform_server *server, mirk
         std::memcpy(copy.get(), bytes, size);
         return mirk::Chunk{copy, size, false};
     });
+}
+
+mirk_platform_error mirk_platform_server_refuse(mirk_platform_server *server, mirk_platform_peer peer, uint32_t error,
+                                                const char *sentence) {
+    uint8_t frame[MIRK_PLATFORM_REQUEST_SIZE_MAX];
+    const uint32_t size = mirk_platform_refusal_encode(frame, sizeof frame, 0, error, sentence, nullptr);
+    return mirk_platform_server_send(server, peer, frame, size);
 }
 
 mirk_platform_error mirk_platform_server_send_shared(mirk_platform_server *server, mirk_platform_peer peer,

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <csignal>
 #include <future>
 #include <thread>
 
@@ -734,4 +735,46 @@ TEST(Transport, RefusesTextThatIsNotATcpAddress) {
     EXPECT_EQ(open_tcp("no such host:1", &client), uint32_t{EADDRNOTAVAIL});
     options.on_frame = nullptr;
     EXPECT_EQ(mirk_platform_server_open_tcp(":0", &options, &server), uint32_t{EINVAL});
+}
+
+TEST(Transport, SignalsStopAServerThatAsksForThem) {
+    for (const int number : {SIGINT, SIGTERM}) {
+        for (const bool runs_before : {false, true}) {
+            mirk_platform_server_options options = Echo::defaults();
+            options.on_frame = Echo::echo;
+            mirk_platform_server *server = nullptr;
+            const std::string path = "/tmp/mirk_transport_" + std::to_string(getpid()) + "_signals";
+            ASSERT_EQ(mirk_platform_server_open(path.c_str(), &options, &server), 0u);
+            ASSERT_EQ(mirk_platform_server_stop_on_signals(server), 0u);
+            if (!runs_before) std::raise(number);
+            std::thread thread([&] { EXPECT_EQ(mirk_platform_server_run(server), 0u); });
+            if (runs_before) std::raise(number);
+            thread.join();
+            std::raise(number);  // has no effect until the server is closed
+            mirk_platform_server_close(server);
+            struct sigaction action {};
+            ASSERT_EQ(sigaction(number, nullptr, &action), 0);
+            EXPECT_EQ(action.sa_handler, SIG_DFL);
+        }
+    }
+}
+
+TEST(Transport, ARefusalIsSentLikeAFrame) {
+    Echo echo(Echo::defaults(), [](void *, mirk_platform_server *server, mirk_platform_peer peer, void *, uint32_t) {
+        EXPECT_EQ(mirk_platform_server_refuse(server, peer, EACCES, "not today"), 0u);
+        EXPECT_EQ(mirk_platform_server_refuse(server, peer + 1, EACCES, nullptr), mirk_platform_error{ENOTCONN});
+    });
+    mirk_platform_client *client = nullptr;
+    ASSERT_EQ(mirk_platform_client_open(echo.path.c_str(), 0, 10000, &client), 0u);
+    const std::string request = frame(50, 'x');
+    ASSERT_EQ(mirk_platform_client_send(client, request.data(), request.size(), 10000), 0u);
+    void *bytes = nullptr;
+    uint32_t size = 0;
+    ASSERT_EQ(mirk_platform_client_receive(client, &bytes, &size, 10000), 0u);
+    mirk_platform_request refusal;
+    ASSERT_EQ(mirk_platform_request_decode(bytes, size, &refusal), 0u);
+    EXPECT_EQ(refusal.options, MIRK_PLATFORM_REQUEST_REFUSED);
+    EXPECT_EQ(refusal.number, uint32_t{EACCES});
+    EXPECT_STREQ(refusal.sentence, "not today");
+    mirk_platform_client_close(client);
 }
