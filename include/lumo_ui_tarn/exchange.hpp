@@ -240,6 +240,10 @@ public:
     void stop() noexcept {
         if (native_ != nullptr) mirk_platform_server_stop(native_);
     }
+    /// From now on, SIGINT and SIGTERM end run(). They have their default action again when the server is destroyed.
+    void stop_on_signals() {
+        if (native_ != nullptr) check(mirk_platform_server_stop_on_signals(native_), "cannot wait for signals");
+    }
     /// Where the server listens: the path of its socket file, or address and port such as "127.0.0.1:28276".
     [[nodiscard]] std::string address() const {
         return native_ != nullptr ? mirk_platform_server_place(native_) : std::string();
@@ -258,52 +262,48 @@ private:
 #endif
     }
 
-    static frame refusal(std::uint32_t number, const char *sentence) {
-        std::uint8_t bytes[MIRK_PLATFORM_REQUEST_SIZE_MAX];
-        return {bytes, mirk_platform_refusal_encode(bytes, sizeof bytes, 0, number, sentence, nullptr)};
+    void refuse(mirk_platform_peer peer, std::uint32_t number, const char *sentence) {
+        mirk_platform_server_refuse(native_, peer, number, sentence);
     }
-    frame written(const mirk_platform_request &request) {
+    void answer(mirk_platform_peer peer, const mirk_platform_request &request) {
         const auto found = answers_.callbacks_.find(request.bundle);
-        if (found == answers_.callbacks_.end()) return refusal(ENOENT, "this bundle is not served here");
+        if (found == answers_.callbacks_.end()) return refuse(peer, ENOENT, "this bundle is not served here");
         mirk_platform_handle_options options = options_.handle;
         const bool tracked = (request.options & MIRK_PLATFORM_REQUEST_TRACKED) != 0;
         options.tracking = tracked ? MIRK_PLATFORM_TRACKING_ON : MIRK_PLATFORM_TRACKING_NONE;
         const handle h(options);
         context c(h, options_.mode);
-        frame answer = found->second(c);
-        if (c.ok()) return answer;
-        return refusal(static_cast<std::uint32_t>(c.error().value()), "the answer could not be written");
+        frame written = found->second(c);
+        if (!c.ok()) {
+            return refuse(peer, static_cast<std::uint32_t>(c.error().value()), "the answer could not be written");
+        }
+        auto *sent = new frame(std::move(written));
+        mirk_platform_server_send_shared(
+            native_, peer, sent->data(), sent->size(), [](void *owner) { delete static_cast<frame *>(owner); }, sent);
     }
     // No exception may reach the transport.
-    frame answer_to(const mirk_platform_request &request) noexcept {
-#if defined(__cpp_exceptions)
-        try {
-            return written(request);
-        } catch (const std::system_error &failure) {
-            const bool has_number = failure.code().default_error_condition().category() == std::generic_category();
-            return refusal(has_number ? static_cast<std::uint32_t>(failure.code().value()) : EIO, failure.what());
-        } catch (const std::bad_alloc &) {
-            return refusal(ENOMEM, "out of memory");
-        } catch (const std::exception &failure) {
-            return refusal(EIO, failure.what());
-        } catch (...) {
-            return refusal(EIO, "the answer could not be written");
-        }
-#else
-        return written(request);
-#endif
-    }
     void on_frame(mirk_platform_peer peer, const void *bytes, std::uint32_t size) noexcept {
         mirk_platform_request request;
         if (mirk_platform_request_decode(bytes, size, &request) != 0 ||
             (request.options & MIRK_PLATFORM_REQUEST_REFUSED) != 0) {
-            mirk_platform_server_disconnect(native_, peer, "it sent a frame that is not a request");
-            return;
+            return mirk_platform_server_disconnect(native_, peer, "it sent a frame that is not a request");
         }
-        auto *answer = new frame(answer_to(request));  // until it has been sent
-        mirk_platform_server_send_shared(
-            native_, peer, answer->data(), answer->size(), [](void *owner) { delete static_cast<frame *>(owner); },
-            answer);
+#if defined(__cpp_exceptions)
+        try {
+            answer(peer, request);
+        } catch (const std::system_error &failure) {
+            const bool has_number = failure.code().default_error_condition().category() == std::generic_category();
+            refuse(peer, has_number ? static_cast<std::uint32_t>(failure.code().value()) : EIO, failure.what());
+        } catch (const std::bad_alloc &) {
+            refuse(peer, ENOMEM, "out of memory");
+        } catch (const std::exception &failure) {
+            refuse(peer, EIO, failure.what());
+        } catch (...) {
+            refuse(peer, EIO, "the answer could not be written");
+        }
+#else
+        answer(peer, request);
+#endif
     }
 
     answers answers_;
@@ -312,9 +312,11 @@ private:
     mirk_platform_server *native_ = nullptr;
 };
 
-/// Serves until the process ends. Use a server to stop it.
+/// Serves until SIGINT or SIGTERM. Errors are those of server.
 inline void serve(const std::string &address, answers known, const server_options &options = {}) {
-    server(address, std::move(known), options).run();
+    server one(address, std::move(known), options);
+    one.stop_on_signals();
+    one.run();
 }
 
 }  // namespace lumo_ui_tarn

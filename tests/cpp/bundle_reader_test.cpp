@@ -75,7 +75,7 @@ TEST_F(CppBundles, AreReadWithTheirMessages) {
 TEST_F(CppBundles, MayBeCutAnywhere) {
     const frame bytes = joined({bundle({1}), bundle({2, 3})});
     std::mt19937 random(1);
-    for (std::size_t longest : {1, 7, 43, 500}) {
+    for (const std::size_t longest : {1u, 7u, 43u, 500u}) {
         Reader reader(c);
         std::string seen;
         for (std::size_t at = 0; at < bytes.size();) {

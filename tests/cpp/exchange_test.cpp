@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -96,6 +97,22 @@ TEST_F(Exchange, ABundleIsAskedForAndServed) {
         EXPECT_TRUE(levels[1].payload().warn_enabled());
         EXPECT_EQ(levels[1].payload().warn_enabled_state(), std::nullopt);
     }
+}
+
+TEST_F(Exchange, ServeEndsWithASignal) {
+    std::thread thread([&] { serve(address, known_answers()); });
+    std::vector<debug_setting_msg> levels;
+    while (levels.empty()) {
+        try {
+            levels = ask<cl_debug_rsp>(c, address);
+        } catch (const std::system_error &) {  // it does not listen yet
+            std::this_thread::sleep_for(1ms);
+        }
+    }
+    // A peer is connected, so the server waits for signals already.
+    std::raise(SIGTERM);
+    thread.join();
+    expect_error(std::errc::no_such_file_or_directory, [&] { (void)ask<cl_debug_rsp>(c, address); });
 }
 
 TEST_F(Exchange, AHandleThatTracksStateGetsState) {

@@ -35,4 +35,4 @@ endfunction()
 remove_text(lumo_ui_tarn/module.h "/\\*\\*[^/]*\\*/\n" "LUMO_UI_TARN_API void lumo_ui_tarn_type_variant_dump"
           lumo_ui_tarn_type_variant_dump)
 remove_text(lumo_ui_tarn.hpp "/// [^\n]*\n *" "std::uint16_t src_port_min\\(\\) const" src_port_min)
-remove_text(lumo_ui_tarn/interface.hpp "/// [^\n]*\n *" "bool is_tracked\\(\\) const" is_tracked)
+remove_text(lumo_ui_tarn/interface.hpp "/// [^\n]*\n *" "\\[\\[nodiscard\\]\\] bool is_tracked\\(\\) const" is_tracked)
