@@ -20,12 +20,11 @@ template <class T>
 std::string text_of(T value) {
     if constexpr (std::is_same_v<T, std::string>) {
         return value;
-    } else if constexpr (std::is_same_v<T, address>) {
-        return "an address with prefix length " + std::to_string(value.prefix_len);
     } else if constexpr (std::is_enum_v<T>) {
         return std::string(name_of(value));
     } else {
-        return std::to_string(value);
+        using std::to_string;
+        return to_string(value);  // of numbers and of addresses
     }
 }
 
@@ -70,11 +69,7 @@ void watch(mirk_handle *h) {
     print("without writes");
 
     classes[1].set_proto(17);  // the same value also counts as written
-    address prefix;
-    prefix.af = 2;
-    prefix.prefix_len = 8;
-    prefix.word[0] = 0x0a000000;
-    classes[0].set_src_prefix(prefix);
+    classes[0].set_src_prefix(address::parse("10.0.0.0/8").value());
     print("after the second round");
 }
 

@@ -41,9 +41,10 @@ class Background:
         self.process.stdout.close()
 
 
-def test_answer_request(tmp_path: pathlib.Path):
+@pytest.mark.parametrize("program", ["answer_request", "serve_bundle"])
+def test_programs_that_answer(program: str, tmp_path: pathlib.Path):
     socket = tmp_path / "socket"
-    with Background(PROGRAMS / "answer_request", socket, "warn", "info"):
+    with Background(PROGRAMS / program, socket, "warn,info"):
         for options in ([], ["--tracked"]):
             answer = json.loads(run(TOOL, "show", "cl-debug", "--socket", socket, "--json", *options))
             (message,) = answer["messages"]
@@ -51,7 +52,8 @@ def test_answer_request(tmp_path: pathlib.Path):
             states = {"@state": dict.fromkeys(levels, 2)} if options else {}
             assert message["payload"] == {**levels, **states}
         refusal = run(TOOL, "show", "dp-intf", "--socket", socket, code=1)
-        assert "this program serves only lumo_tarn_cl_debug_rsp" in refusal
+        assert "serve" in refusal
+    assert not socket.exists()
 
 
 @pytest.mark.parametrize("name", sorted(path.name for path in EXAMPLES.glob("*.py")))
@@ -66,7 +68,8 @@ def classes_as_the_tool_shows_them(file: pathlib.Path) -> list:
     return [(table["lumo_num"], table["agg_tc_list"]["tc_list"]) for table in message["payload"]["lumo_data"]]
 
 
-def test_collect_bundle(tmp_path: pathlib.Path):
+@pytest.mark.parametrize("program", ["ask_classes", "collect_bundle"])
+def test_programs_that_ask(program: str, tmp_path: pathlib.Path):
     tables = EXAMPLES / "dp_tt_cfg.xml"
     expected = ""
     for number, classes in classes_as_the_tool_shows_them(tables):
@@ -76,14 +79,55 @@ def test_collect_bundle(tmp_path: pathlib.Path):
     assert expected.count("\n") > 5
     socket = tmp_path / "socket"
     with Background(TOOL, "answer", "--socket", socket, f"dp-tt-cfg={tables}"):
-        assert run(PROGRAMS / "collect_bundle", socket) == expected
-    for fault, word in {"abort": "aborted", "no-commit": "receive", "foreign": "message"}.items():
+        assert run(PROGRAMS / program, socket) == expected
+    faults = {
+        "abort": "Operation canceled",
+        "cut": "Connection reset",
+        "foreign": "No such file",
+        "no-commit": "Connection timed out",
+    }
+    for fault, words in faults.items():
         other = tmp_path / fault
         with Background(TOOL, "answer", "--socket", other, "--fault", fault, f"dp-tt-cfg={tables}"):
-            assert word in run(PROGRAMS / "collect_bundle", other, code=1)
+            assert words in run(PROGRAMS / program, other, code=1)
     other = tmp_path / "other"
     with Background(TOOL, "answer", "--socket", other, f"cl-debug={EXAMPLES / 'cl_debug.xml'}"):
-        assert run(PROGRAMS / "collect_bundle", other, code=1)
+        assert "No such file" in run(PROGRAMS / program, other, code=1)
+
+
+def test_write_bundle(tmp_path: pathlib.Path):
+    file = tmp_path / "answer.bin"
+    assert run(PROGRAMS / "write_bundle", file) == ""
+    _, message, _ = (json.loads(line) for line in run(TOOL, "decode", "--json", file).splitlines())
+    (table,) = message["payload"]["lumo_data"]
+    assert (table["lumo_num"], table["duration"]) == (3, 60)
+    classes = table["agg_tc_list"]["tc_list"]
+    assert [(tc["id"], tc["proto"], tc["appl"]["id"]) for tc in classes] == [(1, 6, 0), (2, 17, 9)]
+    prefixes = [("10.0.0.0/8", "unset"), ("unset", "2001:db8::/32")]
+    assert [(tc["src_prefix"], tc["dst_prefix"]) for tc in classes] == prefixes
+    assert "basic_ios" in run(PROGRAMS / "write_bundle", tmp_path / "nowhere" / "file", code=1)
+
+
+def test_receive_bundle(tmp_path: pathlib.Path):
+    file = tmp_path / "answer.bin"
+    run(PROGRAMS / "write_bundle", file)
+    whole = file.read_bytes()
+
+    def receive(data: bytes, code: int = 0) -> str:
+        file.write_bytes(data)
+        with file.open("rb") as stream:
+            command = [PROGRAMS / "receive_bundle"]
+            done = subprocess.run(command, stdin=stream, capture_output=True, text=True, timeout=60, check=False)
+        assert done.returncode == code, done.stderr
+        return done.stdout if code == 0 else done.stderr
+
+    lines = receive(whole + whole).splitlines()
+    assert len(lines) == 2 and lines[0] == lines[1]
+    assert lines[0].startswith("dp_tt_msg{dp_tt_table_data{")
+    assert "src_prefix=10.0.0.0/8" in lines[0] and "lumo_num=3" in lines[0]
+    assert "the last bundle has no end" in receive(whole[:-43], code=1)
+    assert "the last frame is incomplete" in receive(whole[:-1], code=1)
+    assert "the bytes are not a frame" in receive(whole + b"x" * 50, code=1)
 
 
 def test_watch_changes():
@@ -96,7 +140,7 @@ def test_watch_changes():
         "  table.agg_tc_list.tc_list[1].appl.id is now 5\n"
         "without writes:\n"
         "after the second round:\n"
-        "  table.agg_tc_list.tc_list[0].src_prefix is now an address with prefix length 8\n"
+        "  table.agg_tc_list.tc_list[0].src_prefix is now 10.0.0.0/8\n"
         "  table.agg_tc_list.tc_list[1].proto is now 17\n"
     )
 
@@ -155,9 +199,9 @@ def test_convert_captures(tmp_path: pathlib.Path):
     assert len(list(tmp_path.joinpath("again").glob("*.json"))) == 3
 
 
-@pytest.mark.parametrize("program", ["answer_request", "collect_bundle"])
+@pytest.mark.parametrize("program", ["answer_request", "ask_classes", "collect_bundle", "serve_bundle", "write_bundle"])
 def test_a_wrong_call_prints_the_usage(program: str):
-    assert run(PROGRAMS / program, code=2).startswith(f"usage: {program} SOCKET")
+    assert run(PROGRAMS / program, code=2).startswith(f"usage: {program} ")
 
 
 def test_serve_classes_and_ask_many(tmp_path: pathlib.Path):
