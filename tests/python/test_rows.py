@@ -1,6 +1,8 @@
 """Rows of records, compared with those of the tool."""
 
 import re
+import threading
+import tracemalloc
 
 import lumo_tarn
 import pytest
@@ -77,6 +79,36 @@ def test_a_row_stays_after_its_message_has_changed():
     message.payload.lumo_data[0].agg_tc_list.tc_list.grow(5000)  # moves the elements
     del message
     assert found + list(rows) == [{"id": 7}, {"id": 8}, {"id": 9}]
+
+
+def peak_of(read) -> int:
+    tracemalloc.start()
+    read()
+    peak = tracemalloc.get_traced_memory()[1]
+    tracemalloc.stop()
+    return peak
+
+
+def test_rows_of_a_frame_are_not_in_memory_together():
+    frame = lumo_tarn.DpTtMsg(lumo_tarn.DpTtTableData(lumo_data=[{"agg_tc_list": {"tc_list": [{}] * 10000}}])).to_frame()
+    one = peak_of(lambda: sum(1 for _ in lumo_tarn.frames(frame)))
+    assert peak_of(lambda: sum(1 for _ in lumo_tarn.rows(frame, "tc"))) < one + (1 << 20)
+
+
+def test_rows_end_when_their_handle_is_closed():
+    def run() -> None:
+        rows = lumo_tarn.rows(TABLES.to_frame(), "tc", ["id"])
+        assert next(rows) == {"id": 7}
+        lumo_tarn.handle().close()
+        with pytest.raises(ValueError, match="the handle is closed"):
+            next(rows)
+        passed.append(True)
+
+    passed: list[bool] = []
+    thread = threading.Thread(target=run)  # the default handle of a thread of its own
+    thread.start()
+    thread.join()
+    assert passed
 
 
 def test_unknown_names_are_reported():

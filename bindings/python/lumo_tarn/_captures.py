@@ -7,7 +7,7 @@ import errno
 import io
 import os
 import re
-from typing import BinaryIO, Callable, Generator, Iterable, Iterator, NamedTuple, Union, cast
+from typing import BinaryIO, Callable, Generator, Iterable, Iterator, NamedTuple, TypeGuard, Union, cast
 
 from . import _schema
 from ._base import Message
@@ -224,15 +224,20 @@ class Capture:
         self.close()
 
 
+def are_frames(source: Source) -> TypeGuard[Frames]:
+    """Whether a source consists of frames, not of messages."""
+    return isinstance(source, (str, os.PathLike, bytes, bytearray, memoryview)) or hasattr(source, "read")
+
+
 def items_of(source: Source) -> Iterator[Message | Control]:
     """Yields messages and control messages of what rows() and diff() read: frames as frames() takes them, a message, or
     an iterable of messages and control messages."""
-    if isinstance(source, (Message, Control)):
+    if are_frames(source):
+        yield from frames(source)
+    elif isinstance(source, (Message, Control)):
         yield source
-    elif isinstance(source, (str, os.PathLike, bytes, bytearray, memoryview)) or hasattr(source, "read"):
-        yield from frames(cast(Frames, source))
     else:
-        yield from source
+        yield from cast(Iterable[Union[Message, Control]], source)
 
 
 def recording(text: str, on: Handle | None = None) -> Iterator[Message]:

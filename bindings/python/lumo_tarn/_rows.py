@@ -6,7 +6,7 @@ from typing import Any, Callable, Iterator, Mapping, NamedTuple, Sequence, Union
 
 from . import _schema
 from ._base import Message, Record
-from ._captures import Control, Source, items_of
+from ._captures import Control, Source, are_frames, items_of
 from ._names import record_named, short
 from ._values import Plan
 
@@ -93,25 +93,25 @@ class _Table:
                 add(here, {})  # also without any of its members
         return tree
 
-    def visit(self, row: Any, place: _Place, add: Callable[[_Place, Any], None]) -> None:
+    def visit(self, row: Any, place: _Place) -> Iterator[tuple[_Place, Any]]:
+        """Yields the instances of the record, and where they are."""
         inside = place.keys
         if self.keys and row is not None:
             inside = {**inside, **{name: row[key] for name, key in self.keys if key in row}}
         for path in self.here:
             owner = _follow(row, path[:-1])
             if not path:
-                add(place, row)
+                yield place, row
             elif owner is not None:
                 at = ".".join(path)
-                there = place._replace(path=f"{place.path}.{at}" if place.path else at, keys=inside)
-                add(there, owner[path[-1]])
+                yield place._replace(path=f"{place.path}.{at}" if place.path else at, keys=inside), owner[path[-1]]
         for path, table in self.lists:
             owner = _follow(row, path[:-1])
             if owner is None:
                 continue
             at = ".".join((place.path, *path) if place.path else path)
             for position, element in enumerate(owner[path[-1]]):
-                table.visit(element, _Place(place.message, place.bundle, f"{at}[{position}]", inside), add)
+                yield from table.visit(element, _Place(place.message, place.bundle, f"{at}[{position}]", inside))
 
 
 def _follow(value: Any, path: Path) -> Any:
@@ -178,7 +178,7 @@ def rows(
 
     Values are those of Record.to_dict(); None: what contains the member has no body. where maps columns, also others, to
     a value that must be equal or to a function that returns true for the values of the rows to yield. The function is
-    not called for None. One message at a time is in memory, with its rows.
+    not called for None. One message of a file is in memory.
 
     Raises ValueError for an unknown record or column, and the errors of frames()."""
     if isinstance(record, str):
@@ -206,7 +206,7 @@ def rows(
     tests = [(column(name), _test(condition)) for name, condition in (where or {}).items()]
     read = [*shown, *(column for column, _ in tests)]
     plans = {
-        message: (table, Plan(table.name, table.wanted(read)))
+        message: (table, Plan(table.name, table.wanted(read), is_lazy=True))
         for message, table in tables.items()
         if table.contains_it()
     }
@@ -228,14 +228,14 @@ def _rows(
         if item.message_name not in plans:
             continue
         table, plan = plans[item.message_name]
-        found: list[dict[str, Any]] = []
-
-        def add(place: _Place, value: Any) -> None:
-            for read, test in tests:
-                if not test(read(place, value)):
-                    return
-            found.append({name: read(place, value) for name, read in shown})
-
-        # All at once: whoever gets a row may change the message.
-        table.visit(plan.read(item.payload.native), _Place(number, bundle, "", {}), add)
-        yield from found
+        instances = table.visit(plan.read(item.payload.native), _Place(number, bundle, "", {}))
+        found = (
+            {name: read(place, value) for name, read in shown}
+            for place, value in instances
+            if not tests or all(test(read(place, value)) for read, test in tests)
+        )
+        # Whoever gets a row may change a message of his own, so all rows are read before. Nobody has a message that was
+        # read from a frame, but its handle can be closed.
+        for row in found if are_frames(source) else list(found):
+            yield row
+            item.handle.require_open()

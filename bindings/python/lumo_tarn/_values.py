@@ -23,10 +23,11 @@ _ADDRESS = struct.Struct("=b2xBBxH4I")  # from the variant on
 
 
 class Plan:
-    """How to read a record. The values are those of Record.to_dict(); with as_json, numbers of 64 bits are text."""
+    """How to read a record. The values are those of Record.to_dict(); with as_json, numbers of 64 bits are text. With
+    is_lazy, the elements of an array are read one by one while it is iterated over, so they must not have moved."""
 
-    def __init__(self, record: str, wanted: Wanted = None, as_json: bool = False) -> None:
-        self._as_json = as_json
+    def __init__(self, record: str, wanted: Wanted = None, as_json: bool = False, is_lazy: bool = False) -> None:
+        self._as_json, self._is_lazy = as_json, is_lazy
         self._format, self._end, self._fields = ["="], 0, 0
         self._size: int = _schema.LAYOUTS[record][0]
         self._step = self._record(record, 0, wanted)
@@ -36,11 +37,13 @@ class Plan:
         """Reads a C object. The values do not depend on it any more. None: it has no body."""
         return self._step(iter(self._unpack.unpack(ffi.buffer(ffi.cast("char *", instance), self._size))))
 
-    def _elements(self, count: int, block: int) -> list[Any]:
-        if count == 0 or block == 0:
-            return []
+    def _elements(self, count: int, block: int) -> Iterator[Any]:
         data, step = ffi.buffer(ffi.cast("char *", block), count * self._size), self._step
-        return [step(iter(fields)) for fields in self._unpack.iter_unpack(data)]
+        return (step(iter(fields)) for fields in self._unpack.iter_unpack(data))
+
+    def _array(self, count: int, block: int) -> Any:
+        elements = _Elements(self, count if block else 0, block)
+        return elements if self._is_lazy else list(elements)
 
     def _field(self, offset: int, code: str) -> None:
         """Unpacks a field. The offsets increase."""
@@ -76,8 +79,8 @@ class Plan:
             self._field(offset, "Q")
             if kind == "string":
                 return lambda values: _text(next(values), next(values))
-            elements = Plan(of, wanted, self._as_json)._elements
-            return lambda values: elements(next(values), next(values))
+            array = Plan(of, wanted, self._as_json, self._is_lazy)._array
+            return lambda values: array(next(values), next(values))
         if kind == "address":
             self._field(offset + _VARIANT, f"{_ADDRESS.size}s")
             return lambda values: _address(next(values))
@@ -92,6 +95,17 @@ class Plan:
         if self._as_json and _schema.INTEGERS[kind][0] > 4:
             return lambda values: str(next(values))
         return next
+
+
+class _Elements:
+    def __init__(self, plan: Plan, count: int, block: int) -> None:
+        self._plan, self._count, self._block = plan, count, block
+
+    def __len__(self) -> int:
+        return self._count
+
+    def __iter__(self) -> Iterator[Any]:
+        return self._plan._elements(self._count, self._block) if self._count else iter(())
 
 
 def _integer(kind: str) -> str:
