@@ -173,6 +173,43 @@ TEST(HexDump, OfRepeatedLinesHasAllOfThem) {
     EXPECT_EQ(dissected.err, tarn({"dissect"}, bytes).err);
 }
 
+TEST(HexDump, OfRepeatedLinesHasThemBeforeTheNext) {
+    const std::string bytes = frame(reference::messages()[0], plain_payload(reference::messages()[0], 44), false);
+    const std::string dump = in_halves(bytes + std::string(200, '\0') + bytes);
+    ASSERT_NE(dump.find("\n*\n"), std::string::npos);
+    const Outcome decoded = tarn({"decode", "-k"}, dump);
+    EXPECT_EQ(decoded.out, tarn({"decode"}, bytes + bytes).out);
+    EXPECT_NE(decoded.err.find("200 bytes are skipped"), std::string::npos) << decoded.err;
+}
+
+TEST(HexDump, FramesBeforeTheLineWhereItStopsAreRead) {
+    const std::string bytes = frame(reference::messages()[0], plain_payload(reference::messages()[0], 45), false);
+    std::string many;
+    while (many.size() < 1 << 18) many += bytes;
+    for (const std::string option : {"--json", "-k"}) {
+        const Outcome outcome = tarn({"decode", option}, in_pairs(many) + "and so on\n" + in_pairs(bytes));
+        EXPECT_EQ(outcome.exit, 2);
+        EXPECT_EQ(outcome.out, tarn({"decode", option}, many).out);
+        EXPECT_EQ(occurrences(outcome.err, "\n"), 1U) << outcome.err;
+    }
+}
+
+// A sanitizer reserves more memory than any limit.
+#ifndef TARN_SANITIZED
+TEST(HexDump, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
+    const Directory directory;
+    const std::string one = directory.path("one.bin");
+    ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
+    // 26 MB of frames, as lines and as a single line, with 80 MB of memory, of which the program takes most.
+    for (const std::string dump : {"cat", "tr -d ' \n'"}) {
+        const std::string script = "od -A n -v -t x1 \"$1\" | " + dump + R"( >"$1.hex"
+            for i in $(seq 100); do cat "$1.hex"; done | (ulimit -v 80000 && "$0" decode --xml 2>&1) |
+                grep -c '<lumo_tarn_dp_tt_msg>\|tarn:')";
+        EXPECT_EQ(run("/bin/sh", {"-c", script, tool(), one}).out, "100\n") << dump;
+    }
+}
+#endif
+
 TEST(HexDump, CanBeForced) {
     EXPECT_EQ(tarn({"decode", "--from", "hex"}, "{0xBC}").exit, 2);
     EXPECT_NE(tarn({"decode", "--from", "hex"}, "{0xBC}").err.find("1 bytes are left"), std::string::npos);

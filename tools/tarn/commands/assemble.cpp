@@ -18,7 +18,10 @@ struct AssembleOptions {
 
 void run_assemble(const AssembleOptions &options) {
     if (!options.force) refuse_terminal(options.output);
-    write_file(options.output, assemble(read_file(options.file), shown_path(options.file)));
+    ByteStream text = open_input(options.file);
+    OutputFile file(options.output);
+    assemble(text, [&](std::string_view bytes) { file.append(bytes); });
+    file.finish();
 }
 
 }  // namespace

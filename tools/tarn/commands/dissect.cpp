@@ -40,9 +40,9 @@ Exit print_dump(const DissectOptions &options) {
 void print_source(const InputOptions &input) {
     const std::vector<InputFile> files = files_of(input.paths);
     for (const InputFile &file : files) {
-        const std::string bytes = open_bytes(file.path, input.from).take_rest();
+        ByteStream bytes = open_bytes(file.path, input.from);
         if (files.size() > 1) print("# " + shown_path(file.path) + "\n");
-        write_source(bytes_of(bytes), print);
+        write_source(bytes, print);
     }
 }
 

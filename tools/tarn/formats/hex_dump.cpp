@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "tools/tarn/support/failure.h"
 
@@ -62,24 +65,62 @@ Front front_of(std::string_view line) {
     return {std::nullopt, false, line};
 }
 
+// A longer line is read in parts.
+constexpr std::size_t longest_line = std::size_t{64} << 10;
+
 class DumpReader {
 public:
-    DumpReader(std::string_view text, const std::string &origin) : text_(text), origin_(origin) {}
+    explicit DumpReader(ByteStream text) : text_(std::move(text)) {}
 
-    std::string run() {
-        while (!text_.empty()) {
-            const std::size_t end = std::min(text_.find('\n'), text_.size());
-            ++line_;
-            read_line(without_blanks(text_.substr(0, end)));
-            text_.remove_prefix(std::min(end + 1, text_.size()));
+    std::size_t read(char *to, std::size_t most) {
+        while (rest_.empty()) {
+            if (repetitions_ != 0) {
+                --repetitions_;
+                rest_ = repeated_;
+            } else if (is_new_) {
+                is_new_ = false;
+                rest_ = bytes_;
+            } else if (!read_line()) {
+                if (size_ == 0 && !has_failed_) fail("no bytes");
+                return 0;
+            }
         }
-        if (out_.empty()) fail("no bytes");
-        return std::move(out_);
+        const std::size_t got = rest_.copy(to, most);
+        rest_.remove_prefix(got);
+        return got;
     }
 
 private:
-    [[noreturn]] void fail(const std::string &reason) const {
-        throw Failure(Exit::input, origin_ + ": line " + std::to_string(line_) + ": " + reason);
+    // Nothing follows.
+    [[noreturn]] void fail(const std::string &reason) {
+        has_failed_ = true;
+        throw Failure(Exit::input, text_.name() + ": line " + std::to_string(line_) + ": " + reason);
+    }
+
+    // The next line or part of one; false at the end.
+    bool read_line() {
+        const std::string_view text = text_.look(longest_line).substr(0, longest_line);
+        if (text.empty() || has_failed_) return false;
+        const bool is_part = std::exchange(line_continues_, false);
+        if (!is_part) ++line_;
+        std::size_t size = text.find('\n');
+        std::size_t taken = size + 1;
+        if (size == std::string_view::npos) {
+            line_continues_ = text.size() == longest_line;
+            // Not inside a number. Without separators, there are two digits for each byte.
+            const std::size_t separator = line_continues_ ? text.find_last_of(" \t,") : std::string_view::npos;
+            size = taken = separator == std::string_view::npos ? text.size() : separator + 1;
+        }
+        const std::string_view line = without_blanks(text.substr(0, size));
+        text_.take(taken);
+        if (!is_part) {
+            read_line(line);
+        } else if (in_array_) {
+            read_array(line);
+        } else {
+            read_bytes(line, true);
+        }
+        return true;
     }
 
     void read_line(std::string_view line) {
@@ -111,14 +152,15 @@ private:
     void go_to(const Front &front) {
         if (front.is_address && !base_) base_ = *front.offset;
         const std::uint64_t offset = *front.offset - base_.value_or(0);
-        const std::uint64_t here = out_.size() - begin_;
-        if (is_repeated_ && offset > here && last_size_ != 0 && (offset - here) % last_size_ == 0) {
+        const std::uint64_t here = size_ - begin_;
+        if (is_repeated_ && offset > here && !bytes_.empty() && (offset - here) % bytes_.size() == 0) {
             constexpr std::uint64_t most = std::uint64_t{1} << 30;
             if (offset > most) fail("the repeated bytes would be more than 1 GiB");
-            const std::string last = out_.substr(out_.size() - last_size_);
-            while (out_.size() - begin_ < offset) out_ += last;
+            repeated_ = bytes_;
+            repetitions_ = (offset - here) / bytes_.size();
+            size_ += offset - here;
         } else if (offset == 0 && !front.is_address) {
-            begin_ = out_.size();
+            begin_ = size_;
         } else if (offset != here) {
             fail("the offset is " + std::to_string(offset) + ", but " + std::to_string(here) + " bytes precede it");
         }
@@ -127,12 +169,12 @@ private:
 
     // Groups of digits, all of them or up to the column of characters, which follows at least two line_blanks.
     void read_bytes(std::string_view line, bool all) {
-        const std::size_t before = out_.size();
+        begin_bytes();
         for (skip_blanks(line); !line.empty();) {
             if (line.starts_with("0x")) line.remove_prefix(2);
             const std::size_t digits = digits_at(line);
             if (digits == 0 || digits % 2 != 0) fail("expected two hexadecimal digits for each byte");
-            for (std::size_t i = 0; i < digits; i += 2) out_ += static_cast<char>(number_of(line.substr(i, 2)));
+            for (std::size_t i = 0; i < digits; i += 2) put(line.substr(i, 2));
             line.remove_prefix(digits);
             const std::string_view rest = without_blanks(line);
             if (line.starts_with("  ") && !all) break;
@@ -142,12 +184,12 @@ private:
             if (line.starts_with(',')) line.remove_prefix(1);
             skip_blanks(line);
         }
-        last_size_ = out_.size() - before;
     }
 
     // "unsigned char frame[] = {", "0x50, 0x01, ...", "};"
     void read_array(std::string_view line) {
         in_array_ = true;
+        begin_bytes();
         for (skip_blanks(line); !line.empty(); skip_blanks(line)) {
             if (line.starts_with("//")) return;
             if (line.front() == '}') {
@@ -163,19 +205,32 @@ private:
             line.remove_prefix(2);
             const std::size_t digits = digits_at(line);
             if (digits == 0 || digits > 2) fail("expected a byte of one or two hexadecimal digits");
-            out_ += static_cast<char>(number_of(line.substr(0, digits)));
+            put(line.substr(0, digits));
             line.remove_prefix(digits);
         }
     }
 
-    std::string_view text_;
-    const std::string &origin_;
-    std::string out_;
+    void begin_bytes() {
+        bytes_.clear();
+        is_new_ = true;
+    }
+    void put(std::string_view digits) {
+        bytes_ += static_cast<char>(number_of(digits));
+        ++size_;
+    }
+
+    ByteStream text_;
     std::size_t line_ = 0;
-    std::size_t begin_ = 0;      // of the current dump in the bytes
-    std::size_t last_size_ = 0;  // of the last line in bytes, which "*" repeats
+    bool line_continues_ = false;
+    std::string bytes_;              // of the last line that has some, which "*" repeats
+    bool is_new_ = false;            // not yet returned
+    std::string repeated_;           // before them
+    std::uint64_t repetitions_ = 0;  // not yet returned
+    std::string_view rest_;          // of the one that is being returned
+    std::uint64_t size_ = 0;         // of all bytes
+    std::uint64_t begin_ = 0;        // of the current dump in them
     std::optional<std::uint64_t> base_;
-    bool has_offsets_ = false, is_repeated_ = false, in_array_ = false, array_has_ended_ = false;
+    bool has_offsets_ = false, is_repeated_ = false, in_array_ = false, array_has_ended_ = false, has_failed_ = false;
 };
 
 }  // namespace
@@ -189,12 +244,17 @@ bool looks_like_hex(std::string_view text) {
     if (line.find("[] = {") != std::string_view::npos) return true;
     if (line.empty() || !is_digit(line.front())) return false;
     try {
-        return !bytes_of_hex(line.substr(0, line.size() == enough ? enough - enough % 2 : line.size()), {}).empty();
+        const std::size_t size = line.size() == enough ? enough - enough % 2 : line.size();
+        return !bytes_of_hex(stream_of(std::string(line.substr(0, size)), {})).take_rest().empty();
     } catch (const Failure &) {
         return false;
     }
 }
 
-std::string bytes_of_hex(std::string_view text, const std::string &origin) { return DumpReader(text, origin).run(); }
+ByteStream bytes_of_hex(ByteStream text) {
+    std::string name = text.name();
+    const auto reader = std::make_shared<DumpReader>(std::move(text));
+    return {std::move(name), [reader](char *to, std::size_t most) { return reader->read(to, most); }};
+}
 
 }  // namespace tarn::tool

@@ -2,15 +2,17 @@
 // arrays in C, and plain digits.
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "tools/tarn/support/byte_stream.h"
 
 namespace tarn::tool {
 
 // True if the text begins like one of them.
 bool looks_like_hex(std::string_view text);
 
-// The bytes. Throws a Failure that names the origin, the line and the reason if the text stops being one of them.
-std::string bytes_of_hex(std::string_view text, const std::string &origin);
+// The bytes, of which those of one line are in memory. Reading them throws a Failure that names the input, the line and
+// the reason if the text stops being one of them.
+ByteStream bytes_of_hex(ByteStream text);
 
 }  // namespace tarn::tool

@@ -63,7 +63,7 @@ private:
 
 ByteStream converted(ByteStream file, From from) {
     if (from != From::hex && !looks_like_hex(file.look(enough_to_detect))) return file;
-    return stream_of(bytes_of_hex(file.take_rest(), file.name()), file.name());
+    return bytes_of_hex(std::move(file));
 }
 
 ByteStream open_bytes(const std::string &path, From from) {

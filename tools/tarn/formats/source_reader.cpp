@@ -1,6 +1,8 @@
 // Assembles frames from text.
 #include <algorithm>
 #include <charconv>
+#include <optional>
+#include <utility>
 
 #include "schema/frame.h"
 #include "tools/tarn/formats/dissection.h"
@@ -8,6 +10,7 @@
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/instance.h"
 #include "tools/tarn/support/names.h"
+#include "tools/tarn/support/position.h"
 #include "tools/tarn/support/printable.h"
 
 namespace tarn::tool {
@@ -19,7 +22,8 @@ using namespace schema;
 struct Token {
     enum class Kind : std::uint8_t { word, text, raw, mark, end };
     Kind kind;
-    std::string_view written;  // for error messages
+    Position begin;
+    std::string written = {};  // of a word or a mark; of others, the beginning, for error messages
     std::string bytes = {};    // of a text or of raw bytes
 
     bool is(char mark) const { return kind == Kind::mark && written.front() == mark; }
@@ -38,9 +42,10 @@ int hexadecimal(char c) {
     return -1;
 }
 
+// Reads tokens one after the other. Two are in memory.
 class Tokens {
 public:
-    Tokens(std::string_view text, const std::string &origin) : text_(text), origin_(origin) { advance(); }
+    explicit Tokens(ByteStream &stream) : stream_(stream) { advance(); }
 
     const Token &next() const { return next_; }
     Token take() {
@@ -49,9 +54,7 @@ public:
         return token;
     }
 
-    [[noreturn]] void fail(const Token &token, const std::string &reason) const {
-        fail(static_cast<std::size_t>(token.written.data() - text_.data()), reason);
-    }
+    [[noreturn]] void fail(const Token &token, const std::string &reason) const { fail(token.begin, reason); }
     [[noreturn]] void fail_expected(const std::string &what) const {
         fail(next_, "expected " + what + ", not " + shown(next_));
     }
@@ -60,63 +63,82 @@ private:
     static std::string shown(const Token &token) {
         return token.kind == Token::Kind::end ? "the end" : in_quotes(token.written);
     }
+    [[noreturn]] void fail(Position at, const std::string &reason) const {
+        throw Failure(Exit::input,
+                      stream_.name() + ":" + std::to_string(at.line) + ":" + std::to_string(at.column) + ": " + reason);
+    }
     [[noreturn]] void fail(std::size_t at, const std::string &reason) const {
-        const std::string_view before = text_.substr(0, at);
-        const auto line = 1 + std::count(before.begin(), before.end(), '\n');
-        const std::size_t newline = before.rfind('\n');
-        const std::size_t column = newline == std::string_view::npos ? at + 1 : at - newline;
-        throw Failure(Exit::input, origin_ + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + reason);
+        fail(position_.after(text_.substr(0, at)), reason);
     }
 
+    // True if there is a character at this offset. Offsets begin at the token.
+    bool has(std::size_t at) {
+        if (at >= text_.size()) text_ = stream_.look(at + 1);
+        return at < text_.size();
+    }
+    void pass(std::size_t size);
     void advance();
-    std::string text_from(std::size_t begin);
-    std::string raw_from(std::size_t begin);
+    std::string text_to_end();
+    std::string raw_to_end();
 
-    std::string_view text_;
-    std::string origin_;
+    ByteStream &stream_;
+    std::string_view text_;  // what is known from the token on
+    Position position_;      // of the token
     std::size_t at_ = 0;
     Token next_{Token::Kind::end, {}};
 };
 
+void Tokens::pass(std::size_t size) {
+    position_ = position_.after(text_.substr(0, size));
+    stream_.take(size);
+    text_.remove_prefix(size);
+    at_ = 0;
+}
+
 void Tokens::advance() {
-    const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == ','; };
-    while (at_ < text_.size() && (blank(text_[at_]) || text_[at_] == '#')) {
-        at_ = text_[at_] == '#' ? std::min(text_.find('\n', at_), text_.size()) : at_ + 1;
+    bool in_comment = false;
+    for (pass(at_); has(0);) {
+        in_comment = in_comment || text_[0] == '#';
+        const std::size_t size = in_comment ? text_.find('\n') : text_.find_first_not_of(" \t\r\n,");
+        if (size == 0 && !in_comment) break;
+        in_comment = in_comment && size == std::string_view::npos;
+        pass(std::min(size, text_.size()));
     }
-    const std::size_t begin = at_;
-    Token token{Token::Kind::end, {}};
-    if (begin < text_.size()) {
+    Token token{Token::Kind::end, position_};
+    if (has(0)) {
         const char c = text_[at_++];
         if (c == '"') {
-            token = {Token::Kind::text, {}, text_from(begin)};
+            token.kind = Token::Kind::text;
+            token.bytes = text_to_end();
         } else if (c == '<') {
-            token = {Token::Kind::raw, {}, raw_from(begin)};
+            token.kind = Token::Kind::raw;
+            token.bytes = raw_to_end();
         } else if (is_word_character(c)) {
             token.kind = Token::Kind::word;
-            while (at_ < text_.size() && is_word_character(text_[at_])) ++at_;
+            while (has(at_) && is_word_character(text_[at_])) ++at_;
         } else if (std::string_view("{}[]()").find(c) != std::string_view::npos) {
             token.kind = Token::Kind::mark;
         } else {
-            fail(begin, "unexpected " + in_quotes(text_.substr(begin, 1)));
+            fail(token, "unexpected " + in_quotes(text_.substr(0, 1)));
         }
     }
-    token.written = text_.substr(begin, at_ - begin);
+    token.written = text_.substr(0, at_);
     next_ = std::move(token);
 }
 
 // The rest of a text in quotation marks.
-std::string Tokens::text_from(std::size_t begin) {
+std::string Tokens::text_to_end() {
     std::string bytes;
-    for (; at_ < text_.size() && text_[at_] != '\n'; ++at_) {
+    for (; has(at_) && text_[at_] != '\n'; ++at_) {
         char c = text_[at_];
         if (c == '"') {
             ++at_;
             return bytes;
         }
         if (c == '\\') {
-            c = ++at_ < text_.size() ? text_[at_] : '\0';
+            c = has(++at_) ? text_[at_] : '\0';
             if (c == 'x') {
-                const int high = at_ + 2 < text_.size() ? hexadecimal(text_[at_ + 1]) : -1;
+                const int high = has(at_ + 2) ? hexadecimal(text_[at_ + 1]) : -1;
                 const int low = high < 0 ? -1 : hexadecimal(text_[at_ + 2]);
                 if (low < 0) fail(at_ - 1, "two hexadecimal digits must follow \\x");
                 c = static_cast<char>(high * 16 + low);
@@ -127,14 +149,14 @@ std::string Tokens::text_from(std::size_t begin) {
         }
         bytes += c;
     }
-    fail(begin, "the text has no end in its line");
+    fail(0, "the text has no end in its line");
 }
 
 // The rest of raw bytes in angle brackets.
-std::string Tokens::raw_from(std::size_t begin) {
+std::string Tokens::raw_to_end() {
     std::string bytes;
     int high = -1;
-    for (; at_ < text_.size(); ++at_) {
+    for (; has(at_); ++at_) {
         const char c = text_[at_];
         if (c == '>' && high < 0) {
             ++at_;
@@ -148,7 +170,7 @@ std::string Tokens::raw_from(std::size_t begin) {
         if (high >= 0) bytes += static_cast<char>(high * 16 + digit);
         high = high < 0 ? digit : -1;
     }
-    fail(begin, "the raw bytes have no end");
+    fail(0, "the raw bytes have no end");
 }
 
 // In parentheses: what is usually computed.
@@ -164,19 +186,15 @@ const std::vector<std::string_view> head_attributes = {"variant", "flag", "ra_va
 
 class Assembler {
 public:
-    Assembler(std::string_view text, const std::string &origin) : tokens_(text, origin) {}
+    explicit Assembler(ByteStream &text) : tokens_(text) {}
 
-    std::string run() {
-        while (tokens_.next().kind != Token::Kind::end) {
-            if (tokens_.next().kind == Token::Kind::raw) {
-                out_ += tokens_.take().bytes;
-            } else if (tokens_.next().is("frame")) {
-                assemble_frame();
-            } else {
-                tokens_.fail_expected("\"frame\" or raw bytes");
-            }
-        }
-        return std::move(out_);
+    // The next frame or the next raw bytes; nothing at the end.
+    std::optional<std::string> next() {
+        if (tokens_.next().kind == Token::Kind::end) return std::nullopt;
+        if (tokens_.next().kind == Token::Kind::raw) return tokens_.take().bytes;
+        if (!tokens_.next().is("frame")) tokens_.fail_expected("\"frame\" or raw bytes");
+        assemble_frame();
+        return std::exchange(out_, {});
     }
 
 private:
@@ -234,7 +252,7 @@ private:
     }
 
     Tokens tokens_;
-    std::string out_;
+    std::string out_;  // of the frame
 };
 
 // Decimal, or hexadecimal after 0x.
@@ -264,9 +282,10 @@ std::vector<std::uint8_t> Assembler::take_list(std::size_t most) {
         Token times = token;
         const std::size_t star = token.written.find('*');
         std::uint64_t count = 1;
-        if (token.kind == Token::Kind::word && star != std::string_view::npos) {
-            times.written = token.written.substr(star + 1);
-            token.written = token.written.substr(0, star);
+        if (token.kind == Token::Kind::word && star != std::string::npos) {
+            times.written.erase(0, star + 1);
+            times.begin.column += star + 1;
+            token.written.resize(star);
             count = number_of(times, UINT32_MAX);
         }
         if (count > most - list.size())
@@ -329,7 +348,6 @@ void Assembler::assemble_frame() {
     tokens_.take();
     const Name name = take_name();
     const Attributes front = take_attributes({"marker", "fill", "sttr", "stamp", "zero"});
-    const std::size_t begin = out_.size();
     bool tracked = false;
     std::size_t length_at = 0;
     for (const Part &part : schema::message_frame) {
@@ -342,7 +360,7 @@ void Assembler::assemble_frame() {
     if (tokens_.next().is('{')) assemble_body(name, tracked);
     const Attributes back = take_attributes({"total_length"});
     const Attribute *given = find(back, "total_length");
-    put_at(length_at, given != nullptr ? number_of(given->value, UINT32_MAX) : out_.size() - begin, 4);
+    put_at(length_at, given != nullptr ? number_of(given->value, UINT32_MAX) : out_.size(), 4);
 }
 
 // Of the header, or opaque.
@@ -437,7 +455,8 @@ void Assembler::put_variant(const Attributes &front) {
     if (given == nullptr) return put(0, 1);
     Token token = given->value;
     const bool negative = token.written.starts_with('-');
-    if (negative) token.written.remove_prefix(1);
+    if (negative) token.written.erase(0, 1);
+    if (negative) ++token.begin.column;
     const std::uint64_t number = number_of(token, negative ? 128 : 127);
     put(negative ? 0 - number : number, 1);
 }
@@ -637,6 +656,9 @@ void Assembler::fill(const Member &m, bool tracked) {
 
 }  // namespace
 
-std::string assemble(std::string_view text, const std::string &origin) { return Assembler(text, origin).run(); }
+void assemble(ByteStream &text, const std::function<void(std::string_view)> &write) {
+    Assembler assembler(text);
+    while (const std::optional<std::string> bytes = assembler.next()) write(*bytes);
+}
 
 }  // namespace tarn::tool

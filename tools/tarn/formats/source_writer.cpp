@@ -412,22 +412,24 @@ void SourceWriter::finish_frame(const std::optional<Break> &broken) {
 
 }  // namespace
 
-// What is no frame ends where the next one begins.
-void write_source(FrameBytes bytes, const std::function<void(std::string_view)> &write) {
+// What is no frame ends where the next one begins. Until then its bytes stay in the stream, and the reader gets copies.
+void write_source(ByteStream &bytes, const std::function<void(std::string_view)> &write) {
     SourceWriter writer(write);
-    ByteStream stream("", [rest = chars_of(bytes)](char *to, std::size_t most) mutable {
-        const std::size_t size = rest.copy(to, most);
-        rest.remove_prefix(size);
+    std::size_t copied = 0;  // of the bytes in the stream
+    ByteStream copies(bytes.name(), [&](char *to, std::size_t most) {
+        const std::string_view seen = bytes.look(copied + 1);
+        const std::size_t size = seen.size() > copied ? seen.copy(to, most, copied) : 0;
+        copied += size;
         return size;
     });
-    FrameReader reader(stream, true);
-    std::size_t begin = 0;
-    for (bool has_begun = false;; has_begun = true) {
-        const std::optional<Stretch> stretch = reader.next();
-        const std::size_t end = stretch ? stretch->offset : bytes.size();
-        if (has_begun) writer.add(bytes.subspan(begin, end - begin), begin);
-        if (!stretch) return;
-        begin = end;
+    FrameReader reader(copies, true);
+    for (std::optional<Stretch> stretch = reader.next(); stretch;) {
+        const std::uint64_t begin = stretch->offset;
+        stretch = reader.next();
+        const std::size_t size = (stretch ? stretch->offset : copies.offset()) - begin;
+        writer.add(bytes_of(bytes.look(size).substr(0, size)), begin);
+        bytes.take(size);
+        copied -= size;
     }
 }
 
