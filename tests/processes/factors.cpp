@@ -188,12 +188,16 @@ std::vector<Reader> readers(const std::string &self) {
     };
     setenv("PYTHONPATH", TARN_PYTHON_PATH, 1);
     setenv("LUMO_TARN_LIBRARY", TARN_LIBRARY, 1);
-    all.push_back({"Python, frames()", 300, frames, [](const std::string &file, const Directory &) {
-                       return Arguments{TARN_PYTHON, "-c",
-                                        "import lumo_tarn, sys\nfor m in lumo_tarn.frames(open(sys.argv[1], "
-                                        "'rb').read()): pass",
-                                        file};
-                   }});
+    const auto of_python = [&](const char *name, std::size_t bound, const std::string &reading) {
+        all.push_back({name, bound, frames, [=](const std::string &file, const Directory &directory) {
+                           const std::string other = directory.write("other", with_another_state(file));
+                           return Arguments{TARN_PYTHON, "-c", "import lumo_tarn, sys\nfor _ in " + reading + ": pass",
+                                            file, other};
+                       }});
+    };
+    of_python("Python, frames()", 300, "lumo_tarn.frames(open(sys.argv[1], 'rb').read())");
+    of_python("Python, rows()", 300, "lumo_tarn.rows(sys.argv[1], 'lumo-info')");
+    of_python("Python, diff()", 500, "lumo_tarn.diff(sys.argv[1], sys.argv[2])");
     return all;
 }
 
