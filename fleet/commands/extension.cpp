@@ -5,6 +5,7 @@ namespace tarn::fleet {
 namespace {
 
 void add_commands(CLI::App &app, tool::Context &context) {
+    add_collect(app, context);
     add_simulate(app, context);
     add_history(app, context);
     extend_inputs(app);

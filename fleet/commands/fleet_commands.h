@@ -16,6 +16,7 @@ void add_simulate(CLI::App &app, tool::Context &context);
 void extend_answer(CLI::App &command, CLI::Option_group &endpoint, tool::AnswerOptions &options);
 void extend_show(CLI::App &command, CLI::Option_group &endpoint, tool::ShowOptions &options);
 
+void add_collect(CLI::App &app, tool::Context &context);
 void add_history(CLI::App &app, tool::Context &context);
 // --store of the commands that read files.
 void extend_inputs(CLI::App &app);

@@ -77,12 +77,17 @@ Database::Database(const std::string &where, Access access)
             if (access == Access::read) run("SET default_transaction_read_only = on");
         } else if (access == Access::read) {
             run("PRAGMA query_only = ON");
-        } else {
-            // Readers and a writer do not wait for each other. FULL: what has been committed survives a loss of power.
-            std::string mode;
-            *session_ << "PRAGMA journal_mode = WAL", soci::into(mode);
-            run("PRAGMA synchronous = FULL");
         }
+    });
+}
+
+void Database::prepare_for_writing() {
+    if (engine_ != Engine::sqlite) return;
+    guarded([&] {
+        // Readers and a writer do not wait for each other. FULL: what has been committed survives a loss of power.
+        std::string mode;
+        *session_ << "PRAGMA journal_mode = WAL", soci::into(mode);
+        run("PRAGMA synchronous = FULL");
     });
 }
 
@@ -169,6 +174,13 @@ std::string Database::bytes_of(std::string stored) const {
         bytes += static_cast<char>(value_of(stored[i]) << 4 | value_of(stored[i + 1]));
     }
     return bytes;
+}
+
+std::string Database::frames(const std::string &digest) {
+    std::string stored;
+    *session_ << "SELECT frames FROM contents WHERE digest = :digest", soci::use(digest, "digest"), soci::into(stored);
+    if (!session_->got_data()) throw Failure(Exit::environment, shown_ + ": no frames with the digest " + digest);
+    return bytes_of(std::move(stored));
 }
 
 Insertion &Insertion::text(std::string_view value) {

@@ -31,6 +31,9 @@ public:
         return engine_ == Engine::sqlite ? sqlite : postgresql;
     }
 
+    // Once the database is known to be a store: this changes the file.
+    void prepare_for_writing();
+
     // Calls `work`. What the engine reports becomes a Failure with the name of the store: Unavailable if another
     // attempt may succeed.
     template <class Work>
@@ -54,6 +57,9 @@ public:
     std::string bound(std::string_view bytes) const;
     std::string cast(const std::string &parameter) const;
     std::string bytes_of(std::string stored) const;  // what a column with bytes returns as text
+
+    // The frames with that digest; they must be there.
+    std::string frames(const std::string &digest);
 
 private:
     [[noreturn]] void fail(const soci::soci_error &error);

@@ -1,4 +1,3 @@
-#include <openssl/evp.h>
 #include <soci/soci.h>
 #include <unistd.h>
 
@@ -9,6 +8,9 @@
 #include "fleet/store/database.h"
 #include "fleet/store/layout.h"
 #include "fleet/store/store.h"
+#include "fleet/support/sha256.h"
+#include "schema/frame.h"
+#include "tools/tarn/formats/frames.h"
 #include "tools/tarn/support/printable.h"
 
 namespace tarn::fleet {
@@ -18,17 +20,19 @@ namespace {
 using tool::Exit;
 using tool::Failure;
 
-std::string sha256(std::string_view bytes) {
-    unsigned char digest[EVP_MAX_MD_SIZE];
-    unsigned int size = 0;
-    if (EVP_Digest(bytes.data(), bytes.size(), digest, &size, EVP_sha256(), nullptr) != 1) throw std::bad_alloc();
-    std::string text;
-    for (unsigned i = 0; i < size; ++i) {
-        constexpr char digits[] = "0123456789abcdef";
-        text += digits[digest[i] >> 4];
-        text += digits[digest[i] & 0xF];
+// Of what two answers must have in common to be the same: all but the stamps in the headers, which a sender may choose
+// anew for each answer.
+std::string sha256_without_stamps(std::string_view frames) {
+    constexpr std::size_t stamp = offset_of(schema::message_frame, "stamp"), size_of_stamp = 4;
+    Sha256 hash;
+    while (!frames.empty()) {
+        const std::size_t claimed = tool::claimed_size(tool::bytes_of(frames));
+        const std::string_view frame = frames.substr(0, claimed == 0 ? std::string_view::npos : claimed);
+        hash.add(frame.substr(0, stamp));
+        if (frame.size() > stamp + size_of_stamp) hash.add(frame.substr(stamp + size_of_stamp));
+        frames.remove_prefix(frame.size());
     }
-    return text;
+    return hash.finish();
 }
 
 // "host:1234:5f3c", for people and unique.
@@ -244,10 +248,12 @@ Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle)
                             "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
     // The answers before a gap may have been forgotten.
+    const bool is_last = state.number >= gap;
     state.number = std::max(state.number, gap);
     if (began != 0) {
-        state.digest.clear();
         state.gap_began = began;
+    } else if (is_last && !state.digest.empty()) {
+        state.same = sha256_without_stamps(database_->frames(state.digest));
     }
     return state;
 }
@@ -274,22 +280,23 @@ void Keeper::require_lease() {
 }
 
 void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &state) {
-    const std::string digest = sha256(outcome.frames);
+    std::string same = sha256_without_stamps(outcome.frames);
     const bool was_pause = patience_ != 0 && state.last_seen != 0 && outcome.asked - state.last_seen > patience_;
     if (state.gap_began || was_pause) {
         statements_->gaps.integer(device).text(outcome.bundle).integer(state.number);
         statements_->gaps.integer(state.gap_began.value_or(state.last_seen)).integer(outcome.asked);
         statements_->gaps.integer(outcome.ended).text("not requested").integer(0);
-        state.digest.clear();
+        state.same.clear();
         state.gap_began.reset();
     }
-    if (state.digest != digest) {
+    if (state.same != same) {
         ++state.number;
-        state.digest = digest;
-        statements_->new_frames.emplace(digest, outcome.frames);
+        state.same = std::move(same);
+        state.digest = sha256(outcome.frames);
+        statements_->new_frames.emplace(state.digest, outcome.frames);
     }
     state.last_seen = outcome.ended;
-    statements_->answers.integer(device).text(outcome.bundle).integer(state.number).text(digest);
+    statements_->answers.integer(device).text(outcome.bundle).integer(state.number).text(state.digest);
     statements_->answers.integer(outcome.asked).integer(outcome.ended);
     statements_->answers.integer(outcome.asked).integer(outcome.ended).integer(1);
 }
@@ -297,7 +304,7 @@ void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &stat
 void Keeper::add_silence(std::int64_t device, const Outcome &outcome, State &state) {
     // The device may have been silent since its last answer.
     if (!state.gap_began) state.gap_began = outcome.asked;
-    state.digest.clear();
+    state.same.clear();
     statements_->gaps.integer(device).text(outcome.bundle).integer(state.number).integer(*state.gap_began);
     statements_->gaps.integer(outcome.asked).null().text(tool::printable(outcome.reason)).integer(1);
 }

@@ -86,19 +86,25 @@ bool is_empty(Database &database) {
     return found == 0;
 }
 
+// True if the database is a store; it may also be empty.
+bool require_free_or_known(Database &database) {
+    if (database.has_table("store_meta")) {
+        require_version(database);
+        return true;
+    }
+    if (is_empty(database)) return false;
+    throw Failure(Exit::input, database.shown() + ": not a store: a database with other tables");
+}
+
 }  // namespace
 
 void create_layout(Database &database) {
-    database.guarded([&] {
-        if (database.has_table("store_meta")) return require_version(database);
-    });
+    database.guarded([&] { require_free_or_known(database); });
+    database.prepare_for_writing();
     database.transact([&] {
         // Of several processes, the first creates the tables. The number is any that no other program uses.
         if (database.engine() == Engine::postgresql) database.run("SELECT pg_advisory_xact_lock(7561726)");
-        if (database.has_table("store_meta")) return require_version(database);
-        if (!is_empty(database)) {
-            throw Failure(Exit::input, database.shown() + ": not a store: a database with other tables");
-        }
+        if (require_free_or_known(database)) return;
         database.run_all(with_types(database));
         for (const auto &[name, value] :
              {std::pair("layout_version", std::to_string(store_version)),

@@ -149,13 +149,7 @@ void Store::for_each_gap(const Selection &selection, const std::function<void(co
 }
 
 std::string Store::frames(const std::string &digest) {
-    std::string stored;
-    database_->guarded([&] {
-        database_->session() << "SELECT frames FROM contents WHERE digest = :digest", soci::use(digest, "digest"),
-            soci::into(stored);
-        if (!database_->session().got_data()) throw Failure(Exit::environment, shown() + ": no frames " + digest);
-    });
-    return database_->bytes_of(std::move(stored));
+    return database_->guarded([&] { return database_->frames(digest); });
 }
 
 }  // namespace tarn::fleet

@@ -1,7 +1,8 @@
 // What devices answered, and when they did not, in a SQLite file or in a PostgreSQL database.
 //
-// An answer is stored with the span of time in which the device gave it: as long as the bytes stay the same, the span
-// grows. A device that did not answer has a gap. The frames of equal answers are stored once.
+// An answer is stored with the span of time in which the device gave it: as long as the frames stay the same, apart
+// from the stamps in their headers, the span grows. A device that did not answer has a gap. Equal frames are stored
+// once.
 #pragma once
 
 #include <cstdint>
@@ -127,7 +128,8 @@ private:
     // The last span of a device and bundle, as the next outcome continues it.
     struct State {
         std::int64_t number = 0;
-        std::string digest;  // empty in a gap
+        std::string digest;  // of the frames
+        std::string same;    // what the next answer must have in common to be the same; empty in a gap
         Time last_seen = 0;
         std::optional<Time> gap_began;
     };

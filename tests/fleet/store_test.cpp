@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "postgresql.h"
+#include "schema/frame.h"
 
 namespace fleet_test {
 
@@ -141,6 +142,31 @@ TEST_P(StoreTest, AnotherCollectorContinuesTheSpan) {
     EXPECT_EQ(answers[0].times, 2);
 }
 
+// A frame whose payload is one byte.
+std::string frame(char stamp, char payload) {
+    using namespace tarn::schema;
+    std::string bytes(message_head_size + 1, '\0');
+    bytes[0] = static_cast<char>(frame_marker);
+    bytes.replace(1, 6, 6, static_cast<char>(frame_fill));
+    bytes[offset_of(message_frame, "total_length") + 3] = static_cast<char>(bytes.size());
+    bytes[offset_of(message_frame, "stamp")] = stamp;
+    bytes.back() = payload;
+    return bytes;
+}
+
+TEST_P(StoreTest, TheStampsInTheHeadersAreNoChange) {
+    const std::string one = frame('a', 'x') + frame('b', 'y'), again = frame('c', 'x') + frame('d', 'y');
+    const std::string changed = frame('a', 'x') + frame('b', 'z');
+    keeper_of(where(), {{"r1", ""}})->put(std::vector{answer("r1", one, t0), answer("r1", again, t0 + 10)});
+    // Also for a collector that did not receive the first of them.
+    keeper_of(where(), {})->put(std::vector{answer("r1", again, t0 + 20), answer("r1", changed, t0 + 30)});
+    const std::vector<StoredAnswer> answers = answers_in(where());
+    ASSERT_EQ(answers.size(), 2U);
+    EXPECT_EQ(answers[0].times, 3);
+    EXPECT_EQ(Store(where()).frames(answers[0].digest), one);
+    EXPECT_EQ(Store(where()).frames(answers[1].digest), changed);
+}
+
 TEST_P(StoreTest, SilenceIsAGapUntilTheNextAnswer) {
     const auto keeper = keeper_of(where(), {{"r1", "north"}});
     keeper->put(std::vector{answer("r1", "one", t0), silence("r1", "timeout", t0 + 1000)});
@@ -241,13 +267,13 @@ TEST_P(StoreTest, OutcomesOfDevicesOfOthersAreNotStored) {
 }
 
 TEST_P(StoreTest, DevicesOfACollectorThatIsGonePassToAnother) {
-    const auto a = std::make_unique<Keeper>(where(), 100, 0);
+    const auto a = std::make_unique<Keeper>(where(), 1000, 0);
     a->add_devices(std::vector<std::pair<std::string, std::string>>{{"r1", ""}});
     a->renew();
     const auto b = keeper_of(where(), {});
     EXPECT_FALSE(b->owns("r1"));
     for (int i = 0; i < 100 && !b->owns("r1"); ++i) {
-        usleep(10'000);
+        usleep(100'000);
         b->renew();
     }
     EXPECT_TRUE(b->owns("r1"));
