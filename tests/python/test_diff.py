@@ -7,7 +7,6 @@ import subprocess
 import lumo_tarn
 import pytest
 from conftest import MESSAGES, TOOL, tool
-from lumo_tarn import _schema
 
 
 def differences_of_the_tool(a: bytes, b: bytes, folder, *options: str) -> list:

@@ -51,7 +51,7 @@ class _Coroutines:
     """Runs coroutines for another thread in an event loop, one at a time, until they are stopped."""
 
     def __init__(self) -> None:
-        self._lock, self._is_stopped = threading.Lock(), False
+        self._lock, self._is_stopped = threading.RLock(), False  # a signal handler may stop them, too
         self._running: Optional[concurrent.futures.Future[bytes]] = None
         try:
             self._loop: asyncio.AbstractEventLoop | None = asyncio.get_running_loop()
