@@ -25,6 +25,9 @@ OUTSIDE = """JSON.stringify([...document.querySelectorAll('nav button, nav input
   .filter(control => !control.closest('[hidden]')).map(control => [control.id, control.getBoundingClientRect()])
   .filter(([, box]) => box.left < 0 || box.right > innerWidth || box.top < 0 || box.bottom > innerHeight)
   .concat(document.documentElement.scrollWidth > innerWidth ? [['page', null]] : []).map(([id]) => id))"""
+# Values of which less than three characters are visible although there are more.
+SQUEEZED = """JSON.stringify([...document.querySelectorAll('.row .value')]
+  .filter(value => value.clientWidth < Math.min(24, value.scrollWidth)).map(value => value.textContent))"""
 # How much of the width of the tree its rows use, at least in one of them.
 FILLED = """(() => {
   const tree = document.getElementById('tree');
@@ -150,11 +153,14 @@ def main():
                     outside = json.loads(browser.run(OUTSIDE))
                     if outside:
                         wrong.append(f"{where}: not inside the window: {', '.join(outside)}")
+                    squeezed = json.loads(browser.run(SQUEEZED))
+                    if squeezed:
+                        wrong.append(f"{where}: no place for values: {', '.join(squeezed[:5])}")
                 if look == "wide" and browser.run(FILLED) < 0.9:
                     wrong.append(f"{name}: the tree leaves more than a tenth of its width empty")
         browser.close()
     print("\n".join(wrong))
-    print(f"{looks} looks, {len(wrong)} of them with errors")
+    print(f"{looks} looks, {len(wrong)} errors")
     sys.exit(1 if wrong else 0)
 
 

@@ -360,6 +360,7 @@ TEST(View, TellsAScreenReaderLevelPositionAndState) {
     EXPECT_EQ(list[5].get<std::string>().find("lumo_data, lumo_tarn_dp_appl_cfg[], "), 0U) << list[5];
     EXPECT_EQ(element[0], (json{"6", "2", all, "false", "true", element[0][5]}));
     EXPECT_EQ(element[1], (json{"6", "1", all, "false", "false", element[1][5]}));
+    EXPECT_EQ(element[0][5].get<std::string>().find("[1], signature 1001, lumo_tarn_dp_appl_sig, "), 0U) << element[0];
     EXPECT_EQ(last, (json{"6", all, all, "true", "false", last[5], last[6]}));
     EXPECT_EQ(seen.at("stops"), (json{{last[6]}, -1}));
     EXPECT_EQ(seen.at("value")[3], nullptr) << "without members";

@@ -429,6 +429,13 @@ function valueClass(kind, value) {
   return kind === 'luid' || /^[a-z]|^\d+ [A-Z]/.test(value) ? 'value word' : 'value';
 }
 
+// "class 1000" for an element, from the members that identify it; nothing if it has none of them.
+function keyText(node) {
+  const [element, names] = node.name[0] === '[' && data.elements[node.type] || ['', []], s = isOn(node, 0) ? 0 : 1;
+  const values = names.map(name => childOf(node, name)).filter(Boolean).map(member => valueOf(member, s));
+  return values.length ? element + ' ' + values.join(' ') : '';
+}
+
 // A row shows these words; a screen reader reads them with commas.
 function fill(row, node) {
   const words = [], add = (kind, shown, read = shown) => {
@@ -437,6 +444,8 @@ function fill(row, node) {
   };
   text(row, 'fold', '');
   add('name', node.parent ? node.name : node.label);
+  const key = keyText(node);
+  if (key) add('key', key);
   const [a, b] = [valueOf(node, 0), valueOf(node, 1)];
   if (two && a !== null && b !== null && a !== b && !node.structural) {
     add('value old', a);
@@ -475,7 +484,7 @@ function makeRow(node, depth, index, of) {
   row.setAttribute('aria-selected', node === selected);
   row.dataset.id = node.id;
   row.dataset.path = node.path;
-  row.style.paddingLeft = 8 + 18 * depth + 'px';
+  row.style.setProperty('--depth', depth);
   if (!node.parent) row.classList.add('frame');
   if (node.structural && !node.breaks) row.classList.add('framing');
   if (node.meaning) row.dataset.meaning = node.meaning;
