@@ -25,7 +25,7 @@ MAY_INCLUDE = {
     "tools/tarn/commands": ["tools/tarn/service", "tools/tarn/pages", "tools/tarn/formats", "tools/tarn/support"],
     "fleet/support": [],
     "fleet/bus": ["fleet/support", "tools/tarn/service", "tools/tarn/formats", "tools/tarn/support"],
-    "fleet/store": ["tools/tarn/formats", "tools/tarn/support"],
+    "fleet/store": ["fleet/support", "tools/tarn/formats", "tools/tarn/support"],
     "fleet/commands": ["tools/tarn", "fleet"],
 }
 # All layers of the tool and of the fleet may include these.
