@@ -28,8 +28,8 @@ std::unique_ptr<Dump> text_dump(Write write);
 //   a field: {"name": NAME, "offset": N, "size": N, "kind": KIND, "value": TEXT}
 //   a group: {"name": NAME, "kind": KIND, "parts": [FIELD or GROUP, ...]}
 //
-// An element of a list and its state have an "index". A pointer and an address also have a "text" for people. The size is that of the parts. "broken" is present if the frame
-// is broken.
+// An element of a list and its state have an "index". A pointer and an address also have a "text" for people. The size
+// is that of the parts. "broken" is present if the frame is broken.
 std::unique_ptr<Dump> json_dump(Write write);
 
 }  // namespace tarn::tool
