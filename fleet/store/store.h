@@ -84,7 +84,7 @@ private:
     std::unique_ptr<Database> database_;
 };
 
-// What came of a request: frames, or the reason why there are none.
+// The result of a request: frames, or the reason why there are none.
 struct Outcome {
     std::string_view device, bundle;
     Time asked, ended;

@@ -1418,12 +1418,12 @@ public:
 
     /// Reads up to the end of a bundle and returns its messages, or std::nullopt if the bytes end before. An error is
     /// about one frame or one bundle: the next call continues after it. Only bytes that are not a frame and a frame
-    /// that exceeds the limit cannot be passed over.
+    /// that exceeds the limit cannot be skipped.
     /// - ECANCELED: the sender aborted the bundle.
     /// - EBADMSG: the bytes are not a frame, a frame claims more elements or characters than it can contain, or a
     ///   message, a commit or an abort is outside a bundle.
     /// - EEXIST: a bundle starts inside a bundle. The earlier one is lost.
-    /// - ENOENT: a frame belongs to another bundle. What follows is passed over up to the next start.
+    /// - ENOENT: a frame belongs to another bundle. What follows is skipped up to the next start.
     /// - EMSGSIZE: a frame or a bundle exceeds the limits, or a message is truncated.
     ///
     /// Other errors are those of message::from_frame().

@@ -294,7 +294,7 @@ bool measure(const Reader &reader, std::size_t size) {
         if (input == "xml-lists" && size < std::size_t{256} << 10) continue;
         Cost costs[2];
         double sizes[2];
-        for (const std::size_t i : {0, 1}) {
+        for (const std::size_t i : {std::size_t{0}, std::size_t{1}}) {
             const std::string content = inputs().at(input).make(i == 0 ? size : size * times);
             const std::string file = directory.write("input", content);
             sizes[i] = static_cast<double>(content.size());
