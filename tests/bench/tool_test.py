@@ -8,7 +8,8 @@ import unittest
 
 BENCH = pathlib.Path(__file__).parents[2] / "bench" / "tool"
 COMMANDS = ("decode --text", "decode --xml", "decode --json", "encode JSON", "encode XML", "dissect", "dissect --json",
-            "dissect --json, one frame", "diff of equal files", "generate", "view, one frame")
+            "diff of equal files", "rows", "export", "validate", "frames() in Python", "generate",
+            "one frame: dissect --json", "one frame: view")
 TARN = sys.argv.pop()
 
 
@@ -27,8 +28,11 @@ class Tool(unittest.TestCase):
         self.assertRegex(measured("decode --json"),
                          r"(?m)^decode --json +\d+\.\d\d +\d+ +python3 json +\d+\.\d\d +\d+ +\d+\.\d\d$")
 
-    def test_rows_are_chosen_by_parts_of_their_names(self):
+    def test_rows_are_chosen_by_how_their_names_begin(self):
         self.assertEqual(re.findall(r"(?m)^(\w.*?)  +\d", measured("diff", "gener")), ["diff of equal files", "generate"])
+
+    def test_commands_can_be_measured_alone(self):
+        self.assertRegex(measured("--alone", "decode --json"), r"(?m)^decode --json +\d+\.\d\d +\d+$")
 
 
 unittest.main()
