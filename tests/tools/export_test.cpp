@@ -338,16 +338,26 @@ TEST_F(Export, TablesOfAllRecordsAreWhatDecodePrints) {
     }
 }
 
-// What is missing is NULL there, so only payloads without missing bodies have the same rows.
+// Nested records are in a view if what contains them has a body. That of exmem has no values of its own, so nothing
+// tells it from an exmem without a body.
 TEST_F(Export, ViewsOfAllRecordsHaveTheRowsThatRowsPrints) {
+    reference::GeneratorOptions strange;
+    strange.strange = strange.printable = true;
+    strange.budget = 4000;
     std::string frames;
     for (const reference::MessageTable &message : reference::messages()) {
         for (const std::uint64_t seed : {71U, 72U, 73U, 74U}) {
             frames += frame(message, plain_payload(message, seed), false);
+            frames += frame(message, reference::Generator(seed, strange).make(message.payload), false);
         }
     }
     const Database database = exported(frames);
     for (const reference::RecordTable &record : reference::records()) {
+        const auto is_unknown = [&](const ExpectedRow &row) {
+            return record.name == "lumo_tarn_exmem_info" &&
+                   std::all_of(record.members.begin(), record.members.end(),
+                               [&](const reference::MemberTable &m) { return row.at(m.name) == "null"; });
+        };
         const std::string lines = tarn({"rows", record.name, "--format", "jsonl"}, frames).out;
         const std::string view = record.name.substr(std::string("lumo_tarn_").size()) + "_rows";
         std::multiset<ExpectedRow> expected, rows;
@@ -359,7 +369,7 @@ TEST_F(Export, ViewsOfAllRecordsHaveTheRowsThatRowsPrints) {
                 std::replace(column.begin(), column.end(), '.', '_');
                 if (name != "path") one[column] = in_database(text_of(value));
             }
-            expected.insert(one);
+            if (!is_unknown(one)) expected.insert(one);
         }
         ASSERT_FALSE(expected.empty()) << record.name;
         for (const ExpectedRow &row : database.named_rows("SELECT * FROM " + view)) {
@@ -370,7 +380,7 @@ TEST_F(Export, ViewsOfAllRecordsHaveTheRowsThatRowsPrints) {
                 const bool has_name = enumerator != row.end() && enumerator->second != "null";
                 one[name] = has_name ? enumerator->second : value;
             }
-            rows.insert(one);
+            if (!is_unknown(one)) rows.insert(one);
         }
         EXPECT_EQ(rows, expected) << record.name;
     }

@@ -28,10 +28,10 @@ public:
 
     Call &null() { return checked(sqlite3_bind_null(statement_, ++index_)); }
     Call &integer(std::int64_t value) { return checked(sqlite3_bind_int64(statement_, ++index_, value)); }
-    // The text is copied.
+    // The text is copied. A null pointer would be NULL, not an empty text.
     Call &text(std::string_view text) {
-        return checked(
-            sqlite3_bind_text64(statement_, ++index_, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+        const char *const bytes = text.empty() ? "" : text.data();
+        return checked(sqlite3_bind_text64(statement_, ++index_, bytes, text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
     }
     Call &bytes(std::string_view bytes) {
         return checked(sqlite3_bind_blob64(statement_, ++index_, bytes.data(), bytes.size(), SQLITE_TRANSIENT));

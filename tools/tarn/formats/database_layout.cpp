@@ -154,6 +154,20 @@ private:
 
 std::string view_name(const Table &table) { return table.name + "_rows"; }
 
+// A nested record is an instance if the record that contains it has a body. Then each member of that record has a
+// value, unless it is an address or a record.
+std::string condition_of(const Table &table, const Occurrence &occurrence) {
+    if (occurrence.path.empty()) return "";
+    const std::string container = occurrence.path.substr(0, occurrence.path.rfind('.') + 1);
+    for (const Column &c : table.columns) {
+        const bool is_member = c.name.starts_with(container) && c.name.find('.', container.size()) == std::string::npos;
+        if (is_member && c.member->kind != schema::Kind::address) {
+            return "  WHERE r." + sql_name(c.name) + " IS NOT NULL\n";
+        }
+    }
+    return "";
+}
+
 // The instances of a record in the rows of a table.
 std::string selection(const Table &table, const Occurrence &occurrence, const Table &record) {
     const Joins joins(table);
@@ -169,7 +183,7 @@ std::string selection(const Table &table, const Occurrence &occurrence, const Ta
     for (const SqlColumn &c : sql_columns(record)) sql += ",\n  r." + prefix + c.name + " AS " + c.name;
     return sql + "\n  FROM " + table.name +
            " AS r JOIN messages AS m ON m.message_id = r.message_id JOIN files AS f ON f.file_id = m.file_id\n" +
-           joins.sql();
+           joins.sql() + condition_of(table, occurrence);
 }
 
 std::string sql_of_view(const Table &record) {
