@@ -308,6 +308,12 @@ If this is set and neither empty nor 0, and
 is not, text has colors also if standard output is not a terminal.
 --color overrides both.
 .El
+.Sh FILES
+.Bl -tag -width Ds
+.It Pa .tarn-PID-NUMBER
+An output file before it gets its name, in the folder of that name.
+A process that is killed leaves it there; it can be removed when process PID no longer runs.
+.El
 .Sh EXIT STATUS
 All commands use the same exit codes:
 .Bl -tag -width Ds
