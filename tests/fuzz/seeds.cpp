@@ -116,7 +116,8 @@ void tool() {
             const std::string bytes =
                 text_of(reference::message_frame(table.name, fuzz::small_value(table.payload), tracked, 7));
             std::string source;
-            write_source(tarn::tool::bytes_of(bytes), [&](std::string_view piece) { source += piece; });
+            ByteStream stream = stream_of(bytes, "seed");
+            write_source(stream, [&](std::string_view piece) { source += piece; });
             files["source/" + table.name + form(tracked)] = head({0}) + bytes;
             files["source/" + table.name + form(tracked) + "-text"] = head({1}) + source;
         }
