@@ -26,6 +26,13 @@ using kit::Handle;
 using kit::Tracking;
 using reference::Bytes;
 
+// Other processors tell the address of a fault, this one only its page.
+#ifdef __s390x__
+constexpr bool faults_have_addresses = false;
+#else
+constexpr bool faults_have_addresses = true;
+#endif
+
 constexpr std::uintptr_t cache_line = 64;
 const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
 
@@ -116,7 +123,9 @@ std::vector<std::uintptr_t> written_by_a_thread(const kit::Options &options) {
 bool is_counter_of_a_type(std::uintptr_t address) {
     const auto is_of = [&](const mirk_type_info *type) {
         const auto line = reinterpret_cast<std::uintptr_t>(type->variant_info->entries);
-        return Range{line, line + sizeof(mirk_variant_entry)}.has(address) && line % cache_line == 0;
+        const bool has = faults_have_addresses ? Range{line, line + sizeof(mirk_variant_entry)}.has(address)
+                                               : line / page == address / page;
+        return has && line % cache_line == 0;
     };
     for (const auto &record : tarn::reflect::records()) {
         if (is_of(record.type)) return true;

@@ -84,7 +84,8 @@ std::string view_page(std::vector<ViewedFile> &files) {
         ordered_json &members = data["records"][record.at("name").get<std::string>()];
         for (const auto &m : record.at("members"))
             members[m.at("name").get<std::string>()] = {m.at("kind"), m.at("meaning")};
-        if (record.contains("key")) data["elements"][record.at("name")] = {record.at("element"), record.at("key")};
+        if (record.contains("key"))
+            data["elements"][record.at("name").get<std::string>()] = {record.at("element"), record.at("key")};
     }
     return page_text({title + " - tarn", view_body, view_script, view_script_sha256, data});
 }
