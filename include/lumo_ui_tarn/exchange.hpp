@@ -82,7 +82,13 @@ struct ask_options {
 namespace detail {
 
 /// @cond helpers
-inline bool is_path(const std::string &address) { return address.find('/') != std::string::npos; }
+/// Opens a client or a server at an address. The C functions would take the text up to a NUL for the address.
+template <class Open, class... Arguments>
+std::uint32_t open_at(const std::string &address, Open at_path, Open at_tcp, Arguments... arguments) {
+    if (address.find('\0') != std::string::npos) return EINVAL;
+    const bool is_path = address.find('/') != std::string::npos;
+    return (is_path ? at_path : at_tcp)(address.c_str(), arguments...);
+}
 
 /// A connection of ask(). Errors are reported in the context.
 class connection {
@@ -90,8 +96,9 @@ public:
     connection(lumo_ui_tarn::context &c, const std::string &address, const ask_options &options)
         : context_(&c), address_(address), end_(std::chrono::steady_clock::now() + options.timeout) {
         const auto limit = (std::min)(options.limits.frame, std::size_t{std::numeric_limits<std::uint32_t>::max()});
-        const auto open = is_path(address) ? mirk_platform_client_open : mirk_platform_client_open_tcp;
-        check(open(address.c_str(), static_cast<std::uint32_t>(limit), left_ms(), &client_), "cannot connect");
+        check(open_at(address, mirk_platform_client_open, mirk_platform_client_open_tcp,
+                      static_cast<std::uint32_t>(limit), left_ms(), &client_),
+              "cannot connect");
     }
     connection(const connection &) = delete;
     connection &operator=(const connection &) = delete;
@@ -222,8 +229,9 @@ public:
                                          std::uint32_t size) {
             static_cast<server *>(user)->on_frame(peer, bytes, size);
         };
-        const auto open = detail::is_path(address) ? mirk_platform_server_open : mirk_platform_server_open_tcp;
-        check(open(address.c_str(), &options_.transport, &native_), address);
+        const mirk_platform_server_options *transport = &options_.transport;
+        check(detail::open_at(address, mirk_platform_server_open, mirk_platform_server_open_tcp, transport, &native_),
+              address);
     }
     /// The transport keeps a pointer to the server.
     server(const server &) = delete;

@@ -157,6 +157,8 @@ TEST_F(Exchange, ErrorsOfConnectingHaveTheirNames) {
     std::ofstream(folder / "file") << "text";
     expect_error(std::errc::connection_refused, [&] { (void)ask<cl_debug_rsp>(c, folder / "file"); });
     expect_error(std::errc::invalid_argument, [&] { (void)ask<cl_debug_rsp>(c, "127.0.0.1:many"); });
+    expect_error(std::errc::invalid_argument, [&] { (void)ask<cl_debug_rsp>(c, address + '\0'); });
+    expect_error(std::errc::invalid_argument, [&] { const server one(address + '\0', {}); });
     expect_error(std::errc::file_exists, [&] { const server one(folder / "file", {}); });
     const Running running(address, {});
     expect_error(std::errc::address_in_use, [&] { const server second(address, {}); });
