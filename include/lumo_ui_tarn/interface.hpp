@@ -295,13 +295,11 @@ frame grown_frame(context &c, std::size_t guess, Write write) {
 }
 
 /// Printed text has gaps before the closing braces of nested records: the C functions count these bytes but write NUL
-/// or nothing there.
+/// or nothing there. Text of records with many elements has four to six times as many bytes as their frame.
 template <class Write>
-std::string grown_text(context &c, std::size_t guess, Write write) {
-    std::string text = grown<std::string>(c, guess, ' ', write);
-    for (char &character : text) {
-        if (character == '\0') character = ' ';
-    }
+std::string grown_text(context &c, std::size_t frame_size, Write write) {
+    std::string text = grown<std::string>(c, 8 * frame_size + 4096, ' ', write);
+    for (std::size_t at = text.find('\0'); at != text.npos; at = text.find('\0', at + 1)) text[at] = ' ';
     return text;
 }
 
@@ -449,7 +447,7 @@ public:
     /// Returns an XML element with this name.
     [[nodiscard]] std::string to_xml(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
-        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+        return grown_text(c, frame_size(), [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return R::to_xml(c.handle(), c.ctx_id(), name, buffer, this->native_, static_cast<std::int32_t>(size), 0,
                              err);
         });
@@ -457,7 +455,7 @@ public:
     /// Returns human-readable text that starts with this name. It cannot be read back.
     [[nodiscard]] std::string text(const char *name = R::name) const {
         lumo_ui_tarn::context &c = this->context();
-        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+        return grown_text(c, frame_size(), [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return R::print(c.handle(), c.ctx_id(), buffer, 0, name, this->native_, static_cast<std::int32_t>(size),
                             err);
         });
@@ -1074,7 +1072,7 @@ private:
     std::string rendered(Operation operation) const {
         if (!this->exists_()) return {};
         lumo_ui_tarn::context &c = this->context();
-        return grown_text(c, 3 * frame_size() + 4096, [&](char *buffer, std::size_t size, std::uint32_t *err) {
+        return grown_text(c, frame_size(), [&](char *buffer, std::size_t size, std::uint32_t *err) {
             return operation(c.handle(), c.ctx_id(), buffer, this->native_, static_cast<std::uint32_t>(size), err);
         });
     }

@@ -190,7 +190,7 @@ TEST_F(CppSequence, RecordsMakeTheCallsOfTheCFunctions) {
             const std::size_t length = object.frame_size();
             std::vector<std::uint8_t> buffer(length + 1);
             const auto size = static_cast<std::int32_t>(length);
-            std::vector<char> text(3 * length + 4096);
+            std::vector<char> text(8 * length + 4096);
             const auto room = static_cast<std::int32_t>(text.size());
             const char *name = r.record->name.data();
 
