@@ -52,11 +52,13 @@ install(FILES ${TARN_DISSECTOR} DESTINATION ${library_dir}/wireshark/plugins COM
 
 # ---- the fleet, if its libraries were found
 if(TARN_WITH_FLEET)
-  require_built(fleet $<TARGET_FILE:tarn-fleet>)
+  require_built(fleet $<TARGET_FILE:tarn-fleet> ${TARN_FLEET_MANUALS}/tarn-simulate.1.gz)
   if(NOT TARN_DEBIAN)
     set_target_properties(tarn-fleet PROPERTIES INSTALL_RPATH "$ORIGIN/..")
   endif()
   install(TARGETS tarn-fleet RUNTIME DESTINATION ${TARN_FLEET_DIR} COMPONENT fleet)
+  install(DIRECTORY ${TARN_FLEET_MANUALS}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT fleet
+          FILES_MATCHING PATTERN "*.1.gz")
 endif()
 
 # ---- files for building programs

@@ -49,7 +49,7 @@ byte, compares answers and generates random ones. This package also contains a
 dissector for Wireshark${python_text}.")
 if(TARN_WITH_FLEET)
   describe(fleet lumo-ui-tarn-fleet utils "ask many devices for answers of the tarn feature"
-    "The tool tarn with a bus: it answers and asks on NATS, and simulates devices.")
+    "The tool tarn asks many devices on a bus, a server of NATS, keeps what they answer\nin SQLite or PostgreSQL, and simulates devices.")
   set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "lumo-ui-tarn-tools ${of_this_build}")
 endif()
