@@ -153,6 +153,7 @@ TEST_P(EveryDump, NamesTheLineWhereItStops) {
     dump += "and so on\n";
     const Outcome outcome = tarn({"decode"}, dump);
     EXPECT_EQ(outcome.exit, 2);
+    EXPECT_EQ(outcome.out, tarn({"decode"}, bytes).out);
     EXPECT_NE(outcome.err.find("standard input: line " + std::to_string(lines + 1) + ": "), std::string::npos)
         << outcome.err;
 }

@@ -16,7 +16,9 @@ namespace tarn::tool {
 namespace {
 
 Form form_at(ByteStream &stream, bool keep_going) {
-    const std::string_view begin = stream.look(enough_to_detect);
+    // Usually one piece of the input. Something may be broken behind it.
+    std::string_view begin = stream.look(4);
+    if (begin.find_first_not_of(" \t\r\n\xEF\xBB\xBF") == std::string_view::npos) begin = stream.look(enough_to_detect);
     try {
         return form_of(begin, stream.name());
     } catch (const Failure &) {
