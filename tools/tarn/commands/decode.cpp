@@ -1,4 +1,6 @@
 // tarn decode: converts frames and recordings to text, XML or JSON.
+#include <malloc.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <deque>
@@ -164,6 +166,9 @@ Exit decode(const InputOptions &input, const DecodeOptions &options, const Write
 }
 
 Exit run_decode(const DecodeOptions &options) {
+    // Each message and its text are freed before the next; without this, their pages return to the system each time.
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);
+    mallopt(M_TRIM_THRESHOLD, 32 << 20);
     set_up_trace(options.verbose);
     return convert_files(options.input, options.output, options.suffix(),
                          [&](const InputOptions &input, const Write &write) { return decode(input, options, write); });

@@ -10,13 +10,13 @@ namespace tarn::tool {
 
 namespace {
 
-constexpr std::size_t most_bytes = std::size_t{1} << 30;
+constexpr std::size_t most_bytes = std::size_t{1} << 30, most_first = UINT32_MAX - 1;
 
 // Writers report a buffer that is too small as EMSGSIZE, ENOSPC or ENOMEM, so it grows until the message fits.
 template <class Buffer, class Write>
 Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type filler, const char *what,
                       const reflect::MessageOperations &operations, const Write &write) {
-    for (std::size_t size = first_guess;; size *= 4) {
+    for (std::size_t size = std::min(first_guess, most_first);; size *= 4) {
         Buffer buffer(size + 1, filler);
         std::uint32_t err = 0;
         const std::uint32_t written = write(buffer.data(), static_cast<std::uint32_t>(size), &err);
@@ -30,25 +30,29 @@ Buffer grow_and_write(std::size_t first_guess, typename Buffer::value_type fille
     }
 }
 
-std::size_t guess(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
-    return std::size_t{operations.len(handle.get(), context_id, object)} * 3 + 4096;
+// The length of its frame, apart from the header. RA data is not part of it.
+std::size_t length_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
+    return operations.len(handle.get(), context_id, object);
 }
+
+// More than most messages take, since a second attempt costs as much again: names repeat in each element.
+constexpr std::size_t text_for_a_byte = 9, xml_for_a_byte = 7, spare = 4096;
 
 }  // namespace
 
 Bytes frame_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
-    return grow_and_write<Bytes>(guess(handle, operations, object), 0, "written as a frame", operations,
+    return grow_and_write<Bytes>(length_of(handle, operations, object) + spare, 0, "written as a frame", operations,
                                  [&](std::uint8_t *buffer, std::uint32_t size, std::uint32_t *err) {
                                      return operations.marshal(handle.get(), context_id, buffer, object, size, err);
                                  });
 }
 
 std::string text_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
-    std::string text =
-        grow_and_write<std::string>(guess(handle, operations, object), ' ', "written as text", operations,
-                                    [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
-                                        return operations.print(handle.get(), context_id, buffer, object, size, err);
-                                    });
+    std::string text = grow_and_write<std::string>(
+        length_of(handle, operations, object) * text_for_a_byte + spare, ' ', "written as text", operations,
+        [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
+            return operations.print(handle.get(), context_id, buffer, object, size, err);
+        });
     // The library leaves gaps before nested closing lines; their first byte is the terminator of the
     // previous line.
     std::replace(text.begin(), text.end(), '\0', ' ');
@@ -56,11 +60,11 @@ std::string text_of(const Handle &handle, const reflect::MessageOperations &oper
 }
 
 std::string xml_of(const Handle &handle, const reflect::MessageOperations &operations, void *object) {
-    return grow_and_write<std::string>(guess(handle, operations, object), ' ', "written as XML", operations,
-                                       [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
-                                           return operations.to_xml(handle.get(), context_id, buffer, object, size,
-                                                                    err);
-                                       });
+    return grow_and_write<std::string>(
+        length_of(handle, operations, object) * xml_for_a_byte + spare, ' ', "written as XML", operations,
+        [&](char *buffer, std::uint32_t size, std::uint32_t *err) {
+            return operations.to_xml(handle.get(), context_id, buffer, object, size, err);
+        });
 }
 
 void require_admitted(const Handle &handle, const reflect::MessageOperations &operations,

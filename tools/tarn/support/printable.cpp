@@ -47,6 +47,14 @@ std::string escape(const Character &character, Notation notation) {
     return text;
 }
 
+// True of nearly all output. Without an early exit, the compiler takes many characters at a time.
+bool is_printable_ascii(std::string_view text, bool keep_lines) {
+    const char kept = keep_lines ? '\n' : ' ';
+    unsigned others = 0;
+    for (const char c : text) others |= (c < ' ' || c > '~') && c != kept ? 1U : 0U;
+    return others == 0;
+}
+
 std::string escaped(std::string_view text, Notation notation, bool keep_lines) {
     std::string out;
     out.reserve(text.size());
@@ -89,8 +97,9 @@ bool is_utf8(std::string_view text) {
 
 std::string in_quotes(std::string_view text) { return "\"" + printable(text) + "\""; }
 
-std::string printable_output(std::string_view output, Notation notation) {
-    return escaped(output, notation, notation != Notation::xml);
+std::string printable_output(std::string output, Notation notation) {
+    const bool keep_lines = notation != Notation::xml;
+    return is_printable_ascii(output, keep_lines) ? output : escaped(output, notation, keep_lines);
 }
 
 }  // namespace tarn::tool

@@ -21,6 +21,6 @@ bool is_utf8(std::string_view text);
 // Output of several lines, with the same characters escaped in its own notation, so that readers of JSON and XML get
 // the same values. Line ends stay, except in XML, where only a string can contain one.
 enum class Notation : std::uint8_t { text, json, xml };
-std::string printable_output(std::string_view output, Notation notation);
+std::string printable_output(std::string output, Notation notation);
 
 }  // namespace tarn::tool
