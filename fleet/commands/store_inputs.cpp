@@ -1,4 +1,5 @@
 // --store of the commands that read files: answers of a store take the place of files.
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -37,17 +38,16 @@ public:
     // Of each device, the answers that it had given by that time.
     void add_at(Time time, bool names_time) {
         for (const std::string &wanted : wanted_devices()) {
-            std::map<std::string, std::vector<std::string>> digests;  // by device
+            std::map<std::string, std::vector<std::int64_t>> ids;  // by device
             for (const StoredAnswer &a : store_->store.answers_at(wanted, bundle_, time)) {
-                digests[a.device].push_back(a.digest);
+                ids[a.device].push_back(a.id);
             }
-            if (digests.empty()) {
+            if (ids.empty()) {
                 throw Failure(Exit::input, store_->store.shown() + ": no answer" +
                                                (wanted.empty() ? "" : " of " + tool::in_quotes(wanted)) + " by " +
                                                time_text(time));
             }
-            for (auto &[device, all] : digests)
-                add(names_time ? device + "@" + time_text(time) : device, std::move(all));
+            for (auto &[device, all] : ids) add(names_time ? device + "@" + time_text(time) : device, std::move(all));
         }
     }
 
@@ -57,7 +57,7 @@ public:
             const Selection selection{device, bundle_, times.since, times.until};
             store_->store.for_each_answer(selection, [&](const StoredAnswer &a) {
                 const std::string bundle = tool::short_name(a.bundle);
-                add(a.device + "/" + bundle + "@" + time_text(a.first_seen), {a.digest});
+                add(a.device + "/" + bundle + "@" + time_text(a.first_seen), {a.id});
             });
         }
     }
@@ -81,11 +81,11 @@ private:
         return devices_.empty() ? std::vector<std::string>{""} : devices_;
     }
 
-    void add(std::string name, std::vector<std::string> digests) {
-        const auto read = [store = store_, digests = std::move(digests)] {
+    void add(std::string name, std::vector<std::int64_t> ids) {
+        const auto read = [store = store_, ids = std::move(ids)] {
             const std::lock_guard<std::mutex> hold(store->lock);
             std::string bytes;
-            for (const std::string &digest : digests) bytes += store->store.frames(digest);
+            for (const std::int64_t id : ids) bytes += store->store.frames(id);
             return bytes;
         };
         names_.push_back(tool::printable(name));

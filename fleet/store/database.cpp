@@ -176,10 +176,13 @@ std::string Database::bytes_of(std::string stored) const {
     return bytes;
 }
 
-std::string Database::frames(const std::string &digest) {
+std::string Database::frames(std::int64_t answer) {
     std::string stored;
-    *session_ << "SELECT frames FROM contents WHERE digest = :digest", soci::use(digest, "digest"), soci::into(stored);
-    if (!session_->got_data()) throw Failure(Exit::environment, shown_ + ": no frames with the digest " + digest);
+    *session_ << "SELECT frames FROM contents WHERE answer_id = :id", soci::use(answer, "id"), soci::into(stored);
+    // It may have been forgotten meanwhile.
+    if (!session_->got_data()) {
+        throw Failure(Exit::environment, shown_ + ": no frames of answer " + std::to_string(answer));
+    }
     return bytes_of(std::move(stored));
 }
 

@@ -58,8 +58,8 @@ public:
     std::string cast(const std::string &parameter) const;
     std::string bytes_of(std::string stored) const;  // what a column with bytes returns as text
 
-    // The frames with that digest; they must be there.
-    std::string frames(const std::string &digest);
+    // The frames of an answer that is there.
+    std::string frames(std::int64_t answer);
 
 private:
     [[noreturn]] void fail(const soci::soci_error &error);

@@ -71,15 +71,14 @@ long long count(Database &database, const std::string &sql) {
 
 struct Keeper::Statements {
     explicit Statements(Database &database)
-        : contents(database, "INSERT INTO contents (digest, size, frames) VALUES", "tib",
-                   "ON CONFLICT (digest) DO NOTHING"),
+        : contents(database, "INSERT INTO contents (answer_id, frames) VALUES", "ib", ""),
           pairs(database, "INSERT INTO device_bundles (device_id, bundle) VALUES", "it",
                 "ON CONFLICT (device_id, bundle) DO NOTHING"),
           answers(database,
-                  "INSERT INTO answers (device_id, bundle, number, digest, asked, first_seen, last_asked, last_seen, "
-                  "times) VALUES",
-                  "ititiiiii",
-                  "ON CONFLICT (device_id, bundle, number) DO UPDATE SET last_asked = excluded.last_asked, "
+                  "INSERT INTO answers (answer_id, device_id, bundle, number, digest, size, asked, first_seen, "
+                  "last_asked, last_seen, times) VALUES",
+                  "iititiiiiii",
+                  "ON CONFLICT (answer_id) DO UPDATE SET last_asked = excluded.last_asked, "
                   "last_seen = excluded.last_seen, times = answers.times + 1"),
           // What ends a gap is no request that was not answered.
           gaps(database,
@@ -95,20 +94,14 @@ struct Keeper::Statements {
         gaps.flush();
     }
     void flush() {
-        // Two collectors with the same frames would wait for each other if their orders differed.
-        for (const auto &[digest, frames] : new_frames) {
-            contents.text(digest).integer(static_cast<std::int64_t>(frames.size())).bytes(frames);
-        }
         contents.flush();
         pairs.flush();
         flush_spans();
     }
     void clear() {
-        new_frames.clear();
         for (Insertion *insertion : {&contents, &pairs, &answers, &gaps}) insertion->clear();
     }
 
-    std::map<std::string, std::string_view> new_frames;  // by digest
     Insertion contents, pairs, answers, gaps;
 };
 
@@ -240,10 +233,10 @@ std::vector<std::string> Keeper::devices() const {
 Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
     State state;
     std::int64_t gap = 0, began = 0;
-    database_->session() << "SELECT number, digest, last_seen FROM answers WHERE device_id = :device AND "
+    database_->session() << "SELECT answer_id, number, digest, last_seen FROM answers WHERE device_id = :device AND "
                             "bundle = :bundle ORDER BY number DESC LIMIT 1",
-        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.number), soci::into(state.digest),
-        soci::into(state.last_seen);
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.number),
+        soci::into(state.digest), soci::into(state.last_seen);
     database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END FROM gaps WHERE "
                             "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
@@ -253,7 +246,7 @@ Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle)
     if (began != 0) {
         state.gap_began = began;
     } else if (is_last && !state.digest.empty()) {
-        state.same = sha256_without_stamps(database_->frames(state.digest));
+        state.same = sha256_without_stamps(database_->frames(state.id));
     }
     return state;
 }
@@ -279,6 +272,20 @@ void Keeper::require_lease() {
     throw Unavailable(shown() + ": the lease of this collector ended before it was renewed");
 }
 
+// In blocks, so that collectors do not wait for each other.
+void Keeper::require_ids(std::size_t count) {
+    constexpr std::int64_t block = 100'000;
+    if (end_of_ids_ - last_id_ >= static_cast<std::int64_t>(count)) return;
+    const std::int64_t size = std::max(block, static_cast<std::int64_t>(count));
+    long long end = 0;
+    database_->transact([&] {
+        change(*database_, "UPDATE answer_ids SET last = last + :size", soci::use(size, "size"));
+        database_->session() << "SELECT last FROM answer_ids", soci::into(end);
+    });
+    end_of_ids_ = end;
+    last_id_ = end - size;
+}
+
 void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &state) {
     std::string same = sha256_without_stamps(outcome.frames);
     const bool was_pause = patience_ != 0 && state.last_seen != 0 && outcome.asked - state.last_seen > patience_;
@@ -291,12 +298,14 @@ void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &stat
     }
     if (state.same != same) {
         ++state.number;
+        state.id = ++last_id_;
         state.same = std::move(same);
         state.digest = sha256(outcome.frames);
-        statements_->new_frames.emplace(state.digest, outcome.frames);
+        statements_->contents.integer(state.id).bytes(outcome.frames);
     }
     state.last_seen = outcome.ended;
-    statements_->answers.integer(device).text(outcome.bundle).integer(state.number).text(state.digest);
+    statements_->answers.integer(state.id).integer(device).text(outcome.bundle).integer(state.number);
+    statements_->answers.text(state.digest).integer(static_cast<std::int64_t>(outcome.frames.size()));
     statements_->answers.integer(outcome.asked).integer(outcome.ended);
     statements_->answers.integer(outcome.asked).integer(outcome.ended).integer(1);
 }
@@ -319,6 +328,7 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
     std::set<const State *> waiting;  // two rows of one span cannot be in one statement
     std::size_t stored = 0;
     statements_->clear();
+    require_ids(outcomes.size());
     database_->transact([&] {
         require_lease();
         for (const Outcome &outcome : outcomes) {
@@ -343,7 +353,7 @@ std::size_t Keeper::forget(Time before) {
     const std::int64_t last =
         database_->guarded([&] { return count(*database_, "SELECT coalesce(max(device_id), 0) FROM devices"); });
     std::size_t forgotten = 0;
-    // In short transactions, since other collectors wait for them.
+    // In short transactions, since other collectors of a SQLite file wait for them.
     for (std::int64_t first = 1; first <= last; first += step) {
         const std::int64_t end = first + step;
         const auto erase = [&](const std::string &sql) {
@@ -351,14 +361,8 @@ std::size_t Keeper::forget(Time before) {
                 change(*database_, sql, soci::use(first, "first"), soci::use(end, "end"), soci::use(before, "before")));
         };
         database_->transact([&] {
-            // Frames that are about to be deleted must not be found by a collector that receives them again.
-            if (database_->engine() == Engine::postgresql) {
-                database_->run("LOCK TABLE contents IN SHARE ROW EXCLUSIVE MODE");
-            }
             const std::string old = "device_id >= :first AND device_id < :end AND last_seen < :before";
-            erase("DELETE FROM contents WHERE digest IN (SELECT digest FROM answers WHERE " + old +
-                  ") AND NOT EXISTS (SELECT 1 FROM answers WHERE answers.digest = contents.digest AND NOT (" + old +
-                  "))");
+            erase("DELETE FROM contents WHERE answer_id IN (SELECT answer_id FROM answers WHERE " + old + ")");
             forgotten += erase("DELETE FROM answers WHERE " + old);
             forgotten += erase("DELETE FROM gaps WHERE device_id >= :first AND device_id < :end AND ended < :before");
         });

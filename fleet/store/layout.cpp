@@ -14,7 +14,9 @@ namespace {
 using tool::Exit;
 using tool::Failure;
 
-// Times are milliseconds since 1970 in UTC. BYTES stands for the engine's type of bytes.
+// Times are milliseconds since 1970 in UTC. BYTES and ID stand for the engine's types of bytes and of numbers of rows.
+// Frames are apart from what changes with each request. New rows of both are next to each other, and no index has keys
+// as random as digests, since each of its entries would write a page.
 constexpr std::string_view tables = R"(
 CREATE TABLE store_meta (name TEXT PRIMARY KEY, value TEXT NOT NULL);
 CREATE TABLE collectors (collector TEXT PRIMARY KEY, expires BIGINT NOT NULL);
@@ -27,20 +29,23 @@ CREATE TABLE devices (
 );
 CREATE INDEX devices_by_owner ON devices (owner);
 CREATE TABLE device_bundles (device_id BIGINT NOT NULL, bundle TEXT NOT NULL, PRIMARY KEY (device_id, bundle));
-CREATE TABLE contents (digest TEXT PRIMARY KEY, size BIGINT NOT NULL, frames BYTES NOT NULL);
+CREATE TABLE answer_ids (last BIGINT NOT NULL);
+INSERT INTO answer_ids VALUES (0);
+CREATE TABLE contents (answer_id ID PRIMARY KEY, frames BYTES NOT NULL);
 CREATE TABLE answers (
+  answer_id ID PRIMARY KEY,
   device_id BIGINT NOT NULL,
   bundle TEXT NOT NULL,
   number BIGINT NOT NULL,
   digest TEXT NOT NULL,
+  size BIGINT NOT NULL,
   asked BIGINT NOT NULL,
   first_seen BIGINT NOT NULL,
   last_asked BIGINT NOT NULL,
   last_seen BIGINT NOT NULL,
   times BIGINT NOT NULL,
-  PRIMARY KEY (device_id, bundle, number)
+  UNIQUE (device_id, bundle, number)
 );
-CREATE INDEX answers_by_digest ON answers (digest);
 CREATE TABLE gaps (
   device_id BIGINT NOT NULL,
   bundle TEXT NOT NULL,
@@ -61,8 +66,12 @@ CREATE VIEW latest_answers AS
 
 std::string with_types(const Database &database) {
     std::string sql(tables);
-    const std::size_t at = sql.find("BYTES");
-    return sql.replace(at, 5, database.either("BLOB", "BYTEA"));
+    for (const auto &[word, type] :
+         {std::pair<std::string_view, std::string_view>(" ID ", database.either(" INTEGER ", " BIGINT ")),
+          {"BYTES", database.either("BLOB", "BYTEA")}}) {
+        for (std::size_t at = 0; (at = sql.find(word, at)) != std::string::npos;) sql.replace(at, word.size(), type);
+    }
+    return sql;
 }
 
 std::string version_in(Database &database) {

@@ -59,19 +59,19 @@ std::vector<Latest> Store::latest(const Selection &selection) {
         Gap g;
         soci::statement statement =
             (database_->session().prepare
-                 << "SELECT d.device, d.site, x.bundle, coalesce(a.number, 0), coalesce(a.digest, ''), "
-                    "coalesce(c.size, 0), coalesce(a.asked, 0), coalesce(a.first_seen, 0), coalesce(a.last_asked, 0), "
+                 << "SELECT d.device, d.site, x.bundle, coalesce(a.answer_id, 0), coalesce(a.number, 0), "
+                    "coalesce(a.digest, ''), "
+                    "coalesce(a.size, 0), coalesce(a.asked, 0), coalesce(a.first_seen, 0), coalesce(a.last_asked, 0), "
                     "coalesce(a.last_seen, 0), coalesce(a.times, 0), coalesce(g.number, 0), coalesce(g.began, 0), "
                     "coalesce(g.last_asked, 0), coalesce(g.reason, ''), coalesce(g.requests, 0) "
                     "FROM device_bundles x JOIN devices d ON d.device_id = x.device_id "
                     "LEFT JOIN answers a ON a.device_id = x.device_id AND a.bundle = x.bundle AND a.number = "
                     "(SELECT max(number) FROM answers m WHERE m.device_id = x.device_id AND m.bundle = x.bundle) "
-                    "LEFT JOIN contents c ON c.digest = a.digest "
                     "LEFT JOIN gaps g ON g.device_id = x.device_id AND g.bundle = x.bundle AND g.ended IS NULL "
                     "WHERE"
                  << of_selection << "ORDER BY d.device, x.bundle",
              soci::use(selection.device, "device"), soci::use(selection.bundle, "bundle"), soci::into(row.device),
-             soci::into(row.site), soci::into(row.bundle), soci::into(a.number), soci::into(a.digest),
+             soci::into(row.site), soci::into(row.bundle), soci::into(a.id), soci::into(a.number), soci::into(a.digest),
              soci::into(a.size), soci::into(a.asked), soci::into(a.first_seen), soci::into(a.last_asked),
              soci::into(a.last_seen), soci::into(a.times), soci::into(g.number), soci::into(g.began),
              soci::into(g.last_asked), soci::into(g.reason), soci::into(g.requests));
@@ -91,22 +91,21 @@ namespace {
 // Visits the answers that the condition on `x`, a table or a selection of answers, leaves.
 void for_each_answer_in(Database &database, const std::string &from, const Selection &selection, Time since, Time until,
                         const std::function<void(const StoredAnswer &)> &visit) {
-    database.guarded(
-        [&] {
-            StoredAnswer a;
-            soci::statement statement =
-                (database.session().prepare
-                     << "SELECT d.device, x.bundle, x.number, x.digest, c.size, x.asked, x.first_seen, x.last_asked, "
-                        "x.last_seen, x.times FROM "
-                     << from << " JOIN devices d ON d.device_id = x.device_id JOIN contents c ON c.digest = x.digest "
-                     << "WHERE x.last_seen >= :since AND x.first_seen <= :until AND" << of_selection
-                     << "ORDER BY d.device, x.bundle, x.number",
-                 soci::use(since, "since"), soci::use(until, "until"), soci::use(selection.device, "device"),
-                 soci::use(selection.bundle, "bundle"), soci::into(a.device), soci::into(a.bundle),
-                 soci::into(a.number), soci::into(a.digest), soci::into(a.size), soci::into(a.asked),
-                 soci::into(a.first_seen), soci::into(a.last_asked), soci::into(a.last_seen), soci::into(a.times));
-            for_each_row_of(statement, [&] { visit(a); });
-        });
+    database.guarded([&] {
+        StoredAnswer a;
+        soci::statement statement =
+            (database.session().prepare << "SELECT x.answer_id, d.device, x.bundle, x.number, x.digest, x.size, "
+                                           "x.asked, x.first_seen, x.last_asked, "
+                                           "x.last_seen, x.times FROM "
+                                        << from << " JOIN devices d ON d.device_id = x.device_id "
+                                        << "WHERE x.last_seen >= :since AND x.first_seen <= :until AND" << of_selection
+                                        << "ORDER BY d.device, x.bundle, x.number",
+             soci::use(since, "since"), soci::use(until, "until"), soci::use(selection.device, "device"),
+             soci::use(selection.bundle, "bundle"), soci::into(a.id), soci::into(a.device), soci::into(a.bundle),
+             soci::into(a.number), soci::into(a.digest), soci::into(a.size), soci::into(a.asked),
+             soci::into(a.first_seen), soci::into(a.last_asked), soci::into(a.last_seen), soci::into(a.times));
+        for_each_row_of(statement, [&] { visit(a); });
+    });
 }
 
 }  // namespace
@@ -148,8 +147,8 @@ void Store::for_each_gap(const Selection &selection, const std::function<void(co
     });
 }
 
-std::string Store::frames(const std::string &digest) {
-    return database_->guarded([&] { return database_->frames(digest); });
+std::string Store::frames(std::int64_t answer) {
+    return database_->guarded([&] { return database_->frames(answer); });
 }
 
 }  // namespace tarn::fleet

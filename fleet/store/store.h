@@ -1,8 +1,7 @@
 // What devices answered, and when they did not, in a SQLite file or in a PostgreSQL database.
 //
 // An answer is stored with the span of time in which the device gave it: as long as the frames stay the same, apart
-// from the stamps in their headers, the span grows. A device that did not answer has a gap. Equal frames are stored
-// once.
+// from the stamps in their headers, the span grows. A device that did not answer has a gap.
 #pragma once
 
 #include <cstdint>
@@ -25,6 +24,7 @@ class Database;
 
 // A span in which a device gave the same answer.
 struct StoredAnswer {
+    std::int64_t id;
     std::string device, bundle;
     std::int64_t number;         // of the answers of this device and bundle, from 1
     std::string digest;          // SHA-256 of the frames
@@ -78,7 +78,7 @@ public:
     // device or bundle selects all.
     std::vector<StoredAnswer> answers_at(const std::string &device, const std::string &bundle, Time time);
 
-    std::string frames(const std::string &digest);
+    std::string frames(std::int64_t answer);
 
 private:
     std::unique_ptr<Database> database_;
@@ -127,9 +127,9 @@ public:
 private:
     // The last span of a device and bundle, as the next outcome continues it.
     struct State {
-        std::int64_t number = 0;
-        std::string digest;  // of the frames
-        std::string same;    // what the next answer must have in common to be the same; empty in a gap
+        std::int64_t id = 0, number = 0;  // of the answer
+        std::string digest;               // of the frames
+        std::string same;                 // what the next answer must have in common to be the same; empty in a gap
         Time last_seen = 0;
         std::optional<Time> gap_began;
     };
@@ -144,6 +144,7 @@ private:
     State load_state(std::int64_t device, const std::string &bundle);
     State &state_of(Owned &owned, std::string_view bundle);
     void require_lease();
+    void require_ids(std::size_t count);
     void add(std::int64_t device, const Outcome &outcome, State &state);
     void add_answer(std::int64_t device, const Outcome &outcome, State &state);
     void add_silence(std::int64_t device, const Outcome &outcome, State &state);
@@ -155,6 +156,7 @@ private:
     const std::string name_;
     const Time lease_, patience_;
     bool is_registered_ = false;
+    std::int64_t last_id_ = 0, end_of_ids_ = 0;                    // of those that this collector may use
     std::map<std::string, Owned, std::less<>> owned_;              // by device
     std::map<std::string, std::string, std::less<>> known_sites_;  // of all devices that this collector has added
 };
