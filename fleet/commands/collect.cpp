@@ -109,14 +109,14 @@ private:
         for (const std::string &bundle : device.bundles) {
             if (const auto *const known = tool::find_bundle_named(bundle)) bundles.insert(known);
         }
-        if (announced_.find(name) == announced_.end()) found_.emplace_back(name, device.name.site);
-        announced_[name] = std::move(bundles);
+        if (offered_.find(name) == offered_.end()) found_.emplace_back(name, device.name.site);
+        offered_[name] = std::move(bundles);
     }
 
-    // A device is asked for the bundles that it announces. One that has not announced itself may come back.
+    // A device is asked for the bundles that it offers. One that has not been discovered may come back.
     bool answers(const std::string &device, const reflect::BundleOperations *bundle) const {
-        const auto found = announced_.find(device);
-        return found == announced_.end() || found->second.empty() || found->second.count(bundle) != 0;
+        const auto found = offered_.find(device);
+        return found == offered_.end() || found->second.empty() || found->second.count(bundle) != 0;
     }
 
     void take_over(const std::vector<std::string> &names) {
@@ -192,7 +192,7 @@ private:
     std::set<const reflect::BundleOperations *> bundles_;
     std::map<std::string, OwnDevice> devices_;
     std::set<Due> due_;  // also of devices that this collector does not have any more
-    std::map<std::string, std::set<const reflect::BundleOperations *>> announced_;
+    std::map<std::string, std::set<const reflect::BundleOperations *>> offered_;
     std::vector<std::pair<std::string, std::string>> found_;
     Clock::time_point next_discovery_;
     Recorder recorder_;
