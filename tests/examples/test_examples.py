@@ -156,10 +156,11 @@ def test_print_classes(tmp_path: pathlib.Path):
     assert script("print_classes.py", answer).splitlines() == expected
 
 
-def test_the_readme_quotes_an_example():
+def test_the_readme_quotes_an_example_with_another_source():
     readme = EXAMPLES.parent.joinpath("README.md").read_text()
     block = readme.partition("```python\n")[2].partition("```")[0]
-    program = EXAMPLES.joinpath("print_classes.py").read_text().replace("sys.argv[1]", '"answer.bin"')
+    request = 'lumo_tarn.ask("/run/tarn.sock", "dp-tt-cfg")'
+    program = EXAMPLES.joinpath("print_classes.py").read_text().replace("lumo_tarn.messages(sys.argv[1])", request)
     assert block.strip() and block in program
 
 
