@@ -185,9 +185,9 @@ public:
     /// text of std::system_error, or EIO and the text of any other std::exception.
     template <class B, class Answer>
     answers &add(Answer answer) {
-        callbacks_[B::name] = [answer = std::move(answer)](context &c) mutable {
+        callbacks_[B::name] = [write = std::move(answer)](context &c) mutable {
             bundle_writer<B> bundle(c);
-            if (c.ok()) answer(bundle);
+            if (c.ok()) write(bundle);
             if (c.ok() && bundle.is_open()) bundle.commit();
             return bundle.frames();
         };

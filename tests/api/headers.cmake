@@ -11,10 +11,11 @@ if(count LESS ${LEAST})
   message(FATAL_ERROR "only ${count} headers in ${folder}")
 endif()
 if(COMPILER MATCHES "clang")
-  # All warnings except those about the language version, about padding, and about the names of the contract, some of
-  # which begin with an underscore.
+  # All warnings except those about the language version, about padding, about the names of the contract, some of which
+  # begin with an underscore, and two of newer versions: a switch over all enumerators needs no default, and frames are
+  # read through pointers.
   set(warnings -Weverything -Wno-c++98-compat -Wno-c++98-compat-pedantic -Wno-padded
-      -Wno-reserved-identifier)
+      -Wno-reserved-identifier -Wno-unknown-warning-option -Wno-switch-default -Wno-unsafe-buffer-usage)
 else()
   set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wundef -Wcast-align=strict -Wcast-qual
       -Wredundant-decls -Wformat=2 -Wdouble-promotion -Wnull-dereference -Wduplicated-cond -Wlogical-op)

@@ -77,7 +77,7 @@ PYTHON = """
 import lumo_tarn
 tc = lumo_tarn.DpTc(idle_limit=500)
 assert lumo_tarn.DpTc.from_xml(tc.to_xml()).idle_limit == 500
-assert lumo_tarn.DpTc.idle_limit.__doc__ == "how long the class may stay idle"
+assert lumo_tarn.DpTc.idle_limit.__doc__.startswith("how long the class may stay idle: ")
 """
 
 FILES = [
