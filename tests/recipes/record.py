@@ -80,7 +80,7 @@ PYTHON = """
 import lumo_tarn
 queues = lumo_tarn.DpQueueList(queues=[lumo_tarn.DpQueue(id=3, packets=1000)])
 assert lumo_tarn.DpQueueList.from_frame(queues.to_frame()).queues[0].packets == 1000
-assert lumo_tarn.DpQueue.__doc__ == "one packet queue"
+assert lumo_tarn.DpQueue.__doc__.startswith("one packet queue")
 """
 
 FILES = [
