@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "bus.h"
+#include "output.h"
 #include "schema/digest.h"
 
 namespace fleet_test {
@@ -24,15 +24,6 @@ Outcome show(const BusServer &bus, std::vector<std::string> more) {
     all.insert(all.end(), more.begin(), more.end());
     return run(tool, all);
 }
-
-std::vector<json> lines_of(const std::string &text) {
-    std::vector<json> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) lines.push_back(json::parse(line));
-    return lines;
-}
-
-bool contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
 
 TEST(Bus, ADeviceAnswersWithTheFramesThatItSendsOnASocket) {
     const BusServer bus;

@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "fleet/store/store.h"
+#include "output.h"
 #include "process.h"
 
 namespace fleet_test {
@@ -79,15 +79,6 @@ private:
         return xml;
     }
 };
-
-std::vector<json> lines_of(const std::string &text) {
-    std::vector<json> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) lines.push_back(json::parse(line));
-    return lines;
-}
-
-bool contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
 
 TEST_F(History, PrintsEachDeviceAndBundle) {
     const auto outcome = tarn_with_store({"history", "--json"});

@@ -6,6 +6,7 @@
 #include "bus.h"
 #include "fleet/bus/names.h"
 #include "mirk_platform.h"
+#include "output.h"
 #include "schema/digest.h"
 
 namespace fleet_test {
@@ -16,8 +17,6 @@ using tool_test::Outcome;
 using tool_test::run;
 
 const std::string tool = TARN_TOOL;
-
-bool contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
 
 const std::string digest = tarn::schema::schema_digest();
 

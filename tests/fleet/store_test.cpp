@@ -62,6 +62,12 @@ private:
 std::string engine_of(const testing::TestParamInfo<bool> &info) { return info.param ? "PostgreSQL" : "SQLite"; }
 INSTANTIATE_TEST_SUITE_P(Engines, StoreTest, testing::Bool(), engine_of);
 
+// What only one of the engines has: a server that can be killed, or a file whose size this process can limit.
+class ServerStoreTest : public StoreTest {};
+INSTANTIATE_TEST_SUITE_P(Engines, ServerStoreTest, testing::Values(true), engine_of);
+class FileStoreTest : public StoreTest {};
+INSTANTIATE_TEST_SUITE_P(Engines, FileStoreTest, testing::Values(false), engine_of);
+
 Outcome answer(std::string_view device, std::string_view frames, Time at) {
     return {device, "lumo_tarn_dp_intf_rsp", at, at + 5, frames, {}};
 }
@@ -392,8 +398,7 @@ TEST_P(StoreTest, WhatACollectorHadCommittedIsThereAfterItIsKilled) {
     }
 }
 
-TEST_P(StoreTest, AServerThatIsKilledKeepsWhatWasCommitted) {
-    if (!uses_server()) GTEST_SKIP() << "SQLite has no server";
+TEST_P(ServerStoreTest, KeepsWhatWasCommittedIfTheServerIsKilled) {
     const auto keeper = keeper_of(where(), {{"r1", ""}});
     keeper->put(std::vector{answer("r1", "one", t0)});
     restart_server([&] {
@@ -407,8 +412,7 @@ TEST_P(StoreTest, AServerThatIsKilledKeepsWhatWasCommitted) {
     EXPECT_EQ(answers_in(where()).size(), 2U);
 }
 
-TEST_P(StoreTest, AFullDiskIsNamedAndLosesNothing) {
-    if (uses_server()) GTEST_SKIP() << "the server has its own limits";
+TEST_P(FileStoreTest, NamesAFullDiskAndLosesNothing) {
     std::signal(SIGXFSZ, SIG_IGN);
     const auto keeper = keeper_of(where(), {{"r1", ""}});
     keeper->put(std::vector{answer("r1", "one", t0)});
