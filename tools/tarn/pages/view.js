@@ -920,9 +920,9 @@ function addHit(key) {
   order.push(key);
 }
 
-// Looks through all bytes, one slice after the other. A slice is a number of values, so it takes about as long in every
-// file; a piece that cannot contain the text is as much work as a part of a value.
-const perSlice = 20000;
+// Looks through all bytes, one slice after the other, so that the page reacts in between on slow machines, too. The clock
+// is read after a number of values; a piece that cannot contain the text is as much work as a part of a value.
+const sliceMilliseconds = 20, perReading = 1000;
 class Scan {
   constructor(wanted, follows) {
     this.wanted = wanted;
@@ -966,7 +966,9 @@ class Scan {
 
   // Returns whether there is more.
   run() {
-    for (let work = perSlice; work > 0;) {
+    const end = performance.now() + sliceMilliseconds;
+    for (let work = perReading; work > 0 || performance.now() < end;) {
+      if (work <= 0) work = perReading;
       if (order.length === most) return false;
       const group = this.stack[this.stack.length - 1];
       if (!group) {
