@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 #include <set>
+#include <utility>
 
 #include "fleet/store/database.h"
 #include "fleet/store/layout.h"
@@ -72,12 +73,13 @@ long long count(Database &database, const std::string &sql) {
 struct Keeper::Statements {
     explicit Statements(Database &database)
         : contents(database, "INSERT INTO contents (answer_id, frames) VALUES", "ib", ""),
-          pairs(database, "INSERT INTO device_bundles (device_id, bundle) VALUES", "it",
-                "ON CONFLICT (device_id, bundle) DO NOTHING"),
+          pairs(database, "INSERT INTO device_bundles (device_id, bundle, answer_id) VALUES", "iti",
+                "ON CONFLICT (device_id, bundle) DO UPDATE SET "
+                "answer_id = coalesce(excluded.answer_id, device_bundles.answer_id)"),
           answers(database,
-                  "INSERT INTO answers (answer_id, device_id, bundle, number, digest, size, asked, first_seen, "
-                  "last_asked, last_seen, times) VALUES",
-                  "iititiiiiii",
+                  "INSERT INTO answers (answer_id, device_id, bundle, number, previous, digest, size, asked, "
+                  "first_seen, last_asked, last_seen, times) VALUES",
+                  "iitiitiiiiii",
                   "ON CONFLICT (answer_id) DO UPDATE SET last_asked = excluded.last_asked, "
                   "last_seen = excluded.last_seen, times = answers.times + 1"),
           // What ends a gap is no request that was not answered.
@@ -90,12 +92,12 @@ struct Keeper::Statements {
                "requests = gaps.requests + excluded.requests") {}
 
     void flush_spans() {
+        pairs.flush();
         answers.flush();
         gaps.flush();
     }
     void flush() {
         contents.flush();
-        pairs.flush();
         flush_spans();
     }
     void clear() {
@@ -233,10 +235,11 @@ std::vector<std::string> Keeper::devices() const {
 Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
     State state;
     std::int64_t gap = 0, began = 0;
-    database_->session() << "SELECT answer_id, number, digest, last_seen FROM answers WHERE device_id = :device AND "
-                            "bundle = :bundle ORDER BY number DESC LIMIT 1",
-        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.number),
-        soci::into(state.digest), soci::into(state.last_seen);
+    database_->session() << "SELECT a.answer_id, coalesce(a.previous, 0), a.number, a.digest, a.last_seen FROM "
+                            "device_bundles p JOIN answers a ON a.answer_id = p.answer_id WHERE p.device_id = :device "
+                            "AND p.bundle = :bundle",
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.previous),
+        soci::into(state.number), soci::into(state.digest), soci::into(state.last_seen);
     database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END FROM gaps WHERE "
                             "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
@@ -298,19 +301,22 @@ void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &stat
     }
     if (state.same != same) {
         ++state.number;
-        state.id = ++last_id_;
+        state.previous = std::exchange(state.id, ++last_id_);
         state.same = std::move(same);
         state.digest = sha256(outcome.frames);
         statements_->contents.integer(state.id).bytes(outcome.frames);
+        statements_->pairs.integer(device).text(outcome.bundle).integer(state.id);
     }
     state.last_seen = outcome.ended;
     statements_->answers.integer(state.id).integer(device).text(outcome.bundle).integer(state.number);
+    state.previous != 0 ? statements_->answers.integer(state.previous) : statements_->answers.null();
     statements_->answers.text(state.digest).integer(static_cast<std::int64_t>(outcome.frames.size()));
     statements_->answers.integer(outcome.asked).integer(outcome.ended);
     statements_->answers.integer(outcome.asked).integer(outcome.ended).integer(1);
 }
 
 void Keeper::add_silence(std::int64_t device, const Outcome &outcome, State &state) {
+    if (state.number == 0 && !state.gap_began) statements_->pairs.integer(device).text(outcome.bundle).null();
     // The device may have been silent since its last answer.
     if (!state.gap_began) state.gap_began = outcome.asked;
     state.same.clear();
@@ -319,7 +325,6 @@ void Keeper::add_silence(std::int64_t device, const Outcome &outcome, State &sta
 }
 
 void Keeper::add(std::int64_t device, const Outcome &outcome, State &state) {
-    if (state.number == 0 && !state.gap_began) statements_->pairs.integer(device).text(outcome.bundle);
     outcome.frames.empty() ? add_silence(device, outcome, state) : add_answer(device, outcome, state);
 }
 
@@ -349,22 +354,31 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
 }
 
 std::size_t Keeper::forget(Time before) {
-    constexpr std::int64_t step = 100;
-    const std::int64_t last =
-        database_->guarded([&] { return count(*database_, "SELECT coalesce(max(device_id), 0) FROM devices"); });
+    constexpr std::int64_t step = 1000;
     std::size_t forgotten = 0;
-    // In short transactions, since other collectors of a SQLite file wait for them.
-    for (std::int64_t first = 1; first <= last; first += step) {
-        const std::int64_t end = first + step;
-        const auto erase = [&](const std::string &sql) {
-            return static_cast<std::size_t>(
-                change(*database_, sql, soci::use(first, "first"), soci::use(end, "end"), soci::use(before, "before")));
-        };
+    std::int64_t first = 0, last = 0;
+    database_->transact([&] {
+        forgotten += static_cast<std::size_t>(
+            change(*database_, "DELETE FROM gaps WHERE ended < :before", soci::use(before, "before")));
+        database_->session() << "SELECT coalesce(min(answer_id), 0), coalesce(max(answer_id), -1) FROM answers",
+            soci::into(first), soci::into(last);
+    });
+    // In short transactions, since other collectors of a SQLite file wait for them. Blocks of answers are in the order
+    // of time.
+    for (bool has_old = true; first <= last && has_old; first += step) {
+        const std::string range =
+            "answer_id >= " + std::to_string(first) + " AND answer_id < " + std::to_string(first + step);
         database_->transact([&] {
-            const std::string old = "device_id >= :first AND device_id < :end AND last_seen < :before";
-            erase("DELETE FROM contents WHERE answer_id IN (SELECT answer_id FROM answers WHERE " + old + ")");
-            forgotten += erase("DELETE FROM answers WHERE " + old);
-            forgotten += erase("DELETE FROM gaps WHERE device_id >= :first AND device_id < :end AND ended < :before");
+            Time oldest = 0;
+            database_->session() << "SELECT coalesce(min(first_seen), 0) FROM answers WHERE " + range,
+                soci::into(oldest);
+            has_old = oldest < before;
+            const long long gone = change(*database_, "DELETE FROM answers WHERE last_seen < :before AND " + range,
+                                          soci::use(before, "before"));
+            if (gone == 0) return;
+            forgotten += static_cast<std::size_t>(gone);
+            database_->run("DELETE FROM contents WHERE " + range + " AND NOT EXISTS " +
+                           "(SELECT 1 FROM answers a WHERE a.answer_id = contents.answer_id)");
         });
     }
     return forgotten;

@@ -16,7 +16,8 @@ using tool::Failure;
 
 // Times are milliseconds since 1970 in UTC. BYTES and ID stand for the engine's types of bytes and of numbers of rows.
 // Frames are apart from what changes with each request. New rows of both are next to each other, and no index has keys
-// as random as digests, since each of its entries would write a page.
+// that are not, such as digests or devices: each entry would write a page, which is more than a small answer. So the
+// answers of a device are a list from the last to the first.
 constexpr std::string_view tables = R"(
 CREATE TABLE store_meta (name TEXT PRIMARY KEY, value TEXT NOT NULL);
 CREATE TABLE collectors (collector TEXT PRIMARY KEY, expires BIGINT NOT NULL);
@@ -28,7 +29,12 @@ CREATE TABLE devices (
   owner TEXT
 );
 CREATE INDEX devices_by_owner ON devices (owner);
-CREATE TABLE device_bundles (device_id BIGINT NOT NULL, bundle TEXT NOT NULL, PRIMARY KEY (device_id, bundle));
+CREATE TABLE device_bundles (
+  device_id BIGINT NOT NULL,
+  bundle TEXT NOT NULL,
+  answer_id BIGINT,
+  PRIMARY KEY (device_id, bundle)
+);
 CREATE TABLE answer_ids (last BIGINT NOT NULL);
 INSERT INTO answer_ids VALUES (0);
 CREATE TABLE contents (answer_id ID PRIMARY KEY, frames BYTES NOT NULL);
@@ -37,14 +43,14 @@ CREATE TABLE answers (
   device_id BIGINT NOT NULL,
   bundle TEXT NOT NULL,
   number BIGINT NOT NULL,
+  previous BIGINT,
   digest TEXT NOT NULL,
   size BIGINT NOT NULL,
   asked BIGINT NOT NULL,
   first_seen BIGINT NOT NULL,
   last_asked BIGINT NOT NULL,
   last_seen BIGINT NOT NULL,
-  times BIGINT NOT NULL,
-  UNIQUE (device_id, bundle, number)
+  times BIGINT NOT NULL
 );
 CREATE TABLE gaps (
   device_id BIGINT NOT NULL,
@@ -60,8 +66,7 @@ CREATE TABLE gaps (
 CREATE VIEW latest_answers AS
   SELECT d.device, d.site, a.* FROM device_bundles p
   JOIN devices d ON d.device_id = p.device_id
-  JOIN answers a ON a.device_id = p.device_id AND a.bundle = p.bundle AND a.number =
-    (SELECT max(number) FROM answers m WHERE m.device_id = p.device_id AND m.bundle = p.bundle);
+  JOIN answers a ON a.answer_id = p.answer_id;
 )";
 
 std::string with_types(const Database &database) {

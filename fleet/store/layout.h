@@ -6,7 +6,7 @@
 namespace tarn::fleet {
 
 // Another number means that programs have to be changed.
-inline constexpr int store_version = 1;
+inline constexpr int store_version = 2;
 
 // Creates the tables in an empty database; several processes may do so at once. Throws a Failure that names the version
 // if the store has another one, and if the database has other tables: nothing is written then.

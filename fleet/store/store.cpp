@@ -25,6 +25,19 @@ constexpr std::string_view of_selection =
 
 constexpr Time always = 0, never = INT64_MAX;
 
+// The answers from the last one of each selected device and bundle back to the first that had begun by the time which
+// the parameter contains. Each step is a look-up by answer_id.
+std::string answers_back_to(const std::string &parameter) {
+    const auto member = [](const std::string &name) {
+        return "(SELECT a." + name + " FROM answers a WHERE a.answer_id = b.previous)";
+    };
+    return "(WITH RECURSIVE back AS (SELECT a.answer_id, a.first_seen, a.previous FROM device_bundles x "
+           "JOIN devices d ON d.device_id = x.device_id JOIN answers a ON a.answer_id = x.answer_id WHERE" +
+           std::string(of_selection) + "UNION ALL SELECT b.previous, " + member("first_seen") + ", " +
+           member("previous") + " FROM back b WHERE b.first_seen > " + parameter +
+           " AND b.previous IS NOT NULL) SELECT a.* FROM back JOIN answers a ON a.answer_id = back.answer_id) x";
+}
+
 }  // namespace
 
 Store::Store(const std::string &where) : database_(std::make_unique<Database>(where, Access::read)) {
@@ -65,8 +78,7 @@ std::vector<Latest> Store::latest(const Selection &selection) {
                     "coalesce(a.last_seen, 0), coalesce(a.times, 0), coalesce(g.number, 0), coalesce(g.began, 0), "
                     "coalesce(g.last_asked, 0), coalesce(g.reason, ''), coalesce(g.requests, 0) "
                     "FROM device_bundles x JOIN devices d ON d.device_id = x.device_id "
-                    "LEFT JOIN answers a ON a.device_id = x.device_id AND a.bundle = x.bundle AND a.number = "
-                    "(SELECT max(number) FROM answers m WHERE m.device_id = x.device_id AND m.bundle = x.bundle) "
+                    "LEFT JOIN answers a ON a.answer_id = x.answer_id "
                     "LEFT JOIN gaps g ON g.device_id = x.device_id AND g.bundle = x.bundle AND g.ended IS NULL "
                     "WHERE"
                  << of_selection << "ORDER BY d.device, x.bundle",
@@ -111,17 +123,14 @@ void for_each_answer_in(Database &database, const std::string &from, const Selec
 }  // namespace
 
 void Store::for_each_answer(const Selection &selection, const std::function<void(const StoredAnswer &)> &visit) {
-    for_each_answer_in(*database_, "answers x", selection, selection.since.value_or(always),
-                       selection.until.value_or(never), visit);
+    for_each_answer_in(*database_, selection.device.empty() ? "answers x" : answers_back_to(":since"), selection,
+                       selection.since.value_or(always), selection.until.value_or(never), visit);
 }
 
 std::vector<StoredAnswer> Store::answers_at(const std::string &device, const std::string &bundle, Time time) {
     std::vector<StoredAnswer> answers;
-    for_each_answer_in(*database_,
-                       "device_bundles p JOIN answers x ON x.device_id = p.device_id AND x.bundle = p.bundle AND "
-                       "x.number = (SELECT max(number) FROM answers m WHERE m.device_id = p.device_id AND "
-                       "m.bundle = p.bundle AND m.first_seen <= :until)",
-                       {device, bundle}, always, time, [&](const StoredAnswer &a) { answers.push_back(a); });
+    for_each_answer_in(*database_, answers_back_to(":until"), {device, bundle}, always, time,
+                       [&](const StoredAnswer &a) { answers.push_back(a); });
     return answers;
 }
 

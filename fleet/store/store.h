@@ -127,7 +127,7 @@ public:
 private:
     // The last span of a device and bundle, as the next outcome continues it.
     struct State {
-        std::int64_t id = 0, number = 0;  // of the answer
+        std::int64_t id = 0, previous = 0, number = 0;  // of the answer
         std::string digest;               // of the frames
         std::string same;                 // what the next answer must have in common to be the same; empty in a gap
         Time last_seen = 0;

@@ -298,6 +298,21 @@ TEST_P(StoreTest, ForgetsWhatEndedBefore) {
     EXPECT_EQ(gaps_in(where()).size(), 0U);
     EXPECT_EQ(query("SELECT count(*) FROM contents"), "2\n");
     EXPECT_EQ(Store(where()).frames(answers_in(where(), {.device = "r2"})[0].id), "one");
+    // The answer before it is gone.
+    EXPECT_EQ(answers_in(where(), {.device = "r1"}).size(), 1U);
+    EXPECT_EQ(Store(where()).answers_at("r1", "", t0 + 1500).size(), 0U);
+}
+
+TEST_P(StoreTest, ForgetsInSeveralTransactions) {
+    const auto keeper = keeper_of(where(), {{"r1", ""}});
+    std::vector<std::string> frames;
+    for (int i = 0; i < 2500; ++i) frames.push_back(std::to_string(i));
+    std::vector<Outcome> outcomes;
+    for (int i = 0; i < 2500; ++i) outcomes.push_back(answer("r1", frames[static_cast<std::size_t>(i)], t0 + i));
+    keeper->put(outcomes);
+    EXPECT_EQ(keeper->forget(t0 + 5 + 2100), 2100U);
+    EXPECT_EQ(answers_in(where(), {.device = "r1"}).size(), 400U);
+    EXPECT_EQ(query("SELECT min(answer_id), count(*) FROM contents"), "2101|400\n");
 }
 
 TEST_P(StoreTest, NumbersGoOnAfterForgetting) {
@@ -337,9 +352,9 @@ TEST_P(StoreTest, NamesAreDataAndNotSql) {
 
 TEST_P(StoreTest, NamesAnotherVersionBeforeItWrites) {
     keeper_of(where(), {{"r1", ""}});
-    query("UPDATE store_meta SET value = '2' WHERE name = 'layout_version'");
+    query("UPDATE store_meta SET value = '1' WHERE name = 'layout_version'");
     const std::string message = message_of([&] { keeper_of(where(), {{"r2", ""}}); });
-    EXPECT_NE(message.find("a store of version \"2\"; this program reads and writes version 1"), std::string::npos)
+    EXPECT_NE(message.find("a store of version \"1\"; this program reads and writes version 2"), std::string::npos)
         << message;
     EXPECT_EQ(query("SELECT device FROM devices"), "r1\n");
     EXPECT_EQ(message_of([&] { Store store(where()); }), message);
