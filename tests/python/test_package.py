@@ -203,12 +203,43 @@ def test_lists_are_sequences(handle):
             classes[wrong]
     with pytest.raises(ValueError):
         classes.grow(2)
-    with pytest.raises(ValueError):
-        classes[:] = []
     with pytest.raises(TypeError):
         classes.append(lumo_tarn.DpAppl())
+    assert len(classes) == 7
     with pytest.raises(OverflowError):
         lumo_tarn.DpMpPrefixData(on=handle).prefix_data.grow(256)
+
+
+def test_slices_of_a_list_are_assigned_as_those_of_a_python_list(handle):
+    def numbers(before: list, part: slice, values: list) -> list:
+        classes = lumo_tarn.DpTcList(on=handle, tc_list=[{"id": number} for number in before]).tc_list
+        classes[part] = [lumo_tarn.DpTc(id=number) for number in values]
+        return [tc.id for tc in classes]
+
+    before = [3, 1, 2]
+    bounds = [None, -4, -1, 0, 1, 3, 9]
+    for part in (slice(start, stop) for start in bounds for stop in bounds):
+        for values in ([], [7], [7, 8], [7, 8, 9], [7, 8, 9, 10]):
+            expected, count = list(before), len(before[part])
+            expected[part] = values
+            if len(values) == count or len(values) > count and max(part.indices(3)) == 3:
+                assert numbers(before, part, values) == expected
+            else:
+                with pytest.raises(ValueError, match="shrink" if len(values) < count else "only at the end"):
+                    numbers(before, part, values)
+    with pytest.raises(ValueError, match="step"):
+        numbers(before, slice(None, None, 2), [7, 8])
+
+
+def test_a_list_can_be_assigned_its_own_elements_in_another_order(handle):
+    table = lumo_tarn.DpTtTable(on=handle, agg_tc_list={"tc_list": [{"id": 3}, {"id": 1}, {"id": 2}]})
+    classes = table.agg_tc_list.tc_list
+    classes[:] = sorted(classes, key=lambda tc: tc.id)
+    assert [tc.id for tc in classes] == [1, 2, 3]
+    table.agg_tc_list.tc_list = reversed(classes)
+    assert [tc.id for tc in classes] == [3, 2, 1]
+    classes[1:] = [classes[0], classes[1], classes[2]]
+    assert [tc.id for tc in classes] == [3, 3, 2, 1]
 
 
 def test_assigning_frees_the_former_content(handle):

@@ -292,16 +292,27 @@ class Array(Sequence[R], Generic[R]):
         return element
 
     def __setitem__(self, index: int | slice, value: Any) -> None:
-        """Copies a record into an element, or records or mappings into a slice. The array grows if the slice is longer.
-        Raises ValueError if it would shrink."""
+        """Copies a record into an element, or records into a slice; a mapping in a slice sets the members that it names. A
+        slice at the end can grow. Raises ValueError if elements would be removed or moved."""
         if isinstance(index, int):
-            self._put(self._at(index), value)
+            self._put(self._at(index), self._copied(value))
             return
-        values, start, step = list(value), index.start or 0, index.step or 1
-        if step != 1 or start + len(values) < min(len(self), len(self) if index.stop is None else index.stop):
+        values, count = list(value), len(self)
+        start, stop, step = index.indices(count)
+        replaced = max(stop - start, 0)
+        if step != 1:
+            raise ValueError("only slices with step 1 can be assigned")
+        if len(values) < replaced:
             raise ValueError("arrays do not shrink")
-        self.grow(max(len(self), start + len(values)))
-        for at, one in enumerate(values, start):
+        if len(values) > replaced and start + replaced < count:
+            raise ValueError("arrays grow only at the end")
+        for one in values:
+            if not isinstance(one, Mapping):
+                expect(self._member.record, one)
+        self.grow(max(count, start + len(values)))
+        copies = (one if isinstance(one, Mapping) else self._copied(one) for one in values)
+        # Values can be elements that are overwritten, for example those of sorted().
+        for at, one in enumerate(list(copies) if start < count else copies, start):
             if isinstance(one, Mapping):
                 self[at].set(**one)
             else:
@@ -358,11 +369,13 @@ class Array(Sequence[R], Generic[R]):
             raise IndexError(f"index {index} is out of range: {self._member.name} has {count} elements")
         return at
 
-    def _put(self, at: int, record: R) -> None:
+    def _copied(self, record: R) -> R:
         expect(self._member.record, record)
-        value, element = record.copy(on=self._owner._handle), self[at]
-        former = emptied(element)  # the C setter would leak it
-        self._owner._call(f"{self._member.name}_set", at, value.native)
+        return record.copy(on=self._owner._handle)
+
+    def _put(self, at: int, copy: R) -> None:
+        former = emptied(self[at])  # the C setter would leak it
+        self._owner._call(f"{self._member.name}_set", at, copy.native)
         del former
 
 
