@@ -172,6 +172,10 @@ def test_errors_are_raised(handle):
         lumo_tarn.DebugSettingMsg.from_frame(b"garbage", on=handle)
     with pytest.raises(ValueError):
         lumo_tarn.DpTc.from_xml("<no xml", on=handle)
+    for size in (100, 101):  # the sentence is cut, in one case in a character
+        name = "a" * size + "\u00e9" * 200
+        with pytest.raises(ValueError, match="^line 1: "):
+            lumo_tarn.DpTc.from_xml(f"<{name}></b>", on=handle)
     with pytest.raises(OSError):
         lumo_tarn.ExmemInfo.from_xml("<lumo_tarn_exmem_info><size>x</size></lumo_tarn_exmem_info>", on=handle)
     with pytest.raises(OverflowError):

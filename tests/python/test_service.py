@@ -223,6 +223,7 @@ def test_serves_a_port():
     with lumo_tarn.serve("127.0.0.1:0", {"cl-debug": lambda request: levels(7)}) as server:
         assert server.address.startswith("127.0.0.1:") and not server.address.endswith(":0")
         assert numbers(lumo_tarn.ask(server.address, "cl-debug")) == [7]
+        assert numbers(lumo_tarn.ask(server.address, "cl-debug", timeout=float("inf"))) == [7]
 
 
 def test_exceptions_refuse_the_request(path, caplog):
@@ -234,6 +235,8 @@ def test_exceptions_refuse_the_request(path, caplog):
         "dp-debug": lambda request: fail(KeyError("secret")),
         "dp-intf": lambda request: levels(1),  # another bundle's messages
         "dp-tt-cfg": lambda request: fail(SystemExit(3)),
+        "dp-appl-cfg": lambda request: fail(socket.gaierror(socket.EAI_NONAME, "unknown host")),
+        "pal-debug": lambda request: fail(OSError("no number", 7)),
     }
     with lumo_tarn.serve(path, answers), lumo_tarn.Client(path) as client:
         for bundle, number, sentence in (
@@ -241,6 +244,8 @@ def test_exceptions_refuse_the_request(path, caplog):
             ("dp-debug", errno.EIO, "the answer could not be written"),
             ("dp-intf", errno.ENOENT, "No such file or directory"),
             ("dp-tt-cfg", errno.EIO, "the answer could not be written"),
+            ("dp-appl-cfg", errno.EIO, "unknown host"),
+            ("pal-debug", errno.EIO, "7"),
             ("cl-cfg", errno.ENOENT, "lumo_tarn_cl_cfg_rsp is not served here"),
         ):
             with pytest.raises(lumo_tarn.RefusedError) as raised:

@@ -206,7 +206,7 @@ class Record(Native):
             read = self._function("from_xml")
             read(self._handle.native, CTX_ID, location, document, self.native, err, explanation, 256)
         if err[0] not in (0, ignored):
-            raise OSError(err[0], ffi.string(explanation).decode() or os.strerror(err[0]))
+            raise OSError(err[0], ffi.string(explanation).decode(errors="replace") or os.strerror(err[0]))
 
     def text(self, name: str | None = None) -> str:
         """Returns text for people, under this name or the record's. There is no parser for it."""

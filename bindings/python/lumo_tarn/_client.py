@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import contextlib
 import errno
+import math
 import os
 import threading
 import time
@@ -50,10 +51,10 @@ class InvalidAnswerError(OSError):
 
 
 def milliseconds(seconds: float) -> int:
-    """Rounded up, so that only 0 becomes 0. Raises ValueError for a negative number."""
+    """Rounded up, so that only 0 becomes 0; at most 49 days. Raises ValueError for a negative number."""
     if not seconds >= 0:
         raise ValueError(f"{seconds} is not a time in seconds")
-    return min(-int(-seconds * 1000 // 1), _MOST_MS)
+    return math.ceil(min(seconds * 1000, _MOST_MS))
 
 
 def _printable(text: bytes) -> str:

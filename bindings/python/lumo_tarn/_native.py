@@ -183,7 +183,7 @@ class Document:
         report = ffi.new("mirk_platform_report *")
         self._document = lib.mirk_platform_document_load_memory(self._text, len(self._text), report)
         if self._document == ffi.NULL:
-            sentence = ffi.string(report.sentence).decode()
+            sentence = ffi.string(report.sentence).decode(errors="replace")  # it can be cut in a character
             raise ValueError(f"line {report.line}: {sentence}")
         return self._document
 

@@ -85,8 +85,8 @@ class Server:
     answers maps the full or the short name of a bundle to a function that gets a Request and returns the messages of the
     answer, or its frames as bytes. It runs in the server's thread, one call at a time; other threads run as usual, but
     while it runs, no peer is served. Messages are written in that thread, so create them there, or return frames. If it
-    raises OSError, the request is refused with its errno and strerror; for any other exception with EIO, and the
-    exception is logged. Requests for other bundles are refused with ENOENT.
+    raises OSError, the request is refused with its errno and strerror, or with EIO if it has no positive errno; for any
+    other exception with EIO, and the exception is logged. Requests for other bundles are refused with ENOENT.
 
     In an event loop, the function may be a coroutine, which runs in the loop:
 
@@ -215,7 +215,10 @@ class Server:
         except concurrent.futures.CancelledError:
             return _refusal(errno.ECANCELED, "the server stops")
         except OSError as error:
-            return _refusal(error.errno or errno.EIO, error.strerror or "the answer could not be written")
+            number = error.errno  # negative, for example, if the name of a host is unknown
+            if not isinstance(number, int) or not 0 < number <= 0xFFFFFFFF:
+                number = errno.EIO
+            return _refusal(number, str(error.strerror or "the answer could not be written"))
         except BaseException:  # nothing can be raised into the C function
             _log.exception("cannot answer the request for %s", request.bundle)
             return _refusal(errno.EIO, "the answer could not be written")
