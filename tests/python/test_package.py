@@ -5,6 +5,7 @@ import copy
 import errno
 import gc
 import inspect
+import ipaddress
 import json
 import os
 import pathlib
@@ -82,7 +83,10 @@ def wrong_values(record, member, kind: str, of: str) -> dict:
         setattr(one, member, "\N{EURO SIGN}" * (number("at most") // 3))
         return {"x" * (number("at most") + 1): OverflowError, "\0": ValueError}
     if kind == "address":
-        return {"10.0.0.0": ValueError, "x/8": ValueError}
+        setattr(one, member, ipaddress.ip_network("10.0.0.0/8"))
+        assert str(getattr(one, member)) == "10.0.0.0/8"
+        texts = ["10.0.0.0", "x/8", "10.0.0.0/256", "10.0.0.0/-1", "fe80::1%65536/64", "256,0,0,0,0,0/0", "2,0,0,0,0/0"]
+        return {text: ValueError for text in [*texts, "2,0,4294967296,0,0,0/0", ipaddress.ip_address("10.0.0.0")]}
     if kind == "enumeration":
         assert type(getattr(one, member)).__name__ in documentation
         return {len(_schema.ENUMERATIONS[of][2]): OSError, "x": ValueError}

@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import asyncio
+import ipaddress
 from collections.abc import Iterator
 
 import lumo_tarn
@@ -26,7 +27,7 @@ def broken(path: str) -> int:
 
 
 def made() -> lumo_tarn.DpTc:
-    tc = lumo_tarn.DpTc(id=3, src_prefix="10.0.0.0/8", appl={"id": 4})
+    tc = lumo_tarn.DpTc(id=3, src_prefix=ipaddress.IPv4Network("10.0.0.0/8"), appl={"id": 4})
     tc.dst_prefix = lumo_tarn.Address.of("unset")
     tc.appl.type = 2
     prefix: lumo_tarn.Address = tc.src_prefix

@@ -88,9 +88,8 @@ std::string documentation(const Member &m, const Member *counter) {
                    "an unknown number, ValueError for an unknown name";
         case Category::address:
             return meaning +
-                   ": Address; assigning accepts text such as 10.0.0.0/8 and interfaces of the module ipaddress; "
-                   "ValueError "
-                   "for other text";
+                   ": Address; assigning accepts text such as 10.0.0.0/8, and interfaces and networks of the module "
+                   "ipaddress; ValueError for anything else";
         case Category::record:
             return meaning + ": " + class_of_record(*m.record) +
                    ", a part of this record; assigning copies another one; TypeError for anything else";
