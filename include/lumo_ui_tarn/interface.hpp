@@ -1328,10 +1328,14 @@ public:
         B::abort_message_marshal(context_->handle(), context_->ctx_id(), unused, nullptr, sizeof unused - 1, &err);
     }
 
-    /// Appends the frame of a message. ENOENT after commit() or abort(), or if the bundle could not be opened.
+    /// Appends the frame of a message. ENOENT after commit() or abort(), or if the bundle could not be opened. An error
+    /// that the context of the message keeps is reported here, too, so that the bundle is not committed without it.
     bundle_writer &add(message_view<typename B::message> one) {
         if (!open_) context_->fail(ENOENT, "the bundle is not open");
-        if (context_->ok()) frames_.append(one.to_frame());
+        if (!context_->ok()) return *this;
+        const frame written = one.to_frame();
+        if (!one.context().ok()) context_->fail(static_cast<std::uint32_t>(one.context().error().value()));
+        frames_.append(written);
         return *this;
     }
     /// Closes the bundle and appends the commit's frame. ENOENT if it is not open. Has no effect while an error is

@@ -285,6 +285,19 @@ TEST_F(CppUsage, MessagesAreAddedToOpenBundlesOnly) {
     EXPECT_TRUE(kept.ok());
 }
 
+TEST_F(CppUsage, BundlesReportErrorsThatTheContextsOfTheirMessagesKeep) {
+    context kept(handle, errors::kept);
+    const debug_setting_msg message(kept);
+    kept.fail(EIO);
+    context c(handle);
+    bundle_writer<cl_debug_rsp> answer(c);
+    const frame start = answer.frames();
+    expect_error(std::errc::io_error, [&] { answer.add(message); });
+    EXPECT_EQ(answer.frames(), start);
+    EXPECT_EQ(kept.take_error(), std::errc::io_error);
+    EXPECT_GT(answer.add(message).commit().frames().size(), start.size());
+}
+
 TEST_F(CppUsage, AllocationFailureIsReported) {
     mirk_platform_handle_options options;
     mirk_platform_handle_options_init(&options);
