@@ -263,6 +263,12 @@ namespace detail {
 /// @cond helpers
 inline constexpr std::size_t max_buffer_size = std::size_t{1} << 30;
 
+/// The C functions read frames from at most so many bytes. A cast would take a larger buffer for a small one.
+inline std::uint32_t readable_size(std::size_t size) {
+    constexpr std::uint32_t most = std::numeric_limits<std::int32_t>::max();
+    return size < most ? static_cast<std::uint32_t>(size) : most;
+}
+
 /// The size of a buffer for a frame with RA data, which frame_size() does not count: 9 bytes for each object, whose
 /// frame has at least 6 bytes. In a smaller buffer, state bytes at the end can be dropped without an error.
 inline std::size_t with_ra_data(std::size_t frame_size) {
@@ -696,12 +702,12 @@ public:
     /// allocate memory for them. Only frames of the reference runtime are tested: what another one encodes is its own.
     [[nodiscard]] static record from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         record fresh(c);
+        const std::uint32_t readable = detail::readable_size(size);
         if constexpr (R::owns_blocks) {
-            if (!detail::admitted(c, excess_of_record, R::parts, bytes, size)) return fresh;
+            if (!detail::admitted(c, excess_of_record, R::parts, bytes, readable)) return fresh;
         }
         // The C function only reads.
-        c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), static_cast<std::uint32_t>(size),
-               std::uint32_t{0});
+        c.call(R::unmarshal, const_cast<void *>(bytes), fresh.get(), readable, std::uint32_t{0});
         return fresh;
     }
     /// Creates a record from a frame. Of several frames in sequence, only the first one is read.
@@ -1169,12 +1175,12 @@ public:
     /// contain.
     [[nodiscard]] static message from_frame_with_guard(context &c, const void *bytes, std::size_t size) {
         typename M::native *native = nullptr;
+        const std::uint32_t readable = detail::readable_size(size);
         if constexpr (M::payload::owns_blocks) {
-            if (!detail::admitted(c, excess_of_message, M::payload::parts, bytes, size)) return {c, native};
+            if (!detail::admitted(c, excess_of_message, M::payload::parts, bytes, readable)) return {c, native};
         }
         std::uint32_t err = *c.slot();
-        M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), static_cast<std::uint32_t>(size),
-                          &err);
+        M::unmarshal_only(c.handle(), c.ctx_id(), &native, const_cast<void *>(bytes), readable, &err);
         message read(c, native);
         if (err != 0) c.fail(err);
         return read;

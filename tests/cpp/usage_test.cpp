@@ -260,6 +260,19 @@ TEST_F(CppUsageTracked, IndexesOfMoreThan32BitsAreOutOfRange) {
     EXPECT_EQ(classes.size(), 1u);
 }
 
+// Such a buffer, for example a mapped file, has many frames. Only the first one is read.
+TEST_F(CppUsage, TheFirstFrameOfABufferOfMoreThan32BitsIsRead) {
+    context c(handle);
+    dp_tc_list list(c);
+    list.tc_list().grow(2);
+    const debug_setting_msg message(c);
+    const frame of_record = list.to_frame(), of_message = message.to_frame();
+    for (const std::size_t size : {std::size_t{1} << 31, (std::size_t{1} << 32) + 3}) {
+        EXPECT_EQ(dp_tc_list::from_frame_with_guard(c, of_record.data(), size), list);
+        EXPECT_EQ(debug_setting_msg::from_frame_with_guard(c, of_message.data(), size).to_frame(), of_message);
+    }
+}
+
 TEST_F(CppUsage, MessagesAreAddedToOpenBundlesOnly) {
     context c(handle);
     const debug_setting_msg message(c);
