@@ -320,11 +320,13 @@ private:
     mirk_platform_server *native_ = nullptr;
 };
 
-/// Serves until SIGINT or SIGTERM. Errors are those of server.
-inline void serve(const std::string &address, answers known, const server_options &options = {}) {
+/// Serves until SIGINT or SIGTERM. Errors are those of server. Returns the error that is kept if options.mode is
+/// errors::kept.
+inline std::error_code serve(const std::string &address, answers known, const server_options &options = {}) {
     server one(address, std::move(known), options);
     one.stop_on_signals();
     one.run();
+    return one.error();
 }
 
 }  // namespace lumo_ui_tarn

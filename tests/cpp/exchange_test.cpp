@@ -169,6 +169,7 @@ TEST_F(Exchange, ErrorsOfConnectingHaveTheirNames) {
     EXPECT_EQ(second.address(), "");
     second.run();
     second.stop();
+    EXPECT_EQ(serve(address, {}, kept), std::errc::address_in_use);
 }
 
 TEST_F(Exchange, KeptErrorsAreKept) {
