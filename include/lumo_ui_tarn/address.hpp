@@ -40,8 +40,9 @@ struct address {
     std::uint16_t scope = 0;              ///< scope of the address
     std::array<std::uint32_t, 4> word{};  ///< the address, in host byte order; word[0] is the most significant
 
-    /// Reads the text that to_string() returns, such as "10.0.0.0/8", "fe80::1%2/64" or "unset". std::nullopt for any
-    /// other text, also for an address without a prefix length.
+    /// Reads text in the form of to_string(), such as "10.0.0.0/8", "fe80::1%2/64" or "unset". An IPv6 address can be
+    /// written in any way that inet_pton() reads. std::nullopt for other text, also for an address without a prefix
+    /// length. The length can be up to 255, as in the library.
     [[nodiscard]] static std::optional<address> parse(std::string_view text) {
         address value;
         if (text == "unset") return value;

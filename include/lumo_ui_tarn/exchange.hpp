@@ -42,9 +42,10 @@ namespace lumo_ui_tarn {
 /// A handle of the reference runtime. It must outlive the contexts and objects that use it.
 class handle {
 public:
-    /// Opens a handle with default options. Throws std::bad_alloc if allocation fails; programs without exceptions end.
+    /// Opens a handle with default options. Throws std::bad_alloc if allocation fails; calls std::abort() in programs
+    /// without exceptions.
     explicit handle(mirk_platform_tracking tracking = MIRK_PLATFORM_TRACKING_NONE) : handle(with(tracking)) {}
-    /// Opens a handle.
+    /// Opens a handle with these options. Errors as above.
     explicit handle(const mirk_platform_handle_options &options) : native_(mirk_platform_handle_open(&options)) {
         if (native_ != nullptr) return;
 #if defined(__cpp_exceptions)
@@ -154,8 +155,9 @@ private:
 /// the handle tracks state.
 /// - Errors of connecting, such as ENOENT, ECONNREFUSED and EADDRNOTAVAIL: see mirk_platform_client_open() and
 ///   mirk_platform_client_open_tcp().
-/// - ETIMEDOUT: the bundle is not complete within the timeout. ECONNRESET: the peer closed the connection before its
-/// end.
+/// - EINVAL: the address contains a NUL character.
+/// - ETIMEDOUT: the bundle is not complete within the timeout.
+/// - ECONNRESET, EPIPE: the peer closed the connection before the end of the bundle.
 /// - ECANCELED: the peer aborted the bundle.
 /// - The number that the peer chose: it refused the request.
 /// - Other errors are those of bundle_reader.

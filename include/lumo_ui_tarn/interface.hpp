@@ -15,6 +15,9 @@
 ///   copies no record, and a const dp_tc_ref can write.
 /// - dp_tc_view borrows a record to read it. Owners and references convert to views.
 ///
+/// Records that are copied or moved into another record or an array, and the payload of a message, must be on the
+/// handle of their destination, which takes over their arrays and strings.
+///
 /// Messages have the same three types. get() returns the C object, a pointer for functions that this header does not
 /// wrap; const owners and views return it as const. An owner that was moved from or released has no C object: get() is
 /// nullptr, its members read as zero, and functions that write it, copy it or convert it report ENOENT or EINVAL.
@@ -25,7 +28,7 @@
 ///
 /// Everything is inline. Reading or writing a scalar calls one C function, such as lumo_tarn_dp_tc_proto_get_value().
 /// Reading a string, writing an address, and copying or moving a nested record that owns arrays or strings take several
-/// calls.
+/// calls. Compile all units of a program with exceptions, or all without: the functions are not the same.
 #ifndef LUMO_UI_TARN_INTERFACE_HPP
 #define LUMO_UI_TARN_INTERFACE_HPP
 
@@ -1431,10 +1434,11 @@ public:
     /// - EBADMSG: the bytes are not a frame, a frame claims more elements or characters than it can contain, or a
     ///   message, a commit or an abort is outside a bundle.
     /// - EEXIST: a bundle starts inside a bundle. The earlier one is lost.
-    /// - ENOENT: a frame belongs to another bundle. What follows is skipped up to the next start.
+    /// - ENOENT: a frame belongs to another bundle.
     /// - EMSGSIZE: a frame or a bundle exceeds the limits, or a message is truncated.
     ///
-    /// Other errors are those of message::from_frame().
+    /// Other errors are those of message::from_frame(). After an error about a frame in the place of a message, the
+    /// frames up to the next start, commit or abort of this bundle are skipped without further errors.
     [[nodiscard]] std::optional<bundle> next() {
         while (const std::size_t size = size_of_frame()) {
             const std::uint8_t *at = bytes_.data() + read_;
