@@ -3,8 +3,8 @@
  *     answer_request SOCKET [LEVELS]
  *     tarn show cl-debug --socket SOCKET
  *
- * LEVELS are the enabled levels, such as "info,warn". Each answer is a bundle of one message with these levels.
- * Requests for other bundles are refused. The program runs until it is interrupted. */
+ * LEVELS are the enabled levels besides "error", such as "info,warn". Each answer is a bundle of one message with these
+ * levels. Requests for other bundles are refused. The program runs until it is interrupted. */
 #include <errno.h>
 #include <stdio.h>
 #include <string.h>

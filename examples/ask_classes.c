@@ -3,7 +3,8 @@
  *     tarn answer --socket SOCKET dp-tt-cfg=FILE &
  *     ask_classes SOCKET
  *
- * Messages are printed when the commit has arrived: a bundle that is aborted or cut does not count. */
+ * Messages are printed when the commit has arrived: a bundle that is aborted or cut does not count. Nor does one of 100
+ * messages or more. */
 #include <errno.h>
 #include <stdio.h>
 #include <string.h>
@@ -64,6 +65,7 @@ int main(int argc, char **argv) {
         err = receive(client, h, &messages[count], &ended);
         if (messages[count] != NULL) ++count;
     }
+    if (err == 0 && !ended) err = EMSGSIZE;
     for (int i = 0; i < count; ++i) {
         if (ended) print_classes(h, messages[i], &err);
         lumo_tarn_dp_tt_msg_message_destroy(h, 1, messages[i]);

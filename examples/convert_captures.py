@@ -15,7 +15,7 @@ target.mkdir(parents=True, exist_ok=True)
 failures = 0
 for capture in sorted(source.glob("*.bin")):
     try:
-        lines = [message.to_json() for message in lumo_tarn.messages(capture.read_bytes())]
+        lines = [message.to_json() for message in lumo_tarn.messages(capture)]
     except (OSError, ValueError) as error:
         print(f"{capture.name}: {error}", file=sys.stderr)
         failures += 1

@@ -3,7 +3,8 @@
 //     serve_bundle ADDRESS [LEVELS]
 //     tarn show cl-debug --socket ADDRESS
 //
-// ADDRESS is the path of a socket file, or HOST:PORT. LEVELS are the enabled levels, such as "info,warn".
+// ADDRESS is the path of a socket file, or HOST:PORT. LEVELS are the enabled levels besides "error", such as
+// "info,warn".
 #include <iostream>
 #include <lumo_ui_tarn/exchange.hpp>
 

@@ -95,6 +95,15 @@ def test_programs_that_ask(program: str, tmp_path: pathlib.Path):
         assert "No such file" in run(PROGRAMS / program, other, code=1)
 
 
+def test_ask_classes_reports_an_answer_of_more_messages_than_it_keeps(tmp_path: pathlib.Path):
+    write = "import lumo_tarn as t, sys; open(sys.argv[1], 'wb').write(t.bundle_frames('dp-tt-cfg', [t.DpTtMsg()] * %d))"
+    for count, code, words in ((99, 0, ""), (100, 1, "Message too long")):
+        frames, socket = tmp_path / f"{count}.bin", tmp_path / str(count)
+        run(sys.executable, "-c", write % count, frames)
+        with Background(TOOL, "answer", "--socket", socket, f"dp-tt-cfg={frames}"):
+            assert words in run(PROGRAMS / "ask_classes", socket, code=code)
+
+
 def test_write_bundle(tmp_path: pathlib.Path):
     file = tmp_path / "answer.bin"
     assert run(PROGRAMS / "write_bundle", file) == ""

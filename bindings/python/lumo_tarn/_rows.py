@@ -167,8 +167,9 @@ def rows(
 
         pandas.DataFrame(lumo_tarn.rows("answer.bin", "tc", columns=["id", "src_prefix", "appl.id"]))
 
-    source is what items_of() accepts. record is a class, such as DpTc, or a name, such as "dp-tc" or "tc"; a message
-    stands for its payload. columns are all columns by default, in this order:
+    source is what frames() takes, a message, or an iterable of messages and control messages. record is a class, such as
+    DpTc, or a name, such as "dp-tc" or "tc"; a message stands for its payload. columns are all columns by default, in this
+    order:
 
     - message: the number of the message in the source, from 1
     - bundle: the name of the bundle that contains it, or None
