@@ -86,7 +86,7 @@ assert lumo_tarn.DpQueue.__doc__.startswith("one packet queue")
 FILES = [
     ("include/lumo_ui_tarn.h", "#include <lumo_ui_tarn/records/lumo_tarn_dp_queue.h>\n"),
     ("include/lumo_ui_tarn/records/lumo_tarn_dp_queue.h", "lumo_tarn_dp_queue_packets_set_value("),
-    ("include/lumo_ui_tarn.hpp", "lumo_tarn_dp_queue: one packet queue.\n"),
+    ("include/lumo_ui_tarn.hpp", "/// One packet queue. C type: lumo_tarn_dp_queue.\n"),
     ("tests/golden/exports.txt", "T lumo_tarn_dp_queue_create\n"),
     ("tests/golden/layout.txt", "lumo_tarn_dp_queue"),
     ("build/dev/bindings/python/lumo_tarn/records.pyi", "class DpQueue("),
