@@ -551,6 +551,16 @@ def test_members_of_64_bits_are_text_in_json_and_numbers_in_dictionaries():
         prefix.id = "seventeen"
 
 
+def test_text_that_is_not_utf_8_is_the_same_json_as_that_of_the_tool(tmp_path):
+    data = lumo_tarn.ClApplData(kesh_appl=[{"proto_name": "a\udcff", "sub_proto_name": "b\u00e9"}])
+    message, file = lumo_tarn.ClApplMsg(data), tmp_path / "message.json"
+    file.write_text(message.to_json())
+    assert json.loads(message.to_json()) == json_lines(tool("decode", "--json", given=message.to_frame()))[0]
+    assert tool("encode", str(file)) == message.to_frame()
+    assert lumo_tarn.ClApplData(**json.loads(message.to_json())["payload"]) == data
+    assert data.to_dict()["kesh_appl"][0]["proto_name"] == "a\udcff"
+
+
 def test_bundles_equal_those_of_the_tool():
     for bundle, message in _schema.BUNDLES.items():
         kind = next(one for one in MESSAGES if one.message_name == message)

@@ -111,10 +111,11 @@ class Record(Native):
             name = name if name in self.members else f"{name}_"  # a keyword, or a name of all records
             if name not in self.members:
                 raise AttributeError(f"{type(self).__name__} has no member {name.rstrip('_')}")
-            if isinstance(value, Mapping):
-                getattr(self, name).set(**value)
-            elif isinstance(getattr(self, name), Array):
-                getattr(self, name)[:] = value
+            present = getattr(self, name)
+            if isinstance(value, Mapping) and isinstance(present, Record):
+                present.set(**value)
+            elif isinstance(present, Array):
+                present[:] = value
             else:
                 setattr(self, name, value)
         return self
@@ -130,8 +131,9 @@ class Record(Native):
         return self._values()
 
     def to_json(self) -> str:
-        """Returns JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are text, which
-        the constructor and assignments accept. What has no body is null, or the error of to_dict()."""
+        """Returns JSON, as in the output of "tarn decode --json" without state bytes. Members of 64 bits are text, and text
+        that is not UTF-8 is {"bytes": HEX}; the constructor and assignments accept both. What has no body is null, or the
+        error of to_dict()."""
         return json.dumps(self._values(as_json=True))
 
     def _values(self, as_json: bool = False) -> dict[str, Any]:

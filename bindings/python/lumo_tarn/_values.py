@@ -23,7 +23,7 @@ _ADDRESS = struct.Struct("=b2xBBxH4I")  # from the variant on
 
 
 class Plan:
-    """How to read a record. The values are those of Record.to_dict(); with as_json, numbers of 64 bits are text. With
+    """How to read a record. The values are those of Record.to_dict(), with as_json those of Record.to_json(). With
     is_lazy, the elements of an array are read one by one while it is iterated over, so they must not have moved."""
 
     def __init__(self, record: str, wanted: Wanted = None, as_json: bool = False, is_lazy: bool = False) -> None:
@@ -78,7 +78,8 @@ class Plan:
             self._field(*counted)
             self._field(offset, "Q")
             if kind == "string":
-                return lambda values: _text(next(values), next(values))
+                text = _json_text if self._as_json else _text
+                return lambda values: text(next(values), next(values))
             array = Plan(of, wanted, self._as_json, self._is_lazy)._array
             return lambda values: array(next(values), next(values))
         if kind == "address":
@@ -117,11 +118,23 @@ def _address(raw: bytes) -> Any:
     return text_of(af, prefix_len, scope, word) if variant >= 0 else None
 
 
-def _text(size: int, characters: int) -> str:
+def _bytes(size: int, characters: int) -> bytes:
     if size == 0 or characters == 0:
-        return ""
+        return b""
     text: bytes = ffi.buffer(ffi.cast("char *", characters), size)[:]
-    return text.decode(errors="surrogateescape")
+    return text
+
+
+def _text(size: int, characters: int) -> str:
+    return _bytes(size, characters).decode(errors="surrogateescape")
+
+
+def _json_text(size: int, characters: int) -> str | dict[str, str]:
+    text = _bytes(size, characters)
+    try:
+        return text.decode()
+    except UnicodeDecodeError:
+        return {"bytes": text.hex()}
 
 
 @functools.lru_cache(maxsize=None)

@@ -3,7 +3,7 @@
 from __future__ import annotations
 
 import enum
-from typing import Any
+from typing import Any, Mapping
 
 from . import _schema
 from ._address import AddressLike
@@ -103,8 +103,9 @@ class StringMember(Member):
         text: bytes = ffi.string(buffer)
         return text.decode(errors="surrogateescape")
 
-    def write(self, record: Record, value: str) -> None:
-        text = value.encode(errors="surrogateescape")
+    def write(self, record: Record, value: Any) -> None:
+        is_json = isinstance(value, Mapping)  # what is not UTF-8
+        text = bytes.fromhex(value["bytes"]) if is_json else value.encode(errors="surrogateescape")
         if b"\0" in text:  # the C function would store what precedes it
             raise ValueError(f"{self.name} cannot contain a NUL character")
         if len(text) > self.most:
