@@ -59,6 +59,12 @@ namespace detail {
 /// @cond helpers
 inline constexpr std::size_t message_head_size = 43;  // of the frame of a message: header and identity
 
+// The C functions read frames from at most so many bytes. A cast would take a larger buffer for a small one.
+inline constexpr std::uint32_t max_readable_size = 0x7FFFFFFF;
+inline std::uint32_t readable_size(std::size_t size) {
+    return size < max_readable_size ? static_cast<std::uint32_t>(size) : max_readable_size;
+}
+
 // Follows a frame as T_unmarshal does, also where jumps lead out of a record or back, so that both see the same counts.
 // Where the C function sets an error, it reads no further count: the walk ends.
 class frame_walk {
@@ -69,7 +75,7 @@ public:
 
     // Returns the number of bytes that the record takes, which may be more than there are.
     std::uint32_t record(const frame_part *part, const std::uint8_t *at, std::uint32_t size) {
-        if (size < 2 || size > max_size) return end();
+        if (size < 2 || size > max_readable_size) return end();
         std::uint32_t offset = 2;
         if ((at[1] & has_ra_data) != 0) offset += ra_data_size;
         const std::uint32_t jump_base = offset;
@@ -99,7 +105,7 @@ public:
 
 private:
     static constexpr std::uint8_t has_states = 8, has_ra_data = 32;
-    static constexpr std::uint32_t ra_data_size = 9, least_record = 6, max_size = 0x7FFFFFFF;
+    static constexpr std::uint32_t ra_data_size = 9, least_record = 6;
 
     // The C functions compare offsets as signed numbers.
     static bool is_less(std::uint32_t a, std::uint32_t b) {
@@ -151,7 +157,7 @@ private:
 /// Tests the frame of a record, which need not have a guard byte. tracks is true if the handle that will read it tracks
 /// state.
 inline frame_excess excess_of_record(const frame_part *parts, const void *frame, std::size_t size, bool tracks) {
-    const auto length = static_cast<std::uint32_t>(size);
+    const std::uint32_t length = detail::readable_size(size);
     detail::frame_walk walk(length, tracks);
     walk.record(parts, static_cast<const std::uint8_t *>(frame), length);
     return walk.excess();

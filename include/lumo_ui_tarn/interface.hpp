@@ -266,12 +266,6 @@ namespace detail {
 /// @cond helpers
 inline constexpr std::size_t max_buffer_size = std::size_t{1} << 30;
 
-/// The C functions read frames from at most so many bytes. A cast would take a larger buffer for a small one.
-inline std::uint32_t readable_size(std::size_t size) {
-    constexpr std::uint32_t most = std::numeric_limits<std::int32_t>::max();
-    return size < most ? static_cast<std::uint32_t>(size) : most;
-}
-
 /// The size of a buffer for a frame with RA data, which frame_size() does not count: 9 bytes for each object, whose
 /// frame has at least 6 bytes. In a smaller buffer, state bytes at the end can be dropped without an error.
 inline std::size_t with_ra_data(std::size_t frame_size) {

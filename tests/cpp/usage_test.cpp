@@ -267,7 +267,9 @@ TEST_F(CppUsage, TheFirstFrameOfABufferOfMoreThan32BitsIsRead) {
     list.tc_list().grow(2);
     const debug_setting_msg message(c);
     const frame of_record = list.to_frame(), of_message = message.to_frame();
+    const std::uint8_t claims_too_much[] = {0, 0, 0, 0, 0, 8, 0xFF, 0xFF, 0xFF, 0xFF};
     for (const std::size_t size : {std::size_t{1} << 31, (std::size_t{1} << 32) + 3}) {
+        EXPECT_TRUE(excess_of_record(dp_tc_list_type::parts, claims_too_much, size, false));
         EXPECT_EQ(dp_tc_list::from_frame_with_guard(c, of_record.data(), size), list);
         EXPECT_EQ(debug_setting_msg::from_frame_with_guard(c, of_message.data(), size).to_frame(), of_message);
     }
