@@ -274,12 +274,12 @@ def test_other_threads_run_while_one_asks_and_one_answers(path):
 
 def test_peers_that_send_something_else_are_disconnected(path, caplog):
     caplog.set_level(logging.INFO, "lumo_tarn")
-    with lumo_tarn.serve(path, {"cl-debug": lambda request: levels(1)}):
+    with lumo_tarn.serve(path, {"cl-debug": lambda request: levels(1)}, frame_time=2.0):
         for garbage in (b"garbage" * 10, levels(1)[0].to_frame(), refusal(1, b""), b"\xbc" + bytes(26), bytes(1000)):
             peer = socket.socket(socket.AF_UNIX)
             peer.connect(str(path))
             peer.sendall(garbage)
-            peer.settimeout(10)
+            peer.settimeout(60)
             with contextlib.suppress(ConnectionResetError):
                 while peer.recv(1000):
                     pass
