@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iostream>
 #include <lumo_ui_tarn/exchange.hpp>
+#include <stdexcept>
+#include <string>
 
 using namespace lumo_ui_tarn;
 
@@ -24,8 +26,8 @@ int main(int argc, char **argv) try {
 
     const frame frames = bundle_writer<dp_tt_cfg_rsp>(c).add(message).commit().frames();
     std::ofstream file(argv[1], std::ios::binary);
-    file.exceptions(std::ios::failbit | std::ios::badbit);
-    file.write(reinterpret_cast<const char *>(frames.data()), static_cast<std::streamsize>(frames.size())).flush();
+    if (!file.write(reinterpret_cast<const char *>(frames.data()), static_cast<std::streamsize>(frames.size())).flush())
+        throw std::runtime_error(std::string("cannot write ") + argv[1]);
 } catch (const std::exception &error) {
     std::cerr << error.what() << "\n";
     return 1;

@@ -277,7 +277,7 @@ inline std::size_t with_ra_data(std::size_t frame_size) {
 template <class Buffer, class Write>
 Buffer grown(context &c, std::size_t guess, typename Buffer::value_type filler, Write write) {
     if (!c.ok()) return {};
-    for (std::size_t size = guess;; size *= 4) {
+    for (std::size_t size = std::min(guess, max_buffer_size);; size = std::min(4 * size, max_buffer_size)) {
         Buffer buffer(size + 1, filler);
         std::uint32_t err = 0;
         const std::uint32_t written = write(buffer.data(), size, &err);

@@ -44,7 +44,9 @@ private:
             std::size_t bytes = 0;
         } tables[2];
         for (; dynamic != nullptr && dynamic->d_tag != DT_NULL; ++dynamic) {
-            const auto address = dynamic->d_un.d_ptr;
+            // On some processors, such as riscv64, the loader leaves the addresses relative to the library.
+            auto address = dynamic->d_un.d_ptr;
+            if (address < info->dlpi_addr) address += info->dlpi_addr;
             switch (dynamic->d_tag) {
                 case DT_SYMTAB:
                     symbols = reinterpret_cast<const ElfW(Sym) *>(address);

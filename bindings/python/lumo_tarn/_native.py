@@ -147,13 +147,13 @@ class Handle:
     def grown(self, guess: int, write: Callable[[Any, int, Any], Any]) -> bytes:
         """Returns what write(buffer, size, err) writes. Retries with a larger buffer if it is too small. The buffer has
         a guard byte after the size that is passed."""
-        size = guess
+        size = min(guess, _MAX_BUFFER_SIZE)
         while True:
             buffer = ffi.new("char[]", b" " * size)  # the guard byte is the NUL that cffi appends
             err = ffi.new("uint32_t *")
             written = write(buffer, size, err)
             if err[0] in _BUFFER_TOO_SMALL and size < _MAX_BUFFER_SIZE:
-                size *= 4
+                size = min(4 * size, _MAX_BUFFER_SIZE)
                 continue
             if err[0] != 0:
                 raise OSError(err[0], os.strerror(err[0]))
