@@ -59,8 +59,6 @@ std::unique_ptr<soci::session> session_to(const std::string &where, Access acces
     return std::make_unique<soci::session>(soci::sqlite3, "db=\"" + where + "\" timeout=10");
 }
 
-constexpr char hex_digits[] = "0123456789abcdef";
-
 unsigned value_of(char digit) {
     return static_cast<unsigned>(digit <= '9' ? digit - '0' : (digit | 0x20) - 'a' + 10) & 0xF;
 }
@@ -149,23 +147,6 @@ bool Database::has_table(const std::string &name) {
     return found != 0;
 }
 
-std::string Database::bound(std::string_view bytes) const {
-    if (engine_ == Engine::sqlite) return std::string(bytes);
-    std::string text;
-    text.reserve(2 + 2 * bytes.size());
-    text = "\\x";
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        text += hex_digits[byte >> 4];
-        text += hex_digits[byte & 0xF];
-    }
-    return text;
-}
-
-std::string Database::cast(const std::string &parameter) const {
-    return "CAST(" + parameter + " AS " + std::string(either("BLOB", "BYTEA")) + ")";
-}
-
 std::string Database::bytes_of(std::string stored) const {
     if (engine_ == Engine::sqlite) return stored;
     std::string bytes;
@@ -184,69 +165,6 @@ std::string Database::frames(std::int64_t answer) {
         throw Failure(Exit::environment, shown_ + ": no frames of answer " + std::to_string(answer));
     }
     return bytes_of(std::move(stored));
-}
-
-Insertion &Insertion::text(std::string_view value) {
-    waiting_.push_back({.text = std::string(value)});
-    return *this;
-}
-
-Insertion &Insertion::bytes(std::string_view value) {
-    waiting_.push_back({.text = database_.bound(value)});
-    return *this;
-}
-
-Insertion &Insertion::integer(std::int64_t value) {
-    waiting_.push_back({.number = value});
-    return *this;
-}
-
-Insertion &Insertion::null() {
-    waiting_.push_back({.indicator = soci::i_null});
-    return *this;
-}
-
-Insertion::Prepared &Insertion::prepared(std::size_t size_class) {
-    Prepared &prepared = prepared_[size_class];
-    if (prepared.statement != nullptr) return prepared;
-    auto statement = std::make_unique<soci::statement>(database_.session());
-    std::string sql = head_;
-    std::size_t number = 0;
-    for (std::size_t row = 0; row < sizes[size_class]; ++row) {
-        sql += row == 0 ? " (" : ", (";
-        for (std::size_t column = 0; column < kinds_.size(); ++column, ++number) {
-            const std::string name = "p" + std::to_string(number);
-            Cell &cell = prepared.cells.emplace_back();
-            sql += column == 0 ? "" : ", ";
-            sql += kinds_[column] == 'b' ? database_.cast(":" + name) : ":" + name;
-            if (kinds_[column] == 'i') {
-                statement->exchange(soci::use(cell.number, cell.indicator, name));
-            } else {
-                statement->exchange(soci::use(cell.text, cell.indicator, name));
-            }
-        }
-        sql += ")";
-    }
-    statement->alloc();
-    statement->prepare(sql + " " + tail_);
-    statement->define_and_bind();
-    prepared.statement = std::move(statement);
-    return prepared;
-}
-
-void Insertion::flush() {
-    std::size_t done = 0;
-    for (std::size_t size_class = 0; done < waiting_.size();) {
-        const std::size_t cells = sizes[size_class] * kinds_.size();
-        if (waiting_.size() - done < cells) {
-            ++size_class;
-            continue;
-        }
-        Prepared &statement = prepared(size_class);
-        for (Cell &cell : statement.cells) std::swap(cell, waiting_[done++]);
-        statement.statement->execute(true);
-    }
-    waiting_.clear();
 }
 
 }  // namespace tarn::fleet

@@ -5,12 +5,10 @@
 #include <soci/soci.h>
 
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tarn::fleet {
 
@@ -52,10 +50,6 @@ public:
     void run_all(std::string_view sql);
     bool has_table(const std::string &name);
 
-    // How bytes are bound: SQLite takes them as they are, PostgreSQL as hexadecimal text. `cast` is around the
-    // parameter.
-    std::string bound(std::string_view bytes) const;
-    std::string cast(const std::string &parameter) const;
     std::string bytes_of(std::string stored) const;  // what a column with bytes returns as text
 
     // The frames of an answer that is there.
@@ -67,45 +61,6 @@ private:
     Engine engine_;
     std::string shown_;
     std::unique_ptr<soci::session> session_;
-};
-
-// Rows for one statement "INSERT ... VALUES ROWS ...": many with each execution, since each is a message to the server
-// and back.
-class Insertion {
-public:
-    // The kinds of the columns: t for text, b for bytes, i for an integer.
-    Insertion(Database &database, std::string head, std::string_view kinds, std::string tail)
-        : database_(database), head_(std::move(head)), kinds_(kinds), tail_(std::move(tail)) {}
-
-    Insertion &text(std::string_view value);
-    Insertion &bytes(std::string_view value);
-    Insertion &integer(std::int64_t value);
-    Insertion &null();
-
-    std::size_t rows() const { return waiting_.size() / kinds_.size(); }
-    // Executes the statement for the rows that have been added.
-    void flush();
-    void clear() { waiting_.clear(); }
-
-private:
-    struct Cell {
-        std::string text = {};
-        long long number = 0;
-        soci::indicator indicator = soci::i_ok;
-    };
-    // A statement for a number of rows, with the variables that it is bound to.
-    struct Prepared {
-        std::deque<Cell> cells;
-        std::unique_ptr<soci::statement> statement;
-    };
-    Prepared &prepared(std::size_t size_class);
-
-    static constexpr std::size_t sizes[] = {64, 8, 1};
-
-    Database &database_;
-    const std::string head_, kinds_, tail_;
-    Prepared prepared_[std::size(sizes)];
-    std::vector<Cell> waiting_;
 };
 
 }  // namespace tarn::fleet

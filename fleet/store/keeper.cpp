@@ -2,10 +2,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <deque>
 #include <random>
-#include <set>
+#include <unordered_map>
 #include <utility>
 
+#include "fleet/store/batch.h"
 #include "fleet/store/database.h"
 #include "fleet/store/layout.h"
 #include "fleet/store/store.h"
@@ -72,39 +74,67 @@ long long count(Database &database, const std::string &sql) {
 
 struct Keeper::Statements {
     explicit Statements(Database &database)
-        : contents(database, "INSERT INTO contents (answer_id, frames) VALUES", "ib", ""),
-          pairs(database, "INSERT INTO device_bundles (device_id, bundle, answer_id) VALUES", "iti",
-                "ON CONFLICT (device_id, bundle) DO UPDATE SET "
-                "answer_id = coalesce(excluded.answer_id, device_bundles.answer_id)"),
-          answers(database,
-                  "INSERT INTO answers (answer_id, device_id, bundle, number, previous, digest, size, asked, "
-                  "first_seen, last_asked, last_seen, times) VALUES",
-                  "iitiitiiiiii",
-                  "ON CONFLICT (answer_id) DO UPDATE SET last_asked = excluded.last_asked, "
-                  "last_seen = excluded.last_seen, times = answers.times + 1"),
+        : contents(Batch::insertion(database, "contents (answer_id, frames)", 2)),
+          answers(Batch::insertion(database,
+                                   "answers (answer_id, device_id, bundle, number, previous, digest, size, asked, "
+                                   "first_seen, last_asked, last_seen, times)",
+                                   12)),
+          // SQLite takes much longer for the other form.
+          spans(Batch::change(
+              database,
+              std::string(database.either("UPDATE answers SET last_asked = ?2, last_seen = ?3, times = times + ?4 "
+                                          "WHERE answer_id = ?1",
+                                          "UPDATE answers SET last_asked = r.asked, last_seen = r.seen, "
+                                          "times = answers.times + r.times FROM (ROWS) AS r(id, asked, seen, times) "
+                                          "WHERE answer_id = r.id")),
+              "iiii")),
+          pairs(Batch::change(database,
+                              "INSERT INTO device_bundles (device_id, bundle, answer_id) ROWS "
+                              "ON CONFLICT (device_id, bundle) DO UPDATE SET "
+                              "answer_id = coalesce(excluded.answer_id, device_bundles.answer_id)",
+                              "iti")),
           // What ends a gap is no request that was not answered.
-          gaps(database,
-               "INSERT INTO gaps (device_id, bundle, number, began, last_asked, ended, reason, requests) VALUES",
-               "itiiiiti",
-               "ON CONFLICT (device_id, bundle, number) DO UPDATE SET ended = excluded.ended, "
-               "last_asked = CASE WHEN excluded.requests = 0 THEN gaps.last_asked ELSE excluded.last_asked END, "
-               "reason = CASE WHEN excluded.requests = 0 THEN gaps.reason ELSE excluded.reason END, "
-               "requests = gaps.requests + excluded.requests") {}
+          gaps(Batch::change(
+              database,
+              "INSERT INTO gaps (device_id, bundle, number, began, last_asked, ended, reason, requests) "
+              "ROWS ON CONFLICT (device_id, bundle, number) DO UPDATE SET "
+              "ended = excluded.ended, "
+              "last_asked = CASE WHEN excluded.requests = 0 THEN gaps.last_asked ELSE excluded.last_asked END, "
+              "reason = CASE WHEN excluded.requests = 0 THEN gaps.reason ELSE excluded.reason END, "
+              "requests = gaps.requests + excluded.requests",
+              "itiiiiti")) {}
 
-    void flush_spans() {
-        pairs.flush();
-        answers.flush();
-        gaps.flush();
-    }
     void flush() {
-        contents.flush();
-        flush_spans();
+        for (Batch *batch : all()) batch->flush();
     }
     void clear() {
-        for (Insertion *insertion : {&contents, &pairs, &answers, &gaps}) insertion->clear();
+        for (Batch *batch : all()) batch->clear();
     }
 
-    Insertion contents, pairs, answers, gaps;
+    std::unique_ptr<Batch> contents, answers, spans, pairs, gaps;
+
+private:
+    std::vector<Batch *> all() const { return {contents.get(), answers.get(), spans.get(), pairs.get(), gaps.get()}; }
+};
+
+// What outcomes do to the last span and the last gap of a device and bundle, so that each row is written once.
+struct Keeper::Change {
+    std::int64_t device;
+    std::string bundle;
+    bool is_first;  // of this bundle
+    State state;    // after it
+    struct Span {
+        std::int64_t id = 0;
+        bool is_new = false;  // the members before the times of the last request matter
+        std::int64_t number = 0, previous = 0, size = 0;
+        std::string digest = {};
+        Time asked = 0, first_seen = 0;
+        Time last_asked = 0, last_seen = 0;
+        std::int64_t times = 0;
+    };
+    std::optional<Span> span = {};
+    std::optional<Gap> gap = {};
+    bool has_new_answer = false;
 };
 
 Keeper::Keeper(const std::string &where, Time lease, Time patience)
@@ -155,10 +185,12 @@ void Keeper::add_devices(std::span<const std::pair<std::string, std::string>> de
         }
         long long last = count(*database_, "SELECT coalesce(max(device_id), 0) FROM devices");
         const Time now = time_now();
-        Insertion rows(*database_, "INSERT INTO devices (device_id, device, site, added) VALUES", "itti",
-                       "ON CONFLICT (device) DO UPDATE SET site = excluded.site");
-        for (const auto &[device, site] : added) rows.integer(++last).text(device).text(site).integer(now);
-        rows.flush();
+        const auto rows = Batch::change(*database_,
+                                        "INSERT INTO devices (device_id, device, site, added) ROWS "
+                                        "ON CONFLICT (device) DO UPDATE SET site = excluded.site",
+                                        "itti");
+        for (const auto &[device, site] : added) rows->integer(++last).text(device).text(site).integer(now);
+        rows->flush();
     });
     for (auto &[device, site] : added) known_sites_[device] = site;
 }
@@ -235,11 +267,11 @@ std::vector<std::string> Keeper::devices() const {
 Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
     State state;
     std::int64_t gap = 0, began = 0;
-    database_->session() << "SELECT a.answer_id, coalesce(a.previous, 0), a.number, a.digest, a.last_seen FROM "
-                            "device_bundles p JOIN answers a ON a.answer_id = p.answer_id WHERE p.device_id = :device "
+    database_->session() << "SELECT a.answer_id, a.number, a.last_seen FROM device_bundles p JOIN answers a ON "
+                            "a.answer_id = p.answer_id WHERE p.device_id = :device "
                             "AND p.bundle = :bundle",
-        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.previous),
-        soci::into(state.number), soci::into(state.digest), soci::into(state.last_seen);
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.number),
+        soci::into(state.last_seen);
     database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END FROM gaps WHERE "
                             "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
@@ -248,7 +280,7 @@ Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle)
     state.number = std::max(state.number, gap);
     if (began != 0) {
         state.gap_began = began;
-    } else if (is_last && !state.digest.empty()) {
+    } else if (is_last && state.id != 0) {
         state.same = sha256_without_stamps(database_->frames(state.id));
     }
     return state;
@@ -289,48 +321,90 @@ void Keeper::require_ids(std::size_t count) {
     last_id_ = end - size;
 }
 
-void Keeper::add_answer(std::int64_t device, const Outcome &outcome, State &state) {
+void Keeper::write_span(Change &change) {
+    if (!change.span) return;
+    const Change::Span &a = *change.span;
+    if (a.is_new) {
+        Batch &row = *statements_->answers;
+        row.integer(a.id).integer(change.device).text(change.bundle).integer(a.number);
+        a.previous != 0 ? row.integer(a.previous) : row.null();
+        row.text(a.digest).integer(a.size).integer(a.asked).integer(a.first_seen);
+        row.integer(a.last_asked).integer(a.last_seen).integer(a.times);
+    } else {
+        statements_->spans->integer(a.id).integer(a.last_asked).integer(a.last_seen).integer(a.times);
+    }
+    change.span.reset();
+}
+
+void Keeper::write_gap(Change &change) {
+    if (!change.gap) return;
+    const Gap &g = *change.gap;
+    Batch &row = *statements_->gaps;
+    row.integer(change.device).text(change.bundle).integer(g.number).integer(g.began).integer(g.last_asked);
+    g.ended ? row.integer(*g.ended) : row.null();
+    row.text(g.reason).integer(g.requests);
+    change.gap.reset();
+}
+
+Gap &Keeper::gap_of(Change &change, Time began, Time asked) {
+    if (change.gap && change.gap->ended) write_gap(change);
+    if (!change.gap) change.gap = Gap{{}, {}, change.state.number, began, asked, {}, "not requested", 0};
+    return *change.gap;
+}
+
+void Keeper::add_answer(const Outcome &outcome, Change &change) {
+    State &state = change.state;
     std::string same = sha256_without_stamps(outcome.frames);
     const bool was_pause = patience_ != 0 && state.last_seen != 0 && outcome.asked - state.last_seen > patience_;
     if (state.gap_began || was_pause) {
-        statements_->gaps.integer(device).text(outcome.bundle).integer(state.number);
-        statements_->gaps.integer(state.gap_began.value_or(state.last_seen)).integer(outcome.asked);
-        statements_->gaps.integer(outcome.ended).text("not requested").integer(0);
+        gap_of(change, state.gap_began.value_or(state.last_seen), outcome.asked).ended = outcome.ended;
         state.same.clear();
         state.gap_began.reset();
     }
     if (state.same != same) {
+        write_span(change);
+        const std::int64_t previous = std::exchange(state.id, ++last_id_);
         ++state.number;
-        state.previous = std::exchange(state.id, ++last_id_);
         state.same = std::move(same);
-        state.digest = sha256(outcome.frames);
-        statements_->contents.integer(state.id).bytes(outcome.frames);
-        statements_->pairs.integer(device).text(outcome.bundle).integer(state.id);
+        change.has_new_answer = true;
+        change.span = {.id = state.id,
+                       .is_new = true,
+                       .number = state.number,
+                       .previous = previous,
+                       .size = static_cast<std::int64_t>(outcome.frames.size()),
+                       .digest = sha256(outcome.frames),
+                       .asked = outcome.asked,
+                       .first_seen = outcome.ended};
+        statements_->contents->integer(state.id).bytes(outcome.frames);
     }
-    state.last_seen = outcome.ended;
-    statements_->answers.integer(state.id).integer(device).text(outcome.bundle).integer(state.number);
-    state.previous != 0 ? statements_->answers.integer(state.previous) : statements_->answers.null();
-    statements_->answers.text(state.digest).integer(static_cast<std::int64_t>(outcome.frames.size()));
-    statements_->answers.integer(outcome.asked).integer(outcome.ended);
-    statements_->answers.integer(outcome.asked).integer(outcome.ended).integer(1);
+    if (!change.span) change.span = {.id = state.id};
+    change.span->last_asked = outcome.asked;
+    change.span->last_seen = state.last_seen = outcome.ended;
+    ++change.span->times;
 }
 
-void Keeper::add_silence(std::int64_t device, const Outcome &outcome, State &state) {
-    if (state.number == 0 && !state.gap_began) statements_->pairs.integer(device).text(outcome.bundle).null();
+void Keeper::add_silence(const Outcome &outcome, Change &change) {
+    State &state = change.state;
     // The device may have been silent since its last answer.
     if (!state.gap_began) state.gap_began = outcome.asked;
     state.same.clear();
-    statements_->gaps.integer(device).text(outcome.bundle).integer(state.number).integer(*state.gap_began);
-    statements_->gaps.integer(outcome.asked).null().text(tool::printable(outcome.reason)).integer(1);
+    Gap &gap = gap_of(change, *state.gap_began, outcome.asked);
+    gap.last_asked = outcome.asked;
+    gap.reason = tool::printable(outcome.reason);
+    ++gap.requests;
 }
 
-void Keeper::add(std::int64_t device, const Outcome &outcome, State &state) {
-    outcome.frames.empty() ? add_silence(device, outcome, state) : add_answer(device, outcome, state);
+void Keeper::write(Change &change) {
+    write_span(change);
+    write_gap(change);
+    if (!change.has_new_answer && !change.is_first) return;
+    Batch &row = statements_->pairs->integer(change.device).text(change.bundle);
+    change.has_new_answer ? row.integer(change.state.id) : row.null();
 }
 
 std::size_t Keeper::put(std::span<const Outcome> outcomes) {
-    std::map<State *, State> changed;
-    std::set<const State *> waiting;  // two rows of one span cannot be in one statement
+    std::deque<Change> changes;
+    std::unordered_map<State *, Change *> changed;
     std::size_t stored = 0;
     statements_->clear();
     require_ids(outcomes.size());
@@ -340,16 +414,18 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
             const auto owned = owned_.find(outcome.device);
             if (owned == owned_.end()) continue;
             State &state = state_of(owned->second, outcome.bundle);
-            if (!waiting.insert(&state).second) {
-                statements_->flush_spans();
-                waiting = {&state};
+            Change *&change = changed[&state];
+            if (change == nullptr) {
+                const bool is_first = state.number == 0 && !state.gap_began;
+                change = &changes.emplace_back(Change{owned->second.id, std::string(outcome.bundle), is_first, state});
             }
-            add(owned->second.id, outcome, changed.try_emplace(&state, state).first->second);
+            outcome.frames.empty() ? add_silence(outcome, *change) : add_answer(outcome, *change);
             ++stored;
         }
+        for (Change &change : changes) write(change);
         statements_->flush();
     });
-    for (auto &[state, after] : changed) *state = std::move(after);
+    for (const auto &[state, change] : changed) *state = std::move(change->state);
     return stored;
 }
 

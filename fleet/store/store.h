@@ -127,12 +127,12 @@ public:
 private:
     // The last span of a device and bundle, as the next outcome continues it.
     struct State {
-        std::int64_t id = 0, previous = 0, number = 0;  // of the answer
-        std::string digest;               // of the frames
+        std::int64_t id = 0, number = 0;  // of the answer
         std::string same;                 // what the next answer must have in common to be the same; empty in a gap
         Time last_seen = 0;
         std::optional<Time> gap_began;
     };
+    struct Change;
     struct Statements;
 
     struct Owned {
@@ -145,9 +145,12 @@ private:
     State &state_of(Owned &owned, std::string_view bundle);
     void require_lease();
     void require_ids(std::size_t count);
-    void add(std::int64_t device, const Outcome &outcome, State &state);
-    void add_answer(std::int64_t device, const Outcome &outcome, State &state);
-    void add_silence(std::int64_t device, const Outcome &outcome, State &state);
+    void add_answer(const Outcome &outcome, Change &change);
+    void add_silence(const Outcome &outcome, Change &change);
+    Gap &gap_of(Change &change, Time began, Time asked);
+    void write_span(Change &change);
+    void write_gap(Change &change);
+    void write(Change &change);
     void lose();
 
     const std::string where_;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "bus.h"
+#include "fleet/store/batch.h"
 #include "fleet/store/database.h"
 #include "fleet/store/store.h"
 #include "postgresql.h"
@@ -65,12 +66,14 @@ double rate_of_engine(const std::string &where, int batch) {
     });
     double result = 0;
     {
-        Insertion rows(database, "INSERT INTO bare VALUES", "itib", "");
+        const auto rows = Batch::insertion(database, "bare", 4);
         result = rate(batch, [&](int first) {
-            for (int i = 0; i < batch; ++i) {
-                rows.integer((first + i) % devices).text(bundle).integer(first).bytes(random_frames());
-            }
-            database.transact([&] { rows.flush(); });
+            database.transact([&] {
+                for (int i = 0; i < batch; ++i) {
+                    rows->integer((first + i) % devices).text(bundle).integer(first).bytes(random_frames());
+                }
+                rows->flush();
+            });
         });
     }
     database.transact([&] { database.run("DROP TABLE bare"); });
