@@ -5,6 +5,7 @@
 #include <soci/sqlite3/soci-sqlite3.h>
 
 #include <algorithm>
+#include <atomic>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -200,8 +201,13 @@ public:
         if (values_ == 0) return;
         std::vector<const char *> parameters;
         for (std::string &array : arrays_) parameters.push_back((array += '}').c_str());
-        PGresult *const result = PQexecParams(connection_, sql_.c_str(), static_cast<int>(columns_), nullptr,
-                                              parameters.data(), nullptr, nullptr, 0);
+        if (name_.empty()) {
+            static std::atomic<unsigned> count = 0;
+            name_ = "batch" + std::to_string(++count);
+            check(PQprepare(connection_, name_.c_str(), sql_.c_str(), 0, nullptr), PGRES_COMMAND_OK);
+        }
+        PGresult *const result = PQexecPrepared(connection_, name_.c_str(), static_cast<int>(columns_),
+                                                parameters.data(), nullptr, nullptr, 0);
         clear();
         check(result, PGRES_COMMAND_OK);
     }
@@ -216,6 +222,7 @@ private:
         return array += array.empty() ? '{' : ',';
     }
 
+    std::string name_;  // of the prepared statement
     std::vector<std::string> arrays_;
 };
 

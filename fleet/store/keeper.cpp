@@ -58,7 +58,8 @@ long long change(Database &database, const std::string &sql, Uses... uses) {
     soci::statement statement(database.session());
     (statement.exchange(uses), ...);
     statement.alloc();
-    statement.prepare(sql);
+    // PostgreSQL executes it without preparing it first.
+    statement.prepare(sql, soci::details::st_one_time_query);
     statement.define_and_bind();
     statement.execute(true);
     return statement.get_affected_rows();
