@@ -1,25 +1,13 @@
 #include "tools/tarn/formats/database.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "schema/digest.h"
-#include "tools/tarn/formats/json.h"
+#include "tools/tarn/formats/database_rows.h"
 #include "tools/tarn/support/failure.h"
 
 namespace tarn::tool {
-
-namespace {
-
-// As TEXT, bytes that are not UTF-8 are an error for many programs, and a zero byte ends the text for others.
-bool is_text(std::string_view text) {
-    if (std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; })) return true;
-    return text.find('\0') == std::string_view::npos && json_of_string(std::string(text)).is_string();
-}
-
-}  // namespace
 
 // Binds values to the parameters of a statement, and runs it.
 class Database::Call {
@@ -119,37 +107,9 @@ void Database::add(const Entry &entry) {
 }
 
 void Database::add_row(const Handle &handle, const Row &row) {
-    const auto id = [&](const Row &r) { return rows_ + static_cast<std::int64_t>(r.number) + 1; };
     const Insertion &insertion = this->insertion(*row.table);
     Call call(*this, insertion.statement.get());
-    call.integer(id(row)).integer(messages_);
-    if (row.parent != nullptr) {
-        call.integer(id(*row.parent)).text(row.list->path).integer(row.position);
-    } else {
-        call.null().null().null();
-    }
-    Value value;
-    for (const SqlColumn &column : insertion.columns) {
-        // The columns of a member are adjacent.
-        if (column.part == Part::value) value = column.column->read(row.instance);
-        const schema::Member &member = *column.column->member;
-        const auto *const number = std::get_if<std::uint64_t>(&value);
-        const auto *const text = std::get_if<std::string_view>(&value);
-        std::string shown;
-        if (value.index() == 0 ||
-            (column.part == Part::enumerator && *number >= member.enumeration->enumerators.size())) {
-            call.null();
-        } else if (column.part == Part::bytes) {
-            call.bytes(sortable(*std::get<ip_address *>(value)));
-        } else if (text != nullptr) {
-            is_text(*text) ? call.text(*text) : call.bytes(*text);
-        } else if (number != nullptr && column.type != "TEXT" && *number <= INT64_MAX) {
-            call.integer(static_cast<std::int64_t>(*number));
-        } else {
-            append_shown(shown, handle, member, value);
-            call.text(shown);
-        }
-    }
+    put_row(call, insertion.columns, handle, row, {.message = messages_, .before_first = rows_});
     call.run();
 }
 

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <set>
 #include <utility>
 
 #include "database_text.h"
 #include "schema/catalogue.h"
+#include "tools/tarn/formats/database_rows.h"
+#include "tools/tarn/formats/json.h"
 
 namespace tarn::tool {
 
@@ -81,10 +84,21 @@ void add_sql_columns(const Column &column, std::vector<SqlColumn> &columns) {
     }
 }
 
+// PostgreSQL has no columns of several types, and would look up each reference when a row is written.
+std::string type_in(SqlDialect dialect, std::string_view type) {
+    constexpr std::string_view integer = "INTEGER";
+    if (dialect == SqlDialect::sqlite) return std::string(type);
+    if (type.empty()) return "NUMERIC";
+    if (type == "BLOB") return "BYTEA";
+    if (!type.starts_with(integer)) return std::string(type);
+    return "BIGINT" + std::string(type.substr(integer.size(), type.find(" REFERENCES") - integer.size()));
+}
+
 // A column of a record around the record of a view.
 struct KeyPart {
     const Table *table;
     std::string name;  // in its table
+    std::string_view type;
 
     std::string name_in_view() const { return table->name + "_" + name; }
 };
@@ -94,7 +108,7 @@ std::vector<KeyPart> key_parts(const Table &record) {
     for (const KeyColumn &key : keys_around(*record.record)) {
         std::vector<SqlColumn> columns;
         add_sql_columns(*key.column, columns);
-        for (const SqlColumn &c : columns) parts.push_back({key.table, c.name});
+        for (const SqlColumn &c : columns) parts.push_back({key.table, c.name, c.type});
     }
     return parts;
 }
@@ -169,31 +183,37 @@ std::string condition_of(const Table &table, const Occurrence &occurrence) {
 }
 
 // The instances of a record in the rows of a table.
-std::string selection(const Table &table, const Occurrence &occurrence, const Table &record) {
+std::string selection(const Table &table, const Occurrence &occurrence, const Table &record, const SqlViews &views) {
     const Joins joins(table);
     const bool is_nested = !occurrence.path.empty();
     std::string sql =
         "SELECT f.name AS file, m.number AS message, m.bundle AS bundle, m.connection AS connection, r.row_id AS "
         "row_id";
+    for (const std::string_view column : views.columns) {
+        sql += ", f." + std::string(column) + " AS " + std::string(column);
+    }
+    // In PostgreSQL, a NULL without a type is text.
+    const bool is_typed = views.dialect == SqlDialect::postgresql;
     for (const KeyPart &key : key_parts(record)) {
         const std::string value = joins.key(key, table, is_nested && is_element(table));
-        sql += ",\n  " + (value.empty() ? "NULL" : value) + " AS " + key.name_in_view();
+        const std::string none = is_typed ? "CAST(NULL AS " + type_in(views.dialect, key.type) + ")" : "NULL";
+        sql += ",\n  " + (value.empty() ? none : value) + " AS " + key.name_in_view();
     }
     const std::string prefix = is_nested ? sql_name(occurrence.path) + "_" : "";
     for (const SqlColumn &c : sql_columns(record)) sql += ",\n  r." + prefix + c.name + " AS " + c.name;
-    return sql + "\n  FROM " + table.name +
+    return sql + "\n  FROM " + views.prefix + table.name +
            " AS r JOIN messages AS m ON m.message_id = r.message_id JOIN files AS f ON f.file_id = m.file_id\n" +
            joins.sql() + condition_of(table, occurrence);
 }
 
-std::string sql_of_view(const Table &record) {
+std::string sql_of_view(const Table &record, const SqlViews &views) {
     std::string sql;
     for (const Table *table : sql_tables()) {
         for (const Occurrence &occurrence : occurrences(*table, *record.record)) {
-            sql += (sql.empty() ? "" : "UNION ALL\n") + selection(*table, occurrence, record);
+            sql += (sql.empty() ? "" : "UNION ALL\n") + selection(*table, occurrence, record, views);
         }
     }
-    return "CREATE VIEW " + view_name(record) + " AS\n" + sql + ";\n";
+    return "CREATE VIEW " + views.prefix + view_name(record) + " AS\n" + sql + ";\n";
 }
 
 std::string row_of_text(std::string_view name, std::string_view type, std::string_view meaning) {
@@ -214,6 +234,11 @@ std::string lists_with(const Table &element) {
 
 }  // namespace
 
+bool is_sql_text(std::string_view text) {
+    if (std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; })) return true;
+    return text.find('\0') == std::string_view::npos && json_of_string(std::string(text)).is_string();
+}
+
 std::vector<SqlColumn> sql_columns(const Table &table) {
     std::vector<SqlColumn> columns;
     for (const Column &c : table.columns) add_sql_columns(c, columns);
@@ -229,22 +254,31 @@ std::vector<const Table *> sql_tables() {
     return {found.begin(), found.end()};
 }
 
-std::string sql_of_tables() {
-    std::string sql(sql_of_messages);
+std::string sql_of_tables() { return std::string(sql_of_messages) + sql_of_record_tables(SqlDialect::sqlite); }
+
+std::string sql_of_record_tables(SqlDialect dialect) {
+    std::string sql;
     for (const Table *table : sql_tables()) {
         sql += "CREATE TABLE " + table->name + " (";
         for (const FixedColumn &c : columns_of_a_row) {
-            sql += (&c == columns_of_a_row ? "\n  " : ",\n  ") + definition(c.name, c.type);
+            sql += (&c == columns_of_a_row ? "\n  " : ",\n  ") + definition(c.name, type_in(dialect, c.type));
         }
-        for (const SqlColumn &c : sql_columns(*table)) sql += ",\n  " + definition(c.name, c.type);
+        for (const SqlColumn &c : sql_columns(*table)) {
+            sql += ",\n  " + definition(c.name, type_in(dialect, c.type));
+        }
         sql += "\n);\n";
     }
     return sql;
 }
 
-std::string sql_of_views() {
+std::string sql_of_record_views(const SqlViews &views) {
     std::string sql;
-    for (const Table &table : tables()) sql += sql_of_view(table);
+    for (const Table &table : tables()) sql += sql_of_view(table, views);
+    return sql;
+}
+
+std::string sql_of_views() {
+    std::string sql = sql_of_record_views({});
     for (const Table *table : sql_tables()) {
         if (!is_element(*table)) continue;
         sql += "CREATE INDEX " + table->name + "_by_parent ON " + table->name + " (parent_id);\n";
@@ -252,9 +286,11 @@ std::string sql_of_views() {
     return sql;
 }
 
+std::size_t columns_before_record() { return std::size(columns_of_a_row); }
+
 std::string insertion_into(const Table &table) {
     std::string places = "?";
-    for (std::size_t i = 1; i < std::size(columns_of_a_row) + sql_columns(table).size(); ++i) places += ",?";
+    for (std::size_t i = 1; i < columns_before_record() + sql_columns(table).size(); ++i) places += ",?";
     return "INSERT INTO " + table.name + " VALUES (" + places + ")";
 }
 

@@ -1,5 +1,6 @@
 // The layout of the databases that `tarn export` writes, derived from the tables of the records. The statements that
-// create a database and its documentation, docs/export.md, come from the same columns.
+// create a database and its documentation, docs/export.md, come from the same columns. Other databases may contain the
+// same tables and views of records.
 #pragma once
 
 #include <string>
@@ -34,6 +35,18 @@ std::vector<const Table *> sql_tables();
 std::string sql_of_tables();
 std::string sql_of_views();
 
+// Those of the records only, for a database that has `messages` and `files` of its own.
+enum class SqlDialect : std::uint8_t { sqlite, postgresql };
+std::string sql_of_record_tables(SqlDialect dialect);
+struct SqlViews {
+    SqlDialect dialect = SqlDialect::sqlite;
+    std::string prefix = {};                     // of their names and of the tables whose rows they show
+    std::vector<std::string_view> columns = {};  // of `files`, after row_id
+};
+std::string sql_of_record_views(const SqlViews &views);
+
+// The columns of each table before those of its record.
+std::size_t columns_before_record();
 std::string insertion_into(const Table &table);
 
 // Tables and views in Markdown.
