@@ -35,7 +35,7 @@ struct CollectOptions {
     std::vector<std::string> bundles;
     double every = 30, timeout = 10;
     tool::AnswerLimits limits;
-    bool tracked = false, verbose = false;
+    bool rows = false, tracked = false, verbose = false;
 };
 
 milliseconds milliseconds_of(double seconds) { return milliseconds(static_cast<std::int64_t>(seconds * 1000)); }
@@ -53,7 +53,7 @@ public:
           retry_(std::min<milliseconds>(every_, milliseconds(5000))),
           discovery_(std::clamp<milliseconds>(every_, milliseconds(1000), milliseconds(10'000))),
           timeout_(milliseconds_of(options.timeout)),
-          recorder_({options.store, 3 * std::max(every_, timeout_).count(), keep_of(options),
+          recorder_({options.store, 3 * std::max(every_, timeout_).count(), keep_of(options), options.rows,
                      [this](std::string_view line) { log_.line("tarn: " + std::string(line)); }}),
           asker_({options.bus, options.limits, options.tracked},
                  {.on_device = [this](const Device &device) { found(device); },
@@ -227,6 +227,8 @@ void add_collect(CLI::App &app, tool::Context &) {
     tool::add_seconds(*command, "--every", options->every, "Time between two requests for a bundle of a device", 0.01);
     command->add_option("--keep", options->keep, "Forget what is older, such as 30d; default: keep all")
         ->type_name("DURATION");
+    command->add_flag("--rows", options->rows,
+                      "Create the store with the records of its answers as rows, for queries in SQL");
     tool::add_timeout(*command, options->timeout, "Timeout for each answer");
     tool::add_limits(*command, options->limits);
     command->add_flag("--tracked", options->tracked, "Request per-field state");
@@ -239,6 +241,8 @@ void add_collect(CLI::App &app, tool::Context &) {
         "gap in the store and is asked again after 5 seconds, or after --every if that is less.\n"
         "While the store is not available, no more devices are asked than fit into 64 MiB. A\n"
         "full disk ends the collector with exit code 3; what was committed stays.\n\n"
+        "With --rows, the store has the tables and views of \"tarn export\", for all answers and,\n"
+        "with the prefix latest_, for the last ones.\n\n"
         "Examples:\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --store history.db\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --bundle dp-tt-cfg \\\n"

@@ -126,6 +126,16 @@ void Database::transact(const std::function<void()> &work) {
     });
 }
 
+std::string Database::with_types(std::string_view sql) const {
+    std::string typed(sql);
+    for (const auto &[word, type] :
+         {std::pair(std::string_view(" ID "), either(" INTEGER ", " BIGINT ")), {"BYTES", either("BLOB", "BYTEA")}}) {
+        for (std::size_t at = 0; (at = typed.find(word, at)) != std::string::npos;)
+            typed.replace(at, word.size(), type);
+    }
+    return typed;
+}
+
 void Database::run(const std::string &sql) { *session_ << sql; }
 
 void Database::run_all(std::string_view sql) {

@@ -45,6 +45,8 @@ public:
     // The same in a transaction, which is rolled back if `work` throws.
     void transact(const std::function<void()> &work);
 
+    // SQL for both engines: BYTES and ID stand for their types of bytes and of numbers of rows.
+    std::string with_types(std::string_view sql) const;
     void run(const std::string &sql);
     // Statements that a semicolon at the end of a line separates.
     void run_all(std::string_view sql);

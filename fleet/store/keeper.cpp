@@ -11,6 +11,7 @@
 #include "fleet/store/database.h"
 #include "fleet/store/layout.h"
 #include "fleet/store/store.h"
+#include "fleet/store/stored_rows.h"
 #include "fleet/support/sha256.h"
 #include "schema/frame.h"
 #include "tools/tarn/formats/frames.h"
@@ -138,17 +139,19 @@ struct Keeper::Change {
     bool has_new_answer = false;
 };
 
-Keeper::Keeper(const std::string &where, Time lease, Time patience)
-    : where_(where), name_(collector_name()), lease_(lease), patience_(patience) {
+Keeper::Keeper(const std::string &where, Time lease, Time patience, bool rows)
+    : where_(where), name_(collector_name()), lease_(lease), patience_(patience), wants_rows_(rows) {
     connect();
 }
 
 void Keeper::connect() {
     lose();
     statements_.reset();
+    rows_.reset();
     database_ = std::make_unique<Database>(where_, Access::write);
-    create_layout(*database_);
+    const bool has_rows = create_layout(*database_, wants_rows_);
     statements_ = std::make_unique<Statements>(*database_);
+    if (has_rows) rows_ = std::make_unique<StoredRows>(*database_);
     if (database_->engine() == Engine::postgresql) {
         // A collector that stalls in a transaction would keep its devices from the others.
         database_->guarded(
@@ -377,6 +380,7 @@ void Keeper::add_answer(const Outcome &outcome, Change &change) {
                        .asked = outcome.asked,
                        .first_seen = outcome.ended};
         statements_->contents->integer(state.id).bytes(outcome.frames);
+        if (rows_ != nullptr) rows_->add(state.id, outcome.bundle, outcome.frames);
     }
     if (!change.span) change.span = {.id = state.id};
     change.span->last_asked = outcome.asked;
@@ -408,6 +412,7 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
     std::unordered_map<State *, Change *> changed;
     std::size_t stored = 0;
     statements_->clear();
+    if (rows_ != nullptr) rows_->clear();
     require_ids(outcomes.size());
     database_->transact([&] {
         require_lease();
@@ -425,6 +430,7 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
         }
         for (Change &change : changes) write(change);
         statements_->flush();
+        if (rows_ != nullptr) rows_->flush();
     });
     for (const auto &[state, change] : changed) *state = std::move(change->state);
     return stored;
@@ -456,6 +462,7 @@ std::size_t Keeper::forget(Time before) {
             forgotten += static_cast<std::size_t>(gone);
             database_->run("DELETE FROM contents WHERE " + range + " AND NOT EXISTS " +
                            "(SELECT 1 FROM answers a WHERE a.answer_id = contents.answer_id)");
+            if (rows_ != nullptr) delete_rows(*database_, first, first + step);
         });
     }
     return forgotten;

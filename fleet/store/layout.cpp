@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "fleet/store/stored_rows.h"
 #include "schema/digest.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -14,7 +15,7 @@ namespace {
 using tool::Exit;
 using tool::Failure;
 
-// Times are milliseconds since 1970 in UTC. BYTES and ID stand for the engine's types of bytes and of numbers of rows.
+// Times are milliseconds since 1970 in UTC.
 // Frames are apart from what changes with each request. New rows of both are next to each other, and no index has keys
 // that are not, such as digests or devices: each entry would write a page, which is more than a small answer. So the
 // answers of a device are a list from the last to the first.
@@ -69,24 +70,14 @@ CREATE VIEW latest_answers AS
   JOIN answers a ON a.answer_id = p.answer_id;
 )";
 
-std::string with_types(const Database &database) {
-    std::string sql(tables);
-    for (const auto &[word, type] :
-         {std::pair<std::string_view, std::string_view>(" ID ", database.either(" INTEGER ", " BIGINT ")),
-          {"BYTES", database.either("BLOB", "BYTEA")}}) {
-        for (std::size_t at = 0; (at = sql.find(word, at)) != std::string::npos;) sql.replace(at, word.size(), type);
-    }
-    return sql;
-}
-
-std::string version_in(Database &database) {
-    std::string version;
-    database.session() << "SELECT value FROM store_meta WHERE name = 'layout_version'", soci::into(version);
-    return version;
+std::string meta_value(Database &database, const std::string &name) {
+    std::string value;
+    database.session() << "SELECT value FROM store_meta WHERE name = :name", soci::use(name, "name"), soci::into(value);
+    return value;
 }
 
 void require_version(Database &database) {
-    const std::string version = version_in(database);
+    const std::string version = meta_value(database, "layout_version");
     if (version == std::to_string(store_version)) return;
     throw Failure(Exit::input, database.shown() + ": a store of version " + tool::in_quotes(version) +
                                    "; this program reads and writes version " + std::to_string(store_version));
@@ -112,22 +103,29 @@ bool require_free_or_known(Database &database) {
 
 }  // namespace
 
-void create_layout(Database &database) {
+bool create_layout(Database &database, bool with_rows) {
     database.guarded([&] { require_free_or_known(database); });
     database.prepare_for_writing();
     database.transact([&] {
         // Of several processes, the first creates the tables. The number is any that no other program uses.
         if (database.engine() == Engine::postgresql) database.run("SELECT pg_advisory_xact_lock(7561726)");
         if (require_free_or_known(database)) return;
-        database.run_all(with_types(database));
+        database.run_all(database.with_types(tables));
+        if (with_rows) create_rows(database);
         for (const auto &[name, value] :
              {std::pair("layout_version", std::to_string(store_version)),
-              std::pair("program", std::string("tarn " TARN_VERSION)), std::pair("schema", schema::schema_digest())}) {
+              std::pair("program", std::string("tarn " TARN_VERSION)), std::pair("schema", schema::schema_digest()),
+              std::pair("rows", std::string(with_rows ? "yes" : "no"))}) {
             const std::string key = name;
             database.session() << "INSERT INTO store_meta VALUES (:name, :value)", soci::use(key, "name"),
                 soci::use(value, "value");
         }
     });
+    const bool has_rows = database.guarded([&] { return meta_value(database, "rows") == "yes"; });
+    if (with_rows && !has_rows) {
+        throw Failure(Exit::input, database.shown() + ": a store without rows; --rows is for a new store");
+    }
+    return has_rows;
 }
 
 void require_layout(Database &database) {

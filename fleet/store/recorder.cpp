@@ -18,7 +18,7 @@ Time steady_now() {
 }  // namespace
 
 Recorder::Recorder(const RecorderOptions &options)
-    : options_(options), keeper_(options.store, lease, options.patience) {
+    : options_(options), keeper_(options.store, lease, options.patience, options.rows) {
     shown_ = keeper_.shown();
     thread_ = std::thread([this] {
         try {

@@ -22,6 +22,7 @@ struct RecorderOptions {
     std::string store;
     Time patience = 0;         // as the keeper has it
     std::optional<Time> keep;  // what is older is forgotten
+    bool rows = false;         // as the keeper has it
     // What happened to the store; called by the thread.
     std::function<void(std::string_view)> log = [](std::string_view) {};
 };

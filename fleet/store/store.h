@@ -21,6 +21,7 @@
 namespace tarn::fleet {
 
 class Database;
+class StoredRows;
 
 // A span in which a device gave the same answer.
 struct StoredAnswer {
@@ -97,7 +98,8 @@ class Keeper {
 public:
     // A collector that has not renewed its lease for that time has lost its devices. Between two answers that are
     // further apart than `patience`, a gap is recorded, since nobody asked.
-    Keeper(const std::string &where, Time lease, Time patience);
+    // With `rows`, a new store also gets the records of answers as rows; one that exists must have them.
+    Keeper(const std::string &where, Time lease, Time patience, bool rows = false);
     ~Keeper();
 
     const std::string &shown() const;
@@ -156,8 +158,10 @@ private:
     const std::string where_;
     std::unique_ptr<Database> database_;
     std::unique_ptr<Statements> statements_;
+    std::unique_ptr<StoredRows> rows_;  // null if the store has none
     const std::string name_;
     const Time lease_, patience_;
+    const bool wants_rows_;
     bool is_registered_ = false;
     std::int64_t last_id_ = 0, end_of_ids_ = 0;                    // of those that this collector may use
     std::map<std::string, Owned, std::less<>> owned_;              // by device

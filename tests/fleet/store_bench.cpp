@@ -80,33 +80,54 @@ double rate_of_engine(const std::string &where, int batch) {
     return result;
 }
 
-double rate_of_store(const std::string &where, int batch, bool changes) {
-    Keeper keeper(where, 60'000, 0);
+// `frames_of` returns the answer of a device.
+double rate_of_store(const std::string &where, int batch, const std::string &name, bool rows,
+                     const std::function<const std::string &(int number)> &frames_of) {
+    Keeper keeper(where, 60'000, 0, rows);
     std::vector<std::pair<std::string, std::string>> names;
     for (int i = 0; i < devices; ++i) names.emplace_back("site/" + std::to_string(i), "site");
     keeper.add_devices(names);
     keeper.renew();
-    const std::string same = random_frames();
-    std::vector<std::string> frames(static_cast<std::size_t>(batch), same);
     return rate(batch, [&](int first) {
+        std::vector<std::string> frames;
         std::vector<Outcome> outcomes;
+        for (int i = 0; i < batch; ++i) frames.push_back(frames_of(first + i));
         for (int i = 0; i < batch; ++i) {
-            std::string &bytes = frames[static_cast<std::size_t>(i)];
-            if (changes) bytes = random_frames();
             const auto &device = names[static_cast<std::size_t>((first + i) % devices)].first;
-            outcomes.push_back({device, bundle, first, first + 1, bytes, {}});
+            outcomes.push_back({device, name, first, first + 1, frames[static_cast<std::size_t>(i)], {}});
         }
         if (keeper.put(outcomes) != outcomes.size()) throw std::runtime_error("devices of another collector");
     });
 }
 
 void measure_store(const char *engine, const std::function<std::string()> &new_store, double required) {
+    std::string frames;
+    const auto random = [&](int) -> const std::string & { return frames = random_frames(); };
     for (const int batch : {50, 100, 1000}) {
         const double alone = rate_of_engine(new_store(), batch);
-        const double changed = rate_of_store(new_store(), batch, true);
-        const double same = rate_of_store(new_store(), batch, false);
+        const double changed = rate_of_store(new_store(), batch, bundle, false, random);
+        const double same =
+            rate_of_store(new_store(), batch, bundle, false, [&](int) -> const std::string & { return frames; });
         std::printf("%-10s %6d %12.0f %12.0f %7.2f %12.0f %10.0f\n", engine, batch, alone, changed, changed / alone,
                     same, required);
+        std::fflush(stdout);
+    }
+}
+
+// Plausible answers, each of which differs from the one before it.
+void measure_rows(const char *engine, const std::function<std::string()> &new_store) {
+    for (const auto &[name, full] :
+         {std::pair("dp-intf", "lumo_tarn_dp_intf_rsp"), std::pair("dp-tt-cfg", "lumo_tarn_dp_tt_cfg_rsp")}) {
+        std::string answers[2];
+        for (const int i : {0, 1}) {
+            answers[i] = tool_test::tarn(
+                             {"generate", name, "--seed", std::to_string(i), "--form", "frames", "--bundle", "--force"})
+                             .out;
+        }
+        const auto alternate = [&](int number) -> const std::string & { return answers[number / devices % 2]; };
+        const double without = rate_of_store(new_store(), devices, full, false, alternate);
+        const double with = rate_of_store(new_store(), devices, full, true, alternate);
+        std::printf("%-10s %10s %8zu %12.0f %12.0f\n", engine, name, answers[0].size(), without, with);
         std::fflush(stdout);
     }
 }
@@ -147,6 +168,10 @@ int main() {
     const auto schema = [&] { return server.create_schema("bench" + std::to_string(++stores)); };
     measure_store("SQLite", file, 10'000);
     measure_store("PostgreSQL", schema, 5'000);
+    std::printf("\nChanged answers a second that a store keeps without and with rows\n\n%-10s %10s %8s %12s %12s\n",
+                "ENGINE", "BUNDLE", "BYTES", "WITHOUT", "WITH");
+    measure_rows("SQLite", file);
+    measure_rows("PostgreSQL", schema);
     std::printf("\nAnswers that one collector keeps of %d simulated devices that it asks as fast as it can\n\n",
                 devices);
     measure_collector("SQLite", file());
