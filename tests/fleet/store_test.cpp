@@ -8,7 +8,9 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -425,6 +427,39 @@ TEST_P(ServerStoreTest, KeepsWhatWasCommittedIfTheServerIsKilled) {
     keeper->renew();
     EXPECT_EQ(keeper->put(std::vector{answer("r1", "two", t0 + 1000)}), 1U);
     EXPECT_EQ(answers_in(where()).size(), 2U);
+}
+
+// The statements of docs/fleet.md, with smaller partitions.
+TEST_P(ServerStoreTest, ContentsCanBePartitionedWhileACollectorWorks) {
+    std::ifstream page(TARN_FLEET_PAGE);
+    std::string text((std::istreambuf_iterator<char>(page)), {});
+    const std::size_t begin = text.find("    BEGIN;\n"), end = text.find("    COMMIT;\n", begin);
+    ASSERT_NE(end, std::string::npos);
+    std::string sql = text.substr(begin, end + 11 - begin);
+    const std::string size = "10000000", small = "100000";
+    for (std::size_t at = 0; (at = sql.find(size, at)) != std::string::npos; at += small.size()) {
+        sql.replace(at, size.size(), small);
+    }
+
+    auto keeper = keeper_of(where(), {{"r1", ""}});
+    keeper->put(std::vector{answer("r1", "one", t0)});
+    query(sql);
+    keeper->put(std::vector{answer("r1", "two", t0 + 1000)});
+    // One with another block of numbers.
+    keeper.reset();
+    keeper = keeper_of(where(), {});
+    keeper->put(std::vector{answer("r1", "three", t0 + 2000)});
+    EXPECT_EQ(query("SELECT count(*) FROM contents_0") + query("SELECT count(*) FROM contents_1"), "2\n1\n");
+    std::string all;
+    for (const StoredAnswer &a : answers_in(where())) all += Store(where()).frames(a.id) + " ";
+    EXPECT_EQ(all, "one two three ");
+
+    EXPECT_EQ(keeper->forget(t0 + 1500), 2U);
+    EXPECT_EQ(query("SELECT count(*) FROM contents_0"), "0\n");
+    query("DROP TABLE contents_0");
+    keeper->put(std::vector{answer("r1", "four", t0 + 3000)});
+    EXPECT_EQ(answers_in(where()).size(), 2U);
+    EXPECT_EQ(keeper->forget(t0 + 2500), 1U);
 }
 
 TEST_P(FileStoreTest, NamesAFullDiskAndLosesNothing) {
