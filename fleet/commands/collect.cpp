@@ -69,7 +69,7 @@ public:
     void step(milliseconds most) {
         recorder_.check();
         const auto now = Clock::now();
-        if (now >= next_discovery_) {
+        if (is_discovery_due(now)) {
             asker_.discover();
             next_discovery_ = now + discovery_;
         }
@@ -103,7 +103,15 @@ private:
         return options.keep.empty() ? std::nullopt : std::optional(duration_of(options.keep));
     }
 
+    // Not while devices still reply to the last one: replies that a slow machine does not keep up with would delay the
+    // answers more and more.
+    bool is_discovery_due(Clock::time_point now) const {
+        constexpr milliseconds silence(200), most(10'000);
+        return now >= next_discovery_ && (now - last_reply_ >= silence || now - next_discovery_ >= most);
+    }
+
     void found(const Device &device) {
+        last_reply_ = Clock::now();
         const std::string name = device.name.text();
         std::set<const reflect::BundleOperations *> bundles;
         for (const std::string &bundle : device.bundles) {
@@ -194,7 +202,7 @@ private:
     std::set<Due> due_;  // also of devices that this collector does not have any more
     std::map<std::string, std::set<const reflect::BundleOperations *>> offered_;
     std::vector<std::pair<std::string, std::string>> found_;
-    Clock::time_point next_discovery_;
+    Clock::time_point next_discovery_, last_reply_;
     Recorder recorder_;
     Asker asker_;
 };
