@@ -1,5 +1,12 @@
 #include "fleet/bus/connection.h"
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <mutex>
+#include <set>
+
 #include "schema/digest.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/printable.h"
@@ -19,6 +26,30 @@ std::vector<std::string> servers_of(const std::string &url) {
         begin = end + 1;
     }
     return servers;
+}
+
+// The library says only that it cannot load a file.
+const char *readable(const std::string &path) {
+    if (::access(path.c_str(), R_OK) != 0) {
+        const std::string reason = tool::error_text(static_cast<std::uint32_t>(errno));
+        throw Failure(Exit::environment, tool::printable(path) + ": " + reason);
+    }
+    return path.c_str();
+}
+
+// Called by a thread of the library. What a server does not permit is printed once, since a process may try it again
+// and again.
+void on_error(natsConnection *connection, natsSubscription *, natsStatus status, void *) {
+    constexpr std::size_t most = 100;
+    static std::mutex lock;
+    static std::set<std::string> printed;
+    const char *text = nullptr;
+    if (status != NATS_NOT_PERMITTED || natsConnection_GetLastError(connection, &text) == NATS_OK || text == nullptr)
+        return;
+    const std::lock_guard<std::mutex> hold(lock);
+    if (printed.size() < most && printed.insert(text).second) {
+        std::fprintf(stderr, "tarn: the bus does not permit: %s\n", tool::printable(text).c_str());
+    }
 }
 
 }  // namespace
@@ -64,18 +95,19 @@ BusSettings bus_settings(const BusOptions &options, const std::string &client) {
     check_bus(natsOptions_SetMaxReconnect(created, -1), where);
     check_bus(natsOptions_SetReconnectWait(created, 250), where);
     check_bus(natsOptions_SetReconnectJitter(created, 250, 250), where);
+    check_bus(natsOptions_SetErrorHandler(created, on_error, nullptr), where);
     // Nothing is promised by the bus: what is not sent now is asked for again.
     check_bus(natsOptions_SetFailRequestsOnDisconnect(created, true), where);
     if (!options.ca.empty()) {
-        check_bus(natsOptions_LoadCATrustedCertificates(created, options.ca.c_str()), options.ca);
+        check_bus(natsOptions_LoadCATrustedCertificates(created, readable(options.ca)), options.ca);
         check_bus(natsOptions_SetSecure(created, true), where);
     }
     if (!options.certificate.empty()) {
-        check_bus(natsOptions_LoadCertificatesChain(created, options.certificate.c_str(), options.key.c_str()),
+        check_bus(natsOptions_LoadCertificatesChain(created, readable(options.certificate), readable(options.key)),
                   options.certificate);
     }
     if (!options.credentials.empty()) {
-        check_bus(natsOptions_SetUserCredentialsFromFiles(created, options.credentials.c_str(), nullptr),
+        check_bus(natsOptions_SetUserCredentialsFromFiles(created, readable(options.credentials), nullptr),
                   options.credentials);
     }
     return settings;
