@@ -59,6 +59,7 @@ if(TARN_WITH_FLEET)
   install(TARGETS tarn-fleet RUNTIME DESTINATION ${TARN_FLEET_DIR} COMPONENT fleet)
   install(DIRECTORY ${TARN_FLEET_MANUALS}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT fleet
           FILES_MATCHING PATTERN "*.1.gz")
+  install(DIRECTORY fleet/examples DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/lumo-ui-tarn-fleet COMPONENT fleet)
 endif()
 
 # ---- files for building programs

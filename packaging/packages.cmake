@@ -50,6 +50,9 @@ dissector for Wireshark${python_text}.")
 if(TARN_WITH_FLEET)
   describe(fleet lumo-ui-tarn-fleet utils "ask many devices for answers of the tarn feature"
     "The tool tarn asks many devices on a bus, a server of NATS, keeps what they answer\nin SQLite or PostgreSQL, and simulates devices.")
+  install(FILES packaging/systemd/tarn-collect@.service packaging/systemd/tarn-device@.service
+          DESTINATION lib/systemd/system COMPONENT fleet)
+  set(CPACK_DEBIAN_FLEET_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/fleet/prerm)
   set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "lumo-ui-tarn-tools ${of_this_build}")
 endif()
