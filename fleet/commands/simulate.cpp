@@ -41,7 +41,7 @@ enum class DeviceFault : std::uint8_t { none, silent, slow, torn, schema };
 
 struct SimulateOptions {
     BusOptions bus;
-    std::uint32_t devices = 100, sites = 1, elements = 3;
+    std::uint32_t devices = 100, first = 1, sites = 1, elements = 3;
     std::uint64_t seed = 1;
     double change = 10, slow = 5;
     std::vector<std::string> faults;
@@ -157,7 +157,7 @@ private:
     void open_all(const EventLoop &loop) {
         devices_.resize(options_.devices);
         for (std::uint32_t i = 0; i < options_.devices; ++i) {
-            devices_[i].number = i;
+            devices_[i].number = options_.first - 1 + i;
             devices_[i].fault = choose_fault();
         }
         std::atomic<std::uint32_t> next = 0, open = 0;
@@ -272,6 +272,9 @@ void add_simulate(CLI::App &app, tool::Context &) {
     CLI::App *command = app.add_subcommand("simulate", "Be many devices on a bus, with plausible tables that change");
     add_bus(*command, *command, options->bus)->required();
     command->add_option("--devices", options->devices, "Number of devices, each with a connection")
+        ->check(CLI::Range(1U, 1000000U).description(""))
+        ->capture_default_str();
+    command->add_option("--first", options->first, "Number of the first device, for several processes on one bus")
         ->check(CLI::Range(1U, 1000000U).description(""))
         ->capture_default_str();
     command->add_option("--sites", options->sites, "Number of sites, which get the devices in turn")

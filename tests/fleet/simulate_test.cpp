@@ -69,6 +69,17 @@ TEST(Simulate, HundredDevicesAnswerAtOnce) {
     EXPECT_NE(stopped.out.find("stopped after 133 answers"), std::string::npos) << stopped.out;
 }
 
+TEST(Simulate, ProcessesShareABusAndTheNumbersOfDevices) {
+    const BusServer bus;
+    const SimulatedDevices first(bus, 3), others(bus, 2, {"--first", "4"});
+    ASSERT_TRUE(first.is_ready() && others.is_ready());
+    const Outcome all = run(tool, {"show", "cl-debug", "--bus", bus.url(), "--all", "--json"});
+    std::set<std::string> names;
+    for (const auto &[name, reply] : replies_of(all.out)) names.insert(name);
+    EXPECT_EQ(names, (std::set<std::string>{"site-1/device-1", "site-1/device-2", "site-1/device-3", "site-1/device-4",
+                                            "site-1/device-5"}));
+}
+
 TEST(Simulate, FaultsAreNamedByTheAskingSide) {
     const BusServer bus;
     const SimulatedDevices devices(bus, 100,
