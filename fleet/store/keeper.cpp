@@ -270,15 +270,17 @@ std::vector<std::string> Keeper::devices() const {
 
 Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
     State state;
-    std::int64_t gap = 0, began = 0;
-    database_->session() << "SELECT a.answer_id, a.number, a.last_seen FROM device_bundles p JOIN answers a ON "
-                            "a.answer_id = p.answer_id WHERE p.device_id = :device "
-                            "AND p.bundle = :bundle",
+    std::int64_t gap = 0, began = 0, last_asked = 0, last_asked_in_gap = 0;
+    database_->session() << "SELECT a.answer_id, a.number, a.last_seen, a.last_asked FROM device_bundles p JOIN answers a "
+                            "ON a.answer_id = p.answer_id WHERE p.device_id = :device AND p.bundle = :bundle",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.number),
-        soci::into(state.last_seen);
-    database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END FROM gaps WHERE "
+        soci::into(state.last_seen), soci::into(last_asked);
+    database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END, last_asked FROM gaps WHERE "
                             "device_id = :device AND bundle = :bundle ORDER BY number DESC LIMIT 1",
-        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began);
+        soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(gap), soci::into(began),
+        soci::into(last_asked_in_gap);
+    // The clock of another collector may be ahead.
+    state.known_until = std::min(std::max(last_asked, last_asked_in_gap), time_now());
     // The answers before a gap may have been forgotten.
     const bool is_last = state.number >= gap;
     state.number = std::max(state.number, gap);
@@ -407,10 +409,10 @@ void Keeper::write(Change &change) {
     change.has_new_answer ? row.integer(change.state.id) : row.null();
 }
 
-std::size_t Keeper::put(std::span<const Outcome> outcomes) {
+Stored Keeper::put(std::span<const Outcome> outcomes) {
     std::deque<Change> changes;
     std::unordered_map<State *, Change *> changed;
-    std::size_t stored = 0;
+    Stored stored;
     statements_->clear();
     if (rows_ != nullptr) rows_->clear();
     require_ids(outcomes.size());
@@ -420,13 +422,14 @@ std::size_t Keeper::put(std::span<const Outcome> outcomes) {
             const auto owned = owned_.find(outcome.device);
             if (owned == owned_.end()) continue;
             State &state = state_of(owned->second, outcome.bundle);
+            if (outcome.asked <= state.known_until) continue;
             Change *&change = changed[&state];
             if (change == nullptr) {
                 const bool is_first = state.number == 0 && !state.gap_began;
                 change = &changes.emplace_back(Change{owned->second.id, std::string(outcome.bundle), is_first, state});
             }
             outcome.frames.empty() ? add_silence(outcome, *change) : add_answer(outcome, *change);
-            ++stored;
+            ++(outcome.frames.empty() ? stored.silences : stored.answers);
         }
         for (Change &change : changes) write(change);
         statements_->flush();

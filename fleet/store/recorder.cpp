@@ -169,15 +169,11 @@ std::vector<Received> Recorder::take_batch() {
 
 void Recorder::put(const std::vector<Received> &batch) {
     std::vector<Outcome> outcomes;
-    std::uint64_t answers = 0;
-    for (const Received &r : batch) {
-        outcomes.push_back({r.device, r.bundle, r.asked, r.ended, r.frames, r.reason});
-        if (keeper_.owns(r.device) && !r.frames.empty()) ++answers;
-    }
-    const std::size_t stored = keeper_.put(outcomes);
+    for (const Received &r : batch) outcomes.push_back({r.device, r.bundle, r.asked, r.ended, r.frames, r.reason});
+    const Stored stored = keeper_.put(outcomes);
     const std::lock_guard<std::mutex> hold(lock_);
-    counts_.answers += answers;
-    counts_.silences += stored - answers;
+    counts_.answers += stored.answers;
+    counts_.silences += stored.silences;
     ++counts_.commits;
 }
 

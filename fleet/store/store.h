@@ -92,6 +92,12 @@ struct Outcome {
     std::string_view frames, reason;
 };
 
+// How many outcomes were stored.
+struct Stored {
+    std::size_t answers = 0, silences = 0;
+    bool operator==(const Stored &) const = default;
+};
+
 // Writes what a collector received. Collectors that write to the same store share its devices: each device is leased to
 // one of them, and those of a collector that does not renew its lease pass to the others.
 class Keeper {
@@ -120,8 +126,9 @@ public:
 
     // Stores outcomes in one transaction, without those of devices that this collector does not own. When it returns,
     // they are kept, whatever happens to this process, the server or the machine. If it throws, the store contains all
-    // of them or none. Returns the number of outcomes that were stored.
-    std::size_t put(std::span<const Outcome> outcomes);
+    // of them or none. Outcomes that may be in the store already are left out: those of an attempt whose end was not
+    // known, and those of a device that another collector has asked later.
+    Stored put(std::span<const Outcome> outcomes);
 
     // Deletes what ended before that time. Returns the number of spans and gaps.
     std::size_t forget(Time before);
@@ -133,6 +140,7 @@ private:
         std::string same;                 // what the next answer must have in common to be the same; empty in a gap
         Time last_seen = 0;
         std::optional<Time> gap_began;
+        Time known_until = 0;  // the last request that is in the store, when the state was read from there
     };
     struct Change;
     struct Statements;

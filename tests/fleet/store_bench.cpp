@@ -96,7 +96,7 @@ double rate_of_store(const std::string &where, int batch, const std::string &nam
             const auto &device = names[static_cast<std::size_t>((first + i) % devices)].first;
             outcomes.push_back({device, name, first, first + 1, frames[static_cast<std::size_t>(i)], {}});
         }
-        if (keeper.put(outcomes) != outcomes.size()) throw std::runtime_error("devices of another collector");
+        if (keeper.put(outcomes).answers != outcomes.size()) throw std::runtime_error("devices of another collector");
     });
 }
 

@@ -122,7 +122,7 @@ TEST_P(StoreTest, ReturnsTheBytesThatWerePut) {
 
 TEST_P(StoreTest, UnchangedAnswersExtendOneSpan) {
     const auto keeper = keeper_of(where(), {{"r1", ""}});
-    EXPECT_EQ(keeper->put(std::vector{answer("r1", "one", t0), answer("r1", "one", t0 + 1000)}), 2U);
+    EXPECT_EQ(keeper->put(std::vector{answer("r1", "one", t0), answer("r1", "one", t0 + 1000)}), (Stored{2, 0}));
     keeper->put(std::vector{answer("r1", "one", t0 + 2000), answer("r1", "two", t0 + 3000)});
     const std::vector<StoredAnswer> answers = answers_in(where());
     ASSERT_EQ(answers.size(), 2U);
@@ -262,7 +262,7 @@ TEST_P(StoreTest, CollectorsShareTheDevices) {
 TEST_P(StoreTest, OutcomesOfDevicesOfOthersAreNotStored) {
     const auto a = keeper_of(where(), {{"r1", ""}});
     const auto b = keeper_of(where(), {});
-    EXPECT_EQ(b->put(std::vector{answer("r1", "one", t0)}), 0U);
+    EXPECT_EQ(b->put(std::vector{answer("r1", "one", t0)}), (Stored{0, 0}));
     EXPECT_EQ(answers_in(where()).size(), 0U);
 }
 
@@ -283,6 +283,34 @@ TEST_P(StoreTest, DevicesOfACollectorThatIsGonePassToAnother) {
     a->connect();
     a->renew();
     EXPECT_EQ(answers_in(where()).size(), 0U);
+}
+
+// As after the loss of a connection while a transaction is committed.
+TEST_P(StoreTest, OutcomesThatAreRepeatedAreStoredOnce) {
+    const Time begin = time_now() - 10'000;
+    const auto keeper = keeper_of(where(), {{"r1", ""}, {"r2", ""}});
+    const std::vector before{answer("r1", "one", begin), silence("r2", "timeout", begin),
+                             answer("r1", "one", begin + 1000), silence("r2", "timeout", begin + 1000)};
+    EXPECT_EQ(keeper->put(before), (Stored{2, 2}));
+    keeper->connect();
+    keeper->renew();
+    std::vector again = before;
+    again.push_back(answer("r1", "one", begin + 2000));
+    again.push_back(answer("r2", "two", begin + 2000));
+    EXPECT_EQ(keeper->put(again), (Stored{2, 0}));
+    const std::vector<StoredAnswer> answers = answers_in(where());
+    ASSERT_EQ(answers.size(), 2U);
+    EXPECT_EQ(answers[0].times, 3);
+    EXPECT_EQ(answers[1].times, 1);
+    EXPECT_EQ(gaps_in(where()).at(0).requests, 2);
+}
+
+TEST_P(StoreTest, WhatWaitedWhileAnotherAskedIsNotStored) {
+    const Time begin = time_now() - 10'000;
+    keeper_of(where(), {{"r1", ""}})->put(std::vector{answer("r1", "new", begin + 5000)});
+    EXPECT_EQ(keeper_of(where(), {})->put(std::vector{answer("r1", "old", begin), answer("r1", "last", begin + 6000)}),
+              (Stored{1, 0}));
+    EXPECT_EQ(answers_in(where()).size(), 2U);
 }
 
 TEST_P(StoreTest, ACollectorThatEndsReleasesItsDevices) {
@@ -334,7 +362,7 @@ TEST_P(StoreTest, StoresManyOutcomesInOneTransaction) {
     const auto keeper = keeper_of(where(), devices);
     std::vector<Outcome> outcomes;
     for (const auto &[device, site] : devices) outcomes.push_back(answer(device, device, t0));
-    EXPECT_EQ(keeper->put(outcomes), 1000U);
+    EXPECT_EQ(keeper->put(outcomes), (Stored{1000, 0}));
     Store store(where());
     std::size_t seen = 0;
     store.for_each_answer({}, [&](const StoredAnswer &) { ++seen; });
@@ -425,7 +453,7 @@ TEST_P(ServerStoreTest, KeepsWhatWasCommittedIfTheServerIsKilled) {
     });
     keeper->connect();
     keeper->renew();
-    EXPECT_EQ(keeper->put(std::vector{answer("r1", "two", t0 + 1000)}), 1U);
+    EXPECT_EQ(keeper->put(std::vector{answer("r1", "two", t0 + 1000)}), (Stored{1, 0}));
     EXPECT_EQ(answers_in(where()).size(), 2U);
 }
 
@@ -477,7 +505,7 @@ TEST_P(FileStoreTest, NamesAFullDiskAndLosesNothing) {
     EXPECT_NE(message.find("disk"), std::string::npos) << message;
     EXPECT_EQ(answers_in(where()).size(), 1U);
     EXPECT_EQ(Store(where()).frames(answers_in(where())[0].id), "one");
-    EXPECT_EQ(keeper->put(std::vector{answer("r1", large, t0 + 2000)}), 1U);
+    EXPECT_EQ(keeper->put(std::vector{answer("r1", large, t0 + 2000)}), (Stored{1, 0}));
     EXPECT_EQ(answers_in(where()).at(1).size, 4 << 20);
 }
 
