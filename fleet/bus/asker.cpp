@@ -80,7 +80,10 @@ Asker::~Asker() {
     natsConnection_Close(connection_.get());
 }
 
+bool Asker::is_connected() const { return natsConnection_Status(connection_.get()) == NATS_CONN_STATUS_CONNECTED; }
+
 void Asker::discover() {
+    if (!is_connected()) return;
     check_bus(natsConnection_PublishRequest(connection_.get(), "$SRV.PING", subjects_.discovery().c_str(), nullptr, 0),
               "discovery");
 }
@@ -101,6 +104,8 @@ void Asker::send_waiting() {
     for (; !sent_.empty() && sent_.front().first < old; sent_.pop_front()) {
         if (const auto found = open_.find(sent_.front().second); found != open_.end()) free_room(found->second);
     }
+    // Without a connection, the library would keep them and at last fail.
+    if (!is_connected()) return;
     while (!waiting_.empty() && in_flight_ < window()) {
         const std::uint64_t number = waiting_.front();
         waiting_.pop_front();
@@ -161,9 +166,10 @@ void Asker::end_overdue() {
         const auto found = open_.find(deadlines_.begin()->second);
         const Open &open = found->second;
         end(found, Reply::silent,
-            open.parts == 0 ? "no answer"
-                            : "only " + std::to_string(open.received) + " of " + std::to_string(open.parts) +
-                                  " parts of the answer");
+            !open.is_sent     ? "the request could not be sent"
+            : open.parts == 0 ? "no answer"
+                              : "only " + std::to_string(open.received) + " of " + std::to_string(open.parts) +
+                                    " parts of the answer");
     }
 }
 

@@ -58,7 +58,7 @@ public:
     Asker &operator=(const Asker &) = delete;
     ~Asker();
 
-    // Asks all devices to describe themselves.
+    // Asks all devices to describe themselves, if there is a connection.
     void discover();
     // The request is sent as soon as the answers that are on their way leave room. A device without a whole answer at
     // the deadline is silent.
@@ -80,6 +80,7 @@ private:
     };
     using Requests = std::unordered_map<std::uint64_t, Open>;
 
+    bool is_connected() const;
     void send_waiting();
     void send(std::uint64_t number, Open &open);
     void end_overdue();

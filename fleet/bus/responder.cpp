@@ -47,6 +47,8 @@ Responder::Responder(BusConnection connection, Device device, Events events, std
       frame_limit_(frame_limit) {
     subscribe(ask_subject(device_.name), on_request);
     for (const std::string &subject : service_subjects(device_)) subscribe(subject, on_service_request);
+    // From now on, the server passes requests on.
+    check_bus(natsConnection_FlushTimeout(connection_.get(), 10'000), device_.name.text());
 }
 
 // Closing ends the subscriptions; the last message of each may still be in work.

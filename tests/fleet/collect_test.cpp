@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -107,6 +108,30 @@ TEST(Collect, ADeviceThatGoesAwayHasAGapUntilItIsBack) {
     EXPECT_EQ(gaps[0].reason, "silent: no such device is on the bus");
 }
 
+TEST(Collect, ABusThatGoesAwayIsAGapUntilItIsBack) {
+    BusServer bus;
+    const Directory directory;
+    const std::string store = directory.path("history.db");
+    const DeviceProcess device(bus, "r1");
+    Process collector(arguments_of(bus, store));
+    ASSERT_TRUE(happens([&] { return fresh(store, 0) == 1; }, long_enough)) << collector.err();
+    bus.process().signal(SIGKILL);
+    ASSERT_TRUE(happens(
+        [&] {
+            const auto latest = latest_in(store);
+            return latest.size() == 1 && latest[0].gap &&
+                   latest[0].gap->reason == "silent: the request could not be sent";
+        },
+        long_enough))
+        << collector.err();
+    bus.restart();
+    const auto started = tarn::fleet::time_now();
+    EXPECT_TRUE(happens([&] { return fresh(store, started) == 1; }, soon)) << collector.err();
+    // The requests that could not be sent are not sent now.
+    EXPECT_EQ(collector.err().find("not asked for"), std::string::npos) << collector.err();
+    EXPECT_EQ(collector.stop().exit, 0);
+}
+
 TEST(Collect, CollectorsTakeOverTheDevicesOfOneThatIsKilled) {
     const BusServer bus;
     const PostgresqlServer server;
@@ -144,6 +169,9 @@ TEST(Collect, WaitsForAServerThatIsKilledAndLosesNothing) {
     Store(store).for_each_gap({}, [&](const Gap &) { ++gaps; });
     EXPECT_EQ(gaps, 0U);
     EXPECT_LT(Store(store).latest({})[0].answer->first_seen, before);
+    // The libraries print nothing.
+    std::istringstream lines(collector.err());
+    for (std::string line; std::getline(lines, line);) EXPECT_TRUE(line.starts_with("tarn: ")) << line;
     EXPECT_EQ(collector.stop().exit, 0);
 }
 
