@@ -55,6 +55,30 @@ TEST(FleetProgram, TarnNamesThePackageOfEachOptionThatItLacks) {
     }
 }
 
+TEST(FleetProgram, ItsManualPageNamesEachCommandAndOptionThatItAdds) {
+    const Directory directory;
+    ASSERT_EQ(run(with_fleet, {"manual", directory.path(".")}).exit, 0);
+    const std::string page = directory.read("tarn-fleet.1");
+    const auto count = [&](const std::string &line) { return tool_test::occurrences(page, line); };
+    std::size_t options = 0;
+    for (const std::string &command : candidates(with_fleet, {""})) {
+        if (!contains(candidates(plain, {""}), command)) {
+            EXPECT_EQ(count(".It Xr tarn-" + command + " 1\n"), 1U) << command;
+            continue;
+        }
+        const std::vector<std::string> known = candidates(plain, {command, "--"});
+        const std::size_t begin = page.find(".Ss tarn " + command + "\n");
+        const std::string section =
+            begin == std::string::npos ? "" : page.substr(begin, page.find("\n.El\n", begin) - begin);
+        for (const std::string &option : candidates(with_fleet, {command, "--"})) {
+            if (contains(known, option)) continue;
+            EXPECT_NE(section.find("\n.It Fl \\-" + option.substr(2)), std::string::npos) << command << " " << option;
+            ++options;
+        }
+    }
+    EXPECT_EQ(count("\n.It Fl "), options);
+}
+
 TEST(FleetProgram, TarnExecutesTheFleetProgramOfItsInstallation) {
     const Directory directory;
     const std::filesystem::path fleet = directory.path(TARN_FLEET_PLACE) + std::string("/tarn-fleet");

@@ -45,5 +45,7 @@ std::string completions(const CLI::App &app, const std::vector<std::string> &wor
 // For mandoc and groff: tarn(1), and the page of a command, such as tarn-decode(1).
 std::string manual_page(const CLI::App &app);
 std::string manual_page_of(const CLI::App &command);
+// What the extension adds to the command line.
+std::string manual_page_of_extension(const CLI::App &app);
 
 }  // namespace tarn::tool

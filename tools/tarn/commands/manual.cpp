@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "tools/tarn/commands/command_line.h"
+#include "tools/tarn/commands/extension.h"
 #include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
 
@@ -264,6 +265,36 @@ are described in
 )";
     write_examples(footer.examples, out);
     out << ".Sh SEE ALSO\n.Xr tarn 1 ,\n.Xr tarn_frame 5\n";
+    return out.str();
+}
+
+std::string manual_page_of_extension(const CLI::App &app) {
+    const auto is_added = [](const auto &names, const std::string &name) {
+        return std::find(std::begin(names), std::end(names), name) != std::end(names);
+    };
+    std::ostringstream out;
+    write_head("tarn-fleet", "tarn with a bus and stores", out);
+    out << ".Nm tarn\n.Ar COMMAND\n.Op Ar options\n.Sh DESCRIPTION\nThe package\n.Li " << fleet_package
+        << "\nadds commands to\n.Xr tarn 1 ,\nand options to other commands.\n.Sh COMMANDS\n.Bl -tag -width Ds\n";
+    for (const std::string_view name : fleet_commands) {
+        const CLI::App &command = *app.get_subcommand(std::string(name));
+        out << ".It Xr tarn-" << name << " 1\n" << sentence(command.get_description()) << "\n";
+    }
+    out << ".El\n.Sh OPTIONS\n";
+    for (const CLI::App *command : commands_of(app)) {
+        // Without them, an option of the same name is another one.
+        const bool is_extended =
+            command->get_option_no_throw("--bus") != nullptr || command->get_option_no_throw("--store") != nullptr;
+        if (!is_extended || is_added(fleet_commands, command->get_name())) continue;
+        out << ".Ss tarn " << command->get_name() << "\n.Bl -tag -width Ds\n";
+        for (const CLI::Option *option : options_of(*command)) {
+            if (is_added(fleet_options, option->get_name())) write_option(*option, out);
+        }
+        out << ".El\n";
+    }
+    out << ".Sh SEE ALSO\n.Xr tarn 1";
+    for (const std::string_view name : fleet_commands) out << " ,\n.Xr tarn-" << name << " 1";
+    out << "\n";
     return out.str();
 }
 

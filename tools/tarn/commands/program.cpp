@@ -71,6 +71,7 @@ int run_command(int argc, char **argv) {
     if (argc == 3 && std::string_view(argv[1]) == "manual") {
         const std::string folder = argv[2];
         write_file(folder + "/tarn.1", manual_page(app));
+        if (extension != nullptr) write_file(folder + "/tarn-fleet.1", manual_page_of_extension(app));
         for (const CLI::App *command : commands_of(app)) {
             write_file(folder + "/tarn-" + command->get_name() + ".1", manual_page_of(*command));
         }
