@@ -9,6 +9,22 @@
 
 namespace tarn::fleet {
 
+namespace {
+
+// On a new socket, the adapter's function frees the events of the old one, and waits until they are not in work. But
+// the thread that reconnects holds a lock of the connection, for which the work may wait.
+natsStatus attach(void **data, void *loop, natsConnection *connection, natsSock socket) {
+    if (auto *events = static_cast<natsLibeventEvents *>(*data)) {
+        for (event **old : {&events->read, &events->write}) {
+            if (*old != nullptr) event_free_finalize(0, *old, [](event *, void *) {});
+            *old = nullptr;
+        }
+    }
+    return natsLibevent_Attach(data, loop, connection, socket);
+}
+
+}  // namespace
+
 void EventLoop::Free::operator()(event_base *base) const { event_base_free(base); }
 
 EventLoop::EventLoop() {
@@ -25,8 +41,8 @@ EventLoop::~EventLoop() {
 }
 
 void EventLoop::use_for(natsOptions *settings) const {
-    check_bus(natsOptions_SetEventLoop(settings, base_.get(), natsLibevent_Attach, natsLibevent_Read,
-                                       natsLibevent_Write, natsLibevent_Detach),
+    check_bus(natsOptions_SetEventLoop(settings, base_.get(), attach, natsLibevent_Read, natsLibevent_Write,
+                                       natsLibevent_Detach),
               "event loop");
     // Without a thread that flushes, either.
     check_bus(natsOptions_SetSendAsap(settings, true), "event loop");

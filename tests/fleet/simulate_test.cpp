@@ -1,6 +1,8 @@
 // tarn simulate: many devices in one process.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <set>
@@ -25,16 +27,18 @@ const std::string tool = TARN_TOOL;
 class SimulatedDevices {
 public:
     SimulatedDevices(const BusServer &bus, unsigned devices, const std::vector<std::string> &more = {})
-        : process_(arguments(bus, devices, more), tool),
+        : SimulatedDevices(bus.url(), devices, more) {}
+    SimulatedDevices(const std::string &url, unsigned devices, const std::vector<std::string> &more = {})
+        : process_(arguments(url, devices, more), tool),
           ready_(process_.wait_for(std::to_string(devices) + " devices on ")) {}
 
     tool_test::Process &process() { return process_; }
     bool is_ready() const { return ready_; }
 
 private:
-    static std::vector<std::string> arguments(const BusServer &bus, unsigned devices,
+    static std::vector<std::string> arguments(const std::string &url, unsigned devices,
                                               const std::vector<std::string> &more) {
-        std::vector<std::string> all{"simulate", "--bus", bus.url(), "--devices", std::to_string(devices)};
+        std::vector<std::string> all{"simulate", "--bus", url, "--devices", std::to_string(devices)};
         all.insert(all.end(), more.begin(), more.end());
         return all;
     }
@@ -78,6 +82,25 @@ TEST(Simulate, ProcessesShareABusAndTheNumbersOfDevices) {
     for (const auto &[name, reply] : replies_of(all.out)) names.insert(name);
     EXPECT_EQ(names, (std::set<std::string>{"site-1/device-1", "site-1/device-2", "site-1/device-3", "site-1/device-4",
                                             "site-1/device-5"}));
+}
+
+// Hundreds of connections are lost and opened again at once, each by a thread of its own.
+TEST(Simulate, DevicesGoToAnotherServerWhenTheirsIsKilled) {
+    BusServer a, b;
+    const SimulatedDevices devices(a.url() + "," + b.url(), 500);
+    ASSERT_TRUE(devices.is_ready());
+    for (int round = 0; round < 20; ++round) {
+        BusServer &killed = round % 2 == 0 ? a : b;
+        const BusServer &other = round % 2 == 0 ? b : a;
+        killed.process().signal(SIGKILL);
+        std::size_t answers = 0;
+        for (int i = 0; i < 40 && answers != 500; ++i) {
+            ::usleep(250'000);
+            answers = replies_of(run(tool, {"show", "cl-debug", "--bus", other.url(), "--all", "--json"}).out).size();
+        }
+        ASSERT_EQ(answers, 500U) << round;
+        killed.restart();
+    }
 }
 
 TEST(Simulate, FaultsAreNamedByTheAskingSide) {
