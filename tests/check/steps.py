@@ -109,7 +109,7 @@ names = [name for name in re.findall(r"^  ([a-z0-9]+)\b", text, re.M) if name !=
 if len(names) < 10:
     sys.exit(f"only {names} were found in the help text")
 commands = [(["check", name], True) for name in names]
-commands += [(["check", "bench", "tool"], True), (["check"], True), (["check"], False), (["check", "release"], False), (["check", "format"], False)]
+commands += [(["check", "bench", "tool"], True), (["check", "fleet", "bench"], True), (["check", "fleet", "survive"], True), (["check"], True), (["check"], False), (["check", "release"], False), (["check", "format"], False)]
 commands += [([".ci/run"], True), (["tools/regenerate"], True)]
 with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
     numbers = range(len(commands))
