@@ -72,7 +72,8 @@ Database::Database(const std::string &where, Access access)
         if (engine_ == Engine::postgresql) {
             // Without this, the library prints what the server says when it ends a connection.
             const auto *backend = static_cast<const soci::postgresql_session_backend *>(session_->get_backend());
-            PQsetNoticeProcessor(backend->conn_, [](void *, const char *) {}, nullptr);
+            PQsetNoticeProcessor(
+                backend->conn_, [](void *, const char *) {}, nullptr);
             run("SET client_min_messages = warning");
             run("SET client_encoding = 'UTF8'");
             if (access == Access::read) run("SET default_transaction_read_only = on");
