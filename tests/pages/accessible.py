@@ -46,6 +46,7 @@ class Browser:
         requests, self.requests = os.pipe()
         self.answers, answers = os.pipe()
         flags = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", "--no-first-run",
+                 "--disable-background-networking",
                  "--user-data-dir=" + os.path.join(folder, "profile"), "--remote-debugging-pipe", "about:blank"]
         # The browser reads from 3 and writes to 4.
         wrapped = ["bash", "-c", f'exec "$@" 3<&{requests} 4>&{answers}', "browser", program, *flags]
@@ -80,11 +81,11 @@ class Browser:
                 sys.exit(f"{method}: {answer['error']}")
             return answer["result"]
 
-    def open(self, path, look, width, height):
+    def open(self, url, look, width, height):
         scheme = {"name": "prefers-color-scheme", "value": "dark" if look == "dark" else "light"}
         self.call("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=1, mobile=False)
         self.call("Emulation.setEmulatedMedia", features=[scheme])
-        self.call("Page.navigate", url="file://" + path)
+        self.call("Page.navigate", url=url)
         while self.message().get("method") != "Page.loadEventFired":
             pass
 
@@ -138,7 +139,7 @@ def main():
         browser = Browser(chromium, folder)
         for name, path, actions in pages(tarn, source, folder):
             for look, width, height in WINDOWS:
-                browser.open(path, look, width, height)
+                browser.open("file://" + path, look, width, height)
                 browser.run(rules + "; 0")
                 for action in actions if look in ("light", "dark") else actions[:1]:
                     browser.run("{" + action + "} new Promise(requestAnimationFrame)")
