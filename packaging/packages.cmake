@@ -54,7 +54,7 @@ if(TARN_WITH_FLEET)
           DESTINATION lib/systemd/system COMPONENT fleet)
   set(CPACK_DEBIAN_FLEET_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/fleet/prerm)
   set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
-  set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "lumo-ui-tarn-tools ${of_this_build}")
+  set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "lumo-ui-tarn-tools ${of_this_build}, libjs-dygraphs")
 endif()
 describe(documentation lumo-ui-tarn-doc doc "records and messages of traffic-aware routing (documentation)"
   "The traffic-aware routing feature tarn exchanges records between processes as

@@ -13,6 +13,8 @@
 #include "fleet/commands/fleet_commands.h"
 #include "fleet/commands/signals.h"
 #include "fleet/commands/store_options.h"
+#include "fleet/http/metrics.h"
+#include "fleet/http/server.h"
 #include "fleet/store/recorder.h"
 #include "tools/tarn/commands/options.h"
 #include "tools/tarn/support/log.h"
@@ -36,12 +38,28 @@ struct CollectOptions {
     double every = 30, timeout = 10;
     tool::AnswerLimits limits;
     bool rows = false, tracked = false, verbose = false;
+    std::string http;  // address; empty: nothing is served
+    MetricsOptions metrics;
+    double expire = 300;
 };
 
 milliseconds milliseconds_of(double seconds) { return milliseconds(static_cast<std::int64_t>(seconds * 1000)); }
 
 Time time_of(std::chrono::system_clock::time_point point) {
     return std::chrono::duration_cast<milliseconds>(point.time_since_epoch()).count();
+}
+
+std::set<const reflect::BundleOperations *> bundles_named(const std::vector<std::string> &names) {
+    std::set<const reflect::BundleOperations *> bundles;
+    for (const std::string &name : names) bundles.insert(&tool::bundle_named(name));
+    return bundles;
+}
+
+MetricsOptions metrics_of(const CollectOptions &options) {
+    MetricsOptions metrics = options.metrics;
+    // No more time passes between two answers of a device that answers.
+    metrics.expire = milliseconds_of(std::max(options.expire, options.every + options.timeout)).count();
+    return metrics;
 }
 
 class Collector {
@@ -53,6 +71,8 @@ public:
           retry_(std::min<milliseconds>(every_, milliseconds(5000))),
           discovery_(std::clamp<milliseconds>(every_, milliseconds(1000), milliseconds(10'000))),
           timeout_(milliseconds_of(options.timeout)),
+          bundles_(bundles_named(options.bundles)),
+          metrics_(metrics_of(options), bundles_),
           recorder_({options.store, 3 * std::max(every_, timeout_).count(), keep_of(options), options.rows,
                      [this](std::string_view line) { log_.line("tarn: " + std::string(line)); }}),
           asker_({options.bus, options.limits, options.tracked},
@@ -62,8 +82,12 @@ public:
                       [this](const std::string &device, const std::string &text) {
                           log_.line("tarn: " + device + (device.empty() ? "" : ": ") + text);
                       }}) {
-        for (const std::string &name : options.bundles) bundles_.insert(&tool::bundle_named(name));
+        if (options.http.empty()) return;
+        http_.emplace(options.http, options.store, [this] { return metrics_.text(time_now(), recorder_.counts()); });
     }
+
+    // Empty if nothing is served.
+    std::string url() const { return http_ ? http_->url() : std::string(); }
 
     // Does what is due, and waits for at most so long.
     void step(milliseconds most) {
@@ -128,6 +152,7 @@ private:
     }
 
     void take_over(const std::vector<std::string> &names) {
+        metrics_.keep_only({names.begin(), names.end()});
         std::map<std::string, OwnDevice> before = std::exchange(devices_, {});
         const auto now = Clock::now();
         for (const std::string &name : names) {
@@ -186,6 +211,12 @@ private:
         if (due < now) due = now + (has_answered ? milliseconds(0) : retry_);
         reschedule(name, answer.bundle, asked, due);
 
+        if (http_) {
+            for (const std::string &member : metrics_.add(answer)) {
+                log_.line("tarn: " + name + ": more than " + std::to_string(Metrics::most_values) + " values of " +
+                          member + "; the others are no metrics");
+            }
+        }
         const Time ended = time_of(answer.ended);
         // A request that could not be sent before its time was over has no time of its own.
         const bool was_sent = answer.asked != std::chrono::system_clock::time_point();
@@ -197,7 +228,8 @@ private:
 
     tool::Log &log_;
     const milliseconds every_, retry_, discovery_, timeout_;
-    std::set<const reflect::BundleOperations *> bundles_;
+    const std::set<const reflect::BundleOperations *> bundles_;
+    Metrics metrics_;
     std::map<std::string, OwnDevice> devices_;
     std::set<Due> due_;  // also of devices that this collector does not have any more
     std::map<std::string, std::set<const reflect::BundleOperations *>> offered_;
@@ -205,6 +237,7 @@ private:
     Clock::time_point next_discovery_, last_reply_;
     Recorder recorder_;
     Asker asker_;
+    std::optional<HttpServer> http_;
 };
 
 void run_collect(const CollectOptions &options) {
@@ -213,6 +246,7 @@ void run_collect(const CollectOptions &options) {
     tool::Log log;
     Collector collector(options, log);
     std::printf("collecting from %s\n", options.bus.shown().c_str());
+    if (!collector.url().empty()) std::printf("serving %s\n", collector.url().c_str());
     std::fflush(stdout);
     while (!signals.wait_for(0)) {
         for (int i = 0; i < 100; ++i) collector.step(milliseconds(10));
@@ -239,6 +273,23 @@ void add_collect(CLI::App &app, tool::Context &) {
                       "Create the store with the records of its answers as rows, for queries in SQL");
     tool::add_timeout(*command, options->timeout, "Timeout for each answer");
     tool::add_limits(*command, options->limits);
+    CLI::Option *http = command
+                            ->add_option("--http", options->http,
+                                         "Serve metrics at /metrics and a page of the devices at /, at this address, "
+                                         "HOST:PORT; with port 0, the system chooses one")
+                            ->type_name(tool::words::address);
+    command
+        ->add_option("--metric", options->metrics.members,
+                     "Serve the values of this numeric member as a metric, such as tc.proto; repeatable")
+        ->type_name("RECORD.MEMBER")
+        ->allow_extra_args(false)
+        ->needs(http);
+    tool::add_seconds(
+        *command, "--expire", options->expire,
+        "Serve no values of a device that has not answered for that time, at least --every and --timeout");
+    command->get_option("--expire")->needs(http);
+    command->add_flag("--timestamps", options->metrics.has_times, "Serve values with the times of their answers")
+        ->needs(http);
     command->add_flag("--tracked", options->tracked, "Request per-field state");
     tool::add_verbose(*command, options->verbose);
     command->footer(
@@ -251,10 +302,15 @@ void add_collect(CLI::App &app, tool::Context &) {
         "full disk ends the collector with exit code 3; what was committed stays.\n\n"
         "With --rows, the store has the tables and views of \"tarn export\", for all answers and,\n"
         "with the prefix latest_, for the last ones.\n\n"
+        "With --http, the collector serves metrics in the format of OpenMetrics, for Prometheus,\n"
+        "and a page for browsers with all devices of the store, their answers, what changed in\n"
+        "them and their values over time. Whoever reaches the address can read all of that.\n\n"
         "Examples:\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --store history.db\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --bundle dp-tt-cfg \\\n"
-        "    --every 1m --store postgresql://tarn@db.example/fleet --keep 30d");
+        "    --every 1m --store postgresql://tarn@db.example/fleet --keep 30d\n"
+        "  tarn collect --bus nats://bus:4222 --bundle dp-tt-cfg --store history.db \\\n"
+        "    --http 127.0.0.1:9464 --metric tc.proto --metric tc.appl.id");
     command->callback([options] { run_collect(*options); });
 }
 

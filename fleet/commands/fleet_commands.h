@@ -3,7 +3,8 @@
 // What each folder may know (tests/layers checks it):
 //   bus/       requests and answers between machines: the tool's service/, formats/ and support/
 //   store/     answers that are kept: the tool's formats/ and support/
-//   commands/  the command line: both, and the tool
+//   http/      metrics and a page of a collector: both, and the tool's service/, pages/, formats/ and support/
+//   commands/  the command line: all of them, and the tool
 #pragma once
 
 #include <CLI/CLI.hpp>

@@ -156,6 +156,14 @@ void Store::for_each_gap(const Selection &selection, const std::function<void(co
     });
 }
 
+StoredAnswer Store::answer(std::int64_t id) {
+    std::optional<StoredAnswer> found;
+    for_each_answer_in(*database_, "(SELECT * FROM answers WHERE answer_id = " + std::to_string(id) + ") x", {}, always,
+                       never, [&](const StoredAnswer &a) { found = a; });
+    if (!found) throw Failure(Exit::input, shown() + ": there is no answer " + std::to_string(id));
+    return *found;
+}
+
 std::string Store::frames(std::int64_t answer) {
     return database_->guarded([&] { return database_->frames(answer); });
 }

@@ -79,6 +79,8 @@ public:
     // device or bundle selects all.
     std::vector<StoredAnswer> answers_at(const std::string &device, const std::string &bundle, Time time);
 
+    // Throws a Failure with Exit::input if there is no such answer.
+    StoredAnswer answer(std::int64_t id);
     std::string frames(std::int64_t answer);
 
 private:

@@ -10,8 +10,6 @@
 
 namespace fleet_test {
 
-namespace {
-
 int free_port() {
     const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in address{};
@@ -25,8 +23,6 @@ int free_port() {
     close(descriptor);
     return ntohs(address.sin_port);
 }
-
-}  // namespace
 
 BusServer::BusServer(const std::string &settings)
     : port_(free_port()), url_("nats://127.0.0.1:" + std::to_string(port_)) {

@@ -11,6 +11,9 @@
 
 namespace fleet_test {
 
+// Of this machine, for a server that cannot choose one itself.
+int free_port();
+
 class BusServer {
 public:
     // `settings` are lines of its configuration file.

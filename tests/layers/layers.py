@@ -26,6 +26,8 @@ MAY_INCLUDE = {
     "fleet/support": [],
     "fleet/bus": ["fleet/support", "tools/tarn/service", "tools/tarn/formats", "tools/tarn/support"],
     "fleet/store": ["fleet/support", "tools/tarn/formats", "tools/tarn/support"],
+    "fleet/http": ["fleet/bus", "fleet/store", "fleet/support", "tools/tarn/pages", "tools/tarn/service",
+                   "tools/tarn/formats", "tools/tarn/support"],
     "fleet/commands": ["tools/tarn", "fleet"],
 }
 # All layers of the tool and of the fleet may include these.

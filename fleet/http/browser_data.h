@@ -1,0 +1,55 @@
+// What the page of a collector shows of its store, as JSON, and the pages of answers.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+#include "fleet/store/store.h"
+
+namespace tarn::fleet {
+
+// Of a plot.
+struct PlotRequest {
+    std::string device, bundle, member;  // SITE/DEVICE, dp-intf, dp_tc.proto
+    Time since, until;
+    std::string filter;  // only series whose labels contain it
+};
+
+// May be called by several threads. What a request asks for and is not there throws a Failure with Exit::input.
+class BrowserData {
+public:
+    // An answer that is greater is not shown as a page.
+    static constexpr std::int64_t most_viewed = std::int64_t{16} << 20;
+    // A history has the newest of its answers and gaps.
+    static constexpr std::size_t most_events = 1000;
+    // Of more answers, a plot shows every second one, every third one and so on; and the first of more series.
+    static constexpr std::size_t most_plotted = 1000, most_series = 50;
+
+    explicit BrowserData(std::string store);
+    ~BrowserData();
+
+    // All devices and bundles with the last answer and the gap after it.
+    std::string devices(Time now);
+    // The numeric members by bundle.
+    static std::string members();
+    // The answers and gaps of a device, newest first.
+    std::string history(const std::string &device, Time since, Time until);
+    // What differs between two answers.
+    std::string changes(std::int64_t a, std::int64_t b);
+    std::string values(const PlotRequest &request);
+    // The page that "tarn view" writes.
+    std::string view(std::int64_t a, std::optional<std::int64_t> b);
+
+private:
+    std::string with_store(const std::function<std::string(Store &)> &work);
+
+    const std::string where_;
+    std::mutex lock_;
+    std::unique_ptr<Store> store_;
+};
+
+}  // namespace tarn::fleet
