@@ -65,13 +65,13 @@ const columns = [
     cell: d => [d.gap ? d.gap.reason + ', for ' + durationText(age(d.gap.from)) : 'answers']},
   {name: 'last', title: 'Last answer', key: d => d.answer ? age(d.answer.to) : Infinity,
     cell: d => [d.answer ? durationText(age(d.answer.to)) + ' ago' : 'never']},
-  {name: 'changed', title: 'Last change', key: d => changed(d) ? age(d.answer.from) : Infinity,
-    cell: d => [changed(d) ? durationText(age(d.answer.from)) + ' ago' : 'none']},
+  {name: 'same', title: 'Unchanged for', key: d => d.answer ? d.answer.to - d.answer.from : Infinity,
+    cell: d => [d.answer ? durationText(d.answer.to - d.answer.from) : '']},
   {name: 'size', title: 'Size', key: d => d.answer ? -d.answer.size : 0,
     cell: d => [d.answer ? sizeText(d.answer.size) : '']},
 ];
-// The first answer that is known is no change.
-const changed = d => d.answer && d.answer.number > 1;
+// The first answer that is known is not new.
+const isNew = d => d.answer && d.answer.number > 1;
 
 function shownDevices() {
   const wanted = element('search').value.trim().toLowerCase(), silent = element('silent').checked;
@@ -109,7 +109,7 @@ function summarize() {
   element('summary').className = '';
   element('summary').textContent = countText(count(() => true), 'device') + ', ' +
     (silent ? silent + (silent === 1 ? ' does' : ' do') + ' not answer' : 'all answer') + ', ' +
-    count(d => changed(d) && age(d.answer.from) < 3600000) + ' changed in the last hour';
+    count(d => isNew(d) && age(d.answer.from) < 3600000) + ' with new answers in the last hour';
 }
 
 async function load() {
@@ -152,7 +152,10 @@ function openDevice() {
   element('device').hidden = !device;
   document.querySelector('main').classList.toggle('open', Boolean(device));
   drawDevices();
-  if (!device) return;
+  if (!device) {
+    ++latest;  // Nothing is drawn where it has no size.
+    return;
+  }
   element('name').textContent = device;
   element('range').value = address().get('time') ?? '86400000';
   element('filter').value = address().get('rows') || '';
@@ -326,7 +329,7 @@ async function compare(isLatest) {
     const {searchParams} = new URL(event.link.href), link = event.link;
     const {text, total} = await get('changes', {a: searchParams.get('a'), b: searchParams.get('b')});
     if (!isLatest()) return;
-    link.textContent = (state.base ? link.textContent + ':\n' : '') + (total ? text.trim() : 'only stamps');
+    link.textContent = (state.base ? link.textContent + ':\n' : '') + (total ? text.trim() : 'no change');
   }
 }
 

@@ -162,6 +162,11 @@ class Test:
         page.key("Escape")
         check(page.run("document.getElementById('device').hidden"), "Escape closes the device")
 
+        # What is still on its way then must not be drawn where it has no size.
+        page.key("n")
+        page.key("Escape")
+        time.sleep(1)
+
         # One that was away for a while.
         page.run("[...document.querySelectorAll('#devices a')].find(a => a.textContent === 'ber/edge-1').click(); 0")
         page.run("document.getElementById('member').value = 'dp-tt-cfg dp_tc.proto';"
@@ -169,7 +174,8 @@ class Test:
         page.wait("state.values.gaps.length > 0 && state.values.series.length === 50 && state.values.more === 78 && " + READY)
         check(page.run("state.values.points.some(p => p.slice(1).every(v => v === null))"), "lines end before a gap")
         check(page.run("state.values.points.some(p => p.slice(1).every(v => v !== null))"), "and begin behind it")
-        check(page.run("document.querySelector('#plot canvas') !== null"), "there is a plot")
+        check(page.run("document.querySelector('#plot canvas').clientWidth === document.getElementById('legend').clientWidth"),
+              "the plot is as wide as its place")
         check(page.run("[...document.querySelectorAll('#history .what')].some(cell => cell.textContent === "
                        "'gap: silent: no such device is on the bus')"), "the history names the gap")
         self.look_at("gap")
