@@ -1,9 +1,10 @@
 #include "fleet/http/browser_data.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -196,7 +197,6 @@ std::string BrowserData::history(const std::string &device, Time since, Time unt
 }
 
 std::string BrowserData::changes(std::int64_t a, std::int64_t b) {
-    constexpr std::size_t most_lines = 20;
     return with_store([&](Store &store) {
         const tool::ViewedFile files[] = {viewed(store, a), viewed(store, b)};
         const tool::Handles handles(tool::Tracking::as_input);
@@ -212,13 +212,12 @@ std::string BrowserData::changes(std::int64_t a, std::int64_t b) {
         };
         tool::Comparison comparison(tool::ComparisonRules{});
         tool::ChangeCounts counts;
-        std::vector<std::string> lines;
         std::size_t total = 0;
         tool::compare_sequences(handles, comparison, versions(0), versions(1), [&](tool::Change &change, std::size_t) {
             counts.add(change);
-            if (++total <= most_lines) lines.push_back(tool::printable(tool::line_of(change)));
+            ++total;
         });
-        return text_of({{"total", total}, {"text", counts.text()}, {"lines", lines}});
+        return text_of({{"total", total}, {"text", counts.text()}});
     });
 }
 

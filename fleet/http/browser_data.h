@@ -38,7 +38,7 @@ public:
     static std::string members();
     // The answers and gaps of a device, newest first.
     std::string history(const std::string &device, Time since, Time until);
-    // What differs between two answers.
+    // How much differs between two answers, by what it is.
     std::string changes(std::int64_t a, std::int64_t b);
     std::string values(const PlotRequest &request);
     // The page that "tarn view" writes.

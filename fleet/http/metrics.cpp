@@ -1,7 +1,9 @@
 #include "fleet/http/metrics.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <span>
 
 #include "schema/digest.h"
 #include "tools/tarn/support/names.h"

@@ -47,7 +47,7 @@ using tool_test::Process;
 
 const std::string tables = std::string(TARN_EXAMPLES) + "/dp_tt_cfg.xml";
 constexpr char host[] = "127.0.0.1";
-constexpr std::chrono::seconds soon(10), long_enough(60);
+constexpr std::chrono::seconds long_enough(60);
 
 bool happens(const std::function<bool()> &condition, std::chrono::seconds within) {
     const auto end = std::chrono::steady_clock::now() + within;
@@ -172,6 +172,21 @@ TEST_F(MetricsTest, TextOfDevicesCannotLeaveItsLabel) {
     EXPECT_EQ(found[0],
               "tarn_device_up{site=\"fra\",device=\"a\\\"} 1\\\\x0a# EOF\\\\x0a\\\\<script>\\\\xff\","
               "bundle=\"dp-tt-cfg\"} 1");
+}
+
+TEST_F(MetricsTest, ADeviceHasALimitedNumberOfValuesAndIsNamedOnce) {
+    Metrics m = metrics({{"tc.proto", "dp-tt-table.state"}});
+    const Directory directory;
+    ASSERT_EQ(tool_test::tarn(
+                  {"generate", "dp-tt-cfg", "--elements", "120", "--form", "frames", "-o", directory.path("many.bin")})
+                  .exit,
+              0);
+    Answer many = answer("r1");
+    many.messages = tarn::tool::read_items(handles_, directory.path("many.bin"), false);
+    EXPECT_EQ(m.add(many), Lines{"dp_tc.proto"});
+    EXPECT_EQ(lines(m, "tarn_dp_tc_proto{").size(), Metrics::most_values);
+    many.messages = tarn::tool::read_items(handles_, directory.path("many.bin"), false);
+    EXPECT_EQ(m.add(many), Lines{});
 }
 
 TEST_F(MetricsTest, WrongNamesAreNamedWithTheNearestRightOne) {
@@ -332,6 +347,35 @@ TEST_F(Served, ValuesHaveAnEndBeforeAGap) {
     EXPECT_EQ(points.at(3).at(0), start + 3010);
     EXPECT_TRUE(points.at(3).at(1).is_number());
     EXPECT_EQ(values.at("gaps"), json::array({json::array({start + 2000, start + 3010})}));
+}
+
+TEST_F(Served, OfManyAnswersAPlotShowsSomeAndTheLastOne) {
+    server_.reset();
+    Keeper keeper(store_, 60'000, 0);
+    const std::pair<std::string, std::string> device{"fra/r3", "fra"};
+    keeper.add_devices({&device, 1});
+    // The devices of the keeper that is gone.
+    for (int i = 0; i < 20 && !keeper.owns("fra/r3"); ++i) keeper.renew();
+    const std::string either[] = {frames("1"), frames("2")};
+    const std::string_view bundle = tarn::tool::bundle_named("dp-intf").bundle->name;
+    std::vector<Outcome> outcomes;
+    constexpr std::size_t count = 2 * BrowserData::most_plotted + 10;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Time time = start + 1000 * static_cast<Time>(i);
+        outcomes.push_back({"fra/r3", bundle, time, time, either[i % 2], ""});
+    }
+    ASSERT_EQ(keeper.put(outcomes), count);
+    BrowserData data(store_);
+    const json values =
+        json::parse(data.values({"fra/r3", "dp-intf", "dp-wexa-info.flags", 0, INT64_MAX, "in_lumo_wexa.in_wexa"}));
+    EXPECT_EQ(values.at("answers"), count);
+    EXPECT_EQ(values.at("plotted"), count / 3);
+    EXPECT_EQ(values.at("series"), json::array({"path in_lumo_wexa.in_wexa"}));
+    EXPECT_EQ(values.at("points").back().at(0), start + 1000 * static_cast<Time>(count - 1));
+    const json history = json::parse(data.history("fra/r3", 0, INT64_MAX));
+    EXPECT_EQ(history.at("total"), count);
+    ASSERT_EQ(history.at("events").size(), BrowserData::most_events);
+    EXPECT_EQ(history.at("events").at(0).at("number"), count);
 }
 
 TEST_F(Served, WrongRequestsAreRefusedWithTheReason) {
