@@ -336,6 +336,9 @@ class Run:
         print(f"answers sent {self.sent.count}, kept {kept}, of which {len(self.spans)} differ from the one before; "
               f"{len(self.seen.answers)} of these were read before the end")
         print(f"kills {self.kills}, devices away {sum(len(a.devices) for a in self.away)} times, gaps {len(self.gaps)}")
+        size = int(self.store.query("SELECT pg_database_size(current_database())"))
+        print(f"size of the database: {size / 2**20:.0f} MiB, {size / max(1, len(self.spans)):.0f} bytes for each answer "
+              "that differs")
         print("most memory: " + ", ".join(f"{what} {max(p.most_memory for p in programs):.0f} MiB" for what, programs in (
             ("a server", self.servers), ("a collector", self.collectors),
             (f"the process with {len(self.groups['steady'].names)} devices", [self.groups["steady"]]))))
