@@ -11,13 +11,6 @@
 
 namespace tarn {
 
-// The general way of an operation. In the archive it is a separate function, called if the shortcut does not apply.
-#ifdef TARN_RUNTIME_INSIDE
-#define TARN_GENERAL_WAY [[gnu::noinline]]
-#else
-#define TARN_GENERAL_WAY [[gnu::always_inline]] inline
-#endif
-
 inline constexpr std::uint32_t record_head = schema::record_head_size;
 
 template <const Record &R>
@@ -42,7 +35,7 @@ template <const Record &R>
 struct WireRead {
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                    std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
-    // The same, without the archive's shortcut.
+    // The same without the shortcut, in the archive only.
     static std::uint32_t unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                        std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
 };

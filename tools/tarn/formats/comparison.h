@@ -74,7 +74,7 @@ public:
 
 private:
     struct Row {
-        explicit Row(std::string_view name_) : name(name_) {}
+        explicit Row(std::string_view what) : name(what) {}
 
         std::string name;
         std::size_t added = 0, removed = 0, changed = 0, reordered = 0;
