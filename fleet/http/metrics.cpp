@@ -55,11 +55,11 @@ public:
         text_ += "# HELP " + family + " " + escaped(meaning) + "\n";
     }
 
-    void sample(std::string_view labels, std::string_view value, std::optional<Time> time = {}) {
+    void sample(std::string_view labels, std::string_view value, Time time = 0) {
         text_ += sample_name_;
         if (!labels.empty()) text_.append("{").append(labels).append("}");
         text_.append(" ").append(value);
-        if (time) text_ += " " + seconds_text(*time);
+        if (time != 0) text_ += " " + seconds_text(time);
         text_ += '\n';
     }
     void sample(std::string_view labels, std::uint64_t value) { sample(labels, std::to_string(value)); }
@@ -186,7 +186,7 @@ std::string Metrics::text(Time now, const Recorder::Counts &kept) const {
         out.family(metric_name(members_[i]), "unknown", members_[i].meaning());
         for (const auto &[which, asked] : asked_) {
             if (asked.answered == 0 || now - asked.answered > options_.expire) continue;
-            const std::optional<Time> time = options_.has_times ? std::optional(asked.answered) : std::nullopt;
+            const Time time = options_.has_times ? asked.answered : 0;
             for (const auto &[labels, value] : asked.values[i]) {
                 out.sample(asked.labels + labels, std::to_string(value), time);
             }
