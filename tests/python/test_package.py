@@ -86,6 +86,7 @@ def wrong_values(record, member, kind: str, of: str) -> dict:
         setattr(one, member, ipaddress.ip_network("10.0.0.0/8"))
         assert str(getattr(one, member)) == "10.0.0.0/8"
         texts = ["10.0.0.0", "x/8", "10.0.0.0/256", "10.0.0.0/-1", "fe80::1%65536/64", "256,0,0,0,0,0/0", "2,0,0,0,0/0"]
+        texts += ["10.0.0.0/ 8", "10.0.0.0/+8", "10.0.0.0/1_0", "fe80::1%/64", "fe80::1%lo/64", "10.0.0.0/8\0"]
         return {text: ValueError for text in [*texts, "2,0,4294967296,0,0,0/0", ipaddress.ip_address("10.0.0.0")]}
     if kind == "enumeration":
         assert type(getattr(one, member)).__name__ in documentation

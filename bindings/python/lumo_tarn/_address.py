@@ -8,11 +8,12 @@ import socket
 import struct
 from typing import Sequence, Union
 
+from ._native import ffi, lib
+
 AddressLike = Union[
     "Address", str, ipaddress.IPv4Interface, ipaddress.IPv6Interface, ipaddress.IPv4Network, ipaddress.IPv6Network
 ]
 
-_MOST = (0xFF, 0xFF, 0xFFFF, *[0xFFFFFFFF] * 4)  # of af, prefix_len, scope and the words
 _pack_word, _pack_words = struct.Struct(">I").pack, struct.Struct(">4I").pack
 
 
@@ -48,23 +49,11 @@ class Address:
         if isinstance(value, Address):
             return value
         text = str(value)
-        if text == "unset":
-            return cls()
-        front, slash, length = text.partition("/")
-        if not slash:
-            raise ValueError(f"{text} has no prefix length")
-        if "," in front:
-            af, scope, *word = (int(part) for part in front.split(","))
-        else:
-            front, _, scope_text = front.partition("%")
-            ip = ipaddress.ip_address(front)
-            packed = ip.packed.ljust(16, b"\0")
-            word = [int.from_bytes(packed[at : at + 4], "big") for at in range(0, 16, 4)]
-            af, scope = socket.AF_INET if ip.version == 4 else socket.AF_INET6, int(scope_text or 0)
-        numbers = (af, int(length), scope, *word)
-        if len(word) != 4 or min(numbers) < 0 or any(one > most for one, most in zip(numbers, _MOST)):
-            raise ValueError(f"{text} is not an address")
-        return cls(af, numbers[1], scope, (word[0], word[1], word[2], word[3]))
+        parsed, encoded = ffi.new("ip_address *"), text.encode(errors="replace")
+        if lib.mirk_platform_address_parse(encoded, len(encoded), parsed) != 0:
+            raise ValueError(f"{text} is not an address with a prefix length")
+        word = parsed.word
+        return cls(parsed.af, parsed.prefix_len, parsed.scope, (word[0], word[1], word[2], word[3]))
 
     def __str__(self) -> str:
         return text_of(self.af, self.prefix_len, self.scope, self.word)
