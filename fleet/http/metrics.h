@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
