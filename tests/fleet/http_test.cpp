@@ -238,7 +238,7 @@ protected:
         const std::string_view bundle = tarn::tool::bundle_named("dp-intf").bundle->name;
         const auto put = [&](const std::string &device, Time time, const std::string &frames, const char *reason) {
             const Outcome outcomes[] = {{device, bundle, start + time, start + time + 10, frames, reason}};
-            EXPECT_EQ(keeper.put(outcomes), 1U);
+            EXPECT_EQ(keeper.put(outcomes), (*reason == 0 ? Stored{1, 0} : Stored{0, 1}));
         };
         put("fra/r1", 0, before, "");
         put("fra/r1", 1000, before, "");
@@ -364,7 +364,7 @@ TEST_F(Served, OfManyAnswersAPlotShowsSomeAndTheLastOne) {
         const Time time = start + 1000 * static_cast<Time>(i);
         outcomes.push_back({"fra/r3", bundle, time, time, either[i % 2], ""});
     }
-    ASSERT_EQ(keeper.put(outcomes), count);
+    ASSERT_EQ(keeper.put(outcomes), (Stored{count, 0}));
     BrowserData data(store_);
     const json values =
         json::parse(data.values({"fra/r3", "dp-intf", "dp-wexa-info.flags", 0, INT64_MAX, "in_lumo_wexa.in_wexa"}));

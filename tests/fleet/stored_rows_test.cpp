@@ -184,7 +184,7 @@ TEST_P(StoredRowsTest, ValuesWithoutATypeOfTheirOwnAreKept) {
     const auto put = [&](Keeper &keeper, const std::string &bundle, const std::string &name, const std::string &json) {
         const std::string frames =
             output_of({"encode", directory.write("message.json", json), "--bundle", bundle, "--force"});
-        ASSERT_EQ(keeper.put(std::vector<Outcome>{{"r1", name, t0, t0 + 1, frames, {}}}), 1U);
+        ASSERT_EQ(keeper.put(std::vector<Outcome>{{"r1", name, t0, t0 + 1, frames, {}}}), (Stored{1, 0}));
     };
     const auto writer = keeper();
     put(*writer, "pal-mp-prefix-cfg", "lumo_tarn_pal_mp_prefix_cfg_rsp",
