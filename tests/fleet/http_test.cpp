@@ -40,6 +40,7 @@ using tarn::fleet::NumericMember;
 using tarn::fleet::Outcome;
 using tarn::fleet::Recorder;
 using tarn::fleet::Reply;
+using tarn::fleet::Stored;
 using tarn::fleet::Time;
 using tarn::tool::Failure;
 using tool_test::Directory;
