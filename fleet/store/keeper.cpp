@@ -271,8 +271,9 @@ std::vector<std::string> Keeper::devices() const {
 Keeper::State Keeper::load_state(std::int64_t device, const std::string &bundle) {
     State state;
     std::int64_t gap = 0, began = 0, last_asked = 0, last_asked_in_gap = 0;
-    database_->session() << "SELECT a.answer_id, a.number, a.last_seen, a.last_asked FROM device_bundles p JOIN answers a "
-                            "ON a.answer_id = p.answer_id WHERE p.device_id = :device AND p.bundle = :bundle",
+    database_->session()
+        << "SELECT a.answer_id, a.number, a.last_seen, a.last_asked FROM device_bundles p JOIN answers a "
+           "ON a.answer_id = p.answer_id WHERE p.device_id = :device AND p.bundle = :bundle",
         soci::use(device, "device"), soci::use(bundle, "bundle"), soci::into(state.id), soci::into(state.number),
         soci::into(state.last_seen), soci::into(last_asked);
     database_->session() << "SELECT number, CASE WHEN ended IS NULL THEN began ELSE 0 END, last_asked FROM gaps WHERE "
