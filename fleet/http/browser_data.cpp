@@ -56,16 +56,36 @@ tool::ViewedFile viewed(Store &store, std::int64_t id) {
     return {name_of(a), store.frames(id), {}};
 }
 
+// A place among the requests for a store.
+class Turn {
+public:
+    explicit Turn(std::counting_semaphore<BrowserData::most_waiting> &turns) : turns_(turns) {
+        if (!turns_.try_acquire()) throw Failure(Exit::environment, "too many requests for the store at once");
+    }
+    Turn(const Turn &) = delete;
+    Turn &operator=(const Turn &) = delete;
+    ~Turn() { turns_.release(); }
+
+private:
+    std::counting_semaphore<BrowserData::most_waiting> &turns_;
+};
+
+// What a plot needs of an answer, of which there may be hundreds of thousands.
+struct Span {
+    std::int64_t id, size;
+    Time first_seen, last_seen;
+};
+
 // Lines for the values of a member over time, which may end in between.
 class Plot {
 public:
     explicit Plot(const PlotRequest &request) : request_(request), member_(NumericMember::named(request.member)) {}
 
-    void add(const StoredAnswer &answer, std::string_view frames) {
+    void add(const Span &answer, std::string_view frames) {
         const tool::Handles handles(tool::Tracking::as_input);
         std::map<std::size_t, std::uint64_t> values;  // by series
         std::size_t number = 0;
-        for (tool::Item &item : tool::items_of(handles, frames, name_of(answer), false)) {
+        for (tool::Item &item : tool::items_of(handles, frames, request_.device, false)) {
             if (!item.message) continue;
             const tool::Entry entry{std::move(item), "", ++number, nullptr};
             member_.visit(entry, [&](std::span<const std::string> labels, std::uint64_t value) {
@@ -121,16 +141,16 @@ private:
 };
 
 // Leaves every second answer, every third one and so on, and the last one.
-std::vector<StoredAnswer> thinned(const std::vector<StoredAnswer> &all) {
+std::vector<Span> thinned(const std::vector<Span> &all) {
     constexpr std::int64_t most_bytes = std::int64_t{64} << 20;
     std::int64_t bytes = 0;
-    for (const StoredAnswer &a : all) bytes += a.size;
+    for (const Span &a : all) bytes += a.size;
     const auto step =
         static_cast<std::size_t>(std::max<std::int64_t>((static_cast<std::int64_t>(all.size()) - 1) /
                                                             static_cast<std::int64_t>(BrowserData::most_plotted),
                                                         bytes / most_bytes) +
                                  1);
-    std::vector<StoredAnswer> some;
+    std::vector<Span> some;
     for (std::size_t i = (all.size() + step - 1) % step; i < all.size(); i += step) some.push_back(all[i]);
     return some;
 }
@@ -142,6 +162,7 @@ BrowserData::BrowserData(std::string store) : where_(std::move(store)) {}
 BrowserData::~BrowserData() = default;
 
 std::string BrowserData::with_store(const std::function<std::string(Store &)> &work) {
+    const Turn turn(turns_);
     const std::lock_guard<std::mutex> hold(lock_);
     try {
         if (store_ == nullptr) store_ = std::make_unique<Store>(where_);
@@ -178,20 +199,19 @@ std::string BrowserData::members() {
 std::string BrowserData::history(const std::string &device, Time since, Time until) {
     return with_store([&](Store &store) {
         const Selection selection{store.device_named(device), {}, since, until};
-        std::vector<std::pair<Time, ordered_json>> events;
-        const auto add = [&](Time time, std::string_view bundle, const char *kind, ordered_json json) {
+        std::multimap<Time, ordered_json> newest;
+        std::size_t total = 0;
+        const auto add = [&](Time time, std::string_view bundle, const char *kind, const ordered_json &json) {
             ordered_json event{{"bundle", tool::short_name(bundle)}, {"kind", kind}};
             event.update(json);
-            events.emplace_back(time, std::move(event));
+            newest.emplace(time, std::move(event));
+            if (++total > most_events) newest.erase(newest.begin());
         };
         store.for_each_answer(selection,
                               [&](const StoredAnswer &a) { add(a.first_seen, a.bundle, "answer", json_of(a)); });
         store.for_each_gap(selection, [&](const Gap &g) { add(g.began, g.bundle, "gap", json_of(g)); });
-        std::stable_sort(events.begin(), events.end(), [](const auto &a, const auto &b) { return a.first > b.first; });
-        const std::size_t total = events.size();
-        events.resize(std::min(total, most_events));
         ordered_json shown = ordered_json::array();
-        for (auto &[time, json] : events) shown.push_back(std::move(json));
+        for (auto event = newest.rbegin(); event != newest.rend(); ++event) shown.push_back(std::move(event->second));
         return text_of({{"device", selection.device}, {"total", total}, {"events", std::move(shown)}});
     });
 }
@@ -227,8 +247,10 @@ std::string BrowserData::values(const PlotRequest &request) {
         const Selection selection{store.device_named(request.device), std::string(bundle.bundle->name), request.since,
                                   request.until};
         Plot plot(request);
-        std::vector<StoredAnswer> answers;
-        store.for_each_answer(selection, [&](const StoredAnswer &a) { answers.push_back(a); });
+        std::vector<Span> answers;
+        store.for_each_answer(selection, [&](const StoredAnswer &a) {
+            answers.push_back({a.id, a.size, a.first_seen, a.last_seen});
+        });
         std::vector<Gap> gaps;
         ordered_json gap_times = ordered_json::array();
         store.for_each_gap(selection, [&](const Gap &g) {
@@ -236,9 +258,9 @@ std::string BrowserData::values(const PlotRequest &request) {
             gap_times.push_back({g.began, g.ended.value_or(request.until)});
         });
         auto gap = gaps.begin();
-        const std::vector<StoredAnswer> plotted = thinned(answers);
+        const std::vector<Span> plotted = thinned(answers);
         Time before = 0;
-        for (const StoredAnswer &a : plotted) {
+        for (const Span &a : plotted) {
             // Of the gaps since the answer before this one, one is enough to end the lines.
             bool is_gap = false;
             for (; gap != gaps.end() && gap->began < a.first_seen; ++gap) is_gap = gap->began >= before;
@@ -255,13 +277,11 @@ std::string BrowserData::values(const PlotRequest &request) {
 }
 
 std::string BrowserData::view(std::int64_t a, std::optional<std::int64_t> b) {
-    std::vector<tool::ViewedFile> files;
-    with_store([&](Store &store) {
-        files.push_back(viewed(store, a));
+    return with_store([&](Store &store) {
+        std::vector<tool::ViewedFile> files{viewed(store, a)};
         if (b) files.push_back(viewed(store, *b));
-        return std::string();
+        return tool::view_page(files);
     });
-    return tool::view_page(files);
 }
 
 }  // namespace tarn::fleet

@@ -1,11 +1,13 @@
 // What the page of a collector shows of its store, as JSON, and the pages of answers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <semaphore>
 #include <string>
 
 #include "fleet/store/store.h"
@@ -23,11 +25,13 @@ struct PlotRequest {
 class BrowserData {
 public:
     // An answer that is greater is not shown as a page.
-    static constexpr std::int64_t most_viewed = std::int64_t{16} << 20;
+    static constexpr std::int64_t most_viewed = std::int64_t{4} << 20;
     // A history has the newest of its answers and gaps.
     static constexpr std::size_t most_events = 1000;
     // Of more answers, a plot shows every second one, every third one and so on; and the first of more series.
     static constexpr std::size_t most_plotted = 1000, most_series = 50;
+    // More requests at once are refused, so that those for the metrics do not wait for the store.
+    static constexpr std::ptrdiff_t most_waiting = 12;
 
     explicit BrowserData(std::string store);
     ~BrowserData();
@@ -48,6 +52,7 @@ private:
     std::string with_store(const std::function<std::string(Store &)> &work);
 
     const std::string where_;
+    std::counting_semaphore<most_waiting> turns_{most_waiting};
     std::mutex lock_;
     std::unique_ptr<Store> store_;
 };

@@ -1,9 +1,18 @@
 #include "fleet/http/server.h"
 
+#include <arpa/inet.h>
 #include <httplib.h>
+#include <poll.h>
+#include <strings.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <atomic>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstring>
 #include <map>
 #include <semaphore>
@@ -28,8 +37,9 @@ using httplib::Response;
 using tool::Exit;
 using tool::Failure;
 
-constexpr std::size_t threads = 8;
-constexpr time_t seconds_to_wait = 5;  // for the next bytes of a client
+constexpr std::size_t threads = 16;
+constexpr std::chrono::seconds to_ask(5), to_read(60);     // what a client may take for a request and for its answer
+constexpr std::size_t most_asked = std::size_t{64} << 10;  // bytes of a request
 
 // The page may load what this server has, and nothing else. The pages of answers have a policy of their own, with the
 // digest of their script.
@@ -41,6 +51,88 @@ constexpr char view_policy[] = "base-uri 'none'; form-action 'none'; frame-ances
 constexpr char plain_text[] = "text/plain; charset=utf-8", html[] = "text/html; charset=utf-8",
                css[] = "text/css; charset=utf-8", script[] = "text/javascript; charset=utf-8",
                json[] = "application/json";
+
+// A connection for one request, which it limits as a whole. The library limits the wait for each byte, and no number of
+// bytes, so that some clients that send a byte now and then would keep all others out.
+class Connection : public httplib::Stream {
+public:
+    Connection(socket_t socket, const std::atomic<bool> &ends) : socket_(socket), ends_(ends) {}
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    ~Connection() override {
+        ::shutdown(socket_, SHUT_RDWR);
+        ::close(socket_);
+    }
+
+    bool is_readable() const override { return begin_ < end_ || waits_for(POLLIN, began_ + to_ask); }
+    bool is_writable() const override { return waits_for(POLLOUT, answered_ + to_read); }
+
+    ssize_t read(char *to, std::size_t size) override {
+        if (begin_ == end_) {
+            if (asked_ >= most_asked || !is_readable()) return -1;
+            const ssize_t got = ::recv(socket_, buffer_.data(), buffer_.size(), 0);
+            if (got <= 0) return got;
+            begin_ = 0;
+            end_ = static_cast<std::size_t>(got);
+            asked_ += end_;
+        }
+        const std::size_t count = std::min(size, end_ - begin_);
+        std::copy_n(buffer_.data() + begin_, count, to);
+        begin_ += count;
+        return static_cast<ssize_t>(count);
+    }
+
+    ssize_t write(const char *text, std::size_t size) override {
+        if (answered_ == Clock::time_point()) answered_ = Clock::now();
+        return is_writable() ? ::send(socket_, text, size, MSG_NOSIGNAL | MSG_DONTWAIT) : -1;
+    }
+
+    void get_remote_ip_and_port(std::string &, int &) const override {}
+    void get_local_ip_and_port(std::string &, int &) const override {}
+    socket_t socket() const override { return socket_; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    bool waits_for(short event, Clock::time_point until) const {
+        constexpr std::chrono::milliseconds slice(100);  // after which the end of the server is noticed
+        for (auto now = Clock::now(); now < until && !ends_; now = Clock::now()) {
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - now);
+            pollfd entry{socket_, event, 0};
+            if (::poll(&entry, 1, static_cast<int>(std::min(left, slice).count())) > 0) return true;
+        }
+        return false;
+    }
+
+    const socket_t socket_;
+    const std::atomic<bool> &ends_;
+    const Clock::time_point began_ = Clock::now();
+    Clock::time_point answered_;
+    std::array<char, 4096> buffer_;
+    std::size_t begin_ = 0, end_ = 0, asked_ = 0;
+};
+
+class LimitedServer : public httplib::Server {
+public:
+    void end() {
+        ends_ = true;
+        stop();
+    }
+
+private:
+    bool process_and_close_socket(socket_t socket) override {
+        Connection connection(socket, ends_);
+        bool is_closed = false;
+        return process_request(connection, true, is_closed, [](Request &request) {
+            // Of the ways to compress an answer, the others take seconds for large ones.
+            const bool has_gzip = request.get_header_value("Accept-Encoding").find("gzip") != std::string::npos;
+            request.headers.erase("Accept-Encoding");
+            if (has_gzip) request.set_header("Accept-Encoding", "gzip");
+        });
+    }
+
+    std::atomic<bool> ends_ = false;
+};
 
 // With as many clients as threads, the next one is accepted when one of them is done.
 class BoundedPool : public httplib::ThreadPool {
@@ -123,6 +215,16 @@ void fail(Response &response, int status, const std::string &text) {
     response.set_content(text + "\n", plain_text);
 }
 
+// True for an address, "localhost", and the host that the server was given. A name that others can let point here would
+// let their pages read this server in a browser that can reach it.
+bool is_own(std::string host, const std::string &given) {
+    host.resize(std::min(host.size(), host.find(':', host.starts_with('[') ? host.find(']') : 0)));
+    if (host.starts_with('[') && host.ends_with(']')) host = host.substr(1, host.size() - 2);
+    in6_addr address;
+    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 || ::inet_pton(AF_INET6, host.c_str(), &address) == 1 ||
+           ::strcasecmp(host.c_str(), "localhost") == 0 || ::strcasecmp(host.c_str(), given.c_str()) == 0;
+}
+
 void respond(const std::map<std::string, Resource> &resources, const Request &request, Response &response) {
     if (request.method != "GET" && request.method != "HEAD") {
         response.set_header("Allow", "GET, HEAD");
@@ -163,18 +265,15 @@ struct HttpServer::Parts {
     explicit Parts(const std::string &store) : data(store) {}
 
     BrowserData data;
-    httplib::Server server;
+    LimitedServer server;
     std::thread thread;
 };
 
 HttpServer::HttpServer(const std::string &address, const std::string &store, std::function<std::string()> metrics)
     : parts_(std::make_unique<Parts>(store)) {
     const auto [host, port] = host_and_port(address);
-    httplib::Server &server = parts_->server;
+    LimitedServer &server = parts_->server;
     server.new_task_queue = [] { return new BoundedPool; };
-    server.set_keep_alive_max_count(1);
-    server.set_read_timeout(seconds_to_wait);
-    server.set_write_timeout(seconds_to_wait);
     server.set_payload_max_length(0);
     // Two processes cannot share the port.
     server.set_socket_options([](socket_t socket) {
@@ -186,8 +285,14 @@ HttpServer::HttpServer(const std::string &address, const std::string &store, std
                                 {"Referrer-Policy", "no-referrer"},
                                 {"Cache-Control", "no-store"}});
     server.set_pre_routing_handler(
-        [resources = resources_of(parts_->data, metrics)](const Request &request, Response &response) {
-            respond(resources, request, response);
+        [resources = resources_of(parts_->data, metrics), given = host](const Request &request, Response &response) {
+            const std::string wanted = request.get_header_value("Host");
+            if (is_own(wanted, given)) {
+                respond(resources, request, response);
+            } else {
+                fail(response, 421,
+                     "the host " + tool::in_quotes(wanted) + " is neither an address nor the host that --http names");
+            }
             return httplib::Server::HandlerResponse::Handled;
         });
     errno = 0;
@@ -204,7 +309,7 @@ HttpServer::HttpServer(const std::string &address, const std::string &store, std
 
 HttpServer::~HttpServer() {
     if (parts_ == nullptr || !parts_->thread.joinable()) return;
-    parts_->server.stop();
+    parts_->server.end();
     parts_->thread.join();
 }
 

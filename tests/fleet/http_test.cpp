@@ -1,8 +1,12 @@
 // What a collector serves: metrics, which a real Prometheus reads, and the data of its page.
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <httplib.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <functional>
@@ -12,6 +16,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -206,13 +211,20 @@ TEST_F(MetricsTest, WrongNamesAreNamedWithTheNearestRightOne) {
     EXPECT_EQ(error("tc.appl.id"), "no error");
 }
 
-// Prometheus would refuse a family that appears twice.
-TEST_F(MetricsTest, NamesOfMetricsAreUnique) {
+// Prometheus would refuse a family or a label that appears twice.
+TEST_F(MetricsTest, NamesOfMetricsAndLabelsAreUnique) {
     MetricsOptions all;
     std::set<std::string> seen;
     for (const auto *const message : tarn::schema::messages) {
         for (const auto &[name, meaning] : tarn::fleet::numeric_members(*message)) {
-            if (seen.insert(name).second) all.members.push_back(name);
+            if (!seen.insert(name).second) continue;
+            all.members.push_back(name);
+            std::set<std::string> labels{"site", "device", "bundle"};
+            const NumericMember member = NumericMember::named(name);
+            for (std::string label : member.labels()) {
+                std::replace(label.begin(), label.end(), '.', '_');
+                EXPECT_TRUE(labels.insert(label).second) << name << ": " << label;
+            }
         }
     }
     EXPECT_GT(seen.size(), 100U);
@@ -223,6 +235,10 @@ TEST_F(MetricsTest, NamesOfMetricsAreUnique) {
         ++count;
     }
     EXPECT_EQ(families.size(), count);
+    for (std::string name : seen) {
+        std::replace(name.begin(), name.end(), '.', '_');
+        EXPECT_TRUE(families.contains("# TYPE tarn_" + name)) << name;
+    }
 }
 
 // ---- the server
@@ -400,10 +416,11 @@ TEST_F(Served, WrongRequestsAreRefusedWithTheReason) {
         EXPECT_EQ(result->get_header_value("Content-Type"), "text/plain; charset=utf-8");
     }
     for (const char *const method : {"POST", "PUT", "DELETE", "PATCH", "OPTIONS", "TRACE"}) {
-        const std::string answer = raw(std::string(method) + " / HTTP/1.1\r\nHost: x\r\nContent-Length: 3\r\n\r\nabc");
+        const std::string answer =
+            raw(std::string(method) + " / HTTP/1.1\r\nHost: 127.0.0.1\r\nContent-Length: 3\r\n\r\nabc");
         EXPECT_TRUE(answer.starts_with(contains("TRACE", method) ? "HTTP/1.1 4" : "HTTP/1.1 405 ")) << answer;
     }
-    EXPECT_TRUE(raw("GET / HTTP/1.1\r\nHost: x\r\nRange: bytes=0-,0-,0-\r\n\r\n").starts_with("HTTP/1.1 416 "));
+    EXPECT_TRUE(raw("GET / HTTP/1.1\r\nHost: [::1]:1\r\nRange: bytes=0-,0-,0-\r\n\r\n").starts_with("HTTP/1.1 416 "));
     EXPECT_TRUE(raw("GET /" + std::string(9000, 'a') + " HTTP/1.1\r\nHost: x\r\n\r\n").starts_with("HTTP/1.1 414 "));
     EXPECT_TRUE(raw("garbage\r\n\r\n").starts_with("HTTP/1.1 4"));
     EXPECT_EQ(get("/metrics")->body, "metrics\n# EOF\n");
@@ -412,11 +429,121 @@ TEST_F(Served, WrongRequestsAreRefusedWithTheReason) {
 TEST_F(Served, ManySilentClientsKeepNobodyElseFromBeingServedForLong) {
     std::vector<tool_test::Socket> idle;
     const std::string number = port().substr(0, port().size() - 1);
-    for (int i = 0; i < 12; ++i) idle.push_back(tool_test::Socket::connect_to_port(number));
+    for (int i = 0; i < 20; ++i) idle.push_back(tool_test::Socket::connect_to_port(number));
     client_->set_read_timeout(60);
     const auto result = get("/metrics");
     ASSERT_TRUE(result);
     EXPECT_EQ(result->status, 200);
+}
+
+TEST_F(Served, AClientThatSendsAByteNowAndThenIsDisconnected) {
+    const std::string number = port().substr(0, port().size() - 1);
+    const auto slow = tool_test::Socket::connect_to_port(number);
+    EXPECT_TRUE(happens([&] { return !slow.send("G"); }, std::chrono::seconds(15)));
+    // One that sends headers without an end.
+    const auto endless = tool_test::Socket::connect_to_port(number);
+    ASSERT_TRUE(endless.send("GET / HTTP/1.1\r\n"));
+    std::size_t lines = 0;
+    const std::string line = "X: " + std::string(1000, 'x') + "\r\n";
+    while (lines < 10'000 && endless.send(line)) ++lines;
+    EXPECT_LT(lines, 10'000U);
+}
+
+TEST_F(Served, TheServerEndsWhateverItsClientsDo) {
+    const std::string number = port().substr(0, port().size() - 1);
+    std::vector<tool_test::Socket> idle;
+    for (int i = 0; i < 20; ++i) idle.push_back(tool_test::Socket::connect_to_port(number));
+    const auto begin = std::chrono::steady_clock::now();
+    server_.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(4));
+}
+
+// Otherwise, the page of another host, whose name points here for a moment, could read everything.
+TEST_F(Served, ARequestForTheNameOfAnotherHostIsRefused) {
+    const auto ask = [&](const std::string &host) {
+        return raw("GET /data/devices HTTP/1.1\r\nHost:" + host + "\r\n\r\n");
+    };
+    for (const std::string host : {"127.0.0.1", "127.0.0.1:9464", "[::1]", "[::1]:9464", "localhost", "LOCALHOST:80"}) {
+        EXPECT_TRUE(ask(host).starts_with("HTTP/1.1 200 ")) << host;
+    }
+    for (const std::string host : {"", "evil.example", "evil.example:80", "localhost.evil.example",
+                                   "127.0.0.1.evil.example", "[::1", "[evil.example]", "::1", ":80"}) {
+        const std::string answer = ask(host);
+        EXPECT_TRUE(answer.starts_with("HTTP/1.1 421 ")) << host << answer;
+        EXPECT_FALSE(contains(answer, "fra/r1")) << host;
+    }
+    const HttpServer named("localhost:0", store_, [] { return std::string("all\n"); });
+    httplib::Client client(named.url().substr(0, named.url().size() - 1));
+    const auto result = client.Get("/metrics");
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->body, "all\n");
+}
+
+TEST_F(Served, AnswersAreCompressedInTheWayThatIsFast) {
+    const auto coding = [&](const char *accepted) {
+        const auto result = client_->Get("/fleet.js", {{"Accept-Encoding", accepted}});
+        return result ? result->get_header_value("Content-Encoding") : "no answer";
+    };
+    EXPECT_EQ(coding("gzip, deflate, br"), "gzip");
+    EXPECT_EQ(coding("br"), "");
+}
+
+TEST_F(Served, AStoreThatDoesNotReplyDoesNotDelayTheMetrics) {
+    const int database = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    ASSERT_EQ(::bind(database, reinterpret_cast<sockaddr *>(&address), size), 0);
+    ASSERT_EQ(::listen(database, 100), 0);
+    ASSERT_EQ(::getsockname(database, reinterpret_cast<sockaddr *>(&address), &size), 0);
+    const HttpServer server("127.0.0.1:0",
+                            "postgresql://tarn@127.0.0.1:" + std::to_string(ntohs(address.sin_port)) + "/fleet",
+                            [] { return std::string("all\n"); });
+    const std::string url = server.url().substr(0, server.url().size() - 1);
+    constexpr std::ptrdiff_t clients = BrowserData::most_waiting + 10;
+    std::atomic<int> refused = 0, ended = 0;
+    std::vector<std::thread> threads;
+    for (std::ptrdiff_t i = 0; i < clients; ++i) {
+        threads.emplace_back([&] {
+            httplib::Client client(url);
+            client.set_read_timeout(600);
+            const auto result = client.Get("/data/devices");
+            if (result && result->body == "too many requests for the store at once\n") ++refused;
+            ++ended;
+        });
+    }
+    EXPECT_TRUE(happens([&] { return refused > 0; }, long_enough));
+    httplib::Client client(url);
+    client.set_read_timeout(60);
+    const auto result = client.Get("/metrics");
+    EXPECT_LT(ended, clients);
+    ::close(database);  // which ends the connections to it
+    for (std::thread &thread : threads) thread.join();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->body, "all\n");
+}
+
+TEST_F(Served, AnAnswerThatIsTooLargeForAPageIsNamed) {
+    server_.reset();
+    Keeper keeper(store_, 60'000, 0);
+    for (int i = 0; i < 20 && !keeper.owns("fra/r1"); ++i) keeper.renew();
+    const std::string large(BrowserData::most_viewed + 1, 'x');
+    const Outcome outcome{"fra/r1", tarn::tool::bundle_named("cl-debug").bundle->name, start, start, large, ""};
+    ASSERT_EQ(keeper.put({&outcome, 1}).answers, 1U);
+    BrowserData data(store_);
+    const json history = json::parse(data.history("fra/r1", 0, INT64_MAX));
+    for (const json &event : history.at("events")) {
+        if (event.at("bundle") != "cl-debug") continue;
+        try {
+            data.view(event.at("id"), {});
+            FAIL();
+        } catch (const Failure &failure) {
+            EXPECT_TRUE(contains(failure.what(), "has 4194305 bytes, more than a page of the collector shows"));
+            return;
+        }
+    }
+    FAIL();
 }
 
 TEST_F(Served, AStoreThatGoesAwayIsNamed) {
