@@ -230,7 +230,11 @@ bool Keeper::renew() {
         long long own = 0;
         database_->session() << "SELECT count(*) FROM devices WHERE owner = :me", soci::use(name_, "me"),
             soci::into(own);
-        if (own != static_cast<long long>(owned_.size())) has_changed = true;
+        if (own != static_cast<long long>(owned_.size())) {
+            // This collector was thought to be gone. Of devices that it gets back, another one may have stored more.
+            owned_.clear();
+            has_changed = true;
+        }
         const long long difference = own < share ? share - own : own - share;
         if (difference == 0) return;
         const std::string chosen = own < share ? "owner IS NULL" : "owner = :me";
@@ -451,7 +455,7 @@ std::size_t Keeper::forget(Time before) {
             soci::into(first), soci::into(last);
     });
     // In short transactions, since other collectors of a SQLite file wait for them. Blocks of answers are in the order
-    // of time.
+    // of time. The last answer of a device stays until a gap begins, since the next one may be the same.
     for (bool has_old = true; first <= last && has_old; first += step) {
         const std::string range =
             "answer_id >= " + std::to_string(first) + " AND answer_id < " + std::to_string(first + step);
@@ -460,8 +464,14 @@ std::size_t Keeper::forget(Time before) {
             database_->session() << "SELECT coalesce(min(first_seen), 0) FROM answers WHERE " + range,
                 soci::into(oldest);
             has_old = oldest < before;
-            const long long gone = change(*database_, "DELETE FROM answers WHERE last_seen < :before AND " + range,
-                                          soci::use(before, "before"));
+            const long long gone =
+                change(*database_,
+                       "DELETE FROM answers WHERE last_seen < :before AND " + range +
+                           " AND NOT EXISTS (SELECT 1 FROM device_bundles p WHERE "
+                           "p.device_id = answers.device_id AND p.bundle = answers.bundle AND "
+                           "p.answer_id = answers.answer_id AND NOT EXISTS (SELECT 1 FROM gaps g WHERE "
+                           "g.device_id = p.device_id AND g.bundle = p.bundle AND g.ended IS NULL))",
+                       soci::use(before, "before"));
             if (gone == 0) return;
             forgotten += static_cast<std::size_t>(gone);
             database_->run("DELETE FROM contents WHERE " + range + " AND NOT EXISTS " +

@@ -132,7 +132,8 @@ public:
     // known, and those of a device that another collector has asked later.
     Stored put(std::span<const Outcome> outcomes);
 
-    // Deletes what ended before that time. Returns the number of spans and gaps.
+    // Deletes what ended before that time, but not the last answer of a device that answers. Returns the number of
+    // spans and gaps.
     std::size_t forget(Time before);
 
 private:

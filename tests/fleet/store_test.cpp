@@ -285,6 +285,21 @@ TEST_P(StoreTest, DevicesOfACollectorThatIsGonePassToAnother) {
     EXPECT_EQ(answers_in(where()).size(), 0U);
 }
 
+TEST_P(StoreTest, ACollectorThatGetsDevicesBackContinuesWhatTheOtherStored) {
+    Keeper a(where(), 500, 0);
+    a.add_devices(std::vector<std::pair<std::string, std::string>>{{"r1", ""}});
+    a.renew();
+    a.put(std::vector{answer("r1", "one", t0)});
+    usleep(1'000'000);
+    keeper_of(where(), {})->put(std::vector{answer("r1", "two", t0 + 1000)});
+    EXPECT_TRUE(a.renew());
+    a.put(std::vector{answer("r1", "one", t0 + 2000)});
+    const std::vector<StoredAnswer> answers = answers_in(where(), {.device = "r1"});
+    ASSERT_EQ(answers.size(), 3U);
+    EXPECT_EQ(answers[0].times, 1);
+    EXPECT_EQ(answers[2].number, 3);
+}
+
 // As after the loss of a connection while a transaction is committed.
 TEST_P(StoreTest, OutcomesThatAreRepeatedAreStoredOnce) {
     const Time begin = time_now() - 10'000;
@@ -331,6 +346,16 @@ TEST_P(StoreTest, ForgetsWhatEndedBefore) {
     // The answer before it is gone.
     EXPECT_EQ(answers_in(where(), {.device = "r1"}).size(), 1U);
     EXPECT_EQ(Store(where()).answers_at("r1", "", t0 + 1500).size(), 0U);
+}
+
+TEST_P(StoreTest, TheLastAnswerOfADeviceThatAnswersIsNotForgotten) {
+    const auto keeper = keeper_of(where(), {{"r1", ""}});
+    keeper->put(std::vector{answer("r1", "one", t0)});
+    EXPECT_EQ(keeper->forget(t0 + 1000), 0U);
+    keeper->put(std::vector{answer("r1", "one", t0 + 2000), silence("r1", "timeout", t0 + 3000)});
+    ASSERT_EQ(answers_in(where()).size(), 1U);
+    EXPECT_EQ(answers_in(where())[0].times, 2);
+    EXPECT_EQ(keeper->forget(t0 + 4000), 1U);
 }
 
 TEST_P(StoreTest, ForgetsInSeveralTransactions) {
