@@ -203,7 +203,14 @@ void Asker::handle_reply(const BusMessage &message) {
     try {
         const FrameBytes text = message.payload();
         if (text.size() > longest_description) throw Failure(Exit::input, "a reply to the discovery is too long");
-        if (const std::optional<Device> device = device_of(tool::chars_of(text))) events_.on_device(*device);
+        const std::optional<Device> device = device_of(tool::chars_of(text));
+        if (!device) return;
+        if (discovered_.size() >= options_.most_devices && discovered_.count(device->name) == 0) {
+            throw Failure(Exit::input, "more than " + std::to_string(options_.most_devices) +
+                                           " devices reply to the discovery; the others are ignored");
+        }
+        discovered_.insert(device->name);
+        events_.on_device(*device);
     } catch (const Failure &failure) {
         report("", failure.what());
     }

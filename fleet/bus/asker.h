@@ -39,6 +39,7 @@ struct AskerOptions {
     BusOptions bus;
     tool::AnswerLimits limits;
     bool tracked = false;
+    std::size_t most_devices = 100'000;  // that may be discovered
 };
 
 struct AskerEvents {
@@ -111,7 +112,8 @@ private:
     std::size_t in_flight_ = 0;                                     // requests that take room
     std::size_t typical_size_ = 32 << 10;                           // of an answer
     std::uint64_t kept_ = 0;                                        // bytes of incomplete answers
-    std::map<std::string, unsigned> strays_;                        // messages that were not asked for, by device
+    std::set<DeviceName> discovered_;
+    std::map<std::string, unsigned> strays_;  // messages that were not asked for, by device
     std::set<std::string> reported_;
 };
 

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "bus.h"
+#include "fleet/bus/asker.h"
 #include "fleet/bus/names.h"
 #include "mirk_platform.h"
 #include "output.h"
@@ -199,6 +200,28 @@ TEST_F(HostileBus, MalformedRepliesToTheDiscoveryAreReportedAndIgnored) {
     EXPECT_TRUE(contains(outcome.err, "a reply to the discovery is too long"));
     EXPECT_FALSE(contains(outcome.err, "\x1b"));
     natsSubscription_Destroy(subscription);
+}
+
+TEST_F(HostileBus, InventedDevicesAreLimited) {
+    using namespace tarn::fleet;
+    const DeviceProcess second(bus_, "second"), third(bus_, "third");
+    std::size_t found = 0;
+    std::vector<std::string> problems;
+    AskerOptions options;
+    options.bus.url = bus_.url();
+    options.most_devices = 2;
+    Asker asker(options,
+                {.on_device = [&](const Device &) { ++found; },
+                 .on_answer = [](Answer &&) {},
+                 .on_problem = [&](const std::string &, const std::string &text) { problems.push_back(text); }});
+    const auto end = Asker::Clock::now() + std::chrono::seconds(60);
+    for (int i = 0; i < 2; ++i) {
+        const std::size_t expected = found + 2;
+        asker.discover();
+        while ((found < expected || problems.empty()) && Asker::Clock::now() < end) asker.wait(end);
+    }
+    EXPECT_EQ(found, 4U);
+    EXPECT_EQ(problems, std::vector<std::string>{"more than 2 devices reply to the discovery; the others are ignored"});
 }
 
 TEST_F(HostileBus, SeveralProcessesForOneDeviceAreNamed) {
