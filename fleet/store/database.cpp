@@ -33,10 +33,16 @@ std::string shown_store(const std::string &where) {
     return tool::printable(where.substr(0, colon) + where.substr(at));
 }
 
-// Lets through what the engine reports on several lines as one.
+// Lets through what the engine reports on several lines as one, without the function of the library that it begins
+// with.
 std::string one_line(std::string text) {
+    const std::size_t function_ends = text.find(": ");
+    if (const std::size_t scope = text.find("::"); scope < text.find(' ') && function_ends != std::string::npos) {
+        text.erase(0, function_ends + 2);
+    }
     while (!text.empty() && (text.back() == '\n' || text.back() == ' ')) text.pop_back();
     std::replace(text.begin(), text.end(), '\n', ' ');
+    std::erase(text, '\t');
     return tool::printable(text, 500);
 }
 
@@ -97,6 +103,7 @@ void Database::fail(const soci::soci_error &error) {
     bool is_temporary = false;
     if (const auto *const sqlite = dynamic_cast<const soci::sqlite3_soci_error *>(&error)) {
         const int code = sqlite->result() & 0xFF;
+        if (code == SQLITE_NOTADB) throw Failure(Exit::input, shown_ + ": not a SQLite database");
         is_temporary = code == SQLITE_BUSY || code == SQLITE_LOCKED;
     } else if (const auto *const server = dynamic_cast<const soci::postgresql_soci_error *>(&error)) {
         // Connection, lack of resources but for a full disk, intervention of the operator, serialization.
