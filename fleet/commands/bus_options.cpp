@@ -7,11 +7,13 @@
 namespace tarn::fleet {
 
 CLI::Option *add_bus(CLI::App &command, CLI::App &group, BusOptions &options) {
-    CLI::Option *bus = group
-                           .add_option("--bus", options.url,
-                                       "Address of a bus (a server of NATS), such as nats://127.0.0.1:4222; several "
-                                       "are separated by commas")
-                           ->type_name(words::url);
+    CLI::Option *bus =
+        group
+            .add_option("--bus", options.url,
+                        "Address of a bus (a server of NATS), such as nats://127.0.0.1:4222; several "
+                        "are separated by commas")
+            ->type_name(words::url)
+            ->check([](const std::string &text) { return text.empty() ? "must not be empty" : std::string(); });
     command.add_option("--bus-ca", options.ca, "Certificates of the authorities that sign those of the bus's servers")
         ->type_name(tool::words::file)
         ->needs(bus);

@@ -1,4 +1,6 @@
 // tarn show --bus: asks many devices at once and prints their answers as they arrive.
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -38,11 +40,11 @@ public:
         : options_(options),
           fleet_(fleet),
           bundle_(tool::bundle_named(options.bundle)),
-          asker_(
-              {fleet.bus, options.limits, options.tracked},
-              {.on_device = [this](const Device &device) { found(device); },
-               .on_answer = [this](Answer &&answer) { ended(answer); },
-               .on_problem = [](const std::string &device, const std::string &text) { print_problem(device, text); }}) {
+          asker_({fleet.bus, options.limits, options.tracked},
+                 {.on_device = [this](const Device &device) { found(device); },
+                  .on_answer = [this](Answer &&answer) { ended(answer); },
+                  .on_problem = [this](const std::string &device,
+                                       const std::string &text) { print_problem(device, text); }}) {
         if (!options.save.empty()) saved_.emplace(options.save);
         if (options.save != "-") out_.emplace("-");
     }
@@ -59,17 +61,18 @@ public:
             }
         }
         if (needs_discovery) asker_.discover();
-        tool::Progress progress("devices");
         while (asker_.open() != 0 || (needs_discovery && !is_discovery_complete())) {
             asker_.wait(std::min(deadline_, Asker::Clock::now() + std::chrono::milliseconds(10)));
-            progress.at(ended_, asked_.size());
+            progress_->at(ended_, asked_.size());
             if (Asker::Clock::now() >= deadline_ && asker_.open() == 0) break;
         }
         return finish();
     }
 
 private:
-    static void print_problem(const std::string &device, const std::string &text) {
+    // Ends the line of progress; the next one appears after a second.
+    void print_problem(const std::string &device, const std::string &text) {
+        progress_.emplace("devices");
         std::fprintf(stderr, "tarn: %s%s\n", device.empty() ? "" : (device + ": ").c_str(), text.c_str());
     }
 
@@ -114,6 +117,7 @@ private:
             if (saved_) saved_->append(tool::chars_of(answer.frames));
         }
         if (!out_) return;
+        if (is_terminal_) progress_.emplace("devices");
         if (options_.json) return out_->append(json_of(answer) + "\n");
         if (answer.reply != Reply::answered) return;
         text_.clear();
@@ -130,12 +134,13 @@ private:
 
     static std::string heading(const std::string &name) { return "== " + name + "\n"; }
 
+    nlohmann::ordered_json json_of(const std::string &device, const nlohmann::ordered_json &site, Reply reply) const {
+        return {{"device", device}, {"site", site}, {"reply", word(reply)}, {"bundle", bundle_.bundle->name}};
+    }
+
     // The messages are written as they are, without a tree of their values.
-    static std::string json_of(const Answer &answer) {
-        nlohmann::ordered_json json{{"device", answer.device.device},
-                                    {"site", answer.device.site},
-                                    {"reply", word(answer.reply)},
-                                    {"bundle", answer.bundle->bundle->name}};
+    std::string json_of(const Answer &answer) const {
+        nlohmann::ordered_json json = json_of(answer.device.device, answer.device.site, answer.reply);
         if (answer.reply != Reply::answered) {
             json["reason"] = answer.reason;
             return tool::json_text(json);
@@ -152,15 +157,22 @@ private:
     }
 
     Exit finish() {
+        for (const std::string &name : wanted_) {
+            constexpr char reason[] = "no such device replies to the discovery";
+            is_complete_ = false;
+            print_problem(name, std::string(word(Reply::silent)) + ": " + reason);
+            if (!out_ || !options_.json) continue;
+            nlohmann::ordered_json json = json_of(name, nullptr, Reply::silent);
+            json["reason"] = reason;
+            out_->append(tool::json_text(json) + "\n");
+        }
         if (saved_) saved_->finish();
         if (out_) out_->finish();
-        for (const std::string &name : wanted_) {
-            is_complete_ = false;
-            print_problem(tool::printable(name), "silent: no such device replies to the discovery");
-        }
         if (asked_.empty() && wanted_.empty()) {
             is_complete_ = false;
-            std::fprintf(stderr, "tarn: %s: no device replies to the discovery\n", fleet_.bus.shown().c_str());
+            print_problem(fleet_.bus.shown(), std::string("no device ") +
+                                                  (fleet_.site.empty() ? "" : "of the site " + fleet_.site + " ") +
+                                                  "replies to the discovery");
         }
         return is_complete_ ? Exit::success : Exit::negative;
     }
@@ -178,6 +190,8 @@ private:
     std::map<DeviceName, std::string> ids_;
     std::size_t ended_ = 0;
     bool is_complete_ = true;
+    const bool is_terminal_ = ::isatty(STDOUT_FILENO) != 0;
+    std::optional<tool::Progress> progress_{"devices"};
     std::string text_;
 };
 

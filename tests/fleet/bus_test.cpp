@@ -101,8 +101,29 @@ TEST(Bus, DevicesThatAreNotThereAreNamedAtOnce) {
     EXPECT_EQ(outcome.exit, 1);
     EXPECT_TRUE(contains(outcome.err, "fra/nobody: silent: no such device is on the bus")) << outcome.err;
     EXPECT_TRUE(contains(outcome.err, "nowhere: silent: no such device replies")) << outcome.err;
-    EXPECT_EQ(show(bus, {"--all"}).exit, 1);
+    EXPECT_EQ(show(bus, {"--all"}).err, "tarn: " + bus.url() + ": no device replies to the discovery\n");
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8));
+    EXPECT_EQ(show(bus, {"--site", "fra"}).err,
+              "tarn: " + bus.url() + ": no device of the site fra replies to the discovery\n");
+    const std::vector<json> lines =
+        lines_of(show(bus, {"--device", "fra/nobody", "--device", "nowhere", "--json"}).out);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0]["site"], "fra");
+    EXPECT_EQ(lines[1]["device"], "nowhere");
+    EXPECT_EQ(lines[1]["site"], nullptr);
+    EXPECT_EQ(lines[1]["reply"], "silent");
+    EXPECT_EQ(lines[1]["reason"], "no such device replies to the discovery");
+}
+
+TEST(Bus, AProgressLineOnATerminalMakesWayForOtherLines) {
+    const BusServer bus;
+    const DeviceProcess a(bus, "a", {"--fault", "silent"});
+    const std::string command = tool + " show cl-debug --all --timeout 2 --bus " + bus.url();
+    const Outcome on_terminal = run("/usr/bin/script", {"-qec", command, "/dev/null"});
+    EXPECT_EQ(on_terminal.exit, 1);
+    EXPECT_TRUE(contains(on_terminal.out, "\r\x1b[Kdevices: 0 of 1")) << on_terminal.out;
+    EXPECT_TRUE(contains(on_terminal.out, "\r\x1b[Ktarn: default/a: silent: no answer")) << on_terminal.out;
+    EXPECT_EQ(show(bus, {"--all", "--timeout", "2"}).err, "tarn: default/a: silent: no answer\n");
 }
 
 TEST(Bus, EveryFaultOfAnAnswerIsFound) {
@@ -234,6 +255,7 @@ TEST(Bus, OptionsWithoutAMeaningOnTheBusAreErrors) {
     EXPECT_TRUE(contains(error_of({"answer", "--bus", bus.url(), "--device", "a b", served}), "\"a b\" is not a name"));
     EXPECT_TRUE(contains(error_of({"answer", "--bus", bus.url(), "--device", "a", "--peers", "5", served}), "--peers"));
     EXPECT_TRUE(contains(error_of({"show", "cl-debug", "--bus", bus.url()}), "requires one of --device"));
+    EXPECT_TRUE(contains(error_of({"show", "cl-debug", "--bus", "", "--all"}), "--bus: must not be empty"));
     EXPECT_TRUE(contains(error_of({"show", "cl-debug", "--socket", "/x", "--all"}), "--bus"));
 }
 
