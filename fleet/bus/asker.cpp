@@ -71,13 +71,17 @@ Asker::Asker(const AskerOptions &options, AskerEvents events)
     const BusSettings settings = bus_settings(options.bus, "tarn");
     const auto on_lost = [](natsConnection *, void *self) { ++static_cast<Asker *>(self)->lost_connections_; };
     check_bus(natsOptions_SetDisconnectedCB(settings.get(), on_lost, this), options.bus.shown());
+    const auto on_closed = [](natsConnection *, void *self) { static_cast<Asker *>(self)->closed_.set_value(); };
+    check_bus(natsOptions_SetClosedCB(settings.get(), on_closed, this), options.bus.shown());
     connection_ = connect_bus(options.bus, settings.get());
     inbox_.emplace(connection_.get(), subjects_.all());
 }
 
+// Callbacks about the connection come from a thread of the library, the one for its end as the last.
 Asker::~Asker() {
     inbox_.reset();
     natsConnection_Close(connection_.get());
+    closed_.get_future().wait();
 }
 
 bool Asker::is_connected() const { return natsConnection_Status(connection_.get()) == NATS_CONN_STATUS_CONNECTED; }

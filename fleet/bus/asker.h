@@ -5,6 +5,7 @@
 #include <chrono>
 #include <deque>
 #include <functional>
+#include <future>
 #include <map>
 #include <memory>
 #include <optional>
@@ -103,6 +104,7 @@ private:
     std::optional<Inbox> inbox_;
     std::unique_ptr<tool::Receiver> receiver_;
     std::atomic<unsigned> lost_connections_ = 0;
+    std::promise<void> closed_;
     unsigned seen_lost_ = 0;
 
     Requests open_;

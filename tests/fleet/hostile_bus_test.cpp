@@ -1,7 +1,12 @@
 // What devices and asking processes may send: anything.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <functional>
+#include <new>
+#include <string>
+#include <vector>
 
 #include "bus.h"
 #include "fleet/bus/asker.h"
@@ -229,6 +234,21 @@ TEST_F(HostileBus, SeveralProcessesForOneDeviceAreNamed) {
     const Outcome outcome = run(tool, {"show", "cl-debug", "--bus", bus_.url(), "--all"});
     EXPECT_EQ(outcome.exit, 1);
     EXPECT_TRUE(contains(outcome.err, "default/good: several processes answer for this device")) << outcome.err;
+}
+
+// The library calls back about connections on a thread of its own, also when they are closed.
+TEST_F(HostileBus, AnAskerThatEndedIsNotCalledBack) {
+    using tarn::fleet::Asker;
+    tarn::fleet::AskerOptions options;
+    options.bus.url = bus_.url();
+    std::vector<unsigned char> memory(sizeof(Asker));
+    for (int i = 0; i < 50; ++i) {
+        auto *const asker = new (memory.data()) Asker(options, {.on_answer = {}, .on_problem = {}});
+        asker->~Asker();
+        std::fill(memory.begin(), memory.end(), 0);
+        ::usleep(2000);
+        ASSERT_EQ(std::count(memory.begin(), memory.end(), 0), static_cast<std::ptrdiff_t>(memory.size())) << i;
+    }
 }
 
 // A request of the test, and what the device publishes to its reply; empty if nothing within a second.
