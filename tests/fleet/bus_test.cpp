@@ -220,7 +220,7 @@ TEST(Bus, ADeviceAnswersAgainAfterTheServerWasKilled) {
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
 }
 
-// The permissions that docs/fleet.md shows.
+// As in the example configurations.
 TEST(Bus, PermissionsLimitADeviceToItsOwnSubjects) {
     const BusServer bus(R"(authorization { users = [
       { user: a, password: x, permissions: { subscribe: ["tarn.ask.fra.a", "$SRV.>"], publish: "tarn.answer.fra.a.>"

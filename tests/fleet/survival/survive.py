@@ -118,6 +118,8 @@ class PostgreSQL(Program):
 
     def kill(self):
         """With its children, at once."""
+        if self.process.poll() is not None:
+            return
         children = pathlib.Path(f"/proc/{self.process.pid}/task/{self.process.pid}/children").read_text().split()
         super().kill()
         for child in map(int, children):
