@@ -136,6 +136,7 @@ void Asker::free_room(Open &open) {
 }
 
 bool Asker::wait(Clock::time_point until) {
+    require_open(options_.bus, connection_.get());
     end_lost();
     end_overdue();
     send_waiting();

@@ -121,6 +121,14 @@ BusConnection connect_bus(const BusOptions &options, natsOptions *settings) {
     return owner;
 }
 
+void require_open(const BusOptions &options, natsConnection *connection) {
+    if (!natsConnection_IsClosed(connection)) return;
+    const char *reason = nullptr;
+    natsConnection_GetLastError(connection, &reason);
+    throw Failure(Exit::environment, options.shown() + ": the server has closed the connection" +
+                                         (reason == nullptr || *reason == '\0' ? "" : ": " + tool::printable(reason)));
+}
+
 BusMessage::BusMessage(const std::string &subject, const char *reply, tool::FrameBytes payload) {
     natsMsg *created = nullptr;
     check_bus(natsMsg_Create(&created, subject.c_str(), reply, tool::chars_of(payload).data(),

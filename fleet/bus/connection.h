@@ -50,6 +50,9 @@ void check_bus(natsStatus status, const std::string &what);
 // A connection reconnects by itself, for ever and to any of the servers.
 BusSettings bus_settings(const BusOptions &options, const std::string &client);
 BusConnection connect_bus(const BusOptions &options, natsOptions *settings);
+// A server that refuses a client twice, such as one whose account is gone, is not tried again, and the connection is
+// closed for ever. Throws a Failure with the reason then.
+void require_open(const BusOptions &options, natsConnection *connection);
 
 class BusMessage {
 public:

@@ -47,6 +47,7 @@ public:
     ~Responder();
 
     const Device &device() const { return device_; }
+    natsConnection *connection() const { return connection_.get(); }
     // Sends all frames of an answer, in as many parts as the server's limit requires. Throws a Failure.
     void answer(const Request &request, tool::FrameBytes frames, const Distortion &distortion = {}) const;
     void refuse(const Request &request, std::uint32_t number, const std::string &sentence);

@@ -95,7 +95,7 @@ void serve(const tool::AnswerOptions &options, const DeviceOptions &device, tool
         std::printf("answering on %s as %s: %s\n", device.bus.shown().c_str(), device.name.text().c_str(),
                     names.c_str());
         std::fflush(stdout);
-        signals.wait();
+        while (!signals.wait_for(0.5)) require_open(device.bus, responder.connection());
     }
     std::printf("stopped after %u answers\n", answers.answers());
 }

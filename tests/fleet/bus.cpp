@@ -26,8 +26,12 @@ int free_port() {
 
 BusServer::BusServer(const std::string &settings)
     : port_(free_port()), url_("nats://127.0.0.1:" + std::to_string(port_)) {
-    directory_.write("bus.conf", "listen: 127.0.0.1:" + std::to_string(port_) + "\n" + settings);
+    configure(settings);
     start();
+}
+
+void BusServer::configure(const std::string &settings) {
+    directory_.write("bus.conf", "listen: 127.0.0.1:" + std::to_string(port_) + "\n" + settings);
 }
 
 void BusServer::start() {

@@ -22,6 +22,8 @@ public:
     const std::string &url() const { return url_; }
     std::string url_of(const std::string &user, const std::string &password) const;
     tool_test::Process &process() { return *process_; }
+    // From the next start on.
+    void configure(const std::string &settings);
     // Ends it with SIGKILL and starts it again on the same port.
     void restart();
 

@@ -220,6 +220,27 @@ TEST(Bus, ADeviceAnswersAgainAfterTheServerWasKilled) {
     EXPECT_EQ(outcome.exit, 0) << outcome.err;
 }
 
+TEST(Bus, AProcessThatTheServerDoesNotAdmitAnyMoreEnds) {
+    const auto settings = [](const std::string &password) {
+        return "authorization { users = [ { user: a, password: " + password + " } ] }";
+    };
+    BusServer bus(settings("x"));
+    const Directory directory;
+    const std::string url = bus.url_of("a", "x");
+    tool_test::Process device({"answer", "--bus", url, "--device", "r1", "cl-debug=" + example}, tool);
+    tool_test::Process collector(
+        {"collect", "--bus", url, "--bundle", "cl-debug", "--store", directory.path("history.db")}, tool);
+    ASSERT_TRUE(device.wait_for("answering on") && collector.wait_for("collecting from"));
+    bus.configure(settings("y"));
+    bus.restart();
+    for (tool_test::Process *process : {&device, &collector}) {
+        ASSERT_TRUE(
+            process->wait_for_error(bus.url() + ": the server has closed the connection: Authorization Violation"))
+            << process->err();
+        EXPECT_EQ(process->finish().exit, 3);
+    }
+}
+
 // As in the example configurations.
 TEST(Bus, PermissionsLimitADeviceToItsOwnSubjects) {
     const BusServer bus(R"(authorization { users = [
