@@ -40,6 +40,21 @@ async function get(path, parameters = {}) {
   return answer.json();
 }
 
+function say(id, text, className = '') {
+  const node = element(id);
+  node.className = className;
+  if (node.textContent !== text) node.textContent = text;  // The same text is not announced again.
+}
+
+// Drawing rows again must not take the focus away.
+function replaceRows(table, rows) {
+  const all = () => [...element(table).querySelectorAll('tbody a, tbody input')];
+  const focused = document.activeElement, same = () => all().filter(n => n.href === focused.href && n.value === focused.value);
+  const at = same().indexOf(focused);
+  element(table).querySelector('tbody').replaceChildren(...rows);
+  if (at >= 0) same()[at]?.focus({preventScroll: true});
+}
+
 // What the address of the page says: the device, the member, the time and the rows.
 const address = () => new URLSearchParams(location.hash.slice(1));
 function setAddress(changes) {
@@ -58,11 +73,19 @@ function hashOf(device) {
 // ---- all devices
 
 const age = time => Math.max(state.now - time, 0);
+// "silent for 5 s: no answer"
+function stateText(d) {
+  if (!d.gap) return 'answers';
+  const [what, ...why] = d.gap.reason.split(': ');
+  return [what + ' for ' + durationText(age(d.gap.from)), ...why].join(': ');
+}
+// "device-2" is before "device-10".
+const {compare: compareText} = new Intl.Collator('en', {numeric: true});
 const columns = [
   {name: 'device', title: 'Device', key: d => d.device, cell: d => [made('a', {href: hashOf(d.device), title: d.device}, d.device)]},
   {name: 'bundle', title: 'Bundle', key: d => d.bundle, cell: d => [d.bundle]},
   {name: 'state', title: 'State', key: d => d.gap ? '0' + d.gap.reason : '1',
-    cell: d => [d.gap ? d.gap.reason + ', for ' + durationText(age(d.gap.from)) : 'answers']},
+    cell: d => [made('span', {title: stateText(d)}, stateText(d))]},
   {name: 'last', title: 'Last answer', key: d => d.answer ? age(d.answer.to) : Infinity,
     cell: d => [d.answer ? durationText(age(d.answer.to)) + ' ago' : 'never']},
   {name: 'same', title: 'Unchanged for', key: d => d.answer ? d.answer.to - d.answer.from : Infinity,
@@ -76,7 +99,7 @@ const isNew = d => d.answer && d.answer.number > 1;
 function shownDevices() {
   const wanted = element('search').value.trim().toLowerCase(), silent = element('silent').checked;
   const column = columns.find(c => c.name === state.order), sign = state.descends ? -1 : 1;
-  const order = (a, b) => a < b ? -1 : a > b ? 1 : 0;
+  const order = (a, b) => typeof a === 'string' ? compareText(a, b) : a < b ? -1 : a > b ? 1 : 0;
   return state.devices
     .filter(d => (!silent || d.gap) && (d.device + ' ' + d.bundle).toLowerCase().includes(wanted))
     .map(d => [column.key(d), d])
@@ -86,17 +109,14 @@ function shownDevices() {
 
 function drawDevices() {
   const all = shownDevices(), selected = address().get('device');
-  const focused = document.activeElement.closest('#devices tr') && document.activeElement.textContent;
   const rows = all.slice(0, mostRows).map(d => {
     const row = made('tr', {className: d.gap ? 'silent' : ''});
     columns.forEach(c => row.append(made('td', {className: c.name}, ...c.cell(d))));
     if (d.device === selected) row.setAttribute('aria-current', 'true');
     return row;
   });
-  element('devices').querySelector('tbody').replaceChildren(...rows);
-  // Drawing them again must not take the focus away.
-  if (focused) [...element('devices').querySelectorAll('a')].find(a => a.textContent === focused)?.focus();
-  element('found').textContent = all.length > rows.length ? rows.length + ' of ' + all.length : String(all.length);
+  replaceRows('devices', rows);
+  say('found', all.length > rows.length ? rows.length + ' of ' + all.length : String(all.length));
   element('devices').querySelectorAll('th').forEach((heading, i) => {
     const isOrder = columns[i].name === state.order;
     heading.setAttribute('aria-sort', !isOrder ? 'none' : state.descends ? 'descending' : 'ascending');
@@ -106,10 +126,9 @@ function drawDevices() {
 function summarize() {
   const count = choose => new Set(state.devices.filter(choose).map(d => d.device)).size;
   const silent = count(d => d.gap);
-  element('summary').className = '';
-  element('summary').textContent = countText(count(() => true), 'device') + ', ' +
+  say('summary', countText(count(() => true), 'device') + ', ' +
     (silent ? silent + (silent === 1 ? ' does' : ' do') + ' not answer' : 'all answer') + ', ' +
-    count(d => isNew(d) && age(d.answer.from) < 3600000) + ' with new answers in the last hour';
+    count(d => isNew(d) && age(d.answer.from) < 3600000) + ' with new answers in the last hour');
 }
 
 async function load() {
@@ -123,8 +142,7 @@ async function load() {
       .map(d => [d.bundle, d.answer && d.answer.id, d.gap && d.gap.from]));
     if (before.length && of(before) !== of(devices) && !state.zoom) loadDevice();
   } catch (error) {
-    element('summary').className = 'error';
-    element('summary').textContent = error.message;
+    say('summary', error.message, 'error');
   }
 }
 
@@ -147,11 +165,15 @@ function chosenTime() {
   return [range ? now - range : 0, now];
 }
 
-function openDevice() {
-  const device = address().get('device');
+function openDevice(event) {
+  const device = address().get('device'), before = element('name').textContent, wasOpen = !element('device').hidden;
   element('device').hidden = !device;
   document.querySelector('main').classList.toggle('open', Boolean(device));
   drawDevices();
+  element('devices').querySelector('[aria-current]')?.scrollIntoView({block: 'nearest'});
+  // The focus goes to a device that was chosen, and back to its row.
+  if (event && device && !wasOpen) element('device').focus({preventScroll: true});
+  if (!device && wasOpen) linkOf(before)?.focus();
   if (!device) {
     ++latest;  // Nothing is drawn where it has no size.
     return;
@@ -163,6 +185,8 @@ function openDevice() {
   state.base = state.zoom = null;
   loadDevice();
 }
+
+const linkOf = device => [...element('devices').querySelectorAll('tbody a')].find(a => a.textContent === device);
 
 function fillMembers(device) {
   const wanted = address().get('member'), groups = [];
@@ -206,7 +230,7 @@ const colorOf = i => 'hsl(' + (210 + i * 137.5) % 360 + ' 60% ' + (isDark() ? 68
 
 function drawPlot(values, since, until) {
   if (state.plot) state.plot.destroy();
-  state.plot = null;
+  state.plot = state.at = null;
   state.values = values && {...values, since, until};
   const {series = [], points = [], gaps = [], more = 0, answers = 0, plotted = 0} = values || {};
   element('whole').hidden = !state.zoom;
@@ -214,13 +238,11 @@ function drawPlot(values, since, until) {
   if (!series.length) notes.push('No values in this time');
   if (more) notes.push('The first ' + series.length + ' of ' + (series.length + more) + ' rows');
   if (answers > plotted) notes.push(plotted + ' of ' + answers + ' answers; a shorter time shows more of them');
-  element('plot-note').textContent = notes.join('. ');
+  if (series.length && !window.Dygraph) notes.push('Plots require the package libjs-dygraphs');
+  state.note = notes.join('. ');
   element('plot').hidden = !series.length;
   drawLegend(null);
-  if (!series.length || !window.Dygraph) {
-    if (series.length) element('plot-note').textContent = 'Plots require the package libjs-dygraphs';
-    return;
-  }
+  if (!series.length || !window.Dygraph) return;
   // Not more time than there are values, unless a part of it was chosen.
   const first = state.zoom ? since : Math.max(since, Math.min(points[0][0], until - 60000));
   state.plot = new Dygraph(element('plot'), points.map(([time, ...numbers]) => [new Date(time), ...numbers]), {
@@ -277,7 +299,15 @@ function drawLegend(point) {
     swatch.style.background = colorOf(i);
     return made('li', {}, swatch, made('b', {}, value === null ? '-' : value.toLocaleString('en-US')), ' ', name || 'value');
   }));
-  if (point) element('plot-note').textContent = timeText(point[0]);
+  say('plot-note', point ? timeText(point[0]) : state.note);
+}
+
+// What the mouse does by pointing.
+function choosePoint(by) {
+  const {points} = state.values;
+  state.at = Math.min(Math.max((state.at ?? points.length) + by, 0), points.length - 1);
+  state.plot.setSelection(state.at);
+  drawLegend(points[state.at]);
 }
 
 // ---- history
@@ -292,9 +322,10 @@ function baseOf(event) {
 
 function historyRow(event) {
   const isAnswer = event.kind === 'answer', base = isAnswer ? baseOf(event) : null;
-  const row = made('tr', {className: isAnswer ? '' : 'silent'});
+  // Their roles, since a narrow table is drawn as lines.
+  const row = made('tr', {className: isAnswer ? '' : 'silent', role: 'row'});
   const add = (className, ...content) => {
-    row.append(made('td', {className}, ...content));
+    row.append(made('td', {className, role: 'cell'}, ...content));
     return row.lastChild;
   };
   add('time', spanText(event.from, event.to));
@@ -319,7 +350,7 @@ function historyRow(event) {
 }
 
 function drawHistory() {
-  element('history').querySelector('tbody').replaceChildren(...state.events.map(historyRow));
+  replaceRows('history', state.events.map(historyRow));
 }
 
 // Says what changed in the newest answers, one after the other.
@@ -384,6 +415,12 @@ element('devices').addEventListener('click', event => {
   const row = event.target.closest('tbody tr');
   if (row && !event.target.closest('a')) row.querySelector('a').click();
 });
+element('plot').addEventListener('keydown', event => {
+  const by = {ArrowLeft: -1, ArrowRight: 1}[event.key];
+  if (!by || !state.plot) return;
+  event.preventDefault();
+  choosePoint(by);
+});
 addEventListener('hashchange', openDevice);
 
 // The device after or before the chosen one.
@@ -414,6 +451,9 @@ async function start() {
   state.members = await get('members').catch(() => ({}));
   await load();
   openDevice();
-  setInterval(() => { if (!document.hidden) load(); }, refresh);
+  for (;;) {
+    await new Promise(done => setTimeout(done, refresh));
+    if (!document.hidden) await load();
+  }
 }
 start();

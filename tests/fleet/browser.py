@@ -23,6 +23,7 @@ from accessible import AXE, OUTSIDE, WINDOWS, Browser  # pylint: disable=wrong-i
 HOSTILE = "<img src=x onerror=\"document.title='changed'\">/</script><script>document.title='changed'</script>"
 TABLES = pathlib.Path(__file__).parents[2] / "examples" / "dp_tt_cfg.xml"
 ROWS = "document.querySelectorAll('#devices tbody tr').length"
+ROW_HEIGHT = "Math.max(...[...document.querySelectorAll('#devices tbody tr')].map(row => row.offsetHeight))"
 READY = "document.querySelectorAll('#legend li').length > 0 && document.querySelectorAll('#history tbody tr').length > 0"
 
 
@@ -150,6 +151,8 @@ class Test:
         page.run("document.querySelector('th.device button').click(); 0")
         check(page.run("document.querySelector('#devices tbody a').textContent") == "ber/edge-1", "sorted by name")
         check(page.run("document.querySelector('th.device').ariaSort") == "ascending", "the heading says so")
+        names = page.run("[...document.querySelectorAll('#devices tbody a')].map(a => a.textContent)")
+        check(names.index("site-1/device-3") < names.index("site-1/device-11"), "numbers in names are numbers")
 
     def one_device(self):
         page = self.page
@@ -157,10 +160,21 @@ class Test:
         page.key("n")
         page.wait(READY)
         check(page.run("document.getElementById('name').textContent") == "ber/edge-1", "n opens the first device")
+        check(page.run("document.activeElement.id") == "device", "the focus goes to the device")
         page.key("n")
-        page.wait("document.getElementById('name').textContent !== 'ber/edge-1' && " + READY)
+        page.wait("document.getElementById('name').textContent === 'site-1/device-1' && "
+                  "!document.querySelector('#legend li')")
+        page.key("n")
+        name = "site-1/device-3"
+        page.wait(f"document.getElementById('name').textContent === '{name}' && "
+                  "document.querySelector('#history .what a') !== null")
+        page.run("document.querySelector('#history .what a').focus(); drawHistory(); 0")
+        check(page.run("document.activeElement.matches('#history .what a')"), "drawing again leaves the focus")
         page.key("Escape")
         check(page.run("document.getElementById('device').hidden"), "Escape closes the device")
+        check(page.run("document.activeElement.textContent") == name, "and the focus goes back to its row")
+        page.run("document.querySelectorAll('#devices tbody a')[5].focus(); drawDevices(); 0")
+        check(page.run("document.activeElement === document.querySelectorAll('#devices tbody a')[5]"), "or stays there")
 
         # What is still on its way then must not be drawn where it has no size.
         page.key("n")
@@ -178,6 +192,15 @@ class Test:
               "the plot is as wide as its place")
         check(page.run("[...document.querySelectorAll('#history .what')].some(cell => cell.textContent === "
                        "'gap: silent: no such device is on the bus')"), "the history names the gap")
+        note = page.run("document.getElementById('plot-note').textContent")
+        check(note.startswith("The first 50 of 128 rows"), note)
+        page.run("document.getElementById('plot').focus(); 0")
+        page.key("ArrowLeft")
+        page.key("ArrowLeft")
+        check(page.run("document.getElementById('plot-note').textContent === timeText(state.values.points.at(-2)[0])"),
+              "the arrow keys choose a time")
+        page.run("drawLegend(null); 0")
+        check(page.run("document.getElementById('plot-note').textContent") == note, "then the note is there again")
         self.look_at("gap")
         page.run("document.getElementById('filter').value = 'dp_tc.id 1001';"
                  "document.getElementById('filter').dispatchEvent(new Event('change')); 0")
@@ -193,7 +216,7 @@ class Test:
 
     def differences(self, url):
         page = self.page
-        self.open(url + "#device=site-1%2Fdevice-1")
+        self.open(url + "#device=site-1%2Fdevice-3")
         page.wait(READY)
         page.wait("state.events.filter(e => e.link).length >= 2")
         page.wait("[...document.querySelectorAll('#history .changes a')].some(a => /[0-9] changed|added/.test(a.textContent))")
@@ -207,11 +230,13 @@ class Test:
         for look, width, height in WINDOWS:
             self.open(url, look, width, height)
             self.page.wait(ROWS + " > 20")
+            self.page.wait(ROW_HEIGHT + " < 60")
             self.look_at(f"devices-{look}")
-            self.open(url + "#device=site-1%2Fdevice-1", look, width, height)
+            self.open(url + "#device=site-1%2Fdevice-3", look, width, height)
             self.page.wait(READY)
             self.page.wait("[...document.querySelectorAll('#history .changes a')].every(a => a.textContent !== 'difference')"
                            " || state.events.length > 20")
+            check(self.page.run(ROW_HEIGHT) < 60, f"{look}: rows of devices are low")
             self.look_at(f"device-{look}")
             if look == "narrow":
                 self.page.run("document.getElementById('device').scrollTop = 1e6; 0")
@@ -220,7 +245,7 @@ class Test:
     def hostile(self, store):
         """Names and reasons that only another program could have written."""
         with sqlite3.connect(store) as database:
-            database.execute("UPDATE devices SET device = ? WHERE device = 'site-1/device-1'", (HOSTILE,))
+            database.execute("UPDATE devices SET device = ? WHERE device = 'site-1/device-3'", (HOSTILE,))
             database.execute("UPDATE gaps SET reason = ? WHERE ended IS NULL", (HOSTILE,))
         process, url = self.collect(store)
         self.open(url)
@@ -251,7 +276,7 @@ def main():
         try:
             test = Test(programs, page, pictures, rules)
             programs.start("20 devices", "simulate", "--bus", test.bus, "--devices", "20", "--sites", "2", "--fault",
-                           "silent=10", "--change", "3s", "--elements", "6")
+                           "silent=10", "--fault", "schema=10", "--change", "3s", "--elements", "6")
             store = os.path.join(folder, "history.db")
             edge = test.device()
             collector, url = test.collect(store)
