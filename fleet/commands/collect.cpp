@@ -284,9 +284,8 @@ void add_collect(CLI::App &app, tool::Context &) {
         ->type_name("RECORD.MEMBER")
         ->allow_extra_args(false)
         ->needs(http);
-    tool::add_seconds(
-        *command, "--expire", options->expire,
-        "Serve no values of a device that has not answered for that time, at least --every and --timeout");
+    tool::add_seconds(*command, "--expire", options->expire,
+                      "Serve no values of a device that has not answered for that time, at least --every + --timeout");
     command->get_option("--expire")->needs(http);
     command->add_flag("--timestamps", options->metrics.has_times, "Serve values with the times of their answers")
         ->needs(http);
@@ -304,7 +303,8 @@ void add_collect(CLI::App &app, tool::Context &) {
         "with the prefix latest_, for the last ones.\n\n"
         "With --http, the collector serves metrics in the format of OpenMetrics, for Prometheus,\n"
         "and a page for browsers with all devices of the store, their answers, what changed in\n"
-        "them and their values over time. Whoever reaches the address can read all of that.\n\n"
+        "them and their values over time. Whoever reaches the address can read all of that, but\n"
+        "only under that HOST, localhost, or an IP address.\n\n"
         "Examples:\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --store history.db\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --bundle dp-tt-cfg \\\n"

@@ -683,6 +683,38 @@ TEST(CollectHttp, PrometheusReadsTheMetrics) {
     EXPECT_EQ(collector.stop().exit, 0);
 }
 
+TEST(CollectHttp, PrometheusTakesTheTimesOfAnswers) {
+    const BusServer bus;
+    const Directory directory;
+    const DeviceProcess r1(bus, "r1", {"--site", "fra", "dp-tt-cfg=" + tables});
+    std::vector<std::string> words = arguments_of(bus, directory, {"--metric", "dp-tt-table.state", "--timestamps"});
+    std::replace(words.begin(), words.end(), std::string("500ms"), std::string("1h"));
+    const Process collector(words);
+    const int port = port_of(collector);
+    ASSERT_NE(port, 0) << collector.err();
+    const std::string sample =
+        "tarn_dp_tt_table_state{site=\"fra\",device=\"r1\",bundle=\"dp-tt-cfg\",dp_tt_table_lumo_num=\"0\"}";
+    std::string line;
+    EXPECT_TRUE(happens(
+        [&] {
+            const auto result = httplib::Client(host, port).Get("/metrics");
+            const std::size_t begin = result ? result->body.find(sample) : std::string::npos;
+            if (begin == std::string::npos) return false;
+            line = result->body.substr(begin, result->body.find('\n', begin) - begin);
+            return true;
+        },
+        long_enough));
+    const Prometheus prometheus(port);
+    EXPECT_TRUE(happens(
+        [&] {
+            const auto found =
+                prometheus.query("timestamp(tarn_dp_tt_table_state{dp_tt_table_lumo_num=\"0\"})", "device");
+            return found.contains("r1") && std::stod(found.at("r1")) == std::stod(line.substr(line.rfind(' ')));
+        },
+        long_enough))
+        << line << prometheus.err() << prometheus.target();
+}
+
 }  // namespace
 
 }  // namespace fleet_test
