@@ -94,7 +94,8 @@ double rate_of_store(const std::string &where, int batch, const std::string &nam
         for (int i = 0; i < batch; ++i) frames.push_back(frames_of(first + i));
         for (int i = 0; i < batch; ++i) {
             const auto &device = names[static_cast<std::size_t>((first + i) % devices)].first;
-            outcomes.push_back({device, name, first, first + 1, frames[static_cast<std::size_t>(i)], {}});
+            // 0 is the time of the last request of a device that was never asked.
+            outcomes.push_back({device, name, first + 1, first + 2, frames[static_cast<std::size_t>(i)], {}});
         }
         if (keeper.put(outcomes).answers != outcomes.size()) throw std::runtime_error("devices of another collector");
     });
