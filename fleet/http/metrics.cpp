@@ -6,6 +6,7 @@
 #include <span>
 
 #include "schema/digest.h"
+#include "tools/tarn/support/failure.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
 
@@ -87,6 +88,9 @@ Metrics::Metrics(const MetricsOptions &options, const std::set<const reflect::Bu
     std::set<std::string> known;
     for (const std::string &name : options.members) {
         NumericMember member = NumericMember::named(name);
+        if (std::none_of(bundles.begin(), bundles.end(), [&](Bundle b) { return member.is_in(b->bundle->message); })) {
+            throw tool::Failure(tool::Exit::input, "the requested bundles do not contain " + member.name());
+        }
         if (known.insert(member.name()).second) members_.push_back(std::move(member));
     }
     for (const Bundle bundle : bundles) requests_[bundle] = {};

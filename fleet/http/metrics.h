@@ -1,5 +1,5 @@
 // What a collector knows, in the text format of OpenMetrics 1.0, for Prometheus. The library prometheus-cpp writes the
-// older format only, which has no metrics of an unknown type and ends without a mark, and its numbers are doubles.
+// older format only, whose end has no mark, so that a text that is cut off looks whole; and its numbers are doubles.
 #pragma once
 
 #include <array>
@@ -32,7 +32,7 @@ public:
     // A device has no more values of one member than this.
     static constexpr std::size_t most_values = 10'000;
 
-    // Throws a Failure for a name that is not the one of a numeric member.
+    // Throws a Failure for a name that is not the one of a numeric member, or of none that the bundles can contain.
     Metrics(const MetricsOptions &options, const std::set<const reflect::BundleOperations *> &bundles);
 
     // The end of a request; it takes the messages out of the answer. Returns the members of which the device has more

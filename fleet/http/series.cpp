@@ -104,6 +104,10 @@ NumericMember::NumericMember(const Table &table, const tool::Column &column)
     identifying_.push_back(path);
 }
 
+bool NumericMember::is_in(const schema::Message &message) const {
+    return tool::reaches(tool::table_of(message.payload), *table_->record);
+}
+
 void NumericMember::visit(const tool::Entry &message, const Visit &visit) const {
     const Table &payload = tool::table_of(*message.item.message->record().record);
     std::vector<std::string> labels(identifying_.size());

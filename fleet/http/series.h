@@ -23,6 +23,8 @@ public:
     NumericMember(NumericMember &&) = default;
 
     std::string name() const { return table_->name + "." + column_->name; }
+    // True if such a message can contain it.
+    bool is_in(const schema::Message &message) const;
     std::string_view meaning() const { return column_->member->meaning; }
     // The columns that identify an instance in an answer: "dp_tt_table.lumo_num", "dp_tc.id". The last one is "path" if
     // keys are not enough.

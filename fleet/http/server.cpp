@@ -308,7 +308,6 @@ HttpServer::HttpServer(const std::string &address, const std::string &store, std
 }
 
 HttpServer::~HttpServer() {
-    if (parts_ == nullptr || !parts_->thread.joinable()) return;
     parts_->server.end();
     parts_->thread.join();
 }

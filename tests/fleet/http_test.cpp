@@ -26,6 +26,7 @@
 #include "fleet/store/times.h"
 #include "output.h"
 #include "schema/catalogue.h"
+#include "tools/reflect/operations.h"
 #include "tools/tarn/formats/reader.h"
 #include "tools/tarn/support/names.h"
 #include "tools/tarn/support/printable.h"
@@ -230,7 +231,9 @@ TEST_F(MetricsTest, NamesOfMetricsAndLabelsAreUnique) {
     EXPECT_GT(seen.size(), 100U);
     std::set<std::string> families;
     std::size_t count = 0;
-    for (const std::string &line : lines(metrics(all), "# TYPE ")) {
+    std::set<const tarn::reflect::BundleOperations *> bundles;
+    for (const auto &bundle : tarn::reflect::bundles()) bundles.insert(&bundle);
+    for (const std::string &line : lines(Metrics(all, bundles), "# TYPE ")) {
         families.insert(line.substr(0, line.rfind(' ')));
         ++count;
     }
@@ -589,6 +592,8 @@ TEST(CollectHttp, AWrongAddressOrMemberEndsItAtOnce) {
                                           "--metric", "tc.proto"})
                              .err,
                          "--metric requires --http"));
+    EXPECT_TRUE(
+        contains(error({"--metric", "dp-wexa-info.flags"}), "the requested bundles do not contain dp_wexa_info.flags"));
     const Process first(arguments_of(bus, directory, {}));
     const std::string taken = "127.0.0.1:" + std::to_string(port_of(first));
     for (const auto &[address, problem] : std::vector<std::pair<std::string, std::string>>{
