@@ -248,8 +248,10 @@ std::string BrowserData::values(const PlotRequest &request) {
                                   request.until};
         Plot plot(request);
         std::vector<Span> answers;
+        std::size_t total = 0;
         store.for_each_answer(selection, [&](const StoredAnswer &a) {
-            answers.push_back({a.id, a.size, a.first_seen, a.last_seen});
+            ++total;
+            if (a.size <= most_viewed) answers.push_back({a.id, a.size, a.first_seen, a.last_seen});
         });
         std::vector<Gap> gaps;
         ordered_json gap_times = ordered_json::array();
@@ -269,7 +271,7 @@ std::string BrowserData::values(const PlotRequest &request) {
             before = a.last_seen;
         }
         ordered_json json = plot.json();
-        json["answers"] = answers.size();
+        json["answers"] = total;
         json["plotted"] = plotted.size();
         json["gaps"] = std::move(gap_times);
         return text_of(json);

@@ -24,7 +24,7 @@ struct PlotRequest {
 // May be called by several threads. What a request asks for and is not there throws a Failure with Exit::input.
 class BrowserData {
 public:
-    // An answer that is greater is not shown as a page.
+    // An answer that is greater is neither shown as a page nor plotted.
     static constexpr std::int64_t most_viewed = std::int64_t{4} << 20;
     // A history has the newest of its answers and gaps.
     static constexpr std::size_t most_events = 1000;

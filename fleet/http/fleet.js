@@ -43,7 +43,7 @@ async function get(path, parameters = {}) {
 function say(id, text, className = '') {
   const node = element(id);
   node.className = className;
-  if (node.textContent !== text) node.textContent = text;  // The same text is not announced again.
+  if (node.textContent !== text) node.textContent = text;  // A screen reader does not read the same text again.
 }
 
 // Drawing rows again must not take the focus away.
@@ -358,7 +358,8 @@ async function compare(isLatest) {
   const compared = state.events.filter(e => e.kind === 'answer' && e.link).slice(0, mostCompared);
   for (const event of compared) {
     const {searchParams} = new URL(event.link.href), link = event.link;
-    const {text, total} = await get('changes', {a: searchParams.get('a'), b: searchParams.get('b')});
+    const {text, total} = await get('changes', {a: searchParams.get('a'), b: searchParams.get('b')})
+      .catch(error => ({text: error.message, total: 1}));
     if (!isLatest()) return;
     link.textContent = (state.base ? link.textContent + ':\n' : '') + (total ? text.trim() : 'no change');
   }

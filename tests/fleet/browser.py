@@ -221,6 +221,11 @@ class Test:
         page.wait("state.events.filter(e => e.link).length >= 2")
         page.wait("[...document.querySelectorAll('#history .changes a')].some(a => /[0-9] changed|added/.test(a.textContent))")
         shown = page.run("document.querySelector('#history .changes a').href")
+        # An answer that is too large to be compared.
+        page.run("window.real = get; get = path => Promise.reject(Error('too large')); ++latest;"
+                 "compare(() => true).finally(() => get = real)")
+        check(page.run("document.querySelector('#history .changes a').textContent") == "too large", "the row says why")
+        check(page.run("document.getElementById('device-error').textContent") == "", "and the others stay")
         page.run("[...document.querySelectorAll('#history input')].pop().click(); 0")
         page.wait("document.querySelector('#history .changes a').textContent.startsWith('difference from answer 1')")
         self.open(shown)

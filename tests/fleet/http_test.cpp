@@ -535,6 +535,10 @@ TEST_F(Served, AnAnswerThatIsTooLargeForAPageIsNamed) {
     const Outcome outcome{"fra/r1", tarn::tool::bundle_named("cl-debug").bundle->name, start, start, large, ""};
     ASSERT_EQ(keeper.put({&outcome, 1}).answers, 1U);
     BrowserData data(store_);
+    const std::string member = json::parse(BrowserData::members()).at("cl-debug").at(0).at(0);
+    const json values = json::parse(data.values({"fra/r1", "cl-debug", member, 0, INT64_MAX, ""}));
+    EXPECT_EQ(values.at("answers"), 1);
+    EXPECT_EQ(values.at("plotted"), 0);
     const json history = json::parse(data.history("fra/r1", 0, INT64_MAX));
     for (const json &event : history.at("events")) {
         if (event.at("bundle") != "cl-debug") continue;
