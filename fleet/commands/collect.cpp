@@ -115,7 +115,7 @@ public:
 private:
     struct Asked {
         Clock::time_point due;
-        bool is_open = false;
+        bool is_open = false, has_answered = false;
     };
     struct OwnDevice {
         DeviceName name;
@@ -146,7 +146,7 @@ private:
     }
 
     // A device is asked for the bundles that it offers. One that has not been discovered may come back.
-    bool answers(const std::string &device, const reflect::BundleOperations *bundle) const {
+    bool offers(const std::string &device, const reflect::BundleOperations *bundle) const {
         const auto found = offered_.find(device);
         return found == offered_.end() || found->second.empty() || found->second.count(bundle) != 0;
     }
@@ -183,7 +183,8 @@ private:
             if (device == devices_.end()) continue;
             Asked &asked = device->second.bundles[which.second];
             if (asked.is_open || asked.due != time) continue;
-            if (!answers(which.first, which.second)) {
+            // What it offered before is asked for once more, so that a gap begins.
+            if (!asked.has_answered && !offers(which.first, which.second)) {
                 reschedule(which.first, which.second, asked, now + every_);
                 continue;
             }
@@ -205,6 +206,7 @@ private:
         Asked &asked = device->second.bundles[answer.bundle];
         asked.is_open = false;
         const bool has_answered = answer.reply == Reply::answered;
+        asked.has_answered = has_answered;
         const auto now = Clock::now();
         // At equal distances from the first request, whatever the answer took.
         auto due = asked.due + (has_answered ? every_ : retry_);

@@ -108,6 +108,29 @@ TEST(Collect, ADeviceThatGoesAwayHasAGapUntilItIsBack) {
     EXPECT_EQ(gaps[0].reason, "silent: no such device is on the bus");
 }
 
+// It is started again with other bundles before it is asked again.
+TEST(Collect, ABundleThatADeviceNoLongerOffersIsAGap) {
+    const BusServer bus;
+    const Directory directory;
+    const std::string store = directory.path("history.db");
+    auto device = std::make_unique<DeviceProcess>(bus, "r1");
+    // Devices are searched for every 10 seconds.
+    Process collector({"collect", "--bus", bus.url(), "--bundle", "cl-debug", "--store", store, "--every", "12s"});
+    ASSERT_TRUE(happens([&] { return fresh(store, 0) == 1; }, long_enough)) << collector.err();
+    device->process().signal(SIGKILL);
+    device = std::make_unique<DeviceProcess>(
+        bus, "r1", std::vector<std::string>{"dp-intf=" + std::string(TARN_EXAMPLES) + "/dp_intf.xml"});
+    EXPECT_TRUE(happens(
+        [&] {
+            const auto latest = latest_in(store);
+            return latest[0].gap && latest[0].gap->reason ==
+                                        "refused: lumo_tarn_cl_debug_rsp is not served here: No "
+                                        "such file or directory (ENOENT)";
+        },
+        std::chrono::seconds(25)))
+        << collector.err();
+}
+
 TEST(Collect, ABusThatGoesAwayIsAGapUntilItIsBack) {
     BusServer bus;
     const Directory directory;
