@@ -35,9 +35,11 @@ template <const Record &R>
 struct WireRead {
     static std::uint32_t unmarshal(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
                                    std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
-    // The same without the shortcut, in the archive only.
-    static std::uint32_t unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
-                                       std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
 };
+
+// WireRead<R>::unmarshal without the shortcut, in the archive only.
+template <const Record &R>
+std::uint32_t unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                            std::uint32_t length, std::uint32_t reuse, std::uint32_t *err);
 
 }  // namespace tarn

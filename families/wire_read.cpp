@@ -70,9 +70,8 @@ template <const Record &R>
 }  // namespace
 
 template <const Record &R>
-[[gnu::noinline]] std::uint32_t WireRead<R>::unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer,
-                                                           mirk_object *instance, std::uint32_t length,
-                                                           std::uint32_t reuse, std::uint32_t *err) {
+[[gnu::noinline]] std::uint32_t unmarshal_any(mirk_handle *h, std::uint32_t ctx_id, void *buffer, mirk_object *instance,
+                                              std::uint32_t length, std::uint32_t reuse, std::uint32_t *err) {
     return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
 }
 
@@ -82,7 +81,7 @@ std::uint32_t WireRead<R>::unmarshal(mirk_handle *h, std::uint32_t ctx_id, void 
     if constexpr (runtime_inside) {
         std::uint32_t consumed = 0;
         if (shortcut::read<R>(h, ctx_id, buffer, instance, length, reuse, err, consumed)) return consumed;
-        return unmarshal_any(h, ctx_id, buffer, instance, length, reuse, err);
+        return unmarshal_any<R>(h, ctx_id, buffer, instance, length, reuse, err);
     } else {
         return read_record<R>(h, ctx_id, buffer, instance, length, reuse, err);
     }

@@ -79,7 +79,7 @@ std::uint32_t read_open(Batch &batch, std::uint8_t *buffer, mirk_object *object,
                         std::uint32_t reuse, std::uint32_t *err) {
     const bool usual = *err == 0 && static_cast<std::int32_t>(length) >= static_cast<std::int32_t>(record_head) &&
                        get<std::uint16_t>(buffer) == 0;
-    if (!usual) return WireRead<R>::unmarshal_any(batch.h, batch.ctx_id, buffer, object, length, reuse, err);
+    if (!usual) return unmarshal_any<R>(batch.h, batch.ctx_id, buffer, object, length, reuse, err);
     Reader in{batch.h, batch.ctx_id, buffer, length, reuse, err};
     const Head head{.jump_base = jump_offset, .jump = get<std::uint32_t>(buffer + jump_offset)};
     in.offset = record_head;
