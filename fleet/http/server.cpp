@@ -269,7 +269,8 @@ struct HttpServer::Parts {
     std::thread thread;
 };
 
-HttpServer::HttpServer(const std::string &address, const std::string &store, std::function<std::string()> metrics)
+HttpServer::HttpServer(const std::string &address, const std::string &store,
+                       const std::function<std::string()> &metrics)
     : parts_(std::make_unique<Parts>(store)) {
     const auto [host, port] = host_and_port(address);
     LimitedServer &server = parts_->server;

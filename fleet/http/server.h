@@ -14,7 +14,7 @@ class HttpServer {
 public:
     // "127.0.0.1:9464"; with port 0, the system chooses one. Throws a Failure with the address. `metrics` returns the
     // text of the metrics and is called by several threads.
-    HttpServer(const std::string &address, const std::string &store, std::function<std::string()> metrics);
+    HttpServer(const std::string &address, const std::string &store, const std::function<std::string()> &metrics);
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;
     ~HttpServer();
