@@ -47,7 +47,7 @@ template <class F>
     auto *member = F::at(object);
     if constexpr (EnumerationMember<F>) {
         // Any other value is refused.
-        if (value >= F::of->enumerators.size() || member->tinfo == nullptr) return false;
+        if (member->tinfo == nullptr || value >= F::of->enumerators.size()) return false;
         reset_variant(*member);
     }
     // An object that is written gets the domain's variant, after a look-up of its type.

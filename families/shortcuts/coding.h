@@ -109,10 +109,10 @@ template <class F>
 template <const Record &R>
 [[gnu::always_inline]] inline void put_closed_record(std::uint8_t *to, mirk_object *object) {
     put_head(to, frame_size<R>);
-    to += record_head;
+    std::uint8_t *part = to + record_head;
     walk<R>([&]<class F>(F) TARN_INLINE {
-        put_member<F>(to, object);
-        to += part_size<F>;
+        put_member<F>(part, object);
+        part += part_size<F>;
     });
 }
 
@@ -125,10 +125,10 @@ template <class F>
 template <const Record &R>
 [[gnu::always_inline]] inline std::uint32_t unusual_frame(const std::uint8_t *from) {
     std::uint32_t unusual = unusual_head(from, frame_size<R>);
-    from += record_head;
+    const std::uint8_t *part = from + record_head;
     walk<R>([&]<class F>(F) TARN_INLINE {
-        unusual |= unusual_member_in<F>(from);
-        from += part_size<F>;
+        unusual |= unusual_member_in<F>(part);
+        part += part_size<F>;
     });
     return unusual;
 }
@@ -173,10 +173,10 @@ template <class F, Memory memory>
 template <const Record &R, Memory memory>
 [[gnu::always_inline]] inline void get_closed_record(const std::uint8_t *from, mirk_object *object,
                                                      const Types &types) {
-    from += record_head;
+    const std::uint8_t *part = from + record_head;
     walk<R>([&]<class F>(F) TARN_INLINE {
-        get_member<F, memory>(from, object, types);
-        from += part_size<F>;
+        get_member<F, memory>(part, object, types);
+        part += part_size<F>;
     });
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <numeric>
 
 #include "core/type_table.h"
 #include "core/walk.h"
@@ -134,9 +135,9 @@ inline constexpr Counts destroyed = [] {
 // Objects in a tree whose variant is compared with the domain's when the tree is written: all but booleans.
 template <const Record &R>
 inline constexpr std::uint32_t n_checked = [] {
-    std::uint32_t sum = 0;
-    for (std::size_t i = 0; i < n_types; ++i) sum += i != boolean_number ? made<R>[i] : 0;
-    return sum;
+    Counts checked = made<R>;
+    checked[boolean_number] = 0;
+    return std::accumulate(checked.begin(), checked.end(), std::uint32_t{0});
 }();
 template <const Record &R>
 inline constexpr std::uint32_t n_made = n_checked<R> + made<R>[boolean_number];

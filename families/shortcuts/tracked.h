@@ -75,16 +75,16 @@ template <const Record &R>
 template <const Record &R>
 [[gnu::always_inline]] inline std::uint32_t unusual_tracked_frame(const std::uint8_t *from) {
     std::uint32_t unusual = unusual_head(from, tracked_size<R>, flag::state_tracked);
-    from += record_head;
+    const std::uint8_t *part = from + record_head;
     walk<R>([&]<class F>(F) TARN_INLINE {
         if constexpr (RecordMember<F>) {
-            unusual |= unusual_tracked_frame<*F::of>(from);
+            unusual |= unusual_tracked_frame<*F::of>(part);
         } else if constexpr (AddressMember<F>) {
-            unusual |= unusual_head(from, tracked_part<F>, flag::state_tracked);
+            unusual |= unusual_head(part, tracked_part<F>, flag::state_tracked);
         } else {
-            unusual |= unusual_member_in<F>(from);
+            unusual |= unusual_member_in<F>(part);
         }
-        from += tracked_part<F> + (schema::is_tracked(F::member) ? 1 : 0);
+        part += tracked_part<F> + (schema::is_tracked(F::member) ? 1 : 0);
     });
     return unusual;
 }
@@ -93,19 +93,19 @@ template <const Record &R>
 [[gnu::always_inline]] inline void get_tracked_record(mirk_handle *h, std::uint32_t ctx_id, const std::uint8_t *from,
                                                       mirk_object *object, const Types &types) {
     std::uint8_t *const area = state_area<R>(h, ctx_id, object);
-    from += record_head;
+    const std::uint8_t *part = from + record_head;
     walk<R>([&]<class F>(F) TARN_INLINE {
         if constexpr (RecordMember<F>) {
-            get_tracked_record<*F::of>(h, ctx_id, from, F::at(object), types);
+            get_tracked_record<*F::of>(h, ctx_id, part, F::at(object), types);
         } else if constexpr (AddressMember<F>) {
             std::uint32_t error = 0;
-            ip_address_unmarshal(h, ctx_id, const_cast<std::uint8_t *>(from), F::at(object), tracked_part<F>, 0,
+            ip_address_unmarshal(h, ctx_id, const_cast<std::uint8_t *>(part), F::at(object), tracked_part<F>, 0,
                                  &error);
         } else {
-            get_member<F, Memory::any>(from, object, types);
+            get_member<F, Memory::any>(part, object, types);
         }
-        from += tracked_part<F>;
-        if constexpr (schema::is_tracked(F::member)) *F::state(area) = *from++;
+        part += tracked_part<F>;
+        if constexpr (schema::is_tracked(F::member)) *F::state(area) = *part++;
     });
     object->tinfo = types[record_number<R>];
 }

@@ -123,9 +123,11 @@ private:
     static constexpr auto class_of_units = [] {
         std::array<uint8_t, largest_cell / unit + 1> classes{};
         uint8_t size_class = 0;
-        for (size_t units = 0; units < classes.size(); ++units) {
-            if (units * unit > cell_sizes[size_class]) ++size_class;
-            classes[units] = size_class;
+        size_t size = 0;
+        for (uint8_t &class_of_size : classes) {
+            if (size > cell_sizes[size_class]) ++size_class;
+            class_of_size = size_class;
+            size += unit;
         }
         return classes;
     }();
