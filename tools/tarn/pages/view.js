@@ -922,7 +922,7 @@ function addHit(key) {
 
 // Looks through all bytes, one slice after the other, so that the page reacts in between on slow machines, too. The clock
 // is read after a number of values; a piece that cannot contain the text is as much work as a part of a value.
-const sliceMilliseconds = 20, perReading = 1000;
+const sliceMilliseconds = 10, perReading = 1000;
 class Scan {
   constructor(wanted, follows) {
     this.wanted = wanted;
