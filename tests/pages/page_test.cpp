@@ -51,7 +51,11 @@ const markedRows = () => [...document.querySelectorAll('.row.marked')].map(r => 
 const selectedRows = () => [...document.querySelectorAll('.row.selected')].map(r => r.dataset.path);
 const type = words => {
   document.getElementById('search').value = words;
+  const later = setTimeout, delayed = [];
+  globalThis.setTimeout = (...all) => delayed.push(all);
   document.getElementById('search').dispatchEvent(new Event('input'));
+  globalThis.setTimeout = later;
+  for (const [work, , ...all] of delayed) work(...all);
 };
 const press = key =>
   document.getElementById('search').dispatchEvent(new KeyboardEvent('keydown', {key, bubbles: true}));

@@ -1060,7 +1060,8 @@ function step(by) {
   showFound();
 }
 
-element('search').addEventListener('input', () => search(true));
+// Later, so that the letter is drawn before.
+element('search').addEventListener('input', () => setTimeout(search, 0, true));
 element('search').addEventListener('keydown', event => {
   if (event.key === 'Enter') step(event.shiftKey ? -1 : 1);
   if (event.key === 'Escape') { element('search').value = ''; search(); enterTree(); }
