@@ -47,11 +47,11 @@ using BusSettings = std::unique_ptr<natsOptions, BusRelease<natsOptions, natsOpt
 // Throws a Failure that names the servers and the reason.
 void check_bus(natsStatus status, const std::string &what);
 
-// A connection reconnects by itself, for ever and to any of the servers.
+// A connection reconnects by itself, without end and to any of the servers.
 BusSettings bus_settings(const BusOptions &options, const std::string &client);
 BusConnection connect_bus(const BusOptions &options, natsOptions *settings);
-// A server that refuses a client twice, such as one whose account is gone, is not tried again, and the connection is
-// closed for ever. Throws a Failure with the reason then.
+// A server that refuses a client twice, such as one whose account is gone, is not tried again, and the connection stays
+// closed. Throws a Failure with the reason then.
 void require_open(const BusOptions &options, natsConnection *connection);
 
 class BusMessage {

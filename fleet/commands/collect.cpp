@@ -216,7 +216,7 @@ private:
         if (http_) {
             for (const std::string &member : metrics_.add(answer)) {
                 log_.line("tarn: " + name + ": more than " + std::to_string(Metrics::most_values) + " values of " +
-                          member + "; the others are no metrics");
+                          member + "; the others are not served");
             }
         }
         const Time ended = time_of(answer.ended);
@@ -305,8 +305,8 @@ void add_collect(CLI::App &app, tool::Context &) {
         "with the prefix latest_, for the last ones.\n\n"
         "With --http, the collector serves metrics in the format of OpenMetrics, for Prometheus,\n"
         "and a page for browsers with all devices of the store, their answers, what changed in\n"
-        "them and their values over time. Whoever reaches the address can read all of that, but\n"
-        "only under that HOST, localhost, or an IP address.\n\n"
+        "them and their values over time. Everyone who can reach the address can read all of that,\n"
+        "but only under that HOST, localhost, or an IP address.\n\n"
         "Examples:\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --store history.db\n"
         "  tarn collect --bus nats://bus:4222 --bundle dp-intf --bundle dp-tt-cfg \\\n"

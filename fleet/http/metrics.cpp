@@ -29,7 +29,7 @@ std::string escaped(std::string_view text) {
 std::string label(std::string_view name, std::string_view value) {
     std::string text(name);
     std::replace(text.begin(), text.end(), '.', '_');
-    // Whoever reads it refuses the whole text if a value is not UTF-8.
+    // Readers refuse the whole text if a value is not UTF-8.
     return text + "=\"" + escaped(tool::printable(value, SIZE_MAX)) + "\"";
 }
 

@@ -16,7 +16,7 @@ namespace tarn::fleet {
 
 class NumericMember {
 public:
-    // "dp-tc.proto", "tc.appl.id". Throws a Failure if there is no such record or member, or if it is no number.
+    // "dp-tc.proto", "tc.appl.id". Throws a Failure if there is no such record or member, or if it is not a number.
     static NumericMember named(std::string_view name);
 
     NumericMember(const NumericMember &) = delete;

@@ -231,7 +231,7 @@ bool Keeper::renew() {
         database_->session() << "SELECT count(*) FROM devices WHERE owner = :me", soci::use(name_, "me"),
             soci::into(own);
         if (own != static_cast<long long>(owned_.size())) {
-            // This collector was thought to be gone. Of devices that it gets back, another one may have stored more.
+            // Its lease ended meanwhile. Of devices that it gets back, another collector may have stored more.
             owned_.clear();
             has_changed = true;
         }

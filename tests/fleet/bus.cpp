@@ -10,6 +10,15 @@
 
 namespace fleet_test {
 
+bool happens(const std::function<bool()> &condition, std::chrono::seconds within) {
+    const auto end = std::chrono::steady_clock::now() + within;
+    while (std::chrono::steady_clock::now() < end) {
+        if (condition()) return true;
+        ::usleep(100'000);
+    }
+    return false;
+}
+
 int free_port() {
     const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in address{};

@@ -3,6 +3,8 @@
 
 #include <nats/nats.h>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -10,6 +12,9 @@
 #include "process.h"
 
 namespace fleet_test {
+
+// Whether the condition becomes true within that time.
+bool happens(const std::function<bool()> &condition, std::chrono::seconds within);
 
 // Of this machine, for a server that cannot choose one itself.
 int free_port();

@@ -28,15 +28,6 @@ using tool_test::Process;
 
 const std::string example = std::string(TARN_EXAMPLES) + "/cl_debug.xml";
 
-bool happens(const std::function<bool()> &condition, std::chrono::seconds within) {
-    const auto end = std::chrono::steady_clock::now() + within;
-    while (std::chrono::steady_clock::now() < end) {
-        if (condition()) return true;
-        ::usleep(100'000);
-    }
-    return false;
-}
-
 std::vector<std::string> arguments_of(const BusServer &bus, const std::string &store,
                                       const std::vector<std::string> &more = {}) {
     std::vector<std::string> all{"collect", "--bus",   bus.url(), "--bundle",  "cl-debug", "--store",

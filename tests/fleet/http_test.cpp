@@ -56,15 +56,6 @@ const std::string tables = std::string(TARN_EXAMPLES) + "/dp_tt_cfg.xml";
 constexpr char host[] = "127.0.0.1";
 constexpr std::chrono::seconds long_enough(60);
 
-bool happens(const std::function<bool()> &condition, std::chrono::seconds within) {
-    const auto end = std::chrono::steady_clock::now() + within;
-    while (std::chrono::steady_clock::now() < end) {
-        if (condition()) return true;
-        ::usleep(100'000);
-    }
-    return false;
-}
-
 // ---- metrics
 
 class MetricsTest : public testing::Test {
